@@ -1,0 +1,153 @@
+#include "core/mrvcoreutil.h"
+
+#include "core/mrverrorline_p.h"
+#include "core/mrvfilewriter.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTextCodec>
+
+namespace {
+
+constexpr int Utf8Mib = 106;
+
+QTextCodec *codecForName(const char *name)
+{
+    return name ? QTextCodec::codecForName(name) : QTextCodec::codecForMib(Utf8Mib);
+}
+
+QString withoutHalfPairs(QString text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (!text.at(i).isSurrogate())
+            continue;
+        const bool isPair =
+            text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair) {
+            ++i;
+        } else {
+            text[i] = QChar(QChar::ReplacementCharacter);
+        }
+    }
+    return text;
+}
+
+// Not QFileInfo::exists() alone, which follows a link and so calls a dangling one free.
+bool isTaken(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+} // namespace
+
+QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, const char *codec)
+{
+    QTextCodec *decoder = codecForName(codec);
+    if (!decoder) {
+        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": unknown text encoding \"%2\""),
+                        path, QString::fromLatin1(codec));
+        return QString();
+    }
+    QString readError;
+    const QByteArray bytes = ReadBinaryFile(path, &readError);
+    if (!readError.isEmpty()) {
+        if (error)
+            *error = readError;
+        return QString();
+    }
+    decoder = QTextCodec::codecForUtfText(bytes, decoder);
+    QTextCodec::ConverterState state;
+    const QString text = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0) {
+        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": it is not valid %2 text"), path,
+                        QString::fromLatin1(decoder->name()));
+        return QString();
+    }
+    return text;
+}
+
+bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path, QString *error,
+                                       const char *codec)
+{
+    const QTextCodec *encoder = codecForName(codec);
+    if (!encoder) {
+        mrvSetErrorLine(error, tr("Cannot write the file \"%1\": unknown text encoding \"%2\""),
+                        path, QString::fromLatin1(codec));
+        return false;
+    }
+    const QString sound = withoutHalfPairs(text);
+    QTextCodec::ConverterState state(encoder->mibEnum() == Utf8Mib ? QTextCodec::IgnoreHeader
+                                                                   : QTextCodec::DefaultConversion);
+    const QByteArray bytes = encoder->fromUnicode(sound.constData(), sound.size(), &state);
+    if (state.invalidChars > 0) {
+        mrvSetErrorLine(
+            error,
+            tr("Cannot write the file \"%1\": the encoding %2 lacks some characters of the text"),
+            path, QString::fromLatin1(encoder->name()));
+        return false;
+    }
+    return MRVFileWriter::write(path, bytes, error);
+}
+
+QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
+{
+    const auto fail = [&](const QString &reason) {
+        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
+        return QByteArray();
+    };
+    // Opening a folder succeeds, and reading it then yields nothing.
+    if (QFileInfo(path).isDir())
+        return fail(tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(path.isEmpty() ? tr("the file has no name") : file.errorString());
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return fail(file.errorString());
+    return bytes;
+}
+
+bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)
+{
+    return MRVFileWriter::write(path, bytes, error);
+}
+
+QString MRVCoreUtil::GetUniqueFileName(const QString &path)
+{
+    if (path.isEmpty() || !isTaken(path))
+        return path;
+
+    QString stem = path;
+    while (stem.size() > 1 && stem.endsWith(QLatin1Char('/')))
+        stem.chop(1);
+    const int nameStart = stem.lastIndexOf(QLatin1Char('/')) + 1;
+    const int dot = stem.lastIndexOf(QLatin1Char('.'));
+    QString suffix;
+    if (dot > nameStart && !QFileInfo(path).isDir()) {
+        suffix = stem.mid(dot);
+        stem.truncate(dot);
+    }
+    const auto numbered = [&](int number) {
+        return stem + QLatin1Char('-') + QString::number(number) + suffix;
+    };
+
+    // Doubling and halving: a thousand pictures of one name must not cost half a million look-ups.
+    int taken = 0;
+    int free = 1;
+    while (isTaken(numbered(free))) {
+        taken = free;
+        free *= 2;
+    }
+    while (free - taken > 1) {
+        const int middle = taken + (free - taken) / 2;
+        (isTaken(numbered(middle)) ? taken : free) = middle;
+    }
+    return numbered(free);
+}
+
+QDate MRVCoreUtil::convertCompileStringDate(const QString &text)
+{
+    return QLocale::c().toDate(text.simplified(), QStringLiteral("MMM d yyyy"));
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "core/mrvcore_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QDate>
+#include <QString>
+
+/**
+ * Whole files, free file names, and a few texts that several rooms read in the same way.
+ *
+ * Where a function takes @p error, it receives one translated line that names the file and the
+ * reason on failure, and is untouched on success: an empty result with an empty error is an empty
+ * file.
+ *
+ * @since 1.0
+ */
+class MRVCORE_EXPORT MRVCoreUtil
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVCoreUtil)
+
+public:
+    MRVCoreUtil() = delete;
+
+    /**
+     * The text of a whole file.
+     *
+     * A byte-order mark is removed, and names the encoding (UTF-8, UTF-16 or UTF-32) whatever
+     * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow make the
+     * call fail, since reading and saving them would change the file.
+     *
+     * @param path  a file or a Qt resource (":/...").
+     * @param codec a name that QTextCodec knows, used where the file has no byte-order mark; null
+     *              means UTF-8.
+     * @return empty on failure.
+     */
+    static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
+                                       const char *codec = "UTF-8");
+
+    /**
+     * Replaces the file at @p path by @p text, through MRVFileWriter.
+     *
+     * UTF-8 is written without a byte-order mark, UTF-16 and UTF-32 with one. Line ends are written
+     * as they are. Half a surrogate pair, which is no character, is written as U+FFFD. An unknown
+     * codec, or a character that the codec does not have, makes the call fail before anything is
+     * written.
+     *
+     * @param codec a name that QTextCodec knows; null means UTF-8.
+     */
+    static bool WriteUnicodeTextFile(const QString &text, const QString &path,
+                                     QString *error = nullptr, const char *codec = "UTF-8");
+
+    /** The bytes of a whole file or Qt resource; empty on failure. */
+    static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
+
+    /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */
+    static bool WriteBinaryFile(const QByteArray &bytes, const QString &path,
+                                QString *error = nullptr);
+
+    /**
+     * @p path itself where nothing bears that name, else the path with a hyphen and a number from 1
+     * up put before the suffix: "cover.png", "cover-1.png", "cover-2.png". The suffix is what
+     * follows the last dot; a name that only begins with a dot, and a folder, have none.
+     *
+     * A symbolic link that leads nowhere counts as a file. The number is the first free one as long
+     * as the numbers in use have no gaps; the search takes steps in the logarithm of their count. An
+     * empty path stays empty. The file is not created, so the name is free only until somebody else
+     * takes it.
+     */
+    static QString GetUniqueFileName(const QString &path);
+
+    /**
+     * The date in a compiler's build-date text such as "Oct  8 2015", whatever the user's language.
+     * Invalid where the text is not of that form.
+     */
+    static QDate convertCompileStringDate(const QString &text);
+
+    /**
+     * A pattern for a web address without a scheme: "www.", at least one more label and a top-level
+     * domain, then a port, path, query and fragment.
+     *
+     * The three patterns serve QRegExp and QRegularExpression alike, match in any case whatever the
+     * case sensitivity set, have neither anchors nor capturing groups, and take time linear in the
+     * text. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
+     * not part of the match, while a path may hold bracketed parts.
+     */
+    static QString wwwPattern();
+
+    /** A pattern for an e-mail address, without "mailto:"; see wwwPattern(). */
+    static QString emailPattern();
+
+    /**
+     * A pattern for an address that begins with "http://", "https://" or "ftp://"; see wwwPattern().
+     * The host may be a name of one label or more, an IPv4 address, or an IPv6 address in brackets.
+     */
+    static QString webUrlPattern();
+};

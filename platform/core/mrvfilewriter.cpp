@@ -1,0 +1,82 @@
+#include "core/mrvfilewriter.h"
+
+#include "core/mrverrorline_p.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace {
+
+// As many links as the kernel follows before it reports a circle.
+constexpr int MaxLinks = 40;
+
+QString realTarget(const QString &path)
+{
+    QFileInfo info(path);
+    for (int i = 0; info.isSymLink(); ++i) {
+        if (i == MaxLinks)
+            return QString();
+        // symLinkTarget() is absolute, also for a link that leads nowhere yet.
+        info.setFile(info.symLinkTarget());
+    }
+    return info.filePath();
+}
+
+// Network and copy-on-write file systems report a full disk only here. Those that cannot sync at
+// all say so, which is no failure.
+bool syncToDisk(int handle)
+{
+    int result;
+    do {
+        result = ::fsync(handle);
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+}
+
+} // namespace
+
+bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
+{
+    const auto fail = [&](const QString &reason) {
+        mrvSetErrorLine(error, tr("Cannot write the file \"%1\": %2"), path, reason);
+        return false;
+    };
+
+    if (path.isEmpty())
+        return fail(tr("the file has no name"));
+    const QString target = realTarget(path);
+    if (target.isEmpty())
+        return fail(tr("its symbolic links lead round in a circle"));
+    const QFileInfo info(target);
+    if (info.isDir() || target.endsWith(QLatin1Char('/')))
+        return fail(tr("it is a folder"));
+    if (info.exists() && !info.isFile())
+        return fail(tr("it is not a regular file"));
+    if (!info.dir().exists())
+        return fail(tr("its folder does not exist"));
+
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly))
+        return fail(file.errorString());
+
+    // commit() alone reports success on a full disk, where the last write came back short and the
+    // buffer could not be flushed.
+    QString reason;
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        reason = file.errorString();
+    } else if (!syncToDisk(file.handle())) {
+        reason = qt_error_string(errno);
+    } else {
+        if (file.commit())
+            return true;
+        return fail(file.errorString());
+    }
+    file.cancelWriting();
+    file.commit();
+    return fail(reason);
+}

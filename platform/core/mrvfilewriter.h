@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/mrvcore_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+/**
+ * The one way in which files are written: whole, or not at all.
+ *
+ * @since 1.0
+ */
+class MRVCORE_EXPORT MRVFileWriter
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVFileWriter)
+
+public:
+    MRVFileWriter() = delete;
+
+    /**
+     * Puts @p bytes in place of the file at @p path, or creates it.
+     *
+     * The bytes go to a temporary file in the same folder, are counted, flushed and synced to the
+     * disk, and only then renamed over the old file. On any failure the old file stands as it was
+     * and no temporary file is left behind.
+     *
+     * The permissions of an existing file are kept. A symbolic link stays a link: the file that it
+     * leads to is replaced, or created where there is none. Refused are an empty path, a folder, a
+     * device, pipe or socket, a file without write permission, a link that leads round in a circle,
+     * and a folder in which no file can be created (writing into the old file itself would risk it).
+     *
+     * @param path  absolute, or relative to the current folder. Its folder must exist.
+     * @param bytes may be empty; the file is then empty.
+     * @param error if given, receives one translated line that names the file and the reason on
+     *              failure; untouched on success.
+     * @return true when the new file is in place.
+     */
+    static bool write(const QString &path, const QByteArray &bytes, QString *error = nullptr);
+};
