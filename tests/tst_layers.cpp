@@ -1,0 +1,586 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QHash>
+#include <QLibraryInfo>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+#include <QtTest>
+
+#include <elf.h>
+
+#include <cstring>
+
+namespace {
+
+// The house rules, all of them: who lies on which floor, and which Qt modules a room may use.
+//
+// A path is relative to the checkout, without its ending and without a "_p"; "*" stands for any
+// run of characters, folders included. The first row that fits counts. A file may include what
+// lies on a lower floor, and on its own floor only its own room (the folder below base/ or
+// platform/), there nothing of a higher step. A file that no row fits is a fault.
+struct Room
+{
+    const char *path;
+    int floor;
+    int step;
+    const char *modules; // Qt modules, and the names of other libraries' headers
+};
+
+constexpr int ProgramFloor = 10;
+constexpr const char *AnyModule = "*";
+
+// clang-format off
+constexpr Room rooms[] = {
+    { "platform/core/*",                        -2, 0, "Core" },
+    { "platform/gui/*",                         -1, 0, "Core Gui" },
+    { "platform/network/*",                     -1, 0, "Core Network" },
+
+    { "base/util/mrvbase_export",                0, 0, "Core" },
+    { "base/util/*",                             1, 0, "Core Gui" },
+    { "base/dom/*",                              1, 0, "Core Xml" },
+    { "base/autoreplace/*",                      1, 0, "Core Gui" },
+    { "base/text/engine/*",                      1, 0, "Core Gui" },
+    { "base/text/mrvtextformat*",                1, 0, "Core Gui" },
+    { "base/text/mrvtextcharformat*",            1, 0, "Core Gui" },
+    { "base/text/mrvtextblockformat*",           1, 0, "Core Gui" },
+    { "base/text/mrvtextutil*",                  1, 0, "Core Gui" },
+    { "base/settings/mrvshortcutscheme*",        1, 0, "Core Gui" },
+    { "base/importexport/mrvimportexportconfig*", 4, 0, "Core Gui" },
+    { "base/importexport/*",                     1, 0, "Core Gui" },
+    { "base/web/mversion",                       1, 0, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvdownloadurl",                 1, 0, "Core Gui Network Xml Widgets" },
+    { "base/ui/*",                               1, 0, "Core Gui Network Xml Widgets" },
+
+    { "base/text/mtextdoc*",                     4, 0, "Core Gui" },
+    { "base/text/*",                             2, 0, "Core Gui" },
+    { "base/settings/mrvtextpresetmgr*",         4, 0, "Core Gui" },
+    { "base/settings/mrvapplicationstate*",      4, 0, "Core Gui" },
+    { "base/settings/mrvtextpreset*",            2, 0, "Core Gui" },
+    { "base/settings/mrvsettings*",              2, 1, "Core Gui" },
+
+    { "base/search/*",                           3, 0, "Core Gui" },
+    { "base/script/*",                           3, 0, "Core Gui" },
+    { "base/settings/mrvoptions*",               3, 0, "Core Gui" },
+    { "base/web/mrvupdatemodel*",                3, 0, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvcheckforupdatesdialog*",      3, 1, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvupdatedownloader*",           3, 2, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvupdatemanager*",              3, 3, "Core Gui Network Xml Widgets" },
+
+    { "base/export/*",                           5, 0, "Core Gui KZip KArchive" },
+
+    { "plugins/webview/*",            ProgramFloor, 0, "Core Gui Network Widgets WebKit WebKitWidgets" },
+    { "cli/*",                        ProgramFloor, 0, AnyModule },
+    { "examples/*",                   ProgramFloor, 0, AnyModule },
+    { "tests/*",                      ProgramFloor, 0, AnyModule },
+    { "benchmarks/*",                 ProgramFloor, 0, AnyModule },
+    { "fuzz/*",                       ProgramFloor, 0, AnyModule },
+};
+// clang-format on
+
+struct Include
+{
+    QString name;
+    bool quoted; // "name", not <name>
+    int line;
+};
+
+QString moduleFolders()
+{
+    return QLibraryInfo::location(QLibraryInfo::HeadersPath);
+}
+
+/// The Qt modules that publish a header: "QImage" and "QtGui/QImage" both give {"Gui"}.
+QStringList qtModules(const QString &header)
+{
+    static const QStringList folders =
+        QDir(moduleFolders()).entryList({"Qt*"}, QDir::Dirs, QDir::Name);
+    QStringList modules;
+    for (const QString &folder : folders) {
+        if (header.startsWith(folder + '/')
+            || QFile::exists(moduleFolders() + '/' + folder + '/' + header)) {
+            modules.append(folder.mid(2));
+        }
+    }
+    return modules;
+}
+
+/// The includes of a source text. Those inside block comments do not count.
+QVector<Include> includesOf(QString text)
+{
+    static const QRegularExpression comment("/\\*.*?\\*/",
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression include(
+        "^\\s*#\\s*include\\s*(?:([<\"])([^>\"]*)[>\"]|(\\S+))");
+    for (auto it = comment.globalMatch(QString(text)); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        for (int i = match.capturedStart(); i < match.capturedEnd(); ++i) {
+            if (text.at(i) != '\n')
+                text[i] = ' ';
+        }
+    }
+    QVector<Include> includes;
+    int number = 0;
+    const QStringList lines = text.split('\n');
+    for (const QString &line : lines) {
+        ++number;
+        const QRegularExpressionMatch match = include.match(line);
+        if (match.hasMatch()) {
+            includes.append({match.captured(2) + match.captured(3),
+                             match.captured(1) != QLatin1String("<"), number});
+        }
+    }
+    return includes;
+}
+
+/// Checks a set of source files, given as path (from the checkout) and text, against the rules.
+class LayerCheck
+{
+public:
+    explicit LayerCheck(const QMap<QString, QString> &sources)
+        : m_sources(sources)
+    {
+        for (auto it = sources.cbegin(); it != sources.cend(); ++it) {
+            checkFile(it.key(), it.value());
+        }
+        checkCircles();
+    }
+
+    QStringList faults() const { return m_faults; }
+
+private:
+    /// A header, its .cpp and its private header are one unit: "base/text/mrvtextrange".
+    static QString unitOf(const QString &path)
+    {
+        QString unit = path.left(path.lastIndexOf('.'));
+        if (unit.endsWith("_p")) {
+            unit.chop(2);
+        }
+        return unit;
+    }
+
+    /// The first two folders of the library's files, the first one of all others.
+    static QString roomOf(const QString &path)
+    {
+        const bool library = path.startsWith("base/") || path.startsWith("platform/");
+        return path.section('/', 0, library ? 1 : 0);
+    }
+
+    static const Room *rowOf(const QString &path)
+    {
+        const QString unit = unitOf(path);
+        for (const Room &room : rooms) {
+            QString pattern = QRegularExpression::escape(QLatin1String(room.path));
+            pattern.replace("\\*", ".*");
+            if (QRegularExpression(QRegularExpression::anchoredPattern(pattern))
+                    .match(unit)
+                    .hasMatch()) {
+                return &room;
+            }
+        }
+        return nullptr;
+    }
+
+    /// The file that an include names, or nothing. The library's files are named from base/ or
+    /// platform/; only a program may name a neighbour.
+    QString resolve(const QString &from, const QString &name, const Room &room) const
+    {
+        QStringList roots{"base/", "platform/"};
+        if (room.floor == ProgramFloor) {
+            roots.prepend(from.left(from.lastIndexOf('/') + 1));
+            roots.append(from.section('/', 0, 0) + '/');
+        }
+        for (const QString &root : qAsConst(roots)) {
+            const QString path = QDir::cleanPath(root + name);
+            if (m_sources.contains(path))
+                return path;
+        }
+        return QString();
+    }
+
+    void checkFile(const QString &path, const QString &text)
+    {
+        const Room *room = rowOf(path);
+        if (!room) {
+            m_faults.append(path + ": lies on no floor");
+            return;
+        }
+        const QVector<Include> includes = includesOf(text);
+        for (const Include &include : includes) {
+            const QString target = resolve(path, include.name, *room);
+            const QString fault = target.isEmpty() ? foreignFault(path, include, *room)
+                                                   : floorFault(path, target, *room);
+            if (!fault.isEmpty()) {
+                m_faults.append(QStringLiteral("%1:%2: %3: %4")
+                                    .arg(path, QString::number(include.line), include.name, fault));
+            }
+            if (!target.isEmpty() && unitOf(target) != unitOf(path)) {
+                m_uses[unitOf(path)].insert(unitOf(target));
+            }
+        }
+    }
+
+    static QString floorFault(const QString &from, const QString &to, const Room &room)
+    {
+        const Room *target = rowOf(to);
+        if (!target)
+            return "lies on no floor";
+        const bool sameRoom = roomOf(from) == roomOf(to);
+        // A test may compile a private piece of the library into itself.
+        const bool maySeePrivate = from.startsWith("tests/") || from.startsWith("fuzz/");
+        if (to.endsWith("_p.h") && !sameRoom && !maySeePrivate)
+            return "private to another room";
+        if (target->floor > room.floor)
+            return "points up";
+        if (target->floor == room.floor && !sameRoom)
+            return "points across the floor";
+        if (target->floor == room.floor && target->step > room.step)
+            return "points up within its room";
+        return QString();
+    }
+
+    static QString foreignFault(const QString &from, const Include &include, const Room &room)
+    {
+        const QString &name = include.name;
+        const QString file = name.section('/', -1);
+        const QString own = unitOf(from).section('/', -1);
+        if (file.startsWith("ui_"))
+            return file == "ui_" + own + ".h" ? QString() : "form of another dialog";
+        if (name == own + ".moc")
+            return QString();
+        if (name.contains("/private/") || name.startsWith("private/"))
+            return "private to Qt";
+        if (include.quoted)
+            return "found neither from base/ nor from platform/";
+        const QStringList allowed = QString::fromLatin1(room.modules).split(' ');
+        if (allowed.contains(AnyModule) || allowed.contains(name))
+            return QString();
+        const QStringList modules = qtModules(name);
+        for (const QString &module : modules) {
+            if (allowed.contains(module))
+                return QString();
+        }
+        if (!modules.isEmpty())
+            return "module " + modules.join('/') + " is not for this room";
+        // Without a capital it is the language's or the system's.
+        static const QRegularExpression system("^[a-z0-9_/]+(\\.h)?$");
+        return system.match(name).hasMatch() ? QString() : "library is not for this room";
+    }
+
+    /// Depth first over the units; a unit met again on the way down closes a circle.
+    void checkCircles()
+    {
+        QSet<QString> done;
+        const QStringList units = sorted(m_uses.keys());
+        for (const QString &unit : units) {
+            QStringList way;
+            follow(unit, &way, &done);
+        }
+    }
+
+    void follow(const QString &unit, QStringList *way, QSet<QString> *done)
+    {
+        const int met = way->indexOf(unit);
+        if (met >= 0) {
+            m_faults.append("circle: " + (way->mid(met) + QStringList{unit}).join(" -> "));
+            return;
+        }
+        if (done->contains(unit))
+            return;
+        way->append(unit);
+        const QStringList next = sorted(m_uses.value(unit).values());
+        for (const QString &used : next) {
+            follow(used, way, done);
+        }
+        way->removeLast();
+        done->insert(unit);
+    }
+
+    static QStringList sorted(QStringList list)
+    {
+        list.sort();
+        return list;
+    }
+
+    QMap<QString, QString> m_sources;
+    QHash<QString, QSet<QString>> m_uses;
+    QStringList m_faults;
+};
+
+/// All sources of the checkout that belong to a room. The package test's project is a stranger's.
+QMap<QString, QString> checkoutSources()
+{
+    QMap<QString, QString> sources;
+    const QDir root(MRV_SOURCE_DIR);
+    for (const char *top :
+         {"platform", "base", "plugins", "cli", "examples", "tests", "benchmarks", "fuzz"}) {
+        QDirIterator it(root.filePath(top), {"*.h", "*.cpp"}, QDir::Files,
+                        QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            QFile file(it.next());
+            const QString path = root.relativeFilePath(file.fileName());
+            if (!path.startsWith("tests/package/") && file.open(QIODevice::ReadOnly)) {
+                sources.insert(path, QString::fromUtf8(file.readAll()));
+            }
+        }
+    }
+    return sources;
+}
+
+/// Number of entries that the dynamic linker calls when it loads an ELF file, or -1 when the file
+/// is not one for this machine.
+int startUpEntries(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    const QByteArray bytes = file.readAll();
+    Elf64_Ehdr header;
+    if (bytes.size() < int(sizeof header))
+        return -1;
+    memcpy(&header, bytes.constData(), sizeof header);
+    if (memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != ELFCLASS64)
+        return -1;
+    quint64 size = 0;
+    for (int i = 0; i < header.e_shnum; ++i) {
+        Elf64_Shdr section;
+        const quint64 place = header.e_shoff + quint64(i) * header.e_shentsize;
+        if (place + sizeof section > quint64(bytes.size()))
+            return -1;
+        memcpy(&section, bytes.constData() + place, sizeof section);
+        if (section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_PREINIT_ARRAY) {
+            size += section.sh_size;
+        }
+    }
+    return int(size / sizeof(Elf64_Addr));
+}
+
+/// What the library must not have: an object whose constructor runs when the program is loaded.
+/// The count of this very program shows that startUpEntries() sees it.
+const QString plantedGlobal = QString::number(1);
+
+} // namespace
+
+/// The rooms, the floors and the start-up code of the library.
+class TestLayers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void checkerRefusesFaults_data();
+    void checkerRefusesFaults();
+    void checkerAcceptsTheRest_data();
+    void checkerAcceptsTheRest();
+    void checkoutKeepsTheRules();
+    void startUpCode_data();
+    void startUpCode();
+};
+
+/// A row's sources: "file: include include; file: include". An include of a project file without
+/// brackets is quoted.
+static QMap<QString, QString> invented(const QString &text)
+{
+    QMap<QString, QString> sources;
+    const QStringList files = text.split(';');
+    for (const QString &file : files) {
+        const QString path = file.section(':', 0, 0).trimmed();
+        const QStringList names = file.section(':', 1).simplified().split(' ', Qt::SkipEmptyParts);
+        QString content = "#pragma once\n";
+        for (const QString &name : names) {
+            content +=
+                name.startsWith('<') ? "#include " + name + '\n' : "#  include \"" + name + "\"\n";
+        }
+        sources.insert(path, content);
+    }
+    return sources;
+}
+
+void TestLayers::checkerRefusesFaults_data()
+{
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<QString>("fault");
+
+    QTest::newRow("up") << "base/text/mrvtextrange.h: text/mtextdoc.h; base/text/mtextdoc.h:"
+                        << "points up";
+    QTest::newRow("finder-up") << "base/search/mrvtextfinder.cpp: text/mtextdoclinks.h;"
+                                  "base/text/mtextdoclinks.h:"
+                               << "points up";
+    QTest::newRow("options-up")
+        << "base/settings/mrvoptions.cpp: importexport/mrvimportexportconfig.h;"
+           "base/importexport/mrvimportexportconfig.h:"
+        << "points up";
+    QTest::newRow("preset-manager-is-above-preset")
+        << "base/settings/mrvtextpreset.cpp: settings/mrvtextpresetmgr.h;"
+           "base/settings/mrvtextpresetmgr.h:"
+        << "points up";
+    QTest::newRow("across-floor-1") << "base/dom/mrvdomdoc.cpp: util/mrvnames.h;"
+                                       "base/util/mrvnames.h:"
+                                    << "points across the floor";
+    QTest::newRow("across-floor-2") << "base/settings/mrvsettings.h: text/mrvtextrange.h;"
+                                       "base/text/mrvtextrange.h:"
+                                    << "points across the floor";
+    QTest::newRow("across-by-angle") << "base/script/mrvscriptmode.h: <search/mrvtextfinder.h>;"
+                                        "base/search/mrvtextfinder.h:"
+                                     << "points across the floor";
+    QTest::newRow("preset-to-settings") << "base/settings/mrvtextpreset.h: settings/mrvsettings.h;"
+                                           "base/settings/mrvsettings.h:"
+                                        << "points up within its room";
+    QTest::newRow("model-to-dialog")
+        << "base/web/mrvupdatemodel.cpp: web/mrvcheckforupdatesdialog.h;"
+           "base/web/mrvcheckforupdatesdialog.h:"
+        << "points up within its room";
+    QTest::newRow("platform-to-base") << "platform/core/mrvcore.cpp: util/mrvnames.h;"
+                                         "base/util/mrvnames.h:"
+                                      << "points up";
+    QTest::newRow("core-to-gui") << "platform/core/mrvcore.cpp: gui/mrvguiutil.h;"
+                                    "platform/gui/mrvguiutil.h:"
+                                 << "points up";
+    QTest::newRow("gui-to-network") << "platform/gui/mrvguiutil.cpp: network/mrvnetwork.h;"
+                                       "platform/network/mrvnetwork.h:"
+                                    << "points across the floor";
+    QTest::newRow("library-to-program") << "base/export/a.cpp: ../cli/tool.h; cli/tool.h:"
+                                        << "points up";
+    QTest::newRow("library-to-program-by-room") << "base/export/a.cpp: tool.h; cli/tool.h:"
+                                                << "found neither";
+
+    QTest::newRow("core-uses-gui") << "platform/core/mrvcoreutil.cpp: <QImage>"
+                                   << "module Gui";
+    QTest::newRow("core-uses-gui-by-folder") << "platform/core/mrvcoreutil.cpp: <QtGui/QImage>"
+                                             << "module Gui";
+    QTest::newRow("core-uses-whole-gui") << "platform/core/mrvcoreutil.cpp: <QtGui>"
+                                         << "module Gui";
+    QTest::newRow("dom-uses-gui") << "base/dom/mrvdomdoc.h: <QColor>"
+                                  << "module Gui";
+    QTest::newRow("text-uses-xml") << "base/text/mtextdoc.cpp: <QDomDocument>"
+                                   << "module Xml";
+    QTest::newRow("export-uses-network") << "base/export/a.cpp: <QNetworkReply>"
+                                         << "module Network";
+    QTest::newRow("widget-in-settings") << "base/settings/mrvoptions.cpp: <QWidget>"
+                                        << "module Widgets";
+    QTest::newRow("widget-in-text-by-old-name") << "base/text/mtextdoc.cpp: <qlabel.h>"
+                                                << "module Widgets";
+    QTest::newRow("private-qt") << "base/text/mtextdoc.cpp: <private/qtextdocument_p.h>"
+                                << "private to Qt";
+    QTest::newRow("packer-outside-export") << "base/text/mtextdoc.cpp: <KZip>"
+                                           << "library is not for this room";
+
+    QTest::newRow("form-of-another")
+        << "base/web/mrvupdatemanager.cpp: ui_mrvcheckforupdatesdialog.h"
+        << "form of another dialog";
+    QTest::newRow("private-header-of-another-room")
+        << "base/settings/mrvoptions.cpp: importexport/mrvenginetables_p.h;"
+           "base/importexport/mrvenginetables_p.h:"
+        << "private to another room";
+    QTest::newRow("private-header-in-tool") << "cli/main.cpp: text/mtextdoc_p.h;"
+                                               "base/text/mtextdoc_p.h:"
+                                            << "private to another room";
+    QTest::newRow("neighbour-by-bare-name") << "base/text/mrvtextcursor.cpp: mrvtextrange.h;"
+                                               "base/text/mrvtextrange.h:"
+                                            << "found neither";
+    QTest::newRow("unknown-room") << "base/misc/helpers.h:"
+                                  << "lies on no floor";
+    QTest::newRow("loose-file") << "base/settings/helpers.h:"
+                                << "lies on no floor";
+
+    QTest::newRow("circle-of-headers") << "base/util/a.h: util/b.h; base/util/b.h: util/a.h"
+                                       << "circle: base/util/a -> base/util/b -> base/util/a";
+    QTest::newRow("circle-through-cpp")
+        << "base/util/a.h:; base/util/b.h:; base/util/a.cpp: util/a.h util/b.h;"
+           "base/util/b.cpp: util/b.h util/a.h"
+        << "circle: base/util/a -> base/util/b -> base/util/a";
+    QTest::newRow("circle-through-private-header")
+        << "base/text/a.h:; base/text/a_p.h: text/c.h; base/text/b.h:;"
+           "base/text/b.cpp: text/b.h text/a_p.h; base/text/c.h: text/b.h"
+        << "circle: base/text/a -> base/text/c -> base/text/b -> base/text/a";
+    QTest::newRow("circle-in-tool") << "cli/a.h: b.h; cli/b.h: a.h"
+                                    << "circle: cli/a -> cli/b -> cli/a";
+}
+
+void TestLayers::checkerRefusesFaults()
+{
+    QFETCH(QString, files);
+    QFETCH(QString, fault);
+    const QStringList faults = LayerCheck(invented(files)).faults();
+    QVERIFY2(faults.size() == 1, qPrintable(faults.join('\n')));
+    QVERIFY2(faults.first().contains(fault), qPrintable(faults.first()));
+}
+
+void TestLayers::checkerAcceptsTheRest_data()
+{
+    QTest::addColumn<QString>("files");
+
+    QTest::newRow("own-header") << "base/util/a.cpp: util/a.h; base/util/a.h:";
+    QTest::newRow("own-private-header")
+        << "base/text/a.cpp: text/a.h text/a_p.h; base/text/a.h:; base/text/a_p.h:";
+    QTest::newRow("own-room-own-floor") << "base/util/a.cpp: util/b.h; base/util/b.h:";
+    QTest::newRow("export-macro-on-floor-1")
+        << "base/dom/mrvdomdoc.h: util/mrvbase_export.h; base/util/mrvbase_export.h: <QtGlobal>";
+    QTest::newRow("base-to-platform")
+        << "base/util/mrvnames.cpp: core/mrvcoreutil.h; platform/core/mrvcoreutil.h:";
+    QTest::newRow("down") << "base/export/a.cpp: text/mtextdoc.h util/a.h;"
+                             "base/text/mtextdoc.h: search/mrvtextfinder.h;"
+                             "base/search/mrvtextfinder.h: text/mrvtextrange.h;"
+                             "base/text/mrvtextrange.h: text/mrvtextformat.h;"
+                             "base/text/mrvtextformat.h:; base/util/a.h:";
+    QTest::newRow("settings-to-preset")
+        << "base/settings/mrvsettings.h: settings/mrvtextpreset.h; base/settings/mrvtextpreset.h:";
+    QTest::newRow("options-to-formats") << "base/settings/mrvoptions.cpp: importexport/mrvformat.h;"
+                                           "base/importexport/mrvformat.h:";
+    QTest::newRow("update-chain")
+        << "base/web/mrvupdatemanager.cpp: web/mrvupdatedownloader.h;"
+           "base/web/mrvupdatedownloader.h: web/mrvcheckforupdatesdialog.h;"
+           "base/web/mrvcheckforupdatesdialog.h: web/mrvupdatemodel.h;"
+           "base/web/mrvupdatemodel.h: web/mversion.h; base/web/mversion.h:";
+    QTest::newRow("own-form") << "base/web/mrvcheckforupdatesdialog.cpp:"
+                                 " ui_mrvcheckforupdatesdialog.h <QLabel>";
+    QTest::newRow("own-moc") << "tests/tst_a.cpp: tst_a.moc";
+    QTest::newRow("modules") << "base/text/mtextdoc.cpp: <QTextDocument> <QString> <algorithm>"
+                                " <sys/stat.h> <cmath>";
+    QTest::newRow("xml-in-dom") << "base/dom/mrvdomdoc.h: <QDomDocument>";
+    QTest::newRow("packer-in-export") << "base/export/a.cpp: <KZip>";
+    QTest::newRow("widget-in-sample") << "examples/editor/main.cpp: <QMainWindow> window.h;"
+                                         "examples/editor/window.h:";
+    QTest::newRow("private-piece-in-test") << "tests/tst_a.cpp: text/a_p.h; base/text/a_p.h:";
+    QTest::newRow("diamond") << "base/util/a.h: util/b.h util/c.h; base/util/b.h: util/d.h;"
+                                "base/util/c.h: util/d.h; base/util/d.h:";
+}
+
+void TestLayers::checkerAcceptsTheRest()
+{
+    QFETCH(QString, files);
+    const QStringList faults = LayerCheck(invented(files)).faults();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+}
+
+void TestLayers::checkoutKeepsTheRules()
+{
+    const QMap<QString, QString> sources = checkoutSources();
+    QVERIFY(sources.contains("base/util/mrvbase_export.h"));
+    QVERIFY(sources.contains("tests/tst_layers.cpp"));
+    const QStringList faults = LayerCheck(sources).faults();
+    QVERIFY2(faults.isEmpty(), qPrintable('\n' + faults.join('\n')));
+}
+
+void TestLayers::startUpCode_data()
+{
+    QTest::addColumn<QString>("library");
+    for (const char *name : {"MrvCore", "MrvGui", "MrvNetwork", "MrvBase"}) {
+        QTest::newRow(name) << QStringLiteral(MRV_BINARY_DIR "/lib/lib%1.so.1").arg(name);
+    }
+}
+
+/// The one entry that is left is the compiler's own, in every shared library (frame_dummy).
+void TestLayers::startUpCode()
+{
+#ifdef MRV_SANITIZE
+    QSKIP("the sanitizers add start-up code of their own to every library");
+#endif
+    QFETCH(QString, library);
+    QVERIFY(!plantedGlobal.isEmpty());
+    QVERIFY(startUpEntries(QCoreApplication::applicationFilePath()) > 1);
+    QCOMPARE(startUpEntries(library), 1);
+}
+
+QTEST_GUILESS_MAIN(TestLayers)
+#include "tst_layers.moc"
