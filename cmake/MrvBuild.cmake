@@ -11,6 +11,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
+# What is installed finds the libraries from where it lies, so that an installation may be moved as a whole. For
+# a package in the system's own folders, configure with -DCMAKE_SKIP_INSTALL_RPATH=ON.
+file(RELATIVE_PATH lib_from_bin "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
+
 add_library(mrv_options INTERFACE)
 target_compile_options(mrv_options INTERFACE -Wall -Wextra -Wshadow -Wsuggest-override -Werror)
 target_compile_definitions(mrv_options INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH)
@@ -40,7 +45,8 @@ function(mrv_add_library target)
   add_library(${target} SHARED ${ARG_SOURCES})
   add_library(MrvBase::${target} ALIAS ${target})
   string(TOUPPER ${target} upper)
-  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                                             INSTALL_RPATH "$ORIGIN")
   target_compile_definitions(${target} PRIVATE ${upper}_BUILD)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:mrv_strict>)
   target_include_directories(

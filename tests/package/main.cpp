@@ -1,0 +1,20 @@
+#include "core/mrvcoreutil.h"
+#include "gui/mrvguiutil.h"
+#include "network/mrvnetwork.h"
+#include "util/mrvmimetypes.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+/// Prints a line from each library, and one that needs the library's resource files.
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    out << "core " << MRVCoreUtil::convertCompileStringDate("Oct  8 2015").toString(Qt::ISODate)
+        << '\n';
+    out << "gui " << MRVGuiUtil::textColorForBackground(Qt::black).name() << '\n';
+    out << "network " << (MrvNetwork::isNetworkConnected() ? "up\n" : "down\n");
+    out << "base " << QStringList(MRV::mimeTypeForSuffix("pdf").values()).join(' ') << '\n';
+    return 0;
+}
