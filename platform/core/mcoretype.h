@@ -9,6 +9,7 @@
 #include <QMap>
 #include <QPair>
 #include <QString>
+#include <QStringList>
 
 /**
  * Values as text and as bytes.
@@ -51,8 +52,8 @@ public:
     /**
      * Reads what toByteArray() wrote; bytes that follow are ignored. Maps accept any order.
      *
-     * @return a default-constructed T where the bytes are empty, end too early, or hold a count that
-     * the bytes after it cannot fill: no memory is taken on the word of a count.
+     * @return a default-constructed T where the bytes are empty, end too early, or hold a map or
+     * list whose count the bytes after it cannot fill: no memory is taken on the word of a count.
      */
     template<typename T>
     static T fromByteArray(const QByteArray &bytes)
@@ -110,6 +111,10 @@ private:
                 return;
             list->append(value);
         }
+    }
+    static void read(QDataStream &stream, QStringList *list)
+    {
+        read(stream, static_cast<QList<QString> *>(list));
     }
 
     // The count of a map or list, or 0 with a bad status where more entries are promised than bytes.

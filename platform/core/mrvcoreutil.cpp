@@ -8,9 +8,20 @@
 #include <QLocale>
 #include <QTextCodec>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
+// IANA's numbers of the encodings that hold every character, each UTF family in its three orders.
 constexpr int Utf8Mib = 106;
+constexpr int Utf16Mibs[] = {1013, 1014, 1015};
+constexpr int Utf32Mibs[] = {1017, 1018, 1019};
+
+bool isOneOf(int mib, const int (&mibs)[3])
+{
+    return std::find(std::begin(mibs), std::end(mibs), mib) != std::end(mibs);
+}
 
 QTextCodec *codecForName(const char *name)
 {
@@ -31,6 +42,22 @@ QString withoutHalfPairs(QString text)
         }
     }
     return text;
+}
+
+bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
+{
+    const int mib = codec.mibEnum();
+    QTextCodec::ConverterState state(mib == Utf8Mib ? QTextCodec::IgnoreHeader
+                                                    : QTextCodec::DefaultConversion);
+    *bytes = codec.fromUnicode(text.constData(), text.size(), &state);
+    if (isOneOf(mib, Utf32Mibs)) {
+        // Qt's encoder leaves four bytes of rubbish at the end for every surrogate pair.
+        bytes->truncate(4 * (1 + text.toUcs4().size()));
+    } else if (mib != Utf8Mib && !isOneOf(mib, Utf16Mibs)) {
+        // invalidChars does not tell of all losses: some encoders keep back the last character.
+        return codec.toUnicode(*bytes) == text;
+    }
+    return true;
 }
 
 // Not QFileInfo::exists() alone, which follows a link and so calls a dangling one free.
@@ -77,11 +104,8 @@ bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path,
                         path, QString::fromLatin1(codec));
         return false;
     }
-    const QString sound = withoutHalfPairs(text);
-    QTextCodec::ConverterState state(encoder->mibEnum() == Utf8Mib ? QTextCodec::IgnoreHeader
-                                                                   : QTextCodec::DefaultConversion);
-    const QByteArray bytes = encoder->fromUnicode(sound.constData(), sound.size(), &state);
-    if (state.invalidChars > 0) {
+    QByteArray bytes;
+    if (!encode(withoutHalfPairs(text), *encoder, &bytes)) {
         mrvSetErrorLine(
             error,
             tr("Cannot write the file \"%1\": the encoding %2 lacks some characters of the text"),
@@ -97,12 +121,14 @@ QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
         mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
         return QByteArray();
     };
+    if (path.isEmpty())
+        return fail(tr("the file has no name"));
     // Opening a folder succeeds, and reading it then yields nothing.
     if (QFileInfo(path).isDir())
         return fail(tr("it is a folder"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return fail(path.isEmpty() ? tr("the file has no name") : file.errorString());
+        return fail(file.errorString());
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return fail(file.errorString());

@@ -38,6 +38,19 @@ bool syncToDisk(int handle)
     return result == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
+// A disk that fills up takes a part of the bytes without an error; only the next write has one.
+bool writeAll(QFileDevice &file, const QByteArray &bytes)
+{
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return file.flush();
+}
+
 } // namespace
 
 bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
@@ -61,13 +74,13 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
         return fail(tr("its folder does not exist"));
 
     QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return fail(file.errorString());
 
     // commit() alone reports success on a full disk, where the last write came back short and the
     // buffer could not be flushed.
     QString reason;
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
+    if (!writeAll(file, bytes)) {
         reason = file.errorString();
     } else if (!syncToDisk(file.handle())) {
         reason = qt_error_string(errno);

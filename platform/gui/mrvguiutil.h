@@ -23,7 +23,7 @@ public:
     MRVGuiUtil() = delete;
 
     /**
-     * The id of a picture: "img-" and 64 hexadecimal digits, a hash of its size and pixels.
+     * The id of a picture: "img-" and 40 hexadecimal digits, the SHA-1 hash of its size and pixels.
      *
      * Pictures with the same pixels have the same id whatever their QImage format; resolution,
      * texts, colour space and device pixel ratio do not count. Pictures of more than eight bits a

@@ -11,7 +11,7 @@ constexpr struct
     const char *alias;
     const char *name;
 } Aliases[] = {
-    {"JFIF", "JPG"}, {"JPE", "JPG"}, {"JPEG", "JPG"}, {"SVGZ", "SVG"}, {"TIFF", "TIF"},
+    {"JPEG", "JPG"}, {"JPE", "JPG"}, {"JFIF", "JPG"}, {"TIFF", "TIF"}, {"SVGZ", "SVG"},
 };
 
 QString formatName(const QByteArray &pluginName)
