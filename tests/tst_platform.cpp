@@ -16,7 +16,11 @@
 #include <csignal>
 #include <limits>
 
+#include <arpa/inet.h>
+#include <net/if.h>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -131,6 +135,7 @@ private Q_SLOTS:
     void systemLanguage();
     void applicationIdentity();
     void networkNeedsMoreThanLoopback();
+    void routeMeansNetwork();
 };
 
 void TestPlatform::init()
@@ -226,13 +231,19 @@ void TestPlatform::writesThroughLinks_data()
     QTest::newRow("link") << true << "link";
     QTest::newRow("link-to-link") << true << "link2";
     QTest::newRow("leads-nowhere-yet") << false << "link";
+    QTest::newRow("up-from-linked-folder") << true << "way/uplink";
+    QTest::newRow("up-to-nowhere-yet") << false << "way/uplink";
 }
 
 void TestPlatform::writesThroughLinks()
 {
     QFETCH(bool, exists);
     QFETCH(QString, link);
-    QVERIFY(QDir(m_dir.path()).mkdir("real"));
+    // "way/.." is the folder "deep", not the one that holds "way".
+    QVERIFY(QDir(m_dir.path()).mkpath("deep/folder"));
+    QVERIFY(QDir(m_dir.path()).mkpath("real"));
+    QCOMPARE(::symlink("deep/folder", qPrintable(path("way"))), 0);
+    QCOMPARE(::symlink("../../real/novel", qPrintable(path("deep/folder/uplink"))), 0);
     if (exists)
         put(path("real/novel"), "old");
     QCOMPARE(::symlink("real/novel", qPrintable(path("link"))), 0);
@@ -808,17 +819,44 @@ void TestPlatform::applicationIdentity()
     QVERIFY(MrvCore::supportEmail().endsWith(".example"));
 }
 
-// A process in a network of its own sees nothing but the loopback.
+// A process in a network of its own sees nothing but the loopback, which it brings up.
 void TestPlatform::networkNeedsMoreThanLoopback()
 {
     QProcess process;
     process.start("unshare",
                   {"--user", "--map-root-user", "--net", QCoreApplication::applicationFilePath(),
-                   "--print-network"});
+                   "--print-network-of-loopback"});
     QVERIFY(process.waitForFinished());
     if (process.exitCode() != 0)
         QSKIP("no network namespace can be made here");
     QCOMPARE(process.readAllStandardOutput(), QByteArray("down\n"));
+}
+
+// Connecting a datagram socket sends nothing; it succeeds where there is a way to other networks.
+void TestPlatform::routeMeansNetwork()
+{
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(9);
+    inet_pton(AF_INET, "192.0.2.1", &address.sin_addr);
+    const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+    const bool hasRoute =
+        ::connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    ::close(socket);
+    if (!hasRoute)
+        QSKIP("this machine has no network");
+    QVERIFY(MrvNetwork::isNetworkConnected());
+}
+
+static bool bringUpLoopback()
+{
+    ifreq request{};
+    qstrncpy(request.ifr_name, "lo", IFNAMSIZ);
+    request.ifr_flags = IFF_UP | IFF_RUNNING;
+    const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+    const bool done = ::ioctl(socket, SIOCSIFFLAGS, &request) == 0;
+    ::close(socket);
+    return done;
 }
 
 int main(int argc, char *argv[])
@@ -829,7 +867,9 @@ int main(int argc, char *argv[])
         puts(qPrintable(MTranslator::systemGuiLanguageCode()));
         return 0;
     }
-    if (task == "--print-network") {
+    if (task == "--print-network-of-loopback") {
+        if (!bringUpLoopback())
+            return 1;
         puts(MrvNetwork::isNetworkConnected() ? "up" : "down");
         return 0;
     }

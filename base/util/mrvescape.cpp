@@ -4,70 +4,58 @@ namespace {
 
 constexpr int MaxTooltipLength = 100;
 
-} // namespace
-
-QString MRV::toHtmlEncoded(const QString &text)
+// The entity for a character that needs one, else an empty text.
+QLatin1String entity(QChar c)
 {
-    static constexpr QLatin1String Encoded("amp;");
+    switch (c.unicode()) {
+    case '<':
+        return QLatin1String("&lt;");
+    case '>':
+        return QLatin1String("&gt;");
+    case '&':
+        return QLatin1String("&amp;");
+    case '\'':
+        return QLatin1String("&apos;");
+    case '"':
+        return QLatin1String("&quot;");
+    default:
+        return QLatin1String();
+    }
+}
+
+enum class EncodedAmpersand { Keep, EncodeAgain };
+
+QString encode(const QString &text, EncodedAmpersand encodedAmpersand)
+{
+    static constexpr QLatin1String Ampersand("&amp;");
     if (text.isEmpty())
         return text;
     QString result;
     result.reserve(int(text.size() * 1.1));
     for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        switch (c.unicode()) {
-        case '&':
-            result += c;
-            if (QStringView(text).mid(i + 1, Encoded.size()) != Encoded)
-                result += Encoded;
-            break;
-        case '"':
-            result += QLatin1String("&quot;");
-            break;
-        case '<':
-            result += QLatin1String("&lt;");
-            break;
-        case '>':
-            result += QLatin1String("&gt;");
-            break;
-        case '\'':
-            result += QLatin1String("&apos;");
-            break;
-        default:
-            result += c;
+        const QLatin1String replacement = entity(text.at(i));
+        const bool isKept = encodedAmpersand == EncodedAmpersand::Keep
+            && text.at(i) == QLatin1Char('&')
+            && QStringView(text).mid(i, Ampersand.size()) == Ampersand;
+        if (replacement.size() == 0 || isKept) {
+            result += text.at(i);
+        } else {
+            result += replacement;
         }
     }
     return result;
 }
 
+} // namespace
+
+QString MRV::toHtmlEncoded(const QString &text)
+{
+    return encode(text, EncodedAmpersand::Keep);
+}
+
 QString MRV::escape(const QString &text)
 {
-    if (text.isEmpty())
-        return text;
-    QString result;
-    result.reserve(int(text.size() * 1.1));
-    for (const QChar c : text) {
-        switch (c.unicode()) {
-        case '<':
-            result += QLatin1String("&lt;");
-            break;
-        case '>':
-            result += QLatin1String("&gt;");
-            break;
-        case '&':
-            result += QLatin1String("&amp;");
-            break;
-        case '\'':
-            result += QLatin1String("&apos;");
-            break;
-        case '"':
-            result += QLatin1String("&quot;");
-            break;
-        default:
-            result += c;
-        }
-    }
-    return result;
+    return encode(text, EncodedAmpersand::EncodeAgain);
 }
 
 QString MRV::toHtmlTooltipFormat(const QString &text)

@@ -3,10 +3,13 @@
 #include "core/mrverrorline_p.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #include <unistd.h>
 
@@ -21,10 +24,19 @@ QString realTarget(const QString &path)
     for (int i = 0; info.isSymLink(); ++i) {
         if (i == MaxLinks)
             return QString();
-        // symLinkTarget() is absolute, also for a link that leads nowhere yet.
-        info.setFile(info.symLinkTarget());
+        if (info.exists())
+            return info.canonicalFilePath();
+        // The link leads nowhere yet. Not symLinkTarget(), which takes "folder/.." away even where
+        // the folder is itself a link to somewhere else.
+        std::error_code error;
+        const auto raw =
+            std::filesystem::read_symlink(QFile::encodeName(info.filePath()).constData(), error);
+        const QString next = QFile::decodeName(raw.c_str());
+        info.setFile(QDir::isAbsolutePath(next) ? next : info.path() + QLatin1Char('/') + next);
     }
-    return info.filePath();
+    // Resolved by the system, since QSaveFile too would shorten "folder/..".
+    const QString folder = QFileInfo(info.path()).canonicalFilePath();
+    return folder.isEmpty() ? info.filePath() : folder + QLatin1Char('/') + info.fileName();
 }
 
 // Network and copy-on-write file systems report a full disk only here. Those that cannot sync at
