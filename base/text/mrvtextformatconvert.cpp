@@ -1,0 +1,343 @@
+#include "text/mrvtextformat.h"
+
+#include "text/mrvtextblockformat.h"
+#include "text/mrvtextcharformat.h"
+#include "text/mrvtextformat_p.h"
+#include "text/mrvtextutil.h"
+
+#include <QFont>
+#include <QHash>
+#include <QPair>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// Qt's own comparison depends on the order in which the properties were set. This one does not, and
+// tells a heading level 1 from a line spacing of 1.0.
+bool isSameFormat(const QTextFormat &a, const QTextFormat &b)
+{
+    mrvRegisterTextTypes();
+    const QMap<int, QVariant> propertiesA = a.properties();
+    const QMap<int, QVariant> propertiesB = b.properties();
+    if (propertiesA != propertiesB)
+        return false;
+    for (auto it = propertiesA.cbegin(), other = propertiesB.cbegin(); it != propertiesA.cend();
+         ++it, ++other) {
+        if (it.value().userType() != other.value().userType())
+            return false;
+    }
+    return true;
+}
+
+// The changes to a document's formats, collected while walking it and applied afterwards, since an
+// edit ends the walk over a block's runs. Positions, not cursors: every living cursor is adjusted at
+// every edit.
+class FormatChanges
+{
+public:
+    void setBlockCharFormat(int position, const QTextCharFormat &format)
+    {
+        m_blockChars.push_back({position, position, format});
+    }
+    void setBlockFormat(int position, const QTextBlockFormat &format)
+    {
+        m_blocks.push_back({position, position, format});
+    }
+    void setCharFormat(int start, int end, const QTextCharFormat &format)
+    {
+        m_runs.push_back({start, end, format});
+    }
+
+    // One undo step, or none where nothing was collected.
+    void apply(QTextDocument *document) const;
+
+private:
+    template<typename Format>
+    struct Change
+    {
+        int start;
+        int end;
+        Format format;
+    };
+
+    std::vector<Change<QTextCharFormat>> m_blockChars;
+    std::vector<Change<QTextBlockFormat>> m_blocks;
+    std::vector<Change<QTextCharFormat>> m_runs;
+};
+
+void FormatChanges::apply(QTextDocument *document) const
+{
+    if (m_blockChars.empty() && m_blocks.empty() && m_runs.empty())
+        return;
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (const auto &change : m_blockChars) {
+        cursor.setPosition(change.start);
+        cursor.setBlockCharFormat(change.format);
+    }
+    for (const auto &change : m_blocks) {
+        cursor.setPosition(change.start);
+        cursor.setBlockFormat(change.format);
+    }
+    for (const auto &change : m_runs) {
+        cursor.setPosition(change.start);
+        cursor.setPosition(change.end, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(change.format);
+    }
+    cursor.endEditBlock();
+}
+
+// A document has far fewer formats than runs: a format's replacement is computed once and found
+// again by its index. Nothing stands for a format that stays as it is.
+template<typename Format, typename Key>
+class Replacements
+{
+public:
+    template<typename Compute>
+    const std::optional<Format> &value(Key key, const Format &existing, Compute compute)
+    {
+        auto it = m_values.find(key);
+        if (it == m_values.end()) {
+            Format merged = compute(existing);
+            std::optional<Format> changed;
+            if (!isSameFormat(merged, existing))
+                changed = std::move(merged);
+            it = m_values.insert(key, changed);
+        }
+        return it.value();
+    }
+
+private:
+    QHash<Key, std::optional<Format>> m_values;
+};
+
+// What convertToFormat() was asked to do.
+struct Style
+{
+    const QTextCharFormat *charFormat;
+    const QTextBlockFormat *blockFormat;
+    bool keepSize;
+    bool keepColors;
+    bool keepEmphasis;
+    bool keepIndents;
+    bool keepSpacing;
+    bool keepAlignment;
+    bool keepFamily;
+    const QList<int> &keep;
+    bool overridePreserved;
+    bool combineEmphasis;
+
+    QTextCharFormat merged(const QTextCharFormat &existing) const
+    {
+        return MRVTextCharFormat::merge(existing, *charFormat, keepSize, keepColors, keepEmphasis,
+                                        keepFamily, keep, overridePreserved, combineEmphasis);
+    }
+    QTextBlockFormat merged(const QTextBlock &block) const
+    {
+        return MRVTextFormat::mergeBlockFormat(block, *blockFormat, keepIndents, keepSpacing,
+                                               keepAlignment, keep);
+    }
+};
+
+// Restyles the blocks from first to last, and of their runs what lies in [start, end).
+class Restyler
+{
+public:
+    explicit Restyler(const Style &style)
+        : m_style(style)
+    {
+    }
+
+    void restyle(const QTextBlock &first, const QTextBlock &last, int start, int end)
+    {
+        for (QTextBlock block = first; block.isValid(); block = block.next()) {
+            if (m_style.charFormat)
+                collectBlockCharFormat(block);
+            if (m_style.blockFormat)
+                collectBlockFormat(block);
+            if (m_style.charFormat)
+                collectRuns(block, start, end);
+            if (block == last)
+                break;
+        }
+    }
+
+    void apply(QTextDocument *document) const { m_changes.apply(document); }
+
+private:
+    const std::optional<QTextCharFormat> &replacement(int index, const QTextCharFormat &existing)
+    {
+        return m_chars.value(index, existing, [this](const QTextCharFormat &format) {
+            return m_style.merged(format);
+        });
+    }
+
+    void collectBlockCharFormat(const QTextBlock &block)
+    {
+        const auto &changed = replacement(block.charFormatIndex(), block.charFormat());
+        if (changed)
+            m_changes.setBlockCharFormat(block.position(), *changed);
+    }
+
+    void collectBlockFormat(const QTextBlock &block)
+    {
+        // The list is named by the block format and the mark of preserved paragraphs lies in the
+        // first character's, so these two decide.
+        const QTextBlock::iterator run = block.begin();
+        const int firstChar =
+            run.atEnd() ? block.charFormatIndex() : run.fragment().charFormatIndex();
+        const auto &changed =
+            m_blocks.value(qMakePair(block.blockFormatIndex(), firstChar), block.blockFormat(),
+                           [&](const QTextBlockFormat &) { return m_style.merged(block); });
+        if (changed)
+            m_changes.setBlockFormat(block.position(), *changed);
+    }
+
+    void collectRuns(const QTextBlock &block, int start, int end)
+    {
+        for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment run = it.fragment();
+            if (!run.isValid() || run.position() + run.length() <= start)
+                continue;
+            if (run.position() >= end)
+                break;
+            const auto &changed = replacement(run.charFormatIndex(), run.charFormat());
+            if (changed)
+                m_changes.setCharFormat(qMax(run.position(), start),
+                                        qMin(run.position() + run.length(), end), *changed);
+        }
+    }
+
+    const Style &m_style;
+    FormatChanges m_changes;
+    Replacements<QTextCharFormat, int> m_chars;
+    Replacements<QTextBlockFormat, QPair<int, int>> m_blocks;
+};
+
+// Qt keeps a family in two properties; HTML import sets both.
+QString familyOf(const QTextCharFormat &format)
+{
+    const QString family = format.stringProperty(QTextFormat::FontFamily);
+    return family.isEmpty() ? format.property(QTextFormat::FontFamilies).toStringList().value(0)
+                            : family;
+}
+
+QTextCharFormat withAvailableWeight(const QTextCharFormat &existing)
+{
+    const int stored = existing.intProperty(QTextFormat::FontWeight);
+    const int weight = stored == 0 ? int(QFont::Normal) : stored;
+    const QString family = familyOf(existing);
+    if (MRVTextUtil::hasWeight(family, weight))
+        return existing;
+    QTextCharFormat format = existing;
+    const int closest = MRVTextUtil::closestFontWeight(family, weight);
+    // Deliberate: normal weight is unset, so that it keeps inheriting from the document's default.
+    if (closest == QFont::Normal)
+        format.clearProperty(QTextFormat::FontWeight);
+    else
+        format.setProperty(QTextFormat::FontWeight, closest);
+    return format;
+}
+
+} // namespace
+
+QTextBlockFormat MRVTextFormat::mergeBlockFormat(const QTextBlock &block,
+                                                 const QTextBlockFormat &with, bool keepIndents,
+                                                 bool keepSpacing, bool keepAlignment,
+                                                 const QList<int> &keep)
+{
+    // A cursor of an invalid block crashes.
+    if (!block.isValid())
+        return MRVTextBlockFormat::merge(QTextBlockFormat(), with, keepIndents, keepSpacing,
+                                         keepAlignment, keep);
+    if (mrvIsPreserved(QTextCursor(block).charFormat()))
+        return block.blockFormat();
+    return MRVTextBlockFormat::merge(block.blockFormat(), with, keepIndents || block.textList(),
+                                     keepSpacing, keepAlignment, keep);
+}
+
+void MRVTextFormat::convertToFormat(QTextDocument *document, const QTextCharFormat *charFormat,
+                                    const QTextBlockFormat *blockFormat, bool keepSize,
+                                    bool keepColors, bool keepEmphasis, bool keepIndents,
+                                    bool keepSpacing, bool keepAlignment, bool keepFamily,
+                                    const QList<int> &keep, bool overridePreserved,
+                                    bool combineEmphasis)
+{
+    if (!document)
+        return;
+    convertToFormat(document, 0, document->characterCount() - 1, charFormat, blockFormat, keepSize,
+                    keepColors, keepEmphasis, keepIndents, keepSpacing, keepAlignment, keepFamily,
+                    keep, overridePreserved, combineEmphasis);
+}
+
+void MRVTextFormat::convertToFormat(QTextDocument *document, int start, int end,
+                                    const QTextCharFormat *charFormat,
+                                    const QTextBlockFormat *blockFormat, bool keepSize,
+                                    bool keepColors, bool keepEmphasis, bool keepIndents,
+                                    bool keepSpacing, bool keepAlignment, bool keepFamily,
+                                    const QList<int> &keep, bool overridePreserved,
+                                    bool combineEmphasis)
+{
+    if (!document || end < start)
+        return;
+    const QTextBlock first = document->findBlock(start);
+    const QTextBlock last = document->findBlock(end);
+    if (!first.isValid() || !last.isValid())
+        return;
+    const Style style{charFormat,   blockFormat, keepSize,          keepColors,
+                      keepEmphasis, keepIndents, keepSpacing,       keepAlignment,
+                      keepFamily,   keep,        overridePreserved, combineEmphasis};
+    Restyler restyler(style);
+    restyler.restyle(first, last, start, end);
+    restyler.apply(document);
+}
+
+void MRVTextFormat::convertToFormat(const QTextCursor &cursor, const QTextCharFormat *charFormat,
+                                    const QTextBlockFormat *blockFormat, bool keepSize,
+                                    bool keepColors, bool keepEmphasis, bool keepIndents,
+                                    bool keepSpacing, bool keepAlignment, bool keepFamily,
+                                    const QList<int> &keep, bool overridePreserved,
+                                    bool combineEmphasis)
+{
+    if (cursor.isNull())
+        return;
+    convertToFormat(cursor.document(), cursor.selectionStart(), cursor.selectionEnd(), charFormat,
+                    blockFormat, keepSize, keepColors, keepEmphasis, keepIndents, keepSpacing,
+                    keepAlignment, keepFamily, keep, overridePreserved, combineEmphasis);
+}
+
+void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
+{
+    if (cursor.isNull())
+        return;
+    const int start = cursor.selectionStart();
+    const int end = cursor.selectionEnd();
+    FormatChanges changes;
+    Replacements<QTextCharFormat, int> replacements;
+    QTextBlock block = cursor.document()->findBlock(start);
+    for (; block.isValid(); block = block.next()) {
+        const auto &blockChar =
+            replacements.value(block.charFormatIndex(), block.charFormat(), withAvailableWeight);
+        if (blockChar)
+            changes.setBlockCharFormat(block.position(), *blockChar);
+        for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment run = it.fragment();
+            if (!run.isValid() || run.position() < start)
+                continue;
+            if (run.position() > end)
+                break;
+            const auto &changed =
+                replacements.value(run.charFormatIndex(), run.charFormat(), withAvailableWeight);
+            if (changed)
+                changes.setCharFormat(run.position(), run.position() + run.length(), *changed);
+        }
+    }
+    changes.apply(cursor.document());
+}

@@ -1,0 +1,127 @@
+#include "text/mrvtextformat.h"
+
+#include "text/mrvtextformat_p.h"
+#include "text/mrvtextformatreader_p.h"
+
+#include <QDataStream>
+#include <QLoggingCategory>
+#include <QMetaType>
+#include <QTextOption>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcText, "mrv.text")
+
+// By name, so that stored formats stay the same under a newer Qt.
+constexpr int StreamVersion = QDataStream::Qt_5_15;
+
+// Position, type as quint32, delimiter. mrvIsReadableFormat() knows this layout.
+void saveTab(QDataStream &stream, const void *value)
+{
+    const auto *tab = static_cast<const QTextOption::Tab *>(value);
+    stream << double(tab->position) << quint32(tab->type) << tab->delimiter;
+}
+
+void loadTab(QDataStream &stream, void *value)
+{
+    double position = 0.0;
+    quint32 type = 0;
+    QChar delimiter;
+    stream >> position >> type >> delimiter;
+    if (type > QTextOption::DelimiterTab)
+        stream.setStatus(QDataStream::ReadCorruptData);
+    if (stream.status() == QDataStream::Ok)
+        *static_cast<QTextOption::Tab *>(value) =
+            QTextOption::Tab(position, QTextOption::TabType(type), delimiter);
+}
+
+bool registerTextTypes()
+{
+    const int tab = qRegisterMetaType<QTextOption::Tab>("QTextOption::Tab");
+    QMetaType::registerStreamOperators(tab, saveTab, loadTab);
+    if (!QMetaType::hasRegisteredComparators(tab))
+        QMetaType::registerEqualsComparator<QTextOption::Tab>();
+    return true;
+}
+
+QByteArray write(const QTextFormat &format)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(StreamVersion);
+    stream << format;
+    return bytes;
+}
+
+QByteArray store(const QTextFormat &format)
+{
+    mrvRegisterTextTypes();
+    const QByteArray bytes = write(format);
+    if (mrvIsReadableFormat(bytes, format.type()))
+        return bytes;
+
+    QTextFormat readable = format;
+    const QMap<int, QVariant> properties = format.properties();
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
+        QTextFormat single(format.type());
+        single.setProperty(it.key(), it.value());
+        if (mrvIsReadableFormat(write(single), format.type()))
+            continue;
+        qCWarning(lcText, "Property 0x%x of type %s cannot be stored and is left out",
+                  uint(it.key()), it.value().typeName());
+        readable.clearProperty(it.key());
+    }
+    return write(readable);
+}
+
+template<typename Format>
+Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
+{
+    if (!mrvIsReadableFormat(bytes, type))
+        return Format();
+    mrvRegisterTextTypes();
+    QDataStream stream(bytes);
+    stream.setVersion(StreamVersion);
+    // Reading adds to what a format holds, so it needs a fresh one.
+    Format format;
+    stream >> format;
+    return stream.status() == QDataStream::Ok && format.type() == type ? format : Format();
+}
+
+} // namespace
+
+void mrvRegisterTextTypes()
+{
+    static const bool registered = registerTextTypes();
+    Q_UNUSED(registered)
+}
+
+QByteArray MRVTextFormat::toByteArray(const QTextCharFormat &format)
+{
+    return store(format);
+}
+
+QByteArray MRVTextFormat::toByteArray(const QTextBlockFormat &format)
+{
+    return store(format);
+}
+
+QTextCharFormat MRVTextFormat::toCharFormat(const QByteArray &bytes)
+{
+    return restore<QTextCharFormat>(bytes, QTextFormat::CharFormat);
+}
+
+QTextBlockFormat MRVTextFormat::toBlockFormat(const QByteArray &bytes)
+{
+    return restore<QTextBlockFormat>(bytes, QTextFormat::BlockFormat);
+}
+
+QTextCharFormat MRVTextFormat::toCharFormat(const QVariant &value)
+{
+    return toCharFormat(value.toByteArray());
+}
+
+QTextBlockFormat MRVTextFormat::toBlockFormat(const QVariant &value)
+{
+    return toBlockFormat(value.toByteArray());
+}
