@@ -1,7 +1,7 @@
 #include "text/mrvtextblockformat.h"
 
-#include "text/mrvformatmerge_p.h"
 #include "text/mrvtextformat.h"
+#include "text/mrvtextformatmerge_p.h"
 
 #include <limits>
 
@@ -44,7 +44,7 @@ constexpr MrvFormatMerge::Row Rows[] = {
     {QTextFormat::ObjectType,             QTextFormat::ObjectType,             Data},
     {QTextFormat::ListStyle,              QTextFormat::ListNumberSuffix,       Data},
     // Frames, tables and cells: without them merged cells fall apart.
-    {QTextFormat::FrameBorder,            QTextFormat::TableCellLeftBorderBrush, Data},
+    {QTextFormat::FrameBorder,            QTextFormat::TableCellRightBorderBrush, Data},
     {QTextFormat::PageBreakPolicy,        QTextFormat::PageBreakPolicy,        Data},
     // The application's own, with those that are added later.
     {QTextFormat::UserProperty,           std::numeric_limits<int>::max(),     Data},

@@ -1,8 +1,8 @@
 #include "text/mrvtextcharformat.h"
 
 #include "core/mrvfuzzycompare.h"
-#include "text/mrvformatmerge_p.h"
 #include "text/mrvtextformat_p.h"
+#include "text/mrvtextformatmerge_p.h"
 
 #include <QColor>
 #include <QFont>
@@ -51,7 +51,7 @@ constexpr MrvFormatMerge::Row Rows[] = {
     {QTextFormat::ObjectType,            QTextFormat::ObjectType,            Data},
     {QTextFormat::ListStyle,             QTextFormat::ListNumberSuffix,      Data},
     // Frames, tables and cells: without them merged cells fall apart.
-    {QTextFormat::FrameBorder,           QTextFormat::TableCellLeftBorderBrush, Data},
+    {QTextFormat::FrameBorder,           QTextFormat::TableCellRightBorderBrush, Data},
     {QTextFormat::ImageName,             QTextFormat::ImageQuality,          Data},
     {QTextFormat::PageBreakPolicy,       QTextFormat::PageBreakPolicy,       Data},
     // The application's own, with those that are added later.

@@ -250,7 +250,8 @@ public:
      * Re-styles a document while keeping what the application stores in its text: every paragraph
      * gets the merge of its format with @p blockFormat, every run the merge with @p charFormat.
      *
-     * One undo step; none when nothing changes. Takes time linear in the document.
+     * One undo step; none when nothing changes. Qt leaves one thing out of undo: the format that the
+     * first paragraph itself gives to text typed into it. Takes time linear in the document.
      *
      * @param document          null does nothing.
      * @param charFormat        null leaves the character formats alone.

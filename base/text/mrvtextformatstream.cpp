@@ -1,7 +1,7 @@
 #include "text/mrvtextformat.h"
 
-#include "text/mrvformatreader_p.h"
 #include "text/mrvtextformat_p.h"
+#include "text/mrvtextformatreader_p.h"
 
 #include <QDataStream>
 #include <QLoggingCategory>

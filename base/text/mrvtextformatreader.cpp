@@ -1,4 +1,4 @@
-#include "text/mrvformatreader_p.h"
+#include "text/mrvtextformatreader_p.h"
 
 #include <QBrush>
 #include <QByteArray>

@@ -1,4 +1,4 @@
-#include "text/mrvformatmerge_p.h"
+#include "text/mrvtextformatmerge_p.h"
 
 #include <QMap>
 #include <QVariant>
