@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+class QTextDocument;
+
+/**
+ * A title for a document: its own, else the text of a heading near its beginning, else @p fallback.
+ */
+QString mrvDocumentTitle(const QTextDocument &document, const QString &fallback);

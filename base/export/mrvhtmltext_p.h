@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QHash>
+#include <QLatin1String>
+#include <QString>
+#include <QStringView>
+#include <QVector>
+
+/** Small tools for rewriting markup texts in one pass. */
+namespace MRVHtmlText {
+
+/** Replaces every @p before by @p after; linear also for very many matches, unlike QString::replace(). */
+void replaceAll(QString *text, QLatin1String before, QLatin1String after);
+
+/** Decodes the five predefined entities, no-break spaces and numeric references; others stay. */
+QString unescaped(QStringView text);
+
+/**
+ * The declarations of a style attribute's escaped value, still escaped: split at semicolons, those that end an
+ * entity excepted. Empty ones are left out.
+ */
+QVector<QStringView> declarations(QStringView style);
+
+/**
+ * Lets each image whose source is a key of the table refer to its value; both unescaped. A null value takes the
+ * source away.
+ */
+void replaceImageSources(QString *html, const QHash<QString, QString> &references);
+
+/** Where the anchors with an id stand in the text, by id as it is written. */
+QHash<QString, int> idPlaces(const QString &html);
+
+/** Drops what XML 1.0 (section 2.2, Char) forbids, lone surrogates included; no copy when there is nothing. */
+QString withoutForbiddenCharacters(const QString &text);
+/** Appends the text without what XML 1.0 forbids. */
+void appendAllowed(QString *result, QStringView text);
+
+/**
+ * Rewrites every stretch from @p open up to the next @p close.
+ *
+ * @param rewrite called with the text between the two; returns what replaces the whole stretch.
+ */
+template<typename Rewrite>
+void rewriteBetween(QString *text, QLatin1String open, QLatin1String close, Qt::CaseSensitivity cs,
+                    Rewrite rewrite)
+{
+    const QStringView all(*text);
+    QString result;
+    int done = 0;
+    for (int at = text->indexOf(open, 0, cs); at >= 0; at = text->indexOf(open, done, cs)) {
+        const int begin = at + open.size();
+        const int end = text->indexOf(close, begin);
+        if (end < 0) {
+            break;
+        }
+        result.reserve(text->size());
+        result.append(all.data() + done, at - done);
+        result.append(rewrite(all.mid(begin, end - begin)));
+        done = end + close.size();
+    }
+    if (done > 0) {
+        result.append(all.data() + done, text->size() - done);
+        *text = result;
+    }
+}
+
+} // namespace MRVHtmlText
