@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QCommandLineParser;
+
+/** Exit codes of the tool. */
+enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
+
+/** A subcommand: how it is called, what it does, and what does it. */
+struct Command
+{
+    const char *name;
+    const char *summary;
+    int (*run)(const QStringList &arguments); // arguments[0] is the command's name
+};
+
+int runExport(const QStringList &arguments);
+
+/** Prints "mrv: text" to standard error as one line. */
+void printError(const QString &text);
+
+/** Prints a line to standard output, as UTF-8 whatever the locale. */
+void printLine(const QString &text);
+
+/** Shows what is being done, on a terminal only; an empty text clears the line. */
+void showProgress(const QString &text);
+
+/**
+ * Parses a subcommand's arguments; "--help" is added to the options.
+ *
+ * @param usage what follows "mrv " in the help's first line.
+ * @return the exit code to end with, when help was asked for (0) or the arguments are wrong (2); -1 to go on.
+ */
+int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments);

@@ -1,0 +1,124 @@
+#include "command.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr Command commands[] = {
+    {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
+};
+
+QString usage()
+{
+    QString text = QStringLiteral("Usage: mrv COMMAND [OPTIONS] [ARGUMENTS]\n\nCommands:\n");
+    for (const Command &command : commands) {
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.summary));
+    }
+    return text
+        + QStringLiteral(
+               "\n'mrv COMMAND --help' tells more. 'mrv --version' tells which version this is.");
+}
+
+void printTo(FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+    std::fputc('\n', stream);
+}
+
+// Qt warns of what the desktop lacks (a runtime folder, fonts); the tool's errors are its own, in one line.
+void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtFatalMsg) {
+        printTo(stderr, text);
+    }
+}
+
+} // namespace
+
+void printError(const QString &text)
+{
+    showProgress(QString());
+    printTo(stderr, QLatin1String("mrv: ") + text.simplified());
+}
+
+void printLine(const QString &text)
+{
+    printTo(stdout, text);
+}
+
+void showProgress(const QString &text)
+{
+    static const bool terminal = isatty(STDERR_FILENO);
+    if (terminal) {
+        const QByteArray bytes = text.toUtf8();
+        std::fprintf(stderr, "\r\033[K%s", bytes.constData());
+        std::fflush(stderr);
+    }
+}
+
+int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments)
+{
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
+    parser->addOption(help);
+    if (!parser->parse(arguments)) {
+        printError(arguments.constFirst() + QLatin1String(": ") + parser->errorText());
+        return WrongUsage;
+    }
+    if (parser->isSet(help)) {
+        QString text = parser->helpText();
+        // The parser would name the program alone.
+        text.replace(0, text.indexOf(u'\n'), QLatin1String("Usage: mrv ") + usage);
+        printLine(text.trimmed());
+        return Done;
+    }
+    return -1;
+}
+
+int main(int argc, char **argv)
+{
+    // The tool shows no windows: it must run where there is no display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES")) {
+        qInstallMessageHandler(keepQuiet);
+    }
+    QGuiApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mrv"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MRV_VERSION));
+
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QString name = arguments.value(0);
+    if (name == QLatin1String("--version")) {
+        printLine(QLatin1String("mrv ") + QCoreApplication::applicationVersion());
+        return Done;
+    }
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        printLine(usage());
+        return Done;
+    }
+    for (const Command &command : commands) {
+        if (name == QLatin1String(command.name)) {
+            const int code = command.run(arguments);
+            showProgress(QString());
+            // A pipe that was closed or a full disk behind it must not look like success.
+            if (code == Done && (std::fflush(stdout) != 0 || std::ferror(stdout))) {
+                printError(QStringLiteral("standard output cannot be written"));
+                return Failed;
+            }
+            return code;
+        }
+    }
+    printError(name.isEmpty() ? QStringLiteral("a command is missing; try 'mrv --help'")
+                              : QStringLiteral("unknown command '%1'; try 'mrv --help'").arg(name));
+    return WrongUsage;
+}
