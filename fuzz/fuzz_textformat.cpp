@@ -1,0 +1,37 @@
+// Feeds arbitrary bytes to the readers of stored text formats. Not part of the normal build:
+//
+//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
+//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_textformat.cpp
+//     base/text/mrvtextformatreader.cpp base/text/mrvtextformatstream.cpp -o fuzz_textformat
+//   LSAN_OPTIONS=suppressions=tests/lsan.supp ./fuzz_textformat -rss_limit_mb=512 CORPUS
+//
+// Only the readers are compiled in, so that they are instrumented; Qt is not.
+
+#include "text/mrvtextformat.h"
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    static QGuiApplication application(*argc, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
+    const QTextCharFormat charFormat = MRVTextFormat::toCharFormat(bytes);
+    const QTextBlockFormat blockFormat = MRVTextFormat::toBlockFormat(bytes);
+    if (!charFormat.isCharFormat() || !blockFormat.isBlockFormat())
+        std::abort();
+    // What was read can be written and read again.
+    const QByteArray stored = MRVTextFormat::toByteArray(charFormat);
+    const QTextCharFormat again = MRVTextFormat::toCharFormat(stored);
+    if (again.properties().keys() != charFormat.properties().keys())
+        std::abort();
+    return 0;
+}
