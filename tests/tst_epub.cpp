@@ -278,7 +278,7 @@ void tst_EPub::isValid()
          "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
          "</ol></ul><hr width='50%'><table border=2 cellpadding=3 cellspacing=1 width='70%' "
          "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
-         "<a name='1 bad'></a><img src='pic.png' width='7.5'></table><pre>a\n<img "
+         "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'></table><pre>a\n<img "
          "src='pic.png'></pre><a href='#1 bad'>x</a><a href='http://'>y</a>");
     MRVEPubMetadata metadata;
     metadata.cover = png(Qt::green);

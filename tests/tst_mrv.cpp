@@ -1,3 +1,4 @@
+#include "datarows.h"
 #include "support.h"
 
 #include <QDir>
@@ -43,9 +44,9 @@ class tst_Mrv : public QObject
 
 private Q_SLOTS:
     void init();
-    void usage_data();
+    void usage_data() { addRows("mrv-usage.tsv", {"case", "arguments", "code", "word"}); }
     void usage();
-    void refusals_data();
+    void refusals_data() { addRows("mrv-refusals.tsv", {"case", "arguments", "word"}); }
     void refusals();
     void exports_data();
     void exports();
@@ -53,8 +54,13 @@ private Q_SLOTS:
     void bytesDoNotDependOnHashes();
     void fullDisk_data();
     void fullDisk();
-    void inputs_data();
+    void inputs_data()
+    {
+        addRows("mrv-inputs.tsv", {"case", "name", "text", "options", "expected"});
+    }
     void inputs();
+    void encodings_data();
+    void encodings();
     void manyInputs();
     void standardStreams();
     void account();
@@ -85,81 +91,25 @@ void tst_Mrv::init()
     QVERIFY(writeBytes(in("file"), "a plain file"));
 }
 
-void tst_Mrv::usage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("word");
-    QTest::newRow("help") << QStringList{"--help"} << 0 << "export";
-    QTest::newRow("version") << QStringList{"--version"} << 0 << "mrv 1.";
-    QTest::newRow("export-help") << QStringList{"export", "--help"} << 0 << "--epub-version";
-    QTest::newRow("nothing") << QStringList{} << 2 << "command is missing";
-    QTest::newRow("unknown-command") << QStringList{"exprot"} << 2 << "'exprot'";
-    QTest::newRow("no-input") << QStringList{"export", "--to", "epub"} << 2 << "input";
-    QTest::newRow("no-type") << QStringList{"export", "x.html"} << 2 << "--to";
-    QTest::newRow("unknown-type") << QStringList{"export", "x.html", "--to", "docx"} << 2
-                                  << "'docx'";
-    QTest::newRow("unknown-option")
-        << QStringList{"export", "x.html", "--two", "epub"} << 2 << "two";
-    QTest::newRow("epub-version") << QStringList{"export", "x.html",         "--to",
-                                                 "epub",   "--epub-version", "4"}
-                                  << 2 << "'4'";
-    QTest::newRow("date") << QStringList{"export", "x.html", "--to", "epub", "--date", "soon"} << 2
-                          << "ISO 8601";
-}
-
 void tst_Mrv::usage()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(int, code);
+    QFETCH(QString, arguments);
     QFETCH(QString, word);
-    const Ran ran = mrv(arguments);
-    QCOMPARE(ran.exitCode, code);
-    QVERIFY2((code == 0 ? ran.output : ran.errors).contains(word),
-             qPrintable(ran.output + ran.errors));
-    QVERIFY(code == 0 ? ran.errors.isEmpty() : isOneError(ran));
-}
-
-void tst_Mrv::refusals_data()
-{
-    QTest::addColumn<QStringList>("arguments"); // names in the folder begin with "@"
-    QTest::addColumn<QString>("words");
-    QTest::newRow("missing-input") << QStringList{"@none.html", "--to", "epub"} << "none.html";
-    QTest::newRow("folder-input") << QStringList{"@",    "--to", "xhtml",     "--from",
-                                                 "text", "-o",   "@out.xhtml"}
-                                  << "";
-    QTest::newRow("missing-picture")
-        << QStringList{"@bad-picture.html", "--to", "xhtml"} << "none.png";
-    QTest::newRow("unreadable-picture")
-        << QStringList{"@garbage.html", "--to", "epub"} << "garbage.png";
-    QTest::newRow("unknown-input") << QStringList{"@book.odd", "--to", "html"} << "--from";
-    QTest::newRow("encoding") << QStringList{"@latin.txt", "--to", "xhtml"} << "--encoding";
-    QTest::newRow("unknown-encoding")
-        << QStringList{"@latin.txt", "--to", "xhtml", "--encoding", "klingon"} << "klingon";
-    QTest::newRow("deep") << QStringList{"@deep.html", "--to", "xhtml"} << "nested";
-    QTest::newRow("folder-under-file")
-        << QStringList{"@book.html", "--to", "xhtml", "-o", "@file/x.xhtml"} << "file";
-    QTest::newRow("epub-folder-under-file")
-        << QStringList{"@book.html", "--to", "epub", "-o", "@file/x.epub"} << "file";
-    QTest::newRow("onto-input") << QStringList{"@book.html", "--to", "html"} << "replace the input";
-    QTest::newRow("bad-cover") << QStringList{"@book.html", "--to", "epub", "--cover",
-                                              "@garbage.png"}
-                               << "garbage.png";
-    QTest::newRow("two-in-one") << QStringList{"@book.html", "@book.html", "--to", "xhtml"}
-                                << "two inputs";
+    const Ran ran = mrv(arguments.split(' ', Qt::SkipEmptyParts));
+    QTEST(QString::number(ran.exitCode), "code");
+    QVERIFY2((ran.output + ran.errors).contains(word), qPrintable(ran.output + ran.errors));
+    QVERIFY(ran.exitCode == 0 ? ran.errors.isEmpty() : isOneError(ran));
 }
 
 void tst_Mrv::refusals()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, words);
-    for (QString &argument : arguments) {
-        argument = argument.startsWith('@') ? in(argument.mid(1)) : argument;
-    }
+    QFETCH(QString, arguments);
+    QFETCH(QString, word);
     const QStringList before = filesBelow(m_folder->path());
-    const Ran ran = mrv(QStringList{"export"} + arguments);
+    const Ran ran =
+        mrv(QStringList{"export"} + arguments.replace('@', m_folder->path() + '/').split(' '));
     QCOMPARE(ran.exitCode, 1);
-    QVERIFY2(isOneError(ran) && ran.errors.contains(words), qPrintable(ran.errors));
+    QVERIFY2(isOneError(ran) && ran.errors.contains(word), qPrintable(ran.errors));
     QCOMPARE(filesBelow(m_folder->path()), before);
 }
 
@@ -287,58 +237,47 @@ void tst_Mrv::fullDisk()
     QVERIFY(failures >= files.size());
 }
 
-void tst_Mrv::inputs_data()
+void tst_Mrv::inputs()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QFETCH(QString, options);
+    QFETCH(QString, expected);
+    QVERIFY(writeBytes(in(name), text.toUtf8()));
+    const QStringList arguments{"export", in(name), "--to", "xhtml", "-o", in("a.xhtml")};
+    const Ran ran = mrv(arguments + options.split(' ', Qt::SkipEmptyParts));
+    QCOMPARE(ran.errors, QString());
+    const QString page = QString::fromUtf8(bytesOf(in("a.xhtml")));
+    QVERIFY2(page.contains(expected), qPrintable(page));
+}
+
+void tst_Mrv::encodings_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("markdown") << "a.md" << QByteArray("# Title\n\nSome *text*") << QStringList{}
-                              << "<h1";
-    QTest::newRow("text") << "a.txt" << QByteArray("<b> & \xc3\xa9") << QStringList{}
-                          << QString::fromUtf8("&lt;b&gt; &amp; é");
+    const QByteArray declared =
+        "<meta http-equiv=content-type content='text/html; charset=iso-8859-1'>caf\xe9";
     QTest::newRow("utf-16") << "a.txt"
                             << QByteArray("\xff\xfe"
-                                          "a\0b\0",
-                                          6)
-                            << QStringList{} << ">ab<";
-    QTest::newRow("latin-1-declared")
-        << "a.html"
-        << QByteArray(
-               "<meta http-equiv=content-type content='text/html; charset=iso-8859-1'>caf\xe9")
-        << QStringList{} << QString::fromUtf8("café");
-    QTest::newRow("latin-1-given")
-        << "a.txt" << QByteArray("caf\xe9") << QStringList{"--encoding", "ISO-8859-1"}
-        << QString::fromUtf8("café");
-    QTest::newRow("no-suffix") << "README" << QByteArray("plain") << QStringList{} << "plain";
-    QTest::newRow("forced") << "a.odd" << QByteArray("# T") << QStringList{"--from", "markdown"}
-                            << "<h1";
-    QTest::newRow("empty") << "a.txt" << QByteArray() << QStringList{} << "<br />";
-    QTest::newRow("title") << "a.txt" << QByteArray("x") << QStringList{"--title", "A & B"}
-                           << "<title>A &amp; B</title>";
-    QTest::newRow("data-picture")
-        << "a.html"
-        << QByteArray("<img "
-                      "src='data:image/"
-                      "png;base64,iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+"
-                      "M9QDwADhgGAWjR9awAAAABJRU5ErkJggg=='>")
-        << QStringList{} << "a_files/";
-    QTest::newRow("web-picture") << "a.html" << QByteArray("<img src='http://example.com/x.png'>")
-                                 << QStringList{} << "src=\"http://example.com/x.png\"";
+                                          "c\0a\0f\0\xe9\0",
+                                          10)
+                            << QStringList{};
+    QTest::newRow("declared") << "a.html" << declared << QStringList{};
+    QTest::newRow("given") << "a.txt" << QByteArray("caf\xe9")
+                           << QStringList{"--encoding", "latin1"};
 }
 
-void tst_Mrv::inputs()
+void tst_Mrv::encodings()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, bytes);
     QFETCH(QStringList, options);
-    QFETCH(QString, expected);
     QVERIFY(writeBytes(in(name), bytes));
-    const Ran ran =
-        mrv(QStringList{"export", in(name), "--to", "xhtml", "-o", in("a.xhtml")} + options);
-    QCOMPARE(ran.errors, QString());
-    const QString page = QString::fromUtf8(bytesOf(in("a.xhtml")));
-    QVERIFY2(page.contains(expected), qPrintable(page));
+    QCOMPARE(
+        mrv(QStringList{"export", in(name), "--to", "xhtml", "-o", in("a.xhtml")} + options).errors,
+        QString());
+    QVERIFY(bytesOf(in("a.xhtml")).contains("caf\xc3\xa9"));
 }
 
 void tst_Mrv::manyInputs()

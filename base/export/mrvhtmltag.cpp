@@ -95,8 +95,13 @@ void applyRules(MRVHtmlTag *tag, MRVHtmlDialect dialect)
             continue;
         }
         if (rule.move == Move::Integer) {
-            tag->attributes[index].value =
-                QString::number(qRound(tag->attributes.at(index).value.toDouble()));
+            const int length =
+                qRound(qBound(-1.0, tag->attributes.at(index).value.toDouble(), 1e6));
+            if (length < 0) {
+                tag->take(name); // Qt's sign for a size that is not known
+            } else {
+                tag->attributes[index].value = QString::number(length);
+            }
         } else {
             tag->addStyle(declaration(rule, tag->take(name)));
         }
