@@ -56,10 +56,11 @@ mrv_install() {
         || mrv_fail "apt-get could not install ${missing[*]}; the lines above say why"
 }
 
-# mrv_build PRESET: configures where needed and builds. Several at once take turns.
+# mrv_build PRESET [TARGET...]: configures where needed and builds all, or the targets. Several at once take turns.
 # With MRV_QUIET=1 nothing is printed but what goes wrong and what configuring says.
 mrv_build() {
-    local dir="$root/build/$1" home=""
+    local preset="$1" dir="$root/build/$1" home=""
+    shift
     mkdir -p "$dir"
     # Closed for the children below: one that outlives them would keep the lock.
     exec 9> "$dir/.lock"
@@ -69,12 +70,12 @@ mrv_build() {
     fi
     # A build folder that was moved or copied with its checkout still points at the old place.
     if [ ! -f "$dir/build.ninja" ] || [ "$home" != "$root" ]; then
-        (cd "$root" && cmake --fresh --preset "$1") >&2 9>&- || mrv_fail "configuring failed"
+        (cd "$root" && cmake --fresh --preset "$preset") >&2 9>&- || mrv_fail "configuring failed"
     fi
     if [ "${MRV_QUIET:-0}" = 1 ]; then
-        ninja -C "$dir" --quiet 2>&1 9>&- | sed '/^ninja: no work to do\.$/d' >&2 9>&-
+        ninja -C "$dir" --quiet "$@" 2>&1 9>&- | sed '/^ninja: no work to do\.$/d' >&2 9>&-
     else
-        ninja -C "$dir" >&2 9>&-
+        ninja -C "$dir" "$@" >&2 9>&-
     fi || mrv_fail "building failed"
     exec 9>&-
 }
