@@ -10,10 +10,9 @@ namespace {
 QImage testCard(QImage::Format format)
 {
     QImage image(8, 4, QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixelColor(x, y, QColor(x * 30, y * 60, 255 - x * 30, y == 3 ? 0 : 255));
-    }
+    for (int i = 0; i < 32; ++i)
+        image.setPixelColor(i % 8, i / 8,
+                            QColor(i % 8 * 30, i / 8 * 60, 255 - i % 8 * 30, i < 24 ? 255 : 0));
     return image.convertToFormat(format);
 }
 
@@ -25,13 +24,11 @@ QByteArray pngOf(const QImage &image)
     return bytes;
 }
 
-// The header of a bitmap, which is all that it has.
-QByteArray bitmapClaiming(qint32 width, qint32 height)
+// The header of a square bitmap, which is all that it has.
+QByteArray bitmapClaiming(const QByteArray &size)
 {
-    QByteArray bytes = QByteArray::fromHex("424d 3a000000 00000000 36000000 28000000");
-    bytes.append(reinterpret_cast<const char *>(&width), 4);
-    bytes.append(reinterpret_cast<const char *>(&height), 4);
-    return bytes + QByteArray::fromHex("0100 1800") + QByteArray(28, 0);
+    return QByteArray::fromHex("424d3a0000000000000036000000 28000000" + size + size + "01001800")
+        + QByteArray(28, 0);
 }
 
 } // namespace
@@ -41,179 +38,169 @@ class TestImages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void resourceIdIgnoresFormat();
-    void resourceIdTellsApart();
-    void decodesImages_data();
-    void decodesImages();
-    void turnsPhotosUpright();
+    void resourceIdIgnoresFormat()
+    {
+        const QImage card = testCard(QImage::Format_ARGB32);
+        QImage dense = testCard(QImage::Format_RGBA8888);
+        dense.setDotsPerMeterX(9000);
+        dense.setText("Author", "x");
+        dense.setDevicePixelRatio(2);
+        QImage narrow(3, 4, QImage::Format_RGB888);
+        narrow.fill(QColor(77, 77, 77));
+        // Rows of nine bytes are padded to twelve, with whatever lay there.
+        QImage padded = narrow;
+        padded.scanLine(0)[11] ^= 0xff;
+        const auto id = &MRVGuiUtil::resourceId;
+        QCOMPARE(id(dense), id(card));
+        QCOMPARE(id(testCard(QImage::Format_RGBA64)), id(card));
+        QCOMPARE(id(padded), id(narrow));
+        for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32,
+                                  QImage::Format_Grayscale8, QImage::Format_Indexed8})
+            QCOMPARE(id(narrow.convertToFormat(format)), id(narrow));
+    }
+
+    void resourceIdTellsApart()
+    {
+        QCOMPARE(MRVGuiUtil::resourceId(QImage()), QString());
+        const QImage card = testCard(QImage::Format_ARGB32);
+        // Stored in documents, so it must never change.
+        QCOMPARE(MRVGuiUtil::resourceId(card),
+                 QString("img-63f2ad481e1193a7246c9fa177494039f6b3b260"));
+
+        QImage pixel = card;
+        pixel.setPixelColor(7, 2, QColor(1, 2, 3));
+        QImage alpha = card;
+        alpha.setPixelColor(0, 0, QColor(0, 0, 255, 254));
+        const QImage flat(card.constBits(), 32, 1, QImage::Format_ARGB32);
+        QImage deep = card.convertToFormat(QImage::Format_RGBA64);
+        deep.setPixelColor(0, 0, QColor::fromRgba64(1, 0, 0xffff));
+        QSet<QString> ids;
+        for (const QImage &image : {card, card.mirrored(), pixel, alpha, flat, deep})
+            ids << MRVGuiUtil::resourceId(image);
+        QCOMPARE(ids.size(), 6);
+    }
+
+    void decodesImages_data()
+    {
+        QTest::addColumn<QVariant>("data");
+        QTest::addColumn<QByteArray>("format");
+        QTest::addColumn<QSize>("size");
+        const QImage card = testCard(QImage::Format_ARGB32);
+        const QByteArray png = pngOf(card);
+        // A large picture of one colour is small as a file, and honest.
+        QImage large(7000, 6000, QImage::Format_Mono);
+        large.fill(0);
+        const auto row = [](const char *name, const QVariant &data, const QByteArray &format,
+                            const QSize &size) { QTest::newRow(name) << data << format << size; };
+        row("no-hint", png, {}, {8, 4});
+        row("wrong-hint", png, "JPG", {8, 4});
+        row("image", card, {}, {8, 4});
+        row("pixmap", QPixmap::fromImage(card), {}, {8, 4});
+        row("large-but-honest", pngOf(large), {}, {7000, 6000});
+        row("nothing", {}, {}, {0, 0});
+        row("file-name", "card.png", {}, {0, 0});
+        row("text", QByteArray("once upon a time"), "PNG", {0, 0});
+        row("header-only", png.left(8), {}, {0, 0});
+        row("claims-gigapixels", bitmapClaiming("a0860100"), {}, {0, 0});
+        row("claims-100-megapixels", bitmapClaiming("10270000"), {}, {0, 0});
+    }
+
+    void decodesImages()
+    {
+        QFETCH(QVariant, data);
+        QFETCH(QByteArray, format);
+        QFETCH(QSize, size);
+        const char *hint = format.isNull() ? nullptr : format.constData();
+        const QImage image = MRVGuiUtil::toImage(data, hint);
+        QCOMPARE(image.size(), size);
+        if (data.type() == QVariant::ByteArray)
+            QCOMPARE(MRVGuiUtil::toImage(data.toByteArray(), hint), image);
+        if (size == QSize(8, 4))
+            QCOMPARE(image, testCard(image.format()));
+    }
+
+    void turnsPhotosUpright()
+    {
+        QImage photo(64, 32, QImage::Format_RGB32);
+        photo.fill(Qt::white);
+        QByteArray jpeg = MRVGuiUtil::toByteArray(photo, "JPG", 90);
+        // An EXIF block, big-endian, with the one entry that the camera was turned by 90 degrees.
+        jpeg.insert(2,
+                    QByteArray::fromHex("ffe1 0022 457869660000 4d4d002a 00000008 0001"
+                                        "0112 0003 00000001 00060000 00000000"));
+        QCOMPARE(MRVGuiUtil::toImage(jpeg).size(), QSize(32, 64));
+    }
+
     void encodesImages_data() { addRows("imageformats.tsv", {"format", "detected"}); }
-    void encodesImages();
-    void imageFormats();
+
+    void encodesImages()
+    {
+        QFETCH(QString, format);
+        QFETCH(QString, detected);
+        const QByteArray name = format == "(empty)" ? QByteArray("") : format.toLatin1();
+        const char *hint = format == "(null)" ? nullptr : name.constData();
+        QImage glass(16, 16, QImage::Format_ARGB32);
+        glass.fill(Qt::transparent);
+        glass.setDevicePixelRatio(2);
+        glass.setDotsPerMeterX(11811);
+        QByteArray bytes = MRVGuiUtil::toByteArray(glass, hint, 100);
+        QBuffer buffer(&bytes);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QCOMPARE(QString(QImageReader::imageFormat(&buffer)), detected);
+        QCOMPARE(bytes.isEmpty(), detected.isEmpty());
+        QCOMPARE(MRVGuiUtil::toByteArray(glass, hint, 100), bytes);
+        QVERIFY(MRVGuiUtil::toByteArray(QImage(), hint).isEmpty());
+        if (detected.isEmpty())
+            return;
+        // What has no transparency shows white in its place.
+        const QImage read = MRVGuiUtil::toImage(bytes);
+        const QColor background = detected == "png" ? QColor(0, 0, 0, 0) : QColor(Qt::white);
+        QCOMPARE(read.size(), glass.size());
+        QCOMPARE(read.pixelColor(1, 1), background);
+        QCOMPARE(read.pixelColor(14, 14), background);
+        if (detected == "jpeg") {
+            QCOMPARE(read.dotsPerMeterX(), 11811);
+            const QImage card = testCard(QImage::Format_RGB32);
+            QVERIFY(MRVGuiUtil::toByteArray(card, hint, 10).size()
+                    < MRVGuiUtil::toByteArray(card, hint).size());
+        }
+    }
+
+    void imageFormats()
+    {
+        const QStringList readable = MRVGuiUtil::readImageFormats();
+        const QStringList writable = MRVGuiUtil::writeImageFormats();
+        QStringList both;
+        for (const QStringList &formats : {readable, writable}) {
+            QStringList sorted = formats.join(' ').toUpper().split(' ');
+            sorted.sort();
+            sorted.removeDuplicates();
+            QCOMPARE(formats, sorted);
+            for (const char *format : {"BMP", "JPG", "PNG", "JPEG", "TIFF", "SVGZ"})
+                QVERIFY2(formats.contains(format) == (strlen(format) == 3), format);
+        }
+        QVERIFY(readable.contains("GIF") && !writable.contains("GIF"));
+        for (const QString &format : writable) {
+            const QImage card = testCard(QImage::Format_RGB32);
+            QVERIFY2(!MRVGuiUtil::toByteArray(card, format.toLatin1()).isEmpty(),
+                     qPrintable(format));
+            if (readable.contains(format))
+                both << format;
+        }
+        QCOMPARE(MRVGuiUtil::readWriteImageFormats(), both);
+
+        const QStringList filters = MRVGuiUtil::readImageFileFilters();
+        QCOMPARE(filters.size(), readable.size() + 1);
+        for (const char *pattern : {"*.png", "*.jpg", "*.jpeg", "*.gif"})
+            QVERIFY2(filters.first().contains(pattern), pattern);
+        QVERIFY2(QRegExp("All Images \\(\\*\\..*\\)").exactMatch(filters[0]),
+                 qPrintable(filters[0]));
+        QVERIFY(filters.contains("JPG (*.jpg *.jpeg *.jpe *.jfif)"));
+        const QStringList writableFilters = MRVGuiUtil::writeImageFileFilters();
+        QCOMPARE(writableFilters.size(), writable.size());
+        QVERIFY(writableFilters.contains("PNG (*.png)"));
+    }
 };
-
-void TestImages::resourceIdIgnoresFormat()
-{
-    const QImage card = testCard(QImage::Format_ARGB32);
-    QImage dense = testCard(QImage::Format_RGBA8888);
-    dense.setDotsPerMeterX(9000);
-    dense.setText("Author", "x");
-    dense.setDevicePixelRatio(2);
-    QImage narrow(3, 4, QImage::Format_RGB888);
-    narrow.fill(QColor(77, 77, 77));
-    // Rows of nine bytes are padded to twelve, with whatever lay there.
-    QImage padded = narrow;
-    padded.scanLine(0)[11] ^= 0xff;
-    const auto id = &MRVGuiUtil::resourceId;
-    QCOMPARE(id(dense), id(card));
-    QCOMPARE(id(testCard(QImage::Format_RGBA64)), id(card));
-    QCOMPARE(id(padded), id(narrow));
-    for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32,
-                              QImage::Format_Grayscale8, QImage::Format_Indexed8})
-        QCOMPARE(id(narrow.convertToFormat(format)), id(narrow));
-}
-
-void TestImages::resourceIdTellsApart()
-{
-    QCOMPARE(MRVGuiUtil::resourceId(QImage()), QString());
-    const QImage card = testCard(QImage::Format_ARGB32);
-    // Stored in documents, so it must never change.
-    QCOMPARE(MRVGuiUtil::resourceId(card), QString("img-63f2ad481e1193a7246c9fa177494039f6b3b260"));
-
-    QImage pixel = card;
-    pixel.setPixelColor(7, 2, QColor(1, 2, 3));
-    QImage alpha = card;
-    alpha.setPixelColor(0, 0, QColor(0, 0, 255, 254));
-    const QImage flat(card.constBits(), 32, 1, QImage::Format_ARGB32);
-    QImage deep = card.convertToFormat(QImage::Format_RGBA64);
-    deep.setPixelColor(0, 0, QColor::fromRgba64(1, 0, 0xffff));
-    QImage deeper = deep;
-    deeper.setPixelColor(0, 0, QColor::fromRgba64(2, 0, 0xffff));
-    QSet<QString> ids;
-    for (const QImage &image : {card, card.mirrored(), pixel, alpha, flat, deep, deeper})
-        ids << MRVGuiUtil::resourceId(image);
-    QCOMPARE(ids.size(), 7);
-}
-
-void TestImages::decodesImages_data()
-{
-    QTest::addColumn<QVariant>("data");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QSize>("size");
-    const QImage card = testCard(QImage::Format_ARGB32);
-    const QByteArray png = pngOf(card);
-    // A large picture of one colour is small as a file, and honest.
-    QImage large(7000, 6000, QImage::Format_Mono);
-    large.fill(0);
-    const auto row = [](const char *name, const QVariant &data, const QByteArray &format,
-                        const QSize &size) { QTest::newRow(name) << data << format << size; };
-    row("no-hint", png, {}, {8, 4});
-    row("wrong-hint", png, "JPG", {8, 4});
-    row("unknown-hint", png, "XYZ", {8, 4});
-    row("image", card, {}, {8, 4});
-    row("pixmap", QPixmap::fromImage(card), {}, {8, 4});
-    row("large-but-honest", pngOf(large), {}, {7000, 6000});
-    row("nothing", {}, {}, {0, 0});
-    row("no-bytes", QByteArray(), {}, {0, 0});
-    row("file-name", "card.png", {}, {0, 0});
-    row("text", QByteArray("once upon a time"), "PNG", {0, 0});
-    row("header-only", png.left(8), {}, {0, 0});
-    row("claims-gigapixels", bitmapClaiming(100000, 100000), {}, {0, 0});
-    row("claims-100-megapixels", bitmapClaiming(10000, 10000), {}, {0, 0});
-}
-
-void TestImages::decodesImages()
-{
-    QFETCH(QVariant, data);
-    QFETCH(QByteArray, format);
-    QFETCH(QSize, size);
-    const char *hint = format.isNull() ? nullptr : format.constData();
-    const QImage image = MRVGuiUtil::toImage(data, hint);
-    QCOMPARE(image.size(), size);
-    if (data.type() == QVariant::ByteArray)
-        QCOMPARE(MRVGuiUtil::toImage(data.toByteArray(), hint), image);
-    if (size == QSize(8, 4))
-        QCOMPARE(image, testCard(image.format()));
-}
-
-void TestImages::turnsPhotosUpright()
-{
-    QImage photo(64, 32, QImage::Format_RGB32);
-    photo.fill(Qt::white);
-    QByteArray jpeg = MRVGuiUtil::toByteArray(photo, "JPG", 90);
-    // An EXIF block, big-endian, with the one entry that the camera was turned by 90 degrees.
-    jpeg.insert(2,
-                QByteArray::fromHex("ffe1 0022 457869660000 4d4d002a 00000008 0001"
-                                    "0112 0003 00000001 00060000 00000000"));
-    QCOMPARE(MRVGuiUtil::toImage(jpeg).size(), QSize(32, 64));
-}
-
-void TestImages::encodesImages()
-{
-    QFETCH(QString, format);
-    QFETCH(QString, detected);
-    const QByteArray name = format == "(empty)" ? QByteArray("") : format.toLatin1();
-    const char *hint = format == "(null)" ? nullptr : name.constData();
-    QImage glass(16, 16, QImage::Format_ARGB32);
-    glass.fill(Qt::transparent);
-    glass.setDevicePixelRatio(2);
-    glass.setDotsPerMeterX(11811);
-    QByteArray bytes = MRVGuiUtil::toByteArray(glass, hint, 100);
-    QBuffer buffer(&bytes);
-    QVERIFY(buffer.open(QIODevice::ReadOnly));
-    QCOMPARE(QString(QImageReader::imageFormat(&buffer)), detected);
-    QCOMPARE(bytes.isEmpty(), detected.isEmpty());
-    QCOMPARE(MRVGuiUtil::toByteArray(glass, hint, 100), bytes);
-    QVERIFY(MRVGuiUtil::toByteArray(QImage(), hint).isEmpty());
-    if (detected.isEmpty())
-        return;
-    // What has no transparency shows white in its place.
-    const QImage read = MRVGuiUtil::toImage(bytes);
-    const QColor background = detected == "png" ? QColor(0, 0, 0, 0) : QColor(Qt::white);
-    QCOMPARE(read.size(), glass.size());
-    QCOMPARE(read.pixelColor(1, 1), background);
-    QCOMPARE(read.pixelColor(14, 14), background);
-    if (detected == "jpeg") {
-        QCOMPARE(read.dotsPerMeterX(), 11811);
-        const QImage card = testCard(QImage::Format_RGB32);
-        QVERIFY(MRVGuiUtil::toByteArray(card, hint, 10).size()
-                < MRVGuiUtil::toByteArray(card, hint).size());
-    }
-}
-
-void TestImages::imageFormats()
-{
-    const QStringList readable = MRVGuiUtil::readImageFormats();
-    const QStringList writable = MRVGuiUtil::writeImageFormats();
-    QStringList both;
-    for (const QStringList &formats : {readable, writable}) {
-        QStringList sorted = formats.join(' ').toUpper().split(' ');
-        sorted.sort();
-        sorted.removeDuplicates();
-        QCOMPARE(formats, sorted);
-        for (const char *format : {"BMP", "JPG", "PNG"})
-            QVERIFY2(formats.contains(format), format);
-        for (const char *alias : {"JPEG", "TIFF", "SVGZ"})
-            QVERIFY2(!formats.contains(alias), alias);
-    }
-    QVERIFY(readable.contains("GIF") && !writable.contains("GIF"));
-    for (const QString &format : writable) {
-        const QImage card = testCard(QImage::Format_RGB32);
-        QVERIFY2(!MRVGuiUtil::toByteArray(card, format.toLatin1()).isEmpty(), qPrintable(format));
-        if (readable.contains(format))
-            both << format;
-    }
-    QCOMPARE(MRVGuiUtil::readWriteImageFormats(), both);
-
-    const QStringList filters = MRVGuiUtil::readImageFileFilters();
-    QCOMPARE(filters.size(), readable.size() + 1);
-    for (const char *pattern : {"*.png", "*.jpg", "*.jpeg", "*.gif"})
-        QVERIFY2(filters.first().contains(pattern), pattern);
-    QVERIFY2(QRegExp("All Images \\(\\*\\..*\\)").exactMatch(filters[0]), qPrintable(filters[0]));
-    QVERIFY(filters.contains("JPG (*.jpg *.jpeg *.jpe *.jfif)"));
-    const QStringList writableFilters = MRVGuiUtil::writeImageFileFilters();
-    QCOMPARE(writableFilters.size(), writable.size());
-    QVERIFY(writableFilters.contains("PNG (*.png)"));
-}
 
 QTEST_MAIN(TestImages)
 

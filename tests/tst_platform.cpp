@@ -82,239 +82,225 @@ class TestPlatform : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        m_dir.reset(new QTemporaryDir);
+        QVERIFY(m_dir->isValid());
+    }
+
     void writesFiles_data()
     {
         addRows("filewrites.tsv", {"target", "size", "room", "lands", "error"});
     }
-    void writesFiles();
+
+    void writesFiles()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, size);
+        QFETCH(QString, room);
+        QFETCH(QString, lands);
+        QFETCH(QString, error);
+        // "way/.." is the folder "deep", not the one that holds "way".
+        QVERIFY(QDir(m_dir->path()).mkpath("deep/folder") && QDir(m_dir->path()).mkdir("real"));
+        QVERIFY(writeBytes(path("real/novel"), "a million words"));
+        QCOMPARE(::chmod(qPrintable(path("real/novel")), 0604), 0);
+        QCOMPARE(::mkfifo(qPrintable(path("pipe")), 0600), 0);
+        for (const QStringList &link : rowsOf("links.tsv"))
+            QVERIFY(QFile::link(link.at(1), path(link.at(0))));
+        const QByteArray bytes = QByteArray("a\0\r\n\xff", 5).repeated(size.toInt() / 5);
+        QMap<QString, Entry> expected = entriesOf(m_dir->path());
+        if (error.isEmpty())
+            expected[lands] = {expected.value(lands, {0x6640, {}}).first, bytes};
+
+        rlimit old;
+        ::getrlimit(RLIMIT_FSIZE, &old);
+        const rlimit limit{room.isEmpty() ? old.rlim_cur : room.toULong(), old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const mode_t mask = ::umask(027);
+        QString message;
+        const bool written = MRVCoreUtil::WriteBinaryFile(bytes, path(target), &message);
+        ::umask(mask);
+        ::setrlimit(RLIMIT_FSIZE, &old);
+        QCOMPARE(written, error.isEmpty());
+        QCOMPARE(entriesOf(m_dir->path()), expected);
+        QVERIFY2(message.endsWith(error) && message.isEmpty() == written, qPrintable(message));
+        QVERIFY(written || message.contains(path(target).replace('\n', ' ')));
+        QVERIFY(written ? MRVCoreUtil::ReadBinaryFile(path(target)) == bytes
+                        : !message.contains('\n'));
+    }
+
     void textFiles_data()
     {
         addRows("textfiles.tsv", {"direction", "file", "codec", "text", "bytes", "error"});
     }
-    void textFiles();
+
+    void textFiles()
+    {
+        QFETCH(QString, direction);
+        QFETCH(QString, file);
+        QFETCH(QString, codec);
+        QFETCH(QString, text);
+        QFETCH(QString, bytes);
+        QFETCH(QString, error);
+        const QByteArray name = codec.toLatin1();
+        const char *hint = codec == "(null)" ? nullptr : name.constData();
+        const QByteArray raw = QByteArray::fromHex(bytes.toLatin1());
+        const bool good = error.isEmpty();
+        QString message;
+        if (direction != "read") {
+            QVERIFY(file != "t" || writeBytes(path(file), "old"));
+            QCOMPARE(MRVCoreUtil::WriteUnicodeTextFile(text, path(file), &message, hint), good);
+            QVERIFY(file != "t" || bytesOf(path(file)) == (good ? raw : "old"));
+            QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
+        }
+        if (direction != "write") {
+            message.clear();
+            QVERIFY(file != "t" || writeBytes(path(file), raw));
+            QCOMPARE(MRVCoreUtil::ReadUnicodeTextFile(path(file), &message, hint),
+                     good ? text : "");
+            QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
+        }
+        QVERIFY(good || message.contains(path(file)));
+    }
+
     void uniqueFileName_data() { addRows("uniquenames.tsv", {"taken", "name", "expected"}); }
-    void uniqueFileName();
+
+    void uniqueFileName()
+    {
+        QFETCH(QString, taken);
+        QFETCH(QString, name);
+        QFETCH(QString, expected);
+        for (const QString &file : taken.split(' ', Qt::SkipEmptyParts)) {
+            QVERIFY(QDir().mkpath(QFileInfo(path(file)).path()));
+            QVERIFY(file.startsWith('@') ? QFile::link("nowhere", path(file.mid(1)))
+                                         : writeBytes(path(file), "x"));
+        }
+        QCOMPARE(MRVCoreUtil::GetUniqueFileName(path(name)), path(expected));
+    }
+
     void calls_data() { addRows("platform.tsv", {"call", "input", "output"}); }
-    void calls();
+
+    void calls()
+    {
+        QFETCH(QString, call);
+        QFETCH(QString, input);
+        QFETCH(QString, output);
+        const double a = input.section(' ', 0, 0).toDouble();
+        const double b = input.section(' ', 1).toDouble();
+        // Qt reads the system's locale once, so each language needs a process of its own.
+        const QString program = QCoreApplication::applicationFilePath();
+        const QStringList environment = input.split('|') << "MORVANE_TRANSLATIONS=" + path("");
+        QVERIFY(writeBytes(path("mrvbase_pt_BR.qm"), "x"));
+        if (call == "isAppMorvane")
+            QCoreApplication::setApplicationName(input);
+        const QMap<QString, std::function<QString()>> functions{
+            {"compileDate",
+             [&] { return MRVCoreUtil::convertCompileStringDate(input).toString(Qt::ISODate); }},
+            {"wwwPattern", [&] { return found(MRVCoreUtil::wwwPattern(), input); }},
+            {"emailPattern", [&] { return found(MRVCoreUtil::emailPattern(), input); }},
+            {"webUrlPattern", [&] { return found(MRVCoreUtil::webUrlPattern(), input); }},
+            {"supportEmail",
+             [&] { return found(MRVCoreUtil::emailPattern(), MrvCore::supportEmail()); }},
+            {"toIntPair", [&] { return pairFrom(&MCoreType::toIntPair, input); }},
+            {"toDoublePair", [&] { return pairFrom(&MCoreType::toDoublePair, input); }},
+            {"mrvFuzzyCompare", [&] { return QString::number(mrvFuzzyCompare(a, b)); }},
+            {"isAppMorvane", [&] { return QString::number(MrvCore::isAppMorvane()); }},
+            {"systemGuiLanguageCode",
+             [&] { return run(program, {"--print-language"}, environment).output.trimmed(); }},
+        };
+        QVERIFY(functions.contains(call));
+        // Its months have other names, and its decimal sign is a comma.
+        QLocale::setDefault(QLocale(QLocale::German));
+        QCOMPARE(functions[call](), output);
+    }
+
     void patternsAreLinear_data() { addRows("slowtexts.tsv", {"start", "part"}); }
-    void patternsAreLinear();
-    void bytesOfMaps();
-    void bytesOfOthers();
-    void corruptBytes();
-    void guiLanguages();
-    void networkNeedsMoreThanLoopback();
-    void routeMeansNetwork();
+
+    void patternsAreLinear()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, part);
+        const QString text = start + part.repeated(200000 / part.size());
+        QElapsedTimer timer;
+        timer.start();
+        for (const QString &pattern :
+             {MRVCoreUtil::wwwPattern(), MRVCoreUtil::emailPattern(), MRVCoreUtil::webUrlPattern()})
+            found(pattern, text);
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void bytesOfMaps()
+    {
+        const Numbers map{{30, "c"}, {10, "a"}};
+        const QByteArray count = QByteArray::fromHex("00000002");
+        const QByteArray ten = QByteArray::fromHex("0000000a 00000002 0061");
+        const QByteArray thirty = QByteArray::fromHex("0000001e 00000002 0063");
+        const QByteArray bytes = MCoreType::toByteArray(map);
+        QCOMPARE(bytes.toHex(' '), (count + ten + thirty).toHex(' '));
+        QCOMPARE(MCoreType::fromByteArray<Numbers>(bytes + "later"), map);
+        // The order of Qt's own operator
+        QCOMPARE(MCoreType::fromByteArray<Numbers>(count + thirty + ten), map);
+    }
+
+    void bytesOfOthers()
+    {
+        QCOMPARE(MCoreType::toByteArray(QStringList{"b", ""}).toHex(),
+                 QByteArray("0000000200000002006200000000"));
+        const QDate day(2024, 2, 29);
+        QCOMPARE(MCoreType::fromByteArray<QDate>(MCoreType::toByteArray(day)), day);
+    }
+
+    void corruptBytes()
+    {
+        QVERIFY(refusesCorrupt(Numbers{{1, "one"}, {2, "two"}}));
+        QVERIFY(refusesCorrupt(QStringList{"one", "two"}));
+        QVERIFY(refusesCorrupt(QList<qint64>{1, 2}));
+    }
+
+    void guiLanguages()
+    {
+        qunsetenv("MORVANE_TRANSLATIONS");
+        QStringList expected =
+            MTranslator::morvaneGuiLanguages() + QStringList{"de", "fr", "pt_BR"};
+        QCOMPARE(expected.takeFirst(), QString("en"));
+        for (const char *name :
+             {"fr.qm", "de.qm", "pt_BR.qm", "en.qm", ".qm", "xx.qm", "C.qm", "es.ts"})
+            QVERIFY(writeBytes(path(QString("mrvbase_") + name), "x"));
+        QVERIFY(writeBytes(path("other_it.qm"), "x"));
+        qputenv("MORVANE_TRANSLATIONS", m_dir->path().toUtf8());
+        expected.sort();
+        expected.removeDuplicates();
+        QCOMPARE(MTranslator::morvaneGuiLanguages(), QStringList("en") + expected);
+        qunsetenv("MORVANE_TRANSLATIONS");
+    }
+
+    // A process in a network of its own sees nothing but the loopback, which it brings up.
+    void networkNeedsMoreThanLoopback()
+    {
+        const Ran ran = run("unshare",
+                            {"--user", "--map-root-user", "--net",
+                             QCoreApplication::applicationFilePath(), "--print-network"});
+        if (ran.exitCode != 0)
+            QSKIP("no network namespace can be made here");
+        QCOMPARE(ran.output, QString("down\n"));
+    }
+
+    void routeMeansNetwork()
+    {
+        // A route to anywhere
+        if (!bytesOf("/proc/net/route").contains("\t00000000\t"))
+            QSKIP("this machine has no network");
+        QVERIFY(MrvNetwork::isNetworkConnected());
+    }
 
 private:
     QString path(const QString &name) const
     {
         return name == "(null)" ? QString() : m_dir->path() + '/' + name;
     }
-    QString systemLanguage(const QString &locale, const QString &languages) const;
 
     QScopedPointer<QTemporaryDir> m_dir;
 };
-
-void TestPlatform::init()
-{
-    m_dir.reset(new QTemporaryDir);
-    QVERIFY(m_dir->isValid());
-}
-
-void TestPlatform::writesFiles()
-{
-    QFETCH(QString, target);
-    QFETCH(QString, size);
-    QFETCH(QString, room);
-    QFETCH(QString, lands);
-    QFETCH(QString, error);
-    // "way/.." is the folder "deep", not the one that holds "way".
-    QVERIFY(QDir(m_dir->path()).mkpath("deep/folder") && QDir(m_dir->path()).mkdir("real"));
-    QVERIFY(writeBytes(path("real/novel"), "a million words"));
-    QCOMPARE(::chmod(qPrintable(path("real/novel")), 0604), 0);
-    QCOMPARE(::mkfifo(qPrintable(path("pipe")), 0600), 0);
-    for (const QStringList &link : rowsOf("links.tsv"))
-        QVERIFY(QFile::link(link.at(1), path(link.at(0))));
-    const QByteArray bytes = QByteArray("a\0\r\n\xff", 5).repeated(size.toInt() / 5);
-    QMap<QString, Entry> expected = entriesOf(m_dir->path());
-    if (error.isEmpty())
-        expected[lands] = {expected.value(lands, {0x6640, {}}).first, bytes};
-
-    rlimit old;
-    ::getrlimit(RLIMIT_FSIZE, &old);
-    const rlimit limit{room.isEmpty() ? old.rlim_cur : room.toULong(), old.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    const mode_t mask = ::umask(027);
-    QString message;
-    const bool written = MRVCoreUtil::WriteBinaryFile(bytes, path(target), &message);
-    ::umask(mask);
-    ::setrlimit(RLIMIT_FSIZE, &old);
-    QCOMPARE(written, error.isEmpty());
-    QCOMPARE(entriesOf(m_dir->path()), expected);
-    QVERIFY2(message.endsWith(error) && message.isEmpty() == written, qPrintable(message));
-    QVERIFY(written || message.contains(path(target).replace('\n', ' ')));
-    QVERIFY(written ? MRVCoreUtil::ReadBinaryFile(path(target)) == bytes : !message.contains('\n'));
-}
-
-void TestPlatform::textFiles()
-{
-    QFETCH(QString, direction);
-    QFETCH(QString, file);
-    QFETCH(QString, codec);
-    QFETCH(QString, text);
-    QFETCH(QString, bytes);
-    QFETCH(QString, error);
-    const QByteArray name = codec.toLatin1();
-    const char *hint = codec == "(null)" ? nullptr : name.constData();
-    const QByteArray raw = QByteArray::fromHex(bytes.toLatin1());
-    const bool good = error.isEmpty();
-    QString message;
-    if (direction != "read") {
-        QVERIFY(file != "t" || writeBytes(path(file), "old"));
-        QCOMPARE(MRVCoreUtil::WriteUnicodeTextFile(text, path(file), &message, hint), good);
-        QVERIFY(file != "t" || bytesOf(path(file)) == (good ? raw : "old"));
-        QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
-    }
-    if (direction != "write") {
-        message.clear();
-        QVERIFY(file != "t" || writeBytes(path(file), raw));
-        QCOMPARE(MRVCoreUtil::ReadUnicodeTextFile(path(file), &message, hint), good ? text : "");
-        QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
-    }
-    QVERIFY(good || message.contains(path(file)));
-}
-
-void TestPlatform::uniqueFileName()
-{
-    QFETCH(QString, taken);
-    QFETCH(QString, name);
-    QFETCH(QString, expected);
-    for (const QString &file : taken.split(' ', Qt::SkipEmptyParts)) {
-        QVERIFY(QDir().mkpath(QFileInfo(path(file)).path()));
-        QVERIFY(file.startsWith('@') ? QFile::link("nowhere", path(file.mid(1)))
-                                     : writeBytes(path(file), "x"));
-    }
-    QCOMPARE(MRVCoreUtil::GetUniqueFileName(path(name)), path(expected));
-}
-
-// Qt reads the system's locale once, so each language needs a process of its own.
-QString TestPlatform::systemLanguage(const QString &locale, const QString &languages) const
-{
-    writeBytes(path("mrvbase_pt_BR.qm"), "x");
-    return run(QCoreApplication::applicationFilePath(), {"--print-system-language"},
-               {"LC_ALL=" + locale, "LANGUAGE=" + languages, "MORVANE_TRANSLATIONS=" + path("")})
-        .output.trimmed();
-}
-
-void TestPlatform::calls()
-{
-    QFETCH(QString, call);
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    const auto part = [&](char mark, int index) { return input.section(mark, index, index); };
-    const double a = part(' ', 0).toDouble();
-    const double b = part(' ', 1).toDouble();
-    if (call == "isAppMorvane")
-        QCoreApplication::setApplicationName(input);
-    const QMap<QString, std::function<QString()>> functions{
-        {"compileDate",
-         [&] { return MRVCoreUtil::convertCompileStringDate(input).toString(Qt::ISODate); }},
-        {"wwwPattern", [&] { return found(MRVCoreUtil::wwwPattern(), input); }},
-        {"emailPattern", [&] { return found(MRVCoreUtil::emailPattern(), input); }},
-        {"webUrlPattern", [&] { return found(MRVCoreUtil::webUrlPattern(), input); }},
-        {"supportEmail",
-         [&] { return found(MRVCoreUtil::emailPattern(), MrvCore::supportEmail()); }},
-        {"toIntPair", [&] { return pairFrom(&MCoreType::toIntPair, input); }},
-        {"toDoublePair", [&] { return pairFrom(&MCoreType::toDoublePair, input); }},
-        {"mrvFuzzyCompare", [&] { return QString::number(mrvFuzzyCompare(a, b)); }},
-        {"isAppMorvane", [&] { return QString::number(MrvCore::isAppMorvane()); }},
-        {"systemGuiLanguageCode", [&] { return systemLanguage(part('|', 0), part('|', 1)); }},
-    };
-    QVERIFY(functions.contains(call));
-    // Its months have other names, and its decimal sign is a comma.
-    QLocale::setDefault(QLocale(QLocale::German));
-    QCOMPARE(functions[call](), output);
-}
-
-void TestPlatform::patternsAreLinear()
-{
-    QFETCH(QString, start);
-    QFETCH(QString, part);
-    const QString text = start + part.repeated(200000 / part.size());
-    QElapsedTimer timer;
-    timer.start();
-    for (const QString &pattern :
-         {MRVCoreUtil::wwwPattern(), MRVCoreUtil::emailPattern(), MRVCoreUtil::webUrlPattern()})
-        found(pattern, text);
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
-}
-
-void TestPlatform::bytesOfMaps()
-{
-    const Numbers map{{30, "c"}, {10, "a"}};
-    const QByteArray count = QByteArray::fromHex("00000002");
-    const QByteArray ten = QByteArray::fromHex("0000000a 00000002 0061");
-    const QByteArray thirty = QByteArray::fromHex("0000001e 00000002 0063");
-    const QByteArray bytes = MCoreType::toByteArray(map);
-    QCOMPARE(bytes.toHex(' '), (count + ten + thirty).toHex(' '));
-    QCOMPARE(MCoreType::fromByteArray<Numbers>(bytes + "later"), map);
-    // The order of Qt's own operator
-    QCOMPARE(MCoreType::fromByteArray<Numbers>(count + thirty + ten), map);
-}
-
-void TestPlatform::bytesOfOthers()
-{
-    QCOMPARE(MCoreType::toByteArray(QStringList{"b", ""}).toHex(),
-             QByteArray("00000002"
-                        "00000002"
-                        "0062"
-                        "00000000"));
-    const QDate day(2024, 2, 29);
-    QCOMPARE(MCoreType::fromByteArray<QDate>(MCoreType::toByteArray(day)), day);
-}
-
-void TestPlatform::corruptBytes()
-{
-    QVERIFY(refusesCorrupt(Numbers{{1, "one"}, {2, "two"}}));
-    QVERIFY(refusesCorrupt(QStringList{"one", "two"}));
-    QVERIFY(refusesCorrupt(QList<qint64>{1, 2}));
-}
-
-void TestPlatform::guiLanguages()
-{
-    qunsetenv("MORVANE_TRANSLATIONS");
-    QStringList expected = MTranslator::morvaneGuiLanguages() + QStringList{"de", "fr", "pt_BR"};
-    QCOMPARE(expected.takeFirst(), QString("en"));
-    for (const char *name :
-         {"mrvbase_fr.qm", "mrvbase_de.qm", "mrvbase_pt_BR.qm", "mrvbase_en.qm", "mrvbase_.qm",
-          "mrvbase_xx.qm", "mrvbase_C.qm", "other_it.qm", "mrvbase_es.ts"})
-        QVERIFY(writeBytes(path(name), "x"));
-    qputenv("MORVANE_TRANSLATIONS", m_dir->path().toUtf8());
-    expected.sort();
-    expected.removeDuplicates();
-    QCOMPARE(MTranslator::morvaneGuiLanguages(), QStringList("en") + expected);
-    qunsetenv("MORVANE_TRANSLATIONS");
-}
-
-// A process in a network of its own sees nothing but the loopback, which it brings up.
-void TestPlatform::networkNeedsMoreThanLoopback()
-{
-    const Ran ran = run("unshare",
-                        {"--user", "--map-root-user", "--net",
-                         QCoreApplication::applicationFilePath(), "--print-network"});
-    if (ran.exitCode != 0)
-        QSKIP("no network namespace can be made here");
-    QCOMPARE(ran.output, QString("down\n"));
-}
-
-void TestPlatform::routeMeansNetwork()
-{
-    // A route to anywhere
-    if (!bytesOf("/proc/net/route").contains("\t00000000\t"))
-        QSKIP("this machine has no network");
-    QVERIFY(MrvNetwork::isNetworkConnected());
-}
 
 static bool bringUpLoopback()
 {
@@ -331,7 +317,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
     const QByteArray task = argc > 1 ? argv[1] : "";
-    if (task == "--print-system-language")
+    if (task == "--print-language")
         return puts(qPrintable(MTranslator::systemGuiLanguageCode())) < 0;
     if (task == "--print-network")
         return !bringUpLoopback() || puts(MrvNetwork::isNetworkConnected() ? "up" : "down") < 0;
