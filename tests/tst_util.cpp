@@ -30,13 +30,13 @@ QString printed(const T &value)
 
 QString mimeType(int row)
 {
+    using namespace MRV;
     const QStringList types = QStringList()
-        << MRV::ProjectNodeMimeType << MRV::TitleSynopsisMimeType << MRV::FernwickNotesMimeType
-        << MRV::FernwickGroupedNotesMimeType << MRV::UriListMimeType << MRV::KeywordsMimeType
-        << MRV::ReferencesMimeType << MRV::CommentsMimeType << MRV::TextCursorPosMimeType
-        << MRV::CharFormatMimeType << MRV::DocumentReferenceMimeType << MRV::LinksMimeType
-        << MRV::TocMimeType << MRV::FontMimeType << MRV::RulerMimeType << MRV::FormattingMimeType
-        << MRV::MorvaneMarkupRtfMimeType << MRV::OdfMimeType;
+        << ProjectNodeMimeType << TitleSynopsisMimeType << FernwickNotesMimeType
+        << FernwickGroupedNotesMimeType << UriListMimeType << KeywordsMimeType << ReferencesMimeType
+        << CommentsMimeType << TextCursorPosMimeType << CharFormatMimeType
+        << DocumentReferenceMimeType << LinksMimeType << TocMimeType << FontMimeType
+        << RulerMimeType << FormattingMimeType << MorvaneMarkupRtfMimeType << OdfMimeType;
     return types.value(row);
 }
 
@@ -66,58 +66,52 @@ private Q_SLOTS:
 
     void calls()
     {
+        using namespace MRV;
         QFETCH(QString, call);
         QFETCH(QString, input);
         QFETCH(QString, output);
         const int i = input.toInt();
+        const QStringList parts = input.split('|');
         int number = 77;
         QMimeData mime;
         mime.setData("application/morvane.node", QByteArray::fromHex(input.toLatin1()));
         const auto text = [](int value) { return QString::number(value); };
         const QMap<QString, std::function<QString()>> functions{
-            {"toHtmlEncoded", [&] { return MRV::toHtmlEncoded(input); }},
-            {"escape", [&] { return MRV::escape(input); }},
-            {"toHtmlTooltipFormat", [&] { return MRV::toHtmlTooltipFormat(input); }},
-            {"stripAutoNumberEnding", [&] { return MRV::stripAutoNumberEnding(input); }},
-            {"autoNumber",
-             [&] { return (MRV::stripAutoNumberEnding(input, &number), text(number)); }},
-            {"adjustName", [&] { return MRV::adjustName(input); }},
-            {"cleanFileName", [&] { return MRV::cleanFileName(input); }},
-            {"cleanFileNameRegExp", [&] { return MRV::cleanFileNameRegExp(input); }},
-            {"cleanFileName with", [&] { return MRV::cleanFileName(input.mid(1), input[0]); }},
+            {"toHtmlEncoded", [&] { return toHtmlEncoded(input); }},
+            {"escape", [&] { return escape(input); }},
+            {"toHtmlTooltipFormat", [&] { return toHtmlTooltipFormat(input); }},
+            {"stripAutoNumberEnding", [&] { return stripAutoNumberEnding(input); }},
+            {"autoNumber", [&] { return (stripAutoNumberEnding(input, &number), text(number)); }},
+            {"adjustName", [&] { return adjustName(input); }},
+            {"cleanFileName", [&] { return cleanFileName(input); }},
+            {"cleanFileNameRegExp", [&] { return cleanFileNameRegExp(input); }},
+            {"cleanFileName with", [&] { return cleanFileName(input.mid(1), input[0]); }},
             {"cleanFileNameRegExp with",
-             [&] { return MRV::cleanFileNameRegExp(input.mid(1), input[0]); }},
-            {"specialFileNameChars", [&] { return sorted(MRV::specialFileNameChars()); }},
-            {"colorToFloatString", [&] { return MRV::colorToFloatString(QColor(input)); }},
-            {"floatStringToColor", [&] { return colorName(MRV::floatStringToColor(input)); }},
-            {"textColorForBackground", [&] { return MRV::textColorForBackground(input).name(); }},
-            {"OpenInTarget", [&] { return MRV::toString(MRV::OpenInTarget(i)); }},
-            {"SeparatorContext", [&] { return MRV::toString(MRV::SeparatorContext(i)); }},
-            {"SeparatorType", [&] { return MRV::toString(MRV::SeparatorType(i)); }},
-            {"NodeType", [&] { return MRV::toString(MRV::NodeType(i)); }},
-            {"NodeType toStringTr", [&] { return MRV::toStringTr(MRV::NodeType(i)); }},
-            {"toOpenInTarget", [&] { return text(MRV::toOpenInTarget(input)); }},
-            {"toSeparatorType", [&] { return text(MRV::toSeparatorType(input)); }},
-            {"viewModeToAppView", [&] { return text(MRV::viewModeToAppView(MRV::ViewMode(i))); }},
-            {"isFreeTextColumn", [&] { return text(MRV::isFreeTextColumn(MRV::Columns(i))); }},
+             [&] { return cleanFileNameRegExp(input.mid(1), input[0]); }},
+            {"specialFileNameChars", [&] { return sorted(specialFileNameChars()); }},
+            {"colorToFloatString", [&] { return colorToFloatString(QColor(input)); }},
+            {"floatStringToColor", [&] { return colorName(floatStringToColor(input)); }},
+            {"textColorForBackground", [&] { return textColorForBackground(input).name(); }},
+            {"OpenInTarget", [&] { return toString(OpenInTarget(i)); }},
+            {"SeparatorContext", [&] { return toString(SeparatorContext(i)); }},
+            {"SeparatorType", [&] { return toString(SeparatorType(i)); }},
+            {"NodeType", [&] { return toString(NodeType(i)); }},
+            {"NodeType toStringTr", [&] { return toStringTr(NodeType(i)); }},
+            {"toOpenInTarget", [&] { return text(toOpenInTarget(input)); }},
+            {"toSeparatorType", [&] { return text(toSeparatorType(input)); }},
+            {"viewModeToAppView", [&] { return text(viewModeToAppView(ViewMode(i))); }},
+            {"isFreeTextColumn", [&] { return text(isFreeTextColumn(Columns(i))); }},
             {"opmlImportTypesDescr",
-             [&] { return MRV::opmlImportTypesDescr().value(MRV::OpmlImportType(i)); }},
-            {"opmlImportTypesDescrSorted",
-             [&] { return MRV::opmlImportTypesDescrSorted().join('|'); }},
-            {"CompileNoteFlags",
-             [&] { return printed(MRV::CompileNoteFlags(input.toInt(nullptr, 16))); }},
-            {"parseProjectNodeMimeTypePath",
-             [&] { return MRV::parseProjectNodeMimeTypePath(&mime); }},
-            {"parseProjectNodeMimeType",
-             [&] { return printed(MRV::parseProjectNodeMimeType(&mime)); }},
-            {"rtfMimeTypes", [&] { return MRV::rtfMimeTypes().join('|'); }},
+             [&] { return opmlImportTypesDescr().value(OpmlImportType(i)); }},
+            {"opmlImportTypesDescrSorted", [&] { return opmlImportTypesDescrSorted().join('|'); }},
+            {"CompileNoteFlags", [&] { return printed(CompileNoteFlags(i)); }},
+            {"parseProjectNodeMimeTypePath", [&] { return parseProjectNodeMimeTypePath(&mime); }},
+            {"parseProjectNodeMimeType", [&] { return printed(parseProjectNodeMimeType(&mime)); }},
+            {"rtfMimeTypes", [&] { return rtfMimeTypes().join('|'); }},
             {"mimeType", [&] { return mimeType(i); }},
-            {"mimeTypeForSuffix", [&] { return sorted(MRV::mimeTypeForSuffix(input)); }},
-            {"suffixForMimeType", [&] { return sorted(MRV::suffixForMimeType(input)); }},
-            {"createFormatFilter",
-             [&] {
-                 return MRV::createFormatFilter(input.section('|', 0, 0), input.split('|').mid(1));
-             }},
+            {"mimeTypeForSuffix", [&] { return sorted(mimeTypeForSuffix(input)); }},
+            {"suffixForMimeType", [&] { return sorted(suffixForMimeType(input)); }},
+            {"createFormatFilter", [&] { return createFormatFilter(parts[0], parts.mid(1)); }},
         };
         QVERIFY(functions.contains(call));
         Mirror mirror;
