@@ -16,14 +16,6 @@ QImage testCard(QImage::Format format)
     return image.convertToFormat(format);
 }
 
-QByteArray pngOf(const QImage &image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
-
 // The header of a square bitmap, which is all that it has.
 QByteArray bitmapClaiming(const QByteArray &size)
 {
@@ -81,7 +73,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("format");
         QTest::addColumn<QSize>("size");
         const QImage card = testCard(QImage::Format_ARGB32);
-        const QByteArray png = pngOf(card);
+        const QByteArray png = MRVGuiUtil::toByteArray(card, "PNG");
         // A large picture of one colour is small as a file, and honest.
         QImage large(7000, 6000, QImage::Format_Mono);
         large.fill(0);
@@ -96,7 +88,7 @@ private Q_SLOTS:
         row("wrong-hint", png, "JPG", {8, 4});
         row("image", card, {}, {8, 4});
         row("pixmap", QPixmap::fromImage(card), {}, {8, 4});
-        row("large-but-honest", pngOf(large), {}, {7000, 6000});
+        row("large-but-honest", MRVGuiUtil::toByteArray(large, "PNG"), {}, {7000, 6000});
         row("turned-photo", photo, {}, {32, 64});
         row("nothing", {}, {}, {0, 0});
         row("file-name", "card.png", {}, {0, 0});
@@ -126,7 +118,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, format);
         QFETCH(QString, detected);
-        const QByteArray name = format == "(empty)" ? QByteArray("") : format.toLatin1();
+        const QByteArray name = format.toLatin1();
         const char *hint = format == "(null)" ? nullptr : name.constData();
         QImage glass(16, 16, QImage::Format_ARGB32);
         glass.fill(Qt::transparent);
