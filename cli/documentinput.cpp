@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCodec>
@@ -138,6 +139,7 @@ bool locatePictures(QTextDocument *document, const QString &folder, QString *rea
         QTextCharFormat format;
     };
     QVector<Run> runs;
+    QHash<QString, QString> known; // an ornament may be shown a thousand times: path by name
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
@@ -145,12 +147,15 @@ bool locatePictures(QTextDocument *document, const QString &folder, QString *rea
             if (!image.isValid() || isElsewhere(image.name())) {
                 continue;
             }
-            const QString path = localFile(image.name(), folder);
-            QString unreadable;
-            const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
-            if (MRVGuiUtil::toImage(bytes).isNull()) {
-                *reason = QStringLiteral("the picture %1 cannot be read").arg(image.name());
-                return false;
+            QString &path = known[image.name()];
+            if (path.isEmpty()) {
+                path = localFile(image.name(), folder);
+                // A pipe or a device in a picture's place would never end.
+                const bool file = QFileInfo(path).isFile();
+                if (!file || MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path)).isNull()) {
+                    *reason = QStringLiteral("the picture %1 cannot be read").arg(image.name());
+                    return false;
+                }
             }
             QTextCharFormat format = image;
             format.setProperty(QTextFormat::ImageName, path);
