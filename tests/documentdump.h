@@ -36,12 +36,12 @@ inline int propertyFrom(const QString &name)
 }
 
 /// A value as text and the types that it is converted to, one after the other: "red:QColor:QBrush".
-/// Without text, it is the default value of the first type.
+/// Without text, it is the default value of the first type; "_" stands for a blank.
 inline QVariant valueFrom(const QString &text)
 {
     QStringList types = text.split(':');
-    QVariant value = types.takeFirst();
-    if (value.toString().isEmpty() && !types.isEmpty())
+    QVariant value = types.takeFirst().replace('_', ' ');
+    if (text.startsWith(':'))
         value = QVariant(QMetaType::type(types.takeFirst().toLatin1()), nullptr);
     for (const QString &type : types)
         value.convert(QMetaType::type(type.toLatin1()));
@@ -53,8 +53,10 @@ template<typename Format>
 Format formatFrom(const QString &text)
 {
     Format format;
-    for (const QString &property : text.split(' ', Qt::SkipEmptyParts))
-        format.setProperty(propertyFrom(property.section('=', 0, 0)),
-                           valueFrom(property.section('=', 1)));
+    for (const QString &part : text.split(' ', Qt::SkipEmptyParts))
+        format.setProperty(propertyFrom(part.section('=', 0, 0)), valueFrom(part.section('=', 1)));
     return format;
 }
+
+constexpr auto chars = formatFrom<QTextCharFormat>;
+constexpr auto blocks = formatFrom<QTextBlockFormat>;
