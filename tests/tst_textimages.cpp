@@ -1,29 +1,25 @@
 #include "core/mrvcoreutil.h"
+#include "datarows.h"
 #include "documentdump.h"
 #include "gui/mrvguiutil.h"
 #include "text/mrvtextformat.h"
 #include "text/mtextdoc.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTextBlock>
+#include <QImageReader>
 #include <QTextCursor>
-#include <QTextDocument>
-#include <QtTest>
 
 namespace {
 
-QImage picture(const QColor &color, int size = 6)
+QImage picture(const QColor &color)
 {
-    QImage image(size, size, QImage::Format_ARGB32);
+    QImage image(6, 6, QImage::Format_ARGB32);
     image.fill(color);
     return image;
 }
 
-QByteArray png(const QImage &image)
+QString idOf(const QColor &color)
 {
-    return MRVGuiUtil::toByteArray(image, "PNG");
+    return MRVGuiUtil::resourceId(picture(color));
 }
 
 bool write(const QString &path, const QByteArray &bytes)
@@ -31,54 +27,50 @@ bool write(const QString &path, const QByteArray &bytes)
     return MRVCoreUtil::WriteBinaryFile(bytes, path);
 }
 
-QTextImageFormat imageFormat(const QString &id, const QString &name = QString())
+/// An image given as "id;name;colour;type;link;raw"; "@red" is the id made from a red picture.
+QTextImageFormat imageFormat(const QString &text)
 {
+    const QStringList fields = text.split(';');
     QTextImageFormat format;
-    format.setName(id);
-    if (!name.isNull())
-        format.setProperty(MRVTextFormat::ImageNameProperty, name);
+    format.setName(text.startsWith('@') ? idOf(fields.at(0).mid(1)) : fields.at(0));
+    const int properties[] = {MRVTextFormat::ImageNameProperty, 0, MRVTextFormat::ImageTypeProperty,
+                              MRVTextFormat::ImageLinkProperty,
+                              MRVTextFormat::ImageRawDataProperty};
+    for (int i = 1; i < fields.size(); ++i)
+        if (i != 2 && !fields.at(i).isEmpty())
+            format.setProperty(properties[i - 1], fields.at(i));
     return format;
 }
 
-/// Puts an image at the end of the document, with a resource unless the picture is null.
-void insert(QTextDocument *document, const QTextImageFormat &format, const QImage &image)
+/// A document of images with "|" between them, with resources for those that have a colour.
+struct Document : QTextDocument
 {
-    if (!image.isNull())
-        document->addResource(QTextDocument::ImageResource, QUrl(format.name()), image);
-    QTextCursor cursor(document);
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertImage(format);
-}
-
-/// Forgets how the document was made.
-QStringList settled(QTextDocument *document)
-{
-    document->clearUndoRedoStacks();
-    document->setModified(false);
-    return documentDump(*document);
-}
-
-QStringList ids(const QTextDocument &document)
-{
-    QStringList list;
-    const auto formats = MTextDoc::imageFormats(document);
-    for (const QTextImageFormat &format : formats)
-        list << MTextDoc::imageResourceId(format);
-    return list;
-}
-
-QImage resource(const QTextDocument &document, const QString &id)
-{
-    return MTextDoc::image(document, imageFormat(id));
-}
-
-QStringList fileNames(const QStringList &paths)
-{
-    QStringList names;
-    for (const QString &path : paths)
-        names << QFileInfo(path).fileName();
-    return names;
-}
+    Document(const QString &text)
+    {
+        QTextCursor cursor(this);
+        for (const QString &image : text.split('|', Qt::SkipEmptyParts)) {
+            const QString color = image.section(';', 2, 2);
+            if (!color.isEmpty())
+                addResource(ImageResource, QUrl(imageFormat(image).name()), picture(color));
+            cursor.insertImage(imageFormat(image));
+        }
+        clearUndoRedoStacks();
+        setModified(false);
+    }
+    /// Id, name and colour of each image.
+    QString text() const
+    {
+        QStringList images;
+        for (const QTextImageFormat &format : MTextDoc::imageFormats(*this)) {
+            const QString id = MRVGuiUtil::resourceId(MTextDoc::image(*this, format));
+            images << format.name() + ';' + MTextDoc::imageName(format) + ';' + id;
+        }
+        QString text = images.join('|');
+        for (const QString name : {"red", "green", "blue"})
+            text.replace(idOf(name), '@' + name);
+        return text.replace(";@", ";");
+    }
+};
 
 } // namespace
 
@@ -86,531 +78,186 @@ class TestTextImages : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-
-    void exportFormat_data();
-    void exportFormat();
-    void exportOntoLinkedFile();
-    void exportFailureLeavesNoStaleFile();
-    void exportJpegOnWhite();
-
-    void fixHtmlImages_data();
-    void fixHtmlImages();
-    void fixHtmlImagesOfFileNotLoadedByQt();
-    void fixLeavesOthersAlone();
-    void convertUnique();
-    void convertUniqueCrossedIds();
-    void convertUniqueWithoutChange();
-    void rekeyWithBaseUrl();
-
-    void onlyOneImage_data();
-    void onlyOneImage();
-    void lists();
-    void dumpInfo();
-
-    void findUniqueString_data();
-    void findUniqueString();
-    void uniqueInDocument();
-    void mmdImageName_data();
-    void mmdImageName();
-
-    void exportIntoFolder_data();
-    void exportIntoFolder();
-    void exportUsed();
-    void exportAll();
-    void exportNothing();
-
 private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
 
     QScopedPointer<QTemporaryDir> m_dir;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir.reset(new QTemporaryDir);
+        QVERIFY(m_dir->isValid() && QDir::setCurrent(m_dir->path()));
+    }
+
+    void exportFormat_data()
+    {
+        addRows("exportedimages.tsv", {"name", "target", "link", "raw", "picture", "expected"});
+    }
+    void exportFormat()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, link);
+        QFETCH(QString, raw);
+        QFETCH(QString, expected);
+        QVERIFY(link.isEmpty() || write(path(link), "linked bytes"));
+        const QString file = target.isEmpty() ? "" : path(target);
+        // A failure leaves no file of before, either.
+        QVERIFY(target.isEmpty() || target.contains('/') || write(file, "old"));
+        const auto format = imageFormat("id;;;;" + (link.isEmpty() ? "" : path(link)) + ';' + raw);
+        QFETCH(QString, picture);
+        const bool done = MRVTextFormat::exportImageFormat(
+            file, format, picture.isEmpty() ? QImage() : ::picture(Qt::transparent));
+        QCOMPARE(done, !expected.isEmpty());
+        QCOMPARE(QFile::exists(file), done);
+        const QByteArray type = QImageReader::imageFormat(file);
+        QVERIFY(type != "jpeg" || QImage(file).pixelColor(2, 2).lightness() > 250);
+        if (done)
+            QCOMPARE(type.isEmpty() ? MRVCoreUtil::ReadBinaryFile(file) : type,
+                     expected.toLatin1());
+    }
+
+    void exportOntoLinkedFile()
+    {
+        QVERIFY(write(path("l.png"), "linked bytes")
+                && QFile::link(path("l.png"), path("same.png")));
+        for (const char *name : {"l.png", "./l.png", "same.png"}) {
+            QVERIFY(MRVTextFormat::exportImageFormat(
+                path(name), imageFormat("id;;;;" + path("l.png")), picture(Qt::red)));
+            QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("l.png")), QByteArray("linked bytes"));
+            QVERIFY(QFileInfo(path("same.png")).isSymLink());
+        }
+    }
+
+    void rekey_data()
+    {
+        addRows("rekeyedimages.tsv", {"images", "name", "file", "before", "after"});
+    }
+    // In one undo step, or in none if nothing changes; resources of old ids are gone.
+    void rekey()
+    {
+        QFETCH(QString, images);
+        QFETCH(QString, file);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QVERIFY(QDir().mkdir("base") && write(path("text.png"), "no picture"));
+        QVERIFY(file.isEmpty() || picture("green").save(path(file)));
+        Document document(before.replace("%1", m_dir->path()));
+        document.addResource(QTextDocument::ImageResource, QUrl::fromLocalFile(path("base/beside")),
+                             picture("red"));
+        if (before == "beside" || file.startsWith("base/"))
+            document.setBaseUrl(QUrl::fromLocalFile(path("base/page.html")));
+        const QStringList dump = documentDump(document);
+        const QList<QTextImageFormat> old = MTextDoc::imageFormats(document);
+        const auto convert = images == "html" ? MTextDoc::fixHtmlImageFormatsAndResourceIds
+                                              : MTextDoc::convertUniqueImageResources;
+        convert(&document);
+        convert(nullptr);
+        QVERIFY(file.isEmpty() || QFile::remove(path(file)));
+        QCOMPARE(document.text(), after.replace("%1", m_dir->path()));
+        // Qt keeps what it has loaded from a file by itself.
+        for (const QTextImageFormat &format : old)
+            QVERIFY(images == "html" || after.contains(format.name())
+                    || format.name().startsWith("img-")
+                    || MTextDoc::image(document, format).isNull());
+        document.setBaseUrl(QUrl());
+        QCOMPARE(document.text(), after);
+        const bool changed = documentDump(document) != dump;
+        QCOMPARE(document.isModified(), changed);
+        document.undo();
+        QCOMPARE(documentDump(document), dump);
+        QVERIFY(!document.isUndoAvailable());
+        QCOMPARE(document.isRedoAvailable(), changed);
+    }
+
+    void lists()
+    {
+        const Document document("red;Rose;red;JPG;/rose.jpg;1234|red;Rose;;JPG;/"
+                                "rose.jpg;1234|blue;;blue|gone;Lost|gone;Lost");
+        QCOMPARE(MTextDoc::imageResourceIds(document), (QSet<QString>{"red", "blue", "gone"}));
+        QCOMPARE(MTextDoc::imageNames(document),
+                 (QStringList{"Rose", "Rose", "blue", "Lost", "Lost"}));
+        const QImage red = picture(Qt::red), blue = picture(Qt::blue);
+        QCOMPARE(MTextDoc::imagesWithResourceIds(document),
+                 (QMap<QString, QImage>{{"red", red}, {"blue", blue}}));
+        QCOMPARE(MTextDoc::imagesWithNames(document),
+                 (QList<QPair<QString, QImage>>{{"Rose", red}, {"Rose", red}, {"blue", blue}}));
+        QVERIFY(!MTextDoc::onlyOneImageWithResourceId(document, "red"));
+        for (const char *id : {"blue", "gone", "none"})
+            QVERIFY(MTextDoc::onlyOneImageWithResourceId(document, id));
+        QCOMPARE(MTextDoc::dumpImageInfo(document).section('\n', 1, 1),
+                 QString("1\tred\tRose\tJPG\t6x6\t4\t/rose.jpg"));
+        QCOMPARE(MTextDoc::dumpImageInfo(document).section('\n', 3, 3),
+                 QString("3\tgone\tLost\tPNG\tnone\t0\t"));
+        QCOMPARE(MTextDoc::uniqueResourceId(document, "red"), QString("red_1"));
+        QCOMPARE(MTextDoc::uniqueImageName(document, "Rose"), QString("Rose_1"));
+        QCOMPARE(MTextDoc::uniqueImageName(document, "red"), QString("red"));
+    }
+
+    void names_data() { addRows("imagenames.tsv", {"kind", "name", "taken", "expected"}); }
+    void names()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, name);
+        QFETCH(QString, taken);
+        QVERIFY(write(path("photo.large.png"), "x"));
+        const QStringList list = taken.split(',');
+        const QSet<QString> set(list.begin(), list.end());
+        QTEST(kind == "mmd" ? MTextDoc::mmdImageName(name)
+                            : MTextDoc::findUniqueString(name.replace("%1", m_dir->path()), set),
+              "expected");
+    }
+
+    void exportIntoFolder_data()
+    {
+        addRows("imagefilenames.tsv", {"row", "name", "type", "mmd", "expected"});
+        const QString rose = QString::fromUtf8("\U0001F339");
+        QTest::newRow("long") << "" << QString(5000, 'x') << ""
+                              << "" << QString(200, 'x') + ".png";
+        QTest::newRow("pairs") << "" << rose.repeated(99) << ""
+                               << "" << rose.repeated(50) + ".png";
+    }
+    void exportIntoFolder()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, type);
+        QFETCH(QString, mmd);
+        QFETCH(QString, expected);
+        const Document document("id;;red");
+        QTextImageFormat format = imageFormat("id;;;" + type);
+        format.setProperty(MRVTextFormat::ImageNameProperty, name);
+        const QDir folder(path("new/images"));
+        const QString file =
+            MTextDoc::exportImageFormat(document, format, folder, !mmd.isEmpty(), nullptr);
+        QCOMPARE(file, expected.isEmpty() ? QString() : folder.path() + '/' + expected);
+        QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden).join('|'), expected);
+        QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"new"});
+    }
+
+    void exportAll()
+    {
+        const Document document("red;Rose;red|none;Rose|blue;Rose;blue|red;A_b|red;A_b");
+        // A file of before is replaced.
+        QVERIFY(write(path("Rose.png"), "old"));
+        const auto names = [this](const QStringList &paths) {
+            return QString(paths.join('|')).remove(m_dir->path());
+        };
+        QCOMPARE(names(MTextDoc::exportImages(document, m_dir->path(), false)),
+                 QString("/Rose.png|/Rose-1.png|/A_b.png|/A_b-1.png"));
+        QCOMPARE(QImage(path("Rose.png")).pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(QImage(path("Rose-1.png")).pixelColor(0, 0), QColor(Qt::blue));
+        const QString mmd = "/m/d/Rose.png|/m/d/Rose-1.png|/m/d/A-b.png|/m/d/A-b-1.png";
+        QCOMPARE(names(MTextDoc::exportImagesToMmd(document, path("m/d"))), mmd);
+        QCOMPARE(names(MTextDoc::exportImages(document, path("m/e"), true)).replace("/e/", "/d/"),
+                 mmd);
+
+        QVERIFY(MTextDoc::exportImages(QTextDocument(), path("never"), false).isEmpty());
+        QVERIFY(!QFile::exists(path("never")));
+        QVERIFY(write(path("file"), "in the way"));
+        QVERIFY(MTextDoc::exportImages(document, path("file"), false).isEmpty());
+        QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("file")), QByteArray("in the way"));
+    }
 };
-
-void TestTextImages::init()
-{
-    m_dir.reset(new QTemporaryDir);
-    QVERIFY(m_dir->isValid());
-}
-
-void TestTextImages::exportFormat_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<QString>("link"); // holds "linked bytes"
-    QTest::addColumn<QByteArray>("raw");
-    QTest::addColumn<bool>("hasPicture");
-    QTest::addColumn<QByteArray>("expected"); // the file's beginning; empty for failure
-    const QByteArray jpegMagic("\xff\xd8\xff"), pngMagic("\x89PNG");
-    QTest::newRow("empty-name") << ""
-                                << "" << QByteArray("raw") << true << QByteArray();
-    QTest::newRow("encoded-png") << "a.png"
-                                 << "" << QByteArray() << true << pngMagic;
-    QTest::newRow("encoded-jpeg") << "a.jpg"
-                                  << "" << QByteArray() << true << jpegMagic;
-    QTest::newRow("encoded-upper-case") << "a.PNG"
-                                        << "" << QByteArray() << true << pngMagic;
-    QTest::newRow("linked") << "a.png"
-                            << "l.png" << QByteArray("raw") << true << QByteArray("linked bytes");
-    QTest::newRow("linked-without-picture")
-        << "a.x"
-        << "l.x" << QByteArray() << false << QByteArray("linked bytes");
-    QTest::newRow("link-suffix-case") << "a.png"
-                                      << "l.PNG" << QByteArray() << true << pngMagic;
-    QTest::newRow("link-other-suffix") << "a.jpg"
-                                       << "l.png" << QByteArray("raw") << true << QByteArray("raw");
-    QTest::newRow("raw-jpeg") << "photo.JPG"
-                              << "" << QByteArray("raw bytes") << true << QByteArray("raw bytes");
-    QTest::newRow("raw-jpeg-long-suffix") << "a.jpeg"
-                                          << "" << QByteArray("raw") << false << QByteArray("raw");
-    QTest::newRow("raw-for-png-is-encoded") << "a.png"
-                                            << "" << QByteArray("raw") << true << pngMagic;
-    QTest::newRow("no-picture") << "a.png"
-                                << "" << QByteArray() << false << QByteArray();
-    QTest::newRow("unknown-suffix") << "a.xyz"
-                                    << "" << QByteArray() << true << QByteArray();
-    QTest::newRow("no-suffix") << "a"
-                               << "" << QByteArray() << true << QByteArray();
-    QTest::newRow("missing-folder") << "none/a.png"
-                                    << "" << QByteArray() << true << QByteArray();
-}
-
-void TestTextImages::exportFormat()
-{
-    QFETCH(QString, target);
-    QFETCH(QString, link);
-    QFETCH(QByteArray, raw);
-    QFETCH(bool, hasPicture);
-    QFETCH(QByteArray, expected);
-    QTextImageFormat format = imageFormat("id");
-    if (!link.isEmpty()) {
-        QVERIFY(write(path(link), "linked bytes"));
-        format.setProperty(MRVTextFormat::ImageLinkProperty, path(link));
-    }
-    format.setProperty(MRVTextFormat::ImageRawDataProperty, raw);
-    const QString file = target.isEmpty() ? QString() : path(target);
-    const bool done =
-        MRVTextFormat::exportImageFormat(file, format, hasPicture ? picture(Qt::red) : QImage());
-    QCOMPARE(done, !expected.isEmpty());
-    if (done)
-        QCOMPARE(MRVCoreUtil::ReadBinaryFile(file).left(expected.size()), expected);
-    else
-        QVERIFY(!QFile::exists(file));
-}
-
-void TestTextImages::exportOntoLinkedFile()
-{
-    QVERIFY(write(path("l.png"), "linked bytes"));
-    QVERIFY(QFile::link(path("l.png"), path("same.png")));
-    QTextImageFormat format = imageFormat("id");
-    format.setProperty(MRVTextFormat::ImageLinkProperty, path("l.png"));
-    for (const char *name : {"l.png", "./l.png", "same.png"}) {
-        QVERIFY(MRVTextFormat::exportImageFormat(path(name), format, picture(Qt::red)));
-        QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("l.png")), QByteArray("linked bytes"));
-        QVERIFY(QFileInfo(path("same.png")).isSymLink());
-    }
-}
-
-void TestTextImages::exportFailureLeavesNoStaleFile()
-{
-    QVERIFY(write(path("a.png"), "old"));
-    QVERIFY(!MRVTextFormat::exportImageFormat(path("a.png"), imageFormat("id"), QImage()));
-    QVERIFY(!QFile::exists(path("a.png")));
-}
-
-void TestTextImages::exportJpegOnWhite()
-{
-    QVERIFY(MRVTextFormat::exportImageFormat(path("a.jpg"), imageFormat("id"),
-                                             picture(Qt::transparent)));
-    QVERIFY(QImage(path("a.jpg")).pixelColor(2, 2).lightness() > 250);
-}
-
-void TestTextImages::fixHtmlImages_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("id"); // %1 stands for the folder
-    QTest::addColumn<QString>("name");
-    QTest::newRow("path") << "pic.png"
-                          << "%1/pic.png"
-                          << "pic";
-    QTest::newRow("url") << "pic.png"
-                         << "file://%1/pic.png"
-                         << "pic";
-    QTest::newRow("several-suffixes") << "a.b.png"
-                                      << "%1/a.b.png"
-                                      << "a";
-    QTest::newRow("blank") << "my pic.png"
-                           << "%1/my pic.png"
-                           << "my pic";
-    QTest::newRow("encoded-blank") << "my pic.png"
-                                   << "%1/my%20pic.png"
-                                   << "my pic";
-    QTest::newRow("number-sign") << "a#b.png"
-                                 << "%1/a#b.png"
-                                 << "a#b";
-    QTest::newRow("percent") << "a%b.png"
-                             << "%1/a%b.png"
-                             << "a%b";
-}
-
-void TestTextImages::fixHtmlImages()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, id);
-    QFETCH(QString, name);
-    const QImage image = picture(Qt::darkGreen);
-    const QString newId = MRVGuiUtil::resourceId(image);
-    QVERIFY(write(path(file), png(image)));
-    const QString oldId = id.arg(m_dir->path());
-    QTextDocument document;
-    QTextCursor(&document).insertText("a");
-    insert(&document, imageFormat(oldId), QImage());
-    insert(&document, imageFormat(oldId), QImage());
-    QTextCursor cursor(&document);
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertText("b", QTextCharFormat());
-    const QStringList before = settled(&document);
-
-    MTextDoc::fixHtmlImageFormatsAndResourceIds(&document);
-    QCOMPARE(ids(document), (QStringList{newId, newId}));
-    QCOMPARE(MTextDoc::imageNames(document), (QStringList{name, name}));
-    QVERIFY(QFile::remove(path(file)));
-    QCOMPARE(MRVGuiUtil::resourceId(resource(document, newId)), newId);
-    QCOMPARE(document.toPlainText(), QString("a%1%1b").arg(QChar(0xfffc)));
-
-    document.undo();
-    QCOMPARE(documentDump(document), before);
-    QVERIFY(!document.isUndoAvailable());
-}
-
-// A relative path is looked for in the current folder; Qt by itself looks beside the document.
-void TestTextImages::fixHtmlImagesOfFileNotLoadedByQt()
-{
-    const QString current = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(m_dir->path()));
-    QVERIFY(write("rel.png", png(picture(Qt::cyan))));
-    QVERIFY(QDir(m_dir->path()).mkdir("base"));
-    QVERIFY(write("base/rel2.png", png(picture(Qt::yellow))));
-    QTextDocument document;
-    document.setBaseUrl(QUrl::fromLocalFile(path("base/page.html")));
-    insert(&document, imageFormat("rel.png"), QImage());
-    insert(&document, imageFormat("rel2.png"), QImage());
-    MTextDoc::fixHtmlImageFormatsAndResourceIds(&document);
-    QVERIFY(QDir::setCurrent(current));
-    const QStringList expected{MRVGuiUtil::resourceId(picture(Qt::cyan)),
-                               MRVGuiUtil::resourceId(picture(Qt::yellow))};
-    QCOMPARE(ids(document), expected);
-    QVERIFY(!resource(document, expected.at(0)).isNull());
-    QVERIFY(!resource(document, expected.at(1)).isNull());
-}
-
-void TestTextImages::fixLeavesOthersAlone()
-{
-    QVERIFY(write(path("text.png"), "no picture"));
-    QTextDocument document;
-    insert(&document, imageFormat("embedded"), picture(Qt::red));
-    insert(&document, imageFormat(path("missing.png")), QImage());
-    insert(&document, imageFormat(path("text.png")), QImage());
-    insert(&document, imageFormat(m_dir->path()), QImage());
-    insert(&document, imageFormat(""), QImage());
-    const QStringList before = settled(&document);
-    MTextDoc::fixHtmlImageFormatsAndResourceIds(&document);
-    MTextDoc::fixHtmlImageFormatsAndResourceIds(nullptr);
-    QCOMPARE(documentDump(document), before);
-    QVERIFY(!document.isUndoAvailable());
-    QVERIFY(!document.isModified());
-    QVERIFY(!resource(document, "embedded").isNull());
-}
-
-void TestTextImages::convertUnique()
-{
-    QTextDocument document;
-    insert(&document, imageFormat("one", "First"), picture(Qt::red));
-    QTextCursor(&document).insertText("a");
-    insert(&document, imageFormat("two", "Second"), picture(Qt::red));
-    insert(&document, imageFormat("two", "Third"), QImage());
-    insert(&document, imageFormat("blue"), picture(Qt::blue));
-    insert(&document, imageFormat("none"), QImage());
-    document.addResource(QTextDocument::ImageResource, QUrl("bytes"), png(picture(Qt::green)));
-    insert(&document, imageFormat("bytes"), QImage());
-    const QStringList before = settled(&document);
-
-    MTextDoc::convertUniqueImageResources(&document);
-    const QString red = MRVGuiUtil::resourceId(picture(Qt::red));
-    const QString blue = MRVGuiUtil::resourceId(picture(Qt::blue));
-    const QString green = MRVGuiUtil::resourceId(picture(Qt::green));
-    QCOMPARE(ids(document), (QStringList{red, red, red, blue, "none", green}));
-    QCOMPARE(MTextDoc::imageNames(document),
-             (QStringList{"First", "Second", "Third", blue, "none", green}));
-    QCOMPARE(resource(document, red), picture(Qt::red));
-    QCOMPARE(resource(document, blue), picture(Qt::blue));
-    for (const char *old : {"one", "two", "blue", "bytes"})
-        QVERIFY2(resource(document, old).isNull(), old);
-
-    document.undo();
-    QCOMPARE(documentDump(document), before);
-    QVERIFY(!document.isUndoAvailable());
-}
-
-// The new id of one image is the old id of another: neither picture may be lost.
-void TestTextImages::convertUniqueCrossedIds()
-{
-    const QString red = MRVGuiUtil::resourceId(picture(Qt::red));
-    const QString blue = MRVGuiUtil::resourceId(picture(Qt::blue));
-    QTextDocument document;
-    insert(&document, imageFormat(blue), picture(Qt::red));
-    insert(&document, imageFormat(red), picture(Qt::blue));
-    MTextDoc::convertUniqueImageResources(&document);
-    QCOMPARE(ids(document), (QStringList{red, blue}));
-    QCOMPARE(resource(document, red), picture(Qt::red));
-    QCOMPARE(resource(document, blue), picture(Qt::blue));
-}
-
-void TestTextImages::convertUniqueWithoutChange()
-{
-    QTextDocument document;
-    insert(&document, imageFormat(MRVGuiUtil::resourceId(picture(Qt::red))), picture(Qt::red));
-    insert(&document, imageFormat("none"), QImage());
-    settled(&document);
-    MTextDoc::convertUniqueImageResources(&document);
-    MTextDoc::convertUniqueImageResources(nullptr);
-    QVERIFY(!document.isUndoAvailable());
-    QVERIFY(!document.isModified());
-}
-
-// With a base URL, Qt looks for a resource under the resolved name only.
-void TestTextImages::rekeyWithBaseUrl()
-{
-    QTextDocument document;
-    document.setBaseUrl(QUrl("file:///home/writer/page.html"));
-    document.addResource(QTextDocument::ImageResource, QUrl("file:///home/writer/old"),
-                         picture(Qt::red));
-    insert(&document, imageFormat("old"), QImage());
-    MTextDoc::convertUniqueImageResources(&document);
-    const QString red = MRVGuiUtil::resourceId(picture(Qt::red));
-    QCOMPARE(ids(document), QStringList{red});
-    QCOMPARE(resource(document, red), picture(Qt::red));
-    QVERIFY(resource(document, "old").isNull());
-    document.setBaseUrl(QUrl());
-    QCOMPARE(resource(document, red), picture(Qt::red));
-}
-
-void TestTextImages::onlyOneImage_data()
-{
-    QTest::addColumn<QStringList>("images");
-    QTest::addColumn<bool>("only");
-    QTest::newRow("none") << QStringList{} << true;
-    QTest::newRow("one") << QStringList{"red"} << true;
-    QTest::newRow("others") << QStringList{"red", "blue", "blue"} << true;
-    QTest::newRow("side-by-side") << QStringList{"red", "red"} << false;
-    QTest::newRow("apart") << QStringList{"red", "blue", "red"} << false;
-}
-
-void TestTextImages::onlyOneImage()
-{
-    QFETCH(QStringList, images);
-    QTextDocument document;
-    for (const QString &id : images)
-        insert(&document, imageFormat(id), QImage());
-    // Without pictures, nothing counts.
-    QVERIFY(MTextDoc::onlyOneImageWithResourceId(document, "red"));
-    document.addResource(QTextDocument::ImageResource, QUrl("red"), picture(Qt::red));
-    QTEST(MTextDoc::onlyOneImageWithResourceId(document, "red"), "only");
-}
-
-void TestTextImages::lists()
-{
-    QTextDocument document;
-    QTextCursor(&document).insertText("text");
-    insert(&document, imageFormat("red", "Rose"), picture(Qt::red));
-    insert(&document, imageFormat("red", "Rose"), QImage());
-    insert(&document, imageFormat("blue"), picture(Qt::blue));
-    insert(&document, imageFormat("gone", "Lost"), QImage());
-
-    QCOMPARE(ids(document), (QStringList{"red", "red", "blue", "gone"}));
-    QCOMPARE(MTextDoc::imageResourceIds(document), (QSet<QString>{"red", "blue", "gone"}));
-    QCOMPARE(MTextDoc::imageNames(document), (QStringList{"Rose", "Rose", "blue", "Lost"}));
-    QCOMPARE(MTextDoc::imagesWithResourceIds(document),
-             (QMap<QString, QImage>{{"red", picture(Qt::red)}, {"blue", picture(Qt::blue)}}));
-    const QList<QPair<QString, QImage>> named{
-        {"Rose", picture(Qt::red)}, {"Rose", picture(Qt::red)}, {"blue", picture(Qt::blue)}};
-    QCOMPARE(MTextDoc::imagesWithNames(document), named);
-
-    QCOMPARE(MTextDoc::generateResourceId(picture(Qt::red)),
-             MRVGuiUtil::resourceId(picture(Qt::red)));
-    QCOMPARE(MTextDoc::toImage(png(picture(Qt::red))).size(), QSize(6, 6));
-    QVERIFY(MTextDoc::toImage(QVariant(3)).isNull());
-}
-
-void TestTextImages::dumpInfo()
-{
-    QTextDocument document;
-    QTextCursor(&document).insertText("ab");
-    QTextImageFormat linked = imageFormat("red", "Rose");
-    linked.setProperty(MRVTextFormat::ImageTypeProperty, "JPG");
-    linked.setProperty(MRVTextFormat::ImageLinkProperty, "/rose.jpg");
-    linked.setProperty(MRVTextFormat::ImageRawDataProperty, QByteArray("1234"));
-    insert(&document, linked, picture(Qt::red));
-    insert(&document, imageFormat("gone"), QImage());
-    QCOMPARE(MTextDoc::dumpImageInfo(document),
-             QString("2\tred\tRose\tJPG\t6x6\t4\t/rose.jpg\n"
-                     "3\tgone\tgone\tPNG\tnone\t0\t\n"));
-    QVERIFY(MTextDoc::dumpImageInfo(QTextDocument()).isEmpty());
-}
-
-void TestTextImages::findUniqueString_data()
-{
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QSet<QString>>("taken");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("free") << "fig" << QSet<QString>{"other"} << "fig";
-    QTest::newRow("first-number") << "fig" << QSet<QString>{"fig"} << "fig_1";
-    QTest::newRow("second-number") << "fig" << QSet<QString>{"fig", "fig_1"} << "fig_2";
-    QTest::newRow("gap") << "fig" << QSet<QString>{"fig", "fig_2"} << "fig_1";
-    QTest::newRow("numbered-base") << "fig_1" << QSet<QString>{"fig_1"} << "fig_1_1";
-    QTest::newRow("cleaned") << "a:b?" << QSet<QString>{"a b"} << "a b_1";
-    QTest::newRow("file") << "%1/photo.large.png" << QSet<QString>{} << "photo";
-    QTest::newRow("empty") << "" << QSet<QString>{} << "";
-}
-
-void TestTextImages::findUniqueString()
-{
-    QFETCH(QString, base);
-    QFETCH(QSet<QString>, taken);
-    QVERIFY(write(path("photo.large.png"), "x"));
-    if (base.contains("%1"))
-        base = base.arg(m_dir->path());
-    QTEST(MTextDoc::findUniqueString(base, taken), "expected");
-}
-
-void TestTextImages::uniqueInDocument()
-{
-    QTextDocument document;
-    insert(&document, imageFormat("id", "Name"), QImage());
-    QCOMPARE(MTextDoc::uniqueResourceId(document, "id"), QString("id_1"));
-    QCOMPARE(MTextDoc::uniqueResourceId(document, "Name"), QString("Name"));
-    QCOMPARE(MTextDoc::uniqueImageName(document, "Name"), QString("Name_1"));
-    QCOMPARE(MTextDoc::uniqueImageName(document, "id"), QString("id"));
-}
-
-void TestTextImages::mmdImageName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("underscore-and-blank") << "My_photo 1"
-                                          << "My-photo-1";
-    QTest::newRow("hyphen-between-blanks") << "a - b"
-                                           << "a-b";
-    QTest::newRow("many") << "a -_- b"
-                          << "a-b";
-    QTest::newRow("unsafe") << "a/b:c"
-                            << "a-b-c";
-    QTest::newRow("empty") << ""
-                           << "";
-}
-
-void TestTextImages::mmdImageName()
-{
-    QFETCH(QString, name);
-    QTEST(MTextDoc::mmdImageName(name), "expected");
-}
-
-void TestTextImages::exportIntoFolder_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<bool>("mmd");
-    QTest::addColumn<QString>("expected"); // empty for failure
-    QTest::newRow("default-type") << "Rose" << QString() << false << "Rose.png";
-    QTest::newRow("type") << "Rose"
-                          << "JPG" << false << "Rose.jpg";
-    QTest::newRow("name-stays") << "Fig. 1: a_b" << QString() << false << "Fig. 1: a_b.png";
-    QTest::newRow("mmd") << "Fig 1: a_b" << QString() << true << "Fig-1-a-b.png";
-    QTest::newRow("mmd-nothing-left") << "???" << QString() << true << "image.png";
-    QTest::newRow("empty-name") << "" << QString() << false << "";
-    QTest::newRow("out-of-the-folder") << "../../Rose" << QString() << false << ".._.._Rose.png";
-    QTest::newRow("absolute") << "/etc/Rose" << QString() << false << "_etc_Rose.png";
-    QTest::newRow("parent") << ".." << QString() << false << "...png";
-    QTest::newRow("type-out-of-the-folder") << "a"
-                                            << "/../../B.PNG" << false << "a._.._.._b.png";
-    QTest::newRow("unwritable-type") << "Rose"
-                                     << "XYZ" << false << "";
-    QTest::newRow("long-name") << QString(5000, 'x') << QString() << false
-                               << QString(200, 'x') + ".png";
-    QTest::newRow("long-wide-name")
-        << QString(300, QChar(0x20ac)) << QString() << false << QString(66, QChar(0x20ac)) + ".png";
-    QTest::newRow("long-pairs") << QString::fromUtf8("\U0001F339").repeated(99) << QString()
-                                << false << QString::fromUtf8("\U0001F339").repeated(50) + ".png";
-}
-
-void TestTextImages::exportIntoFolder()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, type);
-    QFETCH(bool, mmd);
-    QFETCH(QString, expected);
-    QTextDocument document;
-    QTextImageFormat format = imageFormat("id", name);
-    if (!type.isNull())
-        format.setProperty(MRVTextFormat::ImageTypeProperty, type);
-    insert(&document, format, picture(Qt::red));
-    const QDir folder(path("new/images"));
-    const QString file = MTextDoc::exportImageFormat(document, format, folder, mmd, nullptr);
-    QVERIFY(folder.exists());
-    QCOMPARE(file, expected.isEmpty() ? QString() : folder.path() + '/' + expected);
-    QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden),
-             expected.isEmpty() ? QStringList() : QStringList{expected});
-    QCOMPARE(QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList{"new"});
-}
-
-void TestTextImages::exportUsed()
-{
-    QTextDocument document;
-    const QTextImageFormat format = imageFormat("id", "Rose");
-    insert(&document, format, picture(Qt::red));
-    const QDir folder(m_dir->path());
-    // An existing file is replaced, unless it is one of those in use.
-    QVERIFY(write(path("Rose.png"), "old"));
-    QCOMPARE(MTextDoc::exportImageFormat(document, format, folder, false, nullptr),
-             path("Rose.png"));
-    const QSet<QString> used{path("Rose.png")};
-    const QString second = MTextDoc::exportImageFormat(document, format, folder, false, &used);
-    QCOMPARE(second, path("Rose-1.png"));
-    QVERIFY(QImage(second).size() == QSize(6, 6));
-    QVERIFY(MTextDoc::exportImageFormat(document, imageFormat("none", "x"), folder, false, nullptr)
-                .isEmpty());
-}
-
-void TestTextImages::exportAll()
-{
-    QTextDocument document;
-    insert(&document, imageFormat("red", "Rose"), picture(Qt::red));
-    insert(&document, imageFormat("none", "Rose"), QImage());
-    insert(&document, imageFormat("blue", "Rose"), picture(Qt::blue));
-    insert(&document, imageFormat("red", "A_b"), QImage());
-    insert(&document, imageFormat("red", "A_b"), QImage());
-    const QString folder = path("made/here");
-    const QStringList plain = MTextDoc::exportImages(document, folder, false);
-    QCOMPARE(fileNames(plain), (QStringList{"Rose.png", "Rose-1.png", "A_b.png", "A_b-1.png"}));
-    QCOMPARE(QImage(plain.at(0)).pixelColor(0, 0), QColor(Qt::red));
-    QCOMPARE(QImage(plain.at(1)).pixelColor(0, 0), QColor(Qt::blue));
-    QCOMPARE(QDir(folder).entryList(QDir::Files).size(), 4);
-
-    const QStringList mmd = MTextDoc::exportImagesToMmd(document, path("mmd"));
-    QCOMPARE(fileNames(mmd), (QStringList{"Rose.png", "Rose-1.png", "A-b.png", "A-b-1.png"}));
-    QCOMPARE(MTextDoc::exportImages(document, path("mmd2"), true).size(), 4);
-}
-
-void TestTextImages::exportNothing()
-{
-    QVERIFY(MTextDoc::exportImages(QTextDocument(), path("never"), false).isEmpty());
-    QVERIFY(!QFile::exists(path("never")));
-    QTextDocument document;
-    insert(&document, imageFormat("red", "Rose"), picture(Qt::red));
-    QVERIFY(write(path("file"), "in the way"));
-    QVERIFY(MTextDoc::exportImages(document, path("file"), false).isEmpty());
-    QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("file")), QByteArray("in the way"));
-}
 
 QTEST_MAIN(TestTextImages)
 #include "tst_textimages.moc"
