@@ -81,6 +81,8 @@ private Q_SLOTS:
     void pages();
     void links();
     void contents();
+    void largePages();
+    void headingIds();
     void metadata();
     void covers_data();
     void covers();
@@ -153,6 +155,41 @@ void tst_EPub::contents()
     QVERIFY(small.addDocument(plain));
     QVERIFY(unpacked(small.toByteArray())["OEBPS/nav.xhtml"].contains(
         "<a href=\"page-001.xhtml\">Untitled</a>"));
+}
+
+// Two headings on a title page must not leave the rest in one piece.
+void tst_EPub::largePages()
+{
+    const QString paragraph = "<p>" + QString("word ").repeated(100) + "</p>";
+    QTextDocument document;
+    document.setHtml("<h1>Title</h1><h1>Author</h1>"
+                     + ("<h3>Part</h3>" + paragraph.repeated(300)).repeated(4));
+    MRVEPubPackage package;
+    QVERIFY(package.addDocument(document));
+    QTextDocument plain;
+    plain.setHtml(paragraph.repeated(4500));
+    QVERIFY(package.addDocument(plain));
+    const QMap<QString, QString> files = unpacked(package.toByteArray());
+    int largest = 0;
+    for (const QString &file : files)
+        largest = qMax(largest, file.size());
+    QVERIFY2(largest < 1100000, qPrintable(QString::number(largest)));
+    QVERIFY(files["OEBPS/page-004.xhtml"].size() < 400000);
+    QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);
+}
+
+// Ids of headings keep clear of the document's own, whatever order these are looked at.
+void tst_EPub::headingIds()
+{
+    QTextDocument document;
+    document.setHtml("<h1>One</h1><p><a name='heading-1'></a>a<a name='_heading-2'></a>b</p>"
+                     "<table><tr><td><h2><img src='x' alt='Mill'></h2></td></tr></table>");
+    document.addResource(QTextDocument::ImageResource, QUrl("x"), QImage::fromData(png(Qt::blue)));
+    MRVEPubPackage package;
+    QVERIFY(package.addDocument(document));
+    const QMap<QString, QString> files = unpacked(package.toByteArray());
+    QVERIFY(files["OEBPS/page-001.xhtml"].contains("<h1 id=\"__heading-1\""));
+    QVERIFY(files["OEBPS/nav.xhtml"].contains("#__heading-2\">Mill</a>"));
 }
 
 void tst_EPub::metadata()
@@ -278,7 +315,8 @@ void tst_EPub::isValid()
          "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
          "</ol></ul><hr width='50%'><table border=2 cellpadding=3 cellspacing=1 width='70%' "
          "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
-         "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'></table><pre>a\n<img "
+         "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img src='pic.png' "
+         "width='50%'></table><pre>a\n<img "
          "src='pic.png'></pre><a href='#1 bad'>x</a><a href='http://'>y</a>");
     MRVEPubMetadata metadata;
     metadata.cover = png(Qt::green);

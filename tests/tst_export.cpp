@@ -333,6 +333,9 @@ void tst_Export::titles()
     QTextDocument document;
     document.setHtml("<p>x</p><h1>The <i>first</i>\nheading</h1>");
     QVERIFY(X(&document).toText(X::Xhtml).contains("<title>The first heading</title>"));
+    X german(&document);
+    german.setLanguage("de");
+    QVERIFY(german.toText(X::EPub).contains("<html xml:lang=\"de\" xmlns="));
     QVERIFY(X(&document).toText(X::Xhtml, "Given").contains("<title>Given</title>"));
     document.setMetaInformation(QTextDocument::DocumentTitle, "Own & <b>");
     QVERIFY(X(&document).toText(X::EPub, "Given").contains("<title>Own &amp; &lt;b&gt;</title>"));
@@ -406,16 +409,19 @@ void tst_Export::eBookPage()
     QTextCursor cursor(&document);
     anchor(cursor, "start", "own");
     anchor(cursor, QString(), "link", "17");
+    anchor(cursor, "two words", "renamed", "#two words");
     anchor(cursor, QString(), "inner", "#start");
     picture(cursor, "id");
     QTemporaryDir folder;
     X::StyleList styles;
-    QVERIFY(
-        X::toEPubXhtml(folder.filePath("one"), {{"17", "two.xhtml#start"}}, &styles, &document));
+    QVERIFY(X::toEPubXhtml(folder.filePath("one"),
+                           {{"17", "two.xhtml#start"}, {"#two words", "new.xhtml#tw"}}, &styles,
+                           &document));
     const QString page = QString::fromUtf8(bytesOf(folder.filePath("one.xhtml")));
     QVERIFY(page.contains("\n<p><a id=\"start\"></a></p>"));
     QVERIFY(page.contains("<a href=\"two.xhtml#start\">"));
     QVERIFY(page.contains("<a id=\"start-1\"></a>"));
+    QVERIFY(page.contains("<a id=\"two_words\"></a><a href=\"new.xhtml#tw\">"));
     QVERIFY(page.contains("<a href=\"#start-1\">"));
     QVERIFY(page.contains(" src=\"images/id.png\""));
     QVERIFY(QFile::exists(folder.filePath("images/id.png")));

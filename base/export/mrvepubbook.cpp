@@ -2,6 +2,7 @@
 
 #include "export/mrvdocumenttitle_p.h"
 #include "export/mrvhtmltext_p.h"
+#include "export/mrvpagestarts_p.h"
 #include "export/mrvpagewriter_p.h"
 #include "text/mrvtextformat.h"
 #include "text/mtextdoc.h"
@@ -95,23 +96,6 @@ QString safeName(const QString &name)
     return safe.isEmpty() ? QStringLiteral("picture") : safe;
 }
 
-QString plainText(QStringView markup)
-{
-    QString text;
-    bool inTag = false;
-    for (const QChar c : markup) {
-        if (c == u'<') {
-            inTag = true;
-            text += u' ';
-        } else if (c == u'>') {
-            inTag = false;
-        } else if (!inTag) {
-            text += c;
-        }
-    }
-    return MRVHtmlText::unescaped(text).simplified();
-}
-
 // The text of an element; tags within words (emphasis) leave no blank, line breaks do.
 QString elementText(QStringView page, int offset, QLatin1String close)
 {
@@ -119,54 +103,20 @@ QString elementText(QStringView page, int offset, QLatin1String close)
     const int end = int(page.indexOf(close, begin));
     QString markup = page.mid(begin, end - begin).toString();
     markup.replace(QLatin1String("<br />"), QLatin1String(" "));
+    MRVHtmlText::rewriteBetween(
+        &markup, QLatin1String("<img alt=\""), QLatin1String("\""), Qt::CaseSensitive,
+        [](QStringView alt) { return QString(alt.toString() + QLatin1String("<img")); });
     MRVHtmlText::rewriteBetween(&markup, QLatin1String("<"), QLatin1String(">"), Qt::CaseSensitive,
                                 [](QStringView) { return QString(); });
     return MRVHtmlText::unescaped(markup).simplified();
 }
 
-bool isBlank(QStringView markup)
-{
-    return !markup.contains(QLatin1String("<img")) && plainText(markup).isEmpty();
-}
-
-// Headings of the outermost level that occurs more than once begin pages: a level that occurs once is the book's title.
-int splitLevel(const QVector<MRVPageWriter::Block> &blocks)
-{
-    int counts[7] = {};
-    for (const MRVPageWriter::Block &block : blocks) {
-        ++counts[block.headingLevel];
-    }
-    for (int level = 1; level <= 6; ++level) {
-        if (counts[level] > 1) {
-            return level;
-        }
-    }
-    return 0;
-}
-
-// Where the pages of a document begin, the first included.
-QVector<int> pageStarts(const QVector<MRVPageWriter::Block> &blocks, QStringView page,
-                        int bodyBegin)
-{
-    QVector<int> starts{bodyBegin};
-    const int level = splitLevel(blocks);
-    for (const MRVPageWriter::Block &block : blocks) {
-        const bool chapter = block.headingLevel > 0 && block.headingLevel <= level;
-        if ((chapter || block.startsPage)
-            && !isBlank(page.mid(starts.constLast(), block.offset - starts.constLast()))) {
-            starts.append(block.offset);
-        }
-    }
-    return starts;
-}
-
 QString freeHeadingPrefix(const QHash<QString, QString> &ids)
 {
     QString prefix = QStringLiteral("heading-");
-    for (const QString &id : ids) {
-        while (id.startsWith(prefix)) {
-            prefix.prepend(u'_');
-        }
+    while (std::any_of(ids.begin(), ids.end(),
+                       [&](const QString &id) { return id.startsWith(prefix); })) {
+        prefix.prepend(u'_');
     }
     return prefix;
 }
@@ -248,7 +198,7 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
     const int body = page.indexOf(QLatin1String("<body"));
     const int bodyBegin = page.indexOf(u'>', body) + 1;
     const int bodyEnd = page.lastIndexOf(QLatin1String("</body>"));
-    const QVector<int> starts = pageStarts(writer.blocks(), page, bodyBegin);
+    const QVector<int> starts = mrvPageStarts(writer.blocks(), page, bodyBegin, bodyEnd);
     const QString prefix = freeHeadingPrefix(writer.ids());
     const QHash<QString, int> anchorPlaces = MRVHtmlText::idPlaces(page);
     const int firstPage = pages.size();
@@ -263,27 +213,25 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
         targets.targets.insert(id.key(), pageName(pieceOf(anchorPlaces.value(*id))) + u'#' + *id);
     }
     int block = 0;
-    const QVector<MRVPageWriter::Block> &blocks = writer.blocks();
+    const QVector<MRVPageWriter::Block> &blocks = writer.headings();
     for (int piece = 0; piece < starts.size(); ++piece) {
         const int end = piece + 1 < starts.size() ? starts.at(piece + 1) : bodyEnd;
         MRVEPubPage result{pageName(piece), QString(), page.mid(body, bodyBegin - body), QString(),
                            anchors.size()};
         int done = starts.at(piece);
         for (; block < blocks.size() && blocks.at(block).offset < end; ++block) {
-            const int level = blocks.at(block).headingLevel;
-            const QString text = level == 0
-                ? QString()
-                : elementText(page, blocks.at(block).offset, QLatin1String("</h"));
+            const MRVPageWriter::Block &heading = blocks.at(block);
+            const QString text = elementText(page, heading.offset, QLatin1String("</h"));
             if (text.isEmpty()) {
                 continue;
             }
-            const int afterName = blocks.at(block).offset + 3; // "<h1"
+            const int afterName = heading.offset + 3; // "<h1"
             const QString id = prefix + QString::number(headings.size() + 1);
             result.body.append(page.constData() + done, afterName - done);
             result.body.append(QLatin1String(" id=\"") + id + u'"');
             done = afterName;
             result.title = result.title.isEmpty() ? text : result.title;
-            headings.append({text, result.fileName + u'#' + id, level - 1});
+            headings.append({text, result.fileName + u'#' + id, heading.headingLevel - 1});
         }
         result.body.append(page.constData() + done, end - done);
         pages.append(result);
@@ -355,8 +303,10 @@ QString MRVEPubBook::pageText(const MRVEPubPage &page) const
         const QString target =
             resolved(MRVHtmlText::unescaped(all.mid(begin, end - begin)), page.document);
         body.append(all.data() + done, at - done);
-        if (target.isEmpty()) {
+        if (target.isEmpty()) { // and without the look of a link
+            body += QLatin1String("<span class=\"unlinked\">");
             body.append(all.data() + tagEnd, close - tagEnd);
+            body += QLatin1String("</span>");
             done = close + closing.size();
         } else {
             body += opening + target.toHtmlEscaped();
@@ -423,11 +373,14 @@ QString MRVEPubBook::styleSheet() const
         }
     }
     return MRVTextXhtmlExporter::styleSheetText(own)
-        + QLatin1String("img {\n    max-width: 100%;\n}\n"
-                        "nav ol {\n    list-style-type: none;\n}\n"
-                        ".cover {\n    text-align: center;\n}\n"
-                        ".cover-title {\n    margin-top: 25%;\n}\n"
-                        ".cover-author {\n    font-size: 120%;\n    margin-top: 2em;\n}\n");
+        + QLatin1String(
+               "img {\n    height: auto;\n    max-width: 100%;\n}\n"
+               "nav ol {\n    list-style-type: none;\n}\n"
+               ".unlinked, .unlinked span {\n    color: inherit;\n    text-decoration: none;\n}\n"
+               ".cover {\n    text-align: center;\n}\n"
+               ".cover img {\n    max-height: 95vh;\n}\n"
+               ".cover-title {\n    margin-top: 25%;\n}\n"
+               ".cover-author {\n    font-size: 120%;\n    margin-top: 2em;\n}\n");
 }
 
 QString MRVEPubBook::title() const

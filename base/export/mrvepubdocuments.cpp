@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+
 namespace {
 
 // Texts that people gave may be empty, or hold what XML cannot.
@@ -49,7 +51,13 @@ void writeAccessibility(QXmlStreamWriter *xml, const MRVEPubBook &book)
         writeProperty(xml, QStringLiteral("schema:accessibilityFeature"),
                       QStringLiteral("alternativeText"));
     }
-    writeProperty(xml, QStringLiteral("schema:accessibilityHazard"), QStringLiteral("none"));
+    // A GIF may flash.
+    const bool moving =
+        std::any_of(book.pictures.begin(), book.pictures.end(), [](const MRVEPubFile &picture) {
+            return picture.mediaType == QLatin1String("image/gif");
+        });
+    writeProperty(xml, QStringLiteral("schema:accessibilityHazard"),
+                  moving ? QStringLiteral("unknown") : QStringLiteral("none"));
     writeProperty(
         xml, QStringLiteral("schema:accessibilitySummary"),
         described ? MRVEPubBook::tr(

@@ -1,5 +1,7 @@
 #include "export/mrvhtmltag_p.h"
 
+#include "export/mrvhtmltext_p.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -11,7 +13,7 @@ enum class Move {
     Length, // %1 is the value as a CSS length
     ListType,
     TableAlign,
-    Integer, // stays an attribute, as a whole number
+    Pixels, // stays an attribute, a whole number above 0; others mean a size that Qt does not know
 };
 
 struct AttributeRule
@@ -37,8 +39,8 @@ constexpr AttributeRule rules[] = {
     {" table ",                         "border",      Move::Length,     "border:%1 outset;",           true},
     {" table ",                         "cellspacing", Move::Length,     "border-spacing:%1;",          true},
     {" table ",                         "cellpadding", Move::Drop,       "",                            true},
-    {" img ",                           "width",       Move::Integer,    "",                            true},
-    {" img ",                           "height",      Move::Integer,    "",                            true},
+    {" img ",                           "width",       Move::Pixels,     "",                            false},
+    {" img ",                           "height",      Move::Pixels,     "",                            false},
 };
 
 constexpr struct { const char *type; const char *style; } listTypes[] = {
@@ -70,18 +72,32 @@ QString declaration(const AttributeRule &rule, const QString &value)
         }
         break;
     case Move::TableAlign:
-        if (value == QLatin1String("center")) {
-            return QStringLiteral("margin-left:auto; margin-right:auto;");
-        }
-        if (value == QLatin1String("right")) {
-            return QStringLiteral("margin-left:auto; margin-right:0px;");
-        }
-        break;
     case Move::Drop:
-    case Move::Integer:
+    case Move::Pixels:
         break;
     }
     return QString();
+}
+
+// Qt writes the margins of a table, too: those of the aligned sides give way.
+void alignTable(MRVHtmlTag *tag, const QString &alignment)
+{
+    const bool right = alignment == QLatin1String("right");
+    if (!right && alignment != QLatin1String("center")) {
+        return;
+    }
+    QString kept;
+    const QString old = tag->take(QLatin1String("style"));
+    const QVector<QStringView> declarations = MRVHtmlText::declarations(old);
+    for (const QStringView declaration : declarations) {
+        const QStringView property = declaration.left(declaration.indexOf(u':')).trimmed();
+        if (property != QLatin1String("margin-left") && property != QLatin1String("margin-right")) {
+            kept += declaration.toString() + u';';
+        }
+    }
+    tag->addStyle(kept
+                  + QLatin1String(right ? " margin-left:auto; margin-right:0px;"
+                                        : " margin-left:auto; margin-right:auto;"));
 }
 
 void applyRules(MRVHtmlTag *tag, MRVHtmlDialect dialect)
@@ -94,14 +110,15 @@ void applyRules(MRVHtmlTag *tag, MRVHtmlDialect dialect)
             || !QLatin1String(rule.elements).contains(element)) {
             continue;
         }
-        if (rule.move == Move::Integer) {
-            const int length =
-                qRound(qBound(-1.0, tag->attributes.at(index).value.toDouble(), 1e6));
-            if (length < 0) {
-                tag->take(name); // Qt's sign for a size that is not known
+        if (rule.move == Move::Pixels) {
+            const double length = tag->attributes.at(index).value.toDouble();
+            if (length < 0.5 || length > 1e6) {
+                tag->take(name);
             } else {
-                tag->attributes[index].value = QString::number(length);
+                tag->attributes[index].value = QString::number(qRound(length));
             }
+        } else if (rule.move == Move::TableAlign) {
+            alignTable(tag, tag->take(name));
         } else {
             tag->addStyle(declaration(rule, tag->take(name)));
         }

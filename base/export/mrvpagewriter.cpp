@@ -87,8 +87,15 @@ void MRVPageWriter::writeHead(const QString &html, int end, const QString &docum
     const QString shown = MRVHtmlText::withoutForbiddenCharacters(
         at >= 0 && !documentTitle.isEmpty() ? documentTitle : title);
     // The title is prose: the chain must not see it.
-    m_page += chain(head.left(at)) + QLatin1String("<title>") + shown.toHtmlEscaped()
-        + QLatin1String("</title>") + chain(head.mid(at));
+    QString start = chain(head.left(at));
+    const QLatin1String root("<html ");
+    if (!m_language.isEmpty() && start.contains(root)) {
+        const QString attribute =
+            QLatin1String("xml:lang=\"") + m_language.toHtmlEscaped() + QLatin1String("\" ");
+        start.insert(start.indexOf(root) + root.size(), attribute);
+    }
+    m_page += start + QLatin1String("<title>") + shown.toHtmlEscaped() + QLatin1String("</title>")
+        + chain(head.mid(at));
 }
 
 void MRVPageWriter::writeBody(QStringView html)
@@ -190,10 +197,15 @@ int MRVPageWriter::startAnchor(QStringView html, int begin, int end)
     const QString tag =
         MRVHtmlText::withoutForbiddenCharacters(html.mid(begin, end - begin).toString());
     if (tag.startsWith(reference)) {
-        const QString target = tag.mid(reference.size(), tag.size() - reference.size() - 2);
+        const QString escaped = tag.mid(reference.size(), tag.size() - reference.size() - 2);
+        const QString target = MRVHtmlText::unescaped(escaped);
+        const auto replacement = m_replacedLinks.constFind(target);
+        if (replacement != m_replacedLinks.constEnd()) {
+            m_page += reference + replacement->toHtmlEscaped() + QLatin1String("\">");
+            return end;
+        }
         if (target.startsWith(u'#') && !m_collecting) {
-            const int offset = m_page.size() + reference.size();
-            m_links.append({offset, target.size(), MRVHtmlText::unescaped(target.mid(1))});
+            m_links.append({m_page.size() + reference.size(), escaped.size(), target.mid(1)});
         }
         m_page += tag;
         return end;
@@ -297,9 +309,16 @@ void MRVPageWriter::startContainer(QStringView tag, const QString &name)
 
 void MRVPageWriter::noteBlock(QStringView tag)
 {
-    if (m_collecting && m_open.isEmpty()) {
+    if (!m_collecting) {
+        return;
+    }
+    const int level = headingLevel(tagName(tag));
+    if (level > 0) {
+        m_headings.append({m_page.size(), level, false});
+    }
+    if (m_open.isEmpty()) {
         const bool breaks = tag.contains(QLatin1String("page-break-before:always;"));
-        m_blocks.append({m_page.size(), headingLevel(tagName(tag)), breaks || m_pageBreakAfter});
+        m_blocks.append({m_page.size(), level, breaks || m_pageBreakAfter});
         m_pageBreakAfter = tag.contains(QLatin1String("page-break-after:always;"));
     }
 }

@@ -22,7 +22,7 @@ class MRVPageWriter
 public:
     using ExportType = MRVTextXhtmlExporter::ExportType;
 
-    /** A block at the top level of the page. */
+    /** A block of the page. */
     struct Block
     {
         int offset; // of its tag in the page
@@ -48,6 +48,12 @@ public:
     const QVector<Block> &blocks() const { return m_blocks; }
     /** Anchor names of the document, unescaped, to the ids that they got. */
     const QHash<QString, QString> &ids() const { return m_ids; }
+    /** Headings wherever they stand, in tables too. */
+    const QVector<Block> &headings() const { return m_headings; }
+    /** Link targets to replace, old to new, both unescaped. */
+    void setLinks(const QHash<QString, QString> &links) { m_replacedLinks = links; }
+    /** The language of the page as a BCP 47 tag; empty leaves it open. */
+    void setLanguage(const QString &language) { m_language = language; }
     /** Keeps @p id for the caller: no anchor gets it. */
     void reserveId(const QString &id) { m_usedIds.insert(id); }
 
@@ -106,6 +112,9 @@ private:
     bool m_pageBreakAfter = false;
     bool m_preAsParagraph = false;
     QVector<Block> m_blocks;
+    QVector<Block> m_headings;
+    QHash<QString, QString> m_replacedLinks;
+    QString m_language;
     QVector<Link> m_links;
     QHash<QString, QString> m_ids;
     QSet<QString> m_usedIds;

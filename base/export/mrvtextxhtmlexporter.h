@@ -53,7 +53,9 @@ public:
     StyleList styles() const { return m_styles; }
     /** Goes on with the rule sets of other pages, so that they can share a style sheet. */
     void setStyles(const StyleList &styles) { m_styles = styles; }
-    /** Names of the images that the last toFile() could not write, though the document has their pictures. */
+    /** The language of the pages, a BCP 47 tag such as "en-GB"; empty, as at first, leaves it open. */
+    void setLanguage(const QString &language) { m_language = language; }
+    /** A line with file and reason for each picture of the document that the last toFile() could not write. */
     QStringList unwrittenImages() const { return m_unwrittenImages; }
 
     /**
@@ -112,7 +114,8 @@ public:
 
     /**
      * The rule sets as a CSS text: a rule a class in class order, with its properties in alphabetical order.
-     * A property or value that would end its rule or open another is left out.
+     * A property or value that would end its rule or open another is left out. Raised and lowered text without a
+     * size of its own is set smaller, as Qt shows it, and does not push the lines apart.
      */
     static QString styleSheetText(const StyleList &styles);
 
@@ -245,14 +248,16 @@ public:
     QStringList exportDocImages(const QString &dir, QString *html, const char *format) const;
 
 private:
-    QString writeImage(const QString &dir, const QTextImageFormat &imageFormat,
-                       const char *format) const;
+    QString pageText(const QString &html, ExportType type, const QString &title);
+    QString writeImage(const QString &dir, const QTextImageFormat &imageFormat, const char *format,
+                       QString *error = nullptr) const;
     QStringList writeImages(const QString &dir, QString *html, const char *format,
                             QStringList *failed) const;
     QString imageReference(const QString &file) const;
 
     const QTextDocument *m_document;
     StyleList m_styles;
+    QString m_language;
     QStringList m_unwrittenImages;
     QString m_pageDir; // set while a page is written: what image references are relative to
 };

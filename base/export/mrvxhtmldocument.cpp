@@ -8,6 +8,7 @@
 #include "util/mrvnames.h"
 
 #include "core/mrvcoreutil.h"
+#include "gui/mrvguiutil.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,17 +18,6 @@
 #include <QTextImageFormat>
 
 namespace {
-
-QString pageText(const QTextDocument &document, const QString &html,
-                 MRVTextXhtmlExporter::ExportType type, MRVTextXhtmlExporter::StyleList *styles,
-                 const QString &title)
-{
-    if (type == MRVTextXhtmlExporter::Html) {
-        return html;
-    }
-    MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
-    return writer.write(html, document.metaInformation(QTextDocument::DocumentTitle), title);
-}
 
 // Removes what an export that failed has written so far; folders go only when nothing else is in them.
 void removeFiles(const QStringList &files, const QString &newFolder)
@@ -54,12 +44,22 @@ MRVTextXhtmlExporter::MRVTextXhtmlExporter(const QTextDocument *document)
 {
 }
 
+QString MRVTextXhtmlExporter::pageText(const QString &html, ExportType type, const QString &title)
+{
+    if (type == Html) {
+        return html;
+    }
+    MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, &m_styles);
+    writer.setLanguage(m_language);
+    return writer.write(html, m_document->metaInformation(QTextDocument::DocumentTitle), title);
+}
+
 QString MRVTextXhtmlExporter::toText(ExportType type, const QString &title)
 {
     if (!m_document) {
         return QString();
     }
-    return pageText(*m_document, m_document->toHtml("utf-8"), type, &m_styles,
+    return pageText(m_document->toHtml("utf-8"), type,
                     title.isEmpty() ? mrvDocumentTitle(*m_document, tr("Untitled")) : title);
 }
 
@@ -84,7 +84,7 @@ bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exp
         m_pageDir.clear();
     }
     const QString title = mrvDocumentTitle(*m_document, QFileInfo(path).completeBaseName());
-    const QString text = pageText(*m_document, html, type, &m_styles, title);
+    const QString text = pageText(html, type, title);
     const bool ok = MRVCoreUtil::WriteUnicodeTextFile(text, path, error, "UTF-8");
     if (!ok) {
         removeFiles(written, newFolder);
@@ -123,10 +123,10 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
 
     MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
     writer.reserveId(QStringLiteral("start"));
+    writer.setLinks(links); // before anchors are renamed: the table knows the document's own names
     html = writer.write(html, document->metaInformation(QTextDocument::DocumentTitle),
                         mrvDocumentTitle(*document, QFileInfo(file).completeBaseName()));
     addDocAnchor(&html);
-    replaceLinks(&html, links);
     const bool ok = MRVCoreUtil::WriteUnicodeTextFile(html, file, error, "UTF-8");
     if (!ok) {
         removeFiles(written, newFolder);
@@ -159,7 +159,7 @@ QString MRVTextXhtmlExporter::calcImageDir(const QString &path)
 }
 
 QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFormat &imageFormat,
-                                         const char *format) const
+                                         const char *format, QString *error) const
 {
     if (!m_document) {
         return QString();
@@ -174,7 +174,13 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
     }
     const QString fileName = name + u'.' + QString::fromLatin1(format).toLower();
     const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(fileName));
-    return MRVTextFormat::exportImageFormat(path, imageFormat, picture) ? path : QString();
+    if (MRVTextFormat::exportImageFormat(path, imageFormat, picture)) {
+        return path;
+    }
+    // Once more by the writer alone, which tells why.
+    return MRVCoreUtil::WriteBinaryFile(MRVGuiUtil::toByteArray(picture, format), path, error)
+        ? path
+        : QString();
 }
 
 // The file as the page refers to it. Only what would end a path or begin an escape is encoded: the rest of the name
@@ -226,12 +232,13 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
         }
         seen.insert(id);
         QDir().mkpath(dir);
-        const QString file = writeImage(dir, imageFormat, format);
+        QString reason;
+        const QString file = writeImage(dir, imageFormat, format, &reason);
         if (!file.isEmpty()) {
             references.insert(id, imageReference(file));
             files.append(file);
         } else if (failed) {
-            failed->append(MRVTextFormat::imageName(imageFormat));
+            failed->append(reason);
         }
     }
     if (html) {

@@ -517,8 +517,9 @@ QStringList MRVTextXhtmlExporter::qtCssProperties()
 
 QStringList MRVTextXhtmlExporter::imgTags(const QString &html)
 {
-    static const QRegularExpression tag(QStringLiteral("<img\\b(?:\"[^\"]*\"|[^\">])*>"),
-                                        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression tag(
+        QStringLiteral("<img\\b(?:\"[^\"]*+\"|'[^']*+'|[^\"'>]++)*+>"),
+        QRegularExpression::CaseInsensitiveOption);
     QStringList tags;
     for (auto it = tag.globalMatch(html); it.hasNext();) {
         tags.append(it.next().captured());

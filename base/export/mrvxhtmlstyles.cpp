@@ -18,6 +18,18 @@ QString canonicalText(const RuleSet &rules)
     return text;
 }
 
+// What Qt does on the screen with raised and lowered text, and leaves to the browser in HTML.
+RuleSet shownRules(RuleSet rules)
+{
+    const QString place = rules.value(QStringLiteral("vertical-align"));
+    const bool shifted = place == QLatin1String("super") || place == QLatin1String("sub");
+    if (shifted && !rules.contains(QStringLiteral("font-size"))) {
+        rules.insert(QStringLiteral("font-size"), QStringLiteral("70%"));
+        rules.insert(QStringLiteral("line-height"), QStringLiteral("0"));
+    }
+    return rules;
+}
+
 bool isSafeCss(const QString &text)
 {
     for (const QChar c : text) {
@@ -182,10 +194,11 @@ QString MRVTextXhtmlExporter::styleSheetText(const StyleList &styles)
     for (int i = 0; i < styles.size(); ++i) {
         css += QLatin1String(".morvane") + (i > 0 ? QString::number(i) : QString())
             + QLatin1String(" {\n");
-        QStringList names = styles.at(i).keys();
+        const RuleSet rules = shownRules(styles.at(i));
+        QStringList names = rules.keys();
         names.sort();
         for (const QString &name : qAsConst(names)) {
-            const QString value = styles.at(i).value(name);
+            const QString value = rules.value(name);
             if (isSafeCss(name) && isSafeCss(value) && !value.isEmpty()) {
                 css += QLatin1String("    ") + name + QLatin1String(": ") + value
                     + QLatin1String(";\n");
