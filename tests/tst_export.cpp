@@ -182,6 +182,7 @@ private Q_SLOTS:
     void ordinaryDocumentsTakeTheChain();
     void htmlIsRaw();
     void proseIsLeftAlone();
+    void whiteSpaceIsKept();
     void eBooksHaveNoStyles();
     void anchorsAndLinks();
     void titles();
@@ -296,6 +297,22 @@ void tst_Export::proseIsLeftAlone()
         QVERIFY(X(&document).toText(type).contains('>' + prose + '<'));
     }
     QVERIFY(!X::htmlToEBook(document.toHtml()).contains(prose));
+}
+
+// The chain takes Qt's rule for it away.
+void tst_Export::whiteSpaceIsKept()
+{
+    QTextDocument document;
+    document.setPlainText("    indented\nplain text \n\ttab\nin  side\nb ");
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    anchor(cursor, QString(), " link", "#a b");
+    anchor(cursor, "a b", "there");
+    const QString page = X(&document).toText(X::Xhtml);
+    QCOMPARE(page.count("<p style=\"white-space:pre-wrap;"), 4);
+    QVERIFY(!page.section("plain text", 0, 0).section("<p", -1).contains("pre-wrap"));
+    QVERIFY(page.contains("<a href=\"#a_b\">"));
+    QCOMPARE(X(&document).toText(X::EPub).count("<p class=\"morvane2\">"), 4);
 }
 
 void tst_Export::eBooksHaveNoStyles()

@@ -182,3 +182,14 @@ void MRVHtmlText::appendAllowed(QString *result, QStringView text)
         }
     }
 }
+
+bool MRVHtmlText::hasWideSpace(QStringView text)
+{
+    // Without a branch, as every character of every page is looked at.
+    const char16_t *const characters = text.utf16();
+    bool wide = !text.isEmpty() && text.back() == u'\t';
+    for (int i = 0, last = int(text.size()) - 1; i < last; ++i) {
+        wide |= (characters[i] == u' ' && characters[i + 1] == u' ') || characters[i] == u'\t';
+    }
+    return wide;
+}

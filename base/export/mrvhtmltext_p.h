@@ -32,6 +32,8 @@ QHash<QString, int> idPlaces(const QString &html);
 
 /** Drops what XML 1.0 (section 2.2, Char) forbids, lone surrogates included; no copy when there is nothing. */
 QString withoutForbiddenCharacters(const QString &text);
+/** Whether the text holds a tab or two blanks in a row. */
+bool hasWideSpace(QStringView text);
 /** Appends the text without what XML 1.0 forbids. */
 void appendAllowed(QString *result, QStringView text);
 

@@ -67,6 +67,7 @@ QString MRVPageWriter::write(const QString &html, const QString &documentTitle,
     writeHead(html, body, documentTitle, title);
     writeBody(QStringView(html).mid(body));
     m_rewritten.clear();
+    m_spaced.clear();
     if (!m_collecting) {
         resolveLinks();
     }
@@ -105,7 +106,7 @@ void MRVPageWriter::writeBody(QStringView html)
     while (done < size) {
         int begin = int(html.indexOf(u'<', done));
         begin = begin < 0 ? size : begin;
-        MRVHtmlText::appendAllowed(&m_page, html.mid(done, begin - done));
+        appendText(html.mid(done, begin - done));
         if (begin == size) {
             break;
         }
@@ -118,6 +119,7 @@ void MRVPageWriter::writeBody(QStringView html)
             m_page += rewritten(html.mid(begin, end - begin));
         } else if (first == u'b' && html[begin + 2] == u'r') {
             m_page.append(html.data() + begin, end - begin);
+            m_paragraph.afterBlank = true;
         } else if (first == u'p' && html[begin + 2] != u'r') {
             done = paragraphEnd(html, end);
             startBlock(html, begin, done);
@@ -228,6 +230,7 @@ int MRVPageWriter::startAnchor(QStringView html, int begin, int end)
 
 void MRVPageWriter::startItem(QStringView tag)
 {
+    endParagraph();
     if (topIs(QLatin1String("li"))) {
         closeItem();
     }
@@ -241,6 +244,7 @@ void MRVPageWriter::startItem(QStringView tag)
         m_page += list;
     }
     startContainer(tag, QStringLiteral("li"));
+    beginParagraph(m_open.constLast().offset, tag);
 }
 
 // Qt ends neither the item nor, after the last one, the list that a rule stands in.
@@ -263,6 +267,7 @@ void MRVPageWriter::startRule(QStringView html, int begin, int end)
 
 void MRVPageWriter::startBlock(QStringView html, int begin, int end)
 {
+    endParagraph();
     enterBlock();
     const QStringView unit = html.mid(begin, end - begin);
     noteBlock(unit);
@@ -276,12 +281,53 @@ void MRVPageWriter::startBlock(QStringView html, int begin, int end)
             m_page += rewrite(tag.text(), QString());
             return;
         }
+    } else {
+        beginParagraph(m_page.size(), unit);
     }
     m_page += rewritten(unit);
 }
 
+void MRVPageWriter::beginParagraph(int offset, QStringView tag)
+{
+    m_paragraph = Paragraph();
+    m_paragraph.offset = offset;
+    m_paragraph.tag = tag;
+}
+
+void MRVPageWriter::appendText(QStringView text)
+{
+    MRVHtmlText::appendAllowed(&m_page, text);
+    if (m_paragraph.offset >= 0 && !m_paragraph.spaced && !text.isEmpty()) {
+        m_paragraph.spaced =
+            (m_paragraph.afterBlank && text.front() == u' ') || MRVHtmlText::hasWideSpace(text);
+        m_paragraph.afterBlank = text.back() == u' ';
+    }
+}
+
+// The chain takes Qt's rule for white space out of the page: a paragraph that needs it gets it back.
+void MRVPageWriter::endParagraph()
+{
+    const Paragraph paragraph = m_paragraph;
+    m_paragraph = Paragraph();
+    if (!paragraph.spaced || !paragraph.tag.endsWith(u'>')) {
+        return;
+    }
+    auto known = m_spaced.constFind(paragraph.tag);
+    if (known == m_spaced.constEnd()) {
+        MRVHtmlTag tag = MRVHtmlTag::parsed(paragraph.tag);
+        tag.addStyle(QStringLiteral("white-space:pre-wrap;"));
+        known = m_spaced.insert(paragraph.tag, rewrite(tag.text(), QString()));
+    }
+    const int before = rewritten(paragraph.tag).size();
+    m_page.replace(paragraph.offset, before, *known);
+    for (int i = m_links.size() - 1; i >= 0 && m_links.at(i).offset > paragraph.offset; --i) {
+        m_links[i].offset += known->size() - before;
+    }
+}
+
 void MRVPageWriter::startContainer(QStringView tag, const QString &name)
 {
+    endParagraph();
     noteBlock(tag);
     Open open;
     open.name = name;
@@ -345,6 +391,9 @@ void MRVPageWriter::endTag(QStringView html, int begin, int end)
     const QStringView tag = html.mid(begin, end - begin);
     const QStringView name = tagName(tag);
     const QLatin1String inlines[] = {QLatin1String("span"), QLatin1String("p"), QLatin1String("a")};
+    if (name != inlines[0] && name != inlines[2]) {
+        endParagraph();
+    }
     if (name == inlines[0] || name == inlines[1] || name == inlines[2] || headingLevel(name) > 0) {
         m_page.append(tag.data(), int(tag.size()));
     } else if (name == QLatin1String("pre")) {

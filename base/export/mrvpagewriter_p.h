@@ -74,6 +74,15 @@ private:
         QString anchor; // unescaped
     };
 
+    // The paragraph or list item that text goes to.
+    struct Paragraph
+    {
+        int offset = -1; // of its tag in the page; -1 outside of paragraphs
+        QStringView tag; // as Qt wrote it
+        bool spaced = false; // holds white space that a browser would swallow
+        bool afterBlank = true;
+    };
+
     void writeHead(const QString &html, int end, const QString &documentTitle,
                    const QString &title);
     void writeBody(QStringView html);
@@ -92,6 +101,9 @@ private:
     void closeItem();
     void enterBlock();
     void noteBlock(QStringView tag);
+    void beginParagraph(int offset, QStringView tag);
+    void appendText(QStringView text);
+    void endParagraph();
     int paragraphEnd(QStringView html, int end) const;
     const QString &rewritten(QStringView unit);
     QString rewrite(const QString &unit, const QString &cellStyle);
@@ -106,6 +118,8 @@ private:
 
     QString m_page;
     QHash<QStringView, QString> m_rewritten; // keys lie in the HTML that is being written
+    QHash<QStringView, QString> m_spaced; // the same for paragraphs that keep their white space
+    Paragraph m_paragraph;
     QVector<Open> m_open;
     QVector<QString> m_suspended; // tags of lists that had to be closed early, innermost last
     int m_itemEnd = -1; // where the page ended after a list item was closed
