@@ -5,11 +5,12 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFragment>
 #include <QVector>
 
 namespace {
 
-// Part of the new text, and the format that it gets.
+// A part of a text by offsets, and its format.
 struct Piece
 {
     int from;
@@ -43,7 +44,11 @@ QTextCharFormat textFormat(QTextCharFormat format)
             format.clearProperty(property);
         }
     }
-    format.clearProperty(QTextFormat::ObjectType);
+    for (int property : {QTextFormat::ObjectType, QTextFormat::ObjectIndex}) {
+        if (format.hasProperty(property)) {
+            format.clearProperty(property);
+        }
+    }
     return format;
 }
 
@@ -59,9 +64,59 @@ QTextCharFormat formatAt(QTextDocument *document, int position)
     return textFormat(cursor.charFormat());
 }
 
+// The formats of the characters of a selection, asked for in ascending order.
+class Formats
+{
+public:
+    Formats(QTextDocument *document, int start, int length)
+        : m_document(document)
+        , m_start(start)
+    {
+        const int end = start + length;
+        const QTextBlock last = document->findBlock(end);
+        const int spanned = last.position() + last.length() - document->findBlock(start).position();
+        // Going over the runs of all its paragraphs would be too dear for a word in a huge one.
+        if (length >= spanned / 8) {
+            collect(end);
+        }
+    }
+
+    QTextCharFormat at(int offset)
+    {
+        while (m_current < m_runs.size() && m_runs.at(m_current).to <= offset) {
+            ++m_current;
+        }
+        return m_current < m_runs.size() ? m_runs.at(m_current).format
+                                         : formatAt(m_document, m_start + offset);
+    }
+
+private:
+    void collect(int end)
+    {
+        for (QTextBlock block = m_document->findBlock(m_start);
+             block.isValid() && block.position() < end; block = block.next()) {
+            for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+                const QTextFragment run = it.fragment();
+                append(run.position() + run.length(), textFormat(run.charFormat()));
+            }
+            append(block.position() + block.length(), textFormat(block.next().charFormat()));
+        }
+    }
+
+    void append(int end, const QTextCharFormat &format)
+    {
+        const int from = m_runs.isEmpty() ? 0 : m_runs.last().to;
+        m_runs.append({from, end - m_start, format});
+    }
+
+    QTextDocument *m_document;
+    int m_start;
+    QVector<Piece> m_runs; ///< none where they were not collected
+    int m_current = 0;
+};
+
 // The parts of two texts of the same length that differ, in order. Each ends where the format does.
-QVector<Piece> differences(QTextDocument *document, int start, const QString &old,
-                           const QString &text)
+QVector<Piece> differences(Formats *formats, const QString &old, const QString &text)
 {
     const auto differs = [&](int i) { return old.at(i) != text.at(i); };
     const auto isSecondHalf = [&](int i) {
@@ -78,7 +133,7 @@ QVector<Piece> differences(QTextDocument *document, int start, const QString &ol
             pieces.last().to = i + 1;
             continue;
         }
-        const QTextCharFormat format = formatAt(document, start + i);
+        const QTextCharFormat format = formats->at(i);
         if (adjoins && pieces.last().format == format) {
             pieces.last().to = i + 1;
         } else {
@@ -90,7 +145,8 @@ QVector<Piece> differences(QTextDocument *document, int start, const QString &ol
 
 void replaceInPlace(QTextCursor &cursor, int start, const QString &old, const QString &text)
 {
-    const QVector<Piece> pieces = differences(cursor.document(), start, old, text);
+    Formats formats(cursor.document(), start, old.size());
+    const QVector<Piece> pieces = differences(&formats, old, text);
     // From the last to the first, so that the positions of the others hold.
     for (auto piece = pieces.crbegin(); piece != pieces.crend(); ++piece) {
         cursor.setPosition(start + piece->from);
