@@ -18,13 +18,16 @@ struct Piece
     QTextCharFormat format;
 };
 
+constexpr ushort BeginningOfFrame = 0xfdd0;
+constexpr ushort EndOfFrame = 0xfdd1;
+
 // As Qt does it when it inserts text, so that lengths can be compared before.
 QString withParagraphSeparators(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     for (QChar &character : text) {
         if (character == QLatin1Char('\n') || character == QLatin1Char('\r')
-            || MRVTextFormat::hasFrameInString(character)) {
+            || character == QChar(BeginningOfFrame) || character == QChar(EndOfFrame)) {
             character = QChar::ParagraphSeparator;
         }
     }
