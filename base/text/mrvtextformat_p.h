@@ -3,9 +3,9 @@
 class QTextCharFormat;
 
 /**
- * Gives QTextOption::Tab, the type of tab stops, its stream operators and its equality. Without
- * them a format with tab stops can be neither stored nor compared. Call it before either; only the
- * first call does anything.
+ * Gives the types of tab stops and list levels their stream operators and their equality. Without
+ * them a format with tab stops can be neither stored nor compared, and one with list levels not
+ * read. Call it before either; only the first call does anything.
  */
 void mrvRegisterTextTypes();
 

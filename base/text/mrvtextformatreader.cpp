@@ -80,6 +80,7 @@ private:
     bool pen();
     bool length();
     bool tab();
+    bool listLevel();
     bool image();
     bool png();
 
@@ -133,7 +134,8 @@ constexpr FormatWalker::TypeRow FormatWalker::Types[] = {
 // A type that is registered by name and stored in formats gets its row here; without one, formats
 // that hold it cannot be stored.
 constexpr FormatWalker::UserTypeRow FormatWalker::UserTypes[] = {
-    {"QTextOption::Tab", &FormatWalker::tab},
+    {"QTextOption::Tab",       &FormatWalker::tab},
+    {"QTextListFormat::Level", &FormatWalker::listLevel},
 };
 // clang-format on
 
@@ -355,6 +357,11 @@ bool FormatWalker::length()
 bool FormatWalker::tab()
 {
     return skip(8) && enumeration(QTextOption::DelimiterTab) && skip(2);
+}
+
+bool FormatWalker::listLevel()
+{
+    return string() && skip(4 + 8 + 8); // number style, two indents
 }
 
 bool FormatWalker::image()

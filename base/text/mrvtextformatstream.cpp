@@ -1,5 +1,6 @@
 #include "text/mrvtextformat.h"
 
+#include "text/engine/mrvlistlevel.h"
 #include "text/mrvtextformat_p.h"
 #include "text/mrvtextformatreader_p.h"
 
@@ -41,6 +42,7 @@ bool registerTextTypes()
     QMetaType::registerStreamOperators(tab, saveTab, loadTab);
     if (!QMetaType::hasRegisteredComparators(tab))
         QMetaType::registerEqualsComparator<QTextOption::Tab>();
+    qMetaTypeId<MRVQtListLevel>(); // registers it, so that streams can read it
     return true;
 }
 
