@@ -8,7 +8,6 @@
 #include "util/mrvnames.h"
 
 #include "core/mrvcoreutil.h"
-#include "gui/mrvguiutil.h"
 
 #include <QDir>
 #include <QFile>
@@ -174,13 +173,7 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
     }
     const QString fileName = name + u'.' + QString::fromLatin1(format).toLower();
     const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(fileName));
-    if (MRVTextFormat::exportImageFormat(path, imageFormat, picture)) {
-        return path;
-    }
-    // Once more by the writer alone, which tells why.
-    return MRVCoreUtil::WriteBinaryFile(MRVGuiUtil::toByteArray(picture, format), path, error)
-        ? path
-        : QString();
+    return MRVTextFormat::exportImageFormat(path, imageFormat, picture, error) ? path : QString();
 }
 
 // The file as the page refers to it. Only what would end a path or begin an escape is encoded: the rest of the name

@@ -4,6 +4,7 @@
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFlags>
 #include <QImage>
 #include <QList>
@@ -32,6 +33,8 @@ class QTextDocument;
  */
 class MRVBASE_EXPORT MRVTextFormat
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVTextFormat)
+
 public:
     MRVTextFormat() = delete;
 
@@ -227,10 +230,11 @@ public:
      *
      * An existing file is removed first, so that a failed export leaves no stale file behind.
      *
+     * @param error if given, receives one line with file and reason on failure; untouched on success.
      * @return false for an empty name, and where @p image is needed but cannot be encoded or written.
      */
     static bool exportImageFormat(const QString &fileName, const QTextImageFormat &format,
-                                  const QImage &image);
+                                  const QImage &image, QString *error = nullptr);
 
     /** Whether @p text holds the begin or end mark of a frame (U+FDD0, U+FDD1). */
     static bool hasFrameInString(const QString &text);

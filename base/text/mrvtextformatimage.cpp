@@ -69,10 +69,13 @@ QImage MRVTextFormat::image(const QTextDocument &document, const QTextImageForma
 }
 
 bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageFormat &format,
-                                      const QImage &image)
+                                      const QImage &image, QString *error)
 {
-    if (fileName.isEmpty())
+    if (fileName.isEmpty()) {
+        if (error)
+            *error = tr("The picture has no file name.");
         return false;
+    }
     const QString link = imageLink(format);
     const bool linked = !link.isEmpty() && QFileInfo(link).isFile();
     // Removing the target would destroy the picture's only copy.
@@ -96,5 +99,7 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
     }
     const QByteArray bytes = MRVGuiUtil::toByteArray(image, suffix.toUpper().toLatin1().constData(),
                                                      jpeg ? JpegQuality : DefaultQuality);
-    return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, fileName);
+    if (bytes.isEmpty() && error)
+        *error = tr("The picture cannot be encoded for the file \"%1\".").arg(fileName);
+    return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, fileName, error);
 }
