@@ -1,0 +1,244 @@
+#include "search/mrvtextmatcher_p.h"
+
+#include <algorithm>
+
+namespace {
+
+inline ushort foldCase(ushort c)
+{
+    if (c < 0x80)
+        return c >= 'A' && c <= 'Z' ? c | 0x20 : c;
+    return ushort(QChar::toCaseFolded(uint(c)));
+}
+
+template<bool Fold>
+inline ushort unit(ushort c)
+{
+    return Fold ? foldCase(c) : c;
+}
+
+QString folded(QString text, ushort (*fold)(ushort))
+{
+    for (QChar &c : text) {
+        c = QChar(fold(c.unicode()));
+    }
+    return text;
+}
+
+bool hasSurrogate(const QString &text)
+{
+    // No early end, so that the compiler can use vector code.
+    bool found = false;
+    const ushort *units = text.utf16();
+    for (int i = 0, n = text.size(); i < n; ++i) {
+        found |= (units[i] & 0xf800) == 0xd800;
+    }
+    return found;
+}
+
+void replaceLoneSurrogates(QString *text)
+{
+    for (int i = 0; i < text->size(); ++i) {
+        const QChar c = text->at(i);
+        if (!c.isSurrogate())
+            continue;
+        if (c.isHighSurrogate() && i + 1 < text->size() && text->at(i + 1).isLowSurrogate()) {
+            ++i;
+        } else {
+            (*text)[i] = QChar(QChar::ReplacementCharacter);
+        }
+    }
+}
+
+} // namespace
+
+void mrvBlankObjects(QString *text)
+{
+    for (const QChar c : {QChar(QChar::ObjectReplacementCharacter), QChar(QChar::Nbsp)}) {
+        if (text->contains(c)) {
+            text->replace(c, QLatin1Char(' '));
+        }
+    }
+}
+
+MRVLiteralMatcher::MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity sensitivity)
+    : m_text(sensitivity == Qt::CaseSensitive ? text : folded(text, foldCase))
+    , m_sensitivity(sensitivity)
+    , m_blanks(text.contains(QLatin1Char(' ')) || text.contains(QChar(QChar::Nbsp))
+               || text.contains(QChar(QChar::ObjectReplacementCharacter)))
+{
+    if (sensitivity == Qt::CaseInsensitive) {
+        m_lower = folded(text, [](ushort c) { return ushort(QChar::toLower(uint(c))); });
+    }
+    // A step is at most 255, so a longer text is skipped along by its last 255 characters only.
+    const int size = m_text.size();
+    m_skip.fill(uchar(qMin(size, 255)));
+    for (int i = qMax(0, size - 255); i < size - 1; ++i) {
+        m_skip[m_text.at(i).unicode() & 0xff] = uchar(size - 1 - i);
+    }
+}
+
+bool MRVLiteralMatcher::canMatch(const QString &text, Qt::CaseSensitivity sensitivity)
+{
+    return sensitivity == Qt::CaseSensitive
+        || (!hasSurrogate(text) && !text.contains(QChar(0x130)));
+}
+
+void MRVLiteralMatcher::prepare(QString *text) const
+{
+    // Objects and no-break spaces are no letters, so the word rules do not need the blanks.
+    if (m_blanks) {
+        mrvBlankObjects(text);
+    }
+}
+
+template<bool Fold>
+int MRVLiteralMatcher::horspool(const ushort *text, int length, int offset) const
+{
+    const int size = m_text.size();
+    const ushort *pattern = m_text.utf16();
+    const ushort last = pattern[size - 1];
+    for (int at = offset + size - 1; at < length;) {
+        const ushort c = unit<Fold>(text[at]);
+        if (c == last) {
+            int i = size - 1;
+            const ushort *start = text + at - i;
+            while (i > 0 && unit<Fold>(start[i - 1]) == pattern[i - 1]) {
+                --i;
+            }
+            if (i == 0)
+                return at - size + 1;
+        }
+        at += m_skip[c & 0xff];
+    }
+    return -1;
+}
+
+MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
+{
+    if (m_text.isEmpty())
+        return MRVTextMatch();
+    int at = -1;
+    if (m_sensitivity == Qt::CaseInsensitive) {
+        at = horspool<true>(text.utf16(), text.size(), offset);
+    } else if (m_text.size() == 1) {
+        at = text.indexOf(m_text.at(0), offset);
+    } else {
+        at = horspool<false>(text.utf16(), text.size(), offset);
+    }
+    return {at, m_text.size()};
+}
+
+MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
+{
+    if (m_text.isEmpty())
+        return MRVTextMatch();
+    // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma is
+    // then another letter than a sigma.
+    const bool lower = m_sensitivity == Qt::CaseInsensitive;
+    const QString &pattern = lower ? m_lower : m_text;
+    const auto same = [lower](QChar a, QChar b) { return (lower ? a.toLower() : a) == b; };
+    for (int at = qMin(offset, text.size() - pattern.size()); at >= 0; --at) {
+        if (std::equal(text.cbegin() + at, text.cbegin() + at + pattern.size(), pattern.cbegin(),
+                       same)) {
+            return {at, pattern.size()};
+        }
+    }
+    return MRVTextMatch();
+}
+
+MRVTextMatch MRVRegExpMatcher::next(const QString &text, int offset) const
+{
+    const int at = m_expression.indexIn(text, offset);
+    return {at, m_expression.matchedLength()};
+}
+
+MRVTextMatch MRVRegExpMatcher::last(const QString &text, int offset) const
+{
+    const int at = m_expression.lastIndexIn(text, offset);
+    return {at, m_expression.matchedLength()};
+}
+
+MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpression &expression)
+    : m_expression(expression)
+{
+    const auto options = expression.patternOptions();
+    if (options & QRegularExpression::UseUnicodePropertiesOption)
+        return;
+    // Other options mean to compile anew, which takes longer than to search a paragraph. So the last
+    // expression is kept compiled; searching from find to find always asks for the same one.
+    struct Compiled
+    {
+        QRegularExpression given;
+        QRegularExpression used;
+    };
+    static thread_local Compiled last;
+    if (last.given != expression) {
+        last.given = expression;
+        last.used = expression;
+        last.used.setPatternOptions(options | QRegularExpression::UseUnicodePropertiesOption);
+    }
+    m_expression = last.used;
+}
+
+bool MRVRegularExpressionMatcher::isEmpty() const
+{
+    return m_expression.pattern().isEmpty() || !m_expression.isValid();
+}
+
+void MRVRegularExpressionMatcher::prepare(QString *text) const
+{
+    mrvBlankObjects(text);
+    if (hasSurrogate(*text)) {
+        replaceLoneSurrogates(text);
+    }
+}
+
+QRegularExpressionMatch MRVRegularExpressionMatcher::match(const QString &text, int offset) const
+{
+    // prepare() saw to the surrogates, once. The expression would do so again at each match, from
+    // the beginning of the paragraph.
+    return m_expression.match(text, offset, QRegularExpression::NormalMatch,
+                              QRegularExpression::DontCheckSubjectStringMatchOption);
+}
+
+MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) const
+{
+    // Unchecked, the middle of a pair is no place to start from.
+    if (offset > 0 && offset < text.size() && text.at(offset).isLowSurrogate()
+        && text.at(offset - 1).isHighSurrogate()) {
+        ++offset;
+    }
+    const QRegularExpressionMatch found = match(text, offset);
+    if (!found.hasMatch())
+        return MRVTextMatch();
+    return {found.capturedStart(), found.capturedLength()};
+}
+
+MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) const
+{
+    // The expression only searches forward. So it is let loose at places further and further back,
+    // until it finds a match that starts at the offset or before; then the last such is sought.
+    for (int reach = 16;; reach = qMin(reach, offset) * 4) {
+        const int from = qMax(0, offset - reach);
+        MRVTextMatch best;
+        for (MRVTextMatch match = next(text, from); match && match.start <= offset;
+             match = next(text, match.start + 1)) {
+            best = match;
+            if (match.start == text.size())
+                break;
+        }
+        if (best || from == 0)
+            return best;
+    }
+}
+
+bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags)
+{
+    if ((flags & MRVTextFinder::FindWordStart) && match.start > 0
+        && text.at(match.start - 1).isLetterOrNumber()) {
+        return false;
+    }
+    return !(flags & MRVTextFinder::FindWordEnd) || match.end() >= text.size()
+        || !text.at(match.end()).isLetterOrNumber();
+}

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "search/mrvtextfinder.h"
+
+#include <QRegExp>
+#include <QRegularExpression>
+#include <QString>
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <array>
+
+// The three ways to look for text, behind one shape: what is done to a paragraph's text before it is
+// searched, the next match from an offset on, and the last one that starts at an offset or before.
+
+struct MRVTextMatch
+{
+    int start = -1; ///< negative: no match
+    int length = 0;
+
+    int end() const { return start + length; }
+    explicit operator bool() const { return start >= 0; }
+};
+
+/** Puts blanks in the place of objects and no-break spaces, which keeps all positions. */
+void mrvBlankObjects(QString *text);
+
+/** A plain text. Finds what a QRegExp of pattern syntax FixedString finds, only faster. */
+class MRVLiteralMatcher
+{
+public:
+    MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity sensitivity);
+
+    /**
+     * Whether QRegExp, which compares letters by two rules at once, can be foretold for @p text. It
+     * cannot for the dotted capital I and beyond U+FFFF, where case matters.
+     */
+    static bool canMatch(const QString &text, Qt::CaseSensitivity sensitivity);
+
+    bool isEmpty() const { return m_text.isEmpty(); }
+    int length() const { return m_text.size(); }
+    void prepare(QString *text) const;
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+
+private:
+    template<bool Fold>
+    int horspool(const ushort *text, int length, int offset) const;
+
+    QString m_text; // folded where case does not matter
+    QString m_lower;
+    std::array<uchar, 256> m_skip; // by the low byte of the character
+    Qt::CaseSensitivity m_sensitivity;
+    bool m_blanks;
+};
+
+class MRVRegExpMatcher
+{
+public:
+    explicit MRVRegExpMatcher(const QRegExp &expression)
+        : m_expression(expression)
+    {
+    }
+
+    bool isEmpty() const { return m_expression.isEmpty(); }
+    void prepare(QString *text) const { mrvBlankObjects(text); }
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+
+private:
+    mutable QRegExp m_expression; // remembers its last match
+};
+
+class MRVRegularExpressionMatcher
+{
+public:
+    explicit MRVRegularExpressionMatcher(const QRegularExpression &expression);
+
+    bool isEmpty() const;
+    /** Also replaces lone surrogates, since a text with one of them cannot be searched at all. */
+    void prepare(QString *text) const;
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+    /** The whole match, with captures; @p text must have been prepared. */
+    QRegularExpressionMatch match(const QString &text, int offset) const;
+
+private:
+    QRegularExpression m_expression;
+};
+
+/** Whether the word rules of @p flags accept @p match. */
+bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags);
+
+/**
+ * The nearest match in a prepared text that keeps the word rules. A match that breaks them is passed
+ * over whole and one character more. Deliberate: what starts right behind it is not seen.
+ */
+template<typename Matcher>
+MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offset,
+                           MRVTextFinder::FindFlags flags)
+{
+    const bool backward = flags & MRVTextFinder::FindBackward;
+    while (offset >= 0 && offset <= text.size()) {
+        const MRVTextMatch match =
+            backward ? matcher.last(text, offset) : matcher.next(text, offset);
+        if (!match || mrvKeepsWordRules(text, match, flags))
+            return match;
+        offset = backward ? match.start - 1 : match.end() + 1;
+    }
+    return MRVTextMatch();
+}
+
+/**
+ * Calls @p found(text, match) for the matches in a prepared text from @p offset on that end at
+ * @p limit or before. Behind an empty match the search goes on by one character, or it would stand
+ * still.
+ */
+template<typename Matcher, typename Found>
+void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
+                  MRVTextFinder::FindFlags flags, Found found)
+{
+    flags &= ~MRVTextFinder::FindBackward;
+    while (offset <= limit) {
+        const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags);
+        if (!match || match.end() > limit)
+            return;
+        found(match);
+        offset = match.length > 0 ? match.end() : match.end() + 1;
+    }
+}
+
+/** Calls @p visit(block, from, to), offsets in the paragraph's text, for each paragraph of a part. */
+template<typename Visit>
+void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)
+{
+    const int start = qMax(0, within.start());
+    if (!document || within.end() < 0)
+        return;
+    for (QTextBlock block = document->findBlock(start); block.isValid(); block = block.next()) {
+        const int position = block.position();
+        if (position > within.end())
+            return;
+        visit(block, qMax(0, start - position), qMin(block.length() - 1, within.end() - position));
+    }
+}
