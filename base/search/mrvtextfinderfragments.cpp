@@ -49,12 +49,12 @@ bool pieceInBlock(const QTextBlock &block, int from, bool acceptPartial, Verdict
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
+        if (!verdicts(fragment.charFormatIndex()))
+            continue;
         const int start = fragment.position();
         const int end = start + fragment.length();
-        if (end <= from || (start < from && !acceptPartial)
-            || !verdicts(fragment.charFormatIndex())) {
+        if (end <= from || (start < from && !acceptPartial))
             continue;
-        }
         *range = MRVTextRange(qMax(start, from), end);
         return true;
     }
@@ -116,12 +116,11 @@ Share shareOf(const QTextDocument *document, const MRVTextRange &range, Verdicts
 {
     int carried = 0;
     int all = 0;
-    auto count = [&](int format) {
+    auto any = [](int) { return true; };
+    mrvEachPiece(document, range, any, [&](const MRVTextPiece &piece) {
         ++all;
-        carried += verdicts(format) ? 1 : 0;
-        return false;
-    };
-    mrvEachPiece(document, range, count, [](const MRVTextPiece &) {});
+        carried += verdicts(piece.format) ? 1 : 0;
+    });
     if (all == 0)
         return Share::NoText;
     return carried == 0 ? Share::None : carried < all ? Share::Some : Share::All;

@@ -140,17 +140,21 @@ MRVTextRange whole(const QTextDocument *document)
     return document ? MRVTextRange(0, document->characterCount()) : MRVTextRange();
 }
 
-/// Calls @p work with the quickest matcher for an expression.
+/// Calls @p work with the quickest matcher for a text.
+template<typename Work>
+auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
+{
+    if (MRVLiteralMatcher::canMatch(text, cs))
+        return work(MRVLiteralMatcher(text, cs));
+    return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
+}
+
+/// The same for an expression.
 template<typename Work>
 auto withMatcher(const QRegExp &expression, Work work)
 {
-    const Qt::CaseSensitivity cs = expression.caseSensitivity();
-    const QString pattern = expression.pattern();
-    if (expression.patternSyntax() == QRegExp::FixedString
-        && MRVLiteralMatcher::canMatch(pattern, cs)) {
-        // It looks at the pattern for blanks; of those only the plain one is ever found.
-        return work(MRVLiteralMatcher(pattern, cs));
-    }
+    if (expression.patternSyntax() == QRegExp::FixedString)
+        return withMatcher(expression.pattern(), expression.caseSensitivity(), work);
     return work(MRVRegExpMatcher(expression));
 }
 
@@ -172,7 +176,9 @@ QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegExp &ex
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text, int from,
                                 FindFlags flags)
 {
-    return find(document, QRegExp(text, sensitivity(flags), QRegExp::FixedString), from, flags);
+    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
+        return findFrom(document, matcher, from, flags);
+    });
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text,
@@ -226,8 +232,9 @@ QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, cons
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, const QString &text,
                                              FindFlags flags, const MRVTextRange &within)
 {
-    return findAll(document, QRegExp(text, sensitivity(flags), QRegExp::FixedString), flags,
-                   within);
+    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
+        return findAllWith(document, matcher, flags, within);
+    });
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,

@@ -17,12 +17,17 @@ inline ushort unit(ushort c)
     return Fold ? foldCase(c) : c;
 }
 
-QString folded(QString text, ushort (*fold)(ushort))
+QString folded(QString text)
 {
     for (QChar &c : text) {
-        c = QChar(fold(c.unicode()));
+        c = QChar(foldCase(c.unicode()));
     }
     return text;
+}
+
+inline bool isBlank(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QChar::Nbsp || c == QChar::ObjectReplacementCharacter;
 }
 
 bool hasSurrogate(const QString &text)
@@ -62,19 +67,16 @@ void mrvBlankObjects(QString *text)
 }
 
 MRVLiteralMatcher::MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity sensitivity)
-    : m_text(sensitivity == Qt::CaseSensitive ? text : folded(text, foldCase))
+    : m_text(text)
+    , m_folded(sensitivity == Qt::CaseSensitive ? text : folded(text))
     , m_sensitivity(sensitivity)
-    , m_blanks(text.contains(QLatin1Char(' ')) || text.contains(QChar(QChar::Nbsp))
-               || text.contains(QChar(QChar::ObjectReplacementCharacter)))
+    , m_blanks(std::any_of(text.cbegin(), text.cend(), isBlank))
 {
-    if (sensitivity == Qt::CaseInsensitive) {
-        m_lower = folded(text, [](ushort c) { return ushort(QChar::toLower(uint(c))); });
-    }
     // A step is at most 255, so a longer text is skipped along by its last 255 characters only.
-    const int size = m_text.size();
+    const int size = text.size();
     m_skip.fill(uchar(qMin(size, 255)));
     for (int i = qMax(0, size - 255); i < size - 1; ++i) {
-        m_skip[m_text.at(i).unicode() & 0xff] = uchar(size - 1 - i);
+        m_skip[m_folded.at(i).unicode() & 0xff] = uchar(size - 1 - i);
     }
 }
 
@@ -96,7 +98,7 @@ template<bool Fold>
 int MRVLiteralMatcher::horspool(const ushort *text, int length, int offset) const
 {
     const int size = m_text.size();
-    const ushort *pattern = m_text.utf16();
+    const ushort *pattern = m_folded.utf16();
     const ushort last = pattern[size - 1];
     for (int at = offset + size - 1; at < length;) {
         const ushort c = unit<Fold>(text[at]);
@@ -136,13 +138,12 @@ MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
     // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma is
     // then another letter than a sigma.
     const bool lower = m_sensitivity == Qt::CaseInsensitive;
-    const QString &pattern = lower ? m_lower : m_text;
-    const auto same = [lower](QChar a, QChar b) { return (lower ? a.toLower() : a) == b; };
-    for (int at = qMin(offset, text.size() - pattern.size()); at >= 0; --at) {
-        if (std::equal(text.cbegin() + at, text.cbegin() + at + pattern.size(), pattern.cbegin(),
-                       same)) {
-            return {at, pattern.size()};
-        }
+    const auto same = [lower](QChar a, QChar b) {
+        return a == b || (lower && a.toLower() == b.toLower());
+    };
+    for (int at = qMin(offset, text.size() - m_text.size()); at >= 0; --at) {
+        if (std::equal(m_text.cbegin(), m_text.cend(), text.cbegin() + at, same))
+            return {at, m_text.size()};
     }
     return MRVTextMatch();
 }

@@ -47,8 +47,8 @@ private:
     template<bool Fold>
     int horspool(const ushort *text, int length, int offset) const;
 
-    QString m_text; // folded where case does not matter
-    QString m_lower;
+    QString m_text; // as given
+    QString m_folded; // where case does not matter, else the same
     std::array<uchar, 256> m_skip; // by the low byte of the character
     Qt::CaseSensitivity m_sensitivity;
     bool m_blanks;

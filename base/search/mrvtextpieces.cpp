@@ -20,10 +20,12 @@ void MRVPieceWalker::load(const QTextBlock &block)
 {
     m_block = block;
     m_pieces.resize(0);
+    int position = block.position(); // a fragment would climb a tree for its own
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
-        m_pieces.append(MRVTextPiece{fragment.position(), fragment.position() + fragment.length(),
-                                     fragment.charFormatIndex()});
+        const int end = position + fragment.length();
+        m_pieces.append(MRVTextPiece{position, end, fragment.charFormatIndex()});
+        position = end;
     }
 }
 

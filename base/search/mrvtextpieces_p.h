@@ -82,10 +82,14 @@ void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Ver
     QTextBlock block = document->findBlock(within.start());
     for (; block.isValid() && block.position() < within.end(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
+            // The verdict first: to ask for a position means to climb a tree.
             const QTextFragment fragment = it.fragment();
-            const int start = qMax(fragment.position(), within.start());
-            const int end = qMin(fragment.position() + fragment.length(), within.end());
-            if (start < end && verdicts(fragment.charFormatIndex())) {
+            if (!verdicts(fragment.charFormatIndex()))
+                continue;
+            const int position = fragment.position();
+            const int start = qMax(position, within.start());
+            const int end = qMin(position + fragment.length(), within.end());
+            if (start < end) {
                 found(MRVTextPiece{start, end, fragment.charFormatIndex()});
             }
         }
