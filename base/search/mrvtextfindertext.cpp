@@ -5,23 +5,28 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <utility>
+
 namespace {
 
 using Finder = MRVTextFinder;
 
-void selectMatch(const QTextBlock &block, MRVTextMatch match, QTextCursor *result)
+void selectMatch(const QTextBlock &block, int position, MRVTextMatch match, QTextCursor *result)
 {
     // A cursor made from the block is the way to one in a document that is const.
-    *result = QTextCursor(block);
-    result->setPosition(block.position() + match.start);
-    result->setPosition(block.position() + match.end(), QTextCursor::KeepAnchor);
+    QTextCursor cursor(block);
+    cursor.setPosition(position + match.start);
+    if (match.length > 0) {
+        cursor.setPosition(position + match.end(), QTextCursor::KeepAnchor);
+    }
+    *result = std::move(cursor);
 }
 
 template<typename Matcher>
 MRVTextMatch matchInBlock(const Matcher &matcher, const QTextBlock &block, int offset,
                           Finder::FindFlags flags)
 {
-    if (!block.isValid() || offset < 0 || offset >= block.length())
+    if (!block.isValid() || offset < 0)
         return MRVTextMatch();
     QString text = block.text();
     matcher.prepare(&text);
@@ -84,15 +89,17 @@ QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int 
     if (!document || start < 0 || matcher.isEmpty())
         return result;
     QTextBlock block = document->findBlock(start);
-    int offset = start - block.position();
+    int position = block.position(); // asked for once, as Qt climbs a tree for it
+    int offset = start - position;
     while (block.isValid()) {
         const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
         if (match) {
-            selectMatch(block, match, &result);
+            selectMatch(block, position < 0 ? block.position() : position, match, &result);
             return result;
         }
         block = backward ? block.previous() : block.next();
         offset = backward ? block.length() - 1 : 0;
+        position = -1;
     }
     return result;
 }
@@ -205,7 +212,7 @@ bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegExp &expressi
     return withMatcher(expression, [&](const auto &matcher) {
         const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
         if (match) {
-            selectMatch(block, match, &result);
+            selectMatch(block, block.position(), match, &result);
         }
         return bool(match);
     });
@@ -218,7 +225,7 @@ bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegularExpressio
     const MRVTextMatch match =
         matcher.isEmpty() ? MRVTextMatch() : matchInBlock(matcher, block, offset, flags);
     if (match) {
-        selectMatch(block, match, &result);
+        selectMatch(block, block.position(), match, &result);
     }
     return bool(match);
 }
