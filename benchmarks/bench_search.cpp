@@ -1,7 +1,9 @@
 #include "novel.h"
 #include "search/mrvtextfinder.h"
+#include "search/mrvtextreplacer.h"
 #include "text/mrvtextformat.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QRegExp>
 #include <QRegularExpression>
@@ -220,6 +222,47 @@ void loopOfFragmentFinds(benchmark::State &state)
         [&] { return plainCount(document, pattern); });
 }
 
+/// Every find replaced there and back, so that each round begins with the same document. The peer is
+/// the usual loop in one edit block.
+void replaceAll(benchmark::State &state)
+{
+    const auto ours = novel(int(state.range(0)));
+    const auto theirs = novel(int(state.range(0)));
+    if (state.range(1)) {
+        for (QTextDocument *document : {ours.get(), theirs.get()}) {
+            document->setPageSize(QSizeF(600, 800));
+            document->documentLayout()->documentSize();
+        }
+    }
+    MRVTextQuery there;
+    there.text = QStringLiteral("evening");
+    there.flags = Finder::FindCaseSensitively;
+    MRVTextQuery back = there;
+    back.text = QStringLiteral("afternoon");
+    compareCounts(
+        state,
+        [&] {
+            const int count = MRVTextReplacer::replaceAll(ours.get(), there, back.text);
+            return count + MRVTextReplacer::replaceAll(ours.get(), back, there.text);
+        },
+        [&] {
+            int count = 0;
+            for (const auto &[from, to] :
+                 {std::pair(there.text, back.text), std::pair(back.text, there.text)}) {
+                QTextCursor c(theirs.get());
+                c.beginEditBlock();
+                for (QTextCursor find = c;
+                     !(find = theirs->find(from, find, QTextDocument::FindCaseSensitively))
+                          .isNull();) {
+                    find.insertText(to);
+                    ++count;
+                }
+                c.endEditBlock();
+            }
+            return count;
+        });
+}
+
 const std::vector<int64_t> sizes{10000, 100000, 1000000};
 
 } // namespace
@@ -235,12 +278,16 @@ MRV_SEARCH_BENCHMARK(findAllInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(loopInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(collectRuns)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(loopOfFragmentFinds)->ArgsProduct({sizes});
+MRV_SEARCH_BENCHMARK(replaceAll)->ArgsProduct({sizes, {0}})->Args({100000, 1});
 
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

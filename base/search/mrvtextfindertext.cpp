@@ -132,7 +132,9 @@ QVector<MRVTextRange> findAllWith(const QTextDocument *document, const Matcher &
         const int position = block.position();
         mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
             finds.append(MRVTextRange(position + match.start, position + match.end()));
+            return true;
         });
+        return true;
     });
     return finds;
 }

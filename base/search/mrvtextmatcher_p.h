@@ -111,8 +111,8 @@ MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offs
 }
 
 /**
- * Calls @p found(text, match) for the matches in a prepared text from @p offset on that end at
- * @p limit or before. Behind an empty match the search goes on by one character, or it would stand
+ * Calls @p found(match) for the matches in a prepared text from @p offset on, until it says false or
+ * a match reaches beyond @p limit. Behind an empty match the search goes on by one character, or it would stand
  * still.
  */
 template<typename Matcher, typename Found>
@@ -122,14 +122,16 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
     flags &= ~MRVTextFinder::FindBackward;
     while (offset <= limit) {
         const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags);
-        if (!match || match.end() > limit)
+        if (!match || match.end() > limit || !found(match))
             return;
-        found(match);
         offset = match.length > 0 ? match.end() : match.end() + 1;
     }
 }
 
-/** Calls @p visit(block, from, to), offsets in the paragraph's text, for each paragraph of a part. */
+/**
+ * Calls @p visit(block, from, to), with offsets in its text, for each paragraph of a part until it
+ * says false.
+ */
 template<typename Visit>
 void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)
 {
@@ -140,6 +142,8 @@ void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Vis
         const int position = block.position();
         if (position > within.end())
             return;
-        visit(block, qMax(0, start - position), qMin(block.length() - 1, within.end() - position));
+        if (!visit(block, qMax(0, start - position),
+                   qMin(block.length() - 1, within.end() - position)))
+            return;
     }
 }
