@@ -314,6 +314,12 @@ bool holdsObject(const QString &text)
     return text.contains(QChar(QChar::ObjectReplacementCharacter));
 }
 
+void select(QTextCursor *cursor, const MRVTextRange &range)
+{
+    cursor->setPosition(range.start());
+    cursor->setPosition(range.end(), QTextCursor::KeepAnchor);
+}
+
 MRVTextRange partBefore(const QTextCursor &cursor, const MRVTextQuery &query)
 {
     return clipped(query.range, 0, cursor.selectionStart());
@@ -416,7 +422,18 @@ QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
 int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &query,
                                 const QString &replacement)
 {
-    return apply(document, preview(document, query, replacement));
+    const QVector<MRVTextChange> changes = preview(document, query, replacement);
+    if (changes.isEmpty())
+        return 0;
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    // From the last to the first, so that the positions of the others hold.
+    for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
+        select(&cursor, change->range);
+        mrvReplaceText(cursor, change->after);
+    }
+    cursor.endEditBlock();
+    return changes.size();
 }
 
 int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange> &changes)
@@ -427,7 +444,6 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
     for (const MRVTextChange &change : changes) {
         order.append(&change);
     }
-    // From the last to the first, so that the positions of the others hold.
     std::stable_sort(order.begin(), order.end(),
                      [](const auto *a, const auto *b) { return b->range < a->range; });
     QTextCursor cursor(document);
@@ -437,8 +453,7 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
         const MRVTextRange &range = change->range;
         if (range.start() < 0 || range.end() > limit || change->before == change->after)
             continue;
-        cursor.setPosition(range.start());
-        cursor.setPosition(range.end(), QTextCursor::KeepAnchor);
+        select(&cursor, range);
         if (cursor.selectedText() != change->before)
             continue;
         if (made++ == 0) {
