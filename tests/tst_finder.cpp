@@ -536,6 +536,8 @@ void tst_Finder::nothing()
     QVERIFY(!Finder::findInBlock(QTextBlock(), QRegExp("a"), 0, {}, result)
             && !Finder::findInBlock(QTextBlock(), format, 0, result, true, true));
     QTextDocument document("a)");
+    QVERIFY(!Finder::findInBlock(document.begin(), QRegExp(), 0, {}, result));
+    QVERIFY(!Finder::findInBlock(document.begin(), QRegularExpression(), 0, {}, result));
     QVERIFY(Finder::find(&document, QRegularExpression("a)"), 0).isNull());
 }
 

@@ -154,6 +154,9 @@ void tst_Replacer::oneByOne()
          !(c = Replacer::find(c, query)).isNull() && places.size() < 9;)
         places << QString::number(c.anchor());
     QCOMPARE(places.join(' '), QString("7 4 1")); // the one at 9 is behind the cursor
+    c = selected(&document, 4, 5);
+    QVERIFY(Replacer::replace(c, query, "aa") && c.position() == 4 && !c.hasSelection());
+    document.undo();
     places.clear();
     for (c = QTextCursor(&document);
          !(c = Replacer::find(c, queryFor("x*$", "r"))).isNull() && places.size() < 9;)

@@ -26,7 +26,7 @@ template<typename Matcher>
 MRVTextMatch matchInBlock(const Matcher &matcher, const QTextBlock &block, int offset,
                           Finder::FindFlags flags)
 {
-    if (!block.isValid() || offset < 0)
+    if (!block.isValid() || offset < 0 || matcher.isEmpty())
         return MRVTextMatch();
     QString text = block.text();
     matcher.prepare(&text);
@@ -50,7 +50,7 @@ MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock
     const bool backward = flags & Finder::FindBackward;
     const int length = block.length() - 1;
     const int near = matcher.length() + 1; // one more, for the word rules
-    if (offset < 0 || offset > length)
+    if (offset < 0 || offset > length || matcher.isEmpty())
         return MRVTextMatch();
     for (qint64 reach = 512 + near;; reach *= 4) {
         const int start = int(qMax<qint64>(0, offset - (backward ? reach : 1)));
@@ -224,8 +224,7 @@ bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegularExpressio
                                 int offset, FindFlags flags, QTextCursor &result)
 {
     const MRVRegularExpressionMatcher matcher(expression);
-    const MRVTextMatch match =
-        matcher.isEmpty() ? MRVTextMatch() : matchInBlock(matcher, block, offset, flags);
+    const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
     if (match) {
         selectMatch(block, block.position(), match, &result);
     }

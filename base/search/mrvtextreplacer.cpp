@@ -491,6 +491,9 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
     });
     if (isFind) {
         mrvReplaceText(cursor, after);
+        if (query.flags & Finder::FindBackward) {
+            cursor.setPosition(own.start());
+        }
     }
     return isFind;
 }

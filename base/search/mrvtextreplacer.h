@@ -128,9 +128,9 @@ public:
     /**
      * Replaces the selection of @p cursor if it is a find, as find() would give it. One undo step.
      *
-     * @param cursor afterwards stands behind the new text, ready for find(); untouched where the
-     *               selection is no find.
-     * @return whether it was a find, and one that can be replaced or need not be.
+     * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it, so
+     *               that find() goes on beyond it; untouched where false is returned.
+     * @return false where the selection is no find, or has an object in it.
      */
     static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement);
 };
