@@ -9,8 +9,6 @@
 
 using Finder = MRVTextFinder;
 
-Q_DECLARE_METATYPE(QTextCharFormat)
-
 namespace {
 
 // The rules of the search, read as slowly as they are written.
@@ -72,26 +70,9 @@ MRVTextRange rangeOf(const QTextCursor &cursor)
     return cursor.isNull() ? MRVTextRange(-1, -1) : MRVTextRange(cursor);
 }
 
-struct Run : MRVTextRange
+QString written(const QTextCursor &c)
 {
-    Run(int from, int to, const QTextCharFormat &f)
-        : MRVTextRange(from, to)
-        , format(f)
-    {
-    }
-    QTextCharFormat format;
-};
-
-QVector<Run> fragmentsOf(const QTextDocument &document)
-{
-    QVector<Run> runs;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment f = it.fragment();
-            runs << Run(f.position(), f.position() + f.length(), f.charFormat());
-        }
-    }
-    return runs;
+    return c.isNull() ? "-" : QString("%1-%2").arg(c.anchor()).arg(c.position());
 }
 
 /// Texts of few different characters, so that patterns of the same ones often match.
@@ -152,6 +133,20 @@ QTextCharFormat marked(int property, const QVariant &value)
     return format;
 }
 
+QVariant valueOf(const QString &text, bool asBrush)
+{
+    const QString value = text.mid(1);
+    if (text.startsWith('c') && asBrush)
+        return value.isEmpty() ? QBrush() : QBrush(QColor(value));
+    if (text.startsWith('c'))
+        return QColor(value);
+    if (text.startsWith('f'))
+        return QTextFormat(marked(QTextFormat::FontItalic, true));
+    if (text.startsWith('b'))
+        return value == "1";
+    return text.isEmpty() ? QVariant() : text.startsWith('i') ? QVariant(value.toInt()) : value;
+}
+
 } // namespace
 
 class tst_Finder : public QObject
@@ -166,7 +161,10 @@ private Q_SLOTS:
     void emptyMatchesEnd();
     void within();
     void formatsLikeTheRules();
-    void kinds_data();
+    void kinds_data()
+    {
+        addRows("finderkinds.tsv", {"kind", "property", "set", "sought", "matches"});
+    }
     void kinds();
     void runsWithText();
     void cursorTests();
@@ -196,27 +194,28 @@ void tst_Finder::textLikeTheRules()
         const QRegExp literal(text, flags & 2 ? Qt::CaseSensitive : Qt::CaseInsensitive,
                               QRegExp::FixedString);
         const auto options = Finder::FindFlags(flags);
-        const QByteArray what =
-            QString("%1 in %2 from %3").arg(text, document.toPlainText()).arg(from).toUtf8();
+        const QString pattern = expressions[random() % std::size(expressions)];
+        const QByteArray what = QString("%1 or %2 in %3 from %4")
+                                    .arg(text, pattern, document.toPlainText())
+                                    .arg(from)
+                                    .toUtf8();
         QVERIFY2(rangeOf(Finder::find(&document, text, from, options))
                      == naiveFind(document, literal, from, flags),
                  what);
         QVERIFY2(Finder::findAll(&document, text, options)
                      == naiveFindAll(document, literal, flags),
                  what);
-        const QString pattern = expressions[random() % std::size(expressions)];
         const QRegExp expression(pattern, literal.caseSensitivity());
         const MRVTextRange expected = naiveFind(document, expression, from, flags);
         const QVector<MRVTextRange> all = naiveFindAll(document, expression, flags);
-        QCOMPARE(rangeOf(Finder::find(&document, expression, from, options)), expected);
-        QVERIFY(Finder::findAll(&document, expression, options) == all);
+        QVERIFY2(rangeOf(Finder::find(&document, expression, from, options)) == expected, what);
+        QVERIFY2(Finder::findAll(&document, expression, options) == all, what);
         if (document.toPlainText().contains(QChar(0xd801)))
             continue; // half a character, a whole one for the other kind
         const QRegularExpression other(pattern,
                                        QRegularExpression::PatternOptions(flags & 2 ? 0 : 1));
-        QVERIFY2(rangeOf(Finder::find(&document, other, from, options)) == expected,
-                 qPrintable(pattern + what));
-        QVERIFY2(Finder::findAll(&document, other, options) == all, qPrintable(pattern + what));
+        QVERIFY2(rangeOf(Finder::find(&document, other, from, options)) == expected, what);
+        QVERIFY2(Finder::findAll(&document, other, options) == all, what);
     }
 }
 
@@ -232,9 +231,6 @@ void tst_Finder::edges()
     QTextDocument document;
     fill(&document, text, QTextCharFormat());
     const auto options = Finder::FindFlags(flags.toInt());
-    const auto written = [](const QTextCursor &c) {
-        return c.isNull() ? QString() : QString("%1-%2").arg(c.anchor()).arg(c.position());
-    };
     QCOMPARE(written(Finder::find(&document, QRegExp(pattern), from.toInt(), options)), found);
     QCOMPARE(written(Finder::find(&document, QRegularExpression(pattern), from.toInt(), options)),
              found);
@@ -247,7 +243,7 @@ void tst_Finder::emptyMatchesEnd()
     const QRegularExpression expression("x*");
     for (QTextCursor c;
          !(c = Finder::find(&document, expression, c)).isNull() && finds.size() < 99;)
-        finds << QString("%1-%2").arg(c.anchor()).arg(c.position());
+        finds << written(c);
     QCOMPARE(finds.join(' '), QString("0-0 1-3 3-3 4-4 5-6 6-6 7-7"));
     QCOMPARE(Finder::findAll(&document, expression).size(), finds.size());
     QCOMPARE(Finder::findAll(&document, QRegExp("x*")).size(), finds.size());
@@ -268,25 +264,30 @@ void tst_Finder::within()
 void tst_Finder::formatsLikeTheRules()
 {
     std::mt19937 random(7);
-    const QTextCharFormat pattern = marked(QTextFormat::BackgroundBrush, QBrush(Qt::red));
+    const QBrush red(Qt::red);
+    const int brush = QTextFormat::BackgroundBrush;
+    const QTextCharFormat pattern = marked(brush, red);
     for (int round = 0; round < 500; ++round) {
         QTextDocument document;
         randomDocument(random, &document);
         const bool values = round % 2;
         const auto carries = [&](const QTextCharFormat &format) {
-            return values ? format.background() == QBrush(Qt::red)
-                          : format.hasProperty(QTextFormat::BackgroundBrush);
+            return values ? format.background() == red : format.hasProperty(brush);
         };
         QVector<MRVTextRange> fragments;
         QVector<MRVTextRange> runs;
         bool inRun = false;
-        for (const Run &fragment : fragmentsOf(document)) {
-            if (carries(fragment.format)) {
-                fragments << fragment;
-                runs << MRVTextRange(inRun ? runs.takeLast().start() : fragment.start(),
-                                     fragment.end());
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const int start = it.fragment().position();
+                const int end = start + it.fragment().length();
+                const bool wasInRun = inRun;
+                inRun = carries(it.fragment().charFormat());
+                if (inRun) {
+                    fragments << MRVTextRange(start, end);
+                    runs << MRVTextRange(wasInRun ? runs.takeLast().start() : start, end);
+                }
             }
-            inRun = carries(fragment.format);
         }
         QCOMPARE(Finder::findAllFragments(&document, pattern, values), fragments);
         QVector<MRVTextRange> one;
@@ -321,11 +322,8 @@ void tst_Finder::formatsLikeTheRules()
                 if (start < end)
                     clipped << MRVTextRange(start, end);
             }
-            QCOMPARE(Finder::formatCount(&document, QTextFormat::BackgroundBrush, QBrush(Qt::red)),
-                     fragments.size());
-            QCOMPARE(
-                Finder::formatLengthCount(&document, QTextFormat::BackgroundBrush, QBrush(Qt::red)),
-                length);
+            QCOMPARE(Finder::formatCount(&document, brush, red), fragments.size());
+            QCOMPARE(Finder::formatLengthCount(&document, brush, red), length);
             QCOMPARE(Finder::findFragmentsByFormat(c, pattern), clipped);
             QCOMPARE(Finder::continuousFragmentCount(pattern, QTextCursor(&document), true),
                      runs.size());
@@ -333,56 +331,16 @@ void tst_Finder::formatsLikeTheRules()
     }
 }
 
-void tst_Finder::kinds_data()
-{
-    QTest::addColumn<QTextCharFormat>("format");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("matches");
-    const int marks[] = {
-        MRVTextFormat::InlineAnnotationProperty, MRVTextFormat::InlineFootnoteProperty,
-        MRVTextFormat::InspectorCommentProperty, MRVTextFormat::InspectorFootnoteProperty};
-    for (int type = 0; type < 4; ++type) {
-        QTest::addRow("mark-%d", type) << marked(marks[type], true) << type << QVariant() << true;
-        QTest::addRow("mark-%d-off", type)
-            << marked(marks[type], false) << type << QVariant() << false;
-    }
-    const int level = MRVTextFormat::RevisionLevelProperty;
-    QTest::newRow("level") << marked(level, 2) << 4 << QVariant("2") << true;
-    QTest::newRow("other level") << marked(level, 2) << 4 << QVariant(1) << false;
-    QTest::newRow("no level") << QTextCharFormat() << 4 << QVariant(0) << false;
-    const int brushes[] = {QTextFormat::ForegroundBrush, QTextFormat::BackgroundBrush};
-    for (int i = 0; i < 2; ++i) {
-        const QTextCharFormat red = marked(brushes[i], QBrush(Qt::red));
-        QTest::addRow("any colour %d", i) << red << 5 + i << QVariant() << true;
-        QTest::addRow("red %d", i) << red << 5 + i << QVariant(QColor(Qt::red)) << true;
-        QTest::addRow("blue %d", i) << red << 5 + i << QVariant(QColor(Qt::blue)) << false;
-        QTest::addRow("no brush %d", i)
-            << marked(brushes[i], QBrush()) << 5 + i << QVariant() << false;
-    }
-    for (int mask = 0; mask < 4; ++mask) {
-        QTest::addRow("page, mask %d", mask)
-            << marked(QTextFormat::AnchorHref, "a.html") << 7 << QVariant(mask) << bool(mask & 1);
-        QTest::addRow("number, mask %d", mask)
-            << marked(QTextFormat::AnchorHref, "42") << 7 << QVariant(mask) << bool(mask & 2);
-    }
-    QTextCharFormat both = marked(QTextFormat::FontItalic, true);
-    both.setFontPointSize(9);
-    QTest::newRow("format") << both << 8
-                            << QVariant(QTextFormat(marked(QTextFormat::FontItalic, true))) << true;
-    QTest::newRow("more format") << marked(QTextFormat::FontItalic, true) << 8
-                                 << QVariant(QTextFormat(both)) << false;
-    QTest::newRow("empty format") << both << 8 << QVariant(QTextFormat(QTextCharFormat())) << true;
-    QTest::newRow("no format") << both << 8 << QVariant("x") << false;
-    QTest::newRow("unknown") << both << 9 << QVariant() << false;
-}
-
 void tst_Finder::kinds()
 {
-    QFETCH(QTextCharFormat, format);
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QTEST(Finder::matchFormat(format, Finder::FindType(type), value), "matches");
+    QFETCH(QString, kind);
+    QFETCH(QString, property);
+    QFETCH(QString, set);
+    QFETCH(QString, sought);
+    const auto type = Finder::FindType(kind.toInt());
+    const QTextCharFormat format = marked(property.toInt(nullptr, 16), valueOf(set, true));
+    QTEST(QString::number(Finder::matchFormat(format, type, valueOf(sought, false))), "matches");
+    QVERIFY(Finder::matchFormat(format, Finder::FindFormat, QTextFormat(QTextCharFormat())));
 }
 
 void tst_Finder::runsWithText()
@@ -417,28 +375,17 @@ void tst_Finder::cursorTests()
         c.setPosition(position, QTextCursor::KeepAnchor);
         return c;
     };
-    // starts, is in, checked, has; then around, in the selection, at the position, general
-    const auto all = [&](int anchor, int position) {
-        const QTextCursor c = at(anchor, position);
+    for (const QStringList &row : rowsOf("findercursors.tsv")) {
+        const QTextCursor c = at(row.at(0).toInt(), row.at(1).toInt());
         QString text;
         for (bool is : {Finder::startsWithFormat(c, red, true), Finder::isInFormat(c, red, true),
                         Finder::isFormatChecked(c, red, true), Finder::hasFormat(c, red, true)})
             text += is ? '1' : '0';
-        for (const QTextCursor &f : {Finder::findFragmentAround(red, c, true),
-                                     Finder::findFragmentInSelection(red, c, true),
-                                     Finder::findFragmentAtPosition(red, c, true),
-                                     Finder::findFragmentAtPositionGeneral(red, c, true)})
-            text +=
-                f.isNull() ? QString(" -") : QString(" %1-%2").arg(f.anchor()).arg(f.position());
-        return text;
-    };
-    QCOMPARE(all(2, 2), QString("1001 2-8 - 2-4 2-4"));
-    QCOMPARE(all(3, 3), QString("1111 2-8 - 2-4 2-4"));
-    QCOMPARE(all(4, 4), QString("0011 2-8 - - 2-4"));
-    QCOMPARE(all(8, 8), QString("0011 2-8 - - 7-8"));
-    QCOMPARE(all(1, 3), QString("0001 - 2-3 - -"));
-    QCOMPARE(all(8, 3), QString("1111 2-8 3-4 2-4 2-4"));
-    QCOMPARE(all(0, 1), QString("0000 - - - -"));
+        for (auto find : {Finder::findFragmentAround, Finder::findFragmentInSelection,
+                          Finder::findFragmentAtPosition, Finder::findFragmentAtPositionGeneral})
+            text += ' ' + written(find(red, c, true));
+        QCOMPARE(text, row.at(2));
+    }
     QCOMPARE(rangeOf(Finder::findContinuousFragment(red, at(7, 7), false)), MRVTextRange(2, 8));
     QCOMPARE(Finder::continuousFragmentCount(red, at(0, 0), false), 1);
     QTextCursor result;
@@ -515,30 +462,30 @@ void tst_Finder::nothing()
 {
     const QTextCursor none;
     const QTextCharFormat format;
-    QVERIFY(Finder::find(nullptr, "a", none).isNull());
-    QVERIFY(Finder::findAll(nullptr, "a").isEmpty());
-    QVERIFY(Finder::findAllFragments(nullptr, format, true).isEmpty());
-    QVERIFY(Finder::find(none, Finder::FindLink, 3).isNull());
-    QVERIFY(Finder::findFragment(format, none, true).isNull());
-    QVERIFY(Finder::findFragmentAround(format, none, true).isNull());
-    QVERIFY(Finder::findFragmentAtPositionGeneral(format, none, true).isNull());
-    QVERIFY(Finder::findFragmentInSelection(format, none, true).isNull());
-    QVERIFY(Finder::findFragmentsByFormat(none, format).isEmpty());
-    QVERIFY(!Finder::isInFormat(none, format, true) && !Finder::isFormatChecked(none, format, true)
-            && !Finder::hasFormat(none, format, true));
-    QVERIFY(!Finder::hasAnchor(none) && !Finder::isAnchorTight(none)
-            && Finder::findAnchor(none).isNull());
+    QTextDocument document("a)");
+    for (const QTextCursor &c :
+         {Finder::find(nullptr, "a", none), Finder::find(&document, QRegularExpression("a)"), 0),
+          Finder::find(none, Finder::FindLink, 3), Finder::findFragment(format, none, true),
+          Finder::findFragmentAround(format, none, true),
+          Finder::findFragmentAtPositionGeneral(format, none, true),
+          Finder::findFragmentInSelection(format, none, true), Finder::findAnchor(none),
+          Finder::findCommentViaPos(nullptr, 0)})
+        QVERIFY(c.isNull());
+    QTextCursor result;
+    for (bool is :
+         {Finder::isInFormat(none, format, true), Finder::isFormatChecked(none, format, true),
+          Finder::hasFormat(none, format, true), Finder::hasAnchor(none),
+          Finder::isAnchorTight(none),
+          Finder::findInBlock(QTextBlock(), QRegExp("a"), 0, {}, result),
+          Finder::findInBlock(QTextBlock(), format, 0, result, true, true),
+          Finder::findInBlock(document.begin(), QRegExp(), 0, {}, result),
+          Finder::findInBlock(document.begin(), QRegularExpression(), 0, {}, result)})
+        QVERIFY(!is);
+    QVERIFY(Finder::findAll(nullptr, "a").isEmpty()
+            && Finder::findFragmentsByFormat(none, format).isEmpty());
     QCOMPARE(Finder::continuousFragmentCount(format, none, true)
                  + Finder::formatCount(nullptr, 1, 1),
              0);
-    QVERIFY(Finder::findCommentViaPos(nullptr, 0).isNull());
-    QTextCursor result;
-    QVERIFY(!Finder::findInBlock(QTextBlock(), QRegExp("a"), 0, {}, result)
-            && !Finder::findInBlock(QTextBlock(), format, 0, result, true, true));
-    QTextDocument document("a)");
-    QVERIFY(!Finder::findInBlock(document.begin(), QRegExp(), 0, {}, result));
-    QVERIFY(!Finder::findInBlock(document.begin(), QRegularExpression(), 0, {}, result));
-    QVERIFY(Finder::find(&document, QRegularExpression("a)"), 0).isNull());
 }
 
 QTEST_MAIN(tst_Finder)
