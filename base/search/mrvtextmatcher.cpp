@@ -30,13 +30,29 @@ inline bool isBlank(QChar c)
     return c == QLatin1Char(' ') || c == QChar::Nbsp || c == QChar::ObjectReplacementCharacter;
 }
 
+/// How rare a character is in prose; -1 where a search without case cannot look for it by itself.
+int rarity(QChar c, bool fold)
+{
+    // From the most frequent to the least; capitals, digits and other signs are rare, too.
+    static constexpr char Frequent[] = " etaoinshrdlucm,wfgyp.bv\"'k-xqjz";
+    const ushort code = c.unicode();
+    // Beyond ASCII, and for these two letters, there may be a third character of the same fold.
+    if (fold && (code >= 0x80 || code == 'k' || code == 's'))
+        return -1;
+    for (int i = 0; Frequent[i]; ++i) {
+        if (code == uchar(Frequent[i]))
+            return i;
+    }
+    return int(sizeof Frequent);
+}
+
 bool hasSurrogate(const QString &text)
 {
-    // No early end, so that the compiler can use vector code.
-    bool found = false;
+    // Without an early end and in the width of a character, so that the compiler uses vector code.
+    ushort found = 0;
     const ushort *units = text.utf16();
     for (int i = 0, n = text.size(); i < n; ++i) {
-        found |= (units[i] & 0xf800) == 0xd800;
+        found |= ushort((units[i] & 0xf800) == 0xd800);
     }
     return found;
 }
@@ -59,9 +75,17 @@ void replaceLoneSurrogates(QString *text)
 
 void mrvBlankObjects(QString *text)
 {
-    for (const QChar c : {QChar(QChar::ObjectReplacementCharacter), QChar(QChar::Nbsp)}) {
-        if (text->contains(c)) {
-            text->replace(c, QLatin1Char(' '));
+    const auto isObject = [](ushort c) { return c == 0xfffc || c == 0xa0; };
+    ushort found = 0; // as above
+    const ushort *units = text->utf16();
+    for (int i = 0, n = text->size(); i < n; ++i) {
+        found |= ushort(units[i] == 0xfffc) | ushort(units[i] == 0xa0);
+    }
+    if (!found)
+        return;
+    for (QChar &c : *text) {
+        if (isObject(c.unicode())) {
+            c = QLatin1Char(' ');
         }
     }
 }
@@ -77,6 +101,16 @@ MRVLiteralMatcher::MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity se
     m_skip.fill(uchar(qMin(size, 255)));
     for (int i = qMax(0, size - 255); i < size - 1; ++i) {
         m_skip[m_folded.at(i).unicode() & 0xff] = uchar(size - 1 - i);
+    }
+    const bool fold = sensitivity == Qt::CaseInsensitive;
+    for (int i = 0, best = -1; i < size; ++i) {
+        const int rare = rarity(m_folded.at(i), fold);
+        if (rare > best) {
+            best = rare;
+            m_anchor = i;
+            m_anchorCharacter = m_folded.at(i);
+            m_otherCase = fold ? m_anchorCharacter.toUpper() : m_anchorCharacter;
+        }
     }
 }
 
@@ -94,10 +128,52 @@ void MRVLiteralMatcher::prepare(QString *text) const
     }
 }
 
-template<bool Fold>
-int MRVLiteralMatcher::horspool(const ushort *text, int length, int offset) const
+bool MRVLiteralMatcher::isAt(const QString &text, int at) const
 {
-    const int size = m_text.size();
+    const QChar *start = text.constData() + at;
+    if (m_sensitivity == Qt::CaseSensitive)
+        return std::equal(m_text.cbegin(), m_text.cend(), start);
+    return std::equal(m_folded.cbegin(), m_folded.cend(), start,
+                      [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
+}
+
+int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
+{
+    // Qt looks for single characters in vector code, so this is quicker than any skipping, as long as
+    // the anchor is as rare as it should be.
+    constexpr int ManyAnchors = 16;
+    constexpr int TooClose = 8;
+    const int size = m_folded.size();
+    const auto next = [&text](QChar c, int from) {
+        const int at = text.indexOf(c, from);
+        return at < 0 ? text.size() : at;
+    };
+    int from = offset + m_anchor;
+    if (from >= text.size())
+        return -1;
+    int lower = next(m_anchorCharacter, from);
+    int upper = m_otherCase == m_anchorCharacter ? text.size() : next(m_otherCase, from);
+    for (int tries = 1;; ++tries) {
+        const int anchor = qMin(lower, upper);
+        const int at = anchor - m_anchor;
+        if (anchor == text.size() || at + size > text.size())
+            return -1;
+        if (isAt(text, at))
+            return at;
+        if (tries == ManyAnchors && at - offset < ManyAnchors * TooClose) {
+            return m_sensitivity == Qt::CaseSensitive
+                ? bySkipping<false>(text.utf16(), text.size(), at + 1)
+                : bySkipping<true>(text.utf16(), text.size(), at + 1);
+        }
+        int &used = lower < upper ? lower : upper;
+        used = next(lower < upper ? m_anchorCharacter : m_otherCase, anchor + 1);
+    }
+}
+
+template<bool Fold>
+int MRVLiteralMatcher::bySkipping(const ushort *text, int length, int offset) const
+{
+    const int size = m_folded.size();
     const ushort *pattern = m_folded.utf16();
     const ushort last = pattern[size - 1];
     for (int at = offset + size - 1; at < length;) {
@@ -120,14 +196,9 @@ MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
 {
     if (m_text.isEmpty())
         return MRVTextMatch();
-    int at = -1;
-    if (m_sensitivity == Qt::CaseInsensitive) {
-        at = horspool<true>(text.utf16(), text.size(), offset);
-    } else if (m_text.size() == 1) {
-        at = text.indexOf(m_text.at(0), offset);
-    } else {
-        at = horspool<false>(text.utf16(), text.size(), offset);
-    }
+    // Without an anchor case does not matter.
+    const int at = m_anchor >= 0 ? byAnchor(text, offset)
+                                 : bySkipping<true>(text.utf16(), text.size(), offset);
     return {at, m_text.size()};
 }
 

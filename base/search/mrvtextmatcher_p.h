@@ -44,12 +44,17 @@ public:
     MRVTextMatch last(const QString &text, int offset) const;
 
 private:
+    bool isAt(const QString &text, int at) const;
+    int byAnchor(const QString &text, int offset) const;
     template<bool Fold>
-    int horspool(const ushort *text, int length, int offset) const;
+    int bySkipping(const ushort *text, int length, int offset) const;
 
     QString m_text; // as given
     QString m_folded; // where case does not matter, else the same
     std::array<uchar, 256> m_skip; // by the low byte of the character
+    int m_anchor = -1; // the place of a character that is rare in most texts; -1: none is known
+    QChar m_anchorCharacter;
+    QChar m_otherCase; // of the anchor, or the same
     Qt::CaseSensitivity m_sensitivity;
     bool m_blanks;
 };
@@ -138,12 +143,12 @@ void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Vis
     const int start = qMax(0, within.start());
     if (!document || within.end() < 0)
         return;
-    for (QTextBlock block = document->findBlock(start); block.isValid(); block = block.next()) {
-        const int position = block.position();
-        if (position > within.end())
+    QTextBlock block = document->findBlock(start);
+    int position = block.position(); // counted along, as Qt climbs a tree for it
+    for (; block.isValid() && position <= within.end(); block = block.next()) {
+        const int length = block.length();
+        if (!visit(block, qMax(0, start - position), qMin(length - 1, within.end() - position)))
             return;
-        if (!visit(block, qMax(0, start - position),
-                   qMin(block.length() - 1, within.end() - position)))
-            return;
+        position += length;
     }
 }
