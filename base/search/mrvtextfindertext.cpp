@@ -126,10 +126,9 @@ QVector<MRVTextRange> findAllWith(const QTextDocument *document, const Matcher &
     QVector<MRVTextRange> finds;
     if (matcher.isEmpty())
         return finds;
-    mrvEachBlock(document, within, [&](const QTextBlock &block, int from, int to) {
+    mrvEachBlock(document, within, [&](const QTextBlock &block, int position, int from, int to) {
         QString text = block.text();
         matcher.prepare(&text);
-        const int position = block.position();
         mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
             finds.append(MRVTextRange(position + match.start, position + match.end()));
             return true;

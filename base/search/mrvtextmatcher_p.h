@@ -134,7 +134,7 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
 }
 
 /**
- * Calls @p visit(block, from, to), with offsets in its text, for each paragraph of a part until it
+ * Calls @p visit(block, position, from, to), with offsets in its text, for each paragraph of a part until it
  * says false.
  */
 template<typename Visit>
@@ -147,7 +147,8 @@ void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Vis
     int position = block.position(); // counted along, as Qt climbs a tree for it
     for (; block.isValid() && position <= within.end(); block = block.next()) {
         const int length = block.length();
-        if (!visit(block, qMax(0, start - position), qMin(length - 1, within.end() - position)))
+        if (!visit(block, position, qMax(0, start - position),
+                   qMin(length - 1, within.end() - position)))
             return;
         position += length;
     }

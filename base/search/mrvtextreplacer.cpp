@@ -187,7 +187,7 @@ void eachFind(const QTextDocument *document, const Matcher &matcher, const MRVTe
         return;
     FormatFilter filter(document, query);
     bool goesOn = true;
-    mrvEachBlock(document, within, [&](const QTextBlock &block, int from, int to) {
+    mrvEachBlock(document, within, [&](const QTextBlock &block, int, int from, int to) {
         goesOn = goesOn && eachFindInBlock(matcher, query, block, from, to, filter, found);
         return goesOn;
     });
