@@ -213,7 +213,12 @@ private Q_SLOTS:
         QVERIFY(peakMemory() - before < (64 << 20));
     }
 
-    void damagedBytes_data() { storedFormatsComeBack_data(); }
+    void damagedBytes_data()
+    {
+        storedFormatsComeBack_data();
+        const QPen pen(samples()["texture"].brushProperty(F::ExtraProperty4), 3);
+        QTest::newRow("textured-pen") << QTextFormat(with(QTextFormat::OutlinePen, pen));
+    }
     // Cut off at every length, and every byte changed to several values: no crash, no hang, no more
     // memory than a few pictures take, and what is cut off is a default format.
     void damagedBytes()

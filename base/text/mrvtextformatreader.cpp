@@ -1,8 +1,11 @@
 #include "text/mrvtextformatreader_p.h"
 
 #include <QBrush>
+#include <QBuffer>
 #include <QByteArray>
 #include <QColor>
+#include <QImage>
+#include <QImageReader>
 #include <QMetaType>
 #include <QPen>
 #include <QTextFormat>
@@ -83,6 +86,7 @@ private:
     bool listLevel();
     bool image();
     bool png();
+    bool decodes(const char *start) const;
 
     const char *m_at;
     const char *m_end;
@@ -370,7 +374,18 @@ bool FormatWalker::image()
     return read(&present) && (present == 0 || (present == 1 && png()));
 }
 
-// A picture lies in the stream as a PNG file, of a length that only its chunks tell.
+// A picture lies in the stream as a PNG file, of a length that only its chunks tell. Where decoding
+// it ends early, Qt goes on reading in the middle of it: what follows would be taken from bytes that
+// nobody checked. So it is decoded here once, and must end where its chunks end.
+bool FormatWalker::decodes(const char *start) const
+{
+    const int length = int(m_at - start);
+    QByteArray bytes = QByteArray::fromRawData(start, length);
+    QBuffer file(&bytes);
+    file.open(QIODevice::ReadOnly);
+    return !QImageReader(&file).read().isNull() && file.pos() == length;
+}
+
 bool FormatWalker::png()
 {
     static constexpr char Signature[] = "\x89PNG\r\n\x1a\n";
@@ -403,7 +418,8 @@ bool FormatWalker::png()
                 claimed += length * MaxInflation;
         }
         if (type == "IEND")
-            return claimed <= qMax(SmallPictureBytes, PictureBytesPerByte * (m_at - start));
+            return claimed <= qMax(SmallPictureBytes, PictureBytesPerByte * (m_at - start))
+                && decodes(start);
     }
 }
 

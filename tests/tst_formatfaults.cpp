@@ -1,0 +1,51 @@
+#include "text/mrvtextformat.h"
+
+#include <QPen>
+#include <QtTest>
+
+using F = MRVTextFormat;
+
+namespace {
+
+QTextCharFormat with(const QVariant &value)
+{
+    QTextCharFormat format;
+    format.setProperty(F::ExtraProperty4, value);
+    return format;
+}
+
+QImage square(int size)
+{
+    QImage image(size, size, QImage::Format_ARGB32);
+    image.fill(Qt::green);
+    return image;
+}
+
+} // namespace
+
+/// Stored formats made to harm the reader, and values that are hard to store.
+class TestFormatFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Qt gives the picture up early, and would then read a count of dashes from within it.
+    void damagedTextureOfPen()
+    {
+        const QByteArray sound = F::toByteArray(with(QPen(QBrush(square(3)), 2)));
+        QCOMPARE(F::toCharFormat(sound).propertyCount(), 1);
+        const int checksum = sound.indexOf("IHDR") + 4 + 13;
+        for (int flipped : {0, 1}) {
+            QByteArray bytes = sound;
+            bytes[checksum] = char(bytes.at(checksum) ^ flipped);
+            bytes.insert(checksum + 4,
+                         QByteArray::fromHex("00000640") + "tEXt"
+                             + QByteArray::fromHex("7ffffff0").repeated(400) + QByteArray(4, 0));
+            F::toCharFormat(bytes);
+            QVERIFY(!flipped || F::toCharFormat(bytes).properties().isEmpty());
+        }
+    }
+};
+
+QTEST_MAIN(TestFormatFaults)
+#include "tst_formatfaults.moc"
