@@ -45,6 +45,18 @@ private Q_SLOTS:
             QVERIFY(!flipped || F::toCharFormat(bytes).properties().isEmpty());
         }
     }
+
+    // Each picture is small enough, but all of them together are not.
+    void manyPictures()
+    {
+        const QByteArray one = F::toByteArray(with(square(1400)));
+        const QByteArray value = one.mid(8);
+        QByteArray bytes = one.left(4) + QByteArray::fromHex("00000032");
+        for (int i = 0; i < 50; ++i)
+            bytes += value;
+        QCOMPARE(F::toCharFormat(one).propertyCount(), 1);
+        QCOMPARE(F::toCharFormat(bytes).propertyCount(), 0);
+    }
 };
 
 QTEST_MAIN(TestFormatFaults)
