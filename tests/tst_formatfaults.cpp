@@ -1,6 +1,9 @@
 #include "text/mrvtextformat.h"
+#include "text/mtextdoc.h"
 
 #include <QPen>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QtTest>
 
 using F = MRVTextFormat;
@@ -44,6 +47,30 @@ private Q_SLOTS:
             F::toCharFormat(bytes);
             QVERIFY(!flipped || F::toCharFormat(bytes).properties().isEmpty());
         }
+    }
+
+    // The file that the second image links to has the name of the first.
+    void linkedFileIsNotReplaced()
+    {
+        QTemporaryDir folder;
+        const QString original = folder.filePath("b.png");
+        QVERIFY(square(9).save(original));
+        QTextDocument document;
+        QTextImageFormat format;
+        format.setName("b");
+        document.addResource(QTextDocument::ImageResource, QUrl("b"), square(4));
+        QTextCursor(&document).insertImage(format);
+        format.setProperty(F::ImageLinkProperty, original);
+        QTextCursor end(&document);
+        end.movePosition(QTextCursor::End);
+        end.insertImage(format);
+        QList<int> widths;
+        for (const QString &path : MTextDoc::exportImages(document, folder.path(), false))
+            widths << QImage(path).width();
+        QCOMPARE(widths.size(), 2);
+        std::sort(widths.begin(), widths.end());
+        QCOMPARE(widths, (QList<int>{4, 9}));
+        QCOMPARE(QImage(original).width(), 9);
     }
 
     // Each picture is small enough, but all of them together are not.
