@@ -73,6 +73,31 @@ private Q_SLOTS:
         QCOMPARE(QImage(original).width(), 9);
     }
 
+    void tooManyProperties()
+    {
+        QTextCharFormat format;
+        for (int i = 0; i < 4100; ++i)
+            format.setProperty(QTextFormat::UserProperty + i, i);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("4 of its 4100 properties"));
+        QCOMPARE(F::toCharFormat(F::toByteArray(format)).propertyCount(), 4096);
+    }
+
+    void hashIsStoredAsMap()
+    {
+        const QVariant map = QVariantMap{{"a", 1}, {"b", 2}},
+                       hash = QVariantHash{{"b", 2}, {"a", 1}};
+        QCOMPARE(F::toByteArray(with(QVariantList{hash})), F::toByteArray(with(QVariantList{map})));
+    }
+
+    void largePlainTextureAndManyStops()
+    {
+        QLinearGradient stops(0, 0, 1, 1);
+        for (int i = 0; i <= 2000; ++i)
+            stops.setColorAt(i / 2000.0, Qt::red);
+        for (const QBrush &brush : {QBrush(square(3000)), QBrush(stops)})
+            QCOMPARE(F::toCharFormat(F::toByteArray(with(brush))).propertyCount(), 1);
+    }
+
     // Each picture is small enough, but all of them together are not.
     void manyPictures()
     {

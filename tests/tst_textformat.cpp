@@ -62,7 +62,6 @@ QMap<QString, QTextFormat> samples()
         {"length", QVariant::fromValue(QTextLength(QTextLength::PercentageLength, 50))},
         {"list", QVariantList{1, "x", QVariantList{true, 2.5}, QByteArray("bytes")}},
         {"map", QVariantMap{{"a", 1}, {"b", QVariantMap{{"c", QString()}}}}},
-        {"hash", QVariantHash{{"a", QChar('z')}}},
         {"url", QUrl("https://morvane.example/a?b#c")},
         {"date", QDateTime(QDate(2020, 2, 29), QTime(1, 2, 3), Qt::OffsetFromUTC, 3600)},
         {"long", QVariant::fromValue(long(-5))},
