@@ -98,6 +98,20 @@ private Q_SLOTS:
             QCOMPARE(F::toCharFormat(F::toByteArray(with(brush))).propertyCount(), 1);
     }
 
+    // The first of the families wins on screen.
+    void defaultFamilies()
+    {
+        QTextDocument document;
+        QTextCharFormat format;
+        format.setFontFamilies({"Serif", "Sans"});
+        format.setProperty(QTextFormat::FontFamily, "Mono");
+        F::setDefaultCharFormat(document, format);
+        QCOMPARE(document.defaultFont().family(), QString("Serif"));
+        QTextDocument other;
+        other.setDefaultFont(document.defaultFont());
+        QCOMPARE(F::defaultCharFormat(other).fontFamily(), QString("Serif"));
+    }
+
     // Each picture is small enough, but all of them together are not.
     void manyPictures()
     {
