@@ -62,7 +62,6 @@ QMap<QString, QTextFormat> samples()
         {"length", QVariant::fromValue(QTextLength(QTextLength::PercentageLength, 50))},
         {"list", QVariantList{1, "x", QVariantList{true, 2.5}, QByteArray("bytes")}},
         {"map", QVariantMap{{"a", 1}, {"b", QVariantMap{{"c", QString()}}}}},
-        {"hash", QVariantHash{{"a", QChar('z')}}},
         {"url", QUrl("https://morvane.example/a?b#c")},
         {"date", QDateTime(QDate(2020, 2, 29), QTime(1, 2, 3), Qt::OffsetFromUTC, 3600)},
         {"long", QVariant::fromValue(long(-5))},
@@ -213,7 +212,12 @@ private Q_SLOTS:
         QVERIFY(peakMemory() - before < (64 << 20));
     }
 
-    void damagedBytes_data() { storedFormatsComeBack_data(); }
+    void damagedBytes_data()
+    {
+        storedFormatsComeBack_data();
+        const QPen pen(samples()["texture"].brushProperty(F::ExtraProperty4), 3);
+        QTest::newRow("textured-pen") << QTextFormat(with(QTextFormat::OutlinePen, pen));
+    }
     // Cut off at every length, and every byte changed to several values: no crash, no hang, no more
     // memory than a few pictures take, and what is cut off is a default format.
     void damagedBytes()

@@ -80,6 +80,9 @@ QTextBlockFormat MRVTextBlockFormat::merge(const QTextBlockFormat &existing,
 
     QTextBlockFormat result = with;
     MrvFormatMerge::takeGroups(&result, existing, Rows, taken);
+    // The language of the text, not its style, sets the direction.
+    if (!with.hasProperty(QTextFormat::LayoutDirection))
+        MrvFormatMerge::takeProperties(&result, existing, {QTextFormat::LayoutDirection});
     if (!keepSpacing && !hasLineSpacing(with)) {
         result.clearProperty(QTextFormat::HeadingLevel);
         if (hasHeadingLevel(existing))

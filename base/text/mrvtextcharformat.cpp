@@ -126,12 +126,16 @@ QTextCharFormat MRVTextCharFormat::merge(const QTextCharFormat &existing,
     MrvFormatMerge::takeGroups(&result, existing, Rows, taken);
     if (combineEmphasis)
         addEmphasis(&result, existing);
-    setWeight(&result, weightOf(result));
+    // The block character format of a cell is the cell's own, and the brush that of its background.
+    if (existing.objectType() == QTextFormat::TableCellObject)
+        MrvFormatMerge::takeProperties(
+            &result, existing, {QTextFormat::BackgroundBrush, QTextFormat::BackgroundImageUrl});
     if (keepSize
         && mrvFuzzyCompare(existing.property(QTextFormat::FontPointSize).toDouble(), 0.0)) {
         result.clearProperty(QTextFormat::FontPointSize);
         result.clearProperty(QTextFormat::FontPixelSize);
     }
     MrvFormatMerge::takeProperties(&result, existing, keep);
+    setWeight(&result, weightOf(result));
     return result;
 }

@@ -131,11 +131,14 @@ void copyIfPresent(QTextBlockFormat *to, const QTextBlockFormat &from, int prope
         to->setProperty(property, from.property(property));
 }
 
-// Qt writes a list of anchor names where older data has one name, and no names can be either.
+// Qt writes a list of anchor names where older data has one name, and no names can be either. A
+// stored weight of 0 means normal.
 QVariant comparable(int property, const QVariant &value)
 {
     if (property == QTextFormat::AnchorName && value.userType() == QMetaType::QStringList
         && value.toStringList().isEmpty())
+        return MRVTextFormat::defaultProperty(property);
+    if (property == QTextFormat::FontWeight && value.userType() == QMetaType::Int && value == 0)
         return MRVTextFormat::defaultProperty(property);
     return value;
 }
@@ -161,7 +164,7 @@ constexpr char DefaultCharFormatName[] = "_mrv_defaultCharFormat";
 QTextCharFormat attributesOf(const QFont &font)
 {
     QTextCharFormat format;
-    format.setProperty(QTextFormat::FontFamily, font.family());
+    format.setProperty(QTextFormat::FontFamily, font.families().value(0, font.family()));
     if (font.pointSizeF() > 0.0)
         format.setProperty(QTextFormat::FontPointSize, font.pointSizeF());
     else
@@ -314,6 +317,10 @@ void MRVTextFormat::setDefaultCharFormat(QTextDocument &document, const QTextCha
     // A stored 0 means normal weight; Qt would draw it hair-thin.
     if (drawn.intProperty(QTextFormat::FontWeight) == 0)
         drawn.clearProperty(QTextFormat::FontWeight);
+    // Qt draws with the first of the families, whatever the single family says.
+    const QString family = drawn.property(QTextFormat::FontFamilies).toStringList().value(0);
+    if (!family.isEmpty())
+        drawn.setProperty(QTextFormat::FontFamily, family);
     document.setDefaultFont(drawn.font());
 }
 

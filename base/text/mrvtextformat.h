@@ -115,7 +115,12 @@ public:
     /**
      * The stored form of a format: Qt's stream of it (format type as qint32, then the map from
      * qint32 property to QVariant) in QDataStream version Qt_5_15, with nothing before or after.
-     * Equal formats give equal bytes.
+     * Equal formats give equal bytes; for that, a QVariantHash is stored as a QVariantMap.
+     *
+     * Stored are numbers, texts, byte arrays, dates, URLs, colours, brushes, pens, pictures, points,
+     * sizes, rectangles, text lengths, tab stops, list levels, and lists and maps of them; not fonts,
+     * locales, polygons and times in a named zone. Of a format of more than 4096 properties, or with
+     * pictures beyond 64 MB and 32 times its stored length, the first that fit are stored.
      *
      * A property whose value toCharFormat() could not take back (a type without stream operators,
      * say) would make the whole format unreadable. It is left out, with a warning in the log.
@@ -168,14 +173,15 @@ public:
 
     /**
      * Whether two formats look the same: a property that only one of them sets must have its
-     * defaultProperty() there. Page breaks do not count. An empty list of anchor names counts as the
-     * default.
+     * defaultProperty() there. Page breaks do not count. An empty list of anchor names and a
+     * font weight of 0 count as the default.
      */
     static bool equivalent(const QTextFormat &a, const QTextFormat &b);
 
     /**
      * Whether @p format sets every property of @p pattern, and, where @p compareValues is true, to
      * an equal value. A pattern without properties matches everything.
+     * Property by property: Qt's two font families do not stand for each other here.
      */
     static bool formatsMatch(const QTextCharFormat &format, const QTextCharFormat &pattern,
                              bool compareValues);

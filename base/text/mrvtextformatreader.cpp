@@ -1,8 +1,11 @@
 #include "text/mrvtextformatreader_p.h"
 
 #include <QBrush>
+#include <QBuffer>
 #include <QByteArray>
 #include <QColor>
+#include <QImage>
+#include <QImageReader>
 #include <QMetaType>
 #include <QPen>
 #include <QTextFormat>
@@ -17,12 +20,12 @@ namespace {
 // Limits, all far above what a format holds in practice. Qt appends properties and gradient stops
 // in quadratic time, and reads nested lists by recursion.
 constexpr quint32 MaxProperties = 4096;
-constexpr quint32 MaxGradientStops = 1024;
+constexpr quint32 MaxGradientStops = 4096;
 constexpr int MaxDepth = 32;
-// What the picture of a texture may take when decoded: this much in any case, and more in
-// proportion to its encoded length.
-constexpr qint64 SmallPictureBytes = 8 << 20;
-constexpr qint64 PictureBytesPerByte = 256;
+// What all pictures of a format may take together when decoded: this much in any case, which holds
+// a plain texture of 4000 by 4000 pixels, and more in proportion to the length of the format.
+constexpr qint64 MinPictureBytes = 64 << 20;
+constexpr qint64 PictureBytesPerByte = 32;
 // The best that deflate can do, for the compressed texts and colour profile of a picture.
 constexpr qint64 MaxInflation = 1032;
 
@@ -36,6 +39,7 @@ public:
     explicit FormatWalker(const QByteArray &bytes)
         : m_at(bytes.constData())
         , m_end(bytes.constData() + bytes.size())
+        , m_pictureBytes(qMax(MinPictureBytes, PictureBytesPerByte * bytes.size()))
     {
     }
 
@@ -83,9 +87,11 @@ private:
     bool listLevel();
     bool image();
     bool png();
+    bool decodes(const char *start) const;
 
     const char *m_at;
     const char *m_end;
+    qint64 m_pictureBytes; ///< what the pictures to come may take when decoded
     int m_depth = 0;
 };
 
@@ -370,14 +376,24 @@ bool FormatWalker::image()
     return read(&present) && (present == 0 || (present == 1 && png()));
 }
 
-// A picture lies in the stream as a PNG file, of a length that only its chunks tell.
+// A picture lies in the stream as a PNG file, of a length that only its chunks tell. Where decoding
+// it ends early, Qt goes on reading in the middle of it: what follows would be taken from bytes that
+// nobody checked. So it is decoded here once, and must end where its chunks end.
+bool FormatWalker::decodes(const char *start) const
+{
+    const int length = int(m_at - start);
+    QByteArray bytes = QByteArray::fromRawData(start, length);
+    QBuffer file(&bytes);
+    file.open(QIODevice::ReadOnly);
+    return !QImageReader(&file).read().isNull() && file.pos() == length;
+}
+
 bool FormatWalker::png()
 {
     static constexpr char Signature[] = "\x89PNG\r\n\x1a\n";
     const char *start = m_at;
     if (!skip(8) || std::memcmp(start, Signature, 8) != 0)
         return false;
-    qint64 claimed = 0;
     bool first = true;
     for (;;) {
         quint32 length = 0;
@@ -394,16 +410,16 @@ bool FormatWalker::png()
                 return false;
             if (width == 0 || height == 0 || width > 0x7fff || height > 0x7fff)
                 return false;
-            claimed = qint64(width) * height * (depth > 8 ? 8 : 4);
+            m_pictureBytes -= qint64(width) * height * (depth > 8 ? 8 : 4);
             first = false;
         } else {
             if (!skip(qint64(length) + 4)) // and its checksum
                 return false;
             if (type == "iCCP" || type == "zTXt" || type == "iTXt")
-                claimed += length * MaxInflation;
+                m_pictureBytes -= length * MaxInflation;
         }
         if (type == "IEND")
-            return claimed <= qMax(SmallPictureBytes, PictureBytesPerByte * (m_at - start));
+            return m_pictureBytes >= 0 && decodes(start);
     }
 }
 

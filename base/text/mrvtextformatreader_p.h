@@ -7,8 +7,8 @@ class QByteArray;
  * Qt can decode safely.
  *
  * Qt's stream operators trust every type, count and length they read: a few wrong bytes make them
- * crash, or reserve gigabytes. So the bytes are walked first, without decoding anything. Accepted
- * are the types that occur in formats, each with a payload that fits into the bytes that are left.
- * True says that decoding is safe, not that it succeeds: the data of a picture is not looked into.
+ * crash, or reserve gigabytes. So the bytes are walked first. Accepted are the types that occur in
+ * formats, each with a payload that fits into the bytes that are left. Pictures are decoded for it,
+ * one at a time, since a damaged one would leave Qt in the middle of its data.
  */
 bool mrvIsReadableFormat(const QByteArray &bytes, int formatType);

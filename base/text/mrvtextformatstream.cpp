@@ -55,9 +55,75 @@ QByteArray write(const QTextFormat &format)
     return bytes;
 }
 
-QByteArray store(const QTextFormat &format)
+// A hash has another order in every process; a map with the same content has not.
+QVariant ordered(const QVariant &value)
+{
+    QVariantMap map;
+    QVariantList list;
+    switch (value.userType()) {
+    case QMetaType::QVariantHash: {
+        const QVariantHash hash = value.toHash();
+        for (auto it = hash.cbegin(); it != hash.cend(); ++it)
+            map.insert(it.key(), ordered(it.value()));
+        return map;
+    }
+    case QMetaType::QVariantMap:
+        map = value.toMap();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            *it = ordered(*it);
+        return map;
+    case QMetaType::QVariantList:
+        for (const QVariant &item : value.toList())
+            list << ordered(item);
+        return list;
+    default:
+        return value;
+    }
+}
+
+QTextFormat ordered(QTextFormat format)
+{
+    const QMap<int, QVariant> properties = format.properties();
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
+        const int type = it.value().userType();
+        if (type == QMetaType::QVariantHash || type == QMetaType::QVariantMap
+            || type == QMetaType::QVariantList)
+            format.setProperty(it.key(), ordered(it.value()));
+    }
+    return format;
+}
+
+QTextFormat firstProperties(const QTextFormat &format, int count)
+{
+    QTextFormat first = format;
+    const QList<int> properties = format.properties().keys();
+    for (int property : properties.mid(count))
+        first.clearProperty(property);
+    return first;
+}
+
+// What is too much all together, by number or by its pictures: as many properties as can be read.
+QByteArray storeFirst(const QTextFormat &format)
+{
+    int stored = 0;
+    int tooMany = format.propertyCount() + 1;
+    while (tooMany - stored > 1) {
+        const int count = stored + (tooMany - stored) / 2;
+        if (mrvIsReadableFormat(write(firstProperties(format, count)), format.type()))
+            stored = count;
+        else
+            tooMany = count;
+    }
+    if (stored < format.propertyCount())
+        qCWarning(lcText, "A format is too large: %d of its %d properties are left out",
+                  format.propertyCount() - stored, format.propertyCount());
+    return write(firstProperties(format, stored));
+}
+
+QByteArray store(const QTextFormat &unordered)
 {
     mrvRegisterTextTypes();
+    const QTextFormat format = ordered(unordered);
     const QByteArray bytes = write(format);
     if (mrvIsReadableFormat(bytes, format.type()))
         return bytes;
@@ -73,7 +139,7 @@ QByteArray store(const QTextFormat &format)
                   uint(it.key()), it.value().typeName());
         readable.clearProperty(it.key());
     }
-    return write(readable);
+    return storeFirst(readable);
 }
 
 template<typename Format>

@@ -107,14 +107,15 @@ public:
      * @param mmd  passes the name through mmdImageName(); "image" stands for an empty result.
      * @param used if given, paths that are taken: a file of such a path gets a free name beside it.
      * @return the path that was written; empty for an image without a picture or a name, and on
-     * failure.
+     * failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image links to a
+     * file of that suffix, which is copied.
      */
     static QString exportImageFormat(const QTextDocument &document, const QTextImageFormat &format,
                                      const QDir &folder, bool mmd, const QSet<QString> *used);
 
     /**
      * Writes each image of the document into @p folder as exportImageFormat() does, each to a file of
-     * its own. The folder is made where needed, but not for a document without images.
+     * its own and none over a file that another image links to. The folder is made where needed, but not for a document without images.
      *
      * @return the paths that were written, in document order.
      */

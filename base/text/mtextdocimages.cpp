@@ -83,8 +83,9 @@ struct NewKey
     QString name; ///< the new display name; null keeps the old one
 };
 
-// Moves pictures and images to their new ids; an image that has its id already stays as it is. All pictures are known before the first resource is
-// cleared, since one image's new id may be another's old one.
+// Moves pictures and images to their new ids; an image that has its id already stays as it is. All
+// pictures are known before the first resource is cleared, since one image's new id may be another's
+// old one.
 void rekey(QTextDocument *document, const std::vector<ImageRun> &runs, QHash<QString, NewKey> keys)
 {
     for (auto it = keys.begin(); it != keys.end(); ++it) {
@@ -134,6 +135,27 @@ QString fileName(QString name, const QString &suffix)
     file.replace(QLatin1Char('/'), QLatin1Char('_'));
     file.replace(QChar(QChar::Null), QLatin1Char('_'));
     return file;
+}
+
+// Where an image goes in a folder by its own name; empty without a name.
+QString targetPath(const QTextImageFormat &format, const QDir &folder, bool mmd)
+{
+    QString name = MRVTextFormat::imageName(format);
+    if (name.isEmpty())
+        return QString();
+    if (mmd) {
+        name = MTextDoc::mmdImageName(name);
+        if (name.isEmpty())
+            name = QStringLiteral("image");
+    }
+    const QString suffix = MRVTextFormat::imageType(format, "png").toLower();
+    return folder.filePath(fileName(name, suffix));
+}
+
+// The file that an image links to, or empty where there is none.
+QString linkedFile(const QTextImageFormat &format)
+{
+    return QFileInfo(MRVTextFormat::imageLink(format)).canonicalFilePath();
 }
 
 } // namespace
@@ -312,16 +334,9 @@ QString MTextDoc::exportImageFormat(const QTextDocument &document, const QTextIm
     if (!folder.exists())
         folder.mkpath(QStringLiteral("."));
     const QImage picture = image(document, format);
-    QString name = imageName(format);
-    if (name.isEmpty() || picture.isNull())
+    QString path = targetPath(format, folder, mmd);
+    if (path.isEmpty() || picture.isNull())
         return QString();
-    if (mmd) {
-        name = mmdImageName(name);
-        if (name.isEmpty())
-            name = QStringLiteral("image");
-    }
-    const QString suffix = MRVTextFormat::imageType(format, "png").toLower();
-    QString path = folder.filePath(fileName(name, suffix));
     if (used && used->contains(path))
         path = MRVCoreUtil::GetUniqueFileName(path);
     return MRVTextFormat::exportImageFormat(path, format, picture) ? path : QString();
@@ -336,10 +351,20 @@ QStringList MTextDoc::exportImages(const QTextDocument &document, const QString 
     if (!dir.exists())
         dir.mkpath(QStringLiteral("."));
 
+    // An image must not replace the file that another one links to: it is the user's original, and
+    // may still have to be copied.
+    QSet<QString> links;
+    for (const QTextImageFormat &format : formats)
+        links.insert(linkedFile(format));
+
     QStringList paths;
     QSet<QString> used;
     for (const QTextImageFormat &format : formats) {
-        const QString path = exportImageFormat(document, format, dir, mmd, &used);
+        const QString target = targetPath(format, dir, mmd);
+        const QString file = QFileInfo(target).canonicalFilePath();
+        QSet<QString> taken{target};
+        const bool linked = !file.isEmpty() && links.contains(file) && linkedFile(format) != file;
+        const QString path = exportImageFormat(document, format, dir, mmd, linked ? &taken : &used);
         if (path.isEmpty())
             continue;
         paths << path;

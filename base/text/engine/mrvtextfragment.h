@@ -11,9 +11,8 @@ class QTextDocumentFragment;
  * format of its first character, or of the paragraph itself where that is empty.
  *
  * The block format is there only when the fragment was cut from the beginning of a paragraph that is
- * not empty: Qt copies none otherwise. Object
- * indexes are left out, since they mean nothing outside the document that the fragment came from.
- * An empty fragment has default-constructed formats.
+ * not empty: Qt copies none otherwise. Object indexes are left out, since they mean nothing outside
+ * the document that the fragment came from. An empty fragment has default-constructed formats.
  *
  * Takes time linear in the fragment. GUI thread only.
  *
