@@ -94,7 +94,7 @@ private Q_SLOTS:
         QLinearGradient stops(0, 0, 1, 1);
         for (int i = 0; i <= 2000; ++i)
             stops.setColorAt(i / 2000.0, Qt::red);
-        for (const QBrush &brush : {QBrush(square(3000)), QBrush(stops)})
+        for (const QBrush &brush : {QBrush(square(1400)), QBrush(stops)})
             QCOMPARE(F::toCharFormat(F::toByteArray(with(brush))).propertyCount(), 1);
     }
 

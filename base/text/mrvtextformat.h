@@ -120,7 +120,7 @@ public:
      * Stored are numbers, texts, byte arrays, dates, URLs, colours, brushes, pens, pictures, points,
      * sizes, rectangles, text lengths, tab stops, list levels, and lists and maps of them; not fonts,
      * locales, polygons and times in a named zone. Of a format of more than 4096 properties, or with
-     * pictures beyond 64 MB and 32 times its stored length, the first that fit are stored.
+     * pictures beyond 8 MB and 32 times its stored length, the first that fit are stored.
      *
      * A property whose value toCharFormat() could not take back (a type without stream operators,
      * say) would make the whole format unreadable. It is left out, with a warning in the log.

@@ -24,7 +24,7 @@ constexpr quint32 MaxGradientStops = 4096;
 constexpr int MaxDepth = 32;
 // What all pictures of a format may take together when decoded: this much in any case, which holds
 // a plain texture of 4000 by 4000 pixels, and more in proportion to the length of the format.
-constexpr qint64 MinPictureBytes = 64 << 20;
+constexpr qint64 MinPictureBytes = 8 << 20;
 constexpr qint64 PictureBytesPerByte = 32;
 // The best that deflate can do, for the compressed texts and colour profile of a picture.
 constexpr qint64 MaxInflation = 1032;
