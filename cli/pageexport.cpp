@@ -124,11 +124,22 @@ bool PageExport::add(const DocumentInput &input, const QString &file, QString *e
         return false;
     }
     const QFileInfo target(file);
-    Folder &folder = m_folders[target.path()];
+    const QString page = QDir(stage).filePath(target.fileName());
+    if (!writePage(input, page, &m_folders[target.path()], error)
+        || !addPictures(page, file, error)) {
+        error->replace(stage, target.path()); // where the user wants the file
+        return false;
+    }
+    m_pages.append({page, file});
+    return true;
+}
+
+bool PageExport::writePage(const DocumentInput &input, const QString &page, Folder *folder,
+                           QString *error) const
+{
     MRVTextXhtmlExporter exporter(input.document.get());
     prepare(m_options, input, &exporter);
-    exporter.setStyles(folder.styles);
-    const QString page = QDir(stage).filePath(target.fileName());
+    exporter.setStyles(folder->styles);
     if (!exporter.toFile(m_options.type, page, m_options.images, QString(), error)) {
         return false;
     }
@@ -136,10 +147,9 @@ bool PageExport::add(const DocumentInput &input, const QString &file, QString *e
         *error = exporter.unwrittenImages().constFirst();
         return false;
     }
-    folder.styles = exporter.styles();
-    folder.pages.append(target.fileName());
-    m_pages.append({page, file});
-    return addPictures(page, file, error);
+    folder->styles = exporter.styles();
+    folder->pages.append(QFileInfo(page).fileName());
+    return true;
 }
 
 // Takes up the pictures that were written with a page. Where one gets another name, the page follows.
@@ -195,7 +205,11 @@ bool PageExport::addStyleSheet(const QString &path, const Folder &folder, QStrin
         + MRVTextXhtmlExporter::styleSheetText(folder.styles);
     m_files.add(staged, sheet);
     m_written.append(sheet);
-    return MRVCoreUtil::WriteUnicodeTextFile(text, staged, error);
+    if (!MRVCoreUtil::WriteUnicodeTextFile(text, staged, error)) {
+        error->replace(staged, sheet);
+        return false;
+    }
+    return true;
 }
 
 bool PageExport::publish(QStringList *written, QString *error)

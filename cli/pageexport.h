@@ -53,6 +53,8 @@ private:
         QStringList pages; // names
     };
 
+    bool writePage(const DocumentInput &input, const QString &page, Folder *folder,
+                   QString *error) const;
     bool addPictures(const QString &page, const QString &file, QString *error);
     QString pictureTarget(const QString &staged, const QString &wanted);
     bool addStyleSheet(const QString &path, const Folder &folder, QString *error);
