@@ -124,9 +124,12 @@ bool PageExport::add(const DocumentInput &input, const QString &file, QString *e
         return false;
     }
     const QFileInfo target(file);
+    Folder &folder = m_folders[QFileInfo(target.path()).canonicalFilePath()];
+    if (folder.path.isEmpty()) {
+        folder.path = target.path();
+    }
     const QString page = QDir(stage).filePath(target.fileName());
-    if (!writePage(input, page, &m_folders[target.path()], error)
-        || !addPictures(page, file, error)) {
+    if (!writePage(input, page, &folder, error) || !addPictures(page, folder, error)) {
         error->replace(stage, target.path()); // where the user wants the file
         return false;
     }
@@ -153,18 +156,17 @@ bool PageExport::writePage(const DocumentInput &input, const QString &page, Fold
 }
 
 // Takes up the pictures that were written with a page. Where one gets another name, the page follows.
-bool PageExport::addPictures(const QString &page, const QString &file, QString *error)
+bool PageExport::addPictures(const QString &page, const Folder &folder, QString *error)
 {
     const QDir stage(QFileInfo(page).path());
-    const QDir place(QFileInfo(file).path());
-    const QDir folder(MRVTextXhtmlExporter::calcImageDir(page));
+    const QDir images(MRVTextXhtmlExporter::calcImageDir(page));
     QHash<QString, QString> renamed;
-    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    const QStringList names = images.entryList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString &name : names) {
-        const QString staged = folder.filePath(name);
+        const QString staged = images.filePath(name);
         const QString wanted = stage.relativeFilePath(staged);
-        const QString target = pictureTarget(staged, place.filePath(wanted));
-        const QString given = folder.dirName() + u'/' + QFileInfo(target).fileName();
+        const QString target = pictureTarget(staged, QDir(folder.path).filePath(wanted));
+        const QString given = images.dirName() + u'/' + QFileInfo(target).fileName();
         if (given != wanted) {
             renamed.insert(asSource(wanted), asSource(given));
         }
@@ -193,11 +195,12 @@ QString PageExport::pictureTarget(const QString &staged, const QString &wanted)
     }
 }
 
-bool PageExport::addStyleSheet(const QString &path, const Folder &folder, QString *error)
+bool PageExport::addStyleSheet(const Folder &folder, QString *error)
 {
-    const QString sheet = QDir(path).filePath(SheetName);
-    const QString stage = m_files.newFolder(QDir(path).filePath(folder.pages.constFirst()), error);
-    if (stage.isEmpty() || !mayReplaceSheet(sheet, path, folder.pages, error)) {
+    const QString sheet = QDir(folder.path).filePath(SheetName);
+    const QString stage =
+        m_files.newFolder(QDir(folder.path).filePath(folder.pages.constFirst()), error);
+    if (stage.isEmpty() || !mayReplaceSheet(sheet, folder.path, folder.pages, error)) {
         return false;
     }
     const QString staged = QDir(stage).filePath(QFileInfo(sheet).fileName());
@@ -215,7 +218,7 @@ bool PageExport::addStyleSheet(const QString &path, const Folder &folder, QStrin
 bool PageExport::publish(QStringList *written, QString *error)
 {
     for (const auto &folder : m_folders) {
-        if (m_options.styleSheet && !addStyleSheet(folder.first, folder.second, error)) {
+        if (m_options.styleSheet && !addStyleSheet(folder.second, error)) {
             return false;
         }
     }

@@ -49,19 +49,20 @@ public:
 private:
     struct Folder // that pages are written to
     {
+        QString path; // as it was first given
         MRVTextXhtmlExporter::StyleList styles;
         QStringList pages; // names
     };
 
     bool writePage(const DocumentInput &input, const QString &page, Folder *folder,
                    QString *error) const;
-    bool addPictures(const QString &page, const QString &file, QString *error);
+    bool addPictures(const QString &page, const Folder &folder, QString *error);
     QString pictureTarget(const QString &staged, const QString &wanted);
-    bool addStyleSheet(const QString &path, const Folder &folder, QString *error);
+    bool addStyleSheet(const Folder &folder, QString *error);
 
     const PageOptions m_options;
     StagedFiles m_files;
-    std::map<QString, Folder> m_folders; // by path
+    std::map<QString, Folder> m_folders; // by the real path, however it is written
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target
     QStringList m_written;
     QVector<QPair<QString, QString>> m_pages; // staged file and target
