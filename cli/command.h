@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +24,9 @@ void printError(const QString &text);
 
 /** Prints a line to standard output, as UTF-8 whatever the locale. */
 void printLine(const QString &text);
+
+/** Writes to standard output; false, with a text, when that cannot take it all. */
+bool writeStandardOutput(const QByteArray &bytes, QString *error);
 
 /** Shows what is being done, on a terminal only; an empty text clears the line. */
 void showProgress(const QString &text);

@@ -1,5 +1,7 @@
 #include "documentinput.h"
 
+#include "htmlsource.h"
+
 #include "text/mrvtextformat.h"
 #include "text/mtextdoc.h"
 
@@ -9,14 +11,16 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-#include <QRegularExpression>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCodec>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
 
-#include <cstdio>
+#include <cerrno>
+
+#include <unistd.h>
 
 namespace {
 
@@ -42,10 +46,10 @@ bool fail(QString *error, const QString &path, const QString &reason)
 QString formatOf(const QString &path, const QByteArray &bytes)
 {
     if (path == QLatin1String("-")) {
-        const QByteArray start = bytes.left(1000).trimmed().toLower();
-        return start.startsWith("<!doctype html") || start.startsWith("<html")
-            ? QStringLiteral("html")
-            : QStringLiteral("text");
+        constexpr int StartSize = 65536;
+        QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
+        return looksLikeHtml(codec->toUnicode(bytes.left(StartSize))) ? QStringLiteral("html")
+                                                                      : QStringLiteral("text");
     }
     const QString suffix = QFileInfo(path).suffix().toLower();
     for (const auto &known : formats) {
@@ -56,21 +60,31 @@ QString formatOf(const QString &path, const QByteArray &bytes)
     return suffix.isEmpty() ? QStringLiteral("text") : QString();
 }
 
+// A byte order mark tells before all else, an XML declaration before what stands in the head.
+QTextCodec *declaredCodec(const QByteArray &bytes, const QString &format, QByteArray *name)
+{
+    QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
+    QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr);
+    if (marked || format != QLatin1String("html")) {
+        return marked ? marked : utf8;
+    }
+    *name = xmlEncoding(bytes);
+    // A declaration that can be read byte by byte is not in the encoding that it claims here.
+    const bool wide = name->toUpper().startsWith("UTF-16") || name->toUpper().startsWith("UTF-32");
+    return name->isEmpty() || wide ? QTextCodec::codecForHtml(bytes, utf8)
+                                   : QTextCodec::codecForName(*name);
+}
+
 bool decoded(const QByteArray &bytes, const QString &format, const QString &encoding, QString *text,
              QString *reason)
 {
-    QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
-    QTextCodec *codec = utf8;
-    if (!encoding.isEmpty()) {
-        codec = QTextCodec::codecForName(encoding.toLatin1());
-        if (!codec) {
-            *reason = QStringLiteral("unknown encoding '%1'").arg(encoding);
-            return false;
-        }
-    } else if (format == QLatin1String("html")) {
-        codec = QTextCodec::codecForHtml(bytes, utf8);
-    } else {
-        codec = QTextCodec::codecForUtfText(bytes, utf8);
+    QByteArray name = encoding.toLatin1();
+    QTextCodec *codec =
+        encoding.isEmpty() ? declaredCodec(bytes, format, &name) : QTextCodec::codecForName(name);
+    if (!codec) {
+        *reason = QStringLiteral("unknown encoding '%1'; give a known one with --encoding")
+                      .arg(QString::fromLatin1(name));
+        return false;
     }
     QTextCodec::ConverterState state;
     *text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
@@ -80,35 +94,6 @@ bool decoded(const QByteArray &bytes, const QString &format, const QString &enco
         return false;
     }
     return true;
-}
-
-bool isNestedTooDeeply(const QString &html)
-{
-    static const QRegularExpression tag(
-        QStringLiteral(
-            "<(/?)(?:div|blockquote|ul|ol|dl|table|center|span|font|section|article)\\b"),
-        QRegularExpression::CaseInsensitiveOption);
-    int depth = 0;
-    for (auto it = tag.globalMatch(html); it.hasNext();) {
-        depth += it.next().capturedLength(1) ? -1 : 1;
-        depth = qMax(depth, 0);
-        if (depth > DeepestNesting) {
-            return true;
-        }
-    }
-    return false;
-}
-
-// The value of the first match of a pattern with one group, in the head of the page.
-QString headValue(const QString &html, const char *pattern)
-{
-    constexpr int HeadSize = 20000;
-    const QRegularExpression expression(QLatin1String(pattern),
-                                        QRegularExpression::CaseInsensitiveOption);
-    const QString value = expression.match(html.left(HeadSize)).captured(1);
-    QTextDocument plain;
-    plain.setHtml(value);
-    return plain.toPlainText().simplified();
 }
 
 QString localFile(const QString &name, const QString &folder)
@@ -129,55 +114,119 @@ bool isElsewhere(const QString &name)
     return scheme.size() > 1 && scheme != QLatin1String("file");
 }
 
-// Gives each picture on this machine its full path and remembers where it came from.
-bool locatePictures(QTextDocument *document, const QString &folder, QString *reason)
+bool isPicture(const QString &path)
 {
-    struct Run
-    {
-        int begin;
-        int end;
-        QTextCharFormat format;
-    };
-    QVector<Run> runs;
-    QHash<QString, QString> known; // an ornament may be shown a thousand times: path by name
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+    // A pipe or a device in a picture's place would never end.
+    return QFileInfo(path).isFile()
+        && !MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path)).isNull();
+}
+
+// An image character, or several equal ones side by side.
+struct ImageRun
+{
+    int begin;
+    int end;
+    QTextImageFormat format;
+};
+
+QVector<ImageRun> imageRuns(const QTextDocument &document)
+{
+    QVector<ImageRun> runs;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const QTextImageFormat image = fragment.charFormat().toImageFormat();
-            if (!image.isValid() || isElsewhere(image.name())) {
-                continue;
+            QTextImageFormat image = fragment.charFormat().toImageFormat();
+            if (image.name().startsWith(
+                    QLatin1String("//"))) { // by the scheme of the page's server
+                image.setName(QLatin1String("https:") + image.name());
             }
-            QString &path = known[image.name()];
-            if (path.isEmpty()) {
-                path = localFile(image.name(), folder);
-                // A pipe or a device in a picture's place would never end.
-                const bool file = QFileInfo(path).isFile();
-                if (!file || MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path)).isNull()) {
-                    *reason = QStringLiteral("the picture %1 cannot be read").arg(image.name());
-                    return false;
-                }
+            if (image.isValid()) {
+                runs.append({fragment.position(), fragment.position() + fragment.length(), image});
             }
-            QTextCharFormat format = image;
-            format.setProperty(QTextFormat::ImageName, path);
-            format.setProperty(MRVTextFormat::ImageLinkProperty, path);
-            runs.append({fragment.position(), fragment.position() + fragment.length(), format});
         }
     }
-    QTextCursor cursor(document);
+    return runs;
+}
+
+// Gives each picture on this machine its full path and remembers where it came from.
+bool locatePictures(const QString &folder, DocumentInput *input, QString *reason)
+{
+    QHash<QString, QString> known; // an ornament may be shown a thousand times: path by name
+    QSet<QString> remote;
+    QTextCursor cursor(input->document.get());
     cursor.beginEditBlock();
-    for (const Run &run : qAsConst(runs)) {
+    const QVector<ImageRun> runs = imageRuns(*input->document);
+    for (const ImageRun &run : runs) {
+        const QString name = run.format.name();
+        QTextCharFormat format = run.format;
+        if (isElsewhere(name)) {
+            if (QUrl(name).scheme() != QLatin1String("data")) {
+                remote.insert(name);
+            }
+        } else {
+            QString &path = known[name];
+            if (path.isEmpty()) {
+                path = localFile(name, folder);
+                if (!isPicture(path)) {
+                    *reason = QStringLiteral("the picture %1 cannot be read").arg(name);
+                    return false;
+                }
+                input->pictures.append(path);
+            }
+            format.setProperty(QTextFormat::ImageName, path);
+            format.setProperty(MRVTextFormat::ImageLinkProperty, path);
+        }
         cursor.setPosition(run.begin);
         cursor.setPosition(run.end, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(run.format);
+        cursor.setCharFormat(format);
     }
     cursor.endEditBlock();
+    input->remotePictures = remote.size();
+    MTextDoc::fixHtmlImageFormatsAndResourceIds(input->document.get());
+    MTextDoc::convertUniqueImageResources(input->document.get());
     return true;
 }
 
-QByteArray standardInput()
+QByteArray standardInput(QString *reason)
 {
-    QFile file;
-    return file.open(stdin, QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray bytes;
+    char buffer[65536];
+    ssize_t size;
+    while ((size = ::read(STDIN_FILENO, buffer, sizeof buffer)) != 0) {
+        if (size > 0) {
+            bytes.append(buffer, int(size));
+        } else if (errno != EINTR) {
+            *reason =
+                QStringLiteral("standard input cannot be read: %1").arg(qt_error_string(errno));
+            return QByteArray();
+        }
+    }
+    return bytes;
+}
+
+bool readText(const QString &text, const QString &format, DocumentInput *input, QString *reason)
+{
+    input->document = std::make_unique<QTextDocument>();
+    input->document->setUndoRedoEnabled(false);
+    if (format == QLatin1String("markdown")) {
+        input->document->setMarkdown(text);
+        return true;
+    }
+    if (format == QLatin1String("text")) {
+        input->document->setPlainText(text);
+        return true;
+    }
+    if (isHtmlNestedDeeper(text, DeepestNesting)) {
+        *reason =
+            QStringLiteral("elements are nested more than %1 levels deep").arg(DeepestNesting);
+        return false;
+    }
+    input->document->setHtml(text);
+    const HtmlHead head = readHtmlHead(text);
+    input->authors = head.authors;
+    input->description = head.description;
+    input->language = head.language;
+    return true;
 }
 
 } // namespace
@@ -198,7 +247,7 @@ bool readDocument(const QString &path, const InputOptions &options, DocumentInpu
     const bool standard = path == QLatin1String("-");
     QString reason;
     const QByteArray bytes =
-        standard ? standardInput() : MRVCoreUtil::ReadBinaryFile(path, &reason);
+        standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
     if (!reason.isEmpty()) {
         *error = reason;
         return false;
@@ -213,27 +262,9 @@ bool readDocument(const QString &path, const InputOptions &options, DocumentInpu
         return fail(error, path, reason);
     }
     input->path = path;
-    input->document = std::make_unique<QTextDocument>();
-    input->document->setUndoRedoEnabled(false);
-    if (format == QLatin1String("html")) {
-        if (isNestedTooDeeply(text)) {
-            return fail(
-                error, path,
-                QStringLiteral("elements are nested more than %1 levels deep").arg(DeepestNesting));
-        }
-        input->document->setHtml(text);
-        input->author = headValue(text, "<meta\\s+name=[\"']author[\"']\\s+content=\"([^\"]*)\"");
-        input->language = headValue(text, "<html\\b[^>]*\\blang=[\"']([A-Za-z0-9-]+)[\"']");
-    } else if (format == QLatin1String("markdown")) {
-        input->document->setMarkdown(text);
-    } else {
-        input->document->setPlainText(text);
-    }
-    const QString folder = standard ? QDir::currentPath() : QFileInfo(path).absolutePath();
-    if (!locatePictures(input->document.get(), folder, &reason)) {
+    if (!readText(text, format, input, &reason)) {
         return fail(error, path, reason);
     }
-    MTextDoc::fixHtmlImageFormatsAndResourceIds(input->document.get());
-    MTextDoc::convertUniqueImageResources(input->document.get());
-    return true;
+    const QString folder = standard ? QDir::currentPath() : QFileInfo(path).absolutePath();
+    return !options.pictures || locatePictures(folder, input, &reason) || fail(error, path, reason);
 }

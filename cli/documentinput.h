@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -11,8 +12,11 @@ struct DocumentInput
 {
     QString path; // as given; "-" is standard input
     std::unique_ptr<QTextDocument> document;
-    QString author; // what HTML tells in its head
+    QStringList authors; // what HTML tells in its head
+    QString description;
     QString language;
+    QStringList pictures; // files that it shows
+    int remotePictures = 0; // that it shows from elsewhere
 
     DocumentInput();
     ~DocumentInput();
@@ -28,13 +32,14 @@ struct InputOptions
 {
     QString format; // "html", "markdown" or "text"
     QString encoding;
+    bool pictures = true; // false: leave them, and what names them, alone
 };
 
 /**
  * Reads a manuscript with its pictures. Names of pictures count from the input's folder.
  *
  * @return false, with a one-line text that names the file, when it is missing, of unknown format, not readable in
- *         its encoding, or when one of its pictures on this machine cannot be read.
+ *         its encoding, nested too deeply, or when one of its pictures on this machine cannot be read.
  */
 bool readDocument(const QString &path, const InputOptions &options, DocumentInput *input,
                   QString *error);

@@ -1,5 +1,9 @@
 #include "command.h"
 #include "documentinput.h"
+#include "htmlsource.h"
+#include "pageexport.h"
+#include "stagedfiles.h"
+#include "temporaryfolder.h"
 
 #include "export/mrvepubpackage.h"
 #include "export/mrvtextxhtmlexporter.h"
@@ -9,18 +13,17 @@
 
 #include <QCommandLineParser>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
 #include <QMap>
-#include <QTemporaryDir>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTextDocument>
 
-#include <cstdio>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -55,35 +58,43 @@ struct Options
     bool json = false;
 };
 
+enum class For { All, Pages, Packages };
+
 // Options of the command, one row each.
 constexpr struct
 {
     const char *name;
     const char *value; // null: takes none
+    For use;
     const char *description;
 } optionRows[] = {
-    {"to", "TYPE", "What to write: html, xhtml, epub, kindle or kf8."},
-    {"output", "FILE",
+    {"to", "TYPE", For::All, "What to write: html, xhtml, epub, kindle or kf8."},
+    {"output", "FILE", For::All,
      "Where to write: a file, or a folder that exists; - is standard output. Default: beside the "
      "input, with the type's suffix."},
-    {"from", "FORMAT", "What the input is: html, markdown or text. Default: by its suffix."},
-    {"encoding", "NAME", "The input's encoding. Default: what it declares, else UTF-8."},
-    {"title", "TEXT", "The book's title. Default: the manuscript's own."},
-    {"author", "NAME",
+    {"from", "FORMAT", For::All,
+     "What the input is: html, markdown or text. Default: by its suffix."},
+    {"encoding", "NAME", For::All, "The input's encoding. Default: what it declares, else UTF-8."},
+    {"title", "TEXT", For::All, "The title. Default: the manuscript's own."},
+    {"language", "TAG", For::All,
+     "The language, such as en-GB. Default: what HTML tells, else, for e-books, that of the "
+     "locale."},
+    {"author", "NAME", For::Packages,
      "An author; may be given several times. Default: what HTML tells in its head."},
-    {"language", "TAG",
-     "The language, such as en-GB. Default: what HTML tells, else that of the locale."},
-    {"identifier", "URI", "An identifier such as urn:isbn:... Default: computed from the content."},
-    {"publisher", "NAME", "The publisher."},
-    {"description", "TEXT", "What the book is about."},
-    {"rights", "TEXT", "Copyright and licence."},
-    {"cover", "FILE", "A picture for the cover page."},
-    {"date", "TIME",
-     "The date of modification (ISO 8601), for e-books that are the same byte for byte. Default: "
-     "SOURCE_DATE_EPOCH (seconds since 1970), else now."},
-    {"epub-version", "N", "3 (default) or 2."},
-    {"no-images", nullptr, "Leave pictures where they are (pages only)."},
-    {"json", nullptr, "Tell as JSON what was written."},
+    {"identifier", "URI", For::Packages,
+     "An identifier such as urn:isbn:... Default: computed from the content."},
+    {"publisher", "NAME", For::Packages, "The publisher."},
+    {"description", "TEXT", For::Packages,
+     "What the book is about. Default: what HTML tells in its head."},
+    {"rights", "TEXT", For::Packages, "Copyright and licence."},
+    {"cover", "FILE", For::Packages, "A picture for the cover page."},
+    {"date", "TIME", For::Packages,
+     "The date of modification (ISO 8601; UTC unless it says otherwise), for e-books that are the "
+     "same byte for byte. Default: SOURCE_DATE_EPOCH (seconds since 1970), else now."},
+    {"epub-version", "N", For::Packages, "3 (default) or 2."},
+    {"no-images", nullptr, For::Pages, "Leave pictures where they are, and what refers to them."},
+    {"json", nullptr, For::All,
+     "Tell as JSON what was written; nothing, when that is standard output."},
 };
 
 const Target *targetNamed(const QString &name)
@@ -108,75 +119,125 @@ int failure(const QString &text)
     return Failed;
 }
 
-bool readDate(const QString &given, QDateTime *date)
+// The years that ISO 8601 and the formats written here have four digits for.
+bool isWritableDate(const QDateTime &date)
 {
-    if (!given.isEmpty()) {
-        *date = QDateTime::fromString(given, Qt::ISODate);
-        return date->isValid();
-    }
-    const QByteArray epoch = qgetenv("SOURCE_DATE_EPOCH");
-    if (!epoch.isEmpty()) {
-        bool ok = false;
-        *date = QDateTime::fromSecsSinceEpoch(epoch.toLongLong(&ok), Qt::UTC);
-        return ok;
-    }
-    return true;
+    const int year = date.toUTC().date().year();
+    return date.isValid() && year >= 1 && year <= 9999;
 }
 
-// -1 to go on, else the exit code.
-int readOptions(const QStringList &arguments, Options *options)
+int readDate(const QString &given, QDateTime *date)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
+    if (!given.isEmpty()) {
+        static const QRegularExpression offset(QStringLiteral("T.*(?:Z|[+-]\\d\\d(?::?\\d\\d)?)$"));
+        const QString time = given.contains(u'T') ? given : given + QLatin1String("T00:00:00");
+        *date =
+            QDateTime::fromString(offset.match(time).hasMatch() ? time : time + u'Z', Qt::ISODate);
+        return isWritableDate(*date)
+            ? -1
+            : usageError(QStringLiteral("the date is not one of ISO 8601 such as "
+                                        "2026-01-31T12:00:00Z, in the years 1 to 9999"));
+    }
+    const QByteArray epoch = qgetenv("SOURCE_DATE_EPOCH");
+    if (epoch.isEmpty()) {
+        return -1;
+    }
+    bool ok = false;
+    const qint64 seconds = epoch.toLongLong(&ok);
+    // Beyond, the date's own arithmetic overflows.
+    constexpr qint64 FarOff = 1000000000000;
+    ok = ok && qAbs(seconds / 2) < FarOff / 2;
+    *date = QDateTime::fromSecsSinceEpoch(ok ? seconds : 0, Qt::UTC);
+    return ok && isWritableDate(*date)
+        ? -1
+        : usageError(QStringLiteral("SOURCE_DATE_EPOCH is not a number of seconds since 1970 that "
+                                    "lies in the years 1 to 9999"));
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(
         QStringLiteral("Writes manuscripts (HTML, Markdown or plain text; - is standard input) as "
                        "pages or e-books.\n"
                        "Several inputs become one e-book, or a page each."));
-    parser.addPositionalArgument(QStringLiteral("IN"), QStringLiteral("The manuscripts, in order."),
-                                 QStringLiteral("IN..."));
+    parser->addPositionalArgument(QStringLiteral("IN"),
+                                  QStringLiteral("The manuscripts, in order."),
+                                  QStringLiteral("IN..."));
     for (const auto &row : optionRows) {
         QStringList names{QLatin1String(row.name)};
         if (names.constFirst() == QLatin1String("output")) {
             names.prepend(QStringLiteral("o"));
         }
-        parser.addOption({names, QLatin1String(row.description), QLatin1String(row.value)});
+        QString description = QLatin1String(row.description);
+        if (row.use != For::All) {
+            description += row.use == For::Pages ? QLatin1String(" (Pages only.)")
+                                                 : QLatin1String(" (E-books only.)");
+        }
+        parser->addOption({names, description, QLatin1String(row.value)});
     }
-    const int code =
-        parseArguments(&parser, QStringLiteral("export IN... --to TYPE [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
-    options->inputs = parser.positionalArguments();
-    options->output = value("output");
-    options->input = {value("from"), value("encoding")};
-    options->metadata.title = value("title");
-    options->metadata.authors = parser.values(QStringLiteral("author"));
-    options->metadata.language = value("language");
-    options->metadata.identifier = value("identifier");
-    options->metadata.publisher = value("publisher");
-    options->metadata.description = value("description");
-    options->metadata.rights = value("rights");
-    options->coverFile = value("cover");
-    options->images = !parser.isSet(QStringLiteral("no-images"));
-    options->json = parser.isSet(QStringLiteral("json"));
-    if (value("to").isEmpty()) {
+}
+
+// -1 to go on, else the exit code; so with all that follow.
+int readTarget(const QCommandLineParser &parser, Options *options)
+{
+    const QString name = parser.value(QStringLiteral("to"));
+    if (name.isEmpty()) {
         return usageError(
             QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
     }
-    options->target = targetNamed(value("to"));
+    options->target = targetNamed(name);
     if (!options->target) {
         return usageError(
             QStringLiteral("unknown type '%1'; known are html, xhtml, epub, kindle and kf8")
-                .arg(value("to")));
+                .arg(name));
     }
+    const For use = options->target->package ? For::Packages : For::Pages;
+    for (const auto &row : optionRows) {
+        if (row.use != For::All && row.use != use && parser.isSet(QLatin1String(row.name))) {
+            return usageError(
+                QStringLiteral("--%1 is for %2 only")
+                    .arg(QLatin1String(row.name),
+                         use == For::Pages ? QLatin1String("e-books") : QLatin1String("pages")));
+        }
+    }
+    return -1;
+}
+
+int readInputs(const QCommandLineParser &parser, Options *options)
+{
+    options->inputs = parser.positionalArguments();
+    const QString format = parser.value(QStringLiteral("from"));
+    options->input = {format, parser.value(QStringLiteral("encoding")), true};
     if (options->inputs.isEmpty()) {
         return usageError(QStringLiteral("an input is missing"));
     }
+    if (options->inputs.count(QStringLiteral("-")) > 1) {
+        return usageError(QStringLiteral("standard input can be read only once"));
+    }
     if (!QStringList{QString(), QStringLiteral("html"), QStringLiteral("markdown"),
                      QStringLiteral("text")}
-             .contains(value("from"))) {
-        return usageError(QStringLiteral("unknown format '%1'; known are html, markdown and text")
-                              .arg(value("from")));
+             .contains(format)) {
+        return usageError(
+            QStringLiteral("unknown format '%1'; known are html, markdown and text").arg(format));
+    }
+    return -1;
+}
+
+int readMetadata(const QCommandLineParser &parser, Options *options)
+{
+    auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
+    MRVEPubMetadata &metadata = options->metadata;
+    metadata.title = value("title");
+    metadata.authors = parser.values(QStringLiteral("author"));
+    metadata.identifier = value("identifier");
+    metadata.publisher = value("publisher");
+    metadata.description = value("description");
+    metadata.rights = value("rights");
+    options->coverFile = value("cover");
+    metadata.language = languageTag(value("language"));
+    if (metadata.language.isEmpty() && !value("language").isEmpty()) {
+        return usageError(QStringLiteral("'%1' is not the tag of a language such as en-GB")
+                              .arg(value("language")));
     }
     const QString version = value("epub-version");
     if (!version.isEmpty() && version != QLatin1String("2") && version != QLatin1String("3")) {
@@ -185,9 +246,26 @@ int readOptions(const QStringList &arguments, Options *options)
     }
     options->version =
         version == QLatin1String("2") ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3;
-    if (!readDate(value("date"), &options->metadata.modified)) {
-        return usageError(
-            QStringLiteral("the date is not one of ISO 8601 such as 2026-01-31T12:00:00Z"));
+    return options->target->package ? readDate(value("date"), &metadata.modified) : -1;
+}
+
+int readOptions(const QStringList &arguments, Options *options)
+{
+    QCommandLineParser parser;
+    addOptions(&parser);
+    const int shown =
+        parseArguments(&parser, QStringLiteral("export IN... --to TYPE [OPTIONS]"), arguments);
+    if (shown >= 0) {
+        return shown;
+    }
+    options->output = parser.value(QStringLiteral("output"));
+    options->images = !parser.isSet(QStringLiteral("no-images"));
+    options->json = parser.isSet(QStringLiteral("json"));
+    for (const auto read : {readTarget, readInputs, readMetadata}) {
+        const int code = read(parser, options);
+        if (code >= 0) {
+            return code;
+        }
     }
     return -1;
 }
@@ -202,189 +280,171 @@ QString outputFile(const Options &options, const QString &input)
     if (options.output.isEmpty()) {
         return standard ? QString(StandardOutput) : QFileInfo(input).dir().filePath(name);
     }
+    if (options.output == StandardOutput) {
+        return StandardOutput;
+    }
     const bool folder = options.output.endsWith(u'/') || QFileInfo(options.output).isDir()
         || (!options.target->package && options.inputs.size() > 1);
     return folder ? QDir(options.output).filePath(name) : options.output;
 }
 
-// Would the output replace one of its own sources?
-bool isInput(const Options &options, const QString &file)
+// One for a package, else one an input.
+QStringList outputFiles(const Options &options)
 {
-    const QString target = QFileInfo(file).canonicalFilePath();
+    QStringList files;
     for (const QString &input : options.inputs) {
-        if (!target.isEmpty() && target == QFileInfo(input).canonicalFilePath()) {
-            return true;
-        }
+        files.append(outputFile(options, input));
     }
-    return false;
+    return options.target->package ? files.mid(0, 1) : files;
 }
 
-bool makeFolder(const QString &file, QString *error)
+// A name that tells files apart, however their paths are written.
+QString identity(const QString &file)
 {
-    const QString folder = QFileInfo(file).absolutePath();
-    if (QDir().mkpath(folder)) {
-        return true;
-    }
-    *error = QStringLiteral("%1: the folder cannot be made").arg(folder);
-    return false;
+    const QString real = QFileInfo(file).canonicalFilePath();
+    const QString folder = QFileInfo(QFileInfo(file).path()).canonicalFilePath();
+    return !real.isEmpty()  ? real
+        : !folder.isEmpty() ? QDir(folder).filePath(QFileInfo(file).fileName())
+                            : QDir::cleanPath(QFileInfo(file).absoluteFilePath());
 }
 
-bool writeStandardOutput(const QByteArray &bytes, QString *error)
+// Would an output replace one of these files?
+bool areSpared(const QStringList &sources, const QStringList &outputs, QString *error)
 {
-    if (std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout) == size_t(bytes.size())
-        && std::fflush(stdout) == 0) {
-        return true;
+    QHash<QString, QString> written;
+    for (const QString &output : outputs) {
+        if (output != StandardOutput) {
+            written.insert(identity(output), output);
+        }
     }
-    *error = QStringLiteral("standard output cannot be written");
-    return false;
+    for (const QString &source : sources) {
+        const QString output =
+            source == QLatin1String("-") ? QString() : written.value(identity(source));
+        if (!output.isEmpty()) {
+            *error =
+                QStringLiteral("%1: the output would replace the input; choose another with -o")
+                    .arg(output);
+            return false;
+        }
+    }
+    return true;
 }
 
-/**
- * Pages with their pictures and style sheet: all files are written to a folder beside their place first and
- * moved there when each is whole, the pages last, so that a failure leaves what was there before.
- */
-class PageExport
+// -1 to go on, else the exit code.
+int checkOutputs(const Options &options, const QStringList &outputs)
 {
-public:
-    explicit PageExport(const Options &options)
-        : m_options(options)
-    {
+    if (outputs.size() > 1 && outputs.contains(StandardOutput)) {
+        return usageError(QStringLiteral(
+            "only one page can be written to standard output; choose a folder with -o"));
     }
-
-    bool add(const DocumentInput &input, QString *error)
-    {
-        const QString file = outputFile(m_options, input.path);
-        if (!m_options.metadata.title.isEmpty()) {
-            input.document->setMetaInformation(QTextDocument::DocumentTitle,
-                                               m_options.metadata.title);
-        }
-        MRVTextXhtmlExporter exporter(input.document.get());
-        exporter.setStyles(m_styles);
-        if (file == StandardOutput) {
-            return writeStandardOutput(exporter.toText(m_options.target->type).toUtf8(), error);
-        }
-        if (!openStage(file, error)) {
-            return false;
-        }
-        const QString staged = QDir(m_stage->path()).filePath(QFileInfo(file).fileName());
-        if (!exporter.toFile(m_options.target->type, staged, m_options.images, QString(), error)) {
-            return false;
-        }
-        if (!exporter.unwrittenImages().isEmpty()) {
-            *error = QStringLiteral("%1: the picture %2 cannot be written")
-                         .arg(file, exporter.unwrittenImages().constFirst());
-            return false;
-        }
-        m_styles = exporter.styles();
-        m_pages.append(QFileInfo(file).fileName());
-        return true;
+    QString error;
+    if (!areSpared(options.inputs, outputs, &error)) {
+        return failure(error);
     }
-
-    bool publish(QStringList *written, QString *error)
-    {
-        if (!m_stage) {
-            return true;
+    QSet<QString> known;
+    for (const QString &output : outputs) {
+        if (known.contains(identity(output))) {
+            return failure(
+                QStringLiteral("%1: two inputs would be written to this file").arg(output));
         }
-        const QDir stage(m_stage->path());
-        if (m_options.target->styleSheet) {
-            const QString sheet = stage.filePath(QStringLiteral("css/stylesheet.css"));
-            if (!makeFolder(sheet, error)
-                || !MRVCoreUtil::WriteUnicodeTextFile(
-                    MRVTextXhtmlExporter::styleSheetText(m_styles), sheet, error)) {
-                return false;
-            }
-        }
-        QStringList files;
-        for (QDirIterator it(stage.path(), QDir::Files, QDirIterator::Subdirectories);
-             it.hasNext();) {
-            const QString file = stage.relativeFilePath(it.next());
-            if (!m_pages.contains(file)) {
-                files.append(file);
-            }
-        }
-        files.sort();
-        files += m_pages;
-        for (const QString &file : qAsConst(files)) {
-            const QString target = QDir(m_folder).filePath(file);
-            if (!makeFolder(target, error)) {
-                return false;
-            }
-            if (std::rename(QFile::encodeName(stage.filePath(file)).constData(),
-                            QFile::encodeName(target).constData())
-                != 0) {
-                *error = QStringLiteral("%1: the file cannot be put in place").arg(target);
-                return false;
-            }
-            written->append(target);
-        }
-        return true;
+        known.insert(identity(output));
     }
+    return -1;
+}
 
-private:
-    bool openStage(const QString &file, QString *error)
-    {
-        if (m_stage) {
-            return true;
-        }
-        if (!makeFolder(file, error)) {
+bool readDocuments(const Options &options, const QStringList &outputs,
+                   std::vector<DocumentInput> *inputs, QString *error)
+{
+    InputOptions reading = options.input;
+    reading.pictures =
+        options.target->package || (options.images && outputs.constFirst() != StandardOutput);
+    QStringList sources{options.coverFile};
+    for (const QString &path : options.inputs) {
+        showProgress(QStringLiteral("Reading %1").arg(path));
+        DocumentInput input;
+        if (!readDocument(path, reading, &input, error)) {
             return false;
         }
-        m_folder = QFileInfo(file).path();
-        m_stage = std::make_unique<QTemporaryDir>(
-            QDir(m_folder).filePath(QStringLiteral(".mrv-export-XXXXXX")));
-        if (!m_stage->isValid()) {
-            *error = QStringLiteral("%1: %2").arg(m_folder, m_stage->errorString());
-            return false;
-        }
-        return true;
+        sources += input.pictures;
+        inputs->push_back(std::move(input));
     }
-
-    const Options &m_options;
-    MRVTextXhtmlExporter::StyleList m_styles;
-    std::unique_ptr<QTemporaryDir> m_stage;
-    QString m_folder;
-    QStringList m_pages;
-};
+    sources.removeAll(QString());
+    return areSpared(sources, outputs, error);
+}
 
 bool exportPages(const Options &options, const std::vector<DocumentInput> &inputs,
-                 QStringList *written, QString *error)
+                 const QStringList &outputs, QStringList *written, QString *error)
 {
-    PageExport pages(options);
-    for (const DocumentInput &input : inputs) {
-        showProgress(QStringLiteral("Writing %1").arg(input.path));
-        if (!pages.add(input, error)) {
+    const PageOptions pageOptions{options.target->type, options.target->styleSheet, options.images,
+                                  options.metadata.title, options.metadata.language};
+    if (outputs.constFirst() == StandardOutput) {
+        return writeStandardOutput(pageText(pageOptions, inputs.front()).toUtf8(), error);
+    }
+    PageExport pages(pageOptions);
+    for (std::size_t i = 0; i < inputs.size(); ++i) {
+        showProgress(QStringLiteral("Writing %1").arg(inputs[i].path));
+        if (!pages.add(inputs[i], outputs.at(int(i)), error)) {
             return false;
         }
     }
     return pages.publish(written, error);
 }
 
+// Empty where the locale has none: a book in no known language is better than one in a wrong one.
 QString localeLanguage()
 {
     const QLocale locale = QLocale::system();
-    return locale.language() == QLocale::C ? QStringLiteral("en") : locale.bcp47Name();
+    return locale.language() == QLocale::C ? QString() : locale.bcp47Name();
 }
 
-bool exportPackage(const Options &options, const std::vector<DocumentInput> &inputs,
-                   QStringList *written, QString *error)
+// What the options leave open, the first document tells.
+bool completeMetadata(const QString &coverFile, const DocumentInput &first,
+                      MRVEPubMetadata *metadata, QString *error)
 {
-    MRVEPubMetadata metadata = options.metadata;
-    const DocumentInput &first = inputs.front();
-    if (metadata.authors.isEmpty() && !first.author.isEmpty()) {
-        metadata.authors.append(first.author);
+    if (metadata->authors.isEmpty()) {
+        metadata->authors = first.authors;
     }
-    if (metadata.language.isEmpty()) {
-        metadata.language = first.language.isEmpty() ? localeLanguage() : first.language;
+    if (metadata->description.isEmpty()) {
+        metadata->description = first.description;
     }
-    if (!options.coverFile.isEmpty()) {
+    if (metadata->language.isEmpty()) {
+        metadata->language = first.language.isEmpty() ? localeLanguage() : first.language;
+    }
+    if (!coverFile.isEmpty()) {
         QString unreadable;
-        metadata.cover = MRVCoreUtil::ReadBinaryFile(options.coverFile, &unreadable);
-        if (MRVGuiUtil::toImage(metadata.cover).isNull()) {
-            *error = QStringLiteral("%1: the cover picture cannot be read").arg(options.coverFile);
+        metadata->cover = MRVCoreUtil::ReadBinaryFile(coverFile, &unreadable);
+        if (MRVGuiUtil::toImage(metadata->cover).isNull()) {
+            *error = QStringLiteral("%1: the cover picture cannot be read").arg(coverFile);
             return false;
         }
     }
+    return true;
+}
+
+bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
+{
+    if (file == StandardOutput) {
+        return writeStandardOutput(bytes, error);
+    }
+    showProgress(QStringLiteral("Writing %1").arg(file));
+    const SignalsHeld held; // a half-written file would lie about
+    NewFolders folders;
+    if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
+        return false;
+    }
+    folders.keep();
+    return true;
+}
+
+bool exportPackage(const Options &options, const std::vector<DocumentInput> &inputs,
+                   const QString &file, QStringList *written, QString *error)
+{
+    MRVEPubMetadata metadata = options.metadata;
+    if (!completeMetadata(options.coverFile, inputs.front(), &metadata, error)) {
+        return false;
+    }
     MRVEPubPackage package(options.version, metadata);
+    int left = 0;
     for (const DocumentInput &input : inputs) {
         showProgress(QStringLiteral("Adding %1").arg(input.path));
         QString reason;
@@ -392,17 +452,19 @@ bool exportPackage(const Options &options, const std::vector<DocumentInput> &inp
             *error = QStringLiteral("%1: %2").arg(input.path, reason);
             return false;
         }
+        left += input.remotePictures;
     }
-    const QString file = outputFile(options, first.path);
-    showProgress(QStringLiteral("Writing %1").arg(file));
-    if (file == StandardOutput) {
-        const QByteArray bytes = package.toByteArray(error);
-        return !bytes.isEmpty() && writeStandardOutput(bytes, error);
-    }
-    if (!makeFolder(file, error) || !package.write(file, error)) {
+    const QByteArray bytes = package.toByteArray(error);
+    if (bytes.isEmpty() || !writePackage(bytes, file, error)) {
         return false;
     }
-    written->append(file);
+    if (left > 0) {
+        printError(QStringLiteral("note: pictures on other machines that are not in the e-book: %1")
+                       .arg(left));
+    }
+    if (file != StandardOutput) {
+        written->append(file);
+    }
     return true;
 }
 
@@ -433,41 +495,28 @@ void report(const Options &options, const QStringList &written)
 int runExport(const QStringList &arguments)
 {
     Options options;
-    const int code = readOptions(arguments, &options);
+    int code = readOptions(arguments, &options);
     if (code >= 0) {
         return code;
     }
-    QStringList files;
-    for (const QString &input : qAsConst(options.inputs)) {
-        const QString file = outputFile(options, input);
-        if (isInput(options, file)) {
-            return failure(
-                QStringLiteral("%1: the output would replace the input; choose another with -o")
-                    .arg(file));
-        }
-        if (!options.target->package && file != StandardOutput && files.contains(file)) {
-            return failure(
-                QStringLiteral("%1: two inputs would be written to this file").arg(file));
-        }
-        files.append(file);
+    const QStringList outputs = outputFiles(options);
+    code = checkOutputs(options, outputs);
+    if (code >= 0) {
+        return code;
     }
     std::vector<DocumentInput> inputs;
-    QString error;
-    for (const QString &path : qAsConst(options.inputs)) {
-        showProgress(QStringLiteral("Reading %1").arg(path));
-        DocumentInput input;
-        if (!readDocument(path, options.input, &input, &error)) {
-            return failure(error);
-        }
-        inputs.push_back(std::move(input));
-    }
     QStringList written;
-    const bool ok = options.target->package ? exportPackage(options, inputs, &written, &error)
-                                            : exportPages(options, inputs, &written, &error);
+    QString error;
+    const bool ok = readDocuments(options, outputs, &inputs, &error)
+        && (options.target->package
+                ? exportPackage(options, inputs, outputs.constFirst(), &written, &error)
+                : exportPages(options, inputs, outputs, &written, &error));
     if (!ok) {
         return failure(error);
     }
     showProgress(QString());
-    report(options, written);
+    if (outputs.constFirst() != StandardOutput) {
+        report(options, written);
+    }
     return Done;
 }

@@ -5,6 +5,7 @@
 
 #include <cstdio>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -41,6 +42,17 @@ void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
     }
 }
 
+// A stream that was closed must not become the next file that is opened: what is printed would end up there.
+void occupyClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0) {
+            // The lowest number that is free, open the wrong way round so that each use fails.
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
 } // namespace
 
 void printError(const QString &text)
@@ -52,6 +64,16 @@ void printError(const QString &text)
 void printLine(const QString &text)
 {
     printTo(stdout, text);
+}
+
+bool writeStandardOutput(const QByteArray &bytes, QString *error)
+{
+    const std::size_t size = std::size_t(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
+        return true;
+    }
+    *error = QStringLiteral("standard output cannot be written");
+    return false;
 }
 
 void showProgress(const QString &text)
@@ -85,6 +107,7 @@ int parseArguments(QCommandLineParser *parser, const QString &usage, const QStri
 
 int main(int argc, char **argv)
 {
+    occupyClosedStreams();
     // The tool shows no windows: it must run where there is no display.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

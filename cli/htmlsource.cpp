@@ -1,0 +1,259 @@
+#include "htmlsource.h"
+
+#include <QRegularExpression>
+#include <QTextDocument>
+#include <QVector>
+
+namespace {
+
+struct Tag
+{
+    QString name; // in lower case
+    QStringView attributes;
+    bool end = false; // "</name>"
+    bool whole = false; // "<name/>", or an element that has no content
+};
+
+constexpr const char *voidElements[] = {"area", "base",  "br",     "col",  "embed", "hr",  "img",
+                                        "link", "input", "source", "meta", "param", "wbr", "track"};
+
+// Elements that end where a like one begins, unless a list or a table begins between them.
+constexpr struct
+{
+    const char *name;
+    const char *group;
+} selfEnding[] = {
+    {"p", "p"},         {"li", "li"},       {"dt", "dt"},         {"dd", "dt"},
+    {"td", "td"},       {"th", "td"},       {"tr", "tr"},         {"thead", "thead"},
+    {"tbody", "thead"}, {"tfoot", "thead"}, {"option", "option"},
+};
+
+constexpr const char *barriers[] = {"ul", "ol", "dl", "table", "select"};
+
+template<typename Names>
+bool contains(const Names &names, const QString &name)
+{
+    for (const char *known : names) {
+        if (name == QLatin1String(known)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QString groupOf(const QString &name)
+{
+    for (const auto &row : selfEnding) {
+        if (name == QLatin1String(row.name)) {
+            return QLatin1String(row.group);
+        }
+    }
+    return QString();
+}
+
+// Reads the tags of a page one by one, without comments, declarations and the content of scripts and styles.
+class TagReader
+{
+public:
+    explicit TagReader(const QString &html)
+        : m_html(html)
+    {
+    }
+
+    bool next(Tag *tag)
+    {
+        while ((m_at = m_html.indexOf(u'<', m_at)) >= 0) {
+            if (m_html.midRef(m_at, 4) == QLatin1String("<!--")) {
+                const int end = m_html.indexOf(QLatin1String("-->"), m_at + 2);
+                m_at = end < 0 ? m_html.size() : end + 3;
+            } else if (read(tag)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+private:
+    bool read(Tag *tag)
+    {
+        tag->end = m_at + 1 < m_html.size() && m_html[m_at + 1] == u'/';
+        const int begin = m_at + (tag->end ? 2 : 1);
+        int after = begin;
+        while (after < m_html.size()
+               && (m_html[after].isLetterOrNumber() || m_html[after] == u':')) {
+            ++after;
+        }
+        m_at = after;
+        if (after == begin || !m_html[begin].isLetter()) {
+            return false;
+        }
+        m_at = endOf(after);
+        tag->name = m_html.mid(begin, after - begin).toLower();
+        tag->attributes = QStringView(m_html).mid(after, m_at - after);
+        tag->whole = tag->attributes.endsWith(u'/') || contains(voidElements, tag->name);
+        if (!tag->end
+            && (tag->name == QLatin1String("script") || tag->name == QLatin1String("style"))) {
+            const int end =
+                m_html.indexOf(QLatin1String("</") + tag->name, m_at, Qt::CaseInsensitive);
+            m_at = end < 0 ? m_html.size() : end;
+        }
+        return true;
+    }
+
+    // Where the tag's ">" is; one in quotes does not count.
+    int endOf(int at) const
+    {
+        QChar quote;
+        for (; at < m_html.size(); ++at) {
+            const QChar c = m_html[at];
+            if (quote.isNull() ? c == u'>' : c == quote) {
+                if (quote.isNull()) {
+                    return at;
+                }
+                quote = QChar();
+            } else if (quote.isNull() && (c == u'"' || c == u'\'') && m_html[at - 1] == u'=') {
+                quote = c;
+            }
+        }
+        return at;
+    }
+
+    const QString &m_html;
+    int m_at = 0;
+};
+
+QString plainText(QString value)
+{
+    QTextDocument plain;
+    plain.setHtml(value.replace(u'<', QLatin1String("&lt;")));
+    return plain.toPlainText().simplified();
+}
+
+// The value of the first of the names that the tag has.
+QString attribute(const Tag &tag, const QString &name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("([^\\s=\"'/]+)\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s\"'>]+))"));
+    for (auto it = pattern.globalMatch(tag.attributes.toString()); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        if (match.captured(1).compare(name, Qt::CaseInsensitive) == 0) {
+            return plainText(match.captured(match.lastCapturedIndex()));
+        }
+    }
+    return QString();
+}
+
+void readMeta(const Tag &tag, HtmlHead *head, QString *creator)
+{
+    const QString content = attribute(tag, QStringLiteral("content"));
+    QString name = attribute(tag, QStringLiteral("name")).toLower();
+    for (const char *prefix : {"dc.", "dcterms."}) {
+        if (name.startsWith(QLatin1String(prefix))) {
+            name.remove(0, int(qstrlen(prefix)));
+        }
+    }
+    if (content.isEmpty()) {
+        return;
+    }
+    if (name == QLatin1String("author") && !head->authors.contains(content)) {
+        head->authors.append(content);
+    } else if (name == QLatin1String("creator") && creator->isEmpty()) {
+        *creator = content;
+    } else if (name == QLatin1String("description") && head->description.isEmpty()) {
+        head->description = content;
+    } else if (name == QLatin1String("language") && head->language.isEmpty()) {
+        head->language = languageTag(content);
+    }
+}
+
+// Removes an element and what it holds, if it is open; barriers end the search.
+void closeElement(QVector<QString> *open, const QString &group, bool stopAtBarrier)
+{
+    for (int i = open->size() - 1; i >= 0; --i) {
+        const QString &name = open->at(i);
+        if (name == group || (stopAtBarrier && groupOf(name) == group)) {
+            open->resize(i);
+            return;
+        }
+        if (stopAtBarrier && contains(barriers, name)) {
+            return;
+        }
+    }
+}
+
+} // namespace
+
+HtmlHead readHtmlHead(const QString &html)
+{
+    HtmlHead head;
+    QString creator;
+    TagReader reader(html);
+    for (Tag tag; reader.next(&tag) && tag.name != QLatin1String("body");) {
+        if (tag.name == QLatin1String("html") && !tag.end) {
+            for (const char *name : {"lang", "xml:lang"}) {
+                if (head.language.isEmpty()) {
+                    head.language = languageTag(attribute(tag, QLatin1String(name)));
+                }
+            }
+        } else if (tag.name == QLatin1String("meta")) {
+            readMeta(tag, &head, &creator);
+        } else if (tag.name == QLatin1String("head") && tag.end) {
+            break;
+        }
+    }
+    if (head.authors.isEmpty() && !creator.isEmpty()) {
+        head.authors.append(creator);
+    }
+    return head;
+}
+
+bool looksLikeHtml(const QString &start)
+{
+    static const QRegularExpression prologue(
+        QStringLiteral("^(?:\\x{FEFF}|\\s+|<\\?xml\\b[^>]*>|<!--.*?-->)*+"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const QString text = start.mid(prologue.match(start).capturedLength());
+    // Not every text with a tag somewhere in it.
+    return text.startsWith(u'<')
+        && (text.startsWith(QLatin1String("<!doctype html"), Qt::CaseInsensitive)
+            || Qt::mightBeRichText(text));
+}
+
+QByteArray xmlEncoding(const QByteArray &bytes)
+{
+    static const QRegularExpression declaration(
+        QStringLiteral("^\\s*<\\?xml\\b[^>]*?\\bencoding\\s*=\\s*[\"']([A-Za-z][\\w.-]*)[\"']"));
+    constexpr int LongestDeclaration = 1000;
+    return declaration.match(QString::fromLatin1(bytes.left(LongestDeclaration)))
+        .captured(1)
+        .toLatin1();
+}
+
+bool isHtmlNestedDeeper(const QString &html, int levels)
+{
+    QVector<QString> open;
+    TagReader reader(html);
+    for (Tag tag; reader.next(&tag);) {
+        const QString group = groupOf(tag.name);
+        if (tag.end) {
+            closeElement(&open, tag.name, false);
+        } else if (!group.isEmpty()) {
+            closeElement(&open, group, true);
+        }
+        if (!tag.end && !tag.whole) {
+            open.append(tag.name);
+        }
+        if (open.size() > levels) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QString languageTag(const QString &text)
+{
+    static const QRegularExpression tag(
+        QStringLiteral("^(?:[A-Za-z]{2,8}|[iIxX](?=-))(?:-[A-Za-z0-9]{1,8})*$"));
+    const QString normal = QString(text).replace(u'_', u'-');
+    return tag.match(normal).hasMatch() ? normal : QString();
+}
