@@ -136,6 +136,9 @@ private Q_SLOTS:
         const QByteArray raw = QByteArray::fromHex(bytes.toLatin1());
         const bool good = error.isEmpty();
         QString message;
+        if (file.startsWith('@'))
+            QVERIFY(QFile(path(file)).open(QIODevice::WriteOnly)
+                    && QFile::resize(path(file), file.mid(1).toLongLong()));
         if (way != "read") {
             QVERIFY(file != "t" || writeBytes(path(file), "old"));
             QCOMPARE(MRVCoreUtil::WriteUnicodeTextFile(text, path(file), &message, hint), good);
@@ -144,7 +147,10 @@ private Q_SLOTS:
         if (way != "write") {
             QVERIFY(file != "t" || writeBytes(path(file), raw));
             text = good ? text : "";
-            QCOMPARE(MRVCoreUtil::ReadUnicodeTextFile(path(file), &message, hint), text);
+            if (codec == "binary")
+                QCOMPARE(MRVCoreUtil::ReadBinaryFile(path(file), &message), QByteArray());
+            else
+                QCOMPARE(MRVCoreUtil::ReadUnicodeTextFile(path(file), &message, hint), text);
         }
         QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
         QVERIFY(good || message.contains(path(file)));

@@ -13,6 +13,12 @@
 
 namespace {
 
+// Qt 5 counts bytes in an int, its own few included.
+constexpr qint64 MaxFileBytes = 0x7fff0000;
+// No codec makes more than three characters of a byte, and QString holds less than 2^30 of them.
+constexpr qint64 MaxTextBytes = qint64(1) << 28;
+constexpr qint64 PieceBytes = qint64(1) << 20;
+
 // IANA's numbers of the encodings that hold every character, each UTF family in its three orders.
 constexpr int Utf8Mib = 106;
 constexpr int Utf16Mibs[] = {1013, 1014, 1015};
@@ -60,6 +66,32 @@ bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
     return true;
 }
 
+// Counted while reading too: a pipe has no size, and a file may grow.
+QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
+{
+    const auto fail = [&](const QString &reason) {
+        mrvSetErrorLine(error, MRVCoreUtil::tr("Cannot read the file \"%1\": %2"), path, reason);
+        return QByteArray();
+    };
+    if (path.isEmpty())
+        return fail(MRVCoreUtil::tr("the file has no name"));
+    // Opening a folder succeeds, and reading it then yields nothing.
+    if (QFileInfo(path).isDir())
+        return fail(MRVCoreUtil::tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    if (file.size() > limit)
+        return fail(MRVCoreUtil::tr("it is too large"));
+    QByteArray bytes;
+    bytes.reserve(int(file.size()));
+    for (QByteArray piece; !(piece = file.read(PieceBytes)).isEmpty(); bytes += piece) {
+        if (bytes.size() + piece.size() > limit)
+            return fail(MRVCoreUtil::tr("it is too large"));
+    }
+    return file.error() == QFileDevice::NoError ? bytes : fail(file.errorString());
+}
+
 // Not QFileInfo::exists() alone, which follows a link and so calls a dangling one free.
 bool isTaken(const QString &path)
 {
@@ -78,7 +110,7 @@ QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, co
         return QString();
     }
     QString readError;
-    const QByteArray bytes = ReadBinaryFile(path, &readError);
+    const QByteArray bytes = readUpTo(MaxTextBytes, path, &readError);
     if (!readError.isEmpty()) {
         if (error)
             *error = readError;
@@ -117,22 +149,7 @@ bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path,
 
 QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
 {
-    const auto fail = [&](const QString &reason) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
-        return QByteArray();
-    };
-    if (path.isEmpty())
-        return fail(tr("the file has no name"));
-    // Opening a folder succeeds, and reading it then yields nothing.
-    if (QFileInfo(path).isDir())
-        return fail(tr("it is a folder"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(file.errorString());
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString());
-    return bytes;
+    return readUpTo(MaxFileBytes, path, error);
 }
 
 bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)

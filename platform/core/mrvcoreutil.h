@@ -30,7 +30,7 @@ public:
      * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow make the
      * call fail, since reading and saving them would change the file.
      *
-     * @param path  a file or a Qt resource (":/...").
+     * @param path  a file or a Qt resource (":/..."), of 256 MiB at most.
      * @param codec a name that QTextCodec knows, used where the file has no byte-order mark; null
      *              means UTF-8.
      * @return empty on failure.
@@ -51,7 +51,7 @@ public:
     static bool WriteUnicodeTextFile(const QString &text, const QString &path,
                                      QString *error = nullptr, const char *codec = "UTF-8");
 
-    /** The bytes of a whole file or Qt resource; empty on failure. */
+    /** The bytes of a whole file or Qt resource of less than 2 GiB; empty on failure. */
     static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
 
     /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */
