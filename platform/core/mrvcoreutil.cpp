@@ -50,6 +50,20 @@ QString withoutHalfPairs(QString text)
     return text;
 }
 
+// Tells text from rubbish for codecs that report no error: they put U+FFFD for what they do not
+// know, and keep back the beginning of a character that lacks its end. That the text gives the same
+// bytes again is proof enough, but cannot be asked for: Shift_JIS has two codes for some characters,
+// and some codecs open every text with an escape.
+bool isLossless(const QByteArray &bytes, const QTextCodec &codec, const QString &text)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    if (codec.fromUnicode(text.constData(), text.size(), &state) == bytes)
+        return true;
+    const QChar unknown(QChar::ReplacementCharacter);
+    const QString longer = codec.toUnicode(bytes + '\n');
+    return !longer.contains(unknown) && longer.size() == text.size() + 1;
+}
+
 bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
 {
     const int mib = codec.mibEnum();
@@ -101,14 +115,34 @@ bool isTaken(const QString &path)
 
 } // namespace
 
+bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString *text,
+                             QString *reason)
+{
+    const auto fail = [&](const QString &why) {
+        if (reason)
+            *reason = why;
+        return false;
+    };
+    QTextCodec *decoder = codecForName(codec);
+    if (!decoder)
+        return fail(tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
+    if (bytes.size() > MaxTextBytes)
+        return fail(tr("it is too large"));
+    decoder = QTextCodec::codecForUtfText(bytes, decoder);
+    const int mib = decoder->mibEnum();
+    const bool reportsErrors = mib == Utf8Mib || isOneOf(mib, Utf16Mibs) || isOneOf(mib, Utf32Mibs);
+    QTextCodec::ConverterState state;
+    const QString decoded = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0
+        || (!reportsErrors && !isLossless(bytes, *decoder, decoded))) {
+        return fail(tr("it is not valid %1 text").arg(QString::fromLatin1(decoder->name())));
+    }
+    *text = decoded;
+    return true;
+}
+
 QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, const char *codec)
 {
-    QTextCodec *decoder = codecForName(codec);
-    if (!decoder) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": unknown text encoding \"%2\""),
-                        path, QString::fromLatin1(codec));
-        return QString();
-    }
     QString readError;
     const QByteArray bytes = readUpTo(MaxTextBytes, path, &readError);
     if (!readError.isEmpty()) {
@@ -116,14 +150,10 @@ QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, co
             *error = readError;
         return QString();
     }
-    decoder = QTextCodec::codecForUtfText(bytes, decoder);
-    QTextCodec::ConverterState state;
-    const QString text = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": it is not valid %2 text"), path,
-                        QString::fromLatin1(decoder->name()));
-        return QString();
-    }
+    QString text;
+    QString reason;
+    if (!decodeText(bytes, codec, &text, &reason))
+        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
     return text;
 }
 

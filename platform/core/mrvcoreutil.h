@@ -24,16 +24,25 @@ public:
     MRVCoreUtil() = delete;
 
     /**
-     * The text of a whole file.
+     * The text that @p bytes are in an encoding.
      *
      * A byte-order mark is removed, and names the encoding (UTF-8, UTF-16 or UTF-32) whatever
-     * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow make the
-     * call fail, since reading and saving them would change the file.
+     * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow, and a
+     * last character that is cut off, make the call fail, since the text could not be saved as it
+     * was. Two codes of one character (Shift_JIS has such) are no failure.
      *
-     * @param path  a file or a Qt resource (":/..."), of 256 MiB at most.
-     * @param codec a name that QTextCodec knows, used where the file has no byte-order mark; null
-     *              means UTF-8.
-     * @return empty on failure.
+     * @param bytes  256 MiB at most.
+     * @param codec  a name that QTextCodec knows, used where there is no byte-order mark; null means
+     *               UTF-8.
+     * @param text   receives the text; untouched on failure.
+     * @param reason if given, receives a translated reason on failure, such as "it is not valid
+     *               UTF-8 text"; untouched on success.
+     */
+    static bool decodeText(const QByteArray &bytes, const char *codec, QString *text,
+                           QString *reason = nullptr);
+
+    /**
+     * The text of a whole file or Qt resource (":/..."), as decodeText() reads it; empty on failure.
      */
     static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
                                        const char *codec = "UTF-8");
