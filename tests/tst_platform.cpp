@@ -12,13 +12,19 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-using Entry = QPair<int, QByteArray>;
+using Entry = QPair<QString, QByteArray>;
 using Numbers = QMap<int, QString>;
 
-// Everything below a folder: permissions with contents, or where a link leads.
+QString rights(int permissions, uint owner, uint group)
+{
+    return QString("%1 %2:%3").arg(permissions, 0, 16).arg(owner).arg(group);
+}
+
+// Everything below a folder: permissions and owners with contents, or where a link leads.
 QMap<QString, Entry> entriesOf(const QString &folder)
 {
     QMap<QString, Entry> entries;
@@ -28,8 +34,8 @@ QMap<QString, Entry> entriesOf(const QString &folder)
         const QFileInfo info(it.next());
         const QByteArray contents = info.isFile() ? bytesOf(info.filePath()) : QByteArray();
         entries[info.filePath().mid(folder.size() + 1)] = info.isSymLink()
-            ? Entry(-1, info.symLinkTarget().toUtf8())
-            : Entry(info.permissions(), contents);
+            ? Entry("link", info.symLinkTarget().toUtf8())
+            : Entry(rights(info.permissions(), info.ownerId(), info.groupId()), contents);
     }
     return entries;
 }
@@ -92,14 +98,28 @@ private Q_SLOTS:
         // "way/.." is the folder "deep", not the one that holds "way".
         QVERIFY(QDir(m_dir->path()).mkpath("deep/folder") && QDir(m_dir->path()).mkdir("real"));
         QVERIFY(writeBytes(path("real/novel"), "a million words"));
-        QCOMPARE(::chmod(qPrintable(path("real/novel")), 0604), 0);
+        // Only the administrator can give files away, and plant another user's link.
+        const bool isRoot = ::geteuid() == 0;
+        const QString full(255, 'n');
+        QVERIFY(writeBytes(path(full), "a short story"));
+        for (const QString &file : {QString("real/novel"), full}) {
+            QCOMPARE(::chown(qPrintable(path(file)), isRoot ? 1234 : -1, isRoot ? 5678 : -1), 0);
+            QCOMPARE(::chmod(qPrintable(path(file)), 0604), 0);
+        }
+        QVERIFY(QDir(m_dir->path()).mkdir("shared"));
+        QCOMPARE(::chmod(qPrintable(path("shared")), 01777), 0);
         QCOMPARE(::mkfifo(qPrintable(path("pipe")), 0600), 0);
         for (const QStringList &link : rowsOf("links.tsv"))
             QVERIFY(QFile::link(link.at(1), path(link.at(0))));
+        if (target == "shared/planted" && ::lchown(qPrintable(path(target)), 1234, 5678) != 0)
+            QSKIP("only the administrator can plant another user's link");
+        target.replace("(full)", full).replace("(null character)", QChar(QChar::Null));
+        lands.replace("(full)", full);
         const QByteArray bytes = QByteArray("a\0\r\n\xff", 5).repeated(size.toInt() / 5);
         QMap<QString, Entry> expected = entriesOf(m_dir->path());
+        const QString fresh = rights(0x6640, ::geteuid(), ::getegid());
         if (error.isEmpty())
-            expected[lands] = {expected.value(lands, {0x6640, {}}).first, bytes};
+            expected[lands] = {expected.value(lands, {fresh, {}}).first, bytes};
 
         rlimit old;
         ::getrlimit(RLIMIT_FSIZE, &old);
@@ -113,7 +133,8 @@ private Q_SLOTS:
         QCOMPARE(written, error.isEmpty());
         QCOMPARE(entriesOf(m_dir->path()), expected);
         QVERIFY2(message.endsWith(error) && message.isEmpty() == written, qPrintable(message));
-        QVERIFY(written || message.contains(path(target).replace('\n', ' ')));
+        const QString shown = path(target).replace('\n', ' ').replace(QChar::Null, ' ');
+        QVERIFY(written || message.contains(shown));
         QVERIFY(written ? MRVCoreUtil::ReadBinaryFile(path(target)) == bytes
                         : !message.contains('\n'));
     }

@@ -19,6 +19,11 @@ constexpr qint64 MaxFileBytes = 0x7fff0000;
 constexpr qint64 MaxTextBytes = qint64(1) << 28;
 constexpr qint64 PieceBytes = qint64(1) << 20;
 
+// The longest name of a file that Linux's file systems take.
+constexpr int MaxNameBytes = 255;
+// What is longer is no suffix but a name with a full stop in it.
+constexpr int MaxSuffixBytes = 100;
+
 // IANA's numbers of the encodings that hold every character, each UTF family in its three orders.
 constexpr int Utf8Mib = 106;
 constexpr int Utf16Mibs[] = {1013, 1014, 1015};
@@ -89,6 +94,8 @@ QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
     };
     if (path.isEmpty())
         return fail(MRVCoreUtil::tr("the file has no name"));
+    if (path.contains(QChar(QChar::Null)))
+        return fail(MRVCoreUtil::tr("its name holds a null character"));
     // Opening a folder succeeds, and reading it then yields nothing.
     if (QFileInfo(path).isDir())
         return fail(MRVCoreUtil::tr("it is a folder"));
@@ -111,6 +118,18 @@ bool isTaken(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
+}
+
+// The stem, less of its end as the name needs to fit, and what follows it.
+QString shortened(QString stem, const QString &ending)
+{
+    int excess = QFile::encodeName(stem + ending).size() - MaxNameBytes;
+    while (excess > 0 && stem.size() > 1) {
+        const int length = stem.at(stem.size() - 1).isLowSurrogate() ? 2 : 1;
+        excess -= QFile::encodeName(stem.right(length)).size();
+        stem.chop(length);
+    }
+    return stem + ending;
 }
 
 } // namespace
@@ -198,12 +217,15 @@ QString MRVCoreUtil::GetUniqueFileName(const QString &path)
     const int nameStart = stem.lastIndexOf(QLatin1Char('/')) + 1;
     const int dot = stem.lastIndexOf(QLatin1Char('.'));
     QString suffix;
-    if (dot > nameStart && !QFileInfo(path).isDir()) {
+    if (dot > nameStart && !QFileInfo(path).isDir()
+        && QFile::encodeName(stem.mid(dot)).size() <= MaxSuffixBytes) {
         suffix = stem.mid(dot);
         stem.truncate(dot);
     }
+    const QString folder = stem.left(nameStart);
+    stem.remove(0, nameStart);
     const auto numbered = [&](int number) {
-        return stem + QLatin1Char('-') + QString::number(number) + suffix;
+        return folder + shortened(stem, QLatin1Char('-') + QString::number(number) + suffix);
     };
 
     // Doubling and halving: a thousand pictures of one name must not cost half a million look-ups.

@@ -70,7 +70,8 @@ public:
     /**
      * @p path itself where nothing bears that name, else the path with a hyphen and a number from 1
      * up put before the suffix: "cover.png", "cover-1.png", "cover-2.png". The suffix is what
-     * follows the last dot; a name that only begins with a dot, and a folder, have none.
+     * follows the last dot, up to 100 bytes; a name that only begins with a dot, and a folder, have
+     * none. Where the name would exceed 255 bytes, the end of what stands before the number goes.
      *
      * A symbolic link that leads nowhere counts as a file. The number is the first free one as long
      * as the numbers in use have no gaps; the search takes steps in the logarithm of their count. An
