@@ -13,8 +13,8 @@
 
 namespace {
 
-// Qt 5 counts bytes in an int, its own few included.
-constexpr qint64 MaxFileBytes = 0x7fff0000;
+// Qt 5 counts bytes in an int, and its arrays double as they grow.
+constexpr qint64 MaxFileBytes = qint64(1) << 30;
 // No codec makes more than three characters of a byte, and QString holds less than 2^30 of them.
 constexpr qint64 MaxTextBytes = qint64(1) << 28;
 constexpr qint64 PieceBytes = qint64(1) << 20;

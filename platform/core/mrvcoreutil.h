@@ -60,7 +60,7 @@ public:
     static bool WriteUnicodeTextFile(const QString &text, const QString &path,
                                      QString *error = nullptr, const char *codec = "UTF-8");
 
-    /** The bytes of a whole file or Qt resource of less than 2 GiB; empty on failure. */
+    /** The bytes of a whole file or Qt resource of 1 GiB at most; empty on failure. */
     static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
 
     /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */
