@@ -74,6 +74,12 @@ bool refusesCorrupt(const T &value)
         const QByteArray corrupt = QByteArray::fromHex(count) + bytes.mid(4);
         isRefused = isRefused && MCoreType::fromByteArray<T>(corrupt).isEmpty();
     }
+    // A count within must be no order to take memory either.
+    for (int i = 4; i + 4 <= bytes.size(); ++i) {
+        QByteArray corrupt = bytes;
+        const T read = MCoreType::fromByteArray<T>(corrupt.replace(i, 4, "\x7f\xff\xff\xf0"));
+        isRefused = isRefused && read.size() <= value.size();
+    }
     return isRefused;
 }
 
@@ -256,6 +262,20 @@ private Q_SLOTS:
         QVERIFY(refusesCorrupt(Numbers{{1, "one"}, {2, "two"}}));
         QVERIFY(refusesCorrupt(QStringList{"one", "two"}));
         QVERIFY(refusesCorrupt(QList<qint64>{1, 2}));
+        QVERIFY(refusesCorrupt(QVector<int>{1, 2}));
+        QVERIFY(refusesCorrupt(QSet<QString>{"one", "two"}));
+        QVERIFY(refusesCorrupt(QList<QStringList>{{"one"}, {"two", "three"}}));
+        QVERIFY(refusesCorrupt(QMap<QString, QStringList>{{"one", {"two"}}, {"three", {}}}));
+        QVERIFY(refusesCorrupt(QVector<QPair<int, QVector<int>>>{{1, {2}}, {3, {4}}}));
+        // In order at every depth, whatever order a hash has.
+        QCOMPARE(MCoreType::toByteArray(QList<QMap<int, bool>>{{{2, true}, {1, false}}}).toHex(),
+                 QByteArray("0000000100000002"
+                            "0000000100"
+                            "0000000201"));
+        QCOMPARE(MCoreType::toByteArray(QMap<int, QSet<qint8>>{{1, {5, 3, 1, 4, 2}}}).toHex(),
+                 QByteArray("0000000100000001"
+                            "00000005"
+                            "0102030405"));
     }
 
     void guiLanguages()
