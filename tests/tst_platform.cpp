@@ -8,6 +8,7 @@
 #include "support.h"
 
 #include <csignal>
+#include <ctime>
 #include <functional>
 
 #include <sys/resource.h>
@@ -43,7 +44,8 @@ QMap<QString, Entry> entriesOf(const QString &folder)
 QString found(const QString &pattern, const QString &text)
 {
     QStringList addresses;
-    for (auto it = QRegularExpression(pattern).globalMatch(text); it.hasNext();)
+    const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
+    for (auto it = expression.globalMatch(text); it.hasNext();)
         addresses << it.next().captured();
     QRegExp old(pattern);
     QStringList others;
@@ -238,12 +240,12 @@ private Q_SLOTS:
         QFETCH(QString, start);
         QFETCH(QString, part);
         const QString text = start + part.repeated(200000 / part.size());
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t begin = std::clock();
         for (const QString &pattern :
              {MRVCoreUtil::wwwPattern(), MRVCoreUtil::emailPattern(), MRVCoreUtil::webUrlPattern()})
-            found(pattern, text);
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+            QVERIFY(found(pattern, text) != "engines differ");
+        const double seconds = double(std::clock() - begin) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
     }
 
     void bytesOfValues()

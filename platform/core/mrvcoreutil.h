@@ -90,9 +90,10 @@ public:
      * A pattern for a web address without a scheme: "www.", at least one more label and a top-level
      * domain, then a port, path, query and fragment.
      *
-     * The three patterns serve QRegExp and QRegularExpression alike, match in any case whatever the
-     * case sensitivity set, have neither anchors nor capturing groups, and take time linear in the
-     * text. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
+     * The three patterns find the same with QRegExp and with QRegularExpression, which needs
+     * UseUnicodePropertiesOption to see that a letter beyond ASCII begins a word. They match in any
+     * case whatever the case sensitivity set, have neither anchors nor capturing groups, and take time
+     * linear in the text. A host's name has 50 labels at most; all but the last two may hold underscores. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
      * not part of the match, while a path may hold bracketed parts.
      */
     static QString wwwPattern();
