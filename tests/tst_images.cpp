@@ -3,6 +3,7 @@
 
 #include <QImageReader>
 #include <QPixmap>
+#include <QtEndian>
 
 namespace {
 
@@ -21,6 +22,23 @@ QByteArray bitmapClaiming(const QByteArray &size)
 {
     return QByteArray::fromHex("424d3a0000000000000036000000 28000000" + size + size + "01001800")
         + QByteArray(28, 0);
+}
+
+// An icon file of 16 x 16 pixels, as its directory says, around a picture that may say otherwise.
+QByteArray iconHolding(const QByteArray &picture)
+{
+    QByteArray length(4, 0);
+    qToLittleEndian(picture.size(), length.data());
+    return QByteArray::fromHex("000001000100 1010000001002000") + length
+        + QByteArray::fromHex("16000000") + picture;
+}
+
+// The most memory that this process has asked for, in KiB.
+long peakMemory()
+{
+    QFile status("/proc/self/status");
+    const QString text = status.open(QIODevice::ReadOnly) ? status.readAll() : QByteArray();
+    return text.section("VmPeak:", 1).section("kB", 0, 0).toLong();
 }
 
 } // namespace
@@ -52,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(id(QImage()), QString());
         // Stored in documents, so it must never change.
         QCOMPARE(MRVGuiUtil::resourceId(card),
-                 QString("img-63f2ad481e1193a7246c9fa177494039f6b3b260"));
+                 QString("img-5e832c51a32ed08e819a1fd432ca2bf9db5b49b2"));
 
         QImage pixel = card;
         pixel.setPixelColor(7, 2, QColor(1, 2, 3));
@@ -60,10 +78,12 @@ private Q_SLOTS:
         alpha.setPixelColor(0, 0, QColor(0, 0, 255, 254));
         const QImage flat(card.constBits(), 32, 1, QImage::Format_ARGB32);
         QImage deep = card.convertToFormat(QImage::Format_RGBA64);
-        deep.setPixelColor(0, 0, QColor::fromRgba64(1, 0, 0xffff));
+        deep.setPixelColor(1, 1, QColor::fromRgba64(0x1234, 0x5678, 0x9abc, 0x7fff));
         QSet<QString> ids;
-        for (const QImage &image : {card, card.mirrored(), pixel, alpha, flat, deep})
+        for (const QImage &image : {card, card.mirrored(), pixel, alpha, flat, deep}) {
             ids << id(image);
+            QCOMPARE(id(QPixmap::fromImage(image).toImage()), id(image));
+        }
         QCOMPARE(ids.size(), 6);
     }
 
@@ -96,6 +116,17 @@ private Q_SLOTS:
         row("header-only", png.left(8), {}, {0, 0});
         row("claims-gigapixels", bitmapClaiming("a0860100"), {}, {0, 0});
         row("claims-100-megapixels", bitmapClaiming("10270000"), {}, {0, 0});
+        QByteArray huge = png;
+        huge.replace(16, 17, QByteArray::fromHex("00004e2000004e20 0806000000 e3704639"));
+        row("icon", iconHolding(png), {}, {8, 4});
+        row("icon-holds-400-megapixel-png", iconHolding(huge), {}, {0, 0});
+        row("icon-holds-400-megapixel-bitmap",
+            iconHolding(bitmapClaiming("204e0000").mid(14) + QByteArray(40, 0)), {}, {0, 0});
+        const QByteArray text = "/* x */\n#define x_width N\n#define x_height N\n"
+                                "static char x_bits[] = {\n0x01};\n";
+        row("bitmap-text", QByteArray(text).replace('N', "8"), {}, {8, 8});
+        row("bitmap-text-claims-900-megapixels", QByteArray(text).replace('N', "30000"), {},
+            {0, 0});
     }
 
     void decodesImages()
@@ -104,8 +135,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, format);
         QFETCH(QSize, size);
         const char *hint = format.isNull() ? nullptr : format.constData();
+        const long before = peakMemory();
+        QVERIFY(before > 0);
         const QImage image = MRVGuiUtil::toImage(data, hint);
         QCOMPARE(image.size(), size);
+        QVERIFY(!size.isEmpty() || peakMemory() - before < 64 * 1024);
         if (data.type() == QVariant::ByteArray)
             QCOMPARE(MRVGuiUtil::toImage(data.toByteArray(), hint), image);
         if (size == QSize(8, 4))
@@ -131,11 +165,14 @@ private Q_SLOTS:
         QCOMPARE(bytes.isEmpty(), detected.isEmpty());
         QCOMPARE(MRVGuiUtil::toByteArray(glass, hint, 100), bytes);
         QVERIFY(MRVGuiUtil::toByteArray(QImage(), hint).isEmpty());
+        const QByteArray wide = MRVGuiUtil::toByteArray(glass.scaled(257, 16), hint);
+        QVERIFY(wide.isEmpty() || MRVGuiUtil::toImage(wide).width() == 257);
         if (detected.isEmpty())
             return;
         // What has no transparency shows white in its place.
         const QImage read = MRVGuiUtil::toImage(bytes);
-        const QColor background = detected == "png" ? QColor(0, 0, 0, 0) : QColor(Qt::white);
+        const QColor background =
+            detected == "png" || detected == "ico" ? QColor(0, 0, 0, 0) : QColor(Qt::white);
         QCOMPARE(read.size(), glass.size());
         QCOMPARE(read.pixelColor(1, 1), background);
         QCOMPARE(read.pixelColor(14, 14), background);

@@ -108,15 +108,19 @@ QStringList qtModules(const QString &header)
     return modules;
 }
 
-/// The includes of a source text. Those inside block comments do not count.
+/// The includes of a source text. Those inside comments do not count; what looks like a comment
+/// inside a string is none.
 QVector<Include> includesOf(QString text)
 {
-    static const QRegularExpression comment("/\\*.*?\\*/",
-                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression token(
+        R"re("(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*'|//[^\n]*|/\*.*?\*/)re",
+        QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression include(
         "^\\s*#\\s*include\\s*(?:([<\"])([^>\"]*)[>\"]|(\\S+))");
-    for (auto it = comment.globalMatch(QString(text)); it.hasNext();) {
+    for (auto it = token.globalMatch(QString(text)); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
+        if (!match.captured().startsWith('/'))
+            continue;
         for (int i = match.capturedStart(); i < match.capturedEnd(); ++i) {
             if (text.at(i) != '\n')
                 text[i] = ' ';
@@ -378,7 +382,7 @@ private Q_SLOTS:
 };
 
 /// A row's sources: "file: include include; file: include". An include of a project file without
-/// brackets is quoted.
+/// brackets is quoted. What begins with a slash or a quotation mark is a line of its own.
 static QMap<QString, QString> invented(const QString &text)
 {
     QMap<QString, QString> sources;
@@ -388,8 +392,12 @@ static QMap<QString, QString> invented(const QString &text)
         const QStringList names = file.section(':', 1).simplified().split(' ', Qt::SkipEmptyParts);
         QString content = "#pragma once\n";
         for (const QString &name : names) {
-            content +=
-                name.startsWith('<') ? "#include " + name + '\n' : "#  include \"" + name + "\"\n";
+            if (name.startsWith('/') || name.startsWith('"')) {
+                content += name + '\n';
+            } else {
+                content += name.startsWith('<') ? "#include " + name + '\n'
+                                                : "#  include \"" + name + "\"\n";
+            }
         }
         sources.insert(path, content);
     }

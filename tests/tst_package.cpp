@@ -57,6 +57,7 @@ private Q_SLOTS:
     void findPackage();
     void pkgConfig();
     void toolRuns();
+    void pathsThatCannotBeBuiltAreRefused();
 
 private:
     static void checkStranger(const QString &program, const QMap<QString, QString> &variables = {});
@@ -155,9 +156,13 @@ void TestPackage::pkgConfig()
     const QString script = QStringLiteral(
         "eval \"set -- $(pkg-config --cflags mrvbase) main.cpp"
         " $(pkg-config --variable=resources mrvbase) $(pkg-config --libs mrvbase)\" && "
-        "exec '%1' -std=c++17 -Wall -Wextra -Werror %2 -o '%3' \"$@\"");
+        "exec \"$COMPILER\" -std=c++17 -Wall -Wextra -Werror $FLAGS -o \"$PROGRAM\" \"$@\"");
     const QString program = m_folder.filePath("by pkg-config");
-    VERIFY_RAN(run("sh", {"-c", script.arg(MRV_CXX, MRV_CXX_FLAGS, program)}, variables, m_source));
+    QMap<QString, QString> settings = variables;
+    settings.insert("COMPILER", MRV_CXX);
+    settings.insert("FLAGS", MRV_CXX_FLAGS);
+    settings.insert("PROGRAM", program);
+    VERIFY_RAN(run("sh", {"-c", script}, settings, m_source));
     checkStranger(program, variables);
 }
 
@@ -167,6 +172,17 @@ void TestPackage::toolRuns()
     const Outcome version = run(m_prefix + "/bin/mrv", {"--version"});
     VERIFY_RAN(version);
     QVERIFY2(version.out.contains(MRV_VERSION), qPrintable(version.all));
+}
+
+void TestPackage::pathsThatCannotBeBuiltAreRefused()
+{
+    const QString tools = m_folder.filePath("writer's checkout/tools");
+    QVERIFY(QDir().mkpath(tools));
+    QVERIFY(QFile::copy(MRV_SOURCE_DIR "/tools/setup.sh", tools + "/setup.sh"));
+    const Outcome build = run("bash", {"-c", ". ./setup.sh; mrv_build release"}, {}, tools);
+    QCOMPARE(build.code, 1);
+    QVERIFY2(build.all.contains("/writer's checkout holds an apostrophe"), qPrintable(build.all));
+    QVERIFY(!QFile::exists(m_folder.filePath("writer's checkout/build")));
 }
 
 QTEST_GUILESS_MAIN(TestPackage)

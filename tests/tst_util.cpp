@@ -50,6 +50,14 @@ QString sorted(const QSet<T> &set)
     return list.join('|');
 }
 
+// A colour whose components may lie outside 0 to 1
+QColor extended(const QString &text)
+{
+    const QStringList parts = text.split(' ');
+    return QColor::fromRgbF(parts.value(0).toDouble(), parts.value(1).toDouble(),
+                            parts.value(2).toDouble());
+}
+
 QString colorName(const QColor &color)
 {
     return color.isValid() ? color.name(QColor::HexArgb) : "invalid";
@@ -90,6 +98,7 @@ private Q_SLOTS:
              [&] { return cleanFileNameRegExp(input.mid(1), input[0]); }},
             {"specialFileNameChars", [&] { return sorted(specialFileNameChars()); }},
             {"colorToFloatString", [&] { return colorToFloatString(QColor(input)); }},
+            {"colorToFloatString beyond", [&] { return colorToFloatString(extended(input)); }},
             {"floatStringToColor", [&] { return colorName(floatStringToColor(input)); }},
             {"textColorForBackground", [&] { return textColorForBackground(input).name(); }},
             {"OpenInTarget", [&] { return toString(OpenInTarget(i)); }},

@@ -61,6 +61,9 @@ mrv_install() {
 mrv_build() {
     local preset="$1" dir="$root/build/$1" home=""
     shift
+    case "$root" in
+        *"'"*) mrv_fail "the path $root holds an apostrophe, which ninja's dependency files cannot; move the checkout" ;;
+    esac
     mkdir -p "$dir"
     # Closed for the children below: one that outlives them would keep the lock.
     exec 9> "$dir/.lock"

@@ -8,15 +8,19 @@ namespace {
 
 double toComponent(const QString &text)
 {
-    const double value = text.toDouble();
-    // Written so that NaN, for which every comparison is false, gives 0.
-    return value > 0.0 ? qMin(value, 1.0) : 0.0;
+    bool ok = false;
+    const double value = text.toDouble(&ok);
+    // Written so that NaN, for which every comparison is false, gives 0. Where a number is too large
+    // for a double, Qt gives infinity, but calls it no number.
+    return ok && value > 0.0 ? qMin(value, 1.0) : 0.0;
 }
 
 } // namespace
 
-QString MRV::colorToFloatString(const QColor &color)
+QString MRV::colorToFloatString(const QColor &any)
 {
+    // An extended colour may hold components beyond 0 to 1.
+    const QColor color = any.toRgb();
     return QStringLiteral("%1 %2 %3")
         .arg(QString::number(color.redF(), 'f', 6), QString::number(color.greenF(), 'f', 6),
              QString::number(color.blueF(), 'f', 6));

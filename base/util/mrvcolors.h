@@ -9,13 +9,14 @@ namespace MRV {
 
 /**
  * Red, green and blue as reals from 0 to 1 with six decimals, separated by blanks, such as
- * "1.000000 0.501961 0.000000". The alpha channel is not kept; an invalid colour reads as black.
+ * "1.000000 0.501961 0.000000". The alpha channel is not kept; an invalid colour reads as black,
+ * and components outside 0 to 1 are clamped.
  */
 MRVBASE_EXPORT QString colorToFloatString(const QColor &color);
 
 /**
  * The opaque colour of three reals separated by white space. What is no number counts as 0, and so
- * does NaN; numbers outside 0 to 1 are clamped.
+ * do NaN and what exceeds a double; numbers outside 0 to 1 are clamped.
  *
  * @return an invalid colour unless the text has exactly three parts.
  */

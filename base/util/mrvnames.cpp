@@ -1,7 +1,5 @@
 #include "util/mrvnames.h"
 
-#include <limits>
-
 namespace {
 
 constexpr char16_t SpecialChars[] = u"*:/\\?<>|=;[],.^%";
@@ -28,16 +26,13 @@ int numberStart(const QString &name)
     return start;
 }
 
-// The value of the digits from start on; -1 where it exceeds an int.
+// The value of the digits from start on; -1 where it exceeds an int or they are not ASCII digits, as
+// QString::toInt() sees it.
 qint64 numberAt(const QString &name, int start)
 {
-    qint64 value = 0;
-    for (int i = start; i < name.size(); ++i) {
-        value = value * 10 + name.at(i).digitValue();
-        if (value > std::numeric_limits<int>::max())
-            return -1;
-    }
-    return value;
+    bool ok = false;
+    const int value = name.midRef(start).toInt(&ok);
+    return ok ? value : -1;
 }
 
 } // namespace

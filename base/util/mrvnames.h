@@ -10,16 +10,17 @@ namespace MRV {
 
 /**
  * @p name without its automatic number, a hyphen and digits at the very end: "Scene-12" gives
- * "Scene", "Scene12" stays. Digits of any script count.
+ * "Scene", "Scene12" stays. Digits of any script go.
  *
- * @param number if given, receives the number; 0 where there is none or it exceeds an int.
+ * @param number if given, receives the number; 0 where there is none, where it exceeds an int, and
+ *               where its digits are not all ASCII digits.
  */
 MRVBASE_EXPORT QString stripAutoNumberEnding(const QString &name, int *number = nullptr);
 
 /**
  * The name that follows @p name in a numbered series: digits at the very end are replaced by their
  * value plus one, written in ASCII digits ("Draft9" gives "Draft10", "Scene 007" gives "Scene 8"), or
- * by "1" where they exceed an int. A name without such digits gets "-1".
+ * by "1" where they exceed an int or are not all ASCII digits. A name without such digits gets "-1".
  */
 MRVBASE_EXPORT QString adjustName(const QString &name);
 

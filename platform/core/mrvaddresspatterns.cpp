@@ -2,8 +2,9 @@
 
 // The patterns use only what QRegExp and QRegularExpression share: no look-behind, no lazy or
 // possessive quantifiers, no \x escapes beyond two digits, case spelled out. What stands in for
-// possessive quantifiers is that two neighbours never begin with the same character, so that no
-// text can be divided between them in two ways.
+// possessive quantifiers is that no text can be divided between neighbouring groups in two ways. No
+// group is repeated without end: beyond some ten thousand rounds QRegularExpression gives up, which
+// looks like an address that is not there.
 
 namespace {
 
@@ -31,25 +32,33 @@ QString hostLabel()
         .arg(foreignLetters());
 }
 
+// Labels in front of those that were registered, each with its full stop. They may hold underscores.
+// No name in use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4), but compiled,
+// a repetition is so many copies, and a caller may join the three patterns and ignore the case, where
+// QRegularExpression takes 64 KiB at most.
+QString subdomains()
+{
+    return QStringLiteral("(?:[A-Za-z0-9_%1-]{1,63}\\.){0,48}").arg(foreignLetters());
+}
+
 // Two labels or more, the last of them letters only (or the ASCII form of an international one).
 QString domainName()
 {
-    return QStringLiteral("(?:%1\\.)+(?:[Xx][Nn]--[A-Za-z0-9-]{2,59}|[A-Za-z%2]{2,63})"
-                          "(?![A-Za-z0-9%2])")
-        .arg(hostLabel(), foreignLetters());
+    return subdomains()
+        + QStringLiteral("%1\\.(?:[Xx][Nn]--[A-Za-z0-9-]{2,59}|[A-Za-z%2]{2,63})"
+                         "(?![A-Za-z0-9%2])")
+              .arg(hostLabel(), foreignLetters());
 }
 
-// A port, then a path, query or fragment. Punctuation belongs to it only when something follows
-// that may stand at the end, a bracketed part included.
+// A port, then a path, query or fragment, with up to 16 bracketed parts. Punctuation belongs to it
+// only when something follows that may stand at the end, a bracketed part included.
 QString portAndPath()
 {
     const QString last = QStringLiteral("[A-Za-z0-9/_~%&=+$@#*%1-]").arg(foreignLetters());
-    const QString inner = QStringLiteral("[.,:;!?']");
-    const QString bracketed =
-        QStringLiteral("\\([A-Za-z0-9/_~%&=+$@#*.,:;!?'%1-]*\\)").arg(foreignLetters());
+    const QString any = QStringLiteral("[A-Za-z0-9/_~%&=+$@#*.,:;!?'%1-]").arg(foreignLetters());
     return QStringLiteral("(?::[0-9]{1,5})?"
-                          "(?:(?:[/#]|\\?(?=%1))%1*(?:(?:%2+(?:%1|%3)|%3)%1*)*)?")
-        .arg(last, inner, bracketed);
+                          "(?:(?:[/#]|\\?(?=%1))(?:%2*\\(%2*\\)){0,16}(?:%2*%1)?)?")
+        .arg(last, any);
 }
 
 } // namespace
@@ -62,14 +71,14 @@ QString MRVCoreUtil::wwwPattern()
 QString MRVCoreUtil::emailPattern()
 {
     // 64 is the longest local part that RFC 5321 (4.5.3.1.1) allows.
-    return QStringLiteral("\\b[A-Za-z0-9_%1][A-Za-z0-9_.+%%1-]{0,63}@").arg(foreignLetters())
+    return QStringLiteral("\\b[A-Za-z0-9_%1][A-Za-z0-9_.+%'%1-]{0,63}@").arg(foreignLetters())
         + domainName();
 }
 
 QString MRVCoreUtil::webUrlPattern()
 {
-    const QString host =
-        QStringLiteral("(?:\\[[0-9A-Fa-f:.]{2,45}\\]|%1(?:\\.%1)*)").arg(hostLabel());
+    const QString host = QStringLiteral("(?:\\[[0-9A-Fa-f:.]{2,45}\\]|(?:%1%2\\.)?%2)")
+                             .arg(subdomains(), hostLabel());
     return QStringLiteral("\\b(?:[Hh][Tt][Tt][Pp][Ss]?|[Ff][Tt][Pp])://"
                           "(?:[A-Za-z0-9._~%!$&*+=:-]+@)?")
         + host + portAndPath();

@@ -13,6 +13,17 @@
 
 namespace {
 
+// Qt 5 counts bytes in an int, and its arrays double as they grow.
+constexpr qint64 MaxFileBytes = qint64(1) << 30;
+// No codec makes more than three characters of a byte, and QString holds less than 2^30 of them.
+constexpr qint64 MaxTextBytes = qint64(1) << 28;
+constexpr qint64 PieceBytes = qint64(1) << 20;
+
+// The longest name of a file that Linux's file systems take.
+constexpr int MaxNameBytes = 255;
+// What is longer is no suffix but a name with a full stop in it.
+constexpr int MaxSuffixBytes = 100;
+
 // IANA's numbers of the encodings that hold every character, each UTF family in its three orders.
 constexpr int Utf8Mib = 106;
 constexpr int Utf16Mibs[] = {1013, 1014, 1015};
@@ -44,6 +55,20 @@ QString withoutHalfPairs(QString text)
     return text;
 }
 
+// Tells text from rubbish for codecs that report no error: they put U+FFFD for what they do not
+// know, and keep back the beginning of a character that lacks its end. That the text gives the same
+// bytes again is proof enough, but cannot be asked for: Shift_JIS has two codes for some characters,
+// and some codecs open every text with an escape.
+bool isLossless(const QByteArray &bytes, const QTextCodec &codec, const QString &text)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    if (codec.fromUnicode(text.constData(), text.size(), &state) == bytes)
+        return true;
+    const QChar unknown(QChar::ReplacementCharacter);
+    const QString longer = codec.toUnicode(bytes + '\n');
+    return !longer.contains(unknown) && longer.size() == text.size() + 1;
+}
+
 bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
 {
     const int mib = codec.mibEnum();
@@ -60,6 +85,34 @@ bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
     return true;
 }
 
+// Counted while reading too: a pipe has no size, and a file may grow.
+QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
+{
+    const auto fail = [&](const QString &reason) {
+        mrvSetErrorLine(error, MRVCoreUtil::tr("Cannot read the file \"%1\": %2"), path, reason);
+        return QByteArray();
+    };
+    if (path.isEmpty())
+        return fail(MRVCoreUtil::tr("the file has no name"));
+    if (path.contains(QChar(QChar::Null)))
+        return fail(MRVCoreUtil::tr("its name holds a null character"));
+    // Opening a folder succeeds, and reading it then yields nothing.
+    if (QFileInfo(path).isDir())
+        return fail(MRVCoreUtil::tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    if (file.size() > limit)
+        return fail(MRVCoreUtil::tr("it is too large"));
+    QByteArray bytes;
+    bytes.reserve(int(file.size()));
+    for (QByteArray piece; !(piece = file.read(PieceBytes)).isEmpty(); bytes += piece) {
+        if (bytes.size() + piece.size() > limit)
+            return fail(MRVCoreUtil::tr("it is too large"));
+    }
+    return file.error() == QFileDevice::NoError ? bytes : fail(file.errorString());
+}
+
 // Not QFileInfo::exists() alone, which follows a link and so calls a dangling one free.
 bool isTaken(const QString &path)
 {
@@ -67,31 +120,59 @@ bool isTaken(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
+// The stem, less of its end as the name needs to fit, and what follows it.
+QString shortened(QString stem, const QString &ending)
+{
+    int excess = QFile::encodeName(stem + ending).size() - MaxNameBytes;
+    while (excess > 0 && stem.size() > 1) {
+        const int length = stem.at(stem.size() - 1).isLowSurrogate() ? 2 : 1;
+        excess -= QFile::encodeName(stem.right(length)).size();
+        stem.chop(length);
+    }
+    return stem + ending;
+}
+
 } // namespace
+
+bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString *text,
+                             QString *reason)
+{
+    const auto fail = [&](const QString &why) {
+        if (reason)
+            *reason = why;
+        return false;
+    };
+    QTextCodec *decoder = codecForName(codec);
+    if (!decoder)
+        return fail(tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
+    if (bytes.size() > MaxTextBytes)
+        return fail(tr("it is too large"));
+    decoder = QTextCodec::codecForUtfText(bytes, decoder);
+    const int mib = decoder->mibEnum();
+    const bool reportsErrors = mib == Utf8Mib || isOneOf(mib, Utf16Mibs) || isOneOf(mib, Utf32Mibs);
+    QTextCodec::ConverterState state;
+    const QString decoded = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0
+        || (!reportsErrors && !isLossless(bytes, *decoder, decoded))) {
+        return fail(tr("it is not valid %1 text").arg(QString::fromLatin1(decoder->name())));
+    }
+    *text = decoded;
+    return true;
+}
 
 QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, const char *codec)
 {
-    QTextCodec *decoder = codecForName(codec);
-    if (!decoder) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": unknown text encoding \"%2\""),
-                        path, QString::fromLatin1(codec));
-        return QString();
-    }
     QString readError;
-    const QByteArray bytes = ReadBinaryFile(path, &readError);
+    const QByteArray bytes = readUpTo(MaxTextBytes, path, &readError);
     if (!readError.isEmpty()) {
         if (error)
             *error = readError;
         return QString();
     }
-    decoder = QTextCodec::codecForUtfText(bytes, decoder);
-    QTextCodec::ConverterState state;
-    const QString text = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": it is not valid %2 text"), path,
-                        QString::fromLatin1(decoder->name()));
-        return QString();
-    }
+    QString text;
+    QString reason;
+    if (!decodeText(bytes, codec, &text, &reason))
+        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
     return text;
 }
 
@@ -117,22 +198,7 @@ bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path,
 
 QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
 {
-    const auto fail = [&](const QString &reason) {
-        mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
-        return QByteArray();
-    };
-    if (path.isEmpty())
-        return fail(tr("the file has no name"));
-    // Opening a folder succeeds, and reading it then yields nothing.
-    if (QFileInfo(path).isDir())
-        return fail(tr("it is a folder"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(file.errorString());
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString());
-    return bytes;
+    return readUpTo(MaxFileBytes, path, error);
 }
 
 bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)
@@ -151,12 +217,15 @@ QString MRVCoreUtil::GetUniqueFileName(const QString &path)
     const int nameStart = stem.lastIndexOf(QLatin1Char('/')) + 1;
     const int dot = stem.lastIndexOf(QLatin1Char('.'));
     QString suffix;
-    if (dot > nameStart && !QFileInfo(path).isDir()) {
+    if (dot > nameStart && !QFileInfo(path).isDir()
+        && QFile::encodeName(stem.mid(dot)).size() <= MaxSuffixBytes) {
         suffix = stem.mid(dot);
         stem.truncate(dot);
     }
+    const QString folder = stem.left(nameStart);
+    stem.remove(0, nameStart);
     const auto numbered = [&](int number) {
-        return stem + QLatin1Char('-') + QString::number(number) + suffix;
+        return folder + shortened(stem, QLatin1Char('-') + QString::number(number) + suffix);
     };
 
     // Doubling and halving: a thousand pictures of one name must not cost half a million look-ups.

@@ -24,16 +24,25 @@ public:
     MRVCoreUtil() = delete;
 
     /**
-     * The text of a whole file.
+     * The text that @p bytes are in an encoding.
      *
      * A byte-order mark is removed, and names the encoding (UTF-8, UTF-16 or UTF-32) whatever
-     * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow make the
-     * call fail, since reading and saving them would change the file.
+     * @p codec says. Line ends are kept as they are. Bytes that the encoding does not allow, and a
+     * last character that is cut off, make the call fail, since the text could not be saved as it
+     * was. Two codes of one character (Shift_JIS has such) are no failure.
      *
-     * @param path  a file or a Qt resource (":/...").
-     * @param codec a name that QTextCodec knows, used where the file has no byte-order mark; null
-     *              means UTF-8.
-     * @return empty on failure.
+     * @param bytes  256 MiB at most.
+     * @param codec  a name that QTextCodec knows, used where there is no byte-order mark; null means
+     *               UTF-8.
+     * @param text   receives the text; untouched on failure.
+     * @param reason if given, receives a translated reason on failure, such as "it is not valid
+     *               UTF-8 text"; untouched on success.
+     */
+    static bool decodeText(const QByteArray &bytes, const char *codec, QString *text,
+                           QString *reason = nullptr);
+
+    /**
+     * The text of a whole file or Qt resource (":/..."), as decodeText() reads it; empty on failure.
      */
     static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
                                        const char *codec = "UTF-8");
@@ -51,7 +60,7 @@ public:
     static bool WriteUnicodeTextFile(const QString &text, const QString &path,
                                      QString *error = nullptr, const char *codec = "UTF-8");
 
-    /** The bytes of a whole file or Qt resource; empty on failure. */
+    /** The bytes of a whole file or Qt resource of 1 GiB at most; empty on failure. */
     static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
 
     /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */
@@ -61,7 +70,8 @@ public:
     /**
      * @p path itself where nothing bears that name, else the path with a hyphen and a number from 1
      * up put before the suffix: "cover.png", "cover-1.png", "cover-2.png". The suffix is what
-     * follows the last dot; a name that only begins with a dot, and a folder, have none.
+     * follows the last dot, up to 100 bytes; a name that only begins with a dot, and a folder, have
+     * none. Where the name would exceed 255 bytes, the end of what stands before the number goes.
      *
      * A symbolic link that leads nowhere counts as a file. The number is the first free one as long
      * as the numbers in use have no gaps; the search takes steps in the logarithm of their count. An
@@ -80,9 +90,10 @@ public:
      * A pattern for a web address without a scheme: "www.", at least one more label and a top-level
      * domain, then a port, path, query and fragment.
      *
-     * The three patterns serve QRegExp and QRegularExpression alike, match in any case whatever the
-     * case sensitivity set, have neither anchors nor capturing groups, and take time linear in the
-     * text. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
+     * The three patterns find the same with QRegExp and with QRegularExpression, which needs
+     * UseUnicodePropertiesOption to see that a letter beyond ASCII begins a word. They match in any
+     * case whatever the case sensitivity set, have neither anchors nor capturing groups, and take time
+     * linear in the text. A host's name has 50 labels at most; all but the last two may hold underscores. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
      * not part of the match, while a path may hold bracketed parts.
      */
     static QString wwwPattern();

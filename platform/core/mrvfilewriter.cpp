@@ -6,11 +6,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QUuid>
 
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -18,16 +20,37 @@ namespace {
 // As many links as the kernel follows before it reports a circle.
 constexpr int MaxLinks = 40;
 
-QString realTarget(const QString &path)
+// The longest name, in bytes, that leaves room for the ".XXXXXX" of QSaveFile's temporary file.
+constexpr int MaxSavedName = 255 - 7;
+
+// The rule by which Linux, where fs.protected_symlinks is on, keeps users of a shared folder such as
+// /tmp from sending each other's files elsewhere.
+bool isPlanted(const QFileInfo &link)
+{
+    struct stat folder;
+    struct stat self;
+    if (::stat(QFile::encodeName(link.path()).constData(), &folder) != 0
+        || ::lstat(QFile::encodeName(link.filePath()).constData(), &self) != 0)
+        return false;
+    const bool isShared = (folder.st_mode & S_ISVTX) && (folder.st_mode & S_IWOTH);
+    return isShared && self.st_uid != ::geteuid() && self.st_uid != folder.st_uid;
+}
+
+// Follows the links at the end of the path; empty, with a reason, where they must not be followed.
+QString realTarget(const QString &path, QString *reason)
 {
     QFileInfo info(path);
     for (int i = 0; info.isSymLink(); ++i) {
-        if (i == MaxLinks)
+        if (i == MaxLinks) {
+            *reason = MRVFileWriter::tr("its symbolic links lead round in a circle");
             return QString();
-        if (info.exists())
-            return info.canonicalFilePath();
-        // The link leads nowhere yet. Not symLinkTarget(), which takes "folder/.." away even where
-        // the folder is itself a link to somewhere else.
+        }
+        if (isPlanted(info)) {
+            *reason = MRVFileWriter::tr("it is another user's link in a shared folder");
+            return QString();
+        }
+        // Not symLinkTarget(), which takes "folder/.." away even where the folder is itself a link to
+        // somewhere else.
         std::error_code error;
         const auto raw =
             std::filesystem::read_symlink(QFile::encodeName(info.filePath()).constData(), error);
@@ -37,6 +60,18 @@ QString realTarget(const QString &path)
     // Resolved by the system, since QSaveFile too would shorten "folder/..".
     const QString folder = QFileInfo(info.path()).canonicalFilePath();
     return folder.isEmpty() ? info.filePath() : folder + QLatin1Char('/') + info.fileName();
+}
+
+// As far as the system lets us: only the administrator gives files away, and a user may hand them to
+// groups of his own alone.
+void keepOwner(int handle, const QString &path)
+{
+    struct stat old;
+    if (::stat(QFile::encodeName(path).constData(), &old) != 0)
+        return;
+    const bool isKept = ::fchown(handle, old.st_uid, old.st_gid) == 0
+        || ::fchown(handle, uid_t(-1), old.st_gid) == 0;
+    Q_UNUSED(isKept)
 }
 
 // Network and copy-on-write file systems report a full disk only here. Those that cannot sync at
@@ -63,6 +98,18 @@ bool writeAll(QFileDevice &file, const QByteArray &bytes)
     return file.flush();
 }
 
+// QFile::rename() never replaces a file. Leaves errno to the caller.
+bool renameOver(const QString &from, const QString &to)
+{
+    const QByteArray name = QFile::encodeName(from);
+    if (::rename(name.constData(), QFile::encodeName(to).constData()) == 0)
+        return true;
+    const int error = errno;
+    ::unlink(name.constData());
+    errno = error;
+    return false;
+}
+
 } // namespace
 
 bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
@@ -74,32 +121,45 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
 
     if (path.isEmpty())
         return fail(tr("the file has no name"));
-    const QString target = realTarget(path);
+    // The system's calls would take what stands before it for the whole name.
+    if (path.contains(QChar(QChar::Null)))
+        return fail(tr("its name holds a null character"));
+    QString reason;
+    const QString target = realTarget(path, &reason);
     if (target.isEmpty())
-        return fail(tr("its symbolic links lead round in a circle"));
+        return fail(reason);
     const QFileInfo info(target);
-    if (info.isDir() || target.endsWith(QLatin1Char('/')))
+    if (info.isDir())
         return fail(tr("it is a folder"));
     if (info.exists() && !info.isFile())
         return fail(tr("it is not a regular file"));
-    if (!info.dir().exists())
+    if (!info.dir().exists() || target.endsWith(QLatin1Char('/')))
         return fail(tr("its folder does not exist"));
 
-    QSaveFile file(target);
+    // A name too long for QSaveFile is taken in a second step, from one that nobody else uses.
+    const bool isLong = QFile::encodeName(info.fileName()).size() > MaxSavedName;
+    const QString place = isLong
+        ? info.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)
+        : target;
+    if (isLong && info.exists() && !info.isWritable())
+        return fail(qt_error_string(EACCES));
+    QSaveFile file(place);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return fail(file.errorString());
+    keepOwner(file.handle(), target);
+    if (isLong && info.exists())
+        file.setPermissions(info.permissions());
 
     // commit() alone reports success on a full disk, where the last write came back short and the
     // buffer could not be flushed.
-    QString reason;
     if (!writeAll(file, bytes)) {
         reason = file.errorString();
     } else if (!syncToDisk(file.handle())) {
         reason = qt_error_string(errno);
     } else {
-        if (file.commit())
-            return true;
-        return fail(file.errorString());
+        if (!file.commit())
+            return fail(file.errorString());
+        return place == target || renameOver(place, target) || fail(qt_error_string(errno));
     }
     file.cancelWriting();
     file.commit();

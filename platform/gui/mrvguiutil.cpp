@@ -21,9 +21,12 @@ constexpr qint64 PixelsPerByte = 8 * 1032;
 // And no picture is larger than this (1 GiB of memory).
 constexpr qint64 MaxPixels = qint64(1) << 28;
 
+constexpr int MaxIconSide = 256;
+
 bool isPlausible(const QSize &size, qint64 byteCount)
 {
-    const qint64 pixels = qint64(size.width()) * size.height();
+    // A bitmap that is stored upside down has a negative height.
+    const qint64 pixels = qAbs(qint64(size.width()) * size.height());
     return pixels <= AlwaysDecodedPixels
         || (pixels <= MaxPixels && pixels / PixelsPerByte <= byteCount);
 }
@@ -37,6 +40,12 @@ bool hasTransparency(const QByteArray &format)
             return false;
     }
     return true;
+}
+
+bool isIcon(const QByteArray &format)
+{
+    return format.compare("ICO", Qt::CaseInsensitive) == 0
+        || format.compare("CUR", Qt::CaseInsensitive) == 0;
 }
 
 QImage onWhite(const QImage &image)
@@ -53,26 +62,63 @@ QImage onWhite(const QImage &image)
     return flat;
 }
 
-// Pixels in a layout that does not depend on the machine. Eight bits a channel where they hold the
-// picture without loss, so that a deep format alone does not change an id.
+// The sizes that the pictures of an icon file claim by themselves: QImageReader::size() tells what its
+// directory says, which the decoder does not go by.
+QVector<QSize> iconSizes(const QByteArray &bytes)
+{
+    constexpr qint64 DirectoryStart = 6;
+    constexpr qint64 EntryBytes = 16;
+    constexpr qint64 HeaderBytes = 24; // of a PNG as far as its height; a bitmap's need fewer
+    const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
+    QVector<QSize> sizes;
+    if (bytes.size() < DirectoryStart)
+        return sizes;
+    const int count = qFromLittleEndian<quint16>(data + 4);
+    for (int i = 0; i < count && DirectoryStart + (i + 1) * EntryBytes <= bytes.size(); ++i) {
+        const qint64 start =
+            qFromLittleEndian<quint32>(data + DirectoryStart + i * EntryBytes + 12);
+        if (start + HeaderBytes > bytes.size())
+            continue;
+        const uchar *header = data + start;
+        if (bytes.mid(int(start), 4) == "\x89PNG") {
+            sizes << QSize(qFromBigEndian<qint32>(header + 16),
+                           qFromBigEndian<qint32>(header + 20));
+        } else {
+            // Twice the height, for the mask below the picture.
+            sizes << QSize(qFromLittleEndian<qint32>(header + 4),
+                           qFromLittleEndian<qint32>(header + 8) / 2);
+        }
+    }
+    return sizes;
+}
+
+// The size that an XBM text claims in its first two definitions; invalid where the bytes are no such
+// text. Qt's reader decodes the whole picture merely to find out whether it is one.
+QSize bitmapTextSize(const QByteArray &bytes)
+{
+    const int at = bytes.startsWith("#define") ? 0 : bytes.indexOf("\n#define") + 1;
+    if ((at == 0 && !bytes.startsWith('#')) || bytes.left(at).contains('\0'))
+        return QSize();
+    int numbers[2] = {-1, -1};
+    int lineStart = at;
+    for (int &number : numbers) {
+        const int lineEnd = bytes.indexOf('\n', lineStart);
+        if (lineEnd < 0)
+            return QSize();
+        const QList<QByteArray> words =
+            bytes.mid(lineStart, lineEnd - lineStart).simplified().split(' ');
+        number = words.value(2).toInt();
+        lineStart = lineEnd + 1;
+    }
+    return QSize(numbers[0], numbers[1]);
+}
+
+// The layout of a pixmap, through which Qt passes pictures on, in an order of bytes that does not
+// depend on the machine.
 QImage canonicalPixels(const QImage &image)
 {
-    const QImage shallow = image.convertToFormat(QImage::Format_RGBA8888);
-    switch (image.format()) {
-    case QImage::Format_BGR30:
-    case QImage::Format_A2BGR30_Premultiplied:
-    case QImage::Format_RGB30:
-    case QImage::Format_A2RGB30_Premultiplied:
-    case QImage::Format_RGBX64:
-    case QImage::Format_RGBA64:
-    case QImage::Format_RGBA64_Premultiplied:
-    case QImage::Format_Grayscale16:
-        break;
-    default:
-        return shallow;
-    }
-    const QImage deep = image.convertToFormat(QImage::Format_RGBA64);
-    return shallow.convertToFormat(QImage::Format_RGBA64) == deep ? shallow : deep;
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+        .convertToFormat(QImage::Format_RGBA8888_Premultiplied);
 }
 
 } // namespace
@@ -86,8 +132,7 @@ QString MRVGuiUtil::resourceId(const QImage &image)
         return QString();
 
     const quint32 header[] = {qToBigEndian(quint32(pixels.width())),
-                              qToBigEndian(quint32(pixels.height())),
-                              qToBigEndian(quint32(pixels.depth()))};
+                              qToBigEndian(quint32(pixels.height()))};
     // Guards against accident rather than forgery, at a sixth of the time that SHA-256 takes.
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(reinterpret_cast<const char *>(header), sizeof header);
@@ -99,16 +144,24 @@ QString MRVGuiUtil::resourceId(const QImage &image)
 
 QImage MRVGuiUtil::toImage(const QByteArray &bytes, const char *format)
 {
+    if (!isPlausible(bitmapTextSize(bytes), bytes.size()))
+        return QImage();
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     // The hint is for formats without a signature only: with a wrong one the reader would not look
     // at the contents.
-    const bool isKnown = !QImageReader::imageFormat(&buffer).isEmpty();
-    QImageReader reader(&buffer, isKnown ? nullptr : format);
+    const QByteArray known = QImageReader::imageFormat(&buffer);
+    QImageReader reader(&buffer, known.isEmpty() ? format : nullptr);
     reader.setAutoTransform(true);
     if (!reader.canRead() || !isPlausible(reader.size(), bytes.size()))
         return QImage();
+    if (isIcon(known.isEmpty() ? QByteArray(format) : known)) {
+        for (const QSize &size : iconSizes(bytes)) {
+            if (!isPlausible(size, bytes.size()))
+                return QImage();
+        }
+    }
     return reader.read();
 }
 
@@ -130,6 +183,9 @@ QByteArray MRVGuiUtil::toByteArray(const QImage &image, const char *format, int 
 {
     // An empty format would make the writer guess from a file name that a buffer does not have.
     if (image.isNull() || !format || !*format)
+        return QByteArray();
+    // The writer would shrink it without a word.
+    if (isIcon(format) && qMax(image.width(), image.height()) > MaxIconSide)
         return QByteArray();
     const bool needsPaper = image.hasAlphaChannel() && !hasTransparency(format);
     QBuffer buffer;

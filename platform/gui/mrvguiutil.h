@@ -25,10 +25,11 @@ public:
     /**
      * The id of a picture: "img-" and 40 hexadecimal digits, the SHA-1 hash of its size and pixels.
      *
-     * Pictures with the same pixels have the same id whatever their QImage format; resolution,
-     * texts, colour space and device pixel ratio do not count. Pictures of more than eight bits a
-     * channel are told apart in their full depth. The id is the same in every process and on every
-     * machine. Empty for a null image.
+     * Pictures that show the same have the same id, as an image of any QImage format and as a pixmap:
+     * what counts is eight bits a channel, with the colours weighed by their opacity. So pictures are
+     * one that differ only in what lies under full transparency, or below those eight bits.
+     * Resolution, texts, colour space and device pixel ratio do not count. The id is the same in every
+     * process and on every machine. Empty for a null image.
      */
     static QString resourceId(const QImage &image);
 
@@ -54,7 +55,8 @@ public:
      *
      * @param format  a name such as "PNG" or "JPG", in any case.
      * @param quality 0 (small) to 100 (large), or -1 for the format's default.
-     * @return empty for a null image, and for a format that is null, unknown or cannot be written.
+     * @return empty for a null image, for a format that is null, unknown or cannot be written, and for
+     * an icon (ICO, CUR) of more than 256 pixels on a side, which the format does not have.
      */
     static QByteArray toByteArray(const QImage &image, const char *format, int quality = -1);
 
