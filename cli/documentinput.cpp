@@ -86,9 +86,7 @@ bool decoded(const QByteArray &bytes, const QString &format, const QString &enco
                       .arg(QString::fromLatin1(name));
         return false;
     }
-    QTextCodec::ConverterState state;
-    *text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0) {
+    if (!MRVCoreUtil::decodeText(bytes, codec->name().constData(), text)) {
         *reason = QStringLiteral("not readable as %1; give the right encoding with --encoding")
                       .arg(QString::fromLatin1(codec->name()));
         return false;

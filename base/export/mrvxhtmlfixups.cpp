@@ -80,10 +80,10 @@ QString emLength(const QString &pattern, double px)
 // A name that is an address is no valid identifier.
 bool isAddress(const QString &name)
 {
-    static const QRegularExpression pattern(MRVCoreUtil::wwwPattern() + u'|'
-                                                + MRVCoreUtil::webUrlPattern() + u'|'
-                                                + MRVCoreUtil::emailPattern(),
-                                            QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression pattern(
+        MRVCoreUtil::wwwPattern() + u'|' + MRVCoreUtil::webUrlPattern() + u'|'
+            + MRVCoreUtil::emailPattern(),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     return pattern.match(name).hasMatch();
 }
 
