@@ -1,0 +1,274 @@
+#include "search/mrvtextfinder.h"
+
+#include "search/mrvtextmatcher_p.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <utility>
+
+namespace {
+
+using Finder = MRVTextFinder;
+
+void selectMatch(const QTextBlock &block, int position, MRVTextMatch match, QTextCursor *result)
+{
+    // A cursor made from the block is the way to one in a document that is const.
+    QTextCursor cursor(block);
+    cursor.setPosition(position + match.start);
+    if (match.length > 0) {
+        cursor.setPosition(position + match.end(), QTextCursor::KeepAnchor);
+    }
+    *result = std::move(cursor);
+}
+
+template<typename Matcher>
+MRVTextMatch matchInBlock(const Matcher &matcher, const QTextBlock &block, int offset,
+                          Finder::FindFlags flags)
+{
+    if (!block.isValid() || offset < 0 || matcher.isEmpty())
+        return MRVTextMatch();
+    QString text = block.text();
+    matcher.prepare(&text);
+    return mrvFindInText(matcher, text, offset, flags);
+}
+
+/// The text of a paragraph between two offsets.
+QString textBetween(const QTextBlock &block, int start, int end)
+{
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + start);
+    cursor.setPosition(block.position() + end, QTextCursor::KeepAnchor);
+    return cursor.selectedText();
+}
+
+/// Searches a long paragraph by looking at more and more of it. To fetch all of it for each find
+/// would make a loop over the finds take time in proportion to its length squared.
+MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock &block, int offset,
+                              Finder::FindFlags flags)
+{
+    const bool backward = flags & Finder::FindBackward;
+    const int length = block.length() - 1;
+    const int near = matcher.length() + 1; // one more, for the word rules
+    if (offset < 0 || offset > length || matcher.isEmpty())
+        return MRVTextMatch();
+    for (qint64 reach = 512 + near;; reach *= 4) {
+        const int start = int(qMax<qint64>(0, offset - (backward ? reach : 1)));
+        const int end = int(qMin<qint64>(length, offset + (backward ? near : reach)));
+        QString text = textBetween(block, start, end);
+        matcher.prepare(&text);
+        MRVTextMatch match = mrvFindInText(matcher, text, offset - start, flags);
+        const bool whole = backward ? start == 0 : end == length;
+        // What touches the end of the stretch may break a word rule by what lies outside.
+        const bool touches = backward ? match.start == 0 : match.end() == text.size();
+        if (whole || (match && !touches)) {
+            if (match) {
+                match.start += start;
+            }
+            return match;
+        }
+    }
+}
+
+MRVTextMatch matchInBlock(const MRVLiteralMatcher &matcher, const QTextBlock &block, int offset,
+                          Finder::FindFlags flags)
+{
+    constexpr int LongParagraph = 4096;
+    if (block.length() > LongParagraph)
+        return matchInLongBlock(matcher, block, offset, flags);
+    return matchInBlock<MRVLiteralMatcher>(matcher, block, offset, flags);
+}
+
+template<typename Matcher>
+QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int from,
+                     Finder::FindFlags flags)
+{
+    QTextCursor result;
+    const bool backward = flags & Finder::FindBackward;
+    const int start = backward ? from - 1 : from;
+    if (!document || start < 0 || matcher.isEmpty())
+        return result;
+    QTextBlock block = document->findBlock(start);
+    int position = block.position(); // asked for once, as Qt climbs a tree for it
+    int offset = start - position;
+    while (block.isValid()) {
+        const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
+        if (match) {
+            selectMatch(block, position < 0 ? block.position() : position, match, &result);
+            return result;
+        }
+        block = backward ? block.previous() : block.next();
+        offset = backward ? block.length() - 1 : 0;
+        position = -1;
+    }
+    return result;
+}
+
+template<typename Pattern>
+QTextCursor findFromCursor(const QTextDocument *document, const Pattern &pattern,
+                           const QTextCursor &from, Finder::FindFlags flags)
+{
+    if (from.isNull())
+        return Finder::find(document, pattern, 0, flags);
+    if (flags & Finder::FindBackward)
+        return Finder::find(document, pattern, from.selectionStart(), flags);
+    const int end = from.selectionEnd();
+    const QTextCursor found = Finder::find(document, pattern, end, flags);
+    const bool again =
+        !from.hasSelection() && !found.isNull() && !found.hasSelection() && found.position() == end;
+    return again ? Finder::find(document, pattern, end + 1, flags) : found;
+}
+
+template<typename Matcher>
+QVector<MRVTextRange> findAllWith(const QTextDocument *document, const Matcher &matcher,
+                                  Finder::FindFlags flags, const MRVTextRange &within)
+{
+    QVector<MRVTextRange> finds;
+    if (matcher.isEmpty())
+        return finds;
+    mrvEachBlock(document, within, [&](const QTextBlock &block, int from, int to) {
+        QString text = block.text();
+        matcher.prepare(&text);
+        const int position = block.position();
+        mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
+            finds.append(MRVTextRange(position + match.start, position + match.end()));
+            return true;
+        });
+        return true;
+    });
+    return finds;
+}
+
+Qt::CaseSensitivity sensitivity(Finder::FindFlags flags)
+{
+    return flags & Finder::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
+}
+
+MRVTextRange whole(const QTextDocument *document)
+{
+    return document ? MRVTextRange(0, document->characterCount()) : MRVTextRange();
+}
+
+/// Calls @p work with the quickest matcher for a text.
+template<typename Work>
+auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
+{
+    if (MRVLiteralMatcher::canMatch(text, cs))
+        return work(MRVLiteralMatcher(text, cs));
+    return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
+}
+
+/// The same for an expression.
+template<typename Work>
+auto withMatcher(const QRegExp &expression, Work work)
+{
+    if (expression.patternSyntax() == QRegExp::FixedString)
+        return withMatcher(expression.pattern(), expression.caseSensitivity(), work);
+    return work(MRVRegExpMatcher(expression));
+}
+
+} // namespace
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegExp &expression, int from,
+                                FindFlags flags)
+{
+    return withMatcher(
+        expression, [&](const auto &matcher) { return findFrom(document, matcher, from, flags); });
+}
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegExp &expression,
+                                const QTextCursor &from, FindFlags flags)
+{
+    return findFromCursor(document, expression, from, flags);
+}
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text, int from,
+                                FindFlags flags)
+{
+    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
+        return findFrom(document, matcher, from, flags);
+    });
+}
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text,
+                                const QTextCursor &from, FindFlags flags)
+{
+    return findFromCursor(document, text, from, flags);
+}
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegularExpression &expression,
+                                int from, FindFlags flags)
+{
+    return findFrom(document, MRVRegularExpressionMatcher(expression), from, flags);
+}
+
+QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegularExpression &expression,
+                                const QTextCursor &from, FindFlags flags)
+{
+    return findFromCursor(document, expression, from, flags);
+}
+
+bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegExp &expression, int offset,
+                                FindFlags flags, QTextCursor &result)
+{
+    return withMatcher(expression, [&](const auto &matcher) {
+        const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
+        if (match) {
+            selectMatch(block, block.position(), match, &result);
+        }
+        return bool(match);
+    });
+}
+
+bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegularExpression &expression,
+                                int offset, FindFlags flags, QTextCursor &result)
+{
+    const MRVRegularExpressionMatcher matcher(expression);
+    const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
+    if (match) {
+        selectMatch(block, block.position(), match, &result);
+    }
+    return bool(match);
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, const QString &text,
+                                             FindFlags flags)
+{
+    return findAll(document, text, flags, whole(document));
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, const QString &text,
+                                             FindFlags flags, const MRVTextRange &within)
+{
+    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
+        return findAllWith(document, matcher, flags, within);
+    });
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
+                                             const QRegExp &expression, FindFlags flags)
+{
+    return findAll(document, expression, flags, whole(document));
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
+                                             const QRegExp &expression, FindFlags flags,
+                                             const MRVTextRange &within)
+{
+    return withMatcher(expression, [&](const auto &matcher) {
+        return findAllWith(document, matcher, flags, within);
+    });
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
+                                             const QRegularExpression &expression, FindFlags flags)
+{
+    return findAll(document, expression, flags, whole(document));
+}
+
+QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
+                                             const QRegularExpression &expression, FindFlags flags,
+                                             const MRVTextRange &within)
+{
+    return findAllWith(document, MRVRegularExpressionMatcher(expression), flags, within);
+}

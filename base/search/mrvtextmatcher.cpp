@@ -1,0 +1,316 @@
+#include "search/mrvtextmatcher_p.h"
+
+#include <algorithm>
+
+namespace {
+
+inline ushort foldCase(ushort c)
+{
+    if (c < 0x80)
+        return c >= 'A' && c <= 'Z' ? c | 0x20 : c;
+    return ushort(QChar::toCaseFolded(uint(c)));
+}
+
+template<bool Fold>
+inline ushort unit(ushort c)
+{
+    return Fold ? foldCase(c) : c;
+}
+
+QString folded(QString text)
+{
+    for (QChar &c : text) {
+        c = QChar(foldCase(c.unicode()));
+    }
+    return text;
+}
+
+inline bool isBlank(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QChar::Nbsp || c == QChar::ObjectReplacementCharacter;
+}
+
+/// How rare a character is in prose; -1 where a search without case cannot look for it by itself.
+int rarity(QChar c, bool fold)
+{
+    // From the most frequent to the least; capitals, digits and other signs are rare, too.
+    static constexpr char Frequent[] = " etaoinshrdlucm,wfgyp.bv\"'k-xqjz";
+    const ushort code = c.unicode();
+    // Beyond ASCII, and for these two letters, there may be a third character of the same fold.
+    if (fold && (code >= 0x80 || code == 'k' || code == 's'))
+        return -1;
+    for (int i = 0; Frequent[i]; ++i) {
+        if (code == uchar(Frequent[i]))
+            return i;
+    }
+    return int(sizeof Frequent);
+}
+
+bool hasSurrogate(const QString &text)
+{
+    // Without an early end and in the width of a character, so that the compiler uses vector code.
+    ushort found = 0;
+    const ushort *units = text.utf16();
+    for (int i = 0, n = text.size(); i < n; ++i) {
+        found |= ushort((units[i] & 0xf800) == 0xd800);
+    }
+    return found;
+}
+
+void replaceLoneSurrogates(QString *text)
+{
+    for (int i = 0; i < text->size(); ++i) {
+        const QChar c = text->at(i);
+        if (!c.isSurrogate())
+            continue;
+        if (c.isHighSurrogate() && i + 1 < text->size() && text->at(i + 1).isLowSurrogate()) {
+            ++i;
+        } else {
+            (*text)[i] = QChar(QChar::ReplacementCharacter);
+        }
+    }
+}
+
+} // namespace
+
+void mrvBlankObjects(QString *text)
+{
+    const auto isObject = [](ushort c) { return c == 0xfffc || c == 0xa0; };
+    ushort found = 0; // as above
+    const ushort *units = text->utf16();
+    for (int i = 0, n = text->size(); i < n; ++i) {
+        found |= ushort(units[i] == 0xfffc) | ushort(units[i] == 0xa0);
+    }
+    if (!found)
+        return;
+    for (QChar &c : *text) {
+        if (isObject(c.unicode())) {
+            c = QLatin1Char(' ');
+        }
+    }
+}
+
+MRVLiteralMatcher::MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity sensitivity)
+    : m_text(text)
+    , m_folded(sensitivity == Qt::CaseSensitive ? text : folded(text))
+    , m_sensitivity(sensitivity)
+    , m_blanks(std::any_of(text.cbegin(), text.cend(), isBlank))
+{
+    // A step is at most 255, so a longer text is skipped along by its last 255 characters only.
+    const int size = text.size();
+    m_skip.fill(uchar(qMin(size, 255)));
+    for (int i = qMax(0, size - 255); i < size - 1; ++i) {
+        m_skip[m_folded.at(i).unicode() & 0xff] = uchar(size - 1 - i);
+    }
+    const bool fold = sensitivity == Qt::CaseInsensitive;
+    for (int i = 0, best = -1; i < size; ++i) {
+        const int rare = rarity(m_folded.at(i), fold);
+        if (rare > best) {
+            best = rare;
+            m_anchor = i;
+            m_anchorCharacter = m_folded.at(i);
+            m_otherCase = fold ? m_anchorCharacter.toUpper() : m_anchorCharacter;
+        }
+    }
+}
+
+bool MRVLiteralMatcher::canMatch(const QString &text, Qt::CaseSensitivity sensitivity)
+{
+    return sensitivity == Qt::CaseSensitive
+        || (!hasSurrogate(text) && !text.contains(QChar(0x130)));
+}
+
+void MRVLiteralMatcher::prepare(QString *text) const
+{
+    // Objects and no-break spaces are no letters, so the word rules do not need the blanks.
+    if (m_blanks) {
+        mrvBlankObjects(text);
+    }
+}
+
+bool MRVLiteralMatcher::isAt(const QString &text, int at) const
+{
+    const QChar *start = text.constData() + at;
+    if (m_sensitivity == Qt::CaseSensitive)
+        return std::equal(m_text.cbegin(), m_text.cend(), start);
+    return std::equal(m_folded.cbegin(), m_folded.cend(), start,
+                      [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
+}
+
+int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
+{
+    // Qt looks for single characters in vector code, so this is quicker than any skipping, as long as
+    // the anchor is as rare as it should be.
+    constexpr int ManyAnchors = 16;
+    constexpr int TooClose = 8;
+    const int size = m_folded.size();
+    const auto next = [&text](QChar c, int from) {
+        const int at = text.indexOf(c, from);
+        return at < 0 ? text.size() : at;
+    };
+    int from = offset + m_anchor;
+    if (from >= text.size())
+        return -1;
+    int lower = next(m_anchorCharacter, from);
+    int upper = m_otherCase == m_anchorCharacter ? text.size() : next(m_otherCase, from);
+    for (int tries = 1;; ++tries) {
+        const int anchor = qMin(lower, upper);
+        const int at = anchor - m_anchor;
+        if (anchor == text.size() || at + size > text.size())
+            return -1;
+        if (isAt(text, at))
+            return at;
+        if (tries == ManyAnchors && at - offset < ManyAnchors * TooClose) {
+            return m_sensitivity == Qt::CaseSensitive
+                ? bySkipping<false>(text.utf16(), text.size(), at + 1)
+                : bySkipping<true>(text.utf16(), text.size(), at + 1);
+        }
+        int &used = lower < upper ? lower : upper;
+        used = next(lower < upper ? m_anchorCharacter : m_otherCase, anchor + 1);
+    }
+}
+
+template<bool Fold>
+int MRVLiteralMatcher::bySkipping(const ushort *text, int length, int offset) const
+{
+    const int size = m_folded.size();
+    const ushort *pattern = m_folded.utf16();
+    const ushort last = pattern[size - 1];
+    for (int at = offset + size - 1; at < length;) {
+        const ushort c = unit<Fold>(text[at]);
+        if (c == last) {
+            int i = size - 1;
+            const ushort *start = text + at - i;
+            while (i > 0 && unit<Fold>(start[i - 1]) == pattern[i - 1]) {
+                --i;
+            }
+            if (i == 0)
+                return at - size + 1;
+        }
+        at += m_skip[c & 0xff];
+    }
+    return -1;
+}
+
+MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
+{
+    if (m_text.isEmpty())
+        return MRVTextMatch();
+    // Without an anchor case does not matter.
+    const int at = m_anchor >= 0 ? byAnchor(text, offset)
+                                 : bySkipping<true>(text.utf16(), text.size(), offset);
+    return {at, m_text.size()};
+}
+
+MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
+{
+    if (m_text.isEmpty())
+        return MRVTextMatch();
+    // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma is
+    // then another letter than a sigma.
+    const bool lower = m_sensitivity == Qt::CaseInsensitive;
+    const auto same = [lower](QChar a, QChar b) {
+        return a == b || (lower && a.toLower() == b.toLower());
+    };
+    for (int at = qMin(offset, text.size() - m_text.size()); at >= 0; --at) {
+        if (std::equal(m_text.cbegin(), m_text.cend(), text.cbegin() + at, same))
+            return {at, m_text.size()};
+    }
+    return MRVTextMatch();
+}
+
+MRVTextMatch MRVRegExpMatcher::next(const QString &text, int offset) const
+{
+    const int at = m_expression.indexIn(text, offset);
+    return {at, m_expression.matchedLength()};
+}
+
+MRVTextMatch MRVRegExpMatcher::last(const QString &text, int offset) const
+{
+    const int at = m_expression.lastIndexIn(text, offset);
+    return {at, m_expression.matchedLength()};
+}
+
+MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpression &expression)
+    : m_expression(expression)
+{
+    const auto options = expression.patternOptions();
+    if (options & QRegularExpression::UseUnicodePropertiesOption)
+        return;
+    // Other options mean to compile anew, which takes longer than to search a paragraph. So the last
+    // expression is kept compiled; searching from find to find always asks for the same one.
+    struct Compiled
+    {
+        QRegularExpression given;
+        QRegularExpression used;
+    };
+    static thread_local Compiled last;
+    if (last.given != expression) {
+        last.given = expression;
+        last.used = expression;
+        last.used.setPatternOptions(options | QRegularExpression::UseUnicodePropertiesOption);
+    }
+    m_expression = last.used;
+}
+
+bool MRVRegularExpressionMatcher::isEmpty() const
+{
+    return m_expression.pattern().isEmpty() || !m_expression.isValid();
+}
+
+void MRVRegularExpressionMatcher::prepare(QString *text) const
+{
+    mrvBlankObjects(text);
+    if (hasSurrogate(*text)) {
+        replaceLoneSurrogates(text);
+    }
+}
+
+QRegularExpressionMatch MRVRegularExpressionMatcher::match(const QString &text, int offset) const
+{
+    // prepare() saw to the surrogates, once. The expression would do so again at each match, from
+    // the beginning of the paragraph.
+    return m_expression.match(text, offset, QRegularExpression::NormalMatch,
+                              QRegularExpression::DontCheckSubjectStringMatchOption);
+}
+
+MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) const
+{
+    // Unchecked, the middle of a pair is no place to start from.
+    if (offset > 0 && offset < text.size() && text.at(offset).isLowSurrogate()
+        && text.at(offset - 1).isHighSurrogate()) {
+        ++offset;
+    }
+    const QRegularExpressionMatch found = match(text, offset);
+    if (!found.hasMatch())
+        return MRVTextMatch();
+    return {found.capturedStart(), found.capturedLength()};
+}
+
+MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) const
+{
+    // The expression only searches forward. So it is let loose at places further and further back,
+    // until it finds a match that starts at the offset or before; then the last such is sought.
+    for (int reach = 16;; reach = qMin(reach, offset) * 4) {
+        const int from = qMax(0, offset - reach);
+        MRVTextMatch best;
+        for (MRVTextMatch match = next(text, from); match && match.start <= offset;
+             match = next(text, match.start + 1)) {
+            best = match;
+            if (match.start == text.size())
+                break;
+        }
+        if (best || from == 0)
+            return best;
+    }
+}
+
+bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags)
+{
+    if ((flags & MRVTextFinder::FindWordStart) && match.start > 0
+        && text.at(match.start - 1).isLetterOrNumber()) {
+        return false;
+    }
+    return !(flags & MRVTextFinder::FindWordEnd) || match.end() >= text.size()
+        || !text.at(match.end()).isLetterOrNumber();
+}

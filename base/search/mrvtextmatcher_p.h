@@ -1,0 +1,154 @@
+#pragma once
+
+#include "search/mrvtextfinder.h"
+
+#include <QRegExp>
+#include <QRegularExpression>
+#include <QString>
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <array>
+
+// The three ways to look for text, behind one shape: what is done to a paragraph's text before it is
+// searched, the next match from an offset on, and the last one that starts at an offset or before.
+
+struct MRVTextMatch
+{
+    int start = -1; ///< negative: no match
+    int length = 0;
+
+    int end() const { return start + length; }
+    explicit operator bool() const { return start >= 0; }
+};
+
+/** Puts blanks in the place of objects and no-break spaces, which keeps all positions. */
+void mrvBlankObjects(QString *text);
+
+/** A plain text. Finds what a QRegExp of pattern syntax FixedString finds, only faster. */
+class MRVLiteralMatcher
+{
+public:
+    MRVLiteralMatcher(const QString &text, Qt::CaseSensitivity sensitivity);
+
+    /**
+     * Whether QRegExp, which compares letters by two rules at once, can be foretold for @p text. It
+     * cannot for the dotted capital I and beyond U+FFFF, where case matters.
+     */
+    static bool canMatch(const QString &text, Qt::CaseSensitivity sensitivity);
+
+    bool isEmpty() const { return m_text.isEmpty(); }
+    int length() const { return m_text.size(); }
+    void prepare(QString *text) const;
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+
+private:
+    bool isAt(const QString &text, int at) const;
+    int byAnchor(const QString &text, int offset) const;
+    template<bool Fold>
+    int bySkipping(const ushort *text, int length, int offset) const;
+
+    QString m_text; // as given
+    QString m_folded; // where case does not matter, else the same
+    std::array<uchar, 256> m_skip; // by the low byte of the character
+    int m_anchor = -1; // the place of a character that is rare in most texts; -1: none is known
+    QChar m_anchorCharacter;
+    QChar m_otherCase; // of the anchor, or the same
+    Qt::CaseSensitivity m_sensitivity;
+    bool m_blanks;
+};
+
+class MRVRegExpMatcher
+{
+public:
+    explicit MRVRegExpMatcher(const QRegExp &expression)
+        : m_expression(expression)
+    {
+    }
+
+    bool isEmpty() const { return m_expression.isEmpty(); }
+    void prepare(QString *text) const { mrvBlankObjects(text); }
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+
+private:
+    mutable QRegExp m_expression; // remembers its last match
+};
+
+class MRVRegularExpressionMatcher
+{
+public:
+    explicit MRVRegularExpressionMatcher(const QRegularExpression &expression);
+
+    bool isEmpty() const;
+    /** Also replaces lone surrogates, since a text with one of them cannot be searched at all. */
+    void prepare(QString *text) const;
+    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch last(const QString &text, int offset) const;
+    /** The whole match, with captures; @p text must have been prepared. */
+    QRegularExpressionMatch match(const QString &text, int offset) const;
+
+private:
+    QRegularExpression m_expression;
+};
+
+/** Whether the word rules of @p flags accept @p match. */
+bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags);
+
+/**
+ * The nearest match in a prepared text that keeps the word rules. A match that breaks them is passed
+ * over whole and one character more. Deliberate: what starts right behind it is not seen.
+ */
+template<typename Matcher>
+MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offset,
+                           MRVTextFinder::FindFlags flags)
+{
+    const bool backward = flags & MRVTextFinder::FindBackward;
+    while (offset >= 0 && offset <= text.size()) {
+        const MRVTextMatch match =
+            backward ? matcher.last(text, offset) : matcher.next(text, offset);
+        if (!match || mrvKeepsWordRules(text, match, flags))
+            return match;
+        offset = backward ? match.start - 1 : match.end() + 1;
+    }
+    return MRVTextMatch();
+}
+
+/**
+ * Calls @p found(match) for the matches in a prepared text from @p offset on, until it says false or
+ * a match reaches beyond @p limit. Behind an empty match the search goes on by one character, or it would stand
+ * still.
+ */
+template<typename Matcher, typename Found>
+void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
+                  MRVTextFinder::FindFlags flags, Found found)
+{
+    flags &= ~MRVTextFinder::FindBackward;
+    while (offset <= limit) {
+        const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags);
+        if (!match || match.end() > limit || !found(match))
+            return;
+        offset = match.length > 0 ? match.end() : match.end() + 1;
+    }
+}
+
+/**
+ * Calls @p visit(block, from, to), with offsets in its text, for each paragraph of a part until it
+ * says false.
+ */
+template<typename Visit>
+void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)
+{
+    const int start = qMax(0, within.start());
+    if (!document || within.end() < 0)
+        return;
+    QTextBlock block = document->findBlock(start);
+    int position = block.position(); // counted along, as Qt climbs a tree for it
+    for (; block.isValid() && position <= within.end(); block = block.next()) {
+        const int length = block.length();
+        if (!visit(block, qMax(0, start - position), qMin(length - 1, within.end() - position)))
+            return;
+        position += length;
+    }
+}

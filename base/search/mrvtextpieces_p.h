@@ -1,0 +1,190 @@
+#pragma once
+
+#include "text/mrvtextrange.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFormat>
+#include <QVector>
+
+#include <utility>
+
+/**
+ * What a test says of the formats of a document, asked once for each format.
+ *
+ * A document has few formats and many fragments. It must not be edited meanwhile.
+ */
+template<typename Test>
+class MRVFormatVerdicts
+{
+public:
+    MRVFormatVerdicts(const QTextDocument *document, Test test)
+        : m_formats(document->allFormats())
+        , m_verdicts(m_formats.size(), Unknown)
+        , m_test(std::move(test))
+    {
+    }
+
+    bool operator()(int formatIndex)
+    {
+        signed char &verdict = m_verdicts[formatIndex];
+        if (verdict == Unknown) {
+            verdict = m_test(format(formatIndex)) ? Yes : No;
+        }
+        return verdict == Yes;
+    }
+
+    QTextCharFormat format(int index) const { return m_formats.at(index).toCharFormat(); }
+
+private:
+    enum : signed char { Unknown, No, Yes };
+    const QVector<QTextFormat> m_formats;
+    QVector<signed char> m_verdicts;
+    Test m_test;
+};
+
+/** A fragment by numbers: [start, end) and the index of its format in the document. */
+struct MRVTextPiece
+{
+    int start = 0;
+    int end = 0;
+    int format = -1;
+};
+
+Q_DECLARE_TYPEINFO(MRVTextPiece, Q_MOVABLE_TYPE);
+
+/** Goes from fragment to fragment in either direction, over paragraph ends. */
+class MRVPieceWalker
+{
+public:
+    /** On the first fragment that reaches beyond @p position. */
+    MRVPieceWalker(const QTextDocument *document, int position);
+
+    bool isValid() const { return m_index >= 0 && m_index < m_pieces.size(); }
+    const MRVTextPiece &piece() const { return m_pieces.at(m_index); }
+    void next();
+    /** Also from behind the last fragment back to it. */
+    void previous();
+
+private:
+    void load(const QTextBlock &block);
+
+    QTextBlock m_block; // the last one there was
+    QVector<MRVTextPiece> m_pieces;
+    int m_index = 0;
+};
+
+/** Calls @p found(piece) for the fragments of a part of a document, clipped to it, that pass. */
+template<typename Verdicts, typename Found>
+void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Verdicts &verdicts,
+                  Found found)
+{
+    QTextBlock block = document->findBlock(within.start());
+    for (; block.isValid() && block.position() < within.end(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            // The verdict first: to ask for a position means to climb a tree.
+            const QTextFragment fragment = it.fragment();
+            if (!verdicts(fragment.charFormatIndex()))
+                continue;
+            const int position = fragment.position();
+            const int start = qMax(position, within.start());
+            const int end = qMin(position + fragment.length(), within.end());
+            if (start < end) {
+                found(MRVTextPiece{start, end, fragment.charFormatIndex()});
+            }
+        }
+    }
+}
+
+/**
+ * Grows a range in both directions over the fragments that pass and lie partly in it, adjoin it, or
+ * are parted from it by nothing but paragraph ends. An empty range must touch them.
+ */
+template<typename Verdicts>
+MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, Verdicts &verdicts)
+{
+    int start = range.start();
+    int end = range.end();
+    const auto passes = [&](const MRVPieceWalker &walker) {
+        return walker.isValid() && verdicts(walker.piece().format);
+    };
+    MRVPieceWalker walker(document, end);
+    MRVPieceWalker back(document, start);
+    if (!back.isValid() || back.piece().start >= start) {
+        back.previous();
+    }
+    const bool touches = start < end || (passes(walker) && walker.piece().start <= end)
+        || (passes(back) && back.piece().end >= start);
+    if (!touches)
+        return range;
+    for (; passes(walker); walker.next()) {
+        end = walker.piece().end;
+    }
+    for (; passes(back); back.previous()) {
+        start = back.piece().start;
+    }
+    return MRVTextRange(start, end);
+}
+
+/** Finds the runs beyond a selection, one after the other; see MRVTextFinder::find(). */
+template<typename Verdicts>
+class MRVRunFinder
+{
+public:
+    MRVRunFinder(const QTextDocument *document, const MRVTextRange &selection, bool backward,
+                 Verdicts &verdicts)
+        : m_walker(document, backward ? selection.start() : selection.end())
+        , m_verdicts(verdicts)
+        , m_backward(backward)
+    {
+        const int edge = backward ? selection.start() : selection.end();
+        MRVPieceWalker inner = m_walker; // the nearest fragment on the selection's side of the edge
+        const bool across = m_walker.isValid() && m_walker.piece().start < edge;
+        if (!across) {
+            (backward ? m_walker : inner).previous();
+        }
+        // The rest of a run that begins on the other side is no run.
+        if (passes(m_walker) && (across || passes(inner))) {
+            skip();
+        }
+    }
+
+    bool next(MRVTextRange *run)
+    {
+        while (m_walker.isValid() && !passes(m_walker)) {
+            step();
+        }
+        if (!m_walker.isValid())
+            return false;
+        const MRVTextPiece first = m_walker.piece();
+        const MRVTextPiece last = skip();
+        *run =
+            m_backward ? MRVTextRange(last.start, first.end) : MRVTextRange(first.start, last.end);
+        return true;
+    }
+
+private:
+    bool passes(const MRVPieceWalker &walker) const
+    {
+        return walker.isValid() && m_verdicts(walker.piece().format);
+    }
+    void step() { m_backward ? m_walker.previous() : m_walker.next(); }
+    MRVTextPiece skip()
+    {
+        MRVTextPiece last;
+        for (; passes(m_walker); step()) {
+            last = m_walker.piece();
+        }
+        return last;
+    }
+
+    MRVPieceWalker m_walker;
+    Verdicts &m_verdicts;
+    bool m_backward;
+};
+
+/** The fragment of the character at a position; invalid (format -1) at a paragraph end. */
+MRVTextPiece mrvPieceAt(const QTextDocument *document, int position);
+
+/** A cursor with the anchor in front; also for a document that is const. */
+QTextCursor mrvSelect(const QTextDocument *document, const MRVTextRange &range);

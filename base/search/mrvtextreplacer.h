@@ -1,0 +1,136 @@
+#pragma once
+
+#include "search/mrvtextfinder.h"
+#include "text/mrvtextrange.h"
+#include "util/mrvbase_export.h"
+
+#include <QString>
+#include <QTextCharFormat>
+#include <QVector>
+
+#include <limits>
+
+class QTextCursor;
+class QTextDocument;
+
+/**
+ * What to look for, in all that a search dialog can ask: a text or an expression, the word rules, the
+ * part of the document, the format of the text.
+ *
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVTextQuery
+{
+    enum Syntax {
+        PlainText,
+        RegularExpression, ///< of QRegularExpression; letters and digits are those of Unicode
+    };
+
+    /** An empty text finds nothing. */
+    QString text;
+    Syntax syntax = PlainText;
+    /** FindCaseSensitively counts for expressions, too. FindBackward counts in find() only. */
+    MRVTextFinder::FindFlags flags;
+    /**
+     * Whether what writers type one way or the other counts as the same, in the text as in what is
+     * looked for: straight and curly quotes and apostrophes; hyphens, figure dash, en dash and
+     * minus (not the em dash); blanks, no-break spaces and objects; composed and decomposed letters.
+     * Finds are whole letters with their accents.
+     */
+    bool ignoreTypography = false;
+    /** Only finds that lie as a whole within this range count. All of the document at first. */
+    MRVTextRange range = MRVTextRange(0, std::numeric_limits<int>::max());
+    /**
+     * Only finds all of whose characters carry this format count; see MRVTextFinder. An empty one
+     * must lie in such text or at an end of it. Without properties, any format will do.
+     */
+    QTextCharFormat format;
+    bool compareFormatValues = true;
+
+    /**
+     * Whether @p text is an expression that can be searched for; true for plain text.
+     *
+     * @param error if given, receives a translated text that says why not, and where.
+     */
+    bool isValid(QString *error = nullptr) const;
+};
+
+/**
+ * One replacement that was or could be made.
+ *
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVTextChange
+{
+    MRVTextRange range; ///< in the document before any of the changes
+    QString before; ///< the text there
+    QString after; ///< what takes its place
+};
+
+/**
+ * Searches with all that MRVTextQuery can say, and replaces what it finds.
+ *
+ * Formats are kept as mrvReplaceText() keeps them. Finds are those of MRVTextFinder::findAll(): in
+ * document order, none over another, none over a paragraph end. A null document or cursor, an
+ * invalid expression and an empty text find nothing.
+ *
+ * What is not replaced: text that would not change, and finds with an image or another object in
+ * them. An object counts as a blank for the search, and would be lost.
+ *
+ * In the replacement of a regular expression these stand for something else:
+ *
+ * - \\0 or $0 or $&: all of the find. \\1 or $1, to 99: the group of that number, or nothing where it
+ *   took no part. Of two digits the second counts as text where there are not so many groups.
+ *   ${name}: the group of that name or number.
+ * - \\n: a paragraph end. \\t: a tab. \\\\ and $$: a backslash, a dollar.
+ *
+ * All else stands as it is, a group that the expression does not have included. Groups give the text
+ * as it is in the document. The replacement of plain text stands as it is.
+ *
+ * GUI thread only.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVTextReplacer
+{
+public:
+    MRVTextReplacer() = delete;
+
+    /** All finds, in document order. */
+    static QVector<MRVTextRange> findAll(const QTextDocument *document, const MRVTextQuery &query);
+    static int count(const QTextDocument *document, const MRVTextQuery &query);
+    /**
+     * The first find that starts at the end of the selection of @p from or later; with FindBackward,
+     * the last one that ends at its start or earlier. Unlike findAll(), each search begins at the
+     * cursor, or, backward, at the start of a paragraph. An empty find at a cursor without selection
+     * is passed over. Null where there is none; the search does not begin again at the other end.
+     */
+    static QTextCursor find(const QTextCursor &from, const MRVTextQuery &query);
+
+    /** What replaceAll() would do, in document order. */
+    static QVector<MRVTextChange> preview(const QTextDocument *document, const MRVTextQuery &query,
+                                          const QString &replacement);
+    /**
+     * Replaces all finds. One undo step; none where nothing changes.
+     *
+     * @return how many were replaced.
+     */
+    static int replaceAll(QTextDocument *document, const MRVTextQuery &query,
+                          const QString &replacement);
+    /**
+     * Makes some of the changes of preview(), in whichever order they are given. One undo step; none
+     * where nothing changes. A change is left out if its text is no longer in its place, or if it
+     * overlaps one that comes later in the document.
+     *
+     * @return how many were made.
+     */
+    static int apply(QTextDocument *document, const QVector<MRVTextChange> &changes);
+    /**
+     * Replaces the selection of @p cursor if it is a find, as find() would give it. One undo step.
+     *
+     * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it, so
+     *               that find() goes on beyond it; untouched where false is returned.
+     * @return false where the selection is no find, or has an object in it.
+     */
+    static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement);
+};
