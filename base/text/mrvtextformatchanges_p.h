@@ -63,11 +63,13 @@ template<typename Format, typename Key>
 class MrvReplacements
 {
 public:
-    template<typename Compute>
-    const std::optional<Format> &value(Key key, const Format &existing, Compute compute)
+    /** @p present gives the format that @p key stands for; both are asked only the first time. */
+    template<typename Present, typename Compute>
+    const std::optional<Format> &value(Key key, Present present, Compute compute)
     {
         auto it = m_values.find(key);
         if (it == m_values.end()) {
+            const Format existing = present();
             Format replacement = compute(existing);
             std::optional<Format> changed;
             if (!mrvIsSameFormat(replacement, existing))

@@ -71,16 +71,18 @@ public:
     void apply(QTextDocument *document) const { m_changes.apply(document); }
 
 private:
-    const std::optional<QTextCharFormat> &replacement(int index, const QTextCharFormat &existing)
+    // Of a block or of a run, which both know the index of a character format.
+    template<typename Part>
+    const std::optional<QTextCharFormat> &replacement(const Part &part)
     {
-        return m_chars.value(index, existing, [this](const QTextCharFormat &format) {
-            return m_style.merged(format);
-        });
+        return m_chars.value(
+            part.charFormatIndex(), [&] { return part.charFormat(); },
+            [this](const QTextCharFormat &format) { return m_style.merged(format); });
     }
 
     void collectBlockCharFormat(const QTextBlock &block)
     {
-        const auto &changed = replacement(block.charFormatIndex(), block.charFormat());
+        const auto &changed = replacement(block);
         if (changed)
             m_changes.setBlockCharFormat(block.position(), *changed);
     }
@@ -92,9 +94,9 @@ private:
         const QTextBlock::iterator run = block.begin();
         const int firstChar =
             run.atEnd() ? block.charFormatIndex() : run.fragment().charFormatIndex();
-        const auto &changed =
-            m_blocks.value(qMakePair(block.blockFormatIndex(), firstChar), block.blockFormat(),
-                           [&](const QTextBlockFormat &) { return m_style.merged(block); });
+        const auto &changed = m_blocks.value(
+            qMakePair(block.blockFormatIndex(), firstChar), [&] { return block.blockFormat(); },
+            [&](const QTextBlockFormat &) { return m_style.merged(block); });
         if (changed)
             m_changes.setBlockFormat(block.position(), *changed);
     }
@@ -107,7 +109,7 @@ private:
                 continue;
             if (run.position() >= end)
                 break;
-            const auto &changed = replacement(run.charFormatIndex(), run.charFormat());
+            const auto &changed = replacement(run);
             if (changed)
                 m_changes.setCharFormat(qMax(run.position(), start),
                                         qMin(run.position() + run.length(), end), *changed);
@@ -222,8 +224,8 @@ void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
     MrvReplacements<QTextCharFormat, int> replacements;
     QTextBlock block = cursor.document()->findBlock(start);
     for (; block.isValid(); block = block.next()) {
-        const auto &blockChar =
-            replacements.value(block.charFormatIndex(), block.charFormat(), withAvailableWeight);
+        const auto &blockChar = replacements.value(
+            block.charFormatIndex(), [&] { return block.charFormat(); }, withAvailableWeight);
         if (blockChar)
             changes.setBlockCharFormat(block.position(), *blockChar);
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
@@ -232,8 +234,8 @@ void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
                 continue;
             if (run.position() > end)
                 break;
-            const auto &changed =
-                replacements.value(run.charFormatIndex(), run.charFormat(), withAvailableWeight);
+            const auto &changed = replacements.value(
+                run.charFormatIndex(), [&] { return run.charFormat(); }, withAvailableWeight);
             if (changed)
                 changes.setCharFormat(run.position(), run.position() + run.length(), *changed);
         }

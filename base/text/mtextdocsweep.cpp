@@ -9,7 +9,8 @@
 
 namespace {
 
-// Walks the runs of ranges in document order, each block once.
+// Walks the runs of ranges in document order, each block once. Positions are added up: Qt climbs a
+// tree for each that it is asked for.
 class RunWalk
 {
 public:
@@ -22,21 +23,21 @@ public:
     template<typename Visit>
     void visitRange(const MRVTextRange &range, Visit visit)
     {
-        if (!m_block.contains(range.start()))
+        if (range.start() >= m_blockEnd)
             enter(m_document.findBlock(range.start()));
-        while (m_block.isValid() && m_block.position() < range.end()) {
+        while (m_block.isValid()) {
             for (; !m_run.atEnd(); ++m_run) {
-                const QTextFragment run = m_run.fragment();
-                const int runEnd = run.position() + run.length();
-                if (run.position() >= range.end())
+                if (m_runStart >= range.end())
                     return;
-                if (runEnd <= range.start())
-                    continue;
-                visit(run, qMax(run.position(), range.start()), qMin(runEnd, range.end()));
+                const QTextFragment run = m_run.fragment();
+                const int runEnd = m_runStart + run.length();
+                if (runEnd > range.start())
+                    visit(run, qMax(m_runStart, range.start()), qMin(runEnd, range.end()));
                 if (runEnd > range.end()) // its rest may lie in the next range
                     return;
+                m_runStart = runEnd;
             }
-            if (m_block.position() + m_block.length() >= range.end())
+            if (m_blockEnd >= range.end())
                 return;
             enter(m_block.next());
         }
@@ -47,11 +48,15 @@ private:
     {
         m_block = block;
         m_run = block.begin();
+        m_runStart = block.position();
+        m_blockEnd = m_runStart + block.length();
     }
 
     const QTextDocument &m_document;
     QTextBlock m_block;
     QTextBlock::iterator m_run;
+    int m_runStart = 0;
+    int m_blockEnd = 0;
 };
 
 } // namespace
@@ -71,8 +76,8 @@ void MrvSweep::changeRanges(QTextDocument *document, const QVector<MRVTextRange>
     RunWalk walk(*document);
     for (const MRVTextRange &range : ranges) {
         walk.visitRange(range, [&](const QTextFragment &run, int start, int end) {
-            const auto &changed =
-                replacements.value(run.charFormatIndex(), run.charFormat(), change);
+            const auto &changed = replacements.value(
+                run.charFormatIndex(), [&] { return run.charFormat(); }, change);
             if (changed)
                 changes.setCharFormat(start, end, *changed);
         });
