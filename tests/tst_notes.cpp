@@ -246,6 +246,7 @@ void TestNotes::numbersAndFinds()
 {
     QTextDocument document;
     build(&document, "a|{bold=75}b{bold=60}c{bold=75}d|(1){}");
+    QCOMPARE(MTextDoc::blockFormatByBlockNumber(&document, 3), QTextBlockFormat());
     QCOMPARE(textOf(MTextDoc::charFormatByBlockNumber(&document, 1)), QString("bold=75"));
     for (int none : {-1, 2, 3})
         QVERIFY(MTextDoc::charFormatByBlockNumber(&document, none).isEmpty());

@@ -92,7 +92,9 @@ void MTextDoc::normalizePageBreaks(QTextDocument *document)
 
 QTextBlockFormat MTextDoc::blockFormatByBlockNumber(const QTextDocument *document, int number)
 {
-    return blockByNumber(document, number).blockFormat();
+    // Not what Qt gives for an invalid block: that is no block format, and cannot be set.
+    const QTextBlock block = blockByNumber(document, number);
+    return block.isValid() ? block.blockFormat() : QTextBlockFormat();
 }
 
 void MTextDoc::setBlockFormatByBlockNumber(QTextDocument *document, int number,
