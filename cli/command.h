@@ -18,6 +18,7 @@ struct Command
 };
 
 int runExport(const QStringList &arguments);
+int runFind(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
+    {"find", "find text and formats in manuscripts", runFind},
 };
 
 QString usage()
