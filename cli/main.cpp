@@ -13,6 +13,7 @@ namespace {
 constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
+    {"replace", "replace text in manuscripts", runReplace},
 };
 
 QString usage()
