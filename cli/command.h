@@ -19,6 +19,7 @@ struct Command
 
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
+int runNotes(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
