@@ -38,7 +38,7 @@ const QRegularExpression &htmlMarkup()
 {
     static const QRegularExpression markup(
         QStringLiteral("<!--.*?-->|<(head|title|style|script)\\b[^>]*>.*?</\\1\\s*>"
-                       "|<[!?/A-Za-z](?:\"[^\"]*\"|'[^']*'|[^'\">])*>"),
+                       "|<[!?/A-Za-z](?:\"[^\"]*+\"|'[^']*+'|[^'\">]++)*+>"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     return markup;
 }
