@@ -43,8 +43,8 @@ void addOptions(QCommandLineParser *parser)
         "Replaces text in manuscripts (HTML, Markdown or plain text; - is standard input). Markup\n"
         "and all other text stay as they are. Without -o each file is replaced, and what it was\n"
         "is kept beside it as FILE~ (or FILE~1 and so on: no file but the input is overwritten);\n"
-        "standard input goes to standard output. All inputs are changed or, on an error, none.\n"
-        "Exit code 1: nothing to replace; no file is touched then."));
+        "standard input goes to standard output. No file is written before all changes are ready.\n"
+        "Exit code 1: nothing to replace."));
     parser->addPositionalArgument(QStringLiteral("TEXT"), QStringLiteral("What to look for."));
     parser->addPositionalArgument(
         QStringLiteral("NEW"),
