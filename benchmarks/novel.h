@@ -61,13 +61,15 @@ inline std::unique_ptr<QTextDocument> novel(int words, int styles = 3)
 
 /**
  * Times two functions in turn, seven times each, and reports the smallest time of each side in milliseconds
- * and their ratio: the machine may be noisy, the comparison must not be.
+ * and their ratio: the machine may be noisy, the comparison must not be. Before each of them, @p prepare is
+ * called, which is not timed.
  */
-template<typename Work, typename Peer>
-void compare(benchmark::State &state, Work work, Peer peer)
+template<typename Work, typename Peer, typename Prepare>
+void compare(benchmark::State &state, Work work, Peer peer, Prepare prepare)
 {
     constexpr int Repetitions = 7;
-    auto milliseconds = [](auto function) {
+    auto milliseconds = [&](auto function) {
+        prepare();
         const auto start = std::chrono::steady_clock::now();
         function();
         return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
@@ -84,4 +86,10 @@ void compare(benchmark::State &state, Work work, Peer peer)
     state.counters["ours_ms"] = ours;
     state.counters["peer_ms"] = theirs;
     state.counters["ratio"] = ours / theirs;
+}
+
+template<typename Work, typename Peer>
+void compare(benchmark::State &state, Work work, Peer peer)
+{
+    compare(state, work, peer, [] {});
 }

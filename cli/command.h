@@ -18,6 +18,9 @@ struct Command
 };
 
 int runExport(const QStringList &arguments);
+int runFind(const QStringList &arguments);
+int runNotes(const QStringList &arguments);
+int runReplace(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

@@ -76,7 +76,7 @@ QTextCodec *declaredCodec(const QByteArray &bytes, const QString &format, QByteA
 }
 
 bool decoded(const QByteArray &bytes, const QString &format, const QString &encoding, QString *text,
-             QString *reason)
+             QByteArray *used, QString *reason)
 {
     QByteArray name = encoding.toLatin1();
     QTextCodec *codec =
@@ -86,7 +86,8 @@ bool decoded(const QByteArray &bytes, const QString &format, const QString &enco
                       .arg(QString::fromLatin1(name));
         return false;
     }
-    if (!MRVCoreUtil::decodeText(bytes, codec->name().constData(), text)) {
+    *used = codec->name();
+    if (!MRVCoreUtil::decodeText(bytes, used->constData(), text)) {
         *reason = QStringLiteral("not readable as %1; give the right encoding with --encoding")
                       .arg(QString::fromLatin1(codec->name()));
         return false;
@@ -204,26 +205,19 @@ QByteArray standardInput(QString *reason)
 
 bool readText(const QString &text, const QString &format, DocumentInput *input, QString *reason)
 {
-    input->document = std::make_unique<QTextDocument>();
-    input->document->setUndoRedoEnabled(false);
-    if (format == QLatin1String("markdown")) {
-        input->document->setMarkdown(text);
-        return true;
-    }
-    if (format == QLatin1String("text")) {
-        input->document->setPlainText(text);
-        return true;
-    }
-    if (isHtmlNestedDeeper(text, DeepestNesting)) {
+    const bool html = format == QLatin1String("html");
+    if (html && isHtmlNestedDeeper(text, DeepestNesting)) {
         *reason =
             QStringLiteral("elements are nested more than %1 levels deep").arg(DeepestNesting);
         return false;
     }
-    input->document->setHtml(text);
-    const HtmlHead head = readHtmlHead(text);
-    input->authors = head.authors;
-    input->description = head.description;
-    input->language = head.language;
+    input->document = newDocument(text, format);
+    if (html) {
+        const HtmlHead head = readHtmlHead(text);
+        input->authors = head.authors;
+        input->description = head.description;
+        input->language = head.language;
+    }
     return true;
 }
 
@@ -237,6 +231,20 @@ DocumentInput &DocumentInput::operator=(DocumentInput &&) noexcept = default;
 QString DocumentInput::fileName() const
 {
     return path == QLatin1String("-") ? QString() : QFileInfo(path).fileName();
+}
+
+std::unique_ptr<QTextDocument> newDocument(const QString &text, const QString &format)
+{
+    auto document = std::make_unique<QTextDocument>();
+    document->setUndoRedoEnabled(false);
+    if (format == QLatin1String("html")) {
+        document->setHtml(text);
+    } else if (format == QLatin1String("markdown")) {
+        document->setMarkdown(text);
+    } else {
+        document->setPlainText(text);
+    }
+    return document;
 }
 
 bool readDocument(const QString &path, const InputOptions &options, DocumentInput *input,
@@ -256,10 +264,12 @@ bool readDocument(const QString &path, const InputOptions &options, DocumentInpu
                     QStringLiteral("unknown type of file; say with --from what it is"));
     }
     QString text;
-    if (!decoded(bytes, format, options.encoding, &text, &reason)) {
+    if (!decoded(bytes, format, options.encoding, &text, &input->encoding, &reason)) {
         return fail(error, path, reason);
     }
     input->path = path;
+    input->format = format;
+    input->bytes = bytes;
     if (!readText(text, format, input, &reason)) {
         return fail(error, path, reason);
     }

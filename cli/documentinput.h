@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +18,9 @@ struct DocumentInput
     QString language;
     QStringList pictures; // files that it shows
     int remotePictures = 0; // that it shows from elsewhere
+    QString format; // "html", "markdown" or "text"
+    QByteArray encoding; // as QTextCodec calls it
+    QByteArray bytes; // as they were read
 
     DocumentInput();
     ~DocumentInput();
@@ -26,6 +30,9 @@ struct DocumentInput
     /** The file's name without folder; empty for standard input. */
     QString fileName() const;
 };
+
+/** A document read from a text of a format, without its pictures. Keeps no undo history. */
+std::unique_ptr<QTextDocument> newDocument(const QString &text, const QString &format);
 
 /** How to read an input. Empty texts: find out. */
 struct InputOptions

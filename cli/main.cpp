@@ -12,6 +12,9 @@ namespace {
 
 constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
+    {"find", "find text and formats in manuscripts", runFind},
+    {"notes", "list links, notes, highlights and pictures", runNotes},
+    {"replace", "replace text in manuscripts", runReplace},
 };
 
 QString usage()

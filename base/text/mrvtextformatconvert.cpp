@@ -3,10 +3,10 @@
 #include "text/mrvtextblockformat.h"
 #include "text/mrvtextcharformat.h"
 #include "text/mrvtextformat_p.h"
+#include "text/mrvtextformatchanges_p.h"
 #include "text/mrvtextutil.h"
 
 #include <QFont>
-#include <QHash>
 #include <QPair>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -14,109 +14,8 @@
 #include <QTextList>
 
 #include <optional>
-#include <utility>
-#include <vector>
 
 namespace {
-
-// Qt's own comparison depends on the order in which the properties were set. This one does not, and
-// tells a heading level 1 from a line spacing of 1.0.
-bool isSameFormat(const QTextFormat &a, const QTextFormat &b)
-{
-    mrvRegisterTextTypes();
-    const QMap<int, QVariant> propertiesA = a.properties();
-    const QMap<int, QVariant> propertiesB = b.properties();
-    if (propertiesA != propertiesB)
-        return false;
-    for (auto it = propertiesA.cbegin(), other = propertiesB.cbegin(); it != propertiesA.cend();
-         ++it, ++other) {
-        if (it.value().userType() != other.value().userType())
-            return false;
-    }
-    return true;
-}
-
-// The changes to a document's formats, collected while walking it and applied afterwards, since an
-// edit ends the walk over a block's runs. Positions, not cursors: every living cursor is adjusted at
-// every edit.
-class FormatChanges
-{
-public:
-    void setBlockCharFormat(int position, const QTextCharFormat &format)
-    {
-        m_blockChars.push_back({position, position, format});
-    }
-    void setBlockFormat(int position, const QTextBlockFormat &format)
-    {
-        m_blocks.push_back({position, position, format});
-    }
-    void setCharFormat(int start, int end, const QTextCharFormat &format)
-    {
-        m_runs.push_back({start, end, format});
-    }
-
-    // One undo step, or none where nothing was collected.
-    void apply(QTextDocument *document) const;
-
-private:
-    template<typename Format>
-    struct Change
-    {
-        int start;
-        int end;
-        Format format;
-    };
-
-    std::vector<Change<QTextCharFormat>> m_blockChars;
-    std::vector<Change<QTextBlockFormat>> m_blocks;
-    std::vector<Change<QTextCharFormat>> m_runs;
-};
-
-void FormatChanges::apply(QTextDocument *document) const
-{
-    if (m_blockChars.empty() && m_blocks.empty() && m_runs.empty())
-        return;
-    QTextCursor cursor(document);
-    cursor.beginEditBlock();
-    for (const auto &change : m_blockChars) {
-        cursor.setPosition(change.start);
-        cursor.setBlockCharFormat(change.format);
-    }
-    for (const auto &change : m_blocks) {
-        cursor.setPosition(change.start);
-        cursor.setBlockFormat(change.format);
-    }
-    for (const auto &change : m_runs) {
-        cursor.setPosition(change.start);
-        cursor.setPosition(change.end, QTextCursor::KeepAnchor);
-        cursor.setCharFormat(change.format);
-    }
-    cursor.endEditBlock();
-}
-
-// A document has far fewer formats than runs: a format's replacement is computed once and found
-// again by its index. Nothing stands for a format that stays as it is.
-template<typename Format, typename Key>
-class Replacements
-{
-public:
-    template<typename Compute>
-    const std::optional<Format> &value(Key key, const Format &existing, Compute compute)
-    {
-        auto it = m_values.find(key);
-        if (it == m_values.end()) {
-            Format merged = compute(existing);
-            std::optional<Format> changed;
-            if (!isSameFormat(merged, existing))
-                changed = std::move(merged);
-            it = m_values.insert(key, changed);
-        }
-        return it.value();
-    }
-
-private:
-    QHash<Key, std::optional<Format>> m_values;
-};
 
 // What convertToFormat() was asked to do.
 struct Style
@@ -172,16 +71,18 @@ public:
     void apply(QTextDocument *document) const { m_changes.apply(document); }
 
 private:
-    const std::optional<QTextCharFormat> &replacement(int index, const QTextCharFormat &existing)
+    // Of a block or of a run, which both know the index of a character format.
+    template<typename Part>
+    const std::optional<QTextCharFormat> &replacement(const Part &part)
     {
-        return m_chars.value(index, existing, [this](const QTextCharFormat &format) {
-            return m_style.merged(format);
-        });
+        return m_chars.value(
+            part.charFormatIndex(), [&] { return part.charFormat(); },
+            [this](const QTextCharFormat &format) { return m_style.merged(format); });
     }
 
     void collectBlockCharFormat(const QTextBlock &block)
     {
-        const auto &changed = replacement(block.charFormatIndex(), block.charFormat());
+        const auto &changed = replacement(block);
         if (changed)
             m_changes.setBlockCharFormat(block.position(), *changed);
     }
@@ -193,9 +94,9 @@ private:
         const QTextBlock::iterator run = block.begin();
         const int firstChar =
             run.atEnd() ? block.charFormatIndex() : run.fragment().charFormatIndex();
-        const auto &changed =
-            m_blocks.value(qMakePair(block.blockFormatIndex(), firstChar), block.blockFormat(),
-                           [&](const QTextBlockFormat &) { return m_style.merged(block); });
+        const auto &changed = m_blocks.value(
+            qMakePair(block.blockFormatIndex(), firstChar), [&] { return block.blockFormat(); },
+            [&](const QTextBlockFormat &) { return m_style.merged(block); });
         if (changed)
             m_changes.setBlockFormat(block.position(), *changed);
     }
@@ -208,7 +109,7 @@ private:
                 continue;
             if (run.position() >= end)
                 break;
-            const auto &changed = replacement(run.charFormatIndex(), run.charFormat());
+            const auto &changed = replacement(run);
             if (changed)
                 m_changes.setCharFormat(qMax(run.position(), start),
                                         qMin(run.position() + run.length(), end), *changed);
@@ -216,9 +117,9 @@ private:
     }
 
     const Style &m_style;
-    FormatChanges m_changes;
-    Replacements<QTextCharFormat, int> m_chars;
-    Replacements<QTextBlockFormat, QPair<int, int>> m_blocks;
+    MrvFormatChanges m_changes;
+    MrvReplacements<QTextCharFormat, int> m_chars;
+    MrvReplacements<QTextBlockFormat, QPair<int, int>> m_blocks;
 };
 
 // Qt keeps a family in two properties; HTML import sets both.
@@ -319,12 +220,12 @@ void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
         return;
     const int start = cursor.selectionStart();
     const int end = cursor.selectionEnd();
-    FormatChanges changes;
-    Replacements<QTextCharFormat, int> replacements;
+    MrvFormatChanges changes;
+    MrvReplacements<QTextCharFormat, int> replacements;
     QTextBlock block = cursor.document()->findBlock(start);
     for (; block.isValid(); block = block.next()) {
-        const auto &blockChar =
-            replacements.value(block.charFormatIndex(), block.charFormat(), withAvailableWeight);
+        const auto &blockChar = replacements.value(
+            block.charFormatIndex(), [&] { return block.charFormat(); }, withAvailableWeight);
         if (blockChar)
             changes.setBlockCharFormat(block.position(), *blockChar);
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
@@ -333,8 +234,8 @@ void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
                 continue;
             if (run.position() > end)
                 break;
-            const auto &changed =
-                replacements.value(run.charFormatIndex(), run.charFormat(), withAvailableWeight);
+            const auto &changed = replacements.value(
+                run.charFormatIndex(), [&] { return run.charFormat(); }, withAvailableWeight);
             if (changed)
                 changes.setCharFormat(run.position(), run.position() + run.length(), *changed);
         }

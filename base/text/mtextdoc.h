@@ -9,10 +9,15 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QTextBlockFormat>
+#include <QTextCharFormat>
+#include <QTextCursor>
 #include <QTextImageFormat>
 #include <QVariant>
 
+class QColor;
 class QDir;
+class QTextBlock;
 class QTextDocument;
 
 /**
@@ -22,8 +27,13 @@ class QTextDocument;
  * the URL made from the image's resource id (QTextFormat::ImageName). Equal images side by side are
  * one run of text to Qt, but each is counted here.
  *
- * A change to a whole document is one undo step, and none where there is nothing to change. Null
- * documents are left alone. GUI thread only.
+ * A run is a stretch of one paragraph in one character format. Where a function takes a pattern, it
+ * concerns the runs that set every property of it, to an equal value where @c matchValues is true;
+ * a pattern without properties fits all text. Paragraph ends are no part of a run: what a new, empty
+ * paragraph would give to text typed into it stays.
+ *
+ * A change to a whole document is one undo step, and none where there is nothing to change. It takes
+ * time linear in the document. Null documents and cursors are left alone. GUI thread only.
  *
  * @since 1.0
  */
@@ -129,4 +139,142 @@ public:
      * length of the raw data in bytes, and link, separated by tabs. Not translated.
      */
     static QString dumpImageInfo(const QTextDocument &document);
+
+    // Inspector comments and footnotes: text that carries a note's data. The text stays.
+
+    /** Removes the marks and data of a comment from a format, and the address (AnchorHref). */
+    static void clearCommentProperties(QTextCharFormat *format);
+    /**
+     * Does so to the selected text, run by run, so that each keeps what else it has; without a
+     * selection, to the format that text typed at the cursor gets.
+     */
+    static void clearCommentPropertiesCursor(QTextCursor *cursor);
+    /** Clears the comment properties of the runs whose @p property is true. */
+    static void removeComments(QTextDocument *document, int property);
+    static void removeInspectorComments(QTextDocument *document);
+    static void removeInspectorFootnotes(QTextDocument *document);
+    /** Those of both kinds: of the runs that have comment data (CommentData0), whatever they are. */
+    static void removeInspectorCommentsAndFootnotes(QTextDocument *document);
+    /**
+     * Clears the comment properties of the runs of the selection whose @p property is true; of those
+     * that reach out of it, of the part inside.
+     */
+    static void removeCommentsWithinSelection(const QTextCursor &cursor, int property);
+
+    // Inline annotations and footnotes: text of the document that is marked to be a note.
+
+    /** Removes both inline marks from a format. */
+    static void clearInlineProperties(QTextCharFormat *format);
+    /** Does so as clearCommentPropertiesCursor() does. */
+    static void clearInlinePropertiesCursor(QTextCursor *cursor);
+    /**
+     * Deletes the text of all annotations. An annotation at the end of a paragraph takes the end
+     * along, so that the next paragraph joins; not at the end of a table cell or of the document, and
+     * not in front of a table.
+     */
+    static void removeAnnotations(QTextDocument *document);
+    /** Deletes the text of all inline footnotes, and no paragraph ends. */
+    static void removeInlineFootnotes(QTextDocument *document);
+    /** Makes all annotations ordinary text. A run that is a footnote too is none any more. */
+    static void inlineAnnotationsToText(QTextDocument *document);
+    /** Makes all inline footnotes ordinary text. A run that is an annotation too is none any more. */
+    static void inlineFootnotesToText(QTextDocument *document);
+
+    // Links: runs with IsAnchor true. Colour and underline of a link that goes stay.
+
+    /** Removes address, name and mark of a link from a format. */
+    static void clearLinkProperties(QTextCharFormat *format);
+    /**
+     * Makes links plain text. Footnote links from HTML stay (a name that starts with "fn" and an
+     * address that holds "html#fn"), and so do links on raised or lowered text.
+     */
+    static void clearHyperlinks(QTextDocument *document);
+    /**
+     * The same for links to documents of the project: those whose address is an integer, with or
+     * without a sign. Links on raised or lowered text stay.
+     */
+    static void clearMorvaneLinks(QTextDocument *document);
+
+    // Colours and other formats
+
+    /** Removes the text colour of all runs but links. */
+    static void clearTextColor(QTextDocument *document);
+    /**
+     * Gives @p color to all runs that have a text colour and are no links; text without one stays
+     * so. An invalid colour clears.
+     */
+    static void setTextColor(QTextDocument *document, const QColor &color);
+    /** Removes the background of all runs. */
+    static void clearHighlighting(QTextDocument *document);
+    /** Removes the properties that @p pattern has from the runs that it fits. */
+    static void clearAll(QTextDocument *document, const QTextCharFormat &pattern, bool matchValues);
+    /**
+     * clearAll() with a pattern of one property. No run has an invalid @p value, so with
+     * @p matchValues that clears nothing.
+     */
+    static void clearAllProperty(QTextDocument *document, int property, const QVariant &value,
+                                 bool matchValues);
+    /**
+     * clearAll() between the two ends of a selection; a run that reaches beyond is split. Nothing
+     * without a selection.
+     */
+    static void clearAllSelection(QTextCursor cursor, const QTextCharFormat &pattern,
+                                  bool matchValues);
+    /** In the runs that @p from fits, its properties are removed, and those of @p to set. */
+    static void replaceAll(QTextDocument *document, const QTextCharFormat &from,
+                           const QTextCharFormat &to, bool matchValues);
+    /**
+     * Finds the first run of a paragraph that @p pattern fits and that starts at @p offset or later.
+     *
+     * @param offset from the start of @p block.
+     * @param cursor selects the run; untouched where there is none.
+     * @return whether there is one.
+     */
+    static bool findInBlock(const QTextBlock &block, const QTextCharFormat &pattern, int offset,
+                            QTextCursor &cursor, bool matchValues);
+    /** The same as MRVTextFinder::continuousFragmentCount(). */
+    static int continuousFragmentCount(const QTextCharFormat &format, const QTextCursor &from,
+                                       bool compareValues);
+
+    // Paragraphs. The options of how a document is drawn are no part of undo.
+
+    /** Whether blanks and tabs as well as line and paragraph ends are drawn. */
+    static bool invisiblesShown(const QTextDocument &document);
+    /** Switches both on or off; with only one of them on, they are not shown, and stay when hidden. */
+    static void showInvisibles(QTextDocument *document, bool show);
+    /** Clears all flags of the document's default text option. */
+    static void clearDefaultTextOptionFlags(QTextDocument *document);
+
+    /**
+     * Turns page breaks after a paragraph into page breaks before the next one. One after the last
+     * paragraph is dropped.
+     */
+    static void normalizePageBreaks(QTextDocument *document);
+
+    /**
+     * Replaces all tables, nested ones included, by their text: a paragraph for each row, with a tab
+     * between two cells that start in it; a cell of several paragraphs breaks the line.
+     *
+     * Characters keep their formats, and images stay. Each line has the paragraph format that it had
+     * in its first cell, but belongs to no list. The text starts a paragraph of its own, for which an
+     * empty paragraph in front of the table is used up; so is an empty one that only closes the
+     * document, cell or frame behind the table.
+     */
+    static void tablesToText(QTextDocument *document);
+
+    // Paragraphs by number, from 0; table cells count. Those that do not exist are passed over.
+
+    /** Empty for an unknown number. */
+    static QTextBlockFormat blockFormatByBlockNumber(const QTextDocument *document, int number);
+    /** Whether the paragraph is in a list, and in which, stays as it is. */
+    static void setBlockFormatByBlockNumber(QTextDocument *document, int number,
+                                            const QTextBlockFormat &format);
+    /** The format of the paragraph's first run; empty for an empty paragraph. */
+    static QTextCharFormat charFormatByBlockNumber(const QTextDocument *document, int number);
+    /**
+     * Sets the format of the paragraph's first run; nothing happens in an empty paragraph. An image
+     * stays one.
+     */
+    static void setCharFormatByBlockNumber(QTextDocument *document, int number,
+                                           const QTextCharFormat &format);
 };

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "documentinput.h"
+
+#include "search/mrvtextfinder.h"
+#include "search/mrvtextreplacer.h"
+#include "text/mrvtextrange.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+class QCommandLineParser;
+class QTextDocument;
+
+/** What a subcommand looks for, as its arguments say. */
+class TextSearch
+{
+public:
+    MRVTextQuery query; // an empty text: whatever has the formats asked for
+
+    /** Adds the options that say how to search, and how to read the inputs. */
+    static void addOptions(QCommandLineParser *parser);
+    /** Takes up these options. @return false, with a text, when they are wrong. */
+    bool readOptions(const QCommandLineParser &parser, QString *error);
+    bool hasFormats() const { return !m_formats.isEmpty(); }
+
+    /** All finds, in document order; those of formats may go on over paragraph ends. */
+    QVector<MRVTextRange> findAll(QTextDocument *document) const;
+    /** What replacing all finds would change, in document order. */
+    QVector<MRVTextChange> preview(QTextDocument *document, const QString &replacement) const;
+
+private:
+    struct Format
+    {
+        MRVTextFinder::FindType type;
+        QVariant value;
+    };
+
+    QVector<MRVTextRange> runs(QTextDocument *document) const;
+
+    QVector<Format> m_formats; // text has to have all of them
+};
+
+/** Adds the options that say how to read inputs. */
+void addInputOptions(QCommandLineParser *parser);
+/**
+ * Takes up these options, and looks at the list of inputs. Pictures are left alone.
+ * @return false, with a text, when they are wrong.
+ */
+bool readInputOptions(const QCommandLineParser &parser, const QStringList &inputs,
+                      InputOptions *options, QString *error);
+
+/**
+ * Where a range lies, for programs: the paragraph and the column in it, from 1; the positions in the document, from 0,
+ * the end not included; the text, with a line feed for each end of a line or paragraph. All count UTF-16 units.
+ */
+QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRange &range);
+
+void printJson(const QJsonObject &object);
+
+/** The text with blanks for line and paragraph ends, and without what would control a terminal. As long as before. */
+QString displayed(QString text);
+
+enum class Style { Match, Path, Removed, Added };
+
+/** The text as it stands, or, where standard output is a terminal, set off by a colour. */
+QString styled(Style style, const QString &text);
