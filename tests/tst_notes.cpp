@@ -107,6 +107,7 @@ QString dump(const QTextDocument &document)
         if (block != document.begin())
             text += isTable == wasTable ? '|' : isTable ? '[' : ']';
         wasTable = isTable;
+        text += block.textList() ? "- " : "";
         if (block.blockFormat().hasProperty(QTextFormat::PageBreakPolicy))
             text += QString("(%1)").arg(int(block.blockFormat().pageBreakPolicy()));
         for (auto it = block.begin(); !it.atEnd(); ++it) {

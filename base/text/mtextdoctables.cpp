@@ -85,21 +85,6 @@ std::vector<Line> linesOf(const QTextTable &table)
     return lines;
 }
 
-// Format and first character format of a paragraph, to give them back to it.
-struct Paragraph
-{
-    explicit Paragraph(const QTextBlock &block)
-        : format(block.blockFormat())
-    {
-        // Not the paragraph's own character format: behind a table, that is part of the table.
-        if (!block.begin().atEnd())
-            charFormat = block.begin().fragment().charFormat();
-    }
-
-    QTextBlockFormat format;
-    QTextCharFormat charFormat;
-};
-
 // Whether an empty paragraph behind a table is there only because something must be.
 bool onlyCloses(const QTextDocument &document, const QTextBlock &block)
 {
@@ -138,23 +123,23 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
     const int start = table.firstPosition() - 1;
     const int end = table.lastPosition() + 1;
     const std::vector<Line> lines = linesOf(table);
-    const QTextBlock blockBefore = document->findBlock(start);
-    const QTextBlock blockAfter = document->findBlock(end);
-    const Paragraph before(blockBefore);
-    const Paragraph after(blockAfter);
-    const bool keepsBefore = blockBefore.length() > 1;
-    const bool keepsAfter = !onlyCloses(*document, blockAfter);
+    const bool keepsBefore = document->findBlock(start).length() > 1;
+    const QTextBlock after = document->findBlock(end);
+    const bool keepsAfter = !onlyCloses(*document, after);
+    const QTextBlockFormat afterFormat = after.blockFormat();
+    // Not the paragraph's own character format: behind a table, that is part of the table.
+    const QTextCharFormat afterCharFormat =
+        after.begin().atEnd() ? QTextCharFormat() : after.begin().fragment().charFormat();
 
     cursor->setPosition(start);
     cursor->setPosition(end, QTextCursor::KeepAnchor);
     cursor->removeSelectedText();
-    // What is left of both paragraphs is one now.
+    // What is left in front and behind is one paragraph now, in the format of the one in front unless
+    // that was empty.
     if (keepsAfter) {
-        cursor->insertBlock(after.format, after.charFormat);
+        cursor->insertBlock(afterFormat, afterCharFormat);
         cursor->setPosition(start);
     }
-    if (keepsBefore)
-        setBlockFormat(cursor, before.format);
     insertLines(cursor, lines, keepsBefore);
 }
 
