@@ -3,7 +3,6 @@
 #include "export/mrvepubpackage.h"
 #include "export/mrvtextxhtmlexporter.h"
 
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 using Exporter = MRVTextXhtmlExporter;
@@ -81,15 +80,3 @@ BENCHMARK(manyStyles)->Apply(sizes);
 BENCHMARK(package)->Apply(sizes);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

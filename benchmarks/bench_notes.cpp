@@ -6,7 +6,6 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBrush>
-#include <QGuiApplication>
 #include <QTextBlock>
 
 #include <vector>
@@ -208,15 +207,3 @@ BENCHMARK(laidOutChangeColors)->Apply(sizes);
 BENCHMARK(laidOutRemoveNotes)->Apply(sizes);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -4,7 +4,6 @@
 #include "text/mrvtextformat.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QGuiApplication>
 #include <QRegExp>
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -283,15 +282,3 @@ MRV_SEARCH_BENCHMARK(loopInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(collectRuns)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(loopOfFragmentFinds)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(replaceAll)->ArgsProduct({sizes, {0}})->Args({100000, 1});
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
