@@ -1,9 +1,11 @@
 #include "datarows.h"
 #include "search/mrvtextfinder.h"
+#include "text/mrvtextcursor.h"
 #include "text/mrvtextformat.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextTable>
 
 #include <random>
 
@@ -171,6 +173,9 @@ private Q_SLOTS:
     void links();
     void comments();
     void nothing();
+    void cellsPartRuns();
+    void noValue();
+    void deletedDocument();
 };
 
 void tst_Finder::textLikeTheRules_data()
@@ -486,6 +491,55 @@ void tst_Finder::nothing()
     QCOMPARE(Finder::continuousFragmentCount(format, none, true)
                  + Finder::formatCount(nullptr, 1, 1),
              0);
+}
+
+// A cursor over a cell's border selects the whole table.
+void tst_Finder::cellsPartRuns()
+{
+    QTextDocument document("pre ");
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    QTextTable *table = cursor.insertTable(1, 2);
+    QTextCharFormat marked;
+    marked.setBackground(Qt::yellow);
+    table->cellAt(0, 0).firstCursorPosition().insertText("cell", marked);
+    table->cellAt(0, 1).firstCursorPosition().insertText("last", marked);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText("after", marked);
+    const QTextCursor start(&document);
+    QCOMPARE(Finder::findAllRuns(&document, Finder::FindHighlight, QVariant()).size(), 3);
+    QCOMPARE(Finder::continuousFragmentCount(marked, start, true), 3);
+    QTextCursor found = Finder::find(start, Finder::FindHighlight, QVariant());
+    QCOMPARE(found.selectedText(), QString("cell"));
+    found = Finder::find(found, Finder::FindHighlight, QVariant());
+    QCOMPARE(found.selectedText(), QString("last"));
+    QTextCursor back = Finder::find(cursor, Finder::FindHighlight, QVariant(), true);
+    back = Finder::find(back, Finder::FindHighlight, QVariant(), true);
+    QCOMPARE(back.selectedText(), QString("last"));
+    QCOMPARE(Finder::findContinuousFragment(marked, found, true).selectedText(), QString("after"));
+}
+
+void tst_Finder::noValue()
+{
+    QTextDocument document("abc");
+    const QTextCursor start(&document);
+    QCOMPARE(Finder::formatCount(&document, MRVTextFormat::InlineAnnotationProperty, QVariant()),
+             0);
+    QVERIFY(Finder::findFragmentByProperty(MRVTextFormat::InlineAnnotationProperty, QVariant(),
+                                           start, false)
+                .isNull());
+}
+
+// Its cursors are null, and still say that they have a selection.
+void tst_Finder::deletedDocument()
+{
+    auto *document = new QTextDocument("some text");
+    QTextCursor cursor(document);
+    cursor.select(QTextCursor::Document);
+    delete document;
+    QVERIFY(cursor.hasSelection() && !Finder::hasAnchor(cursor));
+    QVERIFY(Finder::findAllAnchors(cursor).isEmpty());
+    QVERIFY(!MRVTextCursor::hasMultipleBlocksSelected(cursor));
 }
 
 QTEST_MAIN(tst_Finder)

@@ -18,7 +18,9 @@ auto verdictsOf(const QTextDocument *document, const QTextCharFormat &format, bo
 QTextCharFormat formatOf(int property, const QVariant &value)
 {
     QTextCharFormat format;
-    format.setProperty(property, value);
+    // Setting no value would leave a format that everything matches: a value that no text has stands for it, and
+    // only the property's presence counts where values are not compared.
+    format.setProperty(property, value.isValid() ? value : QVariant::fromValue<void *>(nullptr));
     return format;
 }
 
@@ -198,8 +200,11 @@ int MRVTextFinder::continuousFragmentCount(const QTextCharFormat &format, const 
     bool inRun = false;
     QTextCharFormat values; // of the run
     int lastFormat = -1;
+    int lastEnd = -1;
     for (MRVPieceWalker walker(document, from.selectionEnd()); walker.isValid(); walker.next()) {
         const int index = walker.piece().format;
+        inRun = inRun && mrvAdjoins(document, lastEnd, walker.piece().start);
+        lastEnd = walker.piece().end;
         if (inRun
             && (index == lastFormat
                 || MRVTextFormat::formatsMatch(verdicts.format(index), values, true))) {

@@ -128,6 +128,8 @@ QTextCursor MRVTextFinder::anchorForCursor(const QTextCursor &cursor, bool withC
 
 bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
 {
+    if (cursor.isNull()) // also one whose document is gone, though it says that it has a selection
+        return false;
     if (!cursor.hasSelection())
         return !anchorForCursor(cursor, withComments).isNull();
     auto verdicts = linkVerdicts(cursor.document(), withComments);
@@ -140,6 +142,8 @@ bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
 QList<MRVTextRange> MRVTextFinder::findAllAnchors(const QTextCursor &cursor, bool withComments)
 {
     QList<MRVTextRange> links;
+    if (cursor.isNull())
+        return links;
     if (!cursor.hasSelection()) {
         const QTextCursor link = anchorForCursor(cursor, withComments);
         return link.isNull() ? links : links << MRVTextRange(link);

@@ -145,7 +145,7 @@ QVector<MRVTextRange> MRVTextFinder::findAllRuns(const QTextDocument *document, 
                 continue;
             }
             const int end = fragment.position() + fragment.length();
-            if (lastEnd < 0) {
+            if (lastEnd < 0 || !mrvAdjoins(document, lastEnd, fragment.position())) {
                 runs.append(MRVTextRange(fragment.position(), end));
             } else {
                 runs.last() = MRVTextRange(runs.last().start(), end);

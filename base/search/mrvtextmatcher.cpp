@@ -284,7 +284,7 @@ MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) 
     const QRegularExpressionMatch found = match(text, offset);
     if (!found.hasMatch())
         return MRVTextMatch();
-    return {found.capturedStart(), found.capturedLength()};
+    return {found.capturedStart(), found.capturedLength(), offset};
 }
 
 MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) const

@@ -17,6 +17,7 @@ struct MRVTextMatch
 {
     int start = -1; ///< negative: no match
     int length = 0;
+    int from = -1; ///< where the expression was let loose, which may lie before what it keeps (\K)
 
     int end() const { return start + length; }
     explicit operator bool() const { return start >= 0; }

@@ -53,6 +53,14 @@ void MRVPieceWalker::previous()
     }
 }
 
+bool mrvAdjoins(const QTextDocument *document, int end, int start)
+{
+    while (end < start && document->characterAt(end) == QChar::ParagraphSeparator) {
+        ++end;
+    }
+    return end >= start;
+}
+
 MRVTextPiece mrvPieceAt(const QTextDocument *document, int position)
 {
     const QTextBlock block = document->findBlock(position);

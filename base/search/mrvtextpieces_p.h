@@ -74,6 +74,12 @@ private:
     int m_index = 0;
 };
 
+/**
+ * Whether nothing but paragraph ends lies in [end, start). What lies over the border of a cell or frame is never one
+ * run: a cursor that selects it takes the whole table.
+ */
+bool mrvAdjoins(const QTextDocument *document, int end, int start);
+
 /** Calls @p found(piece) for the fragments of a part of a document, clipped to it, that pass. */
 template<typename Verdicts, typename Found>
 void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Verdicts &verdicts,
@@ -117,10 +123,10 @@ MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, 
         || (passes(back) && back.piece().end >= start);
     if (!touches)
         return range;
-    for (; passes(walker); walker.next()) {
+    for (; passes(walker) && mrvAdjoins(document, end, walker.piece().start); walker.next()) {
         end = walker.piece().end;
     }
-    for (; passes(back); back.previous()) {
+    for (; passes(back) && mrvAdjoins(document, back.piece().end, start); back.previous()) {
         start = back.piece().start;
     }
     return MRVTextRange(start, end);
@@ -133,7 +139,8 @@ class MRVRunFinder
 public:
     MRVRunFinder(const QTextDocument *document, const MRVTextRange &selection, bool backward,
                  Verdicts &verdicts)
-        : m_walker(document, backward ? selection.start() : selection.end())
+        : m_document(document)
+        , m_walker(document, backward ? selection.start() : selection.end())
         , m_verdicts(verdicts)
         , m_backward(backward)
     {
@@ -144,7 +151,8 @@ public:
             (backward ? m_walker : inner).previous();
         }
         // The rest of a run that begins on the other side is no run.
-        if (passes(m_walker) && (across || passes(inner))) {
+        if (passes(m_walker)
+            && (across || (passes(inner) && adjoin(inner.piece(), m_walker.piece())))) {
             skip();
         }
     }
@@ -172,12 +180,18 @@ private:
     MRVTextPiece skip()
     {
         MRVTextPiece last;
-        for (; passes(m_walker); step()) {
+        for (; passes(m_walker) && (last.format < 0 || adjoin(last, m_walker.piece())); step()) {
             last = m_walker.piece();
         }
         return last;
     }
+    bool adjoin(const MRVTextPiece &a, const MRVTextPiece &b) const
+    {
+        return a.start < b.start ? mrvAdjoins(m_document, a.end, b.start)
+                                 : mrvAdjoins(m_document, b.end, a.start);
+    }
 
+    const QTextDocument *m_document;
     MRVPieceWalker m_walker;
     Verdicts &m_verdicts;
     bool m_backward;

@@ -299,7 +299,7 @@ private:
 QString replacementFor(const MRVRegularExpressionMatcher &matcher, const SearchedText &text,
                        MRVTextMatch match, const QString &replacement)
 {
-    return Replacement(replacement, text, matcher.match(text.searched(), match.start)).expanded();
+    return Replacement(replacement, text, matcher.match(text.searched(), match.from)).expanded();
 }
 
 template<typename Matcher>
@@ -480,15 +480,23 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
         return false;
     bool isFind = false;
     QString after;
-    withMatcher(query, [&](const auto &matcher) {
-        eachFind(document, matcher, query, own,
-                 [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {
-                     isFind =
-                         range == own && !holdsObject(text.original(match.start, match.length));
-                     after = replacementFor(matcher, text, match, replacement);
-                     return false;
-                 });
-    });
+    // First from the selection itself; an expression that looks at what stands before it without keeping it
+    // (\K) needs the paragraph from its start.
+    const int paragraph = qMax(all.start(), document->findBlock(own.start()).position());
+    for (int from : {own.start(), paragraph}) {
+        if (isFind)
+            break;
+        withMatcher(query, [&](const auto &matcher) {
+            eachFind(document, matcher, query, MRVTextRange(from, own.end()),
+                     [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {
+                         if (range == own) {
+                             isFind = !holdsObject(text.original(match.start, match.length));
+                             after = replacementFor(matcher, text, match, replacement);
+                         }
+                         return range.start() < own.start();
+                     });
+        });
+    }
     if (isFind) {
         mrvReplaceText(cursor, after);
         if (query.flags & Finder::FindBackward) {

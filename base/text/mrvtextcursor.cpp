@@ -102,7 +102,8 @@ bool MRVTextCursor::hasWordBorderAfter(const QTextCursor &cursor, bool atEdge)
 
 bool MRVTextCursor::hasMultipleBlocksSelected(const QTextCursor &cursor)
 {
-    if (!cursor.hasSelection() || cursor.hasComplexSelection())
+    // A cursor whose document is gone is null, and may say all the same that it has a selection.
+    if (cursor.isNull() || !cursor.hasSelection() || cursor.hasComplexSelection())
         return false;
     const QTextBlock next = cursor.document()->findBlock(cursor.selectionStart()).next();
     return next.isValid() && cursor.selectionEnd() >= next.position();
