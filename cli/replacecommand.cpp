@@ -7,6 +7,7 @@
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QTextBlock>
@@ -200,6 +201,24 @@ struct Changed
     QString backup;
 };
 
+// What only some may read stays so in the backup: it gets its permissions while it is empty, and the writer keeps those
+// of the file that it replaces.
+bool writeBackup(const QString &name, const Changed &changed, QString *error)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
+        || !file.setPermissions(QFileInfo(changed.target).permissions())) {
+        *error = QStringLiteral("%1: the backup cannot be made").arg(name);
+        return false;
+    }
+    file.close();
+    if (MRVFileWriter::write(name, changed.before, error)) {
+        return true;
+    }
+    file.remove();
+    return false;
+}
+
 QString freeBackupName(const QString &path)
 {
     QString name = path + u'~';
@@ -225,7 +244,7 @@ bool write(const Options &options, Changed *changed, QString *error)
         }
         if (options.backup) {
             const QString name = freeBackupName(changed->path);
-            if (!MRVFileWriter::write(name, changed->before, error)) {
+            if (!writeBackup(name, *changed, error)) {
                 return false;
             }
             changed->backup = name;

@@ -262,7 +262,8 @@ QString displayed(QString text)
     for (QChar &character : text) {
         const QChar::Category category = character.category();
         if (category == QChar::Separator_Line || category == QChar::Separator_Paragraph
-            || character == u'\n' || character == u'\r') {
+            || character == u'\n' || character == u'\r'
+            || character == QChar::ObjectReplacementCharacter) { // a picture's place
             character = u' ';
         } else if (category == QChar::Other_Control && character != u'\t') {
             character = QChar::ReplacementCharacter;

@@ -145,11 +145,14 @@ void tst_MrvFind::allOrNone()
 void tst_MrvFind::backupsStay()
 {
     QVERIFY(writeBytes(in("a.txt"), "1"));
+    const auto secret = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QVERIFY(QFile::setPermissions(in("a.txt"), secret));
     for (const char *step : {"1 2", "2 3", "3 4"}) {
         QCOMPARE(mrv(QString("replace %1 @a.txt").arg(step)).exitCode, 0);
     }
     QCOMPARE(bytesOf(in("a.txt~")) + bytesOf(in("a.txt~1")) + bytesOf(in("a.txt~2")),
              QByteArray("123"));
+    QCOMPARE(QFile::permissions(in("a.txt~1")), secret);
 }
 
 void tst_MrvFind::otherOutput()
