@@ -288,8 +288,10 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     if (options.dryRun) {
         showProgress(QString());
         printPreview(options, input, changes);
-    } else if (!changes.isEmpty()
-               && !changedBytes(input, changes, options.rewrite, &changed.after, error)) {
+    }
+    // Also where nothing will be written, so that a dry run refuses what the real one would.
+    if (!changes.isEmpty()
+        && !changedBytes(input, changes, options.rewrite, &changed.after, error)) {
         *error = QStringLiteral("%1: %2; nothing was changed").arg(path, *error);
         return false;
     }
