@@ -137,6 +137,26 @@ bool MRVLiteralMatcher::isAt(const QString &text, int at) const
                       [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
 }
 
+// Either case of the anchor. In windows, since looking for the case that is not there up to the end of the text would
+// make many finds in a long paragraph quadratic.
+int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
+{
+    if (m_otherCase == m_anchorCharacter) {
+        const int at = text.indexOf(m_anchorCharacter, from);
+        return at < 0 ? text.size() : at;
+    }
+    for (int width = 256; from < text.size(); from += width, width *= 2) {
+        QStringView window = QStringView(text).mid(from, qMin(width, text.size() - from));
+        int at = int(window.indexOf(m_anchorCharacter));
+        window = at < 0 ? window : window.left(at);
+        const int other = int(window.indexOf(m_otherCase));
+        at = other < 0 ? at : other;
+        if (at >= 0)
+            return from + at;
+    }
+    return text.size();
+}
+
 int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
 {
     // Qt looks for single characters in vector code, so this is quicker than any skipping, as long as
@@ -144,17 +164,9 @@ int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
     constexpr int ManyAnchors = 16;
     constexpr int TooClose = 8;
     const int size = m_folded.size();
-    const auto next = [&text](QChar c, int from) {
-        const int at = text.indexOf(c, from);
-        return at < 0 ? text.size() : at;
-    };
     int from = offset + m_anchor;
-    if (from >= text.size())
-        return -1;
-    int lower = next(m_anchorCharacter, from);
-    int upper = m_otherCase == m_anchorCharacter ? text.size() : next(m_otherCase, from);
     for (int tries = 1;; ++tries) {
-        const int anchor = qMin(lower, upper);
+        const int anchor = nearestAnchor(text, from);
         const int at = anchor - m_anchor;
         if (anchor == text.size() || at + size > text.size())
             return -1;
@@ -165,8 +177,7 @@ int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
                 ? bySkipping<false>(text.utf16(), text.size(), at + 1)
                 : bySkipping<true>(text.utf16(), text.size(), at + 1);
         }
-        int &used = lower < upper ? lower : upper;
-        used = next(lower < upper ? m_anchorCharacter : m_otherCase, anchor + 1);
+        from = anchor + 1;
     }
 }
 

@@ -46,6 +46,7 @@ public:
 
 private:
     bool isAt(const QString &text, int at) const;
+    int nearestAnchor(const QString &text, int from) const;
     int byAnchor(const QString &text, int offset) const;
     template<bool Fold>
     int bySkipping(const ushort *text, int length, int offset) const;
