@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class QCommandLineParser;
+class QJsonObject;
 
 /** Exit codes of the tool. */
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
@@ -27,6 +28,9 @@ void printError(const QString &text);
 
 /** Prints a line to standard output, as UTF-8 whatever the locale. */
 void printLine(const QString &text);
+
+/** Prints an object as one line of JSON. */
+void printJson(const QJsonObject &object);
 
 /** Writes to standard output; false, with a text, when that cannot take it all. */
 bool writeStandardOutput(const QByteArray &bytes, QString *error);

@@ -1,7 +1,10 @@
 #include "command.h"
+#include "suggestion.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -67,6 +70,11 @@ void printError(const QString &text)
 void printLine(const QString &text)
 {
     printTo(stdout, text);
+}
+
+void printJson(const QJsonObject &object)
+{
+    printLine(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
 bool writeStandardOutput(const QByteArray &bytes, QString *error)
@@ -144,7 +152,13 @@ int main(int argc, char **argv)
             return code;
         }
     }
-    printError(name.isEmpty() ? QStringLiteral("a command is missing; try 'mrv --help'")
-                              : QStringLiteral("unknown command '%1'; try 'mrv --help'").arg(name));
+    QStringList names;
+    for (const Command &command : commands) {
+        names.append(QLatin1String(command.name));
+    }
+    const QString advice = didYouMean(name, names);
+    printError((name.isEmpty() ? QStringLiteral("a command is missing")
+                               : QStringLiteral("unknown command '%1'").arg(name))
+               + (advice.isNull() ? QStringLiteral("; try 'mrv --help'") : advice));
     return WrongUsage;
 }

@@ -9,6 +9,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"
+#include "util/mrvxmltext.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -385,7 +386,7 @@ QString MRVEPubBook::styleSheet() const
 
 QString MRVEPubBook::title() const
 {
-    const QString own = MRVHtmlText::withoutForbiddenCharacters(metadata.title).simplified();
+    const QString own = MRV::toXmlText(metadata.title).simplified();
     return own.isEmpty() ? MRVEPubBook::tr("Untitled") : own;
 }
 
@@ -393,7 +394,7 @@ QStringList MRVEPubBook::authors() const
 {
     QStringList names;
     for (const QString &author : metadata.authors) {
-        const QString name = MRVHtmlText::withoutForbiddenCharacters(author).simplified();
+        const QString name = MRV::toXmlText(author).simplified();
         if (!name.isEmpty()) {
             names.append(name);
         }

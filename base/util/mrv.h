@@ -9,3 +9,4 @@
 #include "util/mrvmimetypes.h"
 #include "util/mrvnames.h"
 #include "util/mrvpaths.h"
+#include "util/mrvxmltext.h"
