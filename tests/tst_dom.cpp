@@ -552,7 +552,7 @@ private Q_SLOTS:
     void refusesToSaveTooDeep()
     {
         MRVDomDoc doc;
-        for (int i = 0; i < MRVDomDoc::MaxDepth; ++i)
+        for (int i = 0; i < MRVDomLimits::MaxDepth; ++i)
             doc.create("a");
         doc.append("b", "t");
         QCOMPARE(saved(doc), QByteArray("refused"));

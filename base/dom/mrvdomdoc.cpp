@@ -1,9 +1,9 @@
 #include "dom/mrvdomdoc.h"
 
 #include "core/mrvfilewriter.h"
-#include "dom/mrvdomlimits_p.h"
+#include "core/mrvxmltext.h"
+#include "dom/mrvdominput_p.h"
 #include "dom/mrvdomwriter_p.h"
-#include "util/mrvxmltext.h"
 
 #include <QFile>
 
@@ -187,7 +187,7 @@ bool MRVDomDoc::save(const QString &fileName, QString *error) const
     if (!mrvWriteXml(m_document, &bytes)) {
         if (error) {
             *error = tr("%1: elements are nested more deeply than %2 levels")
-                         .arg(fileName, QString::number(MaxDepth));
+                         .arg(fileName, QString::number(MRVDomLimits::MaxDepth));
         }
         return false;
     }
@@ -301,23 +301,23 @@ bool MRVDomDoc::setChild(const QString &path)
 
 QDomText MRVDomDoc::newText(const QString &text)
 {
-    return m_document.createTextNode(MRV::toXmlText(text));
+    return m_document.createTextNode(mrvXmlText(text));
 }
 
 QDomElement MRVDomDoc::createElement(QString spec, QString text)
 {
     const QStringList parts = spec.split(u'@');
-    QDomElement element = m_document.createElement(MRV::toXmlText(parts.constFirst()));
+    QDomElement element = m_document.createElement(mrvXmlText(parts.constFirst()));
     if (!text.isEmpty()) {
         element.appendChild(newText(text));
     }
     // Deliberate: each attribute receives the text, whatever value is written after its name.
-    const QString value = MRV::toXmlText(text).trimmed();
+    const QString value = mrvXmlText(text).trimmed();
     for (int i = 1; i < parts.size(); ++i) {
         const int equals = parts[i].indexOf(u'=');
         const QString name = (equals > 0 ? parts[i].left(equals) : parts[i]).trimmed();
         if (!name.isEmpty()) {
-            element.setAttribute(MRV::toXmlText(name), value);
+            element.setAttribute(mrvXmlText(name), value);
         }
     }
     return element;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dom/mrvdomlimits.h"
 #include "dom/mrvdomtext.h"
 #include "util/mrvbase_export.h"
 
@@ -43,13 +44,6 @@ public:
     /** What lookups return when nothing is found: a null element. */
     static const QDomElement &EmptyElement;
 
-    /** Elements may be nested this deeply, the document element counting as one, to be loaded or saved. */
-    static constexpr int MaxDepth = 1000;
-    /** What entities expand to may be this many times as long as the document ... */
-    static constexpr int MaxExpansionFactor = 100;
-    /** ... and longer than it by so many characters; a document beyond either is refused. */
-    static constexpr int MaxExpansion = 8 * 1024 * 1024;
-
     /** An empty document. */
     MRVDomDoc();
     /** A document loaded from a file; empty where load() fails. */
@@ -72,7 +66,7 @@ public:
      * a prefix is part of a name.
      *
      * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set, when the text is no
-     * XML, or is refused: nested more deeply than MaxDepth, or with entities that expand to more than the limits.
+     * XML, or is refused: nested more deeply, or with entities that expand to more, than MRVDomLimits allows.
      * External entities are never fetched.
      */
     bool setContent(const QString &xml);
@@ -92,7 +86,7 @@ public:
      * Writes the document as UTF-8, whatever its declaration said before, with an indentation of three blanks a level
      * and the attributes of each element sorted by name: the same document gives the same bytes.
      *
-     * @return false when the device did not take it all, or when elements are nested more deeply than MaxDepth, so
+     * @return false when the device did not take it all, or when elements are nested more deeply than MRVDomLimits allows, so
      * that the document could not be loaded again; nothing is written then.
      */
     bool save(QIODevice &device) const;

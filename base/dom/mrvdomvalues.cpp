@@ -1,6 +1,6 @@
 #include "dom/mrvdomdoc.h"
 
-#include "util/mrvxmltext.h"
+#include "core/mrvxmltext.h"
 
 // Values as the text of elements and as attributes.
 
@@ -59,7 +59,7 @@ bool MRVDomDoc::set(QString text, QString path)
     if (first.isNull()) {
         return false;
     }
-    first.setData(MRV::toXmlText(text));
+    first.setData(mrvXmlText(text));
     return true;
 }
 
@@ -159,7 +159,7 @@ bool MRVDomDoc::setAttr(const QString &attrName, const QString &value, QString p
         return false;
     }
     // Deliberate: on a null element this does nothing, and counts as done.
-    element.setAttribute(attrName, MRV::toXmlText(value));
+    element.setAttribute(attrName, mrvXmlText(value));
     return true;
 }
 

@@ -1,7 +1,7 @@
 #include "dom/mrvdomwriter_p.h"
 
-#include "dom/mrvdomdoc.h"
-#include "util/mrvxmltext.h"
+#include "core/mrvxmltext.h"
+#include "dom/mrvdomlimits.h"
 
 #include <QRegularExpression>
 #include <QTextStream>
@@ -21,7 +21,7 @@ bool readManyAttributes(const QDomElement &element, Attributes *attributes)
     QString text;
     QTextStream stream(&text);
     element.cloneNode(false).save(stream, -1);
-    QXmlStreamReader reader(MRV::toXmlText(text));
+    QXmlStreamReader reader(mrvXmlText(text));
     reader.setNamespaceProcessing(false);
     reader.readNextStartElement();
     const QXmlStreamAttributes read = reader.attributes();
@@ -90,7 +90,7 @@ private:
         for (;;) {
             const QDomNode first = begin(node, depth);
             if (!first.isNull()) {
-                if (++depth >= MRVDomDoc::MaxDepth && first.isElement()) {
+                if (++depth >= MRVDomLimits::MaxDepth && first.isElement()) {
                     return false;
                 }
                 node = first;
@@ -118,7 +118,7 @@ private:
             break;
         case QDomNode::CDATASectionNode:
             m_text += QLatin1String("<![CDATA[");
-            MRV::appendXmlText(&m_text, node.nodeValue());
+            mrvAppendXmlText(&m_text, node.nodeValue());
             m_text += QLatin1String("]]>");
             break;
         case QDomNode::CommentNode:
@@ -129,7 +129,7 @@ private:
             break;
         case QDomNode::ProcessingInstructionNode:
             m_text += QLatin1String("<?") + node.nodeName() + u' ';
-            MRV::appendXmlText(&m_text, isDeclaration(node) ? declaration(node) : node.nodeValue());
+            mrvAppendXmlText(&m_text, isDeclaration(node) ? declaration(node) : node.nodeValue());
             m_text += QLatin1String("?>\n");
             break;
         default:
@@ -194,7 +194,7 @@ private:
             indent(depth);
         }
         m_text += QLatin1String("<!--");
-        MRV::appendXmlText(&m_text, comment.nodeValue());
+        mrvAppendXmlText(&m_text, comment.nodeValue());
         if (comment.nodeValue().endsWith(u'-')) {
             m_text += u' '; // a comment must not end in "--->"
         }
@@ -221,14 +221,14 @@ private:
         QString text;
         QTextStream stream(&text);
         node.save(stream, Indentation);
-        MRV::appendXmlText(&m_text, text);
+        mrvAppendXmlText(&m_text, text);
     }
 
     enum class Place { Text, Attribute };
 
     void writeEscaped(const QString &value, Place place)
     {
-        const QString text = MRV::toXmlText(value);
+        const QString text = mrvXmlText(value);
         int done = 0;
         for (int i = 0; i < text.size(); ++i) {
             const QLatin1String entity = entityFor(text, i, place);
@@ -266,7 +266,7 @@ private:
 
     void indent(int depth)
     {
-        static const QString blanks(MRVDomDoc::MaxDepth * Indentation, u' ');
+        static const QString blanks(MRVDomLimits::MaxDepth * Indentation, u' ');
         m_text.append(blanks.constData(), depth * Indentation);
     }
 

@@ -13,6 +13,6 @@ QVector<QPair<QString, QString>> mrvSortedAttributes(const QDomElement &element)
  * Writes a document as UTF-8, laid out as QDomNode::save() does with an indentation of three blanks, but with sorted
  * attributes and without what XML cannot hold. An encoding in its declaration becomes UTF-8.
  *
- * @return false when elements are nested more deeply than MRVDomDoc::MaxDepth.
+ * @return false when elements are nested more deeply than MRVDomLimits::MaxDepth.
  */
 bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes);

@@ -8,8 +8,8 @@
 #include "text/mtextdoc.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvxmltext.h"
 #include "gui/mrvguiutil.h"
-#include "util/mrvxmltext.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -386,7 +386,7 @@ QString MRVEPubBook::styleSheet() const
 
 QString MRVEPubBook::title() const
 {
-    const QString own = MRV::toXmlText(metadata.title).simplified();
+    const QString own = mrvXmlText(metadata.title).simplified();
     return own.isEmpty() ? MRVEPubBook::tr("Untitled") : own;
 }
 
@@ -394,7 +394,7 @@ QStringList MRVEPubBook::authors() const
 {
     QStringList names;
     for (const QString &author : metadata.authors) {
-        const QString name = MRV::toXmlText(author).simplified();
+        const QString name = mrvXmlText(author).simplified();
         if (!name.isEmpty()) {
             names.append(name);
         }

@@ -1,6 +1,6 @@
+#include "core/mrvxmltext.h"
 #include "export/mrvepubbook_p.h"
 #include "export/mrvhtmltext_p.h"
-#include "util/mrvxmltext.h"
 
 #include <QLocale>
 #include <QXmlStreamWriter>
@@ -12,7 +12,7 @@ namespace {
 // Texts that people gave may be empty, or hold what XML cannot.
 void writeText(QXmlStreamWriter *xml, const char *element, const QString &text)
 {
-    const QString clean = MRV::toXmlText(text).simplified();
+    const QString clean = mrvXmlText(text).simplified();
     if (!clean.isEmpty()) {
         xml->writeTextElement(QLatin1String(element), clean);
     }

@@ -9,4 +9,3 @@
 #include "util/mrvmimetypes.h"
 #include "util/mrvnames.h"
 #include "util/mrvpaths.h"
-#include "util/mrvxmltext.h"

@@ -1,4 +1,4 @@
-#include "util/mrvxmltext.h"
+#include "core/mrvxmltext.h"
 
 #include <algorithm>
 
@@ -29,18 +29,18 @@ bool isPlain(QStringView text)
 
 } // namespace
 
-QString MRV::toXmlText(const QString &text)
+QString mrvXmlText(const QString &text)
 {
     if (isPlain(text)) {
         return text;
     }
     QString result;
     result.reserve(text.size());
-    appendXmlText(&result, text);
+    mrvAppendXmlText(&result, text);
     return result;
 }
 
-void MRV::appendXmlText(QString *result, QStringView text)
+void mrvAppendXmlText(QString *result, QStringView text)
 {
     if (isPlain(text)) {
         result->append(text.data(), int(text.size()));

@@ -18,7 +18,7 @@ struct MRVDomProblem
 bool mrvDecodeXml(const QByteArray &bytes, QString *text, MRVDomProblem *problem);
 
 /**
- * Whether a text keeps to the limits of MRVDomDoc, so that Qt's parser, which knows none, can be trusted with it. Beyond
+ * Whether a text keeps to the limits of MRVDomLimits, so that Qt's parser, which knows none, can be trusted with it. Beyond
  * some depth it would run out of stack, and entities that are repeated would fill the memory.
  *
  * A text that is no XML may pass: the parser stops where this does.

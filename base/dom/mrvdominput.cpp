@@ -1,8 +1,9 @@
-#include "dom/mrvdomlimits_p.h"
+#include "dom/mrvdominput_p.h"
 
 #include "core/mrvcoreutil.h"
-#include "dom/mrvdomdoc.h"
+#include "dom/mrvdomlimits.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -25,14 +26,20 @@ void setPlace(MRVDomProblem *problem, const QString &text, int position)
     problem->column = position - lineStart + 1;
 }
 
+struct Messages
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVDomDoc)
+};
+
 QString tooDeep()
 {
-    return MRVDomDoc::tr("elements are nested more deeply than %1 levels").arg(MRVDomDoc::MaxDepth);
+    return Messages::tr("elements are nested more deeply than %1 levels")
+        .arg(MRVDomLimits::MaxDepth);
 }
 
 QString tooLong()
 {
-    return MRVDomDoc::tr("entities expand to too much text");
+    return Messages::tr("entities expand to too much text");
 }
 
 // The encoding that the XML declaration names, as XML 1.0 (section 4.3.3) spells it; empty without one.
@@ -97,7 +104,7 @@ public:
             } else {
                 const int start = m_position;
                 const int end = tagEnd(QChar());
-                if (m_xml[end - 1] != u'/' && ++m_depth > MRVDomDoc::MaxDepth) {
+                if (m_xml[end - 1] != u'/' && ++m_depth > MRVDomLimits::MaxDepth) {
                     m_position = start;
                     return TooDeep;
                 }
@@ -152,8 +159,8 @@ public:
 
 bool isTooLong(qint64 expanded, const QString &xml)
 {
-    return expanded - xml.size() > MRVDomDoc::MaxExpansion
-        || expanded > qint64(xml.size()) * MRVDomDoc::MaxExpansionFactor;
+    return expanded - xml.size() > MRVDomLimits::MaxExpansion
+        || expanded > qint64(xml.size()) * MRVDomLimits::MaxExpansionFactor;
 }
 
 /**
@@ -227,7 +234,7 @@ bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
         if (token != QXmlStreamReader::DTD) {
             expanded += markupLength(reader);
         }
-        if (depth > MRVDomDoc::MaxDepth) {
+        if (depth > MRVDomLimits::MaxDepth) {
             problem->message = tooDeep();
             break;
         }
