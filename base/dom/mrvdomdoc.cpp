@@ -194,7 +194,7 @@ bool MRVDomDoc::save(const QString &fileName, QString *error) const
     return MRVFileWriter::write(fileName, bytes, error);
 }
 
-bool MRVDomDoc::setRoot(QString spec, QString text)
+bool MRVDomDoc::setRoot(const QString &spec, const QString &text)
 {
     clear();
     const QDomElement root = createElement(spec, text);
@@ -263,7 +263,7 @@ bool MRVDomDoc::cdRoot()
     return cd(QStringLiteral("/"));
 }
 
-bool MRVDomDoc::cdNext(QString step)
+bool MRVDomDoc::cdNext(const QString &step)
 {
     if (step.isEmpty()) {
         return false;
@@ -304,7 +304,7 @@ QDomText MRVDomDoc::newText(const QString &text)
     return m_document.createTextNode(mrvXmlText(text));
 }
 
-QDomElement MRVDomDoc::createElement(QString spec, QString text)
+QDomElement MRVDomDoc::createElement(const QString &spec, const QString &text)
 {
     const QStringList parts = spec.split(u'@');
     QDomElement element = m_document.createElement(mrvXmlText(parts.constFirst()));
@@ -323,17 +323,17 @@ QDomElement MRVDomDoc::createElement(QString spec, QString text)
     return element;
 }
 
-bool MRVDomDoc::append(const QString &name, QString text)
+bool MRVDomDoc::append(const QString &name, const QString &text)
 {
     return add(name, text, Place::Last);
 }
 
-bool MRVDomDoc::insert(QString name, QString text, bool before)
+bool MRVDomDoc::insert(const QString &name, const QString &text, bool before)
 {
     return add(name, text, before ? Place::BeforeChild : Place::AfterChild);
 }
 
-bool MRVDomDoc::prepend(QString name, QString text)
+bool MRVDomDoc::prepend(const QString &name, const QString &text)
 {
     return add(name, text, Place::First);
 }
@@ -372,7 +372,7 @@ bool MRVDomDoc::add(const QString &name, const QString &text, Place place)
     return true;
 }
 
-bool MRVDomDoc::create(QString name)
+bool MRVDomDoc::create(const QString &name)
 {
     const QDomElement parent = m_workElement;
     if (!add(name, QString(), Place::Last)) {

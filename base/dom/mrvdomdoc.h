@@ -102,7 +102,7 @@ public:
      * Replaces the content by one element, made by createElement(), and makes it the work element; there is no work
      * child then. Always true.
      */
-    bool setRoot(QString spec, QString text = QString());
+    bool setRoot(const QString &spec, const QString &text = QString());
 
     QString errorMessage() const { return m_errorMessage; }
     /** From 1; -1 when there was no error. */
@@ -144,7 +144,7 @@ public:
      * Where there is none, the cursor moves up to the parent. Deliberate: a loop that begins with cd() into the first
      * item and goes on while this is true ends where it began. An empty step moves nothing.
      */
-    bool cdNext(QString step);
+    bool cdNext(const QString &step);
     /**
      * Makes what the first step of @p path finds in the work element the work child; the rest of the path does not
      * matter. False, and nothing moves, when nothing is found or the step begins with a full stop.
@@ -182,7 +182,7 @@ public:
      *             trimmed. Deliberate: a value that is written after the name and "=" is not used.
      * @return a null element for an empty name.
      */
-    QDomElement createElement(QString spec, QString text);
+    QDomElement createElement(const QString &spec, const QString &text);
     /**
      * Adds a last child to the work element. The work child becomes the new element only where there was no child
      * before. Without a work element the new one becomes the document element and the work element.
@@ -191,13 +191,13 @@ public:
      *             not allow makes a document that cannot be loaded again.
      * @return false, with nothing changed, for such a name, and where there is no work element but a document element.
      */
-    bool append(const QString &name, QString text = QString());
+    bool append(const QString &name, const QString &text = QString());
     /** As append(), but after the work child, or before it; the new element becomes the work child. */
-    bool insert(QString name, QString text = QString(), bool before = false);
+    bool insert(const QString &name, const QString &text = QString(), bool before = false);
     /** As append(), but before the other children. Deliberate: the work child stays where there were any. */
-    bool prepend(QString name, QString text = QString());
+    bool prepend(const QString &name, const QString &text = QString());
     /** Adds an empty last child and moves the cursor into it; there is no work child then. Refuses what append() does. */
-    bool create(QString name);
+    bool create(const QString &name);
     /** Adds a deep copy of @p node as last child; the work child becomes the last child, if that is an element. */
     bool append(const QDomNode &node);
     /**
@@ -216,7 +216,7 @@ public:
      *
      * @return how many were removed.
      */
-    int remove(QString path, bool all = false);
+    int remove(const QString &path, bool all = false);
 
     //@}
     /**
@@ -258,15 +258,16 @@ public:
      *
      * @return false when there is no such element, which is never created here, and when its first child is no text.
      */
-    bool set(QString text, QString path = QString());
+    bool set(const QString &text, const QString &path = QString());
     /** QSizeF and QPointF are written with three decimals here and by setAttr(). */
     template<typename T, typename = MRVDomText::IfWritten<T>>
-    bool set(const T &value, QString path = QString())
+    bool set(const T &value, const QString &path = QString())
     {
         return set(written(value), path);
     }
-    bool set(const char *value, QString path = QString());
-    bool set(const QDateTime &value, QString path = QString(), QString format = QString());
+    bool set(const char *value, const QString &path = QString());
+    bool set(const QDateTime &value, const QString &path = QString(),
+             const QString &format = QString());
 
     /**
      * The text of the element that @p path names, all texts below it included, when its first child is a text; else
@@ -274,24 +275,25 @@ public:
      *
      * @return false, with a null text, when there is no such element.
      */
-    bool get(QString *out, QString path = QString()) const;
+    bool get(QString *out, const QString &path = QString()) const;
     template<typename T, typename = MRVDomText::IfRead<T>>
-    bool get(T *out, QString path = QString()) const
+    bool get(T *out, const QString &path = QString()) const
     {
         QString text;
-        return get(&text, path) && MRVDomText::read(text, out);
+        return readText(path, &text) && MRVDomText::read(text, out);
     }
     /** Deliberate: true is "true", "yes" and trueString(), so that "1" is no boolean. */
-    bool get(bool *out, QString path = QString()) const;
+    bool get(bool *out, const QString &path = QString()) const;
     /** Split at commas, without empty parts. An empty list where there is no such element. */
-    bool get(QStringList *out, QString path = QString()) const;
+    bool get(QStringList *out, const QString &path = QString()) const;
     /** An empty format is ISO 8601. Deliberate: the result is marked as UTC whatever the text says. */
-    bool get(QDateTime *out, QString path = QString(), QString format = QString()) const;
+    bool get(QDateTime *out, const QString &path = QString(),
+             const QString &format = QString()) const;
     /**
      * Up to @p size bytes of the text in Latin-1, filled up with NUL. Deliberate: the last byte of the buffer is the
      * digit 0, not NUL. A size below 1 writes nothing: false.
      */
-    bool get(char *buffer, int size, QString path = QString()) const;
+    bool get(char *buffer, int size, const QString &path = QString()) const;
 
     /** The text of what findNext() finds; false, and nothing is stored, when its first child is no text. */
     bool getNext(QString *out) const;
@@ -314,18 +316,18 @@ public:
      * @return whether it was set; deliberate: also true for @p create and an element that does not exist. False for an
      *         empty name.
      */
-    bool setAttr(const QString &attrName, const QString &value, QString path = QString(),
+    bool setAttr(const QString &attrName, const QString &value, const QString &path = QString(),
                  bool create = true);
     template<typename T, typename = MRVDomText::IfWritten<T>>
-    bool setAttr(const QString &attrName, const T &value, QString path = QString(),
+    bool setAttr(const QString &attrName, const T &value, const QString &path = QString(),
                  bool create = true)
     {
         return setAttr(attrName, written(value), path, create);
     }
-    bool setAttr(const QString &attrName, const char *value, QString path = QString(),
+    bool setAttr(const QString &attrName, const char *value, const QString &path = QString(),
                  bool create = true);
-    bool setAttr(const QString &attrName, const QDateTime &value, QString path = QString(),
-                 bool create = true, QString format = QString());
+    bool setAttr(const QString &attrName, const QDateTime &value, const QString &path = QString(),
+                 bool create = true, const QString &format = QString());
 
     /** An attribute of @p element. With a null @p out only whether it has it. */
     bool getAttr(const QString &attrName, QString *out, const QDomElement &element) const;
@@ -372,6 +374,7 @@ private:
     int removeBelow(const QDomElement &e, int index);
     bool removeElement(const QDomElement &e);
 
+    bool readText(const QString &path, QString *out) const;
     bool parse(const QString &xml);
     bool refuse(const QString &message, int line, int column);
     void moveTo(const QDomElement &e);

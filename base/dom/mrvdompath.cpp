@@ -109,13 +109,13 @@ const QVector<MRVDomDoc::Step> &MRVDomDoc::steps() const
 
 QDomElement MRVDomDoc::find(const QString &path) const
 {
-    m_findPosition = EmptyElement;
-    const QDomElement root = m_document.documentElement();
-    if (root.isNull()) {
-        return EmptyElement;
-    }
-    if (path.isEmpty()) {
-        return m_workElement;
+    // Asking for the document element itself would cost as much as the rest: it is missing where nothing is there, and may
+    // be where something was removed.
+    const bool isEmpty = !m_document.hasChildNodes()
+        || (!m_removed.isEmpty() && m_document.documentElement().isNull());
+    if (isEmpty || path.isEmpty()) {
+        m_findPosition = EmptyElement;
+        return isEmpty ? EmptyElement : m_workElement;
     }
     if (path != m_path) {
         m_path = path;
@@ -126,11 +126,13 @@ QDomElement MRVDomDoc::find(const QString &path) const
         m_findPosition = found;
         return found;
     }
+    m_findPosition = EmptyElement;
     steps();
     if (!m_isAbsolute) {
         QDomElement start = m_workElement;
         return find(start, 0);
     }
+    const QDomElement root = m_document.documentElement();
     if (m_pathSteps.isEmpty()) {
         return root;
     }
@@ -229,7 +231,7 @@ bool MRVDomDoc::exists(const QString &path) const
     return !find(path).isNull();
 }
 
-int MRVDomDoc::remove(QString path, bool all)
+int MRVDomDoc::remove(const QString &path, bool all)
 {
     if (all) {
         return removeAll(path);

@@ -45,7 +45,7 @@ bool MRVDomDoc::append(const QString &name, const QPointF &value, int precision)
     return append(name, MRVDomText::written(value, precision));
 }
 
-bool MRVDomDoc::set(QString text, QString path)
+bool MRVDomDoc::set(const QString &text, const QString &path)
 {
     QDomElement element = find(path);
     if (element.isNull()) {
@@ -63,23 +63,20 @@ bool MRVDomDoc::set(QString text, QString path)
     return true;
 }
 
-bool MRVDomDoc::set(const char *value, QString path)
+bool MRVDomDoc::set(const char *value, const QString &path)
 {
     return set(QString::fromLatin1(value), path);
 }
 
-bool MRVDomDoc::set(const QDateTime &value, QString path, QString format)
+bool MRVDomDoc::set(const QDateTime &value, const QString &path, const QString &format)
 {
     return set(MRVDomText::written(value, format), path);
 }
 
-bool MRVDomDoc::get(QString *out, QString path) const
+bool MRVDomDoc::readText(const QString &path, QString *out) const
 {
     const QDomElement element = find(path);
-    if (!out || element.isNull()) {
-        if (out) {
-            *out = QString();
-        }
+    if (element.isNull()) {
         return false;
     }
     const QDomNode first = element.firstChild();
@@ -87,34 +84,44 @@ bool MRVDomDoc::get(QString *out, QString path) const
         *out = QLatin1String("");
     } else {
         // Most elements hold one text: no need to gather.
-        *out = first.nextSibling().isNull() ? first.toText().data() : element.text();
+        *out = first.nextSibling().isNull() ? first.nodeValue() : element.text();
     }
     return true;
 }
 
-bool MRVDomDoc::get(bool *out, QString path) const
+bool MRVDomDoc::get(QString *out, const QString &path) const
 {
     QString text;
-    return get(&text, path) && readWord(text, m_trueString, m_falseString, out);
+    const bool isFound = readText(path, &text);
+    if (out) {
+        *out = text;
+    }
+    return isFound && out;
 }
 
-bool MRVDomDoc::get(QStringList *out, QString path) const
+bool MRVDomDoc::get(bool *out, const QString &path) const
 {
     QString text;
-    const bool isFound = get(&text, path);
+    return readText(path, &text) && readWord(text, m_trueString, m_falseString, out);
+}
+
+bool MRVDomDoc::get(QStringList *out, const QString &path) const
+{
+    QString text;
+    const bool isFound = readText(path, &text);
     return MRVDomText::read(text, QStringLiteral(","), out) && isFound;
 }
 
-bool MRVDomDoc::get(QDateTime *out, QString path, QString format) const
+bool MRVDomDoc::get(QDateTime *out, const QString &path, const QString &format) const
 {
     QString text;
-    return get(&text, path) && MRVDomText::read(text, format, out);
+    return readText(path, &text) && MRVDomText::read(text, format, out);
 }
 
-bool MRVDomDoc::get(char *buffer, int size, QString path) const
+bool MRVDomDoc::get(char *buffer, int size, const QString &path) const
 {
     QString text;
-    return get(&text, path) && MRVDomText::read(text, buffer, size);
+    return readText(path, &text) && MRVDomText::read(text, buffer, size);
 }
 
 bool MRVDomDoc::getNext(QString *out) const
@@ -152,7 +159,8 @@ bool MRVDomDoc::getNext(char *buffer, int size) const
     return getNext(&text) && MRVDomText::read(text, buffer, size);
 }
 
-bool MRVDomDoc::setAttr(const QString &attrName, const QString &value, QString path, bool create)
+bool MRVDomDoc::setAttr(const QString &attrName, const QString &value, const QString &path,
+                        bool create)
 {
     QDomElement element = find(path);
     if (attrName.isEmpty() || (!create && !element.hasAttribute(attrName))) {
@@ -163,13 +171,14 @@ bool MRVDomDoc::setAttr(const QString &attrName, const QString &value, QString p
     return true;
 }
 
-bool MRVDomDoc::setAttr(const QString &attrName, const char *value, QString path, bool create)
+bool MRVDomDoc::setAttr(const QString &attrName, const char *value, const QString &path,
+                        bool create)
 {
     return setAttr(attrName, QString::fromLatin1(value), path, create);
 }
 
-bool MRVDomDoc::setAttr(const QString &attrName, const QDateTime &value, QString path, bool create,
-                        QString format)
+bool MRVDomDoc::setAttr(const QString &attrName, const QDateTime &value, const QString &path,
+                        bool create, const QString &format)
 {
     return setAttr(attrName, MRVDomText::written(value, format), path, create);
 }

@@ -16,7 +16,7 @@ using Attributes = QVector<QPair<QString, QString>>;
 constexpr int Indentation = 3;
 
 // What Qt's map costs for each further attribute grows with their number: many are read from their text.
-bool readManyAttributes(const QDomElement &element, Attributes *attributes)
+bool readManyAttributes(const QDomNode &element, Attributes *attributes)
 {
     QString text;
     QTextStream stream(&text);
@@ -31,7 +31,7 @@ bool readManyAttributes(const QDomElement &element, Attributes *attributes)
     return !reader.hasError() && attributes->size() == element.attributes().count();
 }
 
-void readAttributes(const QDomElement &element, Attributes *attributes)
+void readAttributes(const QDomNode &element, Attributes *attributes)
 {
     constexpr int Few = 32;
     const QDomNamedNodeMap map = element.attributes();
@@ -39,11 +39,13 @@ void readAttributes(const QDomElement &element, Attributes *attributes)
     if (count <= Few || !readManyAttributes(element, attributes)) {
         attributes->clear();
         for (int i = 0; i < count; ++i) {
-            const QDomAttr attribute = map.item(i).toAttr();
-            attributes->append({attribute.name(), attribute.value()});
+            const QDomNode attribute = map.item(i);
+            attributes->append({attribute.nodeName(), attribute.nodeValue()});
         }
     }
-    std::sort(attributes->begin(), attributes->end());
+    if (count > 1) {
+        std::sort(attributes->begin(), attributes->end());
+    }
 }
 
 class Writer
@@ -56,18 +58,15 @@ public:
 
     bool write(const QDomDocument &document)
     {
-        bool hasDoctype = false;
-        for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (!hasDoctype && !isDeclaration(node)) {
-                writeRare(document.doctype());
-                hasDoctype = true;
-            }
-            if (!node.isDocumentType() && !writeTree(node)) {
-                return false;
-            }
+        QDomNode first = document.firstChild();
+        if (isDeclaration(first)) {
+            writeInstruction(first.nodeName(), declaration(first.nodeValue()));
+            first = first.nextSibling();
         }
+        writeRare(document.doctype());
+        const bool isWritten = writeSiblings(first, 0);
         flush();
-        return true;
+        return isWritten;
     }
 
 private:
@@ -78,41 +77,38 @@ private:
     // Qt counts sections as texts, too.
     static bool isText(const QDomNode &node)
     {
-        return node.nodeType() == QDomNode::TextNode
-            || node.nodeType() == QDomNode::CDATASectionNode;
+        const QDomNode::NodeType type = node.nodeType();
+        return type == QDomNode::TextNode || type == QDomNode::CDATASectionNode;
     }
 
-    // The node and all below it; a loop, since the depth of a tree is its author's choice.
-    bool writeTree(const QDomNode &root)
+    // White space beside a text would become a part of it: blanks and line ends keep away.
+    bool writeSiblings(const QDomNode &first, int depth)
     {
-        QDomNode node = root;
-        int depth = 0;
-        for (;;) {
-            const QDomNode first = begin(node, depth);
-            if (!first.isNull()) {
-                if (++depth >= MRVDomLimits::MaxDepth && first.isElement()) {
-                    return false;
-                }
-                node = first;
-                continue;
+        QDomNode next;
+        bool isAfterText = false;
+        for (QDomNode node = first; !node.isNull(); node = next) {
+            next = node.nextSibling();
+            if (!writeNode(node, depth, isAfterText, isText(next))) {
+                return false;
             }
-            while (node != root && node.nextSibling().isNull()) {
-                node = node.parentNode();
-                end(node, --depth);
-            }
-            if (node == root) {
-                return true;
-            }
-            node = node.nextSibling();
+            isAfterText = isText(node);
         }
+        return true;
     }
 
-    // Writes what comes before a node's children and returns the first of them.
-    QDomNode begin(const QDomNode &node, int depth)
+    bool writeNode(const QDomNode &node, int depth, bool isAfterText, bool isBeforeText)
     {
         switch (node.nodeType()) {
         case QDomNode::ElementNode:
-            return beginElement(node.toElement(), depth);
+            if (depth >= MRVDomLimits::MaxDepth) {
+                return false;
+            }
+            indent(isAfterText ? 0 : depth);
+            if (!writeElement(node, depth)) {
+                return false;
+            }
+            endLine(isBeforeText);
+            break;
         case QDomNode::TextNode:
             writeEscaped(node.nodeValue(), Place::Text);
             break;
@@ -122,98 +118,92 @@ private:
             m_text += QLatin1String("]]>");
             break;
         case QDomNode::CommentNode:
-            writeComment(node, depth);
+            indent(isAfterText ? 0 : depth);
+            writeComment(node.nodeValue());
+            endLine(isBeforeText);
             break;
         case QDomNode::EntityReferenceNode:
             m_text += u'&' + node.nodeName() + u';';
             break;
         case QDomNode::ProcessingInstructionNode:
-            m_text += QLatin1String("<?") + node.nodeName() + u' ';
-            mrvAppendXmlText(&m_text, isDeclaration(node) ? declaration(node) : node.nodeValue());
-            m_text += QLatin1String("?>\n");
+            writeInstruction(node.nodeName(), node.nodeValue());
             break;
+        case QDomNode::DocumentTypeNode:
+            break; // stands before all else
         default:
             writeRare(node);
         }
-        return QDomNode();
+        return true;
     }
 
-    QDomNode beginElement(const QDomElement &element, int depth)
+    bool writeElement(const QDomNode &element, int depth)
     {
-        if (!isText(element.previousSibling())) {
-            indent(depth);
-        }
-        m_text += u'<' + element.tagName();
+        const QString name = element.nodeName();
+        m_text += u'<';
+        m_text += name;
         if (element.hasAttributes()) {
-            m_attributes.clear();
-            readAttributes(element, &m_attributes);
-            for (const QPair<QString, QString> &attribute : qAsConst(m_attributes)) {
-                m_text += u' ';
-                m_text += attribute.first;
-                m_text += QLatin1String("=\"");
-                writeEscaped(attribute.second, Place::Attribute);
-                m_text += u'"';
-            }
+            writeAttributes(element);
         }
         const QDomNode first = element.firstChild();
         if (first.isNull()) {
             m_text += QLatin1String("/>");
-            endLine(element);
-        } else {
-            m_text += u'>';
-            if (!isText(first)) {
-                m_text += u'\n';
-            }
+            return true;
         }
-        return first;
-    }
-
-    void end(const QDomNode &element, int depth)
-    {
-        if (!isText(element.lastChild())) {
-            indent(depth);
-        }
-        m_text += QLatin1String("</") + element.nodeName() + u'>';
-        endLine(element);
-    }
-
-    void endLine(const QDomNode &node)
-    {
-        if (!isText(node.nextSibling())) {
+        m_text += u'>';
+        if (!isText(first)) {
             m_text += u'\n';
         }
-        constexpr int Chunk = 1 << 16;
-        if (m_text.size() > Chunk) {
-            flush();
+        if (!writeSiblings(first, depth + 1)) {
+            return false;
+        }
+        indent(isText(element.lastChild()) ? 0 : depth);
+        m_text += QLatin1String("</");
+        m_text += name;
+        m_text += u'>';
+        return true;
+    }
+
+    void writeAttributes(const QDomNode &element)
+    {
+        m_attributes.clear();
+        readAttributes(element, &m_attributes);
+        for (const QPair<QString, QString> &attribute : qAsConst(m_attributes)) {
+            m_text += u' ';
+            m_text += attribute.first;
+            m_text += QLatin1String("=\"");
+            writeEscaped(attribute.second, Place::Attribute);
+            m_text += u'"';
         }
     }
 
-    void writeComment(const QDomNode &comment, int depth)
+    void writeComment(const QString &comment)
     {
-        if (!isText(comment.previousSibling())) {
-            indent(depth);
-        }
         m_text += QLatin1String("<!--");
-        mrvAppendXmlText(&m_text, comment.nodeValue());
-        if (comment.nodeValue().endsWith(u'-')) {
+        mrvAppendXmlText(&m_text, comment);
+        if (comment.endsWith(u'-')) {
             m_text += u' '; // a comment must not end in "--->"
         }
         m_text += QLatin1String("-->");
-        endLine(comment);
+    }
+
+    void writeInstruction(const QString &target, const QString &data)
+    {
+        m_text += QLatin1String("<?") + target + u' ';
+        mrvAppendXmlText(&m_text, data);
+        m_text += QLatin1String("?>\n");
     }
 
     // The pseudo-attributes of the declaration, with the encoding that is written.
-    static QString declaration(const QDomNode &node)
+    static QString declaration(QString data)
     {
         static const QRegularExpression encoding(
             QStringLiteral("encoding\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
         static const QRegularExpression version(
             QStringLiteral("^\\s*version\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
-        QString text = node.nodeValue();
-        if (encoding.match(text).hasMatch()) {
-            return text.replace(encoding, QStringLiteral("encoding=\"UTF-8\""));
+        if (encoding.match(data).hasMatch()) {
+            return data.replace(encoding, QStringLiteral("encoding=\"UTF-8\""));
         }
-        return text.replace(version, QStringLiteral("version=\\1 encoding=\"UTF-8\""));
+        return data.replace(version, QStringLiteral("version=\\1 encoding=\"UTF-8\""));
     }
 
     void writeRare(const QDomNode &node)
@@ -229,19 +219,25 @@ private:
     void writeEscaped(const QString &value, Place place)
     {
         const QString text = mrvXmlText(value);
+        const QChar *const characters = text.constData();
+        const int size = text.size();
         int done = 0;
-        for (int i = 0; i < text.size(); ++i) {
-            const QLatin1String entity = entityFor(text, i, place);
+        for (int i = 0; i < size; ++i) {
+            const ushort c = characters[i].unicode();
+            if (c > '>') {
+                continue; // as most are
+            }
+            const QLatin1String entity = entityFor(characters, i, place);
             if (entity.size() > 0) {
-                m_text.append(text.constData() + done, i - done);
+                m_text.append(characters + done, i - done);
                 m_text += entity;
                 done = i + 1;
             }
         }
-        m_text.append(text.constData() + done, text.size() - done);
+        m_text.append(characters + done, size - done);
     }
 
-    static QLatin1String entityFor(const QString &text, int i, Place place)
+    static QLatin1String entityFor(const QChar *text, int i, Place place)
     {
         switch (text[i].unicode()) {
         case '<':
@@ -268,6 +264,17 @@ private:
     {
         static const QString blanks(MRVDomLimits::MaxDepth * Indentation, u' ');
         m_text.append(blanks.constData(), depth * Indentation);
+    }
+
+    void endLine(bool isBeforeText)
+    {
+        constexpr int Chunk = 1 << 16;
+        if (!isBeforeText) {
+            m_text += u'\n';
+        }
+        if (m_text.size() > Chunk) {
+            flush();
+        }
     }
 
     void flush()
