@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextCodec>
 #include <QXmlStreamEntityResolver>
 #include <QXmlStreamReader>
@@ -77,9 +78,11 @@ class Nesting
 {
 public:
     enum Outcome { Keeps, TooDeep, HasOwnDeclarations };
+    enum Declarations { Report, Skip };
 
-    explicit Nesting(const QString &xml)
+    explicit Nesting(const QString &xml, Declarations declarations = Report)
         : m_xml(xml)
+        , m_declarations(declarations)
     {
     }
 
@@ -99,12 +102,18 @@ public:
                 skip(9, QLatin1String("]]>"));
             } else if (kind == u'!') {
                 if (tagEnd(u'[') < 0) {
-                    return HasOwnDeclarations;
+                    if (m_declarations == Report) {
+                        return HasOwnDeclarations;
+                    }
+                    skipDeclarations();
                 }
             } else {
                 const int start = m_position;
                 const int end = tagEnd(QChar());
-                if (m_xml[end - 1] != u'/' && ++m_depth > MRVDomLimits::MaxDepth) {
+                if (m_xml[end - 1] != u'/') {
+                    m_deepest = qMax(m_deepest, ++m_depth);
+                }
+                if (m_depth > MRVDomLimits::MaxDepth) {
                     m_position = start;
                     return TooDeep;
                 }
@@ -113,8 +122,30 @@ public:
         return Keeps;
     }
     int position() const { return m_position; }
+    int deepest() const { return m_deepest; }
+    /** The document type's own declarations. */
+    QStringView declarations() const { return m_ownDeclarations; }
 
 private:
+    // From the "<" of the document type to behind the "]" that ends its declarations.
+    void skipDeclarations()
+    {
+        const int start = m_xml.indexOf(u'[', m_position) + 1;
+        m_position = start;
+        while (m_position < m_xml.size() && m_xml[m_position] != u']') {
+            const QStringView markup = QStringView(m_xml).mid(m_position);
+            if (markup.startsWith(QLatin1String("<!--"))) {
+                skip(4, QLatin1String("-->"));
+            } else if (markup.startsWith(QLatin1String("<?"))) {
+                skip(2, QLatin1String("?>"));
+            } else if (markup.startsWith(u'<')) {
+                tagEnd(QChar());
+            } else {
+                ++m_position;
+            }
+        }
+        m_ownDeclarations = QStringView(m_xml).mid(start, m_position - start);
+    }
     void skip(int length, QLatin1String end)
     {
         const int found = m_xml.indexOf(end, m_position + length);
@@ -146,8 +177,11 @@ private:
     }
 
     const QString &m_xml;
+    Declarations m_declarations;
+    QStringView m_ownDeclarations;
     int m_position = 0;
     int m_depth = 0;
+    int m_deepest = 0;
 };
 
 /** Entities that are declared elsewhere: nothing is fetched. */
@@ -156,6 +190,9 @@ class NoText : public QXmlStreamEntityResolver
 public:
     QString resolveUndeclaredEntity(const QString &) override { return QStringLiteral(""); }
 };
+
+// Qt's parser refuses entities that expand to more than this through others.
+constexpr int MaxNestedExpansion = 4096;
 
 bool isTooLong(qint64 expanded, const QString &xml)
 {
@@ -169,8 +206,6 @@ bool isTooLong(qint64 expanded, const QString &xml)
  */
 qint64 parameterExpansion(const QString &xml)
 {
-    // Beyond this length the parser refuses what a single reference expands to through others.
-    constexpr int MaxNested = 4096;
     static const QRegularExpression declaration(
         QStringLiteral("<!ENTITY\\s+%\\s+([^\\s\"'%;]+)\\s+(?:\"([^\"]*)\"|'([^']*)')"));
     static const QRegularExpression reference(QStringLiteral("%([^\\s\"'%;]+);"));
@@ -191,7 +226,7 @@ qint64 parameterExpansion(const QString &xml)
         const QStringView name =
             QStringView(xml).mid(match.capturedStart(1), match.capturedLength(1));
         if (lengths.contains(name)) {
-            expanded += lengths.value(name) + MaxNested;
+            expanded += lengths.value(name) + MaxNestedExpansion;
         }
     }
     return expanded;
@@ -213,6 +248,48 @@ int markupLength(const QXmlStreamReader &reader)
     return length;
 }
 
+// The first entity in another file that the text refers to: the parser would leave it out, and mix up the text around it.
+QString externalReference(const QXmlStreamEntityDeclarations &declarations, const QString &xml)
+{
+    QSet<QStringRef> external;
+    for (const QXmlStreamEntityDeclaration &declaration : declarations) {
+        if (!declaration.systemId().isEmpty() && declaration.notationName().isEmpty()) {
+            external.insert(declaration.name());
+        }
+    }
+    static const QRegularExpression reference(QStringLiteral("&([^\\s&;<#]+);"));
+    for (auto it = reference.globalMatch(xml); !external.isEmpty() && it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        if (external.contains(match.capturedRef(1))) {
+            return match.captured(1);
+        }
+    }
+    return QString();
+}
+
+/**
+ * Whether a text keeps the limits whatever its entities hold, judged from above. For texts that Qt's parser takes and its
+ * stream reader does not: XML 1.1, some declarations.
+ */
+bool surelyKeepsLimits(const QString &xml)
+{
+    static const QRegularExpression needsReader(
+        QStringLiteral("%|<!ENTITY\\s+[^\\s%]+\\s+(SYSTEM|PUBLIC)\\s"));
+    Nesting nesting(xml, Nesting::Skip);
+    if (nesting.follow() != Nesting::Keeps) {
+        return false;
+    }
+    const QString declarations = nesting.declarations().toString();
+    if (declarations.contains(needsReader)) {
+        return false;
+    }
+    // Each reference may expand to all declarations and what the parser allows of nested entities beyond.
+    const qint64 longest = declarations.size() + MaxNestedExpansion;
+    const int tags = declarations.count(u'<') + declarations.count(QLatin1String("&#"));
+    return nesting.deepest() + tags <= MRVDomLimits::MaxDepth
+        && !isTooLong(xml.count(u'&') * longest + xml.size(), xml);
+}
+
 // The slow way, for texts with declarations of their own, whose entities may hold markup.
 bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
 {
@@ -231,7 +308,16 @@ bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
         const QXmlStreamReader::TokenType token = reader.readNext();
         depth += token == QXmlStreamReader::StartElement;
         depth -= token == QXmlStreamReader::EndElement;
-        if (token != QXmlStreamReader::DTD) {
+        if (token == QXmlStreamReader::DTD) {
+            const QString external = externalReference(reader.entityDeclarations(), xml);
+            if (!external.isEmpty()) {
+                problem->message =
+                    Messages::tr(
+                        "the entity '%1' stands in another file, and other files are not read")
+                        .arg(external);
+                break;
+            }
+        } else {
             expanded += markupLength(reader);
         }
         if (depth > MRVDomLimits::MaxDepth) {
@@ -243,7 +329,7 @@ bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
             break;
         }
     }
-    if (problem->message.isEmpty() && reader.hasError()) {
+    if (problem->message.isEmpty() && reader.hasError() && !surelyKeepsLimits(xml)) {
         problem->message = reader.errorString();
     }
     problem->line = int(reader.lineNumber());

@@ -25,14 +25,15 @@
  */
 class MRVBASE_EXPORT MRVDomText
 {
+public:
+    MRVDomText() = delete;
+
+    /** Which types have a text form to append, to set, and to read. */
     template<typename T, typename... Types>
     static constexpr bool isOneOf = (std::is_same_v<T, Types> || ...);
     template<typename T>
     static constexpr bool isInteger =
         isOneOf<T, short, unsigned short, int, unsigned int, long, unsigned long>;
-
-public:
-    MRVDomText() = delete;
 
     template<typename T>
     using IfAppended = std::enable_if_t<

@@ -61,6 +61,7 @@ public:
         QDomNode first = document.firstChild();
         if (isDeclaration(first)) {
             writeInstruction(first.nodeName(), declaration(first.nodeValue()));
+            endLine(false);
             first = first.nextSibling();
         }
         writeRare(document.doctype());
@@ -74,14 +75,14 @@ private:
     {
         return node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml");
     }
-    // Qt counts sections as texts, too.
+    // What text is made of: beside these, white space would become a part of it.
     static bool isText(const QDomNode &node)
     {
         const QDomNode::NodeType type = node.nodeType();
-        return type == QDomNode::TextNode || type == QDomNode::CDATASectionNode;
+        return type == QDomNode::TextNode || type == QDomNode::CDATASectionNode
+            || type == QDomNode::EntityReferenceNode;
     }
 
-    // White space beside a text would become a part of it: blanks and line ends keep away.
     bool writeSiblings(const QDomNode &first, int depth)
     {
         QDomNode next;
@@ -127,6 +128,7 @@ private:
             break;
         case QDomNode::ProcessingInstructionNode:
             writeInstruction(node.nodeName(), node.nodeValue());
+            endLine(isBeforeText);
             break;
         case QDomNode::DocumentTypeNode:
             break; // stands before all else
@@ -190,7 +192,7 @@ private:
     {
         m_text += QLatin1String("<?") + target + u' ';
         mrvAppendXmlText(&m_text, data);
-        m_text += QLatin1String("?>\n");
+        m_text += QLatin1String("?>");
     }
 
     // The pseudo-attributes of the declaration, with the encoding that is written.
