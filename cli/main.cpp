@@ -18,6 +18,7 @@ constexpr Command commands[] = {
     {"find", "find text and formats in manuscripts", runFind},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"replace", "replace text in manuscripts", runReplace},
+    {"xml", "read and edit XML files by paths", runXml},
 };
 
 QString usage()
