@@ -63,8 +63,10 @@ MRVAutoReplaceIndex::MRVAutoReplaceIndex(const QList<MRVAutoReplace> &entries)
 
 void MRVAutoReplaceIndex::addNode(const Range &range, std::vector<Range> *pending)
 {
-    const auto matchOf = [this](std::size_t i) { return m_entries.at(m_order[i]).match; };
-    const QString first = matchOf(range.from);
+    const auto matchOf = [this](std::size_t i) -> const QString & {
+        return m_entries.at(m_order[i]).match;
+    };
+    const QString &first = matchOf(range.from);
     // The root stands for the empty text, whatever the matches have in common.
     const int depth = m_nodes.empty() ? 0 : commonEnd(first, matchOf(range.to - 1));
     Node node{depth, -1, m_order[range.from], int(pending->size()), 0};
