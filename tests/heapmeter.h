@@ -6,23 +6,16 @@
 #include <malloc.h>
 
 extern "C" {
-#ifdef MRV_SANITIZE
-// Part of the sanitizer's public interface, but the compiler comes without that header.
-int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void *, size_t),
-                                              void (*)(const volatile void *));
-size_t __sanitizer_get_allocated_size(const volatile void *);
-#else
 void *__libc_malloc(size_t);
 void *__libc_calloc(size_t, size_t);
 void *__libc_realloc(void *, size_t);
-void *__libc_memalign(size_t, size_t);
 void __libc_free(void *);
-#endif
 }
 
 /**
  * How much of the heap the whole program takes, Qt included: this header replaces malloc() and its like, so exactly one
- * source file of a program may include it. Memory that is reserved and never touched counts as well.
+ * source file of a program may include it. Memory that is reserved and never touched counts as well. Under the sanitizers
+ * nothing is counted.
  */
 class HeapMeter
 {
@@ -51,21 +44,7 @@ private:
     static inline std::atomic<long> s_peak{0};
 };
 
-#ifdef MRV_SANITIZE
-
-inline void heapTaken(const volatile void *memory, std::size_t size)
-{
-    HeapMeter::taken(const_cast<void *>(memory), size);
-}
-
-inline void heapGiven(const volatile void *memory)
-{
-    HeapMeter::given(memory ? __sanitizer_get_allocated_size(memory) : 0);
-}
-
-static const int heapHooks = __sanitizer_install_malloc_and_free_hooks(heapTaken, heapGiven);
-
-#else
+#ifndef MRV_SANITIZE // the sanitizer has replaced them itself
 
 extern "C" {
 
@@ -88,23 +67,6 @@ void *realloc(void *old, size_t size) noexcept
     if (memory || size == 0)
         HeapMeter::given(before);
     return HeapMeter::taken(memory, malloc_usable_size(memory));
-}
-
-void *memalign(size_t alignment, size_t size) noexcept
-{
-    void *memory = __libc_memalign(alignment, size);
-    return HeapMeter::taken(memory, malloc_usable_size(memory));
-}
-
-void *aligned_alloc(size_t alignment, size_t size) noexcept
-{
-    return memalign(alignment, size);
-}
-
-int posix_memalign(void **memory, size_t alignment, size_t size) noexcept
-{
-    *memory = memalign(alignment, size);
-    return *memory ? 0 : 12; // ENOMEM
 }
 
 void free(void *memory) noexcept
