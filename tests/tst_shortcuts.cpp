@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "support.h"
 
+#include "settings/mrvshortcutcheck.h"
 #include "settings/mrvshortcutscheme.h"
 
 #include <QTemporaryDir>
@@ -93,6 +94,9 @@ private Q_SLOTS:
     void changing();
     void files();
     void predefined();
+    void conflicts_data();
+    void conflicts();
+    void differences();
 };
 
 void tst_Shortcuts::table()
@@ -339,6 +343,66 @@ void tst_Shortcuts::predefined()
     QCOMPARE(Scheme::morvane().shortcutGroups().join(", "),
              QString("Documents, Edit, File, Format, Fullscreen Only, Help, Other, PDF, Project, "
                      "Tools, View"));
+}
+
+void tst_Shortcuts::conflicts_data()
+{
+    addRows("shortcutconflicts.tsv", {"case", "keys", "found", "sentence"});
+}
+
+// Each key in turn is that of Undo, Redo and Cut.
+void tst_Shortcuts::conflicts()
+{
+    QFETCH(QString, keys);
+    QFETCH(QString, sentence);
+    Scheme scheme("Keys");
+    const QStringList sequences = keys.split(';');
+    for (int i = 0; i < sequences.size(); ++i) {
+        const Id id = Id(MRVShortcut::Undo + i);
+        scheme.setShortcut(id, {id, QKeySequence(sequences.at(i)), MRVShortcut::valueToKey(id)});
+    }
+    QStringList found;
+    const auto conflicts = MRVShortcutCheck::conflicts(scheme);
+    for (const auto &conflict : conflicts) {
+        found << QStringList{MRVShortcutCheck::toString(conflict.kind),
+                             MRVShortcut::valueToKey(conflict.id),
+                             MRVShortcut::valueToKey(conflict.other)}
+                     .join(' ')
+                     .remove(" NoId");
+    }
+    QTEST(found.join("; "), "found");
+    if (!sentence.isEmpty())
+        QCOMPARE(MRVShortcutCheck::describe(conflicts.value(0), scheme), sentence);
+    // Before the last key is given, it is known what it will lead to.
+    const Id last = Id(MRVShortcut::Undo + sequences.size() - 1);
+    Scheme without = scheme;
+    without.setShortcut(last, QKeySequence());
+    QCOMPARE(MRVShortcutCheck::conflicts(without, last, scheme.shortcut(last)).size()
+                 + MRVShortcutCheck::conflicts(without).size(),
+             conflicts.size());
+}
+
+void tst_Shortcuts::differences()
+{
+    using Check = MRVShortcutCheck;
+    Scheme scheme = Scheme::morvane();
+    QCOMPARE(Check::conflicts(scheme).size(), 0);
+    QCOMPARE(Check::owners(scheme, QKeySequence("Ctrl+G,Ctrl+N")),
+             QList<Id>{MRVShortcut::NewProject});
+    QCOMPARE(Check::owners(scheme, QKeySequence("Ctrl+G")), QList<Id>());
+    QCOMPARE(Check::owners(scheme, QKeySequence()), QList<Id>());
+    QVERIFY(Check::differences(scheme, Scheme::msWord()).isEmpty());
+    Scheme::Shortcuts shortcuts = scheme.shortcuts();
+    shortcuts.remove(MRVShortcut::Save);
+    shortcuts[MRVShortcut::OpenProject].sequence = QKeySequence("Ctrl+S");
+    shortcuts[MRVShortcut::Bold].text = "Heavy";
+    const auto found = Check::differences(scheme, Scheme("Mine", shortcuts));
+    QCOMPARE(found.size(), 3);
+    QCOMPARE(found.at(0).id, MRVShortcut::OpenProject);
+    QCOMPARE(found.at(0).after.sequence, QKeySequence("Ctrl+S"));
+    QCOMPARE(found.at(1).before, scheme.shortcutInfo(MRVShortcut::Save));
+    QCOMPARE(found.at(1).after, MRVShortcutInfo());
+    QCOMPARE(found.at(2).after.text, QString("Heavy"));
 }
 
 QTEST_MAIN(tst_Shortcuts)
