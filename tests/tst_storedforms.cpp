@@ -1,6 +1,7 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
+#include "settings/mrvshortcutscheme.h"
 #include "text/mrvtextformat.h"
 
 #include <QDataStream>
@@ -21,6 +22,12 @@ QByteArray autoReplaceEntry()
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream << MRVAutoReplace{true, "-->", QString(QChar(0x2192))};
     return bytes;
+}
+
+MRVShortcutScheme shortcutScheme()
+{
+    const MRVShortcutScheme all = MRVShortcutScheme::morvane();
+    return {"Tools", MRVShortcutScheme::toHash(all.groupShortcuts("Tools"))};
 }
 
 QTextCharFormat charFormat()
@@ -95,6 +102,9 @@ void TestStoredForms::damaged_data()
                QDataStream stream(bytes);
                stream >> entry;
            });
+    QTest::newRow("shortcut scheme")
+        << shortcutScheme().toByteArray()
+        << Reader([](const QByteArray &bytes) { MRVShortcutScheme::fromByteArray(bytes); });
     QTest::newRow("char format") << MRVTextFormat::toByteArray(charFormat())
                                  << Reader([](const QByteArray &bytes) {
                                         MRVTextFormat::toCharFormat(bytes);
