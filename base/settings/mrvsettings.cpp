@@ -222,8 +222,9 @@ bool MRVSettings::value(FlagSetting setting) const
 int MRVSettings::value(IntSetting setting) const
 {
     bool ok = false;
-    const int number = stored(keyText(setting)).toInt(&ok);
-    return ok ? number : defaultValue(setting);
+    // Not toInt(), which takes just the lower half of a larger number.
+    const qlonglong number = stored(keyText(setting)).toLongLong(&ok);
+    return ok && number == int(number) ? int(number) : defaultValue(setting);
 }
 
 qreal MRVSettings::value(RealSetting setting) const
@@ -385,6 +386,20 @@ QTextBlockFormat MRVSettings::textBlockFormat(const QString &key, const QTextBlo
 QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) const
 {
     return MRVTextFormat::setFontHinting(format, value(FontHinting));
+}
+
+MRVShortcutScheme MRVSettings::shortcutScheme(const QString &key,
+                                              const MRVShortcutScheme &def) const
+{
+    const auto scheme = MRVShortcutScheme::fromByteArray(stored(key).toByteArray());
+    if (scheme.isValid())
+        return scheme;
+    return def.isValid() ? def : MRVShortcutScheme::morvane();
+}
+
+bool MRVSettings::setShortcutScheme(const QString &key, const MRVShortcutScheme &scheme)
+{
+    return setValue(key, MRVShortcutScheme::toByteArray(scheme));
 }
 
 MRVTextPresetScheme MRVSettings::textPresets(const QString &key,
