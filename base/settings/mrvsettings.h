@@ -233,7 +233,6 @@ protected:
 private:
     enum class Saving { MayBeRepeated, Last };
 
-    QVariant stored(const QString &key) const;
     bool isOpenGroup() const;
     void recordChange(const QString &key);
     void replaceGroupIn(QSettings *file) const;
