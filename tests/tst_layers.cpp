@@ -48,7 +48,7 @@ constexpr Room rooms[] = {
     { "base/text/mrvtextcharformat*",            1, 0, "Core Gui" },
     { "base/text/mrvtextblockformat*",           1, 0, "Core Gui" },
     { "base/text/mrvtextutil*",                  1, 0, "Core Gui" },
-    { "base/settings/mrvshortcutscheme*",        1, 0, "Core Gui" },
+    { "base/settings/mrvshortcut*",              1, 0, "Core Gui" },
     { "base/importexport/mrvimportexportconfig*", 4, 0, "Core Gui" },
     { "base/importexport/*",                     1, 0, "Core Gui" },
     { "base/web/mversion",                       1, 0, "Core Gui Network Xml Widgets" },
