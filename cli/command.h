@@ -17,6 +17,7 @@ struct Command
     int (*run)(const QStringList &arguments); // arguments[0] is the command's name
 };
 
+int runAutoReplace(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
 int runNotes(const QStringList &arguments);

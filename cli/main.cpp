@@ -11,6 +11,7 @@
 namespace {
 
 constexpr Command commands[] = {
+    {"autoreplace", "show what typing replaces, and edit the list", runAutoReplace},
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
     {"notes", "list links, notes, highlights and pictures", runNotes},
@@ -22,7 +23,7 @@ QString usage()
     QString text = QStringLiteral("Usage: mrv COMMAND [OPTIONS] [ARGUMENTS]\n\nCommands:\n");
     for (const Command &command : commands) {
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.name), -11)
                     .arg(QLatin1String(command.summary));
     }
     return text
