@@ -1,6 +1,7 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvshortcutscheme.h"
 #include "text/mrvtextformat.h"
 
@@ -108,6 +109,9 @@ void TestStoredForms::damaged_data()
         [](const QByteArray &bytes) { MRVTextFormat::toCharFormat(bytes); });
     row("block format", MRVTextFormat::toByteArray(blockFormat()),
         [](const QByteArray &bytes) { MRVTextFormat::toBlockFormat(bytes); });
+    row("engine map",
+        MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultImportEngines()),
+        [](const QByteArray &bytes) { MRVImportExportConfig::toFormatEngines(bytes); });
     row("shortcut scheme", shortcutScheme().toByteArray(),
         [](const QByteArray &bytes) { MRVShortcutScheme::fromByteArray(bytes); });
     row("shortcut scheme with defaults", shortcutScheme().toByteArray(),
