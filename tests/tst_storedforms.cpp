@@ -1,6 +1,7 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvshortcutscheme.h"
 #include "text/mrvtextformat.h"
 
@@ -57,6 +58,13 @@ QTextBlockFormat blockFormat()
     return format;
 }
 
+MRVShortcutScheme shortcutScheme()
+{
+    const QList<MRVShortcutInfo> commands =
+        MRVShortcutScheme::morvane().sortedShortcuts().mid(0, 3);
+    return MRVShortcutScheme("Mine", MRVShortcutScheme::toHash(commands));
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Reader)
@@ -93,26 +101,32 @@ void TestStoredForms::damaged_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<Reader>("read");
-    QTest::newRow("auto-replace list")
-        << MRVAutoReplaceList::defaultReplacementsByteArray()
-        << Reader([](const QByteArray &bytes) { MRVAutoReplaceList().fromByteArray(bytes); });
-    QTest::newRow("auto-replace entry")
-        << autoReplaceEntry() << Reader([](const QByteArray &bytes) {
-               MRVAutoReplace entry;
-               QDataStream stream(bytes);
-               stream >> entry;
-           });
-    QTest::newRow("shortcut scheme")
-        << shortcutScheme().toByteArray()
-        << Reader([](const QByteArray &bytes) { MRVShortcutScheme::fromByteArray(bytes); });
-    QTest::newRow("char format") << MRVTextFormat::toByteArray(charFormat())
-                                 << Reader([](const QByteArray &bytes) {
-                                        MRVTextFormat::toCharFormat(bytes);
-                                    });
-    QTest::newRow("block format") << MRVTextFormat::toByteArray(blockFormat())
-                                  << Reader([](const QByteArray &bytes) {
-                                         MRVTextFormat::toBlockFormat(bytes);
-                                     });
+    const auto row = [](const char *name, const QByteArray &bytes, const Reader &read) {
+        QTest::newRow(name) << bytes << read;
+    };
+    row("auto-replace list", MRVAutoReplaceList::defaultReplacementsByteArray(),
+        [](const QByteArray &bytes) { MRVAutoReplaceList().fromByteArray(bytes); });
+    row("auto-replace entry", autoReplaceEntry(), [](const QByteArray &bytes) {
+        MRVAutoReplace entry;
+        QDataStream stream(bytes);
+        stream >> entry;
+    });
+    row("char format", MRVTextFormat::toByteArray(charFormat()),
+        [](const QByteArray &bytes) { MRVTextFormat::toCharFormat(bytes); });
+    row("block format", MRVTextFormat::toByteArray(blockFormat()),
+        [](const QByteArray &bytes) { MRVTextFormat::toBlockFormat(bytes); });
+    row("engine map",
+        MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultImportEngines()),
+        [](const QByteArray &bytes) { MRVImportExportConfig::toFormatEngines(bytes); });
+    row("shortcut scheme", shortcutScheme().toByteArray(),
+        [](const QByteArray &bytes) { MRVShortcutScheme::fromByteArray(bytes); });
+    row("shortcut scheme with defaults", shortcutScheme().toByteArray(),
+        [](const QByteArray &bytes) { MRVShortcutScheme(bytes, true); });
+    row("shortcut scheme in a stream", shortcutScheme().toByteArray(), [](const QByteArray &bytes) {
+        MRVShortcutScheme scheme;
+        QDataStream stream(bytes);
+        stream >> scheme;
+    });
 }
 
 void TestStoredForms::damaged()
