@@ -1,35 +1,53 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
-#include "importexport/mrvimportexportconfig.h"
+#include "importexport/mrvenginetables_p.h"
+#include "settings/mrvoptions.h"
 #include "settings/mrvshortcutscheme.h"
-#include "text/mrvtextformat.h"
+#include "settings/mrvtextpresetscheme.h"
 
 #include <QDataStream>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
 
 namespace {
 
-using Reader = std::function<void(const QByteArray &)>;
+using Reader = std::function<bool(const QByteArray &)>; // whether it read what was stored
 
 constexpr long MostMemory = 1024 * 1024;
-constexpr int ShortForm = 2000; // up to here each byte takes all other values
+constexpr int ShortForm = 700; // up to here each byte takes all other values
 
-QByteArray autoReplaceEntry()
+template<typename T>
+QByteArray inStream(const T &value)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream << MRVAutoReplace{true, "-->", QString(QChar(0x2192))};
+    stream << value;
     return bytes;
 }
 
-MRVShortcutScheme shortcutScheme()
+template<typename T>
+bool readFromStream(const QByteArray &bytes)
 {
-    const MRVShortcutScheme all = MRVShortcutScheme::morvane();
-    return {"Tools", MRVShortcutScheme::toHash(all.groupShortcuts("Tools"))};
+    T value;
+    QDataStream stream(bytes);
+    stream >> value;
+    return value != T();
 }
+
+/** The options, and a list of integers, of which they have none. */
+class Store : public MRVOptions
+{
+public:
+    static constexpr IntListSetting Numbers = IntListSetting(7);
+
+    using MRVOptions::keyText;
+    using MRVOptions::MRVOptions;
+    static QString numbersKey() { return "Lists/numbers"; }
+    QString keyText(IntListSetting) const override { return numbersKey(); }
+};
 
 QTextCharFormat charFormat()
 {
@@ -58,11 +76,9 @@ QTextBlockFormat blockFormat()
     return format;
 }
 
-MRVShortcutScheme shortcutScheme()
+MRVEngineTables::FormatEngines engines()
 {
-    const QList<MRVShortcutInfo> commands =
-        MRVShortcutScheme::morvane().sortedShortcuts().mid(0, 3);
-    return MRVShortcutScheme("Mine", MRVShortcutScheme::toHash(commands));
+    return MRVEngineTables::defaultEngines(MRVEngineTables::Export, {});
 }
 
 } // namespace
@@ -77,11 +93,16 @@ class TestStoredForms : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        m_store.reset(new Store(m_folder.filePath("settings.ini")));
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     }
     void meter();
     void damaged_data();
     void damaged();
+
+private:
+    QTemporaryDir m_folder;
+    QScopedPointer<Store> m_store;
 };
 
 // Else a meter that stands still would let everything pass.
@@ -105,27 +126,41 @@ void TestStoredForms::damaged_data()
         QTest::newRow(name) << bytes << read;
     };
     row("auto-replace list", MRVAutoReplaceList::defaultReplacementsByteArray(),
-        [](const QByteArray &bytes) { MRVAutoReplaceList().fromByteArray(bytes); });
-    row("auto-replace entry", autoReplaceEntry(), [](const QByteArray &bytes) {
-        MRVAutoReplace entry;
-        QDataStream stream(bytes);
-        stream >> entry;
+        [](const QByteArray &bytes) {
+            MRVAutoReplaceList list;
+            list.fromByteArray(bytes);
+            return list.size() == 33;
+        });
+    row("auto-replace entry", inStream(MRVAutoReplace{true, "-->", QString(QChar(0x2192))}),
+        readFromStream<MRVAutoReplace>);
+    row("char format", MRVSettings::toByteArray(charFormat()), [this](const QByteArray &bytes) {
+        m_store->setValue(m_store->keyText(MRVOptions::DefaultCharFormat), bytes);
+        return m_store->value(MRVOptions::DefaultCharFormat).fontItalic();
     });
-    row("char format", MRVTextFormat::toByteArray(charFormat()),
-        [](const QByteArray &bytes) { MRVTextFormat::toCharFormat(bytes); });
-    row("block format", MRVTextFormat::toByteArray(blockFormat()),
-        [](const QByteArray &bytes) { MRVTextFormat::toBlockFormat(bytes); });
-    row("engine map",
-        MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultImportEngines()),
-        [](const QByteArray &bytes) { MRVImportExportConfig::toFormatEngines(bytes); });
-    row("shortcut scheme", shortcutScheme().toByteArray(),
-        [](const QByteArray &bytes) { MRVShortcutScheme::fromByteArray(bytes); });
-    row("shortcut scheme with defaults", shortcutScheme().toByteArray(),
-        [](const QByteArray &bytes) { MRVShortcutScheme(bytes, true); });
-    row("shortcut scheme in a stream", shortcutScheme().toByteArray(), [](const QByteArray &bytes) {
-        MRVShortcutScheme scheme;
-        QDataStream stream(bytes);
-        stream >> scheme;
+    row("block format", MRVSettings::toByteArray(blockFormat()), [this](const QByteArray &bytes) {
+        m_store->setValue(m_store->keyText(MRVOptions::DefaultBlockFormat), bytes);
+        return m_store->value(MRVOptions::DefaultBlockFormat).textIndent() == 18;
+    });
+    row("integer list", "1 20 3 -4000000", [this](const QByteArray &bytes) {
+        m_store->setValue(Store::numbersKey(), QString::fromLatin1(bytes));
+        return m_store->value(Store::Numbers) == QList<int>{1, 20, 3, -4000000};
+    });
+    row("engine map", MRVEngineTables::toByteArray(engines()),
+        [](const QByteArray &bytes) { return !MRVEngineTables::toFormatEngines(bytes).isEmpty(); });
+    const MRVTextPreset preset(charFormat(), blockFormat(), MRVTextPreset::ApplyCharFormat);
+    MRVTextPresetScheme presets;
+    presets.setPreset("One", preset);
+    presets.setPreset("Two", MRVTextPreset());
+    row("text preset", inStream(preset), readFromStream<MRVTextPreset>);
+    row("text preset scheme", MRVTextPresetScheme::toByteArray(presets),
+        [](const QByteArray &bytes) {
+            return MRVTextPresetScheme::fromByteArray(bytes).count() == 2;
+        });
+    const QList<MRVShortcutInfo> commands =
+        MRVShortcutScheme::morvane().sortedShortcuts().mid(0, 3);
+    const MRVShortcutScheme shortcuts("Mine", MRVShortcutScheme::toHash(commands));
+    row("shortcut scheme", shortcuts.toByteArray(), [](const QByteArray &bytes) {
+        return MRVShortcutScheme::fromByteArray(bytes).shortcuts().size() == 3;
     });
 }
 
@@ -134,7 +169,7 @@ void TestStoredForms::damaged()
     QFETCH(QByteArray, bytes);
     QFETCH(Reader, read);
     QVERIFY(bytes.size() > 8);
-    read(bytes); // what is made once, such as registered types, is no matter of the bytes
+    QVERIFY(read(bytes)); // also makes what is made once, such as registered types
     const auto peak = [&](const QByteArray &form) {
         HeapMeter::start();
         read(form);
