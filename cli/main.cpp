@@ -19,6 +19,7 @@ constexpr Command commands[] = {
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},
+    {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
 };
 
 QString usage()
