@@ -14,6 +14,7 @@ constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
     {"notes", "list links, notes, highlights and pictures", runNotes},
+    {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},
 };

@@ -1,7 +1,10 @@
-#include "settings/mrvtextpresetscheme.h"
+#include "datarows.h"
+#include "settings/mrvoptions.h"
+#include "settings/mrvtextpresetmgr.h"
+#include "support.h"
 #include "text/mrvtextformat.h"
 
-#include <QtTest>
+#include <QTemporaryDir>
 
 #include <sys/resource.h>
 
@@ -50,12 +53,43 @@ class tst_Presets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void storedForm();
     void roundTrip();
     void otherVersions();
     void damagedBytes();
     void defaults();
+    void manager();
+    void managerWithoutFolder();
+    void damagedFileIsKept();
+    void tool();
+    void toolRefuses_data()
+    {
+        addRows("mrv-presets-refused.tsv", {"case", "arguments", "code", "word"});
+    }
+    void toolRefuses();
+
+private:
+    QString in(const QString &name) const { return m_folder->filePath(name); }
+    Ran mrv(const QString &arguments) const
+    {
+        return run(MRV_TOOL,
+                   QStringList{"presets"}
+                       + QString(arguments).replace('@', m_folder->path() + '/').split(' '),
+                   {"XDG_CONFIG_HOME=" + in("config"), "XDG_DATA_HOME=" + m_folder->path()});
+    }
+
+    QScopedPointer<QTemporaryDir> m_folder;
 };
+
+void tst_Presets::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
+    QCoreApplication::setOrganizationName("Morvane");
+    QCoreApplication::setApplicationName("Morvane");
+    mrvOptions()->remove("TextEditing");
+}
 
 void tst_Presets::storedForm()
 {
@@ -146,6 +180,88 @@ void tst_Presets::defaults()
         QVERIFY(preset.charFormat().fontPointSize() >= 12);
         QCOMPARE(int(preset.applyFlags()), 3);
     }
+}
+
+void tst_Presets::manager()
+{
+    const QString path = in("Morvane/Morvane/TextPresets/TextPresets.bin");
+    QVERIFY(MRVTextPresetMgr::loadPresetScheme() == Scheme::defaultScheme());
+    mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray(sample()));
+    MRVTextPresetMgr *manager = MRVTextPresetMgr::instance();
+    QVERIFY(manager == MRVTextPresetMgr::instance() && manager->presetScheme() == sample());
+    QSignalSpy spy(manager, &MRVTextPresetMgr::presetsChanged);
+    manager->removePreset("C");
+    QVERIFY(spy.isEmpty() && !QFile::exists(path));
+    manager->removePreset("B");
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(Scheme::fromByteArray(bytesOf(path)).names(), QStringList{"A"});
+    manager->setPresetScheme(sample());
+    QCOMPARE(spy.size(), 2);
+    QCOMPARE(bytesOf(path), sampleBytes());
+    // The file counts, though the settings are newer.
+    mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray({}));
+    QVERIFY(MRVTextPresetMgr().presetScheme() == sample());
+    QVERIFY(!QFile::exists(path + '~'));
+}
+
+void tst_Presets::managerWithoutFolder()
+{
+    QVERIFY(writeBytes(in("Morvane"), "in the way"));
+    QCOMPARE(MRVTextPresetMgr::presetSchemeFilePath(), QString());
+    MRVTextPresetMgr manager;
+    QVERIFY(manager.presetScheme() == Scheme::defaultScheme());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("go to the settings"));
+    manager.setPresetScheme(sample());
+    QCOMPARE(mrvOptions()->value("TextEditing/textPresets").toByteArray(), sampleBytes());
+    QVERIFY(MRVTextPresetMgr::loadPresetScheme() == sample());
+}
+
+void tst_Presets::damagedFileIsKept()
+{
+    const QString path = MRVTextPresetMgr::presetSchemeFilePath();
+    const QByteArray damaged = sampleBytes().left(50);
+    QVERIFY(writeBytes(path, damaged));
+    MRVTextPresetMgr manager;
+    QCOMPARE(manager.presetScheme().names(), QStringList{"A"});
+    manager.removePreset("A");
+    QCOMPARE(bytesOf(path + '~'), damaged);
+    QCOMPARE(bytesOf(path).toHex(), QByteArray("0000000100000000"));
+}
+
+void tst_Presets::tool()
+{
+    QVERIFY(writeBytes(in("two"), sampleBytes()));
+    QCOMPARE(mrv("list --file @two").output, QString("A\nB\n"));
+    QCOMPARE(mrv("show B --file @two").output,
+             QString("B\n  applies     characters, paragraphs\n"
+                     "  characters  weight 75\n  paragraphs  firstLine 36\n"));
+    QCOMPARE(mrv("show B --json --file @two").output,
+             QString("{\"applies\":[\"characters\",\"paragraphs\"],\"characters\":{\"weight\":75},"
+                     "\"name\":\"B\",\"paragraphs\":{\"firstLine\":36}}\n"));
+    for (const QString &where : {QString(), QString(" --settings @settings")}) {
+        QCOMPARE(mrv("import @two" + where).exitCode, 0);
+        QCOMPARE(mrv("list" + where).output.count('\n'), 8);
+        QCOMPARE(mrv("import @two --only-these" + where).exitCode, 0);
+        QCOMPARE(mrv("export @out" + where).exitCode, 0);
+        QCOMPARE(bytesOf(in("out")), sampleBytes());
+        QCOMPARE(mrv("remove A" + where).exitCode, 0);
+        QCOMPARE(mrv("list" + where).output, QString("B\n"));
+    }
+    QCOMPARE(bytesOf(MRVTextPresetMgr::presetSchemeFilePath()),
+             QByteArray::fromHex("0000000100000001") + sampleBytes().mid(38));
+    QVERIFY(bytesOf(in("settings")).startsWith("[Options]\nTextEditing\\textPresets=@ByteArray("));
+}
+
+void tst_Presets::toolRefuses()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, word);
+    QVERIFY(writeBytes(in("two"), sampleBytes()));
+    QVERIFY(writeBytes(in("damaged"), sampleBytes().left(50)));
+    const Ran ran = mrv(arguments);
+    QTEST(QString::number(ran.exitCode), "code");
+    QVERIFY2(ran.errors.contains(word) && ran.errors.count('\n') == 1, qPrintable(ran.errors));
+    QCOMPARE(mrv("list").output.count('\n'), 6);
 }
 
 QTEST_MAIN(tst_Presets)
