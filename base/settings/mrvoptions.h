@@ -52,7 +52,8 @@ public:
     static constexpr FlagSetting ConvertHtmlToText = FlagSetting(9);
     static constexpr FlagSetting ImportSupportedTypesOnly = FlagSetting(10);
     static constexpr FlagSetting RemoveInvalidRtfCharacters = FlagSetting(11);
-    static constexpr FlagSetting EnableFontHinting = FlagSetting(12);
+    static constexpr FlagSetting EnableFontHinting =
+        FlagSetting(12); ///< for text formats that are read from the store
     static constexpr FlagSetting FernwickImportFirstLinesAsTitlesOnly = FlagSetting(13);
     static constexpr FlagSetting ShowDocumentCounts = FlagSetting(14);
     static constexpr FlagSetting ShowDocumentNotepadLines = FlagSetting(15);
@@ -103,28 +104,30 @@ public:
 
     /// @name Whole numbers
     /// @{
-    static constexpr IntSetting FullScreenPaperPosition = IntSetting(0);
-    static constexpr IntSetting SaveInterval = IntSetting(1);
-    static constexpr IntSetting CheckForUpdatesInterval = IntSetting(2);
-    static constexpr IntSetting LabelTintOpacity = IntSetting(3);
+    static constexpr IntSetting FullScreenPaperPosition =
+        IntSetting(0); ///< left, centre, right: 0 to 2
+    static constexpr IntSetting SaveInterval = IntSetting(1); ///< seconds without typing
+    static constexpr IntSetting CheckForUpdatesInterval = IntSetting(2); ///< days
+    static constexpr IntSetting LabelTintOpacity = IntSetting(3); ///< 0 to 255, as all opacities
     static constexpr IntSetting StatusOpacity = IntSetting(4);
     static constexpr IntSetting ShadowOpacity = IntSetting(5);
     static constexpr IntSetting FullScreenBackgroundOpacity = IntSetting(6);
-    static constexpr IntSetting FullScreenPaperWidth = IntSetting(7);
-    static constexpr IntSetting FullScreenPaperHeight = IntSetting(8);
-    static constexpr IntSetting CursorWidth = IntSetting(9);
-    static constexpr IntSetting EditorZoomIndex = IntSetting(10);
+    static constexpr IntSetting FullScreenPaperWidth = IntSetting(7); ///< percent of the screen's
+    static constexpr IntSetting FullScreenPaperHeight = IntSetting(8); ///< percent of the screen's
+    static constexpr IntSetting CursorWidth = IntSetting(9); ///< pixels; -1: the system's
+    static constexpr IntSetting EditorZoomIndex = IntSetting(10); ///< into the list of zoom factors
     static constexpr IntSetting ProjectNotesZoomIndex = IntSetting(11);
     static constexpr IntSetting DocumentNotesZoomIndex = IntSetting(12);
-    static constexpr IntSetting MediaBacktrackDuration = IntSetting(13);
-    static constexpr IntSetting BackupsToRetain = IntSetting(14);
-    static constexpr IntSetting RevisionLevel = IntSetting(17);
+    static constexpr IntSetting MediaBacktrackDuration = IntSetting(13); ///< seconds
+    static constexpr IntSetting BackupsToRetain =
+        IntSetting(14); ///< number of backups of a project
+    static constexpr IntSetting RevisionLevel = IntSetting(17); ///< 0 (none) to 5
     static constexpr IntSetting AutoChangeIndentWithSpacing = IntSetting(18);
-    static constexpr IntSetting OpenClickedMorvaneLinksIn = IntSetting(19);
-    static constexpr IntSetting RecentProjectsCount = IntSetting(20);
+    static constexpr IntSetting OpenClickedMorvaneLinksIn = IntSetting(19); ///< MRV::OpenInTarget
+    static constexpr IntSetting RecentProjectsCount = IntSetting(20); ///< 0 to 50
     static constexpr IntSetting OpmlExportLastFormat = IntSetting(51);
     static constexpr IntSetting OpmlExportType = IntSetting(52);
-    static constexpr IntSetting OpmlImportType = IntSetting(53);
+    static constexpr IntSetting OpmlImportType = IntSetting(53); ///< MRV::OpmlImportType
     static constexpr IntSetting OpmlImportTypeOptions = IntSetting(54);
     /// @}
 
@@ -137,22 +140,32 @@ public:
     /// @name Texts
     /// @{
     static constexpr StringSetting TemplatesPath = StringSetting(0);
-    static constexpr StringSetting CorkboardPattern = StringSetting(1);
-    static constexpr StringSetting RulerMeasure = StringSetting(2);
-    static constexpr StringSetting RulerSnap = StringSetting(3);
-    static constexpr StringSetting DictionaryLocale = StringSetting(4);
+    static constexpr StringSetting CorkboardPattern =
+        StringSetting(1); ///< path of a picture; empty: plain colour
+    static constexpr StringSetting RulerMeasure =
+        StringSetting(2); ///< a unit of MRVUnit, such as "cm"
+    static constexpr StringSetting RulerSnap =
+        StringSetting(3); ///< a measure, such as "0.25cm"; empty: none
+    static constexpr StringSetting DictionaryLocale = StringSetting(4); ///< as QLocale::name()
     static constexpr StringSetting BibliographyCitationsManager = StringSetting(5);
     static constexpr StringSetting ScratchPadDirectory = StringSetting(6);
     static constexpr StringSetting ScratchPadLastFile = StringSetting(7);
-    static constexpr StringSetting ScratchPadOrientation = StringSetting(8);
-    static constexpr StringSetting BackupsLocation = StringSetting(9);
-    static constexpr StringSetting GuiLanguage = StringSetting(10);
-    static constexpr StringSetting DoubleQuotesSubstitution = StringSetting(11);
-    static constexpr StringSetting SingleQuotesSubstitution = StringSetting(12);
-    static constexpr StringSetting LabelIndicator = StringSetting(13);
-    static constexpr StringSetting IndexCardCornerStyle = StringSetting(14);
-    static constexpr StringSetting SpaceDoubleClick = StringSetting(15);
-    static constexpr StringSetting KindlePath = StringSetting(33);
+    static constexpr StringSetting ScratchPadOrientation =
+        StringSetting(8); ///< "Vertical" or "Horizontal"
+    static constexpr StringSetting BackupsLocation = StringSetting(9); ///< see backupPath()
+    static constexpr StringSetting GuiLanguage = StringSetting(10); ///< one of guiLanguages()
+    static constexpr StringSetting DoubleQuotesSubstitution =
+        StringSetting(11); ///< see doubleQuotes()
+    static constexpr StringSetting SingleQuotesSubstitution =
+        StringSetting(12); ///< see singleQuotes()
+    static constexpr StringSetting LabelIndicator =
+        StringSetting(13); ///< a word of CorkLabelIndicator
+    static constexpr StringSetting IndexCardCornerStyle =
+        StringSetting(14); ///< a word of CorkCornerStyle
+    static constexpr StringSetting SpaceDoubleClick =
+        StringSetting(15); ///< a word of SpaceDoubleClickMode
+    static constexpr StringSetting KindlePath =
+        StringSetting(33); ///< of the converter; empty: none
     static constexpr StringSetting OpmlImportLastPath = StringSetting(47);
     /// @}
 
@@ -186,16 +199,24 @@ public:
 
     /// @name Byte arrays
     /// @{
-    static constexpr ByteArraySetting DefaultShortcutScheme = ByteArraySetting(0);
-    static constexpr ByteArraySetting TextPresets = ByteArraySetting(1);
-    static constexpr ByteArraySetting FullScreenBackgroundImage = ByteArraySetting(5);
-    static constexpr ByteArraySetting SubstitutionList = ByteArraySetting(7);
-    static constexpr ByteArraySetting PdfSettings = ByteArraySetting(8);
-    static constexpr ByteArraySetting SpellingGeometry = ByteArraySetting(9);
-    static constexpr ByteArraySetting ImportDefaultUrlType = ByteArraySetting(10);
-    static constexpr ByteArraySetting ImportDefaultCodec = ByteArraySetting(11);
-    static constexpr ByteArraySetting ImportFormatConverters = ByteArraySetting(12);
-    static constexpr ByteArraySetting ExportFormatConverters = ByteArraySetting(13);
+    static constexpr ByteArraySetting DefaultShortcutScheme =
+        ByteArraySetting(0); ///< an MRVShortcutScheme
+    static constexpr ByteArraySetting TextPresets = ByteArraySetting(1); ///< an MRVTextPresetScheme
+    static constexpr ByteArraySetting FullScreenBackgroundImage =
+        ByteArraySetting(5); ///< JPEG; empty: none
+    static constexpr ByteArraySetting SubstitutionList =
+        ByteArraySetting(7); ///< see autoReplaceList()
+    static constexpr ByteArraySetting PdfSettings = ByteArraySetting(8); ///< see pdfSettings()
+    static constexpr ByteArraySetting SpellingGeometry =
+        ByteArraySetting(9); ///< of the window, as QWidget saves it
+    static constexpr ByteArraySetting ImportDefaultUrlType =
+        ByteArraySetting(10); ///< see defaultImportUrlType()
+    static constexpr ByteArraySetting ImportDefaultCodec =
+        ByteArraySetting(11); ///< see defaultTextEncoding()
+    static constexpr ByteArraySetting ImportFormatConverters =
+        ByteArraySetting(12); ///< the engine configuration's
+    static constexpr ByteArraySetting ExportFormatConverters =
+        ByteArraySetting(13); ///< the engine configuration's
     /// @}
 
     /// @name Colours

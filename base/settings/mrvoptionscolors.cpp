@@ -58,8 +58,8 @@ QString MRVOptions::colorGroupName(ColorSettingGroup group)
 
 QString MRVOptions::colorName(ColorSetting setting)
 {
-    const auto *place = placeOf(setting);
-    return place && place->row ? tr(place->row->value.name) : QString();
+    const ColorRow *row = rowOf(setting);
+    return row ? tr(row->value.name) : QString();
 }
 
 QList<MRVOptions::IndexCardTheme> MRVOptions::indexCardThemes()

@@ -140,7 +140,7 @@ void forEachSetting(const MRVOptions *options, const Visitor &visit)
 
 bool MRVOptions::Explanation::isChanged() const
 {
-    // The texts tell all values apart, and of numbers in a text, which files hold, they know nothing.
+    // As texts: QVariant has no comparison for formats and lists of numbers.
     return toText(type, value) != toText(type, defaultValue);
 }
 

@@ -11,15 +11,8 @@ Q_GLOBAL_STATIC(MRVOptions, theOptions)
 template<typename Setting>
 QString keyOf(Setting setting)
 {
-    const auto *place = placeOf(setting);
-    return place ? place->key : QString();
-}
-
-template<typename Setting>
-auto rowOf(Setting setting)
-{
-    const auto *place = placeOf(setting);
-    return place ? place->row : nullptr;
+    const auto *row = rowOf(setting);
+    return row ? row->keyText() : QString();
 }
 
 } // namespace

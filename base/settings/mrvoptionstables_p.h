@@ -3,7 +3,6 @@
 #include "settings/mrvoptions.h"
 
 #include <QRgb>
-#include <QVector>
 
 #include <iterator>
 
@@ -19,6 +18,7 @@ struct Row
 {
     Setting setting;
     const char *key;
+    QString (*keyText)(); // the same without a copy of the characters
     Default value;
 };
 
@@ -107,6 +107,20 @@ Rows<IntListRow> tableOf(MRVSettings::IntListSetting);
 Rows<ByteArrayRow> tableOf(MRVSettings::ByteArraySetting);
 Rows<CharFormatRow> tableOf(MRVSettings::TextCharFormat);
 Rows<BlockFormatRow> tableOf(MRVSettings::TextBlockFormat);
+
+// The row of a setting; null where it has none.
+const FlagRow *rowOf(MRVSettings::FlagSetting setting);
+const IntRow *rowOf(MRVSettings::IntSetting setting);
+const RealRow *rowOf(MRVSettings::RealSetting setting);
+const StringRow *rowOf(MRVSettings::StringSetting setting);
+const StringListRow *rowOf(MRVSettings::StringListSetting setting);
+const ColorRow *rowOf(MRVSettings::ColorSetting setting);
+const DateTimeRow *rowOf(MRVSettings::DateTimeSetting setting);
+const FontRow *rowOf(MRVSettings::FontSetting setting);
+const IntListRow *rowOf(MRVSettings::IntListSetting setting);
+const ByteArrayRow *rowOf(MRVSettings::ByteArraySetting setting);
+const CharFormatRow *rowOf(MRVSettings::TextCharFormat setting);
+const BlockFormatRow *rowOf(MRVSettings::TextBlockFormat setting);
 
 /** The type that a setting's enumeration stands for. */
 // clang-format off
@@ -201,37 +215,5 @@ QTextCharFormat defaultCharFormat();
 QTextBlockFormat defaultBlockFormat();
 /** The system's general font in @p percent of its size; a plain font without a QGuiApplication. */
 QFont systemFont(int percent);
-
-/** The rows of a table by their settings' numbers, and their keys as QString, made only once. */
-template<typename Setting>
-struct Index
-{
-    using Entry = std::remove_cv_t<std::remove_reference_t<decltype(*tableOf(Setting()).first)>>;
-
-    struct Place
-    {
-        QString key;
-        const Entry *row = nullptr;
-    };
-    QVector<Place> places;
-
-    Index()
-    {
-        const auto rows = tableOf(Setting());
-        if (rows.first != rows.last)
-            places.resize(int((rows.last - 1)->setting) + 1);
-        for (const Entry &row : rows)
-            places[int(row.setting)] = {QString::fromLatin1(row.key), &row};
-    }
-};
-
-/** Key and row of a setting; null for a number without a row. */
-template<typename Setting>
-const typename Index<Setting>::Place *placeOf(Setting setting)
-{
-    static const Index<Setting> index;
-    const uint number = uint(setting);
-    return number < uint(index.places.size()) ? &index.places.at(int(number)) : nullptr;
-}
 
 } // namespace MRVOptionsTables
