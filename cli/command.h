@@ -22,6 +22,7 @@ int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
+int runSettings(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

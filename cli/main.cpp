@@ -16,6 +16,7 @@ constexpr Command commands[] = {
     {"find", "find text and formats in manuscripts", runFind},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"replace", "replace text in manuscripts", runReplace},
+    {"settings", "show and change the application's preferences", runSettings},
 };
 
 QString usage()

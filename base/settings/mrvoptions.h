@@ -17,12 +17,12 @@
 #include <QVariant>
 
 /**
- * The user's preferences: the key and the default of every setting, and the few preferences that are
- * not stored as what they are (words for enumerations, separators, quotes, lists).
+ * The user's preferences: the key and the default of every setting, and the few preferences that
+ * are not stored as what they are (words for enumerations, separators, quotes, lists).
  *
- * All keys are "Group/key" paths below the group "Options" of the store; groupsChanged() of the base
- * class tells which groups changed. Each setting has a constant here; a number of a setting that has
- * no constant has an empty key and the empty value of its type.
+ * All keys are "Group/key" paths below the group "Options" of the store; groupsChanged() of the
+ * base class tells which groups changed. Each setting has a constant here; a number of a setting
+ * that has no constant has an empty key and the empty value of its type.
  *
  * A default is never written to the store. Those of folders, languages and fonts are asked of the
  * system at each call.
@@ -323,6 +323,7 @@ public:
         QVariant
             value; ///< as the typed value() gives it; formats as QTextFormat, QList<int> as such
         QVariant defaultValue; ///< of the same type
+        QString accepts; ///< the limits, or the words, that setFromText() keeps to; empty for none
         QString origin; ///< path of the file that the value is from; empty for the default
 
         /** Whether the value is another than the default. */
@@ -368,7 +369,7 @@ public:
     QString keyText(IntListSetting setting) const override;
     QString keyText(ByteArraySetting setting) const override;
 
-    /** The stored word, which is the enumerator's name; that of the default outside the enumeration. */
+    /** The stored word: the enumerator's name; that of the default outside the enumeration. */
     static QString toString(CorkCornerStyle style);
     static QString toString(CorkLabelIndicator indicator);
     static QString toString(SpaceDoubleClickMode mode);
@@ -399,7 +400,7 @@ public:
      */
     bool setSeparator(MRV::SeparatorContext context, MRV::SeparatorType type,
                       const QString &custom);
-    /** The text of the custom separator, whether it is in use or not. A "#" on a line by default. */
+    /** The text of the custom separator, in use or not. A "#" on a line by default. */
     QString customSeparator(MRV::SeparatorContext context) const;
 
     /**

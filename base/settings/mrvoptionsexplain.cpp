@@ -66,6 +66,32 @@ QVariant variantOf(const QTextBlockFormat &format)
 }
 
 template<typename Setting, typename Default>
+QString acceptsOf(const Row<Setting, Default> &)
+{
+    return QString();
+}
+
+QString rangeOf(double least, double most)
+{
+    return MRVOptions::tr("%1 to %2").arg(QString::number(least), QString::number(most));
+}
+
+QString acceptsOf(const IntRow &row)
+{
+    return rangeOf(row.value.least, row.value.most);
+}
+
+QString acceptsOf(const RealRow &row)
+{
+    return rangeOf(row.value.least, row.value.most);
+}
+
+QString acceptsOf(const StringRow &row)
+{
+    return row.value.words ? row.value.words().join(QLatin1String(", ")) : QString();
+}
+
+template<typename Setting, typename Default>
 MRVOptions::Explanation explanationOf(const MRVOptions &options, const Row<Setting, Default> &row)
 {
     MRVOptions::Explanation explanation;
@@ -74,6 +100,7 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Row<Setti
     explanation.number = row.setting;
     explanation.value = valueOf(options, row.setting);
     explanation.defaultValue = variantOf(options.defaultValue(row.setting));
+    explanation.accepts = acceptsOf(row);
     explanation.origin = originOf(options, explanation.key);
     return explanation;
 }
@@ -90,6 +117,8 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Separator
         : options.customSeparator(row.context);
     explanation.defaultValue =
         isType ? QString::fromLatin1(MRV::toString(row.type)) : defaultCustomSeparator();
+    if (isType)
+        explanation.accepts = separatorTypeWords().join(QLatin1String(", "));
     explanation.origin = originOf(options, explanation.key);
     return explanation;
 }

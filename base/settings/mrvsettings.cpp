@@ -17,23 +17,30 @@ constexpr auto FontHinting = MRVSettings::FlagSetting(12);
 constexpr char PictureFormat[] = "JPG";
 constexpr int PictureQuality = 50;
 
-// A null pointer is never stored, so it tells a missing key from one that holds nothing, in one
-// look-up.
-QVariant missing()
-{
-    return QVariant(QMetaType::Nullptr, nullptr);
-}
-
-bool isMissing(const QVariant &value)
-{
-    return value.userType() == QMetaType::Nullptr;
-}
-
-// What a number, a colour or a date is stored as holds something, unless somebody took it out.
+// What a flag or a font is stored as holds something, unless somebody took it out.
 bool isEmpty(const QVariant &value)
 {
-    return isMissing(value) || !value.isValid()
+    return !value.isValid()
         || (value.userType() == QMetaType::QString && value.toString().isEmpty());
+}
+
+// No member, which the compiler may not inline in a shared library.
+QVariant stored(const QSettings &settings, const QString &key)
+{
+    return key.isEmpty() ? QVariant() : settings.value(key);
+}
+
+int toInt(const QVariant &value, bool *ok)
+{
+    *ok = value.isValid();
+    if (!*ok)
+        return 0;
+    if (value.userType() == QMetaType::Int)
+        return value.toInt();
+    // Not toInt(), which takes just the lower half of a larger number.
+    const qlonglong number = value.toLongLong(ok);
+    *ok = *ok && number == int(number);
+    return int(number);
 }
 
 template<typename Format>
@@ -208,46 +215,44 @@ void MRVSettings::setGroup(const QString &group)
     m_group = QSettings::group();
 }
 
-QVariant MRVSettings::stored(const QString &key) const
-{
-    return key.isEmpty() ? missing() : QSettings::value(key, missing());
-}
-
 bool MRVSettings::value(FlagSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
+    const QVariant value = stored(*this, keyText(setting));
     return isEmpty(value) ? defaultValue(setting) : value.toBool();
 }
 
 int MRVSettings::value(IntSetting setting) const
 {
     bool ok = false;
-    const int number = stored(keyText(setting)).toInt(&ok);
+    const int number = toInt(stored(*this, keyText(setting)), &ok);
     return ok ? number : defaultValue(setting);
 }
 
 qreal MRVSettings::value(RealSetting setting) const
 {
     bool ok = false;
-    const qreal number = stored(keyText(setting)).toReal(&ok);
+    const qreal number = stored(*this, keyText(setting)).toReal(&ok);
     return ok ? number : defaultValue(setting);
 }
 
 QString MRVSettings::value(StringSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
-    return isMissing(value) ? defaultValue(setting) : value.toString();
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? value.toString() : defaultValue(setting);
 }
 
 QStringList MRVSettings::value(StringListSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
-    return isMissing(value) ? defaultValue(setting) : value.toStringList();
+    const QString key = keyText(setting);
+    const QVariant value = stored(*this, key);
+    // An empty list comes back from a file as nothing, under a key that is there.
+    const bool isMissing = !value.isValid() && (key.isEmpty() || !contains(key));
+    return isMissing ? defaultValue(setting) : value.toStringList();
 }
 
 QColor MRVSettings::value(ColorSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
+    const QVariant value = stored(*this, keyText(setting));
     const QColor color = value.value<QColor>();
     // An invalid colour may have been set; a text that names none has not.
     return color.isValid() || value.userType() == QMetaType::QColor ? color : defaultValue(setting);
@@ -255,7 +260,7 @@ QColor MRVSettings::value(ColorSetting setting) const
 
 QDateTime MRVSettings::value(DateTimeSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
+    const QVariant value = stored(*this, keyText(setting));
     const QDateTime time = value.toDateTime();
     return time.isValid() || value.userType() == QMetaType::QDateTime ? time
                                                                       : defaultValue(setting);
@@ -263,7 +268,7 @@ QDateTime MRVSettings::value(DateTimeSetting setting) const
 
 QFont MRVSettings::value(FontSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
+    const QVariant value = stored(*this, keyText(setting));
     QFont font;
     return !isEmpty(value) && font.fromString(fontDescription(value)) ? font
                                                                       : defaultValue(setting);
@@ -271,14 +276,14 @@ QFont MRVSettings::value(FontSetting setting) const
 
 QList<int> MRVSettings::value(IntListSetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
-    return isMissing(value) ? defaultValue(setting) : toIntList(value.toString());
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? toIntList(value.toString()) : defaultValue(setting);
 }
 
 QByteArray MRVSettings::value(ByteArraySetting setting) const
 {
-    const QVariant value = stored(keyText(setting));
-    return isMissing(value) ? defaultValue(setting) : value.toByteArray();
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? value.toByteArray() : defaultValue(setting);
 }
 
 QTextCharFormat MRVSettings::value(TextCharFormat setting) const
@@ -373,13 +378,13 @@ void MRVSettings::resetToDefaults()
 QTextCharFormat MRVSettings::textCharFormat(const QString &key, const QTextCharFormat &def) const
 {
     QTextCharFormat format;
-    return readFormat(stored(key).toByteArray(), &format) ? applyFontHinting(format) : def;
+    return readFormat(stored(*this, key).toByteArray(), &format) ? applyFontHinting(format) : def;
 }
 
 QTextBlockFormat MRVSettings::textBlockFormat(const QString &key, const QTextBlockFormat &def) const
 {
     QTextBlockFormat format;
-    return readFormat(stored(key).toByteArray(), &format) ? format : def;
+    return readFormat(stored(*this, key).toByteArray(), &format) ? format : def;
 }
 
 QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) const
@@ -387,10 +392,24 @@ QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) con
     return MRVTextFormat::setFontHinting(format, value(FontHinting));
 }
 
+MRVShortcutScheme MRVSettings::shortcutScheme(const QString &key,
+                                              const MRVShortcutScheme &def) const
+{
+    const auto scheme = MRVShortcutScheme::fromByteArray(stored(*this, key).toByteArray());
+    if (scheme.isValid())
+        return scheme;
+    return def.isValid() ? def : MRVShortcutScheme::morvane();
+}
+
+bool MRVSettings::setShortcutScheme(const QString &key, const MRVShortcutScheme &scheme)
+{
+    return setValue(key, MRVShortcutScheme::toByteArray(scheme));
+}
+
 MRVTextPresetScheme MRVSettings::textPresets(const QString &key,
                                              const MRVTextPresetScheme &def) const
 {
-    const QByteArray bytes = stored(key).toByteArray();
+    const QByteArray bytes = stored(*this, key).toByteArray();
     QString error;
     const MRVTextPresetScheme scheme = MRVTextPresetScheme::fromByteArray(bytes, &error);
     const bool isDamaged = !error.isEmpty();

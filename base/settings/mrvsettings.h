@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/mrvshortcutscheme.h"
 #include "settings/mrvtextpresetscheme.h"
 #include "util/mrvbase_export.h"
 
@@ -160,6 +161,13 @@ public:
     QTextCharFormat applyFontHinting(const QTextCharFormat &format) const;
 
     /**
+     * The shortcuts stored under @p key. Where there are none, or nothing of them can be read, @p def, and
+     * where that is null, MRVShortcutScheme::morvane().
+     */
+    MRVShortcutScheme shortcutScheme(const QString &key, const MRVShortcutScheme &def) const;
+    bool setShortcutScheme(const QString &key, const MRVShortcutScheme &scheme);
+
+    /**
      * The presets stored under @p key; @p def where there are none. A scheme without presets is a
      * scheme. Of a damaged one, the presets before the damage.
      */
@@ -181,10 +189,9 @@ public:
      * Saves what is not saved yet, and makes sure that it is: the file is read again, and each value in
      * it compared with the one in memory.
      *
-     * Where the disk is nearly full, the whole new file is first written beside the old one on trial.
-     * Where what was written is not whole all the same, it is written once more through
-     * MRVFileWriter, else the old file is put back. Changes that could not be saved stay in memory, and
-     * are tried again with the next one.
+     * Where what was written is not whole, as on a disk that has filled up, the file is written once more
+     * through MRVFileWriter, else the old file is put back. Changes that could not be saved stay in
+     * memory, and are tried again with the next one.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return whether the file holds all that the store does; also when there was nothing to save.
@@ -226,15 +233,11 @@ protected:
 private:
     enum class Saving { MayBeRepeated, Last };
 
-    QVariant stored(const QString &key) const;
     bool isOpenGroup() const;
     void recordChange(const QString &key);
     void replaceGroupIn(QSettings *file) const;
-    bool hasRoom(const QByteArray &before, QString *error) const;
     bool save(Saving saving, QString *error);
-    bool repair(const QByteArray &before, const QMap<QString, QVariant> &wanted, Saving saving,
-                QString *error);
-    void setAgain(const QMap<QString, QVariant> &unsaved);
+    void setAgain(const QMap<QString, QVariant> &old, const QMap<QString, QVariant> &wanted);
 
     int m_timerId = -1;
     QStringList m_changedGroups;

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDataStream>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <sys/mman.h>
@@ -155,4 +156,36 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
         return QByteArray();
     }
     return bytes;
+}
+
+// A second name for the file costs nothing. By the number of the process it is found again, so that one
+// that was killed leaves no more than one.
+MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &bytes)
+    : m_bytes(bytes)
+    , m_path(QFileInfo(path).canonicalFilePath())
+{
+    if (m_path.isEmpty())
+        return;
+    m_kept = QStringLiteral("%1.%2.old").arg(m_path).arg(::getpid());
+    const QByteArray kept = QFile::encodeName(m_kept);
+    ::unlink(kept.constData());
+    if (::link(QFile::encodeName(m_path).constData(), kept.constData()) != 0)
+        m_kept.clear();
+}
+
+MRVOldSettingsFile::~MRVOldSettingsFile()
+{
+    if (!m_kept.isEmpty())
+        ::unlink(QFile::encodeName(m_kept).constData());
+}
+
+bool MRVOldSettingsFile::putBack() const
+{
+    if (m_path.isEmpty() || m_bytes.isEmpty())
+        return false;
+    return (!m_kept.isEmpty()
+            && ::rename(QFile::encodeName(m_kept).constData(),
+                        QFile::encodeName(m_path).constData())
+                == 0)
+        || MRVFileWriter::write(m_path, m_bytes);
 }

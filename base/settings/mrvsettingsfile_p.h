@@ -37,3 +37,22 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted);
  */
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error);
+
+/** Keeps the file as it is beside the one that takes its place, for the life of the object. */
+class MRVOldSettingsFile
+{
+public:
+    /** @param bytes what is in the file; none where it does not exist. */
+    MRVOldSettingsFile(const QString &path, const QByteArray &bytes);
+    ~MRVOldSettingsFile();
+    MRVOldSettingsFile(const MRVOldSettingsFile &) = delete;
+    MRVOldSettingsFile &operator=(const MRVOldSettingsFile &) = delete;
+
+    /** Needs no room on the disk, except on one that has no hard links. */
+    bool putBack() const;
+
+private:
+    QByteArray m_bytes;
+    QString m_path; ///< without links
+    QString m_kept; ///< empty where nothing is kept
+};

@@ -10,8 +10,6 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QLoggingCategory>
-#include <QStorageInfo>
-#include <QUuid>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -19,9 +17,6 @@
 namespace {
 
 Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
-
-// With less room than this on the disk, a new file is written on trial first.
-constexpr qint64 AmpleRoom = 64 << 20;
 
 // As long as another process may reasonably take to write.
 constexpr int LockMilliseconds = 10000;
@@ -49,6 +44,69 @@ void makeNewer(const QString &path)
     // Where that is not allowed, length and time must do.
     const bool isNewer = ::utimensat(AT_FDCWD, name.constData(), times, 0) == 0;
     Q_UNUSED(isNewer)
+}
+
+// What is in the file still, though it was removed: what is new there comes from other processes.
+QStringList leftOver(const MRVSettingsMap &found, const MRVSettingsMap &wanted,
+                     const MRVSettingsMap &old)
+{
+    QStringList keys;
+    for (auto it = found.cbegin(); it != found.cend(); ++it) {
+        if (!wanted.contains(it.key()) && old.contains(it.key()))
+            keys.append(it.key());
+    }
+    return keys;
+}
+
+// A disk that is full, or may only be read, has no room for the lock either; that is not for the lock
+// to tell.
+bool isLockedByOther(QLockFile *lock)
+{
+    return !lock->tryLock(LockMilliseconds) && lock->error() == QLockFile::LockFailedError;
+}
+
+MRVSettingsMap valuesIn(const QByteArray &bytes, QSettings::Format format)
+{
+    MRVSettingsMap values;
+    mrvReadSettings(bytes, format, &values);
+    return values;
+}
+
+bool isUnchanged(MRVSettingsMap::const_iterator value, const MRVSettingsMap &old)
+{
+    const auto at = old.constFind(value.key());
+    return at != old.cend() && mrvIsStoredAs(value.value(), at.value());
+}
+
+bool isSaved(const QString &path, QSettings::Format format, const QByteArray &before,
+             const MRVSettingsMap &wanted)
+{
+    MRVSettingsMap found;
+    return mrvReadSettings(bytesOf(path), format, &found) && mrvHolds(found, wanted)
+        && (found.size() == wanted.size()
+            || leftOver(found, wanted, valuesIn(before, format)).isEmpty());
+}
+
+// Adds to the file what it lacks of what was to be saved, and keeps what others have changed.
+bool repair(const QString &path, QSettings::Format format, const QByteArray &before,
+            const MRVSettingsMap &wanted, QString *error)
+{
+    const QByteArray after = bytesOf(path);
+    const MRVSettingsMap found = valuesIn(after, format);
+    const MRVSettingsMap old = valuesIn(before, format);
+    const QByteArray whole = mrvEditedSettings(
+        after,
+        [&](QSettings *file) {
+            const QStringList removed = leftOver(found, wanted, old);
+            for (const QString &key : removed)
+                file->remove(key);
+            for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+                if (!found.contains(it.key()) || !isUnchanged(it, old))
+                    file->setValue(it.key(), it.value());
+            }
+        },
+        error);
+    return error->isEmpty() && MRVFileWriter::write(path, whole, error);
 }
 
 bool fail(QString *error, const QString &reason)
@@ -80,35 +138,13 @@ bool MRVSettings::event(QEvent *event)
     return true;
 }
 
-// Writes the new file beside the old one, to see whether there is room for it.
-bool MRVSettings::hasRoom(const QByteArray &before, QString *error) const
-{
-    const QFileInfo info(fileName());
-    const QStorageInfo disk(info.path());
-    const bool isAmple = disk.isValid() && disk.bytesAvailable() > AmpleRoom + 4 * before.size();
-    if (isAmple || !info.dir().exists() || !isOpenGroup())
-        return true;
-    const QByteArray after = mrvEditedSettings(
-        before, [this](QSettings *file) { replaceGroupIn(file); }, error);
-    const QString trial =
-        info.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128);
-    if (after.isEmpty() && !error->isEmpty())
-        return false;
-    const bool hasRoom = MRVFileWriter::write(trial, after, error);
-    QFile::remove(trial);
-    return hasRoom;
-}
-
 bool MRVSettings::save(Saving saving, QString *error)
 {
     const QString path = fileName();
+    if (path.isEmpty())
+        return fail(error, tr("The settings have no file"));
     const QByteArray before = bytesOf(path);
-    QString reason;
-    if (saving != Saving::Last && m_isDirty && !hasRoom(before, &reason)) {
-        m_isStalled = true;
-        qCWarning(lcSettings, "%s", qPrintable(reason));
-        return fail(error, reason);
-    }
+    const MRVOldSettingsFile oldFile(path, before);
     if (m_isDirty)
         makeNewer(path);
     QSettings::sync();
@@ -119,66 +155,42 @@ bool MRVSettings::save(Saving saving, QString *error)
 
     // The store's own memory, whatever group is open.
     const MRVSettingsMap wanted = mrvValuesOf(QSettings(path, format()));
-    MRVSettingsMap found;
-    if (!mrvReadSettings(bytesOf(path), format(), &found))
-        return fail(error, tr("The file \"%1\" cannot be checked").arg(path));
-    m_isDirty = !mrvHolds(found, wanted) && !repair(before, wanted, saving, &reason);
+    m_isDirty = !isSaved(path, format(), before, wanted);
     if (!m_isDirty)
         return true;
+    // What is not whole is what was just written, or what another process has written meanwhile.
+    QString reason;
+    QLockFile lock(path + QLatin1String(".lock"));
+    if (isLockedByOther(&lock)) {
+        reason = tr("Cannot write the file \"%1\": it is locked").arg(path);
+    } else if (repair(path, format(), before, wanted, &reason)) {
+        m_isDirty = false;
+        return true;
+    } else if (!isSaved(path, format(), QByteArray(), valuesIn(before, format()))) {
+        oldFile.putBack();
+    }
     qCWarning(lcSettings, "%s", qPrintable(reason));
+    if (saving != Saving::Last)
+        setAgain(valuesIn(before, format()), wanted);
     return fail(error, reason);
 }
 
-// What is not whole is either what was just written, or what another process has written meanwhile.
-bool MRVSettings::repair(const QByteArray &before, const MRVSettingsMap &wanted, Saving saving,
-                         QString *error)
-{
-    const QString path = fileName();
-    QLockFile lock(path + QLatin1String(".lock"));
-    if (!lock.tryLock(LockMilliseconds))
-        return fail(error, tr("Cannot write the file \"%1\": it is locked").arg(path));
-    const QByteArray after = bytesOf(path);
-    MRVSettingsMap found;
-    MRVSettingsMap old;
-    if (!mrvReadSettings(after, format(), &found) || !mrvReadSettings(before, format(), &old))
-        return fail(error, tr("The file \"%1\" cannot be checked").arg(path));
-
-    MRVSettingsMap changes;
-    MRVSettingsMap lost;
-    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        const bool isOld = old.contains(it.key()) && mrvIsStoredAs(it.value(), old.value(it.key()));
-        if (!isOld)
-            changes.insert(it.key(), it.value());
-        if (!found.contains(it.key())
-            || (!isOld && !mrvIsStoredAs(it.value(), found.value(it.key()))))
-            lost.insert(it.key(), it.value());
-    }
-    const QByteArray whole = mrvEditedSettings(
-        after,
-        [&lost](QSettings *file) {
-            for (auto it = lost.cbegin(); it != lost.cend(); ++it)
-                file->setValue(it.key(), it.value());
-        },
-        error);
-    if (error->isEmpty() && MRVFileWriter::write(path, whole, error))
-        return true;
-    QString ignored;
-    if (!mrvHolds(found, old))
-        MRVFileWriter::write(path, before, &ignored);
-    if (saving != Saving::Last)
-        setAgain(changes);
-    return false;
-}
-
-// QSettings takes them for saved, and would forget them for what the file holds.
-void MRVSettings::setAgain(const MRVSettingsMap &unsaved)
+// QSettings takes the changes for saved, and would forget them for what the file holds.
+void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &wanted)
 {
     if (!isOpenGroup())
         return;
-    const QString prefix = m_group.isEmpty() ? m_group : m_group + QLatin1Char('/');
-    for (auto it = unsaved.cbegin(); it != unsaved.cend(); ++it) {
-        if (it.key().startsWith(prefix))
-            QSettings::setValue(it.key().mid(prefix.size()), it.value());
+    const int prefix = m_group.isEmpty() ? 0 : m_group.size() + 1;
+    const auto isOurs = [&](const QString &key) {
+        return prefix == 0 || key.startsWith(m_group + QLatin1Char('/'));
+    };
+    for (auto it = old.cbegin(); it != old.cend(); ++it) {
+        if (isOurs(it.key()) && !wanted.contains(it.key()))
+            QSettings::remove(it.key().mid(prefix));
+    }
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+        if (isOurs(it.key()) && !isUnchanged(it, old))
+            QSettings::setValue(it.key().mid(prefix), it.value());
     }
     // Not at once, which would go on and on, but with the next change.
     QCoreApplication::removePostedEvents(this, QEvent::UpdateRequest);
@@ -203,7 +215,7 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
         return saveNow(error);
     QString reason;
     QLockFile lock(path + QLatin1String(".lock"));
-    if (!lock.tryLock(LockMilliseconds))
+    if (isLockedByOther(&lock))
         return fail(error, tr("Cannot write the file \"%1\": it is locked").arg(path));
     const QByteArray before =
         QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, &reason) : QByteArray();
