@@ -18,8 +18,10 @@ struct Command
 };
 
 int runAutoReplace(const QStringList &arguments);
+int runEngines(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
+int runFormats(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
 int runSettings(const QStringList &arguments);

@@ -12,8 +12,10 @@ namespace {
 
 constexpr Command commands[] = {
     {"autoreplace", "show what typing replaces, and edit the list", runAutoReplace},
+    {"engines", "tell and choose what converts which format", runEngines},
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
+    {"formats", "list file formats and what can be done with them", runFormats},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},

@@ -1,7 +1,7 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
-#include "importexport/mrvenginetables_p.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvoptions.h"
 #include "settings/mrvshortcutscheme.h"
 #include "settings/mrvtextpresetscheme.h"
@@ -75,11 +75,6 @@ QTextBlockFormat blockFormat()
     return format;
 }
 
-MRVEngineTables::FormatEngines engines()
-{
-    return MRVEngineTables::defaultEngines(MRVEngineTables::Export, {});
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Reader)
@@ -144,8 +139,11 @@ void TestStoredForms::damaged_data()
         m_store->setValue(Store::numbersKey(), QString::fromLatin1(bytes));
         return m_store->value(Store::Numbers) == QList<int>{1, 20, 3, -4000000};
     });
-    row("engine map", MRVEngineTables::toByteArray(engines()),
-        [](const QByteArray &bytes) { return !MRVEngineTables::toFormatEngines(bytes).isEmpty(); });
+    row("engine map",
+        MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultExportEngines()),
+        [](const QByteArray &bytes) {
+            return !MRVImportExportConfig::toFormatEngines(bytes).isEmpty();
+        });
     const MRVTextPreset preset(charFormat(), blockFormat(), MRVTextPreset::ApplyCharFormat);
     MRVTextPresetScheme presets;
     presets.setPreset("One", preset);
