@@ -1,17 +1,16 @@
 #include "command.h"
+#include "settingsfile.h"
 #include "textsearch.h"
 
 #include "settings/mrvoptions.h"
 
 #include <QCommandLineParser>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
 #include <algorithm>
 #include <limits>
-#include <memory>
 
 namespace {
 
@@ -234,41 +233,16 @@ int exportTo(const Request &request)
     return request.options->saveToFile(path, &error) ? Done : refuse(error);
 }
 
-// Whether the first line that says something opens a group, as in all that QSettings writes. QSettings
-// itself takes nearly any text for settings, of which little would be left when it is saved.
-bool beginsWithGroup(QFile *file)
-{
-    while (!file->atEnd()) {
-        const QByteArray line = file->readLine(4096).trimmed();
-        if (!line.isEmpty() && !line.startsWith(';'))
-            return line.startsWith('[') && line.endsWith(']');
-    }
-    return true;
-}
-
-// Empty where a file can be read as settings, else what is wrong with it.
-QString faultOf(const QString &path)
-{
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1 cannot be read").arg(path);
-    return beginsWithGroup(&file)
-            && QSettings(path, QSettings::IniFormat).status() == QSettings::NoError
-        ? QString()
-        : QStringLiteral("%1 is not a settings file").arg(path);
-}
-
 // Reading replaces all that is there: it must not begin before there is something to put in its place.
 int importFrom(const Request &request)
 {
     const QString path = request.arguments.constFirst();
-    QString error = faultOf(path);
-    if (!error.isEmpty())
+    QString error;
+    const auto source = openOptions(path, IfMissing::Refuse, &error);
+    if (!source)
         return refuse(error);
-    QSettings file(path, QSettings::IniFormat);
-    file.beginGroup(request.options->group());
-    if (file.allKeys().isEmpty())
-        return refuse(QStringLiteral("%1 holds no settings").arg(path));
+    if (source->allKeys().isEmpty())
+        return refuse(QStringLiteral("%1: there are no settings in it").arg(path));
     request.options->loadFromFile(path);
     return request.options->saveNow(&error) ? Done : refuse(error);
 }
@@ -280,16 +254,22 @@ struct Action
     const char *name;
     int least; // number of arguments
     int most;
-    bool creates; // the settings file need not exist
+    IfMissing ifMissing; // the settings file
     int (*run)(const Request &request);
 };
 
+// clang-format off
 constexpr Action actions[] = {
-    {"get", 1, Any, false, get},         {"set", 2, Any, true, set},
-    {"reset", 1, Any, false, reset},     {"list", 0, Any, false, list},
-    {"explain", 1, Any, false, explain}, {"changed", 0, 0, false, changed},
-    {"export", 1, 1, false, exportTo},   {"import", 1, 1, true, importFrom},
+    {"get",     1, Any, IfMissing::Refuse, get},
+    {"set",     2, Any, IfMissing::Create, set},
+    {"reset",   1, Any, IfMissing::Refuse, reset},
+    {"list",    0, Any, IfMissing::Refuse, list},
+    {"explain", 1, Any, IfMissing::Refuse, explain},
+    {"changed", 0, 0,   IfMissing::Refuse, changed},
+    {"export",  1, 1,   IfMissing::Refuse, exportTo},
+    {"import",  1, 1,   IfMissing::Create, importFrom},
 };
+// clang-format on
 
 // A number below zero would be taken for an option; a value comes last anyway.
 QStringList withNumbersLast(QStringList arguments)
@@ -308,15 +288,10 @@ QStringList withNumbersLast(QStringList arguments)
 
 int runAction(const Action &action, Request *request, const QString &path)
 {
-    if (!path.isEmpty() && (QFileInfo::exists(path) || !action.creates)) {
-        const QString fault = faultOf(path);
-        if (!fault.isEmpty())
-            return refuse(fault);
-    }
-    const auto options =
-        path.isEmpty() ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
-    if (options->status() != QSettings::NoError)
-        return refuse(QStringLiteral("%1 is not a settings file").arg(options->fileName()));
+    QString error;
+    const auto options = openOptions(path, action.ifMissing, &error);
+    if (!options)
+        return refuse(error);
     request->options = options.get();
     return action.run(*request);
 }

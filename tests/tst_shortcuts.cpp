@@ -6,25 +6,6 @@
 
 #include <QTemporaryDir>
 
-#ifndef MRV_SANITIZE
-// Sees each request for memory in this process, also of Qt.
-static std::size_t largestRequest = 0;
-extern "C" {
-void *__libc_malloc(std::size_t size);
-void *__libc_realloc(void *memory, std::size_t size);
-void *malloc(std::size_t size)
-{
-    largestRequest = qMax(largestRequest, size);
-    return __libc_malloc(size);
-}
-void *realloc(void *memory, std::size_t size)
-{
-    largestRequest = qMax(largestRequest, size);
-    return __libc_realloc(memory, size);
-}
-}
-#endif
-
 using Id = MRVShortcut::Id;
 using Scheme = MRVShortcutScheme;
 
@@ -88,7 +69,6 @@ private Q_SLOTS:
     void reading_data();
     void reading();
     void anyBytes();
-    void largeClaims();
     void filters_data();
     void filters();
     void changing();
@@ -237,26 +217,6 @@ void tst_Shortcuts::anyBytes()
     }
     // At least once a byte, where it was given the value that it had.
     QVERIFY2(read >= sound.size() && read < sound.size() * 8, qPrintable(QString::number(read)));
-}
-
-void tst_Shortcuts::largeClaims()
-{
-#ifdef MRV_SANITIZE
-    QSKIP("the sanitizer's own allocator cannot be watched");
-#else
-    const QByteArray sound = sample();
-    const Scheme none; // the commands' names are built
-    largestRequest = 0;
-    for (int at = 0; at < sound.size() - 4; ++at) {
-        for (const quint32 claim : {0x7ffffff0u, 0xfffffffeu, 0x00100000u, 0xffffu}) {
-            QByteArray bytes = sound;
-            bytes.replace(at, 4, number(claim));
-            Scheme::fromByteArray(bytes);
-        }
-    }
-    QVERIFY2(largestRequest > 0 && largestRequest < 20000,
-             qPrintable(QString::number(largestRequest)));
-#endif
 }
 
 void tst_Shortcuts::filters_data()

@@ -62,8 +62,8 @@ void putFirst(QStringList *list, const QString &text)
 } // namespace
 
 MRVApplicationState::MRVApplicationState(QObject *parent)
-    : QSettings(NativeFormat, UserScope, MRVOptions::companyName(), MRVOptions::applicationName(),
-                parent)
+    : MRVSettings(NativeFormat, UserScope, MRVOptions::companyName(), MRVOptions::applicationName(),
+                  parent)
 {
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "settings/mrvsettings.h"
 #include "util/mrvbase_export.h"
 
-#include <QSettings>
 #include <QString>
 #include <QStringList>
 
@@ -11,13 +11,14 @@
  * folders and icons, and which warnings the user has turned off.
  *
  * It lies in the user's settings file beside the group of the options, under keys without a group.
- * Nothing is synced by a setter; QSettings does that in the event loop and at the end.
+ * Each save of QSettings writes the whole file; so that none of them can harm the options, the state
+ * is kept in a store of the same kind, which reads what was written. It has no typed settings.
  *
  * GUI thread only.
  *
  * @since 1.0
  */
-class MRVBASE_EXPORT MRVApplicationState : public QSettings
+class MRVBASE_EXPORT MRVApplicationState : public MRVSettings
 {
     Q_OBJECT
 

@@ -1,6 +1,5 @@
 #include "settings/mrvoptionstables_p.h"
 
-#include <QSettings>
 #include <QTextCodec>
 
 using namespace MRVOptionsTables;
@@ -251,7 +250,7 @@ void MRVOptions::resetAllWarnings()
 {
     remove(QStringLiteral("Warnings"));
     // The application state shares the file, but not the group that is open here.
-    QSettings state(fileName(), format());
+    MRVSettings state(fileName(), format());
     for (const char *key : warningKeys())
         state.setValue(QString::fromLatin1(key), true);
 }
