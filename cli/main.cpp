@@ -22,9 +22,9 @@ constexpr Command commands[] = {
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
-    {"xml", "read and edit XML files by paths", runXml},
     {"settings", "show and change the application's preferences", runSettings},
     {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
+    {"xml", "read and edit XML files by paths", runXml},
 };
 
 QString usage()
