@@ -78,6 +78,14 @@ bool lookTheSame(const QTextBlockFormat &a, const QTextBlockFormat &b, bool exac
     return MRVTextFormat::equivalent(restA, restB) && a.tabPositions() == b.tabPositions();
 }
 
+// Qt sets two properties for an underline, or one of them, according to how it is asked to.
+bool lookTheSame(QTextCharFormat a, QTextCharFormat b)
+{
+    a.clearProperty(QTextFormat::FontUnderline);
+    b.clearProperty(QTextFormat::FontUnderline);
+    return MRVTextFormat::equivalent(a, b);
+}
+
 void setOrRemove(QHash<MRVScriptElement::Action, QString> *texts, MRVScriptElement::Action action,
                  const QString &text)
 {
@@ -214,7 +222,6 @@ bool MRVScriptElement::operator==(const MRVScriptElement &other) const
         && m_completeBehavior == other.m_completeBehavior
         && m_phraseStartDelimiter == other.m_phraseStartDelimiter
         && m_phraseEndDelimiter == other.m_phraseEndDelimiter
-        && m_completions == other.m_completions
-        && MRVTextFormat::equivalent(m_charFormat, other.m_charFormat)
+        && m_completions == other.m_completions && lookTheSame(m_charFormat, other.m_charFormat)
         && lookTheSame(m_blockFormat, other.m_blockFormat, true);
 }

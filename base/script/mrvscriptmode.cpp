@@ -13,7 +13,6 @@
 #include <QTextBlock>
 #include <QXmlStreamWriter>
 
-#include <cmath>
 #include <cstring>
 
 namespace {
@@ -83,7 +82,7 @@ void writeTextElement(QXmlStreamWriter *xml, const char *tag, const QString &tex
 void writeFont(QXmlStreamWriter *xml, const MRVScriptElement &element)
 {
     xml->writeStartElement(QLatin1String(FontTag));
-    xml->writeAttribute(QLatin1String(NameTag), cleaned(element.charFormat().fontFamily()));
+    xml->writeAttribute(QLatin1String(NameTag), cleaned(scriptFontFamily(element)));
     xml->writeAttribute(QLatin1String(SizeAttribute), scriptFontSize(element));
     xml->writeEndElement();
 }
@@ -102,20 +101,20 @@ void writeCompletions(QXmlStreamWriter *xml, const MRVCompletionList &list)
 }
 
 void writeField(QXmlStreamWriter *xml, const ScriptField &field, const MRVScriptElement &element,
-                const MRVScriptMode &mode)
+                MRVUnit::Unit units)
 {
     if (field.kind == ScriptFieldKind::Font) {
         writeFont(xml, element);
     } else if (field.kind == ScriptFieldKind::Completions) {
         writeCompletions(xml, element.completions());
     } else if (field.text) {
-        const QString text = field.text(element, mode);
+        const QString text = field.text(element, units);
         if (!text.isNull())
             writeTextElement(xml, field.tag, text);
     }
 }
 
-void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, const MRVScriptMode &mode)
+void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUnit::Unit units)
 {
     xml->writeStartElement(QLatin1String(ElementItemTag));
     const char *group = nullptr;
@@ -127,7 +126,7 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, const 
                 xml->writeStartElement(QLatin1String(field.group));
             group = field.group;
         }
-        writeField(xml, field, element, mode);
+        writeField(xml, field, element, units);
     }
     if (group)
         xml->writeEndElement();
@@ -175,21 +174,6 @@ int MRVScriptMode::indexOf(const QTextBlock &block) const
     return -1;
 }
 
-bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *remarks)
-{
-    if (xml.size() > MaxFileSize)
-        return fail(error, tr("it is larger than %1 bytes").arg(MaxFileSize));
-    MRVScriptMode mode;
-    QString reason;
-    QStringList found;
-    if (!readScriptMode(xml, &mode, &reason, &found))
-        return fail(error, reason);
-    *this = mode;
-    if (remarks)
-        *remarks = found;
-    return true;
-}
-
 bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remarks)
 {
     const auto refuse = [&](const QString &reason) {
@@ -217,7 +201,7 @@ QByteArray MRVScriptMode::toXml() const
     writeTextElement(&xml, UnitsTag, QLatin1String(unitWord(m_units)));
     xml.writeStartElement(QLatin1String(ScriptElementsTag));
     for (const MRVScriptElement &element : m_elements)
-        writeElement(&xml, element, *this);
+        writeElement(&xml, element, m_units);
     xml.writeEndElement();
     xml.writeEndElement();
     xml.writeEndDocument();
@@ -281,7 +265,7 @@ void MRVScriptMode::makeElementsUnique()
 
 double MRVScriptMode::toPoints(double length) const
 {
-    return std::round(MRVUnit::toPoint(m_units, length) * 20.0) / 20.0;
+    return scriptToPoints(m_units, length);
 }
 
 double MRVScriptMode::fromPoints(double points) const

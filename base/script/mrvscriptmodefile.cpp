@@ -120,20 +120,20 @@ double bounded(double points)
     return qBound(-MaxLength, points, MaxLength);
 }
 
-QString lengthText(double points, const MRVScriptMode &mode)
+QString lengthText(double points, MRVUnit::Unit units)
 {
     if (!std::isfinite(points))
         points = 0.0;
-    return shortest(mode.fromPoints(bounded(points)),
-                    [&](double length) { return mode.toPoints(length); });
+    return shortest(MRVUnit::fromPoint(units, bounded(points)),
+                    [&](double length) { return scriptToPoints(units, length); });
 }
 
-bool readLength(const QString &text, const MRVScriptMode &mode, double *points)
+bool readLength(const QString &text, MRVUnit::Unit units, double *points)
 {
     double length = 0.0;
     if (!readNumber(text, &length))
         return false;
-    *points = bounded(mode.toPoints(bounded(length)));
+    *points = bounded(scriptToPoints(units, bounded(length)));
     return true;
 }
 
@@ -154,32 +154,32 @@ void changeChar(Element *element, Change change)
 }
 
 template<int property>
-QString length(const Element &element, const MRVScriptMode &mode)
+QString length(const Element &element, MRVUnit::Unit units)
 {
-    return lengthText(element.blockFormat().doubleProperty(property), mode);
+    return lengthText(element.blockFormat().doubleProperty(property), units);
 }
 
 template<int property>
-bool takeLength(Element *element, const QString &text, const MRVScriptMode &mode)
+bool takeLength(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
-    const bool ok = readLength(text, mode, &points);
+    const bool ok = readLength(text, units, &points);
     if (ok)
         changeBlock(element,
                     [&](QTextBlockFormat &format) { format.setProperty(property, points); });
     return ok;
 }
 
-QString firstTab(const Element &element, const MRVScriptMode &mode)
+QString firstTab(const Element &element, MRVUnit::Unit units)
 {
     const QList<QTextOption::Tab> tabs = element.blockFormat().tabPositions();
-    return lengthText(tabs.isEmpty() ? 0.0 : tabs.constFirst().position, mode);
+    return lengthText(tabs.isEmpty() ? 0.0 : tabs.constFirst().position, units);
 }
 
-bool takeFirstTab(Element *element, const QString &text, const MRVScriptMode &mode)
+bool takeFirstTab(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
-    if (!readLength(text, mode, &points))
+    if (!readLength(text, units, &points))
         return false;
     if (points > 0.0) {
         changeBlock(element, [&](QTextBlockFormat &format) {
@@ -190,12 +190,12 @@ bool takeFirstTab(Element *element, const QString &text, const MRVScriptMode &mo
 }
 
 // Qt's paragraphs have no interval of their own; the first stop is the one that a script uses.
-bool takeTabInterval(Element *element, const QString &text, const MRVScriptMode &mode)
+bool takeTabInterval(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
     if (!element->blockFormat().tabPositions().isEmpty())
-        return readLength(text, mode, &points);
-    return takeFirstTab(element, text, mode);
+        return readLength(text, units, &points);
+    return takeFirstTab(element, text, units);
 }
 
 // Line spacing: a multiple of the font's size, or a height that goes before it
@@ -219,7 +219,7 @@ double spacingOfMultiple(double multiple)
     return std::round(multiple * SpacingBase * 1000.0) / 1000.0;
 }
 
-QString spacing(const Element &element, const MRVScriptMode &)
+QString spacing(const Element &element, MRVUnit::Unit)
 {
     double multiple = 1.0;
     MRVTextFormat::spacingType(element.blockFormat(), &multiple);
@@ -228,7 +228,7 @@ QString spacing(const Element &element, const MRVScriptMode &)
     return shortest(multiple, spacingOfMultiple);
 }
 
-bool takeSpacing(Element *element, const QString &text, const MRVScriptMode &)
+bool takeSpacing(Element *element, const QString &text, MRVUnit::Unit)
 {
     double multiple = 0.0;
     if (!readNumber(text, &multiple) || multiple < 0.0 || multiple > MaxMultiple)
@@ -240,17 +240,17 @@ bool takeSpacing(Element *element, const QString &text, const MRVScriptMode &)
     return true;
 }
 
-QString fixedLineHeight(const Element &element, const MRVScriptMode &mode)
+QString fixedLineHeight(const Element &element, MRVUnit::Unit units)
 {
     const QTextBlockFormat format = element.blockFormat();
     return lengthText(
-        hasFixedHeight(format) ? format.doubleProperty(MRVTextFormat::BlockSpacing) : 0.0, mode);
+        hasFixedHeight(format) ? format.doubleProperty(MRVTextFormat::BlockSpacing) : 0.0, units);
 }
 
-bool takeFixedLineHeight(Element *element, const QString &text, const MRVScriptMode &mode)
+bool takeFixedLineHeight(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
-    const bool ok = readLength(text, mode, &points);
+    const bool ok = readLength(text, units, &points);
     if (ok && points != 0.0)
         setSpacing(element, points, 0.0);
     return ok;
@@ -258,13 +258,13 @@ bool takeFixedLineHeight(Element *element, const QString &text, const MRVScriptM
 
 // Words
 
-QString alignment(const Element &element, const MRVScriptMode &)
+QString alignment(const Element &element, MRVUnit::Unit)
 {
     const int bits = int(element.blockFormat().alignment() & Qt::AlignHorizontal_Mask);
     return wordOf(AlignmentWords, bits & Qt::AlignHCenter ? int(Qt::AlignHCenter) : bits);
 }
 
-bool takeAlignment(Element *element, const QString &text, const MRVScriptMode &)
+bool takeAlignment(Element *element, const QString &text, MRVUnit::Unit)
 {
     int bits = 0;
     if (text == QLatin1String(NaturalWord)) {
@@ -280,7 +280,7 @@ bool takeAlignment(Element *element, const QString &text, const MRVScriptMode &)
     return ok;
 }
 
-bool takeDirection(Element *element, const QString &text, const MRVScriptMode &)
+bool takeDirection(Element *element, const QString &text, MRVUnit::Unit)
 {
     int direction = 0;
     const bool natural = text == QLatin1String(NaturalWord);
@@ -295,7 +295,7 @@ bool takeDirection(Element *element, const QString &text, const MRVScriptMode &)
     return true;
 }
 
-QString underline(const Element &element, const MRVScriptMode &)
+QString underline(const Element &element, MRVUnit::Unit)
 {
     if (element.charFormat().underlineStyle() == QTextCharFormat::NoUnderline)
         return wordOf(UnderlineWords, NoLine);
@@ -303,7 +303,7 @@ QString underline(const Element &element, const MRVScriptMode &)
                   element.hasFlag(Element::DoubleUnderline) ? DoubleLine : SingleLine);
 }
 
-bool takeUnderline(Element *element, const QString &text, const MRVScriptMode &)
+bool takeUnderline(Element *element, const QString &text, MRVUnit::Unit)
 {
     int line = NoLine;
     if (!valueOf(UnderlineWords, text, &line))
@@ -313,17 +313,17 @@ bool takeUnderline(Element *element, const QString &text, const MRVScriptMode &)
         if (line == NoLine)
             format.clearProperty(QTextFormat::TextUnderlineStyle);
         else
-            format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+            format.setFontUnderline(true);
     });
     return true;
 }
 
-QString tabBehavior(const Element &element, const MRVScriptMode &)
+QString tabBehavior(const Element &element, MRVUnit::Unit)
 {
     return wordOf(TabWords, element.tabBehavior());
 }
 
-bool takeTabBehavior(Element *element, const QString &text, const MRVScriptMode &)
+bool takeTabBehavior(Element *element, const QString &text, MRVUnit::Unit)
 {
     int behavior = 0;
     const bool ok = valueOf(TabWords, text, &behavior);
@@ -332,14 +332,14 @@ bool takeTabBehavior(Element *element, const QString &text, const MRVScriptMode 
     return ok;
 }
 
-QString completeBehavior(const Element &element, const MRVScriptMode &)
+QString completeBehavior(const Element &element, MRVUnit::Unit)
 {
     return element.completeBehavior() == Element::CompleteDefault
         ? QString()
         : wordOf(CompleteWords, element.completeBehavior());
 }
 
-bool takeCompleteBehavior(Element *element, const QString &text, const MRVScriptMode &)
+bool takeCompleteBehavior(Element *element, const QString &text, MRVUnit::Unit)
 {
     int behavior = 0;
     const bool ok = valueOf(CompleteWords, text, &behavior);
@@ -356,25 +356,25 @@ bool isYesOrNo(const QString &text)
 }
 
 template<Element::Flag flag>
-QString yes(const Element &element, const MRVScriptMode &)
+QString yes(const Element &element, MRVUnit::Unit)
 {
     return element.hasFlag(flag) ? QString(QLatin1String(YesWord)) : QString();
 }
 
 template<Element::Flag flag>
-QString yesOrNo(const Element &element, const MRVScriptMode &)
+QString yesOrNo(const Element &element, MRVUnit::Unit)
 {
     return QLatin1String(element.hasFlag(flag) ? YesWord : NoWord);
 }
 
 template<Element::Flag flag>
-bool takeYes(Element *element, const QString &text, const MRVScriptMode &)
+bool takeYes(Element *element, const QString &text, MRVUnit::Unit)
 {
     element->setFlag(flag, text == QLatin1String(YesWord));
     return isYesOrNo(text);
 }
 
-QString bold(const Element &element, const MRVScriptMode &)
+QString bold(const Element &element, MRVUnit::Unit)
 {
     // 0 is how older documents store a normal weight; unset reads as 0, too.
     return element.charFormat().intProperty(QTextFormat::FontWeight) > QFont::Normal
@@ -382,7 +382,7 @@ QString bold(const Element &element, const MRVScriptMode &)
         : QString();
 }
 
-bool takeBold(Element *element, const QString &text, const MRVScriptMode &)
+bool takeBold(Element *element, const QString &text, MRVUnit::Unit)
 {
     changeChar(element, [&](QTextCharFormat &format) {
         if (text == QLatin1String(YesWord))
@@ -393,12 +393,12 @@ bool takeBold(Element *element, const QString &text, const MRVScriptMode &)
     return isYesOrNo(text);
 }
 
-QString italic(const Element &element, const MRVScriptMode &)
+QString italic(const Element &element, MRVUnit::Unit)
 {
     return element.charFormat().fontItalic() ? QString(QLatin1String(YesWord)) : QString();
 }
 
-bool takeItalic(Element *element, const QString &text, const MRVScriptMode &)
+bool takeItalic(Element *element, const QString &text, MRVUnit::Unit)
 {
     changeChar(element, [&](QTextCharFormat &format) {
         if (text == QLatin1String(YesWord))
@@ -418,49 +418,49 @@ QString written(const QString &text)
 }
 
 template<const QString &(Element::*get)() const>
-QString text(const Element &element, const MRVScriptMode &)
+QString text(const Element &element, MRVUnit::Unit)
 {
     return written((element.*get)());
 }
 
 template<void (Element::*set)(const QString &)>
-bool takeText(Element *element, const QString &value, const MRVScriptMode &)
+bool takeText(Element *element, const QString &value, MRVUnit::Unit)
 {
     (element->*set)(value);
     return true;
 }
 
 template<Element::Action action>
-QString nextElement(const Element &element, const MRVScriptMode &)
+QString nextElement(const Element &element, MRVUnit::Unit)
 {
     return written(element.actionElement(action));
 }
 
 template<Element::Action action>
-bool takeNextElement(Element *element, const QString &value, const MRVScriptMode &)
+bool takeNextElement(Element *element, const QString &value, MRVUnit::Unit)
 {
     element->setActionElement(action, value);
     return true;
 }
 
-QString tabText(const Element &element, const MRVScriptMode &)
+QString tabText(const Element &element, MRVUnit::Unit)
 {
     return written(element.actionText(Element::TabAfterTypingAction));
 }
 
-bool takeTabText(Element *element, const QString &value, const MRVScriptMode &)
+bool takeTabText(Element *element, const QString &value, MRVUnit::Unit)
 {
     element->setActionText(Element::TabAfterTypingAction, value);
     return true;
 }
 
-QString textColor(const Element &element, const MRVScriptMode &)
+QString textColor(const Element &element, MRVUnit::Unit)
 {
     const QBrush brush = element.charFormat().foreground();
     return brush.style() == Qt::SolidPattern ? MRV::colorToFloatString(brush.color()) : QString();
 }
 
-bool takeTextColor(Element *element, const QString &value, const MRVScriptMode &)
+bool takeTextColor(Element *element, const QString &value, MRVUnit::Unit)
 {
     const QColor color = MRV::floatStringToColor(value);
     if (color.isValid())
@@ -525,6 +525,20 @@ const ScriptField *ScriptFields::begin()
 const ScriptField *ScriptFields::end()
 {
     return std::end(Fields);
+}
+
+double scriptToPoints(MRVUnit::Unit units, double length)
+{
+    return std::round(MRVUnit::toPoint(units, length) * 20.0) / 20.0;
+}
+
+QString scriptFontFamily(const MRVScriptElement &element)
+{
+    const QTextCharFormat format = element.charFormat();
+    // Imported formats may have a list instead.
+    return format.hasProperty(QTextFormat::FontFamily)
+        ? format.fontFamily()
+        : format.fontFamilies().toStringList().value(0);
 }
 
 QString scriptFontSize(const MRVScriptElement &element)

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "script/mrvscriptmode.h"
+#include "script/mrvscriptelement.h"
+#include "util/mrvunit.h"
 
-#include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 // The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: what writes a mode and
 // what reads one go by the same rows.
@@ -77,7 +76,7 @@ enum class ScriptFieldKind {
     Completions, ///< has children
 };
 
-/** A child of an element's file form. Lengths are in the units of @p mode. */
+/** A child of an element's file form. Lengths are written and read in @p units. */
 struct ScriptField
 {
     const char
@@ -85,9 +84,9 @@ struct ScriptField
     const char *tag;
     ScriptFieldKind kind;
     /** What is written; a null string is not. Null for what is only read. */
-    QString (*text)(const MRVScriptElement &element, const MRVScriptMode &mode);
+    QString (*text)(const MRVScriptElement &element, MRVUnit::Unit units);
     /** False, with the element as it was, where the text cannot be read as it stands. */
-    bool (*read)(MRVScriptElement *element, const QString &text, const MRVScriptMode &mode);
+    bool (*read)(MRVScriptElement *element, const QString &text, MRVUnit::Unit units);
 };
 
 /** The children of an element, in the order of the file. */
@@ -97,17 +96,13 @@ struct ScriptFields
     static const ScriptField *end();
 };
 
+QString scriptFontFamily(const MRVScriptElement &element);
 QString scriptFontSize(const MRVScriptElement &element);
 /** False where the size is no size; the family is taken nevertheless. */
 bool readScriptFont(MRVScriptElement *element, const QString &family, const QString &size);
 
-/**
- * Reads a mode file from its bytes.
- *
- * @param error receives "line 12: ..." on failure.
- */
-bool readScriptMode(const QByteArray &xml, MRVScriptMode *mode, QString *error,
-                    QStringList *remarks);
+/** See MRVScriptMode::toPoints(). */
+double scriptToPoints(MRVUnit::Unit units, double length);
 
 /** The mode file that is compiled in. UTF-8, ends with a null byte. */
 extern const char MrvDefaultScriptMode[];

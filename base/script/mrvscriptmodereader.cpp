@@ -1,3 +1,4 @@
+#include "script/mrvscriptmode.h"
 #include "script/mrvscriptmodefile_p.h"
 
 #include <QXmlStreamReader>
@@ -233,7 +234,7 @@ void ModeReader::readField(const ScriptField &field, MRVScriptElement *element)
         readCompletions(element);
     } else {
         const QString value = text();
-        if (!m_xml.hasError() && !field.read(element, value, m_mode))
+        if (!m_xml.hasError() && !field.read(element, value, m_mode.units()))
             remarkValue(field.tag, value);
     }
 }
@@ -278,22 +279,28 @@ QString ModeReader::error() const
 
 } // namespace
 
-bool readScriptMode(const QByteArray &xml, MRVScriptMode *mode, QString *error,
-                    QStringList *remarks)
+bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *remarks)
 {
+    const auto refuse = [&](const QString &reason) {
+        if (error)
+            *error = reason;
+        return false;
+    };
+    if (xml.size() > MaxFileSize)
+        return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
     std::optional<MRVUnit::Unit> units;
     for (;;) {
         ModeReader reader(xml, units);
-        if (!reader.read()) {
-            *error = reader.error();
-            return false;
-        }
+        if (!reader.read())
+            return refuse(reader.error());
+        // A second time, with units that are known from the start.
         if (reader.unitsCameLate()) {
             units = reader.mode().units();
             continue;
         }
-        *mode = reader.mode();
-        *remarks = reader.remarks();
+        *this = reader.mode();
+        if (remarks)
+            *remarks = reader.remarks();
         return true;
     }
 }
