@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "heapmeter.h"
 #include "script/mrvscriptmode.h"
 #include "support.h"
 #include "text/mrvtextformat.h"
@@ -506,8 +507,10 @@ void tst_ScriptMode::damaged()
     for (int size = 0; size < file.size() - 1; ++size) {
         MRVScriptMode mode = before;
         QString error;
+        HeapMeter::start();
         QVERIFY2(!mode.fromXml(file.left(size), &error) && mode == before,
                  qPrintable(QString::number(size)));
+        QVERIFY(HeapMeter::peak() < 1000000);
         QVERIFY(error.startsWith("line "));
     }
     for (int i = 0; i < file.size(); ++i) {
@@ -515,7 +518,10 @@ void tst_ScriptMode::damaged()
             QByteArray changed = file;
             changed[i] = char(changed.at(i) ^ change);
             MRVScriptMode mode = before;
-            if (!mode.fromXml(changed)) {
+            HeapMeter::start();
+            const bool ok = mode.fromXml(changed);
+            QVERIFY2(HeapMeter::peak() < 1000000, changed.constData());
+            if (!ok) {
                 QVERIFY(mode == before);
                 continue;
             }

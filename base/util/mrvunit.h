@@ -21,7 +21,7 @@ public:
     MRVUnit() = delete;
 
     /** Settings are stored with these numbers. */
-    enum Unit {
+    enum Unit : int {
         None = 0, ///< didot points and ciceros, which have no unit of their own
         Inch = 1,
         Decimeter = 2,
