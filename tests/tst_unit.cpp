@@ -14,7 +14,7 @@ private Q_SLOTS:
         addRows("measures.tsv", {"case", "text", "pattern", "decimals", "value", "points", "unit"});
     }
     void parse();
-    void convert_data();
+    void convert_data() { addRows("conversions.tsv", {"case", "to", "from", "expected"}); }
     void convert();
     void texts();
     void screen();
@@ -45,28 +45,13 @@ void tst_Unit::parse()
     QCOMPARE(int(MRVUnit::toUnit(text)), unit.toInt());
 }
 
-void tst_Unit::convert_data()
-{
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<double>("expected");
-    QTest::newRow("inch to centimetre")
-        << int(MRVUnit::Centimeter) << int(MRVUnit::Inch) << 2.5399956;
-    QTest::newRow("none is cicero") << int(MRVUnit::Point) << int(MRVUnit::None) << 12.840103;
-    QTest::newRow("same") << int(MRVUnit::None) << int(MRVUnit::None) << 1.0;
-    QTest::newRow("pica to inch") << int(MRVUnit::Inch) << int(MRVUnit::Pica) << 1.0 / 6.0;
-    QTest::newRow("decimetre to millimetre")
-        << int(MRVUnit::Millimeter) << int(MRVUnit::Decimeter) << 100.0;
-    QTest::newRow("unknown stays") << 99 << int(MRVUnit::Inch) << 1.0;
-}
-
 void tst_Unit::convert()
 {
-    QFETCH(int, to);
-    QFETCH(int, from);
-    QFETCH(double, expected);
-    const double value = MRVUnit::toUnit(MRVUnit::Unit(to), MRVUnit::Unit(from), 1.0);
-    QVERIFY2(qAbs(value - expected) < 1e-7, qPrintable(QString::number(value, 'g', 12)));
+    QFETCH(QString, to);
+    QFETCH(QString, from);
+    const double value =
+        MRVUnit::toUnit(MRVUnit::Unit(to.toInt()), MRVUnit::Unit(from.toInt()), 1.0);
+    QTEST(QString::number(value, 'g', 8), "expected");
 }
 
 void tst_Unit::texts()
