@@ -108,12 +108,11 @@ MRVCompletionList MRVCompletionList::filter(const QString &prefix) const
     MRVCompletionList offered;
     if (prefix.isEmpty())
         return offered;
-    // Most are ruled out by their first character; half a surrogate pair has no case of its own.
+    // Most are ruled out by their first character. Of a surrogate pair, no first half changes with the case.
     const QChar first = prefix.at(0).toCaseFolded();
-    const bool ruleOut = !first.isSurrogate();
     for (const MRVCompletion &completion : m_completions) {
         const QString &text = completion.text;
-        if (text.size() <= prefix.size() || (ruleOut && text.at(0).toCaseFolded() != first))
+        if (text.size() <= prefix.size() || text.at(0).toCaseFolded() != first)
             continue;
         if (text.startsWith(prefix, Qt::CaseInsensitive))
             offered.append(completion);
