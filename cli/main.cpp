@@ -19,12 +19,14 @@ constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
     {"formats", "list file formats and what can be done with them", runFormats},
+    {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},
     {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
     {"xml", "read and edit XML files by paths", runXml},
+    {"script", "list, show and check script modes", runScript},
 };
 
 QString usage()
