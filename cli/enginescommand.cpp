@@ -131,6 +131,11 @@ QString objection(const Request &request)
 int runShow(const Request &request)
 {
     print(request, request.from, request.to);
+    if (!request.json) {
+        const MRVEngineChoice choice = request.config->explain(request.from, request.to);
+        printLine(QLatin1String("  possible here: ")
+                  + names(choice.supported).join(QLatin1String(", ")));
+    }
     const QString text = objection(request);
     return text.isEmpty() ? Done : refuse(text);
 }
@@ -181,7 +186,7 @@ int runEngines(const QStringList &arguments)
         "Tells which engine converts which format into RTF, or RTF into it, and why.\n\n"
         "  list                   all conversions\n"
         "  show FROM TO           one; FROM and TO are suffixes or names of formats\n"
-        "  set FROM TO ENGINE     store the choice of an engine\n"
+        "  set FROM TO ENGINE     store the choice of an engine that show names as possible\n"
         "  reset                  remove all stored choices, so that the defaults hold\n\n"
         "Exit code 1: there is no such conversion, or the engine cannot do it here."));
     parser.addPositionalArgument(QStringLiteral("VERB"), QStringLiteral("One of these."),

@@ -1,7 +1,7 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
-#include "importexport/mrvenginetables_p.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvoptions.h"
 #include "settings/mrvshortcutscheme.h"
 #include "settings/mrvtextpresetscheme.h"
@@ -43,7 +43,6 @@ class Store : public MRVOptions
 public:
     static constexpr IntListSetting Numbers = IntListSetting(7);
 
-    using MRVOptions::keyText;
     using MRVOptions::MRVOptions;
     static QString numbersKey() { return "Lists/numbers"; }
     QString keyText(IntListSetting) const override { return numbersKey(); }
@@ -74,11 +73,6 @@ QTextBlockFormat blockFormat()
     format.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
                        QTextLength(QTextLength::PercentageLength, 50));
     return format;
-}
-
-MRVEngineTables::FormatEngines engines()
-{
-    return MRVEngineTables::defaultEngines(MRVEngineTables::Export, {});
 }
 
 } // namespace
@@ -134,19 +128,22 @@ void TestStoredForms::damaged_data()
     row("auto-replace entry", inStream(MRVAutoReplace{true, "-->", QString(QChar(0x2192))}),
         readFromStream<MRVAutoReplace>);
     row("char format", MRVSettings::toByteArray(charFormat()), [this](const QByteArray &bytes) {
-        m_store->setValue(m_store->keyText(MRVOptions::DefaultCharFormat), bytes);
-        return m_store->value(MRVOptions::DefaultCharFormat).fontItalic();
+        m_store->setValue("Formats/char", bytes);
+        return m_store->textCharFormat("Formats/char", QTextCharFormat()).fontItalic();
     });
     row("block format", MRVSettings::toByteArray(blockFormat()), [this](const QByteArray &bytes) {
-        m_store->setValue(m_store->keyText(MRVOptions::DefaultBlockFormat), bytes);
-        return m_store->value(MRVOptions::DefaultBlockFormat).textIndent() == 18;
+        m_store->setValue("Formats/block", bytes);
+        return m_store->textBlockFormat("Formats/block", QTextBlockFormat()).textIndent() == 18;
     });
     row("integer list", "1 20 3 -4000000", [this](const QByteArray &bytes) {
         m_store->setValue(Store::numbersKey(), QString::fromLatin1(bytes));
         return m_store->value(Store::Numbers) == QList<int>{1, 20, 3, -4000000};
     });
-    row("engine map", MRVEngineTables::toByteArray(engines()),
-        [](const QByteArray &bytes) { return !MRVEngineTables::toFormatEngines(bytes).isEmpty(); });
+    row("engine map",
+        MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultExportEngines()),
+        [](const QByteArray &bytes) {
+            return !MRVImportExportConfig::toFormatEngines(bytes).isEmpty();
+        });
     const MRVTextPreset preset(charFormat(), blockFormat(), MRVTextPreset::ApplyCharFormat);
     MRVTextPresetScheme presets;
     presets.setPreset("One", preset);
