@@ -73,51 +73,36 @@ class tst_Settings : public QObject
 
 private Q_SLOTS:
     void init() { m_folder.reset(new QTemporaryDir); }
+    void announcements_data() { addRows("settings-changes.tsv", {"case", "steps", "signals"}); }
     void announcements()
     {
+        QFETCH(QString, steps);
         Store store(in("a"));
-        QSignalSpy spy(&store, &S::groupsChanged);
-        store.setValue("General/a", 1);
-        store.setValue("Appearance/Colors/b", 1);
-        store.setValue("General/c", 2);
-        store.remove("Backups/d");
-        QVERIFY(store.setValue("alone", 1));
-        QVERIFY(spy.isEmpty());
-        QTRY_COMPARE(spy.size(), 1);
-        QCOMPARE(spy.at(0).at(0).toStringList(),
-                 (QStringList{"General", "Appearance/Colors", "Backups"}));
-        // What a listener changes is announced in the next pass.
-        const auto again =
-            connect(&store, &S::groupsChanged, this, [&] { store.setValue("H/x", 2); });
-        store.setValue("G/x", 1);
-        QTRY_COMPARE(spy.size(), 2);
-        disconnect(again);
-        QTRY_COMPARE(spy.size(), 3);
-        QCOMPARE(spy.at(2).at(0).toStringList(), QStringList{"H"});
+        store.setGroup("/Options/"); // means the same
+        QStringList heard;
+        connect(&store, &S::groupsChanged, this, [&](const QStringList &groups) {
+            heard << groups.join(',');
+            if (groups.contains("Listener"))
+                store.setValue("Heard/a", 1);
+        });
+        for (const QString &step : steps.split(", ")) {
+            const QString what = step.section(' ', 0, 0);
+            const QString key = step.section(' ', 1);
+            if (what == "set")
+                QVERIFY(store.setValue(key, 1) && store.contains(key));
+            else if (what == "remove")
+                store.remove(key);
+            else if (what == "open")
+                store.beginGroup(key);
+            else if (what == "end")
+                store.endGroup();
+            else if (what == "run")
+                QTest::qWait(1);
+            else
+                store.blockSignals(what == "block");
+        }
         QTest::qWait(1);
-        QCOMPARE(spy.size(), 3);
-    }
-    void whatIsAnnounced_data()
-    {
-        addRows("settings-changes.tsv", {"case", "key", "nested", "blocked", "announced"});
-    }
-    void whatIsAnnounced()
-    {
-        QFETCH(QString, key);
-        QFETCH(QString, nested);
-        QFETCH(QString, blocked);
-        Store store(in("a"));
-        store.setGroup("/Options/");
-        QSignalSpy spy(&store, &S::groupsChanged);
-        store.blockSignals(!blocked.isEmpty());
-        if (!nested.isEmpty())
-            store.beginGroup(nested);
-        store.setValue(key, 5);
-        QCOMPARE(store.value(key).toInt(), 5);
-        store.remove(key);
-        store.blockSignals(false);
-        QTest::qWait(1);
-        QTEST(QString::number(spy.size()), "announced");
+        QTEST(heard.join('|'), "signals");
     }
     // From a file, numbers and flags come back as texts, a list of one as its item, and an empty one as nothing.
     void valuesFromACopy()
@@ -148,32 +133,24 @@ private Q_SLOTS:
         QVERIFY(std::apply(compare, values));
 
         copy.setValue(S::StringListSetting(0), QStringList());
+        copy.setValue("List/ints", " 1   20\t3 ");
+        QCOMPARE(copy.value(Ints), (QList<int>{1, 20, 3}));
         copy.setValue(Ints, QList<int>());
         QVERIFY(copy.saveNow() && QFile::copy(in("copy"), in("third")));
         const Store third(in("third"));
         QVERIFY(third.contains("AutoCorrection/personalWords") && third.value(Ints).isEmpty());
         QCOMPARE(third.value(S::StringListSetting(0)), QStringList());
     }
-    void editedByHand_data() { addRows("settings-edited.tsv", {"case", "lines", "values"}); }
+    void editedByHand_data() { addRows("settings-edited.tsv", {"case", "line", "key", "text"}); }
     void editedByHand()
     {
-        QFETCH(QString, lines);
-        QVERIFY(writeBytes(in("a"), "[Options]\n" + lines.toUtf8()));
-        const Store store(in("a"));
-        QStringList numbers;
-        for (int number : store.value(Ints))
-            numbers << QString::number(number);
-        const QColor color = store.value(S::ColorSetting(0));
-        const QFont font = store.value(S::FontSetting(0));
-        const QStringList read{
-            QVariant(store.value(MRVOptions::CheckForUpdates)).toString(),
-            QString::number(store.value(MRVOptions::SaveInterval)),
-            QString::number(store.value(S::RealSetting(1))),
-            (store.value(S::StringListSetting(0)) << "-").first(),
-            color == store.defaultValue(S::ColorSetting(0)) ? "default" : color.name(),
-            font == store.defaultValue(S::FontSetting(0)) ? "default" : font.family(),
-            numbers.join(',')};
-        QTEST(read.join(' '), "values");
+        QFETCH(QString, line);
+        QFETCH(QString, key);
+        QFETCH(QString, text);
+        QVERIFY(writeBytes(in("a"), "[Options]\n" + line.toUtf8()));
+        const auto read = Store(in("a")).explain(key);
+        QCOMPARE(MRVOptions::toText(read.type, read.value),
+                 text.isEmpty() ? MRVOptions::toText(read.type, read.defaultValue) : text);
     }
     void formats()
     {
@@ -203,10 +180,8 @@ private Q_SLOTS:
         }
         store.setValue("a", stored);
         QCOMPARE(store.textBlockFormat("a", block), block);
-        QImage image(8, 4, QImage::Format_RGB32);
-        image.fill(Qt::blue);
+        const QImage image(8, 4, QImage::Format_RGB32);
         QCOMPARE(S::toImage(S::toByteArray(image)).size(), image.size());
-        QVERIFY(S::toByteArray(image).startsWith("\xff\xd8"));
     }
     void schemes()
     {
