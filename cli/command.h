@@ -23,6 +23,7 @@ int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
 int runFormats(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
+int runPresets(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
 int runSettings(const QStringList &arguments);
 

@@ -17,6 +17,7 @@ constexpr Command commands[] = {
     {"find", "find text and formats in manuscripts", runFind},
     {"formats", "list file formats and what can be done with them", runFormats},
     {"notes", "list links, notes, highlights and pictures", runNotes},
+    {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},
 };

@@ -5,11 +5,13 @@
 #include "core/mrvfilewriter.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QLoggingCategory>
+#include <QThread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -24,6 +26,23 @@ constexpr int LockMilliseconds = 10000;
 QByteArray bytesOf(const QString &path)
 {
     return QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path) : QByteArray();
+}
+
+// A process that was killed between making its lock and writing its name into it leaves an empty one,
+// for which QSettings would wait half a minute.
+void removeDeadLock(const QString &path)
+{
+    constexpr int Alive = 1000;
+    constexpr int Step = 50;
+    QFileInfo lock(path + QLatin1String(".lock"));
+    while (lock.exists() && lock.size() == 0) {
+        if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > Alive) {
+            QFile::remove(lock.filePath());
+            return;
+        }
+        QThread::msleep(Step);
+        lock.refresh();
+    }
 }
 
 // QSettings takes a file of the same length and time for the one that it knows, though another
@@ -145,8 +164,10 @@ bool MRVSettings::save(Saving saving, QString *error)
         return fail(error, tr("The settings have no file"));
     const QByteArray before = bytesOf(path);
     const MRVOldSettingsFile oldFile(path, before);
-    if (m_isDirty)
+    if (m_isDirty) {
+        removeDeadLock(path);
         makeNewer(path);
+    }
     QSettings::sync();
     if (format() != NativeFormat && format() != IniFormat) {
         m_isDirty = status() != NoError;
@@ -215,6 +236,7 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
         return saveNow(error);
     QString reason;
     QLockFile lock(path + QLatin1String(".lock"));
+    removeDeadLock(path);
     if (isLockedByOther(&lock))
         return fail(error, tr("Cannot write the file \"%1\": it is locked").arg(path));
     const QByteArray before =
