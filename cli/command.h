@@ -26,6 +26,7 @@ int runNotes(const QStringList &arguments);
 int runPresets(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
 int runSettings(const QStringList &arguments);
+int runShortcuts(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

@@ -20,6 +20,7 @@ constexpr Command commands[] = {
     {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"settings", "show and change the application's preferences", runSettings},
+    {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
 };
 
 QString usage()

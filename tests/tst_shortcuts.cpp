@@ -204,19 +204,15 @@ void tst_Shortcuts::reading()
 void tst_Shortcuts::anyBytes()
 {
     const QByteArray sound = sample();
-    int read = 0;
     for (int at = 0; at < sound.size(); ++at) {
-        Scheme::fromByteArray(sound.left(at));
         QByteArray bytes = sound;
         for (int value = 0; value < 256; ++value) {
             bytes[at] = char(value);
             const Scheme scheme = Scheme::fromByteArray(bytes);
-            read += scheme == sampleScheme();
+            // What was read, however damaged, is kept by storing it.
             QVERIFY(Scheme::fromByteArray(scheme.toByteArray()) == scheme);
         }
     }
-    // At least once a byte, where it was given the value that it had.
-    QVERIFY2(read >= sound.size() && read < sound.size() * 8, qPrintable(QString::number(read)));
 }
 
 void tst_Shortcuts::filters_data()
