@@ -31,8 +31,10 @@ std::unique_ptr<MRVOptions> openOptions(const QString &path, IfMissing ifMissing
         *error = QStringLiteral("%1: %2").arg(path, file.errorString());
         return nullptr;
     }
-    auto options = std::make_unique<MRVOptions>(path);
-    if (!beginsLikeSettings(&file) || options->status() != QSettings::NoError) {
+    std::unique_ptr<MRVOptions> options;
+    if (beginsLikeSettings(&file))
+        options = std::make_unique<MRVOptions>(path);
+    if (!options || options->status() != QSettings::NoError) {
         *error = QStringLiteral("%1: this is no settings file").arg(path);
         return nullptr;
     }

@@ -60,6 +60,10 @@ void tst_MrvSettings::usersOwn()
              QByteArray("[Options]\nBackups\\retain=7\n"));
     QCOMPARE(mrv("changed").output, QString("Backups/retain = 7 (default: 5)\n"));
     QVERIFY(mrv("explain Backups/retain").output.contains("from     @home/Morvane/Morvane.conf\n"));
+    const QByteArray harm = "[Options]\nBackups\\retain=@Variant(\\0\\0\\0G\\x7f\\xff\\xff\\xf0)\n";
+    QVERIFY(writeBytes(in("home/Morvane/Morvane.conf"), harm));
+    QCOMPARE(mrv("get Backups/retain").output, QString("5\n"));
+    QCOMPARE(bytesOf(in("home/Morvane/Morvane.conf.damaged")), harm);
 }
 
 void tst_MrvSettings::exportAndImport()

@@ -1,5 +1,6 @@
 #include "datarows.h"
 #include "settings/mrvoptions.h"
+#include "support.h"
 
 #include <QFontDatabase>
 #include <QSignalSpy>
@@ -77,6 +78,9 @@ private Q_SLOTS:
     void warnings();
     void announces();
     void onlyInstance();
+    void harmfulValues_data() { addRows("harmfulsettings.tsv", {"case", "value", "isKept"}); }
+    void harmfulValues();
+    void changedBytes();
 
 private:
     QString file() const { return m_folder->filePath("options.ini"); }
@@ -434,6 +438,40 @@ void tst_Options::onlyInstance()
     QVERIFY(!mrvOptions()->parent());
     QCOMPARE(mrvOptions()->group(), QString("Options"));
     QCOMPARE(mrvOptions()->fileName(), m_home.filePath("0/Morvane/Morvane.conf"));
+}
+
+// What would harm is taken out before the file is opened, and nothing else.
+void tst_Options::harmfulValues()
+{
+    QFETCH(QString, value);
+    QFETCH(QString, isKept);
+    const QByteArray line = "TextEditing\\Colors\\Text=" + value.toUtf8() + '\n';
+    const QByteArray before = "[Options]\n" + line + "Backups\\retain=7\n";
+    const QString path = m_folder->filePath("harm.ini");
+    QVERIFY(writeBytes(path, before));
+    MRVOptions options(path);
+    QCOMPARE(options.value(MRVOptions::BackupsToRetain), 7);
+    QVERIFY(options.value(MRVOptions::TextColor).isValid());
+    QCOMPARE(bytesOf(path), isKept == "yes" ? before : QByteArray(before).replace(line, ""));
+    QCOMPARE(bytesOf(path + ".damaged"), isKept == "yes" ? QByteArray() : before);
+}
+
+void tst_Options::changedBytes()
+{
+    m_options->setValue(MRVOptions::TextColor, QColor(1, 2, 3));
+    m_options->setValue("General/list",
+                        QVariantList{1, QVariantList{"x", 2}, QStringList{"y", "z"}});
+    m_options->saveNow();
+    const QByteArray sound = bytesOf(file());
+    QCOMPARE(sound.count("@Variant("), 3);
+    for (int at = 0; at < sound.size(); ++at) {
+        for (const char byte : {char(sound.at(at) + 1), 'G', '9', '"', '\\', '\xff'}) {
+            const QString path = m_folder->filePath(QString("%1-%2").arg(at).arg(uchar(byte)));
+            QVERIFY(writeBytes(path, QByteArray(sound).replace(at, 1, QByteArray(1, byte))));
+            QVERIFY(MRVOptions(path).value(MRVOptions::TextColor).isValid());
+        }
+    }
+    QVERIFY(!QFile::exists(file() + ".damaged"));
 }
 
 QTEST_MAIN(tst_Options)

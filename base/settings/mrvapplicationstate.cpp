@@ -2,6 +2,7 @@
 
 #include "settings/mrvoptions.h"
 #include "settings/mrvoptionstables_p.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include <QDir>
 #include <QGlobalStatic>
@@ -62,8 +63,9 @@ void putFirst(QStringList *list, const QString &text)
 } // namespace
 
 MRVApplicationState::MRVApplicationState(QObject *parent)
-    : MRVSettings(NativeFormat, UserScope, MRVOptions::companyName(), MRVOptions::applicationName(),
-                  parent)
+    : MRVSettings(NativeFormat, UserScope,
+                  mrvDisarmUserSettings(MRVOptions::companyName(), MRVOptions::applicationName()),
+                  MRVOptions::applicationName(), parent)
 {
 }
 

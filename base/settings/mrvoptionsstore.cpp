@@ -1,4 +1,5 @@
 #include "settings/mrvoptionstables_p.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include <QGlobalStatic>
 
@@ -18,13 +19,14 @@ QString keyOf(Setting setting)
 } // namespace
 
 MRVOptions::MRVOptions(QObject *parent)
-    : MRVSettings(NativeFormat, UserScope, companyName(), applicationName(), parent)
+    : MRVSettings(NativeFormat, UserScope, mrvDisarmUserSettings(companyName(), applicationName()),
+                  applicationName(), parent)
 {
     setGroup(QStringLiteral("Options"));
 }
 
 MRVOptions::MRVOptions(const QString &fileName, QObject *parent)
-    : MRVSettings(fileName, IniFormat, parent)
+    : MRVSettings(mrvDisarmSettings(fileName), IniFormat, parent)
 {
     setGroup(QStringLiteral("Options"));
 }

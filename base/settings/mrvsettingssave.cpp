@@ -1,5 +1,6 @@
 #include "settings/mrvsettings.h"
 #include "settings/mrvsettingsfile_p.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
@@ -250,7 +251,8 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
 
 void MRVSettings::loadFromFile(const QString &fileName)
 {
-    // First, since it may be the store's own file.
+    // First, since it may be the store's own file, which may have changes that are not saved yet.
+    mrvDisarmSettings(fileName);
     QSettings file(fileName, IniFormat);
     file.beginGroup(m_group);
     const MRVSettingsMap values = mrvValuesOf(file);
