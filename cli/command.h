@@ -27,10 +27,10 @@ int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runPresets(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
+int runScript(const QStringList &arguments);
 int runSettings(const QStringList &arguments);
 int runShortcuts(const QStringList &arguments);
 int runXml(const QStringList &arguments);
-int runScript(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

@@ -23,10 +23,10 @@ constexpr Command commands[] = {
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
+    {"script", "list, show and check script modes", runScript},
     {"settings", "show and change the application's preferences", runSettings},
     {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
     {"xml", "read and edit XML files by paths", runXml},
-    {"script", "list, show and check script modes", runScript},
 };
 
 QString usage()
