@@ -3,6 +3,7 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
 
+#include <QColor>
 #include <QDataStream>
 #include <QDir>
 #include <QFileInfo>
@@ -43,8 +44,6 @@ int fixedSize(quint32 type)
         return 8;
     case QMetaType::QDateTime:
         return 9;
-    case QMetaType::QColor:
-        return 11;
     case QMetaType::QRect:
     case QMetaType::QSizeF:
     case QMetaType::QPointF:
@@ -74,6 +73,8 @@ public:
         if (const int size = fixedSize(type); size >= 0)
             return m_stream.skipRawData(size) >= 0;
         switch (type) {
+        case QMetaType::QColor:
+            return skipColor();
         case QMetaType::QString:
         case QMetaType::QByteArray:
         case QMetaType::QUrl:
@@ -96,6 +97,15 @@ public:
 
 private:
     qint64 left() const { return m_stream.device()->bytesAvailable(); }
+
+    // The kind of colour is taken for one of the enumeration, whatever it is.
+    bool skipColor()
+    {
+        qint8 spec = 0;
+        m_stream >> spec;
+        return spec >= QColor::Invalid && spec <= QColor::ExtendedRgb
+            && m_stream.skipRawData(5 * int(sizeof(quint16))) >= 0;
+    }
 
     bool skipText()
     {
@@ -124,9 +134,9 @@ private:
     QDataStream m_stream;
 };
 
-// The character that an escape stands for, as QSettings reads it; nothing for the end of a line that
+// The character that an escape stands for, as QSettings reads it; -1 for the end of a line that
 // goes on in the next one. @p at stands after the backslash, and is moved behind the escape.
-QByteArray unescaped(const QByteArray &line, int *at)
+int unescaped(const QByteArray &line, int *at)
 {
     static constexpr char Letters[] = "abfnrtv\"?'\\";
     static constexpr char Meanings[] = "\a\b\f\n\r\t\v\"?'\\";
@@ -135,15 +145,15 @@ QByteArray unescaped(const QByteArray &line, int *at)
         if (*at < line.size() && line.at(*at) != c
             && (line.at(*at) == '\n' || line.at(*at) == '\r'))
             ++*at;
-        return QByteArray();
+        return -1;
     }
     if (const char *letter = std::strchr(Letters, c); c != 0 && letter)
-        return QByteArray(1, Meanings[letter - Letters]);
+        return Meanings[letter - Letters];
     const bool isHex = c == 'x';
     if (!isHex && (c < '0' || c > '7'))
-        return QByteArray();
+        return -1;
     if (isHex && (*at == line.size() || !std::isxdigit(uchar(line.at(*at)))))
-        return QByteArray();
+        return -1;
     ushort code = isHex ? 0 : ushort(c - '0');
     for (; *at < line.size(); ++*at) {
         const char digit = line.at(*at);
@@ -153,7 +163,7 @@ QByteArray unescaped(const QByteArray &line, int *at)
         const int value = digit <= '9' ? digit - '0' : (digit | 0x20) - 'a' + 10;
         code = ushort(code * (isHex ? 16 : 8) + value);
     }
-    return QByteArray(1, code < 0x100 ? char(code) : '?');
+    return code < 0x100 ? code : '?';
 }
 
 constexpr char VariantMark[] = "@Variant(";
@@ -168,10 +178,10 @@ bool isHarmlessItem(const QByteArray &item)
 bool isHarmlessLine(const QByteArray &line)
 {
     QByteArray item;
-    const auto append = [&item](const QByteArray &text) {
+    const auto append = [&item](int c) {
         // Of other items, which may be long, the beginning is enough.
-        if (item.size() < MarkSize || item.startsWith(VariantMark))
-            item += text;
+        if (c >= 0 && (item.size() < MarkSize || item.startsWith(VariantMark)))
+            item += char(c);
     };
     bool isQuoted = false;
     bool isAtStart = true;
@@ -190,7 +200,7 @@ bool isHarmlessLine(const QByteArray &line)
             item.clear();
             isAtStart = true;
         } else {
-            append(QByteArray(1, c));
+            append(uchar(c));
         }
     }
     return isHarmlessItem(item);
