@@ -12,11 +12,11 @@
 //     platform/core/mrvfilewriter.cpp -o fuzz_presets
 //   LSAN_OPTIONS=suppressions=tests/lsan.supp ./fuzz_presets -rss_limit_mb=512 CORPUS
 
+#include "guiapplication.h"
 #include "gui/mrvguiutil.h"
 #include "settings/mrvsettings.h"
 #include "text/mrvtextformat.h"
 
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -61,14 +61,6 @@ QByteArray MRVGuiUtil::toByteArray(const QImage &, const char *, int)
 QImage MRVGuiUtil::toImage(const QByteArray &, const char *)
 {
     return QImage();
-}
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    static QGuiApplication application(*argc, *argv);
-    return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
