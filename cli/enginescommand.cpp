@@ -1,4 +1,5 @@
 #include "command.h"
+#include "formatname.h"
 #include "settingsfile.h"
 #include "textsearch.h"
 
@@ -41,17 +42,6 @@ int refuse(const QString &text)
 {
     printError(QLatin1String("engines: ") + text);
     return Failed;
-}
-
-// A name, such as MMDtoHTML, or a suffix; in any case.
-Format formatOf(const QString &text)
-{
-    for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
-        const Format format = MRVFormat::formatAt(row);
-        if (MRVFormat::name(format).compare(text, Qt::CaseInsensitive) == 0)
-            return format;
-    }
-    return MRVFormat::format(text.startsWith(u'.') ? text.mid(1) : text);
 }
 
 MRVImportExport::Engine engineOf(const QString &text)
@@ -156,6 +146,11 @@ int runSet(const Request &request)
                           .arg(title(request.from, request.to), engine,
                                names(choice.supported).join(QLatin1String(", "))));
     }
+    const Format other = request.from == MRVFormat::RTF ? request.to : request.from;
+    if (MRVFormat::format(MRVFormat::name(other)) != other) {
+        return refuse(QStringLiteral("choices for %1 are not kept: its name is no suffix")
+                          .arg(MRVFormat::name(other)));
+    }
     request.config->setEngine(request.from, request.to, engineOf(engine));
     if (!request.options->saveNow(&text))
         return refuse(text);
@@ -185,7 +180,7 @@ int runEngines(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral(
         "Tells which engine converts which format into RTF, or RTF into it, and why.\n\n"
         "  list                   all conversions\n"
-        "  show FROM TO           one; FROM and TO are suffixes or names of formats\n"
+        "  show FROM TO           one; FROM and TO are suffixes, formats or files\n"
         "  set FROM TO ENGINE     store the choice of an engine that show names as possible\n"
         "  reset                  remove all stored choices, so that the defaults hold\n\n"
         "Exit code 1: there is no such conversion, or the engine cannot do it here."));
@@ -213,7 +208,7 @@ int runEngines(const QStringList &arguments)
                 QStringLiteral("%1 takes %2 arguments").arg(name, QString::number(verb.arguments)));
         }
         for (int i = 0; i < request.arguments.size() && i < 2; ++i) {
-            const Format format = formatOf(request.arguments.at(i));
+            const Format format = formatNamed(request.arguments.at(i));
             if (format == MRVFormat::NoFormat)
                 return usageError(
                     QStringLiteral("unknown format '%1'").arg(request.arguments.at(i)));

@@ -1,4 +1,5 @@
 #include "command.h"
+#include "formatname.h"
 #include "settingsfile.h"
 #include "textsearch.h"
 
@@ -6,7 +7,6 @@
 #include "settings/mrvoptions.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -40,11 +40,6 @@ QList<Entry> entries(const MRVImportExportConfig &config)
     return entries;
 }
 
-QString suffixOf(const QString &nameOrSuffix)
-{
-    return nameOrSuffix.contains(u'.') ? QFileInfo(nameOrSuffix).suffix() : nameOrSuffix;
-}
-
 void print(const Entry &entry, bool json)
 {
     if (json) {
@@ -70,8 +65,8 @@ int runFormats(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Lists file formats: suffixes, whether they can be imported and exported, name and\n"
-        "description. With suffixes or file names, tells which formats these are.\n"
-        "Exit code 1: a suffix is unknown."));
+        "description. With suffixes, names of formats or of files, tells which formats these are.\n"
+        "Exit code 1: a suffix is unknown, or nothing is left to list."));
     parser.addPositionalArgument(QStringLiteral("SUFFIX"),
                                  QStringLiteral("A suffix, or the name of a file."),
                                  QStringLiteral("[SUFFIX...]"));
@@ -100,7 +95,7 @@ int runFormats(const QStringList &arguments)
     QSet<MRVFormat::Format> chosen;
     bool unknown = false;
     for (const QString &name : qAsConst(asked)) {
-        const MRVFormat::Format format = MRVFormat::format(suffixOf(name));
+        const MRVFormat::Format format = formatNamed(name);
         chosen.insert(format);
         if (format == MRVFormat::NoFormat) {
             printError(QStringLiteral("formats: %1: is of no known format").arg(name));
@@ -117,6 +112,14 @@ int runFormats(const QStringList &arguments)
             print(entry, parser.isSet(QStringLiteral("json")));
             found = true;
         }
+    }
+    if (!found && !unknown) {
+        printError(QStringLiteral("formats: %1 cannot be %2")
+                       .arg(asked.join(QLatin1String(", ")),
+                            QLatin1String(!parser.isSet(QStringLiteral("export")) ? "imported"
+                                              : !parser.isSet(QStringLiteral("import"))
+                                              ? "exported"
+                                              : "imported and exported")));
     }
     return found && !unknown ? Done : Failed;
 }

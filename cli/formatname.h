@@ -1,0 +1,6 @@
+#pragma once
+
+#include "importexport/mrvformat.h"
+
+/** The format that a person means by its name ("MMDtoHTML"), a suffix, or the name of a file, in any case; 0 for none. */
+MRVFormat::Format formatNamed(const QString &text);
