@@ -19,8 +19,10 @@ struct Command
 
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
+int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
+int runScript(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);

@@ -13,8 +13,10 @@ namespace {
 constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
+    {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"replace", "replace text in manuscripts", runReplace},
+    {"script", "list, show and check script modes", runScript},
 };
 
 QString usage()
