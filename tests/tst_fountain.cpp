@@ -1,10 +1,22 @@
 #include "script/mrvfountain.h"
+#include "script/mrvscriptdocument.h"
+#include "script/mrvscriptmode.h"
+#include "script/mrvscriptstatistics.h"
+#include "text/mrvtextformat.h"
 
 #include "datarows.h"
 
 #include <QDirIterator>
 #include <QRandomGenerator>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QtTest>
+
+#include <cmath>
+#include <memory>
+
+Q_DECLARE_METATYPE(MRVScriptMode)
 
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
@@ -99,6 +111,18 @@ private Q_SLOTS:
     void texts();
     void randomScripts();
     void randomTexts();
+    void renames_data()
+    {
+        addRows("scriptrenames.tsv", {"name", "text", "from", "to", "scope", "count", "renamed"});
+    }
+    void renames();
+    void statistics_data()
+    {
+        addRows("scriptstatistics.tsv", {"name", "text", "counts", "characters"});
+    }
+    void statistics();
+    void documents_data();
+    void documents();
 };
 
 void TestFountain::texts()
@@ -145,6 +169,108 @@ void TestFountain::randomTexts()
             QCOMPARE(dump(again), dump(read));
         }
     }
+}
+
+void TestFountain::documents_data()
+{
+    QTest::addColumn<MRVScriptMode>("mode");
+    QTest::newRow("no elements") << MRVScriptMode();
+    const auto modes = MRVScriptMode::systemModes();
+    QVERIFY(modes.size() > 5);
+    for (const MRVScriptMode &mode : modes)
+        QTest::newRow(qPrintable(mode.name())) << mode;
+}
+
+// Through a document, a copy of it, and formats as they are stored.
+void TestFountain::documents()
+{
+    QFETCH(MRVScriptMode, mode);
+    for (int seed = 0; seed < qMax(qEnvironmentVariableIntValue("MRV_RANDOM_SCRIPTS") / 10, 300);
+         ++seed) {
+        QRandomGenerator random(seed);
+        const MRVFountainScript script = randomScript(&random).normalized();
+        QTextDocument document;
+        MRVScriptDocument::setScript(&document, script, mode);
+        // Qt's copies leave the format of an empty first paragraph behind.
+        const std::unique_ptr<QTextDocument> clone(document.clone());
+        QTextDocument *const copy = document.begin().length() > 1 ? clone.get() : &document;
+        QTextCursor cursor(copy);
+        for (QTextBlock block = copy->begin(); block.isValid(); block = block.next()) {
+            cursor.setPosition(block.position());
+            cursor.setBlockFormat(
+                MRVTextFormat::toBlockFormat(MRVTextFormat::toByteArray(block.blockFormat())));
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextFragment run = it.fragment();
+                cursor.setPosition(run.position());
+                cursor.setPosition(run.position() + run.length(), QTextCursor::KeepAnchor);
+                cursor.setCharFormat(
+                    MRVTextFormat::toCharFormat(MRVTextFormat::toByteArray(run.charFormat())));
+            }
+        }
+        const MRVFountainScript read = MRVScriptDocument::script(*copy, mode);
+        if (read != script) {
+            qWarning("seed %d:\n%s", seed, qPrintable(script.toText()));
+            QCOMPARE(dump(read), dump(script));
+        }
+        // What the mode has an element for is of that element.
+        QSet<QString> titles;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            if (mode.indexOf(block) >= 0)
+                titles.insert(mode.elements().at(mode.indexOf(block)).title());
+        }
+        for (const Element &element : script.elements)
+            QVERIFY(element.kind != Element::Dialogue || mode.indexOf("Dialogue") < 0
+                    || titles.contains("Dialogue") || titles.contains("Dual Dialogue"));
+    }
+}
+
+void TestFountain::renames()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QFETCH(QString, scope);
+    QFETCH(QString, count);
+    QFETCH(QString, renamed);
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    QTextDocument document;
+    MRVScriptDocument::setScript(&document, MRVFountainScript::fromText(text), mode);
+    document.setModified(false);
+    MRVScriptDocument::RenameScope where;
+    where.setFlag(MRVScriptDocument::InDialogue, scope.contains('d'));
+    where.setFlag(MRVScriptDocument::InAction, scope.contains('a'));
+    QCOMPARE(MRVScriptDocument::renameCharacter(&document, mode, from, to, where), count.toInt());
+    QCOMPARE(MRVScriptDocument::script(document, mode).toText(), renamed);
+    QCOMPARE(document.isModified(), count.toInt() > 0);
+    QCOMPARE(document.availableUndoSteps() > 0, count.toInt() > 0);
+    document.undo();
+    QCOMPARE(MRVScriptDocument::script(document, mode).toText(), text);
+    QVERIFY(!document.isUndoAvailable());
+}
+
+void TestFountain::statistics()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, counts);
+    QFETCH(QString, characters);
+    const auto found = MRVScriptStatistics::of(MRVFountainScript::fromText(text));
+    QStringList list;
+    for (const auto &character : found.characters)
+        list << QString("%1 %2 %3 %4 %5")
+                    .arg(character.name)
+                    .arg(character.speeches)
+                    .arg(character.lines)
+                    .arg(character.words)
+                    .arg(character.scenes);
+    QCOMPARE(QString("%1 %2 %3 %4")
+                 .arg(found.scenes)
+                 .arg(found.words)
+                 .arg(found.lines)
+                 .arg(found.eighths),
+             counts);
+    QCOMPARE(list.join(", "), characters);
+    QCOMPARE(found.minutes(), int(std::ceil(found.pages())));
 }
 
 QTEST_MAIN(TestFountain)

@@ -150,13 +150,15 @@ public:
      * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and at
      * its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised text,
      * line breaks in headings, cues, parentheticals, transitions, sections and synopses, which become
-     * blanks, empty lines of the title page and around dialogue, and scene headings, cues and dialogue
-     * without text. Of kinds that do not have them, number, level and dual mark are reset.
+     * blanks, empty lines of the title page and around dialogue, notes without text within a paragraph, and
+     * scene headings, cues and dialogue without text. Of kinds that do not have them, number, level and dual mark are reset.
      */
     MRVFountainScript normalized() const;
 
     /** The name in a cue: "BOB" of "BOB (V.O.) (CONT'D)". */
     static QString cueName(const QString &cue);
+    /** How many QChars of a cue are before its extensions: 4 of "BOB (V.O.)". */
+    static int cueNameLength(const QString &cue);
     /** What stands behind the name, with its parentheses: "(V.O.) (CONT'D)". */
     static QString cueExtension(const QString &cue);
     /** Whether Fountain takes a paragraph for a scene heading as it stands: "INT. HOUSE - DAY". */

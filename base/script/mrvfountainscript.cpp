@@ -137,16 +137,15 @@ void plainEdges(Iterator run, Iterator end, MRVFountainRun::Style style)
 
 void appendRun(MRVFountainRuns *runs, const MRVFountainRun &run)
 {
-    if (run.kind == MRVFountainRun::Text) {
-        if (run.text.isEmpty())
-            return;
-        if (!runs->isEmpty() && runs->constLast().kind == MRVFountainRun::Text
-            && runs->constLast().emphasis == run.emphasis) {
-            runs->last().text += run.text;
-            return;
-        }
+    if (run.text.isEmpty())
+        return;
+    if (run.kind == MRVFountainRun::Text && !runs->isEmpty()
+        && runs->constLast().kind == MRVFountainRun::Text
+        && runs->constLast().emphasis == run.emphasis) {
+        runs->last().text += run.text;
+    } else {
+        runs->append(run);
     }
-    runs->append(run);
 }
 
 MRVFountainRuns normalizedLine(MRVFountainRuns line, const KindRow &row)
@@ -187,6 +186,9 @@ QVector<MRVFountainRuns> normalizedLines(MRVFountainRuns runs, const KindRow &ro
     for (MRVFountainRun &run : runs) {
         cleanRun(&run, row.isOneLine);
     }
+    runs.erase(std::remove_if(runs.begin(), runs.end(),
+                              [](const MRVFountainRun &run) { return run.text.isEmpty(); }),
+               runs.end());
     QVector<MRVFountainRuns> lines = linesOf(runs);
     for (MRVFountainRuns &line : lines) {
         line = normalizedLine(line, row);
@@ -350,6 +352,11 @@ QString MRVFountainScript::cueName(const QString &cue)
 {
     const QStringRef text = trimmed(QStringRef(&cue));
     return trimmed(text.left(extensionStart(text))).toString();
+}
+
+int MRVFountainScript::cueNameLength(const QString &cue)
+{
+    return extensionStart(QStringRef(&cue));
 }
 
 QString MRVFountainScript::cueExtension(const QString &cue)
