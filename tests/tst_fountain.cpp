@@ -1,10 +1,13 @@
+#include "script/mrvfinaldraft.h"
 #include "script/mrvfountain.h"
+#include "script/mrvfountainhtml.h"
 #include "script/mrvscriptdocument.h"
 #include "script/mrvscriptmode.h"
 #include "script/mrvscriptstatistics.h"
 #include "text/mrvtextformat.h"
 
 #include "datarows.h"
+#include "support.h"
 
 #include <QDirIterator>
 #include <QRandomGenerator>
@@ -121,6 +124,10 @@ private Q_SLOTS:
         addRows("scriptstatistics.tsv", {"name", "text", "counts", "characters"});
     }
     void statistics();
+    void pages();
+    void finalDraft();
+    void refusedXml_data() { addRows("scriptxml-refused.tsv", {"format", "text", "error"}); }
+    void refusedXml();
     void documents_data();
     void documents();
 };
@@ -271,6 +278,49 @@ void TestFountain::statistics()
              counts);
     QCOMPARE(list.join(", "), characters);
     QCOMPARE(found.minutes(), int(std::ceil(found.pages())));
+}
+
+void TestFountain::pages()
+{
+    for (int seed = 0; seed < 1000; ++seed) {
+        QRandomGenerator random(seed);
+        const MRVFountainScript script = randomScript(&random).normalized();
+        MRVFountainScript read;
+        QString error;
+        if (script == MRVFountainScript())
+            continue;
+        QVERIFY2(MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script, "en"), &read, &error),
+                 qPrintable(error));
+        // XML has no U+FFFE, and a text of nothing else is none.
+        QCOMPARE(dump(read), dump(script));
+    }
+}
+
+void TestFountain::finalDraft()
+{
+    const QString text = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fountain");
+    const QByteArray xml = MRVFinalDraft::toXml(MRVFountainScript::fromText(text));
+    const QByteArray golden = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fdx");
+    if (qEnvironmentVariableIsSet("MRV_REWRITE_GOLDEN"))
+        QVERIFY(writeBytes(MRV_SOURCE_DIR "/tests/data/script.fdx", xml));
+    QCOMPARE(QString(xml), QString(golden));
+    MRVFountainScript read;
+    QVERIFY(MRVFinalDraft::fromXml(xml, &read));
+    QCOMPARE(read.toText(), text);
+}
+
+void TestFountain::refusedXml()
+{
+    QFETCH(QString, format);
+    QFETCH(QString, text);
+    QFETCH(QString, error);
+    MRVFountainScript script;
+    QString found;
+    const QByteArray bytes = text.replace("@300", QString("<p>").repeated(300)).toUtf8();
+    QVERIFY(!(format == "html" ? MRVFountainHtml::fromHtml(bytes, &script, &found)
+                               : MRVFinalDraft::fromXml(bytes, &script, &found)));
+    QCOMPARE(script, MRVFountainScript());
+    QVERIFY2(found.startsWith(error), qPrintable(found));
 }
 
 QTEST_MAIN(TestFountain)

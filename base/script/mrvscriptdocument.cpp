@@ -1,6 +1,7 @@
 #include "script/mrvscriptdocument.h"
 
 #include "script/mrvscriptroles_p.h"
+#include "script/mrvscriptxml_p.h"
 #include "text/mrvtextformat.h"
 
 #include <QTextBlock>
@@ -170,11 +171,8 @@ void DocumentWriter::addElement(const Element &element)
         m_breakPending = true;
         return;
     }
-    MRVFountainRuns runs = element.runs;
-    if (element.kind == Element::Parenthetical) {
-        runs.prepend({QStringLiteral("("), {}, Run::Text});
-        runs.append({QStringLiteral(")"), {}, Run::Text});
-    }
+    const MRVFountainRuns runs =
+        element.kind == Element::Parenthetical ? mrvWithBrackets(element.runs) : element.runs;
     int detail = 0;
     QVariant value;
     const Role role = roleOf(element);
@@ -298,18 +296,6 @@ void DocumentReader::addTitle(const QTextBlock &block)
     }
 }
 
-void removeBrackets(MRVFountainRuns *runs)
-{
-    if (runs->isEmpty())
-        return;
-    const bool sole = runs->size() == 1 && runs->constFirst().text.size() < 2;
-    if (sole || runs->constFirst().kind != Run::Text || runs->constLast().kind != Run::Text
-        || !runs->constFirst().text.startsWith(u'(') || !runs->constLast().text.endsWith(u')'))
-        return;
-    runs->first().text.remove(0, 1);
-    runs->last().text.chop(1);
-}
-
 void DocumentReader::addElement(const QTextBlock &block, Role role)
 {
     MRVFountainRuns runs = runsOf(block, role);
@@ -336,7 +322,7 @@ void DocumentReader::addElement(const QTextBlock &block, Role role)
         break;
     }
     if (element.kind == Element::Parenthetical) {
-        removeBrackets(&runs);
+        mrvRemoveBrackets(&runs);
     }
     element.runs = runs;
     element.sceneNumber = detail(block, Document::SceneNumberProperty).toString();
