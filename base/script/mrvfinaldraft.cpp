@@ -193,7 +193,11 @@ void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
         // Points: a third of the way down the page.
         attribute("SpaceBefore", QString::number(isFirst ? 216 : 12));
         isFirst = false;
-        writeRuns(title.value);
+        MRVFountainRuns value = title.value;
+        if (!isCentered && key != QLatin1String("draft date") && key != QLatin1String("contact")) {
+            value.prepend({title.key + QLatin1String(": "), {}, Run::Text});
+        }
+        writeRuns(value);
         end();
     }
     end();

@@ -16,7 +16,8 @@
  *
  * The format does not say which line of a title page is what: reading it takes the first centred one as
  * the title, "written by" and the like as the credit, the one behind as the author, other centred ones
- * as the source, those on the right as the date of the draft and the rest as contact.
+ * as the source, those on the right as the date of the draft and the rest as contact, unless they begin
+ * with a key, as they are written: "Copyright: ...".
  *
  * @since 1.0
  */

@@ -153,6 +153,12 @@ void FinalDraftReader::addTitle()
     } else if (m_alignment == QLatin1String("Right")) {
         key = QStringLiteral("Draft date");
     }
+    static const QRegularExpression named(QStringLiteral("^(\\p{Lu}[\\p{L} ]{1,30}): "));
+    const QRegularExpressionMatch match = named.match(m_element.runs.constFirst().text);
+    if (m_alignment != QLatin1String("Center") && match.hasMatch()) {
+        key = match.captured(1);
+        m_element.runs.first().text.remove(0, match.capturedLength());
+    }
     for (MRVFountainTitle &title : m_script.titles) {
         if (title.key == key) {
             title.value.append({QStringLiteral("\n"), {}, Run::Text});

@@ -57,6 +57,15 @@ public:
                           const MRVScriptMode &mode);
 
     /**
+     * The same for what is printed alone, to be exported: without notes, what is cut out, sections and
+     * synopses, with scene numbers in front of the headings, which are headings of the first level, with
+     * capitals where the mode wants them, and with indents as Qt's margins. It is no longer a document of
+     * the mode.
+     */
+    static void setPrintedScript(QTextDocument *document, const MRVFountainScript &script,
+                                 const MRVScriptMode &mode);
+
+    /**
      * The script in a document that was formatted with @p mode, normalized. Paragraphs of elements that
      * Fountain does not know ("Shot"), or of none, are action, centred ones centred text; pictures are
      * left out. Of an element called "Speech" or "Speaker", a paragraph is a cue up to the first tab,
