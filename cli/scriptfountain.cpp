@@ -271,60 +271,80 @@ QString outputFile(const QString &input, const QString &output, Format format)
     return folder ? QDir(output).filePath(name) : output;
 }
 
+struct ConvertOptions
+{
+    QString input;
+    QString from;
+    Format to = Format::Unknown;
+    QString output; // the file
+    MRVScriptMode mode;
+    QString language;
+    bool json = false;
+};
+
+// -1 to go on, else the exit code.
+int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
+{
+    const QString to = parser.value(QStringLiteral("to"));
+    const QString output = parser.value(QStringLiteral("output"));
+    options->input = parser.positionalArguments().value(0);
+    options->from = parser.value(QStringLiteral("from"));
+    options->to = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
+    options->language = parser.value(QStringLiteral("language"));
+    options->json = parser.isSet(QStringLiteral("json"));
+    if (parser.positionalArguments().size() != 1) {
+        return scriptUsageError(QStringLiteral("convert takes one script"));
+    }
+    if (!isReadable(options->from)) {
+        return unreadable(options->from);
+    }
+    if (options->to == Format::Unknown) {
+        return scriptUsageError(
+            QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
+    }
+    const QString mode = parser.value(QStringLiteral("mode"));
+    if (!mode.isEmpty() && options->to != Format::EPub) {
+        return scriptUsageError(QStringLiteral("--mode is for e-books only"));
+    }
+    QString error;
+    options->mode.loadFactoryDefaults();
+    if (!mode.isEmpty() && !findScriptMode(mode, &options->mode, &error)) {
+        return failure(error);
+    }
+    options->output = outputFile(options->input, output, options->to);
+    const bool streams = options->input == StandardStream || options->output == StandardStream;
+    return !streams && isSameFile(options->input, options->output)
+        ? failure(QStringLiteral("%1: the output would replace the input; choose another with -o")
+                      .arg(options->output))
+        : -1;
+}
+
 } // namespace
 
 int runScriptConvert(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addConvertOptions(&parser);
-    const int code = parseArguments(
-        &parser, QStringLiteral("script convert IN --to FORMAT [OPTIONS]"), arguments);
+    ConvertOptions options;
+    int code = parseArguments(&parser, QStringLiteral("script convert IN --to FORMAT [OPTIONS]"),
+                              arguments);
+    code = code >= 0 ? code : readOptions(parser, &options);
     if (code >= 0) {
         return code;
     }
-    const QString input = parser.positionalArguments().value(0);
-    const QString from = parser.value(QStringLiteral("from"));
-    const QString to = parser.value(QStringLiteral("to"));
-    const QString output = parser.value(QStringLiteral("output"));
-    const Format format = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
-    if (parser.positionalArguments().size() != 1) {
-        return scriptUsageError(QStringLiteral("convert takes one script"));
-    }
-    if (!isReadable(from)) {
-        return unreadable(from);
-    }
-    if (format == Format::Unknown) {
-        return scriptUsageError(
-            QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
-    }
-    if (parser.isSet(QStringLiteral("mode")) && format != Format::EPub) {
-        return scriptUsageError(QStringLiteral("--mode is for e-books only"));
-    }
-    QString error;
-    MRVScriptMode mode;
-    mode.loadFactoryDefaults();
-    if (parser.isSet(QStringLiteral("mode"))
-        && !findScriptMode(parser.value(QStringLiteral("mode")), &mode, &error)) {
-        return failure(error);
-    }
-    const QString file = outputFile(input, output, format);
-    if (input != StandardStream && file != StandardStream && isSameFile(input, file)) {
-        return failure(
-            QStringLiteral("%1: the output would replace the input; choose another with -o")
-                .arg(file));
-    }
     ScriptFile script;
     QByteArray bytes;
-    if (!readScript(input, from, &script, &error)
-        || !scriptBytes(script.script, format, mode, parser.value(QStringLiteral("language")),
-                        &bytes, &error)
-        || !writeScript(bytes, file, &error)) {
+    QString error;
+    if (!readScript(options.input, options.from, &script, &error)
+        || !scriptBytes(script.script, options.to, options.mode, options.language, &bytes, &error)
+        || !writeScript(bytes, options.output, &error)) {
         return failure(error);
     }
-    if (file != StandardStream && parser.isSet(QStringLiteral("json"))) {
-        printJson({{QStringLiteral("path"), file}, {QStringLiteral("bytes"), bytes.size()}});
-    } else if (file != StandardStream) {
-        printLine(file);
+    if (options.output != StandardStream && options.json) {
+        printJson(
+            {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
+    } else if (options.output != StandardStream) {
+        printLine(options.output);
     }
     return Done;
 }
@@ -416,24 +436,50 @@ int runScriptStats(const QStringList &arguments)
     return ok ? Done : Failed;
 }
 
+namespace {
+
+void addRenameOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(QStringLiteral(
+        "Renames a character in a script, in the cues and, on request, elsewhere, and writes\n"
+        "the script in its own format. Exit code 1: nobody has that name."));
+    parser->addPositionalArgument(QStringLiteral("OLD"), QStringLiteral("The name."));
+    parser->addPositionalArgument(QStringLiteral("NEW"), QStringLiteral("The new name."));
+    parser->addPositionalArgument(QStringLiteral("IN"),
+                                  QStringLiteral("The script; - is standard input."));
+    addFromOption(parser);
+    parser->addOption({QStringLiteral("dialogue"), QStringLiteral("Also in what is said.")});
+    parser->addOption({QStringLiteral("action"), QStringLiteral("Also in all other text.")});
+    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
+                       QStringLiteral("Where to write; may be the script itself. Default: "
+                                      "standard output."),
+                       QStringLiteral("FILE")});
+    parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
+}
+
+// Renames in @p file. @return how many names there were.
+int renamed(const QCommandLineParser &parser, ScriptFile *file)
+{
+    MRVScriptDocument::RenameScope scope;
+    scope.setFlag(MRVScriptDocument::InDialogue, parser.isSet(QStringLiteral("dialogue")));
+    scope.setFlag(MRVScriptDocument::InAction, parser.isSet(QStringLiteral("action")));
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    QTextDocument document;
+    MRVScriptDocument::setScript(&document, file->script, mode);
+    const QStringList names = parser.positionalArguments();
+    const int count =
+        MRVScriptDocument::renameCharacter(&document, mode, names.at(0), names.at(1), scope);
+    file->script = MRVScriptDocument::script(document, mode);
+    return count;
+}
+
+} // namespace
+
 int runScriptRename(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Renames a character in a script, in the cues and, on request, elsewhere, and writes\n"
-        "the script in its own format. Exit code 1: nobody has that name."));
-    parser.addPositionalArgument(QStringLiteral("OLD"), QStringLiteral("The name."));
-    parser.addPositionalArgument(QStringLiteral("NEW"), QStringLiteral("The new name."));
-    parser.addPositionalArgument(QStringLiteral("IN"),
-                                 QStringLiteral("The script; - is standard input."));
-    addFromOption(&parser);
-    parser.addOption({QStringLiteral("dialogue"), QStringLiteral("Also in what is said.")});
-    parser.addOption({QStringLiteral("action"), QStringLiteral("Also in all other text.")});
-    parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                      QStringLiteral("Where to write; may be the script itself. Default: "
-                                     "standard output."),
-                      QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
+    addRenameOptions(&parser);
     const int code =
         parseArguments(&parser, QStringLiteral("script rename OLD NEW IN [OPTIONS]"), arguments);
     if (code >= 0) {
@@ -452,23 +498,14 @@ int runScriptRename(const QStringList &arguments)
     if (!readScript(names.at(2), from, &file, &error)) {
         return failure(error);
     }
-    MRVScriptMode mode;
-    mode.loadFactoryDefaults();
-    MRVScriptDocument::RenameScope scope;
-    scope.setFlag(MRVScriptDocument::InDialogue, parser.isSet(QStringLiteral("dialogue")));
-    scope.setFlag(MRVScriptDocument::InAction, parser.isSet(QStringLiteral("action")));
-    QTextDocument document;
-    MRVScriptDocument::setScript(&document, file.script, mode);
-    const int count =
-        MRVScriptDocument::renameCharacter(&document, mode, names.at(0), names.at(1), scope);
+    const int count = renamed(parser, &file);
     if (count == 0) {
         return failure(QStringLiteral("%1: nobody is called '%2'").arg(names.at(2), names.at(0)));
     }
     const QString output = parser.value(QStringLiteral("output"));
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
     QByteArray bytes;
-    if (!scriptBytes(MRVScriptDocument::script(document, mode), file.format, mode, QString(),
-                     &bytes, &error)
+    if (!scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, &error)
         || !writeScript(bytes, target, &error)) {
         return failure(error);
     }

@@ -128,6 +128,9 @@ private Q_SLOTS:
     void finalDraft();
     void refusedXml_data() { addRows("scriptxml-refused.tsv", {"format", "text", "error"}); }
     void refusedXml();
+    void typedDocuments_data() { addRows("scriptdocuments.tsv", {"mode", "paragraphs", "text"}); }
+    void typedDocuments();
+    void printedDocument();
     void documents_data();
     void documents();
 };
@@ -192,7 +195,7 @@ void TestFountain::documents_data()
 void TestFountain::documents()
 {
     QFETCH(MRVScriptMode, mode);
-    for (int seed = 0; seed < qMax(qEnvironmentVariableIntValue("MRV_RANDOM_SCRIPTS") / 10, 300);
+    for (int seed = 0; seed < qMax(qEnvironmentVariableIntValue("MRV_RANDOM_SCRIPTS") / 10, 100);
          ++seed) {
         QRandomGenerator random(seed);
         const MRVFountainScript script = randomScript(&random).normalized();
@@ -321,6 +324,41 @@ void TestFountain::refusedXml()
                                : MRVFinalDraft::fromXml(bytes, &script, &found)));
     QCOMPARE(script, MRVFountainScript());
     QVERIFY2(found.startsWith(error), qPrintable(found));
+}
+
+// Documents that were typed in a mode's elements and know nothing of Fountain.
+void TestFountain::typedDocuments()
+{
+    QFETCH(QString, mode);
+    QFETCH(QString, paragraphs);
+    QFETCH(QString, text);
+    const MRVScriptMode used = MRVScriptMode::systemModes().value(mode);
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    for (const QString &paragraph : paragraphs.split('\n')) {
+        const int element = used.indexOf(paragraph.section(": ", 0, 0));
+        QVERIFY2(element >= 0, qPrintable(paragraph));
+        const MRVScriptElement look = used.elements().at(element);
+        if (!document.isEmpty())
+            cursor.insertBlock();
+        cursor.setBlockFormat(look.blockFormat());
+        cursor.insertText(paragraph.section(": ", 1).replace('/', QChar(QChar::LineSeparator)),
+                          look.charFormat());
+    }
+    QCOMPARE(MRVScriptDocument::script(document, used).toText(), text);
+}
+
+void TestFountain::printedDocument()
+{
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    QTextDocument document;
+    const QString text = "# A\n\nint. b #2#\n\nC [[d]]/* e */\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
+    MRVScriptDocument::setPrintedScript(&document, MRVFountainScript::fromText(text), mode);
+    QCOMPARE(document.toPlainText(), QString("2 INT. B\nC \nAL (h)\nI"));
+    QCOMPARE(document.begin().blockFormat().headingLevel(), 1);
+    QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 72.0);
+    QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 108.0);
 }
 
 QTEST_MAIN(TestFountain)

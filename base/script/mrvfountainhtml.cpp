@@ -81,6 +81,8 @@ public:
 
 private:
     void writeHead(const QString &title);
+    void writeTitles(const QVector<MRVFountainTitle> &titles);
+    void writePart(const QVector<Element> &elements, const MrvSpeeches &part);
     void writeElement(const Element &element);
     void writeRuns(const MRVFountainRuns &runs);
     void writeText(const QString &text);
@@ -123,42 +125,51 @@ void HtmlWriter::write(const MRVFountainScript &script, const QString &language)
     writeHead(script.title(QStringLiteral("Title")).simplified());
     m_xml.writeStartElement(QStringLiteral("body"));
     breakLine();
-    if (!script.titles.isEmpty()) {
-        start("header", QStringLiteral("title-page"));
-        for (const MRVFountainTitle &title : script.titles) {
-            breakLine();
-            start("p", QStringLiteral("title"));
-            m_xml.writeAttribute(QStringLiteral("data-key"), mrvXmlText(title.key));
-            writeRuns(title.value);
-            m_xml.writeEndElement();
-        }
-        m_xml.writeEndElement();
-        breakLine();
-    }
-    const QVector<Element> &elements = script.elements;
-    const QVector<MrvSpeeches> parts = mrvSpeeches(elements);
+    writeTitles(script.titles);
+    const QVector<MrvSpeeches> parts = mrvSpeeches(script.elements);
     for (const MrvSpeeches &part : parts) {
-        const bool isDual = part.isDual();
-        if (isDual) {
-            start("div", QStringLiteral("dual"));
-            m_xml.writeStartElement(QStringLiteral("div"));
-        }
-        for (int i = part.start; i < part.end; ++i) {
-            if (isDual && i == part.second) {
-                m_xml.writeEndElement();
-                m_xml.writeStartElement(QStringLiteral("div"));
-            }
-            writeElement(elements.at(i));
-        }
-        if (isDual) {
-            m_xml.writeEndElement();
-            m_xml.writeEndElement();
-            breakLine();
-        }
+        writePart(script.elements, part);
     }
     m_xml.writeEndElement();
     m_xml.writeEndElement();
     breakLine();
+}
+
+void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
+{
+    if (titles.isEmpty())
+        return;
+    start("header", QStringLiteral("title-page"));
+    for (const MRVFountainTitle &title : titles) {
+        breakLine();
+        start("p", QStringLiteral("title"));
+        m_xml.writeAttribute(QStringLiteral("data-key"), mrvXmlText(title.key));
+        writeRuns(title.value);
+        m_xml.writeEndElement();
+    }
+    m_xml.writeEndElement();
+    breakLine();
+}
+
+// Two speeches side by side stand in a box each.
+void HtmlWriter::writePart(const QVector<Element> &elements, const MrvSpeeches &part)
+{
+    if (part.isDual()) {
+        start("div", QStringLiteral("dual"));
+        m_xml.writeStartElement(QStringLiteral("div"));
+    }
+    for (int i = part.start; i < part.end; ++i) {
+        if (part.isDual() && i == part.second) {
+            m_xml.writeEndElement();
+            m_xml.writeStartElement(QStringLiteral("div"));
+        }
+        writeElement(elements.at(i));
+    }
+    if (part.isDual()) {
+        m_xml.writeEndElement();
+        m_xml.writeEndElement();
+        breakLine();
+    }
 }
 
 void HtmlWriter::writeElement(const Element &element)
