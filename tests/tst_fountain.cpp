@@ -64,6 +64,7 @@ MRVFountainScript randomScript(QRandomGenerator *random)
         element.runs = randomRuns(random);
         element.sceneNumber = random->bounded(2) ? randomText(random, false) : QString();
         element.dual = random->bounded(2);
+        element.apart = random->bounded(2);
         element.level = 1 + random->bounded(3);
         script.elements.append(element);
     }
@@ -96,6 +97,7 @@ QString dump(const MRVFountainScript &script)
         QString line = kindNames[element.kind];
         line += element.level > 1 ? QString::number(element.level) : QString();
         line += element.dual ? "^" : "";
+        line += element.apart ? "'" : "";
         line += element.sceneNumber.isEmpty() ? QString() : '#' + element.sceneNumber;
         lines << line + ' ' + dump(element.runs);
     }

@@ -69,6 +69,7 @@ struct MRVBASE_EXPORT MRVFountainElement
     MRVFountainRuns runs;
     QString sceneNumber; ///< of a SceneHeading, such as "12A"; may be empty
     bool dual = false; ///< of a Character: speaks beside the one before
+    bool apart = false; ///< of Lyrics right behind a speech: no part of it
     int level = 1; ///< of a Section: 1 is the outermost, 255 the innermost
 
     MRVFountainElement() = default;
@@ -84,7 +85,7 @@ struct MRVBASE_EXPORT MRVFountainElement
     bool operator==(const MRVFountainElement &other) const
     {
         return kind == other.kind && runs == other.runs && sceneNumber == other.sceneNumber
-            && dual == other.dual && level == other.level;
+            && dual == other.dual && apart == other.apart && level == other.level;
     }
     bool operator!=(const MRVFountainElement &other) const { return !(*this == other); }
 };
@@ -151,7 +152,8 @@ public:
      * its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised text,
      * line breaks in headings, cues, parentheticals, transitions, sections and synopses, which become
      * blanks, empty lines of the title page and around dialogue, notes without text within a paragraph, and
-     * scene headings, cues and dialogue without text. Of kinds that do not have them, number, level and dual mark are reset.
+     * scene headings, cues and dialogue without text. Number, level and marks are reset where they mean nothing; two Lyrics
+     * behind one another in a speech cannot both be part of it.
      */
     MRVFountainScript normalized() const;
 

@@ -189,6 +189,9 @@ void HtmlWriter::writeElement(const Element &element)
     if (element.dual) {
         m_xml.writeAttribute(QStringLiteral("data-dual"), QStringLiteral("dual"));
     }
+    if (element.apart) {
+        m_xml.writeAttribute(QStringLiteral("data-apart"), QStringLiteral("apart"));
+    }
     if (element.kind == Element::Section) {
         m_xml.writeAttribute(QStringLiteral("data-level"), QString::number(element.level));
     }
@@ -281,6 +284,7 @@ bool HtmlReader::startParagraph(const QString &className)
             m_element.kind = row.kind;
             m_element.sceneNumber = attributes.value(QLatin1String("data-number")).toString();
             m_element.dual = attributes.hasAttribute(QLatin1String("data-dual"));
+            m_element.apart = attributes.hasAttribute(QLatin1String("data-apart"));
             m_element.level = qMax(1, attributes.value(QLatin1String("data-level")).toInt());
             return true;
         }

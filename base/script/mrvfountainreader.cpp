@@ -309,6 +309,7 @@ MRVFountainScript FountainReader::script()
     for (MRVFountainTitle &title : m_script.titles) {
         title = normalizedTitle(title);
     }
+    normalizeLyrics(&m_script.elements);
     return m_script;
 }
 
@@ -369,7 +370,9 @@ int FountainReader::readParagraph(int line)
         addOneLine(Element::Transition, given, kind == ForcedTransitionLine ? 1 : 0);
         return line + 1;
     case LyricsLine:
-        return readLines(Element::Lyrics, line, endOfKind(line, LyricsLine));
+        line = readLines(Element::Lyrics, line, endOfKind(line, LyricsLine));
+        m_script.elements.last().apart = true;
+        return line;
     case CenteredLine:
         return readLines(Element::Centered, line, endOfKind(line, CenteredLine));
     case SectionLine: {

@@ -263,6 +263,7 @@ MRVFountainElement normalizedElement(const MRVFountainElement &element)
     Element normal;
     normal.kind = element.kind;
     normal.dual = element.kind == Element::Character && element.dual;
+    normal.apart = element.kind == Element::Lyrics && element.apart;
     normal.level = element.kind == Element::Section ? qBound(1, element.level, 255) : 1;
     if (element.kind == Element::SceneHeading) {
         for (const QChar c : element.sceneNumber) {
@@ -293,6 +294,24 @@ MRVFountainTitle normalizedTitle(const MRVFountainTitle &title)
                                [](const MRVFountainRuns &line) { return line.isEmpty(); }),
                 lines.end());
     return {normalizedKey(title.key), joined(lines)};
+}
+
+void normalizeLyrics(QVector<MRVFountainElement> *elements)
+{
+    bool inSpeech = false;
+    bool wereLyrics = false;
+    for (MRVFountainElement &element : *elements) {
+        const bool isLyrics = element.kind == MRVFountainElement::Lyrics;
+        if (isLyrics) {
+            element.apart = inSpeech && (element.apart || wereLyrics);
+            inSpeech = inSpeech && !element.apart;
+        } else {
+            inSpeech = element.kind == MRVFountainElement::Character
+                || element.kind == MRVFountainElement::Parenthetical
+                || element.kind == MRVFountainElement::Dialogue;
+        }
+        wereLyrics = isLyrics;
+    }
 }
 
 bool isKept(const MRVFountainElement &element)
@@ -345,6 +364,7 @@ MRVFountainScript MRVFountainScript::normalized() const
             normal.elements.append(kept);
         }
     }
+    normalizeLyrics(&normal.elements);
     return normal;
 }
 

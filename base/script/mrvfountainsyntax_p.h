@@ -69,6 +69,8 @@ QString withPlainLineEnds(const QString &text);
 
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
 MRVFountainTitle normalizedTitle(const MRVFountainTitle &title);
+/** Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so. */
+void normalizeLyrics(QVector<MRVFountainElement> *elements);
 /** Whether something is left of a normalized element that Fountain can hold. */
 bool isKept(const MRVFountainElement &element);
 /** Runs parted at line breaks; there is always a line. */

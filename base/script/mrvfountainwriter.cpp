@@ -226,7 +226,7 @@ bool FountainWriter::speaksIn(const Element *next)
         return false;
     if (next->kind == Element::Dialogue)
         return !WrittenLine(linesOf(next->runs).constFirst()).isObject();
-    return next->kind == Element::Parenthetical || next->kind == Element::Lyrics;
+    return next->kind == Element::Parenthetical || (next->kind == Element::Lyrics && !next->apart);
 }
 
 void FountainWriter::addCue(const Element &element, const Element *next)
@@ -248,7 +248,8 @@ void FountainWriter::addCue(const Element &element, const Element *next)
 void FountainWriter::addSpeech(const Element &element)
 {
     const bool isLyrics = element.kind == Element::Lyrics;
-    const bool isNew = !m_inSpeech || (m_last == element.kind && m_last != Element::Parenthetical);
+    const bool isNew = !m_inSpeech || element.apart
+        || (m_last == Element::Dialogue && element.kind == Element::Dialogue);
     if (isNew) {
         separate();
         m_inSpeech = !isLyrics;

@@ -154,7 +154,7 @@ void DocumentWriter::addParagraph(Role role, const MRVFountainRuns &runs, int de
 Role DocumentWriter::roleOf(const Element &element)
 {
     const bool isSpeech = element.kind == Element::Parenthetical
-        || element.kind == Element::Dialogue || element.kind == Element::Lyrics;
+        || element.kind == Element::Dialogue || (element.kind == Element::Lyrics && !element.apart);
     m_isDual = element.kind == Element::Character ? element.dual : m_isDual && isSpeech;
     const Role role = mrvScriptRole(element.kind);
     const Role dual = element.kind == Element::Character ? Role::DualCharacter
@@ -184,6 +184,9 @@ void DocumentWriter::addElement(const Element &element)
         value = element.level;
     } else if (element.dual && role == mrvScriptRole(Element::Character)) {
         detail = Document::DualProperty;
+        value = true;
+    } else if (element.apart) {
+        detail = Document::ApartProperty;
         value = true;
     }
     addParagraph(role, runs, detail, value);
@@ -327,6 +330,7 @@ void DocumentReader::addElement(const QTextBlock &block, Role role)
     element.runs = runs;
     element.sceneNumber = detail(block, Document::SceneNumberProperty).toString();
     element.dual = element.dual || detail(block, Document::DualProperty).toBool();
+    element.apart = detail(block, Document::ApartProperty).toBool();
     element.level = qMax(1, detail(block, Document::SectionLevelProperty).toInt());
     m_script.elements.append(element);
 }

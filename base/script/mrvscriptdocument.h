@@ -46,6 +46,7 @@ public:
         /** int: MRVFountainRun::Emphasis in an element that has the same already. */
         EmphasisProperty = 0x100207,
         NoteBorderProperty = 0x100208, ///< bool, of a note right behind another one
+        ApartProperty = 0x100209, ///< bool, of lyrics that are no part of the speech before them
     };
 
     /**

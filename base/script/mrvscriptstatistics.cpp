@@ -157,7 +157,8 @@ void Counter::addElement(const Element &element)
     if (measure.width == 0)
         return;
     const bool isSpeech = element.kind == Element::Dialogue
-        || element.kind == Element::Parenthetical || element.kind == Element::Lyrics;
+        || element.kind == Element::Parenthetical
+        || (element.kind == Element::Lyrics && !element.apart);
     if (element.kind == Element::Character) {
         addCue(element);
     } else if (!isSpeech) {

@@ -8,7 +8,7 @@ QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
         while (end < elements.size()
                && (elements.at(end).kind == Element::Parenthetical
                    || elements.at(end).kind == Element::Dialogue
-                   || elements.at(end).kind == Element::Lyrics)) {
+                   || (elements.at(end).kind == Element::Lyrics && !elements.at(end).apart))) {
             ++end;
         }
         return end;
