@@ -2,6 +2,7 @@
 #include "script/mrvreference.h"
 
 #include "core/mcoretype.h"
+#include "heapmeter.h"
 
 #include <QImage>
 #include <QtTest>
@@ -145,12 +146,17 @@ void TestReferences::damagedBytes_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("picture") << bytesOf(MRVFernwickDropItem("label", picture()));
     QTest::newRow("group") << bytesOf(group());
+    const QVariantList others{QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, 60),
+                              QUrl("http://a.example"), QByteArray("b"), 1.5,
+                              QVariant(QVariant::Int)};
+    QTest::newRow("others") << bytesOf(MRVFernwickDropItem(others));
 }
 
 // No cut is read as a whole item, and no changed byte brings the reader down.
 void TestReferences::damagedBytes()
 {
     QFETCH(QByteArray, bytes);
+    QCOMPARE(bytesOf(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes)), bytes);
     for (int length = 0; length < bytes.size(); ++length)
         QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes.left(length)),
                  MRVFernwickDropItem());
@@ -158,7 +164,10 @@ void TestReferences::damagedBytes()
         for (const int change : {0x01, 0x10, 0x80, 0xff}) {
             QByteArray changed = bytes;
             changed[at] = char(changed.at(at) ^ change);
+            HeapMeter::start();
             const auto item = MCoreType::fromByteArray<MRVFernwickDropItem>(changed);
+            MRVReference::toReferenceList(changed);
+            QVERIFY2(HeapMeter::peak() < 1000000, qPrintable(QString::number(at)));
             QVERIFY(bytesOf(item).size() < 4 * bytes.size());
         }
     }
@@ -170,6 +179,10 @@ void TestReferences::claimedSizes_data()
     QTest::newRow("list") << hex("00000009 00 7fffffff 00000000 01");
     QTest::newRow("map") << hex("00000008 00 7fffffff 00000000 00000000 01");
     QTest::newRow("texts") << hex("0000000b 00 7fffffff 00000000");
+    QTest::newRow("text") << hex("0000000a 00 7ffffff0 0041");
+    QTest::newRow("bytes") << hex("0000000c 00 7ffffff0 41");
+    QTest::newRow("name") << hex("00000400 00 7ffffff0 41");
+    QTest::newRow("time zone") << hex("00000010 00 0000000000253d8c 00000000 03 0000000000");
     QTest::newRow("colours") << hex("00000044 00 7fffffff"); // a palette
     QTest::newRow("deep") << hex("00000009 00 00000001").repeated(40) + hex("00000000 01");
     QTest::newRow("unknown type") << hex("00000400 00 00000002 4100 00000000");
@@ -186,7 +199,9 @@ void TestReferences::claimedSizes()
     QDataStream stream(bytes);
     stream.setVersion(MCoreType::StreamVersion);
     MRVFernwickDropItem item("x", QString("y"));
+    HeapMeter::start();
     stream >> item;
+    QVERIFY(HeapMeter::peak() < 1000000);
     QVERIFY(stream.status() != QDataStream::Ok);
     QCOMPARE(item, MRVFernwickDropItem());
 }

@@ -1,10 +1,13 @@
 #include "script/mrvfernwickdropitem.h"
 
 #include "gui/mrvguiutil.h"
+#include "script/mrvcheckedstream_p.h"
 
 #include <QDataStream>
+#include <QDateTime>
 #include <QImage>
 #include <QStringList>
+#include <QUrl>
 #include <QtEndian>
 
 #include <algorithm>
@@ -21,13 +24,12 @@ constexpr int MaxDepth = 32;
 constexpr qint64 MinPictureBytes = 64 << 20;
 constexpr qint64 PictureBytesPerByte = 32;
 
-// Types that Qt reads without believing a count.
-constexpr int PlainTypes[] = {
-    QMetaType::Bool,   QMetaType::Int,        QMetaType::UInt,     QMetaType::LongLong,
-    QMetaType::Double, QMetaType::ULongLong,  QMetaType::QChar,    QMetaType::QString,
-    QMetaType::QUrl,   QMetaType::QByteArray, QMetaType::QDate,    QMetaType::QTime,
-    QMetaType::QPoint, QMetaType::QPointF,    QMetaType::QSize,    QMetaType::QSizeF,
-    QMetaType::QRect,  QMetaType::QRectF,     QMetaType::QDateTime};
+// Types of a fixed length.
+constexpr int PlainTypes[] = {QMetaType::Bool,     QMetaType::Int,     QMetaType::UInt,
+                              QMetaType::LongLong, QMetaType::Double,  QMetaType::ULongLong,
+                              QMetaType::QChar,    QMetaType::QDate,   QMetaType::QTime,
+                              QMetaType::QPoint,   QMetaType::QPointF, QMetaType::QSize,
+                              QMetaType::QSizeF,   QMetaType::QRect,   QMetaType::QRectF};
 
 void registerType()
 {
@@ -65,9 +67,10 @@ private:
     QVariant nested(quint32 type);
     QVariant list();
     QVariant map();
+    QVariant text(quint32 type);
+    QVariant dateTime();
     QVariant stringList();
     QVariant image();
-    bool take(quint32 size, QByteArray *bytes);
     bool png(QByteArray *bytes);
 
     QDataStream &m_stream;
@@ -79,8 +82,8 @@ MRVFernwickDropItem DropItemReader::item()
 {
     qint32 version = 0;
     QString label;
-    m_stream >> version >> label;
-    const QVariant payload = isSound() ? variant() : QVariant();
+    m_stream >> version;
+    const QVariant payload = mrvReadString(m_stream, &label) ? variant() : QVariant();
     return isSound() ? MRVFernwickDropItem(label, payload) : MRVFernwickDropItem();
 }
 
@@ -102,6 +105,10 @@ QVariant DropItemReader::value(quint32 type)
         QVariant plain(int(type), nullptr);
         return QMetaType::load(m_stream, int(type), plain.data()) ? plain : refused();
     }
+    if (type == QMetaType::QString || type == QMetaType::QByteArray || type == QMetaType::QUrl)
+        return text(type);
+    if (type == QMetaType::QDateTime)
+        return dateTime();
     if (type == QMetaType::QStringList)
         return stringList();
     if (type == QMetaType::QImage)
@@ -122,7 +129,7 @@ QVariant DropItemReader::nested(quint32 type)
         return map();
     QByteArray name;
     if (type == QMetaType::User) {
-        m_stream >> name; // stored with the zero that ends it
+        mrvReadBytes(m_stream, &name); // stored with the zero that ends it
     }
     if (name != QByteArray::fromRawData(TypeName, sizeof TypeName))
         return refused();
@@ -147,10 +154,44 @@ QVariant DropItemReader::map()
     QVariantMap entries;
     for (quint32 i = 0; i < count && isSound(); ++i) {
         QString key;
-        m_stream >> key;
+        mrvReadString(m_stream, &key);
         entries.insert(key, variant());
     }
     return entries;
+}
+
+QVariant DropItemReader::text(quint32 type)
+{
+    if (type == QMetaType::QString) {
+        QString read;
+        mrvReadString(m_stream, &read);
+        return read;
+    }
+    QByteArray bytes;
+    mrvReadBytes(m_stream, &bytes);
+    return type == QMetaType::QByteArray ? QVariant(bytes)
+                                         : QVariant(QUrl(QString::fromUtf8(bytes)));
+}
+
+// A named time zone would make Qt look it up in the system.
+QVariant DropItemReader::dateTime()
+{
+    constexpr int SpecAt = 12; // behind the date and the time
+    QByteArray bytes;
+    if (!mrvReadRaw(m_stream, SpecAt + 1, &bytes))
+        return QVariant();
+    const int spec = bytes.at(SpecAt);
+    if (spec != Qt::LocalTime && spec != Qt::UTC && spec != Qt::OffsetFromUTC)
+        return refused();
+    if (spec == Qt::OffsetFromUTC) {
+        mrvReadRaw(m_stream, 4, &bytes);
+    }
+    QDataStream stream(bytes);
+    stream.setVersion(m_stream.version());
+    stream.setByteOrder(m_stream.byteOrder());
+    QDateTime time;
+    stream >> time;
+    return time;
 }
 
 QVariant DropItemReader::stringList()
@@ -160,43 +201,25 @@ QVariant DropItemReader::stringList()
     QStringList entries;
     for (quint32 i = 0; i < count && isSound(); ++i) {
         QString entry;
-        m_stream >> entry;
+        mrvReadString(m_stream, &entry);
         entries.append(entry);
     }
     return entries;
-}
-
-// Appends as many bytes as the stream has, whatever a length says.
-bool DropItemReader::take(quint32 size, QByteArray *bytes)
-{
-    constexpr quint32 Block = 1 << 16;
-    while (size > 0 && isSound()) {
-        char block[Block];
-        const int part = int(qMin(size, Block));
-        const int read = m_stream.readRawData(block, part);
-        if (read < part) {
-            m_stream.setStatus(QDataStream::ReadPastEnd);
-            return false;
-        }
-        bytes->append(block, read);
-        size -= quint32(part);
-    }
-    return isSound();
 }
 
 // A picture lies in the stream as a PNG file, of a length that only its chunks tell.
 bool DropItemReader::png(QByteArray *bytes)
 {
     static constexpr char Signature[] = "\x89PNG\r\n\x1a\n";
-    if (!take(8, bytes) || std::memcmp(bytes->constData(), Signature, 8) != 0)
+    if (!mrvReadRaw(m_stream, 8, bytes) || std::memcmp(bytes->constData(), Signature, 8) != 0)
         return false;
     for (;;) {
         const int start = bytes->size();
-        if (!take(8, bytes))
+        if (!mrvReadRaw(m_stream, 8, bytes))
             return false;
         const quint32 length = qFromBigEndian<quint32>(bytes->constData() + start);
         const bool last = std::memcmp(bytes->constData() + start + 4, "IEND", 4) == 0;
-        if (length > 0x7fffffff - 4 || !take(length + 4, bytes)) // and the checksum
+        if (length > 0x7fffffff - 4 || !mrvReadRaw(m_stream, length + 4, bytes)) // and the checksum
             return false;
         if (last)
             return true;

@@ -1,6 +1,7 @@
 #include "script/mrvreference.h"
 
 #include "core/mcoretype.h"
+#include "script/mrvcheckedstream_p.h"
 
 #include <QDataStream>
 #include <QDebug>
@@ -40,7 +41,12 @@ QDataStream &operator>>(QDataStream &stream, MRVReference &reference)
 {
     MRVReference read;
     qint16 version = 0;
-    stream >> version >> read.title >> read.url >> read.internalLink;
+    QByteArray address;
+    stream >> version;
+    if (mrvReadString(stream, &read.title) && mrvReadBytes(stream, &address)) {
+        read.url.setUrl(QString::fromUtf8(address));
+        stream >> read.internalLink;
+    }
     reference = stream.status() == QDataStream::Ok ? read : MRVReference();
     return stream;
 }
