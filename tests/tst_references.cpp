@@ -94,7 +94,7 @@ void TestReferences::dropItemBytes_data()
     QTest::addColumn<MRVFernwickDropItem>("item");
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("default") << MRVFernwickDropItem() << hex("00000001 ffffffff 00000000 01");
-    QTest::newRow("text") << MRVFernwickDropItem("l", QString("t"))
+    QTest::newRow("text") << MRVFernwickDropItem("l", "t")
                           << hex("00000001 00000002 006c 0000000a 00 00000002 0074");
     QTest::newRow("no picture") << MRVFernwickDropItem("l", QImage())
                                 << hex("00000001 00000002 006c 00000046 00 00000000");

@@ -81,10 +81,12 @@ private:
 MRVFernwickDropItem DropItemReader::item()
 {
     qint32 version = 0;
-    QString label;
     m_stream >> version;
-    const QVariant payload = mrvReadString(m_stream, &label) ? variant() : QVariant();
-    return isSound() ? MRVFernwickDropItem(label, payload) : MRVFernwickDropItem();
+    MRVFernwickDropItem read;
+    if (mrvReadString(m_stream, &read.m_label)) {
+        read.m_payload = variant();
+    }
+    return isSound() ? read : MRVFernwickDropItem();
 }
 
 QVariant DropItemReader::variant()
@@ -272,9 +274,11 @@ QVariant MRVFernwickDropItem::toVariant() const
 MRVFernwickDropItem MRVFernwickDropItem::fromVariant(const QVariant &variant)
 {
     registerType();
-    return variant.userType() == qMetaTypeId<MRVFernwickDropItem>()
-        ? variant.value<MRVFernwickDropItem>()
-        : MRVFernwickDropItem(QString(), variant);
+    if (variant.userType() == qMetaTypeId<MRVFernwickDropItem>())
+        return variant.value<MRVFernwickDropItem>();
+    MRVFernwickDropItem item;
+    item.m_payload = variant;
+    return item;
 }
 
 QList<MRVFernwickDropItem> MRVFernwickDropItem::fromVariant(const QList<QVariant> &list)

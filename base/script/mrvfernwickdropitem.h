@@ -51,12 +51,6 @@ public:
     bool operator!=(const MRVFernwickDropItem &other) const { return !(*this == other); }
 
 private:
-    MRVFernwickDropItem(const QString &label, const QVariant &payload)
-        : m_label(label)
-        , m_payload(payload)
-    {
-    }
-
     friend class DropItemReader;
 
     QString m_label;
