@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class QCommandLineParser;
+class QJsonObject;
 
 /** Exit codes of the tool. */
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
@@ -17,18 +18,28 @@ struct Command
     int (*run)(const QStringList &arguments); // arguments[0] is the command's name
 };
 
+int runAutoReplace(const QStringList &arguments);
+int runEngines(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
+int runFormats(const QStringList &arguments);
 int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
+int runPresets(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
 int runScript(const QStringList &arguments);
+int runSettings(const QStringList &arguments);
+int runShortcuts(const QStringList &arguments);
+int runXml(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */
 void printError(const QString &text);
 
 /** Prints a line to standard output, as UTF-8 whatever the locale. */
 void printLine(const QString &text);
+
+/** Prints an object as one line of JSON. */
+void printJson(const QJsonObject &object);
 
 /** Writes to standard output; false, with a text, when that cannot take it all. */
 bool writeStandardOutput(const QByteArray &bytes, QString *error);

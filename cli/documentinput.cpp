@@ -1,5 +1,7 @@
 #include "documentinput.h"
 
+#include "command.h"
+
 #include "htmlsource.h"
 
 #include "text/mrvtextformat.h"
@@ -275,4 +277,23 @@ bool readDocument(const QString &path, const InputOptions &options, DocumentInpu
     }
     const QString folder = standard ? QDir::currentPath() : QFileInfo(path).absolutePath();
     return !options.pictures || locatePictures(folder, input, &reason) || fail(error, path, reason);
+}
+
+int lookThrough(const QStringList &inputs, const InputOptions &options, const QString &doing,
+                const std::function<bool(const DocumentInput &)> &look)
+{
+    bool found = false;
+    bool refused = false;
+    for (const QString &path : inputs) {
+        showProgress(doing.arg(path));
+        DocumentInput input;
+        QString error;
+        if (readDocument(path, options, &input, &error)) {
+            found = look(input) || found;
+        } else {
+            printError(error);
+            refused = true;
+        }
+    }
+    return found && !refused ? Done : Failed;
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QTextDocument;
@@ -50,3 +51,13 @@ struct InputOptions
  */
 bool readDocument(const QString &path, const InputOptions &options, DocumentInput *input,
                   QString *error);
+
+/**
+ * Reads the inputs one after the other and hands each to @p look, which tells whether it found something. An input that
+ * cannot be read is reported, and the others are still looked at.
+ *
+ * @param doing shown on a terminal while an input is worked on: "Reading %1".
+ * @return Done when something was found and every input could be read, else Failed.
+ */
+int lookThrough(const QStringList &inputs, const InputOptions &options, const QString &doing,
+                const std::function<bool(const DocumentInput &)> &look);

@@ -192,21 +192,12 @@ int runFind(const QStringList &arguments)
     if (code >= 0) {
         return code;
     }
-    bool found = false;
-    bool refused = false;
-    for (const QString &path : qAsConst(options.inputs)) {
-        showProgress(QStringLiteral("Searching %1").arg(path));
-        DocumentInput input;
-        QString error;
-        if (!readDocument(path, options.input, &input, &error)) {
-            printError(error); // the other inputs are still worth searching
-            refused = true;
-            continue;
-        }
-        const QVector<MRVTextRange> finds = options.search.findAll(input.document.get());
-        found = found || !finds.isEmpty();
-        showProgress(QString());
-        printFinds(options, path, input.document.get(), finds);
-    }
-    return found && !refused ? Done : Failed;
+    return lookThrough(options.inputs, options.input, QStringLiteral("Searching %1"),
+                       [&](const DocumentInput &input) {
+                           const QVector<MRVTextRange> finds =
+                               options.search.findAll(input.document.get());
+                           showProgress(QString());
+                           printFinds(options, input.path, input.document.get(), finds);
+                           return !finds.isEmpty();
+                       });
 }

@@ -1,7 +1,10 @@
 #include "command.h"
+#include "suggestion.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -11,12 +14,19 @@
 namespace {
 
 constexpr Command commands[] = {
+    {"autoreplace", "show what typing replaces, and edit the list", runAutoReplace},
+    {"engines", "tell and choose what converts which format", runEngines},
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
+    {"formats", "list file formats and what can be done with them", runFormats},
     {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
+    {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"script", "list, show and check script modes", runScript},
+    {"settings", "show and change the application's preferences", runSettings},
+    {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
+    {"xml", "read and edit XML files by paths", runXml},
 };
 
 QString usage()
@@ -24,7 +34,7 @@ QString usage()
     QString text = QStringLiteral("Usage: mrv COMMAND [OPTIONS] [ARGUMENTS]\n\nCommands:\n");
     for (const Command &command : commands) {
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.name), -11)
                     .arg(QLatin1String(command.summary));
     }
     return text
@@ -69,6 +79,11 @@ void printError(const QString &text)
 void printLine(const QString &text)
 {
     printTo(stdout, text);
+}
+
+void printJson(const QJsonObject &object)
+{
+    printLine(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
 bool writeStandardOutput(const QByteArray &bytes, QString *error)
@@ -146,7 +161,13 @@ int main(int argc, char **argv)
             return code;
         }
     }
-    printError(name.isEmpty() ? QStringLiteral("a command is missing; try 'mrv --help'")
-                              : QStringLiteral("unknown command '%1'; try 'mrv --help'").arg(name));
+    QStringList names;
+    for (const Command &command : commands) {
+        names.append(QLatin1String(command.name));
+    }
+    const QString advice = didYouMean(name, names);
+    printError((name.isEmpty() ? QStringLiteral("a command is missing")
+                               : QStringLiteral("unknown command '%1'").arg(name))
+               + (advice.isNull() ? QStringLiteral("; try 'mrv --help'") : advice));
     return WrongUsage;
 }

@@ -281,19 +281,9 @@ int runNotes(const QStringList &arguments)
     if (code >= 0) {
         return code;
     }
-    bool found = false;
-    bool refused = false;
-    for (const QString &path : qAsConst(options.inputs)) {
-        showProgress(QStringLiteral("Reading %1").arg(path));
-        DocumentInput input;
-        QString error;
-        if (!readDocument(path, options.input, &input, &error)) {
-            printError(error); // the other inputs can still be listed
-            refused = true;
-            continue;
-        }
-        showProgress(QString());
-        found = printNotes(options, input) || found;
-    }
-    return found && !refused ? Done : Failed;
+    return lookThrough(options.inputs, options.input, QStringLiteral("Reading %1"),
+                       [&](const DocumentInput &input) {
+                           showProgress(QString());
+                           return printNotes(options, input);
+                       });
 }

@@ -252,11 +252,6 @@ QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRa
             {QStringLiteral("text"), text}};
 }
 
-void printJson(const QJsonObject &object)
-{
-    printLine(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
-}
-
 QString displayed(QString text)
 {
     for (QChar &character : text) {

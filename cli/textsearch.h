@@ -59,8 +59,6 @@ bool readInputOptions(const QCommandLineParser &parser, const QStringList &input
  */
 QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRange &range);
 
-void printJson(const QJsonObject &object);
-
 /** The text with blanks for line and paragraph ends, and without what would control a terminal. As long as before. */
 QString displayed(QString text);
 

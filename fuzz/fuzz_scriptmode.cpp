@@ -10,19 +10,10 @@
 //
 // Only what reads and writes modes is compiled in, so that it is instrumented; the rest is not.
 
+#include "guiapplication.h"
 #include "script/mrvscriptmode.h"
 
-#include <QGuiApplication>
-
 #include <cstdlib>
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    static QGuiApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

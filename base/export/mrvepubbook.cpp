@@ -8,6 +8,7 @@
 #include "text/mtextdoc.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvxmltext.h"
 #include "gui/mrvguiutil.h"
 
 #include <QCryptographicHash>
@@ -385,7 +386,7 @@ QString MRVEPubBook::styleSheet() const
 
 QString MRVEPubBook::title() const
 {
-    const QString own = MRVHtmlText::withoutForbiddenCharacters(metadata.title).simplified();
+    const QString own = mrvXmlText(metadata.title).simplified();
     return own.isEmpty() ? MRVEPubBook::tr("Untitled") : own;
 }
 
@@ -393,7 +394,7 @@ QStringList MRVEPubBook::authors() const
 {
     QStringList names;
     for (const QString &author : metadata.authors) {
-        const QString name = MRVHtmlText::withoutForbiddenCharacters(author).simplified();
+        const QString name = mrvXmlText(author).simplified();
         if (!name.isEmpty()) {
             names.append(name);
         }

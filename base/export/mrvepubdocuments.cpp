@@ -1,3 +1,4 @@
+#include "core/mrvxmltext.h"
 #include "export/mrvepubbook_p.h"
 #include "export/mrvhtmltext_p.h"
 
@@ -11,7 +12,7 @@ namespace {
 // Texts that people gave may be empty, or hold what XML cannot.
 void writeText(QXmlStreamWriter *xml, const char *element, const QString &text)
 {
-    const QString clean = MRVHtmlText::withoutForbiddenCharacters(text).simplified();
+    const QString clean = mrvXmlText(text).simplified();
     if (!clean.isEmpty()) {
         xml->writeTextElement(QLatin1String(element), clean);
     }

@@ -4,6 +4,7 @@
 #include "export/mrvhtmltext_p.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvxmltext.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -36,8 +37,7 @@ QDateTime archiveDate(const QDateTime &date)
 // The same content gets the same identifier, so that an e-book made anew replaces the old one in a reader's library.
 QString identifierOf(const MRVEPubBook &book)
 {
-    const QString given =
-        MRVHtmlText::withoutForbiddenCharacters(book.metadata.identifier).simplified();
+    const QString given = mrvXmlText(book.metadata.identifier).simplified();
     if (!given.isEmpty()) {
         return given;
     }

@@ -2,32 +2,7 @@
 
 #include <QStringMatcher>
 
-#include <algorithm>
-
 namespace {
-
-bool isForbidden(ushort c)
-{
-    return (c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0xFFFE || c == 0xFFFF;
-}
-
-bool isSuspicious(ushort c)
-{
-    return isForbidden(c) || QChar::isSurrogate(c);
-}
-
-// True when each character is surely allowed on its own.
-bool isPlain(QStringView text)
-{
-    // Without a branch the loop becomes vector code: it sees every character of every page. Between a blank and
-    // the first surrogate nothing is forbidden; the few texts with others get a closer look.
-    unsigned short others = 0;
-    const char16_t *const characters = text.utf16();
-    for (int i = 0, size = int(text.size()); i < size; ++i) {
-        others |= static_cast<unsigned short>(characters[i] - 0x20) > 0xD7DF;
-    }
-    return !others || std::none_of(characters, characters + text.size(), isSuspicious);
-}
 
 int entityValue(QStringView entity)
 {
@@ -152,35 +127,6 @@ QHash<QString, int> MRVHtmlText::idPlaces(const QString &html)
         places.insert(html.mid(begin, html.indexOf(u'"', begin) - begin), at);
     }
     return places;
-}
-
-QString MRVHtmlText::withoutForbiddenCharacters(const QString &text)
-{
-    if (isPlain(text)) {
-        return text;
-    }
-    QString result;
-    result.reserve(text.size());
-    appendAllowed(&result, text);
-    return result;
-}
-
-void MRVHtmlText::appendAllowed(QString *result, QStringView text)
-{
-    if (isPlain(text)) {
-        result->append(text.data(), int(text.size()));
-        return;
-    }
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-            // U+1FFFE, U+2FFFF and their like are allowed: only the basic plane's pair is not.
-            result->append(c);
-            result->append(text[++i]);
-        } else if (!isSuspicious(c.unicode())) {
-            result->append(c);
-        }
-    }
 }
 
 bool MRVHtmlText::hasWideSpace(QStringView text)

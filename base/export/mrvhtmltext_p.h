@@ -30,13 +30,8 @@ void replaceImageSources(QString *html, const QHash<QString, QString> &reference
 /** Where the anchors with an id stand in the text, by id as it is written. */
 QHash<QString, int> idPlaces(const QString &html);
 
-/** Drops what XML 1.0 (section 2.2, Char) forbids, lone surrogates included; no copy when there is nothing. */
-QString withoutForbiddenCharacters(const QString &text);
 /** Whether the text holds a tab or two blanks in a row. */
 bool hasWideSpace(QStringView text);
-/** Appends the text without what XML 1.0 forbids. */
-void appendAllowed(QString *result, QStringView text);
-
 /**
  * Rewrites every stretch from @p open up to the next @p close.
  *

@@ -1,5 +1,6 @@
 #include "export/mrvpagewriter_p.h"
 
+#include "core/mrvxmltext.h"
 #include "export/mrvhtmltext_p.h"
 
 #include <QUrl>
@@ -85,8 +86,7 @@ void MRVPageWriter::writeHead(const QString &html, int end, const QString &docum
     } else {
         at = head.indexOf(QLatin1String("<style"));
     }
-    const QString shown = MRVHtmlText::withoutForbiddenCharacters(
-        at >= 0 && !documentTitle.isEmpty() ? documentTitle : title);
+    const QString shown = mrvXmlText(at >= 0 && !documentTitle.isEmpty() ? documentTitle : title);
     // The title is prose: the chain must not see it.
     QString start = chain(head.left(at));
     const QLatin1String root("<html ");
@@ -185,7 +185,7 @@ void MRVPageWriter::startTag(QStringView html, int begin, int end)
         startBlock(html, begin, end);
     } else if (name == QLatin1String("img") && !tag.contains(QLatin1String(" src=\""))) {
         // A picture without a source has nothing to show but its text.
-        MRVHtmlText::appendAllowed(&m_page, MRVHtmlTag::parsed(tag).value(QLatin1String("alt")));
+        mrvAppendXmlText(&m_page, MRVHtmlTag::parsed(tag).value(QLatin1String("alt")));
     } else {
         m_page += rewritten(tag);
     }
@@ -196,8 +196,7 @@ int MRVPageWriter::startAnchor(QStringView html, int begin, int end)
     const QLatin1String reference("<a href=\"");
     const QLatin1String named("<a name=\"");
     const QLatin1String anchorEnd("</a>");
-    const QString tag =
-        MRVHtmlText::withoutForbiddenCharacters(html.mid(begin, end - begin).toString());
+    const QString tag = mrvXmlText(html.mid(begin, end - begin).toString());
     if (tag.startsWith(reference)) {
         const QString escaped = tag.mid(reference.size(), tag.size() - reference.size() - 2);
         const QString target = MRVHtmlText::unescaped(escaped);
@@ -296,7 +295,7 @@ void MRVPageWriter::beginParagraph(int offset, QStringView tag)
 
 void MRVPageWriter::appendText(QStringView text)
 {
-    MRVHtmlText::appendAllowed(&m_page, text);
+    mrvAppendXmlText(&m_page, text);
     if (m_paragraph.offset >= 0 && !m_paragraph.spaced && !text.isEmpty()) {
         m_paragraph.spaced =
             (m_paragraph.afterBlank && text.front() == u' ') || MRVHtmlText::hasWideSpace(text);
@@ -490,7 +489,7 @@ const QString &MRVPageWriter::rewritten(QStringView unit)
 
 QString MRVPageWriter::rewrite(const QString &unit, const QString &cellStyle)
 {
-    QString text = mrvNormalisedTag(MRVHtmlText::withoutForbiddenCharacters(unit));
+    QString text = mrvNormalisedTag(mrvXmlText(unit));
     if (text.startsWith(QLatin1String("<img"))) {
         // Its texts are prose: of the chain, what looks into styles must not see them.
         text = MRVTextXhtmlExporter::htmlToXhtml(text);

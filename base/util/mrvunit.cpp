@@ -1,5 +1,7 @@
 #include "util/mrvunit.h"
 
+#include <QPair>
+
 #include <QRegExp>
 #include <qtguiglobal.h>
 
@@ -91,6 +93,18 @@ int toInt(double value)
                       double(std::numeric_limits<int>::max())));
 }
 
+// Points and unit of a text; 0 and none where it is no measure.
+QPair<double, MRVUnit::Unit> measureOf(const QString &text)
+{
+    QString pattern;
+    int decimals = 0;
+    double value = 0.0;
+    double points = 0.0;
+    MRVUnit::Unit unit = MRVUnit::None;
+    MRVUnit::parseMeasure(text, pattern, decimals, value, points, unit);
+    return {points, unit};
+}
+
 } // namespace
 
 bool MRVUnit::parseMeasure(const QString &text, QString &pattern, int &decimals, double &value,
@@ -117,24 +131,12 @@ bool MRVUnit::parseMeasure(const QString &text, QString &pattern, int &decimals,
 
 double MRVUnit::toPoint(const QString &text)
 {
-    QString pattern;
-    int decimals = 0;
-    double value = 0.0;
-    double points = 0.0;
-    Unit unit = None;
-    parseMeasure(text, pattern, decimals, value, points, unit);
-    return points;
+    return measureOf(text).first;
 }
 
 MRVUnit::Unit MRVUnit::toUnit(const QString &text)
 {
-    QString pattern;
-    int decimals = 0;
-    double value = 0.0;
-    double points = 0.0;
-    Unit unit = None;
-    parseMeasure(text, pattern, decimals, value, points, unit);
-    return unit;
+    return measureOf(text).second;
 }
 
 double MRVUnit::toUnit(Unit to, Unit from, double value)

@@ -1,0 +1,321 @@
+#include "dom/mrvdomdoc.h"
+
+#include <QStack>
+
+#include <algorithm>
+#include <functional>
+
+// Paths: how they are taken apart, followed, and what they name removed.
+
+namespace {
+
+const QLatin1String Parent("..");
+const QLatin1String Self(".");
+
+bool isNavigation(const QString &name)
+{
+    return name == Parent || name == Self;
+}
+
+// One plain name is the path that is looked up most; it needs no taking apart.
+bool isPlainName(const QString &path)
+{
+    for (const QChar c : path) {
+        if (c == u'/' || c == u'@' || c.isSpace()) {
+            return false;
+        }
+    }
+    return !isNavigation(path);
+}
+
+} // namespace
+
+MRVDomDoc::Step MRVDomDoc::stepOf(const QStringList &parts)
+{
+    Step step;
+    step.name = parts.value(0).trimmed();
+    for (int i = 1; i < parts.size(); ++i) {
+        const QString &part = parts[i];
+        const int equals = part.indexOf(u'=');
+        if (equals < 0) {
+            step.predicates.append({part.trimmed(), QString(), false});
+        } else {
+            step.predicates.append(
+                {part.left(equals).trimmed(), part.mid(equals + 1).trimmed(), true});
+        }
+    }
+    return step;
+}
+
+bool MRVDomDoc::predicatesHold(const Step &step, const QDomElement &e)
+{
+    for (const Predicate &predicate : step.predicates) {
+        // An attribute that is missing has an empty value.
+        if (predicate.compares
+                ? e.attribute(predicate.attribute, QLatin1String("")) != predicate.value
+                : !e.hasAttribute(predicate.attribute)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MRVDomDoc::holds(const Step &step, const QDomElement &e)
+{
+    return !e.isNull()
+        && (isNavigation(step.name) || (!step.name.isEmpty() && step.name == e.tagName()))
+        && predicatesHold(step, e);
+}
+
+bool MRVDomDoc::matchElement(QDomElement e, const QStringList &parts) const
+{
+    return holds(stepOf(parts), e);
+}
+
+bool MRVDomDoc::matchElement(QDomElement e, const QString &step) const
+{
+    return matchElement(e, step.split(u'@', Qt::SkipEmptyParts));
+}
+
+const QVector<MRVDomDoc::Step> &MRVDomDoc::steps() const
+{
+    if (m_isParsed) {
+        return m_pathSteps;
+    }
+    QStringList texts = m_path.split(u'/');
+    if (texts.constLast().trimmed().isEmpty()) {
+        texts.removeLast();
+    }
+    m_isAbsolute = !texts.isEmpty() && texts.constFirst().trimmed().isEmpty();
+    if (m_isAbsolute) {
+        texts.removeFirst();
+    }
+    m_pathSteps.clear();
+    QStack<int> ways; // steps down from which nothing has led back so far
+    for (const QString &text : qAsConst(texts)) {
+        Step step = stepOf(text.split(u'@', Qt::SkipEmptyParts));
+        step.text = text;
+        const int index = m_pathSteps.size();
+        if (step.name == Parent && !ways.isEmpty()) {
+            m_pathSteps[ways.pop()].wayBack = index;
+        } else if (!isNavigation(step.name)) {
+            ways.push(index);
+        }
+        m_pathSteps.append(step);
+    }
+    m_isParsed = true;
+    return m_pathSteps;
+}
+
+QDomElement MRVDomDoc::find(const QString &path) const
+{
+    // Asking for the document element itself would cost as much as the rest.
+    const bool isEmpty =
+        !m_document.hasChildNodes() || (m_lostRoot && m_document.documentElement().isNull());
+    if (isEmpty || path.isEmpty()) {
+        m_findPosition = EmptyElement;
+        return isEmpty ? EmptyElement : m_workElement;
+    }
+    if (path != m_path) {
+        m_path = path;
+        m_isParsed = false;
+    }
+    if (isPlainName(path)) {
+        const QDomElement found = m_workElement.firstChildElement(path);
+        m_findPosition = found;
+        return found;
+    }
+    m_findPosition = EmptyElement;
+    steps();
+    if (!m_isAbsolute) {
+        QDomElement start = m_workElement;
+        return find(start, 0);
+    }
+    const QDomElement root = m_document.documentElement();
+    if (m_pathSteps.isEmpty()) {
+        return root;
+    }
+    return holds(m_pathSteps[0], root) ? resolve(root, 1, m_pathSteps.size()) : EmptyElement;
+}
+
+QDomElement MRVDomDoc::find(QDomElement &start, unsigned int index) const
+{
+    const int count = steps().size();
+    if (start.isNull() || index >= unsigned(count)) {
+        return start;
+    }
+    const QDomNode before = m_findPosition;
+    const QDomElement found = resolve(start, int(index), count);
+    if (found.isNull()) {
+        m_findPosition = before;
+    }
+    return found;
+}
+
+/*
+ * Follows the steps from index up to end. Children are tried in turn until the rest of the steps can be followed below
+ * one. A step down that a later ".." takes back only asks whether there is a child below which the steps between can be
+ * followed: which one does not matter for what comes after, so none is tried again, and a path takes time linear in
+ * the tree however often it goes down and up.
+ */
+QDomElement MRVDomDoc::resolve(QDomElement e, int index, int end) const
+{
+    while (!e.isNull() && index < end) {
+        const Step *step = &m_pathSteps[index];
+        if (!isNavigation(step->name)) {
+            if (step->wayBack < 0) {
+                return resolveBelow(e, index, end);
+            }
+            if (resolveBelow(e, index, step->wayBack).isNull()) {
+                return EmptyElement;
+            }
+            index = step->wayBack;
+            step = &m_pathSteps[index];
+        } else if (step->name == Parent) {
+            e = e.parentNode().toElement();
+        }
+        if (!holds(*step, e)) {
+            return EmptyElement;
+        }
+        ++index;
+    }
+    return e;
+}
+
+QDomElement MRVDomDoc::resolveBelow(const QDomElement &e, int index, int end) const
+{
+    const Step &step = m_pathSteps[index];
+    if (step.name.isEmpty()) {
+        return EmptyElement; // Qt would take any child
+    }
+    for (QDomElement child = e.firstChildElement(step.name); !child.isNull();
+         child = child.nextSiblingElement(step.name)) {
+        if (!predicatesHold(step, child)) {
+            continue;
+        }
+        const QDomElement found = resolve(child, index + 1, end);
+        if (!found.isNull()) {
+            if (index == 0) {
+                m_findPosition = child;
+            }
+            return found;
+        }
+    }
+    return EmptyElement;
+}
+
+QDomElement MRVDomDoc::findNext() const
+{
+    if (m_findPosition.isNull()) {
+        return EmptyElement;
+    }
+    const int count = steps().size();
+    const Step &step = m_pathSteps[0];
+    QDomElement sibling = m_findPosition.nextSiblingElement(step.name);
+    for (; !sibling.isNull(); sibling = sibling.nextSiblingElement(step.name)) {
+        if (predicatesHold(step, sibling)) {
+            const QDomElement found = resolve(sibling, 1, count);
+            if (!found.isNull()) {
+                m_findPosition = sibling;
+                return found;
+            }
+        }
+    }
+    m_findPosition = EmptyElement;
+    return EmptyElement;
+}
+
+bool MRVDomDoc::exists(const QString &path) const
+{
+    return !find(path).isNull();
+}
+
+int MRVDomDoc::remove(const QString &path, bool all)
+{
+    if (all) {
+        return removeAll(path);
+    }
+    const QDomElement found = find(path);
+    return !found.isNull() && removeElement(found) ? 1 : 0;
+}
+
+/*
+ * Removing what was found and looking again would begin at the first child each time. As removing makes nothing match
+ * that did not match before, one walk down removes the same elements in the same order. Only paths that go up on their
+ * way may name an element twice.
+ */
+int MRVDomDoc::removeAll(const QString &path)
+{
+    QDomElement found = find(path);
+    if (found.isNull()) {
+        return 0;
+    }
+    QVector<Step> walk;
+    QDomElement start = m_isAbsolute ? m_document.documentElement() : m_workElement;
+    bool isWalk = !path.isEmpty();
+    for (int i = m_isAbsolute ? 1 : 0; isWalk && i < steps().size(); ++i) {
+        const Step &step = m_pathSteps[i];
+        if (!isNavigation(step.name)) {
+            walk.append(step);
+        } else if (walk.isEmpty()) {
+            start = step.name == Parent ? start.parentNode().toElement() : start;
+        } else {
+            isWalk = step.name == Self && step.predicates.isEmpty();
+        }
+    }
+    int count = 0;
+    if (isWalk && !walk.isEmpty()) {
+        count = removeBelow(start, walk, 0);
+    } else {
+        while (!found.isNull() && removeElement(found)) {
+            ++count;
+            found = find(path);
+        }
+    }
+    m_findPosition = EmptyElement;
+    return count;
+}
+
+int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int index)
+{
+    const Step &step = walk[index];
+    int count = 0;
+    QDomElement next;
+    for (QDomElement child = e.firstChildElement(step.name); !child.isNull(); child = next) {
+        next = child.nextSiblingElement(step.name);
+        if (!predicatesHold(step, child)) {
+            continue;
+        }
+        count +=
+            index + 1 < walk.size() ? removeBelow(child, walk, index + 1) : removeElement(child);
+    }
+    return count;
+}
+
+bool MRVDomDoc::removeElement(const QDomElement &e)
+{
+    QDomNode parent = e.parentNode();
+    if (parent.isNull()) {
+        return false;
+    }
+    parent.removeChild(e);
+    m_lostRoot = m_lostRoot || parent.isDocument();
+    const auto holdsCursor = [this](const QDomElement &removed) {
+        for (QDomNode node : {QDomNode(m_workElement), QDomNode(m_workChild), m_findPosition}) {
+            while (!node.isNull() && node != removed) {
+                node = node.parentNode();
+            }
+            if (!node.isNull()) {
+                return true;
+            }
+        }
+        return false;
+    };
+    // The cursor's element would outlive the removed one, and then point to neighbours that do not.
+    m_removed.erase(std::remove_if(m_removed.begin(), m_removed.end(), std::not_fn(holdsCursor)),
+                    m_removed.end());
+    if (holdsCursor(e)) {
+        m_removed.append(e);
+    }
+    return true;
+}

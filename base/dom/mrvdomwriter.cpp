@@ -1,0 +1,369 @@
+#include "dom/mrvdomwriter_p.h"
+
+#include "core/mrvxmltext.h"
+#include "dom/mrvdomlimits.h"
+
+#include <QRegularExpression>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+using Attributes = QVector<QPair<QString, QString>>;
+
+constexpr int Indentation = 3;
+
+// What Qt's map costs for each further attribute grows with their number: the names of many are read from their text.
+bool readManyAttributes(const QDomNode &node, Attributes *attributes)
+{
+    const QDomElement element = node.toElement();
+    QString text;
+    QTextStream stream(&text);
+    element.cloneNode(false).save(stream, -1);
+    int start = text.indexOf(u' ');
+    while (start >= 0) {
+        const int end = text.indexOf(QLatin1String("=\""), start);
+        const QString name = text.mid(start, end - start).trimmed();
+        // Declarations of namespaces are no attributes.
+        if (element.hasAttribute(name)) {
+            attributes->append({name, element.attribute(name)});
+        }
+        const int close = end < 0 ? -1 : text.indexOf(u'"', end + 2);
+        start = close < 0 ? -1 : text.indexOf(u' ', close);
+    }
+    return attributes->size() == element.attributes().count();
+}
+
+void readAttributes(const QDomNode &element, Attributes *attributes)
+{
+    constexpr int Few = 32;
+    const QDomNamedNodeMap map = element.attributes();
+    const int count = map.count();
+    if (count <= Few || !readManyAttributes(element, attributes)) {
+        attributes->clear();
+        for (int i = 0; i < count; ++i) {
+            const QDomNode attribute = map.item(i);
+            attributes->append({attribute.nodeName(), attribute.nodeValue()});
+        }
+    }
+    if (count > 1) {
+        std::sort(attributes->begin(), attributes->end());
+    }
+}
+
+class Writer
+{
+public:
+    explicit Writer(QByteArray *bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    bool write(const QDomDocument &document)
+    {
+        QDomNode first = document.firstChild();
+        if (isDeclaration(first)) {
+            writeInstruction(first.nodeName(), declaration(first.nodeValue()));
+            endLine(false);
+            first = first.nextSibling();
+        }
+        writeRare(document.doctype());
+        const bool isWritten = writeSiblings(first, 0);
+        flush();
+        return isWritten;
+    }
+
+private:
+    static bool isDeclaration(const QDomNode &node)
+    {
+        return node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml");
+    }
+    // What text is made of: beside these, white space would become a part of it.
+    static bool isText(const QDomNode &node)
+    {
+        const QDomNode::NodeType type = node.nodeType();
+        return type == QDomNode::TextNode || type == QDomNode::CDATASectionNode
+            || type == QDomNode::EntityReferenceNode;
+    }
+
+    bool writeSiblings(const QDomNode &first, int depth)
+    {
+        QDomNode next;
+        bool isAfterText = false;
+        for (QDomNode node = first; !node.isNull(); node = next) {
+            next = node.nextSibling();
+            if (!writeNode(node, depth, isAfterText, isText(next))) {
+                return false;
+            }
+            isAfterText = isText(node);
+        }
+        return true;
+    }
+
+    bool writeNode(const QDomNode &node, int depth, bool isAfterText, bool isBeforeText)
+    {
+        switch (node.nodeType()) {
+        case QDomNode::ElementNode:
+            if (depth >= MRVDomLimits::MaxDepth) {
+                return false;
+            }
+            indent(isAfterText ? 0 : depth);
+            if (!writeElement(node, depth)) {
+                return false;
+            }
+            endLine(isBeforeText);
+            break;
+        case QDomNode::TextNode:
+            writeEscaped(node.nodeValue(), Place::Text);
+            break;
+        case QDomNode::CDATASectionNode:
+            m_text += QLatin1String("<![CDATA[");
+            mrvAppendXmlText(
+                &m_text,
+                node.nodeValue().replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>")));
+            m_text += QLatin1String("]]>");
+            break;
+        case QDomNode::CommentNode:
+            indent(isAfterText ? 0 : depth);
+            writeComment(node.nodeValue());
+            endLine(isBeforeText);
+            break;
+        case QDomNode::EntityReferenceNode:
+            m_text += u'&' + node.nodeName() + u';';
+            break;
+        case QDomNode::ProcessingInstructionNode:
+            writeInstruction(node.nodeName(), node.nodeValue());
+            endLine(isBeforeText);
+            break;
+        case QDomNode::DocumentTypeNode:
+            break; // stands before all else
+        default:
+            writeRare(node);
+        }
+        return true;
+    }
+
+    bool writeElement(const QDomNode &element, int depth)
+    {
+        const QString name = element.nodeName();
+        const int outerNamespaces = m_namespaces.size();
+        m_text += u'<';
+        m_text += name;
+        declareNamespace(element);
+        if (element.hasAttributes()) {
+            writeAttributes(element);
+        }
+        const bool isWritten = writeContent(element, name, depth);
+        m_namespaces.resize(outerNamespaces);
+        return isWritten;
+    }
+
+    bool writeContent(const QDomNode &element, const QString &name, int depth)
+    {
+        const QDomNode first = element.firstChild();
+        if (first.isNull()) {
+            m_text += QLatin1String("/>");
+            return true;
+        }
+        m_text += u'>';
+        if (!isText(first)) {
+            m_text += u'\n';
+        }
+        if (!writeSiblings(first, depth + 1)) {
+            return false;
+        }
+        indent(isText(element.lastChild()) ? 0 : depth);
+        m_text += QLatin1String("</");
+        m_text += name;
+        m_text += u'>';
+        return true;
+    }
+
+    void writeAttributes(const QDomNode &element)
+    {
+        m_attributes.clear();
+        readAttributes(element, &m_attributes);
+        if (!m_namespaces.isEmpty() || element.attributes().item(0).localName().size() > 0) {
+            declareAttributeNamespaces(element.attributes());
+        }
+        for (const QPair<QString, QString> &attribute : qAsConst(m_attributes)) {
+            m_text += u' ';
+            m_text += attribute.first;
+            m_text += QLatin1String("=\"");
+            writeEscaped(attribute.second, Place::Attribute);
+            m_text += u'"';
+        }
+    }
+
+    // Elements of documents that were read with their namespaces know these, and have no attributes that declare them.
+    void declareNamespace(const QDomNode &node)
+    {
+        const QString uri = node.namespaceURI();
+        if (uri.isEmpty()) {
+            return;
+        }
+        const QString prefix = node.prefix();
+        const auto declared =
+            std::find_if(m_namespaces.crbegin(), m_namespaces.crend(),
+                         [&](const auto &known) { return known.first == prefix; });
+        if (declared == m_namespaces.crend() || declared->second != uri) {
+            m_namespaces.append({prefix, uri});
+            m_text += prefix.isEmpty() ? QStringLiteral(" xmlns=\"")
+                                       : QLatin1String(" xmlns:") + prefix + QLatin1String("=\"");
+            writeEscaped(uri, Place::Attribute);
+            m_text += u'"';
+        }
+    }
+
+    void declareAttributeNamespaces(const QDomNamedNodeMap &attributes)
+    {
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QDomNode attribute = attributes.item(i);
+            if (attribute.prefix() != QLatin1String("xml")) {
+                declareNamespace(attribute);
+            }
+        }
+    }
+
+    void writeComment(QString comment)
+    {
+        m_text += QLatin1String("<!--");
+        while (comment.contains(QLatin1String("--"))) {
+            comment.replace(QLatin1String("--"), QLatin1String("- -"));
+        }
+        mrvAppendXmlText(&m_text, comment);
+        if (comment.endsWith(u'-')) {
+            m_text += u' '; // a comment must not end in "--->"
+        }
+        m_text += QLatin1String("-->");
+    }
+
+    void writeInstruction(const QString &target, QString data)
+    {
+        m_text += QLatin1String("<?") + target + u' ';
+        mrvAppendXmlText(&m_text, data.replace(QLatin1String("?>"), QLatin1String("? >")));
+        m_text += QLatin1String("?>");
+    }
+
+    // The pseudo-attributes of the declaration, with the encoding that is written.
+    static QString declaration(QString data)
+    {
+        static const QRegularExpression encoding(
+            QStringLiteral("encoding\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
+        static const QRegularExpression version(
+            QStringLiteral("^\\s*version\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
+        if (encoding.match(data).hasMatch()) {
+            return data.replace(encoding, QStringLiteral("encoding=\"UTF-8\""));
+        }
+        return data.replace(version, QStringLiteral("version=\\1 encoding=\"UTF-8\""));
+    }
+
+    void writeRare(const QDomNode &node)
+    {
+        QString text;
+        QTextStream stream(&text);
+        node.save(stream, Indentation);
+        mrvAppendXmlText(&m_text, text);
+    }
+
+    enum class Place { Text, Attribute };
+
+    void writeEscaped(const QString &value, Place place)
+    {
+        const QString text = mrvXmlText(value);
+        const QChar *const characters = text.constData();
+        const int size = text.size();
+        if (text.startsWith(u'>') || text.startsWith(QLatin1String("]>"))) {
+            closeBrackets();
+        }
+        int done = 0;
+        for (int i = 0; i < size; ++i) {
+            const ushort c = characters[i].unicode();
+            if (c > '>') {
+                continue; // as most are
+            }
+            const QLatin1String entity = entityFor(characters, i, place);
+            if (entity.size() > 0) {
+                m_text.append(characters + done, i - done);
+                m_text += entity;
+                done = i + 1;
+            }
+        }
+        m_text.append(characters + done, size - done);
+    }
+
+    // Two texts side by side must not make the end of a section, either.
+    void closeBrackets()
+    {
+        if (m_text.endsWith(u']')) {
+            m_text.chop(1);
+            m_text += QLatin1String("&#x5d;");
+        }
+    }
+
+    static QLatin1String entityFor(const QChar *text, int i, Place place)
+    {
+        switch (text[i].unicode()) {
+        case '<':
+            return QLatin1String("&lt;");
+        case '&':
+            return QLatin1String("&amp;");
+        case '>':
+            return i >= 2 && text[i - 1] == u']' && text[i - 2] == u']' ? QLatin1String("&gt;")
+                                                                        : QLatin1String();
+        case '"':
+            return place == Place::Attribute ? QLatin1String("&quot;") : QLatin1String();
+        case '\t':
+            return place == Place::Attribute ? QLatin1String("&#x9;") : QLatin1String();
+        case '\n':
+            return place == Place::Attribute ? QLatin1String("&#xa;") : QLatin1String();
+        case '\r':
+            return QLatin1String("&#xd;");
+        default:
+            return QLatin1String();
+        }
+    }
+
+    void indent(int depth)
+    {
+        static const QString blanks(MRVDomLimits::MaxDepth * Indentation, u' ');
+        m_text.append(blanks.constData(), depth * Indentation);
+    }
+
+    void endLine(bool isBeforeText)
+    {
+        constexpr int Chunk = 1 << 16;
+        if (!isBeforeText) {
+            m_text += u'\n';
+        }
+        if (m_text.size() > Chunk) {
+            flush();
+        }
+    }
+
+    void flush()
+    {
+        *m_bytes += m_text.toUtf8();
+        m_text.resize(0);
+    }
+
+    QByteArray *m_bytes;
+    QString m_text;
+    Attributes m_attributes;
+    Attributes m_namespaces; // declared around, the innermost last: prefix and name
+};
+
+} // namespace
+
+Attributes mrvSortedAttributes(const QDomElement &element)
+{
+    Attributes attributes;
+    readAttributes(element, &attributes);
+    return attributes;
+}
+
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes)
+{
+    return Writer(bytes).write(document);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDomDocument>
+#include <QPair>
+#include <QString>
+#include <QVector>
+
+/** The attributes of an element, by name in ascending order, whatever order Qt keeps them in. */
+QVector<QPair<QString, QString>> mrvSortedAttributes(const QDomElement &element);
+
+/**
+ * Writes a document as UTF-8, laid out as QDomNode::save() does with an indentation of three blanks. Other than there,
+ * attributes are sorted, what XML cannot hold is left out, an encoding in the declaration becomes UTF-8, and no line ends
+ * stand beside references to entities or between an instruction and a text, where they would become text.
+ *
+ * @return false when elements are nested more deeply than MRVDomLimits::MaxDepth.
+ */
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes);

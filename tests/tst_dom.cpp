@@ -1,0 +1,633 @@
+#include "datarows.h"
+#include "dom/mrvdomdoc.h"
+#include "dom/mrvdomobject.h"
+#include "support.h"
+
+#include <QBuffer>
+#include <QtTest>
+
+#include <functional>
+#include <random>
+
+namespace {
+
+// "r1(a2[id=7],b3)": elements with their tag, a number that becomes the attribute n, attributes, and children.
+QString documentOf(QString notation)
+{
+    static const QRegularExpression element("([a-zA-Z]+)(\\d+)((?:\\[[^]]*\\])*)(\\(|(?=[,)]|$))");
+    static const QRegularExpression attribute("\\[(\\w+)=([^]]*)\\]");
+    QString xml;
+    QStringList open;
+    for (int i = 0; i < notation.size();) {
+        const auto match = element.match(notation, i, QRegularExpression::NormalMatch,
+                                         QRegularExpression::AnchoredMatchOption);
+        if (!match.hasMatch()) {
+            if (notation[i++] == ')')
+                xml += "</" + open.takeLast() + '>';
+            continue;
+        }
+        xml += '<' + match.captured(1) + " n='" + match.captured(2) + '\''
+            + match.captured(3).replace(attribute, " \\1='\\2'");
+        if (match.captured(4).isEmpty()) {
+            xml += "/>";
+        } else {
+            open << match.captured(1);
+            xml += '>';
+        }
+        i = match.capturedEnd();
+    }
+    return xml;
+}
+
+QDomElement byNumber(const QDomElement &e, const QString &n)
+{
+    if (e.attribute("n") == n)
+        return e;
+    for (QDomElement c = e.firstChildElement(); !c.isNull(); c = c.nextSiblingElement()) {
+        const QDomElement found = byNumber(c, n);
+        if (!found.isNull())
+            return found;
+    }
+    return {};
+}
+
+// A second reading of the path rules, word for word, without any care for time.
+struct NaivePaths
+{
+    QDomElement root, work;
+    QStringList steps;
+    QDomNode position;
+
+    static bool matches(const QDomElement &e, const QStringList &parts)
+    {
+        if (e.isNull() || parts.isEmpty())
+            return false;
+        const QString name = parts[0].trimmed();
+        if (name != "." && name != ".." && name != e.tagName())
+            return false;
+        for (const QString &part : parts.mid(1)) {
+            const QString key = part.section('=', 0, 0).trimmed();
+            if (part.contains('=') ? e.attribute(key, "") != part.section('=', 1).trimmed()
+                                   : !e.hasAttribute(key))
+                return false;
+        }
+        return true;
+    }
+    QDomElement find(const QDomElement &start, int index)
+    {
+        if (start.isNull() || index >= steps.size())
+            return start;
+        const QStringList parts = steps[index].split('@', Qt::SkipEmptyParts);
+        const QString name = parts.value(0).trimmed();
+        if (name == ".." || name == ".") {
+            const QDomElement candidate = name == "." ? start : start.parentNode().toElement();
+            return matches(candidate, parts) ? find(candidate, index + 1) : QDomElement();
+        }
+        for (QDomNode c = start.firstChild(); !c.isNull(); c = c.nextSibling()) {
+            if (!matches(c.toElement(), parts))
+                continue;
+            const QDomElement found = find(c.toElement(), index + 1);
+            if (!found.isNull()) {
+                if (index == 0)
+                    position = c;
+                return found;
+            }
+        }
+        return {};
+    }
+    QDomElement find(const QString &path)
+    {
+        position.clear();
+        if (root.isNull() || path.isEmpty())
+            return root.isNull() ? root : work;
+        steps = path.split('/');
+        if (steps.last().trimmed().isEmpty())
+            steps.removeLast();
+        if (steps.isEmpty() || !steps[0].trimmed().isEmpty())
+            return find(work, 0);
+        steps.removeFirst();
+        if (!steps.isEmpty() && !matches(root, steps[0].split('@', Qt::SkipEmptyParts)))
+            return {};
+        return find(root, 1);
+    }
+    QDomElement findNext()
+    {
+        while (!position.isNull()) {
+            position = position.nextSibling();
+            if (matches(position.toElement(), steps[0].split('@', Qt::SkipEmptyParts))) {
+                const QDomElement found = find(position.toElement(), 1);
+                if (!found.isNull())
+                    return found;
+            }
+        }
+        return {};
+    }
+};
+
+QByteArray saved(const MRVDomDoc &doc)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return doc.save(buffer) ? buffer.data() : QByteArray("refused");
+}
+
+// A document element with a text, to be read by path "e".
+void setValue(MRVDomDoc *doc, const QString &text)
+{
+    doc->setRoot("r");
+    doc->append("e", text);
+    doc->currentElement().setAttribute("k", text);
+}
+
+template<typename T>
+QString textsOf(const T &value)
+{
+    MRVDomDoc doc;
+    setValue(&doc, "old");
+    QString set, attribute, appended;
+    if (!doc.set(value, "e") || !doc.get(&set, "e") || !doc.setAttr("k", value))
+        return "failed";
+    if constexpr (std::is_same_v<T, QSizeF> || std::is_same_v<T, QPointF>) {
+        doc.append("new", value, 1);
+    } else {
+        doc.append("new", value);
+    }
+    doc.getAttr("k", &attribute, doc.currentElement());
+    doc.get(&appended, "new");
+    return QStringList{appended, set, attribute}.join('|');
+}
+
+// What get(), getNext() and getAttr() make of a text: value and outcome of each.
+template<typename T>
+QString readAs(const QString &text)
+{
+    MRVDomDoc doc;
+    setValue(&doc, "x");
+    doc.append("e", text);
+    doc.setAttr("k", text);
+    QString result;
+    const auto add = [&](bool ok, const T &value) {
+        QDebug(&result).noquote().nospace() << value << (ok ? "+ " : "- ");
+    };
+    T value{};
+    QDomElement second = doc.currentElement().lastChildElement();
+    add(doc.setWorkElement(second) && doc.get(&value, QString()), value);
+    doc.cdUp();
+    doc.find("e");
+    T next{};
+    add(doc.getNext(&next), next);
+    T attribute{};
+    add(doc.getAttr("k", &attribute, doc.currentElement()), attribute);
+    return result.simplified();
+}
+
+} // namespace
+
+class TestDom : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void find_data() { addRows("dompaths.tsv", {"notation", "start", "path", "expected"}); }
+    void find()
+    {
+        QFETCH(QString, notation);
+        QFETCH(QString, start);
+        QFETCH(QString, path);
+        MRVDomDoc doc;
+        QVERIFY2(doc.setContent(documentOf(notation)), qPrintable(documentOf(notation)));
+        QVERIFY(doc.setWorkElement(byNumber(doc.documentElement(), start)));
+        QStringList found;
+        for (QDomElement e = doc.find(path); !e.isNull(); e = doc.findNext())
+            found << e.attribute("n");
+        QTEST(found.join(' '), "expected");
+        QCOMPARE(doc.currentElement().attribute("n"), start);
+        QCOMPARE(doc.exists(path), !found.isEmpty());
+        QCOMPARE(doc.cd(path), !found.isEmpty());
+        QCOMPARE(doc.currentElement().attribute("n"), found.value(0, start));
+    }
+
+    // Random trees, paths and cursors against the naive reading; then removing all that a path names.
+    void findAgrees()
+    {
+        std::mt19937 random(7);
+        const auto one = [&](const QStringList &of) {
+            return of[int(random() % unsigned(of.size()))];
+        };
+        int hits = 0;
+        for (int round = 0; round < 4000; ++round) {
+            MRVDomDoc doc;
+            doc.setRoot("a");
+            QVector<QDomElement> all{doc.documentElement()};
+            for (unsigned n = random() % 14; n > 0; --n) {
+                doc.setWorkElement(all[int(random() % unsigned(all.size()))]);
+                doc.append(one({"a", "a", "b"}));
+                all << doc.currentElement().lastChildElement();
+                if (random() % 2)
+                    all.last().setAttribute("id", one({"1", "2"}));
+            }
+            doc.setWorkElement(all[int(random() % unsigned(all.size()))]);
+            QStringList steps;
+            for (unsigned n = 1 + random() % 5; n > 0; --n)
+                steps << one({"a", "b", "a", "..", "."})
+                        + one({"", "", "", "@id", "@id=1", "@id=", " "});
+            const QString path = one({"", "", "/", "/a/"}) + steps.join('/') + one({"", "/"});
+            NaivePaths naive{doc.documentElement(), doc.currentElement(), {}, {}};
+            QDomElement expected = naive.find(path);
+            QDomElement found = doc.find(path);
+            hits += !found.isNull();
+            for (; !expected.isNull() && found == expected; expected = naive.findNext())
+                found = doc.findNext();
+            QVERIFY2(found == expected, qPrintable(path + saved(doc)));
+
+            MRVDomDoc copy(doc.documentElement());
+            copy.setWorkElement(copy.documentElement());
+            doc.cdRoot();
+            NaivePaths other{copy.documentElement(), copy.currentElement(), {}, {}};
+            int count = 0;
+            for (QDomElement e = other.find(path); !e.isNull() && !e.parentNode().isNull();
+                 e = other.find(path)) {
+                e.parentNode().removeChild(e);
+                other.root = copy.documentElement();
+                ++count;
+            }
+            QCOMPARE(doc.remove(path, true), count);
+            QVERIFY2(saved(doc) == saved(copy), qPrintable(path));
+        }
+        QVERIFY2(hits > 500, qPrintable(QString::number(hits)));
+    }
+
+    // Going down and up again must not try all the ways.
+    void manyWaysUpAndDown()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent("<r>" + QString("<a/>").repeated(1000) + "</r>"));
+        QVERIFY(!doc.exists(QString("a/../").repeated(1000) + "none"));
+        QVERIFY(doc.exists(QString("a/../").repeated(1000) + "a"));
+    }
+
+    void cursor()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(documentOf("r1(i2[k=x](c3),i4,j5,i6[k=x])")));
+        QCOMPARE(doc.workChild(), QString("i"));
+        QVERIFY(doc.cd("i"));
+        QCOMPARE(doc.workElement(true), QString("i @k=\"x\" @n=\"2\""));
+        QCOMPARE(doc.workPath(), QString("/r/i"));
+        QCOMPARE(doc.workChild(true), QString("c @n=\"3\""));
+        QStringList visited;
+        do {
+            visited << doc.currentElement().attribute("n");
+        } while (doc.cdNext("/any/i"));
+        QCOMPARE(visited.join(' '), QString("2 4 6"));
+        QCOMPARE(doc.workPath(true), QString("/r @n=\"1\"")); // back on the parent
+        QVERIFY(!doc.cdNext("") && doc.cdUp(0) && doc.cdUp(-1) && !doc.cdUp(1) && !doc.cd(".."));
+        QVERIFY(doc.setChild("//j@n=5/whatever") && doc.workChild() == "j");
+        QVERIFY(!doc.setChild("..") && !doc.setChild("/") && !doc.setChild("none"));
+        QVERIFY(doc.cd("i/c") && !doc.cdUp(3) && doc.workPath() == "/r");
+        QVERIFY(!doc.setWorkElement(QDomElement()) && !MRVDomDoc().cdRoot());
+        QVERIFY(MRVDomDoc::EmptyElement.isNull() && doc.find("none") == MRVDomDoc::EmptyElement);
+        const QDomElement i = doc.find("i@k=x");
+        QVERIFY(doc.matchElement(i, "i@k=x@n") && doc.matchElement(i, QStringList{"..", "n=2"}));
+        QVERIFY(!doc.matchElement(i, QStringList()) && !doc.matchElement(QDomElement(), "i"));
+    }
+
+    void structure()
+    {
+        MRVDomDoc doc;
+        for (const char *name : {"", "a/b", "a@x=1", "x=", ".", ".."})
+            QVERIFY(!doc.append(name, "t") && !doc.insert(name, "t") && !doc.prepend(name)
+                    && !doc.create(name));
+        QVERIFY(doc.append("r") && doc.workElement() == "r" && doc.workChild().isEmpty());
+        QVERIFY(doc.append("b") && doc.workChild() == "b");
+        QVERIFY(doc.append("d") && doc.workChild() == "b");
+        QVERIFY(doc.insert("c") && doc.workChild() == "c");
+        QVERIFY(doc.insert("bb", "t", true) && doc.workChild() == "bb");
+        QVERIFY(doc.prepend("a") && doc.workChild() == "bb");
+        QVERIFY(doc.create("e") && doc.workPath() == "/r/e" && doc.workChild().isEmpty());
+        QVERIFY(doc.prepend("f", "1") && doc.workChild() == "f");
+        QVERIFY(doc.append(doc.find("/r/bb")) && doc.workChild() == "bb");
+        QCOMPARE(
+            saved(doc).simplified(),
+            QByteArray("<r> <a/> <b/> <bb>t</bb> <c/> <d/> <e> <f>1</f> <bb>t</bb> </e> </r>"));
+        doc.cdRoot();
+        QCOMPARE(doc.createPath("e/g/ h "), 3);
+        QCOMPARE(doc.workPath(), QString("/r/e/g/h"));
+        QVERIFY(doc.createPath("a@x=1") == 0 && doc.createPath("") == 0);
+        QCOMPARE(doc.createPath("/r/e/i"), 3); // deliberate: from the work element
+        QCOMPARE(doc.workPath(), QString("/r/e/g/h/r/e/i"));
+        QVERIFY(doc.remove("/r/b") == 1 && doc.remove("/r/b") == 0 && doc.remove("/", true) == 1);
+        const QDomElement made = doc.createElement("e@k=v@ l @", "t");
+        QVERIFY(made.text() == "t" && made.attribute("k") == "t" && made.attribute("l") == "t");
+        QVERIFY(doc.setRoot("root@version=2") && doc.workChild().isEmpty());
+        QCOMPARE(saved(doc), QByteArray("<root version=\"\"/>\n"));
+        doc.currentElement() = MRVDomDoc::EmptyElement;
+        QVERIFY(!doc.append("second") && !doc.create("second")
+                && !doc.append(doc.documentElement()));
+        QVERIFY(doc.setContent(documentOf("r1(a2,a3,b4)")) && doc.remove("./a@n", true) == 2);
+        QVERIFY(doc.setContent(doc.currentElement()) && doc.exists("/r/b"));
+        MRVDomDoc copy;
+        QVERIFY(copy.append(doc.currentElement()) && copy.workPath() == "/r"
+                && !MRVDomDoc().append(doc.document()));
+        QCOMPARE(copy.createPath(QString("a/").repeated(5000)), 999);
+    }
+
+    // What the cursor is on may be removed with all that is around it, or replaced.
+    void cursorOutlivesRemoval()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(documentOf("r1(a2(b3(c5),b4),a6)")));
+        QVERIFY(doc.cd("a/b"));
+        QCOMPARE(doc.remove("/r/a", true), 2);
+        QVERIFY(doc.workPath() == "/a/b" && doc.cdNext("b") && doc.cdUp(1) && doc.cd("b/c"));
+        QVERIFY(doc.setContent(documentOf("r1(a2,a3)")) && doc.exists("a"));
+        QVERIFY(doc.setContent(QString("<r/>")));
+        QVERIFY(doc.findNext().isNull());
+    }
+
+    void writesValues_data()
+    {
+        QTest::addColumn<QString>("texts"); // appended, set, as attribute
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("int") << textsOf(-7) << "-7|-7|-7";
+        QTest::newRow("unsigned long")
+            << textsOf(18446744073709551615UL)
+            << QStringList(QStringList::fromVector({3, "18446744073709551615"})).join('|');
+        QTest::newRow("float") << textsOf(1.5F) << "1.500000|1.5|1.5";
+        QTest::newRow("double") << textsOf(1234567.0) << "1.23457e+06|1.23457e+06|1.23457e+06";
+        QTest::newRow("bool") << textsOf(true) << "true|true|true";
+        QTest::newRow("QSize") << textsOf(QSize(640, -1)) << "640,-1|640,-1|640,-1";
+        QTest::newRow("QSizeF") << textsOf(QSizeF(10, 2.5)) << "10.0,2.5|10.000,2.500|10.000,2.500";
+        QTest::newRow("QPointF") << textsOf(QPointF(-1, 0)) << "-1.0,0.0|-1.000,0.000|-1.000,0.000";
+        QTest::newRow("list") << textsOf(QStringList{"a", "", "b"}) << "a,,b|a,,b|a,,b";
+        QTest::newRow("forbidden") << textsOf(QString("a\x01\uFFFE") + QChar(0xD800)) << "a|a|a";
+        const QDateTime time({2020, 2, 29}, {1, 2, 3}, Qt::OffsetFromUTC, 3600);
+        QTest::newRow("date")
+            << textsOf(time)
+            << QStringList(QStringList::fromVector({3, "2020-02-29T01:02:03+01:00"})).join('|');
+    }
+    void writesValues()
+    {
+        QFETCH(QString, texts);
+        QTEST(texts, "expected");
+    }
+
+    void readsValues_data()
+    {
+        QTest::addColumn<QString>("read"); // by get(), getNext() and getAttr()
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("int") << readAs<int>(" 12 ") << "12+ 12+ 12+";
+        QTest::newRow("no int") << readAs<int>("12abc") << "0- 0- 0-";
+        QTest::newRow("too large") << readAs<short>("32768") << "0- 0- 0-";
+        QTest::newRow("double") << readAs<double>("-1.5e3") << "-1500+ -1500+ -1500+";
+        QTest::newRow("yes") << readAs<bool>(" YES ") << "true+ true+ true+";
+        QTest::newRow("no bool") << readAs<bool>("1") << "false- false- false-";
+        QTest::newRow("size") << readAs<QSize>("640 , 480")
+                              << "QSize(640, 480)+ QSize(640, 480)+ QSize(640, 480)+";
+        QTest::newRow("no point") << readAs<QPointF>("1")
+                                  << "QPointF(0,0)- QPointF(0,0)- QPointF(0,0)-";
+        QTest::newRow("list") << readAs<QStringList>("a,,b") << "(a, b)+ (a, b)+ (a, b)+";
+        QTest::newRow("empty text") << readAs<int>("") << "0- 0- 0-";
+        const QString date = "QDateTime(2020-02-29 01:02:03.000 UTC Qt::UTC)+";
+        QTest::newRow("date") << readAs<QDateTime>("2020-02-29T01:02:03+05:00")
+                              << QString("%1 %1 %1").arg(date);
+    }
+    void readsValues()
+    {
+        QFETCH(QString, read);
+        QTEST(read, "expected");
+    }
+
+    void valueParticularities()
+    {
+        MRVDomDoc doc;
+        doc.setContent(QString("<r><a>x<b>y</b>z</a><b><c/></b><l>p;q</l><t>Ja</t></r>"));
+        QString text = "kept";
+        QVERIFY(doc.get(&text, "a") && text == "xyz");
+        QVERIFY(doc.get(&text, "b") && text.isEmpty() && !doc.set("t", "b"));
+        QVERIFY(!doc.get(&text, "none") && text.isNull() && !doc.set("t", "none"));
+        QVERIFY(doc.set("new", "a") && doc.get(&text, "a") && text == "newyz");
+        int number = 7;
+        bool flag = true;
+        QStringList list{"old"};
+        QVERIFY(!doc.get(&number, "none") && number == 7 && !doc.get(&flag, "none") && flag);
+        QVERIFY(!doc.get(&list, "none") && list.isEmpty());
+        doc.find("l");
+        QVERIFY(!doc.getNext(&text) && text == "newyz");
+        char buffer[6] = "zzzzz";
+        QVERIFY(doc.get(buffer, 4, "a") && QByteArray(buffer, 5) == "new0z");
+        QVERIFY(!doc.get(buffer, 0, "a") && !doc.get(buffer, 4, "none")
+                && QByteArray(buffer, 5) == "new0z");
+        QVERIFY(doc.set("ab", "a/b") && doc.get(buffer, 5, "a/b")
+                && QByteArray(buffer, 6)
+                    == QByteArray("ab\0\0"
+                                  "0\0",
+                                  6));
+
+        const QDomElement root = doc.currentElement();
+        QVERIFY(!doc.setAttr("a", 5, "", false) && !root.hasAttribute("a"));
+        QVERIFY(doc.setAttr("a", 5) && doc.setAttr("a", "TRUE", "", false));
+        QVERIFY(doc.getAttr("a", &flag, root) && flag
+                && doc.getAttr("a", static_cast<QString *>(nullptr), root));
+        QVERIFY(doc.setAttr("a", 5, "none", true) && !doc.setAttr("a", 5, "none", false)
+                && !doc.setAttr("", 5));
+        QVERIFY(!doc.getAttr("none", &text, root) && !doc.getAttr("a", &text, QDomElement()));
+        doc.setTrueString("Ja");
+        doc.setFalseString("Nein");
+        QVERIFY(doc.get(&flag, "t") && flag && doc.set(false, "t") && doc.get(&flag, "t") && !flag);
+        QVERIFY(doc.setAttr("a", true) && !doc.getAttr("a", &flag, root) && !flag);
+        QVERIFY(doc.getAttr("a", &list, root, "a") && list == QStringList("J"));
+        const QDateTime noon({2021, 3, 4}, {12, 0}, Qt::LocalTime);
+        QDateTime read;
+        QVERIFY(doc.append("d", noon, "yyyy/MM/dd hh.mm") && doc.get(&text, "d")
+                && text == "2021/03/04 12.00");
+        QVERIFY(doc.get(&read, "d", "yyyy/MM/dd hh.mm")
+                && read == QDateTime({2021, 3, 4}, {12, 0}, Qt::UTC));
+        QVERIFY(!doc.get(&read, "d") && !read.isValid());
+        // An hour that local time lacks.
+        qputenv("TZ", "Europe/Berlin");
+        QVERIFY(doc.set(QDateTime({2020, 3, 29}, {2, 30}, Qt::UTC), "d", "dd.MM.yyyy hh:mm"));
+        QVERIFY(doc.get(&read, "d", "dd.MM.yyyy hh:mm") && read.time() == QTime(2, 30));
+        qunsetenv("TZ");
+    }
+
+    void savesAndLoads()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath("a.xml");
+        const QString latin = "<?xml version='1.0' encoding='ISO-8859-1' "
+                              "standalone='yes'?>\n<!DOCTYPE r SYSTEM \"r.dtd\">\n"
+                              "<r b=\"\u00e4&#10;\" a=\"1\" c=\"2\"><e>t</e><f><g/></f></r>";
+        writeBytes(path, latin.toLatin1());
+        MRVDomDoc doc(path);
+        QCOMPARE(doc.errorMessage(), QString("MRVDomDoc::load() ok "));
+        QCOMPARE(doc.fileName(), path);
+        QVERIFY(doc.save(folder.filePath("b.xml")) && doc.fileName() == path);
+        QCOMPARE(bytesOf(folder.filePath("b.xml")),
+                 QString("<?xml version='1.0' encoding=\"UTF-8\" standalone='yes'?>\n<!DOCTYPE r "
+                         "SYSTEM 'r.dtd'>\n"
+                         "<r a=\"1\" b=\"\u00e4&#xa;\" c=\"2\">\n   <e>t</e>\n   <f>\n      <g/>\n "
+                         "  </f>\n</r>\n")
+                     .toUtf8());
+        QVERIFY(!doc.load(folder.filePath("none")) && doc.exists("/r"));
+        QCOMPARE(doc.errorMessage(), "File not found: " + folder.filePath("none"));
+        QString error;
+        QVERIFY(!doc.save(folder.filePath("no/b.xml"), &error) && error.contains("no/b.xml"));
+        QFile full("/dev/full");
+        QVERIFY(full.open(QIODevice::WriteOnly) && !doc.save(full));
+        writeBytes(path, "<r>\n<e></r>");
+        QVERIFY(!doc.load(path) && !doc.exists("/") && doc.currentElement().isNull());
+        QVERIFY(doc.errorMessage() == "MRVDomDoc::load() failed " && doc.errorLine() == 2
+                && doc.errorColumn() > 0);
+        writeBytes(path, "<r>\n \xff</r>");
+        QFile file(path);
+        QVERIFY(!doc.setContent(&file) && doc.errorLine() == 2 && doc.errorColumn() == 2);
+        QVERIFY(!doc.setContent(static_cast<QIODevice *>(nullptr)));
+        QByteArray wide =
+            QTextCodec::codecForName("UTF-16LE")
+                ->fromUnicode(QString("<?xml version='1.0' encoding='UTF-16'?><r>\u4e2d</r>"));
+        QBuffer buffer(&wide);
+        QVERIFY(doc.setContent(&buffer) && doc.documentElement().text() == "\u4e2d"
+                && doc.errorLine() == -1);
+        // Saving and loading again adds no white space to texts.
+        QVERIFY(doc.setContent("<!DOCTYPE r SYSTEM 'r.dtd'><r>a<?p d?>b<b><?p "
+                               "d?></b>&nbsp;<!--c-->d<i/>e<![CDATA[f]]></r>"));
+        const QByteArray first = saved(doc);
+        QVERIFY(doc.setContent(QString(first)) && doc.documentElement().text() == "abdef");
+        QCOMPARE(saved(doc), first);
+        // What Qt's parser gets wrong.
+        QVERIFY(doc.setContent(QString(QChar(QChar::ByteOrderMark))
+                               + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;\x01&#1;<!--&#1;--></r>"));
+        QCOMPARE(doc.documentElement().text(), QString("\U0001F600\na\nb\r"));
+        QCOMPARE(doc.documentElement().attribute("a"), QString("\U0001F600"));
+        // What would end too early, or be declared nowhere.
+        QVERIFY(doc.setContent(QString("<r><![CDATA[old]]></r>")) && doc.set("a]]>b"));
+        QDomNode root = doc.currentElement();
+        QDomDocument dom = doc.document();
+        root.appendChild(dom.createTextNode("]]"));
+        root.appendChild(dom.createTextNode("><"));
+        root.appendChild(dom.createComment("a---b-"));
+        root.appendChild(dom.createProcessingInstruction("p", "x?>y"));
+        QDomDocument spaces;
+        QVERIFY(spaces.setContent(
+            QString("<p:a xmlns:p='urn:x' xmlns='urn:y'><b/><p:c p:k='v'/></p:a>"), true));
+        QVERIFY(doc.append(spaces.documentElement()));
+        QVERIFY(doc.setContent(QString::fromUtf8(saved(doc)))
+                && doc.documentElement().text() == "a]]>b]]><");
+        QCOMPARE(doc.find("p:a/b").attribute("xmlns"), QString("urn:y"));
+        QCOMPARE(doc.find("p:a").attribute("xmlns:p"), QString("urn:x"));
+        QVERIFY(!doc.find("p:a/p:c").hasAttribute("xmlns:p"));
+        // Many attributes come out sorted, too.
+        doc.setRoot("r");
+        QByteArray expected = "<r";
+        for (int i = 1000; i < 1100; ++i) {
+            doc.setAttr('k' + QString::number(i), "<\"&\t>");
+            expected += " k" + QByteArray::number(i) + "=\"&lt;&quot;&amp;&#x9;>\"";
+        }
+        QCOMPARE(saved(doc), expected + "/>\n");
+    }
+
+    void refusesHostile_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<bool>("loads");
+        const auto nested = [](int n) {
+            return QString("<a b='>'>").repeated(n) + "<!--<c>--><![CDATA[<c>]]><?c <c>?>"
+                + QString("</a>").repeated(n);
+        };
+        const auto own = [](const QString &declarations, const QString &body) {
+            return "<!DOCTYPE r [" + declarations + "]><r>" + body + "</r>";
+        };
+        const QString kilo = QString("x").repeated(1000);
+        QTest::newRow("deep") << nested(1000) << true;
+        QTest::newRow("too-deep") << nested(1001) << false;
+        QTest::newRow("far-too-deep") << QString("<a>").repeated(1000000) << false;
+        QTest::newRow("deep-with-declarations") << own("<!ENTITY a 'b'>", nested(999)) << true;
+        QTest::newRow("too-deep-with-declarations")
+            << own("<!ENTITY a 'b'>", nested(1000)) << false;
+        QTest::newRow("entity") << own("<!ENTITY a 'b'>", "&a;&a;&lt;") << true;
+        QTest::newRow("repeated") << own("<!ENTITY a '" + kilo + "'>",
+                                         QString("&a;").repeated(100000))
+                                  << false;
+        QTest::newRow("repeated-in-attributes")
+            << own("<!ENTITY a '" + kilo + "'>", QString("<b c='&a;'/>").repeated(50000)) << false;
+        QTest::newRow("markup") << own("<!ENTITY a '" + QString("<b/>").repeated(1000) + "'>",
+                                       QString("&a;").repeated(50000))
+                                << false;
+        QTest::newRow("nested") << own(
+            "<!ENTITY a '" + kilo + "'><!ENTITY b '" + QString("&a;").repeated(1000)
+                + "'><!ENTITY c '" + QString("&b;").repeated(1000) + "'>",
+            "&c;") << false;
+        QTest::newRow("deep-by-entities")
+            << own("<!ENTITY a '" + nested(900) + "'>",
+                   "<r>" + nested(90) + "</r>" + QString("<r>").repeated(200) + "&a;"
+                       + QString("</r>").repeated(200))
+            << false;
+        QTest::newRow("recursive") << own("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;") << false;
+        QTest::newRow("parameters") << "<!DOCTYPE r [<!ENTITY % p '"
+                + QString("<!-- x -->").repeated(1000) + "'>" + QString("%p;\n").repeated(50000)
+                + "]><r/>" << false;
+        const QString own1 = "<?xml version='1.1'?>" + own("<!ENTITY a 'b<b/>'>", "&a;");
+        QTest::newRow("xml-1.1") << own1 << true;
+        QTest::newRow("xml-1.1-deep") << QString(own1).replace("&a;", nested(1000)) << false;
+        QTest::newRow("xml-1.1-long")
+            << QString(own1).replace("&a;", QString("&a;").repeated(100000)) << false;
+        QTest::newRow("external") << own("<!ENTITY a SYSTEM 'file:///etc/hostname'>", "t&a;")
+                                  << false;
+        QTest::newRow("repeated-attribute") << "<r a='1' b='<' a = \"2\"/>" << false;
+        QTest::newRow("many-entities")
+            << own(QString("<!ENTITY a 'b'>").repeated(2001), "") << false;
+        QTest::newRow("many-attributes")
+            << own("<!ATTLIST r " + QString("a CDATA 'x' ").repeated(30000) + ">", "") << false;
+        QTest::newRow("small-parameters") << "<!DOCTYPE r [<!ENTITY % x ''>%x;%x;]><r/>" << true;
+        QTest::newRow("undeclared") << "<!DOCTYPE r SYSTEM 'r.dtd'><r>a&nbsp;b</r>" << true;
+        QTest::newRow("empty") << "" << false;
+    }
+    void refusesHostile()
+    {
+        QFETCH(QString, xml);
+        MRVDomDoc doc;
+        QTEST(doc.setContent(xml), "loads");
+        QCOMPARE(doc.errorMessage().isEmpty(), doc.exists("/"));
+        QCOMPARE(doc.errorLine() > 0 && doc.errorColumn() > 0, !doc.exists("/"));
+    }
+
+    // Nothing is saved that could not be loaded again.
+    void refusesToSaveTooDeep()
+    {
+        MRVDomDoc doc;
+        for (int i = 0; i < MRVDomLimits::MaxDepth; ++i)
+            doc.create("a");
+        doc.append("b", "t");
+        QCOMPARE(saved(doc), QByteArray("refused"));
+        doc.remove("b");
+        doc.set("text");
+        MRVDomDoc again;
+        QVERIFY(again.setContent(QString::fromUtf8(saved(doc))));
+    }
+
+    void objects()
+    {
+        struct Chapter : MRVDomObject
+        {
+            QString title;
+            bool loadFromDomDoc(MRVDomDoc &doc) override { return doc.get(&title, "title"); }
+            bool saveToDomDoc(MRVDomDoc &doc) const override
+            {
+                doc.setRoot("chapter");
+                doc.document().appendChild(doc.document().createComment("after"));
+                return doc.append("title", title) && !title.isEmpty();
+            }
+        };
+        Chapter chapter, again;
+        QVERIFY(chapter.saveToDomElement().isNull());
+        chapter.title = "One";
+        const QDomElement element = chapter.saveToDomElement();
+        QVERIFY(element.tagName() == "chapter" && element.nextSibling().isNull());
+        QVERIFY(again.loadFromDomElement(element) && again.title == "One");
+        QVERIFY(!again.loadFromDomElement(QDomElement()));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDom)
+#include "tst_dom.moc"
