@@ -1,4 +1,5 @@
 #include "command.h"
+#include "documentinput.h"
 #include "scriptcommand.h"
 #include "stagedfiles.h"
 #include "textsearch.h"
@@ -18,10 +19,6 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTextDocument>
-
-#include <cerrno>
-
-#include <unistd.h>
 
 namespace {
 
@@ -76,22 +73,6 @@ struct ScriptFile
     MRVFountainScript script;
 };
 
-bool readStandardInput(QByteArray *bytes, QString *error)
-{
-    char buffer[65536];
-    ssize_t size;
-    while ((size = ::read(STDIN_FILENO, buffer, sizeof buffer)) != 0) {
-        if (size > 0) {
-            bytes->append(buffer, int(size));
-        } else if (errno != EINTR) {
-            *error =
-                QStringLiteral("standard input cannot be read: %1").arg(qt_error_string(errno));
-            return false;
-        }
-    }
-    return true;
-}
-
 // Reads a script; @p error names the file.
 bool readScript(const QString &path, const QString &from, ScriptFile *file, QString *error)
 {
@@ -100,18 +81,12 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
     file->format = !from.isEmpty() ? formatNamed(from)
         : standard                 ? Format::Fountain
                                    : formatOfFile(path);
-    QByteArray bytes;
     QString reason;
-    if (standard) {
-        if (!readStandardInput(&bytes, error)) {
-            return false;
-        }
-    } else {
-        bytes = MRVCoreUtil::ReadBinaryFile(path, &reason);
-        if (!reason.isEmpty()) {
-            *error = reason;
-            return false;
-        }
+    const QByteArray bytes =
+        standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
+    if (!reason.isEmpty()) {
+        *error = reason;
+        return false;
     }
     bool ok = false;
     if (file->format == Format::Html) {
@@ -188,13 +163,7 @@ bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
     if (file == StandardStream) {
         return writeStandardOutput(bytes, error);
     }
-    const SignalsHeld held; // a half-written file would lie about
-    NewFolders folders;
-    if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
-        return false;
-    }
-    folders.keep();
-    return true;
+    return writeWithFolders(bytes, file, error);
 }
 
 bool isSameFile(const QString &a, const QString &b)

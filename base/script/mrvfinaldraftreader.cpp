@@ -240,13 +240,8 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             break;
         }
     }
-    if (m_xml.hasError()) {
-        if (error) {
-            *error = MRVFinalDraft::tr("line %1: %2")
-                         .arg(QString::number(m_xml.lineNumber()), m_xml.errorString());
-        }
+    if (!mrvIsXmlRead(m_xml, error))
         return false;
-    }
     *script = m_script.normalized();
     return true;
 }

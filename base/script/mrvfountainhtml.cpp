@@ -370,13 +370,8 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
     if (!m_xml.hasError() && m_script.titles.isEmpty() && m_script.elements.isEmpty()) {
         m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
     }
-    if (m_xml.hasError()) {
-        if (error) {
-            *error = MRVFountainHtml::tr("line %1: %2")
-                         .arg(QString::number(m_xml.lineNumber()), m_xml.errorString());
-        }
+    if (!mrvIsXmlRead(m_xml, error))
         return false;
-    }
     *script = m_script.normalized();
     return true;
 }

@@ -1,5 +1,8 @@
 #include "script/mrvscriptxml_p.h"
 
+#include <QCoreApplication>
+#include <QXmlStreamReader>
+
 QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
 {
     using Element = MRVFountainElement;
@@ -39,11 +42,20 @@ QString mrvXmlText(const QString &text)
             clean += c;
             clean += text.at(++i);
         } else if (!c.isSurrogate() && c.unicode() < 0xfffe
-                   && (c >= u' ' || c == u'\t' || c == u'\n')) {
+                   && (c >= u' ' || c == u'\t' || c == u'\n' || c == u'\r')) {
             clean += c;
         }
     }
     return clean;
+}
+
+bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error)
+{
+    if (xml.hasError() && error) {
+        *error = QCoreApplication::translate("MRVScriptXml", "line %1: %2")
+                     .arg(QString::number(xml.lineNumber()), xml.errorString());
+    }
+    return !xml.hasError();
 }
 
 MRVFountainRuns mrvWithBrackets(MRVFountainRuns runs)

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVector>
 
+class QXmlStreamReader;
+
 // What the XML forms of scripts have in common.
 
 /** A part of a script: a paragraph, a speech from its cue on, or two of them side by side. */
@@ -22,6 +24,9 @@ QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements);
 
 /** A text without characters that XML forbids, and halves of surrogate pairs. */
 QString mrvXmlText(const QString &text);
+
+/** Whether all of a document was read; else @p error, if given, receives a line with the number of the line. */
+bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error);
 
 /** A text in parentheses. */
 MRVFountainRuns mrvWithBrackets(MRVFountainRuns runs);
