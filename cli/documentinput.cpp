@@ -188,6 +188,8 @@ bool locatePictures(const QString &folder, DocumentInput *input, QString *reason
     return true;
 }
 
+} // namespace
+
 QByteArray standardInput(QString *reason)
 {
     QByteArray bytes;
@@ -204,6 +206,8 @@ QByteArray standardInput(QString *reason)
     }
     return bytes;
 }
+
+namespace {
 
 bool readText(const QString &text, const QString &format, DocumentInput *input, QString *reason)
 {

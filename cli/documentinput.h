@@ -61,3 +61,6 @@ bool readDocument(const QString &path, const InputOptions &options, DocumentInpu
  */
 int lookThrough(const QStringList &inputs, const InputOptions &options, const QString &doing,
                 const std::function<bool(const DocumentInput &)> &look);
+
+/** All of standard input; @p reason receives a text when it cannot be read. */
+QByteArray standardInput(QString *reason);

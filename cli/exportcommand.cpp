@@ -3,7 +3,6 @@
 #include "htmlsource.h"
 #include "pageexport.h"
 #include "stagedfiles.h"
-#include "temporaryfolder.h"
 
 #include "export/mrvepubpackage.h"
 #include "export/mrvtextxhtmlexporter.h"
@@ -427,13 +426,7 @@ bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
         return writeStandardOutput(bytes, error);
     }
     showProgress(QStringLiteral("Writing %1").arg(file));
-    const SignalsHeld held; // a half-written file would lie about
-    NewFolders folders;
-    if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
-        return false;
-    }
-    folders.keep();
-    return true;
+    return writeWithFolders(bytes, file, error);
 }
 
 bool exportPackage(const Options &options, const std::vector<DocumentInput> &inputs,

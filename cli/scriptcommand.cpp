@@ -20,6 +20,9 @@ constexpr Command subcommands[] = {
     {"list", "list the factory modes, or those of a folder", runList},
     {"show", "show a mode, or write its file", runShow},
     {"check", "check mode files", runCheck},
+    {"convert", "convert scripts: Fountain, HTML, Final Draft, EPUB", runScriptConvert},
+    {"stats", "count scenes, pages, and what characters say", runScriptStats},
+    {"rename", "rename a character", runScriptRename},
 };
 
 QString usage()

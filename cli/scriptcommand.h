@@ -7,6 +7,10 @@ class MRVScriptMode;
 
 // Subcommands of "mrv script" that lie in files of their own. arguments[0] is "script NAME".
 
+int runScriptConvert(const QStringList &arguments);
+int runScriptRename(const QStringList &arguments);
+int runScriptStats(const QStringList &arguments);
+
 /** "script: text" as the error, and the exit code for wrong usage. */
 int scriptUsageError(const QString &text);
 

@@ -169,3 +169,14 @@ void StagedFiles::rollBack(Files::iterator end, QString *error)
         }
     }
 }
+
+bool writeWithFolders(const QByteArray &bytes, const QString &file, QString *error)
+{
+    const SignalsHeld held; // a half-written file would lie about
+    NewFolders folders;
+    if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
+        return false;
+    }
+    folders.keep();
+    return true;
+}

@@ -2,6 +2,7 @@
 
 #include "temporaryfolder.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -25,6 +26,9 @@ public:
 private:
     QStringList m_made; // outer ones first
 };
+
+/** Replaces @p file by @p bytes, in folders that are made where they are missing. A signal waits for it to end. */
+bool writeWithFolders(const QByteArray &bytes, const QString &file, QString *error);
 
 /**
  * Files that come to their places together or not at all.

@@ -15,9 +15,28 @@ private Q_SLOTS:
     }
     void commands();
     void written();
+    void scripts_data()
+    {
+        addRows("mrv-fountain.tsv", {"case", "arguments", "file", "code", "output", "error"});
+    }
+    void scripts();
+    void convertedBack();
+
+private:
+    void runRow(const QString &name);
 };
 
 void tst_MrvScript::commands()
+{
+    runRow("mode.xml");
+}
+
+void tst_MrvScript::scripts()
+{
+    runRow("a.fountain");
+}
+
+void tst_MrvScript::runRow(const QString &name)
 {
     QFETCH(QString, arguments);
     QFETCH(QString, file);
@@ -25,7 +44,7 @@ void tst_MrvScript::commands()
     QFETCH(QString, error);
     QTemporaryDir folder;
     const QString path = folder.path() + '/';
-    QVERIFY(writeBytes(path + "mode.xml", file.toUtf8()));
+    QVERIFY(writeBytes(path + name, file.toUtf8()));
     QStringList list = arguments.split(' ');
     for (QString &argument : list)
         argument.replace('@', path).replace(u'␣', ' ');
@@ -49,6 +68,24 @@ void tst_MrvScript::written()
         0);
     QVERIFY(bytesOf(path).contains("<Units>Inches</Units>"));
     QCOMPARE(run(MRV_TOOL, {"script", "check", path}).exitCode, 0);
+}
+
+// From each format into the next, and a sound e-book from the last.
+void tst_MrvScript::convertedBack()
+{
+    QTemporaryDir folder;
+    const QString path = folder.path() + "/a.";
+    const QByteArray script = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fountain");
+    QVERIFY(writeBytes(path + "fountain", script));
+    QString from = "fountain";
+    for (const QString to : {"html", "fdx", "spmd", "epub"}) {
+        const Ran ran =
+            run(MRV_TOOL, {"script", "convert", path + from, "-o", path + to, "--language", "en"});
+        QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
+        from = to;
+    }
+    QCOMPARE(QString(bytesOf(path + "spmd")), QString(script));
+    QCOMPARE(epubErrors(path + "epub"), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_MrvScript)

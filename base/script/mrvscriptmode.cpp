@@ -3,6 +3,7 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
 #include "script/mrvscriptmodefile_p.h"
+#include "script/mrvscriptxml_p.h"
 #include "util/mrvnames.h"
 
 #include <QDir>
@@ -38,33 +39,10 @@ QString userFolder()
     return QDir().mkpath(folder) ? folder : QString();
 }
 
-bool isAllowedInXml(QChar c)
-{
-    const ushort code = c.unicode();
-    return code >= 0x20 ? code < 0xFFFE : code == '\t' || code == '\n' || code == '\r';
-}
-
-// Without what XML forbids: control characters, halves of surrogate pairs, U+FFFE and U+FFFF.
-QString cleaned(const QString &text)
-{
-    QString clean;
-    clean.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            clean += c;
-            clean += text.at(++i);
-        } else if (!c.isSurrogate() && isAllowedInXml(c)) {
-            clean += c;
-        }
-    }
-    return clean;
-}
-
 void writeText(QXmlStreamWriter *xml, const QString &text)
 {
     // A carriage return that is written as it is would be read as a line feed.
-    const QStringList lines = cleaned(text).split(u'\r');
+    const QStringList lines = mrvXmlText(text).split(u'\r');
     for (int i = 0; i < lines.size(); ++i) {
         if (i > 0)
             xml->writeEntityReference(QStringLiteral("#13"));
@@ -82,7 +60,7 @@ void writeTextElement(QXmlStreamWriter *xml, const char *tag, const QString &tex
 void writeFont(QXmlStreamWriter *xml, const MRVScriptElement &element)
 {
     xml->writeStartElement(QLatin1String(FontTag));
-    xml->writeAttribute(QLatin1String(NameTag), cleaned(scriptFontFamily(element)));
+    xml->writeAttribute(QLatin1String(NameTag), mrvXmlText(scriptFontFamily(element)));
     xml->writeAttribute(QLatin1String(SizeAttribute), scriptFontSize(element));
     xml->writeEndElement();
 }

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+
+class QDataStream;
+class QImage;
+
+/**
+ * One note dropped from or to the mind-mapping product: a label, and a text, a picture or a list as its
+ * payload. What travels under "application/fernwick.notes.grouped" is an item whose list holds the
+ * items of the group, each as toVariant() makes it.
+ *
+ * The meta type "MRVFernwickDropItem" and its stream operators are registered before the first item is
+ * put into a variant, written or read.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVFernwickDropItem
+{
+public:
+    /** An empty label and an invalid payload. */
+    MRVFernwickDropItem() = default;
+    MRVFernwickDropItem(const QString &label, const QString &text);
+    MRVFernwickDropItem(const QString &label, const QImage &image);
+    /** With an empty label. */
+    explicit MRVFernwickDropItem(const QList<QVariant> &list);
+
+    const QString &label() const { return m_label; }
+    /** A QString, a QImage or a QVariantList; of items that were read or converted, any value. */
+    const QVariant &payload() const { return m_payload; }
+
+    QVariant toVariant() const;
+    /**
+     * The item that @p variant holds. Any other value becomes the payload of an item without a label: a
+     * list as well as a text or a picture, so that nothing of what was dropped is lost.
+     */
+    static MRVFernwickDropItem fromVariant(const QVariant &variant);
+    /** One item for each entry, in order. */
+    static QList<MRVFernwickDropItem> fromVariant(const QList<QVariant> &list);
+
+    /** Pictures are equal when their size and pixels are. */
+    bool operator==(const MRVFernwickDropItem &other) const
+    {
+        return m_label == other.m_label && m_payload == other.m_payload;
+    }
+    bool operator!=(const MRVFernwickDropItem &other) const { return !(*this == other); }
+
+private:
+    friend class DropItemReader;
+
+    QString m_label;
+    QVariant m_payload;
+};
+Q_DECLARE_METATYPE(MRVFernwickDropItem)
+
+/** qint32 format version 1, QString label, QVariant payload. @since 1.0 */
+MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item);
+/**
+ * Reads what operator<<() wrote, whatever the format version says.
+ *
+ * Any bytes may be given. Payloads may hold texts, pictures, numbers, times, byte arrays, addresses,
+ * items, and lists and maps of them, 32 levels deep, with pictures of 64 MB (and 32 times their stored
+ * length) when decoded. Where they hold anything else or end too early, the stream's status tells and
+ * @p item is a default one.
+ *
+ * @since 1.0
+ */
+MRVBASE_EXPORT QDataStream &operator>>(QDataStream &stream, MRVFernwickDropItem &item);

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "script/mrvfountain.h"
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+/**
+ * Scripts as Final Draft documents (.fdx), an XML format that script programs exchange.
+ *
+ * Written are paragraphs with their types, styles and alignment, scene numbers, page breaks, two speeches
+ * side by side, notes as script notes, and the title page. What was cut out is a script note called
+ * "Omitted", sections are outline headings of four levels, and synopses are outline text.
+ *
+ * The format does not say which line of a title page is what: reading it takes the first centred one as
+ * the title, "written by" and the like as the credit, the one behind as the author, other centred ones
+ * as the source, those on the right as the date of the draft and the rest as contact, unless they begin
+ * with a key, as they are written: "Copyright: ...".
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVFinalDraft
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVFinalDraft)
+
+public:
+    MRVFinalDraft() = delete;
+
+    /** The document of a script, in UTF-8. Characters that XML forbids are left out. */
+    static QByteArray toXml(const MRVFountainScript &script);
+
+    /**
+     * Reads a document; paragraphs of types that Fountain does not know ("General", "Shot") are action.
+     *
+     * @param error if given, receives a translated line with the number of the line on failure.
+     * @return false, with @p script untouched, where it is not well-formed, has another root element
+     * than "FinalDraft", or elements within elements beyond 256 levels.
+     */
+    static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr);
+};

@@ -1,0 +1,254 @@
+#include "script/mrvfinaldraft.h"
+#include "script/mrvscriptxml_p.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+namespace {
+
+using Element = MRVFountainElement;
+using Run = MRVFountainRun;
+
+constexpr int MaxDepth = 256;
+
+constexpr struct
+{
+    const char *type;
+    Element::Kind kind;
+    int level;
+} types[] = {
+    {"Scene Heading", Element::SceneHeading, 1},
+    {"Action", Element::Action, 1},
+    {"Character", Element::Character, 1},
+    {"Parenthetical", Element::Parenthetical, 1},
+    {"Dialogue", Element::Dialogue, 1},
+    {"Lyrics", Element::Lyrics, 1},
+    {"Singing", Element::Lyrics, 1},
+    {"Transition", Element::Transition, 1},
+    {"New Act", Element::Centered, 1},
+    {"End of Act", Element::Centered, 1},
+    {"Outline 1", Element::Section, 1},
+    {"Outline 2", Element::Section, 2},
+    {"Outline 3", Element::Section, 3},
+    {"Outline 4", Element::Section, 4},
+    {"Outline Body", Element::Synopsis, 1},
+};
+
+class FinalDraftReader
+{
+public:
+    explicit FinalDraftReader(const QByteArray &xml)
+        : m_xml(xml)
+    {
+    }
+
+    bool read(MRVFountainScript *script, QString *error);
+
+private:
+    QString attribute(const char *name) const
+    {
+        return m_xml.attributes().value(QLatin1String(name)).toString();
+    }
+    void startElement();
+    void endElement();
+    void startParagraph();
+    void endParagraph();
+    void startText();
+    void addTitle();
+
+    QXmlStreamReader m_xml;
+    int m_depth = 0;
+    MRVFountainScript m_script;
+    Element m_element;
+    QString m_alignment;
+    bool m_inTitles = false;
+    bool m_hasParagraph = false; // one with content is open
+    int m_dualCues = -1; // cues so far in speeches side by side; -1 outside of them
+    int m_firstDualCue = -1;
+    Run::Kind m_runKind = Run::Text;
+    bool m_inText = false;
+    bool m_isNewNote = false;
+    bool m_breakPending = false;
+};
+
+void FinalDraftReader::startParagraph()
+{
+    if (m_runKind != Run::Text) {
+        if (!m_isNewNote) {
+            m_element.runs.last().text += u'\n'; // a further paragraph of a note
+        }
+        return;
+    }
+    m_breakPending = m_breakPending || attribute("StartsNewPage") == QLatin1String("Yes");
+    m_element = Element();
+    m_hasParagraph = true;
+    m_alignment = attribute("Alignment");
+    m_element.sceneNumber = attribute("Number");
+    const QString type = attribute("Type");
+    for (const auto &row : types) {
+        if (type == QLatin1String(row.type)) {
+            m_element.kind = row.kind;
+            m_element.level = row.level;
+        }
+    }
+    if (m_element.kind == Element::Action && m_alignment == QLatin1String("Center")) {
+        m_element.kind = Element::Centered;
+    }
+}
+
+void FinalDraftReader::startText()
+{
+    m_inText = true;
+    if (m_runKind != Run::Text) {
+        if (m_isNewNote) {
+            m_element.runs.append({QString(), {}, m_runKind});
+        }
+        m_isNewNote = false;
+        return;
+    }
+    Run::Emphasis emphasis;
+    const QStringList names = attribute("Style").split(u'+');
+    emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
+    emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
+    emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
+    m_element.runs.append({QString(), emphasis, Run::Text});
+}
+
+void FinalDraftReader::startElement()
+{
+    const QStringRef tag = m_xml.name();
+    if (tag == QLatin1String("TitlePage")) {
+        m_inTitles = true;
+        m_breakPending = false;
+    } else if (tag == QLatin1String("DualDialogue")) {
+        m_hasParagraph = false; // the paragraph around it has nothing of its own
+        m_dualCues = 0;
+    } else if (tag == QLatin1String("ScriptNote") && m_hasParagraph) {
+        m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
+        m_isNewNote = true;
+    } else if (tag == QLatin1String("Paragraph")) {
+        startParagraph();
+    } else if (tag == QLatin1String("Text") && m_hasParagraph) {
+        startText();
+    }
+}
+
+// The format does not say what the lines of a title page are.
+void FinalDraftReader::addTitle()
+{
+    static const QRegularExpression credit(QStringLiteral("\\bby\\b"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    if (m_element.text().trimmed().isEmpty())
+        return;
+    const auto has = [this](const char *key) {
+        return !m_script.title(QLatin1String(key)).isEmpty();
+    };
+    QString key = QStringLiteral("Contact");
+    if (m_alignment == QLatin1String("Center")) {
+        const bool isCredit = !has("Credit") && m_element.text().contains(credit);
+        key = !has("Title") ? QStringLiteral("Title")
+            : isCredit      ? QStringLiteral("Credit")
+            : has("Author") ? QStringLiteral("Source")
+                            : QStringLiteral("Author");
+    } else if (m_alignment == QLatin1String("Right")) {
+        key = QStringLiteral("Draft date");
+    }
+    static const QRegularExpression named(QStringLiteral("^(\\p{Lu}[\\p{L} ]{1,30}): "));
+    const QRegularExpressionMatch match = named.match(m_element.runs.constFirst().text);
+    if (m_alignment != QLatin1String("Center") && match.hasMatch()) {
+        key = match.captured(1);
+        m_element.runs.first().text.remove(0, match.capturedLength());
+    }
+    for (MRVFountainTitle &title : m_script.titles) {
+        if (title.key == key) {
+            title.value.append({QStringLiteral("\n"), {}, Run::Text});
+            title.value += m_element.runs;
+            return;
+        }
+    }
+    m_script.titles.append({key, m_element.runs});
+}
+
+void FinalDraftReader::endParagraph()
+{
+    m_hasParagraph = false;
+    if (m_inTitles) {
+        addTitle();
+        return;
+    }
+    if (m_breakPending) {
+        m_script.elements.append(Element(Element::PageBreak, QString()));
+        m_breakPending = false;
+    }
+    if (m_element.kind == Element::Parenthetical) {
+        mrvRemoveBrackets(&m_element.runs);
+    }
+    if (m_element.kind == Element::Action && m_element.runs.size() == 1
+        && m_element.runs.constFirst().kind != Run::Text) {
+        const Run note = m_element.runs.constFirst();
+        m_element = Element(note.kind == Run::Note ? Element::Note : Element::Boneyard, note.text);
+    }
+    if (m_element.kind == Element::Character && m_dualCues >= 0) {
+        m_firstDualCue = m_dualCues == 0 ? m_script.elements.size() : m_firstDualCue;
+        m_element.dual = m_dualCues++ > 0;
+    }
+    m_script.elements.append(m_element);
+}
+
+void FinalDraftReader::endElement()
+{
+    const QStringRef tag = m_xml.name();
+    if (tag == QLatin1String("Text")) {
+        m_inText = false;
+    } else if (tag == QLatin1String("ScriptNote")) {
+        m_runKind = Run::Text;
+    } else if (tag == QLatin1String("Paragraph") && m_runKind == Run::Text && m_hasParagraph) {
+        endParagraph();
+    } else if (tag == QLatin1String("DualDialogue")) {
+        if (m_dualCues == 1) {
+            m_script.elements[m_firstDualCue].dual = true; // beside one that is elsewhere
+        }
+        m_dualCues = -1;
+    } else if (tag == QLatin1String("TitlePage")) {
+        m_inTitles = false;
+    }
+}
+
+bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
+{
+    while (!m_xml.atEnd()) {
+        switch (m_xml.readNext()) {
+        case QXmlStreamReader::StartElement:
+            if (m_depth == 0 && m_xml.name() != QLatin1String("FinalDraft")) {
+                m_xml.raiseError(MRVFinalDraft::tr("this is no Final Draft document"));
+            } else if (++m_depth > MaxDepth) {
+                m_xml.raiseError(MRVFinalDraft::tr("elements are nested too deeply"));
+            } else {
+                startElement();
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            --m_depth;
+            endElement();
+            break;
+        case QXmlStreamReader::Characters:
+            if (m_inText && !m_element.runs.isEmpty()) {
+                m_element.runs.last().text += m_xml.text();
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    if (!mrvIsXmlRead(m_xml, error))
+        return false;
+    *script = m_script.normalized();
+    return true;
+}
+
+} // namespace
+
+bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error)
+{
+    return FinalDraftReader(xml).read(script, error);
+}

@@ -1,0 +1,88 @@
+#include "script/mrvscriptxml_p.h"
+
+#include <QCoreApplication>
+#include <QXmlStreamReader>
+
+QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
+{
+    using Element = MRVFountainElement;
+    const auto endOfSpeech = [&elements](int cue) {
+        int end = cue + 1;
+        while (end < elements.size()
+               && (elements.at(end).kind == Element::Parenthetical
+                   || elements.at(end).kind == Element::Dialogue
+                   || (elements.at(end).kind == Element::Lyrics && !elements.at(end).apart))) {
+            ++end;
+        }
+        return end;
+    };
+    QVector<MrvSpeeches> parts;
+    for (int at = 0; at < elements.size();) {
+        MrvSpeeches part{at, at + 1, at + 1};
+        if (elements.at(at).kind == Element::Character) {
+            part.second = part.end = endOfSpeech(at);
+            if (part.end < elements.size() && elements.at(part.end).kind == Element::Character
+                && elements.at(part.end).dual && !elements.at(at).dual) {
+                part.end = endOfSpeech(part.end);
+            }
+        }
+        parts.append(part);
+        at = part.end;
+    }
+    return parts;
+}
+
+QString mrvXmlText(const QString &text)
+{
+    QString clean;
+    clean.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            clean += c;
+            clean += text.at(++i);
+        } else if (!c.isSurrogate() && c.unicode() < 0xfffe
+                   && (c >= u' ' || c == u'\t' || c == u'\n' || c == u'\r')) {
+            clean += c;
+        }
+    }
+    return clean;
+}
+
+bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error)
+{
+    if (xml.hasError() && error) {
+        *error = QCoreApplication::translate("MRVScriptXml", "line %1: %2")
+                     .arg(QString::number(xml.lineNumber()), xml.errorString());
+    }
+    return !xml.hasError();
+}
+
+MRVFountainRuns mrvWithBrackets(MRVFountainRuns runs)
+{
+    const auto isPlain = [](const MRVFountainRun &run) {
+        return run.kind == MRVFountainRun::Text && !run.emphasis;
+    };
+    if (runs.isEmpty() || !isPlain(runs.constFirst())) {
+        runs.prepend(MRVFountainRun());
+    }
+    runs.first().text.prepend(u'(');
+    if (!isPlain(runs.constLast())) {
+        runs.append(MRVFountainRun());
+    }
+    runs.last().text.append(u')');
+    return runs;
+}
+
+void mrvRemoveBrackets(MRVFountainRuns *runs)
+{
+    if (runs->isEmpty())
+        return;
+    const bool isShort = runs->size() == 1 && runs->constFirst().text.size() < 2;
+    if (isShort || runs->constFirst().kind != MRVFountainRun::Text
+        || runs->constLast().kind != MRVFountainRun::Text
+        || !runs->constFirst().text.startsWith(u'(') || !runs->constLast().text.endsWith(u')'))
+        return;
+    runs->first().text.remove(0, 1);
+    runs->last().text.chop(1);
+}

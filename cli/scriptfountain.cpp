@@ -1,0 +1,487 @@
+#include "command.h"
+#include "documentinput.h"
+#include "scriptcommand.h"
+#include "stagedfiles.h"
+#include "textsearch.h"
+
+#include "core/mrvcoreutil.h"
+#include "export/mrvepubpackage.h"
+#include "script/mrvfinaldraft.h"
+#include "script/mrvfountainhtml.h"
+#include "script/mrvscriptdocument.h"
+#include "script/mrvscriptmode.h"
+#include "script/mrvscriptstatistics.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTextDocument>
+
+namespace {
+
+const QLatin1String StandardStream("-");
+
+enum class Format { Fountain, Html, FinalDraft, EPub, Unknown };
+
+// The first of a format's suffixes is the one that it is written with.
+constexpr struct
+{
+    Format format;
+    const char *name;
+    const char *suffixes;
+    bool isRead;
+} formats[] = {{Format::Fountain, "fountain", "fountain spmd txt", true},
+               {Format::Html, "html", "html htm xhtml", true},
+               {Format::FinalDraft, "fdx", "fdx", true},
+               {Format::EPub, "epub", "epub", false}};
+
+Format formatNamed(const QString &name)
+{
+    for (const auto &row : formats) {
+        if (name == QLatin1String(row.name)) {
+            return row.format;
+        }
+    }
+    return Format::Unknown;
+}
+
+Format formatOfFile(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    for (const auto &row : formats) {
+        if (!suffix.isEmpty() && QString::fromLatin1(row.suffixes).split(u' ').contains(suffix)) {
+            return row.format;
+        }
+    }
+    return Format::Unknown;
+}
+
+int failure(const QString &text)
+{
+    printError(text);
+    return Failed;
+}
+
+// A script, and where it came from.
+struct ScriptFile
+{
+    QString path;
+    Format format = Format::Unknown;
+    MRVFountainScript script;
+};
+
+// Reads a script; @p error names the file.
+bool readScript(const QString &path, const QString &from, ScriptFile *file, QString *error)
+{
+    const bool standard = path == StandardStream;
+    file->path = path;
+    file->format = !from.isEmpty() ? formatNamed(from)
+        : standard                 ? Format::Fountain
+                                   : formatOfFile(path);
+    QString reason;
+    const QByteArray bytes =
+        standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
+    if (!reason.isEmpty()) {
+        *error = reason;
+        return false;
+    }
+    bool ok = false;
+    if (file->format == Format::Html) {
+        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason);
+    } else if (file->format == Format::FinalDraft) {
+        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason);
+    } else if (file->format == Format::Fountain) {
+        QString text;
+        ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &text, &reason);
+        file->script = MRVFountainScript::fromText(text);
+    } else {
+        reason = QStringLiteral("unknown type of script; say with --from what it is");
+    }
+    if (!ok) {
+        *error = path + QLatin1String(": ") + reason;
+    }
+    return ok;
+}
+
+QStringList authorsOf(const MRVFountainScript &script)
+{
+    static const QRegularExpression joint(QStringLiteral("\\s*(?:\\n|&|,| and )\\s*"));
+    const QString author = script.title(QStringLiteral("Author"));
+    const QString all = author.isEmpty() ? script.title(QStringLiteral("Authors")) : author;
+    return all.split(joint, Qt::SkipEmptyParts);
+}
+
+bool ebook(const MRVFountainScript &script, const MRVScriptMode &mode, const QString &language,
+           QByteArray *bytes, QString *error)
+{
+    MRVEPubMetadata metadata;
+    metadata.title = script.title(QStringLiteral("Title")).simplified();
+    metadata.authors = authorsOf(script);
+    metadata.rights = script.title(QStringLiteral("Copyright")).simplified();
+    metadata.language = language;
+    bool fixed = false;
+    const qint64 seconds = qgetenv("SOURCE_DATE_EPOCH").toLongLong(&fixed);
+    constexpr qint64 LastSecond = 253402300799; // of the year 9999
+    if (fixed && seconds >= 0 && seconds <= LastSecond) {
+        metadata.modified = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    }
+    QTextDocument document;
+    MRVScriptDocument::setPrintedScript(&document, script, mode);
+    MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
+    if (!package.addDocument(document, QString(), error)) {
+        return false;
+    }
+    *bytes = package.toByteArray(error);
+    return !bytes->isEmpty();
+}
+
+// What is written for a script; only an e-book can fail, and needs a mode.
+bool scriptBytes(const MRVFountainScript &script, Format format, const MRVScriptMode &mode,
+                 const QString &language, QByteArray *bytes, QString *error)
+{
+    switch (format) {
+    case Format::EPub:
+        return ebook(script, mode, language, bytes, error);
+    case Format::Html:
+        *bytes = MRVFountainHtml::toHtml(script, language);
+        break;
+    case Format::FinalDraft:
+        *bytes = MRVFinalDraft::toXml(script);
+        break;
+    default:
+        *bytes = script.toText().toUtf8();
+        break;
+    }
+    return true;
+}
+
+bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
+{
+    if (file == StandardStream) {
+        return writeStandardOutput(bytes, error);
+    }
+    return writeWithFolders(bytes, file, error);
+}
+
+bool isSameFile(const QString &a, const QString &b)
+{
+    const QString real = QFileInfo(a).canonicalFilePath();
+    return !real.isEmpty() && real == QFileInfo(b).canonicalFilePath();
+}
+
+void addFromOption(QCommandLineParser *parser)
+{
+    parser->addOption(
+        {QStringLiteral("from"),
+         QStringLiteral("What the input is: fountain, html or fdx. Default: by its suffix."),
+         QStringLiteral("FORMAT")});
+}
+
+bool isReadable(const QString &from)
+{
+    for (const auto &row : formats) {
+        if (from.isEmpty() || (from == QLatin1String(row.name) && row.isRead)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int unreadable(const QString &from)
+{
+    return scriptUsageError(
+        QStringLiteral("unknown format '%1'; known are fountain, html and fdx").arg(from));
+}
+
+void addConvertOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(QStringLiteral(
+        "Converts a script (- is standard input): Fountain, pages and Final Draft documents\n"
+        "into each other, and into e-books. Pages are read that this command has written."));
+    parser->addPositionalArgument(QStringLiteral("IN"), QStringLiteral("The script."));
+    parser->addOption({QStringLiteral("to"),
+                       QStringLiteral("What to write: fountain, html, fdx or epub. Default: by "
+                                      "the suffix of -o."),
+                       QStringLiteral("FORMAT")});
+    addFromOption(parser);
+    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
+                       QStringLiteral("Where to write; - is standard output. Default: beside the "
+                                      "input, with the format's suffix."),
+                       QStringLiteral("FILE")});
+    parser->addOption({QStringLiteral("mode"),
+                       QStringLiteral("The mode that an e-book looks like: a factory mode's name "
+                                      "or a mode file. Default: the built-in US screenplay."),
+                       QStringLiteral("MODE")});
+    parser->addOption({QStringLiteral("language"),
+                       QStringLiteral("The language of a page or e-book, such as en-GB."),
+                       QStringLiteral("TAG")});
+    parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
+}
+
+QString outputFile(const QString &input, const QString &output, Format format)
+{
+    QString suffix;
+    for (const auto &row : formats) {
+        if (row.format == format) {
+            suffix = QString::fromLatin1(row.suffixes).section(u' ', 0, 0);
+        }
+    }
+    const bool standard = input == StandardStream;
+    const QString name =
+        (standard ? QStringLiteral("script") : QFileInfo(input).completeBaseName()) + u'.' + suffix;
+    if (output.isEmpty()) {
+        return standard ? QString(StandardStream) : QFileInfo(input).dir().filePath(name);
+    }
+    const bool folder =
+        output != StandardStream && (output.endsWith(u'/') || QFileInfo(output).isDir());
+    return folder ? QDir(output).filePath(name) : output;
+}
+
+struct ConvertOptions
+{
+    QString input;
+    QString from;
+    Format to = Format::Unknown;
+    QString output; // the file
+    MRVScriptMode mode;
+    QString language;
+    bool json = false;
+};
+
+// -1 to go on, else the exit code.
+int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
+{
+    const QString to = parser.value(QStringLiteral("to"));
+    const QString output = parser.value(QStringLiteral("output"));
+    options->input = parser.positionalArguments().value(0);
+    options->from = parser.value(QStringLiteral("from"));
+    options->to = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
+    options->language = parser.value(QStringLiteral("language"));
+    options->json = parser.isSet(QStringLiteral("json"));
+    if (parser.positionalArguments().size() != 1) {
+        return scriptUsageError(QStringLiteral("convert takes one script"));
+    }
+    if (!isReadable(options->from)) {
+        return unreadable(options->from);
+    }
+    if (options->to == Format::Unknown) {
+        return scriptUsageError(
+            QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
+    }
+    const QString mode = parser.value(QStringLiteral("mode"));
+    if (!mode.isEmpty() && options->to != Format::EPub) {
+        return scriptUsageError(QStringLiteral("--mode is for e-books only"));
+    }
+    QString error;
+    options->mode.loadFactoryDefaults();
+    if (!mode.isEmpty() && !findScriptMode(mode, &options->mode, &error)) {
+        return failure(error);
+    }
+    options->output = outputFile(options->input, output, options->to);
+    const bool streams = options->input == StandardStream || options->output == StandardStream;
+    return !streams && isSameFile(options->input, options->output)
+        ? failure(QStringLiteral("%1: the output would replace the input; choose another with -o")
+                      .arg(options->output))
+        : -1;
+}
+
+} // namespace
+
+int runScriptConvert(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addConvertOptions(&parser);
+    ConvertOptions options;
+    int code = parseArguments(&parser, QStringLiteral("script convert IN --to FORMAT [OPTIONS]"),
+                              arguments);
+    code = code >= 0 ? code : readOptions(parser, &options);
+    if (code >= 0) {
+        return code;
+    }
+    ScriptFile script;
+    QByteArray bytes;
+    QString error;
+    if (!readScript(options.input, options.from, &script, &error)
+        || !scriptBytes(script.script, options.to, options.mode, options.language, &bytes, &error)
+        || !writeScript(bytes, options.output, &error)) {
+        return failure(error);
+    }
+    if (options.output != StandardStream && options.json) {
+        printJson(
+            {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
+    } else if (options.output != StandardStream) {
+        printLine(options.output);
+    }
+    return Done;
+}
+
+namespace {
+
+QJsonObject toJson(const QString &path, const MRVScriptStatistics &statistics)
+{
+    QJsonArray characters;
+    for (const auto &character : statistics.characters) {
+        characters.append(QJsonObject{{QStringLiteral("name"), character.name},
+                                      {QStringLiteral("speeches"), character.speeches},
+                                      {QStringLiteral("lines"), character.lines},
+                                      {QStringLiteral("words"), character.words},
+                                      {QStringLiteral("scenes"), character.scenes}});
+    }
+    return {{QStringLiteral("path"), path},
+            {QStringLiteral("scenes"), statistics.scenes},
+            {QStringLiteral("pages"), statistics.pages()},
+            {QStringLiteral("minutes"), statistics.minutes()},
+            {QStringLiteral("words"), statistics.words},
+            {QStringLiteral("characters"), characters}};
+}
+
+void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
+{
+    const int eighths = statistics.eighths % 8;
+    QStringList pages;
+    if (statistics.eighths >= 8 || eighths == 0) {
+        pages.append(QString::number(statistics.eighths / 8));
+    }
+    if (eighths > 0) {
+        pages.append(QStringLiteral("%1/8").arg(eighths));
+    }
+    printLine(QStringLiteral("%1: scenes %2, pages %3, minutes %4, words %5")
+                  .arg(styled(Style::Path, path), QString::number(statistics.scenes),
+                       pages.join(u' '), QString::number(statistics.minutes()),
+                       QString::number(statistics.words)));
+    for (const auto &character : statistics.characters) {
+        printLine(QStringLiteral("  %1: speeches %2, lines %3, words %4, scenes %5")
+                      .arg(displayed(character.name), QString::number(character.speeches),
+                           QString::number(character.lines), QString::number(character.words),
+                           QString::number(character.scenes)));
+    }
+}
+
+} // namespace
+
+int runScriptStats(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Counts the scenes, pages, minutes and words of scripts, and what each character\n"
+        "says. A page is 54 lines of Courier 12, in eighths; a page is a minute."));
+    parser.addPositionalArgument(QStringLiteral("IN"),
+                                 QStringLiteral("The scripts; - is standard input."),
+                                 QStringLiteral("IN..."));
+    addFromOption(&parser);
+    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
+    const int code =
+        parseArguments(&parser, QStringLiteral("script stats IN... [OPTIONS]"), arguments);
+    if (code >= 0) {
+        return code;
+    }
+    const QStringList inputs = parser.positionalArguments();
+    const QString from = parser.value(QStringLiteral("from"));
+    if (inputs.isEmpty()) {
+        return scriptUsageError(QStringLiteral("stats takes at least one script"));
+    }
+    if (!isReadable(from)) {
+        return unreadable(from);
+    }
+    bool ok = true;
+    for (const QString &input : inputs) {
+        ScriptFile file;
+        QString error;
+        if (!readScript(input, from, &file, &error)) {
+            printError(error); // the others can still be counted
+            ok = false;
+            continue;
+        }
+        const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script);
+        if (parser.isSet(QStringLiteral("json"))) {
+            printJson(toJson(input, statistics));
+        } else {
+            printStatistics(input, statistics);
+        }
+    }
+    return ok ? Done : Failed;
+}
+
+namespace {
+
+void addRenameOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(QStringLiteral(
+        "Renames a character in a script, in the cues and, on request, elsewhere, and writes\n"
+        "the script in its own format. Exit code 1: nobody has that name."));
+    parser->addPositionalArgument(QStringLiteral("OLD"), QStringLiteral("The name."));
+    parser->addPositionalArgument(QStringLiteral("NEW"), QStringLiteral("The new name."));
+    parser->addPositionalArgument(QStringLiteral("IN"),
+                                  QStringLiteral("The script; - is standard input."));
+    addFromOption(parser);
+    parser->addOption({QStringLiteral("dialogue"), QStringLiteral("Also in what is said.")});
+    parser->addOption({QStringLiteral("action"), QStringLiteral("Also in all other text.")});
+    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
+                       QStringLiteral("Where to write; may be the script itself. Default: "
+                                      "standard output."),
+                       QStringLiteral("FILE")});
+    parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
+}
+
+// Renames in @p file. @return how many names there were.
+int renamed(const QCommandLineParser &parser, ScriptFile *file)
+{
+    MRVScriptDocument::RenameScope scope;
+    scope.setFlag(MRVScriptDocument::InDialogue, parser.isSet(QStringLiteral("dialogue")));
+    scope.setFlag(MRVScriptDocument::InAction, parser.isSet(QStringLiteral("action")));
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    QTextDocument document;
+    MRVScriptDocument::setScript(&document, file->script, mode);
+    const QStringList names = parser.positionalArguments();
+    const int count =
+        MRVScriptDocument::renameCharacter(&document, mode, names.at(0), names.at(1), scope);
+    file->script = MRVScriptDocument::script(document, mode);
+    return count;
+}
+
+} // namespace
+
+int runScriptRename(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addRenameOptions(&parser);
+    const int code =
+        parseArguments(&parser, QStringLiteral("script rename OLD NEW IN [OPTIONS]"), arguments);
+    if (code >= 0) {
+        return code;
+    }
+    const QStringList names = parser.positionalArguments();
+    const QString from = parser.value(QStringLiteral("from"));
+    if (names.size() != 3 || names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
+        return scriptUsageError(QStringLiteral("rename takes two names and a script"));
+    }
+    if (!isReadable(from)) {
+        return unreadable(from);
+    }
+    ScriptFile file;
+    QString error;
+    if (!readScript(names.at(2), from, &file, &error)) {
+        return failure(error);
+    }
+    const int count = renamed(parser, &file);
+    if (count == 0) {
+        return failure(QStringLiteral("%1: nobody is called '%2'").arg(names.at(2), names.at(0)));
+    }
+    const QString output = parser.value(QStringLiteral("output"));
+    const QString target = output.isEmpty() ? QString(StandardStream) : output;
+    QByteArray bytes;
+    if (!scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, &error)
+        || !writeScript(bytes, target, &error)) {
+        return failure(error);
+    }
+    if (target != StandardStream && parser.isSet(QStringLiteral("json"))) {
+        printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
+    } else if (target != StandardStream) {
+        printLine(QStringLiteral("%1: %2 renamed").arg(target).arg(count));
+    }
+    return Done;
+}

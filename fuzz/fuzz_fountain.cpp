@@ -1,0 +1,45 @@
+// Feeds arbitrary texts to the readers of scripts: Fountain, pages and Final Draft documents, and what is read on to the
+// writers, which must not change it. Not part of the normal build:
+//
+//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
+//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_fountain.cpp
+//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/script/mrvscriptxml.cpp
+//     base/script/mrvscriptstatistics.cpp -o fuzz_fountain
+//   ./fuzz_fountain -rss_limit_mb=512 CORPUS
+
+#include "script/mrvfinaldraft.h"
+#include "script/mrvfountain.h"
+#include "script/mrvfountainhtml.h"
+#include "script/mrvscriptstatistics.h"
+
+#include <cstdlib>
+
+static void require(bool kept)
+{
+    if (!kept)
+        std::abort();
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
+    MRVFountainScript script;
+    MRVFountainHtml::fromHtml(bytes, &script);
+    MRVFinalDraft::fromXml(bytes, &script);
+    require(MRVFountainScript::fromText(script.toText()) == script);
+
+    script = MRVFountainScript::fromText(QString::fromUtf8(bytes));
+    require(script.normalized() == script);
+    require(MRVFountainScript::fromText(script.toText()) == script);
+    MRVFountainScript read;
+    require(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(script), &read));
+    // Characters that XML does not have are lost in it.
+    for (const QChar c : script.toText()) {
+        if ((c < u' ' && c != u'\n' && c != u'\t') || c.isSurrogate() || c.unicode() >= 0xfffe)
+            return 0;
+    }
+    if (MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script), &read))
+        require(read == script);
+    require(MRVScriptStatistics::of(script).lines >= 0);
+    return 0;
+}

@@ -1,0 +1,210 @@
+#include "script/mrvfernwickdropitem.h"
+#include "script/mrvreference.h"
+
+#include "core/mcoretype.h"
+#include "heapmeter.h"
+
+#include <QImage>
+#include <QtTest>
+
+namespace {
+
+QByteArray hex(const char *text)
+{
+    return QByteArray::fromHex(text);
+}
+
+QByteArray bytesOf(const MRVFernwickDropItem &item)
+{
+    return MCoreType::toByteArray(item);
+}
+
+QImage picture()
+{
+    QImage image(2, 1, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    return image;
+}
+
+MRVFernwickDropItem group()
+{
+    return MRVFernwickDropItem({MRVFernwickDropItem("a", picture()).toVariant(),
+                                QVariantMap{{"k", QStringList{"x", "y"}}}, 7});
+}
+
+} // namespace
+
+/// Reference lists and drop items, and the bytes that they are stored as.
+class TestReferences : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void referenceBytes();
+    void linksExcludeEachOther();
+    void dropItemBytes_data();
+    void dropItemBytes();
+    void variants();
+    void damagedBytes_data();
+    void damagedBytes();
+    void claimedSizes_data();
+    void claimedSizes();
+};
+
+void TestReferences::referenceBytes()
+{
+    MRVReference web;
+    web.title = "Ö";
+    web.setUrl(QUrl("http://a.example/"));
+    MRVReference item;
+    item.title = "i";
+    item.setInternalLink(258);
+    const QList<MRVReference> references{MRVReference(), web, item};
+    const QByteArray bytes =
+        hex("00000003"
+            "0001 ffffffff ffffffff ffffffff"
+            "0001 00000002 00d6 00000011 687474703a2f2f612e6578616d706c652f ffffffff"
+            "0001 00000002 0069 ffffffff 00000102");
+    QCOMPARE(MRVReference::toByteArray(references), bytes);
+    QCOMPARE(MRVReference::toReferenceList(bytes), references);
+    QCOMPARE(MRVReference::toReferenceList(QByteArray()), QList<MRVReference>());
+    // Other versions are read in the same way.
+    QByteArray later = bytes;
+    later[5] = 9;
+    QCOMPARE(MRVReference::toReferenceList(later), references);
+    QString text;
+    QDebug(&text) << web << item;
+    QCOMPARE(text.trimmed(), QString("Reference[\"Ö\", http://a.example/] Reference[\"i\", 258]"));
+}
+
+void TestReferences::linksExcludeEachOther()
+{
+    MRVReference reference;
+    reference.setInternalLink(3);
+    reference.setUrl(QUrl("x:y"));
+    QCOMPARE(reference.internalLink, -1);
+    QCOMPARE(reference.url, QUrl("x:y"));
+    reference.setInternalLink(3);
+    QVERIFY(reference.url.isEmpty());
+    QCOMPARE(reference.internalLink, 3);
+}
+
+void TestReferences::dropItemBytes_data()
+{
+    QTest::addColumn<MRVFernwickDropItem>("item");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("default") << MRVFernwickDropItem() << hex("00000001 ffffffff 00000000 01");
+    QTest::newRow("text") << MRVFernwickDropItem("l", "t")
+                          << hex("00000001 00000002 006c 0000000a 00 00000002 0074");
+    QTest::newRow("no picture") << MRVFernwickDropItem("l", QImage())
+                                << hex("00000001 00000002 006c 00000046 00 00000000");
+    const QByteArray type = QByteArray("MRVFernwickDropItem") + '\0';
+    const MRVFernwickDropItem inner("", QString("t"));
+    QTest::newRow("list") << MRVFernwickDropItem({inner.toVariant(), 5})
+                          << hex("00000001 ffffffff 00000009 00 00000002"
+                                 "00000400 00 00000014")
+            + type
+            + hex("00000001 00000000 0000000a 00 00000002 0074"
+                  "00000002 00 00000005");
+}
+
+void TestReferences::dropItemBytes()
+{
+    QFETCH(MRVFernwickDropItem, item);
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(bytesOf(item), bytes);
+    QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes), item);
+}
+
+void TestReferences::variants()
+{
+    const MRVFernwickDropItem item("l", picture());
+    const QVariant variant = item.toVariant();
+    QCOMPARE(variant.typeName(), "MRVFernwickDropItem");
+    QCOMPARE(MRVFernwickDropItem::fromVariant(variant), item);
+    QCOMPARE(MRVFernwickDropItem::fromVariant(QVariant("t")),
+             MRVFernwickDropItem("", QString("t")));
+    const QVariantList list{variant, "t"};
+    const auto items = MRVFernwickDropItem::fromVariant(list);
+    QCOMPARE(items.size(), 2);
+    QCOMPARE(items.at(0), item);
+    QCOMPARE(MRVFernwickDropItem::fromVariant(QVariant(list)), MRVFernwickDropItem(list));
+    // What follows a picture in a stream is read from behind it.
+    const QByteArray bytes = bytesOf(item) + bytesOf(group());
+    QDataStream stream(bytes);
+    stream.setVersion(MCoreType::StreamVersion);
+    MRVFernwickDropItem first;
+    MRVFernwickDropItem second;
+    stream >> first >> second;
+    QCOMPARE(first, item);
+    QCOMPARE(second, group());
+    QVERIFY(stream.atEnd());
+}
+
+void TestReferences::damagedBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("picture") << bytesOf(MRVFernwickDropItem("label", picture()));
+    QTest::newRow("group") << bytesOf(group());
+    const QVariantList others{QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, 60),
+                              QUrl("http://a.example"), QByteArray("b"), 1.5,
+                              QVariant(QVariant::Int)};
+    QTest::newRow("others") << bytesOf(MRVFernwickDropItem(others));
+}
+
+// No cut is read as a whole item, and no changed byte brings the reader down.
+void TestReferences::damagedBytes()
+{
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(bytesOf(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes)), bytes);
+    for (int length = 0; length < bytes.size(); ++length)
+        QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes.left(length)),
+                 MRVFernwickDropItem());
+    for (int at = 0; at < bytes.size(); ++at) {
+        for (const int change : {0x01, 0x10, 0x80, 0xff}) {
+            QByteArray changed = bytes;
+            changed[at] = char(changed.at(at) ^ change);
+            HeapMeter::start();
+            const auto item = MCoreType::fromByteArray<MRVFernwickDropItem>(changed);
+            MRVReference::toReferenceList(changed);
+            QVERIFY2(HeapMeter::peak() < 1000000, qPrintable(QString::number(at)));
+            QVERIFY(bytesOf(item).size() < 4 * bytes.size());
+        }
+    }
+}
+
+void TestReferences::claimedSizes_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::newRow("list") << hex("00000009 00 7fffffff 00000000 01");
+    QTest::newRow("map") << hex("00000008 00 7fffffff 00000000 00000000 01");
+    QTest::newRow("texts") << hex("0000000b 00 7fffffff 00000000");
+    QTest::newRow("text") << hex("0000000a 00 7ffffff0 0041");
+    QTest::newRow("bytes") << hex("0000000c 00 7ffffff0 41");
+    QTest::newRow("name") << hex("00000400 00 7ffffff0 41");
+    QTest::newRow("time zone") << hex("00000010 00 0000000000253d8c 00000000 03 0000000000");
+    QTest::newRow("colours") << hex("00000044 00 7fffffff"); // a palette
+    QTest::newRow("deep") << hex("00000009 00 00000001").repeated(40) + hex("00000000 01");
+    QTest::newRow("unknown type") << hex("00000400 00 00000002 4100 00000000");
+    QTest::newRow("chunk") << hex("00000046 00 00000001 89504e470d0a1a0a 7ffffff0 49484452");
+    QTest::newRow("pixels") << hex("00000046 00 00000001 89504e470d0a1a0a 0000000d 49484452"
+                                   "00007fff 00007fff 08 06 00 00 00 00000000"
+                                   "00000000 49454e44 ae426082");
+}
+
+void TestReferences::claimedSizes()
+{
+    QFETCH(QByteArray, payload);
+    const QByteArray bytes = hex("00000001 00000000") + payload;
+    QDataStream stream(bytes);
+    stream.setVersion(MCoreType::StreamVersion);
+    MRVFernwickDropItem item("x", QString("y"));
+    HeapMeter::start();
+    stream >> item;
+    QVERIFY(HeapMeter::peak() < 1000000);
+    QVERIFY(stream.status() != QDataStream::Ok);
+    QCOMPARE(item, MRVFernwickDropItem());
+}
+
+QTEST_MAIN(TestReferences)
+#include "tst_references.moc"
