@@ -12,8 +12,8 @@
 //     platform/core/mrvfilewriter.cpp -o fuzz_presets
 //   LSAN_OPTIONS=suppressions=tests/lsan.supp ./fuzz_presets -rss_limit_mb=512 CORPUS
 
-#include "guiapplication.h"
 #include "gui/mrvguiutil.h"
+#include "guiapplication.h"
 #include "settings/mrvsettings.h"
 #include "text/mrvtextformat.h"
 
