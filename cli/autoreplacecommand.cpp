@@ -33,7 +33,7 @@ struct Verb
     int leastArguments;
     int mostArguments;
     const char *missing; // what is
-    IfMissing ifMissing; // the settings file
+    Access access; // to the settings file
     int (*run)(const Request &request);
 };
 
@@ -251,13 +251,13 @@ int runReset(const Request &request)
 constexpr int AnyNumber = 1 << 30;
 
 constexpr Verb verbs[] = {
-    {"show", 1, AnyNumber, "an input", IfMissing::Refuse, runShow},
-    {"list", 0, 0, "", IfMissing::Refuse, runList},
-    {"add", 2, 2, "a match or its replacement", IfMissing::Create, runAdd},
-    {"remove", 1, 2, "a match", IfMissing::Create, runRemove},
-    {"enable", 1, 2, "a match", IfMissing::Create, runEnable},
-    {"disable", 1, 2, "a match", IfMissing::Create, runDisable},
-    {"reset", 0, 0, "", IfMissing::Create, runReset},
+    {"show", 1, AnyNumber, "an input", Access::Read, runShow},
+    {"list", 0, 0, "", Access::Read, runList},
+    {"add", 2, 2, "a match or its replacement", Access::Create, runAdd},
+    {"remove", 1, 2, "a match", Access::Create, runRemove},
+    {"enable", 1, 2, "a match", Access::Create, runEnable},
+    {"disable", 1, 2, "a match", Access::Create, runDisable},
+    {"reset", 0, 0, "", Access::Create, runReset},
 };
 
 void addOptions(QCommandLineParser *parser)
@@ -348,10 +348,10 @@ int runAutoReplace(const QStringList &arguments)
             return usageError(error);
         if (verb.run != runShow && request.arguments.value(0, QStringLiteral("-")).isEmpty())
             return usageError(QStringLiteral("the match is empty"));
-        const auto options =
-            openOptions(parser.value(QStringLiteral("settings")), verb.ifMissing, &error);
-        request.options = options.get();
-        return options ? verb.run(request) : refuse(error);
+        const OpenedOptions opened =
+            openOptions(parser.value(QStringLiteral("settings")), verb.access, &error);
+        request.options = opened.options.get();
+        return opened.options ? verb.run(request) : refuse(error);
     }
     return usageError(QStringLiteral("unknown verb '%1'").arg(request.verb));
 }

@@ -115,6 +115,12 @@ int parseArguments(QCommandLineParser *parser, const QString &usage, const QStri
         printError(arguments.constFirst() + QLatin1String(": ") + parser->errorText());
         return WrongUsage;
     }
+    // An empty name, as of a variable that is not set, must not mean the user's own settings.
+    const QString settings = QStringLiteral("settings");
+    if (parser->optionNames().contains(settings) && parser->values(settings).contains(QString())) {
+        printError(arguments.constFirst() + QLatin1String(": --settings takes the name of a file"));
+        return WrongUsage;
+    }
     if (parser->isSet(help)) {
         QString text = parser->helpText();
         // The parser would name the program alone.

@@ -43,7 +43,8 @@ int usageError(const QString &text)
 
 bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error)
 {
-    const auto options = openOptions(path, IfMissing::Refuse, error);
+    const OpenedOptions opened = openOptions(path, Access::Read, error);
+    const MRVOptions *options = opened.options.get();
     if (!options)
         return false;
     // The options give the default in place of what cannot be read; here it has to be told.
@@ -284,8 +285,6 @@ QString readOptions(const QCommandLineParser &parser, const Action &action, Requ
         }
     }
     request->settings = parser.value(QStringLiteral("settings"));
-    if (parser.isSet(QStringLiteral("settings")) && request->settings.isEmpty())
-        return QStringLiteral("--settings takes the name of a file");
     if (!request->settings.isEmpty() && !request->schemes.isEmpty())
         return QStringLiteral("either --settings or a scheme can be given");
     if (request->schemes.size() > action.mostSchemes)

@@ -3,6 +3,8 @@
 
 #include <QTemporaryDir>
 
+#include <array>
+
 /** "mrv autoreplace", run as a stranger would. */
 class TestMrvAutoReplace : public QObject
 {
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void commands();
     void longLine();
     void otherFiles();
+    void manyAtOnce();
 };
 
 // Blanks part arguments; "␣" is one inside of an argument.
@@ -78,6 +81,22 @@ void TestMrvAutoReplace::otherFiles()
     }
     QCOMPARE(bytesOf(prose), QByteArray("Call me Ishmael.\n"));
     QCOMPARE(mrv("list", folder.filePath("missing.ini")).exitCode, 1);
+}
+
+// Each takes the list as it finds it, and puts it back.
+void TestMrvAutoReplace::manyAtOnce()
+{
+    QTemporaryDir folder;
+    const QString settings = folder.filePath("settings.ini");
+    std::array<QProcess, 12> processes;
+    for (QProcess &process : processes)
+        process.start(MRV_TOOL,
+                      {"autoreplace", "add", QString("m%1").arg(&process - &processes[0]), "r",
+                       "--settings", settings});
+    for (QProcess &process : processes)
+        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+    QCOMPARE(mrv("list", settings).output.count("“m"), 12);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {"settings.ini"});
 }
 
 QTEST_APPLESS_MAIN(TestMrvAutoReplace)
