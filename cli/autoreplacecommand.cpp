@@ -33,7 +33,8 @@ struct Verb
     int leastArguments;
     int mostArguments;
     const char *missing; // what is
-    IfMissing ifMissing; // the settings file
+    const char *options; // of its own, parted by blanks
+    Access access; // to the settings file
     int (*run)(const Request &request);
 };
 
@@ -251,13 +252,13 @@ int runReset(const Request &request)
 constexpr int AnyNumber = 1 << 30;
 
 constexpr Verb verbs[] = {
-    {"show", 1, AnyNumber, "an input", IfMissing::Refuse, runShow},
-    {"list", 0, 0, "", IfMissing::Refuse, runList},
-    {"add", 2, 2, "a match or its replacement", IfMissing::Create, runAdd},
-    {"remove", 1, 2, "a match", IfMissing::Create, runRemove},
-    {"enable", 1, 2, "a match", IfMissing::Create, runEnable},
-    {"disable", 1, 2, "a match", IfMissing::Create, runDisable},
-    {"reset", 0, 0, "", IfMissing::Create, runReset},
+    {"show", 1, AnyNumber, "an input", "from encoding word-ends", Access::Read, runShow},
+    {"list", 0, 0, "", "", Access::Read, runList},
+    {"add", 2, 2, "a match or its replacement", "disabled", Access::Create, runAdd},
+    {"remove", 1, 2, "a match", "", Access::Create, runRemove},
+    {"enable", 1, 2, "a match", "", Access::Create, runEnable},
+    {"disable", 1, 2, "a match", "", Access::Create, runDisable},
+    {"reset", 0, 0, "", "", Access::Create, runReset},
 };
 
 void addOptions(QCommandLineParser *parser)
@@ -276,7 +277,9 @@ void addOptions(QCommandLineParser *parser)
         "The text is typed character by character. After each one the longest match that ends\n"
         "before the caret is replaced at once, and typing goes on behind the replacement. A line\n"
         "is a paragraph; columns count UTF-16 units from 1 in the text as it was given. Editing\n"
-        "prints the entries that changed. Exit code 1: nothing is replaced, or no such entry."));
+        "prints the entries that changed. A match or replacement that looks like an option goes\n"
+        "behind --, as in: mrv autoreplace add --settings FILE -- --x y\n"
+        "Exit code 1: nothing is replaced, no such entry, or a stored list that is damaged."));
     parser->addPositionalArgument(QStringLiteral("VERB"), QStringLiteral("What to do."));
     addInputOptions(parser);
     parser->addOption(
@@ -295,6 +298,7 @@ void addOptions(QCommandLineParser *parser)
 QStringList sorted(const QStringList &arguments)
 {
     static const QRegularExpression option(QStringLiteral("^(--[a-z]|-h$)"));
+    static const QRegularExpression takesValue(QStringLiteral("^--(settings|from|encoding)$"));
     QStringList options{arguments.constFirst()};
     QStringList texts;
     for (int i = 1; i < arguments.size(); ++i) {
@@ -304,13 +308,64 @@ QStringList sorted(const QStringList &arguments)
         }
         const bool isOption = option.match(arguments.at(i)).hasMatch();
         (isOption ? options : texts).append(arguments.at(i));
-        if (arguments.at(i) == QLatin1String("--settings") && i + 1 < arguments.size()) {
+        if (takesValue.match(arguments.at(i)).hasMatch() && i + 1 < arguments.size()) {
             options.append(arguments.at(++i));
         }
     }
     const bool edits =
         QStringLiteral("add remove enable disable").split(u' ').contains(texts.value(0));
     return edits ? options + QStringList{QStringLiteral("--")} + texts : arguments;
+}
+
+// Empty where the arguments are right.
+QString objectionTo(const QCommandLineParser &parser, const Verb &verb,
+                    const QStringList &arguments)
+{
+    const QStringList known = QString::fromLatin1(verb.options).split(u' ')
+        + QStringList{QStringLiteral("settings"), QStringLiteral("json")};
+    const QStringList given = parser.optionNames();
+    for (const QString &option : given) {
+        if (!known.contains(option))
+            return QStringLiteral("%1 takes no option '%2'").arg(QLatin1String(verb.name), option);
+    }
+    if (arguments.size() < verb.leastArguments)
+        return QStringLiteral("%1 is missing").arg(QLatin1String(verb.missing));
+    if (arguments.size() > verb.mostArguments)
+        return QStringLiteral("'%1' is one argument too many")
+            .arg(arguments.at(verb.mostArguments));
+    if (verb.run != runShow && arguments.value(0, QStringLiteral("-")).isEmpty())
+        return QStringLiteral("the match is empty");
+    return QString();
+}
+
+// The options give what could be read, or the default, in place of a list that cannot be read whole.
+QString damageOf(const MRVOptions &options)
+{
+    const QString key = options.keyText(MRVOptions::SubstitutionList);
+    const QByteArray stored = options.QSettings::value(key).toByteArray();
+    QString reason;
+    MRVAutoReplaceList list;
+    if (!stored.isEmpty())
+        list.fromByteArray(stored, &reason);
+    return reason.isEmpty() ? QString()
+                            : QStringLiteral("the list in %1: %2").arg(options.fileName(), reason);
+}
+
+int runVerb(const Verb &verb, const QString &settings, Request *request)
+{
+    QString error;
+    const OpenedOptions opened = openOptions(settings, verb.access, &error);
+    if (!opened.options)
+        return refuse(error);
+    request->options = opened.options.get();
+    const QString damage = verb.run == runReset ? QString() : damageOf(*opened.options);
+    if (damage.isEmpty())
+        return verb.run(*request);
+    // What is only shown may be of use still; a change would make the loss last.
+    refuse(verb.access == Access::Read ? damage : damage + QLatin1String("; it can be reset"));
+    if (verb.access == Access::Read)
+        verb.run(*request);
+    return Failed;
 }
 
 } // namespace
@@ -320,7 +375,8 @@ int runAutoReplace(const QStringList &arguments)
     QCommandLineParser parser;
     addOptions(&parser);
     const int code = parseArguments(
-        &parser, QStringLiteral("autoreplace VERB [ARGUMENTS] [OPTIONS]"), sorted(arguments));
+        &parser, QStringLiteral("autoreplace VERB [ARGUMENTS] [OPTIONS]"), sorted(arguments),
+        QStringLiteral(" Texts that look like options go behind '--'."));
     if (code >= 0)
         return code;
     Request request;
@@ -337,21 +393,12 @@ int runAutoReplace(const QStringList &arguments)
         if (request.verb != QLatin1String(verb.name)) {
             continue;
         }
-        if (request.arguments.size() < verb.leastArguments)
-            return usageError(QStringLiteral("%1 is missing").arg(QLatin1String(verb.missing)));
-        if (request.arguments.size() > verb.mostArguments)
-            return usageError(QStringLiteral("'%1' is one argument too many")
-                                  .arg(request.arguments.at(verb.mostArguments)));
-        QString error;
-        if (verb.run == runShow
-            && !readInputOptions(parser, request.arguments, &request.input, &error))
+        QString error = objectionTo(parser, verb, request.arguments);
+        if (!error.isEmpty()
+            || (verb.run == runShow
+                && !readInputOptions(parser, request.arguments, &request.input, &error)))
             return usageError(error);
-        if (verb.run != runShow && request.arguments.value(0, QStringLiteral("-")).isEmpty())
-            return usageError(QStringLiteral("the match is empty"));
-        const auto options =
-            openOptions(parser.value(QStringLiteral("settings")), verb.ifMissing, &error);
-        request.options = options.get();
-        return options ? verb.run(request) : refuse(error);
+        return runVerb(verb, parser.value(QStringLiteral("settings")), &request);
     }
     return usageError(QStringLiteral("unknown verb '%1'").arg(request.verb));
 }

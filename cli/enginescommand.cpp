@@ -28,7 +28,7 @@ struct Verb
 {
     const char *name;
     int arguments;
-    IfMissing ifMissing; // the settings file
+    Access access; // to the settings file
     int (*run)(const Request &request);
 };
 
@@ -166,10 +166,10 @@ int runReset(const Request &request)
 }
 
 constexpr Verb verbs[] = {
-    {"list", 0, IfMissing::Refuse, runList},
-    {"show", 2, IfMissing::Refuse, runShow},
-    {"set", 3, IfMissing::Create, runSet},
-    {"reset", 0, IfMissing::Refuse, runReset},
+    {"list", 0, Access::Read, runList},
+    {"show", 2, Access::Read, runShow},
+    {"set", 3, Access::Create, runSet},
+    {"reset", 0, Access::Change, runReset},
 };
 
 } // namespace
@@ -215,12 +215,12 @@ int runEngines(const QStringList &arguments)
             (i == 0 ? request.from : request.to) = format;
         }
         QString error;
-        const auto options =
-            openOptions(parser.value(QStringLiteral("settings")), verb.ifMissing, &error);
-        if (!options)
+        const OpenedOptions opened =
+            openOptions(parser.value(QStringLiteral("settings")), verb.access, &error);
+        if (!opened.options)
             return refuse(error);
-        MRVImportExportConfig config(options.get());
-        request.options = options.get();
+        MRVImportExportConfig config(opened.options.get());
+        request.options = opened.options.get();
         request.config = &config;
         return verb.run(request);
     }

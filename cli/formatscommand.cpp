@@ -84,9 +84,9 @@ int runFormats(const QStringList &arguments)
     if (code >= 0)
         return code;
     QString error;
-    const auto options =
-        openOptions(parser.value(QStringLiteral("settings")), IfMissing::Refuse, &error);
-    if (!options) {
+    const OpenedOptions opened =
+        openOptions(parser.value(QStringLiteral("settings")), Access::Read, &error);
+    if (!opened.options) {
         printError(QLatin1String("formats: ") + error);
         return Failed;
     }
@@ -103,7 +103,7 @@ int runFormats(const QStringList &arguments)
         }
     }
     bool found = false;
-    const MRVImportExportConfig config(options.get());
+    const MRVImportExportConfig config(opened.options.get());
     const QList<Entry> all = entries(config);
     for (const Entry &entry : all) {
         if ((asked.isEmpty() || chosen.contains(entry.info.format))

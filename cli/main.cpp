@@ -106,13 +106,22 @@ void showProgress(const QString &text)
     }
 }
 
-int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments)
+int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments,
+                   const QString &hint)
 {
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     parser->addOption(help);
     if (!parser->parse(arguments)) {
-        printError(arguments.constFirst() + QLatin1String(": ") + parser->errorText());
+        const bool isUnknown = !parser->unknownOptionNames().isEmpty();
+        printError(arguments.constFirst() + QLatin1String(": ") + parser->errorText()
+                   + (isUnknown ? hint : QString()));
+        return WrongUsage;
+    }
+    // An empty name, as of a variable that is not set, must not mean the user's own settings.
+    const QString settings = QStringLiteral("settings");
+    if (parser->optionNames().contains(settings) && parser->values(settings).contains(QString())) {
+        printError(arguments.constFirst() + QLatin1String(": --settings takes the name of a file"));
         return WrongUsage;
     }
     if (parser->isSet(help)) {

@@ -1,4 +1,5 @@
 #include "command.h"
+#include "settingsfile.h"
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
@@ -18,6 +19,7 @@ struct Request
 {
     QStringList arguments; // of the action
     QString settings; // path; empty for the user's own presets
+    MRVOptions *options = nullptr; // in that file; null where presets of a file are read
     QString file; // path of a preset file to read instead
     bool onlyThese = false;
     bool json = false;
@@ -77,19 +79,6 @@ int usageError(const QString &text)
     return WrongUsage;
 }
 
-// Settings that are written for the first time need not be there.
-QString faultOfSettings(const QString &path, bool mayBeNew)
-{
-    const QFileInfo info(path);
-    if (!info.exists() && mayBeNew)
-        return QString();
-    if (!info.isFile() || !info.isReadable())
-        return QStringLiteral("%1 cannot be read").arg(path);
-    return MRVOptions(path).status() == QSettings::NoError
-        ? QString()
-        : QStringLiteral("%1 is not a settings file").arg(path);
-}
-
 bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *error)
 {
     QString reason;
@@ -113,9 +102,9 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
         *scheme = MRVTextPresetMgr::loadPresetScheme();
         return true;
     }
-    const MRVOptions options(request.settings);
     QString reason;
-    *scheme = MRVTextPresetScheme::fromByteArray(options.value(MRVOptions::TextPresets), &reason);
+    *scheme = MRVTextPresetScheme::fromByteArray(request.options->value(MRVOptions::TextPresets),
+                                                 &reason);
     if (!reason.isEmpty())
         *error = request.settings + QLatin1String(": ") + reason;
     return error->isEmpty();
@@ -124,9 +113,9 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
 bool writePresets(const Request &request, const MRVTextPresetScheme &scheme, QString *error)
 {
     if (!request.settings.isEmpty()) {
-        MRVOptions options(request.settings);
-        options.setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
-        return options.saveNow(error);
+        request.options->setValue(MRVOptions::TextPresets,
+                                  MRVTextPresetScheme::toByteArray(scheme));
+        return request.options->saveNow(error);
     }
     MRVTextPresetMgr::savePresetScheme(scheme);
     // The file may have been impossible to write, and the settings then be hidden by an older file.
@@ -271,27 +260,29 @@ struct Action
 {
     const char *name;
     bool takesOne; // argument, else any number of names
-    bool writes;
+    Access access; // to the settings file
     int (*run)(const Request &request, MRVTextPresetScheme scheme);
 };
 
 constexpr Action actions[] = {
-    {"list", false, false, list},        {"show", false, false, show},
-    {"export", true, false, exportTo},   {"import", true, true, importFrom},
-    {"remove", false, true, removeFrom},
+    {"list", false, Access::Read, list},           {"show", false, Access::Read, show},
+    {"export", true, Access::Read, exportTo},      {"import", true, Access::Create, importFrom},
+    {"remove", false, Access::Change, removeFrom},
 };
 
-int runAction(const Action &action, const Request &request)
+int runAction(const Action &action, Request request)
 {
     const int count = request.arguments.size();
     if (action.run == list ? count > 0 : (count == 0 || (action.takesOne && count > 1)))
         return usageError(
             QStringLiteral("wrong number of arguments for '%1'").arg(QLatin1String(action.name)));
-    if (action.writes && !request.file.isEmpty())
+    if (action.access != Access::Read && !request.file.isEmpty())
         return usageError(QStringLiteral("--file is only for list, show and export"));
     QString error;
-    if (!request.settings.isEmpty())
-        error = faultOfSettings(request.settings, action.run == importFrom);
+    OpenedOptions opened;
+    if (request.file.isEmpty())
+        opened = openOptions(request.settings, action.access, &error);
+    request.options = opened.options.get();
     MRVTextPresetScheme scheme;
     // What is there may be damaged when all of it is to be replaced.
     const bool isReplaced = request.onlyThese && action.run == importFrom;

@@ -238,10 +238,10 @@ int importFrom(const Request &request)
 {
     const QString path = request.arguments.constFirst();
     QString error;
-    const auto source = openOptions(path, IfMissing::Refuse, &error);
-    if (!source)
+    const OpenedOptions source = openOptions(path, Access::Read, &error);
+    if (!source.options)
         return refuse(error);
-    if (source->allKeys().isEmpty())
+    if (source.options->allKeys().isEmpty())
         return refuse(QStringLiteral("%1: there are no settings in it").arg(path));
     request.options->loadFromFile(path);
     return request.options->saveNow(&error) ? Done : refuse(error);
@@ -254,20 +254,20 @@ struct Action
     const char *name;
     int least; // number of arguments
     int most;
-    IfMissing ifMissing; // the settings file
+    Access access; // to the settings file
     int (*run)(const Request &request);
 };
 
 // clang-format off
 constexpr Action actions[] = {
-    {"get",     1, Any, IfMissing::Refuse, get},
-    {"set",     2, Any, IfMissing::Create, set},
-    {"reset",   1, Any, IfMissing::Refuse, reset},
-    {"list",    0, Any, IfMissing::Refuse, list},
-    {"explain", 1, Any, IfMissing::Refuse, explain},
-    {"changed", 0, 0,   IfMissing::Refuse, changed},
-    {"export",  1, 1,   IfMissing::Refuse, exportTo},
-    {"import",  1, 1,   IfMissing::Create, importFrom},
+    {"get",     1, Any, Access::Read, get},
+    {"set",     2, Any, Access::Create, set},
+    {"reset",   1, Any, Access::Change, reset},
+    {"list",    0, Any, Access::Read, list},
+    {"explain", 1, Any, Access::Read, explain},
+    {"changed", 0, 0,   Access::Read, changed},
+    {"export",  1, 1,   Access::Read, exportTo},
+    {"import",  1, 1,   Access::Create, importFrom},
 };
 // clang-format on
 
@@ -289,10 +289,10 @@ QStringList withNumbersLast(QStringList arguments)
 int runAction(const Action &action, Request *request, const QString &path)
 {
     QString error;
-    const auto options = openOptions(path, action.ifMissing, &error);
-    if (!options)
+    const OpenedOptions opened = openOptions(path, action.access, &error);
+    if (!opened.options)
         return refuse(error);
-    request->options = options.get();
+    request->options = opened.options.get();
     return action.run(*request);
 }
 

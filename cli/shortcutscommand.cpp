@@ -1,5 +1,6 @@
 #include "command.h"
 #include "settingsfile.h"
+#include "suggestion.h"
 #include "textsearch.h"
 
 #include "core/mrvfilewriter.h"
@@ -43,7 +44,8 @@ int usageError(const QString &text)
 
 bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error)
 {
-    const auto options = openOptions(path, IfMissing::Refuse, error);
+    const OpenedOptions opened = openOptions(path, Access::Read, error);
+    const MRVOptions *options = opened.options.get();
     if (!options)
         return false;
     // The options give the default in place of what cannot be read; here it has to be told.
@@ -60,15 +62,21 @@ bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error
 
 bool readNamed(const QString &name, MRVShortcutScheme *scheme, QString *error)
 {
+    // First, whatever lies in the current folder.
+    *scheme = MRVShortcutScheme::predefinedScheme(name);
+    if (scheme->name() == name)
+        return true;
     if (QFileInfo::exists(name)) {
         *scheme = MRVShortcutScheme::load(name, error);
         return error->isEmpty();
     }
-    *scheme = MRVShortcutScheme::predefinedScheme(name);
-    if (scheme->name() == name)
-        return true;
-    *error = QStringLiteral("%1: there is no such file, and no predefined scheme of that name")
-                 .arg(name);
+    QStringList names;
+    const QList<MRVShortcutScheme> predefined = MRVShortcutScheme::predefinedSchemes();
+    for (const MRVShortcutScheme &one : predefined)
+        names.append(one.name());
+    *error =
+        QStringLiteral("%1: there is no such file, and no predefined scheme of that name").arg(name)
+        + didYouMean(name, names);
     return false;
 }
 
@@ -231,12 +239,10 @@ constexpr Action actions[] = {
 void addOptions(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(QStringLiteral(
-        "Shows and checks keyboard shortcuts. SCHEME is a file of a shortcut scheme or the name of "
-        "a\n"
-        "predefined one (Morvane, Microsoft Word, Open Office, Mac Morvane); without it, the "
-        "scheme\n"
-        "is that of the settings. Commands that it lacks get their default, as in the "
-        "application.\n\n"
+        "Shows and checks keyboard shortcuts. SCHEME is a file of a shortcut scheme or the\n"
+        "name of a predefined one (Morvane, Microsoft Word, Open Office, Mac Morvane; a file of\n"
+        "such a name is ./Morvane); without it, the scheme is that of the settings. Commands that\n"
+        "it lacks get their default, as in the application.\n\n"
         "  list [SCHEME]            list the commands with their keys and texts\n"
         "  check [SCHEME]           find keys that would not work; exit code 1 if there are any\n"
         "  diff [BEFORE] [AFTER]    list what changed; with one SCHEME or none, from the default\n"
@@ -284,16 +290,14 @@ QString readOptions(const QCommandLineParser &parser, const Action &action, Requ
         }
     }
     request->settings = parser.value(QStringLiteral("settings"));
-    if (parser.isSet(QStringLiteral("settings")) && request->settings.isEmpty())
-        return QStringLiteral("--settings takes the name of a file");
     if (!request->settings.isEmpty() && !request->schemes.isEmpty())
         return QStringLiteral("either --settings or a scheme can be given");
     if (request->schemes.size() > action.mostSchemes)
         return QStringLiteral("%1 takes fewer schemes").arg(QLatin1String(action.name));
     const QString keys = parser.value(QStringLiteral("keys"));
-    request->keys = QKeySequence(keys, QKeySequence::PortableText);
-    if (parser.isSet(QStringLiteral("keys")) && portable(request->keys).isEmpty())
-        return QStringLiteral("'%1' names no keys").arg(keys);
+    request->keys = MRVShortcutScheme::toSequence(keys);
+    if (parser.isSet(QStringLiteral("keys")) && request->keys.isEmpty())
+        return QStringLiteral("'%1' holds what is no key").arg(keys);
     const QString format = parser.value(QStringLiteral("to"));
     request->asText = format == QLatin1String("text");
     if (!request->asText && format != QLatin1String("scheme"))
@@ -301,7 +305,14 @@ QString readOptions(const QCommandLineParser &parser, const Action &action, Requ
     request->storedOnly = parser.isSet(QStringLiteral("stored"));
     request->filter = parser.value(QStringLiteral("filter"));
     request->group = parser.value(QStringLiteral("group"));
+    const QStringList groups = MRVShortcutScheme::morvane().shortcutGroups();
+    if (parser.isSet(QStringLiteral("group"))
+        && !groups.contains(request->group, Qt::CaseInsensitive))
+        return QStringLiteral("unknown group '%1'; known are %2")
+            .arg(request->group, groups.join(QLatin1String(", ")));
     request->output = parser.value(QStringLiteral("output"));
+    if (parser.isSet(QStringLiteral("output")) && request->output.isEmpty())
+        return QStringLiteral("--output takes the name of a file");
     request->json = parser.isSet(QStringLiteral("json"));
     return QString();
 }

@@ -17,7 +17,10 @@ private Q_SLOTS:
     void matchesOfDefaults();
     void agreesWithScan();
     void seesChanges();
-    void readsWhatIsThere_data() { addRows("autoreplaceforms.tsv", {"case", "bytes", "entries"}); }
+    void readsWhatIsThere_data()
+    {
+        addRows("autoreplaceforms.tsv", {"case", "bytes", "entries", "whole"});
+    }
     void readsWhatIsThere();
     void missingOrdinals();
     void entryStream();
@@ -174,7 +177,9 @@ void TestAutoReplace::readsWhatIsThere()
 {
     QFETCH(QString, bytes);
     MRVAutoReplaceList list{{true, "to be", "cleared"}};
-    list.fromByteArray(QByteArray::fromHex(bytes.toLatin1()));
+    QString error;
+    list.fromByteArray(QByteArray::fromHex(bytes.toLatin1()), &error);
+    QTEST(QString(error.isEmpty() ? "whole" : ""), "whole");
     QStringList entries;
     for (const MRVAutoReplace &entry : qAsConst(list))
         entries << entry.match + '=' + entry.replacement + (entry.enabled ? "" : " off");

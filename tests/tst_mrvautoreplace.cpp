@@ -1,7 +1,12 @@
 #include "datarows.h"
 #include "support.h"
 
+#include "autoreplace/mrvautoreplacelist.h"
+
+#include <QSettings>
 #include <QTemporaryDir>
+
+#include <array>
 
 /** "mrv autoreplace", run as a stranger would. */
 class TestMrvAutoReplace : public QObject
@@ -16,6 +21,8 @@ private Q_SLOTS:
     void commands();
     void longLine();
     void otherFiles();
+    void manyAtOnce();
+    void damagedList();
 };
 
 // Blanks part arguments; "␣" is one inside of an argument.
@@ -78,6 +85,43 @@ void TestMrvAutoReplace::otherFiles()
     }
     QCOMPARE(bytesOf(prose), QByteArray("Call me Ishmael.\n"));
     QCOMPARE(mrv("list", folder.filePath("missing.ini")).exitCode, 1);
+}
+
+// Each takes the list as it finds it, and puts it back.
+void TestMrvAutoReplace::manyAtOnce()
+{
+    QTemporaryDir folder;
+    const QString settings = folder.filePath("settings.ini");
+    std::array<QProcess, 12> processes;
+    for (QProcess &process : processes)
+        process.start(MRV_TOOL,
+                      {"autoreplace", "add", QString("m%1").arg(&process - &processes[0]), "r",
+                       "--settings", settings});
+    for (QProcess &process : processes)
+        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+    QCOMPARE(mrv("list", settings).output.count("“m"), 12);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {"settings.ini"});
+}
+
+// What is left of a damaged list is shown, but nothing is stored in its place.
+void TestMrvAutoReplace::damagedList()
+{
+    QTemporaryDir folder;
+    const QString settings = folder.filePath("settings.ini");
+    const QString key = "Options/AutoCorrection/substitutionList";
+    const QByteArray whole = MRVAutoReplaceList::defaultReplacementsByteArray();
+    for (const QByteArray &damaged : {whole.left(100), '\1' + whole.mid(1), QByteArray("text")}) {
+        QSettings(settings, QSettings::IniFormat).setValue(key, damaged);
+        for (const char *edit : {"add x y", "remove (c)", "enable 1/2", "disable (c)"})
+            QVERIFY(mrv(edit, settings).errors.contains(settings));
+        QCOMPARE(QSettings(settings, QSettings::IniFormat).value(key).toByteArray(), damaged);
+        const Ran list = mrv("list", settings);
+        QVERIFY(list.exitCode == 1 && list.errors.contains(settings));
+        QVERIFY(list.output.startsWith("on  “(c)”"));
+        QCOMPARE(mrv("show -", settings, "(c)").exitCode, 1);
+        QCOMPARE(mrv("reset", settings).exitCode, 0);
+        QCOMPARE(mrv("add x y", settings).exitCode, 0);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestMrvAutoReplace)

@@ -3,6 +3,8 @@
 
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 /** The tool's command for preferences, run as a stranger would. */
 class tst_MrvSettings : public QObject
 {
@@ -95,6 +97,13 @@ void tst_MrvSettings::losesNothing()
     QCOMPARE(mrv("export @a.ini --settings @a.ini").exitCode, 1);
     QVERIFY(writeBytes(in("file"), "x"));
     QCOMPARE(mrv("set Backups/retain 7 --settings @file/a.ini").exitCode, 1);
+    QCOMPARE(mrv("set Backups/retain 7 --settings @no/folder/a.ini").exitCode, 1);
+    QVERIFY(!QFile::exists(in("no")));
+    QCOMPARE(::mkfifo(qPrintable(in("pipe")), 0600), 0);
+    QVERIFY(mrv("set Backups/retain 7 --settings @pipe").errors.contains("not a regular file"));
+    QVERIFY(mrv("list --settings @pipe").errors.contains("not a regular file"));
+    QCOMPARE(mrv("set Backups/retain 7 --settings ").exitCode, 2);
+    QVERIFY(!QFile::exists(in("home")));
     QCOMPARE(mrv("list retain --settings @none.ini").exitCode, 1);
 }
 

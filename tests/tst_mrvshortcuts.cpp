@@ -27,8 +27,9 @@ private:
     {
         QStringList list = arguments.split(' ', Qt::SkipEmptyParts);
         for (QString &argument : list)
-            argument.replace('@', m_folder.path() + '/').replace(u'␣', ' ');
-        return run(MRV_TOOL, QStringList("shortcuts") + list);
+            argument.replace('@', m_folder.path() + '/').replace(u'␣', ' ').remove(u'␠');
+        // From the test's folder, in which a folder has the name of a scheme.
+        return run("env", QStringList{"-C", m_folder.path(), MRV_TOOL, "shortcuts"} + list);
     }
 
     QTemporaryDir m_folder;
@@ -49,6 +50,7 @@ void tst_MrvShortcuts::initTestCase()
                    Scheme::toHash({save, entry(MRVShortcut::ZoomIn, "Ctrl++", "Big"),
                                    entry(MRVShortcut::OpenProject, "Ctrl+S,F2", "Open")}));
     QVERIFY(a.save(in("a.scheme")) && b.save(in("b.scheme")));
+    QVERIFY(QDir(m_folder.path()).mkdir("Open Office"));
     const QByteArray cut = a.toByteArray().chopped(9);
     QVERIFY(writeBytes(in("cut.scheme"), cut));
     const QString key = "Options/Shortcut/defaultShortcutScheme";

@@ -150,7 +150,7 @@ QByteArray MRVAutoReplaceList::toByteArray() const
     return data;
 }
 
-void MRVAutoReplaceList::fromByteArray(const QByteArray &data)
+void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
 {
     clear();
     QDataStream stream(data);
@@ -158,8 +158,11 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data)
     qint32 version = 0;
     qint32 count = 0;
     stream >> version;
-    if (version != ListVersion)
+    if (version != ListVersion) {
+        if (error)
+            *error = tr("it is no auto-replace list of a known version");
         return;
+    }
     stream >> count;
     // The count is only believed as far as the data go.
     for (qint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
@@ -171,6 +174,8 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data)
             append(entry);
         }
     }
+    if (error && (count < 0 || stream.status() != QDataStream::Ok || !stream.atEnd()))
+        *error = tr("it is damaged or cut short; entries that could be read: %n", nullptr, size());
 }
 
 void MRVAutoReplaceList::appendMissingOrdinals(MRVAutoReplaceList *list)

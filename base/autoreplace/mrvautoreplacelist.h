@@ -4,6 +4,7 @@
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
@@ -33,6 +34,8 @@ class MRVAutoReplaceIndex;
  */
 class MRVBASE_EXPORT MRVAutoReplaceList : public QList<MRVAutoReplace>
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVAutoReplaceList)
+
 public:
     using List = QList<MRVAutoReplace>;
 
@@ -63,8 +66,11 @@ public:
      * Replaces the list by what is stored in @p data. Entries without any text are left out. Another
      * version than 1 gives an empty list; data that end early or are damaged give what stands before,
      * where of a last entry the replacement may be missing.
+     *
+     * @param error if given, receives a translated reason when not all of @p data could be read; untouched
+     *              otherwise.
      */
-    void fromByteArray(const QByteArray &data);
+    void fromByteArray(const QByteArray &data, QString *error = nullptr);
 
     /**
      * Appends those entries of MRVAutoReplace::ordinals() whose match and replacement no entry of the

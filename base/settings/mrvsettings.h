@@ -190,8 +190,8 @@ public:
      * it compared with the one in memory.
      *
      * Where what was written is not whole, as on a disk that has filled up, the file is written once more
-     * through MRVFileWriter, else the old file is put back. Changes that could not be saved stay in
-     * memory, and are tried again with the next one.
+     * through MRVFileWriter, else the old file is put back. What is no regular file is not written to.
+     * Changes that could not be saved stay in memory, and are tried again with the next one.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return whether the file holds all that the store does; also when there was nothing to save.
@@ -237,6 +237,7 @@ private:
     void recordChange(const QString &key);
     void replaceGroupIn(QSettings *file) const;
     bool save(Saving saving, QString *error);
+    void stall();
     void setAgain(const QMap<QString, QVariant> &old, const QMap<QString, QVariant> &wanted);
 
     int m_timerId = -1;

@@ -107,6 +107,11 @@ bool isSaved(const QString &path, QSettings::Format format, const QByteArray &be
             || leftOver(found, wanted, valuesIn(before, format)).isEmpty());
 }
 
+QString notWritten(const QString &path, const QString &reason)
+{
+    return MRVSettings::tr("Cannot write the file \"%1\": %2").arg(path, reason);
+}
+
 // Adds to the file what it lacks of what was to be saved, and keeps what others have changed.
 bool repair(const QString &path, QSettings::Format format, const QByteArray &before,
             const MRVSettingsMap &wanted, QString *error)
@@ -126,7 +131,10 @@ bool repair(const QString &path, QSettings::Format format, const QByteArray &bef
             }
         },
         error);
-    return error->isEmpty() && MRVFileWriter::write(path, whole, error);
+    if (error->isEmpty())
+        return MRVFileWriter::write(path, whole, error);
+    *error = notWritten(path, *error); // which is about the temporary file
+    return false;
 }
 
 bool fail(QString *error, const QString &reason)
@@ -134,6 +142,18 @@ bool fail(QString *error, const QString &reason)
     if (error)
         *error = reason;
     return false;
+}
+
+// A pipe never ends, and QSettings would put a file in place of a device.
+bool isOtherThanFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile();
+}
+
+QString notRegular(const QString &path)
+{
+    return notWritten(path, MRVSettings::tr("it is not a regular file"));
 }
 
 } // namespace
@@ -163,6 +183,13 @@ bool MRVSettings::save(Saving saving, QString *error)
     const QString path = fileName();
     if (path.isEmpty())
         return fail(error, tr("The settings have no file"));
+    if (isOtherThanFile(path)) {
+        // Or QSettings would write when it goes.
+        if (saving == Saving::Last)
+            QSettings::clear();
+        stall();
+        return fail(error, notRegular(path));
+    }
     const QByteArray before = bytesOf(path);
     const MRVOldSettingsFile oldFile(path, before);
     if (m_isDirty) {
@@ -184,7 +211,7 @@ bool MRVSettings::save(Saving saving, QString *error)
     QString reason;
     QLockFile lock(path + QLatin1String(".lock"));
     if (isLockedByOther(&lock)) {
-        reason = tr("Cannot write the file \"%1\": it is locked").arg(path);
+        reason = notWritten(path, tr("it is locked"));
     } else if (repair(path, format(), before, wanted, &reason)) {
         m_isDirty = false;
         return true;
@@ -214,7 +241,12 @@ void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &want
         if (isOurs(it.key()) && !isUnchanged(it, old))
             QSettings::setValue(it.key().mid(prefix), it.value());
     }
-    // Not at once, which would go on and on, but with the next change.
+    stall();
+}
+
+// Not at once, which would go on and on, but with the next change.
+void MRVSettings::stall()
+{
     QCoreApplication::removePostedEvents(this, QEvent::UpdateRequest);
     m_isStalled = true;
 }
@@ -235,18 +267,22 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
     const QString same = QFileInfo(path).canonicalFilePath();
     if (!same.isEmpty() && same == QFileInfo(this->fileName()).canonicalFilePath())
         return saveNow(error);
+    if (isOtherThanFile(path))
+        return fail(error, notRegular(path));
     QString reason;
     QLockFile lock(path + QLatin1String(".lock"));
     removeDeadLock(path);
     if (isLockedByOther(&lock))
-        return fail(error, tr("Cannot write the file \"%1\": it is locked").arg(path));
+        return fail(error, notWritten(path, tr("it is locked")));
     const QByteArray before =
         QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, &reason) : QByteArray();
     if (!reason.isEmpty())
         return fail(error, reason);
     const QByteArray bytes = mrvEditedSettings(
         before, [this](QSettings *file) { replaceGroupIn(file); }, &reason);
-    return (reason.isEmpty() && MRVFileWriter::write(path, bytes, &reason)) || fail(error, reason);
+    if (!reason.isEmpty())
+        return fail(error, notWritten(path, reason));
+    return MRVFileWriter::write(path, bytes, &reason) || fail(error, reason);
 }
 
 void MRVSettings::loadFromFile(const QString &fileName)

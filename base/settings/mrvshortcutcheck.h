@@ -30,13 +30,14 @@ public:
         Prefix = 1, ///< a chord begins with another command's keys, and is never reached
         DesktopKey = 2, ///< a key that usual desktops or input methods take for themselves
         TypingKey = 3, ///< begins with a key that is needed for writing: a letter, Return, an arrow
+        UnnamedKey = 4, ///< a key without a portable text, which is lost when the scheme is stored
     };
 
     struct Conflict
     {
         Kind kind;
         Id id; ///< the command; of two, the one that has the shorter keys or else the lower number
-        Id other; ///< the second command; NoId for DesktopKey and TypingKey
+        Id other; ///< the second command; NoId for the kinds of one command
 
         friend bool operator==(const Conflict &a, const Conflict &b)
         {
@@ -54,7 +55,10 @@ public:
 
     MRVShortcutCheck() = delete;
 
-    /** The name of @p kind for files and scripts: "same-key", "prefix", "desktop-key", "typing-key". */
+    /**
+     * The name of @p kind for files and scripts: "same-key", "prefix", "desktop-key", "typing-key",
+     * "unnamed-key".
+     */
     static QString toString(Kind kind);
 
     /**
@@ -84,6 +88,9 @@ public:
 
     /** Whether @p sequence begins with a key that is needed for writing. */
     static bool isTypingKey(const QKeySequence &sequence);
+
+    /** Whether @p sequence has a key without a portable text. */
+    static bool isUnnamedKey(const QKeySequence &sequence);
 
     /**
      * The commands whose keys or texts differ, or that only one of the schemes has, in the order of

@@ -56,21 +56,6 @@ bool readValue(QDataStream &stream, T *value)
     return stream.status() == QDataStream::Ok;
 }
 
-// A text that names no key gives Qt an unknown key, and a null character gives key 0: both make a
-// sequence that is not empty and that no text stands for.
-QKeySequence toSequence(const QString &text)
-{
-    if (text.size() > MaxKeyText)
-        return QKeySequence();
-    const QKeySequence sequence(text, QKeySequence::PortableText);
-    for (int i = 0; i < sequence.count(); ++i) {
-        const int key = sequence[uint(i)] & ~int(Qt::KeyboardModifierMask);
-        if (key == 0 || key == Qt::Key_unknown)
-            return QKeySequence();
-    }
-    return sequence;
-}
-
 } // namespace
 
 MRVShortcutScheme::MRVShortcutScheme(const QString &name)
@@ -80,8 +65,8 @@ MRVShortcutScheme::MRVShortcutScheme(const QString &name)
 
 MRVShortcutScheme::MRVShortcutScheme(const QString &name, const Shortcuts &shortcuts)
     : m_name(name)
-    , m_shortcuts(shortcuts)
 {
+    mergeShortcuts(shortcuts);
 }
 
 MRVShortcutScheme::MRVShortcutScheme(const QByteArray &data, bool mergeDefaults)
@@ -140,14 +125,14 @@ void MRVShortcutScheme::mergeMissingShortcuts(const Shortcuts &shortcuts)
 {
     for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it) {
         if (!m_shortcuts.contains(it.key()))
-            m_shortcuts.insert(it.key(), it.value());
+            setShortcut(it.key(), it.value());
     }
 }
 
 void MRVShortcutScheme::mergeShortcuts(const Shortcuts &shortcuts)
 {
     for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it)
-        m_shortcuts.insert(it.key(), it.value());
+        setShortcut(it.key(), it.value());
 }
 
 void MRVShortcutScheme::mergeCopy(const MRVShortcutScheme &other)
@@ -197,6 +182,21 @@ QStringList MRVShortcutScheme::shortcutGroups() const
     QStringList sorted = groups.values();
     sorted.sort();
     return sorted;
+}
+
+// A text that names no key gives Qt an unknown key, and a null character gives key 0: both make a
+// sequence that is not empty and that no text stands for.
+QKeySequence MRVShortcutScheme::toSequence(const QString &portableText)
+{
+    if (portableText.size() > MaxKeyText)
+        return QKeySequence();
+    const QKeySequence sequence(portableText, QKeySequence::PortableText);
+    for (int i = 0; i < sequence.count(); ++i) {
+        const int key = sequence[uint(i)] & ~int(Qt::KeyboardModifierMask);
+        if (key == 0 || key == Qt::Key_unknown)
+            return QKeySequence();
+    }
+    return sequence;
 }
 
 MRVShortcutScheme::Shortcuts MRVShortcutScheme::toHash(const QList<MRVShortcutInfo> &infos)
@@ -261,7 +261,8 @@ QString MRVShortcutScheme::toText() const
         text += group.toUpper() + u'\n';
         const QList<MRVShortcutInfo> infos = groupShortcuts(group);
         for (const MRVShortcutInfo &info : infos) {
-            text += QLatin1String("  ") + info.text + QLatin1String(": ")
+            // A line break in a text would make another line of it.
+            text += QLatin1String("  ") + info.text.simplified() + QLatin1String(": ")
                 + info.sequence.toString(QKeySequence::NativeText) + u'\n';
         }
     }
@@ -320,9 +321,11 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
     QString version;
     QString name;
     qint32 count = 0;
-    if (readValue(stream, &version) && version != QLatin1String(version_1_0)) {
+    const bool hasVersion = readValue(stream, &version);
+    if (!hasVersion || version != QLatin1String(version_1_0)) {
         if (error)
-            *error = tr("it is no shortcut scheme of a known version");
+            *error = hasVersion ? tr("it is no shortcut scheme of a known version")
+                                : tr("it is no shortcut scheme");
         return;
     }
     if (readValue(stream, &name)) {
@@ -349,14 +352,10 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
 
 QDataStream &operator<<(QDataStream &stream, const MRVShortcutScheme &scheme)
 {
-    QList<MRVShortcut::Id> ids = sortedIds(scheme.m_shortcuts);
-    // No reader takes an entry that names no command.
-    ids.erase(std::remove_if(ids.begin(), ids.end(),
-                             [](MRVShortcut::Id id) { return !MRVShortcut::isValid(id); }),
-              ids.end());
+    const QList<MRVShortcut::Id> ids = sortedIds(scheme.m_shortcuts);
     stream << QString::fromLatin1(MRVShortcutScheme::version_1_0) << scheme.m_name
            << qint32(ids.size());
-    for (const MRVShortcut::Id id : qAsConst(ids)) {
+    for (const MRVShortcut::Id id : ids) {
         const MRVShortcutInfo info = scheme.m_shortcuts.value(id);
         stream << QByteArray(MRVShortcut::valueToKey(id))
                << info.sequence.toString(QKeySequence::PortableText) << info.text;

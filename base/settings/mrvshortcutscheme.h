@@ -22,6 +22,9 @@ class QDataStream;
  * QString text. Entries are written in the order of the identifiers and read in any; of two for one
  * command the later counts. An entry for a command that this version does not know is skipped.
  *
+ * A key that has no portable text, such as an unknown one, is not stored: its entry comes back without
+ * a key. MRVShortcutCheck reports those.
+ *
  * Any bytes can be read. A form of another version is not read at all. Where the bytes end too early
  * or are damaged, what was read whole before that place stays. A key text that names an unknown key
  * gives an entry without a key.
@@ -42,6 +45,7 @@ public:
     /** A null scheme. */
     MRVShortcutScheme() = default;
     explicit MRVShortcutScheme(const QString &name);
+    /** Takes the entries as mergeShortcuts() does. */
     MRVShortcutScheme(const QString &name, const Shortcuts &shortcuts);
 
     /**
@@ -87,10 +91,13 @@ public:
     /** Replaces or adds an entry, whatever id stands in @p info; false where @p id is no command. */
     bool setShortcut(Id id, const MRVShortcutInfo &info);
 
-    /** Adds the entries of commands that have none here. */
+    /**
+     * Adds the entries of commands that have none here. The key of the hash tells the command, whatever
+     * id stands in the entry; what is no command is left out.
+     */
     void mergeMissingShortcuts(const Shortcuts &shortcuts);
 
-    /** Adds all entries, in place of those that are here. */
+    /** Adds all entries, in place of those that are here; see mergeMissingShortcuts(). */
     void mergeShortcuts(const Shortcuts &shortcuts);
 
     /** Merges the entries of @p other, which win, and takes its name. */
@@ -106,6 +113,12 @@ public:
 
     /** The translated menu groups that have entries here, each once, in ascending order. */
     QStringList shortcutGroups() const;
+
+    /**
+     * The key sequence that a portable text such as "Ctrl+G, Ctrl+N" names. Empty where one of its keys
+     * is unknown, and for a text of more than 1024 characters.
+     */
+    static QKeySequence toSequence(const QString &portableText);
 
     /** The entries by their ids; of two with one id the later counts. */
     static Shortcuts toHash(const QList<MRVShortcutInfo> &infos);
@@ -143,6 +156,7 @@ public:
     /**
      * Writes a list for readers, in UTF-8: each menu group in upper case, and below it each entry as
      * two blanks, its text, ": " and its key sequence in native text; an empty line between groups.
+     * White space in the text becomes single blanks.
      *
      * @param error as for save().
      */
