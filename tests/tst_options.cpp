@@ -209,11 +209,14 @@ void tst_Options::explainsOrigin()
     QCOMPARE(options.explain(key).value.toInt(), 9);
     QVERIFY(options.setValue(MRVOptions::BackupsToRetain, 7));
     QCOMPARE(options.explain(key).origin, options.fileName());
+    options.resetAllWarnings();
+    QVERIFY(!QFile::exists(options.fileName())); // which the checked saving alone may write
     QCOMPARE(options.explain(key).value.toInt(), 7);
     QCOMPARE(options.explain(key).defaultValue.toInt(), 5);
     QCOMPARE(options.explain(key).number, int(MRVOptions::BackupsToRetain));
     QVERIFY(options.explain("backups/retain").key.isEmpty());
     options.remove(key);
+    options.clear();
     system.clear();
 }
 
@@ -413,7 +416,10 @@ void tst_Options::warnings()
     QSettings state(file(), QSettings::IniFormat);
     state.setValue("ShowImportWarning", false);
     state.setValue("ShowGettingStarted", false);
+    m_options->beginGroup("Nested");
     m_options->resetAllWarnings();
+    QCOMPARE(m_options->group(), QString("Options/Nested"));
+    m_options->endGroup();
     QVERIFY(!m_options->contains("Warnings/splitScene"));
     QCOMPARE(m_options->value(MRVOptions::BackupsToRetain), 3);
     QVERIFY(state.value("ShowImportWarning").toBool());

@@ -3,27 +3,44 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <utility>
 
 using namespace MRVOptionsTables;
 
 namespace {
 
+// Whether the user's own file has the key, or will have it when it is saved.
+bool isOwn(const MRVOptions &options, const QString &key)
+{
+    // A switch of the object, not of its values.
+    MRVOptions &own = const_cast<MRVOptions &>(options);
+    const bool hasFallbacks = own.fallbacksEnabled();
+    own.setFallbacksEnabled(false);
+    const bool isFound = own.contains(key);
+    own.setFallbacksEnabled(hasFallbacks);
+    return isFound;
+}
+
 // The file that a value comes from: the user's own, or one of those that the system brings, in the
-// order in which QSettings looks them through.
+// order in which QSettings looks them through. The user's own is not opened once more: that would
+// write what is not saved yet, unchecked.
 QString originOf(const MRVOptions &options, const QString &key)
 {
     if (!options.contains(key))
         return QString();
-    if (options.QSettings::organizationName().isEmpty())
+    if (options.QSettings::organizationName().isEmpty() || isOwn(options, key))
         return options.fileName();
-    for (const QSettings::Scope scope : {QSettings::UserScope, QSettings::SystemScope}) {
-        for (const QString &application : {MRVOptions::applicationName(), QString()}) {
-            QSettings file(options.format(), scope, MRVOptions::companyName(), application);
-            file.setFallbacksEnabled(false);
-            file.beginGroup(options.group());
-            if (file.contains(key))
-                return file.fileName();
-        }
+    const std::pair<QSettings::Scope, QString> places[] = {
+        {QSettings::UserScope, QString()},
+        {QSettings::SystemScope, MRVOptions::applicationName()},
+        {QSettings::SystemScope, QString()},
+    };
+    for (const auto &[scope, application] : places) {
+        QSettings file(options.format(), scope, MRVOptions::companyName(), application);
+        file.setFallbacksEnabled(false);
+        file.beginGroup(options.group());
+        if (file.contains(key))
+            return file.fileName();
     }
     return options.fileName();
 }

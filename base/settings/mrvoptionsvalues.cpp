@@ -248,9 +248,11 @@ QString MRVOptions::backupPath() const
 
 void MRVOptions::resetAllWarnings()
 {
-    remove(QStringLiteral("Warnings"));
     // The application state shares the file, but not the group that is open here.
-    MRVSettings state(fileName(), format());
+    const WholeFile whole(this);
+    if (!whole.isOpen())
+        return;
+    remove(QStringLiteral("Options/Warnings"));
     for (const char *key : warningKeys())
-        state.setValue(QString::fromLatin1(key), true);
+        setValue(QString::fromLatin1(key), true);
 }

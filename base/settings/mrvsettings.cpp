@@ -79,8 +79,13 @@ QString toText(const QList<int> &numbers)
 
 MRVSettings::~MRVSettings()
 {
-    if (m_isDirty)
-        save(Saving::Last, nullptr);
+    if (!m_isDirty)
+        return;
+    while (!QSettings::group().isEmpty())
+        QSettings::endGroup();
+    m_openGroups.clear();
+    m_openPath.clear();
+    save(Saving::Last, nullptr);
 }
 
 // What a setting is worth, and where it is stored, is the subclass's business.
@@ -213,6 +218,43 @@ void MRVSettings::setGroup(const QString &group)
         beginGroup(group);
     // As QSettings writes it, without slashes at the ends.
     m_group = QSettings::group();
+}
+
+void MRVSettings::beginGroup(const QString &prefix)
+{
+    QSettings::beginGroup(prefix);
+    m_openGroups.append(prefix);
+    m_openPath = QSettings::group();
+}
+
+void MRVSettings::endGroup()
+{
+    QSettings::endGroup();
+    if (!m_openGroups.isEmpty())
+        m_openGroups.removeLast();
+    m_openPath = QSettings::group();
+}
+
+MRVSettings::WholeFile::WholeFile(MRVSettings *settings)
+    : m_settings(settings)
+    , m_groups(settings->m_openGroups)
+    , m_hasFallbacks(settings->fallbacksEnabled())
+    , m_isOpen(settings->m_openPath == settings->QSettings::group())
+{
+    if (!m_isOpen)
+        return;
+    for (int i = 0; i < m_groups.size(); ++i)
+        m_settings->QSettings::endGroup();
+    m_settings->setFallbacksEnabled(false);
+}
+
+MRVSettings::WholeFile::~WholeFile()
+{
+    if (!m_isOpen)
+        return;
+    m_settings->setFallbacksEnabled(m_hasFallbacks);
+    for (const QString &group : qAsConst(m_groups))
+        m_settings->QSettings::beginGroup(group);
 }
 
 bool MRVSettings::value(FlagSetting setting) const

@@ -108,6 +108,13 @@ public:
      * to it from then on.
      */
     void setGroup(const QString &group);
+    /**
+     * As those of QSettings. The store leaves the groups for a moment while it saves, and comes back; so
+     * groups must be opened here, and nothing is saved while an array is open or a group was opened
+     * through a QSettings pointer.
+     */
+    void beginGroup(const QString &prefix);
+    void endGroup();
 
     using QSettings::value;
     bool value(FlagSetting setting) const;
@@ -230,6 +237,24 @@ protected:
     void timerEvent(QTimerEvent *event) override;
     bool event(QEvent *event) override;
 
+    /** Leaves all groups and the fallbacks while it lives: keys are those of the whole file. */
+    class MRVBASE_EXPORT WholeFile
+    {
+    public:
+        explicit WholeFile(MRVSettings *settings);
+        ~WholeFile();
+        WholeFile(const WholeFile &) = delete;
+        WholeFile &operator=(const WholeFile &) = delete;
+        /** False where an array is open, which cannot be left and entered again. */
+        bool isOpen() const { return m_isOpen; }
+
+    private:
+        MRVSettings *m_settings;
+        QStringList m_groups;
+        bool m_hasFallbacks;
+        bool m_isOpen;
+    };
+
 private:
     enum class Saving { MayBeRepeated, Last };
 
@@ -237,12 +262,15 @@ private:
     void recordChange(const QString &key);
     void replaceGroupIn(QSettings *file) const;
     bool save(Saving saving, QString *error);
+    bool saveWhole(Saving saving, QString *error);
     void stall();
     void setAgain(const QMap<QString, QVariant> &old, const QMap<QString, QVariant> &wanted);
 
     int m_timerId = -1;
     QStringList m_changedGroups;
     QString m_group;
+    QStringList m_openGroups; ///< as they were opened
+    QString m_openPath; ///< what group() is while only those are open
     bool m_isDirty = false; ///< something may not be saved
     bool m_isStalled = false; ///< QSettings believes that its turn to save is still to come
 };

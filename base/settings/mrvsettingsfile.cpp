@@ -109,6 +109,11 @@ bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSetti
     return true;
 }
 
+QString mrvNoRoomText()
+{
+    return tr("There is no room for temporary files");
+}
+
 bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found)
 {
     const int type = wanted.userType();
@@ -152,7 +157,7 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
         return QByteArray();
     if (!mrvReadSettings(bytes, QSettings::IniFormat, &found)
         || !mrvHolds(found, mrvValuesOf(settings))) {
-        *error = tr("There is no room for temporary files");
+        *error = mrvNoRoomText();
         return QByteArray();
     }
     return bytes;

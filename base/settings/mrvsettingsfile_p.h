@@ -23,6 +23,9 @@ MRVSettingsMap mrvValuesOf(const QSettings &settings);
  */
 bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values);
 
+/** What is said where there is no room even to read or to write aside. */
+QString mrvNoRoomText();
+
 /** Whether a value that was stored as @p wanted may come back from a file as @p found. */
 bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found);
 

@@ -85,11 +85,10 @@ bool isLockedByOther(QLockFile *lock)
     return !lock->tryLock(LockMilliseconds) && lock->error() == QLockFile::LockFailedError;
 }
 
-MRVSettingsMap valuesIn(const QByteArray &bytes, QSettings::Format format)
+// What a full disk has cut off leaves the beginning of a line, or of a value.
+QByteArray wholeLines(const QByteArray &bytes)
 {
-    MRVSettingsMap values;
-    mrvReadSettings(bytes, format, &values);
-    return values;
+    return bytes.left(bytes.lastIndexOf('\n') + 1);
 }
 
 bool isUnchanged(MRVSettingsMap::const_iterator value, const MRVSettingsMap &old)
@@ -102,9 +101,10 @@ bool isSaved(const QString &path, QSettings::Format format, const QByteArray &be
              const MRVSettingsMap &wanted)
 {
     MRVSettingsMap found;
+    MRVSettingsMap old;
     return mrvReadSettings(bytesOf(path), format, &found) && mrvHolds(found, wanted)
         && (found.size() == wanted.size()
-            || leftOver(found, wanted, valuesIn(before, format)).isEmpty());
+            || (mrvReadSettings(before, format, &old) && leftOver(found, wanted, old).isEmpty()));
 }
 
 QString notWritten(const QString &path, const QString &reason)
@@ -113,12 +113,15 @@ QString notWritten(const QString &path, const QString &reason)
 }
 
 // Adds to the file what it lacks of what was to be saved, and keeps what others have changed.
-bool repair(const QString &path, QSettings::Format format, const QByteArray &before,
+bool repair(const QString &path, QSettings::Format format, const MRVSettingsMap &old,
             const MRVSettingsMap &wanted, QString *error)
 {
-    const QByteArray after = bytesOf(path);
-    const MRVSettingsMap found = valuesIn(after, format);
-    const MRVSettingsMap old = valuesIn(before, format);
+    const QByteArray after = wholeLines(bytesOf(path));
+    MRVSettingsMap found;
+    if (!mrvReadSettings(after, format, &found)) {
+        *error = mrvNoRoomText();
+        return false;
+    }
     const QByteArray whole = mrvEditedSettings(
         after,
         [&](QSettings *file) {
@@ -126,7 +129,8 @@ bool repair(const QString &path, QSettings::Format format, const QByteArray &bef
             for (const QString &key : removed)
                 file->remove(key);
             for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-                if (!found.contains(it.key()) || !isUnchanged(it, old))
+                // With a key QSettings removes all that lies below it.
+                if (!file->contains(it.key()) || !isUnchanged(it, old))
                     file->setValue(it.key(), it.value());
             }
         },
@@ -190,6 +194,16 @@ bool MRVSettings::save(Saving saving, QString *error)
         stall();
         return fail(error, notRegular(path));
     }
+    const WholeFile whole(this);
+    if (whole.isOpen())
+        return saveWhole(saving, error);
+    stall();
+    return fail(error, tr("The settings cannot be saved while an array of them is open"));
+}
+
+bool MRVSettings::saveWhole(Saving saving, QString *error)
+{
+    const QString path = fileName();
     const QByteArray before = bytesOf(path);
     const MRVOldSettingsFile oldFile(path, before);
     if (m_isDirty) {
@@ -202,44 +216,44 @@ bool MRVSettings::save(Saving saving, QString *error)
         return !m_isDirty || fail(error, tr("Cannot write the file \"%1\"").arg(path));
     }
 
-    // The store's own memory, whatever group is open.
-    const MRVSettingsMap wanted = mrvValuesOf(QSettings(path, format()));
+    // From memory, before anything else opens the file: QSettings would read one again that it has just
+    // left empty, and forget.
+    const MRVSettingsMap wanted = mrvValuesOf(*this);
     m_isDirty = !isSaved(path, format(), before, wanted);
     if (!m_isDirty)
         return true;
     // What is not whole is what was just written, or what another process has written meanwhile.
     QString reason;
+    MRVSettingsMap old;
+    const bool isOldKnown = mrvReadSettings(before, format(), &old);
     QLockFile lock(path + QLatin1String(".lock"));
     if (isLockedByOther(&lock)) {
         reason = notWritten(path, tr("it is locked"));
-    } else if (repair(path, format(), before, wanted, &reason)) {
+    } else if (!isOldKnown) {
+        reason = mrvNoRoomText();
+        oldFile.putBack();
+    } else if (repair(path, format(), old, wanted, &reason)) {
         m_isDirty = false;
         return true;
-    } else if (!isSaved(path, format(), QByteArray(), valuesIn(before, format()))) {
+    } else if (!isSaved(path, format(), QByteArray(), old)) {
         oldFile.putBack();
     }
     qCWarning(lcSettings, "%s", qPrintable(reason));
     if (saving != Saving::Last)
-        setAgain(valuesIn(before, format()), wanted);
+        setAgain(old, wanted);
     return fail(error, reason);
 }
 
 // QSettings takes the changes for saved, and would forget them for what the file holds.
 void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &wanted)
 {
-    if (!isOpenGroup())
-        return;
-    const int prefix = m_group.isEmpty() ? 0 : m_group.size() + 1;
-    const auto isOurs = [&](const QString &key) {
-        return prefix == 0 || key.startsWith(m_group + QLatin1Char('/'));
-    };
     for (auto it = old.cbegin(); it != old.cend(); ++it) {
-        if (isOurs(it.key()) && !wanted.contains(it.key()))
-            QSettings::remove(it.key().mid(prefix));
+        if (!wanted.contains(it.key()))
+            QSettings::remove(it.key());
     }
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        if (isOurs(it.key()) && !isUnchanged(it, old))
-            QSettings::setValue(it.key().mid(prefix), it.value());
+        if (!isUnchanged(it, old) || !contains(it.key()))
+            QSettings::setValue(it.key(), it.value());
     }
     stall();
 }
