@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "heapmeter.h"
 #include "script/mrvscriptmode.h"
+#include "settings/mrvshortcutscheme.h"
 #include "support.h"
 #include "text/mrvtextformat.h"
 
@@ -248,8 +249,22 @@ void tst_ScriptMode::factory()
     const QList<Element> elements = mode.elements();
     QVERIFY(elements.size() >= 8);
     int completions = 0;
+    const MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
     for (int i = 0; i < elements.size(); ++i) {
         const Element &element = elements.at(i);
+        const QKeySequence keys(element.shortcut());
+        for (const MRVShortcutInfo &info : scheme.sortedShortcuts()) {
+            const QKeySequence other = info.sequence;
+            QVERIFY2(keys.isEmpty() || other.isEmpty()
+                         || (keys.matches(other) == QKeySequence::NoMatch
+                             && other.matches(keys) == QKeySequence::NoMatch),
+                     qPrintable(element.title() + ": " + element.shortcut()));
+        }
+        // What stands behind a tab is no part of the phrase.
+        const bool tabbed = element.actionText(Element::TabAfterTypingAction) == "\t";
+        QCOMPARE(element.hasFlag(Element::AllowTabs), tabbed);
+        QVERIFY(!tabbed || !element.hasFlag(Element::AddToProjectList)
+                || element.phraseEndDelimiter() == "\t");
         // A paragraph tells its element, and a title names one.
         QTextDocument document;
         QTextCursor(&document).setBlockFormat(element.blockFormat());
