@@ -89,6 +89,9 @@ class tst_ScriptMode : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        QCOMPARE(QMetaType::type("QList<MRVScriptElement>"), 0);
+        Element::toScriptElement(QVariant());
+        QVERIFY(QMetaType::type("QList<MRVScriptElement>") != 0);
         m_factory = MRVScriptMode::systemModes();
         QCOMPARE(m_factory.size(), 10);
     }
@@ -490,12 +493,17 @@ void tst_ScriptMode::userModes()
     MRVScriptMode mode = handMade();
     QVERIFY(MRVScriptMode::addToUserModes("Mine: the \"first\"?", mode));
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("Mine the first.xml"));
+    QCOMPARE(MRVScriptMode::userModePath("Mine: the <first>"), folder + "/Mine the first.xml");
+    QVERIFY(MRVScriptMode::userModePath("??").isEmpty());
     QVERIFY(!MRVScriptMode::addToUserModes("??", mode));
     QVERIFY(writeBytes(folder + "/broken.xml", "<MorvaneScriptFormat>"));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken\\.xml.*line 1"));
+    QVERIFY(writeBytes(folder + "/odd.xml", "<MorvaneScriptFormat><a/></MorvaneScriptFormat>"));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*the version is"));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*line 1: \"a\" has no place"));
     const QMap<QString, MRVScriptMode> modes = MRVScriptMode::userModes();
-    QCOMPARE(modes.keys(), QStringList(mode.name()));
-    QVERIFY(modes.first() == mode);
+    QCOMPARE(modes.keys(), (QStringList{"Screenplay", mode.name()}));
+    QVERIFY(modes.last() == mode);
     QVERIFY(QDir(folder).removeRecursively() && writeBytes(folder, "in the way"));
     QVERIFY(!MRVScriptMode::addToUserModes("Mine", mode));
     QVERIFY(MRVScriptMode::userModes().isEmpty());

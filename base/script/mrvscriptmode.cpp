@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QLoggingCategory>
 #include <QSet>
 #include <QStandardPaths>
@@ -239,10 +240,16 @@ QMap<QString, MRVScriptMode> MRVScriptMode::userModes()
 
 bool MRVScriptMode::addToUserModes(const QString &name, MRVScriptMode &mode)
 {
+    const QString path = userModePath(name);
+    return !path.isEmpty() && mode.save(path);
+}
+
+QString MRVScriptMode::userModePath(const QString &name)
+{
     const QString file = MRV::cleanFileName(name);
     const QString folder = file.isEmpty() ? QString() : userFolder();
-    return !folder.isEmpty()
-        && mode.save(folder + QLatin1Char('/') + file + QLatin1String(FileSuffix));
+    return folder.isEmpty() ? QString()
+                            : folder + QLatin1Char('/') + file + QLatin1String(FileSuffix);
 }
 
 void MRVScriptMode::makeElementsUnique()
@@ -250,16 +257,20 @@ void MRVScriptMode::makeElementsUnique()
     QSet<QString> used;
     for (const MRVScriptElement &element : qAsConst(m_elements))
         used.insert(element.title());
-    QSet<QString> seen;
+    QHash<QString, int> lastNumbers; // of titles that were seen; 0 for the first of them
     for (MRVScriptElement &element : m_elements) {
-        QString title = element.title();
-        if (seen.contains(title)) {
-            while (used.contains(title))
-                title = MRV::adjustName(title);
-            used.insert(title);
-            element.setTitle(title);
+        const QString series = element.title();
+        const auto last = lastNumbers.find(series);
+        if (last == lastNumbers.end()) {
+            lastNumbers.insert(series, 0);
+            continue;
         }
-        seen.insert(title);
+        QString title;
+        do
+            title = series + QLatin1Char('-') + QString::number(++*last);
+        while (used.contains(title));
+        used.insert(title);
+        element.setTitle(title);
     }
 }
 
@@ -285,10 +296,13 @@ QMap<QString, MRVScriptMode> mrv_loadPath(const QString &folder)
     for (const QFileInfo &file : files) {
         MRVScriptMode mode;
         QString error;
-        if (mode.load(file.filePath(), &error))
+        QStringList remarks;
+        if (mode.load(file.filePath(), &error, &remarks))
             modes.insert(mode.name(), mode);
         else
             qCWarning(lcScript, "%s", qUtf8Printable(error));
+        for (const QString &remark : qAsConst(remarks))
+            qCInfo(lcScript, "\"%s\": %s", qUtf8Printable(file.filePath()), qUtf8Printable(remark));
     }
     return modes;
 }

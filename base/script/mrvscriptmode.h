@@ -102,14 +102,23 @@ public:
      * Saves @p mode among the user's modes as MRV::cleanFileName() of @p name with ".xml" behind it. It
      * keeps its own name, by which userModes() will know it.
      *
+     * A mode that is there under that file name is replaced without a question, also where its name
+     * differs in what cleanFileName() takes away: ask userModePath() beforehand.
+     *
      * @return false where nothing is left of @p name, the folder cannot be made or the file cannot be
      * written.
      */
     static bool addToUserModes(const QString &name, MRVScriptMode &mode);
+    /**
+     * The file that addToUserModes() writes for @p name, whether or not it is there; the folder is made
+     * where it is missing. Empty where addToUserModes() cannot write one.
+     */
+    static QString userModePath(const QString &name);
 
     /**
      * Gives each element that has the title of an earlier one the first free title of its series:
-     * "Action", "Action-1", "Action-2". What goes on with a title goes on with the first of them.
+     * "Action", "Action-1", "Action-2", and "Act 9-1" behind "Act 9". What goes on with a title goes on
+     * with the first of them.
      */
     void makeElementsUnique();
 
@@ -129,8 +138,8 @@ private:
 
 /**
  * The modes of all files of a folder or resource folder, by name. Files that cannot be loaded are left
- * out, with a line in the log; of two modes of one name, the file that is later in the order of names
- * counts.
+ * out, with a line in the log; what load() remarks of the others is logged, too. Of two modes of one
+ * name, the file that is later in the order of names counts.
  *
  * @since 1.0
  */
