@@ -127,6 +127,16 @@ private Q_SLOTS:
         };
         QTest::newRow("deep") << QString("deep") << nested(100000) << QString("within each other");
         QTest::newRow("as deep as allowed") << QString("shallow") << nested(31) << QString();
+        const auto tag = [](int attributes, int length) {
+            QString text = "<MorvaneScriptFormat><!--> <![CDATA[ -->\n<a";
+            for (int i = 0; i < attributes; ++i)
+                text += QString(" a%1='>\"'").arg(i);
+            return text + QString(length, ' ') + "/></MorvaneScriptFormat>";
+        };
+        const QString error = "line 2: a tag is longer than";
+        QTest::newRow("attributes") << QString("attributes") << tag(65, 0) << error;
+        QTest::newRow("long tag") << QString("long") << tag(0, 16400) << error;
+        QTest::newRow("fair tag") << QString("fair") << tag(64, 15000) << QString();
         QTest::newRow("many") << QString("many")
                               << "<MorvaneScriptFormat><ScriptElements>"
                 + QString("<Element/>").repeated(1001) + "</ScriptElements></MorvaneScriptFormat>"
@@ -361,6 +371,7 @@ void tst_ScriptMode::notAllThatIsSavedIsKept()
     format.setProperty(MRVTextFormat::BlockLeftIndent, 88.8484);
     format.setProperty(QTextFormat::TextIndent, qQNaN());
     format.setLayoutDirection(Qt::RightToLeft);
+    format.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
     element.setBlockFormat(format);
     QTextCharFormat charFormat;
     charFormat.setFontFamilies({"Nimbus Mono PS", "Arial"});
@@ -376,6 +387,7 @@ void tst_ScriptMode::notAllThatIsSavedIsKept()
     QCOMPARE(kept.doubleProperty(MRVTextFormat::BlockLeftIndent), 88.85);
     QCOMPARE(kept.doubleProperty(QTextFormat::TextIndent), 0.0);
     QVERIFY(!kept.hasProperty(QTextFormat::LayoutDirection));
+    QCOMPARE(kept.alignment(), Qt::AlignRight);
 }
 
 void tst_ScriptMode::reads()
@@ -475,12 +487,21 @@ void tst_ScriptMode::files()
     tooLarge = MRVScriptMode();
     tooLarge.setElements(QList<Element>::fromVector(QVector<Element>(1001)));
     QVERIFY(!tooLarge.save(path));
+    QTextCharFormat format;
+    format.setFontFamily(QString(20000, 'a'));
+    Element element;
+    element.setCharFormat(format);
+    tooLarge.setElements({element});
+    QVERIFY(!tooLarge.save(path));
     QCOMPARE(bytesOf(path), handMade().toXml());
     QVERIFY(!handMade().save(folder.filePath("none/mode.xml")));
     MRVScriptMode mode;
     QVERIFY(!mode.load(folder.filePath("none.xml"), &error));
     QVERIFY2(error.contains("none.xml"), qPrintable(error));
     QVERIFY(!mode.load(folder.path()));
+    HeapMeter::start();
+    QVERIFY(!mode.load("/dev/zero", &error));
+    QVERIFY2(HeapMeter::peak() < 50000000 && error.contains("larger than"), qPrintable(error));
 }
 
 void tst_ScriptMode::userModes()

@@ -1,11 +1,11 @@
 #include "script/mrvscriptmode.h"
 
-#include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
 #include "script/mrvscriptmodefile_p.h"
 #include "util/mrvnames.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QLoggingCategory>
@@ -134,6 +134,24 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUni
     xml->writeEndElement();
 }
 
+// Not more than a byte beyond what a mode may have: what has no size, such as a device, may have no end, either.
+bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
+{
+    constexpr int PieceSize = 64 * 1024;
+    // Opening a folder succeeds.
+    if (QFileInfo(path).isDir())
+        return fail(reason, MRVScriptMode::tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(reason, file.errorString());
+    QByteArray piece;
+    do {
+        piece = file.read(qMin(PieceSize, MRVScriptMode::MaxFileSize + 1 - bytes->size()));
+        bytes->append(piece);
+    } while (!piece.isEmpty());
+    return file.error() == QFileDevice::NoError || fail(reason, file.errorString());
+}
+
 const char *unitWord(MRVUnit::Unit units)
 {
     for (const ScriptWord &row : ScriptUnitWords) {
@@ -180,13 +198,10 @@ bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remar
     const auto refuse = [&](const QString &reason) {
         return fail(error, tr("\"%1\" is no script mode: %2").arg(path, reason));
     };
-    // Before it takes memory.
-    if (QFileInfo(path).size() > MaxFileSize)
-        return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
     QString reason;
-    const QByteArray xml = MRVCoreUtil::ReadBinaryFile(path, &reason);
-    if (!reason.isEmpty())
-        return fail(error, reason);
+    QByteArray xml;
+    if (!readBounded(path, &xml, &reason))
+        return fail(error, tr("Cannot read the file \"%1\": %2").arg(path, reason));
     return fromXml(xml, &reason, remarks) || refuse(reason);
 }
 
@@ -213,7 +228,9 @@ bool MRVScriptMode::save(const QString &path, QString *error) const
 {
     // What could not be read again is not written.
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
-    if (xml.isEmpty() || xml.size() > MaxFileSize)
+    QString reason;
+    if (xml.isEmpty() || xml.size() > MaxFileSize
+        || !scriptModeKeepsLimits(QString::fromUtf8(xml), &reason))
         return fail(error,
                     tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
     return MRVFileWriter::write(path, xml, error);
