@@ -4,6 +4,9 @@
 
 #include <QCommandLineParser>
 #include <QJsonObject>
+#include <QVector>
+
+#include <cmath>
 
 namespace {
 
@@ -13,58 +16,75 @@ constexpr MRVUnit::Unit shownUnits[] = {
 
 struct Measure
 {
+    QString pattern;
     double value = 0.0;
     double points = 0.0;
     int decimals = 0;
     MRVUnit::Unit unit = MRVUnit::None;
 };
 
-// None where no unit is called so.
-MRVUnit::Unit unitNamed(const QString &name)
+// What a measure is printed in. A didot and a cicero are no units of their own, so that the spelling tells them apart.
+struct Target
 {
-    for (const MRVUnit::Unit unit : shownUnits) {
-        if (name == MRVUnit::shortSuffix(unit)) {
-            return unit;
+    QString name;
+    QString pattern;
+    double points = 0.0; // that it counts
+};
+
+constexpr const char *spellings[] = {"in", "inch", "\"", "dm", "cm", "mm",
+                                     "pi", "pt",   "px", "dd", "cc"};
+
+Target targetNamed(const QString &name)
+{
+    Target target{name, QString(), 0.0};
+    int decimals = 0;
+    double value = 0.0;
+    MRVUnit::Unit unit = MRVUnit::None;
+    for (const char *spelling : spellings) {
+        if (name == QLatin1String(spelling)) {
+            MRVUnit::parseMeasure(u'1' + name, target.pattern, decimals, value, target.points,
+                                  unit);
         }
     }
-    return MRVUnit::None;
+    return target;
 }
 
 QString unitNames()
 {
     QStringList names;
-    for (const MRVUnit::Unit unit : shownUnits) {
-        names.append(MRVUnit::shortSuffix(unit));
+    for (const char *spelling : spellings) {
+        names.append(QLatin1String(spelling));
     }
     return names.join(QLatin1String(", "));
 }
 
-double converted(const Measure &measure, MRVUnit::Unit to)
+double converted(const Measure &measure, const Target &to)
 {
-    // By the points, which know a didot from a cicero; both are of one unit.
-    return to == measure.unit ? measure.value : MRVUnit::fromPoint(to, measure.points);
+    return to.pattern == measure.pattern ? measure.value : measure.points / to.points;
 }
 
-void print(const QString &text, const Measure &measure, MRVUnit::Unit to)
+QString textOf(const Measure &measure, const Target &to)
 {
-    if (to != MRVUnit::None) {
-        printLine(MRVUnit::toText(to, converted(measure, to)));
-        return;
-    }
+    return to.pattern.arg(converted(measure, to), 0, 'g', -1, u' ');
+}
+
+void print(const QString &text, const Measure &measure, const QVector<Target> &targets, bool alone)
+{
     QStringList all;
-    for (const MRVUnit::Unit unit : shownUnits) {
-        all.append(MRVUnit::toText(unit, converted(measure, unit)));
+    for (const Target &target : targets) {
+        all.append(textOf(measure, target));
     }
-    printLine(QStringLiteral("%1 = %2").arg(text.simplified(), all.join(QLatin1String(" = "))));
+    if (!alone) {
+        all.prepend(text.simplified());
+    }
+    printLine(all.join(QLatin1String(" = ")));
 }
 
-void printAsJson(const QString &text, const Measure &measure, MRVUnit::Unit to)
+void printAsJson(const QString &text, const Measure &measure, const QVector<Target> &targets)
 {
     QJsonObject values;
-    for (const MRVUnit::Unit unit : shownUnits) {
-        if (to == MRVUnit::None || to == unit) {
-            values.insert(MRVUnit::shortSuffix(unit), converted(measure, unit));
-        }
+    for (const Target &target : targets) {
+        values.insert(target.name, converted(measure, target));
     }
     printJson({{QStringLiteral("text"), text},
                {QStringLiteral("value"), measure.value},
@@ -74,6 +94,18 @@ void printAsJson(const QString &text, const Measure &measure, MRVUnit::Unit to)
                {QStringLiteral("in"), values}});
 }
 
+QVector<Target> targetsFor(const QString &to)
+{
+    if (!to.isNull()) {
+        return {targetNamed(to)};
+    }
+    QVector<Target> targets;
+    for (const MRVUnit::Unit unit : shownUnits) {
+        targets.append(targetNamed(MRVUnit::shortSuffix(unit)));
+    }
+    return targets;
+}
+
 } // namespace
 
 int runMeasure(const QStringList &arguments)
@@ -81,7 +113,8 @@ int runMeasure(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral(
-            "Reads measures (\"2.5cm\", \"1in\", \"12 pt\") and prints them in other units: %1.\n"
+            "Reads measures (\"2.5cm\", \"1in\", \"12 pt\") and prints them in other units.\n"
+            "Units are %1, written so.\n"
             "An inch is 72 points, a pixel is one, a cm 28.3465058. \"--\" goes in front of\n"
             "negative ones. Exit code 1: one of them is no measure.")
             .arg(unitNames()));
@@ -96,29 +129,32 @@ int runMeasure(const QStringList &arguments)
         return code;
     }
     const QStringList texts = parser.positionalArguments();
+    const bool alone = parser.isSet(QStringLiteral("to"));
     const QString to = parser.value(QStringLiteral("to"));
-    const MRVUnit::Unit unit = unitNamed(to);
+    const QVector<Target> targets = targetsFor(alone ? to : QString());
     if (texts.isEmpty()) {
         printError(QStringLiteral("measure: a measure is missing"));
         return WrongUsage;
     }
-    if (parser.isSet(QStringLiteral("to")) && unit == MRVUnit::None) {
+    if (targets.constFirst().pattern.isEmpty()) {
         printError(QStringLiteral("measure: unknown unit '%1'; known are %2").arg(to, unitNames()));
         return WrongUsage;
     }
     bool ok = true;
     for (const QString &text : texts) {
         Measure measure;
-        QString pattern;
-        if (!MRVUnit::parseMeasure(text, pattern, measure.decimals, measure.value, measure.points,
-                                   measure.unit)) {
-            printError(
-                QStringLiteral("measure: '%1' is no number with a unit behind it").arg(text));
+        if (!MRVUnit::parseMeasure(text, measure.pattern, measure.decimals, measure.value,
+                                   measure.points, measure.unit)) {
+            printError(QStringLiteral("measure: '%1' is no number with a unit (%2) behind it")
+                           .arg(text, unitNames()));
+            ok = false;
+        } else if (!std::isfinite(measure.points)) {
+            printError(QStringLiteral("measure: '%1' is too large, or no number").arg(text));
             ok = false;
         } else if (parser.isSet(QStringLiteral("json"))) {
-            printAsJson(text, measure, unit);
+            printAsJson(text, measure, targets);
         } else {
-            print(text, measure, unit);
+            print(text, measure, targets, alone);
         }
     }
     return ok ? Done : Failed;

@@ -1,13 +1,16 @@
 #include "scriptcommand.h"
 #include "command.h"
 #include "script/mrvscriptmode.h"
+#include "suggestion.h"
 #include "text/mrvtextformat.h"
 #include "textsearch.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -47,7 +50,7 @@ constexpr UnitName unitNames[] = {{"in", MRVUnit::Inch},
                                   {"cm", MRVUnit::Centimeter},
                                   {"pt", MRVUnit::Point}};
 
-// What Return and Tab do.
+// What Return and Tab go to.
 struct ActionName
 {
     MRVScriptElement::Action action;
@@ -71,6 +74,34 @@ constexpr LengthName lengthNames[] = {{MRVTextFormat::BlockLeftIndent, "left ind
                                       {QTextFormat::BlockTopMargin, "above", "above"},
                                       {QTextFormat::BlockBottomMargin, "below", "below"}};
 
+struct FlagName
+{
+    MRVScriptElement::Flag flag;
+    const char *shown;
+    const char *key;
+};
+constexpr FlagName textFlags[] = {
+    {MRVScriptElement::DoubleUnderline, "underlined twice", "doubleUnderline"},
+    {MRVScriptElement::UnderlineByWord, "blanks not underlined", "underlineByWord"},
+    {MRVScriptElement::AllCaps, "capitals", "capitals"},
+    {MRVScriptElement::Parenthetical, "in parentheses", "parentheses"}};
+constexpr FlagName behaviorFlags[] = {
+    {MRVScriptElement::KeepWithNext, "stays with the next", "keepWithNext"},
+    {MRVScriptElement::AllowTabs, "allows tabs", "allowTabs"},
+    {MRVScriptElement::AppendProjectList, "offers the project\u2019s phrases", "offersPhrases"},
+    {MRVScriptElement::AddToProjectList, "collects phrases", "collectsPhrases"}};
+
+struct DelimiterName
+{
+    const QString &(MRVScriptElement::*text)() const;
+    const char *shown;
+    const char *key;
+};
+constexpr DelimiterName delimiterNames[] = {
+    {&MRVScriptElement::styleDelimiter, "capitals up to", "styleDelimiter"},
+    {&MRVScriptElement::phraseStartDelimiter, "phrases begin behind", "phraseStart"},
+    {&MRVScriptElement::phraseEndDelimiter, "phrases end before", "phraseEnd"}};
+
 bool insertsText(const MRVScriptElement &element, MRVScriptElement::Action action)
 {
     return action == MRVScriptElement::TabAfterTypingAction
@@ -86,6 +117,51 @@ const char *alignmentWord(const MRVScriptElement &element)
                                         : "left";
 }
 
+// Of what is done to a phrase once it is accepted; empty for nothing.
+QString completionWord(const MRVScriptElement &element)
+{
+    switch (element.completeBehavior()) {
+    case MRVScriptElement::CompleteToNextLine:
+        return QStringLiteral("next line");
+    case MRVScriptElement::CompleteInsertsTab:
+        return QStringLiteral("tab");
+    case MRVScriptElement::CompleteDefault:
+        break;
+    }
+    return QString();
+}
+
+bool hasFixedHeight(const QTextBlockFormat &format)
+{
+    return format.doubleProperty(MRVTextFormat::BlockBaseSpacing) == 0.0
+        && format.doubleProperty(MRVTextFormat::BlockSpacing) != 0.0;
+}
+
+double lineSpacing(const QTextBlockFormat &format)
+{
+    double multiple = 1.0;
+    MRVTextFormat::spacingType(format, &multiple);
+    return multiple > 0.0 ? multiple : 1.0;
+}
+
+// With what would not be seen written as a program would.
+QString quoted(QString text)
+{
+    text.replace(u'\t', QLatin1String("\\t")).replace(u'\n', QLatin1String("\\n"));
+    return QStringLiteral("\u201c%1\u201d").arg(text);
+}
+
+QStringList flagWords(const MRVScriptElement &element, const FlagName *begin, const FlagName *end)
+{
+    QStringList words;
+    for (const FlagName *name = begin; name != end; ++name) {
+        if (element.hasFlag(name->flag)) {
+            words.append(QString::fromUtf8(name->shown));
+        }
+    }
+    return words;
+}
+
 QStringList fontWords(const MRVScriptElement &element)
 {
     const QTextCharFormat format = element.charFormat();
@@ -99,12 +175,56 @@ QStringList fontWords(const MRVScriptElement &element)
     const std::pair<bool, const char *> styles[] = {
         {format.fontWeight() > QFont::Normal, "bold"},
         {format.fontItalic(), "italic"},
-        {format.fontUnderline(), "underlined"},
-        {element.hasFlag(MRVScriptElement::AllCaps), "capitals"},
-        {element.hasFlag(MRVScriptElement::Parenthetical), "in parentheses"}};
+        {format.fontUnderline() && !element.hasFlag(MRVScriptElement::DoubleUnderline),
+         "underlined"}};
     for (const auto &style : styles) {
         if (style.first) {
             words.append(QLatin1String(style.second));
+        }
+    }
+    if (format.foreground().style() == Qt::SolidPattern) {
+        words.append(format.foreground().color().name());
+    }
+    return words + flagWords(element, std::begin(textFlags), std::end(textFlags));
+}
+
+QStringList layoutWords(const MRVScriptElement &element, MRVUnit::Unit units)
+{
+    const QTextBlockFormat format = element.blockFormat();
+    const auto length = [&](double points) {
+        return MRVUnit::toText(units, MRVUnit::fromPoint(units, points));
+    };
+    QStringList words{QLatin1String("aligned ") + QLatin1String(alignmentWord(element))};
+    for (const LengthName &name : lengthNames) {
+        const double points = format.doubleProperty(name.property);
+        if (points != 0.0) {
+            words.append(QLatin1String(name.shown) + u' ' + length(points));
+        }
+    }
+    if (hasFixedHeight(format)) {
+        const double points = format.doubleProperty(MRVTextFormat::BlockSpacing);
+        words.append(QLatin1String(points < 0.0 ? "lines exactly " : "lines at least ")
+                     + length(qAbs(points)));
+    } else if (lineSpacing(format) != 1.0) {
+        words.append(QStringLiteral("line spacing %1").arg(lineSpacing(format)));
+    }
+    const QList<QTextOption::Tab> tabs = format.tabPositions();
+    for (const QTextOption::Tab &tab : tabs) {
+        words.append(QLatin1String("tab at ") + length(tab.position));
+    }
+    return words;
+}
+
+QStringList behaviorWords(const MRVScriptElement &element)
+{
+    QStringList words = flagWords(element, std::begin(behaviorFlags), std::end(behaviorFlags));
+    if (!completionWord(element).isEmpty()) {
+        words.append(QStringLiteral("a phrase is followed by a ") + completionWord(element));
+    }
+    for (const DelimiterName &name : delimiterNames) {
+        const QString text = (element.*name.text)();
+        if (!text.isEmpty()) {
+            words.append(QLatin1String(name.shown) + u' ' + quoted(text));
         }
     }
     return words;
@@ -117,21 +237,16 @@ void printElement(const MRVScriptElement &element, MRVUnit::Unit units)
     printLine(
         styled(Style::Path, displayed(element.title()))
         + (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(displayed(shortcut))));
-    QStringList layout{QLatin1String("aligned ") + QLatin1String(alignmentWord(element))};
-    for (const LengthName &name : lengthNames) {
-        const double points = element.blockFormat().doubleProperty(name.property);
-        if (points != 0.0) {
-            layout.append(QLatin1String(name.shown) + u' '
-                          + MRVUnit::toText(units, MRVUnit::fromPoint(units, points)));
+    for (const QStringList &words :
+         {fontWords(element), layoutWords(element, units), behaviorWords(element)}) {
+        if (!words.isEmpty()) {
+            printLine(QLatin1String("  ") + displayed(words.join(QLatin1String(", "))));
         }
     }
-    printLine(QLatin1String("  ") + displayed(fontWords(element).join(QLatin1String(", "))));
-    printLine(QLatin1String("  ") + layout.join(QLatin1String(", ")));
     for (const ActionName &name : actionNames) {
         const QString next = element.actionElement(name.action);
         const QString text = insertsText(element, name.action)
-            ? QStringLiteral("inserts \u201c%1\u201d")
-                  .arg(element.actionText(name.action).replace(u'\t', QLatin1String("\\t")))
+            ? QLatin1String("inserts ") + quoted(element.actionText(name.action))
             : next;
         if (!text.isEmpty()) {
             printLine(QStringLiteral("  %1: %2").arg(QLatin1String(name.shown), displayed(text)));
@@ -148,21 +263,51 @@ void printElement(const MRVScriptElement &element, MRVUnit::Unit units)
 
 QJsonObject toJson(const MRVScriptElement &element)
 {
-    QJsonObject object{{QStringLiteral("title"), element.title()},
-                       {QStringLiteral("shortcut"), element.shortcut()},
-                       {QStringLiteral("font"), element.charFormat().fontFamily()},
-                       {QStringLiteral("size"), element.charFormat().fontPointSize()},
-                       {QStringLiteral("capitals"), element.hasFlag(MRVScriptElement::AllCaps)},
-                       {QStringLiteral("alignment"), QLatin1String(alignmentWord(element))}};
+    const QTextCharFormat font = element.charFormat();
+    const QTextBlockFormat format = element.blockFormat();
+    const QBrush brush = font.foreground();
+    QJsonObject object{
+        {QStringLiteral("title"), element.title()},
+        {QStringLiteral("shortcut"), element.shortcut()},
+        {QStringLiteral("font"), font.fontFamily()},
+        {QStringLiteral("size"), font.fontPointSize()},
+        {QStringLiteral("bold"), font.fontWeight() > QFont::Normal},
+        {QStringLiteral("italic"), font.fontItalic()},
+        {QStringLiteral("underline"), font.fontUnderline()},
+        {QStringLiteral("color"),
+         brush.style() == Qt::SolidPattern ? brush.color().name() : QString()},
+        {QStringLiteral("alignment"), QLatin1String(alignmentWord(element))},
+        {QStringLiteral("lineSpacing"), hasFixedHeight(format) ? 1.0 : lineSpacing(format)},
+        {QStringLiteral("lineHeight"),
+         hasFixedHeight(format) ? format.doubleProperty(MRVTextFormat::BlockSpacing) : 0.0},
+        {QStringLiteral("afterPhrase"), completionWord(element)},
+        {QStringLiteral("tabInserts"),
+         insertsText(element, MRVScriptElement::TabAfterTypingAction)
+             ? element.actionText(MRVScriptElement::TabAfterTypingAction)
+             : QString()}};
+    for (const FlagName &name : textFlags) {
+        object.insert(QLatin1String(name.key), element.hasFlag(name.flag));
+    }
+    for (const FlagName &name : behaviorFlags) {
+        object.insert(QLatin1String(name.key), element.hasFlag(name.flag));
+    }
     for (const LengthName &name : lengthNames) {
-        object.insert(QLatin1String(name.key), element.blockFormat().doubleProperty(name.property));
+        object.insert(QLatin1String(name.key), format.doubleProperty(name.property));
+    }
+    for (const DelimiterName &name : delimiterNames) {
+        object.insert(QLatin1String(name.key), (element.*name.text)());
     }
     for (const ActionName &name : actionNames) {
-        const bool inserts = insertsText(element, name.action);
         object.insert(QLatin1String(name.key),
-                      inserts ? element.actionText(name.action)
-                              : element.actionElement(name.action));
+                      insertsText(element, name.action) ? QString()
+                                                        : element.actionElement(name.action));
     }
+    QJsonArray tabs;
+    const QList<QTextOption::Tab> stops = format.tabPositions();
+    for (const QTextOption::Tab &stop : stops) {
+        tabs.append(stop.position);
+    }
+    object.insert(QStringLiteral("tabs"), tabs);
     QJsonArray completions;
     for (const MRVCompletion &completion : element.completions().completions()) {
         completions.append(completion.text);
@@ -177,7 +322,7 @@ int runList(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral(
         "Lists the factory modes, or the modes of folders: their names, units and\n"
         "number of elements. Files that are no modes are left out; 'mrv script check'\n"
-        "tells why. Exit code 1: there is none."));
+        "tells why. Exit code 1: there is none, or none in one of the folders."));
     parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders of mode files."),
                                  QStringLiteral("[FOLDER...]"));
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
@@ -187,12 +332,22 @@ int runList(const QStringList &arguments)
         return code;
     }
     QMap<QString, MRVScriptMode> modes;
+    bool allFound = true;
     const QStringList folders = parser.positionalArguments();
     if (folders.isEmpty()) {
         modes = MRVScriptMode::systemModes();
     }
     for (const QString &folder : folders) {
+        if (!QFileInfo(folder).isDir()) {
+            printError(QStringLiteral("script: '%1' is no folder").arg(folder));
+            allFound = false;
+            continue;
+        }
         const QMap<QString, MRVScriptMode> some = mrv_loadPath(folder);
+        if (some.isEmpty()) {
+            printError(QStringLiteral("script: no file in '%1' is a script mode").arg(folder));
+            allFound = false;
+        }
         for (auto it = some.cbegin(); it != some.cend(); ++it) {
             modes.insert(it.key(), it.value());
         }
@@ -209,7 +364,7 @@ int runList(const QStringList &arguments)
                           .arg(displayed(mode.name()), units, QString::number(count)));
         }
     }
-    return modes.isEmpty() ? Failed : Done;
+    return modes.isEmpty() || !allFound ? Failed : Done;
 }
 
 int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
@@ -379,6 +534,11 @@ bool findScriptMode(const QString &nameOrPath, MRVScriptMode *mode, QString *err
             *mode = candidate;
             return true;
         }
+    }
+    if (!QFileInfo::exists(nameOrPath)) {
+        *error = QStringLiteral("script: '%1' is neither a factory mode nor a file%2")
+                     .arg(nameOrPath, didYouMean(nameOrPath, factory.keys()));
+        return false;
     }
     return mode->load(nameOrPath, error);
 }

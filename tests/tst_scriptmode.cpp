@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "heapmeter.h"
 #include "script/mrvscriptmode.h"
+#include "settings/mrvshortcutscheme.h"
 #include "support.h"
 #include "text/mrvtextformat.h"
 
@@ -88,6 +89,9 @@ class tst_ScriptMode : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        QCOMPARE(QMetaType::type("QList<MRVScriptElement>"), 0);
+        Element::toScriptElement(QVariant());
+        QVERIFY(QMetaType::type("QList<MRVScriptElement>") != 0);
         m_factory = MRVScriptMode::systemModes();
         QCOMPARE(m_factory.size(), 10);
     }
@@ -123,6 +127,16 @@ private Q_SLOTS:
         };
         QTest::newRow("deep") << QString("deep") << nested(100000) << QString("within each other");
         QTest::newRow("as deep as allowed") << QString("shallow") << nested(31) << QString();
+        const auto tag = [](int attributes, int length) {
+            QString text = "<MorvaneScriptFormat><!--> <![CDATA[ -->\n<a";
+            for (int i = 0; i < attributes; ++i)
+                text += QString(" a%1='>\"'").arg(i);
+            return text + QString(length, ' ') + "/></MorvaneScriptFormat>";
+        };
+        const QString error = "line 2: a tag is longer than";
+        QTest::newRow("attributes") << QString("attributes") << tag(65, 0) << error;
+        QTest::newRow("long tag") << QString("long") << tag(0, 16400) << error;
+        QTest::newRow("fair tag") << QString("fair") << tag(64, 15000) << QString();
         QTest::newRow("many") << QString("many")
                               << "<MorvaneScriptFormat><ScriptElements>"
                 + QString("<Element/>").repeated(1001) + "</ScriptElements></MorvaneScriptFormat>"
@@ -248,8 +262,22 @@ void tst_ScriptMode::factory()
     const QList<Element> elements = mode.elements();
     QVERIFY(elements.size() >= 8);
     int completions = 0;
+    const MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
     for (int i = 0; i < elements.size(); ++i) {
         const Element &element = elements.at(i);
+        const QKeySequence keys(element.shortcut());
+        for (const MRVShortcutInfo &info : scheme.sortedShortcuts()) {
+            const QKeySequence other = info.sequence;
+            QVERIFY2(keys.isEmpty() || other.isEmpty()
+                         || (keys.matches(other) == QKeySequence::NoMatch
+                             && other.matches(keys) == QKeySequence::NoMatch),
+                     qPrintable(element.title() + ": " + element.shortcut()));
+        }
+        // What stands behind a tab is no part of the phrase.
+        const bool tabbed = element.actionText(Element::TabAfterTypingAction) == "\t";
+        QCOMPARE(element.hasFlag(Element::AllowTabs), tabbed);
+        QVERIFY(!tabbed || !element.hasFlag(Element::AddToProjectList)
+                || element.phraseEndDelimiter() == "\t");
         // A paragraph tells its element, and a title names one.
         QTextDocument document;
         QTextCursor(&document).setBlockFormat(element.blockFormat());
@@ -343,6 +371,7 @@ void tst_ScriptMode::notAllThatIsSavedIsKept()
     format.setProperty(MRVTextFormat::BlockLeftIndent, 88.8484);
     format.setProperty(QTextFormat::TextIndent, qQNaN());
     format.setLayoutDirection(Qt::RightToLeft);
+    format.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
     element.setBlockFormat(format);
     QTextCharFormat charFormat;
     charFormat.setFontFamilies({"Nimbus Mono PS", "Arial"});
@@ -358,6 +387,7 @@ void tst_ScriptMode::notAllThatIsSavedIsKept()
     QCOMPARE(kept.doubleProperty(MRVTextFormat::BlockLeftIndent), 88.85);
     QCOMPARE(kept.doubleProperty(QTextFormat::TextIndent), 0.0);
     QVERIFY(!kept.hasProperty(QTextFormat::LayoutDirection));
+    QCOMPARE(kept.alignment(), Qt::AlignRight);
 }
 
 void tst_ScriptMode::reads()
@@ -457,12 +487,21 @@ void tst_ScriptMode::files()
     tooLarge = MRVScriptMode();
     tooLarge.setElements(QList<Element>::fromVector(QVector<Element>(1001)));
     QVERIFY(!tooLarge.save(path));
+    QTextCharFormat format;
+    format.setFontFamily(QString(20000, 'a'));
+    Element element;
+    element.setCharFormat(format);
+    tooLarge.setElements({element});
+    QVERIFY(!tooLarge.save(path));
     QCOMPARE(bytesOf(path), handMade().toXml());
     QVERIFY(!handMade().save(folder.filePath("none/mode.xml")));
     MRVScriptMode mode;
     QVERIFY(!mode.load(folder.filePath("none.xml"), &error));
     QVERIFY2(error.contains("none.xml"), qPrintable(error));
     QVERIFY(!mode.load(folder.path()));
+    HeapMeter::start();
+    QVERIFY(!mode.load("/dev/zero", &error));
+    QVERIFY2(HeapMeter::peak() < 50000000 && error.contains("larger than"), qPrintable(error));
 }
 
 void tst_ScriptMode::userModes()
@@ -475,12 +514,17 @@ void tst_ScriptMode::userModes()
     MRVScriptMode mode = handMade();
     QVERIFY(MRVScriptMode::addToUserModes("Mine: the \"first\"?", mode));
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("Mine the first.xml"));
+    QCOMPARE(MRVScriptMode::userModePath("Mine: the <first>"), folder + "/Mine the first.xml");
+    QVERIFY(MRVScriptMode::userModePath("??").isEmpty());
     QVERIFY(!MRVScriptMode::addToUserModes("??", mode));
     QVERIFY(writeBytes(folder + "/broken.xml", "<MorvaneScriptFormat>"));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken\\.xml.*line 1"));
+    QVERIFY(writeBytes(folder + "/odd.xml", "<MorvaneScriptFormat><a/></MorvaneScriptFormat>"));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*the version is"));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*line 1: \"a\" has no place"));
     const QMap<QString, MRVScriptMode> modes = MRVScriptMode::userModes();
-    QCOMPARE(modes.keys(), QStringList(mode.name()));
-    QVERIFY(modes.first() == mode);
+    QCOMPARE(modes.keys(), (QStringList{"Screenplay", mode.name()}));
+    QVERIFY(modes.last() == mode);
     QVERIFY(QDir(folder).removeRecursively() && writeBytes(folder, "in the way"));
     QVERIFY(!MRVScriptMode::addToUserModes("Mine", mode));
     QVERIFY(MRVScriptMode::userModes().isEmpty());

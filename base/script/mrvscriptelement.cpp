@@ -86,6 +86,13 @@ bool lookTheSame(QTextCharFormat a, QTextCharFormat b)
     return MRVTextFormat::equivalent(a, b);
 }
 
+// By their names; not when the library is loaded, which runs no code.
+void registerTypes()
+{
+    qRegisterMetaType<MRVScriptElement>();
+    qRegisterMetaType<QList<MRVScriptElement>>();
+}
+
 void setOrRemove(QHash<MRVScriptElement::Action, QString> *texts, MRVScriptElement::Action action,
                  const QString &text)
 {
@@ -190,27 +197,29 @@ bool MRVScriptElement::newLineAfter(const QString &text) const
 
 QVariant MRVScriptElement::toVariant(const MRVScriptElement &element)
 {
-    qRegisterMetaType<QList<MRVScriptElement>>();
+    registerTypes();
     return QVariant::fromValue(element);
 }
 
 QVariant MRVScriptElement::toVariant(const QList<MRVScriptElement> &elements)
 {
-    qRegisterMetaType<MRVScriptElement>();
+    registerTypes();
     return QVariant::fromValue(elements);
 }
 
 MRVScriptElement MRVScriptElement::toScriptElement(const QVariant &variant)
 {
-    const int type = qRegisterMetaType<MRVScriptElement>();
-    return variant.userType() == type ? variant.value<MRVScriptElement>() : MRVScriptElement();
+    registerTypes();
+    return variant.userType() == qMetaTypeId<MRVScriptElement>() ? variant.value<MRVScriptElement>()
+                                                                 : MRVScriptElement();
 }
 
 QList<MRVScriptElement> MRVScriptElement::toScriptElementList(const QVariant &variant)
 {
-    const int type = qRegisterMetaType<QList<MRVScriptElement>>();
-    return variant.userType() == type ? variant.value<QList<MRVScriptElement>>()
-                                      : QList<MRVScriptElement>();
+    registerTypes();
+    return variant.userType() == qMetaTypeId<QList<MRVScriptElement>>()
+        ? variant.value<QList<MRVScriptElement>>()
+        : QList<MRVScriptElement>();
 }
 
 bool MRVScriptElement::operator==(const MRVScriptElement &other) const

@@ -77,6 +77,10 @@ private:
  * What a default one is: no title, no formats, no completions, every flag off, and Tab behind text goes
  * to another element that is not named.
  *
+ * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names once any of
+ * toVariant(), toScriptElement() and toScriptElementList() was called, which is what must come first
+ * where names count: QMetaType::type(), queued connections, properties of scripts.
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVScriptElement
@@ -193,7 +197,7 @@ public:
     bool newLineAfter(const QString &text) const;
 
     /**
-     * These register MRVScriptElement and QList<MRVScriptElement> as meta types under these names.
+     * Each of these registers both meta types, MRVScriptElement and QList<MRVScriptElement>.
      * What holds something else gives a default element or an empty list.
      */
     static QVariant toVariant(const MRVScriptElement &element);

@@ -1,13 +1,14 @@
 #include "script/mrvscriptmode.h"
 
-#include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
 #include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
 #include "util/mrvnames.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QLoggingCategory>
 #include <QSet>
 #include <QStandardPaths>
@@ -111,6 +112,24 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUni
     xml->writeEndElement();
 }
 
+// Not more than a byte beyond what a mode may have: what has no size, such as a device, may have no end, either.
+bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
+{
+    constexpr int PieceSize = 64 * 1024;
+    // Opening a folder succeeds.
+    if (QFileInfo(path).isDir())
+        return fail(reason, MRVScriptMode::tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(reason, file.errorString());
+    QByteArray piece;
+    do {
+        piece = file.read(qMin(PieceSize, MRVScriptMode::MaxFileSize + 1 - bytes->size()));
+        bytes->append(piece);
+    } while (!piece.isEmpty());
+    return file.error() == QFileDevice::NoError || fail(reason, file.errorString());
+}
+
 const char *unitWord(MRVUnit::Unit units)
 {
     for (const ScriptWord &row : ScriptUnitWords) {
@@ -157,13 +176,10 @@ bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remar
     const auto refuse = [&](const QString &reason) {
         return fail(error, tr("\"%1\" is no script mode: %2").arg(path, reason));
     };
-    // Before it takes memory.
-    if (QFileInfo(path).size() > MaxFileSize)
-        return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
     QString reason;
-    const QByteArray xml = MRVCoreUtil::ReadBinaryFile(path, &reason);
-    if (!reason.isEmpty())
-        return fail(error, reason);
+    QByteArray xml;
+    if (!readBounded(path, &xml, &reason))
+        return fail(error, tr("Cannot read the file \"%1\": %2").arg(path, reason));
     return fromXml(xml, &reason, remarks) || refuse(reason);
 }
 
@@ -190,7 +206,9 @@ bool MRVScriptMode::save(const QString &path, QString *error) const
 {
     // What could not be read again is not written.
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
-    if (xml.isEmpty() || xml.size() > MaxFileSize)
+    QString reason;
+    if (xml.isEmpty() || xml.size() > MaxFileSize
+        || !scriptModeKeepsLimits(QString::fromUtf8(xml), &reason))
         return fail(error,
                     tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
     return MRVFileWriter::write(path, xml, error);
@@ -217,10 +235,16 @@ QMap<QString, MRVScriptMode> MRVScriptMode::userModes()
 
 bool MRVScriptMode::addToUserModes(const QString &name, MRVScriptMode &mode)
 {
+    const QString path = userModePath(name);
+    return !path.isEmpty() && mode.save(path);
+}
+
+QString MRVScriptMode::userModePath(const QString &name)
+{
     const QString file = MRV::cleanFileName(name);
     const QString folder = file.isEmpty() ? QString() : userFolder();
-    return !folder.isEmpty()
-        && mode.save(folder + QLatin1Char('/') + file + QLatin1String(FileSuffix));
+    return folder.isEmpty() ? QString()
+                            : folder + QLatin1Char('/') + file + QLatin1String(FileSuffix);
 }
 
 void MRVScriptMode::makeElementsUnique()
@@ -228,16 +252,20 @@ void MRVScriptMode::makeElementsUnique()
     QSet<QString> used;
     for (const MRVScriptElement &element : qAsConst(m_elements))
         used.insert(element.title());
-    QSet<QString> seen;
+    QHash<QString, int> lastNumbers; // of titles that were seen; 0 for the first of them
     for (MRVScriptElement &element : m_elements) {
-        QString title = element.title();
-        if (seen.contains(title)) {
-            while (used.contains(title))
-                title = MRV::adjustName(title);
-            used.insert(title);
-            element.setTitle(title);
+        const QString series = element.title();
+        const auto last = lastNumbers.find(series);
+        if (last == lastNumbers.end()) {
+            lastNumbers.insert(series, 0);
+            continue;
         }
-        seen.insert(title);
+        QString title;
+        do
+            title = series + QLatin1Char('-') + QString::number(++*last);
+        while (used.contains(title));
+        used.insert(title);
+        element.setTitle(title);
     }
 }
 
@@ -263,10 +291,13 @@ QMap<QString, MRVScriptMode> mrv_loadPath(const QString &folder)
     for (const QFileInfo &file : files) {
         MRVScriptMode mode;
         QString error;
-        if (mode.load(file.filePath(), &error))
+        QStringList remarks;
+        if (mode.load(file.filePath(), &error, &remarks))
             modes.insert(mode.name(), mode);
         else
             qCWarning(lcScript, "%s", qUtf8Printable(error));
+        for (const QString &remark : qAsConst(remarks))
+            qCInfo(lcScript, "\"%s\": %s", qUtf8Printable(file.filePath()), qUtf8Printable(remark));
     }
     return modes;
 }

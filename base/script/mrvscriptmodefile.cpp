@@ -46,7 +46,8 @@ struct FontRow
     const char *name;
     const char *here;
 };
-constexpr FontRow FontRows[] = {{"Courier", "Courier New"},
+constexpr FontRow FontRows[] = {{"Arial", "Arial"},
+                                {"Courier", "Courier New"},
                                 {"CourierNew", "Courier New"},
                                 {"CourierNewPS", "Courier New"},
                                 {"MS Shell Dlg", "Arial"},
@@ -56,15 +57,14 @@ constexpr FontRow FontRows[] = {{"Courier", "Courier New"},
 
 QString localFamily(const QString &family)
 {
-    // "ArialMT" is the name of a file of the family; of "Gill Sans MT" it is a part.
-    const bool suffixed = family.endsWith(QLatin1String("MT")) && family.size() > 2
-        && !family.at(family.size() - 3).isSpace();
+    // "ArialMT" is the name of a file of the family; of "Gill Sans MT" and "BemboMT" it is a part.
+    const bool suffixed = family.endsWith(QLatin1String("MT"));
     const QString name = suffixed ? family.chopped(2) : family;
     for (const FontRow &row : FontRows) {
         if (name == QLatin1String(row.name))
             return QLatin1String(row.here);
     }
-    return name;
+    return family;
 }
 
 template<int count>
@@ -128,13 +128,15 @@ QString lengthText(double points, MRVUnit::Unit units)
                     [&](double length) { return scriptToPoints(units, length); });
 }
 
+// False, too, where it is cut; "points" is untouched only where there is no number.
 bool readLength(const QString &text, MRVUnit::Unit units, double *points)
 {
     double length = 0.0;
     if (!readNumber(text, &length))
         return false;
-    *points = bounded(scriptToPoints(units, bounded(length)));
-    return true;
+    const double exact = scriptToPoints(units, bounded(length));
+    *points = bounded(exact);
+    return *points == exact && bounded(length) == length;
 }
 
 template<typename Change>
@@ -162,9 +164,9 @@ QString length(const Element &element, MRVUnit::Unit units)
 template<int property>
 bool takeLength(Element *element, const QString &text, MRVUnit::Unit units)
 {
-    double points = 0.0;
+    double points = qQNaN();
     const bool ok = readLength(text, units, &points);
-    if (ok)
+    if (!qIsNaN(points))
         changeBlock(element,
                     [&](QTextBlockFormat &format) { format.setProperty(property, points); });
     return ok;
@@ -179,14 +181,13 @@ QString firstTab(const Element &element, MRVUnit::Unit units)
 bool takeFirstTab(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
-    if (!readLength(text, units, &points))
-        return false;
+    const bool ok = readLength(text, units, &points);
     if (points > 0.0) {
         changeBlock(element, [&](QTextBlockFormat &format) {
             format.setTabPositions({QTextOption::Tab(points, QTextOption::LeftTab)});
         });
     }
-    return true;
+    return ok && points >= 0.0;
 }
 
 // Qt's paragraphs have no interval of their own; the first stop is the one that a script uses.
@@ -251,7 +252,7 @@ bool takeFixedLineHeight(Element *element, const QString &text, MRVUnit::Unit un
 {
     double points = 0.0;
     const bool ok = readLength(text, units, &points);
-    if (ok && points != 0.0)
+    if (points != 0.0)
         setSpacing(element, points, 0.0);
     return ok;
 }
@@ -260,7 +261,8 @@ bool takeFixedLineHeight(Element *element, const QString &text, MRVUnit::Unit un
 
 QString alignment(const Element &element, MRVUnit::Unit)
 {
-    const int bits = int(element.blockFormat().alignment() & Qt::AlignHorizontal_Mask);
+    const int bits =
+        int(element.blockFormat().alignment() & Qt::AlignHorizontal_Mask) & ~int(Qt::AlignAbsolute);
     return wordOf(AlignmentWords, bits & Qt::AlignHCenter ? int(Qt::AlignHCenter) : bits);
 }
 
@@ -462,10 +464,18 @@ QString textColor(const Element &element, MRVUnit::Unit)
 
 bool takeTextColor(Element *element, const QString &value, MRVUnit::Unit)
 {
+    const QStringList parts = value.simplified().split(u' ');
+    bool exact = parts.size() == 3;
+    for (const QString &part : parts) {
+        double component = 0.0;
+        if (!readNumber(part, &component))
+            return false;
+        exact = exact && component >= 0.0 && component <= 1.0;
+    }
     const QColor color = MRV::floatStringToColor(value);
     if (color.isValid())
         changeChar(element, [&](QTextCharFormat &format) { format.setForeground(color); });
-    return color.isValid();
+    return exact;
 }
 
 constexpr ScriptFieldKind Text = ScriptFieldKind::Text;
@@ -557,5 +567,5 @@ bool readScriptFont(MRVScriptElement *element, const QString &family, const QStr
         if (ok && points > 0.0)
             format.setFontPointSize(qMin(points, MaxFontSize));
     });
-    return ok;
+    return ok && points <= MaxFontSize;
 }

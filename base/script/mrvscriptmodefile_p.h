@@ -3,6 +3,7 @@
 #include "script/mrvscriptelement.h"
 #include "util/mrvunit.h"
 
+#include <QByteArray>
 #include <QString>
 
 // The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: what writes a mode and
@@ -85,7 +86,10 @@ struct ScriptField
     ScriptFieldKind kind;
     /** What is written; a null string is not. Null for what is only read. */
     QString (*text)(const MRVScriptElement &element, MRVUnit::Unit units);
-    /** False, with the element as it was, where the text cannot be read as it stands. */
+    /**
+     * False where the text cannot be read as it stands. The element then is as it was, or has the nearest value that it
+     * can have.
+     */
     bool (*read)(MRVScriptElement *element, const QString &text, MRVUnit::Unit units);
 };
 
@@ -98,8 +102,23 @@ struct ScriptFields
 
 QString scriptFontFamily(const MRVScriptElement &element);
 QString scriptFontSize(const MRVScriptElement &element);
-/** False where the size is no size; the family is taken nevertheless. */
+/** False where the size cannot be read as it stands; the family is taken nevertheless. */
 bool readScriptFont(MRVScriptElement *element, const QString &family, const QString &size);
+
+/** A line of the file, from 1, and what is the matter there, translated. */
+QString scriptLineText(qint64 line, const QString &text);
+
+/**
+ * The text of a mode's file, in the encoding that its byte-order mark or its declaration names, else UTF-8; false, with
+ * the line and the reason, where the bytes are not of that.
+ */
+bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error);
+
+/**
+ * Whether Qt's parser can be trusted with a text, which takes time quadratic in the attributes of a tag and carries out
+ * document types; false, with the line and the reason, where not. What is no XML may pass, as the parser stops there.
+ */
+bool scriptModeKeepsLimits(const QString &xml, QString *error);
 
 /** See MRVScriptMode::toPoints(). */
 double scriptToPoints(MRVUnit::Unit units, double length);

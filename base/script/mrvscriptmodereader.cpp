@@ -10,11 +10,21 @@ namespace {
 constexpr int MaxDepth = 32;
 constexpr int MaxRemarks = 100;
 
+struct Attribute
+{
+    const char *tag;
+    const char *name;
+};
+constexpr Attribute Attributes[] = {{MorvaneScriptFormatTag, VersionAttribute},
+                                    {FontTag, NameTag},
+                                    {FontTag, SizeAttribute},
+                                    {CompletionItemTag, NewLineAfterAttribute}};
+
 class ModeReader
 {
 public:
     // Without units, those of the file count from where it names them.
-    ModeReader(const QByteArray &xml, std::optional<MRVUnit::Unit> units)
+    ModeReader(const QString &xml, std::optional<MRVUnit::Unit> units)
         : m_xml(xml)
         , m_unitsAreKnown(units.has_value())
     {
@@ -42,8 +52,10 @@ private:
     void readFont(MRVScriptElement *element);
     void readCompletions(MRVScriptElement *element);
     bool attribute(const char *name, QString *value) const;
-    bool isAt(const char *tag) const { return m_xml.name() == QLatin1String(tag); }
+    // Words of other namespaces have prefixes, and are none of ours.
+    bool isAt(const char *tag) const { return m_xml.qualifiedName() == QLatin1String(tag); }
     void remark(const QString &text);
+    void remarkAttributes();
     void remarkValue(const char *tag, const QString &value);
 
     QXmlStreamReader m_xml;
@@ -55,15 +67,10 @@ private:
     bool m_unitsCameLate = false;
 };
 
-QString lineText(qint64 line, const QString &text)
-{
-    return MRVScriptMode::tr("line %1: %2").arg(QString::number(line), text);
-}
-
 void ModeReader::remark(const QString &text)
 {
     if (m_remarks.size() < MaxRemarks)
-        m_remarks.append(lineText(m_xml.lineNumber(), text));
+        m_remarks.append(scriptLineText(m_xml.lineNumber(), text));
 }
 
 void ModeReader::remarkValue(const char *tag, const QString &value)
@@ -72,13 +79,27 @@ void ModeReader::remarkValue(const char *tag, const QString &value)
                .arg(value.left(40).simplified(), QLatin1String(tag)));
 }
 
-// Every token goes through here: nothing is read from documents that nest without end, or that grow by entities.
+// Of the element that it is in.
+void ModeReader::remarkAttributes()
+{
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        bool known = false;
+        for (const Attribute &row : Attributes)
+            known =
+                known || (isAt(row.tag) && attribute.qualifiedName() == QLatin1String(row.name));
+        if (!known)
+            remark(MRVScriptMode::tr("the attribute \"%1\" has no place in \"%2\"")
+                       .arg(attribute.qualifiedName().toString().left(40),
+                            m_xml.qualifiedName().toString().left(40)));
+    }
+}
+
+// Every token goes through here: nothing is read from documents that nest without end.
 QXmlStreamReader::TokenType ModeReader::next()
 {
     const QXmlStreamReader::TokenType token = m_xml.readNext();
-    if (token == QXmlStreamReader::DTD)
-        m_xml.raiseError(MRVScriptMode::tr("a document type declaration does not belong here"));
-    else if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth)
+    if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth)
         m_xml.raiseError(
             MRVScriptMode::tr("more than %1 elements lie within each other").arg(MaxDepth));
     else if (token == QXmlStreamReader::EndElement)
@@ -110,6 +131,7 @@ bool ModeReader::nextChild()
 // The text of the element that it is in, up to its end.
 QString ModeReader::text()
 {
+    remarkAttributes();
     const QString tag = m_xml.name().toString();
     QString text;
     for (;;) {
@@ -134,7 +156,7 @@ QString ModeReader::text()
 void ModeReader::skip(const char *parent)
 {
     remark(MRVScriptMode::tr("\"%1\" has no place in \"%2\" and is passed over")
-               .arg(m_xml.name().toString().left(40), QString::fromUtf8(parent)));
+               .arg(m_xml.qualifiedName().toString().left(40), QString::fromUtf8(parent)));
     const int outside = m_depth - 1;
     while (m_depth > outside && next() != QXmlStreamReader::Invalid) { }
 }
@@ -142,10 +164,14 @@ void ModeReader::skip(const char *parent)
 bool ModeReader::read()
 {
     if (nextChild() && !isAt(MorvaneScriptFormatTag)) {
-        m_xml.raiseError(
-            MRVScriptMode::tr("the root element is \"%1\" and not \"%2\"")
-                .arg(m_xml.name().toString().left(40), QLatin1String(MorvaneScriptFormatTag)));
+        m_xml.raiseError(MRVScriptMode::tr("the root element is \"%1\" and not \"%2\"")
+                             .arg(m_xml.qualifiedName().toString().left(40),
+                                  QLatin1String(MorvaneScriptFormatTag)));
+    } else if (!m_xml.namespaceUri().isEmpty()) {
+        m_xml.raiseError(MRVScriptMode::tr("the root element is of the namespace \"%1\"")
+                             .arg(m_xml.namespaceUri().toString().left(40)));
     }
+    remarkAttributes();
     QString version;
     if (!m_xml.hasError()
         && (!attribute(VersionAttribute, &version) || version != QLatin1String(FileVersion)))
@@ -188,6 +214,7 @@ void ModeReader::readUnits()
 
 void ModeReader::readElements()
 {
+    remarkAttributes();
     while (nextChild()) {
         if (!isAt(ElementItemTag))
             skip(ScriptElementsTag);
@@ -209,6 +236,7 @@ void ModeReader::readElement()
 // The children of the element (an empty group) or of one of its groups.
 void ModeReader::readGroup(const QString &group, MRVScriptElement *element)
 {
+    remarkAttributes();
     while (nextChild()) {
         bool isGroup = false;
         const ScriptField *found = nullptr;
@@ -259,14 +287,18 @@ void ModeReader::readFont(MRVScriptElement *element)
 
 void ModeReader::readCompletions(MRVScriptElement *element)
 {
+    remarkAttributes();
     MRVCompletionList completions = element->completions();
+    element->setCompletions(MRVCompletionList()); // else the first append() would copy all
     while (nextChild()) {
         if (!isAt(CompletionItemTag)) {
             skip(CompletionListTag);
             continue;
         }
         QString newLine;
-        attribute(NewLineAfterAttribute, &newLine);
+        if (attribute(NewLineAfterAttribute, &newLine) && newLine != QLatin1String(YesWord)
+            && newLine != QLatin1String(NoWord))
+            remarkValue(NewLineAfterAttribute, newLine);
         completions.append({text(), newLine == QLatin1String(YesWord)});
     }
     element->setCompletions(completions);
@@ -274,10 +306,15 @@ void ModeReader::readCompletions(MRVScriptElement *element)
 
 QString ModeReader::error() const
 {
-    return lineText(m_xml.lineNumber(), m_xml.errorString());
+    return scriptLineText(m_xml.lineNumber(), m_xml.errorString());
 }
 
 } // namespace
+
+QString scriptLineText(qint64 line, const QString &text)
+{
+    return MRVScriptMode::tr("line %1: %2").arg(QString::number(line), text);
+}
 
 bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *remarks)
 {
@@ -288,9 +325,13 @@ bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *
     };
     if (xml.size() > MaxFileSize)
         return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
+    QString text;
+    QString reason;
+    if (!decodeScriptMode(xml, &text, &reason) || !scriptModeKeepsLimits(text, &reason))
+        return refuse(reason);
     std::optional<MRVUnit::Unit> units;
     for (;;) {
-        ModeReader reader(xml, units);
+        ModeReader reader(text, units);
         if (!reader.read())
             return refuse(reader.error());
         // A second time, with units that are known from the start.

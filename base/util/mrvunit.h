@@ -35,7 +35,8 @@ public:
     /**
      * Reads a number and the unit behind it: "pt", "px", "cm", "mm", "dm", "inch", "in", a double
      * quote, "pi", "dd" (didot) or "cc" (cicero). White space does not count wherever it stands, case
-     * does, and a number alone is refused. The number is what QString::toDouble() takes, with a dot.
+     * does, and a number alone is refused. The number is what QString::toDouble() takes, with a dot; that
+     * includes "inf" and "nan", and the points of a large number may be infinite where it is not.
      *
      * An inch is 72 points and a centimetre 28.3465058, so that an inch is 2.5399956 cm. Deliberate: a
      * didot counts 154.08124 points, twelve ciceros.
