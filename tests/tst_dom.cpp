@@ -581,6 +581,10 @@ private Q_SLOTS:
         QTest::newRow("external") << own("<!ENTITY a SYSTEM 'file:///etc/hostname'>", "t&a;")
                                   << false;
         QTest::newRow("repeated-attribute") << "<r a='1' b='<' a = \"2\"/>" << false;
+        QString attributes;
+        for (int i = 0; i <= 10000; ++i)
+            attributes += QString(" a%1=''").arg(i);
+        QTest::newRow("too-many-attributes") << "<r" + attributes + "/>" << false;
         QTest::newRow("many-entities")
             << own(QString("<!ENTITY a 'b'>").repeated(2001), "") << false;
         QTest::newRow("many-attributes")

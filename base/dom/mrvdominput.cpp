@@ -41,11 +41,6 @@ QString tooDeep()
         .arg(MRVDomLimits::MaxDepth);
 }
 
-QString repeatedAttribute()
-{
-    return Messages::tr("an element has two attributes of one name");
-}
-
 QString tooLong()
 {
     return Messages::tr("entities expand to too much text");
@@ -85,7 +80,7 @@ QByteArray encodingOf(const QByteArray &bytes)
 class Nesting
 {
 public:
-    enum Outcome { Keeps, TooDeep, RepeatedAttribute, HasOwnDeclarations };
+    enum Outcome { Keeps, TooDeep, TooManyAttributes, RepeatedAttribute, HasOwnDeclarations };
     enum Declarations { Report, Skip };
 
     explicit Nesting(const QString &xml, Declarations declarations = Report)
@@ -118,9 +113,10 @@ public:
             } else {
                 const int start = m_position;
                 const int end = tagEnd(QChar());
-                if (hasRepeatedName()) {
+                if (m_names.size() > MRVDomLimits::MaxAttributes || hasRepeatedName()) {
                     m_position = start;
-                    return RepeatedAttribute;
+                    return m_names.size() > MRVDomLimits::MaxAttributes ? TooManyAttributes
+                                                                        : RepeatedAttribute;
                 }
                 if (m_xml[end - 1] != u'/') {
                     m_deepest = qMax(m_deepest, ++m_depth);
@@ -222,6 +218,18 @@ private:
     int m_depth = 0;
     int m_deepest = 0;
 };
+
+QString faultOf(Nesting::Outcome outcome)
+{
+    switch (outcome) {
+    case Nesting::TooManyAttributes:
+        return Messages::tr("an element has too many attributes");
+    case Nesting::RepeatedAttribute:
+        return Messages::tr("an element has two attributes of one name");
+    default:
+        return tooDeep();
+    }
+}
 
 /** Entities that are declared elsewhere: nothing is fetched. */
 class NoText : public QXmlStreamEntityResolver
@@ -339,9 +347,8 @@ bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
     };
     Nesting nesting(xml, Nesting::Skip);
     const Nesting::Outcome outcome = nesting.follow();
-    if (outcome == Nesting::TooDeep || outcome == Nesting::RepeatedAttribute) {
-        return refuse(outcome == Nesting::TooDeep ? tooDeep() : repeatedAttribute(),
-                      nesting.position());
+    if (outcome != Nesting::Keeps) {
+        return refuse(faultOf(outcome), nesting.position());
     }
     const int start = qMax(0, xml.indexOf(QLatin1String("<!DOCTYPE")));
     const QString declarations = nesting.declarations().toString();
@@ -488,7 +495,7 @@ bool mrvKeepsXmlLimits(const QString &xml, MRVDomProblem *problem)
     if (outcome == Nesting::Keeps) {
         return true;
     }
-    problem->message = outcome == Nesting::TooDeep ? tooDeep() : repeatedAttribute();
+    problem->message = faultOf(outcome);
     setPlace(problem, xml, nesting.position());
     return false;
 }

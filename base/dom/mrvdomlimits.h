@@ -9,6 +9,8 @@ struct MRVDomLimits
 {
     /** Elements may be nested this deeply, the document element counting as one, to be loaded or saved. */
     static constexpr int MaxDepth = 1000;
+    /** An element may have so many attributes. */
+    static constexpr int MaxAttributes = 10000;
     /** With its entities expanded, a document may be this many times as long as before ... */
     static constexpr int MaxExpansionFactor = 100;
     /** ... and longer by so many characters; beyond either it is refused. */

@@ -1,5 +1,6 @@
 #include "script/mrvfinaldraft.h"
 
+#include "core/mrvxmltext.h"
 #include "script/mrvscriptxml_p.h"
 
 #include <QXmlStreamWriter>

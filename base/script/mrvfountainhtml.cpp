@@ -1,5 +1,6 @@
 #include "script/mrvfountainhtml.h"
 
+#include "core/mrvxmltext.h"
 #include "script/mrvscriptxml_p.h"
 
 #include <QXmlStreamReader>

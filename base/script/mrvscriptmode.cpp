@@ -1,6 +1,7 @@
 #include "script/mrvscriptmode.h"
 
 #include "core/mrvfilewriter.h"
+#include "core/mrvxmltext.h"
 #include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
 #include "util/mrvnames.h"

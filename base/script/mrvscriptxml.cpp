@@ -32,23 +32,6 @@ QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
     return parts;
 }
 
-QString mrvXmlText(const QString &text)
-{
-    QString clean;
-    clean.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            clean += c;
-            clean += text.at(++i);
-        } else if (!c.isSurrogate() && c.unicode() < 0xfffe
-                   && (c >= u' ' || c == u'\t' || c == u'\n' || c == u'\r')) {
-            clean += c;
-        }
-    }
-    return clean;
-}
-
 bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error)
 {
     if (xml.hasError() && error) {

@@ -22,9 +22,6 @@ struct MrvSpeeches
 /** The parts of a script, which together are all of it. */
 QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements);
 
-/** A text without characters that XML forbids, and halves of surrogate pairs. */
-QString mrvXmlText(const QString &text);
-
 /** Whether all of a document was read; else @p error, if given, receives a line with the number of the line. */
 bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error);
 
