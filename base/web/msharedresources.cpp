@@ -1,0 +1,9 @@
+#include "web/msharedresources.h"
+
+#include "core/mrvcore.h"
+
+QString MSharedResources::updatesIniFileLocation()
+{
+    return MrvCore::isAppMorvane() ? QStringLiteral(":CheckForUpdate/Resources/updates.ini")
+                                   : QStringLiteral(":CheckForUpdate/resources/updates/updates.ini");
+}
