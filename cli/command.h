@@ -18,10 +18,18 @@ struct Command
     int (*run)(const QStringList &arguments); // arguments[0] is the command's name
 };
 
+int runAutoReplace(const QStringList &arguments);
+int runEngines(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
+int runFormats(const QStringList &arguments);
+int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
+int runPresets(const QStringList &arguments);
 int runReplace(const QStringList &arguments);
+int runScript(const QStringList &arguments);
+int runSettings(const QStringList &arguments);
+int runShortcuts(const QStringList &arguments);
 int runXml(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */

@@ -14,10 +14,18 @@
 namespace {
 
 constexpr Command commands[] = {
+    {"autoreplace", "show what typing replaces, and edit the list", runAutoReplace},
+    {"engines", "tell and choose what converts which format", runEngines},
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
+    {"formats", "list file formats and what can be done with them", runFormats},
+    {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
+    {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
+    {"script", "list, show and check script modes", runScript},
+    {"settings", "show and change the application's preferences", runSettings},
+    {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
     {"xml", "read and edit XML files by paths", runXml},
 };
 
@@ -26,7 +34,7 @@ QString usage()
     QString text = QStringLiteral("Usage: mrv COMMAND [OPTIONS] [ARGUMENTS]\n\nCommands:\n");
     for (const Command &command : commands) {
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.name), -11)
                     .arg(QLatin1String(command.summary));
     }
     return text

@@ -8,19 +8,10 @@
 //
 // Only the readers are compiled in, so that they are instrumented; Qt is not.
 
+#include "guiapplication.h"
 #include "text/mrvtextformat.h"
 
-#include <QGuiApplication>
-
 #include <cstdlib>
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    static QGuiApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -322,7 +322,14 @@ private Q_SLOTS:
         QVERIFY(doc.setRoot("root@version=2") && doc.workChild().isEmpty());
         QCOMPARE(saved(doc), QByteArray("<root version=\"\"/>\n"));
         doc.currentElement() = MRVDomDoc::EmptyElement;
-        QVERIFY(!doc.append("second") && !doc.create("second"));
+        QVERIFY(!doc.append("second") && !doc.create("second")
+                && !doc.append(doc.documentElement()));
+        QVERIFY(doc.setContent(documentOf("r1(a2,a3,b4)")) && doc.remove("./a@n", true) == 2);
+        QVERIFY(doc.setContent(doc.currentElement()) && doc.exists("/r/b"));
+        MRVDomDoc copy;
+        QVERIFY(copy.append(doc.currentElement()) && copy.workPath() == "/r"
+                && !MRVDomDoc().append(doc.document()));
+        QCOMPARE(copy.createPath(QString("a/").repeated(5000)), 999);
     }
 
     // What the cursor is on may be removed with all that is around it, or replaced.
@@ -437,6 +444,11 @@ private Q_SLOTS:
         QVERIFY(doc.get(&read, "d", "yyyy/MM/dd hh.mm")
                 && read == QDateTime({2021, 3, 4}, {12, 0}, Qt::UTC));
         QVERIFY(!doc.get(&read, "d") && !read.isValid());
+        // An hour that local time lacks.
+        qputenv("TZ", "Europe/Berlin");
+        QVERIFY(doc.set(QDateTime({2020, 3, 29}, {2, 30}, Qt::UTC), "d", "dd.MM.yyyy hh:mm"));
+        QVERIFY(doc.get(&read, "d", "dd.MM.yyyy hh:mm") && read.time() == QTime(2, 30));
+        qunsetenv("TZ");
     }
 
     void savesAndLoads()
@@ -483,6 +495,28 @@ private Q_SLOTS:
         const QByteArray first = saved(doc);
         QVERIFY(doc.setContent(QString(first)) && doc.documentElement().text() == "abdef");
         QCOMPARE(saved(doc), first);
+        // What Qt's parser gets wrong.
+        QVERIFY(doc.setContent(QString(QChar(QChar::ByteOrderMark))
+                               + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;\x01&#1;<!--&#1;--></r>"));
+        QCOMPARE(doc.documentElement().text(), QString("\U0001F600\na\nb\r"));
+        QCOMPARE(doc.documentElement().attribute("a"), QString("\U0001F600"));
+        // What would end too early, or be declared nowhere.
+        QVERIFY(doc.setContent(QString("<r><![CDATA[old]]></r>")) && doc.set("a]]>b"));
+        QDomNode root = doc.currentElement();
+        QDomDocument dom = doc.document();
+        root.appendChild(dom.createTextNode("]]"));
+        root.appendChild(dom.createTextNode("><"));
+        root.appendChild(dom.createComment("a---b-"));
+        root.appendChild(dom.createProcessingInstruction("p", "x?>y"));
+        QDomDocument spaces;
+        QVERIFY(spaces.setContent(
+            QString("<p:a xmlns:p='urn:x' xmlns='urn:y'><b/><p:c p:k='v'/></p:a>"), true));
+        QVERIFY(doc.append(spaces.documentElement()));
+        QVERIFY(doc.setContent(QString::fromUtf8(saved(doc)))
+                && doc.documentElement().text() == "a]]>b]]><");
+        QCOMPARE(doc.find("p:a/b").attribute("xmlns"), QString("urn:y"));
+        QCOMPARE(doc.find("p:a").attribute("xmlns:p"), QString("urn:x"));
+        QVERIFY(!doc.find("p:a/p:c").hasAttribute("xmlns:p"));
         // Many attributes come out sorted, too.
         doc.setRoot("r");
         QByteArray expected = "<r";
@@ -540,6 +574,12 @@ private Q_SLOTS:
             << QString(own1).replace("&a;", QString("&a;").repeated(100000)) << false;
         QTest::newRow("external") << own("<!ENTITY a SYSTEM 'file:///etc/hostname'>", "t&a;")
                                   << false;
+        QTest::newRow("repeated-attribute") << "<r a='1' b='<' a = \"2\"/>" << false;
+        QTest::newRow("many-entities")
+            << own(QString("<!ENTITY a 'b'>").repeated(2001), "") << false;
+        QTest::newRow("many-attributes")
+            << own("<!ATTLIST r " + QString("a CDATA 'x' ").repeated(30000) + ">", "") << false;
+        QTest::newRow("small-parameters") << "<!DOCTYPE r [<!ENTITY % x ''>%x;%x;]><r/>" << true;
         QTest::newRow("undeclared") << "<!DOCTYPE r SYSTEM 'r.dtd'><r>a&nbsp;b</r>" << true;
         QTest::newRow("empty") << "" << false;
     }

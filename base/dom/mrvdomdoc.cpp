@@ -75,6 +75,7 @@ void MRVDomDoc::clear()
     // The elements that it stands between are about to go.
     m_findPosition = EmptyElement;
     m_removed.clear();
+    m_lostRoot = false;
     m_fileName.clear();
     m_errorLine = -1;
     m_errorColumn = -1;
@@ -90,8 +91,9 @@ void MRVDomDoc::init()
 
 bool MRVDomDoc::setContent(const QDomElement &e)
 {
+    const QDomElement source = e; // may be the work element itself
     clear();
-    m_document.appendChild(m_document.importNode(e, true));
+    m_document.appendChild(m_document.importNode(source, true));
     init();
     return true;
 }
@@ -131,8 +133,9 @@ bool MRVDomDoc::setContent(QIODevice *device)
         : refuse(problem.message, problem.line, problem.column);
 }
 
-bool MRVDomDoc::parse(const QString &xml)
+bool MRVDomDoc::parse(const QString &text)
 {
+    const QString xml = mrvSoundXml(text);
     MRVDomProblem problem;
     if (!mrvKeepsXmlLimits(xml, &problem)) {
         return refuse(problem.message, problem.line, problem.column);
@@ -160,6 +163,8 @@ bool MRVDomDoc::load(const QString &fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         m_errorMessage = QLatin1String("File not found: ") + fileName;
+        m_errorLine = -1;
+        m_errorColumn = -1;
         return false;
     }
     if (!setContent(&file)) {
@@ -375,7 +380,12 @@ bool MRVDomDoc::add(const QString &name, const QString &text, Place place)
 bool MRVDomDoc::create(const QString &name)
 {
     const QDomElement parent = m_workElement;
-    if (!add(name, QString(), Place::Last)) {
+    int depth = 1;
+    for (QDomNode e = parent; e.isElement(); e = e.parentNode()) {
+        ++depth;
+    }
+    // What could not be saved is not built.
+    if (depth > MRVDomLimits::MaxDepth || !add(name, QString(), Place::Last)) {
         return false;
     }
     if (!parent.isNull()) {
@@ -388,7 +398,15 @@ bool MRVDomDoc::create(const QString &name)
 
 bool MRVDomDoc::append(const QDomNode &node)
 {
-    m_workElement.appendChild(m_document.importNode(node, true));
+    const QDomNode copy = m_document.importNode(node, true);
+    if (m_workElement.isNull()) {
+        if (!copy.isElement() || !m_document.documentElement().isNull()) {
+            return false;
+        }
+        m_workElement = m_document.appendChild(copy).toElement();
+    } else {
+        m_workElement.appendChild(copy);
+    }
     m_workChild = m_workElement.lastChild().toElement();
     return true;
 }

@@ -26,7 +26,7 @@ class QIODevice;
  *
  * Values are read and written as the text of elements and as attributes, each type in one text form (MRVDomText). What
  * XML cannot hold (control characters, U+FFFE, U+FFFF, halves of surrogate pairs) is dropped from texts where they enter
- * the document. A text of blanks only does not survive saving and loading, since a parser cannot tell it from
+ * the document, also when it is loaded. A text of blanks only does not survive saving and loading, since a parser cannot tell it from
  * indentation.
  *
  * Looking something up moves no cursor, but findNext() goes on from the last find(), so that these two, though const, must
@@ -65,15 +65,15 @@ public:
      * Replaces the content by the XML in @p xml, whose declared encoding does not matter. Namespaces are not looked at:
      * a prefix is part of a name.
      *
-     * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set, when the text is no
-     * XML, or is refused: nested more deeply, or with entities that expand to more, than MRVDomLimits allows.
-     * External entities are never fetched.
+     * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set, when Qt's parser does not
+     * take the text, or when it is refused: with two attributes of one name in an element, nested more deeply, or with entities that expand to more, than MRVDomLimits allows.
+     * External entities are never fetched; references to them are refused, too.
      */
     bool setContent(const QString &xml);
     /**
      * As above, with the bytes of a device from its current position on. A byte-order mark or the XML declaration
      * names the encoding; else it is UTF-8. The file name is kept. A device that is not open is opened, and closed
-     * again; false for a null device, and, with an empty document, for one that cannot be read to its end.
+     * again; false for a null device, and, with an empty document, for a file that cannot be read to its end.
      */
     bool setContent(QIODevice *device);
     /**
@@ -84,7 +84,8 @@ public:
     bool load(const QString &fileName);
     /**
      * Writes the document as UTF-8, whatever its declaration said before, with an indentation of three blanks a level
-     * and the attributes of each element sorted by name: the same document gives the same bytes.
+     * and the attributes of each element sorted by name: the same document gives the same bytes. Of a document type, its
+     * name and files are kept, while its own declarations go, since the parser has carried them out.
      *
      * @return false when the device did not take it all, or when elements are nested more deeply than MRVDomLimits allows, so
      * that the document could not be loaded again; nothing is written then.
@@ -100,7 +101,7 @@ public:
     void setFilename(const QString &fileName) { m_fileName = fileName; }
     /**
      * Replaces the content by one element, made by createElement(), and makes it the work element; there is no work
-     * child then. Always true.
+     * child then. Always true; with an empty name the document is empty.
      */
     bool setRoot(const QString &spec, const QString &text = QString());
 
@@ -196,9 +197,15 @@ public:
     bool insert(const QString &name, const QString &text = QString(), bool before = false);
     /** As append(), but before the other children. Deliberate: the work child stays where there were any. */
     bool prepend(const QString &name, const QString &text = QString());
-    /** Adds an empty last child and moves the cursor into it; there is no work child then. Refuses what append() does. */
+    /**
+     * Adds an empty last child and moves the cursor into it; there is no work child then. Refuses what append() does, and to
+     * nest more deeply than MRVDomLimits allows.
+     */
     bool create(const QString &name);
-    /** Adds a deep copy of @p node as last child; the work child becomes the last child, if that is an element. */
+    /**
+     * Adds a deep copy of @p node as last child; the work child becomes the last child, if that is an element. Without a work
+     * element an element becomes the document element and the work element; anything else is refused then.
+     */
     bool append(const QDomNode &node);
     /**
      * Moves the cursor to @p path, creating what is missing of it.
@@ -222,7 +229,7 @@ public:
     /**
      * @name Values
      *
-     * T is one of short, int, long and their unsigned forms, float, double, bool, QSize, QPoint, QSizeF, QPointF,
+     * T is one of short, int, long, long long and their unsigned forms, float, double, bool, QSize, QPoint, QSizeF, QPointF,
      * QStringList and QDateTime, and, for reading, char and unsigned char; MRVDomText has the text forms. Where a text
      * was found, a reader stores what it converts to, 0 or false for one that does not convert, and returns whether it
      * converts. Where no text was found, it returns false and stores nothing. A null @p out receives nothing: false.
@@ -371,11 +378,11 @@ private:
     QDomElement resolve(QDomElement e, int index, int end) const;
     QDomElement resolveBelow(const QDomElement &e, int index, int end) const;
     int removeAll(const QString &path);
-    int removeBelow(const QDomElement &e, int index);
+    int removeBelow(const QDomElement &e, const QVector<Step> &walk, int index);
     bool removeElement(const QDomElement &e);
 
     bool readText(const QString &path, QString *out) const;
-    bool parse(const QString &xml);
+    bool parse(const QString &text);
     bool refuse(const QString &message, int line, int column);
     void moveTo(const QDomElement &e);
     bool add(const QString &name, const QString &text, Place place);
@@ -407,5 +414,6 @@ private:
     mutable QString m_path; // what find() was last asked for
     mutable bool m_isParsed = false;
     mutable bool m_isAbsolute = false;
+    bool m_lostRoot = false; // a document element was removed; there may be another
     QVector<QDomElement> m_removed; // removed elements that the cursor is on or in
 };

@@ -1,6 +1,7 @@
 #include "dom/mrvdominput_p.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvxmltext.h"
 #include "dom/mrvdomlimits.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,8 @@
 #include <QTextCodec>
 #include <QXmlStreamEntityResolver>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +41,11 @@ QString tooDeep()
         .arg(MRVDomLimits::MaxDepth);
 }
 
+QString repeatedAttribute()
+{
+    return Messages::tr("an element has two attributes of one name");
+}
+
 QString tooLong()
 {
     return Messages::tr("entities expand to too much text");
@@ -55,10 +63,10 @@ QByteArray declaredEncoding(const QByteArray &bytes)
 QByteArray encodingOf(const QByteArray &bytes)
 {
     // Without a byte-order mark, the first characters tell of UTF-16 (XML 1.0, appendix F).
-    if (bytes.startsWith(QByteArray::fromRawData("<\0?\0", 4))) {
+    if (bytes.startsWith(QByteArray::fromRawData("<\0", 2))) {
         return QByteArrayLiteral("UTF-16LE");
     }
-    if (bytes.startsWith(QByteArray::fromRawData("\0<\0?", 4))) {
+    if (bytes.startsWith(QByteArray::fromRawData("\0<", 2))) {
         return QByteArrayLiteral("UTF-16BE");
     }
     const QByteArray declared = declaredEncoding(bytes);
@@ -77,7 +85,7 @@ QByteArray encodingOf(const QByteArray &bytes)
 class Nesting
 {
 public:
-    enum Outcome { Keeps, TooDeep, HasOwnDeclarations };
+    enum Outcome { Keeps, TooDeep, RepeatedAttribute, HasOwnDeclarations };
     enum Declarations { Report, Skip };
 
     explicit Nesting(const QString &xml, Declarations declarations = Report)
@@ -110,6 +118,10 @@ public:
             } else {
                 const int start = m_position;
                 const int end = tagEnd(QChar());
+                if (hasRepeatedName()) {
+                    m_position = start;
+                    return RepeatedAttribute;
+                }
                 if (m_xml[end - 1] != u'/') {
                     m_deepest = qMax(m_deepest, ++m_depth);
                 }
@@ -158,6 +170,7 @@ private:
         const int size = m_xml.size();
         QChar quote;
         int i = m_position + 1;
+        m_names.clear();
         for (; i < size; ++i) {
             const QChar c = text[i];
             if (!quote.isNull()) {
@@ -168,6 +181,8 @@ private:
                 break;
             } else if (c == u'"' || c == u'\'') {
                 quote = c;
+            } else if (c == u'=') {
+                m_names.append(nameBefore(i));
             } else if (c == forbidden && !forbidden.isNull()) {
                 return -1;
             }
@@ -176,7 +191,31 @@ private:
         return i;
     }
 
+    QStringView nameBefore(int equals) const
+    {
+        int end = equals;
+        while (m_xml[end - 1].isSpace()) {
+            --end;
+        }
+        int start = end;
+        while (start > m_position && !m_xml[start - 1].isSpace() && m_xml[start - 1] != u'"'
+               && m_xml[start - 1] != u'\'') {
+            --start;
+        }
+        return QStringView(m_xml).mid(start, end - start);
+    }
+    // Qt's parser would keep one of two attributes with a name.
+    bool hasRepeatedName()
+    {
+        if (m_names.size() < 2) {
+            return false;
+        }
+        std::sort(m_names.begin(), m_names.end());
+        return std::adjacent_find(m_names.cbegin(), m_names.cend()) != m_names.cend();
+    }
+
     const QString &m_xml;
+    QVector<QStringView> m_names; // of the attributes in the last tag
     Declarations m_declarations;
     QStringView m_ownDeclarations;
     int m_position = 0;
@@ -220,13 +259,16 @@ qint64 parameterExpansion(const QString &xml)
     if (lengths.isEmpty()) {
         return 0;
     }
+    static const QRegularExpression nesting(
+        QStringLiteral("<!ENTITY\\s+%\\s+[^\\s\"'%;]+\\s+(?:\"[^\"]*(?:%|&#)|'[^']*(?:%|&#))"));
+    const int nested = xml.contains(nesting) ? MaxNestedExpansion : 0;
     qint64 expanded = 0;
     for (auto it = reference.globalMatch(xml); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
         const QStringView name =
             QStringView(xml).mid(match.capturedStart(1), match.capturedLength(1));
         if (lengths.contains(name)) {
-            expanded += lengths.value(name) + MaxNestedExpansion;
+            expanded += lengths.value(name) + nested;
         }
     }
     return expanded;
@@ -248,8 +290,9 @@ int markupLength(const QXmlStreamReader &reader)
     return length;
 }
 
-// The first entity in another file that the text refers to: the parser would leave it out, and mix up the text around it.
-QString externalReference(const QXmlStreamEntityDeclarations &declarations, const QString &xml)
+// The first reference to an entity in another file: the parser would leave it out, and mix up the text around it.
+QRegularExpressionMatch externalReference(const QXmlStreamEntityDeclarations &declarations,
+                                          const QString &xml)
 {
     QSet<QStringRef> external;
     for (const QXmlStreamEntityDeclaration &declaration : declarations) {
@@ -261,24 +304,20 @@ QString externalReference(const QXmlStreamEntityDeclarations &declarations, cons
     for (auto it = reference.globalMatch(xml); !external.isEmpty() && it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
         if (external.contains(match.capturedRef(1))) {
-            return match.captured(1);
+            return match;
         }
     }
-    return QString();
+    return QRegularExpressionMatch();
 }
 
 /**
  * Whether a text keeps the limits whatever its entities hold, judged from above. For texts that Qt's parser takes and its
  * stream reader does not: XML 1.1, some declarations.
  */
-bool surelyKeepsLimits(const QString &xml)
+bool surelyKeepsLimits(const Nesting &nesting, const QString &xml)
 {
     static const QRegularExpression needsReader(
         QStringLiteral("%|<!ENTITY\\s+[^\\s%]+\\s+(SYSTEM|PUBLIC)\\s"));
-    Nesting nesting(xml, Nesting::Skip);
-    if (nesting.follow() != Nesting::Keeps) {
-        return false;
-    }
     const QString declarations = nesting.declarations().toString();
     if (declarations.contains(needsReader)) {
         return false;
@@ -293,10 +332,26 @@ bool surelyKeepsLimits(const QString &xml)
 // The slow way, for texts with declarations of their own, whose entities may hold markup.
 bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
 {
-    if (isTooLong(parameterExpansion(xml), xml)) {
-        problem->message = tooLong();
-        setPlace(problem, xml, qMax(0, xml.indexOf(QLatin1String("<!ENTITY"))));
+    const auto refuse = [&](const QString &message, int position) {
+        problem->message = message;
+        setPlace(problem, xml, qBound(0, position, xml.size()));
         return false;
+    };
+    Nesting nesting(xml, Nesting::Skip);
+    const Nesting::Outcome outcome = nesting.follow();
+    if (outcome == Nesting::TooDeep || outcome == Nesting::RepeatedAttribute) {
+        return refuse(outcome == Nesting::TooDeep ? tooDeep() : repeatedAttribute(),
+                      nesting.position());
+    }
+    const int start = qMax(0, xml.indexOf(QLatin1String("<!DOCTYPE")));
+    const QString declarations = nesting.declarations().toString();
+    // The parser's time grows with the square of their number.
+    if (declarations.count(QLatin1String("<!")) > MRVDomLimits::MaxDeclarations
+        || declarations.size() > MRVDomLimits::MaxDeclarationLength) {
+        return refuse(Messages::tr("the document type has too many declarations"), start);
+    }
+    if (isTooLong(parameterExpansion(xml), xml)) {
+        return refuse(tooLong(), start);
     }
     NoText resolver;
     QXmlStreamReader reader(xml);
@@ -309,32 +364,78 @@ bool keepsLimitsExpanded(const QString &xml, MRVDomProblem *problem)
         depth += token == QXmlStreamReader::StartElement;
         depth -= token == QXmlStreamReader::EndElement;
         if (token == QXmlStreamReader::DTD) {
-            const QString external = externalReference(reader.entityDeclarations(), xml);
-            if (!external.isEmpty()) {
-                problem->message =
+            const QRegularExpressionMatch external =
+                externalReference(reader.entityDeclarations(), xml);
+            if (external.hasMatch()) {
+                return refuse(
                     Messages::tr(
                         "the entity '%1' stands in another file, and other files are not read")
-                        .arg(external);
-                break;
+                        .arg(external.captured(1)),
+                    external.capturedStart());
             }
         } else {
             expanded += markupLength(reader);
         }
+        const int position = int(reader.characterOffset());
         if (depth > MRVDomLimits::MaxDepth) {
-            problem->message = tooDeep();
-            break;
+            return refuse(tooDeep(), position - 1);
         }
         if (isTooLong(expanded, xml)) {
-            problem->message = tooLong();
-            break;
+            return refuse(tooLong(), position - 1);
         }
     }
-    if (problem->message.isEmpty() && reader.hasError() && !surelyKeepsLimits(xml)) {
+    if (reader.hasError() && !surelyKeepsLimits(nesting, xml)) {
         problem->message = reader.errorString();
+        problem->line = int(reader.lineNumber());
+        problem->column = int(reader.columnNumber()) + 1;
+        return false;
     }
-    problem->line = int(reader.lineNumber());
-    problem->column = int(reader.columnNumber()) + 1;
-    return problem->message.isEmpty();
+    return true;
+}
+
+// What a reference to a character stands for, or nothing for one that XML forbids.
+QString referenced(QStringView number)
+{
+    const bool isHex = number.startsWith(u'x');
+    bool ok = false;
+    const uint code = number.mid(isHex ? 1 : 0).toString().toUInt(&ok, isHex ? 16 : 10);
+    return ok && code <= QChar::LastValidCodePoint ? mrvXmlText(QString::fromUcs4(&code, 1))
+                                                   : QString();
+}
+
+/**
+ * The text with the references to characters that Qt's parser gets wrong put right: those beyond U+FFFF, of which it
+ * takes the lower half, and those that XML forbids, which go.
+ */
+QString withSoundReferences(const QString &xml)
+{
+    static constexpr struct
+    {
+        const char *start;
+        const char *end;
+    } verbatim[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+    QString result;
+    int done = 0;
+    for (int i = 0; i < xml.size(); ++i) {
+        const QStringView rest = QStringView(xml).mid(i);
+        if (rest[0] == u'<') {
+            for (const auto &section : verbatim) {
+                if (rest.startsWith(QLatin1String(section.start))) {
+                    const int end = xml.indexOf(QLatin1String(section.end), i);
+                    i = end < 0 ? xml.size() : end;
+                }
+            }
+        } else if (rest.startsWith(QLatin1String("&#"))) {
+            constexpr int MaxReference = 16;
+            const int length = int(rest.left(MaxReference).indexOf(u';'));
+            const QString character = length < 0 ? QString() : referenced(rest.mid(2, length - 2));
+            if (length > 0 && (character.isEmpty() || character.size() > 1)) {
+                result += xml.midRef(done, i - done) + character;
+                done = i + length + 1;
+            }
+        }
+    }
+    return done == 0 ? xml : result + xml.midRef(done);
 }
 
 } // namespace
@@ -345,25 +446,49 @@ bool mrvDecodeXml(const QByteArray &bytes, QString *text, MRVDomProblem *problem
     if (MRVCoreUtil::decodeText(bytes, encoding.constData(), text, &problem->message)) {
         return true;
     }
+    // The longest beginning that can be read ends where the fault is.
     const QTextCodec *codec =
         QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName(encoding));
-    const QString decoded = codec->toUnicode(bytes);
-    setPlace(problem, decoded, qMax(0, decoded.indexOf(QChar::ReplacementCharacter)));
+    const auto decoded = [&](int length) {
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+        const QString beginning = codec->toUnicode(bytes.constData(), length, &state);
+        return state.invalidChars == 0 ? beginning : QString();
+    };
+    int sound = 0;
+    for (int step = bytes.size(); step > 0; step /= 2) {
+        while (sound + step <= bytes.size() && !decoded(sound + step).isNull()) {
+            sound += step;
+        }
+    }
+    const QString beginning = decoded(sound);
+    setPlace(problem, beginning, beginning.size());
     return false;
+}
+
+QString mrvSoundXml(const QString &xml)
+{
+    QString sound = mrvXmlText(xml);
+    if (sound.startsWith(QChar::ByteOrderMark)) {
+        sound.remove(0, 1);
+    }
+    if (sound.contains(u'\r')) {
+        sound.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        sound.replace(u'\r', u'\n');
+    }
+    return sound.contains(QLatin1String("&#")) ? withSoundReferences(sound) : sound;
 }
 
 bool mrvKeepsXmlLimits(const QString &xml, MRVDomProblem *problem)
 {
     Nesting nesting(xml);
-    switch (nesting.follow()) {
-    case Nesting::Keeps:
-        return true;
-    case Nesting::HasOwnDeclarations:
+    const Nesting::Outcome outcome = nesting.follow();
+    if (outcome == Nesting::HasOwnDeclarations) {
         return keepsLimitsExpanded(xml, problem);
-    case Nesting::TooDeep:
-        problem->message = tooDeep();
-        setPlace(problem, xml, nesting.position());
-        return false;
     }
+    if (outcome == Nesting::Keeps) {
+        return true;
+    }
+    problem->message = outcome == Nesting::TooDeep ? tooDeep() : repeatedAttribute();
+    setPlace(problem, xml, nesting.position());
     return false;
 }

@@ -13,4 +13,8 @@ struct MRVDomLimits
     static constexpr int MaxExpansionFactor = 100;
     /** ... and longer by so many characters; beyond either it is refused. */
     static constexpr int MaxExpansion = 8 * 1024 * 1024;
+    /** A document type may have so many declarations of its own ... */
+    static constexpr int MaxDeclarations = 2000;
+    /** ... of so many characters together. */
+    static constexpr int MaxDeclarationLength = 256 * 1024;
 };

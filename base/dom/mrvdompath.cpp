@@ -109,10 +109,9 @@ const QVector<MRVDomDoc::Step> &MRVDomDoc::steps() const
 
 QDomElement MRVDomDoc::find(const QString &path) const
 {
-    // Asking for the document element itself would cost as much as the rest: it is missing where nothing is there, and may
-    // be where something was removed.
-    const bool isEmpty = !m_document.hasChildNodes()
-        || (!m_removed.isEmpty() && m_document.documentElement().isNull());
+    // Asking for the document element itself would cost as much as the rest.
+    const bool isEmpty =
+        !m_document.hasChildNodes() || (m_lostRoot && m_document.documentElement().isNull());
     if (isEmpty || path.isEmpty()) {
         m_findPosition = EmptyElement;
         return isEmpty ? EmptyElement : m_workElement;
@@ -242,20 +241,31 @@ int MRVDomDoc::remove(const QString &path, bool all)
 
 /*
  * Removing what was found and looking again would begin at the first child each time. As removing makes nothing match
- * that did not match before, one walk removes the same elements in the same order; only paths that go up, or stay, may
- * name an element twice.
+ * that did not match before, one walk down removes the same elements in the same order. Only paths that go up on their
+ * way may name an element twice.
  */
 int MRVDomDoc::removeAll(const QString &path)
 {
-    int count = 0;
     QDomElement found = find(path);
-    const bool isWalk = !path.isEmpty()
-        && std::none_of(steps().cbegin(), steps().cend(),
-                        [](const Step &step) { return isNavigation(step.name); });
-    if (!found.isNull() && isWalk && m_isAbsolute && m_pathSteps.size() > 1) {
-        count = removeBelow(m_document.documentElement(), 1);
-    } else if (!found.isNull() && isWalk && !m_isAbsolute && !m_pathSteps.isEmpty()) {
-        count = removeBelow(m_workElement, 0);
+    if (found.isNull()) {
+        return 0;
+    }
+    QVector<Step> walk;
+    QDomElement start = m_isAbsolute ? m_document.documentElement() : m_workElement;
+    bool isWalk = !path.isEmpty();
+    for (int i = m_isAbsolute ? 1 : 0; isWalk && i < steps().size(); ++i) {
+        const Step &step = m_pathSteps[i];
+        if (!isNavigation(step.name)) {
+            walk.append(step);
+        } else if (walk.isEmpty()) {
+            start = step.name == Parent ? start.parentNode().toElement() : start;
+        } else {
+            isWalk = step.name == Self && step.predicates.isEmpty();
+        }
+    }
+    int count = 0;
+    if (isWalk && !walk.isEmpty()) {
+        count = removeBelow(start, walk, 0);
     } else {
         while (!found.isNull() && removeElement(found)) {
             ++count;
@@ -266,9 +276,9 @@ int MRVDomDoc::removeAll(const QString &path)
     return count;
 }
 
-int MRVDomDoc::removeBelow(const QDomElement &e, int index)
+int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int index)
 {
-    const Step &step = m_pathSteps[index];
+    const Step &step = walk[index];
     int count = 0;
     QDomElement next;
     for (QDomElement child = e.firstChildElement(step.name); !child.isNull(); child = next) {
@@ -276,11 +286,8 @@ int MRVDomDoc::removeBelow(const QDomElement &e, int index)
         if (!predicatesHold(step, child)) {
             continue;
         }
-        if (index + 1 < m_pathSteps.size()) {
-            count += removeBelow(child, index + 1);
-        } else {
-            count += removeElement(child);
-        }
+        count +=
+            index + 1 < walk.size() ? removeBelow(child, walk, index + 1) : removeElement(child);
     }
     return count;
 }
@@ -292,6 +299,7 @@ bool MRVDomDoc::removeElement(const QDomElement &e)
         return false;
     }
     parent.removeChild(e);
+    m_lostRoot = m_lostRoot || parent.isDocument();
     const auto holdsCursor = [this](const QDomElement &removed) {
         for (QDomNode node : {QDomNode(m_workElement), QDomNode(m_workChild), m_findPosition}) {
             while (!node.isNull() && node != removed) {

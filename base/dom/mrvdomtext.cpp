@@ -141,6 +141,16 @@ bool MRVDomText::read(const QString &text, unsigned long *out)
     return convert(text, &QString::toULong, out);
 }
 
+bool MRVDomText::read(const QString &text, long long *out)
+{
+    return convert(text, &QString::toLongLong, out);
+}
+
+bool MRVDomText::read(const QString &text, unsigned long long *out)
+{
+    return convert(text, &QString::toULongLong, out);
+}
+
 bool MRVDomText::read(const QString &text, float *out)
 {
     return convert(text, &QString::toFloat, out);
@@ -189,9 +199,16 @@ bool MRVDomText::read(const QString &text, const QString &format, QDateTime *out
     if (!out) {
         return false;
     }
-    *out = format.isEmpty() ? QDateTime::fromString(text, Qt::ISODate)
-                            : QDateTime::fromString(text, format);
-    // Only then can it be told whether it is valid: local time may lack the hour.
+    if (format.isEmpty()) {
+        *out = QDateTime::fromString(text, Qt::ISODate);
+    } else {
+        // Read as UTC: local time may lack the hour.
+        *out = QDateTime::fromString(text + QLatin1String(" UTC"), format + QLatin1String(" t"));
+        if (!out->isValid()) {
+            *out = QDateTime::fromString(text, format);
+        }
+    }
+    // Only then can it be told whether an ISO date is valid.
     out->setTimeSpec(Qt::UTC);
     return out->isValid();
 }

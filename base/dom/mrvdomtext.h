@@ -32,8 +32,8 @@ public:
     template<typename T, typename... Types>
     static constexpr bool isOneOf = (std::is_same_v<T, Types> || ...);
     template<typename T>
-    static constexpr bool isInteger =
-        isOneOf<T, short, unsigned short, int, unsigned int, long, unsigned long>;
+    static constexpr bool isInteger = isOneOf<T, short, unsigned short, int, unsigned int, long,
+                                              unsigned long, long long, unsigned long long>;
 
     template<typename T>
     using IfAppended = std::enable_if_t<
@@ -85,6 +85,8 @@ public:
     static bool read(const QString &text, unsigned int *out);
     static bool read(const QString &text, long *out);
     static bool read(const QString &text, unsigned long *out);
+    static bool read(const QString &text, long long *out);
+    static bool read(const QString &text, unsigned long long *out);
     static bool read(const QString &text, float *out);
     static bool read(const QString &text, double *out);
     static bool read(const QString &text, QSize *out);

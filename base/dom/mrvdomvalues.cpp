@@ -163,11 +163,12 @@ bool MRVDomDoc::setAttr(const QString &attrName, const QString &value, const QSt
                         bool create)
 {
     QDomElement element = find(path);
-    if (attrName.isEmpty() || (!create && !element.hasAttribute(attrName))) {
+    const QString name = mrvXmlText(attrName);
+    if (name.isEmpty() || (!create && !element.hasAttribute(name))) {
         return false;
     }
     // Deliberate: on a null element this does nothing, and counts as done.
-    element.setAttribute(attrName, mrvXmlText(value));
+    element.setAttribute(name, mrvXmlText(value));
     return true;
 }
 

@@ -5,7 +5,6 @@
 
 #include <QRegularExpression>
 #include <QTextStream>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -15,20 +14,25 @@ using Attributes = QVector<QPair<QString, QString>>;
 
 constexpr int Indentation = 3;
 
-// What Qt's map costs for each further attribute grows with their number: many are read from their text.
-bool readManyAttributes(const QDomNode &element, Attributes *attributes)
+// What Qt's map costs for each further attribute grows with their number: the names of many are read from their text.
+bool readManyAttributes(const QDomNode &node, Attributes *attributes)
 {
+    const QDomElement element = node.toElement();
     QString text;
     QTextStream stream(&text);
     element.cloneNode(false).save(stream, -1);
-    QXmlStreamReader reader(mrvXmlText(text));
-    reader.setNamespaceProcessing(false);
-    reader.readNextStartElement();
-    const QXmlStreamAttributes read = reader.attributes();
-    for (const QXmlStreamAttribute &attribute : read) {
-        attributes->append({attribute.qualifiedName().toString(), attribute.value().toString()});
+    int start = text.indexOf(u' ');
+    while (start >= 0) {
+        const int end = text.indexOf(QLatin1String("=\""), start);
+        const QString name = text.mid(start, end - start).trimmed();
+        // Declarations of namespaces are no attributes.
+        if (element.hasAttribute(name)) {
+            attributes->append({name, element.attribute(name)});
+        }
+        const int close = end < 0 ? -1 : text.indexOf(u'"', end + 2);
+        start = close < 0 ? -1 : text.indexOf(u' ', close);
     }
-    return !reader.hasError() && attributes->size() == element.attributes().count();
+    return attributes->size() == element.attributes().count();
 }
 
 void readAttributes(const QDomNode &element, Attributes *attributes)
@@ -115,7 +119,9 @@ private:
             break;
         case QDomNode::CDATASectionNode:
             m_text += QLatin1String("<![CDATA[");
-            mrvAppendXmlText(&m_text, node.nodeValue());
+            mrvAppendXmlText(
+                &m_text,
+                node.nodeValue().replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>")));
             m_text += QLatin1String("]]>");
             break;
         case QDomNode::CommentNode:
@@ -141,11 +147,20 @@ private:
     bool writeElement(const QDomNode &element, int depth)
     {
         const QString name = element.nodeName();
+        const int outerNamespaces = m_namespaces.size();
         m_text += u'<';
         m_text += name;
+        declareNamespace(element);
         if (element.hasAttributes()) {
             writeAttributes(element);
         }
+        const bool isWritten = writeContent(element, name, depth);
+        m_namespaces.resize(outerNamespaces);
+        return isWritten;
+    }
+
+    bool writeContent(const QDomNode &element, const QString &name, int depth)
+    {
         const QDomNode first = element.firstChild();
         if (first.isNull()) {
             m_text += QLatin1String("/>");
@@ -169,6 +184,9 @@ private:
     {
         m_attributes.clear();
         readAttributes(element, &m_attributes);
+        if (!m_namespaces.isEmpty() || element.attributes().item(0).localName().size() > 0) {
+            declareAttributeNamespaces(element.attributes());
+        }
         for (const QPair<QString, QString> &attribute : qAsConst(m_attributes)) {
             m_text += u' ';
             m_text += attribute.first;
@@ -178,9 +196,42 @@ private:
         }
     }
 
-    void writeComment(const QString &comment)
+    // Elements of documents that were read with their namespaces know these, and have no attributes that declare them.
+    void declareNamespace(const QDomNode &node)
+    {
+        const QString uri = node.namespaceURI();
+        if (uri.isEmpty()) {
+            return;
+        }
+        const QString prefix = node.prefix();
+        const auto declared =
+            std::find_if(m_namespaces.crbegin(), m_namespaces.crend(),
+                         [&](const auto &known) { return known.first == prefix; });
+        if (declared == m_namespaces.crend() || declared->second != uri) {
+            m_namespaces.append({prefix, uri});
+            m_text += prefix.isEmpty() ? QStringLiteral(" xmlns=\"")
+                                       : QLatin1String(" xmlns:") + prefix + QLatin1String("=\"");
+            writeEscaped(uri, Place::Attribute);
+            m_text += u'"';
+        }
+    }
+
+    void declareAttributeNamespaces(const QDomNamedNodeMap &attributes)
+    {
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QDomNode attribute = attributes.item(i);
+            if (attribute.prefix() != QLatin1String("xml")) {
+                declareNamespace(attribute);
+            }
+        }
+    }
+
+    void writeComment(QString comment)
     {
         m_text += QLatin1String("<!--");
+        while (comment.contains(QLatin1String("--"))) {
+            comment.replace(QLatin1String("--"), QLatin1String("- -"));
+        }
         mrvAppendXmlText(&m_text, comment);
         if (comment.endsWith(u'-')) {
             m_text += u' '; // a comment must not end in "--->"
@@ -188,10 +239,10 @@ private:
         m_text += QLatin1String("-->");
     }
 
-    void writeInstruction(const QString &target, const QString &data)
+    void writeInstruction(const QString &target, QString data)
     {
         m_text += QLatin1String("<?") + target + u' ';
-        mrvAppendXmlText(&m_text, data);
+        mrvAppendXmlText(&m_text, data.replace(QLatin1String("?>"), QLatin1String("? >")));
         m_text += QLatin1String("?>");
     }
 
@@ -223,6 +274,9 @@ private:
         const QString text = mrvXmlText(value);
         const QChar *const characters = text.constData();
         const int size = text.size();
+        if (text.startsWith(u'>') || text.startsWith(QLatin1String("]>"))) {
+            closeBrackets();
+        }
         int done = 0;
         for (int i = 0; i < size; ++i) {
             const ushort c = characters[i].unicode();
@@ -237,6 +291,15 @@ private:
             }
         }
         m_text.append(characters + done, size - done);
+    }
+
+    // Two texts side by side must not make the end of a section, either.
+    void closeBrackets()
+    {
+        if (m_text.endsWith(u']')) {
+            m_text.chop(1);
+            m_text += QLatin1String("&#x5d;");
+        }
     }
 
     static QLatin1String entityFor(const QChar *text, int i, Place place)
@@ -288,6 +351,7 @@ private:
     QByteArray *m_bytes;
     QString m_text;
     Attributes m_attributes;
+    Attributes m_namespaces; // declared around, the innermost last: prefix and name
 };
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <QTextFormat>
 #include <QVariant>
 
+class QDataStream;
 class QTextBlock;
 class QTextCursor;
 class QTextDocument;
@@ -142,6 +143,16 @@ public:
     /** The same for the byte array that @p value converts to. */
     static QTextCharFormat toCharFormat(const QVariant &value);
     static QTextBlockFormat toBlockFormat(const QVariant &value);
+
+    /**
+     * Takes one stored format off a stream that goes on behind it, with the checks of
+     * toCharFormat(). The bytes must all be there: it does not wait for a socket.
+     *
+     * @return false, with the status ReadCorruptData and @p format untouched, where there is none;
+     * false, too, on a stream whose status is not Ok already.
+     */
+    static bool read(QDataStream &stream, QTextCharFormat *format);
+    static bool read(QDataStream &stream, QTextBlockFormat *format);
 
     /**
      * A format with only the properties of @p groups. Margins and indents are copied where

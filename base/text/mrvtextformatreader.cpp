@@ -37,13 +37,15 @@ class FormatWalker
 {
 public:
     explicit FormatWalker(const QByteArray &bytes)
-        : m_at(bytes.constData())
+        : m_begin(bytes.constData())
+        , m_at(bytes.constData())
         , m_end(bytes.constData() + bytes.size())
         , m_pictureBytes(qMax(MinPictureBytes, PictureBytesPerByte * bytes.size()))
     {
     }
 
     bool format(int formatType);
+    qint64 walked() const { return m_at - m_begin; }
 
 private:
     using Step = bool (FormatWalker::*)();
@@ -89,6 +91,7 @@ private:
     bool png();
     bool decodes(const char *start) const;
 
+    const char *m_begin;
     const char *m_at;
     const char *m_end;
     qint64 m_pictureBytes; ///< what the pictures to come may take when decoded
@@ -428,4 +431,10 @@ bool FormatWalker::png()
 bool mrvIsReadableFormat(const QByteArray &bytes, int formatType)
 {
     return FormatWalker(bytes).format(formatType);
+}
+
+qint64 mrvReadableFormatLength(const QByteArray &bytes, int formatType)
+{
+    FormatWalker walker(bytes);
+    return walker.format(formatType) ? walker.walked() : -1;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QByteArray;
 
 /**
@@ -12,3 +14,5 @@ class QByteArray;
  * one at a time, since a damaged one would leave Qt in the middle of its data.
  */
 bool mrvIsReadableFormat(const QByteArray &bytes, int formatType);
+/** The length of that format in bytes, or -1 where there is none. */
+qint64 mrvReadableFormatLength(const QByteArray &bytes, int formatType);

@@ -5,6 +5,7 @@
 #include "text/mrvtextformatreader_p.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QLoggingCategory>
 #include <QMetaType>
 #include <QTextOption>
@@ -156,6 +157,30 @@ Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
     return stream.status() == QDataStream::Ok && format.type() == type ? format : Format();
 }
 
+// How long the format ahead is, its bytes alone tell. So ever larger pieces of the stream are looked
+// at, instead of all that follows: a scheme of many presets would be copied once for each of them.
+template<typename Format>
+bool take(QDataStream &stream, QTextFormat::FormatType type, Format *format)
+{
+    QIODevice *device = stream.device();
+    if (stream.status() != QDataStream::Ok || !device)
+        return false;
+    const qint64 available = device->bytesAvailable();
+    for (qint64 size = 1024;; size *= 4) {
+        const QByteArray piece = device->peek(qMin(size, available));
+        const qint64 length = mrvReadableFormatLength(piece, type);
+        if (length >= 0) {
+            stream.skipRawData(int(length));
+            *format = restore<Format>(piece.left(int(length)), type);
+            return true;
+        }
+        if (size >= available) {
+            stream.setStatus(QDataStream::ReadCorruptData);
+            return false;
+        }
+    }
+}
+
 } // namespace
 
 void mrvRegisterTextTypes()
@@ -182,6 +207,16 @@ QTextCharFormat MRVTextFormat::toCharFormat(const QByteArray &bytes)
 QTextBlockFormat MRVTextFormat::toBlockFormat(const QByteArray &bytes)
 {
     return restore<QTextBlockFormat>(bytes, QTextFormat::BlockFormat);
+}
+
+bool MRVTextFormat::read(QDataStream &stream, QTextCharFormat *format)
+{
+    return take(stream, QTextFormat::CharFormat, format);
+}
+
+bool MRVTextFormat::read(QDataStream &stream, QTextBlockFormat *format)
+{
+    return take(stream, QTextFormat::BlockFormat, format);
 }
 
 QTextCharFormat MRVTextFormat::toCharFormat(const QVariant &value)

@@ -1,0 +1,221 @@
+#include "settings/mrvoptionstables_p.h"
+
+#include "core/mcoretype.h"
+#include "core/mtranslator.h"
+#include "gui/mrvguiutil.h"
+#include "importexport/mrvenginetables_p.h"
+#include "settings/mrvshortcutscheme.h"
+#include "settings/mrvtextpresetscheme.h"
+#include "text/mrvtextformat.h"
+
+#include <QDir>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTextCodec>
+
+namespace {
+
+// The application's folder of the user's data, whatever the running program is called: the tool
+// must tell of the application's folders, not of its own.
+QString dataFolder(QLatin1String name)
+{
+    QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (base.isEmpty())
+        base = QDir::homePath();
+    return QStringLiteral("%1/%2/%3/%4")
+        .arg(base, MRVOptions::companyName(), MRVOptions::applicationName(), name);
+}
+
+bool isMetric()
+{
+    return QLocale::system().measurementSystem() == QLocale::MetricSystem;
+}
+
+} // namespace
+
+QString MRVOptions::defaultBackupPath()
+{
+    return dataFolder(QLatin1String("Backups"));
+}
+
+QStringList MRVOptions::guiLanguages()
+{
+    return MTranslator::morvaneGuiLanguages();
+}
+
+QString MRVOptions::systemGuiLanguageCode()
+{
+    return MTranslator::systemGuiLanguageCode();
+}
+
+QString MRVOptions::defaultGuiLanguageCode()
+{
+    const QStringList shipped = guiLanguages();
+    const QString code = systemGuiLanguageCode();
+    for (const QString &language : {code, code.section(u'_', 0, 0)}) {
+        if (shipped.contains(language))
+            return language;
+    }
+    return QStringLiteral("en");
+}
+
+namespace MRVOptionsTables {
+
+QString defaultTemplatesPath()
+{
+    return dataFolder(QLatin1String("Templates"));
+}
+
+QString defaultScratchPadPath()
+{
+    return dataFolder(QLatin1String("ScratchPad"));
+}
+
+QString systemLocaleName()
+{
+    const QLocale locale = QLocale::system();
+    // There is no dictionary of the language "C".
+    return locale.language() == QLocale::C ? QStringLiteral("en_US") : locale.name();
+}
+
+QString systemMeasure()
+{
+    return isMetric() ? QStringLiteral("cm") : QStringLiteral("in");
+}
+
+QString systemSnap()
+{
+    return isMetric() ? QStringLiteral("0.25cm") : QStringLiteral("0.125in");
+}
+
+QStringList measureWords()
+{
+    return {QStringLiteral("in"), QStringLiteral("cm"), QStringLiteral("mm"),
+            QStringLiteral("pi"), QStringLiteral("pt"), QStringLiteral("px")};
+}
+
+QStringList orientationWords()
+{
+    return {QStringLiteral("Vertical"), QStringLiteral("Horizontal")};
+}
+
+QString defaultCustomSeparator()
+{
+    return QStringLiteral("\n#\n");
+}
+
+QByteArray noBytes()
+{
+    return QByteArray();
+}
+
+QByteArray defaultShortcutScheme()
+{
+    return MCoreType::toByteArray(MRVShortcutScheme::morvane());
+}
+
+QByteArray defaultTextPresets()
+{
+    return MRVTextPresetScheme::toByteArray(MRVTextPresetScheme::defaultScheme());
+}
+
+QByteArray defaultUrlImportType()
+{
+    return MRVImportExport::toByteArray(
+        MRVImportExport::defaultUrlImportType(MRVImportExport::AllowAll));
+}
+
+QByteArray defaultCodec()
+{
+    return QByteArrayLiteral("UTF-8");
+}
+
+// The Kindle format is left out, whose converter is a setting itself: what is not in the map is
+// converted by the engine that would stand there.
+QByteArray defaultImportEngines()
+{
+    using namespace MRVEngineTables;
+    return MRVEngineTables::toByteArray(defaultEngines(Import, Applications()));
+}
+
+QByteArray defaultExportEngines()
+{
+    using namespace MRVEngineTables;
+    return MRVEngineTables::toByteArray(defaultEngines(Export, Applications()));
+}
+
+bool isShortcutScheme(const QByteArray &bytes)
+{
+    QString error;
+    return MRVShortcutScheme::fromByteArray(bytes, &error).isValid() && error.isEmpty();
+}
+
+bool isPresetScheme(const QByteArray &bytes)
+{
+    QString error;
+    MRVTextPresetScheme::fromByteArray(bytes, &error);
+    return error.isEmpty();
+}
+
+bool isPicture(const QByteArray &bytes)
+{
+    return !MRVGuiUtil::toImage(bytes).isNull();
+}
+
+bool isAutoReplaceList(const QByteArray &bytes)
+{
+    MRVAutoReplaceList list;
+    list.fromByteArray(bytes);
+    return list.toByteArray() == bytes;
+}
+
+bool isUrlImportType(const QByteArray &bytes)
+{
+    const MRVImportExport::UrlImportType type = MRVImportExport::toUrlImportType(bytes);
+    return type != MRVImportExport::ImportUndefined || bytes == MRVImportExport::toByteArray(type);
+}
+
+bool isCodec(const QByteArray &bytes)
+{
+    return QTextCodec::codecForName(bytes);
+}
+
+bool isEngineMap(const QByteArray &bytes)
+{
+    return !MRVEngineTables::toFormatEngines(bytes).isEmpty();
+}
+
+QFont systemFont(int percent)
+{
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return QFont();
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    // A desktop may give its font in pixels.
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(qRound(font.pointSizeF() * percent / 50) / 2.0);
+    else
+        font.setPixelSize(qMax(1, font.pixelSize() * percent / 100));
+    return font;
+}
+
+QTextCharFormat defaultCharFormat()
+{
+    // Single properties: QTextCharFormat::setFont() sets twenty, and such a format equals no other.
+    QTextCharFormat format;
+    format.setFontFamily(systemFont(100).family());
+    format.setFontPointSize(12);
+    return format;
+}
+
+QTextBlockFormat defaultBlockFormat()
+{
+    QTextBlockFormat format;
+    format.setProperty(MRVTextFormat::BlockSpacing, 14.4); // 1.2 lines
+    format.setProperty(MRVTextFormat::BlockBaseSpacing, 12.0);
+    format.setBottomMargin(6);
+    return format;
+}
+
+} // namespace MRVOptionsTables

@@ -1,0 +1,493 @@
+#include "settings/mrvsettings.h"
+
+#include "core/mcoretype.h"
+#include "gui/mrvguiutil.h"
+#include "text/mrvtextformat.h"
+
+#include <QDataStream>
+#include <QRegularExpression>
+#include <QTimerEvent>
+
+#include <utility>
+
+namespace {
+
+constexpr auto FontHinting = MRVSettings::FlagSetting(12);
+
+constexpr char PictureFormat[] = "JPG";
+constexpr int PictureQuality = 50;
+
+// What a flag or a font is stored as holds something, unless somebody took it out.
+bool isEmpty(const QVariant &value)
+{
+    return !value.isValid()
+        || (value.userType() == QMetaType::QString && value.toString().isEmpty());
+}
+
+// No member, which the compiler may not inline in a shared library.
+QVariant stored(const QSettings &settings, const QString &key)
+{
+    return key.isEmpty() ? QVariant() : settings.value(key);
+}
+
+int toInt(const QVariant &value, bool *ok)
+{
+    *ok = value.isValid();
+    if (!*ok)
+        return 0;
+    if (value.userType() == QMetaType::Int)
+        return value.toInt();
+    // Not toInt(), which takes just the lower half of a larger number.
+    const qlonglong number = value.toLongLong(ok);
+    *ok = *ok && number == int(number);
+    return int(number);
+}
+
+template<typename Format>
+bool readFormat(const QByteArray &bytes, Format *format)
+{
+    QDataStream stream(bytes);
+    stream.setVersion(MCoreType::StreamVersion);
+    return MRVTextFormat::read(stream, format);
+}
+
+// A description that was not put into quotation marks is taken for a list, for its commas.
+QString fontDescription(const QVariant &value)
+{
+    return value.toStringList().join(QLatin1Char(','));
+}
+
+QList<int> toIntList(const QString &text)
+{
+    static const QRegularExpression blank(QStringLiteral("\\s"));
+    QList<int> numbers;
+    const QStringList parts = text.split(blank, Qt::SkipEmptyParts);
+    for (const QString &part : parts)
+        numbers.append(part.toInt());
+    return numbers;
+}
+
+QString toText(const QList<int> &numbers)
+{
+    QStringList parts;
+    for (int number : numbers)
+        parts.append(QString::number(number));
+    return parts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+MRVSettings::~MRVSettings()
+{
+    if (m_isDirty)
+        save(Saving::Last, nullptr);
+}
+
+// What a setting is worth, and where it is stored, is the subclass's business.
+
+bool MRVSettings::defaultValue(FlagSetting) const
+{
+    return false;
+}
+
+int MRVSettings::defaultValue(IntSetting) const
+{
+    return 0;
+}
+
+qreal MRVSettings::defaultValue(RealSetting) const
+{
+    return 0.0;
+}
+
+QString MRVSettings::defaultValue(StringSetting) const
+{
+    return QString();
+}
+
+QStringList MRVSettings::defaultValue(StringListSetting) const
+{
+    return QStringList();
+}
+
+QColor MRVSettings::defaultValue(ColorSetting) const
+{
+    return QColor();
+}
+
+QDateTime MRVSettings::defaultValue(DateTimeSetting) const
+{
+    return QDateTime();
+}
+
+QFont MRVSettings::defaultValue(FontSetting) const
+{
+    return QFont();
+}
+
+QList<int> MRVSettings::defaultValue(IntListSetting) const
+{
+    return QList<int>();
+}
+
+QByteArray MRVSettings::defaultValue(ByteArraySetting) const
+{
+    return QByteArray();
+}
+
+QTextCharFormat MRVSettings::defaultValue(TextCharFormat) const
+{
+    return QTextCharFormat();
+}
+
+QTextBlockFormat MRVSettings::defaultValue(TextBlockFormat) const
+{
+    return QTextBlockFormat();
+}
+
+QString MRVSettings::keyText(FlagSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(IntSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(RealSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(StringSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(StringListSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(ColorSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(DateTimeSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(FontSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(TextCharFormat) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(TextBlockFormat) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(IntListSetting) const
+{
+    return QString();
+}
+
+QString MRVSettings::keyText(ByteArraySetting) const
+{
+    return QString();
+}
+
+void MRVSettings::setGroup(const QString &group)
+{
+    while (!QSettings::group().isEmpty())
+        endGroup();
+    if (!group.isEmpty())
+        beginGroup(group);
+    // As QSettings writes it, without slashes at the ends.
+    m_group = QSettings::group();
+}
+
+bool MRVSettings::value(FlagSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    return isEmpty(value) ? defaultValue(setting) : value.toBool();
+}
+
+int MRVSettings::value(IntSetting setting) const
+{
+    bool ok = false;
+    const int number = toInt(stored(*this, keyText(setting)), &ok);
+    return ok ? number : defaultValue(setting);
+}
+
+qreal MRVSettings::value(RealSetting setting) const
+{
+    bool ok = false;
+    const qreal number = stored(*this, keyText(setting)).toReal(&ok);
+    return ok ? number : defaultValue(setting);
+}
+
+QString MRVSettings::value(StringSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? value.toString() : defaultValue(setting);
+}
+
+QStringList MRVSettings::value(StringListSetting setting) const
+{
+    const QString key = keyText(setting);
+    const QVariant value = stored(*this, key);
+    // An empty list comes back from a file as nothing, under a key that is there.
+    const bool isMissing = !value.isValid() && (key.isEmpty() || !contains(key));
+    return isMissing ? defaultValue(setting) : value.toStringList();
+}
+
+QColor MRVSettings::value(ColorSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    const QColor color = value.value<QColor>();
+    // An invalid colour may have been set; a text that names none has not.
+    return color.isValid() || value.userType() == QMetaType::QColor ? color : defaultValue(setting);
+}
+
+QDateTime MRVSettings::value(DateTimeSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    const QDateTime time = value.toDateTime();
+    return time.isValid() || value.userType() == QMetaType::QDateTime ? time
+                                                                      : defaultValue(setting);
+}
+
+QFont MRVSettings::value(FontSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    QFont font;
+    return !isEmpty(value) && font.fromString(fontDescription(value)) ? font
+                                                                      : defaultValue(setting);
+}
+
+QList<int> MRVSettings::value(IntListSetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? toIntList(value.toString()) : defaultValue(setting);
+}
+
+QByteArray MRVSettings::value(ByteArraySetting setting) const
+{
+    const QVariant value = stored(*this, keyText(setting));
+    return value.isValid() ? value.toByteArray() : defaultValue(setting);
+}
+
+QTextCharFormat MRVSettings::value(TextCharFormat setting) const
+{
+    return textCharFormat(keyText(setting), defaultValue(setting));
+}
+
+QTextBlockFormat MRVSettings::value(TextBlockFormat setting) const
+{
+    return textBlockFormat(keyText(setting), defaultValue(setting));
+}
+
+bool MRVSettings::setValue(const QString &key, const QVariant &value)
+{
+    QSettings::setValue(key, value);
+    recordChange(key);
+    return status() == NoError;
+}
+
+bool MRVSettings::setValue(FlagSetting setting, bool value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(IntSetting setting, int value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(RealSetting setting, qreal value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(StringSetting setting, const QString &value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(StringListSetting setting, const QStringList &value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(ColorSetting setting, const QColor &value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(DateTimeSetting setting, const QDateTime &value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(FontSetting setting, const QFont &value)
+{
+    return setValue(keyText(setting), value.toString());
+}
+
+bool MRVSettings::setValue(IntListSetting setting, const QList<int> &value)
+{
+    return setValue(keyText(setting), toText(value));
+}
+
+bool MRVSettings::setValue(ByteArraySetting setting, const QByteArray &value)
+{
+    return setValue(keyText(setting), value);
+}
+
+bool MRVSettings::setValue(TextCharFormat setting, const QTextCharFormat &value)
+{
+    return setValue(keyText(setting), toByteArray(value));
+}
+
+bool MRVSettings::setValue(TextBlockFormat setting, const QTextBlockFormat &value)
+{
+    return setValue(keyText(setting), toByteArray(value));
+}
+
+void MRVSettings::remove(const QString &key)
+{
+    QSettings::remove(key);
+    recordChange(key);
+}
+
+void MRVSettings::resetToDefaults()
+{
+    remove(QString());
+    Q_EMIT settingsReset();
+}
+
+QTextCharFormat MRVSettings::textCharFormat(const QString &key, const QTextCharFormat &def) const
+{
+    QTextCharFormat format;
+    return readFormat(stored(*this, key).toByteArray(), &format) ? applyFontHinting(format) : def;
+}
+
+QTextBlockFormat MRVSettings::textBlockFormat(const QString &key, const QTextBlockFormat &def) const
+{
+    QTextBlockFormat format;
+    return readFormat(stored(*this, key).toByteArray(), &format) ? format : def;
+}
+
+QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) const
+{
+    return MRVTextFormat::setFontHinting(format, value(FontHinting));
+}
+
+MRVShortcutScheme MRVSettings::shortcutScheme(const QString &key,
+                                              const MRVShortcutScheme &def) const
+{
+    const auto scheme = MRVShortcutScheme::fromByteArray(stored(*this, key).toByteArray());
+    if (scheme.isValid())
+        return scheme;
+    return def.isValid() ? def : MRVShortcutScheme::morvane();
+}
+
+bool MRVSettings::setShortcutScheme(const QString &key, const MRVShortcutScheme &scheme)
+{
+    return setValue(key, MRVShortcutScheme::toByteArray(scheme));
+}
+
+MRVTextPresetScheme MRVSettings::textPresets(const QString &key,
+                                             const MRVTextPresetScheme &def) const
+{
+    const QByteArray bytes = stored(*this, key).toByteArray();
+    QString error;
+    const MRVTextPresetScheme scheme = MRVTextPresetScheme::fromByteArray(bytes, &error);
+    const bool isDamaged = !error.isEmpty();
+    return bytes.isEmpty() || (isDamaged && scheme.isEmpty()) ? def : scheme;
+}
+
+bool MRVSettings::setTextPresets(const QString &key, const MRVTextPresetScheme &scheme)
+{
+    return setValue(key, MRVTextPresetScheme::toByteArray(scheme));
+}
+
+QByteArray MRVSettings::toByteArray(const QTextCharFormat &format)
+{
+    return MRVTextFormat::toByteArray(format);
+}
+
+QByteArray MRVSettings::toByteArray(const QTextBlockFormat &format)
+{
+    return MRVTextFormat::toByteArray(format);
+}
+
+QTextCharFormat MRVSettings::toTextCharFormat(const QByteArray &bytes)
+{
+    return MRVTextFormat::toCharFormat(bytes);
+}
+
+QTextBlockFormat MRVSettings::toTextBlockFormat(const QByteArray &bytes)
+{
+    return MRVTextFormat::toBlockFormat(bytes);
+}
+
+QByteArray MRVSettings::toByteArray(const QImage &image)
+{
+    return MRVGuiUtil::toByteArray(image, PictureFormat, PictureQuality);
+}
+
+QImage MRVSettings::toImage(const QByteArray &bytes)
+{
+    return MRVGuiUtil::toImage(bytes, PictureFormat);
+}
+
+bool MRVSettings::isOpenGroup() const
+{
+    return m_group.isEmpty() || QSettings::group() == m_group;
+}
+
+void MRVSettings::recordChange(const QString &key)
+{
+    m_isDirty = true;
+    if (m_isStalled) {
+        m_isStalled = false;
+        QCoreApplication::postEvent(this, new QEvent(QEvent::UpdateRequest));
+    }
+    const int slash = key.lastIndexOf(QLatin1Char('/'));
+    if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked())
+        return;
+    // Most changes are of a group that is listed already. To see that takes no copy of a text, while
+    // QSettings makes one to say which group is open.
+    const QStringRef group = key.leftRef(slash);
+    const bool isListed = m_changedGroups.contains(group);
+    if ((isListed && m_timerId != -1) || !isOpenGroup())
+        return;
+    if (!isListed)
+        m_changedGroups.append(group.toString());
+    if (m_timerId == -1) {
+        const int id = startTimer(0);
+        m_timerId = id == 0 ? -1 : id;
+    }
+}
+
+void MRVSettings::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timerId) {
+        QSettings::timerEvent(event);
+        return;
+    }
+    killTimer(m_timerId);
+    m_timerId = -1;
+    // What listeners change is for the next announcement, so the list is cleared before they hear.
+    Q_EMIT groupsChanged(std::exchange(m_changedGroups, QStringList()));
+}

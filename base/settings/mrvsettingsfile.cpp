@@ -1,0 +1,191 @@
+#include "settings/mrvsettingsfile_p.h"
+
+#include "core/mcoretype.h"
+#include "core/mrvcoreutil.h"
+#include "core/mrvfilewriter.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("MRVSettings", text);
+}
+
+QByteArray serialised(const QVariant &value)
+{
+    return MCoreType::toByteArray(value);
+}
+
+bool isText(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::QString:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Bool:
+    case QMetaType::Double:
+    case QMetaType::QKeySequence:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A list of one is stored as the one, and an empty list as nothing.
+QVariantList asList(const QVariant &value)
+{
+    if (!value.isValid())
+        return {};
+    const bool isList =
+        value.userType() == QMetaType::QStringList || value.userType() == QMetaType::QVariantList;
+    return isList ? value.toList() : QVariantList{value};
+}
+
+// A file in memory, which has a path as long as it is open.
+class MemoryFile
+{
+public:
+    explicit MemoryFile(const QByteArray &bytes)
+        : m_handle(::memfd_create("settings", MFD_CLOEXEC))
+    {
+        QFile file;
+        m_isWhole = m_handle >= 0
+            && file.open(m_handle, QIODevice::WriteOnly | QIODevice::Unbuffered)
+            && file.write(bytes) == bytes.size() && setUniqueTime();
+    }
+    ~MemoryFile()
+    {
+        if (m_handle >= 0)
+            ::close(m_handle);
+    }
+    MemoryFile(const MemoryFile &) = delete;
+    MemoryFile &operator=(const MemoryFile &) = delete;
+
+    bool isWhole() const { return m_isWhole; }
+    QString path() const { return QLatin1String("/proc/self/fd/") + QString::number(m_handle); }
+
+private:
+    bool setUniqueTime() const
+    {
+        static time_t seconds = 0;
+        ++seconds;
+        const timespec times[2] = {{seconds, 0}, {seconds, 0}};
+        return ::futimens(m_handle, times) == 0;
+    }
+
+    int m_handle;
+    bool m_isWhole = false;
+};
+
+} // namespace
+
+MRVSettingsMap mrvValuesOf(const QSettings &settings)
+{
+    MRVSettingsMap values;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys)
+        values.insert(key, settings.value(key));
+    return values;
+}
+
+bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values)
+{
+    const MemoryFile file(bytes);
+    if (!file.isWhole())
+        return false;
+    *values = mrvValuesOf(QSettings(file.path(), format));
+    return true;
+}
+
+bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found)
+{
+    const int type = wanted.userType();
+    if (isText(wanted))
+        return found.isValid() && wanted.toString() == found.toString();
+    if (type == QMetaType::QStringList || type == QMetaType::QVariantList) {
+        const QVariantList a = asList(wanted);
+        const QVariantList b = asList(found);
+        return a.size() == b.size() && std::equal(a.cbegin(), a.cend(), b.cbegin(), &mrvIsStoredAs);
+    }
+    return wanted == found || serialised(wanted) == serialised(found);
+}
+
+bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted)
+{
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+        const auto at = found.constFind(it.key());
+        if (at == found.cend() || !mrvIsStoredAs(it.value(), at.value()))
+            return false;
+    }
+    return true;
+}
+
+QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
+                             QString *error)
+{
+    const QTemporaryDir folder; // a name that QSettings has not seen before
+    const QString path = folder.filePath(QStringLiteral("settings"));
+    if (!folder.isValid()) {
+        *error = folder.errorString();
+        return QByteArray();
+    }
+    if (!before.isEmpty() && !MRVFileWriter::write(path, before, error))
+        return QByteArray();
+    QSettings settings(path, QSettings::IniFormat);
+    edit(&settings);
+    settings.sync();
+    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
+    MRVSettingsMap found;
+    if (!error->isEmpty())
+        return QByteArray();
+    if (!mrvReadSettings(bytes, QSettings::IniFormat, &found)
+        || !mrvHolds(found, mrvValuesOf(settings))) {
+        *error = tr("There is no room for temporary files");
+        return QByteArray();
+    }
+    return bytes;
+}
+
+// A second name for the file costs nothing. By the number of the process it is found again, so that one
+// that was killed leaves no more than one.
+MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &bytes)
+    : m_bytes(bytes)
+    , m_path(QFileInfo(path).canonicalFilePath())
+{
+    if (m_path.isEmpty())
+        return;
+    m_kept = QStringLiteral("%1.%2.old").arg(m_path).arg(::getpid());
+    const QByteArray kept = QFile::encodeName(m_kept);
+    ::unlink(kept.constData());
+    if (::link(QFile::encodeName(m_path).constData(), kept.constData()) != 0)
+        m_kept.clear();
+}
+
+MRVOldSettingsFile::~MRVOldSettingsFile()
+{
+    if (!m_kept.isEmpty())
+        ::unlink(QFile::encodeName(m_kept).constData());
+}
+
+bool MRVOldSettingsFile::putBack() const
+{
+    if (m_path.isEmpty() || m_bytes.isEmpty())
+        return false;
+    return (!m_kept.isEmpty()
+            && ::rename(QFile::encodeName(m_kept).constData(),
+                        QFile::encodeName(m_path).constData())
+                == 0)
+        || MRVFileWriter::write(m_path, m_bytes);
+}

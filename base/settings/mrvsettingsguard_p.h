@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/**
+ * The bytes of an INI file without the values that QSettings cannot decode without harm.
+ *
+ * QSettings decodes every value when it opens a file. A value that it has no text for is the stream of
+ * a QVariant, and those readers of Qt take as much memory as a damaged count asks for, or crash. What
+ * is left in are types without counts, and lists, maps and texts whose counts and lengths the bytes
+ * fill; fonts only by themselves. Other types do not come back.
+ *
+ * @return just @p bytes where nothing has to be left out.
+ */
+QByteArray mrvHarmlessSettings(const QByteArray &bytes);
+
+/**
+ * To be called before QSettings opens a file. Where mrvHarmlessSettings() leaves something out, the file
+ * is kept as @p path with ".damaged" at its end, and replaced by what is left. Nothing is done for a
+ * file that is not there or cannot be read.
+ *
+ * @return @p path, for a class that must do this before the class that it derives from opens the file.
+ */
+QString mrvDisarmSettings(const QString &path);
+
+/**
+ * The same for the user's own files of an organisation and its application, in the native format.
+ *
+ * @return @p organization.
+ */
+QString mrvDisarmUserSettings(const QString &organization, const QString &application);

@@ -1,0 +1,399 @@
+#include "scriptcommand.h"
+#include "command.h"
+#include "script/mrvscriptmode.h"
+#include "text/mrvtextformat.h"
+#include "textsearch.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <utility>
+
+namespace {
+
+int runList(const QStringList &arguments);
+int runShow(const QStringList &arguments);
+int runCheck(const QStringList &arguments);
+
+constexpr Command subcommands[] = {
+    {"list", "list the factory modes, or those of a folder", runList},
+    {"show", "show a mode, or write its file", runShow},
+    {"check", "check mode files", runCheck},
+};
+
+QString usage()
+{
+    QString text =
+        QStringLiteral("Usage: mrv script SUBCOMMAND [OPTIONS] [ARGUMENTS]\n\n"
+                       "Script modes and the scripts written in them.\n\nSubcommands:\n");
+    for (const Command &command : subcommands) {
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command.name), -10)
+                    .arg(QLatin1String(command.summary));
+    }
+    return text + QStringLiteral("\n'mrv script SUBCOMMAND --help' tells more.");
+}
+
+struct UnitName
+{
+    const char *option;
+    MRVUnit::Unit unit;
+};
+constexpr UnitName unitNames[] = {{"in", MRVUnit::Inch},
+                                  {"cm", MRVUnit::Centimeter},
+                                  {"pt", MRVUnit::Point}};
+
+// What Return and Tab do.
+struct ActionName
+{
+    MRVScriptElement::Action action;
+    const char *shown;
+    const char *key;
+};
+constexpr ActionName actionNames[] = {
+    {MRVScriptElement::ReturnAction, "Return", "return"},
+    {MRVScriptElement::TabOnEmptyAction, "Tab in an empty line", "tabOnEmpty"},
+    {MRVScriptElement::TabAfterTypingAction, "Tab", "tabAfterTyping"}};
+
+struct LengthName
+{
+    int property;
+    const char *shown;
+    const char *key;
+};
+constexpr LengthName lengthNames[] = {{MRVTextFormat::BlockLeftIndent, "left indent", "left"},
+                                      {MRVTextFormat::BlockRightIndent, "right indent", "right"},
+                                      {QTextFormat::TextIndent, "first line", "firstLine"},
+                                      {QTextFormat::BlockTopMargin, "above", "above"},
+                                      {QTextFormat::BlockBottomMargin, "below", "below"}};
+
+bool insertsText(const MRVScriptElement &element, MRVScriptElement::Action action)
+{
+    return action == MRVScriptElement::TabAfterTypingAction
+        && element.tabBehavior() == MRVScriptElement::TabInsertsText;
+}
+
+const char *alignmentWord(const MRVScriptElement &element)
+{
+    const Qt::Alignment alignment = element.blockFormat().alignment();
+    return alignment & Qt::AlignHCenter ? "to the centre"
+        : alignment & Qt::AlignRight    ? "right"
+        : alignment & Qt::AlignJustify  ? "to both sides"
+                                        : "left";
+}
+
+QStringList fontWords(const MRVScriptElement &element)
+{
+    const QTextCharFormat format = element.charFormat();
+    QStringList words;
+    if (!format.fontFamily().isEmpty()) {
+        words.append(format.fontFamily());
+    }
+    if (format.fontPointSize() > 0.0) {
+        words.append(MRVUnit::toText(MRVUnit::Point, format.fontPointSize()));
+    }
+    const std::pair<bool, const char *> styles[] = {
+        {format.fontWeight() > QFont::Normal, "bold"},
+        {format.fontItalic(), "italic"},
+        {format.fontUnderline(), "underlined"},
+        {element.hasFlag(MRVScriptElement::AllCaps), "capitals"},
+        {element.hasFlag(MRVScriptElement::Parenthetical), "in parentheses"}};
+    for (const auto &style : styles) {
+        if (style.first) {
+            words.append(QLatin1String(style.second));
+        }
+    }
+    return words;
+}
+
+void printElement(const MRVScriptElement &element, MRVUnit::Unit units)
+{
+    const QString shortcut = element.shortcut();
+    printLine(QString());
+    printLine(
+        styled(Style::Path, displayed(element.title()))
+        + (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(displayed(shortcut))));
+    QStringList layout{QLatin1String("aligned ") + QLatin1String(alignmentWord(element))};
+    for (const LengthName &name : lengthNames) {
+        const double points = element.blockFormat().doubleProperty(name.property);
+        if (points != 0.0) {
+            layout.append(QLatin1String(name.shown) + u' '
+                          + MRVUnit::toText(units, MRVUnit::fromPoint(units, points)));
+        }
+    }
+    printLine(QLatin1String("  ") + displayed(fontWords(element).join(QLatin1String(", "))));
+    printLine(QLatin1String("  ") + layout.join(QLatin1String(", ")));
+    for (const ActionName &name : actionNames) {
+        const QString next = element.actionElement(name.action);
+        const QString text = insertsText(element, name.action)
+            ? QStringLiteral("inserts \u201c%1\u201d")
+                  .arg(element.actionText(name.action).replace(u'\t', QLatin1String("\\t")))
+            : next;
+        if (!text.isEmpty()) {
+            printLine(QStringLiteral("  %1: %2").arg(QLatin1String(name.shown), displayed(text)));
+        }
+    }
+    QStringList completions;
+    for (const MRVCompletion &completion : element.completions().completions()) {
+        completions.append(completion.text.simplified());
+    }
+    if (!completions.isEmpty()) {
+        printLine(QLatin1String("  offers ") + displayed(completions.join(QLatin1String(", "))));
+    }
+}
+
+QJsonObject toJson(const MRVScriptElement &element)
+{
+    QJsonObject object{{QStringLiteral("title"), element.title()},
+                       {QStringLiteral("shortcut"), element.shortcut()},
+                       {QStringLiteral("font"), element.charFormat().fontFamily()},
+                       {QStringLiteral("size"), element.charFormat().fontPointSize()},
+                       {QStringLiteral("capitals"), element.hasFlag(MRVScriptElement::AllCaps)},
+                       {QStringLiteral("alignment"), QLatin1String(alignmentWord(element))}};
+    for (const LengthName &name : lengthNames) {
+        object.insert(QLatin1String(name.key), element.blockFormat().doubleProperty(name.property));
+    }
+    for (const ActionName &name : actionNames) {
+        const bool inserts = insertsText(element, name.action);
+        object.insert(QLatin1String(name.key),
+                      inserts ? element.actionText(name.action)
+                              : element.actionElement(name.action));
+    }
+    QJsonArray completions;
+    for (const MRVCompletion &completion : element.completions().completions()) {
+        completions.append(completion.text);
+    }
+    object.insert(QStringLiteral("completions"), completions);
+    return object;
+}
+
+int runList(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Lists the factory modes, or the modes of folders: their names, units and\n"
+        "number of elements. Files that are no modes are left out; 'mrv script check'\n"
+        "tells why. Exit code 1: there is none."));
+    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders of mode files."),
+                                 QStringLiteral("[FOLDER...]"));
+    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
+    const int code =
+        parseArguments(&parser, QStringLiteral("script list [FOLDER...] [--json]"), arguments);
+    if (code >= 0) {
+        return code;
+    }
+    QMap<QString, MRVScriptMode> modes;
+    const QStringList folders = parser.positionalArguments();
+    if (folders.isEmpty()) {
+        modes = MRVScriptMode::systemModes();
+    }
+    for (const QString &folder : folders) {
+        const QMap<QString, MRVScriptMode> some = mrv_loadPath(folder);
+        for (auto it = some.cbegin(); it != some.cend(); ++it) {
+            modes.insert(it.key(), it.value());
+        }
+    }
+    for (const MRVScriptMode &mode : qAsConst(modes)) {
+        const int count = mode.elements().size();
+        const QString units = MRVUnit::shortSuffix(mode.units());
+        if (parser.isSet(QStringLiteral("json"))) {
+            printJson({{QStringLiteral("name"), mode.name()},
+                       {QStringLiteral("units"), units},
+                       {QStringLiteral("elements"), count}});
+        } else {
+            printLine(QStringLiteral("%1 (%2, %3 elements)")
+                          .arg(displayed(mode.name()), units, QString::number(count)));
+        }
+    }
+    return modes.isEmpty() ? Failed : Done;
+}
+
+int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
+{
+    if (parser.isSet(QStringLiteral("xml")) || parser.isSet(QStringLiteral("output"))) {
+        const QString path = parser.value(QStringLiteral("output"));
+        QString error;
+        const bool ok =
+            path.isEmpty() ? writeStandardOutput(mode.toXml(), &error) : mode.save(path, &error);
+        if (!ok) {
+            printError(error);
+        }
+        return ok ? Done : Failed;
+    }
+    if (parser.isSet(QStringLiteral("json"))) {
+        QJsonArray elements;
+        for (const MRVScriptElement &element : mode.elements()) {
+            elements.append(toJson(element));
+        }
+        printJson({{QStringLiteral("name"), mode.name()},
+                   {QStringLiteral("units"), MRVUnit::shortSuffix(mode.units())},
+                   {QStringLiteral("elements"), elements}});
+        return Done;
+    }
+    printLine(displayed(mode.name()));
+    for (const MRVScriptElement &element : mode.elements()) {
+        printElement(element, mode.units());
+    }
+    return Done;
+}
+
+int runShow(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows a mode, element by element, or writes its file: a factory mode by its\n"
+        "name, or a mode file. Lengths in JSON are in points."));
+    parser.addPositionalArgument(QStringLiteral("MODE"),
+                                 QStringLiteral("The mode's name, or the path of its file."));
+    parser.addOption({QStringLiteral("units"), QStringLiteral("Show lengths in: in, cm, pt."),
+                      QStringLiteral("UNITS")});
+    parser.addOption({QStringLiteral("xml"), QStringLiteral("Print the mode's file.")});
+    parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
+                      QStringLiteral("Write the mode's file."),
+                      QStringLiteral("FILE")});
+    parser.addOption({QStringLiteral("json"), QStringLiteral("Print it as JSON.")});
+    const int code =
+        parseArguments(&parser, QStringLiteral("script show MODE [OPTIONS]"), arguments);
+    if (code >= 0) {
+        return code;
+    }
+    const QStringList modes = parser.positionalArguments();
+    if (modes.size() != 1) {
+        return scriptUsageError(QStringLiteral("show takes one mode"));
+    }
+    const QString units = parser.value(QStringLiteral("units"));
+    const UnitName *unit = nullptr;
+    for (const UnitName &name : unitNames) {
+        unit = units == QLatin1String(name.option) ? &name : unit;
+    }
+    if (parser.isSet(QStringLiteral("units")) && !unit) {
+        return scriptUsageError(
+            QStringLiteral("unknown units '%1'; known are in, cm, pt").arg(units));
+    }
+    MRVScriptMode mode;
+    QString error;
+    if (!findScriptMode(modes.constFirst(), &mode, &error)) {
+        printError(error);
+        return Failed;
+    }
+    if (unit) {
+        mode.setUnits(unit->unit);
+    }
+    return showMode(mode, parser);
+}
+
+// What is well-formed and yet does not work.
+QStringList faultsOf(const MRVScriptMode &mode)
+{
+    QStringList faults;
+    const QList<MRVScriptElement> &elements = mode.elements();
+    if (elements.isEmpty()) {
+        faults.append(QStringLiteral("the mode has no elements"));
+    }
+    for (int i = 0; i < elements.size(); ++i) {
+        const MRVScriptElement &element = elements.at(i);
+        const QString title = element.title();
+        if (title.isEmpty()) {
+            faults.append(QStringLiteral("element %1 has no title").arg(i + 1));
+        } else if (mode.indexOf(title) < i) {
+            faults.append(QStringLiteral("two elements are called '%1'").arg(title));
+        }
+        for (const ActionName &name : actionNames) {
+            const QString next = element.actionElement(name.action);
+            if (!next.isEmpty() && mode.indexOf(next) < 0) {
+                faults.append(QStringLiteral("'%1': %2 goes to '%3', which is no element")
+                                  .arg(title, QLatin1String(name.shown), next));
+            }
+        }
+        for (int j = 0; j < i; ++j) {
+            if (MRVScriptElement::equal(elements.at(j).blockFormat(), element.blockFormat())) {
+                faults.append(QStringLiteral("the paragraphs of '%1' look like those of '%2'")
+                                  .arg(title, elements.at(j).title()));
+                break;
+            }
+        }
+    }
+    return faults;
+}
+
+int runCheck(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Checks mode files, and prints what could not be read as it stands, titles that are\n"
+        "missing, used twice or lead nowhere, and elements whose paragraphs cannot be told\n"
+        "apart. Exit code 1: there is something to print, or a file was refused."));
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The mode files."),
+                                 QStringLiteral("FILE..."));
+    parser.addOption(
+        {QStringLiteral("json"), QStringLiteral("Print each fault as a line of JSON.")});
+    const int code =
+        parseArguments(&parser, QStringLiteral("script check FILE... [--json]"), arguments);
+    if (code >= 0) {
+        return code;
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.isEmpty()) {
+        return scriptUsageError(QStringLiteral("check takes at least one file"));
+    }
+    bool clean = true;
+    for (const QString &file : files) {
+        MRVScriptMode mode;
+        QString error;
+        QStringList faults;
+        if (!mode.load(file, &error, &faults)) {
+            printError(error);
+            clean = false;
+            continue;
+        }
+        faults += faultsOf(mode);
+        clean = clean && faults.isEmpty();
+        for (const QString &fault : qAsConst(faults)) {
+            if (parser.isSet(QStringLiteral("json"))) {
+                printJson({{QStringLiteral("path"), file}, {QStringLiteral("fault"), fault}});
+            } else {
+                printLine(styled(Style::Path, file) + QLatin1String(": ") + displayed(fault));
+            }
+        }
+    }
+    return clean ? Done : Failed;
+}
+
+} // namespace
+
+int scriptUsageError(const QString &text)
+{
+    printError(QLatin1String("script: ") + text);
+    return WrongUsage;
+}
+
+bool findScriptMode(const QString &nameOrPath, MRVScriptMode *mode, QString *error)
+{
+    const QMap<QString, MRVScriptMode> factory = MRVScriptMode::systemModes();
+    for (const MRVScriptMode &candidate : factory) {
+        if (candidate.name().compare(nameOrPath, Qt::CaseInsensitive) == 0) {
+            *mode = candidate;
+            return true;
+        }
+    }
+    return mode->load(nameOrPath, error);
+}
+
+int runScript(const QStringList &arguments)
+{
+    const QString name = arguments.value(1);
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        printLine(usage());
+        return Done;
+    }
+    for (const Command &command : subcommands) {
+        if (name == QLatin1String(command.name)) {
+            return command.run(QStringList(QLatin1String("script ") + name) + arguments.mid(2));
+        }
+    }
+    return scriptUsageError(
+        name.isEmpty()
+            ? QStringLiteral("a subcommand is missing; try 'mrv script --help'")
+            : QStringLiteral("unknown subcommand '%1'; try 'mrv script --help'").arg(name));
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+
+#include <malloc.h>
+
+extern "C" {
+void *__libc_malloc(size_t);
+void *__libc_calloc(size_t, size_t);
+void *__libc_realloc(void *, size_t);
+void __libc_free(void *);
+}
+
+/**
+ * How much of the heap the whole program takes, Qt included: this header replaces malloc() and its like, so exactly one
+ * source file of a program may include it. Memory that is reserved and never touched counts as well. Under the sanitizers
+ * nothing is counted.
+ */
+class HeapMeter
+{
+public:
+    /** Starts anew: the peak is counted from what is taken now. */
+    static void start()
+    {
+        s_begin = s_taken.load();
+        s_peak = s_taken.load();
+    }
+    /** The most bytes that were taken since then beyond those at the start. */
+    static long peak() { return s_peak - s_begin; }
+
+    static void *taken(void *memory, std::size_t size)
+    {
+        const long now = s_taken += memory ? long(size) : 0;
+        if (now > s_peak)
+            s_peak = now;
+        return memory;
+    }
+    static void given(std::size_t size) { s_taken -= long(size); }
+
+private:
+    static inline std::atomic<long> s_taken{0};
+    static inline std::atomic<long> s_begin{0};
+    static inline std::atomic<long> s_peak{0};
+};
+
+#ifndef MRV_SANITIZE // the sanitizer has replaced them itself
+
+extern "C" {
+
+void *malloc(size_t size) noexcept
+{
+    void *memory = __libc_malloc(size);
+    return HeapMeter::taken(memory, malloc_usable_size(memory));
+}
+
+void *calloc(size_t count, size_t size) noexcept
+{
+    void *memory = __libc_calloc(count, size);
+    return HeapMeter::taken(memory, malloc_usable_size(memory));
+}
+
+void *realloc(void *old, size_t size) noexcept
+{
+    const size_t before = malloc_usable_size(old);
+    void *memory = __libc_realloc(old, size);
+    if (memory || size == 0)
+        HeapMeter::given(before);
+    return HeapMeter::taken(memory, malloc_usable_size(memory));
+}
+
+void free(void *memory) noexcept
+{
+    HeapMeter::given(malloc_usable_size(memory));
+    __libc_free(memory);
+}
+
+} // extern "C"
+
+#endif

@@ -1,0 +1,76 @@
+#include "datarows.h"
+#include "support.h"
+
+#include <QTemporaryDir>
+
+/** The tool's commands that tell of formats and engines, run as a stranger would. */
+class tst_MrvFormats : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commands_data()
+    {
+        addRows("mrv-formats.tsv", {"case", "settings", "arguments", "code", "output", "error"});
+    }
+    void commands();
+    void setAndReset();
+
+private:
+    // "@" stands for the test's folder.
+    Ran mrv(const QString &arguments) const
+    {
+        const QString folder = m_folder.path() + '/';
+        Ran ran = run(MRV_TOOL, QString(arguments).replace('@', folder).split(' '));
+        ran.errors.replace(folder, "@");
+        return ran;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+// Of long output, the row has lines that must be there.
+void tst_MrvFormats::commands()
+{
+    QFETCH(QString, settings);
+    QFETCH(QString, arguments);
+    QFETCH(QString, output);
+    QFETCH(QString, error);
+    const QByteArray stored = "[Options]\n" + settings.toUtf8() + '\n';
+    QVERIFY(writeBytes(m_folder.filePath("s.ini"), stored));
+    const Ran ran = mrv(arguments + " --settings @s.ini");
+    QTEST(QString::number(ran.exitCode), "code");
+    for (const QString &line : output.split('\n'))
+        QVERIFY2(('\n' + ran.output).contains('\n' + line), qPrintable(ran.output));
+    QCOMPARE(ran.output.isEmpty(), output.isEmpty());
+    QVERIFY2(ran.errors.contains(error) && ran.errors.count('\n') == int(!error.isEmpty()),
+             qPrintable(ran.errors));
+    QCOMPARE(bytesOf(m_folder.filePath("s.ini")), stored);
+}
+
+// A choice is stored beside the others, so that they stay what they are.
+void tst_MrvFormats::setAndReset()
+{
+    QVERIFY(writeBytes(m_folder.filePath("new.ini"), {}));
+    const QString before = mrv("engines list --settings @new.ini").output;
+    QCOMPARE(before.count('\n'), 26);
+    QCOMPARE(mrv("engines set rtf doc doc2anyinternalengine --settings @new.ini").exitCode, 0);
+    const QString after = mrv("engines list --settings @new.ini").output;
+    const auto engines = [](QString output) {
+        return output.remove(QRegularExpression(" \\([^)]*\\)"));
+    };
+    QCOMPARE(
+        engines(after),
+        engines(before).replace("RTF -> DOC: RtfBasedDoc", "RTF -> DOC: Doc2AnyInternalEngine"));
+    QVERIFY(after.contains("RTF -> PDF: QtEngine (it is the stored choice)\n"));
+    QVERIFY(after.contains("DOCX -> RTF: SubSystemsEngine (it is the default"));
+    QVERIFY(bytesOf(m_folder.filePath("new.ini")).contains("Import\\exportFormatConverters"));
+    QCOMPARE(mrv("engines reset --settings @new.ini").exitCode, 0);
+    QCOMPARE(mrv("engines list --settings @new.ini").output, before);
+    QCOMPARE(mrv("engines set rtf ps QtEngine --settings @new.ini/s.ini").exitCode, 1);
+    QVERIFY(
+        mrv("engines list --settings @typo.ini").errors.startsWith("mrv: engines: @typo.ini: "));
+}
+
+QTEST_GUILESS_MAIN(tst_MrvFormats)
+#include "tst_mrvformats.moc"

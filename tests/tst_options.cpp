@@ -1,0 +1,478 @@
+#include "datarows.h"
+#include "settings/mrvoptions.h"
+#include "support.h"
+
+#include <QFontDatabase>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+namespace {
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+/// The contrast ratio of WCAG 2.1.
+double contrast(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return first > second ? first / second : second / first;
+}
+
+template<typename Value>
+QVariant variantOf(const Value &value)
+{
+    if constexpr (std::is_base_of_v<QTextFormat, Value>)
+        return QTextFormat(value);
+    else
+        return QVariant::fromValue(value);
+}
+
+template<typename Setting>
+QStringList keyAndDefault(const MRVOptions &options, MRVOptions::SettingType type, int number)
+{
+    const auto value = options.defaultValue(Setting(number));
+    return {options.keyText(Setting(number)), MRVOptions::toText(type, variantOf(value))};
+}
+
+} // namespace
+
+class tst_Options : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void keysAndDefaults_data() { addRows("options.tsv", {"type", "number", "key", "value"}); }
+    void keysAndDefaults();
+    void noOtherKeys();
+    void everyDefaultCanBeStored();
+    void texts_data() { addRows("optiontexts.tsv", {"key", "text", "stored"}); }
+    void texts();
+    void refusals_data() { addRows("optionrefusals.tsv", {"key", "text", "error"}); }
+    void refusals();
+    void explainsOrigin();
+    void contrasts_data() { addRows("colorpairs.tsv", {"text", "ground"}); }
+    void contrasts();
+    void colorGroups();
+    void themes();
+    void fonts();
+    void words_data() { addRows("optionwords.tsv", {"key", "word", "number"}); }
+    void words();
+    void separators();
+    void quotes();
+    void pdfSettings();
+    void autoReplaceList();
+    void imports();
+    void folders();
+    void languages();
+    void warnings();
+    void announces();
+    void onlyInstance();
+    void harmfulValues_data() { addRows("harmfulsettings.tsv", {"case", "value", "isKept"}); }
+    void harmfulValues();
+    void changedBytes();
+
+private:
+    QString file() const { return m_folder->filePath("options.ini"); }
+    // What another process would see, without what the objects of this one share in memory.
+    QScopedPointer<MRVOptions> reread()
+    {
+        m_options->saveNow();
+        const QString copy = m_folder->filePath(QString("copy%1.ini").arg(++m_copies));
+        QFile::copy(file(), copy);
+        return QScopedPointer<MRVOptions>(new MRVOptions(copy));
+    }
+
+    QTemporaryDir m_home;
+    QScopedPointer<QTemporaryDir> m_folder;
+    QScopedPointer<MRVOptions> m_options;
+    int m_copies = 0;
+};
+
+void tst_Options::initTestCase()
+{
+    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope})
+        QSettings::setPath(QSettings::NativeFormat, scope, m_home.filePath(QString::number(scope)));
+}
+
+void tst_Options::init()
+{
+    m_options.reset();
+    m_folder.reset(new QTemporaryDir);
+    m_options.reset(new MRVOptions(file()));
+}
+
+void tst_Options::keysAndDefaults()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, value);
+    using Ask = QStringList (*)(const MRVOptions &, MRVOptions::SettingType, int);
+    const Ask asks[] = {
+        keyAndDefault<MRVOptions::FlagSetting>,       keyAndDefault<MRVOptions::IntSetting>,
+        keyAndDefault<MRVOptions::RealSetting>,       keyAndDefault<MRVOptions::StringSetting>,
+        keyAndDefault<MRVOptions::StringListSetting>, keyAndDefault<MRVOptions::ColorSetting>,
+        keyAndDefault<MRVOptions::DateTimeSetting>,   keyAndDefault<MRVOptions::FontSetting>,
+        keyAndDefault<MRVOptions::IntListSetting>,    keyAndDefault<MRVOptions::ByteArraySetting>,
+        keyAndDefault<MRVOptions::TextCharFormat>,    keyAndDefault<MRVOptions::TextBlockFormat>,
+    };
+    int index = 0;
+    while (MRVOptions::typeName(MRVOptions::SettingType(index)) != type)
+        ++index;
+    QFETCH(QString, number);
+    const QStringList found =
+        asks[index](*m_options, MRVOptions::SettingType(index), number.toInt());
+    QTEST(found.first(), "key");
+    if (!value.isEmpty())
+        QCOMPARE(found.last(), value);
+}
+
+// Nothing is known that has no row above, but for the separators.
+void tst_Options::noOtherKeys()
+{
+    QStringList keys{"Separators/Clippings",       "Separators/ClippingsCustom",
+                     "Separators/MergedDocuments", "Separators/MergedDocumentsCustom",
+                     "Separators/Morvanings",      "Separators/MorvaningsCustom"};
+    for (const QStringList &row : rowsOf("options.tsv")) {
+        if (!row.value(2).isEmpty())
+            keys << row.at(2);
+    }
+    keys.sort();
+    QCOMPARE(keys.removeDuplicates(), 0);
+    QCOMPARE(MRVOptions::settingKeys(), keys);
+}
+
+// The text of each default is a value that can be set; a value that is stored but the same is no
+// change, here and after a restart, when much comes back from the file as text.
+void tst_Options::everyDefaultCanBeStored()
+{
+    for (const QString &key : MRVOptions::settingKeys()) {
+        const auto setting = m_options->explain(key);
+        QVERIFY2(setting.origin.isEmpty() && !setting.isChanged(), qPrintable(key));
+        const QString text = MRVOptions::toText(setting.type, setting.defaultValue);
+        QString error;
+        const bool isSet = m_options->setFromText(key, text, &error);
+        QVERIFY2(isSet || setting.type == MRVOptions::DateTimeType, qPrintable(key + error));
+    }
+    const auto options = reread();
+    for (const QString &key : MRVOptions::settingKeys()) {
+        const auto setting = options->explain(key);
+        QCOMPARE(MRVOptions::toText(setting.type, setting.value),
+                 MRVOptions::toText(setting.type, setting.defaultValue));
+        if (setting.type != MRVOptions::DateTimeType)
+            QCOMPARE(setting.origin, options->fileName());
+    }
+    QVERIFY(options->changedSettings().isEmpty());
+}
+
+void tst_Options::texts()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, text);
+    QString error;
+    QVERIFY2(m_options->setFromText(key, text, &error), qPrintable(error));
+    const auto options = reread();
+    const auto setting = options->explain(key);
+    QTEST(MRVOptions::toText(setting.type, setting.value), "stored");
+    QCOMPARE(options->changedSettings().size(), 1);
+    QCOMPARE(options->changedSettings().first().key, key);
+}
+
+void tst_Options::refusals()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, text);
+    QFETCH(QString, error);
+    QString reason;
+    QVERIFY(!m_options->setFromText(key, text, &reason));
+    QVERIFY2(reason.contains(error) && !reason.contains('\n'), qPrintable(reason));
+    QVERIFY(m_options->allKeys().isEmpty());
+}
+
+void tst_Options::explainsOrigin()
+{
+    const QString key = "Backups/retain";
+    QSettings system(QSettings::SystemScope, "Morvane", "Morvane");
+    system.setValue("Options/" + key, 9);
+    system.sync();
+    MRVOptions options;
+    QCOMPARE(options.explain(key).origin, system.fileName());
+    QCOMPARE(options.explain(key).value.toInt(), 9);
+    QVERIFY(options.setValue(MRVOptions::BackupsToRetain, 7));
+    QCOMPARE(options.explain(key).origin, options.fileName());
+    QCOMPARE(options.explain(key).value.toInt(), 7);
+    QCOMPARE(options.explain(key).defaultValue.toInt(), 5);
+    QCOMPARE(options.explain(key).number, int(MRVOptions::BackupsToRetain));
+    QVERIFY(options.explain("backups/retain").key.isEmpty());
+    options.remove(key);
+    system.clear();
+}
+
+void tst_Options::contrasts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, ground);
+    const auto color = [this](QString key) {
+        return m_options->explain(key.replace('/', "/Colors/")).defaultValue.value<QColor>();
+    };
+    QVERIFY(color(text).isValid() && color(ground).isValid());
+    const double ratio = contrast(color(text), color(ground));
+    QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
+}
+
+void tst_Options::colorGroups()
+{
+    const auto groups = MRVOptions::colorGroupMap();
+    QVector<bool> seen(51);
+    for (auto it = groups.begin(); it != groups.end(); ++it) {
+        QVERIFY(!MRVOptions::colorGroupName(it.key()).isEmpty());
+        QSet<QString> names;
+        for (const auto color : it.value()) {
+            QVERIFY(!seen.at(color));
+            seen[color] = true;
+            names << MRVOptions::colorName(color);
+        }
+        QCOMPARE(names.size(), it.value().size());
+        QVERIFY(!names.contains(QString()));
+    }
+    QVERIFY(!seen.contains(false));
+    QVERIFY(MRVOptions::colorName(MRVOptions::ColorSetting(51)).isEmpty());
+    QVERIFY(MRVOptions::colorGroupName(MRVOptions::ColorSettingGroup(-1)).isEmpty());
+}
+
+void tst_Options::themes()
+{
+    const auto themes = MRVOptions::indexCardThemes();
+    const auto byDefault = qMakePair(m_options->value(MRVOptions::IndexCardBackgroundColor),
+                                     m_options->value(MRVOptions::IndexCardBorderColor));
+    QVERIFY(MRVOptions::defaultIndexCardTheme().colors == byDefault);
+    QVERIFY(themes.size() > 1);
+    for (int i = 0; i < themes.size(); ++i) {
+        const auto colors = themes.at(i).colors;
+        QCOMPARE(MRVOptions::findIndexCardTheme(colors), i);
+        QVERIFY(!themes.at(i).name.isEmpty());
+        for (const auto text : {MRVOptions::TextColor, MRVOptions::IndexCardStatusColor})
+            QVERIFY(contrast(m_options->value(text), colors.first) >= 4.5);
+    }
+    QCOMPARE(MRVOptions::findIndexCardTheme({Qt::white, Qt::yellow}), -1);
+    QCOMPARE(MRVOptions::findIndexCardTheme({}), -1);
+}
+
+void tst_Options::fonts()
+{
+    const QFont title = m_options->value(MRVOptions::IndexCardTitleFont);
+    const QFont small = m_options->value(MRVOptions::IndexCardSynopsisSmallFont);
+    QVERIFY(title.bold() && !small.bold());
+    QVERIFY(small.pointSizeF() > 0 && small.pointSizeF() < title.pointSizeF());
+    QCOMPARE(title.family(), QFontDatabase::systemFont(QFontDatabase::GeneralFont).family());
+    const QTextCharFormat format = m_options->value(MRVOptions::DefaultCharFormat);
+    QCOMPARE(format.fontFamily(), title.family());
+    QVERIFY(!format.hasProperty(QTextFormat::FontUnderline)); // as a whole QFont would set
+}
+
+void tst_Options::words()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, word);
+    QFETCH(QString, number);
+    m_options->setValue(key, word);
+    const auto options = reread();
+    int found = -1;
+    QString written;
+    if (key.endsWith("CornerStyle")) {
+        found = options->cornerStyle();
+        QVERIFY(m_options->setCornerStyle(MRVOptions::CorkCornerStyle(found)));
+    } else if (key.endsWith("Indicator")) {
+        found = options->labelIndicator();
+        QVERIFY(m_options->setLabelIndicator(MRVOptions::CorkLabelIndicator(found)));
+    } else {
+        found = options->spaceDoubleClickMode();
+        QVERIFY(m_options->setSpaceDoubleClickMode(MRVOptions::SpaceDoubleClickMode(found)));
+    }
+    QCOMPARE(QString::number(found), number);
+    if (word != "Unknown")
+        QCOMPARE(m_options->value(key).toString(), word);
+    else
+        QCOMPARE(m_options->value(key).toString(), m_options->explain(key).defaultValue.toString());
+}
+
+void tst_Options::separators()
+{
+    QVERIFY(m_options->separatorType(MRV::MergedDocuments) == MRV::EmptyLine);
+    QVERIFY(m_options->separatorType(MRV::Clippings) == MRV::SingleReturn);
+    QCOMPARE(m_options->customSeparator(MRV::Morvanings), QString("\n#\n"));
+    QVERIFY(m_options->setSeparator(MRV::Morvanings, MRV::CustomSeparator, "* *\n"));
+    QVERIFY(reread()->separatorType(MRV::Morvanings) == MRV::CustomSeparator);
+    QVERIFY(m_options->setSeparator(MRV::Morvanings, MRV::SingleReturn, QString()));
+    QVERIFY(!m_options->setSeparator(MRV::SeparatorContext(3), MRV::EmptyLine, "a"));
+    QVERIFY(!m_options->setSeparator(MRV::Morvanings, MRV::SeparatorType(3), "a"));
+    const auto options = reread();
+    QCOMPARE(options->value("Separators/Morvanings").toString(), QString("SingleReturn"));
+    QVERIFY(options->separatorType(MRV::Morvanings) == MRV::SingleReturn);
+    QCOMPARE(options->customSeparator(MRV::Morvanings), QString("* *\n"));
+    QVERIFY(options->separatorType(MRV::MergedDocuments) == MRV::EmptyLine);
+    QVERIFY(m_options->setSeparator(MRV::Morvanings, MRV::CustomSeparator, ""));
+    QVERIFY(reread()->customSeparator(MRV::Morvanings).isEmpty());
+}
+
+void tst_Options::quotes()
+{
+    const auto text = [](const QPair<QString, QString> &quotes) {
+        return quotes.first + '|' + quotes.second;
+    };
+    QCOMPARE(text(m_options->doubleQuotes()), QString("“|”"));
+    QCOMPARE(text(m_options->singleQuotes()), QString("‘|’"));
+    m_options->setValue(MRVOptions::DoubleQuotesSubstitution, QString("«  »"));
+    m_options->setValue(MRVOptions::SingleQuotesSubstitution, QString("abc"));
+    const auto options = reread();
+    QCOMPARE(text(options->doubleQuotes()), QString("« | »"));
+    QCOMPARE(text(options->singleQuotes()), QString("‘|’"));
+}
+
+void tst_Options::pdfSettings()
+{
+    const QStringList names{"A/B", "A//B", "A\\B", "A%2FB", "Für Verlage", ""};
+    for (const QString &name : names)
+        QVERIFY(m_options->setPdfSettings(name, name.toUtf8() + '\0'));
+    const auto options = reread();
+    for (const QString &name : names)
+        QCOMPARE(options->pdfSettings(name), name.toUtf8() + '\0');
+    QVERIFY(options->pdfSettings("A").isEmpty());
+}
+
+void tst_Options::autoReplaceList()
+{
+    const int defaults = MRVAutoReplaceList::defaultReplacements().size();
+    QCOMPARE(m_options->autoReplaceList().size(), defaults);
+    MRVAutoReplaceList list{{true, "teh", "the"}};
+    QVERIFY(m_options->setAutoReplaceList(list));
+    const auto stored = reread()->autoReplaceList();
+    QCOMPARE(stored.size(), 1 + 6);
+    QCOMPARE(stored.at(0).match, QString("teh"));
+    QVERIFY(!stored.at(6).enabled);
+    for (const QByteArray &bytes :
+         {QByteArray(), QByteArray(8, '\2'), list.toByteArray().left(4)}) {
+        m_options->setValue(MRVOptions::SubstitutionList, bytes);
+        QCOMPARE(reread()->autoReplaceList().size(), defaults);
+    }
+}
+
+void tst_Options::imports()
+{
+    QCOMPARE(m_options->defaultTextEncoding(), QByteArray("UTF-8"));
+    m_options->setDefaultTextEncoding("windows-1252");
+    QCOMPARE(reread()->defaultTextEncoding(), QByteArray("windows-1252"));
+    m_options->setDefaultTextEncoding("klingon");
+    QCOMPARE(reread()->defaultTextEncoding(), QByteArray("UTF-8"));
+
+    QCOMPARE(m_options->defaultImportUrlType(), MRVImportExport::ImportAsPdfWithDoc2AnyWebKit);
+    m_options->setDefaultImportUrlType(MRVImportExport::ImportAsMht);
+    QCOMPARE(reread()->defaultImportUrlType(), MRVImportExport::ImportAsMht);
+    QCOMPARE(reread()->value(MRVOptions::ImportDefaultUrlType), QByteArray("ImportAsMht"));
+}
+
+void tst_Options::folders()
+{
+    const QString path = MRVOptions::defaultBackupPath();
+    QVERIFY2(QDir::isAbsolutePath(path) && path.endsWith("/Morvane/Morvane/Backups"),
+             qPrintable(path));
+    QCOMPARE(m_options->backupPath(), path);
+    m_options->setValue(MRVOptions::BackupsLocation, QString("/mnt/b"));
+    QCOMPARE(reread()->backupPath(), QString("/mnt/b"));
+    m_options->setValue(MRVOptions::BackupsLocation, QString());
+    QCOMPARE(reread()->backupPath(), path);
+}
+
+void tst_Options::languages()
+{
+    QVERIFY(MRVOptions::guiLanguages().contains("en"));
+    QCOMPARE(MRVOptions::defaultGuiLanguageCode(), QString("en"));
+    QTemporaryDir translations;
+    QFile(translations.filePath("mrvbase_de.qm")).open(QIODevice::WriteOnly);
+    qputenv("MORVANE_TRANSLATIONS", translations.path().toUtf8());
+    qputenv("LC_ALL", "de_AT.UTF-8");
+    const QString code = MRVOptions::defaultGuiLanguageCode();
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("MORVANE_TRANSLATIONS");
+    QCOMPARE(code, QString("de"));
+}
+
+void tst_Options::warnings()
+{
+    m_options->setValue("Warnings/splitScene", false);
+    m_options->setValue("Backups/retain", 3);
+    QSettings state(file(), QSettings::IniFormat);
+    state.setValue("ShowImportWarning", false);
+    state.setValue("ShowGettingStarted", false);
+    m_options->resetAllWarnings();
+    QVERIFY(!m_options->contains("Warnings/splitScene"));
+    QCOMPARE(m_options->value(MRVOptions::BackupsToRetain), 3);
+    QVERIFY(state.value("ShowImportWarning").toBool());
+    QVERIFY(!state.value("ShowGettingStarted").toBool());
+}
+
+void tst_Options::announces()
+{
+    QSignalSpy spy(m_options.data(), &MRVSettings::groupsChanged);
+    m_options->setValue(MRVOptions::SmartQuotes, false);
+    m_options->setValue(MRVOptions::TextColor, QColor(Qt::black));
+    m_options->setValue(MRVOptions::CapitalizeI, false);
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().first().toStringList(),
+             QStringList({"AutoCorrection", "TextEditing/Colors"}));
+}
+
+void tst_Options::onlyInstance()
+{
+    QCOMPARE(mrvOptions(), MRVOptions::instance());
+    QVERIFY(!mrvOptions()->parent());
+    QCOMPARE(mrvOptions()->group(), QString("Options"));
+    QCOMPARE(mrvOptions()->fileName(), m_home.filePath("0/Morvane/Morvane.conf"));
+}
+
+// What would harm is taken out before the file is opened, and nothing else.
+void tst_Options::harmfulValues()
+{
+    QFETCH(QString, value);
+    QFETCH(QString, isKept);
+    const QByteArray line = "TextEditing\\Colors\\Text=" + value.toUtf8() + '\n';
+    const QByteArray before = "[Options]\n" + line + "Backups\\retain=7\n";
+    const QString path = m_folder->filePath("harm.ini");
+    QVERIFY(writeBytes(path, before));
+    MRVOptions options(path);
+    QCOMPARE(options.value(MRVOptions::BackupsToRetain), 7);
+    QVERIFY(options.value(MRVOptions::TextColor).isValid());
+    QCOMPARE(bytesOf(path), isKept == "yes" ? before : QByteArray(before).replace(line, ""));
+    QCOMPARE(bytesOf(path + ".damaged"), isKept == "yes" ? QByteArray() : before);
+}
+
+void tst_Options::changedBytes()
+{
+    m_options->setValue(MRVOptions::TextColor, QColor(1, 2, 3));
+    m_options->setValue("General/list",
+                        QVariantList{1, QVariantList{"x", 2}, QStringList{"y", "z"}});
+    m_options->saveNow();
+    const QByteArray sound = bytesOf(file());
+    QCOMPARE(sound.count("@Variant("), 3);
+    for (int at = 0; at < sound.size(); ++at) {
+        for (const char byte : {char(sound.at(at) + 1), 'G', '9', '"', '\\', '\xff'}) {
+            const QString path = m_folder->filePath(QString("%1-%2").arg(at).arg(uchar(byte)));
+            QVERIFY(writeBytes(path, QByteArray(sound).replace(at, 1, QByteArray(1, byte))));
+            QVERIFY(MRVOptions(path).value(MRVOptions::TextColor).isValid());
+        }
+    }
+    QVERIFY(!QFile::exists(file() + ".damaged"));
+}
+
+QTEST_MAIN(tst_Options)
+#include "tst_options.moc"

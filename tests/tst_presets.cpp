@@ -1,0 +1,195 @@
+#include "datarows.h"
+#include "settings/mrvoptions.h"
+#include "settings/mrvtextpresetmgr.h"
+#include "support.h"
+#include "text/mrvtextformat.h"
+
+#include <QTemporaryDir>
+
+using P = MRVTextPreset;
+using Scheme = MRVTextPresetScheme;
+
+namespace {
+
+// Two presets, added against their order.
+Scheme sample()
+{
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    QTextBlockFormat indented;
+    indented.setTextIndent(36);
+    Scheme scheme;
+    scheme.setPreset("B", P(bold, indented, P::ApplyCharFormat | P::ApplyBlockFormat));
+    scheme.setPreset("A", P({}, {}, P::ApplyCharFormat));
+    return scheme;
+}
+
+// Written out from the stated layout.
+const char sampleHex[] = "00000001 00000002"
+                         "00000002 0041 00000001 00000001 00000002 00000000 00000001 00000000"
+                         "00000002 0042 00000001 00000003"
+                         "00000002 00000001 00002003 00000002 00 0000004b"
+                         "00000001 00000001 00001034 00000006 00 4042000000000000";
+
+QByteArray sampleBytes()
+{
+    return QByteArray::fromHex(sampleHex);
+}
+
+} // namespace
+
+/** Text presets and what is stored of them. */
+class tst_Presets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
+        QCoreApplication::setOrganizationName("Morvane");
+        QCoreApplication::setApplicationName("Morvane");
+        mrvOptions()->remove("TextEditing");
+    }
+    void storedForm()
+    {
+        QCOMPARE(Scheme::toByteArray(sample()).toHex(), sampleBytes().toHex());
+        QCOMPARE(Scheme::fromByteArray(sampleBytes()), sample());
+        QVERIFY(Scheme::fromByteArray(QByteArray()).isEmpty());
+    }
+    void roundTrip()
+    {
+        Scheme scheme = Scheme::defaultScheme();
+        QTextBlockFormat tabs;
+        tabs.setTabPositions({QTextOption::Tab(72, QTextOption::RightTab)});
+        // Flags of a newer version stay.
+        scheme.setPreset(QString(), P({}, tabs, P::ApplyFlags(QFlag(0x40000002))));
+        scheme.setPreset(u8"\u00e9 \U0001f58b", P({}, tabs, {}));
+        QString error;
+        const Scheme again = Scheme::fromByteArray(Scheme::toByteArray(scheme) + "more", &error);
+        QCOMPARE(error, QString());
+        QCOMPARE(again.names(), scheme.names());
+        QVERIFY(again == scheme);
+        QCOMPARE(again.preset(QString()).blockFormat().tabPositions(), tabs.tabPositions());
+        QVERIFY(scheme.deletePreset("Body") && !scheme.deletePreset("Body"));
+        QVERIFY(again != scheme && again.contains("Body"));
+    }
+    void otherVersions()
+    {
+        QByteArray bytes = sampleBytes();
+        bytes[8 + 6 + 3] = 2;
+        P preset({}, {}, P::ApplyBlockFormat);
+        QDataStream stream(bytes.mid(8 + 6));
+        stream >> preset;
+        QVERIFY(preset == P({}, {}, P::ApplyBlockFormat));
+        QCOMPARE(stream.device()->pos(), 4);
+        QString error;
+        QVERIFY(Scheme::fromByteArray(bytes, &error).isEmpty() && !error.isEmpty());
+        bytes = sampleBytes();
+        bytes[3] = 2;
+        QVERIFY(Scheme::fromByteArray(bytes).isEmpty());
+    }
+    // What stands before the damage stays.
+    void cutOff()
+    {
+        const QByteArray whole = Scheme::toByteArray(Scheme::defaultScheme());
+        const QStringList names = Scheme::defaultScheme().names();
+        int most = 0;
+        for (int length = 1; length < whole.size(); ++length) {
+            QString error;
+            const Scheme scheme = Scheme::fromByteArray(whole.left(length), &error);
+            QVERIFY(!error.isEmpty() && scheme.count() >= most);
+            most = scheme.count();
+            QCOMPARE(scheme.names(), names.mid(0, most));
+        }
+        QCOMPARE(most, names.size() - 1);
+    }
+    void defaults()
+    {
+        const Scheme scheme = Scheme::defaultScheme();
+        QCOMPARE(
+            scheme.names().join('|'),
+            QString("Block Quote|Body|Essay Block Quote (Preserved)|Heading|Sub-heading|Title"));
+        for (const QString &name : scheme.names()) {
+            const P preset = scheme.preset(name);
+            const bool isHeading = name.contains("ead") || name == "Title";
+            QCOMPARE(preset.charFormat().intProperty(QTextFormat::FontWeight), isHeading ? 75 : 0);
+            QCOMPARE(int(preset.applyFlags()), 3);
+        }
+    }
+    void manager()
+    {
+        const QString path = in("Morvane/Morvane/TextPresets/TextPresets.bin");
+        QVERIFY(MRVTextPresetMgr::loadPresetScheme() == Scheme::defaultScheme());
+        mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray(sample()));
+        MRVTextPresetMgr *manager = MRVTextPresetMgr::instance();
+        QVERIFY(manager == MRVTextPresetMgr::instance() && manager->presetScheme() == sample());
+        QSignalSpy spy(manager, &MRVTextPresetMgr::presetsChanged);
+        manager->removePreset("C");
+        QVERIFY(spy.isEmpty() && !QFile::exists(path));
+        manager->removePreset("B");
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(Scheme::fromByteArray(bytesOf(path)).names(), QStringList{"A"});
+        manager->setPresetScheme(sample());
+        QCOMPARE(spy.size(), 2);
+        QCOMPARE(bytesOf(path), sampleBytes());
+        // The file counts, though the settings are newer.
+        mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray({}));
+        QVERIFY(MRVTextPresetMgr().presetScheme() == sample());
+        QVERIFY(!QFile::exists(path + '~'));
+    }
+    void managerWithoutFolder()
+    {
+        QVERIFY(writeBytes(in("Morvane"), "in the way"));
+        QCOMPARE(MRVTextPresetMgr::presetSchemeFilePath(), QString());
+        MRVTextPresetMgr manager;
+        QVERIFY(manager.presetScheme() == Scheme::defaultScheme());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("go to the settings"));
+        manager.setPresetScheme(sample());
+        QCOMPARE(mrvOptions()->value("TextEditing/textPresets").toByteArray(), sampleBytes());
+        QVERIFY(MRVTextPresetMgr::loadPresetScheme() == sample());
+    }
+    void damagedFileIsKept()
+    {
+        const QString path = MRVTextPresetMgr::presetSchemeFilePath();
+        const QByteArray damaged = sampleBytes().left(50);
+        QVERIFY(writeBytes(path, damaged));
+        MRVTextPresetMgr manager;
+        QCOMPARE(manager.presetScheme().names(), QStringList{"A"});
+        manager.removePreset("A");
+        QCOMPARE(bytesOf(path + '~'), damaged);
+        QCOMPARE(bytesOf(path).toHex(), QByteArray("0000000100000000"));
+    }
+    void tool()
+    {
+        QVERIFY(writeBytes(in("two"), sampleBytes()));
+        QVERIFY(writeBytes(in("damaged"), sampleBytes().left(50)));
+        for (QStringList row : rowsOf("mrv-presets.tsv")) {
+            const QString line = row.at(0);
+            const Ran ran = mrv(line);
+            QVERIFY2(QString::number(ran.exitCode) == row.at(1), qPrintable(line + ran.errors));
+            QVERIFY2(ran.output == row.value(2), qPrintable(line + ran.output));
+            QCOMPARE(ran.errors.count('\n'), ran.exitCode == 0 ? 0 : 1);
+            QVERIFY2(ran.errors.contains(row.value(3)), qPrintable(ran.errors));
+        }
+        QCOMPARE(bytesOf(in("out")), sampleBytes());
+        QCOMPARE(bytesOf(MRVTextPresetMgr::presetSchemeFilePath()),
+                 QByteArray::fromHex("0000000100000001") + sampleBytes().mid(38));
+    }
+
+private:
+    QString in(const QString &name) const { return m_folder->filePath(name); }
+    Ran mrv(const QString &arguments) const
+    {
+        return run(MRV_TOOL,
+                   QStringList{"presets"}
+                       + QString(arguments).replace('@', m_folder->path() + '/').split(' '),
+                   {"XDG_CONFIG_HOME=" + in("config"), "XDG_DATA_HOME=" + m_folder->path()});
+    }
+
+    QScopedPointer<QTemporaryDir> m_folder;
+};
+
+QTEST_MAIN(tst_Presets)
+#include "tst_presets.moc"

@@ -1,0 +1,517 @@
+#include "datarows.h"
+#include "heapmeter.h"
+#include "script/mrvscriptmode.h"
+#include "support.h"
+#include "text/mrvtextformat.h"
+
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace {
+
+using Element = MRVScriptElement;
+
+const QString DataFolder = MRV_SOURCE_DIR "/tests/data/";
+
+QByteArray fileOf(const QByteArray &units, const QByteArray &element)
+{
+    return "<MorvaneScriptFormat Version=\"1.0\"><Units>" + units
+        + "</Units><ScriptElements><Element>" + element
+        + "</Element></ScriptElements></MorvaneScriptFormat>";
+}
+
+/** A format in the notation of scriptformats-equal.tsv. */
+QTextBlockFormat formatOf(const QString &notation)
+{
+    QTextBlockFormat format;
+    QList<QTextOption::Tab> tabs;
+    for (const QString &property : notation.split(' ', Qt::SkipEmptyParts)) {
+        const QString value = property.section(':', 1);
+        if (property.startsWith("tab"))
+            tabs << QTextOption::Tab(value.toDouble(), QTextOption::LeftTab);
+        else
+            format.setProperty(property.section(':', 0, 0).toInt(nullptr, 16),
+                               value.contains('.') ? QVariant(value.toDouble()) : value.toInt());
+    }
+    if (!tabs.isEmpty())
+        format.setTabPositions(tabs);
+    return format;
+}
+
+/** The mode that tests/data/scriptmode.xml was written for by hand. */
+MRVScriptMode handMade()
+{
+    Element cue;
+    cue.setTitle("Cue");
+    cue.setShortcut("Ctrl+1");
+    QTextCharFormat format;
+    format.setFontFamily("Courier New");
+    format.setFontPointSize(12.5);
+    format.setFontUnderline(true);
+    format.setFontWeight(QFont::Bold);
+    format.setFontItalic(true);
+    format.setForeground(QColor(255, 128, 0));
+    cue.setCharFormat(format);
+    cue.setStyleDelimiter(" (");
+    cue.setBlockFormat(
+        formatOf("1010:8 1030:12.0 1031:28.35 1034:-7.1 1036:72.0 1037:93.55 1070:13.8 "
+                 "1071:12.0 tab:113.4"));
+    cue.setFlags(Element::AllCaps | Element::Parenthetical | Element::KeepWithNext
+                 | Element::AllowTabs | Element::AppendProjectList | Element::AddToProjectList
+                 | Element::DoubleUnderline);
+    cue.setActionElement(Element::ReturnAction, "Speech");
+    cue.setActionElement(Element::TabOnEmptyAction, "Plain");
+    cue.setTabBehavior(Element::TabInsertsText);
+    cue.setActionText(Element::TabAfterTypingAction, "\t\r\n");
+    cue.setCompleteBehavior(Element::CompleteInsertsTab);
+    cue.setPhraseStartDelimiter(". ");
+    cue.setPhraseEndDelimiter(" - ");
+    MRVCompletionList completions;
+    completions.append({" (V.O.) ", false});
+    completions.append({"FADE \"OUT\"", true});
+    cue.setCompletions(completions);
+    MRVScriptMode mode;
+    mode.setName(QString::fromUtf8("Tale & T\u00f6ne"));
+    mode.setUnits(MRVUnit::Centimeter);
+    mode.setElements({cue, Element()});
+    return mode;
+}
+
+} // namespace
+
+class tst_ScriptMode : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_factory = MRVScriptMode::systemModes();
+        QCOMPARE(m_factory.size(), 10);
+    }
+    void equal_data() { addRows("scriptformats-equal.tsv", {"case", "a", "b", "same"}); }
+    void equal();
+    void recapitalize_data()
+    {
+        addRows("scriptcapitals.tsv", {"case", "html", "delimiter", "after"});
+    }
+    void recapitalize();
+    void completions();
+    void variants();
+
+    void factory_data();
+    void factory();
+    void defaults();
+    void units_data() { factory_data(); }
+    void units();
+    void storedForm();
+    void notAllThatIsSavedIsKept();
+    void reads_data()
+    {
+        addRows("scriptmode-read.tsv", {"case", "units", "element", "written", "remark"});
+    }
+    void reads();
+    void lateUnits();
+    void refused_data()
+    {
+        addRows("scriptmode-refused.tsv", {"case", "file", "error"});
+        const auto nested = [](int depth) {
+            return "<MorvaneScriptFormat>" + QString("<a>").repeated(depth)
+                + QString("</a>").repeated(depth) + "</MorvaneScriptFormat>";
+        };
+        QTest::newRow("deep") << QString("deep") << nested(100000) << QString("within each other");
+        QTest::newRow("as deep as allowed") << QString("shallow") << nested(31) << QString();
+        QTest::newRow("many") << QString("many")
+                              << "<MorvaneScriptFormat><ScriptElements>"
+                + QString("<Element/>").repeated(1001) + "</ScriptElements></MorvaneScriptFormat>"
+                              << QString("more than 1000 script elements");
+        QTest::newRow("huge") << QString("huge") << QString(MRVScriptMode::MaxFileSize + 1, ' ')
+                              << QString("larger than");
+    }
+    void refused();
+    void damaged();
+    void files();
+    void userModes();
+    void uniqueElements_data() { addRows("scripttitles.tsv", {"case", "titles", "unique"}); }
+    void uniqueElements();
+    void brackets();
+
+private:
+    QMap<QString, MRVScriptMode> m_factory;
+};
+
+void tst_ScriptMode::equal()
+{
+    QFETCH(QString, a);
+    QFETCH(QString, b);
+    QFETCH(QString, same);
+    QCOMPARE(Element::equal(formatOf(a), formatOf(b)), same == "yes");
+    QTextDocument document;
+    QTextCursor(&document).setBlockFormat(formatOf(b));
+    Element element;
+    element.setBlockFormat(formatOf(a));
+    QCOMPARE(element.match(document.firstBlock()), same == "yes");
+}
+
+void tst_ScriptMode::recapitalize()
+{
+    QFETCH(QString, html);
+    QFETCH(QString, delimiter);
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    cursor.insertText("first\n");
+    cursor.insertHtml(html);
+    cursor.insertText("\nlast");
+    const QString before = document.toHtml();
+    const int steps = document.availableUndoSteps();
+    Element element;
+    element.setFlag(Element::AllCaps, QTest::currentDataTag() != QString("lower john"));
+    element.setStyleDelimiter(delimiter);
+    element.recapitalizeBlock(document.firstBlock().next());
+    QString runs;
+    const QTextBlock block = document.firstBlock().next();
+    for (auto it = block.begin(); !it.atEnd(); ++it)
+        runs += "[" + it.fragment().text() + "]";
+    QTEST(runs, "after");
+    QCOMPARE(document.firstBlock().text() + document.lastBlock().text(), QString("firstlast"));
+    if (document.toHtml() == before) {
+        QCOMPARE(document.availableUndoSteps(), steps);
+    } else {
+        document.undo();
+        QCOMPARE(document.toHtml(), before);
+    }
+    element.recapitalizeBlock(QTextBlock());
+}
+
+void tst_ScriptMode::completions()
+{
+    MRVCompletionList list;
+    for (const char *text : {"INT.", "INTERIOR", "EXT.", "int. kitchen", "\U00010400x", "\u00c4x"})
+        list.append({QString::fromUtf8(text), *text == 'E'});
+    list.append({"ext.", false});
+    Element element;
+    element.setCompletions(list);
+    const auto offered = [&](const QString &prefix) {
+        const MRVCompletionList some = element.filteredCompletions(prefix);
+        QString texts = QString::number(some.longestLength());
+        for (const MRVCompletion &completion : some.completions())
+            texts += "|" + completion.text;
+        return texts;
+    };
+    QCOMPARE(offered("int"), QString("12|INT.|INTERIOR|int. kitchen"));
+    QCOMPARE(offered("INTE"), QString("8|INTERIOR"));
+    QCOMPARE(offered("ext."), QString("0"));
+    QCOMPARE(offered(""), QString("0"));
+    QCOMPARE(offered("\u00e4"), QString("2|\u00c4x"));
+    QCOMPARE(offered("\U00010428"), QString("3|\U00010400x"));
+    QCOMPARE(element.newLineAfter("Ext."), true);
+    QCOMPARE(element.newLineAfter("INT."), false);
+    QCOMPARE(element.newLineAfter("EX"), false);
+    QCOMPARE(list.longestLength(), 12);
+}
+
+void tst_ScriptMode::variants()
+{
+    const Element element = handMade().elements().first();
+    const QVariant one = Element::toVariant(element);
+    const QVariant list = Element::toVariant(QList<Element>{element, Element()});
+    QCOMPARE(one.typeName(), "MRVScriptElement");
+    QCOMPARE(list.typeName(), "QList<MRVScriptElement>");
+    QCOMPARE(QMetaType::type("QList<MRVScriptElement>"), list.userType());
+    QVERIFY(Element::toScriptElement(one) == element && element != Element());
+    QVERIFY(Element::toScriptElementList(list) == (QList<Element>{element, Element()}));
+    QVERIFY(Element::toScriptElement(list) == Element());
+    QVERIFY(Element::toScriptElement(QVariant("Cue")) == Element());
+    QVERIFY(Element::toScriptElementList(one).isEmpty());
+}
+
+void tst_ScriptMode::factory_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : m_factory.keys())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_ScriptMode::factory()
+{
+    QFETCH(QString, name);
+    const MRVScriptMode mode = m_factory.value(name);
+    const QString path = ":/ScriptFormat/ScriptFormats/" + name + ".xml";
+    MRVScriptMode loaded;
+    QStringList remarks;
+    QVERIFY(loaded.load(path, nullptr, &remarks));
+    QCOMPARE(remarks, QStringList());
+    QVERIFY(loaded == mode);
+    QCOMPARE(QString::fromUtf8(mode.toXml()), QString::fromUtf8(bytesOf(path)));
+    const QList<Element> elements = mode.elements();
+    QVERIFY(elements.size() >= 8);
+    int completions = 0;
+    for (int i = 0; i < elements.size(); ++i) {
+        const Element &element = elements.at(i);
+        // A paragraph tells its element, and a title names one.
+        QTextDocument document;
+        QTextCursor(&document).setBlockFormat(element.blockFormat());
+        QCOMPARE(mode.indexOf(document.firstBlock()), i);
+        QCOMPARE(mode.indexOf(element.title()), i);
+        QVERIFY(!element.charFormat().fontFamily().isEmpty());
+        QVERIFY(element.charFormat().fontPointSize() >= 9.0);
+        completions += element.completions().completions().size();
+        for (const auto action :
+             {Element::ReturnAction, Element::TabOnEmptyAction, Element::TabAfterTypingAction}) {
+            const QString next = element.actionElement(action);
+            const bool inserts = action == Element::TabAfterTypingAction
+                && element.tabBehavior() == Element::TabInsertsText;
+            QVERIFY2(inserts ? next.isEmpty() && !element.actionText(action).isEmpty()
+                             : mode.indexOf(next) >= 0,
+                     qPrintable(element.title()));
+        }
+    }
+    QVERIFY(completions >= 5);
+}
+
+void tst_ScriptMode::defaults()
+{
+    MRVScriptMode mode;
+    QCOMPARE(mode.name(), QString("Screenplay"));
+    QVERIFY(mode.elements().isEmpty());
+    mode.loadFactoryDefaults();
+    QVERIFY(mode == m_factory.value("US Screenplay"));
+    const QVector<QStringList> rows = rowsOf("scriptlayout.tsv");
+    for (int i = 0; i < rows.size(); ++i) {
+        const Element element = mode.elements().at(i);
+        const QTextBlockFormat block = element.blockFormat();
+        const auto number = [&](int property, double unit) {
+            return QString::number(block.doubleProperty(property) / unit);
+        };
+        const QString tab = element.actionText(Element::TabAfterTypingAction);
+        QCOMPARE((QStringList{element.title(), number(MRVTextFormat::BlockLeftIndent, 72.0),
+                              number(MRVTextFormat::BlockRightIndent, 72.0),
+                              number(QTextFormat::BlockTopMargin, 12.0),
+                              block.alignment() == Qt::AlignRight ? "right" : "left",
+                              element.hasFlag(Element::AllCaps) ? "caps" : "",
+                              element.actionElement(Element::ReturnAction),
+                              element.actionElement(Element::TabOnEmptyAction),
+                              tab.isEmpty() ? element.actionElement(Element::TabAfterTypingAction)
+                                            : '"' + tab + '"'}),
+                 rows.at(i));
+        QCOMPARE(element.charFormat().fontFamily(), QString("Courier New"));
+        QCOMPARE(element.charFormat().fontPointSize(), 12.0);
+    }
+}
+
+void tst_ScriptMode::units()
+{
+    QFETCH(QString, name);
+    const MRVScriptMode mode = m_factory.value(name);
+    QTemporaryDir folder;
+    for (const auto unit : {MRVUnit::Inch, MRVUnit::Centimeter, MRVUnit::Point}) {
+        MRVScriptMode converted = mode;
+        converted.setUnits(unit);
+        QVERIFY(converted.save(folder.filePath("mode.xml")));
+        MRVScriptMode loaded;
+        QVERIFY(loaded.load(folder.filePath("mode.xml")));
+        QCOMPARE(loaded.units(), unit);
+        QVERIFY(loaded == converted);
+        for (int i = 0; i < mode.elements().size(); ++i)
+            QCOMPARE(loaded.elements().at(i).blockFormat(), mode.elements().at(i).blockFormat());
+    }
+}
+
+void tst_ScriptMode::storedForm()
+{
+    const QByteArray file = bytesOf(DataFolder + "scriptmode.xml");
+    const MRVScriptMode mode = handMade();
+    QCOMPARE(QString::fromUtf8(mode.toXml()), QString::fromUtf8(file));
+    MRVScriptMode read;
+    QStringList remarks;
+    QVERIFY(read.fromXml(file, nullptr, &remarks));
+    QCOMPARE(remarks, QStringList());
+    QVERIFY(read == mode);
+    // Each thing that the file holds counts.
+    const QByteArray other = QByteArray(file).replace(">Yes<", ">No<");
+    QVERIFY(read.fromXml(other) && read != mode);
+}
+
+void tst_ScriptMode::notAllThatIsSavedIsKept()
+{
+    MRVScriptMode mode = handMade();
+    mode.setName(QString("A") + QChar(1) + QChar(0xd800) + "\U0001f3ad" + QChar(0xffff));
+    Element element = mode.elements().first();
+    QTextBlockFormat format = element.blockFormat();
+    format.setProperty(MRVTextFormat::BlockLeftIndent, 88.8484);
+    format.setProperty(QTextFormat::TextIndent, qQNaN());
+    format.setLayoutDirection(Qt::RightToLeft);
+    element.setBlockFormat(format);
+    QTextCharFormat charFormat;
+    charFormat.setFontFamilies({"Nimbus Mono PS", "Arial"});
+    charFormat.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+    element.setCharFormat(charFormat);
+    mode.setElements({element});
+    MRVScriptMode read;
+    QVERIFY(read.fromXml(mode.toXml()));
+    QCOMPARE(read.name(), QString("A\U0001f3ad"));
+    QCOMPARE(read.elements().first().charFormat().fontFamily(), QString("Nimbus Mono PS"));
+    QVERIFY(read.elements().first().charFormat().fontUnderline());
+    const QTextBlockFormat kept = read.elements().first().blockFormat();
+    QCOMPARE(kept.doubleProperty(MRVTextFormat::BlockLeftIndent), 88.85);
+    QCOMPARE(kept.doubleProperty(QTextFormat::TextIndent), 0.0);
+    QVERIFY(!kept.hasProperty(QTextFormat::LayoutDirection));
+}
+
+void tst_ScriptMode::reads()
+{
+    QFETCH(QString, units);
+    QFETCH(QString, element);
+    QFETCH(QString, written);
+    QFETCH(QString, remark);
+    MRVScriptMode mode;
+    QStringList remarks;
+    QVERIFY(mode.fromXml(fileOf(units.toUtf8(), element.toUtf8()), nullptr, &remarks));
+    mode.setUnits(MRVUnit::Point);
+    QString xml = QString::fromUtf8(mode.toXml());
+    xml.replace(QRegularExpression(">\\n +<"), "><");
+    QVERIFY2(xml.contains(written), qPrintable(xml));
+    QVERIFY2(remarks.join('\n').contains(remark) && remarks.isEmpty() == remark.isEmpty(),
+             qPrintable(remarks.join('\n')));
+}
+
+void tst_ScriptMode::lateUnits()
+{
+    MRVScriptMode mode;
+    QByteArray file =
+        fileOf("Points",
+               "<ParagraphFormat><Indent>1</Indent><WritingDirection>RightToLeft"
+               "</WritingDirection></ParagraphFormat><CharacterFormat><ByWord>Yes</ByWord>"
+               "</CharacterFormat>");
+    file.replace("</MorvaneScriptFormat>", "<Units>Inches</Units></MorvaneScriptFormat>");
+    QVERIFY(mode.fromXml(file));
+    QCOMPARE(mode.units(), MRVUnit::Inch);
+    const Element element = mode.elements().first();
+    QCOMPARE(element.blockFormat().doubleProperty(MRVTextFormat::BlockLeftIndent), 72.0);
+    QCOMPARE(element.blockFormat().layoutDirection(), Qt::RightToLeft);
+    QCOMPARE(element.flags(), Element::Flags(Element::UnderlineByWord));
+}
+
+void tst_ScriptMode::refused()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, error);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("mode.xml");
+    QVERIFY(writeBytes(path, file.toUtf8()));
+    const MRVScriptMode before = handMade();
+    MRVScriptMode mode = before;
+    QString text;
+    QStringList remarks{"untouched"};
+    QCOMPARE(mode.load(path, &text, &remarks), error.isEmpty());
+    QVERIFY2(text.contains(error) && (error.isEmpty() || text.contains(path)), qPrintable(text));
+    QVERIFY(error.isEmpty() ? mode != before
+                            : mode == before && remarks == QStringList("untouched"));
+}
+
+void tst_ScriptMode::damaged()
+{
+    const QByteArray file = bytesOf(DataFolder + "scriptmode.xml");
+    const MRVScriptMode before = m_factory.first();
+    for (int size = 0; size < file.size() - 1; ++size) {
+        MRVScriptMode mode = before;
+        QString error;
+        HeapMeter::start();
+        QVERIFY2(!mode.fromXml(file.left(size), &error) && mode == before,
+                 qPrintable(QString::number(size)));
+        QVERIFY(HeapMeter::peak() < 1000000);
+        QVERIFY(error.startsWith("line "));
+    }
+    for (int i = 0; i < file.size(); ++i) {
+        for (const int change : {0x01, 0x10, 0x80}) {
+            QByteArray changed = file;
+            changed[i] = char(changed.at(i) ^ change);
+            MRVScriptMode mode = before;
+            HeapMeter::start();
+            const bool ok = mode.fromXml(changed);
+            QVERIFY2(HeapMeter::peak() < 1000000, changed.constData());
+            if (!ok) {
+                QVERIFY(mode == before);
+                continue;
+            }
+            // What was read can be written, and is read as the same.
+            const QByteArray written = mode.toXml();
+            MRVScriptMode again;
+            QVERIFY2(again.fromXml(written) && again.toXml() == written, changed.constData());
+        }
+    }
+}
+
+void tst_ScriptMode::files()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("mode.xml");
+    QVERIFY(handMade().save(path));
+    MRVScriptMode tooLarge;
+    tooLarge.setName(QString(MRVScriptMode::MaxFileSize, 'a'));
+    QString error;
+    QVERIFY(!tooLarge.save(path, &error));
+    QVERIFY2(error.contains(path), qPrintable(error));
+    tooLarge = MRVScriptMode();
+    tooLarge.setElements(QList<Element>::fromVector(QVector<Element>(1001)));
+    QVERIFY(!tooLarge.save(path));
+    QCOMPARE(bytesOf(path), handMade().toXml());
+    QVERIFY(!handMade().save(folder.filePath("none/mode.xml")));
+    MRVScriptMode mode;
+    QVERIFY(!mode.load(folder.filePath("none.xml"), &error));
+    QVERIFY2(error.contains("none.xml"), qPrintable(error));
+    QVERIFY(!mode.load(folder.path()));
+}
+
+void tst_ScriptMode::userModes()
+{
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/ScriptFormats";
+    QDir(folder).removeRecursively();
+    QVERIFY(MRVScriptMode::userModes().isEmpty());
+    QVERIFY(QFile::exists(folder));
+    MRVScriptMode mode = handMade();
+    QVERIFY(MRVScriptMode::addToUserModes("Mine: the \"first\"?", mode));
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("Mine the first.xml"));
+    QVERIFY(!MRVScriptMode::addToUserModes("??", mode));
+    QVERIFY(writeBytes(folder + "/broken.xml", "<MorvaneScriptFormat>"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken\\.xml.*line 1"));
+    const QMap<QString, MRVScriptMode> modes = MRVScriptMode::userModes();
+    QCOMPARE(modes.keys(), QStringList(mode.name()));
+    QVERIFY(modes.first() == mode);
+    QVERIFY(QDir(folder).removeRecursively() && writeBytes(folder, "in the way"));
+    QVERIFY(!MRVScriptMode::addToUserModes("Mine", mode));
+    QVERIFY(MRVScriptMode::userModes().isEmpty());
+    QVERIFY(QFile::remove(folder));
+}
+
+void tst_ScriptMode::uniqueElements()
+{
+    QFETCH(QString, titles);
+    QList<Element> elements;
+    for (const QString &title : titles.split('|')) {
+        elements.append(Element());
+        elements.last().setTitle(title);
+    }
+    MRVScriptMode mode;
+    mode.setElements(elements);
+    mode.makeElementsUnique();
+    QStringList unique;
+    for (const Element &element : mode.elements())
+        unique.append(element.title());
+    QTEST(unique.join('|'), "unique");
+}
+
+void tst_ScriptMode::brackets()
+{
+    QCOMPARE(addBrackets("CONT'D"), QString("(CONT'D)"));
+    QCOMPARE(cleanBrackets("(CONT'D)"), QString("CONT'D"));
+    QCOMPARE(cleanBrackets("((a)\n)"), QString("(a)\n"));
+    for (const char *text : {"CONT'D", "(", "", ")(", " (a)"})
+        QVERIFY2(cleanBrackets(text).isEmpty(), text);
+}
+
+QTEST_MAIN(tst_ScriptMode)
+#include "tst_scriptmode.moc"
