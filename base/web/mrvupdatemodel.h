@@ -53,13 +53,19 @@ public:
     QString availableVersion() const { return m_availableVersion; }
 
     /**
-     * From now on an installer must carry a valid signature of this key beside it.
+     * From now on an installer must carry a valid signature of this key beside it, which names it in its trusted comment.
      *
-     * @param key a minisign public key: its file's contents, or the line of base64 alone.
-     * @return false, with no key set, when it is none.
+     * @param key a minisign public key: its file's contents, or the line of base64 alone. An empty one asks for no
+     *            signature, which is how a model begins.
+     * @return false when it is no key; no installer is accepted then.
      */
     bool setPublicKey(const QByteArray &key);
-    bool needsSignature() const { return !m_publicKey.isEmpty(); }
+    bool needsSignature() const { return m_needsSignature; }
+    /**
+     * Whether the installer is, byte for byte, the one that readEXE() found sound; false before. To be asked right before
+     * the installer is opened, since it has been lying in a temporary folder.
+     */
+    bool isInstallerUnchanged() const;
 
     /** The text of the first child of the first element with that name; empty where there is none. */
     static QString textForTag(const QString &tag, const QDomDocument &document);
@@ -75,7 +81,7 @@ public:
     void compareVersions();
     /**
      * Whether a file can be opened and is no error page that a server sent in its place; it is the model's file then.
-     * Symbolic links are not followed, as anybody can put one into a temporary folder.
+     * Symbolic links are not followed, and other users' files not read, as anybody can put one into a temporary folder.
      */
     bool isDownloadFileIntegral(const QString &path);
 
@@ -104,5 +110,7 @@ private:
     bool m_failed = false;
     bool m_newerAvailable = false;
     QString m_settingsError;
+    bool m_needsSignature = false;
     QByteArray m_publicKey;
+    QByteArray m_installerDigest; // of an installer that was found sound
 };

@@ -4,6 +4,13 @@
 
 QString MSharedResources::updatesIniFileLocation()
 {
-    return MrvCore::isAppMorvane() ? QStringLiteral(":CheckForUpdate/Resources/updates.ini")
-                                   : QStringLiteral(":CheckForUpdate/resources/updates/updates.ini");
+    return MrvCore::isAppMorvane()
+        ? QStringLiteral(":CheckForUpdate/Resources/updates.ini")
+        : QStringLiteral(":CheckForUpdate/resources/updates/updates.ini");
+}
+
+QString MSharedResources::productPage()
+{
+    return MrvCore::isAppMorvane() ? QStringLiteral("https://www.morvane.example/download")
+                                   : QStringLiteral("https://www.fernwick.example/download");
 }

@@ -5,7 +5,7 @@
 #include <QString>
 
 /**
- * Where the running application keeps the Qt resources that the library reads.
+ * Where the running application keeps the Qt resources that the library reads, and its product's page.
  *
  * @since 1.0
  */
@@ -16,4 +16,6 @@ public:
 
     /** The update settings: four lines that MRVUpdateModel describes. */
     static QString updatesIniFileLocation();
+    /** The address of the page from which users download the running application themselves. */
+    static QString productPage();
 };
