@@ -57,7 +57,7 @@ constexpr Room rooms[] = {
     { "base/importexport/mrvimportexportconfig*", 4, 0, "Core Gui" },
     { "base/importexport/*",                     1, 0, "Core Gui" },
     { "base/web/mversion",                       1, 0, "Core Gui Network Xml Widgets" },
-    { "base/web/mrvdownloadurl",                 1, 0, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvdownload*",                   1, 0, "Core Gui Network Xml Widgets" },
     { "base/ui/*",                               1, 0, "Core Gui Network Xml Widgets" },
 
     { "base/text/mtextdoc*",                     4, 0, "Core Gui" },
