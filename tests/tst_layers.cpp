@@ -62,7 +62,7 @@ constexpr Room rooms[] = {
     { "base/web/mrvsignature",                   1, 0, "Core" },
     { "base/web/mrvwebviewfactory",              1, 0, "Core Widgets" },
     { "base/web/mrvredirectpolicy",              1, 0, "Core Network" },
-    { "base/web/mrvdownloadurl",                 1, 0, "Core Gui Network Xml Widgets" },
+    { "base/web/mrvdownload*",                   1, 0, "Core Gui Network Xml Widgets" },
     { "base/ui/*",                               1, 0, "Core Gui Network Xml Widgets" },
 
     { "base/text/mtextdoc*",                     4, 0, "Core Gui" },
