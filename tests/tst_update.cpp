@@ -1,13 +1,30 @@
 #include "datarows.h"
 #include "support.h"
 
+#include "network/mrvnetwork.h"
+#include "web/mrvcheckforupdatesdialog.h"
+#include "web/mrvupdatedownloader.h"
+#include "web/mrvupdatemanager.h"
 #include "web/mrvupdatemodel.h"
 #include "web/mversion.h"
 
+#include <QAction>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QNetworkProxy>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 
+#include <functional>
 #include <memory>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -44,7 +61,112 @@ public:
     }
 };
 
+/*
+ * All servers of the world, on loopback: an HTTP proxy that answers by the path alone. An answer is "404", "302 URL",
+ * "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or a text as feedOf() takes it.
+ */
+class Web : public QTcpServer
+{
+public:
+    Web()
+    {
+        listen(QHostAddress::LocalHost);
+        QNetworkProxy::setApplicationProxy(
+            {QNetworkProxy::HttpProxy, serverAddress().toString(), serverPort()});
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                if (!socket->canReadLine())
+                    return;
+                const QString path = QUrl(socket->readAll().split(' ').value(1)).path();
+                asked << path;
+                socket->write(response(path));
+                socket->disconnectFromHost();
+            });
+        });
+    }
+    ~Web() override { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
+
+    QByteArray response(const QString &path) const
+    {
+        const QString answer =
+            path.startsWith("/mirror/") ? '@' + path.mid(8) : answers.value(path, "404");
+        const QString rest = answer.section(' ', 1);
+        if (answer == "404")
+            return "HTTP/1.1 404 Not Found\r\nContent-Length: 13\r\n\r\n404 Not Found";
+        if (answer.startsWith("302 "))
+            return "HTTP/1.1 302 Found\r\nLocation: " + rest.toUtf8()
+                + "\r\nContent-Length: 4\r\n\r\nmove";
+        const bool isShort = answer.startsWith("short");
+        const QByteArray body = answer.startsWith("big ") ? QByteArray(rest.toInt(), 'x')
+            : isShort                                     ? rest.toUtf8()
+            : answer.startsWith('@')                      ? bytesOf(data + answer.mid(1))
+                                                          : feedOf(answer);
+        return "HTTP/1.1 200 OK\r\nContent-Length: "
+            + QByteArray::number(body.size() + (isShort ? 10 : 0)) + "\r\n\r\n" + body;
+    }
+
+    QHash<QString, QString> answers;
+    QStringList asked;
+};
+
+// Closes each message box as soon as it opens, and keeps what it said.
+class Boxes : public QTimer
+{
+public:
+    explicit Boxes(QStringList *said)
+    {
+        callOnTimeout([said] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                said->append(box->windowTitle() + ": " + box->text());
+                box->accept();
+            }
+        });
+        start(5);
+    }
+};
+
+// What opens files and addresses in place of the desktop.
+class Opener : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Opener(std::function<void(const QUrl &)> function)
+        : m_function(std::move(function))
+    {
+    }
+
+public Q_SLOTS:
+    void open(const QUrl &url) { m_function(url); }
+
+private:
+    std::function<void(const QUrl &)> m_function;
+};
+
+bool isOnline = true;
+
+MRVCheckForUpdatesDialog *shownDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog")
+            return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
+    }
+    return nullptr;
+}
+
+bool isOver()
+{
+    return !qApp->findChild<MRVUpdateDownloader *>();
+}
+
 } // namespace
+
+// In place of the platform's, as an application may bring its own.
+bool MrvNetwork::isNetworkConnected()
+{
+    return isOnline;
+}
 
 class TestUpdate : public QObject
 {
@@ -193,7 +315,246 @@ private Q_SLOTS:
         QVERIFY(!model.isInstallerUnchanged());
     }
 
+    void checks_data()
+    {
+        addRows("update-checks.tsv", {"case", "plant", "feed", "installer", "signature", "said"});
+    }
+    void checks()
+    {
+        QFETCH(QString, plant);
+        QFETCH(QString, feed);
+        QFETCH(QString, installer);
+        QFETCH(QString, signature);
+        QFETCH(QString, said);
+        Web web;
+        web.answers = {{"/update.xml", feed},
+                       {"/morvane.run", installer},
+                       {"/morvane.run.minisig", signature}};
+        plantIn(plant.replace("@tmp", m_folder->path()));
+        QStringList heard;
+        const Boxes boxes(&heard);
+        auto *manager = MRVUpdateManager::instance();
+        const QByteArray key = plant == "bad-key" ? "RWS" : bytesOf(data + "key.pub");
+        if (!signature.isEmpty())
+            QCOMPARE(manager->setPublicKey(key), plant != "bad-key");
+        if (plant == "silent")
+            manager->checkForUpdatesSilent();
+        QMenu menu;
+        manager->setupMenuActions(&menu);
+        menu.actions().constFirst()->trigger();
+        QTRY_VERIFY(isOver() || shownDialog());
+        drive(plant, &heard);
+        QTRY_VERIFY(isOver() && !shownDialog());
+        QCOMPARE(heard.join(';'), said.replace("@tmp", m_folder->path()));
+        QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
+        QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
+    }
+
+    void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }
+    void starts()
+    {
+        QFETCH(QString, settings);
+        QFETCH(QString, due);
+        QFETCH(QString, feed);
+        QSettings store("Morvane", "Morvane");
+        for (const QString &setting : settings.split(';', Qt::SkipEmptyParts)) {
+            const QString value = setting.section('=', 1);
+            const QDateTime now = QDateTime::currentDateTime();
+            store.setValue(setting.section('=', 0, 0),
+                           value.endsWith(" days")
+                               ? QVariant(now.addDays(-value.section(' ', 0, 0).toInt()))
+                               : QVariant(value));
+        }
+        store.sync();
+        Web web;
+        web.answers = {{"/update.xml", feed}};
+        QStringList heard;
+        const Boxes boxes(&heard);
+        auto *timer = MRVUpdateManager::instance()->findChild<QTimer *>();
+        QCOMPARE(timer && timer->isActive(), due != "no");
+        if (!timer)
+            return;
+        QVERIFY(timer->isSingleShot());
+        QCOMPARE(timer->interval(), 5000);
+        const QString key = MRVUpdateManager::lastCheckForUpdatesKey();
+        store.remove(key);
+        store.sync();
+        timer->start(0);
+        QTRY_VERIFY(web.asked.contains("/update.xml"));
+        QTRY_VERIFY(isOver() || shownDialog());
+        QCOMPARE(shownDialog() != nullptr, due == "shown");
+        QCOMPARE(heard, QStringList());
+        QCOMPARE(store.value(key).toDate(), due == "failed" ? QDate() : QDate::currentDate());
+    }
+
+    void keys()
+    {
+        using M = MRVUpdateManager;
+        const auto all = [](const char *application) {
+            QCoreApplication::setApplicationName(application);
+            return QStringList{M::checkForUpdatesKey(), M::checkForUpdatesIntervalKey(),
+                               M::lastCheckForUpdatesKey()}
+                .join(' ');
+        };
+        QCOMPARE(all("Morvane"),
+                 QString("General/checkForUpdates General/checkForUpdatesInterval "
+                         "General/lastCheckForUpdates"));
+        QCOMPARE(all("Fernwick"),
+                 QString("Options/CheckForUpdates Options/CheckForUptatesIntervalDays "
+                         "Options/CheckForUptatesLastDateTime"));
+        QCOMPARE(all("Other"), QString("  "));
+    }
+
+    void dialog()
+    {
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+        MRVCheckForUpdatesDialog dialog("");
+        auto *bar = dialog.findChild<QProgressBar *>("progressBar");
+        auto *status = dialog.findChild<QLabel *>("statusLabel");
+        auto *download = dialog.findChild<QPushButton *>("downloadButton");
+        QVERIFY(dialog.findChild<QWidget *>("webView"));
+        QVERIFY(!dialog.findChild<QLabel *>("appLogo")->pixmap(Qt::ReturnByValue).isNull());
+        dialog.show();
+        dialog.versions("2.9", "%1");
+        QVERIFY(status->text().startsWith(
+            "You are currently running Morvane 2.9. Version %1 is available.\n\nClick"));
+        dialog.updateDownloadProgress(30, -1);
+        QCOMPARE(bar->maximum(), 0);
+        dialog.updateDownloadProgress(qint64(3) << 30, qint64(6) << 30);
+        QCOMPARE(double(bar->value()) / bar->maximum(), 0.5);
+        QSignalSpy wanted(&dialog, &MRVCheckForUpdatesDialog::downloadRequested);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(wanted.count(), 1);
+        QCOMPARE(download->text(), QString("Downloading Update"));
+        QVERIFY(!download->isEnabled());
+        dialog.errorMsg("<b>lost</b>");
+        QCOMPARE(status->text(), QString("<b>lost</b>"));
+        dialog.updateDownloadProgress(1, 2);
+        QVERIFY(bar->isHidden());
+        QSignalSpy rejected(&dialog, &QDialog::rejected);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(rejected.count(), 1);
+        QCoreApplication::setApplicationName("Fernwick");
+        QVERIFY(MRVCheckForUpdatesDialog::logoImage()
+                != dialog.findChild<QLabel *>("appLogo")->pixmap(Qt::ReturnByValue).toImage());
+        QCOMPARE(MRVCheckForUpdatesDialog::logoImage().width(), 48);
+    }
+
+    void webView_data()
+    {
+        QTest::addColumn<QString>("plugins");
+        QTest::newRow("QWebView") << MRV_BINARY_DIR "/lib/mrvbase/plugins";
+        QTest::newRow("QTextBrowser") << "/nowhere";
+    }
+    // Shows the page, runs none of its scripts, stays on it, and opens its links elsewhere.
+    void webView()
+    {
+        QFETCH(QString, plugins);
+        qputenv("MRV_PLUGIN_PATH", plugins.toUtf8());
+        Web web;
+        web.answers = {{"/notes.html", "@notes.html"}};
+        QStringList opened;
+        Opener opener([&opened](const QUrl &url) { opened << url.toString(); });
+        QDesktopServices::setUrlHandler("http", &opener, "open");
+        MRVCheckForUpdatesDialog dialog("http://www.example/notes.html");
+        QCOMPARE(web.asked, QStringList());
+        dialog.versions("2.9.0.0", "3.0.0.0");
+        dialog.show();
+        auto *view = dialog.findChild<QWidget *>("webView");
+        QVERIFY(view->inherits(QTest::currentDataTag()));
+        const auto title = [view] {
+            auto *browser = qobject_cast<QTextBrowser *>(view);
+            return browser ? browser->documentTitle() : view->property("title").toString();
+        };
+        QTRY_COMPARE(title(), QString("Notes"));
+        QTest::qWait(50); // the page's attempt to go elsewhere
+        QCOMPARE(title(), QString("Notes"));
+        QVERIFY(dialog.grab().save(
+            QString(MRV_BINARY_DIR "/update-dialog-%1.png").arg(QTest::currentDataTag())));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_Tab);
+        QTest::keyClick(view, Qt::Key_Return);
+        QTRY_COMPARE(opened, QStringList{"http://www.example/more"});
+        QCOMPARE(web.asked, QStringList{"/notes.html"});
+    }
+
+    void cleanup()
+    {
+        MRVUpdateManager::release();
+        QDesktopServices::unsetUrlHandler("http");
+        QDesktopServices::unsetUrlHandler("file");
+        QSettings("Morvane", "Morvane").clear();
+        MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
+        isOnline = true;
+        QFile::remove(m_folder->path() + "\\update.xml");
+    }
+
 private:
+    void plantIn(const QString &plant)
+    {
+        const QStringList words = plant.split(' ');
+        const auto place = [&](int i) {
+            return QDir(m_folder->path()).absoluteFilePath(words.value(i));
+        };
+        QVERIFY(writeBytes(m_folder->filePath("victim"), "precious"));
+        isOnline = plant != "offline";
+        if (plant == "Fernwick")
+            QCoreApplication::setApplicationName(plant);
+        else if (words[0] == "link")
+            QVERIFY(QFile::link(place(2), place(1)));
+        else if (words[0] == "folder")
+            QVERIFY(QDir().mkdir(place(1)));
+        else if (words[0] == "pipe")
+            QCOMPARE(mkfifo(QFile::encodeName(place(1)), 0600), 0);
+        else if (words[0] == "Location")
+            QSettings("Morvane", "Morvane").setValue("Location", words[1]);
+        MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+    }
+
+    // What a user does with the dialog, if there is one: download, install, and else cancel.
+    void drive(const QString &plant, QStringList *heard)
+    {
+        QPointer<MRVCheckForUpdatesDialog> dialog = shownDialog();
+        if (!dialog)
+            return;
+        QTRY_VERIFY(dialog->findChild<QLabel *>("statusLabel")->text().contains("3.0.0.0"));
+        heard->append("dialog");
+        auto *install = dialog->findChild<QPushButton *>("installButton");
+        auto *bar = dialog->findChild<QProgressBar *>("progressBar");
+        QVERIFY(!install->isVisible());
+        QCOMPARE(bar->value(), 0);
+        QTest::keyClick(dialog->findChild<QPushButton *>("downloadButton"), Qt::Key_Space);
+        QTRY_VERIFY(!dialog || install->isVisible() || bar->isHidden()
+                    || plant.startsWith("Location"));
+        if (!dialog)
+            return;
+        if (install->isVisible()) {
+            QCOMPARE(bar->value(), bar->maximum());
+            heard->append("install");
+            const QString path = m_folder->filePath("morvane.run");
+            if (plant.startsWith("swap"))
+                QVERIFY(QFile::remove(path));
+            if (plant == "swap")
+                QVERIFY(writeBytes(path, "evil"));
+            else if (plant == "swap-link")
+                QVERIFY(QFile::link(data + "morvane.run", path));
+            Opener opener([&](const QUrl &url) {
+                QCOMPARE(url.path(), path);
+                QVERIFY(!QFileInfo(path).isSymLink());
+                QCOMPARE(bytesOf(path), bytesOf(data + "morvane.run"));
+                heard->append("opened " + url.fileName());
+            });
+            QDesktopServices::setUrlHandler("file", &opener, "open");
+            QTest::keyClick(install, Qt::Key_Space);
+            QTRY_VERIFY(isOver());
+        } else {
+            if (bar->isHidden())
+                heard->append("status " + dialog->findChild<QLabel *>("statusLabel")->text());
+            QTest::keyClick(dialog->findChild<QPushButton *>("cancelButton"), Qt::Key_Space);
+        }
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 

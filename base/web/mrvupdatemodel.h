@@ -71,7 +71,7 @@ public:
     static QString textForTag(const QString &tag, const QDomDocument &document);
     /**
      * Takes the values of a feed; fails when one is empty, or when the installer's name is none: it holds a separator or
-     * a control character, or is a dot name.
+     * a control character, is a dot name, or the feed's own.
      */
     void parseXML(const QDomDocument &document);
     /**

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QFont>
+#include <QGuiApplication>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QUrl>
@@ -62,6 +64,8 @@ public:
             settings()->setAttribute(attribute, false);
         }
         settings()->setAttribute(QWebSettings::PrivateBrowsingEnabled, true);
+        // What a page that names no font of its own is written in.
+        settings()->setFontFamily(QWebSettings::StandardFont, QGuiApplication::font().family());
         connect(this, &QWebPage::loadFinished, this, &Page::showFailure);
     }
 
