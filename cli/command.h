@@ -30,6 +30,7 @@ int runReplace(const QStringList &arguments);
 int runScript(const QStringList &arguments);
 int runSettings(const QStringList &arguments);
 int runShortcuts(const QStringList &arguments);
+int runUpdate(const QStringList &arguments);
 int runXml(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */

@@ -26,6 +26,7 @@ constexpr Command commands[] = {
     {"script", "list, show and check script modes", runScript},
     {"settings", "show and change the application's preferences", runSettings},
     {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
+    {"update", "check an update feed for a newer version", runUpdate},
     {"xml", "read and edit XML files by paths", runXml},
 };
 

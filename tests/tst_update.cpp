@@ -1,5 +1,6 @@
 #include "datarows.h"
 #include "support.h"
+#include "web.h"
 
 #include "network/mrvnetwork.h"
 #include "web/mrvcheckforupdatesdialog.h"
@@ -13,35 +14,16 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QNetworkProxy>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QTextBrowser>
 
-#include <functional>
 #include <memory>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-const QString data = MRV_SOURCE_DIR "/tests/data/update/";
-
-// "version|file name|base URL", or a feed as it stands.
-QByteArray feedOf(const QString &text)
-{
-    const QStringList parts = text.split('|');
-    return parts.size() != 3
-        ? text.toUtf8()
-        : QString("<?xml version='1.0'?><update><version>%1</version><linuxfilename>%2"
-                  "</linuxfilename><url>%3</url></update>")
-              .arg(parts[0], parts[1], parts[2])
-              .toUtf8();
-}
 
 // All that a model tells, in order.
 class Told : public QStringList
@@ -61,55 +43,6 @@ public:
     }
 };
 
-/*
- * All servers of the world, on loopback: an HTTP proxy that answers by the path alone. An answer is "404", "302 URL",
- * "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or a text as feedOf() takes it.
- */
-class Web : public QTcpServer
-{
-public:
-    Web()
-    {
-        listen(QHostAddress::LocalHost);
-        QNetworkProxy::setApplicationProxy(
-            {QNetworkProxy::HttpProxy, serverAddress().toString(), serverPort()});
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            QTcpSocket *socket = nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                if (!socket->canReadLine())
-                    return;
-                const QString path = QUrl(socket->readAll().split(' ').value(1)).path();
-                asked << path;
-                socket->write(response(path));
-                socket->disconnectFromHost();
-            });
-        });
-    }
-    ~Web() override { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
-
-    QByteArray response(const QString &path) const
-    {
-        const QString answer =
-            path.startsWith("/mirror/") ? '@' + path.mid(8) : answers.value(path, "404");
-        const QString rest = answer.section(' ', 1);
-        if (answer == "404")
-            return "HTTP/1.1 404 Not Found\r\nContent-Length: 13\r\n\r\n404 Not Found";
-        if (answer.startsWith("302 "))
-            return "HTTP/1.1 302 Found\r\nLocation: " + rest.toUtf8()
-                + "\r\nContent-Length: 4\r\n\r\nmove";
-        const bool isShort = answer.startsWith("short");
-        const QByteArray body = answer.startsWith("big ") ? QByteArray(rest.toInt(), 'x')
-            : isShort                                     ? rest.toUtf8()
-            : answer.startsWith('@')                      ? bytesOf(data + answer.mid(1))
-                                                          : feedOf(answer);
-        return "HTTP/1.1 200 OK\r\nContent-Length: "
-            + QByteArray::number(body.size() + (isShort ? 10 : 0)) + "\r\n\r\n" + body;
-    }
-
-    QHash<QString, QString> answers;
-    QStringList asked;
-};
-
 // Closes each message box as soon as it opens, and keeps what it said.
 class Boxes : public QTimer
 {
@@ -124,24 +57,6 @@ public:
         });
         start(5);
     }
-};
-
-// What opens files and addresses in place of the desktop.
-class Opener : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Opener(std::function<void(const QUrl &)> function)
-        : m_function(std::move(function))
-    {
-    }
-
-public Q_SLOTS:
-    void open(const QUrl &url) { m_function(url); }
-
-private:
-    std::function<void(const QUrl &)> m_function;
 };
 
 bool isOnline = true;
@@ -171,6 +86,17 @@ bool MrvNetwork::isNetworkConnected()
 class TestUpdate : public QObject
 {
     Q_OBJECT
+
+public Q_SLOTS:
+    // In place of the desktop.
+    void open(const QUrl &url)
+    {
+        const QString path = m_folder->filePath("morvane.run");
+        QCOMPARE(url.toLocalFile(), path);
+        QVERIFY(!QFileInfo(path).isSymLink());
+        QCOMPARE(bytesOf(path), bytesOf(data + "morvane.run"));
+        m_heard->append("opened " + url.fileName());
+    }
 
 private Q_SLOTS:
     void init()
@@ -440,48 +366,9 @@ private Q_SLOTS:
         QCOMPARE(MRVCheckForUpdatesDialog::logoImage().width(), 48);
     }
 
-    void webView_data()
-    {
-        QTest::addColumn<QString>("plugins");
-        QTest::newRow("QWebView") << MRV_BINARY_DIR "/lib/mrvbase/plugins";
-        QTest::newRow("QTextBrowser") << "/nowhere";
-    }
-    // Shows the page, runs none of its scripts, stays on it, and opens its links elsewhere.
-    void webView()
-    {
-        QFETCH(QString, plugins);
-        qputenv("MRV_PLUGIN_PATH", plugins.toUtf8());
-        Web web;
-        web.answers = {{"/notes.html", "@notes.html"}};
-        QStringList opened;
-        Opener opener([&opened](const QUrl &url) { opened << url.toString(); });
-        QDesktopServices::setUrlHandler("http", &opener, "open");
-        MRVCheckForUpdatesDialog dialog("http://www.example/notes.html");
-        QCOMPARE(web.asked, QStringList());
-        dialog.versions("2.9.0.0", "3.0.0.0");
-        dialog.show();
-        auto *view = dialog.findChild<QWidget *>("webView");
-        QVERIFY(view->inherits(QTest::currentDataTag()));
-        const auto title = [view] {
-            auto *browser = qobject_cast<QTextBrowser *>(view);
-            return browser ? browser->documentTitle() : view->property("title").toString();
-        };
-        QTRY_COMPARE(title(), QString("Notes"));
-        QTest::qWait(50); // the page's attempt to go elsewhere
-        QCOMPARE(title(), QString("Notes"));
-        QVERIFY(dialog.grab().save(
-            QString(MRV_BINARY_DIR "/update-dialog-%1.png").arg(QTest::currentDataTag())));
-        view->setFocus();
-        QTest::keyClick(view, Qt::Key_Tab);
-        QTest::keyClick(view, Qt::Key_Return);
-        QTRY_COMPARE(opened, QStringList{"http://www.example/more"});
-        QCOMPARE(web.asked, QStringList{"/notes.html"});
-    }
-
     void cleanup()
     {
         MRVUpdateManager::release();
-        QDesktopServices::unsetUrlHandler("http");
         QDesktopServices::unsetUrlHandler("file");
         QSettings("Morvane", "Morvane").clear();
         MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
@@ -539,13 +426,8 @@ private:
                 QVERIFY(writeBytes(path, "evil"));
             else if (plant == "swap-link")
                 QVERIFY(QFile::link(data + "morvane.run", path));
-            Opener opener([&](const QUrl &url) {
-                QCOMPARE(url.path(), path);
-                QVERIFY(!QFileInfo(path).isSymLink());
-                QCOMPARE(bytesOf(path), bytesOf(data + "morvane.run"));
-                heard->append("opened " + url.fileName());
-            });
-            QDesktopServices::setUrlHandler("file", &opener, "open");
+            m_heard = heard;
+            QDesktopServices::setUrlHandler("file", this, "open");
             QTest::keyClick(install, Qt::Key_Space);
             QTRY_VERIFY(isOver());
         } else {
@@ -556,6 +438,7 @@ private:
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList *m_heard = nullptr;
 };
 
 QTEST_MAIN(TestUpdate)
