@@ -263,7 +263,7 @@ private Q_SLOTS:
         const QByteArray key = plant == "bad-key" ? "RWS" : bytesOf(data + "key.pub");
         if (!signature.isEmpty())
             QCOMPARE(manager->setPublicKey(key), plant != "bad-key");
-        if (plant == "silent")
+        if (plant == "silent" || plant == "offline")
             manager->checkForUpdatesSilent();
         QMenu menu;
         manager->setupMenuActions(&menu);
@@ -274,6 +274,44 @@ private Q_SLOTS:
         QCOMPARE(heard.join(';'), said.replace("@tmp", m_folder->path()));
         QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
         QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
+    }
+
+    void endsEarly_data()
+    {
+        QTest::addColumn<bool>("installer");
+        QTest::addColumn<bool>("cancels");
+        QTest::newRow("feed-released") << false << false;
+        QTest::newRow("installer-released") << true << false;
+        QTest::newRow("installer-cancelled") << true << true;
+    }
+    // Nothing is said, left behind or used after its end.
+    void endsEarly()
+    {
+        QFETCH(bool, installer);
+        QFETCH(bool, cancels);
+        Web web;
+        web.answers = {
+            {"/update.xml", installer ? "3.0.0.0|morvane.run|http://d.example/" : "wait"},
+            {"/morvane.run", "wait"}};
+        plantIn(QString());
+        QStringList heard;
+        const Boxes boxes(&heard);
+        MRVUpdateManager::instance()->checkForUpdates();
+        if (installer) {
+            QTRY_VERIFY(shownDialog());
+            QTest::keyClick(shownDialog(), Qt::Key_Return);
+        }
+        QTRY_VERIFY(web.asked.contains(installer ? "/morvane.run" : "/update.xml"));
+        if (cancels)
+            shownDialog()->close();
+        else
+            MRVUpdateManager::release();
+        QTRY_VERIFY(isOver() && !shownDialog());
+        QCOMPARE(heard, QStringList());
+        QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
+        web.asked.clear();
+        MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
+        QTRY_VERIFY(web.asked.contains("/update.xml"));
     }
 
     void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }

@@ -25,7 +25,7 @@ inline QByteArray feedOf(const QString &text)
 
 /*
  * All servers of the world, on loopback: an HTTP proxy that answers by the path alone. An answer is "404", "302 URL",
- * "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or a text as feedOf() takes it.
+ * "wait" (none), "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or a text as feedOf() takes it.
  */
 class Web : public QTcpServer
 {
@@ -42,6 +42,8 @@ public:
                     return;
                 const QString path = QUrl(socket->readAll().split(' ').value(1)).path();
                 asked << path;
+                if (answers.value(path) == "wait")
+                    return;
                 socket->write(response(path));
                 socket->disconnectFromHost();
             });

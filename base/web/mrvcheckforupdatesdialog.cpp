@@ -34,6 +34,7 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
     connect(m_ui->installButton, &QPushButton::clicked, this,
             &MRVCheckForUpdatesDialog::installUpdate);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    m_ui->downloadButton->setFocus();
 }
 
 MRVCheckForUpdatesDialog::~MRVCheckForUpdatesDialog() = default;

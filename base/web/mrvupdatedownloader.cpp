@@ -17,6 +17,14 @@ namespace {
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
 
+// As QMessageBox shows it, but never as markup: servers have a say in what is told.
+void tell(QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 } // namespace
 
 MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
@@ -173,9 +181,8 @@ void MRVUpdateDownloader::updateAvailable(bool available)
     // The check may be deleted while its box is open.
     const QPointer<MRVUpdateDownloader> self(this);
     if (!m_silent) {
-        QMessageBox::information(
-            nullptr, tr("Check for Updates"),
-            tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
+        tell(QMessageBox::Information, tr("Check for Updates"),
+             tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
     }
     if (self) {
         cancelUpdate();
@@ -191,7 +198,7 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
     m_isTelling = true;
     const QPointer<MRVUpdateDownloader> self(this);
     if (!m_silent) {
-        QMessageBox::warning(nullptr, tr("Check for Updates"), error);
+        tell(QMessageBox::Warning, tr("Check for Updates"), error);
     }
     if (self) {
         cancelUpdate();

@@ -111,6 +111,7 @@ QWidget *MRVWebView::create(const QUrl &page, QWidget *parent)
     view->setPage(new Page(view));
     // Its menu would offer to open links in the view, and to save them.
     view->setContextMenuPolicy(Qt::NoContextMenu);
+    view->setAcceptDrops(false);
     view->setUrl(QUrl(QStringLiteral("about:blank")));
     if (!page.isEmpty()) {
         view->setUrl(page);
