@@ -137,8 +137,8 @@ QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCh
 
     QTextCodec::ConverterState decoding;
     QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
-    QByteArray result =
-        to->fromUnicode(QString()); // the byte-order mark, where the codec writes one
+    // The byte-order mark, where the codec writes one.
+    QByteArray result = to->fromUnicode(QString());
     for (int at = 0; at < data.size(); at += ConvertedAtOnce) {
         const int count = qMin(ConvertedAtOnce, data.size() - at);
         const QString text = from->toUnicode(data.constData() + at, count, &decoding);
@@ -171,7 +171,10 @@ bool MRVDownloadUrl::download(const QUrl &url)
 
 void MRVDownloadUrl::start()
 {
-    m_reply = m_manager->get(QNetworkRequest(m_url));
+    QNetworkRequest request(m_url);
+    // Qt unpacks what comes compressed without looking whether all of it came, or what it makes of it.
+    request.setRawHeader("Accept-Encoding", "identity");
+    m_reply = m_manager->get(request);
     connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
     connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::downloadProgress);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &MRVDownloadUrl::onReplyError);
@@ -282,8 +285,7 @@ void MRVDownloadUrl::onReplyError()
     m_data.clear();
 }
 
-// Qt finds most of these out itself. A length that is none would let any part of a body pass as whole;
-// that of a compressed body was taken away together with the compression.
+// Qt finds most of these out itself; but a length that is no number would let any part pass as whole.
 bool MRVDownloadUrl::isCutShort() const
 {
     const QByteArray promised = promisedLength(m_reply);
@@ -372,10 +374,11 @@ void MRVDownloadUrl::deliver()
     QByteArray data = std::exchange(m_data, QByteArray());
     const QString fileName = m_fileName;
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    const bool isPacked = m_reply->hasRawHeader("Content-Encoding");
     dropReply();
     m_contentType = type;
     const QString from = charset(type);
-    if (!from.isEmpty())
+    if (!from.isEmpty() && !isPacked)
         data = convert(data, from, QStringLiteral("UTF-8"));
 
     const QPointer<MRVDownloadUrl> self(this);
@@ -426,6 +429,6 @@ void MRVDownloadUrl::onNetworkAccessibleChanged(int accessibility)
     if (m_reply) {
         fail(error);
     } else {
-        Q_EMIT downloadError(error);
+        endWith(error);
     }
 }

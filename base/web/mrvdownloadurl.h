@@ -25,6 +25,9 @@ class MRVDownloadUserInputAbstract;
  * fails. Only a request that is dropped, by starting another one or by deleting this object, says no
  * more. Any receiver may start the next request, or delete this object.
  *
+ * Servers are asked not to compress, so that each body can be checked against its length; one that
+ * comes compressed all the same is delivered as it came.
+ *
  * Only http and https addresses are fetched, at the first request and at each redirect. Redirects are
  * followed where the user-input handler says so; one from https to http also needs the handler's
  * ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them connects
@@ -74,7 +77,7 @@ public:
     void setTransferTimeout(int milliseconds);
     int transferTimeout() const { return m_transferTimeout; }
 
-    /** The largest body to accept, in bytes after decompression; kept within 0 and LargestSize. */
+    /** The largest body to accept, in bytes; kept within 0 and LargestSize. */
     void setMaximumSize(qint64 bytes);
     qint64 maximumSize() const { return m_maximumSize; }
 
