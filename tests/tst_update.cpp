@@ -4,6 +4,7 @@
 
 #include "network/mrvnetwork.h"
 #include "web/mrvcheckforupdatesdialog.h"
+#include "web/mrvredirectpolicy_p.h"
 #include "web/mrvupdatedownloader.h"
 #include "web/mrvupdatemanager.h"
 #include "web/mrvupdatemodel.h"
@@ -349,6 +350,31 @@ private Q_SLOTS:
         QCOMPARE(shownDialog() != nullptr, due == "shown");
         QCOMPARE(heard, QStringList());
         QCOMPARE(store.value(key).toDate(), due == "failed" ? QDate() : QDate::currentDate());
+    }
+
+    void redirects_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("followed");
+        QTest::newRow("secure") << "https://a https://b" << true;
+        QTest::newRow("plain") << "http://a http://b" << true;
+        QTest::newRow("up") << "http://a https://b" << true;
+        QTest::newRow("down") << "https://a http://b" << false;
+        QTest::newRow("up-and-down") << "http://a https://b http://c" << false;
+        QTest::newRow("other") << "http://a ftp://b" << false;
+    }
+    void redirects()
+    {
+        QFETCH(QString, way);
+        MRVRedirectPolicy policy;
+        policy.start(QUrl(way.section(' ', 0, 0)));
+        bool isFollowed = true;
+        for (const QString &url : way.split(' ').mid(1))
+            isFollowed = policy.redirectTo(QUrl(url));
+        QCOMPARE(policy.hasRefused(), !isFollowed);
+        QTEST(isFollowed, "followed");
+        QVERIFY(!policy.authenticate("", QUrl(), nullptr, nullptr));
+        QVERIFY(!policy.ignoreSslErrors({"expired"}));
     }
 
     void keys()

@@ -57,6 +57,40 @@ private Q_SLOTS:
         QCOMPARE(web.asked, QStringList{"/notes.html"});
     }
 
+    void standIn_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<QString>("shown");
+        const QByteArray ok = "HTTP/1.1 200 OK\r\n\r\n";
+        const QByteArray deep = QByteArray("<i>").repeated(100000);
+        const QString failed = "The release notes cannot be shown.\n";
+        QTest::newRow("utf-8") << ok + "<meta charset=iso-8859-1>\xc3\xa9"
+                               << "é";
+        QTest::newRow("named-by-page") << ok + "<meta charset=iso-8859-1>\xe9"
+                                       << "é";
+        QTest::newRow("named-by-server")
+            << QByteArray("HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=cp1250\r\n\r\n\x9a")
+            << "š";
+        QTest::newRow("nested-deeply") << ok + deep << failed.trimmed();
+        QTest::newRow("one-word") << ok + QByteArray(1000000, 'x') << QString(1000000, 'x');
+        QTest::newRow("refused") << QByteArray("HTTP/1.1 302 F\r\nLocation: file:///\r\n\r\n")
+                                 << failed
+                + "It redirects to file:///, which is no http or https address";
+        QTest::newRow("too-large")
+            << ok + QByteArray(2000000, 'x') << failed + "It is larger than 1048576 bytes";
+    }
+    void standIn()
+    {
+        QFETCH(QByteArray, answer);
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+        Web web;
+        web.raw = answer;
+        MRVCheckForUpdatesDialog dialog("http://www.example/");
+        dialog.show();
+        QTRY_VERIFY(!dialog.findChild<QTextBrowser *>("webView")->toPlainText().isEmpty());
+        QTEST(dialog.findChild<QTextBrowser *>("webView")->toPlainText(), "shown");
+    }
+
 private:
     QStringList m_opened;
 };

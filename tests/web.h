@@ -44,7 +44,7 @@ public:
                 asked << path;
                 if (answers.value(path) == "wait")
                     return;
-                socket->write(response(path));
+                socket->write(raw.isEmpty() ? response(path) : raw);
                 socket->disconnectFromHost();
             });
         });
@@ -70,6 +70,7 @@ public:
             + QByteArray::number(body.size() + (isShort ? 10 : 0)) + "\r\n\r\n" + body;
     }
 
+    QByteArray raw; // answers everything, if not empty
     QHash<QString, QString> answers;
     QStringList asked;
 };

@@ -72,7 +72,9 @@ QString decodedPage(const QByteArray &bytes)
     QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
     QTextCodec::ConverterState state;
     const QString text = utf8->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 ? text : QTextCodec::codecForHtml(bytes, utf8)->toUnicode(bytes);
+    return state.invalidChars + state.remainingChars == 0
+        ? text
+        : QTextCodec::codecForHtml(bytes, utf8)->toUnicode(bytes);
 }
 
 // Shows one page as rich text. It has no scripts to begin with, and loads nothing that the page names.
@@ -85,6 +87,8 @@ public:
         : QTextBrowser(parent)
     {
         setOpenLinks(false);
+        // To break words, too, takes a time that grows with the square of their length.
+        setWordWrapMode(QTextOption::WordWrap);
         connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) {
             const QUrl target = m_page.resolved(link);
             if (isWebPage(target) || target.scheme() == QLatin1String("mailto")) {
@@ -117,10 +121,8 @@ private:
     void showPage(const QByteArray &bytes)
     {
         const QString html = decodedPage(bytes);
-        if (m_redirects.hasRefused()) {
+        if (m_redirects.hasRefused() || isNestedTooDeeply(html)) {
             showError(QString());
-        } else if (isNestedTooDeeply(html)) {
-            setPlainText(html);
         } else {
             setHtml(html);
         }
@@ -128,7 +130,7 @@ private:
 
     void showError(const QString &reason)
     {
-        setPlainText(tr("The release notes cannot be shown.") + u'\n' + reason);
+        setPlainText((tr("The release notes cannot be shown.") + u'\n' + reason).trimmed());
     }
 
     static constexpr qint64 MaxPageSize = 1024 * 1024;
