@@ -469,13 +469,18 @@ private:
         QPointer<MRVCheckForUpdatesDialog> dialog = shownDialog();
         if (!dialog)
             return;
+        auto *download = dialog->findChild<QPushButton *>("downloadButton");
+        if (plant == "silent") // nothing is known yet
+            QTest::keyClick(download, Qt::Key_Space);
         QTRY_VERIFY(dialog->findChild<QLabel *>("statusLabel")->text().contains("3.0.0.0"));
         heard->append("dialog");
         auto *install = dialog->findChild<QPushButton *>("installButton");
         auto *bar = dialog->findChild<QProgressBar *>("progressBar");
-        QVERIFY(!install->isVisible());
-        QCOMPARE(bar->value(), 0);
-        QTest::keyClick(dialog->findChild<QPushButton *>("downloadButton"), Qt::Key_Space);
+        if (plant != "silent") {
+            QVERIFY(!install->isVisible());
+            QCOMPARE(bar->value(), 0);
+            QTest::keyClick(download, Qt::Key_Space);
+        }
         QTRY_VERIFY(!dialog || install->isVisible() || bar->isHidden()
                     || plant.startsWith("Location"));
         if (!dialog)
