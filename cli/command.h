@@ -23,6 +23,7 @@ int runEngines(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
 int runFormats(const QStringList &arguments);
+int runGet(const QStringList &arguments);
 int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runPresets(const QStringList &arguments);

@@ -251,8 +251,7 @@ void MRVDownloadUrl::awaitBytes()
 void MRVDownloadUrl::onTimeout()
 {
     if (m_reply) {
-        fail(tr("The server has sent nothing for %n second(s)", nullptr,
-                qMax(1, m_transferTimeout / 1000)));
+        fail(tr("The server has sent nothing for %1 s").arg(m_transferTimeout / 1000.0));
     } else {
         endWith(m_failure);
     }
