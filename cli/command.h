@@ -23,6 +23,7 @@ int runEngines(const QStringList &arguments);
 int runExport(const QStringList &arguments);
 int runFind(const QStringList &arguments);
 int runFormats(const QStringList &arguments);
+int runGet(const QStringList &arguments);
 int runMeasure(const QStringList &arguments);
 int runNotes(const QStringList &arguments);
 int runPresets(const QStringList &arguments);
@@ -30,6 +31,7 @@ int runReplace(const QStringList &arguments);
 int runScript(const QStringList &arguments);
 int runSettings(const QStringList &arguments);
 int runShortcuts(const QStringList &arguments);
+int runUpdate(const QStringList &arguments);
 int runXml(const QStringList &arguments);
 
 /** Prints "mrv: text" to standard error as one line. */

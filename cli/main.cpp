@@ -19,6 +19,7 @@ constexpr Command commands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
     {"formats", "list file formats and what can be done with them", runFormats},
+    {"get", "download a page or a file", runGet},
     {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
     {"presets", "show, export and import text presets", runPresets},
@@ -26,6 +27,7 @@ constexpr Command commands[] = {
     {"script", "list, show and check script modes", runScript},
     {"settings", "show and change the application's preferences", runSettings},
     {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
+    {"update", "check an update feed for a newer version", runUpdate},
     {"xml", "read and edit XML files by paths", runXml},
 };
 

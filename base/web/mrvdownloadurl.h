@@ -1,0 +1,178 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <QUrl>
+#include <QVector>
+
+#include <functional>
+
+class MRVDownloadUserInputAbstract;
+
+/**
+ * Downloads one URL at a time, as bytes or into a file.
+ *
+ * Each request that was started ends with exactly one final signal, which never comes before
+ * download() has returned: downloadError(), or, where all is well, downloadSuccess(QByteArray) for a
+ * request of bytes and downloadSuccess(QString) for one of a file. A request of a file also delivers
+ * its bytes, before the file is written, so that a receiver of the bytes has them even where writing
+ * fails. Only a request that is dropped, by starting another one or by deleting this object, says no
+ * more. Any receiver may start the next request, or delete this object.
+ *
+ * Servers are asked not to compress, so that each body can be checked against its length; one that
+ * comes compressed all the same is delivered as it came.
+ *
+ * Only http and https addresses are fetched, at the first request and at each redirect. Redirects are
+ * followed where the user-input handler says so; one from https to http also needs the handler's
+ * ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them connects
+ * sslErrors() of networkAccessManager(). GUI thread only.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVDownloadUrl : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Default of setTransferTimeout(), in milliseconds. */
+    static constexpr int DefaultTransferTimeout = 30000;
+    /** Default of setMaximumSize(), and the most that it takes: 1 GiB. */
+    static constexpr qint64 LargestSize = qint64(1) << 30;
+
+    explicit MRVDownloadUrl(QObject *parent = nullptr);
+    ~MRVDownloadUrl() override;
+
+    /**
+     * The name under which @p url is stored: what follows the last "/" of its path, percent-decoded, or
+     * "index.html" where nothing does; ".html" is appended to a name without a suffix. The name holds
+     * no "/", and is never "." or "..".
+     *
+     * @param folder created where it is missing, and put before the name, which is absolute then; empty
+     *               gives the bare name.
+     */
+    static QString fileForUrl(const QString &folder, const QUrl &url);
+
+    /** The same in the download folder. */
+    QString fileForUrl(const QUrl &url) const;
+
+    /** The folder of downloadToFile(QUrl); empty, as at first, means the current one. */
+    void setDownloadFolder(const QString &folder);
+
+    /**
+     * @param handler must outlive the requests; is not owned. Null, as at first, gives up at once where a
+     *                password is asked for, and follows no redirect: the redirect's own body is the result.
+     */
+    void setUserInputHandler(MRVDownloadUserInputAbstract *handler);
+
+    /**
+     * After how many milliseconds without a single byte a request fails; 0 or less waits for ever. The
+     * time that the handler takes for its answers does not count. Holds from the next request on.
+     */
+    void setTransferTimeout(int milliseconds);
+    int transferTimeout() const { return m_transferTimeout; }
+
+    /** The largest body to accept, in bytes; kept within 0 and LargestSize. */
+    void setMaximumSize(qint64 bytes);
+    qint64 maximumSize() const { return m_maximumSize; }
+
+    /** Owned by this object; for proxies, cookies and SSL errors. */
+    QNetworkAccessManager *networkAccessManager() const { return m_manager; }
+
+    /** The address of the last request, after redirects. */
+    QUrl url() const { return m_url; }
+
+    /** The Content-Type of the last body that was delivered; empty where the server named none. */
+    QString contentType() const { return m_contentType; }
+
+    /**
+     * The text after "charset=" up to the next ";" or the end, as it stands there: quotes and blanks are
+     * kept, case matters. Empty where there is none.
+     */
+    static QString charset(const QString &contentType);
+
+    /**
+     * Encodes text anew. @p data is returned unchanged where a name is empty or unknown, or both name one
+     * encoding. Blanks and quotes around a name do not matter.
+     *
+     * The encoding is the one named, whatever the first bytes look like. What is no text in it becomes
+     * U+FFFD. Needs little more memory than the bytes and the result.
+     */
+    static QByteArray convert(const QByteArray &data, const QString &fromCharset,
+                              const QString &toCharset);
+
+public Q_SLOTS:
+    /**
+     * Starts a request of bytes; after downloadToFile(), one that writes the same file again.
+     * A running request is dropped in any case.
+     *
+     * @return false, without any signal, where @p url is not valid. Any other address that cannot be
+     *         fetched ends with downloadError().
+     */
+    bool download(const QUrl &url);
+
+    /** Starts a request of fileForUrl(url), which is replaced where it exists. */
+    bool downloadToFile(const QUrl &url);
+
+    /**
+     * Starts a request of a file. It appears, or is replaced, when it is whole; before that nothing of
+     * it is on the disk.
+     *
+     * @return false, without any signal, for an empty name (a running request goes on) or a URL that is
+     *         not valid.
+     */
+    bool downloadToFile(const QUrl &url, const QString &fileName);
+
+    /** Ends the running request, if any, with downloadError() before it returns. */
+    void cancelDownload();
+
+Q_SIGNALS:
+    /** @param totalBytes -1 where the server does not say. */
+    void downloadProgress(qint64 bytesRead, qint64 totalBytes);
+    /** @param error a translated text for the user. */
+    void downloadError(QString error);
+    void downloadSuccess(QString filePath);
+    /** @param data in UTF-8 where the server named the charset of a text. */
+    void downloadSuccess(QByteArray data);
+
+private Q_SLOTS:
+    void onReplyFinished();
+    void onReplyError();
+    void onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator);
+    void onNetworkAccessibleChanged(int accessibility);
+
+private:
+    void start();
+    void dropReply();
+    void onMetaData();
+    void onTimeout();
+    void awaitBytes();
+    void collect();
+    bool isCutShort() const;
+    bool ask(const std::function<bool()> &question);
+    void redirect(const QUrl &target);
+    void deliver();
+    void fail(const QString &error);
+    void endWith(const QString &error);
+
+    QUrl m_url;
+    QNetworkAccessManager *m_manager;
+    QNetworkReply *m_reply = nullptr;
+    bool m_aborted = false;
+    QString m_fileName;
+    QString m_downloadFolder;
+    MRVDownloadUserInputAbstract *m_userInput = nullptr;
+
+    QTimer m_timer; // waits for bytes; without a reply, to report m_failure
+    int m_transferTimeout = DefaultTransferTimeout;
+    qint64 m_maximumSize = LargestSize;
+    QByteArray m_data;
+    QString m_contentType;
+    QString m_failure; // why this object gave up the request, which is said in place of "canceled"
+    QVector<QNetworkReply *> m_asking; // those that a handler is being asked about
+};

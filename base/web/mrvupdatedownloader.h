@@ -1,0 +1,84 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+class MRVCheckForUpdatesDialog;
+class MRVDownloadUrl;
+class MRVRedirectPolicy;
+class MRVUpdateModel;
+
+/**
+ * Runs one update check from its start to its end: fetches the feed, lets the model judge it, shows the dialog when there is
+ * something to show, fetches the installer when the user asks for it, and tells when it is to be opened.
+ *
+ * A check ends once, with finished() or with installRequested(QString), and can then be deleted; it needs a QApplication.
+ * Redirects are followed ten times at most, on http and https only, and never from https down to http; anything else ends
+ * the download with an error. Nobody is asked for a password.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVUpdateDownloader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MRVUpdateDownloader(QObject *parent = nullptr);
+    ~MRVUpdateDownloader() override;
+
+    /**
+     * Fetches the feed.
+     *
+     * @param silent whether only a newer version is worth a word.
+     * @return false when that cannot even begin. The check has then told why, unless it is silent, and has ended.
+     */
+    bool startUpdate(bool silent);
+    /** Whether nothing is shown as long as nothing newer is found; not any more once the dialog has been shown. */
+    bool isSilent() const { return m_silent; }
+    /** The user has asked for the check that is running: shows the dialog, and from now on tells what happens. */
+    void disableSilent();
+    /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
+    bool setPublicKey(const QByteArray &key);
+
+public Q_SLOTS:
+    /** Ends the check, with a warning unless it is silent. */
+    void errorMsg(const QString &error);
+    /** The feed has been judged. */
+    void updateAvailable(bool available);
+    /** Does nothing before a newer version is known; it is then fetched at once. */
+    void downloadInstaller();
+    /** Checks that the installer is still the one that was found sound, and hands it over. */
+    void installRequested();
+    void cancelUpdate();
+
+Q_SIGNALS:
+    void installRequested(QString exeFilePath);
+    void finished();
+    void updateChecked();
+
+private:
+    enum class Step { Feed, Installer, Signature };
+
+    bool download(Step step, const QString &url, const QString &path);
+    void removePlantedLink();
+    void onDownloaded();
+    void onInstallerDownloaded();
+    void tellDownloadError(const QString &error);
+    void showDialog();
+
+    bool m_silent = true;
+    QPointer<MRVCheckForUpdatesDialog> m_dialog;
+    MRVUpdateModel *m_model;
+    MRVDownloadUrl *m_downloader = nullptr;
+    std::unique_ptr<MRVRedirectPolicy> m_redirects;
+    Step m_step = Step::Feed;
+    QString m_path; // of the file that is being downloaded
+    bool m_ended = false;
+    bool m_isTelling = false; // a fault, which ends the check
+    bool m_installerWanted = false; // asked for before the feed was judged
+};

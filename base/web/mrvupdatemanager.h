@@ -1,0 +1,75 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class MRVUpdateDownloader;
+class QAction;
+class QMenu;
+
+/**
+ * The application's update checks: the menu action for them, the check at start-up, and the opening of the installer.
+ *
+ * One check runs at a time. The preferences and the time of the last check are in the user's settings of the application's
+ * organisation and name, under the keys below; for an application that is neither "Morvane" nor "Fernwick" these are empty,
+ * and nothing is checked at start-up. A preference that is not under its key is looked for where the application's options
+ * keep it, under "Options/" and the key.
+ *
+ * Needs a QApplication.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVUpdateManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /**
+     * The one manager, owned by the application object. The first call makes it; where checks are on, and the last one is
+     * as many days ago as the interval says, or was never made, a silent check is then made after five seconds.
+     */
+    static MRVUpdateManager *instance();
+    /** Deletes the manager, and a check that is running. */
+    static void release();
+
+    ~MRVUpdateManager() override;
+
+    /** Adds the action "Check for Updates..." to a menu; it stays the manager's. */
+    void setupMenuActions(QMenu *menu);
+
+    /**
+     * From now on installers must carry a signature of this key; see MRVUpdateModel::setPublicKey(). To be called before a
+     * check is made, as right after the first instance().
+     */
+    bool setPublicKey(const QByteArray &key);
+
+    /** Whether to check at start-up: bool, false when absent. */
+    static QString checkForUpdatesKey();
+    /** Days between two checks: int, 0 when absent, which means to check at each start-up. */
+    static QString checkForUpdatesIntervalKey();
+    /** When the feed was last judged: date-time. */
+    static QString lastCheckForUpdatesKey();
+
+public Q_SLOTS:
+    /** Checks, and tells what comes of it. A silent check that is running becomes such a check. */
+    void checkForUpdates();
+    /** Checks, and tells of a newer version only. */
+    void checkForUpdatesSilent();
+    void onUpdateFinished();
+    /** Closes all windows of the application, and opens the installer with what the desktop has for it. */
+    void onInstallUpdateRequested(const QString &exeFilePath);
+    void onUpdateChecked();
+
+private:
+    explicit MRVUpdateManager(QObject *parent);
+    void doCheckForUpdates(bool silent);
+    void forgetDownloader();
+
+    QAction *m_action;
+    QPointer<MRVUpdateDownloader> m_downloader;
+    QByteArray m_publicKey;
+};

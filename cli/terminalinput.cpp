@@ -1,0 +1,139 @@
+#include "terminalinput.h"
+
+#include "command.h"
+
+#include <cstdio>
+
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+// A loop of redirects has to end without anybody there, too.
+constexpr int MaxRedirects = 20;
+constexpr int MaxPasswords = 3;
+
+bool isSameServer(const QUrl &one, const QUrl &other)
+{
+    const int port = one.scheme() == QLatin1String("https") ? 443 : 80;
+    return one.scheme() == other.scheme() && one.host() == other.host()
+        && one.port(port) == other.port(port);
+}
+
+bool isYes(const QString &answer)
+{
+    return answer.trimmed().startsWith(u'y', Qt::CaseInsensitive);
+}
+
+// Typing is not shown as long as this lives.
+class HiddenTyping
+{
+public:
+    HiddenTyping()
+    {
+        tcgetattr(STDIN_FILENO, &m_before);
+        termios hidden = m_before;
+        hidden.c_lflag &= ~tcflag_t(ECHO);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
+    }
+    ~HiddenTyping() { tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
+    Q_DISABLE_COPY(HiddenTyping)
+
+private:
+    termios m_before{};
+};
+
+QString readLine()
+{
+    QByteArray line;
+    for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar())
+        line.append(char(c));
+    return QString::fromLocal8Bit(line);
+}
+
+} // namespace
+
+bool canAsk()
+{
+    return isatty(STDIN_FILENO) && isatty(STDERR_FILENO);
+}
+
+QString askLine(const QString &prompt, bool isSecret)
+{
+    if (!canAsk())
+        return QString();
+    showProgress(printable(prompt));
+    if (!isSecret)
+        return readLine();
+    const HiddenTyping hidden;
+    const QString line = readLine();
+    std::fputc('\n', stderr);
+    return line;
+}
+
+QString printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format)
+            c = u' ';
+    }
+    return text;
+}
+
+TerminalInput::TerminalInput(const Answers &answers, MRVDownloadUrl *download, const QUrl &url)
+    : m_answers(answers)
+    , m_download(download)
+    , m_first(url)
+{
+}
+
+bool TerminalInput::refuse(const QString &reason)
+{
+    m_reason = reason;
+    return false;
+}
+
+bool TerminalInput::authenticate(const QString &realm, const QUrl &url, QString *user,
+                                 QString *password)
+{
+    const int count = ++m_passwords;
+    // A password is for the server that it was given for, and not for where that one sends us.
+    const bool isOurs = isSameServer(url, m_first);
+    if (isOurs && !m_answers.user.isEmpty())
+        *user = m_answers.user;
+    if (isOurs && !m_answers.password.isNull()) {
+        *password = m_answers.password;
+        return count == 1 || refuse(QStringLiteral("the user name or the password is wrong"));
+    }
+    if (!canAsk() || count > MaxPasswords)
+        return refuse(QStringLiteral("'%1' asks for a password").arg(realm));
+    if (user->isEmpty())
+        *user = askLine(QStringLiteral("User name for '%1' at %2: ").arg(realm, url.host()));
+    *password = askLine(
+        QStringLiteral("Password of %1 for '%2' at %3: ").arg(*user, realm, url.host()), true);
+    return true;
+}
+
+bool TerminalInput::redirectTo(const QUrl &url)
+{
+    const QString target = url.toDisplayString();
+    const bool isEndless = m_redirects.size() == MaxRedirects;
+    if (!isEndless
+        && (m_answers.follow
+            || isYes(askLine(QStringLiteral("Redirect to %1 ? [y/N] ").arg(target))))) {
+        m_redirects.append(target);
+        m_passwords = 0;
+        return true;
+    }
+    refuse(isEndless ? QStringLiteral("there are more than %1 redirects").arg(MaxRedirects)
+                     : QStringLiteral("it redirects to %1; --follow goes there").arg(target));
+    // Otherwise the page that tells of the redirect would be the result.
+    m_download->cancelDownload();
+    return false;
+}
+
+bool TerminalInput::ignoreSslErrors(const QStringList &errors)
+{
+    return m_answers.insecure
+        || refuse(errors.join(QLatin1String("; ")) + QLatin1String("; --insecure goes on"));
+}

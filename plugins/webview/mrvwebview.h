@@ -1,0 +1,16 @@
+#pragma once
+
+#include "web/mrvwebviewfactory.h"
+
+#include <QObject>
+
+/** Makes release-notes views of QtWebKit. */
+class MRVWebView : public QObject, public MRVWebViewFactory
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID MRVWebViewFactory_iid)
+    Q_INTERFACES(MRVWebViewFactory)
+
+public:
+    QWidget *create(const QUrl &page, QWidget *parent) override;
+};

@@ -1,0 +1,83 @@
+#include "datarows.h"
+#include "rawserver.h"
+#include "support.h"
+
+#include <QTemporaryDir>
+
+/** The command that downloads, run as a stranger would. */
+class tst_MrvGet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void get_data()
+    {
+        addRows("mrv-get.tsv",
+                {"case", "arguments", "input", "code", "output", "error", "file", "bytes"});
+    }
+    void get();
+
+private:
+    RawServer m_server;
+    RawServer m_other;
+};
+
+void tst_MrvGet::initTestCase()
+{
+    const QByteArray ok = "HTTP/1.1 200 OK\r\n";
+    const QByteArray found = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: ";
+    const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
+                              "WWW-Authenticate: Basic realm=\"Drafts\"\r\n\r\n";
+    m_server.answer("/page", ok + "\r\nhello");
+    m_server.answer("/raw", ok + "\r\n\xf0");
+    m_server.answer("/latin", ok + "Content-Type: text/plain; charset=\"latin1\"\r\n\r\n\xe9");
+    m_server.answer("/russian", ok + "Content-Type: text/plain; charset=koi8-r\r\n\r\n\xf0");
+    m_server.answer("/moved", found + "/page\r\n\r\n");
+    m_server.answer("/loop", found + "/loop\r\n\r\n");
+    m_server.answer("/away", found + m_other.answer("/x", locked).toEncoded() + "\r\n\r\n");
+    m_server.answer("/locked", locked);
+    m_server.answer("/stalled", {}, RawServer::Stall);
+    m_server.answer("/escape", "HTTP/1.1 404 \x1b[2J\r\n\r\n");
+}
+
+void tst_MrvGet::get()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, input);
+    QFETCH(QString, file);
+    QTemporaryDir folder;
+    const QString host = m_server.url(QString()).toString();
+    arguments.replace('@', host).replace('#', folder.path() + '/');
+    QProcess tool;
+    tool.setWorkingDirectory(folder.path());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("GET_PASSWORD", "pass");
+    tool.setProcessEnvironment(environment);
+    tool.start(MRV_TOOL, QStringList{"get"} + arguments.split(' '));
+    tool.write(input.toUtf8());
+    tool.closeWriteChannel();
+    // The server answers from this thread.
+    QTRY_COMPARE_WITH_TIMEOUT(tool.state(), QProcess::NotRunning, 60000);
+
+    const auto said = [&](const QByteArray &bytes) {
+        return QString::fromUtf8(bytes)
+            .trimmed()
+            .replace(folder.path() + '/', "#")
+            .replace(host, "@");
+    };
+    QTEST(said(tool.readAllStandardError()).remove("mrv: "), "error");
+    QTEST(said(tool.readAllStandardOutput()), "output");
+    QTEST(QString::number(tool.exitCode()), "code");
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+             file.isEmpty() ? QStringList() : QStringList(file));
+    QTEST(QString::fromLatin1(bytesOf(folder.filePath(file))), "bytes");
+    const QByteArray password = "Basic " + QByteArray("ann:pass").toBase64();
+    const QByteArray requests = m_server.requests().join();
+    if (arguments.contains("locked --user"))
+        QVERIFY(requests.contains(password));
+    QVERIFY(!m_other.requests().join().contains("Authorization"));
+}
+
+QTEST_GUILESS_MAIN(tst_MrvGet)
+#include "tst_mrvget.moc"

@@ -1,0 +1,56 @@
+#include "datarows.h"
+#include "support.h"
+
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+
+/** The tool's update check, run as a stranger would. */
+class TestMrvUpdate : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commands_data()
+    {
+        addRows("mrv-update.tsv", {"case", "feed", "arguments", "code", "output", "error"});
+    }
+    // "-" and "@f" are the feed, "@web" is a server that sends on from /loop, and the feed from elsewhere.
+    void commands()
+    {
+        QFETCH(QString, feed);
+        QFETCH(QString, arguments);
+        QFETCH(QString, output);
+        QFETCH(QString, error);
+        QTemporaryDir folder;
+        const QString file = folder.filePath("f");
+        QVERIFY(writeBytes(file, feed.toUtf8()));
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        connect(&server, &QTcpServer::newConnection, [&] {
+            QTcpSocket *socket = server.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [=] {
+                const bool loops = socket->readAll().startsWith("GET /loop ");
+                socket->write(loops ? "HTTP/1.0 302 Found\r\nLocation: /loop\r\n\r\n"
+                                    : "HTTP/1.0 200 OK\r\n\r\n" + feed.toUtf8());
+                socket->disconnectFromHost();
+            });
+        });
+        const QString web = QString("http://127.0.0.1:%1").arg(server.serverPort());
+        for (QString *text : {&arguments, &output, &error})
+            text->replace("@f", file).replace("@web", web);
+
+        QProcess tool;
+        tool.start(MRV_TOOL, QStringList("update") + arguments.split(' ', Qt::SkipEmptyParts));
+        tool.write(feed.toUtf8());
+        tool.closeWriteChannel();
+        QTRY_COMPARE(tool.state(), QProcess::NotRunning);
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()), output);
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardError()),
+                 error.isEmpty() ? error : "mrv: update: " + error + '\n');
+        QTEST(QString::number(tool.exitCode()), "code");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMrvUpdate)
+#include "tst_mrvupdate.moc"

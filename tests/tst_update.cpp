@@ -1,0 +1,514 @@
+#include "datarows.h"
+#include "support.h"
+#include "web.h"
+
+#include "network/mrvnetwork.h"
+#include "web/mrvcheckforupdatesdialog.h"
+#include "web/mrvredirectpolicy_p.h"
+#include "web/mrvupdatedownloader.h"
+#include "web/mrvupdatemanager.h"
+#include "web/mrvupdatemodel.h"
+#include "web/mversion.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// All that a model tells, in order.
+class Told : public QStringList
+{
+public:
+    explicit Told(const MRVUpdateModel &model)
+    {
+        using M = MRVUpdateModel;
+        QObject::connect(&model, &M::updateAvailable,
+                         [this](bool yes) { append(QString("available %1").arg(yes)); });
+        QObject::connect(&model, &M::versions, [this](const QString &a, const QString &b) {
+            append("versions " + a + ' ' + b);
+        });
+        QObject::connect(&model, &M::updateError,
+                         [this](const QString &text) { append("error " + text); });
+        QObject::connect(&model, &M::readyToInstall, [this] { append("ready"); });
+    }
+};
+
+// Closes each message box as soon as it opens, and keeps what it said.
+class Boxes : public QTimer
+{
+public:
+    explicit Boxes(QStringList *said)
+    {
+        callOnTimeout([said] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                said->append(box->windowTitle() + ": " + box->text());
+                box->accept();
+            }
+        });
+        start(5);
+    }
+};
+
+bool isOnline = true;
+
+MRVCheckForUpdatesDialog *shownDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog")
+            return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
+    }
+    return nullptr;
+}
+
+bool isOver()
+{
+    return !qApp->findChild<MRVUpdateDownloader *>();
+}
+
+} // namespace
+
+// In place of the platform's, as an application may bring its own.
+bool MrvNetwork::isNetworkConnected()
+{
+    return isOnline;
+}
+
+class TestUpdate : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    // In place of the desktop.
+    void open(const QUrl &url)
+    {
+        const QString path = m_folder->filePath("morvane.run");
+        QCOMPARE(url.toLocalFile(), path);
+        QVERIFY(!QFileInfo(path).isSymLink());
+        QCOMPARE(bytesOf(path), bytesOf(data + "morvane.run"));
+        m_heard->append("opened " + url.fileName());
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>("/tmp/tst_update-XXXXXX");
+        QVERIFY(m_folder->isValid());
+        qputenv("TMPDIR", QFile::encodeName(m_folder->path()));
+        QCoreApplication::setApplicationName("Morvane");
+        QCoreApplication::setOrganizationName("Morvane");
+        QCoreApplication::setApplicationVersion("2.9.0.0");
+    }
+
+    void betas_data() { addRows("update-versions.tsv", {"version", "beta"}); }
+    void betas()
+    {
+        QFETCH(QString, version);
+        QFETCH(QString, beta);
+        QCOMPARE(MVersion::isBetaVersion(version), beta == "yes");
+        QCoreApplication::setApplicationVersion(version);
+        QCOMPARE(MVersion::versionLabel().startsWith("Version: " + version + " beta ("),
+                 MVersion::isBetaVersion());
+    }
+
+    void versionTexts()
+    {
+        QCoreApplication::setApplicationVersion("2.9");
+        const QString bits = MVersion::appPlatform() == "x86_64" ? "64" : "32";
+        const QRegularExpression label("^Version: 2\\.9 \\(" + bits
+                                       + " bit\\) - \\d\\d \\w+ 20\\d\\d$");
+        QVERIFY2(label.match(MVersion::versionLabel()).hasMatch(),
+                 qPrintable(MVersion::versionLabel()));
+        const QStringList blocks = MVersion::versionInfo("more").split("\n\n");
+        QCOMPARE(blocks.size(), 3);
+        QVERIFY(blocks[0].startsWith(
+            "Application: Morvane\nVersion: 2.9\nBuild: Release\nExecutable: /"));
+        QVERIFY(blocks[1].contains(QString("\nQt-Runtime: ") + qVersion() + "\nCreated: "));
+        QCOMPARE(blocks[2], QString("more"));
+    }
+
+    void userRights_data()
+    {
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("rights");
+        QTest::addColumn<bool>("elsewhere");
+        QTest::newRow("not-recorded") << "" << false << false;
+        QTest::newRow("here") << QCoreApplication::applicationDirPath() << false << false;
+        QTest::newRow("program") << QCoreApplication::applicationFilePath() << false << false;
+        QTest::newRow("above") << QFileInfo(QCoreApplication::applicationDirPath()).path() << false
+                               << false;
+        QTest::newRow("gone") << "/nowhere" << false << true;
+        QTest::newRow("not-ours") << "/usr/share" << true << true;
+    }
+    void userRights()
+    {
+        QFETCH(QString, location);
+        QFETCH(bool, rights);
+        QSettings("Morvane", "Morvane").setValue("Location", location);
+        // The superuser may write anywhere.
+        const uid_t user = getuid();
+        if (rights && user == 0)
+            QCOMPARE(setreuid(65534, 0), 0);
+        const auto clean = qScopeGuard([user] {
+            QSettings("Morvane", "Morvane").clear();
+            if (user == 0 && setreuid(0, 0) != 0)
+                qFatal("no superuser any more");
+        });
+        bool warnsOfRights = true;
+        bool warnsOfPlace = true;
+        QString recorded;
+        MVersion::checkCurrentUserRights(&warnsOfRights, &warnsOfPlace, &recorded, true);
+        QTEST(warnsOfPlace, "elsewhere");
+        QVERIFY(location.startsWith(recorded));
+        QCOMPARE(warnsOfRights, rights);
+        QSettings("Morvane", "Morvane").setValue("Location", "/nowhere");
+        QCOMPARE(MVersion::currentUserNeedsAdminRights(), warnsOfRights); // remembered
+    }
+
+    void feeds_data() { addRows("update-feeds.tsv", {"case", "running", "feed", "told"}); }
+    void feeds()
+    {
+        QFETCH(QString, running);
+        QFETCH(QString, feed);
+        QFETCH(QString, told);
+        QCoreApplication::setApplicationVersion(running);
+        MRVUpdateModel model;
+        const Told heard(model);
+        QCOMPARE(model.xmlFilePath(), m_folder->filePath("update.xml"));
+        if (!feed.isEmpty())
+            QVERIFY(writeBytes(model.xmlFilePath(), feedOf(feed)));
+        model.readXML();
+        QCOMPARE(heard.join(';'), told.replace("@tmp", m_folder->path()));
+        QCOMPARE(model.isNewerAvailable(), told.endsWith("available 1"));
+        if (model.isNewerAvailable())
+            QCOMPARE(model.downloadURL(),
+                     "http://d/" + QFileInfo(model.downloadFilePath()).fileName());
+    }
+
+    // The name with a backslash is looked at first, and only where it exists.
+    void feedWithBackslash()
+    {
+        MRVUpdateModel model;
+        const Told heard(model);
+        QVERIFY(writeBytes(model.xmlFilePath(), feedOf("1.0.0.0|m|http://d/")));
+        const QString other = m_folder->path() + "\\update.xml";
+        QVERIFY(writeBytes(other, feedOf("3.0.0.0|m|http://d/")));
+        model.readXML();
+        QFile::remove(other);
+        QCOMPARE(heard.last(), QString("available 1"));
+    }
+
+    void installers_data()
+    {
+        addRows("update-installers.tsv", {"case", "installer", "signature", "key", "told"});
+    }
+    void installers()
+    {
+        QFETCH(QString, installer);
+        QFETCH(QString, signature);
+        QFETCH(QString, key);
+        QFETCH(QString, told);
+        MRVUpdateModel model;
+        QVERIFY(writeBytes(model.xmlFilePath(), feedOf("3.0.0.0|morvane.run|http://d/")));
+        if (!key.isEmpty())
+            QCOMPARE(model.setPublicKey(key == "key" ? bytesOf(data + "key.pub") : key.toUtf8()),
+                     key == "key");
+        model.readXML();
+        const Told heard(model);
+        if (!installer.isEmpty())
+            QVERIFY(writeBytes(model.downloadFilePath(),
+                               installer.startsWith('@')
+                                   ? bytesOf(data + installer.mid(1))
+                                   : QByteArray(installer.toInt(), 'x') + "404 Not Found"));
+        const QString change = signature.section(' ', 1);
+        QByteArray bytes = bytesOf(data + signature.section(' ', 0, 0));
+        bytes.replace(change.section('=', 0, 0).toUtf8(), change.section('=', 1).toUtf8());
+        if (!signature.isEmpty())
+            QVERIFY(writeBytes(model.signatureFilePath(), bytes));
+        model.readEXE();
+        QCOMPARE(heard.join(';'), told.replace("@tmp", m_folder->path()));
+        QCOMPARE(model.isInstallerUnchanged(), told == "ready");
+        QVERIFY(writeBytes(model.downloadFilePath(), "other"));
+        QVERIFY(!model.isInstallerUnchanged());
+    }
+
+    void checks_data()
+    {
+        addRows("update-checks.tsv", {"case", "plant", "feed", "installer", "signature", "said"});
+    }
+    void checks()
+    {
+        QFETCH(QString, plant);
+        QFETCH(QString, feed);
+        QFETCH(QString, installer);
+        QFETCH(QString, signature);
+        QFETCH(QString, said);
+        Web web;
+        web.answers = {{"/update.xml", feed},
+                       {"/morvane.run", installer},
+                       {"/morvane.run.minisig", signature}};
+        plantIn(plant.replace("@tmp", m_folder->path()));
+        QStringList heard;
+        const Boxes boxes(&heard);
+        auto *manager = MRVUpdateManager::instance();
+        const QByteArray key = plant == "bad-key" ? "RWS" : bytesOf(data + "key.pub");
+        if (!signature.isEmpty())
+            QCOMPARE(manager->setPublicKey(key), plant != "bad-key");
+        if (plant == "silent" || plant == "offline")
+            manager->checkForUpdatesSilent();
+        QMenu menu;
+        manager->setupMenuActions(&menu);
+        menu.actions().constFirst()->trigger();
+        QTRY_VERIFY(isOver() || shownDialog());
+        drive(plant, &heard);
+        QTRY_VERIFY(isOver() && !shownDialog());
+        QCOMPARE(heard.join(';'), said.replace("@tmp", m_folder->path()));
+        QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
+        QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
+    }
+
+    void endsEarly_data()
+    {
+        QTest::addColumn<bool>("installer");
+        QTest::addColumn<bool>("cancels");
+        QTest::newRow("feed-released") << false << false;
+        QTest::newRow("installer-released") << true << false;
+        QTest::newRow("installer-cancelled") << true << true;
+    }
+    // Nothing is said, left behind or used after its end.
+    void endsEarly()
+    {
+        QFETCH(bool, installer);
+        QFETCH(bool, cancels);
+        Web web;
+        web.answers = {
+            {"/update.xml", installer ? "3.0.0.0|morvane.run|http://d.example/" : "wait"},
+            {"/morvane.run", "wait"}};
+        plantIn(QString());
+        QStringList heard;
+        const Boxes boxes(&heard);
+        MRVUpdateManager::instance()->checkForUpdates();
+        if (installer) {
+            QTRY_VERIFY(shownDialog());
+            QTest::keyClick(shownDialog(), Qt::Key_Return);
+        }
+        QTRY_VERIFY(web.asked.contains(installer ? "/morvane.run" : "/update.xml"));
+        if (cancels)
+            shownDialog()->close();
+        else
+            MRVUpdateManager::release();
+        QTRY_VERIFY(isOver() && !shownDialog());
+        QCOMPARE(heard, QStringList());
+        QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
+        web.asked.clear();
+        MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
+        QTRY_VERIFY(web.asked.contains("/update.xml"));
+    }
+
+    void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }
+    void starts()
+    {
+        QFETCH(QString, settings);
+        QFETCH(QString, due);
+        QFETCH(QString, feed);
+        QSettings store("Morvane", "Morvane");
+        for (const QString &setting : settings.split(';', Qt::SkipEmptyParts)) {
+            const QString value = setting.section('=', 1);
+            const QDateTime now = QDateTime::currentDateTime();
+            store.setValue(setting.section('=', 0, 0),
+                           value.endsWith(" days")
+                               ? QVariant(now.addDays(-value.section(' ', 0, 0).toInt()))
+                               : QVariant(value));
+        }
+        store.sync();
+        Web web;
+        web.answers = {{"/update.xml", feed}};
+        QStringList heard;
+        const Boxes boxes(&heard);
+        auto *timer = MRVUpdateManager::instance()->findChild<QTimer *>();
+        QCOMPARE(timer && timer->isActive(), due != "no");
+        if (!timer)
+            return;
+        QVERIFY(timer->isSingleShot());
+        QCOMPARE(timer->interval(), 5000);
+        const QString key = MRVUpdateManager::lastCheckForUpdatesKey();
+        store.remove(key);
+        store.sync();
+        timer->start(0);
+        QTRY_VERIFY(web.asked.contains("/update.xml"));
+        QTRY_VERIFY(isOver() || shownDialog());
+        QCOMPARE(shownDialog() != nullptr, due == "shown");
+        QCOMPARE(heard, QStringList());
+        QCOMPARE(store.value(key).toDate(), due == "failed" ? QDate() : QDate::currentDate());
+    }
+
+    void redirects_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("followed");
+        QTest::newRow("secure") << "https://a https://b" << true;
+        QTest::newRow("plain") << "http://a http://b" << true;
+        QTest::newRow("up") << "http://a https://b" << true;
+        QTest::newRow("down") << "https://a http://b" << false;
+        QTest::newRow("up-and-down") << "http://a https://b http://c" << false;
+        QTest::newRow("other") << "http://a ftp://b" << false;
+    }
+    void redirects()
+    {
+        QFETCH(QString, way);
+        MRVRedirectPolicy policy;
+        policy.start(QUrl(way.section(' ', 0, 0)));
+        bool isFollowed = true;
+        for (const QString &url : way.split(' ').mid(1))
+            isFollowed = policy.redirectTo(QUrl(url));
+        QCOMPARE(policy.hasRefused(), !isFollowed);
+        QTEST(isFollowed, "followed");
+        QVERIFY(!policy.authenticate("", QUrl(), nullptr, nullptr));
+        QVERIFY(!policy.ignoreSslErrors({"expired"}));
+    }
+
+    void keys()
+    {
+        using M = MRVUpdateManager;
+        const auto all = [](const char *application) {
+            QCoreApplication::setApplicationName(application);
+            return QStringList{M::checkForUpdatesKey(), M::checkForUpdatesIntervalKey(),
+                               M::lastCheckForUpdatesKey()}
+                .join(' ');
+        };
+        QCOMPARE(all("Morvane"),
+                 QString("General/checkForUpdates General/checkForUpdatesInterval "
+                         "General/lastCheckForUpdates"));
+        QCOMPARE(all("Fernwick"),
+                 QString("Options/CheckForUpdates Options/CheckForUptatesIntervalDays "
+                         "Options/CheckForUptatesLastDateTime"));
+        QCOMPARE(all("Other"), QString("  "));
+    }
+
+    void dialog()
+    {
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+        MRVCheckForUpdatesDialog dialog("");
+        auto *bar = dialog.findChild<QProgressBar *>("progressBar");
+        auto *status = dialog.findChild<QLabel *>("statusLabel");
+        auto *download = dialog.findChild<QPushButton *>("downloadButton");
+        QVERIFY(dialog.findChild<QWidget *>("webView"));
+        QVERIFY(!dialog.findChild<QLabel *>("appLogo")->pixmap(Qt::ReturnByValue).isNull());
+        dialog.show();
+        dialog.versions("2.9", "%1");
+        QVERIFY(status->text().startsWith(
+            "You are currently running Morvane 2.9. Version %1 is available.\n\nClick"));
+        dialog.updateDownloadProgress(30, -1);
+        QCOMPARE(bar->maximum(), 0);
+        dialog.updateDownloadProgress(qint64(3) << 30, qint64(6) << 30);
+        QCOMPARE(double(bar->value()) / bar->maximum(), 0.5);
+        QSignalSpy wanted(&dialog, &MRVCheckForUpdatesDialog::downloadRequested);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(wanted.count(), 1);
+        QCOMPARE(download->text(), QString("Downloading Update"));
+        QVERIFY(!download->isEnabled());
+        dialog.errorMsg("<b>lost</b>");
+        QCOMPARE(status->text(), QString("<b>lost</b>"));
+        dialog.updateDownloadProgress(1, 2);
+        QVERIFY(bar->isHidden());
+        QSignalSpy rejected(&dialog, &QDialog::rejected);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(rejected.count(), 1);
+        QCoreApplication::setApplicationName("Fernwick");
+        QVERIFY(MRVCheckForUpdatesDialog::logoImage()
+                != dialog.findChild<QLabel *>("appLogo")->pixmap(Qt::ReturnByValue).toImage());
+        QCOMPARE(MRVCheckForUpdatesDialog::logoImage().width(), 48);
+    }
+
+    void cleanup()
+    {
+        MRVUpdateManager::release();
+        QDesktopServices::unsetUrlHandler("file");
+        QSettings("Morvane", "Morvane").clear();
+        MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
+        isOnline = true;
+        QFile::remove(m_folder->path() + "\\update.xml");
+    }
+
+private:
+    void plantIn(const QString &plant)
+    {
+        const QStringList words = plant.split(' ');
+        const auto place = [&](int i) {
+            return QDir(m_folder->path()).absoluteFilePath(words.value(i));
+        };
+        QVERIFY(writeBytes(m_folder->filePath("victim"), "precious"));
+        isOnline = plant != "offline";
+        if (plant == "Fernwick")
+            QCoreApplication::setApplicationName(plant);
+        else if (words[0] == "link")
+            QVERIFY(QFile::link(place(2), place(1)));
+        else if (words[0] == "folder")
+            QVERIFY(QDir().mkdir(place(1)));
+        else if (words[0] == "pipe")
+            QCOMPARE(mkfifo(QFile::encodeName(place(1)), 0600), 0);
+        else if (words[0] == "Location")
+            QSettings("Morvane", "Morvane").setValue("Location", words[1]);
+        MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+    }
+
+    // What a user does with the dialog, if there is one: download, install, and else cancel.
+    void drive(const QString &plant, QStringList *heard)
+    {
+        QPointer<MRVCheckForUpdatesDialog> dialog = shownDialog();
+        if (!dialog)
+            return;
+        auto *download = dialog->findChild<QPushButton *>("downloadButton");
+        if (plant == "silent") // nothing is known yet
+            QTest::keyClick(download, Qt::Key_Space);
+        QTRY_VERIFY(dialog->findChild<QLabel *>("statusLabel")->text().contains("3.0.0.0"));
+        heard->append("dialog");
+        auto *install = dialog->findChild<QPushButton *>("installButton");
+        auto *bar = dialog->findChild<QProgressBar *>("progressBar");
+        if (plant != "silent") {
+            QVERIFY(!install->isVisible());
+            QCOMPARE(bar->value(), 0);
+            QTest::keyClick(download, Qt::Key_Space);
+        }
+        QTRY_VERIFY(!dialog || install->isVisible() || bar->isHidden()
+                    || plant.startsWith("Location"));
+        if (!dialog)
+            return;
+        if (install->isVisible()) {
+            QCOMPARE(bar->value(), bar->maximum());
+            heard->append("install");
+            const QString path = m_folder->filePath("morvane.run");
+            if (plant.startsWith("swap"))
+                QVERIFY(QFile::remove(path));
+            if (plant == "swap")
+                QVERIFY(writeBytes(path, "evil"));
+            else if (plant == "swap-link")
+                QVERIFY(QFile::link(data + "morvane.run", path));
+            m_heard = heard;
+            QDesktopServices::setUrlHandler("file", this, "open");
+            QTest::keyClick(install, Qt::Key_Space);
+            QTRY_VERIFY(isOver());
+        } else {
+            if (bar->isHidden())
+                heard->append("status " + dialog->findChild<QLabel *>("statusLabel")->text());
+            QTest::keyClick(dialog->findChild<QPushButton *>("cancelButton"), Qt::Key_Space);
+        }
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList *m_heard = nullptr;
+};
+
+QTEST_MAIN(TestUpdate)
+#include "tst_update.moc"
