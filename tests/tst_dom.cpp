@@ -517,7 +517,13 @@ private Q_SLOTS:
         QCOMPARE(doc.find("p:a/b").attribute("xmlns"), QString("urn:y"));
         QCOMPARE(doc.find("p:a").attribute("xmlns:p"), QString("urn:x"));
         QVERIFY(!doc.find("p:a/p:c").hasAttribute("xmlns:p"));
-        // Many attributes come out sorted, too.
+        // Many declarations and attributes come out sorted, too.
+        QVERIFY(doc.setContent(
+            QString("<!DOCTYPE r PUBLIC 'a' \"b's\" [<!NOTATION n SYSTEM 'z'><!NOTATION m SYSTEM "
+                    "'y'><!ENTITY e SYSTEM 'x' NDATA n>]><r/>")));
+        QCOMPARE(saved(doc),
+                 QByteArray("<!DOCTYPE r PUBLIC 'a' \"b's\" [\n<!ENTITY e SYSTEM 'x' NDATA "
+                            "n>\n<!NOTATION m SYSTEM 'y'>\n<!NOTATION n SYSTEM 'z'>\n]>\n<r/>\n"));
         doc.setRoot("r");
         QByteArray expected = "<r";
         for (int i = 1000; i < 1100; ++i) {

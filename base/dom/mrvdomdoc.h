@@ -85,7 +85,8 @@ public:
     /**
      * Writes the document as UTF-8, whatever its declaration said before, with an indentation of three blanks a level
      * and the attributes of each element sorted by name: the same document gives the same bytes. Of a document type, its
-     * name and files are kept, while its own declarations go, since the parser has carried them out.
+     * name, files, notations and entities in other files are kept; its other declarations go, since the parser has carried
+     * them out.
      *
      * @return false when the device did not take it all, or when elements are nested more deeply than MRVDomLimits allows, so
      * that the document could not be loaded again; nothing is written then.

@@ -68,7 +68,7 @@ public:
             endLine(false);
             first = first.nextSibling();
         }
-        writeRare(document.doctype());
+        writeDocumentType(document.doctype());
         const bool isWritten = writeSiblings(first, 0);
         flush();
         return isWritten;
@@ -139,7 +139,7 @@ private:
         case QDomNode::DocumentTypeNode:
             break; // stands before all else
         default:
-            writeRare(node);
+            m_text += written(node);
         }
         return true;
     }
@@ -259,12 +259,48 @@ private:
         return data.replace(version, QStringLiteral("version=\\1 encoding=\"UTF-8\""));
     }
 
-    void writeRare(const QDomNode &node)
+    // Qt would write the declarations in an order that changes with each process.
+    void writeDocumentType(const QDomDocumentType &type)
+    {
+        if (type.name().isEmpty()) {
+            return;
+        }
+        m_text += QLatin1String("<!DOCTYPE ") + type.name();
+        if (!type.publicId().isNull()) {
+            m_text += QLatin1String(" PUBLIC ") + quoted(type.publicId());
+        } else if (!type.systemId().isNull()) {
+            m_text += QLatin1String(" SYSTEM");
+        }
+        if (!type.systemId().isNull()) {
+            m_text += u' ' + quoted(type.systemId());
+        }
+        QStringList declarations;
+        for (const QDomNamedNodeMap &map : {type.entities(), type.notations()}) {
+            for (int i = 0; i < map.count(); ++i) {
+                declarations.append(written(map.item(i)));
+            }
+        }
+        if (!declarations.isEmpty()) {
+            declarations.sort();
+            m_text += QLatin1String(" [\n") + declarations.join(QString()) + u']';
+        }
+        m_text += QLatin1String(">\n");
+    }
+
+    static QString quoted(const QString &text)
+    {
+        const QChar quote = text.contains(u'\'') ? u'"' : u'\'';
+        return quote + mrvXmlText(text) + quote;
+    }
+
+    // As Qt writes it: for what is rare, and stands in no other node.
+    static QString written(const QDomNode &node)
     {
         QString text;
         QTextStream stream(&text);
         node.save(stream, Indentation);
-        mrvAppendXmlText(&m_text, text);
+        stream.flush();
+        return mrvXmlText(text);
     }
 
     enum class Place { Text, Attribute };
