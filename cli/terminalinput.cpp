@@ -2,6 +2,7 @@
 
 #include "command.h"
 
+#include <csignal>
 #include <cstdio>
 
 #include <termios.h>
@@ -25,22 +26,33 @@ bool isYes(const QString &answer)
     return answer.trimmed().startsWith(u'y', Qt::CaseInsensitive);
 }
 
-// Typing is not shown as long as this lives.
+// Typing is not shown as long as this lives. An interrupt waits for its end: the terminal would stay
+// silent otherwise.
 class HiddenTyping
 {
 public:
     HiddenTyping()
     {
+        sigset_t interrupts;
+        sigemptyset(&interrupts);
+        sigaddset(&interrupts, SIGINT);
+        sigaddset(&interrupts, SIGTSTP);
+        sigprocmask(SIG_BLOCK, &interrupts, &m_signals);
         tcgetattr(STDIN_FILENO, &m_before);
         termios hidden = m_before;
         hidden.c_lflag &= ~tcflag_t(ECHO);
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
     }
-    ~HiddenTyping() { tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
+    ~HiddenTyping()
+    {
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before);
+        sigprocmask(SIG_SETMASK, &m_signals, nullptr);
+    }
     Q_DISABLE_COPY(HiddenTyping)
 
 private:
     termios m_before{};
+    sigset_t m_signals{};
 };
 
 QString readLine()
