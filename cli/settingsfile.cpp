@@ -10,6 +10,9 @@ namespace {
 bool beginsLikeSettings(QFile *file)
 {
     constexpr int MostLine = 10000;
+    const QByteArray mark("\xef\xbb\xbf"); // of UTF-8, which some editors write
+    if (file->peek(mark.size()) == mark)
+        file->skip(mark.size());
     while (!file->atEnd()) {
         const QByteArray line = file->readLine(MostLine).trimmed();
         if (!line.isEmpty() && !line.startsWith(';'))

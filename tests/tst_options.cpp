@@ -80,6 +80,8 @@ private Q_SLOTS:
     void onlyInstance();
     void harmfulValues_data() { addRows("harmfulsettings.tsv", {"case", "value", "isKept"}); }
     void harmfulValues();
+    void harmfulFiles_data() { addRows("harmfulfiles.tsv", {"case", "lines", "left"}); }
+    void harmfulFiles();
     void changedBytes();
 
 private:
@@ -460,6 +462,25 @@ void tst_Options::harmfulValues()
     QVERIFY(options.value(MRVOptions::TextColor).isValid());
     QCOMPARE(bytesOf(path), isKept == "yes" ? before : QByteArray(before).replace(line, ""));
     QCOMPARE(bytesOf(path + ".damaged"), isKept == "yes" ? QByteArray() : before);
+}
+
+// Twice, since what was kept the first time must not be lost.
+void tst_Options::harmfulFiles()
+{
+    QFETCH(QString, lines);
+    const QString path = m_folder->filePath("harm.ini");
+    for (int i = 0; i < 2; ++i) {
+        const QByteArray before =
+            (i == 0 ? "" : ";\n") + QByteArray("[Options]\n") + lines.toUtf8();
+        QVERIFY(writeBytes(path, before));
+        MRVOptions options(path);
+        QTEST(QString::fromUtf8(bytesOf(path)).section("[Options]\n", 1), "left");
+        QByteArrayList kept;
+        for (const QString &name : QDir(m_folder->path()).entryList({"harm*damaged*"}))
+            kept << bytesOf(m_folder->filePath(name));
+        QCOMPARE(kept.size(), i + 1);
+        QVERIFY(kept.contains(before));
+    }
 }
 
 void tst_Options::changedBytes()

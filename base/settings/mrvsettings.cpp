@@ -1,16 +1,20 @@
 #include "settings/mrvsettings.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include "core/mcoretype.h"
 #include "gui/mrvguiutil.h"
 #include "text/mrvtextformat.h"
 
 #include <QDataStream>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTimerEvent>
 
 #include <utility>
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
 
 constexpr auto FontHinting = MRVSettings::FlagSetting(12);
 
@@ -340,6 +344,11 @@ QTextBlockFormat MRVSettings::value(TextBlockFormat setting) const
 
 bool MRVSettings::setValue(const QString &key, const QVariant &value)
 {
+    if (!mrvCanBeStored(value)) {
+        qCWarning(lcSettings, "%s: values of the type %s cannot be stored", qPrintable(key),
+                  value.typeName());
+        return false;
+    }
     QSettings::setValue(key, value);
     recordChange(key);
     return status() == NoError;
