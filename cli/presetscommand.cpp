@@ -1,4 +1,6 @@
 #include "command.h"
+#include "settingsfile.h"
+#include "suggestion.h"
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
@@ -17,7 +19,7 @@ namespace {
 struct Request
 {
     QStringList arguments; // of the action
-    QString settings; // path; empty for the user's own presets
+    MRVOptions *options = nullptr; // null for the user's own presets
     QString file; // path of a preset file to read instead
     bool onlyThese = false;
     bool json = false;
@@ -73,21 +75,14 @@ int refuse(const QString &text)
 
 int usageError(const QString &text)
 {
-    printError(QLatin1String("presets: ") + text);
+    printError(QLatin1String("presets: ") + text + QLatin1String("; try 'mrv presets --help'"));
     return WrongUsage;
 }
 
-// Settings that are written for the first time need not be there.
-QString faultOfSettings(const QString &path, bool mayBeNew)
+int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
 {
-    const QFileInfo info(path);
-    if (!info.exists() && mayBeNew)
-        return QString();
-    if (!info.isFile() || !info.isReadable())
-        return QStringLiteral("%1 cannot be read").arg(path);
-    return MRVOptions(path).status() == QSettings::NoError
-        ? QString()
-        : QStringLiteral("%1 is not a settings file").arg(path);
+    return refuse(QStringLiteral("there is no preset '%1'").arg(name)
+                  + didYouMean(name, scheme.names()));
 }
 
 bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *error)
@@ -106,27 +101,27 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
 {
     if (!request.file.isEmpty())
         return readPresetFile(request.file, scheme, error);
-    if (request.settings.isEmpty()) {
+    if (!request.options) {
         const QString path = MRVTextPresetMgr::presetSchemeFilePath();
         if (QFileInfo::exists(path))
             return readPresetFile(path, scheme, error);
         *scheme = MRVTextPresetMgr::loadPresetScheme();
         return true;
     }
-    const MRVOptions options(request.settings);
     QString reason;
-    *scheme = MRVTextPresetScheme::fromByteArray(options.value(MRVOptions::TextPresets), &reason);
+    const QByteArray bytes = request.options->value(MRVOptions::TextPresets);
+    *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
     if (!reason.isEmpty())
-        *error = request.settings + QLatin1String(": ") + reason;
+        *error = request.options->fileName() + QLatin1String(": ") + reason;
     return error->isEmpty();
 }
 
 bool writePresets(const Request &request, const MRVTextPresetScheme &scheme, QString *error)
 {
-    if (!request.settings.isEmpty()) {
-        MRVOptions options(request.settings);
-        options.setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
-        return options.saveNow(error);
+    if (request.options) {
+        const QByteArray bytes = MRVTextPresetScheme::toByteArray(scheme);
+        request.options->setValue(MRVOptions::TextPresets, bytes);
+        return request.options->saveNow(error);
     }
     MRVTextPresetMgr::savePresetScheme(scheme);
     // The file may have been impossible to write, and the settings then be hidden by an older file.
@@ -222,7 +217,7 @@ int show(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
         if (!scheme.contains(name))
-            return refuse(QStringLiteral("there is no preset '%1'").arg(name));
+            return refuseName(name, scheme);
     }
     for (const QString &name : request.arguments) {
         if (request.json) {
@@ -261,7 +256,7 @@ int removeFrom(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
         if (!scheme.deletePreset(name))
-            return refuse(QStringLiteral("there is no preset '%1'").arg(name));
+            return refuseName(name, scheme);
     }
     QString error;
     return writePresets(request, scheme, &error) ? Done : refuse(error);
@@ -281,7 +276,7 @@ constexpr Action actions[] = {
     {"remove", false, true, removeFrom},
 };
 
-int runAction(const Action &action, const Request &request)
+int runAction(const Action &action, Request request, const QString &settings)
 {
     const int count = request.arguments.size();
     if (action.run == list ? count > 0 : (count == 0 || (action.takesOne && count > 1)))
@@ -289,9 +284,15 @@ int runAction(const Action &action, const Request &request)
             QStringLiteral("wrong number of arguments for '%1'").arg(QLatin1String(action.name)));
     if (action.writes && !request.file.isEmpty())
         return usageError(QStringLiteral("--file is only for list, show and export"));
+    if (request.onlyThese && action.run != importFrom)
+        return usageError(QStringLiteral("--only-these is only for import"));
     QString error;
-    if (!request.settings.isEmpty())
-        error = faultOfSettings(request.settings, action.run == importFrom);
+    std::unique_ptr<MRVOptions> options;
+    if (!settings.isEmpty()) {
+        options = openOptions(
+            settings, action.run == importFrom ? IfMissing::Create : IfMissing::Refuse, &error);
+    }
+    request.options = options.get();
     MRVTextPresetScheme scheme;
     // What is there may be damaged when all of it is to be replaced.
     const bool isReplaced = request.onlyThese && action.run == importFrom;
@@ -333,16 +334,15 @@ int runPresets(const QStringList &arguments)
     QCoreApplication::setApplicationName(MRVOptions::applicationName());
     Request request;
     request.arguments = parser.positionalArguments();
-    request.settings = parser.value(QStringLiteral("settings"));
     request.file = parser.value(QStringLiteral("file"));
     request.onlyThese = parser.isSet(QStringLiteral("only-these"));
     request.json = parser.isSet(QStringLiteral("json"));
     if (request.arguments.isEmpty())
-        return usageError(QStringLiteral("an action is missing; try 'mrv presets --help'"));
+        return usageError(QStringLiteral("an action is missing"));
     const QString name = request.arguments.takeFirst();
     for (const Action &action : actions) {
         if (name == QLatin1String(action.name))
-            return runAction(action, request);
+            return runAction(action, request, parser.value(QStringLiteral("settings")));
     }
     return usageError(QStringLiteral("unknown action '%1'").arg(name));
 }

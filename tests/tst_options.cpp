@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvoptions.h"
 #include "support.h"
 
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void pdfSettings();
     void autoReplaceList();
     void imports();
+    void kindleConverter();
     void folders();
     void languages();
     void warnings();
@@ -267,6 +269,7 @@ void tst_Options::themes()
         QVERIFY(!themes.at(i).name.isEmpty());
         for (const auto text : {MRVOptions::TextColor, MRVOptions::IndexCardStatusColor})
             QVERIFY(contrast(m_options->value(text), colors.first) >= 4.5);
+        QVERIFY2(contrast(colors.second, colors.first) >= 3, qPrintable(themes.at(i).name));
     }
     QCOMPARE(MRVOptions::findIndexCardTheme({Qt::white, Qt::yellow}), -1);
     QCOMPARE(MRVOptions::findIndexCardTheme({}), -1);
@@ -383,6 +386,17 @@ void tst_Options::imports()
     m_options->setDefaultImportUrlType(MRVImportExport::ImportAsMht);
     QCOMPARE(reread()->defaultImportUrlType(), MRVImportExport::ImportAsMht);
     QCOMPARE(reread()->value(MRVOptions::ImportDefaultUrlType), QByteArray("ImportAsMht"));
+}
+
+// MOBI is among the export formats while its converter is there.
+void tst_Options::kindleConverter()
+{
+    const QByteArray without = m_options->value(MRVOptions::ExportFormatConverters);
+    QVERIFY(writeBytes(m_folder->filePath("kindle"), "x"));
+    m_options->setValue(MRVOptions::KindlePath, m_folder->filePath("kindle"));
+    const QByteArray with = m_options->value(MRVOptions::ExportFormatConverters);
+    QCOMPARE(MRVImportExportConfig::toFormatEngines(with).size(),
+             MRVImportExportConfig::toFormatEngines(without).size() + 1);
 }
 
 void tst_Options::folders()

@@ -205,11 +205,6 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
     return bytes;
 }
 
-bool mrvHasUtf8Mark(const QByteArray &bytes)
-{
-    return bytes.startsWith("\xef\xbb\xbf");
-}
-
 QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error)
 {
     if (!mrvHasUtf8Mark(bytes))

@@ -48,9 +48,6 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted);
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error);
 
-/** With the mark, QSettings reads a file as UTF-8, but writes it without; so it is read wrongly next time. */
-constexpr int mrvUtf8MarkSize = 3;
-bool mrvHasUtf8Mark(const QByteArray &bytes);
 /** The same settings without a UTF-8 mark, all in ASCII; @p bytes where there is none. */
 QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error);
 

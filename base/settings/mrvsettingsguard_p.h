@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 #include <QVariant>
 
 /**
@@ -19,20 +18,6 @@ QByteArray mrvHarmlessSettings(const QByteArray &bytes);
 /** Whether a value can be stored so that mrvHarmlessSettings() leaves it in. */
 bool mrvCanBeStored(const QVariant &value);
 
-/**
- * To be called before QSettings opens a file. Where mrvHarmlessSettings() leaves something out, the file
- * is kept as @p path with ".damaged" at its end, or another name if there is such a file, and replaced by
- * what is left, under the lock that QSettings takes. A file with a UTF-8 mark is replaced by one without.
- * Nothing is done for a file that is not there or cannot be read.
- *
- * @return @p path, for a class that must do this before the class that it derives from opens the file;
- * where the file should have been replaced and could not be, a path that cannot be opened.
- */
-QString mrvDisarmSettings(const QString &path);
-
-/**
- * The same for the user's own files of an organisation and its application, in the native format.
- *
- * @return @p organization, or one whose files cannot be opened.
- */
-QString mrvDisarmUserSettings(const QString &organization, const QString &application);
+/** With the mark, QSettings reads a file as UTF-8, but writes it without; so it is read wrongly next time. */
+constexpr int mrvUtf8MarkSize = 3;
+bool mrvHasUtf8Mark(const QByteArray &bytes);

@@ -1,4 +1,5 @@
 #include "settings/mrvsettings.h"
+#include "settings/mrvsettingsdisarm_p.h"
 #include "settings/mrvsettingsfile_p.h"
 #include "settings/mrvsettingsguard_p.h"
 
