@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <iterator>
+
 /** Whether QSettings took a text for a list, for its commas. */
 inline bool mrvIsList(const QVariant &value)
 {
@@ -18,6 +20,10 @@ inline bool mrvIsList(const QVariant &value)
  */
 inline bool mrvToFlag(const QVariant &value, bool *ok)
 {
+    if (value.userType() == QMetaType::Bool) {
+        *ok = true;
+        return value.toBool();
+    }
     static constexpr const char *Words[] = {"false", "true", "no", "yes", "off", "on", "0", "1"};
     const QString text = value.toString().trimmed();
     for (int i = 0; i < int(std::size(Words)); ++i) {
