@@ -1,5 +1,6 @@
 #include "command.h"
 #include "settingsfile.h"
+#include "suggestion.h"
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
@@ -75,8 +76,14 @@ int refuse(const QString &text)
 
 int usageError(const QString &text)
 {
-    printError(QLatin1String("presets: ") + text);
+    printError(QLatin1String("presets: ") + text + QLatin1String("; try 'mrv presets --help'"));
     return WrongUsage;
+}
+
+int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
+{
+    return refuse(QStringLiteral("there is no preset '%1'").arg(name)
+                  + didYouMean(name, scheme.names()));
 }
 
 bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *error)
@@ -95,7 +102,7 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
 {
     if (!request.file.isEmpty())
         return readPresetFile(request.file, scheme, error);
-    if (request.settings.isEmpty()) {
+    if (!request.options) {
         const QString path = MRVTextPresetMgr::presetSchemeFilePath();
         if (QFileInfo::exists(path))
             return readPresetFile(path, scheme, error);
@@ -103,10 +110,10 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
         return true;
     }
     QString reason;
-    *scheme = MRVTextPresetScheme::fromByteArray(request.options->value(MRVOptions::TextPresets),
-                                                 &reason);
+    const QByteArray bytes = request.options->value(MRVOptions::TextPresets);
+    *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
     if (!reason.isEmpty())
-        *error = request.settings + QLatin1String(": ") + reason;
+        *error = request.options->fileName() + QLatin1String(": ") + reason;
     return error->isEmpty();
 }
 
@@ -211,7 +218,7 @@ int show(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
         if (!scheme.contains(name))
-            return refuse(QStringLiteral("there is no preset '%1'").arg(name));
+            return refuseName(name, scheme);
     }
     for (const QString &name : request.arguments) {
         if (request.json) {
@@ -250,7 +257,7 @@ int removeFrom(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
         if (!scheme.deletePreset(name))
-            return refuse(QStringLiteral("there is no preset '%1'").arg(name));
+            return refuseName(name, scheme);
     }
     QString error;
     return writePresets(request, scheme, &error) ? Done : refuse(error);
@@ -278,6 +285,8 @@ int runAction(const Action &action, Request request)
             QStringLiteral("wrong number of arguments for '%1'").arg(QLatin1String(action.name)));
     if (action.access != Access::Read && !request.file.isEmpty())
         return usageError(QStringLiteral("--file is only for list, show and export"));
+    if (request.onlyThese && action.run != importFrom)
+        return usageError(QStringLiteral("--only-these is only for import"));
     QString error;
     OpenedOptions opened;
     if (request.file.isEmpty())

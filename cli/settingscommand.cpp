@@ -21,6 +21,17 @@ struct Request
     MRVOptions *options = nullptr;
 };
 
+constexpr QLatin1String PdfSettings("PdfSettings");
+
+// As they are given to "reset".
+QString namedPdfSettings(const QStringList &names)
+{
+    QStringList keys;
+    for (const QString &name : names)
+        keys.append(displayed(PdfSettings + QLatin1String("/") + name));
+    return keys.join(QLatin1String(", "));
+}
+
 int refuse(const QString &text)
 {
     printError(QLatin1String("settings: ") + text);
@@ -159,8 +170,18 @@ int reset(const Request &request)
         if (request.options->explain(key).key.isEmpty())
             return refuseKey(key);
     }
-    for (const QString &key : request.arguments)
-        request.options->remove(key);
+    const QStringList names = request.options->pdfSettingsNames();
+    if (request.arguments.contains(PdfSettings) && !names.isEmpty()) {
+        return refuse(
+            QStringLiteral("%1 holds the settings of %2 by their names (%3); name those to reset")
+                .arg(PdfSettings, QString::number(names.size()), namedPdfSettings(names)));
+    }
+    for (const QString &key : request.arguments) {
+        if (key.startsWith(PdfSettings + QLatin1String("/")))
+            request.options->removePdfSettings(key.mid(PdfSettings.size() + 1));
+        else
+            request.options->remove(key);
+    }
     QString error;
     return request.options->saveNow(&error) ? Done : refuse(error);
 }
@@ -202,6 +223,9 @@ int explain(const Request &request)
                   + shownText(explanation.type, explanation.defaultValue));
         if (!explanation.accepts.isEmpty())
             printLine(QLatin1String("  accepts  ") + explanation.accepts);
+        if (const QStringList names = request.options->pdfSettingsNames();
+            key == PdfSettings && !names.isEmpty())
+            printLine(QLatin1String("  names    ") + namedPdfSettings(names));
         printLine(QLatin1String("  from     ")
                   + (explanation.origin.isEmpty() ? QStringLiteral("the default")
                                                   : displayed(explanation.origin)));
@@ -271,19 +295,25 @@ constexpr Action actions[] = {
 };
 // clang-format on
 
-// A number below zero would be taken for an option; a value comes last anyway.
-QStringList withNumbersLast(QStringList arguments)
+// A number below zero would be taken for an option.
+QStringList withValuesLast(const QStringList &arguments)
 {
-    QStringList numbers;
-    for (int i = arguments.size() - 1; i > 0 && !arguments.contains(QLatin1String("--")); --i) {
+    QStringList options = arguments.mid(0, 1); // the command's name
+    QStringList values{QStringLiteral("--")};
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
         bool isNumber = false;
-        arguments.at(i).toDouble(&isNumber);
-        if (isNumber && arguments.at(i).startsWith(u'-'))
-            numbers.prepend(arguments.takeAt(i));
+        argument.toDouble(&isNumber);
+        if (argument == QLatin1String("--"))
+            return options + values + arguments.mid(i + 1);
+        if (isNumber || argument.size() < 2 || !argument.startsWith(u'-'))
+            values.append(argument);
+        else
+            options.append(argument);
+        if (argument == QLatin1String("--settings") && i + 1 < arguments.size())
+            options.append(arguments.at(++i));
     }
-    if (!numbers.isEmpty())
-        arguments += QStringList(QStringLiteral("--")) + numbers;
-    return arguments;
+    return options + values;
 }
 
 int runAction(const Action &action, Request *request, const QString &path)
@@ -320,7 +350,7 @@ int runSettings(const QStringList &arguments)
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print each setting as JSON.")});
     const int code =
         parseArguments(&parser, QStringLiteral("settings ACTION [ARGUMENTS] [OPTIONS]"),
-                       withNumbersLast(arguments));
+                       withValuesLast(arguments));
     if (code >= 0)
         return code;
     Request request;

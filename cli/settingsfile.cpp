@@ -27,6 +27,9 @@ bool beginsLikeSettings(QFile *file)
     constexpr int MostLine = 10000;
     bool isSettings = true;
     bool isInLine = false;
+    const QByteArray mark("\xef\xbb\xbf"); // of UTF-8, which some editors write
+    if (file->peek(mark.size()) == mark)
+        file->skip(mark.size());
     while (!file->atEnd()) {
         const QByteArray part = file->readLine(MostLine);
         if (std::exchange(isInLine, !part.endsWith('\n')))

@@ -93,6 +93,8 @@ void tst_ApplicationState::flagsOfKeys()
         QCOMPARE(state.value(flag.key), QVariant(false));
         state.setValue(flag.key, "true"); // as a file gives it
         QVERIFY((state.*flag.get)());
+        state.setValue(flag.key, "off");
+        QVERIFY(!(state.*flag.get)());
         (state.*flag.set)(false);
     }
     QCOMPARE(state.allKeys().size(), others + int(std::size(flags)));

@@ -66,6 +66,17 @@ void tst_MrvSettings::usersOwn()
     QVERIFY(writeBytes(in("home/Morvane/Morvane.conf"), harm));
     QCOMPARE(mrv("get Backups/retain").output, QString("5\n"));
     QCOMPARE(bytesOf(in("home/Morvane/Morvane.conf.damaged")), harm);
+    // Where it cannot be taken out, the file is not opened.
+    QVERIFY(writeBytes(in("home/Morvane/Morvane.conf"), harm));
+    const QString shell = "trap '' XFSZ; ulimit -f 0; exec \"$0\" settings %1 Backups/retain";
+    for (const QString &action :
+         {QString("get"), "--settings " + in("home/Morvane/Morvane.conf") + " get"}) {
+        const Ran ran =
+            run("sh", {"-c", shell.arg(action), MRV_TOOL}, {"XDG_CONFIG_HOME=" + in("home")});
+        QCOMPARE(ran.exitCode, action == "get" ? 0 : 1);
+        QCOMPARE(ran.output, QString(action == "get" ? "5\n" : ""));
+        QCOMPARE(bytesOf(in("home/Morvane/Morvane.conf")), harm);
+    }
 }
 
 void tst_MrvSettings::exportAndImport()

@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "importexport/mrvimportexportconfig.h"
 #include "settings/mrvoptions.h"
 #include "support.h"
 
@@ -73,6 +74,7 @@ private Q_SLOTS:
     void pdfSettings();
     void autoReplaceList();
     void imports();
+    void kindleConverter();
     void folders();
     void languages();
     void warnings();
@@ -80,6 +82,8 @@ private Q_SLOTS:
     void onlyInstance();
     void harmfulValues_data() { addRows("harmfulsettings.tsv", {"case", "value", "isKept"}); }
     void harmfulValues();
+    void harmfulFiles_data() { addRows("harmfulfiles.tsv", {"case", "lines", "left"}); }
+    void harmfulFiles();
     void changedBytes();
 
 private:
@@ -265,6 +269,7 @@ void tst_Options::themes()
         QVERIFY(!themes.at(i).name.isEmpty());
         for (const auto text : {MRVOptions::TextColor, MRVOptions::IndexCardStatusColor})
             QVERIFY(contrast(m_options->value(text), colors.first) >= 4.5);
+        QVERIFY2(contrast(colors.second, colors.first) >= 3, qPrintable(themes.at(i).name));
     }
     QCOMPARE(MRVOptions::findIndexCardTheme({Qt::white, Qt::yellow}), -1);
     QCOMPARE(MRVOptions::findIndexCardTheme({}), -1);
@@ -383,6 +388,17 @@ void tst_Options::imports()
     QCOMPARE(reread()->value(MRVOptions::ImportDefaultUrlType), QByteArray("ImportAsMht"));
 }
 
+// MOBI is among the export formats while its converter is there.
+void tst_Options::kindleConverter()
+{
+    const QByteArray without = m_options->value(MRVOptions::ExportFormatConverters);
+    QVERIFY(writeBytes(m_folder->filePath("kindle"), "x"));
+    m_options->setValue(MRVOptions::KindlePath, m_folder->filePath("kindle"));
+    const QByteArray with = m_options->value(MRVOptions::ExportFormatConverters);
+    QCOMPARE(MRVImportExportConfig::toFormatEngines(with).size(),
+             MRVImportExportConfig::toFormatEngines(without).size() + 1);
+}
+
 void tst_Options::folders()
 {
     const QString path = MRVOptions::defaultBackupPath();
@@ -460,6 +476,25 @@ void tst_Options::harmfulValues()
     QVERIFY(options.value(MRVOptions::TextColor).isValid());
     QCOMPARE(bytesOf(path), isKept == "yes" ? before : QByteArray(before).replace(line, ""));
     QCOMPARE(bytesOf(path + ".damaged"), isKept == "yes" ? QByteArray() : before);
+}
+
+// Twice, since what was kept the first time must not be lost.
+void tst_Options::harmfulFiles()
+{
+    QFETCH(QString, lines);
+    const QString path = m_folder->filePath("harm.ini");
+    for (int i = 0; i < 2; ++i) {
+        const QByteArray before =
+            (i == 0 ? "" : ";\n") + QByteArray("[Options]\n") + lines.toUtf8();
+        QVERIFY(writeBytes(path, before));
+        MRVOptions options(path);
+        QTEST(QString::fromUtf8(bytesOf(path)).section("[Options]\n", 1), "left");
+        QByteArrayList kept;
+        for (const QString &name : QDir(m_folder->path()).entryList({"harm*damaged*"}))
+            kept << bytesOf(m_folder->filePath(name));
+        QCOMPARE(kept.size(), i + 1);
+        QVERIFY(kept.contains(before));
+    }
 }
 
 void tst_Options::changedBytes()

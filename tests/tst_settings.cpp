@@ -3,8 +3,12 @@
 #include "support.h"
 #include "text/mrvtextformat.h"
 
+#include <QBitArray>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimeZone>
+#include <QUuid>
 
 #include <cstdio>
 
@@ -149,6 +153,57 @@ private Q_SLOTS:
         QVERIFY(third.contains("AutoCorrection/personalWords") && third.value(Ints).isEmpty());
         QCOMPARE(third.value(S::StringListSetting(0)), QStringList());
     }
+    void anyType()
+    {
+        const QVariantMap values{
+            {"float", 1.5f},
+            {"char", QChar('x')},
+            {"uuid", QUuid("{67C8770B-44F1-410A-AB9A-F9B5446F13EE}")},
+            {"short", QVariant::fromValue(short(-3))},
+            {"long", QVariant::fromValue(3L)},
+            {"bits", QBitArray(5, true)},
+            {"byte", QVariant::fromValue(uchar(7))},
+            {"font", QFont("Serif", 12)},
+            {"url", QUrl("http://a.b/c")},
+            {"map", QVariantMap{{"a", QVariantList{QVariant(), 1.5f}}}},
+            {"locale", QLocale("de_DE")},
+            {"size", QSizeF(1, 2)},
+            {"list", QVariantList{QDate(2026, 1, 1), QRect(1, 2, 3, 4)}},
+            {"key", QKeySequence("Ctrl+K")},
+            {"time", QDateTime::currentDateTimeUtc()},
+            {"zone", QDateTime(QDate(2026, 1, 1), QTime(1, 1), QTimeZone("Europe/Berlin"))},
+            {"offset", QDateTime(QDate(2026, 1, 1), QTime(1, 1), Qt::OffsetFromUTC, 3600)}};
+        {
+            Store store(in("a"));
+            for (auto it = values.begin(); it != values.end(); ++it)
+                QVERIFY2(store.setValue("Any/" + it.key(), it.value()), qPrintable(it.key()));
+            QVERIFY(!store.setValue("Any/no", QImage(2, 2, QImage::Format_RGB32)));
+            QVERIFY(!store.setValue("Any/no", QVariantList{QRegularExpression("a")}));
+        }
+        QVERIFY(QFile::rename(in("a"), in("b")));
+        const Store store(in("b"));
+        QVERIFY(!QFile::exists(in("b.damaged")));
+        QCOMPARE(store.allKeys().size(), values.size());
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            const QVariant found = store.value("Any/" + it.key());
+            QVERIFY2(found == it.value() || (it.key() == "key" && found == "Ctrl+K"),
+                     qPrintable(it.key()));
+        }
+    }
+    // As an editor writes it that marks its files; the next one to open it reads the same.
+    void utf8Mark()
+    {
+        QVERIFY(writeBytes(in("a"), "\xef\xbb\xbf[Options]\nG\\k=\xc3\xa4, \\xe4\n"));
+        for (int i = 0; i < 2; ++i) {
+            Store store(in("a"));
+            QCOMPARE(store.value("G/k").toStringList(), (QStringList{"ä", "ä"}));
+            store.setValue("G/i", i);
+            QVERIFY(store.saveNow() && QFile::remove(in("b")) == (i > 0));
+            QVERIFY(store.saveToFile(in("b"))
+                    && QFile::copy(in("b"), in("c" + QString::number(i))));
+        }
+        QCOMPARE(Store(in("c1")).value("G/k").toStringList(), (QStringList{"ä", "ä"}));
+    }
     void editedByHand_data() { addRows("settings-edited.tsv", {"case", "line", "key", "text"}); }
     void editedByHand()
     {
@@ -253,6 +308,11 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
                  (QStringList{"a", "link", "real", "self"}));
         QString error;
+        for (const char *other : {"Dear a=b\n", "[Options]\nwithout an equals sign\n"}) {
+            QVERIFY(writeBytes(in("other"), other));
+            QVERIFY(!store.saveToFile(in("other"), &error));
+            QCOMPARE(bytesOf(in("other")), QByteArray(other));
+        }
         QVERIFY(!store.saveToFile(in("missing/file"), &error)
                 && !store.saveToFile(m_folder->path()));
         QVERIFY2(error.contains("missing/file"), qPrintable(error));
@@ -304,6 +364,8 @@ private Q_SLOTS:
             process.kill();
             QVERIFY(process.waitForFinished());
             const QMap<QString, QString> texts = textsOf(in("a"));
+            if (i == kills - 1 && Store(in("a")).saveNow()) // removes what the dead have left
+                QVERIFY(QDir(m_folder->path()).entryList({"*.old"}).isEmpty());
             QCOMPARE(texts.size(), 2);
             QCOMPARE(QString::number(texts.value("Options/A/value").size()),
                      texts.value("Options/B/value"));

@@ -2,7 +2,8 @@
 
 #include "settings/mrvoptions.h"
 #include "settings/mrvoptionstables_p.h"
-#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingsdisarm_p.h"
+#include "settings/mrvsettingsvalue_p.h"
 
 #include <QDir>
 #include <QGlobalStatic>
@@ -46,12 +47,14 @@ QStringList listAt(const QSettings &settings, QLatin1String key)
 
 bool flagAt(const QSettings &settings, QLatin1String key)
 {
-    return settings.value(key, true).toBool();
+    bool ok = false;
+    const bool flag = mrvToFlag(settings.value(key), &ok);
+    return flag || !ok;
 }
 
 QString folderAt(const QSettings &settings, QLatin1String key)
 {
-    return settings.value(key, documentsFolder()).toString();
+    return mrvToText(settings.value(key, documentsFolder()));
 }
 
 void putFirst(QStringList *list, const QString &text)
@@ -175,7 +178,7 @@ void MRVApplicationState::setRecentProjectPath(const QString &path)
 
 QString MRVApplicationState::tutorialLocation() const
 {
-    return value(TutorialPathKey).toString();
+    return mrvToText(value(TutorialPathKey));
 }
 
 void MRVApplicationState::setTutorialLocation(const QString &path)

@@ -442,6 +442,10 @@ public:
      */
     QByteArray pdfSettings(const QString &name) const;
     bool setPdfSettings(const QString &name, const QByteArray &settings);
+    /** The names that settings are stored for, sorted; without the empty one. */
+    QStringList pdfSettingsNames() const;
+    /** Forgets those of a name. Those of the empty name cannot be removed without all the others. */
+    void removePdfSettings(const QString &name);
 
     /**
      * The auto-replace list. A stored list that was saved before ordinals existed gains them,

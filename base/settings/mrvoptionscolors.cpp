@@ -24,13 +24,13 @@ constexpr const char *GroupNames[] = {
 // The first is the default; its colours are those of the two settings.
 constexpr ThemeRow Themes[] = {
     {QT_TRANSLATE_NOOP("MRVOptions", "White"),    0xffffffff, 0xff8a8f98},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Ivory"),    0xfffffbea, 0xffb5a97c},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Manila"),   0xfff6e3b4, 0xffa88b4a},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Mint"),     0xffe4f4e4, 0xff7fa683},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Sky"),      0xffe3effb, 0xff7f9cbd},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Lavender"), 0xffefe8fa, 0xff9a88bb},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Rose"),     0xfffce8ec, 0xffbd8792},
-    {QT_TRANSLATE_NOOP("MRVOptions", "Slate"),    0xffe4e7ec, 0xff7d8694},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Ivory"),    0xfffffbea, 0xff9b8f63},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Manila"),   0xfff6e3b4, 0xff9a7d43},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Mint"),     0xffe4f4e4, 0xff6b926f},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Sky"),      0xffe3effb, 0xff6d8aab},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Lavender"), 0xffefe8fa, 0xff8e7caf},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Rose"),     0xfffce8ec, 0xffad7782},
+    {QT_TRANSLATE_NOOP("MRVOptions", "Slate"),    0xffe4e7ec, 0xff798290},
 };
 // clang-format on
 

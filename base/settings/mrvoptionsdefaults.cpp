@@ -7,6 +7,7 @@
 #include "settings/mrvshortcutscheme.h"
 #include "settings/mrvtextpresetscheme.h"
 #include "text/mrvtextformat.h"
+#include "util/mrvunit.h"
 
 #include <QDir>
 #include <QFontDatabase>
@@ -132,8 +133,6 @@ QByteArray defaultCodec()
     return QByteArrayLiteral("UTF-8");
 }
 
-// The Kindle format is left out, whose converter is a setting itself: what is not in the map is
-// converted by the engine that would stand there.
 QByteArray defaultImportEngines()
 {
     using namespace MRVEngineTables;
@@ -142,8 +141,31 @@ QByteArray defaultImportEngines()
 
 QByteArray defaultExportEngines()
 {
+    return exportEngines(false);
+}
+
+QByteArray exportEngines(bool hasKindleConverter)
+{
     using namespace MRVEngineTables;
-    return MRVEngineTables::toByteArray(defaultEngines(Export, Applications()));
+    Applications applications;
+    applications.kindleConverter = hasKindleConverter;
+    return MRVEngineTables::toByteArray(defaultEngines(Export, applications));
+}
+
+bool isMeasure(const QString &text)
+{
+    QString pattern;
+    int decimals = 0;
+    double value = 0;
+    double points = 0;
+    MRVUnit::Unit unit = MRVUnit::None;
+    return MRVUnit::parseMeasure(text, pattern, decimals, value, points, unit) && qIsFinite(value)
+        && value >= 0;
+}
+
+bool isLocaleName(const QString &text)
+{
+    return QLocale(text).language() != QLocale::C;
 }
 
 bool isShortcutScheme(const QByteArray &bytes)

@@ -140,6 +140,19 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Separator
     return explanation;
 }
 
+constexpr QLatin1String PdfPrefix("PdfSettings/");
+
+MRVOptions::Explanation explanationOfPdf(const MRVOptions &options, const QString &name)
+{
+    MRVOptions::Explanation explanation;
+    explanation.key = PdfPrefix + name;
+    explanation.type = MRVOptions::ByteArrayType;
+    explanation.value = options.pdfSettings(name);
+    explanation.defaultValue = QByteArray();
+    explanation.origin = options.fileName();
+    return explanation;
+}
+
 // Calls visit(key, explain) for every setting; only those that are wanted need be explained.
 template<typename Visitor>
 void forEachSetting(const MRVOptions *options, const Visitor &visit)
@@ -176,6 +189,9 @@ MRVOptions::Explanation MRVOptions::explain(const QString &key) const
         if (name == key)
             explanation = explained();
     });
+    const bool isPdf = key.startsWith(PdfPrefix);
+    if (isPdf && pdfSettingsNames().contains(key.mid(PdfPrefix.size())))
+        return explanationOfPdf(*this, key.mid(PdfPrefix.size()));
     return explanation;
 }
 
@@ -189,6 +205,9 @@ QList<MRVOptions::Explanation> MRVOptions::changedSettings() const
                 changed.append(explanation);
         }
     });
+    const QStringList names = pdfSettingsNames();
+    for (const QString &name : names)
+        changed.append(explanationOfPdf(*this, name));
     std::sort(changed.begin(), changed.end(),
               [](const Explanation &a, const Explanation &b) { return a.key < b.key; });
     return changed;

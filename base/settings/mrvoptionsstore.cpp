@@ -1,6 +1,7 @@
 #include "settings/mrvoptionstables_p.h"
-#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingsdisarm_p.h"
 
+#include <QFileInfo>
 #include <QGlobalStatic>
 
 using namespace MRVOptionsTables;
@@ -113,6 +114,9 @@ QList<int> MRVOptions::defaultValue(IntListSetting) const
 
 QByteArray MRVOptions::defaultValue(ByteArraySetting setting) const
 {
+    // The format that the converter makes is an export format only where there is one.
+    if (setting == ExportFormatConverters)
+        return exportEngines(QFileInfo::exists(value(KindlePath)));
     const ByteArrayRow *row = rowOf(setting);
     return row ? row->value.make() : QByteArray();
 }

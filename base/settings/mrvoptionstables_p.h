@@ -58,6 +58,8 @@ struct TextDefault
     QString (*ask)() = nullptr; // what only the system knows; utf8 is null then
     QStringList (*words)() = nullptr; // all that the setting takes, where it does not take any text
     bool isPair = false; // of quotes, see MRVOptions::singleQuotes()
+    bool (*accepts)(const QString &text) =
+        nullptr; // with ask, whose text is one of those; null for any
 };
 
 struct ColorDefault
@@ -204,6 +206,10 @@ QByteArray defaultUrlImportType();
 QByteArray defaultCodec();
 QByteArray defaultImportEngines();
 QByteArray defaultExportEngines();
+/** With the format that needs a converter of its own, where there is one. */
+QByteArray exportEngines(bool hasKindleConverter);
+bool isMeasure(const QString &text);
+bool isLocaleName(const QString &text);
 bool isShortcutScheme(const QByteArray &bytes);
 bool isPresetScheme(const QByteArray &bytes);
 bool isPicture(const QByteArray &bytes);

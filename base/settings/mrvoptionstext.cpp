@@ -1,4 +1,5 @@
 #include "settings/mrvoptionstables_p.h"
+#include "settings/mrvsettingsvalue_p.h"
 
 #include "text/mrvtextformat.h"
 
@@ -87,11 +88,9 @@ std::optional<QByteArray> bytesOf(const QString &text)
 
 Stored parse(const FlagRow &, const QString &text, QString *error)
 {
-    static constexpr const char *Words[] = {"false", "true", "no", "yes", "off", "on", "0", "1"};
-    for (std::size_t i = 0; i < std::size(Words); ++i) {
-        if (text.compare(QLatin1String(Words[i]), Qt::CaseInsensitive) == 0)
-            return QVariant(i % 2 != 0);
-    }
+    bool ok = false;
+    if (const bool flag = mrvToFlag(text, &ok); ok)
+        return QVariant(flag);
     return refuse(error, MRVOptions::tr("'%1' is neither true nor false").arg(text));
 }
 
@@ -118,6 +117,10 @@ Stored parse(const StringRow &row, const QString &text, QString *error)
             error,
             MRVOptions::tr("'%1' has no two halves, an opening and a closing quote").arg(text));
     }
+    if (row.value.accepts && !row.value.accepts(text)) {
+        return refuse(error,
+                      MRVOptions::tr("'%1' is no such value as '%2'").arg(text, row.value.ask()));
+    }
     return QVariant(text);
 }
 
@@ -126,9 +129,39 @@ Stored parse(const StringListRow &, const QString &text, QString *)
     return QVariant(text.split(u'\n', Qt::SkipEmptyParts));
 }
 
-Stored parse(const ColorRow &, const QString &text, QString *error)
+// What has to be read; other colours may be left out by making them transparent.
+bool isTextColor(MRVSettings::ColorSetting setting)
+{
+    switch (setting) {
+    case MRVOptions::TextColor:
+    case MRVOptions::LinksColor:
+    case MRVOptions::VisitedLinksColor:
+    case MRVOptions::HighlightTextColor:
+    case MRVOptions::AnnotationColor:
+    case MRVOptions::FootnotesTextColor:
+    case MRVOptions::FindTextColor:
+    case MRVOptions::FullScreenTextColor:
+    case MRVOptions::FullScreenLinksColor:
+    case MRVOptions::FullScreenVisitedLinksColor:
+    case MRVOptions::FullScreenHighlightTextColor:
+    case MRVOptions::FullScreenFindTextColor:
+    case MRVOptions::FirstRevisionColor:
+    case MRVOptions::SecondRevisionColor:
+    case MRVOptions::ThirdRevisionColor:
+    case MRVOptions::FourthRevisionColor:
+    case MRVOptions::FifthRevisionColor:
+    case MRVOptions::ScratchPadTextColor:
+        return true;
+    default:
+        return false;
+    }
+}
+
+Stored parse(const ColorRow &row, const QString &text, QString *error)
 {
     const QColor color(text);
+    if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting))
+        return refuse(error, MRVOptions::tr("'%1' cannot be seen").arg(text));
     if (color.isValid())
         return QVariant(color);
     return refuse(error, MRVOptions::tr("'%1' is no colour such as #1f1f1f or navy").arg(text));
@@ -176,7 +209,8 @@ Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
     const auto bytes = bytesOf(text);
     if (!bytes)
         return refuse(error, MRVOptions::tr("what follows 'base64:' is not Base64"));
-    // Nothing is stored for "none": readers take the default then.
+    if (bytes->isEmpty() && !row.value.make().isEmpty())
+        return refuse(error, MRVOptions::tr("nothing is no value; reset the setting instead"));
     if (!bytes->isEmpty() && row.value.accepts && !row.value.accepts(*bytes))
         return refuse(error, MRVOptions::tr("the bytes are not what is kept there"));
     return QVariant(*bytes);

@@ -1,4 +1,5 @@
 #include "settings/mrvoptionstables_p.h"
+#include "settings/mrvsettingsvalue_p.h"
 
 #include <QTextCodec>
 
@@ -177,7 +178,7 @@ bool MRVOptions::setSeparator(MRV::SeparatorContext context, MRV::SeparatorType 
 QString MRVOptions::customSeparator(MRV::SeparatorContext context) const
 {
     const SeparatorRow *row = separatorRow(context);
-    return row ? value(QString::fromLatin1(row->customKey), defaultCustomSeparator()).toString()
+    return row ? mrvToText(value(QString::fromLatin1(row->customKey), defaultCustomSeparator()))
                : QString();
 }
 
@@ -196,6 +197,30 @@ QPair<QString, QString> MRVOptions::doubleQuotes() const
 QByteArray MRVOptions::pdfSettings(const QString &name) const
 {
     return value(pdfKey(keyText(PdfSettings), name)).toByteArray();
+}
+
+QStringList MRVOptions::pdfSettingsNames() const
+{
+    const QString prefix = keyText(PdfSettings) + u'/';
+    QStringList names;
+    const QStringList keys = allKeys();
+    for (const QString &key : keys) {
+        if (!key.startsWith(prefix))
+            continue;
+        QString name = key.mid(prefix.size());
+        name.replace(QLatin1String("%5C"), QLatin1String("\\"));
+        name.replace(QLatin1String("%2F"), QLatin1String("/"));
+        name.replace(QLatin1String("%25"), QLatin1String("%"));
+        names.append(name);
+    }
+    names.sort();
+    return names;
+}
+
+void MRVOptions::removePdfSettings(const QString &name)
+{
+    if (!name.isEmpty())
+        remove(pdfKey(keyText(PdfSettings), name));
 }
 
 bool MRVOptions::setPdfSettings(const QString &name, const QByteArray &settings)

@@ -1,10 +1,13 @@
 #include "settings/mrvsettings.h"
+#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingsvalue_p.h"
 
 #include "core/mcoretype.h"
 #include "gui/mrvguiutil.h"
 #include "text/mrvtextformat.h"
 
 #include <QDataStream>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTimerEvent>
 
@@ -12,12 +15,14 @@
 
 namespace {
 
+Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
+
 constexpr auto FontHinting = MRVSettings::FlagSetting(12);
 
 constexpr char PictureFormat[] = "JPG";
 constexpr int PictureQuality = 50;
 
-// What a flag or a font is stored as holds something, unless somebody took it out.
+// What a font is stored as holds something, unless somebody took it out.
 bool isEmpty(const QVariant &value)
 {
     return !value.isValid()
@@ -259,8 +264,9 @@ MRVSettings::WholeFile::~WholeFile()
 
 bool MRVSettings::value(FlagSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
-    return isEmpty(value) ? defaultValue(setting) : value.toBool();
+    bool ok = false;
+    const bool flag = mrvToFlag(stored(*this, keyText(setting)), &ok);
+    return ok ? flag : defaultValue(setting);
 }
 
 int MRVSettings::value(IntSetting setting) const
@@ -274,13 +280,13 @@ qreal MRVSettings::value(RealSetting setting) const
 {
     bool ok = false;
     const qreal number = stored(*this, keyText(setting)).toReal(&ok);
-    return ok ? number : defaultValue(setting);
+    return ok && qIsFinite(number) ? number : defaultValue(setting);
 }
 
 QString MRVSettings::value(StringSetting setting) const
 {
     const QVariant value = stored(*this, keyText(setting));
-    return value.isValid() ? value.toString() : defaultValue(setting);
+    return value.isValid() ? mrvToText(value) : defaultValue(setting);
 }
 
 QStringList MRVSettings::value(StringListSetting setting) const
@@ -325,7 +331,7 @@ QList<int> MRVSettings::value(IntListSetting setting) const
 QByteArray MRVSettings::value(ByteArraySetting setting) const
 {
     const QVariant value = stored(*this, keyText(setting));
-    return value.isValid() ? value.toByteArray() : defaultValue(setting);
+    return value.isValid() && !mrvIsList(value) ? value.toByteArray() : defaultValue(setting);
 }
 
 QTextCharFormat MRVSettings::value(TextCharFormat setting) const
@@ -340,6 +346,11 @@ QTextBlockFormat MRVSettings::value(TextBlockFormat setting) const
 
 bool MRVSettings::setValue(const QString &key, const QVariant &value)
 {
+    if (!mrvCanBeStored(value)) {
+        qCWarning(lcSettings, "%s: values of the type %s cannot be stored", qPrintable(key),
+                  value.typeName());
+        return false;
+    }
     QSettings::setValue(key, value);
     recordChange(key);
     return status() == NoError;

@@ -27,7 +27,8 @@
  * loop, and sees to it that what is saved is saved whole.
  *
  * A stored value that cannot be read as its type (a file edited by hand, a damaged format) gives the
- * default. What was stored as an int, a bool or a list of one text comes back from a file as a text,
+ * default. In a file edited by hand, letters beyond ASCII are written as "\\xe4", or the file begins
+ * with a UTF-8 mark: it then is rewritten in ASCII when it is opened. What was stored as an int, a bool or a list of one text comes back from a file as a text,
  * and an empty list as nothing; the typed functions take both.
  *
  * Saving. Changes are in memory at once and are saved in the next pass of the event loop, by sync()
@@ -136,7 +137,11 @@ public:
      * while the signals of the store are blocked, and changes made while a group inside the one of
      * setGroup() is open.
      *
-     * @return whether status() is NoError. Nothing is saved yet, so this tells of earlier failures;
+     * Stored are numbers, texts, bytes and bits, colours, dates and times, points, sizes, lines and
+     * rectangles, fonts, URLs, locales, identifiers, key sequences, and lists and maps of those. What else
+     * there is, Qt cannot read from a damaged file without harm: it is not set, with a warning.
+     *
+     * @return whether the value was set and status() is NoError. Nothing is saved yet, so this tells of earlier failures;
      * for this value's own, see saveNow().
      */
     bool setValue(const QString &key, const QVariant &value);

@@ -1,4 +1,5 @@
 #include "settings/mrvsettingsfile_p.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include "core/mcoretype.h"
 #include "core/mrvcoreutil.h"
@@ -6,10 +7,15 @@
 
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QThread>
 
+#include <cerrno>
+#include <csignal>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,6 +57,23 @@ QVariantList asList(const QVariant &value)
     const bool isList =
         value.userType() == QMetaType::QStringList || value.userType() == QMetaType::QVariantList;
     return isList ? value.toList() : QVariantList{value};
+}
+
+// What processes left that were killed while they saved.
+void removeThoseOfTheDead(const QString &path)
+{
+    const QFileInfo file(path);
+    QDir folder = file.dir();
+    const QString prefix = file.fileName() + QLatin1Char('.');
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
+        if (!name.startsWith(prefix) || !name.endsWith(QLatin1String(".old")))
+            continue;
+        bool isNumber = false;
+        const int process = name.mid(prefix.size()).chopped(4).toInt(&isNumber);
+        if (isNumber && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
+            folder.remove(name);
+    }
 }
 
 // A file in memory, which has a path as long as it is open.
@@ -109,6 +132,22 @@ bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSetti
     return true;
 }
 
+bool mrvIsSettings(const QByteArray &bytes)
+{
+    const QList<QByteArray> lines =
+        bytes.mid(mrvHasUtf8Mark(bytes) ? mrvUtf8MarkSize : 0).split('\n');
+    for (const QByteArray &line : lines) {
+        const QByteArray text = line.trimmed();
+        if (text.isEmpty() || text.startsWith(';'))
+            continue;
+        const MemoryFile file(mrvHarmlessSettings(bytes));
+        const QSettings settings(file.path(), QSettings::IniFormat);
+        settings.allKeys(); // reads the sections
+        return text.startsWith('[') && file.isWhole() && settings.status() == QSettings::NoError;
+    }
+    return true;
+}
+
 QString mrvNoRoomText()
 {
     return tr("There is no room for temporary files");
@@ -140,13 +179,16 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted)
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error)
 {
+    const QByteArray harmless = mrvWithoutUtf8Mark(mrvHarmlessSettings(before), error);
+    if (!error->isEmpty())
+        return QByteArray();
     const QTemporaryDir folder; // a name that QSettings has not seen before
     const QString path = folder.filePath(QStringLiteral("settings"));
     if (!folder.isValid()) {
         *error = folder.errorString();
         return QByteArray();
     }
-    if (!before.isEmpty() && !MRVFileWriter::write(path, before, error))
+    if (!harmless.isEmpty() && !MRVFileWriter::write(path, harmless, error))
         return QByteArray();
     QSettings settings(path, QSettings::IniFormat);
     edit(&settings);
@@ -163,6 +205,58 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
     return bytes;
 }
 
+QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error)
+{
+    if (!mrvHasUtf8Mark(bytes))
+        return bytes;
+    MRVSettingsMap values;
+    if (!mrvReadSettings(bytes, QSettings::IniFormat, &values)) {
+        *error = mrvNoRoomText();
+        return QByteArray();
+    }
+    return mrvEditedSettings(
+        QByteArray(),
+        [&values](QSettings *file) {
+            for (auto it = values.cbegin(); it != values.cend(); ++it)
+                file->setValue(it.key(), it.value());
+        },
+        error);
+}
+
+MRVSettingsLock::MRVSettingsLock(const QString &path)
+    : m_lock(path + QLatin1String(".lock"))
+{
+    // As long as another process may reasonably take to write.
+    constexpr int Milliseconds = 10000;
+    removeDead(path);
+    m_isHeldByOther = !m_lock.tryLock(Milliseconds) && m_lock.error() == QLockFile::LockFailedError;
+}
+
+void MRVSettingsLock::removeDead(const QString &path)
+{
+    constexpr int Alive = 1000;
+    constexpr int Step = 50;
+    QFileInfo lock(path + QLatin1String(".lock"));
+    while (lock.exists() && lock.size() == 0) {
+        if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > Alive) {
+            QFile::remove(lock.filePath());
+            return;
+        }
+        QThread::msleep(Step);
+        lock.refresh();
+    }
+}
+
+QString mrvLockedText(const QString &path)
+{
+    return tr("Cannot write the file \"%1\": it is locked").arg(path);
+}
+
+QString mrvDamagedText(const QString &path)
+{
+    return tr("Cannot write the file \"%1\": it is damaged").arg(path);
+}
+
 // A second name for the file costs nothing. By the number of the process it is found again, so that one
 // that was killed leaves no more than one.
 MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &bytes)
@@ -171,6 +265,7 @@ MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &by
 {
     if (m_path.isEmpty())
         return;
+    removeThoseOfTheDead(m_path);
     m_kept = QStringLiteral("%1.%2.old").arg(m_path).arg(::getpid());
     const QByteArray kept = QFile::encodeName(m_kept);
     ::unlink(kept.constData());

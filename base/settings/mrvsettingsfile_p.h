@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLockFile>
 #include <QMap>
 #include <QSettings>
 #include <QString>
@@ -23,6 +24,12 @@ MRVSettingsMap mrvValuesOf(const QSettings &settings);
  */
 bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values);
 
+/**
+ * Whether bytes are those of an INI file, or nothing but comments. QSettings itself takes any text for
+ * settings that it could not understand in part, and would write over it.
+ */
+bool mrvIsSettings(const QByteArray &bytes);
+
 /** What is said where there is no room even to read or to write aside. */
 QString mrvNoRoomText();
 
@@ -40,6 +47,35 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted);
  */
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error);
+
+/** The same settings without a UTF-8 mark, all in ASCII; @p bytes where there is none. */
+QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error);
+
+/** The lock that QSettings takes for a file, for the life of the object. */
+class MRVSettingsLock
+{
+public:
+    explicit MRVSettingsLock(const QString &path);
+
+    /**
+     * After ten seconds of waiting. A disk that is full, or may only be read, has no room for the lock
+     * either; that is not for the lock to tell.
+     */
+    bool isHeldByOther() const { return m_isHeldByOther; }
+
+    /**
+     * A process that was killed between making its lock and writing its name into it leaves an empty one,
+     * for which QSettings would wait half a minute.
+     */
+    static void removeDead(const QString &path);
+
+private:
+    QLockFile m_lock;
+    bool m_isHeldByOther;
+};
+
+QString mrvLockedText(const QString &path);
+QString mrvDamagedText(const QString &path);
 
 /** Keeps the file as it is beside the one that takes its place, for the life of the object. */
 class MRVOldSettingsFile

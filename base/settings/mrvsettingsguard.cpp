@@ -1,41 +1,51 @@
 #include "settings/mrvsettingsguard_p.h"
 
-#include "core/mrvcoreutil.h"
-#include "core/mrvfilewriter.h"
-
 #include <QColor>
 #include <QDataStream>
-#include <QDir>
-#include <QFileInfo>
-#include <QLoggingCategory>
 #include <QMetaType>
-#include <QSettings>
 
+#include <algorithm>
 #include <cctype>
 #include <cstring>
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcGuard, "mrv.settings.guard")
-
 // Lists in lists; nobody nests settings deeper.
 constexpr int MaxDepth = 8;
+
+// The types that have other numbers in the stream version Qt_4_0; those that it does not know, whose
+// name follows, are User.
+quint32 typeOf(quint32 stored)
+{
+    constexpr quint32 User = 127;
+    constexpr quint32 FirstMoved = 128;
+    constexpr quint32 MovedBy = 97;
+    if (stored == User)
+        return QMetaType::User;
+    return stored >= FirstMoved && stored < QMetaType::User ? stored - MovedBy : stored;
+}
 
 // Sizes in the stream version that QSettings writes, Qt_4_0; -1 for types that have none.
 int fixedSize(quint32 type)
 {
     switch (type) {
-    case QMetaType::UnknownType:
-        return 0;
     case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
         return 1;
     case QMetaType::QChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
         return 2;
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Float:
     case QMetaType::QDate:
     case QMetaType::QTime:
         return 4;
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
     case QMetaType::Double:
@@ -48,6 +58,7 @@ int fixedSize(quint32 type)
     case QMetaType::QSizeF:
     case QMetaType::QPointF:
     case QMetaType::QLine:
+    case QMetaType::QUuid:
         return 16;
     case QMetaType::QRectF:
     case QMetaType::QLineF:
@@ -70,19 +81,26 @@ public:
     {
         quint32 type = 0;
         m_stream >> type;
+        type = typeOf(type);
         if (const int size = fixedSize(type); size >= 0)
-            return m_stream.skipRawData(size) >= 0;
+            return skip(size);
         switch (type) {
-        case QMetaType::QColor:
-            return skipColor();
+        case QMetaType::UnknownType: // an empty text stands for the value
         case QMetaType::QString:
         case QMetaType::QByteArray:
         case QMetaType::QUrl:
         case QMetaType::QLocale:
             return skipText();
+        case QMetaType::QColor:
+            return skipColor();
+        case QMetaType::User:
+            return skipUuid();
+        case QMetaType::QBitArray:
+            return skipBits();
         case QMetaType::QFont:
             return depth == 0;
         case QMetaType::QStringList:
+        case QMetaType::QByteArrayList:
             return skipEntries([this] { return skipText(); });
         case QMetaType::QVariantList:
             return depth < MaxDepth && skipEntries([&] { return isHarmless(depth + 1); });
@@ -95,8 +113,25 @@ public:
         }
     }
 
+    // Of the stream version Qt_5_6, which QSettings writes for dates with a time.
+    bool isHarmlessDateTime()
+    {
+        constexpr int DateAndTime = 12;
+        quint32 type = 0;
+        qint8 isNull = 0;
+        qint8 spec = 0;
+        m_stream >> type >> isNull;
+        if (type != QMetaType::QDateTime)
+            return type == QMetaType::UnknownType;
+        if (!skip(DateAndTime))
+            return false;
+        m_stream >> spec;
+        return spec != Qt::TimeZone || skipZone();
+    }
+
 private:
     qint64 left() const { return m_stream.device()->bytesAvailable(); }
+    bool skip(qint64 size) { return m_stream.skipRawData(int(size)) >= 0; }
 
     // The kind of colour is taken for one of the enumeration, whatever it is.
     bool skipColor()
@@ -104,7 +139,7 @@ private:
         qint8 spec = 0;
         m_stream >> spec;
         return spec >= QColor::Invalid && spec <= QColor::ExtendedRgb
-            && m_stream.skipRawData(5 * int(sizeof(quint16))) >= 0;
+            && skip(5 * int(sizeof(quint16)));
     }
 
     bool skipText()
@@ -113,7 +148,37 @@ private:
         m_stream >> length;
         if (length == 0xffffffff)
             return true;
-        return length <= left() && m_stream.skipRawData(int(length)) >= 0;
+        return length <= left() && skip(length);
+    }
+
+    bool skipBits()
+    {
+        quint32 count = 0;
+        m_stream >> count;
+        const qint64 size = (qint64(count) + 7) / 8;
+        return size <= left() && skip(size);
+    }
+
+    // Of what is stored by its name only identifiers are known here.
+    bool skipUuid()
+    {
+        static constexpr char Name[] = "QUuid";
+        constexpr int Size = 16;
+        quint32 length = 0;
+        m_stream >> length;
+        char name[sizeof(Name)] = {};
+        return length == sizeof(Name) && m_stream.readRawData(name, sizeof(Name)) == sizeof(Name)
+            && std::memcmp(name, Name, sizeof(Name)) == 0 && skip(Size);
+    }
+
+    // A name; of a zone that has none, its offset and texts follow a text that says so.
+    bool skipZone()
+    {
+        constexpr int Number = 4;
+        return skipText()
+            && (left() < Number
+                || (skipText() && skip(Number) && skipText() && skipText() && skip(Number)
+                    && skipText()));
     }
 
     // Each entry has a length or a type of four bytes at least.
@@ -167,38 +232,51 @@ int unescaped(const QByteArray &line, int *at)
 }
 
 constexpr char VariantMark[] = "@Variant(";
-constexpr int MarkSize = int(sizeof(VariantMark)) - 1;
+constexpr char DateTimeMark[] = "@DateTime(";
+constexpr int VariantMarkSize = int(sizeof(VariantMark)) - 1;
+constexpr int DateTimeMarkSize = int(sizeof(DateTimeMark)) - 1;
+
+bool isMarked(const QByteArray &item)
+{
+    return item.startsWith(VariantMark) || item.startsWith(DateTimeMark);
+}
 
 bool isHarmlessItem(const QByteArray &item)
 {
-    return !item.startsWith(VariantMark) || Walker(item.mid(MarkSize)).isHarmless();
+    if (item.startsWith(VariantMark))
+        return Walker(item.mid(VariantMarkSize)).isHarmless();
+    return !item.startsWith(DateTimeMark)
+        || Walker(item.mid(DateTimeMarkSize)).isHarmlessDateTime();
 }
 
-// A line with all that it goes on in. Commas outside of quotes part a value into items.
-bool isHarmlessLine(const QByteArray &line)
+// A value with all lines that it goes on in. Commas outside of quotes part it into items.
+bool isHarmlessValue(const QByteArray &value, bool isUtf8)
 {
     QByteArray item;
     const auto append = [&item](int c) {
         // Of other items, which may be long, the beginning is enough.
-        if (c >= 0 && (item.size() < MarkSize || item.startsWith(VariantMark)))
+        if (c >= 0 && (item.size() < DateTimeMarkSize || isMarked(item)))
             item += char(c);
     };
     bool isQuoted = false;
     bool isAtStart = true;
-    for (int at = line.indexOf('=') + 1; at < line.size();) {
-        const char c = line.at(at++);
+    for (int at = 0; at < value.size();) {
+        const char c = value.at(at++);
         if (isAtStart && (c == ' ' || c == '\t'))
             continue;
         isAtStart = false;
-        if (c == '\\' && at < line.size()) {
-            append(unescaped(line, &at));
+        if (c == '\\' && at < value.size()) {
+            append(unescaped(value, &at));
         } else if (c == '"') {
             isQuoted = !isQuoted;
+            isAtStart = !isQuoted;
         } else if (c == ',' && !isQuoted) {
             if (!isHarmlessItem(item))
                 return false;
             item.clear();
             isAtStart = true;
+        } else if (isUtf8 && uchar(c) >= 0x80 && isMarked(item)) {
+            return false; // nobody writes that, and it would be other bytes
         } else {
             append(uchar(c));
         }
@@ -206,67 +284,104 @@ bool isHarmlessLine(const QByteArray &line)
     return isHarmlessItem(item);
 }
 
-// Where the line that begins at @p begin ends: a quote or a backslash takes it over line ends.
-int endOfLine(const QByteArray &bytes, int begin)
+bool isLineEnd(char c)
 {
-    bool isQuoted = false;
-    while (begin < bytes.size() && (bytes.at(begin) == ' ' || bytes.at(begin) == '\t'))
-        ++begin;
-    const bool isComment = begin < bytes.size() && bytes.at(begin) == ';';
-    for (int at = begin; at < bytes.size(); ++at) {
-        const char c = bytes.at(at);
-        if ((c == '\n' || c == '\r') && !isQuoted)
-            return at + 1;
-        if (isComment)
+    return c == '\n' || c == '\r';
+}
+
+struct Line
+{
+    int begin;
+    int equals; // -1 where there is none
+    int end; // a comment after it does not belong to it
+};
+
+int afterBlanksAndComments(const QByteArray &bytes, int at)
+{
+    while (at < bytes.size() && std::strchr(" \t\n\r;", bytes.at(at)) && bytes.at(at) != 0) {
+        if (bytes.at(at++) != ';')
             continue;
-        if (c == '"')
-            isQuoted = !isQuoted;
-        else if (c == '\\')
-            at += bytes.mid(at + 1, 2) == "\r\n" ? 2 : 1;
+        while (at < bytes.size() && !isLineEnd(bytes.at(at)))
+            ++at;
     }
-    return bytes.size();
+    return at;
+}
+
+// As QSettings finds them: a quote or a backslash takes a line over line ends.
+Line lineAfter(const QByteArray &bytes, int at)
+{
+    Line line{afterBlanksAndComments(bytes, at), -1, bytes.size()};
+    bool isQuoted = false;
+    for (at = line.begin; at < bytes.size(); ++at) {
+        const char c = bytes.at(at);
+        if (c == '"') {
+            isQuoted = !isQuoted;
+        } else if (c == '\\') {
+            const QByteArray next = bytes.mid(at + 1, 2);
+            at += next == "\r\n" || next == "\n\r" ? 2 : 1;
+        } else if (isQuoted) {
+            continue;
+        } else if (c == '=' && line.equals < 0) {
+            line.equals = at;
+        } else if (isLineEnd(c) || c == ';') {
+            line.end = at;
+            break;
+        }
+    }
+    return line;
 }
 
 } // namespace
 
+bool mrvHasUtf8Mark(const QByteArray &bytes)
+{
+    return bytes.startsWith("\xef\xbb\xbf");
+}
+
 QByteArray mrvHarmlessSettings(const QByteArray &bytes)
 {
+    const bool isUtf8 = mrvHasUtf8Mark(bytes);
     QByteArray harmless;
-    for (int begin = 0; begin < bytes.size();) {
-        const int end = endOfLine(bytes, begin);
-        const QByteArray line = bytes.mid(begin, end - begin);
-        if (isHarmlessLine(line))
-            harmless += line;
-        begin = end;
+    int copied = 0;
+    for (int at = isUtf8 ? mrvUtf8MarkSize : 0; at < bytes.size();) {
+        const Line line = lineAfter(bytes, at);
+        at = line.end;
+        if (line.equals < 0 || bytes.at(line.begin) == '[')
+            continue;
+        const int value = line.equals + 1;
+        if (isHarmlessValue(bytes.mid(value, line.end - value), isUtf8))
+            continue;
+        harmless += bytes.mid(copied, line.begin - copied);
+        copied = line.end < bytes.size() && bytes.at(line.end) == '\n' ? line.end + 1 : line.end;
     }
-    return harmless;
+    return copied == 0 ? bytes : harmless + bytes.mid(copied);
 }
 
-QString mrvDisarmSettings(const QString &path)
+bool mrvCanBeStored(const QVariant &value)
 {
-    if (!QFileInfo(path).isFile())
-        return path;
-    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path);
-    // Few values are variants at all, and most of those are colours.
-    const QByteArray harmless = mrvHarmlessSettings(bytes);
-    if (harmless.size() == bytes.size())
-        return path;
-    QString error;
-    const bool isKept = MRVFileWriter::write(path + QLatin1String(".damaged"), bytes, &error)
-        && MRVFileWriter::write(path, harmless, &error);
-    qCWarning(lcGuard, "%s",
-              qPrintable(isKept ? path + QLatin1String(": damaged values were taken out") : error));
-    return path;
-}
-
-QString mrvDisarmUserSettings(const QString &organization, const QString &application)
-{
-    // Where the files lie, QSettings tells only of one that it has opened; there is none of this name.
-    const QSettings none(QSettings::NativeFormat, QSettings::UserScope,
-                         organization + QLatin1String(" (none)"), QStringLiteral("none"));
-    const QDir folder(QFileInfo(none.fileName()).path() + QLatin1String("/.."));
-    const QString suffix = u'.' + QFileInfo(none.fileName()).suffix();
-    mrvDisarmSettings(QDir::cleanPath(folder.filePath(organization + u'/' + application + suffix)));
-    mrvDisarmSettings(QDir::cleanPath(folder.filePath(organization + suffix)));
-    return organization;
+    switch (value.userType()) {
+    case QMetaType::UnknownType:
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::Double:
+    case QMetaType::QString:
+    case QMetaType::QStringList:
+    case QMetaType::QByteArray:
+    case QMetaType::QColor:
+    case QMetaType::QKeySequence: // as a text
+        return true;
+    case QMetaType::QVariantList: {
+        const QVariantList items = value.toList();
+        return std::all_of(items.cbegin(), items.cend(), mrvCanBeStored);
+    }
+    default:
+        break;
+    }
+    const bool isDateTime = value.userType() == QMetaType::QDateTime;
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(isDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
+    stream << value;
+    Walker walker(bytes);
+    return isDateTime ? walker.isHarmlessDateTime() : walker.isHarmless();
 }

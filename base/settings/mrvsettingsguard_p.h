@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QVariant>
 
 /**
  * The bytes of an INI file without the values that QSettings cannot decode without harm.
@@ -15,18 +15,9 @@
  */
 QByteArray mrvHarmlessSettings(const QByteArray &bytes);
 
-/**
- * To be called before QSettings opens a file. Where mrvHarmlessSettings() leaves something out, the file
- * is kept as @p path with ".damaged" at its end, and replaced by what is left. Nothing is done for a
- * file that is not there or cannot be read.
- *
- * @return @p path, for a class that must do this before the class that it derives from opens the file.
- */
-QString mrvDisarmSettings(const QString &path);
+/** Whether a value can be stored so that mrvHarmlessSettings() leaves it in. */
+bool mrvCanBeStored(const QVariant &value);
 
-/**
- * The same for the user's own files of an organisation and its application, in the native format.
- *
- * @return @p organization.
- */
-QString mrvDisarmUserSettings(const QString &organization, const QString &application);
+/** With the mark, QSettings reads a file as UTF-8, but writes it without; so it is read wrongly next time. */
+constexpr int mrvUtf8MarkSize = 3;
+bool mrvHasUtf8Mark(const QByteArray &bytes);

@@ -1,4 +1,5 @@
 #include "settings/mrvsettings.h"
+#include "settings/mrvsettingsdisarm_p.h"
 #include "settings/mrvsettingsfile_p.h"
 #include "settings/mrvsettingsguard_p.h"
 
@@ -6,13 +7,10 @@
 #include "core/mrvfilewriter.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QLoggingCategory>
-#include <QThread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -21,29 +19,9 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
 
-// As long as another process may reasonably take to write.
-constexpr int LockMilliseconds = 10000;
-
 QByteArray bytesOf(const QString &path)
 {
     return QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path) : QByteArray();
-}
-
-// A process that was killed between making its lock and writing its name into it leaves an empty one,
-// for which QSettings would wait half a minute.
-void removeDeadLock(const QString &path)
-{
-    constexpr int Alive = 1000;
-    constexpr int Step = 50;
-    QFileInfo lock(path + QLatin1String(".lock"));
-    while (lock.exists() && lock.size() == 0) {
-        if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > Alive) {
-            QFile::remove(lock.filePath());
-            return;
-        }
-        QThread::msleep(Step);
-        lock.refresh();
-    }
 }
 
 // QSettings takes a file of the same length and time for the one that it knows, though another
@@ -76,13 +54,6 @@ QStringList leftOver(const MRVSettingsMap &found, const MRVSettingsMap &wanted,
             keys.append(it.key());
     }
     return keys;
-}
-
-// A disk that is full, or may only be read, has no room for the lock either; that is not for the lock
-// to tell.
-bool isLockedByOther(QLockFile *lock)
-{
-    return !lock->tryLock(LockMilliseconds) && lock->error() == QLockFile::LockFailedError;
 }
 
 // What a full disk has cut off leaves the beginning of a line, or of a value.
@@ -204,10 +175,15 @@ bool MRVSettings::save(Saving saving, QString *error)
 bool MRVSettings::saveWhole(Saving saving, QString *error)
 {
     const QString path = fileName();
+    // Somebody may have edited it since it was opened.
+    if (mrvDisarmSettings(path) != path) {
+        stall();
+        return fail(error, mrvDamagedText(path));
+    }
     const QByteArray before = bytesOf(path);
     const MRVOldSettingsFile oldFile(path, before);
     if (m_isDirty) {
-        removeDeadLock(path);
+        MRVSettingsLock::removeDead(path);
         makeNewer(path);
     }
     QSettings::sync();
@@ -226,9 +202,9 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
     QString reason;
     MRVSettingsMap old;
     const bool isOldKnown = mrvReadSettings(before, format(), &old);
-    QLockFile lock(path + QLatin1String(".lock"));
-    if (isLockedByOther(&lock)) {
-        reason = notWritten(path, tr("it is locked"));
+    const MRVSettingsLock lock(path);
+    if (lock.isHeldByOther()) {
+        reason = mrvLockedText(path);
     } else if (!isOldKnown) {
         reason = mrvNoRoomText();
         oldFile.putBack();
@@ -284,14 +260,17 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
     if (isOtherThanFile(path))
         return fail(error, notRegular(path));
     QString reason;
-    QLockFile lock(path + QLatin1String(".lock"));
-    removeDeadLock(path);
-    if (isLockedByOther(&lock))
-        return fail(error, notWritten(path, tr("it is locked")));
+    if (mrvDisarmSettings(path) != path)
+        return fail(error, mrvDamagedText(path));
+    const MRVSettingsLock lock(path);
+    if (lock.isHeldByOther())
+        return fail(error, mrvLockedText(path));
     const QByteArray before =
         QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, &reason) : QByteArray();
     if (!reason.isEmpty())
         return fail(error, reason);
+    if (!mrvIsSettings(before))
+        return fail(error, tr("The file \"%1\" holds no settings").arg(path));
     const QByteArray bytes = mrvEditedSettings(
         before, [this](QSettings *file) { replaceGroupIn(file); }, &reason);
     if (!reason.isEmpty())
@@ -302,12 +281,15 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
 void MRVSettings::loadFromFile(const QString &fileName)
 {
     // First, since it may be the store's own file, which may have changes that are not saved yet.
-    mrvDisarmSettings(fileName);
-    QSettings file(fileName, IniFormat);
-    file.beginGroup(m_group);
-    const MRVSettingsMap values = mrvValuesOf(file);
+    if (QFileInfo(fileName) == QFileInfo(this->fileName()))
+        saveNow();
+    MRVSettingsMap all;
+    mrvReadSettings(mrvHarmlessSettings(bytesOf(fileName)), IniFormat, &all);
+    const QString prefix = m_group.isEmpty() ? QString() : m_group + QLatin1Char('/');
     remove(QString());
-    for (auto it = values.cbegin(); it != values.cend(); ++it)
-        setValue(it.key(), it.value());
+    for (auto it = all.cbegin(); it != all.cend(); ++it) {
+        if (it.key().startsWith(prefix))
+            setValue(it.key().mid(prefix.size()), it.value());
+    }
     Q_EMIT settingsReset();
 }
