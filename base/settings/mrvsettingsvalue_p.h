@@ -20,10 +20,10 @@ inline bool mrvIsList(const QVariant &value)
  */
 inline bool mrvToFlag(const QVariant &value, bool *ok)
 {
-    if (value.userType() == QMetaType::Bool) {
-        *ok = true;
+    const int type = value.userType();
+    *ok = type == QMetaType::Bool;
+    if (*ok || type == QMetaType::UnknownType)
         return value.toBool();
-    }
     static constexpr const char *Words[] = {"false", "true", "no", "yes", "off", "on", "0", "1"};
     const QString text = value.toString().trimmed();
     for (int i = 0; i < int(std::size(Words)); ++i) {
