@@ -102,7 +102,7 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
 {
     if (!request.file.isEmpty())
         return readPresetFile(request.file, scheme, error);
-    if (!request.options) {
+    if (request.settings.isEmpty()) {
         const QString path = MRVTextPresetMgr::presetSchemeFilePath();
         if (QFileInfo::exists(path))
             return readPresetFile(path, scheme, error);
