@@ -282,6 +282,12 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
     }
     options->output = outputFile(options->input, output, options->to);
     const bool streams = options->input == StandardStream || options->output == StandardStream;
+    // Nobody named it, so what stands there may be somebody's work.
+    if (!streams && (output.isEmpty() || QFileInfo(output).isDir())
+        && QFileInfo::exists(options->output)) {
+        return failure(
+            QStringLiteral("%1 exists; name it with -o to replace it").arg(options->output));
+    }
     return !streams && isSameFile(options->input, options->output)
         ? failure(QStringLiteral("%1: the output would replace the input; choose another with -o")
                       .arg(options->output))
@@ -467,11 +473,17 @@ int runScriptRename(const QStringList &arguments)
     if (!readScript(names.at(2), from, &file, &error)) {
         return failure(error);
     }
+    const QString output = parser.value(QStringLiteral("output"));
+    // Such files hold more than scripts: revisions, headers, lists of names.
+    if (file.format == Format::FinalDraft && isSameFile(names.at(2), output)) {
+        return failure(
+            QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
+                .arg(output));
+    }
     const int count = renamed(parser, &file);
     if (count == 0) {
         return failure(QStringLiteral("%1: nobody is called '%2'").arg(names.at(2), names.at(0)));
     }
-    const QString output = parser.value(QStringLiteral("output"));
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
     QByteArray bytes;
     if (!scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, &error)

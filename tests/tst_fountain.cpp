@@ -312,6 +312,19 @@ void TestFountain::finalDraft()
     MRVFountainScript read;
     QVERIFY(MRVFinalDraft::fromXml(xml, &read));
     QCOMPARE(read.toText(), text);
+    // What stands around the script is no part of it, and a scene's summary is a synopsis.
+    const QString paragraph = "<Paragraph Type='%1'>%2<Text>%3</Text></Paragraph>";
+    const QString foreign = "<HeaderAndFooter><Header>" + paragraph.arg("", "", "header")
+        + "</Header></HeaderAndFooter>";
+    const QString summary = "<SceneProperties><Summary>" + paragraph.arg("", "", "why")
+        + "</Summary></SceneProperties>";
+    const QString other = "<FinalDraft><Content>"
+        + paragraph.arg("Scene Heading", summary, "INT. A") + "</Content>" + foreign + "<TitlePage>"
+        + foreign + "<Content>"
+        + QString("<Paragraph Alignment='Center'><Text>T</Text></Paragraph>")
+        + "</Content></TitlePage></FinalDraft>";
+    QVERIFY(MRVFinalDraft::fromXml(other.toUtf8(), &read));
+    QCOMPARE(read.toText().simplified(), QString("Title: T INT. A = why"));
 }
 
 void TestFountain::refusedXml()

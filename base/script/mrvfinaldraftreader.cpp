@@ -49,6 +49,8 @@ private:
     {
         return m_xml.attributes().value(QLatin1String(name)).toString();
     }
+    bool skipForeign();
+    void readSummary();
     void startElement();
     void endElement();
     void startParagraph();
@@ -69,6 +71,7 @@ private:
     bool m_inText = false;
     bool m_isNewNote = false;
     bool m_breakPending = false;
+    QString m_summary; // of the scene whose heading is open
 };
 
 void FinalDraftReader::startParagraph()
@@ -114,8 +117,46 @@ void FinalDraftReader::startText()
     m_element.runs.append({QString(), emphasis, Run::Text});
 }
 
+// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
+bool FinalDraftReader::skipForeign()
+{
+    constexpr int BelowRoot = 2;
+    const QStringRef tag = m_xml.name();
+    const bool isForeign = m_depth == BelowRoot
+        ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
+        : m_inTitles && m_depth == BelowRoot + 1 && tag != QLatin1String("Content");
+    if (isForeign) {
+        m_xml.skipCurrentElement();
+        --m_depth;
+    }
+    return isForeign;
+}
+
+// A summary stands in its scene's heading, in paragraphs of its own.
+void FinalDraftReader::readSummary()
+{
+    bool inText = false;
+    for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            ++depth;
+            inText = m_xml.name() == QLatin1String("Text");
+            if (m_xml.name() == QLatin1String("Paragraph") && !m_summary.isEmpty())
+                m_summary += u'\n';
+        } else if (token == QXmlStreamReader::EndElement) {
+            --depth;
+            inText = false;
+        } else if (token == QXmlStreamReader::Characters && inText) {
+            m_summary += m_xml.text();
+        }
+    }
+    --m_depth;
+}
+
 void FinalDraftReader::startElement()
 {
+    if (skipForeign())
+        return;
     const QStringRef tag = m_xml.name();
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
@@ -126,6 +167,8 @@ void FinalDraftReader::startElement()
     } else if (tag == QLatin1String("ScriptNote") && m_hasParagraph) {
         m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
         m_isNewNote = true;
+    } else if (tag == QLatin1String("SceneProperties")) {
+        readSummary();
     } else if (tag == QLatin1String("Paragraph")) {
         startParagraph();
     } else if (tag == QLatin1String("Text") && m_hasParagraph) {
@@ -193,6 +236,11 @@ void FinalDraftReader::endParagraph()
         m_element.dual = m_dualCues++ > 0;
     }
     m_script.elements.append(m_element);
+    const QStringList summary = m_summary.split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &line : summary) {
+        m_script.elements.append(Element(Element::Synopsis, line));
+    }
+    m_summary.clear();
 }
 
 void FinalDraftReader::endElement()
