@@ -129,6 +129,11 @@ void TestReferences::variants()
     QCOMPARE(items.size(), 2);
     QCOMPARE(items.at(0), item);
     QCOMPARE(MRVFernwickDropItem::fromVariant(QVariant(list)), MRVFernwickDropItem(list));
+    // A picture of one colour is large, though stored in few bytes.
+    QImage large(5120, 2880, QImage::Format_RGB32);
+    large.fill(Qt::white);
+    const MRVFernwickDropItem wall("l", large);
+    QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(wall)), wall);
     // What follows a picture in a stream is read from behind it.
     const QByteArray bytes = bytesOf(item) + bytesOf(group());
     QDataStream stream(bytes);

@@ -21,8 +21,9 @@ constexpr char TypeName[] = "MRVFernwickDropItem";
 
 // Limits, far above what a note holds.
 constexpr int MaxDepth = 32;
-constexpr qint64 MinPictureBytes = 64 << 20;
-constexpr qint64 PictureBytesPerByte = 32;
+constexpr qint64 MostPictureBytes = 512 << 20;
+// Deflate makes no more of a byte (RFC 1951), so that a picture that claims more is damaged.
+constexpr qint64 MostInflated = 1032;
 
 // Types of a fixed length.
 constexpr int PlainTypes[] = {QMetaType::Bool,     QMetaType::Int,     QMetaType::UInt,
@@ -44,6 +45,33 @@ void registerType()
 } // namespace
 
 // Reads an item with its payload. Qt's own reader of variants believes every count and type it finds.
+/** What the first chunk of a PNG picture says (ISO/IEC 15948, section 11.2.2). */
+struct PictureHeader
+{
+    qint64 width = 0;
+    qint64 height = 0;
+    int depth = 0; // bits a channel
+    int channels = 0;
+
+    bool read(const QByteArray &png)
+    {
+        constexpr int HeaderEnd = 26;
+        constexpr int channelsOfTypes[] = {1, 0, 3, 1, 2, 0, 4};
+        if (png.size() < HeaderEnd)
+            return false;
+        const int type = uchar(png[25]);
+        width = qFromBigEndian<quint32>(png.constData() + 16);
+        height = qFromBigEndian<quint32>(png.constData() + 20);
+        depth = uchar(png[24]);
+        channels = type < int(std::size(channelsOfTypes)) ? channelsOfTypes[type] : 0;
+        constexpr qint64 MostPixels = 1LL << 32; // so that no product below overflows
+        return channels > 0 && depth <= 16 && width > 0 && height > 0
+            && width <= MostPixels / height;
+    }
+    qint64 storedSize() const { return (width * channels * depth + 7) / 8 * height; }
+    qint64 decodedSize() const { return width * height * (depth == 16 ? 8 : 4); }
+};
+
 class DropItemReader
 {
 public:
@@ -75,7 +103,7 @@ private:
 
     QDataStream &m_stream;
     int m_depth = 0;
-    qint64 m_pictureBytes = MinPictureBytes; // what pictures to come may take
+    qint64 m_pictureBytes = MostPictureBytes; // what pictures to come may take
 };
 
 MRVFernwickDropItem DropItemReader::item()
@@ -230,19 +258,16 @@ bool DropItemReader::png(QByteArray *bytes)
 
 QVariant DropItemReader::image()
 {
-    constexpr int HeaderEnd = 8 + 8 + 8; // signature, start of the first chunk, width and height
     qint32 present = 0;
     m_stream >> present;
     if (!isSound() || present == 0)
         return QImage();
     QByteArray bytes;
-    if (!png(&bytes) || bytes.size() < HeaderEnd)
+    PictureHeader header;
+    if (!png(&bytes) || !header.read(bytes) || header.storedSize() > MostInflated * bytes.size())
         return refused();
-    const qint64 width = qFromBigEndian<quint32>(bytes.constData() + 16);
-    const qint64 height = qFromBigEndian<quint32>(bytes.constData() + 20);
-    m_pictureBytes += PictureBytesPerByte * bytes.size();
-    if (width == 0 || height == 0 || height > m_pictureBytes / 8 / width)
-        return refused(); // 8: at sixteen bits a channel
+    if (header.decodedSize() > m_pictureBytes)
+        return QImage(); // what else the item holds is worth more than its picture
     const QImage image = MRVGuiUtil::toImage(bytes, "PNG");
     m_pictureBytes -= qint64(image.sizeInBytes());
     return image.isNull() ? refused() : QVariant(image);

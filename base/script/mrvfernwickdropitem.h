@@ -64,9 +64,9 @@ MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDro
  * Reads what operator<<() wrote, whatever the format version says.
  *
  * Any bytes may be given. Payloads may hold texts, pictures, numbers, times, byte arrays, addresses,
- * items, and lists and maps of them, 32 levels deep, with pictures of 64 MB (and 32 times their stored
- * length) when decoded. Where they hold anything else or end too early, the stream's status tells and
- * @p item is a default one.
+ * items, and lists and maps of them, 32 levels deep. Where they hold anything else or end too early, the
+ * stream's status tells and @p item is a default one. Pictures beyond 512 MiB together, when decoded, are
+ * null.
  *
  * @since 1.0
  */
