@@ -1,5 +1,7 @@
 #include "script/mrvfountainsyntax_p.h"
 
+#include "core/mrvxmltext.h"
+
 #include <cstring>
 
 namespace MrvFountain {
@@ -225,6 +227,9 @@ QString withPlainLineEnds(const QString &text)
     for (QChar &c : plain) {
         switch (c.unicode()) {
         case u'\r':
+        case u'\v':
+        case u'\f':
+        case 0x85:
         case 0x2028:
         case 0x2029:
             c = u'\n';
@@ -235,7 +240,7 @@ QString withPlainLineEnds(const QString &text)
             break;
         }
     }
-    return plain;
+    return mrvXmlText(plain); // what a page or an e-book could not hold
 }
 
 } // namespace MrvFountain

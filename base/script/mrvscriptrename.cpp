@@ -124,7 +124,8 @@ bool Renaming::addName(const QString &text, int start, int end, int position)
         --end;
     }
     const QString name = text.mid(start, end - start);
-    if (name.simplified().compare(m_from, Qt::CaseInsensitive) != 0)
+    // Upper case may be longer: Weiß speaks as WEISS.
+    if (name.simplified().toUpper() != m_from.toUpper())
         return false;
     add(name, position + start);
     return true;
