@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QPointer>
 #include <QUrl>
 
 #include <limits>
@@ -104,20 +105,21 @@ void MRVCheckForUpdatesDialog::showRightsWarning(bool needsAdminRights,
                                                  const QString &installedLocation)
 {
     const QString application = QCoreApplication::applicationName();
-    QMessageBox box(this);
-    box.setIcon(QMessageBox::Warning);
-    box.setTextFormat(Qt::PlainText);
-    box.setWindowTitle(tr("%1 Auto-Update").arg(application));
+    // It goes with the dialog, which may be deleted while it is open.
+    const QPointer<QMessageBox> box(new QMessageBox(this));
+    box->setIcon(QMessageBox::Warning);
+    box->setTextFormat(Qt::PlainText);
+    box->setWindowTitle(tr("%1 Auto-Update").arg(application));
     if (needsAdminRights) {
-        box.setText(tr("Administrative rights required."));
-        box.setInformativeText(
+        box->setText(tr("Administrative rights required."));
+        box->setInformativeText(
             tr("To download and install automatic updates, you must run %1 from the same account "
                "that installed it.\n\nYou can also visit %2 to download and install the latest "
                "version manually.")
                 .arg(application, MSharedResources::productPage()));
     } else {
-        box.setText(tr("Installation and Runtime location mismatch."));
-        box.setInformativeText(
+        box->setText(tr("Installation and Runtime location mismatch."));
+        box->setInformativeText(
             tr("%1 is not currently running from its last installed location.\n\nRuntime Location: "
                "'%2'\nInstalled Location: '%3'\n\nTo download and install the update, please "
                "uninstall or manually remove any copies of %1 not at the Installed Location path "
@@ -125,7 +127,8 @@ void MRVCheckForUpdatesDialog::showRightsWarning(bool needsAdminRights,
                 .arg(application, QDir::toNativeSeparators(QCoreApplication::applicationFilePath()),
                      QDir::toNativeSeparators(installedLocation)));
     }
-    box.exec();
+    box->exec();
+    delete box;
 }
 
 void MRVCheckForUpdatesDialog::enableInstallButton()

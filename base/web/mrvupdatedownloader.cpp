@@ -45,6 +45,7 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
     connect(m_dialog, &MRVCheckForUpdatesDialog::installRequested, this,
             QOverload<>::of(&MRVUpdateDownloader::installRequested));
     connect(m_dialog, &QDialog::rejected, this, &MRVUpdateDownloader::cancelUpdate);
+    connect(m_dialog, &QObject::destroyed, this, &MRVUpdateDownloader::cancelUpdate);
 }
 
 MRVUpdateDownloader::~MRVUpdateDownloader()
@@ -52,7 +53,10 @@ MRVUpdateDownloader::~MRVUpdateDownloader()
     m_ended = true;
     // It must not tell an object that is half gone; and it uses the policy, which is destroyed before the children.
     delete m_downloader;
-    delete m_dialog;
+    // A widget does not bear being deleted after the application, which may own this object.
+    if (QCoreApplication::instance()) {
+        delete m_dialog;
+    }
 }
 
 bool MRVUpdateDownloader::setPublicKey(const QByteArray &key)
@@ -166,7 +170,12 @@ void MRVUpdateDownloader::updateAvailable(bool available)
     if (m_ended) {
         return;
     }
+    // The check may be deleted by a receiver, or while its box is open.
+    const QPointer<MRVUpdateDownloader> self(this);
     Q_EMIT updateChecked();
+    if (!self || m_ended) {
+        return;
+    }
     if (available) {
         showDialog();
         if (m_dialog) {
@@ -178,8 +187,6 @@ void MRVUpdateDownloader::updateAvailable(bool available)
         }
         return;
     }
-    // The check may be deleted while its box is open.
-    const QPointer<MRVUpdateDownloader> self(this);
     if (!m_silent) {
         tell(QMessageBox::Information, tr("Check for Updates"),
              tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
@@ -247,7 +254,7 @@ void MRVUpdateDownloader::cancelUpdate()
     }
     if (m_downloader) {
         // It tells of its end, which is nobody's concern any more.
-        m_downloader->disconnect(this);
+        m_downloader->disconnect();
         m_downloader->cancelDownload();
     }
     Q_EMIT finished();

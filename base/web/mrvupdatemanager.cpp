@@ -87,6 +87,7 @@ MRVUpdateManager::MRVUpdateManager(QObject *parent)
 MRVUpdateManager::~MRVUpdateManager()
 {
     manager = nullptr;
+    qRemovePostRoutine(&MRVUpdateManager::release);
     delete m_downloader;
 }
 
@@ -94,6 +95,8 @@ MRVUpdateManager *MRVUpdateManager::instance()
 {
     if (!manager) {
         manager = new MRVUpdateManager(QCoreApplication::instance());
+        // The application deletes its children when it can have no windows any more.
+        qAddPostRoutine(&MRVUpdateManager::release);
     }
     return manager;
 }
@@ -163,7 +166,9 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
     connect(m_downloader, &MRVUpdateDownloader::updateChecked, this,
             &MRVUpdateManager::onUpdateChecked);
     m_downloader->setPublicKey(m_publicKey);
-    if (!m_downloader->startUpdate(silent)) {
+    // What it shows runs an event loop, in which this object may be released.
+    const QPointer<MRVUpdateManager> self(this);
+    if (!m_downloader->startUpdate(silent) && self) {
         forgetDownloader();
     }
 }

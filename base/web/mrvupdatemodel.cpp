@@ -14,6 +14,7 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 
 namespace {
 
@@ -184,7 +185,12 @@ void MRVUpdateModel::readXML()
     if (!QFileInfo::exists(path) && QFileInfo::exists(xmlFilePath())) {
         path = xmlFilePath();
     }
+    // A receiver that shows a fault runs an event loop, in which the check may be deleted.
+    const QPointer<MRVUpdateModel> self(this);
     if (!isDownloadFileIntegral(path)) {
+        if (!self) {
+            return;
+        }
         fail(tr("The downloaded xml update file is not integral. Please contact %1 for additional "
                 "support if this "
                 "does not work.")
@@ -206,8 +212,11 @@ void MRVUpdateModel::readXML()
         return;
     }
     parseXML(document.document());
-    if (!m_failed) {
-        compareVersions();
+    if (!self || m_failed) {
+        return;
+    }
+    compareVersions();
+    if (self) {
         Q_EMIT updateAvailable(m_newerAvailable);
     }
 }
@@ -218,7 +227,11 @@ void MRVUpdateModel::readEXE()
         return;
     }
     m_installerDigest.clear();
+    const QPointer<MRVUpdateModel> self(this);
     if (!isDownloadFileIntegral(downloadFilePath())) {
+        if (!self) {
+            return;
+        }
         fail(tr("Morvane couldn't find the update on our server.\nThis is probably an error on our "
                 "part.\nPlease report this to %1.")
                  .arg(MrvCore::supportEmail()));
