@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 #include <sys/stat.h>
@@ -61,6 +62,23 @@ public:
 };
 
 bool isOnline = true;
+
+// What may happen while windows close, which may ask whether to save.
+class SlowWindow : public QWidget
+{
+public:
+    explicit SlowWindow(std::function<void()> happens)
+        : m_happens(std::move(happens))
+    {
+        show();
+    }
+
+protected:
+    void closeEvent(QCloseEvent *) override { m_happens(); }
+
+private:
+    std::function<void()> m_happens;
+};
 
 MRVCheckForUpdatesDialog *shownDialog()
 {
@@ -550,6 +568,11 @@ private:
                 QVERIFY(writeBytes(path, "evil"));
             else if (plant == "swap-link")
                 QVERIFY(QFile::link(data + "morvane.run", path));
+            std::unique_ptr<SlowWindow> window;
+            if (plant == "closing-swap")
+                window = std::make_unique<SlowWindow>([&] { writeBytes(path, "evil"); });
+            else if (plant == "closing-release")
+                window = std::make_unique<SlowWindow>(&MRVUpdateManager::release);
             m_heard = heard;
             QDesktopServices::setUrlHandler("file", this, "open");
             QTest::keyClick(install, Qt::Key_Space);

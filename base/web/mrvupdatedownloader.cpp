@@ -225,14 +225,26 @@ void MRVUpdateDownloader::downloadInstaller()
     }
 }
 
+bool MRVUpdateDownloader::confirmInstaller()
+{
+    const bool isUnchanged = m_model->isInstallerUnchanged();
+    if (!isUnchanged) {
+        tell(QMessageBox::Warning, tr("Check for Updates"),
+             tr("The installer was changed after it had been downloaded, and will not be opened."));
+    }
+    return isUnchanged;
+}
+
 void MRVUpdateDownloader::installRequested()
 {
     if (m_ended) {
         return;
     }
-    if (!m_model->isInstallerUnchanged()) {
-        errorMsg(
-            tr("The installer was changed after it had been downloaded, and will not be opened."));
+    const QPointer<MRVUpdateDownloader> self(this);
+    if (!confirmInstaller()) {
+        if (self) {
+            cancelUpdate();
+        }
         return;
     }
     m_ended = true;

@@ -44,6 +44,11 @@ public:
     void disableSilent();
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);
+    /**
+     * Whether the installer is still the one that was found sound; warns the user where it is not. To be asked right before
+     * it is opened.
+     */
+    bool confirmInstaller();
 
 public Q_SLOTS:
     /** Ends the check, with a warning unless it is silent. */

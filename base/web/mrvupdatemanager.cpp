@@ -10,11 +10,15 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoopLocker>
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopedPointer>
 #include <QTimer>
 #include <QUrl>
+
+#include <optional>
 
 namespace {
 
@@ -202,8 +206,22 @@ void MRVUpdateManager::onUpdateFinished()
 
 void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
 {
-    forgetDownloader();
+    // Unsaved documents may keep the user for a while, and the application may release this object meanwhile.
+    const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
+    m_downloader.clear();
+    if (check) {
+        check->setParent(nullptr);
+    }
+    // The application must not quit before the installer has been opened; one that does not quit with its last window would
+    // do so with the last locker.
+    std::optional<QEventLoopLocker> locker;
+    if (QGuiApplication::quitOnLastWindowClosed()) {
+        locker.emplace();
+    }
     QApplication::closeAllWindows();
+    if (check && !check->confirmInstaller()) {
+        return;
+    }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::toNativeSeparators(exeFilePath)))) {
         qCWarning(lcWeb, "%s cannot be opened", qUtf8Printable(exeFilePath));
     }

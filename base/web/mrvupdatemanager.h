@@ -60,7 +60,10 @@ public Q_SLOTS:
     /** Checks, and tells of a newer version only. */
     void checkForUpdatesSilent();
     void onUpdateFinished();
-    /** Closes all windows of the application, and opens the installer with what the desktop has for it. */
+    /**
+     * Closes all windows of the application, and opens the installer with what the desktop has for it, unless it was
+     * changed meanwhile.
+     */
     void onInstallUpdateRequested(const QString &exeFilePath);
     void onUpdateChecked();
 

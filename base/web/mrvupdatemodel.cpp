@@ -237,18 +237,16 @@ void MRVUpdateModel::readEXE()
                  .arg(MrvCore::supportEmail()));
         return;
     }
-    // Taken before the signature is checked: what is exchanged in between has another digest.
-    const QByteArray digest = digestOf(downloadFilePath());
     QString reason;
-    if (needsSignature()
-        && !mrvIsSigned(downloadFilePath(), signatureFilePath(), m_publicKey, m_installerFileName,
-                        &reason)) {
+    if (!needsSignature()) {
+        m_installerDigest = digestOf(downloadFilePath());
+    } else if (!mrvIsSigned(downloadFilePath(), signatureFilePath(), m_publicKey,
+                            m_installerFileName, &m_installerDigest, &reason)) {
         fail(tr("The installer does not carry a valid signature (%1) and will not be opened. "
                 "Please report this to %2.")
                  .arg(reason, MrvCore::supportEmail()));
         return;
     }
-    m_installerDigest = digest;
     m_failed = false;
     Q_EMIT readyToInstall();
 }
