@@ -9,9 +9,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFontMetrics>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
+#include <QScreen>
 #include <QUrl>
 
 #include <limits>
@@ -19,6 +21,27 @@
 namespace {
 
 constexpr int LogoSize = 48;
+// What the dialog is given, in average characters and lines, as far as the screen goes.
+constexpr int CharactersWide = 90;
+constexpr int LinesHigh = 34;
+constexpr int LinesOfNotes = 6; // at least
+constexpr int LongestWord = 60;
+
+// With places to break words that would make the dialog wider than any screen, such as addresses.
+QString breakable(const QString &text)
+{
+    QString result;
+    int length = 0;
+    for (const QChar c : text) {
+        length = c.isSpace() ? 0 : length + 1;
+        if (length > LongestWord && !c.isLowSurrogate()) {
+            result += QChar(0x200b); // zero width space
+            length = 1;
+        }
+        result += c;
+    }
+    return result;
+}
 
 } // namespace
 
@@ -36,6 +59,10 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
             &MRVCheckForUpdatesDialog::installUpdate);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     m_ui->downloadButton->setFocus();
+    const QFontMetrics metrics = fontMetrics();
+    const QSize wanted(metrics.averageCharWidth() * CharactersWide,
+                       metrics.lineSpacing() * LinesHigh);
+    resize(wanted.boundedTo(roomOnScreen()));
 }
 
 MRVCheckForUpdatesDialog::~MRVCheckForUpdatesDialog() = default;
@@ -61,7 +88,7 @@ void MRVCheckForUpdatesDialog::versions(const QString &current, const QString &a
 
 void MRVCheckForUpdatesDialog::statusMsg(const QString &text)
 {
-    m_ui->statusLabel->setText(text);
+    m_ui->statusLabel->setText(breakable(text));
 }
 
 void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
@@ -95,6 +122,8 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
         showRightsWarning(needsAdminRights, installedLocation);
         return;
     }
+    // The focus would go on to the Cancel button, where a key that is pressed twice ends the download.
+    m_ui->downloadButton->clearFocus();
     m_ui->downloadButton->setEnabled(false);
     m_ui->downloadButton->setText(tr("Downloading Update"));
     m_ui->progressBar->setValue(0);
@@ -137,7 +166,11 @@ void MRVCheckForUpdatesDialog::enableInstallButton()
     m_ui->downloadButton->setText(QStringLiteral("Downloaded Update"));
     m_ui->installButton->show();
     m_ui->installButton->setDefault(true);
-    m_ui->installButton->setFocus();
+    // Somebody who reads the notes may be pressing keys just now.
+    const QWidget *const focus = focusWidget();
+    if (focus != m_ui->webView && !m_ui->webView->isAncestorOf(focus)) {
+        m_ui->installButton->setFocus();
+    }
 }
 
 void MRVCheckForUpdatesDialog::disableDownloadAndInstallButtons()
@@ -150,6 +183,29 @@ void MRVCheckForUpdatesDialog::installUpdate()
 {
     m_ui->installButton->setEnabled(false);
     Q_EMIT installRequested();
+}
+
+bool MRVCheckForUpdatesDialog::event(QEvent *event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+        keepStatusWhole();
+    }
+    return isHandled;
+}
+
+QSize MRVCheckForUpdatesDialog::roomOnScreen() const
+{
+    return screen()->availableSize();
+}
+
+// Layouts do not see to it by themselves that a label of several lines gets all of them.
+void MRVCheckForUpdatesDialog::keepStatusWhole()
+{
+    const QSize room = roomOnScreen();
+    const int narrowest = fontMetrics().averageCharWidth() * CharactersWide * 2 / 3;
+    setMinimumWidth(qMin(qMax(narrowest, layout()->minimumSize().width()), room.width()));
+    setMinimumHeight(qBound(0, layout()->minimumHeightForWidth(width()), room.height()));
 }
 
 void MRVCheckForUpdatesDialog::showEvent(QShowEvent *event)
@@ -168,6 +224,7 @@ void MRVCheckForUpdatesDialog::showReleaseNotes()
     view->setObjectName(QStringLiteral("webView"));
     view->setAccessibleName(tr("Release notes"));
     view->setSizePolicy(m_ui->webView->sizePolicy());
+    view->setMinimumHeight(fontMetrics().lineSpacing() * LinesOfNotes);
     delete layout()->replaceWidget(m_ui->webView, view);
     delete m_ui->webView;
     m_ui->webView = view;
