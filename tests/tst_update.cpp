@@ -378,6 +378,26 @@ private Q_SLOTS:
         QTRY_VERIFY(web.asked.contains("/update.xml"));
     }
 
+    // The dialog may have been forgotten under other windows.
+    void comesToTheFront()
+    {
+        Web web;
+        web.answers = {{"/update.xml", "3.0.0.0|m|http://d/"}};
+        plantIn(QString());
+        MRVUpdateManager::instance()->checkForUpdatesSilent();
+        QTRY_VERIFY(shownDialog());
+        shownDialog()->showMinimized();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QTRY_VERIFY(other.isActiveWindow());
+        MRVUpdateManager::instance()->checkForUpdatesSilent();
+        QVERIFY(shownDialog()->isMinimized());
+        MRVUpdateManager::instance()->checkForUpdates();
+        QTRY_VERIFY(shownDialog()->isActiveWindow() && !shownDialog()->isMinimized());
+        QCOMPARE(web.asked.count("/update.xml"), 1);
+    }
+
     void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }
     void starts()
     {

@@ -163,6 +163,12 @@ void MRVUpdateDownloader::disableSilent()
         showDialog();
     }
     m_silent = false;
+    // It may lie under the window from which the user asks.
+    if (m_dialog && m_dialog->isVisible()) {
+        m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
+        m_dialog->raise();
+        m_dialog->activateWindow();
+    }
 }
 
 void MRVUpdateDownloader::updateAvailable(bool available)

@@ -40,7 +40,10 @@ public:
     bool startUpdate(bool silent);
     /** Whether nothing is shown as long as nothing newer is found; not any more once the dialog has been shown. */
     bool isSilent() const { return m_silent; }
-    /** The user has asked for the check that is running: shows the dialog, and from now on tells what happens. */
+    /**
+     * The user has asked for the check that is running: shows the dialog of a silent one, brings one that is shown to the
+     * front, and from now on tells what happens.
+     */
     void disableSilent();
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);

@@ -157,7 +157,7 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
         return;
     }
     if (m_downloader) {
-        if (!silent && m_downloader->isSilent()) {
+        if (!silent) {
             m_downloader->disableSilent();
         }
         return;

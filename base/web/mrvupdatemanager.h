@@ -55,7 +55,10 @@ public:
     static QString lastCheckForUpdatesKey();
 
 public Q_SLOTS:
-    /** Checks, and tells what comes of it. A silent check that is running becomes such a check. */
+    /**
+     * Checks, and tells what comes of it. A silent check that is running becomes such a check; the dialog of one is brought
+     * to the front.
+     */
     void checkForUpdates();
     /** Checks, and tells of a newer version only. */
     void checkForUpdatesSilent();
