@@ -260,7 +260,7 @@ private Q_SLOTS:
         QVERIFY(writeBytes(model.xmlFilePath(), feedOf("3.0.0.0|morvane.run|http://d/")));
         if (!key.isEmpty())
             QCOMPARE(model.setPublicKey(key == "key" ? bytesOf(data + "key.pub") : key.toUtf8()),
-                     key == "key");
+                     !told.contains("no valid key"));
         model.readXML();
         const Told heard(model);
         if (!installer.isEmpty())
@@ -313,6 +313,8 @@ private Q_SLOTS:
         QCOMPARE(heard.join(';'), said.replace("@tmp", m_folder->path()));
         QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
         QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
+        // What was refused is not left for somebody to open by hand.
+        QVERIFY(said.contains("install") || !QFileInfo(m_folder->filePath("morvane.run")).isFile());
     }
 
     void endsEarly_data()
@@ -592,6 +594,13 @@ private:
             QCoreApplication::setApplicationName(plant);
         else if (words[0] == "link")
             QVERIFY(QFile::link(place(2), place(1)));
+        else if (words[0] == "hard-link")
+            QCOMPARE(::link(QFile::encodeName(place(2)), QFile::encodeName(place(1))), 0);
+        else if (words[0] == "strangers" && getuid() == 0)
+            QVERIFY(writeBytes(place(1), feedOf("9.9.9.0|evil.run|http://evil.example/"))
+                    && chown(QFile::encodeName(place(1)), 65534, 65534) == 0);
+        else if (words[0] == "strangers")
+            QSKIP("only the superuser has files of others");
         else if (words[0] == "folder")
             QVERIFY(QDir().mkdir(place(1)));
         else if (words[0] == "pipe")

@@ -34,6 +34,7 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
 {
     // Without a parent: windows that are open now may be closed before the check ends.
     m_dialog = new MRVCheckForUpdatesDialog(m_model->releaseNotesUrl());
+    connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::removeRefused);
     connect(m_model, &MRVUpdateModel::updateError, m_dialog, &MRVCheckForUpdatesDialog::statusMsg);
     connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::errorMsg);
     connect(m_model, &MRVUpdateModel::updateAvailable, this, &MRVUpdateDownloader::updateAvailable);
@@ -107,10 +108,20 @@ void MRVUpdateDownloader::removePlantedLink()
     }
 }
 
+// An installer that was refused must not lie about under its name, for somebody to open by hand.
+void MRVUpdateDownloader::removeRefused()
+{
+    if (m_step != Step::Feed) {
+        QFile::remove(m_model->downloadFilePath());
+        QFile::remove(m_model->signatureFilePath());
+    }
+}
+
 void MRVUpdateDownloader::onDownloaded()
 {
     // Where a redirect is not followed, its own page is what has been downloaded.
     if (m_redirects->hasRefused()) {
+        QFile::remove(m_path);
         tellDownloadError(tr("The server sent the download on to an address that is not safe."));
     } else if (m_step == Step::Feed) {
         m_model->readXML();
@@ -139,6 +150,9 @@ void MRVUpdateDownloader::tellDownloadError(const QString &error)
 {
     // What goes wrong after the feed was judged is told where the user asked for it.
     if (m_model->isNewerAvailable()) {
+        if (m_step == Step::Signature) {
+            removeRefused();
+        }
         if (m_dialog) {
             m_dialog->errorMsg(error);
         }

@@ -74,6 +74,7 @@ private:
 
     bool download(Step step, const QString &url, const QString &path);
     void removePlantedLink();
+    void removeRefused();
     void onDownloaded();
     void onInstallerDownloaded();
     void tellDownloadError(const QString &error);

@@ -18,6 +18,7 @@
 
 namespace {
 
+constexpr int LongestVersion = 100;
 // As much of an installer is looked at.
 constexpr int InstallerSample = 100000;
 
@@ -142,7 +143,8 @@ void MRVUpdateModel::compareVersions()
     bool isAvailableNumber = false;
     const int currentDigits = digits(current, &isCurrentNumber);
     const int availableDigits = digits(m_availableVersion, &isAvailableNumber);
-    if (!isCurrentNumber || !isAvailableNumber) {
+    // Full stops are no digits: a small number may have as many as a feed has room for, and the dialog would show them.
+    if (!isCurrentNumber || !isAvailableNumber || m_availableVersion.size() > LongestVersion) {
         Q_EMIT updateError(
             tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
                "issue quickly")
