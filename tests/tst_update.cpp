@@ -380,6 +380,59 @@ private Q_SLOTS:
         QTRY_VERIFY(web.asked.contains("/update.xml"));
     }
 
+    void endsOnce_data()
+    {
+        addRows("update-signals.tsv", {"case", "silent", "feed", "installer", "user", "expected"});
+    }
+    // In order, and nothing after the end, whatever is asked then.
+    void endsOnce()
+    {
+        QFETCH(QString, feed);
+        QFETCH(QString, installer);
+        QFETCH(QString, user);
+        Web web;
+        web.answers = {{"/update.xml", feed}, {"/morvane.run", installer}};
+        plantIn(QString());
+        MRVUpdateDownloader check;
+        QStringList heard;
+        using D = MRVUpdateDownloader;
+        connect(&check, &D::updateChecked, [&] { heard << "checked"; });
+        connect(&check, &D::finished, [&] { heard << "finished"; });
+        connect(&check, QOverload<QString>::of(&D::installRequested),
+                [&](const QString &path) { heard << "install " + QFileInfo(path).fileName(); });
+        QStringList said;
+        Boxes boxes(&said);
+        boxes.callOnTimeout([&] {
+            if (!said.isEmpty() && said.takeFirst().startsWith("Check for Updates: "))
+                heard << "box";
+        });
+        QFETCH(QString, silent);
+        QVERIFY(check.startUpdate(!silent.isEmpty()));
+        QCOMPARE(check.isSilent(), !silent.isEmpty());
+        QTRY_VERIFY(heard.contains("finished") || shownDialog());
+        if (shownDialog()) {
+            QVERIFY(!check.isSilent());
+            QTest::keyClick(shownDialog()->findChild<QPushButton *>("downloadButton"),
+                            Qt::Key_Space);
+            if (user == "installs") {
+                QTRY_VERIFY(enabledButton("installButton"));
+                QTest::keyClick(enabledButton("installButton"), Qt::Key_Space);
+            } else if (user == "closes") {
+                shownDialog()->close();
+            }
+        }
+        QFETCH(QString, expected);
+        QTRY_COMPARE(heard.join(';'), expected);
+        check.cancelUpdate();
+        check.errorMsg("late");
+        check.updateAvailable(true);
+        check.downloadInstaller();
+        check.installRequested();
+        QTest::qWait(20);
+        QCOMPARE(heard.join(';'), expected);
+        QVERIFY(!shownDialog());
+    }
+
     // The dialog may have been forgotten under other windows.
     void comesToTheFront()
     {
