@@ -207,6 +207,7 @@ void MRVUpdateDownloader::updateAvailable(bool available)
         }
         return;
     }
+    m_isTelling = true;
     if (!m_silent) {
         tell(QMessageBox::Information, tr("Check for Updates"),
              tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
@@ -260,6 +261,7 @@ void MRVUpdateDownloader::installRequested()
     if (m_ended) {
         return;
     }
+    m_isTelling = true;
     const QPointer<MRVUpdateDownloader> self(this);
     if (!confirmInstaller()) {
         if (self) {

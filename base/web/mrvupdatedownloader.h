@@ -88,6 +88,6 @@ private:
     Step m_step = Step::Feed;
     QString m_path; // of the file that is being downloaded
     bool m_ended = false;
-    bool m_isTelling = false; // a fault, which ends the check
+    bool m_isTelling = false; // what ends the check
     bool m_installerWanted = false; // asked for before the feed was judged
 };
