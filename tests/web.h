@@ -11,12 +11,13 @@
 
 static const QString data = MRV_SOURCE_DIR "/tests/data/update/";
 
-// "version|file name|base URL", or a feed as it stands, also behind "padded SIZE ".
+// "version|file name|base URL", or a feed as it stands, or after "padded SIZE " with so many bytes before and after it.
 inline QByteArray feedOf(const QString &text)
 {
     if (text.startsWith("padded ")) {
-        return "<!--" + QByteArray(text.section(' ', 1, 1).toInt(), 'x') + "-->"
-            + text.section(' ', 2).toUtf8();
+        const int size = text.section(' ', 1, 1).toInt();
+        return "<!--" + QByteArray(size, 'x') + "-->" + text.section(' ', 2).toUtf8()
+            + QByteArray(size, ' ');
     }
     const QStringList parts = text.split('|');
     return parts.size() != 3
