@@ -301,16 +301,21 @@ void tst_Translations::texts_data()
     });
     row("form", "Nach Updates suchen",
         [] { return MRVCheckForUpdatesDialog(QString()).windowTitle(); });
-    row("password", "HTTP-Anmeldung erforderlich, a bei http://b", [] {
+    const QString address = "http://b/" + QString("c/").repeated(80);
+    row("password", "HTTP-Anmeldung erforderlich, a bei " + address, [address] {
         QString shown;
         QTimer::singleShot(0, qApp, [&shown] {
             QWidget *const dialog = QApplication::activeModalWidget();
             shown = dialog->windowTitle();
-            for (const QLabel *label : dialog->findChildren<QLabel *>("siteDescription"))
-                shown += ", " + label->text();
+            for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+                if (label->objectName() == "siteDescription")
+                    shown += ", " + label->text();
+                if (label->height() < label->heightForWidth(label->width()))
+                    shown += ", cut off: " + label->text();
+            }
             dialog->close();
         });
-        MRVDownloadUserInput().authenticate("a", QUrl("http://b"), nullptr, nullptr);
+        MRVDownloadUserInput().authenticate("a", QUrl(address), nullptr, nullptr);
         return shown;
     });
 }
