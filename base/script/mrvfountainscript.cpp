@@ -1,5 +1,6 @@
 #include "script/mrvfountain.h"
 #include "script/mrvfountainsyntax_p.h"
+#include "script/mrvtitlepage_p.h"
 
 #include <algorithm>
 
@@ -341,11 +342,8 @@ QString MRVFountainTitle::text() const
 
 QString MRVFountainScript::title(const QString &key) const
 {
-    for (const MRVFountainTitle &title : titles) {
-        if (title.key.compare(key, Qt::CaseInsensitive) == 0)
-            return title.text();
-    }
-    return QString();
+    const int index = mrvIndexOfTitle(titles, key);
+    return index < 0 ? QString() : titles.at(index).text();
 }
 
 MRVFountainScript MRVFountainScript::normalized() const
