@@ -116,6 +116,8 @@ private Q_SLOTS:
     void texts();
     void randomScripts();
     void randomTexts();
+    void revisions_data() { addRows("fountain-revisions.tsv", {"name", "text", "revised"}); }
+    void revisions();
     void renames_data()
     {
         addRows("scriptrenames.tsv", {"name", "text", "from", "to", "scope", "count", "renamed"});
@@ -161,7 +163,30 @@ void TestFountain::randomScripts()
             QCOMPARE(dump(read), dump(normal));
         }
         QCOMPARE(dump(normal.normalized()), dump(normal));
+        // As a revision of another text, of as many elements where that can be had.
+        const MRVFountainScript other = randomScript(&random);
+        const QString revised = script.toText(QString(other.toText()).replace('\n', "\r\n"));
+        QCOMPARE(dump(MRVFountainScript::fromText(revised)), dump(normal));
     }
+}
+
+// Bob becomes Robert in each text; nothing else changes that need not.
+void TestFountain::revisions()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, revised);
+    for (QString *each : {&text, &revised})
+        each->replace("<BOM>", QChar(QChar::ByteOrderMark));
+    MRVFountainScript script = MRVFountainScript::fromText(text);
+    for (Element &element : script.elements) {
+        for (Run &run : element.runs)
+            run.text.replace("BOB", "ROBERT");
+    }
+    for (MRVFountainTitle &title : script.titles) {
+        for (Run &run : title.value)
+            run.text.replace("BOB", "ROBERT");
+    }
+    QCOMPARE(script.toText(text), revised);
 }
 
 void TestFountain::randomTexts()
@@ -174,6 +199,7 @@ void TestFountain::randomTexts()
             text += randomText(&random, true);
         const MRVFountainScript read = MRVFountainScript::fromText(text);
         QCOMPARE(dump(read.normalized()), dump(read));
+        QCOMPARE(read.toText(text), text);
         const MRVFountainScript again = MRVFountainScript::fromText(read.toText());
         if (again != read) {
             qWarning("seed %d:\n%s\n-- written:\n%s", seed, qPrintable(text),
