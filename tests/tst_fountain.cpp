@@ -116,6 +116,8 @@ private Q_SLOTS:
     void texts();
     void randomScripts();
     void randomTexts();
+    void revisions_data() { addRows("fountain-revisions.tsv", {"name", "text", "revised"}); }
+    void revisions();
     void renames_data()
     {
         addRows("scriptrenames.tsv", {"name", "text", "from", "to", "scope", "count", "renamed"});
@@ -161,7 +163,30 @@ void TestFountain::randomScripts()
             QCOMPARE(dump(read), dump(normal));
         }
         QCOMPARE(dump(normal.normalized()), dump(normal));
+        // As a revision of another text, of as many elements where that can be had.
+        const MRVFountainScript other = randomScript(&random);
+        const QString revised = script.toText(QString(other.toText()).replace('\n', "\r\n"));
+        QCOMPARE(dump(MRVFountainScript::fromText(revised)), dump(normal));
     }
+}
+
+// Bob becomes Robert in each text; nothing else changes that need not.
+void TestFountain::revisions()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, revised);
+    for (QString *each : {&text, &revised})
+        each->replace("<BOM>", QChar(QChar::ByteOrderMark));
+    MRVFountainScript script = MRVFountainScript::fromText(text);
+    for (Element &element : script.elements) {
+        for (Run &run : element.runs)
+            run.text.replace("BOB", "ROBERT");
+    }
+    for (MRVFountainTitle &title : script.titles) {
+        for (Run &run : title.value)
+            run.text.replace("BOB", "ROBERT");
+    }
+    QCOMPARE(script.toText(text), revised);
 }
 
 void TestFountain::randomTexts()
@@ -174,6 +199,7 @@ void TestFountain::randomTexts()
             text += randomText(&random, true);
         const MRVFountainScript read = MRVFountainScript::fromText(text);
         QCOMPARE(dump(read.normalized()), dump(read));
+        QCOMPARE(read.toText(text), text);
         const MRVFountainScript again = MRVFountainScript::fromText(read.toText());
         if (again != read) {
             qWarning("seed %d:\n%s\n-- written:\n%s", seed, qPrintable(text),
@@ -292,13 +318,18 @@ void TestFountain::pages()
         const MRVFountainScript script = randomScript(&random).normalized();
         MRVFountainScript read;
         QString error;
-        if (script == MRVFountainScript())
-            continue;
         QVERIFY2(MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script, "en"), &read, &error),
                  qPrintable(error));
-        // XML has no U+FFFE, and a text of nothing else is none.
         QCOMPARE(dump(read), dump(script));
+        // Of a title page, Final Draft keeps all but where notes end.
+        MRVFountainScript titles;
+        for (const MRVFountainTitle &title : script.titles)
+            titles.titles.append({title.key, {{title.text(), {}, Run::Text}}});
+        titles = titles.normalized();
+        QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(titles), &read));
+        QCOMPARE(dump(read), dump(titles));
     }
+    QVERIFY(!MRVFountainHtml::toHtml(MRVFountainScript::fromText("A\n\n\n\nB")).contains("<p/>"));
 }
 
 void TestFountain::finalDraft()
@@ -312,6 +343,11 @@ void TestFountain::finalDraft()
     MRVFountainScript read;
     QVERIFY(MRVFinalDraft::fromXml(xml, &read));
     QCOMPARE(read.toText(), text);
+    // Keys that the places on the page do not tell are written.
+    const QString odd = "Author: A\nTitle: B: C\nauthor: D\nCredit: Story\nWGA #: 1-2\nnotes: n\n"
+                        "Contact: Phone: 1\nDate: 2\nSource: by E\n\nF\n";
+    QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(MRVFountainScript::fromText(odd)), &read));
+    QCOMPARE(read.toText(), odd);
     // What stands around the script is no part of it, and a scene's summary is a synopsis.
     const QString paragraph = "<Paragraph Type='%1'>%2<Text>%3</Text></Paragraph>";
     const QString foreign = "<HeaderAndFooter><Header>" + paragraph.arg("", "", "header")
@@ -368,10 +404,11 @@ void TestFountain::printedDocument()
     MRVScriptMode mode;
     mode.loadFactoryDefaults();
     QTextDocument document;
-    const QString text = "# A\n\nint. b #2#\n\nC [[d]]/* e */\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
+    const QString text =
+        "Title: T\nWGA #: 1\n\n# A\n\nint. b #2#\n\nC [[d]]/* e */\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
     MRVScriptDocument::setPrintedScript(&document, MRVFountainScript::fromText(text), mode);
-    QCOMPARE(document.toPlainText(), QString("2 INT. B\nC \nAL (h)\nI"));
-    QCOMPARE(document.begin().blockFormat().headingLevel(), 1);
+    QCOMPARE(document.toPlainText(), QString("T\nWGA #: 1\n2 INT. B\nC \nAL (h)\nI"));
+    QCOMPARE(document.findBlockByNumber(2).blockFormat().headingLevel(), 1);
     QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 72.0);
     QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 108.0);
 }

@@ -17,7 +17,8 @@
  * The format does not say which line of a title page is what: reading it takes the first centred one as
  * the title, "written by" and the like as the credit, the one behind as the author, other centred ones
  * as the source, those on the right as the date of the draft and the rest as contact, unless they begin
- * with a key, as they are written: "Copyright: ...".
+ * with a key: "Copyright: ...", or, where centred, one that belongs there: "Source: ...". Keys are written
+ * where reading would not find out by itself.
  *
  * @since 1.0
  */

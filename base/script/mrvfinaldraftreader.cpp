@@ -1,7 +1,7 @@
 #include "script/mrvfinaldraft.h"
 #include "script/mrvscriptxml_p.h"
+#include "script/mrvtitlepage_p.h"
 
-#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 namespace {
@@ -179,37 +179,29 @@ void FinalDraftReader::startElement()
 // The format does not say what the lines of a title page are.
 void FinalDraftReader::addTitle()
 {
-    static const QRegularExpression credit(QStringLiteral("\\bby\\b"),
-                                           QRegularExpression::CaseInsensitiveOption);
     if (m_element.text().trimmed().isEmpty())
         return;
-    const auto has = [this](const char *key) {
-        return !m_script.title(QLatin1String(key)).isEmpty();
-    };
-    QString key = QStringLiteral("Contact");
-    if (m_alignment == QLatin1String("Center")) {
-        const bool isCredit = !has("Credit") && m_element.text().contains(credit);
-        key = !has("Title") ? QStringLiteral("Title")
-            : isCredit      ? QStringLiteral("Credit")
-            : has("Author") ? QStringLiteral("Source")
-                            : QStringLiteral("Author");
-    } else if (m_alignment == QLatin1String("Right")) {
-        key = QStringLiteral("Draft date");
+    const Qt::AlignmentFlag alignment = m_alignment == QLatin1String("Center") ? Qt::AlignHCenter
+        : m_alignment == QLatin1String("Right")                                ? Qt::AlignRight
+                                                                               : Qt::AlignLeft;
+    Run &first = m_element.runs.first();
+    const int length = first.kind == Run::Text ? mrvShownTitleKeyLength(alignment, first.text) : 0;
+    if (length > 0) {
+        const QString key = first.text.left(length);
+        first.text.remove(0, length + 2);
+        m_script.titles.append({key, m_element.runs});
+        return;
     }
-    static const QRegularExpression named(QStringLiteral("^(\\p{Lu}[\\p{L} ]{1,30}): "));
-    const QRegularExpressionMatch match = named.match(m_element.runs.constFirst().text);
-    if (m_alignment != QLatin1String("Center") && match.hasMatch()) {
-        key = match.captured(1);
-        m_element.runs.first().text.remove(0, match.capturedLength());
+    // What goes on in a further paragraph.
+    const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_script.titles);
+    const int earlier = mrvIndexOfTitle(m_script.titles, key);
+    if (earlier >= 0) {
+        MRVFountainTitle &title = m_script.titles[earlier];
+        title.value.append({QStringLiteral("\n"), {}, Run::Text});
+        title.value += m_element.runs;
+    } else {
+        m_script.titles.append({key, m_element.runs});
     }
-    for (MRVFountainTitle &title : m_script.titles) {
-        if (title.key == key) {
-            title.value.append({QStringLiteral("\n"), {}, Run::Text});
-            title.value += m_element.runs;
-            return;
-        }
-    }
-    m_script.titles.append({key, m_element.runs});
 }
 
 void FinalDraftReader::endParagraph()

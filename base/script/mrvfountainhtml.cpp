@@ -2,6 +2,7 @@
 
 #include "core/mrvxmltext.h"
 #include "script/mrvscriptxml_p.h"
+#include "script/mrvtitlepage_p.h"
 
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -12,6 +13,7 @@ using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
 constexpr int MaxDepth = 256;
+constexpr char BodyClass[] = "script"; // tells a page of an empty script from any other
 
 struct KindRow
 {
@@ -65,6 +67,7 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .dual .dialogue, .dual .lyrics { margin: 0; }
 .title-page { min-height: 9in; text-align: center; break-after: page; }
 .title-page [data-key='Title'] { margin-top: 3in; }
+.title[data-label]::before { content: attr(data-label); }
 .page-break { break-after: page; border: 0; margin: 24pt 0 0; }
 .note, .boneyard, .section, .synopsis { display: none; }
 @media print { body { margin: 0; } }
@@ -124,7 +127,7 @@ void HtmlWriter::write(const MRVFountainScript &script, const QString &language)
     }
     breakLine();
     writeHead(script.title(QStringLiteral("Title")).simplified());
-    m_xml.writeStartElement(QStringLiteral("body"));
+    start("body", QLatin1String(BodyClass));
     breakLine();
     writeTitles(script.titles);
     const QVector<MrvSpeeches> parts = mrvSpeeches(script.elements);
@@ -145,6 +148,10 @@ void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
         breakLine();
         start("p", QStringLiteral("title"));
         m_xml.writeAttribute(QStringLiteral("data-key"), mrvXmlText(title.key));
+        if (mrvIsTitleKeyShown(title.key)) {
+            m_xml.writeAttribute(QStringLiteral("data-label"),
+                                 mrvXmlText(mrvTitleLabel(title.key)));
+        }
         writeRuns(title.value);
         m_xml.writeEndElement();
     }
@@ -218,6 +225,7 @@ void HtmlWriter::writeText(const QString &text)
 
 void HtmlWriter::writeRuns(const MRVFountainRuns &runs)
 {
+    m_xml.writeCharacters(QString()); // HTML knows no <p/>
     for (const Run &run : runs) {
         int open = 0;
         for (const auto &row : styles) {
@@ -266,6 +274,7 @@ private:
     MRVFountainScript m_script;
     Element m_element;
     MRVFountainTitle m_title;
+    bool m_isScript = false;
     bool m_isTitle = false;
     bool m_inParagraph = false;
     bool m_isNewRun = false;
@@ -299,6 +308,8 @@ void HtmlReader::startElement()
     level.isParagraph = level.isObject = false;
     const QStringRef tag = m_xml.name();
     const QString className = m_xml.attributes().value(QLatin1String("class")).toString();
+    m_isScript =
+        m_isScript || (tag == QLatin1String("body") && className == QLatin1String(BodyClass));
     if (!m_inParagraph) {
         level.isParagraph = m_inParagraph = startParagraph(className);
     } else if (tag == QLatin1String("br")) {
@@ -368,7 +379,8 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
             break;
         }
     }
-    if (!m_xml.hasError() && m_script.titles.isEmpty() && m_script.elements.isEmpty()) {
+    if (!m_xml.hasError() && !m_isScript && m_script.titles.isEmpty()
+        && m_script.elements.isEmpty()) {
         m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
     }
     if (!mrvIsXmlRead(m_xml, error))
