@@ -205,7 +205,7 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
     </message>
     <message>
         <source>It is larger than %1 bytes</source>
-        <translation>Es ist größer als %1 Bytes</translation>
+        <translation>Der Inhalt ist größer als %1 Bytes</translation>
     </message>
     <message>
         <source>Download Aborted</source>
@@ -415,7 +415,7 @@ Fehler: %2</translation>
     </message>
     <message>
         <source>Rose</source>
-        <translation>Rosé</translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Slate</source>
