@@ -37,7 +37,8 @@ public:
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @return false, with @p script untouched, where it is not well-formed, has another root element
-     * than "FinalDraft", or elements within elements beyond 256 levels.
+     * than "FinalDraft", elements within elements beyond 256 levels, or a tag with more than 64
+     * attributes.
      */
     static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr);
 };

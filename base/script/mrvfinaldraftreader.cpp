@@ -1,4 +1,5 @@
 #include "script/mrvfinaldraft.h"
+#include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
 #include "script/mrvtitlepage_p.h"
 
@@ -37,7 +38,7 @@ constexpr struct
 class FinalDraftReader
 {
 public:
-    explicit FinalDraftReader(const QByteArray &xml)
+    explicit FinalDraftReader(const QString &xml)
         : m_xml(xml)
     {
     }
@@ -290,5 +291,6 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
 
 bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error)
 {
-    return FinalDraftReader(xml).read(script, error);
+    QString text;
+    return scriptXmlText(xml, &text, error) && FinalDraftReader(text).read(script, error);
 }

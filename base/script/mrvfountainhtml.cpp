@@ -1,6 +1,7 @@
 #include "script/mrvfountainhtml.h"
 
 #include "core/mrvxmltext.h"
+#include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
 #include "script/mrvtitlepage_p.h"
 
@@ -248,7 +249,7 @@ void HtmlWriter::writeRuns(const MRVFountainRuns &runs)
 class HtmlReader
 {
 public:
-    explicit HtmlReader(const QByteArray &html)
+    explicit HtmlReader(const QString &html)
         : m_xml(html)
     {
     }
@@ -405,5 +406,6 @@ QByteArray MRVFountainHtml::toHtml(const MRVFountainScript &script, const QStrin
 
 bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error)
 {
-    return HtmlReader(html).read(script, error);
+    QString text;
+    return scriptXmlText(html, &text, error) && HtmlReader(text).read(script, error);
 }

@@ -41,7 +41,8 @@ public:
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @return false, with @p script untouched, where the page is not well-formed, has no paragraph of
-     * a script, or has elements within elements beyond 256 levels.
+     * a script, has elements within elements beyond 256 levels, or a tag with more than 64
+     * attributes.
      */
     static bool fromHtml(const QByteArray &html, MRVFountainScript *script,
                          QString *error = nullptr);
