@@ -21,6 +21,13 @@ QString lineEndOf(const QString &text)
 }
 
 // Walks over a text as it was typed, by positions of its plain form.
+// What plainText() leaves out. (Halves of pairs no file holds.)
+bool isLeftOut(QChar c)
+{
+    const ushort code = c.unicode();
+    return (code < 0x20 && (code < u'\t' || code > u'\r')) || code >= 0xFFFE;
+}
+
 class Source
 {
 public:
@@ -41,9 +48,10 @@ public:
     }
     void skipTo(int position)
     {
-        for (; m_position < position && m_at < m_text.size(); ++m_position) {
+        while (m_position < position && m_at < m_text.size()) {
             const bool isPair = m_text.at(m_at) == u'\r' && m_at + 1 < m_text.size()
                 && m_text.at(m_at + 1) == u'\n';
+            m_position += isLeftOut(m_text.at(m_at)) ? 0 : 1;
             m_at += isPair ? 2 : 1;
         }
     }
