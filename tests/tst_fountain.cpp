@@ -176,7 +176,9 @@ void TestFountain::revisions()
     QFETCH(QString, text);
     QFETCH(QString, revised);
     for (QString *each : {&text, &revised})
-        each->replace("<BOM>", QChar(QChar::ByteOrderMark)).replace("<SOH>", QChar(1));
+        each->replace("<BOM>", QChar(QChar::ByteOrderMark))
+            .replace("<SOH>", QChar(1))
+            .replace("<HALF>", QChar(0xD800));
     MRVFountainScript script = MRVFountainScript::fromText(text);
     for (Element &element : script.elements) {
         for (Run &run : element.runs)

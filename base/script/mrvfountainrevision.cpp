@@ -1,6 +1,8 @@
 #include "script/mrvfountain.h"
 #include "script/mrvfountainsyntax_p.h"
 
+#include <climits>
+
 using namespace MrvFountain;
 
 namespace {
@@ -21,7 +23,7 @@ QString lineEndOf(const QString &text)
 }
 
 // Walks over a text as it was typed, by positions of its plain form.
-// What plainText() leaves out. (Halves of pairs no file holds.)
+// What plainText() leaves out, but for halves of pairs, which no file holds.
 bool isLeftOut(QChar c)
 {
     const ushort code = c.unicode();
@@ -66,6 +68,11 @@ private:
     int m_position = 0; // of the plain text
 };
 
+QVector<Patch> whole(const QString &text)
+{
+    return {{{0, INT_MAX}, text}};
+}
+
 QVector<Patch> patches(const MRVFountainScript &script, const QString &plain)
 {
     TextRanges oldRanges;
@@ -73,7 +80,7 @@ QVector<Patch> patches(const MRVFountainScript &script, const QString &plain)
     const MRVFountainScript old = scriptOf(plain, &oldRanges);
     const QString text = textOf(script, &newRanges);
     if (old.elements.size() != script.elements.size())
-        return {{{0, plain.size()}, text}};
+        return whole(text);
     QVector<Patch> patches;
     const auto add = [&](const Range &range, const Range &with) {
         patches.append({range, text.mid(with.start, with.end - with.start)});
@@ -114,6 +121,5 @@ QString MRVFountainScript::toText(const QString &source) const
     const QString plain = plainText(source);
     const QString revised = patched(source, patches(normal, plain));
     // Lines are read by what stands around them, so that some cannot be changed alone.
-    return fromText(revised) == normal ? revised
-                                       : patched(source, {{{0, plain.size()}, textOf(normal)}});
+    return fromText(revised) == normal ? revised : patched(source, whole(textOf(normal)));
 }
