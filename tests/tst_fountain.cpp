@@ -115,6 +115,7 @@ private Q_SLOTS:
     void texts_data() { addRows("fountain.tsv", {"name", "text", "dumped", "written"}); }
     void texts();
     void randomScripts();
+    void longKey();
     void randomTexts();
     void revisions_data() { addRows("fountain-revisions.tsv", {"name", "text", "revised"}); }
     void revisions();
@@ -168,6 +169,15 @@ void TestFountain::randomScripts()
         const QString revised = script.toText(QString(other.toText()).replace('\n', "\r\n"));
         QCOMPARE(dump(MRVFountainScript::fromText(revised)), dump(normal));
     }
+}
+
+// Hours, unless it takes time linear in the key.
+void TestFountain::longKey()
+{
+    MRVFountainScript script;
+    script.titles = {{QString(1 << 20, '!') + QString(1 << 20, '*') + "int. a", {}},
+                     {"b", {{"c", {}, Run::Text}}}};
+    QCOMPARE(script.normalized().titles.constFirst().key, QString("nt. a"));
 }
 
 // Bob becomes Robert in each text; nothing else changes that need not.
