@@ -75,6 +75,7 @@ struct ScriptFile
     MRVFountainScript script;
     QString text; // of a Fountain script, as it was typed
     QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
+    QStringList leftOut; // sections of a Final Draft document
 };
 
 // Reads a script; @p error names the file.
@@ -96,7 +97,7 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
     if (file->format == Format::Html) {
         ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason);
     } else if (file->format == Format::FinalDraft) {
-        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason);
+        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason, &file->leftOut);
     } else if (file->format == Format::Fountain) {
         ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file->text, &reason);
         file->codec = QTextCodec::codecForUtfText(bytes, nullptr);
@@ -185,6 +186,15 @@ bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
         return writeStandardOutput(bytes, error);
     }
     return writeWithFolders(bytes, file, error);
+}
+
+// Behind the writing of a script, which may yet fail.
+void tellLeftOut(const ScriptFile &file)
+{
+    if (!file.leftOut.isEmpty()) {
+        printError(QStringLiteral("%1: without what stands in %2")
+                       .arg(file.path, file.leftOut.join(QLatin1String(", "))));
+    }
 }
 
 bool isSameFile(const QString &a, const QString &b)
@@ -346,6 +356,7 @@ int runScriptConvert(const QStringList &arguments)
         || !writeScript(bytes, options.output, &error)) {
         return failure(error);
     }
+    tellLeftOut(script);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
@@ -524,6 +535,7 @@ int runScriptRename(const QStringList &arguments)
     if (!writeScript(revisedBytes(file), target, &error)) {
         return failure(error);
     }
+    tellLeftOut(file);
     if (target != StandardStream && parser.isSet(QStringLiteral("json"))) {
         printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
     } else if (target != StandardStream) {

@@ -364,15 +364,23 @@ void TestFountain::finalDraft()
     const QString paragraph = "<Paragraph Type='%1'>%2<Text>%3</Text></Paragraph>";
     const QString foreign = "<HeaderAndFooter><Header>" + paragraph.arg("", "", "header")
         + "</Header></HeaderAndFooter>";
-    const QString summary = "<SceneProperties><Summary>" + paragraph.arg("", "", "why")
-        + "</Summary></SceneProperties>";
+    const QString summary = "<SceneProperties Title='S'><SceneArcBeats><CharacterArcBeat Name='B'>"
+        + paragraph.arg("", "", "ails") + "</CharacterArcBeat></SceneArcBeats><Summary>"
+        + paragraph.arg("", "", "why") + "</Summary></SceneProperties>";
+    const QString note = "<ScriptNote Range='%1'>" + paragraph.arg("", "", "%2") + "</ScriptNote>";
     const QString other = "<FinalDraft><Content>"
-        + paragraph.arg("Scene Heading", summary, "INT. A") + "</Content>" + foreign + "<TitlePage>"
+        + paragraph.arg("Scene Heading", summary, "INT. A") + paragraph.arg("Character", "", "B")
+        + paragraph.arg("Dialogue", "", "C") + "</Content><ScriptNotes>" + note.arg("7,8", "n")
+        + note.arg("6,7", "m") + note.arg("99,99", "o") + "</ScriptNotes>" + foreign + "<TitlePage>"
         + foreign + "<Content>"
         + QString("<Paragraph Alignment='Center'><Text>T</Text></Paragraph>")
-        + "</Content></TitlePage></FinalDraft>";
-    QVERIFY(MRVFinalDraft::fromXml(other.toUtf8(), &read));
-    QCOMPARE(read.toText().simplified(), QString("Title: T INT. A = why"));
+        + "</Content></TitlePage><ListItems>" + paragraph.arg("", "", ".")
+        + "</ListItems></FinalDraft>";
+    QStringList leftOut;
+    QVERIFY(MRVFinalDraft::fromXml(other.toUtf8(), &read, nullptr, &leftOut));
+    QCOMPARE(read.toText().simplified(),
+             QString("Title: T INT. A[[m]] = S = B: ails = why B[[n]] C[[o]]"));
+    QCOMPARE(leftOut, QStringList("HeaderAndFooter"));
 }
 
 void TestFountain::refusedXml()

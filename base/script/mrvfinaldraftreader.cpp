@@ -5,6 +5,9 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 using Element = MRVFountainElement;
@@ -44,13 +47,29 @@ public:
     }
 
     bool read(MRVFountainScript *script, QString *error);
+    /** The sections of the document that hold text and were not read. */
+    const QStringList &leftOut() const { return m_leftOut; }
 
 private:
+    struct Place
+    {
+        int start; // in the text of the document
+        int element;
+    };
+    struct PlacedNote
+    {
+        int position;
+        QString text;
+    };
+
     QString attribute(const char *name) const
     {
         return m_xml.attributes().value(QLatin1String(name)).toString();
     }
-    bool skipForeign();
+    QStringList readParagraphs();
+    void readNotes();
+    void placeNotes();
+    bool readForeign();
     void readSummary();
     void startElement();
     void endElement();
@@ -72,7 +91,11 @@ private:
     bool m_inText = false;
     bool m_isNewNote = false;
     bool m_breakPending = false;
-    QString m_summary; // of the scene whose heading is open
+    QStringList m_summary; // of the scene whose heading is open
+    int m_textLength = 0;
+    QVector<Place> m_paragraphs;
+    QVector<PlacedNote> m_notes;
+    QStringList m_leftOut;
 };
 
 void FinalDraftReader::startParagraph()
@@ -118,45 +141,108 @@ void FinalDraftReader::startText()
     m_element.runs.append({QString(), emphasis, Run::Text});
 }
 
-// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
-bool FinalDraftReader::skipForeign()
+// The paragraphs of the element that it is in, up to its end; what somebody goes through begins with the name.
+QStringList FinalDraftReader::readParagraphs()
 {
-    constexpr int BelowRoot = 2;
-    const QStringRef tag = m_xml.name();
-    const bool isForeign = m_depth == BelowRoot
-        ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
-        : m_inTitles && m_depth == BelowRoot + 1 && tag != QLatin1String("Content");
-    if (isForeign) {
-        m_xml.skipCurrentElement();
-        --m_depth;
-    }
-    return isForeign;
-}
-
-// A summary stands in its scene's heading, in paragraphs of its own.
-void FinalDraftReader::readSummary()
-{
+    QStringList paragraphs;
+    QString name;
     bool inText = false;
     for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
         const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::StartElement) {
             ++depth;
             inText = m_xml.name() == QLatin1String("Text");
-            if (m_xml.name() == QLatin1String("Paragraph") && !m_summary.isEmpty())
-                m_summary += u'\n';
+            if (m_xml.name() == QLatin1String("Paragraph")) {
+                paragraphs.append(QString());
+            } else if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
+                name = attribute("Name") + QLatin1String(": ");
+            }
         } else if (token == QXmlStreamReader::EndElement) {
             --depth;
             inText = false;
+            if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
+                name.clear();
+            }
         } else if (token == QXmlStreamReader::Characters && inText) {
-            m_summary += m_xml.text();
+            if (paragraphs.isEmpty()) {
+                paragraphs.append(QString());
+            }
+            QString &last = paragraphs.last();
+            last += last.isEmpty() ? name + m_xml.text() : m_xml.text().toString();
         }
     }
+    paragraphs.removeAll(QString());
+    return paragraphs;
+}
+
+// Notes that stand behind the script, with the place in its text that each is about: "12,20".
+void FinalDraftReader::readNotes()
+{
+    while (m_xml.readNextStartElement()) {
+        const int position = attribute("Range").section(u',', 0, 0).toInt();
+        const QString text = readParagraphs().join(u'\n');
+        if (!text.isEmpty()) {
+            m_notes.append({position, text});
+        }
+    }
+}
+
+// In the paragraphs that they are about, so that they part no cue from what is said.
+void FinalDraftReader::placeNotes()
+{
+    for (const PlacedNote &note : qAsConst(m_notes)) {
+        const auto behind = std::upper_bound(
+            m_paragraphs.cbegin(), m_paragraphs.cend(), note.position,
+            [](int position, const Place &place) { return position < place.start; });
+        if (behind == m_paragraphs.cbegin()) {
+            m_script.elements.append(Element(Element::Note, note.text));
+        } else {
+            Element &element = m_script.elements[std::prev(behind)->element];
+            const bool isObject =
+                element.kind == Element::Note || element.kind == Element::Boneyard;
+            element.runs.append({isObject ? u'\n' + note.text : note.text, {}, Run::Note});
+        }
+    }
+}
+
+// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
+bool FinalDraftReader::readForeign()
+{
+    constexpr int BelowRoot = 2;
+    const QString tag = m_xml.name().toString();
+    const bool isForeign = m_depth == BelowRoot
+        ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
+        : m_inTitles && m_depth == BelowRoot + 1 && tag != QLatin1String("Content");
+    if (!isForeign)
+        return false;
+    if (tag == QLatin1String("ScriptNotes")) {
+        readNotes();
+    } else {
+        const QString text = readParagraphs().join(QString());
+        // The page number and its dot are in each header.
+        if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })
+            && !m_leftOut.contains(tag)) {
+            m_leftOut.append(tag);
+        }
+    }
+    --m_depth;
+    return true;
+}
+
+// What a scene is about stands in its heading, in paragraphs of its own.
+void FinalDraftReader::readSummary()
+{
+    const QString title = attribute("Title");
+    if (!title.isEmpty()) {
+        m_summary.append(title);
+    }
+    m_summary += readParagraphs();
     --m_depth;
 }
 
 void FinalDraftReader::startElement()
 {
-    if (skipForeign())
+    if (readForeign())
         return;
     const QStringRef tag = m_xml.name();
     if (tag == QLatin1String("TitlePage")) {
@@ -216,6 +302,8 @@ void FinalDraftReader::endParagraph()
         m_script.elements.append(Element(Element::PageBreak, QString()));
         m_breakPending = false;
     }
+    m_paragraphs.append({m_textLength, m_script.elements.size()});
+    m_textLength += m_element.text().size() + 1;
     if (m_element.kind == Element::Parenthetical) {
         mrvRemoveBrackets(&m_element.runs);
     }
@@ -229,8 +317,7 @@ void FinalDraftReader::endParagraph()
         m_element.dual = m_dualCues++ > 0;
     }
     m_script.elements.append(m_element);
-    const QStringList summary = m_summary.split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &line : summary) {
+    for (const QString &line : qAsConst(m_summary)) {
         m_script.elements.append(Element(Element::Synopsis, line));
     }
     m_summary.clear();
@@ -283,14 +370,23 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
     }
     if (!mrvIsXmlRead(m_xml, error))
         return false;
+    placeNotes();
     *script = m_script.normalized();
     return true;
 }
 
 } // namespace
 
-bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error)
+bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error,
+                            QStringList *leftOut)
 {
     QString text;
-    return scriptXmlText(xml, &text, error) && FinalDraftReader(text).read(script, error);
+    if (!scriptXmlText(xml, &text, error))
+        return false;
+    FinalDraftReader reader(text);
+    const bool ok = reader.read(script, error);
+    if (ok && leftOut) {
+        *leftOut = reader.leftOut();
+    }
+    return ok;
 }
