@@ -75,6 +75,7 @@ struct ScriptFile
     MRVFountainScript script;
     QString text; // of a Fountain script, as it was typed
     QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
+    QString language; // of a page
     QStringList leftOut; // sections of a Final Draft document
 };
 
@@ -95,7 +96,7 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
     }
     bool ok = false;
     if (file->format == Format::Html) {
-        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason);
+        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason, &file->language);
     } else if (file->format == Format::FinalDraft) {
         ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason, &file->leftOut);
     } else if (file->format == Format::Fountain) {
@@ -168,7 +169,7 @@ QByteArray revisedBytes(const ScriptFile &file)
 {
     if (file.format != Format::Fountain) {
         QByteArray bytes;
-        scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, nullptr);
+        scriptBytes(file.script, file.format, MRVScriptMode(), file.language, &bytes, nullptr);
         return bytes;
     }
     const QString text = file.script.toText(file.text);
@@ -246,9 +247,11 @@ void addConvertOptions(QCommandLineParser *parser)
                        QStringLiteral("The mode that an e-book looks like: a factory mode's name "
                                       "or a mode file. Default: the built-in US screenplay."),
                        QStringLiteral("MODE")});
-    parser->addOption({QStringLiteral("language"),
-                       QStringLiteral("The language of a page or e-book, such as en-GB."),
-                       QStringLiteral("TAG")});
+    parser->addOption(
+        {QStringLiteral("language"),
+         QStringLiteral("The language of a page or e-book, such as en-GB. Default: that "
+                        "of the page that is read."),
+         QStringLiteral("TAG")});
     parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
 }
 
@@ -351,8 +354,12 @@ int runScriptConvert(const QStringList &arguments)
     ScriptFile script;
     QByteArray bytes;
     QString error;
-    if (!readScript(options.input, options.from, &script, &error)
-        || !scriptBytes(script.script, options.to, options.mode, options.language, &bytes, &error)
+    if (!readScript(options.input, options.from, &script, &error)) {
+        return failure(error);
+    }
+    const QString language =
+        options.language.isEmpty() ? languageTag(script.language) : options.language;
+    if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
         || !writeScript(bytes, options.output, &error)) {
         return failure(error);
     }

@@ -255,6 +255,7 @@ public:
     }
 
     bool read(MRVFountainScript *script, QString *error);
+    const QString &language() const { return m_language; }
 
 private:
     struct Level
@@ -275,6 +276,7 @@ private:
     MRVFountainScript m_script;
     Element m_element;
     MRVFountainTitle m_title;
+    QString m_language;
     bool m_isScript = false;
     bool m_isTitle = false;
     bool m_inParagraph = false;
@@ -308,6 +310,9 @@ void HtmlReader::startElement()
     Level level = m_levels.constLast();
     level.isParagraph = level.isObject = false;
     const QStringRef tag = m_xml.name();
+    if (tag == QLatin1String("html")) {
+        m_language = m_xml.attributes().value(QLatin1String("lang")).toString();
+    }
     const QString className = m_xml.attributes().value(QLatin1String("class")).toString();
     m_isScript =
         m_isScript || (tag == QLatin1String("body") && className == QLatin1String(BodyClass));
@@ -404,8 +409,16 @@ QByteArray MRVFountainHtml::toHtml(const MRVFountainScript &script, const QStrin
     return bytes;
 }
 
-bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error)
+bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error,
+                               QString *language)
 {
     QString text;
-    return scriptXmlText(html, &text, error) && HtmlReader(text).read(script, error);
+    if (!scriptXmlText(html, &text, error))
+        return false;
+    HtmlReader reader(text);
+    const bool ok = reader.read(script, error);
+    if (ok && language) {
+        *language = reader.language();
+    }
+    return ok;
 }
