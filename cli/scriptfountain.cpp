@@ -515,6 +515,9 @@ int runScriptRename(const QStringList &arguments)
     if (names.size() != 3 || names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
         return scriptUsageError(QStringLiteral("rename takes two names and a script"));
     }
+    if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
+        return scriptUsageError(QStringLiteral("a name is one line"));
+    }
     if (!isReadable(from)) {
         return unreadable(from);
     }
