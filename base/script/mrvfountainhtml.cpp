@@ -58,7 +58,9 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .character { margin-left: 2.2in; break-after: avoid; }
 .parenthetical { margin: 0 2.4in 0 1.6in; text-indent: -0.1in; break-after: avoid; }
 .dialogue { margin: 0 1.5in 0 1in; }
-.lyrics { margin: 0 1.5in 0 1.25in; font-style: italic; }
+.lyrics { margin: 12pt 1.5in 0 1.25in; font-style: italic; }
+.character + .lyrics, .parenthetical + .lyrics, .dialogue + .lyrics { margin-top: 0; }
+.lyrics[data-apart] { margin-top: 12pt; }
 .transition { text-align: right; text-transform: uppercase; }
 .centered { text-align: center; }
 .dual { display: flex; gap: 0.25in; }
