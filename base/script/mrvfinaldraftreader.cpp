@@ -73,13 +73,16 @@ private:
     void readSummary();
     void startElement();
     void endElement();
+    void beginParagraph();
     void startParagraph();
+    void startNote();
+    void endNote();
     void endParagraph();
     void startText();
     void addTitle();
 
     QXmlStreamReader m_xml;
-    int m_depth = 0;
+    QVector<bool> m_isText; // of each element that is open
     MRVFountainScript m_script;
     Element m_element;
     QString m_alignment;
@@ -88,8 +91,10 @@ private:
     int m_dualCues = -1; // cues so far in speeches side by side; -1 outside of them
     int m_firstDualCue = -1;
     Run::Kind m_runKind = Run::Text;
-    bool m_inText = false;
+    Run::Emphasis m_emphasis;
+    int m_noteDepth = 0;
     bool m_isNewNote = false;
+    bool m_isNoteAlone = false; // without a paragraph around it
     bool m_breakPending = false;
     QStringList m_summary; // of the scene whose heading is open
     int m_textLength = 0;
@@ -97,6 +102,13 @@ private:
     QVector<PlacedNote> m_notes;
     QStringList m_leftOut;
 };
+
+void FinalDraftReader::beginParagraph()
+{
+    m_element = Element();
+    m_alignment.clear();
+    m_hasParagraph = true;
+}
 
 void FinalDraftReader::startParagraph()
 {
@@ -106,9 +118,11 @@ void FinalDraftReader::startParagraph()
         }
         return;
     }
+    if (m_hasParagraph && !m_element.runs.isEmpty()) {
+        endParagraph(); // one within another
+    }
     m_breakPending = m_breakPending || attribute("StartsNewPage") == QLatin1String("Yes");
-    m_element = Element();
-    m_hasParagraph = true;
+    beginParagraph();
     m_alignment = attribute("Alignment");
     m_element.sceneNumber = attribute("Number");
     const QString type = attribute("Type");
@@ -125,7 +139,6 @@ void FinalDraftReader::startParagraph()
 
 void FinalDraftReader::startText()
 {
-    m_inText = true;
     if (m_runKind != Run::Text) {
         if (m_isNewNote) {
             m_element.runs.append({QString(), {}, m_runKind});
@@ -133,12 +146,40 @@ void FinalDraftReader::startText()
         m_isNewNote = false;
         return;
     }
-    Run::Emphasis emphasis;
+    if (!m_hasParagraph) {
+        beginParagraph();
+    }
     const QStringList names = attribute("Style").split(u'+');
-    emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
-    emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
-    emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
-    m_element.runs.append({QString(), emphasis, Run::Text});
+    m_emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
+    m_emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
+    m_emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
+    m_element.runs.append({QString(), m_emphasis, Run::Text});
+}
+
+void FinalDraftReader::startNote()
+{
+    if (m_noteDepth++ > 0)
+        return;
+    m_isNoteAlone = !m_hasParagraph;
+    if (m_isNoteAlone) {
+        beginParagraph();
+    }
+    m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
+    m_isNewNote = true;
+}
+
+void FinalDraftReader::endNote()
+{
+    if (--m_noteDepth > 0)
+        return;
+    m_runKind = Run::Text;
+    if (m_isNoteAlone && m_element.runs.isEmpty()) {
+        m_hasParagraph = false;
+    } else if (m_isNoteAlone) {
+        endParagraph();
+    } else if (!m_isText.isEmpty() && m_isText.constLast()) {
+        m_element.runs.append({QString(), m_emphasis, Run::Text}); // the text goes on
+    }
 }
 
 // The paragraphs of the element that it is in, up to its end; what somebody goes through begins with the name.
@@ -210,9 +251,9 @@ bool FinalDraftReader::readForeign()
 {
     constexpr int BelowRoot = 2;
     const QString tag = m_xml.name().toString();
-    const bool isForeign = m_depth == BelowRoot
+    const bool isForeign = m_isText.size() == BelowRoot
         ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
-        : m_inTitles && m_depth == BelowRoot + 1 && tag != QLatin1String("Content");
+        : m_inTitles && m_isText.size() == BelowRoot + 1 && tag != QLatin1String("Content");
     if (!isForeign)
         return false;
     if (tag == QLatin1String("ScriptNotes")) {
@@ -225,7 +266,7 @@ bool FinalDraftReader::readForeign()
             m_leftOut.append(tag);
         }
     }
-    --m_depth;
+    m_isText.removeLast();
     return true;
 }
 
@@ -237,7 +278,7 @@ void FinalDraftReader::readSummary()
         m_summary.append(title);
     }
     m_summary += readParagraphs();
-    --m_depth;
+    m_isText.removeLast();
 }
 
 void FinalDraftReader::startElement()
@@ -248,17 +289,16 @@ void FinalDraftReader::startElement()
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
         m_breakPending = false;
-    } else if (tag == QLatin1String("DualDialogue")) {
+    } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
         m_hasParagraph = false; // the paragraph around it has nothing of its own
         m_dualCues = 0;
-    } else if (tag == QLatin1String("ScriptNote") && m_hasParagraph) {
-        m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
-        m_isNewNote = true;
+    } else if (tag == QLatin1String("ScriptNote")) {
+        startNote();
     } else if (tag == QLatin1String("SceneProperties")) {
         readSummary();
     } else if (tag == QLatin1String("Paragraph")) {
         startParagraph();
-    } else if (tag == QLatin1String("Text") && m_hasParagraph) {
+    } else if (tag == QLatin1String("Text")) {
         startText();
     }
 }
@@ -326,11 +366,10 @@ void FinalDraftReader::endParagraph()
 void FinalDraftReader::endElement()
 {
     const QStringRef tag = m_xml.name();
-    if (tag == QLatin1String("Text")) {
-        m_inText = false;
-    } else if (tag == QLatin1String("ScriptNote")) {
-        m_runKind = Run::Text;
-    } else if (tag == QLatin1String("Paragraph") && m_runKind == Run::Text && m_hasParagraph) {
+    if (tag == QLatin1String("ScriptNote")) {
+        endNote();
+    } else if ((tag == QLatin1String("Paragraph") || tag == QLatin1String("Content"))
+               && m_noteDepth == 0 && m_hasParagraph) {
         endParagraph();
     } else if (tag == QLatin1String("DualDialogue")) {
         if (m_dualCues == 1) {
@@ -347,20 +386,21 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
     while (!m_xml.atEnd()) {
         switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (m_depth == 0 && m_xml.name() != QLatin1String("FinalDraft")) {
+            if (m_isText.isEmpty() && m_xml.name() != QLatin1String("FinalDraft")) {
                 m_xml.raiseError(MRVFinalDraft::tr("this is no Final Draft document"));
-            } else if (++m_depth > MaxDepth) {
+            } else if (m_isText.size() == MaxDepth) {
                 m_xml.raiseError(MRVFinalDraft::tr("elements are nested too deeply"));
             } else {
+                m_isText.append(m_xml.name() == QLatin1String("Text"));
                 startElement();
             }
             break;
         case QXmlStreamReader::EndElement:
-            --m_depth;
+            m_isText.removeLast();
             endElement();
             break;
         case QXmlStreamReader::Characters:
-            if (m_inText && !m_element.runs.isEmpty()) {
+            if (!m_isText.isEmpty() && m_isText.constLast() && !m_element.runs.isEmpty()) {
                 m_element.runs.last().text += m_xml.text();
             }
             break;
