@@ -75,6 +75,8 @@ struct ScriptFile
     MRVFountainScript script;
     QString text; // of a Fountain script, as it was typed
     QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
+    QString language; // of a page
+    QStringList leftOut; // sections of a Final Draft document
 };
 
 // Reads a script; @p error names the file.
@@ -94,9 +96,9 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
     }
     bool ok = false;
     if (file->format == Format::Html) {
-        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason);
+        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason, &file->language);
     } else if (file->format == Format::FinalDraft) {
-        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason);
+        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason, &file->leftOut);
     } else if (file->format == Format::Fountain) {
         ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file->text, &reason);
         file->codec = QTextCodec::codecForUtfText(bytes, nullptr);
@@ -167,7 +169,7 @@ QByteArray revisedBytes(const ScriptFile &file)
 {
     if (file.format != Format::Fountain) {
         QByteArray bytes;
-        scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, nullptr);
+        scriptBytes(file.script, file.format, MRVScriptMode(), file.language, &bytes, nullptr);
         return bytes;
     }
     const QString text = file.script.toText(file.text);
@@ -185,6 +187,15 @@ bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
         return writeStandardOutput(bytes, error);
     }
     return writeWithFolders(bytes, file, error);
+}
+
+// Behind the writing of a script, which may yet fail.
+void tellLeftOut(const ScriptFile &file)
+{
+    if (!file.leftOut.isEmpty()) {
+        printError(QStringLiteral("%1: without what stands in %2")
+                       .arg(file.path, file.leftOut.join(QLatin1String(", "))));
+    }
 }
 
 bool isSameFile(const QString &a, const QString &b)
@@ -236,9 +247,11 @@ void addConvertOptions(QCommandLineParser *parser)
                        QStringLiteral("The mode that an e-book looks like: a factory mode's name "
                                       "or a mode file. Default: the built-in US screenplay."),
                        QStringLiteral("MODE")});
-    parser->addOption({QStringLiteral("language"),
-                       QStringLiteral("The language of a page or e-book, such as en-GB."),
-                       QStringLiteral("TAG")});
+    parser->addOption(
+        {QStringLiteral("language"),
+         QStringLiteral("The language of a page or e-book, such as en-GB. Default: that "
+                        "of the page that is read."),
+         QStringLiteral("TAG")});
     parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
 }
 
@@ -341,11 +354,16 @@ int runScriptConvert(const QStringList &arguments)
     ScriptFile script;
     QByteArray bytes;
     QString error;
-    if (!readScript(options.input, options.from, &script, &error)
-        || !scriptBytes(script.script, options.to, options.mode, options.language, &bytes, &error)
+    if (!readScript(options.input, options.from, &script, &error)) {
+        return failure(error);
+    }
+    const QString language =
+        options.language.isEmpty() ? languageTag(script.language) : options.language;
+    if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
         || !writeScript(bytes, options.output, &error)) {
         return failure(error);
     }
+    tellLeftOut(script);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
@@ -497,6 +515,9 @@ int runScriptRename(const QStringList &arguments)
     if (names.size() != 3 || names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
         return scriptUsageError(QStringLiteral("rename takes two names and a script"));
     }
+    if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
+        return scriptUsageError(QStringLiteral("a name is one line"));
+    }
     if (!isReadable(from)) {
         return unreadable(from);
     }
@@ -524,6 +545,7 @@ int runScriptRename(const QStringList &arguments)
     if (!writeScript(revisedBytes(file), target, &error)) {
         return failure(error);
     }
+    tellLeftOut(file);
     if (target != StandardStream && parser.isSet(QStringLiteral("json"))) {
         printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
     } else if (target != StandardStream) {

@@ -115,6 +115,7 @@ private Q_SLOTS:
     void texts_data() { addRows("fountain.tsv", {"name", "text", "dumped", "written"}); }
     void texts();
     void randomScripts();
+    void longKey();
     void randomTexts();
     void revisions_data() { addRows("fountain-revisions.tsv", {"name", "text", "revised"}); }
     void revisions();
@@ -130,6 +131,11 @@ private Q_SLOTS:
     void statistics();
     void pages();
     void finalDraft();
+    void finalDraftParts_data()
+    {
+        addRows("finaldraft.tsv", {"name", "content", "text", "leftOut"});
+    }
+    void finalDraftParts();
     void refusedXml_data() { addRows("scriptxml-refused.tsv", {"format", "text", "error"}); }
     void refusedXml();
     void typedDocuments_data() { addRows("scriptdocuments.tsv", {"mode", "paragraphs", "text"}); }
@@ -170,13 +176,25 @@ void TestFountain::randomScripts()
     }
 }
 
+// Hours, unless it takes time linear in the key.
+void TestFountain::longKey()
+{
+    MRVFountainScript script;
+    script.titles = {{QString(1 << 20, '!') + QString(1 << 20, '*') + "int. a", {}},
+                     {"b", {{"c", {}, Run::Text}}}};
+    QCOMPARE(script.normalized().titles.constFirst().key, QString("nt. a"));
+}
+
 // Bob becomes Robert in each text; nothing else changes that need not.
 void TestFountain::revisions()
 {
     QFETCH(QString, text);
     QFETCH(QString, revised);
     for (QString *each : {&text, &revised})
-        each->replace("<BOM>", QChar(QChar::ByteOrderMark));
+        each->replace("<BOM>", QChar(QChar::ByteOrderMark))
+            .replace("<SOH>", QChar(1))
+            .replace("<HALF>", QChar(0xD800))
+            .replace("<FFFE>", QChar(0xFFFE));
     MRVFountainScript script = MRVFountainScript::fromText(text);
     for (Element &element : script.elements) {
         for (Run &run : element.runs)
@@ -348,19 +366,19 @@ void TestFountain::finalDraft()
                         "Contact: Phone: 1\nDate: 2\nSource: by E\n\nF\n";
     QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(MRVFountainScript::fromText(odd)), &read));
     QCOMPARE(read.toText(), odd);
-    // What stands around the script is no part of it, and a scene's summary is a synopsis.
-    const QString paragraph = "<Paragraph Type='%1'>%2<Text>%3</Text></Paragraph>";
-    const QString foreign = "<HeaderAndFooter><Header>" + paragraph.arg("", "", "header")
-        + "</Header></HeaderAndFooter>";
-    const QString summary = "<SceneProperties><Summary>" + paragraph.arg("", "", "why")
-        + "</Summary></SceneProperties>";
-    const QString other = "<FinalDraft><Content>"
-        + paragraph.arg("Scene Heading", summary, "INT. A") + "</Content>" + foreign + "<TitlePage>"
-        + foreign + "<Content>"
-        + QString("<Paragraph Alignment='Center'><Text>T</Text></Paragraph>")
-        + "</Content></TitlePage></FinalDraft>";
-    QVERIFY(MRVFinalDraft::fromXml(other.toUtf8(), &read));
-    QCOMPARE(read.toText().simplified(), QString("Title: T INT. A = why"));
+}
+
+void TestFountain::finalDraftParts()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, text);
+    QFETCH(QString, leftOut);
+    MRVFountainScript read;
+    QStringList sections;
+    const QByteArray xml = "<FinalDraft>" + content.toUtf8() + "</FinalDraft>";
+    QVERIFY(MRVFinalDraft::fromXml(xml, &read, nullptr, &sections));
+    QCOMPARE(read.toText(), text);
+    QCOMPARE(sections.join(' '), leftOut);
 }
 
 void TestFountain::refusedXml()
@@ -370,6 +388,10 @@ void TestFountain::refusedXml()
     QFETCH(QString, error);
     MRVFountainScript script;
     QString found;
+    QString attributes;
+    for (int i = 0; i < 100; ++i)
+        attributes += QString("a%1='' ").arg(i);
+    text.replace("@=", attributes);
     const QByteArray bytes = text.replace("@300", QString("<p>").repeated(300)).toUtf8();
     QVERIFY(!(format == "html" ? MRVFountainHtml::fromHtml(bytes, &script, &found)
                                : MRVFinalDraft::fromXml(bytes, &script, &found)));

@@ -138,8 +138,13 @@ void TestReferences::variants()
     const MRVFernwickDropItem wall("l", large);
     QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(wall)), wall);
     // What could not be read again is not written.
+    QVariant deep = 1;
+    for (int i = 0; i < 30; ++i)
+        deep = QVariantList{deep};
+    const MRVFernwickDropItem deepest({deep});
+    QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(deepest)), deepest);
     const QList<QVariant> foreign{
-        QVariantHash{{"a", 1}}, QVariant::fromValue(QPolygon()),
+        deep, QVariantHash{{"a", 1}}, QVariant::fromValue(QPolygon()),
         QDateTime(QDate(2026, 1, 2), QTime(), QTimeZone("Europe/Berlin"))};
     for (const QVariant &value : foreign) {
         QCOMPARE(bytesOf(MRVFernwickDropItem({QVariantMap{{"k", value}}})), QByteArray());
@@ -201,6 +206,7 @@ void TestReferences::claimedSizes_data()
     QTest::newRow("map") << hex("00000008 00 7fffffff 00000000 00000000 01");
     QTest::newRow("texts") << hex("0000000b 00 7fffffff 00000000");
     QTest::newRow("text") << hex("0000000a 00 7ffffff0 0041");
+    QTest::newRow("half a character") << hex("0000000a 00 00000003 004100");
     QTest::newRow("bytes") << hex("0000000c 00 7ffffff0 41");
     QTest::newRow("name") << hex("00000400 00 7ffffff0 41");
     QTest::newRow("time zone") << hex("00000010 00 0000000000253d8c 00000000 03 0000000000");

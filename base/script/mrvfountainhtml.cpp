@@ -1,6 +1,7 @@
 #include "script/mrvfountainhtml.h"
 
 #include "core/mrvxmltext.h"
+#include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
 #include "script/mrvtitlepage_p.h"
 
@@ -57,7 +58,9 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .character { margin-left: 2.2in; break-after: avoid; }
 .parenthetical { margin: 0 2.4in 0 1.6in; text-indent: -0.1in; break-after: avoid; }
 .dialogue { margin: 0 1.5in 0 1in; }
-.lyrics { margin: 0 1.5in 0 1.25in; font-style: italic; }
+.lyrics { margin: 12pt 1.5in 0 1.25in; font-style: italic; }
+.character + .lyrics, .parenthetical + .lyrics, .dialogue + .lyrics { margin-top: 0; }
+.lyrics[data-apart] { margin-top: 12pt; }
 .transition { text-align: right; text-transform: uppercase; }
 .centered { text-align: center; }
 .dual { display: flex; gap: 0.25in; }
@@ -248,12 +251,13 @@ void HtmlWriter::writeRuns(const MRVFountainRuns &runs)
 class HtmlReader
 {
 public:
-    explicit HtmlReader(const QByteArray &html)
+    explicit HtmlReader(const QString &html)
         : m_xml(html)
     {
     }
 
     bool read(MRVFountainScript *script, QString *error);
+    const QString &language() const { return m_language; }
 
 private:
     struct Level
@@ -274,6 +278,7 @@ private:
     MRVFountainScript m_script;
     Element m_element;
     MRVFountainTitle m_title;
+    QString m_language;
     bool m_isScript = false;
     bool m_isTitle = false;
     bool m_inParagraph = false;
@@ -307,6 +312,9 @@ void HtmlReader::startElement()
     Level level = m_levels.constLast();
     level.isParagraph = level.isObject = false;
     const QStringRef tag = m_xml.name();
+    if (tag == QLatin1String("html")) {
+        m_language = m_xml.attributes().value(QLatin1String("lang")).toString();
+    }
     const QString className = m_xml.attributes().value(QLatin1String("class")).toString();
     m_isScript =
         m_isScript || (tag == QLatin1String("body") && className == QLatin1String(BodyClass));
@@ -403,7 +411,16 @@ QByteArray MRVFountainHtml::toHtml(const MRVFountainScript &script, const QStrin
     return bytes;
 }
 
-bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error)
+bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error,
+                               QString *language)
 {
-    return HtmlReader(html).read(script, error);
+    QString text;
+    if (!scriptXmlText(html, &text, error))
+        return false;
+    HtmlReader reader(text);
+    const bool ok = reader.read(script, error);
+    if (ok && language) {
+        *language = reader.language();
+    }
+    return ok;
 }

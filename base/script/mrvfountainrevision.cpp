@@ -1,6 +1,8 @@
 #include "script/mrvfountain.h"
 #include "script/mrvfountainsyntax_p.h"
 
+#include <climits>
+
 using namespace MrvFountain;
 
 namespace {
@@ -21,6 +23,13 @@ QString lineEndOf(const QString &text)
 }
 
 // Walks over a text as it was typed, by positions of its plain form.
+// What plainText() leaves out, but for halves of pairs, which no file holds.
+bool isLeftOut(QChar c)
+{
+    const ushort code = c.unicode();
+    return (code < 0x20 && (code < u'\t' || code > u'\r')) || code >= 0xFFFE;
+}
+
 class Source
 {
 public:
@@ -41,9 +50,10 @@ public:
     }
     void skipTo(int position)
     {
-        for (; m_position < position && m_at < m_text.size(); ++m_position) {
+        while (m_position < position && m_at < m_text.size()) {
             const bool isPair = m_text.at(m_at) == u'\r' && m_at + 1 < m_text.size()
                 && m_text.at(m_at + 1) == u'\n';
+            m_position += isLeftOut(m_text.at(m_at)) ? 0 : 1;
             m_at += isPair ? 2 : 1;
         }
     }
@@ -58,6 +68,11 @@ private:
     int m_position = 0; // of the plain text
 };
 
+QVector<Patch> whole(const QString &text)
+{
+    return {{{0, INT_MAX}, text}};
+}
+
 QVector<Patch> patches(const MRVFountainScript &script, const QString &plain)
 {
     TextRanges oldRanges;
@@ -65,7 +80,7 @@ QVector<Patch> patches(const MRVFountainScript &script, const QString &plain)
     const MRVFountainScript old = scriptOf(plain, &oldRanges);
     const QString text = textOf(script, &newRanges);
     if (old.elements.size() != script.elements.size())
-        return {{{0, plain.size()}, text}};
+        return whole(text);
     QVector<Patch> patches;
     const auto add = [&](const Range &range, const Range &with) {
         patches.append({range, text.mid(with.start, with.end - with.start)});
@@ -106,6 +121,5 @@ QString MRVFountainScript::toText(const QString &source) const
     const QString plain = plainText(source);
     const QString revised = patched(source, patches(normal, plain));
     // Lines are read by what stands around them, so that some cannot be changed alone.
-    return fromText(revised) == normal ? revised
-                                       : patched(source, {{{0, plain.size()}, textOf(normal)}});
+    return fromText(revised) == normal ? revised : patched(source, whole(textOf(normal)));
 }

@@ -213,6 +213,15 @@ QString textOfRuns(const MRVFountainRuns &runs)
     return text;
 }
 
+QString withoutStart(const QString &text, QLatin1String characters)
+{
+    int start = 0;
+    while (start < text.size() && characters.contains(text.at(start))) {
+        ++start;
+    }
+    return text.mid(start);
+}
+
 QString normalizedKey(const QString &given)
 {
     QString key = withPlainLineEnds(given);
@@ -221,15 +230,13 @@ QString normalizedKey(const QString &given)
         key.replace(u'[', u'(');
     }
     key.replace(QLatin1String("/*"), QLatin1String("/ *"));
-    const auto isKey = [](const QString &text) {
-        const QString line = text + u':';
-        return titleKeyLength(QStringRef(&line)) > 0;
-    };
-    key = trimmed(QStringRef(&key)).toString();
-    while (!key.isEmpty() && !isKey(key)) {
-        key.remove(0, 1);
-        key = trimmed(QStringRef(&key)).toString();
+    key = withoutStart(key, QLatin1String("!#=~>@. \t"));
+    const QString line = key + u':';
+    if (titleKeyLength(QStringRef(&line)) == 0) {
+        // It begins like a heading, but not without its first letter.
+        key = withoutStart(key, QLatin1String("*_ \t")).mid(1);
     }
+    key = trimmed(QStringRef(&key)).toString();
     return key.isEmpty() ? QStringLiteral("Notes") : key;
 }
 
