@@ -520,6 +520,8 @@ void tst_Download::dialogs_data()
     QTest::newRow("ignore") << "ssl" << int(QMessageBox::Ignore) << true;
     QTest::newRow("abort") << "ssl" << int(QMessageBox::Abort) << false;
     QTest::newRow("closed with its parent") << "password" << 0 << false;
+    QTest::newRow("redirect, closed with its parent") << "redirect" << 0 << false;
+    QTest::newRow("errors, closed with their parent") << "ssl" << 0 << false;
 }
 
 void tst_Download::dialogs()
@@ -530,11 +532,13 @@ void tst_Download::dialogs()
     const QPointer<MRVDownloadUserInput> input = new MRVDownloadUserInput(parent);
     QCOMPARE(input->widgetParent(), parent.data());
     QStringList seen;
+    bool isPlain = true;
     QTimer::singleShot(0, this, [&] {
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         seen << dialog->windowTitle();
         if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
             seen << box->text();
+            isPlain = box->textFormat() == Qt::PlainText;
         } else {
             seen << dialog->findChild<QLabel *>("siteDescription")->text();
             for (const char *name : {"userEdit", "passwordEdit"}) {
@@ -561,6 +565,7 @@ void tst_Download::dialogs()
         : question == "redirect" ? input->redirectTo(url)
                                  : input->ignoreSslErrors({"one", "two"});
     QTEST(answer, "answer");
+    QVERIFY(isPlain);
     QCOMPARE(user + password, answer && question == "password" ? "ann!pass!" : "annpass");
     QCOMPARE(seen,
              question == "password"
