@@ -32,6 +32,7 @@ void tst_MrvGet::initTestCase()
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
                               "WWW-Authenticate: Basic realm=\"Drafts\"\r\n\r\n";
     m_server.answer("/page", ok + "\r\nhello");
+    m_server.answer("/a%1Bb%0Ac", ok + "\r\nhello");
     m_server.answer("/raw", ok + "\r\n\xf0");
     m_server.answer("/latin", ok + "Content-Type: text/plain; charset=\"latin1\"\r\n\r\n\xe9");
     m_server.answer("/russian", ok + "Content-Type: text/plain; charset=koi8-r\r\n\r\n\xf0");
