@@ -86,6 +86,9 @@ public:
         return true;
     }
 
+    // Whether the document type that it has passed declares anything, such as entities that grow without end.
+    bool declares() const { return m_xml.midRef(m_at, m_end - m_at).contains(u'['); }
+
     int line() const { return lineAt(m_xml, m_at); }
 
 private:
@@ -134,11 +137,13 @@ bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
     bool ok = decodeScriptMode(xml, text, &reason);
     TagWalker walker(*text);
     while (ok && walker.toNext()) {
-        ok = walker.keepsLimits(std::numeric_limits<int>::max());
+        if (!walker.keepsLimits(std::numeric_limits<int>::max()))
+            reason = MRVScriptMode::tr("a tag has more than %1 attributes").arg(MaxAttributes);
+        else if (walker.isHere("<!DOCTYPE") && walker.declares())
+            reason = MRVScriptMode::tr("entities and attributes cannot be declared here");
+        ok = reason.isEmpty();
         if (!ok)
-            reason = scriptLineText(
-                walker.line(),
-                MRVScriptMode::tr("a tag has more than %1 attributes").arg(MaxAttributes));
+            reason = scriptLineText(walker.line(), reason);
     }
     if (!ok && error)
         *error = reason;
