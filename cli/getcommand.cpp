@@ -4,6 +4,7 @@
 #include "core/mrvcoreutil.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
@@ -15,6 +16,8 @@
 
 #include <cmath>
 #include <limits>
+
+#include <fcntl.h>
 
 namespace {
 
@@ -90,7 +93,8 @@ QString readPassword(const QCommandLineParser &parser, QString *password)
         bool isNumber = false;
         const int handle = parser.value(QStringLiteral("password-fd")).toInt(&isNumber);
         QFile file;
-        if (!isNumber || handle < 0 || !file.open(handle, QIODevice::ReadOnly))
+        if (!isNumber || handle < 0 || fcntl(handle, F_GETFD) < 0
+            || !file.open(handle, QIODevice::ReadOnly))
             return QStringLiteral("--password-fd: no such open file");
         QByteArray line = file.readLine();
         while (line.endsWith('\n') || line.endsWith('\r'))
@@ -111,6 +115,13 @@ QString readOptions(const QCommandLineParser &parser, Options *options)
     if (!options->url.isValid() || options->url.host().isEmpty()
         || (scheme != QLatin1String("http") && scheme != QLatin1String("https")))
         return QStringLiteral("%1: is no http or https address").arg(arguments.constFirst());
+    // As of a variable that is not set.
+    for (const QString &name : parser.optionNames()) {
+        if (parser.values(name).contains(QString())) {
+            return QStringLiteral("%1%2: needs a value")
+                .arg(QLatin1String(name.size() == 1 ? "-" : "--"), name);
+        }
+    }
     options->output = parser.value(QStringLiteral("output"));
     options->json = parser.isSet(QStringLiteral("json"));
     if (options->json && options->output == StandardOutput)
@@ -133,15 +144,22 @@ QString readOptions(const QCommandLineParser &parser, Options *options)
     }
     if (parser.isSet(QStringLiteral("max-size"))) {
         options->maximumSize = parser.value(QStringLiteral("max-size")).toLongLong(&isNumber);
-        if (!isNumber || options->maximumSize < 0)
-            return QStringLiteral("--max-size: is no number of bytes");
+        if (!isNumber || options->maximumSize < 0
+            || options->maximumSize > MRVDownloadUrl::LargestSize) {
+            return QStringLiteral("--max-size: is no number of bytes up to %1")
+                .arg(MRVDownloadUrl::LargestSize);
+        }
     }
     options->answers.follow = parser.isSet(QStringLiteral("follow"));
     options->answers.insecure = parser.isSet(QStringLiteral("insecure"));
     options->answers.user = parser.value(QStringLiteral("user"));
     if (options->answers.user.contains(u':'))
         return QStringLiteral("--user: the password is not given here, where others can read it");
-    return readPassword(parser, &options->answers.password);
+    const QString wrong = readPassword(parser, &options->answers.password);
+    if (wrong.isEmpty() && !options->answers.password.isNull() && options->answers.user.isEmpty()
+        && options->url.userName().isEmpty())
+        return QStringLiteral("--user: is needed with a password");
+    return wrong;
 }
 
 void showBar(qint64 bytes, qint64 total)
@@ -224,7 +242,21 @@ QString targetFile(const Options &options)
     const QString &output = options.output;
     if (!output.isEmpty() && !QFileInfo(output).isDir())
         return output;
-    return MRVCoreUtil::GetUniqueFileName(MRVDownloadUrl::fileForUrl(output, options.url));
+    const QString name = printable(MRVDownloadUrl::fileForUrl(QString(), options.url));
+    return MRVCoreUtil::GetUniqueFileName(output.isEmpty() ? name
+                                                           : QDir(output).absoluteFilePath(name));
+}
+
+// What would be said after all has come can be said before.
+QString unwritable(const Options &options)
+{
+    if (options.output == StandardOutput)
+        return QString();
+    const QString file = targetFile(options);
+    const QFileInfo folder(QFileInfo(file).absolutePath());
+    return !folder.isDir()     ? QStringLiteral("%1: its folder does not exist").arg(file)
+        : !folder.isWritable() ? QStringLiteral("%1: its folder is write-protected").arg(file)
+                               : QString();
 }
 
 } // namespace
@@ -243,9 +275,10 @@ int runGet(const QStringList &arguments)
         return code;
     Options options;
     const QString wrong = readOptions(parser, &options);
-    if (!wrong.isEmpty()) {
-        printError(QLatin1String("get: ") + wrong);
-        return WrongUsage;
+    const QString useless = wrong.isEmpty() ? unwritable(options) : wrong;
+    if (!useless.isEmpty()) {
+        printError(QLatin1String("get: ") + useless);
+        return wrong.isEmpty() ? Failed : WrongUsage;
     }
 
     Result result = download(options);

@@ -4,6 +4,8 @@
 
 #include <csignal>
 #include <cstdio>
+#include <iterator>
+#include <optional>
 
 #include <termios.h>
 #include <unistd.h>
@@ -26,33 +28,49 @@ bool isYes(const QString &answer)
     return answer.trimmed().startsWith(u'y', Qt::CaseInsensitive);
 }
 
-// Typing is not shown as long as this lives. An interrupt waits for its end: the terminal would stay
-// silent otherwise.
+constexpr int endingSignals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
+termios shownTyping; // for the handler of these signals
+
+// Runs in a signal handler.
+void showTypingAndEnd(int signal)
+{
+    tcsetattr(STDIN_FILENO, TCSANOW, &shownTyping);
+    // Waits for the handler's end, then ends the program as the signal does by default.
+    raise(signal);
+}
+
+// Typing is not shown as long as this lives, and the program.
 class HiddenTyping
 {
 public:
     HiddenTyping()
     {
-        sigset_t interrupts;
-        sigemptyset(&interrupts);
-        sigaddset(&interrupts, SIGINT);
-        sigaddset(&interrupts, SIGTSTP);
-        sigprocmask(SIG_BLOCK, &interrupts, &m_signals);
-        tcgetattr(STDIN_FILENO, &m_before);
-        termios hidden = m_before;
+        tcgetattr(STDIN_FILENO, &shownTyping);
+        struct sigaction action = {};
+        action.sa_handler = &showTypingAndEnd;
+        action.sa_flags = int(SA_RESETHAND);
+        sigfillset(&action.sa_mask);
+        for (int i = 0; i < Signals; ++i) {
+            sigaction(endingSignals[i], nullptr, &m_before[i]);
+            // A signal that is ignored, as under nohup, stays so.
+            if (m_before[i].sa_handler == SIG_DFL)
+                sigaction(endingSignals[i], &action, nullptr);
+        }
+        termios hidden = shownTyping;
         hidden.c_lflag &= ~tcflag_t(ECHO);
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden);
     }
     ~HiddenTyping()
     {
-        tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before);
-        sigprocmask(SIG_SETMASK, &m_signals, nullptr);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &shownTyping);
+        for (int i = 0; i < Signals; ++i)
+            sigaction(endingSignals[i], &m_before[i], nullptr);
     }
     Q_DISABLE_COPY(HiddenTyping)
 
 private:
-    termios m_before{};
-    sigset_t m_signals{};
+    static constexpr int Signals = int(std::size(endingSignals));
+    struct sigaction m_before[Signals];
 };
 
 QString readLine()
@@ -74,10 +92,12 @@ QString askLine(const QString &prompt, bool isSecret)
 {
     if (!canAsk())
         return QString();
+    std::optional<HiddenTyping> hidden;
+    if (isSecret)
+        hidden.emplace(); // forgets what was typed before the question
     showProgress(printable(prompt));
     if (!isSecret)
         return readLine();
-    const HiddenTyping hidden;
     const QString line = readLine();
     std::fputc('\n', stderr);
     return line;

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 #include <QUrl>
 
 #include <sys/socket.h>
@@ -11,8 +12,8 @@
 class RawServer : public QTcpServer
 {
 public:
-    /** What follows the bytes of an answer. */
-    enum End { Close, Reset, Stall };
+    /** What follows the bytes of an answer. The body of one that trickles comes byte by byte, each 300 ms later. */
+    enum End { Close, Reset, Stall, Trickle };
 
     RawServer()
     {
@@ -52,7 +53,13 @@ private:
             return;
         m_requests << m_begun.take(socket);
         const auto answer = m_answers.value(m_requests.constLast().split(' ').value(1));
-        socket->write(answer.first);
+        const int body =
+            answer.second == Trickle ? answer.first.indexOf("\r\n\r\n") + 4 : answer.first.size();
+        socket->write(answer.first.left(body));
+        for (int at = body; at < answer.first.size(); ++at) {
+            const QByteArray byte = answer.first.mid(at, 1);
+            QTimer::singleShot(300 * (at - body + 1), socket, [=] { socket->write(byte); });
+        }
         if (answer.second == Close) {
             socket->disconnectFromHost();
         } else if (answer.second == Reset) {

@@ -244,6 +244,7 @@ void tst_Download::ends()
     if (server == "own") {
         const auto how = end == "close" ? RawServer::Close
             : end == "reset"            ? RawServer::Reset
+            : end == "slow"             ? RawServer::Trickle
                                         : RawServer::Stall;
         url = m_own.answer("/ends", answer.toLatin1(), how);
     } else if (url.isEmpty()) {
@@ -257,6 +258,8 @@ void tst_Download::ends()
     Download download(handler.isEmpty() ? nullptr : &input);
     if (error.startsWith("sent nothing"))
         download.url->setTransferTimeout(500);
+    if (end == "slow")
+        download.url->setTransferTimeout(1000);
     if (!limit.isEmpty())
         download.url->setMaximumSize(limit.toInt());
     connect(download.url->networkAccessManager(), &QNetworkAccessManager::sslErrors, this,
@@ -281,6 +284,13 @@ void tst_Download::ends()
     QCOMPARE(bytesOf(file), download.error.isEmpty() ? download.data : QByteArray("old"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
              QStringList{"got"});
+
+    // However it ended, the next request is a new one.
+    QVERIFY(download.url->download(
+        m_own.answer("/next", "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok")));
+    QTRY_COMPARE(download.finals, 2);
+    QCOMPARE(download.data, QByteArray("ok"));
+    QCOMPARE(bytesOf(file), download.data);
 }
 
 void tst_Download::interrupted_data()
@@ -292,6 +302,8 @@ void tst_Download::interrupted_data()
         for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"})
             QTest::addRow("%s, %s", stage, action) << stage << action;
     }
+    for (const char *stage : {"password", "redirect"})
+        QTest::addRow("%s, thought over", stage) << stage << "think";
 }
 
 // Whatever is done at whatever moment, at most one final signal comes of each request.
@@ -325,7 +337,7 @@ void tst_Download::interrupted()
             QVERIFY(download.url->download(m_own.url("/next")));
         } else if (action == "deaf") {
             delete download.receiver;
-        } else {
+        } else if (action == "offline") {
             QT_WARNING_PUSH
             QT_WARNING_DISABLE_DEPRECATED
             auto *manager = download.url->networkAccessManager();
@@ -333,10 +345,12 @@ void tst_Download::interrupted()
             QT_WARNING_POP
         }
         QEventLoop dialog;
-        QTimer::singleShot(20, &dialog, &QEventLoop::quit);
+        QTimer::singleShot(action == "think" ? 1200 : 20, &dialog, &QEventLoop::quit);
         dialog.exec();
     };
     download.hook = input.asked = interrupt;
+    if (action == "think")
+        download.url->setTransferTimeout(1000);
     QTemporaryDir folder;
     const QUrl first = stage == "refused" ? QUrl("file:///etc/hostname") : url;
     QVERIFY(download.url->downloadToFile(first, folder.filePath("got")));
@@ -355,10 +369,12 @@ void tst_Download::interrupted()
     QTRY_COMPARE(download.finals, hasTwo ? 2 : 1);
     QTest::qWait(20);
     QCOMPARE(download.finals, hasTwo ? 2 : 1);
-    if (action == "replace")
+    if (action == "replace" || (action == "think" && stage == "redirect"))
         QCOMPARE(download.data, QByteArray("hello"));
     if (action == "cancel" && !isOver && stage != "data")
         QCOMPARE(download.error, QString("Operation canceled"));
+    if (action == "think" && stage == "password")
+        QCOMPARE(download.error, QString("Host requires authentication"));
     if (action == "offline" && stage != "data")
         QCOMPARE(download.error, QString("Network not accessible"));
 }
@@ -520,6 +536,8 @@ void tst_Download::dialogs_data()
     QTest::newRow("ignore") << "ssl" << int(QMessageBox::Ignore) << true;
     QTest::newRow("abort") << "ssl" << int(QMessageBox::Abort) << false;
     QTest::newRow("closed with its parent") << "password" << 0 << false;
+    QTest::newRow("redirect, closed with its parent") << "redirect" << 0 << false;
+    QTest::newRow("errors, closed with their parent") << "ssl" << 0 << false;
 }
 
 void tst_Download::dialogs()
@@ -530,11 +548,13 @@ void tst_Download::dialogs()
     const QPointer<MRVDownloadUserInput> input = new MRVDownloadUserInput(parent);
     QCOMPARE(input->widgetParent(), parent.data());
     QStringList seen;
+    bool isPlain = true;
     QTimer::singleShot(0, this, [&] {
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         seen << dialog->windowTitle();
         if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
             seen << box->text();
+            isPlain = box->textFormat() == Qt::PlainText;
         } else {
             seen << dialog->findChild<QLabel *>("siteDescription")->text();
             for (const char *name : {"userEdit", "passwordEdit"}) {
@@ -561,6 +581,7 @@ void tst_Download::dialogs()
         : question == "redirect" ? input->redirectTo(url)
                                  : input->ignoreSslErrors({"one", "two"});
     QTEST(answer, "answer");
+    QVERIFY(isPlain);
     QCOMPARE(user + password, answer && question == "password" ? "ann!pass!" : "annpass");
     QCOMPARE(seen,
              question == "password"

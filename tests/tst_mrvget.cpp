@@ -17,6 +17,8 @@ private Q_SLOTS:
                 {"case", "arguments", "input", "code", "output", "error", "file", "bytes"});
     }
     void get();
+    void terminal_data();
+    void terminal();
 
 private:
     RawServer m_server;
@@ -30,6 +32,7 @@ void tst_MrvGet::initTestCase()
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
                               "WWW-Authenticate: Basic realm=\"Drafts\"\r\n\r\n";
     m_server.answer("/page", ok + "\r\nhello");
+    m_server.answer("/a%1Bb%0Ac", ok + "\r\nhello");
     m_server.answer("/raw", ok + "\r\n\xf0");
     m_server.answer("/latin", ok + "Content-Type: text/plain; charset=\"latin1\"\r\n\r\n\xe9");
     m_server.answer("/russian", ok + "Content-Type: text/plain; charset=koi8-r\r\n\r\n\xf0");
@@ -77,6 +80,48 @@ void tst_MrvGet::get()
     if (arguments.contains("locked --user"))
         QVERIFY(requests.contains(password));
     QVERIFY(!m_other.requests().join().contains("Authorization"));
+}
+
+void tst_MrvGet::terminal_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QStringList>("talk"); // what is shown, what is then typed, and so on
+    QTest::newRow("bar") << "/bar"
+                         << QStringList{"[####", "", "] 100 % of 5 bytes", "", "bar.html"};
+    QTest::newRow("redirect, yes")
+        << "/moved" << QStringList{"/page ? [y/N] ", "y\n", "moved.html"};
+    QTest::newRow("redirect, no") << "/moved" << QStringList{"/page ? [y/N] ", "\n", "--follow"};
+    QTest::newRow("password")
+        << "/locked --user ann"
+        << QStringList{"Password of ann for 'Drafts'", "secret\n", "Password of ann", "secret\n",
+                       "Host requires authentication", "",         " echo "};
+    QTest::newRow("user") << "/locked" << QStringList{"User name for 'Drafts'", "bob\n", "of bob"};
+    QTest::newRow("interrupt") << "/locked --user ann" << QStringList{"Password", "\3", " echo "};
+}
+
+// As somebody at a terminal sees it, who afterwards sees again what is typed.
+void tst_MrvGet::terminal()
+{
+    QFETCH(QString, path);
+    QFETCH(QStringList, talk);
+    m_server.answer("/bar", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
+    QTemporaryDir folder;
+    QProcess screen;
+    screen.setWorkingDirectory(folder.path());
+    screen.start(
+        "script",
+        {"-qec",
+         "trap : INT; " MRV_TOOL " get " + m_server.url(QString()).toString() + path + "; stty -a",
+         "/dev/null"});
+    QString shown;
+    for (int i = 0, at = 0; i < talk.size(); i += 2) {
+        QTRY_VERIFY2((shown += screen.readAll()).indexOf(talk[i], at) >= 0, qPrintable(shown));
+        at = shown.indexOf(talk[i], at) + talk[i].size();
+        screen.write(talk.value(i + 1).toUtf8());
+    }
+    QVERIFY2(!shown.contains("secret"), qPrintable(shown));
+    screen.kill();
+    QTRY_COMPARE(screen.state(), QProcess::NotRunning);
 }
 
 QTEST_GUILESS_MAIN(tst_MrvGet)

@@ -32,11 +32,28 @@ QTextCodec *codecOf(const QString &charset)
     return name.isEmpty() ? nullptr : QTextCodec::codecForName(name.toLatin1());
 }
 
+int statusOf(const QNetworkReply *reply)
+{
+    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+// Successes to Qt, which hold a part at most: one that announces another, behind which Qt reads nothing,
+// and what nobody asked for, a range and whether there is something new.
+bool isPartial(int status)
+{
+    return status < 200 || status == 206 || status == 304;
+}
+
 // None where there can be no body.
 QByteArray promisedLength(const QNetworkReply *reply)
 {
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    return status == 204 || status == 304 ? QByteArray() : reply->rawHeader("Content-Length");
+    return statusOf(reply) == 204 ? QByteArray() : reply->rawHeader("Content-Length");
+}
+
+bool isPacked(const QNetworkReply *reply)
+{
+    const QByteArray coding = reply->rawHeader("Content-Encoding").trimmed().toLower();
+    return !coding.isEmpty() && coding != "identity";
 }
 
 // Qt names the URL in it as it was requested.
@@ -251,7 +268,7 @@ void MRVDownloadUrl::awaitBytes()
 void MRVDownloadUrl::onTimeout()
 {
     if (m_reply) {
-        fail(tr("The server has sent nothing for %1 s").arg(m_transferTimeout / 1000.0));
+        fail(tr("The server has sent nothing for %1 s").arg(m_timer.interval() / 1000.0));
     } else {
         endWith(m_failure);
     }
@@ -287,6 +304,8 @@ void MRVDownloadUrl::onReplyError()
 // Qt finds most of these out itself; but a length that is no number would let any part pass as whole.
 bool MRVDownloadUrl::isCutShort() const
 {
+    if (isPartial(statusOf(m_reply)))
+        return true;
     const QByteArray promised = promisedLength(m_reply);
     if (promised.isNull())
         return false;
@@ -304,9 +323,10 @@ void MRVDownloadUrl::onReplyFinished()
         return endWith(m_failure);
     if (m_reply->error() != QNetworkReply::NoError)
         return endWith(errorText(m_reply));
+    const QPointer<MRVDownloadUrl> self(this);
     const QNetworkReply *reply = m_reply;
     collect();
-    if (m_reply != reply)
+    if (!self || m_reply != reply)
         return; // too large
     m_timer.stop();
     if (isCutShort())
@@ -373,11 +393,10 @@ void MRVDownloadUrl::deliver()
     QByteArray data = std::exchange(m_data, QByteArray());
     const QString fileName = m_fileName;
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
-    const bool isPacked = m_reply->hasRawHeader("Content-Encoding");
+    const QString from = isPacked(m_reply) ? QString() : charset(type);
     dropReply();
     m_contentType = type;
-    const QString from = charset(type);
-    if (!from.isEmpty() && !isPacked)
+    if (!from.isEmpty())
         data = convert(data, from, QStringLiteral("UTF-8"));
 
     const QPointer<MRVDownloadUrl> self(this);

@@ -72,7 +72,7 @@ public:
 
     /**
      * After how many milliseconds without a single byte a request fails; 0 or less waits for ever. The
-     * time that the handler takes for its answers does not count. Holds from the next request on.
+     * time that the handler takes for its answers does not count. Holds from the next byte on.
      */
     void setTransferTimeout(int milliseconds);
     int transferTimeout() const { return m_transferTimeout; }
