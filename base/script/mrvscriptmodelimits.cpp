@@ -5,13 +5,12 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
-#include <limits>
-
 namespace {
 
 // Qt's reader compares each attribute of a tag with every other one.
 constexpr int MaxAttributes = 64;
 constexpr int MaxTagLength = 16 * 1024;
+constexpr int MaxScriptTagLength = 16 * 1024 * 1024; // keys and scene numbers are attributes, too
 
 int lineAt(const QString &text, int position)
 {
@@ -97,6 +96,26 @@ private:
     int m_end = 0;
 };
 
+bool keepsLimits(const QString &xml, int maxLength, bool takesDoctype, QString *error)
+{
+    TagWalker walker(xml);
+    while (walker.toNext()) {
+        const bool isShort = walker.keepsLimits(maxLength);
+        QString reason;
+        if (walker.isHere("<!DOCTYPE") && (!takesDoctype || walker.declares()))
+            reason = MRVScriptMode::tr("a document type declaration does not belong here");
+        else if (!isShort)
+            reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
+                                       "attributes")
+                         .arg(QString::number(maxLength), QString::number(MaxAttributes));
+        if (reason.isEmpty())
+            continue;
+        *error = scriptLineText(walker.line(), reason);
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error)
@@ -114,37 +133,14 @@ bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error)
 
 bool scriptModeKeepsLimits(const QString &xml, QString *error)
 {
-    TagWalker walker(xml);
-    while (walker.toNext()) {
-        QString reason;
-        if (walker.isHere("<!DOCTYPE"))
-            reason = MRVScriptMode::tr("a document type declaration does not belong here");
-        else if (!walker.keepsLimits(MaxTagLength))
-            reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
-                                       "attributes")
-                         .arg(QString::number(MaxTagLength), QString::number(MaxAttributes));
-        if (reason.isEmpty())
-            continue;
-        *error = scriptLineText(walker.line(), reason);
-        return false;
-    }
-    return true;
+    return keepsLimits(xml, MaxTagLength, false, error);
 }
 
 bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
 {
     QString reason;
-    bool ok = decodeScriptMode(xml, text, &reason);
-    TagWalker walker(*text);
-    while (ok && walker.toNext()) {
-        if (!walker.keepsLimits(std::numeric_limits<int>::max()))
-            reason = MRVScriptMode::tr("a tag has more than %1 attributes").arg(MaxAttributes);
-        else if (walker.isHere("<!DOCTYPE") && walker.declares())
-            reason = MRVScriptMode::tr("entities and attributes cannot be declared here");
-        ok = reason.isEmpty();
-        if (!ok)
-            reason = scriptLineText(walker.line(), reason);
-    }
+    const bool ok = decodeScriptMode(xml, text, &reason)
+        && keepsLimits(*text, MaxScriptTagLength, true, &reason);
     if (!ok && error)
         *error = reason;
     return ok;
