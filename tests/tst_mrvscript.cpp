@@ -106,6 +106,16 @@ void tst_MrvScript::convertedBack()
     }
     QCOMPARE(QString(bytesOf(path + "spmd")), QString(script));
     QCOMPARE(epubErrors(path + "epub"), QString());
+    // The same day, the same bytes; and another day tells that it was that day.
+    const QStringList convert{"script", "convert", path + "fdx", "-o", path + "epub"};
+    QByteArray books[3];
+    for (const int day : {0, 1, 2}) {
+        const QString second = QString::number(day / 2 * 86400);
+        QCOMPARE(run(MRV_TOOL, convert, {"SOURCE_DATE_EPOCH=" + second}).exitCode, 0);
+        books[day] = bytesOf(path + "epub");
+    }
+    QCOMPARE(books[0], books[1]);
+    QVERIFY(books[1] != books[2]);
 }
 
 QTEST_GUILESS_MAIN(tst_MrvScript)

@@ -162,9 +162,12 @@ void FinalDraftWriter::writeNote(const Run &run)
     start("ScriptNote");
     attribute("ID", QString::number(++m_notes));
     attribute("Name", run.kind == Run::Boneyard ? QStringLiteral("Omitted") : QString());
-    start("Paragraph");
-    writeText(run.text, {});
-    end();
+    const QStringList lines = run.text.split(u'\n');
+    for (const QString &line : lines) {
+        start("Paragraph");
+        writeText(line, {});
+        end();
+    }
     end();
 }
 

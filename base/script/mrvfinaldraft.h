@@ -43,7 +43,7 @@ public:
      * as "HeaderAndFooter" or "ListItems", in the document's order: that text is not in the script.
      * @return false, with @p script untouched, where it is not well-formed, has another root element
      * than "FinalDraft", elements within elements beyond 256 levels, or a tag with more than 64
-     * attributes.
+     * attributes, or where its document type declares entities or attributes.
      */
     static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr,
                         QStringList *leftOut = nullptr);

@@ -43,7 +43,7 @@ public:
      * @param language if given, receives the page's language on success; empty for none.
      * @return false, with @p script untouched, where the page is not well-formed, has no paragraph of
      * a script, has elements within elements beyond 256 levels, or a tag with more than 64
-     * attributes.
+     * attributes, or where its document type declares entities or attributes.
      */
     static bool fromHtml(const QByteArray &html, MRVFountainScript *script,
                          QString *error = nullptr, QString *language = nullptr);

@@ -5,13 +5,12 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
-#include <limits>
-
 namespace {
 
 // Qt's reader compares each attribute of a tag with every other one.
 constexpr int MaxAttributes = 64;
 constexpr int MaxTagLength = 16 * 1024;
+constexpr int MaxScriptTagLength = 16 * 1024 * 1024; // keys and scene numbers are attributes, too
 
 int lineAt(const QString &text, int position)
 {
@@ -86,6 +85,9 @@ public:
         return true;
     }
 
+    // Whether the document type that it has passed declares anything, such as entities that grow without end.
+    bool declares() const { return m_xml.midRef(m_at, m_end - m_at).contains(u'['); }
+
     int line() const { return lineAt(m_xml, m_at); }
 
 private:
@@ -93,6 +95,26 @@ private:
     int m_at = 0;
     int m_end = 0;
 };
+
+bool keepsLimits(const QString &xml, int maxLength, bool takesDoctype, QString *error)
+{
+    TagWalker walker(xml);
+    while (walker.toNext()) {
+        const bool isShort = walker.keepsLimits(maxLength);
+        QString reason;
+        if (walker.isHere("<!DOCTYPE") && (!takesDoctype || walker.declares()))
+            reason = MRVScriptMode::tr("a document type declaration does not belong here");
+        else if (!isShort)
+            reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
+                                       "attributes")
+                         .arg(QString::number(maxLength), QString::number(MaxAttributes));
+        if (reason.isEmpty())
+            continue;
+        *error = scriptLineText(walker.line(), reason);
+        return false;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -111,35 +133,14 @@ bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error)
 
 bool scriptModeKeepsLimits(const QString &xml, QString *error)
 {
-    TagWalker walker(xml);
-    while (walker.toNext()) {
-        QString reason;
-        if (walker.isHere("<!DOCTYPE"))
-            reason = MRVScriptMode::tr("a document type declaration does not belong here");
-        else if (!walker.keepsLimits(MaxTagLength))
-            reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
-                                       "attributes")
-                         .arg(QString::number(MaxTagLength), QString::number(MaxAttributes));
-        if (reason.isEmpty())
-            continue;
-        *error = scriptLineText(walker.line(), reason);
-        return false;
-    }
-    return true;
+    return keepsLimits(xml, MaxTagLength, false, error);
 }
 
 bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
 {
     QString reason;
-    bool ok = decodeScriptMode(xml, text, &reason);
-    TagWalker walker(*text);
-    while (ok && walker.toNext()) {
-        ok = walker.keepsLimits(std::numeric_limits<int>::max());
-        if (!ok)
-            reason = scriptLineText(
-                walker.line(),
-                MRVScriptMode::tr("a tag has more than %1 attributes").arg(MaxAttributes));
-    }
+    const bool ok = decodeScriptMode(xml, text, &reason)
+        && keepsLimits(*text, MaxScriptTagLength, true, &reason);
     if (!ok && error)
         *error = reason;
     return ok;
