@@ -712,10 +712,6 @@ Fehler: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>Die Datei ist größer als %1 Bytes</translation>
     </message>
-    <message>
-        <source>a tag has more than %1 attributes</source>
-        <translation>Ein Tag hat mehr als %1 Attribute</translation>
-    </message>
 </context>
 <context>
     <name>MRVScriptXml</name>

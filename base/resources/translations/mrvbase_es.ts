@@ -712,10 +712,6 @@ Error: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>ocupa más de %1 bytes</translation>
     </message>
-    <message>
-        <source>a tag has more than %1 attributes</source>
-        <translation>una etiqueta tiene más de %1 atributos</translation>
-    </message>
 </context>
 <context>
     <name>MRVScriptXml</name>

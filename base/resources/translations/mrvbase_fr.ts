@@ -712,10 +712,6 @@ Erreur&#xa0;: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>le fichier dépasse %1 octets</translation>
     </message>
-    <message>
-        <source>a tag has more than %1 attributes</source>
-        <translation>une balise a plus de %1 attributs</translation>
-    </message>
 </context>
 <context>
     <name>MRVScriptXml</name>
