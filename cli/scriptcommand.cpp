@@ -188,12 +188,24 @@ QStringList fontWords(const MRVScriptElement &element)
     return words + flagWords(element, std::begin(textFlags), std::end(textFlags));
 }
 
-QStringList layoutWords(const MRVScriptElement &element, MRVUnit::Unit units)
+// In as few digits as tell it from the next twentieth of a point.
+QString lengthText(const MRVScriptMode &mode, double points)
+{
+    const double exact = mode.fromPoints(points);
+    double shown = exact;
+    for (int decimals = 6; decimals >= 0; --decimals) {
+        const double shorter = QString::number(exact, 'f', decimals).toDouble();
+        if (mode.toPoints(shorter) == mode.toPoints(exact)) {
+            shown = shorter;
+        }
+    }
+    return MRVUnit::toText(mode.units(), shown);
+}
+
+QStringList layoutWords(const MRVScriptElement &element, const MRVScriptMode &mode)
 {
     const QTextBlockFormat format = element.blockFormat();
-    const auto length = [&](double points) {
-        return MRVUnit::toText(units, MRVUnit::fromPoint(units, points));
-    };
+    const auto length = [&](double points) { return lengthText(mode, points); };
     QStringList words{QLatin1String("aligned ") + QLatin1String(alignmentWord(element))};
     for (const LengthName &name : lengthNames) {
         const double points = format.doubleProperty(name.property);
@@ -230,7 +242,7 @@ QStringList behaviorWords(const MRVScriptElement &element)
     return words;
 }
 
-void printElement(const MRVScriptElement &element, MRVUnit::Unit units)
+void printElement(const MRVScriptElement &element, const MRVScriptMode &mode)
 {
     const QString shortcut = element.shortcut();
     printLine(QString());
@@ -238,7 +250,7 @@ void printElement(const MRVScriptElement &element, MRVUnit::Unit units)
         styled(Style::Path, displayed(element.title()))
         + (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(displayed(shortcut))));
     for (const QStringList &words :
-         {fontWords(element), layoutWords(element, units), behaviorWords(element)}) {
+         {fontWords(element), layoutWords(element, mode), behaviorWords(element)}) {
         if (!words.isEmpty()) {
             printLine(QLatin1String("  ") + displayed(words.join(QLatin1String(", "))));
         }
@@ -391,7 +403,7 @@ int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
     }
     printLine(displayed(mode.name()));
     for (const MRVScriptElement &element : mode.elements()) {
-        printElement(element, mode.units());
+        printElement(element, mode);
     }
     return Done;
 }

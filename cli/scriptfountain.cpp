@@ -1,5 +1,6 @@
 #include "command.h"
 #include "documentinput.h"
+#include "htmlsource.h"
 #include "scriptcommand.h"
 #include "stagedfiles.h"
 #include "textsearch.h"
@@ -18,6 +19,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QTextCodec>
 #include <QTextDocument>
 
 namespace {
@@ -71,6 +73,10 @@ struct ScriptFile
     QString path;
     Format format = Format::Unknown;
     MRVFountainScript script;
+    QString text; // of a Fountain script, as it was typed
+    QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
+    QString language; // of a page
+    QStringList leftOut; // sections of a Final Draft document
 };
 
 // Reads a script; @p error names the file.
@@ -90,13 +96,13 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
     }
     bool ok = false;
     if (file->format == Format::Html) {
-        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason);
+        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason, &file->language);
     } else if (file->format == Format::FinalDraft) {
-        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason);
+        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason, &file->leftOut);
     } else if (file->format == Format::Fountain) {
-        QString text;
-        ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &text, &reason);
-        file->script = MRVFountainScript::fromText(text);
+        ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file->text, &reason);
+        file->codec = QTextCodec::codecForUtfText(bytes, nullptr);
+        file->script = MRVFountainScript::fromText(file->text);
     } else {
         reason = QStringLiteral("unknown type of script; say with --from what it is");
     }
@@ -158,12 +164,38 @@ bool scriptBytes(const MRVFountainScript &script, Format format, const MRVScript
     return true;
 }
 
+// A changed script in the format that it was read from; one in Fountain keeps what was not changed.
+QByteArray revisedBytes(const ScriptFile &file)
+{
+    if (file.format != Format::Fountain) {
+        QByteArray bytes;
+        scriptBytes(file.script, file.format, MRVScriptMode(), file.language, &bytes, nullptr);
+        return bytes;
+    }
+    const QString text = file.script.toText(file.text);
+    if (!file.codec) {
+        return text.toUtf8();
+    }
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    const QString marked = QChar(QChar::ByteOrderMark) + text;
+    return file.codec->fromUnicode(marked.constData(), marked.size(), &state);
+}
+
 bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
 {
     if (file == StandardStream) {
         return writeStandardOutput(bytes, error);
     }
     return writeWithFolders(bytes, file, error);
+}
+
+// Behind the writing of a script, which may yet fail.
+void tellLeftOut(const ScriptFile &file)
+{
+    if (!file.leftOut.isEmpty()) {
+        printError(QStringLiteral("%1: without what stands in %2")
+                       .arg(file.path, file.leftOut.join(QLatin1String(", "))));
+    }
 }
 
 bool isSameFile(const QString &a, const QString &b)
@@ -215,9 +247,11 @@ void addConvertOptions(QCommandLineParser *parser)
                        QStringLiteral("The mode that an e-book looks like: a factory mode's name "
                                       "or a mode file. Default: the built-in US screenplay."),
                        QStringLiteral("MODE")});
-    parser->addOption({QStringLiteral("language"),
-                       QStringLiteral("The language of a page or e-book, such as en-GB."),
-                       QStringLiteral("TAG")});
+    parser->addOption(
+        {QStringLiteral("language"),
+         QStringLiteral("The language of a page or e-book, such as en-GB. Default: that "
+                        "of the page that is read."),
+         QStringLiteral("TAG")});
     parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
 }
 
@@ -259,7 +293,6 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
     options->input = parser.positionalArguments().value(0);
     options->from = parser.value(QStringLiteral("from"));
     options->to = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
-    options->language = parser.value(QStringLiteral("language"));
     options->json = parser.isSet(QStringLiteral("json"));
     if (parser.positionalArguments().size() != 1) {
         return scriptUsageError(QStringLiteral("convert takes one script"));
@@ -270,6 +303,17 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
     if (options->to == Format::Unknown) {
         return scriptUsageError(
             QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
+    }
+    const Format named = output == StandardStream ? Format::Unknown : formatOfFile(output);
+    if (named != Format::Unknown && named != options->to && !QFileInfo(output).isDir()) {
+        return scriptUsageError(
+            QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
+    }
+    const QString language = parser.value(QStringLiteral("language"));
+    options->language = languageTag(language);
+    if (options->language.isEmpty() && !language.isEmpty()) {
+        return scriptUsageError(
+            QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
     }
     const QString mode = parser.value(QStringLiteral("mode"));
     if (!mode.isEmpty() && options->to != Format::EPub) {
@@ -310,11 +354,16 @@ int runScriptConvert(const QStringList &arguments)
     ScriptFile script;
     QByteArray bytes;
     QString error;
-    if (!readScript(options.input, options.from, &script, &error)
-        || !scriptBytes(script.script, options.to, options.mode, options.language, &bytes, &error)
+    if (!readScript(options.input, options.from, &script, &error)) {
+        return failure(error);
+    }
+    const QString language =
+        options.language.isEmpty() ? languageTag(script.language) : options.language;
+    if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
         || !writeScript(bytes, options.output, &error)) {
         return failure(error);
     }
+    tellLeftOut(script);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
@@ -417,7 +466,8 @@ void addRenameOptions(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(QStringLiteral(
         "Renames a character in a script, in the cues and, on request, elsewhere, and writes\n"
-        "the script in its own format. Exit code 1: nobody has that name."));
+        "the script in its own format; of Fountain, other lines stay as they are. Exit code 1:\n"
+        "nobody has that name."));
     parser->addPositionalArgument(QStringLiteral("OLD"), QStringLiteral("The name."));
     parser->addPositionalArgument(QStringLiteral("NEW"), QStringLiteral("The new name."));
     parser->addPositionalArgument(QStringLiteral("IN"),
@@ -465,6 +515,9 @@ int runScriptRename(const QStringList &arguments)
     if (names.size() != 3 || names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
         return scriptUsageError(QStringLiteral("rename takes two names and a script"));
     }
+    if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
+        return scriptUsageError(QStringLiteral("a name is one line"));
+    }
     if (!isReadable(from)) {
         return unreadable(from);
     }
@@ -482,14 +535,17 @@ int runScriptRename(const QStringList &arguments)
     }
     const int count = renamed(parser, &file);
     if (count == 0) {
-        return failure(QStringLiteral("%1: nobody is called '%2'").arg(names.at(2), names.at(0)));
+        const bool isSame =
+            names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
+        return failure((isSame ? QStringLiteral("%1: '%2' is the same name")
+                               : QStringLiteral("%1: nobody is called '%2'"))
+                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
-    QByteArray bytes;
-    if (!scriptBytes(file.script, file.format, MRVScriptMode(), QString(), &bytes, &error)
-        || !writeScript(bytes, target, &error)) {
+    if (!writeScript(revisedBytes(file), target, &error)) {
         return failure(error);
     }
+    tellLeftOut(file);
     if (target != StandardStream && parser.isSet(QStringLiteral("json"))) {
         printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
     } else if (target != StandardStream) {

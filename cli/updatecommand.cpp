@@ -1,5 +1,6 @@
 #include "command.h"
 #include "temporaryfolder.h"
+#include "terminalinput.h"
 
 #include "core/mrvfilewriter.h"
 #include "web/mrvdownloadsilentinput.h"
@@ -43,6 +44,14 @@ int usageError(const QString &text)
 {
     printError(QLatin1String("update: ") + text);
     return WrongUsage;
+}
+
+// One that can be compared: digits with full stops between, or such a text and ".beta".
+bool isVersion(QString text)
+{
+    bool isNumber = false;
+    text.remove(QLatin1String(".beta")).remove(u'.').toInt(&isNumber);
+    return isNumber;
 }
 
 bool isAddress(const QString &feed)
@@ -101,11 +110,11 @@ void print(const MRVUpdateModel &model, const QString &feed, bool json)
                    {QStringLiteral("installer"), model.downloadURL()}});
     } else if (model.isNewerAvailable()) {
         printLine(QStringLiteral("%1 is available, this is %2\n%3")
-                      .arg(model.availableVersion(), current, model.downloadURL()));
+                      .arg(model.availableVersion(), current, printable(model.downloadURL())));
     } else {
         printLine((isBeta ? QStringLiteral("%1 is up to date: %2 is a beta, which is not offered")
                           : QStringLiteral("%1 is up to date: the feed offers %2"))
-                      .arg(current, model.availableVersion()));
+                      .arg(current, printable(model.availableVersion())));
     }
 }
 
@@ -132,7 +141,7 @@ int check(const QString &given, bool json)
         model.readXML();
     }
     if (!error.isEmpty()) {
-        printError(QStringLiteral("update: %1: %2").arg(feed, error));
+        printError(QStringLiteral("update: %1: %2").arg(feed, printable(error)));
         return Failed;
     }
     print(model, feed, json);
@@ -149,7 +158,7 @@ int runUpdate(const QStringList &arguments)
         "Exit code 1: there is nothing newer, or the feed cannot be read."));
     parser.addPositionalArgument(
         QStringLiteral("FEED"),
-        QStringLiteral("An http or https address, a file, or - for standard input; the\n"
+        QStringLiteral("An http or https address, a file, or - for standard input; the "
                        "application's own feed unless given."),
         QStringLiteral("[FEED]"));
     const QCommandLineOption current(
@@ -170,6 +179,14 @@ int runUpdate(const QStringList &arguments)
     const QString name = parser.value(application);
     if (parser.positionalArguments().size() > 1) {
         return usageError(QStringLiteral("one feed at a time"));
+    }
+    // As of a variable that is not set, which must not mean the application's own feed.
+    if (parser.positionalArguments().contains(QString())) {
+        return usageError(QStringLiteral("the feed has no name"));
+    }
+    if (parser.isSet(current) && !isVersion(parser.value(current))) {
+        return usageError(QStringLiteral("--current is a version such as 2.9.0.1, not '%1'")
+                              .arg(parser.value(current)));
     }
     if (name != QLatin1String("Morvane") && name != QLatin1String("Fernwick")) {
         return usageError(QStringLiteral("--app is Morvane or Fernwick, not '%1'").arg(name));

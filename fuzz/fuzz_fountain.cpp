@@ -3,8 +3,10 @@
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_fountain.cpp
-//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/script/mrvscriptxml.cpp
-//     base/script/mrvscriptstatistics.cpp -o fuzz_fountain
+//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/script/mrvtitlepage.cpp
+//     base/script/mrvscript{xml,mode,element,statistics}*.cpp base/util/mrvunit.cpp base/util/mrvcolors.cpp
+//     base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp -Lbuild/release/lib -lMrvBase
+//     -lMrvCore -lMrvGui -Wl,-rpath,build/release/lib -o fuzz_fountain
 //   ./fuzz_fountain -rss_limit_mb=512 CORPUS
 
 #include "script/mrvfinaldraft.h"

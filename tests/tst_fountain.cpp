@@ -115,7 +115,10 @@ private Q_SLOTS:
     void texts_data() { addRows("fountain.tsv", {"name", "text", "dumped", "written"}); }
     void texts();
     void randomScripts();
+    void longKey();
     void randomTexts();
+    void revisions_data() { addRows("fountain-revisions.tsv", {"name", "text", "revised"}); }
+    void revisions();
     void renames_data()
     {
         addRows("scriptrenames.tsv", {"name", "text", "from", "to", "scope", "count", "renamed"});
@@ -128,6 +131,11 @@ private Q_SLOTS:
     void statistics();
     void pages();
     void finalDraft();
+    void finalDraftParts_data()
+    {
+        addRows("finaldraft.tsv", {"name", "content", "text", "leftOut"});
+    }
+    void finalDraftParts();
     void refusedXml_data() { addRows("scriptxml-refused.tsv", {"format", "text", "error"}); }
     void refusedXml();
     void typedDocuments_data() { addRows("scriptdocuments.tsv", {"mode", "paragraphs", "text"}); }
@@ -161,7 +169,42 @@ void TestFountain::randomScripts()
             QCOMPARE(dump(read), dump(normal));
         }
         QCOMPARE(dump(normal.normalized()), dump(normal));
+        // As a revision of another text, of as many elements where that can be had.
+        const MRVFountainScript other = randomScript(&random);
+        const QString revised = script.toText(QString(other.toText()).replace('\n', "\r\n"));
+        QCOMPARE(dump(MRVFountainScript::fromText(revised)), dump(normal));
     }
+}
+
+// Hours, unless it takes time linear in the key.
+void TestFountain::longKey()
+{
+    MRVFountainScript script;
+    script.titles = {{QString(1 << 20, '!') + QString(1 << 20, '*') + "int. a", {}},
+                     {"b", {{"c", {}, Run::Text}}}};
+    QCOMPARE(script.normalized().titles.constFirst().key, QString("nt. a"));
+}
+
+// Bob becomes Robert in each text; nothing else changes that need not.
+void TestFountain::revisions()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, revised);
+    for (QString *each : {&text, &revised})
+        each->replace("<BOM>", QChar(QChar::ByteOrderMark))
+            .replace("<SOH>", QChar(1))
+            .replace("<HALF>", QChar(0xD800))
+            .replace("<FFFE>", QChar(0xFFFE));
+    MRVFountainScript script = MRVFountainScript::fromText(text);
+    for (Element &element : script.elements) {
+        for (Run &run : element.runs)
+            run.text.replace("BOB", "ROBERT");
+    }
+    for (MRVFountainTitle &title : script.titles) {
+        for (Run &run : title.value)
+            run.text.replace("BOB", "ROBERT");
+    }
+    QCOMPARE(script.toText(text), revised);
 }
 
 void TestFountain::randomTexts()
@@ -174,6 +217,7 @@ void TestFountain::randomTexts()
             text += randomText(&random, true);
         const MRVFountainScript read = MRVFountainScript::fromText(text);
         QCOMPARE(dump(read.normalized()), dump(read));
+        QCOMPARE(read.toText(text), text);
         const MRVFountainScript again = MRVFountainScript::fromText(read.toText());
         if (again != read) {
             qWarning("seed %d:\n%s\n-- written:\n%s", seed, qPrintable(text),
@@ -292,13 +336,18 @@ void TestFountain::pages()
         const MRVFountainScript script = randomScript(&random).normalized();
         MRVFountainScript read;
         QString error;
-        if (script == MRVFountainScript())
-            continue;
         QVERIFY2(MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script, "en"), &read, &error),
                  qPrintable(error));
-        // XML has no U+FFFE, and a text of nothing else is none.
         QCOMPARE(dump(read), dump(script));
+        // Of a title page, Final Draft keeps all but where notes end.
+        MRVFountainScript titles;
+        for (const MRVFountainTitle &title : script.titles)
+            titles.titles.append({title.key, {{title.text(), {}, Run::Text}}});
+        titles = titles.normalized();
+        QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(titles), &read));
+        QCOMPARE(dump(read), dump(titles));
     }
+    QVERIFY(!MRVFountainHtml::toHtml(MRVFountainScript::fromText("A\n\n\n\nB")).contains("<p/>"));
 }
 
 void TestFountain::finalDraft()
@@ -312,19 +361,24 @@ void TestFountain::finalDraft()
     MRVFountainScript read;
     QVERIFY(MRVFinalDraft::fromXml(xml, &read));
     QCOMPARE(read.toText(), text);
-    // What stands around the script is no part of it, and a scene's summary is a synopsis.
-    const QString paragraph = "<Paragraph Type='%1'>%2<Text>%3</Text></Paragraph>";
-    const QString foreign = "<HeaderAndFooter><Header>" + paragraph.arg("", "", "header")
-        + "</Header></HeaderAndFooter>";
-    const QString summary = "<SceneProperties><Summary>" + paragraph.arg("", "", "why")
-        + "</Summary></SceneProperties>";
-    const QString other = "<FinalDraft><Content>"
-        + paragraph.arg("Scene Heading", summary, "INT. A") + "</Content>" + foreign + "<TitlePage>"
-        + foreign + "<Content>"
-        + QString("<Paragraph Alignment='Center'><Text>T</Text></Paragraph>")
-        + "</Content></TitlePage></FinalDraft>";
-    QVERIFY(MRVFinalDraft::fromXml(other.toUtf8(), &read));
-    QCOMPARE(read.toText().simplified(), QString("Title: T INT. A = why"));
+    // Keys that the places on the page do not tell are written.
+    const QString odd = "Author: A\nTitle: B: C\nauthor: D\nCredit: Story\nWGA #: 1-2\nnotes: n\n"
+                        "Contact: Phone: 1\nDate: 2\nSource: by E\n\nF\n";
+    QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(MRVFountainScript::fromText(odd)), &read));
+    QCOMPARE(read.toText(), odd);
+}
+
+void TestFountain::finalDraftParts()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, text);
+    QFETCH(QString, leftOut);
+    MRVFountainScript read;
+    QStringList sections;
+    const QByteArray xml = "<FinalDraft>" + content.toUtf8() + "</FinalDraft>";
+    QVERIFY(MRVFinalDraft::fromXml(xml, &read, nullptr, &sections));
+    QCOMPARE(read.toText(), text);
+    QCOMPARE(sections.join(' '), leftOut);
 }
 
 void TestFountain::refusedXml()
@@ -334,6 +388,10 @@ void TestFountain::refusedXml()
     QFETCH(QString, error);
     MRVFountainScript script;
     QString found;
+    QString attributes;
+    for (int i = 0; i < 100; ++i)
+        attributes += QString("a%1='' ").arg(i);
+    text.replace("@=", attributes);
     const QByteArray bytes = text.replace("@300", QString("<p>").repeated(300)).toUtf8();
     QVERIFY(!(format == "html" ? MRVFountainHtml::fromHtml(bytes, &script, &found)
                                : MRVFinalDraft::fromXml(bytes, &script, &found)));
@@ -368,10 +426,11 @@ void TestFountain::printedDocument()
     MRVScriptMode mode;
     mode.loadFactoryDefaults();
     QTextDocument document;
-    const QString text = "# A\n\nint. b #2#\n\nC [[d]]/* e */\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
+    const QString text =
+        "Title: T\nWGA #: 1\n\n# A\n\nint. b #2#\n\nC [[d]]/* e */\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
     MRVScriptDocument::setPrintedScript(&document, MRVFountainScript::fromText(text), mode);
-    QCOMPARE(document.toPlainText(), QString("2 INT. B\nC \nAL (h)\nI"));
-    QCOMPARE(document.begin().blockFormat().headingLevel(), 1);
+    QCOMPARE(document.toPlainText(), QString("T\nWGA #: 1\n2 INT. B\nC \nAL (h)\nI"));
+    QCOMPARE(document.findBlockByNumber(2).blockFormat().headingLevel(), 1);
     QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 72.0);
     QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 108.0);
 }

@@ -2,6 +2,7 @@
 #include "support.h"
 
 #include <QTemporaryDir>
+#include <QTextCodec>
 
 /** The tool's commands for measures and script modes, run as a stranger would. */
 class tst_MrvScript : public QObject
@@ -20,6 +21,7 @@ private Q_SLOTS:
         addRows("mrv-fountain.tsv", {"case", "arguments", "file", "code", "output", "error"});
     }
     void scripts();
+    void renamedInEncoding();
     void convertedBack();
 
 private:
@@ -47,7 +49,7 @@ void tst_MrvScript::runRow(const QString &name)
     QVERIFY(writeBytes(path + name, file.toUtf8()));
     QStringList list = arguments.split(' ');
     for (QString &argument : list)
-        argument.replace('@', path).replace(u'␣', ' ');
+        argument.replace('@', path).replace(u'␣', ' ').replace(u'␤', '\n');
     Ran ran = run(MRV_TOOL, list);
     ran.output.replace(path, "@");
     QVERIFY2(output.isEmpty() ? ran.output.isEmpty() : ran.output.contains(output),
@@ -68,6 +70,24 @@ void tst_MrvScript::written()
         0);
     QVERIFY(bytesOf(path).contains("<Units>Inches</Units>"));
     QCOMPARE(run(MRV_TOOL, {"script", "check", path}).exitCode, 0);
+}
+
+void tst_MrvScript::renamedInEncoding()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("a.fountain");
+    for (const char *codec : {"UTF-8", "UTF-16LE", "UTF-16BE", "UTF-32LE"}) {
+        const auto bytes = [codec](const char *text) {
+            const QString marked = QChar(QChar::ByteOrderMark) + QString(text);
+            QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+            return QTextCodec::codecForName(codec)->fromUnicode(marked.constData(), marked.size(),
+                                                                &state);
+        };
+        QVERIFY(writeBytes(path, bytes("BOB\r\n  Hi.")));
+        const Ran ran = run(MRV_TOOL, {"script", "rename", "Bob", "Rob", path, "-o", path});
+        QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
+        QCOMPARE(bytesOf(path), bytes("ROB\r\n  Hi."));
+    }
 }
 
 // From each format into the next, and a sound e-book from the last.

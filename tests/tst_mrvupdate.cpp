@@ -24,15 +24,16 @@ private Q_SLOTS:
         QFETCH(QString, error);
         QTemporaryDir folder;
         const QString file = folder.filePath("f");
-        QVERIFY(writeBytes(file, feed.toUtf8()));
+        QVERIFY(writeBytes(file, feed == "big" ? QByteArray(1048577, ' ') : feed.toUtf8()));
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         connect(&server, &QTcpServer::newConnection, [&] {
             QTcpSocket *socket = server.nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, socket, [=] {
                 const bool loops = socket->readAll().startsWith("GET /loop ");
-                socket->write(loops ? "HTTP/1.0 302 Found\r\nLocation: /loop\r\n\r\n"
-                                    : "HTTP/1.0 200 OK\r\n\r\n" + feed.toUtf8());
+                socket->write(feed == "404" ? "HTTP/1.0 404 Not Found\r\n\r\n"
+                                  : loops   ? "HTTP/1.0 302 Found\r\nLocation: /loop\r\n\r\n"
+                                            : "HTTP/1.0 200 OK\r\n\r\n" + feed.toUtf8());
                 socket->disconnectFromHost();
             });
         });
@@ -41,7 +42,9 @@ private Q_SLOTS:
             text->replace("@f", file).replace("@web", web);
 
         QProcess tool;
-        tool.start(MRV_TOOL, QStringList("update") + arguments.split(' ', Qt::SkipEmptyParts));
+        tool.start(MRV_TOOL,
+                   (QStringList("update") + arguments.split(' ', Qt::SkipEmptyParts))
+                       .replaceInStrings("@empty", QString()));
         tool.write(feed.toUtf8());
         tool.closeWriteChannel();
         QTRY_COMPARE(tool.state(), QProcess::NotRunning);

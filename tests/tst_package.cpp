@@ -141,6 +141,10 @@ void TestPackage::findPackage()
     for (const char *name : {"MrvCore", "MrvGui", "MrvNetwork"}) {
         VERIFY_RAN(run(build + "/only" + name, {}));
     }
+    // A program that has no resources finds the translations when it is installed beside them.
+    QCOMPARE(run(build + "/onlyMrvCore", {}).out, QString("en\n"));
+    QVERIFY(QFile::copy(build + "/onlyMrvCore", m_prefix + "/bin/onlyMrvCore"));
+    QCOMPARE(run(m_prefix + "/bin/onlyMrvCore", {}).out, QString("en de es fr\n"));
 }
 
 void TestPackage::pkgConfig()

@@ -4,7 +4,10 @@
 #include "core/mcoretype.h"
 #include "heapmeter.h"
 
+#include <QColor>
 #include <QImage>
+#include <QPolygon>
+#include <QTimeZone>
 #include <QtTest>
 
 namespace {
@@ -134,6 +137,18 @@ void TestReferences::variants()
     large.fill(Qt::white);
     const MRVFernwickDropItem wall("l", large);
     QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(wall)), wall);
+    // What could not be read again is not written.
+    QVariant deep = 1;
+    for (int i = 0; i < 30; ++i)
+        deep = QVariantList{deep};
+    const MRVFernwickDropItem deepest({deep});
+    QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(deepest)), deepest);
+    const QList<QVariant> foreign{
+        deep, QVariantHash{{"a", 1}}, QVariant::fromValue(QPolygon()),
+        QDateTime(QDate(2026, 1, 2), QTime(), QTimeZone("Europe/Berlin"))};
+    for (const QVariant &value : foreign) {
+        QCOMPARE(bytesOf(MRVFernwickDropItem({QVariantMap{{"k", value}}})), QByteArray());
+    }
     // What follows a picture in a stream is read from behind it.
     const QByteArray bytes = bytesOf(item) + bytesOf(group());
     QDataStream stream(bytes);
@@ -152,7 +167,13 @@ void TestReferences::damagedBytes_data()
     QTest::newRow("picture") << bytesOf(MRVFernwickDropItem("label", picture()));
     QTest::newRow("group") << bytesOf(group());
     const QVariantList others{QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, 60),
-                              QUrl("http://a.example"), QByteArray("b"), 1.5,
+                              QUrl("http://a.example"),
+                              QByteArray("b"),
+                              1.5,
+                              2.5f,
+                              QColor(1, 2, 3),
+                              QUuid(),
+                              QVariant::fromValue(short(4)),
                               QVariant(QVariant::Int)};
     QTest::newRow("others") << bytesOf(MRVFernwickDropItem(others));
 }
@@ -185,6 +206,7 @@ void TestReferences::claimedSizes_data()
     QTest::newRow("map") << hex("00000008 00 7fffffff 00000000 00000000 01");
     QTest::newRow("texts") << hex("0000000b 00 7fffffff 00000000");
     QTest::newRow("text") << hex("0000000a 00 7ffffff0 0041");
+    QTest::newRow("half a character") << hex("0000000a 00 00000003 004100");
     QTest::newRow("bytes") << hex("0000000c 00 7ffffff0 41");
     QTest::newRow("name") << hex("00000400 00 7ffffff0 41");
     QTest::newRow("time zone") << hex("00000010 00 0000000000253d8c 00000000 03 0000000000");
@@ -192,6 +214,7 @@ void TestReferences::claimedSizes_data()
     QTest::newRow("deep") << hex("00000009 00 00000001").repeated(40) + hex("00000000 01");
     QTest::newRow("unknown type") << hex("00000400 00 00000002 4100 00000000");
     QTest::newRow("chunk") << hex("00000046 00 00000001 89504e470d0a1a0a 7ffffff0 49484452");
+    QTest::newRow("kind of colour") << hex("00000043 00 7f 00000000000000000000");
     QTest::newRow("pixels") << hex("00000046 00 00000001 89504e470d0a1a0a 0000000d 49484452"
                                    "00007fff 00007fff 08 06 00 00 00 00000000"
                                    "00000000 49454e44 ae426082");

@@ -17,8 +17,10 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 #include <sys/stat.h>
@@ -52,7 +54,13 @@ public:
     {
         callOnTimeout([said] {
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                said->append(box->windowTitle() + ": " + box->text());
+                QString text = box->windowTitle() + ": " + box->text();
+                if (!box->informativeText().isEmpty())
+                    text += '\n' + box->informativeText();
+                // Servers have a say in what most of them tell.
+                const bool isPlain = box->textFormat() == Qt::PlainText;
+                said->append(isPlain || box->windowTitle() == "Morvane Update" ? text
+                                                                               : "markup " + text);
                 box->accept();
             }
         });
@@ -62,6 +70,23 @@ public:
 
 bool isOnline = true;
 
+// What may happen while windows close, which may ask whether to save.
+class SlowWindow : public QWidget
+{
+public:
+    explicit SlowWindow(std::function<void()> happens)
+        : m_happens(std::move(happens))
+    {
+        show();
+    }
+
+protected:
+    void closeEvent(QCloseEvent *) override { m_happens(); }
+
+private:
+    std::function<void()> m_happens;
+};
+
 MRVCheckForUpdatesDialog *shownDialog()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -69,6 +94,25 @@ MRVCheckForUpdatesDialog *shownDialog()
             return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
     }
     return nullptr;
+}
+
+QPushButton *enabledButton(const char *name)
+{
+    auto *button = shownDialog() ? shownDialog()->findChild<QPushButton *>(name) : nullptr;
+    return button && button->isVisible() && button->isEnabled() ? button : nullptr;
+}
+
+// How a check may come to its end at any time.
+void finish(const QString &how)
+{
+    if (how == "release")
+        MRVUpdateManager::release();
+    else if (how == "destroy")
+        delete shownDialog();
+    else if (how == "close")
+        shownDialog()->close();
+    else
+        QTest::keyClick(shownDialog(), Qt::Key_Escape);
 }
 
 bool isOver()
@@ -222,7 +266,7 @@ private Q_SLOTS:
         QVERIFY(writeBytes(model.xmlFilePath(), feedOf("3.0.0.0|morvane.run|http://d/")));
         if (!key.isEmpty())
             QCOMPARE(model.setPublicKey(key == "key" ? bytesOf(data + "key.pub") : key.toUtf8()),
-                     key == "key");
+                     !told.contains("no valid key"));
         model.readXML();
         const Told heard(model);
         if (!installer.isEmpty())
@@ -272,47 +316,157 @@ private Q_SLOTS:
         QTRY_VERIFY(isOver() || shownDialog());
         drive(plant, &heard);
         QTRY_VERIFY(isOver() && !shownDialog());
-        QCOMPARE(heard.join(';'), said.replace("@tmp", m_folder->path()));
+        said.replace("@tmp", m_folder->path()).replace("@app", qApp->applicationFilePath());
+        QCOMPARE(heard.join(';'), said);
         QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
         QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
+        // What was refused is not left for somebody to open by hand.
+        QVERIFY(said.contains("install") || !QFileInfo(m_folder->filePath("morvane.run")).isFile());
     }
 
     void endsEarly_data()
     {
-        QTest::addColumn<bool>("installer");
-        QTest::addColumn<bool>("cancels");
-        QTest::newRow("feed-released") << false << false;
-        QTest::newRow("installer-released") << true << false;
-        QTest::newRow("installer-cancelled") << true << true;
+        addRows("update-ends.tsv",
+                {"case", "plant", "feed", "installer", "signature", "at", "end"});
     }
     // Nothing is said, left behind or used after its end.
     void endsEarly()
     {
-        QFETCH(bool, installer);
-        QFETCH(bool, cancels);
+        QFETCH(QString, plant);
+        QFETCH(QString, feed);
+        QFETCH(QString, installer);
+        QFETCH(QString, signature);
+        QFETCH(QString, at);
+        QFETCH(QString, end);
         Web web;
-        web.answers = {
-            {"/update.xml", installer ? "3.0.0.0|morvane.run|http://d.example/" : "wait"},
-            {"/morvane.run", "wait"}};
-        plantIn(QString());
+        web.answers = {{"/update.xml", feed},
+                       {"/morvane.run", installer},
+                       {"/morvane.run.minisig", signature}};
+        plantIn(plant);
+        if (!signature.isEmpty())
+            QVERIFY(MRVUpdateManager::instance()->setPublicKey(bytesOf(data + "key.pub")));
         QStringList heard;
-        const Boxes boxes(&heard);
+        std::unique_ptr<Boxes> boxes;
+        bool isEnded = false;
+        QTimer ender;
+        ender.callOnTimeout([&] {
+            const bool isThere = at == "box" ? bool(QApplication::activeModalWidget())
+                : at == "ready"              ? bool(enabledButton("installButton"))
+                                             : web.asked.contains(at);
+            if (!isThere)
+                return;
+            ender.stop();
+            finish(end);
+            isEnded = true;
+            boxes = std::make_unique<Boxes>(&heard);
+        });
+        ender.start(5);
+        // A timer of its own, since a click may open a box and come back only when that is closed.
+        QTimer user;
+        user.callOnTimeout([&] {
+            QPushButton *install = plant == "swap" ? enabledButton("installButton") : nullptr;
+            QPushButton *wanted = install ? install : enabledButton("downloadButton");
+            if (install)
+                QFile::remove(m_folder->filePath("morvane.run"));
+            if (wanted && !isEnded)
+                QTest::keyClick(wanted, Qt::Key_Space);
+        });
+        user.start(5);
+        if (plant == "silent")
+            MRVUpdateManager::instance()->checkForUpdatesSilent();
         MRVUpdateManager::instance()->checkForUpdates();
-        if (installer) {
-            QTRY_VERIFY(shownDialog());
-            QTest::keyClick(shownDialog(), Qt::Key_Return);
-        }
-        QTRY_VERIFY(web.asked.contains(installer ? "/morvane.run" : "/update.xml"));
-        if (cancels)
-            shownDialog()->close();
-        else
-            MRVUpdateManager::release();
-        QTRY_VERIFY(isOver() && !shownDialog());
-        QCOMPARE(heard, QStringList());
-        QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
+        QTRY_VERIFY(isEnded && isOver() && !shownDialog() && !QApplication::activeModalWidget());
+        QVERIFY(heard.size() <= (at == "box")); // the one that was open
+        if (at.endsWith(".xml") || at.endsWith(".run"))
+            QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
+        if (plant == "Fernwick")
+            return;
+        user.stop();
         web.asked.clear();
         MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
         QTRY_VERIFY(web.asked.contains("/update.xml"));
+    }
+
+    void endsOnce_data()
+    {
+        addRows("update-signals.tsv", {"case", "silent", "feed", "installer", "user", "expected"});
+    }
+    // In order, and nothing after the end, whatever is asked then.
+    void endsOnce()
+    {
+        QFETCH(QString, feed);
+        QFETCH(QString, installer);
+        QFETCH(QString, user);
+        Web web;
+        web.answers = {{"/update.xml", feed}, {"/morvane.run", installer}};
+        plantIn(QString());
+        MRVUpdateDownloader check;
+        QStringList heard;
+        using D = MRVUpdateDownloader;
+        connect(&check, &D::updateChecked, [&] { heard << "checked"; });
+        connect(&check, &D::finished, [&] { heard << "finished"; });
+        connect(&check, QOverload<QString>::of(&D::installRequested),
+                [&](const QString &path) { heard << "install " + QFileInfo(path).fileName(); });
+        QStringList said;
+        Boxes boxes(&said);
+        boxes.callOnTimeout([&] {
+            if (!said.isEmpty() && said.takeFirst().startsWith("Check for Updates: "))
+                heard << "box";
+        });
+        // Another fault while one is being told.
+        QTimer again;
+        again.callOnTimeout([&] {
+            if (QApplication::activeModalWidget() && again.interval() == 0) {
+                again.setInterval(10000);
+                check.errorMsg("again");
+            }
+        });
+        again.start(0);
+        QFETCH(QString, silent);
+        QVERIFY(check.startUpdate(!silent.isEmpty()));
+        QCOMPARE(check.isSilent(), !silent.isEmpty());
+        QTRY_VERIFY(heard.contains("finished") || shownDialog());
+        if (shownDialog()) {
+            QVERIFY(!check.isSilent());
+            QTest::keyClick(shownDialog()->findChild<QPushButton *>("downloadButton"),
+                            Qt::Key_Space);
+            if (user == "installs") {
+                QTRY_VERIFY(enabledButton("installButton"));
+                QTest::keyClick(enabledButton("installButton"), Qt::Key_Space);
+            } else if (user == "closes") {
+                shownDialog()->close();
+            }
+        }
+        QFETCH(QString, expected);
+        QTRY_COMPARE(heard.join(';'), expected);
+        check.cancelUpdate();
+        check.errorMsg("late");
+        check.updateAvailable(true);
+        check.downloadInstaller();
+        check.installRequested();
+        QTest::qWait(20);
+        QCOMPARE(heard.join(';'), expected);
+        QVERIFY(!shownDialog());
+    }
+
+    // The dialog may have been forgotten under other windows.
+    void comesToTheFront()
+    {
+        Web web;
+        web.answers = {{"/update.xml", "3.0.0.0|m|http://d/"}};
+        plantIn(QString());
+        MRVUpdateManager::instance()->checkForUpdatesSilent();
+        QTRY_VERIFY(shownDialog());
+        shownDialog()->showMinimized();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QTRY_VERIFY(other.isActiveWindow());
+        MRVUpdateManager::instance()->checkForUpdatesSilent();
+        QVERIFY(shownDialog()->isMinimized());
+        MRVUpdateManager::instance()->checkForUpdates();
+        QTRY_VERIFY(shownDialog()->isActiveWindow() && !shownDialog()->isMinimized());
+        QCOMPARE(web.asked.count("/update.xml"), 1);
     }
 
     void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }
@@ -397,8 +551,9 @@ private Q_SLOTS:
 
     void dialog()
     {
+        const Web web;
         qputenv("MRV_PLUGIN_PATH", "/nowhere");
-        MRVCheckForUpdatesDialog dialog("");
+        MRVCheckForUpdatesDialog dialog("http://www.example/");
         auto *bar = dialog.findChild<QProgressBar *>("progressBar");
         auto *status = dialog.findChild<QLabel *>("statusLabel");
         auto *download = dialog.findChild<QPushButton *>("downloadButton");
@@ -417,17 +572,61 @@ private Q_SLOTS:
         QCOMPARE(wanted.count(), 1);
         QCOMPARE(download->text(), QString("Downloading Update"));
         QVERIFY(!download->isEnabled());
+        QSignalSpy rejected(&dialog, &QDialog::rejected);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) // pressed once too often
+            QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, key);
+        QCOMPARE(rejected.count(), 0);
+        dialog.findChild<QWidget *>("webView")->setFocus();
+        dialog.enableInstallButton();
+        QVERIFY(!dialog.findChild<QWidget *>("installButton")->hasFocus()); // somebody reads
         dialog.errorMsg("<b>lost</b>");
         QCOMPARE(status->text(), QString("<b>lost</b>"));
         dialog.updateDownloadProgress(1, 2);
         QVERIFY(bar->isHidden());
-        QSignalSpy rejected(&dialog, &QDialog::rejected);
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QCOMPARE(rejected.count(), 1);
         QCoreApplication::setApplicationName("Fernwick");
         QVERIFY(MRVCheckForUpdatesDialog::logoImage()
                 != dialog.findChild<QLabel *>("appLogo")->pixmap(Qt::ReturnByValue).toImage());
         QCOMPARE(MRVCheckForUpdatesDialog::logoImage().width(), 48);
+    }
+
+    void layout_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<QString>("text");
+        const QString text =
+            QString("Klicken Sie auf die Schaltfläche. ").repeated(15) + "\n\nEnde.";
+        const QString address = "http://downloads.example/" + QString("x").repeated(400);
+        QTest::newRow("text") << 10 << text;
+        QTest::newRow("large-text") << 13 << text;
+        QTest::newRow("address") << 10 << address;
+        QTest::newRow("large-address") << 12 << address;
+    }
+    // Nothing is cut off, however small the dialog is made, and it fits on the screen.
+    void layout()
+    {
+        QFETCH(int, size);
+        QFETCH(QString, text);
+        const Web web;
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+        const QFont font = QApplication::font();
+        const auto reset = qScopeGuard([&] { QApplication::setFont(font); });
+        QApplication::setFont(QFont(font.family(), size));
+        MRVCheckForUpdatesDialog dialog("http://www.example/");
+        dialog.statusMsg(text);
+        dialog.show();
+        const auto *status = dialog.findChild<QLabel *>("statusLabel");
+        const auto isWhole = [&] {
+            return status->height() >= status->heightForWidth(status->width());
+        };
+        QTRY_VERIFY(isWhole());
+        dialog.resize(1, 1);
+        QTRY_VERIFY(isWhole());
+        QVERIFY(dialog.findChild<QWidget *>("webView")->height()
+                >= 4 * status->fontMetrics().height());
+        const QSize screen = dialog.screen()->availableSize();
+        QCOMPARE(dialog.size().boundedTo(screen), dialog.size());
     }
 
     void cleanup()
@@ -438,6 +637,17 @@ private Q_SLOTS:
         MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
         isOnline = true;
         QFile::remove(m_folder->path() + "\\update.xml");
+    }
+
+    // The last check is left open, as by a user who quits: the application takes it with it.
+    void cleanupTestCase()
+    {
+        init();
+        Web web;
+        web.answers = {{"/update.xml", "3.0.0.0|morvane.run|http://d/"}};
+        plantIn(QString());
+        MRVUpdateManager::instance()->checkForUpdates();
+        QTRY_VERIFY(shownDialog());
     }
 
 private:
@@ -453,13 +663,25 @@ private:
             QCoreApplication::setApplicationName(plant);
         else if (words[0] == "link")
             QVERIFY(QFile::link(place(2), place(1)));
+        else if (words[0] == "hard-link")
+            QCOMPARE(::link(QFile::encodeName(place(2)), QFile::encodeName(place(1))), 0);
+        else if (words[0] == "strangers" && getuid() == 0)
+            QVERIFY(writeBytes(place(1), feedOf("9.9.9.0|evil.run|http://evil.example/"))
+                    && chown(QFile::encodeName(place(1)), 65534, 65534) == 0);
+        else if (words[0] == "strangers")
+            QSKIP("only the superuser has files of others");
         else if (words[0] == "folder")
             QVERIFY(QDir().mkdir(place(1)));
         else if (words[0] == "pipe")
             QCOMPARE(mkfifo(QFile::encodeName(place(1)), 0600), 0);
-        else if (words[0] == "Location")
+        else if (words[0] == "Location" || words[0] == "Locations-not-ours")
             QSettings("Morvane", "Morvane").setValue("Location", words[1]);
+        // The superuser may write anywhere.
+        const uid_t user = getuid();
+        const bool isOther = words[0] == "Locations-not-ours" && user == 0;
+        QVERIFY(!isOther || setreuid(65534, 0) == 0);
         MVersion::checkCurrentUserRights(nullptr, nullptr, nullptr, true);
+        QVERIFY(!isOther || setreuid(user, 0) == 0);
         qputenv("MRV_PLUGIN_PATH", "/nowhere");
     }
 
@@ -487,6 +709,7 @@ private:
             return;
         if (install->isVisible()) {
             QCOMPARE(bar->value(), bar->maximum());
+            QCOMPARE(bar->maximum(), bytesOf(m_folder->filePath("morvane.run")).size());
             heard->append("install");
             const QString path = m_folder->filePath("morvane.run");
             if (plant.startsWith("swap"))
@@ -495,6 +718,11 @@ private:
                 QVERIFY(writeBytes(path, "evil"));
             else if (plant == "swap-link")
                 QVERIFY(QFile::link(data + "morvane.run", path));
+            std::unique_ptr<SlowWindow> window;
+            if (plant == "closing-swap")
+                window = std::make_unique<SlowWindow>([&] { writeBytes(path, "evil"); });
+            else if (plant == "closing-release")
+                window = std::make_unique<SlowWindow>(&MRVUpdateManager::release);
             m_heard = heard;
             QDesktopServices::setUrlHandler("file", this, "open");
             QTest::keyClick(install, Qt::Key_Space);

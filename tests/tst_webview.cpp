@@ -3,7 +3,10 @@
 #include "web/mrvcheckforupdatesdialog.h"
 
 #include <QDesktopServices>
+#include <QNetworkReply>
 #include <QTextBrowser>
+
+#include <memory>
 
 /// The release notes, in the plug-in's view and in the one that stands in for it.
 class TestWebView : public QObject
@@ -55,6 +58,44 @@ private Q_SLOTS:
         QTest::keyClick(view, Qt::Key_Return);
         QTRY_COMPARE(m_opened, QStringList{"http://www.example/more"});
         QCOMPARE(web.asked, QStringList{"/notes.html"});
+    }
+
+    void access_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("wanted");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("plain") << "http://www.example/"
+                               << "http://www.example/x" << true;
+        QTest::newRow("down") << "https://www.example/"
+                              << "http://www.example/x" << false;
+        QTest::newRow("data") << "https://www.example/"
+                              << "data:,x" << true;
+        QTest::newRow("file") << "http://www.example/"
+                              << "file:///etc/hostname" << false;
+        QTest::newRow("ftp") << "http://www.example/"
+                             << "ftp://www.example/x" << false;
+        QTest::newRow("resource") << "http://www.example/"
+                                  << "qrc:/FileIcons/Morvane48" << false;
+    }
+    // Whatever leads there: the page, what it shows, or a redirect.
+    void access()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, wanted);
+        QFETCH(bool, allowed);
+        qputenv("MRV_PLUGIN_PATH", MRV_BINARY_DIR "/lib/mrvbase/plugins");
+        Web web;
+        web.answers = {{"/x", "@notes.html"}};
+        MRVCheckForUpdatesDialog dialog(page);
+        dialog.show();
+        auto *manager =
+            dialog.findChild<QWidget *>("webView")->findChild<QNetworkAccessManager *>();
+        QVERIFY(manager);
+        const std::unique_ptr<QNetworkReply> reply(manager->get(QNetworkRequest(QUrl(wanted))));
+        QTRY_VERIFY(reply->isFinished());
+        QCOMPARE(reply->error() == QNetworkReply::NoError, allowed);
+        QCOMPARE(web.asked.contains("/x"), allowed && wanted.startsWith("http"));
     }
 
     void standIn_data()

@@ -11,9 +11,14 @@
 
 static const QString data = MRV_SOURCE_DIR "/tests/data/update/";
 
-// "version|file name|base URL", or a feed as it stands.
+// "version|file name|base URL", or a feed as it stands, or after "padded SIZE " with so many bytes before and after it.
 inline QByteArray feedOf(const QString &text)
 {
+    if (text.startsWith("padded ")) {
+        const int size = text.section(' ', 1, 1).toInt();
+        return "<!--" + QByteArray(size, 'x') + "-->" + text.section(' ', 2).toUtf8()
+            + QByteArray(size, ' ');
+    }
     const QStringList parts = text.split('|');
     return parts.size() != 3
         ? text.toUtf8()
@@ -53,8 +58,9 @@ public:
 
     QByteArray response(const QString &path) const
     {
-        const QString answer =
-            path.startsWith("/mirror/") ? '@' + path.mid(8) : answers.value(path, "404");
+        const QString answer = path.startsWith("/hops/") ? hop(path)
+            : path.startsWith("/mirror/")                ? '@' + path.mid(8)
+                                                         : answers.value(path, "404");
         const QString rest = answer.section(' ', 1);
         if (answer == "404")
             return "HTTP/1.1 404 Not Found\r\nContent-Length: 13\r\n\r\n404 Not Found";
@@ -68,6 +74,15 @@ public:
                                                           : feedOf(answer);
         return "HTTP/1.1 200 OK\r\nContent-Length: "
             + QByteArray::number(body.size() + (isShort ? 10 : 0)) + "\r\n\r\n" + body;
+    }
+
+    // "/hops/NUMBER/FILE" redirects so often before it gives the file.
+    static QString hop(const QString &path)
+    {
+        const int left = path.section('/', 2, 2).toInt();
+        const QString file = path.section('/', 3);
+        return left == 0 ? '@' + file
+                         : QString("302 http://mirror.example/hops/%1/%2").arg(left - 1).arg(file);
     }
 
     QByteArray raw; // answers everything, if not empty

@@ -16,7 +16,8 @@ struct Row
 
 // The first row of a format, and of a suffix, is the one that counts. The descriptions are the source
 // texts of translations, irregular ones ("Windows Media", the two of JPEG) included.
-// The one of XPS is in pieces, since a check of the sources takes its last word for a slip.
+// XPS has one name in all languages; it is in pieces, since a check of the sources takes its last word for
+// a slip.
 // clang-format off
 constexpr Row rows[] = {
     {MRVFormat::ODT,       "ODT",       "odt",   QT_TRANSLATE_NOOP("QObject", "OpenDocument Text")},
@@ -32,7 +33,7 @@ constexpr Row rows[] = {
     {MRVFormat::EMF,       "EMF",       "emf",   QT_TRANSLATE_NOOP("QObject", "Microsoft Enhanced Metafile")},
     {MRVFormat::SVG,       "SVG",       "svg",   QT_TRANSLATE_NOOP("QObject", "Scalable Vector Graphics")},
     {MRVFormat::SWF,       "SWF",       "swf",   QT_TRANSLATE_NOOP("QObject", "Adobe Flash File Format")},
-    {MRVFormat::XPS,       "XPS",       "xps",   QT_TRANSLATE_NOOP("QObject", "Microsoft XML Paper " "Spec" "ification")},
+    {MRVFormat::XPS,       "XPS",       "xps",   "Microsoft XML Paper " "Spec" "ification"},
     {MRVFormat::HPGL,      "HPGL",      "hpgl",  QT_TRANSLATE_NOOP("QObject", "HP-GL plotter language")},
     {MRVFormat::PCL,       "PCL",       "pcl",   QT_TRANSLATE_NOOP("QObject", "Printer Command Language Format")},
     {MRVFormat::HTML,      "HTML",      "html",  QT_TRANSLATE_NOOP("QObject", "Hypertext Mark-up Language")},

@@ -3,6 +3,7 @@
 #include "gui/mrvguiutil.h"
 #include "script/mrvcheckedstream_p.h"
 
+#include <QColor>
 #include <QDataStream>
 #include <QDateTime>
 #include <QImage>
@@ -25,13 +26,6 @@ constexpr qint64 MostPictureBytes = 512 << 20;
 // Deflate makes no more of a byte (RFC 1951), so that a picture that claims more is damaged.
 constexpr qint64 MostInflated = 1032;
 
-// Types of a fixed length.
-constexpr int PlainTypes[] = {QMetaType::Bool,     QMetaType::Int,     QMetaType::UInt,
-                              QMetaType::LongLong, QMetaType::Double,  QMetaType::ULongLong,
-                              QMetaType::QChar,    QMetaType::QDate,   QMetaType::QTime,
-                              QMetaType::QPoint,   QMetaType::QPointF, QMetaType::QSize,
-                              QMetaType::QSizeF,   QMetaType::QRect,   QMetaType::QRectF};
-
 void registerType()
 {
     static const int type = [] {
@@ -44,7 +38,6 @@ void registerType()
 
 } // namespace
 
-// Reads an item with its payload. Qt's own reader of variants believes every count and type it finds.
 /** What the first chunk of a PNG picture says (ISO/IEC 15948, section 11.2.2). */
 struct PictureHeader
 {
@@ -72,6 +65,7 @@ struct PictureHeader
     qint64 decodedSize() const { return width * height * (depth == 16 ? 8 : 4); }
 };
 
+// Reads an item with its payload. Qt's own reader of variants believes every count and type it finds.
 class DropItemReader
 {
 public:
@@ -82,7 +76,19 @@ public:
 
     MRVFernwickDropItem item();
 
+    /** Whether values of a type are read, and so may be written. */
+    static bool isRead(int type) { return rowOf(type) != nullptr; }
+
 private:
+    struct TypeRow
+    {
+        int type;
+        QVariant (
+            DropItemReader::*read)(); // of a type whose form has no fixed length, or may be damaged
+    };
+    static const TypeRow Types[];
+    static const TypeRow *rowOf(int type);
+
     bool isSound() const { return m_stream.status() == QDataStream::Ok; }
     QVariant refused()
     {
@@ -91,20 +97,70 @@ private:
     }
 
     QVariant variant();
-    QVariant value(quint32 type);
-    QVariant nested(quint32 type);
     QVariant list();
     QVariant map();
-    QVariant text(quint32 type);
+    QVariant userValue();
+    QVariant text();
+    QVariant byteArray();
+    QVariant url();
+    QVariant color();
     QVariant dateTime();
     QVariant stringList();
     QVariant image();
+    template<typename T>
+    T fromBytes(const QByteArray &bytes) const;
     bool png(QByteArray *bytes);
 
     QDataStream &m_stream;
     int m_depth = 0;
     qint64 m_pictureBytes = MostPictureBytes; // what pictures to come may take
 };
+
+// clang-format off
+constexpr DropItemReader::TypeRow DropItemReader::Types[] = {
+    {QMetaType::Bool,         nullptr},
+    {QMetaType::Int,          nullptr},
+    {QMetaType::UInt,         nullptr},
+    {QMetaType::LongLong,     nullptr},
+    {QMetaType::ULongLong,    nullptr},
+    {QMetaType::Double,       nullptr},
+    {QMetaType::Float,        nullptr},
+    {QMetaType::Long,         nullptr},
+    {QMetaType::ULong,        nullptr},
+    {QMetaType::Short,        nullptr},
+    {QMetaType::UShort,       nullptr},
+    {QMetaType::Char,         nullptr},
+    {QMetaType::SChar,        nullptr},
+    {QMetaType::UChar,        nullptr},
+    {QMetaType::QChar,        nullptr},
+    {QMetaType::QDate,        nullptr},
+    {QMetaType::QTime,        nullptr},
+    {QMetaType::QPoint,       nullptr},
+    {QMetaType::QPointF,      nullptr},
+    {QMetaType::QSize,        nullptr},
+    {QMetaType::QSizeF,       nullptr},
+    {QMetaType::QRect,        nullptr},
+    {QMetaType::QRectF,       nullptr},
+    {QMetaType::QUuid,        nullptr},
+    {QMetaType::QColor,       &DropItemReader::color},
+    {QMetaType::QString,      &DropItemReader::text},
+    {QMetaType::QByteArray,   &DropItemReader::byteArray},
+    {QMetaType::QUrl,         &DropItemReader::url},
+    {QMetaType::QDateTime,    &DropItemReader::dateTime},
+    {QMetaType::QStringList,  &DropItemReader::stringList},
+    {QMetaType::QImage,       &DropItemReader::image},
+    {QMetaType::QVariantList, &DropItemReader::list},
+    {QMetaType::QVariantMap,  &DropItemReader::map},
+    {QMetaType::User,         &DropItemReader::userValue},
+};
+// clang-format on
+
+const DropItemReader::TypeRow *DropItemReader::rowOf(int type)
+{
+    const auto row = std::find_if(std::begin(Types), std::end(Types),
+                                  [type](const TypeRow &known) { return known.type == type; });
+    return row == std::end(Types) ? nullptr : row;
+}
 
 MRVFernwickDropItem DropItemReader::item()
 {
@@ -124,43 +180,26 @@ QVariant DropItemReader::variant()
     m_stream >> type >> isNull;
     if (!isSound() || type == QMetaType::UnknownType)
         return QVariant();
-    const QVariant read = value(type);
+    const TypeRow *row = rowOf(int(type));
+    if (!row || m_depth == MaxDepth)
+        return refused();
+    QVariant read;
+    if (row->read) {
+        ++m_depth;
+        read = (this->*row->read)();
+        --m_depth;
+    } else {
+        read = QVariant(int(type), nullptr);
+        if (!QMetaType::load(m_stream, int(type), read.data()))
+            return refused();
+    }
     return isNull != 0 && isSound() ? QVariant(QVariant::Type(read.userType())) : read;
 }
 
-QVariant DropItemReader::value(quint32 type)
+QVariant DropItemReader::userValue()
 {
-    if (std::find(std::begin(PlainTypes), std::end(PlainTypes), int(type))
-        != std::end(PlainTypes)) {
-        QVariant plain(int(type), nullptr);
-        return QMetaType::load(m_stream, int(type), plain.data()) ? plain : refused();
-    }
-    if (type == QMetaType::QString || type == QMetaType::QByteArray || type == QMetaType::QUrl)
-        return text(type);
-    if (type == QMetaType::QDateTime)
-        return dateTime();
-    if (type == QMetaType::QStringList)
-        return stringList();
-    if (type == QMetaType::QImage)
-        return image();
-    if (m_depth == MaxDepth)
-        return refused();
-    ++m_depth;
-    const QVariant read = nested(type);
-    --m_depth;
-    return read;
-}
-
-QVariant DropItemReader::nested(quint32 type)
-{
-    if (type == QMetaType::QVariantList)
-        return list();
-    if (type == QMetaType::QVariantMap)
-        return map();
     QByteArray name;
-    if (type == QMetaType::User) {
-        mrvReadBytes(m_stream, &name); // stored with the zero that ends it
-    }
+    mrvReadBytes(m_stream, &name); // stored with the zero that ends it
     if (name != QByteArray::fromRawData(TypeName, sizeof TypeName))
         return refused();
     return QVariant::fromValue(item());
@@ -190,17 +229,46 @@ QVariant DropItemReader::map()
     return entries;
 }
 
-QVariant DropItemReader::text(quint32 type)
+QVariant DropItemReader::text()
 {
-    if (type == QMetaType::QString) {
-        QString read;
-        mrvReadString(m_stream, &read);
-        return read;
-    }
+    QString read;
+    mrvReadString(m_stream, &read);
+    return read;
+}
+
+QVariant DropItemReader::byteArray()
+{
+    QByteArray read;
+    mrvReadBytes(m_stream, &read);
+    return read;
+}
+
+QVariant DropItemReader::url()
+{
+    return QUrl(QString::fromUtf8(byteArray().toByteArray()));
+}
+
+template<typename T>
+T DropItemReader::fromBytes(const QByteArray &bytes) const
+{
+    QDataStream stream(bytes);
+    stream.setVersion(m_stream.version());
+    stream.setByteOrder(m_stream.byteOrder());
+    T value;
+    stream >> value;
+    return value;
+}
+
+// Qt takes any number for the kind of a colour.
+QVariant DropItemReader::color()
+{
+    constexpr int Length = 11;
     QByteArray bytes;
-    mrvReadBytes(m_stream, &bytes);
-    return type == QMetaType::QByteArray ? QVariant(bytes)
-                                         : QVariant(QUrl(QString::fromUtf8(bytes)));
+    if (!mrvReadRaw(m_stream, Length, &bytes))
+        return QVariant();
+    if (bytes.at(0) < QColor::Invalid || bytes.at(0) > QColor::ExtendedRgb)
+        return refused();
+    return fromBytes<QColor>(bytes);
 }
 
 // A named time zone would make Qt look it up in the system.
@@ -216,12 +284,7 @@ QVariant DropItemReader::dateTime()
     if (spec == Qt::OffsetFromUTC) {
         mrvReadRaw(m_stream, 4, &bytes);
     }
-    QDataStream stream(bytes);
-    stream.setVersion(m_stream.version());
-    stream.setByteOrder(m_stream.byteOrder());
-    QDateTime time;
-    stream >> time;
-    return time;
+    return fromBytes<QDateTime>(bytes);
 }
 
 QVariant DropItemReader::stringList()
@@ -316,9 +379,39 @@ QList<MRVFernwickDropItem> MRVFernwickDropItem::fromVariant(const QList<QVariant
     return items;
 }
 
+// Whether all of a value would be read again. Hashes are not: their order is another one in each process.
+static bool isWritable(const QVariant &value, int depth = 0)
+{
+    const auto isEntryWritable = [depth](const QVariant &entry) {
+        return isWritable(entry, depth + 1);
+    };
+    const int type = value.userType();
+    if (!value.isValid())
+        return true;
+    if (depth == MaxDepth)
+        return false;
+    if (type == qMetaTypeId<MRVFernwickDropItem>())
+        return isEntryWritable(value.value<MRVFernwickDropItem>().payload());
+    if (type == QMetaType::QDateTime)
+        return value.toDateTime().timeSpec() != Qt::TimeZone;
+    if (type == QMetaType::QVariantMap) {
+        const QVariantMap entries = value.toMap();
+        return std::all_of(entries.cbegin(), entries.cend(), isEntryWritable);
+    }
+    if (type == QMetaType::QVariantList) {
+        const QVariantList entries = value.toList();
+        return std::all_of(entries.cbegin(), entries.cend(), isEntryWritable);
+    }
+    return DropItemReader::isRead(type);
+}
+
 QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item)
 {
     registerType();
+    if (!isWritable(item.payload())) {
+        stream.setStatus(QDataStream::WriteFailed);
+        return stream;
+    }
     return stream << FormatVersion << item.label() << item.payload();
 }
 

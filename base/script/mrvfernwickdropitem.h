@@ -58,13 +58,18 @@ private:
 };
 Q_DECLARE_METATYPE(MRVFernwickDropItem)
 
-/** qint32 format version 1, QString label, QVariant payload. @since 1.0 */
+/**
+ * qint32 format version 1, QString label, QVariant payload. Nothing is written, and the stream's status is
+ * WriteFailed, where the payload holds what could not be read again.
+ *
+ * @since 1.0
+ */
 MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item);
 /**
  * Reads what operator<<() wrote, whatever the format version says.
  *
- * Any bytes may be given. Payloads may hold texts, pictures, numbers, times, byte arrays, addresses,
- * items, and lists and maps of them, 32 levels deep. Where they hold anything else or end too early, the
+ * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, times without a named
+ * zone, byte arrays, addresses, items, and lists and maps of them, 32 levels deep. Where they hold anything else or end too early, the
  * stream's status tells and @p item is a default one. Pictures beyond 512 MiB together, when decoded, are
  * null.
  *

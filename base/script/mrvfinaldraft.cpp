@@ -2,11 +2,9 @@
 
 #include "core/mrvxmltext.h"
 #include "script/mrvscriptxml_p.h"
+#include "script/mrvtitlepage_p.h"
 
 #include <QXmlStreamWriter>
-
-#include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -28,9 +26,6 @@ constexpr struct
     const char *name;
     Run::Style style;
 } styles[] = {{"Bold", Run::Bold}, {"Italic", Run::Italic}, {"Underline", Run::Underline}};
-
-// Entries of a title page that stand in its middle; others but dates stand at its left.
-constexpr const char *centeredKeys[] = {"title", "credit", "author", "authors", "source"};
 
 class FinalDraftWriter
 {
@@ -173,33 +168,36 @@ void FinalDraftWriter::writeNote(const Run &run)
     end();
 }
 
+// Keys are written where they would not be guessed from the places and words alone.
 void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
 {
     if (titles.isEmpty())
         return;
     start("TitlePage");
     start("Content");
-    bool isFirst = true;
+    QVector<MRVFountainTitle> before;
     for (const MRVFountainTitle &title : titles) {
-        const QString key = title.key.toLower();
-        const bool isCentered =
-            std::any_of(std::begin(centeredKeys), std::end(centeredKeys),
-                        [&](const char *name) { return key == QLatin1String(name); });
+        const Qt::AlignmentFlag alignment = mrvTitleAlignment(title.key);
+        const QString text = title.text();
+        const QString guessed = mrvGuessedTitleKey(alignment, text, before);
+        const bool isGuessed = !text.trimmed().isEmpty()
+            && guessed.compare(title.key, Qt::CaseInsensitive) == 0
+            && mrvShownTitleKeyLength(alignment, text) == 0 && mrvIndexOfTitle(before, guessed) < 0;
         start("Paragraph");
         attribute("Type", QStringLiteral("General"));
         attribute("Alignment",
-                  isCentered                                ? QStringLiteral("Center")
-                      : key.contains(QLatin1String("date")) ? QStringLiteral("Right")
-                                                            : QStringLiteral("Left"));
+                  alignment == Qt::AlignHCenter     ? QStringLiteral("Center")
+                      : alignment == Qt::AlignRight ? QStringLiteral("Right")
+                                                    : QStringLiteral("Left"));
         // Points: a third of the way down the page.
-        attribute("SpaceBefore", QString::number(isFirst ? 216 : 12));
-        isFirst = false;
+        attribute("SpaceBefore", QString::number(before.isEmpty() ? 216 : 12));
         MRVFountainRuns value = title.value;
-        if (!isCentered && key != QLatin1String("draft date") && key != QLatin1String("contact")) {
+        if (!isGuessed) {
             value.prepend({title.key + QLatin1String(": "), {}, Run::Text});
         }
         writeRuns(value);
         end();
+        before.append(title);
     }
     end();
     end();

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 /**
  * Scripts as Final Draft documents (.fdx), an XML format that script programs exchange.
@@ -17,7 +18,8 @@
  * The format does not say which line of a title page is what: reading it takes the first centred one as
  * the title, "written by" and the like as the credit, the one behind as the author, other centred ones
  * as the source, those on the right as the date of the draft and the rest as contact, unless they begin
- * with a key, as they are written: "Copyright: ...".
+ * with a key: "Copyright: ...", or, where centred, one that belongs there: "Source: ...". Keys are written
+ * where reading would not find out by itself.
  *
  * @since 1.0
  */
@@ -33,10 +35,16 @@ public:
 
     /**
      * Reads a document; paragraphs of types that Fountain does not know ("General", "Shot") are action.
+     * A scene's title, summary and what its characters go through become synopses behind its heading, and
+     * notes that stand behind the script ("ScriptNotes") go to the end of the paragraphs that they are about.
      *
      * @param error if given, receives a translated line with the number of the line on failure.
+     * @param leftOut if given, receives on success the tags of the other sections that hold text, such
+     * as "HeaderAndFooter" or "ListItems", in the document's order: that text is not in the script.
      * @return false, with @p script untouched, where it is not well-formed, has another root element
-     * than "FinalDraft", or elements within elements beyond 256 levels.
+     * than "FinalDraft", elements within elements beyond 256 levels, or a tag with more than 64
+     * attributes.
      */
-    static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr);
+    static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr,
+                        QStringList *leftOut = nullptr);
 };

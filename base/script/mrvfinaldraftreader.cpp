@@ -1,8 +1,12 @@
 #include "script/mrvfinaldraft.h"
+#include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
+#include "script/mrvtitlepage_p.h"
 
-#include <QRegularExpression>
 #include <QXmlStreamReader>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -37,29 +41,48 @@ constexpr struct
 class FinalDraftReader
 {
 public:
-    explicit FinalDraftReader(const QByteArray &xml)
+    explicit FinalDraftReader(const QString &xml)
         : m_xml(xml)
     {
     }
 
     bool read(MRVFountainScript *script, QString *error);
+    /** The sections of the document that hold text and were not read. */
+    const QStringList &leftOut() const { return m_leftOut; }
 
 private:
+    struct Place
+    {
+        int start; // in the text of the document
+        int element;
+    };
+    struct PlacedNote
+    {
+        int position;
+        QString text;
+    };
+
     QString attribute(const char *name) const
     {
         return m_xml.attributes().value(QLatin1String(name)).toString();
     }
-    bool skipForeign();
+    QStringList readParagraphs();
+    void readNotes();
+    void placeNotes();
+    bool readForeign();
     void readSummary();
     void startElement();
     void endElement();
+    void beginParagraph();
     void startParagraph();
+    void startNote();
+    void endNote();
     void endParagraph();
     void startText();
     void addTitle();
 
     QXmlStreamReader m_xml;
-    int m_depth = 0;
+    QVector<bool> m_isText; // of each element that is open
     MRVFountainScript m_script;
     Element m_element;
     QString m_alignment;
@@ -68,11 +91,24 @@ private:
     int m_dualCues = -1; // cues so far in speeches side by side; -1 outside of them
     int m_firstDualCue = -1;
     Run::Kind m_runKind = Run::Text;
-    bool m_inText = false;
+    Run::Emphasis m_emphasis;
+    int m_noteDepth = 0;
     bool m_isNewNote = false;
+    bool m_isNoteAlone = false; // without a paragraph around it
     bool m_breakPending = false;
-    QString m_summary; // of the scene whose heading is open
+    QStringList m_summary; // of the scene whose heading is open
+    int m_textLength = 0;
+    QVector<Place> m_paragraphs;
+    QVector<PlacedNote> m_notes;
+    QStringList m_leftOut;
 };
+
+void FinalDraftReader::beginParagraph()
+{
+    m_element = Element();
+    m_alignment.clear();
+    m_hasParagraph = true;
+}
 
 void FinalDraftReader::startParagraph()
 {
@@ -82,9 +118,11 @@ void FinalDraftReader::startParagraph()
         }
         return;
     }
+    if (m_hasParagraph && !m_element.runs.isEmpty()) {
+        endParagraph(); // one within another
+    }
     m_breakPending = m_breakPending || attribute("StartsNewPage") == QLatin1String("Yes");
-    m_element = Element();
-    m_hasParagraph = true;
+    beginParagraph();
     m_alignment = attribute("Alignment");
     m_element.sceneNumber = attribute("Number");
     const QString type = attribute("Type");
@@ -101,7 +139,6 @@ void FinalDraftReader::startParagraph()
 
 void FinalDraftReader::startText()
 {
-    m_inText = true;
     if (m_runKind != Run::Text) {
         if (m_isNewNote) {
             m_element.runs.append({QString(), {}, m_runKind});
@@ -109,69 +146,159 @@ void FinalDraftReader::startText()
         m_isNewNote = false;
         return;
     }
-    Run::Emphasis emphasis;
-    const QStringList names = attribute("Style").split(u'+');
-    emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
-    emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
-    emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
-    m_element.runs.append({QString(), emphasis, Run::Text});
-}
-
-// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
-bool FinalDraftReader::skipForeign()
-{
-    constexpr int BelowRoot = 2;
-    const QStringRef tag = m_xml.name();
-    const bool isForeign = m_depth == BelowRoot
-        ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
-        : m_inTitles && m_depth == BelowRoot + 1 && tag != QLatin1String("Content");
-    if (isForeign) {
-        m_xml.skipCurrentElement();
-        --m_depth;
+    if (!m_hasParagraph) {
+        beginParagraph();
     }
-    return isForeign;
+    const QStringList names = attribute("Style").split(u'+');
+    m_emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
+    m_emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
+    m_emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
+    m_element.runs.append({QString(), m_emphasis, Run::Text});
 }
 
-// A summary stands in its scene's heading, in paragraphs of its own.
-void FinalDraftReader::readSummary()
+void FinalDraftReader::startNote()
 {
+    if (m_noteDepth++ > 0)
+        return;
+    m_isNoteAlone = !m_hasParagraph;
+    if (m_isNoteAlone) {
+        beginParagraph();
+    }
+    m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
+    m_isNewNote = true;
+}
+
+void FinalDraftReader::endNote()
+{
+    if (--m_noteDepth > 0)
+        return;
+    m_runKind = Run::Text;
+    if (m_isNoteAlone && m_element.runs.isEmpty()) {
+        m_hasParagraph = false;
+    } else if (m_isNoteAlone) {
+        endParagraph();
+    } else if (!m_isText.isEmpty() && m_isText.constLast()) {
+        m_element.runs.append({QString(), m_emphasis, Run::Text}); // the text goes on
+    }
+}
+
+// The paragraphs of the element that it is in, up to its end; what somebody goes through begins with the name.
+QStringList FinalDraftReader::readParagraphs()
+{
+    QStringList paragraphs;
+    QString name;
     bool inText = false;
     for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
         const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::StartElement) {
             ++depth;
             inText = m_xml.name() == QLatin1String("Text");
-            if (m_xml.name() == QLatin1String("Paragraph") && !m_summary.isEmpty())
-                m_summary += u'\n';
+            if (m_xml.name() == QLatin1String("Paragraph")) {
+                paragraphs.append(QString());
+            } else if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
+                name = attribute("Name") + QLatin1String(": ");
+            }
         } else if (token == QXmlStreamReader::EndElement) {
             --depth;
             inText = false;
+            if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
+                name.clear();
+            }
         } else if (token == QXmlStreamReader::Characters && inText) {
-            m_summary += m_xml.text();
+            if (paragraphs.isEmpty()) {
+                paragraphs.append(QString());
+            }
+            QString &last = paragraphs.last();
+            last += last.isEmpty() ? name + m_xml.text() : m_xml.text().toString();
         }
     }
-    --m_depth;
+    paragraphs.removeAll(QString());
+    return paragraphs;
+}
+
+// Notes that stand behind the script, with the place in its text that each is about: "12,20".
+void FinalDraftReader::readNotes()
+{
+    while (m_xml.readNextStartElement()) {
+        const int position = attribute("Range").section(u',', 0, 0).toInt();
+        const QString text = readParagraphs().join(u'\n');
+        if (!text.isEmpty()) {
+            m_notes.append({position, text});
+        }
+    }
+}
+
+// In the paragraphs that they are about, so that they part no cue from what is said.
+void FinalDraftReader::placeNotes()
+{
+    for (const PlacedNote &note : qAsConst(m_notes)) {
+        const auto behind = std::upper_bound(
+            m_paragraphs.cbegin(), m_paragraphs.cend(), note.position,
+            [](int position, const Place &place) { return position < place.start; });
+        if (behind == m_paragraphs.cbegin()) {
+            m_script.elements.append(Element(Element::Note, note.text));
+        } else {
+            Element &element = m_script.elements[std::prev(behind)->element];
+            const bool isObject =
+                element.kind == Element::Note || element.kind == Element::Boneyard;
+            element.runs.append({isObject ? u'\n' + note.text : note.text, {}, Run::Note});
+        }
+    }
+}
+
+// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
+bool FinalDraftReader::readForeign()
+{
+    constexpr int BelowRoot = 2;
+    const QString tag = m_xml.name().toString();
+    const bool isForeign = m_isText.size() == BelowRoot
+        ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
+        : m_inTitles && m_isText.size() == BelowRoot + 1 && tag != QLatin1String("Content");
+    if (!isForeign)
+        return false;
+    if (tag == QLatin1String("ScriptNotes")) {
+        readNotes();
+    } else {
+        const QString text = readParagraphs().join(QString());
+        // The page number and its dot are in each header.
+        if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })
+            && !m_leftOut.contains(tag)) {
+            m_leftOut.append(tag);
+        }
+    }
+    m_isText.removeLast();
+    return true;
+}
+
+// What a scene is about stands in its heading, in paragraphs of its own.
+void FinalDraftReader::readSummary()
+{
+    const QString title = attribute("Title");
+    if (!title.isEmpty()) {
+        m_summary.append(title);
+    }
+    m_summary += readParagraphs();
+    m_isText.removeLast();
 }
 
 void FinalDraftReader::startElement()
 {
-    if (skipForeign())
+    if (readForeign())
         return;
     const QStringRef tag = m_xml.name();
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
         m_breakPending = false;
-    } else if (tag == QLatin1String("DualDialogue")) {
+    } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
         m_hasParagraph = false; // the paragraph around it has nothing of its own
         m_dualCues = 0;
-    } else if (tag == QLatin1String("ScriptNote") && m_hasParagraph) {
-        m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
-        m_isNewNote = true;
+    } else if (tag == QLatin1String("ScriptNote")) {
+        startNote();
     } else if (tag == QLatin1String("SceneProperties")) {
         readSummary();
     } else if (tag == QLatin1String("Paragraph")) {
         startParagraph();
-    } else if (tag == QLatin1String("Text") && m_hasParagraph) {
+    } else if (tag == QLatin1String("Text")) {
         startText();
     }
 }
@@ -179,37 +306,29 @@ void FinalDraftReader::startElement()
 // The format does not say what the lines of a title page are.
 void FinalDraftReader::addTitle()
 {
-    static const QRegularExpression credit(QStringLiteral("\\bby\\b"),
-                                           QRegularExpression::CaseInsensitiveOption);
     if (m_element.text().trimmed().isEmpty())
         return;
-    const auto has = [this](const char *key) {
-        return !m_script.title(QLatin1String(key)).isEmpty();
-    };
-    QString key = QStringLiteral("Contact");
-    if (m_alignment == QLatin1String("Center")) {
-        const bool isCredit = !has("Credit") && m_element.text().contains(credit);
-        key = !has("Title") ? QStringLiteral("Title")
-            : isCredit      ? QStringLiteral("Credit")
-            : has("Author") ? QStringLiteral("Source")
-                            : QStringLiteral("Author");
-    } else if (m_alignment == QLatin1String("Right")) {
-        key = QStringLiteral("Draft date");
+    const Qt::AlignmentFlag alignment = m_alignment == QLatin1String("Center") ? Qt::AlignHCenter
+        : m_alignment == QLatin1String("Right")                                ? Qt::AlignRight
+                                                                               : Qt::AlignLeft;
+    Run &first = m_element.runs.first();
+    const int length = first.kind == Run::Text ? mrvShownTitleKeyLength(alignment, first.text) : 0;
+    if (length > 0) {
+        const QString key = first.text.left(length);
+        first.text.remove(0, length + 2);
+        m_script.titles.append({key, m_element.runs});
+        return;
     }
-    static const QRegularExpression named(QStringLiteral("^(\\p{Lu}[\\p{L} ]{1,30}): "));
-    const QRegularExpressionMatch match = named.match(m_element.runs.constFirst().text);
-    if (m_alignment != QLatin1String("Center") && match.hasMatch()) {
-        key = match.captured(1);
-        m_element.runs.first().text.remove(0, match.capturedLength());
+    // What goes on in a further paragraph.
+    const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_script.titles);
+    const int earlier = mrvIndexOfTitle(m_script.titles, key);
+    if (earlier >= 0) {
+        MRVFountainTitle &title = m_script.titles[earlier];
+        title.value.append({QStringLiteral("\n"), {}, Run::Text});
+        title.value += m_element.runs;
+    } else {
+        m_script.titles.append({key, m_element.runs});
     }
-    for (MRVFountainTitle &title : m_script.titles) {
-        if (title.key == key) {
-            title.value.append({QStringLiteral("\n"), {}, Run::Text});
-            title.value += m_element.runs;
-            return;
-        }
-    }
-    m_script.titles.append({key, m_element.runs});
 }
 
 void FinalDraftReader::endParagraph()
@@ -223,6 +342,8 @@ void FinalDraftReader::endParagraph()
         m_script.elements.append(Element(Element::PageBreak, QString()));
         m_breakPending = false;
     }
+    m_paragraphs.append({m_textLength, m_script.elements.size()});
+    m_textLength += m_element.text().size() + 1;
     if (m_element.kind == Element::Parenthetical) {
         mrvRemoveBrackets(&m_element.runs);
     }
@@ -236,8 +357,7 @@ void FinalDraftReader::endParagraph()
         m_element.dual = m_dualCues++ > 0;
     }
     m_script.elements.append(m_element);
-    const QStringList summary = m_summary.split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &line : summary) {
+    for (const QString &line : qAsConst(m_summary)) {
         m_script.elements.append(Element(Element::Synopsis, line));
     }
     m_summary.clear();
@@ -246,11 +366,10 @@ void FinalDraftReader::endParagraph()
 void FinalDraftReader::endElement()
 {
     const QStringRef tag = m_xml.name();
-    if (tag == QLatin1String("Text")) {
-        m_inText = false;
-    } else if (tag == QLatin1String("ScriptNote")) {
-        m_runKind = Run::Text;
-    } else if (tag == QLatin1String("Paragraph") && m_runKind == Run::Text && m_hasParagraph) {
+    if (tag == QLatin1String("ScriptNote")) {
+        endNote();
+    } else if ((tag == QLatin1String("Paragraph") || tag == QLatin1String("Content"))
+               && m_noteDepth == 0 && m_hasParagraph) {
         endParagraph();
     } else if (tag == QLatin1String("DualDialogue")) {
         if (m_dualCues == 1) {
@@ -267,20 +386,21 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
     while (!m_xml.atEnd()) {
         switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (m_depth == 0 && m_xml.name() != QLatin1String("FinalDraft")) {
+            if (m_isText.isEmpty() && m_xml.name() != QLatin1String("FinalDraft")) {
                 m_xml.raiseError(MRVFinalDraft::tr("this is no Final Draft document"));
-            } else if (++m_depth > MaxDepth) {
+            } else if (m_isText.size() == MaxDepth) {
                 m_xml.raiseError(MRVFinalDraft::tr("elements are nested too deeply"));
             } else {
+                m_isText.append(m_xml.name() == QLatin1String("Text"));
                 startElement();
             }
             break;
         case QXmlStreamReader::EndElement:
-            --m_depth;
+            m_isText.removeLast();
             endElement();
             break;
         case QXmlStreamReader::Characters:
-            if (m_inText && !m_element.runs.isEmpty()) {
+            if (!m_isText.isEmpty() && m_isText.constLast() && !m_element.runs.isEmpty()) {
                 m_element.runs.last().text += m_xml.text();
             }
             break;
@@ -290,13 +410,23 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
     }
     if (!mrvIsXmlRead(m_xml, error))
         return false;
+    placeNotes();
     *script = m_script.normalized();
     return true;
 }
 
 } // namespace
 
-bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error)
+bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error,
+                            QStringList *leftOut)
 {
-    return FinalDraftReader(xml).read(script, error);
+    QString text;
+    if (!scriptXmlText(xml, &text, error))
+        return false;
+    FinalDraftReader reader(text);
+    const bool ok = reader.read(script, error);
+    if (ok && leftOut) {
+        *leftOut = reader.leftOut();
+    }
+    return ok;
 }

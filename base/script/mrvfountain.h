@@ -148,6 +148,13 @@ public:
     QString toText() const;
 
     /**
+     * The same as a revision of @p source, a Fountain text: what @p source says already keeps its lines, as
+     * they were typed, and so do byte-order mark and line ends. Where there are as many elements as
+     * before, just those are written anew that are others, else the whole text is.
+     */
+    QString toText(const QString &source) const;
+
+    /**
      * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and at
      * its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised text,
      * line breaks in headings, cues, parentheticals, transitions, sections and synopses, which become

@@ -1,7 +1,9 @@
 #include "script/mrvfountainhtml.h"
 
 #include "core/mrvxmltext.h"
+#include "script/mrvscriptmodefile_p.h"
 #include "script/mrvscriptxml_p.h"
+#include "script/mrvtitlepage_p.h"
 
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -12,6 +14,7 @@ using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
 constexpr int MaxDepth = 256;
+constexpr char BodyClass[] = "script"; // tells a page of an empty script from any other
 
 struct KindRow
 {
@@ -55,7 +58,9 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .character { margin-left: 2.2in; break-after: avoid; }
 .parenthetical { margin: 0 2.4in 0 1.6in; text-indent: -0.1in; break-after: avoid; }
 .dialogue { margin: 0 1.5in 0 1in; }
-.lyrics { margin: 0 1.5in 0 1.25in; font-style: italic; }
+.lyrics { margin: 12pt 1.5in 0 1.25in; font-style: italic; }
+.character + .lyrics, .parenthetical + .lyrics, .dialogue + .lyrics { margin-top: 0; }
+.lyrics[data-apart] { margin-top: 12pt; }
 .transition { text-align: right; text-transform: uppercase; }
 .centered { text-align: center; }
 .dual { display: flex; gap: 0.25in; }
@@ -65,6 +70,7 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .dual .dialogue, .dual .lyrics { margin: 0; }
 .title-page { min-height: 9in; text-align: center; break-after: page; }
 .title-page [data-key='Title'] { margin-top: 3in; }
+.title[data-label]::before { content: attr(data-label); }
 .page-break { break-after: page; border: 0; margin: 24pt 0 0; }
 .note, .boneyard, .section, .synopsis { display: none; }
 @media print { body { margin: 0; } }
@@ -124,7 +130,7 @@ void HtmlWriter::write(const MRVFountainScript &script, const QString &language)
     }
     breakLine();
     writeHead(script.title(QStringLiteral("Title")).simplified());
-    m_xml.writeStartElement(QStringLiteral("body"));
+    start("body", QLatin1String(BodyClass));
     breakLine();
     writeTitles(script.titles);
     const QVector<MrvSpeeches> parts = mrvSpeeches(script.elements);
@@ -145,6 +151,10 @@ void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
         breakLine();
         start("p", QStringLiteral("title"));
         m_xml.writeAttribute(QStringLiteral("data-key"), mrvXmlText(title.key));
+        if (mrvIsTitleKeyShown(title.key)) {
+            m_xml.writeAttribute(QStringLiteral("data-label"),
+                                 mrvXmlText(mrvTitleLabel(title.key)));
+        }
         writeRuns(title.value);
         m_xml.writeEndElement();
     }
@@ -218,6 +228,7 @@ void HtmlWriter::writeText(const QString &text)
 
 void HtmlWriter::writeRuns(const MRVFountainRuns &runs)
 {
+    m_xml.writeCharacters(QString()); // HTML knows no <p/>
     for (const Run &run : runs) {
         int open = 0;
         for (const auto &row : styles) {
@@ -240,12 +251,13 @@ void HtmlWriter::writeRuns(const MRVFountainRuns &runs)
 class HtmlReader
 {
 public:
-    explicit HtmlReader(const QByteArray &html)
+    explicit HtmlReader(const QString &html)
         : m_xml(html)
     {
     }
 
     bool read(MRVFountainScript *script, QString *error);
+    const QString &language() const { return m_language; }
 
 private:
     struct Level
@@ -266,6 +278,8 @@ private:
     MRVFountainScript m_script;
     Element m_element;
     MRVFountainTitle m_title;
+    QString m_language;
+    bool m_isScript = false;
     bool m_isTitle = false;
     bool m_inParagraph = false;
     bool m_isNewRun = false;
@@ -298,7 +312,12 @@ void HtmlReader::startElement()
     Level level = m_levels.constLast();
     level.isParagraph = level.isObject = false;
     const QStringRef tag = m_xml.name();
+    if (tag == QLatin1String("html")) {
+        m_language = m_xml.attributes().value(QLatin1String("lang")).toString();
+    }
     const QString className = m_xml.attributes().value(QLatin1String("class")).toString();
+    m_isScript =
+        m_isScript || (tag == QLatin1String("body") && className == QLatin1String(BodyClass));
     if (!m_inParagraph) {
         level.isParagraph = m_inParagraph = startParagraph(className);
     } else if (tag == QLatin1String("br")) {
@@ -368,7 +387,8 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
             break;
         }
     }
-    if (!m_xml.hasError() && m_script.titles.isEmpty() && m_script.elements.isEmpty()) {
+    if (!m_xml.hasError() && !m_isScript && m_script.titles.isEmpty()
+        && m_script.elements.isEmpty()) {
         m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
     }
     if (!mrvIsXmlRead(m_xml, error))
@@ -391,7 +411,16 @@ QByteArray MRVFountainHtml::toHtml(const MRVFountainScript &script, const QStrin
     return bytes;
 }
 
-bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error)
+bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error,
+                               QString *language)
 {
-    return HtmlReader(html).read(script, error);
+    QString text;
+    if (!scriptXmlText(html, &text, error))
+        return false;
+    HtmlReader reader(text);
+    const bool ok = reader.read(script, error);
+    if (ok && language) {
+        *language = reader.language();
+    }
+    return ok;
 }

@@ -40,9 +40,11 @@ public:
      * Reads a page that toHtml() wrote; other elements than those may stand around its paragraphs.
      *
      * @param error if given, receives a translated line with the number of the line on failure.
+     * @param language if given, receives the page's language on success; empty for none.
      * @return false, with @p script untouched, where the page is not well-formed, has no paragraph of
-     * a script, or has elements within elements beyond 256 levels.
+     * a script, has elements within elements beyond 256 levels, or a tag with more than 64
+     * attributes.
      */
     static bool fromHtml(const QByteArray &html, MRVFountainScript *script,
-                         QString *error = nullptr);
+                         QString *error = nullptr, QString *language = nullptr);
 };

@@ -142,6 +142,8 @@ public:
     }
 
     MRVFountainScript script();
+    /** Of what script() has read. */
+    const TextRanges &ranges() const { return m_ranges; }
 
 private:
     void readLines();
@@ -167,11 +169,17 @@ private:
     int contentEnd(const Line &line) const;
     int endOfKind(int line, LineKind kind) const;
     LineKind kindOf(int line) const;
+    int startOf(int line) const
+    {
+        return line < m_lines.size() ? m_lines.at(line).start : m_text.size();
+    }
+    void placeElements(int line, int end);
 
     const QString &m_text;
     const QVector<Object> m_objects;
     QVector<Line> m_lines;
     MRVFountainScript m_script;
+    TextRanges m_ranges;
 };
 
 void FountainReader::readLines()
@@ -289,26 +297,34 @@ void FountainReader::addObject(Element::Kind kind, const Line &line)
     addElement(Element(kind, m_objects.at(line.firstObject).text));
 }
 
+// Tells of the elements that were added last in which lines they stand.
+void FountainReader::placeElements(int line, int end)
+{
+    while (m_ranges.elements.size() < m_script.elements.size()) {
+        m_ranges.elements.append({startOf(line), startOf(end)});
+    }
+}
+
 MRVFountainScript FountainReader::script()
 {
     int line = readTitles();
+    m_ranges.titles = {0, startOf(line)};
     while (line < m_lines.size()) {
-        int blanks = 0;
-        while (line < m_lines.size() && isEmpty(line)) {
-            ++line;
-            ++blanks;
-        }
-        // One empty line parts paragraphs; more of them are meant.
-        for (; blanks > 1; --blanks) {
-            m_script.elements.append(Element());
+        const int first = line;
+        for (; line < m_lines.size() && isEmpty(line); ++line) {
+            // One empty line parts paragraphs; more of them are meant.
+            if (line > first) {
+                m_script.elements.append(Element());
+                placeElements(line, line + 1);
+            }
         }
         if (line < m_lines.size()) {
+            const int start = line;
             line = readParagraph(line);
+            placeElements(start, line);
         }
     }
-    for (MRVFountainTitle &title : m_script.titles) {
-        title = normalizedTitle(title);
-    }
+    normalizeTitles(&m_script.titles);
     normalizeLyrics(&m_script.elements);
     return m_script;
 }
@@ -364,6 +380,7 @@ int FountainReader::readParagraph(int line)
     case CueLine:
     case ForcedCueLine:
         readCue(given, kind == ForcedCueLine);
+        placeElements(line, line + 1);
         return readDialogue(line + 1);
     case TransitionLine:
     case ForcedTransitionLine:
@@ -482,6 +499,7 @@ int FountainReader::readDialogue(int line)
         return !isParenthetical(view(at)) && !trimmed(view(at)).startsWith(u'~');
     };
     while (goesOn(line)) {
+        const int start = line;
         if (isEmpty(line)) {
             ++line; // between other things than dialogue it means nothing
         } else if (isParenthetical(view(line))) {
@@ -501,6 +519,7 @@ int FountainReader::readDialogue(int line)
             }
             line = readLines(Element::Dialogue, line, end);
         }
+        placeElements(start, line);
     }
     return line;
 }
@@ -526,11 +545,17 @@ int FountainReader::readAction(int line)
 
 } // namespace
 
+MRVFountainScript MrvFountain::scriptOf(const QString &plain, TextRanges *ranges)
+{
+    FountainReader reader(plain);
+    const MRVFountainScript script = reader.script();
+    if (ranges) {
+        *ranges = reader.ranges();
+    }
+    return script;
+}
+
 MRVFountainScript MRVFountainScript::fromText(const QString &text)
 {
-    QString plain = withPlainLineEnds(text);
-    if (plain.startsWith(QChar(QChar::ByteOrderMark))) {
-        plain.remove(0, 1);
-    }
-    return FountainReader(plain).script();
+    return scriptOf(plainText(text));
 }

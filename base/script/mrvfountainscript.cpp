@@ -1,5 +1,6 @@
 #include "script/mrvfountain.h"
 #include "script/mrvfountainsyntax_p.h"
+#include "script/mrvtitlepage_p.h"
 
 #include <algorithm>
 
@@ -201,7 +202,7 @@ QVector<MRVFountainRuns> normalizedLines(MRVFountainRuns runs, const KindRow &ro
     return lines;
 }
 
-QString plainText(const MRVFountainRuns &runs)
+QString textOfRuns(const MRVFountainRuns &runs)
 {
     QString text;
     for (const MRVFountainRun &run : runs) {
@@ -212,6 +213,15 @@ QString plainText(const MRVFountainRuns &runs)
     return text;
 }
 
+QString withoutStart(const QString &text, QLatin1String characters)
+{
+    int start = 0;
+    while (start < text.size() && characters.contains(text.at(start))) {
+        ++start;
+    }
+    return text.mid(start);
+}
+
 QString normalizedKey(const QString &given)
 {
     QString key = withPlainLineEnds(given);
@@ -220,16 +230,24 @@ QString normalizedKey(const QString &given)
         key.replace(u'[', u'(');
     }
     key.replace(QLatin1String("/*"), QLatin1String("/ *"));
-    const auto isKey = [](const QString &text) {
-        const QString line = text + u':';
-        return titleKeyLength(QStringRef(&line)) > 0;
-    };
-    key = trimmed(QStringRef(&key)).toString();
-    while (!key.isEmpty() && !isKey(key)) {
-        key.remove(0, 1);
-        key = trimmed(QStringRef(&key)).toString();
+    key = withoutStart(key, QLatin1String("!#=~>@. \t"));
+    const QString line = key + u':';
+    if (titleKeyLength(QStringRef(&line)) == 0) {
+        // It begins like a heading, but not without its first letter.
+        key = withoutStart(key, QLatin1String("*_ \t")).mid(1);
     }
+    key = trimmed(QStringRef(&key)).toString();
     return key.isEmpty() ? QStringLiteral("Notes") : key;
+}
+
+MRVFountainTitle normalizedTitle(const MRVFountainTitle &title)
+{
+    QVector<MRVFountainRuns> lines =
+        normalizedLines(title.value, kinds[MRVFountainElement::Centered]);
+    lines.erase(std::remove_if(lines.begin(), lines.end(),
+                               [](const MRVFountainRuns &line) { return line.isEmpty(); }),
+                lines.end());
+    return {normalizedKey(title.key), joined(lines)};
 }
 
 } // namespace
@@ -286,14 +304,15 @@ MRVFountainElement normalizedElement(const MRVFountainElement &element)
     return normal;
 }
 
-MRVFountainTitle normalizedTitle(const MRVFountainTitle &title)
+void normalizeTitles(QVector<MRVFountainTitle> *titles)
 {
-    QVector<MRVFountainRuns> lines =
-        normalizedLines(title.value, kinds[MRVFountainElement::Centered]);
-    lines.erase(std::remove_if(lines.begin(), lines.end(),
-                               [](const MRVFountainRuns &line) { return line.isEmpty(); }),
-                lines.end());
-    return {normalizedKey(title.key), joined(lines)};
+    for (MRVFountainTitle &title : *titles) {
+        title = normalizedTitle(title);
+    }
+    // A mere "Key:" on the first line is no title page, but how many scripts fade in.
+    if (titles->size() == 1 && titles->constFirst().value.isEmpty()) {
+        titles->clear();
+    }
 }
 
 void normalizeLyrics(QVector<MRVFountainElement> *elements)
@@ -331,33 +350,25 @@ bool isKept(const MRVFountainElement &element)
 
 QString MRVFountainElement::text() const
 {
-    return plainText(runs);
+    return textOfRuns(runs);
 }
 
 QString MRVFountainTitle::text() const
 {
-    return plainText(value);
+    return textOfRuns(value);
 }
 
 QString MRVFountainScript::title(const QString &key) const
 {
-    for (const MRVFountainTitle &title : titles) {
-        if (title.key.compare(key, Qt::CaseInsensitive) == 0)
-            return title.text();
-    }
-    return QString();
+    const int index = mrvIndexOfTitle(titles, key);
+    return index < 0 ? QString() : titles.at(index).text();
 }
 
 MRVFountainScript MRVFountainScript::normalized() const
 {
     MRVFountainScript normal;
-    for (const MRVFountainTitle &title : titles) {
-        normal.titles.append(normalizedTitle(title));
-    }
-    // A mere "Key:" on the first line is no title page, but how many scripts fade in.
-    if (normal.titles.size() == 1 && normal.titles.constFirst().value.isEmpty()) {
-        normal.titles.clear();
-    }
+    normal.titles = titles;
+    normalizeTitles(&normal.titles);
     for (const MRVFountainElement &element : elements) {
         const MRVFountainElement kept = normalizedElement(element);
         if (isKept(kept)) {

@@ -220,6 +220,11 @@ bool beginsTitlePage(const QStringRef &line, const QStringRef &next)
         || (!isBlankLine(next) && (isBlank(next.at(0)) || titleKeyLength(next) > 0));
 }
 
+QString plainText(const QString &text)
+{
+    return withPlainLineEnds(text.startsWith(QChar(QChar::ByteOrderMark)) ? text.mid(1) : text);
+}
+
 QString withPlainLineEnds(const QString &text)
 {
     QString plain = text;

@@ -64,11 +64,26 @@ int titleKeyLength(const QStringRef &line);
 /** Whether a title page begins with @p line, with @p next behind it. */
 bool beginsTitlePage(const QStringRef &line, const QStringRef &next);
 
+/** Where in a text the title page and the elements of its script stand, as whole lines. */
+struct TextRanges
+{
+    Range titles;
+    QVector<Range> elements;
+};
+
+/** The script in a text that plainText() gave. */
+MRVFountainScript scriptOf(const QString &plain, TextRanges *ranges = nullptr);
+/** The text of a script that is normalized. */
+QString textOf(const MRVFountainScript &normal, TextRanges *ranges = nullptr);
+
+/** A text as it is read: without a byte-order mark, and withPlainLineEnds(). */
+QString plainText(const QString &text);
 /** With '\n' for whatever ends a line in some system, and without what would upset a document. */
 QString withPlainLineEnds(const QString &text);
 
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
-MRVFountainTitle normalizedTitle(const MRVFountainTitle &title);
+/** Normalizes the entries of a title page; a single one without a value makes no title page. */
+void normalizeTitles(QVector<MRVFountainTitle> *titles);
 /** Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so. */
 void normalizeLyrics(QVector<MRVFountainElement> *elements);
 /** Whether something is left of a normalized element that Fountain can hold. */

@@ -39,6 +39,8 @@ class FountainWriter
 {
 public:
     QString text(const MRVFountainScript &script);
+    /** Of what text() has written, without the lines that part elements. */
+    const TextRanges &ranges() const { return m_ranges; }
 
 private:
     void addTitle(const MRVFountainTitle &title);
@@ -57,6 +59,8 @@ private:
     bool m_isSeparated = false; // an empty line was written since the last text
     bool m_inSpeech = false;
     Element::Kind m_last = Element::Action;
+    int m_start = 0; // of the element that is being written
+    TextRanges m_ranges;
 };
 
 QString FountainWriter::text(const MRVFountainScript &script)
@@ -64,15 +68,20 @@ QString FountainWriter::text(const MRVFountainScript &script)
     for (const MRVFountainTitle &title : script.titles) {
         addTitle(title);
     }
+    m_ranges.titles.end = m_text.size();
     const QVector<Element> &elements = script.elements;
     for (int i = 0; i < elements.size(); ++i) {
         addElement(elements.at(i), i + 1 < elements.size() ? &elements.at(i + 1) : nullptr);
+        m_ranges.elements.append({m_start, m_text.size()});
     }
     const int end = m_text.indexOf(u'\n');
     const QStringRef first = m_text.leftRef(end);
     const QStringRef second = m_text.midRef(end + 1, m_text.indexOf(u'\n', end + 1) - end - 1);
     if (script.titles.isEmpty() && beginsTitlePage(first, second)) {
         m_text.prepend(u'\n');
+        for (Range &range : m_ranges.elements) {
+            range = {range.start + 1, range.end + 1};
+        }
     }
     return m_text;
 }
@@ -102,6 +111,7 @@ void FountainWriter::addEmptyLine()
     if (!m_isSeparated) {
         m_text += u'\n';
     }
+    m_start = m_text.size();
     m_text += u'\n';
     m_isSeparated = true;
 }
@@ -112,6 +122,7 @@ void FountainWriter::separate()
         m_text += u'\n';
     }
     m_isSeparated = false;
+    m_start = m_text.size();
 }
 
 void FountainWriter::addElement(const Element &element, const Element *next)
@@ -250,6 +261,7 @@ void FountainWriter::addSpeech(const Element &element)
     const bool isLyrics = element.kind == Element::Lyrics;
     const bool isNew = !m_inSpeech || element.apart
         || (m_last == Element::Dialogue && element.kind == Element::Dialogue);
+    m_start = m_text.size();
     if (isNew) {
         separate();
         m_inSpeech = !isLyrics;
@@ -292,7 +304,17 @@ void FountainWriter::addTransition(const WrittenLine &line)
 
 } // namespace
 
+QString MrvFountain::textOf(const MRVFountainScript &normal, TextRanges *ranges)
+{
+    FountainWriter writer;
+    const QString text = writer.text(normal);
+    if (ranges) {
+        *ranges = writer.ranges();
+    }
+    return text;
+}
+
 QString MRVFountainScript::toText() const
 {
-    return FountainWriter().text(normalized());
+    return textOf(normalized());
 }

@@ -120,6 +120,9 @@ bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error);
  */
 bool scriptModeKeepsLimits(const QString &xml, QString *error);
 
+/** The text of any XML document whose tags have few attributes, likewise. @p error may be null. */
+bool scriptXmlText(const QByteArray &xml, QString *text, QString *error);
+
 /** See MRVScriptMode::toPoints(). */
 double scriptToPoints(MRVUnit::Unit units, double length);
 

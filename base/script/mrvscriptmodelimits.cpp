@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <limits>
+
 namespace {
 
 // Qt's reader compares each attribute of a tag with every other one.
@@ -64,7 +66,7 @@ public:
     }
 
     // Up to the end of the tag that it is at.
-    bool keepsLimits()
+    bool keepsLimits(int maxLength)
     {
         int attributes = 0;
         QChar quote;
@@ -78,7 +80,7 @@ public:
                 return true;
             else if (c == u'=')
                 ++attributes;
-            if (attributes > MaxAttributes || m_end - m_at >= MaxTagLength)
+            if (attributes > MaxAttributes || m_end - m_at >= maxLength)
                 return false;
         }
         return true;
@@ -114,7 +116,7 @@ bool scriptModeKeepsLimits(const QString &xml, QString *error)
         QString reason;
         if (walker.isHere("<!DOCTYPE"))
             reason = MRVScriptMode::tr("a document type declaration does not belong here");
-        else if (!walker.keepsLimits())
+        else if (!walker.keepsLimits(MaxTagLength))
             reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
                                        "attributes")
                          .arg(QString::number(MaxTagLength), QString::number(MaxAttributes));
@@ -124,4 +126,21 @@ bool scriptModeKeepsLimits(const QString &xml, QString *error)
         return false;
     }
     return true;
+}
+
+bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
+{
+    QString reason;
+    bool ok = decodeScriptMode(xml, text, &reason);
+    TagWalker walker(*text);
+    while (ok && walker.toNext()) {
+        ok = walker.keepsLimits(std::numeric_limits<int>::max());
+        if (!ok)
+            reason = scriptLineText(
+                walker.line(),
+                MRVScriptMode::tr("a tag has more than %1 attributes").arg(MaxAttributes));
+    }
+    if (!ok && error)
+        *error = reason;
+    return ok;
 }

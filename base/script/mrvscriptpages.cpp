@@ -1,6 +1,7 @@
 #include "script/mrvscriptdocument.h"
 
 #include "script/mrvscriptroles_p.h"
+#include "script/mrvtitlepage_p.h"
 #include "text/mrvtextformat.h"
 
 #include <QTextBlock>
@@ -26,7 +27,9 @@ MRVFountainScript printed(const MRVFountainScript &script)
 {
     MRVFountainScript result;
     for (const MRVFountainTitle &title : script.titles) {
-        result.titles.append({title.key, printed(title.value)});
+        MRVFountainRuns value = printed(title.value);
+        value.prepend({mrvTitleLabel(title.key), {}, MRVFountainRun::Text});
+        result.titles.append({title.key, value});
     }
     for (Element element : script.elements) {
         if (element.kind == Element::Note || element.kind == Element::Boneyard

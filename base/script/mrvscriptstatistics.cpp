@@ -171,7 +171,9 @@ void Counter::addElement(const Element &element)
     if (isSpeech) {
         addSpeech(extent, element.kind != Element::Parenthetical);
     }
-    addLines(extent.lines, measure.linesBefore);
+    // An empty line is one more between paragraphs, not one with an empty line of its own before it.
+    const bool isEmptyLine = element.kind == Element::Action && element.runs.isEmpty();
+    addLines(extent.lines, isEmptyLine ? 0 : measure.linesBefore);
 }
 
 MRVScriptStatistics Counter::count(const MRVFountainScript &script)

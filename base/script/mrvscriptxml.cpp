@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
 {
     using Element = MRVFountainElement;
@@ -59,13 +61,20 @@ MRVFountainRuns mrvWithBrackets(MRVFountainRuns runs)
 
 void mrvRemoveBrackets(MRVFountainRuns *runs)
 {
-    if (runs->isEmpty())
+    const auto isShown = [](const MRVFountainRun &run) {
+        return run.kind == MRVFountainRun::Text && !run.text.trimmed().isEmpty();
+    };
+    const auto first = std::find_if(runs->begin(), runs->end(), isShown);
+    if (first == runs->end())
         return;
-    const bool isShort = runs->size() == 1 && runs->constFirst().text.size() < 2;
-    if (isShort || runs->constFirst().kind != MRVFountainRun::Text
-        || runs->constLast().kind != MRVFountainRun::Text
-        || !runs->constFirst().text.startsWith(u'(') || !runs->constLast().text.endsWith(u')'))
+    const auto last = std::find_if(runs->rbegin(), runs->rend(), isShown);
+    const auto isNoSpace = [](QChar c) { return !c.isSpace(); };
+    const QString &front = first->text;
+    const QString &back = last->text;
+    const auto open = std::find_if(front.begin(), front.end(), isNoSpace) - front.begin();
+    const auto behind = back.rend() - std::find_if(back.rbegin(), back.rend(), isNoSpace);
+    if (front.at(int(open)) != u'(' || back.at(int(behind) - 1) != u')')
         return;
-    runs->first().text.remove(0, 1);
-    runs->last().text.chop(1);
+    last->text.remove(int(behind) - 1, 1);
+    first->text.remove(int(open), 1);
 }

@@ -22,10 +22,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// Of the class that these texts are shown by, which stands above this file.
+struct Messages
 {
-    return QCoreApplication::translate("MRVSettings", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MRVSettings)
+};
 
 QByteArray serialised(const QVariant &value)
 {
@@ -150,7 +151,7 @@ bool mrvIsSettings(const QByteArray &bytes)
 
 QString mrvNoRoomText()
 {
-    return tr("There is no room for temporary files");
+    return Messages::tr("There is no room for temporary files");
 }
 
 bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found)
@@ -249,12 +250,12 @@ void MRVSettingsLock::removeDead(const QString &path)
 
 QString mrvLockedText(const QString &path)
 {
-    return tr("Cannot write the file \"%1\": it is locked").arg(path);
+    return Messages::tr("Cannot write the file \"%1\": it is locked").arg(path);
 }
 
 QString mrvDamagedText(const QString &path)
 {
-    return tr("Cannot write the file \"%1\": it is damaged").arg(path);
+    return Messages::tr("Cannot write the file \"%1\": it is damaged").arg(path);
 }
 
 // A second name for the file costs nothing. By the number of the process it is found again, so that one

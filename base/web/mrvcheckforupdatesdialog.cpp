@@ -9,8 +9,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFontMetrics>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QPointer>
+#include <QScreen>
 #include <QUrl>
 
 #include <limits>
@@ -18,6 +21,27 @@
 namespace {
 
 constexpr int LogoSize = 48;
+// What the dialog is given, in average characters and lines, as far as the screen goes.
+constexpr int CharactersWide = 90;
+constexpr int LinesHigh = 34;
+constexpr int LinesOfNotes = 6; // at least
+constexpr int LongestWord = 60;
+
+// With places to break words that would make the dialog wider than any screen, such as addresses.
+QString breakable(const QString &text)
+{
+    QString result;
+    int length = 0;
+    for (const QChar c : text) {
+        length = c.isSpace() ? 0 : length + 1;
+        if (length > LongestWord && !c.isLowSurrogate()) {
+            result += QChar(0x200b); // zero width space
+            length = 1;
+        }
+        result += c;
+    }
+    return result;
+}
 
 } // namespace
 
@@ -35,6 +59,10 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
             &MRVCheckForUpdatesDialog::installUpdate);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     m_ui->downloadButton->setFocus();
+    const QFontMetrics metrics = fontMetrics();
+    const QSize wanted(metrics.averageCharWidth() * CharactersWide,
+                       metrics.lineSpacing() * LinesHigh);
+    resize(wanted.boundedTo(roomOnScreen()));
 }
 
 MRVCheckForUpdatesDialog::~MRVCheckForUpdatesDialog() = default;
@@ -60,7 +88,7 @@ void MRVCheckForUpdatesDialog::versions(const QString &current, const QString &a
 
 void MRVCheckForUpdatesDialog::statusMsg(const QString &text)
 {
-    m_ui->statusLabel->setText(text);
+    m_ui->statusLabel->setText(breakable(text));
 }
 
 void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
@@ -94,6 +122,8 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
         showRightsWarning(needsAdminRights, installedLocation);
         return;
     }
+    // The focus would go on to the Cancel button, where a key that is pressed twice ends the download.
+    m_ui->downloadButton->clearFocus();
     m_ui->downloadButton->setEnabled(false);
     m_ui->downloadButton->setText(tr("Downloading Update"));
     m_ui->progressBar->setValue(0);
@@ -104,20 +134,21 @@ void MRVCheckForUpdatesDialog::showRightsWarning(bool needsAdminRights,
                                                  const QString &installedLocation)
 {
     const QString application = QCoreApplication::applicationName();
-    QMessageBox box(this);
-    box.setIcon(QMessageBox::Warning);
-    box.setTextFormat(Qt::PlainText);
-    box.setWindowTitle(tr("%1 Auto-Update").arg(application));
+    // It goes with the dialog, which may be deleted while it is open.
+    const QPointer<QMessageBox> box(new QMessageBox(this));
+    box->setIcon(QMessageBox::Warning);
+    box->setTextFormat(Qt::PlainText);
+    box->setWindowTitle(tr("%1 Auto-Update").arg(application));
     if (needsAdminRights) {
-        box.setText(tr("Administrative rights required."));
-        box.setInformativeText(
+        box->setText(tr("Administrative rights required."));
+        box->setInformativeText(
             tr("To download and install automatic updates, you must run %1 from the same account "
                "that installed it.\n\nYou can also visit %2 to download and install the latest "
                "version manually.")
                 .arg(application, MSharedResources::productPage()));
     } else {
-        box.setText(tr("Installation and Runtime location mismatch."));
-        box.setInformativeText(
+        box->setText(tr("Installation and Runtime location mismatch."));
+        box->setInformativeText(
             tr("%1 is not currently running from its last installed location.\n\nRuntime Location: "
                "'%2'\nInstalled Location: '%3'\n\nTo download and install the update, please "
                "uninstall or manually remove any copies of %1 not at the Installed Location path "
@@ -125,7 +156,8 @@ void MRVCheckForUpdatesDialog::showRightsWarning(bool needsAdminRights,
                 .arg(application, QDir::toNativeSeparators(QCoreApplication::applicationFilePath()),
                      QDir::toNativeSeparators(installedLocation)));
     }
-    box.exec();
+    box->exec();
+    delete box;
 }
 
 void MRVCheckForUpdatesDialog::enableInstallButton()
@@ -134,7 +166,11 @@ void MRVCheckForUpdatesDialog::enableInstallButton()
     m_ui->downloadButton->setText(QStringLiteral("Downloaded Update"));
     m_ui->installButton->show();
     m_ui->installButton->setDefault(true);
-    m_ui->installButton->setFocus();
+    // Somebody who reads the notes may be pressing keys just now.
+    const QWidget *const focus = focusWidget();
+    if (focus != m_ui->webView && !m_ui->webView->isAncestorOf(focus)) {
+        m_ui->installButton->setFocus();
+    }
 }
 
 void MRVCheckForUpdatesDialog::disableDownloadAndInstallButtons()
@@ -147,6 +183,29 @@ void MRVCheckForUpdatesDialog::installUpdate()
 {
     m_ui->installButton->setEnabled(false);
     Q_EMIT installRequested();
+}
+
+bool MRVCheckForUpdatesDialog::event(QEvent *event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+        keepStatusWhole();
+    }
+    return isHandled;
+}
+
+QSize MRVCheckForUpdatesDialog::roomOnScreen() const
+{
+    return screen()->availableSize();
+}
+
+// Layouts do not see to it by themselves that a label of several lines gets all of them.
+void MRVCheckForUpdatesDialog::keepStatusWhole()
+{
+    const QSize room = roomOnScreen();
+    const int narrowest = fontMetrics().averageCharWidth() * CharactersWide * 2 / 3;
+    setMinimumWidth(qMin(qMax(narrowest, layout()->minimumSize().width()), room.width()));
+    setMinimumHeight(qBound(0, layout()->minimumHeightForWidth(width()), room.height()));
 }
 
 void MRVCheckForUpdatesDialog::showEvent(QShowEvent *event)
@@ -165,6 +224,7 @@ void MRVCheckForUpdatesDialog::showReleaseNotes()
     view->setObjectName(QStringLiteral("webView"));
     view->setAccessibleName(tr("Release notes"));
     view->setSizePolicy(m_ui->webView->sizePolicy());
+    view->setMinimumHeight(fontMetrics().lineSpacing() * LinesOfNotes);
     delete layout()->replaceWidget(m_ui->webView, view);
     delete m_ui->webView;
     m_ui->webView = view;

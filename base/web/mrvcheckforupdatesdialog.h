@@ -37,7 +37,8 @@ public:
 public Q_SLOTS:
     /** Shows which version runs and which is offered, and what the buttons do. */
     void versions(const QString &current, const QString &available);
-    void statusMsg(const QString &text);
+    void statusMsg(
+        const QString &text); // words of more than 100 characters, such as addresses, may be broken
     /** As statusMsg(), and hides the progress bar for good. */
     void errorMsg(const QString &text);
     /** Counts in bytes; a total that is unknown (negative, or 0) shows a busy bar. */
@@ -54,9 +55,12 @@ Q_SIGNALS:
     void installRequested();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    QSize roomOnScreen() const;
+    void keepStatusWhole();
     void showReleaseNotes();
     void showRightsWarning(bool needsAdminRights, const QString &installedLocation);
 

@@ -2,6 +2,8 @@
 
 #include "ui_mrvdownloadauthorize.h"
 
+#include <QLayout>
+
 MRVDownloadAuthorize::MRVDownloadAuthorize(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui_MRVDownloadAuthorize>())
@@ -14,6 +16,8 @@ MRVDownloadAuthorize::~MRVDownloadAuthorize() = default;
 void MRVDownloadAuthorize::setSite(const QString &site)
 {
     m_ui->siteDescription->setText(site);
+    // A dialog does not grow by itself with the lines of an address, or of a text in another language.
+    resize(width(), layout()->totalHeightForWidth(width()));
 }
 
 void MRVDownloadAuthorize::setCredentials(const QString &user, const QString &password)

@@ -3,6 +3,7 @@
 #include "web/mrvplainfile_p.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QList>
 
@@ -82,7 +83,8 @@ bool verify(const QByteArray &signature, const unsigned char *message, qint64 si
         == 0;
 }
 
-bool verifyHash(QFile *file, const QByteArray &signature, const QByteArray &key)
+bool verifyHash(QFile *file, const QByteArray &signature, const QByteArray &key,
+                QCryptographicHash *digest)
 {
     constexpr int PieceSize = 1 << 16;
     crypto_generichash_state state;
@@ -91,23 +93,23 @@ bool verifyHash(QFile *file, const QByteArray &signature, const QByteArray &key)
     qint64 size = 0;
     while ((size = file->read(piece.data(), PieceSize)) > 0) {
         crypto_generichash_update(&state, data(piece), quint64(size));
+        digest->addData(piece.constData(), int(size));
     }
     QByteArray hash(HashSize, Qt::Uninitialized);
     crypto_generichash_final(&state, reinterpret_cast<unsigned char *>(hash.data()), HashSize);
     return size == 0 && verify(signature, data(hash), HashSize, key);
 }
 
-bool verifyFile(QFile *file, const Signature &signature, const QByteArray &key)
+bool verifyFile(QFile *file, const Signature &signature, const QByteArray &key,
+                QCryptographicHash *digest)
 {
     if (signature.isHashed) {
-        return verifyHash(file, signature.ofFile, key);
+        return verifyHash(file, signature.ofFile, key, digest);
     }
-    if (file->size() == 0) {
-        return verify(signature.ofFile, nullptr, 0, key);
-    }
-    // The older form needs all the bytes at once: mapped, so that they need no memory of their own.
-    const uchar *bytes = file->map(0, file->size(), QFileDevice::MapPrivateOption);
-    return bytes && verify(signature.ofFile, bytes, file->size(), key);
+    // The older form needs all the bytes at once. Not mapped, since a mapping shows what is written meanwhile.
+    const QByteArray bytes = file->readAll();
+    digest->addData(bytes);
+    return verify(signature.ofFile, data(bytes), bytes.size(), key);
 }
 
 bool namesFile(const QByteArray &comment, const QString &name)
@@ -129,8 +131,10 @@ QByteArray mrvPublicKey(const QByteArray &text)
 }
 
 bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteArray &key,
-                 const QString &expectedName, QString *reason)
+                 const QString &expectedName, QByteArray *digest, QString *reason)
 {
+    digest->clear();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
     Signature signature;
     QFile signedFile;
     const char *fault = nullptr;
@@ -142,7 +146,7 @@ bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteA
         fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "the signature cannot be read");
     } else if (signature.keyId != key.mid(AlgorithmSize, KeyIdSize)) {
         fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "it was made with another key");
-    } else if (!verifyFile(&signedFile, signature, key)) {
+    } else if (!verifyFile(&signedFile, signature, key, &hash)) {
         fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "it is not this installer's");
     } else {
         const QByteArray message = signature.ofFile + signature.trustedComment;
@@ -154,6 +158,8 @@ bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteA
     }
     if (fault) {
         *reason = reasonText(fault);
+        return false;
     }
-    return !fault;
+    *digest = hash.result();
+    return true;
 }

@@ -21,7 +21,9 @@ QByteArray mrvPublicKey(const QByteArray &text);
  * @param key          of mrvPublicKey(); with an empty one nothing is signed.
  * @param expectedName what the trusted comment must name as the signed file ("file:NAME", which minisign writes by itself),
  *                     so that no other file of the same maker, such as an older one, passes for this one.
+ * @param digest       receives the SHA-256 of the very bytes that are signed, which are read once; empty when they are not
+ *                     signed. Must not be null.
  * @param reason       receives why it is not, translated; untouched otherwise. Must not be null.
  */
 bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteArray &key,
-                 const QString &expectedName, QString *reason);
+                 const QString &expectedName, QByteArray *digest, QString *reason);

@@ -34,6 +34,7 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
 {
     // Without a parent: windows that are open now may be closed before the check ends.
     m_dialog = new MRVCheckForUpdatesDialog(m_model->releaseNotesUrl());
+    connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::removeRefused);
     connect(m_model, &MRVUpdateModel::updateError, m_dialog, &MRVCheckForUpdatesDialog::statusMsg);
     connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::errorMsg);
     connect(m_model, &MRVUpdateModel::updateAvailable, this, &MRVUpdateDownloader::updateAvailable);
@@ -45,6 +46,7 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
     connect(m_dialog, &MRVCheckForUpdatesDialog::installRequested, this,
             QOverload<>::of(&MRVUpdateDownloader::installRequested));
     connect(m_dialog, &QDialog::rejected, this, &MRVUpdateDownloader::cancelUpdate);
+    connect(m_dialog, &QObject::destroyed, this, &MRVUpdateDownloader::cancelUpdate);
 }
 
 MRVUpdateDownloader::~MRVUpdateDownloader()
@@ -52,7 +54,10 @@ MRVUpdateDownloader::~MRVUpdateDownloader()
     m_ended = true;
     // It must not tell an object that is half gone; and it uses the policy, which is destroyed before the children.
     delete m_downloader;
-    delete m_dialog;
+    // A widget does not bear being deleted after the application, which may own this object.
+    if (QCoreApplication::instance()) {
+        delete m_dialog;
+    }
 }
 
 bool MRVUpdateDownloader::setPublicKey(const QByteArray &key)
@@ -103,10 +108,20 @@ void MRVUpdateDownloader::removePlantedLink()
     }
 }
 
+// An installer that was refused must not lie about under its name, for somebody to open by hand.
+void MRVUpdateDownloader::removeRefused()
+{
+    if (m_step != Step::Feed) {
+        QFile::remove(m_model->downloadFilePath());
+        QFile::remove(m_model->signatureFilePath());
+    }
+}
+
 void MRVUpdateDownloader::onDownloaded()
 {
     // Where a redirect is not followed, its own page is what has been downloaded.
     if (m_redirects->hasRefused()) {
+        QFile::remove(m_path);
         tellDownloadError(tr("The server sent the download on to an address that is not safe."));
     } else if (m_step == Step::Feed) {
         m_model->readXML();
@@ -135,6 +150,9 @@ void MRVUpdateDownloader::tellDownloadError(const QString &error)
 {
     // What goes wrong after the feed was judged is told where the user asked for it.
     if (m_model->isNewerAvailable()) {
+        if (m_step == Step::Signature) {
+            removeRefused();
+        }
         if (m_dialog) {
             m_dialog->errorMsg(error);
         }
@@ -159,6 +177,12 @@ void MRVUpdateDownloader::disableSilent()
         showDialog();
     }
     m_silent = false;
+    // It may lie under the window from which the user asks.
+    if (m_dialog && m_dialog->isVisible()) {
+        m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
+        m_dialog->raise();
+        m_dialog->activateWindow();
+    }
 }
 
 void MRVUpdateDownloader::updateAvailable(bool available)
@@ -166,7 +190,12 @@ void MRVUpdateDownloader::updateAvailable(bool available)
     if (m_ended) {
         return;
     }
+    // The check may be deleted by a receiver, or while its box is open.
+    const QPointer<MRVUpdateDownloader> self(this);
     Q_EMIT updateChecked();
+    if (!self || m_ended) {
+        return;
+    }
     if (available) {
         showDialog();
         if (m_dialog) {
@@ -178,8 +207,7 @@ void MRVUpdateDownloader::updateAvailable(bool available)
         }
         return;
     }
-    // The check may be deleted while its box is open.
-    const QPointer<MRVUpdateDownloader> self(this);
+    m_isTelling = true;
     if (!m_silent) {
         tell(QMessageBox::Information, tr("Check for Updates"),
              tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
@@ -218,14 +246,27 @@ void MRVUpdateDownloader::downloadInstaller()
     }
 }
 
+bool MRVUpdateDownloader::confirmInstaller()
+{
+    const bool isUnchanged = m_model->isInstallerUnchanged();
+    if (!isUnchanged) {
+        tell(QMessageBox::Warning, tr("Check for Updates"),
+             tr("The installer was changed after it had been downloaded, and will not be opened."));
+    }
+    return isUnchanged;
+}
+
 void MRVUpdateDownloader::installRequested()
 {
     if (m_ended) {
         return;
     }
-    if (!m_model->isInstallerUnchanged()) {
-        errorMsg(
-            tr("The installer was changed after it had been downloaded, and will not be opened."));
+    m_isTelling = true;
+    const QPointer<MRVUpdateDownloader> self(this);
+    if (!confirmInstaller()) {
+        if (self) {
+            cancelUpdate();
+        }
         return;
     }
     m_ended = true;
@@ -247,7 +288,7 @@ void MRVUpdateDownloader::cancelUpdate()
     }
     if (m_downloader) {
         // It tells of its end, which is nobody's concern any more.
-        m_downloader->disconnect(this);
+        m_downloader->disconnect();
         m_downloader->cancelDownload();
     }
     Q_EMIT finished();

@@ -40,10 +40,18 @@ public:
     bool startUpdate(bool silent);
     /** Whether nothing is shown as long as nothing newer is found; not any more once the dialog has been shown. */
     bool isSilent() const { return m_silent; }
-    /** The user has asked for the check that is running: shows the dialog, and from now on tells what happens. */
+    /**
+     * The user has asked for the check that is running: shows the dialog of a silent one, brings one that is shown to the
+     * front, and from now on tells what happens.
+     */
     void disableSilent();
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);
+    /**
+     * Whether the installer is still the one that was found sound; warns the user where it is not. To be asked right before
+     * it is opened.
+     */
+    bool confirmInstaller();
 
 public Q_SLOTS:
     /** Ends the check, with a warning unless it is silent. */
@@ -66,6 +74,7 @@ private:
 
     bool download(Step step, const QString &url, const QString &path);
     void removePlantedLink();
+    void removeRefused();
     void onDownloaded();
     void onInstallerDownloaded();
     void tellDownloadError(const QString &error);
@@ -79,6 +88,6 @@ private:
     Step m_step = Step::Feed;
     QString m_path; // of the file that is being downloaded
     bool m_ended = false;
-    bool m_isTelling = false; // a fault, which ends the check
+    bool m_isTelling = false; // what ends the check
     bool m_installerWanted = false; // asked for before the feed was judged
 };

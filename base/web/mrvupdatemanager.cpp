@@ -10,11 +10,15 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoopLocker>
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopedPointer>
 #include <QTimer>
 #include <QUrl>
+
+#include <optional>
 
 namespace {
 
@@ -87,6 +91,7 @@ MRVUpdateManager::MRVUpdateManager(QObject *parent)
 MRVUpdateManager::~MRVUpdateManager()
 {
     manager = nullptr;
+    qRemovePostRoutine(&MRVUpdateManager::release);
     delete m_downloader;
 }
 
@@ -94,6 +99,8 @@ MRVUpdateManager *MRVUpdateManager::instance()
 {
     if (!manager) {
         manager = new MRVUpdateManager(QCoreApplication::instance());
+        // The application deletes its children when it can have no windows any more.
+        qAddPostRoutine(&MRVUpdateManager::release);
     }
     return manager;
 }
@@ -150,7 +157,7 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
         return;
     }
     if (m_downloader) {
-        if (!silent && m_downloader->isSilent()) {
+        if (!silent) {
             m_downloader->disableSilent();
         }
         return;
@@ -163,7 +170,9 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
     connect(m_downloader, &MRVUpdateDownloader::updateChecked, this,
             &MRVUpdateManager::onUpdateChecked);
     m_downloader->setPublicKey(m_publicKey);
-    if (!m_downloader->startUpdate(silent)) {
+    // What it shows runs an event loop, in which this object may be released.
+    const QPointer<MRVUpdateManager> self(this);
+    if (!m_downloader->startUpdate(silent) && self) {
         forgetDownloader();
     }
 }
@@ -197,8 +206,22 @@ void MRVUpdateManager::onUpdateFinished()
 
 void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
 {
-    forgetDownloader();
+    // Unsaved documents may keep the user for a while, and the application may release this object meanwhile.
+    const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
+    m_downloader.clear();
+    if (check) {
+        check->setParent(nullptr);
+    }
+    // The application must not quit before the installer has been opened; one that does not quit with its last window would
+    // do so with the last locker.
+    std::optional<QEventLoopLocker> locker;
+    if (QGuiApplication::quitOnLastWindowClosed()) {
+        locker.emplace();
+    }
     QApplication::closeAllWindows();
+    if (check && !check->confirmInstaller()) {
+        return;
+    }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::toNativeSeparators(exeFilePath)))) {
         qCWarning(lcWeb, "%s cannot be opened", qUtf8Printable(exeFilePath));
     }

@@ -55,12 +55,18 @@ public:
     static QString lastCheckForUpdatesKey();
 
 public Q_SLOTS:
-    /** Checks, and tells what comes of it. A silent check that is running becomes such a check. */
+    /**
+     * Checks, and tells what comes of it. A silent check that is running becomes such a check; the dialog of one is brought
+     * to the front.
+     */
     void checkForUpdates();
     /** Checks, and tells of a newer version only. */
     void checkForUpdatesSilent();
     void onUpdateFinished();
-    /** Closes all windows of the application, and opens the installer with what the desktop has for it. */
+    /**
+     * Closes all windows of the application, and opens the installer with what the desktop has for it, unless it was
+     * changed meanwhile.
+     */
     void onInstallUpdateRequested(const QString &exeFilePath);
     void onUpdateChecked();
 

@@ -14,9 +14,11 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 
 namespace {
 
+constexpr int LongestVersion = 100;
 // As much of an installer is looked at.
 constexpr int InstallerSample = 100000;
 
@@ -141,7 +143,8 @@ void MRVUpdateModel::compareVersions()
     bool isAvailableNumber = false;
     const int currentDigits = digits(current, &isCurrentNumber);
     const int availableDigits = digits(m_availableVersion, &isAvailableNumber);
-    if (!isCurrentNumber || !isAvailableNumber) {
+    // Full stops are no digits: a small number may have as many as a feed has room for, and the dialog would show them.
+    if (!isCurrentNumber || !isAvailableNumber || m_availableVersion.size() > LongestVersion) {
         Q_EMIT updateError(
             tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
                "issue quickly")
@@ -184,7 +187,12 @@ void MRVUpdateModel::readXML()
     if (!QFileInfo::exists(path) && QFileInfo::exists(xmlFilePath())) {
         path = xmlFilePath();
     }
+    // A receiver that shows a fault runs an event loop, in which the check may be deleted.
+    const QPointer<MRVUpdateModel> self(this);
     if (!isDownloadFileIntegral(path)) {
+        if (!self) {
+            return;
+        }
         fail(tr("The downloaded xml update file is not integral. Please contact %1 for additional "
                 "support if this "
                 "does not work.")
@@ -206,8 +214,11 @@ void MRVUpdateModel::readXML()
         return;
     }
     parseXML(document.document());
-    if (!m_failed) {
-        compareVersions();
+    if (!self || m_failed) {
+        return;
+    }
+    compareVersions();
+    if (self) {
         Q_EMIT updateAvailable(m_newerAvailable);
     }
 }
@@ -218,24 +229,26 @@ void MRVUpdateModel::readEXE()
         return;
     }
     m_installerDigest.clear();
+    const QPointer<MRVUpdateModel> self(this);
     if (!isDownloadFileIntegral(downloadFilePath())) {
+        if (!self) {
+            return;
+        }
         fail(tr("Morvane couldn't find the update on our server.\nThis is probably an error on our "
                 "part.\nPlease report this to %1.")
                  .arg(MrvCore::supportEmail()));
         return;
     }
-    // Taken before the signature is checked: what is exchanged in between has another digest.
-    const QByteArray digest = digestOf(downloadFilePath());
     QString reason;
-    if (needsSignature()
-        && !mrvIsSigned(downloadFilePath(), signatureFilePath(), m_publicKey, m_installerFileName,
-                        &reason)) {
+    if (!needsSignature()) {
+        m_installerDigest = digestOf(downloadFilePath());
+    } else if (!mrvIsSigned(downloadFilePath(), signatureFilePath(), m_publicKey,
+                            m_installerFileName, &m_installerDigest, &reason)) {
         fail(tr("The installer does not carry a valid signature (%1) and will not be opened. "
                 "Please report this to %2.")
                  .arg(reason, MrvCore::supportEmail()));
         return;
     }
-    m_installerDigest = digest;
     m_failed = false;
     Q_EMIT readyToInstall();
 }

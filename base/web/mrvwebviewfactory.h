@@ -18,7 +18,8 @@ public:
 
     /**
      * A view that shows "about:blank" and begins to load @p page, unless that is empty. The page must not be able to run
-     * scripts or plug-ins, to read local files or to store anything; its links open in the desktop's browser.
+     * scripts or plug-ins, to read local files, to store anything, or to lead from https to http; its links open in the
+     * desktop's browser.
      *
      * @return owned by @p parent; null when no view can be made.
      */

@@ -2,20 +2,30 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLocale>
+#include <QTranslator>
+
+#include <memory>
 
 namespace {
 
+constexpr QLatin1String Prefix("mrvbase_");
+constexpr QLatin1String Suffix(".qm");
+
+// The folder of the environment comes first: who names one wants to see what is in it.
 QStringList translationFolders()
 {
-    QStringList folders{QStringLiteral(":/Other/Translations")};
+    QStringList folders;
+    const QString named = qEnvironmentVariable("MORVANE_TRANSLATIONS");
+    if (!named.isEmpty())
+        folders << named;
+    folders << QStringLiteral(":/Other/Translations");
     if (QCoreApplication::instance()) {
         folders << QCoreApplication::applicationDirPath()
                 + QLatin1String("/../share/morvane/translations");
     }
-    const QString named = qEnvironmentVariable("MORVANE_TRANSLATIONS");
-    if (!named.isEmpty())
-        folders << named;
     return folders;
 }
 
@@ -26,12 +36,45 @@ bool isLanguageCode(const QString &code)
         && (code == locale.name() || code == locale.name().section(QLatin1Char('_'), 0, 0));
 }
 
+// Empty where there is none.
+QString translationFile(const QString &code)
+{
+    const QString name = QLocale(code).name();
+    const QString language = name.section(QLatin1Char('_'), 0, 0);
+    for (const QString &wanted : {code, name, language}) {
+        for (const QString &folder : translationFolders()) {
+            const QString file = folder + QLatin1Char('/') + Prefix + wanted + Suffix;
+            if (isLanguageCode(wanted) && QFileInfo(file).isFile())
+                return file;
+        }
+    }
+    return QString();
+}
+
+// By its name it is found again, and told from the application's own.
+std::unique_ptr<QTranslator> newTranslator()
+{
+    auto translator = std::make_unique<QTranslator>();
+    translator->setObjectName(QStringLiteral("MTranslator"));
+    return translator;
+}
+
+void removeTranslators(QCoreApplication *application)
+{
+    qDeleteAll(application->findChildren<QTranslator *>(newTranslator()->objectName(),
+                                                        Qt::FindDirectChildrenOnly));
+}
+
+void installTranslator(std::unique_ptr<QTranslator> translator, QCoreApplication *application)
+{
+    translator->setParent(application);
+    QCoreApplication::installTranslator(translator.release());
+}
+
 } // namespace
 
 QStringList MTranslator::morvaneGuiLanguages()
 {
-    static constexpr QLatin1String Prefix("mrvbase_");
-    static constexpr QLatin1String Suffix(".qm");
     const QString english = QStringLiteral("en");
     QStringList languages;
     for (const QString &folder : translationFolders()) {
@@ -60,4 +103,40 @@ QString MTranslator::systemGuiLanguageCode()
     if (morvaneGuiLanguages().contains(name))
         return name;
     return name.section(QLatin1Char('_'), 0, 0);
+}
+
+bool MTranslator::install(const QString &code, QString *error)
+{
+    const auto fail = [error](const QString &text) {
+        if (error)
+            *error = text;
+        return false;
+    };
+    QCoreApplication *const application = QCoreApplication::instance();
+    if (!application)
+        return fail(tr("A language can only be chosen while there is an application"));
+
+    const QString wanted = code == QLatin1String("C") ? QStringLiteral("en") : code;
+    const QLocale locale(wanted);
+    const bool isEnglish = locale.language() == QLocale::English;
+    const QString file = translationFile(wanted);
+    if (file.isEmpty() && !isEnglish)
+        return fail(tr("There is no translation into the language \"%1\"").arg(code));
+
+    // Without delimiters, as Qt would otherwise look for files of other names, too.
+    auto own = newTranslator();
+    if (!file.isEmpty() && !own->load(file, QString(), QLatin1String("")))
+        return fail(
+            tr("The translation \"%1\" cannot be read").arg(QDir::toNativeSeparators(file)));
+
+    removeTranslators(application);
+    auto qt = newTranslator();
+    if (!isEnglish
+        && qt->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                    QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+        installTranslator(std::move(qt), application);
+    }
+    if (!own->isEmpty())
+        installTranslator(std::move(own), application);
+    return true;
 }

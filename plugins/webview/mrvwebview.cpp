@@ -19,22 +19,31 @@ bool isOnTheWeb(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Qt's own would also read files, for a page that leads there by a redirect, too.
+// Qt's own would also read files, for a page that leads there by a redirect, too, and leave an encrypted connection for one that
+// is not.
 class WebOnlyAccess : public QNetworkAccessManager
 {
 public:
-    using QNetworkAccessManager::QNetworkAccessManager;
+    WebOnlyAccess(const QUrl &page, QObject *parent)
+        : QNetworkAccessManager(parent)
+        , m_isEncrypted(page.scheme() == QLatin1String("https"))
+    {
+    }
 
 protected:
     QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
                                  QIODevice *body) override
     {
         const QString scheme = request.url().scheme();
-        const bool isAllowed = isOnTheWeb(request.url()) || scheme == QLatin1String("data");
+        const bool isAllowed = scheme == QLatin1String("https") || scheme == QLatin1String("data")
+            || (scheme == QLatin1String("http") && !m_isEncrypted);
         // A request for no address ends with an error.
         return QNetworkAccessManager::createRequest(
             operation, isAllowed ? request : QNetworkRequest(QUrl()), body);
     }
+
+private:
+    bool m_isEncrypted;
 };
 
 // Stays on its page: whatever the user follows opens in the desktop's browser.
@@ -43,10 +52,10 @@ class Page : public QWebPage
     Q_DECLARE_TR_FUNCTIONS(MRVCheckForUpdatesDialog)
 
 public:
-    explicit Page(QObject *parent)
+    Page(const QUrl &page, QObject *parent)
         : QWebPage(parent)
     {
-        setNetworkAccessManager(new WebOnlyAccess(this));
+        setNetworkAccessManager(new WebOnlyAccess(page, this));
         setForwardUnsupportedContent(false);
         const QWebSettings::WebAttribute unwanted[] = {
             QWebSettings::JavascriptEnabled,
@@ -108,7 +117,7 @@ private:
 QWidget *MRVWebView::create(const QUrl &page, QWidget *parent)
 {
     auto *const view = new QWebView(parent);
-    view->setPage(new Page(view));
+    view->setPage(new Page(page, view));
     // Its menu would offer to open links in the view, and to save them.
     view->setContextMenuPolicy(Qt::NoContextMenu);
     view->setAcceptDrops(false);

@@ -1,0 +1,2673 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>MRVAutoReplaceList</name>
+    <message>
+        <source>it is no auto-replace list of a known version</source>
+        <translation>Das ist keine Autoersetzungsliste einer bekannten Version</translation>
+    </message>
+    <message numerus="yes">
+        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <translation>
+            <numerusform>Die Liste ist beschädigt oder abgeschnitten; %n Eintrag konnte gelesen werden</numerusform>
+            <numerusform>Die Liste ist beschädigt oder abgeschnitten; %n Einträge konnten gelesen werden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MRVCheckForUpdatesDialog</name>
+    <message>
+        <source>Check For Updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Fortschritt des Downloads</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Update herunterladen</translation>
+    </message>
+    <message>
+        <source>Install Update</source>
+        <translation>Update installieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>You are currently running %1 %2. Version %3 is available.
+
+Click the Download Update button to begin the download. (You will not be able to use %1 while the update is downloading.) When the download has finished, click Install Update to close %1 and launch the update installer.
+
+Choose Cancel if you do not wish to update at this time.</source>
+        <translation>Sie verwenden derzeit %1 %2. Version %3 ist verfügbar.
+
+Klicken Sie auf die Schaltfläche „Update herunterladen“, um den Download zu starten. (Während das Update heruntergeladen wird, können Sie %1 nicht verwenden.) Klicken Sie nach dem Download auf „Update installieren“, um %1 zu beenden und das Installationsprogramm zu starten.
+
+Klicken Sie auf „Abbrechen“, wenn Sie das Update jetzt nicht installieren möchten.</translation>
+    </message>
+    <message>
+        <source>Downloading Update</source>
+        <translation>Update wird heruntergeladen</translation>
+    </message>
+    <message>
+        <source>%1 Auto-Update</source>
+        <translation>Automatisches Update von %1</translation>
+    </message>
+    <message>
+        <source>Administrative rights required.</source>
+        <translation>Administratorrechte erforderlich.</translation>
+    </message>
+    <message>
+        <source>To download and install automatic updates, you must run %1 from the same account that installed it.
+
+You can also visit %2 to download and install the latest version manually.</source>
+        <translation>Um automatische Updates herunterzuladen und zu installieren, müssen Sie %1 unter demselben Konto ausführen, unter dem es installiert wurde.
+
+Sie können auch %2 besuchen, um die neueste Version von Hand herunterzuladen und zu installieren.</translation>
+    </message>
+    <message>
+        <source>Installation and Runtime location mismatch.</source>
+        <translation>Installationsort und Ausführungsort stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>%1 is not currently running from its last installed location.
+
+Runtime Location: &apos;%2&apos;
+Installed Location: &apos;%3&apos;
+
+To download and install the update, please uninstall or manually remove any copies of %1 not at the Installed Location path above, then restart %1 from there and select Help &gt; Check for Updates....</source>
+        <translation>%1 läuft derzeit nicht von dem Ort aus, an dem es zuletzt installiert wurde.
+
+Ausführungsort: „%2“
+Installationsort: „%3“
+
+Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen Sie bitte alle Kopien von %1, die nicht am oben genannten Installationsort liegen, starten Sie %1 von dort aus neu und wählen Sie „Hilfe &gt; Nach Updates suchen&#xa0;…“.</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Versionshinweise</translation>
+    </message>
+    <message>
+        <source>The release notes cannot be shown.</source>
+        <translation>Die Versionshinweise können nicht angezeigt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVCoreUtil</name>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>the file has no name</source>
+        <translation>Die Datei hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>its name holds a null character</source>
+        <translation>Ihr Name enthält ein Nullzeichen</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>Es handelt sich um einen Ordner</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>Sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>unknown text encoding &quot;%1&quot;</source>
+        <translation>Unbekannte Textkodierung „%1“</translation>
+    </message>
+    <message>
+        <source>it is not valid %1 text</source>
+        <translation>Sie enthält keinen gültigen Text in %1</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: unknown text encoding &quot;%2&quot;</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: Unbekannte Textkodierung „%2“</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: the encoding %2 lacks some characters of the text</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: In der Kodierung %2 fehlen Zeichen des Textes</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDomDoc</name>
+    <message>
+        <source>%1: elements are nested more deeply than %2 levels</source>
+        <translation>%1: Elemente sind mehr als %2 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation>Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>entities expand to too much text</source>
+        <translation>Entitäten ergeben zu viel Text</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>Ein Element hat zu viele Attribute</translation>
+    </message>
+    <message>
+        <source>an element has two attributes of one name</source>
+        <translation>Ein Element hat zwei Attribute desselben Namens</translation>
+    </message>
+    <message>
+        <source>the document type has too many declarations</source>
+        <translation>Der Dokumenttyp hat zu viele Deklarationen</translation>
+    </message>
+    <message>
+        <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
+        <translation>Die Entität „%1“ steht in einer anderen Datei, und andere Dateien werden nicht gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDownloadAuthorize</name>
+    <message>
+        <source>Http authentication required</source>
+        <translation>HTTP-Anmeldung erforderlich</translation>
+    </message>
+    <message>
+        <source>Supply Username and Password to access this site</source>
+        <translation>Geben Sie Benutzernamen und Passwort ein, um auf diese Website zuzugreifen</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>Website:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDownloadUrl</name>
+    <message>
+        <source>Only http and https addresses are downloaded, not %1</source>
+        <translation>Es werden nur http- und https-Adressen heruntergeladen, nicht %1</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Vorgang abgebrochen</translation>
+    </message>
+    <message>
+        <source>The server has sent nothing for %1 s</source>
+        <translation>Der Server hat seit %1 s nichts gesendet</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 bytes</source>
+        <translation>Der Inhalt ist größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>Download Aborted</source>
+        <translation>Download abgebrochen</translation>
+    </message>
+    <message>
+        <source>The connection ended before everything had come</source>
+        <translation>Die Verbindung endete, bevor alles übertragen war</translation>
+    </message>
+    <message>
+        <source>It redirects to %1, which is no http or https address</source>
+        <translation>Es wird zu %1 umgeleitet, was keine http- oder https-Adresse ist</translation>
+    </message>
+    <message>
+        <source>It redirects to %1, where the connection is not encrypted</source>
+        <translation>Es wird zu %1 umgeleitet, wo die Verbindung nicht verschlüsselt ist</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: &apos;%1&apos;
+Error: %2</source>
+        <translation>In die Datei „%1“ kann nicht geschrieben werden
+Fehler: %2</translation>
+    </message>
+    <message>
+        <source>Network not accessible</source>
+        <translation>Netzwerk nicht erreichbar</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubBook</name>
+    <message>
+        <source>The picture %1 cannot be read.</source>
+        <translation>Das Bild %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Abschnitt %1</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents lead through it.</source>
+        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
+        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn. Nicht alle Bilder haben eine Beschreibung.</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Titelbild</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubPackage</name>
+    <message>
+        <source>The e-book cannot be packed: %1</source>
+        <translation>Das E-Book kann nicht gepackt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEngineChoice</name>
+    <message>
+        <source>neither side is RTF, so no choice is kept</source>
+        <translation>keine der beiden Seiten ist RTF, daher wird keine Wahl gespeichert</translation>
+    </message>
+    <message>
+        <source>it is the default, as nothing is stored</source>
+        <translation>das ist die Vorgabe, da nichts gespeichert ist</translation>
+    </message>
+    <message>
+        <source>it is the stored choice</source>
+        <translation>das ist die gespeicherte Wahl</translation>
+    </message>
+    <message>
+        <source>the stored choices have none for this format</source>
+        <translation>in der gespeicherten Auswahl fehlt dieses Format</translation>
+    </message>
+    <message>
+        <source>the stored choice, %1, needs an application that is not available here</source>
+        <translation>die gespeicherte Wahl, %1, benötigt ein Programm, das hier nicht verfügbar ist</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFileWriter</name>
+    <message>
+        <source>its symbolic links lead round in a circle</source>
+        <translation>Ihre symbolischen Verknüpfungen führen im Kreis</translation>
+    </message>
+    <message>
+        <source>it is another user&apos;s link in a shared folder</source>
+        <translation>Sie ist die Verknüpfung eines anderen Benutzers in einem gemeinsamen Ordner</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>the file has no name</source>
+        <translation>Die Datei hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>its name holds a null character</source>
+        <translation>Ihr Name enthält ein Nullzeichen</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>Es handelt sich um einen Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>Es handelt sich nicht um eine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>Ihr Ordner existiert nicht</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFinalDraft</name>
+    <message>
+        <source>this is no Final Draft document</source>
+        <translation>Das ist kein Final-Draft-Dokument</translation>
+    </message>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>Elemente sind zu tief verschachtelt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFountainHtml</name>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>Elemente sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the page holds no paragraph of a script</source>
+        <translation>Die Seite enthält keinen Absatz eines Skripts</translation>
+    </message>
+</context>
+<context>
+    <name>MRVGuiUtil</name>
+    <message>
+        <source>All Images</source>
+        <translation>Alle Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>MRVOptions</name>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Index cards</source>
+        <translation>Karteikarten</translation>
+    </message>
+    <message>
+        <source>Revisions</source>
+        <translation>Überarbeitungen</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Hintergründe</translation>
+    </message>
+    <message>
+        <source>Scratch pad</source>
+        <translation>Notizblock</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Ivory</source>
+        <translation>Elfenbein</translation>
+    </message>
+    <message>
+        <source>Manila</source>
+        <translation>Manila</translation>
+    </message>
+    <message>
+        <source>Mint</source>
+        <translation>Minze</translation>
+    </message>
+    <message>
+        <source>Sky</source>
+        <translation>Himmelblau</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <translation>Lavendel</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Slate</source>
+        <translation>Schiefer</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Notepad lines</source>
+        <translation>Schreiblinien</translation>
+    </message>
+    <message>
+        <source>Status stamp</source>
+        <translation>Statusstempel</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Corkboard</source>
+        <translation>Pinnwand</translation>
+    </message>
+    <message>
+        <source>Around the page</source>
+        <translation>Um die Seite herum</translation>
+    </message>
+    <message>
+        <source>First revision</source>
+        <translation>Erste Überarbeitung</translation>
+    </message>
+    <message>
+        <source>Second revision</source>
+        <translation>Zweite Überarbeitung</translation>
+    </message>
+    <message>
+        <source>Third revision</source>
+        <translation>Dritte Überarbeitung</translation>
+    </message>
+    <message>
+        <source>Fourth revision</source>
+        <translation>Vierte Überarbeitung</translation>
+    </message>
+    <message>
+        <source>Fifth revision</source>
+        <translation>Fünfte Überarbeitung</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Visited links</source>
+        <translation>Besuchte Links</translation>
+    </message>
+    <message>
+        <source>Invisible characters</source>
+        <translation>Unsichtbare Zeichen</translation>
+    </message>
+    <message>
+        <source>Selected text</source>
+        <translation>Ausgewählter Text</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Inline annotations</source>
+        <translation>Anmerkungen im Text</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Kommentare</translation>
+    </message>
+    <message>
+        <source>Footnote text</source>
+        <translation>Fußnotentext</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Fußnoten</translation>
+    </message>
+    <message>
+        <source>Preserved formatting</source>
+        <translation>Beibehaltene Formatierung</translation>
+    </message>
+    <message>
+        <source>Project search</source>
+        <translation>Projektsuche</translation>
+    </message>
+    <message>
+        <source>Border of project search</source>
+        <translation>Rahmen der Projektsuche</translation>
+    </message>
+    <message>
+        <source>Found text</source>
+        <translation>Fundstellen</translation>
+    </message>
+    <message>
+        <source>Found text, alternate</source>
+        <translation>Fundstellen, abwechselnd</translation>
+    </message>
+    <message>
+        <source>Text that was found</source>
+        <translation>Text der Fundstellen</translation>
+    </message>
+    <message>
+        <source>Misspelt words</source>
+        <translation>Falsch geschriebene Wörter</translation>
+    </message>
+    <message>
+        <source>Document notes</source>
+        <translation>Dokumentnotizen</translation>
+    </message>
+    <message>
+        <source>Project notes</source>
+        <translation>Projektnotizen</translation>
+    </message>
+    <message>
+        <source>Recent search results</source>
+        <translation>Letzte Suchergebnisse</translation>
+    </message>
+    <message>
+        <source>Binder</source>
+        <translation>Mappe</translation>
+    </message>
+    <message>
+        <source>Outliner</source>
+        <translation>Gliederung</translation>
+    </message>
+    <message>
+        <source>Outliner, every other row</source>
+        <translation>Gliederung, jede zweite Zeile</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Schnappschüsse</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number from %2 to %3</source>
+        <translation>„%1“ ist keine ganze Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number from %2 to %3</source>
+        <translation>„%1“ ist keine Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of: %2</source>
+        <translation>„%1“ ist nichts von Folgendem: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false</source>
+        <translation>„%1“ ist weder true noch false</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no two halves, an opening and a closing quote</source>
+        <translation>„%1“ besteht nicht aus zwei Hälften, einem öffnenden und einem schließenden Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no such value as &apos;%2&apos;</source>
+        <translation>„%1“ ist kein Wert wie „%2“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be seen</source>
+        <translation>„%1“ ist unsichtbar</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no colour such as #1f1f1f or navy</source>
+        <translation>„%1“ ist keine Farbe wie #1f1f1f oder navy</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no date such as 2026-01-31T18:30:00</source>
+        <translation>„%1“ ist kein Datum wie 2026-01-31T18:30:00</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no font such as Serif,12</source>
+        <translation>„%1“ ist keine Schriftart wie Serif,12</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>what follows &apos;base64:&apos; is not Base64</source>
+        <translation>Was auf „base64:“ folgt, ist kein Base64</translation>
+    </message>
+    <message>
+        <source>nothing is no value; reset the setting instead</source>
+        <translation>Nichts ist kein Wert; setzen Sie die Einstellung stattdessen zurück</translation>
+    </message>
+    <message>
+        <source>the bytes are not what is kept there</source>
+        <translation>Diese Bytes gehören nicht hierher</translation>
+    </message>
+    <message>
+        <source>the text is no &apos;base64:&apos; and the bytes of a format</source>
+        <translation>Der Text besteht nicht aus „base64:“ und den Bytes eines Formats</translation>
+    </message>
+    <message>
+        <source>there is no setting &apos;%1&apos;</source>
+        <translation>Es gibt keine Einstellung „%1“</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptMode</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>Es handelt sich um einen Ordner</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no script mode: %2</source>
+        <translation>„%1“ ist kein Skriptmodus: %2</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: the script mode is too large</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: Der Skriptmodus ist zu groß</translation>
+    </message>
+    <message>
+        <source>a document type declaration does not belong here</source>
+        <translation>Eine Dokumenttyp-Deklaration gehört nicht hierher</translation>
+    </message>
+    <message>
+        <source>a tag is longer than %1 characters, or has more than %2 attributes</source>
+        <translation>Ein Tag ist länger als %1 Zeichen oder hat mehr als %2 Attribute</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
+        <translation>„%1“ ist kein Wert von „%2“</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
+        <translation>Das Attribut „%1“ gehört nicht in „%2“</translation>
+    </message>
+    <message>
+        <source>more than %1 elements lie within each other</source>
+        <translation>Mehr als %1 Elemente sind ineinander verschachtelt</translation>
+    </message>
+    <message>
+        <source>text between elements is passed over</source>
+        <translation>Text zwischen Elementen wird übergangen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no place in &quot;%2&quot; and is passed over</source>
+        <translation>„%1“ gehört nicht in „%2“ und wird übergangen</translation>
+    </message>
+    <message>
+        <source>the root element is &quot;%1&quot; and not &quot;%2&quot;</source>
+        <translation>Das Wurzelelement ist „%1“ und nicht „%2“</translation>
+    </message>
+    <message>
+        <source>the root element is of the namespace &quot;%1&quot;</source>
+        <translation>Das Wurzelelement gehört zum Namensraum „%1“</translation>
+    </message>
+    <message>
+        <source>the version is &quot;%1&quot; and not &quot;%2&quot;</source>
+        <translation>Die Version ist „%1“ und nicht „%2“</translation>
+    </message>
+    <message>
+        <source>there are more than %1 script elements</source>
+        <translation>Es gibt mehr als %1 Skriptelemente</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>Die Datei ist größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>a tag has more than %1 attributes</source>
+        <translation>Ein Tag hat mehr als %1 Attribute</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptXml</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSettings</name>
+    <message>
+        <source>There is no room for temporary files</source>
+        <translation>Für temporäre Dateien ist kein Platz</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it is locked</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: Sie ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it is damaged</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: Sie ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>Es handelt sich nicht um eine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>The settings have no file</source>
+        <translation>Die Einstellungen haben keine Datei</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved while an array of them is open</source>
+        <translation>Die Einstellungen können nicht gespeichert werden, solange ein Feld von ihnen offen ist</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no settings</source>
+        <translation>Die Datei „%1“ enthält keine Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcut</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Fullscreen Only</source>
+        <translation>Nur im Vollbild</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstiges</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+N</source>
+        <translation>Ctrl+G,Ctrl+N</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Toggle Scratch Pad</source>
+        <translation>Notizblock ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+0</source>
+        <translation>Ctrl+Shift+0</translation>
+    </message>
+    <message>
+        <source>Show Spelling</source>
+        <translation>Rechtschreibung anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Q</source>
+        <translation>Ctrl+G,Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Learn Spelling</source>
+        <translation>Schreibweise lernen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+L</source>
+        <translation>Ctrl+G,Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Ignore Spelling</source>
+        <translation>Schreibweise ignorieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+L</source>
+        <translation>Ctrl+G,Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Show Citations</source>
+        <translation>Literaturverweise anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+O</source>
+        <translation>Ctrl+G,Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>F12</source>
+        <translation>F12</translation>
+    </message>
+    <message>
+        <source>Morvane Manual</source>
+        <translation>Handbuch zu Morvane</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
+    <message>
+        <source>Duplicate Item With SubDocuments</source>
+        <translation>Element mit Unterdokumenten duplizieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Duplicate Item Without SubDocuments</source>
+        <translation>Element ohne Unterdokumente duplizieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Shift+D</translation>
+    </message>
+    <message>
+        <source>Toggle Main Toolbar</source>
+        <translation>Hauptsymbolleiste ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+6</source>
+        <translation>Ctrl+Shift+6</translation>
+    </message>
+    <message>
+        <source>Toggle Collections</source>
+        <translation>Sammlungen ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+9</source>
+        <translation>Ctrl+Shift+9</translation>
+    </message>
+    <message>
+        <source>Toggle Header Bar</source>
+        <translation>Kopfleiste ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+4</source>
+        <translation>Ctrl+Shift+4</translation>
+    </message>
+    <message>
+        <source>Toggle Footer Bar</source>
+        <translation>Fußleiste ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+5</source>
+        <translation>Ctrl+Shift+5</translation>
+    </message>
+    <message>
+        <source>Search in Project</source>
+        <translation>Im Projekt suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Im Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Return</source>
+        <translation>Ctrl+Shift+Return</translation>
+    </message>
+    <message>
+        <source>Open in Other Editor</source>
+        <translation>Im anderen Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Return</source>
+        <translation>Ctrl+Alt+Return</translation>
+    </message>
+    <message>
+        <source>Open in External Editor</source>
+        <translation>In externem Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Group Selection</source>
+        <translation>Auswahl gruppieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+U</source>
+        <translation>Ctrl+G,Ctrl+U</translation>
+    </message>
+    <message>
+        <source>Ungroup Selection</source>
+        <translation>Gruppierung der Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+B</source>
+        <translation>Ctrl+G,Ctrl+B</translation>
+    </message>
+    <message>
+        <source>Merge Documents</source>
+        <translation>Dokumente zusammenführen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+M</source>
+        <translation>Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Back in Editor</source>
+        <translation>Im Editor zurück</translation>
+    </message>
+    <message>
+        <source>Alt+Left</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Forward in Editor</source>
+        <translation>Im Editor vorwärts</translation>
+    </message>
+    <message>
+        <source>Alt+Right</source>
+        <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <source>Back in Other Editor</source>
+        <translation>Im anderen Editor zurück</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Alt+Left</source>
+        <translation>Ctrl+G,Alt+Left</translation>
+    </message>
+    <message>
+        <source>Forward in Other Editor</source>
+        <translation>Im anderen Editor vorwärts</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Alt+Right</source>
+        <translation>Ctrl+G,Alt+Right</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Binder</source>
+        <translation>Etikettfarbe in der Mappe verwenden</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Icons</source>
+        <translation>Etikettfarbe in Symbolen verwenden</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Index Cards</source>
+        <translation>Etikettfarbe auf Karteikarten verwenden</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Outliner Rows</source>
+        <translation>Etikettfarbe in Zeilen der Gliederung verwenden</translation>
+    </message>
+    <message>
+        <source>Move Focus to Next Area</source>
+        <translation>Fokus in den nächsten Bereich setzen</translation>
+    </message>
+    <message>
+        <source>F6</source>
+        <translation>F6</translation>
+    </message>
+    <message>
+        <source>Edit Metadata</source>
+        <translation>Metadaten bearbeiten</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+M</source>
+        <translation>Ctrl+G,Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Reveal in Binder</source>
+        <translation>In der Mappe zeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+B</source>
+        <translation>Ctrl+Alt+B</translation>
+    </message>
+    <message>
+        <source>Show Auto-Complete List</source>
+        <translation>Vervollständigungsliste anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Space</source>
+        <translation>Ctrl+G,Shift+Space</translation>
+    </message>
+    <message>
+        <source>Show Project Notes</source>
+        <translation>Projektnotizen anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+P</source>
+        <translation>Ctrl+G,Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Show Labels on Index Cards</source>
+        <translation>Etiketten auf Karteikarten anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Status on Index Cards</source>
+        <translation>Status auf Karteikarten anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Keywords on Index Cards</source>
+        <translation>Stichwörter auf Karteikarten anzeigen</translation>
+    </message>
+    <message>
+        <source>New Text</source>
+        <translation>Neuer Text</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>New From First Template</source>
+        <translation>Neu aus erster Vorlage</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+N</source>
+        <translation>Ctrl+Alt+N</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb verschieben</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Del</source>
+        <translation>Ctrl+Shift+Del</translation>
+    </message>
+    <message>
+        <source>Convert to Default Formatting</source>
+        <translation>In Standardformatierung umwandeln</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+0</source>
+        <translation>Ctrl+G,Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Toggle Binder</source>
+        <translation>Mappe ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+B</source>
+        <translation>Ctrl+Shift+B</translation>
+    </message>
+    <message>
+        <source>Toggle Inspector</source>
+        <translation>Inspektor ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+I</source>
+        <translation>Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>Toggle Keywords Panel</source>
+        <translation>Stichwortfenster ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+W</source>
+        <translation>Ctrl+G,Ctrl+W</translation>
+    </message>
+    <message>
+        <source>Toggle Full Screen</source>
+        <translation>Vollbild ein-/ausschalten</translation>
+    </message>
+    <message>
+        <source>F11</source>
+        <translation>F11</translation>
+    </message>
+    <message>
+        <source>Toggle Ruler</source>
+        <translation>Lineal ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Toggle Format Bar</source>
+        <translation>Formatleiste ein-/ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+7</source>
+        <translation>Ctrl+Shift+7</translation>
+    </message>
+    <message>
+        <source>Toggle Typewriter Scrolling</source>
+        <translation>Schreibmaschinenrollen ein-/ausschalten</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>No Split</source>
+        <translation>Nicht teilen</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Split Horizontally</source>
+        <translation>Waagerecht teilen</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Split Vertically</source>
+        <translation>Senkrecht teilen</translation>
+    </message>
+    <message>
+        <source>Ctrl+6</source>
+        <translation>Ctrl+6</translation>
+    </message>
+    <message>
+        <source>Show Text</source>
+        <translation>Text anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+1</source>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show Corkboard</source>
+        <translation>Pinnwand anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show Outliner</source>
+        <translation>Gliederung anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Lock Editor</source>
+        <translation>Editor sperren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+K</source>
+        <translation>Ctrl+G,Ctrl+K</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+P</source>
+        <translation>Ctrl+Alt+P</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Close Project</source>
+        <translation>Projekt schließen</translation>
+    </message>
+    <message>
+        <source>Ctrl+W</source>
+        <translation>Ctrl+W</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Kompilieren</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>Import Files</source>
+        <translation>Dateien importieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+I</source>
+        <translation>Ctrl+G,Ctrl+I</translation>
+    </message>
+    <message>
+        <source>Import Web Page</source>
+        <translation>Webseite importieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+I</source>
+        <translation>Ctrl+G,Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>Export Files</source>
+        <translation>Dateien exportieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+E</source>
+        <translation>Ctrl+G,Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Use Selection for Find</source>
+        <translation>Auswahl als Suchtext verwenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+G</source>
+        <translation>Ctrl+Shift+G</translation>
+    </message>
+    <message>
+        <source>Jump to Selection</source>
+        <translation>Zur Auswahl springen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+J</source>
+        <translation>Ctrl+Alt+J</translation>
+    </message>
+    <message>
+        <source>Replace and Find Next</source>
+        <translation>Ersetzen und weitersuchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Find in Synopsis</source>
+        <translation>In der Synopsis suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Y</source>
+        <translation>Ctrl+G,Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Find by Format</source>
+        <translation>Nach Format suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+F</source>
+        <translation>Ctrl+G,Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find Next by Format</source>
+        <translation>Nach Format weitersuchen</translation>
+    </message>
+    <message>
+        <source>F4</source>
+        <translation>F4</translation>
+    </message>
+    <message>
+        <source>Find Previous by Format</source>
+        <translation>Nach Format rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Shift+F4</source>
+        <translation>Shift+F4</translation>
+    </message>
+    <message>
+        <source>Find in PDF</source>
+        <translation>Im PDF suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+F</source>
+        <translation>Ctrl+G,Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Find Next in PDF</source>
+        <translation>Im PDF weitersuchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,F3</source>
+        <translation>Ctrl+G,F3</translation>
+    </message>
+    <message>
+        <source>Find Previous in PDF</source>
+        <translation>Im PDF rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+F3</source>
+        <translation>Ctrl+G,Shift+F3</translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation>Alles aufklappen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl++</source>
+        <translation>Ctrl+G,Ctrl++</translation>
+    </message>
+    <message>
+        <source>Collapse All</source>
+        <translation>Alles zuklappen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+-</source>
+        <translation>Ctrl+G,Ctrl+-</translation>
+    </message>
+    <message>
+        <source>Collapse to Current Level</source>
+        <translation>Bis zur aktuellen Ebene zuklappen</translation>
+    </message>
+    <message>
+        <source>Previous Container</source>
+        <translation>Vorheriger Behälter</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgUp</source>
+        <translation>Ctrl+PgUp</translation>
+    </message>
+    <message>
+        <source>Next Container</source>
+        <translation>Nächster Behälter</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgDown</source>
+        <translation>Ctrl+PgDown</translation>
+    </message>
+    <message>
+        <source>Next Collection</source>
+        <translation>Nächste Sammlung</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+PgDown</source>
+        <translation>Ctrl+Shift+PgDown</translation>
+    </message>
+    <message>
+        <source>Previous Collection</source>
+        <translation>Vorherige Sammlung</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+PgUp</source>
+        <translation>Ctrl+Shift+PgUp</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Element nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Up</source>
+        <translation>Alt+Shift+Up</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Element nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Down</source>
+        <translation>Alt+Shift+Down</translation>
+    </message>
+    <message>
+        <source>Move Item Left</source>
+        <translation>Element nach links verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Left</source>
+        <translation>Alt+Shift+Left</translation>
+    </message>
+    <message>
+        <source>Move Item Right</source>
+        <translation>Element nach rechts verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Right</source>
+        <translation>Alt+Shift+Right</translation>
+    </message>
+    <message>
+        <source>Copy Selected PDF Text</source>
+        <translation>Markierten PDF-Text kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+C</source>
+        <translation>Ctrl+Alt+C</translation>
+    </message>
+    <message>
+        <source>Zoom to Page Size</source>
+        <translation>Auf ganze Seite zoomen</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Zoom to Page Width</source>
+        <translation>Auf Seitenbreite zoomen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+0</source>
+        <translation>Ctrl+Alt+0</translation>
+    </message>
+    <message>
+        <source>Single Page</source>
+        <translation>Einzelne Seite</translation>
+    </message>
+    <message>
+        <source>Single Page Continuous</source>
+        <translation>Einzelne Seiten fortlaufend</translation>
+    </message>
+    <message>
+        <source>Play or Pause</source>
+        <translation>Wiedergabe oder Pause</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>Fast Forward</source>
+        <translation>Vorspulen</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Zurückspulen</translation>
+    </message>
+    <message>
+        <source>F7</source>
+        <translation>F7</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Schnappschuss anlegen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+S</source>
+        <translation>Ctrl+Alt+S</translation>
+    </message>
+    <message>
+        <source>Take Snapshot With Title</source>
+        <translation>Schnappschuss mit Titel anlegen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+S</source>
+        <translation>Ctrl+Alt+Shift+S</translation>
+    </message>
+    <message>
+        <source>Project Statistics</source>
+        <translation>Projektstatistik</translation>
+    </message>
+    <message>
+        <source>Ctrl+9</source>
+        <translation>Ctrl+9</translation>
+    </message>
+    <message>
+        <source>Text Statistics</source>
+        <translation>Textstatistik</translation>
+    </message>
+    <message>
+        <source>Ctrl+8</source>
+        <translation>Ctrl+8</translation>
+    </message>
+    <message>
+        <source>Project Targets</source>
+        <translation>Projektziele</translation>
+    </message>
+    <message>
+        <source>Ctrl+7</source>
+        <translation>Ctrl+7</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>Strikethrough</source>
+        <translation>Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+X</source>
+        <translation>Ctrl+Shift+X</translation>
+    </message>
+    <message>
+        <source>Small Caps</source>
+        <translation>Kapitälchen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+M</source>
+        <translation>Ctrl+G,Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Bigger Font</source>
+        <translation>Größere Schrift</translation>
+    </message>
+    <message>
+        <source>Ctrl+&gt;</source>
+        <translation>Ctrl+&gt;</translation>
+    </message>
+    <message>
+        <source>Smaller Font</source>
+        <translation>Kleinere Schrift</translation>
+    </message>
+    <message>
+        <source>Ctrl+&lt;</source>
+        <translation>Ctrl+&lt;</translation>
+    </message>
+    <message>
+        <source>Superscript</source>
+        <translation>Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Up</source>
+        <translation>Ctrl+G,Up</translation>
+    </message>
+    <message>
+        <source>Subscript</source>
+        <translation>Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Down</source>
+        <translation>Ctrl+G,Down</translation>
+    </message>
+    <message>
+        <source>Convert to Title Case</source>
+        <translation>In Titelschreibung umwandeln</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+T</source>
+        <translation>Ctrl+G,Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Convert to Smart Quotes</source>
+        <translation>In typografische Anführungszeichen umwandeln</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+Q</source>
+        <translation>Ctrl+G,Ctrl+Shift+Q</translation>
+    </message>
+    <message>
+        <source>Convert to Straight Quotes</source>
+        <translation>In gerade Anführungszeichen umwandeln</translation>
+    </message>
+    <message>
+        <source>Convert Multiple Spaces to Single</source>
+        <translation>Mehrfache Leerzeichen in einfache umwandeln</translation>
+    </message>
+    <message>
+        <source>Align Left</source>
+        <translation>Linksbündig</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Align Center</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>Ctrl+J</source>
+        <translation>Ctrl+J</translation>
+    </message>
+    <message>
+        <source>Align Right</source>
+        <translation>Rechtsbündig</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Increase Left Indent</source>
+        <translation>Linken Einzug vergrößern</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Right</source>
+        <translation>Ctrl+G,Right</translation>
+    </message>
+    <message>
+        <source>Decrease Left Indent</source>
+        <translation>Linken Einzug verkleinern</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Left</source>
+        <translation>Ctrl+G,Left</translation>
+    </message>
+    <message>
+        <source>Increase First-Line Indent</source>
+        <translation>Erstzeileneinzug vergrößern</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Right</source>
+        <translation>Ctrl+G,Shift+Right</translation>
+    </message>
+    <message>
+        <source>Decrease First-Line Indent</source>
+        <translation>Erstzeileneinzug verkleinern</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Left</source>
+        <translation>Ctrl+G,Shift+Left</translation>
+    </message>
+    <message>
+        <source>Single Line Spacing</source>
+        <translation>Einfacher Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+1</source>
+        <translation>Ctrl+G,Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Double Line Spacing</source>
+        <translation>Doppelter Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+2</source>
+        <translation>Ctrl+G,Ctrl+2</translation>
+    </message>
+    <message>
+        <source>One and a Half Line Spacing</source>
+        <translation>Anderthalbfacher Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+5</source>
+        <translation>Ctrl+G,Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>Wort vervollständigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Space</source>
+        <translation>Ctrl+Alt+Space</translation>
+    </message>
+    <message>
+        <source>Complete Document Title</source>
+        <translation>Dokumenttitel vervollständigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Space</source>
+        <translation>Ctrl+G,Space</translation>
+    </message>
+    <message>
+        <source>Add Selection to Auto-Complete List</source>
+        <translation>Auswahl zur Vervollständigungsliste hinzufügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+A</source>
+        <translation>Ctrl+G,Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Show Invisible Characters</source>
+        <translation>Unsichtbare Zeichen anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+8</source>
+        <translation>Ctrl+Shift+8</translation>
+    </message>
+    <message>
+        <source>Ghost Notes</source>
+        <translation>Notizen abblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+H</source>
+        <translation>Ctrl+G,Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Split at Selection</source>
+        <translation>An der Auswahl teilen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Y</source>
+        <translation>Ctrl+Shift+Y</translation>
+    </message>
+    <message>
+        <source>Split With Selection as Title</source>
+        <translation>Mit Auswahl als Titel teilen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+Y</source>
+        <translation>Ctrl+Alt+Shift+Y</translation>
+    </message>
+    <message>
+        <source>Set Selection as Title</source>
+        <translation>Auswahl als Titel festlegen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+T</source>
+        <translation>Ctrl+G,Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Insert Image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+P</source>
+        <translation>Ctrl+G,Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Insert Morvane Link</source>
+        <translation>Morvane-Link einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+K</source>
+        <translation>Ctrl+Shift+K</translation>
+    </message>
+    <message>
+        <source>Insert Current Date and Time</source>
+        <translation>Aktuelles Datum und Uhrzeit einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+D</source>
+        <translation>Ctrl+G,Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>Inline Annotation</source>
+        <translation>Anmerkung im Text</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+M</source>
+        <translation>Ctrl+Alt+Shift+M</translation>
+    </message>
+    <message>
+        <source>Inline Footnote</source>
+        <translation>Fußnote im Text</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+O</source>
+        <translation>Ctrl+Alt+Shift+O</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+M</source>
+        <translation>Ctrl+Alt+M</translation>
+    </message>
+    <message>
+        <source>Footnote</source>
+        <translation>Fußnote</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+O</source>
+        <translation>Ctrl+Alt+O</translation>
+    </message>
+    <message>
+        <source>Script Mode</source>
+        <translation>Skriptmodus</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+R</source>
+        <translation>Ctrl+G,Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Script Elements</source>
+        <translation>Skriptelemente</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Ctrl+B</source>
+        <translation>Ctrl+B</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Ctrl+I</source>
+        <translation>Ctrl+I</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Ctrl+U</source>
+        <translation>Ctrl+U</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z</source>
+        <translation>Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Z</source>
+        <translation>Ctrl+Shift+Z</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Ctrl+X</source>
+        <translation>Ctrl+X</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+V</source>
+        <translation>Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Copy Font</source>
+        <translation>Schriftart kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+C</source>
+        <translation>Ctrl+G,Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Paste Font</source>
+        <translation>Schriftart einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+V</source>
+        <translation>Ctrl+G,Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Copy Ruler</source>
+        <translation>Lineal kopieren</translation>
+    </message>
+    <message>
+        <source>Paste Ruler</source>
+        <translation>Lineal einfügen</translation>
+    </message>
+    <message>
+        <source>Copy Formatting</source>
+        <translation>Formatierung kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+C</source>
+        <translation>Ctrl+Alt+Shift+C</translation>
+    </message>
+    <message>
+        <source>Paste Formatting</source>
+        <translation>Formatierung einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+V</source>
+        <translation>Ctrl+Alt+Shift+V</translation>
+    </message>
+    <message>
+        <source>Preserve Formatting</source>
+        <translation>Formatierung beibehalten</translation>
+    </message>
+    <message>
+        <source>Paste and Match Style</source>
+        <translation>Einfügen und Stil anpassen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Insert Non-Breaking Space</source>
+        <translation>Geschütztes Leerzeichen einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Space</source>
+        <translation>Ctrl+Shift+Space</translation>
+    </message>
+    <message>
+        <source>Insert Paragraph Break</source>
+        <translation>Absatzumbruch einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Line Break</source>
+        <translation>Zeilenumbruch einfügen</translation>
+    </message>
+    <message>
+        <source>Shift+Return</source>
+        <translation>Shift+Return</translation>
+    </message>
+    <message>
+        <source>Insert Page Break</source>
+        <translation>Seitenumbruch einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Ctrl+Return</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>Hervorheben</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Text Color</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+C</source>
+        <translation>Ctrl+G,Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Edit Link</source>
+        <translation>Link bearbeiten</translation>
+    </message>
+    <message>
+        <source>Ctrl+K</source>
+        <translation>Ctrl+K</translation>
+    </message>
+    <message>
+        <source>Previous Document</source>
+        <translation>Vorheriges Dokument</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
+    <message>
+        <source>Next Document</source>
+        <translation>Nächstes Dokument</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Down</translation>
+    </message>
+    <message>
+        <source>Enclosing Group</source>
+        <translation>Übergeordnete Gruppe</translation>
+    </message>
+    <message>
+        <source>Alt+Home</source>
+        <translation>Alt+Home</translation>
+    </message>
+    <message>
+        <source>Editor Selection</source>
+        <translation>Auswahl im Editor</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+J</source>
+        <translation>Ctrl+G,Ctrl+J</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Gehe zu</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+G</source>
+        <translation>Ctrl+G,Ctrl+G</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutCheck</name>
+    <message>
+        <source>%1 is the key of both “%2” and “%3”.</source>
+        <translation>%1 ist das Tastenkürzel sowohl von „%2“ als auch von „%3“.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” is never reached, as %3 is the key of “%4”.</source>
+        <translation>%1 von „%2“ wird nie erreicht, da %3 das Tastenkürzel von „%4“ ist.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” is a key that desktops or input methods take.</source>
+        <translation>%1 von „%2“ ist ein Tastenkürzel, das Arbeitsumgebungen oder Eingabemethoden für sich beanspruchen.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” begins with a key that is needed for writing.</source>
+        <translation>%1 von „%2“ beginnt mit einer Taste, die zum Schreiben gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>The key of “%1” has no name, and is lost when it is stored.</source>
+        <translation>Das Tastenkürzel von „%1“ hat keinen Namen und geht beim Speichern verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutScheme</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Morvane</source>
+        <translation>Morvane</translation>
+    </message>
+    <message>
+        <source>Mac Morvane</source>
+        <translation>Mac Morvane</translation>
+    </message>
+    <message>
+        <source>Open Office</source>
+        <translation>Open Office</translation>
+    </message>
+    <message>
+        <source>Microsoft Word</source>
+        <translation>Microsoft Word</translation>
+    </message>
+    <message>
+        <source>it is no shortcut scheme of a known version</source>
+        <translation>Das ist kein Tastenkürzelschema einer bekannten Version</translation>
+    </message>
+    <message>
+        <source>it is no shortcut scheme</source>
+        <translation>Das ist kein Tastenkürzelschema</translation>
+    </message>
+    <message numerus="yes">
+        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <translation>
+            <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnte gelesen werden</numerusform>
+            <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnten gelesen werden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextFormat</name>
+    <message>
+        <source>The picture has no file name.</source>
+        <translation>Das Bild hat keinen Dateinamen.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be encoded for the file &quot;%1&quot;.</source>
+        <translation>Das Bild kann für die Datei „%1“ nicht kodiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextPresetScheme</name>
+    <message>
+        <source>The text presets are damaged, or were stored by another version</source>
+        <translation>Die Textvorlagen sind beschädigt oder wurden von einer anderen Version gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextQuery</name>
+    <message>
+        <source>%1 (at character %2)</source>
+        <translation>%1 (bei Zeichen %2)</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextXhtmlExporter</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>There is no document to export to %1.</source>
+        <translation>Es gibt kein Dokument, das nach %1 exportiert werden kann.</translation>
+    </message>
+    <message>
+        <source>There is no e-book page to export to %1.</source>
+        <translation>Es gibt keine E-Book-Seite, die nach %1 exportiert werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUnit</name>
+    <message>
+        <source> inch(es)</source>
+        <translation> Zoll</translation>
+    </message>
+    <message>
+        <source> dm</source>
+        <translation> dm</translation>
+    </message>
+    <message>
+        <source> cm</source>
+        <translation> cm</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> pi</source>
+        <translation> pi</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateDownloader</name>
+    <message>
+        <source>The address of the download is not valid.</source>
+        <translation>Die Adresse des Downloads ist ungültig.</translation>
+    </message>
+    <message>
+        <source>The server sent the download on to an address that is not safe.</source>
+        <translation>Der Server hat den Download an eine unsichere Adresse weitergeleitet.</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Nach Updates wird gesucht&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>%1 is all up to date.</source>
+        <translation>%1 ist auf dem neuesten Stand.</translation>
+    </message>
+    <message>
+        <source>The installer was changed after it had been downloaded, and will not be opened.</source>
+        <translation>Das Installationsprogramm wurde nach dem Download verändert und wird nicht geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateManager</name>
+    <message>
+        <source>&amp;Check for Updates...</source>
+        <translation>&amp;Nach Updates suchen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Morvane Update</source>
+        <translation>Update von Morvane</translation>
+    </message>
+    <message>
+        <source>No active network connection found
+You need internet connection to check for updates</source>
+        <translation>Keine aktive Netzwerkverbindung gefunden
+Um nach Updates zu suchen, benötigen Sie eine Internetverbindung</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateModel</name>
+    <message>
+        <source>there is no valid key to check it with</source>
+        <translation>es gibt keinen gültigen Schlüssel, um sie zu prüfen</translation>
+    </message>
+    <message>
+        <source>the installer cannot be read</source>
+        <translation>das Installationsprogramm kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the signature cannot be read</source>
+        <translation>die Signatur kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it was made with another key</source>
+        <translation>sie wurde mit einem anderen Schlüssel erzeugt</translation>
+    </message>
+    <message>
+        <source>it is not this installer&apos;s</source>
+        <translation>sie gehört nicht zu diesem Installationsprogramm</translation>
+    </message>
+    <message>
+        <source>its comment was altered</source>
+        <translation>ihr Kommentar wurde verändert</translation>
+    </message>
+    <message>
+        <source>it was made for another file</source>
+        <translation>sie wurde für eine andere Datei erzeugt</translation>
+    </message>
+    <message>
+        <source>Failed to open update.ini file to determine update URL location and version. Please contact %1 so we can fix this problem quickly.</source>
+        <translation>Die Datei update.ini mit der Update-Adresse und der Version konnte nicht geöffnet werden. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell beheben können.</translation>
+    </message>
+    <message>
+        <source>The update XML file contained empty values. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Die XML-Datei des Updates enthielt leere Werte. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Die XML-Datei des Updates nennt ein Installationsprogramm, dessen Name kein einfacher Dateiname ist. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
+    </message>
+    <message>
+        <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
+        <translation>Die Versionsnummern können nicht verglichen werden. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können</translation>
+    </message>
+    <message>
+        <source>Could not open the downloaded file to validate it: </source>
+        <translation>Die heruntergeladene Datei konnte nicht zur Prüfung geöffnet werden: </translation>
+    </message>
+    <message>
+        <source>The download file could not be found on our server. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Die Download-Datei wurde auf unserem Server nicht gefunden. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
+    </message>
+    <message>
+        <source>The downloaded xml update file is not integral. Please contact %1 for additional support if this does not work.</source>
+        <translation>Die heruntergeladene XML-Datei des Updates ist nicht vollständig. Bitte wenden Sie sich an %1, wenn Sie weitere Hilfe benötigen.</translation>
+    </message>
+    <message>
+        <source>Failed to read the downloaded update.xml file. Please try running &apos;Check for Update...&apos; again. Please contact %1 for additional support if this does not work.</source>
+        <translation>Die heruntergeladene Datei update.xml konnte nicht gelesen werden. Bitte führen Sie „Nach Updates suchen&#xa0;…“ erneut aus. Wenden Sie sich an %1, wenn das nicht hilft.</translation>
+    </message>
+    <message>
+        <source>Morvane couldn&apos;t find the update on our server.
+This is probably an error on our part.
+Please report this to %1.</source>
+        <translation>Morvane konnte das Update auf unserem Server nicht finden.
+Wahrscheinlich liegt der Fehler bei uns.
+Bitte melden Sie dies an %1.</translation>
+    </message>
+    <message>
+        <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
+        <translation>Das Installationsprogramm trägt keine gültige Signatur (%1) und wird nicht geöffnet. Bitte melden Sie dies an %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MTranslator</name>
+    <message>
+        <source>A language can only be chosen while there is an application</source>
+        <translation>Eine Sprache kann nur gewählt werden, während es eine Anwendung gibt</translation>
+    </message>
+    <message>
+        <source>There is no translation into the language &quot;%1&quot;</source>
+        <translation>Es gibt keine Übersetzung in die Sprache „%1“</translation>
+    </message>
+    <message>
+        <source>The translation &quot;%1&quot; cannot be read</source>
+        <translation>Die Übersetzung „%1“ kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>MVersion</name>
+    <message>
+        <source>beta</source>
+        <translation>Beta</translation>
+    </message>
+    <message>
+        <source>Version: </source>
+        <translation>Version: </translation>
+    </message>
+    <message>
+        <source>Application: </source>
+        <translation>Anwendung: </translation>
+    </message>
+    <message>
+        <source>Build: </source>
+        <translation>Build: </translation>
+    </message>
+    <message>
+        <source>Executable: </source>
+        <translation>Programmdatei: </translation>
+    </message>
+    <message>
+        <source>Compiler: </source>
+        <translation>Compiler: </translation>
+    </message>
+    <message>
+        <source>Qt-Compiled: </source>
+        <translation>Qt beim Kompilieren: </translation>
+    </message>
+    <message>
+        <source>Qt-Runtime: </source>
+        <translation>Qt zur Laufzeit: </translation>
+    </message>
+    <message>
+        <source>Created: </source>
+        <translation>Erstellt: </translation>
+    </message>
+    <message>
+        <source>Warning! Different Qt versions: compiled </source>
+        <translation>Achtung! Verschiedene Qt-Versionen, kompiliert: </translation>
+    </message>
+    <message>
+        <source> runtime: </source>
+        <translation> zur Laufzeit: </translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>OpenDocument Text</source>
+        <translation>OpenDocument-Text</translation>
+    </message>
+    <message>
+        <source>OpenDocument Text Template</source>
+        <translation>OpenDocument-Textvorlage</translation>
+    </message>
+    <message>
+        <source>Rich Text Format</source>
+        <translation>Rich Text Format</translation>
+    </message>
+    <message>
+        <source>Microsoft Word</source>
+        <translation>Microsoft Word</translation>
+    </message>
+    <message>
+        <source>Office Open XML Document</source>
+        <translation>Office-Open-XML-Dokument</translation>
+    </message>
+    <message>
+        <source>Microsoft Document Template</source>
+        <translation>Microsoft-Dokumentvorlage</translation>
+    </message>
+    <message>
+        <source>Adobe Portable Document Format</source>
+        <translation>Adobe Portable Document Format</translation>
+    </message>
+    <message>
+        <source>Adobe PostScript</source>
+        <translation>Adobe PostScript</translation>
+    </message>
+    <message>
+        <source>Adobe Encapsulated PostScript</source>
+        <translation>Adobe Encapsulated PostScript</translation>
+    </message>
+    <message>
+        <source>Windows Media</source>
+        <translation>Windows Media</translation>
+    </message>
+    <message>
+        <source>Microsoft Enhanced Metafile</source>
+        <translation>Microsoft Enhanced Metafile</translation>
+    </message>
+    <message>
+        <source>Scalable Vector Graphics</source>
+        <translation>Skalierbare Vektorgrafik (SVG)</translation>
+    </message>
+    <message>
+        <source>Adobe Flash File Format</source>
+        <translation>Adobe-Flash-Dateiformat</translation>
+    </message>
+    <message>
+        <source>HP-GL plotter language</source>
+        <translation>Plottersprache HP-GL</translation>
+    </message>
+    <message>
+        <source>Printer Command Language Format</source>
+        <translation>Format Printer Command Language</translation>
+    </message>
+    <message>
+        <source>Hypertext Mark-up Language</source>
+        <translation>Hypertext Markup Language</translation>
+    </message>
+    <message>
+        <source>eXtensible HyperText Markup Language</source>
+        <translation>eXtensible HyperText Markup Language</translation>
+    </message>
+    <message>
+        <source>Plain Text Format</source>
+        <translation>Textformat ohne Formatierung</translation>
+    </message>
+    <message>
+        <source>eXtensible Markup Language</source>
+        <translation>eXtensible Markup Language</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Experts Group</source>
+        <translation>Joint Photographic Experts Group</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Group</source>
+        <translation>Joint Photographic Group</translation>
+    </message>
+    <message>
+        <source>Tagged Image File Format</source>
+        <translation>Tagged Image File Format</translation>
+    </message>
+    <message>
+        <source>Windows Bitmap Image</source>
+        <translation>Windows-Bitmap-Bild</translation>
+    </message>
+    <message>
+        <source>Graphical Interchange Format</source>
+        <translation>Graphics Interchange Format</translation>
+    </message>
+    <message>
+        <source>Portable Network Graphics</source>
+        <translation>Portable Network Graphics</translation>
+    </message>
+    <message>
+        <source>Truevision Targa Image</source>
+        <translation>Truevision-Targa-Bild</translation>
+    </message>
+    <message>
+        <source>ZSoft IBM PC Paintbrush file</source>
+        <translation>ZSoft-IBM-PC-Paintbrush-Datei</translation>
+    </message>
+    <message>
+        <source>ePub Book</source>
+        <translation>ePub-Buch</translation>
+    </message>
+    <message>
+        <source>Amazon Kindle(Mobi) Book</source>
+        <translation>Amazon-Kindle-Buch (Mobi)</translation>
+    </message>
+    <message>
+        <source>Final Draft</source>
+        <translation>Final Draft</translation>
+    </message>
+    <message>
+        <source>OPML Format</source>
+        <translation>OPML-Format</translation>
+    </message>
+    <message>
+        <source>Mind Mapping Format</source>
+        <translation>Mindmap-Format</translation>
+    </message>
+    <message>
+        <source>Multimarkdown Format</source>
+        <translation>MultiMarkdown-Format</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to HTML</source>
+        <translation>MultiMarkdown nach HTML</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to LaTeX</source>
+        <translation>MultiMarkdown nach LaTeX</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to OPML</source>
+        <translation>MultiMarkdown nach OPML</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to FODT</source>
+        <translation>MultiMarkdown nach FODT</translation>
+    </message>
+    <message>
+        <source>Doc2Any</source>
+        <translation>Doc2Any</translation>
+    </message>
+    <message>
+        <source>Morvane</source>
+        <translation>Morvane</translation>
+    </message>
+    <message>
+        <source>RTF-Based</source>
+        <translation>RTF-basiert</translation>
+    </message>
+    <message>
+        <source>PDF Document via WebKit</source>
+        <translation>PDF-Dokument über WebKit</translation>
+    </message>
+    <message>
+        <source>PDF Document via Microsoft Office</source>
+        <translation>PDF-Dokument über Microsoft Office</translation>
+    </message>
+    <message>
+        <source>PDF Document via Internet Explorer</source>
+        <translation>PDF-Dokument über Internet Explorer</translation>
+    </message>
+    <message>
+        <source>Plain Text</source>
+        <translation>Reiner Text</translation>
+    </message>
+    <message>
+        <source>Webpage Complete (MHT)</source>
+        <translation>Vollständige Webseite (MHT)</translation>
+    </message>
+    <message>
+        <source>Titles Only</source>
+        <translation>Nur Titel</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>Main Text(with Synopsis)</source>
+        <translation>Haupttext (mit Synopsis)</translation>
+    </message>
+    <message>
+        <source>Notes (with Synopsis)</source>
+        <translation>Notizen (mit Synopsis)</translation>
+    </message>
+    <message>
+        <source>File Download</source>
+        <translation>Datei-Download</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message>
+        <source>Redirect to %1 ?</source>
+        <translation>Zu %1 umleiten?</translation>
+    </message>
+    <message>
+        <source>One or more SSL errors has occurred: %1</source>
+        <translation>SSL-Fehler sind aufgetreten: %1</translation>
+    </message>
+</context>
+</TS>

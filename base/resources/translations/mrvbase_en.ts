@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>MRVAutoReplaceList</name>
+    <message numerus="yes">
+        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <translation>
+            <numerusform>it is damaged or cut short; %n entry could be read</numerusform>
+            <numerusform>it is damaged or cut short; %n entries could be read</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutScheme</name>
+    <message numerus="yes">
+        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <translation>
+            <numerusform>it is damaged or cut short; %n shortcut could be read</numerusform>
+            <numerusform>it is damaged or cut short; %n shortcuts could be read</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,2673 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>MRVAutoReplaceList</name>
+    <message>
+        <source>it is no auto-replace list of a known version</source>
+        <translation>ce n’est pas une liste de remplacement automatique d’une version connue</translation>
+    </message>
+    <message numerus="yes">
+        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <translation>
+            <numerusform>elle est endommagée ou tronquée&#xa0;; %n entrée a pu être lue</numerusform>
+            <numerusform>elle est endommagée ou tronquée&#xa0;; %n entrées ont pu être lues</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MRVCheckForUpdatesDialog</name>
+    <message>
+        <source>Check For Updates</source>
+        <translation>Rechercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Progression du téléchargement</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Télécharger la mise à jour</translation>
+    </message>
+    <message>
+        <source>Install Update</source>
+        <translation>Installer la mise à jour</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>You are currently running %1 %2. Version %3 is available.
+
+Click the Download Update button to begin the download. (You will not be able to use %1 while the update is downloading.) When the download has finished, click Install Update to close %1 and launch the update installer.
+
+Choose Cancel if you do not wish to update at this time.</source>
+        <translation>Vous utilisez actuellement %1 %2. La version %3 est disponible.
+
+Cliquez sur le bouton «&#xa0;Télécharger la mise à jour&#xa0;» pour lancer le téléchargement. (Vous ne pourrez pas utiliser %1 pendant ce temps.) Une fois le téléchargement terminé, cliquez sur «&#xa0;Installer la mise à jour&#xa0;» pour fermer %1 et lancer le programme d’installation.
+
+Choisissez «&#xa0;Annuler&#xa0;» si vous ne souhaitez pas effectuer la mise à jour maintenant.</translation>
+    </message>
+    <message>
+        <source>Downloading Update</source>
+        <translation>Téléchargement de la mise à jour</translation>
+    </message>
+    <message>
+        <source>%1 Auto-Update</source>
+        <translation>Mise à jour automatique de %1</translation>
+    </message>
+    <message>
+        <source>Administrative rights required.</source>
+        <translation>Droits d’administrateur requis.</translation>
+    </message>
+    <message>
+        <source>To download and install automatic updates, you must run %1 from the same account that installed it.
+
+You can also visit %2 to download and install the latest version manually.</source>
+        <translation>Pour télécharger et installer les mises à jour automatiques, vous devez lancer %1 depuis le compte qui a servi à l’installer.
+
+Vous pouvez aussi vous rendre sur %2 pour télécharger et installer manuellement la dernière version.</translation>
+    </message>
+    <message>
+        <source>Installation and Runtime location mismatch.</source>
+        <translation>Les emplacements d’installation et d’exécution ne correspondent pas.</translation>
+    </message>
+    <message>
+        <source>%1 is not currently running from its last installed location.
+
+Runtime Location: &apos;%2&apos;
+Installed Location: &apos;%3&apos;
+
+To download and install the update, please uninstall or manually remove any copies of %1 not at the Installed Location path above, then restart %1 from there and select Help &gt; Check for Updates....</source>
+        <translation>%1 n’est pas lancé depuis son dernier emplacement d’installation.
+
+Emplacement d’exécution&#xa0;: «&#xa0;%2&#xa0;»
+Emplacement d’installation&#xa0;: «&#xa0;%3&#xa0;»
+
+Pour télécharger et installer la mise à jour, veuillez désinstaller ou supprimer manuellement toutes les copies de %1 qui ne se trouvent pas à l’emplacement d’installation ci-dessus, puis relancez %1 depuis cet emplacement et choisissez «&#xa0;Aide &gt; Rechercher des mises à jour…&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Notes de version</translation>
+    </message>
+    <message>
+        <source>The release notes cannot be shown.</source>
+        <translation>Impossible d’afficher les notes de version.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVCoreUtil</name>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the file has no name</source>
+        <translation>le fichier n’a pas de nom</translation>
+    </message>
+    <message>
+        <source>its name holds a null character</source>
+        <translation>son nom contient un caractère nul</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop volumineux</translation>
+    </message>
+    <message>
+        <source>unknown text encoding &quot;%1&quot;</source>
+        <translation>encodage de texte «&#xa0;%1&#xa0;» inconnu</translation>
+    </message>
+    <message>
+        <source>it is not valid %1 text</source>
+        <translation>ce n’est pas un texte %1 valide</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: unknown text encoding &quot;%2&quot;</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: encodage de texte «&#xa0;%2&#xa0;» inconnu</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: the encoding %2 lacks some characters of the text</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: certains caractères du texte n’existent pas dans l’encodage %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDomDoc</name>
+    <message>
+        <source>%1: elements are nested more deeply than %2 levels</source>
+        <translation>%1&#xa0;: des éléments sont imbriqués sur plus de %2 niveaux</translation>
+    </message>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>entities expand to too much text</source>
+        <translation>les entités produisent trop de texte</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>un élément a trop d’attributs</translation>
+    </message>
+    <message>
+        <source>an element has two attributes of one name</source>
+        <translation>un élément a deux attributs du même nom</translation>
+    </message>
+    <message>
+        <source>the document type has too many declarations</source>
+        <translation>le type de document a trop de déclarations</translation>
+    </message>
+    <message>
+        <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
+        <translation>l’entité «&#xa0;%1&#xa0;» se trouve dans un autre fichier, et les autres fichiers ne sont pas lus</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDownloadAuthorize</name>
+    <message>
+        <source>Http authentication required</source>
+        <translation>Authentification HTTP requise</translation>
+    </message>
+    <message>
+        <source>Supply Username and Password to access this site</source>
+        <translation>Saisissez le nom d’utilisateur et le mot de passe pour accéder à ce site</translation>
+    </message>
+    <message>
+        <source>Site:</source>
+        <translation>Site&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Username:</source>
+        <translation>Nom d’utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDownloadUrl</name>
+    <message>
+        <source>Only http and https addresses are downloaded, not %1</source>
+        <translation>Seules les adresses http et https sont téléchargées, et non %1</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Opération annulée</translation>
+    </message>
+    <message>
+        <source>The server has sent nothing for %1 s</source>
+        <translation>Le serveur n’a rien envoyé depuis %1 s</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 bytes</source>
+        <translation>La taille dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>Download Aborted</source>
+        <translation>Téléchargement interrompu</translation>
+    </message>
+    <message>
+        <source>The connection ended before everything had come</source>
+        <translation>La connexion a pris fin avant que tout soit reçu</translation>
+    </message>
+    <message>
+        <source>It redirects to %1, which is no http or https address</source>
+        <translation>Redirection vers %1, qui n’est pas une adresse http ou https</translation>
+    </message>
+    <message>
+        <source>It redirects to %1, where the connection is not encrypted</source>
+        <translation>Redirection vers %1, où la connexion n’est pas chiffrée</translation>
+    </message>
+    <message>
+        <source>Cannot write to file: &apos;%1&apos;
+Error: %2</source>
+        <translation>Impossible d’écrire dans le fichier&#xa0;: «&#xa0;%1&#xa0;»
+Erreur&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Network not accessible</source>
+        <translation>Réseau inaccessible</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubBook</name>
+    <message>
+        <source>The picture %1 cannot be read.</source>
+        <translation>Impossible de lire l’image %1.</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Section %1</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents lead through it.</source>
+        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
+        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer. Toutes les images n’ont pas de description.</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Table des matières</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Début</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubPackage</name>
+    <message>
+        <source>The e-book cannot be packed: %1</source>
+        <translation>Impossible d’assembler le livre numérique&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEngineChoice</name>
+    <message>
+        <source>neither side is RTF, so no choice is kept</source>
+        <translation>aucun des deux formats n’est RTF, aucun choix n’est donc conservé</translation>
+    </message>
+    <message>
+        <source>it is the default, as nothing is stored</source>
+        <translation>c’est la valeur par défaut, car rien n’est enregistré</translation>
+    </message>
+    <message>
+        <source>it is the stored choice</source>
+        <translation>c’est le choix enregistré</translation>
+    </message>
+    <message>
+        <source>the stored choices have none for this format</source>
+        <translation>aucun choix n’est enregistré pour ce format</translation>
+    </message>
+    <message>
+        <source>the stored choice, %1, needs an application that is not available here</source>
+        <translation>le choix enregistré, %1, nécessite une application qui n’est pas disponible ici</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFileWriter</name>
+    <message>
+        <source>its symbolic links lead round in a circle</source>
+        <translation>ses liens symboliques tournent en rond</translation>
+    </message>
+    <message>
+        <source>it is another user&apos;s link in a shared folder</source>
+        <translation>c’est le lien d’un autre utilisateur dans un dossier partagé</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the file has no name</source>
+        <translation>le fichier n’a pas de nom</translation>
+    </message>
+    <message>
+        <source>its name holds a null character</source>
+        <translation>son nom contient un caractère nul</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>son dossier n’existe pas</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFinalDraft</name>
+    <message>
+        <source>this is no Final Draft document</source>
+        <translation>ce n’est pas un document Final Draft</translation>
+    </message>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>des éléments sont imbriqués trop profondément</translation>
+    </message>
+</context>
+<context>
+    <name>MRVFountainHtml</name>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>des éléments sont imbriqués trop profondément</translation>
+    </message>
+    <message>
+        <source>the page holds no paragraph of a script</source>
+        <translation>la page ne contient aucun paragraphe de script</translation>
+    </message>
+</context>
+<context>
+    <name>MRVGuiUtil</name>
+    <message>
+        <source>All Images</source>
+        <translation>Toutes les images</translation>
+    </message>
+</context>
+<context>
+    <name>MRVOptions</name>
+    <message>
+        <source>Editor</source>
+        <translation>Éditeur</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Index cards</source>
+        <translation>Fiches</translation>
+    </message>
+    <message>
+        <source>Revisions</source>
+        <translation>Révisions</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Arrière-plans</translation>
+    </message>
+    <message>
+        <source>Scratch pad</source>
+        <translation>Bloc-notes</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>Ivory</source>
+        <translation>Ivoire</translation>
+    </message>
+    <message>
+        <source>Manila</source>
+        <translation>Manille</translation>
+    </message>
+    <message>
+        <source>Mint</source>
+        <translation>Menthe</translation>
+    </message>
+    <message>
+        <source>Sky</source>
+        <translation>Bleu ciel</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <translation>Lavande</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rose</translation>
+    </message>
+    <message>
+        <source>Slate</source>
+        <translation>Ardoise</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>Ligne de séparation</translation>
+    </message>
+    <message>
+        <source>Notepad lines</source>
+        <translation>Lignes d’écriture</translation>
+    </message>
+    <message>
+        <source>Status stamp</source>
+        <translation>Tampon de statut</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Fiche</translation>
+    </message>
+    <message>
+        <source>Corkboard</source>
+        <translation>Tableau de liège</translation>
+    </message>
+    <message>
+        <source>Around the page</source>
+        <translation>Autour de la page</translation>
+    </message>
+    <message>
+        <source>First revision</source>
+        <translation>Première révision</translation>
+    </message>
+    <message>
+        <source>Second revision</source>
+        <translation>Deuxième révision</translation>
+    </message>
+    <message>
+        <source>Third revision</source>
+        <translation>Troisième révision</translation>
+    </message>
+    <message>
+        <source>Fourth revision</source>
+        <translation>Quatrième révision</translation>
+    </message>
+    <message>
+        <source>Fifth revision</source>
+        <translation>Cinquième révision</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
+    <message>
+        <source>Visited links</source>
+        <translation>Liens visités</translation>
+    </message>
+    <message>
+        <source>Invisible characters</source>
+        <translation>Caractères invisibles</translation>
+    </message>
+    <message>
+        <source>Selected text</source>
+        <translation>Texte sélectionné</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Inline annotations</source>
+        <translation>Annotations dans le texte</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Commentaires</translation>
+    </message>
+    <message>
+        <source>Footnote text</source>
+        <translation>Texte des notes de bas de page</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Notes de bas de page</translation>
+    </message>
+    <message>
+        <source>Preserved formatting</source>
+        <translation>Mise en forme conservée</translation>
+    </message>
+    <message>
+        <source>Project search</source>
+        <translation>Recherche dans le projet</translation>
+    </message>
+    <message>
+        <source>Border of project search</source>
+        <translation>Bordure de la recherche dans le projet</translation>
+    </message>
+    <message>
+        <source>Found text</source>
+        <translation>Texte trouvé</translation>
+    </message>
+    <message>
+        <source>Found text, alternate</source>
+        <translation>Texte trouvé, en alternance</translation>
+    </message>
+    <message>
+        <source>Text that was found</source>
+        <translation>Caractères du texte trouvé</translation>
+    </message>
+    <message>
+        <source>Misspelt words</source>
+        <translation>Mots mal orthographiés</translation>
+    </message>
+    <message>
+        <source>Document notes</source>
+        <translation>Notes du document</translation>
+    </message>
+    <message>
+        <source>Project notes</source>
+        <translation>Notes du projet</translation>
+    </message>
+    <message>
+        <source>Recent search results</source>
+        <translation>Résultats de recherche récents</translation>
+    </message>
+    <message>
+        <source>Binder</source>
+        <translation>Classeur</translation>
+    </message>
+    <message>
+        <source>Outliner</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Outliner, every other row</source>
+        <translation>Plan, une ligne sur deux</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Instantanés</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number from %2 to %3</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier de %2 à %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number from %2 to %3</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of: %2</source>
+        <translation>«&#xa0;%1&#xa0;» ne fait pas partie des valeurs possibles&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni true ni false</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no two halves, an opening and a closing quote</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas deux moitiés, un guillemet ouvrant et un guillemet fermant</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no such value as &apos;%2&apos;</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une valeur comme «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be seen</source>
+        <translation>«&#xa0;%1&#xa0;» est invisible</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no colour such as #1f1f1f or navy</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une couleur comme #1f1f1f ou navy</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no date such as 2026-01-31T18:30:00</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date comme 2026-01-31T18:30:00</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no font such as Serif,12</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une police comme Serif,12</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>what follows &apos;base64:&apos; is not Base64</source>
+        <translation>ce qui suit «&#xa0;base64:&#xa0;» n’est pas du Base64</translation>
+    </message>
+    <message>
+        <source>nothing is no value; reset the setting instead</source>
+        <translation>rien n’est pas une valeur&#xa0;; réinitialisez plutôt le réglage</translation>
+    </message>
+    <message>
+        <source>the bytes are not what is kept there</source>
+        <translation>ces octets ne sont pas de ceux que contient ce réglage</translation>
+    </message>
+    <message>
+        <source>the text is no &apos;base64:&apos; and the bytes of a format</source>
+        <translation>le texte n’est pas «&#xa0;base64:&#xa0;» suivi des octets d’une mise en forme</translation>
+    </message>
+    <message>
+        <source>there is no setting &apos;%1&apos;</source>
+        <translation>il n’existe pas de réglage «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>impossible d’écrire %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptMode</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no script mode: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un mode script&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: the script mode is too large</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: le mode script est trop volumineux</translation>
+    </message>
+    <message>
+        <source>a document type declaration does not belong here</source>
+        <translation>une déclaration de type de document n’a pas sa place ici</translation>
+    </message>
+    <message>
+        <source>a tag is longer than %1 characters, or has more than %2 attributes</source>
+        <translation>une balise dépasse %1 caractères ou a plus de %2 attributs</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une valeur de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
+        <translation>l’attribut «&#xa0;%1&#xa0;» n’a pas sa place dans «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>more than %1 elements lie within each other</source>
+        <translation>plus de %1 éléments sont imbriqués les uns dans les autres</translation>
+    </message>
+    <message>
+        <source>text between elements is passed over</source>
+        <translation>le texte entre les éléments est ignoré</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no place in &quot;%2&quot; and is passed over</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas sa place dans «&#xa0;%2&#xa0;» et est ignoré</translation>
+    </message>
+    <message>
+        <source>the root element is &quot;%1&quot; and not &quot;%2&quot;</source>
+        <translation>l’élément racine est «&#xa0;%1&#xa0;» et non «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the root element is of the namespace &quot;%1&quot;</source>
+        <translation>l’élément racine appartient à l’espace de noms «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the version is &quot;%1&quot; and not &quot;%2&quot;</source>
+        <translation>la version est «&#xa0;%1&#xa0;» et non «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>there are more than %1 script elements</source>
+        <translation>il y a plus de %1 éléments de script</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 bytes</source>
+        <translation>le fichier dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>a tag has more than %1 attributes</source>
+        <translation>une balise a plus de %1 attributs</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptXml</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSettings</name>
+    <message>
+        <source>There is no room for temporary files</source>
+        <translation>Il n’y a pas de place pour les fichiers temporaires</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it is locked</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: il est verrouillé</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it is damaged</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: il est endommagé</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>The settings have no file</source>
+        <translation>Les réglages n’ont pas de fichier</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved while an array of them is open</source>
+        <translation>Les réglages ne peuvent pas être enregistrés tant qu’un de leurs tableaux est ouvert</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; holds no settings</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcut</name>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Fullscreen Only</source>
+        <translation>Plein écran uniquement</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Nouveau projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+N</source>
+        <translation>Ctrl+G,Ctrl+N</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Toggle Scratch Pad</source>
+        <translation>Afficher/masquer le bloc-notes</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+0</source>
+        <translation>Ctrl+Shift+0</translation>
+    </message>
+    <message>
+        <source>Show Spelling</source>
+        <translation>Afficher l’orthographe</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Q</source>
+        <translation>Ctrl+G,Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Learn Spelling</source>
+        <translation>Apprendre l’orthographe</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+L</source>
+        <translation>Ctrl+G,Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Ignore Spelling</source>
+        <translation>Ignorer l’orthographe</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+L</source>
+        <translation>Ctrl+G,Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Show Citations</source>
+        <translation>Afficher les citations</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+O</source>
+        <translation>Ctrl+G,Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>F12</source>
+        <translation>F12</translation>
+    </message>
+    <message>
+        <source>Morvane Manual</source>
+        <translation>Manuel de Morvane</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
+    <message>
+        <source>Duplicate Item With SubDocuments</source>
+        <translation>Dupliquer l’élément avec ses sous-documents</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Duplicate Item Without SubDocuments</source>
+        <translation>Dupliquer l’élément sans ses sous-documents</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Shift+D</translation>
+    </message>
+    <message>
+        <source>Toggle Main Toolbar</source>
+        <translation>Afficher/masquer la barre d’outils principale</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+6</source>
+        <translation>Ctrl+Shift+6</translation>
+    </message>
+    <message>
+        <source>Toggle Collections</source>
+        <translation>Afficher/masquer les collections</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+9</source>
+        <translation>Ctrl+Shift+9</translation>
+    </message>
+    <message>
+        <source>Toggle Header Bar</source>
+        <translation>Afficher/masquer la barre d’en-tête</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+4</source>
+        <translation>Ctrl+Shift+4</translation>
+    </message>
+    <message>
+        <source>Toggle Footer Bar</source>
+        <translation>Afficher/masquer la barre de bas de page</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+5</source>
+        <translation>Ctrl+Shift+5</translation>
+    </message>
+    <message>
+        <source>Search in Project</source>
+        <translation>Rechercher dans le projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Open in Editor</source>
+        <translation>Ouvrir dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Return</source>
+        <translation>Ctrl+Shift+Return</translation>
+    </message>
+    <message>
+        <source>Open in Other Editor</source>
+        <translation>Ouvrir dans l’autre éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Return</source>
+        <translation>Ctrl+Alt+Return</translation>
+    </message>
+    <message>
+        <source>Open in External Editor</source>
+        <translation>Ouvrir dans un éditeur externe</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Group Selection</source>
+        <translation>Grouper la sélection</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+U</source>
+        <translation>Ctrl+G,Ctrl+U</translation>
+    </message>
+    <message>
+        <source>Ungroup Selection</source>
+        <translation>Dégrouper la sélection</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+B</source>
+        <translation>Ctrl+G,Ctrl+B</translation>
+    </message>
+    <message>
+        <source>Merge Documents</source>
+        <translation>Fusionner les documents</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+M</source>
+        <translation>Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Back in Editor</source>
+        <translation>Reculer dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Alt+Left</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Forward in Editor</source>
+        <translation>Avancer dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Alt+Right</source>
+        <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <source>Back in Other Editor</source>
+        <translation>Reculer dans l’autre éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Alt+Left</source>
+        <translation>Ctrl+G,Alt+Left</translation>
+    </message>
+    <message>
+        <source>Forward in Other Editor</source>
+        <translation>Avancer dans l’autre éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Alt+Right</source>
+        <translation>Ctrl+G,Alt+Right</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Binder</source>
+        <translation>Utiliser la couleur d’étiquette dans le classeur</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Icons</source>
+        <translation>Utiliser la couleur d’étiquette dans les icônes</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Index Cards</source>
+        <translation>Utiliser la couleur d’étiquette sur les fiches</translation>
+    </message>
+    <message>
+        <source>Use Label Color in Outliner Rows</source>
+        <translation>Utiliser la couleur d’étiquette dans les lignes du plan</translation>
+    </message>
+    <message>
+        <source>Move Focus to Next Area</source>
+        <translation>Placer le focus dans la zone suivante</translation>
+    </message>
+    <message>
+        <source>F6</source>
+        <translation>F6</translation>
+    </message>
+    <message>
+        <source>Edit Metadata</source>
+        <translation>Modifier les métadonnées</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+M</source>
+        <translation>Ctrl+G,Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Reveal in Binder</source>
+        <translation>Montrer dans le classeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+B</source>
+        <translation>Ctrl+Alt+B</translation>
+    </message>
+    <message>
+        <source>Show Auto-Complete List</source>
+        <translation>Afficher la liste de saisie semi-automatique</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Space</source>
+        <translation>Ctrl+G,Shift+Space</translation>
+    </message>
+    <message>
+        <source>Show Project Notes</source>
+        <translation>Afficher les notes du projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+P</source>
+        <translation>Ctrl+G,Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Show Labels on Index Cards</source>
+        <translation>Afficher les étiquettes sur les fiches</translation>
+    </message>
+    <message>
+        <source>Show Status on Index Cards</source>
+        <translation>Afficher le statut sur les fiches</translation>
+    </message>
+    <message>
+        <source>Show Keywords on Index Cards</source>
+        <translation>Afficher les mots-clés sur les fiches</translation>
+    </message>
+    <message>
+        <source>New Text</source>
+        <translation>Nouveau texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+N</source>
+        <translation>Ctrl+Shift+N</translation>
+    </message>
+    <message>
+        <source>New From First Template</source>
+        <translation>Nouveau d’après le premier modèle</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+N</source>
+        <translation>Ctrl+Alt+N</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Déplacer vers la corbeille</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Del</source>
+        <translation>Ctrl+Shift+Del</translation>
+    </message>
+    <message>
+        <source>Convert to Default Formatting</source>
+        <translation>Convertir à la mise en forme par défaut</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+0</source>
+        <translation>Ctrl+G,Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Toggle Binder</source>
+        <translation>Afficher/masquer le classeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+B</source>
+        <translation>Ctrl+Shift+B</translation>
+    </message>
+    <message>
+        <source>Toggle Inspector</source>
+        <translation>Afficher/masquer l’inspecteur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+I</source>
+        <translation>Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>Toggle Keywords Panel</source>
+        <translation>Afficher/masquer le panneau des mots-clés</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+W</source>
+        <translation>Ctrl+G,Ctrl+W</translation>
+    </message>
+    <message>
+        <source>Toggle Full Screen</source>
+        <translation>Activer/désactiver le plein écran</translation>
+    </message>
+    <message>
+        <source>F11</source>
+        <translation>F11</translation>
+    </message>
+    <message>
+        <source>Toggle Ruler</source>
+        <translation>Afficher/masquer la règle</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Toggle Format Bar</source>
+        <translation>Afficher/masquer la barre de mise en forme</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+7</source>
+        <translation>Ctrl+Shift+7</translation>
+    </message>
+    <message>
+        <source>Toggle Typewriter Scrolling</source>
+        <translation>Activer/désactiver le défilement de machine à écrire</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>No Split</source>
+        <translation>Ne pas diviser</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Split Horizontally</source>
+        <translation>Diviser horizontalement</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Split Vertically</source>
+        <translation>Diviser verticalement</translation>
+    </message>
+    <message>
+        <source>Ctrl+6</source>
+        <translation>Ctrl+6</translation>
+    </message>
+    <message>
+        <source>Show Text</source>
+        <translation>Afficher le texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+1</source>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show Corkboard</source>
+        <translation>Afficher le tableau de liège</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show Outliner</source>
+        <translation>Afficher le plan</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Lock Editor</source>
+        <translation>Verrouiller l’éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+K</source>
+        <translation>Ctrl+G,Ctrl+K</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>Aperçu avant impression</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+P</source>
+        <translation>Ctrl+Alt+P</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Close Project</source>
+        <translation>Fermer le projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+W</source>
+        <translation>Ctrl+W</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compiler</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>Import Files</source>
+        <translation>Importer des fichiers</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+I</source>
+        <translation>Ctrl+G,Ctrl+I</translation>
+    </message>
+    <message>
+        <source>Import Web Page</source>
+        <translation>Importer une page web</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+I</source>
+        <translation>Ctrl+G,Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>Export Files</source>
+        <translation>Exporter des fichiers</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+E</source>
+        <translation>Ctrl+G,Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Ctrl+F</source>
+        <translation>Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Rechercher le suivant</translation>
+    </message>
+    <message>
+        <source>F3</source>
+        <translation>F3</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rechercher le précédent</translation>
+    </message>
+    <message>
+        <source>Shift+F3</source>
+        <translation>Shift+F3</translation>
+    </message>
+    <message>
+        <source>Use Selection for Find</source>
+        <translation>Rechercher la sélection</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+G</source>
+        <translation>Ctrl+Shift+G</translation>
+    </message>
+    <message>
+        <source>Jump to Selection</source>
+        <translation>Aller à la sélection</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+J</source>
+        <translation>Ctrl+Alt+J</translation>
+    </message>
+    <message>
+        <source>Replace and Find Next</source>
+        <translation>Remplacer et rechercher le suivant</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Find in Synopsis</source>
+        <translation>Rechercher dans le synopsis</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Y</source>
+        <translation>Ctrl+G,Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>Find by Format</source>
+        <translation>Rechercher par mise en forme</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+F</source>
+        <translation>Ctrl+G,Ctrl+F</translation>
+    </message>
+    <message>
+        <source>Find Next by Format</source>
+        <translation>Rechercher le suivant par mise en forme</translation>
+    </message>
+    <message>
+        <source>F4</source>
+        <translation>F4</translation>
+    </message>
+    <message>
+        <source>Find Previous by Format</source>
+        <translation>Rechercher le précédent par mise en forme</translation>
+    </message>
+    <message>
+        <source>Shift+F4</source>
+        <translation>Shift+F4</translation>
+    </message>
+    <message>
+        <source>Find in PDF</source>
+        <translation>Rechercher dans le PDF</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+F</source>
+        <translation>Ctrl+G,Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Find Next in PDF</source>
+        <translation>Rechercher le suivant dans le PDF</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,F3</source>
+        <translation>Ctrl+G,F3</translation>
+    </message>
+    <message>
+        <source>Find Previous in PDF</source>
+        <translation>Rechercher le précédent dans le PDF</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+F3</source>
+        <translation>Ctrl+G,Shift+F3</translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation>Tout développer</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl++</source>
+        <translation>Ctrl+G,Ctrl++</translation>
+    </message>
+    <message>
+        <source>Collapse All</source>
+        <translation>Tout réduire</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+-</source>
+        <translation>Ctrl+G,Ctrl+-</translation>
+    </message>
+    <message>
+        <source>Collapse to Current Level</source>
+        <translation>Réduire jusqu’au niveau actuel</translation>
+    </message>
+    <message>
+        <source>Previous Container</source>
+        <translation>Conteneur précédent</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgUp</source>
+        <translation>Ctrl+PgUp</translation>
+    </message>
+    <message>
+        <source>Next Container</source>
+        <translation>Conteneur suivant</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgDown</source>
+        <translation>Ctrl+PgDown</translation>
+    </message>
+    <message>
+        <source>Next Collection</source>
+        <translation>Collection suivante</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+PgDown</source>
+        <translation>Ctrl+Shift+PgDown</translation>
+    </message>
+    <message>
+        <source>Previous Collection</source>
+        <translation>Collection précédente</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+PgUp</source>
+        <translation>Ctrl+Shift+PgUp</translation>
+    </message>
+    <message>
+        <source>Move Item Up</source>
+        <translation>Déplacer l’élément vers le haut</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Up</source>
+        <translation>Alt+Shift+Up</translation>
+    </message>
+    <message>
+        <source>Move Item Down</source>
+        <translation>Déplacer l’élément vers le bas</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Down</source>
+        <translation>Alt+Shift+Down</translation>
+    </message>
+    <message>
+        <source>Move Item Left</source>
+        <translation>Déplacer l’élément vers la gauche</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Left</source>
+        <translation>Alt+Shift+Left</translation>
+    </message>
+    <message>
+        <source>Move Item Right</source>
+        <translation>Déplacer l’élément vers la droite</translation>
+    </message>
+    <message>
+        <source>Alt+Shift+Right</source>
+        <translation>Alt+Shift+Right</translation>
+    </message>
+    <message>
+        <source>Copy Selected PDF Text</source>
+        <translation>Copier le texte PDF sélectionné</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+C</source>
+        <translation>Ctrl+Alt+C</translation>
+    </message>
+    <message>
+        <source>Zoom to Page Size</source>
+        <translation>Adapter à la page entière</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Zoom to Page Width</source>
+        <translation>Adapter à la largeur de la page</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+0</source>
+        <translation>Ctrl+Alt+0</translation>
+    </message>
+    <message>
+        <source>Single Page</source>
+        <translation>Une seule page</translation>
+    </message>
+    <message>
+        <source>Single Page Continuous</source>
+        <translation>Une seule page en continu</translation>
+    </message>
+    <message>
+        <source>Play or Pause</source>
+        <translation>Lecture ou pause</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>Fast Forward</source>
+        <translation>Avance rapide</translation>
+    </message>
+    <message>
+        <source>F9</source>
+        <translation>F9</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Retour rapide</translation>
+    </message>
+    <message>
+        <source>F7</source>
+        <translation>F7</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Prendre un instantané</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+S</source>
+        <translation>Ctrl+Alt+S</translation>
+    </message>
+    <message>
+        <source>Take Snapshot With Title</source>
+        <translation>Prendre un instantané avec titre</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+S</source>
+        <translation>Ctrl+Alt+Shift+S</translation>
+    </message>
+    <message>
+        <source>Project Statistics</source>
+        <translation>Statistiques du projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+9</source>
+        <translation>Ctrl+9</translation>
+    </message>
+    <message>
+        <source>Text Statistics</source>
+        <translation>Statistiques du texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+8</source>
+        <translation>Ctrl+8</translation>
+    </message>
+    <message>
+        <source>Project Targets</source>
+        <translation>Objectifs du projet</translation>
+    </message>
+    <message>
+        <source>Ctrl+7</source>
+        <translation>Ctrl+7</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Contour</translation>
+    </message>
+    <message>
+        <source>Strikethrough</source>
+        <translation>Barré</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+X</source>
+        <translation>Ctrl+Shift+X</translation>
+    </message>
+    <message>
+        <source>Small Caps</source>
+        <translation>Petites capitales</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+M</source>
+        <translation>Ctrl+G,Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Bigger Font</source>
+        <translation>Agrandir la police</translation>
+    </message>
+    <message>
+        <source>Ctrl+&gt;</source>
+        <translation>Ctrl+&gt;</translation>
+    </message>
+    <message>
+        <source>Smaller Font</source>
+        <translation>Réduire la police</translation>
+    </message>
+    <message>
+        <source>Ctrl+&lt;</source>
+        <translation>Ctrl+&lt;</translation>
+    </message>
+    <message>
+        <source>Superscript</source>
+        <translation>Exposant</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Up</source>
+        <translation>Ctrl+G,Up</translation>
+    </message>
+    <message>
+        <source>Subscript</source>
+        <translation>Indice</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Down</source>
+        <translation>Ctrl+G,Down</translation>
+    </message>
+    <message>
+        <source>Convert to Title Case</source>
+        <translation>Convertir en casse de titre</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+T</source>
+        <translation>Ctrl+G,Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Convert to Smart Quotes</source>
+        <translation>Convertir en guillemets typographiques</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+Q</source>
+        <translation>Ctrl+G,Ctrl+Shift+Q</translation>
+    </message>
+    <message>
+        <source>Convert to Straight Quotes</source>
+        <translation>Convertir en guillemets droits</translation>
+    </message>
+    <message>
+        <source>Convert Multiple Spaces to Single</source>
+        <translation>Convertir les espaces multiples en espaces simples</translation>
+    </message>
+    <message>
+        <source>Align Left</source>
+        <translation>Aligner à gauche</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Align Center</source>
+        <translation>Centrer</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Justifier</translation>
+    </message>
+    <message>
+        <source>Ctrl+J</source>
+        <translation>Ctrl+J</translation>
+    </message>
+    <message>
+        <source>Align Right</source>
+        <translation>Aligner à droite</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Increase Left Indent</source>
+        <translation>Augmenter le retrait à gauche</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Right</source>
+        <translation>Ctrl+G,Right</translation>
+    </message>
+    <message>
+        <source>Decrease Left Indent</source>
+        <translation>Diminuer le retrait à gauche</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Left</source>
+        <translation>Ctrl+G,Left</translation>
+    </message>
+    <message>
+        <source>Increase First-Line Indent</source>
+        <translation>Augmenter le retrait de première ligne</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Right</source>
+        <translation>Ctrl+G,Shift+Right</translation>
+    </message>
+    <message>
+        <source>Decrease First-Line Indent</source>
+        <translation>Diminuer le retrait de première ligne</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Shift+Left</source>
+        <translation>Ctrl+G,Shift+Left</translation>
+    </message>
+    <message>
+        <source>Single Line Spacing</source>
+        <translation>Interligne simple</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+1</source>
+        <translation>Ctrl+G,Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Double Line Spacing</source>
+        <translation>Interligne double</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+2</source>
+        <translation>Ctrl+G,Ctrl+2</translation>
+    </message>
+    <message>
+        <source>One and a Half Line Spacing</source>
+        <translation>Interligne 1,5</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+5</source>
+        <translation>Ctrl+G,Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>Compléter le mot</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Space</source>
+        <translation>Ctrl+Alt+Space</translation>
+    </message>
+    <message>
+        <source>Complete Document Title</source>
+        <translation>Compléter le titre du document</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Space</source>
+        <translation>Ctrl+G,Space</translation>
+    </message>
+    <message>
+        <source>Add Selection to Auto-Complete List</source>
+        <translation>Ajouter la sélection à la liste de saisie semi-automatique</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+A</source>
+        <translation>Ctrl+G,Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Show Invisible Characters</source>
+        <translation>Afficher les caractères invisibles</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+8</source>
+        <translation>Ctrl+Shift+8</translation>
+    </message>
+    <message>
+        <source>Ghost Notes</source>
+        <translation>Estomper les notes</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+H</source>
+        <translation>Ctrl+G,Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Split at Selection</source>
+        <translation>Diviser à la sélection</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Y</source>
+        <translation>Ctrl+Shift+Y</translation>
+    </message>
+    <message>
+        <source>Split With Selection as Title</source>
+        <translation>Diviser avec la sélection comme titre</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+Y</source>
+        <translation>Ctrl+Alt+Shift+Y</translation>
+    </message>
+    <message>
+        <source>Set Selection as Title</source>
+        <translation>Définir la sélection comme titre</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+T</source>
+        <translation>Ctrl+G,Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Insert Image</source>
+        <translation>Insérer une image</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+P</source>
+        <translation>Ctrl+G,Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Insert Morvane Link</source>
+        <translation>Insérer un lien Morvane</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+K</source>
+        <translation>Ctrl+Shift+K</translation>
+    </message>
+    <message>
+        <source>Insert Current Date and Time</source>
+        <translation>Insérer la date et l’heure actuelles</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+D</source>
+        <translation>Ctrl+G,Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>Inline Annotation</source>
+        <translation>Annotation dans le texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+M</source>
+        <translation>Ctrl+Alt+Shift+M</translation>
+    </message>
+    <message>
+        <source>Inline Footnote</source>
+        <translation>Note de bas de page dans le texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+O</source>
+        <translation>Ctrl+Alt+Shift+O</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commentaire</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+M</source>
+        <translation>Ctrl+Alt+M</translation>
+    </message>
+    <message>
+        <source>Footnote</source>
+        <translation>Note de bas de page</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+O</source>
+        <translation>Ctrl+Alt+O</translation>
+    </message>
+    <message>
+        <source>Script Mode</source>
+        <translation>Mode script</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+R</source>
+        <translation>Ctrl+G,Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Script Elements</source>
+        <translation>Éléments de script</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Gras</translation>
+    </message>
+    <message>
+        <source>Ctrl+B</source>
+        <translation>Ctrl+B</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Italique</translation>
+    </message>
+    <message>
+        <source>Ctrl+I</source>
+        <translation>Ctrl+I</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Souligné</translation>
+    </message>
+    <message>
+        <source>Ctrl+U</source>
+        <translation>Ctrl+U</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z</source>
+        <translation>Ctrl+Z</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Z</source>
+        <translation>Ctrl+Shift+Z</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Ctrl+X</source>
+        <translation>Ctrl+X</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Ctrl+V</source>
+        <translation>Ctrl+V</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
+    <message>
+        <source>Copy Font</source>
+        <translation>Copier la police</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+C</source>
+        <translation>Ctrl+G,Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Paste Font</source>
+        <translation>Coller la police</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+Shift+V</source>
+        <translation>Ctrl+G,Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Copy Ruler</source>
+        <translation>Copier la règle</translation>
+    </message>
+    <message>
+        <source>Paste Ruler</source>
+        <translation>Coller la règle</translation>
+    </message>
+    <message>
+        <source>Copy Formatting</source>
+        <translation>Copier la mise en forme</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+C</source>
+        <translation>Ctrl+Alt+Shift+C</translation>
+    </message>
+    <message>
+        <source>Paste Formatting</source>
+        <translation>Coller la mise en forme</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+Shift+V</source>
+        <translation>Ctrl+Alt+Shift+V</translation>
+    </message>
+    <message>
+        <source>Preserve Formatting</source>
+        <translation>Conserver la mise en forme</translation>
+    </message>
+    <message>
+        <source>Paste and Match Style</source>
+        <translation>Coller en adaptant le style</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Insert Non-Breaking Space</source>
+        <translation>Insérer une espace insécable</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+Space</source>
+        <translation>Ctrl+Shift+Space</translation>
+    </message>
+    <message>
+        <source>Insert Paragraph Break</source>
+        <translation>Insérer un saut de paragraphe</translation>
+    </message>
+    <message>
+        <source>Insert Line Break</source>
+        <translation>Insérer un saut de ligne</translation>
+    </message>
+    <message>
+        <source>Shift+Return</source>
+        <translation>Shift+Return</translation>
+    </message>
+    <message>
+        <source>Insert Page Break</source>
+        <translation>Insérer un saut de page</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Ctrl+Return</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>Surligner</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Text Color</source>
+        <translation>Couleur du texte</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+C</source>
+        <translation>Ctrl+G,Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Edit Link</source>
+        <translation>Modifier le lien</translation>
+    </message>
+    <message>
+        <source>Ctrl+K</source>
+        <translation>Ctrl+K</translation>
+    </message>
+    <message>
+        <source>Previous Document</source>
+        <translation>Document précédent</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
+    <message>
+        <source>Next Document</source>
+        <translation>Document suivant</translation>
+    </message>
+    <message>
+        <source>Alt+Down</source>
+        <translation>Alt+Down</translation>
+    </message>
+    <message>
+        <source>Enclosing Group</source>
+        <translation>Groupe parent</translation>
+    </message>
+    <message>
+        <source>Alt+Home</source>
+        <translation>Alt+Home</translation>
+    </message>
+    <message>
+        <source>Editor Selection</source>
+        <translation>Sélection dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+J</source>
+        <translation>Ctrl+G,Ctrl+J</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Aller à</translation>
+    </message>
+    <message>
+        <source>Ctrl+G,Ctrl+G</source>
+        <translation>Ctrl+G,Ctrl+G</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutCheck</name>
+    <message>
+        <source>%1 is the key of both “%2” and “%3”.</source>
+        <translation>%1 est le raccourci de «&#xa0;%2&#xa0;» et de «&#xa0;%3&#xa0;» à la fois.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” is never reached, as %3 is the key of “%4”.</source>
+        <translation>%1 de «&#xa0;%2&#xa0;» n’est jamais atteint, car %3 est le raccourci de «&#xa0;%4&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” is a key that desktops or input methods take.</source>
+        <translation>%1 de «&#xa0;%2&#xa0;» est un raccourci que prennent les environnements de bureau ou les méthodes de saisie.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2” begins with a key that is needed for writing.</source>
+        <translation>%1 de «&#xa0;%2&#xa0;» commence par une touche nécessaire pour écrire.</translation>
+    </message>
+    <message>
+        <source>The key of “%1” has no name, and is lost when it is stored.</source>
+        <translation>Le raccourci de «&#xa0;%1&#xa0;» n’a pas de nom et se perd à l’enregistrement.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutScheme</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Morvane</source>
+        <translation>Morvane</translation>
+    </message>
+    <message>
+        <source>Mac Morvane</source>
+        <translation>Mac Morvane</translation>
+    </message>
+    <message>
+        <source>Open Office</source>
+        <translation>Open Office</translation>
+    </message>
+    <message>
+        <source>Microsoft Word</source>
+        <translation>Microsoft Word</translation>
+    </message>
+    <message>
+        <source>it is no shortcut scheme of a known version</source>
+        <translation>ce n’est pas un jeu de raccourcis d’une version connue</translation>
+    </message>
+    <message>
+        <source>it is no shortcut scheme</source>
+        <translation>ce n’est pas un jeu de raccourcis</translation>
+    </message>
+    <message numerus="yes">
+        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <translation>
+            <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourci a pu être lu</numerusform>
+            <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourcis ont pu être lus</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextFormat</name>
+    <message>
+        <source>The picture has no file name.</source>
+        <translation>L’image n’a pas de nom de fichier.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be encoded for the file &quot;%1&quot;.</source>
+        <translation>Impossible d’encoder l’image pour le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextPresetScheme</name>
+    <message>
+        <source>The text presets are damaged, or were stored by another version</source>
+        <translation>Les préréglages de texte sont endommagés ou ont été enregistrés par une autre version</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextQuery</name>
+    <message>
+        <source>%1 (at character %2)</source>
+        <translation>%1 (au caractère %2)</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextXhtmlExporter</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>There is no document to export to %1.</source>
+        <translation>Il n’y a pas de document à exporter vers %1.</translation>
+    </message>
+    <message>
+        <source>There is no e-book page to export to %1.</source>
+        <translation>Il n’y a pas de page de livre numérique à exporter vers %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUnit</name>
+    <message>
+        <source> inch(es)</source>
+        <translation> pouce(s)</translation>
+    </message>
+    <message>
+        <source> dm</source>
+        <translation> dm</translation>
+    </message>
+    <message>
+        <source> cm</source>
+        <translation> cm</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> pi</source>
+        <translation> pi</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateDownloader</name>
+    <message>
+        <source>The address of the download is not valid.</source>
+        <translation>L’adresse du téléchargement n’est pas valide.</translation>
+    </message>
+    <message>
+        <source>The server sent the download on to an address that is not safe.</source>
+        <translation>Le serveur a redirigé le téléchargement vers une adresse qui n’est pas sûre.</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Recherche de mises à jour…</translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Rechercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>%1 is all up to date.</source>
+        <translation>%1 est à jour.</translation>
+    </message>
+    <message>
+        <source>The installer was changed after it had been downloaded, and will not be opened.</source>
+        <translation>Le programme d’installation a été modifié après son téléchargement et ne sera pas ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateManager</name>
+    <message>
+        <source>&amp;Check for Updates...</source>
+        <translation>&amp;Rechercher des mises à jour…</translation>
+    </message>
+    <message>
+        <source>Morvane Update</source>
+        <translation>Mise à jour de Morvane</translation>
+    </message>
+    <message>
+        <source>No active network connection found
+You need internet connection to check for updates</source>
+        <translation>Aucune connexion réseau active
+Une connexion Internet est nécessaire pour rechercher des mises à jour</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateModel</name>
+    <message>
+        <source>there is no valid key to check it with</source>
+        <translation>aucune clé valide ne permet de la vérifier</translation>
+    </message>
+    <message>
+        <source>the installer cannot be read</source>
+        <translation>impossible de lire le programme d’installation</translation>
+    </message>
+    <message>
+        <source>the signature cannot be read</source>
+        <translation>impossible de lire la signature</translation>
+    </message>
+    <message>
+        <source>it was made with another key</source>
+        <translation>elle a été créée avec une autre clé</translation>
+    </message>
+    <message>
+        <source>it is not this installer&apos;s</source>
+        <translation>elle n’est pas celle de ce programme d’installation</translation>
+    </message>
+    <message>
+        <source>its comment was altered</source>
+        <translation>son commentaire a été modifié</translation>
+    </message>
+    <message>
+        <source>it was made for another file</source>
+        <translation>elle a été créée pour un autre fichier</translation>
+    </message>
+    <message>
+        <source>Failed to open update.ini file to determine update URL location and version. Please contact %1 so we can fix this problem quickly.</source>
+        <translation>Impossible d’ouvrir le fichier update.ini, qui indique l’adresse et la version de la mise à jour. Veuillez contacter %1 afin que nous puissions corriger rapidement ce problème.</translation>
+    </message>
+    <message>
+        <source>The update XML file contained empty values. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Le fichier XML de mise à jour contenait des valeurs vides. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Le fichier XML de mise à jour désigne un programme d’installation dont le nom n’est pas un simple nom de fichier. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
+    </message>
+    <message>
+        <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
+        <translation>Impossible de comparer les numéros de version. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème</translation>
+    </message>
+    <message>
+        <source>Could not open the downloaded file to validate it: </source>
+        <translation>Impossible d’ouvrir le fichier téléchargé pour le vérifier&#xa0;: </translation>
+    </message>
+    <message>
+        <source>The download file could not be found on our server. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Le fichier à télécharger est introuvable sur notre serveur. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
+    </message>
+    <message>
+        <source>The downloaded xml update file is not integral. Please contact %1 for additional support if this does not work.</source>
+        <translation>Le fichier XML de mise à jour téléchargé n’est pas intègre. Veuillez contacter %1 pour obtenir de l’aide si le problème persiste.</translation>
+    </message>
+    <message>
+        <source>Failed to read the downloaded update.xml file. Please try running &apos;Check for Update...&apos; again. Please contact %1 for additional support if this does not work.</source>
+        <translation>Impossible de lire le fichier update.xml téléchargé. Veuillez relancer «&#xa0;Rechercher des mises à jour…&#xa0;». Si cela ne suffit pas, contactez %1 pour obtenir de l’aide.</translation>
+    </message>
+    <message>
+        <source>Morvane couldn&apos;t find the update on our server.
+This is probably an error on our part.
+Please report this to %1.</source>
+        <translation>Morvane n’a pas trouvé la mise à jour sur notre serveur.
+Il s’agit probablement d’une erreur de notre part.
+Veuillez la signaler à %1.</translation>
+    </message>
+    <message>
+        <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
+        <translation>Le programme d’installation ne porte pas de signature valide (%1) et ne sera pas ouvert. Veuillez le signaler à %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MTranslator</name>
+    <message>
+        <source>A language can only be chosen while there is an application</source>
+        <translation>Une langue ne peut être choisie que lorsqu’une application est en cours</translation>
+    </message>
+    <message>
+        <source>There is no translation into the language &quot;%1&quot;</source>
+        <translation>Il n’existe pas de traduction dans la langue «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>The translation &quot;%1&quot; cannot be read</source>
+        <translation>Impossible de lire la traduction «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>MVersion</name>
+    <message>
+        <source>beta</source>
+        <translation>bêta</translation>
+    </message>
+    <message>
+        <source>Version: </source>
+        <translation>Version&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Application: </source>
+        <translation>Application&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Build: </source>
+        <translation>Build&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Executable: </source>
+        <translation>Exécutable&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Compiler: </source>
+        <translation>Compilateur&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Qt-Compiled: </source>
+        <translation>Qt à la compilation&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Qt-Runtime: </source>
+        <translation>Qt à l’exécution&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Created: </source>
+        <translation>Créé le&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Warning! Different Qt versions: compiled </source>
+        <translation>Attention&#xa0;! Versions de Qt différentes. Compilation&#xa0;: </translation>
+    </message>
+    <message>
+        <source> runtime: </source>
+        <translation> Exécution&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>OpenDocument Text</source>
+        <translation>Texte OpenDocument</translation>
+    </message>
+    <message>
+        <source>OpenDocument Text Template</source>
+        <translation>Modèle de texte OpenDocument</translation>
+    </message>
+    <message>
+        <source>Rich Text Format</source>
+        <translation>Format RTF</translation>
+    </message>
+    <message>
+        <source>Microsoft Word</source>
+        <translation>Microsoft Word</translation>
+    </message>
+    <message>
+        <source>Office Open XML Document</source>
+        <translation>Document Office Open XML</translation>
+    </message>
+    <message>
+        <source>Microsoft Document Template</source>
+        <translation>Modèle de document Microsoft</translation>
+    </message>
+    <message>
+        <source>Adobe Portable Document Format</source>
+        <translation>Adobe Portable Document Format</translation>
+    </message>
+    <message>
+        <source>Adobe PostScript</source>
+        <translation>Adobe PostScript</translation>
+    </message>
+    <message>
+        <source>Adobe Encapsulated PostScript</source>
+        <translation>PostScript encapsulé d’Adobe</translation>
+    </message>
+    <message>
+        <source>Windows Media</source>
+        <translation>Windows Media</translation>
+    </message>
+    <message>
+        <source>Microsoft Enhanced Metafile</source>
+        <translation>Métafichier amélioré Microsoft</translation>
+    </message>
+    <message>
+        <source>Scalable Vector Graphics</source>
+        <translation>Graphique vectoriel SVG</translation>
+    </message>
+    <message>
+        <source>Adobe Flash File Format</source>
+        <translation>Format de fichier Adobe Flash</translation>
+    </message>
+    <message>
+        <source>HP-GL plotter language</source>
+        <translation>Langage de traceur HP-GL</translation>
+    </message>
+    <message>
+        <source>Printer Command Language Format</source>
+        <translation>Format Printer Command Language</translation>
+    </message>
+    <message>
+        <source>Hypertext Mark-up Language</source>
+        <translation>Hypertext Markup Language</translation>
+    </message>
+    <message>
+        <source>eXtensible HyperText Markup Language</source>
+        <translation>eXtensible HyperText Markup Language</translation>
+    </message>
+    <message>
+        <source>Plain Text Format</source>
+        <translation>Format texte brut</translation>
+    </message>
+    <message>
+        <source>eXtensible Markup Language</source>
+        <translation>eXtensible Markup Language</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Experts Group</source>
+        <translation>Joint Photographic Experts Group</translation>
+    </message>
+    <message>
+        <source>Joint Photographic Group</source>
+        <translation>Joint Photographic Group</translation>
+    </message>
+    <message>
+        <source>Tagged Image File Format</source>
+        <translation>Tagged Image File Format</translation>
+    </message>
+    <message>
+        <source>Windows Bitmap Image</source>
+        <translation>Image bitmap Windows</translation>
+    </message>
+    <message>
+        <source>Graphical Interchange Format</source>
+        <translation>Graphics Interchange Format</translation>
+    </message>
+    <message>
+        <source>Portable Network Graphics</source>
+        <translation>Portable Network Graphics</translation>
+    </message>
+    <message>
+        <source>Truevision Targa Image</source>
+        <translation>Image Truevision Targa</translation>
+    </message>
+    <message>
+        <source>ZSoft IBM PC Paintbrush file</source>
+        <translation>Fichier ZSoft IBM PC Paintbrush</translation>
+    </message>
+    <message>
+        <source>ePub Book</source>
+        <translation>Livre ePub</translation>
+    </message>
+    <message>
+        <source>Amazon Kindle(Mobi) Book</source>
+        <translation>Livre Amazon Kindle (Mobi)</translation>
+    </message>
+    <message>
+        <source>Final Draft</source>
+        <translation>Final Draft</translation>
+    </message>
+    <message>
+        <source>OPML Format</source>
+        <translation>Format OPML</translation>
+    </message>
+    <message>
+        <source>Mind Mapping Format</source>
+        <translation>Format de carte mentale</translation>
+    </message>
+    <message>
+        <source>Multimarkdown Format</source>
+        <translation>Format MultiMarkdown</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to HTML</source>
+        <translation>MultiMarkdown vers HTML</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to LaTeX</source>
+        <translation>MultiMarkdown vers LaTeX</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to OPML</source>
+        <translation>MultiMarkdown vers OPML</translation>
+    </message>
+    <message>
+        <source>Multimarkdown to FODT</source>
+        <translation>MultiMarkdown vers FODT</translation>
+    </message>
+    <message>
+        <source>Doc2Any</source>
+        <translation>Doc2Any</translation>
+    </message>
+    <message>
+        <source>Morvane</source>
+        <translation>Morvane</translation>
+    </message>
+    <message>
+        <source>RTF-Based</source>
+        <translation>Basé sur RTF</translation>
+    </message>
+    <message>
+        <source>PDF Document via WebKit</source>
+        <translation>Document PDF via WebKit</translation>
+    </message>
+    <message>
+        <source>PDF Document via Microsoft Office</source>
+        <translation>Document PDF via Microsoft Office</translation>
+    </message>
+    <message>
+        <source>PDF Document via Internet Explorer</source>
+        <translation>Document PDF via Internet Explorer</translation>
+    </message>
+    <message>
+        <source>Plain Text</source>
+        <translation>Texte brut</translation>
+    </message>
+    <message>
+        <source>Webpage Complete (MHT)</source>
+        <translation>Page web complète (MHT)</translation>
+    </message>
+    <message>
+        <source>Titles Only</source>
+        <translation>Titres uniquement</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>Main Text(with Synopsis)</source>
+        <translation>Texte principal (avec synopsis)</translation>
+    </message>
+    <message>
+        <source>Notes (with Synopsis)</source>
+        <translation>Notes (avec synopsis)</translation>
+    </message>
+    <message>
+        <source>File Download</source>
+        <translation>Téléchargement de fichier</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Redirect to %1 ?</source>
+        <translation>Rediriger vers %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>One or more SSL errors has occurred: %1</source>
+        <translation>Une ou plusieurs erreurs SSL se sont produites&#xa0;: %1</translation>
+    </message>
+</context>
+</TS>

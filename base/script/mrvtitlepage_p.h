@@ -1,0 +1,31 @@
+#pragma once
+
+#include "script/mrvfountain.h"
+
+#include <QString>
+#include <QVector>
+#include <Qt>
+
+// How a printed title page shows what an entry is: by its place, or else by its key in front of it.
+
+/** The first entry with a key, in any case; -1 where there is none. */
+int mrvIndexOfTitle(const QVector<MRVFountainTitle> &titles, const QString &key);
+
+/** Where entries with this key stand: in the middle of the page, at its right or at its left. */
+Qt::AlignmentFlag mrvTitleAlignment(const QString &key);
+
+/** Whether an entry is shown as "Key: value", since its place does not tell what it is. */
+bool mrvIsTitleKeyShown(const QString &key);
+
+/** What to put in front of an entry's value on the page: "Copyright: ", or nothing. */
+QString mrvTitleLabel(const QString &key);
+
+/**
+ * The length of the key that a line of a title page begins with, without ": "; 0 where there is none. In the
+ * middle only the keys count that belong there: "Space: A Story" is a title.
+ */
+int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line);
+
+/** What a line without a key is, going by its place, its words, and what is there already. */
+QString mrvGuessedTitleKey(Qt::AlignmentFlag alignment, const QString &line,
+                           const QVector<MRVFountainTitle> &before);

@@ -1,0 +1,379 @@
+#include "autoreplace/mrvautoreplacelist.h"
+#include "core/mrvcoreutil.h"
+#include "core/mrvfilewriter.h"
+#include "core/mtranslator.h"
+#include "datarows.h"
+#include "dom/mrvdomdoc.h"
+#include "export/mrvepubbook_p.h"
+#include "export/mrvepubpackage.h"
+#include "gui/mrvguiutil.h"
+#include "importexport/mrvenginechoice.h"
+#include "importexport/mrvimportexport.h"
+#include "script/mrvfinaldraft.h"
+#include "script/mrvfountainhtml.h"
+#include "script/mrvscriptmode.h"
+#include "search/mrvtextreplacer.h"
+#include "settings/mrvoptions.h"
+#include "settings/mrvsettings.h"
+#include "settings/mrvshortcut.h"
+#include "settings/mrvshortcutcheck.h"
+#include "settings/mrvshortcutscheme.h"
+#include "settings/mrvtextpresetscheme.h"
+#include "text/mrvtextformat.h"
+#include "util/mrvenums.h"
+#include "util/mrvunit.h"
+#include "web/mrvcheckforupdatesdialog.h"
+#include "web/mrvdownloadurl.h"
+#include "web/mrvdownloaduserinput.h"
+#include "web/mrvupdatedownloader.h"
+#include "web/mrvupdatemanager.h"
+#include "web/mrvupdatemodel.h"
+#include "web/mversion.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+Q_DECLARE_METATYPE(std::function<QString()>)
+
+namespace {
+
+const QString Folder = QStringLiteral(MRV_SOURCE_DIR "/base/resources/translations/");
+
+struct Message
+{
+    QString context;
+    QString source;
+    QStringList translations; // one, or one a plural form
+    bool isFinished = true;
+};
+
+QVector<Message> messagesOf(const QString &language)
+{
+    QFile file(Folder + "mrvbase_" + language + ".ts");
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(file.fileName()));
+    QVector<Message> messages;
+    QString context;
+    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == "name")
+            context = xml.readElementText();
+        else if (xml.name() == "message")
+            messages.append({context, {}, {}});
+        else if (xml.name() == "source")
+            messages.last().source = xml.readElementText();
+        else if (xml.name() == "numerusform")
+            messages.last().translations << xml.readElementText();
+        else if (xml.name() == "translation") {
+            messages.last().isFinished = !xml.attributes().hasAttribute("type");
+            if (!messages.last().source.contains("%n"))
+                messages.last().translations << xml.readElementText();
+        }
+    }
+    return messages;
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+/// What a translation must have in common with its source, in one text.
+QString frameOf(const QString &text)
+{
+    QStringList parts;
+    const QRegularExpression expression(R"(%(?:\d|n)|&(?=\w))");
+    for (auto it = expression.globalMatch(text); it.hasNext();)
+        parts << it.next().captured();
+    const auto blanks = [](const QString &side) { return side.size() - side.trimmed().size(); };
+    return QStringLiteral("%1; %2 lines; blanks: %3, %4")
+        .arg(sorted(parts).join(' '))
+        .arg(text.count('\n'))
+        .arg(blanks(text + '.'))
+        .arg(blanks('.' + text));
+}
+
+using Translate = QString (*)(const char *, const char *, int);
+
+/// The functions that the library's code calls for its texts. What it translates in a context that it
+/// names itself has a row in texts_data() besides.
+const QMap<QString, Translate> &functions()
+{
+    static const QMap<QString, Translate> map{
+        {"MRVAutoReplaceList", &MRVAutoReplaceList::tr},
+        {"MRVCheckForUpdatesDialog", &MRVCheckForUpdatesDialog::tr},
+        {"MRVCoreUtil", &MRVCoreUtil::tr},
+        {"MRVDomDoc", &MRVDomDoc::tr},
+        {"MRVDownloadUrl", &MRVDownloadUrl::tr},
+        {"MRVEPubBook", &MRVEPubBook::tr},
+        {"MRVEPubPackage", &MRVEPubPackage::tr},
+        {"MRVEngineChoice", &MRVEngineChoice::tr},
+        {"MRVFileWriter", &MRVFileWriter::tr},
+        {"MRVFinalDraft", &MRVFinalDraft::tr},
+        {"MRVFountainHtml", &MRVFountainHtml::tr},
+        {"MRVGuiUtil", &MRVGuiUtil::tr},
+        {"MRVOptions", &MRVOptions::tr},
+        {"MRVScriptMode", &MRVScriptMode::tr},
+        {"MRVSettings", &MRVSettings::tr},
+        {"MRVShortcut", &MRVShortcut::tr},
+        {"MRVShortcutCheck", &MRVShortcutCheck::tr},
+        {"MRVShortcutScheme", &MRVShortcutScheme::tr},
+        {"MRVTextFormat", &MRVTextFormat::tr},
+        {"MRVTextPresetScheme", &MRVTextPresetScheme::tr},
+        {"MRVTextXhtmlExporter", &MRVTextXhtmlExporter::tr},
+        {"MRVUnit", &MRVUnit::tr},
+        {"MRVUpdateDownloader", &MRVUpdateDownloader::tr},
+        {"MRVUpdateManager", &MRVUpdateManager::tr},
+        {"MRVUpdateModel", &MRVUpdateModel::tr},
+        {"MTranslator", &MTranslator::tr},
+        {"MVersion", &MVersion::tr},
+        {"QObject", &QObject::tr},
+    };
+    return map;
+}
+
+} // namespace
+
+/// The languages that come with the library. They are read as they lie in the sources, and as a program
+/// finds them in its resources.
+class tst_Translations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        qunsetenv("MORVANE_TRANSLATIONS");
+        QVERIFY(MTranslator::install("en"));
+    }
+    void shipped();
+    void sourcesAndTranslationsAgree_data() { addLanguages({"de", "en", "es", "fr"}); }
+    void sourcesAndTranslationsAgree();
+    void complete_data() { addLanguages({"de", "es", "fr"}); }
+    void complete();
+    void eachTextComesOut_data() { addLanguages({"de", "es", "fr"}); }
+    void eachTextComesOut();
+    void keysWork_data() { addLanguages({"de", "es", "fr"}); }
+    void keysWork();
+    void texts_data();
+    void texts();
+    void plurals_data() { addRows("plurals.tsv", {"language", "count", "text"}); }
+    void plurals();
+    void install_data() { addRows("installedlanguages.tsv", {"code", "before", "shown", "error"}); }
+    void install();
+    void ownFolder();
+
+private:
+    static void addLanguages(const QStringList &languages)
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString &language : languages)
+            QTest::newRow(qPrintable(language)) << language;
+    }
+};
+
+void tst_Translations::shipped()
+{
+    QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "es", "fr"}));
+}
+
+/// A text that was added, changed or removed shows as a difference; so does one that lupdate loses, of
+/// which it only warns.
+void tst_Translations::sourcesAndTranslationsAgree()
+{
+    QFETCH(QString, language);
+    QTemporaryDir folder;
+    const QString name = "mrvbase_" + language + ".ts";
+    QVERIFY(QFile::copy(Folder + name, folder.filePath(name)));
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(MRV_SOURCE_DIR);
+    QStringList arguments = QString(MRV_LUPDATE_OPTIONS).split(' ');
+    if (language == "en")
+        arguments << "-pluralonly";
+    arguments << "-target-language" << language << "base"
+              << "platform"
+              << "plugins"
+              << "-ts" << folder.filePath(name);
+    lupdate.start(MRV_LUPDATE, arguments);
+    QVERIFY2(lupdate.waitForFinished(-1), qPrintable(lupdate.errorString()));
+    QCOMPARE(lupdate.exitCode(), 0);
+    QCOMPARE(QString::fromLocal8Bit(lupdate.readAllStandardError()), QString());
+    QString error;
+    const QByteArray now = MRVCoreUtil::ReadBinaryFile(folder.filePath(name), &error);
+    const bool same = error.isEmpty() && now == MRVCoreUtil::ReadBinaryFile(Folder + name, &error);
+    QVERIFY2(same, "run the target update-translations, then translate what is unfinished");
+}
+
+void tst_Translations::complete()
+{
+    QFETCH(QString, language);
+    const QRegularExpression foreign(language == "fr" ? R"( [:;!?»]|« |"|'|^[:;!?])" : R"("|')");
+    QMap<QString, QString> sources;
+    const QVector<Message> messages = messagesOf(language);
+    QVERIFY(messages.size() > 600);
+    for (const Message &message : messages) {
+        const QByteArray where = (message.context + ": " + message.source).toUtf8();
+        QVERIFY2(message.isFinished, where);
+        QCOMPARE(message.translations.size(), message.source.contains("%n") ? 2 : 1);
+        for (const QString &text : message.translations) {
+            QCOMPARE(frameOf(text), frameOf(message.source));
+            QVERIFY2(!text.trimmed().isEmpty() && !text.contains(foreign), where);
+        }
+        // Two commands, colours or formats must not look the same.
+        QString &twin = sources[message.context + '\n' + message.translations.constFirst()];
+        QVERIFY2(twin.isEmpty(), where);
+        twin = message.source;
+    }
+}
+
+void tst_Translations::eachTextComesOut()
+{
+    QFETCH(QString, language);
+    QVERIFY(MTranslator::install(language));
+    const QSet<QString> named{"MRVDownloadAuthorize", "MRVScriptXml", "MRVTextQuery"};
+    for (const Message &message : messagesOf(language)) {
+        const Translate translate = functions().value(message.context);
+        QVERIFY2(translate || named.contains(message.context), qPrintable(message.context));
+        if (translate) {
+            QString expected = message.translations.constLast();
+            const int count = expected.contains("%n") ? 5 : -1;
+            QCOMPARE(translate(message.source.toUtf8(), nullptr, count),
+                     expected.replace("%n", "5"));
+        }
+    }
+}
+
+/// A language may have keys of its own. They are read by their English names, since Qt's own translation
+/// need not be there, and must not get in each other's way.
+void tst_Translations::keysWork()
+{
+    QFETCH(QString, language);
+    MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
+    QVERIFY(MTranslator::install(language));
+    for (const MRVShortcutInfo &info : scheme.shortcuts()) {
+        const QString english = info.sequence.toString().remove(' ');
+        const QString own = english.isEmpty() ? english : MRVShortcut::tr(qPrintable(english));
+        const QKeySequence keys(own, QKeySequence::PortableText);
+        QCOMPARE(keys.toString().remove(' '), own);
+        QVERIFY(scheme.setShortcut(info.id, keys));
+    }
+    QVERIFY(MRVShortcutCheck::conflicts(scheme).isEmpty());
+}
+
+/// Texts as the user gets them, of tables and of contexts that are named in the code.
+void tst_Translations::texts_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<std::function<QString()>>("made");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *name, const QString &expected, std::function<QString()> made) {
+        QTest::newRow(name) << "de" << made << expected;
+    };
+    row("OPML", "Nur Titel", [] { return MRV::opmlImportTypesDescr().value(MRV::OpmlTitlesOnly); });
+    row("web pages", "Reiner Text", [] {
+        return MRVImportExport::urlImportTypesDescr().value(MRVImportExport::ImportAsPlainText);
+    });
+    row("unit", " Zoll", [] { return MRVUnit::suffix(MRVUnit::Inch); });
+    row("engine", "das ist die Vorgabe, da nichts gespeichert ist", [] {
+        MRVEngineChoice choice;
+        choice.reason = MRVEngineChoice::Default;
+        return choice.reasonText();
+    });
+    row("command", "Datei", [] { return MRVShortcut::group(MRVShortcut::NewProject); });
+    row("expression", "(bei Zeichen 2)", [] {
+        QString error;
+        MRVTextQuery query;
+        query.text = "(";
+        query.syntax = MRVTextQuery::RegularExpression;
+        query.isValid(&error);
+        return error.mid(error.lastIndexOf('('));
+    });
+    row("XML", "Zeile 1: ", [] {
+        QString error;
+        MRVFinalDraft::fromXml("<", nullptr, &error);
+        return error.left(9);
+    });
+    row("form", "Nach Updates suchen",
+        [] { return MRVCheckForUpdatesDialog(QString()).windowTitle(); });
+    const QString address = "http://b/" + QString("c/").repeated(80);
+    row("password", "HTTP-Anmeldung erforderlich, a bei " + address, [address] {
+        QString shown;
+        QTimer::singleShot(0, qApp, [&shown] {
+            QWidget *const dialog = QApplication::activeModalWidget();
+            shown = dialog->windowTitle();
+            for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+                if (label->objectName() == "siteDescription")
+                    shown += ", " + label->text();
+                if (label->height() < label->heightForWidth(label->width()))
+                    shown += ", cut off: " + label->text();
+            }
+            dialog->close();
+        });
+        MRVDownloadUserInput().authenticate("a", QUrl(address), nullptr, nullptr);
+        return shown;
+    });
+}
+
+void tst_Translations::texts()
+{
+    QFETCH(QString, language);
+    QFETCH(std::function<QString()>, made);
+    QFETCH(QString, expected);
+    QVERIFY(made() != expected);
+    QVERIFY(MTranslator::install(language));
+    QCOMPARE(made(), expected);
+}
+
+void tst_Translations::plurals()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, count);
+    QFETCH(QString, text);
+    QVERIFY(MTranslator::install(language));
+    const char *source = "it is damaged or cut short; shortcuts that could be read: %n";
+    QCOMPARE(MRVShortcutScheme::tr(source, nullptr, count.toInt()).section(';', 1).trimmed(), text);
+}
+
+void tst_Translations::install()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, before);
+    QFETCH(QString, shown);
+    QFETCH(QString, error);
+    QTranslator foreign(qApp);
+    QVERIFY(MTranslator::install(before));
+    const int count = qApp->findChildren<QTranslator *>().size();
+    QString got = "untouched";
+    QCOMPARE(MTranslator::install(code, &got), error.isEmpty());
+    QCOMPARE(got, error.isEmpty() ? "untouched" : error);
+    QCOMPARE(MRVShortcut::tr("File"), shown);
+    QVERIFY(MTranslator::install(before));
+    QCOMPARE(qApp->findChildren<QTranslator *>().size(), count);
+}
+
+/// A translation can be tried out in a folder; a damaged one changes nothing.
+void tst_Translations::ownFolder()
+{
+    QTemporaryDir folder;
+    qputenv("MORVANE_TRANSLATIONS", folder.path().toUtf8());
+    QVERIFY(QFile::copy(":/Other/Translations/mrvbase_es.qm", folder.filePath("mrvbase_de.qm")));
+    QVERIFY(QFile::copy(":/Other/Translations/mrvbase_fr.qm", folder.filePath("mrvbase_de_CH.qm")));
+    QVERIFY(MTranslator::install("de"));
+    QCOMPARE(MRVShortcut::tr("File"), QString("Archivo"));
+    QVERIFY(MTranslator::install("de-CH"));
+    QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
+    QVERIFY(MRVFileWriter::write(folder.filePath("mrvbase_it.qm"), "damaged"));
+    QString error;
+    QVERIFY(!MTranslator::install("it", &error));
+    QVERIFY2(error.contains("mrvbase_it.qm"), qPrintable(error));
+    QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
+}
+
+QTEST_MAIN(tst_Translations)
+#include "tst_translations.moc"
