@@ -33,6 +33,7 @@ struct Handler : MRVDownloadUserInputAbstract
     bool authenticate(const QString &realm, const QUrl &, QString *user, QString *password) override
     {
         asked("password");
+        given = *user + ':' + *password;
         const QStringList pair = words.constLast().split(':');
         *user = pair.at(0);
         *password = pair.value(1);
@@ -51,6 +52,7 @@ struct Handler : MRVDownloadUserInputAbstract
     QStringList words;
     int redirects;
     int sslErrors;
+    QString given; // the last name and password that stood there when asked
     std::function<void(const QString &)> asked = [](const QString &) {};
 };
 
@@ -181,6 +183,8 @@ private Q_SLOTS:
     void fileForUrl();
     void convert_data();
     void convert();
+    void nameInUrl();
+    void notStarted();
     void unwritable();
     void silentInput();
     void dialogs_data();
@@ -267,6 +271,11 @@ void tst_Download::ends()
                 if (input.ignoreSslErrors({errors.constFirst().errorString()}))
                     reply->ignoreSslErrors();
             });
+    QByteArray before;
+    download.hook = [&](const QString &now) {
+        if (now == "data")
+            before = bytesOf(file);
+    };
     QVERIFY(download.url->downloadToFile(url, file));
     QCOMPARE(download.finals, 0);
     QTRY_COMPARE_WITH_TIMEOUT(download.finals, 1, 20000);
@@ -274,6 +283,7 @@ void tst_Download::ends()
 
     QCOMPARE(download.finals, 1);
     QCOMPARE(download.deliveries, int(error.isEmpty()));
+    QCOMPARE(before, error.isEmpty() ? QByteArray("old") : QByteArray());
     QCOMPARE(download.error.isEmpty(), error.isEmpty());
     QVERIFY2(fits(download.error, error), qPrintable(download.error));
     if (data.startsWith('*')) {
@@ -302,7 +312,9 @@ void tst_Download::interrupted_data()
         for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"})
             QTest::addRow("%s, %s", stage, action) << stage << action;
     }
-    for (const char *stage : {"password", "redirect"})
+    for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"})
+        QTest::addRow("certificate, %s", action) << "certificate" << action;
+    for (const char *stage : {"password", "redirect", "certificate"})
         QTest::addRow("%s, thought over", stage) << stage << "think";
 }
 
@@ -311,6 +323,8 @@ void tst_Download::interrupted()
 {
     QFETCH(QString, stage);
     QFETCH(QString, action);
+    if (stage == "certificate" && !m_nginx)
+        QSKIP("nginx is not installed");
     const QByteArray redirect =
         "HTTP/1.1 302 Found\r\nLocation: /next\r\nContent-Length: 0\r\n\r\n";
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
@@ -349,10 +363,17 @@ void tst_Download::interrupted()
         dialog.exec();
     };
     download.hook = input.asked = interrupt;
+    connect(download.url->networkAccessManager(), &QNetworkAccessManager::sslErrors, this,
+            [&](QNetworkReply *reply) {
+                interrupt("certificate");
+                reply->ignoreSslErrors();
+            });
     if (action == "think")
         download.url->setTransferTimeout(1000);
     QTemporaryDir folder;
-    const QUrl first = stage == "refused" ? QUrl("file:///etc/hostname") : url;
+    const QUrl first = stage == "refused" ? QUrl("file:///etc/hostname")
+        : stage == "certificate"          ? m_nginx->secure("/hello")
+                                          : url;
     QVERIFY(download.url->downloadToFile(first, folder.filePath("got")));
     interrupt(stage == "refused" ? "refused" : "start");
     const bool isOver = stage == "final" || stage == "failed";
@@ -369,7 +390,7 @@ void tst_Download::interrupted()
     QTRY_COMPARE(download.finals, hasTwo ? 2 : 1);
     QTest::qWait(20);
     QCOMPARE(download.finals, hasTwo ? 2 : 1);
-    if (action == "replace" || (action == "think" && stage == "redirect"))
+    if (action == "replace" || (action == "think" && stage != "password"))
         QCOMPARE(download.data, QByteArray("hello"));
     if (action == "cancel" && !isOver && stage != "data")
         QCOMPARE(download.error, QString("Operation canceled"));
@@ -490,13 +511,41 @@ void tst_Download::convert()
     QVERIFY(MRVDownloadUrl::convert(data, from, to) == result);
 }
 
+void tst_Download::nameInUrl()
+{
+    QUrl url = m_own.answer("/locked",
+                            "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
+                            "WWW-Authenticate: Basic realm=\"Drafts\"\r\n\r\n");
+    url.setUserInfo("bob:word");
+    Handler input("stop");
+    Download download(&input);
+    QVERIFY(download.url->download(url));
+    QTRY_COMPARE(download.error, QString("Download Aborted"));
+    QCOMPARE(input.given, QString("bob:word"));
+}
+
+// A URL that is not valid ends the running request without a word; a file without a name leaves it alone.
+void tst_Download::notStarted()
+{
+    const QUrl url = m_own.answer("/hello", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
+    Download download;
+    QVERIFY(download.url->download(url));
+    QVERIFY(!download.url->download(QUrl()));
+    QTest::qWait(50);
+    QCOMPARE(download.finals + download.deliveries, 0);
+    QVERIFY(download.url->download(url));
+    QVERIFY(!download.url->downloadToFile(url, QString()));
+    QTRY_COMPARE(download.data, QByteArray("hello"));
+    download.url->setMaximumSize(MRVDownloadUrl::LargestSize + 1);
+    QCOMPARE(download.url->maximumSize(), MRVDownloadUrl::LargestSize);
+}
+
 // The bytes are delivered all the same, and a later download writes the same file again.
 void tst_Download::unwritable()
 {
     QTemporaryDir folder;
     const QUrl url = m_own.answer("/hello", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
     Download download;
-    QVERIFY(!download.url->downloadToFile(url, QString()));
     download.url->setDownloadFolder(folder.filePath("in"));
     QVERIFY(QDir(folder.path()).mkpath("in/hello.html"));
     QVERIFY(download.url->downloadToFile(url));

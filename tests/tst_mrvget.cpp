@@ -4,6 +4,8 @@
 
 #include <QTemporaryDir>
 
+#include <csignal>
+
 /** The command that downloads, run as a stranger would. */
 class tst_MrvGet : public QObject
 {
@@ -11,6 +13,11 @@ class tst_MrvGet : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase()
+    {
+        m_tls.kill();
+        m_tls.waitForFinished();
+    }
     void get_data()
     {
         addRows("mrv-get.tsv",
@@ -23,15 +30,38 @@ private Q_SLOTS:
 private:
     RawServer m_server;
     RawServer m_other;
+    QTemporaryDir m_folder;
+    QProcess m_tls; // with a certificate that nobody vouches for
+    QString m_tlsHost;
 };
 
 void tst_MrvGet::initTestCase()
 {
+    m_tls.setWorkingDirectory(m_folder.path());
+    QTcpServer free;
+    free.listen(QHostAddress::LocalHost);
+    const QString host = QString("127.0.0.1:%1").arg(free.serverPort());
+    free.close();
+    m_tlsHost = "https://" + host;
+    const QString pem = m_folder.filePath("pem");
+    QCOMPARE(run("openssl",
+                 {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=other", "-keyout",
+                  pem, "-out", pem + ".cert"})
+                 .exitCode,
+             0);
+    QVERIFY(
+        writeBytes(m_folder.filePath("page"), "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello"));
+    m_tls.start("openssl",
+                {"s_server", "-HTTP", "-accept", host, "-key", pem, "-cert", pem + ".cert"});
+    QString shown;
+    QTRY_VERIFY((shown += m_tls.readAll()).contains("ACCEPT"));
+
     const QByteArray ok = "HTTP/1.1 200 OK\r\n";
     const QByteArray found = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: ";
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
                               "WWW-Authenticate: Basic realm=\"Drafts\"\r\n\r\n";
     m_server.answer("/page", ok + "\r\nhello");
+    m_server.answer("/taken", ok + "\r\nhello");
     m_server.answer("/a%1Bb%0Ac", ok + "\r\nhello");
     m_server.answer("/raw", ok + "\r\n\xf0");
     m_server.answer("/latin", ok + "Content-Type: text/plain; charset=\"latin1\"\r\n\r\n\xe9");
@@ -51,7 +81,9 @@ void tst_MrvGet::get()
     QFETCH(QString, file);
     QTemporaryDir folder;
     const QString host = m_server.url(QString()).toString();
-    arguments.replace('@', host).replace('#', folder.path() + '/');
+    if (file.contains("taken"))
+        QVERIFY(writeBytes(folder.filePath("taken.html"), "old"));
+    arguments.replace('@', host).replace('$', m_tlsHost).replace('#', folder.path() + '/');
     QProcess tool;
     tool.setWorkingDirectory(folder.path());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -67,14 +99,15 @@ void tst_MrvGet::get()
         return QString::fromUtf8(bytes)
             .trimmed()
             .replace(folder.path() + '/', "#")
-            .replace(host, "@");
+            .replace(host, "@")
+            .replace(m_tlsHost, "$");
     };
     QTEST(said(tool.readAllStandardError()).remove("mrv: "), "error");
     QTEST(said(tool.readAllStandardOutput()), "output");
     QTEST(QString::number(tool.exitCode()), "code");
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
-             file.isEmpty() ? QStringList() : QStringList(file));
-    QTEST(QString::fromLatin1(bytesOf(folder.filePath(file))), "bytes");
+             file.isEmpty() ? QStringList() : file.split('|'));
+    QTEST(QString::fromLatin1(bytesOf(folder.filePath(file.section('|', 0, 0)))), "bytes");
     const QByteArray password = "Basic " + QByteArray("ann:pass").toBase64();
     const QByteArray requests = m_server.requests().join();
     if (arguments.contains("locked --user"))
@@ -105,6 +138,8 @@ void tst_MrvGet::terminal()
     QFETCH(QString, path);
     QFETCH(QStringList, talk);
     m_server.answer("/bar", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
+    // Is ignored in what a script has put into the background.
+    std::signal(SIGINT, SIG_DFL);
     QTemporaryDir folder;
     QProcess screen;
     screen.setWorkingDirectory(folder.path());
@@ -115,7 +150,8 @@ void tst_MrvGet::terminal()
          "/dev/null"});
     QString shown;
     for (int i = 0, at = 0; i < talk.size(); i += 2) {
-        QTRY_VERIFY2((shown += screen.readAll()).indexOf(talk[i], at) >= 0, qPrintable(shown));
+        QTRY_VERIFY2_WITH_TIMEOUT((shown += screen.readAll()).indexOf(talk[i], at) >= 0,
+                                  qPrintable(shown), 20000);
         at = shown.indexOf(talk[i], at) + talk[i].size();
         screen.write(talk.value(i + 1).toUtf8());
     }

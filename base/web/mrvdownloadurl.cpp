@@ -70,11 +70,17 @@ QString errorText(const QNetworkReply *reply)
 MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
     : QObject(parent)
     , m_manager(new QNetworkAccessManager(this))
+    , m_asking(std::make_shared<QVector<QNetworkReply *>>())
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &MRVDownloadUrl::onTimeout);
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &MRVDownloadUrl::onAuthenticationRequired);
+    // Before whatever the host has connected, to answer them.
+    connect(m_manager, &QNetworkAccessManager::sslErrors, this, [this](QNetworkReply *reply) {
+        if (reply == m_reply)
+            beginQuestion();
+    });
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
     // Qt only says so where the application itself has switched the network off.
@@ -89,8 +95,8 @@ MRVDownloadUrl::~MRVDownloadUrl()
     // A receiver may delete this object while the manager or one of its replies is on the stack.
     m_manager->disconnect(this);
     m_manager->setParent(nullptr);
-    if (!m_asking.isEmpty())
-        return; // ask() deletes it when it is back
+    if (!m_asking->isEmpty())
+        return; // the end of the last question deletes it
     if (QCoreApplication::instance()) {
         m_manager->deleteLater();
     } else {
@@ -195,6 +201,8 @@ void MRVDownloadUrl::start()
     connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
     connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::downloadProgress);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &MRVDownloadUrl::onReplyError);
+    // After the manager's signal. Its context lives as long as the question does.
+    connect(m_reply, &QNetworkReply::sslErrors, m_manager, questionEnd());
     connect(m_reply, &QNetworkReply::encrypted, this, &MRVDownloadUrl::awaitBytes);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &MRVDownloadUrl::onMetaData);
     connect(m_reply, &QNetworkReply::readyRead, this, &MRVDownloadUrl::collect);
@@ -237,7 +245,7 @@ void MRVDownloadUrl::dropReply()
         return;
     reply->disconnect(this);
     reply->abort();
-    if (!m_asking.contains(reply))
+    if (!m_asking->contains(reply))
         reply->deleteLater();
 }
 
@@ -340,26 +348,38 @@ void MRVDownloadUrl::onReplyFinished()
     }
 }
 
-// Asks the handler, which may run an event loop, in which anything may happen. Qt still holds the reply
-// and the manager when it comes back, so neither may go before.
+// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen. Qt still
+// holds the reply and the manager when it comes back, so neither may go before.
+void MRVDownloadUrl::beginQuestion()
+{
+    m_asking->append(m_reply);
+    m_timer.stop();
+}
+
+std::function<void()> MRVDownloadUrl::questionEnd()
+{
+    return [self = QPointer<MRVDownloadUrl>(this), asking = m_asking, reply = m_reply] {
+        asking->removeOne(reply);
+        if (!self) {
+            if (asking->isEmpty())
+                reply->manager()->deleteLater();
+        } else if (self->m_reply == reply) {
+            if (!reply->isFinished())
+                self->awaitBytes();
+        } else if (!asking->contains(reply)) {
+            reply->deleteLater();
+        }
+    };
+}
+
 bool MRVDownloadUrl::ask(const std::function<bool()> &question)
 {
     const QPointer<MRVDownloadUrl> self(this);
-    QNetworkReply *const reply = m_reply;
-    QNetworkAccessManager *const manager = m_manager;
-    const bool isOutermost = m_asking.isEmpty();
-    m_asking.append(reply);
-    m_timer.stop();
+    const std::function<void()> end = questionEnd();
+    beginQuestion();
     const bool yes = question();
-    if (!self) {
-        if (isOutermost)
-            manager->deleteLater();
-        return false;
-    }
-    m_asking.removeOne(reply);
-    if (m_reply != reply && !m_asking.contains(reply))
-        reply->deleteLater();
-    return yes;
+    end();
+    return self && yes;
 }
 
 void MRVDownloadUrl::redirect(const QUrl &target)
@@ -427,7 +447,6 @@ void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticat
     if (isGiven) {
         authenticator->setUser(user);
         authenticator->setPassword(password);
-        awaitBytes();
     } else {
         // Set first, since the reply finishes before abort() is back.
         m_aborted = true;

@@ -12,6 +12,7 @@
 #include <QVector>
 
 #include <functional>
+#include <memory>
 
 class MRVDownloadUserInputAbstract;
 
@@ -31,7 +32,7 @@ class MRVDownloadUserInputAbstract;
  * Only http and https addresses are fetched, at the first request and at each redirect. Redirects are
  * followed where the user-input handler says so; one from https to http also needs the handler's
  * ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them connects
- * sslErrors() of networkAccessManager(). GUI thread only.
+ * sslErrors() of networkAccessManager(), and may run an event loop there. GUI thread only.
  *
  * @since 1.0
  */
@@ -72,7 +73,7 @@ public:
 
     /**
      * After how many milliseconds without a single byte a request fails; 0 or less waits for ever. The
-     * time that the handler takes for its answers does not count. Holds from the next byte on.
+     * time that the answers to questions take does not count. Holds from the next byte on.
      */
     void setTransferTimeout(int milliseconds);
     int transferTimeout() const { return m_transferTimeout; }
@@ -154,6 +155,8 @@ private:
     void awaitBytes();
     void collect();
     bool isCutShort() const;
+    void beginQuestion();
+    std::function<void()> questionEnd();
     bool ask(const std::function<bool()> &question);
     void redirect(const QUrl &target);
     void deliver();
@@ -174,5 +177,5 @@ private:
     QByteArray m_data;
     QString m_contentType;
     QString m_failure; // why this object gave up the request, which is said in place of "canceled"
-    QVector<QNetworkReply *> m_asking; // those that a handler is being asked about
+    std::shared_ptr<QVector<QNetworkReply *>> m_asking; // those that somebody is being asked about
 };
