@@ -119,7 +119,9 @@ public:
         text.replace("@SECOND", QByteArray::number(m_ports[1]));
         writeBytes(path, text);
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(program, arguments + QStringList{path});
+        // So that no server outlives a test that was killed.
+        m_process.start(
+            "setpriv", QStringList{"--pdeathsig", "KILL", program} + arguments + QStringList{path});
     }
     ~WebServer()
     {
