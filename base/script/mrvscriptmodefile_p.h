@@ -120,7 +120,10 @@ bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error);
  */
 bool scriptModeKeepsLimits(const QString &xml, QString *error);
 
-/** The text of any XML document with few attributes a tag and without declarations, likewise; @p error may be null. */
+/**
+ * The text of any XML document with few attributes a tag and without declarations, likewise; @p error may be null. Where
+ * its document type names another file, that name is blank.
+ */
 bool scriptXmlText(const QByteArray &xml, QString *text, QString *error);
 
 /** See MRVScriptMode::toPoints(). */

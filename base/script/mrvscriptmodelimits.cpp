@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace {
 
 // Qt's reader compares each attribute of a tag with every other one.
@@ -89,6 +91,8 @@ public:
     bool declares() const { return m_xml.midRef(m_at, m_end - m_at).contains(u'['); }
 
     int line() const { return lineAt(m_xml, m_at); }
+    int start() const { return m_at; }
+    int end() const { return m_end; }
 
 private:
     const QString &m_xml;
@@ -116,6 +120,23 @@ bool keepsLimits(const QString &xml, int maxLength, bool takesDoctype, QString *
     return true;
 }
 
+// A document type that names another file makes the parser pass over all entities that it does not know, as that file
+// might say what they are. Nobody reads that file, so that what they stand for would be missing.
+void hideOuterType(QString *xml)
+{
+    constexpr char Beginning[] = "<!DOCTYPE";
+    TagWalker walker(*xml);
+    if (!walker.toNext() || !walker.isHere(Beginning))
+        return;
+    walker.keepsLimits(MaxScriptTagLength);
+    const auto isSpace = [](QChar c) { return c.isSpace(); };
+    const auto end = xml->begin() + walker.end();
+    const auto name =
+        std::find_if_not(xml->begin() + walker.start() + int(qstrlen(Beginning)), end, isSpace);
+    std::replace_if(
+        std::find_if(name, end, isSpace), end, [](QChar c) { return c != u'\n'; }, QChar(u' '));
+}
+
 } // namespace
 
 bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error)
@@ -141,7 +162,9 @@ bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
     QString reason;
     const bool ok = decodeScriptMode(xml, text, &reason)
         && keepsLimits(*text, MaxScriptTagLength, true, &reason);
-    if (!ok && error)
+    if (ok)
+        hideOuterType(text);
+    else if (error)
         *error = reason;
     return ok;
 }
