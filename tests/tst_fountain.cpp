@@ -176,13 +176,15 @@ void TestFountain::randomScripts()
     }
 }
 
-// Hours, unless it takes time linear in the key.
+// Hours, unless it takes time linear in the key, and in the keys.
 void TestFountain::longKey()
 {
     MRVFountainScript script;
     script.titles = {{QString(1 << 20, '!') + QString(1 << 20, '*') + "int. a", {}},
                      {"b", {{"c", {}, Run::Text}}}};
     QCOMPARE(script.normalized().titles.constFirst().key, QString("nt. a"));
+    script.titles.fill({"Source", {{"c", {}, Run::Text}}}, 1 << 18);
+    QCOMPARE(MRVFinalDraft::toXml(script).count("Source: "), 1 << 18);
 }
 
 // Bob becomes Robert in each text; nothing else changes that need not.

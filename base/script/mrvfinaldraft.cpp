@@ -178,14 +178,15 @@ void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
         return;
     start("TitlePage");
     start("Content");
-    QVector<MRVFountainTitle> before;
+    MrvTitleKeys before;
+    bool isFirst = true;
     for (const MRVFountainTitle &title : titles) {
         const Qt::AlignmentFlag alignment = mrvTitleAlignment(title.key);
         const QString text = title.text();
         const QString guessed = mrvGuessedTitleKey(alignment, text, before);
         const bool isGuessed = !text.trimmed().isEmpty()
             && guessed.compare(title.key, Qt::CaseInsensitive) == 0
-            && mrvShownTitleKeyLength(alignment, text) == 0 && mrvIndexOfTitle(before, guessed) < 0;
+            && mrvShownTitleKeyLength(alignment, text) == 0 && before.indexOf(guessed) < 0;
         start("Paragraph");
         attribute("Type", QStringLiteral("General"));
         attribute("Alignment",
@@ -193,14 +194,15 @@ void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
                       : alignment == Qt::AlignRight ? QStringLiteral("Right")
                                                     : QStringLiteral("Left"));
         // Points: a third of the way down the page.
-        attribute("SpaceBefore", QString::number(before.isEmpty() ? 216 : 12));
+        attribute("SpaceBefore", QString::number(isFirst ? 216 : 12));
         MRVFountainRuns value = title.value;
         if (!isGuessed) {
             value.prepend({title.key + QLatin1String(": "), {}, Run::Text});
         }
         writeRuns(value);
         end();
-        before.append(title);
+        before.append(title.key);
+        isFirst = false;
     }
     end();
     end();

@@ -84,6 +84,7 @@ private:
     QXmlStreamReader m_xml;
     QVector<bool> m_isText; // of each element that is open
     MRVFountainScript m_script;
+    MrvTitleKeys m_titleKeys; // of the script's titles
     Element m_element;
     QString m_alignment;
     bool m_inTitles = false;
@@ -261,8 +262,7 @@ bool FinalDraftReader::readForeign()
     } else {
         const QString text = readParagraphs().join(QString());
         // The page number and its dot are in each header.
-        if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })
-            && !m_leftOut.contains(tag)) {
+        if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })) {
             m_leftOut.append(tag);
         }
     }
@@ -317,17 +317,19 @@ void FinalDraftReader::addTitle()
         const QString key = first.text.left(length);
         first.text.remove(0, length + 2);
         m_script.titles.append({key, m_element.runs});
+        m_titleKeys.append(key);
         return;
     }
     // What goes on in a further paragraph.
-    const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_script.titles);
-    const int earlier = mrvIndexOfTitle(m_script.titles, key);
+    const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_titleKeys);
+    const int earlier = m_titleKeys.indexOf(key);
     if (earlier >= 0) {
         MRVFountainTitle &title = m_script.titles[earlier];
         title.value.append({QStringLiteral("\n"), {}, Run::Text});
         title.value += m_element.runs;
     } else {
         m_script.titles.append({key, m_element.runs});
+        m_titleKeys.append(key);
     }
 }
 
@@ -427,6 +429,7 @@ bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QS
     const bool ok = reader.read(script, error);
     if (ok && leftOut) {
         *leftOut = reader.leftOut();
+        leftOut->removeDuplicates();
     }
     return ok;
 }

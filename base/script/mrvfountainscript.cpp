@@ -1,6 +1,5 @@
 #include "script/mrvfountain.h"
 #include "script/mrvfountainsyntax_p.h"
-#include "script/mrvtitlepage_p.h"
 
 #include <algorithm>
 
@@ -360,8 +359,11 @@ QString MRVFountainTitle::text() const
 
 QString MRVFountainScript::title(const QString &key) const
 {
-    const int index = mrvIndexOfTitle(titles, key);
-    return index < 0 ? QString() : titles.at(index).text();
+    const auto found =
+        std::find_if(titles.cbegin(), titles.cend(), [&key](const MRVFountainTitle &title) {
+            return title.key.compare(key, Qt::CaseInsensitive) == 0;
+        });
+    return found == titles.cend() ? QString() : found->text();
 }
 
 MRVFountainScript MRVFountainScript::normalized() const

@@ -29,20 +29,20 @@ const KnownKey *known(const QString &key)
     return found == std::end(knownKeys) ? nullptr : found;
 }
 
-bool hasKey(const QVector<MRVFountainTitle> &titles, const char *key)
-{
-    return mrvIndexOfTitle(titles, QLatin1String(key)) >= 0;
-}
-
 } // namespace
 
-int mrvIndexOfTitle(const QVector<MRVFountainTitle> &titles, const QString &key)
+void MrvTitleKeys::append(const QString &key)
 {
-    for (int i = 0; i < titles.size(); ++i) {
-        if (titles.at(i).key.compare(key, Qt::CaseInsensitive) == 0)
-            return i;
+    const QString folded = key.toCaseFolded();
+    if (!m_first.contains(folded)) {
+        m_first.insert(folded, m_count);
     }
-    return -1;
+    ++m_count;
+}
+
+int MrvTitleKeys::indexOf(const QString &key) const
+{
+    return m_first.value(key.toCaseFolded(), -1);
 }
 
 Qt::AlignmentFlag mrvTitleAlignment(const QString &key)
@@ -76,17 +76,18 @@ int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line)
 }
 
 QString mrvGuessedTitleKey(Qt::AlignmentFlag alignment, const QString &line,
-                           const QVector<MRVFountainTitle> &before)
+                           const MrvTitleKeys &before)
 {
     static const QRegularExpression credit(QStringLiteral("\\bby\\b"),
                                            QRegularExpression::CaseInsensitiveOption);
+    const auto has = [&before](const char *key) { return before.indexOf(QLatin1String(key)) >= 0; };
     if (alignment == Qt::AlignRight)
         return QStringLiteral("Draft date");
     if (alignment == Qt::AlignLeft)
         return QStringLiteral("Contact");
-    if (!hasKey(before, "Title"))
+    if (!has("Title"))
         return QStringLiteral("Title");
-    if (!hasKey(before, "Credit") && line.contains(credit))
+    if (!has("Credit") && line.contains(credit))
         return QStringLiteral("Credit");
-    return hasKey(before, "Author") ? QStringLiteral("Source") : QStringLiteral("Author");
+    return has("Author") ? QStringLiteral("Source") : QStringLiteral("Author");
 }

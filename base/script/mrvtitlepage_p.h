@@ -1,15 +1,23 @@
 #pragma once
 
-#include "script/mrvfountain.h"
-
+#include <QHash>
 #include <QString>
-#include <QVector>
 #include <Qt>
 
 // How a printed title page shows what an entry is: by its place, or else by its key in front of it.
 
-/** The first entry with a key, in any case; -1 where there is none. */
-int mrvIndexOfTitle(const QVector<MRVFountainTitle> &titles, const QString &key);
+/** The keys of a title page's entries, in any case. */
+class MrvTitleKeys
+{
+public:
+    void append(const QString &key);
+    /** The first entry with a key; -1 where there is none. */
+    int indexOf(const QString &key) const;
+
+private:
+    QHash<QString, int> m_first;
+    int m_count = 0;
+};
 
 /** Where entries with this key stand: in the middle of the page, at its right or at its left. */
 Qt::AlignmentFlag mrvTitleAlignment(const QString &key);
@@ -28,4 +36,4 @@ int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line);
 
 /** What a line without a key is, going by its place, its words, and what is there already. */
 QString mrvGuessedTitleKey(Qt::AlignmentFlag alignment, const QString &line,
-                           const QVector<MRVFountainTitle> &before);
+                           const MrvTitleKeys &before);
