@@ -36,7 +36,8 @@ public:
     /**
      * Reads a document; paragraphs of types that Fountain does not know ("General", "Shot") are action.
      * A scene's title, summary and what its characters go through become synopses behind its heading, and
-     * notes that stand behind the script ("ScriptNotes") go to the end of the paragraphs that they are about.
+     * notes that stand behind the script ("ScriptNotes") go to the end of the paragraphs that they are about,
+     * and those in paragraphs of their own on the title page stand behind the script.
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @param leftOut if given, receives on success the tags of the other sections that hold text, such

@@ -38,6 +38,12 @@ constexpr struct
     {"Outline Body", Element::Synopsis, 1},
 };
 
+// A note or what was cut out, as a paragraph of its own.
+Element alone(const Run &run)
+{
+    return Element(run.kind == Run::Note ? Element::Note : Element::Boneyard, run.text);
+}
+
 class FinalDraftReader
 {
 public:
@@ -74,11 +80,14 @@ private:
     void startElement();
     void endElement();
     void beginParagraph();
+    void leaveParagraph();
     void startParagraph();
     void startNote();
     void endNote();
     void endParagraph();
     void startText();
+    void addText(const QStringRef &text);
+    void addSummary();
     void addTitle();
 
     QXmlStreamReader m_xml;
@@ -111,6 +120,15 @@ void FinalDraftReader::beginParagraph()
     m_hasParagraph = true;
 }
 
+// What a paragraph has before another one within it is one by itself.
+void FinalDraftReader::leaveParagraph()
+{
+    if (m_hasParagraph && !m_element.runs.isEmpty()) {
+        endParagraph();
+    }
+    m_hasParagraph = false;
+}
+
 void FinalDraftReader::startParagraph()
 {
     if (m_runKind != Run::Text) {
@@ -119,9 +137,7 @@ void FinalDraftReader::startParagraph()
         }
         return;
     }
-    if (m_hasParagraph && !m_element.runs.isEmpty()) {
-        endParagraph(); // one within another
-    }
+    leaveParagraph();
     m_breakPending = m_breakPending || attribute("StartsNewPage") == QLatin1String("Yes");
     beginParagraph();
     m_alignment = attribute("Alignment");
@@ -157,6 +173,20 @@ void FinalDraftReader::startText()
     m_element.runs.append({QString(), m_emphasis, Run::Text});
 }
 
+void FinalDraftReader::addText(const QStringRef &text)
+{
+    if (m_isText.isEmpty() || !m_isText.constLast())
+        return;
+    if (!m_hasParagraph) {
+        // Behind a paragraph within a text, which the blanks of the layout do not continue.
+        if (text.trimmed().isEmpty())
+            return;
+        beginParagraph();
+        m_element.runs.append({QString(), m_emphasis, Run::Text});
+    }
+    m_element.runs.last().text += text;
+}
+
 void FinalDraftReader::startNote()
 {
     if (m_noteDepth++ > 0)
@@ -188,24 +218,26 @@ QStringList FinalDraftReader::readParagraphs()
 {
     QStringList paragraphs;
     QString name;
-    bool inText = false;
+    int textDepth = 0; // of the outermost text that is open
     for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
         const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::StartElement) {
             ++depth;
-            inText = m_xml.name() == QLatin1String("Text");
+            if (m_xml.name() == QLatin1String("Text") && textDepth == 0) {
+                textDepth = depth;
+            }
             if (m_xml.name() == QLatin1String("Paragraph")) {
                 paragraphs.append(QString());
             } else if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
                 name = attribute("Name") + QLatin1String(": ");
             }
         } else if (token == QXmlStreamReader::EndElement) {
+            textDepth = depth == textDepth ? 0 : textDepth;
             --depth;
-            inText = false;
             if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
                 name.clear();
             }
-        } else if (token == QXmlStreamReader::Characters && inText) {
+        } else if (token == QXmlStreamReader::Characters && textDepth > 0) {
             if (paragraphs.isEmpty()) {
                 paragraphs.append(QString());
             }
@@ -290,7 +322,7 @@ void FinalDraftReader::startElement()
         m_inTitles = true;
         m_breakPending = false;
     } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
-        m_hasParagraph = false; // the paragraph around it has nothing of its own
+        leaveParagraph();
         m_dualCues = 0;
     } else if (tag == QLatin1String("ScriptNote")) {
         startNote();
@@ -299,15 +331,32 @@ void FinalDraftReader::startElement()
     } else if (tag == QLatin1String("Paragraph")) {
         startParagraph();
     } else if (tag == QLatin1String("Text")) {
+        m_isText.last() = true;
         startText();
+    } else if (m_isText.size() > 1) {
+        m_isText.last() = m_isText.at(m_isText.size() - 2); // marks words of the text
     }
+}
+
+void FinalDraftReader::addSummary()
+{
+    for (const QString &line : qAsConst(m_summary)) {
+        m_script.elements.append(Element(Element::Synopsis, line));
+    }
+    m_summary.clear();
 }
 
 // The format does not say what the lines of a title page are.
 void FinalDraftReader::addTitle()
 {
-    if (m_element.text().trimmed().isEmpty())
+    if (m_element.text().trimmed().isEmpty()) {
+        for (const Run &run : qAsConst(m_element.runs)) {
+            if (run.kind != Run::Text) {
+                m_script.elements.append(alone(run));
+            }
+        }
         return;
+    }
     const Qt::AlignmentFlag alignment = m_alignment == QLatin1String("Center") ? Qt::AlignHCenter
         : m_alignment == QLatin1String("Right")                                ? Qt::AlignRight
                                                                                : Qt::AlignLeft;
@@ -351,18 +400,14 @@ void FinalDraftReader::endParagraph()
     }
     if (m_element.kind == Element::Action && m_element.runs.size() == 1
         && m_element.runs.constFirst().kind != Run::Text) {
-        const Run note = m_element.runs.constFirst();
-        m_element = Element(note.kind == Run::Note ? Element::Note : Element::Boneyard, note.text);
+        m_element = alone(m_element.runs.constFirst());
     }
     if (m_element.kind == Element::Character && m_dualCues >= 0) {
         m_firstDualCue = m_dualCues == 0 ? m_script.elements.size() : m_firstDualCue;
         m_element.dual = m_dualCues++ > 0;
     }
     m_script.elements.append(m_element);
-    for (const QString &line : qAsConst(m_summary)) {
-        m_script.elements.append(Element(Element::Synopsis, line));
-    }
-    m_summary.clear();
+    addSummary();
 }
 
 void FinalDraftReader::endElement()
@@ -373,7 +418,7 @@ void FinalDraftReader::endElement()
     } else if ((tag == QLatin1String("Paragraph") || tag == QLatin1String("Content"))
                && m_noteDepth == 0 && m_hasParagraph) {
         endParagraph();
-    } else if (tag == QLatin1String("DualDialogue")) {
+    } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
         if (m_dualCues == 1) {
             m_script.elements[m_firstDualCue].dual = true; // beside one that is elsewhere
         }
@@ -393,7 +438,7 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             } else if (m_isText.size() == MaxDepth) {
                 m_xml.raiseError(MRVFinalDraft::tr("elements are nested too deeply"));
             } else {
-                m_isText.append(m_xml.name() == QLatin1String("Text"));
+                m_isText.append(false);
                 startElement();
             }
             break;
@@ -402,9 +447,7 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             endElement();
             break;
         case QXmlStreamReader::Characters:
-            if (!m_isText.isEmpty() && m_isText.constLast() && !m_element.runs.isEmpty()) {
-                m_element.runs.last().text += m_xml.text();
-            }
+            addText(m_xml.text());
             break;
         default:
             break;
@@ -412,6 +455,7 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
     }
     if (!mrvIsXmlRead(m_xml, error))
         return false;
+    addSummary();
     placeNotes();
     *script = m_script.normalized();
     return true;
