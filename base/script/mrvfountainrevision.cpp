@@ -22,7 +22,6 @@ QString lineEndOf(const QString &text)
     return end > 0 && text.at(end - 1) == u'\r' ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
-// Walks over a text as it was typed, by positions of its plain form.
 // What plainText() leaves out, but for halves of pairs, which no file holds.
 bool isLeftOut(QChar c)
 {
@@ -30,6 +29,7 @@ bool isLeftOut(QChar c)
     return (code < 0x20 && (code < u'\t' || code > u'\r')) || code >= 0xFFFE;
 }
 
+// Walks over a text as it was typed, by positions of its plain form.
 class Source
 {
 public:
