@@ -325,14 +325,14 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
         return failure(error);
     }
     options->output = outputFile(options->input, output, options->to);
-    const bool streams = options->input == StandardStream || options->output == StandardStream;
+    const bool toFile = options->output != StandardStream;
     // Nobody named it, so what stands there may be somebody's work.
-    if (!streams && (output.isEmpty() || QFileInfo(output).isDir())
+    if (toFile && (output.isEmpty() || QFileInfo(output).isDir())
         && QFileInfo::exists(options->output)) {
         return failure(
             QStringLiteral("%1 exists; name it with -o to replace it").arg(options->output));
     }
-    return !streams && isSameFile(options->input, options->output)
+    return toFile && options->input != StandardStream && isSameFile(options->input, options->output)
         ? failure(QStringLiteral("%1: the output would replace the input; choose another with -o")
                       .arg(options->output))
         : -1;

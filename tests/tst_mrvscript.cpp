@@ -116,6 +116,12 @@ void tst_MrvScript::convertedBack()
     }
     QCOMPARE(books[0], books[1]);
     QVERIFY(books[1] != books[2]);
+    // In a folder, nothing is replaced unasked.
+    const QString taken = folder.filePath("script.fdx");
+    QVERIFY(writeBytes(taken, "a"));
+    const Ran into = run(MRV_TOOL, {"script", "convert", "-", "--to", "fdx", "-o", folder.path()});
+    QVERIFY2(into.errors.contains("exists"), qPrintable(into.errors));
+    QCOMPARE(bytesOf(taken), QByteArray("a"));
 }
 
 QTEST_GUILESS_MAIN(tst_MrvScript)
