@@ -72,6 +72,7 @@ struct ScriptFile
 {
     QString path;
     Format format = Format::Unknown;
+    QByteArray bytes;
     MRVFountainScript script;
     QString text; // of a Fountain script, as it was typed
     QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
@@ -88,7 +89,7 @@ bool readScript(const QString &path, const QString &from, ScriptFile *file, QStr
         : standard                 ? Format::Fountain
                                    : formatOfFile(path);
     QString reason;
-    const QByteArray bytes =
+    const QByteArray &bytes = file->bytes =
         standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
     if (!reason.isEmpty()) {
         *error = reason;
@@ -527,8 +528,8 @@ int runScriptRename(const QStringList &arguments)
         return failure(error);
     }
     const QString output = parser.value(QStringLiteral("output"));
-    // Such files hold more than scripts: revisions, headers, lists of names.
-    if (file.format == Format::FinalDraft && isSameFile(names.at(2), output)) {
+    // Documents and pages may hold more than scripts: revisions, headers, what others have added.
+    if (isSameFile(names.at(2), output) && revisedBytes(file) != file.bytes) {
         return failure(
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
                 .arg(output));

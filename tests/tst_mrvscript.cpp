@@ -105,6 +105,13 @@ void tst_MrvScript::convertedBack()
         from = to;
     }
     QCOMPARE(QString(bytesOf(path + "spmd")), QString(script));
+    // Names are changed in place where that loses nothing.
+    for (const QString format : {"html", "fdx"}) {
+        const QStringList rename{"script",      "rename", "Ann",        "Ben",
+                                 path + format, "-o",     path + format};
+        const Ran ran = run(MRV_TOOL, rename);
+        QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
+    }
     QCOMPARE(epubErrors(path + "epub"), QString());
     // The same day, the same bytes; and another day tells that it was that day.
     const QStringList convert{"script", "convert", path + "fdx", "-o", path + "epub"};
