@@ -36,8 +36,6 @@ void registerType()
     Q_UNUSED(type)
 }
 
-} // namespace
-
 /** What the first chunk of a PNG picture says (ISO/IEC 15948, section 11.2.2). */
 struct PictureHeader
 {
@@ -64,6 +62,8 @@ struct PictureHeader
     qint64 storedSize() const { return (width * channels * depth + 7) / 8 * height; }
     qint64 decodedSize() const { return width * height * (depth == 16 ? 8 : 4); }
 };
+
+} // namespace
 
 // Reads an item with its payload. Qt's own reader of variants believes every count and type it finds.
 class DropItemReader

@@ -43,7 +43,7 @@ public:
     /** One item for each entry, in order. */
     static QList<MRVFernwickDropItem> fromVariant(const QList<QVariant> &list);
 
-    /** Pictures are equal when their size and pixels are. */
+    /** Pictures are equal when their sizes, formats and pixels are. */
     bool operator==(const MRVFernwickDropItem &other) const
     {
         return m_label == other.m_label && m_payload == other.m_payload;
@@ -68,10 +68,11 @@ MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDro
 /**
  * Reads what operator<<() wrote, whatever the format version says.
  *
- * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, times without a named
- * zone, byte arrays, addresses, items, and lists and maps of them, 32 levels deep. Where they hold anything else or end too early, the
- * stream's status tells and @p item is a default one. Pictures beyond 512 MiB together, when decoded, are
- * null.
+ * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, booleans, points, sizes,
+ * rectangles, UUIDs, times without a named zone, byte arrays, addresses, items, and lists and maps of
+ * them, 32 levels deep. Where they hold anything else or end too early, the stream's status tells and
+ * @p item is a default one. Pictures beyond 512 MiB together, when decoded, are null. A picture may
+ * come in another format than it had, as PNG knows fewer.
  *
  * @since 1.0
  */

@@ -13,7 +13,9 @@
  *
  * Written are paragraphs with their types, styles and alignment, scene numbers, page breaks, two speeches
  * side by side, notes as script notes, and the title page. What was cut out is a script note called
- * "Omitted", sections are outline headings of four levels, and synopses are outline text.
+ * "Omitted", sections are outline headings of four levels, and synopses are outline text. Read again, it
+ * is the same script, but for deeper sections, the mark of lyrics behind a speech, the emphasis of notes,
+ * action that is nothing but a note, and page breaks without a paragraph behind them, which get one.
  *
  * The format does not say which line of a title page is what: reading it takes the first centred one as
  * the title, "written by" and the like as the credit, the one behind as the author, other centred ones

@@ -150,7 +150,8 @@ public:
     /**
      * The same as a revision of @p source, a Fountain text: what @p source says already keeps its lines, as
      * they were typed, and so do byte-order mark and line ends. Where there are as many elements as
-     * before, just those are written anew that are others, else the whole text is.
+     * before, just those are written anew that are others. Where there are not, or where lines as they
+     * were typed would be read in another way beside the new ones, the whole text is.
      */
     QString toText(const QString &source) const;
 
@@ -158,9 +159,9 @@ public:
      * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and at
      * its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised text,
      * line breaks in headings, cues, parentheticals, transitions, sections and synopses, which become
-     * blanks, empty lines of the title page and around dialogue, notes without text within a paragraph, and
-     * scene headings, cues and dialogue without text. Number, level and marks are reset where they mean nothing; two Lyrics
-     * behind one another in a speech cannot both be part of it.
+     * blanks, empty lines of the title page and around dialogue, notes without text within a paragraph,
+     * and scene headings, cues and dialogue without text. Number, level and marks are reset where they
+     * mean nothing; two Lyrics behind one another in a speech cannot both be part of it.
      */
     MRVFountainScript normalized() const;
 
