@@ -138,7 +138,8 @@ void FinalDraftReader::startParagraph()
         return;
     }
     leaveParagraph();
-    m_breakPending = m_breakPending || attribute("StartsNewPage") == QLatin1String("Yes");
+    m_breakPending =
+        m_breakPending || (!m_inTitles && attribute("StartsNewPage") == QLatin1String("Yes"));
     beginParagraph();
     m_alignment = attribute("Alignment");
     m_element.sceneNumber = attribute("Number");
@@ -320,7 +321,6 @@ void FinalDraftReader::startElement()
     const QStringRef tag = m_xml.name();
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
-        m_breakPending = false;
     } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
         leaveParagraph();
         m_dualCues = 0;
