@@ -48,6 +48,7 @@ private Q_SLOTS:
     void dropItemBytes_data();
     void dropItemBytes();
     void variants();
+    void littleEndian();
     void damagedBytes_data();
     void damagedBytes();
     void claimedSizes_data();
@@ -159,6 +160,29 @@ void TestReferences::variants()
     QCOMPARE(first, item);
     QCOMPARE(second, group());
     QVERIFY(stream.atEnd());
+    // A picture beyond what pictures may take is null, and what stands behind it is kept.
+    const QByteArray vast =
+        hex("00000001 ffffffff 00000009 00 00000002 00000046 00 00000001 89504e470d0a1a0a"
+            "0000000d 49484452 00004000 00004000 01 00 00 00 00 00000000 0000c000 49444154")
+        + QByteArray(0xc004, 0) + hex("00000000 49454e44 ae426082 0000000a 00 00000002 0041");
+    QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(vast),
+             MRVFernwickDropItem({QImage(), "A"}));
+}
+
+// Values whose bytes are checked before Qt reads them, in the stream's order of bytes.
+void TestReferences::littleEndian()
+{
+    const QDateTime time(QDate(2026, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, 60);
+    const MRVFernwickDropItem item({time, QColor(1, 2, 3), "A"});
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << item;
+    QDataStream in(bytes);
+    in.setByteOrder(QDataStream::LittleEndian);
+    MRVFernwickDropItem read;
+    in >> read;
+    QCOMPARE(read, item);
 }
 
 void TestReferences::damagedBytes_data()
