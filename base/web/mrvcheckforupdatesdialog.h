@@ -37,8 +37,8 @@ public:
 public Q_SLOTS:
     /** Shows which version runs and which is offered, and what the buttons do. */
     void versions(const QString &current, const QString &available);
-    void statusMsg(
-        const QString &text); // words of more than 100 characters, such as addresses, may be broken
+    /** Shows a text; in words of more than 60 characters, such as addresses, places to break them are put. */
+    void statusMsg(const QString &text);
     /** As statusMsg(), and hides the progress bar for good. */
     void errorMsg(const QString &text);
     /** Counts in bytes; a total that is unknown (negative, or 0) shows a busy bar. */
