@@ -326,6 +326,9 @@ private Q_SLOTS:
         QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
         // What was refused is not left for somebody to open by hand.
         QVERIFY(said.contains("install") || !QFileInfo(m_folder->filePath("morvane.run")).isFile());
+        // What was not downloaded stays.
+        QVERIFY(!plant.startsWith("link morvane.run.minisig") || !signature.isEmpty()
+                || QFileInfo(m_folder->filePath("morvane.run.minisig")).isSymLink());
     }
 
     void endsEarly_data()

@@ -108,11 +108,14 @@ void MRVUpdateDownloader::removePlantedLink()
     }
 }
 
-// An installer that was refused must not lie about under its name, for somebody to open by hand.
+// An installer that was refused must not lie about under its name, for somebody to open by hand. What this check has not
+// written is left alone.
 void MRVUpdateDownloader::removeRefused()
 {
     if (m_step != Step::Feed) {
         QFile::remove(m_model->downloadFilePath());
+    }
+    if (m_step == Step::Signature) {
         QFile::remove(m_model->signatureFilePath());
     }
 }
