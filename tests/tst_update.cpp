@@ -331,6 +331,24 @@ private Q_SLOTS:
                 || QFileInfo(m_folder->filePath("morvane.run.minisig")).isSymLink());
     }
 
+    // An application may have a file opened that no check has anything to do with.
+    void opensAnother()
+    {
+        Web web;
+        web.answers = {{"/update.xml", "wait"}};
+        plantIn(QString());
+        QStringList heard;
+        const Boxes boxes(&heard);
+        m_heard = &heard;
+        QDesktopServices::setUrlHandler("file", this, "open");
+        MRVUpdateManager::instance()->checkForUpdates();
+        QTRY_VERIFY(web.asked.contains("/update.xml"));
+        const QString path = m_folder->filePath("morvane.run");
+        QVERIFY(writeBytes(path, bytesOf(data + "morvane.run")));
+        MRVUpdateManager::instance()->onInstallUpdateRequested(path);
+        QCOMPARE(heard.join(';'), QString("opened morvane.run"));
+    }
+
     void endsEarly_data()
     {
         addRows("update-ends.tsv",

@@ -209,6 +209,8 @@ void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
     // Unsaved documents may keep the user for a while, and the application may release this object meanwhile.
     const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
     m_downloader.clear();
+    // Of a file that an application wants opened, the check knows nothing.
+    const bool isChecks = check && sender() == check.data();
     if (check) {
         check->setParent(nullptr);
     }
@@ -219,7 +221,7 @@ void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
         locker.emplace();
     }
     QApplication::closeAllWindows();
-    if (check && !check->confirmInstaller()) {
+    if (isChecks && !check->confirmInstaller()) {
         return;
     }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::toNativeSeparators(exeFilePath)))) {

@@ -64,8 +64,8 @@ public Q_SLOTS:
     void checkForUpdatesSilent();
     void onUpdateFinished();
     /**
-     * Closes all windows of the application, and opens the installer with what the desktop has for it, unless it was
-     * changed meanwhile.
+     * Ends a check, closes all windows of the application, and opens the installer with what the desktop has for it, unless
+     * it comes from the check, and was changed since that found it sound.
      */
     void onInstallUpdateRequested(const QString &exeFilePath);
     void onUpdateChecked();
