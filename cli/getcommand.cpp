@@ -253,6 +253,9 @@ QString unwritable(const Options &options)
     if (options.output == StandardOutput)
         return QString();
     const QString file = targetFile(options);
+    // What a link leads to is written, wherever the link lies.
+    if (QFileInfo(file).isSymLink())
+        return QString();
     const QFileInfo folder(QFileInfo(file).absolutePath());
     return !folder.isDir()     ? QStringLiteral("%1: its folder does not exist").arg(file)
         : !folder.isWritable() ? QStringLiteral("%1: its folder is write-protected").arg(file)

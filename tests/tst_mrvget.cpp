@@ -83,6 +83,13 @@ void tst_MrvGet::get()
     const QString host = m_server.url(QString()).toString();
     if (file.contains("taken"))
         QVERIFY(writeBytes(folder.filePath("taken.html"), "old"));
+    // A link that cannot be replaced, to a file that can.
+    const QString locked = folder.filePath("locked");
+    QVERIFY(QDir().mkdir(locked) && QFile::link("../x.txt", locked + "/link"));
+    QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner));
+    const auto unlock = qScopeGuard([&] {
+        QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    });
     arguments.replace('@', host).replace('$', m_tlsHost).replace('#', folder.path() + '/');
     QProcess tool;
     tool.setWorkingDirectory(folder.path());
