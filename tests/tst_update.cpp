@@ -59,8 +59,7 @@ public:
                     text += '\n' + box->informativeText();
                 // Servers have a say in what most of them tell.
                 const bool isPlain = box->textFormat() == Qt::PlainText;
-                said->append(isPlain || box->windowTitle() == "Morvane Update" ? text
-                                                                               : "markup " + text);
+                said->append(isPlain ? text : "markup " + text);
                 box->accept();
             }
         });
@@ -347,6 +346,19 @@ private Q_SLOTS:
         QVERIFY(writeBytes(path, bytesOf(data + "morvane.run")));
         MRVUpdateManager::instance()->onInstallUpdateRequested(path);
         QCOMPARE(heard.join(';'), QString("opened morvane.run"));
+    }
+
+    // What asked may be gone before the answer is read.
+    void offlineWithoutWindow()
+    {
+        plantIn("offline");
+        const QPointer<QWidget> window = new QWidget;
+        window->show();
+        window->activateWindow();
+        QTRY_VERIFY(window->isActiveWindow());
+        QTimer::singleShot(0, this, [&] { delete window; });
+        MRVUpdateManager::instance()->checkForUpdates();
+        QVERIFY(!window && isOver() && !QApplication::activeModalWidget());
     }
 
     void endsEarly_data()

@@ -1,28 +1,15 @@
 #include "web/mrvdownloaduserinput.h"
 
 #include "web/mrvdownloadauthorize_p.h"
+#include "web/mrvmessage_p.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 
 namespace {
 
 QString title()
 {
     return QCoreApplication::translate("QObject", "File Download");
-}
-
-// On the heap, since the parent may be closed, and take the box with it, while it is open. Plain, since
-// a server chooses a part of the text: "&lt;" in an address would make the whole of it markup.
-int ask(QWidget *parent, QMessageBox::Icon icon, const QString &text,
-        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
-{
-    const QPointer<QMessageBox> box = new QMessageBox(icon, title(), text, buttons, parent);
-    box->setTextFormat(Qt::PlainText);
-    box->setDefaultButton(preset);
-    const int answer = box->exec();
-    delete box;
-    return answer;
 }
 
 } // namespace
@@ -54,8 +41,8 @@ bool MRVDownloadUserInput::redirectTo(const QUrl &url)
 {
     const QString text =
         QCoreApplication::translate("QObject", "Redirect to %1 ?").arg(url.toDisplayString());
-    return ask(widgetParent(), QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No,
-               QMessageBox::NoButton)
+    return mrvShowMessage(widgetParent(), QMessageBox::Question, title(), text,
+                          QMessageBox::Yes | QMessageBox::No)
         == QMessageBox::Yes;
 }
 
@@ -64,7 +51,7 @@ bool MRVDownloadUserInput::ignoreSslErrors(const QStringList &errors)
     const QString text =
         QCoreApplication::translate("QObject", "One or more SSL errors has occurred: %1")
             .arg(errors.join(QLatin1String(", ")));
-    return ask(widgetParent(), QMessageBox::Warning, text, QMessageBox::Ignore | QMessageBox::Abort,
-               QMessageBox::Abort)
+    return mrvShowMessage(widgetParent(), QMessageBox::Warning, title(), text,
+                          QMessageBox::Ignore | QMessageBox::Abort, QMessageBox::Abort)
         == QMessageBox::Ignore;
 }

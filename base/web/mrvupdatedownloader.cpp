@@ -2,13 +2,13 @@
 
 #include "web/mrvcheckforupdatesdialog.h"
 #include "web/mrvdownloadurl.h"
+#include "web/mrvmessage_p.h"
 #include "web/mrvredirectpolicy_p.h"
 #include "web/mrvupdatemodel.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QUrl>
 
 namespace {
@@ -16,14 +16,6 @@ namespace {
 // One byte more than the model takes, so that it is the model that refuses a feed of another size.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
-
-// As QMessageBox shows it, but never as markup: servers have a say in what is told.
-void tell(QMessageBox::Icon icon, const QString &title, const QString &text)
-{
-    QMessageBox box(icon, title, text, QMessageBox::Ok);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-}
 
 } // namespace
 
@@ -212,8 +204,8 @@ void MRVUpdateDownloader::updateAvailable(bool available)
     }
     m_isTelling = true;
     if (!m_silent) {
-        tell(QMessageBox::Information, tr("Check for Updates"),
-             tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
+        mrvShowMessage(nullptr, QMessageBox::Information, tr("Check for Updates"),
+                       tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
     }
     if (self) {
         cancelUpdate();
@@ -229,7 +221,7 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
     m_isTelling = true;
     const QPointer<MRVUpdateDownloader> self(this);
     if (!m_silent) {
-        tell(QMessageBox::Warning, tr("Check for Updates"), error);
+        mrvShowMessage(nullptr, QMessageBox::Warning, tr("Check for Updates"), error);
     }
     if (self) {
         cancelUpdate();
@@ -253,8 +245,9 @@ bool MRVUpdateDownloader::confirmInstaller()
 {
     const bool isUnchanged = m_model->isInstallerUnchanged();
     if (!isUnchanged) {
-        tell(QMessageBox::Warning, tr("Check for Updates"),
-             tr("The installer was changed after it had been downloaded, and will not be opened."));
+        mrvShowMessage(
+            nullptr, QMessageBox::Warning, tr("Check for Updates"),
+            tr("The installer was changed after it had been downloaded, and will not be opened."));
     }
     return isUnchanged;
 }

@@ -2,6 +2,7 @@
 
 #include "network/mrvnetwork.h"
 #include "settings/mrvsettings.h"
+#include "web/mrvmessage_p.h"
 #include "web/mrvupdatedownloader.h"
 #include "web/mrvupdatemodel.h"
 
@@ -13,7 +14,6 @@
 #include <QEventLoopLocker>
 #include <QLoggingCategory>
 #include <QMenu>
-#include <QMessageBox>
 #include <QScopedPointer>
 #include <QTimer>
 #include <QUrl>
@@ -150,9 +150,9 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
 {
     if (!MrvNetwork::isNetworkConnected()) {
         if (!silent) {
-            QMessageBox::warning(QApplication::activeWindow(), tr("Morvane Update"),
-                                 tr("No active network connection found\nYou need internet "
-                                    "connection to check for updates"));
+            mrvShowMessage(QApplication::activeWindow(), QMessageBox::Warning, tr("Morvane Update"),
+                           tr("No active network connection found\nYou need internet "
+                              "connection to check for updates"));
         }
         return;
     }
