@@ -127,7 +127,8 @@ void TestPackage::checkStranger(const QString &program, const QMap<QString, QStr
     VERIFY_RAN(stranger);
     QCOMPARE(stranger.out.section('\n', 0, 1), QString("core 2015-10-08\ngui #ffffff"));
     QVERIFY2(stranger.out.contains("\nnetwork "), qPrintable(stranger.out));
-    QVERIFY2(stranger.out.endsWith("\nbase application/pdf\n"), qPrintable(stranger.out));
+    QVERIFY2(stranger.out.endsWith("\nbase application/pdf\ntext Datei\n"),
+             qPrintable(stranger.out));
 }
 
 void TestPackage::findPackage()

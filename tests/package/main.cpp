@@ -1,12 +1,14 @@
 #include "core/mrvcoreutil.h"
+#include "core/mtranslator.h"
 #include "gui/mrvguiutil.h"
 #include "network/mrvnetwork.h"
+#include "settings/mrvshortcut.h"
 #include "util/mrvmimetypes.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
 
-/// Prints a line from each library, and one that needs the library's resource files.
+/// Prints a line from each library, and two that need the library's resource files.
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
@@ -16,5 +18,7 @@ int main(int argc, char *argv[])
     out << "gui " << MRVGuiUtil::textColorForBackground(Qt::black).name() << '\n';
     out << "network " << (MrvNetwork::isNetworkConnected() ? "up\n" : "down\n");
     out << "base " << QStringList(MRV::mimeTypeForSuffix("pdf").values()).join(' ') << '\n';
+    MTranslator::install("de");
+    out << "text " << MRVShortcut::tr("File") << '\n';
     return 0;
 }
