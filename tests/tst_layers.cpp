@@ -58,6 +58,7 @@ constexpr Room rooms[] = {
     { "base/importexport/*",                     1, 0, "Core Gui" },
     { "base/web/mversion",                       1, 0, "Core Gui Network Xml Widgets" },
     { "base/web/msharedresources",               1, 0, "Core" },
+    { "base/web/mrvmessage",                     1, 0, "Core Widgets" },
     { "base/web/mrvplainfile",                   1, 0, "Core" },
     { "base/web/mrvsignature",                   1, 0, "Core" },
     { "base/web/mrvwebviewfactory",              1, 0, "Core Widgets" },
