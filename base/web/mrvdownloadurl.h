@@ -26,6 +26,9 @@ class MRVDownloadUserInputAbstract;
  * fails. Only a request that is dropped, by starting another one or by deleting this object, says no
  * more. Any receiver may start the next request, or delete this object.
  *
+ * A body that is cut off is an error, but for two that Qt passes on as whole: one that ends at a chunk
+ * whose size is no number, and one of no stated length whose connection breaks.
+ *
  * Servers are asked not to compress, so that each body can be checked against its length; one that
  * comes compressed all the same is delivered as it came.
  *
