@@ -16,8 +16,9 @@ std::unique_ptr<QTextDocument> script(const MRVScriptMode &mode, int paragraphs)
     cursor.beginEditBlock();
     for (int i = 0; i < paragraphs; ++i) {
         const int element = int(random() % unsigned(mode.elements().size()));
-        if (i > 0)
+        if (i > 0) {
             cursor.insertBlock();
+        }
         cursor.setBlockFormat(mode.elements().at(element).blockFormat());
         cursor.insertText(QStringLiteral("A line of the script"));
     }
@@ -45,8 +46,9 @@ int matches(const QTextDocument &document, const QList<MRVScriptElement> &elemen
 {
     int count = 0;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (const MRVScriptElement &element : elements)
+        for (const MRVScriptElement &element : elements) {
             count += match(element, block);
+        }
     }
     return count;
 }
@@ -73,8 +75,9 @@ void recognise(benchmark::State &state)
                                  return plainlyEqual(block.blockFormat(), element.blockFormat());
                              });
         });
-    if (ours != theirs || ours != state.range(0))
+    if (ours != theirs || ours != state.range(0)) {
         state.SkipWithError("the two sides find different elements");
+    }
 }
 
 void complete(benchmark::State &state)
@@ -83,8 +86,9 @@ void complete(benchmark::State &state)
     std::mt19937 random(1);
     for (int i = 0; i < state.range(0); ++i) {
         QString name;
-        for (int letter = 0; letter < 12; ++letter)
+        for (int letter = 0; letter < 12; ++letter) {
             name += QChar('A' + int(random() % 26));
+        }
         list.append({name, false});
     }
     const QString prefix = list.completions().at(7).text.left(2).toLower();
@@ -96,13 +100,15 @@ void complete(benchmark::State &state)
             QList<MRVCompletion> found;
             for (const MRVCompletion &completion : list.completions()) {
                 if (completion.text.size() > prefix.size()
-                    && completion.text.startsWith(prefix, Qt::CaseInsensitive))
+                    && completion.text.startsWith(prefix, Qt::CaseInsensitive)) {
                     found.append(completion);
+                }
             }
             theirs = found.size();
         });
-    if (ours != theirs || ours == 0)
+    if (ours != theirs || ours == 0) {
         state.SkipWithError("the two sides find different completions");
+    }
 }
 
 } // namespace

@@ -58,14 +58,16 @@ static void setValue(benchmark::State &state)
         state,
         [&] {
             for (int round = 0; round < Rounds; ++round) {
-                for (int i = 0; i < Settings; ++i)
+                for (int i = 0; i < Settings; ++i) {
                     stores.ours.setValue(key(i), round);
+                }
             }
         },
         [&] {
             for (int round = 0; round < Rounds; ++round) {
-                for (int i = 0; i < Settings; ++i)
+                for (int i = 0; i < Settings; ++i) {
                     stores.bare.setValue(key(i), round);
+                }
             }
         });
 }
@@ -84,14 +86,16 @@ static void value(benchmark::State &state)
         state,
         [&] {
             for (int round = 0; round < Rounds; ++round) {
-                for (int i = 0; i < Settings; ++i)
+                for (int i = 0; i < Settings; ++i) {
                     sum += stores.ours.value(MRVSettings::IntSetting(i));
+                }
             }
         },
         [&] {
             for (int round = 0; round < Rounds; ++round) {
-                for (int i = 0; i < Settings; ++i)
+                for (int i = 0; i < Settings; ++i) {
                     sum += stores.bare.value(key(i), 0).toInt();
+                }
             }
         });
     benchmark::DoNotOptimize(sum);

@@ -10,16 +10,18 @@
 static void writeAndRead(benchmark::State &state)
 {
     const MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(MRVShortcutScheme::fromByteArray(scheme.toByteArray()));
+    }
 }
 BENCHMARK(writeAndRead)->Unit(benchmark::kMicrosecond);
 
 static void readAndMergeDefaults(benchmark::State &state)
 {
     const QByteArray bytes = MRVShortcutScheme::morvane().toByteArray();
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(MRVShortcutScheme(bytes, true));
+    }
 }
 BENCHMARK(readAndMergeDefaults)->Unit(benchmark::kMicrosecond);
 
@@ -27,7 +29,8 @@ BENCHMARK(readAndMergeDefaults)->Unit(benchmark::kMicrosecond);
 static void conflicts(benchmark::State &state)
 {
     const MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
-    for (auto _ : state)
+    for (auto _ : state) {
         benchmark::DoNotOptimize(MRVShortcutCheck::conflicts(scheme));
+    }
 }
 BENCHMARK(conflicts)->Unit(benchmark::kMicrosecond);

@@ -150,8 +150,9 @@ int save(const Request &request, const MRVAutoReplaceList &list, const MRVAutoRe
 {
     QString error;
     request.options->setAutoReplaceList(list);
-    if (!request.options->saveNow(&error))
+    if (!request.options->saveNow(&error)) {
         return refuse(error);
+    }
     for (const MRVAutoReplace &entry : changed) {
         printEntry(request, entry);
     }
@@ -175,15 +176,18 @@ QString enabledAlready(const QString &match)
 int runAdd(const Request &request)
 {
     const MRVAutoReplace entry{!request.disabled, request.arguments.at(0), request.arguments.at(1)};
-    if (entry.match.contains(u'\n') || entry.match.contains(QChar::ParagraphSeparator))
+    if (entry.match.contains(u'\n') || entry.match.contains(QChar::ParagraphSeparator)) {
         return usageError(QStringLiteral("a match cannot go over the end of a paragraph"));
+    }
     MRVAutoReplaceList list = request.options->autoReplaceList();
-    if (list.containsReplacement(entry.match, entry.replacement))
+    if (list.containsReplacement(entry.match, entry.replacement)) {
         return refuse(
             QStringLiteral("%1 -> %2 is in the list already; it can be enabled or disabled")
                 .arg(quoted(entry.match), quoted(entry.replacement)));
-    if (entry.enabled && isEnabled(list, entry.match))
+    }
+    if (entry.enabled && isEnabled(list, entry.match)) {
         return refuse(enabledAlready(entry.match));
+    }
     list.append(entry);
     return save(request, list, {entry});
 }
@@ -197,14 +201,16 @@ int runRemove(const Request &request)
 {
     MRVAutoReplaceList list = request.options->autoReplaceList();
     const QVector<int> entries = entriesOf(request, list);
-    if (entries.isEmpty())
+    if (entries.isEmpty()) {
         return refuse(
             QStringLiteral("no such entry: %1").arg(quoted(request.arguments.join(u' '))));
+    }
     MRVAutoReplaceList removed;
     for (int i = entries.size() - 1; i >= 0; --i) {
-        if (isOrdinal(list.at(entries.at(i))))
+        if (isOrdinal(list.at(entries.at(i)))) {
             return refuse(QStringLiteral("ordinals stay in each list; disable %1 instead")
                               .arg(quoted(request.arguments.at(0))));
+        }
         removed.prepend(list.takeAt(entries.at(i)));
     }
     return save(request, list, removed);
@@ -214,17 +220,20 @@ int setEnabled(const Request &request, bool enabled)
 {
     MRVAutoReplaceList list = request.options->autoReplaceList();
     const QVector<int> entries = entriesOf(request, list);
-    if (entries.isEmpty())
+    if (entries.isEmpty()) {
         return refuse(
             QStringLiteral("no such entry: %1").arg(quoted(request.arguments.join(u' '))));
-    if (enabled && entries.size() > 1)
+    }
+    if (enabled && entries.size() > 1) {
         return refuse(
             QStringLiteral("%1 entries have the match %2, and only one can apply; add its "
                            "replacement")
                 .arg(QString::number(entries.size()), quoted(request.arguments.at(0))));
+    }
     if (enabled && !list.at(entries.constFirst()).enabled
-        && isEnabled(list, request.arguments.at(0)))
+        && isEnabled(list, request.arguments.at(0))) {
         return refuse(enabledAlready(request.arguments.at(0)));
+    }
     MRVAutoReplaceList changed;
     for (const int i : entries) {
         list[i].enabled = enabled;
@@ -325,16 +334,20 @@ QString objectionTo(const QCommandLineParser &parser, const Verb &verb,
         + QStringList{QStringLiteral("settings"), QStringLiteral("json")};
     const QStringList given = parser.optionNames();
     for (const QString &option : given) {
-        if (!known.contains(option))
+        if (!known.contains(option)) {
             return QStringLiteral("%1 takes no option '%2'").arg(QLatin1String(verb.name), option);
+        }
     }
-    if (arguments.size() < verb.leastArguments)
+    if (arguments.size() < verb.leastArguments) {
         return QStringLiteral("%1 is missing").arg(QLatin1String(verb.missing));
-    if (arguments.size() > verb.mostArguments)
+    }
+    if (arguments.size() > verb.mostArguments) {
         return QStringLiteral("'%1' is one argument too many")
             .arg(arguments.at(verb.mostArguments));
-    if (verb.run != runShow && arguments.value(0, QStringLiteral("-")).isEmpty())
+    }
+    if (verb.run != runShow && arguments.value(0, QStringLiteral("-")).isEmpty()) {
         return QStringLiteral("the match is empty");
+    }
     return QString();
 }
 
@@ -345,8 +358,9 @@ QString damageOf(const MRVOptions &options)
     const QByteArray stored = options.QSettings::value(key).toByteArray();
     QString reason;
     MRVAutoReplaceList list;
-    if (!stored.isEmpty())
+    if (!stored.isEmpty()) {
         list.fromByteArray(stored, &reason);
+    }
     return reason.isEmpty() ? QString()
                             : QStringLiteral("the list in %1: %2").arg(options.fileName(), reason);
 }
@@ -355,16 +369,19 @@ int runVerb(const Verb &verb, const QString &settings, Request *request)
 {
     QString error;
     const OpenedOptions opened = openOptions(settings, verb.access, &error);
-    if (!opened.options)
+    if (!opened.options) {
         return refuse(error);
+    }
     request->options = opened.options.get();
     const QString damage = verb.run == runReset ? QString() : damageOf(*opened.options);
-    if (damage.isEmpty())
+    if (damage.isEmpty()) {
         return verb.run(*request);
+    }
     // What is only shown may be of use still; a change would make the loss last.
     refuse(verb.access == Access::Read ? damage : damage + QLatin1String("; it can be reset"));
-    if (verb.access == Access::Read)
+    if (verb.access == Access::Read) {
         verb.run(*request);
+    }
     return Failed;
 }
 
@@ -377,12 +394,14 @@ int runAutoReplace(const QStringList &arguments)
     const int code = parseArguments(
         &parser, QStringLiteral("autoreplace VERB [ARGUMENTS] [OPTIONS]"), sorted(arguments),
         QStringLiteral(" Texts that look like options go behind '--'."));
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     Request request;
     request.arguments = parser.positionalArguments();
-    if (request.arguments.isEmpty())
+    if (request.arguments.isEmpty()) {
         return usageError(QStringLiteral("a verb is missing, such as show or list"));
+    }
     request.verb = request.arguments.takeFirst();
     request.disabled = parser.isSet(QStringLiteral("disabled"));
     request.json = parser.isSet(QStringLiteral("json"));
@@ -396,8 +415,9 @@ int runAutoReplace(const QStringList &arguments)
         QString error = objectionTo(parser, verb, request.arguments);
         if (!error.isEmpty()
             || (verb.run == runShow
-                && !readInputOptions(parser, request.arguments, &request.input, &error)))
+                && !readInputOptions(parser, request.arguments, &request.input, &error))) {
             return usageError(error);
+        }
         return runVerb(verb, parser.value(QStringLiteral("settings")), &request);
     }
     return usageError(QStringLiteral("unknown verb '%1'").arg(request.verb));

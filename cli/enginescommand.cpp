@@ -48,8 +48,9 @@ MRVImportExport::Engine engineOf(const QString &text)
 {
     const QMap<MRVImportExport::Engine, QString> engines = MRVImportExport::engineTypes();
     for (auto it = engines.cbegin(); it != engines.cend(); ++it) {
-        if (it.value().compare(text, Qt::CaseInsensitive) == 0)
+        if (it.value().compare(text, Qt::CaseInsensitive) == 0) {
             return it.key();
+        }
     }
     return MRVImportExport::UnknownEngine;
 }
@@ -57,8 +58,9 @@ MRVImportExport::Engine engineOf(const QString &text)
 QStringList names(const QList<MRVImportExport::Engine> &engines)
 {
     QStringList names;
-    for (MRVImportExport::Engine engine : engines)
+    for (MRVImportExport::Engine engine : engines) {
         names.append(MRVImportExport::toString(engine));
+    }
     return names;
 }
 
@@ -83,8 +85,9 @@ void print(const Request &request, Format from, Format to)
         {QStringLiteral("supported"), QJsonArray::fromStringList(names(choice.supported))},
         {QStringLiteral("offered"), choice.isOffered()},
     };
-    if (choice.stored != MRVImportExport::UnknownEngine)
+    if (choice.stored != MRVImportExport::UnknownEngine) {
         object.insert(QStringLiteral("stored"), MRVImportExport::toString(choice.stored));
+    }
     printJson(object);
 }
 
@@ -92,17 +95,21 @@ int runList(const Request &request)
 {
     QList<Format> formats;
     for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
-        if (!formats.contains(MRVFormat::formatAt(row)))
+        if (!formats.contains(MRVFormat::formatAt(row))) {
             formats.append(MRVFormat::formatAt(row));
+        }
     }
     for (Format format : qAsConst(formats)) {
         // From RTF to RTF is an export.
-        if (format != MRVFormat::RTF && request.config->explain(format, MRVFormat::RTF).isOffered())
+        if (format != MRVFormat::RTF
+            && request.config->explain(format, MRVFormat::RTF).isOffered()) {
             print(request, format, MRVFormat::RTF);
+        }
     }
     for (Format format : qAsConst(formats)) {
-        if (request.config->explain(MRVFormat::RTF, format).isOffered())
+        if (request.config->explain(MRVFormat::RTF, format).isOffered()) {
             print(request, MRVFormat::RTF, format);
+        }
     }
     return Done;
 }
@@ -111,10 +118,12 @@ int runList(const Request &request)
 QString objection(const Request &request)
 {
     const MRVEngineChoice choice = request.config->explain(request.from, request.to);
-    if (!choice.canImport)
+    if (!choice.canImport) {
         return QStringLiteral("%1 cannot be imported").arg(MRVFormat::name(request.from));
-    if (!choice.canExport)
+    }
+    if (!choice.canExport) {
         return QStringLiteral("%1 cannot be exported").arg(MRVFormat::name(request.to));
+    }
     return QString();
 }
 
@@ -134,8 +143,9 @@ int runSet(const Request &request)
 {
     const QString engine = request.arguments.at(2);
     QString text = objection(request);
-    if (!text.isEmpty())
+    if (!text.isEmpty()) {
         return refuse(text);
+    }
     const MRVEngineChoice choice = request.config->explain(request.from, request.to);
     if (choice.reason == MRVEngineChoice::NeitherSideRtf) {
         return refuse(
@@ -152,8 +162,9 @@ int runSet(const Request &request)
                           .arg(MRVFormat::name(other)));
     }
     request.config->setEngine(request.from, request.to, engineOf(engine));
-    if (!request.options->saveNow(&text))
+    if (!request.options->saveNow(&text)) {
         return refuse(text);
+    }
     print(request, request.from, request.to);
     return Done;
 }
@@ -193,32 +204,36 @@ int runEngines(const QStringList &arguments)
         {QStringLiteral("json"), QStringLiteral("Print each conversion as a line of JSON.")});
     const int code =
         parseArguments(&parser, QStringLiteral("engines VERB [ARGUMENTS] [OPTIONS]"), arguments);
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
 
     Request request;
     request.json = parser.isSet(QStringLiteral("json"));
     request.arguments = parser.positionalArguments();
     const QString name = request.arguments.isEmpty() ? QString() : request.arguments.takeFirst();
     for (const Verb &verb : verbs) {
-        if (name != QLatin1String(verb.name))
+        if (name != QLatin1String(verb.name)) {
             continue;
+        }
         if (request.arguments.size() != verb.arguments) {
             return usageError(
                 QStringLiteral("%1 takes %2 arguments").arg(name, QString::number(verb.arguments)));
         }
         for (int i = 0; i < request.arguments.size() && i < 2; ++i) {
             const Format format = formatNamed(request.arguments.at(i));
-            if (format == MRVFormat::NoFormat)
+            if (format == MRVFormat::NoFormat) {
                 return usageError(
                     QStringLiteral("unknown format '%1'").arg(request.arguments.at(i)));
+            }
             (i == 0 ? request.from : request.to) = format;
         }
         QString error;
         const OpenedOptions opened =
             openOptions(parser.value(QStringLiteral("settings")), verb.access, &error);
-        if (!opened.options)
+        if (!opened.options) {
             return refuse(error);
+        }
         MRVImportExportConfig config(opened.options.get());
         request.options = opened.options.get();
         request.config = &config;

@@ -26,8 +26,9 @@ QList<Entry> entries(const MRVImportExportConfig &config)
     QList<Entry> entries;
     for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
         const MRVFormatInfo info = MRVFormat::formatInfo(row);
-        if (info.extension.isEmpty())
+        if (info.extension.isEmpty()) {
             continue; // output that is no file
+        }
         if (!entries.isEmpty() && entries.constLast().info.format == info.format) {
             entries.last().suffixes.append(info.extension);
             continue;
@@ -81,8 +82,9 @@ int runFormats(const QStringList &arguments)
         {QStringLiteral("json"), QStringLiteral("Print each format as a line of JSON.")});
     const int code =
         parseArguments(&parser, QStringLiteral("formats [SUFFIX...] [OPTIONS]"), arguments);
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     QString error;
     const OpenedOptions opened =
         openOptions(parser.value(QStringLiteral("settings")), Access::Read, &error);

@@ -85,8 +85,9 @@ QString readPassword(const QCommandLineParser &parser, QString *password)
     const QString variable = parser.value(QStringLiteral("password-env"));
     if (!variable.isEmpty()) {
         const QByteArray name = variable.toLocal8Bit();
-        if (!qEnvironmentVariableIsSet(name.constData()))
+        if (!qEnvironmentVariableIsSet(name.constData())) {
             return QStringLiteral("--password-env: there is no variable '%1'").arg(variable);
+        }
         *password = qEnvironmentVariable(name.constData(), QLatin1String(""));
     }
     if (parser.isSet(QStringLiteral("password-fd"))) {
@@ -94,11 +95,13 @@ QString readPassword(const QCommandLineParser &parser, QString *password)
         const int handle = parser.value(QStringLiteral("password-fd")).toInt(&isNumber);
         QFile file;
         if (!isNumber || handle < 0 || fcntl(handle, F_GETFD) < 0
-            || !file.open(handle, QIODevice::ReadOnly))
+            || !file.open(handle, QIODevice::ReadOnly)) {
             return QStringLiteral("--password-fd: no such open file");
+        }
         QByteArray line = file.readLine();
-        while (line.endsWith('\n') || line.endsWith('\r'))
+        while (line.endsWith('\n') || line.endsWith('\r')) {
             line.chop(1);
+        }
         *password = QString::fromUtf8(line) + QLatin1String("");
     }
     return QString();
@@ -108,13 +111,15 @@ QString readPassword(const QCommandLineParser &parser, QString *password)
 QString readOptions(const QCommandLineParser &parser, Options *options)
 {
     const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 1)
+    if (arguments.size() != 1) {
         return QStringLiteral("one URL is needed");
+    }
     options->url = QUrl(arguments.constFirst());
     const QString scheme = options->url.scheme();
     if (!options->url.isValid() || options->url.host().isEmpty()
-        || (scheme != QLatin1String("http") && scheme != QLatin1String("https")))
+        || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
         return QStringLiteral("%1: is no http or https address").arg(arguments.constFirst());
+    }
     // As of a variable that is not set.
     for (const QString &name : parser.optionNames()) {
         if (parser.values(name).contains(QString())) {
@@ -124,13 +129,15 @@ QString readOptions(const QCommandLineParser &parser, Options *options)
     }
     options->output = parser.value(QStringLiteral("output"));
     options->json = parser.isSet(QStringLiteral("json"));
-    if (options->json && options->output == StandardOutput)
+    if (options->json && options->output == StandardOutput) {
         return QStringLiteral("--json: standard output is taken by what is downloaded");
+    }
 
     for (const char *name : {"from", "to"}) {
         const QString charset = parser.value(QLatin1String(name));
-        if (!charset.isEmpty() && !QTextCodec::codecForName(charset.toLatin1()))
+        if (!charset.isEmpty() && !QTextCodec::codecForName(charset.toLatin1())) {
             return QStringLiteral("--%1: unknown charset '%2'").arg(QLatin1String(name), charset);
+        }
     }
     options->from = parser.value(QStringLiteral("from"));
     options->to = parser.value(QStringLiteral("to"));
@@ -138,8 +145,9 @@ QString readOptions(const QCommandLineParser &parser, Options *options)
     bool isNumber = true;
     if (parser.isSet(QStringLiteral("timeout"))) {
         const double seconds = parser.value(QStringLiteral("timeout")).toDouble(&isNumber);
-        if (!isNumber || !(seconds >= 0) || seconds > std::numeric_limits<int>::max() / 1000)
+        if (!isNumber || !(seconds >= 0) || seconds > std::numeric_limits<int>::max() / 1000) {
             return QStringLiteral("--timeout: is no number of seconds");
+        }
         options->timeout = int(std::ceil(seconds * 1000));
     }
     if (parser.isSet(QStringLiteral("max-size"))) {
@@ -153,12 +161,14 @@ QString readOptions(const QCommandLineParser &parser, Options *options)
     options->answers.follow = parser.isSet(QStringLiteral("follow"));
     options->answers.insecure = parser.isSet(QStringLiteral("insecure"));
     options->answers.user = parser.value(QStringLiteral("user"));
-    if (options->answers.user.contains(u':'))
+    if (options->answers.user.contains(u':')) {
         return QStringLiteral("--user: the password is not given here, where others can read it");
+    }
     const QString wrong = readPassword(parser, &options->answers.password);
     if (wrong.isEmpty() && !options->answers.password.isNull() && options->answers.user.isEmpty()
-        && options->url.userName().isEmpty())
+        && options->url.userName().isEmpty()) {
         return QStringLiteral("--user: is needed with a password");
+    }
     return wrong;
 }
 
@@ -188,10 +198,12 @@ Result download(const Options &options)
     QObject::connect(download.networkAccessManager(), &QNetworkAccessManager::sslErrors, &loop,
                      [&](QNetworkReply *reply, const QList<QSslError> &errors) {
                          QStringList texts;
-                         for (const QSslError &error : errors)
+                         for (const QSslError &error : errors) {
                              texts.append(error.errorString());
-                         if (input.ignoreSslErrors(texts))
+                         }
+                         if (input.ignoreSslErrors(texts)) {
                              reply->ignoreSslErrors();
+                         }
                      });
     QObject::connect(&download, &MRVDownloadUrl::downloadProgress, &loop, showBar);
     QObject::connect(&download, &MRVDownloadUrl::downloadError, &loop, [&](const QString &error) {
@@ -219,10 +231,12 @@ bool convert(const Options &options, Result *result)
     const QString utf8 = QStringLiteral("UTF-8");
     const QString named = MRVDownloadUrl::charset(result->contentType).remove(u'"').trimmed();
     const bool isKnown = QTextCodec::codecForName(named.toLatin1());
-    if (!isKnown && !options.from.isEmpty())
+    if (!isKnown && !options.from.isEmpty()) {
         result->data = MRVDownloadUrl::convert(result->data, options.from, utf8);
-    if (options.to.isEmpty())
+    }
+    if (options.to.isEmpty()) {
         return true;
+    }
     if (!isKnown && options.from.isEmpty()) {
         result->error = QStringLiteral("the server does not say what the text is in; --from does");
         return false;
@@ -240,8 +254,9 @@ bool convert(const Options &options, Result *result)
 QString targetFile(const Options &options)
 {
     const QString &output = options.output;
-    if (!output.isEmpty() && !QFileInfo(output).isDir())
+    if (!output.isEmpty() && !QFileInfo(output).isDir()) {
         return output;
+    }
     const QString name = printable(MRVDownloadUrl::fileForUrl(QString(), options.url));
     return MRVCoreUtil::GetUniqueFileName(output.isEmpty() ? name
                                                            : QDir(output).absoluteFilePath(name));
@@ -250,12 +265,14 @@ QString targetFile(const Options &options)
 // What would be said after all has come can be said before.
 QString unwritable(const Options &options)
 {
-    if (options.output == StandardOutput)
+    if (options.output == StandardOutput) {
         return QString();
+    }
     const QString file = targetFile(options);
     // What a link leads to is written, wherever the link lies.
-    if (QFileInfo(file).isSymLink())
+    if (QFileInfo(file).isSymLink()) {
         return QString();
+    }
     const QFileInfo folder(QFileInfo(file).absolutePath());
     return !folder.isDir()     ? QStringLiteral("%1: its folder does not exist").arg(file)
         : !folder.isWritable() ? QStringLiteral("%1: its folder is write-protected").arg(file)
@@ -274,8 +291,9 @@ int runGet(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("What to download."));
     addOptions(&parser);
     const int code = parseArguments(&parser, QStringLiteral("get URL [OPTIONS]"), arguments);
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     Options options;
     const QString wrong = readOptions(parser, &options);
     const QString useless = wrong.isEmpty() ? unwritable(options) : wrong;

@@ -90,30 +90,35 @@ bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *e
 {
     QString reason;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
-    if (!error->isEmpty())
+    if (!error->isEmpty()) {
         return false;
+    }
     *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
-    if (bytes.isEmpty() || !reason.isEmpty())
+    if (bytes.isEmpty() || !reason.isEmpty()) {
         *error = QStringLiteral("%1 is not a preset file, or is damaged").arg(path);
+    }
     return error->isEmpty();
 }
 
 bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *error)
 {
-    if (!request.file.isEmpty())
+    if (!request.file.isEmpty()) {
         return readPresetFile(request.file, scheme, error);
+    }
     if (request.settings.isEmpty()) {
         const QString path = MRVTextPresetMgr::presetSchemeFilePath();
-        if (QFileInfo::exists(path))
+        if (QFileInfo::exists(path)) {
             return readPresetFile(path, scheme, error);
+        }
         *scheme = MRVTextPresetMgr::loadPresetScheme();
         return true;
     }
     QString reason;
     const QByteArray bytes = request.options->value(MRVOptions::TextPresets);
     *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
-    if (!reason.isEmpty())
+    if (!reason.isEmpty()) {
         *error = request.options->fileName() + QLatin1String(": ") + reason;
+    }
     return error->isEmpty();
 }
 
@@ -126,22 +131,26 @@ bool writePresets(const Request &request, const MRVTextPresetScheme &scheme, QSt
     }
     MRVTextPresetMgr::savePresetScheme(scheme);
     // The file may have been impossible to write, and the settings then be hidden by an older file.
-    if (!mrvOptions()->saveNow(error))
+    if (!mrvOptions()->saveNow(error)) {
         return false;
-    if (MRVTextPresetMgr::loadPresetScheme() != scheme)
+    }
+    if (MRVTextPresetMgr::loadPresetScheme() != scheme) {
         *error =
             QStringLiteral("%1 cannot be written").arg(MRVTextPresetMgr::presetSchemeFilePath());
+    }
     return error->isEmpty();
 }
 
 QJsonValue jsonOf(int property, const QVariant &value)
 {
-    if (value.userType() == QMetaType::QBrush)
+    if (value.userType() == QMetaType::QBrush) {
         return value.value<QBrush>().color().name();
+    }
     if (property == QTextFormat::BlockAlignment) {
         for (const AlignmentRow &row : alignmentRows) {
-            if (value.toInt() & row.alignment)
+            if (value.toInt() & row.alignment) {
                 return QLatin1String(row.name);
+            }
         }
     }
     const QJsonValue json = QJsonValue::fromVariant(value);
@@ -151,8 +160,9 @@ QJsonValue jsonOf(int property, const QVariant &value)
 QString nameOf(int property)
 {
     for (const PropertyRow &row : propertyRows) {
-        if (row.property == property)
+        if (row.property == property) {
             return QLatin1String(row.name);
+        }
     }
     return QStringLiteral("0x%1").arg(property, 0, 16);
 }
@@ -161,18 +171,21 @@ QJsonObject jsonOf(const QTextFormat &format)
 {
     QJsonObject object;
     const QMap<int, QVariant> properties = format.properties();
-    for (auto it = properties.cbegin(); it != properties.cend(); ++it)
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         object.insert(nameOf(it.key()), jsonOf(it.key(), it.value()));
+    }
     return object;
 }
 
 QStringList partsOf(const MRVTextPreset &preset)
 {
     QStringList parts;
-    if (preset.applyFlags() & MRVTextPreset::ApplyCharFormat)
+    if (preset.applyFlags() & MRVTextPreset::ApplyCharFormat) {
         parts << QStringLiteral("characters");
-    if (preset.applyFlags() & MRVTextPreset::ApplyBlockFormat)
+    }
+    if (preset.applyFlags() & MRVTextPreset::ApplyBlockFormat) {
         parts << QStringLiteral("paragraphs");
+    }
     return parts;
 }
 
@@ -188,8 +201,9 @@ void printFormat(const char *title, const QTextFormat &format)
 {
     const QJsonObject object = jsonOf(format);
     QStringList values;
-    for (auto it = object.begin(); it != object.end(); ++it)
+    for (auto it = object.begin(); it != object.end(); ++it) {
         values << it.key() + u' ' + displayed(it.value().toVariant().toString());
+    }
     printLine(QStringLiteral("  %1 %2").arg(QLatin1String(title), -11).arg(values.join(u", ")));
 }
 
@@ -217,8 +231,9 @@ int list(const Request &request, MRVTextPresetScheme scheme)
 int show(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
-        if (!scheme.contains(name))
+        if (!scheme.contains(name)) {
             return refuseName(name, scheme);
+        }
     }
     for (const QString &name : request.arguments) {
         if (request.json) {
@@ -243,21 +258,25 @@ int importFrom(const Request &request, MRVTextPresetScheme scheme)
 {
     QString error;
     MRVTextPresetScheme added;
-    if (!readPresetFile(request.arguments.constFirst(), &added, &error))
+    if (!readPresetFile(request.arguments.constFirst(), &added, &error)) {
         return refuse(error);
-    if (request.onlyThese)
+    }
+    if (request.onlyThese) {
         scheme = MRVTextPresetScheme();
+    }
     const QStringList names = added.names();
-    for (const QString &name : names)
+    for (const QString &name : names) {
         scheme.setPreset(name, added.preset(name));
+    }
     return writePresets(request, scheme, &error) ? Done : refuse(error);
 }
 
 int removeFrom(const Request &request, MRVTextPresetScheme scheme)
 {
     for (const QString &name : request.arguments) {
-        if (!scheme.deletePreset(name))
+        if (!scheme.deletePreset(name)) {
             return refuseName(name, scheme);
+        }
     }
     QString error;
     return writePresets(request, scheme, &error) ? Done : refuse(error);
@@ -280,23 +299,28 @@ constexpr Action actions[] = {
 int runAction(const Action &action, Request request)
 {
     const int count = request.arguments.size();
-    if (action.run == list ? count > 0 : (count == 0 || (action.takesOne && count > 1)))
+    if (action.run == list ? count > 0 : (count == 0 || (action.takesOne && count > 1))) {
         return usageError(
             QStringLiteral("wrong number of arguments for '%1'").arg(QLatin1String(action.name)));
-    if (action.access != Access::Read && !request.file.isEmpty())
+    }
+    if (action.access != Access::Read && !request.file.isEmpty()) {
         return usageError(QStringLiteral("--file is only for list, show and export"));
-    if (request.onlyThese && action.run != importFrom)
+    }
+    if (request.onlyThese && action.run != importFrom) {
         return usageError(QStringLiteral("--only-these is only for import"));
+    }
     QString error;
     OpenedOptions opened;
-    if (request.file.isEmpty())
+    if (request.file.isEmpty()) {
         opened = openOptions(request.settings, action.access, &error);
+    }
     request.options = opened.options.get();
     MRVTextPresetScheme scheme;
     // What is there may be damaged when all of it is to be replaced.
     const bool isReplaced = request.onlyThese && action.run == importFrom;
-    if (!error.isEmpty() || (!isReplaced && !readPresets(request, &scheme, &error)))
+    if (!error.isEmpty() || (!isReplaced && !readPresets(request, &scheme, &error))) {
         return refuse(error);
+    }
     return action.run(request, scheme);
 }
 
@@ -326,8 +350,9 @@ int runPresets(const QStringList &arguments)
         {QStringLiteral("json"), QStringLiteral("Print each preset as a line of JSON.")});
     const int code =
         parseArguments(&parser, QStringLiteral("presets ACTION [ARGUMENTS] [OPTIONS]"), arguments);
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     // The presets lie in the application's folders, not in those of the tool.
     QCoreApplication::setOrganizationName(MRVOptions::companyName());
     QCoreApplication::setApplicationName(MRVOptions::applicationName());
@@ -337,12 +362,14 @@ int runPresets(const QStringList &arguments)
     request.file = parser.value(QStringLiteral("file"));
     request.onlyThese = parser.isSet(QStringLiteral("only-these"));
     request.json = parser.isSet(QStringLiteral("json"));
-    if (request.arguments.isEmpty())
+    if (request.arguments.isEmpty()) {
         return usageError(QStringLiteral("an action is missing; try 'mrv presets --help'"));
+    }
     const QString name = request.arguments.takeFirst();
     for (const Action &action : actions) {
-        if (name == QLatin1String(action.name))
+        if (name == QLatin1String(action.name)) {
             return runAction(action, request);
+        }
     }
     return usageError(QStringLiteral("unknown action '%1'").arg(name));
 }

@@ -27,8 +27,9 @@ constexpr QLatin1String PdfSettings("PdfSettings");
 QString namedPdfSettings(const QStringList &names)
 {
     QStringList keys;
-    for (const QString &name : names)
+    for (const QString &name : names) {
         keys.append(displayed(PdfSettings + QLatin1String("/") + name));
+    }
     return keys.join(QLatin1String(", "));
 }
 
@@ -42,8 +43,9 @@ int refuse(const QString &text)
 int distance(const QString &a, const QString &b)
 {
     QVector<int> row(b.size() + 1);
-    for (int j = 0; j <= b.size(); ++j)
+    for (int j = 0; j <= b.size(); ++j) {
         row[j] = j;
+    }
     for (int i = 1; i <= a.size(); ++i) {
         int diagonal = row[0];
         row[0] = i;
@@ -106,8 +108,9 @@ QJsonObject jsonOf(const MRVOptions::Explanation &explanation)
         {QStringLiteral("default"), jsonOf(explanation.type, explanation.defaultValue)},
         {QStringLiteral("changed"), explanation.isChanged()},
     };
-    if (!explanation.accepts.isEmpty())
+    if (!explanation.accepts.isEmpty()) {
         object.insert(QStringLiteral("accepts"), explanation.accepts);
+    }
     object.insert(QStringLiteral("origin"),
                   explanation.origin.isEmpty() ? QJsonValue() : QJsonValue(explanation.origin));
     return object;
@@ -121,8 +124,9 @@ QString shownText(MRVOptions::SettingType type, const QVariant &value)
         const int bytes = QByteArray::fromBase64(text.mid(7).toLatin1()).size();
         return QStringLiteral("(%1 bytes)").arg(bytes);
     }
-    if (type == MRVOptions::StringListType)
+    if (type == MRVOptions::StringListType) {
         return value.toStringList().join(QLatin1String(", "));
+    }
     text.replace(u'\\', QLatin1String("\\\\")).replace(u'\n', QLatin1String("\\n"));
     return displayed(text);
 }
@@ -131,8 +135,9 @@ int get(const Request &request)
 {
     for (const QString &key : request.arguments) {
         const MRVOptions::Explanation explanation = request.options->explain(key);
-        if (explanation.key.isEmpty())
+        if (explanation.key.isEmpty()) {
             return refuseKey(key);
+        }
         if (request.json) {
             printJson({{QStringLiteral("key"), key},
                        {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)}});
@@ -147,28 +152,33 @@ int set(const Request &request)
 {
     const QString key = request.arguments.constFirst();
     const MRVOptions::Explanation before = request.options->explain(key);
-    if (before.key.isEmpty())
+    if (before.key.isEmpty()) {
         return refuseKey(key);
+    }
     if (request.arguments.size() > 2 && before.type != MRVOptions::StringListType) {
         printError(QStringLiteral("settings: %1 takes one value").arg(key));
         return WrongUsage;
     }
     const QString text = request.arguments.mid(1).join(u'\n');
     QString error;
-    if (!request.options->setFromText(key, text, &error))
+    if (!request.options->setFromText(key, text, &error)) {
         return refuse(key + QLatin1String(": ") + error);
-    if (!request.options->saveNow(&error))
+    }
+    if (!request.options->saveNow(&error)) {
         return refuse(error);
-    if (request.json)
+    }
+    if (request.json) {
         printJson(jsonOf(request.options->explain(key)));
+    }
     return Done;
 }
 
 int reset(const Request &request)
 {
     for (const QString &key : request.arguments) {
-        if (request.options->explain(key).key.isEmpty())
+        if (request.options->explain(key).key.isEmpty()) {
             return refuseKey(key);
+        }
     }
     const QStringList names = request.options->pdfSettingsNames();
     if (request.arguments.contains(PdfSettings) && !names.isEmpty()) {
@@ -177,10 +187,11 @@ int reset(const Request &request)
                 .arg(PdfSettings, QString::number(names.size()), namedPdfSettings(names)));
     }
     for (const QString &key : request.arguments) {
-        if (key.startsWith(PdfSettings + QLatin1String("/")))
+        if (key.startsWith(PdfSettings + QLatin1String("/"))) {
             request.options->removePdfSettings(key.mid(PdfSettings.size() + 1));
-        else
+        } else {
             request.options->remove(key);
+        }
     }
     QString error;
     return request.options->saveNow(&error) ? Done : refuse(error);
@@ -194,14 +205,16 @@ int list(const Request &request)
         const auto isWanted = [&key](const QString &word) {
             return key.contains(word, Qt::CaseInsensitive);
         };
-        if (!std::all_of(request.arguments.begin(), request.arguments.end(), isWanted))
+        if (!std::all_of(request.arguments.begin(), request.arguments.end(), isWanted)) {
             continue;
+        }
         found = true;
         const MRVOptions::Explanation explanation = request.options->explain(key);
-        if (request.json)
+        if (request.json) {
             printJson(jsonOf(explanation));
-        else
+        } else {
             printLine(key + QLatin1String(" = ") + shownText(explanation.type, explanation.value));
+        }
     }
     return found ? Done : Failed;
 }
@@ -210,8 +223,9 @@ int explain(const Request &request)
 {
     for (const QString &key : request.arguments) {
         const MRVOptions::Explanation explanation = request.options->explain(key);
-        if (explanation.key.isEmpty())
+        if (explanation.key.isEmpty()) {
             return refuseKey(key);
+        }
         if (request.json) {
             printJson(jsonOf(explanation));
             continue;
@@ -221,11 +235,13 @@ int explain(const Request &request)
         printLine(QLatin1String("  value    ") + shownText(explanation.type, explanation.value));
         printLine(QLatin1String("  default  ")
                   + shownText(explanation.type, explanation.defaultValue));
-        if (!explanation.accepts.isEmpty())
+        if (!explanation.accepts.isEmpty()) {
             printLine(QLatin1String("  accepts  ") + explanation.accepts);
+        }
         if (const QStringList names = request.options->pdfSettingsNames();
-            key == PdfSettings && !names.isEmpty())
+            key == PdfSettings && !names.isEmpty()) {
             printLine(QLatin1String("  names    ") + namedPdfSettings(names));
+        }
         printLine(QLatin1String("  from     ")
                   + (explanation.origin.isEmpty() ? QStringLiteral("the default")
                                                   : displayed(explanation.origin)));
@@ -251,8 +267,9 @@ int changed(const Request &request)
 int exportTo(const Request &request)
 {
     const QString path = request.arguments.constFirst();
-    if (QFileInfo(path) == QFileInfo(request.options->fileName()))
+    if (QFileInfo(path) == QFileInfo(request.options->fileName())) {
         return refuse(QStringLiteral("%1 is the settings file itself").arg(path));
+    }
     QString error;
     return request.options->saveToFile(path, &error) ? Done : refuse(error);
 }
@@ -263,10 +280,12 @@ int importFrom(const Request &request)
     const QString path = request.arguments.constFirst();
     QString error;
     const OpenedOptions source = openOptions(path, Access::Read, &error);
-    if (!source.options)
+    if (!source.options) {
         return refuse(error);
-    if (source.options->allKeys().isEmpty())
+    }
+    if (source.options->allKeys().isEmpty()) {
         return refuse(QStringLiteral("%1: there are no settings in it").arg(path));
+    }
     request.options->loadFromFile(path);
     return request.options->saveNow(&error) ? Done : refuse(error);
 }
@@ -304,14 +323,17 @@ QStringList withValuesLast(const QStringList &arguments)
         const QString &argument = arguments.at(i);
         bool isNumber = false;
         argument.toDouble(&isNumber);
-        if (argument == QLatin1String("--"))
+        if (argument == QLatin1String("--")) {
             return options + values + arguments.mid(i + 1);
-        if (isNumber || argument.size() < 2 || !argument.startsWith(u'-'))
+        }
+        if (isNumber || argument.size() < 2 || !argument.startsWith(u'-')) {
             values.append(argument);
-        else
+        } else {
             options.append(argument);
-        if (argument == QLatin1String("--settings") && i + 1 < arguments.size())
+        }
+        if (argument == QLatin1String("--settings") && i + 1 < arguments.size()) {
             options.append(arguments.at(++i));
+        }
     }
     return options + values;
 }
@@ -320,8 +342,9 @@ int runAction(const Action &action, Request *request, const QString &path)
 {
     QString error;
     const OpenedOptions opened = openOptions(path, action.access, &error);
-    if (!opened.options)
+    if (!opened.options) {
         return refuse(error);
+    }
     request->options = opened.options.get();
     return action.run(*request);
 }
@@ -351,15 +374,17 @@ int runSettings(const QStringList &arguments)
     const int code =
         parseArguments(&parser, QStringLiteral("settings ACTION [ARGUMENTS] [OPTIONS]"),
                        withValuesLast(arguments));
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     Request request;
     request.arguments = parser.positionalArguments();
     request.json = parser.isSet(QStringLiteral("json"));
     const QString name = request.arguments.isEmpty() ? QString() : request.arguments.takeFirst();
     for (const Action &action : actions) {
-        if (name != QLatin1String(action.name))
+        if (name != QLatin1String(action.name)) {
             continue;
+        }
         if (request.arguments.size() < action.least || request.arguments.size() > action.most) {
             printError(
                 QStringLiteral("settings: %1 takes other arguments; try 'mrv settings --help'")

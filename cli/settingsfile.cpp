@@ -28,20 +28,25 @@ bool beginsLikeSettings(QFile *file)
     bool isSettings = true;
     bool isInLine = false;
     const QByteArray mark("\xef\xbb\xbf"); // of UTF-8, which some editors write
-    if (file->peek(mark.size()) == mark)
+    if (file->peek(mark.size()) == mark) {
         file->skip(mark.size());
+    }
     while (!file->atEnd()) {
         const QByteArray part = file->readLine(MostLine);
-        if (std::exchange(isInLine, !part.endsWith('\n')))
+        if (std::exchange(isInLine, !part.endsWith('\n'))) {
             continue;
+        }
         const QByteArray line = part.trimmed();
-        if (line.startsWith('['))
+        if (line.startsWith('[')) {
             return line.contains(']');
-        if (line.isEmpty() || line.startsWith(';'))
+        }
+        if (line.isEmpty() || line.startsWith(';')) {
             continue;
+        }
         isSettings = key.match(QString::fromLatin1(line)).hasMatch();
-        if (!isSettings && (!line.startsWith('#') || line.startsWith("#!")))
+        if (!isSettings && (!line.startsWith('#') || line.startsWith("#!"))) {
             return false;
+        }
     }
     return isSettings;
 }
@@ -64,8 +69,9 @@ std::unique_ptr<QLockFile> lockFor(const QFileInfo &file)
     const QDeadlineTimer deadline(MostWaiting);
     // Its own waiting becomes longer and longer. A folder that takes no lock is for saving to tell.
     while (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) {
-        if (deadline.hasExpired())
+        if (deadline.hasExpired()) {
             return nullptr;
+        }
         QThread::msleep(Step);
     }
     return lock;
@@ -74,17 +80,22 @@ std::unique_ptr<QLockFile> lockFor(const QFileInfo &file)
 // Empty where there is none. QSettings would wait at a pipe, put a file in place of a device, and make folders.
 QString objectionTo(const QFileInfo &info, bool isOwn, Access access)
 {
-    if (info.exists() && !info.isFile())
+    if (info.exists() && !info.isFile()) {
         return QStringLiteral("it is not a regular file");
-    if (isOwn)
+    }
+    if (isOwn) {
         return QString();
-    if (!info.dir().exists())
+    }
+    if (!info.dir().exists()) {
         return QStringLiteral("its folder does not exist");
-    if (!info.exists() && access == Access::Create)
+    }
+    if (!info.exists() && access == Access::Create) {
         return QString();
+    }
     QFile file(info.filePath());
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return file.errorString();
+    }
     return beginsLikeSettings(&file) ? QString() : QStringLiteral("this is no settings file");
 }
 
@@ -105,17 +116,20 @@ OpenedOptions openOptions(const QString &path, Access access, QString *error)
     OpenedOptions opened;
     QString reason = objectionTo(file, isOwn, access);
     if (reason.isEmpty() && access != Access::Read) {
-        if (isOwn)
+        if (isOwn) {
             QDir().mkpath(file.path());
+        }
         opened.lock = lockFor(file);
-        if (!opened.lock)
+        if (!opened.lock) {
             reason = QStringLiteral("another command is changing it");
+        }
     }
     if (reason.isEmpty()) {
         opened.options =
             isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
-        if (isOwn || opened.options->status() == QSettings::NoError)
+        if (isOwn || opened.options->status() == QSettings::NoError) {
             return opened;
+        }
         opened.options.reset();
         reason = QStringLiteral("this is no settings file");
     }

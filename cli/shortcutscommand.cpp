@@ -46,17 +46,20 @@ bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error
 {
     const OpenedOptions opened = openOptions(path, Access::Read, error);
     const MRVOptions *options = opened.options.get();
-    if (!options)
+    if (!options) {
         return false;
+    }
     // The options give the default in place of what cannot be read; here it has to be told.
     const QVariant stored =
         options->QSettings::value(options->keyText(MRVOptions::DefaultShortcutScheme));
     *scheme = MRVShortcutScheme::morvane();
     QString reason;
-    if (stored.isValid())
+    if (stored.isValid()) {
         *scheme = MRVShortcutScheme::fromByteArray(stored.toByteArray(), &reason);
-    if (!reason.isEmpty())
+    }
+    if (!reason.isEmpty()) {
         *error = QStringLiteral("the shortcut scheme in %1: %2").arg(options->fileName(), reason);
+    }
     return reason.isEmpty();
 }
 
@@ -64,16 +67,18 @@ bool readNamed(const QString &name, MRVShortcutScheme *scheme, QString *error)
 {
     // First, whatever lies in the current folder.
     *scheme = MRVShortcutScheme::predefinedScheme(name);
-    if (scheme->name() == name)
+    if (scheme->name() == name) {
         return true;
+    }
     if (QFileInfo::exists(name)) {
         *scheme = MRVShortcutScheme::load(name, error);
         return error->isEmpty();
     }
     QStringList names;
     const QList<MRVShortcutScheme> predefined = MRVShortcutScheme::predefinedSchemes();
-    for (const MRVShortcutScheme &one : predefined)
+    for (const MRVShortcutScheme &one : predefined) {
         names.append(one.name());
+    }
     *error =
         QStringLiteral("%1: there is no such file, and no predefined scheme of that name").arg(name)
         + didYouMean(name, names);
@@ -87,10 +92,12 @@ bool readScheme(const Request &request, int argument, MRVShortcutScheme *scheme)
     const bool read = argument < request.schemes.size()
         ? readNamed(request.schemes.at(argument), scheme, &error)
         : readSettings(request.settings, scheme, &error);
-    if (read && !request.storedOnly)
+    if (read && !request.storedOnly) {
         scheme->mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
-    if (!read)
+    }
+    if (!read) {
         refuse(error);
+    }
     return read;
 }
 
@@ -120,17 +127,21 @@ QJsonObject jsonOf(const MRVShortcutInfo &info)
 int list(const Request &request)
 {
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme))
+    if (!readScheme(request, 0, &scheme)) {
         return Failed;
+    }
     bool found = false;
     const QList<MRVShortcutInfo> infos = scheme.findShortcuts(request.filter);
     for (const MRVShortcutInfo &info : infos) {
         const QString group = MRVShortcut::group(info.id);
-        if (!request.group.isEmpty() && group.compare(request.group, Qt::CaseInsensitive) != 0)
+        if (!request.group.isEmpty() && group.compare(request.group, Qt::CaseInsensitive) != 0) {
             continue;
+        }
         // Chords that begin with the keys are theirs, too.
-        if (!request.keys.isEmpty() && request.keys.matches(info.sequence) == QKeySequence::NoMatch)
+        if (!request.keys.isEmpty()
+            && request.keys.matches(info.sequence) == QKeySequence::NoMatch) {
             continue;
+        }
         found = true;
         if (request.json) {
             printJson(jsonOf(info));
@@ -145,8 +156,9 @@ int list(const Request &request)
 int check(const Request &request)
 {
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme))
+    if (!readScheme(request, 0, &scheme)) {
         return Failed;
+    }
     const QList<MRVShortcutCheck::Conflict> conflicts = MRVShortcutCheck::conflicts(scheme);
     for (const MRVShortcutCheck::Conflict &conflict : conflicts) {
         const QString sentence = MRVShortcutCheck::describe(conflict, scheme);
@@ -173,15 +185,19 @@ QString differenceText(const MRVShortcutCheck::Difference &difference)
 {
     const MRVShortcutInfo &before = difference.before;
     const MRVShortcutInfo &after = difference.after;
-    if (after.id == MRVShortcut::NoId)
+    if (after.id == MRVShortcut::NoId) {
         return QStringLiteral("removed (%1)").arg(native(before.sequence));
-    if (before.id == MRVShortcut::NoId)
+    }
+    if (before.id == MRVShortcut::NoId) {
         return QStringLiteral("added (%1)").arg(native(after.sequence));
+    }
     QStringList changes;
-    if (before.sequence != after.sequence)
+    if (before.sequence != after.sequence) {
         changes += native(before.sequence) + QLatin1String(" -> ") + native(after.sequence);
-    if (before.text != after.text)
+    }
+    if (before.text != after.text) {
         changes += QStringLiteral("\u201c%1\u201d -> \u201c%2\u201d").arg(before.text, after.text);
+    }
     return changes.join(QLatin1String(", "));
 }
 
@@ -190,8 +206,9 @@ int diff(const Request &request)
     MRVShortcutScheme before = MRVShortcutScheme::morvane();
     MRVShortcutScheme after;
     const bool two = request.schemes.size() == 2;
-    if ((two && !readScheme(request, 0, &before)) || !readScheme(request, two ? 1 : 0, &after))
+    if ((two && !readScheme(request, 0, &before)) || !readScheme(request, two ? 1 : 0, &after)) {
         return Failed;
+    }
     const auto differences = MRVShortcutCheck::differences(before, after);
     for (const MRVShortcutCheck::Difference &difference : differences) {
         if (!request.json) {
@@ -212,8 +229,9 @@ int diff(const Request &request)
 int exportScheme(const Request &request)
 {
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme))
+    if (!readScheme(request, 0, &scheme)) {
         return Failed;
+    }
     QString error;
     const QByteArray bytes = request.asText ? scheme.toText().toUtf8() : scheme.toByteArray();
     const bool written = request.output.isEmpty()
@@ -290,29 +308,35 @@ QString readOptions(const QCommandLineParser &parser, const Action &action, Requ
         }
     }
     request->settings = parser.value(QStringLiteral("settings"));
-    if (!request->settings.isEmpty() && !request->schemes.isEmpty())
+    if (!request->settings.isEmpty() && !request->schemes.isEmpty()) {
         return QStringLiteral("either --settings or a scheme can be given");
-    if (request->schemes.size() > action.mostSchemes)
+    }
+    if (request->schemes.size() > action.mostSchemes) {
         return QStringLiteral("%1 takes fewer schemes").arg(QLatin1String(action.name));
+    }
     const QString keys = parser.value(QStringLiteral("keys"));
     request->keys = MRVShortcutScheme::toSequence(keys);
-    if (parser.isSet(QStringLiteral("keys")) && request->keys.isEmpty())
+    if (parser.isSet(QStringLiteral("keys")) && request->keys.isEmpty()) {
         return QStringLiteral("'%1' holds what is no key").arg(keys);
+    }
     const QString format = parser.value(QStringLiteral("to"));
     request->asText = format == QLatin1String("text");
-    if (!request->asText && format != QLatin1String("scheme"))
+    if (!request->asText && format != QLatin1String("scheme")) {
         return QStringLiteral("unknown format '%1'; known are text and scheme").arg(format);
+    }
     request->storedOnly = parser.isSet(QStringLiteral("stored"));
     request->filter = parser.value(QStringLiteral("filter"));
     request->group = parser.value(QStringLiteral("group"));
     const QStringList groups = MRVShortcutScheme::morvane().shortcutGroups();
     if (parser.isSet(QStringLiteral("group"))
-        && !groups.contains(request->group, Qt::CaseInsensitive))
+        && !groups.contains(request->group, Qt::CaseInsensitive)) {
         return QStringLiteral("unknown group '%1'; known are %2")
             .arg(request->group, groups.join(QLatin1String(", ")));
+    }
     request->output = parser.value(QStringLiteral("output"));
-    if (parser.isSet(QStringLiteral("output")) && request->output.isEmpty())
+    if (parser.isSet(QStringLiteral("output")) && request->output.isEmpty()) {
         return QStringLiteral("--output takes the name of a file");
+    }
     request->json = parser.isSet(QStringLiteral("json"));
     return QString();
 }
@@ -325,8 +349,9 @@ int runShortcuts(const QStringList &arguments)
     addOptions(&parser);
     const int code = parseArguments(
         &parser, QStringLiteral("shortcuts ACTION [SCHEME...] [OPTIONS]"), arguments);
-    if (code >= 0)
+    if (code >= 0) {
         return code;
+    }
     Request request;
     request.schemes = parser.positionalArguments();
     const QString name = request.schemes.isEmpty() ? QString() : request.schemes.takeFirst();

@@ -53,8 +53,9 @@ public:
         for (int i = 0; i < Signals; ++i) {
             sigaction(endingSignals[i], nullptr, &m_before[i]);
             // A signal that is ignored, as under nohup, stays so.
-            if (m_before[i].sa_handler == SIG_DFL)
+            if (m_before[i].sa_handler == SIG_DFL) {
                 sigaction(endingSignals[i], &action, nullptr);
+            }
         }
         termios hidden = shownTyping;
         hidden.c_lflag &= ~tcflag_t(ECHO);
@@ -63,8 +64,9 @@ public:
     ~HiddenTyping()
     {
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &shownTyping);
-        for (int i = 0; i < Signals; ++i)
+        for (int i = 0; i < Signals; ++i) {
             sigaction(endingSignals[i], &m_before[i], nullptr);
+        }
     }
     Q_DISABLE_COPY(HiddenTyping)
 
@@ -76,8 +78,9 @@ private:
 QString readLine()
 {
     QByteArray line;
-    for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar())
+    for (int c = std::getchar(); c != EOF && c != '\n'; c = std::getchar()) {
         line.append(char(c));
+    }
     return QString::fromLocal8Bit(line);
 }
 
@@ -90,14 +93,17 @@ bool canAsk()
 
 QString askLine(const QString &prompt, bool isSecret)
 {
-    if (!canAsk())
+    if (!canAsk()) {
         return QString();
+    }
     std::optional<HiddenTyping> hidden;
-    if (isSecret)
+    if (isSecret) {
         hidden.emplace(); // forgets what was typed before the question
+    }
     showProgress(printable(prompt));
-    if (!isSecret)
+    if (!isSecret) {
         return readLine();
+    }
     const QString line = readLine();
     std::fputc('\n', stderr);
     return line;
@@ -106,8 +112,9 @@ QString askLine(const QString &prompt, bool isSecret)
 QString printable(QString text)
 {
     for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format)
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) {
             c = u' ';
+        }
     }
     return text;
 }
@@ -131,16 +138,19 @@ bool TerminalInput::authenticate(const QString &realm, const QUrl &url, QString 
     const int count = ++m_passwords;
     // A password is for the server that it was given for, and not for where that one sends us.
     const bool isOurs = isSameServer(url, m_first);
-    if (isOurs && !m_answers.user.isEmpty())
+    if (isOurs && !m_answers.user.isEmpty()) {
         *user = m_answers.user;
+    }
     if (isOurs && !m_answers.password.isNull()) {
         *password = m_answers.password;
         return count == 1 || refuse(QStringLiteral("the user name or the password is wrong"));
     }
-    if (!canAsk() || count > MaxPasswords)
+    if (!canAsk() || count > MaxPasswords) {
         return refuse(QStringLiteral("'%1' asks for a password").arg(realm));
-    if (user->isEmpty())
+    }
+    if (user->isEmpty()) {
         *user = askLine(QStringLiteral("User name for '%1' at %2: ").arg(realm, url.host()));
+    }
     *password = askLine(
         QStringLiteral("Password of %1 for '%2' at %3: ").arg(*user, realm, url.host()), true);
     return true;

@@ -46,8 +46,9 @@ private:
 
 bool isLookedUp(const QString &line, int end, LookUp lookUp)
 {
-    if (end < line.size() && line.at(end - 1).isHighSurrogate() && line.at(end).isLowSurrogate())
+    if (end < line.size() && line.at(end - 1).isHighSurrogate() && line.at(end).isLowSurrogate()) {
         return false;
+    }
     return lookUp == LookUp::AfterEachCharacter || end == line.size() || line.at(end).isSpace();
 }
 

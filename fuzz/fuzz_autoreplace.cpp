@@ -17,8 +17,9 @@ namespace {
 
 void check(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 void lookUp(const MRVAutoReplaceList &list, const QString &text)

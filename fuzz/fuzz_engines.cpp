@@ -19,8 +19,9 @@ namespace {
 
 void check(bool holds)
 {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 // What Qt's own map operator gives, for bytes that it reads without reserving what a length claims.
@@ -34,8 +35,9 @@ FormatEngines readByQt(const QByteArray &bytes)
     for (auto it = names.cbegin(); it != names.cend(); ++it) {
         const MRVFormat::Format format = MRVFormat::format(it.key());
         const MRVImportExport::Engine engine = MRVImportExport::toEngine(it.value());
-        if (format && engine)
+        if (format && engine) {
             engines.insert(format, engine);
+        }
     }
     return engines;
 }

@@ -18,8 +18,9 @@
 
 static void require(bool kept)
 {
-    if (!kept)
+    if (!kept) {
         std::abort();
+    }
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -37,11 +38,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     require(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(script), &read));
     // Characters that XML does not have are lost in it.
     for (const QChar c : script.toText()) {
-        if ((c < u' ' && c != u'\n' && c != u'\t') || c.isSurrogate() || c.unicode() >= 0xfffe)
+        if ((c < u' ' && c != u'\n' && c != u'\t') || c.isSurrogate() || c.unicode() >= 0xfffe) {
             return 0;
+        }
     }
-    if (MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script), &read))
+    if (MRVFountainHtml::fromHtml(MRVFountainHtml::toHtml(script), &read)) {
         require(read == script);
+    }
     require(MRVScriptStatistics::of(script).lines >= 0);
     return 0;
 }

@@ -27,8 +27,9 @@ const QString key = QStringLiteral("Fuzz/value");
 
 void require(bool condition)
 {
-    if (!condition)
+    if (!condition) {
         std::abort();
+    }
 }
 
 QList<int> properties(const QTextFormat &format)

@@ -18,8 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     const QByteArray harmless = mrvHarmlessSettings(bytes);
-    if (mrvHarmlessSettings(harmless) != harmless)
+    if (mrvHarmlessSettings(harmless) != harmless) {
         std::abort();
+    }
     MRVSettingsMap values;
     mrvReadSettings(harmless, QSettings::IniFormat, &values);
     mrvIsSettings(bytes);

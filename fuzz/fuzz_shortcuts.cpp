@@ -28,15 +28,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     const MRVShortcutScheme scheme = MRVShortcutScheme::fromByteArray(bytes);
     // What was read can be written and read again.
-    if (MRVShortcutScheme::fromByteArray(scheme.toByteArray()) != scheme)
+    if (MRVShortcutScheme::fromByteArray(scheme.toByteArray()) != scheme) {
         std::abort();
+    }
     const MRVShortcutScheme merged(bytes, true);
-    if (merged.shortcuts().size() != MRVShortcutScheme::morvane().shortcuts().size())
+    if (merged.shortcuts().size() != MRVShortcutScheme::morvane().shortcuts().size()) {
         std::abort();
+    }
     const auto conflicts = MRVShortcutCheck::conflicts(scheme);
     for (const auto &conflict : conflicts) {
-        if (MRVShortcutCheck::describe(conflict, scheme).isEmpty())
+        if (MRVShortcutCheck::describe(conflict, scheme).isEmpty()) {
             std::abort();
+        }
     }
     return 0;
 }

@@ -18,12 +18,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     const QTextCharFormat charFormat = MRVTextFormat::toCharFormat(bytes);
     const QTextBlockFormat blockFormat = MRVTextFormat::toBlockFormat(bytes);
-    if (!charFormat.isCharFormat() || !blockFormat.isBlockFormat())
+    if (!charFormat.isCharFormat() || !blockFormat.isBlockFormat()) {
         std::abort();
+    }
     // What was read can be written and read again.
     const QByteArray stored = MRVTextFormat::toByteArray(charFormat);
     const QTextCharFormat again = MRVTextFormat::toCharFormat(stored);
-    if (again.properties().keys() != charFormat.properties().keys())
+    if (again.properties().keys() != charFormat.properties().keys()) {
         std::abort();
+    }
     return 0;
 }

@@ -11,16 +11,19 @@ inline QVector<QStringList> rowsOf(const QString &file)
 {
     const QHash<QChar, QChar> meanings{{'n', '\n'}, {'r', '\r'}, {'t', '\t'}};
     QFile data(MRV_SOURCE_DIR "/tests/data/" + file);
-    if (!data.open(QIODevice::ReadOnly))
+    if (!data.open(QIODevice::ReadOnly)) {
         qFatal("%s cannot be read", qPrintable(data.fileName()));
+    }
     QVector<QStringList> rows;
     for (const QString &line : QString::fromUtf8(data.readAll()).split('\n')) {
-        if (line.isEmpty() || line.startsWith('#'))
+        if (line.isEmpty() || line.startsWith('#')) {
             continue;
+        }
         QStringList cells = line.split('\t');
         for (QString &cell : cells) {
-            for (int at = 0; (at = cell.indexOf('\\', at)) >= 0 && at + 1 < cell.size(); ++at)
+            for (int at = 0; (at = cell.indexOf('\\', at)) >= 0 && at + 1 < cell.size(); ++at) {
                 cell.replace(at, 2, meanings.value(cell.at(at + 1), cell.at(at + 1)));
+            }
         }
         rows << cells;
     }
@@ -33,12 +36,14 @@ inline QVector<QStringList> rowsOf(const QString &file)
  */
 inline void addRows(const QString &file, std::initializer_list<const char *> columns)
 {
-    for (const char *column : columns)
+    for (const char *column : columns) {
         QTest::addColumn<QString>(column);
+    }
     for (const QStringList &row : rowsOf(file)) {
         const QString name = QStringList(row.mid(0, 2)).join(' ').simplified();
         QTestData &data = QTest::newRow(qPrintable(name));
-        for (int i = 0; i < int(columns.size()); ++i)
+        for (int i = 0; i < int(columns.size()); ++i) {
             data << row.value(i);
+        }
     }
 }

@@ -22,8 +22,9 @@ inline QStringList documentDump(const QTextDocument &document)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QTextFormat own = block.blockNumber() ? block.charFormat() : QTextCharFormat();
         lines << "block " + propertyDump(block.blockFormat()) + propertyDump(own);
-        for (auto it = block.begin(); !it.atEnd(); ++it)
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
             lines << it.fragment().text() + propertyDump(it.fragment().charFormat());
+        }
     }
     return lines;
 }
@@ -41,10 +42,12 @@ inline QVariant valueFrom(const QString &text)
 {
     QStringList types = text.split(':');
     QVariant value = types.takeFirst().replace('_', ' ');
-    if (text.startsWith(':'))
+    if (text.startsWith(':')) {
         value = QVariant(QMetaType::type(types.takeFirst().toLatin1()), nullptr);
-    for (const QString &type : types)
+    }
+    for (const QString &type : types) {
         value.convert(QMetaType::type(type.toLatin1()));
+    }
     return value;
 }
 
@@ -53,8 +56,9 @@ template<typename Format>
 Format formatFrom(const QString &text)
 {
     Format format;
-    for (const QString &part : text.split(' ', Qt::SkipEmptyParts))
+    for (const QString &part : text.split(' ', Qt::SkipEmptyParts)) {
         format.setProperty(propertyFrom(part.section('=', 0, 0)), valueFrom(part.section('=', 1)));
+    }
     return format;
 }
 

@@ -16,8 +16,9 @@ inline void fillDocument(QTextDocument *document, const QString &text)
     int cell = 0;
     for (const QChar c : text) {
         if (c == '{') {
-            if (!table)
+            if (!table) {
                 table = cursor.insertTable(rows, text.count('{') / rows);
+            }
             const int row = cell / table->columns();
             cursor = table->cellAt(row, cell++ % table->columns()).firstCursorPosition();
         } else if (c == '<') {

@@ -32,8 +32,9 @@ public:
     static void *taken(void *memory, std::size_t size)
     {
         const long now = s_taken += memory ? long(size) : 0;
-        if (now > s_peak)
+        if (now > s_peak) {
             s_peak = now;
+        }
         return memory;
     }
     static void given(std::size_t size) { s_taken -= long(size); }
@@ -64,8 +65,9 @@ void *realloc(void *old, size_t size) noexcept
 {
     const size_t before = malloc_usable_size(old);
     void *memory = __libc_realloc(old, size);
-    if (memory || size == 0)
+    if (memory || size == 0) {
         HeapMeter::given(before);
+    }
     return HeapMeter::taken(memory, malloc_usable_size(memory));
 }
 

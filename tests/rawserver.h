@@ -49,8 +49,9 @@ private:
     {
         QByteArray &request = m_begun[socket];
         request += socket->readAll();
-        if (!request.contains("\r\n\r\n"))
+        if (!request.contains("\r\n\r\n")) {
             return;
+        }
         m_requests << m_begun.take(socket);
         const auto answer = m_answers.value(m_requests.constLast().split(' ').value(1));
         const int body =
@@ -63,8 +64,9 @@ private:
         if (answer.second == Close) {
             socket->disconnectFromHost();
         } else if (answer.second == Reset) {
-            while (socket->bytesToWrite() > 0)
+            while (socket->bytesToWrite() > 0) {
                 socket->waitForBytesWritten();
+            }
             const linger at{1, 0};
             setsockopt(int(socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &at, sizeof at);
             socket->abort();

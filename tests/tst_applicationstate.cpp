@@ -49,8 +49,9 @@ const Text texts[] = {
 QStringList numbered(int count)
 {
     QStringList list;
-    for (int i = 1; i <= count; ++i)
+    for (int i = 1; i <= count; ++i) {
         list << QString::number(i);
+    }
     return list;
 }
 
@@ -131,8 +132,9 @@ void tst_ApplicationState::listsAfterRestart()
     const QString copy = m_home->filePath("copy");
     QVERIFY(QFile::copy(state.fileName(), copy));
     const QSettings stored(copy, QSettings::IniFormat);
-    for (const char *key : {"Recent", "LastClosedProjects", "RecentIcons"})
+    for (const char *key : {"Recent", "LastClosedProjects", "RecentIcons"}) {
         state.setValue(key, stored.value(key));
+    }
     QCOMPARE(state.recentProjectList(), QStringList({"/a, b"}));
     QCOMPARE(state.lastClosedProjects(), QStringList());
     QCOMPARE(state.recentIcons(), QStringList({""}));
@@ -159,8 +161,9 @@ void tst_ApplicationState::recentProjects()
 void tst_ApplicationState::recentIcons()
 {
     State state;
-    for (const QString &icon : numbered(6))
+    for (const QString &icon : numbered(6)) {
         state.addRecentIcon(icon);
+    }
     QCOMPARE(state.recentIcons(), QStringList({"6", "5", "4", "3", "2"}));
     state.addRecentIcon("4");
     QCOMPARE(state.recentIcons(), QStringList({"4", "6", "5", "3", "2"}));

@@ -32,24 +32,27 @@ namespace {
 QByteArray number(quint32 value)
 {
     QByteArray bytes;
-    for (int shift = 24; shift >= 0; shift -= 8)
+    for (int shift = 24; shift >= 0; shift -= 8) {
         bytes += char(value >> shift);
+    }
     return bytes;
 }
 
 QByteArray text(const QString &string)
 {
     QByteArray bytes = number(string.isNull() ? 0xFFFFFFFFu : quint32(string.size() * 2));
-    for (QChar unit : string)
+    for (QChar unit : string) {
         (bytes += char(unit.row())) += char(unit.cell());
+    }
     return bytes;
 }
 
 QByteArray stored(const MRVAutoReplaceList &list)
 {
     QByteArray bytes = number(1) + number(quint32(list.size()));
-    for (const MRVAutoReplace &entry : list)
+    for (const MRVAutoReplace &entry : list) {
         bytes += char(entry.enabled) + text(entry.match) + text(entry.replacement);
+    }
     return bytes;
 }
 
@@ -57,8 +60,10 @@ MRVAutoReplace byTheRule(const MRVAutoReplaceList &list, const QString &typed)
 {
     MRVAutoReplace best;
     for (const MRVAutoReplace &entry : list) {
-        if (entry.enabled && entry.match.size() > best.match.size() && typed.endsWith(entry.match))
+        if (entry.enabled && entry.match.size() > best.match.size()
+            && typed.endsWith(entry.match)) {
             best = entry;
+        }
     }
     return best;
 }
@@ -70,8 +75,9 @@ public:
     QString text(int longest)
     {
         QString text;
-        for (int left = below(longest + 1); left > 0; --left)
+        for (int left = below(longest + 1); left > 0; --left) {
             text += QStringLiteral("ab\u00e9\U0001F600").at(below(m_letters));
+        }
         return text;
     }
     MRVAutoReplace entry() { return {below(4) > 0, text(6), text(3)}; }
@@ -87,8 +93,9 @@ private:
 void TestAutoReplace::defaults()
 {
     MRVAutoReplaceList expected;
-    for (const QStringList &row : rowsOf("autoreplace.tsv"))
+    for (const QStringList &row : rowsOf("autoreplace.tsv")) {
         expected << MRVAutoReplace{row.value(2) == "yes", row.value(0), row.value(1)};
+    }
     QCOMPARE(expected.size(), 33);
     QCOMPARE(MRVAutoReplaceList::defaultReplacementsByteArray(), stored(expected));
     QCOMPARE(MRVAutoReplaceList::defaultReplacements(), expected);
@@ -115,8 +122,9 @@ void TestAutoReplace::agreesWithScan()
     for (int round = 0; round < 200; ++round) {
         MRVAutoReplaceList list;
         texts.setLetters(1 + round % 5);
-        for (int left = round * 2; left > 0; --left)
+        for (int left = round * 2; left > 0; --left) {
             list << texts.entry();
+        }
         for (int i = 0; i < 100; ++i) {
             const QString typed = texts.text(9);
             QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
@@ -131,8 +139,9 @@ void TestAutoReplace::seesChanges()
     Texts texts;
     for (int round = 0; round < 40; ++round) {
         MRVAutoReplaceList list;
-        while (list.size() < 100)
+        while (list.size() < 100) {
             list << texts.entry();
+        }
         MRVAutoReplaceList other = list;
         list.bestMatch("a");
         MRVAutoReplace *kept = &list[50];
@@ -181,8 +190,9 @@ void TestAutoReplace::readsWhatIsThere()
     list.fromByteArray(QByteArray::fromHex(bytes.toLatin1()), &error);
     QTEST(QString(error.isEmpty() ? "whole" : ""), "whole");
     QStringList entries;
-    for (const MRVAutoReplace &entry : qAsConst(list))
+    for (const MRVAutoReplace &entry : qAsConst(list)) {
         entries << entry.match + '=' + entry.replacement + (entry.enabled ? "" : " off");
+    }
     QTEST(entries.join(", "), "entries");
 }
 

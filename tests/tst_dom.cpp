@@ -22,8 +22,9 @@ QString documentOf(QString notation)
         const auto match = element.match(notation, i, QRegularExpression::NormalMatch,
                                          QRegularExpression::AnchoredMatchOption);
         if (!match.hasMatch()) {
-            if (notation[i++] == ')')
+            if (notation[i++] == ')') {
                 xml += "</" + open.takeLast() + '>';
+            }
             continue;
         }
         xml += '<' + match.captured(1) + " n='" + match.captured(2) + '\''
@@ -41,12 +42,14 @@ QString documentOf(QString notation)
 
 QDomElement byNumber(const QDomElement &e, const QString &n)
 {
-    if (e.attribute("n") == n)
+    if (e.attribute("n") == n) {
         return e;
+    }
     for (QDomElement c = e.firstChildElement(); !c.isNull(); c = c.nextSiblingElement()) {
         const QDomElement found = byNumber(c, n);
-        if (!found.isNull())
+        if (!found.isNull()) {
             return found;
+        }
     }
     return {};
 }
@@ -60,23 +63,27 @@ struct NaivePaths
 
     static bool matches(const QDomElement &e, const QStringList &parts)
     {
-        if (e.isNull() || parts.isEmpty())
+        if (e.isNull() || parts.isEmpty()) {
             return false;
+        }
         const QString name = parts[0].trimmed();
-        if (name != "." && name != ".." && name != e.tagName())
+        if (name != "." && name != ".." && name != e.tagName()) {
             return false;
+        }
         for (const QString &part : parts.mid(1)) {
             const QString key = part.section('=', 0, 0).trimmed();
             if (part.contains('=') ? e.attribute(key, "") != part.section('=', 1).trimmed()
-                                   : !e.hasAttribute(key))
+                                   : !e.hasAttribute(key)) {
                 return false;
+            }
         }
         return true;
     }
     QDomElement find(const QDomElement &start, int index)
     {
-        if (start.isNull() || index >= steps.size())
+        if (start.isNull() || index >= steps.size()) {
             return start;
+        }
         const QStringList parts = steps[index].split('@', Qt::SkipEmptyParts);
         const QString name = parts.value(0).trimmed();
         if (name == ".." || name == ".") {
@@ -84,12 +91,14 @@ struct NaivePaths
             return matches(candidate, parts) ? find(candidate, index + 1) : QDomElement();
         }
         for (QDomNode c = start.firstChild(); !c.isNull(); c = c.nextSibling()) {
-            if (!matches(c.toElement(), parts))
+            if (!matches(c.toElement(), parts)) {
                 continue;
+            }
             const QDomElement found = find(c.toElement(), index + 1);
             if (!found.isNull()) {
-                if (index == 0)
+                if (index == 0) {
                     position = c;
+                }
                 return found;
             }
         }
@@ -98,16 +107,20 @@ struct NaivePaths
     QDomElement find(const QString &path)
     {
         position.clear();
-        if (root.isNull() || path.isEmpty())
+        if (root.isNull() || path.isEmpty()) {
             return root.isNull() ? root : work;
+        }
         steps = path.split('/');
-        if (steps.last().trimmed().isEmpty())
+        if (steps.last().trimmed().isEmpty()) {
             steps.removeLast();
-        if (steps.isEmpty() || !steps[0].trimmed().isEmpty())
+        }
+        if (steps.isEmpty() || !steps[0].trimmed().isEmpty()) {
             return find(work, 0);
+        }
         steps.removeFirst();
-        if (!steps.isEmpty() && !matches(root, steps[0].split('@', Qt::SkipEmptyParts)))
+        if (!steps.isEmpty() && !matches(root, steps[0].split('@', Qt::SkipEmptyParts))) {
             return {};
+        }
         return find(root, 1);
     }
     QDomElement findNext()
@@ -116,8 +129,9 @@ struct NaivePaths
             position = position.nextSibling();
             if (matches(position.toElement(), steps[0].split('@', Qt::SkipEmptyParts))) {
                 const QDomElement found = find(position.toElement(), 1);
-                if (!found.isNull())
+                if (!found.isNull()) {
                     return found;
+                }
             }
         }
         return {};
@@ -145,8 +159,9 @@ QString textsOf(const T &value)
     MRVDomDoc doc;
     setValue(&doc, "old");
     QString set, attribute, appended;
-    if (!doc.set(value, "e") || !doc.get(&set, "e") || !doc.setAttr("k", value))
+    if (!doc.set(value, "e") || !doc.get(&set, "e") || !doc.setAttr("k", value)) {
         return "failed";
+    }
     if constexpr (std::is_same_v<T, QSizeF> || std::is_same_v<T, QPointF>) {
         doc.append("new", value, 1);
     } else {
@@ -198,8 +213,9 @@ private Q_SLOTS:
         QVERIFY2(doc.setContent(documentOf(notation)), qPrintable(documentOf(notation)));
         QVERIFY(doc.setWorkElement(byNumber(doc.documentElement(), start)));
         QStringList found;
-        for (QDomElement e = doc.find(path); !e.isNull(); e = doc.findNext())
+        for (QDomElement e = doc.find(path); !e.isNull(); e = doc.findNext()) {
             found << e.attribute("n");
+        }
         QTEST(found.join(' '), "expected");
         QCOMPARE(doc.currentElement().attribute("n"), start);
         QCOMPARE(doc.exists(path), !found.isEmpty());
@@ -223,21 +239,24 @@ private Q_SLOTS:
                 doc.setWorkElement(all[int(random() % unsigned(all.size()))]);
                 doc.append(one({"a", "a", "b"}));
                 all << doc.currentElement().lastChildElement();
-                if (random() % 2)
+                if (random() % 2) {
                     all.last().setAttribute("id", one({"1", "2"}));
+                }
             }
             doc.setWorkElement(all[int(random() % unsigned(all.size()))]);
             QStringList steps;
-            for (unsigned n = 1 + random() % 5; n > 0; --n)
+            for (unsigned n = 1 + random() % 5; n > 0; --n) {
                 steps << one({"a", "b", "a", "..", "."})
                         + one({"", "", "", "@id", "@id=1", "@id=", " "});
+            }
             const QString path = one({"", "", "/", "/a/"}) + steps.join('/') + one({"", "/"});
             NaivePaths naive{doc.documentElement(), doc.currentElement(), {}, {}};
             QDomElement expected = naive.find(path);
             QDomElement found = doc.find(path);
             hits += !found.isNull();
-            for (; !expected.isNull() && found == expected; expected = naive.findNext())
+            for (; !expected.isNull() && found == expected; expected = naive.findNext()) {
                 found = doc.findNext();
+            }
             QVERIFY2(found == expected, qPrintable(path + saved(doc)));
 
             MRVDomDoc copy(doc.documentElement());
@@ -295,9 +314,10 @@ private Q_SLOTS:
     void structure()
     {
         MRVDomDoc doc;
-        for (const char *name : {"", "a/b", "a@x=1", "x=", ".", ".."})
+        for (const char *name : {"", "a/b", "a@x=1", "x=", ".", ".."}) {
             QVERIFY(!doc.append(name, "t") && !doc.insert(name, "t") && !doc.prepend(name)
                     && !doc.create(name));
+        }
         QVERIFY(doc.append("r") && doc.workElement() == "r" && doc.workChild().isEmpty());
         QVERIFY(doc.append("b") && doc.workChild() == "b");
         QVERIFY(doc.append("d") && doc.workChild() == "b");
@@ -582,8 +602,9 @@ private Q_SLOTS:
                                   << false;
         QTest::newRow("repeated-attribute") << "<r a='1' b='<' a = \"2\"/>" << false;
         QString attributes;
-        for (int i = 0; i <= 10000; ++i)
+        for (int i = 0; i <= 10000; ++i) {
             attributes += QString(" a%1=''").arg(i);
+        }
         QTest::newRow("too-many-attributes") << "<r" + attributes + "/>" << false;
         QTest::newRow("many-entities")
             << own(QString("<!ENTITY a 'b'>").repeated(2001), "") << false;
@@ -606,8 +627,9 @@ private Q_SLOTS:
     void refusesToSaveTooDeep()
     {
         MRVDomDoc doc;
-        for (int i = 0; i < MRVDomLimits::MaxDepth; ++i)
+        for (int i = 0; i < MRVDomLimits::MaxDepth; ++i) {
             doc.create("a");
+        }
         doc.append("b", "t");
         QCOMPARE(saved(doc), QByteArray("refused"));
         doc.remove("b");

@@ -229,10 +229,12 @@ void tst_Download::initTestCase()
 
 QUrl tst_Download::address(const QString &server, const QString &path) const
 {
-    if (server == "lighttpd")
+    if (server == "lighttpd") {
         return m_lighttpd ? m_lighttpd->url(path) : QUrl();
-    if (!m_nginx)
+    }
+    if (!m_nginx) {
         return QUrl();
+    }
     return server == "tls" ? m_nginx->secure(path) : m_nginx->url(path);
 }
 
@@ -262,21 +264,26 @@ void tst_Download::ends()
     QVERIFY(writeBytes(file, "old"));
     Handler input(handler);
     Download download(handler.isEmpty() ? nullptr : &input);
-    if (error.startsWith("sent nothing"))
+    if (error.startsWith("sent nothing")) {
         download.url->setTransferTimeout(500);
-    if (end == "slow")
+    }
+    if (end == "slow") {
         download.url->setTransferTimeout(1000);
-    if (!limit.isEmpty())
+    }
+    if (!limit.isEmpty()) {
         download.url->setMaximumSize(limit.toInt());
+    }
     connect(download.url->networkAccessManager(), &QNetworkAccessManager::sslErrors, this,
             [&](QNetworkReply *reply, const QList<QSslError> &errors) {
-                if (input.ignoreSslErrors({errors.constFirst().errorString()}))
+                if (input.ignoreSslErrors({errors.constFirst().errorString()})) {
                     reply->ignoreSslErrors();
+                }
             });
     QByteArray before;
     download.hook = [&](const QString &now) {
-        if (now == "data")
+        if (now == "data") {
             before = bytesOf(file);
+        }
     };
     QVERIFY(download.url->downloadToFile(url, file));
     QCOMPARE(download.finals, 0);
@@ -311,13 +318,16 @@ void tst_Download::interrupted_data()
     QTest::addColumn<QString>("action");
     for (const char *stage :
          {"start", "refused", "progress", "password", "redirect", "data", "final", "failed"}) {
-        for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"})
+        for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"}) {
             QTest::addRow("%s, %s", stage, action) << stage << action;
+        }
     }
-    for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"})
+    for (const char *action : {"cancel", "delete", "replace", "deaf", "offline"}) {
         QTest::addRow("certificate, %s", action) << "certificate" << action;
-    for (const char *stage : {"password", "redirect", "certificate"})
+    }
+    for (const char *stage : {"password", "redirect", "certificate"}) {
         QTest::addRow("%s, thought over", stage) << stage << "think";
+    }
 }
 
 // Whatever is done at whatever moment, at most one final signal comes of each request.
@@ -325,8 +335,9 @@ void tst_Download::interrupted()
 {
     QFETCH(QString, stage);
     QFETCH(QString, action);
-    if (stage == "certificate" && !m_nginx)
+    if (stage == "certificate" && !m_nginx) {
         QSKIP("nginx is not installed");
+    }
     const QByteArray redirect =
         "HTTP/1.1 302 Found\r\nLocation: /next\r\nContent-Length: 0\r\n\r\n";
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"
@@ -342,8 +353,9 @@ void tst_Download::interrupted()
     Download download(&input);
     bool isDone = false;
     const auto interrupt = [&](const QString &now) {
-        if (isDone || (now != stage && !(stage == "failed" && now == "final")))
+        if (isDone || (now != stage && !(stage == "failed" && now == "final"))) {
             return;
+        }
         isDone = true;
         if (action == "cancel") {
             download.url->cancelDownload();
@@ -370,8 +382,9 @@ void tst_Download::interrupted()
                 interrupt("certificate");
                 reply->ignoreSslErrors();
             });
-    if (action == "think")
+    if (action == "think") {
         download.url->setTransferTimeout(1000);
+    }
     QTemporaryDir folder;
     const QUrl first = stage == "refused" ? QUrl("file:///etc/hostname")
         : stage == "certificate"          ? m_nginx->secure("/hello")
@@ -392,14 +405,18 @@ void tst_Download::interrupted()
     QTRY_COMPARE(download.finals, hasTwo ? 2 : 1);
     QTest::qWait(20);
     QCOMPARE(download.finals, hasTwo ? 2 : 1);
-    if (action == "replace" || (action == "think" && stage != "password"))
+    if (action == "replace" || (action == "think" && stage != "password")) {
         QCOMPARE(download.data, QByteArray("hello"));
-    if (action == "cancel" && !isOver && stage != "data")
+    }
+    if (action == "cancel" && !isOver && stage != "data") {
         QCOMPARE(download.error, QString("Operation canceled"));
-    if (action == "think" && stage == "password")
+    }
+    if (action == "think" && stage == "password") {
         QCOMPARE(download.error, QString("Host requires authentication"));
-    if (action == "offline" && stage != "data")
+    }
+    if (action == "offline" && stage != "data") {
         QCOMPARE(download.error, QString("Network not accessible"));
+    }
 }
 
 void tst_Download::big_data()
@@ -412,8 +429,9 @@ void tst_Download::big_data()
 void tst_Download::big()
 {
     QFETCH(QString, path);
-    if (!m_nginx)
+    if (!m_nginx) {
         QSKIP("nginx is not installed");
+    }
     QTemporaryDir folder;
     Download download;
     HeapMeter::start();
@@ -448,8 +466,9 @@ void tst_Download::refusals()
     QFETCH(QString, error);
     Download download;
     QCOMPARE(download.url->download(url), !error.isEmpty());
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         QTRY_COMPARE(download.finals, 1);
+    }
     QTest::qWait(20);
     QCOMPARE(download.finals, int(!error.isEmpty()));
     QVERIFY2(fits(download.error, error) && !download.error.contains("pass"),

@@ -171,8 +171,9 @@ void tst_EPub::largePages()
     QVERIFY(package.addDocument(plain));
     const QMap<QString, QString> files = unpacked(package.toByteArray());
     int largest = 0;
-    for (const QString &file : files)
+    for (const QString &file : files) {
         largest = qMax(largest, file.size());
+    }
     QVERIFY2(largest < 1100000, qPrintable(QString::number(largest)));
     QVERIFY(files["OEBPS/page-004.xhtml"].size() < 400000);
     QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);

@@ -41,8 +41,9 @@ void anchor(QTextCursor &cursor, const QString &name, const QString &text,
 {
     QTextCharFormat format;
     format.setAnchor(true);
-    if (!name.isNull())
+    if (!name.isNull()) {
         format.setAnchorNames({name});
+    }
     format.setAnchorHref(href);
     cursor.insertText(text, format);
 }

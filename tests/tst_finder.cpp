@@ -23,8 +23,9 @@ bool naiveInBlock(const QTextBlock &block, QRegExp expression, int offset, int f
     while (offset >= 0 && offset <= text.size()) {
         const int at =
             flags & 1 ? expression.lastIndexIn(text, offset) : expression.indexIn(text, offset);
-        if (at < 0)
+        if (at < 0) {
             return false;
+        }
         const int end = at + expression.matchedLength();
         const bool before = at > 0 && text.at(at - 1).isLetterOrNumber();
         const bool after = end < text.size() && text.at(end).isLetterOrNumber();
@@ -43,8 +44,9 @@ MRVTextRange naiveFind(const QTextDocument &document, const QRegExp &expression,
     MRVTextRange found(-1, -1);
     const int start = flags & 1 ? from - 1 : from;
     QTextBlock block = document.findBlock(start);
-    if (start < 0 || expression.isEmpty() || !block.isValid())
+    if (start < 0 || expression.isEmpty() || !block.isValid()) {
         return found;
+    }
     int offset = start - block.position();
     while (block.isValid() && !naiveInBlock(block, expression, offset, flags, &found)) {
         block = flags & 1 ? block.previous() : block.next();
@@ -60,8 +62,9 @@ QVector<MRVTextRange> naiveFindAll(const QTextDocument &document, const QRegExp 
     QVector<MRVTextRange> all;
     for (int from = 0;;) {
         const MRVTextRange found = naiveFind(document, expression, from, flags & ~1);
-        if (found.start() < 0)
+        if (found.start() < 0) {
             return all;
+        }
         all << found;
         from = found.end() > found.start() ? found.end() : found.end() + 1;
     }
@@ -83,8 +86,9 @@ QString randomText(std::mt19937 &random, int length)
     static const QString alphabet = QString::fromUtf8(
         "aaabbAB12  .,-\u00e9\u00c9\u03c3\u03c2\u03a3\u0130i\u017fsK\u212a\u00a0\ufffc\U00010400");
     QString text;
-    while (length-- > 0)
+    while (length-- > 0) {
         text += alphabet.at(int(random() % unsigned(alphabet.size())));
+    }
     return text;
 }
 
@@ -93,13 +97,16 @@ void randomDocument(std::mt19937 &random, QTextDocument *document)
     QTextCursor cursor(document);
     for (int run = int(random() % 25); run > 0; --run) {
         QTextCharFormat format;
-        if (random() % 2)
+        if (random() % 2) {
             format.setBackground(random() % 2 ? Qt::red : Qt::green);
-        if (random() % 4 == 0)
+        }
+        if (random() % 4 == 0) {
             format.setFontItalic(true);
+        }
         cursor.insertText(randomText(random, int(random() % 8)), format);
-        if (random() % 4 == 0)
+        if (random() % 4 == 0) {
             cursor.insertBlock();
+        }
     }
 }
 
@@ -117,14 +124,15 @@ void fill(QTextDocument *document, const QString &text, const QTextCharFormat &m
     QTextCursor cursor(document);
     QTextCharFormat format;
     for (const QChar c : text) {
-        if (c == '[')
+        if (c == '[') {
             format = marked;
-        else if (c == ']')
+        } else if (c == ']') {
             format = QTextCharFormat();
-        else if (c == '|')
+        } else if (c == '|') {
             cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
-        else
+        } else {
             cursor.insertText(c, format);
+        }
     }
 }
 
@@ -138,14 +146,18 @@ QTextCharFormat marked(int property, const QVariant &value)
 QVariant valueOf(const QString &text, bool asBrush)
 {
     const QString value = text.mid(1);
-    if (text.startsWith('c') && asBrush)
+    if (text.startsWith('c') && asBrush) {
         return value.isEmpty() ? QBrush() : QBrush(QColor(value));
-    if (text.startsWith('c'))
+    }
+    if (text.startsWith('c')) {
         return QColor(value);
-    if (text.startsWith('f'))
+    }
+    if (text.startsWith('f')) {
         return QTextFormat(marked(QTextFormat::FontItalic, true));
-    if (text.startsWith('b'))
+    }
+    if (text.startsWith('b')) {
         return value == "1";
+    }
     return text.isEmpty() ? QVariant() : text.startsWith('i') ? QVariant(value.toInt()) : value;
 }
 
@@ -181,8 +193,9 @@ private Q_SLOTS:
 void tst_Finder::textLikeTheRules_data()
 {
     QTest::addColumn<int>("flags");
-    for (int flags = 0; flags < 16; ++flags)
+    for (int flags = 0; flags < 16; ++flags) {
         QTest::addRow("flags-%d", flags) << flags;
+    }
 }
 
 void tst_Finder::textLikeTheRules()
@@ -215,8 +228,9 @@ void tst_Finder::textLikeTheRules()
         const QVector<MRVTextRange> all = naiveFindAll(document, expression, flags);
         QVERIFY2(rangeOf(Finder::find(&document, expression, from, options)) == expected, what);
         QVERIFY2(Finder::findAll(&document, expression, options) == all, what);
-        if (document.toPlainText().contains(QChar(0xd801)))
+        if (document.toPlainText().contains(QChar(0xd801))) {
             continue; // half a character, a whole one for the other kind
+        }
         const QRegularExpression other(pattern,
                                        QRegularExpression::PatternOptions(flags & 2 ? 0 : 1));
         QVERIFY2(rangeOf(Finder::find(&document, other, from, options)) == expected, what);
@@ -231,8 +245,9 @@ void tst_Finder::edges()
     QFETCH(QString, from);
     QFETCH(QString, flags);
     QFETCH(QString, found);
-    for (QString *cell : {&text, &pattern})
+    for (QString *cell : {&text, &pattern}) {
         cell->replace("u00a0", QChar(0xa0)).replace("ufffc", QChar(0xfffc));
+    }
     QTextDocument document;
     fill(&document, text, QTextCharFormat());
     const auto options = Finder::FindFlags(flags.toInt());
@@ -247,8 +262,9 @@ void tst_Finder::emptyMatchesEnd()
     QStringList finds;
     const QRegularExpression expression("x*");
     for (QTextCursor c;
-         !(c = Finder::find(&document, expression, c)).isNull() && finds.size() < 99;)
+         !(c = Finder::find(&document, expression, c)).isNull() && finds.size() < 99;) {
         finds << written(c);
+    }
     QCOMPARE(finds.join(' '), QString("0-0 1-3 3-3 4-4 5-6 6-6 7-7"));
     QCOMPARE(Finder::findAll(&document, expression).size(), finds.size());
     QCOMPARE(Finder::findAll(&document, QRegExp("x*")).size(), finds.size());
@@ -297,8 +313,9 @@ void tst_Finder::formatsLikeTheRules()
         QCOMPARE(Finder::findAllFragments(&document, pattern, values), fragments);
         QVector<MRVTextRange> one;
         QTextCursor c(&document);
-        for (; !(c = Finder::findFragment(pattern, c, values)).isNull();)
+        for (; !(c = Finder::findFragment(pattern, c, values)).isNull();) {
             one << MRVTextRange(c);
+        }
         QCOMPARE(one, fragments);
         const QVariant value = values ? QVariant(QColor(Qt::red)) : QVariant();
         QCOMPARE(Finder::findAllRuns(&document, Finder::FindHighlight, value), runs);
@@ -309,10 +326,12 @@ void tst_Finder::formatsLikeTheRules()
         MRVTextRange next(-1, -1);
         MRVTextRange previous(-1, -1);
         for (const MRVTextRange &run : runs) {
-            if (run.start() >= selection.end() && next.start() < 0)
+            if (run.start() >= selection.end() && next.start() < 0) {
                 next = run;
-            if (run.end() <= selection.start())
+            }
+            if (run.end() <= selection.start()) {
                 previous = run;
+            }
         }
         c = selection.toTextCursor(&document);
         QCOMPARE(rangeOf(Finder::find(c, Finder::FindHighlight, value)), next);
@@ -324,8 +343,9 @@ void tst_Finder::formatsLikeTheRules()
                 length += f.end() - f.start();
                 const int start = qMax(f.start(), selection.start());
                 const int end = qMin(f.end(), selection.end());
-                if (start < end)
+                if (start < end) {
                     clipped << MRVTextRange(start, end);
+                }
             }
             QCOMPARE(Finder::formatCount(&document, brush, red), fragments.size());
             QCOMPARE(Finder::formatLengthCount(&document, brush, red), length);
@@ -384,11 +404,13 @@ void tst_Finder::cursorTests()
         const QTextCursor c = at(row.at(0).toInt(), row.at(1).toInt());
         QString text;
         for (bool is : {Finder::startsWithFormat(c, red, true), Finder::isInFormat(c, red, true),
-                        Finder::isFormatChecked(c, red, true), Finder::hasFormat(c, red, true)})
+                        Finder::isFormatChecked(c, red, true), Finder::hasFormat(c, red, true)}) {
             text += is ? '1' : '0';
+        }
         for (auto find : {Finder::findFragmentAround, Finder::findFragmentInSelection,
-                          Finder::findFragmentAtPosition, Finder::findFragmentAtPositionGeneral})
+                          Finder::findFragmentAtPosition, Finder::findFragmentAtPositionGeneral}) {
             text += ' ' + written(find(red, c, true));
+        }
         QCOMPARE(text, row.at(2));
     }
     QCOMPARE(rangeOf(Finder::findContinuousFragment(red, at(7, 7), false)), MRVTextRange(2, 8));
@@ -445,8 +467,9 @@ void tst_Finder::comments()
     c.setPosition(7, QTextCursor::KeepAnchor);
     c.setCharFormat(marked(MRVTextFormat::CommentData0, "second"));
     QStringList found;
-    for (int pos = -1; pos < 9; ++pos)
+    for (int pos = -1; pos < 9; ++pos) {
         found << QString::number(rangeOf(Finder::findCommentViaPos(&document, pos)).start());
+    }
     QCOMPARE(found.join(' '), QString("-1 -1 1 1 -1 1 1 6 -1 -1"));
     QCOMPARE(rangeOf(Finder::findCommentViaPos(&document, 4)), MRVTextRange(1, 6));
     QCOMPARE(rangeOf(Finder::findCommentViaRange(&document, 3, 9)), MRVTextRange(1, 6));
@@ -474,8 +497,9 @@ void tst_Finder::nothing()
           Finder::findFragmentAround(format, none, true),
           Finder::findFragmentAtPositionGeneral(format, none, true),
           Finder::findFragmentInSelection(format, none, true), Finder::findAnchor(none),
-          Finder::findCommentViaPos(nullptr, 0)})
+          Finder::findCommentViaPos(nullptr, 0)}) {
         QVERIFY(c.isNull());
+    }
     QTextCursor result;
     for (bool is :
          {Finder::isInFormat(none, format, true), Finder::isFormatChecked(none, format, true),
@@ -484,8 +508,9 @@ void tst_Finder::nothing()
           Finder::findInBlock(QTextBlock(), QRegExp("a"), 0, {}, result),
           Finder::findInBlock(QTextBlock(), format, 0, result, true, true),
           Finder::findInBlock(document.begin(), QRegExp(), 0, {}, result),
-          Finder::findInBlock(document.begin(), QRegularExpression(), 0, {}, result)})
+          Finder::findInBlock(document.begin(), QRegularExpression(), 0, {}, result)}) {
         QVERIFY(!is);
+    }
     QVERIFY(Finder::findAll(nullptr, "a").isEmpty()
             && Finder::findFragmentsByFormat(none, format).isEmpty());
     QCOMPARE(Finder::continuousFragmentCount(format, none, true)

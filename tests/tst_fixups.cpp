@@ -13,8 +13,9 @@ QString sheetText(const QString &style, bool dropFamilies)
 {
     const QHash<QString, QString> sheet = X::toStyleSheet(style, dropFamilies);
     QStringList lines;
-    for (auto it = sheet.begin(); it != sheet.end(); ++it)
+    for (auto it = sheet.begin(); it != sheet.end(); ++it) {
         lines.append(it.key() + '=' + it.value());
+    }
     lines.sort();
     return lines.join('|');
 }

@@ -65,8 +65,9 @@ private Q_SLOTS:
         end.movePosition(QTextCursor::End);
         end.insertImage(format);
         QList<int> widths;
-        for (const QString &path : MTextDoc::exportImages(document, folder.path(), false))
+        for (const QString &path : MTextDoc::exportImages(document, folder.path(), false)) {
             widths << QImage(path).width();
+        }
         QCOMPARE(widths.size(), 2);
         std::sort(widths.begin(), widths.end());
         QCOMPARE(widths, (QList<int>{4, 9}));
@@ -76,8 +77,9 @@ private Q_SLOTS:
     void tooManyProperties()
     {
         QTextCharFormat format;
-        for (int i = 0; i < 4100; ++i)
+        for (int i = 0; i < 4100; ++i) {
             format.setProperty(QTextFormat::UserProperty + i, i);
+        }
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("4 of its 4100 properties"));
         QCOMPARE(F::toCharFormat(F::toByteArray(format)).propertyCount(), 4096);
     }
@@ -92,10 +94,12 @@ private Q_SLOTS:
     void largePlainTextureAndManyStops()
     {
         QLinearGradient stops(0, 0, 1, 1);
-        for (int i = 0; i <= 2000; ++i)
+        for (int i = 0; i <= 2000; ++i) {
             stops.setColorAt(i / 2000.0, Qt::red);
-        for (const QBrush &brush : {QBrush(square(1400)), QBrush(stops)})
+        }
+        for (const QBrush &brush : {QBrush(square(1400)), QBrush(stops)}) {
             QCOMPARE(F::toCharFormat(F::toByteArray(with(brush))).propertyCount(), 1);
+        }
     }
 
     // The first of the families wins on screen.
@@ -118,8 +122,9 @@ private Q_SLOTS:
         const QByteArray one = F::toByteArray(with(square(1400)));
         const QByteArray value = one.mid(8);
         QByteArray bytes = one.left(4) + QByteArray::fromHex("00000032");
-        for (int i = 0; i < 50; ++i)
+        for (int i = 0; i < 50; ++i) {
             bytes += value;
+        }
         QCOMPARE(F::toCharFormat(one).propertyCount(), 1);
         QCOMPARE(F::toCharFormat(bytes).propertyCount(), 0);
     }

@@ -35,8 +35,9 @@ QString randomText(QRandomGenerator *random, bool lines)
         "=",   "===", "~",   ":",  " ",      "  ",     "\t",    "a",  "b",    "A",     "B", "INT. ",
         "TO:", "É",   "ß",   "語", "\u00a0", "\ufffc", "Key: ", "\n", "\n\n", "\n  \n"};
     QString text;
-    for (int left = random->bounded(8); left > 0; --left)
+    for (int left = random->bounded(8); left > 0; --left) {
         text += parts.at(random->bounded(parts.size() - (lines ? 0 : 3)));
+    }
     return text;
 }
 
@@ -56,8 +57,9 @@ MRVFountainRuns randomRuns(QRandomGenerator *random)
 MRVFountainScript randomScript(QRandomGenerator *random)
 {
     MRVFountainScript script;
-    for (int left = qMax(0, random->bounded(6) - 3); left > 0; --left)
+    for (int left = qMax(0, random->bounded(6) - 3); left > 0; --left) {
         script.titles.append({randomText(random, true), randomRuns(random)});
+    }
     for (int left = random->bounded(6); left > 0; --left) {
         Element element;
         element.kind = Element::Kind(random->bounded(Element::KindCount));
@@ -80,8 +82,9 @@ QString dump(const MRVFountainRuns &runs)
     QString text;
     for (const Run &run : runs) {
         QString marks;
-        for (int style = 0; style < 3; ++style)
+        for (int style = 0; style < 3; ++style) {
             marks += run.emphasis & Run::Style(1 << style) ? QString("ibu"[style]) : QString();
+        }
         marks += run.kind == Run::Note ? "N" : run.kind == Run::Boneyard ? "Y" : "";
         text += marks.isEmpty() ? run.text : QString("{%1:%2}").arg(marks, run.text);
     }
@@ -91,8 +94,9 @@ QString dump(const MRVFountainRuns &runs)
 QString dump(const MRVFountainScript &script)
 {
     QStringList lines;
-    for (const MRVFountainTitle &title : script.titles)
+    for (const MRVFountainTitle &title : script.titles) {
         lines << QString("title %1=%2").arg(title.key, dump(title.value));
+    }
     for (const Element &element : script.elements) {
         QString line = kindNames[element.kind];
         line += element.level > 1 ? QString::number(element.level) : QString();
@@ -192,19 +196,22 @@ void TestFountain::revisions()
 {
     QFETCH(QString, text);
     QFETCH(QString, revised);
-    for (QString *each : {&text, &revised})
+    for (QString *each : {&text, &revised}) {
         each->replace("<BOM>", QChar(QChar::ByteOrderMark))
             .replace("<SOH>", QChar(1))
             .replace("<HALF>", QChar(0xD800))
             .replace("<FFFE>", QChar(0xFFFE));
+    }
     MRVFountainScript script = MRVFountainScript::fromText(text);
     for (Element &element : script.elements) {
-        for (Run &run : element.runs)
+        for (Run &run : element.runs) {
             run.text.replace("BOB", "ROBERT");
+        }
     }
     for (MRVFountainTitle &title : script.titles) {
-        for (Run &run : title.value)
+        for (Run &run : title.value) {
             run.text.replace("BOB", "ROBERT");
+        }
     }
     QCOMPARE(script.toText(text), revised);
 }
@@ -215,8 +222,9 @@ void TestFountain::randomTexts()
     for (int seed = 0; seed < qMax(count, 3000); ++seed) {
         QRandomGenerator random(seed);
         QString text;
-        for (int left = random.bounded(8); left > 0; --left)
+        for (int left = random.bounded(8); left > 0; --left) {
             text += randomText(&random, true);
+        }
         const MRVFountainScript read = MRVFountainScript::fromText(text);
         QCOMPARE(dump(read.normalized()), dump(read));
         QCOMPARE(read.toText(text), text);
@@ -235,8 +243,9 @@ void TestFountain::documents_data()
     QTest::newRow("no elements") << MRVScriptMode();
     const auto modes = MRVScriptMode::systemModes();
     QVERIFY(modes.size() > 5);
-    for (const MRVScriptMode &mode : modes)
+    for (const MRVScriptMode &mode : modes) {
         QTest::newRow(qPrintable(mode.name())) << mode;
+    }
 }
 
 // Through a document, a copy of it, and formats as they are stored.
@@ -273,12 +282,14 @@ void TestFountain::documents()
         // What the mode has an element for is of that element.
         QSet<QString> titles;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-            if (mode.indexOf(block) >= 0)
+            if (mode.indexOf(block) >= 0) {
                 titles.insert(mode.elements().at(mode.indexOf(block)).title());
+            }
         }
-        for (const Element &element : script.elements)
+        for (const Element &element : script.elements) {
             QVERIFY(element.kind != Element::Dialogue || mode.indexOf("Dialogue") < 0
                     || titles.contains("Dialogue") || titles.contains("Dual Dialogue"));
+        }
     }
 }
 
@@ -314,13 +325,14 @@ void TestFountain::statistics()
     QFETCH(QString, characters);
     const auto found = MRVScriptStatistics::of(MRVFountainScript::fromText(text));
     QStringList list;
-    for (const auto &character : found.characters)
+    for (const auto &character : found.characters) {
         list << QString("%1 %2 %3 %4 %5")
                     .arg(character.name)
                     .arg(character.speeches)
                     .arg(character.lines)
                     .arg(character.words)
                     .arg(character.scenes);
+    }
     QCOMPARE(QString("%1 %2 %3 %4")
                  .arg(found.scenes)
                  .arg(found.words)
@@ -343,8 +355,9 @@ void TestFountain::pages()
         QCOMPARE(dump(read), dump(script));
         // Of a title page, Final Draft keeps all but where notes end.
         MRVFountainScript titles;
-        for (const MRVFountainTitle &title : script.titles)
+        for (const MRVFountainTitle &title : script.titles) {
             titles.titles.append({title.key, {{title.text(), {}, Run::Text}}});
+        }
         titles = titles.normalized();
         QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(titles), &read));
         QCOMPARE(dump(read), dump(titles));
@@ -357,8 +370,9 @@ void TestFountain::finalDraft()
     const QString text = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fountain");
     const QByteArray xml = MRVFinalDraft::toXml(MRVFountainScript::fromText(text));
     const QByteArray golden = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fdx");
-    if (qEnvironmentVariableIsSet("MRV_REWRITE_GOLDEN"))
+    if (qEnvironmentVariableIsSet("MRV_REWRITE_GOLDEN")) {
         QVERIFY(writeBytes(MRV_SOURCE_DIR "/tests/data/script.fdx", xml));
+    }
     QCOMPARE(QString(xml), QString(golden));
     MRVFountainScript read;
     QVERIFY(MRVFinalDraft::fromXml(xml, &read));
@@ -391,8 +405,9 @@ void TestFountain::refusedXml()
     MRVFountainScript script;
     QString found;
     QString attributes;
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         attributes += QString("a%1='' ").arg(i);
+    }
     text.replace("@=", attributes);
     const QByteArray bytes = text.replace("@300", QString("<p>").repeated(300)).toUtf8();
     QVERIFY(!(format == "html" ? MRVFountainHtml::fromHtml(bytes, &script, &found)
@@ -414,8 +429,9 @@ void TestFountain::typedDocuments()
         const int element = used.indexOf(paragraph.section(": ", 0, 0));
         QVERIFY2(element >= 0, qPrintable(paragraph));
         const MRVScriptElement look = used.elements().at(element);
-        if (!document.isEmpty())
+        if (!document.isEmpty()) {
             cursor.insertBlock();
+        }
         cursor.setBlockFormat(look.blockFormat());
         cursor.insertText(paragraph.section(": ", 1).replace('/', QChar(QChar::LineSeparator)),
                           look.charFormat());

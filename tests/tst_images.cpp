@@ -11,9 +11,10 @@ namespace {
 QImage testCard(QImage::Format format)
 {
     QImage image(8, 4, QImage::Format_ARGB32);
-    for (int i = 0; i < 32; ++i)
+    for (int i = 0; i < 32; ++i) {
         image.setPixelColor(i % 8, i / 8,
                             QColor(i % 8 * 30, i / 8 * 60, 255 - i % 8 * 30, i < 24 ? 255 : 0));
+    }
     return image.convertToFormat(format);
 }
 
@@ -65,8 +66,9 @@ private Q_SLOTS:
         QCOMPARE(id(testCard(QImage::Format_RGBA64)), id(card));
         QCOMPARE(id(padded), id(narrow));
         for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32,
-                                  QImage::Format_Grayscale8, QImage::Format_Indexed8})
+                                  QImage::Format_Grayscale8, QImage::Format_Indexed8}) {
             QCOMPARE(id(narrow.convertToFormat(format)), id(narrow));
+        }
         QCOMPARE(id(QImage()), QString());
         // Stored in documents, so it must never change.
         QCOMPARE(MRVGuiUtil::resourceId(card),
@@ -140,10 +142,12 @@ private Q_SLOTS:
         const QImage image = MRVGuiUtil::toImage(data, hint);
         QCOMPARE(image.size(), size);
         QVERIFY(!size.isEmpty() || peakMemory() - before < 64 * 1024);
-        if (data.type() == QVariant::ByteArray)
+        if (data.type() == QVariant::ByteArray) {
             QCOMPARE(MRVGuiUtil::toImage(data.toByteArray(), hint), image);
-        if (size == QSize(8, 4))
+        }
+        if (size == QSize(8, 4)) {
             QCOMPARE(image, testCard(image.format()));
+        }
     }
 
     void encodesImages_data() { addRows("imageformats.tsv", {"format", "detected"}); }
@@ -167,8 +171,9 @@ private Q_SLOTS:
         QVERIFY(MRVGuiUtil::toByteArray(QImage(), hint).isEmpty());
         const QByteArray wide = MRVGuiUtil::toByteArray(glass.scaled(257, 16), hint);
         QVERIFY(wide.isEmpty() || MRVGuiUtil::toImage(wide).width() == 257);
-        if (detected.isEmpty())
+        if (detected.isEmpty()) {
             return;
+        }
         // What has no transparency shows white in its place.
         const QImage read = MRVGuiUtil::toImage(bytes);
         const QColor background =
@@ -194,23 +199,26 @@ private Q_SLOTS:
             sorted.sort();
             sorted.removeDuplicates();
             QCOMPARE(formats, sorted);
-            for (const char *format : {"BMP", "JPG", "PNG", "JPEG", "TIFF", "SVGZ"})
+            for (const char *format : {"BMP", "JPG", "PNG", "JPEG", "TIFF", "SVGZ"}) {
                 QVERIFY2(formats.contains(format) == (strlen(format) == 3), format);
+            }
         }
         QVERIFY(readable.contains("GIF") && !writable.contains("GIF"));
         for (const QString &format : writable) {
             const QImage card = testCard(QImage::Format_RGB32);
             QVERIFY2(!MRVGuiUtil::toByteArray(card, format.toLatin1()).isEmpty(),
                      qPrintable(format));
-            if (readable.contains(format))
+            if (readable.contains(format)) {
                 both << format;
+            }
         }
         QCOMPARE(MRVGuiUtil::readWriteImageFormats(), both);
 
         const QStringList filters = MRVGuiUtil::readImageFileFilters();
         QCOMPARE(filters.size(), readable.size() + 1);
-        for (const char *pattern : {"*.png", "*.jpg", "*.jpeg", "*.gif"})
+        for (const char *pattern : {"*.png", "*.jpg", "*.jpeg", "*.gif"}) {
             QVERIFY2(filters.first().contains(pattern), pattern);
+        }
         QVERIFY2(QRegExp("All Images \\(\\*\\..*\\)").exactMatch(filters[0]),
                  qPrintable(filters[0]));
         QVERIFY(filters.contains("JPG (*.jpg *.jpeg *.jpe *.jfif)"));

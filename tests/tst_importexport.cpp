@@ -19,16 +19,18 @@ QByteArray stored(const QString &entries)
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream << list.size();
-    for (const QString &entry : list)
+    for (const QString &entry : list) {
         stream << entry.section('=', 0, 0) << entry.section('=', 1);
+    }
     return bytes;
 }
 
 QString written(const FormatEngines &engines)
 {
     QStringList entries;
-    for (auto it = engines.cbegin(); it != engines.cend(); ++it)
+    for (auto it = engines.cbegin(); it != engines.cend(); ++it) {
         entries << F::name(it.key()) + '=' + E::toString(it.value());
+    }
     entries.sort();
     return entries.join(' ');
 }
@@ -36,8 +38,9 @@ QString written(const FormatEngines &engines)
 QString names(const QList<E::Engine> &engines)
 {
     QStringList list;
-    for (E::Engine engine : engines)
+    for (E::Engine engine : engines) {
         list << E::toString(engine);
+    }
     return list.join(' ');
 }
 
@@ -115,8 +118,9 @@ void tst_ImportExport::formatTable()
         QCOMPARE(F::isPlainTextVariant(info.format), mmd || format == 3);
         QCOMPARE(F::isRtfOrDoc(info.format), format == 4 || format == 10 || format == 11);
         QCOMPARE(F::isEBook(info.format), format == 7 || format == 8);
-        if (!firstSuffixes.contains(format))
+        if (!firstSuffixes.contains(format)) {
             firstSuffixes.insert(format, row.value(3));
+        }
         QCOMPARE(F::extension(info.format), firstSuffixes.value(format));
     }
     QCOMPARE(firstSuffixes.size(), 39);
@@ -139,8 +143,9 @@ void tst_ImportExport::engineTable()
     for (const QStringList &row : rowsOf("engines.tsv")) {
         const E::Engine engine = E::Engine(row.at(0).toInt());
         stored.insert(engine, row.at(1));
-        if (row.size() > 2)
+        if (row.size() > 2) {
             shown.insert(engine, row.at(2));
+        }
         QCOMPARE(E::toString(engine), row.at(1));
         QCOMPARE(E::toEngine(row.at(1)), engine);
         QCOMPARE(E::isDoc2AnyEngine(engine), engine >= 1 && engine <= 4);
@@ -164,8 +169,9 @@ void tst_ImportExport::urlImportTypes()
         QCOMPARE(E::toByteArray(type), row.at(1).toUtf8());
         QCOMPARE(E::toUrlImportType(row.at(1).toUtf8()), type);
         QCOMPARE(E::isImportToPdfType(type), type >= 1 && type <= 3);
-        if (row.size() > 2 && type != E::ImportAsPdfWithDoc2AnyOffice)
+        if (row.size() > 2 && type != E::ImportAsPdfWithDoc2AnyOffice) {
             shown.insert(type, row.at(2));
+        }
     }
     QCOMPARE(shown.size(), 4);
     QCOMPARE(E::urlImportTypesDescr(), shown);
@@ -174,8 +180,9 @@ void tst_ImportExport::urlImportTypes()
     QCOMPARE(E::urlImportTypesDescrSorted(), sorted);
     QCOMPARE(E::toUrlImportType("ImportAsPdf"), E::ImportAsPdfWithDoc2AnyWebKit);
     for (const QByteArray &unknown : {QByteArray(), QByteArray("importashtml"),
-                                      QByteArray("ImportAsPdf", 12), QByteArray("ImportAs")})
+                                      QByteArray("ImportAsPdf", 12), QByteArray("ImportAs")}) {
         QCOMPARE(E::toUrlImportType(unknown), E::ImportUndefined);
+    }
     QVERIFY(E::toByteArray(E::UrlImportType(9)).isEmpty());
     QVERIFY(E::toByteArray(E::UrlImportType(-1)).isEmpty());
 }
@@ -203,14 +210,17 @@ void tst_ImportExport::supported()
     QFETCH(QString, direction);
     QFETCH(QString, format);
     QVector<F::Format> formats;
-    for (int i = 0; i < F::formatsCount(); ++i)
+    for (int i = 0; i < F::formatsCount(); ++i) {
         formats << F::formatAt(i);
-    for (const QStringList &row : rowsOf("engine-support.tsv")) {
-        if (row.at(0) == direction)
-            formats.removeAll(F::format(row.at(1)));
     }
-    if (format != "other")
+    for (const QStringList &row : rowsOf("engine-support.tsv")) {
+        if (row.at(0) == direction) {
+            formats.removeAll(F::format(row.at(1)));
+        }
+    }
+    if (format != "other") {
         formats = {F::format(format)};
+    }
     for (F::Format one : qAsConst(formats)) {
         const Direction way = direction == "import" ? Import : Export;
         QTEST(names(supportedEngines(way, one, {false})), "without");
@@ -262,8 +272,9 @@ void tst_ImportExport::cutStored()
 {
     const QByteArray sound = stored("DOC=RtfBasedDoc MMD=QtEngine ODT=Doc2AnyInternalEngine");
     QCOMPARE(toFormatEngines(sound + "more").size(), 3);
-    for (int i = 0; i < sound.size(); ++i)
+    for (int i = 0; i < sound.size(); ++i) {
         QVERIFY(toFormatEngines(sound.left(i)).isEmpty());
+    }
 }
 
 void tst_ImportExport::choices()
@@ -274,8 +285,9 @@ void tst_ImportExport::choices()
     QTemporaryDir folder;
     MRVOptions options(folder.filePath("s.ini"));
     for (auto setting : {MRVOptions::ImportFormatConverters, MRVOptions::ExportFormatConverters}) {
-        if (!stored.isEmpty())
+        if (!stored.isEmpty()) {
             options.setValue(setting, ::stored(stored));
+        }
     }
     const MRVImportExportConfig config(&options);
     const MRVEngineChoice choice = config.explain(F::format(from), F::format(to));
@@ -284,8 +296,9 @@ void tst_ImportExport::choices()
     QTEST(QString(choice.isOffered() ? "yes" : "no"), "offered");
     QCOMPARE(choice.reasonText().contains("Prefer"), choice.reason == MRVEngineChoice::Repaired);
     QCOMPARE(config.findEngine(F::format(from), F::format(to)), choice.engine);
-    if (!stored.isEmpty())
+    if (!stored.isEmpty()) {
         QCOMPARE(options.value(MRVOptions::ExportFormatConverters), ::stored(stored));
+    }
 }
 
 // What is set holds as it is until the next start.

@@ -131,11 +131,13 @@ QVector<Include> includesOf(QString text)
         "^\\s*#\\s*include\\s*(?:([<\"])([^>\"]*)[>\"]|(\\S+))");
     for (auto it = token.globalMatch(QString(text)); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
-        if (!match.captured().startsWith('/'))
+        if (!match.captured().startsWith('/')) {
             continue;
+        }
         for (int i = match.capturedStart(); i < match.capturedEnd(); ++i) {
-            if (text.at(i) != '\n')
+            if (text.at(i) != '\n') {
                 text[i] = ' ';
+            }
         }
     }
     QVector<Include> includes;
@@ -211,8 +213,9 @@ private:
         }
         for (const QString &root : qAsConst(roots)) {
             const QString path = QDir::cleanPath(root + name);
-            if (m_sources.contains(path))
+            if (m_sources.contains(path)) {
                 return path;
+            }
         }
         return QString();
     }
@@ -242,20 +245,25 @@ private:
     static QString floorFault(const QString &from, const QString &to, const Room &room)
     {
         const Room *target = rowOf(to);
-        if (!target)
+        if (!target) {
             return "lies on no floor";
+        }
         const bool sameRoom = roomOf(from) == roomOf(to);
         // A test may compile a private piece of the library into itself.
         const bool maySeePrivate = from.startsWith("tests/") || from.startsWith("fuzz/")
             || (to == SharedPiece && from.startsWith(SharedWith));
-        if (to.endsWith("_p.h") && !sameRoom && !maySeePrivate)
+        if (to.endsWith("_p.h") && !sameRoom && !maySeePrivate) {
             return "private to another room";
-        if (target->floor > room.floor)
+        }
+        if (target->floor > room.floor) {
             return "points up";
-        if (target->floor == room.floor && !sameRoom)
+        }
+        if (target->floor == room.floor && !sameRoom) {
             return "points across the floor";
-        if (target->floor == room.floor && target->step > room.step)
+        }
+        if (target->floor == room.floor && target->step > room.step) {
             return "points up within its room";
+        }
         return QString();
     }
 
@@ -264,24 +272,31 @@ private:
         const QString &name = include.name;
         const QString file = name.section('/', -1);
         const QString own = unitOf(from).section('/', -1);
-        if (file.startsWith("ui_"))
+        if (file.startsWith("ui_")) {
             return file == "ui_" + own + ".h" ? QString() : "form of another dialog";
-        if (name == own + ".moc")
+        }
+        if (name == own + ".moc") {
             return QString();
-        if (name.contains("/private/") || name.startsWith("private/"))
+        }
+        if (name.contains("/private/") || name.startsWith("private/")) {
             return "private to Qt";
-        if (include.quoted)
+        }
+        if (include.quoted) {
             return "found neither from base/ nor from platform/";
+        }
         const QStringList allowed = QString::fromLatin1(room.modules).split(' ');
-        if (allowed.contains(AnyModule) || allowed.contains(name))
+        if (allowed.contains(AnyModule) || allowed.contains(name)) {
             return QString();
+        }
         const QStringList modules = qtModules(name);
         for (const QString &module : modules) {
-            if (allowed.contains(module))
+            if (allowed.contains(module)) {
                 return QString();
+            }
         }
-        if (!modules.isEmpty())
+        if (!modules.isEmpty()) {
             return "module " + modules.join('/') + " is not for this room";
+        }
         // Without a capital it is the language's or the system's.
         static const QRegularExpression system("^[a-z0-9_/]+(\\.h)?$");
         return system.match(name).hasMatch() ? QString() : "library is not for this room";
@@ -305,8 +320,9 @@ private:
             m_faults.append("circle: " + (way->mid(met) + QStringList{unit}).join(" -> "));
             return;
         }
-        if (done->contains(unit))
+        if (done->contains(unit)) {
             return;
+        }
         way->append(unit);
         const QStringList next = sorted(m_uses.value(unit).values());
         for (const QString &used : next) {
@@ -352,21 +368,25 @@ QMap<QString, QString> checkoutSources()
 int startUpEntries(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return -1;
+    }
     const QByteArray bytes = file.readAll();
     Elf64_Ehdr header;
-    if (bytes.size() < int(sizeof header))
+    if (bytes.size() < int(sizeof header)) {
         return -1;
+    }
     memcpy(&header, bytes.constData(), sizeof header);
-    if (memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != ELFCLASS64)
+    if (memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != ELFCLASS64) {
         return -1;
+    }
     quint64 size = 0;
     for (int i = 0; i < header.e_shnum; ++i) {
         Elf64_Shdr section;
         const quint64 place = header.e_shoff + quint64(i) * header.e_shentsize;
-        if (place + sizeof section > quint64(bytes.size()))
+        if (place + sizeof section > quint64(bytes.size())) {
             return -1;
+        }
         memcpy(&section, bytes.constData() + place, sizeof section);
         if (section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_PREINIT_ARRAY) {
             size += section.sh_size;

@@ -47,8 +47,9 @@ QTextList *buildList(QTextDocument *document)
     QTextCursor cursor(document);
     cursor.select(QTextCursor::Document);
     QTextList *list = cursor.createList(QTextListFormat::ListDecimal);
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         Levels::setBlockLevel(*list, list->item(i), i + 1);
+    }
     return list;
 }
 
@@ -114,12 +115,13 @@ void tst_Lists::cursors()
     QCOMPARE(notation(cursor), before);
     const QString name = operation.section(", ", 0, 0);
     const bool atEdge = operation.endsWith("true");
-    if (name == "trim")
+    if (name == "trim") {
         MRVTextCursor::trimTrailingSpaces(&cursor);
-    else if (name == "block" || name == "separator")
+    } else if (name == "block" || name == "separator") {
         MRVTextCursor::selectBlockUnderCursor(&cursor, name == "separator");
-    else if (name == "image")
+    } else if (name == "image") {
         cursor = MRVTextCursor::selectImage(cursor);
+    }
     const QHash<QString, bool> answers{
         {"before", MRVTextCursor::hasWordBorderBefore(cursor, atEdge)},
         {"after", MRVTextCursor::hasWordBorderAfter(cursor, atEdge)},
@@ -142,8 +144,9 @@ void tst_Lists::replaceText()
         for (int i = 0; i < formats.size(); ++i) {
             QTextCharFormat format;
             format.setProperty(MRVTextFormat::ExtraProperty4, formats.at(i).digitValue());
-            if (old.at(i) == '#')
+            if (old.at(i) == '#') {
                 format.setProperty(QTextFormat::ObjectType, QTextFormat::ImageObject);
+            }
             MRVTextRange(before + i, before + i + 1).toTextCursor(&document).setCharFormat(format);
         }
         const QStringList start = documentDump(document);
@@ -206,8 +209,9 @@ void tst_Lists::levels()
     const QByteArray bytes = MRVTextFormat::toByteArray(block);
     QVERIFY(bytes.contains("QTextListFormat::Level"));
     QCOMPARE(MRVTextFormat::toBlockFormat(bytes), block);
-    for (int size = 0; size < bytes.size(); ++size)
+    for (int size = 0; size < bytes.size(); ++size) {
         QVERIFY(MRVTextFormat::toBlockFormat(bytes.left(size)).isEmpty());
+    }
 
     levels[0] = "no level";
     format.setProperty(MRVListLevelsProperty, levels);

@@ -29,8 +29,9 @@ private Q_SLOTS:
 static Ran mrv(const QString &arguments, const QString &settings, const QByteArray &input = {})
 {
     QStringList list{"autoreplace"};
-    for (const QString &argument : arguments.split(' '))
+    for (const QString &argument : arguments.split(' ')) {
         list << QString(argument).replace(u'␣', ' ');
+    }
     return run(MRV_TOOL, list << "--settings" << settings, {}, input);
 }
 
@@ -46,8 +47,9 @@ void TestMrvAutoReplace::commands()
     QVERIFY(writeBytes(settings, QByteArray()));
     const bool shows = arguments.startsWith("show");
     for (const QString &command : before.split("; ", Qt::SkipEmptyParts)) {
-        if (!shows)
+        if (!shows) {
             QCOMPARE(mrv(command, settings).exitCode, 0);
+        }
     }
     const Ran ran = mrv(arguments, settings, shows ? before.toUtf8() : QByteArray());
     QFETCH(QString, output);
@@ -93,12 +95,14 @@ void TestMrvAutoReplace::manyAtOnce()
     QTemporaryDir folder;
     const QString settings = folder.filePath("settings.ini");
     std::array<QProcess, 12> processes;
-    for (QProcess &process : processes)
+    for (QProcess &process : processes) {
         process.start(MRV_TOOL,
                       {"autoreplace", "add", QString("m%1").arg(&process - &processes[0]), "r",
                        "--settings", settings});
-    for (QProcess &process : processes)
+    }
+    for (QProcess &process : processes) {
         QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+    }
     QCOMPARE(mrv("list", settings).output.count("“m"), 12);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {"settings.ini"});
 }
@@ -112,8 +116,9 @@ void TestMrvAutoReplace::damagedList()
     const QByteArray whole = MRVAutoReplaceList::defaultReplacementsByteArray();
     for (const QByteArray &damaged : {whole.left(100), '\1' + whole.mid(1), QByteArray("text")}) {
         QSettings(settings, QSettings::IniFormat).setValue(key, damaged);
-        for (const char *edit : {"add x y", "remove (c)", "enable 1/2", "disable (c)"})
+        for (const char *edit : {"add x y", "remove (c)", "enable 1/2", "disable (c)"}) {
             QVERIFY(mrv(edit, settings).errors.contains(settings));
+        }
         QCOMPARE(QSettings(settings, QSettings::IniFormat).value(key).toByteArray(), damaged);
         const Ran list = mrv("list", settings);
         QVERIFY(list.exitCode == 1 && list.errors.contains(settings));

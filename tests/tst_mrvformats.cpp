@@ -40,8 +40,9 @@ void tst_MrvFormats::commands()
     QVERIFY(writeBytes(m_folder.filePath("s.ini"), stored));
     const Ran ran = mrv(arguments + " --settings @s.ini");
     QTEST(QString::number(ran.exitCode), "code");
-    for (const QString &line : output.split('\n'))
+    for (const QString &line : output.split('\n')) {
         QVERIFY2(('\n' + ran.output).contains('\n' + line), qPrintable(ran.output));
+    }
     QCOMPARE(ran.output.isEmpty(), output.isEmpty());
     QVERIFY2(ran.errors.contains(error) && ran.errors.count('\n') == int(!error.isEmpty()),
              qPrintable(ran.errors));

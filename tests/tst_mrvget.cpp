@@ -81,8 +81,9 @@ void tst_MrvGet::get()
     QFETCH(QString, file);
     QTemporaryDir folder;
     const QString host = m_server.url(QString()).toString();
-    if (file.contains("taken"))
+    if (file.contains("taken")) {
         QVERIFY(writeBytes(folder.filePath("taken.html"), "old"));
+    }
     // A link that cannot be replaced, to a file that can.
     const QString locked = folder.filePath("locked");
     QVERIFY(QDir().mkdir(locked) && QFile::link("../x.txt", locked + "/link"));
@@ -117,8 +118,9 @@ void tst_MrvGet::get()
     QTEST(QString::fromLatin1(bytesOf(folder.filePath(file.section('|', 0, 0)))), "bytes");
     const QByteArray password = "Basic " + QByteArray("ann:pass").toBase64();
     const QByteArray requests = m_server.requests().join();
-    if (arguments.contains("locked --user"))
+    if (arguments.contains("locked --user")) {
         QVERIFY(requests.contains(password));
+    }
     QVERIFY(!m_other.requests().join().contains("Authorization"));
 }
 

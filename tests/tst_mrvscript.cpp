@@ -48,8 +48,9 @@ void tst_MrvScript::runRow(const QString &name)
     const QString path = folder.path() + '/';
     QVERIFY(writeBytes(path + name, file.toUtf8()));
     QStringList list = arguments.split(' ');
-    for (QString &argument : list)
+    for (QString &argument : list) {
         argument.replace('@', path).replace(u'␣', ' ').replace(u'␤', '\n');
+    }
     Ran ran = run(MRV_TOOL, list);
     ran.output.replace(path, "@");
     QVERIFY2(output.isEmpty() ? ran.output.isEmpty() : ran.output.contains(output),

@@ -28,8 +28,9 @@ private:
     Ran mrv(const QString &arguments) const
     {
         QStringList list = arguments.split(' ');
-        for (QString &argument : list)
+        for (QString &argument : list) {
             argument.replace('@', m_folder->path() + '/').replace(u'␣', ' ');
+        }
         Ran ran = run(MRV_TOOL, QStringList("settings") + list, {"XDG_CONFIG_HOME=" + in("home")});
         ran.output.replace(m_folder->path() + '/', "@");
         return ran;
@@ -44,8 +45,9 @@ void tst_MrvSettings::commands()
     QFETCH(QString, arguments);
     QFETCH(QString, error);
     QFETCH(QString, after);
-    if (!before.isEmpty())
+    if (!before.isEmpty()) {
         QVERIFY(writeBytes(in("a.ini"), before.toUtf8()));
+    }
     const Ran ran = mrv(arguments + " --settings @a.ini");
     QVERIFY2(error.isEmpty() ? ran.errors.isEmpty()
                              : ran.errors.contains(error) && ran.errors.count('\n') == 1,

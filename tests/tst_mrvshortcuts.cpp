@@ -26,8 +26,9 @@ private:
     Ran mrv(const QString &arguments) const
     {
         QStringList list = arguments.split(' ', Qt::SkipEmptyParts);
-        for (QString &argument : list)
+        for (QString &argument : list) {
             argument.replace('@', m_folder.path() + '/').replace(u'␣', ' ').remove(u'␠');
+        }
         // From the test's folder, in which a folder has the name of a scheme.
         return run("env", QStringList{"-C", m_folder.path(), MRV_TOOL, "shortcuts"} + list);
     }

@@ -38,8 +38,9 @@ private Q_SLOTS:
             });
         });
         const QString web = QString("http://127.0.0.1:%1").arg(server.serverPort());
-        for (QString *text : {&arguments, &output, &error})
+        for (QString *text : {&arguments, &output, &error}) {
             text->replace("@f", file).replace("@web", web);
+        }
 
         QProcess tool;
         tool.start(MRV_TOOL,

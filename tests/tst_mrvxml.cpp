@@ -23,10 +23,11 @@ private Q_SLOTS:
         const QString file = folder.filePath("f.xml");
         QVERIFY(writeBytes(file, source.toUtf8()));
         QStringList list = arguments.split(' ');
-        for (QString &argument : list)
+        for (QString &argument : list) {
             argument.replace('@' + QString("f"), folder.filePath("f"))
                 .replace("@none", folder.filePath("none"))
                 .replace(u'␣', ' ');
+        }
         const Ran ran = run(MRV_TOOL, list, {}, source.toUtf8());
         QTEST(ran.output, "output");
         QVERIFY2(error.isEmpty() ? ran.errors.isEmpty() : ran.errors.count('\n') == 1,

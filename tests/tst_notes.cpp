@@ -38,14 +38,16 @@ QTextCharFormat formatOf(const QString &text)
     for (const auto &[key, property] : keys) {
         for (const QString &item : text.split(',')) {
             QVariant value = item.section('=', 1);
-            if (item == key)
+            if (item == key) {
                 value = true;
-            else if (key == "align" || key == "bold")
+            } else if (key == "align" || key == "bold") {
                 value = value.toInt();
-            else if (item.contains("=#"))
+            } else if (item.contains("=#")) {
                 value = QBrush(QColor(value.toString()));
-            if (item.section('=', 0, 0) == key)
+            }
+            if (item.section('=', 0, 0) == key) {
                 format.setProperty(property, value);
+            }
         }
     }
     return format;
@@ -59,8 +61,9 @@ QString textOf(const QTextCharFormat &format)
         const QString text = value.userType() == QMetaType::QBrush
             ? value.value<QBrush>().color().name()
             : value.toString();
-        if (value.isValid())
+        if (value.isValid()) {
             items << (value.type() == QVariant::Bool ? key : key + '=' + text);
+        }
     }
     return items.join(',');
 }
@@ -78,22 +81,24 @@ void build(QTextDocument *document, const QString &text)
         const QString inside = text.mid(i + 1).section(QRegExp("[)}]"), 0, 0);
         QTextBlockFormat policy;
         policy.setPageBreakPolicy(QTextFormat::PageBreakFlag(inside.toInt()));
-        if (c == '{')
+        if (c == '{') {
             format = formatOf(inside);
-        else if (c == '(')
+        } else if (c == '(') {
             cursor.setBlockFormat(policy);
-        else if (c == '[')
+        } else if (c == '[') {
             cursor.insertTable(1, text.mid(i).section(']', 0, 0).count('|') + 1);
-        else if (c == ']' || (c == '|' && cursor.currentTable()))
+        } else if (c == ']' || (c == '|' && cursor.currentTable())) {
             cursor.movePosition(QTextCursor::NextBlock);
-        else if (c == '|')
+        } else if (c == '|') {
             cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
-        else if (c == '*')
+        } else if (c == '*') {
             cursor.insertImage("picture");
-        else
+        } else {
             cursor.insertText(c, format);
-        if (c == '{' || c == '(')
+        }
+        if (c == '{' || c == '(') {
             i += inside.size() + 1;
+        }
     }
     document->clearUndoRedoStacks();
 }
@@ -104,16 +109,19 @@ QString dump(const QTextDocument &document)
     bool wasTable = false;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const bool isTable = QTextCursor(block).currentTable();
-        if (block != document.begin())
+        if (block != document.begin()) {
             text += isTable == wasTable ? '|' : isTable ? '[' : ']';
+        }
         wasTable = isTable;
         text += block.textList() ? "- " : "";
-        if (block.blockFormat().hasProperty(QTextFormat::PageBreakPolicy))
+        if (block.blockFormat().hasProperty(QTextFormat::PageBreakPolicy)) {
             text += QString("(%1)").arg(int(block.blockFormat().pageBreakPolicy()));
+        }
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextCharFormat format = it.fragment().charFormat();
-            if (std::exchange(last, textOf(format)) != textOf(format))
+            if (std::exchange(last, textOf(format)) != textOf(format)) {
                 text += '{' + last + '}';
+            }
             text += it.fragment().text().replace(QChar::ObjectReplacementCharacter,
                                                  format.isImageFormat() ? '*' : '?');
         }
@@ -165,8 +173,9 @@ bool call(const QString &name, QTextDocument *d, const QString &question, const 
         {"setCharFormat", [&] { M::setCharFormatByBlockNumber(d, a.toInt(), formatOf(b)); }},
     };
     // clang-format on
-    if (operations.contains(name))
+    if (operations.contains(name)) {
         operations.value(name)();
+    }
     return operations.contains(name);
 }
 
@@ -249,8 +258,9 @@ void TestNotes::numbersAndFinds()
     build(&document, "a|{bold=75}b{bold=60}c{bold=75}d|(1){}");
     QCOMPARE(MTextDoc::blockFormatByBlockNumber(&document, 3), QTextBlockFormat());
     QCOMPARE(textOf(MTextDoc::charFormatByBlockNumber(&document, 1)), QString("bold=75"));
-    for (int none : {-1, 2, 3})
+    for (int none : {-1, 2, 3}) {
         QVERIFY(MTextDoc::charFormatByBlockNumber(&document, none).isEmpty());
+    }
     QCOMPARE(MTextDoc::continuousFragmentCount(formatOf("bold=75"), QTextCursor(&document), true),
              2);
     const QTextBlock block = document.findBlockByNumber(1);

@@ -31,10 +31,11 @@ double contrast(const QColor &a, const QColor &b)
 template<typename Value>
 QVariant variantOf(const Value &value)
 {
-    if constexpr (std::is_base_of_v<QTextFormat, Value>)
+    if constexpr (std::is_base_of_v<QTextFormat, Value>) {
         return QTextFormat(value);
-    else
+    } else {
         return QVariant::fromValue(value);
+    }
 }
 
 template<typename Setting>
@@ -105,8 +106,9 @@ private:
 
 void tst_Options::initTestCase()
 {
-    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope})
+    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
         QSettings::setPath(QSettings::NativeFormat, scope, m_home.filePath(QString::number(scope)));
+    }
 }
 
 void tst_Options::init()
@@ -130,14 +132,16 @@ void tst_Options::keysAndDefaults()
         keyAndDefault<MRVOptions::TextCharFormat>,    keyAndDefault<MRVOptions::TextBlockFormat>,
     };
     int index = 0;
-    while (MRVOptions::typeName(MRVOptions::SettingType(index)) != type)
+    while (MRVOptions::typeName(MRVOptions::SettingType(index)) != type) {
         ++index;
+    }
     QFETCH(QString, number);
     const QStringList found =
         asks[index](*m_options, MRVOptions::SettingType(index), number.toInt());
     QTEST(found.first(), "key");
-    if (!value.isEmpty())
+    if (!value.isEmpty()) {
         QCOMPARE(found.last(), value);
+    }
 }
 
 // Nothing is known that has no row above, but for the separators.
@@ -147,8 +151,9 @@ void tst_Options::noOtherKeys()
                      "Separators/MergedDocuments", "Separators/MergedDocumentsCustom",
                      "Separators/Morvanings",      "Separators/MorvaningsCustom"};
     for (const QStringList &row : rowsOf("options.tsv")) {
-        if (!row.value(2).isEmpty())
+        if (!row.value(2).isEmpty()) {
             keys << row.at(2);
+        }
     }
     keys.sort();
     QCOMPARE(keys.removeDuplicates(), 0);
@@ -172,8 +177,9 @@ void tst_Options::everyDefaultCanBeStored()
         const auto setting = options->explain(key);
         QCOMPARE(MRVOptions::toText(setting.type, setting.value),
                  MRVOptions::toText(setting.type, setting.defaultValue));
-        if (setting.type != MRVOptions::DateTimeType)
+        if (setting.type != MRVOptions::DateTimeType) {
             QCOMPARE(setting.origin, options->fileName());
+        }
     }
     QVERIFY(options->changedSettings().isEmpty());
 }
@@ -267,8 +273,9 @@ void tst_Options::themes()
         const auto colors = themes.at(i).colors;
         QCOMPARE(MRVOptions::findIndexCardTheme(colors), i);
         QVERIFY(!themes.at(i).name.isEmpty());
-        for (const auto text : {MRVOptions::TextColor, MRVOptions::IndexCardStatusColor})
+        for (const auto text : {MRVOptions::TextColor, MRVOptions::IndexCardStatusColor}) {
             QVERIFY(contrast(m_options->value(text), colors.first) >= 4.5);
+        }
         QVERIFY2(contrast(colors.second, colors.first) >= 3, qPrintable(themes.at(i).name));
     }
     QCOMPARE(MRVOptions::findIndexCardTheme({Qt::white, Qt::yellow}), -1);
@@ -307,10 +314,11 @@ void tst_Options::words()
         QVERIFY(m_options->setSpaceDoubleClickMode(MRVOptions::SpaceDoubleClickMode(found)));
     }
     QCOMPARE(QString::number(found), number);
-    if (word != "Unknown")
+    if (word != "Unknown") {
         QCOMPARE(m_options->value(key).toString(), word);
-    else
+    } else {
         QCOMPARE(m_options->value(key).toString(), m_options->explain(key).defaultValue.toString());
+    }
 }
 
 void tst_Options::separators()
@@ -349,11 +357,13 @@ void tst_Options::quotes()
 void tst_Options::pdfSettings()
 {
     const QStringList names{"A/B", "A//B", "A\\B", "A%2FB", "Für Verlage", ""};
-    for (const QString &name : names)
+    for (const QString &name : names) {
         QVERIFY(m_options->setPdfSettings(name, name.toUtf8() + '\0'));
+    }
     const auto options = reread();
-    for (const QString &name : names)
+    for (const QString &name : names) {
         QCOMPARE(options->pdfSettings(name), name.toUtf8() + '\0');
+    }
     QVERIFY(options->pdfSettings("A").isEmpty());
 }
 
@@ -490,8 +500,9 @@ void tst_Options::harmfulFiles()
         MRVOptions options(path);
         QTEST(QString::fromUtf8(bytesOf(path)).section("[Options]\n", 1), "left");
         QByteArrayList kept;
-        for (const QString &name : QDir(m_folder->path()).entryList({"harm*damaged*"}))
+        for (const QString &name : QDir(m_folder->path()).entryList({"harm*damaged*"})) {
             kept << bytesOf(m_folder->filePath(name));
+        }
         QCOMPARE(kept.size(), i + 1);
         QVERIFY(kept.contains(before));
     }

@@ -45,12 +45,14 @@ QString found(const QString &pattern, const QString &text)
 {
     QStringList addresses;
     const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
-    for (auto it = expression.globalMatch(text); it.hasNext();)
+    for (auto it = expression.globalMatch(text); it.hasNext();) {
         addresses << it.next().captured();
+    }
     QRegExp old(pattern);
     QStringList others;
-    for (int at = 0; (at = old.indexIn(text, at)) >= 0; at += old.matchedLength())
+    for (int at = 0; (at = old.indexIn(text, at)) >= 0; at += old.matchedLength()) {
         others << old.cap();
+    }
     return addresses == others && old.captureCount() == 0 ? addresses.join('|') : "engines differ";
 }
 
@@ -70,8 +72,9 @@ bool refusesCorrupt(const T &value)
 {
     const QByteArray bytes = MCoreType::toByteArray(value);
     bool isRefused = MCoreType::fromByteArray<T>(bytes) == value;
-    for (int i = 0; i < bytes.size(); ++i)
+    for (int i = 0; i < bytes.size(); ++i) {
         isRefused = isRefused && MCoreType::fromByteArray<T>(bytes.left(i)).isEmpty();
+    }
     for (const char *count : {"7ffffff0", "00000003", "ffffffff"}) {
         const QByteArray corrupt = QByteArray::fromHex(count) + bytes.mid(4);
         isRefused = isRefused && MCoreType::fromByteArray<T>(corrupt).isEmpty();
@@ -117,17 +120,20 @@ private Q_SLOTS:
         QVERIFY(QDir(m_dir->path()).mkdir("shared"));
         QCOMPARE(::chmod(qPrintable(path("shared")), 01777), 0);
         QCOMPARE(::mkfifo(qPrintable(path("pipe")), 0600), 0);
-        for (const QStringList &link : rowsOf("links.tsv"))
+        for (const QStringList &link : rowsOf("links.tsv")) {
             QVERIFY(QFile::link(link.at(1), path(link.at(0))));
-        if (target == "shared/planted" && ::lchown(qPrintable(path(target)), 1234, 5678) != 0)
+        }
+        if (target == "shared/planted" && ::lchown(qPrintable(path(target)), 1234, 5678) != 0) {
             QSKIP("only the administrator can plant another user's link");
+        }
         target.replace("(full)", full).replace("(null character)", QChar(QChar::Null));
         lands.replace("(full)", full);
         const QByteArray bytes = QByteArray("a\0\r\n\xff", 5).repeated(size.toInt() / 5);
         QMap<QString, Entry> expected = entriesOf(m_dir->path());
         const QString fresh = rights(0x6640, ::geteuid(), ::getegid());
-        if (error.isEmpty())
+        if (error.isEmpty()) {
             expected[lands] = {expected.value(lands, {fresh, {}}).first, bytes};
+        }
 
         rlimit old;
         ::getrlimit(RLIMIT_FSIZE, &old);
@@ -165,9 +171,10 @@ private Q_SLOTS:
         const QByteArray raw = QByteArray::fromHex(bytes.toLatin1());
         const bool good = error.isEmpty();
         QString message;
-        if (file.startsWith('@'))
+        if (file.startsWith('@')) {
             QVERIFY(QFile(path(file)).open(QIODevice::WriteOnly)
                     && QFile::resize(path(file), file.mid(1).toLongLong()));
+        }
         if (way != "read") {
             QVERIFY(file != "t" || writeBytes(path(file), "old"));
             QCOMPARE(MRVCoreUtil::WriteUnicodeTextFile(text, path(file), &message, hint), good);
@@ -176,10 +183,11 @@ private Q_SLOTS:
         if (way != "write") {
             QVERIFY(file != "t" || writeBytes(path(file), raw));
             text = good ? text : "";
-            if (codec == "binary")
+            if (codec == "binary") {
                 QCOMPARE(MRVCoreUtil::ReadBinaryFile(path(file), &message), QByteArray());
-            else
+            } else {
                 QCOMPARE(MRVCoreUtil::ReadUnicodeTextFile(path(file), &message, hint), text);
+            }
         }
         QVERIFY2(message.endsWith(error) && message.isEmpty() == good, qPrintable(message));
         QVERIFY(good || message.contains(path(file)));
@@ -213,8 +221,9 @@ private Q_SLOTS:
         const QString program = QCoreApplication::applicationFilePath();
         const QStringList environment = input.split('|') << "MORVANE_TRANSLATIONS=" + path("");
         QVERIFY(writeBytes(path("mrvbase_pt_BR.qm"), "x"));
-        if (call == "isAppMorvane")
+        if (call == "isAppMorvane") {
             QCoreApplication::setApplicationName(input);
+        }
         const QMap<QString, std::function<QString()>> functions{
             {"compileDate",
              [&] { return MRVCoreUtil::convertCompileStringDate(input).toString(Qt::ISODate); }},
@@ -241,9 +250,10 @@ private Q_SLOTS:
         QFETCH(QString, part);
         const QString text = start + part.repeated(200000 / part.size());
         const std::clock_t begin = std::clock();
-        for (const QString &pattern :
-             {MRVCoreUtil::wwwPattern(), MRVCoreUtil::emailPattern(), MRVCoreUtil::webUrlPattern()})
+        for (const QString &pattern : {MRVCoreUtil::wwwPattern(), MRVCoreUtil::emailPattern(),
+                                       MRVCoreUtil::webUrlPattern()}) {
             QVERIFY(found(pattern, text) != "engines differ");
+        }
         const double seconds = double(std::clock() - begin) / CLOCKS_PER_SEC;
         QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
     }
@@ -286,8 +296,9 @@ private Q_SLOTS:
         QCOMPARE(MTranslator::morvaneGuiLanguages(), QStringList("en"));
         for (const char *name :
              {"mrvbase_fr.qm", "mrvbase_de.qm", "mrvbase_pt_BR.qm", "mrvbase_en.qm", "mrvbase_.qm",
-              "mrvbase_xx.qm", "mrvbase_C.qm", "other_it.qm", "mrvbase_es.ts"})
+              "mrvbase_xx.qm", "mrvbase_C.qm", "other_it.qm", "mrvbase_es.ts"}) {
             QVERIFY(writeBytes(path(name), "x"));
+        }
         qputenv("MORVANE_TRANSLATIONS", m_dir->path().toUtf8());
         QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "fr", "pt_BR"}));
     }
@@ -301,8 +312,9 @@ private Q_SLOTS:
         const Ran ran = run("unshare",
                             {"--user", "--map-root-user", "--net", "sh", "-c", script,
                              QCoreApplication::applicationFilePath()});
-        if (ran.exitCode != 0)
+        if (ran.exitCode != 0) {
             QSKIP("no network namespace can be made here");
+        }
         QCOMPARE(ran.output, QString("down\n"));
     }
 
@@ -319,10 +331,12 @@ int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
     const QByteArray task = argc > 1 ? argv[1] : "";
-    if (task == "--print-language")
+    if (task == "--print-language") {
         return puts(qPrintable(MTranslator::systemGuiLanguageCode())) < 0;
-    if (task == "--print-network")
+    }
+    if (task == "--print-network") {
         return puts(MrvNetwork::isNetworkConnected() ? "up" : "down") < 0;
+    }
     // Writes beyond the limit fail as they do on a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
     TestPlatform test;

@@ -140,8 +140,9 @@ void TestReferences::variants()
     QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(wall)), wall);
     // What could not be read again is not written.
     QVariant deep = 1;
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < 30; ++i) {
         deep = QVariantList{deep};
+    }
     const MRVFernwickDropItem deepest({deep});
     QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(deepest)), deepest);
     const QList<QVariant> foreign{
@@ -207,9 +208,10 @@ void TestReferences::damagedBytes()
 {
     QFETCH(QByteArray, bytes);
     QCOMPARE(bytesOf(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes)), bytes);
-    for (int length = 0; length < bytes.size(); ++length)
+    for (int length = 0; length < bytes.size(); ++length) {
         QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes.left(length)),
                  MRVFernwickDropItem());
+    }
     for (int at = 0; at < bytes.size(); ++at) {
         for (const int change : {0x01, 0x10, 0x80, 0xff}) {
             QByteArray changed = bytes;

@@ -15,8 +15,9 @@ MRVTextQuery queryFor(const QString &text, const QString &kind)
     query.text = text;
     query.syntax = kind.contains('r') ? MRVTextQuery::RegularExpression : MRVTextQuery::PlainText;
     query.flags.setFlag(Finder::FindCaseSensitively, kind.contains('c'));
-    if (kind.contains('w'))
+    if (kind.contains('w')) {
         query.flags |= Finder::FindWholeWords;
+    }
     query.ignoreTypography = kind.contains('t');
     return query;
 }
@@ -54,8 +55,9 @@ void tst_Replacer::replaceAll()
     QFETCH(QString, replacement);
     QFETCH(QString, after);
     for (QString *cell : {&text, &after}) {
-        for (ushort code : {0xa0, 0x301, 0xfffc})
+        for (ushort code : {0xa0, 0x301, 0xfffc}) {
             cell->replace(QString::asprintf("u%04x", code), QChar(code));
+        }
     }
     QTextDocument document(text);
     document.setUndoRedoEnabled(false);
@@ -151,16 +153,18 @@ void tst_Replacer::oneByOne()
     query.flags |= Finder::FindBackward;
     places.clear();
     for (c = selected(&document, 9, 9);
-         !(c = Replacer::find(c, query)).isNull() && places.size() < 9;)
+         !(c = Replacer::find(c, query)).isNull() && places.size() < 9;) {
         places << QString::number(c.anchor());
+    }
     QCOMPARE(places.join(' '), QString("7 4 1")); // the one at 9 is behind the cursor
     c = selected(&document, 4, 5);
     QVERIFY(Replacer::replace(c, query, "aa") && c.position() == 4 && !c.hasSelection());
     document.undo();
     places.clear();
     for (c = QTextCursor(&document);
-         !(c = Replacer::find(c, queryFor("x*$", "r"))).isNull() && places.size() < 9;)
+         !(c = Replacer::find(c, queryFor("x*$", "r"))).isNull() && places.size() < 9;) {
         places << QString::number(c.anchor());
+    }
     QCOMPARE(places.join(' '), QString("5 10"));
 }
 

@@ -30,14 +30,16 @@ QTextBlockFormat formatOf(const QString &notation)
     QList<QTextOption::Tab> tabs;
     for (const QString &property : notation.split(' ', Qt::SkipEmptyParts)) {
         const QString value = property.section(':', 1);
-        if (property.startsWith("tab"))
+        if (property.startsWith("tab")) {
             tabs << QTextOption::Tab(value.toDouble(), QTextOption::LeftTab);
-        else
+        } else {
             format.setProperty(property.section(':', 0, 0).toInt(nullptr, 16),
                                value.contains('.') ? QVariant(value.toDouble()) : value.toInt());
+        }
     }
-    if (!tabs.isEmpty())
+    if (!tabs.isEmpty()) {
         format.setTabPositions(tabs);
+    }
     return format;
 }
 
@@ -129,8 +131,9 @@ private Q_SLOTS:
         QTest::newRow("as deep as allowed") << QString("shallow") << nested(31) << QString();
         const auto tag = [](int attributes, int length) {
             QString text = "<MorvaneScriptFormat><!--> <![CDATA[ -->\n<a";
-            for (int i = 0; i < attributes; ++i)
+            for (int i = 0; i < attributes; ++i) {
                 text += QString(" a%1='>\"'").arg(i);
+            }
             return text + QString(length, ' ') + "/></MorvaneScriptFormat>";
         };
         const QString error = "line 2: a tag is longer than";
@@ -186,8 +189,9 @@ void tst_ScriptMode::recapitalize()
     element.recapitalizeBlock(document.firstBlock().next());
     QString runs;
     const QTextBlock block = document.firstBlock().next();
-    for (auto it = block.begin(); !it.atEnd(); ++it)
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
         runs += "[" + it.fragment().text() + "]";
+    }
     QTEST(runs, "after");
     QCOMPARE(document.firstBlock().text() + document.lastBlock().text(), QString("firstlast"));
     if (document.toHtml() == before) {
@@ -202,16 +206,19 @@ void tst_ScriptMode::recapitalize()
 void tst_ScriptMode::completions()
 {
     MRVCompletionList list;
-    for (const char *text : {"INT.", "INTERIOR", "EXT.", "int. kitchen", "\U00010400x", "\u00c4x"})
+    for (const char *text :
+         {"INT.", "INTERIOR", "EXT.", "int. kitchen", "\U00010400x", "\u00c4x"}) {
         list.append({QString::fromUtf8(text), *text == 'E'});
+    }
     list.append({"ext.", false});
     Element element;
     element.setCompletions(list);
     const auto offered = [&](const QString &prefix) {
         const MRVCompletionList some = element.filteredCompletions(prefix);
         QString texts = QString::number(some.longestLength());
-        for (const MRVCompletion &completion : some.completions())
+        for (const MRVCompletion &completion : some.completions()) {
             texts += "|" + completion.text;
+        }
         return texts;
     };
     QCOMPARE(offered("int"), QString("12|INT.|INTERIOR|int. kitchen"));
@@ -244,8 +251,9 @@ void tst_ScriptMode::variants()
 void tst_ScriptMode::factory_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : m_factory.keys())
+    for (const QString &name : m_factory.keys()) {
         QTest::newRow(qPrintable(name)) << name;
+    }
 }
 
 void tst_ScriptMode::factory()
@@ -342,8 +350,9 @@ void tst_ScriptMode::units()
         QVERIFY(loaded.load(folder.filePath("mode.xml")));
         QCOMPARE(loaded.units(), unit);
         QVERIFY(loaded == converted);
-        for (int i = 0; i < mode.elements().size(); ++i)
+        for (int i = 0; i < mode.elements().size(); ++i) {
             QCOMPARE(loaded.elements().at(i).blockFormat(), mode.elements().at(i).blockFormat());
+        }
     }
 }
 
@@ -543,8 +552,9 @@ void tst_ScriptMode::uniqueElements()
     mode.setElements(elements);
     mode.makeElementsUnique();
     QStringList unique;
-    for (const Element &element : mode.elements())
+    for (const Element &element : mode.elements()) {
         unique.append(element.title());
+    }
     QTEST(unique.join('|'), "unique");
 }
 
@@ -553,8 +563,9 @@ void tst_ScriptMode::brackets()
     QCOMPARE(addBrackets("CONT'D"), QString("(CONT'D)"));
     QCOMPARE(cleanBrackets("(CONT'D)"), QString("CONT'D"));
     QCOMPARE(cleanBrackets("((a)\n)"), QString("(a)\n"));
-    for (const char *text : {"CONT'D", "(", "", ")(", " (a)"})
+    for (const char *text : {"CONT'D", "(", "", ")(", " (a)"}) {
         QVERIFY2(cleanBrackets(text).isEmpty(), text);
+    }
 }
 
 QTEST_MAIN(tst_ScriptMode)

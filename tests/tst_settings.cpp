@@ -39,8 +39,9 @@ QMap<QString, QString> textsOf(const QString &path)
     QFile::copy(path, folder.filePath("copy"));
     const QSettings settings(folder.filePath("copy"), QSettings::IniFormat);
     QMap<QString, QString> texts;
-    for (const QString &key : settings.allKeys())
+    for (const QString &key : settings.allKeys()) {
         texts[key] = settings.value(key).toString();
+    }
     return texts;
 }
 
@@ -94,24 +95,26 @@ private Q_SLOTS:
         QStringList heard;
         connect(&store, &S::groupsChanged, this, [&](const QStringList &groups) {
             heard << groups.join(',');
-            if (groups.contains("Listener"))
+            if (groups.contains("Listener")) {
                 store.setValue("Heard/a", 1);
+            }
         });
         for (const QString &step : steps.split(", ")) {
             const QString what = step.section(' ', 0, 0);
             const QString key = step.section(' ', 1);
-            if (what == "set")
+            if (what == "set") {
                 QVERIFY(store.setValue(key, 1) && store.contains(key));
-            else if (what == "remove")
+            } else if (what == "remove") {
                 store.remove(key);
-            else if (what == "open")
+            } else if (what == "open") {
                 store.beginGroup(key);
-            else if (what == "end")
+            } else if (what == "end") {
                 store.endGroup();
-            else if (what == "run")
+            } else if (what == "run") {
                 QTest::qWait(1);
-            else
+            } else {
                 store.blockSignals(what == "block");
+            }
         }
         QTest::qWait(1);
         QTEST(heard.join('|'), "signals");
@@ -175,8 +178,9 @@ private Q_SLOTS:
             {"offset", QDateTime(QDate(2026, 1, 1), QTime(1, 1), Qt::OffsetFromUTC, 3600)}};
         {
             Store store(in("a"));
-            for (auto it = values.begin(); it != values.end(); ++it)
+            for (auto it = values.begin(); it != values.end(); ++it) {
                 QVERIFY2(store.setValue("Any/" + it.key(), it.value()), qPrintable(it.key()));
+            }
             QVERIFY(!store.setValue("Any/no", QImage(2, 2, QImage::Format_RGB32)));
             QVERIFY(!store.setValue("Any/no", QVariantList{QRegularExpression("a")}));
         }
@@ -341,9 +345,10 @@ private Q_SLOTS:
     {
         QVERIFY(writeBytes(in("a"), "[Other]\nkept=1\n"));
         std::array<QProcess, 4> processes;
-        for (QProcess &process : processes)
+        for (QProcess &process : processes) {
             process.start(QCoreApplication::applicationFilePath(),
                           {"keys", in("a"), QString(QChar('a' + int(&process - &processes[0])))});
+        }
         for (QProcess &process : processes) {
             QVERIFY(process.waitForFinished(120000));
             QCOMPARE(process.exitCode(), 0);
@@ -364,8 +369,9 @@ private Q_SLOTS:
             process.kill();
             QVERIFY(process.waitForFinished());
             const QMap<QString, QString> texts = textsOf(in("a"));
-            if (i == kills - 1 && Store(in("a")).saveNow()) // removes what the dead have left
+            if (i == kills - 1 && Store(in("a")).saveNow()) { // removes what the dead have left
                 QVERIFY(QDir(m_folder->path()).entryList({"*.old"}).isEmpty());
+            }
             QCOMPARE(texts.size(), 2);
             QCOMPARE(QString::number(texts.value("Options/A/value").size()),
                      texts.value("Options/B/value"));
@@ -386,8 +392,9 @@ private Q_SLOTS:
         QFETCH(QString, following);
         const auto save = [&](const QStringList &options) {
             QFile::remove(in("a"));
-            if (!writeBytes(in("a"), "[Options]\nOld\\gone=1\nOld\\kept=2\n[Other]\nx=3\n"))
+            if (!writeBytes(in("a"), "[Options]\nOld\\gone=1\nOld\\kept=2\n[Other]\nx=3\n")) {
                 return Ran();
+            }
             return run(
                 "strace",
                 QStringList{"-f", "-qq", "-o", in("trace"), "-e", "trace=" + calls} + options

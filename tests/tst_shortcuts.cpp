@@ -20,8 +20,9 @@ QByteArray number(quint32 value)
 QByteArray text(const QByteArray &ascii)
 {
     QByteArray wide;
-    for (const char c : ascii)
+    for (const char c : ascii) {
         wide += QByteArray(1, '\0') + c;
+    }
     return number(quint32(wide.size())) + wide;
 }
 
@@ -50,8 +51,9 @@ Scheme sampleScheme()
 QString idsOf(const QList<MRVShortcutInfo> &infos)
 {
     QStringList ids;
-    for (const MRVShortcutInfo &info : infos)
+    for (const MRVShortcutInfo &info : infos) {
         ids << MRVShortcut::valueToKey(info.id);
+    }
     return ids.join(' ');
 }
 
@@ -93,8 +95,9 @@ void tst_Shortcuts::table()
         QCOMPARE(MRVShortcut::keyToValue(qPrintable(name)), Id(i));
         QCOMPARE(MRVShortcut::isValid(Id(i)), i > 0);
         QVERIFY2(MRVShortcut::group(Id(i)) == rows.at(i).value(1), qPrintable(name));
-        if (i == 0)
+        if (i == 0) {
             continue;
+        }
         const MRVShortcutInfo info = defaults.shortcutInfo(Id(i));
         QCOMPARE(info.id, Id(i));
         QVERIFY2(!info.text.trimmed().isEmpty() && !texts.contains(info.text), qPrintable(name));
@@ -108,8 +111,9 @@ void tst_Shortcuts::table()
 
 void tst_Shortcuts::lookUps()
 {
-    for (const char *unknown : {"", "NoSuchCommand", "save", static_cast<const char *>(nullptr)})
+    for (const char *unknown : {"", "NoSuchCommand", "save", static_cast<const char *>(nullptr)}) {
         QCOMPARE(int(MRVShortcut::keyToValue(unknown)), -1);
+    }
     for (const int outside : {-1, 176, 1 << 30}) {
         QVERIFY(!MRVShortcut::valueToKey(Id(outside)) && !MRVShortcut::isValid(Id(outside)));
         QVERIFY(MRVShortcut::group(Id(outside)).isEmpty());
@@ -192,8 +196,9 @@ void tst_Shortcuts::reading()
     QCOMPARE(merged.name(), scheme.name());
     QCOMPARE(merged.shortcuts().size(), 175);
     QCOMPARE(merged.shortcut(MRVShortcut::Italic), QKeySequence("Ctrl+I"));
-    for (const MRVShortcutInfo &info : scheme.sortedShortcuts())
+    for (const MRVShortcutInfo &info : scheme.sortedShortcuts()) {
         QVERIFY(merged.shortcutInfo(info.id) == info);
+    }
     QVERIFY(Scheme(bytes, false) == scheme);
     // Read over a scheme that is there, an unreadable form changes nothing.
     Scheme there = sampleScheme();
@@ -331,8 +336,9 @@ void tst_Shortcuts::conflicts()
                      .remove(" NoId");
     }
     QTEST(found.join("; "), "found");
-    if (!sentence.isEmpty())
+    if (!sentence.isEmpty()) {
         QCOMPARE(MRVShortcutCheck::describe(conflicts.value(0), scheme), sentence);
+    }
     // Before the last key is given, it is known what it will lead to.
     const Id last = Id(MRVShortcut::Undo + sequences.size() - 1);
     Scheme without = scheme;

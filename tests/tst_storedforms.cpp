@@ -172,14 +172,16 @@ void TestStoredForms::damaged()
         read(form);
         return HeapMeter::peak();
     };
-    for (int size = 0; size < bytes.size(); ++size)
+    for (int size = 0; size < bytes.size(); ++size) {
         QVERIFY2(peak(bytes.left(size)) < MostMemory, qPrintable(QString::number(size)));
+    }
     for (int at = 0; at < bytes.size(); ++at) {
         for (int change = 1; change < 256; ++change) {
             // Of long forms each bit, all of them, and one more or less.
             const bool chosen = (change & (change - 1)) == 0 || ((change + 1) & change) == 0;
-            if (bytes.size() > ShortForm && !chosen)
+            if (bytes.size() > ShortForm && !chosen) {
                 continue;
+            }
             QByteArray changed = bytes;
             changed[at] = char(changed.at(at) ^ change);
             const long most = peak(changed);

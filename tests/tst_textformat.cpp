@@ -74,8 +74,9 @@ QMap<QString, QTextFormat> samples()
         {"radial", gradient(QRadialGradient(5, 5, 3))},
         {"conical", gradient(QConicalGradient(1, 2, 45))},
         {"block", tabbed(Tab(72.5, QTextOption::DelimiterTab, '.'))}};
-    for (auto it = values.begin(); it != values.end(); ++it)
+    for (auto it = values.begin(); it != values.end(); ++it) {
         formats.insert(it.key(), with(F::ExtraProperty4, it.value()));
+    }
     return formats;
 }
 
@@ -89,23 +90,30 @@ QByteArray stored(const QTextFormat &format)
 QString answer(const QString &function, const QString &a, const QString &b)
 {
     const auto yes = [](bool answer) { return QString(answer ? "yes" : "no"); };
-    if (function == "equivalent")
+    if (function == "equivalent") {
         return yes(F::equivalent(chars(a), chars(b)));
-    if (function == "equivalent reversed")
+    }
+    if (function == "equivalent reversed") {
         return yes(F::equivalent(chars(b), chars(a)));
-    if (function.endsWith(" match"))
+    }
+    if (function.endsWith(" match")) {
         return yes(F::formatsMatch(chars(a), chars(b), function == "values match"));
-    if (function == "equivalentSpacing")
+    }
+    if (function == "equivalentSpacing") {
         return yes(F::equivalentSpacing(blocks(a), blocks(b)));
+    }
     const F::FormatGroups groups(QFlag(function.right(1).toInt()));
-    if (function.startsWith("simplified "))
+    if (function.startsWith("simplified ")) {
         return yes(propertyDump(F::simplified(blocks(a), groups)) == propertyDump(blocks(b)));
+    }
     double value = -1.0;
-    if (function == "spacing" && F::spacingType(blocks(a)) == F::spacingType(blocks(a), &value))
+    if (function == "spacing" && F::spacingType(blocks(a)) == F::spacingType(blocks(a), &value)) {
         return QString("%1 %2").arg(F::spacingType(blocks(a))).arg(value);
+    }
     const QString text = "a" + QString(QChar(a.toUShort(nullptr, 16)));
-    if (function == "marks")
+    if (function == "marks") {
         return yes(F::hasFrameInString(text)) + ' ' + yes(F::hasBlockInString(text));
+    }
     return "none";
 }
 
@@ -152,8 +160,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QTextFormat>("format");
         const auto formats = samples();
-        for (auto it = formats.begin(); it != formats.end(); ++it)
+        for (auto it = formats.begin(); it != formats.end(); ++it) {
             QTest::newRow(qPrintable(it.key())) << it.value();
+        }
     }
     void storedFormatsComeBack()
     {
@@ -184,8 +193,9 @@ private Q_SLOTS:
         QTextCharFormat format = with(F::ExtraProperty4, QVariant::fromValue<QObject *>(this));
         format.setFontItalic(true);
         for (const char *text :
-             {"to save type 'QObject", "to save type 'QObject", "0x100004 of type QObject"})
+             {"to save type 'QObject", "to save type 'QObject", "0x100004 of type QObject"}) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text));
+        }
         const QTextCharFormat back = F::toCharFormat(F::toByteArray(format));
         QCOMPARE(back.properties().keys(), QList<int>{QTextFormat::FontItalic});
     }
@@ -249,8 +259,9 @@ private Q_SLOTS:
             // A sound beginning, so that the noise reaches the values.
             QByteArray bytes = stored(formats.at(round % formats.size()));
             bytes.truncate(int(random.bounded(quint32(bytes.size() + 1))));
-            for (int noise = random.bounded(64); noise > 0; --noise)
+            for (int noise = random.bounded(64); noise > 0; --noise) {
                 bytes += char(random.bounded(4) ? random.bounded(16) : random.bounded(256));
+            }
             F::toCharFormat(bytes);
             F::toBlockFormat(bytes);
         }
@@ -291,13 +302,15 @@ private Q_SLOTS:
     void defaultProperties()
     {
         QHash<int, QVariant> expected;
-        for (const QStringList &row : rowsOf("defaultproperties.tsv"))
+        for (const QStringList &row : rowsOf("defaultproperties.tsv")) {
             expected[row.at(0).section(' ', 0, 0).toInt(nullptr, 0)] = valueFrom(row.at(1));
+        }
         QCOMPARE(expected.size(), 45);
         for (int property = -1; property < 0x100200; ++property) {
             const QVariant actual = F::defaultProperty(property), value = expected.value(property);
-            if (actual != value || actual.userType() != value.userType())
+            if (actual != value || actual.userType() != value.userType()) {
                 QFAIL(qPrintable(QString::number(property, 16)));
+            }
         }
     }
 

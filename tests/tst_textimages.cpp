@@ -36,9 +36,11 @@ QTextImageFormat imageFormat(const QString &text)
     const int properties[] = {MRVTextFormat::ImageNameProperty, 0, MRVTextFormat::ImageTypeProperty,
                               MRVTextFormat::ImageLinkProperty,
                               MRVTextFormat::ImageRawDataProperty};
-    for (int i = 1; i < fields.size(); ++i)
-        if (i != 2 && !fields.at(i).isEmpty())
+    for (int i = 1; i < fields.size(); ++i) {
+        if (i != 2 && !fields.at(i).isEmpty()) {
             format.setProperty(properties[i - 1], fields.at(i));
+        }
+    }
     return format;
 }
 
@@ -50,8 +52,9 @@ struct Document : QTextDocument
         QTextCursor cursor(this);
         for (const QString &image : text.split('|', Qt::SkipEmptyParts)) {
             const QString color = image.section(';', 2, 2);
-            if (!color.isEmpty())
+            if (!color.isEmpty()) {
                 addResource(ImageResource, QUrl(imageFormat(image).name()), picture(color));
+            }
             cursor.insertImage(imageFormat(image));
         }
         clearUndoRedoStacks();
@@ -66,8 +69,9 @@ struct Document : QTextDocument
             images << format.name() + ';' + MTextDoc::imageName(format) + ';' + id;
         }
         QString text = images.join('|');
-        for (const QString name : {"red", "green", "blue"})
+        for (const QString name : {"red", "green", "blue"}) {
             text.replace(idOf(name), '@' + name);
+        }
         return text.replace(";@", ";");
     }
 };
@@ -112,9 +116,10 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(file), done);
         const QByteArray type = QImageReader::imageFormat(file);
         QVERIFY(type != "jpeg" || QImage(file).pixelColor(2, 2).lightness() > 250);
-        if (done)
+        if (done) {
             QCOMPARE(type.isEmpty() ? MRVCoreUtil::ReadBinaryFile(file) : type,
                      expected.toLatin1());
+        }
     }
 
     void exportOntoLinkedFile()
@@ -145,8 +150,9 @@ private Q_SLOTS:
         Document document(before.replace("%1", m_dir->path()));
         document.addResource(QTextDocument::ImageResource, QUrl::fromLocalFile(path("base/beside")),
                              picture("red"));
-        if (before == "beside" || file.startsWith("base/"))
+        if (before == "beside" || file.startsWith("base/")) {
             document.setBaseUrl(QUrl::fromLocalFile(path("base/page.html")));
+        }
         const QStringList dump = documentDump(document);
         const QList<QTextImageFormat> old = MTextDoc::imageFormats(document);
         const auto convert = images == "html" ? MTextDoc::fixHtmlImageFormatsAndResourceIds
@@ -156,10 +162,11 @@ private Q_SLOTS:
         QVERIFY(file.isEmpty() || QFile::remove(path(file)));
         QCOMPARE(document.text(), after.replace("%1", m_dir->path()));
         // Qt keeps what it has loaded from a file by itself.
-        for (const QTextImageFormat &format : old)
+        for (const QTextImageFormat &format : old) {
             QVERIFY(images == "html" || after.contains(format.name())
                     || format.name().startsWith("img-")
                     || MTextDoc::image(document, format).isNull());
+        }
         document.setBaseUrl(QUrl());
         QCOMPARE(document.text(), after);
         const bool changed = documentDump(document) != dump;
@@ -183,8 +190,9 @@ private Q_SLOTS:
         QCOMPARE(MTextDoc::imagesWithNames(document),
                  (QList<QPair<QString, QImage>>{{"Rose", red}, {"Rose", red}, {"blue", blue}}));
         QVERIFY(!MTextDoc::onlyOneImageWithResourceId(document, "red"));
-        for (const char *id : {"blue", "gone", "none"})
+        for (const char *id : {"blue", "gone", "none"}) {
             QVERIFY(MTextDoc::onlyOneImageWithResourceId(document, id));
+        }
         QCOMPARE(MTextDoc::dumpImageInfo(document).section('\n', 1, 1),
                  QString("1\tred\tRose\tJPG\t6x6\t4\t/rose.jpg"));
         QCOMPARE(MTextDoc::dumpImageInfo(document).section('\n', 3, 3),

@@ -68,9 +68,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("ofChars");
         QTest::addColumn<QStringList>("row");
-        for (const bool ofChars : {true, false})
-            for (const QStringList &row : rowsOf(ofChars ? "charmerges.tsv" : "blockmerges.tsv"))
+        for (const bool ofChars : {true, false}) {
+            for (const QStringList &row : rowsOf(ofChars ? "charmerges.tsv" : "blockmerges.tsv")) {
                 QTest::newRow(qPrintable(row.at(0))) << ofChars << row;
+            }
+        }
     }
     void merge()
     {
@@ -79,8 +81,9 @@ private Q_SLOTS:
         QStringList flags = row.value(3).split(' ', Qt::SkipEmptyParts);
         const auto f = [&flags](const char *flag) { return flags.removeAll(flag) > 0; };
         QList<int> keep;
-        for (const QString &name : row.value(4).split(' ', Qt::SkipEmptyParts))
+        for (const QString &name : row.value(4).split(' ', Qt::SkipEmptyParts)) {
             keep << propertyFrom(name);
+        }
         const QString a = row.value(1), b = row.value(2);
         const auto run = MRVTextCharFormat::merge(
             chars(a), chars(b), f("KeepSize"), f("KeepColors"), f("KeepEmphasis"), f("KeepFamily"),
@@ -146,10 +149,11 @@ private Q_SLOTS:
         const QTextBlockFormat indented = blocks("TextIndent=5:double");
         cursor.setPosition(by == "cursor" ? start.toInt() : 0);
         cursor.setPosition(by == "cursor" ? end.toInt() : 0, QTextCursor::KeepAnchor);
-        if (by == "cursor")
+        if (by == "cursor") {
             convert(&italic, &indented, false, false, cursor);
-        else
+        } else {
             convert(&italic, &indented, false, false, &document, start.toInt(), end.toInt());
+        }
         convert(&italic, &indented, false, false, QTextCursor());
         QTEST(italics(document), "expected");
         document.undo();
@@ -183,9 +187,10 @@ private Q_SLOTS:
         QString weights;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
             weights += '|' + block.charFormat().property(Weight).toString();
-            for (auto it = block.begin(); !it.atEnd(); ++it)
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
                 weights += ' ' + it.fragment().text()
                     + it.fragment().charFormat().property(Weight).toString();
+            }
         }
         QCOMPARE(
             weights,

@@ -54,25 +54,28 @@ struct Message
 QVector<Message> messagesOf(const QString &language)
 {
     QFile file(Folder + "mrvbase_" + language + ".ts");
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         qFatal("%s cannot be read", qPrintable(file.fileName()));
+    }
     QVector<Message> messages;
     QString context;
     for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
-        if (!xml.isStartElement())
+        if (!xml.isStartElement()) {
             continue;
-        if (xml.name() == "name")
+        }
+        if (xml.name() == "name") {
             context = xml.readElementText();
-        else if (xml.name() == "message")
+        } else if (xml.name() == "message") {
             messages.append({context, {}, {}});
-        else if (xml.name() == "source")
+        } else if (xml.name() == "source") {
             messages.last().source = xml.readElementText();
-        else if (xml.name() == "numerusform")
+        } else if (xml.name() == "numerusform") {
             messages.last().translations << xml.readElementText();
-        else if (xml.name() == "translation") {
+        } else if (xml.name() == "translation") {
             messages.last().isFinished = !xml.attributes().hasAttribute("type");
-            if (!messages.last().source.contains("%n"))
+            if (!messages.last().source.contains("%n")) {
                 messages.last().translations << xml.readElementText();
+            }
         }
     }
     return messages;
@@ -89,8 +92,9 @@ QString frameOf(const QString &text)
 {
     QStringList parts;
     const QRegularExpression expression(R"(%(?:\d|n)|&(?=\w))");
-    for (auto it = expression.globalMatch(text); it.hasNext();)
+    for (auto it = expression.globalMatch(text); it.hasNext();) {
         parts << it.next().captured();
+    }
     const auto blanks = [](const QString &side) { return side.size() - side.trimmed().size(); };
     return QStringLiteral("%1; %2 lines; blanks: %3, %4")
         .arg(sorted(parts).join(' '))
@@ -173,8 +177,9 @@ private:
     static void addLanguages(const QStringList &languages)
     {
         QTest::addColumn<QString>("language");
-        for (const QString &language : languages)
+        for (const QString &language : languages) {
             QTest::newRow(qPrintable(language)) << language;
+        }
     }
 };
 
@@ -194,8 +199,9 @@ void tst_Translations::sourcesAndTranslationsAgree()
     QProcess lupdate;
     lupdate.setWorkingDirectory(MRV_SOURCE_DIR);
     QStringList arguments = QString(MRV_LUPDATE_OPTIONS).split(' ');
-    if (language == "en")
+    if (language == "en") {
         arguments << "-pluralonly";
+    }
     arguments << "-target-language" << language << "base"
               << "platform"
               << "plugins"
@@ -308,10 +314,12 @@ void tst_Translations::texts_data()
             QWidget *const dialog = QApplication::activeModalWidget();
             shown = dialog->windowTitle();
             for (const QLabel *label : dialog->findChildren<QLabel *>()) {
-                if (label->objectName() == "siteDescription")
+                if (label->objectName() == "siteDescription") {
                     shown += ", " + label->text();
-                if (label->height() < label->heightForWidth(label->width()))
+                }
+                if (label->height() < label->heightForWidth(label->width())) {
                     shown += ", cut off: " + label->text();
+                }
             }
             dialog->close();
         });

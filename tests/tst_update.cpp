@@ -55,8 +55,9 @@ public:
         callOnTimeout([said] {
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 QString text = box->windowTitle() + ": " + box->text();
-                if (!box->informativeText().isEmpty())
+                if (!box->informativeText().isEmpty()) {
                     text += '\n' + box->informativeText();
+                }
                 // Servers have a say in what most of them tell.
                 const bool isPlain = box->textFormat() == Qt::PlainText;
                 said->append(isPlain ? text : "markup " + text);
@@ -89,8 +90,9 @@ private:
 MRVCheckForUpdatesDialog *shownDialog()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog")
+        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog") {
             return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
+        }
     }
     return nullptr;
 }
@@ -104,14 +106,15 @@ QPushButton *enabledButton(const char *name)
 // How a check may come to its end at any time.
 void finish(const QString &how)
 {
-    if (how == "release")
+    if (how == "release") {
         MRVUpdateManager::release();
-    else if (how == "destroy")
+    } else if (how == "destroy") {
         delete shownDialog();
-    else if (how == "close")
+    } else if (how == "close") {
         shownDialog()->close();
-    else
+    } else {
         QTest::keyClick(shownDialog(), Qt::Key_Escape);
+    }
 }
 
 bool isOver()
@@ -204,12 +207,14 @@ private Q_SLOTS:
         QSettings("Morvane", "Morvane").setValue("Location", location);
         // The superuser may write anywhere.
         const uid_t user = getuid();
-        if (rights && user == 0)
+        if (rights && user == 0) {
             QCOMPARE(setreuid(65534, 0), 0);
+        }
         const auto clean = qScopeGuard([user] {
             QSettings("Morvane", "Morvane").clear();
-            if (user == 0 && setreuid(0, 0) != 0)
+            if (user == 0 && setreuid(0, 0) != 0) {
                 qFatal("no superuser any more");
+            }
         });
         bool warnsOfRights = true;
         bool warnsOfPlace = true;
@@ -232,14 +237,16 @@ private Q_SLOTS:
         MRVUpdateModel model;
         const Told heard(model);
         QCOMPARE(model.xmlFilePath(), m_folder->filePath("update.xml"));
-        if (!feed.isEmpty())
+        if (!feed.isEmpty()) {
             QVERIFY(writeBytes(model.xmlFilePath(), feedOf(feed)));
+        }
         model.readXML();
         QCOMPARE(heard.join(';'), told.replace("@tmp", m_folder->path()));
         QCOMPARE(model.isNewerAvailable(), told.endsWith("available 1"));
-        if (model.isNewerAvailable())
+        if (model.isNewerAvailable()) {
             QCOMPARE(model.downloadURL(),
                      "http://d/" + QFileInfo(model.downloadFilePath()).fileName());
+        }
     }
 
     // The name with a backslash is looked at first, and only where it exists.
@@ -267,21 +274,24 @@ private Q_SLOTS:
         QFETCH(QString, told);
         MRVUpdateModel model;
         QVERIFY(writeBytes(model.xmlFilePath(), feedOf("3.0.0.0|morvane.run|http://d/")));
-        if (!key.isEmpty())
+        if (!key.isEmpty()) {
             QCOMPARE(model.setPublicKey(key == "key" ? bytesOf(data + "key.pub") : key.toUtf8()),
                      !told.contains("no valid key"));
+        }
         model.readXML();
         const Told heard(model);
-        if (!installer.isEmpty())
+        if (!installer.isEmpty()) {
             QVERIFY(writeBytes(model.downloadFilePath(),
                                installer.startsWith('@')
                                    ? bytesOf(data + installer.mid(1))
                                    : QByteArray(installer.toInt(), 'x') + "404 Not Found"));
+        }
         const QString change = signature.section(' ', 1);
         QByteArray bytes = bytesOf(data + signature.section(' ', 0, 0));
         bytes.replace(change.section('=', 0, 0).toUtf8(), change.section('=', 1).toUtf8());
-        if (!signature.isEmpty())
+        if (!signature.isEmpty()) {
             QVERIFY(writeBytes(model.signatureFilePath(), bytes));
+        }
         model.readEXE();
         QCOMPARE(heard.join(';'), told.replace("@tmp", m_folder->path()));
         QCOMPARE(model.isInstallerUnchanged(), told == "ready");
@@ -309,10 +319,12 @@ private Q_SLOTS:
         const Boxes boxes(&heard);
         auto *manager = MRVUpdateManager::instance();
         const QByteArray key = plant == "bad-key" ? "RWS" : bytesOf(data + "key.pub");
-        if (!signature.isEmpty())
+        if (!signature.isEmpty()) {
             QCOMPARE(manager->setPublicKey(key), plant != "bad-key");
-        if (plant == "silent" || plant == "offline")
+        }
+        if (plant == "silent" || plant == "offline") {
             manager->checkForUpdatesSilent();
+        }
         QMenu menu;
         manager->setupMenuActions(&menu);
         menu.actions().constFirst()->trigger();
@@ -380,8 +392,9 @@ private Q_SLOTS:
                        {"/morvane.run", installer},
                        {"/morvane.run.minisig", signature}};
         plantIn(plant);
-        if (!signature.isEmpty())
+        if (!signature.isEmpty()) {
             QVERIFY(MRVUpdateManager::instance()->setPublicKey(bytesOf(data + "key.pub")));
+        }
         QStringList heard;
         std::unique_ptr<Boxes> boxes;
         bool isEnded = false;
@@ -390,8 +403,9 @@ private Q_SLOTS:
             const bool isThere = at == "box" ? bool(QApplication::activeModalWidget())
                 : at == "ready"              ? bool(enabledButton("installButton"))
                                              : web.asked.contains(at);
-            if (!isThere)
+            if (!isThere) {
                 return;
+            }
             ender.stop();
             finish(end);
             isEnded = true;
@@ -403,21 +417,26 @@ private Q_SLOTS:
         user.callOnTimeout([&] {
             QPushButton *install = plant == "swap" ? enabledButton("installButton") : nullptr;
             QPushButton *wanted = install ? install : enabledButton("downloadButton");
-            if (install)
+            if (install) {
                 QFile::remove(m_folder->filePath("morvane.run"));
-            if (wanted && !isEnded)
+            }
+            if (wanted && !isEnded) {
                 QTest::keyClick(wanted, Qt::Key_Space);
+            }
         });
         user.start(5);
-        if (plant == "silent")
+        if (plant == "silent") {
             MRVUpdateManager::instance()->checkForUpdatesSilent();
+        }
         MRVUpdateManager::instance()->checkForUpdates();
         QTRY_VERIFY(isEnded && isOver() && !shownDialog() && !QApplication::activeModalWidget());
         QVERIFY(heard.size() <= (at == "box")); // the one that was open
-        if (at.endsWith(".xml") || at.endsWith(".run"))
+        if (at.endsWith(".xml") || at.endsWith(".run")) {
             QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
-        if (plant == "Fernwick")
+        }
+        if (plant == "Fernwick") {
             return;
+        }
         user.stop();
         web.asked.clear();
         MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
@@ -447,8 +466,9 @@ private Q_SLOTS:
         QStringList said;
         Boxes boxes(&said);
         boxes.callOnTimeout([&] {
-            if (!said.isEmpty() && said.takeFirst().startsWith("Check for Updates: "))
+            if (!said.isEmpty() && said.takeFirst().startsWith("Check for Updates: ")) {
                 heard << "box";
+            }
         });
         // Another fault while one is being told.
         QTimer again;
@@ -528,8 +548,9 @@ private Q_SLOTS:
         const Boxes boxes(&heard);
         auto *timer = MRVUpdateManager::instance()->findChild<QTimer *>();
         QCOMPARE(timer && timer->isActive(), due != "no");
-        if (!timer)
+        if (!timer) {
             return;
+        }
         QVERIFY(timer->isSingleShot());
         QCOMPARE(timer->interval(), 5000);
         const QString key = MRVUpdateManager::lastCheckForUpdatesKey();
@@ -560,8 +581,9 @@ private Q_SLOTS:
         MRVRedirectPolicy policy;
         policy.start(QUrl(way.section(' ', 0, 0)));
         bool isFollowed = true;
-        for (const QString &url : way.split(' ').mid(1))
+        for (const QString &url : way.split(' ').mid(1)) {
             isFollowed = policy.redirectTo(QUrl(url));
+        }
         QCOMPARE(policy.hasRefused(), !isFollowed);
         QTEST(isFollowed, "followed");
         QVERIFY(!policy.authenticate("", QUrl(), nullptr, nullptr));
@@ -610,8 +632,9 @@ private Q_SLOTS:
         QCOMPARE(download->text(), QString("Downloading Update"));
         QVERIFY(!download->isEnabled());
         QSignalSpy rejected(&dialog, &QDialog::rejected);
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) // pressed once too often
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) { // pressed once too often
             QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, key);
+        }
         QCOMPARE(rejected.count(), 0);
         dialog.findChild<QWidget *>("webView")->setFocus();
         dialog.enableInstallButton();
@@ -696,23 +719,24 @@ private:
         };
         QVERIFY(writeBytes(m_folder->filePath("victim"), "precious"));
         isOnline = plant != "offline";
-        if (plant == "Fernwick")
+        if (plant == "Fernwick") {
             QCoreApplication::setApplicationName(plant);
-        else if (words[0] == "link")
+        } else if (words[0] == "link") {
             QVERIFY(QFile::link(place(2), place(1)));
-        else if (words[0] == "hard-link")
+        } else if (words[0] == "hard-link") {
             QCOMPARE(::link(QFile::encodeName(place(2)), QFile::encodeName(place(1))), 0);
-        else if (words[0] == "strangers" && getuid() == 0)
+        } else if (words[0] == "strangers" && getuid() == 0) {
             QVERIFY(writeBytes(place(1), feedOf("9.9.9.0|evil.run|http://evil.example/"))
                     && chown(QFile::encodeName(place(1)), 65534, 65534) == 0);
-        else if (words[0] == "strangers")
+        } else if (words[0] == "strangers") {
             QSKIP("only the superuser has files of others");
-        else if (words[0] == "folder")
+        } else if (words[0] == "folder") {
             QVERIFY(QDir().mkdir(place(1)));
-        else if (words[0] == "pipe")
+        } else if (words[0] == "pipe") {
             QCOMPARE(mkfifo(QFile::encodeName(place(1)), 0600), 0);
-        else if (words[0] == "Location" || words[0] == "Locations-not-ours")
+        } else if (words[0] == "Location" || words[0] == "Locations-not-ours") {
             QSettings("Morvane", "Morvane").setValue("Location", words[1]);
+        }
         // The superuser may write anywhere.
         const uid_t user = getuid();
         const bool isOther = words[0] == "Locations-not-ours" && user == 0;
@@ -726,11 +750,13 @@ private:
     void drive(const QString &plant, QStringList *heard)
     {
         QPointer<MRVCheckForUpdatesDialog> dialog = shownDialog();
-        if (!dialog)
+        if (!dialog) {
             return;
+        }
         auto *download = dialog->findChild<QPushButton *>("downloadButton");
-        if (plant == "silent") // nothing is known yet
+        if (plant == "silent") { // nothing is known yet
             QTest::keyClick(download, Qt::Key_Space);
+        }
         QTRY_VERIFY(dialog->findChild<QLabel *>("statusLabel")->text().contains("3.0.0.0"));
         heard->append("dialog");
         auto *install = dialog->findChild<QPushButton *>("installButton");
@@ -742,31 +768,36 @@ private:
         }
         QTRY_VERIFY(!dialog || install->isVisible() || bar->isHidden()
                     || plant.startsWith("Location"));
-        if (!dialog)
+        if (!dialog) {
             return;
+        }
         if (install->isVisible()) {
             QCOMPARE(bar->value(), bar->maximum());
             QCOMPARE(bar->maximum(), bytesOf(m_folder->filePath("morvane.run")).size());
             heard->append("install");
             const QString path = m_folder->filePath("morvane.run");
-            if (plant.startsWith("swap"))
+            if (plant.startsWith("swap")) {
                 QVERIFY(QFile::remove(path));
-            if (plant == "swap")
+            }
+            if (plant == "swap") {
                 QVERIFY(writeBytes(path, "evil"));
-            else if (plant == "swap-link")
+            } else if (plant == "swap-link") {
                 QVERIFY(QFile::link(data + "morvane.run", path));
+            }
             std::unique_ptr<SlowWindow> window;
-            if (plant == "closing-swap")
+            if (plant == "closing-swap") {
                 window = std::make_unique<SlowWindow>([&] { writeBytes(path, "evil"); });
-            else if (plant == "closing-release")
+            } else if (plant == "closing-release") {
                 window = std::make_unique<SlowWindow>(&MRVUpdateManager::release);
+            }
             m_heard = heard;
             QDesktopServices::setUrlHandler("file", this, "open");
             QTest::keyClick(install, Qt::Key_Space);
             QTRY_VERIFY(isOver());
         } else {
-            if (bar->isHidden())
+            if (bar->isHidden()) {
                 heard->append("status " + dialog->findChild<QLabel *>("statusLabel")->text());
+            }
             QTest::keyClick(dialog->findChild<QPushButton *>("cancelButton"), Qt::Key_Space);
         }
     }

@@ -44,8 +44,9 @@ template<typename T>
 QString sorted(const QSet<T> &set)
 {
     QStringList list;
-    for (const T &item : set)
+    for (const T &item : set) {
         list << item;
+    }
     list.sort();
     return list.join('|');
 }
@@ -137,8 +138,9 @@ private Q_SLOTS:
                           "/[A-Za-z0-9][A-Za-z0-9.+-]*)");
         const QByteArray file = MRVCoreUtil::ReadBinaryFile(":/Other/Resources/mimetypes.csv");
         for (const QString line : file.split('\n')) {
-            if (line.isEmpty() || line.startsWith('#'))
+            if (line.isEmpty() || line.startsWith('#')) {
                 continue;
+            }
             QVERIFY2(row.exactMatch(line), qPrintable(line));
             QVERIFY2(!expected[row.cap(1)].contains(row.cap(2)), qPrintable(line));
             expected[row.cap(1)] << row.cap(2);

@@ -19,8 +19,9 @@ public:
     {
         const QMetaObject &walk = MRVDocNavigator::staticMetaObject;
         const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("hear()"));
-        for (int i = walk.methodOffset(); i < walk.methodCount(); ++i)
+        for (int i = walk.methodOffset(); i < walk.methodCount(); ++i) {
             connect(this, walk.method(i), this, slot);
+        }
     }
     void startBlock(QTextBlock &) override { told << "blockStarted"; }
     void finishBlock(QTextBlock &) override { told << "blockFinished"; }
@@ -38,8 +39,9 @@ private Q_SLOTS:
     void hear()
     {
         const QString name = metaObject()->method(senderSignalIndex()).name();
-        if (told.last().startsWith(name))
+        if (told.last().startsWith(name)) {
             heard << told.last();
+        }
     }
 };
 

@@ -43,12 +43,14 @@ public:
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-                if (!socket->canReadLine())
+                if (!socket->canReadLine()) {
                     return;
+                }
                 const QString path = QUrl(socket->readAll().split(' ').value(1)).path();
                 asked << path;
-                if (answers.value(path) == "wait")
+                if (answers.value(path) == "wait") {
                     return;
+                }
                 socket->write(raw.isEmpty() ? response(path) : raw);
                 socket->disconnectFromHost();
             });
@@ -62,11 +64,13 @@ public:
             : path.startsWith("/mirror/")                ? '@' + path.mid(8)
                                                          : answers.value(path, "404");
         const QString rest = answer.section(' ', 1);
-        if (answer == "404")
+        if (answer == "404") {
             return "HTTP/1.1 404 Not Found\r\nContent-Length: 13\r\n\r\n404 Not Found";
-        if (answer.startsWith("302 "))
+        }
+        if (answer.startsWith("302 ")) {
             return "HTTP/1.1 302 Found\r\nLocation: " + rest.toUtf8()
                 + "\r\nContent-Length: 4\r\n\r\nmove";
+        }
         const bool isShort = answer.startsWith("short");
         const QByteArray body = answer.startsWith("big ") ? QByteArray(rest.toInt(), 'x')
             : isShort                                     ? rest.toUtf8()

@@ -30,8 +30,9 @@ int commonEnd(const QString &a, const QString &b)
 bool isLessBackwards(const QString &a, const QString &b)
 {
     const int common = commonEnd(a, b);
-    if (common == a.size() || common == b.size())
+    if (common == a.size() || common == b.size()) {
         return a.size() < b.size();
+    }
     return fromEnd(a, common) < fromEnd(b, common);
 }
 
@@ -41,8 +42,9 @@ MRVAutoReplaceIndex::MRVAutoReplaceIndex(const QList<MRVAutoReplace> &entries)
     : m_entries(entries)
 {
     for (int i = 0; i < m_entries.size(); ++i) {
-        if (m_entries.at(i).enabled && !m_entries.at(i).match.isEmpty())
+        if (m_entries.at(i).enabled && !m_entries.at(i).match.isEmpty()) {
             m_order.push_back(i);
+        }
     }
     // Stable: of equal matches the first in the list stays in front, and it alone can win.
     std::stable_sort(m_order.begin(), m_order.end(), [this](int a, int b) {
@@ -71,8 +73,9 @@ void MRVAutoReplaceIndex::addNode(const Range &range, std::vector<Range> *pendin
     const int depth = m_nodes.empty() ? 0 : commonEnd(first, matchOf(range.to - 1));
     Node node{depth, -1, m_order[range.from], int(pending->size()), 0};
     std::size_t from = range.from;
-    if (first.size() == depth)
+    if (first.size() == depth) {
         node.entry = m_order[from++]; // the shortest match comes first
+    }
     while (from < range.to) {
         const QChar key = fromEnd(matchOf(from), depth);
         std::size_t to = from + 1;
@@ -98,10 +101,12 @@ int MRVAutoReplaceIndex::childOf(const Node &node, QChar key) const
 // The key is known to fit; what is left are the characters that only one way leads along.
 bool MRVAutoReplaceIndex::endsAlike(const QString &text, const Node &node, int from) const
 {
-    if (node.depth > text.size())
+    if (node.depth > text.size()) {
         return false;
-    if (node.depth - from == 1)
+    }
+    if (node.depth - from == 1) {
         return true;
+    }
     const QString &sample = m_entries.at(node.sample).match;
     const int length = node.depth - from - 1;
     return text.midRef(text.size() - node.depth, length)
@@ -111,16 +116,19 @@ bool MRVAutoReplaceIndex::endsAlike(const QString &text, const Node &node, int f
 int MRVAutoReplaceIndex::find(const QString &text) const
 {
     int best = -1;
-    if (m_nodes.empty())
+    if (m_nodes.empty()) {
         return best;
+    }
     const Node *node = &m_nodes.front();
     while (node->depth < text.size()) {
         const int child = childOf(*node, fromEnd(text, node->depth));
-        if (child < 0 || !endsAlike(text, m_nodes[std::size_t(child)], node->depth))
+        if (child < 0 || !endsAlike(text, m_nodes[std::size_t(child)], node->depth)) {
             break;
+        }
         node = &m_nodes[std::size_t(child)];
-        if (node->entry >= 0)
+        if (node->entry >= 0) {
             best = node->entry;
+        }
     }
     return best;
 }

@@ -102,8 +102,9 @@ MRVAutoReplaceList &MRVAutoReplaceList::operator=(MRVAutoReplaceList &&other) no
 
 MRVAutoReplace MRVAutoReplaceList::bestMatch(const QString &text) const
 {
-    if (m_givenAway || size() <= LongestScan)
+    if (m_givenAway || size() <= LongestScan) {
         return scan(text);
+    }
     if (!m_index || !m_index->holdsFor(*this)) {
         m_index = std::make_shared<MRVAutoReplaceIndex>(*this);
     }
@@ -159,8 +160,9 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
     qint32 count = 0;
     stream >> version;
     if (version != ListVersion) {
-        if (error)
+        if (error) {
             *error = tr("it is no auto-replace list of a known version");
+        }
         return;
     }
     stream >> count;
@@ -174,14 +176,16 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
             append(entry);
         }
     }
-    if (error && (count < 0 || stream.status() != QDataStream::Ok || !stream.atEnd()))
+    if (error && (count < 0 || stream.status() != QDataStream::Ok || !stream.atEnd())) {
         *error = tr("it is damaged or cut short; entries that could be read: %n", nullptr, size());
+    }
 }
 
 void MRVAutoReplaceList::appendMissingOrdinals(MRVAutoReplaceList *list)
 {
-    if (!list)
+    if (!list) {
         return;
+    }
     const MRVAutoReplaceList ordinals = MRVAutoReplace::ordinals();
     for (const MRVAutoReplace &ordinal : ordinals) {
         if (!list->containsReplacement(ordinal.match, ordinal.replacement)) {

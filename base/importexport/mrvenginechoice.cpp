@@ -26,8 +26,9 @@ constexpr struct
 constexpr bool reasonsAreInOrder()
 {
     for (int i = 0; i < int(std::size(reasons)); ++i) {
-        if (reasons[i].reason != i)
+        if (reasons[i].reason != i) {
             return false;
+        }
     }
     return std::size(reasons) == MRVEngineChoice::Repaired + 1;
 }

@@ -70,8 +70,9 @@ constexpr bool holdsEachOnce(const Format (&table)[Size])
 {
     for (std::size_t i = 0; i < Size; ++i) {
         for (std::size_t j = 0; j < i; ++j) {
-            if (table[i] == table[j])
+            if (table[i] == table[j]) {
                 return false;
+            }
         }
     }
     return true;
@@ -83,12 +84,14 @@ constexpr bool listsAreSound(const Row (&table)[Size])
 {
     for (const Row &row : table) {
         for (const auto &engines : {row.withoutWord, row.withWord}) {
-            if (!engines[0] || engines[3])
+            if (!engines[0] || engines[3]) {
                 return false;
+            }
         }
         for (Engine engine : row.withoutWord) {
-            if (engine == Word || engine == MRVImportExport::Doc2AnyPreferOpenOffice)
+            if (engine == Word || engine == MRVImportExport::Doc2AnyPreferOpenOffice) {
                 return false;
+            }
         }
     }
     return true;
@@ -112,8 +115,9 @@ QList<Engine> enginesOf(const Row (&table)[Size], Format format, bool msWord)
     for (const Row &row : table) {
         if (row.format == format) {
             for (Engine engine : msWord ? row.withWord : row.withoutWord) {
-                if (engine)
+                if (engine) {
                     engines.append(engine);
+                }
             }
         }
     }
@@ -126,8 +130,9 @@ bool skipText(QDataStream &stream)
 {
     quint32 size = 0;
     stream >> size;
-    if (stream.status() != QDataStream::Ok)
+    if (stream.status() != QDataStream::Ok) {
         return false;
+    }
     constexpr quint32 nullText = 0xffffffff;
     return size == nullText
         || (size <= quint64(stream.device()->bytesAvailable())
@@ -141,8 +146,9 @@ bool holdsWholeMap(const QByteArray &bytes)
     quint32 count = 0;
     stream >> count;
     for (quint32 i = 0; i < count; ++i) {
-        if (!skipText(stream) || !skipText(stream))
+        if (!skipText(stream) || !skipText(stream)) {
             return false;
+        }
     }
     return stream.status() == QDataStream::Ok;
 }
@@ -151,11 +157,13 @@ bool holdsWholeMap(const QByteArray &bytes)
 
 QList<Format> formats(Direction direction, const Applications &applications)
 {
-    if (direction == Import)
+    if (direction == Import) {
         return toList(importFormats);
+    }
     QList<Format> formats = toList(exportFormats);
-    if (applications.kindleConverter)
+    if (applications.kindleConverter) {
         formats.append(MRVFormat::MOBI);
+    }
     return formats;
 }
 
@@ -174,24 +182,27 @@ FormatEngines defaultEngines(Direction direction, const Applications &applicatio
 {
     FormatEngines engines;
     const QList<Format> all = formats(direction, applications);
-    for (Format format : all)
+    for (Format format : all) {
         engines.insert(format, supportedEngines(direction, format, applications).constFirst());
+    }
     return engines;
 }
 
 QByteArray toByteArray(const FormatEngines &engines)
 {
     QMap<QString, QString> names;
-    for (auto it = engines.cbegin(); it != engines.cend(); ++it)
+    for (auto it = engines.cbegin(); it != engines.cend(); ++it) {
         names.insert(MRVFormat::name(it.key()), MRVImportExport::toString(it.value()));
+    }
     return MCoreType::toByteArray(names);
 }
 
 FormatEngines toFormatEngines(const QByteArray &bytes)
 {
     FormatEngines engines;
-    if (!holdsWholeMap(bytes))
+    if (!holdsWholeMap(bytes)) {
         return engines;
+    }
     QMap<QString, QString> names;
     QDataStream stream(bytes);
     stream.setVersion(MCoreType::StreamVersion);
@@ -199,8 +210,9 @@ FormatEngines toFormatEngines(const QByteArray &bytes)
     for (auto it = names.cbegin(); it != names.cend(); ++it) {
         const Format format = MRVFormat::format(it.key());
         const Engine engine = MRVImportExport::toEngine(it.value());
-        if (format != MRVFormat::NoFormat && engine != MRVImportExport::UnknownEngine)
+        if (format != MRVFormat::NoFormat && engine != MRVImportExport::UnknownEngine) {
             engines.insert(format, engine);
+        }
     }
     return engines;
 }
@@ -208,14 +220,16 @@ FormatEngines toFormatEngines(const QByteArray &bytes)
 FormatEngines usableEngines(Direction direction, const FormatEngines &stored,
                             const Applications &applications)
 {
-    if (stored.isEmpty())
+    if (stored.isEmpty()) {
         return defaultEngines(direction, applications);
+    }
     FormatEngines engines = stored;
     for (auto it = engines.begin(); it != engines.end(); ++it) {
         const bool missing = (it.value() == Word && !applications.msWord)
             || (it.value() == MRVImportExport::Doc2AnyPreferOpenOffice && !applications.openOffice);
-        if (missing)
+        if (missing) {
             it.value() = supportedEngines(direction, it.key(), applications).constFirst();
+        }
     }
     return engines;
 }
@@ -226,8 +240,9 @@ MRVEngineChoice choose(Format from, Format to, const Choices &choices,
     MRVEngineChoice choice;
     choice.canImport = formats(Import, applications).contains(from);
     choice.canExport = formats(Export, applications).contains(to);
-    if (from != MRVFormat::RTF && to != MRVFormat::RTF)
+    if (from != MRVFormat::RTF && to != MRVFormat::RTF) {
         return choice;
+    }
 
     const Direction direction = from == MRVFormat::RTF ? Export : Import;
     const Format format = direction == Export ? to : from;
@@ -236,13 +251,14 @@ MRVEngineChoice choose(Format from, Format to, const Choices &choices,
     choice.supported = supportedEngines(direction, format, applications);
     choice.stored = stored.value(format);
     choice.engine = used.value(format, QtOwn);
-    if (!used.contains(format))
+    if (!used.contains(format)) {
         choice.reason = MRVEngineChoice::Unlisted;
-    else if (stored.isEmpty())
+    } else if (stored.isEmpty()) {
         choice.reason = MRVEngineChoice::Default;
-    else
+    } else {
         choice.reason =
             choice.stored == choice.engine ? MRVEngineChoice::Stored : MRVEngineChoice::Repaired;
+    }
     return choice;
 }
 

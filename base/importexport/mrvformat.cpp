@@ -78,8 +78,9 @@ constexpr bool equal(const char *left, const char *right)
 constexpr const Row *rowOf(MRVFormat::Format format)
 {
     for (const Row &row : rows) {
-        if (row.format == format)
+        if (row.format == format) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -89,8 +90,9 @@ constexpr bool holdsEachFormat()
 {
     for (int i = 0; i <= MRVFormat::OTT + 1; ++i) {
         const bool used = i > 0 && i != 22 && i <= MRVFormat::OTT;
-        if (used != (rowOf(MRVFormat::Format(i)) != nullptr))
+        if (used != (rowOf(MRVFormat::Format(i)) != nullptr)) {
             return false;
+        }
     }
     return true;
 }
@@ -100,16 +102,19 @@ constexpr bool namesAndSuffixesAreSound()
 {
     for (const Row &row : rows) {
         for (const Row &other : rows) {
-            if ((row.format == other.format) != equal(row.name, other.name))
+            if ((row.format == other.format) != equal(row.name, other.name)) {
                 return false;
+            }
         }
         for (const char *at = row.suffix; *at; ++at) {
-            if (*at < 'a' || *at > 'z')
+            if (*at < 'a' || *at > 'z') {
                 return false;
+            }
         }
         const bool file = row.format != MRVFormat::Print && row.format != MRVFormat::Preview;
-        if (file != (*row.suffix != '\0'))
+        if (file != (*row.suffix != '\0')) {
             return false;
+        }
     }
     return true;
 }
@@ -127,12 +132,14 @@ int MRVFormat::formatsCount()
 
 MRVFormat::Format MRVFormat::format(const QString &suffix)
 {
-    if (suffix.isEmpty())
+    if (suffix.isEmpty()) {
         return NoFormat;
+    }
     const QString lower = suffix.toLower();
     for (const Row &row : rows) {
-        if (lower == QLatin1String(row.suffix))
+        if (lower == QLatin1String(row.suffix)) {
             return row.format;
+        }
     }
     return NoFormat;
 }

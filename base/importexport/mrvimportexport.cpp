@@ -45,8 +45,9 @@ template<typename Enum, std::size_t Size>
 constexpr bool rowsCarryTheirNumbers(const Row<Enum> (&table)[Size], Enum last)
 {
     for (std::size_t i = 0; i < Size; ++i) {
-        if (table[i].value != int(i))
+        if (table[i].value != int(i)) {
             return false;
+        }
     }
     return table[Size - 1].value == last;
 }
@@ -64,8 +65,9 @@ template<typename Enum, std::size_t Size, typename Text>
 Enum fromStoredName(const Row<Enum> (&table)[Size], const Text &name)
 {
     for (const Row<Enum> &row : table) {
-        if (name == QLatin1String(row.stored))
+        if (name == QLatin1String(row.stored)) {
             return row.value;
+        }
     }
     return Enum(0);
 }
@@ -75,8 +77,9 @@ QMap<Enum, QString> displayNames(const Row<Enum> (&table)[Size])
 {
     QMap<Enum, QString> names;
     for (const Row<Enum> &row : table) {
-        if (row.display)
+        if (row.display) {
             names.insert(row.value, QCoreApplication::translate("QObject", row.display));
+        }
     }
     return names;
 }
@@ -96,8 +99,9 @@ QByteArray MRVImportExport::toByteArray(UrlImportType type)
 
 MRVImportExport::UrlImportType MRVImportExport::toUrlImportType(const QByteArray &name)
 {
-    if (name == FormerPdfType)
+    if (name == FormerPdfType) {
         return ImportAsPdfWithDoc2AnyWebKit;
+    }
     return fromStoredName(urlImportTypes, QLatin1String(name.constData(), name.size()));
 }
 
@@ -130,8 +134,9 @@ MRVImportExport::UrlImportType MRVImportExport::defaultUrlImportType(AllowImport
 QMap<MRVImportExport::UrlImportType, QString> MRVImportExport::urlImportTypesDescr()
 {
     QMap<UrlImportType, QString> names = displayNames(urlImportTypes);
-    if (!hasMsWord())
+    if (!hasMsWord()) {
         names.remove(ImportAsPdfWithDoc2AnyOffice);
+    }
     return names;
 }
 
@@ -143,8 +148,9 @@ QStringList MRVImportExport::urlImportTypesDescrSorted()
 QMap<MRVImportExport::Engine, QString> MRVImportExport::engineTypes()
 {
     QMap<Engine, QString> names;
-    for (const auto &row : engines)
+    for (const auto &row : engines) {
         names.insert(row.value, QString::fromLatin1(row.stored));
+    }
     return names;
 }
 

@@ -168,8 +168,9 @@ bool MRVImportExportConfig::setEngine(Format from, Format to, MRVImportExport::E
 void MRVImportExportConfig::resetEngines()
 {
     if (m_options) {
-        for (MRVSettings::ByteArraySetting setting : settings)
+        for (MRVSettings::ByteArraySetting setting : settings) {
             m_options->remove(m_options->keyText(setting));
+        }
     }
     readChoices();
 }
@@ -179,9 +180,10 @@ void MRVImportExportConfig::readChoices()
     for (Direction direction : {Import, Export}) {
         m_stored[direction].clear();
         const QString key = m_options ? m_options->keyText(settings[direction]) : QString();
-        if (m_options && m_options->contains(key))
+        if (m_options && m_options->contains(key)) {
             m_stored[direction] =
                 MRVEngineTables::toFormatEngines(m_options->value(key).toByteArray());
+        }
         m_used[direction] =
             usableEngines(direction, m_stored[direction], applications(m_kindleConverter));
     }

@@ -28,8 +28,9 @@ bool mrvReadBytes(QDataStream &stream, QByteArray *bytes)
     quint32 size = 0;
     stream >> size;
     bytes->clear();
-    if (stream.status() != QDataStream::Ok || size == NullLength)
+    if (stream.status() != QDataStream::Ok || size == NullLength) {
         return stream.status() == QDataStream::Ok;
+    }
     if (size > MaxLength) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return false;
@@ -42,14 +43,16 @@ bool mrvReadString(QDataStream &stream, QString *text)
 {
     QByteArray bytes;
     text->clear();
-    if (!mrvReadBytes(stream, &bytes))
+    if (!mrvReadBytes(stream, &bytes)) {
         return false;
+    }
     if (bytes.size() % 2 != 0) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return false;
     }
-    if (bytes.isNull())
+    if (bytes.isNull()) {
         return true;
+    }
     *text = QString(bytes.size() / 2, Qt::Uninitialized);
     const bool isBig = stream.byteOrder() == QDataStream::BigEndian;
     for (int i = 0; i < text->size(); ++i) {

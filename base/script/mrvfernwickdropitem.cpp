@@ -48,8 +48,9 @@ struct PictureHeader
     {
         constexpr int HeaderEnd = 26;
         constexpr int channelsOfTypes[] = {1, 0, 3, 1, 2, 0, 4};
-        if (png.size() < HeaderEnd)
+        if (png.size() < HeaderEnd) {
             return false;
+        }
         const int type = uchar(png[25]);
         width = qFromBigEndian<quint32>(png.constData() + 16);
         height = qFromBigEndian<quint32>(png.constData() + 20);
@@ -178,11 +179,13 @@ QVariant DropItemReader::variant()
     quint32 type = 0;
     quint8 isNull = 0;
     m_stream >> type >> isNull;
-    if (!isSound() || type == QMetaType::UnknownType)
+    if (!isSound() || type == QMetaType::UnknownType) {
         return QVariant();
+    }
     const TypeRow *row = rowOf(int(type));
-    if (!row || m_depth == MaxDepth)
+    if (!row || m_depth == MaxDepth) {
         return refused();
+    }
     QVariant read;
     if (row->read) {
         ++m_depth;
@@ -190,8 +193,9 @@ QVariant DropItemReader::variant()
         --m_depth;
     } else {
         read = QVariant(int(type), nullptr);
-        if (!QMetaType::load(m_stream, int(type), read.data()))
+        if (!QMetaType::load(m_stream, int(type), read.data())) {
             return refused();
+        }
     }
     return isNull != 0 && isSound() ? QVariant(QVariant::Type(read.userType())) : read;
 }
@@ -200,8 +204,9 @@ QVariant DropItemReader::userValue()
 {
     QByteArray name;
     mrvReadBytes(m_stream, &name); // stored with the zero that ends it
-    if (name != QByteArray::fromRawData(TypeName, sizeof TypeName))
+    if (name != QByteArray::fromRawData(TypeName, sizeof TypeName)) {
         return refused();
+    }
     return QVariant::fromValue(item());
 }
 
@@ -264,10 +269,12 @@ QVariant DropItemReader::color()
 {
     constexpr int Length = 11;
     QByteArray bytes;
-    if (!mrvReadRaw(m_stream, Length, &bytes))
+    if (!mrvReadRaw(m_stream, Length, &bytes)) {
         return QVariant();
-    if (bytes.at(0) < QColor::Invalid || bytes.at(0) > QColor::ExtendedRgb)
+    }
+    if (bytes.at(0) < QColor::Invalid || bytes.at(0) > QColor::ExtendedRgb) {
         return refused();
+    }
     return fromBytes<QColor>(bytes);
 }
 
@@ -276,11 +283,13 @@ QVariant DropItemReader::dateTime()
 {
     constexpr int SpecAt = 12; // behind the date and the time
     QByteArray bytes;
-    if (!mrvReadRaw(m_stream, SpecAt + 1, &bytes))
+    if (!mrvReadRaw(m_stream, SpecAt + 1, &bytes)) {
         return QVariant();
+    }
     const int spec = bytes.at(SpecAt);
-    if (spec != Qt::LocalTime && spec != Qt::UTC && spec != Qt::OffsetFromUTC)
+    if (spec != Qt::LocalTime && spec != Qt::UTC && spec != Qt::OffsetFromUTC) {
         return refused();
+    }
     if (spec == Qt::OffsetFromUTC) {
         mrvReadRaw(m_stream, 4, &bytes);
     }
@@ -304,18 +313,23 @@ QVariant DropItemReader::stringList()
 bool DropItemReader::png(QByteArray *bytes)
 {
     static constexpr char Signature[] = "\x89PNG\r\n\x1a\n";
-    if (!mrvReadRaw(m_stream, 8, bytes) || std::memcmp(bytes->constData(), Signature, 8) != 0)
+    if (!mrvReadRaw(m_stream, 8, bytes) || std::memcmp(bytes->constData(), Signature, 8) != 0) {
         return false;
+    }
     for (;;) {
         const int start = bytes->size();
-        if (!mrvReadRaw(m_stream, 8, bytes))
+        if (!mrvReadRaw(m_stream, 8, bytes)) {
             return false;
+        }
         const quint32 length = qFromBigEndian<quint32>(bytes->constData() + start);
         const bool last = std::memcmp(bytes->constData() + start + 4, "IEND", 4) == 0;
-        if (length > 0x7fffffff - 4 || !mrvReadRaw(m_stream, length + 4, bytes)) // and the checksum
+        if (length > 0x7fffffff - 4
+            || !mrvReadRaw(m_stream, length + 4, bytes)) { // and the checksum
             return false;
-        if (last)
+        }
+        if (last) {
             return true;
+        }
     }
 }
 
@@ -323,14 +337,17 @@ QVariant DropItemReader::image()
 {
     qint32 present = 0;
     m_stream >> present;
-    if (!isSound() || present == 0)
+    if (!isSound() || present == 0) {
         return QImage();
+    }
     QByteArray bytes;
     PictureHeader header;
-    if (!png(&bytes) || !header.read(bytes) || header.storedSize() > MostInflated * bytes.size())
+    if (!png(&bytes) || !header.read(bytes) || header.storedSize() > MostInflated * bytes.size()) {
         return refused();
-    if (header.decodedSize() > m_pictureBytes)
+    }
+    if (header.decodedSize() > m_pictureBytes) {
         return QImage(); // what else the item holds is worth more than its picture
+    }
     const QImage image = MRVGuiUtil::toImage(bytes, "PNG");
     m_pictureBytes -= qint64(image.sizeInBytes());
     return image.isNull() ? refused() : QVariant(image);
@@ -362,8 +379,9 @@ QVariant MRVFernwickDropItem::toVariant() const
 MRVFernwickDropItem MRVFernwickDropItem::fromVariant(const QVariant &variant)
 {
     registerType();
-    if (variant.userType() == qMetaTypeId<MRVFernwickDropItem>())
+    if (variant.userType() == qMetaTypeId<MRVFernwickDropItem>()) {
         return variant.value<MRVFernwickDropItem>();
+    }
     MRVFernwickDropItem item;
     item.m_payload = variant;
     return item;
@@ -386,14 +404,18 @@ static bool isWritable(const QVariant &value, int depth = 0)
         return isWritable(entry, depth + 1);
     };
     const int type = value.userType();
-    if (!value.isValid())
+    if (!value.isValid()) {
         return true;
-    if (depth == MaxDepth)
+    }
+    if (depth == MaxDepth) {
         return false;
-    if (type == qMetaTypeId<MRVFernwickDropItem>())
+    }
+    if (type == qMetaTypeId<MRVFernwickDropItem>()) {
         return isEntryWritable(value.value<MRVFernwickDropItem>().payload());
-    if (type == QMetaType::QDateTime)
+    }
+    if (type == QMetaType::QDateTime) {
         return value.toDateTime().timeSpec() != Qt::TimeZone;
+    }
     if (type == QMetaType::QVariantMap) {
         const QVariantMap entries = value.toMap();
         return std::all_of(entries.cbegin(), entries.cend(), isEntryWritable);

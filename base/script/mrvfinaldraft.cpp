@@ -174,8 +174,9 @@ void FinalDraftWriter::writeNote(const Run &run)
 // Keys are written where they would not be guessed from the places and words alone.
 void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
 {
-    if (titles.isEmpty())
+    if (titles.isEmpty()) {
         return;
+    }
     start("TitlePage");
     start("Content");
     MrvTitleKeys before;

@@ -176,12 +176,14 @@ void FinalDraftReader::startText()
 
 void FinalDraftReader::addText(const QStringRef &text)
 {
-    if (m_isText.isEmpty() || !m_isText.constLast())
+    if (m_isText.isEmpty() || !m_isText.constLast()) {
         return;
+    }
     if (!m_hasParagraph) {
         // Behind a paragraph within a text, which the blanks of the layout do not continue.
-        if (text.trimmed().isEmpty())
+        if (text.trimmed().isEmpty()) {
             return;
+        }
         beginParagraph();
         m_element.runs.append({QString(), m_emphasis, Run::Text});
     }
@@ -190,8 +192,9 @@ void FinalDraftReader::addText(const QStringRef &text)
 
 void FinalDraftReader::startNote()
 {
-    if (m_noteDepth++ > 0)
+    if (m_noteDepth++ > 0) {
         return;
+    }
     m_isNoteAlone = !m_hasParagraph;
     if (m_isNoteAlone) {
         beginParagraph();
@@ -202,8 +205,9 @@ void FinalDraftReader::startNote()
 
 void FinalDraftReader::endNote()
 {
-    if (--m_noteDepth > 0)
+    if (--m_noteDepth > 0) {
         return;
+    }
     m_runKind = Run::Text;
     if (m_isNoteAlone && m_element.runs.isEmpty()) {
         m_hasParagraph = false;
@@ -288,8 +292,9 @@ bool FinalDraftReader::readForeign()
     const bool isForeign = m_isText.size() == BelowRoot
         ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
         : m_inTitles && m_isText.size() == BelowRoot + 1 && tag != QLatin1String("Content");
-    if (!isForeign)
+    if (!isForeign) {
         return false;
+    }
     if (tag == QLatin1String("ScriptNotes")) {
         readNotes();
     } else {
@@ -316,8 +321,9 @@ void FinalDraftReader::readSummary()
 
 void FinalDraftReader::startElement()
 {
-    if (readForeign())
+    if (readForeign()) {
         return;
+    }
     const QStringRef tag = m_xml.name();
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
@@ -453,8 +459,9 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             break;
         }
     }
-    if (!mrvIsXmlRead(m_xml, error))
+    if (!mrvIsXmlRead(m_xml, error)) {
         return false;
+    }
     addSummary();
     placeNotes();
     *script = m_script.normalized();
@@ -467,8 +474,9 @@ bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QS
                             QStringList *leftOut)
 {
     QString text;
-    if (!scriptXmlText(xml, &text, error))
+    if (!scriptXmlText(xml, &text, error)) {
         return false;
+    }
     FinalDraftReader reader(text);
     const bool ok = reader.read(script, error);
     if (ok && leftOut) {

@@ -144,8 +144,9 @@ void HtmlWriter::write(const MRVFountainScript &script, const QString &language)
 
 void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
 {
-    if (titles.isEmpty())
+    if (titles.isEmpty()) {
         return;
+    }
     start("header", QStringLiteral("title-page"));
     for (const MRVFountainTitle &title : titles) {
         breakLine();
@@ -391,8 +392,9 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
         && m_script.elements.isEmpty()) {
         m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
     }
-    if (!mrvIsXmlRead(m_xml, error))
+    if (!mrvIsXmlRead(m_xml, error)) {
         return false;
+    }
     *script = m_script.normalized();
     return true;
 }
@@ -415,8 +417,9 @@ bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script
                                QString *language)
 {
     QString text;
-    if (!scriptXmlText(html, &text, error))
+    if (!scriptXmlText(html, &text, error)) {
         return false;
+    }
     HtmlReader reader(text);
     const bool ok = reader.read(script, error);
     if (ok && language) {

@@ -115,8 +115,9 @@ int InlineReader::readBackslashes(int at)
         return end;
     }
     addText(m_text.midRef(at, count / 2));
-    if (count % 2 == 0)
+    if (count % 2 == 0) {
         return end;
+    }
     addText(m_text.midRef(end, 1));
     return end + 1;
 }
@@ -154,8 +155,9 @@ void InlineReader::pairMarks()
         int open = -1;
         for (int i = 0; i < m_pieces.size(); ++i) {
             Piece &piece = m_pieces[i];
-            if (!piece.styles.testFlag(row.style))
+            if (!piece.styles.testFlag(row.style)) {
                 continue;
+            }
             if (open < 0) {
                 open = piece.canOpen ? i : -1;
             } else if (piece.canClose) {
@@ -222,8 +224,9 @@ void InlineWriter::doubleBackslashes()
 
 void InlineWriter::addMarks(Emphasis toggled)
 {
-    if (!toggled)
+    if (!toggled) {
         return;
+    }
     doubleBackslashes();
     const Emphasis stars = toggled & (Run::Bold | Run::Italic);
     const QString starMarks(int(stars), u'*');
@@ -247,8 +250,9 @@ int InlineWriter::plainMarks(const QString &text, int at, Emphasis toggledBehind
     const bool isLine = mark == u'_';
     const QChar before = m_text.isEmpty() ? QChar() : m_text.at(m_text.size() - 1);
     if ((!isLine && mark != u'*') || m_backslashes > 0 || m_escapeNext || before == mark
-        || before == u'/')
+        || before == u'/') {
         return 0;
+    }
     int end = at;
     while (end < text.size() && text.at(end) == mark) {
         ++end;
@@ -355,8 +359,9 @@ QString noteText(const QStringRef &text)
 
 QString objectText(const MRVFountainRun &run)
 {
-    if (run.kind == Run::Boneyard)
+    if (run.kind == Run::Boneyard) {
         return QLatin1String("/*") + run.text + QLatin1String("*/");
+    }
     QString text = QStringLiteral("[[");
     int backslashes = 0;
     int lineStart = 2;

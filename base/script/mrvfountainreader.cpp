@@ -75,17 +75,20 @@ bool ObjectScanner::endsParagraph(int lineEnd) const
 
 int ObjectScanner::noteEnd(int start)
 {
-    if (start < m_noNoteBefore)
+    if (start < m_noNoteBefore) {
         return -1;
+    }
     int at = start;
     int backslashes = 0;
     for (; at < m_text.size(); ++at) {
         const QChar c = m_text.at(at);
         if (c == u']' && backslashes % 2 == 0 && at + 1 < m_text.size()
-            && m_text.at(at + 1) == u']')
+            && m_text.at(at + 1) == u']') {
             return at + 2;
-        if (c == u'\n' && endsParagraph(at))
+        }
+        if (c == u'\n' && endsParagraph(at)) {
             break;
+        }
         backslashes = c == u'\\' ? backslashes + 1 : 0;
     }
     m_noNoteBefore = at;
@@ -235,8 +238,9 @@ bool FountainReader::isOnly(int line, Run::Kind kind) const
 bool FountainReader::endsBefore(int line, bool passBoneyards) const
 {
     while (!isEmpty(line) && isOnly(line, Run::Boneyard)) {
-        if (!passBoneyards)
+        if (!passBoneyards) {
             return true;
+        }
         ++line;
     }
     return isEmpty(line);
@@ -246,8 +250,9 @@ LineKind FountainReader::kindOf(int line) const
 {
     const LineKind kind = lineKind(view(line), endsBefore(line + 1, false));
     // Rather a transition than somebody of that name, who has nothing to say but what was cut out.
-    if (kind == TransitionLine || endsBefore(line + 1, true))
+    if (kind == TransitionLine || endsBefore(line + 1, true)) {
         return kind;
+    }
     const LineKind spoken = lineKind(view(line), false);
     return spoken == CueLine ? spoken : kind;
 }
@@ -331,8 +336,9 @@ MRVFountainScript FountainReader::script()
 
 void FountainReader::addTitleLine(MRVFountainTitle *title, const Line &line, int from) const
 {
-    if (from >= line.end)
+    if (from >= line.end) {
         return;
+    }
     if (!title->value.isEmpty()) {
         title->value.append({QStringLiteral("\n"), {}, Run::Text});
     }
@@ -341,8 +347,9 @@ void FountainReader::addTitleLine(MRVFountainTitle *title, const Line &line, int
 
 int FountainReader::readTitles()
 {
-    if (m_lines.isEmpty() || !beginsTitlePage(view(0), view(1)))
+    if (m_lines.isEmpty() || !beginsTitlePage(view(0), view(1))) {
         return 0;
+    }
     int line = 0;
     for (; !isEmpty(line); ++line) {
         const Line &given = m_lines.at(line);
@@ -530,8 +537,9 @@ int FountainReader::readAction(int line)
     for (int first = line; !isEmpty(line); ++line) {
         const Line &given = m_lines.at(line);
         const LineKind kind = line > first ? lineKind(view(line), true) : ActionLine;
-        if (interruptsAction(kind))
+        if (interruptsAction(kind)) {
             break;
+        }
         if (line > first) {
             element.runs.append({QStringLiteral("\n"), {}, Run::Text});
         }

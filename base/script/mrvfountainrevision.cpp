@@ -17,8 +17,9 @@ struct Patch
 QString lineEndOf(const QString &text)
 {
     const int end = text.indexOf(u'\n');
-    if (end < 0)
+    if (end < 0) {
         return text.contains(u'\r') ? QStringLiteral("\r") : QStringLiteral("\n");
+    }
     return end > 0 && text.at(end - 1) == u'\r' ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
@@ -79,8 +80,9 @@ QVector<Patch> patches(const MRVFountainScript &script, const QString &plain)
     TextRanges newRanges;
     const MRVFountainScript old = scriptOf(plain, &oldRanges);
     const QString text = textOf(script, &newRanges);
-    if (old.elements.size() != script.elements.size())
+    if (old.elements.size() != script.elements.size()) {
         return whole(text);
+    }
     QVector<Patch> patches;
     const auto add = [&](const Range &range, const Range &with) {
         patches.append({range, text.mid(with.start, with.end - with.start)});

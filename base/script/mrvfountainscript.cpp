@@ -72,8 +72,9 @@ void removeLeadingBlanks(MRVFountainRuns *line)
             ++blanks;
         }
         text.remove(0, blanks);
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             return;
+        }
         line->removeFirst();
     }
 }
@@ -87,8 +88,9 @@ void removeTrailingBlanks(MRVFountainRuns *line)
             --end;
         }
         text.truncate(end);
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             return;
+        }
         line->removeLast();
     }
 }
@@ -137,8 +139,9 @@ void plainEdges(Iterator run, Iterator end, MRVFountainRun::Style style)
 
 void appendRun(MRVFountainRuns *runs, const MRVFountainRun &run)
 {
-    if (run.text.isEmpty())
+    if (run.text.isEmpty()) {
         return;
+    }
     if (run.kind == MRVFountainRun::Text && !runs->isEmpty()
         && runs->constLast().kind == MRVFountainRun::Text
         && runs->constLast().emphasis == run.emphasis) {

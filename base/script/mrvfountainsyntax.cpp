@@ -18,8 +18,9 @@ bool isUpper(const QStringRef &text)
 {
     bool any = false;
     for (const QChar c : text) {
-        if (c.isLower())
+        if (c.isLower()) {
             return false;
+        }
         any = any || c.isUpper();
     }
     return any;
@@ -36,8 +37,9 @@ bool isHeading(const QStringRef &line)
     for (const char *start : headingStarts) {
         const int length = int(std::strlen(start));
         if (text.size() > length && (text.at(length) == u'.' || text.at(length) == u' ')
-            && text.startsWith(QLatin1String(start), Qt::CaseInsensitive))
+            && text.startsWith(QLatin1String(start), Qt::CaseInsensitive)) {
             return true;
+        }
     }
     return false;
 }
@@ -133,15 +135,19 @@ bool isEscaped(const QStringRef &line, int position)
 LineKind lineKind(const QStringRef &line, bool nextBlank)
 {
     const QStringRef text = trimmed(line);
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return ActionLine;
+    }
     const LineKind marked = markedKind(text);
-    if (marked != ActionLine)
+    if (marked != ActionLine) {
         return marked;
-    if (isHeading(text))
+    }
+    if (isHeading(text)) {
         return HeadingLine;
-    if (nextBlank)
+    }
+    if (nextBlank) {
         return isTransition(text) ? TransitionLine : ActionLine;
+    }
     return isCue(text) ? CueLine : ActionLine;
 }
 
@@ -163,15 +169,17 @@ int extensionStart(const QStringRef &cue)
         while (from > 0 && isBlank(cue.at(from - 1))) {
             --from;
         }
-        if (from == 0 || cue.at(from - 1) != u')')
+        if (from == 0 || cue.at(from - 1) != u')') {
             return end;
+        }
         // Searched by hand: QStringRef looks at the whole text behind it for each.
         int open = from - 1;
         while (open > 0 && cue.at(open) != u'(') {
             --open;
         }
-        if (open == 0)
+        if (open == 0) {
             return end;
+        }
         end = from = open;
     }
 }
@@ -187,8 +195,9 @@ Range sceneNumber(const QStringRef &line)
     while (end > 0 && (isBlank(line.at(end - 1)) || isMark(line.at(end - 1)))) {
         --end;
     }
-    if (end < 3 || line.at(end - 1) != u'#')
+    if (end < 3 || line.at(end - 1) != u'#') {
         return Range();
+    }
     int start = end - 1;
     while (start > 0 && isInSceneNumber(line.at(start - 1))) {
         --start;
@@ -201,11 +210,13 @@ Range sceneNumber(const QStringRef &line)
 int titleKeyLength(const QStringRef &line)
 {
     if (line.isEmpty() || isBlank(line.at(0)) || markedKind(line) != ActionLine
-        || line.at(0) == u'.' || isHeading(line))
+        || line.at(0) == u'.' || isHeading(line)) {
         return 0;
+    }
     for (int i = 0; i < line.size() && line.at(i) != ObjectSign; ++i) {
-        if (line.at(i) == u':')
+        if (line.at(i) == u':') {
             return isBlankLine(line.left(i)) ? 0 : i;
+        }
     }
     return 0;
 }
@@ -213,8 +224,9 @@ int titleKeyLength(const QStringRef &line)
 bool beginsTitlePage(const QStringRef &line, const QStringRef &next)
 {
     const int key = titleKeyLength(line);
-    if (key == 0)
+    if (key == 0) {
         return false;
+    }
     // "FADE IN:" and a blank line is how many scripts begin that have no title page.
     return !isBlankLine(line.mid(key + 1))
         || (!isBlankLine(next) && (isBlank(next.at(0)) || titleKeyLength(next) > 0));

@@ -233,10 +233,12 @@ void FountainWriter::addHeading(const Element &element)
 // Whether something is said right behind a cue, so that it is read as one.
 bool FountainWriter::speaksIn(const Element *next)
 {
-    if (!next)
+    if (!next) {
         return false;
-    if (next->kind == Element::Dialogue)
+    }
+    if (next->kind == Element::Dialogue) {
         return !WrittenLine(linesOf(next->runs).constFirst()).isObject();
+    }
     return next->kind == Element::Parenthetical || (next->kind == Element::Lyrics && !next->apart);
 }
 

@@ -108,8 +108,9 @@ void DocumentWriter::addBlock(const QTextBlockFormat &format, const QTextCharFor
 // A page break without a paragraph behind it, on which it could be.
 void DocumentWriter::addPendingBreak()
 {
-    if (!m_breakPending)
+    if (!m_breakPending) {
         return;
+    }
     m_breakPending = false;
     QTextBlockFormat format;
     format.setProperty(Document::RoleProperty, int(Element::PageBreak));
@@ -219,8 +220,9 @@ MRVFountainScript DocumentReader::script(const QTextDocument &document)
 {
     const QTextBlock first = document.begin();
     // What is left of a document without a paragraph.
-    if (!first.next().isValid() && first.length() <= 1 && first.blockFormat().isEmpty())
+    if (!first.next().isValid() && first.length() <= 1 && first.blockFormat().isEmpty()) {
         return m_script;
+    }
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
         addBlock(block);
     }
@@ -250,8 +252,9 @@ QVariant DocumentReader::detail(const QTextBlock &block, int property)
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QVariant value = it.fragment().charFormat().property(property);
-        if (value.isValid())
+        if (value.isValid()) {
             return value;
+        }
     }
     return block.blockFormat().property(property);
 }
@@ -263,8 +266,9 @@ MRVFountainRuns DocumentReader::runsOf(const QTextBlock &block, Role role) const
     bool wasBorder = false;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextCharFormat format = it.fragment().charFormat();
-        if (format.objectType() != QTextFormat::NoObject)
+        if (format.objectType() != QTextFormat::NoObject) {
             continue;
+        }
         const Run::Emphasis shown = emphasisOf(format);
         const Run::Emphasis meant(format.intProperty(Document::EmphasisProperty));
         Run run;
@@ -366,8 +370,9 @@ void DocumentReader::addHangingSpeech(const MRVFountainRuns &runs)
 void MRVScriptDocument::setScript(QTextDocument *document, const MRVFountainScript &script,
                                   const MRVScriptMode &mode)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     const bool hadUndo = document->isUndoRedoEnabled();
     document->setUndoRedoEnabled(false);
     document->clear();

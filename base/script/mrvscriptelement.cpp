@@ -19,8 +19,9 @@ struct Run
 QVector<Run> runsOf(const QTextBlock &block)
 {
     QVector<Run> runs;
-    for (auto it = block.begin(); !it.atEnd(); ++it)
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
         runs.append({it.fragment().position(), it.fragment().text()});
+    }
     return runs;
 }
 
@@ -45,8 +46,9 @@ bool lengthsDiffer(const QTextBlockFormat &a, const QTextBlockFormat &b)
         const QVariant valueA = a.property(property);
         const QVariant valueB = b.property(property);
         if (isDoubleOrUnset(valueA) && isDoubleOrUnset(valueB)
-            && !sameNumber(valueA.toDouble(), valueB.toDouble()))
+            && !sameNumber(valueA.toDouble(), valueB.toDouble())) {
             return true;
+        }
     }
     return false;
 }
@@ -67,8 +69,9 @@ QTextBlockFormat withoutTabsAndSpacing(const QTextBlockFormat &format)
 
 bool lookTheSame(const QTextBlockFormat &a, const QTextBlockFormat &b, bool exactAlignment)
 {
-    if (!MRVTextFormat::equivalentSpacing(a, b))
+    if (!MRVTextFormat::equivalentSpacing(a, b)) {
         return false;
+    }
     QTextBlockFormat restA = withoutTabsAndSpacing(a);
     QTextBlockFormat restB = withoutTabsAndSpacing(b);
     if (!exactAlignment && bothCentred(restA, restB)) {
@@ -96,10 +99,11 @@ void registerTypes()
 void setOrRemove(QHash<MRVScriptElement::Action, QString> *texts, MRVScriptElement::Action action,
                  const QString &text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         texts->remove(action);
-    else
+    } else {
         texts->insert(action, text);
+    }
 }
 
 } // namespace
@@ -113,16 +117,19 @@ void MRVCompletionList::append(const MRVCompletion &completion)
 MRVCompletionList MRVCompletionList::filter(const QString &prefix) const
 {
     MRVCompletionList offered;
-    if (prefix.isEmpty())
+    if (prefix.isEmpty()) {
         return offered;
+    }
     // Most are ruled out by their first character. Of a surrogate pair, no first half changes with the case.
     const QChar first = prefix.at(0).toCaseFolded();
     for (const MRVCompletion &completion : m_completions) {
         const QString &text = completion.text;
-        if (text.size() <= prefix.size() || text.at(0).toCaseFolded() != first)
+        if (text.size() <= prefix.size() || text.at(0).toCaseFolded() != first) {
             continue;
-        if (text.startsWith(prefix, Qt::CaseInsensitive))
+        }
+        if (text.startsWith(prefix, Qt::CaseInsensitive)) {
             offered.append(completion);
+        }
     }
     return offered;
 }
@@ -130,8 +137,9 @@ MRVCompletionList MRVCompletionList::filter(const QString &prefix) const
 bool MRVCompletionList::newLineAfter(const QString &text) const
 {
     for (const MRVCompletion &completion : m_completions) {
-        if (completion.text.compare(text, Qt::CaseInsensitive) == 0)
+        if (completion.text.compare(text, Qt::CaseInsensitive) == 0) {
             return completion.newLineAfter;
+        }
     }
     return false;
 }
@@ -154,15 +162,17 @@ bool MRVScriptElement::match(const QTextBlock &block) const
 bool MRVScriptElement::equal(const QTextBlockFormat &a, const QTextBlockFormat &b)
 {
     // A script has few formats and many paragraphs: nearly every answer is one of these two.
-    if (a == b)
+    if (a == b) {
         return true;
+    }
     return !lengthsDiffer(a, b) && lookTheSame(a, b, false);
 }
 
 void MRVScriptElement::recapitalizeBlock(const QTextBlock &block) const
 {
-    if (!hasFlag(AllCaps) || !block.isValid())
+    if (!hasFlag(AllCaps) || !block.isValid()) {
         return;
+    }
     const int delimiter = m_styleDelimiter.isEmpty() ? -1 : block.text().indexOf(m_styleDelimiter);
     const int end = block.position() + (delimiter < 0 ? block.length() - 1 : delimiter);
     QTextCursor cursor(block);
@@ -172,17 +182,20 @@ void MRVScriptElement::recapitalizeBlock(const QTextBlock &block) const
     for (auto run = runs.crbegin(); run != runs.crend(); ++run) {
         const QString text = run->text.left(qMax(0, end - run->start));
         const QString upper = text.toUpper();
-        if (upper == text)
+        if (upper == text) {
             continue;
-        if (!editing)
+        }
+        if (!editing) {
             cursor.beginEditBlock();
+        }
         editing = true;
         cursor.setPosition(run->start);
         cursor.setPosition(run->start + text.size(), QTextCursor::KeepAnchor);
         MRVTextCursor::replaceText(cursor, upper);
     }
-    if (editing)
+    if (editing) {
         cursor.endEditBlock();
+    }
 }
 
 MRVCompletionList MRVScriptElement::filteredCompletions(const QString &prefix) const

@@ -28,8 +28,9 @@ constexpr char FileSuffix[] = ".xml";
 
 bool fail(QString *error, const QString &text)
 {
-    if (error)
+    if (error) {
         *error = text;
+    }
     return false;
 }
 
@@ -46,8 +47,9 @@ void writeText(QXmlStreamWriter *xml, const QString &text)
     // A carriage return that is written as it is would be read as a line feed.
     const QStringList lines = mrvXmlText(text).split(u'\r');
     for (int i = 0; i < lines.size(); ++i) {
-        if (i > 0)
+        if (i > 0) {
             xml->writeEntityReference(QStringLiteral("#13"));
+        }
         xml->writeCharacters(lines.at(i));
     }
 }
@@ -89,8 +91,9 @@ void writeField(QXmlStreamWriter *xml, const ScriptField &field, const MRVScript
         writeCompletions(xml, element.completions());
     } else if (field.text) {
         const QString text = field.text(element, units);
-        if (!text.isNull())
+        if (!text.isNull()) {
             writeTextElement(xml, field.tag, text);
+        }
     }
 }
 
@@ -100,16 +103,19 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUni
     const char *group = nullptr;
     for (const ScriptField &field : ScriptFields()) {
         if (field.group != group) {
-            if (group)
+            if (group) {
                 xml->writeEndElement();
-            if (field.group)
+            }
+            if (field.group) {
                 xml->writeStartElement(QLatin1String(field.group));
+            }
             group = field.group;
         }
         writeField(xml, field, element, units);
     }
-    if (group)
+    if (group) {
         xml->writeEndElement();
+    }
     xml->writeEndElement();
 }
 
@@ -118,11 +124,13 @@ bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
 {
     constexpr int PieceSize = 64 * 1024;
     // Opening a folder succeeds.
-    if (QFileInfo(path).isDir())
+    if (QFileInfo(path).isDir()) {
         return fail(reason, MRVScriptMode::tr("it is a folder"));
+    }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return fail(reason, file.errorString());
+    }
     QByteArray piece;
     do {
         piece = file.read(qMin(PieceSize, MRVScriptMode::MaxFileSize + 1 - bytes->size()));
@@ -134,8 +142,9 @@ bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
 const char *unitWord(MRVUnit::Unit units)
 {
     for (const ScriptWord &row : ScriptUnitWords) {
-        if (row.value == units)
+        if (row.value == units) {
             return row.word;
+        }
     }
     return ScriptUnitWords[0].word;
 }
@@ -156,8 +165,9 @@ void MRVScriptMode::setUnits(MRVUnit::Unit units)
 int MRVScriptMode::indexOf(const QString &title) const
 {
     for (int i = 0; i < m_elements.size(); ++i) {
-        if (m_elements.at(i).title() == title)
+        if (m_elements.at(i).title() == title) {
             return i;
+        }
     }
     return -1;
 }
@@ -166,8 +176,9 @@ int MRVScriptMode::indexOf(const QTextBlock &block) const
 {
     const QTextBlockFormat format = block.blockFormat();
     for (int i = 0; i < m_elements.size(); ++i) {
-        if (MRVScriptElement::equal(format, m_elements.at(i).blockFormat()))
+        if (MRVScriptElement::equal(format, m_elements.at(i).blockFormat())) {
             return i;
+        }
     }
     return -1;
 }
@@ -179,8 +190,9 @@ bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remar
     };
     QString reason;
     QByteArray xml;
-    if (!readBounded(path, &xml, &reason))
+    if (!readBounded(path, &xml, &reason)) {
         return fail(error, tr("Cannot read the file \"%1\": %2").arg(path, reason));
+    }
     return fromXml(xml, &reason, remarks) || refuse(reason);
 }
 
@@ -195,8 +207,9 @@ QByteArray MRVScriptMode::toXml() const
     writeTextElement(&xml, NameTag, m_name);
     writeTextElement(&xml, UnitsTag, QLatin1String(unitWord(m_units)));
     xml.writeStartElement(QLatin1String(ScriptElementsTag));
-    for (const MRVScriptElement &element : m_elements)
+    for (const MRVScriptElement &element : m_elements) {
         writeElement(&xml, element, m_units);
+    }
     xml.writeEndElement();
     xml.writeEndElement();
     xml.writeEndDocument();
@@ -209,9 +222,10 @@ bool MRVScriptMode::save(const QString &path, QString *error) const
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
     QString reason;
     if (xml.isEmpty() || xml.size() > MaxFileSize
-        || !scriptModeKeepsLimits(QString::fromUtf8(xml), &reason))
+        || !scriptModeKeepsLimits(QString::fromUtf8(xml), &reason)) {
         return fail(error,
                     tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
+    }
     return MRVFileWriter::write(path, xml, error);
 }
 
@@ -251,8 +265,9 @@ QString MRVScriptMode::userModePath(const QString &name)
 void MRVScriptMode::makeElementsUnique()
 {
     QSet<QString> used;
-    for (const MRVScriptElement &element : qAsConst(m_elements))
+    for (const MRVScriptElement &element : qAsConst(m_elements)) {
         used.insert(element.title());
+    }
     QHash<QString, int> lastNumbers; // of titles that were seen; 0 for the first of them
     for (MRVScriptElement &element : m_elements) {
         const QString series = element.title();
@@ -262,9 +277,9 @@ void MRVScriptMode::makeElementsUnique()
             continue;
         }
         QString title;
-        do
+        do {
             title = series + QLatin1Char('-') + QString::number(++*last);
-        while (used.contains(title));
+        } while (used.contains(title));
         used.insert(title);
         element.setTitle(title);
     }
@@ -293,12 +308,14 @@ QMap<QString, MRVScriptMode> mrv_loadPath(const QString &folder)
         MRVScriptMode mode;
         QString error;
         QStringList remarks;
-        if (mode.load(file.filePath(), &error, &remarks))
+        if (mode.load(file.filePath(), &error, &remarks)) {
             modes.insert(mode.name(), mode);
-        else
+        } else {
             qCWarning(lcScript, "%s", qUtf8Printable(error));
-        for (const QString &remark : qAsConst(remarks))
+        }
+        for (const QString &remark : qAsConst(remarks)) {
             qCInfo(lcScript, "\"%s\": %s", qUtf8Printable(file.filePath()), qUtf8Printable(remark));
+        }
     }
     return modes;
 }

@@ -61,8 +61,9 @@ QString localFamily(const QString &family)
     const bool suffixed = family.endsWith(QLatin1String("MT"));
     const QString name = suffixed ? family.chopped(2) : family;
     for (const FontRow &row : FontRows) {
-        if (name == QLatin1String(row.name))
+        if (name == QLatin1String(row.name)) {
             return QLatin1String(row.here);
+        }
     }
     return family;
 }
@@ -83,8 +84,9 @@ template<int count>
 QString wordOf(const ScriptWord (&words)[count], int value)
 {
     for (const ScriptWord &row : words) {
-        if (row.value == value)
+        if (row.value == value) {
             return QLatin1String(row.word);
+        }
     }
     return QLatin1String(words[0].word);
 }
@@ -93,8 +95,9 @@ bool readNumber(const QString &text, double *number)
 {
     bool ok = false;
     const double value = text.toDouble(&ok);
-    if (!ok || !std::isfinite(value))
+    if (!ok || !std::isfinite(value)) {
         return false;
+    }
     *number = value;
     return true;
 }
@@ -107,8 +110,9 @@ QString shortest(double exact, Read read)
     for (int decimals = 0; decimals < 10; ++decimals) {
         const QString text = QString::number(exact, 'f', decimals);
         const double value = text.toDouble();
-        if (read(value) == wanted)
+        if (read(value) == wanted) {
             return value == 0.0 ? QStringLiteral("0") : text; // never "-0"
+        }
     }
     return QString::number(exact, 'f', 10);
 }
@@ -122,8 +126,9 @@ double bounded(double points)
 
 QString lengthText(double points, MRVUnit::Unit units)
 {
-    if (!std::isfinite(points))
+    if (!std::isfinite(points)) {
         points = 0.0;
+    }
     return shortest(MRVUnit::fromPoint(units, bounded(points)),
                     [&](double length) { return scriptToPoints(units, length); });
 }
@@ -132,8 +137,9 @@ QString lengthText(double points, MRVUnit::Unit units)
 bool readLength(const QString &text, MRVUnit::Unit units, double *points)
 {
     double length = 0.0;
-    if (!readNumber(text, &length))
+    if (!readNumber(text, &length)) {
         return false;
+    }
     const double exact = scriptToPoints(units, bounded(length));
     *points = bounded(exact);
     return *points == exact && bounded(length) == length;
@@ -166,9 +172,10 @@ bool takeLength(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = qQNaN();
     const bool ok = readLength(text, units, &points);
-    if (!qIsNaN(points))
+    if (!qIsNaN(points)) {
         changeBlock(element,
                     [&](QTextBlockFormat &format) { format.setProperty(property, points); });
+    }
     return ok;
 }
 
@@ -194,8 +201,9 @@ bool takeFirstTab(Element *element, const QString &text, MRVUnit::Unit units)
 bool takeTabInterval(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
-    if (!element->blockFormat().tabPositions().isEmpty())
+    if (!element->blockFormat().tabPositions().isEmpty()) {
         return readLength(text, units, &points);
+    }
     return takeFirstTab(element, text, units);
 }
 
@@ -224,16 +232,18 @@ QString spacing(const Element &element, MRVUnit::Unit)
 {
     double multiple = 1.0;
     MRVTextFormat::spacingType(element.blockFormat(), &multiple);
-    if (hasFixedHeight(element.blockFormat()) || !(multiple > 0.0 && multiple <= MaxMultiple))
+    if (hasFixedHeight(element.blockFormat()) || !(multiple > 0.0 && multiple <= MaxMultiple)) {
         multiple = 1.0;
+    }
     return shortest(multiple, spacingOfMultiple);
 }
 
 bool takeSpacing(Element *element, const QString &text, MRVUnit::Unit)
 {
     double multiple = 0.0;
-    if (!readNumber(text, &multiple) || multiple < 0.0 || multiple > MaxMultiple)
+    if (!readNumber(text, &multiple) || multiple < 0.0 || multiple > MaxMultiple) {
         return false;
+    }
     if (!hasFixedHeight(element->blockFormat())) {
         const double value = spacingOfMultiple(multiple);
         setSpacing(element, value == 0.0 ? SpacingBase : value, SpacingBase);
@@ -252,8 +262,9 @@ bool takeFixedLineHeight(Element *element, const QString &text, MRVUnit::Unit un
 {
     double points = 0.0;
     const bool ok = readLength(text, units, &points);
-    if (points != 0.0)
+    if (points != 0.0) {
         setSpacing(element, points, 0.0);
+    }
     return ok;
 }
 
@@ -276,9 +287,10 @@ bool takeAlignment(Element *element, const QString &text, MRVUnit::Unit)
         return true;
     }
     const bool ok = valueOf(AlignmentWords, text, &bits);
-    if (ok)
+    if (ok) {
         changeBlock(element,
                     [&](QTextBlockFormat &format) { format.setAlignment(Qt::Alignment(bits)); });
+    }
     return ok;
 }
 
@@ -286,21 +298,24 @@ bool takeDirection(Element *element, const QString &text, MRVUnit::Unit)
 {
     int direction = 0;
     const bool natural = text == QLatin1String(NaturalWord);
-    if (!natural && !valueOf(DirectionWords, text, &direction))
+    if (!natural && !valueOf(DirectionWords, text, &direction)) {
         return false;
+    }
     changeBlock(element, [&](QTextBlockFormat &format) {
-        if (natural)
+        if (natural) {
             format.clearProperty(QTextFormat::LayoutDirection);
-        else
+        } else {
             format.setLayoutDirection(Qt::LayoutDirection(direction));
+        }
     });
     return true;
 }
 
 QString underline(const Element &element, MRVUnit::Unit)
 {
-    if (element.charFormat().underlineStyle() == QTextCharFormat::NoUnderline)
+    if (element.charFormat().underlineStyle() == QTextCharFormat::NoUnderline) {
         return wordOf(UnderlineWords, NoLine);
+    }
     return wordOf(UnderlineWords,
                   element.hasFlag(Element::DoubleUnderline) ? DoubleLine : SingleLine);
 }
@@ -308,14 +323,16 @@ QString underline(const Element &element, MRVUnit::Unit)
 bool takeUnderline(Element *element, const QString &text, MRVUnit::Unit)
 {
     int line = NoLine;
-    if (!valueOf(UnderlineWords, text, &line))
+    if (!valueOf(UnderlineWords, text, &line)) {
         return false;
+    }
     element->setFlag(Element::DoubleUnderline, line == DoubleLine);
     changeChar(element, [&](QTextCharFormat &format) {
-        if (line == NoLine)
+        if (line == NoLine) {
             format.clearProperty(QTextFormat::TextUnderlineStyle);
-        else
+        } else {
             format.setFontUnderline(true);
+        }
     });
     return true;
 }
@@ -329,8 +346,9 @@ bool takeTabBehavior(Element *element, const QString &text, MRVUnit::Unit)
 {
     int behavior = 0;
     const bool ok = valueOf(TabWords, text, &behavior);
-    if (ok)
+    if (ok) {
         element->setTabBehavior(Element::TabBehavior(behavior));
+    }
     return ok;
 }
 
@@ -345,8 +363,9 @@ bool takeCompleteBehavior(Element *element, const QString &text, MRVUnit::Unit)
 {
     int behavior = 0;
     const bool ok = valueOf(CompleteWords, text, &behavior);
-    if (ok)
+    if (ok) {
         element->setCompleteBehavior(Element::CompleteBehavior(behavior));
+    }
     return ok;
 }
 
@@ -387,10 +406,11 @@ QString bold(const Element &element, MRVUnit::Unit)
 bool takeBold(Element *element, const QString &text, MRVUnit::Unit)
 {
     changeChar(element, [&](QTextCharFormat &format) {
-        if (text == QLatin1String(YesWord))
+        if (text == QLatin1String(YesWord)) {
             format.setFontWeight(QFont::Bold);
-        else
+        } else {
             format.clearProperty(QTextFormat::FontWeight);
+        }
     });
     return isYesOrNo(text);
 }
@@ -403,10 +423,11 @@ QString italic(const Element &element, MRVUnit::Unit)
 bool takeItalic(Element *element, const QString &text, MRVUnit::Unit)
 {
     changeChar(element, [&](QTextCharFormat &format) {
-        if (text == QLatin1String(YesWord))
+        if (text == QLatin1String(YesWord)) {
             format.setFontItalic(true);
-        else
+        } else {
             format.clearProperty(QTextFormat::FontItalic);
+        }
     });
     return isYesOrNo(text);
 }
@@ -468,13 +489,15 @@ bool takeTextColor(Element *element, const QString &value, MRVUnit::Unit)
     bool exact = parts.size() == 3;
     for (const QString &part : parts) {
         double component = 0.0;
-        if (!readNumber(part, &component))
+        if (!readNumber(part, &component)) {
             return false;
+        }
         exact = exact && component >= 0.0 && component <= 1.0;
     }
     const QColor color = MRV::floatStringToColor(value);
-    if (color.isValid())
+    if (color.isValid()) {
         changeChar(element, [&](QTextCharFormat &format) { format.setForeground(color); });
+    }
     return exact;
 }
 
@@ -562,10 +585,12 @@ bool readScriptFont(MRVScriptElement *element, const QString &family, const QStr
     double points = 0.0;
     const bool ok = readNumber(size, &points) && points >= 0.0;
     changeChar(element, [&](QTextCharFormat &format) {
-        if (!family.isEmpty())
+        if (!family.isEmpty()) {
             format.setFontFamily(localFamily(family));
-        if (ok && points > 0.0)
+        }
+        if (ok && points > 0.0) {
             format.setFontPointSize(qMin(points, MaxFontSize));
+        }
     });
     return ok && points <= MaxFontSize;
 }

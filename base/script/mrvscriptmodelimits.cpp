@@ -49,14 +49,17 @@ public:
             m_end = m_at + 1;
             const char *const *passed = nullptr;
             for (const auto &passage : Passages) {
-                if (isHere(passage[0]))
+                if (isHere(passage[0])) {
                     passed = passage;
+                }
             }
-            if (!passed)
+            if (!passed) {
                 return true;
+            }
             m_end = m_xml.indexOf(QLatin1String(passed[1]), m_at + int(qstrlen(passed[0])));
-            if (m_end < 0)
+            if (m_end < 0) {
                 return false;
+            }
         }
         return false;
     }
@@ -73,16 +76,18 @@ public:
         QChar quote;
         for (m_end = m_at; m_end < m_xml.size(); ++m_end) {
             const QChar c = m_xml.at(m_end);
-            if (!quote.isNull())
+            if (!quote.isNull()) {
                 quote = c == quote ? QChar() : quote;
-            else if (c == u'"' || c == u'\'')
+            } else if (c == u'"' || c == u'\'') {
                 quote = c;
-            else if (c == u'>')
+            } else if (c == u'>') {
                 return true;
-            else if (c == u'=')
+            } else if (c == u'=') {
                 ++attributes;
-            if (attributes > MaxAttributes || m_end - m_at >= maxLength)
+            }
+            if (attributes > MaxAttributes || m_end - m_at >= maxLength) {
                 return false;
+            }
         }
         return true;
     }
@@ -106,14 +111,16 @@ bool keepsLimits(const QString &xml, int maxLength, bool takesDoctype, QString *
     while (walker.toNext()) {
         const bool isShort = walker.keepsLimits(maxLength);
         QString reason;
-        if (walker.isHere("<!DOCTYPE") && (!takesDoctype || walker.declares()))
+        if (walker.isHere("<!DOCTYPE") && (!takesDoctype || walker.declares())) {
             reason = MRVScriptMode::tr("a document type declaration does not belong here");
-        else if (!isShort)
+        } else if (!isShort) {
             reason = MRVScriptMode::tr("a tag is longer than %1 characters, or has more than %2 "
                                        "attributes")
                          .arg(QString::number(maxLength), QString::number(MaxAttributes));
-        if (reason.isEmpty())
+        }
+        if (reason.isEmpty()) {
             continue;
+        }
         *error = scriptLineText(walker.line(), reason);
         return false;
     }
@@ -126,8 +133,9 @@ void hideOuterType(QString *xml)
 {
     constexpr char Beginning[] = "<!DOCTYPE";
     TagWalker walker(*xml);
-    if (!walker.toNext() || !walker.isHere(Beginning))
+    if (!walker.toNext() || !walker.isHere(Beginning)) {
         return;
+    }
     walker.keepsLimits(MaxScriptTagLength);
     const auto isSpace = [](QChar c) { return c.isSpace(); };
     const auto end = xml->begin() + walker.end();
@@ -143,8 +151,9 @@ bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error)
 {
     const QByteArray encoding = encodingOf(xml);
     QString reason;
-    if (MRVCoreUtil::decodeText(xml, encoding.constData(), text, &reason))
+    if (MRVCoreUtil::decodeText(xml, encoding.constData(), text, &reason)) {
         return true;
+    }
     const QTextCodec *codec = QTextCodec::codecForUtfText(xml, QTextCodec::codecForName(encoding));
     const QString readable = codec->toUnicode(xml);
     const int fault = readable.indexOf(QChar::ReplacementCharacter);
@@ -162,9 +171,10 @@ bool scriptXmlText(const QByteArray &xml, QString *text, QString *error)
     QString reason;
     const bool ok = decodeScriptMode(xml, text, &reason)
         && keepsLimits(*text, MaxScriptTagLength, true, &reason);
-    if (ok)
+    if (ok) {
         hideOuterType(text);
-    else if (error)
+    } else if (error) {
         *error = reason;
+    }
     return ok;
 }

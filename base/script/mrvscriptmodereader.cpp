@@ -69,8 +69,9 @@ private:
 
 void ModeReader::remark(const QString &text)
 {
-    if (m_remarks.size() < MaxRemarks)
+    if (m_remarks.size() < MaxRemarks) {
         m_remarks.append(scriptLineText(m_xml.lineNumber(), text));
+    }
 }
 
 void ModeReader::remarkValue(const char *tag, const QString &value)
@@ -85,13 +86,15 @@ void ModeReader::remarkAttributes()
     const QXmlStreamAttributes attributes = m_xml.attributes();
     for (const QXmlStreamAttribute &attribute : attributes) {
         bool known = false;
-        for (const Attribute &row : Attributes)
+        for (const Attribute &row : Attributes) {
             known =
                 known || (isAt(row.tag) && attribute.qualifiedName() == QLatin1String(row.name));
-        if (!known)
+        }
+        if (!known) {
             remark(MRVScriptMode::tr("the attribute \"%1\" has no place in \"%2\"")
                        .arg(attribute.qualifiedName().toString().left(40),
                             m_xml.qualifiedName().toString().left(40)));
+        }
     }
 }
 
@@ -99,11 +102,12 @@ void ModeReader::remarkAttributes()
 QXmlStreamReader::TokenType ModeReader::next()
 {
     const QXmlStreamReader::TokenType token = m_xml.readNext();
-    if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth)
+    if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth) {
         m_xml.raiseError(
             MRVScriptMode::tr("more than %1 elements lie within each other").arg(MaxDepth));
-    else if (token == QXmlStreamReader::EndElement)
+    } else if (token == QXmlStreamReader::EndElement) {
         --m_depth;
+    }
     return m_xml.hasError() ? QXmlStreamReader::Invalid : token;
 }
 
@@ -115,8 +119,9 @@ bool ModeReader::nextChild()
         case QXmlStreamReader::StartElement:
             return true;
         case QXmlStreamReader::Characters:
-            if (!m_xml.isWhitespace())
+            if (!m_xml.isWhitespace()) {
                 remark(MRVScriptMode::tr("text between elements is passed over"));
+            }
             break;
         case QXmlStreamReader::EndElement:
         case QXmlStreamReader::EndDocument:
@@ -174,22 +179,25 @@ bool ModeReader::read()
     remarkAttributes();
     QString version;
     if (!m_xml.hasError()
-        && (!attribute(VersionAttribute, &version) || version != QLatin1String(FileVersion)))
+        && (!attribute(VersionAttribute, &version) || version != QLatin1String(FileVersion))) {
         remark(MRVScriptMode::tr("the version is \"%1\" and not \"%2\"")
                    .arg(version.left(40), QLatin1String(FileVersion)));
+    }
     while (!m_xml.hasError() && nextChild()) {
-        if (isAt(NameTag))
+        if (isAt(NameTag)) {
             m_mode.setName(text());
-        else if (isAt(UnitsTag))
+        } else if (isAt(UnitsTag)) {
             readUnits();
-        else if (isAt(ScriptElementsTag))
+        } else if (isAt(ScriptElementsTag)) {
             readElements();
-        else
+        } else {
             skip(MorvaneScriptFormatTag);
+        }
     }
     // What follows the root may be broken, too.
-    while (!m_xml.atEnd())
+    while (!m_xml.atEnd()) {
         next();
+    }
     m_mode.setElements(m_elements);
     return !m_xml.hasError();
 }
@@ -197,14 +205,17 @@ bool ModeReader::read()
 void ModeReader::readUnits()
 {
     const QString word = text();
-    if (m_xml.hasError())
+    if (m_xml.hasError()) {
         return;
+    }
     for (const ScriptWord &row : ScriptUnitWords) {
-        if (word != QLatin1String(row.word))
+        if (word != QLatin1String(row.word)) {
             continue;
+        }
         const auto units = MRVUnit::Unit(row.value);
-        if (m_unitsAreKnown)
+        if (m_unitsAreKnown) {
             return;
+        }
         m_unitsCameLate = m_unitsCameLate || (units != m_mode.units() && !m_elements.isEmpty());
         m_mode.setUnits(units);
         return;
@@ -216,13 +227,14 @@ void ModeReader::readElements()
 {
     remarkAttributes();
     while (nextChild()) {
-        if (!isAt(ElementItemTag))
+        if (!isAt(ElementItemTag)) {
             skip(ScriptElementsTag);
-        else if (m_elements.size() < MRVScriptMode::MaxElements)
+        } else if (m_elements.size() < MRVScriptMode::MaxElements) {
             readElement();
-        else
+        } else {
             m_xml.raiseError(MRVScriptMode::tr("there are more than %1 script elements")
                                  .arg(MRVScriptMode::MaxElements));
+        }
     }
 }
 
@@ -241,16 +253,18 @@ void ModeReader::readGroup(const QString &group, MRVScriptElement *element)
         bool isGroup = false;
         const ScriptField *found = nullptr;
         for (const ScriptField &field : ScriptFields()) {
-            if (QLatin1String(field.group) == group && isAt(field.tag))
+            if (QLatin1String(field.group) == group && isAt(field.tag)) {
                 found = &field;
+            }
             isGroup = isGroup || (group.isEmpty() && field.group && isAt(field.group));
         }
-        if (found)
+        if (found) {
             readField(*found, element);
-        else if (isGroup)
+        } else if (isGroup) {
             readGroup(m_xml.name().toString(), element);
-        else
+        } else {
             skip(group.isEmpty() ? ElementItemTag : qPrintable(group));
+        }
     }
 }
 
@@ -262,8 +276,9 @@ void ModeReader::readField(const ScriptField &field, MRVScriptElement *element)
         readCompletions(element);
     } else {
         const QString value = text();
-        if (!m_xml.hasError() && !field.read(element, value, m_mode.units()))
+        if (!m_xml.hasError() && !field.read(element, value, m_mode.units())) {
             remarkValue(field.tag, value);
+        }
     }
 }
 
@@ -280,8 +295,9 @@ void ModeReader::readFont(MRVScriptElement *element)
     QString size;
     attribute(NameTag, &family);
     const bool hasSize = attribute(SizeAttribute, &size);
-    if (!readScriptFont(element, family, size) && hasSize)
+    if (!readScriptFont(element, family, size) && hasSize) {
         remarkValue(SizeAttribute, size);
+    }
     text();
 }
 
@@ -297,8 +313,9 @@ void ModeReader::readCompletions(MRVScriptElement *element)
         }
         QString newLine;
         if (attribute(NewLineAfterAttribute, &newLine) && newLine != QLatin1String(YesWord)
-            && newLine != QLatin1String(NoWord))
+            && newLine != QLatin1String(NoWord)) {
             remarkValue(NewLineAfterAttribute, newLine);
+        }
         completions.append({text(), newLine == QLatin1String(YesWord)});
     }
     element->setCompletions(completions);
@@ -319,29 +336,34 @@ QString scriptLineText(qint64 line, const QString &text)
 bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *remarks)
 {
     const auto refuse = [&](const QString &reason) {
-        if (error)
+        if (error) {
             *error = reason;
+        }
         return false;
     };
-    if (xml.size() > MaxFileSize)
+    if (xml.size() > MaxFileSize) {
         return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
+    }
     QString text;
     QString reason;
-    if (!decodeScriptMode(xml, &text, &reason) || !scriptModeKeepsLimits(text, &reason))
+    if (!decodeScriptMode(xml, &text, &reason) || !scriptModeKeepsLimits(text, &reason)) {
         return refuse(reason);
+    }
     std::optional<MRVUnit::Unit> units;
     for (;;) {
         ModeReader reader(text, units);
-        if (!reader.read())
+        if (!reader.read()) {
             return refuse(reader.error());
+        }
         // A second time, with units that are known from the start.
         if (reader.unitsCameLate()) {
             units = reader.mode().units();
             continue;
         }
         *this = reader.mode();
-        if (remarks)
+        if (remarks) {
             *remarks = reader.remarks();
+        }
         return true;
     }
 }

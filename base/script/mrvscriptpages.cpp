@@ -33,8 +33,9 @@ MRVFountainScript printed(const MRVFountainScript &script)
     }
     for (Element element : script.elements) {
         if (element.kind == Element::Note || element.kind == Element::Boneyard
-            || element.kind == Element::Section || element.kind == Element::Synopsis)
+            || element.kind == Element::Section || element.kind == Element::Synopsis) {
             continue;
+        }
         element.runs = printed(element.runs);
         if (!element.sceneNumber.isEmpty()) {
             element.runs.prepend({element.sceneNumber + u' ', {}, MRVFountainRun::Text});
@@ -49,8 +50,9 @@ MRVFountainScript printed(const MRVFountainScript &script)
 void MRVScriptDocument::setPrintedScript(QTextDocument *document, const MRVFountainScript &script,
                                          const MRVScriptMode &mode)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     setScript(document, printed(script.normalized()), mode);
     const bool hadUndo = document->isUndoRedoEnabled();
     document->setUndoRedoEnabled(false);

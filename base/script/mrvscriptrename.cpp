@@ -125,8 +125,9 @@ bool Renaming::addName(const QString &text, int start, int end, int position)
     }
     const QString name = text.mid(start, end - start);
     // Upper case may be longer: Weiß speaks as WEISS.
-    if (name.simplified().toUpper() != m_from.toUpper())
+    if (name.simplified().toUpper() != m_from.toUpper()) {
         return false;
+    }
     add(name, position + start);
     return true;
 }
@@ -137,11 +138,13 @@ void Renaming::addCue(const QString &text, int position)
                                           QRegularExpression::CaseInsensitiveOption);
     QString end = text;
     while (!end.isEmpty()
-           && (end.endsWith(u' ') || end.endsWith(QChar::ObjectReplacementCharacter)))
+           && (end.endsWith(u' ') || end.endsWith(QChar::ObjectReplacementCharacter))) {
         end.chop(1);
+    }
     const int length = MRVFountainScript::cueNameLength(end);
-    if (addName(text, 0, length, position))
+    if (addName(text, 0, length, position)) {
         return;
+    }
     int start = 0;
     for (auto it = joint.globalMatch(end.left(length)); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
@@ -205,16 +208,18 @@ void Renaming::addBlock(const QTextBlock &block, Role role)
 int MRVScriptDocument::renameCharacter(QTextDocument *document, const MRVScriptMode &mode,
                                        const QString &from, const QString &to, RenameScope scope)
 {
-    if (!document || !isName(from) || !isName(to))
+    if (!document || !isName(from) || !isName(to)) {
         return 0;
+    }
     const MrvScriptRoles roles(mode);
     Renaming renaming(from, to, scope);
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         renaming.addBlock(block, roles.roleOf(block));
     }
     const QVector<Edit> &edits = renaming.edits();
-    if (edits.isEmpty())
+    if (edits.isEmpty()) {
         return 0;
+    }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
     // From the last to the first, so that positions stay true.

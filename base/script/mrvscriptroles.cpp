@@ -44,8 +44,9 @@ int indexOf(const MRVScriptMode &mode, const RoleRow &row)
     const QStringList titles = QString::fromLatin1(row.titles).split(u'|');
     for (const QString &title : titles) {
         for (int i = 0; i < mode.elements().size(); ++i) {
-            if (mode.elements().at(i).title().compare(title, Qt::CaseInsensitive) == 0)
+            if (mode.elements().at(i).title().compare(title, Qt::CaseInsensitive) == 0) {
                 return i;
+            }
         }
     }
     return -1;
@@ -54,8 +55,9 @@ int indexOf(const MRVScriptMode &mode, const RoleRow &row)
 int firstEqual(const MRVScriptMode &mode, const QTextBlockFormat &format)
 {
     for (int i = 0; i < mode.elements().size(); ++i) {
-        if (MRVScriptElement::equal(mode.elements().at(i).blockFormat(), format))
+        if (MRVScriptElement::equal(mode.elements().at(i).blockFormat(), format)) {
             return i;
+        }
     }
     return -1;
 }
@@ -64,8 +66,9 @@ MRVScriptElement builtInElement(Role role, const MRVScriptMode &builtIn)
 {
     for (const RoleRow &row : rows) {
         const int index = row.role == role ? indexOf(builtIn, row) : -1;
-        if (index >= 0)
+        if (index >= 0) {
             return builtIn.elements().at(index);
+        }
     }
     const int note = builtIn.indexOf(QStringLiteral("Note"));
     return note >= 0 ? builtIn.elements().at(note) : MRVScriptElement();
@@ -97,8 +100,9 @@ MrvScriptRoles::MrvScriptRoles(const MRVScriptMode &mode)
 MrvScriptRole MrvScriptRoles::roleAt(int element) const
 {
     for (const RoleRow &row : rows) {
-        if (m_own.value(int(row.role), -1) == element)
+        if (m_own.value(int(row.role), -1) == element) {
             return row.role;
+        }
     }
     return mrvScriptRole(Element::Action);
 }
@@ -106,8 +110,9 @@ MrvScriptRole MrvScriptRoles::roleAt(int element) const
 MrvScriptRole MrvScriptRoles::roleOf(const QTextBlock &block) const
 {
     const auto known = m_known.constFind(block.blockFormatIndex());
-    if (known != m_known.cend())
+    if (known != m_known.cend()) {
         return *known;
+    }
     const QTextBlockFormat format = block.blockFormat();
     Role role = mrvScriptRole(Element::Action);
     const int stored = format.property(MrvScriptRoleProperty).toInt();

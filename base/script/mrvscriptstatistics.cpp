@@ -127,8 +127,9 @@ void Counter::addCue(const Element &element)
 
 void Counter::addSpeech(const Extent &extent, bool isSpoken)
 {
-    if (m_speaker.isEmpty())
+    if (m_speaker.isEmpty()) {
         return;
+    }
     if (!m_index.contains(m_speaker)) {
         m_index.insert(m_speaker, m_result.characters.size());
         m_result.characters.append({m_speaker, 0, 0, 0, 0});
@@ -154,8 +155,9 @@ void Counter::addElement(const Element &element)
         const int rest = m_result.lines % LinesPerPage;
         m_result.lines += rest > 0 ? LinesPerPage - rest : 0;
     }
-    if (measure.width == 0)
+    if (measure.width == 0) {
         return;
+    }
     const bool isSpeech = element.kind == Element::Dialogue
         || element.kind == Element::Parenthetical
         || (element.kind == Element::Lyrics && !element.apart);

@@ -65,16 +65,18 @@ void mrvRemoveBrackets(MRVFountainRuns *runs)
         return run.kind == MRVFountainRun::Text && !run.text.trimmed().isEmpty();
     };
     const auto first = std::find_if(runs->begin(), runs->end(), isShown);
-    if (first == runs->end())
+    if (first == runs->end()) {
         return;
+    }
     const auto last = std::find_if(runs->rbegin(), runs->rend(), isShown);
     const auto isNoSpace = [](QChar c) { return !c.isSpace(); };
     const QString &front = first->text;
     const QString &back = last->text;
     const auto open = std::find_if(front.begin(), front.end(), isNoSpace) - front.begin();
     const auto behind = back.rend() - std::find_if(back.rbegin(), back.rend(), isNoSpace);
-    if (front.at(int(open)) != u'(' || back.at(int(behind) - 1) != u')')
+    if (front.at(int(open)) != u'(' || back.at(int(behind) - 1) != u')') {
         return;
+    }
     last->text.remove(int(behind) - 1, 1);
     first->text.remove(int(open), 1);
 }

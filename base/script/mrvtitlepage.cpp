@@ -47,8 +47,9 @@ int MrvTitleKeys::indexOf(const QString &key) const
 
 Qt::AlignmentFlag mrvTitleAlignment(const QString &key)
 {
-    if (const KnownKey *row = known(key))
+    if (const KnownKey *row = known(key)) {
         return row->alignment;
+    }
     return key.contains(QLatin1String("date"), Qt::CaseInsensitive) ? Qt::AlignRight
                                                                     : Qt::AlignLeft;
 }
@@ -66,8 +67,9 @@ QString mrvTitleLabel(const QString &key)
 int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line)
 {
     const int length = line.indexOf(QLatin1String(": "));
-    if (length <= 0 || line.lastIndexOf(u'\n', length) >= 0)
+    if (length <= 0 || line.lastIndexOf(u'\n', length) >= 0) {
         return 0;
+    }
     const QString key = line.left(length);
     const bool counts = alignment == Qt::AlignHCenter
         ? known(key) && known(key)->alignment == Qt::AlignHCenter
@@ -81,13 +83,17 @@ QString mrvGuessedTitleKey(Qt::AlignmentFlag alignment, const QString &line,
     static const QRegularExpression credit(QStringLiteral("\\bby\\b"),
                                            QRegularExpression::CaseInsensitiveOption);
     const auto has = [&before](const char *key) { return before.indexOf(QLatin1String(key)) >= 0; };
-    if (alignment == Qt::AlignRight)
+    if (alignment == Qt::AlignRight) {
         return QStringLiteral("Draft date");
-    if (alignment == Qt::AlignLeft)
+    }
+    if (alignment == Qt::AlignLeft) {
         return QStringLiteral("Contact");
-    if (!has("Title"))
+    }
+    if (!has("Title")) {
         return QStringLiteral("Title");
-    if (!has("Credit") && line.contains(credit))
+    }
+    if (!has("Credit") && line.contains(credit)) {
         return QStringLiteral("Credit");
+    }
     return has("Author") ? QStringLiteral("Source") : QStringLiteral("Author");
 }

@@ -39,8 +39,9 @@ bool sameComment(const QTextCharFormat &a, const QTextCharFormat &b)
     for (const int property :
          {MRVTextFormat::InspectorCommentProperty, MRVTextFormat::InspectorFootnoteProperty,
           MRVTextFormat::CommentData0, MRVTextFormat::CommentData1, MRVTextFormat::CommentData2}) {
-        if (a.property(property) != b.property(property))
+        if (a.property(property) != b.property(property)) {
             return false;
+        }
     }
     return true;
 }
@@ -51,12 +52,14 @@ bool pieceInBlock(const QTextBlock &block, int from, bool acceptPartial, Verdict
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
-        if (!verdicts(fragment.charFormatIndex()))
+        if (!verdicts(fragment.charFormatIndex())) {
             continue;
+        }
         const int start = fragment.position();
         const int end = start + fragment.length();
-        if (end <= from || (start < from && !acceptPartial))
+        if (end <= from || (start < from && !acceptPartial)) {
             continue;
+        }
         *range = MRVTextRange(qMax(start, from), end);
         return true;
     }
@@ -67,8 +70,9 @@ template<typename Verdicts>
 bool firstPiece(const QTextDocument *document, int from, Verdicts &verdicts, MRVTextRange *range)
 {
     for (QTextBlock block = document->findBlock(from); block.isValid(); block = block.next()) {
-        if (pieceInBlock(block, from, true, verdicts, range))
+        if (pieceInBlock(block, from, true, verdicts, range)) {
             return true;
+        }
     }
     return false;
 }
@@ -78,8 +82,9 @@ bool continuousFrom(const QTextDocument *document, int from, const QTextCharForm
                     bool compareValues, bool inspector, MRVTextRange *range)
 {
     auto verdicts = verdictsOf(document, format, compareValues);
-    if (!firstPiece(document, from, verdicts, range))
+    if (!firstPiece(document, from, verdicts, range)) {
         return false;
+    }
     const QTextCharFormat found = verdicts.format(mrvPieceAt(document, range->start()).format);
     const QTextCharFormat values = valuesIn(found, format);
     MRVFormatVerdicts same(document, [&](const QTextCharFormat &other) {
@@ -123,8 +128,9 @@ Share shareOf(const QTextDocument *document, const MRVTextRange &range, Verdicts
         ++all;
         carried += verdicts(piece.format) ? 1 : 0;
     });
-    if (all == 0)
+    if (all == 0) {
         return Share::NoText;
+    }
     return carried == 0 ? Share::None : carried < all ? Share::Some : Share::All;
 }
 
@@ -133,12 +139,14 @@ Share shareOf(const QTextDocument *document, const MRVTextRange &range, Verdicts
 bool MRVTextFinder::findInBlock(const QTextBlock &block, const QTextCharFormat &format, int offset,
                                 QTextCursor &result, bool compareValues, bool acceptPartial)
 {
-    if (!block.isValid())
+    if (!block.isValid()) {
         return false;
+    }
     auto verdicts = verdictsOf(block.document(), format, compareValues);
     MRVTextRange range;
-    if (!pieceInBlock(block, block.position() + offset, acceptPartial, verdicts, &range))
+    if (!pieceInBlock(block, block.position() + offset, acceptPartial, verdicts, &range)) {
         return false;
+    }
     result = mrvSelect(block.document(), range);
     return true;
 }
@@ -146,12 +154,14 @@ bool MRVTextFinder::findInBlock(const QTextBlock &block, const QTextCharFormat &
 QTextCursor MRVTextFinder::findFragment(const QTextCharFormat &format, const QTextCursor &from,
                                         bool compareValues)
 {
-    if (from.isNull())
+    if (from.isNull()) {
         return QTextCursor();
+    }
     auto verdicts = verdictsOf(from.document(), format, compareValues);
     MRVTextRange range;
-    if (!firstPiece(from.document(), from.selectionEnd(), verdicts, &range))
+    if (!firstPiece(from.document(), from.selectionEnd(), verdicts, &range)) {
         return QTextCursor();
+    }
     return mrvSelect(from.document(), range);
 }
 
@@ -192,8 +202,9 @@ QTextCursor MRVTextFinder::findContinuousInspectorFragment(const QTextCharFormat
 int MRVTextFinder::continuousFragmentCount(const QTextCharFormat &format, const QTextCursor &from,
                                            bool compareValues)
 {
-    if (from.isNull())
+    if (from.isNull()) {
         return 0;
+    }
     const QTextDocument *document = from.document();
     auto verdicts = verdictsOf(document, format, compareValues);
     int count = 0;
@@ -223,22 +234,26 @@ int MRVTextFinder::continuousFragmentCount(const QTextCharFormat &format, const 
 QTextCursor MRVTextFinder::findFragmentInSelection(const QTextCharFormat &format,
                                                    const QTextCursor &selection, bool compareValues)
 {
-    if (selection.isNull())
+    if (selection.isNull()) {
         return QTextCursor();
+    }
     const QTextDocument *document = selection.document();
     const int end = selection.selectionEnd();
     auto verdicts = verdictsOf(document, format, compareValues);
     MRVTextRange range;
-    if (!firstPiece(document, selection.selectionStart(), verdicts, &range) || range.start() >= end)
+    if (!firstPiece(document, selection.selectionStart(), verdicts, &range)
+        || range.start() >= end) {
         return QTextCursor();
+    }
     return mrvSelect(document, MRVTextRange(range.start(), qMin(range.end(), end)));
 }
 
 QTextCursor MRVTextFinder::findFragmentAround(const QTextCharFormat &format,
                                               const QTextCursor &cursor, bool compareValues)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return QTextCursor();
+    }
     const QTextDocument *document = cursor.document();
     const MRVTextRange selection(cursor);
     auto verdicts = verdictsOf(document, format, compareValues);
@@ -258,13 +273,15 @@ QTextCursor MRVTextFinder::findFragmentAround(const QTextCharFormat &format,
 QTextCursor MRVTextFinder::findFragmentAtPosition(const QTextCharFormat &format,
                                                   const QTextCursor &cursor, bool compareValues)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return QTextCursor();
+    }
     const QTextDocument *document = cursor.document();
     auto verdicts = verdictsOf(document, format, compareValues);
     const MRVTextPiece piece = mrvPieceAt(document, cursor.selectionStart());
-    if (piece.format < 0 || !verdicts(piece.format))
+    if (piece.format < 0 || !verdicts(piece.format)) {
         return QTextCursor();
+    }
     return mrvSelect(document, MRVTextRange(piece.start, piece.end));
 }
 
@@ -273,8 +290,9 @@ QTextCursor MRVTextFinder::findFragmentAtPositionGeneral(const QTextCharFormat &
                                                          bool compareValues)
 {
     const QTextCursor found = findFragmentAtPosition(format, cursor, compareValues);
-    if (!found.isNull() || cursor.isNull() || cursor.selectionStart() == 0)
+    if (!found.isNull() || cursor.isNull() || cursor.selectionStart() == 0) {
         return found;
+    }
     QTextCursor before = cursor;
     before.setPosition(cursor.selectionStart() - 1);
     return findFragmentAtPosition(format, before, compareValues);
@@ -324,12 +342,14 @@ bool MRVTextFinder::startsWithFormatProperty(const QTextCursor &cursor, int prop
 bool MRVTextFinder::isInFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                                bool compareValues)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return false;
+    }
     const QTextDocument *document = cursor.document();
     auto verdicts = verdictsOf(document, format, compareValues);
-    if (cursor.hasSelection())
+    if (cursor.hasSelection()) {
         return shareOf(document, MRVTextRange(cursor), verdicts) == Share::All;
+    }
     return passesAt(document, cursor.position() - 1, verdicts)
         && passesAt(document, cursor.position(), verdicts);
 }
@@ -343,12 +363,14 @@ bool MRVTextFinder::isInFormatProperty(const QTextCursor &cursor, int property,
 bool MRVTextFinder::isFormatChecked(const QTextCursor &cursor, const QTextCharFormat &format,
                                     bool compareValues)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return false;
+    }
     auto verdicts = verdictsOf(cursor.document(), format, compareValues);
     const Share share = shareOf(cursor.document(), MRVTextRange(cursor), verdicts);
-    if (share != Share::NoText)
+    if (share != Share::NoText) {
         return share == Share::All;
+    }
     return MRVTextFormat::formatsMatch(cursor.charFormat(), format, compareValues);
 }
 
@@ -361,8 +383,9 @@ bool MRVTextFinder::isFormatCheckedProperty(const QTextCursor &cursor, int prope
 bool MRVTextFinder::hasFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                               bool compareValues)
 {
-    if (cursor.hasSelection())
+    if (cursor.hasSelection()) {
         return !findFragmentInSelection(format, cursor, compareValues).isNull();
+    }
     return !findFragmentAtPositionGeneral(format, cursor, compareValues).isNull();
 }
 

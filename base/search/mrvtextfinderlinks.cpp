@@ -67,8 +67,9 @@ MRVTextRange wholeComment(const QTextDocument *document, const MRVTextRange &ran
 QTextCharFormat anchorAt(const QTextDocument *document, int position)
 {
     const MRVTextPiece piece = mrvPieceAt(document, position);
-    if (piece.format < 0)
+    if (piece.format < 0) {
         return QTextCharFormat();
+    }
     const QTextCharFormat format = document->allFormats().at(piece.format).toCharFormat();
     return format.isAnchor() && format.hasProperty(QTextFormat::AnchorHref) ? format
                                                                             : QTextCharFormat();
@@ -95,8 +96,9 @@ bool MRVTextFinder::isAnchorTight(const QTextCursor &cursor)
 
 QTextCursor MRVTextFinder::findAnchor(const QTextCursor &from, bool withComments)
 {
-    if (from.isNull())
+    if (from.isNull()) {
         return QTextCursor();
+    }
     const QTextDocument *document = from.document();
     auto verdicts = linkVerdicts(document, withComments);
     for (MRVPieceWalker walker(document, from.selectionEnd()); walker.isValid(); walker.next()) {
@@ -111,8 +113,9 @@ QTextCursor MRVTextFinder::findAnchor(const QTextCursor &from, bool withComments
 
 QTextCursor MRVTextFinder::anchorForCursor(const QTextCursor &cursor, bool withComments)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return QTextCursor();
+    }
     const QTextDocument *document = cursor.document();
     auto verdicts = linkVerdicts(document, withComments);
     const int start = cursor.selectionStart();
@@ -128,10 +131,13 @@ QTextCursor MRVTextFinder::anchorForCursor(const QTextCursor &cursor, bool withC
 
 bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
 {
-    if (cursor.isNull()) // also one whose document is gone, though it says that it has a selection
+    // A cursor whose document is gone is null, though it says that it has a selection.
+    if (cursor.isNull()) {
         return false;
-    if (!cursor.hasSelection())
+    }
+    if (!cursor.hasSelection()) {
         return !anchorForCursor(cursor, withComments).isNull();
+    }
     auto verdicts = linkVerdicts(cursor.document(), withComments);
     bool found = false;
     mrvEachPiece(cursor.document(), MRVTextRange(cursor), verdicts,
@@ -142,8 +148,9 @@ bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
 QList<MRVTextRange> MRVTextFinder::findAllAnchors(const QTextCursor &cursor, bool withComments)
 {
     QList<MRVTextRange> links;
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return links;
+    }
     if (!cursor.hasSelection()) {
         const QTextCursor link = anchorForCursor(cursor, withComments);
         return link.isNull() ? links : links << MRVTextRange(link);
@@ -165,8 +172,9 @@ int MRVTextFinder::anchorsCount(const QTextCursor &cursor, bool withComments)
 
 void MRVTextFinder::adjustContinuousAnchorCursor(QTextCursor *cursor, const QString &href)
 {
-    if (!cursor || cursor->isNull())
+    if (!cursor || cursor->isNull()) {
         return;
+    }
     MRVFormatVerdicts same(cursor->document(), [&href](const QTextCharFormat &format) {
         return format.hasProperty(QTextFormat::AnchorHref) && format.anchorHref() == href;
     });
@@ -190,8 +198,9 @@ QTextCursor MRVTextFinder::findCommentViaStartPos(const QTextDocument *document,
 
 QTextCursor MRVTextFinder::findCommentViaRange(const QTextDocument *document, int start, int end)
 {
-    if (!document || end < start || end < 0)
+    if (!document || end < start || end < 0) {
         return QTextCursor();
+    }
     auto verdicts = commentVerdicts(document);
     const int last = qMax(end - 1, start);
     for (MRVPieceWalker walker(document, start); walker.isValid() && walker.piece().start <= last;
@@ -208,12 +217,14 @@ QTextCursor MRVTextFinder::findCommentViaRange(const QTextDocument *document, in
 
 void MRVTextFinder::adjustContinuousCommentCursor(QTextCursor &cursor)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     const QTextDocument *document = cursor.document();
     const MRVTextPiece piece = mrvPieceAt(document, cursor.selectionStart());
-    if (piece.format < 0)
+    if (piece.format < 0) {
         return;
+    }
     const QTextCharFormat format = document->allFormats().at(piece.format).toCharFormat();
     if (!MRVTextFormat::hasAnyProperty(
             format, QSet<int>(std::begin(CommentProperties), std::end(CommentProperties)))) {

@@ -15,16 +15,18 @@ using Finder = MRVTextFinder;
 
 bool matchesBrush(const QTextCharFormat &format, int property, const QVariant &value)
 {
-    if (!format.hasProperty(property))
+    if (!format.hasProperty(property)) {
         return false;
+    }
     const QBrush brush = format.brushProperty(property);
     return value.isNull() ? brush != QBrush() : brush.color() == value.value<QColor>();
 }
 
 bool matchesLink(const QTextCharFormat &format, int kinds)
 {
-    if (!format.hasProperty(QTextFormat::AnchorHref))
+    if (!format.hasProperty(QTextFormat::AnchorHref)) {
         return false;
+    }
     bool number = false;
     format.stringProperty(QTextFormat::AnchorHref).toInt(&number);
     return kinds & (number ? Finder::InternalLinks : Finder::ExternalLinks);
@@ -32,8 +34,9 @@ bool matchesLink(const QTextCharFormat &format, int kinds)
 
 bool matchesAll(const QTextCharFormat &format, const QVariant &value)
 {
-    if (!value.canConvert<QTextFormat>())
+    if (!value.canConvert<QTextFormat>()) {
         return false;
+    }
     QTextCharFormat pattern;
     const QMap<int, QVariant> wanted = value.value<QTextFormat>().properties();
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
@@ -60,8 +63,9 @@ bool holdsText(const QTextDocument *document, const MRVTextRange &run, const QSt
         blockText.replace(QChar(QChar::Nbsp), QLatin1Char(' '));
         const int from = qMax(0, run.start() - block.position());
         const int at = blockText.indexOf(text, from, Qt::CaseInsensitive);
-        if (at >= 0)
+        if (at >= 0) {
             return block.position() + at + text.size() <= run.end();
+        }
     }
     return false;
 }
@@ -104,15 +108,17 @@ QTextCursor MRVTextFinder::find(const QTextCursor &from, FindType type, const QV
 QTextCursor MRVTextFinder::findText(const QTextCursor &from, FindType type, const QString &text,
                                     const QVariant &value, bool backward)
 {
-    if (from.isNull() || (backward ? from.atStart() : from.atEnd()))
+    if (from.isNull() || (backward ? from.atStart() : from.atEnd())) {
         return QTextCursor();
+    }
     const QTextDocument *document = from.document();
     auto verdicts = verdictsOf(document, type, value);
     MRVRunFinder finder(document, MRVTextRange(from), backward, verdicts);
     MRVTextRange run;
     while (finder.next(&run)) {
-        if (text.isEmpty() || holdsText(document, run, text))
+        if (text.isEmpty() || holdsText(document, run, text)) {
             return mrvSelect(document, run);
+        }
     }
     return QTextCursor();
 }
@@ -133,8 +139,9 @@ QVector<MRVTextRange> MRVTextFinder::findAllRuns(const QTextDocument *document, 
                                                  const QVariant &value)
 {
     QVector<MRVTextRange> runs;
-    if (!document)
+    if (!document) {
         return runs;
+    }
     auto verdicts = verdictsOf(document, type, value);
     int lastEnd = -1; // of the last fragment, if it passed
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {

@@ -26,8 +26,9 @@ template<typename Matcher>
 MRVTextMatch matchInBlock(const Matcher &matcher, const QTextBlock &block, int offset,
                           Finder::FindFlags flags)
 {
-    if (!block.isValid() || offset < 0 || matcher.isEmpty())
+    if (!block.isValid() || offset < 0 || matcher.isEmpty()) {
         return MRVTextMatch();
+    }
     QString text = block.text();
     matcher.prepare(&text);
     return mrvFindInText(matcher, text, offset, flags);
@@ -50,8 +51,9 @@ MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock
     const bool backward = flags & Finder::FindBackward;
     const int length = block.length() - 1;
     const int near = matcher.length() + 1; // one more, for the word rules
-    if (offset < 0 || offset > length || matcher.isEmpty())
+    if (offset < 0 || offset > length || matcher.isEmpty()) {
         return MRVTextMatch();
+    }
     for (qint64 reach = 512 + near;; reach *= 4) {
         const int start = int(qMax<qint64>(0, offset - (backward ? reach : 1)));
         const int end = int(qMin<qint64>(length, offset + (backward ? near : reach)));
@@ -74,8 +76,9 @@ MRVTextMatch matchInBlock(const MRVLiteralMatcher &matcher, const QTextBlock &bl
                           Finder::FindFlags flags)
 {
     constexpr int LongParagraph = 4096;
-    if (block.length() > LongParagraph)
+    if (block.length() > LongParagraph) {
         return matchInLongBlock(matcher, block, offset, flags);
+    }
     return matchInBlock<MRVLiteralMatcher>(matcher, block, offset, flags);
 }
 
@@ -86,8 +89,9 @@ QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int 
     QTextCursor result;
     const bool backward = flags & Finder::FindBackward;
     const int start = backward ? from - 1 : from;
-    if (!document || start < 0 || matcher.isEmpty())
+    if (!document || start < 0 || matcher.isEmpty()) {
         return result;
+    }
     QTextBlock block = document->findBlock(start);
     int position = block.position(); // asked for once, as Qt climbs a tree for it
     int offset = start - position;
@@ -108,10 +112,12 @@ template<typename Pattern>
 QTextCursor findFromCursor(const QTextDocument *document, const Pattern &pattern,
                            const QTextCursor &from, Finder::FindFlags flags)
 {
-    if (from.isNull())
+    if (from.isNull()) {
         return Finder::find(document, pattern, 0, flags);
-    if (flags & Finder::FindBackward)
+    }
+    if (flags & Finder::FindBackward) {
         return Finder::find(document, pattern, from.selectionStart(), flags);
+    }
     const int end = from.selectionEnd();
     const QTextCursor found = Finder::find(document, pattern, end, flags);
     const bool again =
@@ -124,8 +130,9 @@ QVector<MRVTextRange> findAllWith(const QTextDocument *document, const Matcher &
                                   Finder::FindFlags flags, const MRVTextRange &within)
 {
     QVector<MRVTextRange> finds;
-    if (matcher.isEmpty())
+    if (matcher.isEmpty()) {
         return finds;
+    }
     mrvEachBlock(document, within, [&](const QTextBlock &block, int position, int from, int to) {
         QString text = block.text();
         matcher.prepare(&text);
@@ -152,8 +159,9 @@ MRVTextRange whole(const QTextDocument *document)
 template<typename Work>
 auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
 {
-    if (MRVLiteralMatcher::canMatch(text, cs))
+    if (MRVLiteralMatcher::canMatch(text, cs)) {
         return work(MRVLiteralMatcher(text, cs));
+    }
     return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
 }
 
@@ -161,8 +169,9 @@ auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
 template<typename Work>
 auto withMatcher(const QRegExp &expression, Work work)
 {
-    if (expression.patternSyntax() == QRegExp::FixedString)
+    if (expression.patternSyntax() == QRegExp::FixedString) {
         return withMatcher(expression.pattern(), expression.caseSensitivity(), work);
+    }
     return work(MRVRegExpMatcher(expression));
 }
 

@@ -92,22 +92,25 @@ void MRVFoldedText::compose()
 
 int MRVFoldedText::fromOriginal(int offset) const
 {
-    if (m_starts.isEmpty())
+    if (m_starts.isEmpty()) {
         return qMin(offset, m_text.size());
+    }
     return int(std::lower_bound(m_starts.cbegin(), m_starts.cend(), offset) - m_starts.cbegin());
 }
 
 int MRVFoldedText::toOriginalStart(int index) const
 {
-    if (m_starts.isEmpty())
+    if (m_starts.isEmpty()) {
         return index;
+    }
     return index < m_starts.size() ? m_starts.at(index) : m_ends.last();
 }
 
 int MRVFoldedText::toOriginalEnd(int index) const
 {
-    if (m_ends.isEmpty())
+    if (m_ends.isEmpty()) {
         return index;
+    }
     return index > 0 ? m_ends.at(index - 1) : 0;
 }
 

@@ -6,8 +6,9 @@ namespace {
 
 inline ushort foldCase(ushort c)
 {
-    if (c < 0x80)
+    if (c < 0x80) {
         return c >= 'A' && c <= 'Z' ? c | 0x20 : c;
+    }
     return ushort(QChar::toCaseFolded(uint(c)));
 }
 
@@ -37,11 +38,13 @@ int rarity(QChar c, bool fold)
     static constexpr char Frequent[] = " etaoinshrdlucm,wfgyp.bv\"'k-xqjz";
     const ushort code = c.unicode();
     // Beyond ASCII, and for these two letters, there may be a third character of the same fold.
-    if (fold && (code >= 0x80 || code == 'k' || code == 's'))
+    if (fold && (code >= 0x80 || code == 'k' || code == 's')) {
         return -1;
+    }
     for (int i = 0; Frequent[i]; ++i) {
-        if (code == uchar(Frequent[i]))
+        if (code == uchar(Frequent[i])) {
             return i;
+        }
     }
     return int(sizeof Frequent);
 }
@@ -61,8 +64,9 @@ void replaceLoneSurrogates(QString *text)
 {
     for (int i = 0; i < text->size(); ++i) {
         const QChar c = text->at(i);
-        if (!c.isSurrogate())
+        if (!c.isSurrogate()) {
             continue;
+        }
         if (c.isHighSurrogate() && i + 1 < text->size() && text->at(i + 1).isLowSurrogate()) {
             ++i;
         } else {
@@ -81,8 +85,9 @@ void mrvBlankObjects(QString *text)
     for (int i = 0, n = text->size(); i < n; ++i) {
         found |= ushort(units[i] == 0xfffc) | ushort(units[i] == 0xa0);
     }
-    if (!found)
+    if (!found) {
         return;
+    }
     for (QChar &c : *text) {
         if (isObject(c.unicode())) {
             c = QLatin1Char(' ');
@@ -131,8 +136,9 @@ void MRVLiteralMatcher::prepare(QString *text) const
 bool MRVLiteralMatcher::isAt(const QString &text, int at) const
 {
     const QChar *start = text.constData() + at;
-    if (m_sensitivity == Qt::CaseSensitive)
+    if (m_sensitivity == Qt::CaseSensitive) {
         return std::equal(m_text.cbegin(), m_text.cend(), start);
+    }
     return std::equal(m_folded.cbegin(), m_folded.cend(), start,
                       [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
 }
@@ -151,8 +157,9 @@ int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
         window = at < 0 ? window : window.left(at);
         const int other = int(window.indexOf(m_otherCase));
         at = other < 0 ? at : other;
-        if (at >= 0)
+        if (at >= 0) {
             return from + at;
+        }
     }
     return text.size();
 }
@@ -168,10 +175,12 @@ int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
     for (int tries = 1;; ++tries) {
         const int anchor = nearestAnchor(text, from);
         const int at = anchor - m_anchor;
-        if (anchor == text.size() || at + size > text.size())
+        if (anchor == text.size() || at + size > text.size()) {
             return -1;
-        if (isAt(text, at))
+        }
+        if (isAt(text, at)) {
             return at;
+        }
         if (tries == ManyAnchors && at - offset < ManyAnchors * TooClose) {
             return m_sensitivity == Qt::CaseSensitive
                 ? bySkipping<false>(text.utf16(), text.size(), at + 1)
@@ -195,8 +204,9 @@ int MRVLiteralMatcher::bySkipping(const ushort *text, int length, int offset) co
             while (i > 0 && unit<Fold>(start[i - 1]) == pattern[i - 1]) {
                 --i;
             }
-            if (i == 0)
+            if (i == 0) {
                 return at - size + 1;
+            }
         }
         at += m_skip[c & 0xff];
     }
@@ -205,8 +215,9 @@ int MRVLiteralMatcher::bySkipping(const ushort *text, int length, int offset) co
 
 MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
 {
-    if (m_text.isEmpty())
+    if (m_text.isEmpty()) {
         return MRVTextMatch();
+    }
     // Without an anchor case does not matter.
     const int at = m_anchor >= 0 ? byAnchor(text, offset)
                                  : bySkipping<true>(text.utf16(), text.size(), offset);
@@ -215,8 +226,9 @@ MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
 
 MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
 {
-    if (m_text.isEmpty())
+    if (m_text.isEmpty()) {
         return MRVTextMatch();
+    }
     // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma is
     // then another letter than a sigma.
     const bool lower = m_sensitivity == Qt::CaseInsensitive;
@@ -224,8 +236,9 @@ MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
         return a == b || (lower && a.toLower() == b.toLower());
     };
     for (int at = qMin(offset, text.size() - m_text.size()); at >= 0; --at) {
-        if (std::equal(m_text.cbegin(), m_text.cend(), text.cbegin() + at, same))
+        if (std::equal(m_text.cbegin(), m_text.cend(), text.cbegin() + at, same)) {
             return {at, m_text.size()};
+        }
     }
     return MRVTextMatch();
 }
@@ -246,8 +259,9 @@ MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpressio
     : m_expression(expression)
 {
     const auto options = expression.patternOptions();
-    if (options & QRegularExpression::UseUnicodePropertiesOption)
+    if (options & QRegularExpression::UseUnicodePropertiesOption) {
         return;
+    }
     // Other options mean to compile anew, which takes longer than to search a paragraph. So the last
     // expression is kept compiled; searching from find to find always asks for the same one.
     struct Compiled
@@ -293,8 +307,9 @@ MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) 
         ++offset;
     }
     const QRegularExpressionMatch found = match(text, offset);
-    if (!found.hasMatch())
+    if (!found.hasMatch()) {
         return MRVTextMatch();
+    }
     return {found.capturedStart(), found.capturedLength(), offset};
 }
 
@@ -308,11 +323,13 @@ MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) 
         for (MRVTextMatch match = next(text, from); match && match.start <= offset;
              match = next(text, match.start + 1)) {
             best = match;
-            if (match.start == text.size())
+            if (match.start == text.size()) {
                 break;
+            }
         }
-        if (best || from == 0)
+        if (best || from == 0) {
             return best;
+        }
     }
 }
 

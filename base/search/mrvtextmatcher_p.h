@@ -110,8 +110,9 @@ MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offs
     while (offset >= 0 && offset <= text.size()) {
         const MRVTextMatch match =
             backward ? matcher.last(text, offset) : matcher.next(text, offset);
-        if (!match || mrvKeepsWordRules(text, match, flags))
+        if (!match || mrvKeepsWordRules(text, match, flags)) {
             return match;
+        }
         offset = backward ? match.start - 1 : match.end() + 1;
     }
     return MRVTextMatch();
@@ -129,8 +130,9 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
     flags &= ~MRVTextFinder::FindBackward;
     while (offset <= limit) {
         const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags);
-        if (!match || match.end() > limit || !found(match))
+        if (!match || match.end() > limit || !found(match)) {
             return;
+        }
         offset = match.length > 0 ? match.end() : match.end() + 1;
     }
 }
@@ -143,15 +145,17 @@ template<typename Visit>
 void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)
 {
     const int start = qMax(0, within.start());
-    if (!document || within.end() < 0)
+    if (!document || within.end() < 0) {
         return;
+    }
     QTextBlock block = document->findBlock(start);
     int position = block.position(); // counted along, as Qt climbs a tree for it
     for (; block.isValid() && position <= within.end(); block = block.next()) {
         const int length = block.length();
         if (!visit(block, position, qMax(0, start - position),
-                   qMin(length - 1, within.end() - position)))
+                   qMin(length - 1, within.end() - position))) {
             return;
+        }
         position += length;
     }
 }

@@ -34,8 +34,9 @@ void MRVPieceWalker::next()
     ++m_index;
     while (m_index >= m_pieces.size()) {
         const QTextBlock block = m_block.next();
-        if (!block.isValid())
+        if (!block.isValid()) {
             return;
+        }
         load(block);
         m_index = 0;
     }
@@ -46,8 +47,9 @@ void MRVPieceWalker::previous()
     --m_index;
     while (m_index < 0) {
         const QTextBlock block = m_block.previous();
-        if (!block.isValid())
+        if (!block.isValid()) {
             return;
+        }
         load(block);
         m_index = m_pieces.size() - 1;
     }
@@ -67,8 +69,9 @@ MRVTextPiece mrvPieceAt(const QTextDocument *document, int position)
     for (auto it = block.begin(); block.isValid() && !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         const int start = fragment.position();
-        if (position >= start && position < start + fragment.length())
+        if (position >= start && position < start + fragment.length()) {
             return {start, start + fragment.length(), fragment.charFormatIndex()};
+        }
     }
     return MRVTextPiece();
 }

@@ -90,8 +90,9 @@ void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Ver
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             // The verdict first: to ask for a position means to climb a tree.
             const QTextFragment fragment = it.fragment();
-            if (!verdicts(fragment.charFormatIndex()))
+            if (!verdicts(fragment.charFormatIndex())) {
                 continue;
+            }
             const int position = fragment.position();
             const int start = qMax(position, within.start());
             const int end = qMin(position + fragment.length(), within.end());
@@ -121,8 +122,9 @@ MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, 
     }
     const bool touches = start < end || (passes(walker) && walker.piece().start <= end)
         || (passes(back) && back.piece().end >= start);
-    if (!touches)
+    if (!touches) {
         return range;
+    }
     for (; passes(walker) && mrvAdjoins(document, end, walker.piece().start); walker.next()) {
         end = walker.piece().end;
     }
@@ -162,8 +164,9 @@ public:
         while (m_walker.isValid() && !passes(m_walker)) {
             step();
         }
-        if (!m_walker.isValid())
+        if (!m_walker.isValid()) {
             return false;
+        }
         const MRVTextPiece first = m_walker.piece();
         const MRVTextPiece last = skip();
         *run =

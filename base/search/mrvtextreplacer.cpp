@@ -31,14 +31,16 @@ QRegularExpression expressionOf(const MRVTextQuery &query)
 template<typename Work>
 auto withMatcher(const MRVTextQuery &query, Work work)
 {
-    if (query.syntax == MRVTextQuery::RegularExpression)
+    if (query.syntax == MRVTextQuery::RegularExpression) {
         return work(MRVRegularExpressionMatcher(expressionOf(query)));
+    }
     const auto cs =
         query.flags & Finder::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
     const QString text =
         query.ignoreTypography ? MRVFoldedText::foldPattern(query.text) : query.text;
-    if (MRVLiteralMatcher::canMatch(text, cs))
+    if (MRVLiteralMatcher::canMatch(text, cs)) {
         return work(MRVLiteralMatcher(text, cs));
+    }
     return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
 }
 
@@ -66,8 +68,9 @@ public:
     /// Offsets in the paragraph.
     MRVTextMatch toOriginal(int start, int length) const
     {
-        if (!m_isFolded)
+        if (!m_isFolded) {
             return {start, length};
+        }
         const int from = m_folded.toOriginalStart(start);
         const int to = length > 0 ? m_folded.toOriginalEnd(start + length) : from;
         return {from, to - from};
@@ -99,8 +102,9 @@ public:
     /// @param block the paragraph that @p find lies in
     bool accepts(const QTextBlock &block, const MRVTextRange &find)
     {
-        if (m_all)
+        if (m_all) {
             return true;
+        }
         if (block != m_block) {
             load(block);
         }
@@ -164,8 +168,9 @@ bool eachFindInBlock(const Matcher &matcher, const MRVTextQuery &query, const QT
     const auto take = [&](MRVTextMatch match) {
         const MRVTextMatch own = text.toOriginal(match.start, match.length);
         const MRVTextRange range(text.position() + own.start, text.position() + own.end());
-        if (own.end() > to)
+        if (own.end() > to) {
             return false;
+        }
         // Two matches in the parts of one letter are one find.
         if (own.start >= last && filter.accepts(block, range)) {
             last = own.end();
@@ -183,8 +188,9 @@ template<typename Matcher, typename Found>
 void eachFind(const QTextDocument *document, const Matcher &matcher, const MRVTextQuery &query,
               const MRVTextRange &within, Found found)
 {
-    if (matcher.isEmpty())
+    if (matcher.isEmpty()) {
         return;
+    }
     FormatFilter filter(document, query);
     bool goesOn = true;
     mrvEachBlock(document, within, [&](const QTextBlock &block, int, int from, int to) {
@@ -224,8 +230,9 @@ public:
 private:
     QString group(int number) const
     {
-        if (m_match.capturedStart(number) < 0)
+        if (m_match.capturedStart(number) < 0) {
             return QString();
+        }
         return m_searched.original(m_match.capturedStart(number), m_match.capturedLength(number));
     }
 
@@ -238,8 +245,9 @@ private:
     bool takeGroup(QString *result)
     {
         int number = digitAt(m_at);
-        if (number < 0 || number > m_groups)
+        if (number < 0 || number > m_groups) {
             return false;
+        }
         ++m_at;
         const int second = digitAt(m_at);
         if (number > 0 && second >= 0 && number * 10 + second <= m_groups) {
@@ -272,8 +280,9 @@ private:
     bool takeNamed(QString *result)
     {
         const int end = m_text.indexOf(QLatin1Char('}'), m_at);
-        if (end < 0 || m_text.at(m_at) != QLatin1Char('{'))
+        if (end < 0 || m_text.at(m_at) != QLatin1Char('{')) {
             return false;
+        }
         const QString name = m_text.mid(m_at + 1, end - m_at - 1);
         bool isNumber = false;
         int number = name.toInt(&isNumber);
@@ -282,8 +291,9 @@ private:
                 ? -1
                 : m_match.regularExpression().namedCaptureGroups().indexOf(name);
         }
-        if (number < 0 || number > m_groups)
+        if (number < 0 || number > m_groups) {
             return false;
+        }
         m_at = end + 1;
         *result += group(number);
         return true;
@@ -329,11 +339,13 @@ MRVTextRange partBefore(const QTextCursor &cursor, const MRVTextQuery &query)
 
 bool MRVTextQuery::isValid(QString *error) const
 {
-    if (syntax == PlainText)
+    if (syntax == PlainText) {
         return true;
+    }
     const QRegularExpression expression = expressionOf(*this);
-    if (expression.isValid())
+    if (expression.isValid()) {
         return true;
+    }
     if (error) {
         *error = QCoreApplication::translate("MRVTextQuery", "%1 (at character %2)")
                      .arg(expression.errorString(),
@@ -346,8 +358,9 @@ QVector<MRVTextRange> MRVTextReplacer::findAll(const QTextDocument *document,
                                                const MRVTextQuery &query)
 {
     QVector<MRVTextRange> finds;
-    if (!document)
+    if (!document) {
         return finds;
+    }
     withMatcher(query, [&](const auto &matcher) {
         eachFind(document, matcher, query, searchedRange(document, query),
                  [&](const SearchedText &, MRVTextMatch, const MRVTextRange &range) {
@@ -366,16 +379,18 @@ int MRVTextReplacer::count(const QTextDocument *document, const MRVTextQuery &qu
 QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &query)
 {
     QTextCursor result;
-    if (from.isNull())
+    if (from.isNull()) {
         return result;
+    }
     const QTextDocument *document = from.document();
     const bool backward = query.flags & Finder::FindBackward;
     const MRVTextRange all = searchedRange(document, query);
     const MRVTextRange own(from);
     MRVTextRange last(-1, -1);
     const auto take = [&](const SearchedText &, MRVTextMatch, const MRVTextRange &range) {
-        if (range == own && !from.hasSelection())
+        if (range == own && !from.hasSelection()) {
             return true;
+        }
         last = range;
         return backward;
     };
@@ -403,8 +418,9 @@ QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
                                                 const QString &replacement)
 {
     QVector<MRVTextChange> changes;
-    if (!document)
+    if (!document) {
         return changes;
+    }
     withMatcher(query, [&](const auto &matcher) {
         eachFind(document, matcher, query, searchedRange(document, query),
                  [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {
@@ -423,8 +439,9 @@ int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &que
                                 const QString &replacement)
 {
     const QVector<MRVTextChange> changes = preview(document, query, replacement);
-    if (changes.isEmpty())
+    if (changes.isEmpty()) {
         return 0;
+    }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
     // From the last to the first, so that the positions of the others hold.
@@ -438,8 +455,9 @@ int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &que
 
 int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange> &changes)
 {
-    if (!document || changes.isEmpty())
+    if (!document || changes.isEmpty()) {
         return 0;
+    }
     QVector<const MRVTextChange *> order;
     for (const MRVTextChange &change : changes) {
         order.append(&change);
@@ -451,11 +469,13 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
     int limit = document->characterCount() - 1;
     for (const MRVTextChange *change : qAsConst(order)) {
         const MRVTextRange &range = change->range;
-        if (range.start() < 0 || range.end() > limit || change->before == change->after)
+        if (range.start() < 0 || range.end() > limit || change->before == change->after) {
             continue;
+        }
         select(&cursor, range);
-        if (cursor.selectedText() != change->before)
+        if (cursor.selectedText() != change->before) {
             continue;
+        }
         if (made++ == 0) {
             cursor.beginEditBlock();
         }
@@ -471,21 +491,24 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
 bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
                               const QString &replacement)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return false;
+    }
     const MRVTextRange own(cursor);
     QTextDocument *document = cursor.document();
     const MRVTextRange all = searchedRange(document, query);
-    if (own.start() < all.start() || own.end() > all.end())
+    if (own.start() < all.start() || own.end() > all.end()) {
         return false;
+    }
     bool isFind = false;
     QString after;
     // First from the selection itself; an expression that looks at what stands before it without keeping it
     // (\K) needs the paragraph from its start.
     const int paragraph = qMax(all.start(), document->findBlock(own.start()).position());
     for (int from : {own.start(), paragraph}) {
-        if (isFind)
+        if (isFind) {
             break;
+        }
         withMatcher(query, [&](const auto &matcher) {
             eachFind(document, matcher, query, MRVTextRange(from, own.end()),
                      [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {

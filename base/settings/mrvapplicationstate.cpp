@@ -268,6 +268,7 @@ void MRVApplicationState::setUseZipForBackups(bool use)
 
 void MRVApplicationState::resetAllWarnings()
 {
-    for (const char *key : MRVOptionsTables::warningKeys())
+    for (const char *key : MRVOptionsTables::warningKeys()) {
         setValue(QString::fromLatin1(key), true);
+    }
 }

@@ -46,8 +46,9 @@ MRVOptions::IndexCardTheme themeOf(const ThemeRow &row)
 QMap<MRVSettings::ColorSettingGroup, QList<MRVSettings::ColorSetting>> MRVOptions::colorGroupMap()
 {
     QMap<ColorSettingGroup, QList<ColorSetting>> map;
-    for (const ColorRow &row : tableOf(ColorSetting()))
+    for (const ColorRow &row : tableOf(ColorSetting())) {
         map[row.value.group].append(row.setting);
+    }
     return map;
 }
 
@@ -65,19 +66,22 @@ QString MRVOptions::colorName(ColorSetting setting)
 QList<MRVOptions::IndexCardTheme> MRVOptions::indexCardThemes()
 {
     QList<IndexCardTheme> themes;
-    for (const ThemeRow &row : Themes)
+    for (const ThemeRow &row : Themes) {
         themes.append(themeOf(row));
+    }
     return themes;
 }
 
 int MRVOptions::findIndexCardTheme(const QPair<QColor, QColor> &colors)
 {
-    if (!colors.first.isValid() || !colors.second.isValid())
+    if (!colors.first.isValid() || !colors.second.isValid()) {
         return -1;
+    }
     for (std::size_t i = 0; i < std::size(Themes); ++i) {
         const ThemeRow &row = Themes[i];
-        if (colors.first.rgb() == row.card && colors.second.rgb() == row.border)
+        if (colors.first.rgb() == row.card && colors.second.rgb() == row.border) {
             return int(i);
+        }
     }
     return -1;
 }

@@ -23,8 +23,9 @@ namespace {
 QString dataFolder(QLatin1String name)
 {
     QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (base.isEmpty())
+    if (base.isEmpty()) {
         base = QDir::homePath();
+    }
     return QStringLiteral("%1/%2/%3/%4")
         .arg(base, MRVOptions::companyName(), MRVOptions::applicationName(), name);
 }
@@ -56,8 +57,9 @@ QString MRVOptions::defaultGuiLanguageCode()
     const QStringList shipped = guiLanguages();
     const QString code = systemGuiLanguageCode();
     for (const QString &language : {code, code.section(u'_', 0, 0)}) {
-        if (shipped.contains(language))
+        if (shipped.contains(language)) {
             return language;
+        }
     }
     return QStringLiteral("en");
 }
@@ -211,14 +213,16 @@ bool isEngineMap(const QByteArray &bytes)
 
 QFont systemFont(int percent)
 {
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return QFont();
+    }
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     // A desktop may give its font in pixels.
-    if (font.pointSizeF() > 0)
+    if (font.pointSizeF() > 0) {
         font.setPointSizeF(qRound(font.pointSizeF() * percent / 50) / 2.0);
-    else
+    } else {
         font.setPixelSize(qMax(1, font.pixelSize() * percent / 100));
+    }
     return font;
 }
 

@@ -26,10 +26,12 @@ bool isOwn(const MRVOptions &options, const QString &key)
 // write what is not saved yet, unchecked.
 QString originOf(const MRVOptions &options, const QString &key)
 {
-    if (!options.contains(key))
+    if (!options.contains(key)) {
         return QString();
-    if (options.QSettings::organizationName().isEmpty() || isOwn(options, key))
+    }
+    if (options.QSettings::organizationName().isEmpty() || isOwn(options, key)) {
         return options.fileName();
+    }
     const std::pair<QSettings::Scope, QString> places[] = {
         {QSettings::UserScope, QString()},
         {QSettings::SystemScope, MRVOptions::applicationName()},
@@ -39,8 +41,9 @@ QString originOf(const MRVOptions &options, const QString &key)
         QSettings file(options.format(), scope, MRVOptions::companyName(), application);
         file.setFallbacksEnabled(false);
         file.beginGroup(options.group());
-        if (file.contains(key))
+        if (file.contains(key)) {
             return file.fileName();
+        }
     }
     return options.fileName();
 }
@@ -134,8 +137,9 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Separator
         : options.customSeparator(row.context);
     explanation.defaultValue =
         isType ? QString::fromLatin1(MRV::toString(row.type)) : defaultCustomSeparator();
-    if (isType)
+    if (isType) {
         explanation.accepts = separatorTypeWords().join(QLatin1String(", "));
+    }
     explanation.origin = originOf(options, explanation.key);
     return explanation;
 }
@@ -161,8 +165,9 @@ void forEachSetting(const MRVOptions *options, const Visitor &visit)
         visit(QLatin1String(row.key), [&] { return explanationOf(*options, row); });
     });
     for (const SeparatorRow &row : separators()) {
-        for (const char *key : {row.typeKey, row.customKey})
+        for (const char *key : {row.typeKey, row.customKey}) {
             visit(QLatin1String(key), [&] { return explanationOf(*options, row, key); });
+        }
     }
 }
 
@@ -186,12 +191,14 @@ MRVOptions::Explanation MRVOptions::explain(const QString &key) const
 {
     Explanation explanation;
     forEachSetting(this, [&](QLatin1String name, const auto &explained) {
-        if (name == key)
+        if (name == key) {
             explanation = explained();
+        }
     });
     const bool isPdf = key.startsWith(PdfPrefix);
-    if (isPdf && pdfSettingsNames().contains(key.mid(PdfPrefix.size())))
+    if (isPdf && pdfSettingsNames().contains(key.mid(PdfPrefix.size()))) {
         return explanationOfPdf(*this, key.mid(PdfPrefix.size()));
+    }
     return explanation;
 }
 
@@ -201,13 +208,15 @@ QList<MRVOptions::Explanation> MRVOptions::changedSettings() const
     forEachSetting(this, [&](QLatin1String key, const auto &explained) {
         if (contains(key)) {
             const Explanation explanation = explained();
-            if (explanation.isChanged())
+            if (explanation.isChanged()) {
                 changed.append(explanation);
+            }
         }
     });
     const QStringList names = pdfSettingsNames();
-    for (const QString &name : names)
+    for (const QString &name : names) {
         changed.append(explanationOfPdf(*this, name));
+    }
     std::sort(changed.begin(), changed.end(),
               [](const Explanation &a, const Explanation &b) { return a.key < b.key; });
     return changed;

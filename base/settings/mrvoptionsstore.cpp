@@ -75,8 +75,9 @@ qreal MRVOptions::defaultValue(RealSetting setting) const
 QString MRVOptions::defaultValue(StringSetting setting) const
 {
     const StringRow *row = rowOf(setting);
-    if (!row)
+    if (!row) {
         return QString();
+    }
     return row->value.ask ? row->value.ask() : QString::fromUtf8(row->value.utf8);
 }
 
@@ -99,11 +100,13 @@ QDateTime MRVOptions::defaultValue(DateTimeSetting) const
 QFont MRVOptions::defaultValue(FontSetting setting) const
 {
     const FontRow *row = rowOf(setting);
-    if (!row)
+    if (!row) {
         return QFont();
+    }
     QFont font = systemFont(row->value.percent);
-    if (row->value.bold)
+    if (row->value.bold) {
         font.setBold(true);
+    }
     return font;
 }
 
@@ -115,8 +118,9 @@ QList<int> MRVOptions::defaultValue(IntListSetting) const
 QByteArray MRVOptions::defaultValue(ByteArraySetting setting) const
 {
     // The format that the converter makes is an export format only where there is one.
-    if (setting == ExportFormatConverters)
+    if (setting == ExportFormatConverters) {
         return exportEngines(QFileInfo::exists(value(KindlePath)));
+    }
     const ByteArrayRow *row = rowOf(setting);
     return row ? row->value.make() : QByteArray();
 }

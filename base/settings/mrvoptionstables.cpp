@@ -255,11 +255,13 @@ template<typename Entry, std::size_t Size>
 constexpr bool isSound(const Entry (&table)[Size], int last)
 {
     for (std::size_t i = 0; i < Size; ++i) {
-        if (table[i].key[0] == 0 || (i > 0 && table[i - 1].setting >= table[i].setting))
+        if (table[i].key[0] == 0 || (i > 0 && table[i - 1].setting >= table[i].setting)) {
             return false;
+        }
         for (std::size_t j = 0; j < i; ++j) {
-            if (equal(table[i].key, table[j].key))
+            if (equal(table[i].key, table[j].key)) {
                 return false;
+            }
         }
     }
     return int(table[Size - 1].setting) == last;
@@ -269,8 +271,9 @@ template<typename Entry, std::size_t Size>
 constexpr bool holdsDefaultsWithinLimits(const Entry (&table)[Size])
 {
     for (const Entry &row : table) {
-        if (row.value.value < row.value.least || row.value.value > row.value.most)
+        if (row.value.value < row.value.least || row.value.value > row.value.most) {
             return false;
+        }
     }
     return true;
 }
@@ -302,10 +305,12 @@ template<int Last, typename Entry, std::size_t Size>
 constexpr std::array<qint8, Last + 1> indexOf(const Entry (&table)[Size])
 {
     std::array<qint8, Last + 1> index{};
-    for (qint8 &place : index)
+    for (qint8 &place : index) {
         place = -1;
-    for (std::size_t i = 0; i < Size; ++i)
+    }
+    for (std::size_t i = 0; i < Size; ++i) {
         index[std::size_t(table[i].setting)] = qint8(i);
+    }
     return index;
 }
 

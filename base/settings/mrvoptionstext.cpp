@@ -22,8 +22,9 @@ QString textOf(const QByteArray &bytes)
 {
     const QString text = QString::fromUtf8(bytes);
     bool readable = text.toUtf8() == bytes && !text.startsWith(Base64);
-    for (const QChar c : text)
+    for (const QChar c : text) {
         readable = readable && (c.isPrint() || c == u'\n' || c == u'\t' || c.isSurrogate());
+    }
     return readable ? text : Base64 + QString::fromLatin1(bytes.toBase64());
 }
 
@@ -34,16 +35,18 @@ QString textOf(const QFont &font)
 
 QString textOf(const QColor &color)
 {
-    if (!color.isValid())
+    if (!color.isValid()) {
         return QString();
+    }
     return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
 }
 
 QString textOf(const QList<int> &numbers)
 {
     QStringList texts;
-    for (const int number : numbers)
+    for (const int number : numbers) {
         texts.append(QString::number(number));
+    }
     return texts.join(u' ');
 }
 
@@ -52,8 +55,9 @@ using Stored = std::optional<QVariant>;
 
 Stored refuse(QString *error, const QString &text)
 {
-    if (error)
+    if (error) {
         *error = text;
+    }
     return std::nullopt;
 }
 
@@ -61,8 +65,9 @@ template<typename Number>
 Stored within(bool isNumber, Number number, Number least, Number most, const QString &text,
               QString *error)
 {
-    if (isNumber && number >= least && number <= most)
+    if (isNumber && number >= least && number <= most) {
         return QVariant(number);
+    }
     const QString sentence = std::is_same_v<Number, int>
         ? MRVOptions::tr("'%1' is not a whole number from %2 to %3")
         : MRVOptions::tr("'%1' is not a number from %2 to %3");
@@ -71,16 +76,18 @@ Stored within(bool isNumber, Number number, Number least, Number most, const QSt
 
 Stored oneOf(const QStringList &words, const QString &text, QString *error)
 {
-    if (words.contains(text))
+    if (words.contains(text)) {
         return QVariant(text);
+    }
     return refuse(error,
                   MRVOptions::tr("'%1' is none of: %2").arg(text, words.join(QLatin1String(", "))));
 }
 
 std::optional<QByteArray> bytesOf(const QString &text)
 {
-    if (!text.startsWith(Base64))
+    if (!text.startsWith(Base64)) {
         return text.toUtf8();
+    }
     const auto decoded = QByteArray::fromBase64Encoding(text.mid(Base64.size()).toLatin1(),
                                                         QByteArray::AbortOnBase64DecodingErrors);
     return decoded ? std::make_optional(decoded.decoded) : std::nullopt;
@@ -89,8 +96,9 @@ std::optional<QByteArray> bytesOf(const QString &text)
 Stored parse(const FlagRow &, const QString &text, QString *error)
 {
     bool ok = false;
-    if (const bool flag = mrvToFlag(text, &ok); ok)
+    if (const bool flag = mrvToFlag(text, &ok); ok) {
         return QVariant(flag);
+    }
     return refuse(error, MRVOptions::tr("'%1' is neither true nor false").arg(text));
 }
 
@@ -110,8 +118,9 @@ Stored parse(const RealRow &row, const QString &text, QString *error)
 
 Stored parse(const StringRow &row, const QString &text, QString *error)
 {
-    if (row.value.words)
+    if (row.value.words) {
         return oneOf(row.value.words(), text, error);
+    }
     if (row.value.isPair && !isQuotePair(text)) {
         return refuse(
             error,
@@ -160,18 +169,21 @@ bool isTextColor(MRVSettings::ColorSetting setting)
 Stored parse(const ColorRow &row, const QString &text, QString *error)
 {
     const QColor color(text);
-    if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting))
+    if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting)) {
         return refuse(error, MRVOptions::tr("'%1' cannot be seen").arg(text));
-    if (color.isValid())
+    }
+    if (color.isValid()) {
         return QVariant(color);
+    }
     return refuse(error, MRVOptions::tr("'%1' is no colour such as #1f1f1f or navy").arg(text));
 }
 
 Stored parse(const DateTimeRow &, const QString &text, QString *error)
 {
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
-    if (time.isValid())
+    if (time.isValid()) {
         return QVariant(time);
+    }
     return refuse(error, MRVOptions::tr("'%1' is no date such as 2026-01-31T18:30:00").arg(text));
 }
 
@@ -198,8 +210,9 @@ Stored parse(const IntListRow &, const QString &text, QString *error)
     for (const QString &part : parts) {
         bool ok = false;
         part.toInt(&ok);
-        if (!ok)
+        if (!ok) {
             return refuse(error, MRVOptions::tr("'%1' is not a whole number").arg(part));
+        }
     }
     return QVariant(parts.join(u' '));
 }
@@ -207,12 +220,15 @@ Stored parse(const IntListRow &, const QString &text, QString *error)
 Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
 {
     const auto bytes = bytesOf(text);
-    if (!bytes)
+    if (!bytes) {
         return refuse(error, MRVOptions::tr("what follows 'base64:' is not Base64"));
-    if (bytes->isEmpty() && !row.value.make().isEmpty())
+    }
+    if (bytes->isEmpty() && !row.value.make().isEmpty()) {
         return refuse(error, MRVOptions::tr("nothing is no value; reset the setting instead"));
-    if (!bytes->isEmpty() && row.value.accepts && !row.value.accepts(*bytes))
+    }
+    if (!bytes->isEmpty() && row.value.accepts && !row.value.accepts(*bytes)) {
         return refuse(error, MRVOptions::tr("the bytes are not what is kept there"));
+    }
     return QVariant(*bytes);
 }
 
@@ -223,8 +239,9 @@ Stored formatOf(const QString &text, Format (*read)(const QByteArray &), QString
     // Bytes that cannot be read give an empty format.
     if (bytes && !bytes->isEmpty()) {
         const Format format = read(*bytes);
-        if (!format.isEmpty() || MRVSettings::toByteArray(format) == *bytes)
+        if (!format.isEmpty() || MRVSettings::toByteArray(format) == *bytes) {
             return QVariant(MRVSettings::toByteArray(format));
+        }
     }
     return refuse(error, MRVOptions::tr("the text is no 'base64:' and the bytes of a format"));
 }
@@ -296,12 +313,15 @@ bool MRVOptions::setFromText(const QString &key, const QString &text, QString *e
                                                        : Stored(text);
         }
     }
-    if (!known)
+    if (!known) {
         refuse(error, tr("there is no setting '%1'").arg(key));
-    if (!stored)
+    }
+    if (!stored) {
         return false;
-    if (setValue(key, *stored))
+    }
+    if (setValue(key, *stored)) {
         return true;
+    }
     refuse(error, tr("%1 cannot be written").arg(fileName()));
     return false;
 }

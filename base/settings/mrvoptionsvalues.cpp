@@ -29,8 +29,9 @@ template<std::size_t Size>
 int valueOf(const char *const (&words)[Size], const QString &text, int fallback)
 {
     for (std::size_t i = 0; i < Size; ++i) {
-        if (text == QLatin1String(words[i]))
+        if (text == QLatin1String(words[i])) {
             return int(i);
+        }
     }
     return fallback;
 }
@@ -39,16 +40,18 @@ template<std::size_t Size>
 QStringList listOf(const char *const (&words)[Size])
 {
     QStringList list;
-    for (const char *word : words)
+    for (const char *word : words) {
         list.append(QString::fromLatin1(word));
+    }
     return list;
 }
 
 // In the name of a key, "/" parts groups, and which slashes are one differs between systems.
 QString pdfKey(const QString &key, QString name)
 {
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return key;
+    }
     name.replace(u'%', QLatin1String("%25"));
     name.replace(u'/', QLatin1String("%2F"));
     name.replace(u'\\', QLatin1String("%5C"));
@@ -58,8 +61,9 @@ QString pdfKey(const QString &key, QString name)
 const SeparatorRow *separatorRow(MRV::SeparatorContext context)
 {
     for (const SeparatorRow &row : separators()) {
-        if (row.context == context)
+        if (row.context == context) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -90,8 +94,9 @@ QStringList MRVOptionsTables::spaceDoubleClickWords()
 QStringList MRVOptionsTables::separatorTypeWords()
 {
     QStringList words;
-    for (const auto type : {MRV::SingleReturn, MRV::EmptyLine, MRV::CustomSeparator})
+    for (const auto type : {MRV::SingleReturn, MRV::EmptyLine, MRV::CustomSeparator}) {
         words.append(QString::fromLatin1(MRV::toString(type)));
+    }
     return words;
 }
 
@@ -158,8 +163,9 @@ bool MRVOptions::setSpaceDoubleClickMode(SpaceDoubleClickMode mode)
 MRV::SeparatorType MRVOptions::separatorType(MRV::SeparatorContext context) const
 {
     const SeparatorRow *row = separatorRow(context);
-    if (!row)
+    if (!row) {
         return MRV::EmptyLine;
+    }
     const QVariant stored = value(QString::fromLatin1(row->typeKey));
     return stored.isValid() ? MRV::toSeparatorType(stored.toString()) : row->type;
 }
@@ -168,10 +174,12 @@ bool MRVOptions::setSeparator(MRV::SeparatorContext context, MRV::SeparatorType 
                               const QString &custom)
 {
     const SeparatorRow *row = separatorRow(context);
-    if (!row || type < MRV::SingleReturn || type > MRV::CustomSeparator)
+    if (!row || type < MRV::SingleReturn || type > MRV::CustomSeparator) {
         return false;
-    if (!custom.isNull() && !setValue(QString::fromLatin1(row->customKey), custom))
+    }
+    if (!custom.isNull() && !setValue(QString::fromLatin1(row->customKey), custom)) {
         return false;
+    }
     return setValue(QString::fromLatin1(row->typeKey), QString::fromLatin1(MRV::toString(type)));
 }
 
@@ -205,8 +213,9 @@ QStringList MRVOptions::pdfSettingsNames() const
     QStringList names;
     const QStringList keys = allKeys();
     for (const QString &key : keys) {
-        if (!key.startsWith(prefix))
+        if (!key.startsWith(prefix)) {
             continue;
+        }
         QString name = key.mid(prefix.size());
         name.replace(QLatin1String("%5C"), QLatin1String("\\"));
         name.replace(QLatin1String("%2F"), QLatin1String("/"));
@@ -219,8 +228,9 @@ QStringList MRVOptions::pdfSettingsNames() const
 
 void MRVOptions::removePdfSettings(const QString &name)
 {
-    if (!name.isEmpty())
+    if (!name.isEmpty()) {
         remove(pdfKey(keyText(PdfSettings), name));
+    }
 }
 
 bool MRVOptions::setPdfSettings(const QString &name, const QByteArray &settings)
@@ -233,8 +243,9 @@ MRVAutoReplaceList MRVOptions::autoReplaceList() const
     MRVAutoReplaceList list;
     list.fromByteArray(value(keyText(SubstitutionList)).toByteArray());
     // The default list holds the ordinals already.
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return MRVAutoReplaceList::defaultReplacements();
+    }
     MRVAutoReplaceList::appendMissingOrdinals(&list);
     return list;
 }
@@ -275,9 +286,11 @@ void MRVOptions::resetAllWarnings()
 {
     // The application state shares the file, but not the group that is open here.
     const WholeFile whole(this);
-    if (!whole.isOpen())
+    if (!whole.isOpen()) {
         return;
+    }
     remove(QStringLiteral("Options/Warnings"));
-    for (const char *key : warningKeys())
+    for (const char *key : warningKeys()) {
         setValue(QString::fromLatin1(key), true);
+    }
 }

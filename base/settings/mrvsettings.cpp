@@ -38,10 +38,12 @@ QVariant stored(const QSettings &settings, const QString &key)
 int toInt(const QVariant &value, bool *ok)
 {
     *ok = value.isValid();
-    if (!*ok)
+    if (!*ok) {
         return 0;
-    if (value.userType() == QMetaType::Int)
+    }
+    if (value.userType() == QMetaType::Int) {
         return value.toInt();
+    }
     // Not toInt(), which takes just the lower half of a larger number.
     const qlonglong number = value.toLongLong(ok);
     *ok = *ok && number == int(number);
@@ -67,16 +69,18 @@ QList<int> toIntList(const QString &text)
     static const QRegularExpression blank(QStringLiteral("\\s"));
     QList<int> numbers;
     const QStringList parts = text.split(blank, Qt::SkipEmptyParts);
-    for (const QString &part : parts)
+    for (const QString &part : parts) {
         numbers.append(part.toInt());
+    }
     return numbers;
 }
 
 QString toText(const QList<int> &numbers)
 {
     QStringList parts;
-    for (int number : numbers)
+    for (int number : numbers) {
         parts.append(QString::number(number));
+    }
     return parts.join(QLatin1Char(' '));
 }
 
@@ -84,10 +88,12 @@ QString toText(const QList<int> &numbers)
 
 MRVSettings::~MRVSettings()
 {
-    if (!m_isDirty)
+    if (!m_isDirty) {
         return;
-    while (!QSettings::group().isEmpty())
+    }
+    while (!QSettings::group().isEmpty()) {
         QSettings::endGroup();
+    }
     m_openGroups.clear();
     m_openPath.clear();
     save(Saving::Last, nullptr);
@@ -217,10 +223,12 @@ QString MRVSettings::keyText(ByteArraySetting) const
 
 void MRVSettings::setGroup(const QString &group)
 {
-    while (!QSettings::group().isEmpty())
+    while (!QSettings::group().isEmpty()) {
         endGroup();
-    if (!group.isEmpty())
+    }
+    if (!group.isEmpty()) {
         beginGroup(group);
+    }
     // As QSettings writes it, without slashes at the ends.
     m_group = QSettings::group();
 }
@@ -235,8 +243,9 @@ void MRVSettings::beginGroup(const QString &prefix)
 void MRVSettings::endGroup()
 {
     QSettings::endGroup();
-    if (!m_openGroups.isEmpty())
+    if (!m_openGroups.isEmpty()) {
         m_openGroups.removeLast();
+    }
     m_openPath = QSettings::group();
 }
 
@@ -246,20 +255,24 @@ MRVSettings::WholeFile::WholeFile(MRVSettings *settings)
     , m_hasFallbacks(settings->fallbacksEnabled())
     , m_isOpen(settings->m_openPath == settings->QSettings::group())
 {
-    if (!m_isOpen)
+    if (!m_isOpen) {
         return;
-    for (int i = 0; i < m_groups.size(); ++i)
+    }
+    for (int i = 0; i < m_groups.size(); ++i) {
         m_settings->QSettings::endGroup();
+    }
     m_settings->setFallbacksEnabled(false);
 }
 
 MRVSettings::WholeFile::~WholeFile()
 {
-    if (!m_isOpen)
+    if (!m_isOpen) {
         return;
+    }
     m_settings->setFallbacksEnabled(m_hasFallbacks);
-    for (const QString &group : qAsConst(m_groups))
+    for (const QString &group : qAsConst(m_groups)) {
         m_settings->QSettings::beginGroup(group);
+    }
 }
 
 bool MRVSettings::value(FlagSetting setting) const
@@ -449,8 +462,9 @@ MRVShortcutScheme MRVSettings::shortcutScheme(const QString &key,
                                               const MRVShortcutScheme &def) const
 {
     const auto scheme = MRVShortcutScheme::fromByteArray(stored(*this, key).toByteArray());
-    if (scheme.isValid())
+    if (scheme.isValid()) {
         return scheme;
+    }
     return def.isValid() ? def : MRVShortcutScheme::morvane();
 }
 
@@ -517,16 +531,19 @@ void MRVSettings::recordChange(const QString &key)
         QCoreApplication::postEvent(this, new QEvent(QEvent::UpdateRequest));
     }
     const int slash = key.lastIndexOf(QLatin1Char('/'));
-    if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked())
+    if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked()) {
         return;
+    }
     // Most changes are of a group that is listed already. To see that takes no copy of a text, while
     // QSettings makes one to say which group is open.
     const QStringRef group = key.leftRef(slash);
     const bool isListed = m_changedGroups.contains(group);
-    if ((isListed && m_timerId != -1) || !isOpenGroup())
+    if ((isListed && m_timerId != -1) || !isOpenGroup()) {
         return;
-    if (!isListed)
+    }
+    if (!isListed) {
         m_changedGroups.append(group.toString());
+    }
     if (m_timerId == -1) {
         const int id = startTimer(0);
         m_timerId = id == 0 ? -1 : id;

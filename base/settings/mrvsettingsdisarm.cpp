@@ -18,8 +18,9 @@ Q_LOGGING_CATEGORY(lcGuard, "mrv.settings.guard")
 bool keep(const QByteArray &bytes, const QString &path, QString *error)
 {
     const QString kept = path + QLatin1String(".damaged");
-    if (!QFileInfo::exists(kept))
+    if (!QFileInfo::exists(kept)) {
         return MRVFileWriter::write(kept, bytes, error);
+    }
     return MRVCoreUtil::ReadBinaryFile(kept) == bytes
         || MRVFileWriter::write(MRVCoreUtil::GetUniqueFileName(kept), bytes, error);
 }
@@ -34,14 +35,17 @@ bool disarm(const QString &path, QString *error)
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
     const QByteArray harmless = mrvHarmlessSettings(bytes);
     const QByteArray readable = mrvWithoutUtf8Mark(harmless, error);
-    if (!error->isEmpty())
+    if (!error->isEmpty()) {
         return false;
+    }
     const bool isDamaged = harmless.size() != bytes.size();
-    if (isDamaged && !keep(bytes, path, error))
+    if (isDamaged && !keep(bytes, path, error)) {
         return false;
-    if (isDamaged)
+    }
+    if (isDamaged) {
         qCWarning(lcGuard, "%s",
                   qPrintable(path + QLatin1String(": damaged values are taken out")));
+    }
     return readable == bytes || MRVFileWriter::write(path, readable, error);
 }
 
@@ -49,15 +53,18 @@ bool disarm(const QString &path, QString *error)
 
 QString mrvDisarmSettings(const QString &path)
 {
-    if (!QFileInfo(path).isFile())
+    if (!QFileInfo(path).isFile()) {
         return path;
+    }
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path);
     // Few values are variants at all, and most of those are colours.
-    if (!mrvHasUtf8Mark(bytes) && mrvHarmlessSettings(bytes).size() == bytes.size())
+    if (!mrvHasUtf8Mark(bytes) && mrvHarmlessSettings(bytes).size() == bytes.size()) {
         return path;
+    }
     QString error;
-    if (disarm(path, &error))
+    if (disarm(path, &error)) {
         return path;
+    }
     qCWarning(lcGuard, "%s", qPrintable(error));
     // A folder can neither be read nor be written.
     return QFileInfo(path).absolutePath();
@@ -74,8 +81,9 @@ QString mrvDisarmUserSettings(const QString &organization, const QString &applic
          {organization + u'/' + application + suffix, organization + suffix}) {
         const QString path = QDir::cleanPath(folder.filePath(name));
         // As if the file were a folder, in which nothing can be.
-        if (mrvDisarmSettings(path) != path)
+        if (mrvDisarmSettings(path) != path) {
             return name;
+        }
     }
     return organization;
 }

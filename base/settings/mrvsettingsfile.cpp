@@ -53,8 +53,9 @@ bool isText(const QVariant &value)
 // A list of one is stored as the one, and an empty list as nothing.
 QVariantList asList(const QVariant &value)
 {
-    if (!value.isValid())
+    if (!value.isValid()) {
         return {};
+    }
     const bool isList =
         value.userType() == QMetaType::QStringList || value.userType() == QMetaType::QVariantList;
     return isList ? value.toList() : QVariantList{value};
@@ -68,12 +69,14 @@ void removeThoseOfTheDead(const QString &path)
     const QString prefix = file.fileName() + QLatin1Char('.');
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString &name : names) {
-        if (!name.startsWith(prefix) || !name.endsWith(QLatin1String(".old")))
+        if (!name.startsWith(prefix) || !name.endsWith(QLatin1String(".old"))) {
             continue;
+        }
         bool isNumber = false;
         const int process = name.mid(prefix.size()).chopped(4).toInt(&isNumber);
-        if (isNumber && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
+        if (isNumber && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH) {
             folder.remove(name);
+        }
     }
 }
 
@@ -91,8 +94,9 @@ public:
     }
     ~MemoryFile()
     {
-        if (m_handle >= 0)
+        if (m_handle >= 0) {
             ::close(m_handle);
+        }
     }
     MemoryFile(const MemoryFile &) = delete;
     MemoryFile &operator=(const MemoryFile &) = delete;
@@ -119,16 +123,18 @@ MRVSettingsMap mrvValuesOf(const QSettings &settings)
 {
     MRVSettingsMap values;
     const QStringList keys = settings.allKeys();
-    for (const QString &key : keys)
+    for (const QString &key : keys) {
         values.insert(key, settings.value(key));
+    }
     return values;
 }
 
 bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values)
 {
     const MemoryFile file(bytes);
-    if (!file.isWhole())
+    if (!file.isWhole()) {
         return false;
+    }
     *values = mrvValuesOf(QSettings(file.path(), format));
     return true;
 }
@@ -139,8 +145,9 @@ bool mrvIsSettings(const QByteArray &bytes)
         bytes.mid(mrvHasUtf8Mark(bytes) ? mrvUtf8MarkSize : 0).split('\n');
     for (const QByteArray &line : lines) {
         const QByteArray text = line.trimmed();
-        if (text.isEmpty() || text.startsWith(';'))
+        if (text.isEmpty() || text.startsWith(';')) {
             continue;
+        }
         const MemoryFile file(mrvHarmlessSettings(bytes));
         const QSettings settings(file.path(), QSettings::IniFormat);
         settings.allKeys(); // reads the sections
@@ -157,8 +164,9 @@ QString mrvNoRoomText()
 bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found)
 {
     const int type = wanted.userType();
-    if (isText(wanted))
+    if (isText(wanted)) {
         return found.isValid() && wanted.toString() == found.toString();
+    }
     if (type == QMetaType::QStringList || type == QMetaType::QVariantList) {
         const QVariantList a = asList(wanted);
         const QVariantList b = asList(found);
@@ -171,8 +179,9 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted)
 {
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
         const auto at = found.constFind(it.key());
-        if (at == found.cend() || !mrvIsStoredAs(it.value(), at.value()))
+        if (at == found.cend() || !mrvIsStoredAs(it.value(), at.value())) {
             return false;
+        }
     }
     return true;
 }
@@ -181,23 +190,26 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
                              QString *error)
 {
     const QByteArray harmless = mrvWithoutUtf8Mark(mrvHarmlessSettings(before), error);
-    if (!error->isEmpty())
+    if (!error->isEmpty()) {
         return QByteArray();
+    }
     const QTemporaryDir folder; // a name that QSettings has not seen before
     const QString path = folder.filePath(QStringLiteral("settings"));
     if (!folder.isValid()) {
         *error = folder.errorString();
         return QByteArray();
     }
-    if (!harmless.isEmpty() && !MRVFileWriter::write(path, harmless, error))
+    if (!harmless.isEmpty() && !MRVFileWriter::write(path, harmless, error)) {
         return QByteArray();
+    }
     QSettings settings(path, QSettings::IniFormat);
     edit(&settings);
     settings.sync();
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
     MRVSettingsMap found;
-    if (!error->isEmpty())
+    if (!error->isEmpty()) {
         return QByteArray();
+    }
     if (!mrvReadSettings(bytes, QSettings::IniFormat, &found)
         || !mrvHolds(found, mrvValuesOf(settings))) {
         *error = mrvNoRoomText();
@@ -208,8 +220,9 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
 
 QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error)
 {
-    if (!mrvHasUtf8Mark(bytes))
+    if (!mrvHasUtf8Mark(bytes)) {
         return bytes;
+    }
     MRVSettingsMap values;
     if (!mrvReadSettings(bytes, QSettings::IniFormat, &values)) {
         *error = mrvNoRoomText();
@@ -218,8 +231,9 @@ QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error)
     return mrvEditedSettings(
         QByteArray(),
         [&values](QSettings *file) {
-            for (auto it = values.cbegin(); it != values.cend(); ++it)
+            for (auto it = values.cbegin(); it != values.cend(); ++it) {
                 file->setValue(it.key(), it.value());
+            }
         },
         error);
 }
@@ -264,26 +278,30 @@ MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &by
     : m_bytes(bytes)
     , m_path(QFileInfo(path).canonicalFilePath())
 {
-    if (m_path.isEmpty())
+    if (m_path.isEmpty()) {
         return;
+    }
     removeThoseOfTheDead(m_path);
     m_kept = QStringLiteral("%1.%2.old").arg(m_path).arg(::getpid());
     const QByteArray kept = QFile::encodeName(m_kept);
     ::unlink(kept.constData());
-    if (::link(QFile::encodeName(m_path).constData(), kept.constData()) != 0)
+    if (::link(QFile::encodeName(m_path).constData(), kept.constData()) != 0) {
         m_kept.clear();
+    }
 }
 
 MRVOldSettingsFile::~MRVOldSettingsFile()
 {
-    if (!m_kept.isEmpty())
+    if (!m_kept.isEmpty()) {
         ::unlink(QFile::encodeName(m_kept).constData());
+    }
 }
 
 bool MRVOldSettingsFile::putBack() const
 {
-    if (m_path.isEmpty() || m_bytes.isEmpty())
+    if (m_path.isEmpty() || m_bytes.isEmpty()) {
         return false;
+    }
     return (!m_kept.isEmpty()
             && ::rename(QFile::encodeName(m_kept).constData(),
                         QFile::encodeName(m_path).constData())

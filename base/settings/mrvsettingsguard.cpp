@@ -20,8 +20,9 @@ quint32 typeOf(quint32 stored)
     constexpr quint32 User = 127;
     constexpr quint32 FirstMoved = 128;
     constexpr quint32 MovedBy = 97;
-    if (stored == User)
+    if (stored == User) {
         return QMetaType::User;
+    }
     return stored >= FirstMoved && stored < QMetaType::User ? stored - MovedBy : stored;
 }
 
@@ -82,8 +83,9 @@ public:
         quint32 type = 0;
         m_stream >> type;
         type = typeOf(type);
-        if (const int size = fixedSize(type); size >= 0)
+        if (const int size = fixedSize(type); size >= 0) {
             return skip(size);
+        }
         switch (type) {
         case QMetaType::UnknownType: // an empty text stands for the value
         case QMetaType::QString:
@@ -121,10 +123,12 @@ public:
         qint8 isNull = 0;
         qint8 spec = 0;
         m_stream >> type >> isNull;
-        if (type != QMetaType::QDateTime)
+        if (type != QMetaType::QDateTime) {
             return type == QMetaType::UnknownType;
-        if (!skip(DateAndTime))
+        }
+        if (!skip(DateAndTime)) {
             return false;
+        }
         m_stream >> spec;
         return spec != Qt::TimeZone || skipZone();
     }
@@ -146,8 +150,9 @@ private:
     {
         quint32 length = 0;
         m_stream >> length;
-        if (length == 0xffffffff)
+        if (length == 0xffffffff) {
             return true;
+        }
         return length <= left() && skip(length);
     }
 
@@ -187,11 +192,13 @@ private:
     {
         quint32 count = 0;
         m_stream >> count;
-        if (count > left() / 4)
+        if (count > left() / 4) {
             return false;
+        }
         for (; count > 0; --count) {
-            if (!skip())
+            if (!skip()) {
                 return false;
+            }
         }
         return true;
     }
@@ -208,23 +215,28 @@ int unescaped(const QByteArray &line, int *at)
     const char c = line.at((*at)++);
     if (c == '\n' || c == '\r') {
         if (*at < line.size() && line.at(*at) != c
-            && (line.at(*at) == '\n' || line.at(*at) == '\r'))
+            && (line.at(*at) == '\n' || line.at(*at) == '\r')) {
             ++*at;
+        }
         return -1;
     }
-    if (const char *letter = std::strchr(Letters, c); c != 0 && letter)
+    if (const char *letter = std::strchr(Letters, c); c != 0 && letter) {
         return Meanings[letter - Letters];
+    }
     const bool isHex = c == 'x';
-    if (!isHex && (c < '0' || c > '7'))
+    if (!isHex && (c < '0' || c > '7')) {
         return -1;
-    if (isHex && (*at == line.size() || !std::isxdigit(uchar(line.at(*at)))))
+    }
+    if (isHex && (*at == line.size() || !std::isxdigit(uchar(line.at(*at))))) {
         return -1;
+    }
     ushort code = isHex ? 0 : ushort(c - '0');
     for (; *at < line.size(); ++*at) {
         const char digit = line.at(*at);
         const bool fits = isHex ? std::isxdigit(uchar(digit)) : digit >= '0' && digit <= '7';
-        if (!fits)
+        if (!fits) {
             break;
+        }
         const int value = digit <= '9' ? digit - '0' : (digit | 0x20) - 'a' + 10;
         code = ushort(code * (isHex ? 16 : 8) + value);
     }
@@ -243,8 +255,9 @@ bool isMarked(const QByteArray &item)
 
 bool isHarmlessItem(const QByteArray &item)
 {
-    if (item.startsWith(VariantMark))
+    if (item.startsWith(VariantMark)) {
         return Walker(item.mid(VariantMarkSize)).isHarmless();
+    }
     return !item.startsWith(DateTimeMark)
         || Walker(item.mid(DateTimeMarkSize)).isHarmlessDateTime();
 }
@@ -255,15 +268,17 @@ bool isHarmlessValue(const QByteArray &value, bool isUtf8)
     QByteArray item;
     const auto append = [&item](int c) {
         // Of other items, which may be long, the beginning is enough.
-        if (c >= 0 && (item.size() < DateTimeMarkSize || isMarked(item)))
+        if (c >= 0 && (item.size() < DateTimeMarkSize || isMarked(item))) {
             item += char(c);
+        }
     };
     bool isQuoted = false;
     bool isAtStart = true;
     for (int at = 0; at < value.size();) {
         const char c = value.at(at++);
-        if (isAtStart && (c == ' ' || c == '\t'))
+        if (isAtStart && (c == ' ' || c == '\t')) {
             continue;
+        }
         isAtStart = false;
         if (c == '\\' && at < value.size()) {
             append(unescaped(value, &at));
@@ -271,8 +286,9 @@ bool isHarmlessValue(const QByteArray &value, bool isUtf8)
             isQuoted = !isQuoted;
             isAtStart = !isQuoted;
         } else if (c == ',' && !isQuoted) {
-            if (!isHarmlessItem(item))
+            if (!isHarmlessItem(item)) {
                 return false;
+            }
             item.clear();
             isAtStart = true;
         } else if (isUtf8 && uchar(c) >= 0x80 && isMarked(item)) {
@@ -299,10 +315,12 @@ struct Line
 int afterBlanksAndComments(const QByteArray &bytes, int at)
 {
     while (at < bytes.size() && std::strchr(" \t\n\r;", bytes.at(at)) && bytes.at(at) != 0) {
-        if (bytes.at(at++) != ';')
+        if (bytes.at(at++) != ';') {
             continue;
-        while (at < bytes.size() && !isLineEnd(bytes.at(at)))
+        }
+        while (at < bytes.size() && !isLineEnd(bytes.at(at))) {
             ++at;
+        }
     }
     return at;
 }
@@ -346,11 +364,13 @@ QByteArray mrvHarmlessSettings(const QByteArray &bytes)
     for (int at = isUtf8 ? mrvUtf8MarkSize : 0; at < bytes.size();) {
         const Line line = lineAfter(bytes, at);
         at = line.end;
-        if (line.equals < 0 || bytes.at(line.begin) == '[')
+        if (line.equals < 0 || bytes.at(line.begin) == '[') {
             continue;
+        }
         const int value = line.equals + 1;
-        if (isHarmlessValue(bytes.mid(value, line.end - value), isUtf8))
+        if (isHarmlessValue(bytes.mid(value, line.end - value), isUtf8)) {
             continue;
+        }
         harmless += bytes.mid(copied, line.begin - copied);
         copied = line.end < bytes.size() && bytes.at(line.end) == '\n' ? line.end + 1 : line.end;
     }

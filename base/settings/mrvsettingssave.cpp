@@ -31,8 +31,9 @@ void makeNewer(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat now;
-    if (::stat(name.constData(), &now) != 0)
+    if (::stat(name.constData(), &now) != 0) {
         return;
+    }
     timespec times[2] = {{0, UTIME_OMIT}, now.st_mtim};
     times[1].tv_nsec += 1000 * 1000;
     if (times[1].tv_nsec >= 1000 * 1000 * 1000) {
@@ -50,8 +51,9 @@ QStringList leftOver(const MRVSettingsMap &found, const MRVSettingsMap &wanted,
 {
     QStringList keys;
     for (auto it = found.cbegin(); it != found.cend(); ++it) {
-        if (!wanted.contains(it.key()) && old.contains(it.key()))
+        if (!wanted.contains(it.key()) && old.contains(it.key())) {
             keys.append(it.key());
+        }
     }
     return keys;
 }
@@ -97,25 +99,29 @@ bool repair(const QString &path, QSettings::Format format, const MRVSettingsMap 
         after,
         [&](QSettings *file) {
             const QStringList removed = leftOver(found, wanted, old);
-            for (const QString &key : removed)
+            for (const QString &key : removed) {
                 file->remove(key);
+            }
             for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
                 // With a key QSettings removes all that lies below it.
-                if (!file->contains(it.key()) || !isUnchanged(it, old))
+                if (!file->contains(it.key()) || !isUnchanged(it, old)) {
                     file->setValue(it.key(), it.value());
+                }
             }
         },
         error);
-    if (error->isEmpty())
+    if (error->isEmpty()) {
         return MRVFileWriter::write(path, whole, error);
+    }
     *error = notWritten(path, *error); // which is about the temporary file
     return false;
 }
 
 bool fail(QString *error, const QString &reason)
 {
-    if (error)
+    if (error) {
         *error = reason;
+    }
     return false;
 }
 
@@ -141,14 +147,16 @@ bool MRVSettings::saveNow(QString *error)
 void MRVSettings::sync()
 {
     QString error;
-    if (!save(Saving::MayBeRepeated, &error))
+    if (!save(Saving::MayBeRepeated, &error)) {
         Q_EMIT saveFailed(error);
+    }
 }
 
 bool MRVSettings::event(QEvent *event)
 {
-    if (event->type() != QEvent::UpdateRequest)
+    if (event->type() != QEvent::UpdateRequest) {
         return QSettings::event(event);
+    }
     sync();
     return true;
 }
@@ -156,18 +164,21 @@ bool MRVSettings::event(QEvent *event)
 bool MRVSettings::save(Saving saving, QString *error)
 {
     const QString path = fileName();
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return fail(error, tr("The settings have no file"));
+    }
     if (isOtherThanFile(path)) {
         // Or QSettings would write when it goes.
-        if (saving == Saving::Last)
+        if (saving == Saving::Last) {
             QSettings::clear();
+        }
         stall();
         return fail(error, notRegular(path));
     }
     const WholeFile whole(this);
-    if (whole.isOpen())
+    if (whole.isOpen()) {
         return saveWhole(saving, error);
+    }
     stall();
     return fail(error, tr("The settings cannot be saved while an array of them is open"));
 }
@@ -196,8 +207,9 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
     // left empty, and forget.
     const MRVSettingsMap wanted = mrvValuesOf(*this);
     m_isDirty = !isSaved(path, format(), before, wanted);
-    if (!m_isDirty)
+    if (!m_isDirty) {
         return true;
+    }
     // What is not whole is what was just written, or what another process has written meanwhile.
     QString reason;
     MRVSettingsMap old;
@@ -215,8 +227,9 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
         oldFile.putBack();
     }
     qCWarning(lcSettings, "%s", qPrintable(reason));
-    if (saving != Saving::Last)
+    if (saving != Saving::Last) {
         setAgain(old, wanted);
+    }
     return fail(error, reason);
 }
 
@@ -224,12 +237,14 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
 void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &wanted)
 {
     for (auto it = old.cbegin(); it != old.cend(); ++it) {
-        if (!wanted.contains(it.key()))
+        if (!wanted.contains(it.key())) {
             QSettings::remove(it.key());
+        }
     }
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        if (!isUnchanged(it, old) || !contains(it.key()))
+        if (!isUnchanged(it, old) || !contains(it.key())) {
             QSettings::setValue(it.key(), it.value());
+        }
     }
     stall();
 }
@@ -246,8 +261,9 @@ void MRVSettings::replaceGroupIn(QSettings *file) const
     file->beginGroup(m_group);
     file->remove(QString());
     const QStringList keys = allKeys();
-    for (const QString &key : keys)
+    for (const QString &key : keys) {
         file->setValue(key, QSettings::value(key));
+    }
     file->endGroup();
 }
 
@@ -255,41 +271,50 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
 {
     const QString path = QFileInfo(fileName).absoluteFilePath();
     const QString same = QFileInfo(path).canonicalFilePath();
-    if (!same.isEmpty() && same == QFileInfo(this->fileName()).canonicalFilePath())
+    if (!same.isEmpty() && same == QFileInfo(this->fileName()).canonicalFilePath()) {
         return saveNow(error);
-    if (isOtherThanFile(path))
+    }
+    if (isOtherThanFile(path)) {
         return fail(error, notRegular(path));
+    }
     QString reason;
-    if (mrvDisarmSettings(path) != path)
+    if (mrvDisarmSettings(path) != path) {
         return fail(error, mrvDamagedText(path));
+    }
     const MRVSettingsLock lock(path);
-    if (lock.isHeldByOther())
+    if (lock.isHeldByOther()) {
         return fail(error, mrvLockedText(path));
+    }
     const QByteArray before =
         QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, &reason) : QByteArray();
-    if (!reason.isEmpty())
+    if (!reason.isEmpty()) {
         return fail(error, reason);
-    if (!mrvIsSettings(before))
+    }
+    if (!mrvIsSettings(before)) {
         return fail(error, tr("The file \"%1\" holds no settings").arg(path));
+    }
     const QByteArray bytes = mrvEditedSettings(
         before, [this](QSettings *file) { replaceGroupIn(file); }, &reason);
-    if (!reason.isEmpty())
+    if (!reason.isEmpty()) {
         return fail(error, notWritten(path, reason));
+    }
     return MRVFileWriter::write(path, bytes, &reason) || fail(error, reason);
 }
 
 void MRVSettings::loadFromFile(const QString &fileName)
 {
     // First, since it may be the store's own file, which may have changes that are not saved yet.
-    if (QFileInfo(fileName) == QFileInfo(this->fileName()))
+    if (QFileInfo(fileName) == QFileInfo(this->fileName())) {
         saveNow();
+    }
     MRVSettingsMap all;
     mrvReadSettings(mrvHarmlessSettings(bytesOf(fileName)), IniFormat, &all);
     const QString prefix = m_group.isEmpty() ? QString() : m_group + QLatin1Char('/');
     remove(QString());
     for (auto it = all.cbegin(); it != all.cend(); ++it) {
-        if (it.key().startsWith(prefix))
+        if (it.key().startsWith(prefix)) {
             setValue(it.key().mid(prefix.size()), it.value());
+        }
     }
     Q_EMIT settingsReset();
 }

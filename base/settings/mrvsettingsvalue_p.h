@@ -22,8 +22,9 @@ inline bool mrvToFlag(const QVariant &value, bool *ok)
 {
     const int type = value.userType();
     *ok = type == QMetaType::Bool;
-    if (*ok || type == QMetaType::UnknownType)
+    if (*ok || type == QMetaType::UnknownType) {
         return value.toBool();
+    }
     static constexpr const char *Words[] = {"false", "true", "no", "yes", "off", "on", "0", "1"};
     const QString text = value.toString().trimmed();
     for (int i = 0; i < int(std::size(Words)); ++i) {

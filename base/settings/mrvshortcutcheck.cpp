@@ -80,8 +80,9 @@ static_assert(std::size(KindNames) == MRVShortcutCheck::UnnamedKey + 1);
 // Shift and Tab is one key, for which there are several ways to write it.
 int normalized(int key)
 {
-    if ((key & ~(AllModifiers | Keypad)) == Qt::Key_Backtab)
+    if ((key & ~(AllModifiers | Keypad)) == Qt::Key_Backtab) {
         return (key & (AllModifiers | Keypad)) | Shift | Qt::Key_Tab;
+    }
     return key;
 }
 
@@ -89,8 +90,9 @@ int normalized(int key)
 std::vector<int> keysOf(const QKeySequence &sequence)
 {
     std::vector<int> keys;
-    for (int i = 0; i < sequence.count(); ++i)
+    for (int i = 0; i < sequence.count(); ++i) {
         keys.push_back(normalized(sequence[uint(i)]) & ~Keypad);
+    }
     return keys;
 }
 
@@ -128,20 +130,25 @@ QList<MRVShortcutCheck::Conflict> MRVShortcutCheck::conflicts(const MRVShortcutS
     QList<Conflict> found;
     const QList<MRVShortcutInfo> infos = scheme.sortedShortcuts();
     for (const MRVShortcutInfo &info : infos) {
-        if (!info.sequence.isEmpty())
+        if (!info.sequence.isEmpty()) {
             commands.push_back({info.id, keysOf(info.sequence)});
+        }
     }
     for (auto one = commands.cbegin(); one != commands.cend(); ++one) {
         const QKeySequence sequence = scheme.shortcut(one->id);
-        if (isDesktopKey(sequence))
+        if (isDesktopKey(sequence)) {
             found.append({DesktopKey, one->id, MRVShortcut::NoId});
-        if (isTypingKey(sequence))
+        }
+        if (isTypingKey(sequence)) {
             found.append({TypingKey, one->id, MRVShortcut::NoId});
-        if (isUnnamedKey(sequence))
+        }
+        if (isUnnamedKey(sequence)) {
             found.append({UnnamedKey, one->id, MRVShortcut::NoId});
+        }
         for (auto two = commands.cbegin(); two != commands.cend(); ++two) {
-            if (one == two || !beginsWith(two->keys, one->keys))
+            if (one == two || !beginsWith(two->keys, one->keys)) {
                 continue;
+            }
             if (one->keys.size() < two->keys.size()) {
                 found.append({Prefix, one->id, two->id});
             } else if (one->id < two->id) {
@@ -198,8 +205,9 @@ QList<MRVShortcut::Id> MRVShortcutCheck::owners(const MRVShortcutScheme &scheme,
     const std::vector<int> keys = keysOf(sequence);
     const QList<MRVShortcutInfo> infos = scheme.sortedShortcuts();
     for (const MRVShortcutInfo &info : infos) {
-        if (!keys.empty() && keysOf(info.sequence) == keys)
+        if (!keys.empty() && keysOf(info.sequence) == keys) {
             ids.append(info.id);
+        }
     }
     return ids;
 }
@@ -207,8 +215,9 @@ QList<MRVShortcut::Id> MRVShortcutCheck::owners(const MRVShortcutScheme &scheme,
 bool MRVShortcutCheck::isDesktopKey(const QKeySequence &sequence)
 {
     for (int i = 0; i < sequence.count(); ++i) {
-        if (contains(DesktopKeys, normalized(sequence[uint(i)])))
+        if (contains(DesktopKeys, normalized(sequence[uint(i)]))) {
             return true;
+        }
     }
     return false;
 }
@@ -235,8 +244,9 @@ QList<MRVShortcutCheck::Difference> MRVShortcutCheck::differences(const MRVShort
     for (const MRVShortcutInfo &info : infos) {
         const Difference difference{info.id, before.shortcutInfo(info.id),
                                     after.shortcutInfo(info.id)};
-        if (difference.before != difference.after)
+        if (difference.before != difference.after) {
             found.append(difference);
+        }
     }
     return found;
 }

@@ -30,17 +30,20 @@ QList<MRVShortcut::Id> sortedIds(const Shortcuts &shortcuts)
 bool holdsWhatItClaims(QDataStream &stream)
 {
     QIODevice *device = stream.device();
-    if (stream.status() != QDataStream::Ok || !device)
+    if (stream.status() != QDataStream::Ok || !device) {
         return false;
-    if (device->isSequential())
+    }
+    if (device->isSequential()) {
         return true; // what has not arrived yet cannot be counted
+    }
     char bytes[sizeof(quint32)];
     if (device->peek(bytes, sizeof bytes) == qint64(sizeof bytes)) {
         const quint32 length = stream.byteOrder() == QDataStream::BigEndian
             ? qFromBigEndian<quint32>(bytes)
             : qFromLittleEndian<quint32>(bytes);
-        if (length == NullLength || length <= device->bytesAvailable() - qint64(sizeof bytes))
+        if (length == NullLength || length <= device->bytesAvailable() - qint64(sizeof bytes)) {
             return true;
+        }
     }
     stream.setStatus(QDataStream::ReadPastEnd);
     return false;
@@ -50,8 +53,9 @@ bool holdsWhatItClaims(QDataStream &stream)
 template<typename T>
 bool readValue(QDataStream &stream, T *value)
 {
-    if (!holdsWhatItClaims(stream))
+    if (!holdsWhatItClaims(stream)) {
         return false;
+    }
     stream >> *value;
     return stream.status() == QDataStream::Ok;
 }
@@ -72,8 +76,9 @@ MRVShortcutScheme::MRVShortcutScheme(const QString &name, const Shortcuts &short
 MRVShortcutScheme::MRVShortcutScheme(const QByteArray &data, bool mergeDefaults)
     : MRVShortcutScheme(fromByteArray(data))
 {
-    if (mergeDefaults)
+    if (mergeDefaults) {
         mergeMissingShortcuts(morvane().m_shortcuts);
+    }
 }
 
 QList<MRVShortcutInfo> MRVShortcutScheme::sortedShortcuts() const
@@ -81,8 +86,9 @@ QList<MRVShortcutInfo> MRVShortcutScheme::sortedShortcuts() const
     QList<MRVShortcutInfo> infos;
     infos.reserve(m_shortcuts.size());
     const QList<Id> ids = sortedIds(m_shortcuts);
-    for (const Id id : ids)
+    for (const Id id : ids) {
         infos.append(m_shortcuts.value(id));
+    }
     return infos;
 }
 
@@ -107,16 +113,18 @@ bool MRVShortcutScheme::contains(const QKeySequence &sequence) const
 bool MRVShortcutScheme::setShortcut(Id id, const QKeySequence &sequence)
 {
     const auto found = m_shortcuts.find(id);
-    if (found == m_shortcuts.end())
+    if (found == m_shortcuts.end()) {
         return false;
+    }
     found->sequence = sequence;
     return true;
 }
 
 bool MRVShortcutScheme::setShortcut(Id id, const MRVShortcutInfo &info)
 {
-    if (!MRVShortcut::isValid(id))
+    if (!MRVShortcut::isValid(id)) {
         return false;
+    }
     m_shortcuts.insert(id, {id, info.sequence, info.text});
     return true;
 }
@@ -124,15 +132,17 @@ bool MRVShortcutScheme::setShortcut(Id id, const MRVShortcutInfo &info)
 void MRVShortcutScheme::mergeMissingShortcuts(const Shortcuts &shortcuts)
 {
     for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it) {
-        if (!m_shortcuts.contains(it.key()))
+        if (!m_shortcuts.contains(it.key())) {
             setShortcut(it.key(), it.value());
+        }
     }
 }
 
 void MRVShortcutScheme::mergeShortcuts(const Shortcuts &shortcuts)
 {
-    for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it)
+    for (auto it = shortcuts.cbegin(); it != shortcuts.cend(); ++it) {
         setShortcut(it.key(), it.value());
+    }
 }
 
 void MRVShortcutScheme::mergeCopy(const MRVShortcutScheme &other)
@@ -162,8 +172,9 @@ QList<MRVShortcutInfo> MRVShortcutScheme::groupShortcuts(const QString &group) c
     QList<MRVShortcutInfo> infos;
     const QList<Id> ids = sortedIds(m_shortcuts);
     for (const Id id : ids) {
-        if (MRVShortcut::group(id) == group)
+        if (MRVShortcut::group(id) == group) {
             infos.append(m_shortcuts.value(id));
+        }
     }
     return infos;
 }
@@ -177,8 +188,9 @@ QList<MRVShortcutInfo> MRVShortcutScheme::groupShortcuts(const QString &group,
 QStringList MRVShortcutScheme::shortcutGroups() const
 {
     QSet<QString> groups;
-    for (auto it = m_shortcuts.cbegin(); it != m_shortcuts.cend(); ++it)
+    for (auto it = m_shortcuts.cbegin(); it != m_shortcuts.cend(); ++it) {
         groups.insert(MRVShortcut::group(it.key()));
+    }
     QStringList sorted = groups.values();
     sorted.sort();
     return sorted;
@@ -188,13 +200,15 @@ QStringList MRVShortcutScheme::shortcutGroups() const
 // sequence that is not empty and that no text stands for.
 QKeySequence MRVShortcutScheme::toSequence(const QString &portableText)
 {
-    if (portableText.size() > MaxKeyText)
+    if (portableText.size() > MaxKeyText) {
         return QKeySequence();
+    }
     const QKeySequence sequence(portableText, QKeySequence::PortableText);
     for (int i = 0; i < sequence.count(); ++i) {
         const int key = sequence[uint(i)] & ~int(Qt::KeyboardModifierMask);
-        if (key == 0 || key == Qt::Key_unknown)
+        if (key == 0 || key == Qt::Key_unknown) {
             return QKeySequence();
+        }
     }
     return sequence;
 }
@@ -202,8 +216,9 @@ QKeySequence MRVShortcutScheme::toSequence(const QString &portableText)
 MRVShortcutScheme::Shortcuts MRVShortcutScheme::toHash(const QList<MRVShortcutInfo> &infos)
 {
     Shortcuts shortcuts;
-    for (const MRVShortcutInfo &info : infos)
+    for (const MRVShortcutInfo &info : infos) {
         shortcuts.insert(info.id, info);
+    }
     return shortcuts;
 }
 
@@ -238,11 +253,13 @@ MRVShortcutScheme MRVShortcutScheme::load(const QString &path, QString *error)
     MRVShortcutScheme scheme;
     if (reason.isEmpty()) {
         scheme = fromByteArray(data, &reason);
-        if (!reason.isEmpty())
+        if (!reason.isEmpty()) {
             reason = tr("%1: %2").arg(path, reason);
+        }
     }
-    if (error && !reason.isEmpty())
+    if (error && !reason.isEmpty()) {
         *error = reason;
+    }
     return scheme;
 }
 
@@ -256,8 +273,9 @@ QString MRVShortcutScheme::toText() const
     QString text;
     const QStringList groups = shortcutGroups();
     for (const QString &group : groups) {
-        if (!text.isEmpty())
+        if (!text.isEmpty()) {
             text += u'\n';
+        }
         text += group.toUpper() + u'\n';
         const QList<MRVShortcutInfo> infos = groupShortcuts(group);
         for (const MRVShortcutInfo &info : infos) {
@@ -323,9 +341,10 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
     qint32 count = 0;
     const bool hasVersion = readValue(stream, &version);
     if (!hasVersion || version != QLatin1String(version_1_0)) {
-        if (error)
+        if (error) {
             *error = hasVersion ? tr("it is no shortcut scheme of a known version")
                                 : tr("it is no shortcut scheme");
+        }
         return;
     }
     if (readValue(stream, &name)) {
@@ -336,18 +355,23 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
         QByteArray key;
         QString sequence;
         QString text;
-        if (!readValue(stream, &key) || !readValue(stream, &sequence) || !readValue(stream, &text))
+        if (!readValue(stream, &key) || !readValue(stream, &sequence)
+            || !readValue(stream, &text)) {
             break;
+        }
         const Id id = MRVShortcut::keyToValue(key.constData());
         // The look-up also takes "MRVShortcut::Save", and stops at a null character.
-        if (MRVShortcut::isValid(id) && key == MRVShortcut::valueToKey(id))
+        if (MRVShortcut::isValid(id) && key == MRVShortcut::valueToKey(id)) {
             m_shortcuts.insert(id, {id, toSequence(sequence), text});
+        }
     }
-    if (count < 0)
+    if (count < 0) {
         stream.setStatus(QDataStream::ReadCorruptData);
-    if (error && stream.status() != QDataStream::Ok)
+    }
+    if (error && stream.status() != QDataStream::Ok) {
         *error = tr("it is damaged or cut short; shortcuts that could be read: %n", nullptr,
                     m_shortcuts.size());
+    }
 }
 
 QDataStream &operator<<(QDataStream &stream, const MRVShortcutScheme &scheme)

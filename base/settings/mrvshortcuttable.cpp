@@ -9,8 +9,9 @@ template<typename Row, std::size_t Size>
 constexpr bool holdsEachIdInOrder(const Row (&rows)[Size])
 {
     for (std::size_t i = 0; i < Size; ++i) {
-        if (rows[i].id != int(i) + 1 || !*rows[i].group || !*rows[i].text)
+        if (rows[i].id != int(i) + 1 || !*rows[i].group || !*rows[i].text) {
             return false;
+        }
     }
     return rows[Size - 1].id == MRVShortcut::FullScreenGoTo;
 }

@@ -51,8 +51,9 @@ QDataStream &operator>>(QDataStream &stream, MRVTextPreset &preset)
 {
     qint32 version = 0;
     stream >> version;
-    if (stream.status() != QDataStream::Ok)
+    if (stream.status() != QDataStream::Ok) {
         return stream;
+    }
     if (version != Version) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return stream;

@@ -48,8 +48,9 @@ void MRVTextPresetMgr::setPresetScheme(const MRVTextPresetScheme &scheme)
 
 void MRVTextPresetMgr::removePreset(const QString &name)
 {
-    if (!m_scheme.deletePreset(name))
+    if (!m_scheme.deletePreset(name)) {
         return;
+    }
     savePresetScheme(m_scheme);
     Q_EMIT presetsChanged();
 }
@@ -58,8 +59,9 @@ QString MRVTextPresetMgr::presetSchemeFilePath()
 {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
                       + QLatin1String("/TextPresets"));
-    if (!folder.mkpath(QStringLiteral(".")) || !QFileInfo(folder.path()).isExecutable())
+    if (!folder.mkpath(QStringLiteral(".")) || !QFileInfo(folder.path()).isExecutable()) {
         return QString();
+    }
     return folder.filePath(QStringLiteral("TextPresets.bin"));
 }
 
@@ -69,8 +71,9 @@ void MRVTextPresetMgr::savePresetScheme(const MRVTextPresetScheme &scheme)
     const QString path = presetSchemeFilePath();
     QString error;
     if (!path.isEmpty() && keepDamaged(path, &error)
-        && MRVCoreUtil::WriteBinaryFile(bytes, path, &error))
+        && MRVCoreUtil::WriteBinaryFile(bytes, path, &error)) {
         return;
+    }
     qCWarning(lcSettings, "The text presets go to the settings: %s", qPrintable(error));
     mrvOptions()->setValue(MRVOptions::TextPresets, bytes);
 }
@@ -81,8 +84,9 @@ MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
     QString error;
     if (!path.isEmpty() && QFileInfo::exists(path)) {
         const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
-        if (error.isEmpty())
+        if (error.isEmpty()) {
             return MRVTextPresetScheme::fromByteArray(bytes);
+        }
         qCWarning(lcSettings, "%s", qPrintable(error));
     }
     return MRVTextPresetScheme::fromByteArray(mrvOptions()->value(MRVOptions::TextPresets));

@@ -44,10 +44,12 @@ MRVTextPreset defaultPreset(const DefaultRow &row)
     // No setFont(), which would set twenty properties more.
     QTextCharFormat charFormat;
     charFormat.setFontPointSize(row.size);
-    if (row.weight != 0)
+    if (row.weight != 0) {
         charFormat.setFontWeight(row.weight);
-    if (row.isPreserved)
+    }
+    if (row.isPreserved) {
         charFormat.setProperty(MRVTextFormat::PreserveFormatProperty, true);
+    }
     QTextBlockFormat blockFormat;
     blockFormat.setAlignment(row.alignment);
     blockFormat.setLeftMargin(row.indent);
@@ -66,15 +68,17 @@ bool readName(QDataStream &stream, QString *name)
 {
     quint32 length = 0;
     stream >> length;
-    if (stream.status() != QDataStream::Ok || length == NullLength)
+    if (stream.status() != QDataStream::Ok || length == NullLength) {
         return stream.status() == QDataStream::Ok;
+    }
     if (length % 2 != 0 || length > stream.device()->bytesAvailable()) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return false;
     }
     name->resize(int(length / 2));
-    for (QChar &unit : *name)
+    for (QChar &unit : *name) {
         stream >> unit;
+    }
     return stream.status() == QDataStream::Ok;
 }
 
@@ -98,22 +102,25 @@ QByteArray MRVTextPresetScheme::toByteArray(const MRVTextPresetScheme &scheme)
 MRVTextPresetScheme MRVTextPresetScheme::fromByteArray(const QByteArray &bytes, QString *error)
 {
     MRVTextPresetScheme scheme;
-    if (bytes.isEmpty())
+    if (bytes.isEmpty()) {
         return scheme;
+    }
     // Not through MCoreType, which gives nothing at all where something is damaged.
     QDataStream stream(bytes);
     stream.setVersion(MCoreType::StreamVersion);
     stream >> scheme;
-    if (stream.status() != QDataStream::Ok && error)
+    if (stream.status() != QDataStream::Ok && error) {
         *error = tr("The text presets are damaged, or were stored by another version");
+    }
     return scheme;
 }
 
 MRVTextPresetScheme MRVTextPresetScheme::defaultScheme()
 {
     MRVTextPresetScheme scheme;
-    for (const DefaultRow &row : DefaultRows)
+    for (const DefaultRow &row : DefaultRows) {
         scheme.setPreset(QLatin1String(row.name), defaultPreset(row));
+    }
     return scheme;
 }
 
@@ -121,8 +128,9 @@ QDataStream &operator<<(QDataStream &stream, const MRVTextPresetScheme &scheme)
 {
     const QStringList names = scheme.names();
     stream << Version << qint32(names.size());
-    for (const QString &name : names)
+    for (const QString &name : names) {
         stream << name << scheme.preset(name);
+    }
     return stream;
 }
 
@@ -132,21 +140,26 @@ QDataStream &operator>>(QDataStream &stream, MRVTextPresetScheme &scheme)
     qint32 version = 0;
     qint32 count = 0;
     stream >> version;
-    if (stream.status() == QDataStream::Ok && version == Version)
+    if (stream.status() == QDataStream::Ok && version == Version) {
         stream >> count;
-    if (stream.status() != QDataStream::Ok)
+    }
+    if (stream.status() != QDataStream::Ok) {
         return stream;
-    if (version != Version || count < 0)
+    }
+    if (version != Version || count < 0) {
         stream.setStatus(QDataStream::ReadCorruptData);
+    }
     // Nothing is reserved for the count; the data ends before a wrong one does.
     for (; count > 0; --count) {
         QString name;
         MRVTextPreset preset;
-        if (!readName(stream, &name))
+        if (!readName(stream, &name)) {
             break;
+        }
         stream >> preset;
-        if (stream.status() != QDataStream::Ok)
+        if (stream.status() != QDataStream::Ok) {
             break;
+        }
         scheme.setPreset(name, preset);
     }
     return stream;

@@ -13,14 +13,18 @@ Q_LOGGING_CATEGORY(lcNavigator, "mrv.text.navigator", QtWarningMsg)
 
 const char *kindOf(const QTextFormat &format)
 {
-    if (format.isFrameFormat() && format.objectType() == QTextFormat::TableObject)
+    if (format.isFrameFormat() && format.objectType() == QTextFormat::TableObject) {
         return "table";
-    if (format.isCharFormat() && format.objectType() == QTextFormat::TableCellObject)
+    }
+    if (format.isCharFormat() && format.objectType() == QTextFormat::TableCellObject) {
         return "table cell";
-    if (format.isListFormat())
+    }
+    if (format.isListFormat()) {
         return "list";
-    if (format.isCharFormat() && format.objectType() == QTextFormat::ImageObject)
+    }
+    if (format.isCharFormat() && format.objectType() == QTextFormat::ImageObject) {
         return "image";
+    }
     return "text";
 }
 
@@ -34,16 +38,18 @@ MRVDocNavigator::MRVDocNavigator(QTextDocument *document, QObject *parent)
 
 bool MRVDocNavigator::navigate()
 {
-    if (!m_document)
+    if (!m_document) {
         return false;
+    }
     processFrame(*m_document->rootFrame());
     return true;
 }
 
 bool MRVDocNavigator::navigateIteration()
 {
-    if (!m_document)
+    if (!m_document) {
         return false;
+    }
     for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
@@ -73,8 +79,9 @@ void MRVDocNavigator::finishTable(QTextTable &) { }
 
 bool MRVDocNavigator::processBlock(QTextBlock &block)
 {
-    if (!block.isValid())
+    if (!block.isValid()) {
         return false;
+    }
     startBlock(block);
     Q_EMIT blockStarted(block);
     for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
@@ -88,8 +95,9 @@ bool MRVDocNavigator::processBlock(QTextBlock &block)
 
 bool MRVDocNavigator::processFragment(QTextFragment &fragment)
 {
-    if (!fragment.isValid())
+    if (!fragment.isValid()) {
         return false;
+    }
     startFragment(fragment);
     Q_EMIT fragmentStarted(fragment);
     finishFragment(fragment);

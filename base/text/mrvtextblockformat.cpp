@@ -71,23 +71,28 @@ QTextBlockFormat MRVTextBlockFormat::merge(const QTextBlockFormat &existing,
                                            const QList<int> &keep)
 {
     unsigned taken = Data;
-    if (keepIndents)
+    if (keepIndents) {
         taken |= Indents;
-    if (keepSpacing)
+    }
+    if (keepSpacing) {
         taken |= Spacing;
-    if (keepAlignment)
+    }
+    if (keepAlignment) {
         taken |= Alignment;
+    }
 
     QTextBlockFormat result = with;
     MrvFormatMerge::takeGroups(&result, existing, Rows, taken);
     // The language of the text, not its style, sets the direction.
-    if (!with.hasProperty(QTextFormat::LayoutDirection))
+    if (!with.hasProperty(QTextFormat::LayoutDirection)) {
         MrvFormatMerge::takeProperties(&result, existing, {QTextFormat::LayoutDirection});
+    }
     if (!keepSpacing && !hasLineSpacing(with)) {
         result.clearProperty(QTextFormat::HeadingLevel);
-        if (hasHeadingLevel(existing))
+        if (hasHeadingLevel(existing)) {
             result.setProperty(QTextFormat::HeadingLevel,
                                existing.property(QTextFormat::HeadingLevel));
+        }
     }
     MrvFormatMerge::takeProperties(&result, existing, keep);
     return result;

@@ -69,10 +69,11 @@ int weightOf(const QTextCharFormat &format)
 
 void setWeight(QTextCharFormat *format, int weight)
 {
-    if (weight == QFont::Normal)
+    if (weight == QFont::Normal) {
         format->clearProperty(QTextFormat::FontWeight);
-    else
+    } else {
         format->setProperty(QTextFormat::FontWeight, weight);
+    }
 }
 
 // Whether a value emphasises: a decoration that is switched off, or an invalid colour, does not.
@@ -93,11 +94,13 @@ void addEmphasis(QTextCharFormat *result, const QTextCharFormat &existing)
 {
     setWeight(result, qMax(weightOf(*result), weightOf(existing)));
     for (const MrvFormatMerge::Row &row : Rows) {
-        if (row.group != Emphasis || row.first == QTextFormat::FontWeight)
+        if (row.group != Emphasis || row.first == QTextFormat::FontWeight) {
             continue;
+        }
         const QVariant value = existing.property(row.first);
-        if (isEmphasis(value))
+        if (isEmphasis(value)) {
             result->setProperty(row.first, value);
+        }
     }
 }
 
@@ -109,27 +112,34 @@ QTextCharFormat MRVTextCharFormat::merge(const QTextCharFormat &existing,
                                          const QList<int> &keep, bool overridePreserved,
                                          bool combineEmphasis)
 {
-    if (!overridePreserved && mrvIsPreserved(existing))
+    if (!overridePreserved && mrvIsPreserved(existing)) {
         return existing;
+    }
 
     unsigned taken = Data;
-    if (keepSize)
+    if (keepSize) {
         taken |= Size;
-    if (keepColors)
+    }
+    if (keepColors) {
         taken |= Colors;
-    if (keepEmphasis && !combineEmphasis)
+    }
+    if (keepEmphasis && !combineEmphasis) {
         taken |= Emphasis;
-    if (keepFamily)
+    }
+    if (keepFamily) {
         taken |= Family;
+    }
 
     QTextCharFormat result = with;
     MrvFormatMerge::takeGroups(&result, existing, Rows, taken);
-    if (combineEmphasis)
+    if (combineEmphasis) {
         addEmphasis(&result, existing);
+    }
     // The block character format of a cell is the cell's own, and the brush that of its background.
-    if (existing.objectType() == QTextFormat::TableCellObject)
+    if (existing.objectType() == QTextFormat::TableCellObject) {
         MrvFormatMerge::takeProperties(
             &result, existing, {QTextFormat::BackgroundBrush, QTextFormat::BackgroundImageUrl});
+    }
     if (keepSize
         && mrvFuzzyCompare(existing.property(QTextFormat::FontPointSize).toDouble(), 0.0)) {
         result.clearProperty(QTextFormat::FontPointSize);

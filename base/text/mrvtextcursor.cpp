@@ -21,12 +21,14 @@ uint codePointAt(const QTextDocument *document, int position)
     const QChar character = document->characterAt(position);
     if (character.isHighSurrogate()) {
         const QChar low = document->characterAt(position + 1);
-        if (low.isLowSurrogate())
+        if (low.isLowSurrogate()) {
             return QChar::surrogateToUcs4(character, low);
+        }
     } else if (character.isLowSurrogate() && position > 0) {
         const QChar high = document->characterAt(position - 1);
-        if (high.isHighSurrogate())
+        if (high.isHighSurrogate()) {
             return QChar::surrogateToUcs4(high, character);
+        }
     }
     return character.unicode();
 }
@@ -62,8 +64,9 @@ void select(QTextCursor *cursor, int start, int end)
 QTextTable *MRVTextCursor::complexSelectionTable(const QTextCursor &cursor)
 {
     QTextTable *table = cursor.hasSelection() ? cursor.currentTable() : nullptr;
-    if (!table)
+    if (!table) {
         return nullptr;
+    }
     return table->cellAt(cursor.selectionStart()) == table->cellAt(cursor.selectionEnd()) ? nullptr
                                                                                           : table;
 }
@@ -71,8 +74,9 @@ QTextTable *MRVTextCursor::complexSelectionTable(const QTextCursor &cursor)
 QTextCursor MRVTextCursor::selectImage(const QTextCursor &cursor)
 {
     QTextCursor image = cursor;
-    if (image.isNull() || image.hasSelection())
+    if (image.isNull() || image.hasSelection()) {
         return image;
+    }
     if (!image.atBlockStart()) {
         image.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
     } else if (image.block().length() > 1
@@ -85,16 +89,18 @@ QTextCursor MRVTextCursor::selectImage(const QTextCursor &cursor)
 
 bool MRVTextCursor::hasWordBorderBefore(const QTextCursor &cursor, bool atEdge)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return false;
+    }
     const int start = cursor.selectionStart();
     return start == 0 ? atEdge : isWordBorder(cursor.document(), start - 1);
 }
 
 bool MRVTextCursor::hasWordBorderAfter(const QTextCursor &cursor, bool atEdge)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return false;
+    }
     const int end = cursor.selectionEnd();
     return end >= cursor.document()->characterCount() - 1 ? atEdge
                                                           : isWordBorder(cursor.document(), end);
@@ -103,16 +109,18 @@ bool MRVTextCursor::hasWordBorderAfter(const QTextCursor &cursor, bool atEdge)
 bool MRVTextCursor::hasMultipleBlocksSelected(const QTextCursor &cursor)
 {
     // A cursor whose document is gone is null, and may say all the same that it has a selection.
-    if (cursor.isNull() || !cursor.hasSelection() || cursor.hasComplexSelection())
+    if (cursor.isNull() || !cursor.hasSelection() || cursor.hasComplexSelection()) {
         return false;
+    }
     const QTextBlock next = cursor.document()->findBlock(cursor.selectionStart()).next();
     return next.isValid() && cursor.selectionEnd() >= next.position();
 }
 
 void MRVTextCursor::trimTrailingSpaces(QTextCursor *cursor)
 {
-    if (!cursor || cursor->isNull())
+    if (!cursor || cursor->isNull()) {
         return;
+    }
     if (!cursor->hasComplexSelection() && cursor->selectedText().trimmed().isEmpty()) {
         // Paragraph ends are white space; the marks of tables and frames are not, so that the
         // cursor does not leave its frame or cell.
@@ -129,8 +137,9 @@ void MRVTextCursor::trimTrailingSpaces(QTextCursor *cursor)
 
 void MRVTextCursor::selectBlockUnderCursor(QTextCursor *cursor, bool withSeparator)
 {
-    if (!cursor || cursor->isNull())
+    if (!cursor || cursor->isNull()) {
         return;
+    }
     if (!cursor->hasSelection()) {
         const QTextBlock block = cursor->block();
         const int start = withSeparator ? startWithSeparator(block) : block.position();
@@ -163,8 +172,9 @@ void MRVTextCursor::replaceText(QTextCursor &cursor, const QString &text)
 
 QTextCharFormat MRVTextCursor::selectionEndCharFormat(const QTextCursor &cursor)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return QTextCharFormat();
+    }
     QTextCursor end = cursor;
     end.setPosition(cursor.selectionEnd());
     return end.charFormat();

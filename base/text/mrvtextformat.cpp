@@ -118,17 +118,20 @@ void setSpacing(QTextBlockFormat *format, const Spacing &value)
 template<typename Equal>
 Spacing normalized(const Spacing &old, Equal equal)
 {
-    if (equal(old.spacing, old.base))
+    if (equal(old.spacing, old.base)) {
         return {CanonicalBase, CanonicalBase};
-    if (equal(old.base, 0.0))
+    }
+    if (equal(old.base, 0.0)) {
         return {old.spacing, 0.0};
+    }
     return {old.spacing * CanonicalBase / old.base, CanonicalBase};
 }
 
 void copyIfPresent(QTextBlockFormat *to, const QTextBlockFormat &from, int property)
 {
-    if (from.hasProperty(property))
+    if (from.hasProperty(property)) {
         to->setProperty(property, from.property(property));
+    }
 }
 
 // Qt writes a list of anchor names where older data has one name, and no names can be either. A
@@ -136,24 +139,28 @@ void copyIfPresent(QTextBlockFormat *to, const QTextBlockFormat &from, int prope
 QVariant comparable(int property, const QVariant &value)
 {
     if (property == QTextFormat::AnchorName && value.userType() == QMetaType::QStringList
-        && value.toStringList().isEmpty())
+        && value.toStringList().isEmpty()) {
         return MRVTextFormat::defaultProperty(property);
-    if (property == QTextFormat::FontWeight && value.userType() == QMetaType::Int && value == 0)
+    }
+    if (property == QTextFormat::FontWeight && value.userType() == QMetaType::Int && value == 0) {
         return MRVTextFormat::defaultProperty(property);
+    }
     return value;
 }
 
 bool coveredBy(const QMap<int, QVariant> &a, const QMap<int, QVariant> &b)
 {
     for (auto it = a.cbegin(); it != a.cend(); ++it) {
-        if (it.key() == QTextFormat::PageBreakPolicy)
+        if (it.key() == QTextFormat::PageBreakPolicy) {
             continue;
+        }
         const QVariant value = comparable(it.key(), it.value());
         const auto other = b.constFind(it.key());
         const bool same = other != b.cend() ? comparable(it.key(), other.value()) == value
                                             : value == MRVTextFormat::defaultProperty(it.key());
-        if (!same)
+        if (!same) {
             return false;
+        }
     }
     return true;
 }
@@ -165,24 +172,32 @@ QTextCharFormat attributesOf(const QFont &font)
 {
     QTextCharFormat format;
     format.setProperty(QTextFormat::FontFamily, font.families().value(0, font.family()));
-    if (font.pointSizeF() > 0.0)
+    if (font.pointSizeF() > 0.0) {
         format.setProperty(QTextFormat::FontPointSize, font.pointSizeF());
-    else
+    } else {
         format.setProperty(QTextFormat::FontPixelSize, font.pixelSize());
-    if (font.weight() != QFont::Normal)
+    }
+    if (font.weight() != QFont::Normal) {
         format.setProperty(QTextFormat::FontWeight, font.weight());
-    if (font.italic())
+    }
+    if (font.italic()) {
         format.setProperty(QTextFormat::FontItalic, true);
-    if (font.underline())
+    }
+    if (font.underline()) {
         format.setProperty(QTextFormat::TextUnderlineStyle, int(QTextCharFormat::SingleUnderline));
-    if (font.overline())
+    }
+    if (font.overline()) {
         format.setProperty(QTextFormat::FontOverline, true);
-    if (font.strikeOut())
+    }
+    if (font.strikeOut()) {
         format.setProperty(QTextFormat::FontStrikeOut, true);
-    if (font.fixedPitch())
+    }
+    if (font.fixedPitch()) {
         format.setProperty(QTextFormat::FontFixedPitch, true);
-    if (font.capitalization() != QFont::MixedCase)
+    }
+    if (font.capitalization() != QFont::MixedCase) {
         format.setProperty(QTextFormat::FontCapitalization, int(font.capitalization()));
+    }
     return format;
 }
 
@@ -199,8 +214,9 @@ QTextCharFormat MRVTextFormat::setFontHinting(const QTextCharFormat &format, boo
 bool MRVTextFormat::hasAnyProperty(const QTextCharFormat &format, const QSet<int> &properties)
 {
     for (int property : properties) {
-        if (format.hasProperty(property))
+        if (format.hasProperty(property)) {
             return true;
+        }
     }
     return false;
 }
@@ -208,8 +224,9 @@ bool MRVTextFormat::hasAnyProperty(const QTextCharFormat &format, const QSet<int
 QTextBlockFormat MRVTextFormat::simplified(const QTextBlockFormat &format, FormatGroups groups)
 {
     QTextBlockFormat simple;
-    if (groups & LineSpacingGroup)
+    if (groups & LineSpacingGroup) {
         setSpacing(&simple, normalized(spacingOf(format), mrvFuzzyCompare));
+    }
     if (groups & ParagraphSpacingGroup) {
         copyIfPresent(&simple, format, QTextFormat::BlockTopMargin);
         copyIfPresent(&simple, format, QTextFormat::BlockBottomMargin);
@@ -224,8 +241,9 @@ QTextBlockFormat MRVTextFormat::simplified(const QTextBlockFormat &format, Forma
 
 void MRVTextFormat::simplifySpacing(QTextBlockFormat *format)
 {
-    if (!format)
+    if (!format) {
         return;
+    }
     // Deliberate: exact here, where simplified() allows for rounding.
     const auto equal = [](double a, double b) { return a == b; };
     setSpacing(format, normalized(spacingOf(*format), equal));
@@ -255,8 +273,9 @@ MRVTextFormat::SpacingType MRVTextFormat::spacingType(const QTextBlockFormat &fo
         type = ExactSpacing;
         companion = -pair.spacing;
     }
-    if (value)
+    if (value) {
         *value = companion;
+    }
     return type;
 }
 
@@ -270,8 +289,9 @@ bool MRVTextFormat::equivalentSpacing(const QTextBlockFormat &a, const QTextBloc
 
 bool MRVTextFormat::equivalent(const QTextFormat &a, const QTextFormat &b)
 {
-    if (&a == &b)
+    if (&a == &b) {
         return true;
+    }
     mrvRegisterTextTypes();
     const QMap<int, QVariant> propertiesA = a.properties();
     const QMap<int, QVariant> propertiesB = b.properties();
@@ -284,11 +304,13 @@ bool MRVTextFormat::formatsMatch(const QTextCharFormat &format, const QTextCharF
     mrvRegisterTextTypes();
     const QMap<int, QVariant> wanted = pattern.properties();
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        if (!format.hasProperty(it.key()))
+        if (!format.hasProperty(it.key())) {
             return false;
+        }
         // The format's value stands on the left: QVariant converts the right one to its type.
-        if (compareValues && !(format.property(it.key()) == it.value()))
+        if (compareValues && !(format.property(it.key()) == it.value())) {
             return false;
+        }
     }
     return true;
 }
@@ -296,8 +318,9 @@ bool MRVTextFormat::formatsMatch(const QTextCharFormat &format, const QTextCharF
 QVariant MRVTextFormat::defaultProperty(int property)
 {
     for (const DefaultRow &row : DefaultRows) {
-        if (row.property == property)
+        if (row.property == property) {
             return toVariant(row);
+        }
     }
     return QVariant();
 }
@@ -305,8 +328,9 @@ QVariant MRVTextFormat::defaultProperty(int property)
 QTextCharFormat MRVTextFormat::defaultCharFormat(const QTextDocument &document)
 {
     const QVariant kept = document.property(DefaultCharFormatName);
-    if (kept.userType() == QMetaType::QTextFormat)
+    if (kept.userType() == QMetaType::QTextFormat) {
         return kept.value<QTextFormat>().toCharFormat();
+    }
     return attributesOf(document.defaultFont());
 }
 
@@ -315,12 +339,14 @@ void MRVTextFormat::setDefaultCharFormat(QTextDocument &document, const QTextCha
     document.setProperty(DefaultCharFormatName, QVariant::fromValue<QTextFormat>(format));
     QTextCharFormat drawn = format;
     // A stored 0 means normal weight; Qt would draw it hair-thin.
-    if (drawn.intProperty(QTextFormat::FontWeight) == 0)
+    if (drawn.intProperty(QTextFormat::FontWeight) == 0) {
         drawn.clearProperty(QTextFormat::FontWeight);
+    }
     // Qt draws with the first of the families, whatever the single family says.
     const QString family = drawn.property(QTextFormat::FontFamilies).toStringList().value(0);
-    if (!family.isEmpty())
+    if (!family.isEmpty()) {
         drawn.setProperty(QTextFormat::FontFamily, family);
+    }
     document.setDefaultFont(drawn.font());
 }
 
@@ -328,8 +354,9 @@ int MRVTextFormat::morvaneLinkId(const QString &href)
 {
     static const QRegExp pattern(QStringLiteral("^\\d+$"), Qt::CaseSensitive);
     // A QRegExp remembers its last match, so the shared one is copied.
-    if (QRegExp(pattern).indexIn(href) < 0)
+    if (QRegExp(pattern).indexIn(href) < 0) {
         return -1;
+    }
     bool ok = false;
     const int id = href.toInt(&ok);
     return ok ? id : -1;

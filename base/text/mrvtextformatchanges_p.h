@@ -72,8 +72,9 @@ public:
             const Format existing = present();
             Format replacement = compute(existing);
             std::optional<Format> changed;
-            if (!mrvIsSameFormat(replacement, existing))
+            if (!mrvIsSameFormat(replacement, existing)) {
                 changed = std::move(replacement);
+            }
             it = m_values.insert(key, changed);
         }
         return it.value();

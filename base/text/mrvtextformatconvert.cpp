@@ -57,14 +57,18 @@ public:
     void restyle(const QTextBlock &first, const QTextBlock &last, int start, int end)
     {
         for (QTextBlock block = first; block.isValid(); block = block.next()) {
-            if (m_style.charFormat)
+            if (m_style.charFormat) {
                 collectBlockCharFormat(block);
-            if (m_style.blockFormat)
+            }
+            if (m_style.blockFormat) {
                 collectBlockFormat(block);
-            if (m_style.charFormat)
+            }
+            if (m_style.charFormat) {
                 collectRuns(block, start, end);
-            if (block == last)
+            }
+            if (block == last) {
                 break;
+            }
         }
     }
 
@@ -83,8 +87,9 @@ private:
     void collectBlockCharFormat(const QTextBlock &block)
     {
         const auto &changed = replacement(block);
-        if (changed)
+        if (changed) {
             m_changes.setBlockCharFormat(block.position(), *changed);
+        }
     }
 
     void collectBlockFormat(const QTextBlock &block)
@@ -97,22 +102,26 @@ private:
         const auto &changed = m_blocks.value(
             qMakePair(block.blockFormatIndex(), firstChar), [&] { return block.blockFormat(); },
             [&](const QTextBlockFormat &) { return m_style.merged(block); });
-        if (changed)
+        if (changed) {
             m_changes.setBlockFormat(block.position(), *changed);
+        }
     }
 
     void collectRuns(const QTextBlock &block, int start, int end)
     {
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment run = it.fragment();
-            if (!run.isValid() || run.position() + run.length() <= start)
+            if (!run.isValid() || run.position() + run.length() <= start) {
                 continue;
-            if (run.position() >= end)
+            }
+            if (run.position() >= end) {
                 break;
+            }
             const auto &changed = replacement(run);
-            if (changed)
+            if (changed) {
                 m_changes.setCharFormat(qMax(run.position(), start),
                                         qMin(run.position() + run.length(), end), *changed);
+            }
         }
     }
 
@@ -135,15 +144,17 @@ QTextCharFormat withAvailableWeight(const QTextCharFormat &existing)
     const int stored = existing.intProperty(QTextFormat::FontWeight);
     const int weight = stored == 0 ? int(QFont::Normal) : stored;
     const QString family = familyOf(existing);
-    if (MRVTextUtil::hasWeight(family, weight))
+    if (MRVTextUtil::hasWeight(family, weight)) {
         return existing;
+    }
     QTextCharFormat format = existing;
     const int closest = MRVTextUtil::closestFontWeight(family, weight);
     // Deliberate: normal weight is unset, so that it keeps inheriting from the document's default.
-    if (closest == QFont::Normal)
+    if (closest == QFont::Normal) {
         format.clearProperty(QTextFormat::FontWeight);
-    else
+    } else {
         format.setProperty(QTextFormat::FontWeight, closest);
+    }
     return format;
 }
 
@@ -155,11 +166,13 @@ QTextBlockFormat MRVTextFormat::mergeBlockFormat(const QTextBlock &block,
                                                  const QList<int> &keep)
 {
     // A cursor of an invalid block crashes.
-    if (!block.isValid())
+    if (!block.isValid()) {
         return MRVTextBlockFormat::merge(QTextBlockFormat(), with, keepIndents, keepSpacing,
                                          keepAlignment, keep);
-    if (mrvIsPreserved(QTextCursor(block).charFormat()))
+    }
+    if (mrvIsPreserved(QTextCursor(block).charFormat())) {
         return block.blockFormat();
+    }
     return MRVTextBlockFormat::merge(block.blockFormat(), with, keepIndents || block.textList(),
                                      keepSpacing, keepAlignment, keep);
 }
@@ -171,8 +184,9 @@ void MRVTextFormat::convertToFormat(QTextDocument *document, const QTextCharForm
                                     const QList<int> &keep, bool overridePreserved,
                                     bool combineEmphasis)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     convertToFormat(document, 0, document->characterCount() - 1, charFormat, blockFormat, keepSize,
                     keepColors, keepEmphasis, keepIndents, keepSpacing, keepAlignment, keepFamily,
                     keep, overridePreserved, combineEmphasis);
@@ -186,12 +200,14 @@ void MRVTextFormat::convertToFormat(QTextDocument *document, int start, int end,
                                     const QList<int> &keep, bool overridePreserved,
                                     bool combineEmphasis)
 {
-    if (!document || end < start)
+    if (!document || end < start) {
         return;
+    }
     const QTextBlock first = document->findBlock(start);
     const QTextBlock last = document->findBlock(end);
-    if (!first.isValid() || !last.isValid())
+    if (!first.isValid() || !last.isValid()) {
         return;
+    }
     const Style style{charFormat,   blockFormat, keepSize,          keepColors,
                       keepEmphasis, keepIndents, keepSpacing,       keepAlignment,
                       keepFamily,   keep,        overridePreserved, combineEmphasis};
@@ -207,8 +223,9 @@ void MRVTextFormat::convertToFormat(const QTextCursor &cursor, const QTextCharFo
                                     const QList<int> &keep, bool overridePreserved,
                                     bool combineEmphasis)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     convertToFormat(cursor.document(), cursor.selectionStart(), cursor.selectionEnd(), charFormat,
                     blockFormat, keepSize, keepColors, keepEmphasis, keepIndents, keepSpacing,
                     keepAlignment, keepFamily, keep, overridePreserved, combineEmphasis);
@@ -216,8 +233,9 @@ void MRVTextFormat::convertToFormat(const QTextCursor &cursor, const QTextCharFo
 
 void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     const int start = cursor.selectionStart();
     const int end = cursor.selectionEnd();
     MrvFormatChanges changes;
@@ -226,18 +244,22 @@ void MRVTextFormat::adjustFontWeight(const QTextCursor &cursor)
     for (; block.isValid(); block = block.next()) {
         const auto &blockChar = replacements.value(
             block.charFormatIndex(), [&] { return block.charFormat(); }, withAvailableWeight);
-        if (blockChar)
+        if (blockChar) {
             changes.setBlockCharFormat(block.position(), *blockChar);
+        }
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment run = it.fragment();
-            if (!run.isValid() || run.position() < start)
+            if (!run.isValid() || run.position() < start) {
                 continue;
-            if (run.position() > end)
+            }
+            if (run.position() > end) {
                 break;
+            }
             const auto &changed = replacements.value(
                 run.charFormatIndex(), [&] { return run.charFormat(); }, withAvailableWeight);
-            if (changed)
+            if (changed) {
                 changes.setCharFormat(run.position(), run.position() + run.length(), *changed);
+            }
         }
     }
     changes.apply(cursor.document());

@@ -37,8 +37,9 @@ QString MRVTextFormat::imageName(const QTextImageFormat &format)
 
 QString MRVTextFormat::imageType(const QTextImageFormat &format, const char *defaultType)
 {
-    if (format.hasProperty(ImageTypeProperty))
+    if (format.hasProperty(ImageTypeProperty)) {
         return format.stringProperty(ImageTypeProperty);
+    }
     return QString::fromLatin1(defaultType ? defaultType : "PNG");
 }
 
@@ -72,34 +73,40 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
                                       const QImage &image, QString *error)
 {
     if (fileName.isEmpty()) {
-        if (error)
+        if (error) {
             *error = tr("The picture has no file name.");
+        }
         return false;
     }
     const QString link = imageLink(format);
     const bool linked = !link.isEmpty() && QFileInfo(link).isFile();
     // Removing the target would destroy the picture's only copy.
-    if (linked && isSameFile(link, fileName))
+    if (linked && isSameFile(link, fileName)) {
         return true;
+    }
     // Deliberate: gone before anything is written, so that a failure leaves no stale file.
-    if (QFile::exists(fileName))
+    if (QFile::exists(fileName)) {
         QFile::remove(fileName);
+    }
 
     const QString suffix = QFileInfo(fileName).suffix();
-    if (linked && QFileInfo(link).suffix() == suffix && copyFile(link, fileName))
+    if (linked && QFileInfo(link).suffix() == suffix && copyFile(link, fileName)) {
         return true;
+    }
 
     const QString lower = fileName.toLower();
     const bool jpeg =
         lower.endsWith(QLatin1String(".jpeg")) || lower.endsWith(QLatin1String(".jpg"));
     if (jpeg) {
         const QByteArray raw = imageRawData(format);
-        if (!raw.isEmpty() && MRVCoreUtil::WriteBinaryFile(raw, fileName))
+        if (!raw.isEmpty() && MRVCoreUtil::WriteBinaryFile(raw, fileName)) {
             return true;
+        }
     }
     const QByteArray bytes = MRVGuiUtil::toByteArray(image, suffix.toUpper().toLatin1().constData(),
                                                      jpeg ? JpegQuality : DefaultQuality);
-    if (bytes.isEmpty() && error)
+    if (bytes.isEmpty() && error) {
         *error = tr("The picture cannot be encoded for the file \"%1\".").arg(fileName);
+    }
     return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, fileName, error);
 }

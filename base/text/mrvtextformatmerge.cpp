@@ -7,10 +7,11 @@ namespace {
 
 void takeProperty(QTextFormat *result, const QTextFormat &existing, int property)
 {
-    if (existing.hasProperty(property))
+    if (existing.hasProperty(property)) {
         result->setProperty(property, existing.property(property));
-    else
+    } else {
         result->clearProperty(property);
+    }
 }
 
 } // namespace
@@ -18,10 +19,12 @@ void takeProperty(QTextFormat *result, const QTextFormat &existing, int property
 unsigned MrvFormatMerge::groupOf(const Table &table, int property)
 {
     for (const Row &row : table) {
-        if (property < row.first)
+        if (property < row.first) {
             break;
-        if (property <= row.last)
+        }
+        if (property <= row.last) {
             return row.group;
+        }
     }
     return Restyled;
 }
@@ -31,13 +34,15 @@ void MrvFormatMerge::takeGroups(QTextFormat *result, const QTextFormat &existing
 {
     const QMap<int, QVariant> restyled = result->properties();
     for (auto it = restyled.cbegin(); it != restyled.cend(); ++it) {
-        if (groupOf(table, it.key()) & groups)
+        if (groupOf(table, it.key()) & groups) {
             result->clearProperty(it.key());
+        }
     }
     const QMap<int, QVariant> old = existing.properties();
     for (auto it = old.cbegin(); it != old.cend(); ++it) {
-        if (groupOf(table, it.key()) & groups)
+        if (groupOf(table, it.key()) & groups) {
             result->setProperty(it.key(), it.value());
+        }
     }
 }
 

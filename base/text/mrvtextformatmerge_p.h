@@ -43,8 +43,9 @@ constexpr bool isAscending(const Table &table)
 {
     int previous = -1;
     for (const Row &row : table) {
-        if (row.first <= previous || row.last < row.first || row.group == Restyled)
+        if (row.first <= previous || row.last < row.first || row.group == Restyled) {
             return false;
+        }
         previous = row.last;
     }
     return true;

@@ -150,8 +150,9 @@ constexpr FormatWalker::UserTypeRow FormatWalker::UserTypes[] = {
 
 bool FormatWalker::skip(qint64 size)
 {
-    if (size > left())
+    if (size > left()) {
         return false;
+    }
     m_at += size;
     return true;
 }
@@ -160,8 +161,9 @@ template<typename T>
 bool FormatWalker::read(T *value)
 {
     const char *at = m_at;
-    if (!skip(sizeof(T)))
+    if (!skip(sizeof(T))) {
         return false;
+    }
     *value = qFromBigEndian<T>(at);
     return true;
 }
@@ -169,8 +171,9 @@ bool FormatWalker::read(T *value)
 bool FormatWalker::readDouble(double *value)
 {
     quint64 bits = 0;
-    if (!read(&bits))
+    if (!read(&bits)) {
         return false;
+    }
     std::memcpy(value, &bits, sizeof bits);
     return true;
 }
@@ -193,12 +196,14 @@ bool FormatWalker::format(int formatType)
 {
     qint32 type = 0;
     quint32 properties = 0;
-    if (!read(&type) || type != formatType || !read(&properties) || properties > MaxProperties)
+    if (!read(&type) || type != formatType || !read(&properties) || properties > MaxProperties) {
         return false;
+    }
     for (quint32 i = 0; i < properties; ++i) {
         qint32 property = 0;
-        if (!read(&property) || property < 0 || !variant())
+        if (!read(&property) || property < 0 || !variant()) {
             return false;
+        }
     }
     return true;
 }
@@ -207,13 +212,16 @@ bool FormatWalker::variant()
 {
     quint32 type = 0;
     quint8 isNull = 0;
-    if (!read(&type) || !read(&isNull))
+    if (!read(&type) || !read(&isNull)) {
         return false;
-    if (type == quint32(QMetaType::User))
+    }
+    if (type == quint32(QMetaType::User)) {
         return userValue();
+    }
     for (const TypeRow &row : Types) {
-        if (quint32(row.type) == type)
+        if (quint32(row.type) == type) {
             return row.step ? (this->*row.step)() : skip(row.size);
+        }
     }
     return false;
 }
@@ -222,12 +230,14 @@ bool FormatWalker::userValue()
 {
     quint32 length = 0;
     const char *name = nullptr;
-    if (!read(&length) || (name = m_at, !skip(length)))
+    if (!read(&length) || (name = m_at, !skip(length))) {
         return false;
+    }
     for (const UserTypeRow &row : UserTypes) {
         // The name is stored with the zero that ends it.
-        if (length == std::strlen(row.name) + 1 && std::memcmp(name, row.name, length) == 0)
+        if (length == std::strlen(row.name) + 1 && std::memcmp(name, row.name, length) == 0) {
             return (this->*row.step)();
+        }
     }
     return false;
 }
@@ -247,11 +257,13 @@ bool FormatWalker::string()
 bool FormatWalker::stringList()
 {
     quint32 items = 0;
-    if (!count(&items, 4))
+    if (!count(&items, 4)) {
         return false;
+    }
     for (quint32 i = 0; i < items; ++i) {
-        if (!string())
+        if (!string()) {
             return false;
+        }
     }
     return true;
 }
@@ -259,12 +271,14 @@ bool FormatWalker::stringList()
 bool FormatWalker::list()
 {
     quint32 items = 0;
-    if (m_depth == MaxDepth || !count(&items, 5))
+    if (m_depth == MaxDepth || !count(&items, 5)) {
         return false;
+    }
     ++m_depth;
     for (quint32 i = 0; i < items; ++i) {
-        if (!variant())
+        if (!variant()) {
             return false;
+        }
     }
     --m_depth;
     return true;
@@ -273,12 +287,14 @@ bool FormatWalker::list()
 bool FormatWalker::map()
 {
     quint32 items = 0;
-    if (m_depth == MaxDepth || !count(&items, 9))
+    if (m_depth == MaxDepth || !count(&items, 9)) {
         return false;
+    }
     ++m_depth;
     for (quint32 i = 0; i < items; ++i) {
-        if (!string() || !variant())
+        if (!string() || !variant()) {
             return false;
+        }
     }
     --m_depth;
     return true;
@@ -288,8 +304,9 @@ bool FormatWalker::map()
 bool FormatWalker::dateTime()
 {
     qint8 spec = 0;
-    if (!skip(12) || !read(&spec))
+    if (!skip(12) || !read(&spec)) {
         return false;
+    }
     return spec == Qt::LocalTime || spec == Qt::UTC || (spec == Qt::OffsetFromUTC && skip(4));
 }
 
@@ -302,14 +319,17 @@ bool FormatWalker::color()
 bool FormatWalker::brush()
 {
     quint8 style = 0;
-    if (!read(&style) || !color())
+    if (!read(&style) || !color()) {
         return false;
+    }
     if (style >= Qt::LinearGradientPattern && style <= Qt::ConicalGradientPattern) {
-        if (!gradient(style))
+        if (!gradient(style)) {
             return false;
+        }
     } else if (style == Qt::TexturePattern) {
-        if (!image())
+        if (!image()) {
             return false;
+        }
     } else if (style > Qt::DiagCrossPattern) {
         return false;
     }
@@ -324,12 +344,14 @@ bool FormatWalker::gradient(quint8 style)
     if (!read(&type) || type != quint32(style - Qt::LinearGradientPattern)
         || !enumeration(QGradient::RepeatSpread) || !enumeration(QGradient::ObjectMode)
         || !enumeration(QGradient::ComponentInterpolation) || !count(&stops, 19)
-        || stops > MaxGradientStops)
+        || stops > MaxGradientStops) {
         return false;
+    }
     for (quint32 i = 0; i < stops; ++i) {
         double position = -1.0;
-        if (!readDouble(&position) || !(position >= 0.0 && position <= 1.0) || !color())
+        if (!readDouble(&position) || !(position >= 0.0 && position <= 1.0) || !color()) {
             return false;
+        }
     }
     switch (style) {
     case Qt::LinearGradientPattern:
@@ -345,15 +367,17 @@ bool FormatWalker::pen()
 {
     quint16 styles = 0;
     quint32 dashes = 0;
-    if (!read(&styles) || !skip(1 + 8)) // cosmetic, width
+    if (!read(&styles) || !skip(1 + 8)) { // cosmetic, width
         return false;
+    }
     const int cap = styles & Qt::MPenCapStyle;
     const int join = styles & Qt::MPenJoinStyle;
     if ((styles & ~(Qt::MPenStyle | Qt::MPenCapStyle | Qt::MPenJoinStyle)) != 0
         || (styles & Qt::MPenStyle) > Qt::CustomDashLine || cap > Qt::RoundCap
         || (join != Qt::MiterJoin && join != Qt::BevelJoin && join != Qt::RoundJoin
-            && join != Qt::SvgMiterJoin))
+            && join != Qt::SvgMiterJoin)) {
         return false;
+    }
     return brush() && skip(8) // miter limit
         && count(&dashes, 8) && skip(qint64(dashes) * 8) && skip(8 + 1); // offset, default width
 }
@@ -395,34 +419,42 @@ bool FormatWalker::png()
 {
     static constexpr char Signature[] = "\x89PNG\r\n\x1a\n";
     const char *start = m_at;
-    if (!skip(8) || std::memcmp(start, Signature, 8) != 0)
+    if (!skip(8) || std::memcmp(start, Signature, 8) != 0) {
         return false;
+    }
     bool first = true;
     for (;;) {
         quint32 length = 0;
-        if (!read(&length) || left() < 4)
+        if (!read(&length) || left() < 4) {
             return false;
+        }
         const QByteArray type = QByteArray::fromRawData(m_at, 4);
-        if (first != (type == "IHDR") || !skip(4))
+        if (first != (type == "IHDR") || !skip(4)) {
             return false;
+        }
         if (first) {
             quint32 width = 0;
             quint32 height = 0;
             quint8 depth = 0;
-            if (length != 13 || !read(&width) || !read(&height) || !read(&depth) || !skip(8))
+            if (length != 13 || !read(&width) || !read(&height) || !read(&depth) || !skip(8)) {
                 return false;
-            if (width == 0 || height == 0 || width > 0x7fff || height > 0x7fff)
+            }
+            if (width == 0 || height == 0 || width > 0x7fff || height > 0x7fff) {
                 return false;
+            }
             m_pictureBytes -= qint64(width) * height * (depth > 8 ? 8 : 4);
             first = false;
         } else {
-            if (!skip(qint64(length) + 4)) // and its checksum
+            if (!skip(qint64(length) + 4)) { // and its checksum
                 return false;
-            if (type == "iCCP" || type == "zTXt" || type == "iTXt")
+            }
+            if (type == "iCCP" || type == "zTXt" || type == "iTXt") {
                 m_pictureBytes -= length * MaxInflation;
+            }
         }
-        if (type == "IEND")
+        if (type == "IEND") {
             return m_pictureBytes >= 0 && decodes(start);
+        }
     }
 }
 

@@ -30,19 +30,22 @@ void loadTab(QDataStream &stream, void *value)
     quint32 type = 0;
     QChar delimiter;
     stream >> position >> type >> delimiter;
-    if (type > QTextOption::DelimiterTab)
+    if (type > QTextOption::DelimiterTab) {
         stream.setStatus(QDataStream::ReadCorruptData);
-    if (stream.status() == QDataStream::Ok)
+    }
+    if (stream.status() == QDataStream::Ok) {
         *static_cast<QTextOption::Tab *>(value) =
             QTextOption::Tab(position, QTextOption::TabType(type), delimiter);
+    }
 }
 
 bool registerTextTypes()
 {
     const int tab = qRegisterMetaType<QTextOption::Tab>("QTextOption::Tab");
     QMetaType::registerStreamOperators(tab, saveTab, loadTab);
-    if (!QMetaType::hasRegisteredComparators(tab))
+    if (!QMetaType::hasRegisteredComparators(tab)) {
         QMetaType::registerEqualsComparator<QTextOption::Tab>();
+    }
     qMetaTypeId<MRVQtListLevel>(); // registers it, so that streams can read it
     return true;
 }
@@ -64,18 +67,21 @@ QVariant ordered(const QVariant &value)
     switch (value.userType()) {
     case QMetaType::QVariantHash: {
         const QVariantHash hash = value.toHash();
-        for (auto it = hash.cbegin(); it != hash.cend(); ++it)
+        for (auto it = hash.cbegin(); it != hash.cend(); ++it) {
             map.insert(it.key(), ordered(it.value()));
+        }
         return map;
     }
     case QMetaType::QVariantMap:
         map = value.toMap();
-        for (auto it = map.begin(); it != map.end(); ++it)
+        for (auto it = map.begin(); it != map.end(); ++it) {
             *it = ordered(*it);
+        }
         return map;
     case QMetaType::QVariantList:
-        for (const QVariant &item : value.toList())
+        for (const QVariant &item : value.toList()) {
             list << ordered(item);
+        }
         return list;
     default:
         return value;
@@ -88,8 +94,9 @@ QTextFormat ordered(QTextFormat format)
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         const int type = it.value().userType();
         if (type == QMetaType::QVariantHash || type == QMetaType::QVariantMap
-            || type == QMetaType::QVariantList)
+            || type == QMetaType::QVariantList) {
             format.setProperty(it.key(), ordered(it.value()));
+        }
     }
     return format;
 }
@@ -98,8 +105,9 @@ QTextFormat firstProperties(const QTextFormat &format, int count)
 {
     QTextFormat first = format;
     const QList<int> properties = format.properties().keys();
-    for (int property : properties.mid(count))
+    for (int property : properties.mid(count)) {
         first.clearProperty(property);
+    }
     return first;
 }
 
@@ -110,14 +118,16 @@ QByteArray storeFirst(const QTextFormat &format)
     int tooMany = format.propertyCount() + 1;
     while (tooMany - stored > 1) {
         const int count = stored + (tooMany - stored) / 2;
-        if (mrvIsReadableFormat(write(firstProperties(format, count)), format.type()))
+        if (mrvIsReadableFormat(write(firstProperties(format, count)), format.type())) {
             stored = count;
-        else
+        } else {
             tooMany = count;
+        }
     }
-    if (stored < format.propertyCount())
+    if (stored < format.propertyCount()) {
         qCWarning(lcText, "A format is too large: %d of its %d properties are left out",
                   format.propertyCount() - stored, format.propertyCount());
+    }
     return write(firstProperties(format, stored));
 }
 
@@ -126,16 +136,18 @@ QByteArray store(const QTextFormat &unordered)
     mrvRegisterTextTypes();
     const QTextFormat format = ordered(unordered);
     const QByteArray bytes = write(format);
-    if (mrvIsReadableFormat(bytes, format.type()))
+    if (mrvIsReadableFormat(bytes, format.type())) {
         return bytes;
+    }
 
     QTextFormat readable = format;
     const QMap<int, QVariant> properties = format.properties();
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         QTextFormat single(format.type());
         single.setProperty(it.key(), it.value());
-        if (mrvIsReadableFormat(write(single), format.type()))
+        if (mrvIsReadableFormat(write(single), format.type())) {
             continue;
+        }
         qCWarning(lcText, "Property 0x%x of type %s cannot be stored and is left out",
                   uint(it.key()), it.value().typeName());
         readable.clearProperty(it.key());
@@ -146,8 +158,9 @@ QByteArray store(const QTextFormat &unordered)
 template<typename Format>
 Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
 {
-    if (!mrvIsReadableFormat(bytes, type))
+    if (!mrvIsReadableFormat(bytes, type)) {
         return Format();
+    }
     mrvRegisterTextTypes();
     QDataStream stream(bytes);
     stream.setVersion(StreamVersion);
@@ -163,8 +176,9 @@ template<typename Format>
 bool take(QDataStream &stream, QTextFormat::FormatType type, Format *format)
 {
     QIODevice *device = stream.device();
-    if (stream.status() != QDataStream::Ok || !device)
+    if (stream.status() != QDataStream::Ok || !device) {
         return false;
+    }
     const qint64 available = device->bytesAvailable();
     for (qint64 size = 1024;; size *= 4) {
         const QByteArray piece = device->peek(qMin(size, available));

@@ -48,8 +48,9 @@ QTextBlock blockAt(const QTextCursor &cursor)
 
 void clearProperties(const QTextBlock &block)
 {
-    if (!block.isValid())
+    if (!block.isValid()) {
         return;
+    }
     const QTextBlockFormat format = block.blockFormat();
     const QTextBlockFormat cleared = MRVTextListFormat::clearListProperties(format);
     if (cleared != format) {
@@ -59,8 +60,9 @@ void clearProperties(const QTextBlock &block)
 
 void clearPropertiesAndList(const QTextBlock &block)
 {
-    if (!block.isValid())
+    if (!block.isValid()) {
         return;
+    }
     QTextCursor cursor(block);
     cursor.beginEditBlock();
     mrvRemoveFromList(block);
@@ -156,8 +158,9 @@ QTextListFormat::Style MRVTextListFormat::style(const QTextListFormat &format)
     const MRVTextListLevel level = levels(format).value(0);
     const ushort bullet = level.text.isEmpty() ? 0 : level.text.at(0).unicode();
     for (const StyleRow &row : Styles) {
-        if (row.numberStyle > 0 ? row.numberStyle == level.numberStyle : row.bullet == bullet)
+        if (row.numberStyle > 0 ? row.numberStyle == level.numberStyle : row.bullet == bullet) {
             return row.style;
+        }
     }
     return QTextListFormat::ListDisc;
 }
@@ -205,8 +208,9 @@ void MRVTextListFormat::clearBlockAtPositionFromTextList(const QTextCursor &curs
 
 void MRVTextListFormat::clearSelectedBlocksFromTextList(const QTextCursor &cursor)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     const QTextDocument *document = cursor.document();
     const QTextBlock end = document->findBlock(cursor.selectionEnd()).next();
     QTextCursor edit = cursor;
@@ -245,8 +249,9 @@ MRVTextBlockLevelMap blockLevels(const QTextList &list)
 {
     MRVTextBlockLevelMap result;
     const QVariant kept = list.property(BlockLevelsProperty);
-    if (kept.userType() != qMetaTypeId<MRVTextBlockLevelMap>())
+    if (kept.userType() != qMetaTypeId<MRVTextBlockLevelMap>()) {
         return result;
+    }
     const QHash<int, int> named = levelsByIndex(kept.value<MRVTextBlockLevelMap>());
     for (int i = 0; i < list.count(); ++i) {
         const QTextBlock block = list.item(i);

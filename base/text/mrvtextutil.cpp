@@ -12,14 +12,16 @@ QList<int> weightsOf(const QString &family)
 {
     QList<int> weights;
     // An empty name would mean the styles of some other family.
-    if (family.isEmpty())
+    if (family.isEmpty()) {
         return weights;
+    }
     const QFontDatabase fonts;
     for (const QString &style : fonts.styles(family)) {
         const int weight = fonts.weight(family, style);
         // -1 where the style went away in between.
-        if (weight >= 0)
+        if (weight >= 0) {
             weights << weight;
+        }
     }
     return weights;
 }
@@ -35,15 +37,17 @@ bool MRVTextUtil::hasWeight(const QString &family, int weight)
 int MRVTextUtil::closestFontWeight(const QString &family, int weight)
 {
     const QList<int> weights = weightsOf(family);
-    if (weights.isEmpty())
+    if (weights.isEmpty()) {
         return weight;
+    }
     int closest = weights.first();
     for (int candidate : weights) {
         const int distance = std::abs(candidate - weight);
         const int best = std::abs(closest - weight);
         const bool preferred = weight > QFont::Normal ? candidate > closest : candidate < closest;
-        if (distance < best || (distance == best && preferred))
+        if (distance < best || (distance == best && preferred)) {
             closest = candidate;
+        }
     }
     return closest;
 }

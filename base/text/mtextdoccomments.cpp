@@ -18,13 +18,15 @@ QTextCharFormat withoutComment(QTextCharFormat format)
 
 void MTextDoc::clearCommentProperties(QTextCharFormat *format)
 {
-    if (!format)
+    if (!format) {
         return;
+    }
     for (int property : {int(MRVTextFormat::InspectorCommentProperty),
                          int(MRVTextFormat::InspectorFootnoteProperty),
                          int(MRVTextFormat::CommentData0), int(MRVTextFormat::CommentData1),
-                         int(MRVTextFormat::CommentData2), int(QTextFormat::AnchorHref)})
+                         int(MRVTextFormat::CommentData2), int(QTextFormat::AnchorHref)}) {
         format->clearProperty(property);
+    }
 }
 
 void MTextDoc::clearCommentPropertiesCursor(QTextCursor *cursor)
@@ -56,8 +58,9 @@ void MTextDoc::removeInspectorCommentsAndFootnotes(QTextDocument *document)
 
 void MTextDoc::removeCommentsWithinSelection(const QTextCursor &cursor, int property)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     const QList<MRVTextRange> ranges =
         MRVTextFinder::findFragmentsByFormat(cursor, MrvSweep::pattern(property, true));
     MrvSweep::changeRanges(cursor.document(), ranges.toVector(), withoutComment);

@@ -14,8 +14,9 @@ namespace {
 
 QTextCharFormat without(QTextCharFormat format, const QList<int> &properties)
 {
-    for (int property : properties)
+    for (int property : properties) {
         format.clearProperty(property);
+    }
     return format;
 }
 
@@ -57,8 +58,9 @@ void MTextDoc::clearHighlighting(QTextDocument *document)
 void MTextDoc::clearAll(QTextDocument *document, const QTextCharFormat &pattern, bool matchValues)
 {
     const QList<int> properties = pattern.properties().keys();
-    if (properties.isEmpty())
+    if (properties.isEmpty()) {
         return;
+    }
     MrvSweep::changeRuns(document, pattern, matchValues, [&](const QTextCharFormat &format) {
         return without(format, properties);
     });
@@ -78,8 +80,9 @@ void MTextDoc::clearAllProperty(QTextDocument *document, int property, const QVa
 void MTextDoc::clearAllSelection(QTextCursor cursor, const QTextCharFormat &pattern,
                                  bool matchValues)
 {
-    if (!cursor.hasSelection())
+    if (!cursor.hasSelection()) {
         return;
+    }
     const QList<int> properties = pattern.properties().keys();
     MrvSweep::changeSelection(&cursor, [&](const QTextCharFormat &format) {
         return MRVTextFormat::formatsMatch(format, pattern, matchValues)

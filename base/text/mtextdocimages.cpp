@@ -37,8 +37,9 @@ std::vector<ImageRun> imageRuns(const QTextDocument &document)
         for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment run = it.fragment();
             const QTextCharFormat format = run.charFormat();
-            if (run.isValid() && format.isImageFormat())
+            if (run.isValid() && format.isImageFormat()) {
                 runs.push_back({run.position(), run.length(), format.toImageFormat()});
+            }
         }
     }
     return runs;
@@ -53,15 +54,17 @@ QSet<QUrl> resourceUrls(const QTextDocument &document, const QString &id)
 
 void setImageResource(QTextDocument *document, const QString &id, const QVariant &picture)
 {
-    for (const QUrl &url : resourceUrls(*document, id))
+    for (const QUrl &url : resourceUrls(*document, id)) {
         document->addResource(QTextDocument::ImageResource, url, picture);
+    }
 }
 
 // The existing file that a resource id names, or empty.
 QString localFile(const QTextDocument &document, const QString &id)
 {
-    if (id.isEmpty())
+    if (id.isEmpty()) {
         return QString();
+    }
     const QUrl url(id);
     QStringList candidates{id, url.toLocalFile()};
     if (url.isRelative()) {
@@ -69,8 +72,9 @@ QString localFile(const QTextDocument &document, const QString &id)
                    << document.baseUrl().resolved(url).toLocalFile();
     }
     for (const QString &path : qAsConst(candidates)) {
-        if (!path.isEmpty() && QFileInfo(path).isFile())
+        if (!path.isEmpty() && QFileInfo(path).isFile()) {
             return path;
+        }
     }
     return QString();
 }
@@ -89,48 +93,57 @@ struct NewKey
 void rekey(QTextDocument *document, const std::vector<ImageRun> &runs, QHash<QString, NewKey> keys)
 {
     for (auto it = keys.begin(); it != keys.end(); ++it) {
-        if (it->id == it.key())
+        if (it->id == it.key()) {
             it->id.clear();
+        }
     }
     for (const ImageRun &run : runs) {
-        if (!keys.value(run.id()).id.isEmpty())
+        if (!keys.value(run.id()).id.isEmpty()) {
             setImageResource(document, run.id(), QVariant());
+        }
     }
     for (const ImageRun &run : runs) {
         const NewKey key = keys.value(run.id());
-        if (!key.id.isEmpty())
+        if (!key.id.isEmpty()) {
             setImageResource(document, key.id, key.picture);
+        }
     }
 
     QTextCursor cursor(document);
     bool editing = false;
     for (const ImageRun &run : runs) {
         const NewKey key = keys.value(run.id());
-        if (key.id.isEmpty())
+        if (key.id.isEmpty()) {
             continue;
-        if (!editing)
+        }
+        if (!editing) {
             cursor.beginEditBlock();
+        }
         editing = true;
         QTextImageFormat format = run.format;
         format.setProperty(QTextFormat::ImageName, key.id);
-        if (!key.name.isNull())
+        if (!key.name.isNull()) {
             format.setProperty(MRVTextFormat::ImageNameProperty, key.name);
+        }
         cursor.setPosition(run.position);
         cursor.setPosition(run.position + run.count, QTextCursor::KeepAnchor);
         cursor.setCharFormat(format);
     }
-    if (editing)
+    if (editing) {
         cursor.endEditBlock();
+    }
 }
 
 // A display name or suffix may hold anything; neither leads out of a folder without a slash.
 QString fileName(QString name, const QString &suffix)
 {
     name.truncate(MaxNameBytes);
-    while (name.toUtf8().size() > MaxNameBytes)
+    while (name.toUtf8().size() > MaxNameBytes) {
         name.chop(1);
-    if (name.at(name.size() - 1).isHighSurrogate())
+    }
+    if (name.at(name.size() - 1).isHighSurrogate()) {
         name.chop(1);
+    }
     QString file = name + QLatin1Char('.') + suffix;
     file.replace(QLatin1Char('/'), QLatin1Char('_'));
     file.replace(QChar(QChar::Null), QLatin1Char('_'));
@@ -141,12 +154,14 @@ QString fileName(QString name, const QString &suffix)
 QString targetPath(const QTextImageFormat &format, const QDir &folder, bool mmd)
 {
     QString name = MRVTextFormat::imageName(format);
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return QString();
+    }
     if (mmd) {
         name = MTextDoc::mmdImageName(name);
-        if (name.isEmpty())
+        if (name.isEmpty()) {
             name = QStringLiteral("image");
+        }
     }
     const QString suffix = MRVTextFormat::imageType(format, "png").toLower();
     return folder.filePath(fileName(name, suffix));
@@ -187,21 +202,24 @@ QImage MTextDoc::toImage(const QVariant &variant)
 
 void MTextDoc::fixHtmlImageFormatsAndResourceIds(QTextDocument *document)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     const std::vector<ImageRun> runs = imageRuns(*document);
     QHash<QString, NewKey> keys;
     for (const ImageRun &run : runs) {
         const QString id = run.id();
-        if (keys.contains(id))
+        if (keys.contains(id)) {
             continue;
+        }
         NewKey key;
         const QString path = localFile(*document, id);
         if (!path.isEmpty()) {
             // Qt may have loaded the file by itself; it does not for every path.
             key.picture = image(*document, run.format);
-            if (key.picture.isNull())
+            if (key.picture.isNull()) {
                 key.picture = MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path));
+            }
             key.id = MRVGuiUtil::resourceId(key.picture);
             key.name = QFileInfo(path).baseName();
         }
@@ -212,13 +230,15 @@ void MTextDoc::fixHtmlImageFormatsAndResourceIds(QTextDocument *document)
 
 void MTextDoc::convertUniqueImageResources(QTextDocument *document)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     const std::vector<ImageRun> runs = imageRuns(*document);
     QHash<QString, NewKey> keys;
     for (const ImageRun &run : runs) {
-        if (keys.contains(run.id()))
+        if (keys.contains(run.id())) {
             continue;
+        }
         NewKey key;
         key.picture = image(*document, run.format);
         key.id = MRVGuiUtil::resourceId(key.picture);
@@ -231,13 +251,16 @@ bool MTextDoc::onlyOneImageWithResourceId(const QTextDocument &document, const Q
 {
     int shown = 0;
     for (const ImageRun &run : imageRuns(document)) {
-        if (run.id() != id)
+        if (run.id() != id) {
             continue;
-        if (shown == 0 && image(document, run.format).isNull())
+        }
+        if (shown == 0 && image(document, run.format).isNull()) {
             return true;
+        }
         shown += run.count;
-        if (shown > 1)
+        if (shown > 1) {
             return false;
+        }
     }
     return true;
 }
@@ -245,16 +268,18 @@ bool MTextDoc::onlyOneImageWithResourceId(const QTextDocument &document, const Q
 QSet<QString> MTextDoc::imageResourceIds(const QTextDocument &document)
 {
     QSet<QString> ids;
-    for (const ImageRun &run : imageRuns(document))
+    for (const ImageRun &run : imageRuns(document)) {
         ids.insert(run.id());
+    }
     return ids;
 }
 
 QStringList MTextDoc::imageNames(const QTextDocument &document)
 {
     QStringList names;
-    for (const QTextImageFormat &format : imageFormats(document))
+    for (const QTextImageFormat &format : imageFormats(document)) {
         names << imageName(format);
+    }
     return names;
 }
 
@@ -262,8 +287,9 @@ QList<QTextImageFormat> MTextDoc::imageFormats(const QTextDocument &document)
 {
     QList<QTextImageFormat> formats;
     for (const ImageRun &run : imageRuns(document)) {
-        for (int i = 0; i < run.count; ++i)
+        for (int i = 0; i < run.count; ++i) {
             formats << run.format;
+        }
     }
     return formats;
 }
@@ -272,11 +298,13 @@ QMap<QString, QImage> MTextDoc::imagesWithResourceIds(const QTextDocument &docum
 {
     QMap<QString, QImage> images;
     for (const ImageRun &run : imageRuns(document)) {
-        if (images.contains(run.id()))
+        if (images.contains(run.id())) {
             continue;
+        }
         const QImage picture = image(document, run.format);
-        if (!picture.isNull())
+        if (!picture.isNull()) {
             images.insert(run.id(), picture);
+        }
     }
     return images;
 }
@@ -287,8 +315,9 @@ QList<QPair<QString, QImage>> MTextDoc::imagesWithNames(const QTextDocument &doc
     QList<QPair<QString, QImage>> named;
     for (const QTextImageFormat &format : imageFormats(document)) {
         const QImage picture = images.value(imageResourceId(format));
-        if (!picture.isNull())
+        if (!picture.isNull()) {
             named << qMakePair(imageName(format), picture);
+        }
     }
     return named;
 }
@@ -308,13 +337,15 @@ QString MTextDoc::findUniqueString(const QString &base, const QSet<QString> &tak
 {
     QString name = QDir::toNativeSeparators(base);
     const QFileInfo file(name);
-    if (!name.isEmpty() && file.isFile())
+    if (!name.isEmpty() && file.isFile()) {
         name = file.baseName();
+    }
     name = MRV::cleanFileName(name);
 
     QString candidate = name;
-    for (int number = 1; taken.contains(candidate); ++number)
+    for (int number = 1; taken.contains(candidate); ++number) {
         candidate = name + QLatin1Char('_') + QString::number(number);
+    }
     return candidate;
 }
 
@@ -323,39 +354,46 @@ QString MTextDoc::mmdImageName(const QString &name)
     QString result = MRV::cleanFileName(name, QLatin1Char(' '));
     result.replace(QLatin1Char(' '), QLatin1Char('-'));
     result.replace(QLatin1Char('_'), QLatin1Char('-'));
-    while (result.contains(QLatin1String("--")))
+    while (result.contains(QLatin1String("--"))) {
         result.replace(QLatin1String("--"), QLatin1String("-"));
+    }
     return result;
 }
 
 QString MTextDoc::exportImageFormat(const QTextDocument &document, const QTextImageFormat &format,
                                     const QDir &folder, bool mmd, const QSet<QString> *used)
 {
-    if (!folder.exists())
+    if (!folder.exists()) {
         folder.mkpath(QStringLiteral("."));
+    }
     const QImage picture = image(document, format);
     QString path = targetPath(format, folder, mmd);
-    if (path.isEmpty() || picture.isNull())
+    if (path.isEmpty() || picture.isNull()) {
         return QString();
-    if (used && used->contains(path))
+    }
+    if (used && used->contains(path)) {
         path = MRVCoreUtil::GetUniqueFileName(path);
+    }
     return MRVTextFormat::exportImageFormat(path, format, picture) ? path : QString();
 }
 
 QStringList MTextDoc::exportImages(const QTextDocument &document, const QString &folder, bool mmd)
 {
     const QList<QTextImageFormat> formats = imageFormats(document);
-    if (formats.isEmpty())
+    if (formats.isEmpty()) {
         return QStringList();
+    }
     const QDir dir(QDir::toNativeSeparators(folder));
-    if (!dir.exists())
+    if (!dir.exists()) {
         dir.mkpath(QStringLiteral("."));
+    }
 
     // An image must not replace the file that another one links to: it is the user's original, and
     // may still have to be copied.
     QSet<QString> links;
-    for (const QTextImageFormat &format : formats)
+    for (const QTextImageFormat &format : formats) {
         links.insert(linkedFile(format));
+    }
 
     QStringList paths;
     QSet<QString> used;
@@ -365,8 +403,9 @@ QStringList MTextDoc::exportImages(const QTextDocument &document, const QString 
         QSet<QString> taken{target};
         const bool linked = !file.isEmpty() && links.contains(file) && linkedFile(format) != file;
         const QString path = exportImageFormat(document, format, dir, mmd, linked ? &taken : &used);
-        if (path.isEmpty())
+        if (path.isEmpty()) {
             continue;
+        }
         paths << path;
         used.insert(path);
     }

@@ -23,8 +23,9 @@ bool isHtmlFootnote(const QTextCharFormat &format)
 
 QTextCharFormat withoutHyperlink(QTextCharFormat format)
 {
-    if (!isHtmlFootnote(format) && !isRaisedOrLowered(format))
+    if (!isHtmlFootnote(format) && !isRaisedOrLowered(format)) {
         MTextDoc::clearLinkProperties(&format);
+    }
     return format;
 }
 
@@ -33,8 +34,9 @@ QTextCharFormat withoutMorvaneLink(QTextCharFormat format)
     // Deliberate: any integer counts here, one with a sign too.
     bool isInt = false;
     format.anchorHref().toInt(&isInt, 10);
-    if (isInt && !isRaisedOrLowered(format))
+    if (isInt && !isRaisedOrLowered(format)) {
         MTextDoc::clearLinkProperties(&format);
+    }
     return format;
 }
 
@@ -42,8 +44,9 @@ QTextCharFormat withoutMorvaneLink(QTextCharFormat format)
 
 void MTextDoc::clearLinkProperties(QTextCharFormat *format)
 {
-    if (!format)
+    if (!format) {
         return;
+    }
     format->clearProperty(QTextFormat::AnchorHref);
     format->clearProperty(QTextFormat::AnchorName);
     format->clearProperty(QTextFormat::IsAnchor);

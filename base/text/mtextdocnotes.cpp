@@ -24,8 +24,9 @@ QVector<MRVTextRange> notes(const QTextDocument *document, MRVTextFormat::Proper
 
 void MTextDoc::clearInlineProperties(QTextCharFormat *format)
 {
-    if (!format)
+    if (!format) {
         return;
+    }
     format->clearProperty(MRVTextFormat::InlineAnnotationProperty);
     format->clearProperty(MRVTextFormat::InlineFootnoteProperty);
 }
@@ -37,24 +38,27 @@ void MTextDoc::clearInlinePropertiesCursor(QTextCursor *cursor)
 
 void MTextDoc::removeAnnotations(QTextDocument *document)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     QVector<MRVTextRange> ranges = notes(document, MRVTextFormat::InlineAnnotationProperty);
     for (MRVTextRange &range : ranges) {
         // At the end of a table cell or in front of a table stands another character; to take that
         // would take the row, or the table.
         const int end = range.end();
         if (document->characterAt(end) == QChar::ParagraphSeparator
-            && end + 1 < document->characterCount())
+            && end + 1 < document->characterCount()) {
             range = MRVTextRange(range.start(), end + 1);
+        }
     }
     MrvSweep::removeRanges(document, ranges);
 }
 
 void MTextDoc::removeInlineFootnotes(QTextDocument *document)
 {
-    if (document)
+    if (document) {
         MrvSweep::removeRanges(document, notes(document, MRVTextFormat::InlineFootnoteProperty));
+    }
 }
 
 void MTextDoc::inlineAnnotationsToText(QTextDocument *document)

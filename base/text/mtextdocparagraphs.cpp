@@ -18,8 +18,9 @@ constexpr QTextOption::Flags invisibles()
 void setFlags(QTextDocument *document, QTextOption::Flags flags)
 {
     QTextOption option = document->defaultTextOption();
-    if (option.flags() == flags)
+    if (option.flags() == flags) {
         return; // setting an option lays the document out anew
+    }
     option.setFlags(flags);
     document->setDefaultTextOption(option);
 }
@@ -54,37 +55,43 @@ bool MTextDoc::invisiblesShown(const QTextDocument &document)
 
 void MTextDoc::showInvisibles(QTextDocument *document, bool show)
 {
-    if (!document || invisiblesShown(*document) == show)
+    if (!document || invisiblesShown(*document) == show) {
         return;
+    }
     const QTextOption::Flags flags = document->defaultTextOption().flags();
     setFlags(document, show ? flags | invisibles() : flags & ~invisibles());
 }
 
 void MTextDoc::clearDefaultTextOptionFlags(QTextDocument *document)
 {
-    if (document)
+    if (document) {
         setFlags(document, QTextOption::Flags());
+    }
 }
 
 void MTextDoc::normalizePageBreaks(QTextDocument *document)
 {
-    if (!document)
+    if (!document) {
         return;
+    }
     MrvFormatChanges changes;
     bool carry = false;
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const QTextFormat::PageBreakFlags present = block.blockFormat().pageBreakPolicy();
         QTextFormat::PageBreakFlags wanted = present & ~QTextFormat::PageBreak_AlwaysAfter;
-        if (carry)
+        if (carry) {
             wanted |= QTextFormat::PageBreak_AlwaysBefore;
+        }
         carry = present.testFlag(QTextFormat::PageBreak_AlwaysAfter);
-        if (wanted == present)
+        if (wanted == present) {
             continue;
+        }
         QTextBlockFormat format = block.blockFormat();
-        if (wanted == QTextFormat::PageBreak_Auto)
+        if (wanted == QTextFormat::PageBreak_Auto) {
             format.clearProperty(QTextFormat::PageBreakPolicy);
-        else
+        } else {
             format.setPageBreakPolicy(wanted);
+        }
         changes.setBlockFormat(block.position(), format);
     }
     changes.apply(document);
@@ -101,14 +108,16 @@ void MTextDoc::setBlockFormatByBlockNumber(QTextDocument *document, int number,
                                            const QTextBlockFormat &format)
 {
     const QTextBlock block = blockByNumber(document, number);
-    if (!block.isValid())
+    if (!block.isValid()) {
         return;
+    }
     // The index of a list means another list, or none, in another document.
     QTextBlockFormat wanted = format;
     wanted.setObjectIndex(block.blockFormat().objectIndex());
     MrvFormatChanges changes;
-    if (!mrvIsSameFormat(wanted, block.blockFormat()))
+    if (!mrvIsSameFormat(wanted, block.blockFormat())) {
         changes.setBlockFormat(block.position(), wanted);
+    }
     changes.apply(document);
 }
 
@@ -121,19 +130,22 @@ void MTextDoc::setCharFormatByBlockNumber(QTextDocument *document, int number,
                                           const QTextCharFormat &format)
 {
     const QTextFragment run = firstRun(blockByNumber(document, number));
-    if (!run.isValid())
+    if (!run.isValid()) {
         return;
+    }
     QTextCharFormat wanted = format;
     const QTextCharFormat present = run.charFormat();
     if (present.isImageFormat() && !format.isImageFormat()) {
         const QMap<int, QVariant> properties = present.properties();
         for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
-            if (isOfImage(it.key()))
+            if (isOfImage(it.key())) {
                 wanted.setProperty(it.key(), it.value());
+            }
         }
     }
     MrvFormatChanges changes;
-    if (!mrvIsSameFormat(wanted, present))
+    if (!mrvIsSameFormat(wanted, present)) {
         changes.setCharFormat(run.position(), run.position() + run.length(), wanted);
+    }
     changes.apply(document);
 }

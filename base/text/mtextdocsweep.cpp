@@ -23,22 +23,27 @@ public:
     template<typename Visit>
     void visitRange(const MRVTextRange &range, Visit visit)
     {
-        if (range.start() >= m_blockEnd)
+        if (range.start() >= m_blockEnd) {
             enter(m_document.findBlock(range.start()));
+        }
         while (m_block.isValid()) {
             for (; !m_run.atEnd(); ++m_run) {
-                if (m_runStart >= range.end())
+                if (m_runStart >= range.end()) {
                     return;
+                }
                 const QTextFragment run = m_run.fragment();
                 const int runEnd = m_runStart + run.length();
-                if (runEnd > range.start())
+                if (runEnd > range.start()) {
                     visit(run, qMax(m_runStart, range.start()), qMin(runEnd, range.end()));
-                if (runEnd > range.end()) // its rest may lie in the next range
+                }
+                if (runEnd > range.end()) { // its rest may lie in the next range
                     return;
+                }
                 m_runStart = runEnd;
             }
-            if (m_blockEnd >= range.end())
+            if (m_blockEnd >= range.end()) {
                 return;
+            }
             enter(m_block.next());
         }
     }
@@ -78,8 +83,9 @@ void MrvSweep::changeRanges(QTextDocument *document, const QVector<MRVTextRange>
         walk.visitRange(range, [&](const QTextFragment &run, int start, int end) {
             const auto &changed = replacements.value(
                 run.charFormatIndex(), [&] { return run.charFormat(); }, change);
-            if (changed)
+            if (changed) {
                 changes.setCharFormat(start, end, *changed);
+            }
         });
     }
     changes.apply(document);
@@ -88,26 +94,30 @@ void MrvSweep::changeRanges(QTextDocument *document, const QVector<MRVTextRange>
 void MrvSweep::changeRuns(QTextDocument *document, const QTextCharFormat &pattern,
                           bool compareValues, const Change &change)
 {
-    if (document)
+    if (document) {
         changeRanges(document, MRVTextFinder::findAllFragments(document, pattern, compareValues),
                      change);
+    }
 }
 
 void MrvSweep::changeSelection(QTextCursor *cursor, const Change &change)
 {
-    if (!cursor || cursor->isNull())
+    if (!cursor || cursor->isNull()) {
         return;
+    }
     // Not by the cursor itself: it knows one format, and the selection may hold several.
-    if (cursor->hasSelection())
+    if (cursor->hasSelection()) {
         changeRanges(cursor->document(), {MRVTextRange(*cursor)}, change);
-    else
+    } else {
         cursor->setCharFormat(change(cursor->charFormat()));
+    }
 }
 
 void MrvSweep::removeRanges(QTextDocument *document, const QVector<MRVTextRange> &ranges)
 {
-    if (ranges.isEmpty())
+    if (ranges.isEmpty()) {
         return;
+    }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
     // From the last to the first, so that the positions of the others hold.
@@ -116,8 +126,9 @@ void MrvSweep::removeRanges(QTextDocument *document, const QVector<MRVTextRange>
         int start = ranges.at(i).start();
         // Side by side they go at once: a paragraph that goes as a whole, with its end, must not
         // leave its format to the next one.
-        for (--i; i >= 0 && ranges.at(i).end() == start; --i)
+        for (--i; i >= 0 && ranges.at(i).end() == start; --i) {
             start = ranges.at(i).start();
+        }
         cursor.setPosition(start);
         cursor.setPosition(end, QTextCursor::KeepAnchor);
         cursor.removeSelectedText();

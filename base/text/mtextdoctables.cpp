@@ -44,8 +44,9 @@ Line emptyLine(const QTextBlock &block)
 
 void appendRuns(Line *line, const QTextBlock &block)
 {
-    for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it)
+    for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
         line->pieces.push_back({it.fragment().text(), it.fragment().charFormat()});
+    }
 }
 
 // The cell's first paragraph goes on with the last line, or starts one with the row.
@@ -57,8 +58,9 @@ void appendCell(std::vector<Line> *lines, const QTextTableCell &cell, bool start
     } else {
         Line &line = lines->back();
         QTextCharFormat format = line.lastFormat();
-        if (format.isImageFormat())
+        if (format.isImageFormat()) {
             format = QTextCharFormat();
+        }
         line.pieces.push_back({QStringLiteral("\t"), format});
     }
     appendRuns(&lines->back(), block);
@@ -76,8 +78,9 @@ std::vector<Line> linesOf(const QTextTable &table)
         bool startsRow = true;
         for (int column = 0; column < table.columns(); ++column) {
             const QTextTableCell cell = table.cellAt(row, column);
-            if (cell.row() != row || cell.column() != column)
+            if (cell.row() != row || cell.column() != column) {
                 continue; // covered by a cell that was met already
+            }
             appendCell(&lines, cell, startsRow);
             startsRow = false;
         }
@@ -95,23 +98,27 @@ bool onlyCloses(const QTextDocument &document, const QTextBlock &block)
 
 void setBlockFormat(QTextCursor *cursor, const QTextBlockFormat &format)
 {
-    if (!mrvIsSameFormat(format, cursor->blockFormat()))
+    if (!mrvIsSameFormat(format, cursor->blockFormat())) {
         cursor->setBlockFormat(format);
+    }
 }
 
 void insertLines(QTextCursor *cursor, const std::vector<Line> &lines, bool startsParagraph)
 {
     for (const Line &line : lines) {
         QTextCharFormat first = line.firstFormat();
-        if (first.isImageFormat())
+        if (first.isImageFormat()) {
             first = QTextCharFormat();
-        if (startsParagraph)
+        }
+        if (startsParagraph) {
             cursor->insertBlock(line.format, first);
-        else
+        } else {
             setBlockFormat(cursor, line.format);
+        }
         startsParagraph = true;
-        for (const Piece &piece : line.pieces)
+        for (const Piece &piece : line.pieces) {
             cursor->insertText(piece.text, piece.format);
+        }
     }
 }
 
@@ -161,11 +168,13 @@ void MTextDoc::tablesToText(QTextDocument *document)
             tables.push_back(table);
         }
     }
-    if (tables.empty())
+    if (tables.empty()) {
         return;
+    }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
-    for (auto it = tables.rbegin(); it != tables.rend(); ++it)
+    for (auto it = tables.rbegin(); it != tables.rend(); ++it) {
         replaceByText(&cursor, **it);
+    }
     cursor.endEditBlock();
 }

@@ -29,8 +29,9 @@ QString MRV::colorToFloatString(const QColor &any)
 QColor MRV::floatStringToColor(const QString &text)
 {
     const QStringList parts = text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (parts.size() != 3)
+    if (parts.size() != 3) {
         return QColor();
+    }
     return QColor::fromRgbF(toComponent(parts.at(0)), toComponent(parts.at(1)),
                             toComponent(parts.at(2)));
 }

@@ -77,8 +77,9 @@ template<typename Row, std::size_t Size>
 constexpr bool runsFromTo(const Row (&table)[Size], int first, int last)
 {
     for (std::size_t i = 0; i < Size; ++i) {
-        if (table[i].value != first + int(i))
+        if (table[i].value != first + int(i)) {
             return false;
+        }
     }
     return first + int(Size) - 1 == last;
 }
@@ -89,10 +90,12 @@ constexpr bool holdsEachBitInOrder(const Name<MRV::CompileNoteFlag> (&table)[Siz
 {
     int bit = 1;
     for (std::size_t i = 0; i < Size; ++i, bit <<= 1) {
-        if (bit == 0x80)
+        if (bit == 0x80) {
             bit <<= 1;
-        if (table[i].value != bit)
+        }
+        if (table[i].value != bit) {
             return false;
+        }
     }
     return table[Size - 1].value == MRV::IncludeComments;
 }
@@ -109,8 +112,9 @@ template<typename Enum, std::size_t Size>
 const char *textOf(const Name<Enum> (&table)[Size], Enum value, const char *fallback)
 {
     for (const Name<Enum> &row : table) {
-        if (row.value == value)
+        if (row.value == value) {
             return row.text;
+        }
     }
     return fallback;
 }
@@ -119,8 +123,9 @@ template<typename Enum, std::size_t Size>
 Enum valueOf(const Name<Enum> (&table)[Size], const QString &text, Enum fallback)
 {
     for (const Name<Enum> &row : table) {
-        if (text == QLatin1String(row.text))
+        if (text == QLatin1String(row.text)) {
             return row.value;
+        }
     }
     return fallback;
 }
@@ -165,8 +170,9 @@ QString MRV::toStringTr(NodeType type)
 QMap<MRV::OpmlImportType, QString> MRV::opmlImportTypesDescr()
 {
     QMap<OpmlImportType, QString> descriptions;
-    for (const auto &row : OpmlImportTypes)
+    for (const auto &row : OpmlImportTypes) {
         descriptions.insert(row.value, QCoreApplication::translate("QObject", row.text));
+    }
     return descriptions;
 }
 
@@ -180,8 +186,9 @@ QStringList MRV::opmlImportTypesDescrSorted()
 QDebug MRV::operator<<(QDebug debug, QFlags<CompileNoteFlag> flags)
 {
     debug.nospace() << "CompileFlags(";
-    for (const auto &row : NoteFlagNames)
+    for (const auto &row : NoteFlagNames) {
         debug << row.text << flags.testFlag(row.value) << '\n';
+    }
     debug << ')';
     return debug.space();
 }
@@ -189,8 +196,9 @@ QDebug MRV::operator<<(QDebug debug, QFlags<CompileNoteFlag> flags)
 int MRV::viewModeToAppView(ViewMode mode)
 {
     for (const auto &row : Views) {
-        if (row.mode == mode)
+        if (row.mode == mode) {
             return row.view;
+        }
     }
     return NoView;
 }

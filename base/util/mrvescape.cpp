@@ -28,8 +28,9 @@ enum class EncodedAmpersand { Keep, EncodeAgain };
 QString encode(const QString &text, EncodedAmpersand encodedAmpersand)
 {
     static constexpr QLatin1String Ampersand("&amp;");
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return text;
+    }
     QString result;
     result.reserve(int(text.size() * 1.1));
     for (int i = 0; i < text.size(); ++i) {
@@ -61,10 +62,12 @@ QString MRV::escape(const QString &text)
 QString MRV::toHtmlTooltipFormat(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty())
+    if (trimmed.isEmpty()) {
         return trimmed;
+    }
     const QString html = QLatin1String("<p>") + toHtmlEncoded(trimmed) + QLatin1String("</p>");
-    if (html.size() > MaxTooltipLength)
+    if (html.size() > MaxTooltipLength) {
         return html.left(MaxTooltipLength) + QLatin1String("...");
+    }
     return html;
 }

@@ -34,8 +34,9 @@ QHash<QString, QSet<QString>> readSuffixTable()
     const QString path = QStringLiteral(":/Other/Resources/mimetypes.csv");
     QString error;
     const QString text = MRVCoreUtil::ReadUnicodeTextFile(path, &error, "UTF-8");
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         qCWarning(lcUtil).noquote() << error;
+    }
 
     QHash<QString, QSet<QString>> table;
     const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'));
@@ -45,8 +46,9 @@ QHash<QString, QSet<QString>> readSuffixTable()
             continue;
         }
         const QVector<QStringRef> fields = line.split(QLatin1Char(','));
-        if (fields.size() >= 2)
+        if (fields.size() >= 2) {
             table[fields.at(0).toString()].insert(fields.at(1).toString());
+        }
     }
     return table;
 }
@@ -54,8 +56,9 @@ QHash<QString, QSet<QString>> readSuffixTable()
 const QHash<QString, QSet<QString>> &suffixTable()
 {
     static QHash<QString, QSet<QString>> table;
-    if (table.isEmpty())
+    if (table.isEmpty()) {
         table = readSuffixTable();
+    }
     return table;
 }
 
@@ -69,8 +72,9 @@ QString MRV::parseProjectNodeMimeTypePath(const QMimeData *mime)
 QPair<QString, QList<int>> MRV::parseProjectNodeMimeType(const QMimeData *mime)
 {
     QPair<QString, QList<int>> nodes;
-    if (!mime)
+    if (!mime) {
         return nodes;
+    }
     QDataStream stream(mime->data(QString::fromLatin1(ProjectNodeMimeType)));
     stream.setVersion(QDataStream::Qt_5_15);
     stream >> nodes.first;
@@ -78,8 +82,9 @@ QPair<QString, QList<int>> MRV::parseProjectNodeMimeType(const QMimeData *mime)
         qint32 id = 0;
         stream >> id;
         // A read past the end yields an id of 0, which would be a node that was never dragged.
-        if (stream.status() == QDataStream::Ok && id >= 0)
+        if (stream.status() == QDataStream::Ok && id >= 0) {
             nodes.second << id;
+        }
     }
     return nodes;
 }
@@ -109,8 +114,9 @@ QSet<QString> MRV::suffixForMimeType(const QString &mimeType)
     QSet<QString> suffixes;
     const QHash<QString, QSet<QString>> &table = suffixTable();
     for (auto it = table.cbegin(); it != table.cend(); ++it) {
-        if (it.value().contains(mimeType))
+        if (it.value().contains(mimeType)) {
             suffixes.insert(it.key());
+        }
     }
     return suffixes;
 }

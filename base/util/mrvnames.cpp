@@ -8,11 +8,13 @@ static_assert(SpecialCharCount == 16, "the published set has sixteen characters"
 
 bool isCleanedAway(QChar c)
 {
-    if (c == QLatin1Char('"'))
+    if (c == QLatin1Char('"')) {
         return true;
+    }
     for (int i = 0; i < SpecialCharCount; ++i) {
-        if (c == QChar(SpecialChars[i]))
+        if (c == QChar(SpecialChars[i])) {
             return true;
+        }
     }
     return false;
 }
@@ -21,8 +23,9 @@ bool isCleanedAway(QChar c)
 int numberStart(const QString &name)
 {
     int start = name.size();
-    while (start > 0 && name.at(start - 1).isDigit())
+    while (start > 0 && name.at(start - 1).isDigit()) {
         --start;
+    }
     return start;
 }
 
@@ -39,22 +42,26 @@ qint64 numberAt(const QString &name, int start)
 
 QString MRV::stripAutoNumberEnding(const QString &name, int *number)
 {
-    if (number)
+    if (number) {
         *number = 0;
+    }
     const int start = numberStart(name);
-    if (start == name.size() || start == 0 || name.at(start - 1) != QLatin1Char('-'))
+    if (start == name.size() || start == 0 || name.at(start - 1) != QLatin1Char('-')) {
         return name;
+    }
     const qint64 value = numberAt(name, start);
-    if (number && value >= 0)
+    if (number && value >= 0) {
         *number = int(value);
+    }
     return name.left(start - 1);
 }
 
 QString MRV::adjustName(const QString &name)
 {
     const int start = numberStart(name);
-    if (start == name.size())
+    if (start == name.size()) {
         return name + QLatin1String("-1");
+    }
     const qint64 value = numberAt(name, start);
     return name.left(start) + QString::number(value < 0 ? 1 : value + 1);
 }
@@ -65,8 +72,9 @@ QString MRV::cleanFileName(const QString &name, const QChar &replacement)
     result.reserve(name.size());
     for (const QChar c : name) {
         const QChar next = isCleanedAway(c) ? replacement : c;
-        if (next != replacement || !result.endsWith(replacement))
+        if (next != replacement || !result.endsWith(replacement)) {
             result += next;
+        }
     }
     return result.trimmed();
 }
@@ -90,8 +98,9 @@ const QSet<QChar> &MRV::specialFileNameChars()
 {
     static const QSet<QChar> chars = [] {
         QSet<QChar> set;
-        for (int i = 0; i < SpecialCharCount; ++i)
+        for (int i = 0; i < SpecialCharCount; ++i) {
             set.insert(QChar(SpecialChars[i]));
+        }
         return set;
     }();
     return chars;

@@ -62,8 +62,9 @@ constexpr SuffixRow SuffixRows[] = {
 constexpr bool suffixRowsAreInOrder()
 {
     for (int i = 0; i < int(std::size(SuffixRows)); ++i) {
-        if (SuffixRows[i].unit != i)
+        if (SuffixRows[i].unit != i) {
             return false;
+        }
     }
     return true;
 }
@@ -73,8 +74,9 @@ static_assert(std::size(SuffixRows) == MRVUnit::Point + 1 && suffixRowsAreInOrde
 const MeasureRow *firstRow(MRVUnit::Unit unit)
 {
     for (const MeasureRow &row : MeasureRows) {
-        if (row.unit == unit)
+        if (row.unit == unit) {
             return &row;
+        }
     }
     return nullptr;
 }
@@ -87,8 +89,9 @@ bool isUnit(MRVUnit::Unit unit)
 int toInt(double value)
 {
     // An int that a double exceeds is undefined, and what is no number exceeds all of them.
-    if (qIsNaN(value))
+    if (qIsNaN(value)) {
         return 0;
+    }
     return int(qBound(double(std::numeric_limits<int>::min()), value,
                       double(std::numeric_limits<int>::max())));
 }
@@ -116,8 +119,9 @@ bool MRVUnit::parseMeasure(const QString &text, QString &pattern, int &decimals,
         const QLatin1String suffix(row.suffix);
         bool ok = false;
         const double number = measure.leftRef(measure.size() - suffix.size()).toDouble(&ok);
-        if (!ok || !measure.endsWith(suffix))
+        if (!ok || !measure.endsWith(suffix)) {
             continue;
+        }
         const int dot = measure.lastIndexOf(u'.');
         decimals = dot < 0 ? 0 : measure.size() - suffix.size() - dot - 1;
         pattern = QLatin1String(row.pattern);
@@ -141,15 +145,18 @@ MRVUnit::Unit MRVUnit::toUnit(const QString &text)
 
 double MRVUnit::toUnit(Unit to, Unit from, double value)
 {
-    if (to == from)
+    if (to == from) {
         return value;
+    }
     double target = 0.0;
     double source = 0.0;
     for (const MeasureRow &row : MeasureRows) { // of two rows for a unit, the later one counts here
-        if (row.unit == to)
+        if (row.unit == to) {
             target = row.points;
-        if (row.unit == from)
+        }
+        if (row.unit == from) {
             source = row.points;
+        }
     }
     return target == 0.0 || source == 0.0 ? value : value * source / target;
 }

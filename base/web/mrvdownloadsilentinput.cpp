@@ -14,10 +14,12 @@ MRVDownloadSilentInput::MRVDownloadSilentInput(bool ignoreSsl, bool followRedire
 bool MRVDownloadSilentInput::authenticate(const QString &, const QUrl &, QString *user,
                                           QString *password)
 {
-    if (user)
+    if (user) {
         *user = m_user;
-    if (password)
+    }
+    if (password) {
         *password = m_password;
+    }
     return true;
 }
 

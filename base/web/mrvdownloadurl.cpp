@@ -60,8 +60,9 @@ bool isPacked(const QNetworkReply *reply)
 QString errorText(const QNetworkReply *reply)
 {
     QString text = reply->errorString();
-    if (!reply->url().password().isEmpty())
+    if (!reply->url().password().isEmpty()) {
         text.replace(reply->url().toString(), reply->url().toDisplayString());
+    }
     return text;
 }
 
@@ -78,8 +79,9 @@ MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
             &MRVDownloadUrl::onAuthenticationRequired);
     // Before whatever the host has connected, to answer them.
     connect(m_manager, &QNetworkAccessManager::sslErrors, this, [this](QNetworkReply *reply) {
-        if (reply == m_reply)
+        if (reply == m_reply) {
             beginQuestion();
+        }
     });
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
@@ -95,8 +97,9 @@ MRVDownloadUrl::~MRVDownloadUrl()
     // A receiver may delete this object while the manager or one of its replies is on the stack.
     m_manager->disconnect(this);
     m_manager->setParent(nullptr);
-    if (!m_asking->isEmpty())
+    if (!m_asking->isEmpty()) {
         return; // the end of the last question deletes it
+    }
     if (QCoreApplication::instance()) {
         m_manager->deleteLater();
     } else {
@@ -108,12 +111,15 @@ QString MRVDownloadUrl::fileForUrl(const QString &folder, const QUrl &url)
 {
     const QString path = url.path(QUrl::FullyDecoded);
     QString name = path.mid(path.lastIndexOf(u'/') + 1);
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         name = QStringLiteral("index.html");
-    if (QFileInfo(name).suffix().isEmpty())
+    }
+    if (QFileInfo(name).suffix().isEmpty()) {
         name += QLatin1String(".html");
-    if (folder.isEmpty())
+    }
+    if (folder.isEmpty()) {
         return name;
+    }
     QDir().mkpath(folder);
     return QDir(folder).absoluteFilePath(name);
 }
@@ -155,8 +161,9 @@ QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCh
 {
     const QTextCodec *from = codecOf(fromCharset);
     const QTextCodec *to = codecOf(toCharset);
-    if (!from || !to || from == to)
+    if (!from || !to || from == to) {
         return data;
+    }
 
     QTextCodec::ConverterState decoding;
     QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
@@ -178,8 +185,9 @@ QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCh
 bool MRVDownloadUrl::download(const QUrl &url)
 {
     dropReply();
-    if (!url.isValid())
+    if (!url.isValid()) {
         return false;
+    }
     m_url = url;
     m_contentType.clear();
     if (isFetched(url)) {
@@ -217,8 +225,9 @@ bool MRVDownloadUrl::downloadToFile(const QUrl &url)
 
 bool MRVDownloadUrl::downloadToFile(const QUrl &url, const QString &fileName)
 {
-    if (fileName.isEmpty())
+    if (fileName.isEmpty()) {
         return false;
+    }
     m_fileName = fileName;
     return download(url);
 }
@@ -241,12 +250,14 @@ void MRVDownloadUrl::dropReply()
     m_failure.clear();
     m_data.clear();
     QNetworkReply *reply = std::exchange(m_reply, nullptr);
-    if (!reply)
+    if (!reply) {
         return;
+    }
     reply->disconnect(this);
     reply->abort();
-    if (!m_asking->contains(reply))
+    if (!m_asking->contains(reply)) {
         reply->deleteLater();
+    }
 }
 
 void MRVDownloadUrl::endWith(const QString &error)
@@ -269,8 +280,9 @@ void MRVDownloadUrl::fail(const QString &error)
 
 void MRVDownloadUrl::awaitBytes()
 {
-    if (m_transferTimeout > 0)
+    if (m_transferTimeout > 0) {
         m_timer.start(m_transferTimeout);
+    }
 }
 
 void MRVDownloadUrl::onTimeout()
@@ -285,8 +297,9 @@ void MRVDownloadUrl::onTimeout()
 void MRVDownloadUrl::onMetaData()
 {
     awaitBytes();
-    if (promisedLength(m_reply).toLongLong() > m_maximumSize)
+    if (promisedLength(m_reply).toLongLong() > m_maximumSize) {
         fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
+    }
 }
 
 // Takes what has come out of the reply, so that a body is in memory once.
@@ -312,11 +325,13 @@ void MRVDownloadUrl::onReplyError()
 // Qt finds most of these out itself; but a length that is no number would let any part pass as whole.
 bool MRVDownloadUrl::isCutShort() const
 {
-    if (isPartial(statusOf(m_reply)))
+    if (isPartial(statusOf(m_reply))) {
         return true;
+    }
     const QByteArray promised = promisedLength(m_reply);
-    if (promised.isNull())
+    if (promised.isNull()) {
         return false;
+    }
     bool isNumber = false;
     const qint64 length = promised.toLongLong(&isNumber);
     return !isNumber || length < 0 || m_data.size() < length;
@@ -325,20 +340,25 @@ bool MRVDownloadUrl::isCutShort() const
 void MRVDownloadUrl::onReplyFinished()
 {
     m_timer.stop();
-    if (m_aborted)
+    if (m_aborted) {
         return endWith(tr("Download Aborted"));
-    if (!m_failure.isEmpty())
+    }
+    if (!m_failure.isEmpty()) {
         return endWith(m_failure);
-    if (m_reply->error() != QNetworkReply::NoError)
+    }
+    if (m_reply->error() != QNetworkReply::NoError) {
         return endWith(errorText(m_reply));
+    }
     const QPointer<MRVDownloadUrl> self(this);
     const QNetworkReply *reply = m_reply;
     collect();
-    if (!self || m_reply != reply)
+    if (!self || m_reply != reply) {
         return; // too large
+    }
     m_timer.stop();
-    if (isCutShort())
+    if (isCutShort()) {
         return endWith(tr("The connection ended before everything had come"));
+    }
 
     const QUrl location = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     if (m_userInput && !location.isEmpty()) {
@@ -361,11 +381,13 @@ std::function<void()> MRVDownloadUrl::questionEnd()
     return [self = QPointer<MRVDownloadUrl>(this), asking = m_asking, reply = m_reply] {
         asking->removeOne(reply);
         if (!self) {
-            if (asking->isEmpty())
+            if (asking->isEmpty()) {
                 reply->manager()->deleteLater();
+            }
         } else if (self->m_reply == reply) {
-            if (!reply->isFinished())
+            if (!reply->isFinished()) {
                 self->awaitBytes();
+            }
         } else if (!asking->contains(reply)) {
             reply->deleteLater();
         }
@@ -392,18 +414,22 @@ void MRVDownloadUrl::redirect(const QUrl &target)
                            .arg(target.toDisplayString()));
     }
     const bool isFollowed = ask([&] { return m_userInput->redirectTo(target); });
-    if (isGone())
+    if (isGone()) {
         return;
-    if (!isFollowed)
+    }
+    if (!isFollowed) {
         return deliver();
+    }
     if (m_url.scheme() == QLatin1String("https") && target.scheme() == QLatin1String("http")) {
         const QString danger = tr("It redirects to %1, where the connection is not encrypted")
                                    .arg(target.toDisplayString());
         const bool isAccepted = ask([&] { return m_userInput->ignoreSslErrors({danger}); });
-        if (isGone())
+        if (isGone()) {
             return;
-        if (!isAccepted)
+        }
+        if (!isAccepted) {
             return endWith(danger);
+        }
     }
     download(target);
 }
@@ -416,13 +442,15 @@ void MRVDownloadUrl::deliver()
     const QString from = isPacked(m_reply) ? QString() : charset(type);
     dropReply();
     m_contentType = type;
-    if (!from.isEmpty())
+    if (!from.isEmpty()) {
         data = convert(data, from, QStringLiteral("UTF-8"));
+    }
 
     const QPointer<MRVDownloadUrl> self(this);
     Q_EMIT downloadSuccess(data);
-    if (!self || fileName.isEmpty())
+    if (!self || fileName.isEmpty()) {
         return;
+    }
     QString error;
     if (MRVCoreUtil::WriteBinaryFile(data, fileName, &error)) {
         Q_EMIT downloadSuccess(fileName);
@@ -433,8 +461,9 @@ void MRVDownloadUrl::deliver()
 
 void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator)
 {
-    if (reply != m_reply)
+    if (reply != m_reply) {
         return; // dropped, while the question was on its way
+    }
     const QPointer<MRVDownloadUrl> self(this);
     QString user = m_url.userName();
     QString password = m_url.password();
@@ -442,8 +471,9 @@ void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticat
         m_userInput && ask([&] {
             return m_userInput->authenticate(authenticator->realm(), m_url, &user, &password);
         });
-    if (!self || m_reply != reply || reply->isFinished())
+    if (!self || m_reply != reply || reply->isFinished()) {
         return;
+    }
     if (isGiven) {
         authenticator->setUser(user);
         authenticator->setPassword(password);
@@ -459,8 +489,9 @@ void MRVDownloadUrl::onNetworkAccessibleChanged(int accessibility)
 {
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    if (accessibility == QNetworkAccessManager::Accessible)
+    if (accessibility == QNetworkAccessManager::Accessible) {
         return;
+    }
     QT_WARNING_POP
     const QString error = tr("Network not accessible");
     if (m_reply) {

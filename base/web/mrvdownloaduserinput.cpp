@@ -29,10 +29,12 @@ bool MRVDownloadUserInput::authenticate(const QString &realm, const QUrl &url, Q
         QCoreApplication::translate("QObject", "%1 at %2").arg(realm, url.toDisplayString()));
     dialog->setCredentials(user ? *user : QString(), password ? *password : QString());
     const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    if (isAccepted && user)
+    if (isAccepted && user) {
         *user = dialog->user();
-    if (isAccepted && password)
+    }
+    if (isAccepted && password) {
         *password = dialog->password();
+    }
     delete dialog;
     return isAccepted;
 }

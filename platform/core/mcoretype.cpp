@@ -27,8 +27,9 @@ QPair<Number, Number> toPair(const QString &text, bool *ok)
     const QStringList parts = text.split(QLatin1Char(','));
     const bool isPair = parts.size() == 2 && toNumber(parts.at(0), &pair.first)
         && toNumber(parts.at(1), &pair.second);
-    if (ok)
+    if (ok) {
         *ok = isPair;
+    }
     return isPair ? pair : QPair<Number, Number>{};
 }
 
@@ -48,8 +49,9 @@ qint64 MCoreType::readCount(QDataStream &stream)
 {
     qint32 count = 0;
     stream >> count;
-    if (stream.status() != QDataStream::Ok)
+    if (stream.status() != QDataStream::Ok) {
         return 0;
+    }
     if (count < 0 || count > stream.device()->bytesAvailable()) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return 0;

@@ -128,8 +128,9 @@ private:
     static void writeEntries(QDataStream &stream, const Container &entries)
     {
         stream << qint32(entries.size());
-        for (const auto &entry : entries)
+        for (const auto &entry : entries) {
             write(stream, entry);
+        }
     }
 
     // Qt's own operators reserve memory for whatever a count says.
@@ -177,8 +178,9 @@ private:
         for (qint64 left = readCount(stream); left > 0; --left) {
             Entry entry{};
             read(stream, &entry);
-            if (stream.status() != QDataStream::Ok)
+            if (stream.status() != QDataStream::Ok) {
                 return;
+            }
             insert(entry);
         }
     }

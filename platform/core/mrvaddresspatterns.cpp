@@ -21,8 +21,9 @@ QString foreignLetters()
         {0x00C0, 0x02AF}, {0x0388, 0x052F}, {0x3041, 0x30FF}, {0x4E00, 0x9FFF}, {0xAC00, 0xD7A3},
     };
     QString letters;
-    for (const auto &range : Ranges)
+    for (const auto &range : Ranges) {
         letters += QChar(range.first) + QLatin1Char('-') + QChar(range.last);
+    }
     return letters;
 }
 

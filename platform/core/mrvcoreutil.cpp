@@ -42,8 +42,9 @@ QTextCodec *codecForName(const char *name)
 QString withoutHalfPairs(QString text)
 {
     for (int i = 0; i < text.size(); ++i) {
-        if (!text.at(i).isSurrogate())
+        if (!text.at(i).isSurrogate()) {
             continue;
+        }
         const bool isPair =
             text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
         if (isPair) {
@@ -62,8 +63,9 @@ QString withoutHalfPairs(QString text)
 bool isLossless(const QByteArray &bytes, const QTextCodec &codec, const QString &text)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    if (codec.fromUnicode(text.constData(), text.size(), &state) == bytes)
+    if (codec.fromUnicode(text.constData(), text.size(), &state) == bytes) {
         return true;
+    }
     const QChar unknown(QChar::ReplacementCharacter);
     const QString longer = codec.toUnicode(bytes + '\n');
     return !longer.contains(unknown) && longer.size() == text.size() + 1;
@@ -92,23 +94,29 @@ QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
         mrvSetErrorLine(error, MRVCoreUtil::tr("Cannot read the file \"%1\": %2"), path, reason);
         return QByteArray();
     };
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return fail(MRVCoreUtil::tr("the file has no name"));
-    if (path.contains(QChar(QChar::Null)))
+    }
+    if (path.contains(QChar(QChar::Null))) {
         return fail(MRVCoreUtil::tr("its name holds a null character"));
+    }
     // Opening a folder succeeds, and reading it then yields nothing.
-    if (QFileInfo(path).isDir())
+    if (QFileInfo(path).isDir()) {
         return fail(MRVCoreUtil::tr("it is a folder"));
+    }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return fail(file.errorString());
-    if (file.size() > limit)
+    }
+    if (file.size() > limit) {
         return fail(MRVCoreUtil::tr("it is too large"));
+    }
     QByteArray bytes;
     bytes.reserve(int(file.size()));
     for (QByteArray piece; !(piece = file.read(PieceBytes)).isEmpty(); bytes += piece) {
-        if (bytes.size() + piece.size() > limit)
+        if (bytes.size() + piece.size() > limit) {
             return fail(MRVCoreUtil::tr("it is too large"));
+        }
     }
     return file.error() == QFileDevice::NoError ? bytes : fail(file.errorString());
 }
@@ -138,15 +146,18 @@ bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString
                              QString *reason)
 {
     const auto fail = [&](const QString &why) {
-        if (reason)
+        if (reason) {
             *reason = why;
+        }
         return false;
     };
     QTextCodec *decoder = codecForName(codec);
-    if (!decoder)
+    if (!decoder) {
         return fail(tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
-    if (bytes.size() > MaxTextBytes)
+    }
+    if (bytes.size() > MaxTextBytes) {
         return fail(tr("it is too large"));
+    }
     decoder = QTextCodec::codecForUtfText(bytes, decoder);
     const int mib = decoder->mibEnum();
     const bool reportsErrors = mib == Utf8Mib || isOneOf(mib, Utf16Mibs) || isOneOf(mib, Utf32Mibs);
@@ -165,14 +176,16 @@ QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, co
     QString readError;
     const QByteArray bytes = readUpTo(MaxTextBytes, path, &readError);
     if (!readError.isEmpty()) {
-        if (error)
+        if (error) {
             *error = readError;
+        }
         return QString();
     }
     QString text;
     QString reason;
-    if (!decodeText(bytes, codec, &text, &reason))
+    if (!decodeText(bytes, codec, &text, &reason)) {
         mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
+    }
     return text;
 }
 
@@ -208,12 +221,14 @@ bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, 
 
 QString MRVCoreUtil::GetUniqueFileName(const QString &path)
 {
-    if (path.isEmpty() || !isTaken(path))
+    if (path.isEmpty() || !isTaken(path)) {
         return path;
+    }
 
     QString stem = path;
-    while (stem.size() > 1 && stem.endsWith(QLatin1Char('/')))
+    while (stem.size() > 1 && stem.endsWith(QLatin1Char('/'))) {
         stem.chop(1);
+    }
     const int nameStart = stem.lastIndexOf(QLatin1Char('/')) + 1;
     const int dot = stem.lastIndexOf(QLatin1Char('.'));
     QString suffix;

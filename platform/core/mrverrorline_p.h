@@ -10,11 +10,13 @@
 inline void mrvSetErrorLine(QString *error, const QString &text, const QString &path,
                             const QString &reason)
 {
-    if (!error)
+    if (!error) {
         return;
+    }
     *error = text.arg(QDir::toNativeSeparators(path), reason);
     for (QChar &c : *error) {
-        if (c.category() == QChar::Other_Control)
+        if (c.category() == QChar::Other_Control) {
             c = QLatin1Char(' ');
+        }
     }
 }

@@ -30,8 +30,9 @@ bool isPlanted(const QFileInfo &link)
     struct stat folder;
     struct stat self;
     if (::stat(QFile::encodeName(link.path()).constData(), &folder) != 0
-        || ::lstat(QFile::encodeName(link.filePath()).constData(), &self) != 0)
+        || ::lstat(QFile::encodeName(link.filePath()).constData(), &self) != 0) {
         return false;
+    }
     const bool isShared = (folder.st_mode & S_ISVTX) && (folder.st_mode & S_IWOTH);
     return isShared && self.st_uid != ::geteuid() && self.st_uid != folder.st_uid;
 }
@@ -67,8 +68,9 @@ QString realTarget(const QString &path, QString *reason)
 void keepOwner(int handle, const QString &path)
 {
     struct stat old;
-    if (::stat(QFile::encodeName(path).constData(), &old) != 0)
+    if (::stat(QFile::encodeName(path).constData(), &old) != 0) {
         return;
+    }
     const bool isKept = ::fchown(handle, old.st_uid, old.st_gid) == 0
         || ::fchown(handle, uid_t(-1), old.st_gid) == 0;
     Q_UNUSED(isKept)
@@ -91,8 +93,9 @@ bool writeAll(QFileDevice &file, const QByteArray &bytes)
     qint64 done = 0;
     while (done < bytes.size()) {
         const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
-        if (count <= 0)
+        if (count <= 0) {
             return false;
+        }
         done += count;
     }
     return file.flush();
@@ -102,8 +105,9 @@ bool writeAll(QFileDevice &file, const QByteArray &bytes)
 bool renameOver(const QString &from, const QString &to)
 {
     const QByteArray name = QFile::encodeName(from);
-    if (::rename(name.constData(), QFile::encodeName(to).constData()) == 0)
+    if (::rename(name.constData(), QFile::encodeName(to).constData()) == 0) {
         return true;
+    }
     const int error = errno;
     ::unlink(name.constData());
     errno = error;
@@ -119,36 +123,45 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
         return false;
     };
 
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return fail(tr("the file has no name"));
+    }
     // The system's calls would take what stands before it for the whole name.
-    if (path.contains(QChar(QChar::Null)))
+    if (path.contains(QChar(QChar::Null))) {
         return fail(tr("its name holds a null character"));
+    }
     QString reason;
     const QString target = realTarget(path, &reason);
-    if (target.isEmpty())
+    if (target.isEmpty()) {
         return fail(reason);
+    }
     const QFileInfo info(target);
-    if (info.isDir())
+    if (info.isDir()) {
         return fail(tr("it is a folder"));
-    if (info.exists() && !info.isFile())
+    }
+    if (info.exists() && !info.isFile()) {
         return fail(tr("it is not a regular file"));
-    if (!info.dir().exists() || target.endsWith(QLatin1Char('/')))
+    }
+    if (!info.dir().exists() || target.endsWith(QLatin1Char('/'))) {
         return fail(tr("its folder does not exist"));
+    }
 
     // A name too long for QSaveFile is taken in a second step, from one that nobody else uses.
     const bool isLong = QFile::encodeName(info.fileName()).size() > MaxSavedName;
     const QString place = isLong
         ? info.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)
         : target;
-    if (isLong && info.exists() && !info.isWritable())
+    if (isLong && info.exists() && !info.isWritable()) {
         return fail(qt_error_string(EACCES));
+    }
     QSaveFile file(place);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return fail(file.errorString());
+    }
     keepOwner(file.handle(), target);
-    if (isLong && info.exists())
+    if (isLong && info.exists()) {
         file.setPermissions(info.permissions());
+    }
 
     // commit() alone reports success on a full disk, where the last write came back short and the
     // buffer could not be flushed.
@@ -157,8 +170,9 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
     } else if (!syncToDisk(file.handle())) {
         reason = qt_error_string(errno);
     } else {
-        if (!file.commit())
+        if (!file.commit()) {
             return fail(file.errorString());
+        }
         return place == target || renameOver(place, target) || fail(qt_error_string(errno));
     }
     file.cancelWriting();

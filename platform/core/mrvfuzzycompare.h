@@ -10,8 +10,9 @@
  */
 inline bool mrvFuzzyCompare(double a, double b)
 {
-    if (!std::isfinite(a) || !std::isfinite(b))
+    if (!std::isfinite(a) || !std::isfinite(b)) {
         return a == b;
+    }
     const double magnitude = std::fmax(1.0, std::fmax(std::fabs(a), std::fabs(b)));
     return std::fabs(a - b) <= 1e-12 * magnitude;
 }

@@ -19,8 +19,9 @@ QStringList translationFolders()
 {
     QStringList folders;
     const QString named = qEnvironmentVariable("MORVANE_TRANSLATIONS");
-    if (!named.isEmpty())
+    if (!named.isEmpty()) {
         folders << named;
+    }
     folders << QStringLiteral(":/Other/Translations");
     if (QCoreApplication::instance()) {
         folders << QCoreApplication::applicationDirPath()
@@ -44,8 +45,9 @@ QString translationFile(const QString &code)
     for (const QString &wanted : {code, name, language}) {
         for (const QString &folder : translationFolders()) {
             const QString file = folder + QLatin1Char('/') + Prefix + wanted + Suffix;
-            if (isLanguageCode(wanted) && QFileInfo(file).isFile())
+            if (isLanguageCode(wanted) && QFileInfo(file).isFile()) {
                 return file;
+            }
         }
     }
     return QString();
@@ -83,8 +85,9 @@ QStringList MTranslator::morvaneGuiLanguages()
         for (const QString &file : files) {
             const QString code =
                 file.mid(Prefix.size(), file.size() - Prefix.size() - Suffix.size());
-            if (code != english && isLanguageCode(code))
+            if (code != english && isLanguageCode(code)) {
                 languages << code;
+            }
         }
     }
     languages.sort();
@@ -97,37 +100,43 @@ QString MTranslator::systemGuiLanguageCode()
 {
     const QString wanted = QLocale::system().uiLanguages().value(0);
     const QLocale locale(wanted);
-    if (locale.language() == QLocale::C)
+    if (locale.language() == QLocale::C) {
         return QStringLiteral("en");
+    }
     const QString name = locale.name();
-    if (morvaneGuiLanguages().contains(name))
+    if (morvaneGuiLanguages().contains(name)) {
         return name;
+    }
     return name.section(QLatin1Char('_'), 0, 0);
 }
 
 bool MTranslator::install(const QString &code, QString *error)
 {
     const auto fail = [error](const QString &text) {
-        if (error)
+        if (error) {
             *error = text;
+        }
         return false;
     };
     QCoreApplication *const application = QCoreApplication::instance();
-    if (!application)
+    if (!application) {
         return fail(tr("A language can only be chosen while there is an application"));
+    }
 
     const QString wanted = code == QLatin1String("C") ? QStringLiteral("en") : code;
     const QLocale locale(wanted);
     const bool isEnglish = locale.language() == QLocale::English;
     const QString file = translationFile(wanted);
-    if (file.isEmpty() && !isEnglish)
+    if (file.isEmpty() && !isEnglish) {
         return fail(tr("There is no translation into the language \"%1\"").arg(code));
+    }
 
     // Without delimiters, as Qt would otherwise look for files of other names, too.
     auto own = newTranslator();
-    if (!file.isEmpty() && !own->load(file, QString(), QLatin1String("")))
+    if (!file.isEmpty() && !own->load(file, QString(), QLatin1String(""))) {
         return fail(
             tr("The translation \"%1\" cannot be read").arg(QDir::toNativeSeparators(file)));
+    }
 
     removeTranslators(application);
     auto qt = newTranslator();
@@ -136,7 +145,8 @@ bool MTranslator::install(const QString &code, QString *error)
                     QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
         installTranslator(std::move(qt), application);
     }
-    if (!own->isEmpty())
+    if (!own->isEmpty()) {
         installTranslator(std::move(own), application);
+    }
     return true;
 }

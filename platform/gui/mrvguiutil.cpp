@@ -36,8 +36,9 @@ bool hasTransparency(const QByteArray &format)
     static constexpr const char *Opaque[] = {"BMP", "JPEG", "JPG",  "PBM",
                                              "PGM", "PPM",  "WBMP", "XBM"};
     for (const char *name : Opaque) {
-        if (format.compare(name, Qt::CaseInsensitive) == 0)
+        if (format.compare(name, Qt::CaseInsensitive) == 0) {
             return false;
+        }
     }
     return true;
 }
@@ -51,8 +52,9 @@ bool isIcon(const QByteArray &format)
 QImage onWhite(const QImage &image)
 {
     QImage flat(image.size(), QImage::Format_RGB32);
-    if (flat.isNull())
+    if (flat.isNull()) {
         return flat;
+    }
     flat.fill(Qt::white);
     flat.setDotsPerMeterX(image.dotsPerMeterX());
     flat.setDotsPerMeterY(image.dotsPerMeterY());
@@ -71,14 +73,16 @@ QVector<QSize> iconSizes(const QByteArray &bytes)
     constexpr qint64 HeaderBytes = 24; // of a PNG as far as its height; a bitmap's need fewer
     const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
     QVector<QSize> sizes;
-    if (bytes.size() < DirectoryStart)
+    if (bytes.size() < DirectoryStart) {
         return sizes;
+    }
     const int count = qFromLittleEndian<quint16>(data + 4);
     for (int i = 0; i < count && DirectoryStart + (i + 1) * EntryBytes <= bytes.size(); ++i) {
         const qint64 start =
             qFromLittleEndian<quint32>(data + DirectoryStart + i * EntryBytes + 12);
-        if (start + HeaderBytes > bytes.size())
+        if (start + HeaderBytes > bytes.size()) {
             continue;
+        }
         const uchar *header = data + start;
         if (bytes.mid(int(start), 4) == "\x89PNG") {
             sizes << QSize(qFromBigEndian<qint32>(header + 16),
@@ -97,14 +101,16 @@ QVector<QSize> iconSizes(const QByteArray &bytes)
 QSize bitmapTextSize(const QByteArray &bytes)
 {
     const int at = bytes.startsWith("#define") ? 0 : bytes.indexOf("\n#define") + 1;
-    if ((at == 0 && !bytes.startsWith('#')) || bytes.left(at).contains('\0'))
+    if ((at == 0 && !bytes.startsWith('#')) || bytes.left(at).contains('\0')) {
         return QSize();
+    }
     int numbers[2] = {-1, -1};
     int lineStart = at;
     for (int &number : numbers) {
         const int lineEnd = bytes.indexOf('\n', lineStart);
-        if (lineEnd < 0)
+        if (lineEnd < 0) {
             return QSize();
+        }
         const QList<QByteArray> words =
             bytes.mid(lineStart, lineEnd - lineStart).simplified().split(' ');
         number = words.value(2).toInt();
@@ -125,11 +131,13 @@ QImage canonicalPixels(const QImage &image)
 
 QString MRVGuiUtil::resourceId(const QImage &image)
 {
-    if (image.isNull())
+    if (image.isNull()) {
         return QString();
+    }
     const QImage pixels = canonicalPixels(image);
-    if (pixels.isNull())
+    if (pixels.isNull()) {
         return QString();
+    }
 
     const quint32 header[] = {qToBigEndian(quint32(pixels.width())),
                               qToBigEndian(quint32(pixels.height()))};
@@ -137,15 +145,17 @@ QString MRVGuiUtil::resourceId(const QImage &image)
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(reinterpret_cast<const char *>(header), sizeof header);
     const int rowLength = pixels.width() * (pixels.depth() / 8);
-    for (int y = 0; y < pixels.height(); ++y)
+    for (int y = 0; y < pixels.height(); ++y) {
         hash.addData(reinterpret_cast<const char *>(pixels.constScanLine(y)), rowLength);
+    }
     return QLatin1String("img-") + QString::fromLatin1(hash.result().toHex());
 }
 
 QImage MRVGuiUtil::toImage(const QByteArray &bytes, const char *format)
 {
-    if (!isPlausible(bitmapTextSize(bytes), bytes.size()))
+    if (!isPlausible(bitmapTextSize(bytes), bytes.size())) {
         return QImage();
+    }
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -154,12 +164,14 @@ QImage MRVGuiUtil::toImage(const QByteArray &bytes, const char *format)
     const QByteArray known = QImageReader::imageFormat(&buffer);
     QImageReader reader(&buffer, known.isEmpty() ? format : nullptr);
     reader.setAutoTransform(true);
-    if (!reader.canRead() || !isPlausible(reader.size(), bytes.size()))
+    if (!reader.canRead() || !isPlausible(reader.size(), bytes.size())) {
         return QImage();
+    }
     if (isIcon(known.isEmpty() ? QByteArray(format) : known)) {
         for (const QSize &size : iconSizes(bytes)) {
-            if (!isPlausible(size, bytes.size()))
+            if (!isPlausible(size, bytes.size())) {
                 return QImage();
+            }
         }
     }
     return reader.read();
@@ -182,25 +194,29 @@ QImage MRVGuiUtil::toImage(const QVariant &variant, const char *format)
 QByteArray MRVGuiUtil::toByteArray(const QImage &image, const char *format, int quality)
 {
     // An empty format would make the writer guess from a file name that a buffer does not have.
-    if (image.isNull() || !format || !*format)
+    if (image.isNull() || !format || !*format) {
         return QByteArray();
+    }
     // The writer would shrink it without a word.
-    if (isIcon(format) && qMax(image.width(), image.height()) > MaxIconSide)
+    if (isIcon(format) && qMax(image.width(), image.height()) > MaxIconSide) {
         return QByteArray();
+    }
     const bool needsPaper = image.hasAlphaChannel() && !hasTransparency(format);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, format);
     writer.setQuality(quality);
-    if (!writer.write(needsPaper ? onWhite(image) : image))
+    if (!writer.write(needsPaper ? onWhite(image) : image)) {
         return QByteArray();
+    }
     return buffer.data();
 }
 
 QColor MRVGuiUtil::textColorForBackground(const QColor &background)
 {
-    if (!background.isValid())
+    if (!background.isValid()) {
         return Qt::black;
+    }
     const QColor color = background.toRgb();
     const double alpha = color.alphaF();
     const auto linear = [alpha](double channel) {

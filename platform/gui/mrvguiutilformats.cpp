@@ -18,8 +18,9 @@ QString formatName(const QByteArray &pluginName)
 {
     const QByteArray upper = pluginName.toUpper();
     for (const auto &row : Aliases) {
-        if (upper == row.alias)
+        if (upper == row.alias) {
             return QString::fromLatin1(row.name);
+        }
     }
     return QString::fromLatin1(upper);
 }
@@ -27,8 +28,9 @@ QString formatName(const QByteArray &pluginName)
 QStringList formatNames(const QList<QByteArray> &pluginNames)
 {
     QStringList names;
-    for (const QByteArray &pluginName : pluginNames)
+    for (const QByteArray &pluginName : pluginNames) {
         names << formatName(pluginName);
+    }
     names.sort();
     names.removeDuplicates();
     return names;
@@ -38,8 +40,9 @@ QStringList suffixes(const QString &format)
 {
     QStringList list{format.toLower()};
     for (const auto &row : Aliases) {
-        if (format == QLatin1String(row.name))
+        if (format == QLatin1String(row.name)) {
             list << QString::fromLatin1(row.alias).toLower();
+        }
     }
     return list;
 }
@@ -47,8 +50,9 @@ QStringList suffixes(const QString &format)
 QStringList filters(const QStringList &formats)
 {
     QStringList list;
-    for (const QString &format : formats)
+    for (const QString &format : formats) {
         list << MRVGuiUtil::createFormatFilter(format, suffixes(format));
+    }
     return list;
 }
 
@@ -69,8 +73,9 @@ QStringList MRVGuiUtil::readWriteImageFormats()
     const QStringList writable = writeImageFormats();
     QStringList both;
     for (const QString &format : readImageFormats()) {
-        if (writable.contains(format))
+        if (writable.contains(format)) {
             both << format;
+        }
     }
     return both;
 }
@@ -79,8 +84,9 @@ QStringList MRVGuiUtil::readImageFileFilters()
 {
     const QStringList formats = readImageFormats();
     QStringList all;
-    for (const QString &format : formats)
+    for (const QString &format : formats) {
         all << suffixes(format);
+    }
     return QStringList{createFormatFilter(tr("All Images"), all)} + filters(formats);
 }
 
@@ -94,15 +100,19 @@ QString MRVGuiUtil::createFormatFilter(const QString &description, const QString
     QStringList patterns;
     for (QString suffix : suffixes) {
         suffix = suffix.trimmed();
-        if (suffix.startsWith(QLatin1Char('*')))
+        if (suffix.startsWith(QLatin1Char('*'))) {
             suffix.remove(0, 1);
-        if (suffix.startsWith(QLatin1Char('.')))
+        }
+        if (suffix.startsWith(QLatin1Char('.'))) {
             suffix.remove(0, 1);
-        if (!suffix.isEmpty())
+        }
+        if (!suffix.isEmpty()) {
             patterns << QLatin1String("*.") + suffix;
+        }
     }
     patterns.removeDuplicates();
-    if (patterns.isEmpty())
+    if (patterns.isEmpty()) {
         patterns << QStringLiteral("*");
+    }
     return QStringLiteral("%1 (%2)").arg(description, patterns.join(QLatin1Char(' ')));
 }

@@ -18,8 +18,9 @@ T *withoutLookup()
 int QMetaTypeId<MRVQtListLevel>::qt_metatype_id()
 {
     static QBasicAtomicInt registered = Q_BASIC_ATOMIC_INITIALIZER(0);
-    if (const int id = registered.loadAcquire())
+    if (const int id = registered.loadAcquire()) {
         return id;
+    }
     const QByteArray name = QByteArrayLiteral("QTextListFormat::Level");
     const int id =
         qRegisterNormalizedMetaType<MRVQtListLevel>(name, withoutLookup<MRVQtListLevel>());
@@ -68,16 +69,18 @@ QDataStream &operator>>(QDataStream &stream, MRVQtListLevel &level)
 
 int mrvListLevel(const QTextList &list, const QTextBlock &block)
 {
-    if (!block.isValid() || block.textList() != &list)
+    if (!block.isValid() || block.textList() != &list) {
         return 0;
+    }
     return qMax(0, block.blockFormat().intProperty(MRVParagraphListLevelProperty));
 }
 
 void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level)
 {
     level = qMax(0, level);
-    if (!block.isValid() || block.textList() != &list || mrvListLevel(list, block) == level)
+    if (!block.isValid() || block.textList() != &list || mrvListLevel(list, block) == level) {
         return;
+    }
     QTextBlockFormat format = block.blockFormat();
     if (level > 0) {
         format.setProperty(MRVParagraphListLevelProperty, level);
@@ -90,8 +93,9 @@ void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level)
 void mrvRemoveFromList(const QTextBlock &block)
 {
     QTextList *list = block.isValid() ? block.textList() : nullptr;
-    if (!list)
+    if (!list) {
         return;
+    }
     QTextCursor cursor(block);
     cursor.beginEditBlock();
     // With it, a paragraph that joins another list later would start on the level of this one.

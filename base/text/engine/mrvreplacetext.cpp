@@ -60,8 +60,9 @@ QTextCharFormat formatAt(QTextDocument *document, int position)
 {
     const QChar character = document->characterAt(position);
     // Qt gives the format of the end of a paragraph as that of the paragraph behind it.
-    if (character == QChar::ParagraphSeparator)
+    if (character == QChar::ParagraphSeparator) {
         return textFormat(document->findBlock(position + 1).charFormat());
+    }
     QTextCursor cursor(document);
     cursor.setPosition(MRVTextFormat::hasFrameInString(character) ? position : position + 1);
     return textFormat(cursor.charFormat());
@@ -129,8 +130,9 @@ QVector<Piece> differences(Formats *formats, const QString &old, const QString &
     QVector<Piece> pieces;
     for (int i = 0; i < text.size(); ++i) {
         if (!differs(i) && !(isSecondHalf(i) && differs(i - 1))
-            && !(isSecondHalf(i + 1) && differs(i + 1)))
+            && !(isSecondHalf(i + 1) && differs(i + 1))) {
             continue;
+        }
         const bool adjoins = !pieces.isEmpty() && pieces.last().to == i;
         if (adjoins && text.at(i).isLowSurrogate()) {
             pieces.last().to = i + 1;
@@ -188,8 +190,9 @@ void replaceMiddle(QTextCursor &cursor, int start, const QString &old, const QSt
 
 void mrvReplaceText(QTextCursor &cursor, const QString &newText)
 {
-    if (cursor.isNull())
+    if (cursor.isNull()) {
         return;
+    }
     const QString text = withParagraphSeparators(newText);
     if (!cursor.hasSelection()) {
         cursor.insertText(text, textFormat(cursor.charFormat()));
