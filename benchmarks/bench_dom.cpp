@@ -13,8 +13,8 @@
 
 namespace {
 
-// The allocator puts off the work of a freed tree's million pieces until somebody asks for a large one: neither side is to
-// pay for what the other left.
+// The allocator puts off the work of a freed tree's million pieces until somebody asks for a large
+// one: neither side is to pay for what the other left.
 void tidyUp()
 {
     malloc_trim(0);

@@ -225,8 +225,8 @@ void loopOfFragmentFinds(benchmark::State &state)
         [&] { return plainCount(document, pattern); });
 }
 
-/// Every find replaced there and back, so that each round begins with the same document. The peer is
-/// the usual loop in one edit block.
+/// Every find replaced there and back, so that each round begins with the same document. The peer
+/// is the usual loop in one edit block.
 void replaceAll(benchmark::State &state)
 {
     const auto ours = novel(int(state.range(0)));

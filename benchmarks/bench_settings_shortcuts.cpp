@@ -4,8 +4,8 @@
 #include <benchmark/benchmark.h>
 
 /**
- * A scheme of all commands: writing and reading it must take less than a millisecond together, since
- * an application does both when it starts.
+ * A scheme of all commands: writing and reading it must take less than a millisecond together,
+ * since an application does both when it starts.
  */
 static void writeAndRead(benchmark::State &state)
 {

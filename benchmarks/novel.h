@@ -12,8 +12,8 @@
 #include <random>
 
 /**
- * A generated novel: about 75 words a paragraph, five runs a paragraph, a comment every 250 words. The same
- * number of words gives the same novel.
+ * A generated novel: about 75 words a paragraph, five runs a paragraph, a comment every 250 words.
+ * The same number of words gives the same novel.
  *
  * @param styles how many different styles the emphasised runs take in turn.
  */
@@ -60,9 +60,9 @@ inline std::unique_ptr<QTextDocument> novel(int words, int styles = 3)
 }
 
 /**
- * Times two functions in turn, seven times each, and reports the smallest time of each side in milliseconds
- * and their ratio: the machine may be noisy, the comparison must not be. Before each of them, @p prepare is
- * called, which is not timed.
+ * Times two functions in turn, seven times each, and reports the smallest time of each side in
+ * milliseconds and their ratio: the machine may be noisy, the comparison must not be. Before each
+ * of them, @p prepare is called, which is not timed.
  */
 template<typename Work, typename Peer, typename Prepare>
 void compare(benchmark::State &state, Work work, Peer peer, Prepare prepare)

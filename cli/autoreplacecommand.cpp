@@ -351,7 +351,8 @@ QString objectionTo(const QCommandLineParser &parser, const Verb &verb,
     return QString();
 }
 
-// The options give what could be read, or the default, in place of a list that cannot be read whole.
+// The options give what could be read, or the default, in place of a list that cannot be read
+// whole.
 QString damageOf(const MRVOptions &options)
 {
     const QString key = options.keyText(MRVOptions::SubstitutionList);

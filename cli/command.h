@@ -54,7 +54,8 @@ void showProgress(const QString &text);
  *
  * @param usage what follows "mrv " in the help's first line.
  * @param hint what follows the text about an option that there is not.
- * @return the exit code to end with, when help was asked for (0) or the arguments are wrong (2); -1 to go on.
+ * @return the exit code to end with, when help was asked for (0) or the arguments are wrong (2); -1
+ *        to go on.
  */
 int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments,
                    const QString &hint = QString());

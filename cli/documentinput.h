@@ -46,15 +46,16 @@ struct InputOptions
 /**
  * Reads a manuscript with its pictures. Names of pictures count from the input's folder.
  *
- * @return false, with a one-line text that names the file, when it is missing, of unknown format, not readable in
- *         its encoding, nested too deeply, or when one of its pictures on this machine cannot be read.
+ * @return false, with a one-line text that names the file, when it is missing, of unknown format,
+ *         not readable in its encoding, nested too deeply, or when one of its pictures on this
+ *         machine cannot be read.
  */
 bool readDocument(const QString &path, const InputOptions &options, DocumentInput *input,
                   QString *error);
 
 /**
- * Reads the inputs one after the other and hands each to @p look, which tells whether it found something. An input that
- * cannot be read is reported, and the others are still looked at.
+ * Reads the inputs one after the other and hands each to @p look, which tells whether it found
+ * something. An input that cannot be read is reported, and the others are still looked at.
  *
  * @param doing shown on a terminal while an input is worked on: "Reading %1".
  * @return Done when something was found and every input could be read, else Failed.

@@ -2,5 +2,8 @@
 
 #include "importexport/mrvformat.h"
 
-/** The format that a person means by its name ("MMDtoHTML"), a suffix, or the name of a file, in any case; 0 for none. */
+/**
+ * The format that a person means by its name ("MMDtoHTML"), a suffix, or the name of a file, in any
+ * case; 0 for none.
+ */
 MRVFormat::Format formatNamed(const QString &text);

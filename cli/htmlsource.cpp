@@ -51,7 +51,8 @@ QString groupOf(const QString &name)
     return QString();
 }
 
-// Reads the tags of a page one by one, without comments, declarations and the content of scripts and styles.
+// Reads the tags of a page one by one, without comments, declarations and the content of scripts
+// and styles.
 class TagReader
 {
 public:

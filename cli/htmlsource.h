@@ -24,5 +24,7 @@ QByteArray xmlEncoding(const QByteArray &bytes);
 /** Do elements, after the usual rules for end tags left out, lie more than @p levels deep? */
 bool isHtmlNestedDeeper(const QString &html, int levels);
 
-/** The tag of a language as BCP 47 writes it ("fr_FR" becomes "fr-FR"); empty for a malformed one. */
+/**
+ * The tag of a language as BCP 47 writes it ("fr_FR" becomes "fr-FR"); empty for a malformed one.
+ */
 QString languageTag(const QString &text);

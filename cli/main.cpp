@@ -51,7 +51,8 @@ void printTo(FILE *stream, const QString &text)
     std::fputc('\n', stream);
 }
 
-// Qt warns of what the desktop lacks (a runtime folder, fonts); the tool's errors are its own, in one line.
+// Qt warns of what the desktop lacks (a runtime folder, fonts); the tool's errors are its own, in
+// one line.
 void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg) {
@@ -59,7 +60,8 @@ void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
     }
 }
 
-// A stream that was closed must not become the next file that is opened: what is printed would end up there.
+// A stream that was closed must not become the next file that is opened: what is printed would end
+// up there.
 void occupyClosedStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -23,7 +23,8 @@ struct Measure
     MRVUnit::Unit unit = MRVUnit::None;
 };
 
-// What a measure is printed in. A didot and a cicero are no units of their own, so that the spelling tells them apart.
+// What a measure is printed in. A didot and a cicero are no units of their own, so that the
+// spelling tells them apart.
 struct Target
 {
     QString name;

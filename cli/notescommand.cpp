@@ -91,8 +91,8 @@ QTextCharFormat formatAt(const QTextDocument &document, int position)
     return QTextCharFormat();
 }
 
-// Word processors and converters name notes and comments in their own ways; else, a link inside the page on a mere
-// number or sign belongs to a note.
+// Word processors and converters name notes and comments in their own ways; else, a link inside the
+// page on a mere number or sign belongs to a note.
 Kind kindOfLink(const QString &address, const QString &text)
 {
     static const QRegularExpression comment(QStringLiteral("#(?:_msocom|cmnt)"));

@@ -155,7 +155,8 @@ bool PageExport::writePage(const DocumentInput &input, const QString &page, Fold
     return true;
 }
 
-// Takes up the pictures that were written with a page. Where one gets another name, the page follows.
+// Takes up the pictures that were written with a page. Where one gets another name, the page
+// follows.
 bool PageExport::addPictures(const QString &page, const Folder &folder, QString *error)
 {
     const QDir stage(QFileInfo(page).path());

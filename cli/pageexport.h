@@ -28,9 +28,9 @@ QString pageText(const PageOptions &options, const DocumentInput &input);
 /**
  * Writes pages with their pictures and style sheets.
  *
- * No picture that is there already is replaced: one with the same bytes is used again, and beside another one the new
- * picture gets a new name. A style sheet is replaced only when all pages that it was written for are replaced
- * with it, or are gone.
+ * No picture that is there already is replaced: one with the same bytes is used again, and beside
+ * another one the new picture gets a new name. A style sheet is replaced only when all pages that
+ * it was written for are replaced with it, or are gone.
  */
 class PageExport
 {

@@ -201,8 +201,8 @@ struct Changed
     QString backup;
 };
 
-// What only some may read stays so in the backup: it gets its permissions while it is empty, and the writer keeps those
-// of the file that it replaces.
+// What only some may read stays so in the backup: it gets its permissions while it is empty, and
+// the writer keeps those of the file that it replaces.
 bool writeBackup(const QString &name, const Changed &changed, QString *error)
 {
     QFile file(name);

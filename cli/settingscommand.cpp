@@ -274,7 +274,8 @@ int exportTo(const Request &request)
     return request.options->saveToFile(path, &error) ? Done : refuse(error);
 }
 
-// Reading replaces all that is there: it must not begin before there is something to put in its place.
+// Reading replaces all that is there: it must not begin before there is something to put in its
+// place.
 int importFrom(const Request &request)
 {
     const QString path = request.arguments.constFirst();

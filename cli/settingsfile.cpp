@@ -19,8 +19,9 @@ namespace {
 constexpr int MostWaiting = 40000;
 constexpr int Step = 10;
 
-// QSettings takes any file for one of its own, and would write over it. What stands before the first section must be
-// comments and keys; where "#" comments are all there is, it may be a text with headings.
+// QSettings takes any file for one of its own, and would write over it. What stands before the
+// first section must be comments and keys; where "#" comments are all there is, it may be a text
+// with headings.
 bool beginsLikeSettings(QFile *file)
 {
     static const QRegularExpression key(QStringLiteral("^[\\w%\\\\./-]+\\s*="));
@@ -77,7 +78,8 @@ std::unique_ptr<QLockFile> lockFor(const QFileInfo &file)
     return lock;
 }
 
-// Empty where there is none. QSettings would wait at a pipe, put a file in place of a device, and make folders.
+// Empty where there is none. QSettings would wait at a pipe, put a file in place of a device, and
+// make folders.
 QString objectionTo(const QFileInfo &info, bool isOwn, Access access)
 {
     if (info.exists() && !info.isFile()) {

@@ -28,10 +28,11 @@ struct OpenedOptions
 /**
  * The options in the INI file at @p path, or for an empty path the user's own.
  *
- * For a change they are locked: what is read, changed and saved is not what another command has read before. A command
- * that finds the lock taken waits.
+ * For a change they are locked: what is read, changed and saved is not what another command has
+ * read before. A command that finds the lock taken waits.
  *
- * @return null options, with a one-line text that names the file, when it is missing or lies in a folder that is, is no
- * regular file, cannot be read, holds something else, or is locked for too long.
+ * @return null options, with a one-line text that names the file, when it is missing or lies in a
+ * folder that is, is no regular file, cannot be read, holds something else, or is locked for too
+ * long.
  */
 OpenedOptions openOptions(const QString &path, Access access, QString *error);

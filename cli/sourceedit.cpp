@@ -43,8 +43,8 @@ const QRegularExpression &htmlMarkup()
     return markup;
 }
 
-// Pictures, link targets, definitions of links, fences, comments, tags, boxes to tick, numbers of lists, and the
-// characters that mark something.
+// Pictures, link targets, definitions of links, fences, comments, tags, boxes to tick, numbers of
+// lists, and the characters that mark something.
 const QRegularExpression &markdownMarkup()
 {
     static const QRegularExpression markup(
@@ -57,7 +57,10 @@ const QRegularExpression &markdownMarkup()
     return markup;
 }
 
-/** Goes along a source and the text of the document that was read from it, and notes what belongs together. */
+/**
+ * Goes along a source and the text of the document that was read from it, and notes what belongs
+ * together.
+ */
 class Alignment
 {
 public:
@@ -118,8 +121,8 @@ private:
         return true;
     }
 
-    // The text that the source means where it stands, and how much of the source that is. In code of Markdown a
-    // reference to a character means none.
+    // The text that the source means where it stands, and how much of the source that is. In code
+    // of Markdown a reference to a character means none.
     QString textAt(int position, int *length)
     {
         static const QRegularExpression entity(
@@ -146,7 +149,8 @@ private:
         return text;
     }
 
-    // The blanks up to the next text: those of the document are told where they are as many, or but one.
+    // The blanks up to the next text: those of the document are told where they are as many, or but
+    // one.
     void passBlanks()
     {
         QVector<int> positions;
@@ -241,7 +245,8 @@ struct Edit
     QString text;
 };
 
-// Where text can be put in that takes the place of none: beside the text that it gets its format from.
+// Where text can be put in that takes the place of none: beside the text that it gets its format
+// from.
 bool insertionPlace(const Places &places, int position, bool preferFront, Place *place)
 {
     const Place front = places.value(position - 1);
@@ -255,8 +260,8 @@ bool insertionPlace(const Places &places, int position, bool preferFront, Place 
 }
 
 /**
- * What a change means in the source. As in the document, texts of the same length go character by character, and
- * else the new text takes the place of the first character that goes.
+ * What a change means in the source. As in the document, texts of the same length go character by
+ * character, and else the new text takes the place of the first character that goes.
  */
 bool appendEdits(const MRVTextChange &change, const Places &places, const Writer &writer,
                  QVector<Edit> *edits)

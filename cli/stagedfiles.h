@@ -10,7 +10,10 @@
 #include <memory>
 #include <vector>
 
-/** Folders made for files that are still to come: those that are empty go again, unless keep() is called. */
+/**
+ * Folders made for files that are still to come: those that are empty go again, unless keep() is
+ * called.
+ */
 class NewFolders
 {
 public:
@@ -27,14 +30,18 @@ private:
     QStringList m_made; // outer ones first
 };
 
-/** Replaces @p file by @p bytes, in folders that are made where they are missing. A signal waits for it to end. */
+/**
+ * Replaces @p file by @p bytes, in folders that are made where they are missing. A signal waits for
+ * it to end.
+ */
 bool writeWithFolders(const QByteArray &bytes, const QString &file, QString *error);
 
 /**
  * Files that come to their places together or not at all.
  *
- * Each is written whole to a stage, a hidden folder on the disk where it is to lie; publish() then looks at all places,
- * and moves all files. What goes wrong, or a signal that ends the program, leaves what was there before.
+ * Each is written whole to a stage, a hidden folder on the disk where it is to lie; publish() then
+ * looks at all places, and moves all files. What goes wrong, or a signal that ends the program,
+ * leaves what was there before.
  */
 class StagedFiles
 {
@@ -45,8 +52,8 @@ public:
     void add(const QString &staged, const QString &target);
 
     /**
-     * Moves the files to their places, in the order of add(). A link is followed to its file, and the permissions of
-     * files that are replaced are kept.
+     * Moves the files to their places, in the order of add(). A link is followed to its file, and
+     * the permissions of files that are replaced are kept.
      */
     bool publish(QString *error);
 

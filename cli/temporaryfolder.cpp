@@ -27,7 +27,8 @@ bool removeTree(int parent, const char *name)
     if (folder < 0) {
         return unlinkat(parent, name, 0) == 0;
     }
-    // A listing may pass over entries while others are removed: read until a whole one removes nothing.
+    // A listing may pass over entries while others are removed: read until a whole one removes
+    // nothing.
     for (bool removed = true; removed;) {
         removed = false;
         lseek(folder, 0, SEEK_SET);

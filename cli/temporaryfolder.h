@@ -21,8 +21,8 @@ private:
 };
 
 /**
- * A new hidden folder that goes with all it holds when the object does, or when SIGINT, SIGTERM or SIGHUP ends the
- * program. (QTemporaryDir stays behind then.) Main thread only.
+ * A new hidden folder that goes with all it holds when the object does, or when SIGINT, SIGTERM or
+ * SIGHUP ends the program. (QTemporaryDir stays behind then.) Main thread only.
  */
 class TemporaryFolder
 {

@@ -54,12 +54,16 @@ bool readInputOptions(const QCommandLineParser &parser, const QStringList &input
                       InputOptions *options, QString *error);
 
 /**
- * Where a range lies, for programs: the paragraph and the column in it, from 1; the positions in the document, from 0,
- * the end not included; the text, with a line feed for each end of a line or paragraph. All count UTF-16 units.
+ * Where a range lies, for programs: the paragraph and the column in it, from 1; the positions in
+ * the document, from 0, the end not included; the text, with a line feed for each end of a line or
+ * paragraph. All count UTF-16 units.
  */
 QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRange &range);
 
-/** The text with blanks for line and paragraph ends, and without what would control a terminal. As long as before. */
+/**
+ * The text with blanks for line and paragraph ends, and without what would control a terminal. As
+ * long as before.
+ */
 QString displayed(QString text);
 
 enum class Style { Match, Path, Removed, Added };

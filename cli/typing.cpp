@@ -2,7 +2,10 @@
 
 namespace {
 
-/** The end of the text before the caret, as long as any match, and where each character of it comes from. */
+/**
+ * The end of the text before the caret, as long as any match, and where each character of it comes
+ * from.
+ */
 class BeforeCaret
 {
 public:

@@ -120,7 +120,8 @@ void print(const MRVUpdateModel &model, const QString &feed, bool json)
 
 int check(const QString &given, bool json)
 {
-    // The model reads what lies in the temporary folder, where others may have files of these names.
+    // The model reads what lies in the temporary folder, where others may have files of these
+    // names.
     const TemporaryFolder folder(QDir::tempPath());
     if (folder.path().isEmpty()) {
         printError(QLatin1String("update: ") + folder.errorString());

@@ -269,8 +269,8 @@ int runCreate(MRVDomDoc &doc, const Options &options)
 }
 
 /**
- * Whether blanks between elements are part of a text, as in "<b>one</b> <i>two</i>": a parser drops them. White space with
- * a line end beside no text is taken for layout.
+ * Whether blanks between elements are part of a text, as in "<b>one</b> <i>two</i>": a parser drops
+ * them. White space with a line end beside no text is taken for layout.
  */
 bool hasBlanksToLose(const QByteArray &xml)
 {

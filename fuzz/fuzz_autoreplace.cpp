@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to the readers of stored auto-replace lists and entries, and looks up texts in
-// what they give. Not part of the normal build:
+// Feeds arbitrary bytes to the readers of stored auto-replace lists and entries, and looks up texts
+// in what they give. Not part of the normal build:
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase $(pkg-config --cflags --libs Qt5Core) fuzz/fuzz_autoreplace.cpp

@@ -1,4 +1,5 @@
-// Loads arbitrary bytes as an XML document, saves it, and loads what was saved. Not part of the normal build:
+// Loads arbitrary bytes as an XML document, saves it, and loads what was saved. Not part of the
+// normal build:
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Xml) fuzz/fuzz_domdocument.cpp

@@ -1,4 +1,5 @@
-// Applies arbitrary operations with arbitrary paths to an XML document. Not part of the normal build:
+// Applies arbitrary operations with arbitrary paths to an XML document. Not part of the normal
+// build:
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Xml) fuzz/fuzz_dompath.cpp

@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to the readers of stored engine maps and of the names of web page imports. Not
-// part of the normal build:
+// Feeds arbitrary bytes to the readers of stored engine maps and of the names of web page imports.
+// Not part of the normal build:
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Core) fuzz/fuzz_engines.cpp

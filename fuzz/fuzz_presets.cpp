@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to the reader of text presets, and to the store as the formats and presets of a
-// settings file. Not part of the normal build:
+// Feeds arbitrary bytes to the reader of text presets, and to the store as the formats and presets
+// of a settings file. Not part of the normal build:
 //
 //   for h in mrvshortcut mrvsettings; do /usr/lib/qt5/bin/moc -Ibase base/settings/$h.h
 //     -p settings -o moc_$h.cpp; done

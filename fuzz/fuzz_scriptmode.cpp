@@ -2,8 +2,8 @@
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_scriptmode.cpp
-//     base/script/mrvscript*.cpp base/util/mrvunit.cpp base/util/mrvcolors.cpp base/util/mrvnames.cpp
-//     build/release/base/mrvdefaultscriptmode.cpp -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui
+//     base/script/mrvscript*.cpp base/util/mrvunit.cpp base/util/mrvcolors.cpp
+//     base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui
 //     -Wl,-rpath,build/release/lib -o fuzz_scriptmode
 //   ./fuzz_scriptmode -rss_limit_mb=1024 -detect_leaks=0 CORPUS
 //     base/resources/scriptformats
@@ -28,7 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         }
         return 0;
     }
-    // What was read is written so that it is read again without a remark, and then is written as the same bytes.
+    // What was read is written so that it is read again without a remark, and then is written as
+    // the same bytes.
     const QByteArray written = mode.toXml();
     MRVScriptMode again;
     remarks.clear();

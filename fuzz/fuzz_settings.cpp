@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to QSettings as a file, after what would do harm was taken out. Not part of the normal
-// build:
+// Feeds arbitrary bytes to QSettings as a file, after what would do harm was taken out. Not part of
+// the normal build:
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_settings.cpp

@@ -1,6 +1,7 @@
 #pragma once
 
-// For targets that need fonts or pictures: an application without a display, and without words about what is damaged.
+// For targets that need fonts or pictures: an application without a display, and without words
+// about what is damaged.
 
 #include <QGuiApplication>
 

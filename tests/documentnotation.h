@@ -5,8 +5,8 @@
 #include <QTextTable>
 
 /**
- * Fills an empty document with @p text, in which "{" starts a table and each further cell of it, "/" its
- * second row, and "}" ends it; "<" and ">" bound a frame.
+ * Fills an empty document with @p text, in which "{" starts a table and each further cell of it,
+ * "/" its second row, and "}" ends it; "<" and ">" bound a frame.
  */
 inline void fillDocument(QTextDocument *document, const QString &text)
 {

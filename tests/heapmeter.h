@@ -13,9 +13,9 @@ void __libc_free(void *);
 }
 
 /**
- * How much of the heap the whole program takes, Qt included: this header replaces malloc() and its like, so exactly one
- * source file of a program may include it. Memory that is reserved and never touched counts as well. Under the sanitizers
- * nothing is counted.
+ * How much of the heap the whole program takes, Qt included: this header replaces malloc() and its
+ * like, so exactly one source file of a program may include it. Memory that is reserved and never
+ * touched counts as well. Under the sanitizers nothing is counted.
  */
 class HeapMeter
 {

@@ -12,7 +12,10 @@
 class RawServer : public QTcpServer
 {
 public:
-    /** What follows the bytes of an answer. The body of one that trickles comes byte by byte, each 300 ms later. */
+    /**
+     * What follows the bytes of an answer. The body of one that trickles comes byte by byte, each
+     * 300 ms later.
+     */
     enum End { Close, Reset, Stall, Trickle };
 
     RawServer()

@@ -11,7 +11,8 @@
 
 namespace {
 
-// "r1(a2[id=7],b3)": elements with their tag, a number that becomes the attribute n, attributes, and children.
+// "r1(a2[id=7],b3)": elements with their tag, a number that becomes the attribute n, attributes,
+// and children.
 QString documentOf(QString notation)
 {
     static const QRegularExpression element("([a-zA-Z]+)(\\d+)((?:\\[[^]]*\\])*)(\\(|(?=[,)]|$))");
@@ -223,7 +224,8 @@ private Q_SLOTS:
         QCOMPARE(doc.currentElement().attribute("n"), found.value(0, start));
     }
 
-    // Random trees, paths and cursors against the naive reading; then removing all that a path names.
+    // Random trees, paths and cursors against the naive reading; then removing all that a path
+    // names.
     void findAgrees()
     {
         std::mt19937 random(7);

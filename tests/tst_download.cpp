@@ -238,7 +238,8 @@ QUrl tst_Download::address(const QString &server, const QString &path) const
     return server == "tls" ? m_nginx->secure(path) : m_nginx->url(path);
 }
 
-// Exactly one final signal, the file new when all came and the old one when not, and nothing beside it.
+// Exactly one final signal, the file new when all came and the old one when not, and nothing beside
+// it.
 void tst_Download::ends()
 {
     QFETCH(QString, server);
@@ -399,7 +400,8 @@ void tst_Download::interrupted()
         QCOMPARE(download.finals, isOver ? 1 : 0);
         return;
     }
-    // After the last signal of a request, only another request, or a network that goes away, has one.
+    // After the last signal of a request, only another request, or a network that goes away, has
+    // one.
     const bool hasTwo = (isOver && action != "cancel")
         || (stage == "data" && (action == "replace" || action == "offline"));
     QTRY_COMPARE(download.finals, hasTwo ? 2 : 1);
@@ -545,7 +547,8 @@ void tst_Download::nameInUrl()
     QCOMPARE(input.given, QString("bob:word"));
 }
 
-// A URL that is not valid ends the running request without a word; a file without a name leaves it alone.
+// A URL that is not valid ends the running request without a word; a file without a name leaves it
+// alone.
 void tst_Download::notStarted()
 {
     const QUrl url = m_own.answer("/hello", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");

@@ -32,8 +32,8 @@ struct Room
 
 constexpr int ProgramFloor = 10;
 
-// The one piece that two rooms share and nobody else may see: the options take their engine defaults
-// from the tables that the engine configuration, which includes the options, is made of.
+// The one piece that two rooms share and nobody else may see: the options take their engine
+// defaults from the tables that the engine configuration, which includes the options, is made of.
 constexpr const char *SharedPiece = "base/importexport/mrvenginetables_p.h";
 constexpr const char *SharedWith = "base/settings/mrvoptions";
 constexpr const char *AnyModule = "*";

@@ -35,8 +35,8 @@ static Ran mrv(const QString &arguments, const QString &settings, const QByteArr
     return run(MRV_TOOL, list << "--settings" << settings, {}, input);
 }
 
-// What "before" does (several commands are parted by "; ") counts for the list in the same file; the input is "before"
-// when the command is to show what it replaces.
+// What "before" does (several commands are parted by "; ") counts for the list in the same file;
+// the input is "before" when the command is to show what it replaces.
 void TestMrvAutoReplace::commands()
 {
     QFETCH(QString, before);

@@ -116,7 +116,8 @@ void tst_MrvFind::encodings()
     QCOMPARE(bytesOf(in("a.txt")), after.isEmpty() ? before : after);
 }
 
-// There and back again, a manuscript is what it was, byte for byte, and on the way differs in the word only.
+// There and back again, a manuscript is what it was, byte for byte, and on the way differs in the
+// word only.
 void tst_MrvFind::onlyTheWordChanges()
 {
     const QByteArray before = bytesOf(MRV_SOURCE_DIR "/examples/manuscript.html");

@@ -15,7 +15,8 @@ private Q_SLOTS:
     {
         addRows("mrv-update.tsv", {"case", "feed", "arguments", "code", "output", "error"});
     }
-    // "-" and "@f" are the feed, "@web" is a server that sends on from /loop, and the feed from elsewhere.
+    // "-" and "@f" are the feed, "@web" is a server that sends on from /loop, and the feed from
+    // elsewhere.
     void commands()
     {
         QFETCH(QString, feed);

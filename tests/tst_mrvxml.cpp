@@ -48,7 +48,8 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(file), QByteArray("<a>\n   <b>x y</b>\n</a>\n"));
     }
 
-    // The page on paths shows what the tool prints: all its examples are run, one after the other, on its file.
+    // The page on paths shows what the tool prints: all its examples are run, one after the other,
+    // on its file.
     void examples()
     {
         const QString page = QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/docs/paths.md"));

@@ -69,7 +69,8 @@ QString textOf(const QTextCharFormat &format)
 }
 
 /// A document from HTML, or from text with "{format}" in front of the runs, "|" at paragraph ends,
-/// "[a|b]" for a table of one row, "*" for an image, "(n)" for the page break policy n of a paragraph.
+/// "[a|b]" for a table of one row, "*" for an image, "(n)" for the page break policy n of a
+/// paragraph.
 void build(QTextDocument *document, const QString &text)
 {
     const bool html = text.startsWith('<');

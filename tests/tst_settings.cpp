@@ -119,7 +119,8 @@ private Q_SLOTS:
         QTest::qWait(1);
         QTEST(heard.join('|'), "signals");
     }
-    // From a file, numbers and flags come back as texts, a list of one as its item, and an empty one as nothing.
+    // From a file, numbers and flags come back as texts, a list of one as its item, and an empty
+    // one as nothing.
     void valuesFromACopy()
     {
         const auto values = std::make_tuple(
@@ -383,7 +384,8 @@ private Q_SLOTS:
     {
         addRows("settings-faults.tsv", {"case", "size", "calls", "fault", "following"});
     }
-    // Each call in turn meets a fault. A write of which only the count comes back is what a full disk gives.
+    // Each call in turn meets a fault. A write of which only the count comes back is what a full
+    // disk gives.
     void faultsWhileSaving()
     {
         QFETCH(QString, size);

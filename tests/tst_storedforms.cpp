@@ -79,7 +79,10 @@ QTextBlockFormat blockFormat()
 
 Q_DECLARE_METATYPE(Reader)
 
-/** What is stored in settings may come back damaged: it is read without a crash, and without much memory. */
+/**
+ * What is stored in settings may come back damaged: it is read without a crash, and without much
+ * memory.
+ */
 class TestStoredForms : public QObject
 {
     Q_OBJECT

@@ -161,8 +161,8 @@ private Q_SLOTS:
         QVERIFY(!document.isUndoAvailable());
     }
 
-    // From within the first run to the beginning of "after". The mono family of DejaVu has normal and
-    // bold only; HTML import sets the list of families as well, or alone.
+    // From within the first run to the beginning of "after". The mono family of DejaVu has normal
+    // and bold only; HTML import sets the list of families as well, or alone.
     void adjustFontWeight()
     {
         QTextDocument document;

@@ -105,8 +105,8 @@ QString frameOf(const QString &text)
 
 using Translate = QString (*)(const char *, const char *, int);
 
-/// The functions that the library's code calls for its texts. What it translates in a context that it
-/// names itself has a row in texts_data() besides.
+/// The functions that the library's code calls for its texts. What it translates in a context that
+/// it names itself has a row in texts_data() besides.
 const QMap<QString, Translate> &functions()
 {
     static const QMap<QString, Translate> map{
@@ -144,8 +144,8 @@ const QMap<QString, Translate> &functions()
 
 } // namespace
 
-/// The languages that come with the library. They are read as they lie in the sources, and as a program
-/// finds them in its resources.
+/// The languages that come with the library. They are read as they lie in the sources, and as a
+/// program finds them in its resources.
 class tst_Translations : public QObject
 {
     Q_OBJECT
@@ -188,8 +188,8 @@ void tst_Translations::shipped()
     QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "es", "fr"}));
 }
 
-/// A text that was added, changed or removed shows as a difference; so does one that lupdate loses, of
-/// which it only warns.
+/// A text that was added, changed or removed shows as a difference; so does one that lupdate loses,
+/// of which it only warns.
 void tst_Translations::sourcesAndTranslationsAgree()
 {
     QFETCH(QString, language);
@@ -255,8 +255,8 @@ void tst_Translations::eachTextComesOut()
     }
 }
 
-/// A language may have keys of its own. They are read by their English names, since Qt's own translation
-/// need not be there, and must not get in each other's way.
+/// A language may have keys of its own. They are read by their English names, since Qt's own
+/// translation need not be there, and must not get in each other's way.
 void tst_Translations::keysWork()
 {
     QFETCH(QString, language);

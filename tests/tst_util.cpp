@@ -130,7 +130,8 @@ private Q_SLOTS:
         QCOMPARE(functions[call](), output);
     }
 
-    // Every row of the file is well formed, stands in it once and is in the table; comments are not.
+    // Every row of the file is well formed, stands in it once and is in the table; comments are
+    // not.
     void suffixTable()
     {
         QHash<QString, QSet<QString>> expected;

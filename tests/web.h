@@ -11,7 +11,8 @@
 
 static const QString data = MRV_SOURCE_DIR "/tests/data/update/";
 
-// "version|file name|base URL", or a feed as it stands, or after "padded SIZE " with so many bytes before and after it.
+// "version|file name|base URL", or a feed as it stands, or after "padded SIZE " with so many bytes
+// before and after it.
 inline QByteArray feedOf(const QString &text)
 {
     if (text.startsWith("padded ")) {
@@ -29,8 +30,9 @@ inline QByteArray feedOf(const QString &text)
 }
 
 /*
- * All servers of the world, on loopback: an HTTP proxy that answers by the path alone. An answer is "404", "302 URL",
- * "wait" (none), "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or a text as feedOf() takes it.
+ * All servers of the world, on loopback: an HTTP proxy that answers by the path alone. An answer is
+ * "404", "302 URL", "wait" (none), "big SIZE", "short TEXT" (cut off), "@FILE" of the test data, or
+ * a text as feedOf() takes it.
  */
 class Web : public QTcpServer
 {

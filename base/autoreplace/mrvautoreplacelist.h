@@ -14,19 +14,20 @@
 class MRVAutoReplaceIndex;
 
 /**
- * The entries that are replaced as the user types, in the order in which the user sees them. Several
- * entries may have the same match.
+ * The entries that are replaced as the user types, in the order in which the user sees them.
+ * Several entries may have the same match.
  *
  * It is a QList, with one thing to know: a long list keeps an index beside it, so that bestMatch()
  * takes about the same time for ten thousand entries as for thirty. The index is made anew after a
- * change. While somebody may hold a reference into the list (a non-const operator[], begin(), first()
- * and the like gave one away), changes cannot be noticed: such a list is searched entry by entry. A
- * copy of it, or the list after clear() or an assignment, has an index again. References and
- * iterators that were got through a QList & must not be held over a call of bestMatch().
+ * change. While somebody may hold a reference into the list (a non-const operator[], begin(),
+ * first() and the like gave one away), changes cannot be noticed: such a list is searched entry by
+ * entry. A copy of it, or the list after clear() or an assignment, has an index again. References
+ * and iterators that were got through a QList & must not be held over a call of bestMatch().
  *
- * Stored form (QDataStream, big-endian): qint32 version, always 1; qint32 number of entries; for each
- * one byte 0 or 1 for `enabled`, then `match` and `replacement`, each as quint32 length in bytes (or
- * 0xFFFFFFFF for a null text) and UTF-16 units. The entries carry no version of their own here.
+ * Stored form (QDataStream, big-endian): qint32 version, always 1; qint32 number of entries; for
+ * each one byte 0 or 1 for `enabled`, then `match` and `replacement`, each as quint32 length in
+ * bytes (or 0xFFFFFFFF for a null text) and UTF-16 units. The entries carry no version of their own
+ * here.
  *
  * GUI thread only: bestMatch() fills the index, const or not.
  *
@@ -49,9 +50,10 @@ public:
     MRVAutoReplaceList &operator=(MRVAutoReplaceList &&other) noexcept;
 
     /**
-     * The entry to apply to @p text, which ends at the caret: of the enabled entries whose match ends
-     * the text the one with the longest match, the first in the list if there are several of them.
-     * Word ends are not looked at. An entry that is disabled and has no texts if none applies.
+     * The entry to apply to @p text, which ends at the caret: of the enabled entries whose match
+     * ends the text the one with the longest match, the first in the list if there are several of
+     * them. Word ends are not looked at. An entry that is disabled and has no texts if none
+     * applies.
      */
     MRVAutoReplace bestMatch(const QString &text) const;
 
@@ -63,18 +65,18 @@ public:
     /** The stored form of all entries. */
     QByteArray toByteArray() const;
     /**
-     * Replaces the list by what is stored in @p data. Entries without any text are left out. Another
-     * version than 1 gives an empty list; data that end early or are damaged give what stands before,
-     * where of a last entry the replacement may be missing.
+     * Replaces the list by what is stored in @p data. Entries without any text are left out.
+     * Another version than 1 gives an empty list; data that end early or are damaged give what
+     * stands before, where of a last entry the replacement may be missing.
      *
-     * @param error if given, receives a translated reason when not all of @p data could be read; untouched
-     *              otherwise.
+     * @param error if given, receives a translated reason when not all of @p data could be read;
+     *              untouched otherwise.
      */
     void fromByteArray(const QByteArray &data, QString *error = nullptr);
 
     /**
-     * Appends those entries of MRVAutoReplace::ordinals() whose match and replacement no entry of the
-     * list has together. Nothing for null.
+     * Appends those entries of MRVAutoReplace::ordinals() whose match and replacement no entry of
+     * the list has together. Nothing for null.
      */
     static void appendMissingOrdinals(MRVAutoReplaceList *list);
     /** Signs and arrows, which are enabled, then fractions and ordinals, which are not. */

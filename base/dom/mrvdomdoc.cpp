@@ -10,8 +10,8 @@
 namespace {
 
 /*
- * The null element's memory. Qt has no constant null element, and no constructor may run when the library is loaded; what
- * its constructor makes is a null pointer.
+ * The null element's memory. Qt has no constant null element, and no constructor may run when the
+ * library is loaded; what its constructor makes is a null pointer.
  */
 static_assert(sizeof(QDomElement) == sizeof(void *), "an element is a pointer to its data");
 alignas(QDomElement) const unsigned char nullElement[sizeof(QDomElement)] = {};

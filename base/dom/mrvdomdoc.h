@@ -19,19 +19,21 @@ class QIODevice;
 /**
  * An XML document with a cursor and paths.
  *
- * The work element is to the document what the current folder is to a file system: relative paths begin there, and new
- * elements are added there. The work child is the place in it next to which insert() puts a new one. A path such as
- * "/config/engine@id=rtf/option@enabled" names an element by steps: element names, "." and "..", each with any number of
- * predicates on attributes. docs/paths.md tells the rules.
+ * The work element is to the document what the current folder is to a file system: relative paths
+ * begin there, and new elements are added there. The work child is the place in it next to which
+ * insert() puts a new one. A path such as "/config/engine@id=rtf/option@enabled" names an element
+ * by steps: element names, "." and "..", each with any number of predicates on attributes.
+ * docs/paths.md tells the rules.
  *
- * Values are read and written as the text of elements and as attributes, each type in one text form (MRVDomText). What
- * XML cannot hold (control characters, U+FFFE, U+FFFF, halves of surrogate pairs) is dropped from texts where they enter
- * the document, also when it is loaded. A text of blanks only does not survive saving and loading, since a parser cannot tell it from
- * indentation.
+ * Values are read and written as the text of elements and as attributes, each type in one text form
+ * (MRVDomText). What XML cannot hold (control characters, U+FFFE, U+FFFF, halves of surrogate
+ * pairs) is dropped from texts where they enter the document, also when it is loaded. A text of
+ * blanks only does not survive saving and loading, since a parser cannot tell it from indentation.
  *
- * Looking something up moves no cursor, but findNext() goes on from the last find(), so that these two, though const, must
- * not be called on one document from several threads. An element that is handed out belongs to the document: it stays
- * usable until the document's content is replaced or the document destroyed.
+ * Looking something up moves no cursor, but findNext() goes on from the last find(), so that these
+ * two, though const, must not be called on one document from several threads. An element that is
+ * handed out belongs to the document: it stays usable until the document's content is replaced or
+ * the document destroyed.
  *
  * @since 1.0
  */
@@ -57,39 +59,46 @@ public:
 
     /** Empties the document and forgets its file name and the outcome of the last parse. */
     void clear();
-    /** Puts the work element on the document element and the work child on its first child, if that is an element. */
+    /**
+     * Puts the work element on the document element and the work child on its first child, if that
+     * is an element.
+     */
     void init();
     /** Replaces the content by a deep copy of @p e; by nothing for a null element. Always true. */
     bool setContent(const QDomElement &e);
     /**
-     * Replaces the content by the XML in @p xml, whose declared encoding does not matter. Namespaces are not looked at:
-     * a prefix is part of a name.
+     * Replaces the content by the XML in @p xml, whose declared encoding does not matter.
+     * Namespaces are not looked at: a prefix is part of a name.
      *
-     * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set, when Qt's parser does not
-     * take the text, or when it is refused: with two attributes of one name in an element, nested more deeply, or with entities that expand to more, than MRVDomLimits allows.
-     * External entities are never fetched; references to them are refused, too.
+     * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set,
+     * when Qt's parser does not take the text, or when it is refused: with two attributes of one
+     * name in an element, nested more deeply, or with entities that expand to more, than
+     * MRVDomLimits allows. External entities are never fetched; references to them are refused,
+     * too.
      */
     bool setContent(const QString &xml);
     /**
-     * As above, with the bytes of a device from its current position on. A byte-order mark or the XML declaration
-     * names the encoding; else it is UTF-8. The file name is kept. A device that is not open is opened, and closed
-     * again; false for a null device, and, with an empty document, for a file that cannot be read to its end.
+     * As above, with the bytes of a device from its current position on. A byte-order mark or the
+     * XML declaration names the encoding; else it is UTF-8. The file name is kept. A device that is
+     * not open is opened, and closed again; false for a null device, and, with an empty document,
+     * for a file that cannot be read to its end.
      */
     bool setContent(QIODevice *device);
     /**
-     * As above, with a file. On success errorMessage() is "MRVDomDoc::load() ok "; when the file cannot be parsed,
-     * "MRVDomDoc::load() failed ", with the line and column of the error kept; when it cannot be opened, "File not
-     * found: " and the name, and the document stays as it was.
+     * As above, with a file. On success errorMessage() is "MRVDomDoc::load() ok "; when the file
+     * cannot be parsed, "MRVDomDoc::load() failed ", with the line and column of the error kept;
+     * when it cannot be opened, "File not found: " and the name, and the document stays as it was.
      */
     bool load(const QString &fileName);
     /**
-     * Writes the document as UTF-8, whatever its declaration said before, with an indentation of three blanks a level
-     * and the attributes of each element sorted by name: the same document gives the same bytes. Of a document type, its
-     * name, files, notations and entities in other files are kept; its other declarations go, since the parser has carried
-     * them out.
+     * Writes the document as UTF-8, whatever its declaration said before, with an indentation of
+     * three blanks a level and the attributes of each element sorted by name: the same document
+     * gives the same bytes. Of a document type, its name, files, notations and entities in other
+     * files are kept; its other declarations go, since the parser has carried them out.
      *
-     * @return false when the device did not take it all, or when elements are nested more deeply than MRVDomLimits allows, so
-     * that the document could not be loaded again; nothing is written then.
+     * @return false when the device did not take it all, or when elements are nested more deeply
+     * than MRVDomLimits allows, so that the document could not be loaded again; nothing is written
+     * then.
      */
     bool save(QIODevice &device) const;
     /**
@@ -101,8 +110,8 @@ public:
     QString fileName() const { return m_fileName; }
     void setFilename(const QString &fileName) { m_fileName = fileName; }
     /**
-     * Replaces the content by one element, made by createElement(), and makes it the work element; there is no work
-     * child then. Always true; with an empty name the document is empty.
+     * Replaces the content by one element, made by createElement(), and makes it the work element;
+     * there is no work child then. Always true; with an empty name the document is empty.
      */
     bool setRoot(const QString &spec, const QString &text = QString());
 
@@ -111,7 +120,10 @@ public:
     int errorLine() const { return m_errorLine; }
     /** From 1; -1 when there was no error. */
     int errorColumn() const { return m_errorColumn; }
-    /** The DOM itself. Replacing its content by its own functions leaves the cursor on what was there before. */
+    /**
+     * The DOM itself. Replacing its content by its own functions leaves the cursor on what was
+     * there before.
+     */
     QDomDocument document() const { return m_document; }
     QDomElement documentElement() const { return m_document.documentElement(); }
 
@@ -127,29 +139,36 @@ public:
     /** Moves the cursor; false for a null element. */
     bool setWorkElement(const QDomElement &e);
     /**
-     * The work element's name; with its attributes, each follows as a blank and @name="value", sorted by name and the
-     * value as it is, not escaped. Empty when there is no work element.
+     * The work element's name; with its attributes, each follows as a blank and @name="value",
+     * sorted by name and the value as it is, not escaped. Empty when there is no work element.
      */
     QString workElement(bool withAttributes = false) const;
     /** As workElement(), for the work child. */
     QString workChild(bool withAttributes = false) const;
     /** The path from the document element to the work element, such as "/root/items/item". */
     QString workPath(bool withAttributes = false) const;
-    /** Moves the cursor to what find() finds, or stays; an empty path is the work element itself. */
+    /**
+     * Moves the cursor to what find() finds, or stays; an empty path is the work element itself.
+     */
     bool cd(const QString &path);
-    /** Moves up by so many levels; false, having moved as far as possible, where there are fewer. True for 0 and less. */
+    /**
+     * Moves up by so many levels; false, having moved as far as possible, where there are fewer.
+     * True for 0 and less.
+     */
     bool cdUp(int levels = 1);
     bool cdRoot();
     /**
      * Moves to the next sibling of the work element that matches the last step in @p step.
      *
-     * Where there is none, the cursor moves up to the parent. Deliberate: a loop that begins with cd() into the first
-     * item and goes on while this is true ends where it began. An empty step moves nothing.
+     * Where there is none, the cursor moves up to the parent. Deliberate: a loop that begins with
+     * cd() into the first item and goes on while this is true ends where it began. An empty step
+     * moves nothing.
      */
     bool cdNext(const QString &step);
     /**
-     * Makes what the first step of @p path finds in the work element the work child; the rest of the path does not
-     * matter. False, and nothing moves, when nothing is found or the step begins with a full stop.
+     * Makes what the first step of @p path finds in the work element the work child; the rest of
+     * the path does not matter. False, and nothing moves, when nothing is found or the step begins
+     * with a full stop.
      */
     bool setChild(const QString &path);
 
@@ -159,12 +178,16 @@ public:
 
     /** The first element that @p path names; the work element for an empty path. */
     QDomElement find(const QString &path) const;
-    /** What the steps of the last path from @p index on (from 0) name below @p start; @p start when none are left. */
+    /**
+     * What the steps of the last path from @p index on (from 0) name below @p start; @p start when
+     * none are left.
+     */
     QDomElement find(QDomElement &start, unsigned int index) const;
     /**
-     * The next match of the last relative find(): the next sibling of the child of the work element through which it
-     * went that matches the first step and below which the rest of the path is found. Deeper steps take their first
-     * match. Nothing after an absolute path, or one that begins with a full stop.
+     * The next match of the last relative find(): the next sibling of the child of the work element
+     * through which it went that matches the first step and below which the rest of the path is
+     * found. Deeper steps take their first match. Nothing after an absolute path, or one that
+     * begins with a full stop.
      */
     QDomElement findNext() const;
     bool exists(const QString &path) const;
@@ -180,47 +203,58 @@ public:
     /**
      * An element of this document that stands nowhere yet.
      *
-     * @param spec its name as it stands, and, each after an "@", names of attributes, which all receive @p text
-     *             trimmed. Deliberate: a value that is written after the name and "=" is not used.
+     * @param spec its name as it stands, and, each after an "@", names of attributes, which all
+     *             receive @p text trimmed. Deliberate: a value that is written after the name and
+     *             "=" is not used.
      * @return a null element for an empty name.
      */
     QDomElement createElement(const QString &spec, const QString &text);
     /**
-     * Adds a last child to the work element. The work child becomes the new element only where there was no child
-     * before. Without a work element the new one becomes the document element and the work element.
+     * Adds a last child to the work element. The work child becomes the new element only where
+     * there was no child before. Without a work element the new one becomes the document element
+     * and the work element.
      *
-     * @param name must not be empty, ".", ".." or hold "/", "@" or "=". Nothing else is checked: a name that XML does
-     *             not allow makes a document that cannot be loaded again.
-     * @return false, with nothing changed, for such a name, and where there is no work element but a document element.
+     * @param name must not be empty, ".", ".." or hold "/", "@" or "=". Nothing else is checked: a
+     *             name that XML does not allow makes a document that cannot be loaded again.
+     * @return false, with nothing changed, for such a name, and where there is no work element but
+     *        a document element.
      */
     bool append(const QString &name, const QString &text = QString());
-    /** As append(), but after the work child, or before it; the new element becomes the work child. */
+    /**
+     * As append(), but after the work child, or before it; the new element becomes the work child.
+     */
     bool insert(const QString &name, const QString &text = QString(), bool before = false);
-    /** As append(), but before the other children. Deliberate: the work child stays where there were any. */
+    /**
+     * As append(), but before the other children. Deliberate: the work child stays where there were
+     * any.
+     */
     bool prepend(const QString &name, const QString &text = QString());
     /**
-     * Adds an empty last child and moves the cursor into it; there is no work child then. Refuses what append() does, and to
-     * nest more deeply than MRVDomLimits allows.
+     * Adds an empty last child and moves the cursor into it; there is no work child then. Refuses
+     * what append() does, and to nest more deeply than MRVDomLimits allows.
      */
     bool create(const QString &name);
     /**
-     * Adds a deep copy of @p node as last child; the work child becomes the last child, if that is an element. Without a work
-     * element an element becomes the document element and the work element; anything else is refused then.
+     * Adds a deep copy of @p node as last child; the work child becomes the last child, if that is
+     * an element. Without a work element an element becomes the document element and the work
+     * element; anything else is refused then.
      */
     bool append(const QDomNode &node);
     /**
      * Moves the cursor to @p path, creating what is missing of it.
      *
-     * Where anything is missing, the steps are walked from the work element, also those of an absolute path: call
-     * cdRoot() first. Steps that exist are entered, others are created.
+     * Where anything is missing, the steps are walked from the work element, also those of an
+     * absolute path: call cdRoot() first. Steps that exist are entered, others are created.
      *
-     * @return how many steps there are, found or created; 0 for an empty path and for one that holds "@" or "=".
+     * @return how many steps there are, found or created; 0 for an empty path and for one that
+     *        holds "@" or "=".
      */
     int createPath(const QString &path);
     /**
      * Removes the first element that @p path names, or all that it names one after the other.
      *
-     * The cursor stays: when it was on a removed element, it is on one outside the document afterwards.
+     * The cursor stays: when it was on a removed element, it is on one outside the document
+     * afterwards.
      *
      * @return how many were removed.
      */
@@ -230,10 +264,11 @@ public:
     /**
      * @name Values
      *
-     * T is one of short, int, long, long long and their unsigned forms, float, double, bool, QSize, QPoint, QSizeF, QPointF,
-     * QStringList and QDateTime, and, for reading, char and unsigned char; MRVDomText has the text forms. Where a text
-     * was found, a reader stores what it converts to, 0 or false for one that does not convert, and returns whether it
-     * converts. Where no text was found, it returns false and stores nothing. A null @p out receives nothing: false.
+     * T is one of short, int, long, long long and their unsigned forms, float, double, bool, QSize,
+     * QPoint, QSizeF, QPointF, QStringList and QDateTime, and, for reading, char and unsigned char;
+     * MRVDomText has the text forms. Where a text was found, a reader stores what it converts to, 0
+     * or false for one that does not convert, and returns whether it converts. Where no text was
+     * found, it returns false and stores nothing. A null @p out receives nothing: false.
      */
     //@{
 
@@ -244,7 +279,10 @@ public:
     QString falseString() const { return m_falseString; }
     void setFalseString(const QString &word) { m_falseString = word; }
 
-    /** append() of an element with the value's text. Deliberate: a float is written with six decimals here only. */
+    /**
+     * append() of an element with the value's text. Deliberate: a float is written with six
+     * decimals here only.
+     */
     template<typename T, typename = MRVDomText::IfAppended<T>>
     bool append(const QString &name, const T &value)
     {
@@ -264,7 +302,8 @@ public:
     /**
      * Makes @p text the first text of the element that @p path names.
      *
-     * @return false when there is no such element, which is never created here, and when its first child is no text.
+     * @return false when there is no such element, which is never created here, and when its first
+     *        child is no text.
      */
     bool set(const QString &text, const QString &path = QString());
     /** QSizeF and QPointF are written with three decimals here and by setAttr(). */
@@ -278,8 +317,8 @@ public:
              const QString &format = QString());
 
     /**
-     * The text of the element that @p path names, all texts below it included, when its first child is a text; else
-     * an empty text.
+     * The text of the element that @p path names, all texts below it included, when its first child
+     * is a text; else an empty text.
      *
      * @return false, with a null text, when there is no such element.
      */
@@ -294,16 +333,21 @@ public:
     bool get(bool *out, const QString &path = QString()) const;
     /** Split at commas, without empty parts. An empty list where there is no such element. */
     bool get(QStringList *out, const QString &path = QString()) const;
-    /** An empty format is ISO 8601. Deliberate: the result is marked as UTC whatever the text says. */
+    /**
+     * An empty format is ISO 8601. Deliberate: the result is marked as UTC whatever the text says.
+     */
     bool get(QDateTime *out, const QString &path = QString(),
              const QString &format = QString()) const;
     /**
-     * Up to @p size bytes of the text in Latin-1, filled up with NUL. Deliberate: the last byte of the buffer is the
-     * digit 0, not NUL. A size below 1 writes nothing: false.
+     * Up to @p size bytes of the text in Latin-1, filled up with NUL. Deliberate: the last byte of
+     * the buffer is the digit 0, not NUL. A size below 1 writes nothing: false.
      */
     bool get(char *buffer, int size, const QString &path = QString()) const;
 
-    /** The text of what findNext() finds; false, and nothing is stored, when its first child is no text. */
+    /**
+     * The text of what findNext() finds; false, and nothing is stored, when its first child is no
+     * text.
+     */
     bool getNext(QString *out) const;
     template<typename T, typename = MRVDomText::IfRead<T>>
     bool getNext(T *out) const
@@ -321,8 +365,8 @@ public:
      * Sets an attribute of the element that @p path names.
      *
      * @param create false: only where the element has the attribute.
-     * @return whether it was set; deliberate: also true for @p create and an element that does not exist. False for an
-     *         empty name.
+     * @return whether it was set; deliberate: also true for @p create and an element that does not
+     *         exist. False for an empty name.
      */
     bool setAttr(const QString &attrName, const QString &value, const QString &path = QString(),
                  bool create = true);
@@ -345,7 +389,10 @@ public:
         QString text;
         return getAttr(attrName, &text, element) && MRVDomText::read(text, out);
     }
-    /** Deliberate: "true", "yes", "false" and "no" only; trueString() and falseString() are not read here. */
+    /**
+     * Deliberate: "true", "yes", "false" and "no" only; trueString() and falseString() are not read
+     * here.
+     */
     bool getAttr(const QString &attrName, bool *out, const QDomElement &element) const;
     /** An empty list where there is no such attribute. */
     bool getAttr(const QString &attrName, QStringList *out, const QDomElement &element,

@@ -46,7 +46,8 @@ QString tooLong()
     return Messages::tr("entities expand to too much text");
 }
 
-// The encoding that the XML declaration names, as XML 1.0 (section 4.3.3) spells it; empty without one.
+// The encoding that the XML declaration names, as XML 1.0 (section 4.3.3) spells it; empty without
+// one.
 QByteArray declaredEncoding(const QByteArray &bytes)
 {
     constexpr int MaxDeclaration = 256;
@@ -74,8 +75,9 @@ QByteArray encodingOf(const QByteArray &bytes)
 }
 
 /**
- * Follows the nesting of elements through markup without entities of its own. It looks at nothing but where tags,
- * comments, sections and instructions begin and end, as the parser does up to the first fault.
+ * Follows the nesting of elements through markup without entities of its own. It looks at nothing
+ * but where tags, comments, sections and instructions begin and end, as the parser does up to the
+ * first fault.
  */
 class Nesting
 {
@@ -159,7 +161,8 @@ private:
         const int found = m_xml.indexOf(end, m_position + length);
         m_position = found < 0 ? m_xml.size() : found + end.size();
     }
-    // Goes behind the tag and returns where its ">" is, or -1 when a character stands in it outside quotes.
+    // Goes behind the tag and returns where its ">" is, or -1 when a character stands in it outside
+    // quotes.
     int tagEnd(QChar forbidden)
     {
         const QChar *const text = m_xml.constData();
@@ -248,8 +251,8 @@ bool isTooLong(qint64 expanded, const QString &xml)
 }
 
 /**
- * An upper bound of what the references to parameter entities expand to. The parser expands them within one step, which
- * cannot be stopped half-way.
+ * An upper bound of what the references to parameter entities expand to. The parser expands them
+ * within one step, which cannot be stopped half-way.
  */
 qint64 parameterExpansion(const QString &xml)
 {
@@ -298,7 +301,8 @@ int markupLength(const QXmlStreamReader &reader)
     return length;
 }
 
-// The first reference to an entity in another file: the parser would leave it out, and mix up the text around it.
+// The first reference to an entity in another file: the parser would leave it out, and mix up the
+// text around it.
 QRegularExpressionMatch externalReference(const QXmlStreamEntityDeclarations &declarations,
                                           const QString &xml)
 {
@@ -319,8 +323,8 @@ QRegularExpressionMatch externalReference(const QXmlStreamEntityDeclarations &de
 }
 
 /**
- * Whether a text keeps the limits whatever its entities hold, judged from above. For texts that Qt's parser takes and its
- * stream reader does not: XML 1.1, some declarations.
+ * Whether a text keeps the limits whatever its entities hold, judged from above. For texts that
+ * Qt's parser takes and its stream reader does not: XML 1.1, some declarations.
  */
 bool surelyKeepsLimits(const Nesting &nesting, const QString &xml)
 {
@@ -330,7 +334,8 @@ bool surelyKeepsLimits(const Nesting &nesting, const QString &xml)
     if (declarations.contains(needsReader)) {
         return false;
     }
-    // Each reference may expand to all declarations and what the parser allows of nested entities beyond.
+    // Each reference may expand to all declarations and what the parser allows of nested entities
+    // beyond.
     const qint64 longest = declarations.size() + MaxNestedExpansion;
     const int tags = declarations.count(u'<') + declarations.count(QLatin1String("&#"));
     return nesting.deepest() + tags <= MRVDomLimits::MaxDepth
@@ -411,8 +416,8 @@ QString referenced(QStringView number)
 }
 
 /**
- * The text with the references to characters that Qt's parser gets wrong put right: those beyond U+FFFF, of which it
- * takes the lower half, and those that XML forbids, which go.
+ * The text with the references to characters that Qt's parser gets wrong put right: those beyond
+ * U+FFFF, of which it takes the lower half, and those that XML forbids, which go.
  */
 QString withSoundReferences(const QString &xml)
 {

@@ -7,7 +7,10 @@
  */
 struct MRVDomLimits
 {
-    /** Elements may be nested this deeply, the document element counting as one, to be loaded or saved. */
+    /**
+     * Elements may be nested this deeply, the document element counting as one, to be loaded or
+     * saved.
+     */
     static constexpr int MaxDepth = 1000;
     /** An element may have so many attributes. */
     static constexpr int MaxAttributes = 10000;

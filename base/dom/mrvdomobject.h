@@ -18,14 +18,17 @@ public:
 
     /** Reads the object's state; the cursor of @p doc stands on the object's element. */
     virtual bool loadFromDomDoc(MRVDomDoc &doc) = 0;
-    /** Writes the object's state into @p doc, which is empty: setRoot() or append() makes the root element. */
+    /**
+     * Writes the object's state into @p doc, which is empty: setRoot() or append() makes the root
+     * element.
+     */
     virtual bool saveToDomDoc(MRVDomDoc &doc) const = 0;
 
     /** Loads the object from a copy of @p element; false when that, or loadFromDomDoc(), fails. */
     bool loadFromDomElement(const QDomElement &element);
     /**
-     * The element that the object saves itself as; null when saveToDomDoc() fails. It belongs to no document: import it
-     * into the one that it is for.
+     * The element that the object saves itself as; null when saveToDomDoc() fails. It belongs to no
+     * document: import it into the one that it is for.
      */
     QDomElement saveToDomElement() const;
 };

@@ -153,10 +153,11 @@ QDomElement MRVDomDoc::find(QDomElement &start, unsigned int index) const
 }
 
 /*
- * Follows the steps from index up to end. Children are tried in turn until the rest of the steps can be followed below
- * one. A step down that a later ".." takes back only asks whether there is a child below which the steps between can be
- * followed: which one does not matter for what comes after, so none is tried again, and a path takes time linear in
- * the tree however often it goes down and up.
+ * Follows the steps from index up to end. Children are tried in turn until the rest of the steps
+ * can be followed below one. A step down that a later ".." takes back only asks whether there is a
+ * child below which the steps between can be followed: which one does not matter for what comes
+ * after, so none is tried again, and a path takes time linear in the tree however often it goes
+ * down and up.
  */
 QDomElement MRVDomDoc::resolve(QDomElement e, int index, int end) const
 {
@@ -240,9 +241,9 @@ int MRVDomDoc::remove(const QString &path, bool all)
 }
 
 /*
- * Removing what was found and looking again would begin at the first child each time. As removing makes nothing match
- * that did not match before, one walk down removes the same elements in the same order. Only paths that go up on their
- * way may name an element twice.
+ * Removing what was found and looking again would begin at the first child each time. As removing
+ * makes nothing match that did not match before, one walk down removes the same elements in the
+ * same order. Only paths that go up on their way may name an element twice.
  */
 int MRVDomDoc::removeAll(const QString &path)
 {

@@ -13,12 +13,15 @@
 #include <type_traits>
 
 /**
- * The text forms of values in XML documents, all in one place, so that what one build writes the next one reads.
+ * The text forms of values in XML documents, all in one place, so that what one build writes the
+ * next one reads.
  *
- * Numbers are decimal, in the C locale. Deliberate: a double has six significant digits; a float, too, but six decimals
- * where it is appended; items of a list are joined by commas that nothing escapes.
+ * Numbers are decimal, in the C locale. Deliberate: a double has six significant digits; a float,
+ * too, but six decimals where it is appended; items of a list are joined by commas that nothing
+ * escapes.
  *
- * Readers store what they could make of the text, 0 where it does not convert, and return whether it converts; a null
+ * Readers store what they could make of the text, 0 where it does not convert, and return whether
+ * it converts; a null
  * @p out fails.
  *
  * @since 1.0
@@ -97,6 +100,9 @@ public:
     static bool read(const QString &text, const QString &separator, QStringList *out);
     /** An empty format is ISO 8601. The result is marked as UTC. */
     static bool read(const QString &text, const QString &format, QDateTime *out);
-    /** Fills the buffer with Latin-1 and NUL, and puts the digit 0 in its last byte; false for a size below 1. */
+    /**
+     * Fills the buffer with Latin-1 and NUL, and puts the digit 0 in its last byte; false for a
+     * size below 1.
+     */
     static bool read(const QString &text, char *buffer, int size);
 };

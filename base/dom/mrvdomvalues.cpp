@@ -6,7 +6,8 @@
 
 namespace {
 
-// The words for true and false that are always read, and two of the document's own, which may be null.
+// The words for true and false that are always read, and two of the document's own, which may be
+// null.
 bool readWord(const QString &text, const QString &ownTrue, const QString &ownFalse, bool *out)
 {
     const QString word = text.trimmed().toLower();

@@ -14,7 +14,8 @@ using Attributes = QVector<QPair<QString, QString>>;
 
 constexpr int Indentation = 3;
 
-// What Qt's map costs for each further attribute grows with their number: the names of many are read from their text.
+// What Qt's map costs for each further attribute grows with their number: the names of many are
+// read from their text.
 bool readManyAttributes(const QDomNode &node, Attributes *attributes)
 {
     const QDomElement element = node.toElement();
@@ -196,7 +197,8 @@ private:
         }
     }
 
-    // Elements of documents that were read with their namespaces know these, and have no attributes that declare them.
+    // Elements of documents that were read with their namespaces know these, and have no attributes
+    // that declare them.
     void declareNamespace(const QDomNode &node)
     {
         const QString uri = node.namespaceURI();

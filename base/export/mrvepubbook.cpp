@@ -46,7 +46,8 @@ const PictureType *pictureType(const QByteArray &bytes)
     return nullptr;
 }
 
-// The bytes that the picture came in with, where readers can show them, so that nothing is lost by encoding it anew.
+// The bytes that the picture came in with, where readers can show them, so that nothing is lost by
+// encoding it anew.
 QByteArray pictureBytes(const QTextDocument &document, const QTextImageFormat &format)
 {
     const QImage image = MRVTextFormat::image(document, format);
@@ -60,7 +61,8 @@ QByteArray pictureBytes(const QTextDocument &document, const QTextImageFormat &f
     const QString link = MRVTextFormat::imageLink(format);
     if (!link.isEmpty() && QFileInfo(link).isFile()) {
         const QByteArray linked = MRVCoreUtil::ReadBinaryFile(link);
-        // The file may have changed since it was inserted: the document's picture is the one to show.
+        // The file may have changed since it was inserted: the document's picture is the one to
+        // show.
         if (pictureType(linked)
             && MRVGuiUtil::resourceId(MRVGuiUtil::toImage(linked))
                 == MRVGuiUtil::resourceId(image)) {
@@ -404,7 +406,8 @@ QStringList MRVEPubBook::authors() const
 
 QString MRVEPubBook::language() const
 {
-    // Primary subtag and further ones (RFC 5646, section 2.1), without looking them up in the registry.
+    // Primary subtag and further ones (RFC 5646, section 2.1), without looking them up in the
+    // registry.
     const QStringList subtags = metadata.language.split(u'-');
     for (int i = 0; i < subtags.size(); ++i) {
         const QString &subtag = subtags.at(i);

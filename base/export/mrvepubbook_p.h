@@ -15,7 +15,9 @@ struct MRVEPubEntry
     int depth = 0;
 };
 
-/** A page of the book. Its body is kept until all documents are in, when its links can be resolved. */
+/**
+ * A page of the book. Its body is kept until all documents are in, when its links can be resolved.
+ */
 struct MRVEPubPage
 {
     QString fileName;
@@ -57,7 +59,10 @@ public:
     QHash<QByteArray, QString> picturePaths; // by digest of the bytes
     int picturesWithoutText = 0;
 
-    /** Adds the cover's picture, which has to come before all others; one that readers cannot show is converted. */
+    /**
+     * Adds the cover's picture, which has to come before all others; one that readers cannot show
+     * is converted.
+     */
     void addCover();
     bool addDocument(const QTextDocument &document, const QString &fileName, QString *error);
 

@@ -26,6 +26,6 @@ struct MRVEPubMetadata
     QString description;
     QString rights;
     QDateTime modified; ///< invalid: now. Also the date of the files in the archive
-    QByteArray
-        cover; ///< bytes of a PNG, JPEG or GIF picture; empty: the cover page shows title and authors
+    /** Bytes of a PNG, JPEG or GIF picture; empty: the cover page shows title and authors. */
+    QByteArray cover;
 };

@@ -59,7 +59,8 @@ QString declaration(const AttributeRule &rule, const QString &value)
     const QString pattern = QString::fromLatin1(rule.declaration);
     switch (rule.move) {
     case Move::Value:
-        // An escaped quote in a url would end it early: the address is escaped once more as an address.
+        // An escaped quote in a url would end it early: the address is escaped once more as an
+        // address.
         return value.isEmpty() ? QString()
                                : pattern.arg(QString(value).replace(u'\'', QLatin1String("%27")));
     case Move::Length:
@@ -125,8 +126,8 @@ void applyRules(MRVHtmlTag *tag, MRVHtmlDialect dialect)
     }
 }
 
-// List prefixes are copied by Qt as they are: they may hold markup characters, and semicolons that would end
-// the declaration.
+// List prefixes are copied by Qt as they are: they may hold markup characters, and semicolons that
+// would end the declaration.
 QString escapedStyle(const QString &style)
 {
     QString result;

@@ -10,7 +10,9 @@ enum class MRVHtmlDialect {
     Html5, ///< XHTML syntax of HTML 5, as EPUB 3 has it
 };
 
-/** An opening tag taken to pieces: its name and attributes in order, values escaped as they stand. */
+/**
+ * An opening tag taken to pieces: its name and attributes in order, values escaped as they stand.
+ */
 struct MRVHtmlTag
 {
     struct Attribute
@@ -24,7 +26,9 @@ struct MRVHtmlTag
     QVector<Attribute> attributes;
     QString ending; // ">", " />" or "/>"
 
-    /** Reads a tag that begins with "<" and ends with ">"; attributes without a value are left out. */
+    /**
+     * Reads a tag that begins with "<" and ends with ">"; attributes without a value are left out.
+     */
     static MRVHtmlTag parsed(QStringView tag);
     QString text() const;
 
@@ -39,14 +43,15 @@ struct MRVHtmlTag
 };
 
 /**
- * Prepares a tag that Qt wrote for the chain of fix-ups, which expects one style attribute right after the
- * alignment, an alternative text at most once, and no raw markup characters in values. @p tag may be followed by
- * other text, which is kept.
+ * Prepares a tag that Qt wrote for the chain of fix-ups, which expects one style attribute right
+ * after the alignment, an alternative text at most once, and no raw markup characters in values. @p
+ * tag may be followed by other text, which is kept.
  */
 QString mrvNormalisedTag(const QString &tag);
 
 /**
- * Moves to styles, or drops, what the dialect lacks. @p tag may be followed by other text, which is kept.
+ * Moves to styles, or drops, what the dialect lacks. @p tag may be followed by other text, which is
+ * kept.
  *
  * @param cellStyle declarations that a table gives to each of its cells; only cells use them.
  */

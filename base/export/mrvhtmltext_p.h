@@ -9,21 +9,24 @@
 /** Small tools for rewriting markup texts in one pass. */
 namespace MRVHtmlText {
 
-/** Replaces every @p before by @p after; linear also for very many matches, unlike QString::replace(). */
+/**
+ * Replaces every @p before by @p after; linear also for very many matches, unlike
+ * QString::replace().
+ */
 void replaceAll(QString *text, QLatin1String before, QLatin1String after);
 
 /** Decodes the five predefined entities, no-break spaces and numeric references; others stay. */
 QString unescaped(QStringView text);
 
 /**
- * The declarations of a style attribute's escaped value, still escaped: split at semicolons, those that end an
- * entity excepted. Empty ones are left out.
+ * The declarations of a style attribute's escaped value, still escaped: split at semicolons, those
+ * that end an entity excepted. Empty ones are left out.
  */
 QVector<QStringView> declarations(QStringView style);
 
 /**
- * Lets each image whose source is a key of the table refer to its value; both unescaped. A null value takes the
- * source away.
+ * Lets each image whose source is a key of the table refer to its value; both unescaped. A null
+ * value takes the source away.
  */
 void replaceImageSources(QString *html, const QHash<QString, QString> &references);
 

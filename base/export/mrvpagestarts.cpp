@@ -49,7 +49,8 @@ public:
     QVector<int> starts() const { return m_bounds.mid(0, m_bounds.size() - 1); }
 
 private:
-    // The outermost level of headings that occurs more than once: a level that occurs once is the book's title.
+    // The outermost level of headings that occurs more than once: a level that occurs once is the
+    // book's title.
     int splitLevel() const
     {
         int counts[7] = {};
@@ -61,7 +62,8 @@ private:
         return level == counts + 7 ? 0 : int(level - counts);
     }
 
-    // Cuts the pages above a size where a predicate holds, but not into pages smaller than half of it.
+    // Cuts the pages above a size where a predicate holds, but not into pages smaller than half of
+    // it.
     template<typename IsStart>
     void cutPagesAbove(int size, IsStart isStart)
     {

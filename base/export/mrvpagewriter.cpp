@@ -303,7 +303,8 @@ void MRVPageWriter::appendText(QStringView text)
     }
 }
 
-// The chain takes Qt's rule for white space out of the page: a paragraph that needs it gets it back.
+// The chain takes Qt's rule for white space out of the page: a paragraph that needs it gets it
+// back.
 void MRVPageWriter::endParagraph()
 {
     const Paragraph paragraph = m_paragraph;

@@ -13,9 +13,10 @@
 /**
  * Turns the HTML that Qt wrote for a document into a page, in one pass.
  *
- * The text between tags is copied; each distinct tag is normalised, goes through the public fix-ups, is made
- * valid for the dialect and is then remembered, so that a page of a million words costs little more than its copying.
- * A stack of the open lists, tables and cells closes what Qt leaves open or crossed.
+ * The text between tags is copied; each distinct tag is normalised, goes through the public
+ * fix-ups, is made valid for the dialect and is then remembered, so that a page of a million words
+ * costs little more than its copying. A stack of the open lists, tables and cells closes what Qt
+ * leaves open or crossed.
  */
 class MRVPageWriter
 {
@@ -30,7 +31,10 @@ public:
         bool startsPage;
     };
 
-    /** @param styles where rule sets are collected; null leaves style attributes in place. Not owned. */
+    /**
+     * @param styles where rule sets are collected; null leaves style attributes in place. Not
+     * owned.
+     */
     MRVPageWriter(ExportType type, MRVHtmlDialect dialect, MRVTextXhtmlExporter::StyleList *styles);
 
     /**
@@ -41,8 +45,8 @@ public:
     QString write(const QString &html, const QString &documentTitle, const QString &title);
 
     /**
-     * Leaves links as they are and remembers the blocks at the top level, for a caller that will cut the page and
-     * rewrite its links.
+     * Leaves links as they are and remembers the blocks at the top level, for a caller that will
+     * cut the page and rewrite its links.
      */
     void setCollecting(bool collecting) { m_collecting = collecting; }
     const QVector<Block> &blocks() const { return m_blocks; }

@@ -3,18 +3,25 @@
 #include "export/mrvtextxhtmlexporter.h"
 
 /**
- * The classes that stand for style values: looks values up in a list of rule sets, and appends the new ones.
+ * The classes that stand for style values: looks values up in a list of rule sets, and appends the
+ * new ones.
  *
- * Each value is read once and remembered, and rule sets are found by hash, so that many distinct styles cost
- * no more than few.
+ * Each value is read once and remembered, and rule sets are found by hash, so that many distinct
+ * styles cost no more than few.
  */
 class MRVStyleClasses
 {
 public:
-    /** @param styles the list of rule sets; not owned, not null, and not to be changed by others meanwhile. */
+    /**
+     * @param styles the list of rule sets; not owned, not null, and not to be changed by others
+     * meanwhile.
+     */
     MRVStyleClasses(MRVTextXhtmlExporter::StyleList *styles, bool dropFontFamily, bool kindleKF8);
 
-    /** Rewrites the style attributes of the text, as MRVTextXhtmlExporter::convertStyleToCss() describes. */
+    /**
+     * Rewrites the style attributes of the text, as MRVTextXhtmlExporter::convertStyleToCss()
+     * describes.
+     */
     void convert(QString *html);
 
 private:

@@ -14,13 +14,14 @@ class QTextImageFormat;
 /**
  * Writes a rich-text document as HTML, XHTML or e-book XHTML, and repairs HTML of other origin.
  *
- * The markup comes from QTextDocument::toHtml("utf-8"); a fixed chain of textual fix-ups turns it into the
- * wanted kind. Each fix-up is a static function that does just what its name says to any text, and finds
- * its patterns wherever they stand. The document exports (toFile() and what calls it, toEBookXhtml() and
- * toText()) apply the same chain to the tags of the page alone, so that prose which reads like a style
- * is left as it is, and add what makes the page well-formed and, from type Xhtml on, valid against the
- * XHTML 1.1 DTD: forbidden characters go, crossed tags are closed, attributes that XHTML 1.1 lacks become
- * styles, ids are unique names, and the page has a title.
+ * The markup comes from QTextDocument::toHtml("utf-8"); a fixed chain of textual fix-ups turns it
+ * into the wanted kind. Each fix-up is a static function that does just what its name says to any
+ * text, and finds its patterns wherever they stand. The document exports (toFile() and what calls
+ * it, toEBookXhtml() and toText()) apply the same chain to the tags of the page alone, so that
+ * prose which reads like a style is left as it is, and add what makes the page well-formed and,
+ * from type Xhtml on, valid against the XHTML 1.1 DTD: forbidden characters go, crossed tags are
+ * closed, attributes that XHTML 1.1 lacks become styles, ids are unique names, and the page has a
+ * title.
  *
  * Everything here is for the GUI thread. The document is never changed.
  *
@@ -31,7 +32,9 @@ class MRVBASE_EXPORT MRVTextXhtmlExporter
     Q_DECLARE_TR_FUNCTIONS(MRVTextXhtmlExporter)
 
 public:
-    /** What is written. KF8 is the second Kindle format, with page breaks as elements of their own. */
+    /**
+     * What is written. KF8 is the second Kindle format, with page breaks as elements of their own.
+     */
     enum ExportType {
         Html = 0, ///< the document's own HTML as Qt writes it
         Xhtml = 1,
@@ -41,8 +44,8 @@ public:
     };
 
     /**
-     * CSS rule sets in the order of their class numbers, each from property name to value. The set at
-     * index 0 belongs to class "morvane", the one at index n to class "morvane" followed by n.
+     * CSS rule sets in the order of their class numbers, each from property name to value. The set
+     * at index 0 belongs to class "morvane", the one at index n to class "morvane" followed by n.
      */
     using StyleList = QList<QHash<QString, QString>>;
 
@@ -53,9 +56,14 @@ public:
     StyleList styles() const { return m_styles; }
     /** Goes on with the rule sets of other pages, so that they can share a style sheet. */
     void setStyles(const StyleList &styles) { m_styles = styles; }
-    /** The language of the pages, a BCP 47 tag such as "en-GB"; empty, as at first, leaves it open. */
+    /**
+     * The language of the pages, a BCP 47 tag such as "en-GB"; empty, as at first, leaves it open.
+     */
     void setLanguage(const QString &language) { m_language = language; }
-    /** A line with file and reason for each picture of the document that the last toFile() could not write. */
+    /**
+     * A line with file and reason for each picture of the document that the last toFile() could not
+     * write.
+     */
     QStringList unwrittenImages() const { return m_unwrittenImages; }
 
     /**
@@ -70,13 +78,14 @@ public:
     /**
      * Exports the document to the file @p path (UTF-8), replacing it.
      *
-     * The page is written last and through the checked writer. When it cannot be written, the images
-     * written for it are removed again and an old page stands.
+     * The page is written last and through the checked writer. When it cannot be written, the
+     * images written for it are removed again and an old page stands.
      *
-     * @param exportImages write the images to files, as JPEG for the Kindle types and as PNG otherwise,
-     *                     and let the page refer to these; an image that cannot be written keeps its
-     *                     reference.
-     * @param imageDir     folder for the images, made when missing; empty takes calcImageDir(@p path).
+     * @param exportImages write the images to files, as JPEG for the Kindle types and as PNG
+     *                     otherwise, and let the page refer to these; an image that cannot be
+     *                     written keeps its reference.
+     * @param imageDir     folder for the images, made when missing; empty takes calcImageDir(@p
+     *        path).
      * @param error        if given, receives a text on failure; untouched on success.
      * @return false without a document or when the page cannot be written.
      */
@@ -91,14 +100,14 @@ public:
      * Exports @p document as one page of an e-book.
      *
      * The page gets the anchor "start" at its beginning (addDocAnchor()), its links are replaced by
-     * @p links, and its images are written to the folder "images" beside it. The style sheet that it
-     * refers to, "css/stylesheet.css", is the caller's to write once all pages are done: see
+     * @p links, and its images are written to the folder "images" beside it. The style sheet that
+     * it refers to, "css/stylesheet.css", is the caller's to write once all pages are done: see
      * styleSheetText().
      *
      * @param path   target file; ".xhtml" is appended when the name does not end so.
      * @param links  old link target to new one, both unescaped.
-     * @param styles rule sets; those of the page are appended, so that several pages can share one list.
-     *               Null leaves the style attributes in place.
+     * @param styles rule sets; those of the page are appended, so that several pages can share one
+     *               list. Null leaves the style attributes in place.
      * @return false for a null document, for the types Html and Xhtml, and when the page cannot be
      *         written.
      */
@@ -113,9 +122,10 @@ public:
                             StyleList *styles, const QTextDocument *document);
 
     /**
-     * The rule sets as a CSS text: a rule a class in class order, with its properties in alphabetical order.
-     * A property or value that would end its rule or open another is left out. Raised and lowered text without a
-     * size of its own is set smaller, as Qt shows it, and does not push the lines apart.
+     * The rule sets as a CSS text: a rule a class in class order, with its properties in
+     * alphabetical order. A property or value that would end its rule or open another is left out.
+     * Raised and lowered text without a size of its own is set smaller, as Qt shows it, and does
+     * not push the lines apart.
      */
     static QString styleSheetText(const StyleList &styles);
 
@@ -150,11 +160,16 @@ public:
     static void fixParPreWrap(QString *html);
     /** Drops the width that stands first in a table cell's tag, up to its closing quote. */
     static void fixTdWidthTag(QString *html);
-    /** Drops the background colour that stands first in a table cell's tag, up to its closing quote. */
+    /**
+     * Drops the background colour that stands first in a table cell's tag, up to its closing quote.
+     */
     static void fixTdBgcolorTag(QString *html);
     /** Removes the blank after the opening quote of a style. */
     static void fixStyleSpaces(QString *html);
-    /** Removes the blank after the opening quote of the attribute "scr", a misspelling met in the wild. */
+    /**
+     * Removes the blank after the opening quote of the attribute "scr", a misspelling met in the
+     * wild.
+     */
     static void fixImgScrSpaces(QString *html);
     /** Reduces two blanks between "img" and the misspelt attribute "scr" to one. */
     static void fixImgSpaces(QString *html);
@@ -166,7 +181,9 @@ public:
     static void fixStyleEnding(QString *html);
     /** Links "css/stylesheet.css" at the end of the head. */
     static void addCssStylesheet(QString *html);
-    /** Inserts a paragraph with the anchor "start" after the opening body tag that has attributes. */
+    /**
+     * Inserts a paragraph with the anchor "start" after the opening body tag that has attributes.
+     */
     static void addDocAnchor(QString *html);
     /** Anchor names become ids; one that is a web or mail address becomes a title. */
     static void convertAnchorNameToId(QString *html);
@@ -181,8 +198,9 @@ public:
     /**
      * Turns the style attributes of the text into classes.
      *
-     * Class numbers follow the first appearance of each style in the text; equal rule sets share one.
-     * Empty paragraphs keep their height through a no-break space, and lose underline and line-through.
+     * Class numbers follow the first appearance of each style in the text; equal rule sets share
+     * one. Empty paragraphs keep their height through a no-break space, and lose underline and
+     * line-through.
      *
      * @param styles         rule sets found before and the place for new ones; null does nothing.
      * @param dropFontFamily leave out font families.
@@ -225,24 +243,28 @@ public:
     static QStringList qtCssProperties();
     /** The image tags of the text, in order, as they stand. */
     static QStringList imgTags(const QString &html);
-    /** The sources of the images of the text, in order and unescaped; images without one are left out. */
+    /**
+     * The sources of the images of the text, in order and unescaped; images without one are left
+     * out.
+     */
     static QStringList imgUrls(const QString &html);
     /** The folder of the file @p path, its base name and "_files". */
     static QString calcImageDir(const QString &path);
 
     /**
-     * Writes one image of the document into the folder @p dir, which must exist, and lets the HTML refer to
-     * it: by a path relative to the page while toFile() runs, else by folder name and file name.
+     * Writes one image of the document into the folder @p dir, which must exist, and lets the HTML
+     * refer to it: by a path relative to the page while toFile() runs, else by folder name and file
+     * name.
      *
      * @param format name of the file format to write ("PNG"); also the suffix, in lower case.
-     * @return the path of the file; empty, with the HTML unchanged, for a picture that is missing or
-     *         cannot be written.
+     * @return the path of the file; empty, with the HTML unchanged, for a picture that is missing
+     *         or cannot be written.
      */
     QString exportImage(const QString &dir, QString *html, const QTextImageFormat &imageFormat,
                         const char *format) const;
     /**
-     * exportImage() for every image of the document, once for images that share a resource; makes the
-     * folder when there is an image to write.
+     * exportImage() for every image of the document, once for images that share a resource; makes
+     * the folder when there is an image to write.
      * @return the paths of the files written.
      */
     QStringList exportDocImages(const QString &dir, QString *html, const char *format) const;

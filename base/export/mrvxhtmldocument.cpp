@@ -18,7 +18,8 @@
 
 namespace {
 
-// Removes what an export that failed has written so far; folders go only when nothing else is in them.
+// Removes what an export that failed has written so far; folders go only when nothing else is in
+// them.
 void removeFiles(const QStringList &files, const QString &newFolder)
 {
     for (const QString &file : files) {
@@ -176,8 +177,8 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
     return MRVTextFormat::exportImageFormat(path, imageFormat, picture, error) ? path : QString();
 }
 
-// The file as the page refers to it. Only what would end a path or begin an escape is encoded: the rest of the name
-// is to be read by people.
+// The file as the page refers to it. Only what would end a path or begin an escape is encoded: the
+// rest of the name is to be read by people.
 QString MRVTextXhtmlExporter::imageReference(const QString &file) const
 {
     const QFileInfo info(file);

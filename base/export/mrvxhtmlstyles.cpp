@@ -136,7 +136,8 @@ QHash<QString, QString> MRVTextXhtmlExporter::toStyleSheet(const QString &style,
                                                            bool dropFontFamily)
 {
     RuleSet rules;
-    // Families are written as &quot;Some Name&quot;: the semicolons of the escapes are no ends of declarations.
+    // Families are written as &quot;Some Name&quot;: the semicolons of the escapes are no ends of
+    // declarations.
     const QStringList declarations = MRVHtmlText::unescaped(style).split(u';');
     for (const QString &declaration : declarations) {
         const QStringList parts = declaration.split(u':', Qt::SkipEmptyParts);

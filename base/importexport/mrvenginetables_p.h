@@ -46,10 +46,10 @@ QByteArray toByteArray(const FormatEngines &engines);
 
 /**
  * Reads the stored form, entries in any order. A format is looked up by suffix, in any case:
- * deliberate, so that formats whose name is no suffix (MMDtoHTML) get their default back at the next
- * start. Entries with an unknown format or engine are dropped. Where several entries are for one
- * format, that with the last name counts (lower case is after upper case), and among equal names the
- * first; a dropped entry hides none.
+ * deliberate, so that formats whose name is no suffix (MMDtoHTML) get their default back at the
+ * next start. Entries with an unknown format or engine are dropped. Where several entries are for
+ * one format, that with the last name counts (lower case is after upper case), and among equal
+ * names the first; a dropped entry hides none.
  *
  * @return empty where the bytes end too early or are otherwise not that form. What follows them is
  * ignored.

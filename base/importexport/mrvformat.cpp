@@ -14,10 +14,8 @@ struct Row
     const char *description;
 };
 
-// The first row of a format, and of a suffix, is the one that counts. The descriptions are the source
-// texts of translations, irregular ones ("Windows Media", the two of JPEG) included.
-// XPS has one name in all languages; it is in pieces, since a check of the sources takes its last word for
-// a slip.
+// The first row of a format, and of a suffix, is the one that counts. The descriptions are the
+// source texts of translations, irregular ones ("Windows Media", the two of JPEG) included.
 // clang-format off
 constexpr Row rows[] = {
     {MRVFormat::ODT,       "ODT",       "odt",   QT_TRANSLATE_NOOP("QObject", "OpenDocument Text")},

@@ -80,7 +80,9 @@ public:
     static QMap<Engine, QString> engineTypes();
     /** The display names of the engines that have one. Engines of one family share theirs. */
     static QMap<Engine, QString> engineTypesDescr();
-    /** The same display names, shared ones repeated, in ascending order of their characters' codes. */
+    /**
+     * The same display names, shared ones repeated, in ascending order of their characters' codes.
+     */
     static QStringList engineTypesDescrSorted();
 
     /** The stored name; empty for a number that is no engine. */

@@ -66,7 +66,8 @@ struct PictureHeader
 
 } // namespace
 
-// Reads an item with its payload. Qt's own reader of variants believes every count and type it finds.
+// Reads an item with its payload. Qt's own reader of variants believes every count and type it
+// finds.
 class DropItemReader
 {
 public:
@@ -397,7 +398,8 @@ QList<MRVFernwickDropItem> MRVFernwickDropItem::fromVariant(const QList<QVariant
     return items;
 }
 
-// Whether all of a value would be read again. Hashes are not: their order is another one in each process.
+// Whether all of a value would be read again. Hashes are not: their order is another one in each
+// process.
 static bool isWritable(const QVariant &value, int depth = 0)
 {
     const auto isEntryWritable = [depth](const QVariant &entry) {

@@ -11,12 +11,12 @@ class QDataStream;
 class QImage;
 
 /**
- * One note dropped from or to the mind-mapping product: a label, and a text, a picture or a list as its
- * payload. What travels under "application/fernwick.notes.grouped" is an item whose list holds the
- * items of the group, each as toVariant() makes it.
+ * One note dropped from or to the mind-mapping product: a label, and a text, a picture or a list as
+ * its payload. What travels under "application/fernwick.notes.grouped" is an item whose list holds
+ * the items of the group, each as toVariant() makes it.
  *
- * The meta type "MRVFernwickDropItem" and its stream operators are registered before the first item is
- * put into a variant, written or read.
+ * The meta type "MRVFernwickDropItem" and its stream operators are registered before the first item
+ * is put into a variant, written or read.
  *
  * @since 1.0
  */
@@ -36,8 +36,8 @@ public:
 
     QVariant toVariant() const;
     /**
-     * The item that @p variant holds. Any other value becomes the payload of an item without a label: a
-     * list as well as a text or a picture, so that nothing of what was dropped is lost.
+     * The item that @p variant holds. Any other value becomes the payload of an item without a
+     * label: a list as well as a text or a picture, so that nothing of what was dropped is lost.
      */
     static MRVFernwickDropItem fromVariant(const QVariant &variant);
     /** One item for each entry, in order. */
@@ -59,8 +59,8 @@ private:
 Q_DECLARE_METATYPE(MRVFernwickDropItem)
 
 /**
- * qint32 format version 1, QString label, QVariant payload. Nothing is written, and the stream's status is
- * WriteFailed, where the payload holds what could not be read again.
+ * qint32 format version 1, QString label, QVariant payload. Nothing is written, and the stream's
+ * status is WriteFailed, where the payload holds what could not be read again.
  *
  * @since 1.0
  */
@@ -68,9 +68,10 @@ MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDro
 /**
  * Reads what operator<<() wrote, whatever the format version says.
  *
- * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, booleans, points, sizes,
- * rectangles, UUIDs, times without a named zone, byte arrays, addresses, items, and lists and maps of
- * them, 32 levels deep. Where they hold anything else or end too early, the stream's status tells and
+ * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, booleans, points,
+ * sizes, rectangles, UUIDs, times without a named zone, byte arrays, addresses, items, and lists
+ * and maps of them, 32 levels deep. Where they hold anything else or end too early, the stream's
+ * status tells and
  * @p item is a default one. Pictures beyond 512 MiB together, when decoded, are null. A picture may
  * come in another format than it had, as PNG knows fewer.
  *

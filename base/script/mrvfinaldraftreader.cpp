@@ -218,7 +218,8 @@ void FinalDraftReader::endNote()
     }
 }
 
-// The paragraphs of the element that it is in, up to its end; what somebody goes through begins with the name.
+// The paragraphs of the element that it is in, up to its end; what somebody goes through begins
+// with the name.
 QStringList FinalDraftReader::readParagraphs()
 {
     QStringList paragraphs;
@@ -284,7 +285,8 @@ void FinalDraftReader::placeNotes()
     }
 }
 
-// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the script.
+// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the
+// script.
 bool FinalDraftReader::readForeign()
 {
     constexpr int BelowRoot = 2;

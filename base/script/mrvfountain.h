@@ -112,15 +112,17 @@ struct MRVBASE_EXPORT MRVFountainTitle
 Q_DECLARE_TYPEINFO(MRVFountainTitle, Q_MOVABLE_TYPE);
 
 /**
- * A script as Fountain knows it: plain text in which each paragraph's kind shows in how it is typed.
+ * A script as Fountain knows it: plain text in which each paragraph's kind shows in how it is
+ * typed.
  *
- * fromText() reads any text, and toText() writes any script so that it is read as the same. Two things
- * of the published syntax are read more widely: a scene heading needs no blank line behind it, and
- * "@NAME" is a cue whether or not something is said. Three things are added, for what could not be
- * written otherwise: dialogue that nobody speaks follows a line with a mere "@"; a "!" before any line of
- * action makes that line action; and a backslash takes the meaning not only from "*" and "_", but from
- * any of [ / # ^ < ( . ~ as well, and within notes from "]". Backslashes before anything else are
- * themselves, however many they are. Emphasis ends at the end of a line at the latest, and may overlap.
+ * fromText() reads any text, and toText() writes any script so that it is read as the same. Two
+ * things of the published syntax are read more widely: a scene heading needs no blank line behind
+ * it, and "@NAME" is a cue whether or not something is said. Three things are added, for what could
+ * not be written otherwise: dialogue that nobody speaks follows a line with a mere "@"; a "!"
+ * before any line of action makes that line action; and a backslash takes the meaning not only from
+ * "*" and "_", but from any of [ / # ^ < ( . ~ as well, and within notes from "]". Backslashes
+ * before anything else are themselves, however many they are. Emphasis ends at the end of a line at
+ * the latest, and may overlap.
  *
  * Both take time linear in the text.
  *
@@ -138,30 +140,36 @@ public:
     }
     bool operator!=(const MRVFountainScript &other) const { return !(*this == other); }
 
-    /** The text of the first title page entry with @p key, in any case; empty where there is none. */
+    /**
+     * The text of the first title page entry with @p key, in any case; empty where there is none.
+     */
     QString title(const QString &key) const;
 
-    /** Reads a Fountain text. There is no text that could not be read. The result is normalized(). */
+    /**
+     * Reads a Fountain text. There is no text that could not be read. The result is normalized().
+     */
     static MRVFountainScript fromText(const QString &text);
 
     /** The Fountain text, of lines that end with '\n'. Reading it gives normalized(). */
     QString toText() const;
 
     /**
-     * The same as a revision of @p source, a Fountain text: what @p source says already keeps its lines, as
-     * they were typed, and so do byte-order mark and line ends. Where there are as many elements as
-     * before, just those are written anew that are others. Where there are not, or where lines as they
-     * were typed would be read in another way beside the new ones, the whole text is.
+     * The same as a revision of @p source, a Fountain text: what @p source says already keeps its
+     * lines, as they were typed, and so do byte-order mark and line ends. Where there are as many
+     * elements as before, just those are written anew that are others. Where there are not, or
+     * where lines as they were typed would be read in another way beside the new ones, the whole
+     * text is.
      */
     QString toText(const QString &source) const;
 
     /**
-     * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and at
-     * its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised text,
-     * line breaks in headings, cues, parentheticals, transitions, sections and synopses, which become
-     * blanks, empty lines of the title page and around dialogue, notes without text within a paragraph,
-     * and scene headings, cues and dialogue without text. Number, level and marks are reset where they
-     * mean nothing; two Lyrics behind one another in a speech cannot both be part of it.
+     * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and
+     * at its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised
+     * text, line breaks in headings, cues, parentheticals, transitions, sections and synopses,
+     * which become blanks, empty lines of the title page and around dialogue, notes without text
+     * within a paragraph, and scene headings, cues and dialogue without text. Number, level and
+     * marks are reset where they mean nothing; two Lyrics behind one another in a speech cannot
+     * both be part of it.
      */
     MRVFountainScript normalized() const;
 

@@ -48,8 +48,8 @@ constexpr struct
     Run::Style style;
 } styles[] = {{"em", Run::Italic}, {"strong", Run::Bold}, {"u", Run::Underline}};
 
-// The layout of the built-in mode. Without quotation marks and angle brackets: XML would have them escaped, and
-// browsers take style sheets as they stand.
+// The layout of the built-in mode. Without quotation marks and angle brackets: XML would have them
+// escaped, and browsers take style sheets as they stand.
 constexpr char StyleSheet[] = R"(
 body { max-width: 6in; margin: 1in auto; font: 12pt/1 'Courier Prime', 'Courier New', Courier, monospace; }
 p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre-wrap; min-height: 1em; }

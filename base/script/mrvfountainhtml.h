@@ -10,11 +10,11 @@
 /**
  * Scripts as web pages that say what each paragraph is.
  *
- * A page is one HTML 5 document that is also well-formed XML, in UTF-8, with its style sheet in it. The
- * classes of its paragraphs are the kinds of a script ("scene-heading", "dialogue", ...), a title page's
- * entries and scenes have their keys and numbers as data-key and data-number, and what is not printed is
- * there, but hidden. So a page can be read again without a loss. For e-books there is MRVEPubPackage,
- * with a document made by MRVScriptDocument.
+ * A page is one HTML 5 document that is also well-formed XML, in UTF-8, with its style sheet in it.
+ * The classes of its paragraphs are the kinds of a script ("scene-heading", "dialogue", ...), a
+ * title page's entries and scenes have their keys and numbers as data-key and data-number, and what
+ * is not printed is there, but hidden. So a page can be read again without a loss. For e-books
+ * there is MRVEPubPackage, with a document made by MRVScriptDocument.
  *
  * @since 1.0
  */
@@ -41,8 +41,8 @@ public:
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @param language if given, receives the page's language on success; empty for none.
-     * @return false, with @p script untouched, where the page is not well-formed, has no paragraph of
-     * a script, has elements within elements beyond 256 levels, or a tag with more than 64
+     * @return false, with @p script untouched, where the page is not well-formed, has no paragraph
+     * of a script, has elements within elements beyond 256 levels, or a tag with more than 64
      * attributes, or where its document type declares entities or attributes.
      */
     static bool fromHtml(const QByteArray &html, MRVFountainScript *script,

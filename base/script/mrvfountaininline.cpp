@@ -102,7 +102,8 @@ void InlineReader::readPieces()
     takePlain();
 }
 
-// Before a character that means something, each second backslash takes the meaning from what follows.
+// Before a character that means something, each second backslash takes the meaning from what
+// follows.
 int InlineReader::readBackslashes(int at)
 {
     int end = at;
@@ -234,7 +235,8 @@ void InlineWriter::addMarks(Emphasis toggled)
         m_text += starMarks;
         m_isUnderlineInside = m_isUnderlineInside && m_emphasis.testFlag(Run::Underline);
     } else if (m_emphasis.testFlag(Run::Underline)) {
-        // Other readers want marks that enclose each other, so what was opened last is closed first.
+        // Other readers want marks that enclose each other, so what was opened last is closed
+        // first.
         m_text += m_isUnderlineInside ? u'_' + starMarks : starMarks + u'_';
     } else {
         m_isUnderlineInside = bool(m_emphasis & ~stars);

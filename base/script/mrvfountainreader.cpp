@@ -233,8 +233,8 @@ bool FountainReader::isOnly(int line, Run::Kind kind) const
         && trimmed(QStringRef(&given.view)).size() == 1;
 }
 
-// Whether a paragraph whose next line is this one has ended. What was cut out is passed over or counts
-// as an empty line.
+// Whether a paragraph whose next line is this one has ended. What was cut out is passed over or
+// counts as an empty line.
 bool FountainReader::endsBefore(int line, bool passBoneyards) const
 {
     while (!isEmpty(line) && isOnly(line, Run::Boneyard)) {

@@ -5,8 +5,9 @@
 #include <QString>
 #include <QVector>
 
-// What the reader and the writer of Fountain must agree on: the writer asks how a line would be read before it decides
-// to mark it. The line is given with each note and boneyard in it as one U+FFFC.
+// What the reader and the writer of Fountain must agree on: the writer asks how a line would be
+// read before it decides to mark it. The line is given with each note and boneyard in it as one
+// U+FFFC.
 
 namespace MrvFountain {
 
@@ -84,14 +85,19 @@ QString withPlainLineEnds(const QString &text);
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
 /** Normalizes the entries of a title page; a single one without a value makes no title page. */
 void normalizeTitles(QVector<MRVFountainTitle> *titles);
-/** Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so. */
+/**
+ * Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so.
+ */
 void normalizeLyrics(QVector<MRVFountainElement> *elements);
 /** Whether something is left of a normalized element that Fountain can hold. */
 bool isKept(const MRVFountainElement &element);
 /** Runs parted at line breaks; there is always a line. */
 QVector<MRVFountainRuns> linesOf(const MRVFountainRuns &runs);
 
-/** A line's runs, from the characters between @p start and @p end; @p objects are those in between, in order. */
+/**
+ * A line's runs, from the characters between @p start and @p end; @p objects are those in between,
+ * in order.
+ */
 struct Object
 {
     int start;

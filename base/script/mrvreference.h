@@ -52,10 +52,13 @@ Q_DECLARE_TYPEINFO(MRVReference, Q_MOVABLE_TYPE);
 /** qint16 format version 1, QString title, QUrl url, qint32 internalLink. @since 1.0 */
 MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVReference &reference);
 /**
- * Reads what operator<<() wrote, whatever the format version says. Where the bytes end too early, the
- * stream's status tells and @p reference is a default one. @since 1.0
+ * Reads what operator<<() wrote, whatever the format version says. Where the bytes end too early,
+ * the stream's status tells and @p reference is a default one. @since 1.0
  */
 MRVBASE_EXPORT QDataStream &operator>>(QDataStream &stream, MRVReference &reference);
 
-/** Reference["title", link], where the link is the id of an internal one, else the address. @since 1.0 */
+/**
+ * Reference["title", link], where the link is the id of an internal one, else the address. @since
+ * 1.0
+ */
 MRVBASE_EXPORT QDebug operator<<(QDebug debug, const MRVReference &reference);

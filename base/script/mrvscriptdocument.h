@@ -12,18 +12,19 @@ class QTextDocument;
 /**
  * Scripts as documents that are formatted with a script mode.
  *
- * Each paragraph of a script is one of the document, in the formats of the mode's element of that kind,
- * found by its title ("Scene Heading", "Dialogue", ...). So it is for the mode to say what a script
- * looks like, and documents that were written with a mode become scripts in the same way. What elements
- * do not tell is carried by formats, so that it goes where the text goes: through copies of the
- * document (but for an empty first paragraph, whose format Qt leaves behind), fragments and undo.
+ * Each paragraph of a script is one of the document, in the formats of the mode's element of that
+ * kind, found by its title ("Scene Heading", "Dialogue", ...). So it is for the mode to say what a
+ * script looks like, and documents that were written with a mode become scripts in the same way.
+ * What elements do not tell is carried by formats, so that it goes where the text goes: through
+ * copies of the document (but for an empty first paragraph, whose format Qt leaves behind),
+ * fragments and undo.
  *
  * - Notes within a text: MRVTextFormat::InlineAnnotationProperty.
  * - Page breaks: the page break before the paragraph that follows.
  * - Line breaks: U+2028.
  * - Emphasis: bold, italic and underlined text, where the element is not so already.
- * - All else: the properties below. They are set only where they are needed. In character formats, they
- *   are those of a whole paragraph; in the block format where it has no text.
+ * - All else: the properties below. They are set only where they are needed. In character formats,
+ *   they are those of a whole paragraph; in the block format where it has no text.
  *
  * GUI thread only.
  *
@@ -50,27 +51,27 @@ public:
     };
 
     /**
-     * Replaces the contents of @p document by a script, with its title as the document's title. What a
-     * mode has no element for looks as in the built-in mode. The undo history is empty then. Null
-     * does nothing.
+     * Replaces the contents of @p document by a script, with its title as the document's title.
+     * What a mode has no element for looks as in the built-in mode. The undo history is empty then.
+     * Null does nothing.
      */
     static void setScript(QTextDocument *document, const MRVFountainScript &script,
                           const MRVScriptMode &mode);
 
     /**
-     * The same for what is printed alone, to be exported: without notes, what is cut out, sections and
-     * synopses, with scene numbers in front of the headings, which are headings of the first level, with
-     * capitals where the mode wants them, and with indents as Qt's margins. It is no longer a document of
-     * the mode.
+     * The same for what is printed alone, to be exported: without notes, what is cut out, sections
+     * and synopses, with scene numbers in front of the headings, which are headings of the first
+     * level, with capitals where the mode wants them, and with indents as Qt's margins. It is no
+     * longer a document of the mode.
      */
     static void setPrintedScript(QTextDocument *document, const MRVFountainScript &script,
                                  const MRVScriptMode &mode);
 
     /**
-     * The script in a document that was formatted with @p mode, normalized. Paragraphs of elements that
-     * Fountain does not know ("Shot"), or of none, are action, centred ones centred text; pictures are
-     * left out. Of an element called "Speech" or "Speaker", a paragraph is a cue up to the first tab,
-     * and dialogue behind it.
+     * The script in a document that was formatted with @p mode, normalized. Paragraphs of elements
+     * that Fountain does not know ("Shot"), or of none, are action, centred ones centred text;
+     * pictures are left out. Of an element called "Speech" or "Speaker", a paragraph is a cue up to
+     * the first tab, and dialogue behind it.
      */
     static MRVFountainScript script(const QTextDocument &document, const MRVScriptMode &mode);
 
@@ -85,16 +86,17 @@ public:
     /**
      * Renames a character.
      *
-     * A cue is renamed where @p from is its name, in any case, or one of several names that are joined
-     * by "/", "&", "," or "AND"; what is behind the name stays. In other text, @p from is looked for as a
-     * whole word: as it is given, in capitals, and with capital initials ("Ann Lee"), so that "will" is
-     * not Will. The new name is written in capitals where the old one was, and as given elsewhere; a
-     * name given in capitals becomes one with capital initials where the old one was so. Formats stay,
-     * that of the first character for all of the name.
+     * A cue is renamed where @p from is its name, in any case, or one of several names that are
+     * joined by "/", "&", "," or "AND"; what is behind the name stays. In other text, @p from is
+     * looked for as a whole word: as it is given, in capitals, and with capital initials ("Ann
+     * Lee"), so that "will" is not Will. The new name is written in capitals where the old one was,
+     * and as given elsewhere; a name given in capitals becomes one with capital initials where the
+     * old one was so. Formats stay, that of the first character for all of the name.
      *
      * One undo step; none where nothing is found. Takes time linear in the document.
      *
-     * @return how many names were changed; 0 too where @p from or @p to is blank or holds a line break.
+     * @return how many names were changed; 0 too where @p from or @p to is blank or holds a line
+     *        break.
      */
     static int renameCharacter(QTextDocument *document, const MRVScriptMode &mode,
                                const QString &from, const QString &to, RenameScope scope);

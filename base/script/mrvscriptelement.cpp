@@ -36,7 +36,8 @@ bool sameNumber(double a, double b)
     return a == b || qFuzzyCompare(a, b);
 }
 
-// What tells most elements apart, without a copy of the formats; false does not yet mean that they are equal.
+// What tells most elements apart, without a copy of the formats; false does not yet mean that they
+// are equal.
 bool lengthsDiffer(const QTextBlockFormat &a, const QTextBlockFormat &b)
 {
     constexpr int Lengths[] = {MRVTextFormat::BlockLeftIndent, QTextFormat::BlockTopMargin,
@@ -120,7 +121,8 @@ MRVCompletionList MRVCompletionList::filter(const QString &prefix) const
     if (prefix.isEmpty()) {
         return offered;
     }
-    // Most are ruled out by their first character. Of a surrogate pair, no first half changes with the case.
+    // Most are ruled out by their first character. Of a surrogate pair, no first half changes with
+    // the case.
     const QChar first = prefix.at(0).toCaseFolded();
     for (const MRVCompletion &completion : m_completions) {
         const QString &text = completion.text;

@@ -71,15 +71,15 @@ private:
  * One kind of paragraph of a script, such as the scene heading or the dialogue: what it looks like,
  * what Return and Tab do in it, and what is offered for completion.
  *
- * It is a value. It neither edits documents by itself nor knows its neighbours: the elements that it
- * goes on with are named by their titles, and MRVScriptMode holds them.
+ * It is a value. It neither edits documents by itself nor knows its neighbours: the elements that
+ * it goes on with are named by their titles, and MRVScriptMode holds them.
  *
- * What a default one is: no title, no formats, no completions, every flag off, and Tab behind text goes
- * to another element that is not named.
+ * What a default one is: no title, no formats, no completions, every flag off, and Tab behind text
+ * goes to another element that is not named.
  *
- * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names once any of
- * toVariant(), toScriptElement() and toScriptElementList() was called, which is what must come first
- * where names count: QMetaType::type(), queued connections, properties of scripts.
+ * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names once any
+ * of toVariant(), toScriptElement() and toScriptElementList() was called, which is what must come
+ * first where names count: QMetaType::type(), queued connections, properties of scripts.
  *
  * @since 1.0
  */
@@ -94,8 +94,8 @@ public:
         AppendProjectList = 0x10, ///< the project's own completions are offered, too
         AddToProjectList = 0x20, ///< what is typed is added to the project's completions
         /**
-         * The underline is double. Qt's formats know no such line, so the character format has a single
-         * one.
+         * The underline is double. Qt's formats know no such line, so the character format has a
+         * single one.
          */
         DoubleUnderline = 0x40,
         /** Blanks are not underlined. Mode files may say so, but are never written with it. */
@@ -133,9 +133,9 @@ public:
     void setCharFormat(const QTextCharFormat &format) { m_charFormat = format; }
 
     /**
-     * Lengths are in points. Indents are MRVTextFormat::BlockLeftIndent and BlockRightIndent, measured
-     * from the margins of the page, and QTextFormat::TextIndent, measured from the left indent. Line
-     * spacing is the pair MRVTextFormat::BlockSpacing and BlockBaseSpacing.
+     * Lengths are in points. Indents are MRVTextFormat::BlockLeftIndent and BlockRightIndent,
+     * measured from the margins of the page, and QTextFormat::TextIndent, measured from the left
+     * indent. Line spacing is the pair MRVTextFormat::BlockSpacing and BlockBaseSpacing.
      */
     const QTextBlockFormat &blockFormat() const { return m_blockFormat; }
     void setBlockFormat(const QTextBlockFormat &format) { m_blockFormat = format; }
@@ -162,8 +162,8 @@ public:
     void setCompleteBehavior(CompleteBehavior behavior) { m_completeBehavior = behavior; }
 
     /**
-     * What a phrase that AddToProjectList collects stands behind, and in front of; an empty one is the
-     * start or the end of the paragraph.
+     * What a phrase that AddToProjectList collects stands behind, and in front of; an empty one is
+     * the start or the end of the paragraph.
      */
     const QString &phraseStartDelimiter() const { return m_phraseStartDelimiter; }
     void setPhraseStartDelimiter(const QString &delimiter) { m_phraseStartDelimiter = delimiter; }
@@ -177,9 +177,9 @@ public:
     bool match(const QTextBlock &block) const;
 
     /**
-     * Whether two paragraph formats belong to the same element: they look the same, where all ways of
-     * centring look the same, as do all ways to write one line spacing. Page breaks do not count. Tab
-     * stops must be the same in number and order.
+     * Whether two paragraph formats belong to the same element: they look the same, where all ways
+     * of centring look the same, as do all ways to write one line spacing. Page breaks do not
+     * count. Tab stops must be the same in number and order.
      */
     static bool equal(const QTextBlockFormat &a, const QTextBlockFormat &b);
 
@@ -187,8 +187,8 @@ public:
      * Turns the text of a paragraph into upper case, up to the first styleDelimiter() where it has
      * one. Does nothing without the flag AllCaps.
      *
-     * Each run keeps its format, also where upper case has more characters. One undo step; none where
-     * nothing changes.
+     * Each run keeps its format, also where upper case has more characters. One undo step; none
+     * where nothing changes.
      */
     void recapitalizeBlock(const QTextBlock &block) const;
 

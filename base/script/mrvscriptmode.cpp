@@ -119,7 +119,8 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUni
     xml->writeEndElement();
 }
 
-// Not more than a byte beyond what a mode may have: what has no size, such as a device, may have no end, either.
+// Not more than a byte beyond what a mode may have: what has no size, such as a device, may have no
+// end, either.
 bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
 {
     constexpr int PieceSize = 64 * 1024;

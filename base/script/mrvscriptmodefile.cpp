@@ -40,7 +40,8 @@ constexpr ScriptWord CompleteWords[] = {{"GoToNextLine", Element::CompleteToNext
                                         {"InsertTab", Element::CompleteInsertsTab},
                                         {"Default", Element::CompleteDefault}};
 
-// Faces that every system has or substitutes with the same widths, and what other systems call them.
+// Faces that every system has or substitutes with the same widths, and what other systems call
+// them.
 struct FontRow
 {
     const char *name;

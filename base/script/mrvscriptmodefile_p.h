@@ -6,8 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
-// The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: what writes a mode and
-// what reads one go by the same rows.
+// The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: what
+// writes a mode and what reads one go by the same rows.
 
 constexpr char MorvaneScriptFormatTag[] = "MorvaneScriptFormat";
 constexpr char VersionAttribute[] = "Version";
@@ -87,8 +87,8 @@ struct ScriptField
     /** What is written; a null string is not. Null for what is only read. */
     QString (*text)(const MRVScriptElement &element, MRVUnit::Unit units);
     /**
-     * False where the text cannot be read as it stands. The element then is as it was, or has the nearest value that it
-     * can have.
+     * False where the text cannot be read as it stands. The element then is as it was, or has the
+     * nearest value that it can have.
      */
     bool (*read)(MRVScriptElement *element, const QString &text, MRVUnit::Unit units);
 };
@@ -109,20 +109,21 @@ bool readScriptFont(MRVScriptElement *element, const QString &family, const QStr
 QString scriptLineText(qint64 line, const QString &text);
 
 /**
- * The text of a mode's file, in the encoding that its byte-order mark or its declaration names, else UTF-8; false, with
- * the line and the reason, where the bytes are not of that.
+ * The text of a mode's file, in the encoding that its byte-order mark or its declaration names,
+ * else UTF-8; false, with the line and the reason, where the bytes are not of that.
  */
 bool decodeScriptMode(const QByteArray &xml, QString *text, QString *error);
 
 /**
- * Whether Qt's parser can be trusted with a text, which takes time quadratic in the attributes of a tag and carries out
- * document types; false, with the line and the reason, where not. What is no XML may pass, as the parser stops there.
+ * Whether Qt's parser can be trusted with a text, which takes time quadratic in the attributes of a
+ * tag and carries out document types; false, with the line and the reason, where not. What is no
+ * XML may pass, as the parser stops there.
  */
 bool scriptModeKeepsLimits(const QString &xml, QString *error);
 
 /**
- * The text of any XML document with few attributes a tag and without declarations, likewise; @p error may be null. Where
- * its document type names another file, that name is blank.
+ * The text of any XML document with few attributes a tag and without declarations, likewise; @p
+ * error may be null. Where its document type names another file, that name is blank.
  */
 bool scriptXmlText(const QByteArray &xml, QString *text, QString *error);
 

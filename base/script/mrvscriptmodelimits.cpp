@@ -19,7 +19,8 @@ int lineAt(const QString &text, int position)
     return 1 + text.leftRef(position).count(u'\n');
 }
 
-// What the declaration says, where that is an encoding in which the declaration could have been read.
+// What the declaration says, where that is an encoding in which the declaration could have been
+// read.
 QByteArray encodingOf(const QByteArray &xml)
 {
     static const QRegularExpression declaration(
@@ -92,7 +93,8 @@ public:
         return true;
     }
 
-    // Whether the document type that it has passed declares anything, such as entities that grow without end.
+    // Whether the document type that it has passed declares anything, such as entities that grow
+    // without end.
     bool declares() const { return m_xml.midRef(m_at, m_end - m_at).contains(u'['); }
 
     int line() const { return lineAt(m_xml, m_at); }
@@ -127,8 +129,9 @@ bool keepsLimits(const QString &xml, int maxLength, bool takesDoctype, QString *
     return true;
 }
 
-// A document type that names another file makes the parser pass over all entities that it does not know, as that file
-// might say what they are. Nobody reads that file, so that what they stand for would be missing.
+// A document type that names another file makes the parser pass over all entities that it does not
+// know, as that file might say what they are. Nobody reads that file, so that what they stand for
+// would be missing.
 void hideOuterType(QString *xml)
 {
     constexpr char Beginning[] = "<!DOCTYPE";

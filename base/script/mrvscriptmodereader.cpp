@@ -111,7 +111,8 @@ QXmlStreamReader::TokenType ModeReader::next()
     return m_xml.hasError() ? QXmlStreamReader::Invalid : token;
 }
 
-// Goes to the next child of the element that it is in, or to the end of that; false at the end and on an error.
+// Goes to the next child of the element that it is in, or to the end of that; false at the end and
+// on an error.
 bool ModeReader::nextChild()
 {
     for (;;) {

@@ -8,7 +8,10 @@
 
 class QTextBlock;
 
-/** What paragraphs of a script are for, beyond the kinds that Fountain knows. Documents store the numbers. */
+/**
+ * What paragraphs of a script are for, beyond the kinds that Fountain knows. Documents store the
+ * numbers.
+ */
 enum class MrvScriptRole {
     // The first are those of MRVFountainElement::Kind.
     DualCharacter = 20,
@@ -31,8 +34,8 @@ public:
     bool has(MrvScriptRole role) const { return m_own.contains(int(role)); }
 
     /**
-     * The element for a role. Where the mode has none, it is one of the built-in mode, and where the
-     * mode cannot tell its paragraphs from others, their format carries the role.
+     * The element for a role. Where the mode has none, it is one of the built-in mode, and where
+     * the mode cannot tell its paragraphs from others, their format carries the role.
      */
     MRVScriptElement element(MrvScriptRole role) const { return m_elements.value(int(role)); }
 

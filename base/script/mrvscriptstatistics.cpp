@@ -173,7 +173,8 @@ void Counter::addElement(const Element &element)
     if (isSpeech) {
         addSpeech(extent, element.kind != Element::Parenthetical);
     }
-    // An empty line is one more between paragraphs, not one with an empty line of its own before it.
+    // An empty line is one more between paragraphs, not one with an empty line of its own before
+    // it.
     const bool isEmptyLine = element.kind == Element::Action && element.runs.isEmpty();
     addLines(extent.lines, isEmptyLine ? 0 : measure.linesBefore);
 }

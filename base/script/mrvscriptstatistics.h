@@ -9,12 +9,12 @@
 /**
  * How much of a script there is, and whose.
  *
- * Pages are counted as a screenplay is typed: Courier of 12 points has ten characters and six lines to
- * the inch, and a Letter page with margins of an inch above and below holds 54 lines. Lines are broken
- * at the widths of the built-in mode (action 60 characters, dialogue 35, parentheticals 20), with two
- * empty lines before a scene heading and one before action, cues, transitions and centred text; of two
- * who speak side by side, the longer counts. Notes, sections, synopses, the title page and what is cut out
- * are not printed. A page is a minute, which is the rule of thumb of the trade.
+ * Pages are counted as a screenplay is typed: Courier of 12 points has ten characters and six lines
+ * to the inch, and a Letter page with margins of an inch above and below holds 54 lines. Lines are
+ * broken at the widths of the built-in mode (action 60 characters, dialogue 35, parentheticals 20),
+ * with two empty lines before a scene heading and one before action, cues, transitions and centred
+ * text; of two who speak side by side, the longer counts. Notes, sections, synopses, the title page
+ * and what is cut out are not printed. A page is a minute, which is the rule of thumb of the trade.
  *
  * @since 1.0
  */

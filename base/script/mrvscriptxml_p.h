@@ -22,7 +22,10 @@ struct MrvSpeeches
 /** The parts of a script, which together are all of it. */
 QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements);
 
-/** Whether all of a document was read; else @p error, if given, receives a line with the number of the line. */
+/**
+ * Whether all of a document was read; else @p error, if given, receives a line with the number of
+ * the line.
+ */
 bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error);
 
 /** A text in parentheses. */

@@ -29,8 +29,8 @@ bool mrvIsTitleKeyShown(const QString &key);
 QString mrvTitleLabel(const QString &key);
 
 /**
- * The length of the key that a line of a title page begins with, without ": "; 0 where there is none. In the
- * middle only the keys count that belong there: "Space: A Story" is a title.
+ * The length of the key that a line of a title page begins with, without ": "; 0 where there is
+ * none. In the middle only the keys count that belong there: "Space: A Story" is a title.
  */
 int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line);
 

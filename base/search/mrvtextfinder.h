@@ -75,10 +75,10 @@ public:
     /**
      * The nearest match from @p from on, or before it where @p flags say backward.
      *
-     * Forward, a match may start at @p from. Backward it starts before @p from, and may reach beyond
-     * it. A match that breaks a word rule is passed over; the search goes on one character before
-     * its start, or, forward, one character behind its end: a match right at the end of one that was
-     * passed over is not seen. A match may be empty; then the cursor has no selection.
+     * Forward, a match may start at @p from. Backward it starts before @p from, and may reach
+     * beyond it. A match that breaks a word rule is passed over; the search goes on one character
+     * before its start, or, forward, one character behind its end: a match right at the end of one
+     * that was passed over is not seen. A match may be empty; then the cursor has no selection.
      */
     static QTextCursor find(const QTextDocument *document, const QRegExp &expression, int from,
                             FindFlags flags = FindFlags());
@@ -97,11 +97,12 @@ public:
     static QTextCursor find(const QTextDocument *document, const QString &text,
                             const QTextCursor &from, FindFlags flags = FindFlags());
     /**
-     * The same for the other, faster kind of expression. It finds what a QRegExp of the same pattern
-     * finds, as far as both know the pattern: backward, the match that starts last; \\w, \\d, \\s, \\b
-     * and case go by Unicode, whether or not @p expression sets UseUnicodePropertiesOption. By
-     * its nature it takes the first of several alternatives that fit, where QRegExp takes the longest,
-     * and counts a character beyond U+FFFF as one, where QRegExp counts two.
+     * The same for the other, faster kind of expression. It finds what a QRegExp of the same
+     * pattern finds, as far as both know the pattern: backward, the match that starts last; \\w,
+     * \\d, \\s, \\b and case go by Unicode, whether or not @p expression sets
+     * UseUnicodePropertiesOption. By its nature it takes the first of several alternatives that
+     * fit, where QRegExp takes the longest, and counts a character beyond U+FFFF as one, where
+     * QRegExp counts two.
      */
     static QTextCursor find(const QTextDocument *document, const QRegularExpression &expression,
                             int from, FindFlags flags = FindFlags());
@@ -111,8 +112,8 @@ public:
     /**
      * The same in one paragraph.
      *
-     * @param offset where to start, from the start of @p block; backward, the last place where a match
-     *               may start. Nothing is found where it is negative or greater than the
+     * @param offset where to start, from the start of @p block; backward, the last place where a
+     *               match may start. Nothing is found where it is negative or greater than the
      *               length of the text. The end of the text is a valid place.
      * @param result receives the match; untouched where there is none.
      * @return whether there is a match.
@@ -169,9 +170,9 @@ public:
     static QTextCursor find(const QTextCursor &from, FindType type, const QVariant &value,
                             bool backward = false);
     /**
-     * The nearest run beyond the selection of @p from that holds @p text somewhere within one of its
-     * paragraphs, without regard to case, a no-break space counting as a blank. The run is selected,
-     * not the text. An empty @p text is held by every run.
+     * The nearest run beyond the selection of @p from that holds @p text somewhere within one of
+     * its paragraphs, without regard to case, a no-break space counting as a blank. The run is
+     * selected, not the text. An empty @p text is held by every run.
      */
     static QTextCursor findText(const QTextCursor &from, FindType type, const QString &text,
                                 const QVariant &value, bool backward);
@@ -223,8 +224,8 @@ public:
     static QTextCursor findContinuousFragment(const QTextCharFormat &format,
                                               const QTextCursor &from, bool compareValues);
     /**
-     * The fragment that findFragment() finds, grown to the whole inspector comment or footnote: over
-     * neighbours as findContinuousFragment() does, but only as long as marks and data of the
+     * The fragment that findFragment() finds, grown to the whole inspector comment or footnote:
+     * over neighbours as findContinuousFragment() does, but only as long as marks and data of the
      * comment (InspectorCommentProperty, InspectorFootnoteProperty, CommentData0 to CommentData2)
      * are the same too, present or not. Two comments side by side are thus two finds.
      */
@@ -267,8 +268,8 @@ public:
                                                      const QTextCharFormat &format);
 
     /**
-     * How many fragments of a document set @p property to @p value. A marked passage counts once for
-     * each of its formats: with a bold word inside, three times.
+     * How many fragments of a document set @p property to @p value. A marked passage counts once
+     * for each of its formats: with a bold word inside, three times.
      */
     static int formatCount(const QTextDocument *document, int property, const QVariant &value);
     /** How many characters those fragments hold. */
@@ -312,14 +313,14 @@ public:
     static bool hasFormatProperty(const QTextCursor &cursor, int property, const QVariant &value,
                                   bool compareValues);
 
-    // Links. Comments carry an address too; @p withComments says whether they count as links. Except
-    // in the first three functions, a link is all text that sets AnchorHref, in one passage with the
-    // same address: over changes of format, paragraph ends and empty paragraphs. (HTML import sets
-    // IsAnchor on the first character of a named link only.)
+    // Links. Comments carry an address too; @p withComments says whether they count as links.
+    // Except in the first three functions, a link is all text that sets AnchorHref, in one passage
+    // with the same address: over changes of format, paragraph ends and empty paragraphs. (HTML
+    // import sets IsAnchor on the first character of a named link only.)
 
     /**
-     * The format of the first character of the selection, or of the character behind a cursor without
-     * selection, if it has IsAnchor true and AnchorHref set; else an empty format.
+     * The format of the first character of the selection, or of the character behind a cursor
+     * without selection, if it has IsAnchor true and AnchorHref set; else an empty format.
      */
     static QTextCharFormat findAnchorFormat(const QTextCursor &cursor);
     /** Whether findAnchorFormat() finds one. */
@@ -327,8 +328,8 @@ public:
     /** Whether the first and the last character of a selection are such anchors. */
     static bool isAnchorTight(const QTextCursor &cursor);
     /**
-     * The first link that reaches beyond the end of the selection of @p from, as a whole: where that
-     * place is inside a link, that link.
+     * The first link that reaches beyond the end of the selection of @p from, as a whole: where
+     * that place is inside a link, that link.
      */
     static QTextCursor findAnchor(const QTextCursor &from, bool withComments = false);
     /**

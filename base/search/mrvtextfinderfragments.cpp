@@ -18,8 +18,8 @@ auto verdictsOf(const QTextDocument *document, const QTextCharFormat &format, bo
 QTextCharFormat formatOf(int property, const QVariant &value)
 {
     QTextCharFormat format;
-    // Setting no value would leave a format that everything matches: a value that no text has stands for it, and
-    // only the property's presence counts where values are not compared.
+    // Setting no value would leave a format that everything matches: a value that no text has
+    // stands for it, and only the property's presence counts where values are not compared.
     format.setProperty(property, value.isValid() ? value : QVariant::fromValue<void *>(nullptr));
     return format;
 }

@@ -143,8 +143,8 @@ bool MRVLiteralMatcher::isAt(const QString &text, int at) const
                       [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
 }
 
-// Either case of the anchor. In windows, since looking for the case that is not there up to the end of the text would
-// make many finds in a long paragraph quadratic.
+// Either case of the anchor. In windows, since looking for the case that is not there up to the end
+// of the text would make many finds in a long paragraph quadratic.
 int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
 {
     if (m_otherCase == m_anchorCharacter) {
@@ -166,8 +166,8 @@ int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
 
 int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
 {
-    // Qt looks for single characters in vector code, so this is quicker than any skipping, as long as
-    // the anchor is as rare as it should be.
+    // Qt looks for single characters in vector code, so this is quicker than any skipping, as long
+    // as the anchor is as rare as it should be.
     constexpr int ManyAnchors = 16;
     constexpr int TooClose = 8;
     const int size = m_folded.size();
@@ -229,8 +229,8 @@ MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
     if (m_text.isEmpty()) {
         return MRVTextMatch();
     }
-    // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma is
-    // then another letter than a sigma.
+    // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma
+    // is then another letter than a sigma.
     const bool lower = m_sensitivity == Qt::CaseInsensitive;
     const auto same = [lower](QChar a, QChar b) {
         return a == b || (lower && a.toLower() == b.toLower());
@@ -262,8 +262,8 @@ MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpressio
     if (options & QRegularExpression::UseUnicodePropertiesOption) {
         return;
     }
-    // Other options mean to compile anew, which takes longer than to search a paragraph. So the last
-    // expression is kept compiled; searching from find to find always asks for the same one.
+    // Other options mean to compile anew, which takes longer than to search a paragraph. So the
+    // last expression is kept compiled; searching from find to find always asks for the same one.
     struct Compiled
     {
         QRegularExpression given;

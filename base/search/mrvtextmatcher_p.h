@@ -10,8 +10,9 @@
 
 #include <array>
 
-// The three ways to look for text, behind one shape: what is done to a paragraph's text before it is
-// searched, the next match from an offset on, and the last one that starts at an offset or before.
+// The three ways to look for text, behind one shape: what is done to a paragraph's text before it
+// is searched, the next match from an offset on, and the last one that starts at an offset or
+// before.
 
 struct MRVTextMatch
 {
@@ -99,8 +100,8 @@ private:
 bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags);
 
 /**
- * The nearest match in a prepared text that keeps the word rules. A match that breaks them is passed
- * over whole and one character more. Deliberate: what starts right behind it is not seen.
+ * The nearest match in a prepared text that keeps the word rules. A match that breaks them is
+ * passed over whole and one character more. Deliberate: what starts right behind it is not seen.
  */
 template<typename Matcher>
 MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offset,
@@ -119,9 +120,9 @@ MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offs
 }
 
 /**
- * Calls @p found(match) for the matches in a prepared text from @p offset on, until it says false or
- * a match reaches beyond @p limit. Behind an empty match the search goes on by one character, or it would stand
- * still.
+ * Calls @p found(match) for the matches in a prepared text from @p offset on, until it says false
+ * or a match reaches beyond @p limit. Behind an empty match the search goes on by one character, or
+ * it would stand still.
  */
 template<typename Matcher, typename Found>
 void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
@@ -138,8 +139,8 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
 }
 
 /**
- * Calls @p visit(block, position, from, to), with offsets in its text, for each paragraph of a part until it
- * says false.
+ * Calls @p visit(block, position, from, to), with offsets in its text, for each paragraph of a part
+ * until it says false.
  */
 template<typename Visit>
 void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)

@@ -75,8 +75,8 @@ private:
 };
 
 /**
- * Whether nothing but paragraph ends lies in [end, start). What lies over the border of a cell or frame is never one
- * run: a cursor that selects it takes the whole table.
+ * Whether nothing but paragraph ends lies in [end, start). What lies over the border of a cell or
+ * frame is never one run: a cursor that selects it takes the whole table.
  */
 bool mrvAdjoins(const QTextDocument *document, int end, int start);
 

@@ -502,8 +502,8 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
     }
     bool isFind = false;
     QString after;
-    // First from the selection itself; an expression that looks at what stands before it without keeping it
-    // (\K) needs the paragraph from its start.
+    // First from the selection itself; an expression that looks at what stands before it without
+    // keeping it (\K) needs the paragraph from its start.
     const int paragraph = qMax(all.start(), document->findBlock(own.start()).position());
     for (int from : {own.start(), paragraph}) {
         if (isFind) {

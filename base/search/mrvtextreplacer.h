@@ -14,8 +14,8 @@ class QTextCursor;
 class QTextDocument;
 
 /**
- * What to look for, in all that a search dialog can ask: a text or an expression, the word rules, the
- * part of the document, the format of the text.
+ * What to look for, in all that a search dialog can ask: a text or an expression, the word rules,
+ * the part of the document, the format of the text.
  *
  * @since 1.0
  */
@@ -34,8 +34,8 @@ struct MRVBASE_EXPORT MRVTextQuery
     /**
      * Whether what writers type one way or the other counts as the same, in the text as in what is
      * looked for: straight and curly quotes and apostrophes; hyphens, figure dash, en dash and
-     * minus (not the em dash); blanks, no-break spaces and objects; composed and decomposed letters.
-     * Finds are whole letters with their accents.
+     * minus (not the em dash); blanks, no-break spaces and objects; composed and decomposed
+     * letters. Finds are whole letters with their accents.
      */
     bool ignoreTypography = false;
     /** Only finds that lie as a whole within this range count. All of the document at first. */
@@ -79,13 +79,13 @@ struct MRVBASE_EXPORT MRVTextChange
  *
  * In the replacement of a regular expression these stand for something else:
  *
- * - \\0 or $0 or $&: all of the find. \\1 or $1, to 99: the group of that number, or nothing where it
- *   took no part. Of two digits the second counts as text where there are not so many groups.
+ * - \\0 or $0 or $&: all of the find. \\1 or $1, to 99: the group of that number, or nothing where
+ *   it took no part. Of two digits the second counts as text where there are not so many groups.
  *   ${name}: the group of that name or number.
  * - \\n: a paragraph end. \\t: a tab. \\\\ and $$: a backslash, a dollar.
  *
- * All else stands as it is, a group that the expression does not have included. Groups give the text
- * as it is in the document. The replacement of plain text stands as it is.
+ * All else stands as it is, a group that the expression does not have included. Groups give the
+ * text as it is in the document. The replacement of plain text stands as it is.
  *
  * GUI thread only.
  *
@@ -100,10 +100,11 @@ public:
     static QVector<MRVTextRange> findAll(const QTextDocument *document, const MRVTextQuery &query);
     static int count(const QTextDocument *document, const MRVTextQuery &query);
     /**
-     * The first find that starts at the end of the selection of @p from or later; with FindBackward,
-     * the last one that ends at its start or earlier. Unlike findAll(), each search begins at the
-     * cursor, or, backward, at the start of a paragraph. An empty find at a cursor without selection
-     * is passed over. Null where there is none; the search does not begin again at the other end.
+     * The first find that starts at the end of the selection of @p from or later; with
+     * FindBackward, the last one that ends at its start or earlier. Unlike findAll(), each search
+     * begins at the cursor, or, backward, at the start of a paragraph. An empty find at a cursor
+     * without selection is passed over. Null where there is none; the search does not begin again
+     * at the other end.
      */
     static QTextCursor find(const QTextCursor &from, const MRVTextQuery &query);
 
@@ -118,9 +119,9 @@ public:
     static int replaceAll(QTextDocument *document, const MRVTextQuery &query,
                           const QString &replacement);
     /**
-     * Makes some of the changes of preview(), in whichever order they are given. One undo step; none
-     * where nothing changes. A change is left out if its text is no longer in its place, or if it
-     * overlaps one that comes later in the document.
+     * Makes some of the changes of preview(), in whichever order they are given. One undo step;
+     * none where nothing changes. A change is left out if its text is no longer in its place, or if
+     * it overlaps one that comes later in the document.
      *
      * @return how many were made.
      */
@@ -128,8 +129,8 @@ public:
     /**
      * Replaces the selection of @p cursor if it is a find, as find() would give it. One undo step.
      *
-     * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it, so
-     *               that find() goes on beyond it; untouched where false is returned.
+     * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it,
+     *               so that find() goes on beyond it; untouched where false is returned.
      * @return false where the selection is no find, or has an object in it.
      */
     static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement);

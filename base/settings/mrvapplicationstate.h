@@ -11,8 +11,9 @@
  * folders and icons, and which warnings the user has turned off.
  *
  * It lies in the user's settings file beside the group of the options, under keys without a group.
- * Each save of QSettings writes the whole file; so that none of them can harm the options, the state
- * is kept in a store of the same kind, which reads what was written. It has no typed settings.
+ * Each save of QSettings writes the whole file; so that none of them can harm the options, the
+ * state is kept in a store of the same kind, which reads what was written. It has no typed
+ * settings.
  *
  * GUI thread only.
  *
@@ -35,11 +36,13 @@ public:
     /** How many of them the user wants to see: the option MRVOptions::RecentProjectsCount. */
     static int userRecentProjectsCount();
 
-    /** The paths of the projects opened last, the latest first; userRecentProjectsCount() at most. */
+    /**
+     * The paths of the projects opened last, the latest first; userRecentProjectsCount() at most.
+     */
     QStringList recentProjectList() const;
     /**
-     * Stores the first maxRecentProjectsCount() of @p paths. That is more than are shown, on purpose:
-     * a user who wants to see more of them gets older ones back.
+     * Stores the first maxRecentProjectsCount() of @p paths. That is more than are shown, on
+     * purpose: a user who wants to see more of them gets older ones back.
      */
     void setRecentProjectList(const QStringList &paths);
     /**

@@ -428,23 +428,25 @@ public:
     QString customSeparator(MRV::SeparatorContext context) const;
 
     /**
-     * The opening and the closing quote that are put in place of typed straight ones. They are stored
-     * as one text: its first half opens, its second half closes. English quotes where nothing is
-     * stored, or a text that has no two halves.
+     * The opening and the closing quote that are put in place of typed straight ones. They are
+     * stored as one text: its first half opens, its second half closes. English quotes where
+     * nothing is stored, or a text that has no two halves.
      */
     QPair<QString, QString> singleQuotes() const;
     QPair<QString, QString> doubleQuotes() const;
 
     /**
-     * Settings of PDF files by the name that the user gave them; empty for an unknown name. Each name
-     * has a key of its own below "PdfSettings", so that two processes can store two names at a time;
-     * the empty name is "PdfSettings" itself.
+     * Settings of PDF files by the name that the user gave them; empty for an unknown name. Each
+     * name has a key of its own below "PdfSettings", so that two processes can store two names at a
+     * time; the empty name is "PdfSettings" itself.
      */
     QByteArray pdfSettings(const QString &name) const;
     bool setPdfSettings(const QString &name, const QByteArray &settings);
     /** The names that settings are stored for, sorted; without the empty one. */
     QStringList pdfSettingsNames() const;
-    /** Forgets those of a name. Those of the empty name cannot be removed without all the others. */
+    /**
+     * Forgets those of a name. Those of the empty name cannot be removed without all the others.
+     */
     void removePdfSettings(const QString &name);
 
     /**
@@ -462,7 +464,9 @@ public:
     MRVImportExport::UrlImportType defaultImportUrlType() const;
     bool setDefaultImportUrlType(MRVImportExport::UrlImportType type);
 
-    /** The folder of automatic backups; defaultBackupPath() where none is set. It need not exist. */
+    /**
+     * The folder of automatic backups; defaultBackupPath() where none is set. It need not exist.
+     */
     QString backupPath() const;
     /** "Backups" in the application's folder of the user's data. It is not created. */
     static QString defaultBackupPath();
@@ -487,14 +491,19 @@ public:
     /** See MTranslator::systemGuiLanguageCode(). */
     static QString systemGuiLanguageCode();
 
-    /** The colours of each group, in the order in which they are shown. Every colour is in one group. */
+    /**
+     * The colours of each group, in the order in which they are shown. Every colour is in one
+     * group.
+     */
     static QMap<ColorSettingGroup, QList<ColorSetting>> colorGroupMap();
     /** Translated; empty for a number outside the table. */
     static QString colorGroupName(ColorSettingGroup group);
     /** Translated; unique within its group. Empty for a number outside the table. */
     static QString colorName(ColorSetting setting);
 
-    /** The keys of all settings, sorted; names of PDF settings and of warnings are not among them. */
+    /**
+     * The keys of all settings, sorted; names of PDF settings and of warnings are not among them.
+     */
     static QStringList settingKeys();
     /**
      * The value of a setting, its default, and where the value comes from. A value of the system's
@@ -510,8 +519,8 @@ public:
     /** "flag", "int", ..., as the tool shows it. Not translated. */
     static QString typeName(SettingType type);
     /**
-     * A value of explain() as text that setFromText() takes back: "true" and "false"; numbers with a
-     * point; colours as "#rrggbb", or "#aarrggbb" where they are translucent; dates as ISO 8601;
+     * A value of explain() as text that setFromText() takes back: "true" and "false"; numbers with
+     * a point; colours as "#rrggbb", or "#aarrggbb" where they are translucent; dates as ISO 8601;
      * fonts as QFont::toString(); the items of lists one a line, of whole numbers parted by blanks;
      * byte arrays as they are where they are text, else "base64:" and their Base64 form, which is
      * also that of text formats.

@@ -188,7 +188,9 @@ inline bool isQuotePair(const QString &text)
     return !text.isEmpty() && text.size() % 2 == 0;
 }
 
-/** The warnings of the application state that are turned off by being false: keys at the file's top. */
+/**
+ * The warnings of the application state that are turned off by being false: keys at the file's top.
+ */
 Rows<const char *> warningKeys();
 
 // What is needed to make defaults.

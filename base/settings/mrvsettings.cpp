@@ -534,8 +534,8 @@ void MRVSettings::recordChange(const QString &key)
     if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked()) {
         return;
     }
-    // Most changes are of a group that is listed already. To see that takes no copy of a text, while
-    // QSettings makes one to say which group is open.
+    // Most changes are of a group that is listed already. To see that takes no copy of a text,
+    // while QSettings makes one to say which group is open.
     const QStringRef group = key.leftRef(slash);
     const bool isListed = m_changedGroups.contains(group);
     if ((isListed && m_timerId != -1) || !isOpenGroup()) {

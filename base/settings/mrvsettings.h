@@ -21,15 +21,16 @@
 /**
  * The typed settings store of the application.
  *
- * A subclass names its settings by enumerators, of one enumeration a type, and says for each of them
- * under which key it is stored and what it is worth where it is not stored. The store keeps values
- * that QSettings has no text for in fixed forms, tells what has changed, once a pass of the event
- * loop, and sees to it that what is saved is saved whole.
+ * A subclass names its settings by enumerators, of one enumeration a type, and says for each of
+ * them under which key it is stored and what it is worth where it is not stored. The store keeps
+ * values that QSettings has no text for in fixed forms, tells what has changed, once a pass of the
+ * event loop, and sees to it that what is saved is saved whole.
  *
- * A stored value that cannot be read as its type (a file edited by hand, a damaged format) gives the
- * default. In a file edited by hand, letters beyond ASCII are written as "\\xe4", or the file begins
- * with a UTF-8 mark: it then is rewritten in ASCII when it is opened. What was stored as an int, a bool or a list of one text comes back from a file as a text,
- * and an empty list as nothing; the typed functions take both.
+ * A stored value that cannot be read as its type (a file edited by hand, a damaged format) gives
+ * the default. In a file edited by hand, letters beyond ASCII are written as "\\xe4", or the file
+ * begins with a UTF-8 mark: it then is rewritten in ASCII when it is opened. What was stored as an
+ * int, a bool or a list of one text comes back from a file as a text, and an empty list as nothing;
+ * the typed functions take both.
  *
  * Saving. Changes are in memory at once and are saved in the next pass of the event loop, by sync()
  * and saveNow(), and when the store is destroyed. A disk that fills up while QSettings writes would
@@ -70,8 +71,8 @@ public:
     ~MRVSettings() override;
 
     /**
-     * What a setting is worth where it is not stored. Of this class: false, 0, an empty text, list, array
-     * or format, an invalid colour, a null date, and the application's font.
+     * What a setting is worth where it is not stored. Of this class: false, 0, an empty text, list,
+     * array or format, an invalid colour, a null date, and the application's font.
      */
     virtual bool defaultValue(FlagSetting setting) const;
     virtual int defaultValue(IntSetting setting) const;
@@ -87,9 +88,9 @@ public:
     virtual QTextBlockFormat defaultValue(TextBlockFormat setting) const;
 
     /**
-     * The key of a setting, relative to the open group; "General/saveInterval", say. An empty key, which
-     * is all that this class gives, means that there is no such setting: it reads as its default, and
-     * setting it does nothing.
+     * The key of a setting, relative to the open group; "General/saveInterval", say. An empty key,
+     * which is all that this class gives, means that there is no such setting: it reads as its
+     * default, and setting it does nothing.
      */
     virtual QString keyText(FlagSetting setting) const;
     virtual QString keyText(IntSetting setting) const;
@@ -105,14 +106,14 @@ public:
     virtual QString keyText(ByteArraySetting setting) const;
 
     /**
-     * Leaves all groups that are open and, unless @p group is empty, opens it. All keys are relative
-     * to it from then on.
+     * Leaves all groups that are open and, unless @p group is empty, opens it. All keys are
+     * relative to it from then on.
      */
     void setGroup(const QString &group);
     /**
-     * As those of QSettings. The store leaves the groups for a moment while it saves, and comes back; so
-     * groups must be opened here, and nothing is saved while an array is open or a group was opened
-     * through a QSettings pointer.
+     * As those of QSettings. The store leaves the groups for a moment while it saves, and comes
+     * back; so groups must be opened here, and nothing is saved while an array is open or a group
+     * was opened through a QSettings pointer.
      */
     void beginGroup(const QString &prefix);
     void endGroup();
@@ -132,17 +133,18 @@ public:
     QTextBlockFormat value(TextBlockFormat setting) const;
 
     /**
-     * Sets a value and records the change for groupsChanged(). The setting's group is the text before the
-     * last "/" of the key. Not recorded are keys without a group or with a "/" in front, changes made
-     * while the signals of the store are blocked, and changes made while a group inside the one of
-     * setGroup() is open.
+     * Sets a value and records the change for groupsChanged(). The setting's group is the text
+     * before the last "/" of the key. Not recorded are keys without a group or with a "/" in front,
+     * changes made while the signals of the store are blocked, and changes made while a group
+     * inside the one of setGroup() is open.
      *
      * Stored are numbers, texts, bytes and bits, colours, dates and times, points, sizes, lines and
-     * rectangles, fonts, URLs, locales, identifiers, key sequences, and lists and maps of those. What else
-     * there is, Qt cannot read from a damaged file without harm: it is not set, with a warning.
+     * rectangles, fonts, URLs, locales, identifiers, key sequences, and lists and maps of those.
+     * What else there is, Qt cannot read from a damaged file without harm: it is not set, with a
+     * warning.
      *
-     * @return whether the value was set and status() is NoError. Nothing is saved yet, so this tells of earlier failures;
-     * for this value's own, see saveNow().
+     * @return whether the value was set and status() is NoError. Nothing is saved yet, so this
+     * tells of earlier failures; for this value's own, see saveNow().
      */
     bool setValue(const QString &key, const QVariant &value);
     bool setValue(FlagSetting setting, bool value);
@@ -161,20 +163,26 @@ public:
     bool setValue(TextCharFormat setting, const QTextCharFormat &value);
     bool setValue(TextBlockFormat setting, const QTextBlockFormat &value);
 
-    /** Removes a key with all that lies below it; an empty key, all of the open group. Recorded like setValue(). */
+    /**
+     * Removes a key with all that lies below it; an empty key, all of the open group. Recorded like
+     * setValue().
+     */
     void remove(const QString &key);
     /** Removes all of the open group, and emits settingsReset(). */
     void resetToDefaults();
 
-    /** The format stored under @p key, through applyFontHinting(); @p def as it is where there is none. */
+    /**
+     * The format stored under @p key, through applyFontHinting(); @p def as it is where there is
+     * none.
+     */
     QTextCharFormat textCharFormat(const QString &key, const QTextCharFormat &def) const;
     QTextBlockFormat textBlockFormat(const QString &key, const QTextBlockFormat &def) const;
     /** A copy of @p format with full font hinting or none, as the flag setting number 12 says. */
     QTextCharFormat applyFontHinting(const QTextCharFormat &format) const;
 
     /**
-     * The shortcuts stored under @p key. Where there are none, or nothing of them can be read, @p def, and
-     * where that is null, MRVShortcutScheme::morvane().
+     * The shortcuts stored under @p key. Where there are none, or nothing of them can be read, @p
+     * def, and where that is null, MRVShortcutScheme::morvane().
      */
     MRVShortcutScheme shortcutScheme(const QString &key, const MRVShortcutScheme &def) const;
     bool setShortcutScheme(const QString &key, const MRVShortcutScheme &scheme);
@@ -192,18 +200,21 @@ public:
     /** A default format where @p bytes are empty or damaged. */
     static QTextCharFormat toTextCharFormat(const QByteArray &bytes);
     static QTextBlockFormat toTextBlockFormat(const QByteArray &bytes);
-    /** The picture as a JPEG file of quality 50, so without transparency; empty for a null image. */
+    /**
+     * The picture as a JPEG file of quality 50, so without transparency; empty for a null image.
+     */
     static QByteArray toByteArray(const QImage &image);
     /** A null image where @p bytes hold no picture. */
     static QImage toImage(const QByteArray &bytes);
 
     /**
-     * Saves what is not saved yet, and makes sure that it is: the file is read again, and each value in
-     * it compared with the one in memory.
+     * Saves what is not saved yet, and makes sure that it is: the file is read again, and each
+     * value in it compared with the one in memory.
      *
-     * Where what was written is not whole, as on a disk that has filled up, the file is written once more
-     * through MRVFileWriter, else the old file is put back. What is no regular file is not written to.
-     * Changes that could not be saved stay in memory, and are tried again with the next one.
+     * Where what was written is not whole, as on a disk that has filled up, the file is written
+     * once more through MRVFileWriter, else the old file is put back. What is no regular file is
+     * not written to. Changes that could not be saved stay in memory, and are tried again with the
+     * next one.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return whether the file holds all that the store does; also when there was nothing to save.
@@ -213,8 +224,9 @@ public:
     void sync();
 
     /**
-     * Copies the open group into an INI file, whose group of that name it replaces; other groups stay.
-     * The file is written whole through MRVFileWriter or not at all, under the lock that QSettings takes.
+     * Copies the open group into an INI file, whose group of that name it replaces; other groups
+     * stay. The file is written whole through MRVFileWriter or not at all, under the lock that
+     * QSettings takes.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return false where the file cannot be written.
@@ -222,19 +234,22 @@ public:
     bool saveToFile(const QString &fileName, QString *error = nullptr);
     /**
      * Puts the values that an INI file has in the group that is open here in place of all that this
-     * store has in it, and emits settingsReset(). A file that cannot be read has none: the group is then
-     * empty.
+     * store has in it, and emits settingsReset(). A file that cannot be read has none: the group is
+     * then empty.
      */
     void loadFromFile(const QString &fileName);
 
 Q_SIGNALS:
-    /** Once for all changes of a pass of the event loop: each group once, in the order of first change. */
+    /**
+     * Once for all changes of a pass of the event loop: each group once, in the order of first
+     * change.
+     */
     void groupsChanged(const QStringList &groups);
     /** After resetToDefaults() and loadFromFile(): any setting may have changed. */
     void settingsReset();
     /**
-     * What was changed could not be saved when its turn came; @p error says why. Not emitted for a call
-     * of saveNow(), which returns it.
+     * What was changed could not be saved when its turn came; @p error says why. Not emitted for a
+     * call of saveNow(), which returns it.
      */
     void saveFailed(const QString &error);
 

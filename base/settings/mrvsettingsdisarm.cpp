@@ -72,7 +72,8 @@ QString mrvDisarmSettings(const QString &path)
 
 QString mrvDisarmUserSettings(const QString &organization, const QString &application)
 {
-    // Where the files lie, QSettings tells only of one that it has opened; there is none of this name.
+    // Where the files lie, QSettings tells only of one that it has opened; there is none of this
+    // name.
     const QSettings none(QSettings::NativeFormat, QSettings::UserScope,
                          organization + QLatin1String(" (none)"), QStringLiteral("none"));
     const QDir folder(QFileInfo(none.fileName()).path() + QLatin1String("/.."));

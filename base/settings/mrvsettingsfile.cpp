@@ -272,8 +272,8 @@ QString mrvDamagedText(const QString &path)
     return Messages::tr("Cannot write the file \"%1\": it is damaged").arg(path);
 }
 
-// A second name for the file costs nothing. By the number of the process it is found again, so that one
-// that was killed leaves no more than one.
+// A second name for the file costs nothing. By the number of the process it is found again, so that
+// one that was killed leaves no more than one.
 MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &bytes)
     : m_bytes(bytes)
     , m_path(QFileInfo(path).canonicalFilePath())

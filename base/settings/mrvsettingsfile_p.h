@@ -25,8 +25,8 @@ MRVSettingsMap mrvValuesOf(const QSettings &settings);
 bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values);
 
 /**
- * Whether bytes are those of an INI file, or nothing but comments. QSettings itself takes any text for
- * settings that it could not understand in part, and would write over it.
+ * Whether bytes are those of an INI file, or nothing but comments. QSettings itself takes any text
+ * for settings that it could not understand in part, and would write over it.
  */
 bool mrvIsSettings(const QByteArray &bytes);
 
@@ -58,14 +58,14 @@ public:
     explicit MRVSettingsLock(const QString &path);
 
     /**
-     * After ten seconds of waiting. A disk that is full, or may only be read, has no room for the lock
-     * either; that is not for the lock to tell.
+     * After ten seconds of waiting. A disk that is full, or may only be read, has no room for the
+     * lock either; that is not for the lock to tell.
      */
     bool isHeldByOther() const { return m_isHeldByOther; }
 
     /**
-     * A process that was killed between making its lock and writing its name into it leaves an empty one,
-     * for which QSettings would wait half a minute.
+     * A process that was killed between making its lock and writing its name into it leaves an
+     * empty one, for which QSettings would wait half a minute.
      */
     static void removeDead(const QString &path);
 

@@ -13,8 +13,8 @@ namespace {
 // Lists in lists; nobody nests settings deeper.
 constexpr int MaxDepth = 8;
 
-// The types that have other numbers in the stream version Qt_4_0; those that it does not know, whose
-// name follows, are User.
+// The types that have other numbers in the stream version Qt_4_0; those that it does not know,
+// whose name follows, are User.
 quint32 typeOf(quint32 stored)
 {
     constexpr quint32 User = 127;

@@ -6,10 +6,10 @@
 /**
  * The bytes of an INI file without the values that QSettings cannot decode without harm.
  *
- * QSettings decodes every value when it opens a file. A value that it has no text for is the stream of
- * a QVariant, and those readers of Qt take as much memory as a damaged count asks for, or crash. What
- * is left in are types without counts, and lists, maps and texts whose counts and lengths the bytes
- * fill; fonts only by themselves. Other types do not come back.
+ * QSettings decodes every value when it opens a file. A value that it has no text for is the stream
+ * of a QVariant, and those readers of Qt take as much memory as a damaged count asks for, or crash.
+ * What is left in are types without counts, and lists, maps and texts whose counts and lengths the
+ * bytes fill; fonts only by themselves. Other types do not come back.
  *
  * @return just @p bytes where nothing has to be left out.
  */
@@ -18,6 +18,9 @@ QByteArray mrvHarmlessSettings(const QByteArray &bytes);
 /** Whether a value can be stored so that mrvHarmlessSettings() leaves it in. */
 bool mrvCanBeStored(const QVariant &value);
 
-/** With the mark, QSettings reads a file as UTF-8, but writes it without; so it is read wrongly next time. */
+/**
+ * With the mark, QSettings reads a file as UTF-8, but writes it without; so it is read wrongly next
+ * time.
+ */
 constexpr int mrvUtf8MarkSize = 3;
 bool mrvHasUtf8Mark(const QByteArray &bytes);

@@ -203,8 +203,8 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
         return !m_isDirty || fail(error, tr("Cannot write the file \"%1\"").arg(path));
     }
 
-    // From memory, before anything else opens the file: QSettings would read one again that it has just
-    // left empty, and forget.
+    // From memory, before anything else opens the file: QSettings would read one again that it has
+    // just left empty, and forget.
     const MRVSettingsMap wanted = mrvValuesOf(*this);
     m_isDirty = !isSaved(path, format(), before, wanted);
     if (!m_isDirty) {

@@ -14,7 +14,8 @@ inline bool mrvIsList(const QVariant &value)
 }
 
 /**
- * A flag as files and people write it: true, yes, on or 1, or the opposite of it, whatever the case.
+ * A flag as files and people write it: true, yes, on or 1, or the opposite of it, whatever the
+ * case.
  *
  * @param ok receives false for anything else.
  */

@@ -10,8 +10,8 @@
 /**
  * The commands that can carry a keyboard shortcut: their identifiers, menu groups and labels.
  *
- * Files and settings hold an identifier's name, never its number. The list may therefore grow at its
- * end, but no name may change.
+ * Files and settings hold an identifier's name, never its number. The list may therefore grow at
+ * its end, but no name may change.
  *
  * @since 1.0
  */

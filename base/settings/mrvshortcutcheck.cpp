@@ -21,7 +21,8 @@ struct KeyRange
     int last;
 };
 
-// What never reaches an application with the shortcuts that GNOME, KDE Plasma and Xfce have in Debian 12.
+// What never reaches an application with the shortcuts that GNOME, KDE Plasma and Xfce have in
+// Debian 12.
 constexpr KeyRange DesktopKeys[] = {
     {Super, AllModifiers, 0, 0x01ffffff}, // the desktop's own modifier
     {0, AllModifiers, Qt::Key_Super_L, Qt::Key_Super_R},

@@ -68,8 +68,8 @@ public:
     static QList<Conflict> conflicts(const MRVShortcutScheme &scheme);
 
     /**
-     * The conflicts that @p id would have if it had the keys @p sequence, in place of what the scheme
-     * gives it.
+     * The conflicts that @p id would have if it had the keys @p sequence, in place of what the
+     * scheme gives it.
      */
     static QList<Conflict> conflicts(const MRVShortcutScheme &scheme, Id id,
                                      const QKeySequence &sequence);

@@ -17,17 +17,18 @@ class QDataStream;
 /**
  * A named set of keyboard shortcuts: which key sequence each command has.
  *
- * Stored form (QDataStream, version Qt_5_15): QString "1.0", QString name, qint32 number of entries,
- * and for each entry QByteArray name of the identifier, QString key sequence as portable text,
- * QString text. Entries are written in the order of the identifiers and read in any; of two for one
- * command the later counts. An entry for a command that this version does not know is skipped.
+ * Stored form (QDataStream, version Qt_5_15): QString "1.0", QString name, qint32 number of
+ * entries, and for each entry QByteArray name of the identifier, QString key sequence as portable
+ * text, QString text. Entries are written in the order of the identifiers and read in any; of two
+ * for one command the later counts. An entry for a command that this version does not know is
+ * skipped.
  *
- * A key that has no portable text, such as an unknown one, is not stored: its entry comes back without
- * a key. MRVShortcutCheck reports those.
+ * A key that has no portable text, such as an unknown one, is not stored: its entry comes back
+ * without a key. MRVShortcutCheck reports those.
  *
- * Any bytes can be read. A form of another version is not read at all. Where the bytes end too early
- * or are damaged, what was read whole before that place stays. A key text that names an unknown key
- * gives an entry without a key.
+ * Any bytes can be read. A form of another version is not read at all. Where the bytes end too
+ * early or are damaged, what was read whole before that place stays. A key text that names an
+ * unknown key gives an entry without a key.
  *
  * @since 1.0
  */
@@ -51,8 +52,8 @@ public:
     /**
      * Reads the stored form.
      *
-     * @param mergeDefaults whether commands that the data lack get what morvane() has for them, such
-     *                      as those that are newer than the data.
+     * @param mergeDefaults whether commands that the data lack get what morvane() has for them,
+     *                      such as those that are newer than the data.
      */
     MRVShortcutScheme(const QByteArray &data, bool mergeDefaults);
 
@@ -83,17 +84,19 @@ public:
     /**
      * Gives an entry another key sequence, or none.
      *
-     * @return false, with nothing done, where @p id has no entry: what commands a scheme has changes
-     *         only by whole entries and by merging.
+     * @return false, with nothing done, where @p id has no entry: what commands a scheme has
+     *         changes only by whole entries and by merging.
      */
     bool setShortcut(Id id, const QKeySequence &sequence);
 
-    /** Replaces or adds an entry, whatever id stands in @p info; false where @p id is no command. */
+    /**
+     * Replaces or adds an entry, whatever id stands in @p info; false where @p id is no command.
+     */
     bool setShortcut(Id id, const MRVShortcutInfo &info);
 
     /**
-     * Adds the entries of commands that have none here. The key of the hash tells the command, whatever
-     * id stands in the entry; what is no command is left out.
+     * Adds the entries of commands that have none here. The key of the hash tells the command,
+     * whatever id stands in the entry; what is no command is left out.
      */
     void mergeMissingShortcuts(const Shortcuts &shortcuts);
 
@@ -103,7 +106,9 @@ public:
     /** Merges the entries of @p other, which win, and takes its name. */
     void mergeCopy(const MRVShortcutScheme &other);
 
-    /** The entries that fit a filter (MRVShortcutInfo::matchFilter()), in the order of their ids. */
+    /**
+     * The entries that fit a filter (MRVShortcutInfo::matchFilter()), in the order of their ids.
+     */
     QList<MRVShortcutInfo> findShortcuts(const QString &filter) const;
     static QList<MRVShortcutInfo> findShortcuts(const QString &filter, const Shortcuts &shortcuts);
 
@@ -115,8 +120,8 @@ public:
     QStringList shortcutGroups() const;
 
     /**
-     * The key sequence that a portable text such as "Ctrl+G, Ctrl+N" names. Empty where one of its keys
-     * is unknown, and for a text of more than 1024 characters.
+     * The key sequence that a portable text such as "Ctrl+G, Ctrl+N" names. Empty where one of its
+     * keys is unknown, and for a text of more than 1024 characters.
      */
     static QKeySequence toSequence(const QString &portableText);
 
@@ -154,9 +159,9 @@ public:
     static MRVShortcutScheme load(const QString &path, QString *error = nullptr);
 
     /**
-     * Writes a list for readers, in UTF-8: each menu group in upper case, and below it each entry as
-     * two blanks, its text, ": " and its key sequence in native text; an empty line between groups.
-     * White space in the text becomes single blanks.
+     * Writes a list for readers, in UTF-8: each menu group in upper case, and below it each entry
+     * as two blanks, its text, ": " and its key sequence in native text; an empty line between
+     * groups. White space in the text becomes single blanks.
      *
      * @param error as for save().
      */

@@ -18,10 +18,10 @@ constexpr bool holdsEachIdInOrder(const Row (&rows)[Size])
 
 } // namespace
 
-// Where word processors agree on a key, it is that one. What is done to the binder, the project or a
-// whole document begins with Ctrl+G. Left without a key is what is set once for a project. Keys that
-// desktops or input methods take, single letters, and the editor's own for moving and deleting are
-// not used; the line break's is the editor's own. MRVShortcutCheck finds nothing here.
+// Where word processors agree on a key, it is that one. What is done to the binder, the project or
+// a whole document begins with Ctrl+G. Left without a key is what is set once for a project. Keys
+// that desktops or input methods take, single letters, and the editor's own for moving and deleting
+// are not used; the line break's is the editor's own. MRVShortcutCheck finds nothing here.
 const MRVShortcut::Row *MRVShortcut::row(Id id)
 {
     constexpr const char *file = QT_TR_NOOP("File");

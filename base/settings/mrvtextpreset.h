@@ -9,8 +9,8 @@
 class QDataStream;
 
 /**
- * A style that a writer gives to selected text: a character format, a paragraph format, and which of
- * the two count. What it is called is the business of MRVTextPresetScheme.
+ * A style that a writer gives to selected text: a character format, a paragraph format, and which
+ * of the two count. What it is called is the business of MRVTextPresetScheme.
  *
  * @since 1.0
  */

@@ -9,8 +9,8 @@
 /**
  * The user's text presets: loaded when first asked for, saved at every change.
  *
- * They are kept in a file of their own; where that cannot be written, in the settings. When both are
- * there, the file counts, even if it is the older.
+ * They are kept in a file of their own; where that cannot be written, in the settings. When both
+ * are there, the file counts, even if it is the older.
  *
  * GUI thread only.
  *
@@ -24,12 +24,17 @@ public:
     /** The one of the process; made at the first call, gone at its end. */
     static MRVTextPresetMgr *instance();
 
-    /** With the presets that loadPresetScheme() finds. Of managers beside instance(), none hears of the others. */
+    /**
+     * With the presets that loadPresetScheme() finds. Of managers beside instance(), none hears of
+     * the others.
+     */
     explicit MRVTextPresetMgr(QObject *parent = nullptr);
     ~MRVTextPresetMgr() override;
 
     MRVTextPresetScheme presetScheme() const { return m_scheme; }
-    /** Takes a scheme, saves it and emits presetsChanged(), even if it is the one that was there. */
+    /**
+     * Takes a scheme, saves it and emits presetsChanged(), even if it is the one that was there.
+     */
     void setPresetScheme(const MRVTextPresetScheme &scheme);
     /** The same without one of the presets. Does nothing where there is none of that name. */
     void removePreset(const QString &name);
@@ -42,13 +47,13 @@ public:
      */
     static QString presetSchemeFilePath();
     /**
-     * Saves a scheme to the file or, where that fails, to the setting MRVOptions::TextPresets. A file that
-     * is damaged or of a newer version is first copied to "TextPresets.bin~".
+     * Saves a scheme to the file or, where that fails, to the setting MRVOptions::TextPresets. A
+     * file that is damaged or of a newer version is first copied to "TextPresets.bin~".
      */
     static void savePresetScheme(const MRVTextPresetScheme &scheme);
     /**
-     * The presets in the file; where there is no file or it cannot be opened, those in the settings; where
-     * there are none, the defaults. Of damaged ones, the presets before the damage.
+     * The presets in the file; where there is no file or it cannot be opened, those in the
+     * settings; where there are none, the defaults. Of damaged ones, the presets before the damage.
      */
     static MRVTextPresetScheme loadPresetScheme();
 

@@ -35,8 +35,8 @@ public:
     /** The stored form, as the stream operator below writes it. */
     static QByteArray toByteArray(const MRVTextPresetScheme &scheme);
     /**
-     * The scheme in @p bytes, which may be any; empty where they are empty. What follows the scheme is
-     * ignored.
+     * The scheme in @p bytes, which may be any; empty where they are empty. What follows the scheme
+     * is ignored.
      *
      * @param error if given, receives a translated line where the bytes are damaged or of another
      *              version; untouched on success, which empty bytes are. The presets that stand
@@ -45,8 +45,9 @@ public:
     static MRVTextPresetScheme fromByteArray(const QByteArray &bytes, QString *error = nullptr);
 
     /**
-     * The six presets that a new user finds: "Block Quote", "Body", "Essay Block Quote (Preserved)",
-     * "Heading", "Sub-heading" and "Title". They set no font family, so that the text keeps its own.
+     * The six presets that a new user finds: "Block Quote", "Body", "Essay Block Quote
+     * (Preserved)", "Heading", "Sub-heading" and "Title". They set no font family, so that the text
+     * keeps its own.
      */
     static MRVTextPresetScheme defaultScheme();
 

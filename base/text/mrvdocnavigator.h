@@ -38,7 +38,8 @@ public:
     bool navigate();
     /**
      * Looks at each run once, paragraph by paragraph, and tells table, cell, list and image formats
-     * apart. It tells nobody of it: neither hooks nor signals. False only where there is no document.
+     * apart. It tells nobody of it: neither hooks nor signals. False only where there is no
+     * document.
      */
     bool navigateIteration();
 
@@ -91,9 +92,9 @@ public:
     explicit MRVTableCollector(QTextDocument *document, QObject *parent = nullptr);
 
     /**
-     * A range for each table that was met, in the order of the walks so far: from firstPosition() to
-     * lastPosition() of the table, both inside it. Each walk adds to the list. A table in a cell that
-     * covers several places is there once for each.
+     * A range for each table that was met, in the order of the walks so far: from firstPosition()
+     * to lastPosition() of the table, both inside it. Each walk adds to the list. A table in a cell
+     * that covers several places is there once for each.
      */
     QList<MRVTextRange> tables() const { return m_tables; }
 

@@ -18,18 +18,19 @@ public:
     /**
      * @p existing re-styled by @p with.
      *
-     * The result is @p with, except for what it takes from @p existing; a property that is taken and
-     * that @p existing does not set is unset in the result. Always taken is what is no style:
-     * - the list that the paragraph belongs to, tables and frames, page breaks, the horizontal rule;
+     * The result is @p with, except for what it takes from @p existing; a property that is taken
+     * and that @p existing does not set is unset in the result. Always taken is what is no style:
+     * - the list that the paragraph belongs to, tables and frames, page breaks, the horizontal
+     * rule;
      * - block quotes, code blocks, preformatted text and task list markers;
      * - all properties of the application (0x100000 and above).
      *
      * A heading level lies under the number of the line spacing. It is no style: it is never taken
      * from @p with, and stays in the result unless @p with brings a line spacing in its place.
      *
-     * @param keepIndents   takes the geometry of the paragraph, which in a list is that of the list:
-     *                      left, right and first-line indent, left and right margin, indent level
-     *                      and tab stops.
+     * @param keepIndents   takes the geometry of the paragraph, which in a list is that of the
+     *                      list: left, right and first-line indent, left and right margin, indent
+     *                      level and tab stops.
      * @param keepSpacing   takes space above and below, line height and line spacing.
      * @param keepAlignment takes alignment and writing direction.
      * @param keep          properties that are taken as they are, whatever else is said here.

@@ -31,8 +31,8 @@ public:
     static QTextCursor selectImage(const QTextCursor &cursor);
 
     /**
-     * Whether the character in front of the selection, or of the position, ends a word: white space,
-     * punctuation, the end of a paragraph, table or cell.
+     * Whether the character in front of the selection, or of the position, ends a word: white
+     * space, punctuation, the end of a paragraph, table or cell.
      *
      * @param atEdge the answer at the start of the document.
      */
@@ -41,8 +41,8 @@ public:
     static bool hasWordBorderAfter(const QTextCursor &cursor, bool atEdge);
 
     /**
-     * Whether the selection reaches into a second paragraph. Its start counts as reached. False where
-     * cells of a table are selected.
+     * Whether the selection reaches into a second paragraph. Its start counts as reached. False
+     * where cells of a table are selected.
      */
     static bool hasMultipleBlocksSelected(const QTextCursor &cursor);
 
@@ -58,13 +58,13 @@ public:
     /**
      * Extends the selection to whole paragraphs, with the position at its end. Null does nothing.
      *
-     * Without a selection, that is the paragraph of the cursor; an empty one is not selected without
-     * its separator. With a selection, an end in an empty paragraph stays, and it is all or nothing:
-     * where one end would stay where it is, so does the other.
+     * Without a selection, that is the paragraph of the cursor; an empty one is not selected
+     * without its separator. With a selection, an end in an empty paragraph stays, and it is all or
+     * nothing: where one end would stay where it is, so does the other.
      *
      * @param withSeparator takes the separator in front of the first paragraph, too, if there is
-     *                      one: the first paragraph of the document or of a table cell has none, nor
-     *                      has one that follows a table.
+     *                      one: the first paragraph of the document or of a table cell has none,
+     *                      nor has one that follows a table.
      */
     static void selectBlockUnderCursor(QTextCursor *cursor, bool withSeparator);
 

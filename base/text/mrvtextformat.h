@@ -118,10 +118,11 @@ public:
      * qint32 property to QVariant) in QDataStream version Qt_5_15, with nothing before or after.
      * Equal formats give equal bytes; for that, a QVariantHash is stored as a QVariantMap.
      *
-     * Stored are numbers, texts, byte arrays, dates, URLs, colours, brushes, pens, pictures, points,
-     * sizes, rectangles, text lengths, tab stops, list levels, and lists and maps of them; not fonts,
-     * locales, polygons and times in a named zone. Of a format of more than 4096 properties, or with
-     * pictures beyond 8 MB and 32 times its stored length, the first that fit are stored.
+     * Stored are numbers, texts, byte arrays, dates, URLs, colours, brushes, pens, pictures,
+     * points, sizes, rectangles, text lengths, tab stops, list levels, and lists and maps of them;
+     * not fonts, locales, polygons and times in a named zone. Of a format of more than 4096
+     * properties, or with pictures beyond 8 MB and 32 times its stored length, the first that fit
+     * are stored.
      *
      * A property whose value toCharFormat() could not take back (a type without stream operators,
      * say) would make the whole format unreadable. It is left out, with a warning in the log.
@@ -157,7 +158,8 @@ public:
     /**
      * A format with only the properties of @p groups. Margins and indents are copied where
      * @p format sets them; line spacing is always written, as simplifySpacing() would leave it, but
-     * for taking spacing and base as equal, or base as 0, already when they are so but for rounding.
+     * for taking spacing and base as equal, or base as 0, already when they are so but for
+     * rounding.
      */
     static QTextBlockFormat simplified(const QTextBlockFormat &format, FormatGroups groups);
 
@@ -175,8 +177,8 @@ public:
     /**
      * The kind of line spacing of a paragraph; single where the format has none.
      *
-     * @param value if given, receives the multiple of the font size (1.0 for single spacing, 2.0 for
-     *              double), or the line height in points for fixed and exact spacing.
+     * @param value if given, receives the multiple of the font size (1.0 for single spacing, 2.0
+     *              for double), or the line height in points for fixed and exact spacing.
      */
     static SpacingType spacingType(const QTextBlockFormat &format, double *value = nullptr);
     /** Whether spacingType() and its value are the same for both. */
@@ -211,15 +213,17 @@ public:
     static QTextCharFormat defaultCharFormat(const QTextDocument &document);
     /**
      * Keeps @p format as the document's default and makes its font the default font. Not undoable.
-     * A Qt document has a default font and nothing more, so the rest of the format is kept beside it
-     * and is not drawn.
+     * A Qt document has a default font and nothing more, so the rest of the format is kept beside
+     * it and is not drawn.
      */
     static void setDefaultCharFormat(QTextDocument &document, const QTextCharFormat &format);
 
     /** The id in a link to another document of the project ("42"), or -1 for any other link. */
     static int morvaneLinkId(const QString &href);
     static bool isMorvaneLink(const QString &href);
-    /** Whether @p format is an anchor whose address is a link to another document of the project. */
+    /**
+     * Whether @p format is an anchor whose address is a link to another document of the project.
+     */
     static bool isMorvaneLink(const QTextCharFormat &format);
 
     /** The display name of an image, or its resource id where it has none. */
@@ -247,8 +251,10 @@ public:
      *
      * An existing file is removed first, so that a failed export leaves no stale file behind.
      *
-     * @param error if given, receives one line with file and reason on failure; untouched on success.
-     * @return false for an empty name, and where @p image is needed but cannot be encoded or written.
+     * @param error if given, receives one line with file and reason on failure; untouched on
+     *        success.
+     * @return false for an empty name, and where @p image is needed but cannot be encoded or
+     *        written.
      */
     static bool exportImageFormat(const QString &fileName, const QTextImageFormat &format,
                                   const QImage &image, QString *error = nullptr);
@@ -259,8 +265,8 @@ public:
     static bool hasBlockInString(const QString &text);
 
     /**
-     * The format of @p block re-styled by @p with: MRVTextBlockFormat::merge(), with the indents of a
-     * list item always kept. A paragraph whose first character is marked PreserveFormatProperty
+     * The format of @p block re-styled by @p with: MRVTextBlockFormat::merge(), with the indents of
+     * a list item always kept. A paragraph whose first character is marked PreserveFormatProperty
      * keeps its format as it is.
      */
     static QTextBlockFormat mergeBlockFormat(const QTextBlock &block, const QTextBlockFormat &with,
@@ -271,8 +277,8 @@ public:
      * Re-styles a document while keeping what the application stores in its text: every paragraph
      * gets the merge of its format with @p blockFormat, every run the merge with @p charFormat.
      *
-     * One undo step; none when nothing changes. Qt leaves one thing out of undo: the format that the
-     * first paragraph itself gives to text typed into it. Takes time linear in the document.
+     * One undo step; none when nothing changes. Qt leaves one thing out of undo: the format that
+     * the first paragraph itself gives to text typed into it. Takes time linear in the document.
      *
      * @param document          null does nothing.
      * @param charFormat        null leaves the character formats alone.
@@ -282,8 +288,8 @@ public:
      * @param keepIndents       and keepSpacing, keepAlignment: see mergeBlockFormat(). A paragraph
      *                          that is marked to be preserved stays so whatever
      *                          @p overridePreserved says.
-     * @param keep              properties that are taken from the existing formats, or removed where
-     *                          those lack them.
+     * @param keep              properties that are taken from the existing formats, or removed
+     *                          where those lack them.
      */
     static void convertToFormat(QTextDocument *document, const QTextCharFormat *charFormat,
                                 const QTextBlockFormat *blockFormat, bool keepSize, bool keepColors,
@@ -311,8 +317,8 @@ public:
     /**
      * Replaces font weights that a family does not have by the nearest one that it has.
      *
-     * Concerns the paragraph formats from the paragraph that holds the start of the selection to the
-     * end of the document, and the whole runs that begin within the selection. Normal weight is
+     * Concerns the paragraph formats from the paragraph that holds the start of the selection to
+     * the end of the document, and the whole runs that begin within the selection. Normal weight is
      * stored as unset. One undo step; none when nothing changes. A null cursor does nothing.
      */
     static void adjustFontWeight(const QTextCursor &cursor);

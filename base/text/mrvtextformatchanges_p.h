@@ -18,8 +18,8 @@ bool mrvIsSameFormat(const QTextFormat &a, const QTextFormat &b);
 
 /**
  * The changes to a document's formats, collected while walking it and applied afterwards, since an
- * edit ends the walk over a block's runs. Positions, not cursors: every living cursor is adjusted at
- * every edit.
+ * edit ends the walk over a block's runs. Positions, not cursors: every living cursor is adjusted
+ * at every edit.
  */
 class MrvFormatChanges
 {

@@ -55,8 +55,8 @@ constexpr bool isAscending(const Table &table)
 unsigned groupOf(const Table &table, int property);
 
 /**
- * Makes every property of @p groups in @p result what it is in @p existing: the same value, or unset
- * where @p existing does not set it.
+ * Makes every property of @p groups in @p result what it is in @p existing: the same value, or
+ * unset where @p existing does not set it.
  */
 void takeGroups(QTextFormat *result, const QTextFormat &existing, const Table &table,
                 unsigned groups);

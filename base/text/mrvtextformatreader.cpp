@@ -404,8 +404,8 @@ bool FormatWalker::image()
 }
 
 // A picture lies in the stream as a PNG file, of a length that only its chunks tell. Where decoding
-// it ends early, Qt goes on reading in the middle of it: what follows would be taken from bytes that
-// nobody checked. So it is decoded here once, and must end where its chunks end.
+// it ends early, Qt goes on reading in the middle of it: what follows would be taken from bytes
+// that nobody checked. So it is decoded here once, and must end where its chunks end.
 bool FormatWalker::decodes(const char *start) const
 {
     const int length = int(m_at - start);

@@ -170,8 +170,9 @@ Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
     return stream.status() == QDataStream::Ok && format.type() == type ? format : Format();
 }
 
-// How long the format ahead is, its bytes alone tell. So ever larger pieces of the stream are looked
-// at, instead of all that follows: a scheme of many presets would be copied once for each of them.
+// How long the format ahead is, its bytes alone tell. So ever larger pieces of the stream are
+// looked at, instead of all that follows: a scheme of many presets would be copied once for each of
+// them.
 template<typename Format>
 bool take(QDataStream &stream, QTextFormat::FormatType type, Format *format)
 {

@@ -77,8 +77,8 @@ public:
     static QTextBlockFormat clearListProperties(const QTextBlockFormat &format);
     /**
      * The same for the paragraph at the cursor's position, or at @p position. It leaves its list,
-     * since belonging to one is such a property; unlike clearBlockAtPositionFromTextList() this adds
-     * no indent. Nothing for a null cursor or document and outside the document.
+     * since belonging to one is such a property; unlike clearBlockAtPositionFromTextList() this
+     * adds no indent. Nothing for a null cursor or document and outside the document.
      */
     static void clearListProperties(QTextCursor &cursor);
     static void clearListProperties(QTextDocument *document, int position);
@@ -98,8 +98,8 @@ public:
 
 /**
  * Restores the levels of a whole list: each of its paragraphs gets the level that @p levels gives
- * it, or 0. The map is also kept as the property "BlockLevels" of the list object, which is not part
- * of undo and goes with the object.
+ * it, or 0. The map is also kept as the property "BlockLevels" of the list object, which is not
+ * part of undo and goes with the object.
  */
 MRVBASE_EXPORT void setBlockLevels(QTextList &list, const MRVTextBlockLevelMap &levels);
 /**

@@ -26,7 +26,8 @@ public:
 
     /**
      * The weight of @p family that is nearest to @p weight: @p weight itself where the family has
-     * it. Of two that are equally near, the heavier one for a weight above normal, else the lighter.
+     * it. Of two that are equally near, the heavier one for a weight above normal, else the
+     * lighter.
      */
     static int closestFontWeight(const QString &family, int weight);
 };

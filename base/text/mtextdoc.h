@@ -29,11 +29,11 @@ class QTextDocument;
  *
  * A run is a stretch of one paragraph in one character format. Where a function takes a pattern, it
  * concerns the runs that set every property of it, to an equal value where @c matchValues is true;
- * a pattern without properties fits all text. Paragraph ends are no part of a run: what a new, empty
- * paragraph would give to text typed into it stays.
+ * a pattern without properties fits all text. Paragraph ends are no part of a run: what a new,
+ * empty paragraph would give to text typed into it stays.
  *
- * A change to a whole document is one undo step, and none where there is nothing to change. It takes
- * time linear in the document. Null documents and cursors are left alone. GUI thread only.
+ * A change to a whole document is one undo step, and none where there is nothing to change. It
+ * takes time linear in the document. Null documents and cursors are left alone. GUI thread only.
  *
  * @since 1.0
  */
@@ -66,8 +66,8 @@ public:
     static void fixHtmlImageFormatsAndResourceIds(QTextDocument *document);
 
     /**
-     * Gives every image the id generated from its picture, so that equal pictures share one resource
-     * and different ones do not. Images without a picture are passed over.
+     * Gives every image the id generated from its picture, so that equal pictures share one
+     * resource and different ones do not. Images without a picture are passed over.
      *
      * The resources under the old ids are cleared. They are no part of undo: after it, the images
      * have their old ids again, but no pictures.
@@ -95,8 +95,8 @@ public:
     /** @p base made a display name that the document does not use; see findUniqueString(). */
     static QString uniqueImageName(const QTextDocument &document, const QString &base);
     /**
-     * @p base, or the base name of the file that it names, made safe as a file name, and with "_" and
-     * the first free number from 1 up where it is among @p taken.
+     * @p base, or the base name of the file that it names, made safe as a file name, and with "_"
+     * and the first free number from 1 up where it is among @p taken.
      */
     static QString findUniqueString(const QString &base, const QSet<QString> &taken);
 
@@ -124,8 +124,9 @@ public:
                                      const QDir &folder, bool mmd, const QSet<QString> *used);
 
     /**
-     * Writes each image of the document into @p folder as exportImageFormat() does, each to a file of
-     * its own and none over a file that another image links to. The folder is made where needed, but not for a document without images.
+     * Writes each image of the document into @p folder as exportImageFormat() does, each to a file
+     * of its own and none over a file that another image links to. The folder is made where needed,
+     * but not for a document without images.
      *
      * @return the paths that were written, in document order.
      */
@@ -153,11 +154,13 @@ public:
     static void removeComments(QTextDocument *document, int property);
     static void removeInspectorComments(QTextDocument *document);
     static void removeInspectorFootnotes(QTextDocument *document);
-    /** Those of both kinds: of the runs that have comment data (CommentData0), whatever they are. */
+    /**
+     * Those of both kinds: of the runs that have comment data (CommentData0), whatever they are.
+     */
     static void removeInspectorCommentsAndFootnotes(QTextDocument *document);
     /**
-     * Clears the comment properties of the runs of the selection whose @p property is true; of those
-     * that reach out of it, of the part inside.
+     * Clears the comment properties of the runs of the selection whose @p property is true; of
+     * those that reach out of it, of the part inside.
      */
     static void removeCommentsWithinSelection(const QTextCursor &cursor, int property);
 
@@ -169,15 +172,17 @@ public:
     static void clearInlinePropertiesCursor(QTextCursor *cursor);
     /**
      * Deletes the text of all annotations. An annotation at the end of a paragraph takes the end
-     * along, so that the next paragraph joins; not at the end of a table cell or of the document, and
-     * not in front of a table.
+     * along, so that the next paragraph joins; not at the end of a table cell or of the document,
+     * and not in front of a table.
      */
     static void removeAnnotations(QTextDocument *document);
     /** Deletes the text of all inline footnotes, and no paragraph ends. */
     static void removeInlineFootnotes(QTextDocument *document);
     /** Makes all annotations ordinary text. A run that is a footnote too is none any more. */
     static void inlineAnnotationsToText(QTextDocument *document);
-    /** Makes all inline footnotes ordinary text. A run that is an annotation too is none any more. */
+    /**
+     * Makes all inline footnotes ordinary text. A run that is an annotation too is none any more.
+     */
     static void inlineFootnotesToText(QTextDocument *document);
 
     // Links: runs with IsAnchor true. Colour and underline of a link that goes stay.
@@ -224,7 +229,8 @@ public:
     static void replaceAll(QTextDocument *document, const QTextCharFormat &from,
                            const QTextCharFormat &to, bool matchValues);
     /**
-     * Finds the first run of a paragraph that @p pattern fits and that starts at @p offset or later.
+     * Finds the first run of a paragraph that @p pattern fits and that starts at @p offset or
+     * later.
      *
      * @param offset from the start of @p block.
      * @param cursor selects the run; untouched where there is none.
@@ -240,7 +246,9 @@ public:
 
     /** Whether blanks and tabs as well as line and paragraph ends are drawn. */
     static bool invisiblesShown(const QTextDocument &document);
-    /** Switches both on or off; with only one of them on, they are not shown, and stay when hidden. */
+    /**
+     * Switches both on or off; with only one of them on, they are not shown, and stay when hidden.
+     */
     static void showInvisibles(QTextDocument *document, bool show);
     /** Clears all flags of the document's default text option. */
     static void clearDefaultTextOptionFlags(QTextDocument *document);
@@ -252,13 +260,13 @@ public:
     static void normalizePageBreaks(QTextDocument *document);
 
     /**
-     * Replaces all tables, nested ones included, by their text: a paragraph for each row, with a tab
-     * between two cells that start in it; a cell of several paragraphs breaks the line.
+     * Replaces all tables, nested ones included, by their text: a paragraph for each row, with a
+     * tab between two cells that start in it; a cell of several paragraphs breaks the line.
      *
-     * Characters keep their formats, and images stay. Each line has the paragraph format that it had
-     * in its first cell, but belongs to no list. The text starts a paragraph of its own, for which an
-     * empty paragraph in front of the table is used up; so is an empty one that only closes the
-     * document, cell or frame behind the table.
+     * Characters keep their formats, and images stay. Each line has the paragraph format that it
+     * had in its first cell, but belongs to no list. The text starts a paragraph of its own, for
+     * which an empty paragraph in front of the table is used up; so is an empty one that only
+     * closes the document, cell or frame behind the table.
      */
     static void tablesToText(QTextDocument *document);
 

@@ -88,8 +88,8 @@ struct NewKey
 };
 
 // Moves pictures and images to their new ids; an image that has its id already stays as it is. All
-// pictures are known before the first resource is cleared, since one image's new id may be another's
-// old one.
+// pictures are known before the first resource is cleared, since one image's new id may be
+// another's old one.
 void rekey(QTextDocument *document, const std::vector<ImageRun> &runs, QHash<QString, NewKey> keys)
 {
     for (auto it = keys.begin(); it != keys.end(); ++it) {

@@ -11,8 +11,9 @@ class QTextCursor;
 class QTextDocument;
 
 /**
- * What the operations on marked runs of text have in common: the runs are found first, as positions,
- * and changed afterwards, in one undo step; none where nothing changes. Linear in the document.
+ * What the operations on marked runs of text have in common: the runs are found first, as
+ * positions, and changed afterwards, in one undo step; none where nothing changes. Linear in the
+ * document.
  */
 namespace MrvSweep {
 

@@ -141,8 +141,8 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
     cursor->setPosition(start);
     cursor->setPosition(end, QTextCursor::KeepAnchor);
     cursor->removeSelectedText();
-    // What is left in front and behind is one paragraph now, in the format of the one in front unless
-    // that was empty.
+    // What is left in front and behind is one paragraph now, in the format of the one in front
+    // unless that was empty.
     if (keepsAfter) {
         cursor->insertBlock(afterFormat, afterCharFormat);
         cursor->setPosition(start);
@@ -156,8 +156,8 @@ void MTextDoc::tablesToText(QTextDocument *document)
 {
     MRVTableCollector collector(document);
     collector.navigate();
-    // The tables, not their ranges: columns are walked before rows, so that of two nested tables the
-    // one found later may lie in front, and its removal moves the other.
+    // The tables, not their ranges: columns are walked before rows, so that of two nested tables
+    // the one found later may lie in front, and its removal moves the other.
     std::vector<QTextTable *> tables;
     QSet<QTextTable *> seen;
     const QList<MRVTextRange> ranges = collector.tables();

@@ -10,8 +10,8 @@ double toComponent(const QString &text)
 {
     bool ok = false;
     const double value = text.toDouble(&ok);
-    // Written so that NaN, for which every comparison is false, gives 0. Where a number is too large
-    // for a double, Qt gives infinity, but calls it no number.
+    // Written so that NaN, for which every comparison is false, gives 0. Where a number is too
+    // large for a double, Qt gives infinity, but calls it no number.
     return ok && value > 0.0 ? qMin(value, 1.0) : 0.0;
 }
 

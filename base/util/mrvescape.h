@@ -12,8 +12,9 @@ namespace MRV {
  * text.
  *
  * An "&amp;" in the text is taken to be encoded already and stays as it is; any other entity is
- * encoded again ("&lt;" becomes "&amp;lt;"). Deliberate: text that went through here twice keeps its
- * ampersands, but no markup can be smuggled in. For a faithful encoding of any text use escape().
+ * encoded again ("&lt;" becomes "&amp;lt;"). Deliberate: text that went through here twice keeps
+ * its ampersands, but no markup can be smuggled in. For a faithful encoding of any text use
+ * escape().
  */
 MRVBASE_EXPORT QString toHtmlEncoded(const QString &text);
 
@@ -21,11 +22,11 @@ MRVBASE_EXPORT QString toHtmlEncoded(const QString &text);
 MRVBASE_EXPORT QString escape(const QString &text);
 
 /**
- * @p text trimmed, encoded by toHtmlEncoded() and wrapped in a paragraph, so that a tooltip shows it
- * as rich text and breaks its lines.
+ * @p text trimmed, encoded by toHtmlEncoded() and wrapped in a paragraph, so that a tooltip shows
+ * it as rich text and breaks its lines.
  *
- * When the whole is longer than 100 QChars, it is its first 100 and "...". Deliberate: a long tooltip
- * so loses its closing tag, which tooltips tolerate. Empty for blank text.
+ * When the whole is longer than 100 QChars, it is its first 100 and "...". Deliberate: a long
+ * tooltip so loses its closing tag, which tooltips tolerate. Empty for blank text.
  */
 MRVBASE_EXPORT QString toHtmlTooltipFormat(const QString &text);
 

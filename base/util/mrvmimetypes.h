@@ -34,7 +34,8 @@ MRVBASE_EXPORT extern const char *const MorvaneMarkupRtfMimeType;
 MRVBASE_EXPORT extern const char *const OdfMimeType;
 
 /**
- * The path of the project that the nodes in @p mime come from; empty without such data and for null.
+ * The path of the project that the nodes in @p mime come from; empty without such data and for
+ * null.
  *
  * The data under ProjectNodeMimeType are a QDataStream (version Qt_5_15) of one QString, the path,
  * and then qint32 node ids up to the end, without a count.
@@ -42,8 +43,8 @@ MRVBASE_EXPORT extern const char *const OdfMimeType;
 MRVBASE_EXPORT QString parseProjectNodeMimeTypePath(const QMimeData *mime);
 
 /**
- * The path as parseProjectNodeMimeTypePath() gives it, and the node ids in stream order. Negative ids
- * and a last one that is cut short are left out.
+ * The path as parseProjectNodeMimeTypePath() gives it, and the node ids in stream order. Negative
+ * ids and a last one that is cut short are left out.
  */
 MRVBASE_EXPORT QPair<QString, QList<int>> parseProjectNodeMimeType(const QMimeData *mime);
 
@@ -54,8 +55,8 @@ MRVBASE_EXPORT QStringList rtfMimeTypes();
  * The MIME types of each file suffix, suffixes without a dot.
  *
  * Read from the application's resource ":/Other/Resources/mimetypes.csv": UTF-8 lines of
- * "suffix,mime/type", neither field trimmed; a suffix on several lines has several types, lines that
- * begin with "//" or "#" are comments. The file is read by the first call that finds the table
+ * "suffix,mime/type", neither field trimmed; a suffix on several lines has several types, lines
+ * that begin with "//" or "#" are comments. The file is read by the first call that finds the table
  * empty; without the resource the table is empty, and each call tries again.
  */
 MRVBASE_EXPORT QHash<QString, QSet<QString>> suffixMimeTypes();

@@ -29,8 +29,8 @@ int numberStart(const QString &name)
     return start;
 }
 
-// The value of the digits from start on; -1 where it exceeds an int or they are not ASCII digits, as
-// QString::toInt() sees it.
+// The value of the digits from start on; -1 where it exceeds an int or they are not ASCII digits,
+// as QString::toInt() sees it.
 qint64 numberAt(const QString &name, int start)
 {
     bool ok = false;

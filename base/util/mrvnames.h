@@ -19,8 +19,9 @@ MRVBASE_EXPORT QString stripAutoNumberEnding(const QString &name, int *number = 
 
 /**
  * The name that follows @p name in a numbered series: digits at the very end are replaced by their
- * value plus one, written in ASCII digits ("Draft9" gives "Draft10", "Scene 007" gives "Scene 8"), or
- * by "1" where they exceed an int or are not all ASCII digits. A name without such digits gets "-1".
+ * value plus one, written in ASCII digits ("Draft9" gives "Draft10", "Scene 007" gives "Scene 8"),
+ * or by "1" where they exceed an int or are not all ASCII digits. A name without such digits gets
+ * "-1".
  */
 MRVBASE_EXPORT QString adjustName(const QString &name);
 
@@ -28,8 +29,8 @@ MRVBASE_EXPORT QString adjustName(const QString &name);
  * @p name made safe as the name of a file on any system.
  *
  * Each run of special characters (specialFileNameChars() and the double quote), together with
- * replacement characters beside it, becomes one @p replacement; runs of the replacement that were in
- * the name shrink to one as well. White space at both ends goes, so that a result may be empty.
+ * replacement characters beside it, becomes one @p replacement; runs of the replacement that were
+ * in the name shrink to one as well. White space at both ends goes, so that a result may be empty.
  */
 MRVBASE_EXPORT QString cleanFileName(const QString &name, const QChar &replacement);
 /** As above, with a blank as the replacement. */

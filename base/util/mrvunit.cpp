@@ -23,8 +23,8 @@ struct MeasureRow
     MRVUnit::Unit unit;
 };
 
-// Searched in this order: "inch" stands in front of "in". Deliberate: a pixel counts as a point, and a didot as twelve
-// ciceros.
+// Searched in this order: "inch" stands before "in". Deliberate: a pixel counts as a point, and a
+// didot as twelve ciceros.
 // clang-format off
 constexpr MeasureRow MeasureRows[] = {
     {"pt",   "%1pt",     1.0,        MRVUnit::Point},

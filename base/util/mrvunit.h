@@ -34,12 +34,13 @@ public:
 
     /**
      * Reads a number and the unit behind it: "pt", "px", "cm", "mm", "dm", "inch", "in", a double
-     * quote, "pi", "dd" (didot) or "cc" (cicero). White space does not count wherever it stands, case
-     * does, and a number alone is refused. The number is what QString::toDouble() takes, with a dot; that
-     * includes "inf" and "nan", and the points of a large number may be infinite where it is not.
+     * quote, "pi", "dd" (didot) or "cc" (cicero). White space does not count wherever it stands,
+     * case does, and a number alone is refused. The number is what QString::toDouble() takes, with
+     * a dot; that includes "inf" and "nan", and the points of a large number may be infinite where
+     * it is not.
      *
-     * An inch is 72 points and a centimetre 28.3465058, so that an inch is 2.5399956 cm. Deliberate: a
-     * didot counts 154.08124 points, twelve ciceros.
+     * An inch is 72 points and a centimetre 28.3465058, so that an inch is 2.5399956 cm.
+     * Deliberate: a didot counts 154.08124 points, twelve ciceros.
      *
      * @param pattern  receives the form of the unit's output, with "%1" in place of the number.
      * @param decimals receives how many characters lie between the last dot and the unit.
@@ -69,7 +70,8 @@ public:
 
     /**
      * Pixels of the screen, cut to a whole number towards zero. The resolution is Qt's default one,
-     * and is asked for once in the life of the process. What exceeds an int becomes the nearest int.
+     * and is asked for once in the life of the process. What exceeds an int becomes the nearest
+     * int.
      */
     static int pointsToPixels(double points);
     static double pixelsToPoints(int pixels);

@@ -122,7 +122,8 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
         showRightsWarning(needsAdminRights, installedLocation);
         return;
     }
-    // The focus would go on to the Cancel button, where a key that is pressed twice ends the download.
+    // The focus would go on to the Cancel button, where a key that is pressed twice ends the
+    // download.
     m_ui->downloadButton->clearFocus();
     m_ui->downloadButton->setEnabled(false);
     m_ui->downloadButton->setText(tr("Downloading Update"));

@@ -13,12 +13,13 @@ class MRVCheckForUpdatesDialog;
 }
 
 /**
- * Tells which version runs and which one is offered, shows the release notes, and lets the user download the installer and
- * install it. It does neither itself: it tells what the user wants, and shows what it is told.
+ * Tells which version runs and which one is offered, shows the release notes, and lets the user
+ * download the installer and install it. It does neither itself: it tells what the user wants, and
+ * shows what it is told.
  *
- * The release notes are fetched when the dialog is shown for the first time, so that a check in the background that finds
- * nothing neither loads a web engine nor asks the server for the page. Until then an empty widget stands under the view's
- * object name, "webView".
+ * The release notes are fetched when the dialog is shown for the first time, so that a check in the
+ * background that finds nothing neither loads a web engine nor asks the server for the page. Until
+ * then an empty widget stands under the view's object name, "webView".
  *
  * @since 1.0
  */
@@ -31,19 +32,28 @@ public:
     explicit MRVCheckForUpdatesDialog(const QString &releaseNotesUrl, QWidget *parent = nullptr);
     ~MRVCheckForUpdatesDialog() override;
 
-    /** The running application's logo, 48 pixels wide or high, whichever is more; null where its resource is missing. */
+    /**
+     * The running application's logo, 48 pixels wide or high, whichever is more; null where its
+     * resource is missing.
+     */
     static QImage logoImage();
 
 public Q_SLOTS:
     /** Shows which version runs and which is offered, and what the buttons do. */
     void versions(const QString &current, const QString &available);
-    /** Shows a text; in words of more than 60 characters, such as addresses, places to break them are put. */
+    /**
+     * Shows a text; in words of more than 60 characters, such as addresses, places to break them
+     * are put.
+     */
     void statusMsg(const QString &text);
     /** As statusMsg(), and hides the progress bar for good. */
     void errorMsg(const QString &text);
     /** Counts in bytes; a total that is unknown (negative, or 0) shows a busy bar. */
     void updateDownloadProgress(qint64 bytesRead, qint64 total);
-    /** What the download button does: asks for the download, unless the user could not install it; then says why. */
+    /**
+     * What the download button does: asks for the download, unless the user could not install it;
+     * then says why.
+     */
     void downloadUpdate();
     /** The installer is there, and sound. */
     void enableInstallButton();

@@ -37,8 +37,8 @@ int statusOf(const QNetworkReply *reply)
     return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-// Successes to Qt, which hold a part at most: one that announces another, behind which Qt reads nothing,
-// and what nobody asked for, a range and whether there is something new.
+// Successes to Qt, which hold a part at most: one that announces another, behind which Qt reads
+// nothing, and what nobody asked for, a range and whether there is something new.
 bool isPartial(int status)
 {
     return status < 200 || status == 206 || status == 304;
@@ -203,7 +203,8 @@ bool MRVDownloadUrl::download(const QUrl &url)
 void MRVDownloadUrl::start()
 {
     QNetworkRequest request(m_url);
-    // Qt unpacks what comes compressed without looking whether all of it came, or what it makes of it.
+    // Qt unpacks what comes compressed without looking whether all of it came, or what it makes of
+    // it.
     request.setRawHeader("Accept-Encoding", "identity");
     m_reply = m_manager->get(request);
     connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
@@ -322,7 +323,8 @@ void MRVDownloadUrl::onReplyError()
     m_data.clear();
 }
 
-// Qt finds most of these out itself; but a length that is no number would let any part pass as whole.
+// Qt finds most of these out itself; but a length that is no number would let any part pass as
+// whole.
 bool MRVDownloadUrl::isCutShort() const
 {
     if (isPartial(statusOf(m_reply))) {
@@ -368,8 +370,8 @@ void MRVDownloadUrl::onReplyFinished()
     }
 }
 
-// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen. Qt still
-// holds the reply and the manager when it comes back, so neither may go before.
+// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen. Qt
+// still holds the reply and the manager when it comes back, so neither may go before.
 void MRVDownloadUrl::beginQuestion()
 {
     m_asking->append(m_reply);

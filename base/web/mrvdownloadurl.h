@@ -20,22 +20,22 @@ class MRVDownloadUserInputAbstract;
  * Downloads one URL at a time, as bytes or into a file.
  *
  * Each request that was started ends with exactly one final signal, which never comes before
- * download() has returned: downloadError(), or, where all is well, downloadSuccess(QByteArray) for a
- * request of bytes and downloadSuccess(QString) for one of a file. A request of a file also delivers
- * its bytes, before the file is written, so that a receiver of the bytes has them even where writing
- * fails. Only a request that is dropped, by starting another one or by deleting this object, says no
- * more. Any receiver may start the next request, or delete this object.
+ * download() has returned: downloadError(), or, where all is well, downloadSuccess(QByteArray) for
+ * a request of bytes and downloadSuccess(QString) for one of a file. A request of a file also
+ * delivers its bytes, before the file is written, so that a receiver of the bytes has them even
+ * where writing fails. Only a request that is dropped, by starting another one or by deleting this
+ * object, says no more. Any receiver may start the next request, or delete this object.
  *
- * A body that is cut off is an error, but for two that Qt passes on as whole: one that ends at a chunk
- * whose size is no number, and one of no stated length whose connection breaks.
+ * A body that is cut off is an error, but for two that Qt passes on as whole: one that ends at a
+ * chunk whose size is no number, and one of no stated length whose connection breaks.
  *
  * Servers are asked not to compress, so that each body can be checked against its length; one that
  * comes compressed all the same is delivered as it came.
  *
- * Only http and https addresses are fetched, at the first request and at each redirect. Redirects are
- * followed where the user-input handler says so; one from https to http also needs the handler's
- * ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them connects
- * sslErrors() of networkAccessManager(), and may run an event loop there. GUI thread only.
+ * Only http and https addresses are fetched, at the first request and at each redirect. Redirects
+ * are followed where the user-input handler says so; one from https to http also needs the
+ * handler's ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them
+ * connects sslErrors() of networkAccessManager(), and may run an event loop there. GUI thread only.
  *
  * @since 1.0
  */
@@ -53,12 +53,12 @@ public:
     ~MRVDownloadUrl() override;
 
     /**
-     * The name under which @p url is stored: what follows the last "/" of its path, percent-decoded, or
-     * "index.html" where nothing does; ".html" is appended to a name without a suffix. The name holds
-     * no "/", and is never "." or "..".
+     * The name under which @p url is stored: what follows the last "/" of its path,
+     * percent-decoded, or "index.html" where nothing does; ".html" is appended to a name without a
+     * suffix. The name holds no "/", and is never "." or "..".
      *
-     * @param folder created where it is missing, and put before the name, which is absolute then; empty
-     *               gives the bare name.
+     * @param folder created where it is missing, and put before the name, which is absolute then;
+     *               empty gives the bare name.
      */
     static QString fileForUrl(const QString &folder, const QUrl &url);
 
@@ -69,14 +69,15 @@ public:
     void setDownloadFolder(const QString &folder);
 
     /**
-     * @param handler must outlive the requests; is not owned. Null, as at first, gives up at once where a
-     *                password is asked for, and follows no redirect: the redirect's own body is the result.
+     * @param handler must outlive the requests; is not owned. Null, as at first, gives up at once
+     *                where a password is asked for, and follows no redirect: the redirect's own
+     *                body is the result.
      */
     void setUserInputHandler(MRVDownloadUserInputAbstract *handler);
 
     /**
-     * After how many milliseconds without a single byte a request fails; 0 or less waits for ever. The
-     * time that the answers to questions take does not count. Holds from the next byte on.
+     * After how many milliseconds without a single byte a request fails; 0 or less waits for ever.
+     * The time that the answers to questions take does not count. Holds from the next byte on.
      */
     void setTransferTimeout(int milliseconds);
     int transferTimeout() const { return m_transferTimeout; }
@@ -95,17 +96,17 @@ public:
     QString contentType() const { return m_contentType; }
 
     /**
-     * The text after "charset=" up to the next ";" or the end, as it stands there: quotes and blanks are
-     * kept, case matters. Empty where there is none.
+     * The text after "charset=" up to the next ";" or the end, as it stands there: quotes and
+     * blanks are kept, case matters. Empty where there is none.
      */
     static QString charset(const QString &contentType);
 
     /**
-     * Encodes text anew. @p data is returned unchanged where a name is empty or unknown, or both name one
-     * encoding. Blanks and quotes around a name do not matter.
+     * Encodes text anew. @p data is returned unchanged where a name is empty or unknown, or both
+     * name one encoding. Blanks and quotes around a name do not matter.
      *
-     * The encoding is the one named, whatever the first bytes look like. What is no text in it becomes
-     * U+FFFD. Needs little more memory than the bytes and the result.
+     * The encoding is the one named, whatever the first bytes look like. What is no text in it
+     * becomes U+FFFD. Needs little more memory than the bytes and the result.
      */
     static QByteArray convert(const QByteArray &data, const QString &fromCharset,
                               const QString &toCharset);
@@ -115,8 +116,8 @@ public Q_SLOTS:
      * Starts a request of bytes; after downloadToFile(), one that writes the same file again.
      * A running request is dropped in any case.
      *
-     * @return false, without any signal, where @p url is not valid. Any other address that cannot be
-     *         fetched ends with downloadError().
+     * @return false, without any signal, where @p url is not valid. Any other address that cannot
+     *         be fetched ends with downloadError().
      */
     bool download(const QUrl &url);
 
@@ -124,11 +125,11 @@ public Q_SLOTS:
     bool downloadToFile(const QUrl &url);
 
     /**
-     * Starts a request of a file. It appears, or is replaced, when it is whole; before that nothing of
-     * it is on the disk.
+     * Starts a request of a file. It appears, or is replaced, when it is whole; before that nothing
+     * of it is on the disk.
      *
-     * @return false, without any signal, for an empty name (a running request goes on) or a URL that is
-     *         not valid.
+     * @return false, without any signal, for an empty name (a running request goes on) or a URL
+     *         that is not valid.
      */
     bool downloadToFile(const QUrl &url, const QString &fileName);
 

@@ -17,8 +17,8 @@ class MRVBASE_EXPORT MRVDownloadUserInput : public QObject, public MRVDownloadUs
 
 public:
     /**
-     * @param parent owns this object, and is what its dialogs lie above; null gives dialogs without a
-     *               parent.
+     * @param parent owns this object, and is what its dialogs lie above; null gives dialogs without
+     *               a parent.
      */
     explicit MRVDownloadUserInput(QWidget *parent = nullptr);
 

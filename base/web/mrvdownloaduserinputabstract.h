@@ -22,8 +22,8 @@ public:
     /**
      * Fills in what @p url asks for, or gives up. Asked again where the server refuses the answer.
      *
-     * @param realm    what the server calls the protected area; the server's own words, so no markup
-     *                 in them may be trusted.
+     * @param realm    what the server calls the protected area; the server's own words, so no
+     *                 markup in them may be trusted.
      * @param user     holds the name that stands in the URL, and receives the one to send.
      * @param password likewise.
      * @return false to give up, which ends the download.
@@ -35,8 +35,8 @@ public:
     virtual bool redirectTo(const QUrl &url) = 0;
 
     /**
-     * Whether to go on in spite of @p errors, which are sentences for the user: faults of a certificate,
-     * or that a redirect leads from https to http.
+     * Whether to go on in spite of @p errors, which are sentences for the user: faults of a
+     * certificate, or that a redirect leads from https to http.
      */
     virtual bool ignoreSslErrors(const QStringList &errors) = 0;
 };

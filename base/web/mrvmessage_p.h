@@ -3,8 +3,8 @@
 #include <QMessageBox>
 
 /**
- * As QMessageBox's static functions, but always as plain text, since servers have a say in what is shown; and @p parent may
- * be deleted meanwhile, and take the box with it.
+ * As QMessageBox's static functions, but always as plain text, since servers have a say in what is
+ * shown; and @p parent may be deleted meanwhile, and take the box with it.
  *
  * @return the button that was chosen; 0 where the box went with its parent.
  */

@@ -66,7 +66,8 @@ bool isNestedTooDeeply(const QString &html)
     return depth > MaxDepth;
 }
 
-// The server's encoding has already been turned into UTF-8; pages that name one only themselves have not.
+// The server's encoding has already been turned into UTF-8; pages that name one only themselves
+// have not.
 QString decodedPage(const QByteArray &bytes)
 {
     QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
@@ -77,7 +78,8 @@ QString decodedPage(const QByteArray &bytes)
         : QTextCodec::codecForHtml(bytes, utf8)->toUnicode(bytes);
 }
 
-// Shows one page as rich text. It has no scripts to begin with, and loads nothing that the page names.
+// Shows one page as rich text. It has no scripts to begin with, and loads nothing that the page
+// names.
 class TextPage : public QTextBrowser
 {
     Q_DECLARE_TR_FUNCTIONS(MRVCheckForUpdatesDialog)

@@ -106,7 +106,8 @@ bool verifyFile(QFile *file, const Signature &signature, const QByteArray &key,
     if (signature.isHashed) {
         return verifyHash(file, signature.ofFile, key, digest);
     }
-    // The older form needs all the bytes at once. Not mapped, since a mapping shows what is written meanwhile.
+    // The older form needs all the bytes at once. Not mapped, since a mapping shows what is written
+    // meanwhile.
     const QByteArray bytes = file->readAll();
     digest->addData(bytes);
     return verify(signature.ofFile, data(bytes), bytes.size(), key);

@@ -44,7 +44,8 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
 MRVUpdateDownloader::~MRVUpdateDownloader()
 {
     m_ended = true;
-    // It must not tell an object that is half gone; and it uses the policy, which is destroyed before the children.
+    // It must not tell an object that is half gone; and it uses the policy, which is destroyed
+    // before the children.
     delete m_downloader;
     // A widget does not bear being deleted after the application, which may own this object.
     if (QCoreApplication::instance()) {
@@ -92,7 +93,8 @@ bool MRVUpdateDownloader::download(Step step, const QString &url, const QString 
     return m_downloader->downloadToFile(QUrl(url), path);
 }
 
-// The bytes are there, and are written next. Anybody may have put a link to a file of the user's under this name.
+// The bytes are there, and are written next. Anybody may have put a link to a file of the user's
+// under this name.
 void MRVUpdateDownloader::removePlantedLink()
 {
     if (QFileInfo(m_path).isSymLink()) {
@@ -100,8 +102,8 @@ void MRVUpdateDownloader::removePlantedLink()
     }
 }
 
-// An installer that was refused must not lie about under its name, for somebody to open by hand. What this check has not
-// written is left alone.
+// An installer that was refused must not lie about under its name, for somebody to open by hand.
+// What this check has not written is left alone.
 void MRVUpdateDownloader::removeRefused()
 {
     if (m_step != Step::Feed) {

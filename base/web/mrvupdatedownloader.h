@@ -14,12 +14,14 @@ class MRVRedirectPolicy;
 class MRVUpdateModel;
 
 /**
- * Runs one update check from its start to its end: fetches the feed, lets the model judge it, shows the dialog when there is
- * something to show, fetches the installer when the user asks for it, and tells when it is to be opened.
+ * Runs one update check from its start to its end: fetches the feed, lets the model judge it, shows
+ * the dialog when there is something to show, fetches the installer when the user asks for it, and
+ * tells when it is to be opened.
  *
- * A check ends once, with finished() or with installRequested(QString), and can then be deleted; it needs a QApplication.
- * Redirects are followed ten times at most, on http and https only, and never from https down to http; anything else ends
- * the download with an error. Nobody is asked for a password.
+ * A check ends once, with finished() or with installRequested(QString), and can then be deleted; it
+ * needs a QApplication. Redirects are followed ten times at most, on http and https only, and never
+ * from https down to http; anything else ends the download with an error. Nobody is asked for a
+ * password.
  *
  * @since 1.0
  */
@@ -35,21 +37,25 @@ public:
      * Fetches the feed.
      *
      * @param silent whether only a newer version is worth a word.
-     * @return false when that cannot even begin. The check has then told why, unless it is silent, and has ended.
+     * @return false when that cannot even begin. The check has then told why, unless it is silent,
+     *        and has ended.
      */
     bool startUpdate(bool silent);
-    /** Whether nothing is shown as long as nothing newer is found; not any more once the dialog has been shown. */
+    /**
+     * Whether nothing is shown as long as nothing newer is found; not any more once the dialog has
+     * been shown.
+     */
     bool isSilent() const { return m_silent; }
     /**
-     * The user has asked for the check that is running: shows the dialog of a silent one, brings one that is shown to the
-     * front, and from now on tells what happens.
+     * The user has asked for the check that is running: shows the dialog of a silent one, brings
+     * one that is shown to the front, and from now on tells what happens.
      */
     void disableSilent();
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);
     /**
-     * Whether the installer is still the one that was found sound; warns the user where it is not. To be asked right before
-     * it is opened.
+     * Whether the installer is still the one that was found sound; warns the user where it is not.
+     * To be asked right before it is opened.
      */
     bool confirmInstaller();
 

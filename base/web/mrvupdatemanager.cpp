@@ -206,7 +206,8 @@ void MRVUpdateManager::onUpdateFinished()
 
 void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
 {
-    // Unsaved documents may keep the user for a while, and the application may release this object meanwhile.
+    // Unsaved documents may keep the user for a while, and the application may release this object
+    // meanwhile.
     const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
     m_downloader.clear();
     // Of a file that an application wants opened, the check knows nothing.
@@ -214,8 +215,8 @@ void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
     if (check) {
         check->setParent(nullptr);
     }
-    // The application must not quit before the installer has been opened; one that does not quit with its last window would
-    // do so with the last locker.
+    // The application must not quit before the installer has been opened; one that does not quit
+    // with its last window would do so with the last locker.
     std::optional<QEventLoopLocker> locker;
     if (QGuiApplication::quitOnLastWindowClosed()) {
         locker.emplace();

@@ -12,12 +12,14 @@ class QAction;
 class QMenu;
 
 /**
- * The application's update checks: the menu action for them, the check at start-up, and the opening of the installer.
+ * The application's update checks: the menu action for them, the check at start-up, and the opening
+ * of the installer.
  *
- * One check runs at a time. The preferences and the time of the last check are in the user's settings of the application's
- * organisation and name, under the keys below; for an application that is neither "Morvane" nor "Fernwick" these are empty,
- * and nothing is checked at start-up. A preference that is not under its key is looked for where the application's options
- * keep it, under "Options/" and the key.
+ * One check runs at a time. The preferences and the time of the last check are in the user's
+ * settings of the application's organisation and name, under the keys below; for an application
+ * that is neither "Morvane" nor "Fernwick" these are empty, and nothing is checked at start-up. A
+ * preference that is not under its key is looked for where the application's options keep it, under
+ * "Options/" and the key.
  *
  * Needs a QApplication.
  *
@@ -29,8 +31,9 @@ class MRVBASE_EXPORT MRVUpdateManager : public QObject
 
 public:
     /**
-     * The one manager, owned by the application object. The first call makes it; where checks are on, and the last one is
-     * as many days ago as the interval says, or was never made, a silent check is then made after five seconds.
+     * The one manager, owned by the application object. The first call makes it; where checks are
+     * on, and the last one is as many days ago as the interval says, or was never made, a silent
+     * check is then made after five seconds.
      */
     static MRVUpdateManager *instance();
     /** Deletes the manager, and a check that is running. */
@@ -42,8 +45,9 @@ public:
     void setupMenuActions(QMenu *menu);
 
     /**
-     * From now on installers must carry a signature of this key; see MRVUpdateModel::setPublicKey(). To be called before a
-     * check is made, as right after the first instance().
+     * From now on installers must carry a signature of this key; see
+     * MRVUpdateModel::setPublicKey(). To be called before a check is made, as right after the first
+     * instance().
      */
     bool setPublicKey(const QByteArray &key);
 
@@ -56,16 +60,17 @@ public:
 
 public Q_SLOTS:
     /**
-     * Checks, and tells what comes of it. A silent check that is running becomes such a check; the dialog of one is brought
-     * to the front.
+     * Checks, and tells what comes of it. A silent check that is running becomes such a check; the
+     * dialog of one is brought to the front.
      */
     void checkForUpdates();
     /** Checks, and tells of a newer version only. */
     void checkForUpdatesSilent();
     void onUpdateFinished();
     /**
-     * Ends a check, closes all windows of the application, and opens the installer with what the desktop has for it, unless
-     * it comes from the check, and was changed since that found it sound.
+     * Ends a check, closes all windows of the application, and opens the installer with what the
+     * desktop has for it, unless it comes from the check, and was changed since that found it
+     * sound.
      */
     void onInstallUpdateRequested(const QString &exeFilePath);
     void onUpdateChecked();

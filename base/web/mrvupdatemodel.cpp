@@ -143,7 +143,8 @@ void MRVUpdateModel::compareVersions()
     bool isAvailableNumber = false;
     const int currentDigits = digits(current, &isCurrentNumber);
     const int availableDigits = digits(m_availableVersion, &isAvailableNumber);
-    // Full stops are no digits: a small number may have as many as a feed has room for, and the dialog would show them.
+    // Full stops are no digits: a small number may have as many as a feed has room for, and the
+    // dialog would show them.
     if (!isCurrentNumber || !isAvailableNumber || m_availableVersion.size() > LongestVersion) {
         Q_EMIT updateError(
             tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
@@ -182,7 +183,8 @@ void MRVUpdateModel::readXML()
     if (m_failed) {
         return;
     }
-    // Deliberate: the first look goes to a name with a backslash in it. The downloader writes the other one.
+    // Deliberate: the first look goes to a name with a backslash in it. The downloader writes the
+    // other one.
     QString path = QDir::toNativeSeparators(QDir::tempPath() + u'\\' + m_xmlFileName);
     if (!QFileInfo::exists(path) && QFileInfo::exists(xmlFilePath())) {
         path = xmlFilePath();

@@ -12,16 +12,17 @@ class QDomDocument;
 class QFile;
 
 /**
- * What the update check knows: where the feed lies, what it says, whether that is newer than the running application, and
- * whether a downloaded file is sound. It loads nothing itself: feed and installer are put into the temporary folder, and
- * then readXML() and readEXE() are called.
+ * What the update check knows: where the feed lies, what it says, whether that is newer than the
+ * running application, and whether a downloaded file is sound. It loads nothing itself: feed and
+ * installer are put into the temporary folder, and then readXML() and readEXE() are called.
  *
- * The endpoints come from a resource (MSharedResources::updatesIniFileLocation()) of four lines: the name under which the
- * feed is saved, the feed's URL, the base URL of installers, and the URL of the release notes, each behind a label and
- * "->". The feed is an XML document of 1 MiB at most, of which the first "version", "linuxfilename" and "url" elements are
- * read.
+ * The endpoints come from a resource (MSharedResources::updatesIniFileLocation()) of four lines:
+ * the name under which the feed is saved, the feed's URL, the base URL of installers, and the URL
+ * of the release notes, each behind a label and "->". The feed is an XML document of 1 MiB at most,
+ * of which the first "version", "linuxfilename" and "url" elements are read.
  *
- * Each failure is told once through updateError(), and makes the model ignore what comes after; a model serves one check.
+ * Each failure is told once through updateError(), and makes the model ignore what comes after; a
+ * model serves one check.
  *
  * @since 1.0
  */
@@ -33,7 +34,10 @@ public:
     /** A feed that is longer is refused. */
     static constexpr int MaxFeedSize = 1024 * 1024;
 
-    /** Reads the update settings; a failure then is seen by hasFailed() only, since nobody can be connected yet. */
+    /**
+     * Reads the update settings; a failure then is seen by hasFailed() only, since nobody can be
+     * connected yet.
+     */
     explicit MRVUpdateModel(QObject *parent = nullptr);
     ~MRVUpdateModel() override;
 
@@ -53,35 +57,40 @@ public:
     QString availableVersion() const { return m_availableVersion; }
 
     /**
-     * From now on an installer must carry a valid signature of this key beside it, which names it in its trusted comment.
+     * From now on an installer must carry a valid signature of this key beside it, which names it
+     * in its trusted comment.
      *
-     * @param key a minisign public key: its file's contents, or the line of base64 alone. An empty one asks for no
-     *            signature, which is how a model begins.
+     * @param key a minisign public key: its file's contents, or the line of base64 alone. An empty
+     *            one asks for no signature, which is how a model begins.
      * @return false when it is no key; no installer is accepted then.
      */
     bool setPublicKey(const QByteArray &key);
     bool needsSignature() const { return m_needsSignature; }
     /**
-     * Whether the installer is, byte for byte, the one that readEXE() found sound; false before. To be asked right before
-     * the installer is opened, since it has been lying in a temporary folder.
+     * Whether the installer is, byte for byte, the one that readEXE() found sound; false before. To
+     * be asked right before the installer is opened, since it has been lying in a temporary folder.
      */
     bool isInstallerUnchanged() const;
 
-    /** The text of the first child of the first element with that name; empty where there is none. */
+    /**
+     * The text of the first child of the first element with that name; empty where there is none.
+     */
     static QString textForTag(const QString &tag, const QDomDocument &document);
     /**
-     * Takes the values of a feed; fails when one is empty, or when the installer's name is none: it holds a separator or
-     * a control character, is a dot name, or the feed's own.
+     * Takes the values of a feed; fails when one is empty, or when the installer's name is none: it
+     * holds a separator or a control character, is a dot name, or the feed's own.
      */
     void parseXML(const QDomDocument &document);
     /**
-     * Compares the feed's version with the running one, by their digits read as one number. Deliberate: 2.9.0.1 is 2901
-     * and 3.0 is 30, so that versions need the same number of components. A beta is never offered.
+     * Compares the feed's version with the running one, by their digits read as one number.
+     * Deliberate: 2.9.0.1 is 2901 and 3.0 is 30, so that versions need the same number of
+     * components. A beta is never offered.
      */
     void compareVersions();
     /**
-     * Whether a file can be opened and is no error page that a server sent in its place; it is the model's file then.
-     * Symbolic links are not followed, and other users' files not read, as anybody can put one into a temporary folder.
+     * Whether a file can be opened and is no error page that a server sent in its place; it is the
+     * model's file then. Symbolic links are not followed, and other users' files not read, as
+     * anybody can put one into a temporary folder.
      */
     bool isDownloadFileIntegral(const QString &path);
 

@@ -6,8 +6,9 @@ class QUrl;
 class QWidget;
 
 /**
- * What a plug-in makes that shows web pages in the library's dialogs. The library itself links to no web engine; a plug-in
- * with this interface is found in the folder that MRVReleaseNotesView names.
+ * What a plug-in makes that shows web pages in the library's dialogs. The library itself links to
+ * no web engine; a plug-in with this interface is found in the folder that MRVReleaseNotesView
+ * names.
  *
  * @since 1.0
  */
@@ -17,9 +18,9 @@ public:
     virtual ~MRVWebViewFactory() = default;
 
     /**
-     * A view that shows "about:blank" and begins to load @p page, unless that is empty. The page must not be able to run
-     * scripts or plug-ins, to read local files, to store anything, or to lead from https to http; its links open in the
-     * desktop's browser.
+     * A view that shows "about:blank" and begins to load @p page, unless that is empty. The page
+     * must not be able to run scripts or plug-ins, to read local files, to store anything, or to
+     * lead from https to http; its links open in the desktop's browser.
      *
      * @return owned by @p parent; null when no view can be made.
      */

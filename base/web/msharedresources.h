@@ -5,7 +5,8 @@
 #include <QString>
 
 /**
- * Where the running application keeps the Qt resources that the library reads, and its product's page.
+ * Where the running application keeps the Qt resources that the library reads, and its product's
+ * page.
  *
  * @since 1.0
  */

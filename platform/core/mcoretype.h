@@ -43,8 +43,8 @@ public:
     /**
      * The QDataStream form of @p value, written with its type's own operator. Containers (QList,
      * QStringList, QVector, QSet, QMap, and QPair, nested as deep as you like) are written as a
-     * qint32 count and their entries; sets and maps in ascending order, so that the same value gives
-     * the same bytes in every process. Other containers do not compile.
+     * qint32 count and their entries; sets and maps in ascending order, so that the same value
+     * gives the same bytes in every process. Other containers do not compile.
      */
     template<typename T>
     static QByteArray toByteArray(const T &value)
@@ -57,11 +57,12 @@ public:
     }
 
     /**
-     * Reads what toByteArray() wrote; bytes that follow are ignored. Maps and sets accept any order.
+     * Reads what toByteArray() wrote; bytes that follow are ignored. Maps and sets accept any
+     * order.
      *
-     * @return a default-constructed T where the bytes are empty, end too early, or hold a container,
-     * however deep, whose count the bytes after it cannot fill: no memory is taken on the word of a
-     * count. Types with operators of their own must see to that in them.
+     * @return a default-constructed T where the bytes are empty, end too early, or hold a
+     * container, however deep, whose count the bytes after it cannot fill: no memory is taken on
+     * the word of a count. Types with operators of their own must see to that in them.
      */
     template<typename T>
     static T fromByteArray(const QByteArray &bytes)

@@ -33,10 +33,10 @@ QString hostLabel()
         .arg(foreignLetters());
 }
 
-// Labels in front of those that were registered, each with its full stop. They may hold underscores.
-// No name in use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4), but compiled,
-// a repetition is so many copies, and a caller may join the three patterns and ignore the case, where
-// QRegularExpression takes 64 KiB at most.
+// Labels in front of those that were registered, each with its full stop. They may hold
+// underscores. No name in use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4),
+// but compiled, a repetition is so many copies, and a caller may join the three patterns and ignore
+// the case, where QRegularExpression takes 64 KiB at most.
 QString subdomains()
 {
     return QStringLiteral("(?:[A-Za-z0-9_%1-]{1,63}\\.){0,48}").arg(foreignLetters());

@@ -58,8 +58,8 @@ QString withoutHalfPairs(QString text)
 
 // Tells text from rubbish for codecs that report no error: they put U+FFFD for what they do not
 // know, and keep back the beginning of a character that lacks its end. That the text gives the same
-// bytes again is proof enough, but cannot be asked for: Shift_JIS has two codes for some characters,
-// and some codecs open every text with an escape.
+// bytes again is proof enough, but cannot be asked for: Shift_JIS has two codes for some
+// characters, and some codecs open every text with an escape.
 bool isLossless(const QByteArray &bytes, const QTextCodec &codec, const QString &text)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);

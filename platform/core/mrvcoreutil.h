@@ -32,8 +32,8 @@ public:
      * was. Two codes of one character (Shift_JIS has such) are no failure.
      *
      * @param bytes  256 MiB at most.
-     * @param codec  a name that QTextCodec knows, used where there is no byte-order mark; null means
-     *               UTF-8.
+     * @param codec  a name that QTextCodec knows, used where there is no byte-order mark; null
+     *               means UTF-8.
      * @param text   receives the text; untouched on failure.
      * @param reason if given, receives a translated reason on failure, such as "it is not valid
      *               UTF-8 text"; untouched on success.
@@ -42,7 +42,8 @@ public:
                            QString *reason = nullptr);
 
     /**
-     * The text of a whole file or Qt resource (":/..."), as decodeText() reads it; empty on failure.
+     * The text of a whole file or Qt resource (":/..."), as decodeText() reads it; empty on
+     * failure.
      */
     static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
                                        const char *codec = "UTF-8");
@@ -74,9 +75,9 @@ public:
      * none. Where the name would exceed 255 bytes, the end of what stands before the number goes.
      *
      * A symbolic link that leads nowhere counts as a file. The number is the first free one as long
-     * as the numbers in use have no gaps; the search takes steps in the logarithm of their count. An
-     * empty path stays empty. The file is not created, so the name is free only until somebody else
-     * takes it.
+     * as the numbers in use have no gaps; the search takes steps in the logarithm of their count.
+     * An empty path stays empty. The file is not created, so the name is free only until somebody
+     * else takes it.
      */
     static QString GetUniqueFileName(const QString &path);
 
@@ -92,9 +93,10 @@ public:
      *
      * The three patterns find the same with QRegExp and with QRegularExpression, which needs
      * UseUnicodePropertiesOption to see that a letter beyond ASCII begins a word. They match in any
-     * case whatever the case sensitivity set, have neither anchors nor capturing groups, and take time
-     * linear in the text. A host's name has 50 labels at most; all but the last two may hold underscores. Punctuation that ends a sentence, quotation marks and an unpaired closing bracket are
-     * not part of the match, while a path may hold bracketed parts.
+     * case whatever the case sensitivity set, have neither anchors nor capturing groups, and take
+     * time linear in the text. A host's name has 50 labels at most; all but the last two may hold
+     * underscores. Punctuation that ends a sentence, quotation marks and an unpaired closing
+     * bracket are not part of the match, while a path may hold bracketed parts.
      */
     static QString wwwPattern();
 
@@ -102,8 +104,9 @@ public:
     static QString emailPattern();
 
     /**
-     * A pattern for an address that begins with "http://", "https://" or "ftp://"; see wwwPattern().
-     * The host may be a name of one label or more, an IPv4 address, or an IPv6 address in brackets.
+     * A pattern for an address that begins with "http://", "https://" or "ftp://"; see
+     * wwwPattern(). The host may be a name of one label or more, an IPv4 address, or an IPv6
+     * address in brackets.
      */
     static QString webUrlPattern();
 };

@@ -23,8 +23,8 @@ constexpr int MaxLinks = 40;
 // The longest name, in bytes, that leaves room for the ".XXXXXX" of QSaveFile's temporary file.
 constexpr int MaxSavedName = 255 - 7;
 
-// The rule by which Linux, where fs.protected_symlinks is on, keeps users of a shared folder such as
-// /tmp from sending each other's files elsewhere.
+// The rule by which Linux, where fs.protected_symlinks is on, keeps users of a shared folder such
+// as /tmp from sending each other's files elsewhere.
 bool isPlanted(const QFileInfo &link)
 {
     struct stat folder;
@@ -50,8 +50,8 @@ QString realTarget(const QString &path, QString *reason)
             *reason = MRVFileWriter::tr("it is another user's link in a shared folder");
             return QString();
         }
-        // Not symLinkTarget(), which takes "folder/.." away even where the folder is itself a link to
-        // somewhere else.
+        // Not symLinkTarget(), which takes "folder/.." away even where the folder is itself a link
+        // to somewhere else.
         std::error_code error;
         const auto raw =
             std::filesystem::read_symlink(QFile::encodeName(info.filePath()).constData(), error);
@@ -63,8 +63,8 @@ QString realTarget(const QString &path, QString *reason)
     return folder.isEmpty() ? info.filePath() : folder + QLatin1Char('/') + info.fileName();
 }
 
-// As far as the system lets us: only the administrator gives files away, and a user may hand them to
-// groups of his own alone.
+// As far as the system lets us: only the administrator gives files away, and a user may hand them
+// to groups of his own alone.
 void keepOwner(int handle, const QString &path)
 {
     struct stat old;

@@ -26,14 +26,14 @@ public:
      * and no temporary file is left behind.
      *
      * The permissions of an existing file are kept, and its owner and group as far as the system
-     * allows. Other hard links to it are not: they go on naming the old file, with the old contents.
-     * A symbolic link stays a link: the file that it leads to is replaced, or created where there is
-     * none.
+     * allows. Other hard links to it are not: they go on naming the old file, with the old
+     * contents. A symbolic link stays a link: the file that it leads to is replaced, or created
+     * where there is none.
      *
-     * Refused are an empty path and one with a null character, a folder, a device, pipe or socket, a
-     * file without write permission, a link that leads round in a circle, a link that another user
-     * put into a sticky folder that all may write to, and a folder in which no file can be created
-     * (writing into the old file itself would risk it).
+     * Refused are an empty path and one with a null character, a folder, a device, pipe or socket,
+     * a file without write permission, a link that leads round in a circle, a link that another
+     * user put into a sticky folder that all may write to, and a folder in which no file can be
+     * created (writing into the old file itself would risk it).
      *
      * @param path  absolute, or relative to the current folder. Its folder must exist.
      * @param bytes may be empty; the file is then empty.

@@ -6,8 +6,9 @@
 #include <QStringView>
 
 /**
- * @p text without what no XML document can hold (XML 1.0, section 2.2, Char): control characters but tab, line feed and
- * carriage return, U+FFFE, U+FFFF, and halves of surrogate pairs. No copy where there is nothing of these.
+ * @p text without what no XML document can hold (XML 1.0, section 2.2, Char): control characters
+ * but tab, line feed and carriage return, U+FFFE, U+FFFF, and halves of surrogate pairs. No copy
+ * where there is nothing of these.
  *
  * @since 1.0
  */

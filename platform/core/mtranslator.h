@@ -40,19 +40,20 @@ public:
     /**
      * Has the library's texts, and Qt's own, come in a language from now on.
      *
-     * Loads "mrvbase_CODE.qm" from the folder that MORVANE_TRANSLATIONS names, so that a translation
-     * can be tried out, else from the other folders of morvaneGuiLanguages(); and "qtbase_CODE.qm" of
-     * Qt's own translations, where these are installed. What an earlier call has loaded is replaced;
-     * translators of the application are left alone. The application object owns the translators,
-     * and sends QEvent::LanguageChange.
+     * Loads "mrvbase_CODE.qm" from the folder that MORVANE_TRANSLATIONS names, so that a
+     * translation can be tried out, else from the other folders of morvaneGuiLanguages(); and
+     * "qtbase_CODE.qm" of Qt's own translations, where these are installed. What an earlier call
+     * has loaded is replaced; translators of the application are left alone. The application object
+     * owns the translators, and sends QEvent::LanguageChange.
      *
-     * Texts that are kept from their first use on, such as those of the predefined shortcut schemes,
-     * stay in the language of that moment: call this before anything else of the library.
+     * Texts that are kept from their first use on, such as those of the predefined shortcut
+     * schemes, stay in the language of that moment: call this before anything else of the library.
      *
-     * @param code  a language ("de") or a language and a country ("pt_BR" or "pt-BR"). Where there is
-     *              no translation for just that country, the bare language's is taken. English, which
-     *              "C" means, too, is always there; its file holds plural forms alone.
-     * @param error if given, receives a text in the language so far on failure; untouched on success.
+     * @param code  a language ("de") or a language and a country ("pt_BR" or "pt-BR"). Where there
+     *              is no translation for just that country, the bare language's is taken. English,
+     *              which "C" means, too, is always there; its file holds plural forms alone.
+     * @param error if given, receives a text in the language so far on failure; untouched on
+     *        success.
      * @return false, with nothing changed, where there is no such translation, where it cannot be
      *         read, and where there is no application object.
      */

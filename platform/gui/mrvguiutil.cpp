@@ -15,8 +15,8 @@ namespace {
 
 // A picture of up to this many pixels is decoded whatever its file's length (128 MiB of memory).
 constexpr qint64 AlwaysDecodedPixels = qint64(1) << 25;
-// Beyond that, the file must have a byte for so many pixels: one-bit pixels of one colour, at the best
-// ratio that deflate reaches (1032 to 1).
+// Beyond that, the file must have a byte for so many pixels: one-bit pixels of one colour, at the
+// best ratio that deflate reaches (1032 to 1).
 constexpr qint64 PixelsPerByte = 8 * 1032;
 // And no picture is larger than this (1 GiB of memory).
 constexpr qint64 MaxPixels = qint64(1) << 28;
@@ -64,8 +64,8 @@ QImage onWhite(const QImage &image)
     return flat;
 }
 
-// The sizes that the pictures of an icon file claim by themselves: QImageReader::size() tells what its
-// directory says, which the decoder does not go by.
+// The sizes that the pictures of an icon file claim by themselves: QImageReader::size() tells what
+// its directory says, which the decoder does not go by.
 QVector<QSize> iconSizes(const QByteArray &bytes)
 {
     constexpr qint64 DirectoryStart = 6;
@@ -96,8 +96,8 @@ QVector<QSize> iconSizes(const QByteArray &bytes)
     return sizes;
 }
 
-// The size that an XBM text claims in its first two definitions; invalid where the bytes are no such
-// text. Qt's reader decodes the whole picture merely to find out whether it is one.
+// The size that an XBM text claims in its first two definitions; invalid where the bytes are no
+// such text. Qt's reader decodes the whole picture merely to find out whether it is one.
 QSize bitmapTextSize(const QByteArray &bytes)
 {
     const int at = bytes.startsWith("#define") ? 0 : bytes.indexOf("\n#define") + 1;

@@ -19,8 +19,8 @@ bool isOnTheWeb(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Qt's own would also read files, for a page that leads there by a redirect, too, and leave an encrypted connection for one that
-// is not.
+// Qt's own would also read files, for a page that leads there by a redirect, too, and leave an
+// encrypted connection for one that is not.
 class WebOnlyAccess : public QNetworkAccessManager
 {
 public:

@@ -74,9 +74,9 @@ struct QMetaTypeId<MRVTextBlockLevelMap>
 /**
  * The level of a paragraph in its list, from 0; 0 also for a paragraph of no list or another list.
  *
- * The level is part of the paragraph's block format. So it goes wherever Qt takes that: through undo
- * and redo, to both halves of a paragraph that is split, and into fragments. Of two paragraphs that
- * are joined, the level that stays is that of the one whose format stays.
+ * The level is part of the paragraph's block format. So it goes wherever Qt takes that: through
+ * undo and redo, to both halves of a paragraph that is split, and into fragments. Of two paragraphs
+ * that are joined, the level that stays is that of the one whose format stays.
  */
 MRVBASE_EXPORT int mrvListLevel(const QTextList &list, const QTextBlock &block);
 /**
@@ -85,8 +85,8 @@ MRVBASE_EXPORT int mrvListLevel(const QTextList &list, const QTextBlock &block);
  */
 MRVBASE_EXPORT void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level);
 /**
- * Takes a paragraph out of its list, and its level with it. Qt adds the list's indent to that of the
- * paragraph, so that it stays where it is. One undo step; nothing for a paragraph of no list.
+ * Takes a paragraph out of its list, and its level with it. Qt adds the list's indent to that of
+ * the paragraph, so that it stays where it is. One undo step; nothing for a paragraph of no list.
  *
  * Qt's time for it grows with the number of paragraphs in the list.
  */

@@ -10,9 +10,10 @@ class QTextDocumentFragment;
  * The leading formats of a fragment: the block format of its first paragraph and the character
  * format of its first character, or of the paragraph itself where that is empty.
  *
- * The block format is there only when the fragment was cut from the beginning of a paragraph that is
- * not empty: Qt copies none otherwise. Object indexes are left out, since they mean nothing outside
- * the document that the fragment came from. An empty fragment has default-constructed formats.
+ * The block format is there only when the fragment was cut from the beginning of a paragraph that
+ * is not empty: Qt copies none otherwise. Object indexes are left out, since they mean nothing
+ * outside the document that the fragment came from. An empty fragment has default-constructed
+ * formats.
  *
  * Takes time linear in the fragment. GUI thread only.
  *
