@@ -31,7 +31,7 @@ constexpr Row rows[] = {
     {MRVFormat::EMF,       "EMF",       "emf",   QT_TRANSLATE_NOOP("QObject", "Microsoft Enhanced Metafile")},
     {MRVFormat::SVG,       "SVG",       "svg",   QT_TRANSLATE_NOOP("QObject", "Scalable Vector Graphics")},
     {MRVFormat::SWF,       "SWF",       "swf",   QT_TRANSLATE_NOOP("QObject", "Adobe Flash File Format")},
-    {MRVFormat::XPS,       "XPS",       "xps",   "Microsoft XML Paper " "Spec" "ification"},
+    {MRVFormat::XPS,       "XPS",       "xps",   QT_TRANSLATE_NOOP("QObject", "Microsoft XML Paper Specification")},
     {MRVFormat::HPGL,      "HPGL",      "hpgl",  QT_TRANSLATE_NOOP("QObject", "HP-GL plotter language")},
     {MRVFormat::PCL,       "PCL",       "pcl",   QT_TRANSLATE_NOOP("QObject", "Printer Command Language Format")},
     {MRVFormat::HTML,      "HTML",      "html",  QT_TRANSLATE_NOOP("QObject", "Hypertext Mark-up Language")},

@@ -2506,6 +2506,10 @@ Bitte melden Sie dies an %1.</translation>
         <translation>Adobe-Flash-Dateiformat</translation>
     </message>
     <message>
+        <source>Microsoft XML Paper Specification</source>
+        <translation>Microsoft XML Paper Specification</translation>
+    </message>
+    <message>
         <source>HP-GL plotter language</source>
         <translation>Plottersprache HP-GL</translation>
     </message>

@@ -2506,6 +2506,10 @@ Comuníquelo a %1.</translation>
         <translation>Formato de archivo Adobe Flash</translation>
     </message>
     <message>
+        <source>Microsoft XML Paper Specification</source>
+        <translation>Microsoft XML Paper Specification</translation>
+    </message>
+    <message>
         <source>HP-GL plotter language</source>
         <translation>Lenguaje de trazador HP-GL</translation>
     </message>

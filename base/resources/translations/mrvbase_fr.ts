@@ -2506,6 +2506,10 @@ Veuillez la signaler à %1.</translation>
         <translation>Format de fichier Adobe Flash</translation>
     </message>
     <message>
+        <source>Microsoft XML Paper Specification</source>
+        <translation>Microsoft XML Paper Specification</translation>
+    </message>
+    <message>
         <source>HP-GL plotter language</source>
         <translation>Langage de traceur HP-GL</translation>
     </message>
