@@ -6,7 +6,8 @@
 //     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/script/mrvtitlepage.cpp
 //     base/script/mrvscript{xml,mode,element,statistics}*.cpp base/util/mrvunit.cpp
 //     base/util/mrvcolors.cpp base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp
-//     -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui -Wl,-rpath,build/release/lib -o fuzz_fountain
+//     -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui -Wl,-rpath,build/release/lib -o
+//     fuzz_fountain
 //   ./fuzz_fountain -rss_limit_mb=512 CORPUS
 
 #include "script/mrvfinaldraft.h"
