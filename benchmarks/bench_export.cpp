@@ -1,7 +1,7 @@
 #include "novel.h"
 
-#include "export/mrvepubpackage.h"
-#include "export/mrvtextxhtmlexporter.h"
+#include "epub/mrvepubpackage.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QTemporaryDir>
 

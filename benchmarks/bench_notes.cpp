@@ -1,8 +1,8 @@
 #include "novel.h"
 
-#include "text/mrvtextcharformat.h"
-#include "text/mrvtextformat.h"
-#include "text/mtextdoc.h"
+#include "document/mtextdoc.h"
+#include "textformat/mrvtextcharformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBrush>

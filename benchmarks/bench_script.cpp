@@ -1,6 +1,6 @@
 #include "novel.h"
-#include "script/mrvscriptmode.h"
-#include "text/mrvtextformat.h"
+#include "scriptmode/mrvscriptmode.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTextBlock>
 

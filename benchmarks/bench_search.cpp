@@ -1,7 +1,7 @@
 #include "novel.h"
 #include "search/mrvtextfinder.h"
 #include "search/mrvtextreplacer.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QRegExp>

@@ -1,5 +1,5 @@
-#include "settings/mrvshortcutcheck.h"
-#include "settings/mrvshortcutscheme.h"
+#include "shortcuts/mrvshortcutcheck.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <benchmark/benchmark.h>
 

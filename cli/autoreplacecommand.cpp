@@ -3,7 +3,7 @@
 #include "textsearch.h"
 #include "typing.h"
 
-#include "settings/mrvoptions.h"
+#include "options/mrvoptions.h"
 
 #include <QCommandLineParser>
 #include <QJsonObject>

@@ -4,8 +4,8 @@
 
 #include "htmlsource.h"
 
-#include "text/mrvtextformat.h"
-#include "text/mtextdoc.h"
+#include "document/mtextdoc.h"
+#include "textformat/mrvtextformat.h"
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"

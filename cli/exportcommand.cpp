@@ -4,8 +4,8 @@
 #include "pageexport.h"
 #include "stagedfiles.h"
 
-#include "export/mrvepubpackage.h"
-#include "export/mrvtextxhtmlexporter.h"
+#include "epub/mrvepubpackage.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "importexport/mrvformat.h"
+#include "fileformats/mrvformat.h"
 
 /**
  * The format that a person means by its name ("MMDtoHTML"), a suffix, or the name of a file, in any

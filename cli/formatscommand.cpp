@@ -3,8 +3,8 @@
 #include "settingsfile.h"
 #include "textsearch.h"
 
-#include "importexport/mrvimportexportconfig.h"
-#include "settings/mrvoptions.h"
+#include "engines/mrvimportexportconfig.h"
+#include "options/mrvoptions.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>

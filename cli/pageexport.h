@@ -2,7 +2,7 @@
 
 #include "stagedfiles.h"
 
-#include "export/mrvtextxhtmlexporter.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QHash>
 #include <QString>

@@ -4,9 +4,9 @@
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
-#include "settings/mrvoptions.h"
-#include "settings/mrvtextpresetmgr.h"
-#include "text/mrvtextformat.h"
+#include "options/mrvoptions.h"
+#include "state/mrvtextpresetmgr.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QBrush>
 #include <QCommandLineParser>

@@ -1,8 +1,8 @@
 #include "scriptcommand.h"
 #include "command.h"
-#include "script/mrvscriptmode.h"
+#include "scriptmode/mrvscriptmode.h"
 #include "suggestion.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 #include "textsearch.h"
 
 #include <QCommandLineParser>

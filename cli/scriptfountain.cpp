@@ -6,12 +6,12 @@
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
-#include "export/mrvepubpackage.h"
-#include "script/mrvfinaldraft.h"
-#include "script/mrvfountainhtml.h"
-#include "script/mrvscriptdocument.h"
-#include "script/mrvscriptmode.h"
-#include "script/mrvscriptstatistics.h"
+#include "epub/mrvepubpackage.h"
+#include "screenplay/mrvfinaldraft.h"
+#include "screenplay/mrvfountainhtml.h"
+#include "screenplay/mrvscriptdocument.h"
+#include "screenplay/mrvscriptstatistics.h"
+#include "scriptmode/mrvscriptmode.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "settingsfile.h"
 #include "textsearch.h"
 
-#include "settings/mrvoptions.h"
+#include "options/mrvoptions.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>

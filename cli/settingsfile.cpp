@@ -1,6 +1,6 @@
 #include "settingsfile.h"
 
-#include "settings/mrvoptions.h"
+#include "options/mrvoptions.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

@@ -4,9 +4,9 @@
 #include "textsearch.h"
 
 #include "core/mrvfilewriter.h"
-#include "settings/mrvoptions.h"
-#include "settings/mrvshortcutcheck.h"
-#include "settings/mrvshortcutscheme.h"
+#include "options/mrvoptions.h"
+#include "shortcuts/mrvshortcutcheck.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>

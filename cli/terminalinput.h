@@ -1,7 +1,7 @@
 #pragma once
 
-#include "web/mrvdownloadurl.h"
-#include "web/mrvdownloaduserinputabstract.h"
+#include "download/mrvdownloadurl.h"
+#include "download/mrvdownloaduserinputabstract.h"
 
 #include <QStringList>
 

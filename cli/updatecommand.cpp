@@ -3,10 +3,10 @@
 #include "terminalinput.h"
 
 #include "core/mrvfilewriter.h"
-#include "web/mrvdownloadsilentinput.h"
-#include "web/mrvdownloadurl.h"
-#include "web/mrvupdatemodel.h"
-#include "web/mversion.h"
+#include "download/mrvdownloadsilentinput.h"
+#include "download/mrvdownloadurl.h"
+#include "update/mrvupdatemodel.h"
+#include "version/mversion.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -3,11 +3,11 @@
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Core) fuzz/fuzz_engines.cpp
-//     base/importexport/mrvengine*.cpp base/importexport/mrvformat.cpp
-//     base/importexport/mrvimportexport.cpp platform/core/mcoretype.cpp -o fuzz_engines
+//     base/importexport/mrvengine*.cpp base/fileformats/mrvformat.cpp
+//     base/fileformats/mrvimportexport.cpp platform/core/mcoretype.cpp -o fuzz_engines
 //   ./fuzz_engines -rss_limit_mb=512 CORPUS
 
-#include "importexport/mrvenginetables_p.h"
+#include "fileformats/mrvenginetables.h"
 
 #include <QDataStream>
 

@@ -3,17 +3,17 @@
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_fountain.cpp
-//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/script/mrvtitlepage.cpp
+//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/screenplay/mrvtitlepage.cpp
 //     base/script/mrvscript{xml,mode,element,statistics}*.cpp base/util/mrvunit.cpp
 //     base/util/mrvcolors.cpp base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp
 //     -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui -Wl,-rpath,build/release/lib -o
 //     fuzz_fountain
 //   ./fuzz_fountain -rss_limit_mb=512 CORPUS
 
-#include "script/mrvfinaldraft.h"
-#include "script/mrvfountain.h"
-#include "script/mrvfountainhtml.h"
-#include "script/mrvscriptstatistics.h"
+#include "screenplay/mrvfinaldraft.h"
+#include "screenplay/mrvfountain.h"
+#include "screenplay/mrvfountainhtml.h"
+#include "screenplay/mrvscriptstatistics.h"
 
 #include <cstdlib>
 

@@ -6,16 +6,16 @@
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_presets.cpp moc_*.cpp
 //     base/settings/mrvshortcut*.cpp base/settings/mrvsettings*.cpp
-//     base/settings/mrvtextpreset.cpp base/settings/mrvtextpresetscheme.cpp
-//     base/text/mrvtextformatreader.cpp base/text/mrvtextformatstream.cpp
-//     base/text/engine/mrvlistlevel.cpp platform/core/mcoretype.cpp platform/core/mrvcoreutil.cpp
+//     base/presets/mrvtextpreset.cpp base/presets/mrvtextpresetscheme.cpp
+//     base/textformat/mrvtextformatreader.cpp base/textformat/mrvtextformatstream.cpp
+//     base/textformat/mrvlistlevel.cpp platform/core/mcoretype.cpp platform/core/mrvcoreutil.cpp
 //     platform/core/mrvfilewriter.cpp -o fuzz_presets
 //   LSAN_OPTIONS=suppressions=tests/lsan.supp ./fuzz_presets -rss_limit_mb=512 CORPUS
 
 #include "gui/mrvguiutil.h"
 #include "guiapplication.h"
 #include "settings/mrvsettings.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTemporaryDir>
 

@@ -12,7 +12,7 @@
 // Only what reads and writes modes is compiled in, so that it is instrumented; the rest is not.
 
 #include "guiapplication.h"
-#include "script/mrvscriptmode.h"
+#include "scriptmode/mrvscriptmode.h"
 
 #include <cstdlib>
 

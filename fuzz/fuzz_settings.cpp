@@ -17,12 +17,12 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
-    const QByteArray harmless = mrvHarmlessSettings(bytes);
-    if (mrvHarmlessSettings(harmless) != harmless) {
+    const QByteArray safe = mrvSafeSettings(bytes);
+    if (mrvSafeSettings(safe) != safe) {
         std::abort();
     }
     MRVSettingsMap values;
-    mrvReadSettings(harmless, QSettings::IniFormat, &values);
+    mrvReadSettings(safe, QSettings::IniFormat, &values);
     mrvIsSettings(bytes);
     return 0;
 }

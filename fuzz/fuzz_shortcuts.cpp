@@ -1,6 +1,6 @@
 // Feeds arbitrary bytes to the reader of shortcut schemes. Not part of the normal build:
 //
-//   /usr/lib/qt5/bin/moc base/settings/mrvshortcut.h -p settings -o moc_mrvshortcut.cpp
+//   /usr/lib/qt5/bin/moc base/shortcuts/mrvshortcut.h -p settings -o moc_mrvshortcut.cpp
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_shortcuts.cpp
 //     base/settings/mrvshortcut*.cpp moc_mrvshortcut.cpp platform/core/mcoretype.cpp
@@ -9,8 +9,8 @@
 //
 // Only what reads schemes is compiled in, so that it is instrumented; Qt is not.
 
-#include "settings/mrvshortcutcheck.h"
-#include "settings/mrvshortcutscheme.h"
+#include "shortcuts/mrvshortcutcheck.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <QGuiApplication>
 

@@ -2,14 +2,14 @@
 //
 //   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
 //     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_textformat.cpp
-//     base/text/mrvtextformatreader.cpp base/text/mrvtextformatstream.cpp
-//     base/text/engine/mrvlistlevel.cpp -o fuzz_textformat
+//     base/textformat/mrvtextformatreader.cpp base/textformat/mrvtextformatstream.cpp
+//     base/textformat/mrvlistlevel.cpp -o fuzz_textformat
 //   LSAN_OPTIONS=suppressions=tests/lsan.supp ./fuzz_textformat -rss_limit_mb=512 CORPUS
 //
 // Only the readers are compiled in, so that they are instrumented; Qt is not.
 
 #include "guiapplication.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #include "datarows.h"
-#include "settings/mrvapplicationstate.h"
-#include "settings/mrvoptions.h"
+#include "options/mrvoptions.h"
+#include "state/mrvapplicationstate.h"
 
 #include <QStandardPaths>
 #include <QTemporaryDir>

@@ -3,9 +3,9 @@
 #include "rawserver.h"
 #include "support.h"
 
-#include "web/mrvdownloadsilentinput.h"
-#include "web/mrvdownloadurl.h"
-#include "web/mrvdownloaduserinput.h"
+#include "download/mrvdownloadsilentinput.h"
+#include "download/mrvdownloadurl.h"
+#include "download/mrvdownloaduserinput.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
-#include "export/mrvepubpackage.h"
+#include "epub/mrvepubpackage.h"
 #include "support.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "datarows.h"
-#include "export/mrvtextxhtmlexporter.h"
 #include "support.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QGuiApplication>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "datarows.h"
 #include "search/mrvtextfinder.h"
 #include "text/mrvtextcursor.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTextBlock>
 #include <QTextDocument>

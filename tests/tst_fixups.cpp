@@ -1,5 +1,5 @@
 #include "datarows.h"
-#include "export/mrvtextxhtmlexporter.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <ctime>
 #include <functional>

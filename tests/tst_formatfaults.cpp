@@ -1,5 +1,5 @@
-#include "text/mrvtextformat.h"
-#include "text/mtextdoc.h"
+#include "document/mtextdoc.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QPen>
 #include <QTextCursor>

@@ -1,8 +1,8 @@
 #include "datarows.h"
 
-#include "importexport/mrvenginetables_p.h"
-#include "importexport/mrvimportexportconfig.h"
-#include "settings/mrvoptions.h"
+#include "engines/mrvimportexportconfig.h"
+#include "fileformats/mrvenginetables.h"
+#include "options/mrvoptions.h"
 
 #include <QTemporaryDir>
 

@@ -16,80 +16,61 @@
 
 namespace {
 
-// The house rules, all of them: who lies on which floor, and which Qt modules a room may use.
-//
-// A path is relative to the checkout, without its ending and without a "_p"; "*" stands for any
-// run of characters, folders included. The first row that fits counts. A file may include what
-// lies on a lower floor, and on its own floor only its own room (the folder below base/ or
-// platform/), there nothing of a higher step. A file that no row fits is a fault.
-struct Room
+// One row a module: a folder, its layer, and the Qt modules and other libraries whose headers it
+// may include. A file includes its own module and modules of lower layers. The library's rows are
+// the table of docs/architecture.md.
+struct Module
 {
-    const char *path;
-    int floor;
-    int step;
-    const char *modules; // Qt modules, and the names of other libraries' headers
+    const char *folder;
+    int layer;
+    const char *libraries;
 };
 
-constexpr int ProgramFloor = 10;
-
-// The one piece that two rooms share and nobody else may see: the options take their engine
-// defaults from the tables that the engine configuration, which includes the options, is made of.
-constexpr const char *SharedPiece = "base/importexport/mrvenginetables_p.h";
-constexpr const char *SharedWith = "base/settings/mrvoptions";
-constexpr const char *AnyModule = "*";
+constexpr int ProgramLayer = 100;
+constexpr const char *AnyLibrary = "*";
 
 // clang-format off
-constexpr Room rooms[] = {
-    { "platform/core/*",                        -2, 0, "Core" },
-    { "platform/gui/*",                         -1, 0, "Core Gui" },
-    { "platform/network/*",                     -1, 0, "Core Network" },
+constexpr Module modules[] = {
+    {"platform/core",   -1, "Core"},
+    {"platform/gui",     0, "Core Gui"},
+    {"platform/network", 0, "Core Network"},
 
-    { "base/util/mrvbase_export",                0, 0, "Core" },
-    { "base/util/*",                             1, 0, "Core Gui" },
-    { "base/dom/*",                              1, 0, "Core Xml" },
-    { "base/autoreplace/*",                      1, 0, "Core Gui" },
-    { "base/text/engine/*",                      1, 0, "Core Gui" },
-    { "base/text/mrvtextformat*",                1, 0, "Core Gui" },
-    { "base/text/mrvtextcharformat*",            1, 0, "Core Gui" },
-    { "base/text/mrvtextblockformat*",           1, 0, "Core Gui" },
-    { "base/text/mrvtextutil*",                  1, 0, "Core Gui" },
-    { "base/settings/mrvshortcut*",              1, 0, "Core Gui" },
-    { "base/importexport/mrvimportexportconfig*", 4, 0, "Core Gui" },
-    { "base/importexport/*",                     1, 0, "Core Gui" },
-    { "base/web/mversion",                       1, 0, "Core Gui Network Xml Widgets" },
-    { "base/web/msharedresources",               1, 0, "Core" },
-    { "base/web/mrvmessage",                     1, 0, "Core Widgets" },
-    { "base/web/mrvplainfile",                   1, 0, "Core" },
-    { "base/web/mrvsignature",                   1, 0, "Core" },
-    { "base/web/mrvwebviewfactory",              1, 0, "Core Widgets" },
-    { "base/web/mrvredirectpolicy",              1, 0, "Core Network" },
-    { "base/web/mrvdownload*",                   1, 0, "Core Gui Network Xml Widgets" },
-    { "base/ui/*",                               1, 0, "Core Gui Network Xml Widgets" },
+    {"base/util",        1, "Core Gui"},
+    {"base/input",       2, "Core Gui"},
 
-    { "base/text/mtextdoc*",                     4, 0, "Core Gui" },
-    { "base/text/*",                             2, 0, "Core Gui" },
-    { "base/settings/mrvtextpresetmgr*",         4, 0, "Core Gui" },
-    { "base/settings/mrvapplicationstate*",      4, 0, "Core Gui" },
-    { "base/settings/mrvtextpreset*",            2, 0, "Core Gui" },
-    { "base/settings/mrvsettings*",              2, 1, "Core Gui" },
+    {"base/autoreplace", 3, "Core Gui"},
+    {"base/dom",         3, "Core Xml"},
+    {"base/download",    3, "Core Network Widgets"},
+    {"base/exchange",    3, "Core Gui"},
+    {"base/fileformats", 3, "Core"},
+    {"base/shortcuts",   3, "Core Gui"},
+    {"base/textformat",  3, "Core Gui"},
+    {"base/version",     3, "Core Xml"},
 
-    { "base/search/*",                           3, 0, "Core Gui" },
-    { "base/script/*",                           3, 0, "Core Gui" },
-    { "base/settings/mrvoptions*",               3, 0, "Core Gui" },
-    { "base/web/mrvupdatemodel*",                3, 0, "Core Gui Network Xml Widgets" },
-    { "base/web/mrvreleasenotesview",            3, 0, "Core Gui Network Xml Widgets" },
-    { "base/web/mrvcheckforupdatesdialog*",      3, 1, "Core Gui Network Xml Widgets" },
-    { "base/web/mrvupdatedownloader*",           3, 2, "Core Gui Network Xml Widgets" },
-    { "base/web/mrvupdatemanager*",              3, 3, "Core Gui Network Xml Widgets" },
+    {"base/presets",     4, "Core Gui"},
+    {"base/text",        4, "Core Gui"},
 
-    { "base/export/*",                           5, 0, "Core Gui KZip KArchive" },
+    {"base/scriptmode",  5, "Core Gui"},
+    {"base/search",      5, "Core Gui"},
+    {"base/settings",    5, "Core Gui"},
 
-    { "plugins/webview/*",            ProgramFloor, 0, "Core Gui Network Widgets WebKit WebKitWidgets" },
-    { "cli/*",                        ProgramFloor, 0, AnyModule },
-    { "examples/*",                   ProgramFloor, 0, AnyModule },
-    { "tests/*",                      ProgramFloor, 0, AnyModule },
-    { "benchmarks/*",                 ProgramFloor, 0, AnyModule },
-    { "fuzz/*",                       ProgramFloor, 0, AnyModule },
+    {"base/document",    6, "Core Gui"},
+    {"base/options",     6, "Core Gui"},
+    {"base/screenplay",  6, "Core Gui"},
+
+    {"base/engines",     7, "Core"},
+    {"base/state",       7, "Core Gui"},
+    {"base/update",      7, "Core Gui Network Widgets Xml"},
+    {"base/xhtml",       7, "Core Gui"},
+
+    {"base/epub",        8, "Core Gui KZip KArchive"},
+
+    {"plugins/webview",  ProgramLayer, "Core Gui Network Widgets WebKit WebKitWidgets"},
+    {"cli",              ProgramLayer, AnyLibrary},
+    {"examples",         ProgramLayer, AnyLibrary},
+    {"tests",            ProgramLayer, AnyLibrary},
+    {"benchmarks",       ProgramLayer, AnyLibrary},
+    {"fuzz",             ProgramLayer, AnyLibrary},
 };
 // clang-format on
 
@@ -110,14 +91,14 @@ QStringList qtModules(const QString &header)
 {
     static const QStringList folders =
         QDir(moduleFolders()).entryList({"Qt*"}, QDir::Dirs, QDir::Name);
-    QStringList modules;
+    QStringList publishers;
     for (const QString &folder : folders) {
         if (header.startsWith(folder + '/')
             || QFile::exists(moduleFolders() + '/' + folder + '/' + header)) {
-            modules.append(folder.mid(2));
+            publishers.append(folder.mid(2));
         }
     }
-    return modules;
+    return publishers;
 }
 
 /// The includes of a source text. Those inside comments do not count; what looks like a comment
@@ -180,23 +161,15 @@ private:
         return unit;
     }
 
-    /// The first two folders of the library's files, the first one of all others.
-    static QString roomOf(const QString &path)
+    /// The row of the folder that a file lies in. The folders of programs may have folders.
+    static const Module *moduleOf(const QString &path)
     {
-        const bool library = path.startsWith("base/") || path.startsWith("platform/");
-        return path.section('/', 0, library ? 1 : 0);
-    }
-
-    static const Room *rowOf(const QString &path)
-    {
-        const QString unit = unitOf(path);
-        for (const Room &room : rooms) {
-            QString pattern = QRegularExpression::escape(QLatin1String(room.path));
-            pattern.replace("\\*", ".*");
-            if (QRegularExpression(QRegularExpression::anchoredPattern(pattern))
-                    .match(unit)
-                    .hasMatch()) {
-                return &room;
+        const bool isProgram = !path.startsWith("base/") && !path.startsWith("platform/")
+            && !path.startsWith("plugins/");
+        const QString folder = isProgram ? path.section('/', 0, 0) : path.section('/', 0, -2);
+        for (const Module &module : modules) {
+            if (folder == QLatin1String(module.folder)) {
+                return &module;
             }
         }
         return nullptr;
@@ -204,10 +177,10 @@ private:
 
     /// The file that an include names, or nothing. The library's files are named from base/ or
     /// platform/; only a program may name a neighbour.
-    QString resolve(const QString &from, const QString &name, const Room &room) const
+    QString resolve(const QString &from, const QString &name, const Module &module) const
     {
         QStringList roots{"base/", "platform/"};
-        if (room.floor == ProgramFloor) {
+        if (module.layer == ProgramLayer) {
             roots.prepend(from.left(from.lastIndexOf('/') + 1));
             roots.append(from.section('/', 0, 0) + '/');
         }
@@ -222,16 +195,16 @@ private:
 
     void checkFile(const QString &path, const QString &text)
     {
-        const Room *room = rowOf(path);
-        if (!room) {
-            m_faults.append(path + ": lies on no floor");
+        const Module *module = moduleOf(path);
+        if (!module) {
+            m_faults.append(path + ": lies in no module");
             return;
         }
         const QVector<Include> includes = includesOf(text);
         for (const Include &include : includes) {
-            const QString target = resolve(path, include.name, *room);
-            const QString fault = target.isEmpty() ? foreignFault(path, include, *room)
-                                                   : floorFault(path, target, *room);
+            const QString target = resolve(path, include.name, *module);
+            const QString fault = target.isEmpty() ? foreignFault(path, include, *module)
+                                                   : layerFault(path, target, *module);
             if (!fault.isEmpty()) {
                 m_faults.append(QStringLiteral("%1:%2: %3: %4")
                                     .arg(path, QString::number(include.line), include.name, fault));
@@ -242,32 +215,27 @@ private:
         }
     }
 
-    static QString floorFault(const QString &from, const QString &to, const Room &room)
+    static QString layerFault(const QString &from, const QString &to, const Module &module)
     {
-        const Room *target = rowOf(to);
+        const Module *target = moduleOf(to);
         if (!target) {
-            return "lies on no floor";
+            return "lies in no module";
         }
-        const bool sameRoom = roomOf(from) == roomOf(to);
+        if (target == &module) {
+            return QString();
+        }
         // A test may compile a private piece of the library into itself.
-        const bool maySeePrivate = from.startsWith("tests/") || from.startsWith("fuzz/")
-            || (to == SharedPiece && from.startsWith(SharedWith));
-        if (to.endsWith("_p.h") && !sameRoom && !maySeePrivate) {
-            return "private to another room";
+        const bool maySeePrivate = from.startsWith("tests/") || from.startsWith("fuzz/");
+        if (to.endsWith("_p.h") && !maySeePrivate) {
+            return "private to another module";
         }
-        if (target->floor > room.floor) {
+        if (target->layer > module.layer) {
             return "points up";
         }
-        if (target->floor == room.floor && !sameRoom) {
-            return "points across the floor";
-        }
-        if (target->floor == room.floor && target->step > room.step) {
-            return "points up within its room";
-        }
-        return QString();
+        return target->layer == module.layer ? "points across the layer" : QString();
     }
 
-    static QString foreignFault(const QString &from, const Include &include, const Room &room)
+    static QString foreignFault(const QString &from, const Include &include, const Module &module)
     {
         const QString &name = include.name;
         const QString file = name.section('/', -1);
@@ -284,22 +252,22 @@ private:
         if (include.quoted) {
             return "found neither from base/ nor from platform/";
         }
-        const QStringList allowed = QString::fromLatin1(room.modules).split(' ');
-        if (allowed.contains(AnyModule) || allowed.contains(name)) {
+        const QStringList allowed = QString::fromLatin1(module.libraries).split(' ');
+        if (allowed.contains(AnyLibrary) || allowed.contains(name)) {
             return QString();
         }
-        const QStringList modules = qtModules(name);
-        for (const QString &module : modules) {
-            if (allowed.contains(module)) {
+        const QStringList publishers = qtModules(name);
+        for (const QString &publisher : publishers) {
+            if (allowed.contains(publisher)) {
                 return QString();
             }
         }
-        if (!modules.isEmpty()) {
-            return "module " + modules.join('/') + " is not for this room";
+        if (!publishers.isEmpty()) {
+            return "Qt module " + publishers.join('/') + " is not for this module";
         }
         // Without a capital it is the language's or the system's.
         static const QRegularExpression system("^[a-z0-9_/]+(\\.h)?$");
-        return system.match(name).hasMatch() ? QString() : "library is not for this room";
+        return system.match(name).hasMatch() ? QString() : "library is not for this module";
     }
 
     /// Depth first over the units; a unit met again on the way down closes a circle.
@@ -343,7 +311,7 @@ private:
     QStringList m_faults;
 };
 
-/// All sources of the checkout that belong to a room. The package test's project is a stranger's.
+/// All sources of the checkout that belong to a module. The package test's project is external.
 QMap<QString, QString> checkoutSources()
 {
     QMap<QString, QString> sources;
@@ -401,7 +369,7 @@ const QString plantedGlobal = QString::number(1);
 
 } // namespace
 
-/// The rooms, the floors and the start-up code of the library.
+/// The modules, the layers and the start-up code of the library.
 class TestLayers : public QObject
 {
     Q_OBJECT
@@ -410,6 +378,7 @@ private Q_SLOTS:
     void checkerTellsRightFromWrong_data() { addRows("layers.tsv", {"case", "files", "fault"}); }
     void checkerTellsRightFromWrong();
     void checkoutKeepsTheRules();
+    void documentation();
     void startUpCode_data();
     void startUpCode();
 };
@@ -453,6 +422,36 @@ void TestLayers::checkoutKeepsTheRules()
     QVERIFY(sources.contains("tests/tst_layers.cpp"));
     const QStringList faults = LayerCheck(sources).faults();
     QVERIFY2(faults.isEmpty(), qPrintable('\n' + faults.join('\n')));
+}
+
+/// The folders below base/, the rows above and the table of the documentation are the same.
+void TestLayers::documentation()
+{
+    QMap<QString, int> rows;
+    for (const Module &module : modules) {
+        const QString folder = module.folder;
+        if (folder.startsWith("base/")) {
+            QVERIFY2(!rows.contains(folder.mid(5)), module.folder);
+            rows.insert(folder.mid(5), module.layer);
+        }
+    }
+    QFile page(MRV_SOURCE_DIR "/docs/architecture.md");
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    static const QRegularExpression line("^\\| (\\d+) \\| (.*) \\|$",
+                                         QRegularExpression::MultilineOption);
+    static const QRegularExpression name("`([a-z]+)/`");
+    QMap<QString, int> documented;
+    for (auto it = line.globalMatch(QString::fromUtf8(page.readAll())); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        for (auto names = name.globalMatch(match.captured(2)); names.hasNext();) {
+            documented.insert(names.next().captured(1), match.captured(1).toInt());
+        }
+    }
+    QCOMPARE(documented, rows);
+    QStringList folders =
+        QDir(MRV_SOURCE_DIR "/base").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    folders.removeOne("resources"); // no code
+    QCOMPARE(folders, QStringList(rows.keys()));
 }
 
 void TestLayers::startUpCode_data()

@@ -2,9 +2,9 @@
 #include "documentdump.h"
 #include "documentnotation.h"
 #include "text/mrvtextcursor.h"
-#include "text/mrvtextformat.h"
 #include "text/mrvtextlistformat.h"
 #include "text/mrvtextrange.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTextDocumentFragment>
 #include <QTextList>

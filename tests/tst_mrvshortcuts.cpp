@@ -1,7 +1,7 @@
 #include "datarows.h"
 #include "support.h"
 
-#include "settings/mrvshortcutscheme.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

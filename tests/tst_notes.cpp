@@ -1,7 +1,7 @@
 #include "datarows.h"
+#include "document/mtextdoc.h"
 #include "documentdump.h"
-#include "text/mrvtextformat.h"
-#include "text/mtextdoc.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QBrush>
 #include <QTextBlock>

@@ -1,6 +1,6 @@
 #include "datarows.h"
-#include "importexport/mrvimportexportconfig.h"
-#include "settings/mrvoptions.h"
+#include "engines/mrvimportexportconfig.h"
+#include "options/mrvoptions.h"
 #include "support.h"
 
 #include <QFontDatabase>

@@ -1,8 +1,8 @@
 #include "datarows.h"
-#include "settings/mrvoptions.h"
-#include "settings/mrvtextpresetmgr.h"
+#include "options/mrvoptions.h"
+#include "state/mrvtextpresetmgr.h"
 #include "support.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTemporaryDir>
 

@@ -1,5 +1,5 @@
-#include "script/mrvfernwickdropitem.h"
-#include "script/mrvreference.h"
+#include "exchange/mrvfernwickdropitem.h"
+#include "exchange/mrvreference.h"
 
 #include "core/mcoretype.h"
 #include "heapmeter.h"

@@ -1,9 +1,9 @@
 #include "datarows.h"
 #include "heapmeter.h"
-#include "script/mrvscriptmode.h"
-#include "settings/mrvshortcutscheme.h"
+#include "scriptmode/mrvscriptmode.h"
+#include "shortcuts/mrvshortcutscheme.h"
 #include "support.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTemporaryDir>
 #include <QTextBlock>

@@ -1,7 +1,7 @@
 #include "datarows.h"
-#include "settings/mrvoptions.h"
+#include "options/mrvoptions.h"
 #include "support.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QBitArray>
 #include <QRegularExpression>

@@ -1,8 +1,8 @@
 #include "datarows.h"
 #include "support.h"
 
-#include "settings/mrvshortcutcheck.h"
-#include "settings/mrvshortcutscheme.h"
+#include "shortcuts/mrvshortcutcheck.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <QTemporaryDir>
 

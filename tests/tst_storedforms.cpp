@@ -1,10 +1,10 @@
 #include "heapmeter.h"
 
 #include "autoreplace/mrvautoreplacelist.h"
-#include "importexport/mrvimportexportconfig.h"
-#include "settings/mrvoptions.h"
-#include "settings/mrvshortcutscheme.h"
-#include "settings/mrvtextpresetscheme.h"
+#include "engines/mrvimportexportconfig.h"
+#include "options/mrvoptions.h"
+#include "presets/mrvtextpresetscheme.h"
+#include "shortcuts/mrvshortcutscheme.h"
 
 #include <QDataStream>
 #include <QTemporaryDir>

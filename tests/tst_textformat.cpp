@@ -1,6 +1,6 @@
 #include "datarows.h"
 #include "documentdump.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QLinearGradient>
 #include <QPen>

@@ -1,9 +1,9 @@
 #include "core/mrvcoreutil.h"
 #include "datarows.h"
+#include "document/mtextdoc.h"
 #include "documentdump.h"
 #include "gui/mrvguiutil.h"
-#include "text/mrvtextformat.h"
-#include "text/mtextdoc.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QImageReader>
 #include <QTextCursor>

@@ -1,8 +1,8 @@
 #include "datarows.h"
 #include "documentdump.h"
-#include "text/mrvtextblockformat.h"
-#include "text/mrvtextcharformat.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextblockformat.h"
+#include "textformat/mrvtextcharformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTextCursor>
 #include <QTextList>

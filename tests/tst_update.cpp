@@ -2,13 +2,13 @@
 #include "support.h"
 #include "web.h"
 
+#include "download/mrvredirectpolicy.h"
 #include "network/mrvnetwork.h"
-#include "web/mrvcheckforupdatesdialog.h"
-#include "web/mrvredirectpolicy_p.h"
-#include "web/mrvupdatedownloader.h"
-#include "web/mrvupdatemanager.h"
-#include "web/mrvupdatemodel.h"
-#include "web/mversion.h"
+#include "update/mrvcheckforupdatesdialog.h"
+#include "update/mrvupdatedownloader.h"
+#include "update/mrvupdatemanager.h"
+#include "update/mrvupdatemodel.h"
+#include "version/mversion.h"
 
 #include <QAction>
 #include <QDesktopServices>

@@ -1,6 +1,6 @@
 #include "web.h"
 
-#include "web/mrvcheckforupdatesdialog.h"
+#include "update/mrvcheckforupdatesdialog.h"
 
 #include <QDesktopServices>
 #include <QNetworkReply>

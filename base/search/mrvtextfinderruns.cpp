@@ -1,7 +1,7 @@
 #include "search/mrvtextfinder.h"
 
 #include "search/mrvtextpieces_p.h"
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QBrush>
 #include <QColor>

@@ -3,8 +3,8 @@
 #include "search/mrvtextfold_p.h"
 #include "search/mrvtextmatcher_p.h"
 #include "search/mrvtextpieces_p.h"
-#include "text/engine/mrvreplacetext.h"
-#include "text/mrvtextformat.h"
+#include "text/mrvreplacetext.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QCoreApplication>
 #include <QTextBlock>

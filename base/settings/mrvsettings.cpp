@@ -1,10 +1,10 @@
 #include "settings/mrvsettings.h"
-#include "settings/mrvsettingsguard_p.h"
-#include "settings/mrvsettingsvalue_p.h"
 
 #include "core/mcoretype.h"
 #include "gui/mrvguiutil.h"
-#include "text/mrvtextformat.h"
+#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingsvalue.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QDataStream>
 #include <QLoggingCategory>

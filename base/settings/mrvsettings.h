@@ -1,7 +1,7 @@
 #pragma once
 
-#include "settings/mrvshortcutscheme.h"
-#include "settings/mrvtextpresetscheme.h"
+#include "presets/mrvtextpresetscheme.h"
+#include "shortcuts/mrvshortcutscheme.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>

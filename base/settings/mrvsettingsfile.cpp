@@ -1,9 +1,9 @@
 #include "settings/mrvsettingsfile_p.h"
-#include "settings/mrvsettingsguard_p.h"
 
 #include "core/mcoretype.h"
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
+#include "settings/mrvsettingsguard_p.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -16,6 +16,7 @@
 
 #include <cerrno>
 #include <csignal>
+
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -148,7 +149,7 @@ bool mrvIsSettings(const QByteArray &bytes)
         if (text.isEmpty() || text.startsWith(';')) {
             continue;
         }
-        const MemoryFile file(mrvHarmlessSettings(bytes));
+        const MemoryFile file(mrvSafeSettings(bytes));
         const QSettings settings(file.path(), QSettings::IniFormat);
         settings.allKeys(); // reads the sections
         return text.startsWith('[') && file.isWhole() && settings.status() == QSettings::NoError;
@@ -189,7 +190,7 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted)
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error)
 {
-    const QByteArray harmless = mrvWithoutUtf8Mark(mrvHarmlessSettings(before), error);
+    const QByteArray safe = mrvWithoutUtf8Mark(mrvSafeSettings(before), error);
     if (!error->isEmpty()) {
         return QByteArray();
     }
@@ -199,7 +200,7 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
         *error = folder.errorString();
         return QByteArray();
     }
-    if (!harmless.isEmpty() && !MRVFileWriter::write(path, harmless, error)) {
+    if (!safe.isEmpty() && !MRVFileWriter::write(path, safe, error)) {
         return QByteArray();
     }
     QSettings settings(path, QSettings::IniFormat);

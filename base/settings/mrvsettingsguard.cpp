@@ -78,7 +78,7 @@ public:
     }
 
     // A simple value that ends too early does no harm: its reader sees that.
-    bool isHarmless(int depth = 0)
+    bool isSafe(int depth = 0)
     {
         quint32 type = 0;
         m_stream >> type;
@@ -105,18 +105,17 @@ public:
         case QMetaType::QByteArrayList:
             return skipEntries([this] { return skipText(); });
         case QMetaType::QVariantList:
-            return depth < MaxDepth && skipEntries([&] { return isHarmless(depth + 1); });
+            return depth < MaxDepth && skipEntries([&] { return isSafe(depth + 1); });
         case QMetaType::QVariantMap:
         case QMetaType::QVariantHash:
-            return depth < MaxDepth
-                && skipEntries([&] { return skipText() && isHarmless(depth + 1); });
+            return depth < MaxDepth && skipEntries([&] { return skipText() && isSafe(depth + 1); });
         default:
             return false;
         }
     }
 
     // Of the stream version Qt_5_6, which QSettings writes for dates with a time.
-    bool isHarmlessDateTime()
+    bool isSafeDateTime()
     {
         constexpr int DateAndTime = 12;
         quint32 type = 0;
@@ -253,17 +252,16 @@ bool isMarked(const QByteArray &item)
     return item.startsWith(VariantMark) || item.startsWith(DateTimeMark);
 }
 
-bool isHarmlessItem(const QByteArray &item)
+bool isSafeItem(const QByteArray &item)
 {
     if (item.startsWith(VariantMark)) {
-        return Walker(item.mid(VariantMarkSize)).isHarmless();
+        return Walker(item.mid(VariantMarkSize)).isSafe();
     }
-    return !item.startsWith(DateTimeMark)
-        || Walker(item.mid(DateTimeMarkSize)).isHarmlessDateTime();
+    return !item.startsWith(DateTimeMark) || Walker(item.mid(DateTimeMarkSize)).isSafeDateTime();
 }
 
 // A value with all lines that it goes on in. Commas outside of quotes part it into items.
-bool isHarmlessValue(const QByteArray &value, bool isUtf8)
+bool isSafeValue(const QByteArray &value, bool isUtf8)
 {
     QByteArray item;
     const auto append = [&item](int c) {
@@ -286,7 +284,7 @@ bool isHarmlessValue(const QByteArray &value, bool isUtf8)
             isQuoted = !isQuoted;
             isAtStart = !isQuoted;
         } else if (c == ',' && !isQuoted) {
-            if (!isHarmlessItem(item)) {
+            if (!isSafeItem(item)) {
                 return false;
             }
             item.clear();
@@ -297,7 +295,7 @@ bool isHarmlessValue(const QByteArray &value, bool isUtf8)
             append(uchar(c));
         }
     }
-    return isHarmlessItem(item);
+    return isSafeItem(item);
 }
 
 bool isLineEnd(char c)
@@ -356,10 +354,10 @@ bool mrvHasUtf8Mark(const QByteArray &bytes)
     return bytes.startsWith("\xef\xbb\xbf");
 }
 
-QByteArray mrvHarmlessSettings(const QByteArray &bytes)
+QByteArray mrvSafeSettings(const QByteArray &bytes)
 {
     const bool isUtf8 = mrvHasUtf8Mark(bytes);
-    QByteArray harmless;
+    QByteArray safe;
     int copied = 0;
     for (int at = isUtf8 ? mrvUtf8MarkSize : 0; at < bytes.size();) {
         const Line line = lineAfter(bytes, at);
@@ -368,13 +366,13 @@ QByteArray mrvHarmlessSettings(const QByteArray &bytes)
             continue;
         }
         const int value = line.equals + 1;
-        if (isHarmlessValue(bytes.mid(value, line.end - value), isUtf8)) {
+        if (isSafeValue(bytes.mid(value, line.end - value), isUtf8)) {
             continue;
         }
-        harmless += bytes.mid(copied, line.begin - copied);
+        safe += bytes.mid(copied, line.begin - copied);
         copied = line.end < bytes.size() && bytes.at(line.end) == '\n' ? line.end + 1 : line.end;
     }
-    return copied == 0 ? bytes : harmless + bytes.mid(copied);
+    return copied == 0 ? bytes : safe + bytes.mid(copied);
 }
 
 bool mrvCanBeStored(const QVariant &value)
@@ -403,5 +401,5 @@ bool mrvCanBeStored(const QVariant &value)
     stream.setVersion(isDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
     stream << value;
     Walker walker(bytes);
-    return isDateTime ? walker.isHarmlessDateTime() : walker.isHarmless();
+    return isDateTime ? walker.isSafeDateTime() : walker.isSafe();
 }

@@ -13,9 +13,9 @@
  *
  * @return just @p bytes where nothing has to be left out.
  */
-QByteArray mrvHarmlessSettings(const QByteArray &bytes);
+QByteArray mrvSafeSettings(const QByteArray &bytes);
 
-/** Whether a value can be stored so that mrvHarmlessSettings() leaves it in. */
+/** Whether a value can be stored so that mrvSafeSettings() leaves it in. */
 bool mrvCanBeStored(const QVariant &value);
 
 /**

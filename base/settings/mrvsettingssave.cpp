@@ -1,10 +1,10 @@
 #include "settings/mrvsettings.h"
-#include "settings/mrvsettingsdisarm_p.h"
-#include "settings/mrvsettingsfile_p.h"
-#include "settings/mrvsettingsguard_p.h"
 
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
+#include "settings/mrvsettingsfile_p.h"
+#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingssanitizer.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -187,7 +187,7 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
 {
     const QString path = fileName();
     // Somebody may have edited it since it was opened.
-    if (mrvDisarmSettings(path) != path) {
+    if (mrvSanitizeSettings(path) != path) {
         stall();
         return fail(error, mrvDamagedText(path));
     }
@@ -278,7 +278,7 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
         return fail(error, notRegular(path));
     }
     QString reason;
-    if (mrvDisarmSettings(path) != path) {
+    if (mrvSanitizeSettings(path) != path) {
         return fail(error, mrvDamagedText(path));
     }
     const MRVSettingsLock lock(path);
@@ -308,7 +308,7 @@ void MRVSettings::loadFromFile(const QString &fileName)
         saveNow();
     }
     MRVSettingsMap all;
-    mrvReadSettings(mrvHarmlessSettings(bytesOf(fileName)), IniFormat, &all);
+    mrvReadSettings(mrvSafeSettings(bytesOf(fileName)), IniFormat, &all);
     const QString prefix = m_group.isEmpty() ? QString() : m_group + QLatin1Char('/');
     remove(QString());
     for (auto it = all.cbegin(); it != all.cend(); ++it) {

@@ -1,7 +1,7 @@
 #include "text/mrvtextcursor.h"
 
-#include "text/engine/mrvreplacetext.h"
-#include "text/mrvtextformat.h"
+#include "text/mrvreplacetext.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QTextBlock>
 #include <QTextCursor>

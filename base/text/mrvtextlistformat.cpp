@@ -1,6 +1,6 @@
 #include "text/mrvtextlistformat.h"
 
-#include "text/mrvtextformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QHash>
 #include <QPair>

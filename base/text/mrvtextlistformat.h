@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/engine/mrvlistlevel.h"
+#include "textformat/mrvlistlevel.h"
 #include "util/mrvbase_export.h"
 
 #include <QList>

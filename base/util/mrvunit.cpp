@@ -1,12 +1,12 @@
 #include "util/mrvunit.h"
 
 #include <QPair>
-
 #include <QRegExp>
-#include <qtguiglobal.h>
 
 #include <iterator>
 #include <limits>
+
+#include <qtguiglobal.h>
 
 QT_BEGIN_NAMESPACE
 extern Q_GUI_EXPORT int

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "web/mrvwebviewfactory.h"
+#include "update/mrvwebviewfactory.h"
 
 #include <QObject>
 

@@ -2,7 +2,7 @@
 #include "core/mtranslator.h"
 #include "gui/mrvguiutil.h"
 #include "network/mrvnetwork.h"
-#include "settings/mrvshortcut.h"
+#include "shortcuts/mrvshortcut.h"
 #include "util/mrvmimetypes.h"
 
 #include <QCoreApplication>

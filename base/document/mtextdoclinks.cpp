@@ -1,0 +1,65 @@
+#include "document/mtextdoc.h"
+
+#include "document/mtextdocsweep_p.h"
+#include "textformat/mrvtextformat.h"
+
+#include <QTextDocument>
+
+namespace {
+
+// A raised or lowered link is the mark of a note.
+bool isRaisedOrLowered(const QTextCharFormat &format)
+{
+    return format.verticalAlignment() == QTextCharFormat::AlignSuperScript
+        || format.verticalAlignment() == QTextCharFormat::AlignSubScript;
+}
+
+// A link to a footnote, or back from it, in a document that was HTML.
+bool isHtmlFootnote(const QTextCharFormat &format)
+{
+    return format.anchorNames().value(0).startsWith(QLatin1String("fn"))
+        && format.anchorHref().contains(QLatin1String("html#fn"));
+}
+
+QTextCharFormat withoutHyperlink(QTextCharFormat format)
+{
+    if (!isHtmlFootnote(format) && !isRaisedOrLowered(format)) {
+        MTextDoc::clearLinkProperties(&format);
+    }
+    return format;
+}
+
+QTextCharFormat withoutMorvaneLink(QTextCharFormat format)
+{
+    // Deliberate: any integer counts here, one with a sign too.
+    bool isInt = false;
+    format.anchorHref().toInt(&isInt, 10);
+    if (isInt && !isRaisedOrLowered(format)) {
+        MTextDoc::clearLinkProperties(&format);
+    }
+    return format;
+}
+
+} // namespace
+
+void MTextDoc::clearLinkProperties(QTextCharFormat *format)
+{
+    if (!format) {
+        return;
+    }
+    format->clearProperty(QTextFormat::AnchorHref);
+    format->clearProperty(QTextFormat::AnchorName);
+    format->clearProperty(QTextFormat::IsAnchor);
+}
+
+void MTextDoc::clearHyperlinks(QTextDocument *document)
+{
+    MrvSweep::changeRuns(document, MrvSweep::pattern(QTextFormat::IsAnchor, true), true,
+                         withoutHyperlink);
+}
+
+void MTextDoc::clearMorvaneLinks(QTextDocument *document)
+{
+    MrvSweep::changeRuns(document, MrvSweep::pattern(QTextFormat::IsAnchor, true), true,
+                         withoutMorvaneLink);
+}

@@ -1,0 +1,39 @@
+#include "download/mrvdownloadauthorize_p.h"
+
+#include "ui_mrvdownloadauthorize.h"
+
+#include <QLayout>
+
+MRVDownloadAuthorize::MRVDownloadAuthorize(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui_MRVDownloadAuthorize>())
+{
+    m_ui->setupUi(this);
+}
+
+MRVDownloadAuthorize::~MRVDownloadAuthorize() = default;
+
+void MRVDownloadAuthorize::setSite(const QString &site)
+{
+    m_ui->siteDescription->setText(site);
+    // A dialog does not grow by itself with the lines of an address, or of a text in another
+    // language.
+    resize(width(), layout()->totalHeightForWidth(width()));
+}
+
+void MRVDownloadAuthorize::setCredentials(const QString &user, const QString &password)
+{
+    m_ui->userEdit->setText(user);
+    m_ui->passwordEdit->setText(password);
+    (user.isEmpty() ? m_ui->userEdit : m_ui->passwordEdit)->setFocus();
+}
+
+QString MRVDownloadAuthorize::user() const
+{
+    return m_ui->userEdit->text();
+}
+
+QString MRVDownloadAuthorize::password() const
+{
+    return m_ui->passwordEdit->text();
+}

@@ -1,0 +1,504 @@
+#include "download/mrvdownloadurl.h"
+
+#include "core/mrvcoreutil.h"
+#include "download/mrvdownloaduserinputabstract.h"
+
+#include <QAuthenticator>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QNetworkRequest>
+#include <QPointer>
+#include <QTextCodec>
+
+#include <utility>
+
+namespace {
+
+// Text is encoded anew in pieces, so that it is never in memory as a whole a third time.
+constexpr int ConvertedAtOnce = 1 << 20;
+
+bool isFetched(const QUrl &url)
+{
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+// Servers write charset="utf-8", too.
+QTextCodec *codecOf(const QString &charset)
+{
+    QString name = charset.trimmed();
+    name.remove(u'"').remove(u'\'');
+    name = name.trimmed();
+    return name.isEmpty() ? nullptr : QTextCodec::codecForName(name.toLatin1());
+}
+
+int statusOf(const QNetworkReply *reply)
+{
+    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+// Successes to Qt, which hold a part at most: one that announces another, behind which Qt reads
+// nothing, and what nobody asked for, a range and whether there is something new.
+bool isPartial(int status)
+{
+    return status < 200 || status == 206 || status == 304;
+}
+
+// None where there can be no body.
+QByteArray promisedLength(const QNetworkReply *reply)
+{
+    return statusOf(reply) == 204 ? QByteArray() : reply->rawHeader("Content-Length");
+}
+
+bool isPacked(const QNetworkReply *reply)
+{
+    const QByteArray coding = reply->rawHeader("Content-Encoding").trimmed().toLower();
+    return !coding.isEmpty() && coding != "identity";
+}
+
+// Qt names the URL in it as it was requested.
+QString errorText(const QNetworkReply *reply)
+{
+    QString text = reply->errorString();
+    if (!reply->url().password().isEmpty()) {
+        text.replace(reply->url().toString(), reply->url().toDisplayString());
+    }
+    return text;
+}
+
+} // namespace
+
+MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
+    : QObject(parent)
+    , m_manager(new QNetworkAccessManager(this))
+    , m_asking(std::make_shared<QVector<QNetworkReply *>>())
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &MRVDownloadUrl::onTimeout);
+    connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
+            &MRVDownloadUrl::onAuthenticationRequired);
+    // Before whatever the host has connected, to answer them.
+    connect(m_manager, &QNetworkAccessManager::sslErrors, this, [this](QNetworkReply *reply) {
+        if (reply == m_reply) {
+            beginQuestion();
+        }
+    });
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    // Qt only says so where the application itself has switched the network off.
+    connect(m_manager, &QNetworkAccessManager::networkAccessibleChanged, this,
+            &MRVDownloadUrl::onNetworkAccessibleChanged);
+    QT_WARNING_POP
+}
+
+MRVDownloadUrl::~MRVDownloadUrl()
+{
+    dropReply();
+    // A receiver may delete this object while the manager or one of its replies is on the stack.
+    m_manager->disconnect(this);
+    m_manager->setParent(nullptr);
+    if (!m_asking->isEmpty()) {
+        return; // the end of the last question deletes it
+    }
+    if (QCoreApplication::instance()) {
+        m_manager->deleteLater();
+    } else {
+        delete m_manager;
+    }
+}
+
+QString MRVDownloadUrl::fileForUrl(const QString &folder, const QUrl &url)
+{
+    const QString path = url.path(QUrl::FullyDecoded);
+    QString name = path.mid(path.lastIndexOf(u'/') + 1);
+    if (name.isEmpty()) {
+        name = QStringLiteral("index.html");
+    }
+    if (QFileInfo(name).suffix().isEmpty()) {
+        name += QLatin1String(".html");
+    }
+    if (folder.isEmpty()) {
+        return name;
+    }
+    QDir().mkpath(folder);
+    return QDir(folder).absoluteFilePath(name);
+}
+
+QString MRVDownloadUrl::fileForUrl(const QUrl &url) const
+{
+    return fileForUrl(m_downloadFolder, url);
+}
+
+void MRVDownloadUrl::setDownloadFolder(const QString &folder)
+{
+    m_downloadFolder = folder;
+}
+
+void MRVDownloadUrl::setUserInputHandler(MRVDownloadUserInputAbstract *handler)
+{
+    m_userInput = handler;
+}
+
+void MRVDownloadUrl::setTransferTimeout(int milliseconds)
+{
+    m_transferTimeout = milliseconds;
+}
+
+void MRVDownloadUrl::setMaximumSize(qint64 bytes)
+{
+    m_maximumSize = qBound(qint64(0), bytes, LargestSize);
+}
+
+QString MRVDownloadUrl::charset(const QString &contentType)
+{
+    const QLatin1String key("charset=");
+    const int at = contentType.indexOf(key);
+    return at < 0 ? QString() : contentType.mid(at + key.size()).section(u';', 0, 0);
+}
+
+QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCharset,
+                                   const QString &toCharset)
+{
+    const QTextCodec *from = codecOf(fromCharset);
+    const QTextCodec *to = codecOf(toCharset);
+    if (!from || !to || from == to) {
+        return data;
+    }
+
+    QTextCodec::ConverterState decoding;
+    QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
+    // The byte-order mark, where the codec writes one.
+    QByteArray result = to->fromUnicode(QString());
+    for (int at = 0; at < data.size(); at += ConvertedAtOnce) {
+        const int count = qMin(ConvertedAtOnce, data.size() - at);
+        const QString text = from->toUnicode(data.constData() + at, count, &decoding);
+        result += to->fromUnicode(text.constData(), text.size(), &encoding);
+    }
+    // A last character that is cut off.
+    if (decoding.remainingChars > 0) {
+        const QChar replacement(QChar::ReplacementCharacter);
+        result += to->fromUnicode(&replacement, 1, &encoding);
+    }
+    return result;
+}
+
+bool MRVDownloadUrl::download(const QUrl &url)
+{
+    dropReply();
+    if (!url.isValid()) {
+        return false;
+    }
+    m_url = url;
+    m_contentType.clear();
+    if (isFetched(url)) {
+        start();
+    } else {
+        m_failure =
+            tr("Only http and https addresses are downloaded, not %1").arg(url.toDisplayString());
+        m_timer.start(0);
+    }
+    return true;
+}
+
+void MRVDownloadUrl::start()
+{
+    QNetworkRequest request(m_url);
+    // Qt unpacks what comes compressed without looking whether all of it came, or what it makes of
+    // it.
+    request.setRawHeader("Accept-Encoding", "identity");
+    m_reply = m_manager->get(request);
+    connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
+    connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::downloadProgress);
+    connect(m_reply, &QNetworkReply::errorOccurred, this, &MRVDownloadUrl::onReplyError);
+    // After the manager's signal. Its context lives as long as the question does.
+    connect(m_reply, &QNetworkReply::sslErrors, m_manager, questionEnd());
+    connect(m_reply, &QNetworkReply::encrypted, this, &MRVDownloadUrl::awaitBytes);
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &MRVDownloadUrl::onMetaData);
+    connect(m_reply, &QNetworkReply::readyRead, this, &MRVDownloadUrl::collect);
+    awaitBytes();
+}
+
+bool MRVDownloadUrl::downloadToFile(const QUrl &url)
+{
+    m_fileName = fileForUrl(url);
+    return !m_fileName.isEmpty() && download(url);
+}
+
+bool MRVDownloadUrl::downloadToFile(const QUrl &url, const QString &fileName)
+{
+    if (fileName.isEmpty()) {
+        return false;
+    }
+    m_fileName = fileName;
+    return download(url);
+}
+
+void MRVDownloadUrl::cancelDownload()
+{
+    if (m_reply && !m_reply->isFinished()) {
+        m_reply->abort(); // which comes back through onReplyFinished()
+    } else if (m_reply || m_timer.isActive()) {
+        // While the handler is asked about a redirect, or before a refusal was told.
+        endWith(tr("Operation canceled"));
+    }
+}
+
+// Forgets the request and all that belongs to it, without a word.
+void MRVDownloadUrl::dropReply()
+{
+    m_timer.stop();
+    m_aborted = false;
+    m_failure.clear();
+    m_data.clear();
+    QNetworkReply *reply = std::exchange(m_reply, nullptr);
+    if (!reply) {
+        return;
+    }
+    reply->disconnect(this);
+    reply->abort();
+    if (!m_asking->contains(reply)) {
+        reply->deleteLater();
+    }
+}
+
+void MRVDownloadUrl::endWith(const QString &error)
+{
+    const QString text = error; // dropReply() clears the member that it may be
+    dropReply();
+    Q_EMIT downloadError(text);
+}
+
+// Gives up a running request for a reason that Qt does not know.
+void MRVDownloadUrl::fail(const QString &error)
+{
+    m_failure = error;
+    if (m_reply->isFinished()) {
+        endWith(error);
+    } else {
+        m_reply->abort();
+    }
+}
+
+void MRVDownloadUrl::awaitBytes()
+{
+    if (m_transferTimeout > 0) {
+        m_timer.start(m_transferTimeout);
+    }
+}
+
+void MRVDownloadUrl::onTimeout()
+{
+    if (m_reply) {
+        fail(tr("The server has sent nothing for %1 s").arg(m_timer.interval() / 1000.0));
+    } else {
+        endWith(m_failure);
+    }
+}
+
+void MRVDownloadUrl::onMetaData()
+{
+    awaitBytes();
+    if (promisedLength(m_reply).toLongLong() > m_maximumSize) {
+        fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
+    }
+}
+
+// Takes what has come out of the reply, so that a body is in memory once.
+void MRVDownloadUrl::collect()
+{
+    awaitBytes();
+    const qint64 available = m_reply->bytesAvailable();
+    if (m_data.size() + available > m_maximumSize) {
+        fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
+        return;
+    }
+    const int size = m_data.size();
+    m_data.resize(size + int(available));
+    m_data.resize(size + int(qMax(qint64(0), m_reply->read(m_data.data() + size, available))));
+}
+
+// The reply says that it has failed when it finishes; what has come of the body is of no use.
+void MRVDownloadUrl::onReplyError()
+{
+    m_data.clear();
+}
+
+// Qt finds most of these out itself; but a length that is no number would let any part pass as
+// whole.
+bool MRVDownloadUrl::isCutShort() const
+{
+    if (isPartial(statusOf(m_reply))) {
+        return true;
+    }
+    const QByteArray promised = promisedLength(m_reply);
+    if (promised.isNull()) {
+        return false;
+    }
+    bool isNumber = false;
+    const qint64 length = promised.toLongLong(&isNumber);
+    return !isNumber || length < 0 || m_data.size() < length;
+}
+
+void MRVDownloadUrl::onReplyFinished()
+{
+    m_timer.stop();
+    if (m_aborted) {
+        return endWith(tr("Download Aborted"));
+    }
+    if (!m_failure.isEmpty()) {
+        return endWith(m_failure);
+    }
+    if (m_reply->error() != QNetworkReply::NoError) {
+        return endWith(errorText(m_reply));
+    }
+    const QPointer<MRVDownloadUrl> self(this);
+    const QNetworkReply *reply = m_reply;
+    collect();
+    if (!self || m_reply != reply) {
+        return; // too large
+    }
+    m_timer.stop();
+    if (isCutShort()) {
+        return endWith(tr("The connection ended before everything had come"));
+    }
+
+    const QUrl location = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (m_userInput && !location.isEmpty()) {
+        redirect(m_url.resolved(location));
+    } else {
+        deliver();
+    }
+}
+
+// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen. Qt
+// still holds the reply and the manager when it comes back, so neither may go before.
+void MRVDownloadUrl::beginQuestion()
+{
+    m_asking->append(m_reply);
+    m_timer.stop();
+}
+
+std::function<void()> MRVDownloadUrl::questionEnd()
+{
+    return [self = QPointer<MRVDownloadUrl>(this), asking = m_asking, reply = m_reply] {
+        asking->removeOne(reply);
+        if (!self) {
+            if (asking->isEmpty()) {
+                reply->manager()->deleteLater();
+            }
+        } else if (self->m_reply == reply) {
+            if (!reply->isFinished()) {
+                self->awaitBytes();
+            }
+        } else if (!asking->contains(reply)) {
+            reply->deleteLater();
+        }
+    };
+}
+
+bool MRVDownloadUrl::ask(const std::function<bool()> &question)
+{
+    const QPointer<MRVDownloadUrl> self(this);
+    const std::function<void()> end = questionEnd();
+    beginQuestion();
+    const bool yes = question();
+    end();
+    return self && yes;
+}
+
+void MRVDownloadUrl::redirect(const QUrl &target)
+{
+    const QPointer<MRVDownloadUrl> self(this);
+    const QNetworkReply *reply = m_reply;
+    const auto isGone = [&] { return !self || m_reply != reply; };
+    if (!target.isValid() || !isFetched(target)) {
+        return endWith(tr("It redirects to %1, which is no http or https address")
+                           .arg(target.toDisplayString()));
+    }
+    const bool isFollowed = ask([&] { return m_userInput->redirectTo(target); });
+    if (isGone()) {
+        return;
+    }
+    if (!isFollowed) {
+        return deliver();
+    }
+    if (m_url.scheme() == QLatin1String("https") && target.scheme() == QLatin1String("http")) {
+        const QString danger = tr("It redirects to %1, where the connection is not encrypted")
+                                   .arg(target.toDisplayString());
+        const bool isAccepted = ask([&] { return m_userInput->ignoreSslErrors({danger}); });
+        if (isGone()) {
+            return;
+        }
+        if (!isAccepted) {
+            return endWith(danger);
+        }
+    }
+    download(target);
+}
+
+void MRVDownloadUrl::deliver()
+{
+    QByteArray data = std::exchange(m_data, QByteArray());
+    const QString fileName = m_fileName;
+    const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    const QString from = isPacked(m_reply) ? QString() : charset(type);
+    dropReply();
+    m_contentType = type;
+    if (!from.isEmpty()) {
+        data = convert(data, from, QStringLiteral("UTF-8"));
+    }
+
+    const QPointer<MRVDownloadUrl> self(this);
+    Q_EMIT downloadSuccess(data);
+    if (!self || fileName.isEmpty()) {
+        return;
+    }
+    QString error;
+    if (MRVCoreUtil::WriteBinaryFile(data, fileName, &error)) {
+        Q_EMIT downloadSuccess(fileName);
+    } else {
+        Q_EMIT downloadError(tr("Cannot write to file: '%1'\nError: %2").arg(fileName, error));
+    }
+}
+
+void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator)
+{
+    if (reply != m_reply) {
+        return; // dropped, while the question was on its way
+    }
+    const QPointer<MRVDownloadUrl> self(this);
+    QString user = m_url.userName();
+    QString password = m_url.password();
+    const bool isGiven =
+        m_userInput && ask([&] {
+            return m_userInput->authenticate(authenticator->realm(), m_url, &user, &password);
+        });
+    if (!self || m_reply != reply || reply->isFinished()) {
+        return;
+    }
+    if (isGiven) {
+        authenticator->setUser(user);
+        authenticator->setPassword(password);
+    } else {
+        // Set first, since the reply finishes before abort() is back.
+        m_aborted = true;
+        cancelDownload();
+    }
+}
+
+// Takes a number, since the enumeration is deprecated.
+void MRVDownloadUrl::onNetworkAccessibleChanged(int accessibility)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    if (accessibility == QNetworkAccessManager::Accessible) {
+        return;
+    }
+    QT_WARNING_POP
+    const QString error = tr("Network not accessible");
+    if (m_reply) {
+        fail(error);
+    } else {
+        endWith(error);
+    }
+}

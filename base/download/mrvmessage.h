@@ -1,0 +1,16 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QMessageBox>
+
+/**
+ * As QMessageBox's static functions, but always as plain text, since servers have a say in what is
+ * shown; and @p parent may be deleted meanwhile, and take the box with it.
+ *
+ * @return the button that was chosen; 0 where the box went with its parent.
+ */
+MRVBASE_EXPORT int mrvShowMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title,
+                                  const QString &text,
+                                  QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                                  QMessageBox::StandardButton preset = QMessageBox::NoButton);

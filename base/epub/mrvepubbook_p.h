@@ -1,0 +1,94 @@
+#pragma once
+
+#include "epub/mrvepubmetadata.h"
+#include "xhtml/mrvtextxhtmlexporter.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QVector>
+
+/** An entry of the table of contents; depth 0 is the outermost. */
+struct MRVEPubEntry
+{
+    QString text;
+    QString target; // "page.xhtml" or "page.xhtml#id"
+    int depth = 0;
+};
+
+/**
+ * A page of the book. Its body is kept until all documents are in, when its links can be resolved.
+ */
+struct MRVEPubPage
+{
+    QString fileName;
+    QString title;
+    QString bodyTag;
+    QString body;
+    int document = 0; // the one it is a piece of
+};
+
+/** A picture or another file of the package, at its path below the package folder. */
+struct MRVEPubFile
+{
+    QString path;
+    QString mediaType;
+    QByteArray bytes;
+};
+
+/** Where the links of a document lead. */
+struct MRVEPubAnchors
+{
+    QString fileName; // of the document, as links of others name it
+    QString firstPage;
+    QHash<QString, QString> targets; // anchor name to "page.xhtml#id"
+};
+
+/** All that goes into an e-book, as documents are added. */
+struct MRVEPubBook
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVEPubBook)
+
+public:
+    MRVEPubVersion version = MRVEPubVersion::EPub3;
+    MRVEPubMetadata metadata;
+    QVector<MRVEPubPage> pages;
+    QVector<MRVEPubEntry> headings; // of all pages, depth counted from heading level 1 as 0
+    QVector<MRVEPubFile> pictures;
+    QVector<MRVEPubAnchors> anchors; // by document
+    MRVTextXhtmlExporter::StyleList styles;
+    QHash<QByteArray, QString> picturePaths; // by digest of the bytes
+    int picturesWithoutText = 0;
+
+    /**
+     * Adds the cover's picture, which has to come before all others; one that readers cannot show
+     * is converted.
+     */
+    void addCover();
+    bool addDocument(const QTextDocument &document, const QString &fileName, QString *error);
+
+    /** The headings as entries without gaps in depth; of a book without headings its pages. */
+    QVector<MRVEPubEntry> contents() const;
+    /** The page with its links resolved. */
+    QString pageText(const MRVEPubPage &page) const;
+    QString coverText() const;
+    QString styleSheet() const;
+    /** A whole page of the book around a body. */
+    QString framed(const QString &title, const QString &bodyTag, const QString &body) const;
+    QString title() const;
+    QStringList authors() const;
+    QString language() const;
+
+private:
+    bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
+                     QString *error);
+    QString addPicture(const QByteArray &bytes, const QString &name);
+    QString resolved(const QString &href, int document) const;
+};
+
+/** The navigation document of EPUB 3. */
+QByteArray mrvEPubNavigation(const MRVEPubBook &book);
+/** The table of contents of EPUB 2, which EPUB 3 books carry for older readers. */
+QByteArray mrvEPubNcx(const MRVEPubBook &book, const QString &identifier);
+/** The package document: metadata, the list of files and the reading order. */
+QByteArray mrvEPubPackageDocument(const MRVEPubBook &book, const QString &identifier,
+                                  const QDateTime &modified);

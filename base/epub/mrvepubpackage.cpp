@@ -1,0 +1,123 @@
+#include "epub/mrvepubpackage.h"
+
+#include "core/mrvcoreutil.h"
+#include "core/mrvxmltext.h"
+#include "epub/mrvepubbook_p.h"
+#include "xhtml/mrvhtmltext.h"
+
+#include <KZip>
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QUuid>
+
+namespace {
+
+const QLatin1String Folder("OEBPS/");
+constexpr mode_t FileMode = 0100644;
+
+constexpr char Container[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    "<container version=\"1.0\" xmlns=\"urn:oasis:names:tc:opendocument:xmlns:container\">\n"
+    "  <rootfiles>\n"
+    "    <rootfile full-path=\"OEBPS/content.opf\" "
+    "media-type=\"application/oebps-package+xml\"/>\n"
+    "  </rootfiles>\n"
+    "</container>\n";
+
+// Archives hold dates from 1980 on, in local time: the date's own hours and minutes stand for it
+// everywhere.
+QDateTime archiveDate(const QDateTime &date)
+{
+    const QDateTime first(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime last(QDate(2107, 12, 31), QTime(0, 0), Qt::UTC);
+    return qBound(first, date.toUTC(), last);
+}
+
+// The same content gets the same identifier, so that an e-book made anew replaces the old one in a
+// reader's library.
+QString identifierOf(const MRVEPubBook &book)
+{
+    const QString given = mrvXmlText(book.metadata.identifier).simplified();
+    if (!given.isEmpty()) {
+        return given;
+    }
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(book.title().toUtf8() + '\n' + book.metadata.authors.join(u'\n').toUtf8());
+    for (const MRVEPubPage &page : book.pages) {
+        hash.addData(page.body.toUtf8());
+    }
+    // The namespace for names that are no URLs, domain names or object identifiers is the project's
+    // own.
+    const QUuid space(0x6d727665, 0x7075, 0x4b21, 0x9b, 0x4e, 0x2f, 0x61, 0x0c, 0x7d, 0x55, 0x10);
+    return QLatin1String("urn:uuid:")
+        + QUuid::createUuidV5(space, hash.result()).toString(QUuid::WithoutBraces);
+}
+
+} // namespace
+
+MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &metadata)
+    : m_book(std::make_unique<MRVEPubBook>())
+{
+    m_book->version = version;
+    m_book->metadata = metadata;
+    m_book->addCover();
+}
+
+MRVEPubPackage::~MRVEPubPackage() = default;
+
+bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &fileName,
+                                 QString *error)
+{
+    return m_book->addDocument(document, fileName, error);
+}
+
+QByteArray MRVEPubPackage::toByteArray(QString *error) const
+{
+    const QDateTime modified = m_book->metadata.modified.isValid()
+        ? m_book->metadata.modified
+        : QDateTime::currentDateTimeUtc();
+    const QDateTime date = archiveDate(modified);
+    const QString identifier = identifierOf(*m_book);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    KZip zip(&buffer);
+    bool ok = zip.open(QIODevice::WriteOnly);
+    auto add = [&](const QString &path, const QByteArray &data) {
+        ok = ok && zip.writeFile(path, data, FileMode, QString(), QString(), date, date, date);
+    };
+    zip.setExtraField(KZip::NoExtraField);
+    // The type comes first and as it is, for programs that look at the first bytes only (OCF 3.2,
+    // section 4.3).
+    zip.setCompression(KZip::NoCompression);
+    add(QStringLiteral("mimetype"), QByteArrayLiteral("application/epub+zip"));
+    zip.setCompression(KZip::DeflateCompression);
+    add(QStringLiteral("META-INF/container.xml"), QByteArray(Container));
+    add(Folder + QLatin1String("content.opf"),
+        mrvEPubPackageDocument(*m_book, identifier, modified));
+    if (m_book->version == MRVEPubVersion::EPub3) {
+        add(Folder + QLatin1String("nav.xhtml"), mrvEPubNavigation(*m_book));
+    }
+    add(Folder + QLatin1String("toc.ncx"), mrvEPubNcx(*m_book, identifier));
+    add(Folder + QLatin1String("css/stylesheet.css"), m_book->styleSheet().toUtf8());
+    add(Folder + QLatin1String("cover.xhtml"), m_book->coverText().toUtf8());
+    for (const MRVEPubPage &page : qAsConst(m_book->pages)) {
+        add(Folder + page.fileName, m_book->pageText(page).toUtf8());
+    }
+    for (const MRVEPubFile &picture : qAsConst(m_book->pictures)) {
+        add(Folder + picture.path, picture.bytes);
+    }
+    ok = zip.close() && ok;
+    if (!ok) {
+        if (error) {
+            *error = tr("The e-book cannot be packed: %1").arg(zip.errorString());
+        }
+        return QByteArray();
+    }
+    return bytes;
+}
+
+bool MRVEPubPackage::write(const QString &path, QString *error) const
+{
+    const QByteArray bytes = toByteArray(error);
+    return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, path, error);
+}

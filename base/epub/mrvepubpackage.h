@@ -1,0 +1,62 @@
+#pragma once
+
+#include "epub/mrvepubmetadata.h"
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+#include <memory>
+
+class QTextDocument;
+struct MRVEPubBook;
+
+/**
+ * Puts documents into one e-book file (EPUB 3.2 or EPUB 2.0.1).
+ *
+ * Each document becomes one or more pages: a new page begins at a page break and at each heading of
+ * the highest level that occurs more than once. The package holds a cover page, the navigation
+ * document (EPUB 3) and the NCX, made from the headings, the pictures, one style sheet, and
+ * accessibility metadata (EPUB 3). Links within and between the documents lead to the right page;
+ * links that would lead nowhere inside the book (local files, anchors that do not exist, other
+ * documents) keep their text only. The same documents, metadata and date give the same bytes.
+ *
+ * GUI thread only.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVEPubPackage
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVEPubPackage)
+
+public:
+    explicit MRVEPubPackage(MRVEPubVersion version = MRVEPubVersion::EPub3,
+                            const MRVEPubMetadata &metadata = MRVEPubMetadata());
+    ~MRVEPubPackage();
+    MRVEPubPackage(const MRVEPubPackage &) = delete;
+    MRVEPubPackage &operator=(const MRVEPubPackage &) = delete;
+
+    /**
+     * Adds the document behind those added before. It is read at once and needed no longer.
+     *
+     * @param fileName the name, without folder, by which links of other documents name this one;
+     *                 may be empty.
+     * @param error    if given, receives a text on failure; untouched on success.
+     * @return false, with nothing added, when one of its pictures cannot be read.
+     */
+    bool addDocument(const QTextDocument &document, const QString &fileName = QString(),
+                     QString *error = nullptr);
+
+    /**
+     * The bytes of the e-book file. Without any document the book has its cover page alone. Empty
+     * on failure.
+     */
+    QByteArray toByteArray(QString *error = nullptr) const;
+
+    /** Writes toByteArray() to a file, replacing it; on failure an old file stands. */
+    bool write(const QString &path, QString *error = nullptr) const;
+
+private:
+    std::unique_ptr<MRVEPubBook> m_book;
+};

@@ -1,0 +1,327 @@
+#include "options/mrvoptionstables_p.h"
+
+#include "settings/mrvsettingsvalue.h"
+#include "textformat/mrvtextformat.h"
+
+#include <QRegularExpression>
+
+#include <optional>
+
+using namespace MRVOptionsTables;
+
+namespace {
+
+constexpr const char *TypeNames[] = {
+    "flag", "int",  "real",     "string", "string list",      "color",
+    "date", "font", "int list", "bytes",  "character format", "paragraph format"};
+static_assert(std::size(TypeNames) == MRVOptions::BlockFormatType + 1);
+
+constexpr QLatin1String Base64("base64:");
+
+QString textOf(const QByteArray &bytes)
+{
+    const QString text = QString::fromUtf8(bytes);
+    bool readable = text.toUtf8() == bytes && !text.startsWith(Base64);
+    for (const QChar c : text) {
+        readable = readable && (c.isPrint() || c == u'\n' || c == u'\t' || c.isSurrogate());
+    }
+    return readable ? text : Base64 + QString::fromLatin1(bytes.toBase64());
+}
+
+QString textOf(const QFont &font)
+{
+    return font.toString();
+}
+
+QString textOf(const QColor &color)
+{
+    if (!color.isValid()) {
+        return QString();
+    }
+    return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
+}
+
+QString textOf(const QList<int> &numbers)
+{
+    QStringList texts;
+    for (const int number : numbers) {
+        texts.append(QString::number(number));
+    }
+    return texts.join(u' ');
+}
+
+// What is stored for a text; nothing, with an error, where it is no value of the row's type.
+using Stored = std::optional<QVariant>;
+
+Stored refuse(QString *error, const QString &text)
+{
+    if (error) {
+        *error = text;
+    }
+    return std::nullopt;
+}
+
+template<typename Number>
+Stored within(bool isNumber, Number number, Number least, Number most, const QString &text,
+              QString *error)
+{
+    if (isNumber && number >= least && number <= most) {
+        return QVariant(number);
+    }
+    const QString sentence = std::is_same_v<Number, int>
+        ? MRVOptions::tr("'%1' is not a whole number from %2 to %3")
+        : MRVOptions::tr("'%1' is not a number from %2 to %3");
+    return refuse(error, sentence.arg(text, QString::number(least), QString::number(most)));
+}
+
+Stored oneOf(const QStringList &words, const QString &text, QString *error)
+{
+    if (words.contains(text)) {
+        return QVariant(text);
+    }
+    return refuse(error,
+                  MRVOptions::tr("'%1' is none of: %2").arg(text, words.join(QLatin1String(", "))));
+}
+
+std::optional<QByteArray> bytesOf(const QString &text)
+{
+    if (!text.startsWith(Base64)) {
+        return text.toUtf8();
+    }
+    const auto decoded = QByteArray::fromBase64Encoding(text.mid(Base64.size()).toLatin1(),
+                                                        QByteArray::AbortOnBase64DecodingErrors);
+    return decoded ? std::make_optional(decoded.decoded) : std::nullopt;
+}
+
+Stored parse(const FlagRow &, const QString &text, QString *error)
+{
+    bool ok = false;
+    if (const bool flag = mrvToFlag(text, &ok); ok) {
+        return QVariant(flag);
+    }
+    return refuse(error, MRVOptions::tr("'%1' is neither true nor false").arg(text));
+}
+
+Stored parse(const IntRow &row, const QString &text, QString *error)
+{
+    bool ok = false;
+    const int number = text.toInt(&ok);
+    return within<int>(ok, number, row.value.least, row.value.most, text, error);
+}
+
+Stored parse(const RealRow &row, const QString &text, QString *error)
+{
+    bool ok = false;
+    const double number = text.toDouble(&ok); // NaN lies within no limits
+    return within<double>(ok, number, row.value.least, row.value.most, text, error);
+}
+
+Stored parse(const StringRow &row, const QString &text, QString *error)
+{
+    if (row.value.words) {
+        return oneOf(row.value.words(), text, error);
+    }
+    if (row.value.isPair && !isQuotePair(text)) {
+        return refuse(
+            error,
+            MRVOptions::tr("'%1' has no two halves, an opening and a closing quote").arg(text));
+    }
+    if (row.value.accepts && !row.value.accepts(text)) {
+        return refuse(error,
+                      MRVOptions::tr("'%1' is no such value as '%2'").arg(text, row.value.ask()));
+    }
+    return QVariant(text);
+}
+
+Stored parse(const StringListRow &, const QString &text, QString *)
+{
+    return QVariant(text.split(u'\n', Qt::SkipEmptyParts));
+}
+
+// What has to be read; other colours may be left out by making them transparent.
+bool isTextColor(MRVSettings::ColorSetting setting)
+{
+    switch (setting) {
+    case MRVOptions::TextColor:
+    case MRVOptions::LinksColor:
+    case MRVOptions::VisitedLinksColor:
+    case MRVOptions::HighlightTextColor:
+    case MRVOptions::AnnotationColor:
+    case MRVOptions::FootnotesTextColor:
+    case MRVOptions::FindTextColor:
+    case MRVOptions::FullScreenTextColor:
+    case MRVOptions::FullScreenLinksColor:
+    case MRVOptions::FullScreenVisitedLinksColor:
+    case MRVOptions::FullScreenHighlightTextColor:
+    case MRVOptions::FullScreenFindTextColor:
+    case MRVOptions::FirstRevisionColor:
+    case MRVOptions::SecondRevisionColor:
+    case MRVOptions::ThirdRevisionColor:
+    case MRVOptions::FourthRevisionColor:
+    case MRVOptions::FifthRevisionColor:
+    case MRVOptions::ScratchPadTextColor:
+        return true;
+    default:
+        return false;
+    }
+}
+
+Stored parse(const ColorRow &row, const QString &text, QString *error)
+{
+    const QColor color(text);
+    if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting)) {
+        return refuse(error, MRVOptions::tr("'%1' cannot be seen").arg(text));
+    }
+    if (color.isValid()) {
+        return QVariant(color);
+    }
+    return refuse(error, MRVOptions::tr("'%1' is no colour such as #1f1f1f or navy").arg(text));
+}
+
+Stored parse(const DateTimeRow &, const QString &text, QString *error)
+{
+    const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
+    if (time.isValid()) {
+        return QVariant(time);
+    }
+    return refuse(error, MRVOptions::tr("'%1' is no date such as 2026-01-31T18:30:00").arg(text));
+}
+
+Stored parse(const FontRow &, const QString &text, QString *error)
+{
+    // QFont takes any text as a family, and leaves out what it does not understand.
+    const int fields = text.count(u',') + 1;
+    const QString size = text.section(u',', 1, 1);
+    bool isSize = false;
+    const double points = size.toDouble(&isSize);
+    const bool inPixels = fields > 2 && text.section(u',', 2, 2).toInt() > 0;
+    QFont font;
+    if (!text.section(u',', 0, 0).trimmed().isEmpty() && fields != 1 && isSize
+        && ((points > 0 && points <= 1000) || inPixels) && font.fromString(text)) {
+        return QVariant(font.toString());
+    }
+    return refuse(error, MRVOptions::tr("'%1' is no font such as Serif,12").arg(text));
+}
+
+Stored parse(const IntListRow &, const QString &text, QString *error)
+{
+    const QStringList parts =
+        text.split(QRegularExpression(QStringLiteral("\\s")), Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        bool ok = false;
+        part.toInt(&ok);
+        if (!ok) {
+            return refuse(error, MRVOptions::tr("'%1' is not a whole number").arg(part));
+        }
+    }
+    return QVariant(parts.join(u' '));
+}
+
+Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
+{
+    const auto bytes = bytesOf(text);
+    if (!bytes) {
+        return refuse(error, MRVOptions::tr("what follows 'base64:' is not Base64"));
+    }
+    if (bytes->isEmpty() && !row.value.make().isEmpty()) {
+        return refuse(error, MRVOptions::tr("nothing is no value; reset the setting instead"));
+    }
+    if (!bytes->isEmpty() && row.value.accepts && !row.value.accepts(*bytes)) {
+        return refuse(error, MRVOptions::tr("the bytes are not what is kept there"));
+    }
+    return QVariant(*bytes);
+}
+
+template<typename Format>
+Stored formatOf(const QString &text, Format (*read)(const QByteArray &), QString *error)
+{
+    const auto bytes = bytesOf(text);
+    // Bytes that cannot be read give an empty format.
+    if (bytes && !bytes->isEmpty()) {
+        const Format format = read(*bytes);
+        if (!format.isEmpty() || MRVSettings::toByteArray(format) == *bytes) {
+            return QVariant(MRVSettings::toByteArray(format));
+        }
+    }
+    return refuse(error, MRVOptions::tr("the text is no 'base64:' and the bytes of a format"));
+}
+
+Stored parse(const CharFormatRow &, const QString &text, QString *error)
+{
+    return formatOf<QTextCharFormat>(text, &MRVSettings::toTextCharFormat, error);
+}
+
+Stored parse(const BlockFormatRow &, const QString &text, QString *error)
+{
+    return formatOf<QTextBlockFormat>(text, &MRVSettings::toTextBlockFormat, error);
+}
+
+} // namespace
+
+QString MRVOptions::typeName(SettingType type)
+{
+    return uint(type) < std::size(TypeNames) ? QString::fromLatin1(TypeNames[type]) : QString();
+}
+
+QString MRVOptions::toText(SettingType type, const QVariant &value)
+{
+    switch (type) {
+    case FlagType:
+    case IntType:
+    case StringType:
+        break;
+    case RealType:
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    case StringListType:
+        return value.toStringList().join(u'\n');
+    case ColorType:
+        return textOf(value.value<QColor>());
+    case DateTimeType:
+        return value.toDateTime().toString(Qt::ISODateWithMs);
+    case FontType:
+        return textOf(value.value<QFont>());
+    case IntListType:
+        return textOf(value.value<QList<int>>());
+    case ByteArrayType:
+        return textOf(value.toByteArray());
+    case CharFormatType:
+        return Base64
+            + QString::fromLatin1(
+                   toByteArray(value.value<QTextFormat>().toCharFormat()).toBase64());
+    case BlockFormatType:
+        return Base64
+            + QString::fromLatin1(
+                   toByteArray(value.value<QTextFormat>().toBlockFormat()).toBase64());
+    }
+    return value.toString();
+}
+
+bool MRVOptions::setFromText(const QString &key, const QString &text, QString *error)
+{
+    bool known = false;
+    Stored stored;
+    forEachRow([&](const auto &row) {
+        if (!known && key == QLatin1String(row.key)) {
+            known = true;
+            stored = parse(row, text, error);
+        }
+    });
+    for (const SeparatorRow &row : separators()) {
+        if (key == QLatin1String(row.typeKey) || key == QLatin1String(row.customKey)) {
+            known = true;
+            stored = key == QLatin1String(row.typeKey) ? oneOf(separatorTypeWords(), text, error)
+                                                       : Stored(text);
+        }
+    }
+    if (!known) {
+        refuse(error, tr("there is no setting '%1'").arg(key));
+    }
+    if (!stored) {
+        return false;
+    }
+    if (setValue(key, *stored)) {
+        return true;
+    }
+    refuse(error, tr("%1 cannot be written").arg(fileName()));
+    return false;
+}

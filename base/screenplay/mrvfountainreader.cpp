@@ -1,0 +1,570 @@
+#include "screenplay/mrvfountain.h"
+
+#include "screenplay/mrvfountainsyntax_p.h"
+
+#include <climits>
+
+using namespace MrvFountain;
+
+namespace {
+
+using Element = MRVFountainElement;
+using Run = MRVFountainRun;
+
+// Finds notes and boneyards, which go on over the ends of lines.
+class ObjectScanner
+{
+public:
+    explicit ObjectScanner(const QString &text)
+        : m_text(text)
+    {
+    }
+
+    QVector<Object> objects();
+
+private:
+    int noteEnd(int start);
+    int boneyardEnd(int start);
+    bool endsParagraph(int lineEnd) const;
+
+    const QString &m_text;
+    // Where a search for an end has failed, all later ones fail, too.
+    int m_noNoteBefore = 0;
+    bool m_noBoneyards = false;
+};
+
+QVector<Object> ObjectScanner::objects()
+{
+    QVector<Object> found;
+    int at = 0;
+    while (at < m_text.size()) {
+        const QChar c = m_text.at(at);
+        const QChar next = at + 1 < m_text.size() ? m_text.at(at + 1) : QChar();
+        int end = -1;
+        if (c == u'\\') {
+            int behind = at;
+            while (behind < m_text.size() && m_text.at(behind) == u'\\') {
+                ++behind;
+            }
+            const bool escapes =
+                (behind - at) % 2 != 0 && behind < m_text.size() && isEscapable(m_text.at(behind));
+            at = escapes ? behind + 1 : behind;
+            continue;
+        }
+        if (c == u'[' && next == u'[' && (end = noteEnd(at + 2)) >= 0) {
+            found.append({at, end, Run::Note, noteText(m_text.midRef(at + 2, end - at - 4))});
+        } else if (c == u'/' && next == u'*' && (end = boneyardEnd(at + 2)) >= 0) {
+            found.append({at, end, Run::Boneyard, m_text.mid(at + 2, end - at - 4)});
+        }
+        at = end >= 0 ? end : at + 1;
+    }
+    found.append({INT_MAX, INT_MAX, Run::Note, QString()}); // for those who look at the next one
+    return found;
+}
+
+// Whether the line behind a line's end is empty: one blank is none, two are meant.
+bool ObjectScanner::endsParagraph(int lineEnd) const
+{
+    int blanks = 0;
+    int at = lineEnd + 1;
+    while (at < m_text.size() && blanks < 2 && isBlank(m_text.at(at))) {
+        ++at;
+        ++blanks;
+    }
+    return blanks < 2 && (at == m_text.size() || m_text.at(at) == u'\n');
+}
+
+int ObjectScanner::noteEnd(int start)
+{
+    if (start < m_noNoteBefore) {
+        return -1;
+    }
+    int at = start;
+    int backslashes = 0;
+    for (; at < m_text.size(); ++at) {
+        const QChar c = m_text.at(at);
+        if (c == u']' && backslashes % 2 == 0 && at + 1 < m_text.size()
+            && m_text.at(at + 1) == u']') {
+            return at + 2;
+        }
+        if (c == u'\n' && endsParagraph(at)) {
+            break;
+        }
+        backslashes = c == u'\\' ? backslashes + 1 : 0;
+    }
+    m_noNoteBefore = at;
+    return -1;
+}
+
+int ObjectScanner::boneyardEnd(int start)
+{
+    const int end = m_noBoneyards ? -1 : m_text.indexOf(QLatin1String("*/"), start);
+    m_noBoneyards = end < 0;
+    return end < 0 ? -1 : end + 2;
+}
+
+// A line, with the line ends within its notes and boneyards.
+struct Line
+{
+    int start;
+    int end;
+    int firstObject;
+    int endObject;
+    QString view; // with U+FFFC for each object
+
+    bool isEmpty() const { return isBlankLine(QStringRef(&view)); }
+};
+
+// Only marks and objects stand around them.
+void removeParentheses(MRVFountainRuns *runs)
+{
+    for (Run &run : *runs) {
+        const int open = run.kind == Run::Text ? run.text.indexOf(u'(') : -1;
+        if (open >= 0) {
+            run.text.remove(open, 1);
+            break;
+        }
+    }
+    for (int i = runs->size() - 1; i >= 0; --i) {
+        Run &run = (*runs)[i];
+        const int close = run.kind == Run::Text ? run.text.lastIndexOf(u')') : -1;
+        if (close >= 0) {
+            run.text.remove(close, 1);
+            break;
+        }
+    }
+}
+
+class FountainReader
+{
+public:
+    explicit FountainReader(const QString &text)
+        : m_text(text)
+        , m_objects(ObjectScanner(text).objects())
+    {
+        readLines();
+    }
+
+    MRVFountainScript script();
+    /** Of what script() has read. */
+    const TextRanges &ranges() const { return m_ranges; }
+
+private:
+    void readLines();
+    QStringRef view(int line) const;
+    bool isEmpty(int line) const;
+    bool isOnly(int line, Run::Kind kind) const;
+    bool endsBefore(int line, bool passBoneyards) const;
+
+    int readTitles();
+    void addTitleLine(MRVFountainTitle *title, const Line &line, int from) const;
+
+    int readParagraph(int line);
+    int readAction(int line);
+    int readDialogue(int line);
+    int readLines(Element::Kind kind, int line, int end);
+    void readHeading(const Line &line, bool forced);
+    void readCue(const Line &line, bool forced);
+    void addElement(const Element &element);
+    void addOneLine(Element::Kind kind, const Line &line, int markLength);
+    void addObject(Element::Kind kind, const Line &line);
+    MRVFountainRuns runs(const Line &line, int start, int end) const;
+    int contentStart(const Line &line) const;
+    int contentEnd(const Line &line) const;
+    int endOfKind(int line, LineKind kind) const;
+    LineKind kindOf(int line) const;
+    int startOf(int line) const
+    {
+        return line < m_lines.size() ? m_lines.at(line).start : m_text.size();
+    }
+    void placeElements(int line, int end);
+
+    const QString &m_text;
+    const QVector<Object> m_objects;
+    QVector<Line> m_lines;
+    MRVFountainScript m_script;
+    TextRanges m_ranges;
+};
+
+void FountainReader::readLines()
+{
+    int object = 0;
+    Line line{0, 0, 0, 0, QString()};
+    int at = 0;
+    const auto endLine = [&](int end) {
+        line.end = end;
+        line.endObject = object;
+        m_lines.append(line);
+        line = {end + 1, 0, object, 0, QString()};
+    };
+    int plain = 0;
+    while (at < m_text.size()) {
+        if (object < m_objects.size() && at == m_objects.at(object).start) {
+            line.view += m_text.midRef(plain, at - plain);
+            line.view += QChar(QChar::ObjectReplacementCharacter);
+            plain = at = m_objects.at(object++).end;
+        } else if (m_text.at(at) == u'\n') {
+            line.view += m_text.midRef(plain, at - plain);
+            endLine(at);
+            plain = ++at;
+        } else {
+            ++at;
+        }
+    }
+    if (line.start < m_text.size()) {
+        line.view += m_text.midRef(plain);
+        endLine(m_text.size());
+    }
+}
+
+QStringRef FountainReader::view(int line) const
+{
+    return line < m_lines.size() ? QStringRef(&m_lines.at(line).view) : QStringRef();
+}
+
+bool FountainReader::isEmpty(int line) const
+{
+    return line >= m_lines.size() || m_lines.at(line).isEmpty();
+}
+
+bool FountainReader::isOnly(int line, Run::Kind kind) const
+{
+    const Line &given = m_lines.at(line);
+    return given.endObject == given.firstObject + 1 && m_objects.at(given.firstObject).kind == kind
+        && trimmed(QStringRef(&given.view)).size() == 1;
+}
+
+// Whether a paragraph whose next line is this one has ended. What was cut out is passed over or
+// counts as an empty line.
+bool FountainReader::endsBefore(int line, bool passBoneyards) const
+{
+    while (!isEmpty(line) && isOnly(line, Run::Boneyard)) {
+        if (!passBoneyards) {
+            return true;
+        }
+        ++line;
+    }
+    return isEmpty(line);
+}
+
+LineKind FountainReader::kindOf(int line) const
+{
+    const LineKind kind = lineKind(view(line), endsBefore(line + 1, false));
+    // Rather a transition than somebody of that name, who has nothing to say but what was cut out.
+    if (kind == TransitionLine || endsBefore(line + 1, true)) {
+        return kind;
+    }
+    const LineKind spoken = lineKind(view(line), false);
+    return spoken == CueLine ? spoken : kind;
+}
+
+int FountainReader::contentStart(const Line &line) const
+{
+    int start = line.start;
+    while (start < line.end && isBlank(m_text.at(start))) {
+        ++start;
+    }
+    return start;
+}
+
+int FountainReader::contentEnd(const Line &line) const
+{
+    int end = line.end;
+    while (end > line.start && isBlank(m_text.at(end - 1))) {
+        --end;
+    }
+    return end;
+}
+
+MRVFountainRuns FountainReader::runs(const Line &line, int start, int end) const
+{
+    return runsOf(m_text, start, end,
+                  line.firstObject < line.endObject ? &m_objects.at(line.firstObject) : nullptr);
+}
+
+void FountainReader::addElement(const Element &element)
+{
+    const Element normal = normalizedElement(element);
+    if (isKept(normal)) {
+        m_script.elements.append(normal);
+    }
+}
+
+void FountainReader::addOneLine(Element::Kind kind, const Line &line, int markLength)
+{
+    Element element;
+    element.kind = kind;
+    element.runs = runs(line, contentStart(line) + markLength, contentEnd(line));
+    addElement(element);
+}
+
+void FountainReader::addObject(Element::Kind kind, const Line &line)
+{
+    addElement(Element(kind, m_objects.at(line.firstObject).text));
+}
+
+// Tells of the elements that were added last in which lines they stand.
+void FountainReader::placeElements(int line, int end)
+{
+    while (m_ranges.elements.size() < m_script.elements.size()) {
+        m_ranges.elements.append({startOf(line), startOf(end)});
+    }
+}
+
+MRVFountainScript FountainReader::script()
+{
+    int line = readTitles();
+    m_ranges.titles = {0, startOf(line)};
+    while (line < m_lines.size()) {
+        const int first = line;
+        for (; line < m_lines.size() && isEmpty(line); ++line) {
+            // One empty line parts paragraphs; more of them are meant.
+            if (line > first) {
+                m_script.elements.append(Element());
+                placeElements(line, line + 1);
+            }
+        }
+        if (line < m_lines.size()) {
+            const int start = line;
+            line = readParagraph(line);
+            placeElements(start, line);
+        }
+    }
+    normalizeTitles(&m_script.titles);
+    normalizeLyrics(&m_script.elements);
+    return m_script;
+}
+
+void FountainReader::addTitleLine(MRVFountainTitle *title, const Line &line, int from) const
+{
+    if (from >= line.end) {
+        return;
+    }
+    if (!title->value.isEmpty()) {
+        title->value.append({QStringLiteral("\n"), {}, Run::Text});
+    }
+    title->value += runs(line, from, line.end);
+}
+
+int FountainReader::readTitles()
+{
+    if (m_lines.isEmpty() || !beginsTitlePage(view(0), view(1))) {
+        return 0;
+    }
+    int line = 0;
+    for (; !isEmpty(line); ++line) {
+        const Line &given = m_lines.at(line);
+        const int key = titleKeyLength(view(line));
+        if (key > 0) {
+            m_script.titles.append({given.view.left(key), {}});
+            addTitleLine(&m_script.titles.last(), given, given.start + key + 1);
+        } else if (isBlank(given.view.at(0))) {
+            addTitleLine(&m_script.titles.last(), given, given.start);
+        } else {
+            break;
+        }
+    }
+    return line;
+}
+
+// @return the line behind the paragraph, or behind that part of it that is an element.
+int FountainReader::readParagraph(int line)
+{
+    const Line &given = m_lines.at(line);
+    if (isOnly(line, Run::Note)) {
+        addObject(Element::Note, given);
+        return line + 1;
+    }
+    if (isOnly(line, Run::Boneyard)) {
+        addObject(Element::Boneyard, given);
+        return line + 1;
+    }
+    const LineKind kind = kindOf(line);
+    switch (kind) {
+    case HeadingLine:
+    case ForcedHeadingLine:
+        readHeading(given, kind == ForcedHeadingLine);
+        return line + 1;
+    case CueLine:
+    case ForcedCueLine:
+        readCue(given, kind == ForcedCueLine);
+        placeElements(line, line + 1);
+        return readDialogue(line + 1);
+    case TransitionLine:
+    case ForcedTransitionLine:
+        addOneLine(Element::Transition, given, kind == ForcedTransitionLine ? 1 : 0);
+        return line + 1;
+    case LyricsLine:
+        line = readLines(Element::Lyrics, line, endOfKind(line, LyricsLine));
+        m_script.elements.last().apart = true;
+        return line;
+    case CenteredLine:
+        return readLines(Element::Centered, line, endOfKind(line, CenteredLine));
+    case SectionLine: {
+        const QStringRef text = trimmed(view(line));
+        int level = 1;
+        while (level < 255 && level < text.size() && text.at(level) == u'#') {
+            ++level;
+        }
+        const int before = m_script.elements.size();
+        addOneLine(Element::Section, given, level);
+        m_script.elements[before].level = level;
+        return line + 1;
+    }
+    case SynopsisLine:
+        addOneLine(Element::Synopsis, given, 1);
+        return line + 1;
+    case PageBreakLine:
+        addElement(Element(Element::PageBreak, QString()));
+        return line + 1;
+    default:
+        return readAction(line);
+    }
+}
+
+int FountainReader::endOfKind(int line, LineKind kind) const
+{
+    while (!isEmpty(line) && lineKind(view(line), true) == kind) {
+        ++line;
+    }
+    return line;
+}
+
+// Lyrics, centred text and dialogue: lines of one kind, each with its marks.
+int FountainReader::readLines(Element::Kind kind, int line, int end)
+{
+    Element element;
+    element.kind = kind;
+    for (int first = line; line < end; ++line) {
+        const Line &given = m_lines.at(line);
+        if (line > first) {
+            element.runs.append({QStringLiteral("\n"), {}, Run::Text});
+        }
+        const int before = kind == Element::Dialogue ? 0 : 1;
+        const int behind = kind == Element::Centered ? 1 : 0;
+        // Blanks behind dialogue stay.
+        const int last = kind == Element::Dialogue ? given.end : contentEnd(given) - behind;
+        element.runs += runs(given, contentStart(given) + before, last);
+    }
+    addElement(element);
+    return end;
+}
+
+void FountainReader::readHeading(const Line &line, bool forced)
+{
+    Element element;
+    element.kind = Element::SceneHeading;
+    const int start = contentStart(line) + (forced ? 1 : 0);
+    int end = contentEnd(line);
+    // Without objects the view is the line; with some, the end of both is the same all the same.
+    const Range number = sceneNumber(QStringRef(&line.view));
+    const QStringRef behind =
+        number.isEmpty() ? QStringRef() : trimmed(line.view.midRef(number.end));
+    if (!number.isEmpty()) {
+        element.sceneNumber = line.view.mid(number.start + 1, number.end - number.start - 2);
+        end = line.end - (line.view.size() - number.start);
+        while (end > start && isBlank(m_text.at(end - 1))) {
+            --end;
+        }
+    }
+    if (behind.isEmpty()) {
+        element.runs = runs(line, start, qMax(start, end));
+    } else {
+        // Marks around both the text and its number: no object stands behind the number.
+        QVector<Object> moved = m_objects.mid(line.firstObject, line.endObject - line.firstObject);
+        for (Object &object : moved) {
+            object.start -= start;
+            object.end -= start;
+        }
+        moved.append(m_objects.constLast());
+        const QString text = m_text.mid(start, end - start) + behind;
+        element.runs = runsOf(text, 0, text.size(), moved.constData());
+    }
+    addElement(element);
+}
+
+void FountainReader::readCue(const Line &line, bool forced)
+{
+    Element element;
+    element.kind = Element::Character;
+    int end = contentEnd(line);
+    const QStringRef text = trimmed(QStringRef(&line.view));
+    if (text.endsWith(u'^') && !isEscaped(text, text.size() - 1)) {
+        element.dual = true;
+        --end;
+    }
+    element.runs = runs(line, contentStart(line) + (forced ? 1 : 0), end);
+    addElement(element);
+}
+
+int FountainReader::readDialogue(int line)
+{
+    // Two blanks keep a speech together, where more of it follows.
+    const auto goesOn = [this](int at) {
+        return at < m_lines.size() && (!isEmpty(at) || m_lines.at(at).view.size() > 1);
+    };
+    const auto isSpoken = [this](int at) {
+        return !isParenthetical(view(at)) && !trimmed(view(at)).startsWith(u'~');
+    };
+    while (goesOn(line)) {
+        const int start = line;
+        if (isEmpty(line)) {
+            ++line; // between other things than dialogue it means nothing
+        } else if (isParenthetical(view(line))) {
+            Element element;
+            element.kind = Element::Parenthetical;
+            const Line &given = m_lines.at(line);
+            element.runs = runs(given, contentStart(given), contentEnd(given));
+            removeParentheses(&element.runs);
+            addElement(element);
+            ++line;
+        } else if (!isSpoken(line)) {
+            line = readLines(Element::Lyrics, line, endOfKind(line, LyricsLine));
+        } else {
+            int end = line + 1;
+            while (goesOn(end) && (isEmpty(end) || isSpoken(end))) {
+                ++end;
+            }
+            line = readLines(Element::Dialogue, line, end);
+        }
+        placeElements(start, line);
+    }
+    return line;
+}
+
+int FountainReader::readAction(int line)
+{
+    Element element;
+    for (int first = line; !isEmpty(line); ++line) {
+        const Line &given = m_lines.at(line);
+        const LineKind kind = line > first ? lineKind(view(line), true) : ActionLine;
+        if (interruptsAction(kind)) {
+            break;
+        }
+        if (line > first) {
+            element.runs.append({QStringLiteral("\n"), {}, Run::Text});
+        }
+        const int start = contentStart(given);
+        const bool forced = trimmed(view(line)).startsWith(u'!');
+        element.runs += runs(given, forced ? start + 1 : given.start, given.end);
+    }
+    addElement(element);
+    return line;
+}
+
+} // namespace
+
+MRVFountainScript MrvFountain::scriptOf(const QString &plain, TextRanges *ranges)
+{
+    FountainReader reader(plain);
+    const MRVFountainScript script = reader.script();
+    if (ranges) {
+        *ranges = reader.ranges();
+    }
+    return script;
+}
+
+MRVFountainScript MRVFountainScript::fromText(const QString &text)
+{
+    return scriptOf(plainText(text));
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "screenplay/mrvfountain.h"
+
+#include <QString>
+#include <QVector>
+
+// What the reader and the writer of Fountain must agree on: the writer asks how a line would be
+// read before it decides to mark it. The line is given with each note and boneyard in it as one
+// U+FFFC.
+
+namespace MrvFountain {
+
+enum LineKind {
+    ActionLine,
+    ForcedActionLine,
+    HeadingLine,
+    ForcedHeadingLine,
+    CueLine,
+    ForcedCueLine,
+    LyricsLine,
+    TransitionLine,
+    ForcedTransitionLine,
+    CenteredLine,
+    SectionLine,
+    SynopsisLine,
+    PageBreakLine,
+};
+
+/** What a backslash may stand before, to take its meaning; within notes it is "]" alone. */
+constexpr char Escapable[] = "*_[/#^<(.~";
+
+inline bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+bool isEscapable(QChar c);
+bool isBlankLine(const QStringRef &line);
+QStringRef trimmed(const QStringRef &line);
+/** Less blanks, emphasis marks and objects at both ends. */
+QStringRef bare(const QStringRef &line);
+/** Whether an odd number of backslashes stands before @p position. */
+bool isEscaped(const QStringRef &line, int position);
+
+/** How a line is read that begins a paragraph; @p nextBlank tells whether it ends it, too. */
+LineKind lineKind(const QStringRef &line, bool nextBlank);
+/** Whether a line is what lineKind() says also where action goes on. */
+bool interruptsAction(LineKind kind);
+bool isParenthetical(const QStringRef &line);
+/** Where the extensions of a cue begin, or its length. */
+int extensionStart(const QStringRef &cue);
+
+struct Range
+{
+    int start = 0;
+    int end = 0;
+    bool isEmpty() const { return start >= end; }
+};
+/** The number of a scene with both its "#", at the end of a heading but for emphasis marks. */
+Range sceneNumber(const QStringRef &line);
+bool isInSceneNumber(QChar c);
+
+/** The length of a title page's key, or 0 where the line does not begin with one. */
+int titleKeyLength(const QStringRef &line);
+/** Whether a title page begins with @p line, with @p next behind it. */
+bool beginsTitlePage(const QStringRef &line, const QStringRef &next);
+
+/** Where in a text the title page and the elements of its script stand, as whole lines. */
+struct TextRanges
+{
+    Range titles;
+    QVector<Range> elements;
+};
+
+/** The script in a text that plainText() gave. */
+MRVFountainScript scriptOf(const QString &plain, TextRanges *ranges = nullptr);
+/** The text of a script that is normalized. */
+QString textOf(const MRVFountainScript &normal, TextRanges *ranges = nullptr);
+
+/** A text as it is read: without a byte-order mark, and withPlainLineEnds(). */
+QString plainText(const QString &text);
+/** With '\n' for whatever ends a line in some system, and without what would upset a document. */
+QString withPlainLineEnds(const QString &text);
+
+MRVFountainElement normalizedElement(const MRVFountainElement &element);
+/** Normalizes the entries of a title page; a single one without a value makes no title page. */
+void normalizeTitles(QVector<MRVFountainTitle> *titles);
+/**
+ * Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so.
+ */
+void normalizeLyrics(QVector<MRVFountainElement> *elements);
+/** Whether something is left of a normalized element that Fountain can hold. */
+bool isKept(const MRVFountainElement &element);
+/** Runs parted at line breaks; there is always a line. */
+QVector<MRVFountainRuns> linesOf(const MRVFountainRuns &runs);
+
+/**
+ * A line's runs, from the characters between @p start and @p end; @p objects are those in between,
+ * in order.
+ */
+struct Object
+{
+    int start;
+    int end;
+    MRVFountainRun::Kind kind;
+    QString text;
+};
+MRVFountainRuns runsOf(const QString &text, int start, int end, const Object *objects);
+/** The characters of a line that runsOf() reads as these runs. */
+QString inlineText(const MRVFountainRuns &line, bool escapeFirst = false);
+QString objectText(const MRVFountainRun &run);
+/** The text of a note without the backslashes that objectText() puts before its brackets. */
+QString noteText(const QStringRef &text);
+
+} // namespace MrvFountain

@@ -1,0 +1,93 @@
+#include "state/mrvtextpresetmgr.h"
+
+#include "core/mrvcoreutil.h"
+#include "options/mrvoptions.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
+
+Q_GLOBAL_STATIC(MRVTextPresetMgr, theManager)
+
+// What cannot be read to its end holds presets that the next save would remove for good.
+bool keepDamaged(const QString &path, QString *error)
+{
+    QString damage;
+    const QByteArray bytes =
+        QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, error) : QByteArray();
+    MRVTextPresetScheme::fromByteArray(bytes, &damage);
+    return damage.isEmpty() || MRVCoreUtil::WriteBinaryFile(bytes, path + QLatin1Char('~'), error);
+}
+
+} // namespace
+
+MRVTextPresetMgr *MRVTextPresetMgr::instance()
+{
+    return theManager();
+}
+
+MRVTextPresetMgr::MRVTextPresetMgr(QObject *parent)
+    : QObject(parent)
+    , m_scheme(loadPresetScheme())
+{
+}
+
+MRVTextPresetMgr::~MRVTextPresetMgr() = default;
+
+void MRVTextPresetMgr::setPresetScheme(const MRVTextPresetScheme &scheme)
+{
+    m_scheme = scheme;
+    savePresetScheme(m_scheme);
+    Q_EMIT presetsChanged();
+}
+
+void MRVTextPresetMgr::removePreset(const QString &name)
+{
+    if (!m_scheme.deletePreset(name)) {
+        return;
+    }
+    savePresetScheme(m_scheme);
+    Q_EMIT presetsChanged();
+}
+
+QString MRVTextPresetMgr::presetSchemeFilePath()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
+                      + QLatin1String("/TextPresets"));
+    if (!folder.mkpath(QStringLiteral(".")) || !QFileInfo(folder.path()).isExecutable()) {
+        return QString();
+    }
+    return folder.filePath(QStringLiteral("TextPresets.bin"));
+}
+
+void MRVTextPresetMgr::savePresetScheme(const MRVTextPresetScheme &scheme)
+{
+    const QByteArray bytes = MRVTextPresetScheme::toByteArray(scheme);
+    const QString path = presetSchemeFilePath();
+    QString error;
+    if (!path.isEmpty() && keepDamaged(path, &error)
+        && MRVCoreUtil::WriteBinaryFile(bytes, path, &error)) {
+        return;
+    }
+    qCWarning(lcSettings, "The text presets go to the settings: %s", qPrintable(error));
+    mrvOptions()->setValue(MRVOptions::TextPresets, bytes);
+}
+
+MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
+{
+    const QString path = presetSchemeFilePath();
+    QString error;
+    if (!path.isEmpty() && QFileInfo::exists(path)) {
+        const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
+        if (error.isEmpty()) {
+            return MRVTextPresetScheme::fromByteArray(bytes);
+        }
+        qCWarning(lcSettings, "%s", qPrintable(error));
+    }
+    return MRVTextPresetScheme::fromByteArray(mrvOptions()->value(MRVOptions::TextPresets));
+}

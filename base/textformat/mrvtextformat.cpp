@@ -1,0 +1,398 @@
+#include "textformat/mrvtextformat.h"
+#include "textformat/mrvtextformat_p.h"
+
+#include "core/mrvfuzzycompare.h"
+
+#include <QColor>
+#include <QFont>
+#include <QRegExp>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace {
+
+constexpr double CanonicalBase = 12.0;
+
+// Qt's marks around the text of a frame; it names them in private headers only.
+constexpr QChar BeginningOfFrame(0xfdd0);
+constexpr QChar EndOfFrame(0xfdd1);
+
+enum class Default { Int, Double, Bool, String, List, Color };
+
+struct DefaultRow
+{
+    int property;
+    Default type;
+    int value;
+};
+
+// clang-format off
+constexpr DefaultRow DefaultRows[] = {
+    {QTextFormat::CssFloat,                          Default::Int,    0},
+    {QTextFormat::LayoutDirection,                   Default::Int,    0},
+    {QTextFormat::OutlinePen,                        Default::Int,    0},
+    {QTextFormat::BackgroundBrush,                   Default::Int,    0},
+    {QTextFormat::ForegroundBrush,                   Default::Int,    0},
+    {QTextFormat::BackgroundImageUrl,                Default::String, 0},
+    {QTextFormat::BlockAlignment,                    Default::Int,    Qt::AlignLeft},
+    {QTextFormat::BlockTopMargin,                    Default::Double, 0},
+    {QTextFormat::BlockBottomMargin,                 Default::Double, 0},
+    {QTextFormat::BlockLeftMargin,                   Default::Double, 0},
+    {QTextFormat::BlockRightMargin,                  Default::Double, 0},
+    {QTextFormat::TextIndent,                        Default::Double, 0},
+    {QTextFormat::TabPositions,                      Default::List,   0},
+    {MRVTextFormat::BlockLeftIndent,                 Default::Double, 0},
+    {MRVTextFormat::BlockRightIndent,                Default::Double, 0},
+    {QTextFormat::BlockTrailingHorizontalRulerWidth, Default::Int,    0},
+    {MRVTextFormat::BlockSpacing,                    Default::Double, 0},
+    {MRVTextFormat::BlockBaseSpacing,                Default::Double, 0},
+    {QTextFormat::FontCapitalization,                Default::Int,    0},
+    {QTextFormat::FontLetterSpacing,                 Default::Double, 0},
+    {QTextFormat::FontWordSpacing,                   Default::Double, 0},
+    {QTextFormat::FontStyleHint,                     Default::Int,    0},
+    {QTextFormat::FontStyleStrategy,                 Default::Int,    0},
+    {QTextFormat::FontKerning,                       Default::Bool,   0},
+    {QTextFormat::FontFamily,                        Default::String, 0},
+    {QTextFormat::FontPointSize,                     Default::Double, 0},
+    {QTextFormat::FontWeight,                        Default::Int,    QFont::Normal},
+    {QTextFormat::FontItalic,                        Default::Bool,   0},
+    {QTextFormat::FontOverline,                      Default::Bool,   0},
+    {QTextFormat::FontStrikeOut,                     Default::Bool,   0},
+    {QTextFormat::FontFixedPitch,                    Default::Bool,   0},
+    {QTextFormat::FontPixelSize,                     Default::Int,    0},
+    {QTextFormat::TextUnderlineColor,                Default::Color,  0},
+    {QTextFormat::TextVerticalAlignment,             Default::Int,    0},
+    {QTextFormat::TextOutline,                       Default::Int,    0},
+    {QTextFormat::TextUnderlineStyle,                Default::Int,    0},
+    {QTextFormat::TextToolTip,                       Default::String, 0},
+    {QTextFormat::IsAnchor,                          Default::Bool,   0},
+    {QTextFormat::AnchorHref,                        Default::String, 0},
+    {QTextFormat::AnchorName,                        Default::String, 0},
+    {QTextFormat::PageBreakPolicy,                   Default::Int,    0},
+    {MRVTextFormat::InlineAnnotationProperty,        Default::Bool,   0},
+    {MRVTextFormat::InlineFootnoteProperty,          Default::Bool,   0},
+    {MRVTextFormat::InspectorCommentProperty,        Default::Bool,   0},
+    {MRVTextFormat::InspectorFootnoteProperty,       Default::Bool,   0},
+};
+// clang-format on
+
+QVariant toVariant(const DefaultRow &row)
+{
+    switch (row.type) {
+    case Default::Int:
+        return row.value;
+    case Default::Double:
+        return double(row.value);
+    case Default::Bool:
+        return row.value != 0;
+    case Default::String:
+        return QString(QLatin1String(""));
+    case Default::List:
+        return QVariantList();
+    case Default::Color:
+        return QColor();
+    }
+    return QVariant();
+}
+
+struct Spacing
+{
+    double spacing;
+    double base;
+};
+
+// A heading level under the same number is an int, which doubleProperty() reads as 0.
+Spacing spacingOf(const QTextBlockFormat &format)
+{
+    return {format.doubleProperty(MRVTextFormat::BlockSpacing),
+            format.doubleProperty(MRVTextFormat::BlockBaseSpacing)};
+}
+
+void setSpacing(QTextBlockFormat *format, const Spacing &value)
+{
+    format->setProperty(MRVTextFormat::BlockSpacing, value.spacing);
+    format->setProperty(MRVTextFormat::BlockBaseSpacing, value.base);
+}
+
+// How two reals are compared is the caller's: simplified() and simplifySpacing() differ in it.
+template<typename Equal>
+Spacing normalized(const Spacing &old, Equal equal)
+{
+    if (equal(old.spacing, old.base)) {
+        return {CanonicalBase, CanonicalBase};
+    }
+    if (equal(old.base, 0.0)) {
+        return {old.spacing, 0.0};
+    }
+    return {old.spacing * CanonicalBase / old.base, CanonicalBase};
+}
+
+void copyIfPresent(QTextBlockFormat *to, const QTextBlockFormat &from, int property)
+{
+    if (from.hasProperty(property)) {
+        to->setProperty(property, from.property(property));
+    }
+}
+
+// Qt writes a list of anchor names where older data has one name, and no names can be either. A
+// stored weight of 0 means normal.
+QVariant comparable(int property, const QVariant &value)
+{
+    if (property == QTextFormat::AnchorName && value.userType() == QMetaType::QStringList
+        && value.toStringList().isEmpty()) {
+        return MRVTextFormat::defaultProperty(property);
+    }
+    if (property == QTextFormat::FontWeight && value.userType() == QMetaType::Int && value == 0) {
+        return MRVTextFormat::defaultProperty(property);
+    }
+    return value;
+}
+
+bool coveredBy(const QMap<int, QVariant> &a, const QMap<int, QVariant> &b)
+{
+    for (auto it = a.cbegin(); it != a.cend(); ++it) {
+        if (it.key() == QTextFormat::PageBreakPolicy) {
+            continue;
+        }
+        const QVariant value = comparable(it.key(), it.value());
+        const auto other = b.constFind(it.key());
+        const bool same = other != b.cend() ? comparable(it.key(), other.value()) == value
+                                            : value == MRVTextFormat::defaultProperty(it.key());
+        if (!same) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Kept beside the document, since a Qt document has a default font only.
+constexpr char DefaultCharFormatName[] = "_mrv_defaultCharFormat";
+
+QTextCharFormat attributesOf(const QFont &font)
+{
+    QTextCharFormat format;
+    format.setProperty(QTextFormat::FontFamily, font.families().value(0, font.family()));
+    if (font.pointSizeF() > 0.0) {
+        format.setProperty(QTextFormat::FontPointSize, font.pointSizeF());
+    } else {
+        format.setProperty(QTextFormat::FontPixelSize, font.pixelSize());
+    }
+    if (font.weight() != QFont::Normal) {
+        format.setProperty(QTextFormat::FontWeight, font.weight());
+    }
+    if (font.italic()) {
+        format.setProperty(QTextFormat::FontItalic, true);
+    }
+    if (font.underline()) {
+        format.setProperty(QTextFormat::TextUnderlineStyle, int(QTextCharFormat::SingleUnderline));
+    }
+    if (font.overline()) {
+        format.setProperty(QTextFormat::FontOverline, true);
+    }
+    if (font.strikeOut()) {
+        format.setProperty(QTextFormat::FontStrikeOut, true);
+    }
+    if (font.fixedPitch()) {
+        format.setProperty(QTextFormat::FontFixedPitch, true);
+    }
+    if (font.capitalization() != QFont::MixedCase) {
+        format.setProperty(QTextFormat::FontCapitalization, int(font.capitalization()));
+    }
+    return format;
+}
+
+} // namespace
+
+QTextCharFormat MRVTextFormat::setFontHinting(const QTextCharFormat &format, bool hinting)
+{
+    QTextCharFormat copy = format;
+    copy.setProperty(QTextFormat::FontHintingPreference,
+                     int(hinting ? QFont::PreferFullHinting : QFont::PreferNoHinting));
+    return copy;
+}
+
+bool MRVTextFormat::hasAnyProperty(const QTextCharFormat &format, const QSet<int> &properties)
+{
+    for (int property : properties) {
+        if (format.hasProperty(property)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QTextBlockFormat MRVTextFormat::simplified(const QTextBlockFormat &format, FormatGroups groups)
+{
+    QTextBlockFormat simple;
+    if (groups & LineSpacingGroup) {
+        setSpacing(&simple, normalized(spacingOf(format), mrvFuzzyCompare));
+    }
+    if (groups & ParagraphSpacingGroup) {
+        copyIfPresent(&simple, format, QTextFormat::BlockTopMargin);
+        copyIfPresent(&simple, format, QTextFormat::BlockBottomMargin);
+    }
+    if (groups & IndentGroup) {
+        copyIfPresent(&simple, format, BlockLeftIndent);
+        copyIfPresent(&simple, format, QTextFormat::TextIndent);
+        copyIfPresent(&simple, format, BlockRightIndent);
+    }
+    return simple;
+}
+
+void MRVTextFormat::simplifySpacing(QTextBlockFormat *format)
+{
+    if (!format) {
+        return;
+    }
+    // Deliberate: exact here, where simplified() allows for rounding.
+    const auto equal = [](double a, double b) { return a == b; };
+    setSpacing(format, normalized(spacingOf(*format), equal));
+}
+
+QTextBlockFormat MRVTextFormat::simplifiedSpacing(const QTextBlockFormat &format)
+{
+    QTextBlockFormat copy = format;
+    simplifySpacing(&copy);
+    return copy;
+}
+
+MRVTextFormat::SpacingType MRVTextFormat::spacingType(const QTextBlockFormat &format, double *value)
+{
+    const Spacing pair = spacingOf(simplifiedSpacing(format));
+    SpacingType type = SingleSpacing;
+    double companion = 1.0;
+    if (pair.base != 0.0) {
+        if (pair.spacing != 0.0 && pair.spacing != pair.base) {
+            type = pair.spacing == 2 * pair.base ? DoubleSpacing : MultipleSpacing;
+            companion = pair.spacing / pair.base;
+        }
+    } else if (pair.spacing > 0.0) {
+        type = FixedSpacing;
+        companion = pair.spacing;
+    } else if (pair.spacing < 0.0) {
+        type = ExactSpacing;
+        companion = -pair.spacing;
+    }
+    if (value) {
+        *value = companion;
+    }
+    return type;
+}
+
+bool MRVTextFormat::equivalentSpacing(const QTextBlockFormat &a, const QTextBlockFormat &b)
+{
+    double valueA = 0.0;
+    double valueB = 0.0;
+    return spacingType(a, &valueA) == spacingType(b, &valueB)
+        && !(valueA < valueB || valueA > valueB);
+}
+
+bool MRVTextFormat::equivalent(const QTextFormat &a, const QTextFormat &b)
+{
+    if (&a == &b) {
+        return true;
+    }
+    mrvRegisterTextTypes();
+    const QMap<int, QVariant> propertiesA = a.properties();
+    const QMap<int, QVariant> propertiesB = b.properties();
+    return coveredBy(propertiesA, propertiesB) && coveredBy(propertiesB, propertiesA);
+}
+
+bool MRVTextFormat::formatsMatch(const QTextCharFormat &format, const QTextCharFormat &pattern,
+                                 bool compareValues)
+{
+    mrvRegisterTextTypes();
+    const QMap<int, QVariant> wanted = pattern.properties();
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+        if (!format.hasProperty(it.key())) {
+            return false;
+        }
+        // The format's value stands on the left: QVariant converts the right one to its type.
+        if (compareValues && !(format.property(it.key()) == it.value())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QVariant MRVTextFormat::defaultProperty(int property)
+{
+    for (const DefaultRow &row : DefaultRows) {
+        if (row.property == property) {
+            return toVariant(row);
+        }
+    }
+    return QVariant();
+}
+
+QTextCharFormat MRVTextFormat::defaultCharFormat(const QTextDocument &document)
+{
+    const QVariant kept = document.property(DefaultCharFormatName);
+    if (kept.userType() == QMetaType::QTextFormat) {
+        return kept.value<QTextFormat>().toCharFormat();
+    }
+    return attributesOf(document.defaultFont());
+}
+
+void MRVTextFormat::setDefaultCharFormat(QTextDocument &document, const QTextCharFormat &format)
+{
+    document.setProperty(DefaultCharFormatName, QVariant::fromValue<QTextFormat>(format));
+    QTextCharFormat drawn = format;
+    // A stored 0 means normal weight; Qt would draw it hair-thin.
+    if (drawn.intProperty(QTextFormat::FontWeight) == 0) {
+        drawn.clearProperty(QTextFormat::FontWeight);
+    }
+    // Qt draws with the first of the families, whatever the single family says.
+    const QString family = drawn.property(QTextFormat::FontFamilies).toStringList().value(0);
+    if (!family.isEmpty()) {
+        drawn.setProperty(QTextFormat::FontFamily, family);
+    }
+    document.setDefaultFont(drawn.font());
+}
+
+int MRVTextFormat::morvaneLinkId(const QString &href)
+{
+    static const QRegExp pattern(QStringLiteral("^\\d+$"), Qt::CaseSensitive);
+    // A QRegExp remembers its last match, so the shared one is copied.
+    if (QRegExp(pattern).indexIn(href) < 0) {
+        return -1;
+    }
+    bool ok = false;
+    const int id = href.toInt(&ok);
+    return ok ? id : -1;
+}
+
+bool MRVTextFormat::isMorvaneLink(const QString &href)
+{
+    return morvaneLinkId(href) >= 0;
+}
+
+bool MRVTextFormat::isMorvaneLink(const QTextCharFormat &format)
+{
+    return format.isAnchor() && isMorvaneLink(format.anchorHref());
+}
+
+bool MRVTextFormat::hasFrameInString(const QString &text)
+{
+    return text.contains(BeginningOfFrame) || text.contains(EndOfFrame);
+}
+
+bool MRVTextFormat::hasBlockInString(const QString &text)
+{
+    return text.contains(QChar(QChar::ParagraphSeparator)) || hasFrameInString(text);
+}
+
+QPair<QTextBlockFormat, QTextCharFormat> mrvDocumentFormatPair(const QTextDocument &document)
+{
+    // A cursor takes a document that may change; this one only reads.
+    QTextCursor cursor(const_cast<QTextDocument *>(&document));
+    cursor.movePosition(QTextCursor::Start);
+    return {cursor.blockFormat(), cursor.charFormat()};
+}
+
+bool mrvIsPreserved(const QTextCharFormat &format)
+{
+    QTextCharFormat pattern;
+    pattern.setProperty(MRVTextFormat::PreserveFormatProperty, true);
+    return MRVTextFormat::formatsMatch(format, pattern, true);
+}

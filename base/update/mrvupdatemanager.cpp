@@ -1,0 +1,231 @@
+#include "update/mrvupdatemanager.h"
+
+#include "download/mrvmessage.h"
+#include "network/mrvnetwork.h"
+#include "settings/mrvsettings.h"
+#include "update/mrvupdatedownloader.h"
+#include "update/mrvupdatemodel.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoopLocker>
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QScopedPointer>
+#include <QTimer>
+#include <QUrl>
+
+#include <optional>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcWeb, "mrv.web", QtWarningMsg)
+
+constexpr int StartUpDelay = 5000; // milliseconds
+
+MRVUpdateManager *manager = nullptr;
+
+struct Keys
+{
+    const char *application;
+    const char *check;
+    const char *interval;
+    const char *last;
+};
+
+// clang-format off
+constexpr Keys keys[] = {
+    {"Morvane",  "General/checkForUpdates", "General/checkForUpdatesInterval",     "General/lastCheckForUpdates"},
+    // "Uptates" is what is stored.
+    {"Fernwick", "Options/CheckForUpdates", "Options/CheckForUptatesIntervalDays", "Options/CheckForUptatesLastDateTime"},
+};
+// clang-format on
+
+QString keyOf(const char *Keys::*key)
+{
+    for (const Keys &row : keys) {
+        if (QCoreApplication::applicationName() == QLatin1String(row.application)) {
+            return QLatin1String(row.*key);
+        }
+    }
+    return QString();
+}
+
+QVariant setting(const QString &key)
+{
+    const MRVSettings settings(QCoreApplication::organizationName(),
+                               QCoreApplication::applicationName());
+    return key.isEmpty() ? QVariant()
+                         : settings.value(key, settings.value(QLatin1String("Options/") + key));
+}
+
+bool isCheckDue()
+{
+    if (!setting(MRVUpdateManager::checkForUpdatesKey()).toBool()) {
+        return false;
+    }
+    const QDate last = setting(MRVUpdateManager::lastCheckForUpdatesKey()).toDateTime().date();
+    return !last.isValid()
+        || last.daysTo(QDate::currentDate())
+        >= setting(MRVUpdateManager::checkForUpdatesIntervalKey()).toInt();
+}
+
+} // namespace
+
+MRVUpdateManager::MRVUpdateManager(QObject *parent)
+    : QObject(parent)
+    , m_action(new QAction(tr("&Check for Updates..."), this))
+{
+    connect(m_action, &QAction::triggered, this, &MRVUpdateManager::checkForUpdates);
+    if (isCheckDue()) {
+        auto *const timer = new QTimer(this);
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &MRVUpdateManager::checkForUpdatesSilent);
+        timer->start(StartUpDelay);
+    }
+}
+
+MRVUpdateManager::~MRVUpdateManager()
+{
+    manager = nullptr;
+    qRemovePostRoutine(&MRVUpdateManager::release);
+    delete m_downloader;
+}
+
+MRVUpdateManager *MRVUpdateManager::instance()
+{
+    if (!manager) {
+        manager = new MRVUpdateManager(QCoreApplication::instance());
+        // The application deletes its children when it can have no windows any more.
+        qAddPostRoutine(&MRVUpdateManager::release);
+    }
+    return manager;
+}
+
+void MRVUpdateManager::release()
+{
+    delete manager;
+}
+
+void MRVUpdateManager::setupMenuActions(QMenu *menu)
+{
+    menu->addAction(m_action);
+}
+
+bool MRVUpdateManager::setPublicKey(const QByteArray &key)
+{
+    m_publicKey = key;
+    return MRVUpdateModel().setPublicKey(key);
+}
+
+QString MRVUpdateManager::checkForUpdatesKey()
+{
+    return keyOf(&Keys::check);
+}
+
+QString MRVUpdateManager::checkForUpdatesIntervalKey()
+{
+    return keyOf(&Keys::interval);
+}
+
+QString MRVUpdateManager::lastCheckForUpdatesKey()
+{
+    return keyOf(&Keys::last);
+}
+
+void MRVUpdateManager::checkForUpdates()
+{
+    doCheckForUpdates(false);
+}
+
+void MRVUpdateManager::checkForUpdatesSilent()
+{
+    doCheckForUpdates(true);
+}
+
+void MRVUpdateManager::doCheckForUpdates(bool silent)
+{
+    if (!MrvNetwork::isNetworkConnected()) {
+        if (!silent) {
+            mrvShowMessage(QApplication::activeWindow(), QMessageBox::Warning, tr("Morvane Update"),
+                           tr("No active network connection found\nYou need internet "
+                              "connection to check for updates"));
+        }
+        return;
+    }
+    if (m_downloader) {
+        if (!silent) {
+            m_downloader->disableSilent();
+        }
+        return;
+    }
+    m_downloader = new MRVUpdateDownloader(QCoreApplication::instance());
+    connect(m_downloader, &MRVUpdateDownloader::finished, this,
+            &MRVUpdateManager::onUpdateFinished);
+    connect(m_downloader, QOverload<QString>::of(&MRVUpdateDownloader::installRequested), this,
+            &MRVUpdateManager::onInstallUpdateRequested);
+    connect(m_downloader, &MRVUpdateDownloader::updateChecked, this,
+            &MRVUpdateManager::onUpdateChecked);
+    m_downloader->setPublicKey(m_publicKey);
+    // What it shows runs an event loop, in which this object may be released.
+    const QPointer<MRVUpdateManager> self(this);
+    if (!m_downloader->startUpdate(silent) && self) {
+        forgetDownloader();
+    }
+}
+
+void MRVUpdateManager::forgetDownloader()
+{
+    if (m_downloader) {
+        m_downloader->deleteLater();
+        m_downloader.clear();
+    }
+}
+
+void MRVUpdateManager::onUpdateChecked()
+{
+    const QString key = lastCheckForUpdatesKey();
+    if (key.isEmpty()) {
+        return;
+    }
+    MRVSettings settings(QCoreApplication::organizationName(), QCoreApplication::applicationName());
+    settings.setValue(key, QDateTime::currentDateTime());
+    QString error;
+    if (!settings.saveNow(&error)) {
+        qCWarning(lcWeb, "%s", qUtf8Printable(error));
+    }
+}
+
+void MRVUpdateManager::onUpdateFinished()
+{
+    forgetDownloader();
+}
+
+void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
+{
+    // Unsaved documents may keep the user for a while, and the application may release this object
+    // meanwhile.
+    const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
+    m_downloader.clear();
+    // Of a file that an application wants opened, the check knows nothing.
+    const bool isChecks = check && sender() == check.data();
+    if (check) {
+        check->setParent(nullptr);
+    }
+    // The application must not quit before the installer has been opened; one that does not quit
+    // with its last window would do so with the last locker.
+    std::optional<QEventLoopLocker> locker;
+    if (QGuiApplication::quitOnLastWindowClosed()) {
+        locker.emplace();
+    }
+    QApplication::closeAllWindows();
+    if (isChecks && !check->confirmInstaller()) {
+        return;
+    }
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::toNativeSeparators(exeFilePath)))) {
+        qCWarning(lcWeb, "%s cannot be opened", qUtf8Printable(exeFilePath));
+    }
+}

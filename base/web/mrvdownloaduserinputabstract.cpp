@@ -1,4 +1,0 @@
-#include "web/mrvdownloaduserinputabstract.h"
-
-// Here and not in the header, so that the type information lies in one library only.
-MRVDownloadUserInputAbstract::~MRVDownloadUserInputAbstract() = default;

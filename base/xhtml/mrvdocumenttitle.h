@@ -1,0 +1,12 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QString>
+
+class QTextDocument;
+
+/**
+ * A title for a document: its own, else the text of a heading near its beginning, else @p fallback.
+ */
+MRVBASE_EXPORT QString mrvDocumentTitle(const QTextDocument &document, const QString &fallback);

@@ -1,0 +1,241 @@
+#include "xhtml/mrvtextxhtmlexporter.h"
+
+#include "core/mrvcoreutil.h"
+#include "document/mtextdoc.h"
+#include "textformat/mrvtextformat.h"
+#include "util/mrvnames.h"
+#include "xhtml/mrvdocumenttitle.h"
+#include "xhtml/mrvhtmltext.h"
+#include "xhtml/mrvpagewriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QTextDocument>
+#include <QTextImageFormat>
+
+namespace {
+
+// Removes what an export that failed has written so far; folders go only when nothing else is in
+// them.
+void removeFiles(const QStringList &files, const QString &newFolder)
+{
+    for (const QString &file : files) {
+        QFile::remove(file);
+    }
+    if (!newFolder.isEmpty()) {
+        QDir().rmdir(newFolder);
+    }
+}
+
+const char *imageFormatOf(MRVTextXhtmlExporter::ExportType type)
+{
+    const bool kindle =
+        type == MRVTextXhtmlExporter::Kindle || type == MRVTextXhtmlExporter::KindleKF8;
+    return kindle ? "JPG" : "PNG";
+}
+
+} // namespace
+
+MRVTextXhtmlExporter::MRVTextXhtmlExporter(const QTextDocument *document)
+    : m_document(document)
+{
+}
+
+QString MRVTextXhtmlExporter::pageText(const QString &html, ExportType type, const QString &title)
+{
+    if (type == Html) {
+        return html;
+    }
+    MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, &m_styles);
+    writer.setLanguage(m_language);
+    return writer.write(html, m_document->metaInformation(QTextDocument::DocumentTitle), title);
+}
+
+QString MRVTextXhtmlExporter::toText(ExportType type, const QString &title)
+{
+    if (!m_document) {
+        return QString();
+    }
+    return pageText(m_document->toHtml("utf-8"), type,
+                    title.isEmpty() ? mrvDocumentTitle(*m_document, tr("Untitled")) : title);
+}
+
+bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exportImages,
+                                  const QString &imageDir, QString *error)
+{
+    if (!m_document) {
+        if (error) {
+            *error = tr("There is no document to export to %1.").arg(path);
+        }
+        return false;
+    }
+    QString html = m_document->toHtml("utf-8");
+    QStringList written;
+    QString newFolder;
+    m_unwrittenImages.clear();
+    if (exportImages) {
+        const QString folder = imageDir.isEmpty() ? calcImageDir(path) : imageDir;
+        newFolder = QFileInfo::exists(folder) ? QString() : folder;
+        m_pageDir = QFileInfo(path).absolutePath();
+        written = writeImages(folder, &html, imageFormatOf(type), &m_unwrittenImages);
+        m_pageDir.clear();
+    }
+    const QString title = mrvDocumentTitle(*m_document, QFileInfo(path).completeBaseName());
+    const QString text = pageText(html, type, title);
+    const bool ok = MRVCoreUtil::WriteUnicodeTextFile(text, path, error, "UTF-8");
+    if (!ok) {
+        removeFiles(written, newFolder);
+    }
+    return ok;
+}
+
+bool MRVTextXhtmlExporter::toHtml(const QString &path, bool exportImages)
+{
+    return toFile(Html, path, exportImages);
+}
+
+bool MRVTextXhtmlExporter::toXhtml(const QString &path, bool exportImages)
+{
+    return toFile(Xhtml, path, exportImages);
+}
+
+bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
+                                        const QHash<QString, QString> &links, StyleList *styles,
+                                        const QTextDocument *document, QString *error)
+{
+    if (!document || type == Html || type == Xhtml) {
+        if (error) {
+            *error = tr("There is no e-book page to export to %1.").arg(path);
+        }
+        return false;
+    }
+    const QLatin1String suffix(".xhtml");
+    const QString file = path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
+    const QString folder = QFileInfo(file).absolutePath() + QLatin1String("/images");
+    const QString newFolder = QFileInfo::exists(folder) ? QString() : folder;
+    MRVTextXhtmlExporter exporter(document);
+    exporter.m_pageDir = QFileInfo(file).absolutePath();
+    QString html = document->toHtml("utf-8");
+    const QStringList written = exporter.exportDocImages(folder, &html, imageFormatOf(type));
+
+    MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
+    writer.reserveId(QStringLiteral("start"));
+    writer.setLinks(links); // before anchors are renamed: the table knows the document's own names
+    html = writer.write(html, document->metaInformation(QTextDocument::DocumentTitle),
+                        mrvDocumentTitle(*document, QFileInfo(file).completeBaseName()));
+    addDocAnchor(&html);
+    const bool ok = MRVCoreUtil::WriteUnicodeTextFile(html, file, error, "UTF-8");
+    if (!ok) {
+        removeFiles(written, newFolder);
+    }
+    return ok;
+}
+
+bool MRVTextXhtmlExporter::toEPubXhtml(const QString &path, const QHash<QString, QString> &links,
+                                       StyleList *styles, const QTextDocument *document)
+{
+    return toEBookXhtml(EPub, path, links, styles, document);
+}
+
+bool MRVTextXhtmlExporter::toKindle(const QString &path, const QHash<QString, QString> &links,
+                                    StyleList *styles, const QTextDocument *document)
+{
+    return toEBookXhtml(Kindle, path, links, styles, document);
+}
+
+bool MRVTextXhtmlExporter::toKindleKF8(const QString &path, const QHash<QString, QString> &links,
+                                       StyleList *styles, const QTextDocument *document)
+{
+    return toEBookXhtml(KindleKF8, path, links, styles, document);
+}
+
+QString MRVTextXhtmlExporter::calcImageDir(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.dir().filePath(info.baseName() + QLatin1String("_files"));
+}
+
+QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFormat &imageFormat,
+                                         const char *format, QString *error) const
+{
+    if (!m_document) {
+        return QString();
+    }
+    const QImage picture = MRVTextFormat::image(*m_document, imageFormat);
+    QString name = MRV::cleanFileName(MRVTextFormat::imageName(imageFormat));
+    if (picture.isNull()) {
+        return QString();
+    }
+    if (name.isEmpty()) {
+        name = QStringLiteral("image");
+    }
+    const QString fileName = name + u'.' + QString::fromLatin1(format).toLower();
+    const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(fileName));
+    return MRVTextFormat::exportImageFormat(path, imageFormat, picture, error) ? path : QString();
+}
+
+// The file as the page refers to it. Only what would end a path or begin an escape is encoded: the
+// rest of the name is to be read by people.
+QString MRVTextXhtmlExporter::imageReference(const QString &file) const
+{
+    const QFileInfo info(file);
+    QString reference = m_pageDir.isEmpty()
+        ? info.dir().dirName() + u'/' + info.fileName()
+        : QDir(m_pageDir).relativeFilePath(info.absoluteFilePath());
+    reference.replace(u'%', QLatin1String("%25"))
+        .replace(u'#', QLatin1String("%23"))
+        .replace(u'?', QLatin1String("%3F"));
+    return reference;
+}
+
+QString MRVTextXhtmlExporter::exportImage(const QString &dir, QString *html,
+                                          const QTextImageFormat &imageFormat,
+                                          const char *format) const
+{
+    const QString file = writeImage(dir, imageFormat, format);
+    if (!file.isEmpty() && html) {
+        MRVHtmlText::replaceImageSources(
+            html, {{MRVTextFormat::imageResourceId(imageFormat), imageReference(file)}});
+    }
+    return file;
+}
+
+QStringList MRVTextXhtmlExporter::exportDocImages(const QString &dir, QString *html,
+                                                  const char *format) const
+{
+    return writeImages(dir, html, format, nullptr);
+}
+
+QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html, const char *format,
+                                              QStringList *failed) const
+{
+    QStringList files;
+    if (!m_document) {
+        return files;
+    }
+    QHash<QString, QString> references;
+    QSet<QString> seen;
+    const QList<QTextImageFormat> formats = MTextDoc::imageFormats(*m_document);
+    for (const QTextImageFormat &imageFormat : formats) {
+        const QString id = MRVTextFormat::imageResourceId(imageFormat);
+        if (seen.contains(id) || MRVTextFormat::image(*m_document, imageFormat).isNull()) {
+            continue;
+        }
+        seen.insert(id);
+        QDir().mkpath(dir);
+        QString reason;
+        const QString file = writeImage(dir, imageFormat, format, &reason);
+        if (!file.isEmpty()) {
+            references.insert(id, imageReference(file));
+            files.append(file);
+        } else if (failed) {
+            failed->append(reason);
+        }
+    }
+    if (html) {
+        MRVHtmlText::replaceImageSources(html, references);
+    }
+    return files;
+}
