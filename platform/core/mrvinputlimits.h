@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QtGlobal>
+
+/**
+ * What the library accepts of bytes that it did not write itself. Each limit is far above normal
+ * use; input beyond one is refused with an error, never cut.
+ *
+ * @since 1.0
+ */
+struct MRVInputLimits
+{
+    // Files.
+    /** Qt 5 counts bytes in an int, and its arrays double as they grow. */
+    static constexpr qint64 FileBytes = qint64(1) << 30;
+    /** A codec makes up to three characters of a byte, and QString holds fewer than 2^30 of them. */
+    static constexpr qint64 TextFileBytes = qint64(1) << 28;
+
+    // Streams and variants.
+    /** QByteArray holds 2^31 bytes less its header; a longer one never was written. */
+    static constexpr quint32 StreamBytes = 0x7fffff00;
+    /** Lists and maps in each other: Qt reads them by recursion. */
+    static constexpr int VariantDepth = 32;
+    /** Qt appends the properties of a format in quadratic time. */
+    static constexpr quint32 FormatProperties = 4096;
+    /** Qt inserts the stops of a gradient in quadratic time. */
+    static constexpr quint32 GradientStops = 4096;
+    /** Four keys with all modifiers need far fewer characters; Qt reads longer ones slowly. */
+    static constexpr int KeyText = 1024;
+
+    // Pictures.
+    /** Deflate makes at most this many bytes of one; a picture that claims more is damaged. */
+    static constexpr qint64 Inflation = 1032;
+
+    // XML and HTML.
+};
