@@ -51,7 +51,7 @@ void MTextDoc::removeInspectorFootnotes(QTextDocument *document)
 
 void MTextDoc::removeInspectorCommentsAndFootnotes(QTextDocument *document)
 {
-    // The data of a comment are of any type, so that it has some is all that can be asked.
+    // The data of a comment may be of any type, so the only test is whether there are any.
     MrvSweep::changeRuns(document, MrvSweep::pattern(MRVTextFormat::CommentData0, true), false,
                          withoutComment);
 }

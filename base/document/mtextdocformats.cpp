@@ -72,7 +72,7 @@ void MTextDoc::clearAllProperty(QTextDocument *document, int property, const QVa
     if (value.isValid()) {
         clearAll(document, MrvSweep::pattern(property, value), matchValues);
     } else if (!matchValues) {
-        // A format cannot hold an invalid value; where values do not count, any other will do.
+        // A format cannot hold an invalid value; where only the property counts, any value will do.
         clearAll(document, MrvSweep::pattern(property, true), false);
     }
 }

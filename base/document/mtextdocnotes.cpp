@@ -43,8 +43,8 @@ void MTextDoc::removeAnnotations(QTextDocument *document)
     }
     QVector<MRVTextRange> ranges = notes(document, MRVTextFormat::InlineAnnotationProperty);
     for (MRVTextRange &range : ranges) {
-        // At the end of a table cell or in front of a table stands another character; to take that
-        // would take the row, or the table.
+        // At the end of a table cell and before a table there is a different character, and to
+        // include it would select the row or the table.
         const int end = range.end();
         if (document->characterAt(end) == QChar::ParagraphSeparator
             && end + 1 < document->characterCount()) {

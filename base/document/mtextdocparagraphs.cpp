@@ -19,7 +19,7 @@ void setFlags(QTextDocument *document, QTextOption::Flags flags)
 {
     QTextOption option = document->defaultTextOption();
     if (option.flags() == flags) {
-        return; // setting an option lays the document out anew
+        return; // setting an option would lay out the document again
     }
     option.setFlags(flags);
     document->setDefaultTextOption(option);
@@ -31,7 +31,7 @@ QTextBlock blockByNumber(const QTextDocument *document, int number)
     return document && number >= 0 ? document->findBlockByNumber(number) : QTextBlock();
 }
 
-// The first run of a paragraph; invalid for an empty paragraph.
+// The first fragment of a paragraph; invalid for an empty paragraph.
 QTextFragment firstRun(const QTextBlock &block)
 {
     return block.begin().atEnd() ? QTextFragment() : block.begin().fragment();
@@ -99,7 +99,7 @@ void MTextDoc::normalizePageBreaks(QTextDocument *document)
 
 QTextBlockFormat MTextDoc::blockFormatByBlockNumber(const QTextDocument *document, int number)
 {
-    // Not what Qt gives for an invalid block: that is no block format, and cannot be set.
+    // Qt returns a format that is not a block format for an invalid block; it cannot be set.
     const QTextBlock block = blockByNumber(document, number);
     return block.isValid() ? block.blockFormat() : QTextBlockFormat();
 }
@@ -111,7 +111,7 @@ void MTextDoc::setBlockFormatByBlockNumber(QTextDocument *document, int number,
     if (!block.isValid()) {
         return;
     }
-    // The index of a list means another list, or none, in another document.
+    // In another document the index of a list names a different list, or none.
     QTextBlockFormat wanted = format;
     wanted.setObjectIndex(block.blockFormat().objectIndex());
     MrvFormatChanges changes;

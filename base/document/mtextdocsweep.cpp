@@ -9,8 +9,8 @@
 
 namespace {
 
-// Walks the runs of ranges in document order, each block once. Positions are added up: Qt climbs a
-// tree for each that it is asked for.
+// Walks the fragments of ranges in document order, each block once. Positions are added up, since
+// Qt searches a tree for each position that it is asked for.
 class RunWalk
 {
 public:
@@ -19,7 +19,7 @@ public:
     {
     }
 
-    // Calls visit(run, start, end) for each part of a run that lies in range.
+    // Calls visit(fragment, start, end) for the part of each fragment that lies in range.
     template<typename Visit>
     void visitRange(const MRVTextRange &range, Visit visit)
     {
@@ -105,7 +105,7 @@ void MrvSweep::changeSelection(QTextCursor *cursor, const Change &change)
     if (!cursor || cursor->isNull()) {
         return;
     }
-    // Not by the cursor itself: it knows one format, and the selection may hold several.
+    // A cursor knows one format only, but the selection may hold several.
     if (cursor->hasSelection()) {
         changeRanges(cursor->document(), {MRVTextRange(*cursor)}, change);
     } else {
@@ -120,12 +120,12 @@ void MrvSweep::removeRanges(QTextDocument *document, const QVector<MRVTextRange>
     }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
-    // From the last to the first, so that the positions of the others hold.
+    // From the last to the first, so that the positions of the others stay valid.
     for (int i = ranges.size() - 1; i >= 0;) {
         const int end = ranges.at(i).end();
         int start = ranges.at(i).start();
-        // Side by side they go at once: a paragraph that goes as a whole, with its end, must not
-        // leave its format to the next one.
+        // Adjacent ranges are removed together: a paragraph that is removed as a whole, with its
+        // end, must not pass its format on to the next one.
         for (--i; i >= 0 && ranges.at(i).end() == start; --i) {
             start = ranges.at(i).start();
         }

@@ -18,7 +18,7 @@ struct Piece
     QTextCharFormat format;
 };
 
-// A paragraph that takes the place of a row, or of a part of it.
+// A paragraph that replaces a row, or a part of it.
 struct Line
 {
     QTextBlockFormat format;
@@ -49,7 +49,7 @@ void appendRuns(Line *line, const QTextBlock &block)
     }
 }
 
-// The cell's first paragraph goes on with the last line, or starts one with the row.
+// The cell's first paragraph continues the last line, or starts a line at the row's start.
 void appendCell(std::vector<Line> *lines, const QTextTableCell &cell, bool startsRow)
 {
     QTextBlock block = cell.firstCursorPosition().block();
@@ -79,7 +79,7 @@ std::vector<Line> linesOf(const QTextTable &table)
         for (int column = 0; column < table.columns(); ++column) {
             const QTextTableCell cell = table.cellAt(row, column);
             if (cell.row() != row || cell.column() != column) {
-                continue; // covered by a cell that was met already
+                continue; // covered by a cell that was visited already
             }
             appendCell(&lines, cell, startsRow);
             startsRow = false;
@@ -88,7 +88,7 @@ std::vector<Line> linesOf(const QTextTable &table)
     return lines;
 }
 
-// Whether an empty paragraph behind a table is there only because something must be.
+// Whether an empty paragraph after a table exists only because a document must end with one.
 bool onlyCloses(const QTextDocument &document, const QTextBlock &block)
 {
     return block.length() == 1
@@ -122,8 +122,8 @@ void insertLines(QTextCursor *cursor, const std::vector<Line> &lines, bool start
     }
 }
 
-// Within an edit block of cursor. A table reaches from the character in front of its first
-// position, which ends the paragraph before it, to the one at its last position.
+// Within an edit block of cursor. A table reaches from the character before its first position,
+// which ends the paragraph before it, to the character at its last position.
 void replaceByText(QTextCursor *cursor, const QTextTable &table)
 {
     const QTextDocument *document = cursor->document();
@@ -134,15 +134,15 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
     const QTextBlock after = document->findBlock(end);
     const bool keepsAfter = !onlyCloses(*document, after);
     const QTextBlockFormat afterFormat = after.blockFormat();
-    // Not the paragraph's own character format: behind a table, that is part of the table.
+    // The paragraph's own character format is part of the table when it follows a table.
     const QTextCharFormat afterCharFormat =
         after.begin().atEnd() ? QTextCharFormat() : after.begin().fragment().charFormat();
 
     cursor->setPosition(start);
     cursor->setPosition(end, QTextCursor::KeepAnchor);
     cursor->removeSelectedText();
-    // What is left in front and behind is one paragraph now, in the format of the one in front
-    // unless that was empty.
+    // What is left before and after the table is one paragraph now, in the format of the paragraph
+    // before unless that was empty.
     if (keepsAfter) {
         cursor->insertBlock(afterFormat, afterCharFormat);
         cursor->setPosition(start);
@@ -156,8 +156,8 @@ void MTextDoc::tablesToText(QTextDocument *document)
 {
     MRVTableCollector collector(document);
     collector.navigate();
-    // The tables, not their ranges: columns are walked before rows, so that of two nested tables
-    // the one found later may lie in front, and its removal moves the other.
+    // The tables and not their ranges are kept: columns are walked before rows, so of two nested
+    // tables the one found later may come first, and its removal moves the other.
     std::vector<QTextTable *> tables;
     QSet<QTextTable *> seen;
     const QList<MRVTextRange> ranges = collector.tables();

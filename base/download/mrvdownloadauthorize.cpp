@@ -16,8 +16,7 @@ MRVDownloadAuthorize::~MRVDownloadAuthorize() = default;
 void MRVDownloadAuthorize::setSite(const QString &site)
 {
     m_ui->siteDescription->setText(site);
-    // A dialog does not grow by itself with the lines of an address, or of a text in another
-    // language.
+    // A dialog does not grow by itself when an address, or a translated text, takes more lines.
     resize(width(), layout()->totalHeightForWidth(width()));
 }
 

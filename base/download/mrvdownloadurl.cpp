@@ -15,7 +15,7 @@
 
 namespace {
 
-// Text is encoded anew in pieces, so that it is never in memory as a whole a third time.
+// Text is converted in pieces, so that memory never holds a third copy of the whole.
 constexpr int ConvertedAtOnce = 1 << 20;
 
 bool isFetched(const QUrl &url)
@@ -37,14 +37,14 @@ int statusOf(const QNetworkReply *reply)
     return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-// Successes to Qt, which hold a part at most: one that announces another, behind which Qt reads
-// nothing, and what nobody asked for, a range and whether there is something new.
+// Statuses that Qt counts as success though the body is at most a part: an interim response, after
+// which Qt reads nothing, and answers to what was not requested (a range, a modification check).
 bool isPartial(int status)
 {
     return status < 200 || status == 206 || status == 304;
 }
 
-// None where there can be no body.
+// Empty where a response cannot have a body.
 QByteArray promisedLength(const QNetworkReply *reply)
 {
     return statusOf(reply) == 204 ? QByteArray() : reply->rawHeader("Content-Length");
@@ -56,7 +56,7 @@ bool isPacked(const QNetworkReply *reply)
     return !coding.isEmpty() && coding != "identity";
 }
 
-// Qt names the URL in it as it was requested.
+// Qt puts the URL into it as it was requested.
 QString errorText(const QNetworkReply *reply)
 {
     QString text = reply->errorString();
@@ -77,7 +77,7 @@ MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &MRVDownloadUrl::onTimeout);
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &MRVDownloadUrl::onAuthenticationRequired);
-    // Before whatever the host has connected, to answer them.
+    // Connected before anything that the host connects, to answer the questions first.
     connect(m_manager, &QNetworkAccessManager::sslErrors, this, [this](QNetworkReply *reply) {
         if (reply == m_reply) {
             beginQuestion();
@@ -85,7 +85,7 @@ MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
     });
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    // Qt only says so where the application itself has switched the network off.
+    // Qt reports this only where the application itself has switched the network off.
     connect(m_manager, &QNetworkAccessManager::networkAccessibleChanged, this,
             &MRVDownloadUrl::onNetworkAccessibleChanged);
     QT_WARNING_POP
@@ -174,7 +174,7 @@ QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCh
         const QString text = from->toUnicode(data.constData() + at, count, &decoding);
         result += to->fromUnicode(text.constData(), text.size(), &encoding);
     }
-    // A last character that is cut off.
+    // The last character is cut off.
     if (decoding.remainingChars > 0) {
         const QChar replacement(QChar::ReplacementCharacter);
         result += to->fromUnicode(&replacement, 1, &encoding);
@@ -203,14 +203,13 @@ bool MRVDownloadUrl::download(const QUrl &url)
 void MRVDownloadUrl::start()
 {
     QNetworkRequest request(m_url);
-    // Qt unpacks what comes compressed without looking whether all of it came, or what it makes of
-    // it.
+    // Qt unpacks compressed bodies without checking that they are complete or undamaged.
     request.setRawHeader("Accept-Encoding", "identity");
     m_reply = m_manager->get(request);
     connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
     connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::downloadProgress);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &MRVDownloadUrl::onReplyError);
-    // After the manager's signal. Its context lives as long as the question does.
+    // Called after the manager's signal. The context lives as long as the question.
     connect(m_reply, &QNetworkReply::sslErrors, m_manager, questionEnd());
     connect(m_reply, &QNetworkReply::encrypted, this, &MRVDownloadUrl::awaitBytes);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &MRVDownloadUrl::onMetaData);
@@ -236,14 +235,14 @@ bool MRVDownloadUrl::downloadToFile(const QUrl &url, const QString &fileName)
 void MRVDownloadUrl::cancelDownload()
 {
     if (m_reply && !m_reply->isFinished()) {
-        m_reply->abort(); // which comes back through onReplyFinished()
+        m_reply->abort(); // which calls onReplyFinished()
     } else if (m_reply || m_timer.isActive()) {
-        // While the handler is asked about a redirect, or before a refusal was told.
+        // While the handler is asked about a redirect, or before a refusal was reported.
         endWith(tr("Operation canceled"));
     }
 }
 
-// Forgets the request and all that belongs to it, without a word.
+// Drops the request and everything that belongs to it, without a signal.
 void MRVDownloadUrl::dropReply()
 {
     m_timer.stop();
@@ -268,7 +267,7 @@ void MRVDownloadUrl::endWith(const QString &error)
     Q_EMIT downloadError(text);
 }
 
-// Gives up a running request for a reason that Qt does not know.
+// Ends a running request for a reason that Qt does not know.
 void MRVDownloadUrl::fail(const QString &error)
 {
     m_failure = error;
@@ -303,7 +302,7 @@ void MRVDownloadUrl::onMetaData()
     }
 }
 
-// Takes what has come out of the reply, so that a body is in memory once.
+// Moves what has arrived out of the reply, so that memory holds a body once.
 void MRVDownloadUrl::collect()
 {
     awaitBytes();
@@ -317,14 +316,14 @@ void MRVDownloadUrl::collect()
     m_data.resize(size + int(qMax(qint64(0), m_reply->read(m_data.data() + size, available))));
 }
 
-// The reply says that it has failed when it finishes; what has come of the body is of no use.
+// A failed reply reports it when it finishes; what has arrived of the body is useless.
 void MRVDownloadUrl::onReplyError()
 {
     m_data.clear();
 }
 
-// Qt finds most of these out itself; but a length that is no number would let any part pass as
-// whole.
+// Qt detects most of these itself, but with a length that is not a number it would accept any part
+// as the whole.
 bool MRVDownloadUrl::isCutShort() const
 {
     if (isPartial(statusOf(m_reply))) {
@@ -370,8 +369,8 @@ void MRVDownloadUrl::onReplyFinished()
     }
 }
 
-// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen. Qt
-// still holds the reply and the manager when it comes back, so neither may go before.
+// A handler is asked about the reply, perhaps in an event loop, in which anything may happen. Qt
+// still uses the reply and the manager when the handler returns, so neither may be deleted before.
 void MRVDownloadUrl::beginQuestion()
 {
     m_asking->append(m_reply);
@@ -464,7 +463,7 @@ void MRVDownloadUrl::deliver()
 void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator)
 {
     if (reply != m_reply) {
-        return; // dropped, while the question was on its way
+        return; // dropped while the question was pending
     }
     const QPointer<MRVDownloadUrl> self(this);
     QString user = m_url.userName();
@@ -480,13 +479,13 @@ void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticat
         authenticator->setUser(user);
         authenticator->setPassword(password);
     } else {
-        // Set first, since the reply finishes before abort() is back.
+        // Set first, since the reply finishes before abort() returns.
         m_aborted = true;
         cancelDownload();
     }
 }
 
-// Takes a number, since the enumeration is deprecated.
+// The parameter is an int, since the enumeration is deprecated.
 void MRVDownloadUrl::onNetworkAccessibleChanged(int accessibility)
 {
     QT_WARNING_PUSH

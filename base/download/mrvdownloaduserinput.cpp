@@ -23,7 +23,7 @@ MRVDownloadUserInput::MRVDownloadUserInput(QWidget *parent)
 bool MRVDownloadUserInput::authenticate(const QString &realm, const QUrl &url, QString *user,
                                         QString *password)
 {
-    // On the heap, since the parent may be closed, and take the dialog with it, while it is open.
+    // On the heap, since the parent may be closed, and delete the dialog, while it is open.
     const QPointer<MRVDownloadAuthorize> dialog = new MRVDownloadAuthorize(widgetParent());
     dialog->setSite(
         QCoreApplication::translate("QObject", "%1 at %2").arg(realm, url.toDisplayString()));

@@ -45,8 +45,8 @@ const PictureType *pictureType(const QByteArray &bytes)
     return nullptr;
 }
 
-// The bytes that the picture came in with, where readers can show them, so that nothing is lost by
-// encoding it anew.
+// The original bytes of the picture, where reading systems can show them, so that nothing is lost
+// by encoding it again.
 QByteArray pictureBytes(const QTextDocument &document, const QTextImageFormat &format)
 {
     const QImage image = MRVTextFormat::image(document, format);
@@ -78,7 +78,7 @@ bool isRemote(const QString &id)
         || scheme == QLatin1String("ftp");
 }
 
-// Plain letters, digits and hyphens: safe in every archive, file system and URL.
+// ASCII letters, digits and hyphens are safe in every archive, file system and URL.
 QString safeName(const QString &name)
 {
     QString safe;
@@ -98,7 +98,7 @@ QString safeName(const QString &name)
     return safe.isEmpty() ? QStringLiteral("picture") : safe;
 }
 
-// The text of an element; tags within words (emphasis) leave no blank, line breaks do.
+// The text of an element; tags within words (emphasis) become no blank, line breaks do.
 QString elementText(QStringView page, int offset, QLatin1String close)
 {
     const int begin = int(page.indexOf(u'>', offset)) + 1;
@@ -152,7 +152,7 @@ bool MRVEPubBook::addPictures(const QTextDocument &document, QHash<QString, QStr
             }
             return false;
         }
-        // A picture on the web cannot stand in the book: its alternative text does.
+        // A book cannot hold a picture from the web: its alternative text takes its place.
         references->insert(
             id, bytes.isEmpty() ? QString() : addPicture(bytes, MRVTextFormat::imageName(format)));
     }
@@ -261,7 +261,7 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
     return entries;
 }
 
-// Empty where the link leads nowhere that a reader of the book can go.
+// Empty where the link leads to a place outside the book that a reader cannot open.
 QString MRVEPubBook::resolved(const QString &href, int document) const
 {
     const int hash = href.indexOf(u'#');

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Texts that people gave may be empty, or hold what XML cannot.
+// Texts that users enter may be empty, or hold characters that XML forbids.
 void writeText(QXmlStreamWriter *xml, const char *element, const QString &text)
 {
     const QString clean = mrvXmlText(text).simplified();
@@ -32,7 +32,7 @@ void writeProperty(QXmlStreamWriter *xml, const QString &property, const QString
     xml->writeEndElement();
 }
 
-// What the W3C's EPUB Accessibility 1.0 (section 3.2) asks a package to tell.
+// The metadata that the W3C's EPUB Accessibility 1.0 (section 3.2) requires of a package.
 void writeAccessibility(QXmlStreamWriter *xml, const MRVEPubBook &book)
 {
     const bool described = book.picturesWithoutText == 0;
@@ -176,7 +176,7 @@ void writeSpine(QXmlStreamWriter *xml, const MRVEPubBook &book)
     xml->writeEndElement();
 }
 
-// A place of the book by its role: EPUB 2 has these in the guide, EPUB 3 in the landmarks.
+// A place of the book by its role; EPUB 2 lists these in the guide, EPUB 3 in the landmarks.
 struct Landmark
 {
     const char *guideType;
@@ -212,7 +212,7 @@ void writeGuide(QXmlStreamWriter *xml, const MRVEPubBook &book)
     xml->writeEndElement();
 }
 
-// Calls @p open for each entry, and @p close once for each when all entries below it are done.
+// Calls @p open for each entry, and @p close for it once all entries below it are done.
 template<typename Open, typename Close>
 void walkContents(const QVector<MRVEPubEntry> &entries, Open open, Close close)
 {

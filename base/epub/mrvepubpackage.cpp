@@ -24,8 +24,8 @@ constexpr char Container[] =
     "  </rootfiles>\n"
     "</container>\n";
 
-// Archives hold dates from 1980 on, in local time: the date's own hours and minutes stand for it
-// everywhere.
+// Archives hold local dates from 1980 on. The date's own hours and minutes are written, whatever
+// the time zone of the machine.
 QDateTime archiveDate(const QDateTime &date)
 {
     const QDateTime first(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
@@ -33,8 +33,8 @@ QDateTime archiveDate(const QDateTime &date)
     return qBound(first, date.toUTC(), last);
 }
 
-// The same content gets the same identifier, so that an e-book made anew replaces the old one in a
-// reader's library.
+// The same content gets the same identifier, so that an e-book that is made again replaces the old
+// one in a reader's library.
 QString identifierOf(const MRVEPubBook &book)
 {
     const QString given = mrvXmlText(book.metadata.identifier).simplified();
@@ -46,8 +46,7 @@ QString identifierOf(const MRVEPubBook &book)
     for (const MRVEPubPage &page : book.pages) {
         hash.addData(page.body.toUtf8());
     }
-    // The namespace for names that are no URLs, domain names or object identifiers is the project's
-    // own.
+    // None of the namespaces of RFC 4122 fits, so this one is the project's own.
     const QUuid space(0x6d727665, 0x7075, 0x4b21, 0x9b, 0x4e, 0x2f, 0x61, 0x0c, 0x7d, 0x55, 0x10);
     return QLatin1String("urn:uuid:")
         + QUuid::createUuidV5(space, hash.result()).toString(QUuid::WithoutBraces);
@@ -86,7 +85,7 @@ QByteArray MRVEPubPackage::toByteArray(QString *error) const
         ok = ok && zip.writeFile(path, data, FileMode, QString(), QString(), date, date, date);
     };
     zip.setExtraField(KZip::NoExtraField);
-    // The type comes first and as it is, for programs that look at the first bytes only (OCF 3.2,
+    // The type comes first and uncompressed, for programs that read the first bytes only (OCF 3.2,
     // section 4.3).
     zip.setCompression(KZip::NoCompression);
     add(QStringLiteral("mimetype"), QByteArrayLiteral("application/epub+zip"));

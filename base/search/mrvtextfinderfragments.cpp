@@ -18,8 +18,8 @@ auto verdictsOf(const QTextDocument *document, const QTextCharFormat &format, bo
 QTextCharFormat formatOf(int property, const QVariant &value)
 {
     QTextCharFormat format;
-    // Setting no value would leave a format that everything matches: a value that no text has
-    // stands for it, and only the property's presence counts where values are not compared.
+    // Setting no value would leave a format that everything matches. So a value that no text has
+    // stands in; where values are not compared, only the presence of the property counts.
     format.setProperty(property, value.isValid() ? value : QVariant::fromValue<void *>(nullptr));
     return format;
 }
@@ -258,7 +258,7 @@ QTextCursor MRVTextFinder::findFragmentAround(const QTextCharFormat &format,
     const MRVTextRange selection(cursor);
     auto verdicts = verdictsOf(document, format, compareValues);
     MRVPieceWalker walker(document, selection.start());
-    // The fragment behind the start of the selection, then the one in front of it.
+    // The fragment after the start of the selection, then the one before it.
     for (int i = 0; i < 2; ++i, walker.previous()) {
         MRVTextRange run;
         if (walker.isValid() && verdicts(walker.piece().format)

@@ -131,7 +131,7 @@ QTextCursor MRVTextFinder::anchorForCursor(const QTextCursor &cursor, bool withC
 
 bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
 {
-    // A cursor whose document is gone is null, though it says that it has a selection.
+    // A cursor whose document was deleted is null, yet may report a selection.
     if (cursor.isNull()) {
         return false;
     }

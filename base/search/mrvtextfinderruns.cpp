@@ -53,8 +53,8 @@ auto verdictsOf(const QTextDocument *document, Finder::FindType type, const QVar
 }
 
 /// Whether QTextDocument::find() from the start of the run finds the text before the end of it.
-/// Only the paragraphs of the run are looked at, or texts that are rare would take time in
-/// proportion to the number of runs times the length of the document.
+/// Only the paragraphs of the run are searched; otherwise a rare text would take time proportional
+/// to the number of runs times the length of the document.
 bool holdsText(const QTextDocument *document, const MRVTextRange &run, const QString &text)
 {
     for (QTextBlock block = document->findBlock(run.start());

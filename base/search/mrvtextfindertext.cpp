@@ -13,7 +13,7 @@ using Finder = MRVTextFinder;
 
 void selectMatch(const QTextBlock &block, int position, MRVTextMatch match, QTextCursor *result)
 {
-    // A cursor made from the block is the way to one in a document that is const.
+    // A const document gives no cursor, but its blocks do.
     QTextCursor cursor(block);
     cursor.setPosition(position + match.start);
     if (match.length > 0) {
@@ -43,8 +43,8 @@ QString textBetween(const QTextBlock &block, int start, int end)
     return cursor.selectedText();
 }
 
-/// Searches a long paragraph by looking at more and more of it. To fetch all of it for each find
-/// would make a loop over the finds take time in proportion to its length squared.
+/// Searches a long paragraph in pieces of growing size. Fetching all of it for each match would
+/// make a loop over the matches quadratic in its length.
 MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock &block, int offset,
                               Finder::FindFlags flags)
 {
@@ -61,7 +61,7 @@ MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock
         matcher.prepare(&text);
         MRVTextMatch match = mrvFindInText(matcher, text, offset - start, flags);
         const bool whole = backward ? start == 0 : end == length;
-        // What touches the end of the stretch may break a word rule by what lies outside.
+        // For a match at the end of the piece, what follows outside decides about whole words.
         const bool touches = backward ? match.start == 0 : match.end() == text.size();
         if (whole || (match && !touches)) {
             if (match) {
@@ -93,7 +93,7 @@ QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int 
         return result;
     }
     QTextBlock block = document->findBlock(start);
-    int position = block.position(); // asked for once, as Qt climbs a tree for it
+    int position = block.position(); // fetched once, since Qt searches a tree for it
     int offset = start - position;
     while (block.isValid()) {
         const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
@@ -155,7 +155,7 @@ MRVTextRange whole(const QTextDocument *document)
     return document ? MRVTextRange(0, document->characterCount()) : MRVTextRange();
 }
 
-/// Calls @p work with the quickest matcher for a text.
+/// Calls @p work with the fastest matcher for a text.
 template<typename Work>
 auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
 {

@@ -19,7 +19,7 @@ QChar foldCharacter(QChar c)
     case 0x201f:
         return QLatin1Char('"');
     case 0x2010: // hyphen, no-break hyphen, figure and en dash, minus, small and full-width hyphen;
-    case 0x2011: // not the em dash, which is another sign to writers
+    case 0x2011: // not the em dash, which is a different character to writers
     case 0x2012:
     case 0x2013:
     case 0x2212:

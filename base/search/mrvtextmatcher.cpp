@@ -31,7 +31,7 @@ inline bool isBlank(QChar c)
     return c == QLatin1Char(' ') || c == QChar::Nbsp || c == QChar::ObjectReplacementCharacter;
 }
 
-/// How rare a character is in prose; -1 where a search without case cannot look for it by itself.
+/// How rare a character is in prose; -1 where a case-insensitive search cannot use it as anchor.
 int rarity(QChar c, bool fold)
 {
     // From the most frequent to the least; capitals, digits and other signs are rare, too.
@@ -51,7 +51,7 @@ int rarity(QChar c, bool fold)
 
 bool hasSurrogate(const QString &text)
 {
-    // Without an early end and in the width of a character, so that the compiler uses vector code.
+    // Without an early exit and in the width of a character, so that the compiler vectorizes it.
     ushort found = 0;
     const ushort *units = text.utf16();
     for (int i = 0, n = text.size(); i < n; ++i) {
@@ -127,7 +127,7 @@ bool MRVLiteralMatcher::canMatch(const QString &text, Qt::CaseSensitivity sensit
 
 void MRVLiteralMatcher::prepare(QString *text) const
 {
-    // Objects and no-break spaces are no letters, so the word rules do not need the blanks.
+    // Objects and no-break spaces are not letters, so the word rules work without replacing them.
     if (m_blanks) {
         mrvBlankObjects(text);
     }
@@ -143,8 +143,8 @@ bool MRVLiteralMatcher::isAt(const QString &text, int at) const
                       [](QChar a, QChar b) { return a.unicode() == foldCase(b.unicode()); });
 }
 
-// Either case of the anchor. In windows, since looking for the case that is not there up to the end
-// of the text would make many finds in a long paragraph quadratic.
+// Either case of the anchor. In windows, since searching up to the end of the text for the case
+// that does not occur would make many matches in a long paragraph quadratic.
 int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
 {
     if (m_otherCase == m_anchorCharacter) {
@@ -166,8 +166,8 @@ int MRVLiteralMatcher::nearestAnchor(const QString &text, int from) const
 
 int MRVLiteralMatcher::byAnchor(const QString &text, int offset) const
 {
-    // Qt looks for single characters in vector code, so this is quicker than any skipping, as long
-    // as the anchor is as rare as it should be.
+    // Qt searches for single characters in vector code, so this is faster than any skip table as
+    // long as the anchor is rare.
     constexpr int ManyAnchors = 16;
     constexpr int TooClose = 8;
     const int size = m_folded.size();
@@ -230,7 +230,7 @@ MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
         return MRVTextMatch();
     }
     // QRegExp compares lower-case letters here, not folded ones as it does forward: a final sigma
-    // is then another letter than a sigma.
+    // and a sigma then differ.
     const bool lower = m_sensitivity == Qt::CaseInsensitive;
     const auto same = [lower](QChar a, QChar b) {
         return a == b || (lower && a.toLower() == b.toLower());
@@ -262,8 +262,8 @@ MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpressio
     if (options & QRegularExpression::UseUnicodePropertiesOption) {
         return;
     }
-    // Other options mean to compile anew, which takes longer than to search a paragraph. So the
-    // last expression is kept compiled; searching from find to find always asks for the same one.
+    // Other options need a compilation, which takes longer than searching a paragraph. So the last
+    // expression is kept compiled; searching from match to match always asks for the same one.
     struct Compiled
     {
         QRegularExpression given;
@@ -293,15 +293,15 @@ void MRVRegularExpressionMatcher::prepare(QString *text) const
 
 QRegularExpressionMatch MRVRegularExpressionMatcher::match(const QString &text, int offset) const
 {
-    // prepare() saw to the surrogates, once. The expression would do so again at each match, from
-    // the beginning of the paragraph.
+    // prepare() checked the surrogates once. The expression would check them again at each match,
+    // from the beginning of the paragraph.
     return m_expression.match(text, offset, QRegularExpression::NormalMatch,
                               QRegularExpression::DontCheckSubjectStringMatchOption);
 }
 
 MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) const
 {
-    // Unchecked, the middle of a pair is no place to start from.
+    // Unchecked, a search must not start in the middle of a surrogate pair.
     if (offset > 0 && offset < text.size() && text.at(offset).isLowSurrogate()
         && text.at(offset - 1).isHighSurrogate()) {
         ++offset;
@@ -315,8 +315,8 @@ MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) 
 
 MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) const
 {
-    // The expression only searches forward. So it is let loose at places further and further back,
-    // until it finds a match that starts at the offset or before; then the last such is sought.
+    // The expression only searches forward. So the search starts further and further back until it
+    // finds a match that starts at or before the offset; then the last such match is looked for.
     for (int reach = 16;; reach = qMin(reach, offset) * 4) {
         const int from = qMax(0, offset - reach);
         MRVTextMatch best;

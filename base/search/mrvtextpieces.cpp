@@ -20,7 +20,7 @@ void MRVPieceWalker::load(const QTextBlock &block)
 {
     m_block = block;
     m_pieces.resize(0);
-    int position = block.position(); // a fragment would climb a tree for its own
+    int position = block.position(); // a fragment would search a tree for it
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         const int end = position + fragment.length();

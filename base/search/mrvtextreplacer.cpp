@@ -44,7 +44,7 @@ auto withMatcher(const MRVTextQuery &query, Work work)
     return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
 }
 
-/// The text of a paragraph, both as it is and as it is searched, and the way from one to the other.
+/// The text of a paragraph as it is and as it is searched, with the mapping between the two.
 class SearchedText
 {
 public:
@@ -89,7 +89,7 @@ private:
     QString m_searched;
 };
 
-/// Tells whether text carries the format of a query. Asked for ranges in document order.
+/// Tells whether text has the format of a query. To be asked for ranges in document order.
 class FormatFilter
 {
 public:
@@ -156,8 +156,8 @@ MRVTextRange searchedRange(const QTextDocument *document, const MRVTextQuery &qu
     return clipped(query.range, 0, document->characterCount());
 }
 
-/// Calls @p found(text, match, range) for the finds of a part of a paragraph until it says false:
-/// with the match as it is in the searched text, and the range in the document.
+/// Calls @p found(text, match, range) for the matches in a part of a paragraph until it returns
+/// false: with the match in the searched text and the range in the document.
 template<typename Matcher, typename Found>
 bool eachFindInBlock(const Matcher &matcher, const MRVTextQuery &query, const QTextBlock &block,
                      int from, int to, FormatFilter &filter, Found found)
@@ -171,7 +171,7 @@ bool eachFindInBlock(const Matcher &matcher, const MRVTextQuery &query, const QT
         if (own.end() > to) {
             return false;
         }
-        // Two matches in the parts of one letter are one find.
+        // Two matches within the expansion of one letter are one match.
         if (own.start >= last && filter.accepts(block, range)) {
             last = own.end();
             goesOn = found(text, match, range);
@@ -183,7 +183,7 @@ bool eachFindInBlock(const Matcher &matcher, const MRVTextQuery &query, const QT
     return goesOn;
 }
 
-/// The same for the finds of a query within a part of a document.
+/// The same for the matches of a query within a part of a document.
 template<typename Matcher, typename Found>
 void eachFind(const QTextDocument *document, const Matcher &matcher, const MRVTextQuery &query,
               const MRVTextRange &within, Found found)
@@ -401,7 +401,7 @@ QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &q
             }
             return;
         }
-        // From paragraph to paragraph, of each the last find.
+        // From paragraph to paragraph; of each, the last match.
         const MRVTextRange part = partBefore(from, query);
         for (QTextBlock block = document->findBlock(part.end()); block.isValid() && last.start() < 0
              && block.position() + block.length() > part.start();
@@ -444,7 +444,7 @@ int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &que
     }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
-    // From the last to the first, so that the positions of the others hold.
+    // From the last to the first, so that the positions of the others stay valid.
     for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
         select(&cursor, change->range);
         mrvReplaceText(cursor, change->after);
@@ -502,8 +502,8 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
     }
     bool isFind = false;
     QString after;
-    // First from the selection itself; an expression that looks at what stands before it without
-    // keeping it (\K) needs the paragraph from its start.
+    // First from the selection itself; an expression that requires text before the match without
+    // including it (\K) needs the paragraph from its start.
     const int paragraph = qMax(all.start(), document->findBlock(own.start()).position());
     for (int from : {own.start(), paragraph}) {
         if (isFind) {

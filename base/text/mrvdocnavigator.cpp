@@ -8,7 +8,7 @@
 
 namespace {
 
-// Quiet unless asked for: it writes a line a run.
+// Off by default: it writes a line for each fragment.
 Q_LOGGING_CATEGORY(lcNavigator, "mrv.text.navigator", QtWarningMsg)
 
 const char *kindOf(const QTextFormat &format)
@@ -109,7 +109,7 @@ bool MRVDocNavigator::processTable(QTextTable &table)
 {
     startTable(table);
     Q_EMIT tableStarted(table);
-    // Deliberate: column by column, and a spanning cell at each place that it covers.
+    // Deliberate: column by column, and a spanning cell once at each place that it covers.
     for (int column = 0; column < table.columns(); ++column) {
         for (int row = 0; row < table.rows(); ++row) {
             const QTextTableCell cell = table.cellAt(row, column);

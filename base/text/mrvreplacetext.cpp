@@ -21,7 +21,7 @@ struct Piece
 constexpr ushort BeginningOfFrame = 0xfdd0;
 constexpr ushort EndOfFrame = 0xfdd1;
 
-// As Qt does it when it inserts text, so that lengths can be compared before.
+// As Qt does when it inserts text, so that lengths can be compared beforehand.
 QString withParagraphSeparators(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -34,7 +34,7 @@ QString withParagraphSeparators(QString text)
     return text;
 }
 
-// Without what makes a character an object of the document.
+// Without the properties that make a character an object of the document.
 QTextCharFormat textFormat(QTextCharFormat format)
 {
     if (format.isImageFormat()) {
@@ -55,11 +55,11 @@ QTextCharFormat textFormat(QTextCharFormat format)
     return format;
 }
 
-// The format for text in the place of the character at a position.
+// The format for text that replaces the character at a position.
 QTextCharFormat formatAt(QTextDocument *document, int position)
 {
     const QChar character = document->characterAt(position);
-    // Qt gives the format of the end of a paragraph as that of the paragraph behind it.
+    // Qt reports the format of a paragraph end as that of the paragraph after it.
     if (character == QChar::ParagraphSeparator) {
         return textFormat(document->findBlock(position + 1).charFormat());
     }
@@ -79,7 +79,7 @@ public:
         const int end = start + length;
         const QTextBlock last = document->findBlock(end);
         const int spanned = last.position() + last.length() - document->findBlock(start).position();
-        // Going over the runs of all its paragraphs would be too dear for a word in a huge one.
+        // Walking the fragments of all its paragraphs would cost too much for a word in a huge one.
         if (length >= spanned / 8) {
             collect(end);
         }
@@ -152,7 +152,7 @@ void replaceInPlace(QTextCursor &cursor, int start, const QString &old, const QS
 {
     Formats formats(cursor.document(), start, old.size());
     const QVector<Piece> pieces = differences(&formats, old, text);
-    // From the last to the first, so that the positions of the others hold.
+    // From the last to the first, so that the positions of the others stay valid.
     for (auto piece = pieces.crbegin(); piece != pieces.crend(); ++piece) {
         cursor.setPosition(start + piece->from);
         cursor.setPosition(start + piece->to, QTextCursor::KeepAnchor);
@@ -200,8 +200,8 @@ void mrvReplaceText(QTextCursor &cursor, const QString &newText)
     }
     const int start = cursor.selectionStart();
     const QString old = cursor.selectedText();
-    // Of selected cells Qt gives the texts without what lies between them, so that lengths mean
-    // nothing there.
+    // For selected cells Qt returns the texts without what separates them, so lengths mean nothing
+    // there.
     const bool isWhole = cursor.hasComplexSelection() || old.size() != cursor.selectionEnd() - start
         || MRVTextFormat::hasFrameInString(old);
     if (isWhole) {

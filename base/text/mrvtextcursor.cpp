@@ -40,8 +40,8 @@ bool isWordBorder(const QTextDocument *document, int position)
         || MRVTextFormat::hasFrameInString(document->characterAt(position));
 }
 
-// Where a paragraph begins, with the separator in front of it. The marks in its place at the start
-// of a cell and behind a table are none: with them all of the table would be selected.
+// Where a paragraph begins, including the separator before it. The marks that take its place at the
+// start of a cell and after a table do not count: including them would select the whole table.
 int startWithSeparator(const QTextBlock &block)
 {
     const int start = block.position();
@@ -108,7 +108,7 @@ bool MRVTextCursor::hasWordBorderAfter(const QTextCursor &cursor, bool atEdge)
 
 bool MRVTextCursor::hasMultipleBlocksSelected(const QTextCursor &cursor)
 {
-    // A cursor whose document is gone is null, and may say all the same that it has a selection.
+    // A cursor whose document was deleted is null, yet may report a selection.
     if (cursor.isNull() || !cursor.hasSelection() || cursor.hasComplexSelection()) {
         return false;
     }
@@ -159,7 +159,7 @@ void MRVTextCursor::selectBlockUnderCursor(QTextCursor *cursor, bool withSeparat
     if (last.length() > 1) {
         end = textEnd(last);
     }
-    // Deliberate: an end that is at its paragraph's edge already holds the other one back.
+    // Deliberate: an end that already is at its paragraph's edge keeps the other end in place.
     if (start != cursor->selectionStart() && end != cursor->selectionEnd()) {
         select(cursor, start, end);
     }

@@ -70,7 +70,7 @@ void clearPropertiesAndList(const QTextBlock &block)
     cursor.endEditBlock();
 }
 
-// By index: the blocks of an older map may be gone, and to compare such blocks is not safe.
+// By index: blocks of an older map may have been deleted, and comparing those is not safe.
 QHash<int, int> levelsByIndex(const MRVTextBlockLevelMap &levels)
 {
     QHash<int, int> result;
@@ -84,7 +84,7 @@ QHash<int, int> levelsByIndex(const MRVTextBlockLevelMap &levels)
 
 bool operator==(const MRVTextListLevel &a, const MRVTextListLevel &b)
 {
-    // The stated tolerance is that of Qt's comparison.
+    // The documented tolerance is that of Qt's comparison.
     return a.text == b.text && a.numberStyle == b.numberStyle
         && qFuzzyCompare(a.leftIndent, b.leftIndent) && qFuzzyCompare(a.textIndent, b.textIndent);
 }

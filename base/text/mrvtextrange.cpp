@@ -5,7 +5,7 @@
 namespace {
 
 // Qt takes the format from the character before the position. In a selection that was made
-// backwards that character lies in front of it.
+// backwards, that character lies before the selection.
 QTextCursor forward(QTextCursor cursor)
 {
     if (cursor.position() < cursor.anchor()) {

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Anything but null keeps Qt from asking for the id that is being made here.
+// Any non-null value keeps Qt from asking for the id that is being registered here.
 template<typename T>
 T *withoutLookup()
 {
@@ -98,7 +98,7 @@ void mrvRemoveFromList(const QTextBlock &block)
     }
     QTextCursor cursor(block);
     cursor.beginEditBlock();
-    // With it, a paragraph that joins another list later would start on the level of this one.
+    // With it, a paragraph that joins another list later would start at the level of this one.
     mrvSetListLevel(*list, block, 0);
     list->remove(block);
     cursor.endEditBlock();

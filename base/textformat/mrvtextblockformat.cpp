@@ -16,7 +16,7 @@ enum Group : unsigned {
 
 // clang-format off
 constexpr MrvFormatMerge::Row Rows[] = {
-    // Index of the list; in another document it would name some other list.
+    // Index of the list; in another document it would name a different list.
     {QTextFormat::ObjectIndex,            QTextFormat::ObjectIndex,            Data},
     {QTextFormat::CssFloat,               QTextFormat::CssFloat,               Data},
     {QTextFormat::LayoutDirection,        QTextFormat::LayoutDirection,        Alignment},
@@ -46,7 +46,7 @@ constexpr MrvFormatMerge::Row Rows[] = {
     // Frames, tables and cells: without them merged cells fall apart.
     {QTextFormat::FrameBorder,            QTextFormat::TableCellRightBorderBrush, Data},
     {QTextFormat::PageBreakPolicy,        QTextFormat::PageBreakPolicy,        Data},
-    // The application's own, with those that are added later.
+    // The application's own properties, including those that are added later.
     {QTextFormat::UserProperty,           std::numeric_limits<int>::max(),     Data},
 };
 // clang-format on
@@ -57,7 +57,7 @@ bool hasLineSpacing(const QTextBlockFormat &format)
     return format.property(MRVTextFormat::BlockSpacing).userType() == QMetaType::Double;
 }
 
-// What lies under the number of the line spacing without being one is a heading level.
+// A value under the number of the line spacing that is not a double is a heading level.
 bool hasHeadingLevel(const QTextBlockFormat &format)
 {
     return format.hasProperty(MRVTextFormat::BlockSpacing) && !hasLineSpacing(format);

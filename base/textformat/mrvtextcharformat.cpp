@@ -54,7 +54,7 @@ constexpr MrvFormatMerge::Row Rows[] = {
     {QTextFormat::FrameBorder,           QTextFormat::TableCellRightBorderBrush, Data},
     {QTextFormat::ImageName,             QTextFormat::ImageQuality,          Data},
     {QTextFormat::PageBreakPolicy,       QTextFormat::PageBreakPolicy,       Data},
-    // The application's own, with those that are added later.
+    // The application's own properties, including those that are added later.
     {QTextFormat::UserProperty,          std::numeric_limits<int>::max(),    Data},
 };
 // clang-format on
@@ -76,7 +76,7 @@ void setWeight(QTextCharFormat *format, int weight)
     }
 }
 
-// Whether a value emphasises: a decoration that is switched off, or an invalid colour, does not.
+// Whether a value emphasizes; a decoration that is switched off and an invalid colour do not.
 bool isEmphasis(const QVariant &value)
 {
     switch (value.userType()) {
@@ -89,7 +89,7 @@ bool isEmphasis(const QVariant &value)
     }
 }
 
-// Adds the existing emphasis to a result that has the new one.
+// Adds the existing emphasis to a result that has the new emphasis.
 void addEmphasis(QTextCharFormat *result, const QTextCharFormat &existing)
 {
     setWeight(result, qMax(weightOf(*result), weightOf(existing)));
@@ -135,7 +135,8 @@ QTextCharFormat MRVTextCharFormat::merge(const QTextCharFormat &existing,
     if (combineEmphasis) {
         addEmphasis(&result, existing);
     }
-    // The block character format of a cell is the cell's own, and the brush that of its background.
+    // The block character format of a cell is the cell's format, and its brush the cell's
+    // background.
     if (existing.objectType() == QTextFormat::TableCellObject) {
         MrvFormatMerge::takeProperties(
             &result, existing, {QTextFormat::BackgroundBrush, QTextFormat::BackgroundImageUrl});

@@ -134,8 +134,8 @@ void copyIfPresent(QTextBlockFormat *to, const QTextBlockFormat &from, int prope
     }
 }
 
-// Qt writes a list of anchor names where older data has one name, and no names can be either. A
-// stored weight of 0 means normal.
+// Qt writes a list of anchor names where older data has one name; an empty value may be of either
+// type. A stored weight of 0 means normal.
 QVariant comparable(int property, const QVariant &value)
 {
     if (property == QTextFormat::AnchorName && value.userType() == QMetaType::QStringList
@@ -165,7 +165,7 @@ bool coveredBy(const QMap<int, QVariant> &a, const QMap<int, QVariant> &b)
     return true;
 }
 
-// Kept beside the document, since a Qt document has a default font only.
+// Kept in a property of the document object, since a Qt document has only a default font.
 constexpr char DefaultCharFormatName[] = "_mrv_defaultCharFormat";
 
 QTextCharFormat attributesOf(const QFont &font)
@@ -338,7 +338,7 @@ void MRVTextFormat::setDefaultCharFormat(QTextDocument &document, const QTextCha
 {
     document.setProperty(DefaultCharFormatName, QVariant::fromValue<QTextFormat>(format));
     QTextCharFormat drawn = format;
-    // A stored 0 means normal weight; Qt would draw it hair-thin.
+    // A stored 0 means normal weight; Qt would draw the thinnest weight.
     if (drawn.intProperty(QTextFormat::FontWeight) == 0) {
         drawn.clearProperty(QTextFormat::FontWeight);
     }
@@ -384,7 +384,7 @@ bool MRVTextFormat::hasBlockInString(const QString &text)
 
 QPair<QTextBlockFormat, QTextCharFormat> mrvDocumentFormatPair(const QTextDocument &document)
 {
-    // A cursor takes a document that may change; this one only reads.
+    // QTextCursor takes a non-const document; this cursor only reads.
     QTextCursor cursor(const_cast<QTextDocument *>(&document));
     cursor.movePosition(QTextCursor::Start);
     return {cursor.blockFormat(), cursor.charFormat()};

@@ -17,7 +17,7 @@
 
 namespace {
 
-// What convertToFormat() was asked to do.
+// The arguments of convertToFormat().
 struct Style
 {
     const QTextCharFormat *charFormat;
@@ -45,7 +45,8 @@ struct Style
     }
 };
 
-// Restyles the blocks from first to last, and of their runs what lies in [start, end).
+// Restyles the blocks from first to last, and those parts of their fragments that lie in
+// [start, end).
 class Restyler
 {
 public:
@@ -75,7 +76,7 @@ public:
     void apply(QTextDocument *document) const { m_changes.apply(document); }
 
 private:
-    // Of a block or of a run, which both know the index of a character format.
+    // Of a block or of a fragment; both know the index of their character format.
     template<typename Part>
     const std::optional<QTextCharFormat> &replacement(const Part &part)
     {
@@ -94,7 +95,7 @@ private:
 
     void collectBlockFormat(const QTextBlock &block)
     {
-        // The list is named by the block format and the mark of preserved paragraphs lies in the
+        // The block format names the list, and the mark of preserved paragraphs lies in the
         // first character's, so these two decide.
         const QTextBlock::iterator run = block.begin();
         const int firstChar =

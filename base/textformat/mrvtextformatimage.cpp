@@ -84,7 +84,7 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
     if (linked && isSameFile(link, fileName)) {
         return true;
     }
-    // Deliberate: gone before anything is written, so that a failure leaves no stale file.
+    // Deliberate: removed before anything is written, so that a failure leaves no stale file.
     if (QFile::exists(fileName)) {
         QFile::remove(fileName);
     }

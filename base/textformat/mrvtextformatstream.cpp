@@ -59,7 +59,7 @@ QByteArray write(const QTextFormat &format)
     return bytes;
 }
 
-// A hash has another order in every process; a map with the same content has not.
+// The order of a hash differs in every process; the order of a map does not.
 QVariant ordered(const QVariant &value)
 {
     QVariantMap map;
@@ -111,7 +111,7 @@ QTextFormat firstProperties(const QTextFormat &format, int count)
     return first;
 }
 
-// What is too much all together, by number or by its pictures: as many properties as can be read.
+// Where there are too many properties, or too large pictures, as many as can be read are written.
 QByteArray storeFirst(const QTextFormat &format)
 {
     int stored = 0;
@@ -170,9 +170,8 @@ Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
     return stream.status() == QDataStream::Ok && format.type() == type ? format : Format();
 }
 
-// How long the format ahead is, its bytes alone tell. So ever larger pieces of the stream are
-// looked at, instead of all that follows: a scheme of many presets would be copied once for each of
-// them.
+// Only its bytes tell how long the next format is. So ever larger pieces of the stream are examined
+// instead of all that follows, which a scheme of many presets would copy once for each of them.
 template<typename Format>
 bool take(QDataStream &stream, QTextFormat::FormatType type, Format *format)
 {

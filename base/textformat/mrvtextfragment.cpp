@@ -8,7 +8,8 @@
 void mrvFragmentFormat(const QTextDocumentFragment &fragment, QTextBlockFormat *blockFormat,
                        QTextCharFormat *charFormat)
 {
-    // Qt keeps a fragment's formats to itself; only a document that it was put into shows them.
+    // Qt does not publish a fragment's formats; only a document that it was inserted into shows
+    // them.
     QTextDocument scratch;
     scratch.setUndoRedoEnabled(false);
     QTextCursor(&scratch).insertFragment(fragment);

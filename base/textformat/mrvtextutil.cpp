@@ -11,14 +11,14 @@ namespace {
 QList<int> weightsOf(const QString &family)
 {
     QList<int> weights;
-    // An empty name would mean the styles of some other family.
+    // For an empty name Qt would return the styles of a default family.
     if (family.isEmpty()) {
         return weights;
     }
     const QFontDatabase fonts;
     for (const QString &style : fonts.styles(family)) {
         const int weight = fonts.weight(family, style);
-        // -1 where the style went away in between.
+        // -1 where the style was removed in between.
         if (weight >= 0) {
             weights << weight;
         }

@@ -20,13 +20,13 @@
 namespace {
 
 constexpr int LogoSize = 48;
-// What the dialog is given, in average characters and lines, as far as the screen goes.
+// The size of the dialog in average characters and lines, within the limits of the screen.
 constexpr int CharactersWide = 90;
 constexpr int LinesHigh = 34;
 constexpr int LinesOfNotes = 6; // at least
 constexpr int LongestWord = 60;
 
-// With places to break words that would make the dialog wider than any screen, such as addresses.
+// Adds break opportunities to words, such as addresses, that would be wider than the screen.
 QString breakable(const QString &text)
 {
     QString result;
@@ -98,7 +98,7 @@ void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
 
 void MRVCheckForUpdatesDialog::updateDownloadProgress(qint64 bytesRead, qint64 total)
 {
-    // The bar counts in int: of what is larger, it shows the same share.
+    // The bar counts in int: larger sizes are scaled down.
     while (total > std::numeric_limits<int>::max()) {
         total /= 2;
         bytesRead /= 2;
@@ -121,7 +121,7 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
         showRightsWarning(needsAdminRights, installedLocation);
         return;
     }
-    // The focus would go on to the Cancel button, where a key that is pressed twice ends the
+    // The focus would move on to the Cancel button, where a key that is pressed twice would end the
     // download.
     m_ui->downloadButton->clearFocus();
     m_ui->downloadButton->setEnabled(false);
@@ -134,7 +134,7 @@ void MRVCheckForUpdatesDialog::showRightsWarning(bool needsAdminRights,
                                                  const QString &installedLocation)
 {
     const QString application = QCoreApplication::applicationName();
-    // It goes with the dialog, which may be deleted while it is open.
+    // It is deleted with the dialog, which may happen while it is open.
     const QPointer<QMessageBox> box(new QMessageBox(this));
     box->setIcon(QMessageBox::Warning);
     box->setTextFormat(Qt::PlainText);
@@ -166,7 +166,7 @@ void MRVCheckForUpdatesDialog::enableInstallButton()
     m_ui->downloadButton->setText(QStringLiteral("Downloaded Update"));
     m_ui->installButton->show();
     m_ui->installButton->setDefault(true);
-    // Somebody who reads the notes may be pressing keys just now.
+    // A user who reads the notes may be pressing keys at this moment.
     const QWidget *const focus = focusWidget();
     if (focus != m_ui->webView && !m_ui->webView->isAncestorOf(focus)) {
         m_ui->installButton->setFocus();
@@ -199,7 +199,7 @@ QSize MRVCheckForUpdatesDialog::roomOnScreen() const
     return screen()->availableSize();
 }
 
-// Layouts do not see to it by themselves that a label of several lines gets all of them.
+// Layouts do not ensure by themselves that a label of several lines gets its full height.
 void MRVCheckForUpdatesDialog::keepStatusWhole()
 {
     const QSize room = roomOnScreen();

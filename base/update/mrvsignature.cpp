@@ -19,7 +19,7 @@ constexpr int HeadSize = AlgorithmSize + KeyIdSize;
 constexpr int KeySize = HeadSize + int(crypto_sign_PUBLICKEYBYTES);
 constexpr int SignatureSize = int(crypto_sign_BYTES);
 constexpr int HashSize = int(crypto_generichash_BYTES_MAX);
-// Four lines, of which the comments may be a page long.
+// Four lines, two of which are comments that may be a page long.
 constexpr int MaxSignatureFile = 16 * 1024;
 
 struct Signature
@@ -41,7 +41,7 @@ const unsigned char *data(const QByteArray &bytes)
     return reinterpret_cast<const unsigned char *>(bytes.constData());
 }
 
-// Empty when it is not base64 of so many bytes.
+// Empty when it is not base64, or not of the expected number of bytes.
 QByteArray decoded(const QByteArray &line, int size)
 {
     const auto result =
@@ -106,8 +106,8 @@ bool verifyFile(QFile *file, const Signature &signature, const QByteArray &key,
     if (signature.isHashed) {
         return verifyHash(file, signature.ofFile, key, digest);
     }
-    // The older form needs all the bytes at once. Not mapped, since a mapping shows what is written
-    // meanwhile.
+    // The older form needs all the bytes at once. The file is not mapped, since a mapping would
+    // show what another process writes meanwhile.
     const QByteArray bytes = file->readAll();
     digest->addData(bytes);
     return verify(signature.ofFile, data(bytes), bytes.size(), key);

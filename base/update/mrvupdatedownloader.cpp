@@ -13,7 +13,7 @@
 
 namespace {
 
-// One byte more than the model takes, so that it is the model that refuses a feed of another size.
+// One byte more than the model takes, so that the model refuses a feed that is too large.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
 
@@ -24,7 +24,7 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
     , m_model(new MRVUpdateModel(this))
     , m_redirects(std::make_unique<MRVRedirectPolicy>())
 {
-    // Without a parent: windows that are open now may be closed before the check ends.
+    // No parent: windows that are open now may be closed before the check ends.
     m_dialog = new MRVCheckForUpdatesDialog(m_model->releaseNotesUrl());
     connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::removeRefused);
     connect(m_model, &MRVUpdateModel::updateError, m_dialog, &MRVCheckForUpdatesDialog::statusMsg);
@@ -44,10 +44,10 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
 MRVUpdateDownloader::~MRVUpdateDownloader()
 {
     m_ended = true;
-    // It must not tell an object that is half gone; and it uses the policy, which is destroyed
-    // before the children.
+    // It must not signal to an object that is partly destroyed; and it uses the policy, which is
+    // destroyed before the children.
     delete m_downloader;
-    // A widget does not bear being deleted after the application, which may own this object.
+    // A widget must not be deleted after the application, which may own this object.
     if (QCoreApplication::instance()) {
         delete m_dialog;
     }
@@ -93,8 +93,8 @@ bool MRVUpdateDownloader::download(Step step, const QString &url, const QString 
     return m_downloader->downloadToFile(QUrl(url), path);
 }
 
-// The bytes are there, and are written next. Anybody may have put a link to a file of the user's
-// under this name.
+// The bytes have arrived and are written next. Somebody may have planted a link to one of the
+// user's files under this name.
 void MRVUpdateDownloader::removePlantedLink()
 {
     if (QFileInfo(m_path).isSymLink()) {
@@ -102,8 +102,8 @@ void MRVUpdateDownloader::removePlantedLink()
     }
 }
 
-// An installer that was refused must not lie about under its name, for somebody to open by hand.
-// What this check has not written is left alone.
+// A refused installer must not remain under its name, where a user might open it by hand.
+// Files that this check has not written are left alone.
 void MRVUpdateDownloader::removeRefused()
 {
     if (m_step != Step::Feed) {
@@ -116,7 +116,7 @@ void MRVUpdateDownloader::removeRefused()
 
 void MRVUpdateDownloader::onDownloaded()
 {
-    // Where a redirect is not followed, its own page is what has been downloaded.
+    // Where a redirect is not followed, the redirect's own page has been downloaded.
     if (m_redirects->hasRefused()) {
         QFile::remove(m_path);
         tellDownloadError(tr("The server sent the download on to an address that is not safe."));
@@ -135,7 +135,7 @@ void MRVUpdateDownloader::onInstallerDownloaded()
         m_model->readEXE();
         return;
     }
-    // The bar stays at the installer's end.
+    // The bar stays at the end of the installer's download.
     disconnect(m_downloader, &MRVDownloadUrl::downloadProgress, nullptr, nullptr);
     m_downloader->setMaximumSize(MaxSignatureDownload);
     if (!download(Step::Signature, m_model->signatureUrl(), m_model->signatureFilePath())) {
@@ -145,7 +145,7 @@ void MRVUpdateDownloader::onInstallerDownloaded()
 
 void MRVUpdateDownloader::tellDownloadError(const QString &error)
 {
-    // What goes wrong after the feed was judged is told where the user asked for it.
+    // Errors after the feed was evaluated are reported where the user asked for the download.
     if (m_model->isNewerAvailable()) {
         if (m_step == Step::Signature) {
             removeRefused();
@@ -174,7 +174,7 @@ void MRVUpdateDownloader::disableSilent()
         showDialog();
     }
     m_silent = false;
-    // It may lie under the window from which the user asks.
+    // It may be covered by the window from which the user asks.
     if (m_dialog && m_dialog->isVisible()) {
         m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
         m_dialog->raise();
@@ -216,7 +216,7 @@ void MRVUpdateDownloader::updateAvailable(bool available)
 
 void MRVUpdateDownloader::errorMsg(const QString &error)
 {
-    // One fault may be told twice, and again while its box is open.
+    // One error may be reported twice, and again while its message box is open.
     if (m_ended || m_isTelling) {
         return;
     }
@@ -285,7 +285,7 @@ void MRVUpdateDownloader::cancelUpdate()
         m_dialog->deleteLater();
     }
     if (m_downloader) {
-        // It tells of its end, which is nobody's concern any more.
+        // It reports its end, which no longer concerns anybody.
         m_downloader->disconnect();
         m_downloader->cancelDownload();
     }

@@ -39,7 +39,7 @@ struct Keys
 // clang-format off
 constexpr Keys keys[] = {
     {"Morvane",  "General/checkForUpdates", "General/checkForUpdatesInterval",     "General/lastCheckForUpdates"},
-    // "Uptates" is what is stored.
+    // The misspelling "Uptates" is the stored key.
     {"Fernwick", "Options/CheckForUpdates", "Options/CheckForUptatesIntervalDays", "Options/CheckForUptatesLastDateTime"},
 };
 // clang-format on
@@ -99,7 +99,7 @@ MRVUpdateManager *MRVUpdateManager::instance()
 {
     if (!manager) {
         manager = new MRVUpdateManager(QCoreApplication::instance());
-        // The application deletes its children when it can have no windows any more.
+        // The application deletes its children when windows can no longer exist.
         qAddPostRoutine(&MRVUpdateManager::release);
     }
     return manager;
@@ -170,7 +170,7 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
     connect(m_downloader, &MRVUpdateDownloader::updateChecked, this,
             &MRVUpdateManager::onUpdateChecked);
     m_downloader->setPublicKey(m_publicKey);
-    // What it shows runs an event loop, in which this object may be released.
+    // Its message box runs an event loop, in which this object may be released.
     const QPointer<MRVUpdateManager> self(this);
     if (!m_downloader->startUpdate(silent) && self) {
         forgetDownloader();
@@ -206,11 +206,11 @@ void MRVUpdateManager::onUpdateFinished()
 
 void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
 {
-    // Unsaved documents may keep the user for a while, and the application may release this object
+    // Saving documents may take the user a while, and the application may release this object
     // meanwhile.
     const QScopedPointer<MRVUpdateDownloader, QScopedPointerDeleteLater> check(m_downloader);
     m_downloader.clear();
-    // Of a file that an application wants opened, the check knows nothing.
+    // The check knows nothing about a file that the application wants opened.
     const bool isChecks = check && sender() == check.data();
     if (check) {
         check->setParent(nullptr);

@@ -19,10 +19,10 @@
 namespace {
 
 constexpr int LongestVersion = 100;
-// As much of an installer is looked at.
+// The part of an installer that is examined.
 constexpr int InstallerSample = 100000;
 
-// A name for a file in a folder, and nothing else.
+// A plain file name, without any folder.
 bool isFileName(const QString &name)
 {
     if (name.isEmpty() || name == QLatin1String(".") || name == QLatin1String("..")) {
@@ -73,7 +73,7 @@ void MRVUpdateModel::settings()
                           .trimmed();
         }
     }
-    // A file that names no feed is of no more use than one that is missing.
+    // A file that names no feed is as useless as a missing one.
     if (!isFileName(m_xmlFileName) || m_xmlUrl.isEmpty()) {
         m_settingsError = tr("Failed to open update.ini file to determine update URL location and "
                              "version. Please contact %1 so we can fix this problem quickly.")
@@ -143,8 +143,8 @@ void MRVUpdateModel::compareVersions()
     bool isAvailableNumber = false;
     const int currentDigits = digits(current, &isCurrentNumber);
     const int availableDigits = digits(m_availableVersion, &isAvailableNumber);
-    // Full stops are no digits: a small number may have as many as a feed has room for, and the
-    // dialog would show them.
+    // Full stops are not digits: a small number may have as many as fit into a feed, and the dialog
+    // would show them.
     if (!isCurrentNumber || !isAvailableNumber || m_availableVersion.size() > LongestVersion) {
         Q_EMIT updateError(
             tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
@@ -183,13 +183,13 @@ void MRVUpdateModel::readXML()
     if (m_failed) {
         return;
     }
-    // Deliberate: the first look goes to a name with a backslash in it. The downloader writes the
-    // other one.
+    // Deliberate: a name with a backslash in it is tried first. The downloader writes the other
+    // one.
     QString path = QDir::toNativeSeparators(QDir::tempPath() + u'\\' + m_xmlFileName);
     if (!QFileInfo::exists(path) && QFileInfo::exists(xmlFilePath())) {
         path = xmlFilePath();
     }
-    // A receiver that shows a fault runs an event loop, in which the check may be deleted.
+    // A receiver that shows an error runs an event loop, in which the check may be deleted.
     const QPointer<MRVUpdateModel> self(this);
     if (!isDownloadFileIntegral(path)) {
         if (!self) {

@@ -11,7 +11,7 @@ double toComponent(const QString &text)
     bool ok = false;
     const double value = text.toDouble(&ok);
     // Written so that NaN, for which every comparison is false, gives 0. Where a number is too
-    // large for a double, Qt gives infinity, but calls it no number.
+    // large for a double, Qt returns infinity but reports an error.
     return ok && value > 0.0 ? qMin(value, 1.0) : 0.0;
 }
 

@@ -84,7 +84,7 @@ constexpr bool runsFromTo(const Row (&table)[Size], int first, int last)
     return first + int(Size) - 1 == last;
 }
 
-// Every bit from the lowest to the highest once, but for the unused 0x80.
+// Every bit from the lowest to the highest once, except the unused 0x80.
 template<std::size_t Size>
 constexpr bool holdsEachBitInOrder(const Name<MRV::CompileNoteFlag> (&table)[Size])
 {

@@ -81,7 +81,7 @@ QPair<QString, QList<int>> MRV::parseProjectNodeMimeType(const QMimeData *mime)
     while (stream.status() == QDataStream::Ok && !stream.atEnd()) {
         qint32 id = 0;
         stream >> id;
-        // A read past the end yields an id of 0, which would be a node that was never dragged.
+        // A read past the end yields an id of 0, which would name a node that was never dragged.
         if (stream.status() == QDataStream::Ok && id >= 0) {
             nodes.second << id;
         }

@@ -19,7 +19,7 @@ bool isCleanedAway(QChar c)
     return false;
 }
 
-// Where the digits at the end of the name begin: its length where there are none.
+// Where the digits at the end of the name begin; its length where it ends in none.
 int numberStart(const QString &name)
 {
     int start = name.size();

@@ -88,7 +88,7 @@ bool isUnit(MRVUnit::Unit unit)
 
 int toInt(double value)
 {
-    // An int that a double exceeds is undefined, and what is no number exceeds all of them.
+    // Converting a double beyond the range of int is undefined, and so is converting NaN.
     if (qIsNaN(value)) {
         return 0;
     }
@@ -96,7 +96,7 @@ int toInt(double value)
                       double(std::numeric_limits<int>::max())));
 }
 
-// Points and unit of a text; 0 and none where it is no measure.
+// Points and unit of a text; 0 and no unit where the text is not a measure.
 QPair<double, MRVUnit::Unit> measureOf(const QString &text)
 {
     QString pattern;

@@ -18,7 +18,7 @@ struct UserRights
     QString location;
 };
 
-// A record may name the folder or the program in it.
+// A record may name the folder or the program inside it.
 QString recordedFolder()
 {
     const QSettings settings(QCoreApplication::organizationName(),

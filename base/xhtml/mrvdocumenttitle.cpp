@@ -13,7 +13,7 @@ QString mrvDocumentTitle(const QTextDocument &document, const QString &fallback)
     int seen = 0;
     for (QTextBlock block = document.begin(); block.isValid() && seen < Beginning;
          block = block.next(), ++seen) {
-        // Spacings share the property's number but are no integers.
+        // Line spacings share the property's number but are not integers.
         if (block.blockFormat().headingLevel() > 0) {
             const QString text =
                 block.text().remove(QChar::ObjectReplacementCharacter).simplified();

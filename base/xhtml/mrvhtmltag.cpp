@@ -25,7 +25,7 @@ struct AttributeRule
     bool html5Only;
 };
 
-// What the pages may carry in Qt's HTML and their document types lack.
+// Attributes that Qt's HTML may have and that the document types of the pages lack.
 // clang-format off
 constexpr AttributeRule rules[] = {
     {" p h1 h2 h3 h4 h5 h6 pre li td ", "align",       Move::Value,      "text-align:%1;",              false},
@@ -80,7 +80,7 @@ QString declaration(const AttributeRule &rule, const QString &value)
     return QString();
 }
 
-// Qt writes the margins of a table, too: those of the aligned sides give way.
+// Qt writes the margins of a table, too; the alignment overrides those of the aligned sides.
 void alignTable(MRVHtmlTag *tag, const QString &alignment)
 {
     const bool right = alignment == QLatin1String("right");
@@ -214,7 +214,7 @@ MRVHtmlTag MRVHtmlTag::parsed(QStringView tag)
             pos = end + 1;
             result.attributes.append(attribute);
         } else if (pos == before || attribute.name.isEmpty()) {
-            ++pos; // not markup as Qt writes it: go on behind it
+            ++pos; // not markup as Qt writes it: continue after it
         }
     }
     if (result.ending.isEmpty()) {

@@ -34,7 +34,7 @@ int entityValue(QStringView entity)
 
 void MRVHtmlText::replaceAll(QString *text, QLatin1String before, QLatin1String after)
 {
-    int at = text->indexOf(before); // most texts have none: the rest costs more
+    int at = text->indexOf(before); // most texts have none, and the rest costs more
     if (at < 0) {
         return;
     }
@@ -131,7 +131,7 @@ QHash<QString, int> MRVHtmlText::idPlaces(const QString &html)
 
 bool MRVHtmlText::hasWideSpace(QStringView text)
 {
-    // Without a branch the loop becomes vector code, as above.
+    // Without a branch the compiler vectorizes the loop, as above.
     const char16_t *const characters = text.utf16();
     unsigned short wide = !text.isEmpty() && text.back() == u'\t';
     for (int i = 0, last = int(text.size()) - 1; i < last; ++i) {

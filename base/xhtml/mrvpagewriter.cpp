@@ -87,7 +87,7 @@ void MRVPageWriter::writeHead(const QString &html, int end, const QString &docum
         at = head.indexOf(QLatin1String("<style"));
     }
     const QString shown = mrvXmlText(at >= 0 && !documentTitle.isEmpty() ? documentTitle : title);
-    // The title is prose: the chain must not see it.
+    // The title is prose, which the fix-ups must not see.
     QString start = chain(head.left(at));
     const QLatin1String root("<html ");
     if (!m_language.isEmpty() && start.contains(root)) {
@@ -134,7 +134,7 @@ void MRVPageWriter::writeBody(QStringView html)
     }
 }
 
-// One past the tag's end. A tag that another one interrupts ends there.
+// One past the tag's end. A tag ends where another one begins.
 int MRVPageWriter::tagEnd(QStringView html, int begin) const
 {
     const QChar first = html[begin + 1];
@@ -215,7 +215,7 @@ int MRVPageWriter::startAnchor(QStringView html, int begin, int end)
     const QString name =
         MRVHtmlText::unescaped(tag.mid(named.size(), tag.size() - named.size() - 2));
     if (after > end && (name.isEmpty() || m_ids.contains(name))) {
-        return after; // Qt names an anchor anew at each of its runs: the first one counts
+        return after; // Qt repeats the name of an anchor in each fragment: the first one counts
     }
     QString text = tag;
     MRVTextXhtmlExporter::convertAnchorNameToId(&text);
@@ -246,7 +246,7 @@ void MRVPageWriter::startItem(QStringView tag)
     beginParagraph(m_open.constLast().offset, tag);
 }
 
-// Qt ends neither the item nor, after the last one, the list that a rule stands in.
+// Qt closes neither the list item that holds a rule nor, after the last one, the list.
 void MRVPageWriter::startRule(QStringView html, int begin, int end)
 {
     const bool inItem = topIs(QLatin1String("li")) && html[begin - 1] != u'\n';
@@ -303,7 +303,7 @@ void MRVPageWriter::appendText(QStringView text)
     }
 }
 
-// The chain takes Qt's rule for white space out of the page: a paragraph that needs it gets it
+// The fix-ups remove Qt's rule for white space from the page: a paragraph that needs it gets it
 // back.
 void MRVPageWriter::endParagraph()
 {
@@ -467,7 +467,7 @@ void MRVPageWriter::close()
     if (open.hasBody) {
         m_page += QLatin1String("</tbody>");
     } else if (open.name == QLatin1String("tr") && m_page.endsWith(open.tag)) {
-        // All its cells are spanned from above; a row must have one.
+        // All its cells are covered by cells above, but a row must have one.
         m_page += rewritten(hiddenCell) + QLatin1String("</td>");
     }
     m_page += QLatin1String("</") + open.name + u'>';
@@ -492,7 +492,7 @@ QString MRVPageWriter::rewrite(const QString &unit, const QString &cellStyle)
 {
     QString text = mrvNormalisedTag(mrvXmlText(unit));
     if (text.startsWith(QLatin1String("<img"))) {
-        // Its texts are prose: of the chain, what looks into styles must not see them.
+        // Its texts are prose, which the fix-ups of styles must not see.
         text = MRVTextXhtmlExporter::htmlToXhtml(text);
     } else {
         text = chain(text);
@@ -513,7 +513,7 @@ QString MRVPageWriter::chain(const QString &text) const
                                                  : MRVTextXhtmlExporter::htmlToEBook(text);
 }
 
-// Identifiers are XML names (XML 1.0, section 2.3), here of the letters that all its editions know.
+// Identifiers are XML names (XML 1.0, section 2.3), limited to what all its editions allow.
 QString MRVPageWriter::uniqueId(const QString &name)
 {
     QString base;

@@ -17,8 +17,7 @@
 
 namespace {
 
-// Removes what an export that failed has written so far; folders go only when nothing else is in
-// them.
+// Removes what a failed export has written so far; folders are removed only when they are empty.
 void removeFiles(const QStringList &files, const QString &newFolder)
 {
     for (const QString &file : files) {
@@ -122,7 +121,7 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
 
     MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
     writer.reserveId(QStringLiteral("start"));
-    writer.setLinks(links); // before anchors are renamed: the table knows the document's own names
+    writer.setLinks(links); // before anchors are renamed: the table holds the document's own names
     html = writer.write(html, document->metaInformation(QTextDocument::DocumentTitle),
                         mrvDocumentTitle(*document, QFileInfo(file).completeBaseName()));
     addDocAnchor(&html);
@@ -176,8 +175,8 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
     return MRVTextFormat::exportImageFormat(path, imageFormat, picture, error) ? path : QString();
 }
 
-// The file as the page refers to it. Only what would end a path or begin an escape is encoded: the
-// rest of the name is to be read by people.
+// The file as the page refers to it. Only characters that would end a path or begin an escape are
+// encoded, so that people can read the name.
 QString MRVTextXhtmlExporter::imageReference(const QString &file) const
 {
     const QFileInfo info(file);

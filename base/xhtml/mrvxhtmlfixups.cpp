@@ -77,7 +77,7 @@ QString emLength(const QString &pattern, double px)
         pattern.arg(QString::number(MRVTextXhtmlExporter::pxToEm(px), 'f', 3)));
 }
 
-// A name that is an address is no valid identifier.
+// A name that is an address is not a valid identifier.
 bool isAddress(const QString &name)
 {
     static const QRegularExpression pattern(
@@ -87,7 +87,7 @@ bool isAddress(const QString &name)
     return pattern.match(name).hasMatch();
 }
 
-// Rewrites the declarations of every style attribute: those that @p keep refuses go.
+// Removes from every style attribute the declarations that @p keep refuses.
 template<typename Keep>
 void filterDeclarations(QString *html, Keep keep)
 {

@@ -7,7 +7,7 @@ namespace {
 
 using RuleSet = QHash<QString, QString>;
 
-// A hash's own order is random, so that equal sets need a text in one order to be found by.
+// The order of a hash is random, so equal sets are found by a text in a fixed order.
 QString canonicalText(const RuleSet &rules)
 {
     QStringList names = rules.keys();
@@ -19,7 +19,7 @@ QString canonicalText(const RuleSet &rules)
     return text;
 }
 
-// What Qt does on the screen with raised and lowered text, and leaves to the browser in HTML.
+// How Qt displays raised and lowered text on the screen; in HTML it leaves that to the browser.
 RuleSet shownRules(RuleSet rules)
 {
     const QString place = rules.value(QStringLiteral("vertical-align"));
@@ -38,7 +38,7 @@ bool isSafeCss(const QString &text)
             return false;
         }
     }
-    // An open quote or parenthesis would swallow the rules that follow.
+    // An unclosed quote or parenthesis would swallow the rules that follow.
     return text.count(u'"') % 2 == 0 && text.count(u'\'') % 2 == 0
         && text.count(u'(') == text.count(u')') && !text.contains(QLatin1String("/*"))
         && !text.contains(u'\\');
@@ -137,7 +137,7 @@ QHash<QString, QString> MRVTextXhtmlExporter::toStyleSheet(const QString &style,
                                                            bool dropFontFamily)
 {
     RuleSet rules;
-    // Families are written as &quot;Some Name&quot;: the semicolons of the escapes are no ends of
+    // Families are written as &quot;Some Name&quot;: the semicolons of the escapes do not end
     // declarations.
     const QStringList declarations = MRVHtmlText::unescaped(style).split(u';');
     for (const QString &declaration : declarations) {

@@ -3,8 +3,8 @@
 // The patterns use only what QRegExp and QRegularExpression share: no look-behind, no lazy or
 // possessive quantifiers, no \x escapes beyond two digits, case spelled out. What stands in for
 // possessive quantifiers is that no text can be divided between neighbouring groups in two ways. No
-// group is repeated without end: beyond some ten thousand rounds QRegularExpression gives up, which
-// looks like an address that is not there.
+// group repeats without a limit: after some ten thousand rounds QRegularExpression gives up, which
+// looks like no match.
 
 namespace {
 
@@ -33,10 +33,10 @@ QString hostLabel()
         .arg(foreignLetters());
 }
 
-// Labels in front of those that were registered, each with its full stop. They may hold
-// underscores. No name in use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4),
-// but compiled, a repetition is so many copies, and a caller may join the three patterns and ignore
-// the case, where QRegularExpression takes 64 KiB at most.
+// Labels before the registered ones, each with its full stop. They may hold underscores. No name in
+// use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4), but compiled, a
+// repetition is so many copies, and a caller may join the three patterns and ignore the case, where
+// QRegularExpression takes 64 KiB at most.
 QString subdomains()
 {
     return QStringLiteral("(?:[A-Za-z0-9_%1-]{1,63}\\.){0,48}").arg(foreignLetters());

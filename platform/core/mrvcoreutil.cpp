@@ -19,9 +19,9 @@ constexpr qint64 MaxFileBytes = qint64(1) << 30;
 constexpr qint64 MaxTextBytes = qint64(1) << 28;
 constexpr qint64 PieceBytes = qint64(1) << 20;
 
-// The longest name of a file that Linux's file systems take.
+// The longest file name that the file systems of Linux take, in bytes.
 constexpr int MaxNameBytes = 255;
-// What is longer is no suffix but a name with a full stop in it.
+// Anything longer is not a suffix but part of a name with a full stop in it.
 constexpr int MaxSuffixBytes = 100;
 
 // IANA's numbers of the encodings that hold every character, each UTF family in its three orders.
@@ -56,10 +56,10 @@ QString withoutHalfPairs(QString text)
     return text;
 }
 
-// Tells text from rubbish for codecs that report no error: they put U+FFFD for what they do not
-// know, and keep back the beginning of a character that lacks its end. That the text gives the same
-// bytes again is proof enough, but cannot be asked for: Shift_JIS has two codes for some
-// characters, and some codecs open every text with an escape.
+// Detects undecodable bytes for codecs that report no error: they put U+FFFD for what they do not
+// know, and swallow the beginning of a character that lacks its end. Encoding the text again and
+// comparing the bytes would prove more, but Shift_JIS has two codes for some characters, and some
+// codecs begin every text with an escape sequence.
 bool isLossless(const QByteArray &bytes, const QTextCodec &codec, const QString &text)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
@@ -78,16 +78,16 @@ bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
                                                     : QTextCodec::DefaultConversion);
     *bytes = codec.fromUnicode(text.constData(), text.size(), &state);
     if (isOneOf(mib, Utf32Mibs)) {
-        // Qt's encoder leaves four bytes of rubbish at the end for every surrogate pair.
+        // Qt's encoder leaves four stray bytes at the end for every surrogate pair.
         bytes->truncate(4 * (1 + text.toUcs4().size()));
     } else if (mib != Utf8Mib && !isOneOf(mib, Utf16Mibs)) {
-        // invalidChars does not tell of all losses: some encoders keep back the last character.
+        // invalidChars does not report all losses: some encoders hold back the last character.
         return codec.toUnicode(*bytes) == text;
     }
     return true;
 }
 
-// Counted while reading too: a pipe has no size, and a file may grow.
+// Counted while reading, too: a pipe has no size, and a file may grow.
 QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
 {
     const auto fail = [&](const QString &reason) {
@@ -128,7 +128,7 @@ bool isTaken(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
-// The stem, less of its end as the name needs to fit, and what follows it.
+// The stem, shortened at its end until the name fits, and what follows it.
 QString shortened(QString stem, const QString &ending)
 {
     int excess = QFile::encodeName(stem + ending).size() - MaxNameBytes;

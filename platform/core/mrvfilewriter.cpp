@@ -17,14 +17,14 @@
 
 namespace {
 
-// As many links as the kernel follows before it reports a circle.
+// As many links as the kernel follows before it reports a loop.
 constexpr int MaxLinks = 40;
 
-// The longest name, in bytes, that leaves room for the ".XXXXXX" of QSaveFile's temporary file.
+// The longest name, in bytes, to which QSaveFile can append the ".XXXXXX" of its temporary file.
 constexpr int MaxSavedName = 255 - 7;
 
-// The rule by which Linux, where fs.protected_symlinks is on, keeps users of a shared folder such
-// as /tmp from sending each other's files elsewhere.
+// The rule of Linux's fs.protected_symlinks, which keeps users of a shared folder such as /tmp from
+// redirecting each other's files.
 bool isPlanted(const QFileInfo &link)
 {
     struct stat folder;
@@ -63,8 +63,8 @@ QString realTarget(const QString &path, QString *reason)
     return folder.isEmpty() ? info.filePath() : folder + QLatin1Char('/') + info.fileName();
 }
 
-// As far as the system lets us: only the administrator gives files away, and a user may hand them
-// to groups of his own alone.
+// As far as the system allows: only the administrator may give files away, and a user may hand them
+// only to his own groups.
 void keepOwner(int handle, const QString &path)
 {
     struct stat old;
@@ -76,8 +76,8 @@ void keepOwner(int handle, const QString &path)
     Q_UNUSED(isKept)
 }
 
-// Network and copy-on-write file systems report a full disk only here. Those that cannot sync at
-// all say so, which is no failure.
+// Network and copy-on-write file systems report a full disk only here. A file system that cannot
+// sync at all says so, which is not a failure.
 bool syncToDisk(int handle)
 {
     int result;
@@ -87,7 +87,7 @@ bool syncToDisk(int handle)
     return result == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
-// A disk that fills up takes a part of the bytes without an error; only the next write has one.
+// A disk that fills up takes a part of the bytes without an error; only the next write fails.
 bool writeAll(QFileDevice &file, const QByteArray &bytes)
 {
     qint64 done = 0;
@@ -126,7 +126,7 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
     if (path.isEmpty()) {
         return fail(tr("the file has no name"));
     }
-    // The system's calls would take what stands before it for the whole name.
+    // System calls would take the part before it for the whole name.
     if (path.contains(QChar(QChar::Null))) {
         return fail(tr("its name holds a null character"));
     }
@@ -146,7 +146,7 @@ bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString 
         return fail(tr("its folder does not exist"));
     }
 
-    // A name too long for QSaveFile is taken in a second step, from one that nobody else uses.
+    // A name too long for QSaveFile is given in a second step, from a name that nobody else uses.
     const bool isLong = QFile::encodeName(info.fileName()).size() > MaxSavedName;
     const QString place = isLong
         ? info.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)

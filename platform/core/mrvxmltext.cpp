@@ -17,9 +17,9 @@ bool isSuspicious(ushort c)
 // True when each character is surely allowed on its own.
 bool isPlain(QStringView text)
 {
-    // Without a branch the loop becomes vector code: it sees every character of every page. Between
-    // a blank and the first surrogate nothing is forbidden; the few texts with others get a closer
-    // look.
+    // Without a branch the compiler vectorizes the loop, which sees every character of every page.
+    // Between a blank and the first surrogate nothing is forbidden; the few texts with other
+    // characters are examined one by one.
     unsigned short others = 0;
     const char16_t *const characters = text.utf16();
     for (int i = 0, size = int(text.size()); i < size; ++i) {

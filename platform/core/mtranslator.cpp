@@ -14,7 +14,7 @@ namespace {
 constexpr QLatin1String Prefix("mrvbase_");
 constexpr QLatin1String Suffix(".qm");
 
-// The folder of the environment comes first: who names one wants to see what is in it.
+// The folder that the environment names comes first: whoever sets it wants to see its content.
 QStringList translationFolders()
 {
     QStringList folders;
@@ -37,7 +37,7 @@ bool isLanguageCode(const QString &code)
         && (code == locale.name() || code == locale.name().section(QLatin1Char('_'), 0, 0));
 }
 
-// Empty where there is none.
+// Empty where no file exists.
 QString translationFile(const QString &code)
 {
     const QString name = QLocale(code).name();
@@ -53,7 +53,7 @@ QString translationFile(const QString &code)
     return QString();
 }
 
-// By its name it is found again, and told from the application's own.
+// Its object name distinguishes it from the application's own translators.
 std::unique_ptr<QTranslator> newTranslator()
 {
     auto translator = std::make_unique<QTranslator>();
@@ -131,7 +131,7 @@ bool MTranslator::install(const QString &code, QString *error)
         return fail(tr("There is no translation into the language \"%1\"").arg(code));
     }
 
-    // Without delimiters, as Qt would otherwise look for files of other names, too.
+    // Without delimiters, since Qt would otherwise look for files of other names, too.
     auto own = newTranslator();
     if (!file.isEmpty() && !own->load(file, QString(), QLatin1String(""))) {
         return fail(

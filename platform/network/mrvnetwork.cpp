@@ -8,7 +8,7 @@ namespace {
 
 bool isUsable(const QNetworkAddressEntry &entry)
 {
-    // An interface gives itself a link-local address also where nobody answers.
+    // An interface has a link-local address even where no network answers.
     const QHostAddress address = entry.ip();
     return !address.isNull() && !address.isLoopback() && !address.isLinkLocal();
 }
