@@ -46,7 +46,7 @@ MRVAutoReplaceIndex::MRVAutoReplaceIndex(const QList<MRVAutoReplace> &entries)
             m_order.push_back(i);
         }
     }
-    // Stable: of equal matches the first in the list stays in front, and it alone can win.
+    // Stable: of equal matches the first in the list stays first, and only it can win.
     std::stable_sort(m_order.begin(), m_order.end(), [this](int a, int b) {
         return isLessBackwards(m_entries.at(a).match, m_entries.at(b).match);
     });
@@ -55,7 +55,7 @@ MRVAutoReplaceIndex::MRVAutoReplaceIndex(const QList<MRVAutoReplace> &entries)
     };
     m_order.erase(std::unique(m_order.begin(), m_order.end(), isSame), m_order.end());
 
-    // Breadth first, so that the children of a node stand side by side.
+    // Breadth first, so that the children of a node are adjacent.
     std::vector<Range> ranges{{0, m_order.size(), QChar()}};
     for (std::size_t i = 0; i < ranges.size() && !m_order.empty(); ++i) {
         const Range range = ranges[i];
@@ -98,7 +98,7 @@ int MRVAutoReplaceIndex::childOf(const Node &node, QChar key) const
     return it != end && *it == key ? int(it - m_keys.begin()) : -1;
 }
 
-// The key is known to fit; what is left are the characters that only one way leads along.
+// The first character is known to match; the others are those that all matches below share.
 bool MRVAutoReplaceIndex::endsAlike(const QString &text, const Node &node, int from) const
 {
     if (node.depth > text.size()) {

@@ -13,7 +13,7 @@ namespace {
 constexpr int StreamVersion = QDataStream::Qt_5_15;
 constexpr qint32 ListVersion = 1;
 
-// Up to here a look at each entry costs less than an index.
+// Up to this size, comparing each entry costs less than an index.
 constexpr int LongestScan = 64;
 
 // The default list as it is stored, in hexadecimal digits: version and count, then an entry a line.
@@ -73,7 +73,7 @@ MRVAutoReplaceList::MRVAutoReplaceList(const MRVAutoReplaceList &other)
     : List(other)
     , m_index(other.m_index)
 {
-    // The holder of a reference changes the other list alone.
+    // The holder of a reference changes only the other list.
     if (other.m_givenAway) {
         detach();
     }

@@ -21,7 +21,7 @@ constexpr const char *GroupNames[] = {
     QT_TRANSLATE_NOOP("MRVOptions", "Scratch pad"),
 };
 
-// The first is the default; its colours are those of the two settings.
+// The first is the default; its colours are the defaults of the two settings.
 constexpr ThemeRow Themes[] = {
     {QT_TRANSLATE_NOOP("MRVOptions", "White"),    0xffffffff, 0xff8a8f98},
     {QT_TRANSLATE_NOOP("MRVOptions", "Ivory"),    0xfffffbea, 0xff9b8f63},

@@ -18,8 +18,8 @@
 
 namespace {
 
-// The application's folder of the user's data, whatever the running program is called: the tool
-// must tell of the application's folders, not of its own.
+// The application's folder in the user's data, whatever the running program is called: the tool
+// must report the application's folders, not its own.
 QString dataFolder(QLatin1String name)
 {
     QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -79,7 +79,7 @@ QString defaultScratchPadPath()
 QString systemLocaleName()
 {
     const QLocale locale = QLocale::system();
-    // There is no dictionary of the language "C".
+    // No dictionary exists for the language "C".
     return locale.language() == QLocale::C ? QStringLiteral("en_US") : locale.name();
 }
 
@@ -217,7 +217,7 @@ QFont systemFont(int percent)
         return QFont();
     }
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    // A desktop may give its font in pixels.
+    // A desktop may define its font in pixels.
     if (font.pointSizeF() > 0) {
         font.setPointSizeF(qRound(font.pointSizeF() * percent / 50) / 2.0);
     } else {
@@ -228,7 +228,8 @@ QFont systemFont(int percent)
 
 QTextCharFormat defaultCharFormat()
 {
-    // Single properties: QTextCharFormat::setFont() sets twenty, and such a format equals no other.
+    // Single properties: QTextCharFormat::setFont() sets twenty, and such a format equals no stored
+    // one.
     QTextCharFormat format;
     format.setFontFamily(systemFont(100).family());
     format.setFontPointSize(12);

@@ -9,10 +9,10 @@ using namespace MRVOptionsTables;
 
 namespace {
 
-// Whether the user's own file has the key, or will have it when it is saved.
+// Whether the user's own file has the key, or will have it after the next save.
 bool isOwn(const MRVOptions &options, const QString &key)
 {
-    // A switch of the object, not of its values.
+    // Changes how the object reads, not its values.
     MRVOptions &own = const_cast<MRVOptions &>(options);
     const bool hasFallbacks = own.fallbacksEnabled();
     own.setFallbacksEnabled(false);
@@ -21,9 +21,9 @@ bool isOwn(const MRVOptions &options, const QString &key)
     return isFound;
 }
 
-// The file that a value comes from: the user's own, or one of those that the system brings, in the
-// order in which QSettings looks them through. The user's own is not opened once more: that would
-// write what is not saved yet, unchecked.
+// The file that a value comes from: the user's own or one of the system's, in the order in which
+// QSettings searches them. The user's own is not opened a second time: that would write unsaved
+// changes, unchecked.
 QString originOf(const MRVOptions &options, const QString &key)
 {
     if (!options.contains(key)) {
@@ -54,8 +54,8 @@ QVariant valueOf(const MRVOptions &options, Setting setting)
     return QVariant::fromValue(options.value(setting));
 }
 
-// What is stored, without the font hinting that readers get, which would make it another than a
-// default of just the same bytes. Bytes that cannot be read give an empty format.
+// The stored format, without the font hinting that readers add, which would make it differ from a
+// default of the same bytes. Bytes that cannot be read give an empty format.
 QVariant valueOf(const MRVOptions &options, MRVSettings::TextCharFormat setting)
 {
     const QByteArray bytes = options.value(options.keyText(setting)).toByteArray();
@@ -175,7 +175,7 @@ void forEachSetting(const MRVOptions *options, const Visitor &visit)
 
 bool MRVOptions::Explanation::isChanged() const
 {
-    // As texts: QVariant has no comparison for formats and lists of numbers.
+    // Compared as texts, since QVariant cannot compare formats and lists of numbers.
     return toText(type, value) != toText(type, defaultValue);
 }
 

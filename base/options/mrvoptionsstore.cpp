@@ -119,7 +119,7 @@ QList<int> MRVOptions::defaultValue(IntListSetting) const
 
 QByteArray MRVOptions::defaultValue(ByteArraySetting setting) const
 {
-    // The format that the converter makes is an export format only where there is one.
+    // The format that the converter makes is an export format only where a converter is set.
     if (setting == ExportFormatConverters) {
         return exportEngines(QFileInfo::exists(value(KindlePath)));
     }

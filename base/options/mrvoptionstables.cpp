@@ -5,7 +5,7 @@
 namespace MRVOptionsTables {
 namespace {
 
-// No limit but that of the 16 bits in which the whole numbers are kept here.
+// No limit except that of the 16 bits in which whole numbers are kept here.
 constexpr qint16 Any = 32767;
 
 // A key for checks at compile time, and as a QString that is copied without counting references.
@@ -130,8 +130,8 @@ constexpr StringListRow StringLists[] = {
     {MRVOptions::PersonalWords, KEY("AutoCorrection/personalWords"), {}},
 };
 
-// A light theme: whatever text stands on a colour here has a contrast of 4.5 at least, as AA of
-// https://www.w3.org/TR/WCAG21/#contrast-minimum asks.
+// A light theme: text on each of these colours has a contrast of at least 4.5, as level AA of
+// https://www.w3.org/TR/WCAG21/#contrast-minimum requires.
 constexpr ColorRow Colors[] = {
     {MRVOptions::IndexCardDividerColor, KEY("IndexCard/Colors/Divider"), {0xffe0a3a0, MRVOptions::IndexCardColors, QT_TRANSLATE_NOOP("MRVOptions", "Divider")}},
     {MRVOptions::IndexCardNotepadLinesColor, KEY("IndexCard/Colors/NotepadLines"), {0xffc9d7e8, MRVOptions::IndexCardColors, QT_TRANSLATE_NOOP("MRVOptions", "Notepad lines")}},
@@ -250,7 +250,7 @@ constexpr bool equal(const char *a, const char *b)
     return *a == *b;
 }
 
-// Numbers ascend up to the last one, and each key is there once.
+// Numbers ascend up to the last one, and each key occurs once.
 template<typename Entry, std::size_t Size>
 constexpr bool isSound(const Entry (&table)[Size], int last)
 {
@@ -300,7 +300,7 @@ constexpr int lastOf(const Entry (&table)[Size])
     return table[Size - 1].setting;
 }
 
-// Where the row of each number is; -1 for a number without one.
+// The index of the row of each number; -1 for a number without a row.
 template<int Last, typename Entry, std::size_t Size>
 constexpr std::array<qint8, Last + 1> indexOf(const Entry (&table)[Size])
 {

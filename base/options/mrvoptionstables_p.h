@@ -8,11 +8,11 @@
 
 /**
  * The tables of the options: one row a setting, in ascending order of the settings' numbers, in one
- * table for each type. All that the options know of keys and defaults is read from here.
+ * table for each type. Keys and defaults stand nowhere else.
  */
 namespace MRVOptionsTables {
 
-/** A setting, its key below "Options", and what its default is made of. */
+/** A setting, its key below "Options", and the source of its default. */
 template<typename Setting, typename Default>
 struct Row
 {
@@ -33,7 +33,7 @@ struct Rows
     const Entry *end() const { return last; }
 };
 
-/** No default but the empty value of the type. */
+/** No default other than the empty value of the type. */
 struct Empty
 {
 };

@@ -50,7 +50,7 @@ QString textOf(const QList<int> &numbers)
     return texts.join(u' ');
 }
 
-// What is stored for a text; nothing, with an error, where it is no value of the row's type.
+// The value to store for a text; nothing, with an error, where it is not a value of the row's type.
 using Stored = std::optional<QVariant>;
 
 Stored refuse(QString *error, const QString &text)

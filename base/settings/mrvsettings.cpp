@@ -22,14 +22,14 @@ constexpr auto FontHinting = MRVSettings::FlagSetting(12);
 constexpr char PictureFormat[] = "JPG";
 constexpr int PictureQuality = 50;
 
-// What a font is stored as holds something, unless somebody took it out.
+// A stored font is never empty, unless somebody emptied it.
 bool isEmpty(const QVariant &value)
 {
     return !value.isValid()
         || (value.userType() == QMetaType::QString && value.toString().isEmpty());
 }
 
-// No member, which the compiler may not inline in a shared library.
+// Not a member, which the compiler could not inline in a shared library.
 QVariant stored(const QSettings &settings, const QString &key)
 {
     return key.isEmpty() ? QVariant() : settings.value(key);
@@ -44,7 +44,7 @@ int toInt(const QVariant &value, bool *ok)
     if (value.userType() == QMetaType::Int) {
         return value.toInt();
     }
-    // Not toInt(), which takes just the lower half of a larger number.
+    // Not toInt(), which takes only the lower half of a larger number.
     const qlonglong number = value.toLongLong(ok);
     *ok = *ok && number == int(number);
     return int(number);
@@ -58,7 +58,7 @@ bool readFormat(const QByteArray &bytes, Format *format)
     return MRVTextFormat::read(stream, format);
 }
 
-// A description that was not put into quotation marks is taken for a list, for its commas.
+// QSettings takes a description without quotation marks for a list, because of its commas.
 QString fontDescription(const QVariant &value)
 {
     return value.toStringList().join(QLatin1Char(','));
@@ -99,7 +99,7 @@ MRVSettings::~MRVSettings()
     save(Saving::Last, nullptr);
 }
 
-// What a setting is worth, and where it is stored, is the subclass's business.
+// The subclass defines the default of a setting and where it is stored.
 
 bool MRVSettings::defaultValue(FlagSetting) const
 {
@@ -229,7 +229,7 @@ void MRVSettings::setGroup(const QString &group)
     if (!group.isEmpty()) {
         beginGroup(group);
     }
-    // As QSettings writes it, without slashes at the ends.
+    // As QSettings writes it, without slashes at either end.
     m_group = QSettings::group();
 }
 
@@ -306,7 +306,7 @@ QStringList MRVSettings::value(StringListSetting setting) const
 {
     const QString key = keyText(setting);
     const QVariant value = stored(*this, key);
-    // An empty list comes back from a file as nothing, under a key that is there.
+    // A file returns an empty list as an invalid value under an existing key.
     const bool isMissing = !value.isValid() && (key.isEmpty() || !contains(key));
     return isMissing ? defaultValue(setting) : value.toStringList();
 }
@@ -315,7 +315,7 @@ QColor MRVSettings::value(ColorSetting setting) const
 {
     const QVariant value = stored(*this, keyText(setting));
     const QColor color = value.value<QColor>();
-    // An invalid colour may have been set; a text that names none has not.
+    // An invalid colour may have been set, but a text that names no colour has not.
     return color.isValid() || value.userType() == QMetaType::QColor ? color : defaultValue(setting);
 }
 
@@ -534,8 +534,8 @@ void MRVSettings::recordChange(const QString &key)
     if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked()) {
         return;
     }
-    // Most changes are of a group that is listed already. To see that takes no copy of a text,
-    // while QSettings makes one to say which group is open.
+    // Most changes are in a group that is listed already. Checking that here copies no text, while
+    // asking QSettings for the open group does.
     const QStringRef group = key.leftRef(slash);
     const bool isListed = m_changedGroups.contains(group);
     if ((isListed && m_timerId != -1) || !isOpenGroup()) {
@@ -558,6 +558,7 @@ void MRVSettings::timerEvent(QTimerEvent *event)
     }
     killTimer(m_timerId);
     m_timerId = -1;
-    // What listeners change is for the next announcement, so the list is cleared before they hear.
+    // Changes that listeners make belong to the next announcement, so the list is cleared before
+    // they are called.
     Q_EMIT groupsChanged(std::exchange(m_changedGroups, QStringList()));
 }

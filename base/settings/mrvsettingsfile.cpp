@@ -23,7 +23,7 @@
 
 namespace {
 
-// Of the class that these texts are shown by, which stands above this file.
+// Texts in the context of the class that shows them.
 struct Messages
 {
     Q_DECLARE_TR_FUNCTIONS(MRVSettings)
@@ -51,7 +51,7 @@ bool isText(const QVariant &value)
     }
 }
 
-// A list of one is stored as the one, and an empty list as nothing.
+// A list of one item is stored as that item, and an empty list as an invalid value.
 QVariantList asList(const QVariant &value)
 {
     if (!value.isValid()) {
@@ -62,7 +62,7 @@ QVariantList asList(const QVariant &value)
     return isList ? value.toList() : QVariantList{value};
 }
 
-// What processes left that were killed while they saved.
+// Files left by processes that were killed while they saved.
 void removeThoseOfTheDead(const QString &path)
 {
     const QFileInfo file(path);
@@ -81,7 +81,7 @@ void removeThoseOfTheDead(const QString &path)
     }
 }
 
-// A file in memory, which has a path as long as it is open.
+// A file in memory, which has a path while it is open.
 class MemoryFile
 {
 public:
@@ -194,7 +194,7 @@ QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(
     if (!error->isEmpty()) {
         return QByteArray();
     }
-    const QTemporaryDir folder; // a name that QSettings has not seen before
+    const QTemporaryDir folder; // a name that QSettings has not seen yet
     const QString path = folder.filePath(QStringLiteral("settings"));
     if (!folder.isValid()) {
         *error = folder.errorString();
@@ -242,7 +242,7 @@ QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error)
 MRVSettingsLock::MRVSettingsLock(const QString &path)
     : m_lock(path + QLatin1String(".lock"))
 {
-    // As long as another process may reasonably take to write.
+    // The time that another process may reasonably need to write.
     constexpr int Milliseconds = 10000;
     removeDead(path);
     m_isHeldByOther = !m_lock.tryLock(Milliseconds) && m_lock.error() == QLockFile::LockFailedError;
@@ -273,8 +273,8 @@ QString mrvDamagedText(const QString &path)
     return Messages::tr("Cannot write the file \"%1\": it is damaged").arg(path);
 }
 
-// A second name for the file costs nothing. By the number of the process it is found again, so that
-// one that was killed leaves no more than one.
+// A second name for the file costs no space. It holds the number of the process, so that a killed
+// process leaves at most one.
 MRVOldSettingsFile::MRVOldSettingsFile(const QString &path, const QByteArray &bytes)
     : m_bytes(bytes)
     , m_path(QFileInfo(path).canonicalFilePath())

@@ -30,7 +30,7 @@ bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSetti
  */
 bool mrvIsSettings(const QByteArray &bytes);
 
-/** What is said where there is no room even to read or to write aside. */
+/** The error where the disk has no space even for a temporary file. */
 QString mrvNoRoomText();
 
 /** Whether a value that was stored as @p wanted may come back from a file as @p found. */
@@ -43,7 +43,7 @@ bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted);
  * The bytes of a settings file after @p edit.
  *
  * @param error receives a translated line on failure.
- * @return empty where the folder for temporary files has no room.
+ * @return empty where the folder for temporary files has no space left.
  */
 QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
                              QString *error);
@@ -58,8 +58,8 @@ public:
     explicit MRVSettingsLock(const QString &path);
 
     /**
-     * After ten seconds of waiting. A disk that is full, or may only be read, has no room for the
-     * lock either; that is not for the lock to tell.
+     * After ten seconds of waiting. On a full or read-only disk the lock cannot be made either; the
+     * lock does not report that.
      */
     bool isHeldByOther() const { return m_isHeldByOther; }
 
@@ -87,7 +87,7 @@ public:
     MRVOldSettingsFile(const MRVOldSettingsFile &) = delete;
     MRVOldSettingsFile &operator=(const MRVOldSettingsFile &) = delete;
 
-    /** Needs no room on the disk, except on one that has no hard links. */
+    /** Needs no disk space, except on a file system without hard links. */
     bool putBack() const;
 
 private:

@@ -14,7 +14,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcGuard, "mrv.settings.guard")
 
-// So that nothing that was kept before is lost.
+// So that nothing that was kept earlier is lost.
 bool keep(const QByteArray &bytes, const QString &path, QString *error)
 {
     const QString kept = path + QLatin1String(".damaged");
@@ -57,7 +57,7 @@ QString mrvSanitizeSettings(const QString &path)
         return path;
     }
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path);
-    // Few values are variants at all, and most of those are colours.
+    // Few values are variants, and most of those are colours.
     if (!mrvHasUtf8Mark(bytes) && mrvSafeSettings(bytes).size() == bytes.size()) {
         return path;
     }
@@ -66,14 +66,13 @@ QString mrvSanitizeSettings(const QString &path)
         return path;
     }
     qCWarning(lcGuard, "%s", qPrintable(error));
-    // A folder can neither be read nor be written.
+    // A folder can be neither read nor written as a file.
     return QFileInfo(path).absolutePath();
 }
 
 QString mrvSanitizeUserSettings(const QString &organization, const QString &application)
 {
-    // Where the files lie, QSettings tells only of one that it has opened; there is none of this
-    // name.
+    // QSettings tells the location only of files that it has opened; no file of this name exists.
     const QSettings none(QSettings::NativeFormat, QSettings::UserScope,
                          organization + QLatin1String(" (none)"), QStringLiteral("none"));
     const QDir folder(QFileInfo(none.fileName()).path() + QLatin1String("/.."));
@@ -81,7 +80,7 @@ QString mrvSanitizeUserSettings(const QString &organization, const QString &appl
     for (const QString &name :
          {organization + u'/' + application + suffix, organization + suffix}) {
         const QString path = QDir::cleanPath(folder.filePath(name));
-        // As if the file were a folder, in which nothing can be.
+        // The path then names a place inside the file, where nothing can exist.
         if (mrvSanitizeSettings(path) != path) {
             return name;
         }

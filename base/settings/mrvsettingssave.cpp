@@ -25,8 +25,8 @@ QByteArray bytesOf(const QString &path)
 }
 
 // QSettings takes a file of the same length and time for the one that it knows, though another
-// process may have written it within the same tick of the clock, and would write over it what it
-// remembers.
+// process may have written it within the same tick of the clock, and would overwrite it with what
+// it remembers.
 void makeNewer(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -40,12 +40,12 @@ void makeNewer(const QString &path)
         times[1].tv_nsec -= 1000 * 1000 * 1000;
         ++times[1].tv_sec;
     }
-    // Where that is not allowed, length and time must do.
+    // Where that is not permitted, length and time must suffice.
     const bool isNewer = ::utimensat(AT_FDCWD, name.constData(), times, 0) == 0;
     Q_UNUSED(isNewer)
 }
 
-// What is in the file still, though it was removed: what is new there comes from other processes.
+// Keys that the file still has though they were removed; new keys come from other processes.
 QStringList leftOver(const MRVSettingsMap &found, const MRVSettingsMap &wanted,
                      const MRVSettingsMap &old)
 {
@@ -58,7 +58,7 @@ QStringList leftOver(const MRVSettingsMap &found, const MRVSettingsMap &wanted,
     return keys;
 }
 
-// What a full disk has cut off leaves the beginning of a line, or of a value.
+// A full disk cuts the file in the middle of a line or value.
 QByteArray wholeLines(const QByteArray &bytes)
 {
     return bytes.left(bytes.lastIndexOf('\n') + 1);
@@ -85,7 +85,8 @@ QString notWritten(const QString &path, const QString &reason)
     return MRVSettings::tr("Cannot write the file \"%1\": %2").arg(path, reason);
 }
 
-// Adds to the file what it lacks of what was to be saved, and keeps what others have changed.
+// Adds to the file what it lacks of the values to be saved, and keeps what other processes have
+// changed.
 bool repair(const QString &path, QSettings::Format format, const MRVSettingsMap &old,
             const MRVSettingsMap &wanted, QString *error)
 {
@@ -103,7 +104,7 @@ bool repair(const QString &path, QSettings::Format format, const MRVSettingsMap 
                 file->remove(key);
             }
             for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-                // With a key QSettings removes all that lies below it.
+                // With a key, QSettings removes all keys below it.
                 if (!file->contains(it.key()) || !isUnchanged(it, old)) {
                     file->setValue(it.key(), it.value());
                 }
@@ -168,7 +169,7 @@ bool MRVSettings::save(Saving saving, QString *error)
         return fail(error, tr("The settings have no file"));
     }
     if (isOtherThanFile(path)) {
-        // Or QSettings would write when it goes.
+        // Otherwise QSettings would write when it is destroyed.
         if (saving == Saving::Last) {
             QSettings::clear();
         }
@@ -186,7 +187,7 @@ bool MRVSettings::save(Saving saving, QString *error)
 bool MRVSettings::saveWhole(Saving saving, QString *error)
 {
     const QString path = fileName();
-    // Somebody may have edited it since it was opened.
+    // Another program may have edited it since it was opened.
     if (mrvSanitizeSettings(path) != path) {
         stall();
         return fail(error, mrvDamagedText(path));
@@ -203,14 +204,15 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
         return !m_isDirty || fail(error, tr("Cannot write the file \"%1\"").arg(path));
     }
 
-    // From memory, before anything else opens the file: QSettings would read one again that it has
-    // just left empty, and forget.
+    // From memory, before anything else opens the file: QSettings would otherwise read again the
+    // file that it has just left empty, and forget its values.
     const MRVSettingsMap wanted = mrvValuesOf(*this);
     m_isDirty = !isSaved(path, format(), before, wanted);
     if (!m_isDirty) {
         return true;
     }
-    // What is not whole is what was just written, or what another process has written meanwhile.
+    // The incomplete file is the one just written, or one that another process has written
+    // meanwhile.
     QString reason;
     MRVSettingsMap old;
     const bool isOldKnown = mrvReadSettings(before, format(), &old);
@@ -233,7 +235,7 @@ bool MRVSettings::saveWhole(Saving saving, QString *error)
     return fail(error, reason);
 }
 
-// QSettings takes the changes for saved, and would forget them for what the file holds.
+// QSettings takes the changes for saved, and would replace them by what the file holds.
 void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &wanted)
 {
     for (auto it = old.cbegin(); it != old.cend(); ++it) {
@@ -249,7 +251,7 @@ void MRVSettings::setAgain(const MRVSettingsMap &old, const MRVSettingsMap &want
     stall();
 }
 
-// Not at once, which would go on and on, but with the next change.
+// With the next change, since trying again at once would never end.
 void MRVSettings::stall()
 {
     QCoreApplication::removePostedEvents(this, QEvent::UpdateRequest);
@@ -303,7 +305,7 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
 
 void MRVSettings::loadFromFile(const QString &fileName)
 {
-    // First, since it may be the store's own file, which may have changes that are not saved yet.
+    // First, since it may be the store's own file, which may have unsaved changes.
     if (QFileInfo(fileName) == QFileInfo(this->fileName())) {
         saveNow();
     }

@@ -21,7 +21,7 @@ struct KeyRange
     int last;
 };
 
-// What never reaches an application with the shortcuts that GNOME, KDE Plasma and Xfce have in
+// Keys that never reach an application with the default shortcuts of GNOME, KDE Plasma and Xfce in
 // Debian 12.
 constexpr KeyRange DesktopKeys[] = {
     {Super, AllModifiers, 0, 0x01ffffff}, // the desktop's own modifier

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Row i is that of identifier i + 1: the table begins behind NoId.
+// Row i belongs to identifier i + 1: the table begins after NoId.
 template<typename Row, std::size_t Size>
 constexpr bool holdsEachIdInOrder(const Row (&rows)[Size])
 {
@@ -18,10 +18,10 @@ constexpr bool holdsEachIdInOrder(const Row (&rows)[Size])
 
 } // namespace
 
-// Where word processors agree on a key, it is that one. What is done to the binder, the project or
-// a whole document begins with Ctrl+G. Left without a key is what is set once for a project. Keys
-// that desktops or input methods take, single letters, and the editor's own for moving and deleting
-// are not used; the line break's is the editor's own. MRVShortcutCheck finds nothing here.
+// Where word processors agree on a key, the table uses it. Commands on the binder, the project or a
+// whole document begin with Ctrl+G. Commands that are used once in a project have no key. Keys that
+// desktops or input methods take, single letters, and the editor's own keys for moving and deleting
+// are not used; the line break's is the editor's own. MRVShortcutCheck finds no conflict here.
 const MRVShortcut::Row *MRVShortcut::row(Id id)
 {
     constexpr const char *file = QT_TR_NOOP("File");

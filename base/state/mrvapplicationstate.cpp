@@ -38,7 +38,7 @@ QString documentsFolder()
     return folder.isEmpty() ? QDir::homePath() : folder;
 }
 
-// A list of one text comes back from the file as that text.
+// QSettings returns a list of one text from the file as that text.
 QStringList listAt(const QSettings &settings, QLatin1String key)
 {
     return settings.value(key).toStringList();
@@ -85,14 +85,14 @@ int MRVApplicationState::maxRecentProjectsCount()
 
 int MRVApplicationState::userRecentProjectsCount()
 {
-    // While the process ends the options may be gone before the state is.
+    // While the process ends, the options may be destroyed before the state.
     const MRVOptions *options = mrvOptions();
     return options ? options->value(MRVOptions::RecentProjectsCount) : MaxRecentProjects;
 }
 
 QStringList MRVApplicationState::recentProjectList() const
 {
-    // mid() takes a negative count for "all", which a file may hold.
+    // A file may hold a negative count, which mid() takes for "all".
     return listAt(*this, RecentKey).mid(0, qMax(0, userRecentProjectsCount()));
 }
 

@@ -14,7 +14,7 @@ Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
 
 Q_GLOBAL_STATIC(MRVTextPresetMgr, theManager)
 
-// What cannot be read to its end holds presets that the next save would remove for good.
+// A file that cannot be read to its end holds presets that the next save would destroy.
 bool keepDamaged(const QString &path, QString *error)
 {
     QString damage;
