@@ -173,15 +173,51 @@ QString MRVEPubBook::addPicture(const QByteArray &bytes, const QString &name)
     return path;
 }
 
+// A document's page as it is cut into the pages of the book.
+struct MRVEPubBook::Cutting
+{
+    const MRVPageWriter &writer;
+    const QString &page;
+    int body; // offset of the tag
+    int bodyBegin;
+    int bodyEnd;
+    QVector<int> starts; // offsets of the pieces
+
+    Cutting(const MRVPageWriter &pageWriter, const QString &text)
+        : writer(pageWriter)
+        , page(text)
+        , body(text.indexOf(QLatin1String("<body")))
+        , bodyBegin(text.indexOf(u'>', body) + 1)
+        , bodyEnd(text.lastIndexOf(QLatin1String("</body>")))
+        , starts(mrvPageStarts(pageWriter.blocks(), text, bodyBegin, bodyEnd))
+    {
+    }
+
+    int pieceOf(int offset) const
+    {
+        return int(std::upper_bound(starts.begin(), starts.end(), offset) - starts.begin()) - 1;
+    }
+    int end(int piece) const { return piece + 1 < starts.size() ? starts.at(piece + 1) : bodyEnd; }
+};
+
+bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
+                                 QString *error)
+{
+    const QVector<MRVEPubFile> picturesBefore = pictures;
+    const QHash<QByteArray, QString> pathsBefore = picturePaths;
+    if (addPictures(document, references, error)) {
+        return true;
+    }
+    pictures = picturesBefore;
+    picturePaths = pathsBefore;
+    return false;
+}
+
 bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &fileName,
                               QString *error)
 {
     QHash<QString, QString> references;
-    const QVector<MRVEPubFile> picturesBefore = pictures;
-    const QHash<QByteArray, QString> pathsBefore = picturePaths;
-    if (!addPictures(document, &references, error)) {
-        pictures = picturesBefore;
-        picturePaths = pathsBefore;
+    if (!addAllPictures(document, &references, error)) {
         return false;
     }
     QString html = document.toHtml("utf-8");
@@ -197,30 +233,44 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
     const QString page = writer.write(html, documentTitle, title());
     picturesWithoutText += page.count(QLatin1String("<img alt=\" \""));
 
-    const int body = page.indexOf(QLatin1String("<body"));
-    const int bodyBegin = page.indexOf(u'>', body) + 1;
-    const int bodyEnd = page.lastIndexOf(QLatin1String("</body>"));
-    const QVector<int> starts = mrvPageStarts(writer.blocks(), page, bodyBegin, bodyEnd);
-    const QString prefix = freeHeadingPrefix(writer.ids());
-    const QHash<QString, int> anchorPlaces = MRVHtmlText::idPlaces(page);
-    const int firstPage = pages.size();
-    auto pageName = [&](int piece) {
-        return QStringLiteral("page-%1.xhtml").arg(firstPage + piece + 1, 3, 10, QLatin1Char('0'));
-    };
-    auto pieceOf = [&](int offset) {
-        return int(std::upper_bound(starts.begin(), starts.end(), offset) - starts.begin()) - 1;
-    };
+    const Cutting cutting(writer, page);
+    const MRVEPubAnchors targets = anchorTargets(cutting, fileName);
+    addPages(cutting);
+    anchors.append(targets);
+    return true;
+}
+
+// The name of the page that the piece of the next document becomes.
+QString MRVEPubBook::pageName(int piece) const
+{
+    return QStringLiteral("page-%1.xhtml").arg(pages.size() + piece + 1, 3, 10, QLatin1Char('0'));
+}
+
+MRVEPubAnchors MRVEPubBook::anchorTargets(const Cutting &cutting, const QString &fileName) const
+{
     MRVEPubAnchors targets{fileName, pageName(0), {}};
-    for (auto id = writer.ids().constBegin(); id != writer.ids().constEnd(); ++id) {
-        targets.targets.insert(id.key(), pageName(pieceOf(anchorPlaces.value(*id))) + u'#' + *id);
+    const QHash<QString, int> places = MRVHtmlText::idPlaces(cutting.page);
+    const QHash<QString, QString> &ids = cutting.writer.ids();
+    for (auto id = ids.constBegin(); id != ids.constEnd(); ++id) {
+        const QString name = pageName(cutting.pieceOf(places.value(*id)));
+        targets.targets.insert(id.key(), name + u'#' + *id);
     }
+    return targets;
+}
+
+// Adds a page for each piece, and its headings, which get ids, to the table of contents.
+void MRVEPubBook::addPages(const Cutting &cutting)
+{
+    const QString prefix = freeHeadingPrefix(cutting.writer.ids());
+    const QString &page = cutting.page;
     int block = 0;
-    const QVector<MRVPageWriter::Block> &blocks = writer.headings();
-    for (int piece = 0; piece < starts.size(); ++piece) {
-        const int end = piece + 1 < starts.size() ? starts.at(piece + 1) : bodyEnd;
-        MRVEPubPage result{pageName(piece), QString(), page.mid(body, bodyBegin - body), QString(),
+    const QVector<MRVPageWriter::Block> &blocks = cutting.writer.headings();
+    for (int piece = 0; piece < cutting.starts.size(); ++piece) {
+        const int end = cutting.end(piece);
+        MRVEPubPage result{pageName(0), QString(),
+                           page.mid(cutting.body, cutting.bodyBegin - cutting.body), QString(),
                            anchors.size()};
-        int done = starts.at(piece);
+        int done = cutting.starts.at(piece);
         for (; block < blocks.size() && blocks.at(block).offset < end; ++block) {
             const MRVPageWriter::Block &heading = blocks.at(block);
             const QString text = elementText(page, heading.offset, QLatin1String("</h"));
@@ -238,8 +288,6 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
         result.body.append(page.constData() + done, end - done);
         pages.append(result);
     }
-    anchors.append(targets);
-    return true;
 }
 
 QVector<MRVEPubEntry> MRVEPubBook::contents() const

@@ -79,6 +79,13 @@ public:
     QString language() const;
 
 private:
+    struct Cutting;
+
+    bool addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
+                        QString *error);
+    QString pageName(int piece) const;
+    MRVEPubAnchors anchorTargets(const Cutting &cutting, const QString &fileName) const;
+    void addPages(const Cutting &cutting);
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
     QString addPicture(const QByteArray &bytes, const QString &name);

@@ -114,68 +114,89 @@ bool renameOver(const QString &from, const QString &to)
     return false;
 }
 
-} // namespace
-
-bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
+// Why a file must not be written at @p path; empty where it may. @p target receives its real place.
+QString refusal(const QString &path, QString *target)
 {
-    const auto fail = [&](const QString &reason) {
-        mrvSetErrorLine(error, tr("Cannot write the file \"%1\": %2"), path, reason);
-        return false;
-    };
-
     if (path.isEmpty()) {
-        return fail(tr("the file has no name"));
+        return MRVFileWriter::tr("the file has no name");
     }
     // System calls would take the part before it for the whole name.
     if (path.contains(QChar(QChar::Null))) {
-        return fail(tr("its name holds a null character"));
+        return MRVFileWriter::tr("its name holds a null character");
     }
     QString reason;
-    const QString target = realTarget(path, &reason);
-    if (target.isEmpty()) {
-        return fail(reason);
+    *target = realTarget(path, &reason);
+    if (target->isEmpty()) {
+        return reason;
     }
-    const QFileInfo info(target);
+    const QFileInfo info(*target);
     if (info.isDir()) {
-        return fail(tr("it is a folder"));
+        return MRVFileWriter::tr("it is a folder");
     }
     if (info.exists() && !info.isFile()) {
-        return fail(tr("it is not a regular file"));
+        return MRVFileWriter::tr("it is not a regular file");
     }
-    if (!info.dir().exists() || target.endsWith(QLatin1Char('/'))) {
-        return fail(tr("its folder does not exist"));
+    if (!info.dir().exists() || target->endsWith(QLatin1Char('/'))) {
+        return MRVFileWriter::tr("its folder does not exist");
     }
+    return QString();
+}
 
-    // A name too long for QSaveFile is given in a second step, from a name that nobody else uses.
-    const bool isLong = QFile::encodeName(info.fileName()).size() > MaxSavedName;
-    const QString place = isLong
-        ? info.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)
-        : target;
-    if (isLong && info.exists() && !info.isWritable()) {
-        return fail(qt_error_string(EACCES));
-    }
-    QSaveFile file(place);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return fail(file.errorString());
-    }
-    keepOwner(file.handle(), target);
-    if (isLong && info.exists()) {
-        file.setPermissions(info.permissions());
-    }
-
-    // commit() alone reports success on a full disk, where the last write came back short and the
-    // buffer could not be flushed.
+// commit() alone reports success on a full disk, where the last write came back short and the
+// buffer could not be flushed. Empty on success, else the reason.
+QString commitAll(QSaveFile &file, const QByteArray &bytes)
+{
+    QString reason;
     if (!writeAll(file, bytes)) {
         reason = file.errorString();
     } else if (!syncToDisk(file.handle())) {
         reason = qt_error_string(errno);
     } else {
-        if (!file.commit()) {
-            return fail(file.errorString());
-        }
-        return place == target || renameOver(place, target) || fail(qt_error_string(errno));
+        return file.commit() ? QString() : file.errorString();
     }
     file.cancelWriting();
     file.commit();
-    return fail(reason);
+    return reason;
+}
+
+// Empty on success, else the reason.
+QString replaceFile(const QFileInfo &target, const QByteArray &bytes)
+{
+    // A name too long for QSaveFile is given in a second step, from a name that nobody else uses.
+    const QString path = target.filePath();
+    const bool isLong = QFile::encodeName(target.fileName()).size() > MaxSavedName;
+    if (isLong && target.exists() && !target.isWritable()) {
+        return qt_error_string(EACCES);
+    }
+    const QString place = isLong
+        ? target.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)
+        : path;
+    QSaveFile file(place);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return file.errorString();
+    }
+    keepOwner(file.handle(), path);
+    if (isLong && target.exists()) {
+        file.setPermissions(target.permissions());
+    }
+    const QString reason = commitAll(file, bytes);
+    if (!reason.isEmpty() || place == path) {
+        return reason;
+    }
+    return renameOver(place, path) ? QString() : qt_error_string(errno);
+}
+
+} // namespace
+
+bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
+{
+    QString target;
+    QString reason = refusal(path, &target);
+    if (reason.isEmpty()) {
+        reason = replaceFile(QFileInfo(target), bytes);
+    }
+    if (!reason.isEmpty()) {
+        mrvSetErrorLine(error, tr("Cannot write the file \"%1\": %2"), path, reason);
+    }
+    return reason.isEmpty();
 }
