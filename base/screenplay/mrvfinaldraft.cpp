@@ -171,7 +171,7 @@ void FinalDraftWriter::writeNote(const Run &run)
     end();
 }
 
-// Keys are written where they would not be guessed from the places and words alone.
+// Keys are written where position and words alone would not identify them.
 void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
 {
     if (titles.isEmpty()) {

@@ -39,7 +39,7 @@ constexpr struct
     {"Outline Body", Element::Synopsis, 1},
 };
 
-// A note or what was cut out, as a paragraph of its own.
+// A note or a boneyard as a paragraph of its own.
 Element alone(const Run &run)
 {
     return Element(run.kind == Run::Note ? Element::Note : Element::Boneyard, run.text);
@@ -121,7 +121,7 @@ void FinalDraftReader::beginParagraph()
     m_hasParagraph = true;
 }
 
-// What a paragraph has before another one within it is one by itself.
+// The part of a paragraph before a nested one is a paragraph by itself.
 void FinalDraftReader::leaveParagraph()
 {
     if (m_hasParagraph && !m_element.runs.isEmpty()) {
@@ -181,7 +181,7 @@ void FinalDraftReader::addText(const QStringRef &text)
         return;
     }
     if (!m_hasParagraph) {
-        // Behind a paragraph within a text, which the blanks of the layout do not continue.
+        // After a paragraph nested in a text; blanks of the layout do not continue that text.
         if (text.trimmed().isEmpty()) {
             return;
         }
@@ -219,8 +219,7 @@ void FinalDraftReader::endNote()
     }
 }
 
-// The paragraphs of the element that it is in, up to its end; what somebody goes through begins
-// with the name.
+// The paragraphs of the current element, up to its end; a character's arc begins with the name.
 QStringList FinalDraftReader::readParagraphs()
 {
     QStringList paragraphs;
@@ -256,7 +255,7 @@ QStringList FinalDraftReader::readParagraphs()
     return paragraphs;
 }
 
-// Notes that stand behind the script, with the place in its text that each is about: "12,20".
+// Notes that follow the script, with the range of its text that each is about: "12,20".
 void FinalDraftReader::readNotes()
 {
     while (m_xml.readNextStartElement()) {
@@ -268,7 +267,7 @@ void FinalDraftReader::readNotes()
     }
 }
 
-// In the paragraphs that they are about, so that they part no cue from what is said.
+// Placed in the paragraphs that they are about, so that they separate no cue from its dialogue.
 void FinalDraftReader::placeNotes()
 {
     for (const PlacedNote &note : qAsConst(m_notes)) {
@@ -286,7 +285,7 @@ void FinalDraftReader::placeNotes()
     }
 }
 
-// Headers, footers, lists of names and the like hold paragraphs, too, which are no part of the
+// Headers, footers, lists of names and the like hold paragraphs, too, which are not part of the
 // script.
 bool FinalDraftReader::readForeign()
 {
@@ -302,7 +301,7 @@ bool FinalDraftReader::readForeign()
         readNotes();
     } else {
         const QString text = readParagraphs().join(QString());
-        // The page number and its dot are in each header.
+        // Each header has the page number and its dot.
         if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })) {
             m_leftOut.append(tag);
         }
@@ -311,7 +310,7 @@ bool FinalDraftReader::readForeign()
     return true;
 }
 
-// What a scene is about stands in its heading, in paragraphs of its own.
+// The summary of a scene stands in its heading, in paragraphs of its own.
 void FinalDraftReader::readSummary()
 {
     const QString title = attribute("Title");
@@ -355,7 +354,7 @@ void FinalDraftReader::addSummary()
     m_summary.clear();
 }
 
-// The format does not say what the lines of a title page are.
+// The format does not tell what the lines of a title page mean.
 void FinalDraftReader::addTitle()
 {
     if (m_element.text().trimmed().isEmpty()) {
@@ -378,7 +377,7 @@ void FinalDraftReader::addTitle()
         m_titleKeys.append(key);
         return;
     }
-    // What goes on in a further paragraph.
+    // A value that continues in a further paragraph.
     const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_titleKeys);
     const int earlier = m_titleKeys.indexOf(key);
     if (earlier >= 0) {

@@ -14,7 +14,7 @@ using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
 constexpr int MaxDepth = 256;
-constexpr char BodyClass[] = "script"; // tells a page of an empty script from any other
+constexpr char BodyClass[] = "script"; // distinguishes the page of an empty script from any other
 
 struct KindRow
 {
@@ -48,8 +48,8 @@ constexpr struct
     Run::Style style;
 } styles[] = {{"em", Run::Italic}, {"strong", Run::Bold}, {"u", Run::Underline}};
 
-// The layout of the built-in mode. Without quotation marks and angle brackets: XML would have them
-// escaped, and browsers take style sheets as they stand.
+// The layout of the built-in mode. Without quotation marks and angle brackets: XML requires escapes
+// for them, which browsers do not resolve in style sheets.
 constexpr char StyleSheet[] = R"(
 body { max-width: 6in; margin: 1in auto; font: 12pt/1 'Courier Prime', 'Courier New', Courier, monospace; }
 p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre-wrap; min-height: 1em; }
@@ -163,7 +163,7 @@ void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
     breakLine();
 }
 
-// Two speeches side by side stand in a box each.
+// Each of two speeches side by side is in a box of its own.
 void HtmlWriter::writePart(const QVector<Element> &elements, const MrvSpeeches &part)
 {
     if (part.isDual()) {
@@ -266,7 +266,7 @@ private:
         Run::Emphasis emphasis;
         Run::Kind kind = Run::Text;
         bool isParagraph = false;
-        bool isObject = false; // a note or what was cut out begins here
+        bool isObject = false; // a note or a boneyard begins here
     };
 
     void startElement();

@@ -13,7 +13,7 @@ constexpr struct
     const char *mark;
 } styles[] = {{Run::Italic, "*"}, {Run::Bold, "**"}, {Run::Underline, "_"}};
 
-// A stretch of text, an object, or a row of marks.
+// A piece of text, an object, or a sequence of marks.
 struct Piece
 {
     enum Type { Text, Marks, Other };
@@ -71,7 +71,7 @@ void InlineReader::addText(const QStringRef &text)
 
 void InlineReader::readPieces()
 {
-    int plain = m_start; // what was passed over, but not taken up
+    int plain = m_start; // skipped, but not added yet
     int at = m_start;
     const auto takePlain = [&] {
         if (at > plain) {
@@ -102,8 +102,7 @@ void InlineReader::readPieces()
     takePlain();
 }
 
-// Before a character that means something, each second backslash takes the meaning from what
-// follows.
+// Before a special character every second backslash escapes what follows.
 int InlineReader::readBackslashes(int at)
 {
     int end = at;
@@ -149,7 +148,8 @@ int InlineReader::readMarks(int at)
     return end;
 }
 
-// A mark closes what is open, if it can, and else opens. What is never closed is no mark.
+// A mark closes an open style if it can, and otherwise opens one. A mark that is never closed is
+// plain text.
 void InlineReader::pairMarks()
 {
     for (const auto &row : styles) {
@@ -211,12 +211,12 @@ private:
 
     QString m_text;
     Emphasis m_emphasis;
-    bool m_isUnderlineInside = false; // of what was bold or italic before
+    bool m_isUnderlineInside = false; // of the styles before
     int m_backslashes = 0; // that the text ends with, and that stand for themselves
     bool m_escapeNext = false;
 };
 
-// Before what means something.
+// Before a special character.
 void InlineWriter::doubleBackslashes()
 {
     m_text += QString(m_backslashes, u'\\');
@@ -235,7 +235,7 @@ void InlineWriter::addMarks(Emphasis toggled)
         m_text += starMarks;
         m_isUnderlineInside = m_isUnderlineInside && m_emphasis.testFlag(Run::Underline);
     } else if (m_emphasis.testFlag(Run::Underline)) {
-        // Other readers want marks that enclose each other, so what was opened last is closed
+        // Other readers need properly nested marks, so the style that was opened last is closed
         // first.
         m_text += m_isUnderlineInside ? u'_' + starMarks : starMarks + u'_';
     } else {
@@ -245,7 +245,7 @@ void InlineWriter::addMarks(Emphasis toggled)
     m_emphasis ^= toggled;
 }
 
-// Rows of marks that are too long to mean anything, such as a line to be filled in.
+// Sequences of marks that are too long to mean anything, such as a line to be filled in.
 int InlineWriter::plainMarks(const QString &text, int at, Emphasis toggledBehind) const
 {
     const QChar mark = text.at(at);
@@ -344,7 +344,7 @@ QString noteText(const QStringRef &text)
     plain.reserve(text.size());
     int backslashes = 0;
     for (int i = 0; i <= text.size(); ++i) {
-        // Behind the text stands a bracket, too.
+        // A bracket follows the text, too.
         const QChar c = i < text.size() ? text.at(i) : QChar(u']');
         if (c == u'\\') {
             ++backslashes;

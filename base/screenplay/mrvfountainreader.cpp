@@ -11,7 +11,7 @@ namespace {
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
-// Finds notes and boneyards, which go on over the ends of lines.
+// Finds notes and boneyards, which may span several lines.
 class ObjectScanner
 {
 public:
@@ -28,7 +28,7 @@ private:
     bool endsParagraph(int lineEnd) const;
 
     const QString &m_text;
-    // Where a search for an end has failed, all later ones fail, too.
+    // Once a search for an end has failed, all later ones fail, too.
     int m_noNoteBefore = 0;
     bool m_noBoneyards = false;
 };
@@ -58,11 +58,11 @@ QVector<Object> ObjectScanner::objects()
         }
         at = end >= 0 ? end : at + 1;
     }
-    found.append({INT_MAX, INT_MAX, Run::Note, QString()}); // for those who look at the next one
+    found.append({INT_MAX, INT_MAX, Run::Note, QString()}); // for callers that look at the next one
     return found;
 }
 
-// Whether the line behind a line's end is empty: one blank is none, two are meant.
+// Whether the line after a line's end is empty: one blank counts as empty, two are deliberate.
 bool ObjectScanner::endsParagraph(int lineEnd) const
 {
     int blanks = 0;
@@ -115,7 +115,7 @@ struct Line
     bool isEmpty() const { return isBlankLine(QStringRef(&view)); }
 };
 
-// Only marks and objects stand around them.
+// They are surrounded only by marks and objects.
 void removeParentheses(MRVFountainRuns *runs)
 {
     for (Run &run : *runs) {
@@ -146,7 +146,7 @@ public:
     }
 
     MRVFountainScript script();
-    /** Of what script() has read. */
+    /** Of the text that script() has read. */
     const TextRanges &ranges() const { return m_ranges; }
 
 private:
@@ -234,8 +234,7 @@ bool FountainReader::isOnly(int line, Run::Kind kind) const
         && trimmed(QStringRef(&given.view)).size() == 1;
 }
 
-// Whether a paragraph whose next line is this one has ended. What was cut out is passed over or
-// counts as an empty line.
+// Whether a paragraph ends before this line. A boneyard is skipped or counts as an empty line.
 bool FountainReader::endsBefore(int line, bool passBoneyards) const
 {
     while (!isEmpty(line) && isOnly(line, Run::Boneyard)) {
@@ -250,7 +249,7 @@ bool FountainReader::endsBefore(int line, bool passBoneyards) const
 LineKind FountainReader::kindOf(int line) const
 {
     const LineKind kind = lineKind(view(line), endsBefore(line + 1, false));
-    // Rather a transition than somebody of that name, who has nothing to say but what was cut out.
+    // A transition rather than a character of that name whose only dialogue is a boneyard.
     if (kind == TransitionLine || endsBefore(line + 1, true)) {
         return kind;
     }
@@ -303,7 +302,7 @@ void FountainReader::addObject(Element::Kind kind, const Line &line)
     addElement(Element(kind, m_objects.at(line.firstObject).text));
 }
 
-// Tells of the elements that were added last in which lines they stand.
+// Records the lines of the elements that were added last.
 void FountainReader::placeElements(int line, int end)
 {
     while (m_ranges.elements.size() < m_script.elements.size()) {
@@ -318,7 +317,7 @@ MRVFountainScript FountainReader::script()
     while (line < m_lines.size()) {
         const int first = line;
         for (; line < m_lines.size() && isEmpty(line); ++line) {
-            // One empty line parts paragraphs; more of them are meant.
+            // One empty line separates paragraphs; further ones are deliberate.
             if (line > first) {
                 m_script.elements.append(Element());
                 placeElements(line, line + 1);
@@ -367,7 +366,7 @@ int FountainReader::readTitles()
     return line;
 }
 
-// @return the line behind the paragraph, or behind that part of it that is an element.
+// @return the line after the paragraph, or after that part of it that is an element.
 int FountainReader::readParagraph(int line)
 {
     const Line &given = m_lines.at(line);
@@ -442,7 +441,7 @@ int FountainReader::readLines(Element::Kind kind, int line, int end)
         }
         const int before = kind == Element::Dialogue ? 0 : 1;
         const int behind = kind == Element::Centered ? 1 : 0;
-        // Blanks behind dialogue stay.
+        // Blanks after dialogue stay.
         const int last = kind == Element::Dialogue ? given.end : contentEnd(given) - behind;
         element.runs += runs(given, contentStart(given) + before, last);
     }
@@ -456,7 +455,7 @@ void FountainReader::readHeading(const Line &line, bool forced)
     element.kind = Element::SceneHeading;
     const int start = contentStart(line) + (forced ? 1 : 0);
     int end = contentEnd(line);
-    // Without objects the view is the line; with some, the end of both is the same all the same.
+    // Without objects the view equals the line; with objects, both still have the same end.
     const Range number = sceneNumber(QStringRef(&line.view));
     const QStringRef behind =
         number.isEmpty() ? QStringRef() : trimmed(line.view.midRef(number.end));
@@ -470,7 +469,7 @@ void FountainReader::readHeading(const Line &line, bool forced)
     if (behind.isEmpty()) {
         element.runs = runs(line, start, qMax(start, end));
     } else {
-        // Marks around both the text and its number: no object stands behind the number.
+        // Marks around both the text and its number: no object follows the number.
         QVector<Object> moved = m_objects.mid(line.firstObject, line.endObject - line.firstObject);
         for (Object &object : moved) {
             object.start -= start;
@@ -499,7 +498,7 @@ void FountainReader::readCue(const Line &line, bool forced)
 
 int FountainReader::readDialogue(int line)
 {
-    // Two blanks keep a speech together, where more of it follows.
+    // A line of two blanks keeps a speech together where more of it follows.
     const auto goesOn = [this](int at) {
         return at < m_lines.size() && (!isEmpty(at) || m_lines.at(at).view.size() > 1);
     };
@@ -509,7 +508,7 @@ int FountainReader::readDialogue(int line)
     while (goesOn(line)) {
         const int start = line;
         if (isEmpty(line)) {
-            ++line; // between other things than dialogue it means nothing
+            ++line; // it means nothing except between lines of dialogue
         } else if (isParenthetical(view(line))) {
             Element element;
             element.kind = Element::Parenthetical;

@@ -14,7 +14,7 @@ struct Patch
     QString text;
 };
 
-// What the first line of a text ends with.
+// The line ending of the first line of a text.
 QString lineEndOf(const QString &text)
 {
     const int end = text.indexOf(u'\n');
@@ -24,14 +24,14 @@ QString lineEndOf(const QString &text)
     return end > 0 && text.at(end - 1) == u'\r' ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
-// What plainText() leaves out, but for halves of pairs, which no file holds.
+// The characters that plainText() leaves out, except lone surrogates, which no file holds.
 bool isLeftOut(QChar c)
 {
     const ushort code = c.unicode();
     return (code < 0x20 && (code < u'\t' || code > u'\r')) || code >= 0xFFFE;
 }
 
-// Walks over a text as it was typed, by positions of its plain form.
+// Walks over the original text by positions of its plain form.
 class Source
 {
 public:
@@ -123,6 +123,6 @@ QString MRVFountainScript::toText(const QString &source) const
     const MRVFountainScript normal = normalized();
     const QString plain = plainText(source);
     const QString revised = patched(source, patches(normal, plain));
-    // Lines are read by what stands around them, so that some cannot be changed alone.
+    // How a line is read depends on the lines around it, so some cannot be changed alone.
     return fromText(revised) == normal ? revised : patched(source, whole(textOf(normal)));
 }

@@ -8,7 +8,7 @@ using namespace MrvFountain;
 
 namespace {
 
-// What Fountain keeps of the lines of a kind of paragraph.
+// What Fountain keeps of the lines in each kind of paragraph.
 struct KindRow
 {
     MRVFountainElement::Kind kind;
@@ -101,7 +101,7 @@ bool isBlankRun(const MRVFountainRun &run)
     return run.kind == MRVFountainRun::Text && isBlankLine(QStringRef(&run.text));
 }
 
-// Runs with the blanks at their ends as runs of their own.
+// The runs, with the blanks at their ends as separate runs.
 MRVFountainRuns partedAtBlanks(const MRVFountainRuns &line)
 {
     MRVFountainRuns parts;
@@ -236,7 +236,7 @@ QString normalizedKey(const QString &given)
     key = withoutStart(key, QLatin1String("!#=~>@. \t"));
     const QString line = key + u':';
     if (titleKeyLength(QStringRef(&line)) == 0) {
-        // It begins like a heading, but not without its first letter.
+        // It begins like a heading, but no longer does without its first letter.
         key = withoutStart(key, QLatin1String("*_ \t")).mid(1);
     }
     key = trimmed(QStringRef(&key)).toString();
@@ -312,7 +312,7 @@ void normalizeTitles(QVector<MRVFountainTitle> *titles)
     for (MRVFountainTitle &title : *titles) {
         title = normalizedTitle(title);
     }
-    // A mere "Key:" on the first line is no title page, but how many scripts fade in.
+    // A lone "Key:" on the first line is not a title page: many scripts begin with "FADE IN:".
     if (titles->size() == 1 && titles->constFirst().value.isEmpty()) {
         titles->clear();
     }

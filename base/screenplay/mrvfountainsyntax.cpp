@@ -10,7 +10,7 @@ namespace {
 
 constexpr QChar ObjectSign(u'\uFFFC');
 
-// In any case, followed by a dot or a blank. Longer ones come first.
+// In upper or lower case, followed by a dot or a blank. Longer ones come first.
 constexpr const char *headingStarts[] = {"INT./EXT", "INT/EXT", "INT", "EXT", "EST", "I/E"};
 
 // Whether all letters that have a case are capitals, and there is at least one.
@@ -172,7 +172,7 @@ int extensionStart(const QStringRef &cue)
         if (from == 0 || cue.at(from - 1) != u')') {
             return end;
         }
-        // Searched by hand: QStringRef looks at the whole text behind it for each.
+        // Searched by hand: QStringRef would examine the whole text after it for each.
         int open = from - 1;
         while (open > 0 && cue.at(open) != u'(') {
             --open;
@@ -227,7 +227,7 @@ bool beginsTitlePage(const QStringRef &line, const QStringRef &next)
     if (key == 0) {
         return false;
     }
-    // "FADE IN:" and a blank line is how many scripts begin that have no title page.
+    // Many scripts without a title page begin with "FADE IN:" and an empty line.
     return !isBlankLine(line.mid(key + 1))
         || (!isBlankLine(next) && (isBlank(next.at(0)) || titleKeyLength(next) > 0));
 }
@@ -257,7 +257,7 @@ QString withPlainLineEnds(const QString &text)
             break;
         }
     }
-    return mrvXmlText(plain); // what a page or an e-book could not hold
+    return mrvXmlText(plain); // characters that a page or an e-book cannot hold
 }
 
 } // namespace MrvFountain

@@ -27,7 +27,7 @@ enum LineKind {
     PageBreakLine,
 };
 
-/** What a backslash may stand before, to take its meaning; within notes it is "]" alone. */
+/** The characters that a backslash escapes; within notes only "]". */
 constexpr char Escapable[] = "*_[/#^<(.~";
 
 inline bool isBlank(QChar c)
@@ -37,17 +37,20 @@ inline bool isBlank(QChar c)
 bool isEscapable(QChar c);
 bool isBlankLine(const QStringRef &line);
 QStringRef trimmed(const QStringRef &line);
-/** Less blanks, emphasis marks and objects at both ends. */
+/** Without the blanks, emphasis marks and objects at both ends. */
 QStringRef bare(const QStringRef &line);
 /** Whether an odd number of backslashes stands before @p position. */
 bool isEscaped(const QStringRef &line, int position);
 
-/** How a line is read that begins a paragraph; @p nextBlank tells whether it ends it, too. */
+/**
+ * How a line that begins a paragraph is read; @p nextBlank tells whether the paragraph ends there,
+ * too.
+ */
 LineKind lineKind(const QStringRef &line, bool nextBlank);
-/** Whether a line is what lineKind() says also where action goes on. */
+/** Whether lineKind() also holds for a line that continues action. */
 bool interruptsAction(LineKind kind);
 bool isParenthetical(const QStringRef &line);
-/** Where the extensions of a cue begin, or its length. */
+/** Where the extensions of a cue begin; its length where it has none. */
 int extensionStart(const QStringRef &cue);
 
 struct Range
@@ -56,13 +59,13 @@ struct Range
     int end = 0;
     bool isEmpty() const { return start >= end; }
 };
-/** The number of a scene with both its "#", at the end of a heading but for emphasis marks. */
+/** The number of a scene with both its "#", at the end of a heading except for emphasis marks. */
 Range sceneNumber(const QStringRef &line);
 bool isInSceneNumber(QChar c);
 
 /** The length of a title page's key, or 0 where the line does not begin with one. */
 int titleKeyLength(const QStringRef &line);
-/** Whether a title page begins with @p line, with @p next behind it. */
+/** Whether a title page begins with @p line, followed by @p next. */
 bool beginsTitlePage(const QStringRef &line, const QStringRef &next);
 
 /** Where in a text the title page and the elements of its script stand, as whole lines. */
@@ -79,19 +82,22 @@ QString textOf(const MRVFountainScript &normal, TextRanges *ranges = nullptr);
 
 /** A text as it is read: without a byte-order mark, and withPlainLineEnds(). */
 QString plainText(const QString &text);
-/** With '\n' for whatever ends a line in some system, and without what would upset a document. */
+/**
+ * With '\n' for every line ending of any system, and without characters that a document cannot
+ * hold.
+ */
 QString withPlainLineEnds(const QString &text);
 
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
 /** Normalizes the entries of a title page; a single one without a value makes no title page. */
 void normalizeTitles(QVector<MRVFountainTitle> *titles);
 /**
- * Resets the mark of lyrics where they are apart anyway, and sets it where they cannot but be so.
+ * Clears the mark of lyrics where they are separate anyway, and sets it where they must be.
  */
 void normalizeLyrics(QVector<MRVFountainElement> *elements);
 /** Whether something is left of a normalized element that Fountain can hold. */
 bool isKept(const MRVFountainElement &element);
-/** Runs parted at line breaks; there is always a line. */
+/** Runs separated at line breaks; at least one line. */
 QVector<MRVFountainRuns> linesOf(const MRVFountainRuns &runs);
 
 /**

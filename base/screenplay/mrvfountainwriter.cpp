@@ -9,7 +9,7 @@ namespace {
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
-// A line as it is written and as the reader sees it.
+// A line as it is written, and with objects as the reader sees it.
 struct WrittenLine
 {
     explicit WrittenLine(const MRVFountainRuns &line, bool escapeFirst = false)
@@ -40,7 +40,7 @@ class FountainWriter
 {
 public:
     QString text(const MRVFountainScript &script);
-    /** Of what text() has written, without the lines that part elements. */
+    /** The text that text() has written, without the lines that separate elements. */
     const TextRanges &ranges() const { return m_ranges; }
 
 private:
@@ -186,7 +186,7 @@ void FountainWriter::addElement(const Element &element, const Element *next)
     m_last = element.kind;
 }
 
-// A line of action that would be read as anything else gets a "!".
+// A line of action that would be read as another element gets a "!".
 void FountainWriter::addAction(const Element &element)
 {
     const QVector<MRVFountainRuns> lines = linesOf(element.runs);
@@ -217,7 +217,8 @@ void FountainWriter::addHeading(const Element &element)
     } else {
         const Range number = sceneNumber(QStringRef(&line.view));
         if (!number.isEmpty()) {
-            const int behind = line.view.size() - number.end + 1; // its last sign and what follows
+            const int behind =
+                line.view.size() - number.end + 1; // its last character and what follows
             line.text.insert(line.text.size() - behind, u'\\');
             line.view.insert(line.view.size() - behind, u'\\');
         }
@@ -231,7 +232,7 @@ void FountainWriter::addHeading(const Element &element)
     }
 }
 
-// Whether something is said right behind a cue, so that it is read as one.
+// Whether dialogue follows a cue directly, so that it is read as a cue.
 bool FountainWriter::speaksIn(const Element *next)
 {
     if (!next) {

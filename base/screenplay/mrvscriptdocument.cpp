@@ -105,7 +105,7 @@ void DocumentWriter::addBlock(const QTextBlockFormat &format, const QTextCharFor
     m_isFirst = false;
 }
 
-// A page break without a paragraph behind it, on which it could be.
+// A page break with no paragraph after it that could carry it.
 void DocumentWriter::addPendingBreak()
 {
     if (!m_breakPending) {
@@ -124,7 +124,7 @@ void DocumentWriter::addParagraph(Role role, const MRVFountainRuns &runs, int de
     QTextBlockFormat format = look.blockFormat();
     QTextCharFormat base = look.charFormat();
     if (detail != 0 && runs.isEmpty()) {
-        // It ends the likeness to the mode's element, too.
+        // The paragraph then no longer looks like the mode's element.
         format.setProperty(Document::RoleProperty, int(role));
         format.setProperty(detail, value);
     } else if (detail != 0) {
@@ -219,7 +219,7 @@ private:
 MRVFountainScript DocumentReader::script(const QTextDocument &document)
 {
     const QTextBlock first = document.begin();
-    // What is left of a document without a paragraph.
+    // A document without paragraphs still has one empty block.
     if (!first.next().isValid() && first.length() <= 1 && first.blockFormat().isEmpty()) {
         return m_script;
     }
@@ -238,7 +238,7 @@ void DocumentReader::addBlock(const QTextBlock &block)
         m_script.elements.append(pageBreak);
     }
     if (role == Role::TitlePage && m_script.elements.isEmpty()) {
-        addTitle(block); // the page that it is on ends by itself
+        addTitle(block); // its page ends anyway
         return;
     }
     addElement(block, role);
@@ -247,7 +247,7 @@ void DocumentReader::addBlock(const QTextBlock &block)
     }
 }
 
-// Of the first run that has it: a paragraph may begin with what was pasted.
+// Of the first fragment that has it: a paragraph may begin with pasted text.
 QVariant DocumentReader::detail(const QTextBlock &block, int property)
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -278,7 +278,7 @@ MRVFountainRuns DocumentReader::runsOf(const QTextBlock &block, Role role) const
             : format.boolProperty(MRVTextFormat::InlineAnnotationProperty) ? Run::Note
                                                                            : Run::Text;
         const bool isBorder = format.boolProperty(Document::NoteBorderProperty);
-        // A note that is partly of another colour, say, is still one note.
+        // A note of which a part has another colour, for example, is still one note.
         if (run.kind != Run::Text && !runs.isEmpty() && runs.constLast().kind == run.kind
             && runs.constLast().emphasis == run.emphasis && isBorder == wasBorder) {
             runs.last().text += run.text;

@@ -49,7 +49,7 @@ QString withCapitalInitials(const QString &name)
     return text;
 }
 
-// The text of a paragraph, with notes, what is cut out and objects as signs that no name holds.
+// The text of a paragraph, with notes, boneyards and objects as characters that no name holds.
 QString namedText(const QTextBlock &block)
 {
     QString text = block.text();
@@ -124,7 +124,7 @@ bool Renaming::addName(const QString &text, int start, int end, int position)
         --end;
     }
     const QString name = text.mid(start, end - start);
-    // Upper case may be longer: Weiß speaks as WEISS.
+    // Upper case may be longer: Weiß becomes WEISS.
     if (name.simplified().toUpper() != m_from.toUpper()) {
         return false;
     }
@@ -222,7 +222,7 @@ int MRVScriptDocument::renameCharacter(QTextDocument *document, const MRVScriptM
     }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
-    // From the last to the first, so that positions stay true.
+    // From the last to the first, so that positions stay valid.
     for (auto edit = edits.crbegin(); edit != edits.crend(); ++edit) {
         cursor.setPosition(edit->start + 1);
         const QTextCharFormat format = cursor.charFormat();

@@ -13,7 +13,7 @@ using Role = MrvScriptRole;
 struct RoleRow
 {
     Role role;
-    // Titles in the order in which they are looked for; the first is that of the built-in mode.
+    // Titles in the order in which they are searched for; the first is that of the built-in mode.
     const char *titles;
 };
 
@@ -122,7 +122,7 @@ MrvScriptRole MrvScriptRoles::roleOf(const QTextBlock &block) const
     if (!format.hasProperty(MrvScriptRoleProperty)) {
         const int index = firstEqual(m_mode, format);
         role = index >= 0 ? roleAt(index) : mrvScriptRole(Element::Action);
-        // Somebody has centred a paragraph: no element of the mode, but clear enough.
+        // The user has centred a paragraph: not an element of the mode, but the meaning is clear.
         if (index < 0 && (format.alignment() & Qt::AlignHCenter)) {
             role = mrvScriptRole(Element::Centered);
         }

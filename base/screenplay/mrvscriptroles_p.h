@@ -9,8 +9,7 @@
 class QTextBlock;
 
 /**
- * What paragraphs of a script are for, beyond the kinds that Fountain knows. Documents store the
- * numbers.
+ * The roles of paragraphs in a script, beyond the kinds of Fountain. Documents store the numbers.
  */
 enum class MrvScriptRole {
     // The first are those of MRVFountainElement::Kind.
@@ -34,12 +33,12 @@ public:
     bool has(MrvScriptRole role) const { return m_own.contains(int(role)); }
 
     /**
-     * The element for a role. Where the mode has none, it is one of the built-in mode, and where
-     * the mode cannot tell its paragraphs from others, their format carries the role.
+     * The element for a role: of the built-in mode where the mode has none. Where the mode cannot
+     * distinguish its paragraphs from others, their format carries the role.
      */
     MRVScriptElement element(MrvScriptRole role) const { return m_elements.value(int(role)); }
 
-    /** The role of a paragraph; that of action where it is of no element. */
+    /** The role of a paragraph; action where it matches no element. */
     MrvScriptRole roleOf(const QTextBlock &block) const;
 
 private:

@@ -98,8 +98,8 @@ private:
     bool m_hasSpoken = false; // since the cue
     bool m_inSpeech = false;
     bool m_isDual = false;
-    int m_speechLines = 0; // of the speech that goes on, from its cue
-    int m_besideLines = 0; // of the speech that it stands beside
+    int m_speechLines = 0; // of the current speech, from its cue
+    int m_besideLines = 0; // of the speech beside it
 };
 
 void Counter::addLines(int lines, int before)
@@ -109,7 +109,7 @@ void Counter::addLines(int lines, int before)
     }
     m_speechLines += lines;
     if (m_isDual) {
-        // Only what is longer than the speech beside takes room.
+        // Only the part that is longer than the speech beside it adds lines.
         lines = qBound(0, m_speechLines - m_besideLines, lines);
     }
     m_result.lines += lines;
@@ -173,8 +173,7 @@ void Counter::addElement(const Element &element)
     if (isSpeech) {
         addSpeech(extent, element.kind != Element::Parenthetical);
     }
-    // An empty line is one more between paragraphs, not one with an empty line of its own before
-    // it.
+    // An empty line adds one line between paragraphs, without spacing of its own before it.
     const bool isEmptyLine = element.kind == Element::Action && element.runs.isEmpty();
     addLines(extent.lines, isEmptyLine ? 0 : measure.linesBefore);
 }

@@ -7,11 +7,11 @@
 
 // What the XML forms of scripts have in common.
 
-/** A part of a script: a paragraph, a speech from its cue on, or two of them side by side. */
+/** A part of a script: a paragraph, a speech from its cue on, or two speeches side by side. */
 struct MrvSpeeches
 {
     int start = 0; // index of an element
-    int second = 0; // where the speech begins that stands beside; the end where there is none
+    int second = 0; // where the second speech begins; the end where the part has only one
     int end = 0;
 
     bool isDual() const { return second < end; }

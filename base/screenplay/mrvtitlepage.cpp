@@ -13,7 +13,7 @@ struct KnownKey
     Qt::AlignmentFlag alignment;
 };
 
-// Of these, the place on the page says enough.
+// For these, the place on the page says enough.
 constexpr KnownKey knownKeys[] = {
     {"Title", Qt::AlignHCenter},   {"Credit", Qt::AlignHCenter}, {"Author", Qt::AlignHCenter},
     {"Authors", Qt::AlignHCenter}, {"Source", Qt::AlignHCenter}, {"Draft date", Qt::AlignRight},

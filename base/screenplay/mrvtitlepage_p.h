@@ -4,7 +4,7 @@
 #include <QString>
 #include <Qt>
 
-// How a printed title page shows what an entry is: by its place, or else by its key in front of it.
+// How a printed title page shows what an entry is: by its place, or else by its key before it.
 
 /** The keys of a title page's entries, in any case. */
 class MrvTitleKeys
@@ -25,15 +25,15 @@ Qt::AlignmentFlag mrvTitleAlignment(const QString &key);
 /** Whether an entry is shown as "Key: value", since its place does not tell what it is. */
 bool mrvIsTitleKeyShown(const QString &key);
 
-/** What to put in front of an entry's value on the page: "Copyright: ", or nothing. */
+/** The text to put before an entry's value on the page: "Copyright: ", or nothing. */
 QString mrvTitleLabel(const QString &key);
 
 /**
- * The length of the key that a line of a title page begins with, without ": "; 0 where there is
- * none. In the middle only the keys count that belong there: "Space: A Story" is a title.
+ * The length of the key that a line of a title page begins with, without ": "; 0 without a key. In
+ * the middle only the keys that belong there count: "Space: A Story" is a title.
  */
 int mrvShownTitleKeyLength(Qt::AlignmentFlag alignment, const QString &line);
 
-/** What a line without a key is, going by its place, its words, and what is there already. */
+/** What a line without a key is, judging by its place, its words, and the entries so far. */
 QString mrvGuessedTitleKey(Qt::AlignmentFlag alignment, const QString &line,
                            const MrvTitleKeys &before);

@@ -36,8 +36,7 @@ bool sameNumber(double a, double b)
     return a == b || qFuzzyCompare(a, b);
 }
 
-// What tells most elements apart, without a copy of the formats; false does not yet mean that they
-// are equal.
+// A quick test without copying formats; false does not yet mean that the elements are equal.
 bool lengthsDiffer(const QTextBlockFormat &a, const QTextBlockFormat &b)
 {
     constexpr int Lengths[] = {MRVTextFormat::BlockLeftIndent, QTextFormat::BlockTopMargin,
@@ -82,7 +81,7 @@ bool lookTheSame(const QTextBlockFormat &a, const QTextBlockFormat &b, bool exac
     return MRVTextFormat::equivalent(restA, restB) && a.tabPositions() == b.tabPositions();
 }
 
-// Qt sets two properties for an underline, or one of them, according to how it is asked to.
+// Qt sets one or two properties for an underline, depending on the function used.
 bool lookTheSame(QTextCharFormat a, QTextCharFormat b)
 {
     a.clearProperty(QTextFormat::FontUnderline);
@@ -90,7 +89,7 @@ bool lookTheSame(QTextCharFormat a, QTextCharFormat b)
     return MRVTextFormat::equivalent(a, b);
 }
 
-// By their names; not when the library is loaded, which runs no code.
+// Registered by name on first use: loading the library runs no code.
 void registerTypes()
 {
     qRegisterMetaType<MRVScriptElement>();
@@ -121,8 +120,8 @@ MRVCompletionList MRVCompletionList::filter(const QString &prefix) const
     if (prefix.isEmpty()) {
         return offered;
     }
-    // Most are ruled out by their first character. Of a surrogate pair, no first half changes with
-    // the case.
+    // The first character rules out most of them. The first half of a surrogate pair never changes
+    // with the case.
     const QChar first = prefix.at(0).toCaseFolded();
     for (const MRVCompletion &completion : m_completions) {
         const QString &text = completion.text;
@@ -180,7 +179,7 @@ void MRVScriptElement::recapitalizeBlock(const QTextBlock &block) const
     QTextCursor cursor(block);
     bool editing = false;
     const QVector<Run> runs = runsOf(block);
-    // From the last one on, since upper case may be longer: what lies in front stays where it is.
+    // From the last to the first, since upper case may be longer: positions before it stay valid.
     for (auto run = runs.crbegin(); run != runs.crend(); ++run) {
         const QString text = run->text.left(qMax(0, end - run->start));
         const QString upper = text.toUpper();

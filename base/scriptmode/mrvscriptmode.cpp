@@ -44,7 +44,7 @@ QString userFolder()
 
 void writeText(QXmlStreamWriter *xml, const QString &text)
 {
-    // A carriage return that is written as it is would be read as a line feed.
+    // A literal carriage return would be read back as a line feed.
     const QStringList lines = mrvXmlText(text).split(u'\r');
     for (int i = 0; i < lines.size(); ++i) {
         if (i > 0) {
@@ -219,7 +219,7 @@ QByteArray MRVScriptMode::toXml() const
 
 bool MRVScriptMode::save(const QString &path, QString *error) const
 {
-    // What could not be read again is not written.
+    // A mode that could not be read back is not written.
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
     QString reason;
     if (xml.isEmpty() || xml.size() > MaxFileSize

@@ -40,8 +40,8 @@ constexpr ScriptWord CompleteWords[] = {{"GoToNextLine", Element::CompleteToNext
                                         {"InsertTab", Element::CompleteInsertsTab},
                                         {"Default", Element::CompleteDefault}};
 
-// Faces that every system has or substitutes with the same widths, and what other systems call
-// them.
+// Typefaces that every system has or substitutes with the same widths, and their names on other
+// systems.
 struct FontRow
 {
     const char *name;
@@ -58,7 +58,8 @@ constexpr FontRow FontRows[] = {{"Arial", "Arial"},
 
 QString localFamily(const QString &family)
 {
-    // "ArialMT" is the name of a file of the family; of "Gill Sans MT" and "BemboMT" it is a part.
+    // In "ArialMT" the ending comes from a file name; in "Gill Sans MT" and "BemboMT" it belongs to
+    // the family.
     const bool suffixed = family.endsWith(QLatin1String("MT"));
     const QString name = suffixed ? family.chopped(2) : family;
     for (const FontRow &row : FontRows) {
@@ -103,7 +104,7 @@ bool readNumber(const QString &text, double *number)
     return true;
 }
 
-// The shortest decimal number that is read as what the exact one is.
+// The shortest decimal number that reads back as the exact one.
 template<typename Read>
 QString shortest(double exact, Read read)
 {
@@ -198,7 +199,7 @@ bool takeFirstTab(Element *element, const QString &text, MRVUnit::Unit units)
     return ok && points >= 0.0;
 }
 
-// Qt's paragraphs have no interval of their own; the first stop is the one that a script uses.
+// Qt's paragraphs have no tab interval of their own; a script uses the first stop.
 bool takeTabInterval(Element *element, const QString &text, MRVUnit::Unit units)
 {
     double points = 0.0;
@@ -208,7 +209,7 @@ bool takeTabInterval(Element *element, const QString &text, MRVUnit::Unit units)
     return takeFirstTab(element, text, units);
 }
 
-// Line spacing: a multiple of the font's size, or a height that goes before it
+// Line spacing: a multiple of the font's size, or a height that overrides it
 
 bool hasFixedHeight(const QTextBlockFormat &format)
 {
@@ -435,7 +436,7 @@ bool takeItalic(Element *element, const QString &text, MRVUnit::Unit)
 
 // Texts
 
-// Not null, which would leave the text out of the file.
+// Not null, since a null text is not written.
 QString written(const QString &text)
 {
     return text.isNull() ? QStringLiteral("") : text;

@@ -6,8 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
-// The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: what
-// writes a mode and what reads one go by the same rows.
+// The words of a mode's file stand here and in the rows of mrvscriptmodefile.cpp, once each: reader
+// and writer use the same rows.
 
 constexpr char MorvaneScriptFormatTag[] = "MorvaneScriptFormat";
 constexpr char VersionAttribute[] = "Version";

@@ -25,7 +25,7 @@ constexpr Attribute Attributes[] = {{MorvaneScriptFormatTag, VersionAttribute},
 class ModeReader
 {
 public:
-    // Without units, those of the file count from where it names them.
+    // Without units, the file's units apply from the place where it names them.
     ModeReader(const QString &xml, std::optional<MRVUnit::Unit> units)
         : m_xml(xml)
         , m_unitsAreKnown(units.has_value())
@@ -37,7 +37,7 @@ public:
     QString error() const;
     const MRVScriptMode &mode() const { return m_mode; }
     const QStringList &remarks() const { return m_remarks; }
-    /** Whether lengths were read before the file told their units. */
+    /** Whether lengths were read before the file named their units. */
     bool unitsCameLate() const { return m_unitsCameLate; }
 
 private:
@@ -54,7 +54,7 @@ private:
     void readFont(MRVScriptElement *element);
     void readCompletions(MRVScriptElement *element);
     bool attribute(const char *name, QString *value) const;
-    // Words of other namespaces have prefixes, and are none of ours.
+    // Names in other namespaces have prefixes and do not concern us.
     bool isAt(const char *tag) const { return m_xml.qualifiedName() == QLatin1String(tag); }
     void remark(const QString &text);
     void remarkAttributes();
@@ -100,7 +100,7 @@ void ModeReader::remarkAttributes()
     }
 }
 
-// Every token goes through here: nothing is read from documents that nest without end.
+// Every token goes through here, so that documents that are nested too deeply are not read.
 QXmlStreamReader::TokenType ModeReader::next()
 {
     const QXmlStreamReader::TokenType token = m_xml.readNext();
@@ -113,8 +113,7 @@ QXmlStreamReader::TokenType ModeReader::next()
     return m_xml.hasError() ? QXmlStreamReader::Invalid : token;
 }
 
-// Goes to the next child of the element that it is in, or to the end of that; false at the end and
-// on an error.
+// Moves to the next child of the current element, or to its end; false at the end and on an error.
 bool ModeReader::nextChild()
 {
     for (;;) {
@@ -160,7 +159,7 @@ QString ModeReader::text()
     }
 }
 
-// Passes over the element that it is in.
+// Skips the current element.
 void ModeReader::skip(const char *parent)
 {
     remark(MRVScriptMode::tr("\"%1\" has no place in \"%2\" and is passed over")
@@ -197,7 +196,7 @@ bool ModeReader::read()
             skip(MorvaneScriptFormatTag);
         }
     }
-    // What follows the root may be broken, too.
+    // The text after the root may be malformed, too.
     while (!m_xml.atEnd()) {
         next();
     }
@@ -353,7 +352,7 @@ bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *
         if (!reader.read()) {
             return refuse(reader.error());
         }
-        // A second time, with units that are known from the start.
+        // A second time, now that the units are known from the start.
         if (reader.unitsCameLate()) {
             units = reader.mode().units();
             continue;

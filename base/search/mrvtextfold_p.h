@@ -4,8 +4,8 @@
 #include <QVector>
 
 /**
- * A text in which what writers take for the same character is the same: straight and curly quotes,
- * the kinds of hyphens, kinds of blanks and objects, composed and decomposed letters.
+ * A text in which characters that writers consider equal are equal: straight and curly quotes, the
+ * kinds of hyphens, the kinds of blanks and objects, composed and decomposed letters.
  *
  * Letters are composed (NFC), so positions differ from those of the text that was given.
  */
@@ -24,7 +24,7 @@ public:
 
     /** A text to search for, as it is found in folded texts. */
     static QString foldPattern(const QString &text);
-    /** The same for a regular expression: what was no operator does not become one. */
+    /** The same for a regular expression: no literal character becomes an operator. */
     static QString foldExpression(const QString &pattern);
 
 private:

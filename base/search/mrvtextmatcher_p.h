@@ -10,21 +10,20 @@
 
 #include <array>
 
-// The three ways to look for text, behind one shape: what is done to a paragraph's text before it
-// is searched, the next match from an offset on, and the last one that starts at an offset or
-// before.
+// The three ways to search for text, with one interface: prepare a paragraph's text, find the next
+// match from an offset on, and find the last match that starts at or before an offset.
 
 struct MRVTextMatch
 {
     int start = -1; ///< negative: no match
     int length = 0;
-    int from = -1; ///< where the expression was let loose, which may lie before what it keeps (\K)
+    int from = -1; ///< where the search started, which may lie before the reported match (\K)
 
     int end() const { return start + length; }
     explicit operator bool() const { return start >= 0; }
 };
 
-/** Puts blanks in the place of objects and no-break spaces, which keeps all positions. */
+/** Replaces objects and no-break spaces by blanks, which keeps all positions. */
 void mrvBlankObjects(QString *text);
 
 /** A plain text. Finds what a QRegExp of pattern syntax FixedString finds, only faster. */
@@ -55,7 +54,7 @@ private:
     QString m_text; // as given
     QString m_folded; // where case does not matter, else the same
     std::array<uchar, 256> m_skip; // by the low byte of the character
-    int m_anchor = -1; // the place of a character that is rare in most texts; -1: none is known
+    int m_anchor = -1; // the index of a character that is rare in most texts; -1: none is known
     QChar m_anchorCharacter;
     QChar m_otherCase; // of the anchor, or the same
     Qt::CaseSensitivity m_sensitivity;
@@ -100,8 +99,9 @@ private:
 bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::FindFlags flags);
 
 /**
- * The nearest match in a prepared text that keeps the word rules. A match that breaks them is
- * passed over whole and one character more. Deliberate: what starts right behind it is not seen.
+ * The nearest match in a prepared text that satisfies the word rules. A match that breaks them is
+ * skipped together with one more character. Deliberate: a match that starts right after it is not
+ * found.
  */
 template<typename Matcher>
 MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offset,
@@ -120,9 +120,9 @@ MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offs
 }
 
 /**
- * Calls @p found(match) for the matches in a prepared text from @p offset on, until it says false
- * or a match reaches beyond @p limit. Behind an empty match the search goes on by one character, or
- * it would stand still.
+ * Calls @p found(match) for the matches in a prepared text from @p offset on, until it returns
+ * false or a match reaches beyond @p limit. After an empty match the search moves on by one
+ * character, or it would never end.
  */
 template<typename Matcher, typename Found>
 void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
@@ -140,7 +140,7 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
 
 /**
  * Calls @p visit(block, position, from, to), with offsets in its text, for each paragraph of a part
- * until it says false.
+ * until it returns false.
  */
 template<typename Visit>
 void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Visit visit)
@@ -150,7 +150,7 @@ void mrvEachBlock(const QTextDocument *document, const MRVTextRange &within, Vis
         return;
     }
     QTextBlock block = document->findBlock(start);
-    int position = block.position(); // counted along, as Qt climbs a tree for it
+    int position = block.position(); // added up, since Qt searches a tree for it
     for (; block.isValid() && position <= within.end(); block = block.next()) {
         const int length = block.length();
         if (!visit(block, position, qMax(0, start - position),

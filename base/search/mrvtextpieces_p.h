@@ -10,7 +10,7 @@
 #include <utility>
 
 /**
- * What a test says of the formats of a document, asked once for each format.
+ * The verdicts of a test on the formats of a document, computed once for each format.
  *
  * A document has few formats and many fragments. It must not be edited meanwhile.
  */
@@ -53,7 +53,7 @@ struct MRVTextPiece
 
 Q_DECLARE_TYPEINFO(MRVTextPiece, Q_MOVABLE_TYPE);
 
-/** Goes from fragment to fragment in either direction, over paragraph ends. */
+/** Moves from fragment to fragment in either direction, across paragraph ends. */
 class MRVPieceWalker
 {
 public:
@@ -63,20 +63,20 @@ public:
     bool isValid() const { return m_index >= 0 && m_index < m_pieces.size(); }
     const MRVTextPiece &piece() const { return m_pieces.at(m_index); }
     void next();
-    /** Also from behind the last fragment back to it. */
+    /** Also from after the last fragment back to it. */
     void previous();
 
 private:
     void load(const QTextBlock &block);
 
-    QTextBlock m_block; // the last one there was
+    QTextBlock m_block; // the last valid one
     QVector<MRVTextPiece> m_pieces;
     int m_index = 0;
 };
 
 /**
- * Whether nothing but paragraph ends lies in [end, start). What lies over the border of a cell or
- * frame is never one run: a cursor that selects it takes the whole table.
+ * Whether [end, start) holds only paragraph ends. A run never crosses the border of a cell or
+ * frame: a cursor that selects across it selects the whole table.
  */
 bool mrvAdjoins(const QTextDocument *document, int end, int start);
 
@@ -88,7 +88,7 @@ void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Ver
     QTextBlock block = document->findBlock(within.start());
     for (; block.isValid() && block.position() < within.end(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
-            // The verdict first: to ask for a position means to climb a tree.
+            // The verdict first, since asking for a position searches a tree.
             const QTextFragment fragment = it.fragment();
             if (!verdicts(fragment.charFormatIndex())) {
                 continue;
@@ -104,8 +104,8 @@ void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Ver
 }
 
 /**
- * Grows a range in both directions over the fragments that pass and lie partly in it, adjoin it, or
- * are parted from it by nothing but paragraph ends. An empty range must touch them.
+ * Extends a range in both directions over the fragments that pass and overlap it, adjoin it, or are
+ * separated from it only by paragraph ends. An empty range must touch them.
  */
 template<typename Verdicts>
 MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, Verdicts &verdicts)
@@ -134,7 +134,7 @@ MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, 
     return MRVTextRange(start, end);
 }
 
-/** Finds the runs beyond a selection, one after the other; see MRVTextFinder::find(). */
+/** Finds the runs outside a selection, one after the other; see MRVTextFinder::find(). */
 template<typename Verdicts>
 class MRVRunFinder
 {
@@ -152,7 +152,7 @@ public:
         if (!across) {
             (backward ? m_walker : inner).previous();
         }
-        // The rest of a run that begins on the other side is no run.
+        // The rest of a run that begins on the other side does not count.
         if (passes(m_walker)
             && (across || (passes(inner) && adjoin(inner.piece(), m_walker.piece())))) {
             skip();
@@ -203,5 +203,5 @@ private:
 /** The fragment of the character at a position; invalid (format -1) at a paragraph end. */
 MRVTextPiece mrvPieceAt(const QTextDocument *document, int position);
 
-/** A cursor with the anchor in front; also for a document that is const. */
+/** A cursor with the anchor at the start; also for a const document. */
 QTextCursor mrvSelect(const QTextDocument *document, const MRVTextRange &range);
