@@ -2,9 +2,9 @@
 #include "documentinput.h"
 #include "htmlsource.h"
 #include "pageexport.h"
-#include "stagedfiles.h"
 
 #include "epub/mrvepubpackage.h"
+#include "publish/mrvstagedfiles.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include "core/mrvcoreutil.h"
@@ -426,7 +426,7 @@ bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
         return writeStandardOutput(bytes, error);
     }
     showProgress(QStringLiteral("Writing %1").arg(file));
-    return writeWithFolders(bytes, file, error);
+    return MRVStagedFiles::write(bytes, file, error);
 }
 
 bool exportPackage(const Options &options, const std::vector<DocumentInput> &inputs,

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "stagedfiles.h"
-
+#include "publish/mrvstagedfiles.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QHash>
@@ -61,7 +60,7 @@ private:
     bool addStyleSheet(const Folder &folder, QString *error);
 
     const PageOptions m_options;
-    StagedFiles m_files;
+    MRVStagedFiles m_files;
     std::map<QString, Folder> m_folders; // by the real path, however it is written
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target
     QStringList m_written;

@@ -2,11 +2,11 @@
 #include "documentinput.h"
 #include "htmlsource.h"
 #include "scriptcommand.h"
-#include "stagedfiles.h"
 #include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvepubpackage.h"
+#include "publish/mrvstagedfiles.h"
 #include "screenplay/mrvfinaldraft.h"
 #include "screenplay/mrvfountainhtml.h"
 #include "screenplay/mrvscriptdocument.h"
@@ -187,7 +187,7 @@ bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
     if (file == StandardStream) {
         return writeStandardOutput(bytes, error);
     }
-    return writeWithFolders(bytes, file, error);
+    return MRVStagedFiles::write(bytes, file, error);
 }
 
 // Behind the writing of a script, which may yet fail.

@@ -1,10 +1,10 @@
 #include "command.h"
-#include "temporaryfolder.h"
 #include "terminalinput.h"
 
 #include "core/mrvfilewriter.h"
 #include "download/mrvdownloadsilentinput.h"
 #include "download/mrvdownloadurl.h"
+#include "publish/mrvtemporaryfolder.h"
 #include "update/mrvupdatemodel.h"
 #include "version/mversion.h"
 
@@ -122,7 +122,7 @@ int check(const QString &given, bool json)
 {
     // The model reads what lies in the temporary folder, where others may have files of these
     // names.
-    const TemporaryFolder folder(QDir::tempPath());
+    const MRVTemporaryFolder folder(QDir::tempPath());
     if (folder.path().isEmpty()) {
         printError(QLatin1String("update: ") + folder.errorString());
         return Failed;

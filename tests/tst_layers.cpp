@@ -64,6 +64,7 @@ constexpr Module modules[] = {
     {"base/xhtml",       7, "Core Gui"},
 
     {"base/epub",        8, "Core Gui KZip KArchive"},
+    {"base/publish",     8, "Core Gui"},
 
     {"plugins/webview",  ProgramLayer, "Core Gui Network Widgets WebKit WebKitWidgets"},
     {"cli",              ProgramLayer, AnyLibrary},

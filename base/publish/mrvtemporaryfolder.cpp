@@ -1,4 +1,4 @@
-#include "temporaryfolder.h"
+#include "publish/mrvtemporaryfolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,7 +47,7 @@ bool removeTree(int parent, const char *name)
 
 } // namespace
 
-SignalsHeld::SignalsHeld()
+MRVHeldSignals::MRVHeldSignals()
 {
     sigset_t held;
     sigemptyset(&held);
@@ -57,18 +57,18 @@ SignalsHeld::SignalsHeld()
     pthread_sigmask(SIG_BLOCK, &held, &m_before);
 }
 
-SignalsHeld::~SignalsHeld()
+MRVHeldSignals::~MRVHeldSignals()
 {
     pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
 }
 
-TemporaryFolder *TemporaryFolder::s_first = nullptr;
+MRVTemporaryFolder *MRVTemporaryFolder::s_first = nullptr;
 
-TemporaryFolder::TemporaryFolder(const QString &place)
+MRVTemporaryFolder::MRVTemporaryFolder(const QString &place)
     : m_path(QFile::encodeName(
         QDir(QDir(place).canonicalPath()).filePath(QStringLiteral(".mrv-export-XXXXXX"))))
 {
-    const SignalsHeld held;
+    const MRVHeldSignals held;
     if (!mkdtemp(m_path.data())) {
         m_error = qt_error_string(errno);
         m_path.clear();
@@ -77,30 +77,30 @@ TemporaryFolder::TemporaryFolder(const QString &place)
     enlist();
 }
 
-TemporaryFolder::~TemporaryFolder()
+MRVTemporaryFolder::~MRVTemporaryFolder()
 {
-    const SignalsHeld held;
+    const MRVHeldSignals held;
     if (!m_path.isEmpty()) {
         removeTree(AT_FDCWD, m_path.constData());
         forget();
     }
 }
 
-QString TemporaryFolder::path() const
+QString MRVTemporaryFolder::path() const
 {
     return QFile::decodeName(m_path);
 }
 
-void TemporaryFolder::keep()
+void MRVTemporaryFolder::keep()
 {
-    const SignalsHeld held;
+    const MRVHeldSignals held;
     if (!m_path.isEmpty()) {
         forget();
         m_path.clear();
     }
 }
 
-void TemporaryFolder::enlist()
+void MRVTemporaryFolder::enlist()
 {
     m_next = s_first;
     s_first = this;
@@ -108,7 +108,7 @@ void TemporaryFolder::enlist()
         struct sigaction action;
         // A signal that is ignored, as under nohup, stays so.
         if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_DFL) {
-            action.sa_handler = &TemporaryFolder::endProgram;
+            action.sa_handler = &MRVTemporaryFolder::endProgram;
             action.sa_flags = int(SA_RESETHAND);
             sigfillset(&action.sa_mask);
             sigaction(signal, &action, nullptr);
@@ -116,20 +116,27 @@ void TemporaryFolder::enlist()
     }
 }
 
-void TemporaryFolder::forget()
+void MRVTemporaryFolder::forget()
 {
-    TemporaryFolder **link = &s_first;
+    MRVTemporaryFolder **link = &s_first;
     while (*link != this) {
         link = &(*link)->m_next;
     }
     *link = m_next;
+    for (const int signal : endingSignals) {
+        struct sigaction action;
+        // What the program has set in the meantime is its own.
+        if (!s_first && sigaction(signal, nullptr, &action) == 0
+            && action.sa_handler == &MRVTemporaryFolder::endProgram) {
+            ::signal(signal, SIG_DFL);
+        }
+    }
 }
 
-void TemporaryFolder::endProgram(int signal)
+void MRVTemporaryFolder::endProgram(int signal)
 {
-    for (const TemporaryFolder *folder = s_first; folder; folder = folder->m_next) {
+    for (const MRVTemporaryFolder *folder = s_first; folder; folder = folder->m_next) {
         removeTree(AT_FDCWD, folder->m_path.constData());
     }
-    raise(
-        signal); // waits for the handler's end, then ends the program as the signal does by default
+    raise(signal); // waits for the handler's end; then the program ends as it would have
 }
