@@ -2200,6 +2200,37 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVStagedFiles</name>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>no file can be made here</source>
+        <translation>hier kann keine Datei angelegt werden</translation>
+    </message>
+    <message>
+        <source>no file can be made here (%1)</source>
+        <translation>hier kann keine Datei angelegt werden (%1)</translation>
+    </message>
+    <message>
+        <source>a folder is in the file&apos;s place</source>
+        <translation>an der Stelle der Datei liegt ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>Es handelt sich nicht um eine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>%1; the old file is kept as %2</source>
+        <translation>%1; die alte Datei liegt unter %2</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextFormat</name>
     <message>
         <source>The picture has no file name.</source>

@@ -2200,6 +2200,37 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVStagedFiles</name>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>no se puede crear la carpeta</translation>
+    </message>
+    <message>
+        <source>no file can be made here</source>
+        <translation>aquí no se puede crear ningún archivo</translation>
+    </message>
+    <message>
+        <source>no file can be made here (%1)</source>
+        <translation>aquí no se puede crear ningún archivo (%1)</translation>
+    </message>
+    <message>
+        <source>a folder is in the file&apos;s place</source>
+        <translation>hay una carpeta en el lugar del archivo</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>el archivo está protegido contra escritura</translation>
+    </message>
+    <message>
+        <source>%1; the old file is kept as %2</source>
+        <translation>%1; el archivo anterior se conserva como %2</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextFormat</name>
     <message>
         <source>The picture has no file name.</source>

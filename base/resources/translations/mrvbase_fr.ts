@@ -2200,6 +2200,37 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVStagedFiles</name>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>no file can be made here</source>
+        <translation>aucun fichier ne peut être créé ici</translation>
+    </message>
+    <message>
+        <source>no file can be made here (%1)</source>
+        <translation>aucun fichier ne peut être créé ici (%1)</translation>
+    </message>
+    <message>
+        <source>a folder is in the file&apos;s place</source>
+        <translation>un dossier se trouve à la place du fichier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>le fichier est protégé en écriture</translation>
+    </message>
+    <message>
+        <source>%1; the old file is kept as %2</source>
+        <translation>%1 ; l’ancien fichier est conservé sous %2</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextFormat</name>
     <message>
         <source>The picture has no file name.</source>
