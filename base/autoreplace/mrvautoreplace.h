@@ -39,10 +39,16 @@ inline bool operator!=(const MRVAutoReplace &a, const MRVAutoReplace &b)
     return !(a == b);
 }
 
-/** Writes the version 1 as qint32, then `enabled` as one byte, `match` and `replacement`. */
+/**
+ * Writes the version 1 as qint32, then `enabled` as one byte, `match` and `replacement`.
+ *
+ * @param entry any; null texts stay null.
+ */
 MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVAutoReplace &entry);
 /**
  * Reads what was written; the version may be any. Where the stream ends or is damaged, this field
  * and those after it are false or null, and the stream's status says so.
+ *
+ * @param entry receives the entry.
  */
 MRVBASE_EXPORT QDataStream &operator>>(QDataStream &stream, MRVAutoReplace &entry);

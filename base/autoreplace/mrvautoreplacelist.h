@@ -40,6 +40,13 @@ class MRVBASE_EXPORT MRVAutoReplaceList : public QList<MRVAutoReplace>
 public:
     using List = QList<MRVAutoReplace>;
 
+    /**
+     * @name As those of QList
+     *
+     * A copy shares the entries, but neither the index nor the mark that somebody holds a
+     * reference. What is moved from is empty.
+     */
+    //@{
     MRVAutoReplaceList();
     MRVAutoReplaceList(std::initializer_list<MRVAutoReplace> entries);
     MRVAutoReplaceList(const List &entries);
@@ -48,6 +55,7 @@ public:
     ~MRVAutoReplaceList();
     MRVAutoReplaceList &operator=(const MRVAutoReplaceList &other);
     MRVAutoReplaceList &operator=(MRVAutoReplaceList &&other) noexcept;
+    //@}
 
     /**
      * The entry to apply to @p text, which ends at the caret: of the enabled entries whose match
@@ -84,10 +92,16 @@ public:
     /** The same in its stored form. */
     static QByteArray defaultReplacementsByteArray();
 
+    /**
+     * @name As those of QList
+     *
+     * The functions that are not const give references away, which the class comment explains,
+     * except clear() and swap(), which exchanges the index as well.
+     */
+    //@{
     void clear();
     void swap(MRVAutoReplaceList &other) noexcept;
 
-    // QList's own, which give references away; see above.
     // clang-format off
     MRVAutoReplace &operator[](int i) { giveAway(); return List::operator[](i); }
     const MRVAutoReplace &operator[](int i) const { return at(i); }
@@ -107,6 +121,7 @@ public:
     const_reverse_iterator rbegin() const { return List::rbegin(); }
     reverse_iterator rend() { return reverse_iterator(begin()); }
     const_reverse_iterator rend() const { return List::rend(); }
+    //@}
     // clang-format on
 
 private:

@@ -25,12 +25,12 @@ class QTextDocument;
  *
  * An image in a document is one object character; its picture is a resource of the document, under
  * the URL made from the image's resource id (QTextFormat::ImageName). Equal images side by side are
- * one run of text to Qt, but each is counted here.
+ * one fragment of text to Qt, but each is counted here.
  *
- * A run is a stretch of one paragraph in one character format. Where a function takes a pattern, it
- * concerns the runs that set every property of it, to an equal value where @c matchValues is true;
- * a pattern without properties fits all text. Paragraph ends are no part of a run: what a new,
- * empty paragraph would give to text typed into it stays.
+ * A fragment is a stretch of one paragraph in one character format. Where a function takes a
+ * pattern, it concerns the fragments that set every property of it, to an equal value where
+ * @c matchValues is true; a pattern without properties fits all text. Paragraph ends are no part of
+ * a fragment: what a new, empty paragraph would give to text typed into it stays.
  *
  * A change to a whole document is one undo step, and none where there is nothing to change. It
  * takes time linear in the document. Null documents and cursors are left alone. GUI thread only.
@@ -76,6 +76,8 @@ public:
 
     /**
      * Whether at most one image with this resource id, and a picture, is shown; true for none.
+     *
+     * @param id exact.
      */
     static bool onlyOneImageWithResourceId(const QTextDocument &document, const QString &id);
 
@@ -102,7 +104,7 @@ public:
 
     /**
      * The name of an image in MultiMarkdown: safe as a file name, with one hyphen in the place of
-     * each run of blanks, underscores and hyphens. May be empty.
+     * each row of blanks, underscores and hyphens. May be empty.
      */
     static QString mmdImageName(const QString &name);
 
@@ -116,6 +118,7 @@ public:
      *
      * @param mmd  passes the name through mmdImageName(); "image" stands for an empty result.
      * @param used if given, paths that are taken: a file of such a path gets a free name beside it.
+     * @param folder made where it does not exist.
      * @return the path that was written; empty for an image without a picture or a name, and on
      * failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image links to a
      * file of that suffix, which is copied.
@@ -128,10 +131,11 @@ public:
      * of its own and none over a file that another image links to. The folder is made where needed,
      * but not for a document without images.
      *
+     * @param mmd see exportImageFormat().
      * @return the paths that were written, in document order.
      */
     static QStringList exportImages(const QTextDocument &document, const QString &folder, bool mmd);
-    /** exportImages() with names for MultiMarkdown. */
+    /** exportImages() into @p folder with names for MultiMarkdown. */
     static QStringList exportImagesToMmd(const QTextDocument &document, const QString &folder);
 
     /**
@@ -146,20 +150,29 @@ public:
     /** Removes the marks and data of a comment from a format, and the address (AnchorHref). */
     static void clearCommentProperties(QTextCharFormat *format);
     /**
-     * Does so to the selected text, run by run, so that each keeps what else it has; without a
-     * selection, to the format that text typed at the cursor gets.
+     * Does so to the selected text, fragment by fragment, so that each keeps what else it has;
+     * without a selection, to the format that text typed at the cursor gets.
      */
     static void clearCommentPropertiesCursor(QTextCursor *cursor);
-    /** Clears the comment properties of the runs whose @p property is true. */
+    /** Clears the comment properties of the fragments whose @p property is true. */
     static void removeComments(QTextDocument *document, int property);
+    /**
+     * @name By kind of note
+     *
+     * removeComments() for one kind: the fragments with InspectorCommentProperty, or those with
+     * InspectorFootnoteProperty.
+     */
+    //@{
     static void removeInspectorComments(QTextDocument *document);
     static void removeInspectorFootnotes(QTextDocument *document);
+    //@}
     /**
-     * Those of both kinds: of the runs that have comment data (CommentData0), whatever they are.
+     * Those of both kinds: of the fragments that have comment data (CommentData0), whatever they
+     * are.
      */
     static void removeInspectorCommentsAndFootnotes(QTextDocument *document);
     /**
-     * Clears the comment properties of the runs of the selection whose @p property is true; of
+     * Clears the comment properties of the fragments of the selection whose @p property is true; of
      * those that reach out of it, of the part inside.
      */
     static void removeCommentsWithinSelection(const QTextCursor &cursor, int property);
@@ -178,14 +191,15 @@ public:
     static void removeAnnotations(QTextDocument *document);
     /** Deletes the text of all inline footnotes, and no paragraph ends. */
     static void removeInlineFootnotes(QTextDocument *document);
-    /** Makes all annotations ordinary text. A run that is a footnote too is none any more. */
+    /** Makes all annotations ordinary text. A fragment that is a footnote too is none any more. */
     static void inlineAnnotationsToText(QTextDocument *document);
     /**
-     * Makes all inline footnotes ordinary text. A run that is an annotation too is none any more.
+     * Makes all inline footnotes ordinary text. A fragment that is an annotation too is none any
+     * more.
      */
     static void inlineFootnotesToText(QTextDocument *document);
 
-    // Links: runs with IsAnchor true. Colour and underline of a link that goes stay.
+    // Links: fragments with IsAnchor true. Colour and underline of a link that goes stay.
 
     /** Removes address, name and mark of a link from a format. */
     static void clearLinkProperties(QTextCharFormat *format);
@@ -202,43 +216,48 @@ public:
 
     // Colours and other formats
 
-    /** Removes the text colour of all runs but links. */
+    /** Removes the text colour of all fragments but links. */
     static void clearTextColor(QTextDocument *document);
     /**
-     * Gives @p color to all runs that have a text colour and are no links; text without one stays
-     * so. An invalid colour clears.
+     * Gives @p color to all fragments that have a text colour and are no links; text without one
+     * stays so. An invalid colour clears.
      */
     static void setTextColor(QTextDocument *document, const QColor &color);
-    /** Removes the background of all runs. */
+    /** Removes the background of all fragments. */
     static void clearHighlighting(QTextDocument *document);
-    /** Removes the properties that @p pattern has from the runs that it fits. */
+    /** Removes the properties that @p pattern has from the fragments that it fits. */
     static void clearAll(QTextDocument *document, const QTextCharFormat &pattern, bool matchValues);
     /**
-     * clearAll() with a pattern of one property. No run has an invalid @p value, so with
+     * clearAll() with a pattern of one property. No fragment has an invalid @p value, so with
      * @p matchValues that clears nothing.
+     *
+     * @param property number of the property.
      */
     static void clearAllProperty(QTextDocument *document, int property, const QVariant &value,
                                  bool matchValues);
     /**
-     * clearAll() between the two ends of a selection; a run that reaches beyond is split. Nothing
-     * without a selection.
+     * clearAll() between the two ends of the selection of @p cursor, with the same @p pattern; a
+     * fragment that reaches beyond is split. Nothing without a selection.
      */
     static void clearAllSelection(QTextCursor cursor, const QTextCharFormat &pattern,
                                   bool matchValues);
-    /** In the runs that @p from fits, its properties are removed, and those of @p to set. */
+    /** In the fragments that @p from fits, its properties are removed, and those of @p to set. */
     static void replaceAll(QTextDocument *document, const QTextCharFormat &from,
                            const QTextCharFormat &to, bool matchValues);
     /**
-     * Finds the first run of a paragraph that @p pattern fits and that starts at @p offset or
+     * Finds the first fragment of a paragraph that @p pattern fits and that starts at @p offset or
      * later.
      *
      * @param offset from the start of @p block.
-     * @param cursor selects the run; untouched where there is none.
+     * @param cursor selects the fragment; untouched where there is none.
      * @return whether there is one.
      */
     static bool findInBlock(const QTextBlock &block, const QTextCharFormat &pattern, int offset,
                             QTextCursor &cursor, bool matchValues);
-    /** The same as MRVTextFinder::continuousFragmentCount(). */
+    /**
+     * The same as MRVTextFinder::continuousFragmentCount(), which explains @p from and
+     * @p compareValues.
+     */
     static int continuousFragmentCount(const QTextCharFormat &format, const QTextCursor &from,
                                        bool compareValues);
 
@@ -247,7 +266,8 @@ public:
     /** Whether blanks and tabs as well as line and paragraph ends are drawn. */
     static bool invisiblesShown(const QTextDocument &document);
     /**
-     * Switches both on or off; with only one of them on, they are not shown, and stay when hidden.
+     * Switches both on, or off unless @p show; with only one of them on, they are not shown, and
+     * stay when hidden.
      */
     static void showInvisibles(QTextDocument *document, bool show);
     /** Clears all flags of the document's default text option. */
@@ -272,16 +292,22 @@ public:
 
     // Paragraphs by number, from 0; table cells count. Those that do not exist are passed over.
 
-    /** Empty for an unknown number. */
+    /** The format of paragraph @p number; empty where it does not exist. */
     static QTextBlockFormat blockFormatByBlockNumber(const QTextDocument *document, int number);
-    /** Whether the paragraph is in a list, and in which, stays as it is. */
+    /**
+     * Whether the paragraph is in a list, and in which, stays as it is.
+     *
+     * @param number paragraph, from 0.
+     */
     static void setBlockFormatByBlockNumber(QTextDocument *document, int number,
                                             const QTextBlockFormat &format);
-    /** The format of the paragraph's first run; empty for an empty paragraph. */
+    /** The format of the first fragment of paragraph @p number; empty for an empty paragraph. */
     static QTextCharFormat charFormatByBlockNumber(const QTextDocument *document, int number);
     /**
-     * Sets the format of the paragraph's first run; nothing happens in an empty paragraph. An image
-     * stays one.
+     * Sets the format of the paragraph's first fragment; nothing happens in an empty paragraph. An
+     * image stays one.
+     *
+     * @param number paragraph, from 0.
      */
     static void setCharFormatByBlockNumber(QTextDocument *document, int number,
                                            const QTextCharFormat &format);

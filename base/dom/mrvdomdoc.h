@@ -102,19 +102,31 @@ public:
      */
     bool save(QIODevice &device) const;
     /**
-     * As above, to a file, which is replaced as a whole or, when anything fails, left as it was.
+     * As above, to the file @p fileName, which is replaced as a whole or, when anything fails, left
+     * as it was. fileName() stays the name of what was loaded.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      */
     bool save(const QString &fileName, QString *error = nullptr) const;
+    /**
+     * The file that was loaded, or the name that setFilename() gave; nothing is read or written
+     * under it by itself.
+     */
     QString fileName() const { return m_fileName; }
+    /** Changes fileName(); nothing is read or written. */
     void setFilename(const QString &fileName) { m_fileName = fileName; }
     /**
      * Replaces the content by one element, made by createElement(), and makes it the work element;
      * there is no work child then. Always true; with an empty name the document is empty.
+     *
+     * createElement() explains @p spec and @p text.
      */
     bool setRoot(const QString &spec, const QString &text = QString());
 
+    /**
+     * The outcome of the last setContent() or load(), translated where it comes from this class;
+     * empty before the first.
+     */
     QString errorMessage() const { return m_errorMessage; }
     /** From 1; -1 when there was no error. */
     int errorLine() const { return m_errorLine; }
@@ -125,6 +137,7 @@ public:
      * there before.
      */
     QDomDocument document() const { return m_document; }
+    /** The root of the tree; null for an empty document. */
     QDomElement documentElement() const { return m_document.documentElement(); }
 
     //@}
@@ -134,6 +147,10 @@ public:
     /** The work element; an element assigned to it does not move the work child. */
     QDomElement &currentElement() { return m_workElement; }
     const QDomElement &currentElement() const { return m_workElement; }
+    /**
+     * The work child; null where there is none. An element assigned to it does not move the work
+     * element.
+     */
     QDomElement &currentChild() { return m_workChild; }
     const QDomElement &currentChild() const { return m_workChild; }
     /** Moves the cursor; false for a null element. */
@@ -190,10 +207,15 @@ public:
      * begins with a full stop.
      */
     QDomElement findNext() const;
+    /** Whether find() finds anything. */
     bool exists(const QString &path) const;
-    /** Whether @p e has the name that is the first part, and the other parts hold as predicates. */
+    /**
+     * Whether @p e has the name that is the first part, and the other parts hold as predicates.
+     *
+     * @param parts the name of a step, then its predicates without "@": "id=rtf", "option".
+     */
     bool matchElement(QDomElement e, const QStringList &parts) const;
-    /** As above, for one step of a path. */
+    /** As above, for one @p step of a path, as it is written there. */
     bool matchElement(QDomElement e, const QString &step) const;
 
     //@}
@@ -216,17 +238,25 @@ public:
      *
      * @param name must not be empty, ".", ".." or hold "/", "@" or "=". Nothing else is checked: a
      *             name that XML does not allow makes a document that cannot be loaded again.
+     * @param text of the element; empty for none.
      * @return false, with nothing changed, for such a name, and where there is no work element but
      *        a document element.
      */
     bool append(const QString &name, const QString &text = QString());
     /**
-     * As append(), but after the work child, or before it; the new element becomes the work child.
+     * As append(), but after the work child, or, with @p before, before it; the new element becomes
+     * the work child.
+     *
+     * @param name as for append().
+     * @param text of the element; empty for none.
      */
     bool insert(const QString &name, const QString &text = QString(), bool before = false);
     /**
      * As append(), but before the other children. Deliberate: the work child stays where there were
      * any.
+     *
+     * @param name as for append().
+     * @param text of the element; empty for none.
      */
     bool prepend(const QString &name, const QString &text = QString());
     /**
@@ -256,6 +286,7 @@ public:
      * The cursor stays: when it was on a removed element, it is on one outside the document
      * afterwards.
      *
+     * @param all whether one is removed or all.
      * @return how many were removed.
      */
     int remove(const QString &path, bool all = false);
@@ -282,6 +313,8 @@ public:
     /**
      * append() of an element with the value's text. Deliberate: a float is written with six
      * decimals here only.
+     *
+     * @param value of one of the types of this group.
      */
     template<typename T, typename = MRVDomText::IfAppended<T>>
     bool append(const QString &name, const T &value)
@@ -292,10 +325,16 @@ public:
             return append(name, MRVDomText::appended(value));
         }
     }
+    /** The UTF-8 text @p value; null is an empty text. */
     bool append(const QString &name, const char *value);
-    /** An empty format is ISO 8601. The date-time is not converted to UTC. */
+    /** An empty @p format is ISO 8601. The date-time @p value is not converted to UTC. */
     bool append(const QString &name, const QDateTime &value, const QString &format = QString());
-    /** @param precision decimals, 0 to 99. */
+    /**
+     * As width and height, or x and y, separated by a comma.
+     *
+     * @param value    two numbers.
+     * @param precision decimals, 0 to 99.
+     */
     bool append(const QString &name, const QSizeF &value, int precision);
     bool append(const QString &name, const QPointF &value, int precision);
 
@@ -306,13 +345,20 @@ public:
      *        child is no text.
      */
     bool set(const QString &text, const QString &path = QString());
-    /** QSizeF and QPointF are written with three decimals here and by setAttr(). */
+    /**
+     * As text of one of the types of this group, the @p value in its written form. QSizeF and
+     * QPointF have three decimals here and in setAttr().
+     */
     template<typename T, typename = MRVDomText::IfWritten<T>>
     bool set(const T &value, const QString &path = QString())
     {
         return set(written(value), path);
     }
     bool set(const char *value, const QString &path = QString());
+    /**
+     * The date-time @p value in @p format, or in ISO 8601 where that is empty; it is not converted
+     * to UTC.
+     */
     bool set(const QDateTime &value, const QString &path = QString(),
              const QString &format = QString());
 
@@ -334,13 +380,16 @@ public:
     /** Split at commas, without empty parts. An empty list where there is no such element. */
     bool get(QStringList *out, const QString &path = QString()) const;
     /**
-     * An empty format is ISO 8601. Deliberate: the result is marked as UTC whatever the text says.
+     * An empty @p format is ISO 8601. Deliberate: the result is marked as UTC whatever the text
+     * says.
      */
     bool get(QDateTime *out, const QString &path = QString(),
              const QString &format = QString()) const;
     /**
      * Up to @p size bytes of the text in Latin-1, filled up with NUL. Deliberate: the last byte of
      * the buffer is the digit 0, not NUL. A size below 1 writes nothing: false.
+     *
+     * @param buffer receives the bytes; null fails.
      */
     bool get(char *buffer, int size, const QString &path = QString()) const;
 
@@ -356,15 +405,18 @@ public:
         return getNext(&text) && MRVDomText::read(text, out);
     }
     bool getNext(bool *out) const;
-    /** An empty separator does not split. */
+    /** An empty @p separator does not split. */
     bool getNext(QStringList *out, const QString &separator = QStringLiteral(",")) const;
+    /** See get() for @p format, and for @p buffer and @p size of the next one. */
     bool getNext(QDateTime *out, const QString &format = QString()) const;
     bool getNext(char *buffer, int size) const;
 
     /**
      * Sets an attribute of the element that @p path names.
      *
-     * @param create false: only where the element has the attribute.
+     * @param attrName must not be empty.
+     * @param value    of one of the types of this group.
+     * @param create   false: only where the element has the attribute.
      * @return whether it was set; deliberate: also true for @p create and an element that does not
      *         exist. False for an empty name.
      */
@@ -378,10 +430,11 @@ public:
     }
     bool setAttr(const QString &attrName, const char *value, const QString &path = QString(),
                  bool create = true);
+    /** An empty @p format is ISO 8601. */
     bool setAttr(const QString &attrName, const QDateTime &value, const QString &path = QString(),
                  bool create = true, const QString &format = QString());
 
-    /** An attribute of @p element. With a null @p out only whether it has it. */
+    /** The attribute @p attrName of @p element. With a null @p out only whether it has it. */
     bool getAttr(const QString &attrName, QString *out, const QDomElement &element) const;
     template<typename T, typename = MRVDomText::IfRead<T>>
     bool getAttr(const QString &attrName, T *out, const QDomElement &element) const
@@ -394,9 +447,13 @@ public:
      * here.
      */
     bool getAttr(const QString &attrName, bool *out, const QDomElement &element) const;
-    /** An empty list where there is no such attribute. */
+    /**
+     * Split at each @p separator, where that is not empty; an empty list where there is no such
+     * attribute.
+     */
     bool getAttr(const QString &attrName, QStringList *out, const QDomElement &element,
                  const QString &separator = QStringLiteral(",")) const;
+    /** See get() for @p format, and for @p buffer and @p size of the next one. */
     bool getAttr(const QString &attrName, QDateTime *out, const QDomElement &element,
                  const QString &format = QString()) const;
     bool getAttr(const QString &attrName, char *buffer, int size, const QDomElement &element) const;

@@ -63,11 +63,14 @@ public:
     static QString written(double value);
     static QString written(const QSize &value);
     static QString written(const QPoint &value);
-    /** @param precision decimals, held between 0 and 99. */
+    /**
+     * @param value     two numbers, which a comma separates in the text.
+     * @param precision decimals, held between 0 and 99.
+     */
     static QString written(const QSizeF &value, int precision = Precision);
     static QString written(const QPointF &value, int precision = Precision);
     static QString written(const QStringList &value);
-    /** An empty format is ISO 8601. */
+    /** The date-time @p value in @p format; in ISO 8601 where that is empty. */
     static QString written(const QDateTime &value, const QString &format);
 
     /** What appended elements hold: the same, but for float. */
@@ -78,7 +81,7 @@ public:
     }
     static QString appended(float value);
 
-    /** A short cut off to a char. */
+    /** A short cut off to a char, from the @p text. */
     static bool read(const QString &text, char *out);
     /** An unsigned short cut off to a char. */
     static bool read(const QString &text, unsigned char *out);
@@ -96,13 +99,16 @@ public:
     static bool read(const QString &text, QPoint *out);
     static bool read(const QString &text, QSizeF *out);
     static bool read(const QString &text, QPointF *out);
-    /** Without empty items. An empty separator does not split. Always true. */
+    /**
+     * Split at each @p separator, without empty items. An empty separator does not split. Always
+     * true.
+     */
     static bool read(const QString &text, const QString &separator, QStringList *out);
-    /** An empty format is ISO 8601. The result is marked as UTC. */
+    /** An empty @p format is ISO 8601. The result is marked as UTC. */
     static bool read(const QString &text, const QString &format, QDateTime *out);
     /**
-     * Fills the buffer with Latin-1 and NUL, and puts the digit 0 in its last byte; false for a
-     * size below 1.
+     * Fills the @p buffer of @p size bytes with Latin-1 and NUL, and puts the digit 0 in its last
+     * byte; false for a size below 1.
      */
     static bool read(const QString &text, char *buffer, int size);
 };

@@ -16,6 +16,12 @@ class MRVBASE_EXPORT MRVDownloadSilentInput : public QObject, public MRVDownload
     Q_OBJECT
 
 public:
+    /**
+     * @param ignoreSsl whether SSL errors are passed over.
+     * @param followRedirects whether all redirects are followed, from https to http only with
+     *                        @p ignoreSsl.
+     * @param user and @p password: given to every server that asks for them.
+     */
     MRVDownloadSilentInput(bool ignoreSsl, bool followRedirects, const QString &user,
                            const QString &password, QObject *parent = nullptr);
 

@@ -49,6 +49,7 @@ public:
     /** Default of setMaximumSize(), and the most that it takes: 1 GiB. */
     static constexpr qint64 LargestSize = qint64(1) << 30;
 
+    /** An idle downloader with an access manager of its own. */
     explicit MRVDownloadUrl(QObject *parent = nullptr);
     ~MRVDownloadUrl() override;
 
@@ -80,6 +81,7 @@ public:
      * The time that the answers to questions take does not count. Holds from the next byte on.
      */
     void setTransferTimeout(int milliseconds);
+    /** The number set by setTransferTimeout(), in milliseconds. */
     int transferTimeout() const { return m_transferTimeout; }
 
     /** The largest body to accept, in bytes; kept within 0 and LargestSize. */
@@ -102,11 +104,12 @@ public:
     static QString charset(const QString &contentType);
 
     /**
-     * Encodes text anew. @p data is returned unchanged where a name is empty or unknown, or both
-     * name one encoding. Blanks and quotes around a name do not matter.
+     * Encodes text anew, from the encoding @p fromCharset to @p toCharset. @p data is returned
+     * unchanged where a name is empty or unknown, or both name one encoding. Blanks and quotes
+     * around a name do not matter.
      *
-     * The encoding is the one named, whatever the first bytes look like. What is no text in it
-     * becomes U+FFFD. Needs little more memory than the bytes and the result.
+     * The source encoding is the one named, whatever the first bytes look like. What is no text in
+     * it becomes U+FFFD. Needs little more memory than the bytes and the result.
      */
     static QByteArray convert(const QByteArray &data, const QString &fromCharset,
                               const QString &toCharset);
@@ -128,6 +131,8 @@ public Q_SLOTS:
      * Starts a request of a file. It appears, or is replaced, when it is whole; before that nothing
      * of it is on the disk.
      *
+     * @param fileName an existing file is replaced; a relative path is taken from the current
+     *                 folder, not the download folder.
      * @return false, without any signal, for an empty name (a running request goes on) or a URL
      *         that is not valid.
      */
@@ -137,7 +142,12 @@ public Q_SLOTS:
     void cancelDownload();
 
 Q_SIGNALS:
-    /** @param totalBytes -1 where the server does not say. */
+    /**
+     * While a body comes in.
+     *
+     * @param bytesRead bytes of the body so far.
+     * @param totalBytes -1 where the server does not say.
+     */
     void downloadProgress(qint64 bytesRead, qint64 totalBytes);
     /** @param error a translated text for the user. */
     void downloadError(QString error);

@@ -5,10 +5,12 @@
 
 #include <QUrl>
 
-/*
+/**
  * What may happen to a download that nobody watches: a few redirects are followed, over http and
  * https, and never from https down to http. Nobody is asked for a password, and no fault in an
  * encrypted connection is passed over.
+ *
+ * @since 1.0
  */
 class MRVBASE_EXPORT MRVRedirectPolicy : public MRVDownloadUserInputAbstract
 {

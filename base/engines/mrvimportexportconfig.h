@@ -56,6 +56,7 @@ public:
 
     /** Where the user's options say that the Kindle converter is; need not exist. */
     static QString kindleGenFilePath();
+    /** Whether kindleGenFilePath() names an existing file. */
     static bool kindleGenExists();
 
     /**
@@ -64,10 +65,15 @@ public:
      */
     static QList<MRVImportExport::Engine> supportedExportEngines(MRVFormat::Format from,
                                                                  MRVFormat::Format to);
-    /** The same for a conversion into RTF. */
+    /**
+     * The same for a conversion of @p from into @p to, where only one into RTF has others than
+     * QtEngine.
+     */
     static QList<MRVImportExport::Engine> supportedImportEngines(MRVFormat::Format from,
                                                                  MRVFormat::Format to);
+    /** supportedExportEngines() from RTF. */
     static QList<MRVImportExport::Engine> supportedExportEnginesFromRtf(MRVFormat::Format to);
+    /** supportedImportEngines() into RTF. */
     static QList<MRVImportExport::Engine> supportedImportEnginesToRtf(MRVFormat::Format from);
 
     /** The best engine for each of importFormats(). */
@@ -94,9 +100,15 @@ public:
     MRVImportExport::Engine exportEngine(MRVFormat::Format to) const;
     /** The engine that turns @p from into RTF; QtEngine for a format without an entry. */
     MRVImportExport::Engine importEngine(MRVFormat::Format from) const;
-    /** exportEngine() from RTF, importEngine() to RTF; QtEngine where neither side is RTF. */
+    /**
+     * exportEngine() of @p to where @p from is RTF, importEngine() of @p from where @p to is RTF;
+     * QtEngine where neither is.
+     */
     MRVImportExport::Engine findEngine(MRVFormat::Format from, MRVFormat::Format to) const;
-    /** The answer of findEngine() with its reason, the other engines, and whether it is of use. */
+    /**
+     * The answer of findEngine() for @p from and @p to with its reason, the other engines, and
+     * whether it is of use.
+     */
     MRVEngineChoice explain(MRVFormat::Format from, MRVFormat::Format to) const;
 
     /**
@@ -108,14 +120,15 @@ public:
      *        later.
      */
     bool setImportFormatEngines(const FormatEngines &engines);
+    /** As setImportFormatEngines(), for exports. */
     bool setExportFormatEngines(const FormatEngines &engines);
 
     /**
-     * Stores one choice, and with it the others of its direction as they are stored, or the
-     * defaults where none are.
+     * Stores one choice for the conversion of @p from into @p to, and with it the others of its
+     * direction as they are stored, or the defaults where none are.
      *
      * @return false, with nothing changed, where neither side is RTF, there is no such conversion,
-     * or the engine cannot do it here; or where it could not be stored.
+     *         or the engine cannot do it here; or where it could not be stored.
      */
     bool setEngine(MRVFormat::Format from, MRVFormat::Format to, MRVImportExport::Engine engine);
     /** Removes all stored choices, so that the defaults hold from now on. */

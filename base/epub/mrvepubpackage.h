@@ -31,6 +31,13 @@ class MRVBASE_EXPORT MRVEPubPackage
     Q_DECLARE_TR_FUNCTIONS(MRVEPubPackage)
 
 public:
+    /**
+     * An empty book.
+     *
+     * @param version  of the EPUB format, which decides what the package holds.
+     * @param metadata read when the book is made into bytes; without a date, the current time
+     *                 counts, so the bytes differ from one call to the next.
+     */
     explicit MRVEPubPackage(MRVEPubVersion version = MRVEPubVersion::EPub3,
                             const MRVEPubMetadata &metadata = MRVEPubMetadata());
     ~MRVEPubPackage();
@@ -49,12 +56,18 @@ public:
                      QString *error = nullptr);
 
     /**
-     * The bytes of the e-book file. Without any document the book has its cover page alone. Empty
-     * on failure.
+     * The bytes of the e-book file. Without any document the book has its cover page alone.
+     *
+     * @param error if given, receives a text on failure; untouched on success.
+     * @return empty on failure.
      */
     QByteArray toByteArray(QString *error = nullptr) const;
 
-    /** Writes toByteArray() to a file, replacing it; on failure an old file stands. */
+    /**
+     * Writes toByteArray() to the file @p path, replacing it; on failure an old file stands.
+     *
+     * @param error if given, receives a text on failure; untouched on success.
+     */
     bool write(const QString &path, QString *error = nullptr) const;
 
 private:

@@ -25,15 +25,25 @@ class MRVBASE_EXPORT MRVFernwickDropItem
 public:
     /** An empty label and an invalid payload. */
     MRVFernwickDropItem() = default;
+    /**
+     * @name A label and a payload
+     *
+     * Whichever of a text and an image is given becomes the payload, a null one too. Neither the
+     * label nor the text is changed: @p label and @p text may be empty.
+     */
+    //@{
     MRVFernwickDropItem(const QString &label, const QString &text);
     MRVFernwickDropItem(const QString &label, const QImage &image);
+    //@}
     /** With an empty label. */
     explicit MRVFernwickDropItem(const QList<QVariant> &list);
 
+    /** What the note is called; may be empty. */
     const QString &label() const { return m_label; }
     /** A QString, a QImage or a QVariantList; of items that were read or converted, any value. */
     const QVariant &payload() const { return m_payload; }
 
+    /** A variant of the meta type "MRVFernwickDropItem" that holds a copy of the item. */
     QVariant toVariant() const;
     /**
      * The item that @p variant holds. Any other value becomes the payload of an item without a

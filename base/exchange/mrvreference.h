@@ -28,7 +28,9 @@ public:
     /** The id of a project item; -1 for none. Set it through setInternalLink(). */
     qint32 internalLink = -1;
 
+    /** Sets the web address and ends an internal link. */
     void setUrl(const QUrl &address);
+    /** Sets the id of a project item and clears the web address. A negative @p id ends the link. */
     void setInternalLink(int id);
 
     /** qint32 count, then the entries as operator<<() writes them, in MCoreType::StreamVersion. */

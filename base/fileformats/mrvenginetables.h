@@ -60,8 +60,8 @@ MRVBASE_EXPORT QByteArray toByteArray(const FormatEngines &engines);
 MRVBASE_EXPORT FormatEngines toFormatEngines(const QByteArray &bytes);
 
 /**
- * The engines to be used for what is stored: the defaults where nothing is, and the best engine in
- * place of one whose application is missing.
+ * The engines to be used for the @p stored ones: the defaults where nothing is stored, and the best
+ * engine in place of one whose application is missing.
  */
 MRVBASE_EXPORT FormatEngines usableEngines(Direction direction, const FormatEngines &stored,
                                            const Applications &applications);

@@ -7,27 +7,44 @@
 
 class QXmlStreamReader;
 
-/** A line of a document, from 1, and what is the matter there, translated. */
+/**
+ * One line for an error message: @p line, from 1, and what is wrong there, the translated @p text.
+ */
 MRVBASE_EXPORT QString mrvXmlLineText(qint64 line, const QString &text);
 
 /**
- * The text of an XML document, in the encoding that its byte-order mark or its declaration names,
- * else UTF-8; false, with the line and the reason, where the bytes are not of that.
+ * Decodes an XML document, by the encoding that its byte-order mark or its declaration names, else
+ * as UTF-8.
+ *
+ * @param xml   the document's bytes.
+ * @param text  receives the text; not null.
+ * @param error receives the line and the reason on failure; may be null.
+ * @return false where the bytes are not valid in that encoding.
  */
 MRVBASE_EXPORT bool mrvDecodeXml(const QByteArray &xml, QString *text, QString *error);
 
 /**
- * Whether Qt's parser can be trusted with a text, which takes time quadratic in the attributes of a
- * tag and carries out document types; false, with the line and the reason, where not. What is no
- * XML may pass, as the parser stops there.
+ * Whether Qt's parser can be trusted with the text @p xml: it takes time quadratic in the
+ * attributes of a tag, and carries out document types. What is not XML may pass, as the parser
+ * stops there.
+ *
+ * @param xml   the decoded text of the document.
+ * @param error if given, receives the line and the reason where the answer is false.
  */
 MRVBASE_EXPORT bool mrvXmlKeepsLimits(const QString &xml, QString *error);
 
 /**
- * The text of any XML document with few attributes a tag and without declarations, likewise; @p
- * error may be null. Where its document type names another file, that name is blank.
+ * As mrvDecodeXml(), for a document with few attributes a tag and without declarations: any other
+ * is refused. Where its document type names another file, that name is blank in the text.
+ *
+ * @param xml   the document's bytes.
+ * @param text  receives the text; not null.
+ * @param error if given, receives the line and the reason on failure.
  */
 MRVBASE_EXPORT bool mrvXmlText(const QByteArray &xml, QString *text, QString *error);
 
-/** Whether all of a document was read; else @p error, if given, receives a line with its number. */
+/**
+ * Whether the reader @p xml has read its whole document without an error; else @p error, if given,
+ * receives a line with its number.
+ */
 MRVBASE_EXPORT bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error);

@@ -365,6 +365,7 @@ public:
 
     /** "Morvane": the names under which the user's settings are kept. Not translated. */
     static QString companyName();
+    /** "Morvane", too; the settings of the user are in "Morvane/Morvane.conf". */
     static QString applicationName();
 
     bool defaultValue(FlagSetting setting) const override;
@@ -404,12 +405,21 @@ public:
     /** The inverse of toString(); exact. Unknown text is SpaceDoubleClickCreatesCard. */
     static SpaceDoubleClickMode toSpaceDoubleClickMode(const QString &text);
 
+    /**
+     * @name Stored words
+     *
+     * Settings that are kept as the word of toString(). What a file holds beyond the enumeration
+     * reads as the default; setting a number outside the enumeration stores the word of the
+     * default. A setter returns whether the store took the value.
+     */
+    //@{
     CorkCornerStyle cornerStyle() const;
     bool setCornerStyle(CorkCornerStyle style);
     CorkLabelIndicator labelIndicator() const;
     bool setLabelIndicator(CorkLabelIndicator indicator);
     SpaceDoubleClickMode spaceDoubleClickMode() const;
     bool setSpaceDoubleClickMode(SpaceDoubleClickMode mode);
+    //@}
 
     /**
      * What stands between texts that are joined in @p context. Stored under "Separators/" and the
@@ -433,6 +443,7 @@ public:
      * nothing is stored, or a text that has no two halves.
      */
     QPair<QString, QString> singleQuotes() const;
+    /** The same for double quotes. */
     QPair<QString, QString> doubleQuotes() const;
 
     /**
@@ -441,6 +452,10 @@ public:
      * time; the empty name is "PdfSettings" itself.
      */
     QByteArray pdfSettings(const QString &name) const;
+    /**
+     * Stores the settings of PDF files under a @p name, which may be empty; empty @p settings are
+     * stored as such. False where the store did not take them.
+     */
     bool setPdfSettings(const QString &name, const QByteArray &settings);
     /** The names that settings are stored for, sorted; without the empty one. */
     QStringList pdfSettingsNames() const;
@@ -525,11 +540,11 @@ public:
     /** "flag", "int", ..., as the tool shows it. Not translated. */
     static QString typeName(SettingType type);
     /**
-     * A value of explain() as text that setFromText() takes back: "true" and "false"; numbers with
-     * a point; colours as "#rrggbb", or "#aarrggbb" where they are translucent; dates as ISO 8601;
-     * fonts as QFont::toString(); the items of lists one a line, of whole numbers parted by blanks;
-     * byte arrays as they are where they are text, else "base64:" and their Base64 form, which is
-     * also that of text formats.
+     * A @p value of explain() as text that setFromText() takes back: "true" and "false"; numbers
+     * with a decimal point; colours as "#rrggbb", or "#aarrggbb" where they are translucent; dates
+     * as ISO 8601; fonts as QFont::toString(); the items of lists one a line, or of lists of whole
+     * numbers separated by blanks; byte arrays as they are where they are text, else "base64:" and
+     * their Base64 form, which is also that of text formats.
      */
     static QString toText(SettingType type, const QVariant &value);
     /**

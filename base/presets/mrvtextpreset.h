@@ -35,6 +35,12 @@ public:
     MRVTextPreset(const QTextCharFormat &charFormat, const QTextBlockFormat &blockFormat,
                   ApplyFlags applyFlags);
 
+    /**
+     * @name Parts
+     *
+     * The formats are kept whatever the flags are: these only say which of them are applied.
+     */
+    //@{
     QTextCharFormat charFormat() const { return m_charFormat; }
     QTextBlockFormat blockFormat() const { return m_blockFormat; }
     ApplyFlags applyFlags() const { return m_applyFlags; }
@@ -42,6 +48,7 @@ public:
     void setCharFormat(const QTextCharFormat &format) { m_charFormat = format; }
     void setBlockFormat(const QTextBlockFormat &format) { m_blockFormat = format; }
     void setApplyFlags(ApplyFlags flags) { m_applyFlags = flags; }
+    //@}
 
     /** Presets are equal when they are stored alike. */
     MRVBASE_EXPORT friend bool operator==(const MRVTextPreset &a, const MRVTextPreset &b);

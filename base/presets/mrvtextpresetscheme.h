@@ -20,17 +20,25 @@ class MRVBASE_EXPORT MRVTextPresetScheme
     Q_DECLARE_TR_FUNCTIONS(MRVTextPresetScheme)
 
 public:
-    /** Adds a preset, or puts it in the place of the one of that name. Any name will do. */
+    /** Adds a preset, or puts it in the place of the one called @p name, which may be any text. */
     void setPreset(const QString &name, const MRVTextPreset &preset);
     /** @return false where there is no preset of that name. */
     bool deletePreset(const QString &name);
 
+    /** Whether there is a preset of exactly that name. */
     bool contains(const QString &name) const { return m_presets.contains(name); }
     /** The preset of that name, or one that does nothing. */
     MRVTextPreset preset(const QString &name) const { return m_presets.value(name); }
+    /**
+     * @name All presets
+     *
+     * Names are in the order of the scheme.
+     */
+    //@{
     QStringList names() const { return m_presets.keys(); }
     int count() const { return m_presets.size(); }
     bool isEmpty() const { return m_presets.isEmpty(); }
+    //@}
 
     /** The stored form, as the stream operator below writes it. */
     static QByteArray toByteArray(const MRVTextPresetScheme &scheme);

@@ -47,6 +47,7 @@ public:
      * @param leftOut if given, receives on success the tags of the other sections that hold text,
      * such as "HeaderAndFooter" or "ListItems", in the document's order: that text is not in the
      * script.
+     * @param xml the document's bytes, in the encoding that they name.
      * @return false, with @p script untouched, where it is not well-formed, has another root
      * element than "FinalDraft", elements within elements beyond 256 levels, or a tag with more
      * than 64 attributes, or where its document type declares entities or attributes.

@@ -72,7 +72,12 @@ struct MRVBASE_EXPORT MRVFountainElement
     bool apart = false; ///< of Lyrics right behind a speech: no part of it
     int level = 1; ///< of a Section: 1 is the outermost, 255 the innermost
 
+    /** An empty paragraph of action. */
     MRVFountainElement() = default;
+    /**
+     * An element of the kind @p elementKind with one piece of @p text, without emphasis, which
+     * stands for itself: what looks like a mark in it is written with a backslash.
+     */
     MRVFountainElement(Kind elementKind, const QString &text)
         : kind(elementKind)
         , runs{{text, {}, MRVFountainRun::Text}}
@@ -101,6 +106,7 @@ struct MRVBASE_EXPORT MRVFountainTitle
     QString key; ///< such as "Title" or "Draft date"
     MRVFountainRuns value;
 
+    /** The value without notes, emphasis and boneyards; lines of a value stay apart. */
     QString text() const;
 
     bool operator==(const MRVFountainTitle &other) const

@@ -41,6 +41,7 @@ public:
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @param language if given, receives the page's language on success; empty for none.
+     * @param html the page's bytes.
      * @return false, with @p script untouched, where the page is not well-formed, has no paragraph
      * of a script, has elements within elements beyond 256 levels, or a tag with more than 64
      * attributes, or where its document type declares entities or attributes.

@@ -20,6 +20,7 @@
  */
 struct MRVBASE_EXPORT MRVScriptStatistics
 {
+    /** What one character says in the whole script. */
     struct Character
     {
         QString name; ///< in capitals
@@ -35,6 +36,7 @@ struct MRVBASE_EXPORT MRVScriptStatistics
     int eighths = 0; ///< pages in eighths, as breakdowns count them, rounded up
     QVector<Character> characters; ///< by words, then by name
 
+    /** The printed length in Letter pages; the last one counts in eighths. */
     double pages() const { return eighths / 8.0; }
     /** Playing time at a page a minute, rounded up. */
     int minutes() const { return (eighths + 7) / 8; }

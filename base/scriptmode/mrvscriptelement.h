@@ -40,8 +40,11 @@ Q_DECLARE_TYPEINFO(MRVCompletion, Q_MOVABLE_TYPE);
 class MRVBASE_EXPORT MRVCompletionList
 {
 public:
+    /** Adds a completion at the end; one that is there already is there twice. */
     void append(const MRVCompletion &completion);
+    /** In the order of append(). */
     const QList<MRVCompletion> &completions() const { return m_completions; }
+    /** Whether nothing can be offered. */
     bool isEmpty() const { return m_completions.isEmpty(); }
 
     /** The length of the longest text, in QChars; 0 for an empty list. */
@@ -122,6 +125,7 @@ public:
         CompleteInsertsTab = 2,
     };
 
+    /** What other elements and the user call it; not translated. */
     const QString &title() const { return m_title; }
     void setTitle(const QString &title) { m_title = title; }
 
@@ -129,8 +133,16 @@ public:
     const QString &shortcut() const { return m_shortcut; }
     void setShortcut(const QString &shortcut) { m_shortcut = shortcut; }
 
+    /**
+     * @name Character format
+     *
+     * What text typed into a paragraph of this element looks like. Properties that are not set are
+     * those of the document.
+     */
+    //@{
     const QTextCharFormat &charFormat() const { return m_charFormat; }
     void setCharFormat(const QTextCharFormat &format) { m_charFormat = format; }
+    //@}
 
     /**
      * Lengths are in points. Indents are MRVTextFormat::BlockLeftIndent and BlockRightIndent,
@@ -140,10 +152,18 @@ public:
     const QTextBlockFormat &blockFormat() const { return m_blockFormat; }
     void setBlockFormat(const QTextBlockFormat &format) { m_blockFormat = format; }
 
+    /**
+     * @name Flags
+     *
+     * Combinations that contradict each other are kept as they are; @p on says whether a single
+     * one is set or cleared.
+     */
+    //@{
     Flags flags() const { return m_flags; }
     bool hasFlag(Flag flag) const { return m_flags.testFlag(flag); }
     void setFlags(Flags flags) { m_flags = flags; }
     void setFlag(Flag flag, bool on = true) { m_flags.setFlag(flag, on); }
+    //@}
 
     /** What ends the part of a paragraph that AllCaps is about; empty where that is all of it. */
     const QString &styleDelimiter() const { return m_styleDelimiter; }
@@ -151,15 +171,28 @@ public:
 
     /** The title of the element that @p action goes to; empty where it stays in this one. */
     QString actionElement(Action action) const { return m_actionElements.value(action); }
+    /**
+     * Sets the @p title of the element that the @p action goes to; it need not be that of any
+     * element yet. Empty for staying in this one.
+     */
     void setActionElement(Action action, const QString &title);
     /** The text that @p action inserts. Mode files hold that of TabAfterTypingAction only. */
     QString actionText(Action action) const { return m_actionTexts.value(action); }
+    /** Sets the @p text that the @p action inserts; empty for none. */
     void setActionText(Action action, const QString &text);
 
+    /**
+     * @name Behaviour
+     *
+     * What Tab does after text, and what follows an accepted completion. A number outside the
+     * enumeration is kept, and written as the default to a file.
+     */
+    //@{
     TabBehavior tabBehavior() const { return m_tabBehavior; }
     void setTabBehavior(TabBehavior behavior) { m_tabBehavior = behavior; }
     CompleteBehavior completeBehavior() const { return m_completeBehavior; }
     void setCompleteBehavior(CompleteBehavior behavior) { m_completeBehavior = behavior; }
+    //@}
 
     /**
      * What a phrase that AddToProjectList collects stands behind, and in front of; an empty one is
@@ -167,9 +200,11 @@ public:
      */
     const QString &phraseStartDelimiter() const { return m_phraseStartDelimiter; }
     void setPhraseStartDelimiter(const QString &delimiter) { m_phraseStartDelimiter = delimiter; }
+    /** As phraseStartDelimiter(), for what stands after the phrase. */
     const QString &phraseEndDelimiter() const { return m_phraseEndDelimiter; }
     void setPhraseEndDelimiter(const QString &delimiter) { m_phraseEndDelimiter = delimiter; }
 
+    /** The element's own completions, beside those that the project collects. */
     const MRVCompletionList &completions() const { return m_completions; }
     void setCompletions(const MRVCompletionList &completions) { m_completions = completions; }
 
@@ -177,9 +212,9 @@ public:
     bool match(const QTextBlock &block) const;
 
     /**
-     * Whether two paragraph formats belong to the same element: they look the same, where all ways
-     * of centring look the same, as do all ways to write one line spacing. Page breaks do not
-     * count. Tab stops must be the same in number and order.
+     * Whether the paragraph formats @p a and @p b belong to the same element: they look the same,
+     * where all ways of centring look the same, as do all ways to write one line spacing. Page
+     * breaks do not count. Tab stops must be the same in number and order.
      */
     static bool equal(const QTextBlockFormat &a, const QTextBlockFormat &b);
 
@@ -187,15 +222,23 @@ public:
      * Turns the text of a paragraph into upper case, up to the first styleDelimiter() where it has
      * one. Does nothing without the flag AllCaps.
      *
-     * Each run keeps its format, also where upper case has more characters. One undo step; none
-     * where nothing changes.
+     * Each fragment keeps its format, also where upper case has more characters. One undo step;
+     * none where nothing changes.
      */
     void recapitalizeBlock(const QTextBlock &block) const;
 
     /** See MRVCompletionList. */
     MRVCompletionList filteredCompletions(const QString &prefix) const;
+    /** MRVCompletionList::newLineAfter() of completions(). */
     bool newLineAfter(const QString &text) const;
 
+    /**
+     * @name Variants
+     *
+     * Each of these registers both meta types, MRVScriptElement and QList<MRVScriptElement>. A
+     * variant that holds something else gives a default element or an empty list.
+     */
+    //@{
     /**
      * Each of these registers both meta types, MRVScriptElement and QList<MRVScriptElement>.
      * What holds something else gives a default element or an empty list.
@@ -204,6 +247,7 @@ public:
     static QVariant toVariant(const QList<MRVScriptElement> &elements);
     static MRVScriptElement toScriptElement(const QVariant &variant);
     static QList<MRVScriptElement> toScriptElementList(const QVariant &variant);
+    //@}
 
     /** Whether all is equal; formats are when they look the same. */
     bool operator==(const MRVScriptElement &other) const;

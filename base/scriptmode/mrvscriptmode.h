@@ -39,6 +39,7 @@ public:
     /** Named "Screenplay", in inches, without elements. */
     MRVScriptMode();
 
+    /** By which lists of modes name it; also part of the file. */
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
 
@@ -47,6 +48,7 @@ public:
     /** Any other unit becomes MRVUnit::Point. The elements, whose lengths are in points, stay. */
     void setUnits(MRVUnit::Unit units);
 
+    /** In the order in which menus show them. */
     const QList<MRVScriptElement> &elements() const { return m_elements; }
     void setElements(const QList<MRVScriptElement> &elements) { m_elements = elements; }
 
@@ -58,15 +60,15 @@ public:
     int indexOf(const QTextBlock &block) const;
 
     /**
-     * Reads a file. What the file does not say has its default: that of the constructor here, that
-     * of a default MRVScriptElement there.
+     * Reads the file @p path. What the file does not say has its default: that of the constructor
+     * here, that of a default MRVScriptElement there.
      *
-     * Refused are what is no XML document, another root element or one of a namespace, document
+     * Refused are what is not an XML document, another root element or one of a namespace, document
      * type declarations, elements within elements beyond 32 levels, tags of more than 64 attributes
      * or 16,384 characters, and what exceeds MaxElements or MaxFileSize. All else is read: unknown
-     * elements and attributes are passed over, unknown words and numbers that are none leave the
-     * default, lengths beyond 100,000 points, font sizes beyond 10,000 and parts of colours beyond
-     * 0 to 1 are cut to that, and each of these is a remark.
+     * elements and attributes are passed over, unknown words and texts that are not numbers leave
+     * the default, lengths beyond 100,000 points, font sizes beyond 10,000 and parts of colours
+     * beyond 0 to 1 are cut to that, and each of these is a remark.
      *
      * Families of fonts that other systems name are read as what stands for them here: "Courier" as
      * "Courier New", "Times" as "Times New Roman", "MS Shell Dlg" as "Arial", and of these and
@@ -77,7 +79,11 @@ public:
      * @return false, with this mode as it was, on failure.
      */
     bool load(const QString &path, QString *error = nullptr, QStringList *remarks = nullptr);
-    /** The same for the contents of a file. The error begins with the line. */
+    /**
+     * The same for the contents of a file, the bytes @p xml. The error begins with the line.
+     *
+     * @param remarks as for load().
+     */
     bool fromXml(const QByteArray &xml, QString *error = nullptr, QStringList *remarks = nullptr);
 
     /**
@@ -94,6 +100,8 @@ public:
      *
      * A mode that load() would refuse for its size, or for a family's name that is too long, is not
      * written.
+     *
+     * @param path of the file, which is replaced as a whole or, on failure, left as it was.
      */
     bool save(const QString &path, QString *error = nullptr) const;
     /** What save() writes. Equal modes give equal bytes. */

@@ -116,6 +116,7 @@ public:
      *               match may start. Nothing is found where it is negative or greater than the
      *               length of the text. The end of the text is a valid place.
      * @param result receives the match; untouched where there is none.
+     * @param expression an empty or invalid one finds nothing.
      * @return whether there is a match.
      */
     static bool findInBlock(const QTextBlock &block, const QRegExp &expression, int offset,
@@ -131,7 +132,8 @@ public:
      * lie within the part as a whole. Word rules and expressions see the whole paragraphs, also
      * around the part. FindBackward has no meaning here.
      *
-     * @param within the part; what of it lies outside the document is ignored.
+     * The part is @p within; what of it lies outside the document is ignored. An empty @p text or
+     * @p expression finds nothing.
      */
     static QVector<MRVTextRange> findAll(const QTextDocument *document, const QString &text,
                                          FindFlags flags = FindFlags());
@@ -148,7 +150,7 @@ public:
                                          const QRegularExpression &expression, FindFlags flags,
                                          const MRVTextRange &within);
 
-    // Runs of a kind
+    // Runs: fragments in a row that are of a kind
 
     /**
      * Whether @p format is of the kind @p type with @p value (see FindType). A mark must be true, a
@@ -166,23 +168,33 @@ public:
      * A run is as many fragments in a row as match. It goes on over paragraph ends, and over empty
      * paragraphs between two fragments that match. A run of which a part lies in the selection, or
      * in whose midst the cursor is, does not count as beyond.
+     *
+     * @param value    see FindType.
+     * @param backward searches before the selection instead of after it.
      */
     static QTextCursor find(const QTextCursor &from, FindType type, const QVariant &value,
                             bool backward = false);
     /**
-     * The nearest run beyond the selection of @p from that holds @p text somewhere within one of
-     * its paragraphs, without regard to case, a no-break space counting as a blank. The run is
-     * selected, not the text. An empty @p text is held by every run.
+     * The nearest run beyond the selection of @p from, after it or, where @p backward says so,
+     * before it, that holds @p text somewhere within one of its paragraphs, without regard to case,
+     * a no-break space counting as a blank. The run is selected, not the text. An empty @p text is
+     * held by every run.
+     *
+     * @param value see FindType.
      */
     static QTextCursor findText(const QTextCursor &from, FindType type, const QString &text,
                                 const QVariant &value, bool backward);
-    /** findText() forward. */
+    /** findText() forward, with the same @p from, @p text and @p value. */
     static QTextCursor findNext(const QTextCursor &from, FindType type, const QString &text,
                                 const QVariant &value);
-    /** findText() backward. */
+    /** findText() backward, with the same @p from, @p text and @p value. */
     static QTextCursor findPrevious(const QTextCursor &from, FindType type, const QString &text,
                                     const QVariant &value);
-    /** All runs of a document, as find() gives them one after the other. */
+    /**
+     * All runs of a document, as find() gives them one after the other.
+     *
+     * @param value see FindType.
+     */
     static QVector<MRVTextRange> findAllRuns(const QTextDocument *document, FindType type,
                                              const QVariant &value);
 
@@ -206,7 +218,10 @@ public:
      */
     static QTextCursor findFragment(const QTextCharFormat &format, const QTextCursor &from,
                                     bool compareValues);
-    /** findFragment() for a format of one property. */
+    /**
+     * findFragment() from @p from on for a format of the one @p property with the @p value, which
+     * is not looked at unless values are compared.
+     */
     static QTextCursor findFragmentByProperty(int property, const QVariant &value,
                                               const QTextCursor &from, bool compareValues);
     /** All that findFragment() finds from the start of a document on, one after the other. */
@@ -228,6 +243,8 @@ public:
      * over neighbours as findContinuousFragment() does, but only as long as marks and data of the
      * comment (InspectorCommentProperty, InspectorFootnoteProperty, CommentData0 to CommentData2)
      * are the same too, present or not. Two comments side by side are thus two finds.
+     *
+     * @param from see findFragment().
      */
     static QTextCursor findContinuousInspectorFragment(const QTextCharFormat &format,
                                                        const QTextCursor &from, bool compareValues);
@@ -237,7 +254,7 @@ public:
      */
     static int continuousFragmentCount(const QTextCharFormat &format, const QTextCursor &from,
                                        bool compareValues);
-    /** The first fragment within a selection that carries @p format; only its part within. */
+    /** The first fragment within the @p selection that carries @p format; only its part within. */
     static QTextCursor findFragmentInSelection(const QTextCharFormat &format,
                                                const QTextCursor &selection, bool compareValues);
     /**
@@ -260,9 +277,9 @@ public:
     static QTextCursor findFragmentAtPositionGeneral(const QTextCharFormat &format,
                                                      const QTextCursor &cursor, bool compareValues);
     /**
-     * The fragments of a selection that carry @p format with equal values; of those at its ends the
-     * parts within. Neighbours are not joined, so that each range has one format. Empty without a
-     * selection.
+     * The fragments of a @p selection that carry @p format with equal values; of those at its ends
+     * the parts within. Neighbours are not joined, so that each range has one format. Empty without
+     * a selection.
      */
     static QList<MRVTextRange> findFragmentsByFormat(const QTextCursor &selection,
                                                      const QTextCharFormat &format);
@@ -272,7 +289,7 @@ public:
      * for each of its formats: with a bold word inside, three times.
      */
     static int formatCount(const QTextDocument *document, int property, const QVariant &value);
-    /** How many characters those fragments hold. */
+    /** How many characters the fragments that set @p property to @p value hold. */
     static int formatLengthCount(const QTextDocument *document, int property,
                                  const QVariant &value);
 
@@ -284,6 +301,7 @@ public:
      */
     static bool startsWithFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                                  bool compareValues);
+    /** startsWithFormat() for a format of the one @p property with the @p value. */
     static bool startsWithFormatProperty(const QTextCursor &cursor, int property,
                                          const QVariant &value, bool compareValues);
     /**
@@ -293,6 +311,7 @@ public:
      */
     static bool isInFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                            bool compareValues);
+    /** isInFormat() for a format of the one @p property with the @p value. */
     static bool isInFormatProperty(const QTextCursor &cursor, int property, const QVariant &value,
                                    bool compareValues);
     /**
@@ -302,6 +321,7 @@ public:
      */
     static bool isFormatChecked(const QTextCursor &cursor, const QTextCharFormat &format,
                                 bool compareValues);
+    /** isFormatChecked() for a format of the one @p property with the @p value. */
     static bool isFormatCheckedProperty(const QTextCursor &cursor, int property,
                                         const QVariant &value, bool compareValues);
     /**
@@ -310,14 +330,19 @@ public:
      */
     static bool hasFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                           bool compareValues);
+    /** hasFormat() for a format of the one @p property with the @p value. */
     static bool hasFormatProperty(const QTextCursor &cursor, int property, const QVariant &value,
                                   bool compareValues);
 
-    // Links. Comments carry an address too; @p withComments says whether they count as links.
-    // Except in the first three functions, a link is all text that sets AnchorHref, in one passage
-    // with the same address: over changes of format, paragraph ends and empty paragraphs. (HTML
-    // import sets IsAnchor on the first character of a named link only.)
-
+    /**
+     * @name Links
+     *
+     * Comments carry an address too; @p withComments says whether they count as links. Except in
+     * the first three functions, a link is all text that sets AnchorHref, in one passage with the
+     * same address: over changes of format, paragraph ends and empty paragraphs. (HTML import sets
+     * IsAnchor on the first character of a named link only.)
+     */
+    //@{
     /**
      * The format of the first character of the selection, or of the character behind a cursor
      * without selection, if it has IsAnchor true and AnchorHref set; else an empty format.
@@ -344,6 +369,7 @@ public:
      * anchorForCursor() finds.
      */
     static QList<MRVTextRange> findAllAnchors(const QTextCursor &cursor, bool withComments = false);
+    /** How many findAllAnchors() finds. */
     static int anchorsCount(const QTextCursor &cursor, bool withComments = false);
     /**
      * Grows the selection of @p cursor in both directions over the fragments whose AnchorHref is
@@ -351,6 +377,7 @@ public:
      * Unchanged where no such fragment adjoins; null does nothing.
      */
     static void adjustContinuousAnchorCursor(QTextCursor *cursor, const QString &href);
+    //@}
 
     // Comments. Text is commented where it sets CommentData0, or has InspectorCommentProperty true.
 
@@ -359,8 +386,8 @@ public:
     /** The comment that, as a whole, starts at @p pos. */
     static QTextCursor findCommentViaStartPos(const QTextDocument *document, int pos);
     /**
-     * The first comment of which at least one character lies in [start, end), as a whole; where the
-     * two are equal, the comment on the character at that place.
+     * The first comment of which at least one character lies in [@p start, @p end), as a whole;
+     * where the two are equal, the comment on the character at that place.
      */
     static QTextCursor findCommentViaRange(const QTextDocument *document, int start, int end);
     /**

@@ -98,6 +98,7 @@ public:
 
     /** All finds, in document order. */
     static QVector<MRVTextRange> findAll(const QTextDocument *document, const MRVTextQuery &query);
+    /** How many findAll() finds, in the same time. */
     static int count(const QTextDocument *document, const MRVTextQuery &query);
     /**
      * The first find that starts at the end of the selection of @p from or later; with
@@ -108,18 +109,19 @@ public:
      */
     static QTextCursor find(const QTextCursor &from, const MRVTextQuery &query);
 
-    /** What replaceAll() would do, in document order. */
+    /** What replaceAll() with the same @p replacement would do, in document order. */
     static QVector<MRVTextChange> preview(const QTextDocument *document, const MRVTextQuery &query,
                                           const QString &replacement);
     /**
      * Replaces all finds. One undo step; none where nothing changes.
      *
+     * @param replacement see above.
      * @return how many were replaced.
      */
     static int replaceAll(QTextDocument *document, const MRVTextQuery &query,
                           const QString &replacement);
     /**
-     * Makes some of the changes of preview(), in whichever order they are given. One undo step;
+     * Makes some of the @p changes of preview(), in whichever order they are given. One undo step;
      * none where nothing changes. A change is left out if its text is no longer in its place, or if
      * it overlaps one that comes later in the document.
      *
@@ -131,6 +133,7 @@ public:
      *
      * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it,
      *               so that find() goes on beyond it; untouched where false is returned.
+     * @param replacement see above.
      * @return false where the selection is no find, or has an object in it.
      */
     static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement);

@@ -116,9 +116,14 @@ public:
      * was opened through a QSettings pointer.
      */
     void beginGroup(const QString &prefix);
+    /** Leaves the group that was opened last; see beginGroup(). */
     void endGroup();
 
     using QSettings::value;
+    /**
+     * The value of a setting: what is stored, or defaultValue() where nothing is, or nothing that
+     * can be read as the type.
+     */
     bool value(FlagSetting setting) const;
     int value(IntSetting setting) const;
     qreal value(RealSetting setting) const;
@@ -143,6 +148,9 @@ public:
      * What else there is, Qt cannot read from a damaged file without harm: it is not set, with a
      * warning.
      *
+     * @param key relative to the open group.
+     * @param value of one of these types; invalid stores an invalid variant, which reads as the
+     *              default.
      * @return whether the value was set and status() is NoError. Nothing is saved yet, so this
      * tells of earlier failures; for this value's own, see saveNow().
      */
@@ -159,7 +167,11 @@ public:
     /** Stored as the decimal numbers, with a blank between two: "1 20 3". */
     bool setValue(IntListSetting setting, const QList<int> &value);
     bool setValue(ByteArraySetting setting, const QByteArray &value);
-    /** Stored as toByteArray(). */
+    /**
+     * Stored as toByteArray().
+     *
+     * @param setting whose keyText() is the key; false for one without a key.
+     */
     bool setValue(TextCharFormat setting, const QTextCharFormat &value);
     bool setValue(TextBlockFormat setting, const QTextBlockFormat &value);
 
@@ -176,6 +188,7 @@ public:
      * none.
      */
     QTextCharFormat textCharFormat(const QString &key, const QTextCharFormat &def) const;
+    /** The paragraph format stored under @p key; @p def where it does not exist. */
     QTextBlockFormat textBlockFormat(const QString &key, const QTextBlockFormat &def) const;
     /** A copy of @p format with full font hinting or none, as the flag setting number 12 says. */
     QTextCharFormat applyFontHinting(const QTextCharFormat &format) const;
@@ -199,6 +212,7 @@ public:
     static QByteArray toByteArray(const QTextBlockFormat &format);
     /** A default format where @p bytes are empty or damaged. */
     static QTextCharFormat toTextCharFormat(const QByteArray &bytes);
+    /** The same for a paragraph format. */
     static QTextBlockFormat toTextBlockFormat(const QByteArray &bytes);
     /**
      * The picture as a JPEG file of quality 50, so without transparency; empty for a null image.
@@ -229,6 +243,7 @@ public:
      * QSettings takes.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
+     * @param fileName of an INI file, which is made where it does not exist.
      * @return false where the file cannot be written.
      */
     bool saveToFile(const QString &fileName, QString *error = nullptr);
@@ -261,6 +276,7 @@ protected:
     class MRVBASE_EXPORT WholeFile
     {
     public:
+        /** Leaves the groups of @p settings, which must outlive this. */
         explicit WholeFile(MRVSettings *settings);
         ~WholeFile();
         WholeFile(const WholeFile &) = delete;

@@ -16,7 +16,8 @@
 MRVBASE_EXPORT QString mrvSanitizeSettings(const QString &path);
 
 /**
- * The same for the user's own files of an organisation and its application, in the native format.
+ * The same for the user's own files of an organisation and its @p application, in the native
+ * format.
  *
  * @return @p organization, or one whose files cannot be opened.
  */

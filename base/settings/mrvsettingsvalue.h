@@ -18,6 +18,7 @@ inline bool mrvIsList(const QVariant &value)
  * case.
  *
  * @param ok receives false for anything else.
+ * @param value a bool, a text, a list that a text with commas became, or nothing, which is false.
  */
 inline bool mrvToFlag(const QVariant &value, bool *ok)
 {

@@ -229,7 +229,11 @@ public:
      */
     static QString label(Id id);
 
-    /** Gives @p id a custom label for the rest of the run; nothing is stored. */
+    /**
+     * Gives @p id a custom label for the rest of the run; nothing is stored.
+     *
+     * @param text in the user's language; an empty one hides the name.
+     */
     static void setLabel(Id id, const QString &text);
 
     /** All custom labels: the few that every run starts with, and those of setLabel(). */

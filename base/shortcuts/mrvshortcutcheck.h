@@ -33,6 +33,7 @@ public:
         UnnamedKey = 4, ///< a key without a portable text, which is lost when the scheme is stored
     };
 
+    /** Two commands whose keys do not work together, or one whose key does not work. */
     struct Conflict
     {
         Kind kind;
@@ -93,8 +94,8 @@ public:
     static bool isUnnamedKey(const QKeySequence &sequence);
 
     /**
-     * The commands whose keys or texts differ, or that only one of the schemes has, in the order of
-     * their numbers. The schemes' names do not count.
+     * The commands whose keys or texts differ between @p before and @p after, or that only one of
+     * the schemes has, in the order of their numbers. The schemes' names do not count.
      */
     static QList<Difference> differences(const MRVShortcutScheme &before,
                                          const MRVShortcutScheme &after);

@@ -45,6 +45,7 @@ public:
 
     /** A null scheme. */
     MRVShortcutScheme() = default;
+    /** A scheme without entries that is null only where @p name is. */
     explicit MRVShortcutScheme(const QString &name);
     /** Takes the entries as mergeShortcuts() does. */
     MRVShortcutScheme(const QString &name, const Shortcuts &shortcuts);
@@ -54,16 +55,20 @@ public:
      *
      * @param mergeDefaults whether commands that the data lack get what morvane() has for them,
      *                      such as those that are newer than the data.
+     * @param data any bytes; see fromByteArray().
      */
     MRVShortcutScheme(const QByteArray &data, bool mergeDefaults);
 
     /** Whether the name is a null string and there are no entries. */
     bool isNull() const { return m_name.isNull() && m_shortcuts.isEmpty(); }
+    /** The opposite of isNull(). */
     bool isValid() const { return !isNull(); }
 
+    /** What lists of schemes call it; translated for predefined schemes. */
     QString name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
 
+    /** All entries by command; their own ids are those of the keys. */
     Shortcuts shortcuts() const { return m_shortcuts; }
 
     /** All entries in the order of their identifiers. */
@@ -110,10 +115,20 @@ public:
      * The entries that fit a filter (MRVShortcutInfo::matchFilter()), in the order of their ids.
      */
     QList<MRVShortcutInfo> findShortcuts(const QString &filter) const;
+    /**
+     * The same of any entries.
+     *
+     * @param filter see MRVShortcutInfo::matchFilter().
+     */
     static QList<MRVShortcutInfo> findShortcuts(const QString &filter, const Shortcuts &shortcuts);
 
     /** The entries of a translated menu group, compared exactly, in the order of their ids. */
     QList<MRVShortcutInfo> groupShortcuts(const QString &group) const;
+    /**
+     * The same of any entries.
+     *
+     * @param group as for the other one.
+     */
     static QList<MRVShortcutInfo> groupShortcuts(const QString &group, const Shortcuts &shortcuts);
 
     /** The translated menu groups that have entries here, each once, in ascending order. */
@@ -137,12 +152,13 @@ public:
      *
      * @param error if given, receives a translated reason when not all of it could be read; the
      *              result holds what could. Untouched otherwise.
+     * @param data any bytes.
      * @return a null scheme where nothing could be read.
      */
     static MRVShortcutScheme fromByteArray(const QByteArray &data, QString *error = nullptr);
 
     /**
-     * Writes the stored form to a file, whole or not at all (MRVFileWriter).
+     * Writes the stored form to the file @p path, whole or not at all (MRVFileWriter).
      *
      * @param error if given, receives a translated line that names the file and the reason on
      *              failure; untouched on success.
@@ -150,7 +166,7 @@ public:
     bool save(const QString &path, QString *error = nullptr) const;
 
     /**
-     * Reads a file that save() wrote.
+     * Reads the file @p path that save() wrote.
      *
      * @param error if given, receives a translated line that names the file and the reason when it
      *              cannot be opened or not all of it could be read; untouched on success.
@@ -159,9 +175,9 @@ public:
     static MRVShortcutScheme load(const QString &path, QString *error = nullptr);
 
     /**
-     * Writes a list for readers, in UTF-8: each menu group in upper case, and below it each entry
-     * as two blanks, its text, ": " and its key sequence in native text; an empty line between
-     * groups. White space in the text becomes single blanks.
+     * Writes a list for readers to the file @p path, in UTF-8: each menu group in upper case, and
+     * below it each entry as two blanks, its text, ": " and its key sequence in native text; an
+     * empty line between groups. White space in the text becomes single blanks.
      *
      * @param error as for save().
      */
@@ -172,10 +188,17 @@ public:
 
     /** The default scheme, with an entry for every command, though not a key for every one. */
     static MRVShortcutScheme morvane();
-    // As long as they have no keys of their own, these have those of morvane().
+    /**
+     * @name Other applications
+     *
+     * As long as they have no keys of their own, these have those of morvane(), under another
+     * translated name.
+     */
+    //@{
     static MRVShortcutScheme macMorvane();
     static MRVShortcutScheme openOffice();
     static MRVShortcutScheme msWord();
+    //@}
 
     /** morvane(), msWord(), openOffice() and macMorvane(). */
     static QList<MRVShortcutScheme> predefinedSchemes();

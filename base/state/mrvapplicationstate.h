@@ -55,13 +55,19 @@ public:
     QStringList lastClosedProjects() const;
     void setLastClosedProjects(const QStringList &paths);
 
+    /** The icons that the user chose last, the latest first. */
     QStringList recentIcons() const;
     void setRecentIcons(const QStringList &icons);
     /** Puts @p icon before all others, of which the latest four others stay. */
     void addRecentIcon(const QString &icon);
 
-    // The folders that were used last; the user's documents folder, or home folder where the system
-    // names none, unless one was set.
+    /**
+     * @name Folders
+     *
+     * The folders that were used last; the user's documents folder, or home folder where the system
+     * names none, unless one was set. They need not exist any more.
+     */
+    //@{
     QString recentExportPath() const;
     void setRecentExportPath(const QString &path);
     QString recentCompilePath() const;
@@ -70,12 +76,19 @@ public:
     void setRecentImportPath(const QString &path);
     QString recentProjectPath() const;
     void setRecentProjectPath(const QString &path);
+    //@}
 
     /** Empty until the tutorial was unpacked somewhere. */
     QString tutorialLocation() const;
     void setTutorialLocation(const QString &path);
 
-    // Whether something is still to be shown or done; true until it is turned off.
+    /**
+     * @name Warnings
+     *
+     * Whether something is still to be shown or done; true until it is turned off. A stored value
+     * that is not a flag reads as true.
+     */
+    //@{
     bool showSpellCheckerLoadErrors() const;
     void setSpellCheckerLoadErrors(bool show);
     bool showSortWarning() const;
@@ -92,6 +105,7 @@ public:
     void setShowGettingStarted(bool show);
     bool useZipForBackups() const;
     void setUseZipForBackups(bool use);
+    //@}
 
     /** Turns all warnings on again. What is no warning stays: getting started, zip for backups. */
     void resetAllWarnings();

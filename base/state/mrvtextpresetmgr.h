@@ -31,6 +31,7 @@ public:
     explicit MRVTextPresetMgr(QObject *parent = nullptr);
     ~MRVTextPresetMgr() override;
 
+    /** A copy of the presets as they are now. */
     MRVTextPresetScheme presetScheme() const { return m_scheme; }
     /**
      * Takes a scheme, saves it and emits presetsChanged(), even if it is the one that was there.
@@ -58,6 +59,7 @@ public:
     static MRVTextPresetScheme loadPresetScheme();
 
 Q_SIGNALS:
+    /** The presets were replaced or changed, and are saved. */
     void presetsChanged();
 
 private:

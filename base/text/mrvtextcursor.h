@@ -68,7 +68,10 @@ public:
      */
     static void selectBlockUnderCursor(QTextCursor *cursor, bool withSeparator);
 
-    /** See mrvReplaceText(). */
+    /**
+     * mrvReplaceText(), which says what becomes of formats: the selection of @p cursor becomes
+     * @p text.
+     */
     static void replaceText(QTextCursor &cursor, const QString &text);
 
     /** The format of the selection's last character, whichever end the position is at. */

@@ -46,18 +46,38 @@ class MRVBASE_EXPORT MRVTextListFormat
 public:
     MRVTextListFormat() = delete;
 
+    /** The stored form of @p level, with the same four fields. */
     static MRVQtListLevel toQtListLevel(const MRVTextListLevel &level);
+    /**
+     * The level that @p level stores, with the same four fields. A style number outside 0 to 5
+     * stays as it is, so that a document of a newer version keeps it.
+     */
     static MRVTextListLevel toMrvListLevel(const MRVQtListLevel &level);
 
-    /** The levels of a format; empty where it has none. What is no level is a default level. */
+    /**
+     * The levels of a format, outermost first; empty where it has none. A stored entry of another
+     * type is a default level.
+     */
     static QList<MRVTextListLevel> levels(const QTextListFormat &format);
+    /**
+     * Stores @p levels, outermost first, as property MRVListLevelsProperty. The style that Qt draws
+     * stays as it is; see setStyle().
+     */
     static void setLevels(QTextListFormat &format, const QList<MRVTextListLevel> &levels);
 
+    /**
+     * @name One level
+     *
+     * A field of the level number @p level, from 0; that of a default level where the format has no
+     * such level.
+     */
+    //@{
     /** A field of the given level; of a default level where the format has no such level. */
     static QString itemText(const QTextListFormat &format, int level);
     static int numberStyle(const QTextListFormat &format, int level);
     static double leftIndent(const QTextListFormat &format, int level);
     static double textIndent(const QTextListFormat &format, int level);
+    //@}
 
     /**
      * Replaces the levels by a single one that looks like @p style: indented by 36 points, its text
@@ -68,7 +88,7 @@ public:
     /** The Qt style that level 0 looks like; a disc where it is like none of them, or missing. */
     static QTextListFormat::Style style(const QTextListFormat &format);
 
-    /** See mrvSetListLevel(). */
+    /** mrvSetListLevel(): gives the paragraph @p block of the list the level @p level, from 0. */
     static void setBlockLevel(QTextList &list, const QTextBlock &block, int level);
     /** See mrvListLevel(). */
     static int blockLevel(const QTextList &list, const QTextBlock &block);
@@ -84,14 +104,15 @@ public:
     static void clearListProperties(QTextDocument *document, int position);
 
     /**
-     * Takes a paragraph out of its list, see mrvRemoveFromList(). The list's indent stays behind as
-     * the paragraph's own. Nothing for a null document or cursor, and outside the document.
+     * Takes the paragraph that holds @p position out of its list, see mrvRemoveFromList(). The
+     * list's indent stays as the paragraph's own. Nothing for a null document or cursor, and
+     * outside the document.
      */
     static void clearBlockAtPositionFromTextList(QTextDocument *document, int position);
     static void clearBlockAtPositionFromTextList(const QTextCursor &cursor);
     /** The same for each paragraph from that of the selection's start to that of its end. */
     static void clearSelectedBlocksFromTextList(const QTextCursor &cursor);
-    /** clearBlockAtPositionFromTextList(), then clearListProperties(). */
+    /** clearBlockAtPositionFromTextList(), then clearListProperties(), at @p position. */
     static void clearListPropertiesAndTextList(QTextCursor &cursor);
     static void clearListPropertiesAndTextList(QTextDocument *document, int position);
 };

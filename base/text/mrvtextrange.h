@@ -22,7 +22,7 @@ class MRVBASE_EXPORT MRVTextRange
 public:
     /** The empty range at 0. */
     constexpr MRVTextRange() = default;
-    /** The range between two positions, in whichever order they come. */
+    /** The range between the positions @p start and @p end, in whichever order they come. */
     constexpr MRVTextRange(int start, int end)
         : m_start(start < end ? start : end)
         , m_end(start < end ? end : start)

@@ -57,17 +57,21 @@ using MRVTextBlockLevelMap = QMap<QTextBlock, int>;
 
 // Written by hand: the usual macro would register the types under their C++ names, and streams
 // carry the name that a type was registered with first.
+/** Gives the stored name of the type to Qt's meta-type system. */
 template<>
 struct QMetaTypeId<MRVQtListLevel>
 {
     enum { Defined = 1 };
+    /** Registers the type on the first call and returns its id; called by Qt. */
     MRVBASE_EXPORT static int qt_metatype_id();
 };
 
+/** Gives the stored name of the type to Qt's meta-type system. */
 template<>
 struct QMetaTypeId<MRVTextBlockLevelMap>
 {
     enum { Defined = 1 };
+    /** Registers the type on the first call and returns its id; called by Qt. */
     MRVBASE_EXPORT static int qt_metatype_id();
 };
 
@@ -82,6 +86,8 @@ MRVBASE_EXPORT int mrvListLevel(const QTextList &list, const QTextBlock &block);
 /**
  * Sets the level; a negative one counts as 0. One undo step; nothing for the level that it has, and
  * for a paragraph that is not in the list.
+ *
+ * @param level from 0.
  */
 MRVBASE_EXPORT void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level);
 /**

@@ -6,7 +6,7 @@
 #include <QTextCharFormat>
 
 /**
- * How a run of text is re-styled: what of its character format stays, and what the new style
+ * How a fragment of text is re-styled: what of its character format stays, and what the new style
  * brings.
  *
  * @since 1.0

@@ -108,7 +108,7 @@ public:
         MultipleSpacing = 4, ///< any other multiple of the font size
     };
 
-    /** A copy of @p format with full font hinting, or none. */
+    /** A copy of @p format with full font hinting, or, where @p hinting is false, with none. */
     static QTextCharFormat setFontHinting(const QTextCharFormat &format, bool hinting);
     /** Whether @p format sets at least one of @p properties; false for an empty set. */
     static bool hasAnyProperty(const QTextCharFormat &format, const QSet<int> &properties);
@@ -140,6 +140,7 @@ public:
      * format, or holds a type that formats do not hold.
      */
     static QTextCharFormat toCharFormat(const QByteArray &bytes);
+    /** As toCharFormat(), for paragraph formats. */
     static QTextBlockFormat toBlockFormat(const QByteArray &bytes);
     /** The same for the byte array that @p value converts to. */
     static QTextCharFormat toCharFormat(const QVariant &value);
@@ -181,13 +182,13 @@ public:
      *              for double), or the line height in points for fixed and exact spacing.
      */
     static SpacingType spacingType(const QTextBlockFormat &format, double *value = nullptr);
-    /** Whether spacingType() and its value are the same for both. */
+    /** Whether spacingType() and its value are the same for @p a and @p b. */
     static bool equivalentSpacing(const QTextBlockFormat &a, const QTextBlockFormat &b);
 
     /**
-     * Whether two formats look the same: a property that only one of them sets must have its
-     * defaultProperty() there. Page breaks do not count. An empty list of anchor names and a
-     * font weight of 0 count as the default.
+     * Whether @p a and @p b look the same: a property that only one of them sets must have its
+     * defaultProperty() there. Page breaks do not count. An empty list of anchor names and a font
+     * weight of 0 count as the default.
      */
     static bool equivalent(const QTextFormat &a, const QTextFormat &b);
 
@@ -265,9 +266,10 @@ public:
     static bool hasBlockInString(const QString &text);
 
     /**
-     * The format of @p block re-styled by @p with: MRVTextBlockFormat::merge(), with the indents of
-     * a list item always kept. A paragraph whose first character is marked PreserveFormatProperty
-     * keeps its format as it is.
+     * The format of @p block re-styled by @p with: MRVTextBlockFormat::merge(), which explains
+     * @p keepIndents, @p keepSpacing, @p keepAlignment and @p keep, with the indents of a list item
+     * always kept. A paragraph whose first character is marked PreserveFormatProperty keeps its
+     * format as it is.
      */
     static QTextBlockFormat mergeBlockFormat(const QTextBlock &block, const QTextBlockFormat &with,
                                              bool keepIndents, bool keepSpacing, bool keepAlignment,
@@ -275,21 +277,23 @@ public:
 
     /**
      * Re-styles a document while keeping what the application stores in its text: every paragraph
-     * gets the merge of its format with @p blockFormat, every run the merge with @p charFormat.
+     * gets the merge of its format with @p blockFormat, every fragment the merge with
+     * @p charFormat.
      *
      * One undo step; none when nothing changes. Qt leaves one thing out of undo: the format that
      * the first paragraph itself gives to text typed into it. Takes time linear in the document.
      *
-     * @param document          null does nothing.
-     * @param charFormat        null leaves the character formats alone.
-     * @param blockFormat       null leaves the block formats alone.
-     * @param keepSize          and keepColors, keepEmphasis, keepFamily, overridePreserved,
-     *                          combineEmphasis: see MRVTextCharFormat::merge().
-     * @param keepIndents       and keepSpacing, keepAlignment: see mergeBlockFormat(). A paragraph
-     *                          that is marked to be preserved stays so whatever
-     *                          @p overridePreserved says.
-     * @param keep              properties that are taken from the existing formats, or removed
-     *                          where those lack them.
+     * What the flags keep and override is explained with the merges: @p keepSize, @p keepColors,
+     * @p keepEmphasis, @p keepFamily, @p overridePreserved and @p combineEmphasis with
+     * MRVTextCharFormat::merge(), @p keepIndents, @p keepSpacing and @p keepAlignment with
+     * mergeBlockFormat(). A paragraph that is marked to be preserved stays so whatever
+     * @p overridePreserved says.
+     *
+     * @param document    null does nothing.
+     * @param charFormat  null leaves the character formats alone.
+     * @param blockFormat null leaves the block formats alone.
+     * @param keep        properties that are taken from the existing formats, or removed where
+     *                    those lack them.
      */
     static void convertToFormat(QTextDocument *document, const QTextCharFormat *charFormat,
                                 const QTextBlockFormat *blockFormat, bool keepSize, bool keepColors,
@@ -298,7 +302,7 @@ public:
                                 bool overridePreserved, bool combineEmphasis);
     /**
      * The same for a range: the paragraphs from the one that holds @p start to the one that holds
-     * @p end, and of their runs only what lies in [start, end). Nothing happens where either
+     * @p end, and of their fragments only what lies in [start, end). Nothing happens where either
      * position is outside the document or @p end lies before @p start.
      */
     static void convertToFormat(QTextDocument *document, int start, int end,
@@ -318,8 +322,9 @@ public:
      * Replaces font weights that a family does not have by the nearest one that it has.
      *
      * Concerns the paragraph formats from the paragraph that holds the start of the selection to
-     * the end of the document, and the whole runs that begin within the selection. Normal weight is
-     * stored as unset. One undo step; none when nothing changes. A null cursor does nothing.
+     * the end of the document, and the whole fragments that begin within the selection. Normal
+     * weight is stored as unset. One undo step; none when nothing changes. A null cursor does
+     * nothing.
      */
     static void adjustFontWeight(const QTextCursor &cursor);
 };

@@ -12,20 +12,30 @@
 class QTextDocument;
 
 /**
- * Whether two formats set the same properties to values of the same types. Qt's own comparison
- * depends on the order in which the properties were set; this one does not, and tells a heading
- * level 1 from a line spacing of 1.0.
+ * Whether @p a and @p b set the same properties to values of the same types. Qt's own comparison
+ * depends on the order in which the properties were set; this one does not, and distinguishes a
+ * heading level 1 from a line spacing of 1.0.
  */
 MRVBASE_EXPORT bool mrvIsSameFormat(const QTextFormat &a, const QTextFormat &b);
 
 /**
  * The changes to a document's formats, collected while walking it and applied afterwards, since an
- * edit ends the walk over a block's runs. Positions, not cursors: every living cursor is adjusted
- * at every edit.
+ * edit ends the walk over a block's fragments. Positions, not cursors: every living cursor is
+ * adjusted at every edit.
+ *
+ * @since 1.0
  */
 class MRVBASE_EXPORT MrvFormatChanges
 {
 public:
+    /**
+     * @name Collecting
+     *
+     * Notes that the paragraph at @p position, or the text of [@p start, @p end), gets a @p format,
+     * in place of the one it has. Nothing changes before apply(). Positions are those of the
+     * document as it is then, so nothing may edit it in between; ranges must not overlap.
+     */
+    //@{
     void setBlockCharFormat(int position, const QTextCharFormat &format)
     {
         m_blockChars.push_back({position, position, format});
@@ -38,6 +48,7 @@ public:
     {
         m_runs.push_back({start, end, format});
     }
+    //@}
 
     /** One undo step, or none where nothing was collected. */
     void apply(QTextDocument *document) const;
@@ -57,9 +68,11 @@ private:
 };
 
 /**
- * What takes the place of each format. A document has far fewer formats than runs: a format's
+ * What takes the place of each format. A document has far fewer formats than fragments: a format's
  * replacement is computed once and found again by its index. Nothing stands for a format that stays
  * as it is.
+ *
+ * @since 1.0
  */
 template<typename Format, typename Key>
 class MrvReplacements

@@ -11,8 +11,8 @@
  * it was given, for a machine that has the font.
  *
  * Weights are Qt's, 0 to 99 (50 is normal, 75 bold). Nothing is cached, so that fonts that come and
- * go while the application runs are seen; ask once for a format, not once for a run of text. GUI
- * thread only.
+ * go while the application runs are seen; ask once for a format, not once for a fragment.
+ * GUI thread only.
  *
  * @since 1.0
  */
@@ -21,7 +21,7 @@ class MRVBASE_EXPORT MRVTextUtil
 public:
     MRVTextUtil() = delete;
 
-    /** Whether one of the styles of @p family has exactly this weight. */
+    /** Whether one of the styles of @p family has exactly the @p weight. */
     static bool hasWeight(const QString &family, int weight);
 
     /**

@@ -39,7 +39,10 @@ public:
     static QImage logoImage();
 
 public Q_SLOTS:
-    /** Shows which version runs and which is offered, and what the buttons do. */
+    /**
+     * Shows which version runs, @p current, and which is offered, @p available, and what the
+     * buttons do.
+     */
     void versions(const QString &current, const QString &available);
     /**
      * Shows a text; in words of more than 60 characters, such as addresses, places to break them
@@ -48,7 +51,10 @@ public Q_SLOTS:
     void statusMsg(const QString &text);
     /** As statusMsg(), and hides the progress bar for good. */
     void errorMsg(const QString &text);
-    /** Counts in bytes; a total that is unknown (negative, or 0) shows a busy bar. */
+    /**
+     * Counts @p bytesRead and @p total in bytes; a total that is unknown (negative, or 0) shows a
+     * busy bar.
+     */
     void updateDownloadProgress(qint64 bytesRead, qint64 total);
     /**
      * What the download button does: asks for the download, unless the user could not install it;
@@ -57,11 +63,15 @@ public Q_SLOTS:
     void downloadUpdate();
     /** The installer is there, and sound. */
     void enableInstallButton();
+    /** Once a download has begun, or cannot be of use any more. */
     void disableDownloadAndInstallButtons();
+    /** What the install button does: disables itself and asks for the installation. */
     void installUpdate();
 
 Q_SIGNALS:
+    /** The user wants the installer, and could install it. */
     void downloadRequested();
+    /** The user wants to install what enableInstallButton() announced. */
     void installRequested();
 
 protected:

@@ -30,6 +30,7 @@ class MRVBASE_EXPORT MRVUpdateDownloader : public QObject
     Q_OBJECT
 
 public:
+    /** A check that does nothing before startUpdate(). */
     explicit MRVUpdateDownloader(QObject *parent = nullptr);
     ~MRVUpdateDownloader() override;
 
@@ -68,11 +69,27 @@ public Q_SLOTS:
     void downloadInstaller();
     /** Checks that the installer is still the one that was found sound, and hands it over. */
     void installRequested();
+    /**
+     * Ends the check without a word: closes the dialog, drops a running download, and emits
+     * finished().
+     */
     void cancelUpdate();
 
 Q_SIGNALS:
+    /**
+     * The check has ended with an installer that the user wants opened, and that was valid a moment
+     * ago; see confirmInstaller().
+     */
     void installRequested(QString exeFilePath);
+    /**
+     * The check has ended without anything to install, in whichever way. Emitted once, and never
+     * after installRequested(QString).
+     */
     void finished();
+    /**
+     * The feed has been judged; what is shown to the user follows. A check that fails before that
+     * does not emit it.
+     */
     void updateChecked();
 
 private:

@@ -66,6 +66,7 @@ public Q_SLOTS:
     void checkForUpdates();
     /** Checks, and tells of a newer version only. */
     void checkForUpdatesSilent();
+    /** The check has ended: it is deleted in the next turn of the event loop. */
     void onUpdateFinished();
     /**
      * Ends a check, closes all windows of the application, and opens the installer with what the
@@ -73,6 +74,7 @@ public Q_SLOTS:
      * sound.
      */
     void onInstallUpdateRequested(const QString &exeFilePath);
+    /** Notes the present time as that of the last check, and saves it. */
     void onUpdateChecked();
 
 private:

@@ -96,7 +96,11 @@ enum CompileNoteFlag : int {
 Q_DECLARE_FLAGS(CompileNoteFlags, CompileNoteFlag)
 Q_DECLARE_OPERATORS_FOR_FLAGS(CompileNoteFlags)
 
-/** Prints every flag with "true" or "false", one a line; leaves the stream in spacing mode. */
+/**
+ * Prints every flag with "true" or "false", one a line; leaves the stream in spacing mode.
+ *
+ * @param flags any combination.
+ */
 MRVBASE_EXPORT QDebug operator<<(QDebug debug, QFlags<CompileNoteFlag> flags);
 
 /** How an editor shows its documents, as the project stores it. */

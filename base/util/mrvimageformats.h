@@ -18,7 +18,7 @@ MRVBASE_EXPORT QStringList readWriteImageFormats();
 MRVBASE_EXPORT QStringList imageFileFilters();
 /** MRVGuiUtil::writeImageFileFilters(). */
 MRVBASE_EXPORT QStringList writeImageFileFilters();
-/** MRVGuiUtil::createFormatFilter(). */
+/** MRVGuiUtil::createFormatFilter(), with the same @p description and @p suffixes. */
 MRVBASE_EXPORT QString createFormatFilter(const QString &description, const QStringList &suffixes);
 
 } // namespace MRV

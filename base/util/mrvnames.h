@@ -36,7 +36,7 @@ MRVBASE_EXPORT QString cleanFileName(const QString &name, const QChar &replaceme
 /** As above, with a blank as the replacement. */
 MRVBASE_EXPORT QString cleanFileName(const QString &name);
 
-/** The same as cleanFileName(), under a second published name. */
+/** cleanFileName() of @p name and @p replacement, under a second published name. */
 MRVBASE_EXPORT QString cleanFileNameRegExp(const QString &name, const QChar &replacement);
 /** As above, with a blank as the replacement. */
 MRVBASE_EXPORT QString cleanFileNameRegExp(const QString &name);

@@ -44,7 +44,10 @@ public:
      *
      * @param pattern  receives the form of the unit's output, with "%1" in place of the number.
      * @param decimals receives how many characters lie between the last dot and the unit.
-     * @return false, with all the others untouched, where @p text is no measure.
+     * @param value    receives the number as it was read.
+     * @param points   receives the same length in points.
+     * @param unit     receives the unit; None for didots and ciceros.
+     * @return false, with all the others untouched, where @p text is not a measure.
      */
     static bool parseMeasure(const QString &text, QString &pattern, int &decimals, double &value,
                              double &points, Unit &unit);
@@ -54,14 +57,16 @@ public:
     /** The unit of a measure; None where it is none. */
     static Unit toUnit(const QString &text);
 
-    /** @p value in another unit. None stands for ciceros here. */
+    /** @p value, a length in @p from, as one in @p to. None stands for ciceros here. */
     static double toUnit(Unit to, Unit from, double value);
+    /** A length of @p points as one in @p unit; None stands for ciceros here. */
     static double fromPoint(Unit unit, double points);
+    /** The points of @p value, a length in @p unit; None stands for ciceros here. */
     static double toPoint(Unit unit, double value);
     /** A measure in @p unit; 0 where @p text is none. None stands for didots here. */
     static double toUnitEquivalent(Unit unit, const QString &text);
 
-    /** A measure as text, with six significant digits at most: "12.5pt", "1.5\"". */
+    /** The measure @p value as text, with six significant digits at most: "12.5pt", "1.5\"". */
     static QString toText(Unit unit, double value);
     /** What to show behind a number, translated, with a blank in front; empty for None. */
     static QString suffix(Unit unit);
@@ -74,9 +79,11 @@ public:
      * int.
      */
     static int pointsToPixels(double points);
+    /** The inverse of pointsToPixels(), not rounded. */
     static double pixelsToPoints(int pixels);
     /** Twentieths of a point, cut to a whole number towards zero. */
     static int pixelsToTwips(int pixels);
+    /** The inverse of pixelsToTwips(), cut to a whole number towards zero. */
     static int twipsToPixels(int twips);
     /** The same as pixelsToTwips(), under the name that belongs to RTF. */
     static int rtfPixelsToTwips(int pixels);

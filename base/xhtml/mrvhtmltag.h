@@ -14,9 +14,12 @@ enum class MRVHtmlDialect {
 
 /**
  * An opening tag taken to pieces: its name and attributes in order, values escaped as they stand.
+ *
+ * @since 1.0
  */
 struct MRVBASE_EXPORT MRVHtmlTag
 {
+    /** What stands between blanks, such as align="left". */
     struct Attribute
     {
         QString name;
@@ -32,13 +35,16 @@ struct MRVBASE_EXPORT MRVHtmlTag
      * Reads a tag that begins with "<" and ends with ">"; attributes without a value are left out.
      */
     static MRVHtmlTag parsed(QStringView tag);
+    /** The tag as HTML: the inverse of parsed(), with one blank between attributes. */
     QString text() const;
 
     /** @return position of the attribute, or -1. */
     int indexOf(QLatin1String attribute) const;
+    /** The value of the first such attribute, escaped as it stands; empty without one. */
     QString value(QLatin1String attribute) const;
     /** Removes the first such attribute; empty without one. */
     QString take(QLatin1String attribute);
+    /** Moves the first such attribute before the others; nothing without one. */
     void moveToFront(QLatin1String attribute);
     /** Adds declarations in front of those of the style attribute, which is made when missing. */
     void addStyle(const QString &declarations);

@@ -12,7 +12,7 @@
 namespace MRVHtmlText {
 
 /**
- * Replaces every @p before by @p after; linear also for very many matches, unlike
+ * Replaces every @p before in @p text by @p after; linear also for very many matches, unlike
  * QString::replace().
  */
 MRVBASE_EXPORT void replaceAll(QString *text, QLatin1String before, QLatin1String after);
@@ -27,8 +27,8 @@ MRVBASE_EXPORT QString unescaped(QStringView text);
 MRVBASE_EXPORT QVector<QStringView> declarations(QStringView style);
 
 /**
- * Lets each image whose source is a key of the table refer to its value; both unescaped. A null
- * value takes the source away.
+ * Lets each image of @p html whose source is a key of @p references refer to its value; both
+ * unescaped. A null value takes the source away.
  */
 MRVBASE_EXPORT void replaceImageSources(QString *html, const QHash<QString, QString> &references);
 
@@ -38,8 +38,9 @@ MRVBASE_EXPORT QHash<QString, int> idPlaces(const QString &html);
 /** Whether the text holds a tab or two blanks in a row. */
 MRVBASE_EXPORT bool hasWideSpace(QStringView text);
 /**
- * Rewrites every stretch from @p open up to the next @p close.
+ * Rewrites every stretch of @p text from @p open up to the next @p close.
  *
+ * @param cs      whether @p open is found in any case; @p close is exact.
  * @param rewrite called with the text between the two; returns what replaces the whole stretch.
  */
 template<typename Rewrite>

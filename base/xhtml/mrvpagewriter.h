@@ -18,6 +18,8 @@
  * fix-ups, is made valid for the dialect and is then remembered, so that a page of a million words
  * costs little more than its copying. A stack of the open lists, tables and cells closes what Qt
  * leaves open or crossed.
+ *
+ * @since 1.0
  */
 class MRVBASE_EXPORT MRVPageWriter
 {
@@ -33,8 +35,10 @@ public:
     };
 
     /**
-     * @param styles where rule sets are collected; null leaves style attributes in place. Not
-     * owned.
+     * @param type    which fix-ups are applied.
+     * @param dialect which document type the page has to be valid against.
+     * @param styles  where rule sets are collected; null leaves style attributes in place. Not
+     *                owned.
      */
     MRVPageWriter(ExportType type, MRVHtmlDialect dialect, MRVTextXhtmlExporter::StyleList *styles);
 
@@ -50,6 +54,7 @@ public:
      * cut the page and rewrite its links.
      */
     void setCollecting(bool collecting) { m_collecting = collecting; }
+    /** The blocks at the top level, in order, where they were collected; empty else. */
     const QVector<Block> &blocks() const { return m_blocks; }
     /** Anchor names of the document, unescaped, to the ids that they got. */
     const QHash<QString, QString> &ids() const { return m_ids; }

@@ -9,6 +9,8 @@
  *
  * Each value is read once and remembered, and rule sets are found by hash, so that many distinct
  * styles cost no more than few.
+ *
+ * @since 1.0
  */
 class MRVBASE_EXPORT MRVStyleClasses
 {
@@ -16,6 +18,7 @@ public:
     /**
      * @param styles the list of rule sets; not owned, not null, and not to be changed by others
      * meanwhile.
+     * @param dropFontFamily and @p kindleKF8: see MRVTextXhtmlExporter::convertStyleToCss().
      */
     MRVStyleClasses(MRVTextXhtmlExporter::StyleList *styles, bool dropFontFamily, bool kindleKF8);
 

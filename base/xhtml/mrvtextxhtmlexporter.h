@@ -91,9 +91,9 @@ public:
      */
     bool toFile(ExportType type, const QString &path, bool exportImages,
                 const QString &imageDir = QString(), QString *error = nullptr);
-    /** toFile() with type Html. */
+    /** toFile() with type Html, to @p path, and with @p exportImages as there. */
     bool toHtml(const QString &path, bool exportImages);
-    /** toFile() with type Xhtml. */
+    /** toFile() with type Xhtml, to @p path, and with @p exportImages as there. */
     bool toXhtml(const QString &path, bool exportImages);
 
     /**
@@ -108,18 +108,27 @@ public:
      * @param links  old link target to new one, both unescaped.
      * @param styles rule sets; those of the page are appended, so that several pages can share one
      *               list. Null leaves the style attributes in place.
+     * @param error if given, receives a text on failure; untouched on success.
      * @return false for a null document, for the types Html and Xhtml, and when the page cannot be
      *         written.
      */
     static bool toEBookXhtml(ExportType type, const QString &path,
                              const QHash<QString, QString> &links, StyleList *styles,
                              const QTextDocument *document, QString *error = nullptr);
+    /**
+     * @name toEBookXhtml() by type
+     *
+     * toEBookXhtml() for EPub, Kindle and KindleKF8, with the same @p path, @p links, @p styles and
+     * @p document.
+     */
+    //@{
     static bool toEPubXhtml(const QString &path, const QHash<QString, QString> &links,
                             StyleList *styles, const QTextDocument *document);
     static bool toKindle(const QString &path, const QHash<QString, QString> &links,
                          StyleList *styles, const QTextDocument *document);
     static bool toKindleKF8(const QString &path, const QHash<QString, QString> &links,
                             StyleList *styles, const QTextDocument *document);
+    //@}
 
     /**
      * The rule sets as a CSS text: a rule a class in class order, with its properties in
@@ -129,6 +138,14 @@ public:
      */
     static QString styleSheetText(const StyleList &styles);
 
+    /**
+     * @name Whole texts
+     *
+     * Each applies the chain of fix-ups of its kind to the text @p html, in a fixed order, and
+     * returns the result. Those that take @p styles move the style attributes there as
+     * convertStyleToCss() does.
+     */
+    //@{
     // Whole-text conversions: the chains of fix-ups.
 
     static QString htmlToXhtml(const QString &html);
@@ -136,6 +153,7 @@ public:
     static QString htmlToEpub(const QString &html, StyleList *styles);
     static QString htmlToKindle(const QString &html, StyleList *styles);
     static QString htmlToKindleKF8(const QString &html, StyleList *styles);
+    //@}
     /** Cleans HTML from the clipboard so that QTextDocument reads it well. */
     static QString mimeHtmlToCleanHtml(const QString &html);
 
@@ -205,6 +223,7 @@ public:
      * @param styles         rule sets found before and the place for new ones; null does nothing.
      * @param dropFontFamily leave out font families.
      * @param kindleKF8      an empty paragraph that starts a page becomes "<mbp:pagebreak/>".
+     * @param html the text.
      */
     static void convertStyleToCss(QString *html, StyleList *styles, bool dropFontFamily,
                                   bool kindleKF8);
@@ -220,7 +239,7 @@ public:
     static void removeAllInlineCssProperties(QString *html);
     /** Keeps in style attributes only the properties of qtCssProperties(). */
     static void removeUnsupportedQtCssProperties(QString *html);
-    /** Rewrites the link targets that @p links holds (old to new, both unescaped). */
+    /** Rewrites the link targets of @p html that @p links holds (old to new, both unescaped). */
     static void replaceLinks(QString *html, const QHash<QString, QString> &links);
 
     // Helpers
@@ -230,9 +249,11 @@ public:
     /** @return @p px in em of 16 pixels. */
     static double pxToEm(double px) { return px / 16; }
     /**
-     * Reads the value of a style attribute, escaped as it stands in HTML, to its declarations.
-     * Names that begin with "-qt-" are left out, a weight of 600 reads "bold", and what follows a
-     * second colon in a declaration is lost.
+     * Reads the @p style, the value of a style attribute, escaped as it stands in HTML, to its
+     * declarations. Names that begin with "-qt-" are left out, a weight of 600 reads "bold", and
+     * what follows a second colon in a declaration is lost.
+     *
+     * @param dropFontFamily leaves out the family of the font.
      */
     static QHash<QString, QString> toStyleSheet(const QString &style, bool dropFontFamily);
     /** The style value without underline and line-through; other decorations stay. */
@@ -257,6 +278,7 @@ public:
      * name.
      *
      * @param format name of the file format to write ("PNG"); also the suffix, in lower case.
+     * @param html in which each reference to the image is replaced.
      * @return the path of the file; empty, with the HTML unchanged, for a picture that is missing
      *         or cannot be written.
      */
@@ -265,6 +287,9 @@ public:
     /**
      * exportImage() for every image of the document, once for images that share a resource; makes
      * the folder when there is an image to write.
+     *
+     * The folder is @p dir; @p html and @p format are those of exportImage().
+     *
      * @return the paths of the files written.
      */
     QStringList exportDocImages(const QString &dir, QString *html, const char *format) const;

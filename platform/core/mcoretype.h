@@ -30,14 +30,18 @@ public:
     static constexpr int StreamVersion = QDataStream::Qt_5_15;
 
     /**
-     * Two whole decimal numbers separated by a comma, with or without blanks around them.
+     * Two whole decimal numbers in @p text, separated by a comma, with or without blanks around
+     * them.
      *
      * @param ok if given, receives whether the text is just that.
      * @return (0, 0) where it is not.
      */
     static QPair<int, int> toIntPair(const QString &text, bool *ok = nullptr);
 
-    /** As toIntPair(), with finite reals, whose decimal sign is always the point. */
+    /**
+     * As toIntPair() of @p text and @p ok, with finite reals, whose decimal sign is always the
+     * point.
+     */
     static QPair<double, double> toDoublePair(const QString &text, bool *ok = nullptr);
 
     /**

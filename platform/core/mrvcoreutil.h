@@ -42,8 +42,8 @@ public:
                            QString *reason = nullptr);
 
     /**
-     * The text of a whole file or Qt resource (":/..."), as decodeText() reads it; empty on
-     * failure.
+     * The text of the file or Qt resource (":/...") @p path, as decodeText() with @p codec reads
+     * it; empty on failure.
      */
     static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
                                        const char *codec = "UTF-8");
@@ -61,7 +61,7 @@ public:
     static bool WriteUnicodeTextFile(const QString &text, const QString &path,
                                      QString *error = nullptr, const char *codec = "UTF-8");
 
-    /** The bytes of a whole file or Qt resource of 1 GiB at most; empty on failure. */
+    /** The bytes of the file or Qt resource @p path of 1 GiB at most; empty on failure. */
     static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
 
     /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */

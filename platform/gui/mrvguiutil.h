@@ -79,9 +79,9 @@ public:
     static QStringList writeImageFileFilters();
 
     /**
-     * A file-dialog filter: "Plain text" with "txt" and "text" gives "Plain text (*.txt *.text)".
-     * Suffixes may be given with or without "." or "*."; empty and repeated ones are left out. No
-     * suffix at all gives "(*)", any file.
+     * A file-dialog filter of a @p description and its @p suffixes: "Plain text" with "txt" and
+     * "text" gives "Plain text (*.txt *.text)". Suffixes may be given with or without "." or "*.";
+     * empty and repeated ones are left out. No suffix at all gives "(*)", any file.
      */
     static QString createFormatFilter(const QString &description, const QStringList &suffixes);
 
