@@ -39,7 +39,8 @@ target_compile_definitions(
 #
 # Adds shared library TARGET (and the alias MrvBase::TARGET) with SONAME version 1, and installs it together
 # with its public headers: every header among SOURCES that does not end in _p.h, under
-# include/HEADER_DIR, at its place below INCLUDE_ROOT.
+# include/HEADER_DIR, at its place below INCLUDE_ROOT. The global property MRV_PUBLIC_HEADERS lists them for what reads
+# their comments.
 function(mrv_add_library target)
   cmake_parse_arguments(ARG "" "INCLUDE_ROOT;HEADER_DIR" "SOURCES" ${ARGN})
   add_library(${target} SHARED ${ARG_SOURCES})
@@ -61,6 +62,7 @@ function(mrv_add_library target)
       file(RELATIVE_PATH place "${ARG_INCLUDE_ROOT}" "${file}")
       get_filename_component(folder "${place}" DIRECTORY)
       install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${ARG_HEADER_DIR}/${folder}")
+      set_property(GLOBAL APPEND PROPERTY MRV_PUBLIC_HEADERS "${file}")
     endif()
   endforeach()
 endfunction()
