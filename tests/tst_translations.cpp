@@ -13,6 +13,7 @@
 #include "gui/mrvguiutil.h"
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetscheme.h"
+#include "publish/mrvstagedfiles.h"
 #include "screenplay/mrvfinaldraft.h"
 #include "screenplay/mrvfountainhtml.h"
 #include "scriptmode/mrvscriptmode.h"
@@ -128,6 +129,7 @@ const QMap<QString, Translate> &functions()
         {"MRVShortcut", &MRVShortcut::tr},
         {"MRVShortcutCheck", &MRVShortcutCheck::tr},
         {"MRVShortcutScheme", &MRVShortcutScheme::tr},
+        {"MRVStagedFiles", &MRVStagedFiles::tr},
         {"MRVTextFormat", &MRVTextFormat::tr},
         {"MRVTextPresetScheme", &MRVTextPresetScheme::tr},
         {"MRVTextXhtmlExporter", &MRVTextXhtmlExporter::tr},

@@ -2227,7 +2227,7 @@ Erreur&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1; the old file is kept as %2</source>
-        <translation>%1 ; l’ancien fichier est conservé sous %2</translation>
+        <translation>%1&#xa0;; l’ancien fichier est conservé sous %2</translation>
     </message>
 </context>
 <context>
