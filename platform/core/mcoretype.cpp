@@ -44,17 +44,3 @@ QPair<double, double> MCoreType::toDoublePair(const QString &text, bool *ok)
 {
     return toPair<double>(text, ok);
 }
-
-qint64 MCoreType::readCount(QDataStream &stream)
-{
-    qint32 count = 0;
-    stream >> count;
-    if (stream.status() != QDataStream::Ok) {
-        return 0;
-    }
-    if (count < 0 || count > stream.device()->bytesAvailable()) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return 0;
-    }
-    return count;
-}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrvcheckedstream.h"
 #include "core/mrvcore_export.h"
 
 #include <QByteArray>
@@ -138,12 +139,16 @@ private:
         }
     }
 
-    // Qt's own operators reserve memory for whatever a count says.
+    // Qt's own operators reserve memory for whatever a count or a length says.
     template<typename T>
     static void read(QDataStream &stream, T *value)
     {
         static_assert(!IsContainer<T>::value, "Qt believes any count");
-        stream >> *value;
+        if constexpr (std::is_same_v<T, QString> || std::is_same_v<T, QByteArray>) {
+            MRVCheckedStream(&stream).read(value);
+        } else {
+            stream >> *value;
+        }
     }
     template<typename First, typename Second>
     static void read(QDataStream &stream, QPair<First, Second> *pair)
@@ -180,7 +185,9 @@ private:
     template<typename Entry, typename Insert>
     static void readEntries(QDataStream &stream, const Insert &insert)
     {
-        for (qint64 left = readCount(stream); left > 0; --left) {
+        quint32 count = 0;
+        MRVCheckedStream(&stream).readCount(&count, 1);
+        for (; count > 0; --count) {
             Entry entry{};
             read(stream, &entry);
             if (stream.status() != QDataStream::Ok) {
@@ -189,7 +196,4 @@ private:
             insert(entry);
         }
     }
-
-    // The count of a container, or 0 with a bad status where more entries are promised than bytes.
-    static qint64 readCount(QDataStream &stream);
 };
