@@ -1,6 +1,6 @@
 #include "autoreplace/mrvautoreplace.h"
 
-#include "autoreplace/mrvautoreplacetext_p.h"
+#include "core/mrvcheckedstream.h"
 
 #include <QDataStream>
 
@@ -17,9 +17,11 @@ QDataStream &operator<<(QDataStream &stream, const MRVAutoReplace &entry)
 
 QDataStream &operator>>(QDataStream &stream, MRVAutoReplace &entry)
 {
+    MRVCheckedStream in(&stream);
     qint32 version = 0;
-    stream >> version >> entry.enabled;
-    mrvReadText(stream, &entry.match);
-    mrvReadText(stream, &entry.replacement);
+    in.read(&version);
+    in.read(&entry.enabled);
+    in.read(&entry.match);
+    in.read(&entry.replacement);
     return stream;
 }

@@ -1,7 +1,7 @@
 #include "autoreplace/mrvautoreplacelist.h"
 
 #include "autoreplace/mrvautoreplaceindex_p.h"
-#include "autoreplace/mrvautoreplacetext_p.h"
+#include "core/mrvcheckedstream.h"
 
 #include <QDataStream>
 
@@ -156,27 +156,27 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
     clear();
     QDataStream stream(data);
     stream.setVersion(StreamVersion);
+    MRVCheckedStream in(&stream);
     qint32 version = 0;
     qint32 count = 0;
-    stream >> version;
-    if (version != ListVersion) {
+    if (!in.read(&version) || version != ListVersion) {
         if (error) {
             *error = tr("it is no auto-replace list of a known version");
         }
         return;
     }
-    stream >> count;
-    // The count is only believed as far as the data go.
-    for (qint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    in.read(&count);
+    // Entries before the damage are kept, so a count that is too large is no reason to stop.
+    for (qint32 i = 0; i < count && in.isOk(); ++i) {
         MRVAutoReplace entry;
-        stream >> entry.enabled;
-        mrvReadText(stream, &entry.match);
-        mrvReadText(stream, &entry.replacement);
+        in.read(&entry.enabled);
+        in.read(&entry.match);
+        in.read(&entry.replacement);
         if (!entry.match.isEmpty() || !entry.replacement.isEmpty()) {
             append(entry);
         }
     }
-    if (error && (count < 0 || stream.status() != QDataStream::Ok || !stream.atEnd())) {
+    if (error && (count < 0 || !in.isOk() || !stream.atEnd())) {
         *error = tr("it is damaged or cut short; entries that could be read: %n", nullptr, size());
     }
 }

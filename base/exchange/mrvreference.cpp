@@ -1,7 +1,7 @@
 #include "exchange/mrvreference.h"
 
 #include "core/mcoretype.h"
-#include "exchange/mrvcheckedstream_p.h"
+#include "core/mrvcheckedstream.h"
 
 #include <QDataStream>
 #include <QDebug>
@@ -39,15 +39,14 @@ QDataStream &operator<<(QDataStream &stream, const MRVReference &reference)
 
 QDataStream &operator>>(QDataStream &stream, MRVReference &reference)
 {
+    MRVCheckedStream in(&stream);
     MRVReference read;
     qint16 version = 0;
     QByteArray address;
-    stream >> version;
-    if (mrvReadString(stream, &read.title) && mrvReadBytes(stream, &address)) {
-        read.url.setUrl(QString::fromUtf8(address));
-        stream >> read.internalLink;
-    }
-    reference = stream.status() == QDataStream::Ok ? read : MRVReference();
+    const bool isWhole = in.read(&version) && in.read(&read.title) && in.read(&address)
+        && in.read(&read.internalLink);
+    read.url.setUrl(QString::fromUtf8(address));
+    reference = isWhole ? read : MRVReference();
     return stream;
 }
 

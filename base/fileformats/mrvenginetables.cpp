@@ -2,8 +2,6 @@
 
 #include "core/mcoretype.h"
 
-#include <QDataStream>
-
 #include <iterator>
 
 namespace MRVEngineTables {
@@ -124,35 +122,6 @@ QList<Engine> enginesOf(const Row (&table)[Size], Format format, bool msWord)
     return engines.isEmpty() ? QList<Engine>{QtOwn} : engines;
 }
 
-// Passes over a QString; false where its length is more than what is left. Qt's own reader would
-// first make room for a million characters.
-bool skipText(QDataStream &stream)
-{
-    quint32 size = 0;
-    stream >> size;
-    if (stream.status() != QDataStream::Ok) {
-        return false;
-    }
-    constexpr quint32 nullText = 0xffffffff;
-    return size == nullText
-        || (size <= quint64(stream.device()->bytesAvailable())
-            && stream.skipRawData(int(size)) == int(size));
-}
-
-bool holdsWholeMap(const QByteArray &bytes)
-{
-    QDataStream stream(bytes);
-    stream.setVersion(MCoreType::StreamVersion);
-    quint32 count = 0;
-    stream >> count;
-    for (quint32 i = 0; i < count; ++i) {
-        if (!skipText(stream) || !skipText(stream)) {
-            return false;
-        }
-    }
-    return stream.status() == QDataStream::Ok;
-}
-
 } // namespace
 
 QList<Format> formats(Direction direction, const Applications &applications)
@@ -200,17 +169,13 @@ QByteArray toByteArray(const FormatEngines &engines)
 FormatEngines toFormatEngines(const QByteArray &bytes)
 {
     FormatEngines engines;
-    if (!holdsWholeMap(bytes)) {
-        return engines;
-    }
-    QMap<QString, QString> names;
-    QDataStream stream(bytes);
-    stream.setVersion(MCoreType::StreamVersion);
-    stream >> names; // empty where a length is odd
-    for (auto it = names.cbegin(); it != names.cend(); ++it) {
-        const Format format = MRVFormat::format(it.key());
-        const Engine engine = MRVImportExport::toEngine(it.value());
-        if (format != MRVFormat::NoFormat && engine != MRVImportExport::UnknownEngine) {
+    // The form of a map; of a name that stands there twice, the first counts.
+    const auto names = MCoreType::fromByteArray<QList<QPair<QString, QString>>>(bytes);
+    for (const QPair<QString, QString> &name : names) {
+        const Format format = MRVFormat::format(name.first);
+        const Engine engine = MRVImportExport::toEngine(name.second);
+        if (format != MRVFormat::NoFormat && engine != MRVImportExport::UnknownEngine
+            && !engines.contains(format)) {
             engines.insert(format, engine);
         }
     }

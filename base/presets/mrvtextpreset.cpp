@@ -1,5 +1,6 @@
 #include "presets/mrvtextpreset.h"
 
+#include "core/mrvcheckedstream.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QDataStream>
@@ -49,20 +50,16 @@ QDataStream &operator<<(QDataStream &stream, const MRVTextPreset &preset)
 
 QDataStream &operator>>(QDataStream &stream, MRVTextPreset &preset)
 {
+    MRVCheckedStream in(&stream);
     qint32 version = 0;
-    stream >> version;
-    if (stream.status() != QDataStream::Ok) {
-        return stream;
-    }
-    if (version != Version) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return stream;
+    if (in.read(&version) && version != Version) {
+        in.fail();
     }
     qint32 flags = 0;
     QTextCharFormat charFormat;
     QTextBlockFormat blockFormat;
-    stream >> flags;
-    if (MRVTextFormat::read(stream, &charFormat) && MRVTextFormat::read(stream, &blockFormat)) {
+    if (in.read(&flags) && MRVTextFormat::read(stream, &charFormat)
+        && MRVTextFormat::read(stream, &blockFormat)) {
         preset = MRVTextPreset(charFormat, blockFormat, MRVTextPreset::ApplyFlags(QFlag(flags)));
     }
     return stream;

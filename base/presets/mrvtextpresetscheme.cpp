@@ -1,6 +1,7 @@
 #include "presets/mrvtextpresetscheme.h"
 
 #include "core/mcoretype.h"
+#include "core/mrvcheckedstream.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QDataStream>
@@ -10,8 +11,6 @@
 namespace {
 
 constexpr qint32 Version = 1;
-
-constexpr quint32 NullLength = 0xffffffff;
 
 struct DefaultRow
 {
@@ -61,25 +60,6 @@ MRVTextPreset defaultPreset(const DefaultRow &row)
     blockFormat.setProperty(MRVTextFormat::BlockBaseSpacing, 12.0);
     return {charFormat, blockFormat,
             MRVTextPreset::ApplyCharFormat | MRVTextPreset::ApplyBlockFormat};
-}
-
-// Qt reserves a megabyte and more on the word of a length.
-bool readName(QDataStream &stream, QString *name)
-{
-    quint32 length = 0;
-    stream >> length;
-    if (stream.status() != QDataStream::Ok || length == NullLength) {
-        return stream.status() == QDataStream::Ok;
-    }
-    if (length % 2 != 0 || length > stream.device()->bytesAvailable()) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return false;
-    }
-    name->resize(int(length / 2));
-    for (QChar &unit : *name) {
-        stream >> unit;
-    }
-    return stream.status() == QDataStream::Ok;
 }
 
 } // namespace
@@ -136,31 +116,26 @@ QDataStream &operator<<(QDataStream &stream, const MRVTextPresetScheme &scheme)
 
 QDataStream &operator>>(QDataStream &stream, MRVTextPresetScheme &scheme)
 {
+    MRVCheckedStream in(&stream);
     scheme = MRVTextPresetScheme();
     qint32 version = 0;
     qint32 count = 0;
-    stream >> version;
-    if (stream.status() == QDataStream::Ok && version == Version) {
-        stream >> count;
-    }
-    if (stream.status() != QDataStream::Ok) {
+    if (!in.read(&version)) {
         return stream;
     }
-    if (version != Version || count < 0) {
-        stream.setStatus(QDataStream::ReadCorruptData);
+    if (version != Version || (in.read(&count) && count < 0)) {
+        in.fail();
     }
     // Nothing is reserved for the count; the data ends before a wrong one does.
-    for (; count > 0; --count) {
+    for (; count > 0 && in.isOk(); --count) {
         QString name;
         MRVTextPreset preset;
-        if (!readName(stream, &name)) {
-            break;
+        if (in.read(&name)) {
+            stream >> preset;
         }
-        stream >> preset;
-        if (stream.status() != QDataStream::Ok) {
-            break;
+        if (in.isOk()) {
+            scheme.setPreset(name, preset);
         }
-        scheme.setPreset(name, preset);
     }
     return stream;
 }

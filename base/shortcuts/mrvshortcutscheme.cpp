@@ -1,13 +1,14 @@
 #include "shortcuts/mrvshortcutscheme.h"
 
 #include "core/mcoretype.h"
+#include "core/mrvcheckedstream.h"
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
+#include "core/mrvinputlimits.h"
 
 #include <QDataStream>
 #include <QIODevice>
 #include <QSet>
-#include <QtEndian>
 
 #include <algorithm>
 
@@ -15,49 +16,11 @@ namespace {
 
 using Shortcuts = MRVShortcutScheme::Shortcuts;
 
-// Far longer than four keys with all modifiers.
-constexpr int MaxKeyText = 1024;
-constexpr quint32 NullLength = 0xffffffff;
-
 QList<MRVShortcut::Id> sortedIds(const Shortcuts &shortcuts)
 {
     QList<MRVShortcut::Id> ids = shortcuts.keys();
     std::sort(ids.begin(), ids.end());
     return ids;
-}
-
-// Qt reserves a megabyte or more for any length that the bytes claim.
-bool holdsWhatItClaims(QDataStream &stream)
-{
-    QIODevice *device = stream.device();
-    if (stream.status() != QDataStream::Ok || !device) {
-        return false;
-    }
-    if (device->isSequential()) {
-        return true; // what has not arrived yet cannot be counted
-    }
-    char bytes[sizeof(quint32)];
-    if (device->peek(bytes, sizeof bytes) == qint64(sizeof bytes)) {
-        const quint32 length = stream.byteOrder() == QDataStream::BigEndian
-            ? qFromBigEndian<quint32>(bytes)
-            : qFromLittleEndian<quint32>(bytes);
-        if (length == NullLength || length <= device->bytesAvailable() - qint64(sizeof bytes)) {
-            return true;
-        }
-    }
-    stream.setStatus(QDataStream::ReadPastEnd);
-    return false;
-}
-
-// A QString or QByteArray; false at the first that is not there whole.
-template<typename T>
-bool readValue(QDataStream &stream, T *value)
-{
-    if (!holdsWhatItClaims(stream)) {
-        return false;
-    }
-    stream >> *value;
-    return stream.status() == QDataStream::Ok;
 }
 
 } // namespace
@@ -200,7 +163,7 @@ QStringList MRVShortcutScheme::shortcutGroups() const
 // sequence that is not empty and that no text stands for.
 QKeySequence MRVShortcutScheme::toSequence(const QString &portableText)
 {
-    if (portableText.size() > MaxKeyText) {
+    if (portableText.size() > MRVInputLimits::KeyText) {
         return QKeySequence();
     }
     const QKeySequence sequence(portableText, QKeySequence::PortableText);
@@ -336,10 +299,11 @@ MRVShortcutScheme MRVShortcutScheme::predefinedScheme(const QString &name)
 
 void MRVShortcutScheme::read(QDataStream &stream, QString *error)
 {
+    MRVCheckedStream in(&stream);
     QString version;
     QString name;
     qint32 count = 0;
-    const bool hasVersion = readValue(stream, &version);
+    const bool hasVersion = in.read(&version);
     if (!hasVersion || version != QLatin1String(version_1_0)) {
         if (error) {
             *error = hasVersion ? tr("it is no shortcut scheme of a known version")
@@ -347,16 +311,15 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
         }
         return;
     }
-    if (readValue(stream, &name)) {
+    if (in.read(&name)) {
         m_name = name;
-        stream >> count;
+        in.read(&count);
     }
-    for (; count > 0 && stream.status() == QDataStream::Ok; --count) {
+    for (; count > 0; --count) {
         QByteArray key;
         QString sequence;
         QString text;
-        if (!readValue(stream, &key) || !readValue(stream, &sequence)
-            || !readValue(stream, &text)) {
+        if (!in.read(&key) || !in.read(&sequence) || !in.read(&text)) {
             break;
         }
         const Id id = MRVShortcut::keyToValue(key.constData());
@@ -366,9 +329,9 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
         }
     }
     if (count < 0) {
-        stream.setStatus(QDataStream::ReadCorruptData);
+        in.fail();
     }
-    if (error && stream.status() != QDataStream::Ok) {
+    if (error && !in.isOk()) {
         *error = tr("it is damaged or cut short; shortcuts that could be read: %n", nullptr,
                     m_shortcuts.size());
     }

@@ -1,5 +1,7 @@
 #include "util/mrvmimetypes.h"
 
+#include "core/mcoretype.h"
+#include "core/mrvcheckedstream.h"
 #include "core/mrvcoreutil.h"
 
 #include <QDataStream>
@@ -76,13 +78,12 @@ QPair<QString, QList<int>> MRV::parseProjectNodeMimeType(const QMimeData *mime)
         return nodes;
     }
     QDataStream stream(mime->data(QString::fromLatin1(ProjectNodeMimeType)));
-    stream.setVersion(QDataStream::Qt_5_15);
-    stream >> nodes.first;
-    while (stream.status() == QDataStream::Ok && !stream.atEnd()) {
+    stream.setVersion(MCoreType::StreamVersion);
+    MRVCheckedStream in(&stream);
+    in.read(&nodes.first);
+    while (in.isOk() && !stream.atEnd()) {
         qint32 id = 0;
-        stream >> id;
-        // A read past the end yields an id of 0, which would name a node that was never dragged.
-        if (stream.status() == QDataStream::Ok && id >= 0) {
+        if (in.read(&id) && id >= 0) {
             nodes.second << id;
         }
     }
