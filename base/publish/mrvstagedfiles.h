@@ -73,7 +73,7 @@ public:
     bool publish(QString *error = nullptr);
 
     /**
-     * Replaces one file by @p bytes through the checked writer, in folders that are made where they
+     * Replaces @p file by @p bytes through the checked writer, in folders that are made where they
      * are missing, and removed again on failure. A signal waits for the end of it.
      *
      * @param error if given, receives one translated line that names a file or folder on failure;

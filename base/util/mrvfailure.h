@@ -4,7 +4,7 @@
 
 namespace MRV {
 
-/** Hands a text to a caller that asked for one, and says that a call failed: always false. */
+/** Stores @p text in @p error, unless that is null. Always false, for the caller to return. */
 inline bool fail(QString *error, const QString &text)
 {
     if (error) {
@@ -13,7 +13,7 @@ inline bool fail(QString *error, const QString &text)
     return false;
 }
 
-/** As above, with a text of the form "path: reason". */
+/** As above, with a text of the form "path: reason", of @p path and @p reason. */
 inline bool fail(QString *error, const QString &path, const QString &reason)
 {
     return fail(error, QStringLiteral("%1: %2").arg(path, reason));
