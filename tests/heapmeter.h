@@ -15,7 +15,8 @@ void __libc_free(void *);
 /**
  * How much of the heap the whole program takes, Qt included: this header replaces malloc() and its
  * like, so exactly one source file of a program may include it. Memory that is reserved and never
- * touched counts as well. Under the sanitizers nothing is counted.
+ * touched counts as well. The address sanitizer, which replaces those functions itself, is asked
+ * instead: it tells of each block.
  */
 class HeapMeter
 {
@@ -31,7 +32,7 @@ public:
 
     static void *taken(void *memory, std::size_t size)
     {
-        const long now = s_taken += memory ? long(size) : 0;
+        const long now = s_taken += long(size);
         if (now > s_peak) {
             s_peak = now;
         }
@@ -45,7 +46,15 @@ private:
     static inline std::atomic<long> s_peak{0};
 };
 
-#ifndef MRV_SANITIZE // the sanitizer has replaced them itself
+#ifdef MRV_SANITIZE
+
+#include <sanitizer/allocator_interface.h>
+
+static const int heapHooks = __sanitizer_install_malloc_and_free_hooks(
+    [](const volatile void *, std::size_t size) { HeapMeter::taken(nullptr, size); },
+    [](const volatile void *memory) { HeapMeter::given(__sanitizer_get_allocated_size(memory)); });
+
+#else
 
 extern "C" {
 

@@ -13,6 +13,60 @@ struct Ran
     QString errors;
 };
 
+/** The programs that tests start by name, each with the Debian package that has it. */
+struct OutsideProgram
+{
+    const char *name;
+    const char *package;
+};
+constexpr OutsideProgram outsidePrograms[] = {
+    {"bash", "bash"},
+    {"dpkg-query", "dpkg"},
+    {"ip", "iproute2"},
+    {"java", "default-jre-headless"},
+    {"lighttpd", "lighttpd"},
+    {"nginx", "nginx-light"},
+    {"openssl", "openssl"},
+    {"pkg-config", "pkg-config"},
+    {"readelf", "binutils"},
+    {"script", "bsdutils"},
+    {"setpriv", "util-linux"},
+    {"sh", "dash"},
+    {"strace", "strace"},
+    {"unshare", "util-linux"},
+    {"xmllint", "libxml2-utils"},
+};
+
+inline QString missingText(const QString &program, const QString &package)
+{
+    return QString("%1 is missing; Debian package %2 (packages.txt)").arg(program, package);
+}
+
+/**
+ * Where a program is, which is given by its path or by a name of the table above. The running test
+ * fails where it is missing.
+ */
+inline QString programPath(const QString &program)
+{
+    if (program.contains('/')) {
+        return program;
+    }
+    QString package = "unknown: the table in tests/support.h lacks this program";
+    for (const OutsideProgram &outside : outsidePrograms) {
+        if (program == outside.name) {
+            package = outside.package;
+        }
+    }
+    QString path = QStandardPaths::findExecutable(program);
+    if (path.isEmpty()) {
+        path = QStandardPaths::findExecutable(program, {"/usr/sbin", "/sbin"});
+    }
+    if (path.isEmpty() || package.startsWith("unknown")) {
+        QTest::qFail(qPrintable(missingText(program, package)), __FILE__, __LINE__);
+    }
+    return path;
+}
+
 /** Runs a program to its end; "-1" as exit code when it cannot be started or crashes. */
 inline Ran run(const QString &program, const QStringList &arguments,
                const QStringList &environment = {}, const QByteArray &input = {})
@@ -23,11 +77,11 @@ inline Ran run(const QString &program, const QStringList &arguments,
         variables.insert(assignment.section('=', 0, 0), assignment.section('=', 1));
     }
     process.setProcessEnvironment(variables);
-    process.start(program, arguments);
+    process.start(programPath(program), arguments);
     process.write(input);
     process.closeWriteChannel();
     Ran ran;
-    if (process.waitForFinished(300000) && process.exitStatus() == QProcess::NormalExit) {
+    if (process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit) {
         ran.exitCode = process.exitCode();
     }
     ran.output = QString::fromUtf8(process.readAllStandardOutput());
@@ -49,7 +103,7 @@ inline QString epubErrors(const QString &book)
 {
     const QString jar = "/usr/share/java/epubcheck.jar";
     if (!QFile::exists(jar)) {
-        return jar + " is not installed";
+        return missingText(jar, "epubcheck");
     }
     const Ran ran = run("java", {"-jar", jar, "--failonwarnings", book});
     const bool clean = ran.exitCode == 0 && ran.output.contains("0 fatals / 0 errors / 0 warnings");

@@ -106,9 +106,8 @@ class WebServer
 public:
     WebServer(const QString &program, const QStringList &arguments, const QString &folder)
     {
-        const QString name = QFileInfo(program).fileName();
-        const QString path = folder + '/' + name + ".conf";
-        QByteArray text = bytesOf(MRV_SOURCE_DIR "/tests/data/" + name + ".conf");
+        const QString path = folder + '/' + program + ".conf";
+        QByteArray text = bytesOf(MRV_SOURCE_DIR "/tests/data/" + program + ".conf");
         for (int i = 0; i < 2; ++i) {
             QTcpServer free;
             free.listen(QHostAddress::LocalHost);
@@ -120,8 +119,9 @@ public:
         writeBytes(path, text);
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
         // So that no server outlives a test that was killed.
-        m_process.start(
-            "setpriv", QStringList{"--pdeathsig", "KILL", program} + arguments + QStringList{path});
+        m_process.start(programPath("setpriv"),
+                        QStringList{"--pdeathsig", "KILL", programPath(program)} + arguments
+                            + QStringList{path});
     }
     ~WebServer()
     {
@@ -215,25 +215,17 @@ void tst_Download::initTestCase()
     const Ran ran = run("openssl",
                         {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=other",
                          "-keyout", path + "/key.pem", "-out", path + "/cert.pem"});
-    if (ran.exitCode == 0 && QFile::exists("/usr/sbin/nginx")) {
-        m_nginx =
-            std::make_unique<WebServer>("/usr/sbin/nginx", QStringList{"-p", path, "-c"}, path);
-        QVERIFY(m_nginx->isUp());
-    }
-    if (QFile::exists("/usr/sbin/lighttpd")) {
-        m_lighttpd =
-            std::make_unique<WebServer>("/usr/sbin/lighttpd", QStringList{"-D", "-f"}, path);
-        QVERIFY(m_lighttpd->isUp());
-    }
+    QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
+    m_nginx = std::make_unique<WebServer>("nginx", QStringList{"-p", path, "-c"}, path);
+    QVERIFY(m_nginx->isUp());
+    m_lighttpd = std::make_unique<WebServer>("lighttpd", QStringList{"-D", "-f"}, path);
+    QVERIFY(m_lighttpd->isUp());
 }
 
 QUrl tst_Download::address(const QString &server, const QString &path) const
 {
     if (server == "lighttpd") {
-        return m_lighttpd ? m_lighttpd->url(path) : QUrl();
-    }
-    if (!m_nginx) {
-        return QUrl();
+        return m_lighttpd->url(path);
     }
     return server == "tls" ? m_nginx->secure(path) : m_nginx->url(path);
 }
@@ -249,15 +241,15 @@ void tst_Download::ends()
     QFETCH(QString, limit);
     QFETCH(QString, data);
     QFETCH(QString, error);
-    QUrl url = address(server, answer);
+    QUrl url;
     if (server == "own") {
         const auto how = end == "close" ? RawServer::Close
             : end == "reset"            ? RawServer::Reset
             : end == "slow"             ? RawServer::Trickle
                                         : RawServer::Stall;
         url = m_own.answer("/ends", answer.toLatin1(), how);
-    } else if (url.isEmpty()) {
-        QSKIP("this web server is not installed");
+    } else {
+        url = address(server, answer);
     }
 
     QTemporaryDir folder;
@@ -336,9 +328,6 @@ void tst_Download::interrupted()
 {
     QFETCH(QString, stage);
     QFETCH(QString, action);
-    if (stage == "certificate" && !m_nginx) {
-        QSKIP("nginx is not installed");
-    }
     const QByteArray redirect =
         "HTTP/1.1 302 Found\r\nLocation: /next\r\nContent-Length: 0\r\n\r\n";
     const QByteArray locked = "HTTP/1.1 401 No\r\nContent-Length: 0\r\n"

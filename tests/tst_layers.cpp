@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "support.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -380,6 +381,7 @@ private Q_SLOTS:
     void checkerTellsRightFromWrong();
     void checkoutKeepsTheRules();
     void documentation();
+    void outsidePrograms();
     void startUpCode_data();
     void startUpCode();
 };
@@ -453,6 +455,26 @@ void TestLayers::documentation()
         QDir(MRV_SOURCE_DIR "/base").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     folders.removeOne("resources"); // no code
     QCOMPARE(folders, QStringList(rows.keys()));
+}
+
+/// What a test starts by name is in the base system, or packages.txt has it installed.
+void TestLayers::outsidePrograms()
+{
+    QString packages = '\n' + QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/packages.txt"));
+    packages.truncate(packages.indexOf("\n[ci]"));
+    for (const OutsideProgram &program : ::outsidePrograms) {
+        if (!packages.contains(QString("\n%1 ").arg(program.package))) {
+            const Ran ran = run("dpkg-query", {"-W", "-f", "${Essential}", program.package});
+            QVERIFY2(ran.output == "yes", program.package);
+        }
+    }
+    // A name that is given to a process directly would not be in the table.
+    static const QRegularExpression direct("\\.(start|startDetached|execute)\\(\\s*\"");
+    QDirIterator it(MRV_SOURCE_DIR "/tests", {"*.cpp", "*.h"}, QDir::Files);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        QVERIFY2(!QString::fromUtf8(bytesOf(path)).contains(direct), qPrintable(path));
+    }
 }
 
 void TestLayers::startUpCode_data()

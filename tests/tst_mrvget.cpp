@@ -1,13 +1,10 @@
-#include "datarows.h"
+#include "mrvtool.h"
 #include "rawserver.h"
-#include "support.h"
-
-#include <QTemporaryDir>
 
 #include <csignal>
 
-/** The command that downloads, run as a stranger would. */
-class tst_MrvGet : public QObject
+/** The command that downloads. */
+class tst_MrvGet : public ToolTest
 {
     Q_OBJECT
 
@@ -30,28 +27,28 @@ private Q_SLOTS:
 private:
     RawServer m_server;
     RawServer m_other;
-    QTemporaryDir m_folder;
+    QTemporaryDir m_shared;
     QProcess m_tls; // with a certificate that nobody vouches for
     QString m_tlsHost;
 };
 
 void tst_MrvGet::initTestCase()
 {
-    m_tls.setWorkingDirectory(m_folder.path());
+    m_tls.setWorkingDirectory(m_shared.path());
     QTcpServer free;
     free.listen(QHostAddress::LocalHost);
     const QString host = QString("127.0.0.1:%1").arg(free.serverPort());
     free.close();
     m_tlsHost = "https://" + host;
-    const QString pem = m_folder.filePath("pem");
+    const QString pem = m_shared.filePath("pem");
     QCOMPARE(run("openssl",
                  {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=other", "-keyout",
                   pem, "-out", pem + ".cert"})
                  .exitCode,
              0);
     QVERIFY(
-        writeBytes(m_folder.filePath("page"), "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello"));
-    m_tls.start("openssl",
+        writeBytes(m_shared.filePath("page"), "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello"));
+    m_tls.start(programPath("openssl"),
                 {"s_server", "-HTTP", "-accept", host, "-key", pem, "-cert", pem + ".cert"});
     QString shown;
     QTRY_VERIFY((shown += m_tls.readAll()).contains("ACCEPT"));
@@ -79,21 +76,20 @@ void tst_MrvGet::get()
     QFETCH(QString, arguments);
     QFETCH(QString, input);
     QFETCH(QString, file);
-    QTemporaryDir folder;
     const QString host = m_server.url(QString()).toString();
     if (file.contains("taken")) {
-        QVERIFY(writeBytes(folder.filePath("taken.html"), "old"));
+        QVERIFY(writeBytes(in("taken.html"), "old"));
     }
     // A link that cannot be replaced, to a file that can.
-    const QString locked = folder.filePath("locked");
-    QVERIFY(QDir().mkdir(locked) && QFile::link("../x.txt", locked + "/link"));
+    const QString locked = in("locked");
+    QVERIFY(QDir().mkdir(locked));
+    QVERIFY(QFile::link("../x.txt", locked + "/link"));
     QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner));
     const auto unlock = qScopeGuard([&] {
         QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     });
-    arguments.replace('@', host).replace('$', m_tlsHost).replace('#', folder.path() + '/');
+    arguments.replace('@', host).replace('$', m_tlsHost).replace('#', in("") + '/');
     QProcess tool;
-    tool.setWorkingDirectory(folder.path());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("GET_PASSWORD", "pass");
     tool.setProcessEnvironment(environment);
@@ -106,16 +102,16 @@ void tst_MrvGet::get()
     const auto said = [&](const QByteArray &bytes) {
         return QString::fromUtf8(bytes)
             .trimmed()
-            .replace(folder.path() + '/', "#")
+            .replace(in("") + '/', "#")
             .replace(host, "@")
             .replace(m_tlsHost, "$");
     };
     QTEST(said(tool.readAllStandardError()).remove("mrv: "), "error");
     QTEST(said(tool.readAllStandardOutput()), "output");
     QTEST(QString::number(tool.exitCode()), "code");
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+    QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden),
              file.isEmpty() ? QStringList() : file.split('|'));
-    QTEST(QString::fromLatin1(bytesOf(folder.filePath(file.section('|', 0, 0)))), "bytes");
+    QTEST(QString::fromLatin1(bytesOf(in(file.section('|', 0, 0)))), "bytes");
     const QByteArray password = "Basic " + QByteArray("ann:pass").toBase64();
     const QByteArray requests = m_server.requests().join();
     if (arguments.contains("locked --user")) {
@@ -149,18 +145,20 @@ void tst_MrvGet::terminal()
     m_server.answer("/bar", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
     // Is ignored in what a script has put into the background.
     std::signal(SIGINT, SIG_DFL);
-    QTemporaryDir folder;
     QProcess screen;
-    screen.setWorkingDirectory(folder.path());
+    screen.setProcessChannelMode(QProcess::MergedChannels);
     screen.start(
-        "script",
+        programPath("script"),
         {"-qec",
          "trap : INT; " MRV_TOOL " get " + m_server.url(QString()).toString() + path + "; stty -a",
          "/dev/null"});
     QString shown;
     for (int i = 0, at = 0; i < talk.size(); i += 2) {
-        QTRY_VERIFY2_WITH_TIMEOUT((shown += screen.readAll()).indexOf(talk[i], at) >= 0,
+        // It ends at once where a pseudo terminal cannot be had, and says so.
+        QTRY_VERIFY2_WITH_TIMEOUT((shown += screen.readAll()).indexOf(talk[i], at) >= 0
+                                      || screen.state() == QProcess::NotRunning,
                                   qPrintable(shown), 20000);
+        QVERIFY2((shown += screen.readAll()).indexOf(talk[i], at) >= 0, qPrintable(shown));
         at = shown.indexOf(talk[i], at) + talk[i].size();
         screen.write(talk.value(i + 1).toUtf8());
     }

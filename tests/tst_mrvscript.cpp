@@ -1,11 +1,9 @@
-#include "datarows.h"
-#include "support.h"
+#include "mrvtool.h"
 
-#include <QTemporaryDir>
 #include <QTextCodec>
 
-/** The tool's commands for measures and script modes, run as a stranger would. */
-class tst_MrvScript : public QObject
+/** The tool's commands for measures and script modes. */
+class tst_MrvScript : public ToolTest
 {
     Q_OBJECT
 
@@ -43,40 +41,24 @@ void tst_MrvScript::runRow(const QString &name)
     QFETCH(QString, arguments);
     QFETCH(QString, file);
     QFETCH(QString, output);
-    QFETCH(QString, error);
-    QTemporaryDir folder;
-    const QString path = folder.path() + '/';
-    QVERIFY(writeBytes(path + name, file.toUtf8()));
-    QStringList list = arguments.split(' ');
-    for (QString &argument : list) {
-        argument.replace('@', path).replace(u'␣', ' ').replace(u'␤', '\n');
-    }
-    Ran ran = run(MRV_TOOL, list);
-    ran.output.replace(path, "@");
-    QVERIFY2(output.isEmpty() ? ran.output.isEmpty() : ran.output.contains(output),
-             qPrintable(ran.output));
-    QVERIFY2(error.isEmpty() ? ran.errors.isEmpty()
-                             : ran.errors.contains(error) && ran.errors.count('\n') == 1,
-             qPrintable(ran.errors));
-    QTEST(QString::number(ran.exitCode), "code");
+    QVERIFY(writeBytes(in(name), file.toUtf8()));
+    const Ran ran = mrv(arguments);
+    QCOMPARE(ran.output.isEmpty(), output.isEmpty());
+    QVERIFY2(ran.output.contains(output), qPrintable(ran.output));
+    compareEnd(ran);
 }
 
 // What one call writes, another one checks.
 void tst_MrvScript::written()
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("play.xml");
-    QCOMPARE(
-        run(MRV_TOOL, {"script", "show", "UK Stage Play", "--units", "in", "-o", path}).exitCode,
-        0);
-    QVERIFY(bytesOf(path).contains("<Units>Inches</Units>"));
-    QCOMPARE(run(MRV_TOOL, {"script", "check", path}).exitCode, 0);
+    QCOMPARE(mrv("script show UK␣Stage␣Play --units in -o @play.xml").exitCode, 0);
+    QVERIFY(bytesOf(in("play.xml")).contains("<Units>Inches</Units>"));
+    QCOMPARE(mrv("script check @play.xml").exitCode, 0);
 }
 
 void tst_MrvScript::renamedInEncoding()
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("a.fountain");
+    const QString path = in("a.fountain");
     for (const char *codec : {"UTF-8", "UTF-16LE", "UTF-16BE", "UTF-32LE"}) {
         const auto bytes = [codec](const char *text) {
             const QString marked = QChar(QChar::ByteOrderMark) + QString(text);
@@ -85,49 +67,47 @@ void tst_MrvScript::renamedInEncoding()
                                                                 &state);
         };
         QVERIFY(writeBytes(path, bytes("BOB\r\n  Hi.")));
-        const Ran ran = run(MRV_TOOL, {"script", "rename", "Bob", "Rob", path, "-o", path});
+        const Ran ran = mrv("script rename Bob Rob @a.fountain -o @a.fountain");
         QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
         QCOMPARE(bytesOf(path), bytes("ROB\r\n  Hi."));
     }
 }
 
-// From each format into the next, and a sound e-book from the last.
+// From each format into the next, and a valid e-book from the last.
 void tst_MrvScript::convertedBack()
 {
-    QTemporaryDir folder;
-    const QString path = folder.path() + "/a.";
+    const QString path = in("a.");
     const QByteArray script = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fountain");
     QVERIFY(writeBytes(path + "fountain", script));
     QString from = "fountain";
     for (const QString to : {"html", "fdx", "spmd", "epub"}) {
-        const Ran ran =
-            run(MRV_TOOL, {"script", "convert", path + from, "-o", path + to, "--language", "en"});
+        const QString files = QString("@a.%1 -o @a.%2").arg(from, to);
+        const Ran ran = mrv("script convert " + files + " --language en");
         QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
         from = to;
     }
     QCOMPARE(QString(bytesOf(path + "spmd")), QString(script));
     // Names are changed in place where that loses nothing.
     for (const QString format : {"html", "fdx"}) {
-        const QStringList rename{"script",      "rename", "Ann",        "Ben",
-                                 path + format, "-o",     path + format};
-        const Ran ran = run(MRV_TOOL, rename);
+        const Ran ran = mrv(QString("script rename Ann Ben @a.%1 -o @a.%1").arg(format));
         QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
     }
     QCOMPARE(epubErrors(path + "epub"), QString());
     // The same day, the same bytes; and another day tells that it was that day.
-    const QStringList convert{"script", "convert", path + "fdx", "-o", path + "epub"};
     QByteArray books[3];
     for (const int day : {0, 1, 2}) {
         const QString second = QString::number(day / 2 * 86400);
-        QCOMPARE(run(MRV_TOOL, convert, {"SOURCE_DATE_EPOCH=" + second}).exitCode, 0);
+        const Ran ran =
+            mrv("script convert @a.fdx -o @a.epub", {}, {"SOURCE_DATE_EPOCH=" + second});
+        QCOMPARE(ran.exitCode, 0);
         books[day] = bytesOf(path + "epub");
     }
     QCOMPARE(books[0], books[1]);
     QVERIFY(books[1] != books[2]);
     // In a folder, nothing is replaced unasked.
-    const QString taken = folder.filePath("script.fdx");
+    const QString taken = in("script.fdx");
     QVERIFY(writeBytes(taken, "a"));
-    const Ran into = run(MRV_TOOL, {"script", "convert", "-", "--to", "fdx", "-o", folder.path()});
+    const Ran into = mrv("script convert - --to fdx -o @");
     QVERIFY2(into.errors.contains("exists"), qPrintable(into.errors));
     QCOMPARE(bytesOf(taken), QByteArray("a"));
 }

@@ -1,12 +1,10 @@
-#include "datarows.h"
-#include "support.h"
+#include "mrvtool.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 
-/** The tool's update check, run as a stranger would. */
-class TestMrvUpdate : public QObject
+/** The tool's update check. */
+class TestMrvUpdate : public ToolTest
 {
     Q_OBJECT
 
@@ -23,8 +21,7 @@ private Q_SLOTS:
         QFETCH(QString, arguments);
         QFETCH(QString, output);
         QFETCH(QString, error);
-        QTemporaryDir folder;
-        const QString file = folder.filePath("f");
+        const QString file = in("f");
         QVERIFY(writeBytes(file, feed == "big" ? QByteArray(1048577, ' ') : feed.toUtf8()));
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));

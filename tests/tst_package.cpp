@@ -1,49 +1,10 @@
+#include "support.h"
+
 #include <QDir>
 #include <QDirIterator>
-#include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
 
-namespace {
-
-struct Outcome
-{
-    int code = -1;
-    QString out;
-    QString all; // both channels, for the report of a failure
-};
-
-Outcome run(const QString &program, const QStringList &arguments,
-            const QMap<QString, QString> &variables = {}, const QString &folder = QString())
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // What is tested must be found through the package alone.
-    for (const char *name : {"LD_LIBRARY_PATH", "PKG_CONFIG_PATH", "CMAKE_PREFIX_PATH"}) {
-        environment.remove(name);
-    }
-    for (auto it = variables.cbegin(); it != variables.cend(); ++it) {
-        environment.insert(it.key(), it.value());
-    }
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(folder);
-    process.start(program, arguments);
-    process.waitForFinished(-1);
-    Outcome outcome;
-    outcome.out = QString::fromLocal8Bit(process.readAllStandardOutput());
-    outcome.all = program + ' ' + arguments.join(' ') + '\n' + outcome.out
-        + QString::fromLocal8Bit(process.readAllStandardError()) + process.errorString();
-    if (process.exitStatus() == QProcess::NormalExit) {
-        outcome.code = process.exitCode();
-    }
-    return outcome;
-}
-
-} // namespace
-
-#define VERIFY_RAN(outcome) QVERIFY2((outcome).code == 0, qPrintable((outcome).all))
-
-/// The installed library as a stranger meets it. It is installed into one folder and then moved to
+/// The installed library as another project finds it. It is installed into one folder and then moved to
 /// another, whose name holds a blank: nothing of it may know where it was installed to.
 class TestPackage : public QObject
 {
@@ -60,19 +21,36 @@ private Q_SLOTS:
     void pathsThatCannotBeBuiltAreRefused();
 
 private:
-    static void checkStranger(const QString &program, const QMap<QString, QString> &variables = {});
+    static Ran succeed(const QString &program, const QStringList &arguments = {},
+                       const QStringList &variables = {});
+    static void checkProgram(const QString &program, const QStringList &variables = {});
 
     QTemporaryDir m_folder;
     QString m_prefix;
     const QString m_source = QStringLiteral(MRV_SOURCE_DIR "/tests/package");
 };
 
+// Fails the test where the program does.
+Ran TestPackage::succeed(const QString &program, const QStringList &arguments,
+                         const QStringList &variables)
+{
+    const Ran ran = run(program, arguments, variables);
+    if (ran.exitCode != 0) {
+        QTest::qFail(qPrintable(program + '\n' + ran.output + ran.errors), __FILE__, __LINE__);
+    }
+    return ran;
+}
+
 void TestPackage::initTestCase()
 {
     QVERIFY(m_folder.isValid());
+    // What is tested must be found through the package alone.
+    for (const char *name : {"LD_LIBRARY_PATH", "PKG_CONFIG_PATH", "CMAKE_PREFIX_PATH"}) {
+        qunsetenv(name);
+    }
     const QString first = m_folder.filePath("first");
     m_prefix = m_folder.filePath("moved prefix");
-    VERIFY_RAN(run(MRV_CMAKE, {"--install", MRV_BINARY_DIR, "--prefix", first}));
+    succeed(MRV_CMAKE, {"--install", MRV_BINARY_DIR, "--prefix", first});
     QVERIFY(QDir().rename(first, m_prefix));
 }
 
@@ -114,48 +92,45 @@ void TestPackage::sonames_data()
 void TestPackage::sonames()
 {
     QFETCH(QString, library);
-    const Outcome read =
-        run("readelf", {"-d", "-W", m_prefix + "/" MRV_LIBDIR "/" + library + ".1"});
-    VERIFY_RAN(read);
-    QVERIFY2(read.out.contains("Library soname: [" + library + ".1]"), qPrintable(read.out));
-    QVERIFY2(!read.out.contains(MRV_BINARY_DIR), qPrintable(read.out));
+    const Ran read =
+        succeed("readelf", {"-d", "-W", m_prefix + "/" MRV_LIBDIR "/" + library + ".1"});
+    QVERIFY2(read.output.contains("Library soname: [" + library + ".1]"), qPrintable(read.output));
+    QVERIFY2(!read.output.contains(MRV_BINARY_DIR), qPrintable(read.output));
 }
 
-void TestPackage::checkStranger(const QString &program, const QMap<QString, QString> &variables)
+void TestPackage::checkProgram(const QString &program, const QStringList &variables)
 {
-    const Outcome stranger = run(program, {}, variables);
-    VERIFY_RAN(stranger);
-    QCOMPARE(stranger.out.section('\n', 0, 1), QString("core 2015-10-08\ngui #ffffff"));
-    QVERIFY2(stranger.out.contains("\nnetwork "), qPrintable(stranger.out));
-    QVERIFY2(stranger.out.endsWith("\nbase application/pdf\ntext Datei\n"),
-             qPrintable(stranger.out));
+    const Ran shown = succeed(program, {}, variables);
+    QCOMPARE(shown.output.section('\n', 0, 1), QString("core 2015-10-08\ngui #ffffff"));
+    QVERIFY2(shown.output.contains("\nnetwork "), qPrintable(shown.output));
+    QVERIFY2(shown.output.endsWith("\nbase application/pdf\ntext Datei\n"),
+             qPrintable(shown.output));
 }
 
 void TestPackage::findPackage()
 {
     const QString build = m_folder.filePath("cmake build");
-    VERIFY_RAN(run(MRV_CMAKE,
-                   {"-G", "Ninja", "-S", m_source, "-B", build, "-DCMAKE_PREFIX_PATH=" + m_prefix,
-                    "-DCMAKE_CXX_COMPILER=" MRV_CXX, "-DCMAKE_CXX_FLAGS=" MRV_CXX_FLAGS}));
-    VERIFY_RAN(run(MRV_CMAKE, {"--build", build}));
-    checkStranger(build + "/stranger");
+    succeed(MRV_CMAKE,
+            {"-G", "Ninja", "-S", m_source, "-B", build, "-DCMAKE_PREFIX_PATH=" + m_prefix,
+             "-DCMAKE_CXX_COMPILER=" MRV_CXX, "-DCMAKE_CXX_FLAGS=" MRV_CXX_FLAGS});
+    succeed(MRV_CMAKE, {"--build", build});
+    checkProgram(build + "/other");
     for (const char *name : {"MrvCore", "MrvGui", "MrvNetwork"}) {
-        VERIFY_RAN(run(build + "/only" + name, {}));
+        succeed(build + "/only" + name, {});
     }
     // A program that has no resources finds the translations when it is installed beside them.
-    QCOMPARE(run(build + "/onlyMrvCore", {}).out, QString("en\n"));
+    QCOMPARE(run(build + "/onlyMrvCore", {}).output, QString("en\n"));
     QVERIFY(QFile::copy(build + "/onlyMrvCore", m_prefix + "/bin/onlyMrvCore"));
-    QCOMPARE(run(m_prefix + "/bin/onlyMrvCore", {}).out, QString("en de es fr\n"));
+    QCOMPARE(run(m_prefix + "/bin/onlyMrvCore", {}).output, QString("en de es fr\n"));
 }
 
 void TestPackage::pkgConfig()
 {
     const QString libraries = m_prefix + "/" MRV_LIBDIR;
-    const QMap<QString, QString> variables{{"PKG_CONFIG_PATH", libraries + "/pkgconfig"},
-                                           {"LD_LIBRARY_PATH", libraries}};
-    const Outcome version = run("pkg-config", {"--modversion", "mrvbase"}, variables);
-    VERIFY_RAN(version);
-    QCOMPARE(version.out.trimmed(), QString(MRV_VERSION));
+    const QStringList variables{"PKG_CONFIG_PATH=" + libraries + "/pkgconfig",
+                                "LD_LIBRARY_PATH=" + libraries};
+    const Ran version = succeed("pkg-config", {"--modversion", "mrvbase"}, variables);
+    QCOMPARE(version.output.trimmed(), QString(MRV_VERSION));
 
     // pkg-config writes for a shell, which alone reads its backslashes right.
     const QString script = QStringLiteral(
@@ -163,20 +138,18 @@ void TestPackage::pkgConfig()
         " $(pkg-config --variable=resources mrvbase) $(pkg-config --libs mrvbase)\" && "
         "exec \"$COMPILER\" -std=c++17 -Wall -Wextra -Werror $FLAGS -o \"$PROGRAM\" \"$@\"");
     const QString program = m_folder.filePath("by pkg-config");
-    QMap<QString, QString> settings = variables;
-    settings.insert("COMPILER", MRV_CXX);
-    settings.insert("FLAGS", MRV_CXX_FLAGS);
-    settings.insert("PROGRAM", program);
-    VERIFY_RAN(run("sh", {"-c", script}, settings, m_source));
-    checkStranger(program, variables);
+    QVERIFY(QDir::setCurrent(m_source));
+    succeed("sh", {"-c", script},
+            variables
+                + QStringList{"COMPILER=" MRV_CXX, "FLAGS=" MRV_CXX_FLAGS, "PROGRAM=" + program});
+    checkProgram(program, variables);
 }
 
 /// The tool finds its libraries from where it lies, and needs no display.
 void TestPackage::toolRuns()
 {
-    const Outcome version = run(m_prefix + "/bin/mrv", {"--version"});
-    VERIFY_RAN(version);
-    QVERIFY2(version.out.contains(MRV_VERSION), qPrintable(version.all));
+    const Ran version = succeed(m_prefix + "/bin/mrv", {"--version"});
+    QVERIFY2(version.output.contains(MRV_VERSION), qPrintable(version.output));
 }
 
 void TestPackage::pathsThatCannotBeBuiltAreRefused()
@@ -184,9 +157,11 @@ void TestPackage::pathsThatCannotBeBuiltAreRefused()
     const QString tools = m_folder.filePath("writer's checkout/tools");
     QVERIFY(QDir().mkpath(tools));
     QVERIFY(QFile::copy(MRV_SOURCE_DIR "/tools/setup.sh", tools + "/setup.sh"));
-    const Outcome build = run("bash", {"-c", ". ./setup.sh; mrv_build release"}, {}, tools);
-    QCOMPARE(build.code, 1);
-    QVERIFY2(build.all.contains("/writer's checkout holds an apostrophe"), qPrintable(build.all));
+    QVERIFY(QDir::setCurrent(tools));
+    const Ran build = run("bash", {"-c", ". ./setup.sh; mrv_build release"});
+    QCOMPARE(build.exitCode, 1);
+    QVERIFY2(build.errors.contains("/writer's checkout holds an apostrophe"),
+             qPrintable(build.errors));
     QVERIFY(!QFile::exists(m_folder.filePath("writer's checkout/build")));
 }
 

@@ -309,6 +309,7 @@ private Q_SLOTS:
         QVERIFY(!hasDefaultRoute || MrvNetwork::isNetworkConnected());
         // A process in a network of its own sees nothing but the loopback, which it brings up.
         const QString script = "ip link set lo up && exec \"$0\" --print-network";
+        programPath("ip");
         const Ran ran = run("unshare",
                             {"--user", "--map-root-user", "--net", "sh", "-c", script,
                              QCoreApplication::applicationFilePath()});

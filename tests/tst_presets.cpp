@@ -1,10 +1,7 @@
-#include "datarows.h"
+#include "mrvtool.h"
 #include "options/mrvoptions.h"
 #include "state/mrvtextpresetmgr.h"
-#include "support.h"
 #include "textformat/mrvtextformat.h"
-
-#include <QTemporaryDir>
 
 using P = MRVTextPreset;
 using Scheme = MRVTextPresetScheme;
@@ -39,15 +36,16 @@ QByteArray sampleBytes()
 } // namespace
 
 /** Text presets and what is stored of them. */
-class tst_Presets : public QObject
+class tst_Presets : public ToolTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder.reset(new QTemporaryDir);
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
+        ToolTest::init();
+        qputenv("XDG_DATA_HOME", QFile::encodeName(in("home")));
+        QVERIFY(QDir().mkdir("home"));
         QCoreApplication::setOrganizationName("Morvane");
         QCoreApplication::setApplicationName("Morvane");
         mrvOptions()->remove("TextEditing");
@@ -120,7 +118,7 @@ private Q_SLOTS:
     }
     void manager()
     {
-        const QString path = in("Morvane/Morvane/TextPresets/TextPresets.bin");
+        const QString path = in("home/Morvane/Morvane/TextPresets/TextPresets.bin");
         QVERIFY(MRVTextPresetMgr::loadPresetScheme() == Scheme::defaultScheme());
         mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray(sample()));
         MRVTextPresetMgr *manager = MRVTextPresetMgr::instance();
@@ -141,7 +139,7 @@ private Q_SLOTS:
     }
     void managerWithoutFolder()
     {
-        QVERIFY(writeBytes(in("Morvane"), "in the way"));
+        QVERIFY(writeBytes(in("home/Morvane"), "in the way"));
         QCOMPARE(MRVTextPresetMgr::presetSchemeFilePath(), QString());
         MRVTextPresetMgr manager;
         QVERIFY(manager.presetScheme() == Scheme::defaultScheme());
@@ -167,9 +165,9 @@ private Q_SLOTS:
         QVERIFY(writeBytes(in("damaged"), sampleBytes().left(50)));
         for (QStringList row : rowsOf("mrv-presets.tsv")) {
             const QString line = row.at(0);
-            const Ran ran = mrv(line);
-            QVERIFY2(QString::number(ran.exitCode) == row.at(1), qPrintable(line + ran.errors));
-            QVERIFY2(ran.output == row.value(2), qPrintable(line + ran.output));
+            const Ran ran = mrv("presets " + line);
+            QCOMPARE(line + ": " + QString::number(ran.exitCode), line + ": " + row.at(1));
+            QCOMPARE(ran.output, row.value(2));
             QCOMPARE(ran.errors.count('\n'), ran.exitCode == 0 ? 0 : 1);
             QVERIFY2(ran.errors.contains(row.value(3)), qPrintable(ran.errors));
         }
@@ -177,18 +175,6 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(MRVTextPresetMgr::presetSchemeFilePath()),
                  QByteArray::fromHex("0000000100000001") + sampleBytes().mid(38));
     }
-
-private:
-    QString in(const QString &name) const { return m_folder->filePath(name); }
-    Ran mrv(const QString &arguments) const
-    {
-        return run(MRV_TOOL,
-                   QStringList{"presets"}
-                       + QString(arguments).replace('@', m_folder->path() + '/').split(' '),
-                   {"XDG_CONFIG_HOME=" + in("config"), "XDG_DATA_HOME=" + m_folder->path()});
-    }
-
-    QScopedPointer<QTemporaryDir> m_folder;
 };
 
 QTEST_MAIN(tst_Presets)

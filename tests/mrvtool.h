@@ -1,0 +1,70 @@
+#pragma once
+
+#include "datarows.h"
+#include "support.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+/**
+ * What the tests of the command-line tool share. Each test function has a temporary folder of its
+ * own, in which the tool runs and keeps the user's settings and presets, so that nothing is written
+ * anywhere else.
+ */
+class ToolTest : public QObject
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+    }
+
+protected:
+    QString in(const QString &name) const { return m_folder->filePath(name); }
+
+    /** In a row "@" stands for the test's folder, "␣" a blank, "␤" a new line and "␠" nothing. */
+    QString filled(QString text) const
+    {
+        text.replace('@', m_folder->path() + '/').replace(u'␣', ' ').replace(u'␤', '\n');
+        return text.remove(u'␠');
+    }
+
+    Ran mrv(const QStringList &arguments, const QByteArray &input = {},
+            const QStringList &environment = {}) const
+    {
+        const QString home = in("home");
+        Ran ran = run(MRV_TOOL, arguments,
+                      QStringList{"XDG_CONFIG_HOME=" + home, "XDG_DATA_HOME=" + home} + environment,
+                      input);
+        ran.output.replace(m_folder->path() + '/', "@");
+        ran.errors.replace(m_folder->path() + '/', "@");
+        return ran;
+    }
+
+    /** The same with arguments separated by blanks, each of them filled(). */
+    Ran mrv(const QString &arguments, const QByteArray &input = {},
+            const QStringList &environment = {}) const
+    {
+        QStringList list;
+        for (const QString &argument : arguments.isEmpty() ? list : arguments.split(' ')) {
+            list << filled(argument);
+        }
+        return mrv(list, input, environment);
+    }
+
+    /** Compares the exit code and the error, one line that holds a text or none, with the row's. */
+    static void compareEnd(const Ran &ran)
+    {
+        QFETCH(QString, error);
+        QCOMPARE(ran.errors.isEmpty(), error.isEmpty());
+        QVERIFY2(ran.errors.contains(error), qPrintable(ran.errors));
+        QCOMPARE(ran.errors.count('\n'), int(!error.isEmpty()));
+        QTEST(QString::number(ran.exitCode), "code");
+    }
+
+private:
+    QScopedPointer<QTemporaryDir> m_folder;
+};
