@@ -2,9 +2,9 @@
 
 #include "command.h"
 
-#include "htmlsource.h"
-
 #include "document/mtextdoc.h"
+#include "input/mrvhtmlreader.h"
+#include "input/mrvtextdecoder.h"
 #include "textformat/mrvtextformat.h"
 
 #include "core/mrvcoreutil.h"
@@ -48,10 +48,8 @@ bool fail(QString *error, const QString &path, const QString &reason)
 QString formatOf(const QString &path, const QByteArray &bytes)
 {
     if (path == QLatin1String("-")) {
-        constexpr int StartSize = 65536;
-        QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
-        return looksLikeHtml(codec->toUnicode(bytes.left(StartSize))) ? QStringLiteral("html")
-                                                                      : QStringLiteral("text");
+        return MRVHtmlReader::looksLikeHtml(bytes) ? QStringLiteral("html")
+                                                   : QStringLiteral("text");
     }
     const QString suffix = QFileInfo(path).suffix().toLower();
     for (const auto &known : formats) {
@@ -62,34 +60,21 @@ QString formatOf(const QString &path, const QByteArray &bytes)
     return suffix.isEmpty() ? QStringLiteral("text") : QString();
 }
 
-// A byte order mark tells before all else, an XML declaration before what stands in the head.
-QTextCodec *declaredCodec(const QByteArray &bytes, const QString &format, QByteArray *name)
-{
-    QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
-    QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr);
-    if (marked || format != QLatin1String("html")) {
-        return marked ? marked : utf8;
-    }
-    *name = xmlEncoding(bytes);
-    // A declaration that can be read byte by byte is not in the encoding that it claims here.
-    const bool wide = name->toUpper().startsWith("UTF-16") || name->toUpper().startsWith("UTF-32");
-    return name->isEmpty() || wide ? QTextCodec::codecForHtml(bytes, utf8)
-                                   : QTextCodec::codecForName(*name);
-}
-
 bool decoded(const QByteArray &bytes, const QString &format, const QString &encoding, QString *text,
              QByteArray *used, QString *reason)
 {
-    QByteArray name = encoding.toLatin1();
-    QTextCodec *codec =
-        encoding.isEmpty() ? declaredCodec(bytes, format, &name) : QTextCodec::codecForName(name);
+    const auto declaration = format == QLatin1String("html") ? MRVTextDecoder::HtmlDeclaration
+                                                             : MRVTextDecoder::Undeclared;
+    const QByteArray name =
+        encoding.isEmpty() ? MRVTextDecoder::encodingOf(bytes, declaration) : encoding.toLatin1();
+    const QTextCodec *codec = QTextCodec::codecForName(name);
     if (!codec) {
         *reason = QStringLiteral("unknown encoding '%1'; give a known one with --encoding")
                       .arg(QString::fromLatin1(name));
         return false;
     }
     *used = codec->name();
-    if (!MRVCoreUtil::decodeText(bytes, used->constData(), text)) {
+    if (!MRVTextDecoder::decode(bytes, *used, text)) {
         *reason = QStringLiteral("not readable as %1; give the right encoding with --encoding")
                       .arg(QString::fromLatin1(codec->name()));
         return false;
@@ -212,14 +197,14 @@ namespace {
 bool readText(const QString &text, const QString &format, DocumentInput *input, QString *reason)
 {
     const bool html = format == QLatin1String("html");
-    if (html && isHtmlNestedDeeper(text, DeepestNesting)) {
+    if (html && MRVHtmlReader::isNestedDeeper(text, DeepestNesting)) {
         *reason =
             QStringLiteral("elements are nested more than %1 levels deep").arg(DeepestNesting);
         return false;
     }
     input->document = newDocument(text, format);
     if (html) {
-        const HtmlHead head = readHtmlHead(text);
+        const MRVHtmlHead head = MRVHtmlReader::head(text);
         input->authors = head.authors;
         input->description = head.description;
         input->language = head.language;

@@ -1,10 +1,10 @@
 #include "command.h"
 #include "documentinput.h"
-#include "htmlsource.h"
 #include "pageexport.h"
 
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvstagedfiles.h"
+#include "util/mrvnames.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include "core/mrvcoreutil.h"
@@ -233,7 +233,7 @@ int readMetadata(const QCommandLineParser &parser, Options *options)
     metadata.description = value("description");
     metadata.rights = value("rights");
     options->coverFile = value("cover");
-    metadata.language = languageTag(value("language"));
+    metadata.language = MRV::languageTag(value("language"));
     if (metadata.language.isEmpty() && !value("language").isEmpty()) {
         return usageError(QStringLiteral("'%1' is not the tag of a language such as en-GB")
                               .arg(value("language")));

@@ -1,6 +1,5 @@
 #include "command.h"
 #include "documentinput.h"
-#include "htmlsource.h"
 #include "scriptcommand.h"
 #include "textsearch.h"
 
@@ -12,6 +11,7 @@
 #include "screenplay/mrvscriptdocument.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvnames.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -311,7 +311,7 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
             QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
     }
     const QString language = parser.value(QStringLiteral("language"));
-    options->language = languageTag(language);
+    options->language = MRV::languageTag(language);
     if (options->language.isEmpty() && !language.isEmpty()) {
         return scriptUsageError(
             QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
@@ -359,7 +359,7 @@ int runScriptConvert(const QStringList &arguments)
         return failure(error);
     }
     const QString language =
-        options.language.isEmpty() ? languageTag(script.language) : options.language;
+        options.language.isEmpty() ? MRV::languageTag(script.language) : options.language;
     if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
         || !writeScript(bytes, options.output, &error)) {
         return failure(error);

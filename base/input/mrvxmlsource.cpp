@@ -1,5 +1,7 @@
 #include "input/mrvxmlsource.h"
 
+#include "input/mrvtextdecoder.h"
+
 #include "core/mrvcoreutil.h"
 
 #include <QCoreApplication>
@@ -159,7 +161,7 @@ void hideOuterType(QString *xml)
 
 QString mrvXmlLineText(qint64 line, const QString &text)
 {
-    return Messages::tr("line %1: %2").arg(QString::number(line), text);
+    return MRVTextFault{text, int(line)}.toString();
 }
 
 bool mrvDecodeXml(const QByteArray &xml, QString *text, QString *error)
@@ -197,8 +199,7 @@ bool mrvXmlText(const QByteArray &xml, QString *text, QString *error)
 bool mrvIsXmlRead(const QXmlStreamReader &xml, QString *error)
 {
     if (xml.hasError() && error) {
-        *error = QCoreApplication::translate("MRVScriptXml", "line %1: %2")
-                     .arg(QString::number(xml.lineNumber()), xml.errorString());
+        *error = mrvXmlLineText(xml.lineNumber(), xml.errorString());
     }
     return !xml.hasError();
 }

@@ -1,5 +1,7 @@
 #include "util/mrvnames.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 constexpr char16_t SpecialChars[] = u"*:/\\?<>|=;[],.^%";
@@ -104,4 +106,12 @@ const QSet<QChar> &MRV::specialFileNameChars()
         return set;
     }();
     return chars;
+}
+
+QString MRV::languageTag(const QString &text)
+{
+    static const QRegularExpression tag(
+        QStringLiteral("^(?:[A-Za-z]{2,8}|[iIxX](?=-))(?:-[A-Za-z0-9]{1,8})*$"));
+    const QString normal = QString(text).replace(u'_', u'-');
+    return tag.match(normal).hasMatch() ? normal : QString();
 }

@@ -47,4 +47,11 @@ MRVBASE_EXPORT QString cleanFileNameRegExp(const QString &name);
  */
 MRVBASE_EXPORT const QSet<QChar> &specialFileNameChars();
 
+/**
+ * The tag of a language as BCP 47 writes it ("fr_FR" gives "fr-FR"); empty for a malformed one.
+ *
+ * @since 1.0
+ */
+MRVBASE_EXPORT QString languageTag(const QString &text);
+
 } // namespace MRV

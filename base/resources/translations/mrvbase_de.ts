@@ -705,19 +705,8 @@ Fehler: %2</translation>
         <translation>Es gibt mehr als %1 Skriptelemente</translation>
     </message>
     <message>
-        <source>line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
-    </message>
-    <message>
         <source>it is larger than %1 bytes</source>
         <translation>Die Datei ist größer als %1 Bytes</translation>
-    </message>
-</context>
-<context>
-    <name>MRVScriptXml</name>
-    <message>
-        <source>line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2217,13 @@ Fehler: %2</translation>
     <message>
         <source>%1; the old file is kept as %2</source>
         <translation>%1; die alte Datei liegt unter %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextFault</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>

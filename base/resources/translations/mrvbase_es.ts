@@ -705,19 +705,8 @@ Error: %2</translation>
         <translation>hay más de %1 elementos de guion</translation>
     </message>
     <message>
-        <source>line %1: %2</source>
-        <translation>línea %1: %2</translation>
-    </message>
-    <message>
         <source>it is larger than %1 bytes</source>
         <translation>ocupa más de %1 bytes</translation>
-    </message>
-</context>
-<context>
-    <name>MRVScriptXml</name>
-    <message>
-        <source>line %1: %2</source>
-        <translation>línea %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2217,13 @@ Error: %2</translation>
     <message>
         <source>%1; the old file is kept as %2</source>
         <translation>%1; el archivo anterior se conserva como %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextFault</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
     </message>
 </context>
 <context>

@@ -705,19 +705,8 @@ Erreur&#xa0;: %2</translation>
         <translation>il y a plus de %1 éléments de script</translation>
     </message>
     <message>
-        <source>line %1: %2</source>
-        <translation>ligne %1&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>it is larger than %1 bytes</source>
         <translation>le fichier dépasse %1 octets</translation>
-    </message>
-</context>
-<context>
-    <name>MRVScriptXml</name>
-    <message>
-        <source>line %1: %2</source>
-        <translation>ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2217,13 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>%1; the old file is kept as %2</source>
         <translation>%1&#xa0;; l’ancien fichier est conservé sous %2</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextFault</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,9 @@
-#include "htmlsource.h"
+#include "input/mrvhtmlreader.h"
+
+#include "util/mrvnames.h"
 
 #include <QRegularExpression>
+#include <QTextCodec>
 #include <QTextDocument>
 #include <QVector>
 
@@ -144,7 +147,7 @@ QString attribute(const Tag &tag, const QString &name)
     return QString();
 }
 
-void readMeta(const Tag &tag, HtmlHead *head, QString *creator)
+void readMeta(const Tag &tag, MRVHtmlHead *head, QString *creator)
 {
     const QString content = attribute(tag, QStringLiteral("content"));
     QString name = attribute(tag, QStringLiteral("name")).toLower();
@@ -163,7 +166,7 @@ void readMeta(const Tag &tag, HtmlHead *head, QString *creator)
     } else if (name == QLatin1String("description") && head->description.isEmpty()) {
         head->description = content;
     } else if (name == QLatin1String("language") && head->language.isEmpty()) {
-        head->language = languageTag(content);
+        head->language = MRV::languageTag(content);
     }
 }
 
@@ -184,16 +187,16 @@ void closeElement(QVector<QString> *open, const QString &group, bool stopAtBarri
 
 } // namespace
 
-HtmlHead readHtmlHead(const QString &html)
+MRVHtmlHead MRVHtmlReader::head(const QString &html)
 {
-    HtmlHead head;
+    MRVHtmlHead head;
     QString creator;
     TagReader reader(html);
     for (Tag tag; reader.next(&tag) && tag.name != QLatin1String("body");) {
         if (tag.name == QLatin1String("html") && !tag.end) {
             for (const char *name : {"lang", "xml:lang"}) {
                 if (head.language.isEmpty()) {
-                    head.language = languageTag(attribute(tag, QLatin1String(name)));
+                    head.language = MRV::languageTag(attribute(tag, QLatin1String(name)));
                 }
             }
         } else if (tag.name == QLatin1String("meta")) {
@@ -208,11 +211,14 @@ HtmlHead readHtmlHead(const QString &html)
     return head;
 }
 
-bool looksLikeHtml(const QString &start)
+bool MRVHtmlReader::looksLikeHtml(const QByteArray &bytes)
 {
+    constexpr int StartSize = 64 * 1024;
     static const QRegularExpression prologue(
         QStringLiteral("^(?:\\x{FEFF}|\\s+|<\\?xml\\b[^>]*>|<!--.*?-->)*+"),
         QRegularExpression::DotMatchesEverythingOption);
+    const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"));
+    const QString start = codec->toUnicode(bytes.left(StartSize));
     const QString text = start.mid(prologue.match(start).capturedLength());
     // Not every text with a tag somewhere in it.
     return text.startsWith(u'<')
@@ -220,17 +226,7 @@ bool looksLikeHtml(const QString &start)
             || Qt::mightBeRichText(text));
 }
 
-QByteArray xmlEncoding(const QByteArray &bytes)
-{
-    static const QRegularExpression declaration(
-        QStringLiteral("^\\s*<\\?xml\\b[^>]*?\\bencoding\\s*=\\s*[\"']([A-Za-z][\\w.-]*)[\"']"));
-    constexpr int LongestDeclaration = 1000;
-    return declaration.match(QString::fromLatin1(bytes.left(LongestDeclaration)))
-        .captured(1)
-        .toLatin1();
-}
-
-bool isHtmlNestedDeeper(const QString &html, int levels)
+bool MRVHtmlReader::isNestedDeeper(const QString &html, int levels)
 {
     QVector<QString> open;
     TagReader reader(html);
@@ -249,12 +245,4 @@ bool isHtmlNestedDeeper(const QString &html, int levels)
         }
     }
     return false;
-}
-
-QString languageTag(const QString &text)
-{
-    static const QRegularExpression tag(
-        QStringLiteral("^(?:[A-Za-z]{2,8}|[iIxX](?=-))(?:-[A-Za-z0-9]{1,8})*$"));
-    const QString normal = QString(text).replace(u'_', u'-');
-    return tag.match(normal).hasMatch() ? normal : QString();
 }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QString>
+#include <QStringList>
+
+/**
+ * What the head of an HTML page says about the page; empty where it says nothing.
+ *
+ * @since 1.0
+ */
+struct MRVHtmlHead
+{
+    /** Each once, in order: the meta elements "author", or else the first "creator". */
+    QStringList authors;
+    QString description;
+    /** A well-formed tag, as MRV::languageTag() gives it. */
+    QString language;
+};
+
+/**
+ * What can be asked of an HTML page before Qt's reader of rich text gets it.
+ *
+ * All functions take any text, take time linear in it, and read tags as a browser does: names in
+ * any case, comments, scripts and styles passed over, end tags left out where they may be.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVHtmlReader
+{
+public:
+    MRVHtmlReader() = delete;
+
+    /** Reads the attributes of the element html and the meta elements of the head. */
+    static MRVHtmlHead head(const QString &html);
+
+    /**
+     * Whether bytes without a name are a page or a fragment of HTML: whether they begin with a tag,
+     * after white space, comments and an XML declaration. Only the first 64 KiB are looked at.
+     */
+    static bool looksLikeHtml(const QByteArray &bytes);
+
+    /**
+     * Whether elements lie more than @p levels deep. Qt's reader of rich text takes time that grows
+     * with the square of the depth.
+     */
+    static bool isNestedDeeper(const QString &html, int levels);
+};
