@@ -61,7 +61,7 @@ public:
     bool operator!=(const MRVFernwickDropItem &other) const { return !(*this == other); }
 
 private:
-    friend class DropItemReader;
+    friend class DropItemStream;
 
     QString m_label;
     QVariant m_payload;
@@ -69,8 +69,9 @@ private:
 Q_DECLARE_METATYPE(MRVFernwickDropItem)
 
 /**
- * qint32 format version 1, QString label, QVariant payload. Nothing is written, and the stream's
- * status is WriteFailed, where the payload holds what could not be read again.
+ * qint32 format version 1, QString label, QVariant payload, in MCoreType::StreamVersion. Nothing is
+ * written, and the stream's status is WriteFailed, where the payload holds what could not be read
+ * again.
  *
  * @since 1.0
  */
@@ -81,9 +82,8 @@ MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDro
  * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, booleans, points,
  * sizes, rectangles, UUIDs, times without a named zone, byte arrays, addresses, items, and lists
  * and maps of them, 32 levels deep. Where they hold anything else or end too early, the stream's
- * status tells and
- * @p item is a default one. Pictures beyond 512 MiB together, when decoded, are null. A picture may
- * come in another format than it had, as PNG knows fewer.
+ * status tells and @p item is a default one. Pictures beyond 512 MiB together, when decoded, are
+ * null. A picture may come in another format than it had, as PNG knows fewer.
  *
  * @since 1.0
  */

@@ -1,6 +1,7 @@
 #include "settings/mrvsettingsguard_p.h"
 
-#include <QColor>
+#include "input/mrvvariantguard.h"
+
 #include <QDataStream>
 #include <QMetaType>
 
@@ -10,200 +11,13 @@
 
 namespace {
 
-// Lists in lists; nobody nests settings deeper.
-constexpr int MaxDepth = 8;
-
-// The types that have other numbers in the stream version Qt_4_0; those that it does not know,
-// whose name follows, are User.
-quint32 typeOf(quint32 stored)
+// A value that only ends too early does no harm: Qt sees that by itself.
+bool isHarmless(const QByteArray &bytes, MRVVariantGuard::Form form)
 {
-    constexpr quint32 User = 127;
-    constexpr quint32 FirstMoved = 128;
-    constexpr quint32 MovedBy = 97;
-    if (stored == User) {
-        return QMetaType::User;
-    }
-    return stored >= FirstMoved && stored < QMetaType::User ? stored - MovedBy : stored;
+    QDataStream stream(bytes);
+    return !MRVVariantGuard::take(stream, form).isEmpty()
+        || stream.status() == QDataStream::ReadPastEnd;
 }
-
-// Sizes in the stream version that QSettings writes, Qt_4_0; -1 for types that have none.
-int fixedSize(quint32 type)
-{
-    switch (type) {
-    case QMetaType::Bool:
-    case QMetaType::Char:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-        return 1;
-    case QMetaType::QChar:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-        return 2;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Float:
-    case QMetaType::QDate:
-    case QMetaType::QTime:
-        return 4;
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-    case QMetaType::QSize:
-    case QMetaType::QPoint:
-        return 8;
-    case QMetaType::QDateTime:
-        return 9;
-    case QMetaType::QRect:
-    case QMetaType::QSizeF:
-    case QMetaType::QPointF:
-    case QMetaType::QLine:
-    case QMetaType::QUuid:
-        return 16;
-    case QMetaType::QRectF:
-    case QMetaType::QLineF:
-        return 32;
-    default:
-        return -1;
-    }
-}
-
-class Walker
-{
-public:
-    explicit Walker(const QByteArray &bytes)
-        : m_stream(bytes)
-    {
-    }
-
-    // A simple value that ends too early does no harm: its reader sees that.
-    bool isSafe(int depth = 0)
-    {
-        quint32 type = 0;
-        m_stream >> type;
-        type = typeOf(type);
-        if (const int size = fixedSize(type); size >= 0) {
-            return skip(size);
-        }
-        switch (type) {
-        case QMetaType::UnknownType: // an empty text stands for the value
-        case QMetaType::QString:
-        case QMetaType::QByteArray:
-        case QMetaType::QUrl:
-        case QMetaType::QLocale:
-            return skipText();
-        case QMetaType::QColor:
-            return skipColor();
-        case QMetaType::User:
-            return skipUuid();
-        case QMetaType::QBitArray:
-            return skipBits();
-        case QMetaType::QFont:
-            return depth == 0;
-        case QMetaType::QStringList:
-        case QMetaType::QByteArrayList:
-            return skipEntries([this] { return skipText(); });
-        case QMetaType::QVariantList:
-            return depth < MaxDepth && skipEntries([&] { return isSafe(depth + 1); });
-        case QMetaType::QVariantMap:
-        case QMetaType::QVariantHash:
-            return depth < MaxDepth && skipEntries([&] { return skipText() && isSafe(depth + 1); });
-        default:
-            return false;
-        }
-    }
-
-    // Of the stream version Qt_5_6, which QSettings writes for dates with a time.
-    bool isSafeDateTime()
-    {
-        constexpr int DateAndTime = 12;
-        quint32 type = 0;
-        qint8 isNull = 0;
-        qint8 spec = 0;
-        m_stream >> type >> isNull;
-        if (type != QMetaType::QDateTime) {
-            return type == QMetaType::UnknownType;
-        }
-        if (!skip(DateAndTime)) {
-            return false;
-        }
-        m_stream >> spec;
-        return spec != Qt::TimeZone || skipZone();
-    }
-
-private:
-    qint64 left() const { return m_stream.device()->bytesAvailable(); }
-    bool skip(qint64 size) { return m_stream.skipRawData(int(size)) >= 0; }
-
-    // The kind of colour is taken for one of the enumeration, whatever it is.
-    bool skipColor()
-    {
-        qint8 spec = 0;
-        m_stream >> spec;
-        return spec >= QColor::Invalid && spec <= QColor::ExtendedRgb
-            && skip(5 * int(sizeof(quint16)));
-    }
-
-    bool skipText()
-    {
-        quint32 length = 0;
-        m_stream >> length;
-        if (length == 0xffffffff) {
-            return true;
-        }
-        return length <= left() && skip(length);
-    }
-
-    bool skipBits()
-    {
-        quint32 count = 0;
-        m_stream >> count;
-        const qint64 size = (qint64(count) + 7) / 8;
-        return size <= left() && skip(size);
-    }
-
-    // Of what is stored by its name only identifiers are known here.
-    bool skipUuid()
-    {
-        static constexpr char Name[] = "QUuid";
-        constexpr int Size = 16;
-        quint32 length = 0;
-        m_stream >> length;
-        char name[sizeof(Name)] = {};
-        return length == sizeof(Name) && m_stream.readRawData(name, sizeof(Name)) == sizeof(Name)
-            && std::memcmp(name, Name, sizeof(Name)) == 0 && skip(Size);
-    }
-
-    // A name; of a zone that has none, its offset and texts follow a text that says so.
-    bool skipZone()
-    {
-        constexpr int Number = 4;
-        return skipText()
-            && (left() < Number
-                || (skipText() && skip(Number) && skipText() && skipText() && skip(Number)
-                    && skipText()));
-    }
-
-    // Each entry has a length or a type of four bytes at least.
-    template<typename Skip>
-    bool skipEntries(const Skip &skip)
-    {
-        quint32 count = 0;
-        m_stream >> count;
-        if (count > left() / 4) {
-            return false;
-        }
-        for (; count > 0; --count) {
-            if (!skip()) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    QDataStream m_stream;
-};
 
 // The character that an escape stands for, as QSettings reads it; -1 for the end of a line that
 // goes on in the next one. @p at stands after the backslash, and is moved behind the escape.
@@ -255,9 +69,10 @@ bool isMarked(const QByteArray &item)
 bool isSafeItem(const QByteArray &item)
 {
     if (item.startsWith(VariantMark)) {
-        return Walker(item.mid(VariantMarkSize)).isSafe();
+        return isHarmless(item.mid(VariantMarkSize), MRVVariantGuard::SettingsValue);
     }
-    return !item.startsWith(DateTimeMark) || Walker(item.mid(DateTimeMarkSize)).isSafeDateTime();
+    return !item.startsWith(DateTimeMark)
+        || isHarmless(item.mid(DateTimeMarkSize), MRVVariantGuard::SettingsDate);
 }
 
 // A value with all lines that it goes on in. Commas outside of quotes part it into items.
@@ -400,6 +215,6 @@ bool mrvCanBeStored(const QVariant &value)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(isDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
     stream << value;
-    Walker walker(bytes);
-    return isDateTime ? walker.isSafeDateTime() : walker.isSafe();
+    return isHarmless(bytes,
+                      isDateTime ? MRVVariantGuard::SettingsDate : MRVVariantGuard::SettingsValue);
 }

@@ -147,11 +147,11 @@ public:
     static QTextBlockFormat toBlockFormat(const QVariant &value);
 
     /**
-     * Takes one stored format off a stream that goes on behind it, with the checks of
+     * Takes one stored format off a stream that goes on after it, with the checks of
      * toCharFormat(). The bytes must all be there: it does not wait for a socket.
      *
-     * @return false, with the status ReadCorruptData and @p format untouched, where there is none;
-     * false, too, on a stream whose status is not Ok already.
+     * @return false, with a bad status and @p format untouched, where no whole format stands there,
+     * or the status was bad before.
      */
     static bool read(QDataStream &stream, QTextCharFormat *format);
     static bool read(QDataStream &stream, QTextBlockFormat *format);

@@ -1,8 +1,8 @@
 #include "textformat/mrvtextformat.h"
 
+#include "input/mrvvariantguard.h"
 #include "textformat/mrvlistlevel.h"
 #include "textformat/mrvtextformat_p.h"
-#include "textformat/mrvtextformatreader_p.h"
 
 #include <QDataStream>
 #include <QIODevice>
@@ -17,7 +17,7 @@ Q_LOGGING_CATEGORY(lcText, "mrv.text")
 // By name, so that stored formats stay the same under a newer Qt.
 constexpr int StreamVersion = QDataStream::Qt_5_15;
 
-// Position, type as quint32, delimiter. mrvIsReadableFormat() knows this layout.
+// Position, type as quint32, delimiter. MRVVariantGuard knows this layout.
 void saveTab(QDataStream &stream, const void *value)
 {
     const auto *tab = static_cast<const QTextOption::Tab *>(value);
@@ -50,6 +50,12 @@ bool registerTextTypes()
     return true;
 }
 
+MRVVariantGuard::Form form(int type)
+{
+    return type == QTextFormat::CharFormat ? MRVVariantGuard::CharFormat
+                                           : MRVVariantGuard::BlockFormat;
+}
+
 QByteArray write(const QTextFormat &format)
 {
     QByteArray bytes;
@@ -57,6 +63,12 @@ QByteArray write(const QTextFormat &format)
     stream.setVersion(StreamVersion);
     stream << format;
     return bytes;
+}
+
+bool isReadable(const QByteArray &bytes, int type)
+{
+    QDataStream stream(bytes);
+    return !MRVVariantGuard::take(stream, form(type)).isEmpty();
 }
 
 // The order of a hash differs in every process; the order of a map does not.
@@ -118,7 +130,7 @@ QByteArray storeFirst(const QTextFormat &format)
     int tooMany = format.propertyCount() + 1;
     while (tooMany - stored > 1) {
         const int count = stored + (tooMany - stored) / 2;
-        if (mrvIsReadableFormat(write(firstProperties(format, count)), format.type())) {
+        if (isReadable(write(firstProperties(format, count)), format.type())) {
             stored = count;
         } else {
             tooMany = count;
@@ -136,7 +148,7 @@ QByteArray store(const QTextFormat &unordered)
     mrvRegisterTextTypes();
     const QTextFormat format = ordered(unordered);
     const QByteArray bytes = write(format);
-    if (mrvIsReadableFormat(bytes, format.type())) {
+    if (isReadable(bytes, format.type())) {
         return bytes;
     }
 
@@ -145,7 +157,7 @@ QByteArray store(const QTextFormat &unordered)
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         QTextFormat single(format.type());
         single.setProperty(it.key(), it.value());
-        if (mrvIsReadableFormat(write(single), format.type())) {
+        if (isReadable(write(single), format.type())) {
             continue;
         }
         qCWarning(lcText, "Property 0x%x of type %s cannot be stored and is left out",
@@ -156,43 +168,37 @@ QByteArray store(const QTextFormat &unordered)
 }
 
 template<typename Format>
-Format restore(const QByteArray &bytes, QTextFormat::FormatType type)
+bool take(QDataStream &stream, Format *format)
 {
-    if (!mrvIsReadableFormat(bytes, type)) {
-        return Format();
-    }
-    mrvRegisterTextTypes();
-    QDataStream stream(bytes);
-    stream.setVersion(StreamVersion);
-    // Reading adds to what a format holds, so it needs a fresh one.
-    Format format;
-    stream >> format;
-    return stream.status() == QDataStream::Ok && format.type() == type ? format : Format();
-}
-
-// Only its bytes tell how long the next format is. So ever larger pieces of the stream are examined
-// instead of all that follows, which a scheme of many presets would copy once for each of them.
-template<typename Format>
-bool take(QDataStream &stream, QTextFormat::FormatType type, Format *format)
-{
-    QIODevice *device = stream.device();
-    if (stream.status() != QDataStream::Ok || !device) {
+    // Reading adds to what a format holds, so it needs a fresh one, which also tells its type.
+    Format read;
+    // The stored form has its own byte order, whatever stream it lies in.
+    const QDataStream::ByteOrder order = stream.byteOrder();
+    stream.setByteOrder(QDataStream::BigEndian);
+    const QByteArray bytes = MRVVariantGuard::take(stream, form(read.type()));
+    stream.setByteOrder(order);
+    if (bytes.isEmpty()) {
         return false;
     }
-    const qint64 available = device->bytesAvailable();
-    for (qint64 size = 1024;; size *= 4) {
-        const QByteArray piece = device->peek(qMin(size, available));
-        const qint64 length = mrvReadableFormatLength(piece, type);
-        if (length >= 0) {
-            stream.skipRawData(int(length));
-            *format = restore<Format>(piece.left(int(length)), type);
-            return true;
-        }
-        if (size >= available) {
-            stream.setStatus(QDataStream::ReadCorruptData);
-            return false;
-        }
+    mrvRegisterTextTypes();
+    QDataStream checked(bytes);
+    checked.setVersion(StreamVersion);
+    checked >> read;
+    if (checked.status() != QDataStream::Ok) {
+        stream.setStatus(checked.status());
+        return false;
     }
+    *format = read;
+    return true;
+}
+
+template<typename Format>
+Format restore(const QByteArray &bytes)
+{
+    QDataStream stream(bytes);
+    Format format;
+    take(stream, &format);
+    return format;
 }
 
 } // namespace
@@ -215,22 +221,22 @@ QByteArray MRVTextFormat::toByteArray(const QTextBlockFormat &format)
 
 QTextCharFormat MRVTextFormat::toCharFormat(const QByteArray &bytes)
 {
-    return restore<QTextCharFormat>(bytes, QTextFormat::CharFormat);
+    return restore<QTextCharFormat>(bytes);
 }
 
 QTextBlockFormat MRVTextFormat::toBlockFormat(const QByteArray &bytes)
 {
-    return restore<QTextBlockFormat>(bytes, QTextFormat::BlockFormat);
+    return restore<QTextBlockFormat>(bytes);
 }
 
 bool MRVTextFormat::read(QDataStream &stream, QTextCharFormat *format)
 {
-    return take(stream, QTextFormat::CharFormat, format);
+    return take(stream, format);
 }
 
 bool MRVTextFormat::read(QDataStream &stream, QTextBlockFormat *format)
 {
-    return take(stream, QTextFormat::BlockFormat, format);
+    return take(stream, format);
 }
 
 QTextCharFormat MRVTextFormat::toCharFormat(const QVariant &value)

@@ -90,15 +90,17 @@ bool MRVCheckedStream::readRaw(quint32 size, QByteArray *bytes)
 
 bool MRVCheckedStream::readCount(quint32 *count, int leastSize)
 {
+    if (read(count) && checkCount(*count, leastSize)) {
+        return true;
+    }
     *count = 0;
-    quint32 read = 0;
-    if (!this->read(&read)) {
-        return false;
-    }
+    return false;
+}
+
+bool MRVCheckedStream::checkCount(quint32 count, int leastSize)
+{
     const QIODevice *device = m_stream->device();
-    if (!device->isSequential() && qint64(read) * leastSize > device->bytesAvailable()) {
-        return fail();
-    }
-    *count = read;
-    return true;
+    return isOk()
+        && (device->isSequential() || qint64(count) * leastSize <= device->bytesAvailable()
+            || fail());
 }

@@ -67,6 +67,8 @@ public:
      * knows what will still arrive, so there any count passes.
      */
     bool readCount(quint32 *count, int leastSize);
+    /** The check of readCount(), for a count that was read before. */
+    bool checkCount(quint32 count, int leastSize);
 
 private:
     template<typename Units>

@@ -29,6 +29,12 @@ struct MRVInputLimits
     static constexpr int KeyText = 1024;
 
     // Pictures.
+    /** What the pictures of one dropped note may take when decoded; a wall poster takes 200 MB. */
+    static constexpr qint64 PictureMemory = 512 << 20;
+    /** The same of a text format, which holds small textures: this much in any case ... */
+    static constexpr qint64 FormatPictureMemory = 8 << 20;
+    /** ... and more in proportion to its stored length. */
+    static constexpr qint64 FormatPictureMemoryPerByte = 32;
     /** Deflate makes at most this many bytes of one; a picture that claims more is damaged. */
     static constexpr qint64 Inflation = 1032;
 

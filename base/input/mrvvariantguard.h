@@ -1,0 +1,55 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+
+class QDataStream;
+
+/**
+ * Checks variants and text formats before Qt reads them from a stream.
+ *
+ * Qt's operators trust every type, count and length: a few wrong bytes make them crash, reserve
+ * gigabytes or recurse without end. The guard walks over one value by a table of the types that its
+ * form may hold, and gives its bytes, which Qt can then read safely.
+ *
+ * @code
+ * const QByteArray bytes = MRVVariantGuard::take(stream, MRVVariantGuard::CharFormat);
+ * QDataStream checked(bytes);
+ * checked.setVersion(stream.version());
+ * QTextCharFormat format;
+ * checked >> format; // a bad status where the bytes are empty
+ * @endcode
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVVariantGuard
+{
+public:
+    MRVVariantGuard() = delete;
+
+    /** What is expected in the stream, and thereby which types it may hold. */
+    enum Form {
+        SettingsValue, ///< a QVariant that QSettings stores under "@Variant"; stream version Qt_4_0
+        SettingsDate, ///< a QVariant that QSettings stores under "@DateTime"; Qt_5_6
+        CharFormat, ///< a QTextFormat of type QTextFormat::CharFormat; Qt_5_15
+        BlockFormat, ///< a QTextFormat of type QTextFormat::BlockFormat; Qt_5_15
+        DropItem, ///< an MRVFernwickDropItem: a number, a text and a QVariant; Qt_5_15
+    };
+
+    /**
+     * Takes one value off @p stream.
+     *
+     * Counts and lengths must fit the bytes that are there, lists and maps may be nested
+     * MRVInputLimits::VariantDepth levels deep, enumerators must be known ones, and pictures are
+     * decoded once, since Qt reads on in the middle of a damaged one. Time linear in the bytes.
+     *
+     * Of a drop item, pictures beyond MRVInputLimits::PictureMemory together are replaced by null
+     * ones, since the other notes are worth keeping. A format with too many pictures fails.
+     *
+     * @param stream its byte order is used; its version does not count, as the form tells it.
+     * @return the value's bytes; empty, with a bad status, where it is damaged: ReadPastEnd where
+     * the bytes only end too early, else ReadCorruptData.
+     */
+    static QByteArray take(QDataStream &stream, Form form);
+};
