@@ -31,6 +31,19 @@ class MRVAutoReplaceIndex;
  *
  * GUI thread only: bestMatch() fills the index, const or not.
  *
+ * @code
+ * MRVAutoReplaceList list = MRVAutoReplaceList::defaultReplacements();
+ * list.append({true, QStringLiteral("=>"), QString(QChar(0x21d2))});
+ *
+ * // After each key that is typed: does what stands before the caret end with a match?
+ * const QString before = cursor.block().text().left(cursor.positionInBlock());
+ * const MRVAutoReplace entry = list.bestMatch(before);
+ * if (!entry.match.isEmpty()) {
+ *     cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, entry.match.size());
+ *     cursor.insertText(entry.replacement);
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVAutoReplaceList : public QList<MRVAutoReplace>

@@ -35,6 +35,18 @@ class QTextDocument;
  * A change to a whole document is one undo step, and none where there is nothing to change. It
  * takes time linear in the document. Null documents and cursors are left alone. GUI thread only.
  *
+ * @code
+ * // All bold text becomes red, in one step of undo.
+ * QTextCharFormat bold, red;
+ * bold.setFontWeight(QFont::Bold);
+ * red.setFontWeight(QFont::Bold);
+ * red.setForeground(Qt::red);
+ * MTextDoc::replaceAll(&document, bold, red, true);
+ *
+ * // The pictures go to files, named as the user knows them.
+ * const QStringList written = MTextDoc::exportImages(document, "pictures", false);
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MTextDoc

@@ -35,6 +35,23 @@ class QIODevice;
  * handed out belongs to the document: it stays usable until the document's content is replaced or
  * the document destroyed.
  *
+ * @code
+ * MRVDomDoc config;
+ * if (!config.load(QStringLiteral("config.xml"))) {
+ *     qWarning() << config.errorMessage() << config.errorLine();
+ * }
+ * // An element by its attribute, and the text in it.
+ * QString command;
+ * if (config.get(&command, QStringLiteral("/config/engine@id=rtf/command"))) {
+ *     config.setAttr(QStringLiteral("enabled"), true, QStringLiteral("/config/engine@id=rtf"));
+ * }
+ * // One item after the other.
+ * for (bool more = config.cd(QStringLiteral("/config/engine")); more;
+ *      more = config.cdNext(QStringLiteral("engine"))) {
+ *     qDebug() << config.workElement(true);
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVDomDoc

@@ -9,6 +9,29 @@ class MRVDomDoc;
 /**
  * An object that saves itself into an XML element and loads itself from one.
  *
+ * @code
+ * class Window : public MRVDomObject
+ * {
+ * public:
+ *     bool loadFromDomDoc(MRVDomDoc &doc) override
+ *     {
+ *         return doc.get(&m_size, QStringLiteral("size"))
+ *             && doc.get(&m_title, QStringLiteral("title"));
+ *     }
+ *     bool saveToDomDoc(MRVDomDoc &doc) const override
+ *     {
+ *         return doc.setRoot(QStringLiteral("window"))
+ *             && doc.append(QStringLiteral("size"), m_size)
+ *             && doc.append(QStringLiteral("title"), m_title);
+ *     }
+ *
+ * private:
+ *     QSize m_size;
+ *     QString m_title;
+ * };
+ * const QDomElement saved = Window().saveToDomElement();
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVDomObject

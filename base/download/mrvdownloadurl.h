@@ -37,6 +37,18 @@ class MRVDownloadUserInputAbstract;
  * handler's ignoreSslErrors(). SSL errors end a request; a host that wants to ask about them
  * connects sslErrors() of networkAccessManager(), and may run an event loop there. GUI thread only.
  *
+ * @code
+ * auto *download = new MRVDownloadUrl(window);
+ * QObject::connect(download, QOverload<QByteArray>::of(&MRVDownloadUrl::downloadSuccess), window,
+ *                  [](const QByteArray &page) { qDebug() << page.size() << "bytes"; });
+ * QObject::connect(download, &MRVDownloadUrl::downloadError, window,
+ *                  [](const QString &error) { qWarning() << error; });
+ * download->setMaximumSize(16 * 1024 * 1024);
+ * if (!download->download(QUrl(QStringLiteral("https://example.org/novel.html")))) {
+ *     qWarning() << "not an address";
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVDownloadUrl : public QObject

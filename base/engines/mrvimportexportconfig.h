@@ -26,6 +26,15 @@ class MRVOptions;
  *
  * GUI thread only.
  *
+ * @code
+ * MRVImportExportConfig *config = MRVImportExportConfig::instance();
+ * const MRVEngineChoice choice = config->explain(MRVFormat::DOC, MRVFormat::RTF);
+ * if (choice.isOffered()) {
+ *     qDebug() << choice.engine << choice.reasonText();
+ *     config->setEngine(MRVFormat::DOC, MRVFormat::RTF, choice.supported.first());
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVImportExportConfig

@@ -24,6 +24,20 @@ struct MRVEPubBook;
  *
  * GUI thread only.
  *
+ * @code
+ * MRVEPubMetadata metadata;
+ * metadata.title = QStringLiteral("The Tide Book");
+ * metadata.authors = QStringList(QStringLiteral("Ilse Marrable"));
+ * metadata.language = QStringLiteral("en-GB");
+ *
+ * MRVEPubPackage book(MRVEPubVersion::EPub3, metadata);
+ * QString error;
+ * if (!book.addDocument(document, QStringLiteral("one.html"), &error)
+ *     || !book.write(QStringLiteral("tide.epub"), &error)) {
+ *     qWarning() << error;
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVEPubPackage

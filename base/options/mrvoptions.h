@@ -32,6 +32,18 @@
  *
  * GUI thread only; but for fonts and text formats no QGuiApplication is needed.
  *
+ * @code
+ * MRVOptions *options = mrvOptions();
+ * if (options->value(MRVOptions::SmartQuotes)) {
+ *     const QPair<QString, QString> quotes = options->doubleQuotes();
+ *     qDebug() << quotes.first << quotes.second;
+ * }
+ * options->setValue(MRVOptions::SaveInterval, 5);
+ * QObject::connect(options, &MRVOptions::groupsChanged, window, [](const QStringList &groups) {
+ *     qDebug() << "to be read again:" << groups;
+ * });
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVOptions : public MRVSettings

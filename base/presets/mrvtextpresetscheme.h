@@ -13,6 +13,18 @@
  * The text presets of a writer by name, ordered as QString orders its texts (by UTF-16 unit, so
  * capitals come before small letters).
  *
+ * @code
+ * QTextCharFormat large;
+ * large.setFontPointSize(18);
+ * MRVTextPresetScheme scheme = MRVTextPresetScheme::defaultScheme();
+ * scheme.setPreset(QStringLiteral("Motto"),
+ *                  MRVTextPreset(large, QTextBlockFormat(), MRVTextPreset::ApplyCharFormat));
+ *
+ * const QByteArray stored = MRVTextPresetScheme::toByteArray(scheme);
+ * QString error;
+ * const MRVTextPresetScheme read = MRVTextPresetScheme::fromByteArray(stored, &error);
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextPresetScheme

@@ -132,6 +132,19 @@ Q_DECLARE_TYPEINFO(MRVFountainTitle, Q_MOVABLE_TYPE);
  *
  * Both take time linear in the text.
  *
+ * @code
+ * MRVFountainScript script = MRVFountainScript::fromText(
+ *     QStringLiteral("INT. GAUGE HOUSE - NIGHT\n\nILSE\nHigh water.\n"));
+ * for (const MRVFountainElement &element : qAsConst(script.elements)) {
+ *     if (element.kind == MRVFountainElement::Character) {
+ *         qDebug() << MRVFountainScript::cueName(element.text());
+ *     }
+ * }
+ * script.elements.append(
+ *     MRVFountainElement(MRVFountainElement::Transition, QStringLiteral("CUT TO:")));
+ * const QString text = script.toText();
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVFountainScript

@@ -24,6 +24,22 @@ class QTextBlock;
  * Functions that take @p error put one translated line into it on failure, with the file and, where
  * a file's contents are at fault, the line; it is untouched on success.
  *
+ * @code
+ * MRVScriptMode mode;
+ * QString error;
+ * QStringList remarks;
+ * if (!mode.load(QStringLiteral("mine.xml"), &error, &remarks)) {
+ *     qWarning() << error;
+ *     mode.loadFactoryDefaults();
+ * }
+ * // What the paragraph of the cursor is, and what Return begins after it.
+ * const int index = mode.indexOf(cursor.block());
+ * if (index >= 0) {
+ *     const MRVScriptElement element = mode.elements().at(index);
+ *     qDebug() << element.title() << element.actionElement(MRVScriptElement::ReturnAction);
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVScriptMode

@@ -36,6 +36,21 @@ class QTextDocument;
  *
  * Keeps no state, changes nothing. GUI thread only.
  *
+ * @code
+ * // Select the next "Anna" after the cursor, as a search dialog does.
+ * const QTextCursor found = MRVTextFinder::find(&document, QStringLiteral("Anna"), cursor,
+ *                                               MRVTextFinder::FindWholeWords);
+ * if (!found.isNull()) {
+ *     cursor = found;
+ * }
+ *
+ * // All places of a word at once, in linear time.
+ * const QVector<MRVTextRange> places = MRVTextFinder::findAll(&document, QStringLiteral("tide"));
+ * for (const MRVTextRange &place : places) {
+ *     qDebug() << place.start() << place.end();
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextFinder

@@ -89,6 +89,19 @@ struct MRVBASE_EXPORT MRVTextChange
  *
  * GUI thread only.
  *
+ * @code
+ * MRVTextQuery query;
+ * query.syntax = MRVTextQuery::RegularExpression;
+ * query.text = QStringLiteral("(\\d+)th of (\\w+)");
+ * QString error;
+ * if (query.isValid(&error)) {
+ *     const int count = MRVTextReplacer::replaceAll(&document, query, QStringLiteral("$2 $1"));
+ *     qDebug() << count << "dates were rewritten";
+ * } else {
+ *     qWarning() << error;
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextReplacer

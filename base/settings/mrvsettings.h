@@ -42,6 +42,29 @@
  *
  * GUI thread only.
  *
+ * @code
+ * constexpr auto Copies = MRVSettings::IntSetting(0);
+ * class PrintSettings : public MRVSettings
+ * {
+ * public:
+ *     using MRVSettings::MRVSettings;
+ *     QString keyText(IntSetting setting) const override
+ *     {
+ *         return setting == Copies ? QStringLiteral("Print/copies") : QString();
+ *     }
+ * };
+ *
+ * PrintSettings settings(QStringLiteral("print.ini"), QSettings::IniFormat);
+ * QObject::connect(&settings, &MRVSettings::groupsChanged, window, [](const QStringList &groups) {
+ *     qDebug() << "changed:" << groups;
+ * });
+ * settings.setValue(Copies, 2);
+ * QString error;
+ * if (!settings.saveNow(&error)) {
+ *     qWarning() << error;
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVSettings : public QSettings

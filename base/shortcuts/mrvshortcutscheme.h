@@ -30,6 +30,19 @@ class QDataStream;
  * early or are damaged, what was read whole before that place stays. A key text that names an
  * unknown key gives an entry without a key.
  *
+ * @code
+ * MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
+ * scheme.setName(QStringLiteral("Mine"));
+ * const QKeySequence keys(QStringLiteral("Ctrl+Alt+B"));
+ * if (!scheme.contains(keys)) {
+ *     scheme.setShortcut(MRVShortcut::Bold, keys);
+ * }
+ * QString error;
+ * if (!scheme.save(QStringLiteral("mine.shortcuts"), &error)) {
+ *     qWarning() << error;
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVShortcutScheme

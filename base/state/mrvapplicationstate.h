@@ -17,6 +17,17 @@
  *
  * GUI thread only.
  *
+ * @code
+ * MRVApplicationState *state = MRVApplicationState::instance();
+ * state->prependToRecentProjectList(QStringLiteral("/home/ilse/tide.mrv"));
+ * const QStringList shown = state->recentProjectList();
+ *
+ * const QString file = QFileDialog::getSaveFileName(window, QString(), state->recentExportPath());
+ * if (!file.isEmpty()) {
+ *     state->setRecentExportPath(QFileInfo(file).path());
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVApplicationState : public MRVSettings

@@ -28,6 +28,22 @@ class QTextTable;
  * The walk does not change the document, and hooks and receivers must not do so while it lasts. It
  * keeps nothing between two walks. Takes time linear in what is walked. GUI thread only.
  *
+ * @code
+ * class HeadingCounter : public MRVDocNavigator
+ * {
+ * public:
+ *     using MRVDocNavigator::MRVDocNavigator;
+ *     int count = 0;
+ *
+ *     void startBlock(QTextBlock &block) override
+ *     {
+ *         count += block.blockFormat().headingLevel() > 0 ? 1 : 0;
+ *     }
+ * };
+ * HeadingCounter counter(&document);
+ * counter.navigate();
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVDocNavigator : public QObject

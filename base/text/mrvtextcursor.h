@@ -13,6 +13,12 @@ class QTextTable;
  *
  * A null cursor gives an empty result and is left alone. GUI thread only.
  *
+ * @code
+ * // Replace the words at the cursor without losing their formats.
+ * MRVTextCursor::selectBlockUnderCursor(&cursor, false);
+ * MRVTextCursor::replaceText(cursor, cursor.selectedText().toUpper());
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextCursor

@@ -15,6 +15,13 @@ class QTextDocument;
  * It knows no document, so it costs nothing while the document is edited, and it is not moved by
  * edits either. Never is start() greater than end(). Ranges are ordered by start(), then by end().
  *
+ * @code
+ * // Remembered as numbers, a place costs nothing while the document is edited elsewhere.
+ * const MRVTextRange range(cursor);
+ * QTextCursor again = range.toTextCursor(&document);
+ * again.mergeCharFormat(QTextCharFormat());
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextRange

@@ -23,6 +23,16 @@ class QMenu;
  *
  * Needs a QApplication.
  *
+ * @code
+ * // At start-up: checks by itself when the preferences say that it is time.
+ * MRVUpdateManager *updates = MRVUpdateManager::instance();
+ * QFile key(QStringLiteral(":/updates/key.pub"));
+ * if (key.open(QIODevice::ReadOnly)) {
+ *     updates->setPublicKey(key.readAll());
+ * }
+ * updates->setupMenuActions(new QMenu(QStringLiteral("Help"), window));
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVUpdateManager : public QObject

@@ -11,6 +11,11 @@
  *
  * GUI thread only.
  *
+ * @code
+ * const double points = MRVUnit::toPoint(QStringLiteral("2.5 cm"));
+ * const QString inches = MRVUnit::toText(MRVUnit::Inch, MRVUnit::fromPoint(MRVUnit::Inch, points));
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVUnit

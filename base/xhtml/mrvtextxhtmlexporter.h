@@ -25,6 +25,17 @@ class QTextImageFormat;
  *
  * Everything here is for the GUI thread. The document is never changed.
  *
+ * @code
+ * MRVTextXhtmlExporter exporter(&document);
+ * exporter.setLanguage(QStringLiteral("en-GB"));
+ * QString error;
+ * if (!exporter.toFile(MRVTextXhtmlExporter::Xhtml, QStringLiteral("novel.xhtml"), true, QString(),
+ *                      &error)) {
+ *     qWarning() << error;
+ * }
+ * const QStringList missing = exporter.unwrittenImages();
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextXhtmlExporter

@@ -19,13 +19,17 @@
  * failed is empty or 0.
  *
  * @code
- * QDataStream stream(bytes);
+ * QFile file(QStringLiteral("names.bin"));
+ * if (!file.open(QIODevice::ReadOnly)) {
+ *     return;
+ * }
+ * QDataStream stream(&file);
  * stream.setVersion(MCoreType::StreamVersion);
  * MRVCheckedStream in(&stream);
  * QString name;
  * qint32 size = 0;
  * if (!in.read(&name) || !in.read(&size)) {
- *     return false;
+ *     qWarning("names.bin is damaged");
  * }
  * @endcode
  *
