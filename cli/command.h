@@ -1,17 +1,14 @@
 #pragma once
 
-#include <QByteArray>
+#include "output.h"
+
 #include <QString>
 #include <QStringList>
 
 class QCommandLineParser;
-class QJsonObject;
-
-/** Exit codes of the tool. */
-enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
 /** A subcommand: how it is called, what it does, and what does it. */
-struct Command
+struct OldCommand
 {
     const char *name;
     const char *summary;
@@ -33,21 +30,6 @@ int runSettings(const QStringList &arguments);
 int runShortcuts(const QStringList &arguments);
 int runUpdate(const QStringList &arguments);
 int runXml(const QStringList &arguments);
-
-/** Prints "mrv: text" to standard error as one line. */
-void printError(const QString &text);
-
-/** Prints a line to standard output, as UTF-8 whatever the locale. */
-void printLine(const QString &text);
-
-/** Prints an object as one line of JSON. */
-void printJson(const QJsonObject &object);
-
-/** Writes to standard output; false, with a text, when that cannot take it all. */
-bool writeStandardOutput(const QByteArray &bytes, QString *error);
-
-/** Shows what is being done, on a terminal only; an empty text clears the line. */
-void showProgress(const QString &text);
 
 /**
  * Parses a subcommand's arguments; "--help" is added to the options.

@@ -1,12 +1,9 @@
-#include "command.h"
 #include "formatname.h"
 #include "settingsfile.h"
-#include "textsearch.h"
 
 #include "engines/mrvimportexportconfig.h"
 #include "options/mrvoptions.h"
 
-#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -14,35 +11,12 @@ namespace {
 
 using Format = MRVFormat::Format;
 
-struct Request
+/** A conversion that is asked for. */
+struct Conversion
 {
-    QStringList arguments; // what follows the verb
     Format from = MRVFormat::NoFormat;
     Format to = MRVFormat::NoFormat;
-    MRVOptions *options = nullptr;
-    MRVImportExportConfig *config = nullptr;
-    bool json = false;
 };
-
-struct Verb
-{
-    const char *name;
-    int arguments;
-    Access access; // to the settings file
-    int (*run)(const Request &request);
-};
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("engines: ") + text);
-    return WrongUsage;
-}
-
-int refuse(const QString &text)
-{
-    printError(QLatin1String("engines: ") + text);
-    return Failed;
-}
 
 MRVImportExport::Engine engineOf(const QString &text)
 {
@@ -64,22 +38,23 @@ QStringList names(const QList<MRVImportExport::Engine> &engines)
     return names;
 }
 
-QString title(Format from, Format to)
+QString title(const Conversion &conversion)
 {
-    return QStringLiteral("%1 -> %2").arg(MRVFormat::name(from), MRVFormat::name(to));
+    return QStringLiteral("%1 -> %2")
+        .arg(MRVFormat::name(conversion.from), MRVFormat::name(conversion.to));
 }
 
-void print(const Request &request, Format from, Format to)
+void print(const Call &call, const Conversion &conversion, const MRVEngineChoice &choice)
 {
-    const MRVEngineChoice choice = request.config->explain(from, to);
     const QString engine = MRVImportExport::toString(choice.engine);
-    if (!request.json) {
-        printLine(QStringLiteral("%1: %2 (%3)").arg(title(from, to), engine, choice.reasonText()));
+    if (!call.json()) {
+        printLine(
+            QStringLiteral("%1: %2 (%3)").arg(title(conversion), engine, choice.reasonText()));
         return;
     }
     QJsonObject object{
-        {QStringLiteral("from"), MRVFormat::name(from)},
-        {QStringLiteral("to"), MRVFormat::name(to)},
+        {QStringLiteral("from"), MRVFormat::name(conversion.from)},
+        {QStringLiteral("to"), MRVFormat::name(conversion.to)},
         {QStringLiteral("engine"), engine},
         {QStringLiteral("reason"), QLatin1String(MRVEngineChoice::toString(choice.reason))},
         {QStringLiteral("supported"), QJsonArray::fromStringList(names(choice.supported))},
@@ -91,155 +66,146 @@ void print(const Request &request, Format from, Format to)
     printJson(object);
 }
 
-int runList(const Request &request)
+int list(const Call &call, MRVOptions *options)
 {
-    QList<Format> formats;
+    const MRVImportExportConfig config(options);
+    QVector<Conversion> imports;
+    QVector<Conversion> exports;
+    QSet<Format> known; // a format has a row for each of its suffixes
     for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
-        if (!formats.contains(MRVFormat::formatAt(row))) {
-            formats.append(MRVFormat::formatAt(row));
+        const Format format = MRVFormat::formatAt(row);
+        if (!known.contains(format)) {
+            known.insert(format);
+            exports.append({MRVFormat::RTF, format});
+            // From RTF to RTF is an export.
+            if (format != MRVFormat::RTF) {
+                imports.append({format, MRVFormat::RTF});
+            }
         }
     }
-    for (Format format : qAsConst(formats)) {
-        // From RTF to RTF is an export.
-        if (format != MRVFormat::RTF
-            && request.config->explain(format, MRVFormat::RTF).isOffered()) {
-            print(request, format, MRVFormat::RTF);
-        }
-    }
-    for (Format format : qAsConst(formats)) {
-        if (request.config->explain(MRVFormat::RTF, format).isOffered()) {
-            print(request, MRVFormat::RTF, format);
+    for (const Conversion &conversion : imports + exports) {
+        const MRVEngineChoice choice = config.explain(conversion.from, conversion.to);
+        if (choice.isOffered()) {
+            print(call, conversion, choice);
         }
     }
     return Done;
 }
 
-// Empty when there is such a conversion.
-QString objection(const Request &request)
+// The first two arguments. @return Done, or the code to end with.
+int readConversion(const Call &call, Conversion *conversion)
 {
-    const MRVEngineChoice choice = request.config->explain(request.from, request.to);
-    if (!choice.canImport) {
-        return QStringLiteral("%1 cannot be imported").arg(MRVFormat::name(request.from));
+    for (int i = 0; i < 2; ++i) {
+        const Format format = formatNamed(call.arguments.at(i));
+        if (format == MRVFormat::NoFormat) {
+            return usageError(QStringLiteral("unknown format '%1'").arg(call.arguments.at(i)));
+        }
+        (i == 0 ? conversion->from : conversion->to) = format;
     }
-    if (!choice.canExport) {
-        return QStringLiteral("%1 cannot be exported").arg(MRVFormat::name(request.to));
-    }
-    return QString();
+    return Done;
 }
 
-int runShow(const Request &request)
+// Empty when the conversion exists.
+QString objectionTo(const Conversion &conversion, const MRVEngineChoice &choice)
 {
-    print(request, request.from, request.to);
-    if (!request.json) {
-        const MRVEngineChoice choice = request.config->explain(request.from, request.to);
+    if (!choice.canImport) {
+        return QStringLiteral("%1 cannot be imported").arg(MRVFormat::name(conversion.from));
+    }
+    return choice.canExport
+        ? QString()
+        : QStringLiteral("%1 cannot be exported").arg(MRVFormat::name(conversion.to));
+}
+
+int show(const Call &call, MRVOptions *options)
+{
+    Conversion conversion;
+    if (const int code = readConversion(call, &conversion); code != Done) {
+        return code;
+    }
+    const MRVEngineChoice choice =
+        MRVImportExportConfig(options).explain(conversion.from, conversion.to);
+    print(call, conversion, choice);
+    if (!call.json()) {
         printLine(QLatin1String("  possible here: ")
                   + names(choice.supported).join(QLatin1String(", ")));
     }
-    const QString text = objection(request);
-    return text.isEmpty() ? Done : refuse(text);
+    const QString objection = objectionTo(conversion, choice);
+    return objection.isEmpty() ? Done : refuse(objection);
 }
 
-int runSet(const Request &request)
+// Why an engine cannot be chosen for a conversion; empty when it can.
+QString objectionTo(const Conversion &conversion, const MRVEngineChoice &choice,
+                    const QString &engine)
 {
-    const QString engine = request.arguments.at(2);
-    QString text = objection(request);
-    if (!text.isEmpty()) {
-        return refuse(text);
+    const QString objection = objectionTo(conversion, choice);
+    const Format other = conversion.from == MRVFormat::RTF ? conversion.to : conversion.from;
+    if (!objection.isEmpty()) {
+        return objection;
     }
-    const MRVEngineChoice choice = request.config->explain(request.from, request.to);
     if (choice.reason == MRVEngineChoice::NeitherSideRtf) {
-        return refuse(
-            QStringLiteral("%1: %2").arg(title(request.from, request.to), choice.reasonText()));
+        return title(conversion) + QLatin1String(": ") + choice.reasonText();
     }
     if (!choice.supported.contains(engineOf(engine))) {
-        return refuse(QStringLiteral("%1: %2 cannot do that here; what can: %3")
-                          .arg(title(request.from, request.to), engine,
-                               names(choice.supported).join(QLatin1String(", "))));
+        return QStringLiteral("%1: %2 cannot do that here; possible: %3")
+            .arg(title(conversion), engine, names(choice.supported).join(QLatin1String(", ")));
     }
-    const Format other = request.from == MRVFormat::RTF ? request.to : request.from;
-    if (MRVFormat::format(MRVFormat::name(other)) != other) {
-        return refuse(QStringLiteral("choices for %1 are not kept: its name is no suffix")
-                          .arg(MRVFormat::name(other)));
+    return MRVFormat::format(MRVFormat::name(other)) == other
+        ? QString()
+        : QStringLiteral("choices for %1 are not kept: its name is not a suffix")
+              .arg(MRVFormat::name(other));
+}
+
+int set(const Call &call, MRVOptions *options)
+{
+    Conversion conversion;
+    if (const int code = readConversion(call, &conversion); code != Done) {
+        return code;
     }
-    request.config->setEngine(request.from, request.to, engineOf(engine));
-    if (!request.options->saveNow(&text)) {
-        return refuse(text);
+    MRVImportExportConfig config(options);
+    const QString &engine = call.arguments.at(2);
+    const QString objection =
+        objectionTo(conversion, config.explain(conversion.from, conversion.to), engine);
+    if (!objection.isEmpty()) {
+        return refuse(objection);
     }
-    print(request, request.from, request.to);
+    config.setEngine(conversion.from, conversion.to, engineOf(engine));
+    if (save(options) != Done) {
+        return Failed;
+    }
+    print(call, conversion, config.explain(conversion.from, conversion.to));
     return Done;
 }
 
-int runReset(const Request &request)
+int reset(const Call &, MRVOptions *options)
 {
-    request.config->resetEngines();
-    QString error;
-    return request.options->saveNow(&error) ? Done : refuse(error);
+    MRVImportExportConfig(options).resetEngines();
+    return save(options);
 }
 
 constexpr Verb verbs[] = {
-    {"list", 0, Access::Read, runList},
-    {"show", 2, Access::Read, runShow},
-    {"set", 3, Access::Create, runSet},
-    {"reset", 0, Access::Change, runReset},
+    {"list", "", "list all conversions", withSettings<Access::Read, list>},
+    {"show", "FROM TO", "show the engine of one conversion", withSettings<Access::Read, show>,
+     "FROM and TO are suffixes, names of formats or names of files."},
+    {"set", "FROM TO ENGINE", "store the choice of an engine", withSettings<Access::Create, set>,
+     "ENGINE is one of those that show names as possible."},
+    {"reset", "", "remove all stored choices, so that the defaults hold",
+     withSettings<Access::Change, reset>},
+};
+
+constexpr Option options[] = {
+    settingsOption,
+    Option::flag("json", "Print each conversion as a line of JSON."),
 };
 
 } // namespace
 
-int runEngines(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Tells which engine converts which format into RTF, or RTF into it, and why.\n\n"
-        "  list                   all conversions\n"
-        "  show FROM TO           one; FROM and TO are suffixes, formats or files\n"
-        "  set FROM TO ENGINE     store the choice of an engine that show names as possible\n"
-        "  reset                  remove all stored choices, so that the defaults hold\n\n"
-        "Exit code 1: there is no such conversion, or the engine cannot do it here."));
-    parser.addPositionalArgument(QStringLiteral("VERB"), QStringLiteral("One of these."),
-                                 QStringLiteral("VERB [ARGUMENTS]"));
-    parser.addOption({QStringLiteral("settings"),
-                      QStringLiteral("Use this settings file instead of the user's settings."),
-                      QStringLiteral("FILE")});
-    parser.addOption(
-        {QStringLiteral("json"), QStringLiteral("Print each conversion as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("engines VERB [ARGUMENTS] [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-
-    Request request;
-    request.json = parser.isSet(QStringLiteral("json"));
-    request.arguments = parser.positionalArguments();
-    const QString name = request.arguments.isEmpty() ? QString() : request.arguments.takeFirst();
-    for (const Verb &verb : verbs) {
-        if (name != QLatin1String(verb.name)) {
-            continue;
-        }
-        if (request.arguments.size() != verb.arguments) {
-            return usageError(
-                QStringLiteral("%1 takes %2 arguments").arg(name, QString::number(verb.arguments)));
-        }
-        for (int i = 0; i < request.arguments.size() && i < 2; ++i) {
-            const Format format = formatNamed(request.arguments.at(i));
-            if (format == MRVFormat::NoFormat) {
-                return usageError(
-                    QStringLiteral("unknown format '%1'").arg(request.arguments.at(i)));
-            }
-            (i == 0 ? request.from : request.to) = format;
-        }
-        QString error;
-        const OpenedOptions opened =
-            openOptions(parser.value(QStringLiteral("settings")), verb.access, &error);
-        if (!opened.options) {
-            return refuse(error);
-        }
-        MRVImportExportConfig config(opened.options.get());
-        request.options = opened.options.get();
-        request.config = &config;
-        return verb.run(request);
-    }
-    return usageError(name.isEmpty()
-                          ? QStringLiteral("what to do is missing: list, show, set or reset")
-                          : QStringLiteral("'%1' is not list, show, set or reset").arg(name));
-}
+const Command enginesCommand = {
+    "engines",
+    "show and choose which engine converts which format",
+    "Shows which engine converts which format into RTF, or RTF into it, and why. FROM and TO are "
+    "suffixes, names of formats or names of files.\n"
+    "Exit code 1: the conversion does not exist, or the engine cannot do it here.",
+    "engines list\nengines show doc rtf\nengines set rtf doc Doc2AnyInternalEngine",
+    verbs,
+    {options},
+};

@@ -1,12 +1,9 @@
-#include "command.h"
 #include "formatname.h"
 #include "settingsfile.h"
-#include "textsearch.h"
 
 #include "engines/mrvimportexportconfig.h"
 #include "options/mrvoptions.h"
 
-#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -59,69 +56,64 @@ void print(const Entry &entry, bool json)
                   .arg(entry.info.description));
 }
 
-} // namespace
-
-int runFormats(const QStringList &arguments)
+// The formats that the arguments name. @return whether they all name one.
+bool readFormats(const Call &call, QSet<MRVFormat::Format> *formats)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Lists file formats: suffixes, whether they can be imported and exported, name and\n"
-        "description. With suffixes, names of formats or of files, tells which formats these are.\n"
-        "Exit code 1: a suffix is unknown, or nothing is left to list."));
-    parser.addPositionalArgument(QStringLiteral("SUFFIX"),
-                                 QStringLiteral("A suffix, or the name of a file."),
-                                 QStringLiteral("[SUFFIX...]"));
-    parser.addOption({QStringLiteral("import"), QStringLiteral("Only what can be imported.")});
-    parser.addOption({QStringLiteral("export"), QStringLiteral("Only what can be exported.")});
-    parser.addOption(
-        {QStringLiteral("settings"),
-         QStringLiteral(
-             "Look for the Kindle converter, which MOBI needs, where this settings file says."),
-         QStringLiteral("FILE")});
-    parser.addOption(
-        {QStringLiteral("json"), QStringLiteral("Print each format as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("formats [SUFFIX...] [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    QString error;
-    const OpenedOptions opened =
-        openOptions(parser.value(QStringLiteral("settings")), Access::Read, &error);
-    if (!opened.options) {
-        printError(QLatin1String("formats: ") + error);
-        return Failed;
-    }
-
-    QStringList asked = parser.positionalArguments();
-    QSet<MRVFormat::Format> chosen;
-    bool unknown = false;
-    for (const QString &name : qAsConst(asked)) {
+    bool areKnown = true;
+    for (const QString &name : call.arguments) {
         const MRVFormat::Format format = formatNamed(name);
-        chosen.insert(format);
         if (format == MRVFormat::NoFormat) {
-            printError(QStringLiteral("formats: %1: is of no known format").arg(name));
-            unknown = true;
+            refuse(QStringLiteral("%1: unknown format").arg(name));
+            areKnown = false;
         }
+        formats->insert(format);
     }
+    return areKnown;
+}
+
+int list(const Call &call, MRVOptions *options)
+{
+    QSet<MRVFormat::Format> chosen;
+    const bool areKnown = readFormats(call, &chosen);
     bool found = false;
-    const MRVImportExportConfig config(opened.options.get());
-    const QList<Entry> all = entries(config);
+    const QList<Entry> all = entries(MRVImportExportConfig(options));
     for (const Entry &entry : all) {
-        if ((asked.isEmpty() || chosen.contains(entry.info.format))
-            && (entry.canImport || !parser.isSet(QStringLiteral("import")))
-            && (entry.canExport || !parser.isSet(QStringLiteral("export")))) {
-            print(entry, parser.isSet(QStringLiteral("json")));
+        if ((chosen.isEmpty() || chosen.contains(entry.info.format))
+            && (entry.canImport || !call.has("import"))
+            && (entry.canExport || !call.has("export"))) {
+            print(entry, call.json());
             found = true;
         }
     }
-    if (!found && !unknown) {
-        printError(QStringLiteral("formats: %1 cannot be %2")
-                       .arg(asked.join(QLatin1String(", ")),
-                            QLatin1String(!parser.isSet(QStringLiteral("export")) ? "imported"
-                                              : !parser.isSet(QStringLiteral("import"))
-                                              ? "exported"
-                                              : "imported and exported")));
+    if (!found && areKnown) {
+        return refuse(QStringLiteral("%1 cannot be %2")
+                          .arg(call.arguments.join(QLatin1String(", ")),
+                               QLatin1String(!call.has("export")       ? "imported"
+                                                 : !call.has("import") ? "exported"
+                                                                       : "imported and exported")));
     }
-    return found && !unknown ? Done : Failed;
+    return found && areKnown ? Done : Failed;
 }
+
+constexpr Verb verbs[] = {{"", "[FORMAT...]", "", withSettings<Access::Read, list>}};
+
+constexpr Option options[] = {
+    Option::flag("import", "Only formats that can be imported."),
+    Option::flag("export", "Only formats that can be exported."),
+    settingsOption,
+    Option::flag("json", "Print each format as a line of JSON."),
+};
+
+} // namespace
+
+const Command formatsCommand = {
+    "formats",
+    "list file formats and what can be done with them",
+    "Lists file formats: suffixes, whether they can be imported and exported, name and "
+    "description. FORMAT is a suffix, the name of a format or the name of a file. The settings "
+    "say where the Kindle converter is, which MOBI needs.\n"
+    "Exit code 1: a format is unknown, or no format is left to list.",
+    "formats --import\nformats docx novel.mobi",
+    verbs,
+    {options},
+};

@@ -1,9 +1,8 @@
-#include "command.h"
+#include "commandline.h"
 #include "terminalinput.h"
 
 #include "core/mrvcoreutil.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -15,7 +14,6 @@
 #include <QTextCodec>
 
 #include <cmath>
-#include <limits>
 
 #include <fcntl.h>
 
@@ -44,58 +42,21 @@ struct Result
     QStringList redirects;
 };
 
-void addOptions(QCommandLineParser *parser)
-{
-    constexpr struct
-    {
-        const char *name;
-        const char *value; // null: takes none
-        const char *description;
-    } rows[] = {
-        {"output", "FILE",
-         "Where to write: a file, which is replaced, or a folder; - is standard output. Default: a "
-         "new file with the name that ends the URL."},
-        {"follow", nullptr, "Follow redirects without asking."},
-        {"user", "NAME", "The user name; the password is asked for on the terminal."},
-        {"password-fd", "NUMBER", "Read the password from this open file, such as 0."},
-        {"password-env", "NAME", "Take the password from this environment variable."},
-        {"insecure", nullptr, "Go on in spite of SSL errors, and from https to http."},
-        {"from", "CHARSET", "What the text is in where the server does not say."},
-        {"to", "CHARSET", "What the text is to be written in. Default: UTF-8."},
-        {"timeout", "SECONDS",
-         "Give up when nothing comes for so long; 0 never does. Default: 30."},
-        {"max-size", "BYTES", "Give up when it is larger. Default, and most: 1073741824."},
-        {"json", nullptr, "Tell what was downloaded as a line of JSON."},
-    };
-    for (const auto &row : rows) {
-        QCommandLineOption option(QString::fromLatin1(row.name),
-                                  QString::fromLatin1(row.description),
-                                  row.value ? QString::fromLatin1(row.value) : QString());
-        if (qstrcmp(row.name, "output") == 0) {
-            option = QCommandLineOption({QStringLiteral("o"), QStringLiteral("output")},
-                                        option.description(), option.valueName());
-        }
-        parser->addOption(option);
-    }
-}
-
 // Passwords never stand on the command line, which every user of the machine can read.
-QString readPassword(const QCommandLineParser &parser, QString *password)
+QString readPassword(const Call &call, QString *password)
 {
-    const QString variable = parser.value(QStringLiteral("password-env"));
-    if (!variable.isEmpty()) {
+    if (call.has("password-env")) {
+        const QString variable = call.value("password-env");
         const QByteArray name = variable.toLocal8Bit();
         if (!qEnvironmentVariableIsSet(name.constData())) {
-            return QStringLiteral("--password-env: there is no variable '%1'").arg(variable);
+            return QStringLiteral("--password-env: the variable '%1' is not set").arg(variable);
         }
         *password = qEnvironmentVariable(name.constData(), QLatin1String(""));
     }
-    if (parser.isSet(QStringLiteral("password-fd"))) {
-        bool isNumber = false;
-        const int handle = parser.value(QStringLiteral("password-fd")).toInt(&isNumber);
+    if (call.has("password-fd")) {
+        const int handle = int(call.number("password-fd", 0));
         QFile file;
-        if (!isNumber || handle < 0 || fcntl(handle, F_GETFD) < 0
-            || !file.open(handle, QIODevice::ReadOnly)) {
+        if (fcntl(handle, F_GETFD) < 0 || !file.open(handle, QIODevice::ReadOnly)) {
             return QStringLiteral("--password-fd: no such open file");
         }
         QByteArray line = file.readLine();
@@ -107,69 +68,51 @@ QString readPassword(const QCommandLineParser &parser, QString *password)
     return QString();
 }
 
-// Returns what is wrong, or nothing.
-QString readOptions(const QCommandLineParser &parser, Options *options)
+// What is wrong with the user name, the password and what they are for; empty for nothing.
+QString readAnswers(const Call &call, Options *options)
 {
-    const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 1) {
-        return QStringLiteral("one URL is needed");
-    }
-    options->url = QUrl(arguments.constFirst());
-    const QString scheme = options->url.scheme();
-    if (!options->url.isValid() || options->url.host().isEmpty()
-        || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
-        return QStringLiteral("%1: is no http or https address").arg(arguments.constFirst());
-    }
-    // As of a variable that is not set.
-    for (const QString &name : parser.optionNames()) {
-        if (parser.values(name).contains(QString())) {
-            return QStringLiteral("%1%2: needs a value")
-                .arg(QLatin1String(name.size() == 1 ? "-" : "--"), name);
-        }
-    }
-    options->output = parser.value(QStringLiteral("output"));
-    options->json = parser.isSet(QStringLiteral("json"));
-    if (options->json && options->output == StandardOutput) {
-        return QStringLiteral("--json: standard output is taken by what is downloaded");
-    }
-
-    for (const char *name : {"from", "to"}) {
-        const QString charset = parser.value(QLatin1String(name));
-        if (!charset.isEmpty() && !QTextCodec::codecForName(charset.toLatin1())) {
-            return QStringLiteral("--%1: unknown charset '%2'").arg(QLatin1String(name), charset);
-        }
-    }
-    options->from = parser.value(QStringLiteral("from"));
-    options->to = parser.value(QStringLiteral("to"));
-
-    bool isNumber = true;
-    if (parser.isSet(QStringLiteral("timeout"))) {
-        const double seconds = parser.value(QStringLiteral("timeout")).toDouble(&isNumber);
-        if (!isNumber || !(seconds >= 0) || seconds > std::numeric_limits<int>::max() / 1000) {
-            return QStringLiteral("--timeout: is no number of seconds");
-        }
-        options->timeout = int(std::ceil(seconds * 1000));
-    }
-    if (parser.isSet(QStringLiteral("max-size"))) {
-        options->maximumSize = parser.value(QStringLiteral("max-size")).toLongLong(&isNumber);
-        if (!isNumber || options->maximumSize < 0
-            || options->maximumSize > MRVDownloadUrl::LargestSize) {
-            return QStringLiteral("--max-size: is no number of bytes up to %1")
-                .arg(MRVDownloadUrl::LargestSize);
-        }
-    }
-    options->answers.follow = parser.isSet(QStringLiteral("follow"));
-    options->answers.insecure = parser.isSet(QStringLiteral("insecure"));
-    options->answers.user = parser.value(QStringLiteral("user"));
-    if (options->answers.user.contains(u':')) {
+    TerminalInput::Answers &answers = options->answers;
+    answers.follow = call.has("follow");
+    answers.insecure = call.has("insecure");
+    answers.user = call.value("user");
+    if (answers.user.contains(u':')) {
         return QStringLiteral("--user: the password is not given here, where others can read it");
     }
-    const QString wrong = readPassword(parser, &options->answers.password);
-    if (wrong.isEmpty() && !options->answers.password.isNull() && options->answers.user.isEmpty()
+    const QString wrong = readPassword(call, &answers.password);
+    if (wrong.isEmpty() && !answers.password.isNull() && answers.user.isEmpty()
         && options->url.userName().isEmpty()) {
         return QStringLiteral("--user: is needed with a password");
     }
     return wrong;
+}
+
+// What is wrong, or empty for nothing.
+QString readOptions(const Call &call, Options *options)
+{
+    options->url = QUrl(call.arguments.constFirst());
+    const QString scheme = options->url.scheme();
+    if (!options->url.isValid() || options->url.host().isEmpty()
+        || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
+        return QStringLiteral("%1: not an http or https address").arg(call.arguments.constFirst());
+    }
+    options->output = call.value("output");
+    options->json = call.json();
+    if (options->json && options->output == StandardOutput) {
+        return QStringLiteral("--json: standard output is taken by what is downloaded");
+    }
+    for (const char *name : {"from", "to"}) {
+        const QString charset = call.value(name);
+        if (!charset.isEmpty() && !QTextCodec::codecForName(charset.toLatin1())) {
+            return QStringLiteral("--%1: unknown charset '%2'").arg(QLatin1String(name), charset);
+        }
+    }
+    options->from = call.value("from");
+    options->to = call.value("to");
+    if (call.has("timeout")) {
+        options->timeout = int(std::ceil(call.number("timeout", 0) * 1000));
+    }
+    options->maximumSize = qint64(call.number("max-size", MRVDownloadUrl::LargestSize));
+    return readAnswers(call, options);
 }
 
 void showBar(qint64 bytes, qint64 total)
@@ -250,6 +193,17 @@ bool convert(const Options &options, Result *result)
     return true;
 }
 
+// A server must not give a file a name that steers the terminal of whoever lists it.
+QString withoutControls(QString name)
+{
+    for (QChar &c : name) {
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) {
+            c = u' ';
+        }
+    }
+    return name;
+}
+
 // Without a name that was asked for, no file is replaced.
 QString targetFile(const Options &options)
 {
@@ -257,7 +211,7 @@ QString targetFile(const Options &options)
     if (!output.isEmpty() && !QFileInfo(output).isDir()) {
         return output;
     }
-    const QString name = printable(MRVDownloadUrl::fileForUrl(QString(), options.url));
+    const QString name = withoutControls(MRVDownloadUrl::fileForUrl(QString(), options.url));
     return MRVCoreUtil::GetUniqueFileName(output.isEmpty() ? name
                                                            : QDir(output).absoluteFilePath(name));
 }
@@ -279,43 +233,36 @@ QString unwritable(const Options &options)
                                : QString();
 }
 
-} // namespace
-
-int runGet(const QStringList &arguments)
+// Writes what was downloaded. @return the file, empty for standard output.
+QString write(const Options &options, Result *result)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Downloads a page or a file over http or https. Text whose charset the server "
-        "names becomes UTF-8.\nA file appears when all of it has come. A redirect is "
-        "asked about on a terminal, and refused without one."));
-    parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("What to download."));
-    addOptions(&parser);
-    const int code = parseArguments(&parser, QStringLiteral("get URL [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
+    if (options.output == StandardOutput) {
+        writeStandardOutput(result->data, &result->error);
+        return QString();
     }
-    Options options;
-    const QString wrong = readOptions(parser, &options);
-    const QString useless = wrong.isEmpty() ? unwritable(options) : wrong;
-    if (!useless.isEmpty()) {
-        printError(QLatin1String("get: ") + useless);
-        return wrong.isEmpty() ? Failed : WrongUsage;
-    }
+    const QString file = targetFile(options);
+    MRVCoreUtil::WriteBinaryFile(result->data, file, &result->error);
+    return file;
+}
 
+int run(const Call &call)
+{
+    Options options;
+    const QString wrong = readOptions(call, &options);
+    if (!wrong.isEmpty()) {
+        return usageError(wrong);
+    }
+    const QString useless = unwritable(options);
+    if (!useless.isEmpty()) {
+        return refuse(useless);
+    }
     Result result = download(options);
     QString file;
     if (result.error.isEmpty() && convert(options, &result)) {
-        if (options.output == StandardOutput) {
-            writeStandardOutput(result.data, &result.error);
-        } else {
-            file = targetFile(options);
-            MRVCoreUtil::WriteBinaryFile(result.data, file, &result.error);
-        }
+        file = write(options, &result);
     }
     if (!result.error.isEmpty()) {
-        printError(QStringLiteral("get: %1: %2")
-                       .arg(options.url.toDisplayString(), printable(result.error)));
-        return Failed;
+        return refuse(QStringLiteral("%1: %2").arg(options.url.toDisplayString(), result.error));
     }
     if (options.json) {
         printJson({{QStringLiteral("url"), result.url.toDisplayString()},
@@ -328,3 +275,37 @@ int runGet(const QStringList &arguments)
     }
     return Done;
 }
+
+constexpr Verb verbs[] = {{"", "URL", "", run}};
+
+constexpr Option options[] = {
+    Option::name("o output", "FILE",
+                 "Where to write: a file, which is replaced, or a folder; - is standard output. "
+                 "Default: a new file with the name that ends the URL."),
+    Option::flag("follow", "Follow redirects without asking."),
+    Option::name("user", "NAME", "The user name; the password is asked for on the terminal."),
+    Option::integer("password-fd", "NUMBER", 0, 65535,
+                    "Read the password from this open file, such as 0."),
+    Option::name("password-env", "NAME", "Take the password from this environment variable."),
+    Option::flag("insecure", "Go on in spite of SSL errors, and from https to http."),
+    Option::name("from", "CHARSET", "The charset of the text where the server does not name it."),
+    Option::name("to", "CHARSET", "The charset in which the text is written. Default: UTF-8."),
+    Option::number("timeout", "SECONDS", 0, 2147483,
+                   "Give up when nothing comes for this long; 0 waits without end. Default: 30."),
+    Option::integer("max-size", "BYTES", 0, MRVDownloadUrl::LargestSize,
+                    "Give up when the file is larger. Default, and most: 1073741824."),
+    Option::flag("json", "Print what was downloaded as a line of JSON."),
+};
+
+} // namespace
+
+const Command getCommand = {
+    "get",
+    "download a page or a file",
+    "Downloads a page or a file over http or https. Text whose charset the server names becomes "
+    "UTF-8. The file appears when all of it has come. A redirect is asked about on a terminal, and "
+    "refused without one.",
+    "get https://example.org/novel.html -o novel.html",
+    verbs,
+    {options},
+};

@@ -1,10 +1,9 @@
 #include "command.h"
+#include "commandline.h"
 #include "suggestion.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cstdio>
 
@@ -13,50 +12,21 @@
 
 namespace {
 
-constexpr Command commands[] = {
-    {"autoreplace", "show what typing replaces, and edit the list", runAutoReplace},
-    {"engines", "tell and choose what converts which format", runEngines},
+constexpr OldCommand oldCommands[] = {
     {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
     {"find", "find text and formats in manuscripts", runFind},
-    {"formats", "list file formats and what can be done with them", runFormats},
-    {"get", "download a page or a file", runGet},
-    {"measure", "read measures and convert them to other units", runMeasure},
     {"notes", "list links, notes, highlights and pictures", runNotes},
-    {"presets", "show, export and import text presets", runPresets},
     {"replace", "replace text in manuscripts", runReplace},
     {"script", "list, show and check script modes", runScript},
-    {"settings", "show and change the application's preferences", runSettings},
-    {"shortcuts", "show, check and compare keyboard shortcuts", runShortcuts},
-    {"update", "check an update feed for a newer version", runUpdate},
     {"xml", "read and edit XML files by paths", runXml},
 };
-
-QString usage()
-{
-    QString text = QStringLiteral("Usage: mrv COMMAND [OPTIONS] [ARGUMENTS]\n\nCommands:\n");
-    for (const Command &command : commands) {
-        text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -11)
-                    .arg(QLatin1String(command.summary));
-    }
-    return text
-        + QStringLiteral(
-               "\n'mrv COMMAND --help' tells more. 'mrv --version' tells which version this is.");
-}
-
-void printTo(FILE *stream, const QString &text)
-{
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
-    std::fputc('\n', stream);
-}
 
 // Qt warns of what the desktop lacks (a runtime folder, fonts); the tool's errors are its own, in
 // one line.
 void keepQuiet(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg) {
-        printTo(stderr, text);
+        std::fprintf(stderr, "%s\n", text.toUtf8().constData());
     }
 }
 
@@ -72,43 +42,40 @@ void occupyClosedStreams()
     }
 }
 
-} // namespace
+int run(const Command &command, const QStringList &arguments)
+{
+    const QStringList options = arguments.mid(0, arguments.indexOf(QStringLiteral("--")));
+    setErrorStyle(arguments.constFirst(), options.contains(QStringLiteral("--json")));
+    Call call;
+    const int code = readCall(command, arguments, &call);
+    return code >= 0 ? code : call.verb->run(call);
+}
 
-void printError(const QString &text)
+// A pipe that was closed or a full disk must not look like success.
+int ended(int code)
 {
     showProgress(QString());
-    printTo(stderr, QLatin1String("mrv: ") + text.simplified());
+    return code == Done && (std::fflush(stdout) != 0 || std::ferror(stdout))
+        ? refuse(QStringLiteral("standard output cannot be written"))
+        : code;
 }
 
-void printLine(const QString &text)
+int refuseCommand(const QString &name)
 {
-    printTo(stdout, text);
-}
-
-void printJson(const QJsonObject &object)
-{
-    printLine(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
-}
-
-bool writeStandardOutput(const QByteArray &bytes, QString *error)
-{
-    const std::size_t size = std::size_t(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
-        return true;
+    QStringList names;
+    for (const Command *command : commands()) {
+        names.append(QLatin1String(command->name));
     }
-    *error = QStringLiteral("standard output cannot be written");
-    return false;
+    for (const OldCommand &command : oldCommands) {
+        names.append(QLatin1String(command.name));
+    }
+    const QString advice = didYouMean(name, names);
+    return usageError((name.isEmpty() ? QStringLiteral("a command is missing")
+                                      : QStringLiteral("unknown command '%1'").arg(name))
+                      + (advice.isNull() ? QStringLiteral("; try 'mrv --help'") : advice));
 }
 
-void showProgress(const QString &text)
-{
-    static const bool terminal = isatty(STDERR_FILENO);
-    if (terminal) {
-        const QByteArray bytes = text.toUtf8();
-        std::fprintf(stderr, "\r\033[K%s", bytes.constData());
-        std::fflush(stderr);
-    }
-}
+} // namespace
 
 int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments,
                    const QString &hint)
@@ -159,28 +126,18 @@ int main(int argc, char **argv)
         return Done;
     }
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
-        printLine(usage());
+        printLine(toolHelp());
         return Done;
     }
-    for (const Command &command : commands) {
+    for (const OldCommand &command : oldCommands) {
         if (name == QLatin1String(command.name)) {
-            const int code = command.run(arguments);
-            showProgress(QString());
-            // A pipe that was closed or a full disk behind it must not look like success.
-            if (code == Done && (std::fflush(stdout) != 0 || std::ferror(stdout))) {
-                printError(QStringLiteral("standard output cannot be written"));
-                return Failed;
-            }
-            return code;
+            return ended(command.run(arguments));
         }
     }
-    QStringList names;
-    for (const Command &command : commands) {
-        names.append(QLatin1String(command.name));
+    for (const Command *command : commands()) {
+        if (name == QLatin1String(command->name)) {
+            return ended(run(*command, arguments));
+        }
     }
-    const QString advice = didYouMean(name, names);
-    printError((name.isEmpty() ? QStringLiteral("a command is missing")
-                               : QStringLiteral("unknown command '%1'").arg(name))
-               + (advice.isNull() ? QStringLiteral("; try 'mrv --help'") : advice));
-    return WrongUsage;
+    return refuseCommand(name);
 }

@@ -1,8 +1,7 @@
-#include "command.h"
-#include "textsearch.h"
+#include "commandline.h"
+
 #include "util/mrvunit.h"
 
-#include <QCommandLineParser>
 #include <QJsonObject>
 #include <QVector>
 
@@ -32,31 +31,16 @@ struct Target
     double points = 0.0; // that it counts
 };
 
-constexpr const char *spellings[] = {"in", "inch", "\"", "dm", "cm", "mm",
-                                     "pi", "pt",   "px", "dd", "cc"};
+constexpr const char units[] = "in inch \" dm cm mm pi pt px dd cc";
 
-Target targetNamed(const QString &name)
+Target targetNamed(const QString &unit)
 {
-    Target target{name, QString(), 0.0};
+    Target target{unit, QString(), 0.0};
     int decimals = 0;
     double value = 0.0;
-    MRVUnit::Unit unit = MRVUnit::None;
-    for (const char *spelling : spellings) {
-        if (name == QLatin1String(spelling)) {
-            MRVUnit::parseMeasure(u'1' + name, target.pattern, decimals, value, target.points,
-                                  unit);
-        }
-    }
+    MRVUnit::Unit ignored = MRVUnit::None;
+    MRVUnit::parseMeasure(u'1' + unit, target.pattern, decimals, value, target.points, ignored);
     return target;
-}
-
-QString unitNames()
-{
-    QStringList names;
-    for (const char *spelling : spellings) {
-        names.append(QLatin1String(spelling));
-    }
-    return names.join(QLatin1String(", "));
 }
 
 double converted(const Measure &measure, const Target &to)
@@ -107,56 +91,57 @@ QVector<Target> targetsFor(const QString &to)
     return targets;
 }
 
-} // namespace
-
-int runMeasure(const QStringList &arguments)
+// What is wrong with a measure; empty when nothing is.
+QString objectionTo(const QString &text, Measure *measure)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral(
-            "Reads measures (\"2.5cm\", \"1in\", \"12 pt\") and prints them in other units.\n"
-            "Units are %1, written so.\n"
-            "An inch is 72 points, a pixel is one, a cm 28.3465058. \"--\" goes in front of\n"
-            "negative ones. Exit code 1: one of them is no measure.")
-            .arg(unitNames()));
-    parser.addPositionalArgument(QStringLiteral("MEASURE"), QStringLiteral("The measures."),
-                                 QStringLiteral("MEASURE..."));
-    parser.addOption({QStringLiteral("to"), QStringLiteral("Print them in this unit only."),
-                      QStringLiteral("UNIT")});
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("measure MEASURE... [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
+    if (!MRVUnit::parseMeasure(text, measure->pattern, measure->decimals, measure->value,
+                               measure->points, measure->unit)) {
+        return QStringLiteral("'%1' is not a number with a unit (%2) after it")
+            .arg(text, words(units).join(QLatin1String(", ")));
     }
-    const QStringList texts = parser.positionalArguments();
-    const bool alone = parser.isSet(QStringLiteral("to"));
-    const QString to = parser.value(QStringLiteral("to"));
-    const QVector<Target> targets = targetsFor(alone ? to : QString());
-    if (texts.isEmpty()) {
-        printError(QStringLiteral("measure: a measure is missing"));
-        return WrongUsage;
-    }
-    if (targets.constFirst().pattern.isEmpty()) {
-        printError(QStringLiteral("measure: unknown unit '%1'; known are %2").arg(to, unitNames()));
-        return WrongUsage;
-    }
+    return std::isfinite(measure->points)
+        ? QString()
+        : QStringLiteral("'%1' is too large, or not a number").arg(text);
+}
+
+int run(const Call &call)
+{
+    const QVector<Target> targets = targetsFor(call.value("to"));
     bool ok = true;
-    for (const QString &text : texts) {
+    for (const QString &text : call.arguments) {
         Measure measure;
-        if (!MRVUnit::parseMeasure(text, measure.pattern, measure.decimals, measure.value,
-                                   measure.points, measure.unit)) {
-            printError(QStringLiteral("measure: '%1' is no number with a unit (%2) behind it")
-                           .arg(text, unitNames()));
+        const QString objection = objectionTo(text, &measure);
+        if (!objection.isEmpty()) {
+            refuse(objection); // the other measures can still be converted
             ok = false;
-        } else if (!std::isfinite(measure.points)) {
-            printError(QStringLiteral("measure: '%1' is too large, or no number").arg(text));
-            ok = false;
-        } else if (parser.isSet(QStringLiteral("json"))) {
+        } else if (call.json()) {
             printAsJson(text, measure, targets);
         } else {
-            print(text, measure, targets, alone);
+            print(text, measure, targets, call.has("to"));
         }
     }
     return ok ? Done : Failed;
 }
+
+constexpr Verb verbs[] = {{"", "MEASURE...", "", run}};
+
+constexpr Option options[] = {
+    Option::choice("to", "UNIT", units, "Print them in this unit only."),
+    Option::flag("json", "Print each as a line of JSON."),
+};
+
+} // namespace
+
+const Command measureCommand = {
+    "measure",
+    "convert measures to other units",
+    "Reads measures (\"2.5cm\", \"1in\", \"12 pt\") and prints them in other units: in or inch, "
+    "\", "
+    "dm, cm, mm, pi (pica), pt, px, dd (didot), cc (cicero), in lower case. An inch is 72 points, "
+    "a "
+    "pixel is one point, a cm 28.3465058 points.\n"
+    "Exit code 1: one of them is not a measure.",
+    "measure 2.5cm 1in \"12 pt\" --to pt\nmeasure -1cm --json",
+    verbs,
+    {options},
+};

@@ -1,7 +1,5 @@
-#include "command.h"
 #include "settingsfile.h"
 #include "suggestion.h"
-#include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
 #include "options/mrvoptions.h"
@@ -9,22 +7,12 @@
 #include "textformat/mrvtextformat.h"
 
 #include <QBrush>
-#include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
 namespace {
-
-struct Request
-{
-    QStringList arguments; // of the action
-    QString settings; // path; empty for the user's own presets
-    MRVOptions *options = nullptr; // in that file; null where presets of a file are read
-    QString file; // path of a preset file to read instead
-    bool onlyThese = false;
-    bool json = false;
-};
 
 struct PropertyRow
 {
@@ -68,18 +56,6 @@ constexpr AlignmentRow alignmentRows[] = {
 };
 // clang-format on
 
-int refuse(const QString &text)
-{
-    printError(QLatin1String("presets: ") + text);
-    return Failed;
-}
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("presets: ") + text + QLatin1String("; try 'mrv presets --help'"));
-    return WrongUsage;
-}
-
 int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
 {
     return refuse(QStringLiteral("there is no preset '%1'").arg(name)
@@ -100,12 +76,14 @@ bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *e
     return error->isEmpty();
 }
 
-bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *error)
+// @p options: null when a preset file is read.
+bool readPresets(const Call &call, const MRVOptions *options, MRVTextPresetScheme *scheme,
+                 QString *error)
 {
-    if (!request.file.isEmpty()) {
-        return readPresetFile(request.file, scheme, error);
+    if (call.has("file")) {
+        return readPresetFile(call.value("file"), scheme, error);
     }
-    if (request.settings.isEmpty()) {
+    if (!call.has("settings")) {
         const QString path = MRVTextPresetMgr::presetSchemeFilePath();
         if (QFileInfo::exists(path)) {
             return readPresetFile(path, scheme, error);
@@ -114,20 +92,20 @@ bool readPresets(const Request &request, MRVTextPresetScheme *scheme, QString *e
         return true;
     }
     QString reason;
-    const QByteArray bytes = request.options->value(MRVOptions::TextPresets);
+    const QByteArray bytes = options->value(MRVOptions::TextPresets);
     *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
     if (!reason.isEmpty()) {
-        *error = request.options->fileName() + QLatin1String(": ") + reason;
+        *error = options->fileName() + QLatin1String(": ") + reason;
     }
     return error->isEmpty();
 }
 
-bool writePresets(const Request &request, const MRVTextPresetScheme &scheme, QString *error)
+bool writePresets(const Call &call, MRVOptions *options, const MRVTextPresetScheme &scheme,
+                  QString *error)
 {
-    if (!request.settings.isEmpty()) {
-        request.options->setValue(MRVOptions::TextPresets,
-                                  MRVTextPresetScheme::toByteArray(scheme));
-        return request.options->saveNow(error);
+    if (call.has("settings")) {
+        options->setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
+        return options->saveNow(error);
     }
     MRVTextPresetMgr::savePresetScheme(scheme);
     // The file may have been impossible to write, and the settings then be hidden by an older file.
@@ -215,11 +193,11 @@ void printPreset(const QString &name, const MRVTextPreset &preset)
     printFormat("paragraphs", preset.blockFormat());
 }
 
-int list(const Request &request, MRVTextPresetScheme scheme)
+int list(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
     const QStringList names = scheme.names();
     for (const QString &name : names) {
-        if (request.json) {
+        if (call.json()) {
             printJson(jsonOf(name, scheme.preset(name)));
         } else {
             printLine(displayed(name));
@@ -228,15 +206,15 @@ int list(const Request &request, MRVTextPresetScheme scheme)
     return names.isEmpty() ? Failed : Done;
 }
 
-int show(const Request &request, MRVTextPresetScheme scheme)
+int show(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
-    for (const QString &name : request.arguments) {
+    for (const QString &name : call.arguments) {
         if (!scheme.contains(name)) {
             return refuseName(name, scheme);
         }
     }
-    for (const QString &name : request.arguments) {
-        if (request.json) {
+    for (const QString &name : call.arguments) {
+        if (call.json()) {
             printJson(jsonOf(name, scheme.preset(name)));
         } else {
             printPreset(name, scheme.preset(name));
@@ -245,131 +223,89 @@ int show(const Request &request, MRVTextPresetScheme scheme)
     return Done;
 }
 
-int exportTo(const Request &request, MRVTextPresetScheme scheme)
+int exportTo(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
     QString error;
     const QByteArray bytes = MRVTextPresetScheme::toByteArray(scheme);
-    return MRVCoreUtil::WriteBinaryFile(bytes, request.arguments.constFirst(), &error)
-        ? Done
-        : refuse(error);
+    return MRVCoreUtil::WriteBinaryFile(bytes, call.arguments.constFirst(), &error) ? Done
+                                                                                    : refuse(error);
 }
 
-int importFrom(const Request &request, MRVTextPresetScheme scheme)
+int importFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 {
     QString error;
     MRVTextPresetScheme added;
-    if (!readPresetFile(request.arguments.constFirst(), &added, &error)) {
+    if (!readPresetFile(call.arguments.constFirst(), &added, &error)) {
         return refuse(error);
     }
-    if (request.onlyThese) {
+    if (call.has("only-these")) {
         scheme = MRVTextPresetScheme();
     }
     const QStringList names = added.names();
     for (const QString &name : names) {
         scheme.setPreset(name, added.preset(name));
     }
-    return writePresets(request, scheme, &error) ? Done : refuse(error);
+    return writePresets(call, options, scheme, &error) ? Done : refuse(error);
 }
 
-int removeFrom(const Request &request, MRVTextPresetScheme scheme)
+int removeFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 {
-    for (const QString &name : request.arguments) {
+    for (const QString &name : call.arguments) {
         if (!scheme.deletePreset(name)) {
             return refuseName(name, scheme);
         }
     }
     QString error;
-    return writePresets(request, scheme, &error) ? Done : refuse(error);
+    return writePresets(call, options, scheme, &error) ? Done : refuse(error);
 }
 
-struct Action
+// Opens the settings unless a preset file is read, and hands the presets to the verb.
+template<Access access, int (*Run)(const Call &call, MRVOptions *options, MRVTextPresetScheme)>
+int withPresets(const Call &call)
 {
-    const char *name;
-    bool takesOne; // argument, else any number of names
-    Access access; // to the settings file
-    int (*run)(const Request &request, MRVTextPresetScheme scheme);
-};
-
-constexpr Action actions[] = {
-    {"list", false, Access::Read, list},           {"show", false, Access::Read, show},
-    {"export", true, Access::Read, exportTo},      {"import", true, Access::Create, importFrom},
-    {"remove", false, Access::Change, removeFrom},
-};
-
-int runAction(const Action &action, Request request)
-{
-    const int count = request.arguments.size();
-    if (action.run == list ? count > 0 : (count == 0 || (action.takesOne && count > 1))) {
-        return usageError(
-            QStringLiteral("wrong number of arguments for '%1'").arg(QLatin1String(action.name)));
-    }
-    if (action.access != Access::Read && !request.file.isEmpty()) {
-        return usageError(QStringLiteral("--file is only for list, show and export"));
-    }
-    if (request.onlyThese && action.run != importFrom) {
-        return usageError(QStringLiteral("--only-these is only for import"));
-    }
+    // The presets are in the application's folders, not in those of the tool.
+    QCoreApplication::setOrganizationName(MRVOptions::companyName());
+    QCoreApplication::setApplicationName(MRVOptions::applicationName());
     QString error;
     OpenedOptions opened;
-    if (request.file.isEmpty()) {
-        opened = openOptions(request.settings, action.access, &error);
+    if (!call.has("file")) {
+        opened = openOptions(call.value("settings"), access, &error);
     }
-    request.options = opened.options.get();
     MRVTextPresetScheme scheme;
-    // What is there may be damaged when all of it is to be replaced.
-    const bool isReplaced = request.onlyThese && action.run == importFrom;
-    if (!error.isEmpty() || (!isReplaced && !readPresets(request, &scheme, &error))) {
+    // The presets may be damaged when all of them are to be replaced.
+    const bool isReplaced = call.has("only-these");
+    if (!error.isEmpty()
+        || (!isReplaced && !readPresets(call, opened.options.get(), &scheme, &error))) {
         return refuse(error);
     }
-    return action.run(request, scheme);
+    return Run(call, opened.options.get(), scheme);
 }
+
+constexpr Verb verbs[] = {
+    {"list", "", "list the names of all presets", withPresets<Access::Read, list>},
+    {"show", "NAME...", "show what presets do", withPresets<Access::Read, show>},
+    {"export", "FILE", "write all presets to a preset file", withPresets<Access::Read, exportTo>},
+    {"import", "FILE", "add the presets of a preset file, replacing those of the same name",
+     withPresets<Access::Create, importFrom>},
+    {"remove", "NAME...", "remove presets", withPresets<Access::Change, removeFrom>},
+};
+
+constexpr Option options[] = {
+    settingsOption,
+    Option::name("file", "FILE", "Read the presets of this preset file.", "list show export"),
+    Option::flag("only-these", "Replace all presets by those of the file.", "import"),
+    Option::flag("json", "Print each preset as a line of JSON."),
+};
 
 } // namespace
 
-int runPresets(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Shows and changes the text presets of the application.\n\n"
-                       "  list              the names of all presets\n"
-                       "  show NAME...      what presets do\n"
-                       "  export FILE       writes all presets to a preset file\n"
-                       "  import FILE       adds the presets of a preset file, in place of those "
-                       "of the same name\n"
-                       "  remove NAME...    removes presets"));
-    parser.addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("One of the above."));
-    parser.addOption({QStringLiteral("settings"),
-                      QStringLiteral("Work on the presets in this settings file, not the user's."),
-                      QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("file"),
-                      QStringLiteral("List, show or export the presets of this preset file."),
-                      QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("only-these"),
-                      QStringLiteral("Import in place of all presets that are there.")});
-    parser.addOption(
-        {QStringLiteral("json"), QStringLiteral("Print each preset as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("presets ACTION [ARGUMENTS] [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    // The presets lie in the application's folders, not in those of the tool.
-    QCoreApplication::setOrganizationName(MRVOptions::companyName());
-    QCoreApplication::setApplicationName(MRVOptions::applicationName());
-    Request request;
-    request.arguments = parser.positionalArguments();
-    request.settings = parser.value(QStringLiteral("settings"));
-    request.file = parser.value(QStringLiteral("file"));
-    request.onlyThese = parser.isSet(QStringLiteral("only-these"));
-    request.json = parser.isSet(QStringLiteral("json"));
-    if (request.arguments.isEmpty()) {
-        return usageError(QStringLiteral("an action is missing; try 'mrv presets --help'"));
-    }
-    const QString name = request.arguments.takeFirst();
-    for (const Action &action : actions) {
-        if (name == QLatin1String(action.name)) {
-            return runAction(action, request);
-        }
-    }
-    return usageError(QStringLiteral("unknown action '%1'").arg(name));
-}
+const Command presetsCommand = {
+    "presets",
+    "show, export and import text presets",
+    "Shows and changes the text presets of the application.\n"
+    "Exit code 1: refused, or there are no presets to list.",
+    "presets show Heading --json\npresets list --file house.presets\n"
+    "presets import house.presets --only-these",
+    verbs,
+    {options},
+};

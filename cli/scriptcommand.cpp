@@ -19,7 +19,7 @@ int runList(const QStringList &arguments);
 int runShow(const QStringList &arguments);
 int runCheck(const QStringList &arguments);
 
-constexpr Command subcommands[] = {
+constexpr OldCommand subcommands[] = {
     {"list", "list the factory modes, or those of a folder", runList},
     {"show", "show a mode, or write its file", runShow},
     {"check", "check mode files", runCheck},
@@ -33,7 +33,7 @@ QString usage()
     QString text =
         QStringLiteral("Usage: mrv script SUBCOMMAND [OPTIONS] [ARGUMENTS]\n\n"
                        "Script modes and the scripts written in them.\n\nSubcommands:\n");
-    for (const Command &command : subcommands) {
+    for (const OldCommand &command : subcommands) {
         text += QStringLiteral("  %1  %2\n")
                     .arg(QLatin1String(command.name), -10)
                     .arg(QLatin1String(command.summary));
@@ -562,7 +562,7 @@ int runScript(const QStringList &arguments)
         printLine(usage());
         return Done;
     }
-    for (const Command &command : subcommands) {
+    for (const OldCommand &command : subcommands) {
         if (name == QLatin1String(command.name)) {
             return command.run(QStringList(QLatin1String("script ") + name) + arguments.mid(2));
         }

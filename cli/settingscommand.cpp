@@ -1,25 +1,15 @@
-#include "command.h"
 #include "settingsfile.h"
-#include "textsearch.h"
+#include "suggestion.h"
 
 #include "options/mrvoptions.h"
 
-#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
-
-struct Request
-{
-    QStringList arguments; // of the action
-    bool json = false;
-    MRVOptions *options = nullptr;
-};
 
 constexpr QLatin1String PdfSettings("PdfSettings");
 
@@ -33,54 +23,26 @@ QString namedPdfSettings(const QStringList &names)
     return keys.join(QLatin1String(", "));
 }
 
-int refuse(const QString &text)
-{
-    printError(QLatin1String("settings: ") + text);
-    return Failed;
-}
-
-// How many letters must be put in, left out or replaced to make one text of the other.
-int distance(const QString &a, const QString &b)
-{
-    QVector<int> row(b.size() + 1);
-    for (int j = 0; j <= b.size(); ++j) {
-        row[j] = j;
-    }
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int replaced = diagonal + (a.at(i - 1) != b.at(j - 1) ? 1 : 0);
-            diagonal = row[j];
-            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
-        }
-    }
-    return row.last();
-}
-
-// Capitals do not count, nor does a group that was left out.
+// A group that was left out does not count.
 QString nearestKey(const QString &wrong)
 {
-    QString nearest;
-    int least = std::numeric_limits<int>::max();
-    const QString lower = wrong.toLower().left(200);
     const QStringList keys = MRVOptions::settingKeys();
-    for (const QString &key : keys) {
-        const QString right = key.toLower();
-        const int own = std::min(distance(lower, right),
-                                 distance(lower, right.mid(right.lastIndexOf(u'/') + 1)));
-        if (own < least) {
-            least = own;
-            nearest = key;
-        }
+    const QString key = nearest(wrong, keys);
+    if (!key.isNull()) {
+        return key;
     }
-    return nearest;
+    QMap<QString, QString> keysByName;
+    for (const QString &one : keys) {
+        keysByName.insert(one.section(u'/', -1), one);
+    }
+    return keysByName.value(nearest(wrong, keysByName.keys()));
 }
 
 int refuseKey(const QString &key)
 {
-    return refuse(
-        QStringLiteral("there is no setting '%1'; did you mean '%2'?").arg(key, nearestKey(key)));
+    const QString near = nearestKey(key);
+    return refuse(QStringLiteral("unknown setting '%1'").arg(key)
+                  + (near.isNull() ? QString() : QStringLiteral("; did you mean '%1'?").arg(near)));
 }
 
 QJsonValue jsonOf(MRVOptions::SettingType type, const QVariant &value)
@@ -131,14 +93,14 @@ QString shownText(MRVOptions::SettingType type, const QVariant &value)
     return displayed(text);
 }
 
-int get(const Request &request)
+int get(const Call &call, MRVOptions *options)
 {
-    for (const QString &key : request.arguments) {
-        const MRVOptions::Explanation explanation = request.options->explain(key);
+    for (const QString &key : call.arguments) {
+        const MRVOptions::Explanation explanation = options->explain(key);
         if (explanation.key.isEmpty()) {
             return refuseKey(key);
         }
-        if (request.json) {
+        if (call.json()) {
             printJson({{QStringLiteral("key"), key},
                        {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)}});
         } else {
@@ -148,56 +110,54 @@ int get(const Request &request)
     return Done;
 }
 
-int set(const Request &request)
+int set(const Call &call, MRVOptions *options)
 {
-    const QString key = request.arguments.constFirst();
-    const MRVOptions::Explanation before = request.options->explain(key);
+    const QString key = call.arguments.constFirst();
+    const MRVOptions::Explanation before = options->explain(key);
     if (before.key.isEmpty()) {
         return refuseKey(key);
     }
-    if (request.arguments.size() > 2 && before.type != MRVOptions::StringListType) {
-        printError(QStringLiteral("settings: %1 takes one value").arg(key));
-        return WrongUsage;
+    if (call.arguments.size() > 2 && before.type != MRVOptions::StringListType) {
+        return usageError(QStringLiteral("%1 takes one value").arg(key));
     }
-    const QString text = request.arguments.mid(1).join(u'\n');
+    const QString text = call.arguments.mid(1).join(u'\n');
     QString error;
-    if (!request.options->setFromText(key, text, &error)) {
+    if (!options->setFromText(key, text, &error)) {
         return refuse(key + QLatin1String(": ") + error);
     }
-    if (!request.options->saveNow(&error)) {
-        return refuse(error);
+    if (save(options) != Done) {
+        return Failed;
     }
-    if (request.json) {
-        printJson(jsonOf(request.options->explain(key)));
+    if (call.json()) {
+        printJson(jsonOf(options->explain(key)));
     }
     return Done;
 }
 
-int reset(const Request &request)
+int reset(const Call &call, MRVOptions *options)
 {
-    for (const QString &key : request.arguments) {
-        if (request.options->explain(key).key.isEmpty()) {
+    for (const QString &key : call.arguments) {
+        if (options->explain(key).key.isEmpty()) {
             return refuseKey(key);
         }
     }
-    const QStringList names = request.options->pdfSettingsNames();
-    if (request.arguments.contains(PdfSettings) && !names.isEmpty()) {
+    const QStringList names = options->pdfSettingsNames();
+    if (call.arguments.contains(PdfSettings) && !names.isEmpty()) {
         return refuse(
             QStringLiteral("%1 holds the settings of %2 by their names (%3); name those to reset")
                 .arg(PdfSettings, QString::number(names.size()), namedPdfSettings(names)));
     }
-    for (const QString &key : request.arguments) {
+    for (const QString &key : call.arguments) {
         if (key.startsWith(PdfSettings + QLatin1String("/"))) {
-            request.options->removePdfSettings(key.mid(PdfSettings.size() + 1));
+            options->removePdfSettings(key.mid(PdfSettings.size() + 1));
         } else {
-            request.options->remove(key);
+            options->remove(key);
         }
     }
-    QString error;
-    return request.options->saveNow(&error) ? Done : refuse(error);
+    return save(options);
 }
 
-int list(const Request &request)
+int list(const Call &call, MRVOptions *options)
 {
     bool found = false;
     const QStringList keys = MRVOptions::settingKeys();
@@ -205,12 +165,12 @@ int list(const Request &request)
         const auto isWanted = [&key](const QString &word) {
             return key.contains(word, Qt::CaseInsensitive);
         };
-        if (!std::all_of(request.arguments.begin(), request.arguments.end(), isWanted)) {
+        if (!std::all_of(call.arguments.begin(), call.arguments.end(), isWanted)) {
             continue;
         }
         found = true;
-        const MRVOptions::Explanation explanation = request.options->explain(key);
-        if (request.json) {
+        const MRVOptions::Explanation explanation = options->explain(key);
+        if (call.json()) {
             printJson(jsonOf(explanation));
         } else {
             printLine(key + QLatin1String(" = ") + shownText(explanation.type, explanation.value));
@@ -219,14 +179,14 @@ int list(const Request &request)
     return found ? Done : Failed;
 }
 
-int explain(const Request &request)
+int explain(const Call &call, MRVOptions *options)
 {
-    for (const QString &key : request.arguments) {
-        const MRVOptions::Explanation explanation = request.options->explain(key);
+    for (const QString &key : call.arguments) {
+        const MRVOptions::Explanation explanation = options->explain(key);
         if (explanation.key.isEmpty()) {
             return refuseKey(key);
         }
-        if (request.json) {
+        if (call.json()) {
             printJson(jsonOf(explanation));
             continue;
         }
@@ -238,7 +198,7 @@ int explain(const Request &request)
         if (!explanation.accepts.isEmpty()) {
             printLine(QLatin1String("  accepts  ") + explanation.accepts);
         }
-        if (const QStringList names = request.options->pdfSettingsNames();
+        if (const QStringList names = options->pdfSettingsNames();
             key == PdfSettings && !names.isEmpty()) {
             printLine(QLatin1String("  names    ") + namedPdfSettings(names));
         }
@@ -249,11 +209,11 @@ int explain(const Request &request)
     return Done;
 }
 
-int changed(const Request &request)
+int changed(const Call &call, MRVOptions *options)
 {
-    const QList<MRVOptions::Explanation> settings = request.options->changedSettings();
+    const QList<MRVOptions::Explanation> settings = options->changedSettings();
     for (const MRVOptions::Explanation &setting : settings) {
-        if (request.json) {
+        if (call.json()) {
             printJson(jsonOf(setting));
         } else {
             printLine(QStringLiteral("%1 = %2 (default: %3)")
@@ -264,137 +224,64 @@ int changed(const Request &request)
     return settings.isEmpty() ? Failed : Done;
 }
 
-int exportTo(const Request &request)
+int exportTo(const Call &call, MRVOptions *options)
 {
-    const QString path = request.arguments.constFirst();
-    if (QFileInfo(path) == QFileInfo(request.options->fileName())) {
+    const QString path = call.arguments.constFirst();
+    if (QFileInfo(path) == QFileInfo(options->fileName())) {
         return refuse(QStringLiteral("%1 is the settings file itself").arg(path));
     }
     QString error;
-    return request.options->saveToFile(path, &error) ? Done : refuse(error);
+    return options->saveToFile(path, &error) ? Done : refuse(error);
 }
 
 // Reading replaces all that is there: it must not begin before there is something to put in its
 // place.
-int importFrom(const Request &request)
+int importFrom(const Call &call, MRVOptions *options)
 {
-    const QString path = request.arguments.constFirst();
+    const QString path = call.arguments.constFirst();
     QString error;
     const OpenedOptions source = openOptions(path, Access::Read, &error);
     if (!source.options) {
         return refuse(error);
     }
     if (source.options->allKeys().isEmpty()) {
-        return refuse(QStringLiteral("%1: there are no settings in it").arg(path));
+        return refuse(QStringLiteral("%1: it contains no settings").arg(path));
     }
-    request.options->loadFromFile(path);
-    return request.options->saveNow(&error) ? Done : refuse(error);
+    options->loadFromFile(path);
+    return save(options);
 }
 
-constexpr int Any = std::numeric_limits<int>::max();
-
-struct Action
-{
-    const char *name;
-    int least; // number of arguments
-    int most;
-    Access access; // to the settings file
-    int (*run)(const Request &request);
+constexpr Verb verbs[] = {
+    {"get", "KEY...", "print values", withSettings<Access::Read, get>},
+    {"set", "KEY VALUE...", "store a value; several values make a list",
+     withSettings<Access::Create, set>},
+    {"reset", "KEY...", "go back to the default", withSettings<Access::Change, reset>},
+    {"list", "[WORD...]", "list the settings whose keys contain all words",
+     withSettings<Access::Read, list>},
+    {"explain", "KEY...", "print value, default, accepted values, and the source of the value",
+     withSettings<Access::Read, explain>},
+    {"changed", "", "list the settings that differ from their defaults",
+     withSettings<Access::Read, changed>},
+    {"export", "FILE", "copy what is stored into an INI file",
+     withSettings<Access::Read, exportTo>},
+    {"import", "FILE", "replace what is stored by an exported file",
+     withSettings<Access::Create, importFrom>},
 };
 
-// clang-format off
-constexpr Action actions[] = {
-    {"get",     1, Any, Access::Read, get},
-    {"set",     2, Any, Access::Create, set},
-    {"reset",   1, Any, Access::Change, reset},
-    {"list",    0, Any, Access::Read, list},
-    {"explain", 1, Any, Access::Read, explain},
-    {"changed", 0, 0,   Access::Read, changed},
-    {"export",  1, 1,   Access::Read, exportTo},
-    {"import",  1, 1,   Access::Create, importFrom},
+constexpr Option options[] = {
+    settingsOption,
+    Option::flag("json", "Print each setting as a line of JSON."),
 };
-// clang-format on
-
-// A number below zero would be taken for an option.
-QStringList withValuesLast(const QStringList &arguments)
-{
-    QStringList options = arguments.mid(0, 1); // the command's name
-    QStringList values{QStringLiteral("--")};
-    for (int i = 1; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
-        bool isNumber = false;
-        argument.toDouble(&isNumber);
-        if (argument == QLatin1String("--")) {
-            return options + values + arguments.mid(i + 1);
-        }
-        if (isNumber || argument.size() < 2 || !argument.startsWith(u'-')) {
-            values.append(argument);
-        } else {
-            options.append(argument);
-        }
-        if (argument == QLatin1String("--settings") && i + 1 < arguments.size()) {
-            options.append(arguments.at(++i));
-        }
-    }
-    return options + values;
-}
-
-int runAction(const Action &action, Request *request, const QString &path)
-{
-    QString error;
-    const OpenedOptions opened = openOptions(path, action.access, &error);
-    if (!opened.options) {
-        return refuse(error);
-    }
-    request->options = opened.options.get();
-    return action.run(*request);
-}
 
 } // namespace
 
-int runSettings(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows and changes the preferences of the application.\n\n"
-        "  get KEY...         print values\n"
-        "  set KEY VALUE      store a value; several values make a list\n"
-        "  reset KEY...       go back to the default\n"
-        "  list [WORD...]     list the settings whose keys hold all words, with their values\n"
-        "  explain KEY...     print value, default, what is accepted, and where the value is from\n"
-        "  changed            list what differs from the defaults\n"
-        "  export FILE        copy what is stored into an INI file\n"
-        "  import FILE        replace what is stored by an exported file\n\n"
-        "Exit code 1: refused, or nothing found."));
-    parser.addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("See above."),
-                                 QStringLiteral("ACTION [ARGUMENTS]"));
-    parser.addOption({QStringLiteral("settings"),
-                      QStringLiteral("Work on this INI file instead of the user's settings."),
-                      QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each setting as JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("settings ACTION [ARGUMENTS] [OPTIONS]"),
-                       withValuesLast(arguments));
-    if (code >= 0) {
-        return code;
-    }
-    Request request;
-    request.arguments = parser.positionalArguments();
-    request.json = parser.isSet(QStringLiteral("json"));
-    const QString name = request.arguments.isEmpty() ? QString() : request.arguments.takeFirst();
-    for (const Action &action : actions) {
-        if (name != QLatin1String(action.name)) {
-            continue;
-        }
-        if (request.arguments.size() < action.least || request.arguments.size() > action.most) {
-            printError(
-                QStringLiteral("settings: %1 takes other arguments; try 'mrv settings --help'")
-                    .arg(name));
-            return WrongUsage;
-        }
-        return runAction(action, &request, parser.value(QStringLiteral("settings")));
-    }
-    printError(
-        QStringLiteral("settings: unknown action '%1'; try 'mrv settings --help'").arg(name));
-    return WrongUsage;
-}
+const Command settingsCommand = {
+    "settings",
+    "show and change the application's preferences",
+    "Shows and changes the preferences of the application.\n"
+    "Exit code 1: refused, or nothing found.",
+    "settings set Backups/retain 10\nsettings list backups\n"
+    "settings explain Backups/retain --json",
+    verbs,
+    {options},
+};

@@ -138,3 +138,9 @@ OpenedOptions openOptions(const QString &path, Access access, QString *error)
     *error = QStringLiteral("%1: %2").arg(file.filePath(), reason);
     return opened;
 }
+
+int save(MRVOptions *options)
+{
+    QString error;
+    return options->saveNow(&error) ? Done : refuse(error);
+}

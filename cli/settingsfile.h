@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "commandline.h"
 
 #include <memory>
 
@@ -36,3 +36,19 @@ struct OpenedOptions
  * long.
  */
 OpenedOptions openOptions(const QString &path, Access access, QString *error);
+
+/** The option that names a settings file. */
+constexpr Option settingsOption =
+    Option::name("settings", "FILE", "Use this settings file (INI) instead of the user's own.");
+
+/** Opens the options in the file of --settings, or the user's own, and runs a verb on them. */
+template<Access access, int (*Run)(const Call &call, MRVOptions *options)>
+int withSettings(const Call &call)
+{
+    QString error;
+    const OpenedOptions opened = openOptions(call.value("settings"), access, &error);
+    return opened.options ? Run(call, opened.options.get()) : refuse(error);
+}
+
+/** Saves the options. @return Done, or Failed after an error. */
+int save(MRVOptions *options);

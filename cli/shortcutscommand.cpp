@@ -1,46 +1,16 @@
-#include "command.h"
 #include "settingsfile.h"
 #include "suggestion.h"
-#include "textsearch.h"
 
 #include "core/mrvfilewriter.h"
 #include "options/mrvoptions.h"
 #include "shortcuts/mrvshortcutcheck.h"
 #include "shortcuts/mrvshortcutscheme.h"
 
-#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QSettings>
 
-#include <memory>
-
 namespace {
-
-struct Request
-{
-    QStringList schemes;
-    QString settings; // path; empty for the user's own
-    bool storedOnly = false;
-    QString filter;
-    QString group;
-    QKeySequence keys;
-    QString output; // path; empty for standard output
-    bool asText = true;
-    bool json = false;
-};
-
-int refuse(const QString &text)
-{
-    printError(QLatin1String("shortcuts: ") + text);
-    return Failed;
-}
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("shortcuts: ") + text);
-    return WrongUsage;
-}
 
 bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error)
 {
@@ -86,19 +56,20 @@ bool readNamed(const QString &name, MRVShortcutScheme *scheme, QString *error)
 }
 
 // The scheme with the number of an argument; without such an argument that of the settings.
-bool readScheme(const Request &request, int argument, MRVShortcutScheme *scheme)
+// @return Done, or the code to end with.
+int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
 {
+    if (call.has("settings") && !call.arguments.isEmpty()) {
+        return usageError(QStringLiteral("either --settings or a scheme can be given"));
+    }
     QString error;
-    const bool read = argument < request.schemes.size()
-        ? readNamed(request.schemes.at(argument), scheme, &error)
-        : readSettings(request.settings, scheme, &error);
-    if (read && !request.storedOnly) {
+    const bool read = argument < call.arguments.size()
+        ? readNamed(call.arguments.at(argument), scheme, &error)
+        : readSettings(call.value("settings"), scheme, &error);
+    if (read && !call.has("stored")) {
         scheme->mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
     }
-    if (!read) {
-        refuse(error);
-    }
-    return read;
+    return read ? int(Done) : refuse(error);
 }
 
 QString nameOf(MRVShortcut::Id id)
@@ -124,26 +95,58 @@ QJsonObject jsonOf(const MRVShortcutInfo &info)
             {QStringLiteral("keys"), portable(info.sequence)}};
 }
 
-int list(const Request &request)
+// What list shows: the options, checked.
+struct Filter
 {
+    QString text;
+    QString group;
+    QKeySequence keys;
+
+    bool accepts(const MRVShortcutInfo &info) const
+    {
+        const bool isInGroup =
+            group.isEmpty() || MRVShortcut::group(info.id).compare(group, Qt::CaseInsensitive) == 0;
+        // Chords that begin with the keys are theirs, too.
+        return isInGroup
+            && (keys.isEmpty() || keys.matches(info.sequence) != QKeySequence::NoMatch);
+    }
+};
+
+// @return Done, or the code to end with.
+int readFilter(const Call &call, Filter *filter)
+{
+    *filter = {call.value("filter"), call.value("group"),
+               MRVShortcutScheme::toSequence(call.value("keys"))};
+    if (call.has("keys") && filter->keys.isEmpty()) {
+        return usageError(
+            QStringLiteral("--keys: '%1' contains what is not a key").arg(call.value("keys")));
+    }
+    const QStringList groups = MRVShortcutScheme::morvane().shortcutGroups();
+    if (call.has("group") && !groups.contains(filter->group, Qt::CaseInsensitive)) {
+        return usageError(QStringLiteral("--group: '%1' is not one of %2")
+                              .arg(filter->group, groups.join(QLatin1String(", "))));
+    }
+    return Done;
+}
+
+int list(const Call &call)
+{
+    Filter filter;
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme)) {
-        return Failed;
+    if (const int code = readFilter(call, &filter); code != Done) {
+        return code;
+    }
+    if (const int code = readScheme(call, 0, &scheme); code != Done) {
+        return code;
     }
     bool found = false;
-    const QList<MRVShortcutInfo> infos = scheme.findShortcuts(request.filter);
+    const QList<MRVShortcutInfo> infos = scheme.findShortcuts(filter.text);
     for (const MRVShortcutInfo &info : infos) {
-        const QString group = MRVShortcut::group(info.id);
-        if (!request.group.isEmpty() && group.compare(request.group, Qt::CaseInsensitive) != 0) {
-            continue;
-        }
-        // Chords that begin with the keys are theirs, too.
-        if (!request.keys.isEmpty()
-            && request.keys.matches(info.sequence) == QKeySequence::NoMatch) {
+        if (!filter.accepts(info)) {
             continue;
         }
         found = true;
-        if (request.json) {
+        if (call.json()) {
             printJson(jsonOf(info));
         } else {
             printLine(nameOf(info.id).leftJustified(32) + u' '
@@ -153,16 +156,16 @@ int list(const Request &request)
     return found ? Done : Failed;
 }
 
-int check(const Request &request)
+int check(const Call &call)
 {
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme)) {
-        return Failed;
+    if (const int code = readScheme(call, 0, &scheme); code != Done) {
+        return code;
     }
     const QList<MRVShortcutCheck::Conflict> conflicts = MRVShortcutCheck::conflicts(scheme);
     for (const MRVShortcutCheck::Conflict &conflict : conflicts) {
         const QString sentence = MRVShortcutCheck::describe(conflict, scheme);
-        if (!request.json) {
+        if (!call.json()) {
             printLine(displayed(sentence));
             continue;
         }
@@ -201,17 +204,19 @@ QString differenceText(const MRVShortcutCheck::Difference &difference)
     return changes.join(QLatin1String(", "));
 }
 
-int diff(const Request &request)
+int diff(const Call &call)
 {
     MRVShortcutScheme before = MRVShortcutScheme::morvane();
     MRVShortcutScheme after;
-    const bool two = request.schemes.size() == 2;
-    if ((two && !readScheme(request, 0, &before)) || !readScheme(request, two ? 1 : 0, &after)) {
-        return Failed;
+    const bool two = call.arguments.size() == 2;
+    int code = two ? readScheme(call, 0, &before) : int(Done);
+    code = code == Done ? readScheme(call, two ? 1 : 0, &after) : code;
+    if (code != Done) {
+        return code;
     }
     const auto differences = MRVShortcutCheck::differences(before, after);
     for (const MRVShortcutCheck::Difference &difference : differences) {
-        if (!request.json) {
+        if (!call.json()) {
             printLine(nameOf(difference.id) + QLatin1String(": ")
                       + displayed(differenceText(difference)));
             continue;
@@ -226,140 +231,56 @@ int diff(const Request &request)
     return differences.isEmpty() ? Failed : Done;
 }
 
-int exportScheme(const Request &request)
+int exportScheme(const Call &call)
 {
     MRVShortcutScheme scheme;
-    if (!readScheme(request, 0, &scheme)) {
-        return Failed;
+    if (const int code = readScheme(call, 0, &scheme); code != Done) {
+        return code;
     }
     QString error;
-    const QByteArray bytes = request.asText ? scheme.toText().toUtf8() : scheme.toByteArray();
-    const bool written = request.output.isEmpty()
-        ? writeStandardOutput(bytes, &error)
-        : MRVFileWriter::write(request.output, bytes, &error);
+    const bool asFile = call.value("to") == QLatin1String("scheme");
+    const QByteArray bytes = asFile ? scheme.toByteArray() : scheme.toText().toUtf8();
+    const bool written = call.has("output")
+        ? MRVFileWriter::write(call.value("output"), bytes, &error)
+        : writeStandardOutput(bytes, &error);
     return written ? Done : refuse(error);
 }
 
-struct Action
-{
-    const char *name;
-    int mostSchemes;
-    int (*run)(const Request &request);
+constexpr Verb verbs[] = {
+    {"list", "[SCHEME]", "list the commands with their keys and texts", list},
+    {"check", "[SCHEME]", "find keys that would not work; exit code 1 if there are any", check},
+    {"diff", "[BEFORE] [AFTER]", "list what changed; from the default unless two are given", diff},
+    {"export", "[SCHEME]", "write the scheme as text for readers, or as a scheme file",
+     exportScheme},
 };
 
-constexpr Action actions[] = {
-    {"list", 1, list},
-    {"check", 1, check},
-    {"diff", 2, diff},
-    {"export", 1, exportScheme},
+constexpr Option options[] = {
+    settingsOption,
+    Option::flag("stored", "Only what is stored: no default for what is not."),
+    Option::text("filter", "TEXT", "Only commands whose text, keys or name contain TEXT.", "list"),
+    Option::name("group", "GROUP", "Only the commands of this menu group.", "list"),
+    Option::name("keys", "KEYS",
+                 "Only the owner of these keys, such as Ctrl+S, and commands whose keys begin with "
+                 "them.",
+                 "list"),
+    Option::choice("to", "FORMAT", "text scheme",
+                   "The format: text (the default), or scheme for a scheme file.", "export"),
+    Option::name("o output", "FILE", "Write to this file instead of standard output.", "export"),
+    Option::flag("json", "Print a line of JSON for each command.", "list check diff"),
 };
-
-void addOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(QStringLiteral(
-        "Shows and checks keyboard shortcuts. SCHEME is a file of a shortcut scheme or the\n"
-        "name of a predefined one (Morvane, Microsoft Word, Open Office, Mac Morvane; a file of\n"
-        "such a name is ./Morvane); without it, the scheme is that of the settings. Commands that\n"
-        "it lacks get their default, as in the application.\n\n"
-        "  list [SCHEME]            list the commands with their keys and texts\n"
-        "  check [SCHEME]           find keys that would not work; exit code 1 if there are any\n"
-        "  diff [BEFORE] [AFTER]    list what changed; with one SCHEME or none, from the default\n"
-        "  export [SCHEME]          write the scheme for readers, or as a file\n\n"
-        "Exit code 1: refused, or nothing found."));
-    parser->addPositionalArgument(QStringLiteral("ACTION"), QStringLiteral("See above."),
-                                  QStringLiteral("ACTION [SCHEME...]"));
-    parser->addOption({QStringLiteral("settings"),
-                       QStringLiteral("Read this settings file (INI) instead of the user's."),
-                       QStringLiteral("FILE")});
-    parser->addOption({QStringLiteral("stored"),
-                       QStringLiteral("Only what is stored: no default for what is not.")});
-    parser->addOption({QStringLiteral("filter"),
-                       QStringLiteral("list: only commands whose text, keys or name holds TEXT."),
-                       QStringLiteral("TEXT")});
-    parser->addOption({QStringLiteral("group"), QStringLiteral("list: only this menu group."),
-                       QStringLiteral("GROUP")});
-    parser->addOption({QStringLiteral("keys"),
-                       QStringLiteral("list: only the owner of these keys, such as Ctrl+S, and\n"
-                                      "commands whose keys begin with them."),
-                       QStringLiteral("KEYS")});
-    parser->addOption({QStringLiteral("to"),
-                       QStringLiteral("export: text (the default), or scheme for a scheme file."),
-                       QStringLiteral("FORMAT"), QStringLiteral("text")});
-    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                       QStringLiteral("export: write to this file instead of standard output."),
-                       QStringLiteral("FILE")});
-    parser->addOption(
-        {QStringLiteral("json"), QStringLiteral("Print a line of JSON for each command.")});
-}
-
-// Empty where the options are right.
-QString readOptions(const QCommandLineParser &parser, const Action &action, Request *request)
-{
-    static const QStringList ofList{QStringLiteral("filter"), QStringLiteral("group"),
-                                    QStringLiteral("keys")};
-    static const QStringList ofExport{QStringLiteral("to"), QStringLiteral("output")};
-    const QStringList given = parser.optionNames();
-    for (const QString &name : given) {
-        if ((ofList.contains(name) && action.run != list)
-            || ((ofExport.contains(name) || name == QLatin1String("o"))
-                && action.run != exportScheme)
-            || (name == QLatin1String("json") && action.run == exportScheme)) {
-            return QStringLiteral("%1 takes no option '%2'").arg(QLatin1String(action.name), name);
-        }
-    }
-    request->settings = parser.value(QStringLiteral("settings"));
-    if (!request->settings.isEmpty() && !request->schemes.isEmpty()) {
-        return QStringLiteral("either --settings or a scheme can be given");
-    }
-    if (request->schemes.size() > action.mostSchemes) {
-        return QStringLiteral("%1 takes fewer schemes").arg(QLatin1String(action.name));
-    }
-    const QString keys = parser.value(QStringLiteral("keys"));
-    request->keys = MRVShortcutScheme::toSequence(keys);
-    if (parser.isSet(QStringLiteral("keys")) && request->keys.isEmpty()) {
-        return QStringLiteral("'%1' holds what is no key").arg(keys);
-    }
-    const QString format = parser.value(QStringLiteral("to"));
-    request->asText = format == QLatin1String("text");
-    if (!request->asText && format != QLatin1String("scheme")) {
-        return QStringLiteral("unknown format '%1'; known are text and scheme").arg(format);
-    }
-    request->storedOnly = parser.isSet(QStringLiteral("stored"));
-    request->filter = parser.value(QStringLiteral("filter"));
-    request->group = parser.value(QStringLiteral("group"));
-    const QStringList groups = MRVShortcutScheme::morvane().shortcutGroups();
-    if (parser.isSet(QStringLiteral("group"))
-        && !groups.contains(request->group, Qt::CaseInsensitive)) {
-        return QStringLiteral("unknown group '%1'; known are %2")
-            .arg(request->group, groups.join(QLatin1String(", ")));
-    }
-    request->output = parser.value(QStringLiteral("output"));
-    if (parser.isSet(QStringLiteral("output")) && request->output.isEmpty()) {
-        return QStringLiteral("--output takes the name of a file");
-    }
-    request->json = parser.isSet(QStringLiteral("json"));
-    return QString();
-}
 
 } // namespace
 
-int runShortcuts(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    addOptions(&parser);
-    const int code = parseArguments(
-        &parser, QStringLiteral("shortcuts ACTION [SCHEME...] [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    Request request;
-    request.schemes = parser.positionalArguments();
-    const QString name = request.schemes.isEmpty() ? QString() : request.schemes.takeFirst();
-    for (const Action &action : actions) {
-        if (name == QLatin1String(action.name)) {
-            const QString error = readOptions(parser, action, &request);
-            return error.isEmpty() ? action.run(request) : usageError(error);
-        }
-    }
-    return usageError(QStringLiteral("unknown action '%1'; try 'mrv shortcuts --help'").arg(name));
-}
+const Command shortcutsCommand = {
+    "shortcuts",
+    "show, check and compare keyboard shortcuts",
+    "Shows and checks keyboard shortcuts. SCHEME is a scheme file or the name of a predefined "
+    "scheme: Morvane, Microsoft Word, Open Office, Mac Morvane (a file of such a name is "
+    "./Morvane). Without it, the scheme is that of the settings. Commands that it lacks get their "
+    "default, as in the application.\n"
+    "Exit code 1: refused, or nothing found.",
+    "shortcuts list --keys Ctrl+G\nshortcuts diff Morvane \"Open Office\"\n"
+    "shortcuts export --to scheme -o mine.scheme",
+    verbs,
+    {options},
+};

@@ -1,6 +1,6 @@
 #include "terminalinput.h"
 
-#include "command.h"
+#include "output.h"
 
 #include <csignal>
 #include <cstdio>
@@ -100,23 +100,13 @@ QString askLine(const QString &prompt, bool isSecret)
     if (isSecret) {
         hidden.emplace(); // forgets what was typed before the question
     }
-    showProgress(printable(prompt));
+    showProgress(prompt);
     if (!isSecret) {
         return readLine();
     }
     const QString line = readLine();
     std::fputc('\n', stderr);
     return line;
-}
-
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) {
-            c = u' ';
-        }
-    }
-    return text;
 }
 
 TerminalInput::TerminalInput(const Answers &answers, MRVDownloadUrl *download, const QUrl &url)

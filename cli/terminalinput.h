@@ -11,9 +11,6 @@ bool canAsk();
 /** Asks for a line on the terminal; null where there is none. */
 QString askLine(const QString &prompt, bool isSecret = false);
 
-/** A text without the control characters by which a server could steer the terminal. */
-QString printable(QString text);
-
 /**
  * Answers the questions of a download from the command line, and asks on the terminal for the rest.
  */

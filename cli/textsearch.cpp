@@ -13,8 +13,6 @@
 
 #include <algorithm>
 
-#include <unistd.h>
-
 namespace {
 
 constexpr struct
@@ -250,27 +248,4 @@ QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRa
             {QStringLiteral("start"), range.start()},
             {QStringLiteral("end"), range.end()},
             {QStringLiteral("text"), text}};
-}
-
-QString displayed(QString text)
-{
-    for (QChar &character : text) {
-        const QChar::Category category = character.category();
-        if (category == QChar::Separator_Line || category == QChar::Separator_Paragraph
-            || character == u'\n' || character == u'\r'
-            || character == QChar::ObjectReplacementCharacter) { // a picture's place
-            character = u' ';
-        } else if (category == QChar::Other_Control && character != u'\t') {
-            character = QChar::ReplacementCharacter;
-        }
-    }
-    return text;
-}
-
-QString styled(Style style, const QString &text)
-{
-    static const bool terminal = isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR");
-    constexpr const char *codes[] = {"1;31", "35", "31", "32"}; // by Style
-    return terminal ? QStringLiteral("\033[%1m%2\033[m").arg(QLatin1String(codes[int(style)]), text)
-                    : text;
 }

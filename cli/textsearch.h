@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documentinput.h"
+#include "output.h"
 
 #include "search/mrvtextfinder.h"
 #include "search/mrvtextreplacer.h"
@@ -59,14 +60,3 @@ bool readInputOptions(const QCommandLineParser &parser, const QStringList &input
  * paragraph. All count UTF-16 units.
  */
 QJsonObject toJson(const QString &path, QTextDocument *document, const MRVTextRange &range);
-
-/**
- * The text with blanks for line and paragraph ends, and without what would control a terminal. As
- * long as before.
- */
-QString displayed(QString text);
-
-enum class Style { Match, Path, Removed, Added };
-
-/** The text as it stands, or, where standard output is a terminal, set off by a colour. */
-QString styled(Style style, const QString &text);

@@ -1,5 +1,4 @@
-#include "command.h"
-#include "terminalinput.h"
+#include "commandline.h"
 
 #include "core/mrvfilewriter.h"
 #include "download/mrvdownloadsilentinput.h"
@@ -8,7 +7,7 @@
 #include "update/mrvupdatemodel.h"
 #include "version/mversion.h"
 
-#include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -40,12 +39,6 @@ private:
     int m_count = 0;
 };
 
-int usageError(const QString &text)
-{
-    printError(QLatin1String("update: ") + text);
-    return WrongUsage;
-}
-
 // One that can be compared: digits with full stops between, or such a text and ".beta".
 bool isVersion(QString text)
 {
@@ -73,7 +66,7 @@ bool downloadFeed(const QUrl &url, const QString &path, QString *error)
     QObject::connect(&download, QOverload<QString>::of(&MRVDownloadUrl::downloadSuccess), &loop,
                      &QEventLoop::quit);
     if (!download.downloadToFile(url, path)) {
-        *error = QStringLiteral("this is no address");
+        *error = QStringLiteral("this is not an address");
         return false;
     }
     showProgress(QStringLiteral("fetching %1").arg(url.toDisplayString()));
@@ -109,8 +102,9 @@ void print(const MRVUpdateModel &model, const QString &feed, bool json)
                    {QStringLiteral("beta"), isBeta},
                    {QStringLiteral("installer"), model.downloadURL()}});
     } else if (model.isNewerAvailable()) {
-        printLine(QStringLiteral("%1 is available, this is %2\n%3")
-                      .arg(model.availableVersion(), current, printable(model.downloadURL())));
+        printLine(QStringLiteral("%1 is available, this is %2")
+                      .arg(printable(model.availableVersion()), current));
+        printLine(printable(model.downloadURL()));
     } else {
         printLine((isBeta ? QStringLiteral("%1 is up to date: %2 is a beta, which is not offered")
                           : QStringLiteral("%1 is up to date: the feed offers %2"))
@@ -124,8 +118,7 @@ int check(const QString &given, bool json)
     // names.
     const MRVTemporaryFolder folder(QDir::tempPath());
     if (folder.path().isEmpty()) {
-        printError(QLatin1String("update: ") + folder.errorString());
-        return Failed;
+        return refuse(folder.errorString());
     }
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     MRVUpdateModel model;
@@ -142,59 +135,47 @@ int check(const QString &given, bool json)
         model.readXML();
     }
     if (!error.isEmpty()) {
-        printError(QStringLiteral("update: %1: %2").arg(feed, printable(error)));
-        return Failed;
+        return refuse(QStringLiteral("%1: %2").arg(feed, error));
     }
     print(model, feed, json);
     return model.isNewerAvailable() ? Done : Failed;
 }
 
+int run(const Call &call)
+{
+    const QString current = call.value("current");
+    if (call.has("current") && !isVersion(current)) {
+        return usageError(
+            QStringLiteral("--current: '%1' is not a version such as 2.9.0.1").arg(current));
+    }
+    if (call.has("current")) {
+        QCoreApplication::setApplicationVersion(current);
+    }
+    QCoreApplication::setApplicationName(call.has("app") ? call.value("app")
+                                                         : QStringLiteral("Morvane"));
+    return check(call.arguments.value(0), call.json());
+}
+
+constexpr Verb verbs[] = {{"", "[FEED]", "", run}};
+
+constexpr Option options[] = {
+    Option::name("current", "VERSION",
+                 "The version that is running. Default: the version of this tool."),
+    Option::choice("app", "NAME", "Morvane Fernwick",
+                   "The application whose feed is read: Morvane (default) or Fernwick."),
+    Option::flag("json", "Print the result as one line of JSON."),
+};
+
 } // namespace
 
-int runUpdate(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Reads an update feed and tells whether it offers a newer version. Nothing is installed.\n"
-        "Exit code 1: there is nothing newer, or the feed cannot be read."));
-    parser.addPositionalArgument(
-        QStringLiteral("FEED"),
-        QStringLiteral("An http or https address, a file, or - for standard input; the "
-                       "application's own feed unless given."),
-        QStringLiteral("[FEED]"));
-    const QCommandLineOption current(
-        QStringLiteral("current"),
-        QStringLiteral("The version that is running; this tool's own unless given."),
-        QStringLiteral("VERSION"));
-    const QCommandLineOption application(
-        QStringLiteral("app"), QStringLiteral("Whose feed: Morvane (default) or Fernwick."),
-        QStringLiteral("NAME"), QStringLiteral("Morvane"));
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Print the verdict as one line of JSON."));
-    parser.addOptions({current, application, json});
-    const int code = parseArguments(
-        &parser, QStringLiteral("update [FEED] [--current VERSION] [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    const QString name = parser.value(application);
-    if (parser.positionalArguments().size() > 1) {
-        return usageError(QStringLiteral("one feed at a time"));
-    }
-    // As of a variable that is not set, which must not mean the application's own feed.
-    if (parser.positionalArguments().contains(QString())) {
-        return usageError(QStringLiteral("the feed has no name"));
-    }
-    if (parser.isSet(current) && !isVersion(parser.value(current))) {
-        return usageError(QStringLiteral("--current is a version such as 2.9.0.1, not '%1'")
-                              .arg(parser.value(current)));
-    }
-    if (name != QLatin1String("Morvane") && name != QLatin1String("Fernwick")) {
-        return usageError(QStringLiteral("--app is Morvane or Fernwick, not '%1'").arg(name));
-    }
-    if (parser.isSet(current)) {
-        QCoreApplication::setApplicationVersion(parser.value(current));
-    }
-    QCoreApplication::setApplicationName(name);
-    return check(parser.positionalArguments().value(0), parser.isSet(json));
-}
+const Command updateCommand = {
+    "update",
+    "check an update feed for a newer version",
+    "Reads an update feed and tells whether it offers a newer version. Nothing is installed. FEED "
+    "is an http or https address, a file, or - for standard input. Default: the feed of the "
+    "application.\n"
+    "Exit code 1: nothing is newer, or the feed cannot be read.",
+    "update\nupdate feed.xml --current 2.9.0.0",
+    verbs,
+    {options},
+};

@@ -1,0 +1,366 @@
+#include "commandline.h"
+#include "suggestion.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+// Arguments that may be empty; all others name something.
+constexpr const char *mayBeEmpty[] = {"VALUE...", "REPLACEMENT", "NEW", "PATH", "WORD..."};
+
+QString longName(const Option &option)
+{
+    const QStringList names = words(option.names);
+    return names.constFirst().size() > 1 || names.size() == 1 ? names.constFirst() : names.at(1);
+}
+
+bool takes(const Verb &verb, const Option &option)
+{
+    return !option.verbs || words(option.verbs).contains(QLatin1String(verb.name));
+}
+
+QStringList verbNames(const Command &command)
+{
+    QStringList names;
+    for (const Verb &verb : command.verbs) {
+        names.append(QLatin1String(verb.name));
+    }
+    return names;
+}
+
+const Verb *verbNamed(const Command &command, const QString &name)
+{
+    const auto verb =
+        std::find_if(command.verbs.begin(), command.verbs.end(),
+                     [&](const Verb &row) { return name == QLatin1String(row.name); });
+    return verb == command.verbs.end() ? nullptr : verb;
+}
+
+bool takesFileFirst(const Verb &verb)
+{
+    const QString arguments = QLatin1String(verb.arguments);
+    return arguments.startsWith(QLatin1String("FILE")) || arguments.startsWith(QLatin1String("IN"));
+}
+
+/** How many arguments a verb takes. */
+struct Count
+{
+    int least = 0;
+    int most = 0;
+};
+
+Count countOf(const Verb &verb)
+{
+    Count count;
+    const QStringList arguments = words(verb.arguments);
+    for (const QString &argument : arguments) {
+        count.least += argument.startsWith(u'[') ? 0 : 1;
+        count.most = argument.contains(QLatin1String("...")) ? std::numeric_limits<int>::max()
+                                                             : count.most + 1;
+    }
+    return count;
+}
+
+// The name of the argument at a place, as usage has it; the last one may stand for many.
+QString argumentName(const Verb &verb, int index)
+{
+    const QStringList names = words(verb.arguments);
+    return QString(names.value(qMin(index, names.size() - 1))).remove(u'[').remove(u']');
+}
+
+bool looksLikeOption(const QString &argument)
+{
+    const int letter = argument.startsWith(QLatin1String("--")) ? 2 : 1;
+    return argument.startsWith(u'-') && argument.size() > letter && argument.at(letter).isLetter();
+}
+
+// What is wrong with a value; empty when nothing is.
+QString objectionTo(const Option &option, const QString &value)
+{
+    if (option.kind == Option::Flag || option.kind == Option::Text) {
+        return QString();
+    }
+    if (value.isEmpty()) {
+        return QStringLiteral("needs a value");
+    }
+    if (option.kind == Option::Choice) {
+        const QStringList choices = words(option.choices);
+        return choices.contains(value)
+            ? QString()
+            : QStringLiteral("'%1' is not one of %2").arg(value, choices.join(QLatin1String(", ")));
+    }
+    if (option.kind == Option::Name) {
+        return QString();
+    }
+    bool isNumber = false;
+    const bool isWhole = option.kind == Option::Integer;
+    const double number = isWhole ? double(value.toLongLong(&isNumber)) : value.toDouble(&isNumber);
+    if (isNumber && number >= option.least && number <= option.most) {
+        return QString();
+    }
+    return QStringLiteral("'%1' is not a %2 from %3 to %4")
+        .arg(value, isWhole ? QLatin1String("whole number") : QLatin1String("number"),
+             QString::number(option.least, 'f', 0), QString::number(option.most, 'f', 0));
+}
+
+} // namespace
+
+/** Fills a call from the arguments; each step leaves the text of its error. */
+class CommandLine
+{
+public:
+    CommandLine(const Command &command, Call *call)
+        : m_command(command)
+        , m_call(*call)
+    {
+        m_call.command = &command;
+        m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QString()});
+        for (const Rows<Option> &group : command.options) {
+            for (const Option &option : group) {
+                // The rows of one option, for several verbs, agree on whether it takes a value.
+                if (!m_all.contains(longName(option))) {
+                    m_all.append(longName(option));
+                    m_parser.addOption(
+                        {words(option.names), QString(), QLatin1String(option.value)});
+                }
+            }
+        }
+    }
+
+    QString error() const { return m_error; }
+    bool wantsHelp() const { return m_parser.isSet(QStringLiteral("help")); }
+
+    bool parse(const QStringList &arguments);
+    bool findVerb();
+    bool checkOptions();
+    bool checkArguments();
+
+private:
+    bool fail(const QString &text, const QString &advice = QString());
+    bool takesNext(const QString &argument) const;
+    QStringList optionsFirst(const QStringList &arguments) const;
+    bool checkOption(const QString &name);
+
+    const Command &m_command;
+    Call &m_call;
+    QCommandLineParser m_parser;
+    QStringList m_all; // long names
+    QString m_error;
+};
+
+bool CommandLine::fail(const QString &text, const QString &advice)
+{
+    const QString verb =
+        m_call.verb && m_command.hasVerbs() ? u' ' + QLatin1String(m_call.verb->name) : QString();
+    m_error = text
+        + (advice.isEmpty()
+               ? QStringLiteral("; try 'mrv %1%2 --help'").arg(QLatin1String(m_command.name), verb)
+               : advice);
+    return false;
+}
+
+// Whether an argument is an option whose value is the next argument.
+bool CommandLine::takesNext(const QString &argument) const
+{
+    const auto takesValue = [this](const QString &name) {
+        for (const Rows<Option> &group : m_command.options) {
+            for (const Option &option : group) {
+                if (words(option.names).contains(name)) {
+                    return option.kind != Option::Flag;
+                }
+            }
+        }
+        return false;
+    };
+    if (argument.startsWith(QLatin1String("--"))) {
+        return takesValue(argument.mid(2));
+    }
+    // Of short options in one argument, the first that takes a value takes the rest as such.
+    for (int i = 1; i < argument.size(); ++i) {
+        if (takesValue(argument.mid(i, 1))) {
+            return i + 1 == argument.size();
+        }
+    }
+    return false;
+}
+
+// A text such as "-1" or "-->" is no option: the parser gets such texts after "--".
+QStringList CommandLine::optionsFirst(const QStringList &arguments) const
+{
+    QStringList options = arguments.mid(0, 1); // the command's name
+    QStringList others{QStringLiteral("--")};
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        if (argument == QLatin1String("--")) {
+            return options + others + arguments.mid(i + 1);
+        }
+        if (!looksLikeOption(argument)) {
+            others.append(argument);
+            continue;
+        }
+        options.append(argument);
+        if (takesNext(argument) && i + 1 < arguments.size()) {
+            options.append(arguments.at(++i));
+        }
+    }
+    return options + others;
+}
+
+bool CommandLine::parse(const QStringList &arguments)
+{
+    if (m_parser.parse(optionsFirst(arguments))) {
+        m_call.arguments = m_parser.positionalArguments();
+        return true;
+    }
+    const QStringList unknown = m_parser.unknownOptionNames();
+    if (unknown.isEmpty()) {
+        return fail(m_parser.errorText());
+    }
+    // A long option that is unknown is told from short ones in one argument by the hyphens.
+    const QString &name = unknown.constFirst();
+    const bool isLong = name.size() > 1
+        || std::any_of(arguments.cbegin(), arguments.cend(), [&](const QString &argument) {
+                            return argument == QLatin1String("--") + name;
+                        });
+    const QString near = isLong ? nearest(name, m_all) : QString();
+    return fail(
+        QStringLiteral("unknown option '%1%2'").arg(QLatin1String(isLong ? "--" : "-"), name),
+        near.isEmpty() ? QStringLiteral("; what is no option but looks like one goes after '--'")
+                       : QStringLiteral("; did you mean '--%1'?").arg(near));
+}
+
+bool CommandLine::findVerb()
+{
+    QStringList &arguments = m_call.arguments;
+    if (!m_command.hasVerbs()) {
+        m_call.verb = m_command.verbs.begin();
+        return true;
+    }
+    const QStringList names = verbNames(m_command);
+    if (arguments.isEmpty()) {
+        return wantsHelp()
+            || fail(QStringLiteral("a verb is missing: %1").arg(names.join(QLatin1String(", "))));
+    }
+    const Verb *first = verbNamed(m_command, arguments.constFirst());
+    const Verb *second = verbNamed(m_command, arguments.value(1));
+    if (!first && second && takesFileFirst(*second)) {
+        arguments.move(0, 1);
+        first = second;
+    }
+    if (!first) {
+        // A file may stand before a verb that is misspelt.
+        const bool isSecond = nearest(arguments.constFirst(), names).isNull()
+            && arguments.size() > 1 && !nearest(arguments.at(1), names).isNull();
+        const QString &wrong = arguments.at(isSecond ? 1 : 0);
+        return fail(QStringLiteral("unknown verb '%1'").arg(wrong), didYouMean(wrong, names));
+    }
+    m_call.verb = first;
+    arguments.removeFirst();
+    return true;
+}
+
+bool CommandLine::checkOption(const QString &name)
+{
+    const QStringList values = m_parser.values(name);
+    for (const Rows<Option> &group : m_command.options) {
+        for (const Option &option : group) {
+            if (longName(option) != name || !takes(*m_call.verb, option)) {
+                continue;
+            }
+            if (!option.repeatable && values.size() > 1) {
+                return fail(QStringLiteral("--%1 is given twice").arg(name));
+            }
+            for (const QString &value : values) {
+                const QString objection = objectionTo(option, value);
+                if (!objection.isEmpty()) {
+                    return fail(QStringLiteral("--%1: %2").arg(name, objection),
+                                option.kind == Option::Choice
+                                    ? didYouMean(value, words(option.choices))
+                                    : QString());
+                }
+            }
+            m_call.m_values.insert(name, values);
+            return true;
+        }
+    }
+    return fail(
+        QStringLiteral("%1 takes no option '--%2'").arg(QLatin1String(m_call.verb->name), name));
+}
+
+bool CommandLine::checkOptions()
+{
+    return std::all_of(m_all.cbegin(), m_all.cend(), [this](const QString &name) {
+        return !m_parser.isSet(name) || checkOption(name);
+    });
+}
+
+bool CommandLine::checkArguments()
+{
+    const Verb &verb = *m_call.verb;
+    const QStringList &arguments = m_call.arguments;
+    const Count count = countOf(verb);
+    const QString usage = QLatin1String("; usage: ") + usageOf(m_command, verb);
+    if (arguments.size() < count.least) {
+        const QString name = argumentName(verb, arguments.size()).remove(QLatin1String("..."));
+        return fail(name + QLatin1String(" is missing"), usage);
+    }
+    if (arguments.size() > count.most) {
+        return fail(QStringLiteral("'%1' is one argument too many").arg(arguments.at(count.most)),
+                    usage);
+    }
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString name = argumentName(verb, i);
+        const bool mayBe = std::any_of(std::begin(mayBeEmpty), std::end(mayBeEmpty),
+                                       [&](const char *row) { return name == QLatin1String(row); });
+        if (arguments.at(i).isEmpty() && !mayBe) {
+            return fail(QStringLiteral("%1 is empty").arg(QString(name).remove(u'.')), usage);
+        }
+    }
+    return true;
+}
+
+QString Call::value(const char *option) const
+{
+    const QStringList values = m_values.value(QLatin1String(option));
+    return values.isEmpty() ? QString() : values.constLast();
+}
+
+double Call::number(const char *option, double otherwise) const
+{
+    return has(option) ? value(option).toDouble() : otherwise;
+}
+
+int readCall(const Command &command, const QStringList &arguments, Call *call)
+{
+    CommandLine line(command, call);
+    if (line.parse(arguments) && line.findVerb()) {
+        if (line.wantsHelp()) {
+            printLine(helpOf(command, command.hasVerbs() ? call->verb : nullptr));
+            return Done;
+        }
+        if (line.checkOptions() && line.checkArguments()) {
+            return -1;
+        }
+    }
+    return usageError(line.error());
+}
+
+int refuse(const QString &text)
+{
+    printError(text);
+    return Failed;
+}
+
+int usageError(const QString &text)
+{
+    printError(text);
+    return WrongUsage;
+}
+
+QStringList words(const char *list)
+{
+    return QString::fromUtf8(list).split(u' ', Qt::SkipEmptyParts);
+}
