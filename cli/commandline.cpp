@@ -225,7 +225,7 @@ bool CommandLine::parse(const QStringList &arguments)
         || std::any_of(arguments.cbegin(), arguments.cend(), [&](const QString &argument) {
                             return argument == QLatin1String("--") + name;
                         });
-    const QString near = isLong ? nearest(name, m_all) : QString();
+    const QString near = isLong ? MRV::closestMatch(name, m_all) : QString();
     return fail(
         QStringLiteral("unknown option '%1%2'").arg(QLatin1String(isLong ? "--" : "-"), name),
         near.isEmpty() ? QStringLiteral("; what is no option but looks like one goes after '--'")
@@ -252,8 +252,8 @@ bool CommandLine::findVerb()
     }
     if (!first) {
         // A file may stand before a verb that is misspelt.
-        const bool isSecond = nearest(arguments.constFirst(), names).isNull()
-            && arguments.size() > 1 && !nearest(arguments.at(1), names).isNull();
+        const bool isSecond = MRV::closestMatch(arguments.constFirst(), names).isNull()
+            && arguments.size() > 1 && !MRV::closestMatch(arguments.at(1), names).isNull();
         const QString &wrong = arguments.at(isSecond ? 1 : 0);
         return fail(QStringLiteral("unknown verb '%1'").arg(wrong), didYouMean(wrong, names));
     }

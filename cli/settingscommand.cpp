@@ -27,7 +27,7 @@ QString namedPdfSettings(const QStringList &names)
 QString nearestKey(const QString &wrong)
 {
     const QStringList keys = MRVOptions::settingKeys();
-    const QString key = nearest(wrong, keys);
+    const QString key = MRV::closestMatch(wrong, keys);
     if (!key.isNull()) {
         return key;
     }
@@ -35,14 +35,12 @@ QString nearestKey(const QString &wrong)
     for (const QString &one : keys) {
         keysByName.insert(one.section(u'/', -1), one);
     }
-    return keysByName.value(nearest(wrong, keysByName.keys()));
+    return keysByName.value(MRV::closestMatch(wrong, keysByName.keys()));
 }
 
 int refuseKey(const QString &key)
 {
-    const QString near = nearestKey(key);
-    return refuse(QStringLiteral("unknown setting '%1'").arg(key)
-                  + (near.isNull() ? QString() : QStringLiteral("; did you mean '%1'?").arg(near)));
+    return refuse(QStringLiteral("unknown setting '%1'%2").arg(key, didYouMean(nearestKey(key))));
 }
 
 QJsonValue jsonOf(MRVOptions::SettingType type, const QVariant &value)

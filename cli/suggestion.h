@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QStringList>
+#include "util/mrvclosestmatch.h"
 
-/**
- * The candidate that @p word was probably meant to be: the one with the fewest edits (a character
- * inserted, left out or replaced, two neighbours swapped), case set aside, the first of several.
- * Null where none is near: an edit for every third character is allowed, and one for a shorter
- * word.
- */
-QString nearest(const QString &word, const QStringList &candidates);
+/** "; did you mean 'x'?", or nothing for a null text. */
+inline QString didYouMean(const QString &meant)
+{
+    return meant.isNull() ? QString() : QStringLiteral("; did you mean '%1'?").arg(meant);
+}
 
-/** "; did you mean 'x'?", or nothing where no candidate is near. */
-QString didYouMean(const QString &word, const QStringList &candidates);
+/** As above, for the nearest candidate. */
+inline QString didYouMean(const QString &word, const QStringList &candidates)
+{
+    return didYouMean(MRV::closestMatch(word, candidates));
+}

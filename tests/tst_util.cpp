@@ -121,6 +121,7 @@ private Q_SLOTS:
             {"mimeType", [&] { return mimeType(i); }},
             {"mimeTypeForSuffix", [&] { return sorted(mimeTypeForSuffix(input)); }},
             {"suffixForMimeType", [&] { return sorted(suffixForMimeType(input)); }},
+            {"closestMatch", [&] { return closestMatch(parts[0], parts.mid(1)); }},
             {"createFormatFilter", [&] { return createFormatFilter(parts[0], parts.mid(1)); }},
         };
         Mirror mirror;

@@ -2,6 +2,7 @@
 
 // Everything in the namespace MRV.
 
+#include "util/mrvclosestmatch.h"
 #include "util/mrvcolors.h"
 #include "util/mrvenums.h"
 #include "util/mrvescape.h"

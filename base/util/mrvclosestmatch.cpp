@@ -1,10 +1,10 @@
-#include "suggestion.h"
+#include "util/mrvclosestmatch.h"
 
 #include <QVector>
 
 namespace {
 
-constexpr int MaxWordLength = 200; // longer ones are no slips of the finger
+constexpr int MaxWordLength = 200; // longer ones are not names that somebody mistyped
 
 // The restricted Damerau-Levenshtein distance, by its recurrence over three rows.
 int distance(const QString &a, const QString &b)
@@ -32,7 +32,7 @@ int distance(const QString &a, const QString &b)
 
 } // namespace
 
-QString nearest(const QString &word, const QStringList &candidates)
+QString MRV::closestMatch(const QString &word, const QStringList &candidates)
 {
     if (word.size() > MaxWordLength) {
         return QString();
@@ -40,7 +40,7 @@ QString nearest(const QString &word, const QStringList &candidates)
     QString best;
     int fewest = qMax(1, word.size() / 3) + 1;
     for (const QString &candidate : candidates) {
-        // The lengths alone tell of so many edits.
+        // It takes at least as many edits as the lengths differ by.
         if (qAbs(candidate.size() - word.size()) < fewest) {
             const int edits = distance(word.toLower(), candidate.toLower());
             if (edits < fewest) {
@@ -50,10 +50,4 @@ QString nearest(const QString &word, const QStringList &candidates)
         }
     }
     return best;
-}
-
-QString didYouMean(const QString &word, const QStringList &candidates)
-{
-    const QString candidate = nearest(word, candidates);
-    return candidate.isNull() ? QString() : QStringLiteral("; did you mean '%1'?").arg(candidate);
 }
