@@ -10,7 +10,6 @@
 #include <QJsonObject>
 #include <QXmlStreamReader>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -23,7 +22,6 @@ struct Options
     QString attribute;
     QString output;
     bool all = false;
-    bool dropBlanks = false;
     bool json = false;
 };
 
@@ -88,39 +86,11 @@ QStringList childNames(const QDomElement &element)
     return names;
 }
 
-// Why a path finds nothing: the first step that fails, and where the steps before it lead.
-QString missing(MRVDomDoc &doc, const QString &path)
-{
-    const bool isAbsolute = path.startsWith(u'/');
-    const QString root = doc.documentElement().tagName();
-    QString reached = isAbsolute ? QStringLiteral("/") : QString();
-    const QStringList steps = path.split(u'/', Qt::SkipEmptyParts);
-    for (int i = 0; i < steps.size(); ++i) {
-        const QString longer = reached + steps[i];
-        if (doc.exists(longer)) {
-            reached = longer + u'/';
-            continue;
-        }
-        if (i == 0 && isAbsolute) {
-            return QStringLiteral("the document element is '%1', not '%2'").arg(root, steps[i]);
-        }
-        doc.cd(reached);
-        if (steps[i].trimmed() == QLatin1String("..")) {
-            return QStringLiteral("nothing is above %1").arg(doc.workPath());
-        }
-        const QString name = steps[i].section(u'@', 0, 0).trimmed();
-        const QStringList names = childNames(doc.currentElement());
-        return QStringLiteral("no '%1' below %2").arg(steps[i], doc.workPath())
-            + (names.contains(name) ? QString() : didYouMean(name, names));
-    }
-    return QStringLiteral("there is no document element");
-}
-
 bool moveTo(MRVDomDoc &doc, const Options &options)
 {
     doc.cdRoot();
-    if (options.path.isEmpty() ? doc.currentElement().isNull() : !doc.cd(options.path)) {
-        refused(options, missing(doc, options.path));
+    if (!doc.cd(options.path)) {
+        refused(options, doc.whyMissing(options.path));
         return false;
     }
     return true;
@@ -224,11 +194,20 @@ int runRemove(MRVDomDoc &doc, const Options &options)
         return Failed;
     }
     const bool isRoot = doc.currentElement() == doc.documentElement();
+    const QString at = doc.workPath();
     doc.cdRoot();
-    if (isRoot) {
+    int count = 0;
+    if (!options.attribute.isEmpty()) {
+        count = doc.removeAttr(options.attribute, options.path, options.all);
+        if (count == 0) {
+            return refused(options,
+                           QStringLiteral("%1 has no attribute '%2'").arg(at, options.attribute));
+        }
+    } else if (isRoot) {
         return refused(options, QStringLiteral("the document element cannot be removed"));
+    } else {
+        count = doc.remove(options.path, options.all);
     }
-    const int count = doc.remove(options.path, options.all);
     if (options.json) {
         printJson({{QStringLiteral("removed"), count}});
     }
@@ -249,7 +228,7 @@ int runCreate(MRVDomDoc &doc, const Options &options)
         if (doc.documentElement().isNull()) {
             doc.setRoot(root);
         } else if (doc.documentElement().tagName() != root) {
-            return refused(options, missing(doc, u'/' + root));
+            return refused(options, doc.whyMissing(u'/' + root));
         }
     }
     if (!doc.cdRoot()) {
@@ -266,46 +245,6 @@ int runCreate(MRVDomDoc &doc, const Options &options)
         printJson(toJson(doc));
     }
     return Done;
-}
-
-/**
- * Whether blanks between elements are part of a text, as in "<b>one</b> <i>two</i>": a parser drops
- * them. White space with a line end beside no text is taken for layout.
- */
-bool hasBlanksToLose(const QByteArray &xml)
-{
-    struct Level
-    {
-        bool hasText = false;
-        bool hasLineEnds = false;
-    };
-    QVector<Level> levels(1);
-    QXmlStreamReader reader(xml);
-    reader.setNamespaceProcessing(false);
-    QString text;
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::Characters) {
-            text += reader.text();
-            continue;
-        }
-        const bool isBlank = !text.isEmpty()
-            && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
-        Level &level = levels.last();
-        level.hasText = level.hasText || (!text.isEmpty() && !isBlank);
-        level.hasLineEnds = level.hasLineEnds || isBlank;
-        if (levels.size() > 1
-            && ((isBlank && !text.contains(u'\n')) || (level.hasText && level.hasLineEnds))) {
-            return true;
-        }
-        text.clear();
-        if (token == QXmlStreamReader::StartElement) {
-            levels.append(Level());
-        } else if (token == QXmlStreamReader::EndElement && levels.size() > 1) {
-            levels.removeLast();
-        }
-    }
-    return false;
 }
 
 bool readFile(const Options &options, QByteArray *bytes, QString *error)
@@ -338,11 +277,6 @@ int load(MRVDomDoc &doc, const Options &options, const Verb &verb)
             : QStringLiteral("line %1, column %2: ")
                   .arg(QString::number(doc.errorLine()), QString::number(doc.errorColumn()));
         return refused(options, place + doc.errorMessage());
-    }
-    if (verb.changes && !options.dropBlanks && hasBlanksToLose(bytes)) {
-        return refused(
-            options,
-            QStringLiteral("blanks between its elements would be lost; --drop-blanks goes on"));
     }
     return Done;
 }
@@ -382,20 +316,18 @@ int readOptions(const QStringList &arguments, Options *options, const Verb **ver
             QStringLiteral("  %1  %2\n").arg(call, -21).arg(QLatin1String(known.summary));
     }
     parser.setApplicationDescription(description.trimmed());
-    const QCommandLineOption attribute({QStringLiteral("a"), QStringLiteral("attribute")},
-                                       QStringLiteral("Get or set this attribute, not the text."),
-                                       QStringLiteral("NAME"));
+    const QCommandLineOption attribute(
+        {QStringLiteral("a"), QStringLiteral("attribute")},
+        QStringLiteral("Get, set or remove this attribute, not the text or the element."),
+        QStringLiteral("NAME"));
     const QCommandLineOption all(QStringLiteral("all"),
                                  QStringLiteral("Get or remove all that the path names."));
-    const QCommandLineOption dropBlanks(
-        QStringLiteral("drop-blanks"),
-        QStringLiteral("Change the file although blanks between elements are lost."));
     const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
                                     QStringLiteral("Write there; - is standard output."),
                                     QStringLiteral("FILE"));
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Print one JSON object an element."));
-    parser.addOptions({attribute, all, dropBlanks, output, json});
+    parser.addOptions({attribute, all, output, json});
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
     const int code = parseArguments(
         &parser, QStringLiteral("xml FILE get|set|ls|rm|create PATH ..."), arguments);
@@ -432,7 +364,6 @@ int readOptions(const QStringList &arguments, Options *options, const Verb **ver
                 parser.value(attribute),
                 parser.value(output),
                 parser.isSet(all),
-                parser.isSet(dropBlanks),
                 parser.isSet(json)};
     return -1;
 }

@@ -555,6 +555,135 @@ private Q_SLOTS:
         QCOMPARE(saved(doc), expected + "/>\n");
     }
 
+    // White space that is text survives; layout is made again.
+    void keepsBlanks_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<QString>("expected"); // what is saved; empty: the same
+        const auto same = [](const char *name, const QString &xml) {
+            QTest::newRow(name) << xml << QString();
+        };
+        same("between", "<p><b>a</b> <i>c</i></p>");
+        same("leading", "<p>t<b> <i/></b></p>");
+        same("alone", "<r>\n   <a> </a>\n   <b>\t</b>\n</r>");
+        same("line-by-reference", "<a>&#xa;</a>");
+        QTest::newRow("references") << "<a>&#32; &#10;<b/>&#x20;</a>"
+                                    << "<a>  \n<b/> </a>";
+        same("mixed", "<p>a\n<b/>\n<i/><u/> </p>");
+        same("mixed-late", "<p>\n<b/>\n<i/>a</p>");
+        same("mixed-by-section", "<p>\n<b/>\n<![CDATA[]]></p>");
+        same("mixed-outside", "<p>a<b>\n      <i/>\n   </b></p>");
+        same("comment", "<p>a<!-- <b> --> <?p <?> <i/></p>");
+        same("quotes", "<p><b a=\">\"/> <i b=\"'/>\"/></p>");
+        same("preserve", "<p xml:space=\"preserve\">\n<b><i/></b></p>");
+        QTest::newRow("preserve-ends")
+            << "<p xml:space='preserve'> <b xml:space='default'>\n<i/></b></p>"
+            << "<p xml:space=\"preserve\"> <b xml:space=\"default\">\n      <i/>\n   </b></p>";
+        QTest::newRow("layout") << "<p>\n\n<b>a</b>\n\t<i>\n</i></p>"
+                                << "<p>\n   <b>a</b>\n   <i/>\n</p>";
+        QTest::newRow("declarations")
+            << "<!DOCTYPE p [<!ENTITY e '<b/>'><!-- ]> <x> -->]><p>&e; <i/></p>"
+            << "<!DOCTYPE p>\n<!-- ]> <x> -->\n<p><b/> <i/></p>";
+    }
+    void keepsBlanks()
+    {
+        QFETCH(QString, xml);
+        QFETCH(QString, expected);
+        MRVDomDoc doc;
+        QVERIFY2(doc.setContent(xml), qPrintable(doc.errorMessage()));
+        const QString once = QString::fromUtf8(saved(doc));
+        QCOMPARE(once, (expected.isEmpty() ? xml : expected) + '\n');
+        QVERIFY(doc.setContent(once));
+        QCOMPARE(QString::fromUtf8(saved(doc)), once);
+    }
+
+    void blanksAsValues()
+    {
+        for (const char *blanks : {" ", "\n", " \n\t", "\r", "\n\r"}) {
+            MRVDomDoc doc;
+            doc.setRoot("r");
+            QVERIFY(doc.append("a", blanks));
+            QString text;
+            QVERIFY(doc.setContent(QString::fromUtf8(saved(doc))));
+            QVERIFY(doc.get(&text, "a"));
+            QCOMPARE(text, QString(blanks));
+        }
+        MRVDomDoc doc;
+        // Blanks before elements are no text to the cursor and the values.
+        QVERIFY(doc.setContent(QString("<r> <a> <b/>x</a> </r>")));
+        QCOMPARE(doc.workChild(), QString("a"));
+        QString text = "old";
+        QVERIFY(doc.get(&text, "a"));
+        QCOMPARE(text, QString());
+        QVERIFY(!doc.set("t", "a"));
+        // The place of a fault is that in the source.
+        QVERIFY(!doc.setContent(QString("<r>a <b/> <i/> </x>")));
+        QCOMPARE(doc.errorLine(), 1);
+        QVERIFY2(doc.errorColumn() <= 20, qPrintable(QString::number(doc.errorColumn())));
+    }
+
+    void saysWhyMissing_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("found") << "part/chapter"
+                               << "";
+        QTest::newRow("root") << "/bok/part"
+                              << "the document element is 'book', not 'bok'";
+        QTest::newRow("slip") << "part/chatper"
+                              << "no 'chatper' below /book/part; did you mean 'chapter'?";
+        QTest::newRow("predicate") << "part@id=2/x"
+                                   << "no 'part@id=2' below /book";
+        QTest::newRow("far") << "novel"
+                             << "no 'novel' below /book";
+        QTest::newRow("above") << "part/../.."
+                               << "nothing is above /book";
+    }
+    void saysWhyMissing()
+    {
+        QFETCH(QString, path);
+        MRVDomDoc doc;
+        QCOMPARE(doc.whyMissing(path), QString("there is no document element"));
+        QVERIFY(doc.setContent(QString("<book><part><chapter/></part><part n='2'/></book>")));
+        doc.find("part");
+        QTEST(doc.whyMissing(path), "expected");
+        QCOMPARE(doc.findNext().attribute("n"), QString("2"));
+        QCOMPARE(doc.workPath(), QString("/book"));
+    }
+
+    void removesAttributes_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("all");
+        QTest::addColumn<int>("removed");
+        QTest::addColumn<QString>("left"); // the numbers of the elements that have it still
+        QTest::newRow("first") << "a" << false << 1 << "1 3 4";
+        QTest::newRow("all") << "a" << true << 2 << "1 4";
+        QTest::newRow("below") << "a/b/" << true << 1 << "1 2 3";
+        QTest::newRow("down-and-up") << "a/b/../" << true << 1 << "1 3 4";
+        QTest::newRow("here") << "" << true << 1 << "2 3 4";
+        QTest::newRow("root") << "/" << true << 1 << "2 3 4";
+        QTest::newRow("missing") << "a/none" << true << 0 << "1 2 3 4";
+    }
+    void removesAttributes()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, all);
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(documentOf("r1[k=](a2[k=](b4[k=]),a3[k=])")));
+        QTEST(doc.removeAttr("k", path, all), "removed");
+        QCOMPARE(doc.removeAttr("", path, all), 0);
+        QStringList left;
+        for (const char *n : {"1", "2", "3", "4"}) {
+            const QDomElement e = byNumber(doc.documentElement(), n);
+            QVERIFY(!e.isNull());
+            if (e.hasAttribute("k")) {
+                left << n;
+            }
+        }
+        QTEST(left.join(' '), "left");
+    }
+
     void refusesHostile_data()
     {
         QTest::addColumn<QString>("xml");

@@ -2,6 +2,7 @@
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
+#include "dom/mrvdomblanks_p.h"
 #include "dom/mrvdominput_p.h"
 #include "dom/mrvdomwriter_p.h"
 
@@ -86,7 +87,7 @@ void MRVDomDoc::clear()
 void MRVDomDoc::init()
 {
     m_workElement = m_document.documentElement();
-    m_workChild = m_workElement.firstChild().toElement();
+    m_workChild = mrvFirstContent(m_workElement).toElement();
 }
 
 bool MRVDomDoc::setContent(const QDomElement &e)
@@ -140,7 +141,16 @@ bool MRVDomDoc::parse(const QString &text)
     if (!mrvKeepsXmlLimits(xml, &problem)) {
         return refuse(problem.message, problem.line, problem.column);
     }
-    if (!m_document.setContent(xml, false, &problem.message, &problem.line, &problem.column)) {
+    const QString marked = mrvMarkBlanks(xml);
+    const auto read = [&](const QString &source) {
+        return m_document.setContent(source, false, &problem.message, &problem.line,
+                                     &problem.column);
+    };
+    if (read(marked)) {
+        if (marked.size() > xml.size()) {
+            mrvRemoveMarks(m_document);
+        }
+    } else if (marked.size() == xml.size() || !read(xml)) { // again, without marks in the columns
         return refuse(problem.message, problem.line, problem.column);
     }
     init();

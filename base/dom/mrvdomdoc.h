@@ -27,8 +27,14 @@ class QIODevice;
  *
  * Values are read and written as the text of elements and as attributes, each type in one text form
  * (MRVDomText). What XML cannot hold (control characters, U+FFFE, U+FFFF, halves of surrogate
- * pairs) is dropped from texts where they enter the document, also when it is loaded. A text of
- * blanks only does not survive saving and loading, since a parser cannot tell it from indentation.
+ * pairs) is dropped from texts where they enter the document, also when it is loaded.
+ *
+ * No text is lost by loading and saving, white space included. White space between tags is layout,
+ * and replaced by that of save(), only in an element without any other text, and only when each
+ * stretch of it holds a line end, as in an indented file; so the blank in "<b>one</b> <i>two</i>"
+ * is text. An attribute xml:space="preserve" makes it text in any case. White space before the
+ * first element in an element is passed over where the first child matters: by init(), get(),
+ * getNext() and set(). Only between the tags that an entity stands for is white space dropped.
  *
  * Looking something up moves no cursor, but findNext() goes on from the last find(), so that these
  * two, though const, must not be called on one document from several threads. An element that is
@@ -110,8 +116,9 @@ public:
     /**
      * Writes the document as UTF-8, whatever its declaration said before, with an indentation of
      * three blanks a level and the attributes of each element sorted by name: the same document
-     * gives the same bytes. Of a document type, its name, files, notations and entities in other
-     * files are kept; its other declarations go, since the parser has carried them out.
+     * gives the same bytes. What is in an element that holds text is written as it stands. Of a
+     * document type, its name, files, notations and entities in other files are kept; its other
+     * declarations go, since the parser has carried them out.
      *
      * @return false when the device did not take it all, or when elements are nested more deeply
      * than MRVDomLimits allows, so that the document could not be loaded again; nothing is written
@@ -226,6 +233,12 @@ public:
     QDomElement findNext() const;
     /** Whether find() finds anything. */
     bool exists(const QString &path) const;
+    /**
+     * Why @p path finds nothing, for a message: a translated text that names the first step that
+     * fails and where the steps before it lead, and a similar name that exists there. Null where
+     * the path finds something.
+     */
+    QString whyMissing(const QString &path) const;
     /**
      * Whether @p e has the name that is the first part, and the other parts hold as predicates.
      *
@@ -475,6 +488,14 @@ public:
                  const QString &format = QString()) const;
     bool getAttr(const QString &attrName, char *buffer, int size, const QDomElement &element) const;
 
+    /**
+     * Removes an attribute of the first element that @p path names, or of all that it names. The
+     * elements remain.
+     *
+     * @return how many elements had it; 0 for an empty name.
+     */
+    int removeAttr(const QString &attrName, const QString &path = QString(), bool all = false);
+
     //@}
 
 private:
@@ -499,8 +520,12 @@ private:
     const QVector<Step> &steps() const;
     QDomElement resolve(QDomElement e, int index, int end) const;
     QDomElement resolveBelow(const QDomElement &e, int index, int end) const;
-    int removeAll(const QString &path);
-    int removeBelow(const QDomElement &e, const QVector<Step> &walk, int index);
+    QString firstMissing(const QString &path);
+    int removeFound(const QString &path, const QString &attribute, bool all);
+    int removeAll(const QString &path, const QString &attribute);
+    int removeBelow(const QDomElement &e, const QVector<Step> &walk, int index,
+                    const QString &attribute);
+    bool removeOne(QDomElement e, const QString &attribute);
     bool removeElement(const QDomElement &e);
 
     bool readText(const QString &path, QString *out) const;

@@ -1,5 +1,8 @@
 #include "dom/mrvdomdoc.h"
 
+#include "util/mrvclosestmatch.h"
+
+#include <QRegularExpression>
 #include <QStack>
 
 #include <algorithm>
@@ -226,6 +229,51 @@ QDomElement MRVDomDoc::findNext() const
     return EmptyElement;
 }
 
+QString MRVDomDoc::whyMissing(const QString &path) const
+{
+    // What is looked up here must not change what findNext() does.
+    MRVDomDoc other;
+    other.m_document = m_document;
+    other.m_workElement = m_workElement;
+    return other.exists(path) ? QString() : other.firstMissing(path);
+}
+
+QString MRVDomDoc::firstMissing(const QString &path)
+{
+    const QDomElement root = documentElement();
+    if (root.isNull()) {
+        return tr("there is no document element");
+    }
+    const bool isAbsolute = path.startsWith(u'/');
+    QString reached = isAbsolute ? QStringLiteral("/") : QString();
+    const QStringList steps = path.split(u'/', Qt::SkipEmptyParts);
+    int missing = 0;
+    while (missing < steps.size() && exists(reached + steps[missing])) {
+        reached += steps[missing] + u'/';
+        ++missing;
+    }
+    const QString step = steps.value(missing);
+    if (missing == 0 && isAbsolute) {
+        return tr("the document element is '%1', not '%2'").arg(root.tagName(), step);
+    }
+    if (!cd(reached)) {
+        return tr("there is no work element");
+    }
+    if (step.trimmed() == Parent) {
+        return tr("nothing is above %1").arg(workPath());
+    }
+    const QString name = step.section(u'@', 0, 0).trimmed();
+    QStringList names;
+    for (QDomElement e = m_workElement.firstChildElement(); !e.isNull();
+         e = e.nextSiblingElement()) {
+        names.append(e.tagName());
+    }
+    names.removeDuplicates();
+    const QString meant = names.contains(name) ? QString() : MRV::closestMatch(name, names);
+    return meant.isNull() ? tr("no '%1' below %2").arg(step, workPath())
+                          : tr("no '%1' below %2; did you mean '%3'?").arg(step, workPath(), meant);
+}
+
 bool MRVDomDoc::exists(const QString &path) const
 {
     return !find(path).isNull();
@@ -233,11 +281,22 @@ bool MRVDomDoc::exists(const QString &path) const
 
 int MRVDomDoc::remove(const QString &path, bool all)
 {
+    return removeFound(path, QString(), all);
+}
+
+int MRVDomDoc::removeAttr(const QString &attrName, const QString &path, bool all)
+{
+    return attrName.isEmpty() ? 0 : removeFound(path, attrName, all);
+}
+
+// Removes what is found, or its attribute when a name is given.
+int MRVDomDoc::removeFound(const QString &path, const QString &attribute, bool all)
+{
     if (all) {
-        return removeAll(path);
+        return removeAll(path, attribute);
     }
     const QDomElement found = find(path);
-    return !found.isNull() && removeElement(found) ? 1 : 0;
+    return !found.isNull() && removeOne(found, attribute) ? 1 : 0;
 }
 
 /*
@@ -245,7 +304,7 @@ int MRVDomDoc::remove(const QString &path, bool all)
  * makes nothing match that did not match before, one walk down removes the same elements in the
  * same order. Only paths that go up on their way may name an element twice.
  */
-int MRVDomDoc::removeAll(const QString &path)
+int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
 {
     QDomElement found = find(path);
     if (found.isNull()) {
@@ -266,18 +325,23 @@ int MRVDomDoc::removeAll(const QString &path)
     }
     int count = 0;
     if (isWalk && !walk.isEmpty()) {
-        count = removeBelow(start, walk, 0);
+        count = removeBelow(start, walk, 0, attribute);
     } else {
-        while (!found.isNull() && removeElement(found)) {
+        // An element remains after its attribute: only those that have it are looked for.
+        const int end = path.lastIndexOf(QRegularExpression(QStringLiteral("[^/\\s]"))) + 1;
+        const QString next =
+            attribute.isEmpty() || end == 0 ? path : path.left(end) + u'@' + attribute;
+        for (found = find(next); !found.isNull() && removeOne(found, attribute);
+             found = find(next)) {
             ++count;
-            found = find(path);
         }
     }
     m_findPosition = EmptyElement;
     return count;
 }
 
-int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int index)
+int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int index,
+                           const QString &attribute)
 {
     const Step &step = walk[index];
     int count = 0;
@@ -287,10 +351,20 @@ int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int 
         if (!predicatesHold(step, child)) {
             continue;
         }
-        count +=
-            index + 1 < walk.size() ? removeBelow(child, walk, index + 1) : removeElement(child);
+        count += index + 1 < walk.size() ? removeBelow(child, walk, index + 1, attribute)
+                                         : removeOne(child, attribute);
     }
     return count;
+}
+
+bool MRVDomDoc::removeOne(QDomElement e, const QString &attribute)
+{
+    if (attribute.isEmpty()) {
+        return removeElement(e);
+    }
+    const bool hasIt = e.hasAttribute(attribute);
+    e.removeAttribute(attribute);
+    return hasIt;
 }
 
 bool MRVDomDoc::removeElement(const QDomElement &e)

@@ -1,6 +1,7 @@
 #include "dom/mrvdomdoc.h"
 
 #include "core/mrvxmltext.h"
+#include "dom/mrvdomblanks_p.h"
 
 // Values as the text of elements and as attributes.
 
@@ -56,7 +57,7 @@ bool MRVDomDoc::set(const QString &text, const QString &path)
         element.appendChild(newText(text));
         return true;
     }
-    QDomText first = element.firstChild().toText();
+    QDomText first = mrvFirstContent(element).toText();
     if (first.isNull()) {
         return false;
     }
@@ -80,7 +81,7 @@ bool MRVDomDoc::readText(const QString &path, QString *out) const
     if (element.isNull()) {
         return false;
     }
-    const QDomNode first = element.firstChild();
+    const QDomNode first = mrvFirstContent(element);
     if (!first.isText()) {
         *out = QLatin1String("");
     } else {
@@ -128,7 +129,7 @@ bool MRVDomDoc::get(char *buffer, int size, const QString &path) const
 bool MRVDomDoc::getNext(QString *out) const
 {
     const QDomElement element = findNext();
-    if (!out || !element.firstChild().isText()) {
+    if (!out || !mrvFirstContent(element).isText()) {
         return false;
     }
     *out = element.text();

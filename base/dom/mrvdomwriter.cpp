@@ -1,6 +1,7 @@
 #include "dom/mrvdomwriter_p.h"
 
 #include "core/mrvxmltext.h"
+#include "dom/mrvdomblanks_p.h"
 #include "dom/mrvdomlimits.h"
 
 #include <QRegularExpression>
@@ -66,7 +67,7 @@ public:
         QDomNode first = document.firstChild();
         if (isDeclaration(first)) {
             writeInstruction(first.nodeName(), declaration(first.nodeValue()));
-            endLine(false);
+            endLine();
             first = first.nextSibling();
         }
         writeDocumentType(document.doctype());
@@ -80,43 +81,33 @@ private:
     {
         return node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml");
     }
-    // What text is made of: beside these, white space would become a part of it.
-    static bool isText(const QDomNode &node)
-    {
-        const QDomNode::NodeType type = node.nodeType();
-        return type == QDomNode::TextNode || type == QDomNode::CDATASectionNode
-            || type == QDomNode::EntityReferenceNode;
-    }
-
     bool writeSiblings(const QDomNode &first, int depth)
     {
         QDomNode next;
-        bool isAfterText = false;
         for (QDomNode node = first; !node.isNull(); node = next) {
             next = node.nextSibling();
-            if (!writeNode(node, depth, isAfterText, isText(next))) {
+            if (!writeNode(node, depth)) {
                 return false;
             }
-            isAfterText = isText(node);
         }
         return true;
     }
 
-    bool writeNode(const QDomNode &node, int depth, bool isAfterText, bool isBeforeText)
+    bool writeNode(const QDomNode &node, int depth)
     {
         switch (node.nodeType()) {
         case QDomNode::ElementNode:
             if (depth >= MRVDomLimits::MaxDepth) {
                 return false;
             }
-            indent(isAfterText ? 0 : depth);
+            indent(depth);
             if (!writeElement(node, depth)) {
                 return false;
             }
-            endLine(isBeforeText);
+            endLine();
             break;
         case QDomNode::TextNode:
-            writeEscaped(node.nodeValue(), Place::Text);
+            writeText(node.nodeValue());
             break;
         case QDomNode::CDATASectionNode:
             m_text += QLatin1String("<![CDATA[");
@@ -126,16 +117,16 @@ private:
             m_text += QLatin1String("]]>");
             break;
         case QDomNode::CommentNode:
-            indent(isAfterText ? 0 : depth);
+            indent(depth);
             writeComment(node.nodeValue());
-            endLine(isBeforeText);
+            endLine();
             break;
         case QDomNode::EntityReferenceNode:
             m_text += u'&' + node.nodeName() + u';';
             break;
         case QDomNode::ProcessingInstructionNode:
             writeInstruction(node.nodeName(), node.nodeValue());
-            endLine(isBeforeText);
+            endLine();
             break;
         case QDomNode::DocumentTypeNode:
             break; // stands before all else
@@ -149,6 +140,7 @@ private:
     {
         const QString name = element.nodeName();
         const int outerNamespaces = m_namespaces.size();
+        const Layout outer = m_layout;
         m_text += u'<';
         m_text += name;
         declareNamespace(element);
@@ -157,6 +149,7 @@ private:
         }
         const bool isWritten = writeContent(element, name, depth);
         m_namespaces.resize(outerNamespaces);
+        m_layout = outer;
         return isWritten;
     }
 
@@ -168,17 +161,32 @@ private:
             return true;
         }
         m_text += u'>';
-        if (!isText(first)) {
+        const MRVDomContent content = mrvDomContentOf(element);
+        m_layout.isPreserved = mrvPreservesBlanks(element, m_layout.isPreserved);
+        m_layout.isLaidOut = content == MRVDomContent::Elements && !m_layout.isPreserved;
+        m_marksBlank = content == MRVDomContent::Lines && !m_layout.isPreserved;
+        if (m_layout.isLaidOut) {
             m_text += u'\n';
         }
         if (!writeSiblings(first, depth + 1)) {
             return false;
         }
-        indent(isText(element.lastChild()) ? 0 : depth);
+        indent(depth);
         m_text += QLatin1String("</");
         m_text += name;
         m_text += u'>';
         return true;
+    }
+
+    // A reference makes readers take white space for text that would be layout to them.
+    void writeText(QString text)
+    {
+        if (m_marksBlank && mrvIsBlankXml(text)) {
+            m_text += QStringLiteral("&#x%1;").arg(int(text[0].unicode()), 0, 16);
+            text.remove(0, 1);
+            m_marksBlank = false;
+        }
+        writeEscaped(text, Place::Text);
     }
 
     void writeAttributes(const QDomNode &element)
@@ -366,13 +374,15 @@ private:
     void indent(int depth)
     {
         static const QString blanks(MRVDomLimits::MaxDepth * Indentation, u' ');
-        m_text.append(blanks.constData(), depth * Indentation);
+        if (m_layout.isLaidOut) {
+            m_text.append(blanks.constData(), depth * Indentation);
+        }
     }
 
-    void endLine(bool isBeforeText)
+    void endLine()
     {
         constexpr int Chunk = 1 << 16;
-        if (!isBeforeText) {
+        if (m_layout.isLaidOut) {
             m_text += u'\n';
         }
         if (m_text.size() > Chunk) {
@@ -386,8 +396,17 @@ private:
         m_text.resize(0);
     }
 
+    /** Of what is in an element. */
+    struct Layout
+    {
+        bool isLaidOut = true;
+        bool isPreserved = false; // by xml:space
+    };
+
     QByteArray *m_bytes;
     QString m_text;
+    Layout m_layout;
+    bool m_marksBlank = false; // the next text
     Attributes m_attributes;
     Attributes m_namespaces; // declared around, the innermost last: prefix and name
 };

@@ -12,8 +12,8 @@ QVector<QPair<QString, QString>> mrvSortedAttributes(const QDomElement &element)
 /**
  * Writes a document as UTF-8, laid out as QDomNode::save() does with an indentation of three
  * blanks. Other than there, attributes are sorted, what XML cannot hold is left out, an encoding in
- * the declaration becomes UTF-8, and no line ends stand beside references to entities or between an
- * instruction and a text, where they would become text.
+ * the declaration becomes UTF-8, and elements that hold text are not laid out, where line ends
+ * would become part of the text.
  *
  * @return false when elements are nested more deeply than MRVDomLimits::MaxDepth.
  */

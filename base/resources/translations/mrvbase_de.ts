@@ -165,6 +165,30 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
         <translation>Die Entität „%1“ steht in einer anderen Datei, und andere Dateien werden nicht gelesen</translation>
     </message>
+    <message>
+        <source>there is no document element</source>
+        <translation>das Dokument hat kein Wurzelelement</translation>
+    </message>
+    <message>
+        <source>the document element is &apos;%1&apos;, not &apos;%2&apos;</source>
+        <translation>das Wurzelelement ist „%1“, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>there is no work element</source>
+        <translation>es gibt kein Arbeitselement</translation>
+    </message>
+    <message>
+        <source>nothing is above %1</source>
+        <translation>über %1 liegt nichts</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2</source>
+        <translation>kein „%1“ unter %2</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
+        <translation>kein „%1“ unter %2; meinten Sie „%3“?</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>

@@ -165,6 +165,30 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
         <translation>la entidad «%1» está en otro archivo, y los demás archivos no se leen</translation>
     </message>
+    <message>
+        <source>there is no document element</source>
+        <translation>el documento no tiene elemento raíz</translation>
+    </message>
+    <message>
+        <source>the document element is &apos;%1&apos;, not &apos;%2&apos;</source>
+        <translation>el elemento raíz es «%1», no «%2»</translation>
+    </message>
+    <message>
+        <source>there is no work element</source>
+        <translation>no hay elemento de trabajo</translation>
+    </message>
+    <message>
+        <source>nothing is above %1</source>
+        <translation>no hay nada por encima de %1</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2</source>
+        <translation>ningún «%1» debajo de %2</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
+        <translation>ningún «%1» debajo de %2; ¿quiso decir «%3»?</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>

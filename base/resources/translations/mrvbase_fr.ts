@@ -165,6 +165,30 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
         <translation>l’entité «&#xa0;%1&#xa0;» se trouve dans un autre fichier, et les autres fichiers ne sont pas lus</translation>
     </message>
+    <message>
+        <source>there is no document element</source>
+        <translation>le document n’a pas d’élément racine</translation>
+    </message>
+    <message>
+        <source>the document element is &apos;%1&apos;, not &apos;%2&apos;</source>
+        <translation>l’élément racine est «&#xa0;%1&#xa0;» et non «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>there is no work element</source>
+        <translation>il n’y a pas d’élément de travail</translation>
+    </message>
+    <message>
+        <source>nothing is above %1</source>
+        <translation>il n’y a rien au-dessus de %1</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2</source>
+        <translation>pas de «&#xa0;%1&#xa0;» sous %2</translation>
+    </message>
+    <message>
+        <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
+        <translation>pas de «&#xa0;%1&#xa0;» sous %2&#xa0;; vouliez-vous dire «&#xa0;%3&#xa0;»&#xa0;?</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>
