@@ -489,8 +489,8 @@ public:
     bool getAttr(const QString &attrName, char *buffer, int size, const QDomElement &element) const;
 
     /**
-     * Removes an attribute of the first element that @p path names, or of all that it names. The
-     * elements remain.
+     * Removes the attribute @p attrName of the first element that @p path names, or of @p all that
+     * it names. The elements remain.
      *
      * @return how many elements had it; 0 for an empty name.
      */

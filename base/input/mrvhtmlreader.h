@@ -42,8 +42,8 @@ public:
     static bool looksLikeHtml(const QByteArray &bytes);
 
     /**
-     * Whether elements lie more than @p levels deep. Qt's reader of rich text takes time that grows
-     * with the square of the depth.
+     * Whether elements of @p html lie more than @p levels deep. Qt's reader of rich text takes time
+     * that grows with the square of the depth.
      */
     static bool isNestedDeeper(const QString &html, int levels);
 };

@@ -16,7 +16,7 @@ struct MRVBASE_EXPORT MRVTextFault
     Q_DECLARE_TR_FUNCTIONS(MRVTextFault)
 
 public:
-    /** A fault at an offset of a text, or at its end. Only line feeds end lines. */
+    /** The fault @p message at @p offset of @p text, or at its end. Only line feeds end lines. */
     static MRVTextFault at(const QString &text, int offset, const QString &message);
 
     /** "line 3: " and the message, translated. */
@@ -45,7 +45,7 @@ public:
     MRVTextDecoder() = delete;
 
     /**
-     * The name of the encoding of some bytes: that of the byte-order mark, or the declared one, or
+     * The name of the encoding of @p bytes: that of the byte-order mark, or the declared one, or
      * else "UTF-8". A declaration that can be read byte by byte is not in the wide encoding that it
      * may name, which then does not count.
      *
@@ -54,7 +54,7 @@ public:
     static QByteArray encodingOf(const QByteArray &bytes, Declaration declaration);
 
     /**
-     * Decodes bytes of a named encoding; a byte-order mark counts for more than the name, and is
+     * Decodes @p bytes of the named @p encoding; a byte-order mark counts for more than the name, and is
      * not part of the text.
      *
      * @param text  receives the text; untouched on failure.

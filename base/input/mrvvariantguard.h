@@ -14,6 +14,8 @@ class QDataStream;
  * form may hold, and gives its bytes, which Qt can then read safely.
  *
  * @code
+ * const QByteArray stored; // from a file or another program
+ * QDataStream stream(stored);
  * const QByteArray bytes = MRVVariantGuard::take(stream, MRVVariantGuard::CharFormat);
  * QDataStream checked(bytes);
  * checked.setVersion(stream.version());

@@ -64,14 +64,14 @@ public:
         }
         return isOk();
     }
-    /** Appends @p size bytes; of a failure, none or some. */
+    /** Appends @p size bytes to @p bytes; of a failure, none or some. */
     bool readRaw(quint32 size, QByteArray *bytes);
     /**
-     * A count of items that take @p leastSize bytes each or more. Of a sequential device nobody
-     * knows what will still arrive, so there any count passes.
+     * Reads into @p count the number of items that take @p leastSize bytes each or more. Of a
+     * sequential device nobody knows what will still arrive, so there any count passes.
      */
     bool readCount(quint32 *count, int leastSize);
-    /** The check of readCount(), for a count that was read before. */
+    /** The check of readCount(), of @p count and @p leastSize, for one that was read before. */
     bool checkCount(quint32 count, int leastSize);
 
 private:
