@@ -54,8 +54,8 @@ public:
     static QByteArray encodingOf(const QByteArray &bytes, Declaration declaration);
 
     /**
-     * Decodes @p bytes of the named @p encoding; a byte-order mark counts for more than the name, and is
-     * not part of the text.
+     * Decodes @p bytes of the named @p encoding; a byte-order mark counts for more than the name,
+     * and is not part of the text.
      *
      * @param text  receives the text; untouched on failure.
      * @param fault if given, receives the place of the first byte that cannot be read, counted in
