@@ -32,23 +32,6 @@ class TestFormatFaults : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Qt gives the picture up early, and would then read a count of dashes from within it.
-    void damagedTextureOfPen()
-    {
-        const QByteArray sound = F::toByteArray(with(QPen(QBrush(square(3)), 2)));
-        QCOMPARE(F::toCharFormat(sound).propertyCount(), 1);
-        const int checksum = sound.indexOf("IHDR") + 4 + 13;
-        for (int flipped : {0, 1}) {
-            QByteArray bytes = sound;
-            bytes[checksum] = char(bytes.at(checksum) ^ flipped);
-            bytes.insert(checksum + 4,
-                         QByteArray::fromHex("00000640") + "tEXt"
-                             + QByteArray::fromHex("7ffffff0").repeated(400) + QByteArray(4, 0));
-            F::toCharFormat(bytes);
-            QVERIFY(!flipped || F::toCharFormat(bytes).properties().isEmpty());
-        }
-    }
-
     // The file that the second image links to has the name of the first.
     void linkedFileIsNotReplaced()
     {
@@ -114,19 +97,6 @@ private Q_SLOTS:
         QTextDocument other;
         other.setDefaultFont(document.defaultFont());
         QCOMPARE(F::defaultCharFormat(other).fontFamily(), QString("Serif"));
-    }
-
-    // Each picture is small enough, but all of them together are not.
-    void manyPictures()
-    {
-        const QByteArray one = F::toByteArray(with(square(1400)));
-        const QByteArray value = one.mid(8);
-        QByteArray bytes = one.left(4) + QByteArray::fromHex("00000032");
-        for (int i = 0; i < 50; ++i) {
-            bytes += value;
-        }
-        QCOMPARE(F::toCharFormat(one).propertyCount(), 1);
-        QCOMPARE(F::toCharFormat(bytes).propertyCount(), 0);
     }
 };
 

@@ -352,12 +352,17 @@ bool Walker::dateTime()
 // Of a zone that has only an offset, that and its texts follow a name that says so.
 bool Walker::zonedDateTime()
 {
+    static constexpr char OffsetOnly[] = "\0O\0f\0f\0s\0e\0t\0F\0r\0o\0m\0U\0t\0c";
     qint8 spec = 0;
     if (!skip(12) || !read(&spec) || spec != Qt::TimeZone) {
         return m_in.isOk();
     }
-    return text()
-        && (m_stream->atEnd() || (text() && skip(4) && text() && text() && skip(4) && text()));
+    const int name = m_taken.size() + LeastText;
+    if (!text()) {
+        return false;
+    }
+    return m_taken.mid(name) != QByteArray::fromRawData(OffsetOnly, sizeof OffsetOnly - 1)
+        || (text() && skip(4) && text() && text() && skip(4) && text());
 }
 
 bool Walker::font()

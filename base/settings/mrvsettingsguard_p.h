@@ -8,8 +8,8 @@
  *
  * QSettings decodes every value when it opens a file. A value that it has no text for is the stream
  * of a QVariant, and those readers of Qt take as much memory as a damaged count asks for, or crash.
- * What is left in are the types that MRVVariantGuard knows in settings, with counts and lengths that
- * the bytes fill, and values that only end too early. Other types do not come back.
+ * What is left in are the types that MRVVariantGuard knows in settings, with counts and lengths
+ * that the bytes fill, and values that only end too early. Other types do not come back.
  *
  * @return just @p bytes where nothing has to be left out.
  */

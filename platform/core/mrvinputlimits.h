@@ -13,7 +13,7 @@ struct MRVInputLimits
     // Files.
     /** Qt 5 counts bytes in an int, and its arrays double as they grow. */
     static constexpr qint64 FileBytes = qint64(1) << 30;
-    /** A codec makes up to three characters of a byte, and QString holds fewer than 2^30 of them. */
+    /** A codec makes up to three characters of a byte, and QString holds fewer than 2^30. */
     static constexpr qint64 TextFileBytes = qint64(1) << 28;
 
     // Streams and variants.
