@@ -8,6 +8,7 @@
 #include "textformat/mrvtextformat.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvinputlimits.h"
 #include "gui/mrvguiutil.h"
 
 #include <QDir>
@@ -35,9 +36,6 @@ constexpr struct
     {"markdown", "markdown"}, {"mkd", "markdown"},  {"mdown", "markdown"}, {"txt", "text"},
     {"text", "text"},         {"fountain", "text"},
 };
-
-// Qt reads nested blocks in time that grows with the square of their depth.
-constexpr int DeepestNesting = 2000;
 
 bool fail(QString *error, const QString &path, const QString &reason)
 {
@@ -197,9 +195,9 @@ namespace {
 bool readText(const QString &text, const QString &format, DocumentInput *input, QString *reason)
 {
     const bool html = format == QLatin1String("html");
-    if (html && MRVHtmlReader::isNestedDeeper(text, DeepestNesting)) {
-        *reason =
-            QStringLiteral("elements are nested more than %1 levels deep").arg(DeepestNesting);
+    if (html && MRVHtmlReader::isNestedTooDeeply(text)) {
+        *reason = QStringLiteral("elements are nested more than %1 levels deep")
+                      .arg(MRVInputLimits::HtmlDepth);
         return false;
     }
     input->document = newDocument(text, format);

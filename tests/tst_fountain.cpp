@@ -404,11 +404,6 @@ void TestFountain::refusedXml()
     QFETCH(QString, error);
     MRVFountainScript script;
     QString found;
-    QString attributes;
-    for (int i = 0; i < 100; ++i) {
-        attributes += QString("a%1='' ").arg(i);
-    }
-    text.replace("@=", attributes);
     const QByteArray bytes = text.replace("@300", QString("<p>").repeated(300)).toUtf8();
     QVERIFY(!(format == "html" ? MRVFountainHtml::fromHtml(bytes, &script, &found)
                                : MRVFinalDraft::fromXml(bytes, &script, &found)));

@@ -11,7 +11,7 @@
 #include "fileformats/mrvenginechoice.h"
 #include "fileformats/mrvimportexport.h"
 #include "gui/mrvguiutil.h"
-#include "input/mrvtextdecoder.h"
+#include "input/mrvxmlreader.h"
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetscheme.h"
 #include "publish/mrvstagedfiles.h"
@@ -139,6 +139,7 @@ const QMap<QString, Translate> &functions()
         {"MRVUpdateDownloader", &MRVUpdateDownloader::tr},
         {"MRVUpdateManager", &MRVUpdateManager::tr},
         {"MRVUpdateModel", &MRVUpdateModel::tr},
+        {"MRVXmlReader", &MRVXmlReader::tr},
         {"MTranslator", &MTranslator::tr},
         {"MVersion", &MVersion::tr},
         {"QObject", &QObject::tr},

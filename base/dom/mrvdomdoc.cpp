@@ -3,8 +3,8 @@
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
 #include "dom/mrvdomblanks_p.h"
-#include "dom/mrvdominput_p.h"
 #include "dom/mrvdomwriter_p.h"
+#include "input/mrvxmlreader.h"
 
 #include <QFile>
 
@@ -128,30 +128,29 @@ bool MRVDomDoc::setContent(QIODevice *device)
         return refuse(reason, -1, -1);
     }
     QString xml;
-    MRVDomProblem problem;
-    return mrvDecodeXml(bytes, &xml, &problem)
+    MRVTextFault fault;
+    return MRVXmlReader::decode(bytes, &xml, &fault)
         ? parse(xml)
-        : refuse(problem.message, problem.line, problem.column);
+        : refuse(fault.message, fault.line, fault.column);
 }
 
 bool MRVDomDoc::parse(const QString &text)
 {
-    const QString xml = mrvSoundXml(text);
-    MRVDomProblem problem;
-    if (!mrvKeepsXmlLimits(xml, &problem)) {
-        return refuse(problem.message, problem.line, problem.column);
+    const QString xml = MRVXmlReader::normalized(text);
+    MRVTextFault fault;
+    if (!MRVXmlReader::keepsLimits(xml, MRVXmlLimits(), &fault)) {
+        return refuse(fault.message, fault.line, fault.column);
     }
     const QString marked = mrvMarkBlanks(xml);
     const auto read = [&](const QString &source) {
-        return m_document.setContent(source, false, &problem.message, &problem.line,
-                                     &problem.column);
+        return m_document.setContent(source, false, &fault.message, &fault.line, &fault.column);
     };
     if (read(marked)) {
         if (marked.size() > xml.size()) {
             mrvRemoveMarks(m_document);
         }
     } else if (marked.size() == xml.size() || !read(xml)) { // again, without marks in the columns
-        return refuse(problem.message, problem.line, problem.column);
+        return refuse(fault.message, fault.line, fault.column);
     }
     init();
     return true;

@@ -2,6 +2,9 @@
 
 #include "util/mrvnames.h"
 
+#include "core/mrvinputlimits.h"
+
+#include <QHash>
 #include <QRegularExpression>
 #include <QTextCodec>
 #include <QTextDocument>
@@ -20,15 +23,16 @@ struct Tag
 constexpr const char *voidElements[] = {"area", "base",  "br",     "col",  "embed", "hr",  "img",
                                         "link", "input", "source", "meta", "param", "wbr", "track"};
 
-// Elements that end where a like one begins, unless a list or a table begins between them.
+// Elements that end where another of their group begins, unless a list or a table begins between
+// them.
+constexpr int NoGroup = 0;
 constexpr struct
 {
     const char *name;
-    const char *group;
+    int group;
 } selfEnding[] = {
-    {"p", "p"},         {"li", "li"},       {"dt", "dt"},         {"dd", "dt"},
-    {"td", "td"},       {"th", "td"},       {"tr", "tr"},         {"thead", "thead"},
-    {"tbody", "thead"}, {"tfoot", "thead"}, {"option", "option"},
+    {"p", 1},  {"li", 2},    {"dt", 3},    {"dd", 3},    {"td", 4},     {"th", 4},
+    {"tr", 5}, {"thead", 6}, {"tbody", 6}, {"tfoot", 6}, {"option", 7},
 };
 
 constexpr const char *barriers[] = {"ul", "ol", "dl", "table", "select"};
@@ -44,14 +48,14 @@ bool contains(const Names &names, const QString &name)
     return false;
 }
 
-QString groupOf(const QString &name)
+int groupOf(const QString &name)
 {
     for (const auto &row : selfEnding) {
         if (name == QLatin1String(row.name)) {
-            return QLatin1String(row.group);
+            return row.group;
         }
     }
-    return QString();
+    return NoGroup;
 }
 
 // Reads the tags of a page one by one, without comments, declarations and the content of scripts
@@ -170,20 +174,57 @@ void readMeta(const Tag &tag, MRVHtmlHead *head, QString *creator)
     }
 }
 
-// Removes an element and what it holds, if it is open; barriers end the search.
-void closeElement(QVector<QString> *open, const QString &group, bool stopAtBarrier)
+/** The elements that are open at a place of a page. */
+class OpenElements
 {
-    for (int i = open->size() - 1; i >= 0; --i) {
-        const QString &name = open->at(i);
-        if (name == group || (stopAtBarrier && groupOf(name) == group)) {
-            open->resize(i);
-            return;
+public:
+    int count() const { return m_elements.size(); }
+
+    void begin(const Tag &tag)
+    {
+        const int group = groupOf(tag.name);
+        for (int i = count() - 1; group != NoGroup && i >= 0 && !m_elements[i].isBarrier; --i) {
+            if (m_elements[i].group == group) {
+                shrink(i);
+                break;
+            }
         }
-        if (stopAtBarrier && contains(barriers, name)) {
-            return;
+        if (!tag.whole) {
+            m_elements.append({tag.name, group, contains(barriers, tag.name)});
+            ++m_counts[tag.name];
         }
     }
-}
+
+    void end(const QString &name)
+    {
+        // Tags that end nothing must not cost a search each.
+        if (m_counts.value(name) > 0) {
+            int last = count() - 1;
+            while (m_elements[last].name != name) {
+                --last;
+            }
+            shrink(last);
+        }
+    }
+
+private:
+    struct Element
+    {
+        QString name;
+        int group;
+        bool isBarrier;
+    };
+
+    void shrink(int count)
+    {
+        while (m_elements.size() > count) {
+            --m_counts[m_elements.takeLast().name];
+        }
+    }
+
+    QVector<Element> m_elements;
+    QHash<QString, int> m_counts; // by name
+};
 
 } // namespace
 
@@ -226,23 +267,16 @@ bool MRVHtmlReader::looksLikeHtml(const QByteArray &bytes)
             || Qt::mightBeRichText(text));
 }
 
-bool MRVHtmlReader::isNestedDeeper(const QString &html, int levels)
+bool MRVHtmlReader::isNestedTooDeeply(const QString &html)
 {
-    QVector<QString> open;
+    OpenElements open;
     TagReader reader(html);
-    for (Tag tag; reader.next(&tag);) {
-        const QString group = groupOf(tag.name);
+    for (Tag tag; reader.next(&tag) && open.count() <= MRVInputLimits::HtmlDepth;) {
         if (tag.end) {
-            closeElement(&open, tag.name, false);
-        } else if (!group.isEmpty()) {
-            closeElement(&open, group, true);
-        }
-        if (!tag.end && !tag.whole) {
-            open.append(tag.name);
-        }
-        if (open.size() > levels) {
-            return true;
+            open.end(tag.name);
+        } else {
+            open.begin(tag);
         }
     }
-    return false;
+    return open.count() > MRVInputLimits::HtmlDepth;
 }

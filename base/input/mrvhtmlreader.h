@@ -42,8 +42,8 @@ public:
     static bool looksLikeHtml(const QByteArray &bytes);
 
     /**
-     * Whether elements of @p html lie more than @p levels deep. Qt's reader of rich text takes time
-     * that grows with the square of the depth.
+     * Whether elements of @p html are nested more deeply than MRVInputLimits::HtmlDepth, so that
+     * Qt's reader of rich text should not get it.
      */
-    static bool isNestedDeeper(const QString &html, int levels);
+    static bool isNestedTooDeeply(const QString &html);
 };

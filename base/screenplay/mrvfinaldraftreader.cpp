@@ -1,6 +1,5 @@
 #include "screenplay/mrvfinaldraft.h"
 
-#include "input/mrvxmlsource.h"
 #include "screenplay/mrvscriptxml_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 
@@ -13,8 +12,6 @@ namespace {
 
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
-
-constexpr int MaxDepth = 256;
 
 constexpr struct
 {
@@ -443,8 +440,6 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
         case QXmlStreamReader::StartElement:
             if (m_isText.isEmpty() && m_xml.name() != QLatin1String("FinalDraft")) {
                 m_xml.raiseError(MRVFinalDraft::tr("this is no Final Draft document"));
-            } else if (m_isText.size() == MaxDepth) {
-                m_xml.raiseError(MRVFinalDraft::tr("elements are nested too deeply"));
             } else {
                 m_isText.append(false);
                 startElement();
@@ -461,7 +456,7 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             break;
         }
     }
-    if (!mrvIsXmlRead(m_xml, error)) {
+    if (!MRVXmlReader::isRead(m_xml, error)) {
         return false;
     }
     addSummary();
@@ -476,7 +471,7 @@ bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QS
                             QStringList *leftOut)
 {
     QString text;
-    if (!mrvXmlText(xml, &text, error)) {
+    if (!MRVXmlReader::read(xml, MrvScriptLimits, &text, error)) {
         return false;
     }
     FinalDraftReader reader(text);

@@ -1,7 +1,6 @@
 #include "screenplay/mrvfountainhtml.h"
 
 #include "core/mrvxmltext.h"
-#include "input/mrvxmlsource.h"
 #include "screenplay/mrvscriptxml_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 
@@ -13,7 +12,6 @@ namespace {
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
 
-constexpr int MaxDepth = 256;
 constexpr char BodyClass[] = "script"; // distinguishes the page of an empty script from any other
 
 struct KindRow
@@ -366,10 +364,6 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
     while (!m_xml.atEnd()) {
         switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (m_levels.size() > MaxDepth) {
-                m_xml.raiseError(MRVFountainHtml::tr("elements are nested too deeply"));
-                break;
-            }
             startElement();
             break;
         case QXmlStreamReader::EndElement:
@@ -392,7 +386,7 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
         && m_script.elements.isEmpty()) {
         m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
     }
-    if (!mrvIsXmlRead(m_xml, error)) {
+    if (!MRVXmlReader::isRead(m_xml, error)) {
         return false;
     }
     *script = m_script.normalized();
@@ -417,7 +411,7 @@ bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script
                                QString *language)
 {
     QString text;
-    if (!mrvXmlText(html, &text, error)) {
+    if (!MRVXmlReader::read(html, MrvScriptLimits, &text, error)) {
         return false;
     }
     HtmlReader reader(text);

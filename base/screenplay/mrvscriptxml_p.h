@@ -1,11 +1,17 @@
 #pragma once
 
+#include "input/mrvxmlreader.h"
 #include "screenplay/mrvfountain.h"
 
 #include <QString>
 #include <QVector>
 
 // What the XML forms of scripts have in common.
+
+/** What a file may ask of a reader. */
+constexpr MRVXmlLimits MrvScriptLimits{MRVXmlLimits::NoDeclarations, MRVInputLimits::ScriptDepth,
+                                       MRVInputLimits::ScriptAttributes,
+                                       MRVInputLimits::ScriptTagLength};
 
 /** A part of a script: a paragraph, a speech from its cue on, or two speeches side by side. */
 struct MrvSpeeches

@@ -2,7 +2,6 @@
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
-#include "input/mrvxmlsource.h"
 #include "scriptmode/mrvscriptmodefile_p.h"
 #include "util/mrvnames.h"
 
@@ -221,9 +220,9 @@ bool MRVScriptMode::save(const QString &path, QString *error) const
 {
     // A mode that could not be read back is not written.
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
-    QString reason;
+    MRVTextFault fault;
     if (xml.isEmpty() || xml.size() > MaxFileSize
-        || !mrvXmlKeepsLimits(QString::fromUtf8(xml), &reason)) {
+        || !MRVXmlReader::keepsLimits(QString::fromUtf8(xml), ScriptModeLimits, &fault)) {
         return fail(error,
                     tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
     }

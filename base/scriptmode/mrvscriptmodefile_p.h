@@ -1,5 +1,6 @@
 #pragma once
 
+#include "input/mrvxmlreader.h"
 #include "scriptmode/mrvscriptelement.h"
 #include "util/mrvunit.h"
 
@@ -60,6 +61,11 @@ constexpr char PhraseEndDelimiterTag[] = "PhraseEndDelimiter";
 
 constexpr char YesWord[] = "Yes";
 constexpr char NoWord[] = "No";
+
+/** What a file may ask of the reader. */
+constexpr MRVXmlLimits ScriptModeLimits{
+    MRVXmlLimits::NoDocumentType, MRVInputLimits::ScriptModeDepth, MRVInputLimits::ScriptAttributes,
+    MRVInputLimits::ScriptModeTagLength};
 
 /** A word of the file and the enumerator that it stands for. */
 struct ScriptWord

@@ -1,6 +1,5 @@
 #include "scriptmode/mrvscriptmode.h"
 
-#include "input/mrvxmlsource.h"
 #include "scriptmode/mrvscriptmodefile_p.h"
 
 #include <QXmlStreamReader>
@@ -9,7 +8,6 @@
 
 namespace {
 
-constexpr int MaxDepth = 32;
 constexpr int MaxRemarks = 100;
 
 struct Attribute
@@ -72,7 +70,7 @@ private:
 void ModeReader::remark(const QString &text)
 {
     if (m_remarks.size() < MaxRemarks) {
-        m_remarks.append(mrvXmlLineText(m_xml.lineNumber(), text));
+        m_remarks.append(MRVTextFault{text, int(m_xml.lineNumber())}.toString());
     }
 }
 
@@ -100,16 +98,12 @@ void ModeReader::remarkAttributes()
     }
 }
 
-// Every token goes through here, so that documents that are nested too deeply are not read.
+// Every token goes through here, so that m_depth counts all elements.
 QXmlStreamReader::TokenType ModeReader::next()
 {
     const QXmlStreamReader::TokenType token = m_xml.readNext();
-    if (token == QXmlStreamReader::StartElement && ++m_depth > MaxDepth) {
-        m_xml.raiseError(
-            MRVScriptMode::tr("more than %1 elements lie within each other").arg(MaxDepth));
-    } else if (token == QXmlStreamReader::EndElement) {
-        --m_depth;
-    }
+    m_depth += token == QXmlStreamReader::StartElement;
+    m_depth -= token == QXmlStreamReader::EndElement;
     return m_xml.hasError() ? QXmlStreamReader::Invalid : token;
 }
 
@@ -325,7 +319,9 @@ void ModeReader::readCompletions(MRVScriptElement *element)
 
 QString ModeReader::error() const
 {
-    return mrvXmlLineText(m_xml.lineNumber(), m_xml.errorString());
+    QString error;
+    MRVXmlReader::isRead(m_xml, &error);
+    return error;
 }
 
 } // namespace
@@ -342,9 +338,8 @@ bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *
         return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
     }
     QString text;
-    QString reason;
-    if (!mrvDecodeXml(xml, &text, &reason) || !mrvXmlKeepsLimits(text, &reason)) {
-        return refuse(reason);
+    if (!MRVXmlReader::read(xml, ScriptModeLimits, &text, error)) {
+        return false;
     }
     std::optional<MRVUnit::Unit> units;
     for (;;) {

@@ -2,6 +2,8 @@
 
 #include "download/mrvdownloadurl.h"
 #include "download/mrvredirectpolicy.h"
+#include "input/mrvhtmlreader.h"
+#include "input/mrvtextdecoder.h"
 #include "update/mrvwebviewfactory.h"
 
 #include <QCoreApplication>
@@ -53,29 +55,17 @@ QWidget *createByPlugin(const QUrl &page, QWidget *parent)
     return nullptr;
 }
 
-// More deeply nested pages take the reader of rich text minutes.
-bool isNestedTooDeeply(const QString &html)
-{
-    constexpr int MaxDepth = 3000;
-    int depth = 0;
-    for (int at = html.indexOf(u'<'); at >= 0 && depth <= MaxDepth;
-         at = html.indexOf(u'<', at + 1)) {
-        const QChar next = at + 1 < html.size() ? html.at(at + 1) : QChar();
-        depth += next.isLetter() ? 1 : next == u'/' ? -1 : 0;
-    }
-    return depth > MaxDepth;
-}
-
 // The server's encoding has already been turned into UTF-8; pages that name one only themselves
 // have not.
 QString decodedPage(const QByteArray &bytes)
 {
-    QTextCodec *const utf8 = QTextCodec::codecForName("UTF-8");
-    QTextCodec::ConverterState state;
-    const QString text = utf8->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars + state.remainingChars == 0
-        ? text
-        : QTextCodec::codecForHtml(bytes, utf8)->toUnicode(bytes);
+    QString text;
+    if (!MRVTextDecoder::decode(bytes, QByteArrayLiteral("UTF-8"), &text)) {
+        const QTextCodec *codec = QTextCodec::codecForName(
+            MRVTextDecoder::encodingOf(bytes, MRVTextDecoder::HtmlDeclaration));
+        text = (codec ? codec : QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
+    }
+    return text;
 }
 
 // Shows one page as rich text. It has no scripts to begin with, and loads nothing that the page
@@ -123,7 +113,7 @@ private:
     void showPage(const QByteArray &bytes)
     {
         const QString html = decodedPage(bytes);
-        if (m_redirects.hasRefused() || isNestedTooDeeply(html)) {
+        if (m_redirects.hasRefused() || MRVHtmlReader::isNestedTooDeeply(html)) {
             showError(QString());
         } else {
             setHtml(html);

@@ -39,4 +39,25 @@ struct MRVInputLimits
     static constexpr qint64 Inflation = 1032;
 
     // XML and HTML.
+    /** Elements in each other, the document element counted: Qt parses them by recursion. */
+    static constexpr int XmlDepth = 1000;
+    /** Attributes of an element. */
+    static constexpr int XmlAttributes = 10000;
+    /** Declarations of a document type, which Qt looks up in quadratic time, ... */
+    static constexpr int XmlDeclarations = 2000;
+    /** ... and their characters together. */
+    static constexpr int XmlDeclarationLength = 256 * 1024;
+    /** With its entities expanded, a document may be longer by this many characters, ... */
+    static constexpr int XmlExpansion = 8 * 1024 * 1024;
+    /** ... and this many times as long. */
+    static constexpr int XmlExpansionFactor = 100;
+    /** Qt's stream reader compares each attribute of a tag with every other one. */
+    static constexpr int ScriptAttributes = 64;
+    static constexpr int ScriptDepth = 256;
+    /** Characters of a tag; keys and scene numbers are attributes, too. */
+    static constexpr int ScriptTagLength = 16 * 1024 * 1024;
+    static constexpr int ScriptModeDepth = 32;
+    static constexpr int ScriptModeTagLength = 16 * 1024;
+    /** Qt reads nested blocks of rich text in quadratic time. */
+    static constexpr int HtmlDepth = 2000;
 };

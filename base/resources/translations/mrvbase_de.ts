@@ -142,30 +142,6 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <translation>%1: Elemente sind mehr als %2 Ebenen tief verschachtelt</translation>
     </message>
     <message>
-        <source>elements are nested more deeply than %1 levels</source>
-        <translation>Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
-    </message>
-    <message>
-        <source>entities expand to too much text</source>
-        <translation>Entitäten ergeben zu viel Text</translation>
-    </message>
-    <message>
-        <source>an element has too many attributes</source>
-        <translation>Ein Element hat zu viele Attribute</translation>
-    </message>
-    <message>
-        <source>an element has two attributes of one name</source>
-        <translation>Ein Element hat zwei Attribute desselben Namens</translation>
-    </message>
-    <message>
-        <source>the document type has too many declarations</source>
-        <translation>Der Dokumenttyp hat zu viele Deklarationen</translation>
-    </message>
-    <message>
-        <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
-        <translation>Die Entität „%1“ steht in einer anderen Datei, und andere Dateien werden nicht gelesen</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>das Dokument hat kein Wurzelelement</translation>
     </message>
@@ -364,17 +340,9 @@ Fehler: %2</translation>
         <source>this is no Final Draft document</source>
         <translation>Das ist kein Final-Draft-Dokument</translation>
     </message>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>Elemente sind zu tief verschachtelt</translation>
-    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>Elemente sind zu tief verschachtelt</translation>
-    </message>
     <message>
         <source>the page holds no paragraph of a script</source>
         <translation>Die Seite enthält keinen Absatz eines Skripts</translation>
@@ -685,24 +653,12 @@ Fehler: %2</translation>
         <translation>Die Datei „%1“ kann nicht geschrieben werden: Der Skriptmodus ist zu groß</translation>
     </message>
     <message>
-        <source>a document type declaration does not belong here</source>
-        <translation>Eine Dokumenttyp-Deklaration gehört nicht hierher</translation>
-    </message>
-    <message>
-        <source>a tag is longer than %1 characters, or has more than %2 attributes</source>
-        <translation>Ein Tag ist länger als %1 Zeichen oder hat mehr als %2 Attribute</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
         <translation>„%1“ ist kein Wert von „%2“</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
         <translation>Das Attribut „%1“ gehört nicht in „%2“</translation>
-    </message>
-    <message>
-        <source>more than %1 elements lie within each other</source>
-        <translation>Mehr als %1 Elemente sind ineinander verschachtelt</translation>
     </message>
     <message>
         <source>text between elements is passed over</source>
@@ -2438,6 +2394,41 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Das Installationsprogramm trägt keine gültige Signatur (%1) und wird nicht geöffnet. Bitte melden Sie dies an %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVXmlReader</name>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation>Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>entities expand to too much text</source>
+        <translation>Entitäten ergeben zu viel Text</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>Ein Element hat zu viele Attribute</translation>
+    </message>
+    <message>
+        <source>an element has two attributes of one name</source>
+        <translation>Ein Element hat zwei Attribute desselben Namens</translation>
+    </message>
+    <message>
+        <source>the document type has too many declarations</source>
+        <translation>Der Dokumenttyp hat zu viele Deklarationen</translation>
+    </message>
+    <message>
+        <source>the entity &apos;%1&apos; is in another file, and other files are not read</source>
+        <translation>Die Entität „%1“ steht in einer anderen Datei, und andere Dateien werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>a document type declaration does not belong here</source>
+        <translation>Eine Dokumenttyp-Deklaration gehört nicht hierher</translation>
+    </message>
+    <message>
+        <source>a tag is longer than %1 characters</source>
+        <translation>Ein Tag ist länger als %1 Zeichen</translation>
     </message>
 </context>
 <context>

@@ -142,30 +142,6 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <translation>%1: hay elementos anidados a más de %2 niveles</translation>
     </message>
     <message>
-        <source>elements are nested more deeply than %1 levels</source>
-        <translation>hay elementos anidados a más de %1 niveles</translation>
-    </message>
-    <message>
-        <source>entities expand to too much text</source>
-        <translation>las entidades se expanden a demasiado texto</translation>
-    </message>
-    <message>
-        <source>an element has too many attributes</source>
-        <translation>un elemento tiene demasiados atributos</translation>
-    </message>
-    <message>
-        <source>an element has two attributes of one name</source>
-        <translation>un elemento tiene dos atributos con el mismo nombre</translation>
-    </message>
-    <message>
-        <source>the document type has too many declarations</source>
-        <translation>el tipo de documento tiene demasiadas declaraciones</translation>
-    </message>
-    <message>
-        <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
-        <translation>la entidad «%1» está en otro archivo, y los demás archivos no se leen</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>el documento no tiene elemento raíz</translation>
     </message>
@@ -364,17 +340,9 @@ Error: %2</translation>
         <source>this is no Final Draft document</source>
         <translation>no es un documento de Final Draft</translation>
     </message>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>hay elementos anidados a demasiada profundidad</translation>
-    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>hay elementos anidados a demasiada profundidad</translation>
-    </message>
     <message>
         <source>the page holds no paragraph of a script</source>
         <translation>la página no contiene ningún párrafo de un guion</translation>
@@ -685,24 +653,12 @@ Error: %2</translation>
         <translation>No se puede escribir el archivo «%1»: el modo de guion es demasiado grande</translation>
     </message>
     <message>
-        <source>a document type declaration does not belong here</source>
-        <translation>una declaración de tipo de documento no tiene cabida aquí</translation>
-    </message>
-    <message>
-        <source>a tag is longer than %1 characters, or has more than %2 attributes</source>
-        <translation>una etiqueta tiene más de %1 caracteres o más de %2 atributos</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
         <translation>«%1» no es un valor de «%2»</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
         <translation>el atributo «%1» no tiene cabida en «%2»</translation>
-    </message>
-    <message>
-        <source>more than %1 elements lie within each other</source>
-        <translation>hay más de %1 elementos anidados unos en otros</translation>
     </message>
     <message>
         <source>text between elements is passed over</source>
@@ -2438,6 +2394,41 @@ Comuníquelo a %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>El instalador no lleva una firma válida (%1) y no se abrirá. Comuníquelo a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVXmlReader</name>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation>hay elementos anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>entities expand to too much text</source>
+        <translation>las entidades se expanden a demasiado texto</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>un elemento tiene demasiados atributos</translation>
+    </message>
+    <message>
+        <source>an element has two attributes of one name</source>
+        <translation>un elemento tiene dos atributos con el mismo nombre</translation>
+    </message>
+    <message>
+        <source>the document type has too many declarations</source>
+        <translation>el tipo de documento tiene demasiadas declaraciones</translation>
+    </message>
+    <message>
+        <source>the entity &apos;%1&apos; is in another file, and other files are not read</source>
+        <translation>la entidad «%1» está en otro archivo, y los demás archivos no se leen</translation>
+    </message>
+    <message>
+        <source>a document type declaration does not belong here</source>
+        <translation>una declaración de tipo de documento no tiene cabida aquí</translation>
+    </message>
+    <message>
+        <source>a tag is longer than %1 characters</source>
+        <translation>una etiqueta tiene más de %1 caracteres</translation>
     </message>
 </context>
 <context>

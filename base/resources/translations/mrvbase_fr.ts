@@ -142,30 +142,6 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <translation>%1&#xa0;: des éléments sont imbriqués sur plus de %2 niveaux</translation>
     </message>
     <message>
-        <source>elements are nested more deeply than %1 levels</source>
-        <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
-    </message>
-    <message>
-        <source>entities expand to too much text</source>
-        <translation>les entités produisent trop de texte</translation>
-    </message>
-    <message>
-        <source>an element has too many attributes</source>
-        <translation>un élément a trop d’attributs</translation>
-    </message>
-    <message>
-        <source>an element has two attributes of one name</source>
-        <translation>un élément a deux attributs du même nom</translation>
-    </message>
-    <message>
-        <source>the document type has too many declarations</source>
-        <translation>le type de document a trop de déclarations</translation>
-    </message>
-    <message>
-        <source>the entity &apos;%1&apos; stands in another file, and other files are not read</source>
-        <translation>l’entité «&#xa0;%1&#xa0;» se trouve dans un autre fichier, et les autres fichiers ne sont pas lus</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>le document n’a pas d’élément racine</translation>
     </message>
@@ -364,17 +340,9 @@ Erreur&#xa0;: %2</translation>
         <source>this is no Final Draft document</source>
         <translation>ce n’est pas un document Final Draft</translation>
     </message>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>des éléments sont imbriqués trop profondément</translation>
-    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>
-    <message>
-        <source>elements are nested too deeply</source>
-        <translation>des éléments sont imbriqués trop profondément</translation>
-    </message>
     <message>
         <source>the page holds no paragraph of a script</source>
         <translation>la page ne contient aucun paragraphe de script</translation>
@@ -685,24 +653,12 @@ Erreur&#xa0;: %2</translation>
         <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: le mode script est trop volumineux</translation>
     </message>
     <message>
-        <source>a document type declaration does not belong here</source>
-        <translation>une déclaration de type de document n’a pas sa place ici</translation>
-    </message>
-    <message>
-        <source>a tag is longer than %1 characters, or has more than %2 attributes</source>
-        <translation>une balise dépasse %1 caractères ou a plus de %2 attributs</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une valeur de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
         <translation>l’attribut «&#xa0;%1&#xa0;» n’a pas sa place dans «&#xa0;%2&#xa0;»</translation>
-    </message>
-    <message>
-        <source>more than %1 elements lie within each other</source>
-        <translation>plus de %1 éléments sont imbriqués les uns dans les autres</translation>
     </message>
     <message>
         <source>text between elements is passed over</source>
@@ -2438,6 +2394,41 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Le programme d’installation ne porte pas de signature valide (%1) et ne sera pas ouvert. Veuillez le signaler à %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVXmlReader</name>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>entities expand to too much text</source>
+        <translation>les entités produisent trop de texte</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>un élément a trop d’attributs</translation>
+    </message>
+    <message>
+        <source>an element has two attributes of one name</source>
+        <translation>un élément a deux attributs du même nom</translation>
+    </message>
+    <message>
+        <source>the document type has too many declarations</source>
+        <translation>le type de document a trop de déclarations</translation>
+    </message>
+    <message>
+        <source>the entity &apos;%1&apos; is in another file, and other files are not read</source>
+        <translation>l’entité «&#xa0;%1&#xa0;» se trouve dans un autre fichier, et les autres fichiers ne sont pas lus</translation>
+    </message>
+    <message>
+        <source>a document type declaration does not belong here</source>
+        <translation>une déclaration de type de document n’a pas sa place ici</translation>
+    </message>
+    <message>
+        <source>a tag is longer than %1 characters</source>
+        <translation>une balise dépasse %1 caractères</translation>
     </message>
 </context>
 <context>
