@@ -2,6 +2,7 @@
 
 #include "core/mrverrorline_p.h"
 #include "core/mrvfilewriter.h"
+#include "core/mrvinputlimits.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,10 +14,6 @@
 
 namespace {
 
-// Qt 5 counts bytes in an int, and its arrays double as they grow.
-constexpr qint64 MaxFileBytes = qint64(1) << 30;
-// No codec makes more than three characters of a byte, and QString holds less than 2^30 of them.
-constexpr qint64 MaxTextBytes = qint64(1) << 28;
 constexpr qint64 PieceBytes = qint64(1) << 20;
 
 // The longest file name that the file systems of Linux take, in bytes.
@@ -155,7 +152,7 @@ bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString
     if (!decoder) {
         return fail(tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
     }
-    if (bytes.size() > MaxTextBytes) {
+    if (bytes.size() > MRVInputLimits::TextFileBytes) {
         return fail(tr("it is too large"));
     }
     decoder = QTextCodec::codecForUtfText(bytes, decoder);
@@ -174,7 +171,7 @@ bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString
 QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, const char *codec)
 {
     QString readError;
-    const QByteArray bytes = readUpTo(MaxTextBytes, path, &readError);
+    const QByteArray bytes = readUpTo(MRVInputLimits::TextFileBytes, path, &readError);
     if (!readError.isEmpty()) {
         if (error) {
             *error = readError;
@@ -211,7 +208,7 @@ bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path,
 
 QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
 {
-    return readUpTo(MaxFileBytes, path, error);
+    return readUpTo(MRVInputLimits::FileBytes, path, error);
 }
 
 bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)
