@@ -68,10 +68,10 @@ int readOptions(const QStringList &arguments, Options *options)
     if (!search.readOptions(parser, &error)) {
         return usageError(error);
     }
-    if (!parser.isSet(QStringLiteral("text")) && !search.hasFormats()) {
+    if (!parser.isSet(QStringLiteral("text")) && search.query.kinds.isEmpty()) {
         search.query.text = options->inputs.isEmpty() ? QString() : options->inputs.takeFirst();
     }
-    if (search.query.text.isEmpty() && !search.hasFormats()) {
+    if (search.query.text.isEmpty() && search.query.kinds.isEmpty()) {
         return usageError(QStringLiteral("a text to look for is missing"));
     }
     if (!search.query.isValid(&error)
@@ -195,7 +195,7 @@ int runFind(const QStringList &arguments)
     return lookThrough(options.inputs, options.input, QStringLiteral("Searching %1"),
                        [&](const DocumentInput &input) {
                            const QVector<MRVTextRange> finds =
-                               options.search.findAll(input.document.get());
+                               MRVTextReplacer::findAll(input.document.get(), options.search.query);
                            showProgress(QString());
                            printFinds(options, input.path, input.document.get(), finds);
                            return !finds.isEmpty();

@@ -283,7 +283,7 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
         return false;
     }
     const QVector<MRVTextChange> changes =
-        options.search.preview(input.document.get(), options.replacement);
+        MRVTextReplacer::preview(input.document.get(), options.search.query, options.replacement);
     Changed changed{path, targetOf(options, path), input.bytes, input.bytes, changes.size(), {}};
     if (options.dryRun) {
         showProgress(QString());

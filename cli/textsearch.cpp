@@ -11,8 +11,6 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include <algorithm>
-
 namespace {
 
 constexpr struct
@@ -63,30 +61,6 @@ QVariant propertyFormat(int property, const QVariant &value)
     return QVariant::fromValue<QTextFormat>(format);
 }
 
-QVector<MRVTextRange> intersection(const QVector<MRVTextRange> &first,
-                                   const QVector<MRVTextRange> &second)
-{
-    QVector<MRVTextRange> common;
-    for (int i = 0, j = 0; i < first.size() && j < second.size();) {
-        const int start = qMax(first[i].start(), second[j].start());
-        const int end = qMin(first[i].end(), second[j].end());
-        if (start < end) {
-            common.append(MRVTextRange(start, end));
-        }
-        first[i].end() < second[j].end() ? ++i : ++j;
-    }
-    return common;
-}
-
-// Whether a range lies as a whole in one of the runs, which are in order and do not overlap.
-bool liesIn(const QVector<MRVTextRange> &runs, const MRVTextRange &range)
-{
-    const auto behind = std::upper_bound(
-        runs.begin(), runs.end(), range.start(),
-        [](int position, const MRVTextRange &run) { return position < run.start(); });
-    return behind != runs.begin() && range.end() <= std::prev(behind)->end();
-}
-
 } // namespace
 
 void TextSearch::addOptions(QCommandLineParser *parser)
@@ -131,11 +105,11 @@ bool TextSearch::readOptions(const QCommandLineParser &parser, QString *error)
         }
     }
     if (parser.isSet(QStringLiteral("links"))) {
-        m_formats.append(
+        query.kinds.append(
             {MRVTextFinder::FindLink, MRVTextFinder::ExternalLinks | MRVTextFinder::InternalLinks});
     }
     if (parser.isSet(QStringLiteral("highlights"))) {
-        m_formats.append({MRVTextFinder::FindHighlight, QVariant()});
+        query.kinds.append({MRVTextFinder::FindHighlight, QVariant()});
     }
     for (const auto &row : colorRows) {
         if (!parser.isSet(QLatin1String(row.name))) {
@@ -148,60 +122,15 @@ bool TextSearch::readOptions(const QCommandLineParser &parser, QString *error)
                 QStringLiteral("unknown colour '%1'; known are #rrggbb and names of CSS").arg(name);
             return false;
         }
-        m_formats.append({row.type, color.isValid() ? QVariant(color) : QVariant()});
+        query.kinds.append({row.type, color.isValid() ? QVariant(color) : QVariant()});
     }
     for (const auto &row : propertyRows) {
         if (parser.isSet(QLatin1String(row.name))) {
             const QVariant value = row.value == true ? QVariant(true) : QVariant(row.value);
-            m_formats.append({MRVTextFinder::FindFormat, propertyFormat(row.property, value)});
+            query.kinds.append({MRVTextFinder::FindFormat, propertyFormat(row.property, value)});
         }
     }
     return query.isValid(error);
-}
-
-QVector<MRVTextRange> TextSearch::runs(QTextDocument *document) const
-{
-    QVector<MRVTextRange> common{MRVTextRange(0, document->characterCount())};
-    for (const Format &format : m_formats) {
-        QVector<MRVTextRange> runs;
-        if (format.type == MRVTextFinder::FindLink) {
-            QTextCursor all(document);
-            all.select(QTextCursor::Document);
-            runs = MRVTextFinder::findAllAnchors(all).toVector(); // parts links side by side
-        } else {
-            runs = MRVTextFinder::findAllRuns(document, format.type, format.value);
-        }
-        common = intersection(common, runs);
-    }
-    return common;
-}
-
-QVector<MRVTextRange> TextSearch::findAll(QTextDocument *document) const
-{
-    if (query.text.isEmpty()) {
-        return runs(document);
-    }
-    QVector<MRVTextRange> finds = MRVTextReplacer::findAll(document, query);
-    if (hasFormats()) {
-        const QVector<MRVTextRange> allowed = runs(document);
-        const auto outside = [&](const MRVTextRange &find) { return !liesIn(allowed, find); };
-        finds.erase(std::remove_if(finds.begin(), finds.end(), outside), finds.end());
-    }
-    return finds;
-}
-
-QVector<MRVTextChange> TextSearch::preview(QTextDocument *document,
-                                           const QString &replacement) const
-{
-    QVector<MRVTextChange> changes = MRVTextReplacer::preview(document, query, replacement);
-    if (hasFormats()) {
-        const QVector<MRVTextRange> allowed = runs(document);
-        const auto outside = [&](const MRVTextChange &change) {
-            return !liesIn(allowed, change.range);
-        };
-        changes.erase(std::remove_if(changes.begin(), changes.end(), outside), changes.end());
-    }
-    return changes;
 }
 
 void addInputOptions(QCommandLineParser *parser)

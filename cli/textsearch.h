@@ -10,8 +10,6 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
-#include <QVector>
 
 class QCommandLineParser;
 class QTextDocument;
@@ -20,29 +18,12 @@ class QTextDocument;
 class TextSearch
 {
 public:
-    MRVTextQuery query; // an empty text: whatever has the formats asked for
+    MRVTextQuery query;
 
     /** Adds the options that say how to search, and how to read the inputs. */
     static void addOptions(QCommandLineParser *parser);
     /** Takes up these options. @return false, with a text, when they are wrong. */
     bool readOptions(const QCommandLineParser &parser, QString *error);
-    bool hasFormats() const { return !m_formats.isEmpty(); }
-
-    /** All finds, in document order; those of formats may go on over paragraph ends. */
-    QVector<MRVTextRange> findAll(QTextDocument *document) const;
-    /** What replacing all finds would change, in document order. */
-    QVector<MRVTextChange> preview(QTextDocument *document, const QString &replacement) const;
-
-private:
-    struct Format
-    {
-        MRVTextFinder::FindType type;
-        QVariant value;
-    };
-
-    QVector<MRVTextRange> runs(QTextDocument *document) const;
-
-    QVector<Format> m_formats; // text has to have all of them
 };
 
 /** Adds the options that say how to read inputs. */

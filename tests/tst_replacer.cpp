@@ -41,6 +41,7 @@ private Q_SLOTS:
     void replaceAll();
     void positions();
     void withinAndFormat();
+    void kinds();
     void formatsStay();
     void someChanges();
     void oneByOne();
@@ -108,6 +109,35 @@ void tst_Replacer::withinAndFormat()
     query.compareFormatValues = false;
     QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 2);
     QCOMPARE(document.toPlainText(), QString("cat dog\ndog cat"));
+}
+
+void tst_Replacer::kinds()
+{
+    QTextDocument document("cat cat\ncat cat");
+    QTextCharFormat red;
+    red.setForeground(Qt::red);
+    selected(&document, 2, 12).mergeCharFormat(red);
+    QTextCharFormat link;
+    link.setAnchorHref("http://a.example/");
+    selected(&document, 4, 9).mergeCharFormat(link);
+    MRVTextQuery query = queryFor("cat", "p");
+    query.kinds = {{MRVTextFinder::FindTextColor, QVariant()}};
+    const QVector<MRVTextRange> colored{{4, 7}, {8, 11}};
+    QCOMPARE(Replacer::findAll(&document, query), colored);
+    query.kinds.append(
+        {MRVTextFinder::FindLink, MRVTextFinder::ExternalLinks | MRVTextFinder::InternalLinks});
+    QCOMPARE(Replacer::findAll(&document, query), QVector<MRVTextRange>{MRVTextRange(4, 7)});
+    QTextCursor end(&document);
+    end.movePosition(QTextCursor::End);
+    query.flags = MRVTextFinder::FindBackward;
+    QCOMPARE(Replacer::find(end, query).selectionStart(), 4);
+    query.text.clear();
+    const QVector<MRVTextRange> linked = Replacer::findAll(&document, query);
+    QCOMPARE(linked.first().start(), 4);
+    QCOMPARE(linked.last().end(), 9);
+    query.range = {5, 9};
+    QVERIFY(!Replacer::findAll(&document, query).contains(linked.first()));
+    QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 0);
 }
 
 void tst_Replacer::formatsStay()

@@ -89,19 +89,59 @@ private:
     QString m_searched;
 };
 
-/// Tells whether text has the format of a query. To be asked for ranges in document order.
+QVector<MRVTextRange> intersection(const QVector<MRVTextRange> &first,
+                                   const QVector<MRVTextRange> &second)
+{
+    QVector<MRVTextRange> common;
+    for (int i = 0, j = 0; i < first.size() && j < second.size();) {
+        const int start = qMax(first[i].start(), second[j].start());
+        const int end = qMin(first[i].end(), second[j].end());
+        if (start < end) {
+            common.append(MRVTextRange(start, end));
+        }
+        first[i].end() < second[j].end() ? ++i : ++j;
+    }
+    return common;
+}
+
+/// The text that is of all kinds of a query, in order; all of the document without kinds.
+QVector<MRVTextRange> runsOfKinds(const QTextDocument *document, const MRVTextQuery &query)
+{
+    const MRVTextRange all(0, document->characterCount() - 1);
+    QVector<MRVTextRange> common{MRVTextRange(0, document->characterCount())};
+    for (const MRVTextQuery::Kind &kind : query.kinds) {
+        // A run would join links side by side.
+        const bool isLink = kind.type == Finder::FindLink
+            && kind.value.toInt() == (Finder::ExternalLinks | Finder::InternalLinks);
+        common = intersection(common,
+                              isLink ? Finder::findAllAnchors(mrvSelect(document, all)).toVector()
+                                     : Finder::findAllRuns(document, kind.type, kind.value));
+        if (common.isEmpty()) {
+            break;
+        }
+    }
+    return common;
+}
+
+/// Tells whether text has the format and the kinds of a query. To be asked for the ranges of a
+/// paragraph in document order.
 class FormatFilter
 {
 public:
     FormatFilter(const QTextDocument *document, const MRVTextQuery &query)
         : m_verdicts(document, Test{query})
         , m_all(query.format.propertyCount() == 0)
+        , m_hasKinds(!query.kinds.isEmpty())
+        , m_ofKinds(m_hasKinds ? runsOfKinds(document, query) : QVector<MRVTextRange>())
     {
     }
 
     /// @param block the paragraph that @p find lies in
     bool accepts(const QTextBlock &block, const MRVTextRange &find)
     {
+        if (m_hasKinds && !isOfKinds(find)) {
+            return false;
+        }
         if (m_all) {
             return true;
         }
@@ -124,6 +164,14 @@ private:
         const MRVTextQuery &query;
     };
 
+    bool isOfKinds(const MRVTextRange &find) const
+    {
+        const auto after = std::upper_bound(
+            m_ofKinds.cbegin(), m_ofKinds.cend(), find.start(),
+            [](int position, const MRVTextRange &run) { return position < run.start(); });
+        return after != m_ofKinds.cbegin() && find.end() <= std::prev(after)->end();
+    }
+
     void load(const QTextBlock &block)
     {
         m_block = block;
@@ -143,6 +191,8 @@ private:
     QVector<MRVTextRange> m_runs;
     int m_next = 0;
     bool m_all;
+    bool m_hasKinds;
+    QVector<MRVTextRange> m_ofKinds;
 };
 
 MRVTextRange clipped(const MRVTextRange &range, int start, int end)
@@ -186,12 +236,11 @@ bool eachFindInBlock(const Matcher &matcher, const MRVTextQuery &query, const QT
 /// The same for the matches of a query within a part of a document.
 template<typename Matcher, typename Found>
 void eachFind(const QTextDocument *document, const Matcher &matcher, const MRVTextQuery &query,
-              const MRVTextRange &within, Found found)
+              const MRVTextRange &within, FormatFilter &filter, Found found)
 {
     if (matcher.isEmpty()) {
         return;
     }
-    FormatFilter filter(document, query);
     bool goesOn = true;
     mrvEachBlock(document, within, [&](const QTextBlock &block, int, int from, int to) {
         goesOn = goesOn && eachFindInBlock(matcher, query, block, from, to, filter, found);
@@ -361,8 +410,18 @@ QVector<MRVTextRange> MRVTextReplacer::findAll(const QTextDocument *document,
     if (!document) {
         return finds;
     }
+    const MRVTextRange within = searchedRange(document, query);
+    if (query.text.isEmpty() && !query.kinds.isEmpty()) {
+        finds = runsOfKinds(document, query);
+        const auto isOutside = [&](const MRVTextRange &find) {
+            return find.start() < within.start() || find.end() > within.end();
+        };
+        finds.erase(std::remove_if(finds.begin(), finds.end(), isOutside), finds.end());
+        return finds;
+    }
+    FormatFilter filter(document, query);
     withMatcher(query, [&](const auto &matcher) {
-        eachFind(document, matcher, query, searchedRange(document, query),
+        eachFind(document, matcher, query, within, filter,
                  [&](const SearchedText &, MRVTextMatch, const MRVTextRange &range) {
                      finds.append(range);
                      return true;
@@ -394,10 +453,12 @@ QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &q
         last = range;
         return backward;
     };
+    FormatFilter filter(document, query);
     withMatcher(query, [&](const auto &matcher) {
         if (!backward) {
             if (own.end() <= all.end()) {
-                eachFind(document, matcher, query, clipped(all, own.end(), all.end()), take);
+                eachFind(document, matcher, query, clipped(all, own.end(), all.end()), filter,
+                         take);
             }
             return;
         }
@@ -407,7 +468,8 @@ QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &q
              && block.position() + block.length() > part.start();
              block = block.previous()) {
             eachFind(document, matcher, query,
-                     clipped(part, block.position(), block.position() + block.length() - 1), take);
+                     clipped(part, block.position(), block.position() + block.length() - 1), filter,
+                     take);
         }
     });
     return last.start() < 0 ? result : mrvSelect(document, last);
@@ -421,8 +483,9 @@ QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
     if (!document) {
         return changes;
     }
+    FormatFilter filter(document, query);
     withMatcher(query, [&](const auto &matcher) {
-        eachFind(document, matcher, query, searchedRange(document, query),
+        eachFind(document, matcher, query, searchedRange(document, query), filter,
                  [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {
                      const QString before = text.original(match.start, match.length);
                      const QString after = replacementFor(matcher, text, match, replacement);
@@ -509,8 +572,9 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
         if (isFind) {
             break;
         }
+        FormatFilter filter(document, query);
         withMatcher(query, [&](const auto &matcher) {
-            eachFind(document, matcher, query, MRVTextRange(from, own.end()),
+            eachFind(document, matcher, query, MRVTextRange(from, own.end()), filter,
                      [&](const SearchedText &text, MRVTextMatch match, const MRVTextRange &range) {
                          if (range == own) {
                              isFind = !holdsObject(text.original(match.start, match.length));

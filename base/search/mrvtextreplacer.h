@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QTextCharFormat>
+#include <QVariant>
 #include <QVector>
 
 #include <limits>
@@ -26,7 +27,7 @@ struct MRVBASE_EXPORT MRVTextQuery
         RegularExpression, ///< of QRegularExpression; letters and digits are those of Unicode
     };
 
-    /** An empty text finds nothing. */
+    /** An empty text finds nothing, but see #kinds. */
     QString text;
     Syntax syntax = PlainText;
     /** FindCaseSensitively counts for expressions, too. FindBackward counts in find() only. */
@@ -46,6 +47,20 @@ struct MRVBASE_EXPORT MRVTextQuery
      */
     QTextCharFormat format;
     bool compareFormatValues = true;
+
+    /** A kind of text, as MRVTextFinder::matchFormat() takes it. */
+    struct Kind
+    {
+        MRVTextFinder::FindType type;
+        QVariant value;
+    };
+    /**
+     * Only finds that lie as a whole in runs of each of these kinds count. Links side by side are
+     * runs of their own. With kinds and an empty #text, MRVTextReplacer::findAll() and count() find
+     * the text that is of all these kinds; it may go on over paragraph ends, and #format does not
+     * count then.
+     */
+    QVector<Kind> kinds;
 
     /**
      * Whether @p text is an expression that can be searched for; true for plain text.
