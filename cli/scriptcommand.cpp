@@ -93,7 +93,7 @@ constexpr FlagName behaviorFlags[] = {
 
 struct DelimiterName
 {
-    const QString &(MRVScriptElement::*text)() const;
+    QString (MRVScriptElement::*text)() const;
     const char *shown;
     const char *key;
 };
@@ -265,7 +265,8 @@ void printElement(const MRVScriptElement &element, const MRVScriptMode &mode)
         }
     }
     QStringList completions;
-    for (const MRVCompletion &completion : element.completions().completions()) {
+    const QList<MRVCompletion> offered = element.completions().completions();
+    for (const MRVCompletion &completion : offered) {
         completions.append(completion.text.simplified());
     }
     if (!completions.isEmpty()) {
@@ -321,7 +322,8 @@ QJsonObject toJson(const MRVScriptElement &element)
     }
     object.insert(QStringLiteral("tabs"), tabs);
     QJsonArray completions;
-    for (const MRVCompletion &completion : element.completions().completions()) {
+    const QList<MRVCompletion> offered = element.completions().completions();
+    for (const MRVCompletion &completion : offered) {
         completions.append(completion.text);
     }
     object.insert(QStringLiteral("completions"), completions);
@@ -391,18 +393,19 @@ int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
         }
         return ok ? Done : Failed;
     }
+    const QList<MRVScriptElement> elements = mode.elements();
     if (parser.isSet(QStringLiteral("json"))) {
-        QJsonArray elements;
-        for (const MRVScriptElement &element : mode.elements()) {
-            elements.append(toJson(element));
+        QJsonArray objects;
+        for (const MRVScriptElement &element : elements) {
+            objects.append(toJson(element));
         }
         printJson({{QStringLiteral("name"), mode.name()},
                    {QStringLiteral("units"), MRVUnit::shortSuffix(mode.units())},
-                   {QStringLiteral("elements"), elements}});
+                   {QStringLiteral("elements"), objects}});
         return Done;
     }
     printLine(displayed(mode.name()));
-    for (const MRVScriptElement &element : mode.elements()) {
+    for (const MRVScriptElement &element : elements) {
         printElement(element, mode);
     }
     return Done;
@@ -457,7 +460,7 @@ int runShow(const QStringList &arguments)
 QStringList faultsOf(const MRVScriptMode &mode)
 {
     QStringList faults;
-    const QList<MRVScriptElement> &elements = mode.elements();
+    const QList<MRVScriptElement> elements = mode.elements();
     if (elements.isEmpty()) {
         faults.append(QStringLiteral("the mode has no elements"));
     }

@@ -105,6 +105,19 @@ private Q_SLOTS:
     }
     void recapitalize();
     void completions();
+    // What a getter gives outlives the object that it was asked of.
+    void temporaries()
+    {
+        QStringList titles;
+        for (const Element &element : MRVScriptMode::systemModes().first().elements()) {
+            titles.append(element.title());
+        }
+        const QList<Element> elements = m_factory.first().elements();
+        QCOMPARE(titles.size(), elements.size());
+        QCOMPARE(titles.first(), elements.first().title());
+        const auto &format = MRVScriptMode::systemModes().first().elements().first().blockFormat();
+        QCOMPARE(format, elements.first().blockFormat());
+    }
     void variants();
 
     void factory_data();

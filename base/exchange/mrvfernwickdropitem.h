@@ -39,9 +39,9 @@ public:
     explicit MRVFernwickDropItem(const QList<QVariant> &list);
 
     /** What the note is called; may be empty. */
-    const QString &label() const { return m_label; }
+    QString label() const { return m_label; }
     /** A QString, a QImage or a QVariantList; of items that were read or converted, any value. */
-    const QVariant &payload() const { return m_payload; }
+    QVariant payload() const { return m_payload; }
 
     /** A variant of the meta type "MRVFernwickDropItem" that holds a copy of the item. */
     QVariant toVariant() const;

@@ -43,7 +43,7 @@ public:
     /** Adds a completion at the end; one that is there already is there twice. */
     void append(const MRVCompletion &completion);
     /** In the order of append(). */
-    const QList<MRVCompletion> &completions() const { return m_completions; }
+    QList<MRVCompletion> completions() const { return m_completions; }
     /** Whether nothing can be offered. */
     bool isEmpty() const { return m_completions.isEmpty(); }
 
@@ -126,11 +126,11 @@ public:
     };
 
     /** What other elements and the user call it; not translated. */
-    const QString &title() const { return m_title; }
+    QString title() const { return m_title; }
     void setTitle(const QString &title) { m_title = title; }
 
     /** A key sequence in portable text, such as "Ctrl+1"; empty for none. */
-    const QString &shortcut() const { return m_shortcut; }
+    QString shortcut() const { return m_shortcut; }
     void setShortcut(const QString &shortcut) { m_shortcut = shortcut; }
 
     /**
@@ -140,7 +140,7 @@ public:
      * those of the document.
      */
     //@{
-    const QTextCharFormat &charFormat() const { return m_charFormat; }
+    QTextCharFormat charFormat() const { return m_charFormat; }
     void setCharFormat(const QTextCharFormat &format) { m_charFormat = format; }
     //@}
 
@@ -149,7 +149,7 @@ public:
      * measured from the margins of the page, and QTextFormat::TextIndent, measured from the left
      * indent. Line spacing is the pair MRVTextFormat::BlockSpacing and BlockBaseSpacing.
      */
-    const QTextBlockFormat &blockFormat() const { return m_blockFormat; }
+    QTextBlockFormat blockFormat() const { return m_blockFormat; }
     void setBlockFormat(const QTextBlockFormat &format) { m_blockFormat = format; }
 
     /**
@@ -166,7 +166,7 @@ public:
     //@}
 
     /** What ends the part of a paragraph that AllCaps is about; empty where that is all of it. */
-    const QString &styleDelimiter() const { return m_styleDelimiter; }
+    QString styleDelimiter() const { return m_styleDelimiter; }
     void setStyleDelimiter(const QString &delimiter) { m_styleDelimiter = delimiter; }
 
     /** The title of the element that @p action goes to; empty where it stays in this one. */
@@ -198,14 +198,14 @@ public:
      * What a phrase that AddToProjectList collects stands behind, and in front of; an empty one is
      * the start or the end of the paragraph.
      */
-    const QString &phraseStartDelimiter() const { return m_phraseStartDelimiter; }
+    QString phraseStartDelimiter() const { return m_phraseStartDelimiter; }
     void setPhraseStartDelimiter(const QString &delimiter) { m_phraseStartDelimiter = delimiter; }
     /** As phraseStartDelimiter(), for what stands after the phrase. */
-    const QString &phraseEndDelimiter() const { return m_phraseEndDelimiter; }
+    QString phraseEndDelimiter() const { return m_phraseEndDelimiter; }
     void setPhraseEndDelimiter(const QString &delimiter) { m_phraseEndDelimiter = delimiter; }
 
     /** The element's own completions, beside those that the project collects. */
-    const MRVCompletionList &completions() const { return m_completions; }
+    MRVCompletionList completions() const { return m_completions; }
     void setCompletions(const MRVCompletionList &completions) { m_completions = completions; }
 
     /** Whether a paragraph is of this element: equal() of the two formats. */

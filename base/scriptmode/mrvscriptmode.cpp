@@ -71,7 +71,8 @@ void writeFont(QXmlStreamWriter *xml, const MRVScriptElement &element)
 void writeCompletions(QXmlStreamWriter *xml, const MRVCompletionList &list)
 {
     xml->writeStartElement(QLatin1String(CompletionListTag));
-    for (const MRVCompletion &completion : list.completions()) {
+    const QList<MRVCompletion> completions = list.completions();
+    for (const MRVCompletion &completion : completions) {
         xml->writeStartElement(QLatin1String(CompletionItemTag));
         xml->writeAttribute(QLatin1String(NewLineAfterAttribute),
                             QLatin1String(completion.newLineAfter ? YesWord : NoWord));

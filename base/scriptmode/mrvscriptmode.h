@@ -56,7 +56,7 @@ public:
     MRVScriptMode();
 
     /** By which lists of modes name it; also part of the file. */
-    const QString &name() const { return m_name; }
+    QString name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
 
     /** What lengths are written in: MRVUnit::Inch, Centimeter or Point. */
@@ -65,7 +65,7 @@ public:
     void setUnits(MRVUnit::Unit units);
 
     /** In the order in which menus show them. */
-    const QList<MRVScriptElement> &elements() const { return m_elements; }
+    QList<MRVScriptElement> elements() const { return m_elements; }
     void setElements(const QList<MRVScriptElement> &elements) { m_elements = elements; }
 
     /** The index of the first element with this title, exactly so written, or -1. */

@@ -442,7 +442,7 @@ QString written(const QString &text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-template<const QString &(Element::*get)() const>
+template<QString (Element::*get)() const>
 QString text(const Element &element, MRVUnit::Unit)
 {
     return written((element.*get)());
