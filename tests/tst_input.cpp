@@ -45,14 +45,10 @@ QByteArray stored(Guard::Form form, const QVariant &value)
     return bytes;
 }
 
-QByteArray taken(Guard::Form form, const QByteArray &bytes, QDataStream::Status *status = nullptr)
+QByteArray taken(Guard::Form form, const QByteArray &bytes)
 {
     QDataStream stream(bytes);
-    const QByteArray read = Guard::take(stream, form);
-    if (status) {
-        *status = stream.status();
-    }
-    return read;
+    return Guard::take(stream, form);
 }
 
 /** As Qt reads what the guard let through. */
@@ -222,7 +218,9 @@ private Q_SLOTS:
     {
         QMap<QString, QString> letters;
         for (const QStringList &row : rowsOf("input-types.tsv")) {
-            letters[row.at(0)] = row.at(1);
+            for (const QString &name : row.at(1).split(',')) {
+                letters[name] = row.at(0);
+            }
         }
         const QByteArrayList names{"settings", "date", "char", "block", "item"};
         for (int type = QMetaType::Bool; type < QMetaType::User; ++type) {
@@ -336,17 +334,6 @@ private Q_SLOTS:
         }
         const QByteArray list = QByteArray::fromHex("00000009 00000001");
         QVERIFY(taken(Guard::SettingsValue, list.repeated(1000000)).isEmpty());
-    }
-
-    // QSettings itself notices the one, not the other.
-    void shortOrCorrupt()
-    {
-        const QByteArray bytes = stored(Guard::SettingsValue, QColor(Qt::red));
-        QDataStream::Status status = QDataStream::Ok;
-        taken(Guard::SettingsValue, bytes.left(7), &status);
-        QCOMPARE(status, QDataStream::ReadPastEnd);
-        taken(Guard::SettingsValue, QByteArray(bytes).replace(4, 1, "\x5d"), &status);
-        QCOMPARE(status, QDataStream::ReadCorruptData);
     }
 };
 
