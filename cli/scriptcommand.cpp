@@ -456,40 +456,6 @@ int runShow(const QStringList &arguments)
     return showMode(mode, parser);
 }
 
-// What is well-formed and yet does not work.
-QStringList faultsOf(const MRVScriptMode &mode)
-{
-    QStringList faults;
-    const QList<MRVScriptElement> elements = mode.elements();
-    if (elements.isEmpty()) {
-        faults.append(QStringLiteral("the mode has no elements"));
-    }
-    for (int i = 0; i < elements.size(); ++i) {
-        const MRVScriptElement &element = elements.at(i);
-        const QString title = element.title();
-        if (title.isEmpty()) {
-            faults.append(QStringLiteral("element %1 has no title").arg(i + 1));
-        } else if (mode.indexOf(title) < i) {
-            faults.append(QStringLiteral("two elements are called '%1'").arg(title));
-        }
-        for (const ActionName &name : actionNames) {
-            const QString next = element.actionElement(name.action);
-            if (!next.isEmpty() && mode.indexOf(next) < 0) {
-                faults.append(QStringLiteral("'%1': %2 goes to '%3', which is no element")
-                                  .arg(title, QLatin1String(name.shown), next));
-            }
-        }
-        for (int j = 0; j < i; ++j) {
-            if (MRVScriptElement::equal(elements.at(j).blockFormat(), element.blockFormat())) {
-                faults.append(QStringLiteral("the paragraphs of '%1' look like those of '%2'")
-                                  .arg(title, elements.at(j).title()));
-                break;
-            }
-        }
-    }
-    return faults;
-}
-
 int runCheck(const QStringList &arguments)
 {
     QCommandLineParser parser;
@@ -520,7 +486,7 @@ int runCheck(const QStringList &arguments)
             clean = false;
             continue;
         }
-        faults += faultsOf(mode);
+        faults += mode.faults();
         clean = clean && faults.isEmpty();
         for (const QString &fault : qAsConst(faults)) {
             if (parser.isSet(QStringLiteral("json"))) {

@@ -15,6 +15,7 @@
 #include <QTextBlock>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -284,6 +285,49 @@ void MRVScriptMode::makeElementsUnique()
         used.insert(title);
         element.setTitle(title);
     }
+}
+
+QStringList MRVScriptMode::faults() const
+{
+    static constexpr struct
+    {
+        MRVScriptElement::Action action;
+        const char *text;
+    } actions[] = {{MRVScriptElement::ReturnAction,
+                    QT_TR_NOOP("'%1': Return goes to '%2', which is no element")},
+                   {MRVScriptElement::TabOnEmptyAction,
+                    QT_TR_NOOP("'%1': Tab in an empty line goes to '%2', which is no element")},
+                   {MRVScriptElement::TabAfterTypingAction,
+                    QT_TR_NOOP("'%1': Tab goes to '%2', which is no element")}};
+    QStringList faults;
+    if (m_elements.isEmpty()) {
+        faults.append(tr("the mode has no elements"));
+    }
+    for (int i = 0; i < m_elements.size(); ++i) {
+        const MRVScriptElement &element = m_elements.at(i);
+        const QString title = element.title();
+        if (title.isEmpty()) {
+            faults.append(tr("element %1 has no title").arg(i + 1));
+        } else if (indexOf(title) < i) {
+            faults.append(tr("two elements are called '%1'").arg(title));
+        }
+        for (const auto &row : actions) {
+            const QString next = element.actionElement(row.action);
+            if (!next.isEmpty() && indexOf(next) < 0) {
+                faults.append(tr(row.text).arg(title, next));
+            }
+        }
+        const auto looksSame = [&](const MRVScriptElement &other) {
+            return MRVScriptElement::equal(other.blockFormat(), element.blockFormat());
+        };
+        const auto end = m_elements.cbegin() + i;
+        const auto same = std::find_if(m_elements.cbegin(), end, looksSame);
+        if (same != end) {
+            faults.append(
+                tr("the paragraphs of '%1' look like those of '%2'").arg(title, same->title()));
+        }
+    }
+    return faults;
 }
 
 double MRVScriptMode::toPoints(double length) const

@@ -157,6 +157,13 @@ public:
      */
     void makeElementsUnique();
 
+    /**
+     * What keeps the mode from working although its file can be read, one translated line each:
+     * titles that are missing, used twice or lead to no element, and elements whose paragraphs
+     * look the same, so that match() finds the first only. Empty for a mode without faults.
+     */
+    QStringList faults() const;
+
     /** A length in units() as points, rounded to the nearest twentieth, halves away from zero. */
     double toPoints(double length) const;
     /** Points as a length in units(), not rounded. */

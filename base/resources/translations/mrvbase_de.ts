@@ -688,6 +688,34 @@ Fehler: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>Die Datei ist größer als %1 Bytes</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos;: Return goes to &apos;%2&apos;, which is no element</source>
+        <translation>„%1“: Die Eingabetaste führt zu „%2“, das kein Element ist</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab in an empty line goes to &apos;%2&apos;, which is no element</source>
+        <translation>„%1“: Tab in einer leeren Zeile führt zu „%2“, das kein Element ist</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab goes to &apos;%2&apos;, which is no element</source>
+        <translation>„%1“: Tab führt zu „%2“, das kein Element ist</translation>
+    </message>
+    <message>
+        <source>the mode has no elements</source>
+        <translation>der Modus hat keine Elemente</translation>
+    </message>
+    <message>
+        <source>element %1 has no title</source>
+        <translation>Element %1 hat keinen Titel</translation>
+    </message>
+    <message>
+        <source>two elements are called &apos;%1&apos;</source>
+        <translation>zwei Elemente heißen „%1“</translation>
+    </message>
+    <message>
+        <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
+        <translation>die Absätze von „%1“ sehen aus wie die von „%2“</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>

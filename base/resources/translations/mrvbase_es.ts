@@ -688,6 +688,34 @@ Error: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>ocupa más de %1 bytes</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos;: Return goes to &apos;%2&apos;, which is no element</source>
+        <translation>«%1»: Intro lleva a «%2», que no es un elemento</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab in an empty line goes to &apos;%2&apos;, which is no element</source>
+        <translation>«%1»: Tab en una línea vacía lleva a «%2», que no es un elemento</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab goes to &apos;%2&apos;, which is no element</source>
+        <translation>«%1»: Tab lleva a «%2», que no es un elemento</translation>
+    </message>
+    <message>
+        <source>the mode has no elements</source>
+        <translation>el modo no tiene elementos</translation>
+    </message>
+    <message>
+        <source>element %1 has no title</source>
+        <translation>el elemento %1 no tiene título</translation>
+    </message>
+    <message>
+        <source>two elements are called &apos;%1&apos;</source>
+        <translation>dos elementos se llaman «%1»</translation>
+    </message>
+    <message>
+        <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
+        <translation>los párrafos de «%1» son iguales a los de «%2»</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>

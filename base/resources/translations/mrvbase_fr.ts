@@ -688,6 +688,34 @@ Erreur&#xa0;: %2</translation>
         <source>it is larger than %1 bytes</source>
         <translation>le fichier dépasse %1 octets</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos;: Return goes to &apos;%2&apos;, which is no element</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: Entrée mène à «&#xa0;%2&#xa0;», qui n’est pas un élément</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab in an empty line goes to &apos;%2&apos;, which is no element</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: Tab dans une ligne vide mène à «&#xa0;%2&#xa0;», qui n’est pas un élément</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: Tab goes to &apos;%2&apos;, which is no element</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: Tab mène à «&#xa0;%2&#xa0;», qui n’est pas un élément</translation>
+    </message>
+    <message>
+        <source>the mode has no elements</source>
+        <translation>le mode n’a pas d’éléments</translation>
+    </message>
+    <message>
+        <source>element %1 has no title</source>
+        <translation>l’élément %1 n’a pas de titre</translation>
+    </message>
+    <message>
+        <source>two elements are called &apos;%1&apos;</source>
+        <translation>deux éléments s’appellent «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
+        <translation>les paragraphes de «&#xa0;%1&#xa0;» ressemblent à ceux de «&#xa0;%2&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>
