@@ -3,13 +3,14 @@
 #include "command.h"
 
 #include "document/mtextdoc.h"
+#include "input/mrvguardeddocument.h"
 #include "input/mrvhtmlreader.h"
 #include "input/mrvtextdecoder.h"
 #include "textformat/mrvtextformat.h"
 
 #include "core/mrvcoreutil.h"
 #include "core/mrvinputlimits.h"
-#include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -98,13 +99,6 @@ bool isElsewhere(const QString &name)
     return scheme.size() > 1 && scheme != QLatin1String("file");
 }
 
-bool isPicture(const QString &path)
-{
-    // A pipe or a device in a picture's place would never end.
-    return QFileInfo(path).isFile()
-        && !MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path)).isNull();
-}
-
 // An image character, or several equal ones side by side.
 struct ImageRun
 {
@@ -151,8 +145,9 @@ bool locatePictures(const QString &folder, DocumentInput *input, QString *reason
             QString &path = known[name];
             if (path.isEmpty()) {
                 path = localFile(name, folder);
-                if (!isPicture(path)) {
-                    *reason = QStringLiteral("the picture %1 cannot be read").arg(name);
+                QString why;
+                if (MRVPictureReader::ofFile(path).read(&why).isNull()) {
+                    *reason = QStringLiteral("the picture %1 cannot be read: %2").arg(name, why);
                     return false;
                 }
                 input->pictures.append(path);
@@ -224,7 +219,7 @@ QString DocumentInput::fileName() const
 
 std::unique_ptr<QTextDocument> newDocument(const QString &text, const QString &format)
 {
-    auto document = std::make_unique<QTextDocument>();
+    auto document = std::make_unique<MRVGuardedDocument>();
     document->setUndoRedoEnabled(false);
     if (format == QLatin1String("html")) {
         document->setHtml(text);

@@ -8,7 +8,7 @@
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include "core/mrvcoreutil.h"
-#include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -410,12 +410,13 @@ bool completeMetadata(const QString &coverFile, const DocumentInput &first,
         metadata->language = first.language.isEmpty() ? localeLanguage() : first.language;
     }
     if (!coverFile.isEmpty()) {
-        QString unreadable;
-        metadata->cover = MRVCoreUtil::ReadBinaryFile(coverFile, &unreadable);
-        if (MRVGuiUtil::toImage(metadata->cover).isNull()) {
-            *error = QStringLiteral("%1: the cover picture cannot be read").arg(coverFile);
+        QString reason;
+        if (MRVPictureReader::ofFile(coverFile).read(&reason).isNull()) {
+            *error =
+                QStringLiteral("%1: the cover picture cannot be read: %2").arg(coverFile, reason);
             return false;
         }
+        metadata->cover = MRVCoreUtil::ReadBinaryFile(coverFile);
     }
     return true;
 }

@@ -3,7 +3,6 @@
 
 #include <QImageReader>
 #include <QPixmap>
-#include <QtEndian>
 
 namespace {
 
@@ -16,30 +15,6 @@ QImage testCard(QImage::Format format)
                             QColor(i % 8 * 30, i / 8 * 60, 255 - i % 8 * 30, i < 24 ? 255 : 0));
     }
     return image.convertToFormat(format);
-}
-
-// The header of a square bitmap, which is all that it has.
-QByteArray bitmapClaiming(const QByteArray &size)
-{
-    return QByteArray::fromHex("424d3a0000000000000036000000 28000000" + size + size + "01001800")
-        + QByteArray(28, 0);
-}
-
-// An icon file of 16 x 16 pixels, as its directory says, around a picture that may say otherwise.
-QByteArray iconHolding(const QByteArray &picture)
-{
-    QByteArray length(4, 0);
-    qToLittleEndian(picture.size(), length.data());
-    return QByteArray::fromHex("000001000100 1010000001002000") + length
-        + QByteArray::fromHex("16000000") + picture;
-}
-
-// The most memory that this process has asked for, in KiB.
-long peakMemory()
-{
-    QFile status("/proc/self/status");
-    const QString text = status.open(QIODevice::ReadOnly) ? status.readAll() : QByteArray();
-    return text.section("VmPeak:", 1).section("kB", 0, 0).toLong();
 }
 
 } // namespace
@@ -116,19 +91,9 @@ private Q_SLOTS:
         row("file-name", "card.png", {}, {0, 0});
         row("text", QByteArray("once upon a time"), "PNG", {0, 0});
         row("header-only", png.left(8), {}, {0, 0});
-        row("claims-gigapixels", bitmapClaiming("a0860100"), {}, {0, 0});
-        row("claims-100-megapixels", bitmapClaiming("10270000"), {}, {0, 0});
-        QByteArray huge = png;
-        huge.replace(16, 17, QByteArray::fromHex("00004e2000004e20 0806000000 e3704639"));
-        row("icon", iconHolding(png), {}, {8, 4});
-        row("icon-holds-400-megapixel-png", iconHolding(huge), {}, {0, 0});
-        row("icon-holds-400-megapixel-bitmap",
-            iconHolding(bitmapClaiming("204e0000").mid(14) + QByteArray(40, 0)), {}, {0, 0});
         const QByteArray text = "/* x */\n#define x_width N\n#define x_height N\n"
                                 "static char x_bits[] = {\n0x01};\n";
         row("bitmap-text", QByteArray(text).replace('N', "8"), {}, {8, 8});
-        row("bitmap-text-claims-900-megapixels", QByteArray(text).replace('N', "30000"), {},
-            {0, 0});
     }
 
     void decodesImages()
@@ -137,11 +102,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, format);
         QFETCH(QSize, size);
         const char *hint = format.isNull() ? nullptr : format.constData();
-        const long before = peakMemory();
-        QVERIFY(before > 0);
         const QImage image = MRVGuiUtil::toImage(data, hint);
         QCOMPARE(image.size(), size);
-        QVERIFY(!size.isEmpty() || peakMemory() - before < 64 * 1024);
         if (data.type() == QVariant::ByteArray) {
             QCOMPARE(MRVGuiUtil::toImage(data.toByteArray(), hint), image);
         }

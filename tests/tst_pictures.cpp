@@ -1,8 +1,20 @@
+#include "document/mtextdoc.h"
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
+#include "heapmeter.h"
+#include "input/mrvguardeddocument.h"
+#include "support.h"
 
+#include <QImageReader>
+#include <QTextDocument>
 #include <QtEndian>
 #include <QtTest>
+
+#include <ctime>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <zlib.h>
 
 namespace {
 
@@ -27,7 +39,106 @@ QByteArray pngClaiming(quint32 width, quint32 height, char depth, char type,
         + chunks + pngChunk("IEND", {});
 }
 
+// An icon file of 16 x 16 pixels, as its directory says, around a picture that may say otherwise.
+QByteArray iconHolding(const QByteArray &picture)
+{
+    QByteArray length(4, 0);
+    qToLittleEndian(picture.size(), length.data());
+    return QByteArray::fromHex("000001000100 1010000001002000") + length
+        + QByteArray::fromHex("16000000") + picture;
+}
+
+// The header of a square bitmap, which is all that it has.
+QByteArray bitmapClaiming(const QByteArray &size)
+{
+    return QByteArray::fromHex("424d3a0000000000000036000000 28000000" + size + size + "01001800")
+        + QByteArray(28, 0);
+}
+
+// A small GIF with a frame of 64266 x 4106 pixels, which is put back before the next one.
+QByteArray gifOfLargeFrame()
+{
+    return "GIF89a"
+        + QByteArray::fromHex("ffff0a00 800000 000000ffffff 21f9040c00000000"
+                              "2cfa040000 0afb 0a10 00 02024401 00 2c00000000 01000100 00"
+                              "02024401 00 3b");
+}
+
+// A little-endian TIFF of 8 x 8 pixels in one tile of 40000 x 40000.
+QByteArray tiffOfLargeTile()
+{
+    return QByteArray::fromHex("49492a00 08000000 0400"
+                               "0001 0300 01000000 08000000 0101 0300 01000000 08000000"
+                               "4201 0400 01000000 409c0000 4301 0400 01000000 409c0000 00000000");
+}
+
+QByteArray svg(const QByteArray &attributes, const QByteArray &content)
+{
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+        + attributes + ">" + content + "</svg>";
+}
+
+// The start of an SVG with 1.5 GB of blanks, as gzip packs it.
+QByteArray packedBlanks()
+{
+    z_stream stream{};
+    deflateInit2(&stream, 9, Z_DEFLATED, MAX_WBITS + 16, 8, Z_DEFAULT_STRATEGY);
+    const auto packed = [&stream](QByteArray text) {
+        QByteArray bytes(4096, 0);
+        stream.next_in = reinterpret_cast<Bytef *>(text.data());
+        stream.avail_in = uInt(text.size());
+        stream.next_out = reinterpret_cast<Bytef *>(bytes.data());
+        stream.avail_out = uInt(bytes.size());
+        deflate(&stream, Z_FULL_FLUSH); // which does not go back to what came before
+        return bytes.left(bytes.size() - int(stream.avail_out));
+    };
+    const QByteArray start = packed("<svg xmlns='http://www.w3.org/2000/svg'>");
+    const QByteArray bytes = start + packed(QByteArray(1 << 20, ' ')).repeated(1500);
+    deflateEnd(&stream);
+    return bytes;
+}
+
+QByteArray pictureText(const QByteArray &size)
+{
+    return "/* x */\n#define x_width " + size + "\n#define x_height " + size
+        + "\nstatic char x_bits[] = {\n0x01};\n";
+}
+
+bool isReadable(const char *format)
+{
+    return QImageReader::supportedImageFormats().contains(format);
+}
+
+QString write(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("%s cannot be written", qPrintable(file.fileName()));
+    }
+    return file.fileName();
+}
+
+QTextImageFormat imageNamed(const QString &name)
+{
+    QTextImageFormat format;
+    format.setName(name);
+    return format;
+}
+
 } // namespace
+
+class Loader : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE QVariant loadResource(int type, const QUrl &)
+    {
+        return type == QTextDocument::ImageResource ? loaded : QVariant();
+    }
+
+    QVariant loaded;
+};
 
 class TestPictures : public QObject
 {
@@ -82,8 +193,184 @@ private Q_SLOTS:
         QTEST(png.size, "size");
         QTEST(png.memory, "memory");
     }
+
+    void refusesPictures_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QByteArray>("plugin");
+        QTest::addColumn<QString>("reason");
+        const QString tooMany = "are more than can be read";
+        const QString tooShort = "which a file of its length does not hold";
+        const auto row = [](const char *name, const QByteArray &bytes, const char *plugin,
+                            const QString &reason) {
+            QTest::newRow(name) << bytes << QByteArray(plugin) << reason;
+        };
+        const QByteArray hugePng = pngClaiming(20000, 20000, 8, 6, pngChunk("IDAT", "x"));
+        row("nothing", {}, "png", "no known picture format");
+        row("text", "once upon a time", "png", "no known picture format");
+        row("png", hugePng, "png", tooMany);
+        row("png-of-small-file", pngClaiming(9000, 9000, 8, 2, pngChunk("IDAT", "x")), "png",
+            tooShort);
+        row("png-texts",
+            pngClaiming(8, 4, 8, 2, pngChunk("zTXt", QByteArray(8000, 'x')).repeated(8)), "png",
+            "too much compressed text");
+        row("bitmap", bitmapClaiming("a0860100"), "bmp", "does not tell its size");
+        row("bitmap-of-small-file", bitmapClaiming("10270000"), "bmp", tooShort);
+        row("icon-of-png", iconHolding(hugePng), "ico", tooMany);
+        row("icon-of-bitmap", iconHolding(bitmapClaiming("204e0000").mid(14) + QByteArray(40, 0)),
+            "ico", tooMany);
+        row("apple-icon-of-png",
+            "icns" + bigEndian(16 + hugePng.size()) + "ic10" + bigEndian(8 + hugePng.size())
+                + hugePng,
+            "icns", tooMany);
+        row("bitmap-text", pictureText("30000"), "xbm", tooMany);
+        row("gif-frame", gifOfLargeFrame(), "gif", tooMany);
+        row("tiff-tile", tiffOfLargeTile(), "tiff", tooMany);
+        row("webp", "RIFF\x1e\0\0\0WEBPVP8X\x0a\0\0\0\0\0\0\0\x2f\x75\0\x2f\x75\0\0\0\0\0", "webp",
+            "");
+        row("svg", svg("width='30000' height='30000'", "<rect width='1' height='1'/>"), "svg",
+            tooMany);
+        row("svg-of-large-content", svg("", "<rect width='30000' height='30000'/>"), "svg",
+            tooMany);
+        row("svg-blanks", packedBlanks(), "svg", "more than 64 MiB of text");
+        row("svg-entities",
+            "<!DOCTYPE svg [<!ENTITY a '" + QByteArray(4000, 'x') + "'>]>"
+                + svg("width='8' height='4'", "<title>" + QByteArray("&a;").repeated(1 << 20)),
+            "svg", "more than 64 MiB of text");
+        row("svg-damaged", "<?xml version='1.0'?><svg><g></svg>", "svg", "it is damaged");
+    }
+
+    void refusesPictures()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QByteArray, plugin);
+        QFETCH(QString, reason);
+        const QTemporaryDir folder;
+        const QString path = write(folder, "pic.png", bytes);
+        const std::clock_t start = std::clock();
+        HeapMeter::start();
+
+        QString error;
+        QVERIFY(MRVPictureReader(bytes).read(&error).isNull());
+        QVERIFY2(!isReadable(plugin) || error.contains(reason), qPrintable(error));
+        QVERIFY(MRVGuiUtil::toImage(bytes).isNull());
+        for (const QString &name :
+             {path, QUrl::fromLocalFile(path).toString(),
+              QString("data:image/png;base64," + bytes.left(1 << 20).toBase64())}) {
+            const auto asks = [&](QTextDocument *document) {
+                QTextCursor(document).insertImage(imageNamed(name));
+                QVERIFY(MTextDoc::image(*document, imageNamed(name)).isNull());
+                MTextDoc::fixHtmlImageFormatsAndResourceIds(document);
+                MTextDoc::convertUniqueImageResources(document);
+                QCOMPARE(MTextDoc::imageResourceIds(*document), QSet<QString>{name});
+            };
+            QTextDocument plain;
+            asks(&plain);
+            MRVGuardedDocument guarded;
+            asks(&guarded);
+            QVERIFY(guarded.resource(QTextDocument::ImageResource, name).value<QImage>().isNull());
+        }
+        QVERIFY2(HeapMeter::peak() < 300 << 20, qPrintable(QString::number(HeapMeter::peak())));
+        // Seconds of the processor's time, for more than a dozen looks at the picture.
+        QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 15);
+    }
+
+    void refusesInExport_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("svg-blanks") << packedBlanks();
+        QTest::newRow("svg") << svg("width='30000' height='30000'", "");
+        QTest::newRow("gif-frame") << gifOfLargeFrame();
+    }
+
+    void refusesInExport()
+    {
+        QFETCH(QByteArray, bytes);
+        const QTemporaryDir folder;
+        write(folder, "pic.png", bytes);
+        const QString page = write(folder, "page.html", "<p>text <img src='pic.png'></p>");
+        const Ran ran =
+            run(MRV_TOOL, {"export", page, "--to", "xhtml", "-o", folder.filePath("out.xhtml")});
+        QCOMPARE(ran.exitCode, 1);
+        QVERIFY2(ran.errors.contains("the picture pic.png cannot be read: "),
+                 qPrintable(ran.errors));
+        QCOMPARE(ran.errors.count('\n'), 1);
+        rusage usage{};
+        getrusage(RUSAGE_CHILDREN, &usage);
+        QVERIFY2(usage.ru_maxrss < 300 << 10, qPrintable(QString::number(usage.ru_maxrss)));
+    }
+
+    // Opening a pipe that nobody writes to never ends.
+    void opensRegularFilesOnly()
+    {
+        const QTemporaryDir folder;
+        const QString pipe = folder.filePath("pipe");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        const QByteArray name = pipe.toUtf8();
+        QTextDocument plain;
+        QVERIFY(MTextDoc::image(plain, imageNamed(pipe)).isNull());
+        MRVGuardedDocument guarded;
+        guarded.setHtml("<link rel='stylesheet' href='" + name + "'><body background='" + name
+                        + "'><img src='" + name + "'>");
+        QVERIFY(MTextDoc::image(guarded, imageNamed(pipe)).isNull());
+        QCOMPARE(MRVPictureReader::ofFile(pipe).error(), "it is not a regular file");
+
+        const QByteArray drawing = "<?xml version='1.0'?><?xml-stylesheet type=\"text/css\" href=\""
+            + name + "\"?>"
+            + svg("width='8' height='4'",
+                  "<rect width='8' height='4' fill='#f00'/><image width='8' height='4' "
+                  "xlink:href='"
+                      + name + "'/>");
+        const QImage image = MRVGuiUtil::toImage(drawing);
+        QCOMPARE(image.size(), isReadable("svg") ? QSize(8, 4) : QSize(0, 0));
+        QVERIFY(image.isNull() || image.pixelColor(4, 2) == QColor(Qt::red));
+    }
+
+    void loadsPictures()
+    {
+        QImage image(8, 4, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        const QByteArray png = MRVGuiUtil::toByteArray(image, "PNG");
+        const QTemporaryDir folder;
+        const QString path = write(folder, "pic.png", png);
+        MRVGuardedDocument guarded;
+        guarded.setBaseUrl(QUrl::fromLocalFile(folder.path() + '/'));
+        QTextDocument plain;
+        plain.setBaseUrl(guarded.baseUrl());
+        plain.addResource(QTextDocument::ImageResource, plain.baseUrl().resolved(QUrl("img-1")),
+                          image);
+        const QString data = "data:image/png;base64," + png.toBase64();
+        for (const QString &name : {path, QString("pic.png"), data}) {
+            QCOMPARE(MTextDoc::image(plain, imageNamed(name)), image);
+            QCOMPARE(MTextDoc::image(guarded, imageNamed(name)), image);
+            QCOMPARE(guarded.resource(QTextDocument::ImageResource, name).value<QImage>(), image);
+        }
+        QCOMPARE(MTextDoc::image(plain, imageNamed("img-1")), image);
+        // What the document has comes before what lies in the file.
+        plain.addResource(QTextDocument::ImageResource, QUrl::fromLocalFile(path),
+                          image.scaled(2, 2));
+        QCOMPARE(MTextDoc::image(plain, imageNamed("pic.png")).size(), QSize(2, 2));
+    }
+
+    // A loader that knows pictures only, and one that gives bytes.
+    void asksLoaders()
+    {
+        QImage image(8, 4, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        Loader parent;
+        parent.loaded = MRVGuiUtil::toByteArray(image, "PNG");
+        QTextDocument plain(&parent);
+        QCOMPARE(MTextDoc::image(plain, imageNamed("img-1")), image);
+        MRVGuardedDocument guarded(&parent);
+        QCOMPARE(MTextDoc::image(guarded, imageNamed("img-1")), image);
+        parent.loaded = svg("width='30000' height='30000'", "");
+        HeapMeter::start();
+        QVERIFY(MTextDoc::image(plain, imageNamed("img-2")).isNull());
+        QVERIFY(MTextDoc::image(guarded, imageNamed("img-2")).isNull());
+        QVERIFY(HeapMeter::peak() < 300 << 20);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestPictures)
+QTEST_MAIN(TestPictures)
 
 #include "tst_pictures.moc"

@@ -2,6 +2,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvnames.h"
 
@@ -218,7 +219,7 @@ void MTextDoc::fixHtmlImageFormatsAndResourceIds(QTextDocument *document)
             // Qt may have loaded the file by itself; it does not for every path.
             key.picture = image(*document, run.format);
             if (key.picture.isNull()) {
-                key.picture = MRVGuiUtil::toImage(MRVCoreUtil::ReadBinaryFile(path));
+                key.picture = MRVPictureReader::ofFile(path).read();
             }
             key.id = MRVGuiUtil::resourceId(key.picture);
             key.name = QFileInfo(path).baseName();

@@ -2,6 +2,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"
+#include "input/mrvguardeddocument.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -65,8 +66,7 @@ QString MRVTextFormat::imageResourceId(const QImage &image)
 
 QImage MRVTextFormat::image(const QTextDocument &document, const QTextImageFormat &format)
 {
-    const QUrl url(imageResourceId(format));
-    return MRVGuiUtil::toImage(document.resource(QTextDocument::ImageResource, url), nullptr);
+    return MRVGuardedDocument::picture(document, QUrl(imageResourceId(format)));
 }
 
 bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageFormat &format,

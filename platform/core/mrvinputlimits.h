@@ -37,6 +37,18 @@ struct MRVInputLimits
     static constexpr qint64 FormatPictureMemoryPerByte = 32;
     /** Deflate makes at most this many bytes of one; a picture that claims more is damaged. */
     static constexpr qint64 Inflation = 1032;
+    /** A file with the pixels of the largest picture uncompressed. */
+    static constexpr qint64 PictureFileBytes = qint64(1) << 29;
+    /** What a picture takes when it is decoded: 134 megapixels of 4 bytes. */
+    static constexpr qint64 PictureBytes = qint64(1) << 29;
+    /** A picture of up to this many pixels is decoded whatever its file's length. */
+    static constexpr qint64 PicturePixels = qint64(1) << 25;
+    /** Beyond that a byte holds at most this many: one-bit pixels of one colour, deflated. */
+    static constexpr qint64 PixelsPerByte = 8 * Inflation;
+    /** The compressed texts of a picture, inflated: libpng and Qt take five times as much. */
+    static constexpr qint64 PictureTextBytes = qint64(1) << 25;
+    /** The text of an SVG, unpacked and with its entities replaced. */
+    static constexpr qint64 SvgBytes = qint64(1) << 26;
 
     // XML and HTML.
     /** Elements in each other, the document element counted: Qt parses them by recursion. */

@@ -1,9 +1,10 @@
 #include "gui/mrvguiutil.h"
 
+#include "gui/mrvpicturereader.h"
+
 #include <QBuffer>
 #include <QColorSpace>
 #include <QCryptographicHash>
-#include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QPixmap>
@@ -13,23 +14,7 @@
 
 namespace {
 
-// A picture of up to this many pixels is decoded whatever its file's length (128 MiB of memory).
-constexpr qint64 AlwaysDecodedPixels = qint64(1) << 25;
-// Beyond that, the file must have a byte for so many pixels: one-bit pixels of one colour, at the
-// best ratio that deflate reaches (1032 to 1).
-constexpr qint64 PixelsPerByte = 8 * 1032;
-// And no picture is larger than this (1 GiB of memory).
-constexpr qint64 MaxPixels = qint64(1) << 28;
-
 constexpr int MaxIconSide = 256;
-
-bool isPlausible(const QSize &size, qint64 byteCount)
-{
-    // A bitmap that is stored upside down has a negative height.
-    const qint64 pixels = qAbs(qint64(size.width()) * size.height());
-    return pixels <= AlwaysDecodedPixels
-        || (pixels <= MaxPixels && pixels / PixelsPerByte <= byteCount);
-}
 
 bool hasTransparency(const QByteArray &format)
 {
@@ -62,61 +47,6 @@ QImage onWhite(const QImage &image)
     QPainter painter(&flat);
     painter.drawImage(flat.rect(), image);
     return flat;
-}
-
-// The sizes that the pictures of an icon file claim by themselves: QImageReader::size() tells what
-// its directory says, which the decoder does not go by.
-QVector<QSize> iconSizes(const QByteArray &bytes)
-{
-    constexpr qint64 DirectoryStart = 6;
-    constexpr qint64 EntryBytes = 16;
-    constexpr qint64 HeaderBytes = 24; // of a PNG as far as its height; a bitmap's need fewer
-    const auto *data = reinterpret_cast<const uchar *>(bytes.constData());
-    QVector<QSize> sizes;
-    if (bytes.size() < DirectoryStart) {
-        return sizes;
-    }
-    const int count = qFromLittleEndian<quint16>(data + 4);
-    for (int i = 0; i < count && DirectoryStart + (i + 1) * EntryBytes <= bytes.size(); ++i) {
-        const qint64 start =
-            qFromLittleEndian<quint32>(data + DirectoryStart + i * EntryBytes + 12);
-        if (start + HeaderBytes > bytes.size()) {
-            continue;
-        }
-        const uchar *header = data + start;
-        if (bytes.mid(int(start), 4) == "\x89PNG") {
-            sizes << QSize(qFromBigEndian<qint32>(header + 16),
-                           qFromBigEndian<qint32>(header + 20));
-        } else {
-            // Twice the height, for the mask below the picture.
-            sizes << QSize(qFromLittleEndian<qint32>(header + 4),
-                           qFromLittleEndian<qint32>(header + 8) / 2);
-        }
-    }
-    return sizes;
-}
-
-// The size that an XBM text claims in its first two definitions; invalid where the bytes are no
-// such text. Qt's reader decodes the whole picture merely to find out whether it is one.
-QSize bitmapTextSize(const QByteArray &bytes)
-{
-    const int at = bytes.startsWith("#define") ? 0 : bytes.indexOf("\n#define") + 1;
-    if ((at == 0 && !bytes.startsWith('#')) || bytes.left(at).contains('\0')) {
-        return QSize();
-    }
-    int numbers[2] = {-1, -1};
-    int lineStart = at;
-    for (int &number : numbers) {
-        const int lineEnd = bytes.indexOf('\n', lineStart);
-        if (lineEnd < 0) {
-            return QSize();
-        }
-        const QList<QByteArray> words =
-            bytes.mid(lineStart, lineEnd - lineStart).simplified().split(' ');
-        number = words.value(2).toInt();
-        lineStart = lineEnd + 1;
-    }
-    return QSize(numbers[0], numbers[1]);
 }
 
 // The layout of a pixmap, through which Qt passes pictures on, in an order of bytes that does not
@@ -153,28 +83,7 @@ QString MRVGuiUtil::resourceId(const QImage &image)
 
 QImage MRVGuiUtil::toImage(const QByteArray &bytes, const char *format)
 {
-    if (!isPlausible(bitmapTextSize(bytes), bytes.size())) {
-        return QImage();
-    }
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    // The hint is for formats without a signature only: with a wrong one the reader would not look
-    // at the contents.
-    const QByteArray known = QImageReader::imageFormat(&buffer);
-    QImageReader reader(&buffer, known.isEmpty() ? format : nullptr);
-    reader.setAutoTransform(true);
-    if (!reader.canRead() || !isPlausible(reader.size(), bytes.size())) {
-        return QImage();
-    }
-    if (isIcon(known.isEmpty() ? QByteArray(format) : known)) {
-        for (const QSize &size : iconSizes(bytes)) {
-            if (!isPlausible(size, bytes.size())) {
-                return QImage();
-            }
-        }
-    }
-    return reader.read();
+    return MRVPictureReader(bytes, format).read();
 }
 
 QImage MRVGuiUtil::toImage(const QVariant &variant, const char *format)

@@ -60,7 +60,9 @@ QStringList filters(const QStringList &formats)
 
 QStringList MRVGuiUtil::readImageFormats()
 {
-    return formatNames(QImageReader::supportedImageFormats());
+    QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    formats.removeAll("mng"); // MRVPictureReader refuses it
+    return formatNames(formats);
 }
 
 QStringList MRVGuiUtil::writeImageFormats()

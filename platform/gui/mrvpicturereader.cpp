@@ -1,66 +1,175 @@
 #include "gui/mrvpicturereader.h"
 
+#include "core/mrvcoreutil.h"
 #include "core/mrvinputlimits.h"
-#include "gui/mrvpicturebytes_p.h"
+#include "gui/mrvpictureclaims_p.h"
+#include "gui/mrvsvgtext_p.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImageReader>
 
 namespace {
 
-// Of a PNG's parts, in bytes.
-constexpr qint64 PngSignature = 8;
-constexpr qint64 PngChunkHead = 8; // length and type; a checksum follows the data
-constexpr qint64 PngHeader = 13;
-
-// libpng reads no longer sides, and with them no product here overflows.
-constexpr qint64 MaxPngSide = 1000000;
-
-// What libpng inflates of one chunk at most before it gives the chunk up.
-constexpr qint64 MaxPngText = 8000000;
-
-// The bits that a stored pixel takes, by the header chunk's data (ISO/IEC 15948, section 11.2.2);
-// 0 for what no picture has.
-qint64 pngPixelBits(const MRVPictureBytes &bytes, qint64 header)
+bool isSvg(const QByteArray &format)
 {
-    constexpr int channelsOfTypes[] = {1, 0, 3, 1, 2, 0, 4};
-    const int depth = bytes.byte(header + 8);
-    const int type = bytes.byte(header + 9);
-    return type <= 6 && depth <= 16 ? depth * channelsOfTypes[type] : 0;
+    return format.startsWith("svg");
+}
+
+qint64 pixelsOf(const QSize &size)
+{
+    // A bitmap that is stored upside down has a negative height.
+    return qAbs(qint64(size.width()) * size.height());
+}
+
+bool isPlausible(const QSize &claim, qint64 byteCount)
+{
+    const qint64 pixels = pixelsOf(claim);
+    return pixels <= MRVInputLimits::PicturePixels
+        || pixels / MRVInputLimits::PixelsPerByte <= byteCount;
+}
+
+// What a picture within an SVG takes; -1 where it must not be decoded.
+qint64 memoryWithinSvg(const QByteArray &bytes)
+{
+    const QByteArray format = MRVPictureReader::formatOf(bytes);
+    if (format.isEmpty() || isSvg(format)) {
+        return -1;
+    }
+    const MRVPictureReader picture(bytes);
+    return picture.isReadable() ? picture.memory() : -1;
 }
 
 } // namespace
 
+MRVPictureReader::MRVPictureReader(const QByteArray &bytes, const char *format)
+    : m_bytes(bytes)
+    , m_format(formatOf(bytes))
+{
+    if (m_format.isEmpty() && format) {
+        m_format = QByteArray(format).toLower();
+    }
+    m_error = refusal();
+}
+
+MRVPictureReader MRVPictureReader::ofFile(const QString &path)
+{
+    const QFileInfo file(path);
+    MRVPictureReader refused;
+    if (!file.exists()) {
+        refused.m_error = tr("it does not exist");
+    } else if (!file.isFile()) {
+        refused.m_error = tr("it is not a regular file"); // a pipe or a device would never end
+    } else if (file.size() > MRVInputLimits::PictureFileBytes) {
+        refused.m_error = tr("it is too large");
+    } else {
+        QString error;
+        const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
+        if (error.isEmpty()) {
+            return MRVPictureReader(bytes, file.suffix().toLatin1().constData());
+        }
+        refused.m_error = tr("it cannot be opened");
+    }
+    return refused;
+}
+
+QByteArray MRVPictureReader::formatOf(const QByteArray &bytes)
+{
+    constexpr char BitmapText[] = "xbm";
+    for (const QSize &claim : mrvPictureClaims(bytes, BitmapText).sizes) {
+        if (!isPlausible(claim, bytes.size())) {
+            return BitmapText;
+        }
+    }
+    QBuffer file;
+    file.setData(bytes);
+    file.open(QIODevice::ReadOnly);
+    return QImageReader::imageFormat(&file);
+}
+
+// Why one claim of the picture is refused; empty where it is not.
+QString MRVPictureReader::refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes)
+{
+    const qint64 memory = pixelsOf(claim) * pixelBytes;
+    m_memory = qMax(m_memory, memory);
+    if (memory > MRVInputLimits::PictureBytes) {
+        return tr("its %1 by %2 pixels are more than can be read")
+            .arg(claim.width())
+            .arg(claim.height());
+    }
+    return isPlausible(claim, byteCount)
+        ? QString()
+        : tr("it claims %1 by %2 pixels, which a file of its length does not hold")
+              .arg(claim.width())
+              .arg(claim.height());
+}
+
+// Why the picture is refused. Each look at it is safe only when those before it found nothing.
+QString MRVPictureReader::refusal()
+{
+    const QString unknown = tr("it is in no known picture format");
+    if (m_format.isEmpty() || m_format == "mng") {
+        return unknown;
+    }
+    const qint64 byteCount = m_bytes.size();
+    if (isSvg(m_format)) {
+        QString reason = tr("it is damaged");
+        m_bytes = mrvGuardedSvg(m_bytes, memoryWithinSvg, &reason);
+        if (m_bytes.isEmpty()) {
+            return reason;
+        }
+    }
+    const MRVPictureClaims claims = mrvPictureClaims(m_bytes, m_format);
+    for (const QSize &claim : claims.sizes) {
+        const QString reason = refusalOf(claim, byteCount);
+        if (!reason.isEmpty()) {
+            return reason;
+        }
+    }
+    if (!claims.isComplete) {
+        return tr("it is in a form that cannot be checked");
+    }
+    if (claims.texts > MRVInputLimits::PictureTextBytes) {
+        return tr("it holds too much compressed text");
+    }
+
+    QBuffer file(&m_bytes);
+    file.open(QIODevice::ReadOnly);
+    QImageReader reader(&file, m_format);
+    reader.setAutoDetectImageFormat(false);
+    if (!reader.canRead()) {
+        return unknown;
+    }
+    m_size = reader.size();
+    if (m_size.isEmpty() && claims.sizes.isEmpty()) {
+        return tr("it does not tell its size");
+    }
+    const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    const QString reason = refusalOf(m_size, byteCount, qMax(4, bits / 8));
+    m_memory += claims.texts;
+    m_orientation = reader.transformation();
+    return reason;
+}
+
+QImage MRVPictureReader::read(QString *error) const
+{
+    QImage image;
+    if (isReadable()) {
+        QBuffer file;
+        file.setData(m_bytes);
+        file.open(QIODevice::ReadOnly);
+        QImageReader reader(&file, m_format);
+        reader.setAutoDetectImageFormat(false);
+        reader.setAutoTransform(true);
+        image = reader.read();
+    }
+    if (image.isNull() && error) {
+        *error = isReadable() ? tr("it is damaged") : m_error;
+    }
+    return image;
+}
+
 MRVPictureReader::Png MRVPictureReader::png(const QByteArray &bytes)
 {
-    const MRVPictureBytes file(bytes);
-    const qint64 header = PngSignature + PngChunkHead;
-    const qint64 width = file.big<qint32>(header);
-    const qint64 height = file.big<qint32>(header + 4);
-    const qint64 pixelBits = pngPixelBits(file, header);
-    if (!file.matches(0, "\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR") || width <= 0 || width > MaxPngSide
-        || height <= 0 || height > MaxPngSide || pixelBits == 0) {
-        return Png();
-    }
-    Png png;
-    png.size = QSize(int(width), int(height));
-    png.memory = width * height * (file.byte(header + 8) == 16 ? 8 : 4);
-
-    qint64 compressed = 0;
-    for (qint64 at = header + PngHeader + 4; file.holds(at, PngChunkHead + 4);) {
-        const qint64 length = file.big<quint32>(at);
-        const qint64 type = at + 4;
-        at += PngChunkHead + length + 4;
-        if (at > file.size() || file.matches(type, "IHDR")) {
-            break;
-        }
-        if (file.matches(type, "IDAT")) {
-            compressed += length;
-        } else if (file.matches(type, "iCCP") || file.matches(type, "zTXt")
-                   || file.matches(type, "iTXt")) {
-            png.memory += qMin(length * MRVInputLimits::Inflation, MaxPngText);
-        } else if (file.matches(type, "IEND")) {
-            const qint64 stored = ((width * pixelBits + 7) / 8 + 1) * height;
-            png.length = stored / MRVInputLimits::Inflation <= compressed ? at : -1;
-            break;
-        }
-    }
-    return png;
+    return MRVPng::walk(bytes);
 }

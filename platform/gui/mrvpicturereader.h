@@ -1,37 +1,98 @@
 #pragma once
 
 #include "gui/mrvgui_export.h"
+#include "gui/mrvpng.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
+#include <QImage>
+#include <QImageIOHandler>
 #include <QSize>
+#include <QString>
 
 /**
- * Tells what a picture would take before anything of it is decoded.
+ * Decodes pictures that anybody may have made: all that is decoded passes through here.
+ *
+ * What a picture takes is known before anything of it is decoded. One is refused that claims more
+ * than MRVInputLimits has for it, in its header, in any frame or in anything that it holds, and so
+ * is a small file that claims more pixels than its bytes can hold. An SVG is unpacked and looked
+ * through first, and shows nothing of what it names outside of itself.
+ *
+ * Of formats that plug-ins of others read, only what QImageReader::size() tells is known; without a
+ * size they are refused. MNG is refused altogether: it makes its pictures by instructions.
  *
  * @since 1.0
  */
 class MRVGUI_EXPORT MRVPictureReader
 {
-public:
-    MRVPictureReader() = delete;
+    Q_DECLARE_TR_FUNCTIONS(MRVPictureReader)
 
-    /** What the chunks of a PNG file tell about it. */
-    struct Png
-    {
-        qint64 length = -1; ///< of the file in bytes; -1 where it is damaged or not whole
-        QSize size;
-        /**
-         * What decoding takes at most, in bytes: 4 a pixel, 8 where a channel has 16 bits, and what
-         * compressed texts and the colour profile may inflate to.
-         */
-        qint64 memory = 0;
-    };
+public:
+    using Png = MRVPng;
+
+    /**
+     * Looks at the picture in @p bytes; nothing is decoded.
+     *
+     * @param format a hint such as "PNG", in any case, for formats that have no signature; null
+     *               for none. The contents decide.
+     */
+    explicit MRVPictureReader(const QByteArray &bytes, const char *format = nullptr);
+
+    /**
+     * Looks at the picture in the file or Qt resource (":/...") at @p path. Only a regular file is
+     * opened, and only one of at most MRVInputLimits::PictureFileBytes.
+     */
+    static MRVPictureReader ofFile(const QString &path);
+
+    /** The format as QImageReader::imageFormat() names it ("jpeg"); empty where it is unknown. */
+    QByteArray format() const { return m_format; }
+    /** In pixels, before the picture is turned upright; invalid where it is not known. */
+    QSize size() const { return m_size; }
+    /** How the picture must be turned to be upright; read() does so. */
+    QImageIOHandler::Transformations orientation() const { return m_orientation; }
+    /** What decoding takes at most, in bytes: its largest frame, and compressed texts. */
+    qint64 memory() const { return m_memory; }
+
+    /** Whether the picture may be decoded; it may still turn out to be damaged. */
+    bool isReadable() const { return m_error.isEmpty(); }
+    /**
+     * Why the picture is refused, as a translated end of a sentence ("it is too large"); empty
+     * where it is not.
+     */
+    QString error() const { return m_error; }
+
+    /**
+     * Decodes the first frame, turned upright.
+     *
+     * @param error if given, receives error(), or that the picture is damaged; untouched on
+     *              success.
+     * @return a null image on failure.
+     */
+    QImage read(QString *error = nullptr) const;
+
+    /**
+     * The format of the picture in @p bytes, by its signature; see format(). Nothing is decoded,
+     * which Qt does to recognise an XBM.
+     */
+    static QByteArray formatOf(const QByteArray &bytes);
 
     /**
      * Walks over the PNG file that lies at the start of @p bytes, as Qt stores a QImage in a
      * stream; more may follow it. Only the heads of the chunks are read, so that a view
      * (QByteArray::fromRawData()) will do. A picture that claims more pixels than its compressed
-     * bytes can hold counts as damaged; that its checksums are right is not looked at.
+     * bytes can hold counts as damaged; its checksums are not looked at.
      */
     static Png png(const QByteArray &bytes);
+
+private:
+    MRVPictureReader() = default;
+    QString refusal();
+    QString refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes = 4);
+
+    QByteArray m_bytes; // of an SVG, what may be given to Qt
+    QByteArray m_format;
+    QSize m_size;
+    QImageIOHandler::Transformations m_orientation = QImageIOHandler::TransformationNone;
+    qint64 m_memory = 0;
+    QString m_error;
 };

@@ -635,6 +635,57 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPictureReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>sie existiert nicht</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>sie kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>its %1 by %2 pixels are more than can be read</source>
+        <translation>ihre %1 mal %2 Pixel sind mehr, als gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>it claims %1 by %2 pixels, which a file of its length does not hold</source>
+        <translation>sie gibt %1 mal %2 Pixel an, die eine Datei ihrer Länge nicht enthält</translation>
+    </message>
+    <message>
+        <source>it is in no known picture format</source>
+        <translation>sie hat kein bekanntes Bildformat</translation>
+    </message>
+    <message>
+        <source>it is in a form that cannot be checked</source>
+        <translation>sie hat eine Form, die nicht geprüft werden kann</translation>
+    </message>
+    <message>
+        <source>it holds too much compressed text</source>
+        <translation>sie enthält zu viel komprimierten Text</translation>
+    </message>
+    <message>
+        <source>it does not tell its size</source>
+        <translation>sie gibt ihre Größe nicht an</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 MiB of text</source>
+        <translation>sie enthält mehr als %1 MiB Text</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptMode</name>
     <message>
         <source>it is a folder</source>

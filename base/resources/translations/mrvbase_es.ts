@@ -635,6 +635,57 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPictureReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>no existe</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>no se puede abrir</translation>
+    </message>
+    <message>
+        <source>its %1 by %2 pixels are more than can be read</source>
+        <translation>sus %1 por %2 píxeles son más de lo que se puede leer</translation>
+    </message>
+    <message>
+        <source>it claims %1 by %2 pixels, which a file of its length does not hold</source>
+        <translation>declara %1 por %2 píxeles, que un archivo de su longitud no contiene</translation>
+    </message>
+    <message>
+        <source>it is in no known picture format</source>
+        <translation>no tiene un formato de imagen conocido</translation>
+    </message>
+    <message>
+        <source>it is in a form that cannot be checked</source>
+        <translation>tiene una forma que no se puede comprobar</translation>
+    </message>
+    <message>
+        <source>it holds too much compressed text</source>
+        <translation>contiene demasiado texto comprimido</translation>
+    </message>
+    <message>
+        <source>it does not tell its size</source>
+        <translation>no indica su tamaño</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>está dañado</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 MiB of text</source>
+        <translation>contiene más de %1 MiB de texto</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptMode</name>
     <message>
         <source>it is a folder</source>

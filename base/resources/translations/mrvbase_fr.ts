@@ -635,6 +635,57 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPictureReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>il n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>il ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>its %1 by %2 pixels are more than can be read</source>
+        <translation>ses %1 sur %2 pixels dépassent ce qui peut être lu</translation>
+    </message>
+    <message>
+        <source>it claims %1 by %2 pixels, which a file of its length does not hold</source>
+        <translation>il annonce %1 sur %2 pixels, qu&apos;un fichier de sa longueur ne contient pas</translation>
+    </message>
+    <message>
+        <source>it is in no known picture format</source>
+        <translation>ce n&apos;est pas un format d&apos;image connu</translation>
+    </message>
+    <message>
+        <source>it is in a form that cannot be checked</source>
+        <translation>sa forme ne peut pas être vérifiée</translation>
+    </message>
+    <message>
+        <source>it holds too much compressed text</source>
+        <translation>il contient trop de texte compressé</translation>
+    </message>
+    <message>
+        <source>it does not tell its size</source>
+        <translation>il n&apos;indique pas sa taille</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 MiB of text</source>
+        <translation>il contient plus de %1 Mio de texte</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptMode</name>
     <message>
         <source>it is a folder</source>
