@@ -46,7 +46,8 @@ public:
      * Decodes an XML document as its byte-order mark or its declaration says, else as UTF-8. An
      * encoding that is not known counts as UTF-8.
      *
-     * @param text receives the text; untouched on failure.
+     * @param bytes of a whole document.
+     * @param text  receives the text; untouched on failure.
      * @return false, with the place of the first fault, when bytes are not of that encoding.
      */
     static bool decode(const QByteArray &bytes, QString *text, MRVTextFault *fault);
@@ -59,17 +60,20 @@ public:
     static QString normalized(const QString &xml);
 
     /**
-     * Whether a text keeps to @p limits, and has no two attributes of one name in an element, of
+     * Whether the text @p xml keeps to @p limits, and has no two attributes of one name in an element, of
      * which QDomDocument would keep one.
      *
      * @param fault receives the first fault; untouched on success.
      */
     static bool keepsLimits(const QString &xml, const MRVXmlLimits &limits, MRVTextFault *fault);
 
-    /** decode() and keepsLimits(), for a stream reader. @p error may be null: "line 3: reason". */
+    /**
+     * decode() of @p bytes into @p text and keepsLimits(), for a stream reader. @p error may be
+     * null: "line 3: reason".
+     */
     static bool read(const QByteArray &bytes, const MRVXmlLimits &limits, QString *text,
                      QString *error);
 
-    /** Whether a stream reader has met no error; else @p error, if given, receives it. */
+    /** Whether the stream reader @p xml has met no error; else @p error, if given, receives it. */
     static bool isRead(const QXmlStreamReader &xml, QString *error);
 };
