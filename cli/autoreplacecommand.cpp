@@ -1,7 +1,7 @@
 #include "inputs.h"
 #include "settingsfile.h"
-#include "typing.h"
 
+#include "autoreplace/mrvtyping.h"
 #include "options/mrvoptions.h"
 
 #include <QJsonObject>
@@ -38,13 +38,14 @@ void printEntry(const Call &call, const MRVAutoReplace &entry)
 
 bool printReplacements(const Call &call, const MRVAutoReplaceList &list, const DocumentInput &input)
 {
-    const LookUp lookUp = call.has("word-ends") ? LookUp::AtWordEnds : LookUp::AfterEachCharacter;
+    const MRVTypingLookUp lookUp =
+        call.has("word-ends") ? MRVTypingLookUp::AtWordEnds : MRVTypingLookUp::AfterEachCharacter;
     bool any = false;
     for (QTextBlock block = input.document->begin(); block.isValid(); block = block.next()) {
         const QString line = block.text();
         const int number = block.blockNumber() + 1;
-        const QVector<TypedReplacement> replacements = typeLine(line, list, lookUp);
-        for (const TypedReplacement &made : replacements) {
+        const QVector<MRVTypedReplacement> replacements = mrvTypeLine(line, list, lookUp);
+        for (const MRVTypedReplacement &made : replacements) {
             any = true;
             if (call.json()) {
                 QJsonObject object = toJson(made.entry);

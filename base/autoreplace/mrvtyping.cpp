@@ -1,4 +1,4 @@
-#include "typing.h"
+#include "autoreplace/mrvtyping.h"
 
 namespace {
 
@@ -47,20 +47,21 @@ private:
     int m_longest = 0;
 };
 
-bool isLookedUp(const QString &line, int end, LookUp lookUp)
+bool isLookedUp(const QString &line, int end, MRVTypingLookUp lookUp)
 {
     if (end < line.size() && line.at(end - 1).isHighSurrogate() && line.at(end).isLowSurrogate()) {
         return false;
     }
-    return lookUp == LookUp::AfterEachCharacter || end == line.size() || line.at(end).isSpace();
+    return lookUp == MRVTypingLookUp::AfterEachCharacter || end == line.size()
+        || line.at(end).isSpace();
 }
 
 } // namespace
 
-QVector<TypedReplacement> typeLine(const QString &line, const MRVAutoReplaceList &list,
-                                   LookUp lookUp)
+QVector<MRVTypedReplacement> mrvTypeLine(const QString &line, const MRVAutoReplaceList &list,
+                                         MRVTypingLookUp lookUp)
 {
-    QVector<TypedReplacement> replacements;
+    QVector<MRVTypedReplacement> replacements;
     BeforeCaret before(list);
     for (int i = 0; i < line.size(); ++i) {
         before.type(line.at(i), i);
