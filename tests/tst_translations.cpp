@@ -11,6 +11,7 @@
 #include "fileformats/mrvenginechoice.h"
 #include "fileformats/mrvimportexport.h"
 #include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 #include "input/mrvxmlreader.h"
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetscheme.h"
@@ -125,6 +126,7 @@ const QMap<QString, Translate> &functions()
         {"MRVFountainHtml", &MRVFountainHtml::tr},
         {"MRVGuiUtil", &MRVGuiUtil::tr},
         {"MRVOptions", &MRVOptions::tr},
+        {"MRVPictureReader", &MRVPictureReader::tr},
         {"MRVScriptMode", &MRVScriptMode::tr},
         {"MRVSettings", &MRVSettings::tr},
         {"MRVShortcut", &MRVShortcut::tr},

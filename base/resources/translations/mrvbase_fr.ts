@@ -638,11 +638,11 @@ Erreur&#xa0;: %2</translation>
     <name>MRVPictureReader</name>
     <message>
         <source>it does not exist</source>
-        <translation>il n&apos;existe pas</translation>
+        <translation>il n’existe pas</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation>ce n&apos;est pas un fichier ordinaire</translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>it is too large</source>
@@ -658,11 +658,11 @@ Erreur&#xa0;: %2</translation>
     </message>
     <message>
         <source>it claims %1 by %2 pixels, which a file of its length does not hold</source>
-        <translation>il annonce %1 sur %2 pixels, qu&apos;un fichier de sa longueur ne contient pas</translation>
+        <translation>il annonce %1 sur %2 pixels, qu’un fichier de sa longueur ne contient pas</translation>
     </message>
     <message>
         <source>it is in no known picture format</source>
-        <translation>ce n&apos;est pas un format d&apos;image connu</translation>
+        <translation>ce n’est pas un format d’image connu</translation>
     </message>
     <message>
         <source>it is in a form that cannot be checked</source>
@@ -674,7 +674,7 @@ Erreur&#xa0;: %2</translation>
     </message>
     <message>
         <source>it does not tell its size</source>
-        <translation>il n&apos;indique pas sa taille</translation>
+        <translation>il n’indique pas sa taille</translation>
     </message>
     <message>
         <source>it is damaged</source>
