@@ -60,6 +60,7 @@ constexpr Module modules[] = {
     {"base/screenplay",  6, "Core Gui"},
 
     {"base/engines",     7, "Core"},
+    {"base/manuscript",  7, "Core Gui"},
     {"base/state",       7, "Core Gui"},
     {"base/update",      7, "Core Gui Network Widgets Xml"},
     {"base/xhtml",       7, "Core Gui"},

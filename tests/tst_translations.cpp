@@ -13,8 +13,13 @@
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 #include "input/mrvxmlreader.h"
+#include "manuscript/mrvmanuscriptreader.h"
+#include "manuscript/mrvsourceedit.h"
+#include "manuscript/mrvsourcefile.h"
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetscheme.h"
+#include "publish/mrvoutputfiles.h"
+#include "publish/mrvpagepublisher.h"
 #include "publish/mrvstagedfiles.h"
 #include "screenplay/mrvfinaldraft.h"
 #include "screenplay/mrvfountainhtml.h"
@@ -30,6 +35,7 @@
 #include "update/mrvupdatemanager.h"
 #include "update/mrvupdatemodel.h"
 #include "util/mrvenums.h"
+#include "util/mrvfixeddate.h"
 #include "util/mrvunit.h"
 #include "version/mversion.h"
 
@@ -119,19 +125,26 @@ const QMap<QString, Translate> &functions()
         {"MRVDomDoc", &MRVDomDoc::tr},
         {"MRVDownloadUrl", &MRVDownloadUrl::tr},
         {"MRVEPubBook", &MRVEPubBook::tr},
+        {"MRVEPubMetadata", &MRVEPubMetadata::tr},
         {"MRVEPubPackage", &MRVEPubPackage::tr},
         {"MRVEngineChoice", &MRVEngineChoice::tr},
         {"MRVFileWriter", &MRVFileWriter::tr},
         {"MRVFinalDraft", &MRVFinalDraft::tr},
+        {"MRVFixedDate", &MRVFixedDate::tr},
         {"MRVFountainHtml", &MRVFountainHtml::tr},
         {"MRVGuiUtil", &MRVGuiUtil::tr},
+        {"MRVManuscriptReader", &MRVManuscriptReader::tr},
         {"MRVOptions", &MRVOptions::tr},
         {"MRVPictureReader", &MRVPictureReader::tr},
+        {"MRVOutputFiles", &MRVOutputFiles::tr},
+        {"MRVPagePublisher", &MRVPagePublisher::tr},
         {"MRVScriptMode", &MRVScriptMode::tr},
         {"MRVSettings", &MRVSettings::tr},
         {"MRVShortcut", &MRVShortcut::tr},
         {"MRVShortcutCheck", &MRVShortcutCheck::tr},
         {"MRVShortcutScheme", &MRVShortcutScheme::tr},
+        {"MRVSourceEdit", &MRVSourceEdit::tr},
+        {"MRVSourceFile", &MRVSourceFile::tr},
         {"MRVStagedFiles", &MRVStagedFiles::tr},
         {"MRVTextFault", &MRVTextFault::tr},
         {"MRVTextFormat", &MRVTextFormat::tr},

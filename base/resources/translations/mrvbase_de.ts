@@ -270,6 +270,13 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVEPubMetadata</name>
+    <message>
+        <source>the cover picture cannot be read</source>
+        <translation>das Titelbild kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
     <name>MRVEPubPackage</name>
     <message>
         <source>The e-book cannot be packed: %1</source>
@@ -342,6 +349,13 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFixedDate</name>
+    <message>
+        <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
+        <translation>SOURCE_DATE_EPOCH ist keine Anzahl von Sekunden seit 1970, die in den Jahren 1 bis 9999 liegt</translation>
+    </message>
+</context>
+<context>
     <name>MRVFountainHtml</name>
     <message>
         <source>the page holds no paragraph of a script</source>
@@ -353,6 +367,29 @@ Fehler: %2</translation>
     <message>
         <source>All Images</source>
         <translation>Alle Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscriptReader</name>
+    <message>
+        <source>unknown type of file</source>
+        <translation>unbekannter Dateityp</translation>
+    </message>
+    <message>
+        <source>unknown encoding &apos;%1&apos;</source>
+        <translation>unbekannte Kodierung „%1“</translation>
+    </message>
+    <message>
+        <source>not readable as %1</source>
+        <translation>nicht als %1 lesbar</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>die Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read</source>
+        <translation>das Bild %1 kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -632,6 +669,32 @@ Fehler: %2</translation>
     <message>
         <source>%1 cannot be written</source>
         <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>MRVOutputFiles</name>
+    <message>
+        <source>two inputs would be written to this file</source>
+        <translation>zwei Eingaben würden in diese Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>the output would replace an input</source>
+        <translation>die Ausgabe würde eine Eingabe ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVPagePublisher</name>
+    <message>
+        <source>there is no document to be written</source>
+        <translation>es gibt kein Dokument, das geschrieben werden kann</translation>
+    </message>
+    <message>
+        <source>the style sheet belongs to %1; choose another folder, or export these pages together</source>
+        <translation>das Stylesheet gehört zu %1; wählen Sie einen anderen Ordner oder exportieren Sie diese Seiten zusammen</translation>
+    </message>
+    <message>
+        <source>this style sheet was not written for these pages; choose another folder</source>
+        <translation>dieses Stylesheet wurde nicht für diese Seiten geschrieben; wählen Sie einen anderen Ordner</translation>
     </message>
 </context>
 <context>
@@ -2245,6 +2308,40 @@ Fehler: %2</translation>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnte gelesen werden</numerusform>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnten gelesen werden</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceEdit</name>
+    <message>
+        <source>the changes overlap or belong to another text</source>
+        <translation>die Änderungen überschneiden sich oder gehören zu einem anderen Text</translation>
+    </message>
+    <message>
+        <source>the change in paragraph %1 does not fit into the markup there</source>
+        <translation>die Änderung in Absatz %1 passt nicht in das Markup an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>der neue Text würde anders zurückgelesen, als er ist</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>die Kodierung %1 hat nicht alle Zeichen des neuen Textes</translation>
+    </message>
+    <message>
+        <source>the encoding %1 cannot be written back as it was</source>
+        <translation>die Kodierung %1 lässt sich nicht so zurückschreiben, wie sie war</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceFile</name>
+    <message>
+        <source>the file has been changed meanwhile</source>
+        <translation>die Datei wurde inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>the backup cannot be made</source>
+        <translation>die Sicherungskopie kann nicht angelegt werden</translation>
     </message>
 </context>
 <context>

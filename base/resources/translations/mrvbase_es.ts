@@ -270,6 +270,13 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVEPubMetadata</name>
+    <message>
+        <source>the cover picture cannot be read</source>
+        <translation>no se puede leer la imagen de portada</translation>
+    </message>
+</context>
+<context>
     <name>MRVEPubPackage</name>
     <message>
         <source>The e-book cannot be packed: %1</source>
@@ -342,6 +349,13 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFixedDate</name>
+    <message>
+        <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
+        <translation>SOURCE_DATE_EPOCH no es un número de segundos desde 1970 comprendido en los años 1 a 9999</translation>
+    </message>
+</context>
+<context>
     <name>MRVFountainHtml</name>
     <message>
         <source>the page holds no paragraph of a script</source>
@@ -353,6 +367,29 @@ Error: %2</translation>
     <message>
         <source>All Images</source>
         <translation>Todas las imágenes</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscriptReader</name>
+    <message>
+        <source>unknown type of file</source>
+        <translation>tipo de archivo desconocido</translation>
+    </message>
+    <message>
+        <source>unknown encoding &apos;%1&apos;</source>
+        <translation>codificación desconocida «%1»</translation>
+    </message>
+    <message>
+        <source>not readable as %1</source>
+        <translation>no se puede leer como %1</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>los elementos están anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read</source>
+        <translation>no se puede leer la imagen %1</translation>
     </message>
 </context>
 <context>
@@ -632,6 +669,32 @@ Error: %2</translation>
     <message>
         <source>%1 cannot be written</source>
         <translation>no se puede escribir %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVOutputFiles</name>
+    <message>
+        <source>two inputs would be written to this file</source>
+        <translation>dos entradas se escribirían en este archivo</translation>
+    </message>
+    <message>
+        <source>the output would replace an input</source>
+        <translation>la salida reemplazaría una entrada</translation>
+    </message>
+</context>
+<context>
+    <name>MRVPagePublisher</name>
+    <message>
+        <source>there is no document to be written</source>
+        <translation>no hay ningún documento que escribir</translation>
+    </message>
+    <message>
+        <source>the style sheet belongs to %1; choose another folder, or export these pages together</source>
+        <translation>la hoja de estilo pertenece a %1; elija otra carpeta o exporte estas páginas juntas</translation>
+    </message>
+    <message>
+        <source>this style sheet was not written for these pages; choose another folder</source>
+        <translation>esta hoja de estilo no se escribió para estas páginas; elija otra carpeta</translation>
     </message>
 </context>
 <context>
@@ -2245,6 +2308,40 @@ Error: %2</translation>
             <numerusform>está dañado o incompleto; se pudo leer %n atajo</numerusform>
             <numerusform>está dañado o incompleto; se pudieron leer %n atajos</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceEdit</name>
+    <message>
+        <source>the changes overlap or belong to another text</source>
+        <translation>los cambios se solapan o corresponden a otro texto</translation>
+    </message>
+    <message>
+        <source>the change in paragraph %1 does not fit into the markup there</source>
+        <translation>el cambio en el párrafo %1 no encaja en el marcado de ese lugar</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>el texto nuevo no se volvería a leer tal como es</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>la codificación %1 no tiene todos los caracteres del texto nuevo</translation>
+    </message>
+    <message>
+        <source>the encoding %1 cannot be written back as it was</source>
+        <translation>la codificación %1 no se puede volver a escribir como estaba</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceFile</name>
+    <message>
+        <source>the file has been changed meanwhile</source>
+        <translation>el archivo se ha modificado entretanto</translation>
+    </message>
+    <message>
+        <source>the backup cannot be made</source>
+        <translation>no se puede crear la copia de seguridad</translation>
     </message>
 </context>
 <context>

@@ -270,6 +270,13 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVEPubMetadata</name>
+    <message>
+        <source>the cover picture cannot be read</source>
+        <translation>l’image de couverture ne peut pas être lue</translation>
+    </message>
+</context>
+<context>
     <name>MRVEPubPackage</name>
     <message>
         <source>The e-book cannot be packed: %1</source>
@@ -342,6 +349,13 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFixedDate</name>
+    <message>
+        <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
+        <translation>SOURCE_DATE_EPOCH n’est pas un nombre de secondes depuis 1970 situé dans les années 1 à 9999</translation>
+    </message>
+</context>
+<context>
     <name>MRVFountainHtml</name>
     <message>
         <source>the page holds no paragraph of a script</source>
@@ -353,6 +367,29 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>All Images</source>
         <translation>Toutes les images</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscriptReader</name>
+    <message>
+        <source>unknown type of file</source>
+        <translation>type de fichier inconnu</translation>
+    </message>
+    <message>
+        <source>unknown encoding &apos;%1&apos;</source>
+        <translation>encodage inconnu «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>not readable as %1</source>
+        <translation>illisible en %1</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>les éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read</source>
+        <translation>l’image %1 ne peut pas être lue</translation>
     </message>
 </context>
 <context>
@@ -632,6 +669,32 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>%1 cannot be written</source>
         <translation>impossible d’écrire %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVOutputFiles</name>
+    <message>
+        <source>two inputs would be written to this file</source>
+        <translation>deux entrées seraient écrites dans ce fichier</translation>
+    </message>
+    <message>
+        <source>the output would replace an input</source>
+        <translation>la sortie remplacerait une entrée</translation>
+    </message>
+</context>
+<context>
+    <name>MRVPagePublisher</name>
+    <message>
+        <source>there is no document to be written</source>
+        <translation>aucun document à écrire</translation>
+    </message>
+    <message>
+        <source>the style sheet belongs to %1; choose another folder, or export these pages together</source>
+        <translation>la feuille de style appartient à %1&#xa0;; choisissez un autre dossier ou exportez ces pages ensemble</translation>
+    </message>
+    <message>
+        <source>this style sheet was not written for these pages; choose another folder</source>
+        <translation>cette feuille de style n’a pas été écrite pour ces pages&#xa0;; choisissez un autre dossier</translation>
     </message>
 </context>
 <context>
@@ -2245,6 +2308,40 @@ Erreur&#xa0;: %2</translation>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourci a pu être lu</numerusform>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourcis ont pu être lus</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceEdit</name>
+    <message>
+        <source>the changes overlap or belong to another text</source>
+        <translation>les modifications se chevauchent ou appartiennent à un autre texte</translation>
+    </message>
+    <message>
+        <source>the change in paragraph %1 does not fit into the markup there</source>
+        <translation>la modification du paragraphe %1 ne s’insère pas dans le balisage à cet endroit</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>le nouveau texte ne serait pas relu tel quel</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>l’encodage %1 ne contient pas tous les caractères du nouveau texte</translation>
+    </message>
+    <message>
+        <source>the encoding %1 cannot be written back as it was</source>
+        <translation>l’encodage %1 ne peut pas être réécrit tel qu’il était</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceFile</name>
+    <message>
+        <source>the file has been changed meanwhile</source>
+        <translation>le fichier a été modifié entre-temps</translation>
+    </message>
+    <message>
+        <source>the backup cannot be made</source>
+        <translation>la copie de sauvegarde ne peut pas être créée</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTextDocument>
+
+#include <memory>
+
+/**
+ * A manuscript as it was read: the document, what the file says about it, and the file's bytes.
+ *
+ * MRVManuscriptReader fills it. It can be moved, not copied. GUI thread only.
+ *
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVManuscript
+{
+    enum Format { Unknown = 0, Html = 1, Markdown = 2, PlainText = 3 };
+
+    /** As the reader was given it; for bytes that are in no file, what messages call them. */
+    QString path;
+    /** The file's name without its folder; empty for bytes that are in no file. */
+    QString fileName;
+    Format format = Unknown;
+    QByteArray encoding; ///< as QTextCodec calls it
+    QByteArray bytes; ///< as they were read
+
+    std::unique_ptr<QTextDocument> document; ///< keeps no undo history; null until read
+    QStringList authors; ///< what HTML says in its head, like the two that follow
+    QString description;
+    QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
+
+    QStringList pictures; ///< files that it shows, each once, in order of appearance
+    int remotePictures = 0; ///< pictures on other machines that it shows; they are not loaded
+
+    /** The bytes as a text, markup included, without a byte-order mark; empty until read. */
+    QString sourceText() const;
+
+    /** "html", "markdown" and "text": Html, Markdown and PlainText. */
+    static QStringList formatNames();
+    /** The format with one of formatNames(); Unknown for any other text. */
+    static Format formatNamed(const QString &name);
+    /**
+     * The format that the suffix of a file means, in any case. A name without suffix means plain
+     * text; an unknown suffix gives Unknown.
+     */
+    static Format formatOfFile(const QString &path);
+};

@@ -1,0 +1,127 @@
+#include "manuscript/mrvmanuscriptreader.h"
+
+#include "input/mrvguardeddocument.h"
+#include "input/mrvhtmlreader.h"
+#include "input/mrvtextdecoder.h"
+#include "manuscript/mrvmanuscriptdocument_p.h"
+#include "manuscript/mrvmanuscriptpictures_p.h"
+
+#include "core/mrvcoreutil.h"
+#include "core/mrvinputlimits.h"
+
+#include <QFileInfo>
+#include <QTextCodec>
+
+std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format)
+{
+    auto document = std::make_unique<MRVGuardedDocument>();
+    document->setUndoRedoEnabled(false);
+    switch (format) {
+    case MRVManuscript::Html:
+        document->setHtml(text);
+        break;
+    case MRVManuscript::Markdown:
+        document->setMarkdown(text);
+        break;
+    default:
+        document->setPlainText(text);
+        break;
+    }
+    return document;
+}
+
+bool MRVManuscriptReader::read(const QString &path, MRVManuscript *manuscript)
+{
+    QString unreadable;
+    MRVManuscript read;
+    read.path = path;
+    read.fileName = QFileInfo(path).fileName();
+    read.bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
+    if (!unreadable.isEmpty()) {
+        m_error = FileError;
+        m_errorString = unreadable; // names the file
+        return false;
+    }
+    read.format = m_format == MRVManuscript::Unknown ? MRVManuscript::formatOfFile(path) : m_format;
+    return readBytes(QFileInfo(path).absolutePath(), &read, manuscript);
+}
+
+bool MRVManuscriptReader::readBytes(const QByteArray &bytes, const QString &name,
+                                    const QString &folder, MRVManuscript *manuscript)
+{
+    MRVManuscript read;
+    read.path = name;
+    read.bytes = bytes;
+    const bool html = MRVHtmlReader::looksLikeHtml(bytes);
+    read.format = m_format != MRVManuscript::Unknown ? m_format
+        : html                                       ? MRVManuscript::Html
+                                                     : MRVManuscript::PlainText;
+    return readBytes(folder, &read, manuscript);
+}
+
+// Reads what @p read holds in bytes, and hands it over when all went well.
+bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
+                                    MRVManuscript *manuscript)
+{
+    QString text;
+    if (read->format == MRVManuscript::Unknown) {
+        return fail(UnknownFormat, *read, tr("unknown type of file"));
+    }
+    if (!decode(read, &text) || !readDocument(text, read)
+        || (m_loadsPictures && !loadPictures(folder, read))) {
+        return false;
+    }
+    m_error = NoError;
+    m_errorString.clear();
+    *manuscript = std::move(*read);
+    return true;
+}
+
+bool MRVManuscriptReader::fail(Error error, const MRVManuscript &read, const QString &reason)
+{
+    m_error = error;
+    m_errorString = QStringLiteral("%1: %2").arg(read.path, reason);
+    return false;
+}
+
+bool MRVManuscriptReader::decode(MRVManuscript *read, QString *text)
+{
+    const auto declaration = read->format == MRVManuscript::Html ? MRVTextDecoder::HtmlDeclaration
+                                                                 : MRVTextDecoder::Undeclared;
+    const QByteArray name = m_encoding.isEmpty()
+        ? MRVTextDecoder::encodingOf(read->bytes, declaration)
+        : m_encoding.toLatin1();
+    const QTextCodec *codec = QTextCodec::codecForName(name);
+    if (!codec) {
+        return fail(UnknownEncoding, *read,
+                    tr("unknown encoding '%1'").arg(QString::fromLatin1(name)));
+    }
+    read->encoding = codec->name();
+    return MRVTextDecoder::decode(read->bytes, read->encoding, text)
+        || fail(DecodingError, *read,
+                tr("not readable as %1").arg(QString::fromLatin1(read->encoding)));
+}
+
+bool MRVManuscriptReader::readDocument(const QString &text, MRVManuscript *read)
+{
+    if (read->format == MRVManuscript::Html) {
+        if (MRVHtmlReader::isNestedTooDeeply(text)) {
+            return fail(
+                NestingError, *read,
+                tr("elements are nested more than %1 levels deep").arg(MRVInputLimits::HtmlDepth));
+        }
+        const MRVHtmlHead head = MRVHtmlReader::head(text);
+        read->authors = head.authors;
+        read->description = head.description;
+        read->language = head.language;
+    }
+    read->document = mrvNewDocument(text, read->format);
+    return true;
+}
+
+bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read)
+{
+    QString unreadable;
+    return mrvLoadPictures(folder, read, &unreadable)
+        || fail(PictureError, *read, tr("the picture %1 cannot be read").arg(unreadable));
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "manuscript/mrvmanuscript.h"
+#include "util/mrvbase_export.h"
+
+#include <QCoreApplication>
+
+/**
+ * Reads manuscripts: HTML, Markdown and plain text.
+ *
+ * The encoding is the one that was set, else that of a byte-order mark, of an XML declaration, of
+ * the head of HTML, else UTF-8. The names of pictures count from the folder of the file. Nothing is
+ * fetched from other machines. GUI thread only.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVManuscriptReader
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVManuscriptReader)
+
+public:
+    enum Error {
+        NoError = 0,
+        FileError = 1, ///< the file is missing, not regular, or cannot be read
+        UnknownFormat = 2, ///< the suffix means no format, and none was set
+        UnknownEncoding = 3,
+        DecodingError = 4, ///< the bytes are not valid in the encoding
+        NestingError = 5, ///< elements are nested so deeply that reading would not end
+        PictureError = 6, ///< a picture on this machine is missing or cannot be read
+    };
+
+    /** What the input is; Unknown, as at first, decides by suffix or content. */
+    void setFormat(MRVManuscript::Format format) { m_format = format; }
+    /** A name that QTextCodec knows; empty, as at first, means what the input declares. */
+    void setEncoding(const QString &encoding) { m_encoding = encoding; }
+    /** Whether pictures are loaded, which they are at first. Else what names them stays as is. */
+    void setLoadsPictures(bool loads) { m_loadsPictures = loads; }
+
+    /**
+     * Reads a file.
+     *
+     * @param path       absolute, or relative to the current folder.
+     * @param manuscript untouched on failure.
+     * @return false on failure; error() and errorString() say why.
+     */
+    bool read(const QString &path, MRVManuscript *manuscript);
+    /**
+     * Reads @p bytes that are in no file, such as those of standard input. Where no format is set,
+     * they are HTML if they begin like it, else plain text.
+     *
+     * @param name       what messages call the bytes.
+     * @param folder     where the names of pictures count from.
+     * @param manuscript untouched on failure.
+     * @return false on failure; error() and errorString() say why.
+     */
+    bool readBytes(const QByteArray &bytes, const QString &name, const QString &folder,
+                   MRVManuscript *manuscript);
+
+    /** Why the last reading failed; NoError after success. */
+    Error error() const { return m_error; }
+    /** The same as one translated line that names the file; empty after success. */
+    QString errorString() const { return m_errorString; }
+
+private:
+    bool readBytes(const QString &folder, MRVManuscript *read, MRVManuscript *manuscript);
+    bool decode(MRVManuscript *read, QString *text);
+    bool readDocument(const QString &text, MRVManuscript *read);
+    bool loadPictures(const QString &folder, MRVManuscript *read);
+    bool fail(Error error, const MRVManuscript &read, const QString &reason);
+
+    MRVManuscript::Format m_format = MRVManuscript::Unknown;
+    QString m_encoding;
+    bool m_loadsPictures = true;
+    Error m_error = NoError;
+    QString m_errorString;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "search/mrvtextreplacer.h"
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QVector>
+
+struct MRVManuscript;
+
+/**
+ * Changes the text of a manuscript in its source, so that all else stays as it is byte for byte:
+ * markup, comments, style sheets, spelling of entities, line ends, byte-order mark.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVSourceEdit
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVSourceEdit)
+
+public:
+    MRVSourceEdit() = delete;
+
+    enum Mode {
+        KeepMarkup, ///< changes the text alone
+        WriteAnew, ///< writes the whole document; what it does not hold, as style sheets, is lost
+    };
+
+    /**
+     * The bytes of a manuscript, in its format and encoding, after changes to its text.
+     *
+     * The result is read once more, and refused where its text is not that of the document with
+     * these changes. The manuscript itself is not changed.
+     *
+     * @param manuscript its document is as it was read.
+     * @param changes    of MRVTextReplacer::preview() for that document, in document order; some
+     *                   may be left out.
+     * @param bytes      receives the result; untouched on failure.
+     * @param error      if given, receives a translated reason on failure, which does not name the
+     *                   file; untouched on success.
+     * @return false when a change does not fit into the markup, as a new paragraph in HTML, or into
+     *         the encoding, and when the changes overlap or belong to another text.
+     */
+    static bool changedBytes(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes,
+                             Mode mode, QByteArray *bytes, QString *error = nullptr);
+};

@@ -1,0 +1,258 @@
+#include "publish/mrvpagepublisher.h"
+
+#include "util/mrvfailure.h"
+
+#include "core/mrvcoreutil.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextDocument>
+
+namespace {
+
+const QLatin1String SheetName("css/stylesheet.css");
+// A file's name holds no slash, so that the names can be separated and cannot end the comment.
+const QLatin1String SheetBegin("/* Styles of ");
+const QLatin1String SheetEnd(" */\n");
+const QLatin1String NameSeparator(" / ");
+
+/** Gives a document another title for the time of an export; an empty one leaves its own. */
+class TitleChange
+{
+public:
+    TitleChange(QTextDocument *document, const QString &title)
+        : m_document(document)
+        , m_before(document->metaInformation(QTextDocument::DocumentTitle))
+    {
+        if (!title.isEmpty()) {
+            document->setMetaInformation(QTextDocument::DocumentTitle, title);
+        }
+    }
+    ~TitleChange() { m_document->setMetaInformation(QTextDocument::DocumentTitle, m_before); }
+    TitleChange(const TitleChange &) = delete;
+    TitleChange &operator=(const TitleChange &) = delete;
+
+private:
+    QTextDocument *m_document;
+    const QString m_before;
+};
+
+bool haveSameBytes(const QString &one, const QString &other)
+{
+    QFile first(one);
+    QFile second(other);
+    return QFileInfo(other).isFile() && first.size() == second.size()
+        && first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly)
+        && first.readAll() == second.readAll();
+}
+
+QString numbered(const QString &file, int number)
+{
+    if (number == 0) {
+        return file;
+    }
+    const QFileInfo info(file);
+    return QStringLiteral("%1/%2-%3.%4")
+        .arg(info.path(), info.completeBaseName(), QString::number(number), info.suffix());
+}
+
+// A path as the source of an image in a page.
+QString asSource(QString path)
+{
+    path.replace(u'%', QLatin1String("%25"))
+        .replace(u'#', QLatin1String("%23"))
+        .replace(u'?', QLatin1String("%3F"));
+    return path.toHtmlEscaped();
+}
+
+bool replaceSources(const QString &page, const QHash<QString, QString> &sources, QString *error)
+{
+    static const QRegularExpression source(QStringLiteral(" src=\"([^\"]*)\""));
+    QString unreadable;
+    const QString html = MRVCoreUtil::ReadUnicodeTextFile(page, &unreadable);
+    if (!unreadable.isEmpty()) {
+        return MRV::fail(error, unreadable);
+    }
+    QString result;
+    int done = 0;
+    for (auto it = source.globalMatch(html); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        const QString old = match.captured(1);
+        result += html.midRef(done, match.capturedStart(1) - done) + sources.value(old, old);
+        done = match.capturedEnd(1);
+    }
+    result += html.midRef(done);
+    return MRVCoreUtil::WriteUnicodeTextFile(result, page, error);
+}
+
+// The pages that a style sheet was written for; none when its first line does not tell.
+QStringList pagesOf(const QString &sheet)
+{
+    const QString text = MRVCoreUtil::ReadUnicodeTextFile(sheet);
+    const int end = text.indexOf(SheetEnd);
+    return text.startsWith(SheetBegin) && end > 0
+        ? text.mid(SheetBegin.size(), end - SheetBegin.size()).split(NameSeparator)
+        : QStringList();
+}
+
+} // namespace
+
+MRVPagePublisher::MRVPagePublisher(const MRVPageOptions &options)
+    : m_options(options)
+{
+}
+
+QString MRVPagePublisher::pageText(const MRVPageOptions &options, QTextDocument *document,
+                                   const QString &language)
+{
+    if (!document) {
+        return QString();
+    }
+    const TitleChange title(document, options.title);
+    MRVTextXhtmlExporter exporter(document);
+    exporter.setLanguage(options.language.isEmpty() ? language : options.language);
+    return exporter.toText(options.type);
+}
+
+bool MRVPagePublisher::add(QTextDocument *document, const QString &language, const QString &file,
+                           QString *error)
+{
+    if (!document) {
+        return MRV::fail(error, file, tr("there is no document to be written"));
+    }
+    const QString stage = m_files.newFolder(file, error);
+    if (stage.isEmpty()) {
+        return false;
+    }
+    const QFileInfo target(file);
+    Folder &folder = m_folders[QFileInfo(target.path()).canonicalFilePath()];
+    if (folder.path.isEmpty()) {
+        folder.path = target.path();
+    }
+    const QString page = QDir(stage).filePath(target.fileName());
+    QString reason;
+    if (!writePage(document, language, page, &folder, &reason)
+        || !addPictures(page, folder, &reason)) {
+        return MRV::fail(error, reason.replace(stage, target.path())); // as the caller knows it
+    }
+    m_pages.append({page, file});
+    return true;
+}
+
+bool MRVPagePublisher::writePage(QTextDocument *document, const QString &language,
+                                 const QString &page, Folder *folder, QString *error) const
+{
+    const TitleChange title(document, m_options.title);
+    MRVTextXhtmlExporter exporter(document);
+    exporter.setLanguage(m_options.language.isEmpty() ? language : m_options.language);
+    exporter.setStyles(folder->styles);
+    if (!exporter.toFile(m_options.type, page, m_options.images, QString(), error)) {
+        return false;
+    }
+    if (!exporter.unwrittenImages().isEmpty()) {
+        return MRV::fail(error, exporter.unwrittenImages().constFirst());
+    }
+    folder->styles = exporter.styles();
+    folder->pages.append(QFileInfo(page).fileName());
+    return true;
+}
+
+// Adds the pictures that were written with a page. Where one gets another name, the page is
+// changed to match.
+bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QString *error)
+{
+    const QDir stage(QFileInfo(page).path());
+    const QDir images(MRVTextXhtmlExporter::calcImageDir(page));
+    QHash<QString, QString> renamed;
+    const QStringList names = images.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString &name : names) {
+        const QString staged = images.filePath(name);
+        const QString wanted = stage.relativeFilePath(staged);
+        const QString target = pictureTarget(staged, QDir(folder.path).filePath(wanted));
+        const QString given = images.dirName() + u'/' + QFileInfo(target).fileName();
+        if (given != wanted) {
+            renamed.insert(asSource(wanted), asSource(given));
+        }
+    }
+    return renamed.isEmpty() || replaceSources(page, renamed, error);
+}
+
+QString MRVPagePublisher::pictureTarget(const QString &staged, const QString &wanted)
+{
+    for (int number = 0;; ++number) {
+        const QString target = numbered(wanted, number);
+        const QString holder = m_pictures.value(target, target);
+        const QFileInfo there(holder);
+        const bool free = !there.exists() && !there.isSymLink();
+        if (!free && !haveSameBytes(staged, holder)) {
+            continue;
+        }
+        if (!m_pictures.contains(target)) {
+            m_pictures.insert(target, free ? staged : target);
+            m_written.append(target);
+        }
+        if (free) {
+            m_files.add(staged, target);
+        }
+        return target;
+    }
+}
+
+bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error)
+{
+    if (!QFileInfo(sheet).isFile()) {
+        return true; // publish() refuses what cannot be replaced
+    }
+    const QStringList served = pagesOf(sheet);
+    for (const QString &page : served) {
+        if (!folder.pages.contains(page) && QFileInfo::exists(QDir(folder.path).filePath(page))) {
+            return MRV::fail(error, sheet,
+                             tr("the style sheet belongs to %1; choose another folder, or export "
+                                "these pages together")
+                                 .arg(page));
+        }
+    }
+    return !served.isEmpty()
+        || MRV::fail(error, sheet,
+                     tr("this style sheet was not written for these pages; choose another folder"));
+}
+
+bool MRVPagePublisher::addStyleSheet(const Folder &folder, QString *error)
+{
+    const QString sheet = QDir(folder.path).filePath(SheetName);
+    const QString stage =
+        m_files.newFolder(QDir(folder.path).filePath(folder.pages.constFirst()), error);
+    if (stage.isEmpty() || !mayReplaceSheet(sheet, folder, error)) {
+        return false;
+    }
+    const QString staged = QDir(stage).filePath(QFileInfo(sheet).fileName());
+    const QString text = SheetBegin + folder.pages.join(NameSeparator) + SheetEnd
+        + MRVTextXhtmlExporter::styleSheetText(folder.styles);
+    m_files.add(staged, sheet);
+    m_written.append(sheet);
+    QString reason;
+    return MRVCoreUtil::WriteUnicodeTextFile(text, staged, &reason)
+        || MRV::fail(error, reason.replace(staged, sheet));
+}
+
+bool MRVPagePublisher::publish(QStringList *written, QString *error)
+{
+    for (const auto &folder : m_folders) {
+        if (m_options.styleSheet && !addStyleSheet(folder.second, error)) {
+            return false;
+        }
+    }
+    for (const auto &page : qAsConst(m_pages)) {
+        m_files.add(page.first, page.second);
+        m_written.append(page.second);
+    }
+    if (!m_files.publish(error)) {
+        return false;
+    }
+    if (written) {
+        *written = m_written;
+    }
+    return true;
+}

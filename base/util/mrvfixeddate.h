@@ -1,0 +1,38 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QString>
+
+/**
+ * Dates for files that are to be the same byte for byte whenever they are written.
+ *
+ * The years are 1 to 9999, for which ISO 8601 and the formats written here have four digits.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVFixedDate
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVFixedDate)
+
+public:
+    MRVFixedDate() = delete;
+
+    /**
+     * Reads a date of ISO 8601 such as "2026-01-31" or "2026-01-31T12:00:00+01:00". Without a time
+     * it is the day's beginning; without an offset it is UTC. Invalid for any other text and for a
+     * date outside the years 1 to 9999 of UTC.
+     */
+    static QDateTime fromIsoText(const QString &text);
+
+    /**
+     * The date that the environment variable SOURCE_DATE_EPOCH gives, in seconds since 1970.
+     *
+     * @param date  untouched where the variable is missing or empty, and on failure.
+     * @param error if given, receives a translated line on failure; untouched on success.
+     * @return false where the variable is no number, or a date outside the years.
+     */
+    static bool fromEnvironment(QDateTime *date, QString *error = nullptr);
+};
