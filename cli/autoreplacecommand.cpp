@@ -36,12 +36,13 @@ void printEntry(const Call &call, const MRVAutoReplace &entry)
                        quoted(entry.match), quoted(entry.replacement)));
 }
 
-bool printReplacements(const Call &call, const MRVAutoReplaceList &list, const DocumentInput &input)
+bool printReplacements(const Call &call, const MRVAutoReplaceList &list,
+                       const MRVManuscript &manuscript)
 {
     const MRVTypingLookUp lookUp =
         call.has("word-ends") ? MRVTypingLookUp::AtWordEnds : MRVTypingLookUp::AfterEachCharacter;
     bool any = false;
-    for (QTextBlock block = input.document->begin(); block.isValid(); block = block.next()) {
+    for (QTextBlock block = manuscript.document->begin(); block.isValid(); block = block.next()) {
         const QString line = block.text();
         const int number = block.blockNumber() + 1;
         const QVector<MRVTypedReplacement> replacements = mrvTypeLine(line, list, lookUp);
@@ -49,7 +50,7 @@ bool printReplacements(const Call &call, const MRVAutoReplaceList &list, const D
             any = true;
             if (call.json()) {
                 QJsonObject object = toJson(made.entry);
-                object.insert(QStringLiteral("path"), input.path);
+                object.insert(QStringLiteral("path"), manuscript.path);
                 object.insert(QStringLiteral("line"), number);
                 object.insert(QStringLiteral("column"), made.start + 1);
                 object.insert(QStringLiteral("length"), made.end - made.start);
@@ -58,7 +59,7 @@ bool printReplacements(const Call &call, const MRVAutoReplaceList &list, const D
             }
             const QString place = QStringLiteral("%1:%2:").arg(QString::number(number),
                                                                QString::number(made.start + 1));
-            printLine(styled(Style::Path, input.path + u':' + place) + u' '
+            printLine(styled(Style::Path, manuscript.path + u':' + place) + u' '
                       + styled(Style::Removed, quoted(made.entry.match)) + QLatin1String(" -> ")
                       + styled(Style::Added, quoted(made.entry.replacement)));
         }
@@ -84,9 +85,9 @@ QString damageOf(const MRVOptions *options)
 int show(const Call &call, MRVOptions *options)
 {
     const MRVAutoReplaceList list = options->autoReplaceList();
-    return lookThrough(call, QStringLiteral("Reading %1"), [&](const DocumentInput &input) {
+    return lookThrough(call, QStringLiteral("Reading %1"), [&](const MRVManuscript &manuscript) {
         showProgress(QString());
-        return printReplacements(call, list, input);
+        return printReplacements(call, list, manuscript);
     });
 }
 

@@ -1,27 +1,20 @@
 #include "command.h"
 #include "documentinput.h"
-#include "pageexport.h"
 
 #include "epub/mrvepubpackage.h"
+#include "publish/mrvoutputfiles.h"
+#include "publish/mrvpagepublisher.h"
 #include "publish/mrvstagedfiles.h"
+#include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
-#include "xhtml/mrvtextxhtmlexporter.h"
-
-#include "core/mrvcoreutil.h"
-#include "gui/mrvpicturereader.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QMap>
-#include <QRegularExpression>
-#include <QSet>
-#include <QTextDocument>
 
 #include <vector>
 
@@ -118,39 +111,17 @@ int failure(const QString &text)
     return Failed;
 }
 
-// The years that ISO 8601 and the formats written here have four digits for.
-bool isWritableDate(const QDateTime &date)
-{
-    const int year = date.toUTC().date().year();
-    return date.isValid() && year >= 1 && year <= 9999;
-}
-
 int readDate(const QString &given, QDateTime *date)
 {
     if (!given.isEmpty()) {
-        static const QRegularExpression offset(QStringLiteral("T.*(?:Z|[+-]\\d\\d(?::?\\d\\d)?)$"));
-        const QString time = given.contains(u'T') ? given : given + QLatin1String("T00:00:00");
-        *date =
-            QDateTime::fromString(offset.match(time).hasMatch() ? time : time + u'Z', Qt::ISODate);
-        return isWritableDate(*date)
+        *date = MRVFixedDate::fromIsoText(given);
+        return date->isValid()
             ? -1
             : usageError(QStringLiteral("the date is not one of ISO 8601 such as "
                                         "2026-01-31T12:00:00Z, in the years 1 to 9999"));
     }
-    const QByteArray epoch = qgetenv("SOURCE_DATE_EPOCH");
-    if (epoch.isEmpty()) {
-        return -1;
-    }
-    bool ok = false;
-    const qint64 seconds = epoch.toLongLong(&ok);
-    // Beyond, the date's own arithmetic overflows.
-    constexpr qint64 FarOff = 1000000000000;
-    ok = ok && qAbs(seconds / 2) < FarOff / 2;
-    *date = QDateTime::fromSecsSinceEpoch(ok ? seconds : 0, Qt::UTC);
-    return ok && isWritableDate(*date)
-        ? -1
-        : usageError(QStringLiteral("SOURCE_DATE_EPOCH is not a number of seconds since 1970 that "
-                                    "lies in the years 1 to 9999"));
+    QString error;
+    return MRVFixedDate::fromEnvironment(date, &error) ? -1 : usageError(error);
 }
 
 void addOptions(QCommandLineParser *parser)
@@ -297,36 +268,21 @@ QStringList outputFiles(const Options &options)
     return options.target->package ? files.mid(0, 1) : files;
 }
 
-// A name that tells files apart, however their paths are written.
-QString identity(const QString &file)
+// Standard input and output are no files.
+QStringList filesOf(QStringList names)
 {
-    const QString real = QFileInfo(file).canonicalFilePath();
-    const QString folder = QFileInfo(QFileInfo(file).path()).canonicalFilePath();
-    return !real.isEmpty()  ? real
-        : !folder.isEmpty() ? QDir(folder).filePath(QFileInfo(file).fileName())
-                            : QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    names.removeAll(StandardOutput);
+    names.removeAll(QString());
+    return names;
 }
 
-// Would an output replace one of these files?
-bool areSpared(const QStringList &sources, const QStringList &outputs, QString *error)
+bool spareInputs(const QStringList &outputs, const QStringList &inputs, QString *error)
 {
-    QHash<QString, QString> written;
-    for (const QString &output : outputs) {
-        if (output != StandardOutput) {
-            written.insert(identity(output), output);
-        }
+    const bool spared = MRVOutputFiles::spareInputs(filesOf(outputs), filesOf(inputs), error);
+    if (!spared) {
+        *error += QLatin1String("; choose another with -o");
     }
-    for (const QString &source : sources) {
-        const QString output =
-            source == QLatin1String("-") ? QString() : written.value(identity(source));
-        if (!output.isEmpty()) {
-            *error =
-                QStringLiteral("%1: the output would replace the input; choose another with -o")
-                    .arg(output);
-            return false;
-        }
-    }
-    return true;
+    return spared;
 }
 
 // -1 to go on, else the exit code.
@@ -337,88 +293,52 @@ int checkOutputs(const Options &options, const QStringList &outputs)
             "only one page can be written to standard output; choose a folder with -o"));
     }
     QString error;
-    if (!areSpared(options.inputs, outputs, &error)) {
-        return failure(error);
-    }
-    QSet<QString> known;
-    for (const QString &output : outputs) {
-        if (known.contains(identity(output))) {
-            return failure(
-                QStringLiteral("%1: two inputs would be written to this file").arg(output));
-        }
-        known.insert(identity(output));
-    }
-    return -1;
+    return spareInputs(outputs, options.inputs, &error)
+            && MRVOutputFiles::areDistinct(filesOf(outputs), &error)
+        ? -1
+        : failure(error);
 }
 
-bool readDocuments(const Options &options, const QStringList &outputs,
-                   std::vector<DocumentInput> *inputs, QString *error)
+bool readManuscripts(const Options &options, const QStringList &outputs,
+                     std::vector<MRVManuscript> *manuscripts, QString *error)
 {
     InputOptions reading = options.input;
     reading.pictures =
         options.target->package || (options.images && outputs.constFirst() != StandardOutput);
-    QStringList sources{options.coverFile};
+    QStringList pictures{options.coverFile};
     for (const QString &path : options.inputs) {
         showProgress(QStringLiteral("Reading %1").arg(path));
-        DocumentInput input;
-        if (!readDocument(path, reading, &input, error)) {
+        MRVManuscript manuscript;
+        if (!readManuscript(path, reading, &manuscript, error)) {
             return false;
         }
-        sources += input.pictures;
-        inputs->push_back(std::move(input));
+        pictures += manuscript.pictures;
+        manuscripts->push_back(std::move(manuscript));
     }
-    sources.removeAll(QString());
-    return areSpared(sources, outputs, error);
+    return spareInputs(outputs, pictures, error);
 }
 
-bool exportPages(const Options &options, const std::vector<DocumentInput> &inputs,
+bool exportPages(const Options &options, const std::vector<MRVManuscript> &manuscripts,
                  const QStringList &outputs, QStringList *written, QString *error)
 {
-    const PageOptions pageOptions{options.target->type, options.target->styleSheet, options.images,
-                                  options.metadata.title, options.metadata.language};
+    const MRVPageOptions pageOptions{options.target->type, options.target->styleSheet,
+                                     options.images, options.metadata.title,
+                                     options.metadata.language};
     if (outputs.constFirst() == StandardOutput) {
-        return writeStandardOutput(pageText(pageOptions, inputs.front()).toUtf8(), error);
+        const MRVManuscript &first = manuscripts.front();
+        const QString page =
+            MRVPagePublisher::pageText(pageOptions, first.document.get(), first.language);
+        return writeStandardOutput(page.toUtf8(), error);
     }
-    PageExport pages(pageOptions);
-    for (std::size_t i = 0; i < inputs.size(); ++i) {
-        showProgress(QStringLiteral("Writing %1").arg(inputs[i].path));
-        if (!pages.add(inputs[i], outputs.at(int(i)), error)) {
+    MRVPagePublisher publisher(pageOptions);
+    for (std::size_t i = 0; i < manuscripts.size(); ++i) {
+        showProgress(QStringLiteral("Writing %1").arg(manuscripts[i].path));
+        if (!publisher.add(manuscripts[i].document.get(), manuscripts[i].language,
+                           outputs.at(int(i)), error)) {
             return false;
         }
     }
-    return pages.publish(written, error);
-}
-
-// Empty where the locale has none: a book in no known language is better than one in a wrong one.
-QString localeLanguage()
-{
-    const QLocale locale = QLocale::system();
-    return locale.language() == QLocale::C ? QString() : locale.bcp47Name();
-}
-
-// What the options leave open, the first document tells.
-bool completeMetadata(const QString &coverFile, const DocumentInput &first,
-                      MRVEPubMetadata *metadata, QString *error)
-{
-    if (metadata->authors.isEmpty()) {
-        metadata->authors = first.authors;
-    }
-    if (metadata->description.isEmpty()) {
-        metadata->description = first.description;
-    }
-    if (metadata->language.isEmpty()) {
-        metadata->language = first.language.isEmpty() ? localeLanguage() : first.language;
-    }
-    if (!coverFile.isEmpty()) {
-        QString reason;
-        if (MRVPictureReader::ofFile(coverFile).read(&reason).isNull()) {
-            *error =
-                QStringLiteral("%1: the cover picture cannot be read: %2").arg(coverFile, reason);
-            return false;
-        }
-        metadata->cover = MRVCoreUtil::ReadBinaryFile(coverFile);
-    }
-    return true;
+    return publisher.publish(written, error);
 }
 
 bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
@@ -430,23 +350,24 @@ bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
     return MRVStagedFiles::write(bytes, file, error);
 }
 
-bool exportPackage(const Options &options, const std::vector<DocumentInput> &inputs,
+bool exportPackage(const Options &options, const std::vector<MRVManuscript> &manuscripts,
                    const QString &file, QStringList *written, QString *error)
 {
     MRVEPubMetadata metadata = options.metadata;
-    if (!completeMetadata(options.coverFile, inputs.front(), &metadata, error)) {
+    metadata.completeFrom(manuscripts.front());
+    if (!options.coverFile.isEmpty() && !metadata.readCover(options.coverFile, error)) {
         return false;
     }
     MRVEPubPackage package(options.version, metadata);
     int left = 0;
-    for (const DocumentInput &input : inputs) {
-        showProgress(QStringLiteral("Adding %1").arg(input.path));
+    for (const MRVManuscript &manuscript : manuscripts) {
+        showProgress(QStringLiteral("Adding %1").arg(manuscript.path));
         QString reason;
-        if (!package.addDocument(*input.document, input.fileName(), &reason)) {
-            *error = QStringLiteral("%1: %2").arg(input.path, reason);
+        if (!package.addDocument(*manuscript.document, manuscript.fileName, &reason)) {
+            *error = QStringLiteral("%1: %2").arg(manuscript.path, reason);
             return false;
         }
-        left += input.remotePictures;
+        left += manuscript.remotePictures;
     }
     const QByteArray bytes = package.toByteArray(error);
     if (bytes.isEmpty() || !writePackage(bytes, file, error)) {
@@ -498,13 +419,13 @@ int runExport(const QStringList &arguments)
     if (code >= 0) {
         return code;
     }
-    std::vector<DocumentInput> inputs;
+    std::vector<MRVManuscript> manuscripts;
     QStringList written;
     QString error;
-    const bool ok = readDocuments(options, outputs, &inputs, &error)
+    const bool ok = readManuscripts(options, outputs, &manuscripts, &error)
         && (options.target->package
-                ? exportPackage(options, inputs, outputs.constFirst(), &written, &error)
-                : exportPages(options, inputs, outputs, &written, &error));
+                ? exportPackage(options, manuscripts, outputs.constFirst(), &written, &error)
+                : exportPages(options, manuscripts, outputs, &written, &error));
     if (!ok) {
         return failure(error);
     }

@@ -193,11 +193,11 @@ int runFind(const QStringList &arguments)
         return code;
     }
     return lookThrough(options.inputs, options.input, QStringLiteral("Searching %1"),
-                       [&](const DocumentInput &input) {
-                           const QVector<MRVTextRange> finds =
-                               MRVTextReplacer::findAll(input.document.get(), options.search.query);
+                       [&](const MRVManuscript &manuscript) {
+                           const QVector<MRVTextRange> finds = MRVTextReplacer::findAll(
+                               manuscript.document.get(), options.search.query);
                            showProgress(QString());
-                           printFinds(options, input.path, input.document.get(), finds);
+                           printFinds(options, manuscript.path, manuscript.document.get(), finds);
                            return !finds.isEmpty();
                        });
 }

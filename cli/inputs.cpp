@@ -6,7 +6,7 @@ InputOptions inputOptions(const Call &call)
 }
 
 int lookThrough(const Call &call, const QString &doing,
-                const std::function<bool(const DocumentInput &)> &look)
+                const std::function<bool(const MRVManuscript &)> &look)
 {
     return readsTwice(call.arguments)
         ? int(WrongUsage)

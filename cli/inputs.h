@@ -32,7 +32,7 @@ InputOptions inputOptions(const Call &call);
  *         when standard input is given twice.
  */
 int lookThrough(const Call &call, const QString &doing,
-                const std::function<bool(const DocumentInput &)> &look);
+                const std::function<bool(const MRVManuscript &)> &look);
 
 /** Whether standard input ("-") is given twice among the inputs; an error is printed then. */
 bool readsTwice(const QStringList &inputs);

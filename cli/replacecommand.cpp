@@ -1,15 +1,16 @@
 #include "command.h"
-#include "sourceedit.h"
+#include "documentinput.h"
 #include "textsearch.h"
 
-#include "core/mrvcoreutil.h"
+#include "manuscript/mrvsourceedit.h"
+#include "manuscript/mrvsourcefile.h"
+#include "publish/mrvoutputfiles.h"
+
 #include "core/mrvfilewriter.h"
 
 #include <QCommandLineParser>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSet>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -116,35 +117,21 @@ QString targetOf(const Options &options, const QString &path)
     return isFolder(options.output) ? QDir(options.output).filePath(name) : options.output;
 }
 
-// Inputs and targets must be different files, but for those that are to be replaced.
+// Inputs and targets must be different files, except for those that are to be replaced.
 bool checkTargets(const Options &options, QString *error)
 {
-    QSet<QString> inputs;
-    for (const QString &path : options.inputs) {
-        if (path != StandardStream) {
-            inputs.insert(QFileInfo(path).canonicalFilePath());
-        }
+    QStringList inputs = options.inputs;
+    QStringList targets;
+    for (const QString &path : qAsConst(inputs)) {
+        targets.append(targetOf(options, path));
     }
-    QSet<QString> targets;
-    for (const QString &path : options.inputs) {
-        const QString target = targetOf(options, path);
-        const QFileInfo info(target);
-        const QString file = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-        if (target == StandardStream) {
-            continue;
-        }
-        if (!options.output.isEmpty() && inputs.contains(file)) {
-            *error = QStringLiteral("%1: the output would replace an input; leave -o out for that")
-                         .arg(target);
-            return false;
-        }
-        if (targets.contains(file)) {
-            *error = QStringLiteral("%1: two inputs would be written to this file").arg(target);
-            return false;
-        }
-        targets.insert(file);
+    inputs.removeAll(StandardStream);
+    targets.removeAll(StandardStream);
+    if (!options.output.isEmpty() && !MRVOutputFiles::spareInputs(targets, inputs, error)) {
+        *error += QLatin1String("; leave -o out for that");
+        return false;
     }
-    return true;
+    return MRVOutputFiles::areDistinct(targets, error);
 }
 
 // A paragraph before and after its changes, as two lines.
@@ -175,15 +162,15 @@ void printChanges(const QString &path, const QTextDocument &document,
     }
 }
 
-void printPreview(const Options &options, const DocumentInput &input,
+void printPreview(const Options &options, const MRVManuscript &manuscript,
                   const QVector<MRVTextChange> &changes)
 {
     if (!options.json) {
-        printChanges(input.path, *input.document, changes);
+        printChanges(manuscript.path, *manuscript.document, changes);
         return;
     }
     for (const MRVTextChange &change : changes) {
-        QJsonObject object = toJson(input.path, input.document.get(), change.range);
+        QJsonObject object = toJson(manuscript.path, manuscript.document.get(), change.range);
         object.insert(QStringLiteral("replacement"),
                       QString(change.after).replace(QChar::ParagraphSeparator, u'\n'));
         printJson(object);
@@ -201,54 +188,15 @@ struct Changed
     QString backup;
 };
 
-// What only some may read stays so in the backup: it gets its permissions while it is empty, and
-// the writer keeps those of the file that it replaces.
-bool writeBackup(const QString &name, const Changed &changed, QString *error)
-{
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
-        || !file.setPermissions(QFileInfo(changed.target).permissions())) {
-        *error = QStringLiteral("%1: the backup cannot be made").arg(name);
-        return false;
-    }
-    file.close();
-    if (MRVFileWriter::write(name, changed.before, error)) {
-        return true;
-    }
-    file.remove();
-    return false;
-}
-
-QString freeBackupName(const QString &path)
-{
-    QString name = path + u'~';
-    for (int i = 1; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++i) {
-        name = path + u'~' + QString::number(i);
-    }
-    return name;
-}
-
 bool write(const Options &options, Changed *changed, QString *error)
 {
     if (changed->target == StandardStream) {
         return writeStandardOutput(changed->after, error);
     }
     if (options.output.isEmpty()) {
-        if (changed->count == 0) {
-            return true;
-        }
-        QString ignored;
-        if (MRVCoreUtil::ReadBinaryFile(changed->path, &ignored) != changed->before) {
-            *error = QStringLiteral("%1: the file has been changed meanwhile").arg(changed->path);
-            return false;
-        }
-        if (options.backup) {
-            const QString name = freeBackupName(changed->path);
-            if (!writeBackup(name, *changed, error)) {
-                return false;
-            }
-            changed->backup = name;
-        }
+        return changed->count == 0
+            || MRVSourceFile::replace(changed->path, changed->before, changed->after,
+                                      options.backup ? &changed->backup : nullptr, error);
     }
     return MRVFileWriter::write(changed->target, changed->after, error);
 }
@@ -278,21 +226,24 @@ void report(const Options &options, const Changed &changed)
 bool prepare(const Options &options, const QString &path, std::vector<Changed> *all, QString *error)
 {
     showProgress(QStringLiteral("Searching %1").arg(path));
-    DocumentInput input;
-    if (!readDocument(path, options.input, &input, error)) {
+    MRVManuscript manuscript;
+    if (!readManuscript(path, options.input, &manuscript, error)) {
         return false;
     }
-    const QVector<MRVTextChange> changes =
-        MRVTextReplacer::preview(input.document.get(), options.search.query, options.replacement);
-    Changed changed{path, targetOf(options, path), input.bytes, input.bytes, changes.size(), {}};
+    const QVector<MRVTextChange> changes = MRVTextReplacer::preview(
+        manuscript.document.get(), options.search.query, options.replacement);
+    Changed changed{
+        path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}};
     if (options.dryRun) {
         showProgress(QString());
-        printPreview(options, input, changes);
+        printPreview(options, manuscript, changes);
     }
     // Also where nothing will be written, so that a dry run refuses what the real one would.
+    const auto mode = options.rewrite ? MRVSourceEdit::WriteAnew : MRVSourceEdit::KeepMarkup;
+    QString reason;
     if (!changes.isEmpty()
-        && !changedBytes(input, changes, options.rewrite, &changed.after, error)) {
-        *error = QStringLiteral("%1: %2; nothing was changed").arg(path, *error);
+        && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason)) {
+        *error = QStringLiteral("%1: %2; nothing was changed").arg(path, reason);
         return false;
     }
     all->push_back(changed);

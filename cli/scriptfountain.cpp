@@ -1,5 +1,6 @@
 #include "command.h"
 #include "documentinput.h"
+
 #include "scriptcommand.h"
 #include "textsearch.h"
 
@@ -11,6 +12,7 @@
 #include "screenplay/mrvscriptdocument.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
 #include <QCommandLineParser>
@@ -129,11 +131,8 @@ bool ebook(const MRVFountainScript &script, const MRVScriptMode &mode, const QSt
     metadata.authors = authorsOf(script);
     metadata.rights = script.title(QStringLiteral("Copyright")).simplified();
     metadata.language = language;
-    bool fixed = false;
-    const qint64 seconds = qgetenv("SOURCE_DATE_EPOCH").toLongLong(&fixed);
-    constexpr qint64 LastSecond = 253402300799; // of the year 9999
-    if (fixed && seconds >= 0 && seconds <= LastSecond) {
-        metadata.modified = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    if (!MRVFixedDate::fromEnvironment(&metadata.modified, error)) {
+        return false;
     }
     QTextDocument document;
     MRVScriptDocument::setPrintedScript(&document, script, mode);
@@ -321,6 +320,10 @@ int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
         return scriptUsageError(QStringLiteral("--mode is for e-books only"));
     }
     QString error;
+    QDateTime unused;
+    if (options->to == Format::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
+        return scriptUsageError(error);
+    }
     options->mode.loadFactoryDefaults();
     if (!mode.isEmpty() && !findScriptMode(mode, &options->mode, &error)) {
         return failure(error);

@@ -65,8 +65,6 @@ private Q_SLOTS:
         addRows("mrv-inputs.tsv", {"case", "name", "text", "options", "expected"});
     }
     void inputs();
-    void encodings_data();
-    void encodings();
     void manyInputs();
     void standardStreams();
     void metadata_data()
@@ -75,8 +73,6 @@ private Q_SLOTS:
     }
     void metadata();
     void remotePictures();
-    void sparesWhatIsThere();
-    void keepsLinksAndPermissions();
     void account();
 
 private:
@@ -100,9 +96,6 @@ void tst_Mrv::init()
         QVERIFY(writeBytes(in(row.at(0)), row.at(1).toUtf8()));
     }
     QVERIFY(writeBytes(in("latin.txt"), "caf\xe9"));
-    QVERIFY(writeBytes(in("deep.html"), QByteArray("<div>").repeated(5000)));
-    QVERIFY(writeBytes(in("deep-inline.html"), QByteArray("<b><i>").repeated(3000)));
-    QVERIFY(writeBytes(in("items.html"), "<ul>" + QByteArray("<li>a<p>b").repeated(5000)));
 }
 
 void tst_Mrv::usage()
@@ -279,38 +272,6 @@ void tst_Mrv::inputs()
     QVERIFY2(page.contains(expected), qPrintable(page));
 }
 
-void tst_Mrv::encodings_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("options");
-    const QByteArray declared =
-        "<meta http-equiv=content-type content='text/html; charset=iso-8859-1'>caf\xe9";
-    QTest::newRow("utf-16") << "a.txt"
-                            << QByteArray("\xff\xfe"
-                                          "c\0a\0f\0\xe9\0",
-                                          10)
-                            << QStringList{};
-    QTest::newRow("declared") << "a.html" << declared << QStringList{};
-    QTest::newRow("xml") << "a.html"
-                         << QByteArray("<?xml version='1.0' encoding='latin1'?><p>caf\xe9</p>")
-                         << QStringList{};
-    QTest::newRow("given") << "a.txt" << QByteArray("caf\xe9")
-                           << QStringList{"--encoding", "latin1"};
-}
-
-void tst_Mrv::encodings()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    QFETCH(QStringList, options);
-    QVERIFY(writeBytes(in(name), bytes));
-    QCOMPARE(
-        mrv(QStringList{"export", in(name), "--to", "xhtml", "-o", in("a.xhtml")} + options).errors,
-        QString());
-    QVERIFY(bytesOf(in("a.xhtml")).contains("caf\xc3\xa9"));
-}
-
 void tst_Mrv::manyInputs()
 {
     QCOMPARE(mrv({"export", in("book.html"), in("two.md"), "--to", "kindle", "-o", in("pages")})
@@ -319,10 +280,6 @@ void tst_Mrv::manyInputs()
     QCOMPARE(
         filesBelow(in("pages")),
         QStringList({"book.xhtml", "book_files/pic one.jpg", "css/stylesheet.css", "two.xhtml"}));
-    const QString css = QString::fromUtf8(bytesOf(in("pages/css/stylesheet.css")));
-    const QString two = QString::fromUtf8(bytesOf(in("pages/two.xhtml")));
-    const QString last = two.section("<span class=\"", -1).section('"', 0, 0);
-    QVERIFY2(css.contains('.' + last + " {\n    font-weight: bold;"), qPrintable(last + css));
     QCOMPARE(mrv({"export", in("book.html"), in("two.md"), "--to", "epub", "-o", in("all.epub")})
                  .exitCode,
              0);
@@ -368,39 +325,6 @@ void tst_Mrv::remotePictures()
     QCOMPARE(ran.exitCode, 0);
     QVERIFY2(ran.errors.startsWith("mrv: note: "), qPrintable(ran.errors));
     QVERIFY2(ran.errors.contains("2"), qPrintable(ran.errors));
-}
-
-// Each page goes beside its input; what lies there, and is none of its files, stays.
-void tst_Mrv::sparesWhatIsThere()
-{
-    for (const int n : {1, 2}) {
-        QImage picture(9, n, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QVERIFY(QDir().mkpath(in(QString::number(n))));
-        QVERIFY(picture.save(in(QString("%1/pic.png").arg(n))));
-        QVERIFY(writeBytes(in(QString("sub/ch.%1.html").arg(n)),
-                           QString("<p>a<img src='../%1/pic.png'></p>").arg(n).toUtf8()));
-    }
-    const QStringList second{in("./sub/ch.2.html"), "--to", "xhtml"};
-    QCOMPARE(mrv(QStringList{"export", in("two.md"), in("sub/ch.1.html")} + second).exitCode, 0);
-    QCOMPARE(mrv(QStringList{"export"} + second).exitCode, 0); // its picture is there now
-    QCOMPARE(filesBelow(in("sub")).filter("ch"),
-             QStringList({"ch.1.html", "ch.1.xhtml", "ch.2.html", "ch.2.xhtml",
-                          "ch_files/pic-1.png", "ch_files/pic.png"}));
-    QVERIFY(bytesOf(in("sub/ch.1.xhtml")).contains("src=\"ch_files/pic.png\""));
-    QVERIFY(bytesOf(in("sub/ch.2.xhtml")).contains("src=\"ch_files/pic-1.png\""));
-    QVERIFY(QFile::exists(in("two.xhtml")));
-}
-
-void tst_Mrv::keepsLinksAndPermissions()
-{
-    QVERIFY(QFile::link(in("file"), in("link.html")));
-    QVERIFY(QFile::setPermissions(in("file"), QFile::ReadOwner | QFile::WriteOwner));
-    QCOMPARE(mrv({"export", in("two.md"), "--to", "html", "-o", in("link.html")}).exitCode, 0);
-    QCOMPARE(mrv({"export", in("two.md"), "--to", "html", "-o", in("file")}).exitCode, 0);
-    QVERIFY(QFileInfo(in("link.html")).isSymLink());
-    QVERIFY(bytesOf(in("file")).contains("Trois"));
-    QVERIFY(!(QFile::permissions(in("file")) & (QFile::ReadGroup | QFile::ReadOther)));
 }
 
 void tst_Mrv::account()

@@ -104,6 +104,7 @@ void tst_MrvScript::convertedBack()
     }
     QCOMPARE(books[0], books[1]);
     QVERIFY(books[1] != books[2]);
+    QCOMPARE(mrv("script convert @a.fdx -o @a.epub", {}, {"SOURCE_DATE_EPOCH=abc"}).exitCode, 2);
     // In a folder, nothing is replaced unasked.
     const QString taken = in("script.fdx");
     QVERIFY(writeBytes(taken, "a"));

@@ -4,7 +4,7 @@
 #include "util/mrvfailure.h"
 
 #include "core/mrvcoreutil.h"
-#include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 
 #include <QLocale>
 
@@ -35,7 +35,7 @@ void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript)
 bool MRVEPubMetadata::readCover(const QString &file, QString *error)
 {
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(file);
-    if (MRVGuiUtil::toImage(bytes).isNull()) {
+    if (MRVPictureReader::ofFile(file).read().isNull()) {
         return MRV::fail(error, file, tr("the cover picture cannot be read"));
     }
     cover = bytes;
