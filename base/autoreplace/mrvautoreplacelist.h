@@ -18,7 +18,7 @@ class MRVAutoReplaceIndex;
  * Several entries may have the same match.
  *
  * It is a QList, with one thing to know: a long list keeps an index beside it, so that bestMatch()
- * takes about the same time for ten thousand entries as for thirty. The index is made anew after a
+ * takes about the same time for ten thousand entries as for thirty. The index is made again after a
  * change. While somebody may hold a reference into the list (a non-const operator[], begin(),
  * first() and the like gave one away), changes cannot be noticed: such a list is searched entry by
  * entry. A copy of it, or the list after clear() or an assignment, has an index again. References

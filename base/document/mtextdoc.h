@@ -198,7 +198,7 @@ public:
     /**
      * Deletes the text of all annotations. An annotation at the end of a paragraph takes the end
      * along, so that the next paragraph joins; not at the end of a table cell or of the document,
-     * and not in front of a table.
+     * and not before a table.
      */
     static void removeAnnotations(QTextDocument *document);
     /** Deletes the text of all inline footnotes, and no paragraph ends. */
@@ -297,8 +297,8 @@ public:
      *
      * Characters keep their formats, and images stay. Each line has the paragraph format that it
      * had in its first cell, but belongs to no list. The text starts a paragraph of its own, for
-     * which an empty paragraph in front of the table is used up; so is an empty one that only
-     * closes the document, cell or frame behind the table.
+     * which an empty paragraph before the table is used up; so is an empty one that only closes the
+     * document, cell or frame after the table.
      */
     static void tablesToText(QTextDocument *document);
 

@@ -193,7 +193,7 @@ public:
      */
     bool cd(const QString &path);
     /**
-     * Moves up by so many levels; false, having moved as far as possible, where there are fewer.
+     * Moves up by @p levels levels; false, having moved as far as possible, where there are fewer.
      * True for 0 and less.
      */
     bool cdUp(int levels = 1);

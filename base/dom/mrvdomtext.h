@@ -73,7 +73,7 @@ public:
     /** The date-time @p value in @p format; in ISO 8601 where that is empty. */
     static QString written(const QDateTime &value, const QString &format);
 
-    /** What appended elements hold: the same, but for float. */
+    /** What appended elements hold: the same, except for float. */
     template<typename T>
     static QString appended(const T &value)
     {

@@ -26,7 +26,7 @@ class MRVDownloadUserInputAbstract;
  * where writing fails. Only a request that is dropped, by starting another one or by deleting this
  * object, says no more. Any receiver may start the next request, or delete this object.
  *
- * A body that is cut off is an error, but for two that Qt passes on as whole: one that ends at a
+ * A body that is cut off is an error, except for two that Qt passes on as whole: one that ends at a
  * chunk whose size is no number, and one of no stated length whose connection breaks.
  *
  * Servers are asked not to compress, so that each body can be checked against its length; one that
@@ -116,9 +116,9 @@ public:
     static QString charset(const QString &contentType);
 
     /**
-     * Encodes text anew, from the encoding @p fromCharset to @p toCharset. @p data is returned
-     * unchanged where a name is empty or unknown, or both name one encoding. Blanks and quotes
-     * around a name do not matter.
+     * Converts text from the encoding @p fromCharset to @p toCharset. @p data is returned unchanged
+     * where a name is empty or unknown, or both name one encoding. Blanks and quotes around a name
+     * do not matter.
      *
      * The source encoding is the one named, whatever the first bytes look like. What is no text in
      * it becomes U+FFFD. Needs little more memory than the bytes and the result.

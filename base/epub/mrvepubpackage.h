@@ -59,7 +59,7 @@ public:
     MRVEPubPackage &operator=(const MRVEPubPackage &) = delete;
 
     /**
-     * Adds the document behind those added before. It is read at once and needed no longer.
+     * Adds the document after those added before. It is read at once and needed no longer.
      *
      * @param fileName the name, without folder, by which links of other documents name this one;
      *                 may be empty.

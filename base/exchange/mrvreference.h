@@ -36,7 +36,7 @@ public:
     /** qint32 count, then the entries as operator<<() writes them, in MCoreType::StreamVersion. */
     static QByteArray toByteArray(const QList<MRVReference> &references);
     /**
-     * The inverse of toByteArray(); bytes behind the list are ignored.
+     * The inverse of toByteArray(); bytes after the list are ignored.
      *
      * @return an empty list for bytes that are empty, end too early, or count more entries than
      * they can hold.

@@ -27,8 +27,8 @@ struct MRVXmlLimits
 };
 
 /**
- * Takes XML from outside: decodes it and checks that a parser of Qt's, which knows no limits, can be
- * trusted with it.
+ * Takes XML from outside: decodes it and checks that a parser of Qt's, which knows no limits, can
+ * be trusted with it.
  *
  * A text that is not well-formed may pass, since the check goes as far as the parser will. Takes
  * time linear in the text. Other files are never read.
@@ -60,8 +60,8 @@ public:
     static QString normalized(const QString &xml);
 
     /**
-     * Whether the text @p xml keeps to @p limits, and has no two attributes of one name in an element, of
-     * which QDomDocument would keep one.
+     * Whether the text @p xml keeps to @p limits, and has no two attributes of one name in an
+     * element, of which QDomDocument would keep one.
      *
      * @param fault receives the first fault; untouched on success.
      */

@@ -14,12 +14,12 @@
  * Written are paragraphs with their types, styles and alignment, scene numbers, page breaks, two
  * speeches side by side, notes as script notes, and the title page. What was cut out is a script
  * note called "Omitted", sections are outline headings of four levels, and synopses are outline
- * text. Read again, it is the same script, but for deeper sections, the mark of lyrics behind a
+ * text. Read again, it is the same script, except for deeper sections, the mark of lyrics after a
  * speech, the emphasis of notes, action that is nothing but a note, and page breaks without a
- * paragraph behind them, which get one.
+ * paragraph after them, which get one.
  *
  * The format does not say which line of a title page is what: reading it takes the first centred
- * one as the title, "written by" and the like as the credit, the one behind as the author, other
+ * one as the title, "written by" and the like as the credit, the one after as the author, other
  * centred ones as the source, those on the right as the date of the draft and the rest as contact,
  * unless they begin with a key: "Copyright: ...", or, where centred, one that belongs there:
  * "Source: ...". Keys are written where reading would not find out by itself.
@@ -38,10 +38,10 @@ public:
 
     /**
      * Reads a document; paragraphs of types that Fountain does not know ("General", "Shot") are
-     * action. A scene's title, summary and what its characters go through become synopses behind
-     * its heading, and notes that stand behind the script ("ScriptNotes") go to the end of the
+     * action. A scene's title, summary and what its characters go through become synopses after its
+     * heading, and notes that stand after the script ("ScriptNotes") go to the end of the
      * paragraphs that they are about, and those in paragraphs of their own on the title page stand
-     * behind the script.
+     * after the script.
      *
      * @param error if given, receives a translated line with the number of the line on failure.
      * @param leftOut if given, receives on success the tags of the other sections that hold text,

@@ -26,7 +26,7 @@ struct MRVFountainRun
     };
     Q_DECLARE_FLAGS(Emphasis, Style)
 
-    QString text; ///< lines are parted by '\n'
+    QString text; ///< lines are separated by '\n'
     Emphasis emphasis;
     Kind kind = Text;
 
@@ -69,7 +69,7 @@ struct MRVBASE_EXPORT MRVFountainElement
     MRVFountainRuns runs;
     QString sceneNumber; ///< of a SceneHeading, such as "12A"; may be empty
     bool dual = false; ///< of a Character: speaks beside the one before
-    bool apart = false; ///< of Lyrics right behind a speech: no part of it
+    bool apart = false; ///< of Lyrics right after a speech: no part of it
     int level = 1; ///< of a Section: 1 is the outermost, 255 the innermost
 
     /** An empty paragraph of action. */
@@ -122,7 +122,7 @@ Q_DECLARE_TYPEINFO(MRVFountainTitle, Q_MOVABLE_TYPE);
  * typed.
  *
  * fromText() reads any text, and toText() writes any script so that it is read as the same. Two
- * things of the published syntax are read more widely: a scene heading needs no blank line behind
+ * things of the published syntax are read more widely: a scene heading needs no blank line after
  * it, and "@NAME" is a cue whether or not something is said. Three things are added, for what could
  * not be written otherwise: dialogue that nobody speaks follows a line with a mere "@"; a "!"
  * before any line of action makes that line action; and a backslash takes the meaning not only from
@@ -175,7 +175,7 @@ public:
     /**
      * The same as a revision of @p source, a Fountain text: what @p source says already keeps its
      * lines, as they were typed, and so do byte-order mark and line ends. Where there are as many
-     * elements as before, just those are written anew that are others. Where there are not, or
+     * elements as before, just those are written again that are others. Where there are not, or
      * where lines as they were typed would be read in another way beside the new ones, the whole
      * text is.
      */
@@ -187,7 +187,7 @@ public:
      * text, line breaks in headings, cues, parentheticals, transitions, sections and synopses,
      * which become blanks, empty lines of the title page and around dialogue, notes without text
      * within a paragraph, and scene headings, cues and dialogue without text. Number, level and
-     * marks are reset where they mean nothing; two Lyrics behind one another in a speech cannot
+     * marks are reset where they mean nothing; two Lyrics one after the other in a speech cannot
      * both be part of it.
      */
     MRVFountainScript normalized() const;
@@ -196,7 +196,7 @@ public:
     static QString cueName(const QString &cue);
     /** How many QChars of a cue are before its extensions: 4 of "BOB (V.O.)". */
     static int cueNameLength(const QString &cue);
-    /** What stands behind the name, with its parentheses: "(V.O.) (CONT'D)". */
+    /** What stands after the name, with its parentheses: "(V.O.) (CONT'D)". */
     static QString cueExtension(const QString &cue);
     /** Whether Fountain takes a paragraph for a scene heading as it stands: "INT. HOUSE - DAY". */
     static bool isSceneHeading(const QString &text);

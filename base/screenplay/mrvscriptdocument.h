@@ -16,7 +16,7 @@ class QTextDocument;
  * kind, found by its title ("Scene Heading", "Dialogue", ...). So it is for the mode to say what a
  * script looks like, and documents that were written with a mode become scripts in the same way.
  * What elements do not tell is carried by formats, so that it goes where the text goes: through
- * copies of the document (but for an empty first paragraph, whose format Qt leaves behind),
+ * copies of the document (except for an empty first paragraph, whose format Qt leaves behind),
  * fragments and undo.
  *
  * - Notes within a text: MRVTextFormat::InlineAnnotationProperty.
@@ -46,7 +46,7 @@ public:
         BoneyardProperty = 0x100206, ///< bool, of text that is cut out
         /** int: MRVFountainRun::Emphasis in an element that has the same already. */
         EmphasisProperty = 0x100207,
-        NoteBorderProperty = 0x100208, ///< bool, of a note right behind another one
+        NoteBorderProperty = 0x100208, ///< bool, of a note right after another one
         ApartProperty = 0x100209, ///< bool, of lyrics that are no part of the speech before them
     };
 
@@ -60,9 +60,9 @@ public:
 
     /**
      * The same for what is printed alone, to be exported: without notes, what is cut out, sections
-     * and synopses, with scene numbers in front of the headings, which are headings of the first
-     * level, with capitals where the mode wants them, and with indents as Qt's margins. It is no
-     * longer a document of the mode.
+     * and synopses, with scene numbers before the headings, which are headings of the first level,
+     * with capitals where the mode wants them, and with indents as Qt's margins. It is no longer a
+     * document of the mode.
      */
     static void setPrintedScript(QTextDocument *document, const MRVFountainScript &script,
                                  const MRVScriptMode &mode);
@@ -71,7 +71,7 @@ public:
      * The script in a document that was formatted with @p mode, normalized. Paragraphs of elements
      * that Fountain does not know ("Shot"), or of none, are action, centred ones centred text;
      * pictures are left out. Of an element called "Speech" or "Speaker", a paragraph is a cue up to
-     * the first tab, and dialogue behind it.
+     * the first tab, and dialogue after it.
      */
     static MRVFountainScript script(const QTextDocument &document, const MRVScriptMode &mode);
 
@@ -87,7 +87,7 @@ public:
      * Renames a character.
      *
      * A cue is renamed where @p from is its name, in any case, or one of several names that are
-     * joined by "/", "&", "," or "AND"; what is behind the name stays. In other text, @p from is
+     * joined by "/", "&", "," or "AND"; what is after the name stays. In other text, @p from is
      * looked for as a whole word: as it is given, in capitals, and with capital initials ("Ann
      * Lee"), so that "will" is not Will. The new name is written in capitals where the old one was,
      * and as given elsewhere; a name given in capitals becomes one with capital initials where the

@@ -21,7 +21,7 @@ class QTextBlock;
 struct MRVCompletion
 {
     QString text;
-    /** Whether a new paragraph begins behind the text once it is accepted. */
+    /** Whether a new paragraph begins after the text once it is accepted. */
     bool newLineAfter = false;
 
     bool operator==(const MRVCompletion &other) const
@@ -77,7 +77,7 @@ private:
  * It is a value. It neither edits documents by itself nor knows its neighbours: the elements that
  * it goes on with are named by their titles, and MRVScriptMode holds them.
  *
- * What a default one is: no title, no formats, no completions, every flag off, and Tab behind text
+ * What a default one is: no title, no formats, no completions, every flag off, and Tab after text
  * goes to another element that is not named.
  *
  * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names once any
@@ -110,7 +110,7 @@ public:
     enum Action {
         ReturnAction = 0, ///< Return
         TabOnEmptyAction = 1, ///< Tab in an empty paragraph
-        TabAfterTypingAction = 2, ///< Tab behind text
+        TabAfterTypingAction = 2, ///< Tab after text
     };
 
     enum TabBehavior {
@@ -195,8 +195,8 @@ public:
     //@}
 
     /**
-     * What a phrase that AddToProjectList collects stands behind, and in front of; an empty one is
-     * the start or the end of the paragraph.
+     * What a phrase that AddToProjectList collects stands after, and before; an empty one is the
+     * start or the end of the paragraph.
      */
     QString phraseStartDelimiter() const { return m_phraseStartDelimiter; }
     void setPhraseStartDelimiter(const QString &delimiter) { m_phraseStartDelimiter = delimiter; }

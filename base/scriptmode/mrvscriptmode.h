@@ -134,8 +134,8 @@ public:
     /** The user's modes, by name. Their folder is made where it is missing. */
     static QMap<QString, MRVScriptMode> userModes();
     /**
-     * Saves @p mode among the user's modes as MRV::cleanFileName() of @p name with ".xml" behind
-     * it. It keeps its own name, by which userModes() will know it.
+     * Saves @p mode among the user's modes as MRV::cleanFileName() of @p name with ".xml" after it.
+     * It keeps its own name, by which userModes() will know it.
      *
      * A mode that is there under that file name is replaced without a question, also where its name
      * differs in what cleanFileName() takes away: ask userModePath() beforehand.
@@ -152,8 +152,8 @@ public:
 
     /**
      * Gives each element that has the title of an earlier one the first free title of its series:
-     * "Action", "Action-1", "Action-2", and "Act 9-1" behind "Act 9". What goes on with a title
-     * goes on with the first of them.
+     * "Action", "Action-1", "Action-2", and "Act 9-1" after "Act 9". What goes on with a title goes
+     * on with the first of them.
      */
     void makeElementsUnique();
 

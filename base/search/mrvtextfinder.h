@@ -28,11 +28,11 @@ class QTextDocument;
  * every property of it, to an equal value where @c compareValues is true (see
  * MRVTextFormat::formatsMatch()). A format without properties is carried by all text.
  *
- * Single searches give a cursor that selects the find, anchor in front, or a null cursor where
- * there is none. Nothing fails otherwise: a null document or cursor, a start outside the document
- * and an empty or invalid expression find nothing. The functions whose names begin with findAll
- * give positions instead, of all finds in document order, and take time linear in the document;
- * they are the ones to use for more than a few finds.
+ * Single searches give a cursor that selects the find, anchor first, or a null cursor where there
+ * is none. Nothing fails otherwise: a null document or cursor, a start outside the document and an
+ * empty or invalid expression find nothing. The functions whose names begin with findAll give
+ * positions instead, of all finds in document order, and take time linear in the document; they are
+ * the ones to use for more than a few finds.
  *
  * Keeps no state, changes nothing. GUI thread only.
  *
@@ -61,8 +61,8 @@ public:
     enum FindFlag {
         FindBackward = 0x1,
         FindCaseSensitively = 0x2, ///< only for plain strings; an expression knows by itself
-        FindWordStart = 0x4, ///< no letter or digit in front of the match
-        FindWordEnd = 0x8, ///< no letter or digit behind the match
+        FindWordStart = 0x4, ///< no letter or digit before the match
+        FindWordEnd = 0x8, ///< no letter or digit after the match
         FindWholeWords = FindWordStart | FindWordEnd,
     };
     Q_DECLARE_FLAGS(FindFlags, FindFlag)
@@ -92,7 +92,7 @@ public:
      *
      * Forward, a match may start at @p from. Backward it starts before @p from, and may reach
      * beyond it. A match that breaks a word rule is passed over; the search goes on one character
-     * before its start, or, forward, one character behind its end: a match right at the end of one
+     * before its start, or, forward, one character after its end: a match right at the end of one
      * that was passed over is not seen. A match may be empty; then the cursor has no selection.
      */
     static QTextCursor find(const QTextDocument *document, const QRegExp &expression, int from,
@@ -143,7 +143,7 @@ public:
      * All matches in a document or in a part of it, in document order, none overlapping another.
      *
      * They are those that find() gives forward from the start of the part and on from the end of
-     * each find; behind an empty match the search goes on by one character. Of those, the ones that
+     * each find; after an empty match the search goes on by one character. Of those, the ones that
      * lie within the part as a whole. Word rules and expressions see the whole paragraphs, also
      * around the part. FindBackward has no meaning here.
      *
@@ -275,19 +275,19 @@ public:
     /**
      * The continuous run, grown as in findContinuousFragment(), that the whole selection of
      * @p cursor lies in. A cursor without selection may also be at either end of the run; between
-     * two runs, the one behind the cursor is taken.
+     * two runs, the one after the cursor is taken.
      */
     static QTextCursor findFragmentAround(const QTextCharFormat &format, const QTextCursor &cursor,
                                           bool compareValues);
     /**
      * The whole fragment of the character at the start of the selection of @p cursor (without
-     * selection, of the character behind it), if it carries @p format. Nothing at a paragraph end.
+     * selection, of the character after it), if it carries @p format. Nothing at a paragraph end.
      */
     static QTextCursor findFragmentAtPosition(const QTextCharFormat &format,
                                               const QTextCursor &cursor, bool compareValues);
     /**
      * The same, and where there is nothing, the whole fragment that carries @p format and ends
-     * there in the same paragraph: what a caret right behind marked text belongs to.
+     * there in the same paragraph: what a caret right after marked text belongs to.
      */
     static QTextCursor findFragmentAtPositionGeneral(const QTextCharFormat &format,
                                                      const QTextCursor &cursor, bool compareValues);
@@ -312,7 +312,7 @@ public:
 
     /**
      * Whether the first character of the selection carries @p format; without a selection, the
-     * character behind the cursor.
+     * character after the cursor.
      */
     static bool startsWithFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                                  bool compareValues);
@@ -321,7 +321,7 @@ public:
                                          const QVariant &value, bool compareValues);
     /**
      * Whether the cursor is inside text that carries @p format: all characters of the selection do;
-     * without a selection, both the character before the cursor and the one behind it do, in the
+     * without a selection, both the character before the cursor and the one after it do, in the
      * same paragraph.
      */
     static bool isInFormat(const QTextCursor &cursor, const QTextCharFormat &format,
@@ -341,7 +341,7 @@ public:
                                         const QVariant &value, bool compareValues);
     /**
      * Whether any character of the selection carries @p format; without a selection, the character
-     * before the cursor or the one behind it, in the same paragraph.
+     * before the cursor or the one after it, in the same paragraph.
      */
     static bool hasFormat(const QTextCursor &cursor, const QTextCharFormat &format,
                           bool compareValues);
@@ -359,7 +359,7 @@ public:
      */
     //@{
     /**
-     * The format of the first character of the selection, or of the character behind a cursor
+     * The format of the first character of the selection, or of the character after a cursor
      * without selection, if it has IsAnchor true and AnchorHref set; else an empty format.
      */
     static QTextCharFormat findAnchorFormat(const QTextCursor &cursor);
@@ -388,7 +388,7 @@ public:
     static int anchorsCount(const QTextCursor &cursor, bool withComments = false);
     /**
      * Grows the selection of @p cursor in both directions over the fragments whose AnchorHref is
-     * @p href, also over paragraph ends and empty paragraphs. The anchor comes to lie in front.
+     * @p href, also over paragraph ends and empty paragraphs. The anchor comes to lie first.
      * Unchanged where no such fragment adjoins; null does nothing.
      */
     static void adjustContinuousAnchorCursor(QTextCursor *cursor, const QString &href);
@@ -407,9 +407,9 @@ public:
     static QTextCursor findCommentViaRange(const QTextDocument *document, int start, int end);
     /**
      * Grows the selection of @p cursor in both directions to the whole comment that its first
-     * character belongs to (without selection, the character behind it): over the fragments
-     * with the same comment marks and data (see findContinuousInspectorFragment()), also over
-     * paragraph ends and empty paragraphs. Unchanged where that character has no comment.
+     * character belongs to (without selection, the character after it): over the fragments with the
+     * same comment marks and data (see findContinuousInspectorFragment()), also over paragraph ends
+     * and empty paragraphs. Unchanged where that character has no comment.
      */
     static void adjustContinuousCommentCursor(QTextCursor &cursor);
 };

@@ -95,8 +95,8 @@ struct MRVBASE_EXPORT MRVTextChange
  * In the replacement of a regular expression these stand for something else:
  *
  * - \\0 or $0 or $&: all of the find. \\1 or $1, to 99: the group of that number, or nothing where
- *   it took no part. Of two digits the second counts as text where there are not so many groups.
- *   ${name}: the group of that name or number.
+ *   it took no part. Of two digits the second counts as text where there are fewer groups. ${name}:
+ *   the group of that name or number.
  * - \\n: a paragraph end. \\t: a tab. \\\\ and $$: a backslash, a dollar.
  *
  * All else stands as it is, a group that the expression does not have included. Groups give the
@@ -159,8 +159,8 @@ public:
     /**
      * Replaces the selection of @p cursor if it is a find, as find() would give it. One undo step.
      *
-     * @param cursor afterwards stands behind the new text, or, with FindBackward, in front of it,
-     *               so that find() goes on beyond it; untouched where false is returned.
+     * @param cursor afterwards stands after the new text, or, with FindBackward, before it, so that
+     *               find() goes on beyond it; untouched where false is returned.
      * @param replacement see above.
      * @return false where the selection is no find, or has an object in it.
      */

@@ -162,14 +162,13 @@ public:
 
     /**
      * Sets a value and records the change for groupsChanged(). The setting's group is the text
-     * before the last "/" of the key. Not recorded are keys without a group or with a "/" in front,
+     * before the last "/" of the key. Not recorded are keys without a group or that begin with "/",
      * changes made while the signals of the store are blocked, and changes made while a group
      * inside the one of setGroup() is open.
      *
      * Stored are numbers, texts, bytes and bits, colours, dates and times, points, sizes, lines and
      * rectangles, fonts, URLs, locales, identifiers, key sequences, and lists and maps of those.
-     * What else there is, Qt cannot read from a damaged file without harm: it is not set, with a
-     * warning.
+     * What else there is, Qt cannot read from a damaged file safely: it is not set, with a warning.
      *
      * @param key relative to the open group.
      * @param value of one of these types; invalid stores an invalid variant, which reads as the

@@ -80,7 +80,7 @@ public:
 
     /**
      * The commands that have just the keys @p sequence, in the order of their numbers: one in a
-     * sound scheme, none for an empty sequence.
+     * valid scheme, none for an empty sequence.
      */
     static QList<Id> owners(const MRVShortcutScheme &scheme, const QKeySequence &sequence);
 

@@ -12,17 +12,17 @@ class QTextCursor;
  *   place, and characters that do not change are not touched.
  * - Otherwise the characters that both texts begin with and end with stay, and what is between gets
  *   the format of the first character that it replaces. Where it replaces none, that of the
- *   character in front of it in the selection, or else behind it.
+ *   character before it in the selection, or else after it.
  * - A selection that holds tables or frames, or cells of a table, is replaced as a whole, with the
  *   format of its first character.
  * - Without a selection, @p text is inserted with the format of the cursor.
  *
- * The format of a paragraph's end is the character format of the paragraph behind it. The halves of
+ * The format of a paragraph's end is the character format of the paragraph after it. The halves of
  * a surrogate pair stay together. Line feeds, carriage returns and U+2029 part paragraphs. Text
  * that takes the place of an image gets the image's character format without what makes it an
  * image.
  *
- * One undo step; none where nothing changes. Afterwards the cursor stands behind the new text,
+ * One undo step; none where nothing changes. Afterwards the cursor stands after the new text,
  * without a selection. A null cursor does nothing.
  *
  * @since 1.0

@@ -37,13 +37,13 @@ public:
     static QTextCursor selectImage(const QTextCursor &cursor);
 
     /**
-     * Whether the character in front of the selection, or of the position, ends a word: white
-     * space, punctuation, the end of a paragraph, table or cell.
+     * Whether the character before the selection, or of the position, ends a word: white space,
+     * punctuation, the end of a paragraph, table or cell.
      *
      * @param atEdge the answer at the start of the document.
      */
     static bool hasWordBorderBefore(const QTextCursor &cursor, bool atEdge);
-    /** The same for the character behind it. @p atEdge is the answer at the end of the document. */
+    /** The same for the character after it. @p atEdge is the answer at the end of the document. */
     static bool hasWordBorderAfter(const QTextCursor &cursor, bool atEdge);
 
     /**
@@ -53,11 +53,11 @@ public:
     static bool hasMultipleBlocksSelected(const QTextCursor &cursor);
 
     /**
-     * Deletes the white space in front of the cursor, the ends of empty paragraphs and of the one
-     * before them included, and leaves the cursor where it began. It stops at the start of a table
-     * cell. A selection of white space ends where it was anchored, and what is in front of it goes;
-     * any other selection is deleted itself, and no more. One undo step; none without white space.
-     * Null does nothing.
+     * Deletes the white space before the cursor, the ends of empty paragraphs and of the one before
+     * them included, and leaves the cursor where it began. It stops at the start of a table cell. A
+     * selection of white space ends where it was anchored, and what is before it goes; any other
+     * selection is deleted itself, and no more. One undo step; none without white space. Null does
+     * nothing.
      */
     static void trimTrailingSpaces(QTextCursor *cursor);
 
@@ -68,9 +68,9 @@ public:
      * without its separator. With a selection, an end in an empty paragraph stays, and it is all or
      * nothing: where one end would stay where it is, so does the other.
      *
-     * @param withSeparator takes the separator in front of the first paragraph, too, if there is
-     *                      one: the first paragraph of the document or of a table cell has none,
-     *                      nor has one that follows a table.
+     * @param withSeparator takes the separator before the first paragraph, too, if there is one:
+     *                      the first paragraph of the document or of a table cell has none, nor has
+     *                      one that follows a table.
      */
     static void selectBlockUnderCursor(QTextCursor *cursor, bool withSeparator);
 

@@ -14,8 +14,8 @@ class QTextList;
 /** Properties that lists and their paragraphs have beside Qt's own. Saved documents carry them. */
 enum MRVListProperty {
     /**
-     * Of list formats: QVariantList of MRVQtListLevel. Qt uses the number too, for a text in front
-     * of item numbers, and HTML import sets it: only a list holds levels. Never call
+     * Of list formats: QVariantList of MRVQtListLevel. Qt uses the number too, for a text before
+     * item numbers, and HTML import sets it: only a list holds levels. Never call
      * QTextListFormat::setNumberPrefix() on a format with levels, it would replace them.
      */
     MRVListLevelsProperty = 0x3002,
@@ -41,7 +41,7 @@ struct MRVQtListLevel
     double textIndent = 0.0;
 };
 
-/** Exact: what is not the same is stored anew. */
+/** Exact: what is not the same is stored again. */
 MRVBASE_EXPORT bool operator==(const MRVQtListLevel &a, const MRVQtListLevel &b);
 inline bool operator!=(const MRVQtListLevel &a, const MRVQtListLevel &b)
 {

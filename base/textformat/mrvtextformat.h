@@ -103,8 +103,8 @@ public:
     enum SpacingType {
         SingleSpacing = 0,
         DoubleSpacing = 1,
-        FixedSpacing = 2, ///< at least so many points
-        ExactSpacing = 3, ///< so many points and no more
+        FixedSpacing = 2, ///< at least that many points
+        ExactSpacing = 3, ///< that many points and no more
         MultipleSpacing = 4, ///< any other multiple of the font size
     };
 
@@ -158,9 +158,9 @@ public:
 
     /**
      * A format with only the properties of @p groups. Margins and indents are copied where
-     * @p format sets them; line spacing is always written, as simplifySpacing() would leave it, but
-     * for taking spacing and base as equal, or base as 0, already when they are so but for
-     * rounding.
+     * @p format sets them; line spacing is always written, as simplifySpacing() would leave it,
+     * except for taking spacing and base as equal, or base as 0, already when they are so except
+     * for rounding.
      */
     static QTextBlockFormat simplified(const QTextBlockFormat &format, FormatGroups groups);
 

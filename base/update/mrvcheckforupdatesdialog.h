@@ -61,7 +61,7 @@ public Q_SLOTS:
      * then says why.
      */
     void downloadUpdate();
-    /** The installer is there, and sound. */
+    /** The installer is there, and valid. */
     void enableInstallButton();
     /** Once a download has begun, or cannot be of use any more. */
     void disableDownloadAndInstallButtons();

@@ -55,7 +55,7 @@ public:
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);
     /**
-     * Whether the installer is still the one that was found sound; warns the user where it is not.
+     * Whether the installer is still the one that was found valid; warns the user where it is not.
      * To be asked right before it is opened.
      */
     bool confirmInstaller();
@@ -67,7 +67,7 @@ public Q_SLOTS:
     void updateAvailable(bool available);
     /** Does nothing before a newer version is known; it is then fetched at once. */
     void downloadInstaller();
-    /** Checks that the installer is still the one that was found sound, and hands it over. */
+    /** Checks that the installer is still the one that was found valid, and hands it over. */
     void installRequested();
     /**
      * Ends the check without a word: closes the dialog, drops a running download, and emits

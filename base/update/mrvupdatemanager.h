@@ -81,7 +81,7 @@ public Q_SLOTS:
     /**
      * Ends a check, closes all windows of the application, and opens the installer with what the
      * desktop has for it, unless it comes from the check, and was changed since that found it
-     * sound.
+     * valid.
      */
     void onInstallUpdateRequested(const QString &exeFilePath);
     /** Notes the present time as that of the last check, and saves it. */

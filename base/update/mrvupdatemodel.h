@@ -92,7 +92,7 @@ public:
     /** Whether setPublicKey() was given a key, also one that is not valid. */
     bool needsSignature() const { return m_needsSignature; }
     /**
-     * Whether the installer is, byte for byte, the one that readEXE() found sound; false before. To
+     * Whether the installer is, byte for byte, the one that readEXE() found valid; false before. To
      * be asked right before the installer is opened, since it has been lying in a temporary folder.
      */
     bool isInstallerUnchanged() const;
@@ -162,5 +162,5 @@ private:
     QString m_settingsError;
     bool m_needsSignature = false;
     QByteArray m_publicKey;
-    QByteArray m_installerDigest; // of an installer that was found sound
+    QByteArray m_installerDigest; // of an installer that was found valid
 };

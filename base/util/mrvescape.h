@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/** Free functions, constants and enumerations that every room of the library uses. */
+/** Free functions, constants and enumerations that every module of the library uses. */
 namespace MRV {
 
 /**

@@ -38,7 +38,7 @@ public:
     };
 
     /**
-     * Reads a number and the unit behind it: "pt", "px", "cm", "mm", "dm", "inch", "in", a double
+     * Reads a number and the unit after it: "pt", "px", "cm", "mm", "dm", "inch", "in", a double
      * quote, "pi", "dd" (didot) or "cc" (cicero). White space does not count wherever it stands,
      * case does, and a number alone is refused. The number is what QString::toDouble() takes, with
      * a dot; that includes "inf" and "nan", and the points of a large number may be infinite where
@@ -73,7 +73,7 @@ public:
 
     /** The measure @p value as text, with six significant digits at most: "12.5pt", "1.5\"". */
     static QString toText(Unit unit, double value);
-    /** What to show behind a number, translated, with a blank in front; empty for None. */
+    /** What to show after a number, translated, with a blank before it; empty for None. */
     static QString suffix(Unit unit);
     /** "in", "dm", "cm", "mm", "px", "pi" or "pt"; empty for None. */
     static QString shortSuffix(Unit unit);

@@ -46,7 +46,7 @@ struct MRVBASE_EXPORT MRVHtmlTag
     QString take(QLatin1String attribute);
     /** Moves the first such attribute before the others; nothing without one. */
     void moveToFront(QLatin1String attribute);
-    /** Adds declarations in front of those of the style attribute, which is made when missing. */
+    /** Adds declarations before those of the style attribute, which is made when missing. */
     void addStyle(const QString &declarations);
 };
 

@@ -177,11 +177,11 @@ public:
     static void fixHtmlTag(QString *html);
     /** "<br>" becomes "<br />". */
     static void fixBrTag(QString *html);
-    /** "<img src=" gets an alternative text of one blank in front. */
+    /** "<img src=" gets, before its source, an alternative text of one blank. */
     static void fixImgTag(QString *html);
     /** Alignment of paragraphs becomes a style; a paragraph without content gets a line break. */
     static void fixPTag(QString *html);
-    /** Drops the alignment of list items, with an empty style attribute in front of it. */
+    /** Drops the alignment of list items, with an empty style attribute before it. */
     static void fixLiAlign(QString *html);
     /** Joins two style attributes that follow each other to one. */
     static void fixDoubleStyleAttr(QString *html);
@@ -246,7 +246,7 @@ public:
     static void removeAltTag(QString *html);
     /** Removes comments, "<!--" to the next "-->"; one that never ends is left as it is. */
     static void removeComments(QString *html);
-    /** Removes every style attribute with the blank in front of it. */
+    /** Removes every style attribute with the blank before it. */
     static void removeAllInlineCssProperties(QString *html);
     /** Keeps in style attributes only the properties of qtCssProperties(). */
     static void removeUnsupportedQtCssProperties(QString *html);
@@ -269,7 +269,7 @@ public:
     static QHash<QString, QString> toStyleSheet(const QString &style, bool dropFontFamily);
     /** The style value without underline and line-through; other decorations stay. */
     static QString removeTextDecorations(const QString &style);
-    /** Removes trailing zeros, and a decimal point left bare, in front of each "em;". */
+    /** Removes trailing zeros, and a decimal point left bare, before each "em;". */
     static QString trimEm(const QString &text);
     /** CSS properties that QTextDocument understands in clipboard HTML. */
     static QStringList qtCssProperties();

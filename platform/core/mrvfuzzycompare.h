@@ -3,7 +3,7 @@
 #include <cmath>
 
 /**
- * Whether @p a and @p b are equal but for rounding.
+ * Whether @p a and @p b are equal except for rounding.
  *
  * The tolerance is 1e-12 of the larger magnitude, and 1e-12 itself where both lie below 1, so that
  * a computed zero equals 0.0. An infinity equals only itself; a NaN equals nothing.
