@@ -14,6 +14,22 @@
  *
  * MRVManuscriptReader fills it. It can be moved, not copied. GUI thread only.
  *
+ * @code
+ * // Change the text of a file, and nothing else in it.
+ * MRVManuscript manuscript;
+ * MRVManuscriptReader reader;
+ * if (reader.read(QStringLiteral("novel.html"), &manuscript)) {
+ *     MRVTextQuery query;
+ *     query.text = QStringLiteral("Ann");
+ *     QByteArray changed;
+ *     const QVector<MRVTextChange> changes = MRVTextReplacer::preview(
+ *         manuscript.document.get(), query, QStringLiteral("Anna"));
+ *     if (MRVSourceEdit::changedBytes(manuscript, changes, MRVSourceEdit::KeepMarkup, &changed)) {
+ *         MRVSourceFile::replace(manuscript.path, manuscript.bytes, changed);
+ *     }
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 struct MRVBASE_EXPORT MRVManuscript

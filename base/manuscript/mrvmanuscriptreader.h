@@ -12,6 +12,16 @@
  * the head of HTML, else UTF-8. The names of pictures count from the folder of the file. Nothing is
  * fetched from other machines. GUI thread only.
  *
+ * @code
+ * MRVManuscriptReader reader;
+ * MRVManuscript manuscript;
+ * if (reader.read(QStringLiteral("novel.md"), &manuscript)) {
+ *     qDebug() << manuscript.document->blockCount() << "paragraphs by" << manuscript.authors;
+ * } else {
+ *     qWarning() << reader.errorString();
+ * }
+ * @endcode
+ *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVManuscriptReader
