@@ -1,10 +1,4 @@
-// Loads arbitrary bytes as an XML document, saves it, and loads what was saved. Not part of the
-// normal build:
-//
-//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
-//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Xml) fuzz/fuzz_domdocument.cpp
-//     base/dom/*.cpp platform/core/mcoretype.cpp platform/core/mrv*.cpp -o fuzz_domdocument
-//   ./fuzz_domdocument -rss_limit_mb=1024 CORPUS
+// Loads arbitrary bytes as an XML document, saves it, and loads what was saved.
 
 #include "dom/mrvdomdoc.h"
 

@@ -1,10 +1,4 @@
-// Applies arbitrary operations with arbitrary paths to an XML document. Not part of the normal
-// build:
-//
-//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
-//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Xml) fuzz/fuzz_dompath.cpp
-//     base/dom/*.cpp platform/core/mcoretype.cpp platform/core/mrv*.cpp -o fuzz_dompath
-//   ./fuzz_dompath -rss_limit_mb=1024 CORPUS
+// Applies arbitrary operations with arbitrary paths to an XML document.
 
 #include "dom/mrvdomdoc.h"
 

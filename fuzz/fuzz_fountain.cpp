@@ -1,14 +1,5 @@
 // Feeds arbitrary texts to the readers of scripts: Fountain, pages and Final Draft documents, and
-// what is read on to the writers, which must not change it. Not part of the normal build:
-//
-//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
-//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_fountain.cpp
-//     base/script/mrvfountain*.cpp base/script/mrvfinaldraft*.cpp base/screenplay/mrvtitlepage.cpp
-//     base/script/mrvscript{xml,mode,element,statistics}*.cpp base/util/mrvunit.cpp
-//     base/util/mrvcolors.cpp base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp
-//     -Lbuild/release/lib -lMrvBase -lMrvCore -lMrvGui -Wl,-rpath,build/release/lib -o
-//     fuzz_fountain
-//   ./fuzz_fountain -rss_limit_mb=512 CORPUS
+// what is read on to the writers, which must not change it.
 
 #include "screenplay/mrvfinaldraft.h"
 #include "screenplay/mrvfountain.h"

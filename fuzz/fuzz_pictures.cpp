@@ -1,10 +1,4 @@
-// Decodes arbitrary bytes as a picture of each format. Not part of the normal build:
-//
-//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
-//     -Iplatform $(pkg-config --cflags --libs Qt5Gui zlib) fuzz/fuzz_pictures.cpp
-//     platform/gui/mrvpicture*.cpp platform/gui/mrvsvgtext.cpp platform/core/mrv*.cpp
-//     -o fuzz_pictures
-//   ./fuzz_pictures -rss_limit_mb=2048 CORPUS
+// Decodes arbitrary bytes as a picture of each format.
 
 #include "core/mrvinputlimits.h"
 #include "gui/mrvpicturereader.h"

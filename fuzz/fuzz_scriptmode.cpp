@@ -1,15 +1,4 @@
-// Feeds arbitrary bytes to the reader of script modes. Not part of the normal build:
-//
-//   clang++-14 -O1 -g -fPIC -std=c++17 -fsanitize=fuzzer,address,undefined -fno-sanitize=vptr
-//     -Ibase -Iplatform $(pkg-config --cflags --libs Qt5Gui) fuzz/fuzz_scriptmode.cpp
-//     base/script/mrvscript*.cpp base/util/mrvunit.cpp base/util/mrvcolors.cpp
-//     base/util/mrvnames.cpp build/release/base/mrvdefaultscriptmode.cpp -Lbuild/release/lib
-//     -lMrvBase -lMrvCore -lMrvGui
-//     -Wl,-rpath,build/release/lib -o fuzz_scriptmode
-//   ./fuzz_scriptmode -rss_limit_mb=1024 -detect_leaks=0 CORPUS
-//     base/resources/scriptformats
-//
-// Only what reads and writes modes is compiled in, so that it is instrumented; the rest is not.
+// Feeds arbitrary bytes to the reader of script modes.
 
 #include "guiapplication.h"
 #include "scriptmode/mrvscriptmode.h"
