@@ -25,6 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     script = MRVFountainScript::fromText(QString::fromUtf8(bytes));
     require(script.normalized() == script);
+    require(script.toText(QString::fromUtf8(bytes)) == QString::fromUtf8(bytes));
     require(MRVFountainScript::fromText(script.toText()) == script);
     MRVFountainScript read;
     require(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(script), &read));

@@ -4,7 +4,7 @@
 #include <QtTest>
 
 /**
- * The rows of a file of tests/data, parted into cells at tabs. "\n", "\r", "\t" and "\\" mean what
+ * The rows of a file of tests/data, separated into cells by tabs. "\n", "\r", "\t" and "\\" mean what
  * they mean in C++. Empty lines and lines that start with '#' are left out.
  */
 inline QVector<QStringList> rowsOf(const QString &file)
@@ -30,9 +30,15 @@ inline QVector<QStringList> rowsOf(const QString &file)
     return rows;
 }
 
+/** A text of the current row of a test function's data. */
+inline QString cell(const char *column)
+{
+    return *static_cast<QString *>(QTest::qData(column, QMetaType::QString));
+}
+
 /**
  * Fills the data of a test function with the rows of @p file, whose @p columns are texts; missing
- * cells are empty. A row is called by its first two cells.
+ * cells are empty. A row is named by its first two cells.
  */
 inline void addRows(const QString &file, std::initializer_list<const char *> columns)
 {

@@ -98,10 +98,9 @@ private Q_SLOTS:
 void tst_Fixups::function()
 {
     QFETCH(QString, function);
-    QFETCH(QString, before);
     const auto convert = functionNamed(function);
     QVERIFY2(convert, qPrintable(function));
-    QTEST(convert(before), "after");
+    QTEST(convert(cell("before")), "after");
 }
 
 void tst_Fixups::nullIsNothing()

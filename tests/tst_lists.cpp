@@ -154,7 +154,8 @@ void tst_Lists::replaceText()
         QTextCursor cursor = MRVTextRange(before, 9999).toTextCursor(&document);
         MRVTextCursor::replaceText(cursor, text);
 
-        QVERIFY(cursor.atEnd() && !cursor.hasSelection());
+        QVERIFY(cursor.atEnd());
+        QVERIFY(!cursor.hasSelection());
         QCOMPARE(document.toPlainText().mid(before), QString(text).replace("\r\n", "\n"));
         for (int i = 0; i < expected.size(); ++i) {
             cursor.setPosition(before + i + 1);
@@ -257,8 +258,6 @@ void tst_Lists::edits()
         {"clear all", [](QTextCursor &c) { Levels::clearSelectedBlocksFromTextList(c); }},
     };
     QFETCH(QString, edit);
-    QFETCH(QString, from);
-    QFETCH(QString, to);
     QTextDocument document;
     QTextList *list = buildList(&document);
     QTextBlockFormat extra;
@@ -267,7 +266,8 @@ void tst_Lists::edits()
     QTextCursor(list->item(1)).mergeBlockFormat(extra);
     document.clearUndoRedoStacks();
     const QStringList start = documentDump(document);
-    QTextCursor cursor = MRVTextRange(from.toInt(), to.toInt()).toTextCursor(&document);
+    QTextCursor cursor =
+        MRVTextRange(cell("from").toInt(), cell("to").toInt()).toTextCursor(&document);
 
     edits.value(edit)(cursor);
     QTEST(levelsOf(document), "levels");

@@ -100,24 +100,19 @@ void tst_Mrv::init()
 
 void tst_Mrv::usage()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, word);
-    QFETCH(QString, environment);
-    const Ran ran = mrv(arguments, {}, environment.split(' ', Qt::SkipEmptyParts));
+    const Ran ran = mrv(cell("arguments"), {}, cell("environment").split(' ', Qt::SkipEmptyParts));
     QTEST(QString::number(ran.exitCode), "code");
-    QVERIFY2((ran.output + ran.errors).contains(word), qPrintable(ran.output + ran.errors));
+    QVERIFY2((ran.output + ran.errors).contains(cell("word")), qPrintable(ran.output + ran.errors));
     QVERIFY(ran.exitCode == 0 ? ran.errors.isEmpty() : isOneError(ran));
 }
 
 void tst_Mrv::refusals()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, word);
     const QMap<QString, QByteArray> before = contentsBelow(in(""));
-    const Ran ran = mrv("export " + arguments);
+    const Ran ran = mrv("export " + cell("arguments"));
     QCOMPARE(ran.exitCode, 1);
     QVERIFY2(isOneError(ran), qPrintable(ran.errors));
-    QVERIFY2(ran.errors.contains(word), qPrintable(ran.errors));
+    QVERIFY2(ran.errors.contains(cell("word")), qPrintable(ran.errors));
     QCOMPARE(contentsBelow(in("")), before);
 }
 
@@ -216,17 +211,16 @@ void tst_Mrv::leaveOldFiles(const QString &folder)
 // Each call that concerns the output folder meets a fault in turn.
 void tst_Mrv::allOrNothing()
 {
-    QFETCH(QString, type);
     QFETCH(QString, calls);
     QFETCH(QString, fault);
     const auto tracedExport = [&](const QString &folder, const QStringList &options) {
         leaveOldFiles(in(folder));
-        return run(
-            "strace",
-            QStringList{"-qq", "-y", "-o", in("trace"), "-e", "trace=" + calls} + options
-                + QStringList{MRV_TOOL, "export", in("book.html"), "--to", type, "-o", in(folder)},
-            {"ASAN_OPTIONS=detect_leaks=0", // leak detection and tracing exclude each other
-             "SOURCE_DATE_EPOCH=0"});
+        return run("strace",
+                   QStringList{"-qq", "-y", "-o", in("trace"), "-e", "trace=" + calls} + options
+                       + QStringList{MRV_TOOL, "export", in("book.html"), "--to", cell("type"),
+                                     "-o", in(folder)},
+                   {"ASAN_OPTIONS=detect_leaks=0", // leak detection and tracing exclude each other
+                    "SOURCE_DATE_EPOCH=0"});
     };
     QVERIFY(tracedExport("old/", {"--help"}).exitCode == 0);
     const QMap<QString, QByteArray> before = contentsBelow(in("old"));
@@ -261,15 +255,13 @@ void tst_Mrv::inputs()
 {
     QFETCH(QString, name);
     QFETCH(QString, text);
-    QFETCH(QString, options);
-    QFETCH(QString, expected);
     const QString file = name == "-" ? name : in(name);
     QVERIFY(name == "-" || writeBytes(file, text.toUtf8()));
     const QStringList arguments{"export", file, "--to", "xhtml", "-o", in("a.xhtml")};
-    const Ran ran = mrv(arguments + options.split(' ', Qt::SkipEmptyParts), text.toUtf8());
+    const Ran ran = mrv(arguments + cell("options").split(' ', Qt::SkipEmptyParts), text.toUtf8());
     QCOMPARE(ran.errors, QString());
     const QString page = QString::fromUtf8(bytesOf(in("a.xhtml")));
-    QVERIFY2(page.contains(expected), qPrintable(page));
+    QVERIFY2(page.contains(cell("expected")), qPrintable(page));
 }
 
 void tst_Mrv::manyInputs()
@@ -304,18 +296,15 @@ void tst_Mrv::standardStreams()
 
 void tst_Mrv::metadata()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, environment);
-    QFETCH(QString, expected);
-    const Ran ran = mrv("export --to epub -o @a.epub " + arguments, {},
-                        environment.split(' ', Qt::SkipEmptyParts));
+    const Ran ran = mrv("export --to epub -o @a.epub " + cell("arguments"), {},
+                        cell("environment").split(' ', Qt::SkipEmptyParts));
     QCOMPARE(ran.errors, QString());
     KZip book(in("a.epub"));
     QVERIFY(book.open(QIODevice::ReadOnly));
     const KArchiveFile *file = book.directory()->file("OEBPS/content.opf");
     QVERIFY(file);
     const QString package = QString::fromUtf8(file->data());
-    QVERIFY2(package.contains(expected), qPrintable(package));
+    QVERIFY2(package.contains(cell("expected")), qPrintable(package));
 }
 
 void tst_Mrv::remotePictures()

@@ -36,12 +36,10 @@ void tst_MrvFind::commands()
 
 void tst_MrvFind::usage()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, error);
     QVERIFY(writeBytes(in("a.txt"), "text"));
-    const Ran ran = mrv(arguments);
+    const Ran ran = mrv(cell("arguments"));
     QCOMPARE(ran.exitCode, 2);
-    QVERIFY2(ran.errors.contains(error), qPrintable(ran.errors));
+    QVERIFY2(ran.errors.contains(cell("error")), qPrintable(ran.errors));
     QCOMPARE(ran.errors.count('\n'), 1);
     QCOMPARE(ran.output, QString());
 }

@@ -18,11 +18,10 @@ private Q_SLOTS:
 void tst_MrvFormats::commands()
 {
     QFETCH(QString, settings);
-    QFETCH(QString, arguments);
     QFETCH(QString, output);
     const QByteArray stored = "[Options]\n" + settings.toUtf8() + '\n';
     QVERIFY(writeBytes(in("s.ini"), stored));
-    const Ran ran = mrv(arguments + " --settings @s.ini");
+    const Ran ran = mrv(cell("arguments") + " --settings @s.ini");
     for (const QString &line : output.split('\n')) {
         QVERIFY2(('\n' + ran.output).contains('\n' + line), qPrintable(ran.output));
     }

@@ -74,7 +74,6 @@ void tst_MrvGet::initTestCase()
 void tst_MrvGet::get()
 {
     QFETCH(QString, arguments);
-    QFETCH(QString, input);
     QFETCH(QString, file);
     const QString host = m_server.url(QString()).toString();
     if (file.contains("taken")) {
@@ -94,7 +93,7 @@ void tst_MrvGet::get()
     environment.insert("GET_PASSWORD", "pass");
     tool.setProcessEnvironment(environment);
     tool.start(MRV_TOOL, QStringList{"get"} + arguments.split(' '));
-    tool.write(input.toUtf8());
+    tool.write(cell("input").toUtf8());
     tool.closeWriteChannel();
     // The server answers from this thread.
     QTRY_COMPARE_WITH_TIMEOUT(tool.state(), QProcess::NotRunning, 60000);
@@ -140,18 +139,17 @@ void tst_MrvGet::terminal_data()
 // As somebody at a terminal sees it, who afterwards sees again what is typed.
 void tst_MrvGet::terminal()
 {
-    QFETCH(QString, path);
     QFETCH(QStringList, talk);
     m_server.answer("/bar", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
     // Is ignored in what a script has put into the background.
     std::signal(SIGINT, SIG_DFL);
     QProcess screen;
     screen.setProcessChannelMode(QProcess::MergedChannels);
-    screen.start(
-        programPath("script"),
-        {"-qec",
-         "trap : INT; " MRV_TOOL " get " + m_server.url(QString()).toString() + path + "; stty -a",
-         "/dev/null"});
+    screen.start(programPath("script"),
+                 {"-qec",
+                  "trap : INT; " MRV_TOOL " get " + m_server.url(QString()).toString()
+                      + cell("path") + "; stty -a",
+                  "/dev/null"});
     QString shown;
     for (int i = 0, at = 0; i < talk.size(); i += 2) {
         // It ends at once where a pseudo terminal cannot be had, and says so.

@@ -38,11 +38,9 @@ void tst_MrvScript::scripts()
 
 void tst_MrvScript::runRow(const QString &name)
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, file);
     QFETCH(QString, output);
-    QVERIFY(writeBytes(in(name), file.toUtf8()));
-    const Ran ran = mrv(arguments);
+    QVERIFY(writeBytes(in(name), cell("file").toUtf8()));
+    const Ran ran = mrv(cell("arguments"));
     QCOMPARE(ran.output.isEmpty(), output.isEmpty());
     QVERIFY2(ran.output.contains(output), qPrintable(ran.output));
     compareEnd(ran);

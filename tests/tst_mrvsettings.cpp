@@ -25,12 +25,11 @@ private:
 void tst_MrvSettings::commands()
 {
     QFETCH(QString, before);
-    QFETCH(QString, arguments);
     QFETCH(QString, after);
     if (!before.isEmpty()) {
         QVERIFY(writeBytes(in("a.ini"), before.toUtf8()));
     }
-    const Ran ran = settings(arguments + " --settings @a.ini");
+    const Ran ran = settings(cell("arguments") + " --settings @a.ini");
     QTEST(ran.output, "output");
     compareEnd(ran);
     QCOMPARE(QString::fromUtf8(bytesOf(in("a.ini"))), after.isEmpty() ? before : after);

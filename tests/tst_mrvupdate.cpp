@@ -1,7 +1,5 @@
 #include "mrvtool.h"
-
-#include <QTcpServer>
-#include <QTcpSocket>
+#include "rawserver.h"
 
 /** The tool's update check. */
 class TestMrvUpdate : public ToolTest
@@ -23,19 +21,11 @@ private Q_SLOTS:
         QFETCH(QString, error);
         const QString file = in("f");
         QVERIFY(writeBytes(file, feed == "big" ? QByteArray(1048577, ' ') : feed.toUtf8()));
-        QTcpServer server;
-        QVERIFY(server.listen(QHostAddress::LocalHost));
-        connect(&server, &QTcpServer::newConnection, [&] {
-            QTcpSocket *socket = server.nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [=] {
-                const bool loops = socket->readAll().startsWith("GET /loop ");
-                socket->write(feed == "404" ? "HTTP/1.0 404 Not Found\r\n\r\n"
-                                  : loops   ? "HTTP/1.0 302 Found\r\nLocation: /loop\r\n\r\n"
-                                            : "HTTP/1.0 200 OK\r\n\r\n" + feed.toUtf8());
-                socket->disconnectFromHost();
-            });
-        });
-        const QString web = QString("http://127.0.0.1:%1").arg(server.serverPort());
+        RawServer server;
+        server.answer("/loop", "HTTP/1.0 302 Found\r\nLocation: /loop\r\n\r\n");
+        server.answer("/none", "HTTP/1.0 404 Not Found\r\n\r\n");
+        server.answer("/feed", "HTTP/1.0 200 OK\r\n\r\n" + feed.toUtf8());
+        const QString web = server.url(QString()).toString();
         for (QString *text : {&arguments, &output, &error}) {
             text->replace("@f", file).replace("@web", web);
         }

@@ -13,10 +13,9 @@ private Q_SLOTS:
     void commands()
     {
         QFETCH(QString, source);
-        QFETCH(QString, arguments);
         QFETCH(QString, after);
         QVERIFY(writeBytes(in("f.xml"), source.toUtf8()));
-        const Ran ran = mrv(arguments, source.toUtf8());
+        const Ran ran = mrv(cell("arguments"), source.toUtf8());
         QTEST(ran.output, "output");
         compareEnd(ran);
         QCOMPARE(QString::fromUtf8(bytesOf(in("f.xml"))), after.isEmpty() ? source : after);

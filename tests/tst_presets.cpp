@@ -70,8 +70,10 @@ private Q_SLOTS:
         QCOMPARE(again.names(), scheme.names());
         QVERIFY(again == scheme);
         QCOMPARE(again.preset(QString()).blockFormat().tabPositions(), tabs.tabPositions());
-        QVERIFY(scheme.deletePreset("Body") && !scheme.deletePreset("Body"));
-        QVERIFY(again != scheme && again.contains("Body"));
+        QVERIFY(scheme.deletePreset("Body"));
+        QVERIFY(!scheme.deletePreset("Body"));
+        QVERIFY(again != scheme);
+        QVERIFY(again.contains("Body"));
     }
     void otherVersions()
     {
@@ -83,7 +85,8 @@ private Q_SLOTS:
         QVERIFY(preset == P({}, {}, P::ApplyBlockFormat));
         QCOMPARE(stream.device()->pos(), 4);
         QString error;
-        QVERIFY(Scheme::fromByteArray(bytes, &error).isEmpty() && !error.isEmpty());
+        QVERIFY(Scheme::fromByteArray(bytes, &error).isEmpty());
+        QVERIFY(!error.isEmpty());
         bytes = sampleBytes();
         bytes[3] = 2;
         QVERIFY(Scheme::fromByteArray(bytes).isEmpty());
@@ -116,10 +119,12 @@ private Q_SLOTS:
         QVERIFY(MRVTextPresetMgr::loadPresetScheme() == Scheme::defaultScheme());
         mrvOptions()->setValue(MRVOptions::TextPresets, Scheme::toByteArray(sample()));
         MRVTextPresetMgr *manager = MRVTextPresetMgr::instance();
-        QVERIFY(manager == MRVTextPresetMgr::instance() && manager->presetScheme() == sample());
+        QVERIFY(manager == MRVTextPresetMgr::instance());
+        QVERIFY(manager->presetScheme() == sample());
         QSignalSpy spy(manager, &MRVTextPresetMgr::presetsChanged);
         manager->removePreset("C");
-        QVERIFY(spy.isEmpty() && !QFile::exists(path));
+        QVERIFY(spy.isEmpty());
+        QVERIFY(!QFile::exists(path));
         manager->removePreset("B");
         QCOMPARE(spy.size(), 1);
         QCOMPARE(Scheme::fromByteArray(bytesOf(path)).names(), QStringList{"A"});

@@ -51,8 +51,6 @@ private Q_SLOTS:
 void tst_Replacer::replaceAll()
 {
     QFETCH(QString, text);
-    QFETCH(QString, kind);
-    QFETCH(QString, pattern);
     QFETCH(QString, replacement);
     QFETCH(QString, after);
     for (QString *cell : {&text, &after}) {
@@ -64,7 +62,7 @@ void tst_Replacer::replaceAll()
     document.setUndoRedoEnabled(false);
     document.setUndoRedoEnabled(true);
     const QStringList before = documentDump(document);
-    const MRVTextQuery query = queryFor(pattern, kind);
+    const MRVTextQuery query = queryFor(cell("pattern"), cell("kind"));
     const int changes = Replacer::preview(&document, query, replacement).size();
     QCOMPARE(documentDump(document), before);
     QCOMPARE(Replacer::replaceAll(&document, query, replacement), changes);
@@ -188,7 +186,9 @@ void tst_Replacer::oneByOne()
     }
     QCOMPARE(places.join(' '), QString("7 4 1")); // the one at 9 is behind the cursor
     c = selected(&document, 4, 5);
-    QVERIFY(Replacer::replace(c, query, "aa") && c.position() == 4 && !c.hasSelection());
+    QVERIFY(Replacer::replace(c, query, "aa"));
+    QVERIFY(c.position() == 4);
+    QVERIFY(!c.hasSelection());
     document.undo();
     places.clear();
     for (c = QTextCursor(&document);
@@ -201,7 +201,8 @@ void tst_Replacer::oneByOne()
 void tst_Replacer::refusals()
 {
     QString error;
-    QVERIFY(!queryFor("a(", "r").isValid(&error) && error.contains("3"));
+    QVERIFY(!queryFor("a(", "r").isValid(&error));
+    QVERIFY(error.contains("3"));
     QVERIFY(queryFor("a(", "p").isValid());
     QTextDocument document("a");
     QCOMPARE(Replacer::count(&document, queryFor("", "p"))
@@ -209,8 +210,8 @@ void tst_Replacer::refusals()
              0);
     QCOMPARE(Replacer::replaceAll(nullptr, queryFor("a", "p"), "b"), 0);
     QTextCursor none;
-    QVERIFY(!Replacer::replace(none, queryFor("a", "p"), "b")
-            && Replacer::find(none, queryFor("a", "p")).isNull());
+    QVERIFY(!Replacer::replace(none, queryFor("a", "p"), "b"));
+    QVERIFY(Replacer::find(none, queryFor("a", "p")).isNull());
 }
 
 QTEST_MAIN(tst_Replacer)

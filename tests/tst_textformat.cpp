@@ -89,10 +89,8 @@ QString answer(const QString &function, const QString &a, const QString &b)
 {
     const auto yes = [](bool answer) { return QString(answer ? "yes" : "no"); };
     if (function == "equivalent") {
-        return yes(F::equivalent(chars(a), chars(b)));
-    }
-    if (function == "equivalent reversed") {
-        return yes(F::equivalent(chars(b), chars(a)));
+        return yes(F::equivalent(chars(a), chars(b)))
+            + (F::equivalent(chars(a), chars(b)) == F::equivalent(chars(b), chars(a)) ? "" : "?");
     }
     if (function.endsWith(" match")) {
         return yes(F::formatsMatch(chars(a), chars(b), function == "values match"));
@@ -157,7 +155,8 @@ private Q_SLOTS:
         const QByteArray bytes = stored(format);
         const QTextFormat asChars = F::toCharFormat(QVariant(bytes)),
                           asBlock = F::toBlockFormat(QVariant(bytes));
-        QVERIFY(asChars.isCharFormat() && asBlock.isBlockFormat());
+        QVERIFY(asChars.isCharFormat());
+        QVERIFY(asBlock.isBlockFormat());
         const QTextFormat back = format.isBlockFormat() ? asBlock : asChars;
         QVERIFY((format.isBlockFormat() ? asChars : asBlock).properties().isEmpty());
         QCOMPARE(stored(back), bytes);
@@ -215,10 +214,8 @@ private Q_SLOTS:
     void answers()
     {
         QFETCH(QString, function);
-        QFETCH(QString, name);
-        QFETCH(QString, a);
-        QFETCH(QString, b);
-        QTEST(answer(function, function == "marks" ? name : a, b), "expected");
+        QTEST(answer(function, function == "marks" ? cell("name") : cell("a"), cell("b")),
+              "expected");
     }
 
     void tabStopsCompareByValue()
@@ -230,17 +227,17 @@ private Q_SLOTS:
 
     void defaultProperties()
     {
-        QHash<int, QVariant> expected;
         for (const QStringList &row : rowsOf("defaultproperties.tsv")) {
-            expected[row.at(0).section(' ', 0, 0).toInt(nullptr, 0)] = valueFrom(row.at(1));
+            const int property = row.at(0).section(' ', 0, 0).toInt(nullptr, 0);
+            const QVariant value = valueFrom(row.at(1));
+            QCOMPARE(F::defaultProperty(property), value);
+            QCOMPARE(F::defaultProperty(property).userType(), value.userType());
         }
-        QCOMPARE(expected.size(), 45);
+        int count = 0;
         for (int property = -1; property < 0x100200; ++property) {
-            const QVariant actual = F::defaultProperty(property), value = expected.value(property);
-            if (actual != value || actual.userType() != value.userType()) {
-                QFAIL(qPrintable(QString::number(property, 16)));
-            }
+            count += F::defaultProperty(property).isValid();
         }
+        QCOMPARE(count, 45);
     }
 
     void defaultCharFormat()

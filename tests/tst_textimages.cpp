@@ -91,7 +91,8 @@ private Q_SLOTS:
     void init()
     {
         m_dir.reset(new QTemporaryDir);
-        QVERIFY(m_dir->isValid() && QDir::setCurrent(m_dir->path()));
+        QVERIFY(m_dir->isValid());
+        QVERIFY(QDir::setCurrent(m_dir->path()));
     }
 
     void exportFormat_data()
@@ -102,13 +103,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, target);
         QFETCH(QString, link);
-        QFETCH(QString, raw);
         QFETCH(QString, expected);
         QVERIFY(link.isEmpty() || write(path(link), "linked bytes"));
         const QString file = target.isEmpty() ? "" : path(target);
         // A failure leaves no file of before, either.
         QVERIFY(target.isEmpty() || target.contains('/') || write(file, "old"));
-        const auto format = imageFormat("id;;;;" + (link.isEmpty() ? "" : path(link)) + ';' + raw);
+        const auto format =
+            imageFormat("id;;;;" + (link.isEmpty() ? "" : path(link)) + ';' + cell("raw"));
         QFETCH(QString, picture);
         const bool done = MRVTextFormat::exportImageFormat(
             file, format, picture.isEmpty() ? QImage() : ::picture(Qt::transparent));
@@ -124,8 +125,8 @@ private Q_SLOTS:
 
     void exportOntoLinkedFile()
     {
-        QVERIFY(write(path("l.png"), "linked bytes")
-                && QFile::link(path("l.png"), path("same.png")));
+        QVERIFY(write(path("l.png"), "linked bytes"));
+        QVERIFY(QFile::link(path("l.png"), path("same.png")));
         for (const char *name : {"l.png", "./l.png", "same.png"}) {
             QVERIFY(MRVTextFormat::exportImageFormat(
                 path(name), imageFormat("id;;;;" + path("l.png")), picture(Qt::red)));
@@ -145,7 +146,8 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, before);
         QFETCH(QString, after);
-        QVERIFY(QDir().mkdir("base") && write(path("text.png"), "no picture"));
+        QVERIFY(QDir().mkdir("base"));
+        QVERIFY(write(path("text.png"), "no picture"));
         QVERIFY(file.isEmpty() || picture("green").save(path(file)));
         Document document(before.replace("%1", m_dir->path()));
         document.addResource(QTextDocument::ImageResource, QUrl::fromLocalFile(path("base/beside")),
@@ -205,14 +207,13 @@ private Q_SLOTS:
     void names_data() { addRows("imagenames.tsv", {"kind", "name", "taken", "expected"}); }
     void names()
     {
-        QFETCH(QString, kind);
         QFETCH(QString, name);
-        QFETCH(QString, taken);
         QVERIFY(write(path("photo.large.png"), "x"));
-        const QStringList list = taken.split(',');
+        const QStringList list = cell("taken").split(',');
         const QSet<QString> set(list.begin(), list.end());
-        QTEST(kind == "mmd" ? MTextDoc::mmdImageName(name)
-                            : MTextDoc::findUniqueString(name.replace("%1", m_dir->path()), set),
+        QTEST(cell("kind") == "mmd"
+                  ? MTextDoc::mmdImageName(name)
+                  : MTextDoc::findUniqueString(name.replace("%1", m_dir->path()), set),
               "expected");
     }
 
@@ -227,16 +228,13 @@ private Q_SLOTS:
     }
     void exportIntoFolder()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, type);
-        QFETCH(QString, mmd);
         QFETCH(QString, expected);
         const Document document("id;;red");
-        QTextImageFormat format = imageFormat("id;;;" + type);
-        format.setProperty(MRVTextFormat::ImageNameProperty, name);
+        QTextImageFormat format = imageFormat("id;;;" + cell("type"));
+        format.setProperty(MRVTextFormat::ImageNameProperty, cell("name"));
         const QDir folder(path("new/images"));
         const QString file =
-            MTextDoc::exportImageFormat(document, format, folder, !mmd.isEmpty(), nullptr);
+            MTextDoc::exportImageFormat(document, format, folder, !cell("mmd").isEmpty(), nullptr);
         QCOMPARE(file, expected.isEmpty() ? QString() : folder.path() + '/' + expected);
         QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden).join('|'), expected);
         QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"new"});

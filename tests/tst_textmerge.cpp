@@ -107,13 +107,15 @@ private Q_SLOTS:
         convert(&none, &plain, true, false, &document);
         convert(nullptr, nullptr, false, false, &document);
         convert(&italic, &indented, false, false, static_cast<QTextDocument *>(nullptr));
-        QVERIFY(!document.isUndoAvailable() && !document.isModified());
+        QVERIFY(!document.isUndoAvailable());
+        QVERIFY(!document.isModified());
 
         convert(&italic, &indented, false, false, &document);
         const QString start = "{23}[plain bold][ link][*]|{0}kept[free]|0 |";
         QCOMPARE(italics(document), start + "{3}[item]|{3}[item 2]|{23}[wide]|{23}|{23}|{23}");
         const QTextBlock item = document.findBlockByNumber(3);
-        QVERIFY(item.textList() && !document.begin().textList());
+        QVERIFY(item.textList());
+        QVERIFY(!document.begin().textList());
         QCOMPARE(item.textList()->count(), 2);
         const QTextTable *table = QTextCursor(item.next().next()).currentTable();
         QVERIFY(table);

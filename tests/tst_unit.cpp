@@ -35,10 +35,8 @@ void tst_Unit::parse()
         MRVUnit::parseMeasure(text, gotPattern, gotDecimals, gotValue, gotPoints, gotUnit);
     QCOMPARE(ok, !pattern.isEmpty());
     QCOMPARE(gotPattern, ok ? pattern : "untouched");
-    QFETCH(QString, decimals);
-    QFETCH(QString, value);
-    QCOMPARE(QString::number(gotDecimals), ok ? decimals : "-5");
-    QCOMPARE(QString::number(gotValue, 'g', 12), ok ? value : "-5");
+    QCOMPARE(QString::number(gotDecimals), ok ? cell("decimals") : "-5");
+    QCOMPARE(QString::number(gotValue, 'g', 12), ok ? cell("value") : "-5");
     QCOMPARE(QString::number(gotPoints, 'g', 12), ok ? points : "-5");
     QCOMPARE(int(gotUnit), ok ? unit.toInt() : int(MRVUnit::Pixel));
     QCOMPARE(QString::number(MRVUnit::toPoint(text), 'g', 12), ok ? points : "0");
@@ -47,10 +45,8 @@ void tst_Unit::parse()
 
 void tst_Unit::convert()
 {
-    QFETCH(QString, to);
-    QFETCH(QString, from);
-    const double value =
-        MRVUnit::toUnit(MRVUnit::Unit(to.toInt()), MRVUnit::Unit(from.toInt()), 1.0);
+    const double value = MRVUnit::toUnit(MRVUnit::Unit(cell("to").toInt()),
+                                         MRVUnit::Unit(cell("from").toInt()), 1.0);
     QTEST(QString::number(value, 'g', 8), "expected");
 }
 
