@@ -85,10 +85,11 @@ QString damageOf(const MRVOptions *options)
 int show(const Call &call, MRVOptions *options)
 {
     const MRVAutoReplaceList list = options->autoReplaceList();
-    return lookThrough(call, QStringLiteral("Reading %1"), [&](const MRVManuscript &manuscript) {
-        showProgress(QString());
-        return printReplacements(call, list, manuscript);
-    });
+    return lookThrough(call, call.arguments, QStringLiteral("Reading %1"),
+                       [&](const MRVManuscript &manuscript) {
+                           showProgress(QString());
+                           return printReplacements(call, list, manuscript);
+                       });
 }
 
 int list(const Call &call, MRVOptions *options)

@@ -133,7 +133,7 @@ public:
     QString error() const { return m_error; }
     bool wantsHelp() const { return m_parser.isSet(QStringLiteral("help")); }
 
-    bool parse(const QStringList &arguments);
+    bool parse(QStringList arguments);
     bool findVerb();
     bool checkOptions();
     bool checkArguments();
@@ -141,7 +141,7 @@ public:
 private:
     bool fail(const QString &text, const QString &advice = QString());
     bool takesNext(const QString &argument) const;
-    QStringList optionsFirst(const QStringList &arguments) const;
+    bool putOptionsFirst(QStringList *arguments);
     bool checkOption(const QString &name);
 
     const Command &m_command;
@@ -188,30 +188,38 @@ bool CommandLine::takesNext(const QString &argument) const
 }
 
 // A text such as "-1" or "-->" is no option: the parser gets such texts after "--".
-QStringList CommandLine::optionsFirst(const QStringList &arguments) const
+bool CommandLine::putOptionsFirst(QStringList *arguments)
 {
-    QStringList options = arguments.mid(0, 1); // the command's name
+    QStringList options = arguments->mid(0, 1); // the command's name
     QStringList others{QStringLiteral("--")};
-    for (int i = 1; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
+    for (int i = 1; i < arguments->size(); ++i) {
+        const QString &argument = arguments->at(i);
         if (argument == QLatin1String("--")) {
-            return options + others + arguments.mid(i + 1);
+            others += arguments->mid(i + 1);
+            break;
         }
         if (!looksLikeOption(argument)) {
             others.append(argument);
             continue;
         }
         options.append(argument);
-        if (takesNext(argument) && i + 1 < arguments.size()) {
-            options.append(arguments.at(++i));
+        if (takesNext(argument)) {
+            if (++i == arguments->size()) {
+                return fail(argument + QLatin1String(": needs a value"));
+            }
+            options.append(arguments->at(i));
         }
     }
-    return options + others;
+    *arguments = options + others;
+    return true;
 }
 
-bool CommandLine::parse(const QStringList &arguments)
+bool CommandLine::parse(QStringList arguments)
 {
-    if (m_parser.parse(optionsFirst(arguments))) {
+    if (!putOptionsFirst(&arguments)) {
+        return false;
+    }
+    if (m_parser.parse(arguments)) {
         m_call.arguments = m_parser.positionalArguments();
         return true;
     }

@@ -119,13 +119,19 @@ struct Command
 
 extern const Command autoReplaceCommand;
 extern const Command enginesCommand;
+extern const Command exportCommand;
+extern const Command findCommand;
 extern const Command formatsCommand;
 extern const Command getCommand;
 extern const Command measureCommand;
+extern const Command notesCommand;
 extern const Command presetsCommand;
+extern const Command replaceCommand;
+extern const Command scriptCommand;
 extern const Command settingsCommand;
 extern const Command shortcutsCommand;
 extern const Command updateCommand;
+extern const Command xmlCommand;
 
 /** All commands, by name. */
 Rows<const Command *> commands();

@@ -3,8 +3,9 @@
 Rows<const Command *> commands()
 {
     static constexpr const Command *all[] = {
-        &autoReplaceCommand, &enginesCommand,  &formatsCommand,   &getCommand,    &measureCommand,
-        &presetsCommand,     &settingsCommand, &shortcutsCommand, &updateCommand,
+        &autoReplaceCommand, &enginesCommand,  &exportCommand,    &findCommand,    &formatsCommand,
+        &getCommand,         &measureCommand,  &notesCommand,     &presetsCommand, &replaceCommand,
+        &scriptCommand,      &settingsCommand, &shortcutsCommand, &updateCommand,  &xmlCommand,
     };
     return all;
 }

@@ -1,5 +1,4 @@
-#include "command.h"
-#include "documentinput.h"
+#include "inputs.h"
 
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvoutputfiles.h"
@@ -8,11 +7,9 @@
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
 
@@ -50,45 +47,6 @@ struct Options
     bool json = false;
 };
 
-enum class For { All, Pages, Packages };
-
-// Options of the command, one row each.
-constexpr struct
-{
-    const char *name;
-    const char *value; // null: takes none
-    For use;
-    const char *description;
-} optionRows[] = {
-    {"to", "TYPE", For::All, "What to write: html, xhtml, epub, kindle or kf8."},
-    {"output", "FILE", For::All,
-     "Where to write: a file, or a folder that exists; - is standard output. Default: beside the "
-     "input, with the type's suffix."},
-    {"from", "FORMAT", For::All,
-     "What the input is: html, markdown or text. Default: by its suffix."},
-    {"encoding", "NAME", For::All, "The input's encoding. Default: what it declares, else UTF-8."},
-    {"title", "TEXT", For::All, "The title. Default: the manuscript's own."},
-    {"language", "TAG", For::All,
-     "The language, such as en-GB. Default: what HTML tells, else, for e-books, that of the "
-     "locale."},
-    {"author", "NAME", For::Packages,
-     "An author; may be given several times. Default: what HTML tells in its head."},
-    {"identifier", "URI", For::Packages,
-     "An identifier such as urn:isbn:... Default: computed from the content."},
-    {"publisher", "NAME", For::Packages, "The publisher."},
-    {"description", "TEXT", For::Packages,
-     "What the book is about. Default: what HTML tells in its head."},
-    {"rights", "TEXT", For::Packages, "Copyright and licence."},
-    {"cover", "FILE", For::Packages, "A picture for the cover page."},
-    {"date", "TIME", For::Packages,
-     "The date of modification (ISO 8601; UTC unless it says otherwise), for e-books that are the "
-     "same byte for byte. Default: SOURCE_DATE_EPOCH (seconds since 1970), else now."},
-    {"epub-version", "N", For::Packages, "3 (default) or 2."},
-    {"no-images", nullptr, For::Pages, "Leave pictures where they are, and what refers to them."},
-    {"json", nullptr, For::All,
-     "Tell as JSON what was written; nothing, when that is standard output."},
-};
-
 const Target *targetNamed(const QString &name)
 {
     for (const Target &target : targets) {
@@ -97,18 +55,6 @@ const Target *targetNamed(const QString &name)
         }
     }
     return nullptr;
-}
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("export: ") + text);
-    return WrongUsage;
-}
-
-int failure(const QString &text)
-{
-    printError(text);
-    return Failed;
 }
 
 int readDate(const QString &given, QDateTime *date)
@@ -124,120 +70,64 @@ int readDate(const QString &given, QDateTime *date)
     return MRVFixedDate::fromEnvironment(date, &error) ? -1 : usageError(error);
 }
 
-void addOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(
-        QStringLiteral("Writes manuscripts (HTML, Markdown or plain text; - is standard input) as "
-                       "pages or e-books.\n"
-                       "Several inputs become one e-book, or a page each."));
-    parser->addPositionalArgument(QStringLiteral("IN"),
-                                  QStringLiteral("The manuscripts, in order."),
-                                  QStringLiteral("IN..."));
-    for (const auto &row : optionRows) {
-        QStringList names{QLatin1String(row.name)};
-        if (names.constFirst() == QLatin1String("output")) {
-            names.prepend(QStringLiteral("o"));
-        }
-        QString description = QLatin1String(row.description);
-        if (row.use != For::All) {
-            description += row.use == For::Pages ? QLatin1String(" (Pages only.)")
-                                                 : QLatin1String(" (E-books only.)");
-        }
-        parser->addOption({names, description, QLatin1String(row.value)});
-    }
-}
+// Options that only pages, or only packages, have a use for.
+constexpr const char pagesOnly[] = "no-images";
+constexpr const char packagesOnly[] =
+    "author identifier publisher description rights cover date epub-version";
 
 // -1 to go on, else the exit code; so with all that follow.
-int readTarget(const QCommandLineParser &parser, Options *options)
+int readTarget(const Call &call, Options *options)
 {
-    const QString name = parser.value(QStringLiteral("to"));
-    if (name.isEmpty()) {
+    if (!call.has("to")) {
         return usageError(
             QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
     }
-    options->target = targetNamed(name);
-    if (!options->target) {
-        return usageError(
-            QStringLiteral("unknown type '%1'; known are html, xhtml, epub, kindle and kf8")
-                .arg(name));
-    }
-    const For use = options->target->package ? For::Packages : For::Pages;
-    for (const auto &row : optionRows) {
-        if (row.use != For::All && row.use != use && parser.isSet(QLatin1String(row.name))) {
-            return usageError(
-                QStringLiteral("--%1 is for %2 only")
-                    .arg(QLatin1String(row.name),
-                         use == For::Pages ? QLatin1String("e-books") : QLatin1String("pages")));
+    options->target = targetNamed(call.value("to"));
+    const bool package = options->target->package;
+    const QStringList useless = words(package ? pagesOnly : packagesOnly);
+    for (const QString &option : useless) {
+        if (call.has(option.toLatin1().constData())) {
+            return usageError(QStringLiteral("--%1 is for %2 only")
+                                  .arg(option, QLatin1String(package ? "pages" : "e-books")));
         }
     }
     return -1;
 }
 
-int readInputs(const QCommandLineParser &parser, Options *options)
+int readMetadata(const Call &call, Options *options)
 {
-    options->inputs = parser.positionalArguments();
-    const QString format = parser.value(QStringLiteral("from"));
-    options->input = {format, parser.value(QStringLiteral("encoding")), true};
-    if (options->inputs.isEmpty()) {
-        return usageError(QStringLiteral("an input is missing"));
-    }
-    if (options->inputs.count(QStringLiteral("-")) > 1) {
-        return usageError(QStringLiteral("standard input can be read only once"));
-    }
-    if (!QStringList{QString(), QStringLiteral("html"), QStringLiteral("markdown"),
-                     QStringLiteral("text")}
-             .contains(format)) {
-        return usageError(
-            QStringLiteral("unknown format '%1'; known are html, markdown and text").arg(format));
-    }
-    return -1;
-}
-
-int readMetadata(const QCommandLineParser &parser, Options *options)
-{
-    auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
     MRVEPubMetadata &metadata = options->metadata;
-    metadata.title = value("title");
-    metadata.authors = parser.values(QStringLiteral("author"));
-    metadata.identifier = value("identifier");
-    metadata.publisher = value("publisher");
-    metadata.description = value("description");
-    metadata.rights = value("rights");
-    options->coverFile = value("cover");
-    metadata.language = MRV::languageTag(value("language"));
-    if (metadata.language.isEmpty() && !value("language").isEmpty()) {
-        return usageError(QStringLiteral("'%1' is not the tag of a language such as en-GB")
-                              .arg(value("language")));
-    }
-    const QString version = value("epub-version");
-    if (!version.isEmpty() && version != QLatin1String("2") && version != QLatin1String("3")) {
+    const QString language = call.value("language");
+    metadata.title = call.value("title");
+    metadata.authors = call.values("author");
+    metadata.identifier = call.value("identifier");
+    metadata.publisher = call.value("publisher");
+    metadata.description = call.value("description");
+    metadata.rights = call.value("rights");
+    metadata.language = MRV::languageTag(language);
+    if (metadata.language.isEmpty() && !language.isEmpty()) {
         return usageError(
-            QStringLiteral("unknown EPUB version '%1'; known are 2 and 3").arg(version));
+            QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
     }
-    options->version =
-        version == QLatin1String("2") ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3;
-    return options->target->package ? readDate(value("date"), &metadata.modified) : -1;
+    return options->target->package ? readDate(call.value("date"), &metadata.modified) : -1;
 }
 
-int readOptions(const QStringList &arguments, Options *options)
+// @return -1 to go on, else the exit code.
+int readOptions(const Call &call, Options *options)
 {
-    QCommandLineParser parser;
-    addOptions(&parser);
-    const int shown =
-        parseArguments(&parser, QStringLiteral("export IN... --to TYPE [OPTIONS]"), arguments);
-    if (shown >= 0) {
-        return shown;
+    options->inputs = call.arguments;
+    options->input = inputOptions(call);
+    options->output = call.value("output");
+    options->coverFile = call.value("cover");
+    options->images = !call.has("no-images");
+    options->json = call.json();
+    options->version = call.value("epub-version") == QLatin1String("2") ? MRVEPubVersion::EPub2
+                                                                        : MRVEPubVersion::EPub3;
+    const int code = readTarget(call, options);
+    if (code >= 0) {
+        return code;
     }
-    options->output = parser.value(QStringLiteral("output"));
-    options->images = !parser.isSet(QStringLiteral("no-images"));
-    options->json = parser.isSet(QStringLiteral("json"));
-    for (const auto read : {readTarget, readInputs, readMetadata}) {
-        const int code = read(parser, options);
-        if (code >= 0) {
-            return code;
-        }
-    }
-    return -1;
+    return readsTwice(options->inputs) ? int(WrongUsage) : readMetadata(call, options);
 }
 
 // The file to write for an input.
@@ -296,7 +186,7 @@ int checkOutputs(const Options &options, const QStringList &outputs)
     return spareInputs(outputs, options.inputs, &error)
             && MRVOutputFiles::areDistinct(filesOf(outputs), &error)
         ? -1
-        : failure(error);
+        : refuse(error);
 }
 
 bool readManuscripts(const Options &options, const QStringList &outputs,
@@ -400,17 +290,14 @@ void report(const Options &options, const QStringList &written)
         printLine(QStringLiteral("%1/ (pictures: %2)").arg(it.key(), QString::number(it.value())));
     }
     if (options.json) {
-        const QJsonObject account{{QStringLiteral("files"), files}};
-        printLine(QString::fromUtf8(QJsonDocument(account).toJson(QJsonDocument::Compact)));
+        printJson({{QStringLiteral("files"), files}});
     }
 }
 
-} // namespace
-
-int runExport(const QStringList &arguments)
+int run(const Call &call)
 {
     Options options;
-    int code = readOptions(arguments, &options);
+    int code = readOptions(call, &options);
     if (code >= 0) {
         return code;
     }
@@ -427,7 +314,7 @@ int runExport(const QStringList &arguments)
                 ? exportPackage(options, manuscripts, outputs.constFirst(), &written, &error)
                 : exportPages(options, manuscripts, outputs, &written, &error));
     if (!ok) {
-        return failure(error);
+        return refuse(error);
     }
     showProgress(QString());
     if (outputs.constFirst() != StandardOutput) {
@@ -435,3 +322,55 @@ int runExport(const QStringList &arguments)
     }
     return Done;
 }
+
+constexpr Verb verbs[] = {{"", "IN...", "", run}};
+
+constexpr Option options[] = {
+    Option::choice("to", "TYPE", "html xhtml epub kindle kf8",
+                   "What to write: html, xhtml, epub, kindle or kf8."),
+    Option::name("o output", "FILE",
+                 "Where to write: a file, or a folder that exists; - is standard output. Default: "
+                 "beside the input, with the suffix of the type."),
+    manuscriptFormat(),
+    manuscriptEncoding(),
+    Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
+    Option::text("language", "TAG",
+                 "The language, such as en-GB. Default: that of the manuscript, else, for e-books, "
+                 "that of the locale."),
+    Option::flag("no-images",
+                 "Leave pictures where they are, and what refers to them. (Pages only.)"),
+    Option::flag("json", "Print as JSON what was written; nothing when that is standard output."),
+};
+
+constexpr Option metadata[] = {
+    Option::text("author", "NAME",
+                 "An author. Default: what HTML says in its head. (E-books only, as all that "
+                 "follow.)")
+        .repeated(),
+    Option::text("identifier", "URI",
+                 "An identifier such as urn:isbn:... Default: computed from the content."),
+    Option::text("publisher", "NAME", "The publisher."),
+    Option::text("description", "TEXT",
+                 "What the book is about. Default: what HTML says in its head."),
+    Option::text("rights", "TEXT", "Copyright and licence."),
+    Option::name("cover", "FILE", "A picture for the cover page."),
+    Option::name("date", "TIME",
+                 "The date of modification (ISO 8601; UTC unless it says otherwise), for e-books "
+                 "that are the same byte for byte. Default: SOURCE_DATE_EPOCH (seconds since "
+                 "1970), else now."),
+    Option::choice("epub-version", "N", "2 3", "3 (default) or 2."),
+};
+
+} // namespace
+
+const Command exportCommand = {
+    "export",
+    "write manuscripts as HTML, XHTML or e-books",
+    "Writes manuscripts (HTML, Markdown or plain text; - is standard input) as pages or e-books. "
+    "Several inputs become one e-book, or a page each.",
+    "export novel.html --to epub --cover cover.png -o novel.epub\n"
+    "export one.md two.md --to epub --title \"Both\" -o both.epub\n"
+    "export notes.md --to xhtml -o site/notes.xhtml",
+    verbs,
+    {options, metadata},
+};

@@ -1,95 +1,34 @@
-#include "command.h"
+#include "inputs.h"
 #include "textsearch.h"
 
-#include <QCommandLineParser>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <limits>
+
 namespace {
 
-struct Options
+// What to look for and where: TEXT stands first unless -e or a format is given.
+// @return false, with a text, when the call is wrong.
+bool readSearch(const Call &call, MRVTextQuery *query, QStringList *inputs, QString *error)
 {
-    TextSearch search;
-    InputOptions input;
-    QStringList inputs;
-    int context = 0; // paragraphs
-    bool count = false;
-    bool onlyMatching = false;
-    bool json = false;
-};
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("find: ") + text);
-    return WrongUsage;
-}
-
-void addOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(QStringLiteral(
-        "Finds text in manuscripts (HTML, Markdown or plain text; - is standard input), and "
-        "prints\nthe paragraphs that hold it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e "
-        "tells it,\nor a format is asked for: then all text of that format is found.\n"
-        "Exit code 1: nothing found."));
-    parser->addPositionalArgument(QStringLiteral("TEXT"), QStringLiteral("What to look for."));
-    parser->addPositionalArgument(QStringLiteral("IN"), QStringLiteral("The manuscripts."),
-                                  QStringLiteral("IN..."));
-    parser->addOption({{QStringLiteral("e"), QStringLiteral("text")},
-                       QStringLiteral("What to look for, in place of the first argument."),
-                       QStringLiteral("TEXT")});
-    TextSearch::addOptions(parser);
-    parser->addOption({{QStringLiteral("C"), QStringLiteral("context")},
-                       QStringLiteral("Show N paragraphs around each find, too."),
-                       QStringLiteral("N")});
-    parser->addOption({{QStringLiteral("c"), QStringLiteral("count")},
-                       QStringLiteral("Tell only how many finds each input has.")});
-    parser->addOption({{QStringLiteral("o"), QStringLiteral("only-matching")},
-                       QStringLiteral("Print each find by itself, without what is around it.")});
-    parser->addOption(
-        {QStringLiteral("json"),
-         QStringLiteral("Print each find, or with --count each input, as a line of JSON.")});
-}
-
-// -1 to go on, else the exit code.
-int readOptions(const QStringList &arguments, Options *options)
-{
-    QCommandLineParser parser;
-    addOptions(&parser);
-    const int code =
-        parseArguments(&parser, QStringLiteral("find TEXT IN... [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
+    *inputs = call.arguments;
+    query->text = call.value("text");
+    if (!readSearchOptions(call, query, error)) {
+        return false;
     }
-    QString error;
-    TextSearch &search = options->search;
-    options->inputs = parser.positionalArguments();
-    search.query.text = parser.value(QStringLiteral("text"));
-    if (!search.readOptions(parser, &error)) {
-        return usageError(error);
+    if (!call.has("text") && query->kinds.isEmpty()) {
+        query->text = inputs->takeFirst();
     }
-    if (!parser.isSet(QStringLiteral("text")) && search.query.kinds.isEmpty()) {
-        search.query.text = options->inputs.isEmpty() ? QString() : options->inputs.takeFirst();
+    if (query->text.isEmpty() && query->kinds.isEmpty()) {
+        *error = QStringLiteral("TEXT is empty");
+    } else if (inputs->isEmpty()) {
+        *error = QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb);
+    } else {
+        return query->isValid(error);
     }
-    if (search.query.text.isEmpty() && search.query.kinds.isEmpty()) {
-        return usageError(QStringLiteral("a text to look for is missing"));
-    }
-    if (!search.query.isValid(&error)
-        || !readInputOptions(parser, options->inputs, &options->input, &error)) {
-        return usageError(error);
-    }
-    if (parser.isSet(QStringLiteral("context"))) {
-        bool ok = false;
-        options->context = parser.value(QStringLiteral("context")).toInt(&ok);
-        if (!ok || options->context < 0) {
-            return usageError(QStringLiteral("'%1' is no number of paragraphs")
-                                  .arg(parser.value(QStringLiteral("context"))));
-        }
-    }
-    options->count = parser.isSet(QStringLiteral("count"));
-    options->onlyMatching = parser.isSet(QStringLiteral("only-matching"));
-    options->json = parser.isSet(QStringLiteral("json"));
-    return -1;
+    return false;
 }
 
 // A paragraph with finds, or with parts of them: offsets in its text.
@@ -161,43 +100,69 @@ void printParagraphs(const QString &path, const QTextDocument &document,
     }
 }
 
-void printFinds(const Options &options, const QString &path, QTextDocument *document,
+void printFinds(const Call &call, const QString &path, QTextDocument *document,
                 const QVector<MRVTextRange> &finds)
 {
-    if (options.count && options.json) {
+    if (call.has("count") && call.json()) {
         printJson({{QStringLiteral("path"), path}, {QStringLiteral("count"), finds.size()}});
-    } else if (options.count) {
+    } else if (call.has("count")) {
         printLine(styled(Style::Path, path + u':') + u' ' + QString::number(finds.size()));
-    } else if (options.json) {
+    } else if (call.json()) {
         for (const MRVTextRange &find : finds) {
             printJson(toJson(path, document, find));
         }
-    } else if (options.onlyMatching) {
+    } else if (call.has("only-matching")) {
         for (const MRVTextRange &find : finds) {
             const int paragraph = document->findBlock(find.start()).blockNumber() + 1;
             printLine(styled(Style::Path, path + u':' + QString::number(paragraph) + u':') + u' '
                       + displayed(find.toTextCursor(document).selectedText()));
         }
     } else {
-        printParagraphs(path, *document, foundParagraphs(*document, finds), options.context);
+        printParagraphs(path, *document, foundParagraphs(*document, finds),
+                        int(call.number("context", 0)));
     }
 }
+
+int run(const Call &call)
+{
+    MRVTextQuery query;
+    QStringList inputs;
+    QString error;
+    if (!readSearch(call, &query, &inputs, &error)) {
+        return usageError(error);
+    }
+    return lookThrough(
+        call, inputs, QStringLiteral("Searching %1"), [&](const MRVManuscript &manuscript) {
+            const auto finds = MRVTextReplacer::findAll(manuscript.document.get(), query);
+            showProgress(QString());
+            printFinds(call, manuscript.path, manuscript.document.get(), finds);
+            return !finds.isEmpty();
+        });
+}
+
+constexpr Verb verbs[] = {{"", "[TEXT] IN...", "", run}};
+
+constexpr Option options[] = {
+    Option::text("e text", "TEXT", "What to look for, instead of the first argument."),
+    Option::integer("C context", "N", 0, std::numeric_limits<int>::max(),
+                    "Show N paragraphs around each match, too."),
+    Option::flag("c count", "Print only how many matches each input has."),
+    Option::flag("o only-matching", "Print each match alone, without the text around it."),
+    Option::flag("json", "Print each match, or with --count each input, as a line of JSON."),
+};
+
+constexpr Option inputs[] = {manuscriptFormat(), manuscriptEncoding()};
 
 } // namespace
 
-int runFind(const QStringList &arguments)
-{
-    Options options;
-    const int code = readOptions(arguments, &options);
-    if (code >= 0) {
-        return code;
-    }
-    return lookThrough(options.inputs, options.input, QStringLiteral("Searching %1"),
-                       [&](const MRVManuscript &manuscript) {
-                           const QVector<MRVTextRange> finds = MRVTextReplacer::findAll(
-                               manuscript.document.get(), options.search.query);
-                           showProgress(QString());
-                           printFinds(options, manuscript.path, manuscript.document.get(), finds);
-                           return !finds.isEmpty();
-                       });
-}
+const Command findCommand = {
+    "find",
+    "find text and formats in manuscripts",
+    "Finds text in manuscripts (HTML, Markdown or plain text; - is standard input), and prints the "
+    "paragraphs that contain it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e gives it, or "
+    "where a format is asked for: then all text of that format is found.\n"
+    "Exit code 1: nothing found.",
+    "find --loose --whole-word \"it's\" one.md two.md\nfind --bold --italic novel.html --count",
+    verbs,
+    {options, searchOptions, inputs},
+};

@@ -1,23 +1,106 @@
 #include "inputs.h"
 
+#include "manuscript/mrvmanuscriptreader.h"
+
+#include <QDir>
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace {
+
+// The option that helps where an input cannot be read.
+QString hint(MRVManuscriptReader::Error error)
+{
+    switch (error) {
+    case MRVManuscriptReader::UnknownFormat:
+        return QStringLiteral("; say with --from what it is");
+    case MRVManuscriptReader::UnknownEncoding:
+        return QStringLiteral("; give a known one with --encoding");
+    case MRVManuscriptReader::DecodingError:
+        return QStringLiteral("; give the right encoding with --encoding");
+    default:
+        return QString();
+    }
+}
+
+} // namespace
+
 InputOptions inputOptions(const Call &call)
 {
     return {call.value("from"), call.value("encoding"), false};
 }
 
-int lookThrough(const Call &call, const QString &doing,
+QByteArray standardInput(QString *reason)
+{
+    QByteArray bytes;
+    char buffer[65536];
+    ssize_t size;
+    while ((size = ::read(STDIN_FILENO, buffer, sizeof buffer)) != 0) {
+        if (size > 0) {
+            bytes.append(buffer, int(size));
+        } else if (errno != EINTR) {
+            *reason =
+                QStringLiteral("standard input cannot be read: %1").arg(qt_error_string(errno));
+            return QByteArray();
+        }
+    }
+    return bytes;
+}
+
+bool readManuscript(const QString &path, const InputOptions &options, MRVManuscript *manuscript,
+                    QString *error)
+{
+    MRVManuscriptReader reader;
+    reader.setFormat(MRVManuscript::formatNamed(options.format));
+    reader.setEncoding(options.encoding);
+    reader.setLoadsPictures(options.pictures);
+    bool ok = false;
+    if (path == QLatin1String("-")) {
+        QString unreadable;
+        const QByteArray bytes = standardInput(&unreadable);
+        if (!unreadable.isEmpty()) {
+            *error = unreadable;
+            return false;
+        }
+        ok = reader.readBytes(bytes, path, QDir::currentPath(), manuscript);
+    } else {
+        ok = reader.read(path, manuscript);
+    }
+    if (!ok) {
+        *error = reader.errorString() + hint(reader.error());
+    }
+    return ok;
+}
+
+int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
                 const std::function<bool(const MRVManuscript &)> &look)
 {
-    return readsTwice(call.arguments)
-        ? int(WrongUsage)
-        : lookThrough(call.arguments, inputOptions(call), doing, look);
+    if (readsTwice(inputs)) {
+        return WrongUsage;
+    }
+    bool found = false;
+    bool isRefused = false;
+    for (const QString &path : inputs) {
+        showProgress(doing.arg(path));
+        MRVManuscript manuscript;
+        QString error;
+        if (readManuscript(path, inputOptions(call), &manuscript, &error)) {
+            found = look(manuscript) || found;
+        } else {
+            refuse(error);
+            isRefused = true;
+        }
+    }
+    return found && !isRefused ? Done : Failed;
 }
 
 bool readsTwice(const QStringList &inputs)
 {
     const bool twice = inputs.count(QStringLiteral("-")) > 1;
     if (twice) {
-        printError(QStringLiteral("standard input can be read only once"));
+        usageError(QStringLiteral("standard input can be read only once"));
     }
     return twice;
 }

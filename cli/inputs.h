@@ -1,7 +1,12 @@
 #pragma once
 
 #include "commandline.h"
-#include "documentinput.h"
+
+#include "manuscript/mrvmanuscript.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -19,20 +24,38 @@ constexpr Option manuscriptEncoding(const char *verbs = nullptr)
                         "The encoding of the input. Default: what it declares, else UTF-8.", verbs);
 }
 
-/** How these options say that manuscripts are to be read; pictures are left alone. */
+/** How to read an input. Empty texts: find out. */
+struct InputOptions
+{
+    QString format; // "html", "markdown" or "text"
+    QString encoding;
+    bool pictures = false; // false: leave them, and what names them, alone
+};
+
+/** What the options of the call say; pictures are left alone. */
 InputOptions inputOptions(const Call &call);
 
 /**
- * Reads the arguments of the call one after the other as manuscripts, and hands each to @p look,
- * which returns whether it found something. One that cannot be read is reported, and the others
- * are still read.
+ * Reads a manuscript; "-" is standard input.
+ *
+ * @param error receives one line that names the file and, where there is one, an option that helps.
+ */
+bool readManuscript(const QString &path, const InputOptions &options, MRVManuscript *manuscript,
+                    QString *error);
+
+/**
+ * Reads the inputs one after the other and hands each to @p look, which returns whether it found
+ * something. One that cannot be read is reported, and the others are still read.
  *
  * @param doing shown on a terminal while an input is worked on: "Reading %1".
  * @return Done when something was found and every input could be read, else Failed; WrongUsage
  *         when standard input is given twice.
  */
-int lookThrough(const Call &call, const QString &doing,
+int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
                 const std::function<bool(const MRVManuscript &)> &look);
 
 /** Whether standard input ("-") is given twice among the inputs; an error is printed then. */
 bool readsTwice(const QStringList &inputs);
+
+/** All of standard input; @p reason receives a text when it cannot be read. */
+QByteArray standardInput(QString *reason);

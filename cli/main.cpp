@@ -1,8 +1,6 @@
-#include "command.h"
 #include "commandline.h"
 #include "suggestion.h"
 
-#include <QCommandLineParser>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -11,15 +9,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr OldCommand oldCommands[] = {
-    {"export", "write manuscripts as HTML, XHTML or e-books", runExport},
-    {"find", "find text and formats in manuscripts", runFind},
-    {"notes", "list links, notes, highlights and pictures", runNotes},
-    {"replace", "replace text in manuscripts", runReplace},
-    {"script", "list, show and check script modes", runScript},
-    {"xml", "read and edit XML files by paths", runXml},
-};
 
 // Qt warns of what the desktop lacks (a runtime folder, fonts); the tool's errors are its own, in
 // one line.
@@ -66,9 +55,6 @@ int refuseCommand(const QString &name)
     for (const Command *command : commands()) {
         names.append(QLatin1String(command->name));
     }
-    for (const OldCommand &command : oldCommands) {
-        names.append(QLatin1String(command.name));
-    }
     const QString advice = didYouMean(name, names);
     return usageError((name.isEmpty() ? QStringLiteral("a command is missing")
                                       : QStringLiteral("unknown command '%1'").arg(name))
@@ -76,34 +62,6 @@ int refuseCommand(const QString &name)
 }
 
 } // namespace
-
-int parseArguments(QCommandLineParser *parser, const QString &usage, const QStringList &arguments,
-                   const QString &hint)
-{
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Show this help."));
-    parser->addOption(help);
-    if (!parser->parse(arguments)) {
-        const bool isUnknown = !parser->unknownOptionNames().isEmpty();
-        printError(arguments.constFirst() + QLatin1String(": ") + parser->errorText()
-                   + (isUnknown ? hint : QString()));
-        return WrongUsage;
-    }
-    // An empty name, as of a variable that is not set, must not mean the user's own settings.
-    const QString settings = QStringLiteral("settings");
-    if (parser->optionNames().contains(settings) && parser->values(settings).contains(QString())) {
-        printError(arguments.constFirst() + QLatin1String(": --settings takes the name of a file"));
-        return WrongUsage;
-    }
-    if (parser->isSet(help)) {
-        QString text = parser->helpText();
-        // The parser would name the program alone.
-        text.replace(0, text.indexOf(u'\n'), QLatin1String("Usage: mrv ") + usage);
-        printLine(text.trimmed());
-        return Done;
-    }
-    return -1;
-}
 
 int main(int argc, char **argv)
 {
@@ -128,11 +86,6 @@ int main(int argc, char **argv)
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
         printLine(toolHelp());
         return Done;
-    }
-    for (const OldCommand &command : oldCommands) {
-        if (name == QLatin1String(command.name)) {
-            return ended(command.run(arguments));
-        }
     }
     for (const Command *command : commands()) {
         if (name == QLatin1String(command->name)) {

@@ -1,5 +1,4 @@
-#include "command.h"
-#include "documentinput.h"
+#include "inputs.h"
 #include "textsearch.h"
 
 #include "manuscript/mrvsourceedit.h"
@@ -8,7 +7,6 @@
 
 #include "core/mrvfilewriter.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
 #include <QTextBlock>
@@ -22,7 +20,7 @@ const QLatin1String StandardStream("-");
 
 struct Options
 {
-    TextSearch search;
+    MRVTextQuery query;
     QString replacement;
     InputOptions input;
     QStringList inputs;
@@ -33,78 +31,30 @@ struct Options
     bool json = false;
 };
 
-int usageError(const QString &text)
-{
-    printError(QLatin1String("replace: ") + text);
-    return WrongUsage;
-}
-
-void addOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(QStringLiteral(
-        "Replaces text in manuscripts (HTML, Markdown or plain text; - is standard input). Markup\n"
-        "and all other text stay as they are. Without -o each file is replaced, and what it was\n"
-        "is kept beside it as FILE~ (or FILE~1 and so on: no file but the input is overwritten);\n"
-        "standard input goes to standard output. No file is written before all changes are ready.\n"
-        "Exit code 1: nothing to replace."));
-    parser->addPositionalArgument(QStringLiteral("TEXT"), QStringLiteral("What to look for."));
-    parser->addPositionalArgument(
-        QStringLiteral("NEW"),
-        QStringLiteral("What takes its place; with -E, $1 stands for a group, $& for all of it."));
-    parser->addPositionalArgument(QStringLiteral("IN"), QStringLiteral("The manuscripts."),
-                                  QStringLiteral("IN..."));
-    TextSearch::addOptions(parser);
-    parser->addOption({{QStringLiteral("n"), QStringLiteral("dry-run")},
-                       QStringLiteral("Show what would change, and change nothing.")});
-    parser->addOption(
-        {{QStringLiteral("o"), QStringLiteral("output")},
-         QStringLiteral("Where to write: a file, or a folder that exists; - is standard output. It "
-                        "is written also where nothing changes. The input stays as it is."),
-         QStringLiteral("FILE")});
-    parser->addOption({QStringLiteral("rewrite"),
-                       QStringLiteral("Write the whole document anew, for changes that do not fit "
-                                      "into the markup. Styles and the like may be lost.")});
-    parser->addOption({QStringLiteral("no-backup"), QStringLiteral("Do not keep FILE~.")});
-    parser->addOption({QStringLiteral("json"),
-                       QStringLiteral("Tell as lines of JSON what was replaced in each file, or, "
-                                      "with --dry-run, each change.")});
-}
-
 bool isFolder(const QString &path)
 {
     return path.endsWith(u'/') || QFileInfo(path).isDir();
 }
 
-// -1 to go on, else the exit code.
-int readOptions(const QStringList &arguments, Options *options)
+// @return false, with a text, when the call is wrong.
+bool readOptions(const Call &call, Options *options, QString *error)
 {
-    QCommandLineParser parser;
-    addOptions(&parser);
-    const int code =
-        parseArguments(&parser, QStringLiteral("replace TEXT NEW IN... [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    options->inputs = parser.positionalArguments();
-    if (options->inputs.size() < 2 || options->inputs.constFirst().isEmpty()) {
-        return usageError(QStringLiteral("a text to look for, and one to put there, are missing"));
-    }
-    options->search.query.text = options->inputs.takeFirst();
+    options->inputs = call.arguments;
+    options->query.text = options->inputs.takeFirst();
     options->replacement = options->inputs.takeFirst();
-    QString error;
-    if (!options->search.readOptions(parser, &error)
-        || !readInputOptions(parser, options->inputs, &options->input, &error)) {
-        return usageError(error);
+    options->input = inputOptions(call);
+    options->output = call.value("output");
+    options->dryRun = call.has("dry-run");
+    options->rewrite = call.has("rewrite");
+    options->backup = !call.has("no-backup");
+    options->json = call.json();
+    if (!readSearchOptions(call, &options->query, error)) {
+        return false;
     }
-    options->output = parser.value(QStringLiteral("output"));
-    options->dryRun = parser.isSet(QStringLiteral("dry-run"));
-    options->rewrite = parser.isSet(QStringLiteral("rewrite"));
-    options->backup = !parser.isSet(QStringLiteral("no-backup"));
-    options->json = parser.isSet(QStringLiteral("json"));
     if (options->inputs.size() > 1 && !options->output.isEmpty() && !isFolder(options->output)) {
-        return usageError(QStringLiteral("several inputs need a folder to be written to"));
+        *error = QStringLiteral("several inputs need a folder to be written to");
     }
-    return -1;
+    return error->isEmpty();
 }
 
 QString targetOf(const Options &options, const QString &path)
@@ -230,8 +180,8 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     if (!readManuscript(path, options.input, &manuscript, error)) {
         return false;
     }
-    const QVector<MRVTextChange> changes = MRVTextReplacer::preview(
-        manuscript.document.get(), options.search.query, options.replacement);
+    const QVector<MRVTextChange> changes =
+        MRVTextReplacer::preview(manuscript.document.get(), options.query, options.replacement);
     Changed changed{
         path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}};
     if (options.dryRun) {
@@ -250,16 +200,16 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     return true;
 }
 
-} // namespace
-
-int runReplace(const QStringList &arguments)
+int run(const Call &call)
 {
     Options options;
-    const int code = readOptions(arguments, &options);
-    if (code >= 0) {
-        return code;
-    }
     QString error;
+    if (!readOptions(call, &options, &error)) {
+        return usageError(error);
+    }
+    if (readsTwice(options.inputs)) {
+        return WrongUsage;
+    }
     std::vector<Changed> all;
     bool ok = checkTargets(options, &error);
     for (int i = 0; ok && i < options.inputs.size(); ++i) {
@@ -277,8 +227,42 @@ int runReplace(const QStringList &arguments)
         }
     }
     if (!ok) {
-        printError(error);
-        return Failed;
+        return refuse(error);
     }
     return count > 0 ? Done : Failed;
 }
+
+constexpr Verb verbs[] = {{"", "TEXT NEW IN...", "", run}};
+
+constexpr Option options[] = {
+    Option::flag("n dry-run", "Show what would change, and change nothing."),
+    Option::name("o output", "FILE",
+                 "Where to write: a file, or a folder that exists; - is standard output. It is "
+                 "written even where nothing changes. The input stays as it is."),
+    Option::flag("rewrite",
+                 "Write the whole document, for changes that do not fit into the markup. Style "
+                 "sheets and the like may be lost."),
+    Option::flag("no-backup", "Do not keep FILE~."),
+    Option::flag("json",
+                 "Print as lines of JSON what was replaced in each file, or, with --dry-run, each "
+                 "change."),
+};
+
+constexpr Option inputs[] = {manuscriptFormat(), manuscriptEncoding()};
+
+} // namespace
+
+const Command replaceCommand = {
+    "replace",
+    "replace text in manuscripts",
+    "Replaces TEXT by NEW in manuscripts (HTML, Markdown or plain text; - is standard input). With "
+    "-E, $1 in NEW stands for a group, $& for the whole match. Markup and all other text stay as "
+    "they are. Without -o each file is replaced, and what it was is kept beside it as FILE~ (or "
+    "FILE~1 and so on: no file but the input is overwritten); standard input goes to standard "
+    "output. No file is written before all changes are ready.\n"
+    "Exit code 1: nothing to replace.",
+    "replace --dry-run -E '(\\d+)th of (\\w+)' '$2 $1' novel.html\n"
+    "replace colour color one.md two.md --no-backup",
+    verbs,
+    {options, searchOptions, inputs},
+};

@@ -1,11 +1,9 @@
 #include "scriptcommand.h"
-#include "command.h"
+#include "commandline.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "suggestion.h"
 #include "textformat/mrvtextformat.h"
-#include "textsearch.h"
 
-#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -14,32 +12,6 @@
 #include <utility>
 
 namespace {
-
-int runList(const QStringList &arguments);
-int runShow(const QStringList &arguments);
-int runCheck(const QStringList &arguments);
-
-constexpr OldCommand subcommands[] = {
-    {"list", "list the factory modes, or those of a folder", runList},
-    {"show", "show a mode, or write its file", runShow},
-    {"check", "check mode files", runCheck},
-    {"convert", "convert scripts: Fountain, HTML, Final Draft, EPUB", runScriptConvert},
-    {"stats", "count scenes, pages, and what characters say", runScriptStats},
-    {"rename", "rename a character", runScriptRename},
-};
-
-QString usage()
-{
-    QString text =
-        QStringLiteral("Usage: mrv script SUBCOMMAND [OPTIONS] [ARGUMENTS]\n\n"
-                       "Script modes and the scripts written in them.\n\nSubcommands:\n");
-    for (const OldCommand &command : subcommands) {
-        text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -10)
-                    .arg(QLatin1String(command.summary));
-    }
-    return text + QStringLiteral("\n'mrv script SUBCOMMAND --help' tells more.");
-}
 
 struct UnitName
 {
@@ -330,36 +302,22 @@ QJsonObject toJson(const MRVScriptElement &element)
     return object;
 }
 
-int runList(const QStringList &arguments)
+int list(const Call &call)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Lists the factory modes, or the modes of folders: their names, units and\n"
-        "number of elements. Files that are no modes are left out; 'mrv script check'\n"
-        "tells why. Exit code 1: there is none, or none in one of the folders."));
-    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Folders of mode files."),
-                                 QStringLiteral("[FOLDER...]"));
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("script list [FOLDER...] [--json]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
     QMap<QString, MRVScriptMode> modes;
     bool allFound = true;
-    const QStringList folders = parser.positionalArguments();
-    if (folders.isEmpty()) {
+    if (call.arguments.isEmpty()) {
         modes = MRVScriptMode::systemModes();
     }
-    for (const QString &folder : folders) {
+    for (const QString &folder : call.arguments) {
         if (!QFileInfo(folder).isDir()) {
-            printError(QStringLiteral("script: '%1' is no folder").arg(folder));
+            printError(QStringLiteral("'%1' is no folder").arg(folder));
             allFound = false;
             continue;
         }
         const QMap<QString, MRVScriptMode> some = mrv_loadPath(folder);
         if (some.isEmpty()) {
-            printError(QStringLiteral("script: no file in '%1' is a script mode").arg(folder));
+            printError(QStringLiteral("no file in '%1' is a script mode").arg(folder));
             allFound = false;
         }
         for (auto it = some.cbegin(); it != some.cend(); ++it) {
@@ -369,7 +327,7 @@ int runList(const QStringList &arguments)
     for (const MRVScriptMode &mode : qAsConst(modes)) {
         const int count = mode.elements().size();
         const QString units = MRVUnit::shortSuffix(mode.units());
-        if (parser.isSet(QStringLiteral("json"))) {
+        if (call.has("json")) {
             printJson({{QStringLiteral("name"), mode.name()},
                        {QStringLiteral("units"), units},
                        {QStringLiteral("elements"), count}});
@@ -381,20 +339,17 @@ int runList(const QStringList &arguments)
     return modes.isEmpty() || !allFound ? Failed : Done;
 }
 
-int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
+int showMode(const MRVScriptMode &mode, const Call &call)
 {
-    if (parser.isSet(QStringLiteral("xml")) || parser.isSet(QStringLiteral("output"))) {
-        const QString path = parser.value(QStringLiteral("output"));
+    if (call.has("xml") || call.has("output")) {
+        const QString path = call.value("output");
         QString error;
         const bool ok =
             path.isEmpty() ? writeStandardOutput(mode.toXml(), &error) : mode.save(path, &error);
-        if (!ok) {
-            printError(error);
-        }
-        return ok ? Done : Failed;
+        return ok ? int(Done) : refuse(error);
     }
     const QList<MRVScriptElement> elements = mode.elements();
-    if (parser.isSet(QStringLiteral("json"))) {
+    if (call.has("json")) {
         QJsonArray objects;
         for (const MRVScriptElement &element : elements) {
             objects.append(toJson(element));
@@ -411,73 +366,27 @@ int showMode(const MRVScriptMode &mode, const QCommandLineParser &parser)
     return Done;
 }
 
-int runShow(const QStringList &arguments)
+int show(const Call &call)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows a mode, element by element, or writes its file: a factory mode by its\n"
-        "name, or a mode file. Lengths in JSON are in points."));
-    parser.addPositionalArgument(QStringLiteral("MODE"),
-                                 QStringLiteral("The mode's name, or the path of its file."));
-    parser.addOption({QStringLiteral("units"), QStringLiteral("Show lengths in: in, cm, pt."),
-                      QStringLiteral("UNITS")});
-    parser.addOption({QStringLiteral("xml"), QStringLiteral("Print the mode's file.")});
-    parser.addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                      QStringLiteral("Write the mode's file."),
-                      QStringLiteral("FILE")});
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Print it as JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("script show MODE [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    const QStringList modes = parser.positionalArguments();
-    if (modes.size() != 1) {
-        return scriptUsageError(QStringLiteral("show takes one mode"));
-    }
-    const QString units = parser.value(QStringLiteral("units"));
     const UnitName *unit = nullptr;
     for (const UnitName &name : unitNames) {
-        unit = units == QLatin1String(name.option) ? &name : unit;
-    }
-    if (parser.isSet(QStringLiteral("units")) && !unit) {
-        return scriptUsageError(
-            QStringLiteral("unknown units '%1'; known are in, cm, pt").arg(units));
+        unit = call.value("units") == QLatin1String(name.option) ? &name : unit;
     }
     MRVScriptMode mode;
     QString error;
-    if (!findScriptMode(modes.constFirst(), &mode, &error)) {
-        printError(error);
-        return Failed;
+    if (!findScriptMode(call.arguments.constFirst(), &mode, &error)) {
+        return refuse(error);
     }
     if (unit) {
         mode.setUnits(unit->unit);
     }
-    return showMode(mode, parser);
+    return showMode(mode, call);
 }
 
-int runCheck(const QStringList &arguments)
+int check(const Call &call)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Checks mode files, and prints what could not be read as it stands, titles that are\n"
-        "missing, used twice or lead nowhere, and elements whose paragraphs cannot be told\n"
-        "apart. Exit code 1: there is something to print, or a file was refused."));
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The mode files."),
-                                 QStringLiteral("FILE..."));
-    parser.addOption(
-        {QStringLiteral("json"), QStringLiteral("Print each fault as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("script check FILE... [--json]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    const QStringList files = parser.positionalArguments();
-    if (files.isEmpty()) {
-        return scriptUsageError(QStringLiteral("check takes at least one file"));
-    }
     bool clean = true;
-    for (const QString &file : files) {
+    for (const QString &file : call.arguments) {
         MRVScriptMode mode;
         QString error;
         QStringList faults;
@@ -489,7 +398,7 @@ int runCheck(const QStringList &arguments)
         faults += mode.faults();
         clean = clean && faults.isEmpty();
         for (const QString &fault : qAsConst(faults)) {
-            if (parser.isSet(QStringLiteral("json"))) {
+            if (call.has("json")) {
                 printJson({{QStringLiteral("path"), file}, {QStringLiteral("fault"), fault}});
             } else {
                 printLine(styled(Style::Path, file) + QLatin1String(": ") + displayed(fault));
@@ -499,13 +408,58 @@ int runCheck(const QStringList &arguments)
     return clean ? Done : Failed;
 }
 
-} // namespace
+constexpr Verb verbs[] = {
+    {"list", "[FOLDER...]", "list the factory modes, or the modes of folders", list,
+     "Prints their names, units and number of elements. Files that are no modes are left out; 'mrv "
+     "script check' says why."},
+    {"show", "MODE", "show a mode, or write its file", show,
+     "MODE is the name of a factory mode, or a mode file. Lengths in JSON are in points."},
+    {"check", "FILE...", "check mode files", check,
+     "Prints what could not be read as it stands, titles that are missing, used twice or lead "
+     "nowhere, and elements whose paragraphs look the same. Exit code 1: something was printed, or "
+     "a file was refused."},
+    {"convert", "IN", "convert a script: Fountain, HTML, Final Draft, EPUB", runScriptConvert,
+     "Converts Fountain, pages and Final Draft documents into each other, and into e-books. - is "
+     "standard input. The pages that can be read are those that this command has written."},
+    {"stats", "IN...", "count scenes, pages, and what characters say", runScriptStats,
+     "Counts the scenes, pages, minutes and words of scripts, and what each character says. A page "
+     "is 54 lines of Courier 12, in eighths; a page is a minute. - is standard input."},
+    {"rename", "OLD NEW IN", "rename a character", runScriptRename,
+     "Renames a character in the cues and, on request, elsewhere, and writes the script in its own "
+     "format; other lines of Fountain stay as they are. - is standard input. Exit code 1: no "
+     "character has that name."},
+};
 
-int scriptUsageError(const QString &text)
-{
-    printError(QLatin1String("script: ") + text);
-    return WrongUsage;
-}
+constexpr Option options[] = {
+    Option::choice("units", "UNITS", "in cm pt", "Show lengths in in, cm or pt.", "show"),
+    Option::flag("xml", "Print the file of the mode.", "show"),
+    Option::name("o output", "FILE", "Write the file of the mode.", "show"),
+    Option::choice("to", "FORMAT", "fountain html fdx epub",
+                   "What to write: fountain, html, fdx or epub. Default: by the suffix of -o.",
+                   "convert"),
+    Option::choice("from", "FORMAT", "fountain html fdx",
+                   "The format of the input: fountain, html or fdx. Default: by its suffix.",
+                   "convert stats rename"),
+    Option::name("o output", "FILE",
+                 "Where to write; - is standard output. Default: beside the input, with the suffix "
+                 "of the format.",
+                 "convert"),
+    Option::name("o output", "FILE",
+                 "Where to write; may be the script itself. Default: standard output.", "rename"),
+    Option::name("mode", "MODE",
+                 "The mode that gives an e-book its look: the name of a factory mode, or a mode "
+                 "file. Default: the built-in US screenplay.",
+                 "convert"),
+    Option::text("language", "TAG",
+                 "The language of a page or e-book, such as en-GB. Default: that of the page that "
+                 "is read.",
+                 "convert"),
+    Option::flag("dialogue", "Also in dialogue.", "rename"),
+    Option::flag("action", "Also in all other text.", "rename"),
+    Option::flag("json", "Print the answer as lines of JSON."),
+};
+
+} // namespace
 
 bool findScriptMode(const QString &nameOrPath, MRVScriptMode *mode, QString *error)
 {
@@ -517,27 +471,23 @@ bool findScriptMode(const QString &nameOrPath, MRVScriptMode *mode, QString *err
         }
     }
     if (!QFileInfo::exists(nameOrPath)) {
-        *error = QStringLiteral("script: '%1' is neither a factory mode nor a file%2")
+        *error = QStringLiteral("'%1' is neither a factory mode nor a file%2")
                      .arg(nameOrPath, didYouMean(nameOrPath, factory.keys()));
         return false;
     }
     return mode->load(nameOrPath, error);
 }
 
-int runScript(const QStringList &arguments)
-{
-    const QString name = arguments.value(1);
-    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
-        printLine(usage());
-        return Done;
-    }
-    for (const OldCommand &command : subcommands) {
-        if (name == QLatin1String(command.name)) {
-            return command.run(QStringList(QLatin1String("script ") + name) + arguments.mid(2));
-        }
-    }
-    return scriptUsageError(
-        name.isEmpty()
-            ? QStringLiteral("a subcommand is missing; try 'mrv script --help'")
-            : QStringLiteral("unknown subcommand '%1'; try 'mrv script --help'").arg(name));
-}
+const Command scriptCommand = {
+    "script",
+    "convert and count scripts, rename characters, check script modes",
+    "Converts scripts, counts what they contain, renames their characters, and shows and checks "
+    "the "
+    "script modes that they are written in.\n"
+    "Exit code 1: nothing found, or refused.",
+    "script show \"US Screenplay\" --units cm -o mine.xml\n"
+    "script convert play.fountain --to epub --mode \"UK Screenplay\"\n"
+    "script rename Ann Anna play.fountain --dialogue --action -o play.fountain",
+    verbs,
+    {options},
+};

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "commandline.h"
+
 #include <QString>
-#include <QStringList>
 
 class MRVScriptMode;
 
-// Subcommands of "mrv script" that lie in files of their own. arguments[0] is "script NAME".
+// Verbs of "mrv script" that are in a file of their own.
 
-int runScriptConvert(const QStringList &arguments);
-int runScriptRename(const QStringList &arguments);
-int runScriptStats(const QStringList &arguments);
-
-/** "script: text" as the error, and the exit code for wrong usage. */
-int scriptUsageError(const QString &text);
+int runScriptConvert(const Call &call);
+int runScriptRename(const Call &call);
+int runScriptStats(const Call &call);
 
 /**
  * Finds a mode: a factory mode by its name, in any case, or a mode file by its path.

@@ -1,8 +1,6 @@
-#include "command.h"
-#include "documentinput.h"
+#include "inputs.h"
 
 #include "scriptcommand.h"
-#include "textsearch.h"
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvepubpackage.h"
@@ -15,7 +13,6 @@
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -61,12 +58,6 @@ Format formatOfFile(const QString &path)
         }
     }
     return Format::Unknown;
-}
-
-int failure(const QString &text)
-{
-    printError(text);
-    return Failed;
 }
 
 // A script, and where it came from.
@@ -204,57 +195,6 @@ bool isSameFile(const QString &a, const QString &b)
     return !real.isEmpty() && real == QFileInfo(b).canonicalFilePath();
 }
 
-void addFromOption(QCommandLineParser *parser)
-{
-    parser->addOption(
-        {QStringLiteral("from"),
-         QStringLiteral("What the input is: fountain, html or fdx. Default: by its suffix."),
-         QStringLiteral("FORMAT")});
-}
-
-bool isReadable(const QString &from)
-{
-    for (const auto &row : formats) {
-        if (from.isEmpty() || (from == QLatin1String(row.name) && row.isRead)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-int unreadable(const QString &from)
-{
-    return scriptUsageError(
-        QStringLiteral("unknown format '%1'; known are fountain, html and fdx").arg(from));
-}
-
-void addConvertOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(QStringLiteral(
-        "Converts a script (- is standard input): Fountain, pages and Final Draft documents\n"
-        "into each other, and into e-books. Pages are read that this command has written."));
-    parser->addPositionalArgument(QStringLiteral("IN"), QStringLiteral("The script."));
-    parser->addOption({QStringLiteral("to"),
-                       QStringLiteral("What to write: fountain, html, fdx or epub. Default: by "
-                                      "the suffix of -o."),
-                       QStringLiteral("FORMAT")});
-    addFromOption(parser);
-    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                       QStringLiteral("Where to write; - is standard output. Default: beside the "
-                                      "input, with the format's suffix."),
-                       QStringLiteral("FILE")});
-    parser->addOption({QStringLiteral("mode"),
-                       QStringLiteral("The mode that an e-book looks like: a factory mode's name "
-                                      "or a mode file. Default: the built-in US screenplay."),
-                       QStringLiteral("MODE")});
-    parser->addOption(
-        {QStringLiteral("language"),
-         QStringLiteral("The language of a page or e-book, such as en-GB. Default: that "
-                        "of the page that is read."),
-         QStringLiteral("TAG")});
-    parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
-}
-
 QString outputFile(const QString &input, const QString &output, Format format)
 {
     QString suffix;
@@ -286,72 +226,69 @@ struct ConvertOptions
 };
 
 // -1 to go on, else the exit code.
-int readOptions(const QCommandLineParser &parser, ConvertOptions *options)
+int readOptions(const Call &call, ConvertOptions *options)
 {
-    const QString to = parser.value(QStringLiteral("to"));
-    const QString output = parser.value(QStringLiteral("output"));
-    options->input = parser.positionalArguments().value(0);
-    options->from = parser.value(QStringLiteral("from"));
+    const QString to = call.value("to");
+    const QString output = call.value("output");
+    options->input = call.arguments.constFirst();
+    options->from = call.value("from");
     options->to = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
-    options->json = parser.isSet(QStringLiteral("json"));
-    if (parser.positionalArguments().size() != 1) {
-        return scriptUsageError(QStringLiteral("convert takes one script"));
-    }
-    if (!isReadable(options->from)) {
-        return unreadable(options->from);
-    }
+    options->json = call.has("json");
     if (options->to == Format::Unknown) {
-        return scriptUsageError(
+        return usageError(
             QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
     }
     const Format named = output == StandardStream ? Format::Unknown : formatOfFile(output);
     if (named != Format::Unknown && named != options->to && !QFileInfo(output).isDir()) {
-        return scriptUsageError(
+        return usageError(
             QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
     }
-    const QString language = parser.value(QStringLiteral("language"));
+    const QString language = call.value("language");
     options->language = MRV::languageTag(language);
     if (options->language.isEmpty() && !language.isEmpty()) {
-        return scriptUsageError(
+        return usageError(
             QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
     }
-    const QString mode = parser.value(QStringLiteral("mode"));
+    const QString mode = call.value("mode");
     if (!mode.isEmpty() && options->to != Format::EPub) {
-        return scriptUsageError(QStringLiteral("--mode is for e-books only"));
+        return usageError(QStringLiteral("--mode is for e-books only"));
     }
     QString error;
     QDateTime unused;
     if (options->to == Format::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
-        return scriptUsageError(error);
+        return usageError(error);
     }
     options->mode.loadFactoryDefaults();
     if (!mode.isEmpty() && !findScriptMode(mode, &options->mode, &error)) {
-        return failure(error);
+        return refuse(error);
     }
+    return -1;
+}
+
+// Finds the file to write. @return -1 to go on, else the exit code.
+int readOutput(const QString &output, ConvertOptions *options)
+{
     options->output = outputFile(options->input, output, options->to);
     const bool toFile = options->output != StandardStream;
     // Nobody named it, so what stands there may be somebody's work.
     if (toFile && (output.isEmpty() || QFileInfo(output).isDir())
         && QFileInfo::exists(options->output)) {
-        return failure(
+        return refuse(
             QStringLiteral("%1 exists; name it with -o to replace it").arg(options->output));
     }
     return toFile && options->input != StandardStream && isSameFile(options->input, options->output)
-        ? failure(QStringLiteral("%1: the output would replace the input; choose another with -o")
-                      .arg(options->output))
+        ? refuse(QStringLiteral("%1: the output would replace the input; choose another with -o")
+                     .arg(options->output))
         : -1;
 }
 
 } // namespace
 
-int runScriptConvert(const QStringList &arguments)
+int runScriptConvert(const Call &call)
 {
-    QCommandLineParser parser;
-    addConvertOptions(&parser);
     ConvertOptions options;
-    int code = parseArguments(&parser, QStringLiteral("script convert IN --to FORMAT [OPTIONS]"),
-                              arguments);
-    code = code >= 0 ? code : readOptions(parser, &options);
+    int code = readOptions(call, &options);
+    code = code >= 0 ? code : readOutput(call.value("output"), &options);
     if (code >= 0) {
         return code;
     }
@@ -359,13 +296,13 @@ int runScriptConvert(const QStringList &arguments)
     QByteArray bytes;
     QString error;
     if (!readScript(options.input, options.from, &script, &error)) {
-        return failure(error);
+        return refuse(error);
     }
     const QString language =
         options.language.isEmpty() ? MRV::languageTag(script.language) : options.language;
     if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
         || !writeScript(bytes, options.output, &error)) {
-        return failure(error);
+        return refuse(error);
     }
     tellLeftOut(script);
     if (options.output != StandardStream && options.json) {
@@ -421,41 +358,19 @@ void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
 
 } // namespace
 
-int runScriptStats(const QStringList &arguments)
+int runScriptStats(const Call &call)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Counts the scenes, pages, minutes and words of scripts, and what each character\n"
-        "says. A page is 54 lines of Courier 12, in eighths; a page is a minute."));
-    parser.addPositionalArgument(QStringLiteral("IN"),
-                                 QStringLiteral("The scripts; - is standard input."),
-                                 QStringLiteral("IN..."));
-    addFromOption(&parser);
-    parser.addOption({QStringLiteral("json"), QStringLiteral("Print each as a line of JSON.")});
-    const int code =
-        parseArguments(&parser, QStringLiteral("script stats IN... [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    const QStringList inputs = parser.positionalArguments();
-    const QString from = parser.value(QStringLiteral("from"));
-    if (inputs.isEmpty()) {
-        return scriptUsageError(QStringLiteral("stats takes at least one script"));
-    }
-    if (!isReadable(from)) {
-        return unreadable(from);
-    }
     bool ok = true;
-    for (const QString &input : inputs) {
+    for (const QString &input : call.arguments) {
         ScriptFile file;
         QString error;
-        if (!readScript(input, from, &file, &error)) {
+        if (!readScript(input, call.value("from"), &file, &error)) {
             printError(error); // the others can still be counted
             ok = false;
             continue;
         }
         const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script);
-        if (parser.isSet(QStringLiteral("json"))) {
+        if (call.has("json")) {
             printJson(toJson(input, statistics));
         } else {
             printStatistics(input, statistics);
@@ -466,37 +381,17 @@ int runScriptStats(const QStringList &arguments)
 
 namespace {
 
-void addRenameOptions(QCommandLineParser *parser)
-{
-    parser->setApplicationDescription(QStringLiteral(
-        "Renames a character in a script, in the cues and, on request, elsewhere, and writes\n"
-        "the script in its own format; of Fountain, other lines stay as they are. Exit code 1:\n"
-        "nobody has that name."));
-    parser->addPositionalArgument(QStringLiteral("OLD"), QStringLiteral("The name."));
-    parser->addPositionalArgument(QStringLiteral("NEW"), QStringLiteral("The new name."));
-    parser->addPositionalArgument(QStringLiteral("IN"),
-                                  QStringLiteral("The script; - is standard input."));
-    addFromOption(parser);
-    parser->addOption({QStringLiteral("dialogue"), QStringLiteral("Also in what is said.")});
-    parser->addOption({QStringLiteral("action"), QStringLiteral("Also in all other text.")});
-    parser->addOption({{QStringLiteral("o"), QStringLiteral("output")},
-                       QStringLiteral("Where to write; may be the script itself. Default: "
-                                      "standard output."),
-                       QStringLiteral("FILE")});
-    parser->addOption({QStringLiteral("json"), QStringLiteral("Tell as JSON what was written.")});
-}
-
 // Renames in @p file. @return how many names there were.
-int renamed(const QCommandLineParser &parser, ScriptFile *file)
+int renamed(const Call &call, ScriptFile *file)
 {
     MRVScriptDocument::RenameScope scope;
-    scope.setFlag(MRVScriptDocument::InDialogue, parser.isSet(QStringLiteral("dialogue")));
-    scope.setFlag(MRVScriptDocument::InAction, parser.isSet(QStringLiteral("action")));
+    scope.setFlag(MRVScriptDocument::InDialogue, call.has("dialogue"));
+    scope.setFlag(MRVScriptDocument::InAction, call.has("action"));
     MRVScriptMode mode;
     mode.loadFactoryDefaults();
     QTextDocument document;
     MRVScriptDocument::setScript(&document, file->script, mode);
-    const QStringList names = parser.positionalArguments();
+    const QStringList names = call.arguments;
     const int count =
         MRVScriptDocument::renameCharacter(&document, mode, names.at(0), names.at(1), scope);
     file->script = MRVScriptDocument::script(document, mode);
@@ -505,52 +400,41 @@ int renamed(const QCommandLineParser &parser, ScriptFile *file)
 
 } // namespace
 
-int runScriptRename(const QStringList &arguments)
+int runScriptRename(const Call &call)
 {
-    QCommandLineParser parser;
-    addRenameOptions(&parser);
-    const int code =
-        parseArguments(&parser, QStringLiteral("script rename OLD NEW IN [OPTIONS]"), arguments);
-    if (code >= 0) {
-        return code;
-    }
-    const QStringList names = parser.positionalArguments();
-    const QString from = parser.value(QStringLiteral("from"));
-    if (names.size() != 3 || names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
-        return scriptUsageError(QStringLiteral("rename takes two names and a script"));
+    const QStringList &names = call.arguments;
+    if (names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
+        return usageError(QStringLiteral("a name is empty"));
     }
     if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
-        return scriptUsageError(QStringLiteral("a name is one line"));
-    }
-    if (!isReadable(from)) {
-        return unreadable(from);
+        return usageError(QStringLiteral("a name is one line"));
     }
     ScriptFile file;
     QString error;
-    if (!readScript(names.at(2), from, &file, &error)) {
-        return failure(error);
+    if (!readScript(names.at(2), call.value("from"), &file, &error)) {
+        return refuse(error);
     }
-    const QString output = parser.value(QStringLiteral("output"));
+    const QString output = call.value("output");
     // Documents and pages may hold more than scripts: revisions, headers, what others have added.
     if (isSameFile(names.at(2), output) && revisedBytes(file) != file.bytes) {
-        return failure(
+        return refuse(
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
                 .arg(output));
     }
-    const int count = renamed(parser, &file);
+    const int count = renamed(call, &file);
     if (count == 0) {
         const bool isSame =
             names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
-        return failure((isSame ? QStringLiteral("%1: '%2' is the same name")
-                               : QStringLiteral("%1: nobody is called '%2'"))
-                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
+        return refuse((isSame ? QStringLiteral("%1: '%2' is the same name")
+                              : QStringLiteral("%1: nobody is called '%2'"))
+                          .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
     if (!writeScript(revisedBytes(file), target, &error)) {
-        return failure(error);
+        return refuse(error);
     }
     tellLeftOut(file);
-    if (target != StandardStream && parser.isSet(QStringLiteral("json"))) {
+    if (target != StandardStream && call.has("json")) {
         printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
     } else if (target != StandardStream) {
         printLine(QStringLiteral("%1: %2 renamed").arg(target).arg(count));

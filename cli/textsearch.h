@@ -1,7 +1,6 @@
 #pragma once
 
-#include "documentinput.h"
-#include "output.h"
+#include "commandline.h"
 
 #include "search/mrvtextfinder.h"
 #include "search/mrvtextreplacer.h"
@@ -9,31 +8,35 @@
 
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 
-class QCommandLineParser;
 class QTextDocument;
 
-/** What a subcommand looks for, as its arguments say. */
-class TextSearch
-{
-public:
-    MRVTextQuery query;
-
-    /** Adds the options that say how to search, and how to read the inputs. */
-    static void addOptions(QCommandLineParser *parser);
-    /** Takes up these options. @return false, with a text, when they are wrong. */
-    bool readOptions(const QCommandLineParser &parser, QString *error);
+/** The options that say how to search. */
+constexpr Option searchOptions[] = {
+    Option::flag("E regex", "TEXT is a regular expression (Perl syntax, Unicode letters)."),
+    Option::flag("s case", "Match case."),
+    Option::flag("w whole-word", "Match whole words only."),
+    Option::flag("word-start", "Match only where a word begins."),
+    Option::flag("word-end", "Match only where a word ends."),
+    Option::flag("l loose",
+                 "Match straight and curly quotes, hyphens and short dashes, kinds of spaces, and "
+                 "composed and decomposed accents alike."),
+    Option::flag("links", "Only text that is a link."),
+    Option::flag("highlights", "Only highlighted text."),
+    Option::name("colour color", "COLOUR",
+                 "Only text in this colour (a name or #rrggbb); 'any' for any colour."),
+    Option::name("highlight", "COLOUR", "Only text highlighted in this colour."),
+    Option::flag("bold", "Only bold text, headings included."),
+    Option::flag("italic", "Only italic text."),
+    Option::flag("underline", "Only underlined text."),
+    Option::flag("strike", "Only text that is struck out."),
 };
 
-/** Adds the options that say how to read inputs. */
-void addInputOptions(QCommandLineParser *parser);
 /**
- * Takes up these options, and looks at the list of inputs. Pictures are left alone.
- * @return false, with a text, when they are wrong.
+ * Takes up these options of a call. @return false, with a text, when they are wrong; the text to
+ * look for is looked at too.
  */
-bool readInputOptions(const QCommandLineParser &parser, const QStringList &inputs,
-                      InputOptions *options, QString *error);
+bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error);
 
 /**
  * Where a range lies, for programs: the paragraph and the column in it, from 1; the positions in

@@ -1,10 +1,8 @@
-#include "command.h"
-#include "suggestion.h"
+#include "commandline.h"
 
 #include "dom/mrvdomdoc.h"
 
 #include <QBuffer>
-#include <QCommandLineParser>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -14,58 +12,19 @@
 
 namespace {
 
-struct Options
-{
-    QString file;
-    QString path;
-    QString value;
-    QString attribute;
-    QString output;
-    bool all = false;
-    bool json = false;
-};
-
-struct Verb
-{
-    const char *name;
-    const char *arguments;
-    const char *summary;
-    int minArguments; // behind the verb
-    int maxArguments;
-    bool changes;
-    int (*run)(MRVDomDoc &doc, const Options &options);
-};
-
-int runGet(MRVDomDoc &doc, const Options &options);
-int runSet(MRVDomDoc &doc, const Options &options);
-int runList(MRVDomDoc &doc, const Options &options);
-int runRemove(MRVDomDoc &doc, const Options &options);
-int runCreate(MRVDomDoc &doc, const Options &options);
-
-constexpr Verb verbs[] = {
-    {"get", "PATH", "print the text of an element, or an attribute", 1, 1, false, runGet},
-    {"set", "PATH VALUE", "set the text of an element, or an attribute", 2, 2, true, runSet},
-    {"ls", "[PATH]", "list the elements in an element", 0, 1, false, runList},
-    {"rm", "PATH", "remove an element, or all that the path names", 1, 1, true, runRemove},
-    {"create", "PATH [VALUE]", "create the elements of a path that are missing", 1, 2, true,
-     runCreate},
-};
-
-int usageError(const QString &text)
-{
-    printError(QLatin1String("xml: ") + text);
-    return WrongUsage;
-}
-
 QString described(const QString &file)
 {
     return file == QLatin1String("-") ? QStringLiteral("standard input") : file;
 }
 
-int refused(const Options &options, const QString &reason)
+int refuse(const Call &call, const QString &reason)
 {
-    printError(described(options.file) + QLatin1String(": ") + reason);
-    return Failed;
+    return refuse(described(call.arguments.constFirst()) + QLatin1String(": ") + reason);
+}
+
+QString pathOf(const Call &call)
+{
+    return call.arguments.value(1);
 }
 
 bool isXmlName(const QString &name)
@@ -86,11 +45,11 @@ QStringList childNames(const QDomElement &element)
     return names;
 }
 
-bool moveTo(MRVDomDoc &doc, const Options &options)
+bool moveTo(MRVDomDoc &doc, const Call &call)
 {
     doc.cdRoot();
-    if (!doc.cd(options.path)) {
-        refused(options, doc.whyMissing(options.path));
+    if (!doc.cd(pathOf(call))) {
+        refuse(call, doc.whyMissing(pathOf(call)));
         return false;
     }
     return true;
@@ -112,15 +71,16 @@ QJsonObject toJson(MRVDomDoc &doc)
             {QStringLiteral("elements"), QJsonArray::fromStringList(childNames(element))}};
 }
 
-int runGet(MRVDomDoc &doc, const Options &options)
+int get(MRVDomDoc &doc, const Call &call)
 {
-    if (!moveTo(doc, options)) {
+    const QString attribute = call.value("attribute");
+    if (!moveTo(doc, call)) {
         return Failed;
     }
     QVector<QDomElement> found{doc.currentElement()};
-    if (options.all) {
+    if (call.has("all")) {
         doc.cdRoot();
-        doc.find(options.path);
+        doc.find(pathOf(call));
         for (QDomElement e = doc.findNext(); !e.isNull(); e = doc.findNext()) {
             found.append(e);
         }
@@ -128,14 +88,13 @@ int runGet(MRVDomDoc &doc, const Options &options)
     for (const QDomElement &element : qAsConst(found)) {
         doc.setWorkElement(element);
         QString text;
-        if (options.attribute.isEmpty()) {
+        if (!call.has("attribute")) {
             doc.get(&text);
-        } else if (!doc.getAttr(options.attribute, &text, element)) {
-            return refused(
-                options,
-                QStringLiteral("%1 has no attribute '%2'").arg(doc.workPath(), options.attribute));
+        } else if (!doc.getAttr(attribute, &text, element)) {
+            return refuse(
+                call, QStringLiteral("%1 has no attribute '%2'").arg(doc.workPath(), attribute));
         }
-        if (options.json) {
+        if (call.json()) {
             printJson(toJson(doc));
         } else {
             printLine(text);
@@ -144,16 +103,16 @@ int runGet(MRVDomDoc &doc, const Options &options)
     return Done;
 }
 
-int runList(MRVDomDoc &doc, const Options &options)
+int list(MRVDomDoc &doc, const Call &call)
 {
     constexpr int MaxShown = 60;
-    if (!moveTo(doc, options)) {
+    if (!moveTo(doc, call)) {
         return Failed;
     }
     for (QDomElement child = doc.currentElement().firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         doc.setWorkElement(child);
-        if (options.json) {
+        if (call.json()) {
             printJson(toJson(doc));
             continue;
         }
@@ -168,107 +127,107 @@ int runList(MRVDomDoc &doc, const Options &options)
     return Done;
 }
 
-int runSet(MRVDomDoc &doc, const Options &options)
+int set(MRVDomDoc &doc, const Call &call)
 {
-    if (!options.attribute.isEmpty() && !isXmlName(options.attribute)) {
-        return refused(options,
-                       QStringLiteral("'%1' is no name for an attribute").arg(options.attribute));
+    const QString attribute = call.value("attribute");
+    if (call.has("attribute") && !isXmlName(attribute)) {
+        return refuse(call, QStringLiteral("'%1' is no name for an attribute").arg(attribute));
     }
-    if (!moveTo(doc, options)) {
+    if (!moveTo(doc, call)) {
         return Failed;
     }
-    if (!options.attribute.isEmpty()) {
-        doc.setAttr(options.attribute, options.value);
-    } else if (!doc.set(options.value)) {
-        return refused(options, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
+    if (call.has("attribute")) {
+        doc.setAttr(attribute, call.arguments.value(2));
+    } else if (!doc.set(call.arguments.value(2))) {
+        return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
     }
-    if (options.json) {
+    if (call.json()) {
         printJson(toJson(doc));
     }
     return Done;
 }
 
-int runRemove(MRVDomDoc &doc, const Options &options)
+int remove(MRVDomDoc &doc, const Call &call)
 {
-    if (!moveTo(doc, options)) {
+    const QString attribute = call.value("attribute");
+    if (!moveTo(doc, call)) {
         return Failed;
     }
     const bool isRoot = doc.currentElement() == doc.documentElement();
     const QString at = doc.workPath();
     doc.cdRoot();
     int count = 0;
-    if (!options.attribute.isEmpty()) {
-        count = doc.removeAttr(options.attribute, options.path, options.all);
+    if (call.has("attribute")) {
+        count = doc.removeAttr(attribute, pathOf(call), call.has("all"));
         if (count == 0) {
-            return refused(options,
-                           QStringLiteral("%1 has no attribute '%2'").arg(at, options.attribute));
+            return refuse(call, QStringLiteral("%1 has no attribute '%2'").arg(at, attribute));
         }
     } else if (isRoot) {
-        return refused(options, QStringLiteral("the document element cannot be removed"));
+        return refuse(call, QStringLiteral("the document element cannot be removed"));
     } else {
-        count = doc.remove(options.path, options.all);
+        count = doc.remove(pathOf(call), call.has("all"));
     }
-    if (options.json) {
+    if (call.json()) {
         printJson({{QStringLiteral("removed"), count}});
     }
     return Done;
 }
 
-int runCreate(MRVDomDoc &doc, const Options &options)
+int create(MRVDomDoc &doc, const Call &call)
 {
-    QStringList steps = options.path.split(u'/', Qt::SkipEmptyParts);
+    QStringList steps = pathOf(call).split(u'/', Qt::SkipEmptyParts);
     for (QString &step : steps) {
         step = step.trimmed();
         if (step != QLatin1String("..") && step != QLatin1String(".") && !isXmlName(step)) {
-            return refused(options, QStringLiteral("'%1' is no name for an element").arg(step));
+            return refuse(call, QStringLiteral("'%1' is no name for an element").arg(step));
         }
     }
-    if (options.path.startsWith(u'/') && !steps.isEmpty()) {
+    if (pathOf(call).startsWith(u'/') && !steps.isEmpty()) {
         const QString root = steps.takeFirst();
         if (doc.documentElement().isNull()) {
             doc.setRoot(root);
         } else if (doc.documentElement().tagName() != root) {
-            return refused(options, doc.whyMissing(u'/' + root));
+            return refuse(call, doc.whyMissing(u'/' + root));
         }
     }
     if (!doc.cdRoot()) {
-        return refused(options, QStringLiteral("a new document needs a path that begins with '/'"));
+        return refuse(call, QStringLiteral("a new document needs a path that begins with '/'"));
     }
     const int depth = doc.createPath(steps.join(u'/'));
     if (depth < steps.size()) {
-        return refused(options, QStringLiteral("'%1' cannot be created").arg(steps[depth]));
+        return refuse(call, QStringLiteral("'%1' cannot be created").arg(steps[depth]));
     }
-    if (!options.value.isNull() && !doc.set(options.value)) {
-        return refused(options, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
+    if (!call.arguments.value(2).isNull() && !doc.set(call.arguments.value(2))) {
+        return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
     }
-    if (options.json) {
+    if (call.json()) {
         printJson(toJson(doc));
     }
     return Done;
 }
 
-bool readFile(const Options &options, QByteArray *bytes, QString *error)
+bool readFile(const Call &call, QByteArray *bytes, QString *error)
 {
-    QFile file(options.file);
-    const bool isOpen = options.file == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
-                                                           : file.open(QIODevice::ReadOnly);
+    QFile file(call.arguments.constFirst());
+    const bool isOpen = call.arguments.constFirst() == QLatin1String("-")
+        ? file.open(stdin, QIODevice::ReadOnly)
+        : file.open(QIODevice::ReadOnly);
     *bytes = isOpen ? file.readAll() : QByteArray();
     *error = file.errorString();
     return isOpen && file.error() == QFileDevice::NoError;
 }
 
 // @return Done, or the code to end with.
-int load(MRVDomDoc &doc, const Options &options, const Verb &verb)
+int load(MRVDomDoc &doc, const Call &call, bool isCreated)
 {
     QByteArray bytes;
     QString error;
-    const bool isNew =
-        verb.run == runCreate && options.file != QLatin1String("-") && !QFile::exists(options.file);
-    if (isNew) {
+    const QString &file = call.arguments.constFirst();
+    if (isCreated && file != QLatin1String("-") && !QFile::exists(file)) {
         return Done;
     }
-    if (!readFile(options, &bytes, &error)) {
-        return refused(options, error);
+    if (!readFile(call, &bytes, &error)) {
+        return refuse(call, error);
     }
     QBuffer buffer(&bytes);
     if (!doc.setContent(&buffer)) {
@@ -276,112 +235,76 @@ int load(MRVDomDoc &doc, const Options &options, const Verb &verb)
             ? QString()
             : QStringLiteral("line %1, column %2: ")
                   .arg(QString::number(doc.errorLine()), QString::number(doc.errorColumn()));
-        return refused(options, place + doc.errorMessage());
+        return refuse(call, place + doc.errorMessage());
     }
     return Done;
 }
 
-int store(const MRVDomDoc &doc, const Options &options)
+QString targetOf(const Call &call)
 {
-    QString error;
-    const QString target = options.output.isEmpty() ? options.file : options.output;
-    if (target != QLatin1String("-")) {
-        if (doc.save(target, &error)) {
-            return Done;
-        }
-    } else {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        if (!doc.save(buffer)) {
-            error = QStringLiteral("the document is nested too deeply");
-        } else if (writeStandardOutput(buffer.data(), &error)) {
-            return Done;
-        }
-    }
-    printError(error);
-    return Failed;
+    return call.has("output") ? call.value("output") : call.arguments.constFirst();
 }
 
-int readOptions(const QStringList &arguments, Options *options, const Verb **verb)
+int store(const MRVDomDoc &doc, const Call &call)
 {
-    QCommandLineParser parser;
-    QString description =
-        QStringLiteral("Reads and edits any XML file (- is standard input) by paths such as\n"
-                       "/config/engine@id=rtf/option@enabled. A path that does not begin with "
-                       "\"/\" begins in the\n"
-                       "document element. A file that is changed is laid out anew.\n\n");
-    for (const Verb &known : verbs) {
-        const QString call = QLatin1String(known.name) + u' ' + QLatin1String(known.arguments);
-        description +=
-            QStringLiteral("  %1  %2\n").arg(call, -21).arg(QLatin1String(known.summary));
+    QString error;
+    const QString target = targetOf(call);
+    if (target != QLatin1String("-")) {
+        return doc.save(target, &error) ? int(Done) : refuse(error);
     }
-    parser.setApplicationDescription(description.trimmed());
-    const QCommandLineOption attribute(
-        {QStringLiteral("a"), QStringLiteral("attribute")},
-        QStringLiteral("Get, set or remove this attribute, not the text or the element."),
-        QStringLiteral("NAME"));
-    const QCommandLineOption all(QStringLiteral("all"),
-                                 QStringLiteral("Get or remove all that the path names."));
-    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
-                                    QStringLiteral("Write there; - is standard output."),
-                                    QStringLiteral("FILE"));
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Print one JSON object an element."));
-    parser.addOptions({attribute, all, output, json});
-    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    const int code = parseArguments(
-        &parser, QStringLiteral("xml FILE get|set|ls|rm|create PATH ..."), arguments);
-    if (code >= 0) {
-        return code;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!doc.save(buffer)) {
+        return refuse(call, QStringLiteral("the document is nested too deeply"));
     }
-    const QStringList given = parser.positionalArguments();
-    if (given.size() < 2) {
-        return usageError(QStringLiteral("a file and a verb are needed; try 'mrv xml --help'"));
-    }
-    QStringList names;
-    for (const Verb &known : verbs) {
-        names.append(QLatin1String(known.name));
-        if (given[1] == names.constLast()) {
-            *verb = &known;
-        }
-    }
-    if (!*verb) {
-        return usageError(QStringLiteral("there is no verb '%1'").arg(given[1])
-                          + didYouMean(given[1], names));
-    }
-    if (given.size() - 2 < (*verb)->minArguments || given.size() - 2 > (*verb)->maxArguments) {
-        return usageError(
-            QStringLiteral("it is 'mrv xml FILE %1 %2'")
-                .arg(QLatin1String((*verb)->name), QLatin1String((*verb)->arguments)));
-    }
-    const QString target = parser.isSet(output) ? parser.value(output) : given[0];
-    if ((*verb)->changes && parser.isSet(json) && target == QLatin1String("-")) {
+    return writeStandardOutput(buffer.data(), &error) ? int(Done) : refuse(error);
+}
+
+enum Effect { Reads, Changes, Creates };
+
+// Reads the document, runs the verb on it, and writes it when the verb has changed it.
+template<Effect effect, int (*Run)(MRVDomDoc &doc, const Call &call)>
+int withDocument(const Call &call)
+{
+    if (effect != Reads && call.json() && targetOf(call) == QLatin1String("-")) {
         return usageError(QStringLiteral("--json needs a file to write to"));
     }
-    *options = {given[0],
-                given.value(2),
-                given.value(3),
-                parser.value(attribute),
-                parser.value(output),
-                parser.isSet(all),
-                parser.isSet(json)};
-    return -1;
+    MRVDomDoc doc;
+    int code = load(doc, call, effect == Creates);
+    if (code == Done) {
+        code = Run(doc, call);
+    }
+    return code == Done && effect != Reads ? store(doc, call) : code;
 }
+
+constexpr Verb verbs[] = {
+    {"get", "FILE PATH", "print the text of an element, or an attribute", withDocument<Reads, get>},
+    {"set", "FILE PATH VALUE", "set the text of an element, or an attribute",
+     withDocument<Changes, set>},
+    {"ls", "FILE [PATH]", "list the elements in an element", withDocument<Reads, list>},
+    {"rm", "FILE PATH", "remove an element or an attribute, or all that the path names",
+     withDocument<Changes, remove>},
+    {"create", "FILE PATH [VALUE]", "create the elements of a path that are missing",
+     withDocument<Creates, create>},
+};
+
+constexpr Option options[] = {
+    Option::name("a attribute", "NAME",
+                 "Get, set or remove this attribute, not the text or the element.", "get set rm"),
+    Option::flag("all", "Get or remove all that the path names.", "get rm"),
+    Option::name("o output", "FILE", "Write to this file; - is standard output.", "set rm create"),
+    Option::flag("json", "Print one JSON object for each element."),
+};
 
 } // namespace
 
-int runXml(const QStringList &arguments)
-{
-    Options options;
-    const Verb *verb = nullptr;
-    const int wrong = readOptions(arguments, &options, &verb);
-    if (wrong >= 0) {
-        return wrong;
-    }
-    MRVDomDoc doc;
-    int code = load(doc, options, *verb);
-    if (code == Done) {
-        code = verb->run(doc, options);
-    }
-    return code == Done && verb->changes ? store(doc, options) : code;
-}
+const Command xmlCommand = {
+    "xml",
+    "read and edit XML files by paths",
+    "Reads and edits any XML file (- is standard input) by paths such as "
+    "/config/engine@id=rtf/option@enabled. A path that does not begin with \"/\" begins in the "
+    "document element. A changed file gets a new layout. FILE may also stand before the verb.",
+    "xml get config.xml engine@id=rtf/option\nxml rm config.xml engine -a id",
+    verbs,
+    {options},
+};

@@ -312,7 +312,7 @@ void tst_Mrv::remotePictures()
     const QByteArray page = "<p>a<img src='http://x.example/1.png'><img src='//x.example/1.png'>";
     const Ran ran = mrv({"export", "-", "--to", "epub", "-o", in("a.epub")}, page);
     QCOMPARE(ran.exitCode, 0);
-    QVERIFY2(ran.errors.startsWith("mrv: note: "), qPrintable(ran.errors));
+    QVERIFY2(ran.errors.startsWith("mrv: export: note: "), qPrintable(ran.errors));
     QVERIFY2(ran.errors.contains("2"), qPrintable(ran.errors));
 }
 
