@@ -4,8 +4,8 @@
 #include <QtTest>
 
 /**
- * The rows of a file of tests/data, separated into cells by tabs. "\n", "\r", "\t" and "\\" mean what
- * they mean in C++. Empty lines and lines that start with '#' are left out.
+ * The rows of a file of tests/data, separated into cells by tabs. "\n", "\r", "\t" and "\\" mean
+ * what they mean in C++. Empty lines and lines that start with '#' are left out.
  */
 inline QVector<QStringList> rowsOf(const QString &file)
 {

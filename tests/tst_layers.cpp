@@ -182,6 +182,7 @@ private:
         if (module.layer == ProgramLayer) {
             roots.prepend(from.left(from.lastIndexOf('/') + 1));
             roots.append(from.section('/', 0, 0) + '/');
+            roots.append("cli/"); // a test of the tool's own parts names them as the tool does
         }
         for (const QString &root : qAsConst(roots)) {
             const QString path = QDir::cleanPath(root + name);

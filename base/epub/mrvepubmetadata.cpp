@@ -35,8 +35,9 @@ void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript)
 bool MRVEPubMetadata::readCover(const QString &file, QString *error)
 {
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(file);
-    if (MRVPictureReader::ofFile(file).read().isNull()) {
-        return MRV::fail(error, file, tr("the cover picture cannot be read"));
+    QString reason;
+    if (MRVPictureReader::ofFile(file).read(&reason).isNull()) {
+        return MRV::fail(error, file, tr("the cover picture cannot be read: %1").arg(reason));
     }
     cover = bytes;
     return true;

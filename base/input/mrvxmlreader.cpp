@@ -38,8 +38,8 @@ QString tooDeep(int depth)
 }
 
 /**
- * Goes from tag to tag, without parsing what lies between them, up to the first fault. Sees the tags
- * that a parser sees, as far as the text is well-formed.
+ * Goes from tag to tag, without parsing what lies between them, up to the first fault. Sees the
+ * tags that a parser sees, as far as the text is well-formed.
  */
 class TagScanner
 {
@@ -275,8 +275,8 @@ private:
         return isTooLong ? tr("entities expand to too much text") : QString();
     }
 
-    // An entity in another file that the text refers to: QDomDocument would leave it out, and mix up
-    // the text around it.
+    // An entity in another file that the text refers to: QDomDocument would leave it out, and mix
+    // up the text around it.
     QString outerEntity(const QXmlStreamReader &reader) const
     {
         QSet<QString> declared;

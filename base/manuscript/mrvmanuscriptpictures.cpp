@@ -68,7 +68,8 @@ QString localFile(const QString &name, const QString &folder)
 
 } // namespace
 
-bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable)
+bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable,
+                     QString *reason)
 {
     QHash<QString, QString> paths; // by name: an ornament may be shown a thousand times
     QSet<QString> remote;
@@ -87,7 +88,7 @@ bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *
             QString &path = paths[name];
             if (path.isEmpty()) {
                 path = localFile(name, folder);
-                if (MRVPictureReader::ofFile(path).read().isNull()) {
+                if (MRVPictureReader::ofFile(path).read(reason).isNull()) {
                     *unreadable = name;
                     return false;
                 }

@@ -10,6 +10,8 @@ struct MRVManuscript;
  *
  * @param folder     where their names count from.
  * @param unreadable receives the name, as it is in the document, of a picture that cannot be read.
+ * @param reason     receives why, translated.
  * @return false at the first such picture.
  */
-bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable);
+bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable,
+                     QString *reason);

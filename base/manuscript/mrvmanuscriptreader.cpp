@@ -122,6 +122,8 @@ bool MRVManuscriptReader::readDocument(const QString &text, MRVManuscript *read)
 bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read)
 {
     QString unreadable;
-    return mrvLoadPictures(folder, read, &unreadable)
-        || fail(PictureError, *read, tr("the picture %1 cannot be read").arg(unreadable));
+    QString reason;
+    return mrvLoadPictures(folder, read, &unreadable, &reason)
+        || fail(PictureError, *read,
+                tr("the picture %1 cannot be read: %2").arg(unreadable, reason));
 }

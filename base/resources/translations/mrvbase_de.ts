@@ -272,8 +272,8 @@ Fehler: %2</translation>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
-        <source>the cover picture cannot be read</source>
-        <translation>das Titelbild kann nicht gelesen werden</translation>
+        <source>the cover picture cannot be read: %1</source>
+        <translation>das Titelbild kann nicht gelesen werden: %1</translation>
     </message>
 </context>
 <context>
@@ -388,8 +388,8 @@ Fehler: %2</translation>
         <translation>die Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read</source>
-        <translation>das Bild %1 kann nicht gelesen werden</translation>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>das Bild %1 kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>

@@ -272,8 +272,8 @@ Error: %2</translation>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
-        <source>the cover picture cannot be read</source>
-        <translation>no se puede leer la imagen de portada</translation>
+        <source>the cover picture cannot be read: %1</source>
+        <translation>no se puede leer la imagen de portada: %1</translation>
     </message>
 </context>
 <context>
@@ -388,8 +388,8 @@ Error: %2</translation>
         <translation>los elementos están anidados a más de %1 niveles</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read</source>
-        <translation>no se puede leer la imagen %1</translation>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>no se puede leer la imagen %1: %2</translation>
     </message>
 </context>
 <context>

@@ -272,8 +272,8 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
-        <source>the cover picture cannot be read</source>
-        <translation>l’image de couverture ne peut pas être lue</translation>
+        <source>the cover picture cannot be read: %1</source>
+        <translation>l’image de couverture ne peut pas être lue&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -388,8 +388,8 @@ Erreur&#xa0;: %2</translation>
         <translation>les éléments sont imbriqués sur plus de %1 niveaux</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read</source>
-        <translation>l’image %1 ne peut pas être lue</translation>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>l’image %1 ne peut pas être lue&#xa0;: %2</translation>
     </message>
 </context>
 <context>
