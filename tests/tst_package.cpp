@@ -4,8 +4,8 @@
 #include <QDirIterator>
 #include <QTemporaryDir>
 
-/// The installed library as another project finds it. It is installed into one folder and then moved
-/// to another, whose name holds a blank: nothing of it may know where it was installed to.
+/// The installed library as another project finds it. It is installed into one folder and then
+/// moved to another, whose name holds a blank: nothing of it may know where it was installed to.
 class TestPackage : public QObject
 {
     Q_OBJECT

@@ -278,7 +278,7 @@ void tst_Shortcuts::files()
              QString(u8"FILE\n  New Project: Ctrl+G, Ctrl+N\n  Keep \u201cit\u201d: Ctrl+S\n"
                      "\nVIEW\n  Bigger: \n"));
     QVERIFY(Scheme::load(path, &error).isNull());
-    QCOMPARE(error, path + ": it is no shortcut scheme");
+    QCOMPARE(error, path + ": it is not a shortcut scheme");
     error.clear();
     QVERIFY(Scheme::load(path + "-missing", &error).isNull());
     QVERIFY(error.contains(path));

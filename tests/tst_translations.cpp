@@ -277,7 +277,7 @@ void tst_Translations::texts()
 void tst_Translations::plurals()
 {
     QVERIFY(MTranslator::install(cell("language")));
-    const char *source = "it is damaged or cut short; shortcuts that could be read: %n";
+    const char *source = "it is damaged or truncated; shortcuts that could be read: %n";
     QCOMPARE(
         MRVShortcutScheme::tr(source, nullptr, cell("count").toInt()).section(';', 1).trimmed(),
         cell("text"));

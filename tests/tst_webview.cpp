@@ -116,7 +116,7 @@ private Q_SLOTS:
         QTest::newRow("one-word") << ok + QByteArray(1000000, 'x') << QString(1000000, 'x');
         QTest::newRow("refused") << QByteArray("HTTP/1.1 302 F\r\nLocation: file:///\r\n\r\n")
                                  << failed
-                + "It redirects to file:///, which is no http or https address";
+                + "It redirects to file:///, which is not an http or https address";
         QTest::newRow("too-large")
             << ok + QByteArray(2000000, 'x') << failed + "It is larger than 1048576 bytes";
     }

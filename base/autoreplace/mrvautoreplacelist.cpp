@@ -161,7 +161,7 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
     qint32 count = 0;
     if (!in.read(&version) || version != ListVersion) {
         if (error) {
-            *error = tr("it is no auto-replace list of a known version");
+            *error = tr("it is not an auto-replace list of a known version");
         }
         return;
     }
@@ -177,7 +177,7 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
         }
     }
     if (error && (count < 0 || !in.isOk() || !stream.atEnd())) {
-        *error = tr("it is damaged or cut short; entries that could be read: %n", nullptr, size());
+        *error = tr("it is damaged or truncated; entries that could be read: %n", nullptr, size());
     }
 }
 

@@ -358,7 +358,7 @@ void MRVDownloadUrl::onReplyFinished()
     }
     m_timer.stop();
     if (isCutShort()) {
-        return endWith(tr("The connection ended before everything had come"));
+        return endWith(tr("The connection ended before the download was complete"));
     }
 
     const QUrl location = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
@@ -411,7 +411,7 @@ void MRVDownloadUrl::redirect(const QUrl &target)
     const QNetworkReply *reply = m_reply;
     const auto isGone = [&] { return !self || m_reply != reply; };
     if (!target.isValid() || !isFetched(target)) {
-        return endWith(tr("It redirects to %1, which is no http or https address")
+        return endWith(tr("It redirects to %1, which is not an http or https address")
                            .arg(target.toDisplayString()));
     }
     const bool isFollowed = ask([&] { return m_userInput->redirectTo(target); });

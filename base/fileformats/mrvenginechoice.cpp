@@ -17,7 +17,7 @@ constexpr struct
     {MRVEngineChoice::Stored, "stored",
      QT_TRANSLATE_NOOP("MRVEngineChoice", "it is the stored choice")},
     {MRVEngineChoice::Unlisted, "unlisted",
-     QT_TRANSLATE_NOOP("MRVEngineChoice", "the stored choices have none for this format")},
+     QT_TRANSLATE_NOOP("MRVEngineChoice", "the stored choices do not include this format")},
     {MRVEngineChoice::Repaired, "repaired",
      QT_TRANSLATE_NOOP("MRVEngineChoice",
                        "the stored choice, %1, needs an application that is not available here")},

@@ -272,7 +272,7 @@ private:
         }
         const bool isTooLong = m_expanded - m_xml.size() > MRVInputLimits::XmlExpansion
             || m_expanded / MRVInputLimits::XmlExpansionFactor > m_xml.size();
-        return isTooLong ? tr("entities expand to too much text") : QString();
+        return isTooLong ? tr("entities expand to too long a text") : QString();
     }
 
     // An entity in another file that the text refers to: QDomDocument would leave it out, and mix

@@ -79,8 +79,8 @@ Stored oneOf(const QStringList &words, const QString &text, QString *error)
     if (words.contains(text)) {
         return QVariant(text);
     }
-    return refuse(error,
-                  MRVOptions::tr("'%1' is none of: %2").arg(text, words.join(QLatin1String(", "))));
+    return refuse(
+        error, MRVOptions::tr("'%1' is not one of: %2").arg(text, words.join(QLatin1String(", "))));
 }
 
 std::optional<QByteArray> bytesOf(const QString &text)
@@ -124,11 +124,11 @@ Stored parse(const StringRow &row, const QString &text, QString *error)
     if (row.value.isPair && !isQuotePair(text)) {
         return refuse(
             error,
-            MRVOptions::tr("'%1' has no two halves, an opening and a closing quote").arg(text));
+            MRVOptions::tr("'%1' is not a pair of an opening and a closing quote").arg(text));
     }
     if (row.value.accepts && !row.value.accepts(text)) {
-        return refuse(error,
-                      MRVOptions::tr("'%1' is no such value as '%2'").arg(text, row.value.ask()));
+        return refuse(
+            error, MRVOptions::tr("'%1' is not a value such as '%2'").arg(text, row.value.ask()));
     }
     return QVariant(text);
 }
@@ -170,12 +170,12 @@ Stored parse(const ColorRow &row, const QString &text, QString *error)
 {
     const QColor color(text);
     if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting)) {
-        return refuse(error, MRVOptions::tr("'%1' cannot be seen").arg(text));
+        return refuse(error, MRVOptions::tr("'%1' is fully transparent").arg(text));
     }
     if (color.isValid()) {
         return QVariant(color);
     }
-    return refuse(error, MRVOptions::tr("'%1' is no colour such as #1f1f1f or navy").arg(text));
+    return refuse(error, MRVOptions::tr("'%1' is not a colour such as #1f1f1f or navy").arg(text));
 }
 
 Stored parse(const DateTimeRow &, const QString &text, QString *error)
@@ -184,7 +184,8 @@ Stored parse(const DateTimeRow &, const QString &text, QString *error)
     if (time.isValid()) {
         return QVariant(time);
     }
-    return refuse(error, MRVOptions::tr("'%1' is no date such as 2026-01-31T18:30:00").arg(text));
+    return refuse(error,
+                  MRVOptions::tr("'%1' is not a date such as 2026-01-31T18:30:00").arg(text));
 }
 
 Stored parse(const FontRow &, const QString &text, QString *error)
@@ -200,7 +201,7 @@ Stored parse(const FontRow &, const QString &text, QString *error)
         && ((points > 0 && points <= 1000) || inPixels) && font.fromString(text)) {
         return QVariant(font.toString());
     }
-    return refuse(error, MRVOptions::tr("'%1' is no font such as Serif,12").arg(text));
+    return refuse(error, MRVOptions::tr("'%1' is not a font such as Serif,12").arg(text));
 }
 
 Stored parse(const IntListRow &, const QString &text, QString *error)
@@ -224,10 +225,11 @@ Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
         return refuse(error, MRVOptions::tr("what follows 'base64:' is not Base64"));
     }
     if (bytes->isEmpty() && !row.value.make().isEmpty()) {
-        return refuse(error, MRVOptions::tr("nothing is no value; reset the setting instead"));
+        return refuse(error,
+                      MRVOptions::tr("an empty text is not a value; reset the setting instead"));
     }
     if (!bytes->isEmpty() && row.value.accepts && !row.value.accepts(*bytes)) {
-        return refuse(error, MRVOptions::tr("the bytes are not what is kept there"));
+        return refuse(error, MRVOptions::tr("the bytes do not have the form of this setting"));
     }
     return QVariant(*bytes);
 }
@@ -243,7 +245,8 @@ Stored formatOf(const QString &text, Format (*read)(const QByteArray &), QString
             return QVariant(MRVSettings::toByteArray(format));
         }
     }
-    return refuse(error, MRVOptions::tr("the text is no 'base64:' and the bytes of a format"));
+    return refuse(error,
+                  MRVOptions::tr("the text is not 'base64:' followed by the bytes of a format"));
 }
 
 Stored parse(const CharFormatRow &, const QString &text, QString *error)
@@ -314,7 +317,7 @@ bool MRVOptions::setFromText(const QString &key, const QString &text, QString *e
         }
     }
     if (!known) {
-        refuse(error, tr("there is no setting '%1'").arg(key));
+        refuse(error, tr("no setting is called '%1'").arg(key));
     }
     if (!stored) {
         return false;

@@ -439,7 +439,7 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
         switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement:
             if (m_isText.isEmpty() && m_xml.name() != QLatin1String("FinalDraft")) {
-                m_xml.raiseError(MRVFinalDraft::tr("this is no Final Draft document"));
+                m_xml.raiseError(MRVFinalDraft::tr("this is not a Final Draft document"));
             } else {
                 m_isText.append(false);
                 startElement();

@@ -384,7 +384,7 @@ bool HtmlReader::read(MRVFountainScript *script, QString *error)
     }
     if (!m_xml.hasError() && !m_isScript && m_script.titles.isEmpty()
         && m_script.elements.isEmpty()) {
-        m_xml.raiseError(MRVFountainHtml::tr("the page holds no paragraph of a script"));
+        m_xml.raiseError(MRVFountainHtml::tr("the page has no paragraph of a script"));
     }
     if (!MRVXmlReader::isRead(m_xml, error)) {
         return false;

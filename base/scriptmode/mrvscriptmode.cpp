@@ -188,7 +188,7 @@ int MRVScriptMode::indexOf(const QTextBlock &block) const
 bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remarks)
 {
     const auto refuse = [&](const QString &reason) {
-        return fail(error, tr("\"%1\" is no script mode: %2").arg(path, reason));
+        return fail(error, tr("\"%1\" is not a script mode: %2").arg(path, reason));
     };
     QString reason;
     QByteArray xml;

@@ -76,7 +76,7 @@ void ModeReader::remark(const QString &text)
 
 void ModeReader::remarkValue(const char *tag, const QString &value)
 {
-    remark(MRVScriptMode::tr("\"%1\" is no value of \"%2\"")
+    remark(MRVScriptMode::tr("\"%1\" is not a value of \"%2\"")
                .arg(value.left(40).simplified(), QLatin1String(tag)));
 }
 
@@ -91,7 +91,7 @@ void ModeReader::remarkAttributes()
                 known || (isAt(row.tag) && attribute.qualifiedName() == QLatin1String(row.name));
         }
         if (!known) {
-            remark(MRVScriptMode::tr("the attribute \"%1\" has no place in \"%2\"")
+            remark(MRVScriptMode::tr("the attribute \"%1\" is not expected in \"%2\"")
                        .arg(attribute.qualifiedName().toString().left(40),
                             m_xml.qualifiedName().toString().left(40)));
         }
@@ -116,7 +116,7 @@ bool ModeReader::nextChild()
             return true;
         case QXmlStreamReader::Characters:
             if (!m_xml.isWhitespace()) {
-                remark(MRVScriptMode::tr("text between elements is passed over"));
+                remark(MRVScriptMode::tr("text between elements is ignored"));
             }
             break;
         case QXmlStreamReader::EndElement:
@@ -156,7 +156,7 @@ QString ModeReader::text()
 // Skips the current element.
 void ModeReader::skip(const char *parent)
 {
-    remark(MRVScriptMode::tr("\"%1\" has no place in \"%2\" and is passed over")
+    remark(MRVScriptMode::tr("\"%1\" is not expected in \"%2\" and is ignored")
                .arg(m_xml.qualifiedName().toString().left(40), QString::fromUtf8(parent)));
     const int outside = m_depth - 1;
     while (m_depth > outside && next() != QXmlStreamReader::Invalid) { }
@@ -169,7 +169,7 @@ bool ModeReader::read()
                              .arg(m_xml.qualifiedName().toString().left(40),
                                   QLatin1String(MorvaneScriptFormatTag)));
     } else if (!m_xml.namespaceUri().isEmpty()) {
-        m_xml.raiseError(MRVScriptMode::tr("the root element is of the namespace \"%1\"")
+        m_xml.raiseError(MRVScriptMode::tr("the root element is in the namespace \"%1\"")
                              .arg(m_xml.namespaceUri().toString().left(40)));
     }
     remarkAttributes();
@@ -228,7 +228,7 @@ void ModeReader::readElements()
         } else if (m_elements.size() < MRVScriptMode::MaxElements) {
             readElement();
         } else {
-            m_xml.raiseError(MRVScriptMode::tr("there are more than %1 script elements")
+            m_xml.raiseError(MRVScriptMode::tr("the mode has more than %1 script elements")
                                  .arg(MRVScriptMode::MaxElements));
         }
     }

@@ -159,7 +159,7 @@ bool mrvIsSettings(const QByteArray &bytes)
 
 QString mrvNoRoomText()
 {
-    return Messages::tr("There is no room for temporary files");
+    return Messages::tr("No space is left for temporary files");
 }
 
 bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found)

@@ -293,7 +293,7 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
         return fail(error, reason);
     }
     if (!mrvIsSettings(before)) {
-        return fail(error, tr("The file \"%1\" holds no settings").arg(path));
+        return fail(error, tr("The file \"%1\" does not hold settings").arg(path));
     }
     const QByteArray bytes = mrvEditedSettings(
         before, [this](QSettings *file) { replaceGroupIn(file); }, &reason);

@@ -306,8 +306,8 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
     const bool hasVersion = in.read(&version);
     if (!hasVersion || version != QLatin1String(version_1_0)) {
         if (error) {
-            *error = hasVersion ? tr("it is no shortcut scheme of a known version")
-                                : tr("it is no shortcut scheme");
+            *error = hasVersion ? tr("it is not a shortcut scheme of a known version")
+                                : tr("it is not a shortcut scheme");
         }
         return;
     }
@@ -332,7 +332,7 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
         in.fail();
     }
     if (error && !in.isOk()) {
-        *error = tr("it is damaged or cut short; shortcuts that could be read: %n", nullptr,
+        *error = tr("it is damaged or truncated; shortcuts that could be read: %n", nullptr,
                     m_shortcuts.size());
     }
 }

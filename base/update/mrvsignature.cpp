@@ -140,7 +140,7 @@ bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteA
     QFile signedFile;
     const char *fault = nullptr;
     if (key.size() != KeySize || sodium_init() < 0) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "there is no valid key to check it with");
+        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "no valid key is set to check it with");
     } else if (!mrvOpenPlain(&signedFile, file)) {
         fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "the installer cannot be read");
     } else if (!readSignature(signatureFile, &signature)) {

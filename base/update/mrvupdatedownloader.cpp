@@ -119,7 +119,7 @@ void MRVUpdateDownloader::onDownloaded()
     // Where a redirect is not followed, the redirect's own page has been downloaded.
     if (m_redirects->hasRefused()) {
         QFile::remove(m_path);
-        tellDownloadError(tr("The server sent the download on to an address that is not safe."));
+        tellDownloadError(tr("The server redirected the download to an address that is not safe."));
     } else if (m_step == Step::Feed) {
         m_model->readXML();
     } else if (m_step == Step::Installer) {

@@ -122,7 +122,8 @@ void MRVUpdateModel::parseXML(const QDomDocument &document)
                  .arg(MrvCore::supportEmail()));
     } else if (!isFileName(m_installerFileName) || m_installerFileName == m_xmlFileName) {
         m_installerFileName.clear();
-        fail(tr("The update XML file names an installer that is no plain file name. Please contact "
+        fail(tr("The update XML file names an installer that is not a plain file name. Please "
+                "contact "
                 "%1 so we can "
                 "help resolve this issue quickly.")
                  .arg(MrvCore::supportEmail()));

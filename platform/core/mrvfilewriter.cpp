@@ -43,7 +43,7 @@ QString realTarget(const QString &path, QString *reason)
     QFileInfo info(path);
     for (int i = 0; info.isSymLink(); ++i) {
         if (i == MaxLinks) {
-            *reason = MRVFileWriter::tr("its symbolic links lead round in a circle");
+            *reason = MRVFileWriter::tr("its symbolic links form a loop");
             return QString();
         }
         if (isPlanted(info)) {

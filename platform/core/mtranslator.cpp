@@ -120,7 +120,7 @@ bool MTranslator::install(const QString &code, QString *error)
     };
     QCoreApplication *const application = QCoreApplication::instance();
     if (!application) {
-        return fail(tr("A language can only be chosen while there is an application"));
+        return fail(tr("A language can only be chosen while an application object exists"));
     }
 
     const QString wanted = code == QLatin1String("C") ? QStringLiteral("en") : code;
@@ -128,7 +128,7 @@ bool MTranslator::install(const QString &code, QString *error)
     const bool isEnglish = locale.language() == QLocale::English;
     const QString file = translationFile(wanted);
     if (file.isEmpty() && !isEnglish) {
-        return fail(tr("There is no translation into the language \"%1\"").arg(code));
+        return fail(tr("No translation into the language \"%1\" exists").arg(code));
     }
 
     // Without delimiters, since Qt would otherwise look for files of other names, too.

@@ -4,11 +4,11 @@
 <context>
     <name>MRVAutoReplaceList</name>
     <message>
-        <source>it is no auto-replace list of a known version</source>
+        <source>it is not an auto-replace list of a known version</source>
         <translation>Das ist keine Autoersetzungsliste einer bekannten Version</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <source>it is damaged or truncated; entries that could be read: %n</source>
         <translation>
             <numerusform>Die Liste ist beschädigt oder abgeschnitten; %n Eintrag konnte gelesen werden</numerusform>
             <numerusform>Die Liste ist beschädigt oder abgeschnitten; %n Einträge konnten gelesen werden</numerusform>
@@ -212,11 +212,11 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <translation>Download abgebrochen</translation>
     </message>
     <message>
-        <source>The connection ended before everything had come</source>
+        <source>The connection ended before the download was complete</source>
         <translation>Die Verbindung endete, bevor alles übertragen war</translation>
     </message>
     <message>
-        <source>It redirects to %1, which is no http or https address</source>
+        <source>It redirects to %1, which is not an http or https address</source>
         <translation>Es wird zu %1 umgeleitet, was keine http- oder https-Adresse ist</translation>
     </message>
     <message>
@@ -249,7 +249,7 @@ Fehler: %2</translation>
         <translation>Ohne Titel</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
         <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@ Fehler: %2</translation>
         <translation>das ist die gespeicherte Wahl</translation>
     </message>
     <message>
-        <source>the stored choices have none for this format</source>
+        <source>the stored choices do not include this format</source>
         <translation>in der gespeicherten Auswahl fehlt dieses Format</translation>
     </message>
     <message>
@@ -309,7 +309,7 @@ Fehler: %2</translation>
 <context>
     <name>MRVFileWriter</name>
     <message>
-        <source>its symbolic links lead round in a circle</source>
+        <source>its symbolic links form a loop</source>
         <translation>Ihre symbolischen Verknüpfungen führen im Kreis</translation>
     </message>
     <message>
@@ -344,7 +344,7 @@ Fehler: %2</translation>
 <context>
     <name>MRVFinalDraft</name>
     <message>
-        <source>this is no Final Draft document</source>
+        <source>this is not a Final Draft document</source>
         <translation>Das ist kein Final-Draft-Dokument</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Fehler: %2</translation>
 <context>
     <name>MRVFountainHtml</name>
     <message>
-        <source>the page holds no paragraph of a script</source>
+        <source>the page has no paragraph of a script</source>
         <translation>Die Seite enthält keinen Absatz eines Skripts</translation>
     </message>
 </context>
@@ -611,7 +611,7 @@ Fehler: %2</translation>
         <translation>„%1“ ist keine Zahl von %2 bis %3</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is none of: %2</source>
+        <source>&apos;%1&apos; is not one of: %2</source>
         <translation>„%1“ ist nichts von Folgendem: %2</translation>
     </message>
     <message>
@@ -619,27 +619,27 @@ Fehler: %2</translation>
         <translation>„%1“ ist weder true noch false</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has no two halves, an opening and a closing quote</source>
+        <source>&apos;%1&apos; is not a pair of an opening and a closing quote</source>
         <translation>„%1“ besteht nicht aus zwei Hälften, einem öffnenden und einem schließenden Anführungszeichen</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no such value as &apos;%2&apos;</source>
+        <source>&apos;%1&apos; is not a value such as &apos;%2&apos;</source>
         <translation>„%1“ ist kein Wert wie „%2“</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be seen</source>
+        <source>&apos;%1&apos; is fully transparent</source>
         <translation>„%1“ ist unsichtbar</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no colour such as #1f1f1f or navy</source>
+        <source>&apos;%1&apos; is not a colour such as #1f1f1f or navy</source>
         <translation>„%1“ ist keine Farbe wie #1f1f1f oder navy</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no date such as 2026-01-31T18:30:00</source>
+        <source>&apos;%1&apos; is not a date such as 2026-01-31T18:30:00</source>
         <translation>„%1“ ist kein Datum wie 2026-01-31T18:30:00</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no font such as Serif,12</source>
+        <source>&apos;%1&apos; is not a font such as Serif,12</source>
         <translation>„%1“ ist keine Schriftart wie Serif,12</translation>
     </message>
     <message>
@@ -651,19 +651,19 @@ Fehler: %2</translation>
         <translation>Was auf „base64:“ folgt, ist kein Base64</translation>
     </message>
     <message>
-        <source>nothing is no value; reset the setting instead</source>
+        <source>an empty text is not a value; reset the setting instead</source>
         <translation>Nichts ist kein Wert; setzen Sie die Einstellung stattdessen zurück</translation>
     </message>
     <message>
-        <source>the bytes are not what is kept there</source>
+        <source>the bytes do not have the form of this setting</source>
         <translation>Diese Bytes gehören nicht hierher</translation>
     </message>
     <message>
-        <source>the text is no &apos;base64:&apos; and the bytes of a format</source>
+        <source>the text is not &apos;base64:&apos; followed by the bytes of a format</source>
         <translation>Der Text besteht nicht aus „base64:“ und den Bytes eines Formats</translation>
     </message>
     <message>
-        <source>there is no setting &apos;%1&apos;</source>
+        <source>no setting is called &apos;%1&apos;</source>
         <translation>Es gibt keine Einstellung „%1“</translation>
     </message>
     <message>
@@ -755,7 +755,7 @@ Fehler: %2</translation>
         <translation>Es handelt sich um einen Ordner</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no script mode: %2</source>
+        <source>&quot;%1&quot; is not a script mode: %2</source>
         <translation>„%1“ ist kein Skriptmodus: %2</translation>
     </message>
     <message>
@@ -767,19 +767,19 @@ Fehler: %2</translation>
         <translation>Die Datei „%1“ kann nicht geschrieben werden: Der Skriptmodus ist zu groß</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
+        <source>&quot;%1&quot; is not a value of &quot;%2&quot;</source>
         <translation>„%1“ ist kein Wert von „%2“</translation>
     </message>
     <message>
-        <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
+        <source>the attribute &quot;%1&quot; is not expected in &quot;%2&quot;</source>
         <translation>Das Attribut „%1“ gehört nicht in „%2“</translation>
     </message>
     <message>
-        <source>text between elements is passed over</source>
+        <source>text between elements is ignored</source>
         <translation>Text zwischen Elementen wird übergangen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no place in &quot;%2&quot; and is passed over</source>
+        <source>&quot;%1&quot; is not expected in &quot;%2&quot; and is ignored</source>
         <translation>„%1“ gehört nicht in „%2“ und wird übergangen</translation>
     </message>
     <message>
@@ -787,7 +787,7 @@ Fehler: %2</translation>
         <translation>Das Wurzelelement ist „%1“ und nicht „%2“</translation>
     </message>
     <message>
-        <source>the root element is of the namespace &quot;%1&quot;</source>
+        <source>the root element is in the namespace &quot;%1&quot;</source>
         <translation>Das Wurzelelement gehört zum Namensraum „%1“</translation>
     </message>
     <message>
@@ -795,7 +795,7 @@ Fehler: %2</translation>
         <translation>Die Version ist „%1“ und nicht „%2“</translation>
     </message>
     <message>
-        <source>there are more than %1 script elements</source>
+        <source>the mode has more than %1 script elements</source>
         <translation>Es gibt mehr als %1 Skriptelemente</translation>
     </message>
     <message>
@@ -834,7 +834,7 @@ Fehler: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>There is no room for temporary files</source>
+        <source>No space is left for temporary files</source>
         <translation>Für temporäre Dateien ist kein Platz</translation>
     </message>
     <message>
@@ -866,7 +866,7 @@ Fehler: %2</translation>
         <translation>Die Datei „%1“ kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; holds no settings</source>
+        <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>Die Datei „%1“ enthält keine Einstellungen</translation>
     </message>
 </context>
@@ -2260,15 +2260,15 @@ Fehler: %2</translation>
         <translation>%1 von „%2“ wird nie erreicht, da %3 das Tastenkürzel von „%4“ ist.</translation>
     </message>
     <message>
-        <source>%1 of “%2” is a key that desktops or input methods take.</source>
+        <source>Desktops or input methods take %1, the key of “%2”.</source>
         <translation>%1 von „%2“ ist ein Tastenkürzel, das Arbeitsumgebungen oder Eingabemethoden für sich beanspruchen.</translation>
     </message>
     <message>
-        <source>%1 of “%2” begins with a key that is needed for writing.</source>
+        <source>%1 of “%2” begins with a key that writing needs.</source>
         <translation>%1 von „%2“ beginnt mit einer Taste, die zum Schreiben gebraucht wird.</translation>
     </message>
     <message>
-        <source>The key of “%1” has no name, and is lost when it is stored.</source>
+        <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>Das Tastenkürzel von „%1“ hat keinen Namen und geht beim Speichern verloren.</translation>
     </message>
 </context>
@@ -2295,15 +2295,15 @@ Fehler: %2</translation>
         <translation>Microsoft Word</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme of a known version</source>
+        <source>it is not a shortcut scheme of a known version</source>
         <translation>Das ist kein Tastenkürzelschema einer bekannten Version</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme</source>
+        <source>it is not a shortcut scheme</source>
         <translation>Das ist kein Tastenkürzelschema</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <source>it is damaged or truncated; shortcuts that could be read: %n</source>
         <translation>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnte gelesen werden</numerusform>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnten gelesen werden</numerusform>
@@ -2460,7 +2460,7 @@ Fehler: %2</translation>
         <translation>Die Adresse des Downloads ist ungültig.</translation>
     </message>
     <message>
-        <source>The server sent the download on to an address that is not safe.</source>
+        <source>The server redirected the download to an address that is not safe.</source>
         <translation>Der Server hat den Download an eine unsichere Adresse weitergeleitet.</translation>
     </message>
     <message>
@@ -2500,7 +2500,7 @@ Um nach Updates zu suchen, benötigen Sie eine Internetverbindung</translation>
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>there is no valid key to check it with</source>
+        <source>no valid key is set to check it with</source>
         <translation>es gibt keinen gültigen Schlüssel, um sie zu prüfen</translation>
     </message>
     <message>
@@ -2579,7 +2579,7 @@ Bitte melden Sie dies an %1.</translation>
         <translation>Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
     </message>
     <message>
-        <source>entities expand to too much text</source>
+        <source>entities expand to too long a text</source>
         <translation>Entitäten ergeben zu viel Text</translation>
     </message>
     <message>
@@ -2610,11 +2610,11 @@ Bitte melden Sie dies an %1.</translation>
 <context>
     <name>MTranslator</name>
     <message>
-        <source>A language can only be chosen while there is an application</source>
+        <source>A language can only be chosen while an application object exists</source>
         <translation>Eine Sprache kann nur gewählt werden, während es eine Anwendung gibt</translation>
     </message>
     <message>
-        <source>There is no translation into the language &quot;%1&quot;</source>
+        <source>No translation into the language &quot;%1&quot; exists</source>
         <translation>Es gibt keine Übersetzung in die Sprache „%1“</translation>
     </message>
     <message>

@@ -4,7 +4,7 @@
 <context>
     <name>MRVAutoReplaceList</name>
     <message numerus="yes">
-        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <source>it is damaged or truncated; entries that could be read: %n</source>
         <translation>
             <numerusform>it is damaged or cut short; %n entry could be read</numerusform>
             <numerusform>it is damaged or cut short; %n entries could be read</numerusform>
@@ -14,7 +14,7 @@
 <context>
     <name>MRVShortcutScheme</name>
     <message numerus="yes">
-        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <source>it is damaged or truncated; shortcuts that could be read: %n</source>
         <translation>
             <numerusform>it is damaged or cut short; %n shortcut could be read</numerusform>
             <numerusform>it is damaged or cut short; %n shortcuts could be read</numerusform>

@@ -4,11 +4,11 @@
 <context>
     <name>MRVAutoReplaceList</name>
     <message>
-        <source>it is no auto-replace list of a known version</source>
+        <source>it is not an auto-replace list of a known version</source>
         <translation>no es una lista de reemplazo automático de una versión conocida</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <source>it is damaged or truncated; entries that could be read: %n</source>
         <translation>
             <numerusform>está dañada o incompleta; se pudo leer %n entrada</numerusform>
             <numerusform>está dañada o incompleta; se pudieron leer %n entradas</numerusform>
@@ -212,11 +212,11 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <translation>Descarga interrumpida</translation>
     </message>
     <message>
-        <source>The connection ended before everything had come</source>
+        <source>The connection ended before the download was complete</source>
         <translation>La conexión terminó antes de recibirlo todo</translation>
     </message>
     <message>
-        <source>It redirects to %1, which is no http or https address</source>
+        <source>It redirects to %1, which is not an http or https address</source>
         <translation>Redirige a %1, que no es una dirección http ni https</translation>
     </message>
     <message>
@@ -249,7 +249,7 @@ Error: %2</translation>
         <translation>Sin título</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
         <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@ Error: %2</translation>
         <translation>es la elección guardada</translation>
     </message>
     <message>
-        <source>the stored choices have none for this format</source>
+        <source>the stored choices do not include this format</source>
         <translation>las elecciones guardadas no incluyen este formato</translation>
     </message>
     <message>
@@ -309,7 +309,7 @@ Error: %2</translation>
 <context>
     <name>MRVFileWriter</name>
     <message>
-        <source>its symbolic links lead round in a circle</source>
+        <source>its symbolic links form a loop</source>
         <translation>sus enlaces simbólicos forman un círculo</translation>
     </message>
     <message>
@@ -344,7 +344,7 @@ Error: %2</translation>
 <context>
     <name>MRVFinalDraft</name>
     <message>
-        <source>this is no Final Draft document</source>
+        <source>this is not a Final Draft document</source>
         <translation>no es un documento de Final Draft</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Error: %2</translation>
 <context>
     <name>MRVFountainHtml</name>
     <message>
-        <source>the page holds no paragraph of a script</source>
+        <source>the page has no paragraph of a script</source>
         <translation>la página no contiene ningún párrafo de un guion</translation>
     </message>
 </context>
@@ -611,7 +611,7 @@ Error: %2</translation>
         <translation>«%1» no es un número de %2 a %3</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is none of: %2</source>
+        <source>&apos;%1&apos; is not one of: %2</source>
         <translation>«%1» no es ninguno de estos valores: %2</translation>
     </message>
     <message>
@@ -619,27 +619,27 @@ Error: %2</translation>
         <translation>«%1» no es ni true ni false</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has no two halves, an opening and a closing quote</source>
+        <source>&apos;%1&apos; is not a pair of an opening and a closing quote</source>
         <translation>«%1» no tiene dos mitades, una comilla de apertura y una de cierre</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no such value as &apos;%2&apos;</source>
+        <source>&apos;%1&apos; is not a value such as &apos;%2&apos;</source>
         <translation>«%1» no es un valor como «%2»</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be seen</source>
+        <source>&apos;%1&apos; is fully transparent</source>
         <translation>«%1» no se puede ver</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no colour such as #1f1f1f or navy</source>
+        <source>&apos;%1&apos; is not a colour such as #1f1f1f or navy</source>
         <translation>«%1» no es un color como #1f1f1f o navy</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no date such as 2026-01-31T18:30:00</source>
+        <source>&apos;%1&apos; is not a date such as 2026-01-31T18:30:00</source>
         <translation>«%1» no es una fecha como 2026-01-31T18:30:00</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no font such as Serif,12</source>
+        <source>&apos;%1&apos; is not a font such as Serif,12</source>
         <translation>«%1» no es una fuente como Serif,12</translation>
     </message>
     <message>
@@ -651,19 +651,19 @@ Error: %2</translation>
         <translation>lo que sigue a «base64:» no es Base64</translation>
     </message>
     <message>
-        <source>nothing is no value; reset the setting instead</source>
+        <source>an empty text is not a value; reset the setting instead</source>
         <translation>nada no es un valor; restablezca el ajuste en su lugar</translation>
     </message>
     <message>
-        <source>the bytes are not what is kept there</source>
+        <source>the bytes do not have the form of this setting</source>
         <translation>los bytes no son los que se guardan ahí</translation>
     </message>
     <message>
-        <source>the text is no &apos;base64:&apos; and the bytes of a format</source>
+        <source>the text is not &apos;base64:&apos; followed by the bytes of a format</source>
         <translation>el texto no es «base64:» seguido de los bytes de un formato</translation>
     </message>
     <message>
-        <source>there is no setting &apos;%1&apos;</source>
+        <source>no setting is called &apos;%1&apos;</source>
         <translation>no existe el ajuste «%1»</translation>
     </message>
     <message>
@@ -755,7 +755,7 @@ Error: %2</translation>
         <translation>es una carpeta</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no script mode: %2</source>
+        <source>&quot;%1&quot; is not a script mode: %2</source>
         <translation>«%1» no es un modo de guion: %2</translation>
     </message>
     <message>
@@ -767,19 +767,19 @@ Error: %2</translation>
         <translation>No se puede escribir el archivo «%1»: el modo de guion es demasiado grande</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
+        <source>&quot;%1&quot; is not a value of &quot;%2&quot;</source>
         <translation>«%1» no es un valor de «%2»</translation>
     </message>
     <message>
-        <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
+        <source>the attribute &quot;%1&quot; is not expected in &quot;%2&quot;</source>
         <translation>el atributo «%1» no tiene cabida en «%2»</translation>
     </message>
     <message>
-        <source>text between elements is passed over</source>
+        <source>text between elements is ignored</source>
         <translation>el texto entre elementos se omite</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no place in &quot;%2&quot; and is passed over</source>
+        <source>&quot;%1&quot; is not expected in &quot;%2&quot; and is ignored</source>
         <translation>«%1» no tiene cabida en «%2» y se omite</translation>
     </message>
     <message>
@@ -787,7 +787,7 @@ Error: %2</translation>
         <translation>el elemento raíz es «%1» y no «%2»</translation>
     </message>
     <message>
-        <source>the root element is of the namespace &quot;%1&quot;</source>
+        <source>the root element is in the namespace &quot;%1&quot;</source>
         <translation>el elemento raíz pertenece al espacio de nombres «%1»</translation>
     </message>
     <message>
@@ -795,7 +795,7 @@ Error: %2</translation>
         <translation>la versión es «%1» y no «%2»</translation>
     </message>
     <message>
-        <source>there are more than %1 script elements</source>
+        <source>the mode has more than %1 script elements</source>
         <translation>hay más de %1 elementos de guion</translation>
     </message>
     <message>
@@ -834,7 +834,7 @@ Error: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>There is no room for temporary files</source>
+        <source>No space is left for temporary files</source>
         <translation>No hay espacio para archivos temporales</translation>
     </message>
     <message>
@@ -866,7 +866,7 @@ Error: %2</translation>
         <translation>No se puede escribir el archivo «%1»</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; holds no settings</source>
+        <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>El archivo «%1» no contiene ajustes</translation>
     </message>
 </context>
@@ -2260,15 +2260,15 @@ Error: %2</translation>
         <translation>%1 de «%2» no se alcanza nunca, ya que %3 es el atajo de «%4».</translation>
     </message>
     <message>
-        <source>%1 of “%2” is a key that desktops or input methods take.</source>
+        <source>Desktops or input methods take %1, the key of “%2”.</source>
         <translation>%1 de «%2» es un atajo que usan los entornos de escritorio o los métodos de entrada.</translation>
     </message>
     <message>
-        <source>%1 of “%2” begins with a key that is needed for writing.</source>
+        <source>%1 of “%2” begins with a key that writing needs.</source>
         <translation>%1 de «%2» empieza por una tecla necesaria para escribir.</translation>
     </message>
     <message>
-        <source>The key of “%1” has no name, and is lost when it is stored.</source>
+        <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>El atajo de «%1» no tiene nombre y se pierde al guardarlo.</translation>
     </message>
 </context>
@@ -2295,15 +2295,15 @@ Error: %2</translation>
         <translation>Microsoft Word</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme of a known version</source>
+        <source>it is not a shortcut scheme of a known version</source>
         <translation>no es un esquema de atajos de una versión conocida</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme</source>
+        <source>it is not a shortcut scheme</source>
         <translation>no es un esquema de atajos</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <source>it is damaged or truncated; shortcuts that could be read: %n</source>
         <translation>
             <numerusform>está dañado o incompleto; se pudo leer %n atajo</numerusform>
             <numerusform>está dañado o incompleto; se pudieron leer %n atajos</numerusform>
@@ -2460,7 +2460,7 @@ Error: %2</translation>
         <translation>La dirección de la descarga no es válida.</translation>
     </message>
     <message>
-        <source>The server sent the download on to an address that is not safe.</source>
+        <source>The server redirected the download to an address that is not safe.</source>
         <translation>El servidor redirigió la descarga a una dirección que no es segura.</translation>
     </message>
     <message>
@@ -2500,7 +2500,7 @@ Se necesita conexión a Internet para buscar actualizaciones</translation>
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>there is no valid key to check it with</source>
+        <source>no valid key is set to check it with</source>
         <translation>no hay ninguna clave válida con la que comprobarla</translation>
     </message>
     <message>
@@ -2579,7 +2579,7 @@ Comuníquelo a %1.</translation>
         <translation>hay elementos anidados a más de %1 niveles</translation>
     </message>
     <message>
-        <source>entities expand to too much text</source>
+        <source>entities expand to too long a text</source>
         <translation>las entidades se expanden a demasiado texto</translation>
     </message>
     <message>
@@ -2610,11 +2610,11 @@ Comuníquelo a %1.</translation>
 <context>
     <name>MTranslator</name>
     <message>
-        <source>A language can only be chosen while there is an application</source>
+        <source>A language can only be chosen while an application object exists</source>
         <translation>Solo se puede elegir un idioma mientras exista una aplicación</translation>
     </message>
     <message>
-        <source>There is no translation into the language &quot;%1&quot;</source>
+        <source>No translation into the language &quot;%1&quot; exists</source>
         <translation>No hay traducción al idioma «%1»</translation>
     </message>
     <message>

@@ -4,11 +4,11 @@
 <context>
     <name>MRVAutoReplaceList</name>
     <message>
-        <source>it is no auto-replace list of a known version</source>
+        <source>it is not an auto-replace list of a known version</source>
         <translation>ce n’est pas une liste de remplacement automatique d’une version connue</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; entries that could be read: %n</source>
+        <source>it is damaged or truncated; entries that could be read: %n</source>
         <translation>
             <numerusform>elle est endommagée ou tronquée&#xa0;; %n entrée a pu être lue</numerusform>
             <numerusform>elle est endommagée ou tronquée&#xa0;; %n entrées ont pu être lues</numerusform>
@@ -212,11 +212,11 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <translation>Téléchargement interrompu</translation>
     </message>
     <message>
-        <source>The connection ended before everything had come</source>
+        <source>The connection ended before the download was complete</source>
         <translation>La connexion a pris fin avant que tout soit reçu</translation>
     </message>
     <message>
-        <source>It redirects to %1, which is no http or https address</source>
+        <source>It redirects to %1, which is not an http or https address</source>
         <translation>Redirection vers %1, qui n’est pas une adresse http ou https</translation>
     </message>
     <message>
@@ -249,7 +249,7 @@ Erreur&#xa0;: %2</translation>
         <translation>Sans titre</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
         <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
     </message>
     <message>
@@ -298,7 +298,7 @@ Erreur&#xa0;: %2</translation>
         <translation>c’est le choix enregistré</translation>
     </message>
     <message>
-        <source>the stored choices have none for this format</source>
+        <source>the stored choices do not include this format</source>
         <translation>aucun choix n’est enregistré pour ce format</translation>
     </message>
     <message>
@@ -309,7 +309,7 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVFileWriter</name>
     <message>
-        <source>its symbolic links lead round in a circle</source>
+        <source>its symbolic links form a loop</source>
         <translation>ses liens symboliques tournent en rond</translation>
     </message>
     <message>
@@ -344,7 +344,7 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVFinalDraft</name>
     <message>
-        <source>this is no Final Draft document</source>
+        <source>this is not a Final Draft document</source>
         <translation>ce n’est pas un document Final Draft</translation>
     </message>
 </context>
@@ -358,7 +358,7 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVFountainHtml</name>
     <message>
-        <source>the page holds no paragraph of a script</source>
+        <source>the page has no paragraph of a script</source>
         <translation>la page ne contient aucun paragraphe de script</translation>
     </message>
 </context>
@@ -611,7 +611,7 @@ Erreur&#xa0;: %2</translation>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is none of: %2</source>
+        <source>&apos;%1&apos; is not one of: %2</source>
         <translation>«&#xa0;%1&#xa0;» ne fait pas partie des valeurs possibles&#xa0;: %2</translation>
     </message>
     <message>
@@ -619,27 +619,27 @@ Erreur&#xa0;: %2</translation>
         <translation>«&#xa0;%1&#xa0;» n’est ni true ni false</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has no two halves, an opening and a closing quote</source>
+        <source>&apos;%1&apos; is not a pair of an opening and a closing quote</source>
         <translation>«&#xa0;%1&#xa0;» n’a pas deux moitiés, un guillemet ouvrant et un guillemet fermant</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no such value as &apos;%2&apos;</source>
+        <source>&apos;%1&apos; is not a value such as &apos;%2&apos;</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une valeur comme «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be seen</source>
+        <source>&apos;%1&apos; is fully transparent</source>
         <translation>«&#xa0;%1&#xa0;» est invisible</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no colour such as #1f1f1f or navy</source>
+        <source>&apos;%1&apos; is not a colour such as #1f1f1f or navy</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une couleur comme #1f1f1f ou navy</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no date such as 2026-01-31T18:30:00</source>
+        <source>&apos;%1&apos; is not a date such as 2026-01-31T18:30:00</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une date comme 2026-01-31T18:30:00</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no font such as Serif,12</source>
+        <source>&apos;%1&apos; is not a font such as Serif,12</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une police comme Serif,12</translation>
     </message>
     <message>
@@ -651,19 +651,19 @@ Erreur&#xa0;: %2</translation>
         <translation>ce qui suit «&#xa0;base64:&#xa0;» n’est pas du Base64</translation>
     </message>
     <message>
-        <source>nothing is no value; reset the setting instead</source>
+        <source>an empty text is not a value; reset the setting instead</source>
         <translation>rien n’est pas une valeur&#xa0;; réinitialisez plutôt le réglage</translation>
     </message>
     <message>
-        <source>the bytes are not what is kept there</source>
+        <source>the bytes do not have the form of this setting</source>
         <translation>ces octets ne sont pas de ceux que contient ce réglage</translation>
     </message>
     <message>
-        <source>the text is no &apos;base64:&apos; and the bytes of a format</source>
+        <source>the text is not &apos;base64:&apos; followed by the bytes of a format</source>
         <translation>le texte n’est pas «&#xa0;base64:&#xa0;» suivi des octets d’une mise en forme</translation>
     </message>
     <message>
-        <source>there is no setting &apos;%1&apos;</source>
+        <source>no setting is called &apos;%1&apos;</source>
         <translation>il n’existe pas de réglage «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
@@ -755,7 +755,7 @@ Erreur&#xa0;: %2</translation>
         <translation>c’est un dossier</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no script mode: %2</source>
+        <source>&quot;%1&quot; is not a script mode: %2</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un mode script&#xa0;: %2</translation>
     </message>
     <message>
@@ -767,19 +767,19 @@ Erreur&#xa0;: %2</translation>
         <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: le mode script est trop volumineux</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no value of &quot;%2&quot;</source>
+        <source>&quot;%1&quot; is not a value of &quot;%2&quot;</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une valeur de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>the attribute &quot;%1&quot; has no place in &quot;%2&quot;</source>
+        <source>the attribute &quot;%1&quot; is not expected in &quot;%2&quot;</source>
         <translation>l’attribut «&#xa0;%1&#xa0;» n’a pas sa place dans «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>text between elements is passed over</source>
+        <source>text between elements is ignored</source>
         <translation>le texte entre les éléments est ignoré</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no place in &quot;%2&quot; and is passed over</source>
+        <source>&quot;%1&quot; is not expected in &quot;%2&quot; and is ignored</source>
         <translation>«&#xa0;%1&#xa0;» n’a pas sa place dans «&#xa0;%2&#xa0;» et est ignoré</translation>
     </message>
     <message>
@@ -787,7 +787,7 @@ Erreur&#xa0;: %2</translation>
         <translation>l’élément racine est «&#xa0;%1&#xa0;» et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>the root element is of the namespace &quot;%1&quot;</source>
+        <source>the root element is in the namespace &quot;%1&quot;</source>
         <translation>l’élément racine appartient à l’espace de noms «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
@@ -795,7 +795,7 @@ Erreur&#xa0;: %2</translation>
         <translation>la version est «&#xa0;%1&#xa0;» et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>there are more than %1 script elements</source>
+        <source>the mode has more than %1 script elements</source>
         <translation>il y a plus de %1 éléments de script</translation>
     </message>
     <message>
@@ -834,7 +834,7 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>There is no room for temporary files</source>
+        <source>No space is left for temporary files</source>
         <translation>Il n’y a pas de place pour les fichiers temporaires</translation>
     </message>
     <message>
@@ -866,7 +866,7 @@ Erreur&#xa0;: %2</translation>
         <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; holds no settings</source>
+        <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages</translation>
     </message>
 </context>
@@ -2260,15 +2260,15 @@ Erreur&#xa0;: %2</translation>
         <translation>%1 de «&#xa0;%2&#xa0;» n’est jamais atteint, car %3 est le raccourci de «&#xa0;%4&#xa0;».</translation>
     </message>
     <message>
-        <source>%1 of “%2” is a key that desktops or input methods take.</source>
+        <source>Desktops or input methods take %1, the key of “%2”.</source>
         <translation>%1 de «&#xa0;%2&#xa0;» est un raccourci que prennent les environnements de bureau ou les méthodes de saisie.</translation>
     </message>
     <message>
-        <source>%1 of “%2” begins with a key that is needed for writing.</source>
+        <source>%1 of “%2” begins with a key that writing needs.</source>
         <translation>%1 de «&#xa0;%2&#xa0;» commence par une touche nécessaire pour écrire.</translation>
     </message>
     <message>
-        <source>The key of “%1” has no name, and is lost when it is stored.</source>
+        <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>Le raccourci de «&#xa0;%1&#xa0;» n’a pas de nom et se perd à l’enregistrement.</translation>
     </message>
 </context>
@@ -2295,15 +2295,15 @@ Erreur&#xa0;: %2</translation>
         <translation>Microsoft Word</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme of a known version</source>
+        <source>it is not a shortcut scheme of a known version</source>
         <translation>ce n’est pas un jeu de raccourcis d’une version connue</translation>
     </message>
     <message>
-        <source>it is no shortcut scheme</source>
+        <source>it is not a shortcut scheme</source>
         <translation>ce n’est pas un jeu de raccourcis</translation>
     </message>
     <message numerus="yes">
-        <source>it is damaged or cut short; shortcuts that could be read: %n</source>
+        <source>it is damaged or truncated; shortcuts that could be read: %n</source>
         <translation>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourci a pu être lu</numerusform>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourcis ont pu être lus</numerusform>
@@ -2460,7 +2460,7 @@ Erreur&#xa0;: %2</translation>
         <translation>L’adresse du téléchargement n’est pas valide.</translation>
     </message>
     <message>
-        <source>The server sent the download on to an address that is not safe.</source>
+        <source>The server redirected the download to an address that is not safe.</source>
         <translation>Le serveur a redirigé le téléchargement vers une adresse qui n’est pas sûre.</translation>
     </message>
     <message>
@@ -2500,7 +2500,7 @@ Une connexion Internet est nécessaire pour rechercher des mises à jour</transl
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>there is no valid key to check it with</source>
+        <source>no valid key is set to check it with</source>
         <translation>aucune clé valide ne permet de la vérifier</translation>
     </message>
     <message>
@@ -2579,7 +2579,7 @@ Veuillez la signaler à %1.</translation>
         <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
     </message>
     <message>
-        <source>entities expand to too much text</source>
+        <source>entities expand to too long a text</source>
         <translation>les entités produisent trop de texte</translation>
     </message>
     <message>
@@ -2610,11 +2610,11 @@ Veuillez la signaler à %1.</translation>
 <context>
     <name>MTranslator</name>
     <message>
-        <source>A language can only be chosen while there is an application</source>
+        <source>A language can only be chosen while an application object exists</source>
         <translation>Une langue ne peut être choisie que lorsqu’une application est en cours</translation>
     </message>
     <message>
-        <source>There is no translation into the language &quot;%1&quot;</source>
+        <source>No translation into the language &quot;%1&quot; exists</source>
         <translation>Il n’existe pas de traduction dans la langue «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
