@@ -267,18 +267,18 @@ int withPresets(const Call &call)
     QCoreApplication::setOrganizationName(MRVOptions::companyName());
     QCoreApplication::setApplicationName(MRVOptions::applicationName());
     QString error;
-    OpenedOptions opened;
+    MRVOptionsFile settings;
     if (!call.has("file")) {
-        opened = openOptions(call.value("settings"), access, &error);
+        settings.open(call.value("settings"), access, &error);
     }
     MRVTextPresetScheme scheme;
     // The presets may be damaged when all of them are to be replaced.
     const bool isReplaced = call.has("only-these");
     if (!error.isEmpty()
-        || (!isReplaced && !readPresets(call, opened.options.get(), &scheme, &error))) {
+        || (!isReplaced && !readPresets(call, settings.options(), &scheme, &error))) {
         return refuse(error);
     }
-    return Run(call, opened.options.get(), scheme);
+    return Run(call, settings.options(), scheme);
 }
 
 constexpr Verb verbs[] = {

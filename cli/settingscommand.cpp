@@ -238,11 +238,11 @@ int importFrom(const Call &call, MRVOptions *options)
 {
     const QString path = call.arguments.constFirst();
     QString error;
-    const OpenedOptions source = openOptions(path, Access::Read, &error);
-    if (!source.options) {
+    MRVOptionsFile source;
+    if (!source.open(path, Access::Read, &error)) {
         return refuse(error);
     }
-    if (source.options->allKeys().isEmpty()) {
+    if (source.options()->allKeys().isEmpty()) {
         return refuse(QStringLiteral("%1: it contains no settings").arg(path));
     }
     options->loadFromFile(path);

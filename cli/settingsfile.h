@@ -2,40 +2,10 @@
 
 #include "commandline.h"
 
-#include <memory>
+#include "options/mrvoptions.h"
+#include "options/mrvoptionsfile.h"
 
-class MRVOptions;
-class QLockFile;
-
-enum class Access {
-    Read, ///< of a file that must be there
-    Change, ///< of a file that must be there
-    Create, ///< a change, after which the file will be there
-};
-
-/** Options that were opened. To be kept until they are saved. */
-struct OpenedOptions
-{
-    OpenedOptions();
-    OpenedOptions(OpenedOptions &&other) noexcept;
-    OpenedOptions &operator=(OpenedOptions &&other) noexcept;
-    ~OpenedOptions();
-
-    std::unique_ptr<QLockFile> lock; // goes last, since the options save when they go
-    std::unique_ptr<MRVOptions> options;
-};
-
-/**
- * The options in the INI file at @p path, or for an empty path the user's own.
- *
- * For a change they are locked: what is read, changed and saved is not what another command has
- * read before. A command that finds the lock taken waits.
- *
- * @return null options, with a one-line text that names the file, when it is missing or lies in a
- * folder that is, is no regular file, cannot be read, holds something else, or is locked for too
- * long.
- */
-OpenedOptions openOptions(const QString &path, Access access, QString *error);
+using Access = MRVOptionsFile::Access;
 
 /** The option that names a settings file. */
 constexpr Option settingsOption =
@@ -46,9 +16,14 @@ template<Access access, int (*Run)(const Call &call, MRVOptions *options)>
 int withSettings(const Call &call)
 {
     QString error;
-    const OpenedOptions opened = openOptions(call.value("settings"), access, &error);
-    return opened.options ? Run(call, opened.options.get()) : refuse(error);
+    MRVOptionsFile file;
+    return file.open(call.value("settings"), access, &error) ? Run(call, file.options())
+                                                             : refuse(error);
 }
 
 /** Saves the options. @return Done, or Failed after an error. */
-int save(MRVOptions *options);
+inline int save(MRVOptions *options)
+{
+    QString error;
+    return options->saveNow(&error) ? int(Done) : refuse(error);
+}

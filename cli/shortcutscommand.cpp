@@ -14,11 +14,11 @@ namespace {
 
 bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error)
 {
-    const OpenedOptions opened = openOptions(path, Access::Read, error);
-    const MRVOptions *options = opened.options.get();
-    if (!options) {
+    MRVOptionsFile file;
+    if (!file.open(path, Access::Read, error)) {
         return false;
     }
+    const MRVOptions *options = file.options();
     // The options give the default in place of what cannot be read; here it has to be told.
     const QVariant stored =
         options->QSettings::value(options->keyText(MRVOptions::DefaultShortcutScheme));

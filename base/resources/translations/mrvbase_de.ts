@@ -672,6 +672,25 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOptionsFile</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>Dies ist keine normale Datei</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>Der Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>this is no settings file</source>
+        <translation>Dies ist keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>another program is changing it</source>
+        <translation>Ein anderes Programm ändert sie gerade</translation>
+    </message>
+</context>
+<context>
     <name>MRVOutputFiles</name>
     <message>
         <source>two inputs would be written to this file</source>
@@ -746,6 +765,13 @@ Fehler: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>sie enthält mehr als %1 MiB Text</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptFile</name>
+    <message>
+        <source>unknown type of script</source>
+        <translation>Unbekannte Art von Drehbuch</translation>
     </message>
 </context>
 <context>

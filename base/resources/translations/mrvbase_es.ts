@@ -672,6 +672,25 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOptionsFile</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>su carpeta no existe</translation>
+    </message>
+    <message>
+        <source>this is no settings file</source>
+        <translation>no es un archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>another program is changing it</source>
+        <translation>otro programa lo está modificando</translation>
+    </message>
+</context>
+<context>
     <name>MRVOutputFiles</name>
     <message>
         <source>two inputs would be written to this file</source>
@@ -746,6 +765,13 @@ Error: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>contiene más de %1 MiB de texto</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptFile</name>
+    <message>
+        <source>unknown type of script</source>
+        <translation>tipo de guion desconocido</translation>
     </message>
 </context>
 <context>

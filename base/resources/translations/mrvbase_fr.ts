@@ -672,6 +672,25 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOptionsFile</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>son dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>this is no settings file</source>
+        <translation>ce n’est pas un fichier de réglages</translation>
+    </message>
+    <message>
+        <source>another program is changing it</source>
+        <translation>un autre programme est en train de le modifier</translation>
+    </message>
+</context>
+<context>
     <name>MRVOutputFiles</name>
     <message>
         <source>two inputs would be written to this file</source>
@@ -746,6 +765,13 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>il contient plus de %1 Mio de texte</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptFile</name>
+    <message>
+        <source>unknown type of script</source>
+        <translation>type de script inconnu</translation>
     </message>
 </context>
 <context>

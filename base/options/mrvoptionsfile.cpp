@@ -1,4 +1,4 @@
-#include "settingsfile.h"
+#include "options/mrvoptionsfile.h"
 
 #include "options/mrvoptions.h"
 
@@ -60,87 +60,76 @@ QString pathOfOwn()
                   + QLatin1String(".conf"));
 }
 
-// All names of a file lead to one lock. Null when it stays taken.
-std::unique_ptr<QLockFile> lockFor(const QFileInfo &file)
+} // namespace
+
+MRVOptionsFile::MRVOptionsFile() = default;
+
+MRVOptionsFile::~MRVOptionsFile() = default;
+
+// All names of a file lead to one lock.
+bool MRVOptionsFile::lock(const QFileInfo &file)
 {
     const QString real = file.exists()
         ? file.canonicalFilePath()
         : QDir(QFileInfo(file.path()).canonicalFilePath()).filePath(file.fileName());
-    auto lock = std::make_unique<QLockFile>(real + QLatin1String(".edit"));
+    m_lock = std::make_unique<QLockFile>(real + QLatin1String(".edit"));
     const QDeadlineTimer deadline(MostWaiting);
     // Its own waiting becomes longer and longer. A folder that takes no lock is for saving to tell.
-    while (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) {
+    while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError) {
         if (deadline.hasExpired()) {
-            return nullptr;
+            return false;
         }
         QThread::msleep(Step);
     }
-    return lock;
+    return true;
 }
 
-// Empty where there is none. QSettings would wait at a pipe, put a file in place of a device, and
-// make folders.
-QString objectionTo(const QFileInfo &info, bool isOwn, Access access)
+// Empty when the file can be opened.
+QString MRVOptionsFile::objectionTo(const QFileInfo &info, bool isOwn, Access access)
 {
     if (info.exists() && !info.isFile()) {
-        return QStringLiteral("it is not a regular file");
+        return tr("it is not a regular file");
     }
     if (isOwn) {
         return QString();
     }
     if (!info.dir().exists()) {
-        return QStringLiteral("its folder does not exist");
+        return tr("its folder does not exist");
     }
-    if (!info.exists() && access == Access::Create) {
+    if (!info.exists() && access == Create) {
         return QString();
     }
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
         return file.errorString();
     }
-    return beginsLikeSettings(&file) ? QString() : QStringLiteral("this is no settings file");
+    return beginsLikeSettings(&file) ? QString() : tr("this is no settings file");
 }
 
-} // namespace
-
-OpenedOptions::OpenedOptions() = default;
-
-OpenedOptions::OpenedOptions(OpenedOptions &&other) noexcept = default;
-
-OpenedOptions &OpenedOptions::operator=(OpenedOptions &&other) noexcept = default;
-
-OpenedOptions::~OpenedOptions() = default;
-
-OpenedOptions openOptions(const QString &path, Access access, QString *error)
+bool MRVOptionsFile::open(const QString &path, Access access, QString *error)
 {
     const bool isOwn = path.isEmpty();
     const QFileInfo file(isOwn ? pathOfOwn() : path);
-    OpenedOptions opened;
     QString reason = objectionTo(file, isOwn, access);
-    if (reason.isEmpty() && access != Access::Read) {
+    if (reason.isEmpty() && access != Read) {
         if (isOwn) {
             QDir().mkpath(file.path());
         }
-        opened.lock = lockFor(file);
-        if (!opened.lock) {
-            reason = QStringLiteral("another command is changing it");
+        if (!lock(file)) {
+            reason = tr("another program is changing it");
         }
     }
     if (reason.isEmpty()) {
-        opened.options =
-            isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
-        if (isOwn || opened.options->status() == QSettings::NoError) {
-            return opened;
+        m_options = isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
+        if (isOwn || m_options->status() == QSettings::NoError) {
+            return true;
         }
-        opened.options.reset();
-        reason = QStringLiteral("this is no settings file");
+        m_options.reset();
+        reason = tr("this is no settings file");
     }
-    *error = QStringLiteral("%1: %2").arg(file.filePath(), reason);
-    return opened;
-}
-
-int save(MRVOptions *options)
-{
-    QString error;
-    return options->saveNow(&error) ? Done : refuse(error);
+    m_lock.reset();
+    if (error) {
+        *error = file.filePath() + QLatin1String(": ") + reason;
+    }
+    return false;
 }
