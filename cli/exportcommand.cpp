@@ -7,7 +7,6 @@
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -130,30 +129,14 @@ int readOptions(const Call &call, Options *options)
     return readsTwice(options->inputs) ? int(WrongUsage) : readMetadata(call, options);
 }
 
-// The file to write for an input.
-QString outputFile(const Options &options, const QString &input)
-{
-    const bool standard = input == QLatin1String("-");
-    const QString name =
-        (standard ? QStringLiteral("manuscript") : QFileInfo(input).completeBaseName()) + u'.'
-        + QLatin1String(options.target->suffix);
-    if (options.output.isEmpty()) {
-        return standard ? QString(StandardOutput) : QFileInfo(input).dir().filePath(name);
-    }
-    if (options.output == StandardOutput) {
-        return StandardOutput;
-    }
-    const bool folder = options.output.endsWith(u'/') || QFileInfo(options.output).isDir()
-        || (!options.target->package && options.inputs.size() > 1);
-    return folder ? QDir(options.output).filePath(name) : options.output;
-}
-
 // One for a package, else one an input.
 QStringList outputFiles(const Options &options)
 {
     QStringList files;
+    const bool isFolder = !options.target->package && options.inputs.size() > 1;
     for (const QString &input : options.inputs) {
-        files.append(outputFile(options, input));
+        files.append(outputFile(input, options.output, QStringLiteral("manuscript"),
+                                QLatin1String(options.target->suffix), isFolder));
     }
     return options.target->package ? files.mid(0, 1) : files;
 }

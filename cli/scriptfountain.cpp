@@ -3,173 +3,45 @@
 #include "scriptcommand.h"
 
 #include "core/mrvcoreutil.h"
-#include "epub/mrvepubpackage.h"
+#include "epub/mrvscriptbook.h"
 #include "publish/mrvstagedfiles.h"
-#include "screenplay/mrvfinaldraft.h"
-#include "screenplay/mrvfountainhtml.h"
-#include "screenplay/mrvscriptdocument.h"
+#include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QRegularExpression>
-#include <QTextCodec>
-#include <QTextDocument>
 
 namespace {
 
 const QLatin1String StandardStream("-");
 
-enum class Format { Fountain, Html, FinalDraft, EPub, Unknown };
-
-// The first of a format's suffixes is the one that it is written with.
-constexpr struct
-{
-    Format format;
-    const char *name;
-    const char *suffixes;
-    bool isRead;
-} formats[] = {{Format::Fountain, "fountain", "fountain spmd txt", true},
-               {Format::Html, "html", "html htm xhtml", true},
-               {Format::FinalDraft, "fdx", "fdx", true},
-               {Format::EPub, "epub", "epub", false}};
-
-Format formatNamed(const QString &name)
-{
-    for (const auto &row : formats) {
-        if (name == QLatin1String(row.name)) {
-            return row.format;
-        }
-    }
-    return Format::Unknown;
-}
-
-Format formatOfFile(const QString &path)
-{
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    for (const auto &row : formats) {
-        if (!suffix.isEmpty() && QString::fromLatin1(row.suffixes).split(u' ').contains(suffix)) {
-            return row.format;
-        }
-    }
-    return Format::Unknown;
-}
-
-// A script, and where it came from.
-struct ScriptFile
-{
-    QString path;
-    Format format = Format::Unknown;
-    QByteArray bytes;
-    MRVFountainScript script;
-    QString text; // of a Fountain script, as it was typed
-    QTextCodec *codec = nullptr; // of that text, where a byte-order mark tells of it
-    QString language; // of a page
-    QStringList leftOut; // sections of a Final Draft document
-};
+using Format = MRVScriptFile::Format;
 
 // Reads a script; @p error names the file.
-bool readScript(const QString &path, const QString &from, ScriptFile *file, QString *error)
+bool readScript(const QString &path, const QString &from, MRVScriptFile *file, QString *error)
 {
     const bool standard = path == StandardStream;
-    file->path = path;
-    file->format = !from.isEmpty() ? formatNamed(from)
-        : standard                 ? Format::Fountain
-                                   : formatOfFile(path);
+    const Format format = !from.isEmpty() ? MRVScriptFile::formatNamed(from)
+        : standard                        ? MRVScriptFile::Fountain
+                                          : MRVScriptFile::formatOfFile(path);
     QString reason;
-    const QByteArray &bytes = file->bytes =
+    const QByteArray bytes =
         standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
     if (!reason.isEmpty()) {
         *error = reason;
         return false;
     }
-    bool ok = false;
-    if (file->format == Format::Html) {
-        ok = MRVFountainHtml::fromHtml(bytes, &file->script, &reason, &file->language);
-    } else if (file->format == Format::FinalDraft) {
-        ok = MRVFinalDraft::fromXml(bytes, &file->script, &reason, &file->leftOut);
-    } else if (file->format == Format::Fountain) {
-        ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file->text, &reason);
-        file->codec = QTextCodec::codecForUtfText(bytes, nullptr);
-        file->script = MRVFountainScript::fromText(file->text);
-    } else {
-        reason = QStringLiteral("unknown type of script; say with --from what it is");
+    if (file->read(bytes, format, &reason)) {
+        return true;
     }
-    if (!ok) {
-        *error = path + QLatin1String(": ") + reason;
-    }
-    return ok;
-}
-
-QStringList authorsOf(const MRVFountainScript &script)
-{
-    static const QRegularExpression joint(QStringLiteral("\\s*(?:\\n|&|,| and )\\s*"));
-    const QString author = script.title(QStringLiteral("Author"));
-    const QString all = author.isEmpty() ? script.title(QStringLiteral("Authors")) : author;
-    return all.split(joint, Qt::SkipEmptyParts);
-}
-
-bool ebook(const MRVFountainScript &script, const MRVScriptMode &mode, const QString &language,
-           QByteArray *bytes, QString *error)
-{
-    MRVEPubMetadata metadata;
-    metadata.title = script.title(QStringLiteral("Title")).simplified();
-    metadata.authors = authorsOf(script);
-    metadata.rights = script.title(QStringLiteral("Copyright")).simplified();
-    metadata.language = language;
-    if (!MRVFixedDate::fromEnvironment(&metadata.modified, error)) {
-        return false;
-    }
-    QTextDocument document;
-    MRVScriptDocument::setPrintedScript(&document, script, mode);
-    MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
-    if (!package.addDocument(document, QString(), error)) {
-        return false;
-    }
-    *bytes = package.toByteArray(error);
-    return !bytes->isEmpty();
-}
-
-// What is written for a script; only an e-book can fail, and needs a mode.
-bool scriptBytes(const MRVFountainScript &script, Format format, const MRVScriptMode &mode,
-                 const QString &language, QByteArray *bytes, QString *error)
-{
-    switch (format) {
-    case Format::EPub:
-        return ebook(script, mode, language, bytes, error);
-    case Format::Html:
-        *bytes = MRVFountainHtml::toHtml(script, language);
-        break;
-    case Format::FinalDraft:
-        *bytes = MRVFinalDraft::toXml(script);
-        break;
-    default:
-        *bytes = script.toText().toUtf8();
-        break;
-    }
-    return true;
-}
-
-// A changed script in the format that it was read from; one in Fountain keeps what was not changed.
-QByteArray revisedBytes(const ScriptFile &file)
-{
-    if (file.format != Format::Fountain) {
-        QByteArray bytes;
-        scriptBytes(file.script, file.format, MRVScriptMode(), file.language, &bytes, nullptr);
-        return bytes;
-    }
-    const QString text = file.script.toText(file.text);
-    if (!file.codec) {
-        return text.toUtf8();
-    }
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString marked = QChar(QChar::ByteOrderMark) + text;
-    return file.codec->fromUnicode(marked.constData(), marked.size(), &state);
+    const bool isUnknown = format == MRVScriptFile::UnknownFormat || format == MRVScriptFile::EPub;
+    *error = path + QLatin1String(": ") + reason
+        + QLatin1String(isUnknown ? "; say with --from what it is" : "");
+    return false;
 }
 
 bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
@@ -180,12 +52,12 @@ bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
     return MRVStagedFiles::write(bytes, file, error);
 }
 
-// Behind the writing of a script, which may yet fail.
-void tellLeftOut(const ScriptFile &file)
+// After the script was written, which may fail.
+void printLeftOut(const QString &path, const MRVScriptFile &file)
 {
-    if (!file.leftOut.isEmpty()) {
+    if (!file.leftOut().isEmpty()) {
         printError(QStringLiteral("%1: without what stands in %2")
-                       .arg(file.path, file.leftOut.join(QLatin1String(", "))));
+                       .arg(path, file.leftOut().join(QLatin1String(", "))));
     }
 }
 
@@ -195,30 +67,11 @@ bool isSameFile(const QString &a, const QString &b)
     return !real.isEmpty() && real == QFileInfo(b).canonicalFilePath();
 }
 
-QString outputFile(const QString &input, const QString &output, Format format)
-{
-    QString suffix;
-    for (const auto &row : formats) {
-        if (row.format == format) {
-            suffix = QString::fromLatin1(row.suffixes).section(u' ', 0, 0);
-        }
-    }
-    const bool standard = input == StandardStream;
-    const QString name =
-        (standard ? QStringLiteral("script") : QFileInfo(input).completeBaseName()) + u'.' + suffix;
-    if (output.isEmpty()) {
-        return standard ? QString(StandardStream) : QFileInfo(input).dir().filePath(name);
-    }
-    const bool folder =
-        output != StandardStream && (output.endsWith(u'/') || QFileInfo(output).isDir());
-    return folder ? QDir(output).filePath(name) : output;
-}
-
 struct ConvertOptions
 {
     QString input;
     QString from;
-    Format to = Format::Unknown;
+    Format to = MRVScriptFile::UnknownFormat;
     QString output; // the file
     MRVScriptMode mode;
     QString language;
@@ -232,14 +85,17 @@ int readOptions(const Call &call, ConvertOptions *options)
     const QString output = call.value("output");
     options->input = call.arguments.constFirst();
     options->from = call.value("from");
-    options->to = to.isEmpty() ? formatOfFile(output) : formatNamed(to);
+    options->to =
+        to.isEmpty() ? MRVScriptFile::formatOfFile(output) : MRVScriptFile::formatNamed(to);
     options->json = call.has("json");
-    if (options->to == Format::Unknown) {
+    if (options->to == MRVScriptFile::UnknownFormat) {
         return usageError(
             QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
     }
-    const Format named = output == StandardStream ? Format::Unknown : formatOfFile(output);
-    if (named != Format::Unknown && named != options->to && !QFileInfo(output).isDir()) {
+    const Format named = output == StandardStream ? MRVScriptFile::UnknownFormat
+                                                  : MRVScriptFile::formatOfFile(output);
+    if (named != MRVScriptFile::UnknownFormat && named != options->to
+        && !QFileInfo(output).isDir()) {
         return usageError(
             QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
     }
@@ -250,12 +106,12 @@ int readOptions(const Call &call, ConvertOptions *options)
             QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
     }
     const QString mode = call.value("mode");
-    if (!mode.isEmpty() && options->to != Format::EPub) {
+    if (!mode.isEmpty() && options->to != MRVScriptFile::EPub) {
         return usageError(QStringLiteral("--mode is for e-books only"));
     }
     QString error;
     QDateTime unused;
-    if (options->to == Format::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
+    if (options->to == MRVScriptFile::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
         return usageError(error);
     }
     options->mode.loadFactoryDefaults();
@@ -268,7 +124,8 @@ int readOptions(const Call &call, ConvertOptions *options)
 // Finds the file to write. @return -1 to go on, else the exit code.
 int readOutput(const QString &output, ConvertOptions *options)
 {
-    options->output = outputFile(options->input, output, options->to);
+    options->output = outputFile(options->input, output, QStringLiteral("script"),
+                                 MRVScriptFile::suffix(options->to));
     const bool toFile = options->output != StandardStream;
     // Nobody named it, so what stands there may be somebody's work.
     if (toFile && (output.isEmpty() || QFileInfo(output).isDir())
@@ -292,19 +149,20 @@ int runScriptConvert(const Call &call)
     if (code >= 0) {
         return code;
     }
-    ScriptFile script;
-    QByteArray bytes;
+    MRVScriptFile script;
     QString error;
     if (!readScript(options.input, options.from, &script, &error)) {
         return refuse(error);
     }
     const QString language =
-        options.language.isEmpty() ? MRV::languageTag(script.language) : options.language;
-    if (!scriptBytes(script.script, options.to, options.mode, language, &bytes, &error)
-        || !writeScript(bytes, options.output, &error)) {
+        options.language.isEmpty() ? MRV::languageTag(script.language()) : options.language;
+    const QByteArray bytes = options.to == MRVScriptFile::EPub
+        ? MRVScriptBook::toByteArray(script.script(), options.mode, language, &error)
+        : MRVScriptFile::toByteArray(script.script(), options.to, language);
+    if (!error.isEmpty() || !writeScript(bytes, options.output, &error)) {
         return refuse(error);
     }
-    tellLeftOut(script);
+    printLeftOut(options.input, script);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
@@ -362,14 +220,14 @@ int runScriptStats(const Call &call)
 {
     bool ok = true;
     for (const QString &input : call.arguments) {
-        ScriptFile file;
+        MRVScriptFile file;
         QString error;
         if (!readScript(input, call.value("from"), &file, &error)) {
             printError(error); // the others can still be counted
             ok = false;
             continue;
         }
-        const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script);
+        const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script());
         if (call.has("json")) {
             printJson(toJson(input, statistics));
         } else {
@@ -378,27 +236,6 @@ int runScriptStats(const Call &call)
     }
     return ok ? Done : Failed;
 }
-
-namespace {
-
-// Renames in @p file. @return how many names there were.
-int renamed(const Call &call, ScriptFile *file)
-{
-    MRVScriptDocument::RenameScope scope;
-    scope.setFlag(MRVScriptDocument::InDialogue, call.has("dialogue"));
-    scope.setFlag(MRVScriptDocument::InAction, call.has("action"));
-    MRVScriptMode mode;
-    mode.loadFactoryDefaults();
-    QTextDocument document;
-    MRVScriptDocument::setScript(&document, file->script, mode);
-    const QStringList names = call.arguments;
-    const int count =
-        MRVScriptDocument::renameCharacter(&document, mode, names.at(0), names.at(1), scope);
-    file->script = MRVScriptDocument::script(document, mode);
-    return count;
-}
-
-} // namespace
 
 int runScriptRename(const Call &call)
 {
@@ -409,19 +246,22 @@ int runScriptRename(const Call &call)
     if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
         return usageError(QStringLiteral("a name is one line"));
     }
-    ScriptFile file;
+    MRVScriptFile file;
     QString error;
     if (!readScript(names.at(2), call.value("from"), &file, &error)) {
         return refuse(error);
     }
     const QString output = call.value("output");
     // Documents and pages may hold more than scripts: revisions, headers, what others have added.
-    if (isSameFile(names.at(2), output) && revisedBytes(file) != file.bytes) {
+    if (isSameFile(names.at(2), output) && file.revised() != file.source()) {
         return refuse(
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
                 .arg(output));
     }
-    const int count = renamed(call, &file);
+    MRVScriptDocument::RenameScope scope;
+    scope.setFlag(MRVScriptDocument::InDialogue, call.has("dialogue"));
+    scope.setFlag(MRVScriptDocument::InAction, call.has("action"));
+    const int count = file.renameCharacter(names.at(0), names.at(1), scope);
     if (count == 0) {
         const bool isSame =
             names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
@@ -430,10 +270,10 @@ int runScriptRename(const Call &call)
                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
-    if (!writeScript(revisedBytes(file), target, &error)) {
+    if (!writeScript(file.revised(), target, &error)) {
         return refuse(error);
     }
-    tellLeftOut(file);
+    printLeftOut(names.at(2), file);
     if (target != StandardStream && call.has("json")) {
         printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
     } else if (target != StandardStream) {
