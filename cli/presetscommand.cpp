@@ -3,58 +3,14 @@
 
 #include "core/mrvcoreutil.h"
 #include "options/mrvoptions.h"
+#include "presets/mrvtextpresetjson.h"
 #include "state/mrvtextpresetmgr.h"
-#include "textformat/mrvtextformat.h"
 
-#include <QBrush>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonObject>
 
 namespace {
-
-struct PropertyRow
-{
-    int property;
-    const char *name;
-};
-
-// clang-format off
-constexpr PropertyRow propertyRows[] = {
-    {QTextFormat::FontFamily,               "family"},
-    {QTextFormat::FontPointSize,            "size"},
-    {QTextFormat::FontWeight,               "weight"},
-    {QTextFormat::FontItalic,               "italic"},
-    {QTextFormat::TextUnderlineStyle,       "underline"},
-    {QTextFormat::FontStrikeOut,            "strikeOut"},
-    {QTextFormat::FontCapitalization,       "capitalization"},
-    {QTextFormat::ForegroundBrush,          "color"},
-    {QTextFormat::BackgroundBrush,          "background"},
-    {MRVTextFormat::PreserveFormatProperty, "preserved"},
-    {QTextFormat::BlockAlignment,           "alignment"},
-    {QTextFormat::BlockLeftMargin,          "left"},
-    {QTextFormat::BlockRightMargin,         "right"},
-    {QTextFormat::TextIndent,               "firstLine"},
-    {QTextFormat::BlockTopMargin,           "above"},
-    {QTextFormat::BlockBottomMargin,        "below"},
-    {MRVTextFormat::BlockSpacing,           "spacing"},
-    {MRVTextFormat::BlockBaseSpacing,       "baseSpacing"},
-};
-
-struct AlignmentRow
-{
-    Qt::AlignmentFlag alignment;
-    const char *name;
-};
-
-constexpr AlignmentRow alignmentRows[] = {
-    {Qt::AlignLeft,    "left"},
-    {Qt::AlignRight,   "right"},
-    {Qt::AlignHCenter, "center"},
-    {Qt::AlignJustify, "justify"},
-};
-// clang-format on
 
 int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
 {
@@ -119,65 +75,8 @@ bool writePresets(const Call &call, MRVOptions *options, const MRVTextPresetSche
     return error->isEmpty();
 }
 
-QJsonValue jsonOf(int property, const QVariant &value)
+void printFormat(const char *title, const QJsonObject &object)
 {
-    if (value.userType() == QMetaType::QBrush) {
-        return value.value<QBrush>().color().name();
-    }
-    if (property == QTextFormat::BlockAlignment) {
-        for (const AlignmentRow &row : alignmentRows) {
-            if (value.toInt() & row.alignment) {
-                return QLatin1String(row.name);
-            }
-        }
-    }
-    const QJsonValue json = QJsonValue::fromVariant(value);
-    return json.isNull() || json.isArray() ? QJsonValue(QLatin1String(value.typeName())) : json;
-}
-
-QString nameOf(int property)
-{
-    for (const PropertyRow &row : propertyRows) {
-        if (row.property == property) {
-            return QLatin1String(row.name);
-        }
-    }
-    return QStringLiteral("0x%1").arg(property, 0, 16);
-}
-
-QJsonObject jsonOf(const QTextFormat &format)
-{
-    QJsonObject object;
-    const QMap<int, QVariant> properties = format.properties();
-    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
-        object.insert(nameOf(it.key()), jsonOf(it.key(), it.value()));
-    }
-    return object;
-}
-
-QStringList partsOf(const MRVTextPreset &preset)
-{
-    QStringList parts;
-    if (preset.applyFlags() & MRVTextPreset::ApplyCharFormat) {
-        parts << QStringLiteral("characters");
-    }
-    if (preset.applyFlags() & MRVTextPreset::ApplyBlockFormat) {
-        parts << QStringLiteral("paragraphs");
-    }
-    return parts;
-}
-
-QJsonObject jsonOf(const QString &name, const MRVTextPreset &preset)
-{
-    return {{QStringLiteral("name"), name},
-            {QStringLiteral("applies"), QJsonArray::fromStringList(partsOf(preset))},
-            {QStringLiteral("characters"), jsonOf(preset.charFormat())},
-            {QStringLiteral("paragraphs"), jsonOf(preset.blockFormat())}};
-}
-
-void printFormat(const char *title, const QTextFormat &format)
-{
-    const QJsonObject object = jsonOf(format);
     QStringList values;
     for (auto it = object.begin(); it != object.end(); ++it) {
         values << it.key() + u' ' + displayed(it.value().toVariant().toString());
@@ -185,12 +84,19 @@ void printFormat(const char *title, const QTextFormat &format)
     printLine(QStringLiteral("  %1 %2").arg(QLatin1String(title), -11).arg(values.join(u", ")));
 }
 
-void printPreset(const QString &name, const MRVTextPreset &preset)
+void printPreset(const Call &call, const QString &name, const MRVTextPreset &preset)
 {
+    const QJsonObject object = MRVTextPresetJson::toJson(name, preset);
+    if (call.json()) {
+        printJson(object);
+        return;
+    }
     printLine(displayed(name));
-    printLine(QLatin1String("  applies     ") + partsOf(preset).join(QLatin1String(", ")));
-    printFormat("characters", preset.charFormat());
-    printFormat("paragraphs", preset.blockFormat());
+    const QStringList parts = object[QLatin1String("applies")].toVariant().toStringList();
+    printLine(QLatin1String("  applies     ") + parts.join(QLatin1String(", ")));
+    for (const char *part : {"characters", "paragraphs"}) {
+        printFormat(part, object[QLatin1String(part)].toObject());
+    }
 }
 
 int list(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
@@ -198,7 +104,7 @@ int list(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
     const QStringList names = scheme.names();
     for (const QString &name : names) {
         if (call.json()) {
-            printJson(jsonOf(name, scheme.preset(name)));
+            printJson(MRVTextPresetJson::toJson(name, scheme.preset(name)));
         } else {
             printLine(displayed(name));
         }
@@ -214,11 +120,7 @@ int show(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
         }
     }
     for (const QString &name : call.arguments) {
-        if (call.json()) {
-            printJson(jsonOf(name, scheme.preset(name)));
-        } else {
-            printPreset(name, scheme.preset(name));
-        }
+        printPreset(call, name, scheme.preset(name));
     }
     return Done;
 }
