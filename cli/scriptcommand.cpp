@@ -1,15 +1,12 @@
 #include "scriptcommand.h"
 #include "commandline.h"
+#include "scriptmode/mrvscriptelementtext.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "suggestion.h"
-#include "textformat/mrvtextformat.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-
-#include <iterator>
-#include <utility>
 
 namespace {
 
@@ -21,286 +18,6 @@ struct UnitName
 constexpr UnitName unitNames[] = {{"in", MRVUnit::Inch},
                                   {"cm", MRVUnit::Centimeter},
                                   {"pt", MRVUnit::Point}};
-
-// What Return and Tab go to.
-struct ActionName
-{
-    MRVScriptElement::Action action;
-    const char *shown;
-    const char *key;
-};
-constexpr ActionName actionNames[] = {
-    {MRVScriptElement::ReturnAction, "Return", "return"},
-    {MRVScriptElement::TabOnEmptyAction, "Tab in an empty line", "tabOnEmpty"},
-    {MRVScriptElement::TabAfterTypingAction, "Tab", "tabAfterTyping"}};
-
-struct LengthName
-{
-    int property;
-    const char *shown;
-    const char *key;
-};
-constexpr LengthName lengthNames[] = {{MRVTextFormat::BlockLeftIndent, "left indent", "left"},
-                                      {MRVTextFormat::BlockRightIndent, "right indent", "right"},
-                                      {QTextFormat::TextIndent, "first line", "firstLine"},
-                                      {QTextFormat::BlockTopMargin, "above", "above"},
-                                      {QTextFormat::BlockBottomMargin, "below", "below"}};
-
-struct FlagName
-{
-    MRVScriptElement::Flag flag;
-    const char *shown;
-    const char *key;
-};
-constexpr FlagName textFlags[] = {
-    {MRVScriptElement::DoubleUnderline, "underlined twice", "doubleUnderline"},
-    {MRVScriptElement::UnderlineByWord, "blanks not underlined", "underlineByWord"},
-    {MRVScriptElement::AllCaps, "capitals", "capitals"},
-    {MRVScriptElement::Parenthetical, "in parentheses", "parentheses"}};
-constexpr FlagName behaviorFlags[] = {
-    {MRVScriptElement::KeepWithNext, "stays with the next", "keepWithNext"},
-    {MRVScriptElement::AllowTabs, "allows tabs", "allowTabs"},
-    {MRVScriptElement::AppendProjectList, "offers the project\u2019s phrases", "offersPhrases"},
-    {MRVScriptElement::AddToProjectList, "collects phrases", "collectsPhrases"}};
-
-struct DelimiterName
-{
-    QString (MRVScriptElement::*text)() const;
-    const char *shown;
-    const char *key;
-};
-constexpr DelimiterName delimiterNames[] = {
-    {&MRVScriptElement::styleDelimiter, "capitals up to", "styleDelimiter"},
-    {&MRVScriptElement::phraseStartDelimiter, "phrases begin behind", "phraseStart"},
-    {&MRVScriptElement::phraseEndDelimiter, "phrases end before", "phraseEnd"}};
-
-bool insertsText(const MRVScriptElement &element, MRVScriptElement::Action action)
-{
-    return action == MRVScriptElement::TabAfterTypingAction
-        && element.tabBehavior() == MRVScriptElement::TabInsertsText;
-}
-
-const char *alignmentWord(const MRVScriptElement &element)
-{
-    const Qt::Alignment alignment = element.blockFormat().alignment();
-    return alignment & Qt::AlignHCenter ? "to the centre"
-        : alignment & Qt::AlignRight    ? "right"
-        : alignment & Qt::AlignJustify  ? "to both sides"
-                                        : "left";
-}
-
-// Of what is done to a phrase once it is accepted; empty for nothing.
-QString completionWord(const MRVScriptElement &element)
-{
-    switch (element.completeBehavior()) {
-    case MRVScriptElement::CompleteToNextLine:
-        return QStringLiteral("next line");
-    case MRVScriptElement::CompleteInsertsTab:
-        return QStringLiteral("tab");
-    case MRVScriptElement::CompleteDefault:
-        break;
-    }
-    return QString();
-}
-
-bool hasFixedHeight(const QTextBlockFormat &format)
-{
-    return format.doubleProperty(MRVTextFormat::BlockBaseSpacing) == 0.0
-        && format.doubleProperty(MRVTextFormat::BlockSpacing) != 0.0;
-}
-
-double lineSpacing(const QTextBlockFormat &format)
-{
-    double multiple = 1.0;
-    MRVTextFormat::spacingType(format, &multiple);
-    return multiple > 0.0 ? multiple : 1.0;
-}
-
-// With what would not be seen written as a program would.
-QString quoted(QString text)
-{
-    text.replace(u'\t', QLatin1String("\\t")).replace(u'\n', QLatin1String("\\n"));
-    return QStringLiteral("\u201c%1\u201d").arg(text);
-}
-
-QStringList flagWords(const MRVScriptElement &element, const FlagName *begin, const FlagName *end)
-{
-    QStringList words;
-    for (const FlagName *name = begin; name != end; ++name) {
-        if (element.hasFlag(name->flag)) {
-            words.append(QString::fromUtf8(name->shown));
-        }
-    }
-    return words;
-}
-
-QStringList fontWords(const MRVScriptElement &element)
-{
-    const QTextCharFormat format = element.charFormat();
-    QStringList words;
-    if (!format.fontFamily().isEmpty()) {
-        words.append(format.fontFamily());
-    }
-    if (format.fontPointSize() > 0.0) {
-        words.append(MRVUnit::toText(MRVUnit::Point, format.fontPointSize()));
-    }
-    const std::pair<bool, const char *> styles[] = {
-        {format.fontWeight() > QFont::Normal, "bold"},
-        {format.fontItalic(), "italic"},
-        {format.fontUnderline() && !element.hasFlag(MRVScriptElement::DoubleUnderline),
-         "underlined"}};
-    for (const auto &style : styles) {
-        if (style.first) {
-            words.append(QLatin1String(style.second));
-        }
-    }
-    if (format.foreground().style() == Qt::SolidPattern) {
-        words.append(format.foreground().color().name());
-    }
-    return words + flagWords(element, std::begin(textFlags), std::end(textFlags));
-}
-
-// In as few digits as tell it from the next twentieth of a point.
-QString lengthText(const MRVScriptMode &mode, double points)
-{
-    const double exact = mode.fromPoints(points);
-    double shown = exact;
-    for (int decimals = 6; decimals >= 0; --decimals) {
-        const double shorter = QString::number(exact, 'f', decimals).toDouble();
-        if (mode.toPoints(shorter) == mode.toPoints(exact)) {
-            shown = shorter;
-        }
-    }
-    return MRVUnit::toText(mode.units(), shown);
-}
-
-QStringList layoutWords(const MRVScriptElement &element, const MRVScriptMode &mode)
-{
-    const QTextBlockFormat format = element.blockFormat();
-    const auto length = [&](double points) { return lengthText(mode, points); };
-    QStringList words{QLatin1String("aligned ") + QLatin1String(alignmentWord(element))};
-    for (const LengthName &name : lengthNames) {
-        const double points = format.doubleProperty(name.property);
-        if (points != 0.0) {
-            words.append(QLatin1String(name.shown) + u' ' + length(points));
-        }
-    }
-    if (hasFixedHeight(format)) {
-        const double points = format.doubleProperty(MRVTextFormat::BlockSpacing);
-        words.append(QLatin1String(points < 0.0 ? "lines exactly " : "lines at least ")
-                     + length(qAbs(points)));
-    } else if (lineSpacing(format) != 1.0) {
-        words.append(QStringLiteral("line spacing %1").arg(lineSpacing(format)));
-    }
-    const QList<QTextOption::Tab> tabs = format.tabPositions();
-    for (const QTextOption::Tab &tab : tabs) {
-        words.append(QLatin1String("tab at ") + length(tab.position));
-    }
-    return words;
-}
-
-QStringList behaviorWords(const MRVScriptElement &element)
-{
-    QStringList words = flagWords(element, std::begin(behaviorFlags), std::end(behaviorFlags));
-    if (!completionWord(element).isEmpty()) {
-        words.append(QStringLiteral("a phrase is followed by a ") + completionWord(element));
-    }
-    for (const DelimiterName &name : delimiterNames) {
-        const QString text = (element.*name.text)();
-        if (!text.isEmpty()) {
-            words.append(QLatin1String(name.shown) + u' ' + quoted(text));
-        }
-    }
-    return words;
-}
-
-void printElement(const MRVScriptElement &element, const MRVScriptMode &mode)
-{
-    const QString shortcut = element.shortcut();
-    printLine(QString());
-    printLine(
-        styled(Style::Path, displayed(element.title()))
-        + (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(displayed(shortcut))));
-    for (const QStringList &words :
-         {fontWords(element), layoutWords(element, mode), behaviorWords(element)}) {
-        if (!words.isEmpty()) {
-            printLine(QLatin1String("  ") + displayed(words.join(QLatin1String(", "))));
-        }
-    }
-    for (const ActionName &name : actionNames) {
-        const QString next = element.actionElement(name.action);
-        const QString text = insertsText(element, name.action)
-            ? QLatin1String("inserts ") + quoted(element.actionText(name.action))
-            : next;
-        if (!text.isEmpty()) {
-            printLine(QStringLiteral("  %1: %2").arg(QLatin1String(name.shown), displayed(text)));
-        }
-    }
-    QStringList completions;
-    const QList<MRVCompletion> offered = element.completions().completions();
-    for (const MRVCompletion &completion : offered) {
-        completions.append(completion.text.simplified());
-    }
-    if (!completions.isEmpty()) {
-        printLine(QLatin1String("  offers ") + displayed(completions.join(QLatin1String(", "))));
-    }
-}
-
-QJsonObject toJson(const MRVScriptElement &element)
-{
-    const QTextCharFormat font = element.charFormat();
-    const QTextBlockFormat format = element.blockFormat();
-    const QBrush brush = font.foreground();
-    QJsonObject object{
-        {QStringLiteral("title"), element.title()},
-        {QStringLiteral("shortcut"), element.shortcut()},
-        {QStringLiteral("font"), font.fontFamily()},
-        {QStringLiteral("size"), font.fontPointSize()},
-        {QStringLiteral("bold"), font.fontWeight() > QFont::Normal},
-        {QStringLiteral("italic"), font.fontItalic()},
-        {QStringLiteral("underline"), font.fontUnderline()},
-        {QStringLiteral("color"),
-         brush.style() == Qt::SolidPattern ? brush.color().name() : QString()},
-        {QStringLiteral("alignment"), QLatin1String(alignmentWord(element))},
-        {QStringLiteral("lineSpacing"), hasFixedHeight(format) ? 1.0 : lineSpacing(format)},
-        {QStringLiteral("lineHeight"),
-         hasFixedHeight(format) ? format.doubleProperty(MRVTextFormat::BlockSpacing) : 0.0},
-        {QStringLiteral("afterPhrase"), completionWord(element)},
-        {QStringLiteral("tabInserts"),
-         insertsText(element, MRVScriptElement::TabAfterTypingAction)
-             ? element.actionText(MRVScriptElement::TabAfterTypingAction)
-             : QString()}};
-    for (const FlagName &name : textFlags) {
-        object.insert(QLatin1String(name.key), element.hasFlag(name.flag));
-    }
-    for (const FlagName &name : behaviorFlags) {
-        object.insert(QLatin1String(name.key), element.hasFlag(name.flag));
-    }
-    for (const LengthName &name : lengthNames) {
-        object.insert(QLatin1String(name.key), format.doubleProperty(name.property));
-    }
-    for (const DelimiterName &name : delimiterNames) {
-        object.insert(QLatin1String(name.key), (element.*name.text)());
-    }
-    for (const ActionName &name : actionNames) {
-        object.insert(QLatin1String(name.key),
-                      insertsText(element, name.action) ? QString()
-                                                        : element.actionElement(name.action));
-    }
-    QJsonArray tabs;
-    const QList<QTextOption::Tab> stops = format.tabPositions();
-    for (const QTextOption::Tab &stop : stops) {
-        tabs.append(stop.position);
-    }
-    object.insert(QStringLiteral("tabs"), tabs);
-    QJsonArray completions;
-    const QList<MRVCompletion> offered = element.completions().completions();
-    for (const MRVCompletion &completion : offered) {
-        completions.append(completion.text);
-    }
-    object.insert(QStringLiteral("completions"), completions);
-    return object;
-}
 
 int list(const Call &call)
 {
@@ -352,7 +69,7 @@ int showMode(const MRVScriptMode &mode, const Call &call)
     if (call.has("json")) {
         QJsonArray objects;
         for (const MRVScriptElement &element : elements) {
-            objects.append(toJson(element));
+            objects.append(MRVScriptElementText::toJson(element));
         }
         printJson({{QStringLiteral("name"), mode.name()},
                    {QStringLiteral("units"), MRVUnit::shortSuffix(mode.units())},
@@ -361,7 +78,15 @@ int showMode(const MRVScriptMode &mode, const Call &call)
     }
     printLine(displayed(mode.name()));
     for (const MRVScriptElement &element : elements) {
-        printElement(element, mode);
+        const QString shortcut = element.shortcut();
+        printLine(QString());
+        printLine(
+            styled(Style::Path, displayed(element.title()))
+            + (shortcut.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(displayed(shortcut))));
+        const QStringList lines = MRVScriptElementText::description(element, mode);
+        for (const QString &line : lines) {
+            printLine(QLatin1String("  ") + displayed(line));
+        }
     }
     return Done;
 }

@@ -249,10 +249,6 @@ Fehler: %2</translation>
         <translation>Ohne Titel</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
-    </message>
-    <message>
         <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
         <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn. Nicht alle Bilder haben eine Beschreibung.</translation>
     </message>
@@ -267,6 +263,10 @@ Fehler: %2</translation>
     <message>
         <source>Beginning</source>
         <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
     </message>
 </context>
 <context>
@@ -2562,10 +2562,6 @@ Um nach Updates zu suchen, benötigen Sie eine Internetverbindung</translation>
         <translation>Die XML-Datei des Updates enthielt leere Werte. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
     </message>
     <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>Die XML-Datei des Updates nennt ein Installationsprogramm, dessen Name kein einfacher Dateiname ist. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
-    </message>
-    <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
         <translation>Die Versionsnummern können nicht verglichen werden. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können</translation>
     </message>
@@ -2596,6 +2592,10 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Das Installationsprogramm trägt keine gültige Signatur (%1) und wird nicht geöffnet. Bitte melden Sie dies an %2.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Die XML-Datei des Updates nennt ein Installationsprogramm, dessen Name kein einfacher Dateiname ist. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2912,142 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>One or more SSL errors has occurred: %1</source>
         <translation>SSL-Fehler sind aufgetreten: %1</translation>
+    </message>
+    <message>
+        <source>Return: %1</source>
+        <translation>Eingabetaste: %1</translation>
+    </message>
+    <message>
+        <source>Tab in an empty line: %1</source>
+        <translation>Tab in einer leeren Zeile: %1</translation>
+    </message>
+    <message>
+        <source>Tab: %1</source>
+        <translation>Tab: %1</translation>
+    </message>
+    <message>
+        <source>left indent %1</source>
+        <translation>Einzug links %1</translation>
+    </message>
+    <message>
+        <source>right indent %1</source>
+        <translation>Einzug rechts %1</translation>
+    </message>
+    <message>
+        <source>first line %1</source>
+        <translation>erste Zeile %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>davor %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>danach %1</translation>
+    </message>
+    <message>
+        <source>underlined twice</source>
+        <translation>doppelt unterstrichen</translation>
+    </message>
+    <message>
+        <source>blanks not underlined</source>
+        <translation>Leerzeichen nicht unterstrichen</translation>
+    </message>
+    <message>
+        <source>capitals</source>
+        <translation>Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>in parentheses</source>
+        <translation>in Klammern</translation>
+    </message>
+    <message>
+        <source>stays with the next</source>
+        <translation>bleibt beim nächsten</translation>
+    </message>
+    <message>
+        <source>allows tabs</source>
+        <translation>erlaubt Tabulatoren</translation>
+    </message>
+    <message>
+        <source>offers the project’s phrases</source>
+        <translation>bietet die Ausdrücke des Projekts an</translation>
+    </message>
+    <message>
+        <source>collects phrases</source>
+        <translation>sammelt Ausdrücke</translation>
+    </message>
+    <message>
+        <source>capitals up to %1</source>
+        <translation>Großbuchstaben bis %1</translation>
+    </message>
+    <message>
+        <source>phrases begin behind %1</source>
+        <translation>Ausdrücke beginnen nach %1</translation>
+    </message>
+    <message>
+        <source>phrases end before %1</source>
+        <translation>Ausdrücke enden vor %1</translation>
+    </message>
+    <message>
+        <source>aligned to the centre</source>
+        <translation>zentriert</translation>
+    </message>
+    <message>
+        <source>aligned right</source>
+        <translation>rechtsbündig</translation>
+    </message>
+    <message>
+        <source>aligned to both sides</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>aligned left</source>
+        <translation>linksbündig</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a next line</source>
+        <translation>nach einem Ausdruck folgt eine neue Zeile</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a tab</source>
+        <translation>nach einem Ausdruck folgt ein Tabulator</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>fett</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>kursiv</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>unterstrichen</translation>
+    </message>
+    <message>
+        <source>lines exactly %1</source>
+        <translation>Zeilenhöhe genau %1</translation>
+    </message>
+    <message>
+        <source>lines at least %1</source>
+        <translation>Zeilenhöhe mindestens %1</translation>
+    </message>
+    <message>
+        <source>line spacing %1</source>
+        <translation>Zeilenabstand %1</translation>
+    </message>
+    <message>
+        <source>tab at %1</source>
+        <translation>Tabstopp bei %1</translation>
+    </message>
+    <message>
+        <source>inserts %1</source>
+        <translation>fügt %1 ein</translation>
+    </message>
+    <message>
+        <source>offers %1</source>
+        <translation>bietet an: %1</translation>
     </message>
 </context>
 </TS>

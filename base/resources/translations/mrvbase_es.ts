@@ -249,10 +249,6 @@ Error: %2</translation>
         <translation>Sin título</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
-    </message>
-    <message>
         <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
         <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo. No todas las imágenes tienen descripción.</translation>
     </message>
@@ -267,6 +263,10 @@ Error: %2</translation>
     <message>
         <source>Beginning</source>
         <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
     </message>
 </context>
 <context>
@@ -2562,10 +2562,6 @@ Se necesita conexión a Internet para buscar actualizaciones</translation>
         <translation>El archivo XML de la actualización contenía valores vacíos. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
     </message>
     <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>El archivo XML de la actualización indica un instalador cuyo nombre no es un simple nombre de archivo. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
-    </message>
-    <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
         <translation>No se pueden comparar los números de versión. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes</translation>
     </message>
@@ -2596,6 +2592,10 @@ Comuníquelo a %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>El instalador no lleva una firma válida (%1) y no se abrirá. Comuníquelo a %2.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>El archivo XML de la actualización indica un instalador cuyo nombre no es un simple nombre de archivo. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2912,142 @@ Comuníquelo a %1.</translation>
     <message>
         <source>One or more SSL errors has occurred: %1</source>
         <translation>Se han producido uno o más errores de SSL: %1</translation>
+    </message>
+    <message>
+        <source>Return: %1</source>
+        <translation>Intro: %1</translation>
+    </message>
+    <message>
+        <source>Tab in an empty line: %1</source>
+        <translation>Tab en una línea vacía: %1</translation>
+    </message>
+    <message>
+        <source>Tab: %1</source>
+        <translation>Tab: %1</translation>
+    </message>
+    <message>
+        <source>left indent %1</source>
+        <translation>sangría izquierda %1</translation>
+    </message>
+    <message>
+        <source>right indent %1</source>
+        <translation>sangría derecha %1</translation>
+    </message>
+    <message>
+        <source>first line %1</source>
+        <translation>primera línea %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>antes %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>después %1</translation>
+    </message>
+    <message>
+        <source>underlined twice</source>
+        <translation>subrayado doble</translation>
+    </message>
+    <message>
+        <source>blanks not underlined</source>
+        <translation>espacios sin subrayar</translation>
+    </message>
+    <message>
+        <source>capitals</source>
+        <translation>mayúsculas</translation>
+    </message>
+    <message>
+        <source>in parentheses</source>
+        <translation>entre paréntesis</translation>
+    </message>
+    <message>
+        <source>stays with the next</source>
+        <translation>permanece con el siguiente</translation>
+    </message>
+    <message>
+        <source>allows tabs</source>
+        <translation>permite tabulaciones</translation>
+    </message>
+    <message>
+        <source>offers the project’s phrases</source>
+        <translation>ofrece las expresiones del proyecto</translation>
+    </message>
+    <message>
+        <source>collects phrases</source>
+        <translation>recopila expresiones</translation>
+    </message>
+    <message>
+        <source>capitals up to %1</source>
+        <translation>mayúsculas hasta %1</translation>
+    </message>
+    <message>
+        <source>phrases begin behind %1</source>
+        <translation>las expresiones empiezan después de %1</translation>
+    </message>
+    <message>
+        <source>phrases end before %1</source>
+        <translation>las expresiones terminan antes de %1</translation>
+    </message>
+    <message>
+        <source>aligned to the centre</source>
+        <translation>centrado</translation>
+    </message>
+    <message>
+        <source>aligned right</source>
+        <translation>alineado a la derecha</translation>
+    </message>
+    <message>
+        <source>aligned to both sides</source>
+        <translation>justificado</translation>
+    </message>
+    <message>
+        <source>aligned left</source>
+        <translation>alineado a la izquierda</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a next line</source>
+        <translation>a una expresión le sigue una línea nueva</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a tab</source>
+        <translation>a una expresión le sigue una tabulación</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>negrita</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>cursiva</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>subrayado</translation>
+    </message>
+    <message>
+        <source>lines exactly %1</source>
+        <translation>líneas de exactamente %1</translation>
+    </message>
+    <message>
+        <source>lines at least %1</source>
+        <translation>líneas de al menos %1</translation>
+    </message>
+    <message>
+        <source>line spacing %1</source>
+        <translation>interlineado %1</translation>
+    </message>
+    <message>
+        <source>tab at %1</source>
+        <translation>tabulación en %1</translation>
+    </message>
+    <message>
+        <source>inserts %1</source>
+        <translation>inserta %1</translation>
+    </message>
+    <message>
+        <source>offers %1</source>
+        <translation>ofrece %1</translation>
     </message>
 </context>
 </TS>

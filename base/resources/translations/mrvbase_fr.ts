@@ -249,10 +249,6 @@ Erreur&#xa0;: %2</translation>
         <translation>Sans titre</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
-    </message>
-    <message>
         <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
         <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer. Toutes les images n’ont pas de description.</translation>
     </message>
@@ -267,6 +263,10 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>Beginning</source>
         <translation>Début</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
     </message>
 </context>
 <context>
@@ -2562,10 +2562,6 @@ Une connexion Internet est nécessaire pour rechercher des mises à jour</transl
         <translation>Le fichier XML de mise à jour contenait des valeurs vides. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
     </message>
     <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>Le fichier XML de mise à jour désigne un programme d’installation dont le nom n’est pas un simple nom de fichier. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
-    </message>
-    <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
         <translation>Impossible de comparer les numéros de version. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème</translation>
     </message>
@@ -2596,6 +2592,10 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Le programme d’installation ne porte pas de signature valide (%1) et ne sera pas ouvert. Veuillez le signaler à %2.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Le fichier XML de mise à jour désigne un programme d’installation dont le nom n’est pas un simple nom de fichier. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
     </message>
 </context>
 <context>
@@ -2912,6 +2912,142 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>One or more SSL errors has occurred: %1</source>
         <translation>Une ou plusieurs erreurs SSL se sont produites&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Return: %1</source>
+        <translation>Entrée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tab in an empty line: %1</source>
+        <translation>Tab dans une ligne vide&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tab: %1</source>
+        <translation>Tab&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>left indent %1</source>
+        <translation>retrait à gauche %1</translation>
+    </message>
+    <message>
+        <source>right indent %1</source>
+        <translation>retrait à droite %1</translation>
+    </message>
+    <message>
+        <source>first line %1</source>
+        <translation>première ligne %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>avant %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>après %1</translation>
+    </message>
+    <message>
+        <source>underlined twice</source>
+        <translation>souligné deux fois</translation>
+    </message>
+    <message>
+        <source>blanks not underlined</source>
+        <translation>espaces non soulignées</translation>
+    </message>
+    <message>
+        <source>capitals</source>
+        <translation>majuscules</translation>
+    </message>
+    <message>
+        <source>in parentheses</source>
+        <translation>entre parenthèses</translation>
+    </message>
+    <message>
+        <source>stays with the next</source>
+        <translation>reste avec le suivant</translation>
+    </message>
+    <message>
+        <source>allows tabs</source>
+        <translation>autorise les tabulations</translation>
+    </message>
+    <message>
+        <source>offers the project’s phrases</source>
+        <translation>propose les expressions du projet</translation>
+    </message>
+    <message>
+        <source>collects phrases</source>
+        <translation>recueille des expressions</translation>
+    </message>
+    <message>
+        <source>capitals up to %1</source>
+        <translation>majuscules jusqu’à %1</translation>
+    </message>
+    <message>
+        <source>phrases begin behind %1</source>
+        <translation>les expressions commencent après %1</translation>
+    </message>
+    <message>
+        <source>phrases end before %1</source>
+        <translation>les expressions finissent avant %1</translation>
+    </message>
+    <message>
+        <source>aligned to the centre</source>
+        <translation>centré</translation>
+    </message>
+    <message>
+        <source>aligned right</source>
+        <translation>aligné à droite</translation>
+    </message>
+    <message>
+        <source>aligned to both sides</source>
+        <translation>justifié</translation>
+    </message>
+    <message>
+        <source>aligned left</source>
+        <translation>aligné à gauche</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a next line</source>
+        <translation>une expression est suivie d’une nouvelle ligne</translation>
+    </message>
+    <message>
+        <source>a phrase is followed by a tab</source>
+        <translation>une expression est suivie d’une tabulation</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>gras</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>italique</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>souligné</translation>
+    </message>
+    <message>
+        <source>lines exactly %1</source>
+        <translation>lignes d’exactement %1</translation>
+    </message>
+    <message>
+        <source>lines at least %1</source>
+        <translation>lignes d’au moins %1</translation>
+    </message>
+    <message>
+        <source>line spacing %1</source>
+        <translation>interligne %1</translation>
+    </message>
+    <message>
+        <source>tab at %1</source>
+        <translation>tabulation à %1</translation>
+    </message>
+    <message>
+        <source>inserts %1</source>
+        <translation>insère %1</translation>
+    </message>
+    <message>
+        <source>offers %1</source>
+        <translation>propose %1</translation>
     </message>
 </context>
 </TS>
