@@ -431,9 +431,6 @@ private Q_SLOTS:
         if (at.endsWith(".xml") || at.endsWith(".run")) {
             QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
         }
-        if (plant == "Fernwick") {
-            return;
-        }
         user.stop();
         web.asked.clear();
         MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
