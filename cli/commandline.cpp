@@ -2,6 +2,7 @@
 #include "suggestion.h"
 
 #include <QCommandLineParser>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <limits>
@@ -366,6 +367,15 @@ int usageError(const QString &text)
 {
     printError(text);
     return WrongUsage;
+}
+
+void printAnswer(const Call &call, const QJsonObject &object, const QString &line)
+{
+    if (call.json()) {
+        printJson(object);
+    } else {
+        printLine(line);
+    }
 }
 
 QStringList words(const char *list)

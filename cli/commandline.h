@@ -9,6 +9,7 @@
 #include <cstddef>
 
 class Call;
+class QJsonObject;
 
 /** The rows of a constexpr table. */
 template<typename Row>
@@ -173,6 +174,9 @@ int readCall(const Command &command, const QStringList &arguments, Call *call);
 int refuse(const QString &text);
 /** Prints an error. @return WrongUsage. */
 int usageError(const QString &text);
+
+/** Prints the object as a line of JSON where the call asks for that, else the line. */
+void printAnswer(const Call &call, const QJsonObject &object, const QString &line);
 
 /** The words of a list in one of the tables. */
 QStringList words(const char *list);

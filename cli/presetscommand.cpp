@@ -103,11 +103,7 @@ int list(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
     const QStringList names = scheme.names();
     for (const QString &name : names) {
-        if (call.json()) {
-            printJson(MRVTextPresetJson::toJson(name, scheme.preset(name)));
-        } else {
-            printLine(displayed(name));
-        }
+        printAnswer(call, MRVTextPresetJson::toJson(name, scheme.preset(name)), displayed(name));
     }
     return names.isEmpty() ? Failed : Done;
 }

@@ -44,14 +44,12 @@ int list(const Call &call)
     for (const MRVScriptMode &mode : qAsConst(modes)) {
         const int count = mode.elements().size();
         const QString units = MRVUnit::shortSuffix(mode.units());
-        if (call.has("json")) {
-            printJson({{QStringLiteral("name"), mode.name()},
-                       {QStringLiteral("units"), units},
-                       {QStringLiteral("elements"), count}});
-        } else {
-            printLine(QStringLiteral("%1 (%2, %3 elements)")
-                          .arg(displayed(mode.name()), units, QString::number(count)));
-        }
+        printAnswer(call,
+                    {{QStringLiteral("name"), mode.name()},
+                     {QStringLiteral("units"), units},
+                     {QStringLiteral("elements"), count}},
+                    QStringLiteral("%1 (%2, %3 elements)")
+                        .arg(displayed(mode.name()), units, QString::number(count)));
     }
     return modes.isEmpty() || !allFound ? Failed : Done;
 }
@@ -123,11 +121,8 @@ int check(const Call &call)
         faults += mode.faults();
         clean = clean && faults.isEmpty();
         for (const QString &fault : qAsConst(faults)) {
-            if (call.has("json")) {
-                printJson({{QStringLiteral("path"), file}, {QStringLiteral("fault"), fault}});
-            } else {
-                printLine(styled(Style::Path, file) + QLatin1String(": ") + displayed(fault));
-            }
+            printAnswer(call, {{QStringLiteral("path"), file}, {QStringLiteral("fault"), fault}},
+                        styled(Style::Path, file) + QLatin1String(": ") + displayed(fault));
         }
     }
     return clean ? Done : Failed;

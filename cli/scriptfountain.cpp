@@ -12,7 +12,6 @@
 #include "util/mrvnames.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonObject>
 
 namespace {
@@ -174,37 +173,11 @@ int runScriptConvert(const Call &call)
 
 namespace {
 
-QJsonObject toJson(const QString &path, const MRVScriptStatistics &statistics)
-{
-    QJsonArray characters;
-    for (const auto &character : statistics.characters) {
-        characters.append(QJsonObject{{QStringLiteral("name"), character.name},
-                                      {QStringLiteral("speeches"), character.speeches},
-                                      {QStringLiteral("lines"), character.lines},
-                                      {QStringLiteral("words"), character.words},
-                                      {QStringLiteral("scenes"), character.scenes}});
-    }
-    return {{QStringLiteral("path"), path},
-            {QStringLiteral("scenes"), statistics.scenes},
-            {QStringLiteral("pages"), statistics.pages()},
-            {QStringLiteral("minutes"), statistics.minutes()},
-            {QStringLiteral("words"), statistics.words},
-            {QStringLiteral("characters"), characters}};
-}
-
 void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
 {
-    const int eighths = statistics.eighths % 8;
-    QStringList pages;
-    if (statistics.eighths >= 8 || eighths == 0) {
-        pages.append(QString::number(statistics.eighths / 8));
-    }
-    if (eighths > 0) {
-        pages.append(QStringLiteral("%1/8").arg(eighths));
-    }
     printLine(QStringLiteral("%1: scenes %2, pages %3, minutes %4, words %5")
                   .arg(styled(Style::Path, path), QString::number(statistics.scenes),
-                       pages.join(u' '), QString::number(statistics.minutes()),
+                       statistics.pagesText(), QString::number(statistics.minutes()),
                        QString::number(statistics.words)));
     for (const auto &character : statistics.characters) {
         printLine(QStringLiteral("  %1: speeches %2, lines %3, words %4, scenes %5")
@@ -229,7 +202,9 @@ int runScriptStats(const Call &call)
         }
         const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script());
         if (call.has("json")) {
-            printJson(toJson(input, statistics));
+            QJsonObject object = statistics.toJson();
+            object.insert(QStringLiteral("path"), input);
+            printJson(object);
         } else {
             printStatistics(input, statistics);
         }

@@ -98,12 +98,10 @@ int get(const Call &call, MRVOptions *options)
         if (explanation.key.isEmpty()) {
             return refuseKey(key);
         }
-        if (call.json()) {
-            printJson({{QStringLiteral("key"), key},
-                       {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)}});
-        } else {
-            printLine(MRVOptions::toText(explanation.type, explanation.value));
-        }
+        printAnswer(call,
+                    {{QStringLiteral("key"), key},
+                     {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)}},
+                    MRVOptions::toText(explanation.type, explanation.value));
     }
     return Done;
 }
@@ -168,11 +166,8 @@ int list(const Call &call, MRVOptions *options)
         }
         found = true;
         const MRVOptions::Explanation explanation = options->explain(key);
-        if (call.json()) {
-            printJson(jsonOf(explanation));
-        } else {
-            printLine(key + QLatin1String(" = ") + shownText(explanation.type, explanation.value));
-        }
+        printAnswer(call, jsonOf(explanation),
+                    key + QLatin1String(" = ") + shownText(explanation.type, explanation.value));
     }
     return found ? Done : Failed;
 }
@@ -211,13 +206,10 @@ int changed(const Call &call, MRVOptions *options)
 {
     const QList<MRVOptions::Explanation> settings = options->changedSettings();
     for (const MRVOptions::Explanation &setting : settings) {
-        if (call.json()) {
-            printJson(jsonOf(setting));
-        } else {
-            printLine(QStringLiteral("%1 = %2 (default: %3)")
-                          .arg(setting.key, shownText(setting.type, setting.value),
-                               shownText(setting.type, setting.defaultValue)));
-        }
+        printAnswer(call, jsonOf(setting),
+                    QStringLiteral("%1 = %2 (default: %3)")
+                        .arg(setting.key, shownText(setting.type, setting.value),
+                             shownText(setting.type, setting.defaultValue)));
     }
     return settings.isEmpty() ? Failed : Done;
 }

@@ -146,12 +146,9 @@ int list(const Call &call)
             continue;
         }
         found = true;
-        if (call.json()) {
-            printJson(jsonOf(info));
-        } else {
-            printLine(nameOf(info.id).leftJustified(32) + u' '
-                      + native(info.sequence).leftJustified(22) + u' ' + displayed(info.text));
-        }
+        printAnswer(call, jsonOf(info),
+                    nameOf(info.id).leftJustified(32) + u' '
+                        + native(info.sequence).leftJustified(22) + u' ' + displayed(info.text));
     }
     return found ? Done : Failed;
 }

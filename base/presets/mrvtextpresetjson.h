@@ -26,8 +26,8 @@ public:
      */
     static QJsonObject toJson(const QTextFormat &format);
     /**
-     * A preset: "name"; "applies", a list of "characters" and "paragraphs"; and under these two
-     * names the formats.
+     * The preset called @p name: "name"; "applies", a list of "characters" and "paragraphs"; and
+     * under these two names the formats.
      */
     static QJsonObject toJson(const QString &name, const MRVTextPreset &preset);
 };

@@ -1,6 +1,8 @@
 #include "screenplay/mrvscriptstatistics.h"
 
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
 
 #include <algorithm>
 
@@ -196,4 +198,30 @@ MRVScriptStatistics Counter::count(const MRVFountainScript &script)
 MRVScriptStatistics MRVScriptStatistics::of(const MRVFountainScript &script)
 {
     return Counter().count(script);
+}
+
+QString MRVScriptStatistics::pagesText() const
+{
+    const QString part = QStringLiteral("%1/8").arg(eighths % 8);
+    if (eighths % 8 == 0) {
+        return QString::number(eighths / 8);
+    }
+    return eighths < 8 ? part : QString::number(eighths / 8) + u' ' + part;
+}
+
+QJsonObject MRVScriptStatistics::toJson() const
+{
+    QJsonArray list;
+    for (const Character &character : characters) {
+        list.append(QJsonObject{{QStringLiteral("name"), character.name},
+                                {QStringLiteral("speeches"), character.speeches},
+                                {QStringLiteral("lines"), character.lines},
+                                {QStringLiteral("words"), character.words},
+                                {QStringLiteral("scenes"), character.scenes}});
+    }
+    return {{QStringLiteral("scenes"), scenes},
+            {QStringLiteral("pages"), pages()},
+            {QStringLiteral("minutes"), minutes()},
+            {QStringLiteral("words"), words},
+            {QStringLiteral("characters"), list}};
 }

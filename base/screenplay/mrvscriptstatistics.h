@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+class QJsonObject;
+
 /**
  * How much of a script there is, and whose.
  *
@@ -40,6 +42,10 @@ struct MRVBASE_EXPORT MRVScriptStatistics
     double pages() const { return eighths / 8.0; }
     /** Playing time at a page a minute, rounded up. */
     int minutes() const { return (eighths + 7) / 8; }
+    /** The pages as breakdowns write them: "3", "1 3/8", "5/8". */
+    QString pagesText() const;
+    /** All of it, with "characters" as a list in their order; keys are the names used here. */
+    QJsonObject toJson() const;
 
     /** Takes time linear in the script. */
     static MRVScriptStatistics of(const MRVFountainScript &script);
