@@ -279,9 +279,6 @@ bool CommandLine::checkOption(const QString &name)
             if (longName(option) != name || !takes(*m_call.verb, option)) {
                 continue;
             }
-            if (!option.repeatable && values.size() > 1) {
-                return fail(QStringLiteral("--%1 is given twice").arg(name));
-            }
             for (const QString &value : values) {
                 const QString objection = objectionTo(option, value);
                 if (!objection.isEmpty()) {

@@ -48,7 +48,12 @@ private:
 
 #ifdef MRV_SANITIZE
 
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's run-time library; GCC installs no header that declares them.
+extern "C" {
+int __sanitizer_install_malloc_and_free_hooks(void (*taken)(const volatile void *, std::size_t),
+                                              void (*given)(const volatile void *));
+std::size_t __sanitizer_get_allocated_size(const volatile void *memory);
+}
 
 static const int heapHooks = __sanitizer_install_malloc_and_free_hooks(
     [](const volatile void *, std::size_t size) { HeapMeter::taken(nullptr, size); },

@@ -55,6 +55,13 @@ QByteArray bitmapClaiming(const QByteArray &size)
         + QByteArray(28, 0);
 }
 
+// A bitmap of 4 x 4 pixels whose first row is the upper one, which a negative height says.
+QByteArray bitmapOfRowsFromTop()
+{
+    return QByteArray::fromHex("424d6600000000000000360000002800000004000000fcffffff01001800")
+        + QByteArray(24 + 48, 0);
+}
+
 // A small GIF with a frame of 64266 x 4106 pixels, which is put back before the next one.
 QByteArray gifOfLargeFrame()
 {
@@ -273,6 +280,18 @@ private Q_SLOTS:
         QVERIFY2(HeapMeter::peak() < 300 << 20, qPrintable(QString::number(HeapMeter::peak())));
         // Seconds of the processor's time, for more than a dozen looks at the picture.
         QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 15);
+    }
+
+    // Headers that Qt does not tell the size of, or tells as a negative one.
+    void readsUnusualHeaders()
+    {
+        const MRVPictureReader bitmap(bitmapOfRowsFromTop(), "bmp");
+        QCOMPARE(bitmap.size(), QSize(4, 4));
+        QCOMPARE(bitmap.read().size(), QSize(4, 4));
+        const QByteArray pixels = QByteArray::fromHex("ff00ff00ff0004").repeated(6);
+        QByteArray icon = "is32" + bigEndian(8 + pixels.size()) + pixels;
+        icon = "icns" + bigEndian(8 + icon.size()) + icon;
+        QCOMPARE(MRVPictureReader(icon, "icns").error(), QString());
     }
 
     void refusesInExport_data()

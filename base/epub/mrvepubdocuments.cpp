@@ -64,10 +64,10 @@ void writeAccessibility(QXmlStreamWriter *xml, const MRVEPubBook &book)
         xml, QStringLiteral("schema:accessibilitySummary"),
         described ? MRVEPubBook::tr(
             "The text can be read with a screen reader; headings and a table of contents "
-            "lead through it.")
+            "guide through it.")
                   : MRVEPubBook::tr(
                       "The text can be read with a screen reader; headings and a table of contents "
-                      "lead through it. Not all pictures have a description."));
+                      "guide through it. Not all pictures have a description."));
 }
 
 void writeMetadata(QXmlStreamWriter *xml, const MRVEPubBook &book, const QString &identifier,

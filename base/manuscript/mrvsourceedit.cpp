@@ -180,6 +180,18 @@ QString changedText(const QString &text, const QVector<MRVTextChange> &changes)
     return result + text.midRef(done);
 }
 
+// The changes with the ends of lines that inserting text into a document makes of theirs.
+QVector<MRVTextChange> asInserted(QVector<MRVTextChange> changes)
+{
+    for (MRVTextChange &change : changes) {
+        if (change.after.contains(u'\n') || change.after.contains(u'\r')) {
+            change.after.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+            change.after.replace(u'\r', u'\n').replace(u'\n', QChar::ParagraphSeparator);
+        }
+    }
+    return changes;
+}
+
 QString writtenAnew(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes)
 {
     const auto document = mrvNewDocument(manuscript.sourceText(), manuscript.format);
@@ -239,9 +251,10 @@ Encoding encode(const QString &text, const QString &source, const MRVManuscript 
 } // namespace
 
 bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
-                                 const QVector<MRVTextChange> &changes, Mode mode,
-                                 QByteArray *bytes, QString *error)
+                                 const QVector<MRVTextChange> &wanted, Mode mode, QByteArray *bytes,
+                                 QString *error)
 {
+    const QVector<MRVTextChange> changes = asInserted(wanted);
     const QString before = manuscript.document->toRawText();
     const QString after = changedText(before, changes);
     if (after.isNull()) {

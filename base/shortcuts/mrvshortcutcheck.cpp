@@ -187,14 +187,13 @@ QString MRVShortcutCheck::describe(const Conflict &conflict, const MRVShortcutSc
         return tr("%1 of \u201c%2\u201d is never reached, as %3 is the key of \u201c%4\u201d.")
             .arg(keys(conflict.other), otherText, keys(conflict.id), text);
     case DesktopKey:
-        return tr("%1 of \u201c%2\u201d is a key that desktops or input methods take.")
+        return tr("Desktops or input methods take %1, the key of \u201c%2\u201d.")
             .arg(keys(conflict.id), text);
     case TypingKey:
-        return tr("%1 of \u201c%2\u201d begins with a key that is needed for writing.")
+        return tr("%1 of \u201c%2\u201d begins with a key that writing needs.")
             .arg(keys(conflict.id), text);
     case UnnamedKey:
-        return tr("The key of \u201c%1\u201d has no name, and is lost when it is stored.")
-            .arg(text);
+        return tr("The key of \u201c%1\u201d has no name and cannot be stored.").arg(text);
     }
     return QString();
 }

@@ -58,6 +58,7 @@ MRVPictureClaims iconClaims(const QByteArray &bytes)
 MRVPictureClaims appleIconClaims(const QByteArray &bytes)
 {
     constexpr qint64 EntryHead = 8;
+    constexpr QSize LargestIcon(1024, 1024);
     const MRVPictureBytes file(bytes);
     MRVPictureClaims claims;
     for (qint64 at = EntryHead; file.holds(at, EntryHead);) {
@@ -67,6 +68,8 @@ MRVPictureClaims appleIconClaims(const QByteArray &bytes)
             addPng(bytes, data, length - EntryHead, &claims);
         } else if (file.matches(data, "\0\0\0\x0cjP  ") || file.matches(data, "\xff\x4f\xff\x51")) {
             claims.isComplete = false; // JPEG 2000, which an external plug-in may read
+        } else {
+            claims.sizes.append(LargestIcon); // of raw pixels, which no header describes
         }
         at += length;
     }

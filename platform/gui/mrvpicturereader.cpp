@@ -140,7 +140,8 @@ QString MRVPictureReader::refusal()
     if (!reader.canRead()) {
         return unknown;
     }
-    m_size = reader.size();
+    // A bitmap that is stored from the top down has a negative height.
+    m_size = QSize(reader.size().width(), qAbs(reader.size().height()));
     if (m_size.isEmpty() && claims.sizes.isEmpty()) {
         return tr("it does not tell its size");
     }

@@ -249,7 +249,11 @@ Fehler: %2</translation>
         <translation>Ohne Titel</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
         <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn. Nicht alle Bilder haben eine Beschreibung.</translation>
     </message>
     <message>
@@ -2560,6 +2564,10 @@ Um nach Updates zu suchen, benötigen Sie eine Internetverbindung</translation>
     <message>
         <source>The update XML file contained empty values. Please contact %1 so we can help resolve this issue quickly.</source>
         <translation>Die XML-Datei des Updates enthielt leere Werte. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is not a plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Die XML-Datei des Updates nennt ein Installationsprogramm, dessen Name kein einfacher Dateiname ist. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
     </message>
     <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>

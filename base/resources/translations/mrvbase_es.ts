@@ -249,7 +249,11 @@ Error: %2</translation>
         <translation>Sin título</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
         <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo. No todas las imágenes tienen descripción.</translation>
     </message>
     <message>
@@ -2560,6 +2564,10 @@ Se necesita conexión a Internet para buscar actualizaciones</translation>
     <message>
         <source>The update XML file contained empty values. Please contact %1 so we can help resolve this issue quickly.</source>
         <translation>El archivo XML de la actualización contenía valores vacíos. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is not a plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>El archivo XML de la actualización indica un instalador cuyo nombre no es un simple nombre de archivo. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
     </message>
     <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>

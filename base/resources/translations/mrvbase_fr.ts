@@ -249,7 +249,11 @@ Erreur&#xa0;: %2</translation>
         <translation>Sans titre</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents lead through it. Not all pictures have a description.</source>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
+        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
+    </message>
+    <message>
+        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
         <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer. Toutes les images n’ont pas de description.</translation>
     </message>
     <message>
@@ -2560,6 +2564,10 @@ Une connexion Internet est nécessaire pour rechercher des mises à jour</transl
     <message>
         <source>The update XML file contained empty values. Please contact %1 so we can help resolve this issue quickly.</source>
         <translation>Le fichier XML de mise à jour contenait des valeurs vides. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
+    </message>
+    <message>
+        <source>The update XML file names an installer that is not a plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
+        <translation>Le fichier XML de mise à jour désigne un programme d’installation dont le nom n’est pas un simple nom de fichier. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
     </message>
     <message>
         <source>Unable to compare version numbers. Please contact %1 so we can help resolve this issue quickly</source>
