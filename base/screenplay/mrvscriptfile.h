@@ -20,6 +20,8 @@ class QTextCodec;
  * @code
  * MRVScriptFile file;
  * QString error;
+ * const QString path = QStringLiteral("play.fountain");
+ * const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
  * if (!file.read(bytes, MRVScriptFile::formatOfFile(path), &error)) {
  *     qWarning() << error;
  * } else if (file.renameCharacter(QStringLiteral("Ann"), QStringLiteral("Anna"),

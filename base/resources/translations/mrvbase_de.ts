@@ -268,10 +268,6 @@ Fehler: %2</translation>
         <source>Beginning</source>
         <translation>Anfang</translation>
     </message>
-    <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
-    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
@@ -2600,10 +2596,6 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Das Installationsprogramm trägt keine gültige Signatur (%1) und wird nicht geöffnet. Bitte melden Sie dies an %2.</translation>
-    </message>
-    <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>Die XML-Datei des Updates nennt ein Installationsprogramm, dessen Name kein einfacher Dateiname ist. Bitte wenden Sie sich an %1, damit wir dieses Problem schnell lösen können.</translation>
     </message>
 </context>
 <context>

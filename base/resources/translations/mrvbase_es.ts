@@ -268,10 +268,6 @@ Error: %2</translation>
         <source>Beginning</source>
         <translation>Inicio</translation>
     </message>
-    <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
-    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
@@ -2600,10 +2596,6 @@ Comuníquelo a %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>El instalador no lleva una firma válida (%1) y no se abrirá. Comuníquelo a %2.</translation>
-    </message>
-    <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>El archivo XML de la actualización indica un instalador cuyo nombre no es un simple nombre de archivo. Póngase en contacto con %1 para que podamos resolver este problema cuanto antes.</translation>
     </message>
 </context>
 <context>

@@ -268,10 +268,6 @@ Erreur&#xa0;: %2</translation>
         <source>Beginning</source>
         <translation>Début</translation>
     </message>
-    <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it.</source>
-        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
-    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
@@ -2600,10 +2596,6 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Le programme d’installation ne porte pas de signature valide (%1) et ne sera pas ouvert. Veuillez le signaler à %2.</translation>
-    </message>
-    <message>
-        <source>The update XML file names an installer that is no plain file name. Please contact %1 so we can help resolve this issue quickly.</source>
-        <translation>Le fichier XML de mise à jour désigne un programme d’installation dont le nom n’est pas un simple nom de fichier. Veuillez contacter %1 afin que nous puissions résoudre rapidement ce problème.</translation>
     </message>
 </context>
 <context>
