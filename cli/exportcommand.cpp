@@ -3,7 +3,6 @@
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
-#include "publish/mrvstagedfiles.h"
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
@@ -214,15 +213,6 @@ bool exportPages(const Options &options, const std::vector<MRVManuscript> &manus
     return publisher.publish(written, error);
 }
 
-bool writePackage(const QByteArray &bytes, const QString &file, QString *error)
-{
-    if (file == StandardOutput) {
-        return writeStandardOutput(bytes, error);
-    }
-    showProgress(QStringLiteral("Writing %1").arg(file));
-    return MRVStagedFiles::write(bytes, file, error);
-}
-
 bool exportPackage(const Options &options, const std::vector<MRVManuscript> &manuscripts,
                    const QString &file, QStringList *written, QString *error)
 {
@@ -243,7 +233,10 @@ bool exportPackage(const Options &options, const std::vector<MRVManuscript> &man
         left += manuscript.remotePictures;
     }
     const QByteArray bytes = package.toByteArray(error);
-    if (bytes.isEmpty() || !writePackage(bytes, file, error)) {
+    if (file != StandardOutput) {
+        showProgress(QStringLiteral("Writing %1").arg(file));
+    }
+    if (bytes.isEmpty() || !writeOutput(bytes, file, error)) {
         return false;
     }
     if (left > 0) {

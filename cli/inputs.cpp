@@ -1,6 +1,7 @@
 #include "inputs.h"
 
 #include "manuscript/mrvmanuscriptreader.h"
+#include "publish/mrvstagedfiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -122,4 +123,10 @@ QString outputFile(const QString &input, const QString &output, const QString &s
     return isFolder || output.endsWith(u'/') || QFileInfo(output).isDir()
         ? QDir(output).filePath(name)
         : output;
+}
+
+bool writeOutput(const QByteArray &bytes, const QString &file, QString *error)
+{
+    return file == QLatin1String("-") ? writeStandardOutput(bytes, error)
+                                      : MRVStagedFiles::write(bytes, file, error);
 }

@@ -69,3 +69,6 @@ QByteArray standardInput(QString *reason);
  */
 QString outputFile(const QString &input, const QString &output, const QString &standardName,
                    const QString &suffix, bool isFolder = false);
+
+/** Writes a file with MRVStagedFiles; "-" is standard output. */
+bool writeOutput(const QByteArray &bytes, const QString &file, QString *error);

@@ -4,7 +4,6 @@
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvscriptbook.h"
-#include "publish/mrvstagedfiles.h"
 #include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
@@ -41,14 +40,6 @@ bool readScript(const QString &path, const QString &from, MRVScriptFile *file, Q
     *error = path + QLatin1String(": ") + reason
         + QLatin1String(isUnknown ? "; say with --from what it is" : "");
     return false;
-}
-
-bool writeScript(const QByteArray &bytes, const QString &file, QString *error)
-{
-    if (file == StandardStream) {
-        return writeStandardOutput(bytes, error);
-    }
-    return MRVStagedFiles::write(bytes, file, error);
 }
 
 // After the script was written, which may fail.
@@ -158,7 +149,7 @@ int runScriptConvert(const Call &call)
     const QByteArray bytes = options.to == MRVScriptFile::EPub
         ? MRVScriptBook::toByteArray(script.script(), options.mode, language, &error)
         : MRVScriptFile::toByteArray(script.script(), options.to, language);
-    if (!error.isEmpty() || !writeScript(bytes, options.output, &error)) {
+    if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }
     printLeftOut(options.input, script);
@@ -245,7 +236,7 @@ int runScriptRename(const Call &call)
                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
-    if (!writeScript(file.revised(), target, &error)) {
+    if (!writeOutput(file.revised(), target, &error)) {
         return refuse(error);
     }
     printLeftOut(names.at(2), file);
