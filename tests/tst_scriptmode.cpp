@@ -516,7 +516,7 @@ void tst_ScriptMode::userModes()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("broken\\.xml.*line 1"));
     QVERIFY(writeBytes(folder + "/odd.xml", "<MorvaneScriptFormat><a/></MorvaneScriptFormat>"));
     QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*the version is"));
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*line 1: \"a\" has no place"));
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression("odd\\.xml.*line 1: \"a\" is not expected"));
     const QMap<QString, MRVScriptMode> modes = MRVScriptMode::userModes();
     QCOMPARE(modes.keys(), (QStringList{"Screenplay", mode.name()}));
     QVERIFY(modes.last() == mode);
