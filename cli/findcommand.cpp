@@ -74,7 +74,7 @@ void printParagraph(const QString &path, const QTextBlock &block, QChar mark,
               + u' ' + marked + text.midRef(done));
 }
 
-// Paragraphs around finds are shown once, and stretches that do not join are parted by a line.
+// Paragraphs around finds are shown once, and stretches that do not join are separated by a line.
 void printParagraphs(const QString &path, const QTextDocument &document,
                      const QVector<FoundParagraph> &paragraphs, int context)
 {

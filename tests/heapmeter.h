@@ -21,7 +21,7 @@ void __libc_free(void *);
 class HeapMeter
 {
 public:
-    /** Starts anew: the peak is counted from what is taken now. */
+    /** Starts again: the peak is counted from what is taken now. */
     static void start()
     {
         s_begin = s_taken.load();

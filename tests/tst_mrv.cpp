@@ -84,7 +84,7 @@ void tst_Mrv::init()
     ToolTest::init();
     QImage picture(12, 12, QImage::Format_RGB32);
     picture.fill(Qt::darkCyan);
-    QVERIFY(picture.save(in("pic one.bmp"))); // written anew for every type, so by one write
+    QVERIFY(picture.save(in("pic one.bmp"))); // written again for every type, so by one write
     QVERIFY(writeBytes(in("book.html"),
                        "<html lang='fr'><head><meta charset='utf-8'><meta name=\"author\" "
                        "content=\"M. Auteur\"><title>Livre</title></head>"

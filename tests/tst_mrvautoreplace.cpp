@@ -29,7 +29,7 @@ private:
     }
 };
 
-// What "before" does (several commands are parted by "; ") counts for the list in the same file;
+// What "before" does (several commands are separated by "; ") counts for the list in the same file;
 // the input is "before" when the command is to show what it replaces.
 void TestMrvAutoReplace::commands()
 {

@@ -31,7 +31,7 @@ const QPair<QString, int> keys[] = {
     {"back", QTextFormat::BackgroundBrush},
 };
 
-/// A character format as "key=value" parted by commas; a mark is "key" where true.
+/// A character format as "key=value" separated by commas; a mark is "key" where true.
 QTextCharFormat formatOf(const QString &text)
 {
     QTextCharFormat format;

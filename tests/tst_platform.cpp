@@ -97,12 +97,15 @@ class TestPlatform : public QObject
 private Q_SLOTS:
     void init() { m_dir.reset(new QTemporaryDir); }
 
-    void writesFiles_data() { addRows("writes.tsv", {"target", "size", "room", "lands", "error"}); }
+    void writesFiles_data()
+    {
+        addRows("writes.tsv", {"target", "size", "space", "lands", "error"});
+    }
 
     void writesFiles()
     {
         QFETCH(QString, target);
-        QFETCH(QString, room);
+        QFETCH(QString, space);
         QFETCH(QString, lands);
         QFETCH(QString, error);
         // "way/.." is the folder "deep", not the one that holds "way".
@@ -137,7 +140,7 @@ private Q_SLOTS:
 
         rlimit old;
         ::getrlimit(RLIMIT_FSIZE, &old);
-        const rlimit limit{room.isEmpty() ? old.rlim_cur : room.toULong(), old.rlim_max};
+        const rlimit limit{space.isEmpty() ? old.rlim_cur : space.toULong(), old.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &limit);
         const mode_t mask = ::umask(027);
         QString message;

@@ -432,13 +432,13 @@ private Q_SLOTS:
         for (int size : {30, 5000}) {
             const QByteArray old =
                 "[Options]\nOld\\gone=1\nOld\\kept=" + QByteArray(size, 'k') + '\n';
-            for (int room = 0; room < 40; ++room) {
+            for (int space = 0; space < 40; ++space) {
                 QFile::remove(in("a"));
                 QVERIFY(writeBytes(in("a"), old));
                 const QMap<QString, QString> before = textsOf(in("a"));
                 const int code =
                     run("sh",
-                        {"-c", QString("trap '' XFSZ; ulimit -f %1; exec \"$@\"").arg(room), "sh",
+                        {"-c", QString("trap '' XFSZ; ulimit -f %1; exec \"$@\"").arg(space), "sh",
                          QCoreApplication::applicationFilePath(), "once", in("a"), "9000"})
                         .exitCode;
                 const QMap<QString, QString> found = textsOf(in("a"));
@@ -447,7 +447,7 @@ private Q_SLOTS:
                     && found.value("Options/New/big").size() == 9000
                     && found.value("Options/Old/kept").size() == size;
                 QVERIFY2(isNew || (code != 0 && found == before),
-                         qPrintable(QString::number(room)));
+                         qPrintable(QString::number(space)));
             }
         }
     }

@@ -8,7 +8,7 @@ using namespace MRVOptionsTables;
 
 namespace {
 
-// Stored words, so that a file can be read by a person and an enumeration can be put in order anew;
+// Stored words, so that a file can be read by a person and an enumeration can be reordered;
 // row i carries the enumerator of value i.
 constexpr const char *CornerStyles[] = {"SquareCorners", "RoundedCorners"};
 constexpr const char *LabelIndicators[] = {"NoLabelIndicator", "PinIndicator", "CornerIndicator",

@@ -145,7 +145,7 @@ void MRVStagedFiles::rollBack(Files::iterator end, QString *error)
 
 bool MRVStagedFiles::write(const QByteArray &bytes, const QString &file, QString *error)
 {
-    const MRVHeldSignals held; // a temporary file would be left behind
+    const MRVHeldSignals held; // a temporary file would remain
     MRVNewFolders folders;
     if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
         return false;

@@ -268,13 +268,13 @@ void FinalDraftReader::readNotes()
 void FinalDraftReader::placeNotes()
 {
     for (const PlacedNote &note : qAsConst(m_notes)) {
-        const auto behind = std::upper_bound(
+        const auto after = std::upper_bound(
             m_paragraphs.cbegin(), m_paragraphs.cend(), note.position,
             [](int position, const Place &place) { return position < place.start; });
-        if (behind == m_paragraphs.cbegin()) {
+        if (after == m_paragraphs.cbegin()) {
             m_script.elements.append(Element(Element::Note, note.text));
         } else {
-            Element &element = m_script.elements[std::prev(behind)->element];
+            Element &element = m_script.elements[std::prev(after)->element];
             const bool isObject =
                 element.kind == Element::Note || element.kind == Element::Boneyard;
             element.runs.append({isObject ? u'\n' + note.text : note.text, {}, Run::Note});

@@ -42,13 +42,13 @@ QVector<Object> ObjectScanner::objects()
         const QChar next = at + 1 < m_text.size() ? m_text.at(at + 1) : QChar();
         int end = -1;
         if (c == u'\\') {
-            int behind = at;
-            while (behind < m_text.size() && m_text.at(behind) == u'\\') {
-                ++behind;
+            int after = at;
+            while (after < m_text.size() && m_text.at(after) == u'\\') {
+                ++after;
             }
             const bool escapes =
-                (behind - at) % 2 != 0 && behind < m_text.size() && isEscapable(m_text.at(behind));
-            at = escapes ? behind + 1 : behind;
+                (after - at) % 2 != 0 && after < m_text.size() && isEscapable(m_text.at(after));
+            at = escapes ? after + 1 : after;
             continue;
         }
         if (c == u'[' && next == u'[' && (end = noteEnd(at + 2)) >= 0) {
@@ -440,9 +440,9 @@ int FountainReader::readLines(Element::Kind kind, int line, int end)
             element.runs.append({QStringLiteral("\n"), {}, Run::Text});
         }
         const int before = kind == Element::Dialogue ? 0 : 1;
-        const int behind = kind == Element::Centered ? 1 : 0;
+        const int after = kind == Element::Centered ? 1 : 0;
         // Blanks after dialogue stay.
-        const int last = kind == Element::Dialogue ? given.end : contentEnd(given) - behind;
+        const int last = kind == Element::Dialogue ? given.end : contentEnd(given) - after;
         element.runs += runs(given, contentStart(given) + before, last);
     }
     addElement(element);
@@ -457,7 +457,7 @@ void FountainReader::readHeading(const Line &line, bool forced)
     int end = contentEnd(line);
     // Without objects the view equals the line; with objects, both still have the same end.
     const Range number = sceneNumber(QStringRef(&line.view));
-    const QStringRef behind =
+    const QStringRef after =
         number.isEmpty() ? QStringRef() : trimmed(line.view.midRef(number.end));
     if (!number.isEmpty()) {
         element.sceneNumber = line.view.mid(number.start + 1, number.end - number.start - 2);
@@ -466,7 +466,7 @@ void FountainReader::readHeading(const Line &line, bool forced)
             --end;
         }
     }
-    if (behind.isEmpty()) {
+    if (after.isEmpty()) {
         element.runs = runs(line, start, qMax(start, end));
     } else {
         // Marks around both the text and its number: no object follows the number.
@@ -476,7 +476,7 @@ void FountainReader::readHeading(const Line &line, bool forced)
             object.end -= start;
         }
         moved.append(m_objects.constLast());
-        const QString text = m_text.mid(start, end - start) + behind;
+        const QString text = m_text.mid(start, end - start) + after;
         element.runs = runsOf(text, 0, text.size(), moved.constData());
     }
     addElement(element);

@@ -217,10 +217,10 @@ void FountainWriter::addHeading(const Element &element)
     } else {
         const Range number = sceneNumber(QStringRef(&line.view));
         if (!number.isEmpty()) {
-            const int behind =
+            const int after =
                 line.view.size() - number.end + 1; // its last character and what follows
-            line.text.insert(line.text.size() - behind, u'\\');
-            line.view.insert(line.view.size() - behind, u'\\');
+            line.text.insert(line.text.size() - after, u'\\');
+            line.view.insert(line.view.size() - after, u'\\');
         }
     }
     if (line.kind(true) == HeadingLine) {

@@ -61,10 +61,10 @@ void mrvRemoveBrackets(MRVFountainRuns *runs)
     const QString &front = first->text;
     const QString &back = last->text;
     const auto open = std::find_if(front.begin(), front.end(), isNoSpace) - front.begin();
-    const auto behind = back.rend() - std::find_if(back.rbegin(), back.rend(), isNoSpace);
-    if (front.at(int(open)) != u'(' || back.at(int(behind) - 1) != u')') {
+    const auto after = back.rend() - std::find_if(back.rbegin(), back.rend(), isNoSpace);
+    if (front.at(int(open)) != u'(' || back.at(int(after) - 1) != u')') {
         return;
     }
-    last->text.remove(int(behind) - 1, 1);
+    last->text.remove(int(after) - 1, 1);
     first->text.remove(int(open), 1);
 }

@@ -71,7 +71,7 @@ constexpr DelimiterName delimiterNames[] = {
     {&MRVScriptElement::styleDelimiter, QT_TRANSLATE_NOOP("QObject", "capitals up to %1"),
      "styleDelimiter"},
     {&MRVScriptElement::phraseStartDelimiter,
-     QT_TRANSLATE_NOOP("QObject", "phrases begin behind %1"), "phraseStart"},
+     QT_TRANSLATE_NOOP("QObject", "phrases begin after %1"), "phraseStart"},
     {&MRVScriptElement::phraseEndDelimiter, QT_TRANSLATE_NOOP("QObject", "phrases end before %1"),
      "phraseEnd"}};
 

@@ -20,7 +20,7 @@ bool isHarmless(const QByteArray &bytes, MRVVariantGuard::Form form)
 }
 
 // The character that an escape stands for, as QSettings reads it; -1 for the end of a line that
-// goes on in the next one. @p at stands after the backslash, and is moved behind the escape.
+// goes on in the next one. @p at stands after the backslash, and is moved after the escape.
 int unescaped(const QByteArray &line, int *at)
 {
     static constexpr char Letters[] = "abfnrtv\"?'\\";

@@ -61,7 +61,7 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
     const QFontMetrics metrics = fontMetrics();
     const QSize wanted(metrics.averageCharWidth() * CharactersWide,
                        metrics.lineSpacing() * LinesHigh);
-    resize(wanted.boundedTo(roomOnScreen()));
+    resize(wanted.boundedTo(availableSize()));
 }
 
 MRVCheckForUpdatesDialog::~MRVCheckForUpdatesDialog() = default;
@@ -194,7 +194,7 @@ bool MRVCheckForUpdatesDialog::event(QEvent *event)
     return isHandled;
 }
 
-QSize MRVCheckForUpdatesDialog::roomOnScreen() const
+QSize MRVCheckForUpdatesDialog::availableSize() const
 {
     return screen()->availableSize();
 }
@@ -202,10 +202,10 @@ QSize MRVCheckForUpdatesDialog::roomOnScreen() const
 // Layouts do not ensure by themselves that a label of several lines gets its full height.
 void MRVCheckForUpdatesDialog::keepStatusWhole()
 {
-    const QSize room = roomOnScreen();
+    const QSize available = availableSize();
     const int narrowest = fontMetrics().averageCharWidth() * CharactersWide * 2 / 3;
-    setMinimumWidth(qMin(qMax(narrowest, layout()->minimumSize().width()), room.width()));
-    setMinimumHeight(qBound(0, layout()->minimumHeightForWidth(width()), room.height()));
+    setMinimumWidth(qMin(qMax(narrowest, layout()->minimumSize().width()), available.width()));
+    setMinimumHeight(qBound(0, layout()->minimumHeightForWidth(width()), available.height()));
 }
 
 void MRVCheckForUpdatesDialog::showEvent(QShowEvent *event)

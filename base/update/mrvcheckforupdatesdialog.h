@@ -79,7 +79,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QSize roomOnScreen() const;
+    QSize availableSize() const;
     void keepStatusWhole();
     void showReleaseNotes();
     void showRightsWarning(bool needsAdminRights, const QString &installedLocation);

@@ -11,7 +11,7 @@
 #include <QString>
 
 /**
- * Decodes pictures that anybody may have made: all that is decoded passes through here.
+ * Decodes pictures that anybody may have made: files and bytes from outside are decoded here.
  *
  * What a picture takes is known before anything of it is decoded. One is refused that claims more
  * than MRVInputLimits has for it, in its header, in any frame or in anything that it holds, and so

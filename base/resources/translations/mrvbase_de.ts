@@ -2982,7 +2982,7 @@ Bitte melden Sie dies an %1.</translation>
         <translation>Großbuchstaben bis %1</translation>
     </message>
     <message>
-        <source>phrases begin behind %1</source>
+        <source>phrases begin after %1</source>
         <translation>Ausdrücke beginnen nach %1</translation>
     </message>
     <message>

@@ -2982,7 +2982,7 @@ Comuníquelo a %1.</translation>
         <translation>mayúsculas hasta %1</translation>
     </message>
     <message>
-        <source>phrases begin behind %1</source>
+        <source>phrases begin after %1</source>
         <translation>las expresiones empiezan después de %1</translation>
     </message>
     <message>

@@ -2982,7 +2982,7 @@ Veuillez la signaler à %1.</translation>
         <translation>majuscules jusqu’à %1</translation>
     </message>
     <message>
-        <source>phrases begin behind %1</source>
+        <source>phrases begin after %1</source>
         <translation>les expressions commencent après %1</translation>
     </message>
     <message>
