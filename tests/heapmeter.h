@@ -48,6 +48,9 @@ private:
 
 #ifdef MRV_SANITIZE
 
+/** How many copies of a block that grows may exist: the sanitizer never grows one in place. */
+static constexpr int CopiesWhileGrowing = 2;
+
 // Of the sanitizer's run-time library; GCC installs no header that declares them.
 extern "C" {
 int __sanitizer_install_malloc_and_free_hooks(void (*taken)(const volatile void *, std::size_t),
@@ -60,6 +63,8 @@ static const int heapHooks = __sanitizer_install_malloc_and_free_hooks(
     [](const volatile void *memory) { HeapMeter::given(__sanitizer_get_allocated_size(memory)); });
 
 #else
+
+static constexpr int CopiesWhileGrowing = 1;
 
 extern "C" {
 
