@@ -232,6 +232,9 @@ private Q_SLOTS:
             "icns", tooMany);
         row("bitmap-text", pictureText("30000"), "xbm", tooMany);
         row("gif-frame", gifOfLargeFrame(), "gif", tooMany);
+        row("gif-screen",
+            QByteArray::fromBase64("R0lGODlh//8KCgoAACwAAAEAAQCAACEAAAAAAP8AJwQAAAAAAAE7AAABAA=="),
+            "gif", tooMany);
         row("tiff-tile", tiffOfLargeTile(), "tiff", tooMany);
         row("webp", "RIFF\x1e\0\0\0WEBPVP8X\x0a\0\0\0\0\0\0\0\x2f\x75\0\x2f\x75\0\0\0\0\0", "webp",
             "");

@@ -90,33 +90,30 @@ qint64 gifTableBytes(quint8 flags)
     return (flags & 0x80) ? qint64(3) << ((flags & 7) + 1) : 0;
 }
 
-// Qt takes memory for the screen and for each frame as the frame says, and for a screen that holds
-// the first frame where the one in the header is far larger than it.
+// Qt takes memory for the screen or, where it finds the screen far too large, for one that holds the
+// first frame; which of the two is not always to be foreseen. So the screen counts as its header has
+// it, each frame as the frame has it, and all of them together.
 MRVPictureClaims gifClaims(const QByteArray &bytes)
 {
     constexpr qint64 ScreenEnd = 13;
     const MRVPictureBytes file(bytes);
-    int width = file.little<quint16>(6);
-    int height = file.little<quint16>(8);
-    const auto shown = [](int screen, int start, int length) {
-        const bool isBelievable = screen > 0 && screen / 10 <= qMax(length, 200);
-        return isBelievable ? screen : start + length;
-    };
+    QSize screen(file.little<quint16>(6), file.little<quint16>(8));
     MRVPictureClaims claims;
     for (qint64 at = ScreenEnd + gifTableBytes(file.byte(10)); at < file.size();) {
         const quint8 kind = file.byte(at);
         if (kind == '!') {
             at = gifBlocksEnd(file, at + 2);
         } else if (kind == ',') {
+            const QSize start(file.little<quint16>(at + 1), file.little<quint16>(at + 3));
             const QSize frame(file.little<quint16>(at + 5), file.little<quint16>(at + 7));
-            width = shown(width, file.little<quint16>(at + 1), frame.width());
-            height = shown(height, file.little<quint16>(at + 3), frame.height());
-            claims.sizes << frame << QSize(width, height);
+            claims.sizes << frame;
+            screen = screen.expandedTo(start + frame);
             at = gifBlocksEnd(file, at + 11 + gifTableBytes(file.byte(at + 9)));
         } else {
             break;
         }
     }
+    claims.sizes << screen;
     return claims;
 }
 
