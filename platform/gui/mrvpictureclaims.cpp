@@ -90,9 +90,9 @@ qint64 gifTableBytes(quint8 flags)
     return (flags & 0x80) ? qint64(3) << ((flags & 7) + 1) : 0;
 }
 
-// Qt takes memory for the screen or, where it finds the screen far too large, for one that holds the
-// first frame; which of the two is not always to be foreseen. So the screen counts as its header has
-// it, each frame as the frame has it, and all of them together.
+// Qt takes memory for the screen or, where it finds the screen far too large, for one that holds
+// the first frame; which of the two is not always to be foreseen. So the screen counts as its
+// header has it, each frame as the frame has it, and all of them together.
 MRVPictureClaims gifClaims(const QByteArray &bytes)
 {
     constexpr qint64 ScreenEnd = 13;
