@@ -7,25 +7,6 @@
 
 #include <random>
 
-class TestAutoReplace : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void defaults();
-    void matchesOfDefaults_data() { addRows("autoreplacematches.tsv", {"typed", "match"}); }
-    void matchesOfDefaults();
-    void agreesWithScan();
-    void seesChanges();
-    void readsWhatIsThere_data()
-    {
-        addRows("autoreplaceforms.tsv", {"case", "bytes", "entries", "whole"});
-    }
-    void readsWhatIsThere();
-    void missingOrdinals();
-    void entryStream();
-};
-
 namespace {
 
 // The stored forms, written without any stream.
@@ -90,137 +71,149 @@ private:
 
 } // namespace
 
-void TestAutoReplace::defaults()
+class TestAutoReplace : public QObject
 {
-    const MRVAutoReplaceList expected = MRVAutoReplaceList::defaultReplacements();
-    QCOMPARE(expected.size(), 33);
-    for (const QStringList &row : rowsOf("autoreplace.tsv")) {
-        const MRVAutoReplace entry{row.value(3) == "yes", row.at(1), row.at(2)};
-        QCOMPARE(expected.at(row.at(0).toInt()), entry);
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults()
+    {
+        const MRVAutoReplaceList expected = MRVAutoReplaceList::defaultReplacements();
+        QCOMPARE(expected.size(), 33);
+        for (const QStringList &row : rowsOf("autoreplace.tsv")) {
+            const MRVAutoReplace entry{row.value(3) == "yes", row.at(1), row.at(2)};
+            QCOMPARE(expected.at(row.at(0).toInt()), entry);
+        }
+        QCOMPARE(MRVAutoReplaceList::defaultReplacementsByteArray(), stored(expected));
+        QCOMPARE(expected.toByteArray(), stored(expected));
+        QCOMPARE(MRVAutoReplace::ordinals(), MRVAutoReplaceList(expected.mid(27)));
+        QVERIFY(expected.containsMatch("1/2"));
+        QVERIFY(!expected.containsMatch("(C)"));
+        QVERIFY(expected.containsReplacement("2nd", "2n"));
+        QVERIFY(!expected.containsReplacement("2nd", "2r"));
     }
-    QCOMPARE(MRVAutoReplaceList::defaultReplacementsByteArray(), stored(expected));
-    QCOMPARE(expected.toByteArray(), stored(expected));
-    QCOMPARE(MRVAutoReplace::ordinals(), MRVAutoReplaceList(expected.mid(27)));
-    QVERIFY(expected.containsMatch("1/2"));
-    QVERIFY(!expected.containsMatch("(C)"));
-    QVERIFY(expected.containsReplacement("2nd", "2n"));
-    QVERIFY(!expected.containsReplacement("2nd", "2r"));
-}
 
-void TestAutoReplace::matchesOfDefaults()
-{
-    QFETCH(QString, match);
-    const MRVAutoReplace found = MRVAutoReplaceList::defaultReplacements().bestMatch(cell("typed"));
-    QCOMPARE(found.match, match);
-    QCOMPARE(found.enabled, !match.isEmpty());
-    QCOMPARE(found.replacement.isEmpty(), match.isEmpty());
-}
-
-void TestAutoReplace::agreesWithScan()
-{
-    Texts texts;
-    for (int round = 0; round < 200; ++round) {
-        MRVAutoReplaceList list;
-        texts.setLetters(1 + round % 5);
-        for (int left = round * 2; left > 0; --left) {
-            list << texts.entry();
-        }
-        for (int i = 0; i < 100; ++i) {
-            const QString typed = texts.text(9);
-            QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
-        }
-        QCOMPARE(list.toByteArray(), stored(list));
+    void matchesOfDefaults_data() { addRows("autoreplacematches.tsv", {"typed", "match"}); }
+    void matchesOfDefaults()
+    {
+        QFETCH(QString, match);
+        const MRVAutoReplace found =
+            MRVAutoReplaceList::defaultReplacements().bestMatch(cell("typed"));
+        QCOMPARE(found.match, match);
+        QCOMPARE(found.enabled, !match.isEmpty());
+        QCOMPARE(found.replacement.isEmpty(), match.isEmpty());
     }
-}
 
-// However the list is changed, also through what was kept from before a search.
-void TestAutoReplace::seesChanges()
-{
-    Texts texts;
-    for (int round = 0; round < 40; ++round) {
-        MRVAutoReplaceList list;
-        while (list.size() < 100) {
-            list << texts.entry();
-        }
-        MRVAutoReplaceList other = list;
-        list.bestMatch("a");
-        MRVAutoReplace *kept = &list[50];
-        for (int i = 0; i < 60; ++i) {
-            const int at = texts.below(list.size());
-            switch (texts.below(7)) {
-            case 0:
+    void agreesWithScan()
+    {
+        Texts texts;
+        for (int round = 0; round < 200; ++round) {
+            MRVAutoReplaceList list;
+            texts.setLetters(1 + round % 5);
+            for (int left = round * 2; left > 0; --left) {
                 list << texts.entry();
-                break;
-            case 1:
-                *kept = texts.entry();
-                break;
-            case 2:
-                list.replace(at, texts.entry());
-                break;
-            case 3:
-                kept = &*(list.begin() + at);
-                break;
-            case 4:
-                other = list;
-                break;
-            case 5:
-                std::swap(list, other);
-                kept = &list.last();
-                break;
-            case 6:
-                list = other;
-                kept = &list.first();
-                break;
             }
-            const QString typed = texts.text(7);
-            QCOMPARE(other.bestMatch(typed), byTheRule(other, typed));
-            QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
-            *kept = {true, typed, "kept"};
-            QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
-            QCOMPARE(other.bestMatch(typed), byTheRule(other, typed));
+            for (int i = 0; i < 100; ++i) {
+                const QString typed = texts.text(9);
+                QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
+            }
+            QCOMPARE(list.toByteArray(), stored(list));
         }
     }
-}
 
-void TestAutoReplace::readsWhatIsThere()
-{
-    MRVAutoReplaceList list{{true, "to be", "cleared"}};
-    QString error;
-    list.fromByteArray(QByteArray::fromHex(cell("bytes").toLatin1()), &error);
-    QTEST(QString(error.isEmpty() ? "whole" : ""), "whole");
-    QStringList entries;
-    for (const MRVAutoReplace &entry : qAsConst(list)) {
-        entries << entry.match + '=' + entry.replacement + (entry.enabled ? "" : " off");
+    // However the list is changed, also through what was kept from before a search.
+    void seesChanges()
+    {
+        Texts texts;
+        for (int round = 0; round < 40; ++round) {
+            MRVAutoReplaceList list;
+            while (list.size() < 100) {
+                list << texts.entry();
+            }
+            MRVAutoReplaceList other = list;
+            list.bestMatch("a");
+            MRVAutoReplace *kept = &list[50];
+            for (int i = 0; i < 60; ++i) {
+                const int at = texts.below(list.size());
+                switch (texts.below(7)) {
+                case 0:
+                    list << texts.entry();
+                    break;
+                case 1:
+                    *kept = texts.entry();
+                    break;
+                case 2:
+                    list.replace(at, texts.entry());
+                    break;
+                case 3:
+                    kept = &*(list.begin() + at);
+                    break;
+                case 4:
+                    other = list;
+                    break;
+                case 5:
+                    std::swap(list, other);
+                    kept = &list.last();
+                    break;
+                case 6:
+                    list = other;
+                    kept = &list.first();
+                    break;
+                }
+                const QString typed = texts.text(7);
+                QCOMPARE(other.bestMatch(typed), byTheRule(other, typed));
+                QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
+                *kept = {true, typed, "kept"};
+                QCOMPARE(list.bestMatch(typed), byTheRule(list, typed));
+                QCOMPARE(other.bestMatch(typed), byTheRule(other, typed));
+            }
+        }
     }
-    QTEST(entries.join(", "), "entries");
-}
 
-void TestAutoReplace::missingOrdinals()
-{
-    MRVAutoReplaceList list = MRVAutoReplaceList::defaultReplacements();
-    MRVAutoReplaceList::appendMissingOrdinals(&list);
-    QCOMPARE(list, MRVAutoReplaceList::defaultReplacements());
-    list = {{true, "1st", "1R"}, {true, "2nd", "2n"}};
-    MRVAutoReplaceList::appendMissingOrdinals(&list);
-    QCOMPARE(list.size(), 7);
-    QCOMPARE(list.at(5), (MRVAutoReplace{false, "1st", "1r"}));
-    QCOMPARE(list.at(6), (MRVAutoReplace{false, "3rd", "3r"}));
-}
+    void readsWhatIsThere_data()
+    {
+        addRows("autoreplaceforms.tsv", {"case", "bytes", "entries", "whole"});
+    }
+    void readsWhatIsThere()
+    {
+        MRVAutoReplaceList list{{true, "to be", "cleared"}};
+        QString error;
+        list.fromByteArray(QByteArray::fromHex(cell("bytes").toLatin1()), &error);
+        QTEST(QString(error.isEmpty() ? "whole" : ""), "whole");
+        QStringList entries;
+        for (const MRVAutoReplace &entry : qAsConst(list)) {
+            entries << entry.match + '=' + entry.replacement + (entry.enabled ? "" : " off");
+        }
+        QTEST(entries.join(", "), "entries");
+    }
 
-void TestAutoReplace::entryStream()
-{
-    const MRVAutoReplace entry{true, QString(1000000, QChar(0x2190)), QString()};
-    QByteArray bytes;
-    QDataStream writer(&bytes, QIODevice::WriteOnly);
-    writer << entry;
-    QCOMPARE(bytes, number(1) + char(1) + text(entry.match) + text(QString()));
-    bytes.replace(0, 4, number(77));
-    MRVAutoReplace again{false, "old", "old"};
-    QDataStream reader(bytes);
-    reader >> again;
-    QCOMPARE(again, entry);
-    QVERIFY(again.replacement.isNull());
-}
+    void missingOrdinals()
+    {
+        MRVAutoReplaceList list = MRVAutoReplaceList::defaultReplacements();
+        MRVAutoReplaceList::appendMissingOrdinals(&list);
+        QCOMPARE(list, MRVAutoReplaceList::defaultReplacements());
+        list = {{true, "1st", "1R"}, {true, "2nd", "2n"}};
+        MRVAutoReplaceList::appendMissingOrdinals(&list);
+        QCOMPARE(list.size(), 7);
+        QCOMPARE(list.at(5), (MRVAutoReplace{false, "1st", "1r"}));
+        QCOMPARE(list.at(6), (MRVAutoReplace{false, "3rd", "3r"}));
+    }
+
+    void entryStream()
+    {
+        const MRVAutoReplace entry{true, QString(1000000, QChar(0x2190)), QString()};
+        QByteArray bytes;
+        QDataStream writer(&bytes, QIODevice::WriteOnly);
+        writer << entry;
+        QCOMPARE(bytes, number(1) + char(1) + text(entry.match) + text(QString()));
+        bytes.replace(0, 4, number(77));
+        MRVAutoReplace again{false, "old", "old"};
+        QDataStream reader(bytes);
+        reader >> again;
+        QCOMPARE(again, entry);
+        QVERIFY(again.replacement.isNull());
+    }
+};
 
 QTEST_APPLESS_MAIN(TestAutoReplace)
 

@@ -78,278 +78,265 @@ class tst_EPub : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pages();
-    void links();
-    void contents();
-    void largePages();
-    void headingIds();
-    void metadata();
-    void covers_data();
-    void covers();
-    void pictures();
-    void archive();
-    void isValid_data();
-    void isValid();
-    void hostileTexts();
-};
-
-void tst_EPub::pages()
-{
-    QTextDocument document;
-    fill(&document, novel);
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document));
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    // Front matter, two chapters, and the page break.
-    QVERIFY(files.contains("OEBPS/page-004.xhtml"));
-    QVERIFY(!files.contains("OEBPS/page-005.xhtml"));
-    QVERIFY(files["OEBPS/page-001.xhtml"].contains("Front"));
-    QVERIFY(files["OEBPS/page-002.xhtml"].contains("<title>One</title>"));
-    QVERIFY(files["OEBPS/page-002.xhtml"].contains("Scene"));
-    QVERIFY(files["OEBPS/page-003.xhtml"].contains("<title>Two &amp; more</title>"));
-    QVERIFY(files["OEBPS/page-004.xhtml"].contains("New page"));
-    QVERIFY(files["OEBPS/css/stylesheet.css"].contains(".morvane1 {"));
-}
-
-void tst_EPub::links()
-{
-    QTextDocument document;
-    fill(&document, novel);
-    QTextDocument other;
-    other.setHtml("<p>Before</p><p><a name='there'></a>There <a href='novel.html'>back</a></p>");
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document, "novel.html"));
-    QVERIFY(package.addDocument(other, "other.html"));
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    const QString one = files["OEBPS/page-002.xhtml"];
-    const QString two = files["OEBPS/page-003.xhtml"];
-    QVERIFY(one.contains("<a href=\"page-003.xhtml#two\">"));
-    QVERIFY(two.contains("<a id=\"two\"></a>"));
-    QVERIFY(two.contains("<a href=\"page-005.xhtml#there\">"));
-    QVERIFY(two.contains("<a href=\"https://example.com/a%20b?c=d&amp;e\">"));
-    QCOMPARE(two.count("<a href="), 2); // the others keep their text only
-    QVERIFY(two.contains("nowhere"));
-    QVERIFY(two.contains("file"));
-    QVERIFY(two.contains("node"));
-    QVERIFY(files["OEBPS/page-005.xhtml"].contains("<a href=\"page-001.xhtml\">"));
-}
-
-void tst_EPub::contents()
-{
-    QTextDocument document;
-    fill(&document, novel);
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document));
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    const QString nav = QString(files["OEBPS/nav.xhtml"]).remove('\n');
-    QVERIFY(nav.contains(
-        "<ol><li><a href=\"page-001.xhtml#heading-1\">The Novel</a><ol><li><a "
-        "href=\"page-002.xhtml#heading-2\">One</a>"
-        "<ol><li><a href=\"page-002.xhtml#heading-3\">Scene</a></li></ol></li>"
-        "<li><a href=\"page-003.xhtml#heading-4\">Two &amp; more</a></li></ol></li></ol></nav>"));
-    const QString ncx = files["OEBPS/toc.ncx"];
-    QCOMPARE(ncx.count("<navPoint"), 4);
-    QVERIFY(ncx.contains("name=\"dtb:depth\" content=\"3\""));
-    QVERIFY(files["OEBPS/page-002.xhtml"].contains("<h3 id=\"heading-3\""));
-
-    QTextDocument plain("no headings");
-    MRVEPubPackage small;
-    QVERIFY(small.addDocument(plain));
-    QVERIFY(unpacked(small.toByteArray())["OEBPS/nav.xhtml"].contains(
-        "<a href=\"page-001.xhtml\">Untitled</a>"));
-}
-
-// Two headings on a title page must not leave the rest in one piece.
-void tst_EPub::largePages()
-{
-    const QString paragraph = "<p>" + QString("word ").repeated(100) + "</p>";
-    QTextDocument document;
-    document.setHtml("<h1>Title</h1><h1>Author</h1>"
-                     + ("<h3>Part</h3>" + paragraph.repeated(300)).repeated(4));
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document));
-    QTextDocument plain;
-    plain.setHtml(paragraph.repeated(4500));
-    QVERIFY(package.addDocument(plain));
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    int largest = 0;
-    for (const QString &file : files) {
-        largest = qMax(largest, file.size());
+    void pages()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        // Front matter, two chapters, and the page break.
+        QVERIFY(files.contains("OEBPS/page-004.xhtml"));
+        QVERIFY(!files.contains("OEBPS/page-005.xhtml"));
+        QVERIFY(files["OEBPS/page-001.xhtml"].contains("Front"));
+        QVERIFY(files["OEBPS/page-002.xhtml"].contains("<title>One</title>"));
+        QVERIFY(files["OEBPS/page-002.xhtml"].contains("Scene"));
+        QVERIFY(files["OEBPS/page-003.xhtml"].contains("<title>Two &amp; more</title>"));
+        QVERIFY(files["OEBPS/page-004.xhtml"].contains("New page"));
+        QVERIFY(files["OEBPS/css/stylesheet.css"].contains(".morvane1 {"));
     }
-    QVERIFY2(largest < 1100000, qPrintable(QString::number(largest)));
-    QVERIFY(files["OEBPS/page-004.xhtml"].size() < 400000);
-    QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);
-}
 
-// Ids of headings keep clear of the document's own, whatever order these are looked at.
-void tst_EPub::headingIds()
-{
-    QTextDocument document;
-    document.setHtml("<h1>One</h1><p><a name='heading-1'></a>a<a name='_heading-2'></a>b</p>"
-                     "<table><tr><td><h2><img src='x' alt='Mill'></h2></td></tr></table>");
-    document.addResource(QTextDocument::ImageResource, QUrl("x"), QImage::fromData(png(Qt::blue)));
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document));
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    QVERIFY(files["OEBPS/page-001.xhtml"].contains("<h1 id=\"__heading-1\""));
-    QVERIFY(files["OEBPS/nav.xhtml"].contains("#__heading-2\">Mill</a>"));
-}
-
-void tst_EPub::metadata()
-{
-    QTextDocument document;
-    fill(&document, novel);
-    MRVEPubMetadata metadata;
-    metadata.authors = QStringList{"A. <Writer>", "B"};
-    metadata.language = "de-CH";
-    metadata.identifier = "urn:isbn:9780000000002";
-    metadata.modified = someDay();
-    MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
-    QVERIFY(package.addDocument(document));
-    const QString opf = unpacked(package.toByteArray())["OEBPS/content.opf"];
-    for (const char *part :
-         {"<dc:title>The Novel</dc:title>", "<dc:creator>A. &lt;Writer&gt;</dc:creator>",
-          "<dc:creator>B</dc:creator>", "<dc:language>de-CH</dc:language>",
-          ">urn:isbn:9780000000002<", "\"dcterms:modified\">2026-01-31T12:00:00Z<",
-          "\"schema:accessibilityFeature\">alternativeText<"}) {
-        QVERIFY2(opf.contains(part), part);
+    void links()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        QTextDocument other;
+        other.setHtml(
+            "<p>Before</p><p><a name='there'></a>There <a href='novel.html'>back</a></p>");
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document, "novel.html"));
+        QVERIFY(package.addDocument(other, "other.html"));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        const QString one = files["OEBPS/page-002.xhtml"];
+        const QString two = files["OEBPS/page-003.xhtml"];
+        QVERIFY(one.contains("<a href=\"page-003.xhtml#two\">"));
+        QVERIFY(two.contains("<a id=\"two\"></a>"));
+        QVERIFY(two.contains("<a href=\"page-005.xhtml#there\">"));
+        QVERIFY(two.contains("<a href=\"https://example.com/a%20b?c=d&amp;e\">"));
+        QCOMPARE(two.count("<a href="), 2); // the others keep their text only
+        QVERIFY(two.contains("nowhere"));
+        QVERIFY(two.contains("file"));
+        QVERIFY(two.contains("node"));
+        QVERIFY(files["OEBPS/page-005.xhtml"].contains("<a href=\"page-001.xhtml\">"));
     }
-    MRVEPubMetadata bad;
-    bad.language = "not a tag!";
-    MRVEPubPackage second(MRVEPubVersion::EPub2, bad);
-    QVERIFY(second.addDocument(document));
-    const QString opf2 = unpacked(second.toByteArray())["OEBPS/content.opf"];
-    QVERIFY(opf2.contains("<dc:language>und</dc:language>"));
-    QVERIFY(opf2.contains("version=\"2.0\""));
-    QVERIFY(!opf2.contains("nav.xhtml"));
-}
 
-void tst_EPub::covers_data()
-{
-    QTest::addColumn<QByteArray>("cover");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("none") << QByteArray() << false;
-    QTest::newRow("png") << png(Qt::red) << true;
-    QTest::newRow("garbage") << QByteArray("no picture") << false;
-}
+    void contents()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        const QString nav = QString(files["OEBPS/nav.xhtml"]).remove('\n');
+        QVERIFY(nav.contains("<ol><li><a href=\"page-001.xhtml#heading-1\">The Novel</a><ol><li><a "
+                             "href=\"page-002.xhtml#heading-2\">One</a>"
+                             "<ol><li><a href=\"page-002.xhtml#heading-3\">Scene</a></li></ol></li>"
+                             "<li><a href=\"page-003.xhtml#heading-4\">Two &amp; "
+                             "more</a></li></ol></li></ol></nav>"));
+        const QString ncx = files["OEBPS/toc.ncx"];
+        QCOMPARE(ncx.count("<navPoint"), 4);
+        QVERIFY(ncx.contains("name=\"dtb:depth\" content=\"3\""));
+        QVERIFY(files["OEBPS/page-002.xhtml"].contains("<h3 id=\"heading-3\""));
 
-void tst_EPub::covers()
-{
-    QFETCH(QByteArray, cover);
-    QFETCH(bool, shown);
-    MRVEPubMetadata metadata;
-    metadata.cover = cover;
-    metadata.title = "T & U";
-    metadata.authors = QStringList{"Writer"};
-    const QMap<QString, QString> files =
-        unpacked(MRVEPubPackage(MRVEPubVersion::EPub3, metadata).toByteArray());
-    QCOMPARE(
-        files["OEBPS/cover.xhtml"].contains("<img src=\"images/cover-1.png\" alt=\"T &amp; U\" />"),
-        shown);
-    QCOMPARE(files["OEBPS/cover.xhtml"].contains(">Writer</p>"), !shown);
-    QCOMPARE(files["OEBPS/content.opf"].contains("properties=\"cover-image\""), shown);
-}
+        QTextDocument plain("no headings");
+        MRVEPubPackage small;
+        QVERIFY(small.addDocument(plain));
+        QVERIFY(unpacked(small.toByteArray())["OEBPS/nav.xhtml"].contains(
+            "<a href=\"page-001.xhtml\">Untitled</a>"));
+    }
 
-void tst_EPub::pictures()
-{
-    QTextDocument document;
-    fill(&document,
-         "<p><img src='pic.png'><img src='http://example.com/x.png' alt='remote one'></p>");
-    MRVEPubPackage package;
-    QVERIFY(package.addDocument(document));
-    QVERIFY(package.addDocument(document)); // the same picture is stored once
-    const QMap<QString, QString> files = unpacked(package.toByteArray());
-    QCOMPARE(QStringList(files.keys()).filter("images/"), QStringList{"OEBPS/images/pic-1.png"});
-    QVERIFY(files["OEBPS/page-001.xhtml"].contains(" src=\"images/pic-1.png\""));
-    QVERIFY(files["OEBPS/page-001.xhtml"].contains("remote one"));
+    // Two headings on a title page must not leave the rest in one piece.
+    void largePages()
+    {
+        const QString paragraph = "<p>" + QString("word ").repeated(100) + "</p>";
+        QTextDocument document;
+        document.setHtml("<h1>Title</h1><h1>Author</h1>"
+                         + ("<h3>Part</h3>" + paragraph.repeated(300)).repeated(4));
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        QTextDocument plain;
+        plain.setHtml(paragraph.repeated(4500));
+        QVERIFY(package.addDocument(plain));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        int largest = 0;
+        for (const QString &file : files) {
+            largest = qMax(largest, file.size());
+        }
+        QVERIFY2(largest < 1100000, qPrintable(QString::number(largest)));
+        QVERIFY(files["OEBPS/page-004.xhtml"].size() < 400000);
+        QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);
+    }
 
-    QTextDocument broken;
-    broken.setHtml("<img src='missing.png'>");
-    QString error;
-    QVERIFY(!package.addDocument(broken, QString(), &error));
-    QVERIFY(error.contains("missing.png"));
-    QVERIFY(!unpacked(package.toByteArray()).contains("OEBPS/page-003.xhtml"));
-}
+    // Ids of headings keep clear of the document's own, whatever order these are looked at.
+    void headingIds()
+    {
+        QTextDocument document;
+        document.setHtml("<h1>One</h1><p><a name='heading-1'></a>a<a name='_heading-2'></a>b</p>"
+                         "<table><tr><td><h2><img src='x' alt='Mill'></h2></td></tr></table>");
+        document.addResource(QTextDocument::ImageResource, QUrl("x"),
+                             QImage::fromData(png(Qt::blue)));
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        QVERIFY(files["OEBPS/page-001.xhtml"].contains("<h1 id=\"__heading-1\""));
+        QVERIFY(files["OEBPS/nav.xhtml"].contains("#__heading-2\">Mill</a>"));
+    }
 
-void tst_EPub::archive()
-{
-    QTextDocument document;
-    fill(&document, novel);
-    MRVEPubMetadata metadata;
-    metadata.modified = someDay();
-    auto made = [&] {
+    void metadata()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        MRVEPubMetadata metadata;
+        metadata.authors = QStringList{"A. <Writer>", "B"};
+        metadata.language = "de-CH";
+        metadata.identifier = "urn:isbn:9780000000002";
+        metadata.modified = someDay();
         MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
-        package.addDocument(document, "novel.html");
-        return package.toByteArray();
-    };
-    const QByteArray book = made();
-    QCOMPARE(book, made());
-    QCOMPARE(book.mid(30, 28),
-             QByteArray("mimetypeapplication/epub+zip")); // first, stored, no extra field
-    metadata.modified = someDay().addSecs(3600);
-    QVERIFY(book != made());
-    const QString identifier =
-        unpacked(book)["OEBPS/content.opf"].section("urn:uuid:", 1).section('<', 0, 0);
-    QVERIFY(unpacked(made())["OEBPS/content.opf"].contains(identifier)); // it is the same book
+        QVERIFY(package.addDocument(document));
+        const QString opf = unpacked(package.toByteArray())["OEBPS/content.opf"];
+        for (const char *part :
+             {"<dc:title>The Novel</dc:title>", "<dc:creator>A. &lt;Writer&gt;</dc:creator>",
+              "<dc:creator>B</dc:creator>", "<dc:language>de-CH</dc:language>",
+              ">urn:isbn:9780000000002<", "\"dcterms:modified\">2026-01-31T12:00:00Z<",
+              "\"schema:accessibilityFeature\">alternativeText<"}) {
+            QVERIFY2(opf.contains(part), part);
+        }
+        MRVEPubMetadata bad;
+        bad.language = "not a tag!";
+        MRVEPubPackage second(MRVEPubVersion::EPub2, bad);
+        QVERIFY(second.addDocument(document));
+        const QString opf2 = unpacked(second.toByteArray())["OEBPS/content.opf"];
+        QVERIFY(opf2.contains("<dc:language>und</dc:language>"));
+        QVERIFY(opf2.contains("version=\"2.0\""));
+        QVERIFY(!opf2.contains("nav.xhtml"));
+    }
 
-    QTemporaryDir folder;
-    MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
-    QString error;
-    QVERIFY(package.write(folder.filePath("book.epub"), &error));
-    QVERIFY(!package.write(folder.filePath("no/book.epub"), &error));
-    QVERIFY(!error.isEmpty());
-}
+    void covers_data()
+    {
+        QTest::addColumn<QByteArray>("cover");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("none") << QByteArray() << false;
+        QTest::newRow("png") << png(Qt::red) << true;
+        QTest::newRow("garbage") << QByteArray("no picture") << false;
+    }
+    void covers()
+    {
+        QFETCH(QByteArray, cover);
+        QFETCH(bool, shown);
+        MRVEPubMetadata metadata;
+        metadata.cover = cover;
+        metadata.title = "T & U";
+        metadata.authors = QStringList{"Writer"};
+        const QMap<QString, QString> files =
+            unpacked(MRVEPubPackage(MRVEPubVersion::EPub3, metadata).toByteArray());
+        QCOMPARE(files["OEBPS/cover.xhtml"].contains(
+                     "<img src=\"images/cover-1.png\" alt=\"T &amp; U\" />"),
+                 shown);
+        QCOMPARE(files["OEBPS/cover.xhtml"].contains(">Writer</p>"), !shown);
+        QCOMPARE(files["OEBPS/content.opf"].contains("properties=\"cover-image\""), shown);
+    }
 
-void tst_EPub::isValid_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::newRow("epub-2") << 2;
-    QTest::newRow("epub-3") << 3;
-}
+    void pictures()
+    {
+        QTextDocument document;
+        fill(&document,
+             "<p><img src='pic.png'><img src='http://example.com/x.png' alt='remote one'></p>");
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        QVERIFY(package.addDocument(document)); // the same picture is stored once
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        QCOMPARE(QStringList(files.keys()).filter("images/"),
+                 QStringList{"OEBPS/images/pic-1.png"});
+        QVERIFY(files["OEBPS/page-001.xhtml"].contains(" src=\"images/pic-1.png\""));
+        QVERIFY(files["OEBPS/page-001.xhtml"].contains("remote one"));
 
-void tst_EPub::isValid()
-{
-    QFETCH(int, version);
-    QTextDocument document;
-    fill(&document, novel);
-    QTextDocument hard;
-    fill(&hard,
-         "<body bgcolor='#eeeeee' background='x.png'><h3>Deep first</h3><h1>Then high</h1><p "
-         "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
-         "</ol></ul><hr width='50%'><table border=2 cellpadding=3 cellspacing=1 width='70%' "
-         "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
-         "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img src='pic.png' "
-         "width='50%'></table><pre>a\n<img "
-         "src='pic.png'></pre><a href='#1 bad'>x</a><a href='http://'>y</a>");
-    MRVEPubMetadata metadata;
-    metadata.cover = png(Qt::green);
-    metadata.authors = QStringList{"Writer"};
-    metadata.language = "en";
-    metadata.publisher = "P";
-    metadata.description = "D & <d>";
-    metadata.rights = "R";
-    MRVEPubPackage package(MRVEPubVersion(version), metadata);
-    QVERIFY(package.addDocument(document, "novel.html"));
-    QVERIFY(package.addDocument(hard, "hard.html"));
-    QVERIFY(package.addDocument(QTextDocument(), "empty.txt"));
-    QTemporaryDir folder;
-    QVERIFY(package.write(folder.filePath("book.epub")));
-    QCOMPARE(epubErrors(folder.filePath("book.epub")), QString());
-}
+        QTextDocument broken;
+        broken.setHtml("<img src='missing.png'>");
+        QString error;
+        QVERIFY(!package.addDocument(broken, QString(), &error));
+        QVERIFY(error.contains("missing.png"));
+        QVERIFY(!unpacked(package.toByteArray()).contains("OEBPS/page-003.xhtml"));
+    }
 
-void tst_EPub::hostileTexts()
-{
-    MRVEPubMetadata metadata;
-    metadata.title = QString("a") + QChar(1) + "]]>" + QChar(0xD800) + "b";
-    metadata.authors = QStringList{QString(QChar(2)), "<x>"};
-    metadata.identifier = QString("urn:x:") + QChar(0xFFFF) + "y";
-    MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
-    QTextDocument document("x");
-    QVERIFY(package.addDocument(document));
-    QTemporaryDir folder;
-    QVERIFY(package.write(folder.filePath("book.epub")));
-    QCOMPARE(epubErrors(folder.filePath("book.epub")), QString());
-}
+    void archive()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        MRVEPubMetadata metadata;
+        metadata.modified = someDay();
+        auto made = [&] {
+            MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
+            package.addDocument(document, "novel.html");
+            return package.toByteArray();
+        };
+        const QByteArray book = made();
+        QCOMPARE(book, made());
+        QCOMPARE(book.mid(30, 28),
+                 QByteArray("mimetypeapplication/epub+zip")); // first, stored, no extra field
+        metadata.modified = someDay().addSecs(3600);
+        QVERIFY(book != made());
+        const QString identifier =
+            unpacked(book)["OEBPS/content.opf"].section("urn:uuid:", 1).section('<', 0, 0);
+        QVERIFY(unpacked(made())["OEBPS/content.opf"].contains(identifier)); // it is the same book
+
+        QTemporaryDir folder;
+        MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
+        QString error;
+        QVERIFY(package.write(folder.filePath("book.epub"), &error));
+        QVERIFY(!package.write(folder.filePath("no/book.epub"), &error));
+        QVERIFY(!error.isEmpty());
+    }
+
+    void isValid_data()
+    {
+        QTest::addColumn<int>("version");
+        QTest::newRow("epub-2") << 2;
+        QTest::newRow("epub-3") << 3;
+    }
+    void isValid()
+    {
+        QFETCH(int, version);
+        QTextDocument document;
+        fill(&document, novel);
+        QTextDocument hard;
+        fill(&hard,
+             "<body bgcolor='#eeeeee' background='x.png'><h3>Deep first</h3><h1>Then high</h1><p "
+             "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
+             "</ol></ul><hr width='50%'><table border=2 cellpadding=3 cellspacing=1 width='70%' "
+             "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
+             "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img src='pic.png' "
+             "width='50%'></table><pre>a\n<img "
+             "src='pic.png'></pre><a href='#1 bad'>x</a><a href='http://'>y</a>");
+        MRVEPubMetadata metadata;
+        metadata.cover = png(Qt::green);
+        metadata.authors = QStringList{"Writer"};
+        metadata.language = "en";
+        metadata.publisher = "P";
+        metadata.description = "D & <d>";
+        metadata.rights = "R";
+        MRVEPubPackage package(MRVEPubVersion(version), metadata);
+        QVERIFY(package.addDocument(document, "novel.html"));
+        QVERIFY(package.addDocument(hard, "hard.html"));
+        QVERIFY(package.addDocument(QTextDocument(), "empty.txt"));
+        QTemporaryDir folder;
+        QVERIFY(package.write(folder.filePath("book.epub")));
+        QCOMPARE(epubErrors(folder.filePath("book.epub")), QString());
+    }
+
+    void hostileTexts()
+    {
+        MRVEPubMetadata metadata;
+        metadata.title = QString("a") + QChar(1) + "]]>" + QChar(0xD800) + "b";
+        metadata.authors = QStringList{QString(QChar(2)), "<x>"};
+        metadata.identifier = QString("urn:x:") + QChar(0xFFFF) + "y";
+        MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
+        QTextDocument document("x");
+        QVERIFY(package.addDocument(document));
+        QTemporaryDir folder;
+        QVERIFY(package.write(folder.filePath("book.epub")));
+        QCOMPARE(epubErrors(folder.filePath("book.epub")), QString());
+    }
+};
 
 QTEST_MAIN(tst_EPub)
 #include "tst_epub.moc"

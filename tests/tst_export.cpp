@@ -176,305 +176,289 @@ class tst_Export : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void construct_data();
-    void construct();
-    void pagesAreValid();
-    void ordinaryDocumentsTakeTheChain_data();
-    void ordinaryDocumentsTakeTheChain();
-    void htmlIsRaw();
-    void proseIsLeftAlone();
-    void whiteSpaceIsKept();
-    void eBooksHaveNoStyles();
-    void anchorsAndLinks();
-    void titles();
-    void imagesOfPage();
-    void imagesOfEBook();
-    void failureLeavesNothing();
-    void eBookPage();
-    void styleSheetIsShared();
-};
-
-void tst_Export::construct_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < constructs().size(); ++i) {
-        QTest::newRow(qPrintable(constructs().at(i).first)) << i;
-    }
-}
-
-void tst_Export::construct()
-{
-    QFETCH(int, index);
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    constructs().at(index).second(cursor);
-    const QString before = document.toHtml();
-    for (X::ExportType type : {X::Xhtml, X::EPub, X::Kindle, X::KindleKF8}) {
-        const QString page = X(&document).toText(type);
-        QString expected = expectedText(document);
-        if (QTest::currentDataTag() == QByteArray("forbidden-characters")) {
-            expected.remove(QChar(0xD800)).remove(QChar(0xDC00));
-        } else if (QTest::currentDataTag() == QByteArray("picture-without-source")) {
-            expected = "lost & found";
-        }
-        QCOMPARE(readText(page), expected);
-    }
-    QCOMPARE(document.toHtml(), before);
-}
-
-void tst_Export::pagesAreValid()
-{
-    QTemporaryDir folder;
-    QStringList pages;
-    for (const auto &construct : constructs()) {
-        QTextDocument document;
-        QTextCursor cursor(&document);
-        construct.second(cursor);
-        for (X::ExportType type : {X::Xhtml, X::EPub, X::Kindle}) {
-            pages.append(folder.filePath(QString("%1-%2.xhtml").arg(construct.first).arg(type)));
-            QVERIFY(X(&document).toFile(type, pages.constLast(), true));
+    void construct_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < constructs().size(); ++i) {
+            QTest::newRow(qPrintable(constructs().at(i).first)) << i;
         }
     }
-    QCOMPARE(dtdErrors(pages), QString());
-}
-
-void tst_Export::ordinaryDocumentsTakeTheChain_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("xhtml") << int(X::Xhtml);
-    QTest::newRow("epub") << int(X::EPub);
-    QTest::newRow("kindle") << int(X::Kindle);
-    QTest::newRow("kf8") << int(X::KindleKF8);
-}
-
-// The page goes tag by tag through the fix-ups: it must be what the whole text gives.
-void tst_Export::ordinaryDocumentsTakeTheChain()
-{
-    QFETCH(int, type);
-    QTextDocument document;
-    document.setHtml("<html><head><title>A title</title></head><body><h1>One</h1><p "
-                     "align=center>Centred <b>bold</b> and <i>italic</i>"
-                     "<br>broken <a name=n1></a><a href='#n1'>link</a></p><p></p><p "
-                     "style='text-indent:32px'>In&uuml;<sub>2</sub> &amp; &lt;x&gt;</p>"
-                     "<ul><li>a</li><li>b<ol><li>c</li></ol></li></ul><p align=right "
-                     "style='margin-left:40px'><u>x</u></p><p><u><br></u></p>"
-                     "<table border=1 cellpadding=2><tr><td "
-                     "width='30%'>cell</td><td>other</td></tr></table><img src='x.png'>"
-                     "<p style='page-break-before:always'></p><p>end</p></body></html>");
-    const QString html = document.toHtml("utf-8");
-    X::StyleList styles;
-    const QString chain = type == X::Xhtml ? X::htmlToXhtml(html)
-        : type == X::EPub                  ? X::htmlToEpub(html, &styles)
-        : type == X::Kindle                ? X::htmlToKindle(html, &styles)
-                                           : X::htmlToKindleKF8(html, &styles);
-    X exporter(&document);
-    QString page = exporter.toText(X::ExportType(type));
-    if (type == X::Xhtml) { // the chain leaves what XHTML does not have
-        page.replace("<p style=\"text-align:center; ", "<p align=\"center\" style=\" ");
-        page.replace("<p style=\"text-align:right; ", "<p align=\"right\" style=\" ");
-        page.replace("<td style=\"width:30%;\">", "<td width=\"30%\">");
-        page.replace("<a id=", "<a name=");
-    }
-    QCOMPARE(page, chain);
-    QCOMPARE(exporter.styles(), styles);
-}
-
-void tst_Export::htmlIsRaw()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    cursor.insertText(QString("a") + QChar(1));
-    QCOMPARE(X(&document).toText(X::Html), document.toHtml("utf-8"));
-    QCOMPARE(X(nullptr).toText(X::Xhtml), QString());
-}
-
-void tst_Export::proseIsLeftAlone()
-{
-    const QString prose =
-        "p, li { white-space: pre-wrap; } font-size:12pt; text-indent:32px; margin-top:16px;";
-    QTextDocument document;
-    document.setPlainText(prose);
-    for (X::ExportType type : {X::Xhtml, X::EPub, X::KindleKF8}) {
-        QVERIFY(X(&document).toText(type).contains('>' + prose + '<'));
-    }
-    QVERIFY(!X::htmlToEBook(document.toHtml()).contains(prose));
-}
-
-// The chain takes Qt's rule for it away.
-void tst_Export::whiteSpaceIsKept()
-{
-    QTextDocument document;
-    document.setPlainText("    indented\nplain text \n\ttab\nin  side\nb ");
-    QTextCursor cursor(&document);
-    cursor.movePosition(QTextCursor::End);
-    anchor(cursor, QString(), " link", "#a b");
-    anchor(cursor, "a b", "there");
-    const QString page = X(&document).toText(X::Xhtml);
-    QCOMPARE(page.count("<p style=\"white-space:pre-wrap;"), 4);
-    QVERIFY(!page.section("plain text", 0, 0).section("<p", -1).contains("pre-wrap"));
-    QVERIFY(page.contains("<a href=\"#a_b\">"));
-    QCOMPARE(X(&document).toText(X::EPub).count("<p class=\"morvane2\">"), 4);
-}
-
-void tst_Export::eBooksHaveNoStyles()
-{
-    const auto all = constructs();
-    for (const auto &construct : all) {
+    void construct()
+    {
+        QFETCH(int, index);
         QTextDocument document;
         QTextCursor cursor(&document);
-        construct.second(cursor);
+        constructs().at(index).second(cursor);
+        const QString before = document.toHtml();
+        for (X::ExportType type : {X::Xhtml, X::EPub, X::Kindle, X::KindleKF8}) {
+            const QString page = X(&document).toText(type);
+            QString expected = expectedText(document);
+            if (QTest::currentDataTag() == QByteArray("forbidden-characters")) {
+                expected.remove(QChar(0xD800)).remove(QChar(0xDC00));
+            } else if (QTest::currentDataTag() == QByteArray("picture-without-source")) {
+                expected = "lost & found";
+            }
+            QCOMPARE(readText(page), expected);
+        }
+        QCOMPARE(document.toHtml(), before);
+    }
+
+    void pagesAreValid()
+    {
+        QTemporaryDir folder;
+        QStringList pages;
+        for (const auto &construct : constructs()) {
+            QTextDocument document;
+            QTextCursor cursor(&document);
+            construct.second(cursor);
+            for (X::ExportType type : {X::Xhtml, X::EPub, X::Kindle}) {
+                pages.append(
+                    folder.filePath(QString("%1-%2.xhtml").arg(construct.first).arg(type)));
+                QVERIFY(X(&document).toFile(type, pages.constLast(), true));
+            }
+        }
+        QCOMPARE(dtdErrors(pages), QString());
+    }
+
+    void ordinaryDocumentsTakeTheChain_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::newRow("xhtml") << int(X::Xhtml);
+        QTest::newRow("epub") << int(X::EPub);
+        QTest::newRow("kindle") << int(X::Kindle);
+        QTest::newRow("kf8") << int(X::KindleKF8);
+    }
+    // The page goes tag by tag through the fix-ups: it must be what the whole text gives.
+    void ordinaryDocumentsTakeTheChain()
+    {
+        QFETCH(int, type);
+        QTextDocument document;
+        document.setHtml("<html><head><title>A title</title></head><body><h1>One</h1><p "
+                         "align=center>Centred <b>bold</b> and <i>italic</i>"
+                         "<br>broken <a name=n1></a><a href='#n1'>link</a></p><p></p><p "
+                         "style='text-indent:32px'>In&uuml;<sub>2</sub> &amp; &lt;x&gt;</p>"
+                         "<ul><li>a</li><li>b<ol><li>c</li></ol></li></ul><p align=right "
+                         "style='margin-left:40px'><u>x</u></p><p><u><br></u></p>"
+                         "<table border=1 cellpadding=2><tr><td "
+                         "width='30%'>cell</td><td>other</td></tr></table><img src='x.png'>"
+                         "<p style='page-break-before:always'></p><p>end</p></body></html>");
+        const QString html = document.toHtml("utf-8");
+        X::StyleList styles;
+        const QString chain = type == X::Xhtml ? X::htmlToXhtml(html)
+            : type == X::EPub                  ? X::htmlToEpub(html, &styles)
+            : type == X::Kindle                ? X::htmlToKindle(html, &styles)
+                                               : X::htmlToKindleKF8(html, &styles);
         X exporter(&document);
-        const bool styled = exporter.toText(X::EPub).contains(" style=\"")
-            && construct.first != "prose-like-markup";
-        QVERIFY2(!styled, qPrintable(construct.first));
-        QVERIFY2(!exporter.styles().isEmpty(), qPrintable(construct.first));
+        QString page = exporter.toText(X::ExportType(type));
+        if (type == X::Xhtml) { // the chain leaves what XHTML does not have
+            page.replace("<p style=\"text-align:center; ", "<p align=\"center\" style=\" ");
+            page.replace("<p style=\"text-align:right; ", "<p align=\"right\" style=\" ");
+            page.replace("<td style=\"width:30%;\">", "<td width=\"30%\">");
+            page.replace("<a id=", "<a name=");
+        }
+        QCOMPARE(page, chain);
+        QCOMPARE(exporter.styles(), styles);
     }
-}
 
-void tst_Export::anchorsAndLinks()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    anchor(cursor, QString(), "before", "#n 1");
-    anchor(cursor, "n 1", "a");
-    anchor(cursor, "n_1", "b");
-    anchor(cursor, "n_1", "c", "#n%201");
-    anchor(cursor, QString(), "other", "#n_1");
-    const QString page = X(&document).toText(X::Xhtml);
-    QCOMPARE(page.count("<a id=\"n_1\"></a>"), 1);
-    QCOMPARE(page.count("<a id=\"n_1-1\"></a>"), 1);
-    QCOMPARE(page.count("<a href=\"#n_1\">"), 2); // to "n 1", which came first
-    QCOMPARE(page.count("<a href=\"#n_1-1\">"), 1);
-}
+    void htmlIsRaw()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        cursor.insertText(QString("a") + QChar(1));
+        QCOMPARE(X(&document).toText(X::Html), document.toHtml("utf-8"));
+        QCOMPARE(X(nullptr).toText(X::Xhtml), QString());
+    }
 
-void tst_Export::titles()
-{
-    QTextDocument document;
-    document.setHtml("<p>x</p><h1>The <i>first</i>\nheading</h1>");
-    QVERIFY(X(&document).toText(X::Xhtml).contains("<title>The first heading</title>"));
-    X german(&document);
-    german.setLanguage("de");
-    QVERIFY(german.toText(X::EPub).contains("<html xml:lang=\"de\" xmlns="));
-    QVERIFY(X(&document).toText(X::Xhtml, "Given").contains("<title>Given</title>"));
-    document.setMetaInformation(QTextDocument::DocumentTitle, "Own & <b>");
-    QVERIFY(X(&document).toText(X::EPub, "Given").contains("<title>Own &amp; &lt;b&gt;</title>"));
-    QTextDocument plain("text");
-    QTemporaryDir folder;
-    QVERIFY(X(&plain).toXhtml(folder.filePath("my book.xhtml"), false));
-    QVERIFY(bytesOf(folder.filePath("my book.xhtml")).contains("<title>my book</title>"));
-}
+    void proseIsLeftAlone()
+    {
+        const QString prose =
+            "p, li { white-space: pre-wrap; } font-size:12pt; text-indent:32px; margin-top:16px;";
+        QTextDocument document;
+        document.setPlainText(prose);
+        for (X::ExportType type : {X::Xhtml, X::EPub, X::KindleKF8}) {
+            QVERIFY(X(&document).toText(type).contains('>' + prose + '<'));
+        }
+        QVERIFY(!X::htmlToEBook(document.toHtml()).contains(prose));
+    }
 
-void tst_Export::imagesOfPage()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    picture(cursor, "id1");
-    picture(cursor, "id1");
-    picture(cursor, "a&b #2", Qt::transparent);
-    cursor.insertText("text");
-    QTextImageFormat missing;
-    missing.setName("missing.png");
-    cursor.insertImage(missing);
-    QTemporaryDir folder;
-    const QString page = folder.filePath("x & y.html");
-    QVERIFY(X(&document).toHtml(page, true));
-    const QString html = QString::fromUtf8(bytesOf(page));
-    QCOMPARE(html.count(" src=\"x &amp; y_files/id1.png\""), 2);
-    QCOMPARE(html.count(" src=\"x &amp; y_files/a&amp;b %232.png\""), 1);
-    QCOMPARE(html.count(" src=\"missing.png\""), 1);
-    QCOMPARE(QDir(folder.filePath("x & y_files")).entryList(QDir::Files),
-             QStringList({"a&b #2.png", "id1.png"}));
-    QVERIFY(qAlpha(QImage(folder.filePath("x & y_files/a&b #2.png")).pixel(0, 0)) == 0);
+    // The chain takes Qt's rule for it away.
+    void whiteSpaceIsKept()
+    {
+        QTextDocument document;
+        document.setPlainText("    indented\nplain text \n\ttab\nin  side\nb ");
+        QTextCursor cursor(&document);
+        cursor.movePosition(QTextCursor::End);
+        anchor(cursor, QString(), " link", "#a b");
+        anchor(cursor, "a b", "there");
+        const QString page = X(&document).toText(X::Xhtml);
+        QCOMPARE(page.count("<p style=\"white-space:pre-wrap;"), 4);
+        QVERIFY(!page.section("plain text", 0, 0).section("<p", -1).contains("pre-wrap"));
+        QVERIFY(page.contains("<a href=\"#a_b\">"));
+        QCOMPARE(X(&document).toText(X::EPub).count("<p class=\"morvane2\">"), 4);
+    }
 
-    QVERIFY(X(&document).toFile(X::Xhtml, folder.filePath("sub.xhtml"), true,
-                                folder.filePath("deep/pics")));
-    QVERIFY(bytesOf(folder.filePath("sub.xhtml")).contains(" src=\"deep/pics/id1.png\""));
-    QString own = document.toHtml();
-    X(&document).exportDocImages(folder.filePath("deep/pics"), &own, "PNG");
-    QCOMPARE(own.count(" src=\"pics/id1-1.png\""), 2); // the name was taken
-    QTextImageFormat image;
-    image.setName("id1");
-    own = document.toHtml();
-    QCOMPARE(X(&document).exportImage(folder.path(), &own, image, "PNG"),
-             folder.filePath("id1.png"));
-    QCOMPARE(QImage(folder.filePath("id1.png")).size(), QSize(8, 8));
-    const QString changed = own;
-    QCOMPARE(X(&document).exportImage(folder.path(), &own, missing, "PNG"), QString());
-    QCOMPARE(own, changed);
-    QCOMPARE(own.count("/id1.png\""), 2);
-}
+    void eBooksHaveNoStyles()
+    {
+        const auto all = constructs();
+        for (const auto &construct : all) {
+            QTextDocument document;
+            QTextCursor cursor(&document);
+            construct.second(cursor);
+            X exporter(&document);
+            const bool styled = exporter.toText(X::EPub).contains(" style=\"")
+                && construct.first != "prose-like-markup";
+            QVERIFY2(!styled, qPrintable(construct.first));
+            QVERIFY2(!exporter.styles().isEmpty(), qPrintable(construct.first));
+        }
+    }
 
-void tst_Export::imagesOfEBook()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    picture(cursor, "id", Qt::transparent);
-    QTemporaryDir folder;
-    QVERIFY(X(&document).toFile(X::KindleKF8, folder.filePath("k.xhtml"), true));
-    const QImage image(folder.filePath("k_files/id.jpg"));
-    QVERIFY(!image.isNull());
-    QVERIFY(image.pixelColor(4, 4).lightness() > 250); // on white, not black
-}
+    void anchorsAndLinks()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        anchor(cursor, QString(), "before", "#n 1");
+        anchor(cursor, "n 1", "a");
+        anchor(cursor, "n_1", "b");
+        anchor(cursor, "n_1", "c", "#n%201");
+        anchor(cursor, QString(), "other", "#n_1");
+        const QString page = X(&document).toText(X::Xhtml);
+        QCOMPARE(page.count("<a id=\"n_1\"></a>"), 1);
+        QCOMPARE(page.count("<a id=\"n_1-1\"></a>"), 1);
+        QCOMPARE(page.count("<a href=\"#n_1\">"), 2); // to "n 1", which came first
+        QCOMPARE(page.count("<a href=\"#n_1-1\">"), 1);
+    }
 
-void tst_Export::failureLeavesNothing()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    picture(cursor, "id");
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir("page.xhtml")); // a folder in the page's place
-    QString error;
-    QVERIFY(!X(&document).toFile(X::Xhtml, folder.filePath("page.xhtml"), true, QString(), &error));
-    QVERIFY(error.contains("page.xhtml"));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList{"page.xhtml"});
-    QVERIFY(!X(nullptr).toXhtml(folder.filePath("none.xhtml"), true));
-    QVERIFY(!QFile::exists(folder.filePath("none.xhtml")));
-}
+    void titles()
+    {
+        QTextDocument document;
+        document.setHtml("<p>x</p><h1>The <i>first</i>\nheading</h1>");
+        QVERIFY(X(&document).toText(X::Xhtml).contains("<title>The first heading</title>"));
+        X german(&document);
+        german.setLanguage("de");
+        QVERIFY(german.toText(X::EPub).contains("<html xml:lang=\"de\" xmlns="));
+        QVERIFY(X(&document).toText(X::Xhtml, "Given").contains("<title>Given</title>"));
+        document.setMetaInformation(QTextDocument::DocumentTitle, "Own & <b>");
+        QVERIFY(
+            X(&document).toText(X::EPub, "Given").contains("<title>Own &amp; &lt;b&gt;</title>"));
+        QTextDocument plain("text");
+        QTemporaryDir folder;
+        QVERIFY(X(&plain).toXhtml(folder.filePath("my book.xhtml"), false));
+        QVERIFY(bytesOf(folder.filePath("my book.xhtml")).contains("<title>my book</title>"));
+    }
 
-void tst_Export::eBookPage()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    anchor(cursor, "start", "own");
-    anchor(cursor, QString(), "link", "17");
-    anchor(cursor, "two words", "renamed", "#two words");
-    anchor(cursor, QString(), "inner", "#start");
-    picture(cursor, "id");
-    QTemporaryDir folder;
-    X::StyleList styles;
-    QVERIFY(X::toEPubXhtml(folder.filePath("one"),
-                           {{"17", "two.xhtml#start"}, {"#two words", "new.xhtml#tw"}}, &styles,
-                           &document));
-    const QString page = QString::fromUtf8(bytesOf(folder.filePath("one.xhtml")));
-    QVERIFY(page.contains("\n<p><a id=\"start\"></a></p>"));
-    QVERIFY(page.contains("<a href=\"two.xhtml#start\">"));
-    QVERIFY(page.contains("<a id=\"start-1\"></a>"));
-    QVERIFY(page.contains("<a id=\"two_words\"></a><a href=\"new.xhtml#tw\">"));
-    QVERIFY(page.contains("<a href=\"#start-1\">"));
-    QVERIFY(page.contains(" src=\"images/id.png\""));
-    QVERIFY(QFile::exists(folder.filePath("images/id.png")));
-    QVERIFY(!styles.isEmpty());
-    QCOMPARE(dtdErrors({folder.filePath("one.xhtml")}), QString());
-    QVERIFY(X::toKindle(folder.filePath("k.xhtml"), {}, &styles, &document));
-    QVERIFY(QFile::exists(folder.filePath("images/id.jpg")));
-    QString error;
-    QVERIFY(!X::toEBookXhtml(X::Xhtml, folder.filePath("no"), {}, &styles, &document, &error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY(!X::toKindleKF8(folder.filePath("no"), {}, &styles, nullptr));
-}
+    void imagesOfPage()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        picture(cursor, "id1");
+        picture(cursor, "id1");
+        picture(cursor, "a&b #2", Qt::transparent);
+        cursor.insertText("text");
+        QTextImageFormat missing;
+        missing.setName("missing.png");
+        cursor.insertImage(missing);
+        QTemporaryDir folder;
+        const QString page = folder.filePath("x & y.html");
+        QVERIFY(X(&document).toHtml(page, true));
+        const QString html = QString::fromUtf8(bytesOf(page));
+        QCOMPARE(html.count(" src=\"x &amp; y_files/id1.png\""), 2);
+        QCOMPARE(html.count(" src=\"x &amp; y_files/a&amp;b %232.png\""), 1);
+        QCOMPARE(html.count(" src=\"missing.png\""), 1);
+        QCOMPARE(QDir(folder.filePath("x & y_files")).entryList(QDir::Files),
+                 QStringList({"a&b #2.png", "id1.png"}));
+        QVERIFY(qAlpha(QImage(folder.filePath("x & y_files/a&b #2.png")).pixel(0, 0)) == 0);
 
-void tst_Export::styleSheetIsShared()
-{
-    QTextDocument document;
-    document.setHtml("<p>a</p><p align=center>b</p>");
-    X first(&document);
-    const QString page = first.toText(X::EPub);
-    X second(&document);
-    second.setStyles(first.styles());
-    QCOMPARE(second.toText(X::EPub), page);
-    QCOMPARE(second.styles(), first.styles());
-}
+        QVERIFY(X(&document).toFile(X::Xhtml, folder.filePath("sub.xhtml"), true,
+                                    folder.filePath("deep/pics")));
+        QVERIFY(bytesOf(folder.filePath("sub.xhtml")).contains(" src=\"deep/pics/id1.png\""));
+        QString own = document.toHtml();
+        X(&document).exportDocImages(folder.filePath("deep/pics"), &own, "PNG");
+        QCOMPARE(own.count(" src=\"pics/id1-1.png\""), 2); // the name was taken
+        QTextImageFormat image;
+        image.setName("id1");
+        own = document.toHtml();
+        QCOMPARE(X(&document).exportImage(folder.path(), &own, image, "PNG"),
+                 folder.filePath("id1.png"));
+        QCOMPARE(QImage(folder.filePath("id1.png")).size(), QSize(8, 8));
+        const QString changed = own;
+        QCOMPARE(X(&document).exportImage(folder.path(), &own, missing, "PNG"), QString());
+        QCOMPARE(own, changed);
+        QCOMPARE(own.count("/id1.png\""), 2);
+    }
+
+    void imagesOfEBook()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        picture(cursor, "id", Qt::transparent);
+        QTemporaryDir folder;
+        QVERIFY(X(&document).toFile(X::KindleKF8, folder.filePath("k.xhtml"), true));
+        const QImage image(folder.filePath("k_files/id.jpg"));
+        QVERIFY(!image.isNull());
+        QVERIFY(image.pixelColor(4, 4).lightness() > 250); // on white, not black
+    }
+
+    void failureLeavesNothing()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        picture(cursor, "id");
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("page.xhtml")); // a folder in the page's place
+        QString error;
+        QVERIFY(
+            !X(&document).toFile(X::Xhtml, folder.filePath("page.xhtml"), true, QString(), &error));
+        QVERIFY(error.contains("page.xhtml"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList{"page.xhtml"});
+        QVERIFY(!X(nullptr).toXhtml(folder.filePath("none.xhtml"), true));
+        QVERIFY(!QFile::exists(folder.filePath("none.xhtml")));
+    }
+
+    void eBookPage()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        anchor(cursor, "start", "own");
+        anchor(cursor, QString(), "link", "17");
+        anchor(cursor, "two words", "renamed", "#two words");
+        anchor(cursor, QString(), "inner", "#start");
+        picture(cursor, "id");
+        QTemporaryDir folder;
+        X::StyleList styles;
+        QVERIFY(X::toEPubXhtml(folder.filePath("one"),
+                               {{"17", "two.xhtml#start"}, {"#two words", "new.xhtml#tw"}}, &styles,
+                               &document));
+        const QString page = QString::fromUtf8(bytesOf(folder.filePath("one.xhtml")));
+        QVERIFY(page.contains("\n<p><a id=\"start\"></a></p>"));
+        QVERIFY(page.contains("<a href=\"two.xhtml#start\">"));
+        QVERIFY(page.contains("<a id=\"start-1\"></a>"));
+        QVERIFY(page.contains("<a id=\"two_words\"></a><a href=\"new.xhtml#tw\">"));
+        QVERIFY(page.contains("<a href=\"#start-1\">"));
+        QVERIFY(page.contains(" src=\"images/id.png\""));
+        QVERIFY(QFile::exists(folder.filePath("images/id.png")));
+        QVERIFY(!styles.isEmpty());
+        QCOMPARE(dtdErrors({folder.filePath("one.xhtml")}), QString());
+        QVERIFY(X::toKindle(folder.filePath("k.xhtml"), {}, &styles, &document));
+        QVERIFY(QFile::exists(folder.filePath("images/id.jpg")));
+        QString error;
+        QVERIFY(!X::toEBookXhtml(X::Xhtml, folder.filePath("no"), {}, &styles, &document, &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY(!X::toKindleKF8(folder.filePath("no"), {}, &styles, nullptr));
+    }
+
+    void styleSheetIsShared()
+    {
+        QTextDocument document;
+        document.setHtml("<p>a</p><p align=center>b</p>");
+        X first(&document);
+        const QString page = first.toText(X::EPub);
+        X second(&document);
+        second.setStyles(first.styles());
+        QCOMPARE(second.toText(X::EPub), page);
+        QCOMPARE(second.styles(), first.styles());
+    }
+};
 
 QTEST_MAIN(tst_Export)
 #include "tst_export.moc"

@@ -345,21 +345,6 @@ const QString plantedGlobal = QString::number(1);
 
 } // namespace
 
-/// The modules, the layers and the start-up code of the library.
-class TestLayers : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void checkerTellsRightFromWrong_data() { addRows("layers.tsv", {"case", "files", "fault"}); }
-    void checkerTellsRightFromWrong();
-    void checkoutKeepsTheRules();
-    void documentation();
-    void outsidePrograms();
-    void startUpCode_data();
-    void startUpCode();
-};
-
 /// A row's sources: "file: include include; file: include". An include of a project file without
 /// brackets is quoted. What begins with a slash or a quotation mark is a line of its own.
 static QMap<QString, QString> invented(const QString &text)
@@ -383,91 +368,98 @@ static QMap<QString, QString> invented(const QString &text)
     return sources;
 }
 
-void TestLayers::checkerTellsRightFromWrong()
+/// The modules, the layers and the start-up code of the library.
+class TestLayers : public QObject
 {
-    QFETCH(QString, fault);
-    const QStringList faults = LayerCheck(invented(cell("files"))).faults();
-    QVERIFY2(faults.size() == (fault.isEmpty() ? 0 : 1), qPrintable(faults.join('\n')));
-    QVERIFY2(faults.value(0).contains(fault), qPrintable(faults.value(0)));
-}
+    Q_OBJECT
 
-void TestLayers::checkoutKeepsTheRules()
-{
-    const QMap<QString, QString> sources = checkoutSources();
-    QVERIFY(sources.contains("base/util/mrvbase_export.h"));
-    QVERIFY(sources.contains("tests/tst_layers.cpp"));
-    const QStringList faults = LayerCheck(sources).faults();
-    QVERIFY2(faults.isEmpty(), qPrintable('\n' + faults.join('\n')));
-}
+private Q_SLOTS:
+    void checkerTellsRightFromWrong_data() { addRows("layers.tsv", {"case", "files", "fault"}); }
+    void checkerTellsRightFromWrong()
+    {
+        QFETCH(QString, fault);
+        const QStringList faults = LayerCheck(invented(cell("files"))).faults();
+        QVERIFY2(faults.size() == (fault.isEmpty() ? 0 : 1), qPrintable(faults.join('\n')));
+        QVERIFY2(faults.value(0).contains(fault), qPrintable(faults.value(0)));
+    }
 
-/// The folders below base/, the rows above and the table of the documentation are the same.
-void TestLayers::documentation()
-{
-    QMap<QString, int> rows;
-    for (const Module &module : modules) {
-        const QString folder = module.folder;
-        if (folder.startsWith("base/")) {
-            QVERIFY2(!rows.contains(folder.mid(5)), module.folder);
-            rows.insert(folder.mid(5), module.layer);
+    void checkoutKeepsTheRules()
+    {
+        const QMap<QString, QString> sources = checkoutSources();
+        QVERIFY(sources.contains("base/util/mrvbase_export.h"));
+        QVERIFY(sources.contains("tests/tst_layers.cpp"));
+        const QStringList faults = LayerCheck(sources).faults();
+        QVERIFY2(faults.isEmpty(), qPrintable('\n' + faults.join('\n')));
+    }
+
+    /// The folders below base/, the rows above and the table of the documentation are the same.
+    void documentation()
+    {
+        QMap<QString, int> rows;
+        for (const Module &module : modules) {
+            const QString folder = module.folder;
+            if (folder.startsWith("base/")) {
+                QVERIFY2(!rows.contains(folder.mid(5)), module.folder);
+                rows.insert(folder.mid(5), module.layer);
+            }
+        }
+        QFile page(MRV_SOURCE_DIR "/docs/architecture.md");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        static const QRegularExpression line("^\\| (\\d+) \\| (.*) \\|$",
+                                             QRegularExpression::MultilineOption);
+        static const QRegularExpression name("`([a-z]+)/`");
+        QMap<QString, int> documented;
+        for (auto it = line.globalMatch(QString::fromUtf8(page.readAll())); it.hasNext();) {
+            const QRegularExpressionMatch match = it.next();
+            for (auto names = name.globalMatch(match.captured(2)); names.hasNext();) {
+                documented.insert(names.next().captured(1), match.captured(1).toInt());
+            }
+        }
+        QCOMPARE(documented, rows);
+        QStringList folders =
+            QDir(MRV_SOURCE_DIR "/base").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        folders.removeOne("resources"); // no code
+        QCOMPARE(folders, QStringList(rows.keys()));
+    }
+
+    /// What a test starts by name is in the base system, or packages.txt has it installed.
+    void outsidePrograms()
+    {
+        QString packages = '\n' + QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/packages.txt"));
+        packages.truncate(packages.indexOf("\n[ci]"));
+        for (const OutsideProgram &program : ::outsidePrograms) {
+            if (!packages.contains(QString("\n%1 ").arg(program.package))) {
+                const Ran ran = run("dpkg-query", {"-W", "-f", "${Essential}", program.package});
+                QVERIFY2(ran.output == "yes", program.package);
+            }
+        }
+        // A name that is given to a process directly would not be in the table.
+        static const QRegularExpression direct("\\.(start|startDetached|execute)\\(\\s*\"");
+        QDirIterator it(MRV_SOURCE_DIR "/tests", {"*.cpp", "*.h"}, QDir::Files);
+        while (it.hasNext()) {
+            const QString path = it.next();
+            QVERIFY2(!QString::fromUtf8(bytesOf(path)).contains(direct), qPrintable(path));
         }
     }
-    QFile page(MRV_SOURCE_DIR "/docs/architecture.md");
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    static const QRegularExpression line("^\\| (\\d+) \\| (.*) \\|$",
-                                         QRegularExpression::MultilineOption);
-    static const QRegularExpression name("`([a-z]+)/`");
-    QMap<QString, int> documented;
-    for (auto it = line.globalMatch(QString::fromUtf8(page.readAll())); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        for (auto names = name.globalMatch(match.captured(2)); names.hasNext();) {
-            documented.insert(names.next().captured(1), match.captured(1).toInt());
+
+    void startUpCode_data()
+    {
+        QTest::addColumn<QString>("library");
+        for (const char *name : {"MrvCore", "MrvGui", "MrvNetwork", "MrvBase"}) {
+            QTest::newRow(name) << QStringLiteral(MRV_BINARY_DIR "/lib/lib%1.so.1").arg(name);
         }
     }
-    QCOMPARE(documented, rows);
-    QStringList folders =
-        QDir(MRV_SOURCE_DIR "/base").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    folders.removeOne("resources"); // no code
-    QCOMPARE(folders, QStringList(rows.keys()));
-}
-
-/// What a test starts by name is in the base system, or packages.txt has it installed.
-void TestLayers::outsidePrograms()
-{
-    QString packages = '\n' + QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/packages.txt"));
-    packages.truncate(packages.indexOf("\n[ci]"));
-    for (const OutsideProgram &program : ::outsidePrograms) {
-        if (!packages.contains(QString("\n%1 ").arg(program.package))) {
-            const Ran ran = run("dpkg-query", {"-W", "-f", "${Essential}", program.package});
-            QVERIFY2(ran.output == "yes", program.package);
-        }
-    }
-    // A name that is given to a process directly would not be in the table.
-    static const QRegularExpression direct("\\.(start|startDetached|execute)\\(\\s*\"");
-    QDirIterator it(MRV_SOURCE_DIR "/tests", {"*.cpp", "*.h"}, QDir::Files);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        QVERIFY2(!QString::fromUtf8(bytesOf(path)).contains(direct), qPrintable(path));
-    }
-}
-
-void TestLayers::startUpCode_data()
-{
-    QTest::addColumn<QString>("library");
-    for (const char *name : {"MrvCore", "MrvGui", "MrvNetwork", "MrvBase"}) {
-        QTest::newRow(name) << QStringLiteral(MRV_BINARY_DIR "/lib/lib%1.so.1").arg(name);
-    }
-}
-
-/// The one entry that is left is the compiler's own, in every shared library (frame_dummy).
-void TestLayers::startUpCode()
-{
+    /// The one entry that is left is the compiler's own, in every shared library (frame_dummy).
+    void startUpCode()
+    {
 #ifdef MRV_SANITIZE
-    QSKIP("the sanitizers add start-up code of their own to every library");
+        QSKIP("the sanitizers add start-up code of their own to every library");
 #endif
-    QVERIFY(!plantedGlobal.isEmpty());
-    QVERIFY(startUpEntries(QCoreApplication::applicationFilePath()) > 1);
-    QCOMPARE(startUpEntries(cell("library")), 1);
-}
+        QVERIFY(!plantedGlobal.isEmpty());
+        QVERIFY(startUpEntries(QCoreApplication::applicationFilePath()) > 1);
+        QCOMPARE(startUpEntries(cell("library")), 1);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestLayers)
 #include "tst_layers.moc"

@@ -15,254 +15,242 @@ class tst_Manuscript : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QImage picture(12, 12, QImage::Format_RGB32);
+        picture.fill(Qt::darkCyan);
+        QVERIFY(picture.save(in("pic one.bmp")));
+        QVERIFY(writeBytes(in("garbage.png"), "no picture"));
+    }
+
     void reading_data()
     {
         addRows("manuscripts.tsv", {"case", "name", "text", "format", "encoding", "expected"});
     }
-    void reading();
-    void pictures();
+    /// "%div*5000" in a text stands for so many elements; a name of "-" for bytes without a file.
+    /// What is expected is the format with the text, or the number of the error with a part of its
+    /// text.
+    void reading()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QString, format);
+        QFETCH(QString, encoding);
+        QFETCH(QString, expected);
+        if (text.startsWith('%')) {
+            text =
+                ('<' + text.mid(1).section('*', 0, 0) + '>').repeated(text.section('*', 1).toInt());
+        }
+        const QByteArray bytes = encoding == "latin1" ? text.toLatin1() : text.toUtf8();
+        QVERIFY(name == "-" || name.startsWith("none") || name.isEmpty()
+                || writeBytes(in(name), bytes));
+        MRVManuscriptReader reader;
+        reader.setFormat(MRVManuscript::formatNamed(format));
+        reader.setEncoding(encoding);
+        MRVManuscript read;
+        read.path = "before";
+        if (name == "-" ? reader.readBytes(bytes, name, m_folder->path(), &read)
+                        : reader.read(in(name), &read)) {
+            QCOMPARE(MRVManuscript::formatNames().value(read.format - 1) + ": "
+                         + read.document->toPlainText(),
+                     expected);
+            QCOMPARE(read.fileName, name == "-" ? QString() : name);
+            QCOMPARE(read.bytes, bytes);
+            QCOMPARE(reader.errorString(), QString());
+            return;
+        }
+        QCOMPARE(QString::number(reader.error()), expected.section(' ', 0, 0));
+        QVERIFY2(reader.errorString().contains(expected.section(' ', 1)),
+                 qPrintable(reader.errorString()));
+        QVERIFY(reader.errorString().contains(name));
+        QCOMPARE(read.path, QString("before"));
+    }
+
+    void pictures()
+    {
+        const QByteArray page = "<p>a<img src='pic%20one.bmp'>b<img src='pic%20one.bmp'>"
+                                "<img src='http://x.example/1.png'><img src='//x.example/1.png'>";
+        QVERIFY(writeBytes(in("a.html"), page));
+        MRVManuscriptReader reader;
+        MRVManuscript read;
+        QVERIFY(reader.read(in("a.html"), &read));
+        QCOMPARE(read.pictures, QStringList{in("pic one.bmp")});
+        QCOMPARE(read.remotePictures, 2);
+        QTextCursor cursor(read.document.get());
+        cursor.setPosition(2);
+        const QString id = cursor.charFormat().toImageFormat().name();
+        QVERIFY(!read.document->resource(QTextDocument::ImageResource, id).isNull());
+    }
+
     void notes_data() { addRows("manuscript-notes.tsv", {"case", "name", "text", "expected"}); }
-    void notes();
+    void notes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        const MRVManuscript read = manuscript(name, text.toUtf8());
+        QString found;
+        const auto notes = MRVDocumentNotes::findAll(read.document.get());
+        for (const MRVDocumentNote &note : notes) {
+            found += QString("%1 %2-%3 %4 (%5)\n")
+                         .arg(MRVDocumentNotes::kindName(note.kind))
+                         .arg(note.range.start())
+                         .arg(note.range.end())
+                         .arg(note.text, note.target);
+        }
+        const auto comments = MRVDocumentNotes::sourceComments(read);
+        for (const MRVSourceComment &comment : comments) {
+            found += QString("line %1 %2\n").arg(comment.line).arg(comment.text);
+        }
+        QTEST(found, "expected");
+    }
+
     void edits_data()
     {
         addRows("source-edits.tsv", {"case", "name", "text", "what", "by", "mode", "expected"});
     }
-    void edits();
-    void encodings_data();
-    void encodings();
-    void onlyTheWordChanges();
-    void changesOfAnotherText();
-    void replacesFiles();
+    /// Replaces all finds of a regular expression. An expected "!word" is a part of the error.
+    void edits()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QString, mode);
+        QFETCH(QString, expected);
+        const MRVManuscript read = manuscript(name, text.toUtf8());
+        MRVTextQuery query;
+        query.syntax = MRVTextQuery::RegularExpression;
+        QFETCH(QString, what);
+        query.text = what;
+        QFETCH(QString, by);
+        const auto changes = MRVTextReplacer::preview(read.document.get(), query, by);
+        const QString before = read.document->toRawText();
+        QByteArray bytes = "before";
+        QString error;
+        const bool done = MRVSourceEdit::changedBytes(
+            read, changes, mode.isEmpty() ? MRVSourceEdit::KeepMarkup : MRVSourceEdit::WriteAnew,
+            &bytes, &error);
+        QCOMPARE(done, !expected.startsWith('!'));
+        QCOMPARE(read.document->toRawText(), before);
+        if (!done) {
+            QVERIFY2(error.contains(expected.mid(1)), qPrintable(error));
+            QCOMPARE(bytes, QByteArray("before"));
+        } else if (mode.isEmpty()) {
+            QCOMPARE(QString::fromUtf8(bytes), expected);
+        } else {
+            QCOMPARE(manuscript(name, bytes).document->toPlainText(), expected);
+        }
+    }
+
+    void encodings_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("encoding");
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after"); // null: refused
+        const auto row = [](const char *title, const char *name, const char *encoding,
+                            const QByteArray &before, const QByteArray &after) {
+            QTest::newRow(title) << name << encoding << before << after;
+        };
+        row("mark", "a.txt", "", "\xef\xbb\xbfxb\r\n", "\xef\xbb\xbf\xc5\x93\x62\r\n");
+        row("utf-16", "a.txt", "", {"\xff\xfex\0b\0", 6}, {"\xff\xfe\x53\x01\x62\0", 6});
+        row("utf-16-be", "a.txt", "", {"\xfe\xff\0x", 4}, {"\xfe\xff\x01\x53", 4});
+        row("latin1-lacks", "a.txt", "latin1", "x\xe9", {});
+        row("latin1-html", "a.html", "latin1", "<p>x\xe9</p>", "<p>&#339;\xe9</p>");
+        row("windows-1252", "a.txt", "windows-1252", "x\x92", "\x9c\x92");
+    }
+    void encodings()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, encoding);
+        QFETCH(QByteArray, before);
+        const MRVManuscript read = manuscript(name, before, encoding);
+        MRVTextQuery query;
+        query.text = "x";
+        const auto changes = MRVTextReplacer::preview(read.document.get(), query, "œ");
+        QByteArray after;
+        MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &after);
+        QTEST(after, "after");
+    }
+
+    /// There and back again, a manuscript is what it was, byte for byte, and on the way differs in
+    /// the word only.
+    void onlyTheWordChanges()
+    {
+        const QByteArray before = bytesOf(MRV_SOURCE_DIR "/examples/manuscript.html");
+        const auto replaced = [&](const QByteArray &bytes, const QString &what, const QString &by) {
+            const MRVManuscript read = manuscript("a.html", bytes);
+            MRVTextQuery query;
+            query.text = what;
+            query.flags = MRVTextFinder::FindCaseSensitively | MRVTextFinder::FindWholeWords;
+            const auto changes = MRVTextReplacer::preview(read.document.get(), query, by);
+            QByteArray after;
+            MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &after);
+            return after;
+        };
+        const int body = before.indexOf("<body>");
+        QString text = QString::fromUtf8(before.mid(body));
+        text.replace(QRegularExpression("\\bAske\\b"), "Σ");
+        const QByteArray after = replaced(before, "Aske", "Σ");
+        QCOMPARE(after, before.left(body) + text.toUtf8());
+        QCOMPARE(replaced(after, "Σ", "Aske"), before);
+    }
+
+    void changesOfAnotherText()
+    {
+        const MRVManuscript read = manuscript("a.txt", "abc");
+        const MRVTextChange first{MRVTextRange(0, 2), "ab", "x"};
+        const MRVTextChange overlapping{MRVTextRange(1, 3), "bc", "y"};
+        const MRVTextChange other{MRVTextRange(2, 3), "d", "y"};
+        for (const auto &changes : {QVector<MRVTextChange>{first, overlapping}, {first, other}}) {
+            QByteArray bytes;
+            QString error;
+            QVERIFY(!MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &bytes,
+                                                 &error));
+            QVERIFY2(error.contains("overlap"), qPrintable(error));
+        }
+    }
+
+    void replacesFiles()
+    {
+        const QString file = in("a.txt");
+        QVERIFY(writeBytes(file, "1"));
+        const auto secret =
+            QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QVERIFY(QFile::setPermissions(file, secret));
+        QString backup;
+        QVERIFY(MRVSourceFile::replace(file, "1", "2", &backup));
+        QCOMPARE(backup, file + '~');
+        QVERIFY(MRVSourceFile::replace(file, "2", "3", &backup));
+        QCOMPARE(backup, file + "~1");
+        QVERIFY(MRVSourceFile::replace(file, "3", "4"));
+        QString error;
+        QVERIFY(!MRVSourceFile::replace(file, "3", "5", &backup, &error));
+        QVERIFY2(error.startsWith(file + ": "), qPrintable(error));
+        QCOMPARE(bytesOf(file), QByteArray("4"));
+        QCOMPARE(bytesOf(file + '~') + bytesOf(file + "~1"), QByteArray("12"));
+        QVERIFY(!QFile::exists(file + "~2"));
+        QCOMPARE(QFile::permissions(file + "~1"), secret);
+    }
 
 private:
     QString in(const QString &name) const { return m_folder->filePath(name); }
+    /// Reads bytes as those of a file of this name, with pictures left alone.
     MRVManuscript manuscript(const QString &name, const QByteArray &bytes,
-                             const QString &encoding = QString()) const;
+                             const QString &encoding = QString()) const
+    {
+        MRVManuscript read;
+        MRVManuscriptReader reader;
+        reader.setFormat(MRVManuscript::formatOfFile(name));
+        reader.setEncoding(encoding);
+        reader.setLoadsPictures(false);
+        if (!reader.readBytes(bytes, name, m_folder->path(), &read)) {
+            qFatal("%s", qPrintable(reader.errorString()));
+        }
+        return read;
+    }
 
     QScopedPointer<QTemporaryDir> m_folder;
 };
-
-void tst_Manuscript::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    QImage picture(12, 12, QImage::Format_RGB32);
-    picture.fill(Qt::darkCyan);
-    QVERIFY(picture.save(in("pic one.bmp")));
-    QVERIFY(writeBytes(in("garbage.png"), "no picture"));
-}
-
-/// Reads bytes as those of a file of this name, with pictures left alone.
-MRVManuscript tst_Manuscript::manuscript(const QString &name, const QByteArray &bytes,
-                                         const QString &encoding) const
-{
-    MRVManuscript read;
-    MRVManuscriptReader reader;
-    reader.setFormat(MRVManuscript::formatOfFile(name));
-    reader.setEncoding(encoding);
-    reader.setLoadsPictures(false);
-    if (!reader.readBytes(bytes, name, m_folder->path(), &read)) {
-        qFatal("%s", qPrintable(reader.errorString()));
-    }
-    return read;
-}
-
-/// "%div*5000" in a text stands for so many elements; a name of "-" for bytes without a file. What
-/// is expected is the format with the text, or the number of the error with a part of its text.
-void tst_Manuscript::reading()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    QFETCH(QString, format);
-    QFETCH(QString, encoding);
-    QFETCH(QString, expected);
-    if (text.startsWith('%')) {
-        text = ('<' + text.mid(1).section('*', 0, 0) + '>').repeated(text.section('*', 1).toInt());
-    }
-    const QByteArray bytes = encoding == "latin1" ? text.toLatin1() : text.toUtf8();
-    QVERIFY(name == "-" || name.startsWith("none") || name.isEmpty()
-            || writeBytes(in(name), bytes));
-    MRVManuscriptReader reader;
-    reader.setFormat(MRVManuscript::formatNamed(format));
-    reader.setEncoding(encoding);
-    MRVManuscript read;
-    read.path = "before";
-    if (name == "-" ? reader.readBytes(bytes, name, m_folder->path(), &read)
-                    : reader.read(in(name), &read)) {
-        QCOMPARE(MRVManuscript::formatNames().value(read.format - 1) + ": "
-                     + read.document->toPlainText(),
-                 expected);
-        QCOMPARE(read.fileName, name == "-" ? QString() : name);
-        QCOMPARE(read.bytes, bytes);
-        QCOMPARE(reader.errorString(), QString());
-        return;
-    }
-    QCOMPARE(QString::number(reader.error()), expected.section(' ', 0, 0));
-    QVERIFY2(reader.errorString().contains(expected.section(' ', 1)),
-             qPrintable(reader.errorString()));
-    QVERIFY(reader.errorString().contains(name));
-    QCOMPARE(read.path, QString("before"));
-}
-
-void tst_Manuscript::pictures()
-{
-    const QByteArray page = "<p>a<img src='pic%20one.bmp'>b<img src='pic%20one.bmp'>"
-                            "<img src='http://x.example/1.png'><img src='//x.example/1.png'>";
-    QVERIFY(writeBytes(in("a.html"), page));
-    MRVManuscriptReader reader;
-    MRVManuscript read;
-    QVERIFY(reader.read(in("a.html"), &read));
-    QCOMPARE(read.pictures, QStringList{in("pic one.bmp")});
-    QCOMPARE(read.remotePictures, 2);
-    QTextCursor cursor(read.document.get());
-    cursor.setPosition(2);
-    const QString id = cursor.charFormat().toImageFormat().name();
-    QVERIFY(!read.document->resource(QTextDocument::ImageResource, id).isNull());
-}
-
-void tst_Manuscript::notes()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    const MRVManuscript read = manuscript(name, text.toUtf8());
-    QString found;
-    const auto notes = MRVDocumentNotes::findAll(read.document.get());
-    for (const MRVDocumentNote &note : notes) {
-        found += QString("%1 %2-%3 %4 (%5)\n")
-                     .arg(MRVDocumentNotes::kindName(note.kind))
-                     .arg(note.range.start())
-                     .arg(note.range.end())
-                     .arg(note.text, note.target);
-    }
-    const auto comments = MRVDocumentNotes::sourceComments(read);
-    for (const MRVSourceComment &comment : comments) {
-        found += QString("line %1 %2\n").arg(comment.line).arg(comment.text);
-    }
-    QTEST(found, "expected");
-}
-
-/// Replaces all finds of a regular expression. An expected "!word" is a part of the error.
-void tst_Manuscript::edits()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    QFETCH(QString, mode);
-    QFETCH(QString, expected);
-    const MRVManuscript read = manuscript(name, text.toUtf8());
-    MRVTextQuery query;
-    query.syntax = MRVTextQuery::RegularExpression;
-    QFETCH(QString, what);
-    query.text = what;
-    QFETCH(QString, by);
-    const auto changes = MRVTextReplacer::preview(read.document.get(), query, by);
-    const QString before = read.document->toRawText();
-    QByteArray bytes = "before";
-    QString error;
-    const bool done = MRVSourceEdit::changedBytes(
-        read, changes, mode.isEmpty() ? MRVSourceEdit::KeepMarkup : MRVSourceEdit::WriteAnew,
-        &bytes, &error);
-    QCOMPARE(done, !expected.startsWith('!'));
-    QCOMPARE(read.document->toRawText(), before);
-    if (!done) {
-        QVERIFY2(error.contains(expected.mid(1)), qPrintable(error));
-        QCOMPARE(bytes, QByteArray("before"));
-    } else if (mode.isEmpty()) {
-        QCOMPARE(QString::fromUtf8(bytes), expected);
-    } else {
-        QCOMPARE(manuscript(name, bytes).document->toPlainText(), expected);
-    }
-}
-
-void tst_Manuscript::encodings_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("encoding");
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after"); // null: refused
-    const auto row = [](const char *title, const char *name, const char *encoding,
-                        const QByteArray &before, const QByteArray &after) {
-        QTest::newRow(title) << name << encoding << before << after;
-    };
-    row("mark", "a.txt", "", "\xef\xbb\xbfxb\r\n", "\xef\xbb\xbf\xc5\x93\x62\r\n");
-    row("utf-16", "a.txt", "", {"\xff\xfex\0b\0", 6}, {"\xff\xfe\x53\x01\x62\0", 6});
-    row("utf-16-be", "a.txt", "", {"\xfe\xff\0x", 4}, {"\xfe\xff\x01\x53", 4});
-    row("latin1-lacks", "a.txt", "latin1", "x\xe9", {});
-    row("latin1-html", "a.html", "latin1", "<p>x\xe9</p>", "<p>&#339;\xe9</p>");
-    row("windows-1252", "a.txt", "windows-1252", "x\x92", "\x9c\x92");
-}
-
-void tst_Manuscript::encodings()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, encoding);
-    QFETCH(QByteArray, before);
-    const MRVManuscript read = manuscript(name, before, encoding);
-    MRVTextQuery query;
-    query.text = "x";
-    const auto changes = MRVTextReplacer::preview(read.document.get(), query, "œ");
-    QByteArray after;
-    MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &after);
-    QTEST(after, "after");
-}
-
-/// There and back again, a manuscript is what it was, byte for byte, and on the way differs in the
-/// word only.
-void tst_Manuscript::onlyTheWordChanges()
-{
-    const QByteArray before = bytesOf(MRV_SOURCE_DIR "/examples/manuscript.html");
-    const auto replaced = [&](const QByteArray &bytes, const QString &what, const QString &by) {
-        const MRVManuscript read = manuscript("a.html", bytes);
-        MRVTextQuery query;
-        query.text = what;
-        query.flags = MRVTextFinder::FindCaseSensitively | MRVTextFinder::FindWholeWords;
-        const auto changes = MRVTextReplacer::preview(read.document.get(), query, by);
-        QByteArray after;
-        MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &after);
-        return after;
-    };
-    const int body = before.indexOf("<body>");
-    QString text = QString::fromUtf8(before.mid(body));
-    text.replace(QRegularExpression("\\bAske\\b"), "Σ");
-    const QByteArray after = replaced(before, "Aske", "Σ");
-    QCOMPARE(after, before.left(body) + text.toUtf8());
-    QCOMPARE(replaced(after, "Σ", "Aske"), before);
-}
-
-void tst_Manuscript::changesOfAnotherText()
-{
-    const MRVManuscript read = manuscript("a.txt", "abc");
-    const MRVTextChange first{MRVTextRange(0, 2), "ab", "x"};
-    const MRVTextChange overlapping{MRVTextRange(1, 3), "bc", "y"};
-    const MRVTextChange other{MRVTextRange(2, 3), "d", "y"};
-    for (const auto &changes : {QVector<MRVTextChange>{first, overlapping}, {first, other}}) {
-        QByteArray bytes;
-        QString error;
-        QVERIFY(
-            !MRVSourceEdit::changedBytes(read, changes, MRVSourceEdit::KeepMarkup, &bytes, &error));
-        QVERIFY2(error.contains("overlap"), qPrintable(error));
-    }
-}
-
-void tst_Manuscript::replacesFiles()
-{
-    const QString file = in("a.txt");
-    QVERIFY(writeBytes(file, "1"));
-    const auto secret = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    QVERIFY(QFile::setPermissions(file, secret));
-    QString backup;
-    QVERIFY(MRVSourceFile::replace(file, "1", "2", &backup));
-    QCOMPARE(backup, file + '~');
-    QVERIFY(MRVSourceFile::replace(file, "2", "3", &backup));
-    QCOMPARE(backup, file + "~1");
-    QVERIFY(MRVSourceFile::replace(file, "3", "4"));
-    QString error;
-    QVERIFY(!MRVSourceFile::replace(file, "3", "5", &backup, &error));
-    QVERIFY2(error.startsWith(file + ": "), qPrintable(error));
-    QCOMPARE(bytesOf(file), QByteArray("4"));
-    QCOMPARE(bytesOf(file + '~') + bytesOf(file + "~1"), QByteArray("12"));
-    QVERIFY(!QFile::exists(file + "~2"));
-    QCOMPARE(QFile::permissions(file + "~1"), secret);
-}
 
 QTEST_MAIN(tst_Manuscript)
 #include "tst_manuscript.moc"

@@ -188,90 +188,86 @@ class TestNotes : public QObject
 
 private Q_SLOTS:
     void operations_data() { addRows("notes.tsv", {"name", "row", "a", "b", "before", "after"}); }
-    void operations();
-    void typedText();
-    void invisibles();
-    void numbersAndFinds();
-};
+    void operations()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QVERIFY(call(name, nullptr, a, b));
+        QTextDocument document;
+        build(&document, before);
+        const QStringList start = documentDump(document);
+        QVERIFY(before.startsWith('<') || dump(document) == before);
 
-void TestNotes::operations()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, a);
-    QFETCH(QString, b);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QVERIFY(call(name, nullptr, a, b));
-    QTextDocument document;
-    build(&document, before);
-    const QStringList start = documentDump(document);
-    QVERIFY(before.startsWith('<') || dump(document) == before);
-
-    call(name, &document, a, b);
-    const QStringList end = documentDump(document);
-    QCOMPARE(dump(document), after == "same" ? before : after);
-    QCOMPARE(document.isUndoAvailable(), after != "same");
-    document.undo();
-    QCOMPARE(documentDump(document), start);
-    QVERIFY(!document.isUndoAvailable());
-    document.redo();
-    QCOMPARE(documentDump(document), end);
-}
-
-// Without a selection nothing changes, but the next text has no marks.
-void TestNotes::typedText()
-{
-    QTextDocument document;
-    build(&document, "{annotation,comment,href=x,bold=75}a");
-    QTextCursor cursor(&document);
-    cursor.movePosition(QTextCursor::End);
-    MTextDoc::clearCommentPropertiesCursor(&cursor);
-    QVERIFY(!document.isUndoAvailable());
-    cursor.insertText("b");
-    MTextDoc::clearInlinePropertiesCursor(&cursor);
-    cursor.insertText("c");
-    QCOMPARE(dump(document),
-             QString("{annotation,comment,href=x,bold=75}a{annotation,bold=75}b{bold=75}c"));
-}
-
-void TestNotes::invisibles()
-{
-    QTextDocument document;
-    QTextOption option;
-    option.setFlags(QTextOption::ShowTabsAndSpaces | QTextOption::SuppressColors);
-    document.setDefaultTextOption(option);
-    const auto flags = [&](bool show) {
-        MTextDoc::showInvisibles(&document, show);
-        return int(document.defaultTextOption().flags());
-    };
-    QVERIFY(!MTextDoc::invisiblesShown(document));
-    QCOMPARE(flags(false), int(option.flags()));
-    QCOMPARE(flags(true), int(option.flags() | QTextOption::ShowLineAndParagraphSeparators));
-    QVERIFY(MTextDoc::invisiblesShown(document));
-    QCOMPARE(flags(false), int(QTextOption::SuppressColors));
-    MTextDoc::clearDefaultTextOptionFlags(&document);
-    QCOMPARE(flags(false), 0);
-}
-
-void TestNotes::numbersAndFinds()
-{
-    QTextDocument document;
-    build(&document, "a|{bold=75}b{bold=60}c{bold=75}d|(1){}");
-    QCOMPARE(MTextDoc::blockFormatByBlockNumber(&document, 3), QTextBlockFormat());
-    QCOMPARE(textOf(MTextDoc::charFormatByBlockNumber(&document, 1)), QString("bold=75"));
-    for (int none : {-1, 2, 3}) {
-        QVERIFY(MTextDoc::charFormatByBlockNumber(&document, none).isEmpty());
+        call(name, &document, a, b);
+        const QStringList end = documentDump(document);
+        QCOMPARE(dump(document), after == "same" ? before : after);
+        QCOMPARE(document.isUndoAvailable(), after != "same");
+        document.undo();
+        QCOMPARE(documentDump(document), start);
+        QVERIFY(!document.isUndoAvailable());
+        document.redo();
+        QCOMPARE(documentDump(document), end);
     }
-    QCOMPARE(MTextDoc::continuousFragmentCount(formatOf("bold=75"), QTextCursor(&document), true),
-             2);
-    const QTextBlock block = document.findBlockByNumber(1);
-    QTextCursor cursor;
-    QVERIFY(MTextDoc::findInBlock(block, formatOf("bold=75"), 1, cursor, true));
-    QCOMPARE(cursor.selectedText(), QString("d"));
-    QVERIFY(MTextDoc::findInBlock(block, formatOf("bold=75"), 1, cursor, false));
-    QCOMPARE(cursor.selectedText(), QString("c"));
-    QVERIFY(!MTextDoc::findInBlock(block, formatOf("bold=75"), 3, cursor, true));
-}
+
+    // Without a selection nothing changes, but the next text has no marks.
+    void typedText()
+    {
+        QTextDocument document;
+        build(&document, "{annotation,comment,href=x,bold=75}a");
+        QTextCursor cursor(&document);
+        cursor.movePosition(QTextCursor::End);
+        MTextDoc::clearCommentPropertiesCursor(&cursor);
+        QVERIFY(!document.isUndoAvailable());
+        cursor.insertText("b");
+        MTextDoc::clearInlinePropertiesCursor(&cursor);
+        cursor.insertText("c");
+        QCOMPARE(dump(document),
+                 QString("{annotation,comment,href=x,bold=75}a{annotation,bold=75}b{bold=75}c"));
+    }
+
+    void invisibles()
+    {
+        QTextDocument document;
+        QTextOption option;
+        option.setFlags(QTextOption::ShowTabsAndSpaces | QTextOption::SuppressColors);
+        document.setDefaultTextOption(option);
+        const auto flags = [&](bool show) {
+            MTextDoc::showInvisibles(&document, show);
+            return int(document.defaultTextOption().flags());
+        };
+        QVERIFY(!MTextDoc::invisiblesShown(document));
+        QCOMPARE(flags(false), int(option.flags()));
+        QCOMPARE(flags(true), int(option.flags() | QTextOption::ShowLineAndParagraphSeparators));
+        QVERIFY(MTextDoc::invisiblesShown(document));
+        QCOMPARE(flags(false), int(QTextOption::SuppressColors));
+        MTextDoc::clearDefaultTextOptionFlags(&document);
+        QCOMPARE(flags(false), 0);
+    }
+
+    void numbersAndFinds()
+    {
+        QTextDocument document;
+        build(&document, "a|{bold=75}b{bold=60}c{bold=75}d|(1){}");
+        QCOMPARE(MTextDoc::blockFormatByBlockNumber(&document, 3), QTextBlockFormat());
+        QCOMPARE(textOf(MTextDoc::charFormatByBlockNumber(&document, 1)), QString("bold=75"));
+        for (int none : {-1, 2, 3}) {
+            QVERIFY(MTextDoc::charFormatByBlockNumber(&document, none).isEmpty());
+        }
+        QCOMPARE(
+            MTextDoc::continuousFragmentCount(formatOf("bold=75"), QTextCursor(&document), true),
+            2);
+        const QTextBlock block = document.findBlockByNumber(1);
+        QTextCursor cursor;
+        QVERIFY(MTextDoc::findInBlock(block, formatOf("bold=75"), 1, cursor, true));
+        QCOMPARE(cursor.selectedText(), QString("d"));
+        QVERIFY(MTextDoc::findInBlock(block, formatOf("bold=75"), 1, cursor, false));
+        QCOMPARE(cursor.selectedText(), QString("c"));
+        QVERIFY(!MTextDoc::findInBlock(block, formatOf("bold=75"), 3, cursor, true));
+    }
+};
 
 QTEST_MAIN(TestNotes)
 #include "tst_notes.moc"

@@ -38,181 +38,172 @@ private Q_SLOTS:
     {
         addRows("replacer.tsv", {"text", "kind", "pattern", "replacement", "after"});
     }
-    void replaceAll();
-    void positions();
-    void withinAndFormat();
-    void kinds();
-    void formatsStay();
-    void someChanges();
-    void oneByOne();
-    void refusals();
-};
-
-void tst_Replacer::replaceAll()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, replacement);
-    QFETCH(QString, after);
-    for (QString *cell : {&text, &after}) {
-        for (ushort code : {0xa0, 0x301, 0xfffc}) {
-            cell->replace(QString::asprintf("u%04x", code), QChar(code));
+    void replaceAll()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, replacement);
+        QFETCH(QString, after);
+        for (QString *cell : {&text, &after}) {
+            for (ushort code : {0xa0, 0x301, 0xfffc}) {
+                cell->replace(QString::asprintf("u%04x", code), QChar(code));
+            }
         }
+        QTextDocument document(text);
+        document.setUndoRedoEnabled(false);
+        document.setUndoRedoEnabled(true);
+        const QStringList before = documentDump(document);
+        const MRVTextQuery query = queryFor(cell("pattern"), cell("kind"));
+        const int changes = Replacer::preview(&document, query, replacement).size();
+        QCOMPARE(documentDump(document), before);
+        QCOMPARE(Replacer::replaceAll(&document, query, replacement), changes);
+        QCOMPARE(document.toRawText().replace(QChar(0x2029), '\n'), after);
+        QCOMPARE(document.availableUndoSteps() > 0, text != after);
+        document.undo();
+        QCOMPARE(documentDump(document), before);
+        document.redo();
+        QCOMPARE(document.toRawText().replace(QChar(0x2029), '\n'), after);
     }
-    QTextDocument document(text);
-    document.setUndoRedoEnabled(false);
-    document.setUndoRedoEnabled(true);
-    const QStringList before = documentDump(document);
-    const MRVTextQuery query = queryFor(cell("pattern"), cell("kind"));
-    const int changes = Replacer::preview(&document, query, replacement).size();
-    QCOMPARE(documentDump(document), before);
-    QCOMPARE(Replacer::replaceAll(&document, query, replacement), changes);
-    QCOMPARE(document.toRawText().replace(QChar(0x2029), '\n'), after);
-    QCOMPARE(document.availableUndoSteps() > 0, text != after);
-    document.undo();
-    QCOMPARE(documentDump(document), before);
-    document.redo();
-    QCOMPARE(document.toRawText().replace(QChar(0x2029), '\n'), after);
-}
 
-void tst_Replacer::positions()
-{
-    QTextDocument document(QString::fromUtf8("e\u0301 “a” cafe\u0301 A\n“a”"));
-    const QVector<MRVTextRange> finds{{3, 6}, {15, 18}};
-    QCOMPARE(Replacer::findAll(&document, queryFor("\"a\"", "pt")), finds);
-    QCOMPARE(Replacer::count(&document, queryFor("\"a\"", "p")), 0);
-    QCOMPARE(Replacer::findAll(&document, queryFor(QString::fromUtf8("\u00e9"), "pt")),
-             (QVector<MRVTextRange>{{0, 2}, {10, 12}}));
-    QCOMPARE(Replacer::findAll(&document, queryFor("caf\\w", "rtw")),
-             (QVector<MRVTextRange>{{7, 12}}));
-}
-
-void tst_Replacer::withinAndFormat()
-{
-    QTextDocument document("cat cat\ncat cat");
-    QTextCharFormat bold;
-    bold.setFontWeight(QFont::Bold);
-    selected(&document, 2, 12).mergeCharFormat(bold);
-    QTextCharFormat italic;
-    italic.setFontItalic(true);
-    selected(&document, 5, 6).mergeCharFormat(italic);
-    MRVTextQuery query = queryFor("cat", "p");
-    query.range = {1, 14};
-    const QVector<MRVTextRange> inner{{4, 7}, {8, 11}};
-    QCOMPARE(Replacer::findAll(&document, query), inner);
-    query.range = MRVTextQuery().range;
-    query.format = bold;
-    QCOMPARE(Replacer::findAll(&document, query), inner);
-    query.format.setFontWeight(QFont::Light);
-    QCOMPARE(Replacer::count(&document, query), 0);
-    query.compareFormatValues = false;
-    QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 2);
-    QCOMPARE(document.toPlainText(), QString("cat dog\ndog cat"));
-}
-
-void tst_Replacer::kinds()
-{
-    QTextDocument document("cat cat\ncat cat");
-    QTextCharFormat red;
-    red.setForeground(Qt::red);
-    selected(&document, 2, 12).mergeCharFormat(red);
-    QTextCharFormat link;
-    link.setAnchorHref("http://a.example/");
-    selected(&document, 4, 9).mergeCharFormat(link);
-    MRVTextQuery query = queryFor("cat", "p");
-    query.kinds = {{MRVTextFinder::FindTextColor, QVariant()}};
-    const QVector<MRVTextRange> colored{{4, 7}, {8, 11}};
-    QCOMPARE(Replacer::findAll(&document, query), colored);
-    query.kinds.append(
-        {MRVTextFinder::FindLink, MRVTextFinder::ExternalLinks | MRVTextFinder::InternalLinks});
-    QCOMPARE(Replacer::findAll(&document, query), QVector<MRVTextRange>{MRVTextRange(4, 7)});
-    QTextCursor end(&document);
-    end.movePosition(QTextCursor::End);
-    query.flags = MRVTextFinder::FindBackward;
-    QCOMPARE(Replacer::find(end, query).selectionStart(), 4);
-    query.text.clear();
-    const QVector<MRVTextRange> linked = Replacer::findAll(&document, query);
-    QCOMPARE(linked.first().start(), 4);
-    QCOMPARE(linked.last().end(), 9);
-    query.range = {5, 9};
-    QVERIFY(!Replacer::findAll(&document, query).contains(linked.first()));
-    QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 0);
-}
-
-void tst_Replacer::formatsStay()
-{
-    QTextDocument document("one two");
-    QTextCharFormat bold;
-    bold.setFontWeight(QFont::Bold);
-    selected(&document, 1, 2).mergeCharFormat(bold);
-    QCOMPARE(Replacer::replaceAll(&document, queryFor("one", "p"), "ONE"), 1);
-    QCOMPARE(selected(&document, 0, 2).charFormat().fontWeight(), int(QFont::Bold));
-    QVERIFY(selected(&document, 0, 3).charFormat().fontWeight() != QFont::Bold);
-}
-
-void tst_Replacer::someChanges()
-{
-    QTextDocument document("aa bb aa");
-    QVector<MRVTextChange> changes = Replacer::preview(&document, queryFor("(a)a", "r"), "$1");
-    QCOMPARE(changes.size(), 2);
-    QCOMPARE(changes.at(1).range, MRVTextRange(6, 8));
-    QCOMPARE(changes.at(1).before + changes.at(1).after, QString("aaa"));
-    changes << MRVTextChange{{3, 5}, "xx", "y"} << MRVTextChange{{1, 4}, "a b", "y"}
-            << MRVTextChange{{6, 99}, "aa", "y"};
-    QCOMPARE(Replacer::apply(&document, changes),
-             2); // the change from 1 comes before the one from 0
-    QCOMPARE(document.toPlainText(), QString("ayb a"));
-    document.undo();
-    QCOMPARE(document.toPlainText(), QString("aa bb aa"));
-}
-
-void tst_Replacer::oneByOne()
-{
-    QTextDocument document("aXa\naa");
-    MRVTextQuery query = queryFor("a", "p");
-    QTextCursor c(&document);
-    QVERIFY(!Replacer::replace(c, query, "bb"));
-    QStringList places;
-    while (!(c = Replacer::find(c, query)).isNull() && places.size() < 9) {
-        places << QString::number(c.anchor());
-        QVERIFY(Replacer::replace(c, query, "ba"));
+    void positions()
+    {
+        QTextDocument document(QString::fromUtf8("e\u0301 “a” cafe\u0301 A\n“a”"));
+        const QVector<MRVTextRange> finds{{3, 6}, {15, 18}};
+        QCOMPARE(Replacer::findAll(&document, queryFor("\"a\"", "pt")), finds);
+        QCOMPARE(Replacer::count(&document, queryFor("\"a\"", "p")), 0);
+        QCOMPARE(Replacer::findAll(&document, queryFor(QString::fromUtf8("\u00e9"), "pt")),
+                 (QVector<MRVTextRange>{{0, 2}, {10, 12}}));
+        QCOMPARE(Replacer::findAll(&document, queryFor("caf\\w", "rtw")),
+                 (QVector<MRVTextRange>{{7, 12}}));
     }
-    QCOMPARE(places.join(' '), QString("0 3 6 8"));
-    QCOMPARE(document.toPlainText(), QString("baXba\nbaba"));
-    query.flags |= Finder::FindBackward;
-    places.clear();
-    for (c = selected(&document, 9, 9);
-         !(c = Replacer::find(c, query)).isNull() && places.size() < 9;) {
-        places << QString::number(c.anchor());
-    }
-    QCOMPARE(places.join(' '), QString("7 4 1")); // the one at 9 is behind the cursor
-    c = selected(&document, 4, 5);
-    QVERIFY(Replacer::replace(c, query, "aa"));
-    QVERIFY(c.position() == 4);
-    QVERIFY(!c.hasSelection());
-    document.undo();
-    places.clear();
-    for (c = QTextCursor(&document);
-         !(c = Replacer::find(c, queryFor("x*$", "r"))).isNull() && places.size() < 9;) {
-        places << QString::number(c.anchor());
-    }
-    QCOMPARE(places.join(' '), QString("5 10"));
-}
 
-void tst_Replacer::refusals()
-{
-    QString error;
-    QVERIFY(!queryFor("a(", "r").isValid(&error));
-    QVERIFY(error.contains("3"));
-    QVERIFY(queryFor("a(", "p").isValid());
-    QTextDocument document("a");
-    QCOMPARE(Replacer::count(&document, queryFor("", "p"))
-                 + Replacer::count(&document, queryFor("", "rt")),
-             0);
-    QCOMPARE(Replacer::replaceAll(nullptr, queryFor("a", "p"), "b"), 0);
-    QTextCursor none;
-    QVERIFY(!Replacer::replace(none, queryFor("a", "p"), "b"));
-    QVERIFY(Replacer::find(none, queryFor("a", "p")).isNull());
-}
+    void withinAndFormat()
+    {
+        QTextDocument document("cat cat\ncat cat");
+        QTextCharFormat bold;
+        bold.setFontWeight(QFont::Bold);
+        selected(&document, 2, 12).mergeCharFormat(bold);
+        QTextCharFormat italic;
+        italic.setFontItalic(true);
+        selected(&document, 5, 6).mergeCharFormat(italic);
+        MRVTextQuery query = queryFor("cat", "p");
+        query.range = {1, 14};
+        const QVector<MRVTextRange> inner{{4, 7}, {8, 11}};
+        QCOMPARE(Replacer::findAll(&document, query), inner);
+        query.range = MRVTextQuery().range;
+        query.format = bold;
+        QCOMPARE(Replacer::findAll(&document, query), inner);
+        query.format.setFontWeight(QFont::Light);
+        QCOMPARE(Replacer::count(&document, query), 0);
+        query.compareFormatValues = false;
+        QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 2);
+        QCOMPARE(document.toPlainText(), QString("cat dog\ndog cat"));
+    }
+
+    void kinds()
+    {
+        QTextDocument document("cat cat\ncat cat");
+        QTextCharFormat red;
+        red.setForeground(Qt::red);
+        selected(&document, 2, 12).mergeCharFormat(red);
+        QTextCharFormat link;
+        link.setAnchorHref("http://a.example/");
+        selected(&document, 4, 9).mergeCharFormat(link);
+        MRVTextQuery query = queryFor("cat", "p");
+        query.kinds = {{MRVTextFinder::FindTextColor, QVariant()}};
+        const QVector<MRVTextRange> colored{{4, 7}, {8, 11}};
+        QCOMPARE(Replacer::findAll(&document, query), colored);
+        query.kinds.append(
+            {MRVTextFinder::FindLink, MRVTextFinder::ExternalLinks | MRVTextFinder::InternalLinks});
+        QCOMPARE(Replacer::findAll(&document, query), QVector<MRVTextRange>{MRVTextRange(4, 7)});
+        QTextCursor end(&document);
+        end.movePosition(QTextCursor::End);
+        query.flags = MRVTextFinder::FindBackward;
+        QCOMPARE(Replacer::find(end, query).selectionStart(), 4);
+        query.text.clear();
+        const QVector<MRVTextRange> linked = Replacer::findAll(&document, query);
+        QCOMPARE(linked.first().start(), 4);
+        QCOMPARE(linked.last().end(), 9);
+        query.range = {5, 9};
+        QVERIFY(!Replacer::findAll(&document, query).contains(linked.first()));
+        QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 0);
+    }
+
+    void formatsStay()
+    {
+        QTextDocument document("one two");
+        QTextCharFormat bold;
+        bold.setFontWeight(QFont::Bold);
+        selected(&document, 1, 2).mergeCharFormat(bold);
+        QCOMPARE(Replacer::replaceAll(&document, queryFor("one", "p"), "ONE"), 1);
+        QCOMPARE(selected(&document, 0, 2).charFormat().fontWeight(), int(QFont::Bold));
+        QVERIFY(selected(&document, 0, 3).charFormat().fontWeight() != QFont::Bold);
+    }
+
+    void someChanges()
+    {
+        QTextDocument document("aa bb aa");
+        QVector<MRVTextChange> changes = Replacer::preview(&document, queryFor("(a)a", "r"), "$1");
+        QCOMPARE(changes.size(), 2);
+        QCOMPARE(changes.at(1).range, MRVTextRange(6, 8));
+        QCOMPARE(changes.at(1).before + changes.at(1).after, QString("aaa"));
+        changes << MRVTextChange{{3, 5}, "xx", "y"} << MRVTextChange{{1, 4}, "a b", "y"}
+                << MRVTextChange{{6, 99}, "aa", "y"};
+        QCOMPARE(Replacer::apply(&document, changes),
+                 2); // the change from 1 comes before the one from 0
+        QCOMPARE(document.toPlainText(), QString("ayb a"));
+        document.undo();
+        QCOMPARE(document.toPlainText(), QString("aa bb aa"));
+    }
+
+    void oneByOne()
+    {
+        QTextDocument document("aXa\naa");
+        MRVTextQuery query = queryFor("a", "p");
+        QTextCursor c(&document);
+        QVERIFY(!Replacer::replace(c, query, "bb"));
+        QStringList places;
+        while (!(c = Replacer::find(c, query)).isNull() && places.size() < 9) {
+            places << QString::number(c.anchor());
+            QVERIFY(Replacer::replace(c, query, "ba"));
+        }
+        QCOMPARE(places.join(' '), QString("0 3 6 8"));
+        QCOMPARE(document.toPlainText(), QString("baXba\nbaba"));
+        query.flags |= Finder::FindBackward;
+        places.clear();
+        for (c = selected(&document, 9, 9);
+             !(c = Replacer::find(c, query)).isNull() && places.size() < 9;) {
+            places << QString::number(c.anchor());
+        }
+        QCOMPARE(places.join(' '), QString("7 4 1")); // the one at 9 is behind the cursor
+        c = selected(&document, 4, 5);
+        QVERIFY(Replacer::replace(c, query, "aa"));
+        QVERIFY(c.position() == 4);
+        QVERIFY(!c.hasSelection());
+        document.undo();
+        places.clear();
+        for (c = QTextCursor(&document);
+             !(c = Replacer::find(c, queryFor("x*$", "r"))).isNull() && places.size() < 9;) {
+            places << QString::number(c.anchor());
+        }
+        QCOMPARE(places.join(' '), QString("5 10"));
+    }
+
+    void refusals()
+    {
+        QString error;
+        QVERIFY(!queryFor("a(", "r").isValid(&error));
+        QVERIFY(error.contains("3"));
+        QVERIFY(queryFor("a(", "p").isValid());
+        QTextDocument document("a");
+        QCOMPARE(Replacer::count(&document, queryFor("", "p"))
+                     + Replacer::count(&document, queryFor("", "rt")),
+                 0);
+        QCOMPARE(Replacer::replaceAll(nullptr, queryFor("a", "p"), "b"), 0);
+        QTextCursor none;
+        QVERIFY(!Replacer::replace(none, queryFor("a", "p"), "b"));
+        QVERIFY(Replacer::find(none, queryFor("a", "p")).isNull());
+    }
+};
 
 QTEST_MAIN(tst_Replacer)
 #include "tst_replacer.moc"

@@ -101,22 +101,202 @@ private Q_SLOTS:
         qunsetenv("MORVANE_TRANSLATIONS");
         QVERIFY(MTranslator::install("en"));
     }
-    void shipped();
+    void shipped()
+    {
+        QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "es", "fr"}));
+    }
+
     void sourcesAndTranslationsAgree_data() { addLanguages({"de", "en", "es", "fr"}); }
-    void sourcesAndTranslationsAgree();
+    /// A text that was added, changed or removed shows as a difference; so does one that lupdate
+    /// loses, of which it only warns.
+    void sourcesAndTranslationsAgree()
+    {
+        QFETCH(QString, language);
+        QTemporaryDir folder;
+        const QString name = "mrvbase_" + language + ".ts";
+        QVERIFY(QFile::copy(Folder + name, folder.filePath(name)));
+        QVERIFY(QDir::setCurrent(MRV_SOURCE_DIR));
+        QStringList arguments = QString(MRV_LUPDATE_OPTIONS).split(' ');
+        if (language == "en") {
+            arguments << "-pluralonly";
+        }
+        arguments << "-target-language" << language << "base"
+                  << "platform"
+                  << "plugins"
+                  << "-ts" << folder.filePath(name);
+        const Ran lupdate = run(MRV_LUPDATE, arguments);
+        QCOMPARE(lupdate.exitCode, 0);
+        QCOMPARE(lupdate.errors, QString());
+        const bool isSame = bytesOf(folder.filePath(name)) == bytesOf(Folder + name);
+        QVERIFY2(isSame, "run the target update-translations, then translate what is unfinished");
+    }
+
     void complete_data() { addLanguages({"de", "es", "fr"}); }
-    void complete();
+    void complete()
+    {
+        QFETCH(QString, language);
+        const QRegularExpression foreign(language == "fr" ? " [:;!?»]|« |\"|'|^[:;!?]" : "\"|'");
+        QMap<QString, QString> sources;
+        const QVector<Message> messages = messagesOf(language);
+        QVERIFY(messages.size() > 600);
+        for (const Message &message : messages) {
+            const QByteArray where = (message.context + ": " + message.source).toUtf8();
+            QVERIFY2(message.isFinished, where);
+            QCOMPARE(message.translations.size(), message.source.contains("%n") ? 2 : 1);
+            for (const QString &text : message.translations) {
+                QCOMPARE(frameOf(text), frameOf(message.source));
+                QVERIFY2(!text.trimmed().isEmpty(), where);
+                QVERIFY2(!text.contains(foreign), where);
+            }
+            // Two commands, colours or formats must not look the same.
+            QString &twin = sources[message.context + '\n' + message.translations.constFirst()];
+            QVERIFY2(twin.isEmpty(), where);
+            twin = message.source;
+        }
+    }
+
     void eachTextComesOut_data() { addLanguages({"de", "es", "fr"}); }
-    void eachTextComesOut();
+    void eachTextComesOut()
+    {
+        QFETCH(QString, language);
+        QVERIFY(MTranslator::install(language));
+        for (const Message &message : messagesOf(language)) {
+            QString expected = message.translations.constLast();
+            const int count = expected.contains("%n") ? 5 : -1;
+            QCOMPARE(QCoreApplication::translate(message.context.toUtf8(), message.source.toUtf8(),
+                                                 nullptr, count),
+                     expected.replace("%n", "5"));
+        }
+    }
+
     void keysWork_data() { addLanguages({"de", "es", "fr"}); }
-    void keysWork();
-    void texts_data();
-    void texts();
+    /// A language may have keys of its own. They are read by their English names, since Qt's own
+    /// translation need not be there, and must not get in each other's way.
+    void keysWork()
+    {
+        MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
+        QVERIFY(MTranslator::install(cell("language")));
+        for (const MRVShortcutInfo &info : scheme.shortcuts()) {
+            const QString english = info.sequence.toString().remove(' ');
+            const QString own = english.isEmpty() ? english : MRVShortcut::tr(qPrintable(english));
+            const QKeySequence keys(own, QKeySequence::PortableText);
+            QCOMPARE(keys.toString().remove(' '), own);
+            QVERIFY(scheme.setShortcut(info.id, keys));
+        }
+        QVERIFY(MRVShortcutCheck::conflicts(scheme).isEmpty());
+    }
+
+    /// Texts as the user gets them, of tables and of contexts that are named in the code.
+    void texts_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<std::function<QString()>>("made");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const QString &expected,
+                            std::function<QString()> made) {
+            QTest::newRow(name) << "de" << made << expected;
+        };
+        row("OPML", "Nur Titel",
+            [] { return MRV::opmlImportTypesDescr().value(MRV::OpmlTitlesOnly); });
+        row("web pages", "Reiner Text", [] {
+            return MRVImportExport::urlImportTypesDescr().value(MRVImportExport::ImportAsPlainText);
+        });
+        row("unit", " Zoll", [] { return MRVUnit::suffix(MRVUnit::Inch); });
+        row("engine", "das ist die Vorgabe, da nichts gespeichert ist", [] {
+            MRVEngineChoice choice;
+            choice.reason = MRVEngineChoice::Default;
+            return choice.reasonText();
+        });
+        row("command", "Datei", [] { return MRVShortcut::group(MRVShortcut::NewProject); });
+        row("expression", "(bei Zeichen 2)", [] {
+            QString error;
+            MRVTextQuery query;
+            query.text = "(";
+            query.syntax = MRVTextQuery::RegularExpression;
+            query.isValid(&error);
+            return error.mid(error.lastIndexOf('('));
+        });
+        row("XML", "Zeile 1: ", [] {
+            QString error;
+            MRVFinalDraft::fromXml("<", nullptr, &error);
+            return error.left(9);
+        });
+        row("form", "Nach Updates suchen",
+            [] { return MRVCheckForUpdatesDialog(QString()).windowTitle(); });
+        const QString address = "http://b/" + QString("c/").repeated(80);
+        row("password", "HTTP-Anmeldung erforderlich, a bei " + address, [address] {
+            QString shown;
+            QTimer::singleShot(0, qApp, [&shown] {
+                QWidget *const dialog = QApplication::activeModalWidget();
+                shown = dialog->windowTitle();
+                for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+                    if (label->objectName() == "siteDescription") {
+                        shown += ", " + label->text();
+                    }
+                    if (label->height() < label->heightForWidth(label->width())) {
+                        shown += ", cut off: " + label->text();
+                    }
+                }
+                dialog->close();
+            });
+            MRVDownloadUserInput().authenticate("a", QUrl(address), nullptr, nullptr);
+            return shown;
+        });
+    }
+    void texts()
+    {
+        QFETCH(std::function<QString()>, made);
+        QFETCH(QString, expected);
+        QVERIFY(made() != expected);
+        QVERIFY(MTranslator::install(cell("language")));
+        QCOMPARE(made(), expected);
+    }
+
     void plurals_data() { addRows("plurals.tsv", {"language", "count", "text"}); }
-    void plurals();
+    void plurals()
+    {
+        QVERIFY(MTranslator::install(cell("language")));
+        const char *source = "it is damaged or truncated; shortcuts that could be read: %n";
+        QCOMPARE(
+            MRVShortcutScheme::tr(source, nullptr, cell("count").toInt()).section(';', 1).trimmed(),
+            cell("text"));
+    }
+
     void install_data() { addRows("installedlanguages.tsv", {"code", "before", "shown", "error"}); }
-    void install();
-    void ownFolder();
+    void install()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, error);
+        QTranslator foreign(qApp);
+        QVERIFY(MTranslator::install(before));
+        const int count = qApp->findChildren<QTranslator *>().size();
+        QString got = "untouched";
+        QCOMPARE(MTranslator::install(cell("code"), &got), error.isEmpty());
+        QCOMPARE(got, error.isEmpty() ? "untouched" : error);
+        QCOMPARE(MRVShortcut::tr("File"), cell("shown"));
+        QVERIFY(MTranslator::install(before));
+        QCOMPARE(qApp->findChildren<QTranslator *>().size(), count);
+    }
+
+    /// A translation can be tried out in a folder; a damaged one changes nothing.
+    void ownFolder()
+    {
+        QTemporaryDir folder;
+        qputenv("MORVANE_TRANSLATIONS", folder.path().toUtf8());
+        QVERIFY(
+            QFile::copy(":/Other/Translations/mrvbase_es.qm", folder.filePath("mrvbase_de.qm")));
+        QVERIFY(
+            QFile::copy(":/Other/Translations/mrvbase_fr.qm", folder.filePath("mrvbase_de_CH.qm")));
+        QVERIFY(MTranslator::install("de"));
+        QCOMPARE(MRVShortcut::tr("File"), QString("Archivo"));
+        QVERIFY(MTranslator::install("de-CH"));
+        QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
+        QVERIFY(MRVFileWriter::write(folder.filePath("mrvbase_it.qm"), "damaged"));
+        QString error;
+        QVERIFY(!MTranslator::install("it", &error));
+        QVERIFY2(error.contains("mrvbase_it.qm"), qPrintable(error));
+        QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
+    }
 
 private:
     static void addLanguages(const QStringList &languages)
@@ -127,194 +307,6 @@ private:
         }
     }
 };
-
-void tst_Translations::shipped()
-{
-    QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "es", "fr"}));
-}
-
-/// A text that was added, changed or removed shows as a difference; so does one that lupdate loses,
-/// of which it only warns.
-void tst_Translations::sourcesAndTranslationsAgree()
-{
-    QFETCH(QString, language);
-    QTemporaryDir folder;
-    const QString name = "mrvbase_" + language + ".ts";
-    QVERIFY(QFile::copy(Folder + name, folder.filePath(name)));
-    QVERIFY(QDir::setCurrent(MRV_SOURCE_DIR));
-    QStringList arguments = QString(MRV_LUPDATE_OPTIONS).split(' ');
-    if (language == "en") {
-        arguments << "-pluralonly";
-    }
-    arguments << "-target-language" << language << "base"
-              << "platform"
-              << "plugins"
-              << "-ts" << folder.filePath(name);
-    const Ran lupdate = run(MRV_LUPDATE, arguments);
-    QCOMPARE(lupdate.exitCode, 0);
-    QCOMPARE(lupdate.errors, QString());
-    const bool isSame = bytesOf(folder.filePath(name)) == bytesOf(Folder + name);
-    QVERIFY2(isSame, "run the target update-translations, then translate what is unfinished");
-}
-
-void tst_Translations::complete()
-{
-    QFETCH(QString, language);
-    const QRegularExpression foreign(language == "fr" ? R"( [:;!?»]|« |"|'|^[:;!?])" : R"("|')");
-    QMap<QString, QString> sources;
-    const QVector<Message> messages = messagesOf(language);
-    QVERIFY(messages.size() > 600);
-    for (const Message &message : messages) {
-        const QByteArray where = (message.context + ": " + message.source).toUtf8();
-        QVERIFY2(message.isFinished, where);
-        QCOMPARE(message.translations.size(), message.source.contains("%n") ? 2 : 1);
-        for (const QString &text : message.translations) {
-            QCOMPARE(frameOf(text), frameOf(message.source));
-            QVERIFY2(!text.trimmed().isEmpty(), where);
-            QVERIFY2(!text.contains(foreign), where);
-        }
-        // Two commands, colours or formats must not look the same.
-        QString &twin = sources[message.context + '\n' + message.translations.constFirst()];
-        QVERIFY2(twin.isEmpty(), where);
-        twin = message.source;
-    }
-}
-
-void tst_Translations::eachTextComesOut()
-{
-    QFETCH(QString, language);
-    QVERIFY(MTranslator::install(language));
-    for (const Message &message : messagesOf(language)) {
-        QString expected = message.translations.constLast();
-        const int count = expected.contains("%n") ? 5 : -1;
-        QCOMPARE(QCoreApplication::translate(message.context.toUtf8(), message.source.toUtf8(),
-                                             nullptr, count),
-                 expected.replace("%n", "5"));
-    }
-}
-
-/// A language may have keys of its own. They are read by their English names, since Qt's own
-/// translation need not be there, and must not get in each other's way.
-void tst_Translations::keysWork()
-{
-    MRVShortcutScheme scheme = MRVShortcutScheme::morvane();
-    QVERIFY(MTranslator::install(cell("language")));
-    for (const MRVShortcutInfo &info : scheme.shortcuts()) {
-        const QString english = info.sequence.toString().remove(' ');
-        const QString own = english.isEmpty() ? english : MRVShortcut::tr(qPrintable(english));
-        const QKeySequence keys(own, QKeySequence::PortableText);
-        QCOMPARE(keys.toString().remove(' '), own);
-        QVERIFY(scheme.setShortcut(info.id, keys));
-    }
-    QVERIFY(MRVShortcutCheck::conflicts(scheme).isEmpty());
-}
-
-/// Texts as the user gets them, of tables and of contexts that are named in the code.
-void tst_Translations::texts_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<std::function<QString()>>("made");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const QString &expected, std::function<QString()> made) {
-        QTest::newRow(name) << "de" << made << expected;
-    };
-    row("OPML", "Nur Titel", [] { return MRV::opmlImportTypesDescr().value(MRV::OpmlTitlesOnly); });
-    row("web pages", "Reiner Text", [] {
-        return MRVImportExport::urlImportTypesDescr().value(MRVImportExport::ImportAsPlainText);
-    });
-    row("unit", " Zoll", [] { return MRVUnit::suffix(MRVUnit::Inch); });
-    row("engine", "das ist die Vorgabe, da nichts gespeichert ist", [] {
-        MRVEngineChoice choice;
-        choice.reason = MRVEngineChoice::Default;
-        return choice.reasonText();
-    });
-    row("command", "Datei", [] { return MRVShortcut::group(MRVShortcut::NewProject); });
-    row("expression", "(bei Zeichen 2)", [] {
-        QString error;
-        MRVTextQuery query;
-        query.text = "(";
-        query.syntax = MRVTextQuery::RegularExpression;
-        query.isValid(&error);
-        return error.mid(error.lastIndexOf('('));
-    });
-    row("XML", "Zeile 1: ", [] {
-        QString error;
-        MRVFinalDraft::fromXml("<", nullptr, &error);
-        return error.left(9);
-    });
-    row("form", "Nach Updates suchen",
-        [] { return MRVCheckForUpdatesDialog(QString()).windowTitle(); });
-    const QString address = "http://b/" + QString("c/").repeated(80);
-    row("password", "HTTP-Anmeldung erforderlich, a bei " + address, [address] {
-        QString shown;
-        QTimer::singleShot(0, qApp, [&shown] {
-            QWidget *const dialog = QApplication::activeModalWidget();
-            shown = dialog->windowTitle();
-            for (const QLabel *label : dialog->findChildren<QLabel *>()) {
-                if (label->objectName() == "siteDescription") {
-                    shown += ", " + label->text();
-                }
-                if (label->height() < label->heightForWidth(label->width())) {
-                    shown += ", cut off: " + label->text();
-                }
-            }
-            dialog->close();
-        });
-        MRVDownloadUserInput().authenticate("a", QUrl(address), nullptr, nullptr);
-        return shown;
-    });
-}
-
-void tst_Translations::texts()
-{
-    QFETCH(std::function<QString()>, made);
-    QFETCH(QString, expected);
-    QVERIFY(made() != expected);
-    QVERIFY(MTranslator::install(cell("language")));
-    QCOMPARE(made(), expected);
-}
-
-void tst_Translations::plurals()
-{
-    QVERIFY(MTranslator::install(cell("language")));
-    const char *source = "it is damaged or truncated; shortcuts that could be read: %n";
-    QCOMPARE(
-        MRVShortcutScheme::tr(source, nullptr, cell("count").toInt()).section(';', 1).trimmed(),
-        cell("text"));
-}
-
-void tst_Translations::install()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, error);
-    QTranslator foreign(qApp);
-    QVERIFY(MTranslator::install(before));
-    const int count = qApp->findChildren<QTranslator *>().size();
-    QString got = "untouched";
-    QCOMPARE(MTranslator::install(cell("code"), &got), error.isEmpty());
-    QCOMPARE(got, error.isEmpty() ? "untouched" : error);
-    QCOMPARE(MRVShortcut::tr("File"), cell("shown"));
-    QVERIFY(MTranslator::install(before));
-    QCOMPARE(qApp->findChildren<QTranslator *>().size(), count);
-}
-
-/// A translation can be tried out in a folder; a damaged one changes nothing.
-void tst_Translations::ownFolder()
-{
-    QTemporaryDir folder;
-    qputenv("MORVANE_TRANSLATIONS", folder.path().toUtf8());
-    QVERIFY(QFile::copy(":/Other/Translations/mrvbase_es.qm", folder.filePath("mrvbase_de.qm")));
-    QVERIFY(QFile::copy(":/Other/Translations/mrvbase_fr.qm", folder.filePath("mrvbase_de_CH.qm")));
-    QVERIFY(MTranslator::install("de"));
-    QCOMPARE(MRVShortcut::tr("File"), QString("Archivo"));
-    QVERIFY(MTranslator::install("de-CH"));
-    QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
-    QVERIFY(MRVFileWriter::write(folder.filePath("mrvbase_it.qm"), "damaged"));
-    QString error;
-    QVERIFY(!MTranslator::install("it", &error));
-    QVERIFY2(error.contains("mrvbase_it.qm"), qPrintable(error));
-    QCOMPARE(MRVShortcut::tr("File"), QString("Fichier"));
-}
 
 QTEST_MAIN(tst_Translations)
 #include "tst_translations.moc"

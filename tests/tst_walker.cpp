@@ -51,57 +51,53 @@ class tst_Walker : public QObject
 
 private Q_SLOTS:
     void walk_data() { addRows("walks.tsv", {"document", "expected"}); }
-    void walk();
-    void spanningAndNestedTables();
-    void nothingToWalk();
+    void walk()
+    {
+        QTextDocument walked;
+        fillDocument(&walked, cell("document"));
+        Recorder recorder(&walked);
+        QVERIFY(recorder.navigateIteration());
+        QCOMPARE(recorder.told + recorder.heard, QStringList());
+        QVERIFY(recorder.navigate());
+        QTEST(recorder.told.join(", "), "expected");
+        QCOMPARE(recorder.heard, recorder.told);
+    }
+
+    void spanningAndNestedTables()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        QTextTable *outer = cursor.insertTable(2, 2);
+        outer->mergeCells(0, 0, 1, 2);
+        outer->cellAt(0, 0).firstCursorPosition().insertText("wide");
+        const QTextTable *inner = outer->cellAt(1, 0).firstCursorPosition().insertTable(1, 1);
+        Recorder recorder(&document);
+        recorder.navigate();
+        QCOMPARE(recorder.told.count("fragmentStarted wide"), 2);
+
+        MRVTableCollector collector(&document);
+        collector.navigate();
+        const QList<MRVTextRange> once{{outer->firstPosition(), outer->lastPosition()},
+                                       {inner->firstPosition(), inner->lastPosition()}};
+        QCOMPARE(collector.tables(), once);
+        collector.navigate();
+        QCOMPARE(collector.tables(), once + once);
+    }
+
+    void nothingToWalk()
+    {
+        auto document = std::make_unique<QTextDocument>("text");
+        Recorder recorder(document.get());
+        document.reset();
+        QVERIFY(!recorder.navigate());
+        QVERIFY(!recorder.navigateIteration());
+        QTextBlock block;
+        QTextFragment fragment;
+        QVERIFY(!recorder.processBlock(block));
+        QVERIFY(!recorder.processFragment(fragment));
+        QVERIFY(recorder.told.isEmpty());
+    }
 };
-
-void tst_Walker::walk()
-{
-    QTextDocument walked;
-    fillDocument(&walked, cell("document"));
-    Recorder recorder(&walked);
-    QVERIFY(recorder.navigateIteration());
-    QCOMPARE(recorder.told + recorder.heard, QStringList());
-    QVERIFY(recorder.navigate());
-    QTEST(recorder.told.join(", "), "expected");
-    QCOMPARE(recorder.heard, recorder.told);
-}
-
-void tst_Walker::spanningAndNestedTables()
-{
-    QTextDocument document;
-    QTextCursor cursor(&document);
-    QTextTable *outer = cursor.insertTable(2, 2);
-    outer->mergeCells(0, 0, 1, 2);
-    outer->cellAt(0, 0).firstCursorPosition().insertText("wide");
-    const QTextTable *inner = outer->cellAt(1, 0).firstCursorPosition().insertTable(1, 1);
-    Recorder recorder(&document);
-    recorder.navigate();
-    QCOMPARE(recorder.told.count("fragmentStarted wide"), 2);
-
-    MRVTableCollector collector(&document);
-    collector.navigate();
-    const QList<MRVTextRange> once{{outer->firstPosition(), outer->lastPosition()},
-                                   {inner->firstPosition(), inner->lastPosition()}};
-    QCOMPARE(collector.tables(), once);
-    collector.navigate();
-    QCOMPARE(collector.tables(), once + once);
-}
-
-void tst_Walker::nothingToWalk()
-{
-    auto document = std::make_unique<QTextDocument>("text");
-    Recorder recorder(document.get());
-    document.reset();
-    QVERIFY(!recorder.navigate());
-    QVERIFY(!recorder.navigateIteration());
-    QTextBlock block;
-    QTextFragment fragment;
-    QVERIFY(!recorder.processBlock(block));
-    QVERIFY(!recorder.processFragment(fragment));
-    QVERIFY(recorder.told.isEmpty());
-}
 
 QTEST_MAIN(tst_Walker)
 #include "tst_walker.moc"
