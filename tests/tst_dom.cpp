@@ -67,6 +67,66 @@ QString after(bool isDone, const MRVDomDoc &doc)
     return QString("%1 %2 %3").arg(isDone ? "+" : "-", doc.workPath(), doc.workChild()).trimmed();
 }
 
+// Whether a value was read, and the variable then: "+ value".
+template<typename T>
+QString outcome(bool isRead, const T &value)
+{
+    const QVariant variant(value);
+    const bool isList = variant.type() == QVariant::StringList;
+    return (isRead ? "+ " : "- ")
+        + (isList ? variant.toStringList().join(',') : variant.toString());
+}
+
+// What a call returns or leaves; its arguments are a path or name, and others after "|".
+QString resultOf(const QString &call, MRVDomDoc *doc)
+{
+    const QStringList all = call.mid(call.indexOf(' ') + 1).split('|');
+    const QString &path = all[0];
+    const QString text = all.value(1);
+    const QDomElement &here = doc->currentElement();
+    const auto numberOf = [](const QDomElement &e) { return e.attribute("n"); };
+    QString string = "old";
+    QStringList list{"old"};
+    int number = 7;
+    bool flag = true;
+    const QHash<QString, std::function<QString()>> calls{
+        {"cd", [&] { return after(doc->cd(path), *doc); }},
+        {"cdUp", [&] { return after(doc->cdUp(path.toInt()), *doc); }},
+        {"cdNext", [&] { return after(doc->cdNext(path), *doc); }},
+        {"setChild", [&] { return after(doc->setChild(path), *doc); }},
+        {"setRoot", [&] { return after(doc->setRoot(path), *doc); }},
+        {"append", [&] { return after(doc->append(path, text), *doc); }},
+        {"insert", [&] { return after(doc->insert(path, text, all.size() > 2), *doc); }},
+        {"prepend", [&] { return after(doc->prepend(path, text), *doc); }},
+        {"create", [&] { return after(doc->create(path), *doc); }},
+        {"copy", [&] { return after(doc->append(doc->find(path)), *doc); }},
+        {"createPath", [&] { return after(doc->createPath(path) > 0, *doc); }},
+        {"remove", [&] { return QString::number(doc->remove(path)); }},
+        {"removeAll", [&] { return QString::number(doc->remove(path, true)); }},
+        {"removeAttr", [&] { return QString::number(doc->removeAttr(text, path)); }},
+        {"removeAttrs", [&] { return QString::number(doc->removeAttr(text, path, true)); }},
+        {"element", [&] { return doc->workElement(true); }},
+        {"child", [&] { return doc->workChild(true); }},
+        {"n", [&] { return numberOf(here); }},
+        {"find", [&] { return numberOf(doc->find(path)); }},
+        {"findNext", [&] { return numberOf(doc->findNext()); }},
+        {"whyMissing", [&] { return doc->whyMissing(path); }},
+        {"save", [&] { return QString::fromUtf8(saved(*doc)).simplified(); }},
+        {"set", [&] { return after(doc->set(text, path), *doc); }},
+        {"get", [&] { return outcome(doc->get(&string, path), string); }},
+        {"getNext", [&] { return outcome(doc->getNext(&string), string); }},
+        {"getInt", [&] { return outcome(doc->get(&number, path), number); }},
+        {"getBool", [&] { return outcome(doc->get(&flag, path), flag); }},
+        {"getList", [&] { return outcome(doc->get(&list, path), list); }},
+        {"setAttr", [&] { return after(doc->setAttr(path, 5, text), *doc); }},
+        {"changeAttr", [&] { return after(doc->setAttr(path, "TRUE", text, false), *doc); }},
+        {"getAttr", [&] { return outcome(doc->getAttr(path, &string, here), string); }},
+        {"getBoolAttr", [&] { return outcome(doc->getAttr(path, &flag, here), flag); }},
+        {"getListAttr", [&] { return outcome(doc->getAttr(path, &list, here, text), list); }},
+    };
+    return calls.value(call.section(' ', 0, 0), [] { return QString("no such call"); })();
+}
+
 // A document element with a text, to be read by path "e".
 void setValue(MRVDomDoc *doc, const QString &text)
 {
@@ -154,107 +214,52 @@ private Q_SLOTS:
         QVERIFY(doc.exists(QString("a/../").repeated(1000) + "a"));
     }
 
-    void cursor()
+    void calls_data()
+    {
+        QTest::addColumn<QStringList>("steps");
+        for (const QStringList &row : rowsOf("domcalls.tsv")) {
+            QTest::newRow(qPrintable(row[0])) << QStringList(row.mid(1));
+        }
+    }
+    // Each call in turn, with what it gives.
+    void calls()
+    {
+        QFETCH(QStringList, steps);
+        const QString start = steps.takeFirst();
+        MRVDomDoc doc;
+        QVERIFY(start.isEmpty()
+                || doc.setContent(start.startsWith('<') ? start : documentOf(start)));
+        for (const QString &step : qAsConst(steps)) {
+            const QString call = step.section(" → ", 0, 0);
+            QCOMPARE(call + " → " + resultOf(call, &doc), step);
+        }
+    }
+
+    void elements()
     {
         MRVDomDoc doc;
-        QVERIFY(doc.setContent(documentOf("r1(i2[k=x](c3),i4,j5,i6[k=x])")));
-        QCOMPARE(doc.workChild(), QString("i"));
-        QVERIFY(doc.cd("i"));
-        QCOMPARE(doc.workElement(true), QString("i @k=\"x\" @n=\"2\""));
-        QCOMPARE(doc.workPath(), QString("/r/i"));
-        QCOMPARE(doc.workChild(true), QString("c @n=\"3\""));
-        QStringList visited;
-        do {
-            visited << doc.currentElement().attribute("n");
-        } while (doc.cdNext("/any/i"));
-        QCOMPARE(visited.join(' '), QString("2 4 6"));
-        QCOMPARE(doc.workPath(true), QString("/r @n=\"1\"")); // back on the parent
-        QVERIFY(!doc.cdNext(""));
-        QVERIFY(doc.cdUp(0));
-        QVERIFY(doc.cdUp(-1));
-        QVERIFY(!doc.cdUp(1));
-        QVERIFY(!doc.cd(".."));
-        QCOMPARE(after(doc.setChild("//j@n=5/whatever"), doc), "+ /r j");
-        for (const char *none : {"..", "/", "none"}) {
-            QCOMPARE(after(doc.setChild(none), doc), "- /r j");
-        }
-        QCOMPARE(after(doc.cd("i/c"), doc), "+ /r/i/c");
-        QCOMPARE(after(doc.cdUp(3), doc), "- /r i");
+        QVERIFY(!doc.cdRoot());
+        QVERIFY(doc.setContent(documentOf("r1(i2[k=x])")));
         QVERIFY(!doc.setWorkElement(QDomElement()));
-        QVERIFY(!MRVDomDoc().cdRoot());
         QVERIFY(MRVDomDoc::EmptyElement.isNull());
-        QVERIFY(doc.find("none") == MRVDomDoc::EmptyElement);
         const QDomElement i = doc.find("i@k=x");
         QVERIFY(doc.matchElement(i, "i@k=x@n"));
         QVERIFY(doc.matchElement(i, QStringList{"..", "n=2"}));
         QVERIFY(!doc.matchElement(i, QStringList()));
         QVERIFY(!doc.matchElement(QDomElement(), "i"));
-    }
-
-    void structure()
-    {
-        MRVDomDoc doc;
-        for (const char *name : {"", "a/b", "a@x=1", "x=", ".", ".."}) {
-            QVERIFY(!doc.append(name, "t"));
-            QVERIFY(!doc.insert(name, "t"));
-            QVERIFY(!doc.prepend(name));
-            QVERIFY(!doc.create(name));
-        }
-        QCOMPARE(after(doc.append("r"), doc), "+ /r");
-        QCOMPARE(after(doc.append("b"), doc), "+ /r b");
-        QCOMPARE(after(doc.append("d"), doc), "+ /r b");
-        QCOMPARE(after(doc.insert("c"), doc), "+ /r c");
-        QCOMPARE(after(doc.insert("bb", "t", true), doc), "+ /r bb");
-        QCOMPARE(after(doc.prepend("a"), doc), "+ /r bb");
-        QCOMPARE(after(doc.create("e"), doc), "+ /r/e");
-        QCOMPARE(after(doc.prepend("f", "1"), doc), "+ /r/e f");
-        QCOMPARE(after(doc.append(doc.find("/r/bb")), doc), "+ /r/e bb");
-        QCOMPARE(
-            saved(doc).simplified(),
-            QByteArray("<r> <a/> <b/> <bb>t</bb> <c/> <d/> <e> <f>1</f> <bb>t</bb> </e> </r>"));
-        doc.cdRoot();
-        QCOMPARE(doc.createPath("e/g/ h "), 3);
-        QCOMPARE(doc.workPath(), QString("/r/e/g/h"));
-        QCOMPARE(doc.createPath("a@x=1"), 0);
-        QCOMPARE(doc.createPath(""), 0);
-        QCOMPARE(doc.createPath("/r/e/i"), 3); // deliberate: from the work element
-        QCOMPARE(doc.workPath(), QString("/r/e/g/h/r/e/i"));
-        QCOMPARE(doc.remove("/r/b"), 1);
-        QCOMPARE(doc.remove("/r/b"), 0);
-        QCOMPARE(doc.remove("/", true), 1);
         const QDomElement made = doc.createElement("e@k=v@ l @", "t");
         QCOMPARE(made.text() + made.attribute("k") + made.attribute("l"), QString("ttt"));
-        QCOMPARE(after(doc.setRoot("root@version=2"), doc), "+ /root");
-        QCOMPARE(saved(doc), QByteArray("<root version=\"\"/>\n"));
         doc.currentElement() = MRVDomDoc::EmptyElement;
         QVERIFY(!doc.append("second"));
         QVERIFY(!doc.create("second"));
         QVERIFY(!doc.append(doc.documentElement()));
-        QVERIFY(doc.setContent(documentOf("r1(a2,a3,b4)")));
-        QVERIFY(doc.remove("./a@n", true) == 2);
-        QVERIFY(doc.setContent(doc.currentElement()));
-        QVERIFY(doc.exists("/r/b"));
+        QVERIFY(doc.setContent(i));
+        QCOMPARE(doc.workPath(), QString("/i"));
         MRVDomDoc copy;
         QVERIFY(copy.append(doc.currentElement()));
-        QVERIFY(copy.workPath() == "/r");
+        QCOMPARE(copy.workPath(), QString("/i"));
         QVERIFY(!MRVDomDoc().append(doc.document()));
         QCOMPARE(copy.createPath(QString("a/").repeated(5000)), 999);
-    }
-
-    // What the cursor is on may be removed with all that is around it, or replaced.
-    void cursorOutlivesRemoval()
-    {
-        MRVDomDoc doc;
-        QVERIFY(doc.setContent(documentOf("r1(a2(b3(c5),b4),a6)")));
-        QVERIFY(doc.cd("a/b"));
-        QCOMPARE(doc.remove("/r/a", true), 2);
-        QCOMPARE(after(doc.cdNext("b"), doc), "+ /a/b");
-        QCOMPARE(after(doc.cdUp(1), doc), "+ /a b");
-        QCOMPARE(after(doc.cd("b/c"), doc), "+ /a/b/c");
-        QVERIFY(doc.setContent(documentOf("r1(a2,a3)")));
-        QVERIFY(doc.exists("a"));
-        QVERIFY(doc.setContent(QString("<r/>")));
-        QVERIFY(doc.findNext().isNull());
     }
 
     void writesValues_data()
@@ -302,108 +307,72 @@ private Q_SLOTS:
     }
     void readsValues() { QTEST(cell("read"), "expected"); }
 
-    void valueParticularities()
+    void buffers()
     {
         MRVDomDoc doc;
-        doc.setContent(QString("<r><a>x<b>y</b>z</a><b><c/></b><l>p;q</l><t>Ja</t></r>"));
-        QString text = "kept";
-        QVERIFY(doc.get(&text, "a"));
-        QVERIFY(text == "xyz");
-        QVERIFY(doc.get(&text, "b"));
-        QVERIFY(text.isEmpty());
-        QVERIFY(!doc.set("t", "b"));
-        QVERIFY(!doc.get(&text, "none"));
-        QVERIFY(text.isNull());
-        QVERIFY(!doc.set("t", "none"));
-        QVERIFY(doc.set("new", "a"));
-        QVERIFY(doc.get(&text, "a"));
-        QVERIFY(text == "newyz");
-        int number = 7;
-        bool flag = true;
-        QStringList list{"old"};
-        QVERIFY(!doc.get(&number, "none"));
-        QVERIFY(number == 7);
-        QVERIFY(!doc.get(&flag, "none"));
-        QVERIFY(flag);
-        QVERIFY(!doc.get(&list, "none"));
-        QVERIFY(list.isEmpty());
-        doc.find("l");
-        QVERIFY(!doc.getNext(&text));
-        QVERIFY(text == "newyz");
+        QVERIFY(doc.setContent(QString("<r><a>newyz</a><b>ab</b></r>")));
         char buffer[6] = "zzzzz";
         QVERIFY(doc.get(buffer, 4, "a"));
-        QVERIFY(QByteArray(buffer, 5) == "new0z");
         QVERIFY(!doc.get(buffer, 0, "a"));
         QVERIFY(!doc.get(buffer, 4, "none"));
-        QVERIFY(QByteArray(buffer, 5) == "new0z");
-        QVERIFY(doc.set("ab", "a/b"));
-        QVERIFY(doc.get(buffer, 5, "a/b"));
-        QVERIFY(QByteArray(buffer, 6)
-                == QByteArray("ab\0\0"
-                              "0\0",
-                              6));
+        QCOMPARE(QByteArray(buffer, 5), QByteArray("new0z"));
+        QVERIFY(doc.get(buffer, 5, "b"));
+        QCOMPARE(QByteArray(buffer, 6),
+                 QByteArray("ab\0\0"
+                            "0\0",
+                            6));
+    }
 
-        const QDomElement root = doc.currentElement();
-        QVERIFY(!doc.setAttr("a", 5, "", false));
-        QVERIFY(!root.hasAttribute("a"));
-        QVERIFY(doc.setAttr("a", 5));
-        QVERIFY(doc.setAttr("a", "TRUE", "", false));
-        QVERIFY(doc.getAttr("a", &flag, root));
-        QVERIFY(flag);
-        QVERIFY(doc.getAttr("a", static_cast<QString *>(nullptr), root));
-        QVERIFY(doc.setAttr("a", 5, "none", true));
-        QVERIFY(!doc.setAttr("a", 5, "none", false));
-        QVERIFY(!doc.setAttr("", 5));
-        QVERIFY(!doc.getAttr("none", &text, root));
-        QVERIFY(!doc.getAttr("a", &text, QDomElement()));
+    void words()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(QString("<r><t>Ja</t></r>")));
         doc.setTrueString("Ja");
         doc.setFalseString("Nein");
-        QVERIFY(doc.get(&flag, "t"));
-        QVERIFY(flag);
+        QCOMPARE(resultOf("getBool t", &doc), QString("+ true"));
         QVERIFY(doc.set(false, "t"));
-        QVERIFY(doc.get(&flag, "t"));
-        QVERIFY(!flag);
+        QCOMPARE(resultOf("getBool t", &doc), QString("+ false"));
         QVERIFY(doc.setAttr("a", true));
-        QVERIFY(!doc.getAttr("a", &flag, root));
-        QVERIFY(!flag);
-        QVERIFY(doc.getAttr("a", &list, root, "a"));
-        QVERIFY(list == QStringList("J"));
-        const QDateTime noon({2021, 3, 4}, {12, 0}, Qt::LocalTime);
+        QCOMPARE(resultOf("getBoolAttr a", &doc), QString("- false"));
+        QCOMPARE(resultOf("getListAttr a|a", &doc), QString("+ J"));
+        QVERIFY(doc.getAttr("a", static_cast<QString *>(nullptr), doc.currentElement()));
+        QVERIFY(!doc.getAttr("a", static_cast<QString *>(nullptr), QDomElement()));
+    }
+
+    void dates()
+    {
+        MRVDomDoc doc;
         QDateTime read;
-        QVERIFY(doc.append("d", noon, "yyyy/MM/dd hh.mm"));
-        QVERIFY(doc.get(&text, "d"));
-        QVERIFY(text == "2021/03/04 12.00");
-        QVERIFY(doc.get(&read, "d", "yyyy/MM/dd hh.mm"));
-        QVERIFY(read == QDateTime({2021, 3, 4}, {12, 0}, Qt::UTC));
+        const QString format = "yyyy/MM/dd hh.mm";
+        QVERIFY(doc.setRoot("r"));
+        QVERIFY(doc.append("d", QDateTime({2021, 3, 4}, {12, 0}, Qt::LocalTime), format));
+        QCOMPARE(resultOf("get d", &doc), QString("+ 2021/03/04 12.00"));
+        QVERIFY(doc.get(&read, "d", format));
+        QCOMPARE(read, QDateTime({2021, 3, 4}, {12, 0}, Qt::UTC));
         QVERIFY(!doc.get(&read, "d"));
         QVERIFY(!read.isValid());
         // An hour that local time lacks.
         qputenv("TZ", "Europe/Berlin");
-        QVERIFY(doc.set(QDateTime({2020, 3, 29}, {2, 30}, Qt::UTC), "d", "dd.MM.yyyy hh:mm"));
-        QVERIFY(doc.get(&read, "d", "dd.MM.yyyy hh:mm"));
-        QVERIFY(read.time() == QTime(2, 30));
+        QVERIFY(doc.set(QDateTime({2020, 3, 29}, {2, 30}, Qt::UTC), "d", format));
+        QVERIFY(doc.get(&read, "d", format));
+        QCOMPARE(read.time(), QTime(2, 30));
         qunsetenv("TZ");
     }
 
-    void savesAndLoads()
+    void files()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath("a.xml");
-        const QString latin = "<?xml version='1.0' encoding='ISO-8859-1' "
-                              "standalone='yes'?>\n<!DOCTYPE r SYSTEM \"r.dtd\">\n"
-                              "<r b=\"\u00e4&#10;\" a=\"1\" c=\"2\"><e>t</e><f><g/></f></r>";
-        writeBytes(path, latin.toLatin1());
+        writeBytes(path,
+                   "<?xml version='1.0' encoding='ISO-8859-1' standalone='yes'?>\n"
+                   "<r b=\"\xe4&#10;\" a=\"1\"><e>t</e></r>");
         MRVDomDoc doc(path);
         QCOMPARE(doc.errorMessage(), QString("MRVDomDoc::load() ok "));
-        QCOMPARE(doc.fileName(), path);
         QVERIFY(doc.save(folder.filePath("b.xml")));
-        QVERIFY(doc.fileName() == path);
+        QCOMPARE(doc.fileName(), path);
         QCOMPARE(bytesOf(folder.filePath("b.xml")),
-                 QString("<?xml version='1.0' encoding=\"UTF-8\" standalone='yes'?>\n<!DOCTYPE r "
-                         "SYSTEM 'r.dtd'>\n"
-                         "<r a=\"1\" b=\"\u00e4&#xa;\" c=\"2\">\n   <e>t</e>\n   <f>\n      <g/>\n "
-                         "  </f>\n</r>\n")
-                     .toUtf8());
+                 QByteArray("<?xml version='1.0' encoding=\"UTF-8\" standalone='yes'?>\n"
+                            "<r a=\"1\" b=\"ä&#xa;\">\n   <e>t</e>\n</r>\n"));
         QVERIFY(!doc.load(folder.filePath("none")));
         QVERIFY(doc.exists("/r"));
         QCOMPARE(doc.errorMessage(), "File not found: " + folder.filePath("none"));
@@ -413,38 +382,26 @@ private Q_SLOTS:
         QFile full("/dev/full");
         QVERIFY(full.open(QIODevice::WriteOnly));
         QVERIFY(!doc.save(full));
-        writeBytes(path, "<r>\n<e></r>");
+        writeBytes(path, "<r>\n \xff</r>");
         QVERIFY(!doc.load(path));
         QVERIFY(!doc.exists("/"));
         QVERIFY(doc.currentElement().isNull());
-        QVERIFY(doc.errorMessage() == "MRVDomDoc::load() failed ");
-        QVERIFY(doc.errorLine() == 2);
-        QVERIFY(doc.errorColumn() > 0);
-        writeBytes(path, "<r>\n \xff</r>");
-        QFile file(path);
-        QVERIFY(!doc.setContent(&file));
-        QVERIFY(doc.errorLine() == 2);
-        QVERIFY(doc.errorColumn() == 2);
+        QCOMPARE(doc.errorMessage(), QString("MRVDomDoc::load() failed "));
+        QCOMPARE(doc.errorLine(), 2);
+        QCOMPARE(doc.errorColumn(), 2);
         QVERIFY(!doc.setContent(static_cast<QIODevice *>(nullptr)));
         QByteArray wide =
             QTextCodec::codecForName("UTF-16LE")
                 ->fromUnicode(QString("<?xml version='1.0' encoding='UTF-16'?><r>\u4e2d</r>"));
         QBuffer buffer(&wide);
         QVERIFY(doc.setContent(&buffer));
-        QVERIFY(doc.documentElement().text() == "\u4e2d");
-        QVERIFY(doc.errorLine() == -1);
-        // Saving and loading again adds no white space to texts.
-        QVERIFY(doc.setContent("<!DOCTYPE r SYSTEM 'r.dtd'><r>a<?p d?>b<b><?p "
-                               "d?></b>&nbsp;<!--c-->d<i/>e<![CDATA[f]]></r>"));
-        const QByteArray first = saved(doc);
-        QVERIFY(doc.setContent(QString(first)));
-        QVERIFY(doc.documentElement().text() == "abdef");
-        QCOMPARE(saved(doc), first);
-        // What Qt's parser gets wrong.
-        QVERIFY(doc.setContent(QString(QChar(QChar::ByteOrderMark))
-                               + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;\x01&#1;<!--&#1;--></r>"));
-        QCOMPARE(doc.documentElement().text(), QString("\U0001F600\na\nb\r"));
-        QCOMPARE(doc.documentElement().attribute("a"), QString("\U0001F600"));
+        QCOMPARE(doc.documentElement().text(), QString("\u4e2d"));
+        QCOMPARE(doc.errorLine(), -1);
+    }
+
+    void savesWhatWasMade()
+    {
+        MRVDomDoc doc;
         // What would end too early, or be declared nowhere.
         QVERIFY(doc.setContent(QString("<r><![CDATA[old]]></r>")));
         QVERIFY(doc.set("a]]>b"));
@@ -459,17 +416,11 @@ private Q_SLOTS:
             QString("<p:a xmlns:p='urn:x' xmlns='urn:y'><b/><p:c p:k='v'/></p:a>"), true));
         QVERIFY(doc.append(spaces.documentElement()));
         QVERIFY(doc.setContent(QString::fromUtf8(saved(doc))));
-        QVERIFY(doc.documentElement().text() == "a]]>b]]><");
+        QCOMPARE(doc.documentElement().text(), QString("a]]>b]]><"));
         QCOMPARE(doc.find("p:a/b").attribute("xmlns"), QString("urn:y"));
         QCOMPARE(doc.find("p:a").attribute("xmlns:p"), QString("urn:x"));
         QVERIFY(!doc.find("p:a/p:c").hasAttribute("xmlns:p"));
-        // Many declarations and attributes come out sorted, too.
-        QVERIFY(doc.setContent(
-            QString("<!DOCTYPE r PUBLIC 'a' \"b's\" [<!NOTATION n SYSTEM 'z'><!NOTATION m SYSTEM "
-                    "'y'><!ENTITY e SYSTEM 'x' NDATA n>]><r/>")));
-        QCOMPARE(saved(doc),
-                 QByteArray("<!DOCTYPE r PUBLIC 'a' \"b's\" [\n<!ENTITY e SYSTEM 'x' NDATA "
-                            "n>\n<!NOTATION m SYSTEM 'y'>\n<!NOTATION n SYSTEM 'z'>\n]>\n<r/>\n"));
+        // Many attributes come out sorted, too.
         doc.setRoot("r");
         QByteArray expected = "<r";
         for (int i = 1000; i < 1100; ++i) {
@@ -479,37 +430,18 @@ private Q_SLOTS:
         QCOMPARE(saved(doc), expected + "/>\n");
     }
 
-    // White space that is text survives; layout is made again.
-    void keepsBlanks_data()
+    void saves_data()
     {
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QString>("expected"); // what is saved; empty: the same
-        const auto same = [](const char *name, const QString &xml) {
-            QTest::newRow(name) << xml << QString();
-        };
-        same("between", "<p><b>a</b> <i>c</i></p>");
-        same("leading", "<p>t<b> <i/></b></p>");
-        same("alone", "<r>\n   <a> </a>\n   <b>\t</b>\n</r>");
-        same("line-by-reference", "<a>&#xa;</a>");
-        QTest::newRow("references") << "<a>&#32; &#10;<b/>&#x20;</a>"
-                                    << "<a>  \n<b/> </a>";
-        same("mixed", "<p>a\n<b/>\n<i/><u/> </p>");
-        same("mixed-late", "<p>\n<b/>\n<i/>a</p>");
-        same("mixed-by-section", "<p>\n<b/>\n<![CDATA[]]></p>");
-        same("mixed-outside", "<p>a<b>\n      <i/>\n   </b></p>");
-        same("comment", "<p>a<!-- <b> --> <?p <?> <i/></p>");
-        same("quotes", "<p><b a=\">\"/> <i b=\"'/>\"/></p>");
-        same("preserve", "<p xml:space=\"preserve\">\n<b><i/></b></p>");
-        QTest::newRow("preserve-ends")
-            << "<p xml:space='preserve'> <b xml:space='default'>\n<i/></b></p>"
-            << "<p xml:space=\"preserve\"> <b xml:space=\"default\">\n      <i/>\n   </b></p>";
-        QTest::newRow("layout") << "<p>\n\n<b>a</b>\n\t<i>\n</i></p>"
-                                << "<p>\n   <b>a</b>\n   <i/>\n</p>";
-        QTest::newRow("declarations")
-            << "<!DOCTYPE p [<!ENTITY e '<b/>'><!-- ]> <x> -->]><p>&e; <i/></p>"
-            << "<!DOCTYPE p>\n<!-- ]> <x> -->\n<p><b/> <i/></p>";
+        addRows("domsaves.tsv", {"case", "xml", "expected"});
+        // What Qt's parser gets wrong.
+        QTest::newRow("characters") << ""
+                                    << QString(QChar(QChar::ByteOrderMark))
+                + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;\x01&#1;<!--&#1;--></r>"
+                                    << "<r a=\"\U0001F600\">\U0001F600\na\nb&#xd;<!--&#1;--></r>";
     }
-    void keepsBlanks()
+    // What is loaded, and what is saved of it: white space that is text survives; layout is made
+    // again.
+    void saves()
     {
         QFETCH(QString, xml);
         QFETCH(QString, expected);
@@ -544,68 +476,6 @@ private Q_SLOTS:
         QVERIFY(!doc.setContent(QString("<r>a <b/> <i/> </x>")));
         QCOMPARE(doc.errorLine(), 1);
         QVERIFY2(doc.errorColumn() <= 20, qPrintable(QString::number(doc.errorColumn())));
-    }
-
-    void saysWhyMissing_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("found") << "part/chapter"
-                               << "";
-        QTest::newRow("root") << "/bok/part"
-                              << "the document element is 'book', not 'bok'";
-        QTest::newRow("slip") << "part/chatper"
-                              << "no 'chatper' below /book/part; did you mean 'chapter'?";
-        QTest::newRow("predicate") << "part@id=2/x"
-                                   << "no 'part@id=2' below /book";
-        QTest::newRow("far") << "novel"
-                             << "no 'novel' below /book";
-        QTest::newRow("above") << "part/../.."
-                               << "nothing is above /book";
-    }
-    void saysWhyMissing()
-    {
-        QFETCH(QString, path);
-        MRVDomDoc doc;
-        QCOMPARE(doc.whyMissing(path), QString("there is no document element"));
-        QVERIFY(doc.setContent(QString("<book><part><chapter/></part><part n='2'/></book>")));
-        doc.find("part");
-        QTEST(doc.whyMissing(path), "expected");
-        QCOMPARE(doc.findNext().attribute("n"), QString("2"));
-        QCOMPARE(doc.workPath(), QString("/book"));
-    }
-
-    void removesAttributes_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("all");
-        QTest::addColumn<int>("removed");
-        QTest::addColumn<QString>("left"); // the numbers of the elements that have it still
-        QTest::newRow("first") << "a" << false << 1 << "1 3 4";
-        QTest::newRow("all") << "a" << true << 2 << "1 4";
-        QTest::newRow("below") << "a/b/" << true << 1 << "1 2 3";
-        QTest::newRow("down-and-up") << "a/b/../" << true << 1 << "1 3 4";
-        QTest::newRow("here") << "" << true << 1 << "2 3 4";
-        QTest::newRow("root") << "/" << true << 1 << "2 3 4";
-        QTest::newRow("missing") << "a/none" << true << 0 << "1 2 3 4";
-    }
-    void removesAttributes()
-    {
-        QFETCH(QString, path);
-        QFETCH(bool, all);
-        MRVDomDoc doc;
-        QVERIFY(doc.setContent(documentOf("r1[k=](a2[k=](b4[k=]),a3[k=])")));
-        QTEST(doc.removeAttr("k", path, all), "removed");
-        QCOMPARE(doc.removeAttr("", path, all), 0);
-        QStringList left;
-        for (const char *n : {"1", "2", "3", "4"}) {
-            const QDomElement e = byNumber(doc.documentElement(), n);
-            QVERIFY(!e.isNull());
-            if (e.hasAttribute("k")) {
-                left << n;
-            }
-        }
-        QTEST(left.join(' '), "left");
     }
 
     void refusesHostile_data()
