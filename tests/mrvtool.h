@@ -65,6 +65,38 @@ protected:
         QTEST(QString::number(ran.exitCode), "code");
     }
 
+    /**
+     * The rows of a table for compareRow(): a file ("" for none) and what it holds, arguments, exit
+     * code, output, a word of the error, and what the file holds afterwards, if it changes.
+     */
+    static void addCalls(const QString &table)
+    {
+        addRows(table, {"case", "file", "source", "arguments", "code", "output", "error", "after"});
+    }
+
+    /** Calls the tool; standard input is what the file holds, and "..." any part of the output. */
+    void compareRow() const
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, after);
+        const QString file = in(cell("file"));
+        const bool hasFile = !cell("file").isEmpty();
+        QVERIFY(!hasFile || writeBytes(file, source.toUtf8()));
+        const Ran ran = mrv(cell("arguments"), source.toUtf8());
+        compareOutput(ran);
+        compareEnd(ran);
+        QCOMPARE(QString::fromUtf8(bytesOf(file)), after.isEmpty() ? source : after);
+    }
+
+    static void compareOutput(const Ran &ran)
+    {
+        const QString output =
+            QRegularExpression::escape(cell("output")).replace("\\.\\.\\.", ".*");
+        const QRegularExpression wanted(QRegularExpression::anchoredPattern(output),
+                                        QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY2(wanted.match(ran.output).hasMatch(), qPrintable(ran.output));
+    }
+
 private:
     QScopedPointer<QTemporaryDir> m_folder;
 };

@@ -1,6 +1,8 @@
 #include "commandline.h"
 #include "support.h"
 
+#include <cstdio>
+
 /** The frame of the tool: what holds for each command by the tables. */
 class TestMrvCommandLine : public QObject
 {
@@ -16,6 +18,11 @@ private Q_SLOTS:
     void terminal();
 
 private:
+    static void compareError(const Command &command, const QStringList &arguments,
+                             const QString &error);
+    static void checkOption(const Command &command, const Verb &verb, const QStringList &call,
+                            const Option &option);
+
     static void addCommands()
     {
         QTest::addColumn<const Command *>("command");
@@ -25,6 +32,46 @@ private:
     }
 };
 Q_DECLARE_METATYPE(const Command *)
+
+namespace {
+
+bool takes(const Verb &verb, const Option &option)
+{
+    return !option.verbs || words(option.verbs).contains(verb.name);
+}
+
+QVector<Option> optionsOf(const Command &command)
+{
+    QVector<Option> options;
+    for (const Rows<Option> &group : command.options) {
+        std::copy(group.begin(), group.end(), std::back_inserter(options));
+    }
+    return options;
+}
+
+// The name of an argument without what says how often it may be given.
+QString plain(QString argument)
+{
+    return argument.remove(QRegularExpression("[][.]"));
+}
+
+QStringList wrongValues(const Option &option)
+{
+    const QString below = QString::number(option.least - 1, 'f', 0);
+    const QString above = QString::number(option.most + 1, 'f', 0);
+    switch (option.kind) {
+    case Option::Integer:
+        return {"", "0.5", below, above};
+    case Option::Number:
+        return {"", "nan", below, above};
+    case Option::Choice:
+        return {"", words(option.choices).last().toUpper() + '-'};
+    default:
+        return option.kind == Option::Name ? QStringList("") : QStringList();
+    }
+}
+
+} // namespace
 
 // The help of each verb names the options that the verb takes, that of the command all of them.
 void TestMrvCommandLine::help()
@@ -40,50 +87,92 @@ void TestMrvCommandLine::help()
         QVERIFY2(own.startsWith("Usage: " + usageOf(*command, verb) + " [OPTIONS]\n"),
                  qPrintable(own));
         QVERIFY(all.contains(verb.name));
-        for (const Rows<Option> &group : command->options) {
-            for (const Option &option : group) {
-                const QString name = "--" + words(option.names).last();
-                const bool takes = !option.verbs || words(option.verbs).contains(verb.name);
-                QVERIFY(all.contains(name));
-                if (takes) {
-                    QVERIFY2(own.contains(name), qPrintable(own));
-                }
+        for (const Option &option : optionsOf(*command)) {
+            const QString name = "--" + words(option.names).last();
+            QVERIFY(all.contains(name));
+            if (takes(verb, option)) {
+                QVERIFY2(own.contains(name), qPrintable(own));
             }
         }
     }
 }
 
-// Each option is refused by the verbs of which no row says that they take it.
+// What is wrong before any command runs; an empty error goes on.
+void TestMrvCommandLine::compareError(const Command &command, const QStringList &arguments,
+                                      const QString &error)
+{
+    QTemporaryFile errors;
+    QVERIFY(errors.open());
+    QVERIFY(std::freopen(qPrintable(errors.fileName()), "w", stderr));
+    Call call;
+    const int code = readCall(command, QStringList(command.name) + arguments, &call);
+    std::fflush(stderr);
+    const QString all = QString::fromUtf8(bytesOf(errors.fileName()));
+    QVERIFY2(all.contains(error), qPrintable(arguments.join(' ') + ": " + all));
+    QCOMPARE(all.count('\n'), int(!error.isEmpty()));
+    QCOMPARE(code, error.isEmpty() ? -1 : int(WrongUsage));
+}
+
 void TestMrvCommandLine::refusals()
 {
     QFETCH(const Command *, command);
-    QMap<QString, QStringList> takers; // by the option's name
-    QMap<QString, bool> flags;
-    for (const Rows<Option> &group : command->options) {
-        for (const Option &option : group) {
-            const QString name = words(option.names).last();
-            for (const Verb &verb : command->verbs) {
-                if (!option.verbs || words(option.verbs).contains(verb.name)) {
-                    takers[name] += verb.name;
-                }
-            }
-            QVERIFY2(!takers.value(name).isEmpty(), qPrintable(name)); // a misspelt verb
-            QCOMPARE(flags.value(name, option.kind == Option::Flag), option.kind == Option::Flag);
-            flags[name] = option.kind == Option::Flag;
-        }
+    const QString first = command->verbs.begin()->name;
+    if (command->hasVerbs()) {
+        compareError(*command, {}, "a verb is missing: " + first);
+        compareError(*command, {first + 'x'},
+                     QString("unknown verb '%1x'; did you mean '%1'?").arg(first));
     }
     for (const Verb &verb : command->verbs) {
-        for (auto it = takers.cbegin(); it != takers.cend(); ++it) {
-            if (it->contains(verb.name)) {
-                continue;
-            }
-            const QString option = "--" + it.key();
-            const Ran ran = run(MRV_TOOL,
-                                QStringList{command->name, verb.name, option}
-                                    + (flags[it.key()] ? QStringList() : QStringList("1")));
-            QCOMPARE(ran.exitCode, int(WrongUsage));
-            QVERIFY2(ran.errors.contains(verb.name + (" takes no option '" + option) + '\''),
-                     qPrintable(ran.errors));
+        const QStringList names = words(verb.arguments);
+        const QStringList needed = names.filter(QRegularExpression("^[^[]"));
+        const QStringList call = words(verb.name) + needed;
+        const auto refuses = [&](const QStringList &arguments, const QString &error) {
+            compareError(*command, words(verb.name) + arguments, error);
+        };
+        compareError(*command, call, QString());
+        refuses(needed + QStringList("--jsn"), "unknown option '--jsn'; did you mean '--json'?");
+        if (!needed.isEmpty()) {
+            refuses(needed.mid(1), plain(names.at(needed.size() - 1)) + " is missing");
+        }
+        if (!QString(verb.arguments).contains("...")) {
+            refuses(names + QStringList("y"), "'y' is one argument too many");
+        }
+        if (!names.isEmpty() && plain(names.first()) != "WORD") {
+            refuses(QStringList("") + needed.mid(1), plain(names.first()) + " is empty");
+        }
+        for (const Option &option : optionsOf(*command)) {
+            checkOption(*command, verb, call, option);
+        }
+    }
+    for (const Option &option : optionsOf(*command)) {
+        for (const QString &name : words(option.verbs)) {
+            Call call;
+            readCall(*command, {command->name, name}, &call);
+            QVERIFY2(call.verb, qPrintable(name)); // else it is misspelt
+        }
+    }
+}
+
+// Verbs refuse an option of which no row says that they take it, and values of another kind.
+void TestMrvCommandLine::checkOption(const Command &command, const Verb &verb,
+                                     const QStringList &call, const Option &option)
+{
+    const QStringList names = words(option.names);
+    const QString name = "--" + names.at(names.first().size() == 1);
+    const QString value = option.choices ? words(option.choices).first() : QString("1");
+    const QStringList given = call + QStringList(name)
+        + (option.kind == Option::Flag ? QStringList() : QStringList(value));
+    const QVector<Option> options = optionsOf(command);
+    const bool isTaken = std::any_of(options.begin(), options.end(), [&](const Option &row) {
+        return words(row.names) == names && takes(verb, row);
+    });
+    compareError(command, given,
+                 isTaken ? QString() : verb.name + (" takes no option '" + name) + '\'');
+    if (takes(verb, option) && option.kind != Option::Flag) {
+        compareError(command, call + QStringList(name), name + ": needs a value");
+        for (const QString &wrong : wrongValues(option)) {
+            const QString error = wrong.isEmpty() ? "needs a value" : '\'' + wrong + "' is not ";
+            compareError(command, call + QStringList{name, wrong}, name + ": " + error);
         }
     }
 }

@@ -6,42 +6,17 @@ class tst_MrvFind : public ToolTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void commands_data()
-    {
-        addRows("mrv-find.tsv",
-                {"case", "file", "source", "arguments", "code", "output", "error", "after"});
-    }
+    void commands_data() { addCalls("mrv-find.tsv"); }
     void commands();
-    void usage_data() { addRows("mrv-find-usage.tsv", {"case", "arguments", "error"}); }
-    void usage();
     void allOrNone();
     void otherOutput();
 };
 
 void tst_MrvFind::commands()
 {
-    QFETCH(QString, source);
-    QFETCH(QString, arguments);
-    QFETCH(QString, after);
-    QFETCH(QString, file);
-    file = in(file);
-    QVERIFY(writeBytes(file, source.toUtf8()));
-    const Ran ran = mrv(arguments, source.toUtf8());
-    QTEST(ran.output, "output");
-    compareEnd(ran);
-    QCOMPARE(QString::fromUtf8(bytesOf(file)), after.isEmpty() ? source : after);
-    const bool kept = !after.isEmpty() && !arguments.contains("--no-backup");
-    QCOMPARE(QString::fromUtf8(bytesOf(file + '~')), kept ? source : QString());
-}
-
-void tst_MrvFind::usage()
-{
-    QVERIFY(writeBytes(in("a.txt"), "text"));
-    const Ran ran = mrv(cell("arguments"));
-    QCOMPARE(ran.exitCode, 2);
-    QVERIFY2(ran.errors.contains(cell("error")), qPrintable(ran.errors));
-    QCOMPARE(ran.errors.count('\n'), 1);
-    QCOMPARE(ran.output, QString());
+    compareRow();
+    const bool kept = !cell("after").isEmpty() && !cell("arguments").contains("--no-backup");
+    QCOMPARE(QString::fromUtf8(bytesOf(in(cell("file") + '~'))), kept ? cell("source") : QString());
 }
 
 void tst_MrvFind::allOrNone()

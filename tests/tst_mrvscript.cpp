@@ -8,43 +8,12 @@ class tst_MrvScript : public ToolTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void commands_data()
-    {
-        addRows("mrv-script.tsv", {"case", "arguments", "file", "code", "output", "error"});
-    }
-    void commands();
+    void commands_data() { addCalls("mrv-script.tsv"); }
+    void commands() { compareRow(); }
     void written();
-    void scripts_data()
-    {
-        addRows("mrv-fountain.tsv", {"case", "arguments", "file", "code", "output", "error"});
-    }
-    void scripts();
     void renamedInEncoding();
     void convertedBack();
-
-private:
-    void runRow(const QString &name);
 };
-
-void tst_MrvScript::commands()
-{
-    runRow("mode.xml");
-}
-
-void tst_MrvScript::scripts()
-{
-    runRow("a.fountain");
-}
-
-void tst_MrvScript::runRow(const QString &name)
-{
-    QFETCH(QString, output);
-    QVERIFY(writeBytes(in(name), cell("file").toUtf8()));
-    const Ran ran = mrv(cell("arguments"));
-    QCOMPARE(ran.output.isEmpty(), output.isEmpty());
-    QVERIFY2(ran.output.contains(output), qPrintable(ran.output));
-    compareEnd(ran);
-}
 
 // What one call writes, another one checks.
 void tst_MrvScript::written()
@@ -103,12 +72,6 @@ void tst_MrvScript::convertedBack()
     QCOMPARE(books[0], books[1]);
     QVERIFY(books[1] != books[2]);
     QCOMPARE(mrv("script convert @a.fdx -o @a.epub", {}, {"SOURCE_DATE_EPOCH=abc"}).exitCode, 2);
-    // In a folder, nothing is replaced unasked.
-    const QString taken = in("script.fdx");
-    QVERIFY(writeBytes(taken, "a"));
-    const Ran into = mrv("script convert - --to fdx -o @");
-    QVERIFY2(into.errors.contains("exists"), qPrintable(into.errors));
-    QCOMPARE(bytesOf(taken), QByteArray("a"));
 }
 
 QTEST_GUILESS_MAIN(tst_MrvScript)

@@ -8,12 +8,8 @@ class tst_MrvSettings : public ToolTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void commands_data()
-    {
-        addRows("mrv-settings.tsv",
-                {"case", "before", "arguments", "code", "output", "error", "after"});
-    }
-    void commands();
+    void commands_data() { addCalls("mrv-settings.tsv"); }
+    void commands() { compareRow(); }
     void usersOwn();
     void exportAndImport();
     void losesNothing();
@@ -21,19 +17,6 @@ private Q_SLOTS:
 private:
     Ran settings(const QString &arguments) const { return mrv("settings " + arguments); }
 };
-
-void tst_MrvSettings::commands()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    if (!before.isEmpty()) {
-        QVERIFY(writeBytes(in("a.ini"), before.toUtf8()));
-    }
-    const Ran ran = settings(cell("arguments") + " --settings @a.ini");
-    QTEST(ran.output, "output");
-    compareEnd(ran);
-    QCOMPARE(QString::fromUtf8(bytesOf(in("a.ini"))), after.isEmpty() ? before : after);
-}
 
 void tst_MrvSettings::usersOwn()
 {

@@ -13,11 +13,8 @@ class tst_MrvShortcuts : public ToolTest
 
 private Q_SLOTS:
     void init();
-    void commands_data()
-    {
-        addRows("mrv-shortcuts.tsv", {"case", "arguments", "code", "output", "error"});
-    }
-    void commands();
+    void commands_data() { addCalls("mrv-shortcuts.tsv"); }
+    void commands() { compareRow(); }
     void exportedScheme();
 };
 
@@ -44,14 +41,6 @@ void tst_MrvShortcuts::init()
     QSettings(in("mine.conf"), QSettings::IniFormat).setValue(key, a.toByteArray());
     QSettings(in("cut.conf"), QSettings::IniFormat).setValue(key, cut);
     QSettings(in("other.conf"), QSettings::IniFormat).setValue("Options/other", 1);
-}
-
-void tst_MrvShortcuts::commands()
-{
-    QFETCH(QString, arguments);
-    const Ran ran = mrv(arguments.isEmpty() ? "shortcuts" : "shortcuts " + arguments);
-    QTEST(ran.output, "output");
-    compareEnd(ran);
 }
 
 void tst_MrvShortcuts::exportedScheme()
