@@ -3,9 +3,25 @@
 #include <QFile>
 #include <QtTest>
 
+/** "⟨3×ab⟩" is "ababab", of which each may be repeated as well; "№" counts from 0. */
+inline QString withRepeats(QString text)
+{
+    static const QRegularExpression innermost("⟨(\\d+)×([^⟨⟩]*)⟩");
+    for (auto match = innermost.match(text); match.hasMatch(); match = innermost.match(text)) {
+        const QString one = match.captured(2);
+        QString all;
+        for (int i = 0; i < match.captured(1).toInt(); ++i) {
+            all += QString(one).replace("№", QString::number(i));
+        }
+        text.replace(match.capturedStart(), match.capturedLength(), all);
+    }
+    return text;
+}
+
 /**
- * The rows of a file of tests/data, separated into cells by tabs. "\n", "\r", "\t" and "\\" mean
- * what they mean in C++. Empty lines and lines that start with '#' are left out.
+ * The rows of a file of tests/data, separated into cells by tabs. "\n", "\r", "\t", "\\" and "\xe9"
+ * mean what they mean in C++, the last always with two digits and as a character; withRepeats()
+ * tells of repeated parts. Empty lines and lines that start with '#' are left out.
  */
 inline QVector<QStringList> rowsOf(const QString &file)
 {
@@ -22,8 +38,12 @@ inline QVector<QStringList> rowsOf(const QString &file)
         QStringList cells = line.split('\t');
         for (QString &cell : cells) {
             for (int at = 0; (at = cell.indexOf('\\', at)) >= 0 && at + 1 < cell.size(); ++at) {
-                cell.replace(at, 2, meanings.value(cell.at(at + 1), cell.at(at + 1)));
+                const bool isNumber = cell.at(at + 1) == 'x';
+                const QChar meant = isNumber ? QChar(cell.mid(at + 2, 2).toInt(nullptr, 16))
+                                             : meanings.value(cell.at(at + 1), cell.at(at + 1));
+                cell.replace(at, isNumber ? 4 : 2, meant);
             }
+            cell = withRepeats(cell);
         }
         rows << cells;
     }
@@ -46,7 +66,7 @@ inline void addRows(const QString &file, std::initializer_list<const char *> col
         QTest::addColumn<QString>(column);
     }
     for (const QStringList &row : rowsOf(file)) {
-        const QString name = QStringList(row.mid(0, 2)).join(' ').simplified();
+        const QString name = QStringList(row.mid(0, 2)).join(' ').left(100).simplified();
         QTestData &data = QTest::newRow(qPrintable(name));
         for (int i = 0; i < int(columns.size()); ++i) {
             data << row.value(i);

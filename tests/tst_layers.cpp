@@ -4,12 +4,13 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QHash>
 #include <QLibraryInfo>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -100,30 +101,14 @@ QStringList qtModules(const QString &header)
     return publishers;
 }
 
-/// The includes of a source text. Those inside comments do not count; what looks like a comment
-/// inside a string is none.
-QVector<Include> includesOf(QString text)
+/// The includes of a source text, also those that are commented out: they are not worth keeping.
+QVector<Include> includesOf(const QString &text)
 {
-    static const QRegularExpression token(
-        R"re("(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*'|//[^\n]*|/\*.*?\*/)re",
-        QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression include(
         "^\\s*#\\s*include\\s*(?:([<\"])([^>\"]*)[>\"]|(\\S+))");
-    for (auto it = token.globalMatch(QString(text)); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        if (!match.captured().startsWith('/')) {
-            continue;
-        }
-        for (int i = match.capturedStart(); i < match.capturedEnd(); ++i) {
-            if (text.at(i) != '\n') {
-                text[i] = ' ';
-            }
-        }
-    }
     QVector<Include> includes;
     int number = 0;
-    const QStringList lines = text.split('\n');
-    for (const QString &line : lines) {
+    for (const QString &line : text.split('\n')) {
         ++number;
         const QRegularExpressionMatch match = include.match(line);
         if (match.hasMatch()) {
@@ -270,44 +255,28 @@ private:
         return system.match(name).hasMatch() ? QString() : "library is not for this module";
     }
 
-    /// Depth first over the units; a unit met again on the way down closes a circle.
+    /// Leaves out the units that use no other, again and again: what remains is in a circle, or
+    /// uses one.
     void checkCircles()
     {
-        QSet<QString> done;
-        const QStringList units = sorted(m_uses.keys());
-        for (const QString &unit : units) {
-            QStringList way;
-            follow(unit, &way, &done);
+        const auto remains = [this](const QString &unit) { return m_uses.contains(unit); };
+        int before = 0;
+        do {
+            before = m_uses.size();
+            for (const QString &unit : m_uses.keys()) {
+                const QSet<QString> uses = m_uses.value(unit);
+                if (std::none_of(uses.begin(), uses.end(), remains)) {
+                    m_uses.remove(unit);
+                }
+            }
+        } while (m_uses.size() < before);
+        if (!m_uses.isEmpty()) {
+            m_faults.append("circle: " + QStringList(m_uses.keys()).join(' '));
         }
-    }
-
-    void follow(const QString &unit, QStringList *way, QSet<QString> *done)
-    {
-        const int met = way->indexOf(unit);
-        if (met >= 0) {
-            m_faults.append("circle: " + (way->mid(met) + QStringList{unit}).join(" -> "));
-            return;
-        }
-        if (done->contains(unit)) {
-            return;
-        }
-        way->append(unit);
-        const QStringList next = sorted(m_uses.value(unit).values());
-        for (const QString &used : next) {
-            follow(used, way, done);
-        }
-        way->removeLast();
-        done->insert(unit);
-    }
-
-    static QStringList sorted(QStringList list)
-    {
-        list.sort();
-        return list;
     }
 
     QMap<QString, QString> m_sources;
-    QHash<QString, QSet<QString>> m_uses;
+    QMap<QString, QSet<QString>> m_uses;
     QStringList m_faults;
 };
 
@@ -346,7 +315,7 @@ const QString plantedGlobal = QString::number(1);
 } // namespace
 
 /// A row's sources: "file: include include; file: include". An include of a project file without
-/// brackets is quoted. What begins with a slash or a quotation mark is a line of its own.
+/// brackets is quoted.
 static QMap<QString, QString> invented(const QString &text)
 {
     QMap<QString, QString> sources;
@@ -356,12 +325,8 @@ static QMap<QString, QString> invented(const QString &text)
         const QStringList names = file.section(':', 1).simplified().split(' ', Qt::SkipEmptyParts);
         QString content = "#pragma once\n";
         for (const QString &name : names) {
-            if (name.startsWith('/') || name.startsWith('"')) {
-                content += name + '\n';
-            } else {
-                content += name.startsWith('<') ? "#include " + name + '\n'
-                                                : "#  include \"" + name + "\"\n";
-            }
+            content +=
+                name.startsWith('<') ? "#include " + name + '\n' : "#  include \"" + name + "\"\n";
         }
         sources.insert(path, content);
     }

@@ -392,26 +392,7 @@ private Q_SLOTS:
         QCOMPARE(element.flags(), Element::Flags(Element::UnderlineByWord));
     }
 
-    void refused_data()
-    {
-        addRows("scriptmode-refused.tsv", {"case", "file", "error"});
-        const auto nested = [](int depth) {
-            return "<MorvaneScriptFormat>" + QString("<a>").repeated(depth)
-                + QString("</a>").repeated(depth) + "</MorvaneScriptFormat>";
-        };
-        QTest::newRow("deep") << QString("deep") << nested(100000)
-                              << QString("nested more deeply than 32");
-        QTest::newRow("as deep as allowed") << QString("shallow") << nested(31) << QString();
-        QTest::newRow("attributes") << QString("attributes")
-                                    << "<MorvaneScriptFormat" + QString(" a=''").repeated(65) + "/>"
-                                    << QString("line 1: an element has too many");
-        QTest::newRow("many") << QString("many")
-                              << "<MorvaneScriptFormat><ScriptElements>"
-                + QString("<Element/>").repeated(1001) + "</ScriptElements></MorvaneScriptFormat>"
-                              << QString("more than 1000 script elements");
-        QTest::newRow("huge") << QString("huge") << QString(MRVScriptMode::MaxFileSize + 1, ' ')
-                              << QString("larger than");
-    }
+    void refused_data() { addRows("scriptmode-refused.tsv", {"case", "file", "error"}); }
     void refused()
     {
         QFETCH(QString, error);
