@@ -73,3 +73,22 @@ inline void addRows(const QString &file, std::initializer_list<const char *> col
         }
     }
 }
+
+/** Fills the data of a test function with rows of a name and "steps", which are the further cells. */
+inline void addSteps(const QString &file)
+{
+    QTest::addColumn<QStringList>("steps");
+    for (const QStringList &row : rowsOf(file)) {
+        QTest::newRow(qPrintable(row[0])) << QStringList(row.mid(1));
+    }
+}
+
+/** Checks steps of the form "call → result" one after the other. */
+template<typename ResultOf>
+void checkSteps(const QStringList &steps, ResultOf resultOf)
+{
+    for (const QString &step : steps) {
+        const QString call = step.section(" → ", 0, 0);
+        QCOMPARE(call + " → " + resultOf(call), step);
+    }
+}
