@@ -37,6 +37,7 @@ constexpr Module modules[] = {
     {"base/input",       2, "Core Gui"},
 
     {"base/autoreplace", 3, "Core Gui"},
+    {"base/css",         3, "Core Gui"},
     {"base/dom",         3, "Core Xml"},
     {"base/download",    3, "Core Network Widgets"},
     {"base/exchange",    3, "Core Gui"},

@@ -72,4 +72,20 @@ struct MRVInputLimits
     static constexpr int ScriptModeTagLength = 16 * 1024;
     /** Qt reads nested blocks of rich text in quadratic time. */
     static constexpr int HtmlDepth = 2000;
+
+    // Style sheets. A rule or declaration beyond one of these three is dropped, as a faulty one is.
+    /** Tokens of a list of selectors, or of a declaration. */
+    static constexpr int CssTokens = 65536;
+    /** Elements that a selector names: "a b > c" names three. */
+    static constexpr int CssCompounds = 32;
+    /** Selectors in the brackets of each other: they are read by recursion. */
+    static constexpr int CssNesting = 8;
+    /** Selectors of all sheets together; large web pages have a fifth of it. */
+    static constexpr int CssSelectors = 100000;
+    /** Declarations of all sheets together, with shorthands split. */
+    static constexpr int CssDeclarations = 500000;
+    /** Comparisons that matching may take, a second or two, for a document in any case ... */
+    static constexpr qint64 CssSteps = 200000000;
+    /** ... and more for each element; books take some fifty. */
+    static constexpr qint64 CssStepsPerElement = 2000;
 };
