@@ -95,18 +95,22 @@ private Q_SLOTS:
     /// What is there and is no file of the pages stays; the same picture is used again.
     void sparesPictures()
     {
-        const auto publish = [&](const char *name, const QColor &color) {
+        const auto publish = [&](const QMap<QString, QColor> &pages) {
             MRVPagePublisher publisher;
-            return publisher.add(documentWith(color).get(), QString(), in(name))
-                && publisher.publish();
+            bool ok = true;
+            for (auto page = pages.begin(); page != pages.end(); ++page) {
+                ok = ok && publisher.add(documentWith(*page).get(), QString(), in(page.key()));
+            }
+            return ok && publisher.publish();
         };
-        QVERIFY(publish("ch.1.html", Qt::red));
-        QVERIFY(publish("ch.2.html", Qt::blue));
-        QVERIFY(publish("ch.2.html", Qt::blue));
+        QVERIFY(publish({{"ch.1.html", Qt::red}, {"ch.2.html", Qt::blue}, {"ch.3.html", Qt::red}}));
+        QVERIFY(publish({{"ch.2.html", Qt::blue}}));
         QCOMPARE(filesBelow(""),
-                 QStringList({"ch.1.html", "ch.2.html", "ch_files/pic-1.png", "ch_files/pic.png"}));
+                 QStringList({"ch.1.html", "ch.2.html", "ch.3.html", "ch_files/pic-1.png",
+                              "ch_files/pic.png"}));
         QVERIFY(bytesOf(in("ch.1.html")).contains("src=\"ch_files/pic.png\""));
         QVERIFY(bytesOf(in("ch.2.html")).contains("src=\"ch_files/pic-1.png\""));
+        QVERIFY(bytesOf(in("ch.3.html")).contains("src=\"ch_files/pic.png\""));
     }
 
     void refusals_data()

@@ -4,6 +4,7 @@
 
 #include "core/mrvcoreutil.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -39,13 +40,14 @@ private:
     const QString m_before;
 };
 
-bool haveSameBytes(const QString &one, const QString &other)
+// Empty for what is no file or cannot be read.
+QByteArray digestOf(const QString &path)
 {
-    QFile first(one);
-    QFile second(other);
-    return QFileInfo(other).isFile() && first.size() == second.size()
-        && first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly)
-        && first.readAll() == second.readAll();
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && hash.addData(&file)
+        ? hash.result()
+        : QByteArray();
 }
 
 QString numbered(const QString &file, int number)
@@ -179,25 +181,34 @@ bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QS
     return renamed.isEmpty() || replaceSources(page, renamed, error);
 }
 
+// Each number of a name is looked at once: bytes that were met there before are known by their
+// digest. Nothing is read where no other picture has the name.
 QString MRVPagePublisher::pictureTarget(const QString &staged, const QString &wanted)
 {
-    for (int number = 0;; ++number) {
-        const QString target = numbered(wanted, number);
+    Numbered &taken = m_numbered[wanted];
+    QByteArray digest = taken.targets.isEmpty() ? QByteArray() : digestOf(staged);
+    for (; !taken.targets.contains(digest); ++taken.next) {
+        const QString target = numbered(wanted, taken.next);
         const QString holder = m_pictures.value(target, target);
         const QFileInfo there(holder);
-        const bool free = !there.exists() && !there.isSymLink();
-        if (!free && !haveSameBytes(staged, holder)) {
-            continue;
-        }
-        if (!m_pictures.contains(target)) {
-            m_pictures.insert(target, free ? staged : target);
+        if (!there.exists() && !there.isSymLink()) {
+            m_pictures.insert(target, staged);
             m_written.append(target);
-        }
-        if (free) {
             m_files.add(staged, target);
+            return target;
         }
-        return target;
+        const QByteArray held = digestOf(holder);
+        if (!held.isEmpty() && !taken.targets.contains(held)) {
+            taken.targets.insert(held, target);
+        }
+        digest = digest.isEmpty() ? digestOf(staged) : digest;
     }
+    const QString target = taken.targets.value(digest);
+    if (!m_pictures.contains(target)) {
+        m_pictures.insert(target, target);
+        m_written.append(target);
+    }
+    return target;
 }
 
 bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error)

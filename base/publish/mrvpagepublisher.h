@@ -4,6 +4,7 @@
 #include "util/mrvbase_export.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QHash>
 #include <QPair>
@@ -95,6 +96,12 @@ private:
         QStringList pages; // names
     };
 
+    struct Numbered // the pictures that were meant to have one name
+    {
+        QHash<QByteArray, QString> targets; // by the digest of what lies there
+        int next = 0; // the first number that has not been looked at, or is free
+    };
+
     bool writePage(QTextDocument *document, const QString &language, const QString &page,
                    Folder *folder, QString *error) const;
     bool addPictures(const QString &page, const Folder &folder, QString *error);
@@ -106,6 +113,7 @@ private:
     MRVStagedFiles m_files;
     std::map<QString, Folder> m_folders; // by the real path, however it is written
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target
+    QHash<QString, Numbered> m_numbered; // by the target that was wanted
     QStringList m_written;
     QVector<QPair<QString, QString>> m_pages; // staged file and target
 };
