@@ -2,6 +2,7 @@
 #include "suggestion.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -255,7 +256,10 @@ bool CommandLine::findVerb()
     }
     const Verb *first = verbNamed(m_command, arguments.constFirst());
     const Verb *second = verbNamed(m_command, arguments.value(1));
-    if (!first && second && takesFileFirst(*second)) {
+    // Of two words that could each be the verb, the file is the one that exists.
+    const bool isFileFirst = !first
+        || (QFileInfo(arguments.constFirst()).isFile() && !QFileInfo(arguments.value(1)).isFile());
+    if (second && takesFileFirst(*second) && isFileFirst) {
         arguments.move(0, 1);
         first = second;
     }

@@ -159,8 +159,8 @@ private:
 
 /**
  * Reads the arguments of a command, its name being the first. The verb may stand after a file, its
- * first argument. What begins with a hyphen and no letter after it, such as "-1" or "-->", is no
- * option.
+ * first argument; where both words are names of verbs, that holds if only the first is a file that
+ * exists. What begins with a hyphen and no letter after it, such as "-1" or "-->", is no option.
  *
  * Prints the help when it is asked for, and in one line what is wrong: an unknown verb or option,
  * an option that the verb does not take, a value that the option does not take, too few arguments

@@ -17,6 +17,14 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(in("new.xml")), QByteArray("<a>\n   <b>x y</b>\n</a>\n"));
     }
 
+    void fileNamedLikeVerb()
+    {
+        QVERIFY(writeBytes(in("ls"), "<r><get>text</get></r>"));
+        QCOMPARE(mrv("xml ls get get").output, QString("text\n"));
+        QVERIFY(writeBytes(in("get"), "<r><get><b/></get></r>"));
+        QCOMPARE(mrv("xml ls get get").output, QString("b\n"));
+    }
+
     // The page on paths shows what the tool prints: all its examples are run, one after the other,
     // on its file.
     void examples()
