@@ -109,7 +109,8 @@ public:
      * @name As those of QList
      *
      * The functions that are not const give references away, which the class comment explains,
-     * except clear() and swap(), which exchanges the index as well.
+     * except clear() and swap(), which exchanges the index as well. Those that are const give
+     * copies, which share their texts, so that an entry outlives a list that is a temporary.
      */
     //@{
     void clear();
@@ -117,15 +118,15 @@ public:
 
     // clang-format off
     MRVAutoReplace &operator[](int i) { giveAway(); return List::operator[](i); }
-    const MRVAutoReplace &operator[](int i) const { return at(i); }
+    MRVAutoReplace operator[](int i) const { return at(i); }
     MRVAutoReplace &first() { giveAway(); return List::first(); }
-    const MRVAutoReplace &first() const { return List::first(); }
+    MRVAutoReplace first() const { return List::first(); }
     MRVAutoReplace &last() { giveAway(); return List::last(); }
-    const MRVAutoReplace &last() const { return List::last(); }
+    MRVAutoReplace last() const { return List::last(); }
     MRVAutoReplace &front() { return first(); }
-    const MRVAutoReplace &front() const { return first(); }
+    MRVAutoReplace front() const { return first(); }
     MRVAutoReplace &back() { return last(); }
-    const MRVAutoReplace &back() const { return last(); }
+    MRVAutoReplace back() const { return last(); }
     iterator begin() { giveAway(); return List::begin(); }
     const_iterator begin() const { return List::begin(); }
     iterator end() { giveAway(); return List::end(); }

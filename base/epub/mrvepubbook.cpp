@@ -250,7 +250,7 @@ MRVEPubAnchors MRVEPubBook::anchorTargets(const Cutting &cutting, const QString 
 {
     MRVEPubAnchors targets{fileName, pageName(0), {}};
     const QHash<QString, int> places = MRVHtmlText::idPlaces(cutting.page);
-    const QHash<QString, QString> &ids = cutting.writer.ids();
+    const QHash<QString, QString> ids = cutting.writer.ids();
     for (auto id = ids.constBegin(); id != ids.constEnd(); ++id) {
         const QString name = pageName(cutting.pieceOf(places.value(*id)));
         targets.targets.insert(id.key(), name + u'#' + *id);
@@ -264,7 +264,7 @@ void MRVEPubBook::addPages(const Cutting &cutting)
     const QString prefix = freeHeadingPrefix(cutting.writer.ids());
     const QString &page = cutting.page;
     int block = 0;
-    const QVector<MRVPageWriter::Block> &blocks = cutting.writer.headings();
+    const QVector<MRVPageWriter::Block> blocks = cutting.writer.headings();
     for (int piece = 0; piece < cutting.starts.size(); ++piece) {
         const int end = cutting.end(piece);
         MRVEPubPage result{pageName(0), QString(),

@@ -55,11 +55,11 @@ public:
      */
     void setCollecting(bool collecting) { m_collecting = collecting; }
     /** The blocks at the top level, in order, where they were collected; empty else. */
-    const QVector<Block> &blocks() const { return m_blocks; }
+    QVector<Block> blocks() const { return m_blocks; }
     /** Anchor names of the document, unescaped, to the ids that they got. */
-    const QHash<QString, QString> &ids() const { return m_ids; }
+    QHash<QString, QString> ids() const { return m_ids; }
     /** Headings wherever they stand, in tables too. */
-    const QVector<Block> &headings() const { return m_headings; }
+    QVector<Block> headings() const { return m_headings; }
     /** Link targets to replace, old to new, both unescaped. */
     void setLinks(const QHash<QString, QString> &links) { m_replacedLinks = links; }
     /** The language of the page as a BCP 47 tag; empty leaves it open. */
