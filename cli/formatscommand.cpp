@@ -1,4 +1,3 @@
-#include "formatname.h"
 #include "settingsfile.h"
 
 #include "engines/mrvimportexportconfig.h"
@@ -9,36 +8,7 @@
 
 namespace {
 
-// A format with all its suffixes, and what can be done with it.
-struct Entry
-{
-    MRVFormatInfo info;
-    QStringList suffixes;
-    bool canImport = false;
-    bool canExport = false;
-};
-
-QList<Entry> entries(const MRVImportExportConfig &config)
-{
-    QList<Entry> entries;
-    for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
-        const MRVFormatInfo info = MRVFormat::formatInfo(row);
-        if (info.extension.isEmpty()) {
-            continue; // output that is no file
-        }
-        if (!entries.isEmpty() && entries.constLast().info.format == info.format) {
-            entries.last().suffixes.append(info.extension);
-            continue;
-        }
-        entries.append({info,
-                        {info.extension},
-                        config.explain(info.format, MRVFormat::RTF).canImport,
-                        config.explain(MRVFormat::RTF, info.format).canExport});
-    }
-    return entries;
-}
-
-void print(const Entry &entry, bool json)
+void print(const MRVFormatSupport &entry, bool json)
 {
     if (json) {
         printJson({{QStringLiteral("name"), entry.info.name},
@@ -61,7 +31,7 @@ bool readFormats(const Call &call, QSet<MRVFormat::Format> *formats)
 {
     bool areKnown = true;
     for (const QString &name : call.arguments) {
-        const MRVFormat::Format format = formatNamed(name);
+        const MRVFormat::Format format = MRVFormat::formatNamed(name);
         if (format == MRVFormat::NoFormat) {
             refuse(QStringLiteral("%1: unknown format").arg(name));
             areKnown = false;
@@ -76,8 +46,8 @@ int list(const Call &call, MRVOptions *options)
     QSet<MRVFormat::Format> chosen;
     const bool areKnown = readFormats(call, &chosen);
     bool found = false;
-    const QList<Entry> all = entries(MRVImportExportConfig(options));
-    for (const Entry &entry : all) {
+    const QList<MRVFormatSupport> all = MRVImportExportConfig(options).formatSupport();
+    for (const MRVFormatSupport &entry : all) {
         if ((chosen.isEmpty() || chosen.contains(entry.info.format))
             && (entry.canImport || !call.has("import"))
             && (entry.canExport || !call.has("export"))) {

@@ -140,6 +140,46 @@ MRVEngineChoice MRVImportExportConfig::explain(Format from, Format to) const
                   applications(m_kindleConverter));
 }
 
+QList<MRVEngineChoice> MRVImportExportConfig::choices() const
+{
+    QList<MRVEngineChoice> imports;
+    QList<MRVEngineChoice> exports;
+    const QList<Format> formats = MRVFormat::formats();
+    for (Format format : formats) {
+        exports.append(explain(MRVFormat::RTF, format));
+        if (format != MRVFormat::RTF) {
+            imports.append(explain(format, MRVFormat::RTF));
+        }
+    }
+    QList<MRVEngineChoice> offered;
+    for (const MRVEngineChoice &choice : imports + exports) {
+        if (choice.isOffered()) {
+            offered.append(choice);
+        }
+    }
+    return offered;
+}
+
+QList<MRVFormatSupport> MRVImportExportConfig::formatSupport() const
+{
+    QList<MRVFormatSupport> all;
+    for (int row = 0; row < MRVFormat::formatsCount(); ++row) {
+        const MRVFormatInfo info = MRVFormat::formatInfo(row);
+        if (info.extension.isEmpty()) {
+            continue; // output that is no file
+        }
+        if (!all.isEmpty() && all.constLast().info.format == info.format) {
+            all.last().suffixes.append(info.extension);
+            continue;
+        }
+        all.append({info,
+                    {info.extension},
+                    explain(info.format, MRVFormat::RTF).canImport,
+                    explain(MRVFormat::RTF, info.format).canExport});
+    }
+    return all;
+}
+
 bool MRVImportExportConfig::setImportFormatEngines(const FormatEngines &engines)
 {
     return setEngines(Import, engines);

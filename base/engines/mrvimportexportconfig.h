@@ -11,8 +11,22 @@
 #include <QPointer>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 class MRVOptions;
+
+/**
+ * A file format with all its suffixes, and what can be done with it here.
+ *
+ * @since 1.0
+ */
+struct MRVFormatSupport
+{
+    MRVFormatInfo info; ///< its first row
+    QStringList suffixes; ///< the main one first
+    bool canImport = false;
+    bool canExport = false;
+};
 
 /**
  * Which engine converts which file format, as the user has chosen or as this machine can do best.
@@ -119,6 +133,14 @@ public:
      * whether it is of use.
      */
     MRVEngineChoice explain(MRVFormat::Format from, MRVFormat::Format to) const;
+
+    /**
+     * What explain() says of each conversion that is offered here: the imports, then the exports,
+     * each in the order of MRVFormat's rows. From RTF to RTF is an export.
+     */
+    QList<MRVEngineChoice> choices() const;
+    /** The formats that are files, in the order of MRVFormat's rows. */
+    QList<MRVFormatSupport> formatSupport() const;
 
     /**
      * Replaces the choices of one direction, and stores them. Taken as they are: engines that

@@ -1,5 +1,7 @@
 #include "fileformats/mrvenginechoice.h"
 
+#include <QJsonArray>
+
 #include <iterator>
 
 namespace {
@@ -35,6 +37,64 @@ constexpr bool reasonsAreInOrder()
 static_assert(reasonsAreInOrder());
 
 } // namespace
+
+QStringList MRVEngineChoice::supportedNames() const
+{
+    QStringList names;
+    for (MRVImportExport::Engine one : supported) {
+        names.append(MRVImportExport::toString(one));
+    }
+    return names;
+}
+
+QString MRVEngineChoice::title() const
+{
+    return QStringLiteral("%1 -> %2").arg(MRVFormat::name(from), MRVFormat::name(to));
+}
+
+QString MRVEngineChoice::objection() const
+{
+    if (!canImport) {
+        return tr("%1 cannot be imported").arg(MRVFormat::name(from));
+    }
+    return canExport ? QString() : tr("%1 cannot be exported").arg(MRVFormat::name(to));
+}
+
+QString MRVEngineChoice::objectionTo(const QString &name) const
+{
+    if (!isOffered()) {
+        return objection();
+    }
+    if (reason == NeitherSideRtf) {
+        return title() + QLatin1String(": ") + reasonText();
+    }
+    if (!supported.contains(MRVImportExport::engineNamed(name))) {
+        return tr("%1: %2 cannot do that here; possible: %3")
+            .arg(title(), name, supportedNames().join(QLatin1String(", ")));
+    }
+    // The stored form names formats by their suffixes.
+    const MRVFormat::Format other = from == MRVFormat::RTF ? to : from;
+    const QString otherName = MRVFormat::name(other);
+    return MRVFormat::format(otherName) == other
+        ? QString()
+        : tr("choices for %1 are not kept: its name is not a suffix").arg(otherName);
+}
+
+QJsonObject MRVEngineChoice::toJson() const
+{
+    QJsonObject object{
+        {QStringLiteral("from"), MRVFormat::name(from)},
+        {QStringLiteral("to"), MRVFormat::name(to)},
+        {QStringLiteral("engine"), MRVImportExport::toString(engine)},
+        {QStringLiteral("reason"), QLatin1String(toString(reason))},
+        {QStringLiteral("supported"), QJsonArray::fromStringList(supportedNames())},
+        {QStringLiteral("offered"), isOffered()},
+    };
+    if (stored != MRVImportExport::UnknownEngine) {
+        object.insert(QStringLiteral("stored"), MRVImportExport::toString(stored));
+    }
+    return object;
+}
 
 QString MRVEngineChoice::reasonText() const
 {

@@ -5,8 +5,10 @@
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
+#include <QJsonObject>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /**
  * Which engine would convert a file, and why: the answer of MRVImportExportConfig::explain().
@@ -26,12 +28,18 @@ public:
         Repaired = 4, ///< The stored engine needs an application that is missing here.
     };
 
+    /** The conversion that was asked for. */
+    MRVFormat::Format from = MRVFormat::NoFormat;
+    MRVFormat::Format to = MRVFormat::NoFormat;
+
     MRVImportExport::Engine engine = MRVImportExport::QtEngine;
     Reason reason = NeitherSideRtf;
     /** What is stored for the format; UnknownEngine for nothing. */
     MRVImportExport::Engine stored = MRVImportExport::UnknownEngine;
     /** The engines that can do the conversion on this machine, best first; never empty. */
     QList<MRVImportExport::Engine> supported = {MRVImportExport::QtEngine};
+    /** The stored names of these. */
+    QStringList supportedNames() const;
     /** Whether the first format can be imported; RTF always can. */
     bool canImport = false;
     /** Whether the second format can be exported; RTF always can. */
@@ -40,8 +48,25 @@ public:
     /** Whether there is such a conversion at all. An engine is named even where there is none. */
     bool isOffered() const { return canImport && canExport; }
 
+    /** The names of the formats, as "DOC -> RTF". */
+    QString title() const;
+
+    /** Why the conversion is not offered, translated; empty where it is. */
+    QString objection() const;
+    /**
+     * Why the engine called @p engine, in any case, cannot be chosen for the conversion and kept,
+     * translated; empty where it can.
+     */
+    QString objectionTo(const QString &engine) const;
+
+    /**
+     * For programs: "from" and "to", names of formats; "engine", "stored" where there is one, and
+     * "supported", stored names of engines; "reason", as toString() gives it; "offered".
+     */
+    QJsonObject toJson() const;
+
     /** A translated sentence without a full stop, such as "it is the default". */
     QString reasonText() const;
-    /** The same for programs: "neitherSideRtf", "default", "stored", "unlisted" or "repaired". */
+    /** The reason for programs: "neitherSideRtf", "default", "stored", "unlisted" or "repaired". */
     static const char *toString(Reason reason);
 };

@@ -203,6 +203,8 @@ MRVEngineChoice choose(Format from, Format to, const Choices &choices,
                        const Applications &applications)
 {
     MRVEngineChoice choice;
+    choice.from = from;
+    choice.to = to;
     choice.canImport = formats(Import, applications).contains(from);
     choice.canExport = formats(Export, applications).contains(to);
     if (from != MRVFormat::RTF && to != MRVFormat::RTF) {

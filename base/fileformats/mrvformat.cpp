@@ -1,6 +1,7 @@
 #include "fileformats/mrvformat.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <iterator>
 
@@ -149,6 +150,27 @@ MRVFormatInfo MRVFormat::formatInfo(int row)
         *info.description ? QCoreApplication::translate("QObject", info.description) : QString();
     return {info.format, QString::fromLatin1(info.name), QString::fromLatin1(info.suffix),
             description};
+}
+
+MRVFormat::Format MRVFormat::formatNamed(const QString &text)
+{
+    for (const Row &row : rows) {
+        if (text.compare(QLatin1String(row.name), Qt::CaseInsensitive) == 0) {
+            return row.format;
+        }
+    }
+    return format(text.contains(u'.') ? QFileInfo(text).suffix() : text);
+}
+
+QList<MRVFormat::Format> MRVFormat::formats()
+{
+    QList<Format> formats;
+    for (const Row &row : rows) {
+        if (!formats.contains(row.format)) {
+            formats.append(row.format);
+        }
+    }
+    return formats;
 }
 
 MRVFormat::Format MRVFormat::formatAt(int row)

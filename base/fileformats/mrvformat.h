@@ -2,6 +2,7 @@
 
 #include "util/mrvbase_export.h"
 
+#include <QList>
 #include <QString>
 
 struct MRVFormatInfo;
@@ -73,6 +74,17 @@ public:
      * @return NoFormat for an empty or unknown suffix.
      */
     static Format format(const QString &suffix);
+
+    /**
+     * The format that a person means by its name ("MMDtoHTML"), a suffix, or the name of a file, in
+     * any case. What has a dot in it is the name of a file.
+     *
+     * @return NoFormat where it is none of these.
+     */
+    static Format formatNamed(const QString &text);
+
+    /** All formats in the order of the rows, each once. */
+    static QList<Format> formats();
 
     /** A row, from 0 to formatsCount() - 1; the number is not checked. */
     static MRVFormatInfo formatInfo(int row);

@@ -174,6 +174,16 @@ MRVImportExport::Engine MRVImportExport::toEngine(const QString &name)
     return fromStoredName(engines, name);
 }
 
+MRVImportExport::Engine MRVImportExport::engineNamed(const QString &name)
+{
+    for (const auto &row : engines) {
+        if (name.compare(QLatin1String(row.stored), Qt::CaseInsensitive) == 0) {
+            return row.value;
+        }
+    }
+    return UnknownEngine;
+}
+
 bool MRVImportExport::isDoc2AnyEngine(Engine engine)
 {
     return engine >= Doc2AnyAutoEngine && engine <= Doc2AnyInternalEngine;

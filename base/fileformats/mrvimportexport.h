@@ -89,6 +89,8 @@ public:
     static QString toString(Engine engine);
     /** The inverse of toString(); exact. UnknownEngine for an unknown name. */
     static Engine toEngine(const QString &name);
+    /** toEngine() in any case. */
+    static Engine engineNamed(const QString &name);
     /** Whether the external converter does the work. */
     static bool isDoc2AnyEngine(Engine engine);
 

@@ -305,6 +305,22 @@ Fehler: %2</translation>
         <source>the stored choice, %1, needs an application that is not available here</source>
         <translation>die gespeicherte Wahl, %1, benötigt ein Programm, das hier nicht verfügbar ist</translation>
     </message>
+    <message>
+        <source>%1 cannot be imported</source>
+        <translation>%1 kann nicht importiert werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be exported</source>
+        <translation>%1 kann nicht exportiert werden</translation>
+    </message>
+    <message>
+        <source>%1: %2 cannot do that here; possible: %3</source>
+        <translation>%1: %2 kann das hier nicht; möglich: %3</translation>
+    </message>
+    <message>
+        <source>choices for %1 are not kept: its name is not a suffix</source>
+        <translation>eine Wahl für %1 wird nicht gespeichert: Der Name ist keine Dateiendung</translation>
+    </message>
 </context>
 <context>
     <name>MRVFileWriter</name>

@@ -305,6 +305,22 @@ Error: %2</translation>
         <source>the stored choice, %1, needs an application that is not available here</source>
         <translation>la elección guardada, %1, necesita una aplicación que no está disponible aquí</translation>
     </message>
+    <message>
+        <source>%1 cannot be imported</source>
+        <translation>%1 no se puede importar</translation>
+    </message>
+    <message>
+        <source>%1 cannot be exported</source>
+        <translation>%1 no se puede exportar</translation>
+    </message>
+    <message>
+        <source>%1: %2 cannot do that here; possible: %3</source>
+        <translation>%1: %2 no puede hacerlo aquí; posibles: %3</translation>
+    </message>
+    <message>
+        <source>choices for %1 are not kept: its name is not a suffix</source>
+        <translation>las elecciones para %1 no se conservan: su nombre no es un sufijo</translation>
+    </message>
 </context>
 <context>
     <name>MRVFileWriter</name>

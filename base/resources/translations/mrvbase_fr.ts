@@ -305,6 +305,22 @@ Erreur&#xa0;: %2</translation>
         <source>the stored choice, %1, needs an application that is not available here</source>
         <translation>le choix enregistré, %1, nécessite une application qui n’est pas disponible ici</translation>
     </message>
+    <message>
+        <source>%1 cannot be imported</source>
+        <translation>%1 ne peut pas être importé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be exported</source>
+        <translation>%1 ne peut pas être exporté</translation>
+    </message>
+    <message>
+        <source>%1: %2 cannot do that here; possible: %3</source>
+        <translation>%1&#xa0;: %2 ne peut pas le faire ici&#xa0;; possibles&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>choices for %1 are not kept: its name is not a suffix</source>
+        <translation>les choix pour %1 ne sont pas conservés&#xa0;: son nom n’est pas un suffixe</translation>
+    </message>
 </context>
 <context>
     <name>MRVFileWriter</name>
