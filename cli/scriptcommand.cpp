@@ -2,7 +2,6 @@
 #include "commandline.h"
 #include "scriptmode/mrvscriptelementtext.h"
 #include "scriptmode/mrvscriptmode.h"
-#include "suggestion.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -97,7 +96,7 @@ int show(const Call &call)
     }
     MRVScriptMode mode;
     QString error;
-    if (!findScriptMode(call.arguments.constFirst(), &mode, &error)) {
+    if (!mode.loadNamed(call.arguments.constFirst(), &error)) {
         return refuse(error);
     }
     if (unit) {
@@ -180,23 +179,6 @@ constexpr Option options[] = {
 };
 
 } // namespace
-
-bool findScriptMode(const QString &nameOrPath, MRVScriptMode *mode, QString *error)
-{
-    const QMap<QString, MRVScriptMode> factory = MRVScriptMode::systemModes();
-    for (const MRVScriptMode &candidate : factory) {
-        if (candidate.name().compare(nameOrPath, Qt::CaseInsensitive) == 0) {
-            *mode = candidate;
-            return true;
-        }
-    }
-    if (!QFileInfo::exists(nameOrPath)) {
-        *error = QStringLiteral("'%1' is neither a factory mode nor a file%2")
-                     .arg(nameOrPath, didYouMean(nameOrPath, factory.keys()));
-        return false;
-    }
-    return mode->load(nameOrPath, error);
-}
 
 const Command scriptCommand = {
     "script",

@@ -105,7 +105,7 @@ int readOptions(const Call &call, ConvertOptions *options)
         return usageError(error);
     }
     options->mode.loadFactoryDefaults();
-    if (!mode.isEmpty() && !findScriptMode(mode, &options->mode, &error)) {
+    if (!mode.isEmpty() && !options->mode.loadNamed(mode, &error)) {
         return refuse(error);
     }
     return -1;

@@ -3,6 +3,7 @@
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
 #include "scriptmode/mrvscriptmodefile_p.h"
+#include "util/mrvclosestmatch.h"
 #include "util/mrvnames.h"
 
 #include <QDir>
@@ -196,6 +197,25 @@ bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remar
         return fail(error, tr("Cannot read the file \"%1\": %2").arg(path, reason));
     }
     return fromXml(xml, &reason, remarks) || refuse(reason);
+}
+
+bool MRVScriptMode::loadNamed(const QString &nameOrPath, QString *error)
+{
+    const QMap<QString, MRVScriptMode> factory = systemModes();
+    for (const MRVScriptMode &mode : factory) {
+        if (mode.name().compare(nameOrPath, Qt::CaseInsensitive) == 0) {
+            *this = mode;
+            return true;
+        }
+    }
+    if (QFileInfo::exists(nameOrPath)) {
+        return load(nameOrPath, error);
+    }
+    const QString meant = MRV::closestMatch(nameOrPath, factory.keys());
+    return fail(error,
+                meant.isNull() ? tr("'%1' is neither a factory mode nor a file").arg(nameOrPath)
+                               : tr("'%1' is neither a factory mode nor a file; did you mean '%2'?")
+                                     .arg(nameOrPath, meant));
 }
 
 QByteArray MRVScriptMode::toXml() const

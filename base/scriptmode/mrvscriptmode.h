@@ -101,6 +101,13 @@ public:
      * @param remarks as for load().
      */
     bool fromXml(const QByteArray &xml, QString *error = nullptr, QStringList *remarks = nullptr);
+    /**
+     * Replaces this mode by one of systemModes(), by its name in any case, or else loads the file
+     * of that path. A text for an unknown name has a similar one in it.
+     *
+     * @return false, with this mode as it was, on failure.
+     */
+    bool loadNamed(const QString &nameOrPath, QString *error = nullptr);
 
     /**
      * Writes the mode through MRVFileWriter, so that a failure leaves the old file as it was.

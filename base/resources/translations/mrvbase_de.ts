@@ -872,6 +872,14 @@ Fehler: %2</translation>
         <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
         <translation>die Absätze von „%1“ sehen aus wie die von „%2“</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file</source>
+        <translation>„%1“ ist weder ein mitgelieferter Modus noch eine Datei</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
+        <translation>„%1“ ist weder ein mitgelieferter Modus noch eine Datei; meinten Sie „%2“?</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>

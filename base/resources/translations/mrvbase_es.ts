@@ -872,6 +872,14 @@ Error: %2</translation>
         <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
         <translation>los párrafos de «%1» son iguales a los de «%2»</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file</source>
+        <translation>«%1» no es ni un modo incluido ni un archivo</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
+        <translation>«%1» no es ni un modo incluido ni un archivo; ¿quiso decir «%2»?</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>

@@ -872,6 +872,14 @@ Erreur&#xa0;: %2</translation>
         <source>the paragraphs of &apos;%1&apos; look like those of &apos;%2&apos;</source>
         <translation>les paragraphes de «&#xa0;%1&#xa0;» ressemblent à ceux de «&#xa0;%2&#xa0;»</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un mode fourni ni un fichier</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un mode fourni ni un fichier&#xa0;; vouliez-vous dire «&#xa0;%2&#xa0;»&#xa0;?</translation>
+    </message>
 </context>
 <context>
     <name>MRVSettings</name>
