@@ -67,21 +67,6 @@ bool printReplacements(const Call &call, const MRVAutoReplaceList &list,
     return any;
 }
 
-// The options give what could be read, or the default, in place of a list that cannot be read
-// whole. Empty when nothing is damaged.
-QString damageOf(const MRVOptions *options)
-{
-    const QString key = options->keyText(MRVOptions::SubstitutionList);
-    const QByteArray stored = options->QSettings::value(key).toByteArray();
-    QString reason;
-    MRVAutoReplaceList list;
-    if (!stored.isEmpty()) {
-        list.fromByteArray(stored, &reason);
-    }
-    return reason.isEmpty() ? QString()
-                            : QStringLiteral("the list in %1: %2").arg(options->fileName(), reason);
-}
-
 int show(const Call &call, MRVOptions *options)
 {
     const MRVAutoReplaceList list = options->autoReplaceList();
@@ -230,7 +215,8 @@ int reset(const Call &call, MRVOptions *options)
 template<Access access, int (*Run)(const Call &call, MRVOptions *options)>
 int withList(const Call &call, MRVOptions *options)
 {
-    const QString damage = damageOf(options);
+    QString damage; // for which the options give what could be read, or the default
+    options->autoReplaceList(&damage);
     if (damage.isEmpty()) {
         return Run(call, options);
     }

@@ -4,7 +4,6 @@
 #include "options/mrvoptions.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -23,57 +22,10 @@ QString namedPdfSettings(const QStringList &names)
     return keys.join(QLatin1String(", "));
 }
 
-// A group that was left out does not count.
-QString nearestKey(const QString &wrong)
-{
-    const QStringList keys = MRVOptions::settingKeys();
-    const QString key = MRV::closestMatch(wrong, keys);
-    if (!key.isNull()) {
-        return key;
-    }
-    QMap<QString, QString> keysByName;
-    for (const QString &one : keys) {
-        keysByName.insert(one.section(u'/', -1), one);
-    }
-    return keysByName.value(MRV::closestMatch(wrong, keysByName.keys()));
-}
-
 int refuseKey(const QString &key)
 {
-    return refuse(QStringLiteral("unknown setting '%1'%2").arg(key, didYouMean(nearestKey(key))));
-}
-
-QJsonValue jsonOf(MRVOptions::SettingType type, const QVariant &value)
-{
-    switch (type) {
-    case MRVOptions::FlagType:
-        return value.toBool();
-    case MRVOptions::IntType:
-        return value.toInt();
-    case MRVOptions::RealType:
-        return value.toDouble();
-    case MRVOptions::StringListType:
-        return QJsonArray::fromStringList(value.toStringList());
-    default:
-        return MRVOptions::toText(type, value);
-    }
-}
-
-QJsonObject jsonOf(const MRVOptions::Explanation &explanation)
-{
-    QJsonObject object{
-        {QStringLiteral("key"), explanation.key},
-        {QStringLiteral("type"), MRVOptions::typeName(explanation.type)},
-        {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)},
-        {QStringLiteral("default"), jsonOf(explanation.type, explanation.defaultValue)},
-        {QStringLiteral("changed"), explanation.isChanged()},
-    };
-    if (!explanation.accepts.isEmpty()) {
-        object.insert(QStringLiteral("accepts"), explanation.accepts);
-    }
-    object.insert(QStringLiteral("origin"),
-                  explanation.origin.isEmpty() ? QJsonValue() : QJsonValue(explanation.origin));
-    return object;
+    return refuse(
+        QStringLiteral("unknown setting '%1'%2").arg(key, didYouMean(MRVOptions::closestKey(key))));
 }
 
 // In one line, and bytes by their number only.
@@ -98,10 +50,11 @@ int get(const Call &call, MRVOptions *options)
         if (explanation.key.isEmpty()) {
             return refuseKey(key);
         }
-        printAnswer(call,
-                    {{QStringLiteral("key"), key},
-                     {QStringLiteral("value"), jsonOf(explanation.type, explanation.value)}},
-                    MRVOptions::toText(explanation.type, explanation.value));
+        printAnswer(
+            call,
+            {{QStringLiteral("key"), key},
+             {QStringLiteral("value"), MRVOptions::toJson(explanation.type, explanation.value)}},
+            MRVOptions::toText(explanation.type, explanation.value));
     }
     return Done;
 }
@@ -125,7 +78,7 @@ int set(const Call &call, MRVOptions *options)
         return Failed;
     }
     if (call.json()) {
-        printJson(jsonOf(options->explain(key)));
+        printJson(options->explain(key).toJson());
     }
     return Done;
 }
@@ -166,7 +119,7 @@ int list(const Call &call, MRVOptions *options)
         }
         found = true;
         const MRVOptions::Explanation explanation = options->explain(key);
-        printAnswer(call, jsonOf(explanation),
+        printAnswer(call, explanation.toJson(),
                     key + QLatin1String(" = ") + shownText(explanation.type, explanation.value));
     }
     return found ? Done : Failed;
@@ -180,7 +133,7 @@ int explain(const Call &call, MRVOptions *options)
             return refuseKey(key);
         }
         if (call.json()) {
-            printJson(jsonOf(explanation));
+            printJson(explanation.toJson());
             continue;
         }
         printLine(key);
@@ -206,7 +159,7 @@ int changed(const Call &call, MRVOptions *options)
 {
     const QList<MRVOptions::Explanation> settings = options->changedSettings();
     for (const MRVOptions::Explanation &setting : settings) {
-        printAnswer(call, jsonOf(setting),
+        printAnswer(call, setting.toJson(),
                     QStringLiteral("%1 = %2 (default: %3)")
                         .arg(setting.key, shownText(setting.type, setting.value),
                              shownText(setting.type, setting.defaultValue)));

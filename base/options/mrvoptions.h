@@ -9,12 +9,16 @@
 #include <QByteArray>
 #include <QColor>
 #include <QCoreApplication>
+#include <QJsonObject>
+#include <QJsonValue>
 #include <QList>
 #include <QMap>
 #include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+class MRVShortcutScheme;
 
 /**
  * The user's preferences: the key and the default of every setting, and the few preferences that
@@ -364,6 +368,11 @@ public:
 
         /** Whether the value is another than the default. */
         bool isChanged() const;
+        /**
+         * For programs: "key"; "type", its typeName(); "value" and "default" as
+         * MRVOptions::toJson() gives them; "changed"; "accepts", if not empty; "origin", or null.
+         */
+        QJsonObject toJson() const;
     };
 
     /** The user's own preferences: those of companyName() and applicationName(), native format. */
@@ -479,9 +488,22 @@ public:
     /**
      * The auto-replace list. A stored list that was saved before ordinals existed gains them,
      * disabled; the default list where none is stored, or none that can be read.
+     *
+     * @param error if given, receives a translated line that names the file where the stored list
+     *              cannot be read whole; untouched otherwise.
      */
-    MRVAutoReplaceList autoReplaceList() const;
+    MRVAutoReplaceList autoReplaceList(QString *error = nullptr) const;
     bool setAutoReplaceList(const MRVAutoReplaceList &list);
+
+    /**
+     * The stored shortcut scheme, without entries for the commands that it lacks; the default one
+     * where none is stored.
+     *
+     * @param error if given, receives a translated line that names the file where not all of the
+     *              stored scheme could be read; untouched otherwise.
+     * @return what could be read; a null scheme where nothing could.
+     */
+    MRVShortcutScheme shortcutScheme(QString *error = nullptr) const;
 
     /** The codec that texts are imported with: a name that QTextCodec knows, "UTF-8" by default. */
     QByteArray defaultTextEncoding() const;
@@ -539,6 +561,11 @@ public:
      */
     static QStringList settingKeys();
     /**
+     * The key that a mistyped one was probably meant to be, whose group may be left out; null where
+     * none is near.
+     */
+    static QString closestKey(const QString &wrong);
+    /**
      * The value of a setting, its default, and where the value comes from. A value of the system's
      * own file, which the user's overrides, counts as stored.
      *
@@ -559,6 +586,11 @@ public:
      * their Base64 form, which is also that of text formats.
      */
     static QString toText(SettingType type, const QVariant &value);
+    /**
+     * A @p value of explain() for programs: flags, numbers and lists of texts as those of JSON, all
+     * others as toText() gives them.
+     */
+    static QJsonValue toJson(SettingType type, const QVariant &value);
     /**
      * Reads @p text as the type of the setting @p key and stores it. A flag may also be given as
      * "yes", "no", "on", "off", "1" or "0", a colour by its SVG name, a font by its family and size

@@ -1,5 +1,8 @@
 #include "options/mrvoptionstables_p.h"
 
+#include "util/mrvclosestmatch.h"
+
+#include <QMap>
 #include <QSettings>
 
 #include <algorithm>
@@ -177,6 +180,36 @@ bool MRVOptions::Explanation::isChanged() const
 {
     // Compared as texts, since QVariant cannot compare formats and lists of numbers.
     return toText(type, value) != toText(type, defaultValue);
+}
+
+QJsonObject MRVOptions::Explanation::toJson() const
+{
+    QJsonObject object{
+        {QStringLiteral("key"), key},
+        {QStringLiteral("type"), typeName(type)},
+        {QStringLiteral("value"), MRVOptions::toJson(type, value)},
+        {QStringLiteral("default"), MRVOptions::toJson(type, defaultValue)},
+        {QStringLiteral("changed"), isChanged()},
+        {QStringLiteral("origin"), origin.isEmpty() ? QJsonValue() : QJsonValue(origin)},
+    };
+    if (!accepts.isEmpty()) {
+        object.insert(QStringLiteral("accepts"), accepts);
+    }
+    return object;
+}
+
+QString MRVOptions::closestKey(const QString &wrong)
+{
+    const QStringList keys = settingKeys();
+    const QString key = MRV::closestMatch(wrong, keys);
+    if (!key.isNull()) {
+        return key;
+    }
+    QMap<QString, QString> keysByName;
+    for (const QString &one : keys) {
+        keysByName.insert(one.section(u'/', -1), one);
+    }
+    return keysByName.value(MRV::closestMatch(wrong, keysByName.keys()));
 }
 
 QStringList MRVOptions::settingKeys()

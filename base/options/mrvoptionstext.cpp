@@ -3,6 +3,7 @@
 #include "settings/mrvsettingsvalue.h"
 #include "textformat/mrvtextformat.h"
 
+#include <QJsonArray>
 #include <QRegularExpression>
 
 #include <optional>
@@ -297,6 +298,22 @@ QString MRVOptions::toText(SettingType type, const QVariant &value)
                    toByteArray(value.value<QTextFormat>().toBlockFormat()).toBase64());
     }
     return value.toString();
+}
+
+QJsonValue MRVOptions::toJson(SettingType type, const QVariant &value)
+{
+    switch (type) {
+    case FlagType:
+        return value.toBool();
+    case IntType:
+        return value.toInt();
+    case RealType:
+        return value.toDouble();
+    case StringListType:
+        return QJsonArray::fromStringList(value.toStringList());
+    default:
+        return toText(type, value);
+    }
 }
 
 bool MRVOptions::setFromText(const QString &key, const QString &text, QString *error)

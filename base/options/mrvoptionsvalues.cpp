@@ -1,5 +1,7 @@
 #include "options/mrvoptionstables_p.h"
 
+#include "shortcuts/mrvshortcutscheme.h"
+
 #include "settings/mrvsettingsvalue.h"
 
 #include <QTextCodec>
@@ -239,9 +241,17 @@ bool MRVOptions::setPdfSettings(const QString &name, const QByteArray &settings)
     return setValue(pdfKey(keyText(PdfSettings), name), settings);
 }
 
-MRVAutoReplaceList MRVOptions::autoReplaceList() const
+MRVAutoReplaceList MRVOptions::autoReplaceList(QString *error) const
 {
     MRVAutoReplaceList list;
+    const QByteArray stored = QSettings::value(keyText(SubstitutionList)).toByteArray();
+    QString reason;
+    if (error && !stored.isEmpty()) {
+        list.fromByteArray(stored, &reason);
+    }
+    if (!reason.isEmpty()) {
+        *error = tr("the list in %1: %2").arg(fileName(), reason);
+    }
     list.fromByteArray(value(keyText(SubstitutionList)).toByteArray());
     // The default list holds the ordinals already.
     if (list.isEmpty()) {
@@ -249,6 +259,21 @@ MRVAutoReplaceList MRVOptions::autoReplaceList() const
     }
     MRVAutoReplaceList::appendMissingOrdinals(&list);
     return list;
+}
+
+MRVShortcutScheme MRVOptions::shortcutScheme(QString *error) const
+{
+    // value() gives the default in place of what cannot be read.
+    const QVariant stored = QSettings::value(keyText(DefaultShortcutScheme));
+    if (!stored.isValid()) {
+        return MRVShortcutScheme::morvane();
+    }
+    QString reason;
+    const auto scheme = MRVShortcutScheme::fromByteArray(stored.toByteArray(), &reason);
+    if (error && !reason.isEmpty()) {
+        *error = tr("the shortcut scheme in %1: %2").arg(fileName(), reason);
+    }
+    return scheme;
 }
 
 bool MRVOptions::setAutoReplaceList(const MRVAutoReplaceList &list)

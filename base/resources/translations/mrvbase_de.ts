@@ -686,6 +686,14 @@ Fehler: %2</translation>
         <source>%1 cannot be written</source>
         <translation>%1 kann nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>the list in %1: %2</source>
+        <translation>die Liste in %1: %2</translation>
+    </message>
+    <message>
+        <source>the shortcut scheme in %1: %2</source>
+        <translation>das Tastenkürzelschema in %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>

@@ -686,6 +686,14 @@ Error: %2</translation>
         <source>%1 cannot be written</source>
         <translation>no se puede escribir %1</translation>
     </message>
+    <message>
+        <source>the list in %1: %2</source>
+        <translation>la lista de %1: %2</translation>
+    </message>
+    <message>
+        <source>the shortcut scheme in %1: %2</source>
+        <translation>el esquema de atajos de %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>

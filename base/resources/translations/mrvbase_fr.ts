@@ -686,6 +686,14 @@ Erreur&#xa0;: %2</translation>
         <source>%1 cannot be written</source>
         <translation>impossible d’écrire %1</translation>
     </message>
+    <message>
+        <source>the list in %1: %2</source>
+        <translation>la liste de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the shortcut scheme in %1: %2</source>
+        <translation>le jeu de raccourcis de %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
