@@ -1,14 +1,10 @@
 #include "settingsfile.h"
-#include "suggestion.h"
 
-#include "core/mrvfilewriter.h"
 #include "options/mrvoptions.h"
 #include "shortcuts/mrvshortcutcheck.h"
 #include "shortcuts/mrvshortcutscheme.h"
 
-#include <QFileInfo>
-#include <QJsonObject>
-#include <QSettings>
+#include "core/mrvfilewriter.h"
 
 namespace {
 
@@ -18,41 +14,14 @@ bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error
     if (!file.open(path, Access::Read, error)) {
         return false;
     }
-    const MRVOptions *options = file.options();
-    // The options give the default in place of what cannot be read; here it has to be told.
-    const QVariant stored =
-        options->QSettings::value(options->keyText(MRVOptions::DefaultShortcutScheme));
-    *scheme = MRVShortcutScheme::morvane();
-    QString reason;
-    if (stored.isValid()) {
-        *scheme = MRVShortcutScheme::fromByteArray(stored.toByteArray(), &reason);
-    }
-    if (!reason.isEmpty()) {
-        *error = QStringLiteral("the shortcut scheme in %1: %2").arg(options->fileName(), reason);
-    }
-    return reason.isEmpty();
+    *scheme = file.options()->shortcutScheme(error);
+    return error->isEmpty();
 }
 
 bool readNamed(const QString &name, MRVShortcutScheme *scheme, QString *error)
 {
-    // First, whatever lies in the current folder.
-    *scheme = MRVShortcutScheme::predefinedScheme(name);
-    if (scheme->name() == name) {
-        return true;
-    }
-    if (QFileInfo::exists(name)) {
-        *scheme = MRVShortcutScheme::load(name, error);
-        return error->isEmpty();
-    }
-    QStringList names;
-    const QList<MRVShortcutScheme> predefined = MRVShortcutScheme::predefinedSchemes();
-    for (const MRVShortcutScheme &one : predefined) {
-        names.append(one.name());
-    }
-    *error =
-        QStringLiteral("%1: there is no such file, and no predefined scheme of that name").arg(name)
-        + didYouMean(name, names);
-    return false;
+    *scheme = MRVShortcutScheme::loadNamed(name, error);
+    return error->isEmpty();
 }
 
 // The scheme with the number of an argument; without such an argument that of the settings.
@@ -75,24 +44,6 @@ int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
 QString nameOf(MRVShortcut::Id id)
 {
     return QString::fromLatin1(MRVShortcut::valueToKey(id));
-}
-
-QString portable(const QKeySequence &keys)
-{
-    return keys.toString(QKeySequence::PortableText);
-}
-
-QString native(const QKeySequence &keys)
-{
-    return keys.isEmpty() ? QStringLiteral("no key") : keys.toString(QKeySequence::NativeText);
-}
-
-QJsonObject jsonOf(const MRVShortcutInfo &info)
-{
-    return {{QStringLiteral("command"), nameOf(info.id)},
-            {QStringLiteral("group"), MRVShortcut::group(info.id)},
-            {QStringLiteral("text"), info.text},
-            {QStringLiteral("keys"), portable(info.sequence)}};
 }
 
 // What list shows: the options, checked.
@@ -146,9 +97,9 @@ int list(const Call &call)
             continue;
         }
         found = true;
-        printAnswer(call, jsonOf(info),
-                    nameOf(info.id).leftJustified(32) + u' '
-                        + native(info.sequence).leftJustified(22) + u' ' + displayed(info.text));
+        printAnswer(call, info.toJson(),
+                    nameOf(info.id).leftJustified(32) + u' ' + info.keysText().leftJustified(22)
+                        + u' ' + displayed(info.text));
     }
     return found ? Done : Failed;
 }
@@ -161,44 +112,10 @@ int check(const Call &call)
     }
     const QList<MRVShortcutCheck::Conflict> conflicts = MRVShortcutCheck::conflicts(scheme);
     for (const MRVShortcutCheck::Conflict &conflict : conflicts) {
-        const QString sentence = MRVShortcutCheck::describe(conflict, scheme);
-        if (!call.json()) {
-            printLine(displayed(sentence));
-            continue;
-        }
-        QJsonObject object{
-            {QStringLiteral("kind"), MRVShortcutCheck::toString(conflict.kind)},
-            {QStringLiteral("command"), nameOf(conflict.id)},
-            {QStringLiteral("keys"), portable(scheme.shortcut(conflict.id))},
-            {QStringLiteral("message"), sentence},
-        };
-        if (conflict.other != MRVShortcut::NoId) {
-            object.insert(QStringLiteral("other"), nameOf(conflict.other));
-            object.insert(QStringLiteral("otherKeys"), portable(scheme.shortcut(conflict.other)));
-        }
-        printJson(object);
+        printAnswer(call, MRVShortcutCheck::toJson(conflict, scheme),
+                    displayed(MRVShortcutCheck::describe(conflict, scheme)));
     }
     return conflicts.isEmpty() ? Done : Failed;
-}
-
-QString differenceText(const MRVShortcutCheck::Difference &difference)
-{
-    const MRVShortcutInfo &before = difference.before;
-    const MRVShortcutInfo &after = difference.after;
-    if (after.id == MRVShortcut::NoId) {
-        return QStringLiteral("removed (%1)").arg(native(before.sequence));
-    }
-    if (before.id == MRVShortcut::NoId) {
-        return QStringLiteral("added (%1)").arg(native(after.sequence));
-    }
-    QStringList changes;
-    if (before.sequence != after.sequence) {
-        changes += native(before.sequence) + QLatin1String(" -> ") + native(after.sequence);
-    }
-    if (before.text != after.text) {
-        changes += QStringLiteral("\u201c%1\u201d -> \u201c%2\u201d").arg(before.text, after.text);
-    }
-    return changes.join(QLatin1String(", "));
 }
 
 int diff(const Call &call)
@@ -213,17 +130,9 @@ int diff(const Call &call)
     }
     const auto differences = MRVShortcutCheck::differences(before, after);
     for (const MRVShortcutCheck::Difference &difference : differences) {
-        if (!call.json()) {
-            printLine(nameOf(difference.id) + QLatin1String(": ")
-                      + displayed(differenceText(difference)));
-            continue;
-        }
-        const auto side = [](const MRVShortcutInfo &info) {
-            return info.id == MRVShortcut::NoId ? QJsonValue() : QJsonValue(jsonOf(info));
-        };
-        printJson({{QStringLiteral("command"), nameOf(difference.id)},
-                   {QStringLiteral("before"), side(difference.before)},
-                   {QStringLiteral("after"), side(difference.after)}});
+        printAnswer(call, MRVShortcutCheck::toJson(difference),
+                    nameOf(difference.id) + QLatin1String(": ")
+                        + displayed(MRVShortcutCheck::describe(difference)));
     }
     return differences.isEmpty() ? Failed : Done;
 }

@@ -198,6 +198,56 @@ QString MRVShortcutCheck::describe(const Conflict &conflict, const MRVShortcutSc
     return QString();
 }
 
+QString MRVShortcutCheck::describe(const Difference &difference)
+{
+    const MRVShortcutInfo &before = difference.before;
+    const MRVShortcutInfo &after = difference.after;
+    if (after.id == MRVShortcut::NoId) {
+        return tr("removed (%1)").arg(before.keysText());
+    }
+    if (before.id == MRVShortcut::NoId) {
+        return tr("added (%1)").arg(after.keysText());
+    }
+    QStringList changes;
+    if (before.sequence != after.sequence) {
+        changes += before.keysText() + QLatin1String(" -> ") + after.keysText();
+    }
+    if (before.text != after.text) {
+        changes += tr("\u201c%1\u201d -> \u201c%2\u201d").arg(before.text, after.text);
+    }
+    return changes.join(QLatin1String(", "));
+}
+
+QJsonObject MRVShortcutCheck::toJson(const Conflict &conflict, const MRVShortcutScheme &scheme)
+{
+    const auto name = [](Id id) { return QString::fromLatin1(MRVShortcut::valueToKey(id)); };
+    const auto keys = [&](Id id) {
+        return scheme.shortcut(id).toString(QKeySequence::PortableText);
+    };
+    QJsonObject object{
+        {QStringLiteral("kind"), toString(conflict.kind)},
+        {QStringLiteral("command"), name(conflict.id)},
+        {QStringLiteral("keys"), keys(conflict.id)},
+        {QStringLiteral("message"), describe(conflict, scheme)},
+    };
+    if (conflict.other != MRVShortcut::NoId) {
+        object.insert(QStringLiteral("other"), name(conflict.other));
+        object.insert(QStringLiteral("otherKeys"), keys(conflict.other));
+    }
+    return object;
+}
+
+QJsonObject MRVShortcutCheck::toJson(const Difference &difference)
+{
+    const auto side = [](const MRVShortcutInfo &info) {
+        return info.id == MRVShortcut::NoId ? QJsonValue() : QJsonValue(info.toJson());
+    };
+    return {
+        {QStringLiteral("command"), QString::fromLatin1(MRVShortcut::valueToKey(difference.id))},
+        {QStringLiteral("before"), side(difference.before)},
+        {QStringLiteral("after"), side(difference.after)}};
+}
+
 QList<MRVShortcut::Id> MRVShortcutCheck::owners(const MRVShortcutScheme &scheme,
                                                 const QKeySequence &sequence)
 {

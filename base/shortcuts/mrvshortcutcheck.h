@@ -6,6 +6,7 @@
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
+#include <QJsonObject>
 #include <QKeySequence>
 #include <QList>
 #include <QString>
@@ -77,6 +78,20 @@ public:
 
     /** A translated sentence with the commands' texts and keys, to be shown to the user. */
     static QString describe(const Conflict &conflict, const MRVShortcutScheme &scheme);
+
+    /** A translated text of what has changed, without the command: "Ctrl+S -> F2". */
+    static QString describe(const Difference &difference);
+
+    /**
+     * For programs: "kind", as toString() gives it; "command" and "keys", and where there are two
+     * commands "other" and "otherKeys"; "message", what describe() gives.
+     */
+    static QJsonObject toJson(const Conflict &conflict, const MRVShortcutScheme &scheme);
+    /**
+     * For programs: "command"; "before" and "after", as MRVShortcutInfo::toJson() gives them, or
+     * null.
+     */
+    static QJsonObject toJson(const Difference &difference);
 
     /**
      * The commands that have just the keys @p sequence, in the order of their numbers: one in a

@@ -3,6 +3,8 @@
 #include "shortcuts/mrvshortcut.h"
 #include "util/mrvbase_export.h"
 
+#include <QCoreApplication>
+#include <QJsonObject>
 #include <QKeySequence>
 #include <QString>
 
@@ -13,6 +15,8 @@
  */
 class MRVBASE_EXPORT MRVShortcutInfo
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVShortcutInfo)
+
 public:
     MRVShortcut::Id id = MRVShortcut::NoId;
     QKeySequence sequence; ///< up to four keys to be pressed one after the other; empty for none
@@ -23,6 +27,12 @@ public:
      * whatever case. An empty filter fits every entry.
      */
     bool matchFilter(const QString &filter) const;
+
+    /** The key sequence as native text; a translated "no key" where it is empty. */
+    QString keysText() const;
+
+    /** For programs: "command", the name of the id; "group"; "text"; "keys", as portable text. */
+    QJsonObject toJson() const;
 
     friend bool operator==(const MRVShortcutInfo &a, const MRVShortcutInfo &b)
     {

@@ -1,5 +1,8 @@
 #include "shortcuts/mrvshortcutscheme.h"
 
+#include "util/mrvclosestmatch.h"
+#include "util/mrvfailure.h"
+
 #include "core/mcoretype.h"
 #include "core/mrvcheckedstream.h"
 #include "core/mrvcoreutil.h"
@@ -7,6 +10,7 @@
 #include "core/mrvinputlimits.h"
 
 #include <QDataStream>
+#include <QFileInfo>
 #include <QIODevice>
 #include <QSet>
 
@@ -295,6 +299,30 @@ MRVShortcutScheme MRVShortcutScheme::predefinedScheme(const QString &name)
         std::find_if(schemes.cbegin(), schemes.cend(),
                      [&](const MRVShortcutScheme &scheme) { return scheme.m_name == name; });
     return found != schemes.cend() ? *found : morvane();
+}
+
+MRVShortcutScheme MRVShortcutScheme::loadNamed(const QString &nameOrPath, QString *error)
+{
+    const QList<MRVShortcutScheme> schemes = predefinedSchemes();
+    QStringList names;
+    for (const MRVShortcutScheme &scheme : schemes) {
+        if (scheme.m_name == nameOrPath) {
+            return scheme;
+        }
+        names.append(scheme.m_name);
+    }
+    if (QFileInfo::exists(nameOrPath)) {
+        return load(nameOrPath, error);
+    }
+    const QString meant = MRV::closestMatch(nameOrPath, names);
+    MRV::fail(
+        error,
+        meant.isNull()
+            ? tr("%1: there is no such file, and no predefined scheme of that name").arg(nameOrPath)
+            : tr("%1: there is no such file, and no predefined scheme of that name; did you "
+                 "mean '%2'?")
+                  .arg(nameOrPath, meant));
+    return MRVShortcutScheme();
 }
 
 void MRVShortcutScheme::read(QDataStream &stream, QString *error)

@@ -218,6 +218,14 @@ public:
 
     /** The predefined scheme with this translated name, compared exactly; morvane() without one. */
     static MRVShortcutScheme predefinedScheme(const QString &name);
+    /**
+     * The predefined scheme with this translated name, whatever files are there, or else that of
+     * the file of this path.
+     *
+     * @param error as for load(); for an unknown name, with a similar one in it.
+     * @return what could be read; a null scheme where nothing could.
+     */
+    static MRVShortcutScheme loadNamed(const QString &nameOrPath, QString *error = nullptr);
 
     friend bool operator==(const MRVShortcutScheme &a, const MRVShortcutScheme &b)
     {

@@ -2329,6 +2329,25 @@ Fehler: %2</translation>
         <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>Das Tastenkürzel von „%1“ hat keinen Namen und geht beim Speichern verloren.</translation>
     </message>
+    <message>
+        <source>removed (%1)</source>
+        <translation>entfernt (%1)</translation>
+    </message>
+    <message>
+        <source>added (%1)</source>
+        <translation>hinzugefügt (%1)</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2”</source>
+        <translation>„%1“ -&gt; „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutInfo</name>
+    <message>
+        <source>no key</source>
+        <translation>keine Taste</translation>
+    </message>
 </context>
 <context>
     <name>MRVShortcutScheme</name>
@@ -2366,6 +2385,14 @@ Fehler: %2</translation>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnte gelesen werden</numerusform>
             <numerusform>Das Schema ist beschädigt oder abgeschnitten; %n Tastenkürzel konnten gelesen werden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name</source>
+        <translation>%1: Es gibt weder eine solche Datei noch ein vordefiniertes Schema dieses Namens</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name; did you mean &apos;%2&apos;?</source>
+        <translation>%1: Es gibt weder eine solche Datei noch ein vordefiniertes Schema dieses Namens; meinten Sie „%2“?</translation>
     </message>
 </context>
 <context>

@@ -2329,6 +2329,25 @@ Error: %2</translation>
         <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>El atajo de «%1» no tiene nombre y se pierde al guardarlo.</translation>
     </message>
+    <message>
+        <source>removed (%1)</source>
+        <translation>eliminado (%1)</translation>
+    </message>
+    <message>
+        <source>added (%1)</source>
+        <translation>añadido (%1)</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2”</source>
+        <translation>«%1» -&gt; «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutInfo</name>
+    <message>
+        <source>no key</source>
+        <translation>sin tecla</translation>
+    </message>
 </context>
 <context>
     <name>MRVShortcutScheme</name>
@@ -2366,6 +2385,14 @@ Error: %2</translation>
             <numerusform>está dañado o incompleto; se pudo leer %n atajo</numerusform>
             <numerusform>está dañado o incompleto; se pudieron leer %n atajos</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name</source>
+        <translation>%1: no existe ningún archivo ni esquema predefinido con ese nombre</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name; did you mean &apos;%2&apos;?</source>
+        <translation>%1: no existe ningún archivo ni esquema predefinido con ese nombre; ¿quiso decir «%2»?</translation>
     </message>
 </context>
 <context>

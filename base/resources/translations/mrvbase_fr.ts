@@ -2329,6 +2329,25 @@ Erreur&#xa0;: %2</translation>
         <source>The key of “%1” has no name and cannot be stored.</source>
         <translation>Le raccourci de «&#xa0;%1&#xa0;» n’a pas de nom et se perd à l’enregistrement.</translation>
     </message>
+    <message>
+        <source>removed (%1)</source>
+        <translation>supprimé (%1)</translation>
+    </message>
+    <message>
+        <source>added (%1)</source>
+        <translation>ajouté (%1)</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2”</source>
+        <translation>«&#xa0;%1&#xa0;» -&gt; «&#xa0;%2&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>MRVShortcutInfo</name>
+    <message>
+        <source>no key</source>
+        <translation>aucune touche</translation>
+    </message>
 </context>
 <context>
     <name>MRVShortcutScheme</name>
@@ -2366,6 +2385,14 @@ Erreur&#xa0;: %2</translation>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourci a pu être lu</numerusform>
             <numerusform>il est endommagé ou tronqué&#xa0;; %n raccourcis ont pu être lus</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name</source>
+        <translation>%1&#xa0;: il n’existe ni fichier ni jeu prédéfini de ce nom</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file, and no predefined scheme of that name; did you mean &apos;%2&apos;?</source>
+        <translation>%1&#xa0;: il n’existe ni fichier ni jeu prédéfini de ce nom&#xa0;; vouliez-vous dire «&#xa0;%2&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
