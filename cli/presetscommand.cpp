@@ -1,13 +1,11 @@
 #include "settingsfile.h"
 #include "suggestion.h"
 
-#include "core/mrvcoreutil.h"
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetjson.h"
 #include "state/mrvtextpresetmgr.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonObject>
 
 namespace {
@@ -18,61 +16,17 @@ int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
                   + didYouMean(name, scheme.names()));
 }
 
-bool readPresetFile(const QString &path, MRVTextPresetScheme *scheme, QString *error)
+// Those that were not named by --settings are the user's own.
+MRVOptions *named(const Call &call, MRVOptions *options)
 {
-    QString reason;
-    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
-    if (!error->isEmpty()) {
-        return false;
-    }
-    *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
-    if (bytes.isEmpty() || !reason.isEmpty()) {
-        *error = QStringLiteral("%1 is not a preset file, or is damaged").arg(path);
-    }
-    return error->isEmpty();
+    return call.has("settings") ? options : nullptr;
 }
 
-// @p options: null when a preset file is read.
-bool readPresets(const Call &call, const MRVOptions *options, MRVTextPresetScheme *scheme,
-                 QString *error)
+int write(const Call &call, MRVOptions *options, const MRVTextPresetScheme &scheme)
 {
-    if (call.has("file")) {
-        return readPresetFile(call.value("file"), scheme, error);
-    }
-    if (!call.has("settings")) {
-        const QString path = MRVTextPresetMgr::presetSchemeFilePath();
-        if (QFileInfo::exists(path)) {
-            return readPresetFile(path, scheme, error);
-        }
-        *scheme = MRVTextPresetMgr::loadPresetScheme();
-        return true;
-    }
-    QString reason;
-    const QByteArray bytes = options->value(MRVOptions::TextPresets);
-    *scheme = MRVTextPresetScheme::fromByteArray(bytes, &reason);
-    if (!reason.isEmpty()) {
-        *error = options->fileName() + QLatin1String(": ") + reason;
-    }
-    return error->isEmpty();
-}
-
-bool writePresets(const Call &call, MRVOptions *options, const MRVTextPresetScheme &scheme,
-                  QString *error)
-{
-    if (call.has("settings")) {
-        options->setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
-        return options->saveNow(error);
-    }
-    MRVTextPresetMgr::savePresetScheme(scheme);
-    // The file may have been impossible to write, and the settings then be hidden by an older file.
-    if (!mrvOptions()->saveNow(error)) {
-        return false;
-    }
-    if (MRVTextPresetMgr::loadPresetScheme() != scheme) {
-        *error =
-            QStringLiteral("%1 cannot be written").arg(MRVTextPresetMgr::presetSchemeFilePath());
-    }
-    return error->isEmpty();
+    QString error;
+    return MRVTextPresetMgr::writePresets(scheme, named(call, options), &error) ? Done
+                                                                                : refuse(error);
 }
 
 void printFormat(const char *title, const QJsonObject &object)
@@ -124,26 +78,21 @@ int show(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 int exportTo(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
     QString error;
-    const QByteArray bytes = MRVTextPresetScheme::toByteArray(scheme);
-    return MRVCoreUtil::WriteBinaryFile(bytes, call.arguments.constFirst(), &error) ? Done
-                                                                                    : refuse(error);
+    return scheme.save(call.arguments.constFirst(), &error) ? Done : refuse(error);
 }
 
 int importFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 {
     QString error;
-    MRVTextPresetScheme added;
-    if (!readPresetFile(call.arguments.constFirst(), &added, &error)) {
+    const auto added = MRVTextPresetScheme::load(call.arguments.constFirst(), &error);
+    if (!error.isEmpty()) {
         return refuse(error);
     }
     if (call.has("only-these")) {
         scheme = MRVTextPresetScheme();
     }
-    const QStringList names = added.names();
-    for (const QString &name : names) {
-        scheme.setPreset(name, added.preset(name));
-    }
-    return writePresets(call, options, scheme, &error) ? Done : refuse(error);
+    scheme.merge(added);
+    return write(call, options, scheme);
 }
 
 int removeFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
@@ -153,8 +102,7 @@ int removeFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme
             return refuseName(name, scheme);
         }
     }
-    QString error;
-    return writePresets(call, options, scheme, &error) ? Done : refuse(error);
+    return write(call, options, scheme);
 }
 
 // Opens the settings unless a preset file is read, and hands the presets to the verb.
@@ -171,12 +119,12 @@ int withPresets(const Call &call)
     }
     MRVTextPresetScheme scheme;
     // The presets may be damaged when all of them are to be replaced.
-    const bool isReplaced = call.has("only-these");
-    if (!error.isEmpty()
-        || (!isReplaced && !readPresets(call, settings.options(), &scheme, &error))) {
-        return refuse(error);
+    if (error.isEmpty() && !call.has("only-these")) {
+        scheme = call.has("file")
+            ? MRVTextPresetScheme::load(call.value("file"), &error)
+            : MRVTextPresetMgr::readPresets(named(call, settings.options()), &error);
     }
-    return Run(call, settings.options(), scheme);
+    return error.isEmpty() ? Run(call, settings.options(), scheme) : refuse(error);
 }
 
 constexpr Verb verbs[] = {

@@ -1,8 +1,11 @@
 #include "presets/mrvtextpresetscheme.h"
 
+#include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
+
 #include "core/mcoretype.h"
 #include "core/mrvcheckedstream.h"
-#include "textformat/mrvtextformat.h"
+#include "core/mrvcoreutil.h"
 
 #include <QDataStream>
 #include <QFont>
@@ -102,6 +105,32 @@ MRVTextPresetScheme MRVTextPresetScheme::defaultScheme()
         scheme.setPreset(QLatin1String(row.name), defaultPreset(row));
     }
     return scheme;
+}
+
+void MRVTextPresetScheme::merge(const MRVTextPresetScheme &other)
+{
+    for (auto it = other.m_presets.cbegin(); it != other.m_presets.cend(); ++it) {
+        m_presets.insert(it.key(), it.value());
+    }
+}
+
+MRVTextPresetScheme MRVTextPresetScheme::load(const QString &path, QString *error)
+{
+    QString unreadable;
+    QString damage;
+    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
+    const MRVTextPresetScheme scheme = fromByteArray(bytes, &damage);
+    if (!unreadable.isEmpty()) {
+        MRV::fail(error, unreadable);
+    } else if (bytes.isEmpty() || !damage.isEmpty()) {
+        MRV::fail(error, tr("%1 is not a preset file, or is damaged").arg(path));
+    }
+    return scheme;
+}
+
+bool MRVTextPresetScheme::save(const QString &path, QString *error) const
+{
+    return MRVCoreUtil::WriteBinaryFile(toByteArray(*this), path, error);
 }
 
 QDataStream &operator<<(QDataStream &stream, const MRVTextPresetScheme &scheme)

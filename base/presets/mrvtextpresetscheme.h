@@ -37,6 +37,9 @@ public:
     /** @return false where there is no preset of that name. */
     bool deletePreset(const QString &name);
 
+    /** Adds all presets of @p other, each in the place of one of the same name. */
+    void merge(const MRVTextPresetScheme &other);
+
     /** Whether there is a preset of exactly that name. */
     bool contains(const QString &name) const { return m_presets.contains(name); }
     /** The preset of that name, or one that does nothing. */
@@ -63,6 +66,22 @@ public:
      *              before the damage are returned.
      */
     static MRVTextPresetScheme fromByteArray(const QByteArray &bytes, QString *error = nullptr);
+
+    /**
+     * The scheme in the file @p path.
+     *
+     * @param error if given, receives a translated line that names the file when it cannot be read,
+     *              or is empty or damaged; untouched on success.
+     * @return what could be read.
+     */
+    static MRVTextPresetScheme load(const QString &path, QString *error = nullptr);
+    /**
+     * Writes the stored form to the file @p path, whole or not at all.
+     *
+     * @param error if given, receives a translated line that names the file on failure; untouched
+     *              on success.
+     */
+    bool save(const QString &path, QString *error = nullptr) const;
 
     /**
      * The six presets that a new user finds: "Block Quote", "Body", "Essay Block Quote

@@ -1,7 +1,9 @@
 #include "state/mrvtextpresetmgr.h"
 
-#include "core/mrvcoreutil.h"
 #include "options/mrvoptions.h"
+#include "util/mrvfailure.h"
+
+#include "core/mrvcoreutil.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -90,4 +92,38 @@ MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
         qCWarning(lcSettings, "%s", qPrintable(error));
     }
     return MRVTextPresetScheme::fromByteArray(mrvOptions()->value(MRVOptions::TextPresets));
+}
+
+MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, QString *error)
+{
+    const QString path = options ? QString() : presetSchemeFilePath();
+    if (QFileInfo::exists(path)) {
+        return MRVTextPresetScheme::load(path, error);
+    }
+    if (!options) {
+        return loadPresetScheme();
+    }
+    QString reason;
+    const auto scheme =
+        MRVTextPresetScheme::fromByteArray(options->value(MRVOptions::TextPresets), &reason);
+    if (!reason.isEmpty()) {
+        MRV::fail(error, options->fileName(), reason);
+    }
+    return scheme;
+}
+
+bool MRVTextPresetMgr::writePresets(const MRVTextPresetScheme &scheme, MRVOptions *options,
+                                    QString *error)
+{
+    if (options) {
+        options->setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
+        return options->saveNow(error);
+    }
+    savePresetScheme(scheme);
+    if (!mrvOptions()->saveNow(error)) {
+        return false;
+    }
+    // The file may have been impossible to write, and the settings then be hidden by an older file.
+    return loadPresetScheme() == scheme
+        || MRV::fail(error, tr("%1 cannot be written").arg(presetSchemeFilePath()));
 }

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QString>
 
+class MRVOptions;
+
 /**
  * The user's text presets: loaded when first asked for, saved at every change.
  *
@@ -57,6 +59,30 @@ public:
      * settings; where there are none, the defaults. Of damaged ones, the presets before the damage.
      */
     static MRVTextPresetScheme loadPresetScheme();
+
+    /**
+     * @name Checked
+     *
+     * For who must not lose a preset: what is damaged or cannot be written is told.
+     */
+    //@{
+    /**
+     * The presets of @p options, or for null those that loadPresetScheme() finds.
+     *
+     * @param error receives one line that names the file when that holds something else, or is
+     *              damaged; untouched on success.
+     * @return what could be read.
+     */
+    static MRVTextPresetScheme readPresets(const MRVOptions *options, QString *error);
+    /**
+     * Saves a scheme to @p options at once, or for null as savePresetScheme() does.
+     *
+     * @param error receives one line that names the file on failure; untouched on success.
+     * @return false when @p scheme is not what will be read the next time.
+     */
+    static bool writePresets(const MRVTextPresetScheme &scheme, MRVOptions *options,
+                             QString *error);
+    //@}
 
 Q_SIGNALS:
     /** The presets were replaced or changed, and are saved. */

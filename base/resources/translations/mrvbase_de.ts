@@ -2479,10 +2479,21 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVTextPresetMgr</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextPresetScheme</name>
     <message>
         <source>The text presets are damaged, or were stored by another version</source>
         <translation>Die Textvorlagen sind beschädigt oder wurden von einer anderen Version gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is not a preset file, or is damaged</source>
+        <translation>%1 ist keine Datei mit Textvorlagen oder ist beschädigt</translation>
     </message>
 </context>
 <context>

@@ -2479,10 +2479,21 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVTextPresetMgr</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>no se puede escribir %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextPresetScheme</name>
     <message>
         <source>The text presets are damaged, or were stored by another version</source>
         <translation>Los estilos de texto predefinidos están dañados o los guardó otra versión</translation>
+    </message>
+    <message>
+        <source>%1 is not a preset file, or is damaged</source>
+        <translation>%1 no es un archivo de estilos de texto predefinidos, o está dañado</translation>
     </message>
 </context>
 <context>

@@ -2479,10 +2479,21 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVTextPresetMgr</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>impossible d’écrire %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVTextPresetScheme</name>
     <message>
         <source>The text presets are damaged, or were stored by another version</source>
         <translation>Les préréglages de texte sont endommagés ou ont été enregistrés par une autre version</translation>
+    </message>
+    <message>
+        <source>%1 is not a preset file, or is damaged</source>
+        <translation>%1 n’est pas un fichier de préréglages de texte, ou est endommagé</translation>
     </message>
 </context>
 <context>
