@@ -4,9 +4,7 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonObject>
-#include <QXmlStreamReader>
 
 #include <cstdio>
 
@@ -27,24 +25,6 @@ QString pathOf(const Call &call)
     return call.arguments.value(1);
 }
 
-bool isXmlName(const QString &name)
-{
-    QXmlStreamReader reader(u'<' + name + QLatin1String("/>"));
-    reader.setNamespaceProcessing(false);
-    return reader.readNextStartElement() && reader.qualifiedName() == name;
-}
-
-QStringList childNames(const QDomElement &element)
-{
-    QStringList names;
-    for (QDomElement child = element.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        names.append(child.tagName());
-    }
-    names.removeDuplicates();
-    return names;
-}
-
 bool moveTo(MRVDomDoc &doc, const Call &call)
 {
     doc.cdRoot();
@@ -53,22 +33,6 @@ bool moveTo(MRVDomDoc &doc, const Call &call)
         return false;
     }
     return true;
-}
-
-QJsonObject toJson(MRVDomDoc &doc)
-{
-    QJsonObject attributes;
-    const QDomElement element = doc.currentElement();
-    const QDomNamedNodeMap map = element.attributes();
-    for (int i = 0; i < map.count(); ++i) {
-        attributes.insert(map.item(i).nodeName(), map.item(i).nodeValue());
-    }
-    QString text;
-    doc.get(&text);
-    return {{QStringLiteral("path"), doc.workPath()},
-            {QStringLiteral("text"), text},
-            {QStringLiteral("attributes"), attributes},
-            {QStringLiteral("elements"), QJsonArray::fromStringList(childNames(element))}};
 }
 
 int get(MRVDomDoc &doc, const Call &call)
@@ -95,7 +59,7 @@ int get(MRVDomDoc &doc, const Call &call)
                 call, QStringLiteral("%1 has no attribute '%2'").arg(doc.workPath(), attribute));
         }
         if (call.json()) {
-            printJson(toJson(doc));
+            printJson(doc.toJson());
         } else {
             printLine(text);
         }
@@ -113,7 +77,7 @@ int list(MRVDomDoc &doc, const Call &call)
          child = child.nextSiblingElement()) {
         doc.setWorkElement(child);
         if (call.json()) {
-            printJson(toJson(doc));
+            printJson(doc.toJson());
             continue;
         }
         QString text;
@@ -130,7 +94,7 @@ int list(MRVDomDoc &doc, const Call &call)
 int set(MRVDomDoc &doc, const Call &call)
 {
     const QString attribute = call.value("attribute");
-    if (call.has("attribute") && !isXmlName(attribute)) {
+    if (call.has("attribute") && !MRVDomDoc::isXmlName(attribute)) {
         return refuse(call, QStringLiteral("'%1' is no name for an attribute").arg(attribute));
     }
     if (!moveTo(doc, call)) {
@@ -142,7 +106,7 @@ int set(MRVDomDoc &doc, const Call &call)
         return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
     }
     if (call.json()) {
-        printJson(toJson(doc));
+        printJson(doc.toJson());
     }
     return Done;
 }
@@ -175,33 +139,15 @@ int remove(MRVDomDoc &doc, const Call &call)
 
 int create(MRVDomDoc &doc, const Call &call)
 {
-    QStringList steps = pathOf(call).split(u'/', Qt::SkipEmptyParts);
-    for (QString &step : steps) {
-        step = step.trimmed();
-        if (step != QLatin1String("..") && step != QLatin1String(".") && !isXmlName(step)) {
-            return refuse(call, QStringLiteral("'%1' is no name for an element").arg(step));
-        }
-    }
-    if (pathOf(call).startsWith(u'/') && !steps.isEmpty()) {
-        const QString root = steps.takeFirst();
-        if (doc.documentElement().isNull()) {
-            doc.setRoot(root);
-        } else if (doc.documentElement().tagName() != root) {
-            return refuse(call, doc.whyMissing(u'/' + root));
-        }
-    }
-    if (!doc.cdRoot()) {
-        return refuse(call, QStringLiteral("a new document needs a path that begins with '/'"));
-    }
-    const int depth = doc.createPath(steps.join(u'/'));
-    if (depth < steps.size()) {
-        return refuse(call, QStringLiteral("'%1' cannot be created").arg(steps[depth]));
+    QString error;
+    if (!doc.createElements(pathOf(call), &error)) {
+        return refuse(call, error);
     }
     if (!call.arguments.value(2).isNull() && !doc.set(call.arguments.value(2))) {
         return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
     }
     if (call.json()) {
-        printJson(toJson(doc));
+        printJson(doc.toJson());
     }
     return Done;
 }

@@ -1,12 +1,16 @@
 #include "dom/mrvdomdoc.h"
 
-#include "core/mrvfilewriter.h"
-#include "core/mrvxmltext.h"
 #include "dom/mrvdomblanks_p.h"
 #include "dom/mrvdomwriter_p.h"
 #include "input/mrvxmlreader.h"
+#include "util/mrvfailure.h"
+
+#include "core/mrvfilewriter.h"
+#include "core/mrvxmltext.h"
 
 #include <QFile>
+#include <QJsonArray>
+#include <QXmlStreamReader>
 
 namespace {
 
@@ -437,4 +441,51 @@ int MRVDomDoc::createPath(const QString &path)
         ++count;
     }
     return count;
+}
+
+bool MRVDomDoc::isXmlName(const QString &name)
+{
+    QXmlStreamReader reader(u'<' + name + QLatin1String("/>"));
+    reader.setNamespaceProcessing(false);
+    return reader.readNextStartElement() && reader.qualifiedName() == name;
+}
+
+bool MRVDomDoc::createElements(const QString &path, QString *error)
+{
+    QStringList steps = path.split(u'/', Qt::SkipEmptyParts);
+    for (QString &step : steps) {
+        step = step.trimmed();
+        if (step != QLatin1String("..") && step != QLatin1String(".") && !isXmlName(step)) {
+            return MRV::fail(error, tr("'%1' is no name for an element").arg(step));
+        }
+    }
+    if (path.startsWith(u'/') && !steps.isEmpty()) {
+        const QString root = steps.takeFirst();
+        if (documentElement().isNull()) {
+            setRoot(root);
+        } else if (documentElement().tagName() != root) {
+            return MRV::fail(error, whyMissing(u'/' + root));
+        }
+    }
+    if (!cdRoot()) {
+        return MRV::fail(error, tr("a new document needs a path that begins with '/'"));
+    }
+    const int depth = createPath(steps.join(u'/'));
+    return depth == steps.size()
+        || MRV::fail(error, tr("'%1' cannot be created").arg(steps.value(depth)));
+}
+
+QJsonObject MRVDomDoc::toJson() const
+{
+    QJsonObject attributes;
+    const QDomNamedNodeMap map = m_workElement.attributes();
+    for (int i = 0; i < map.count(); ++i) {
+        attributes.insert(map.item(i).nodeName(), map.item(i).nodeValue());
+    }
+    QString text;
+    get(&text);
+    return {{QStringLiteral("path"), workPath()},
+            {QStringLiteral("text"), text},
+            {QStringLiteral("attributes"), attributes},
+            {QStringLiteral("elements"), QJsonArray::fromStringList(childNames(m_workElement))}};
 }

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QDomDocument>
 #include <QDomElement>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -231,6 +232,11 @@ public:
      * begins with a full stop.
      */
     QDomElement findNext() const;
+    /**
+     * The work element for programs: "path", its workPath(); "text", what get() gives;
+     * "attributes", texts by name; "elements", the names of its child elements, each once.
+     */
+    QJsonObject toJson() const;
     /** Whether find() finds anything. */
     bool exists(const QString &path) const;
     /**
@@ -310,6 +316,18 @@ public:
      *        holds "@" or "=".
      */
     int createPath(const QString &path);
+    /**
+     * As createPath(), but with every step checked, and an absolute path begins at the root, which
+     * it makes where the document is empty.
+     *
+     * @param path  names of elements, "." and "..".
+     * @param error if given, receives one translated line on failure; untouched on success.
+     * @return false where a step is no name, the path leads out of the document, or does not begin
+     *         with the document element. Elements that were made before that remain.
+     */
+    bool createElements(const QString &path, QString *error = nullptr);
+    /** Whether @p name is one that XML allows for elements and attributes. */
+    static bool isXmlName(const QString &name);
     /**
      * Removes the first element that @p path names, or all that it names one after the other.
      *
@@ -520,6 +538,7 @@ private:
     const QVector<Step> &steps() const;
     QDomElement resolve(QDomElement e, int index, int end) const;
     QDomElement resolveBelow(const QDomElement &e, int index, int end) const;
+    static QStringList childNames(const QDomElement &element);
     QString firstMissing(const QString &path);
     int removeFound(const QString &path, const QString &attribute, bool all);
     int removeAll(const QString &path, const QString &attribute);

@@ -229,6 +229,16 @@ QDomElement MRVDomDoc::findNext() const
     return EmptyElement;
 }
 
+QStringList MRVDomDoc::childNames(const QDomElement &element)
+{
+    QStringList names;
+    for (QDomElement e = element.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        names.append(e.tagName());
+    }
+    names.removeDuplicates();
+    return names;
+}
+
 QString MRVDomDoc::whyMissing(const QString &path) const
 {
     // What is looked up here must not change what findNext() does.
@@ -263,12 +273,7 @@ QString MRVDomDoc::firstMissing(const QString &path)
         return tr("nothing is above %1").arg(workPath());
     }
     const QString name = step.section(u'@', 0, 0).trimmed();
-    QStringList names;
-    for (QDomElement e = m_workElement.firstChildElement(); !e.isNull();
-         e = e.nextSiblingElement()) {
-        names.append(e.tagName());
-    }
-    names.removeDuplicates();
+    const QStringList names = childNames(m_workElement);
     const QString meant = names.contains(name) ? QString() : MRV::closestMatch(name, names);
     return meant.isNull() ? tr("no '%1' below %2").arg(step, workPath())
                           : tr("no '%1' below %2; did you mean '%3'?").arg(step, workPath(), meant);

@@ -165,6 +165,18 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
         <translation>kein „%1“ unter %2; meinten Sie „%3“?</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is no name for an element</source>
+        <translation>„%1“ ist kein Name für ein Element</translation>
+    </message>
+    <message>
+        <source>a new document needs a path that begins with &apos;/&apos;</source>
+        <translation>ein neues Dokument braucht einen Pfad, der mit „/“ beginnt</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be created</source>
+        <translation>„%1“ kann nicht angelegt werden</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>

@@ -165,6 +165,18 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
         <translation>ningún «%1» debajo de %2; ¿quiso decir «%3»?</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is no name for an element</source>
+        <translation>«%1» no es un nombre de elemento</translation>
+    </message>
+    <message>
+        <source>a new document needs a path that begins with &apos;/&apos;</source>
+        <translation>un documento nuevo necesita una ruta que empiece por «/»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be created</source>
+        <translation>no se puede crear «%1»</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>

@@ -165,6 +165,18 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>no &apos;%1&apos; below %2; did you mean &apos;%3&apos;?</source>
         <translation>pas de «&#xa0;%1&#xa0;» sous %2&#xa0;; vouliez-vous dire «&#xa0;%3&#xa0;»&#xa0;?</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is no name for an element</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nom d’élément</translation>
+    </message>
+    <message>
+        <source>a new document needs a path that begins with &apos;/&apos;</source>
+        <translation>un nouveau document demande un chemin qui commence par «&#xa0;/&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be created</source>
+        <translation>impossible de créer «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>MRVDownloadAuthorize</name>
