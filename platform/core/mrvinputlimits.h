@@ -88,4 +88,16 @@ struct MRVInputLimits
     static constexpr qint64 CssSteps = 200000000;
     /** ... and more for each element; books take some fifty. */
     static constexpr qint64 CssStepsPerElement = 2000;
+
+    // Markdown. cmark passes all open blocks for each line, and repeats what links and tables do.
+    /** Quotes, lists and items in each other. */
+    static constexpr int MarkdownDepth = 100;
+    /** Columns of a table, whose cells are found in quadratic time. */
+    static constexpr int MarkdownColumns = 1000;
+    /** Cells that tables have beyond those that are written. */
+    static constexpr int MarkdownTableCells = 1 << 18;
+    /** Bytes that are passed again in search of what does not come. */
+    static constexpr qint64 MarkdownSteps = qint64(1) << 29;
+    /** Bytes that the addresses of all links take where each repeats the longest. */
+    static constexpr qint64 MarkdownExpansion = qint64(1) << 28;
 };

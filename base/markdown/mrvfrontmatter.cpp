@@ -1,0 +1,321 @@
+#include "markdown/mrvfrontmatter_p.h"
+
+#include "markdown/mrvmarkdownhead.h"
+#include "util/mrvnames.h"
+
+#include <QRegularExpression>
+#include <QVector>
+
+namespace {
+
+enum Field { Unknown, Other, Title, Author, Description, Language, Date };
+
+// A block without one of these is text: a scene may begin with "Note: he came" or, after a line of
+// hyphens, be a dialogue. Other are keys that many programs write and this one does not need.
+constexpr struct
+{
+    const char *key;
+    Field field;
+} keys[] = {
+    {"title", Title},
+    {"author", Author},
+    {"authors", Author},
+    {"creator", Author},
+    {"description", Description},
+    {"summary", Description},
+    {"abstract", Description},
+    {"lang", Language},
+    {"language", Language},
+    {"date", Date},
+    {"bibliography", Other},
+    {"categories", Other},
+    {"category", Other},
+    {"copyright", Other},
+    {"cover-image", Other},
+    {"css", Other},
+    {"draft", Other},
+    {"identifier", Other},
+    {"isbn", Other},
+    {"keywords", Other},
+    {"layout", Other},
+    {"permalink", Other},
+    {"publisher", Other},
+    {"rights", Other},
+    {"series", Other},
+    {"slug", Other},
+    {"status", Other},
+    {"subject", Other},
+    {"subtitle", Other},
+    {"tags", Other},
+    {"toc", Other},
+    {"version", Other},
+    {"weight", Other},
+};
+
+Field fieldOf(const QString &key)
+{
+    for (const auto &row : keys) {
+        if (key.compare(QLatin1String(row.key), Qt::CaseInsensitive) == 0) {
+            return row.field;
+        }
+    }
+    return Unknown;
+}
+
+struct Entry
+{
+    Field field;
+    QString value; // what stands in the line of the key
+    QStringList lines; // those that continue it, with their indents
+};
+
+/** The lines of a text, one after the other, without their ends. */
+class Lines
+{
+public:
+    explicit Lines(const QString &text)
+        : m_text(text)
+        , m_at(text.startsWith(QChar::ByteOrderMark) ? 1 : 0)
+    {
+    }
+
+    bool atEnd() const { return m_at >= m_text.size(); }
+    int position() const { return m_at; }
+
+    QString next()
+    {
+        const int start = m_at;
+        while (m_at < m_text.size() && m_text.at(m_at) != u'\n' && m_text.at(m_at) != u'\r') {
+            ++m_at;
+        }
+        const QString line = m_text.mid(start, m_at - start);
+        m_at += m_text.midRef(m_at, 2) == QLatin1String("\r\n") ? 2 : 1;
+        return line;
+    }
+
+private:
+    const QString m_text;
+    int m_at;
+};
+
+/** The text of a value in quotes. */
+QString unquoted(const QString &text)
+{
+    const QChar quote = text.at(0);
+    QString result;
+    for (int i = 1; i < text.size(); ++i) {
+        QChar c = text.at(i);
+        if (c == quote) {
+            if (quote == u'"' || i + 1 == text.size() || text.at(i + 1) != quote) {
+                break;
+            }
+            ++i; // two single quotes stand for one
+        } else if (c == u'\\' && quote == u'"' && i + 1 < text.size()) {
+            c = text.at(++i);
+            c = c == u'n' || c == u't' ? QChar(u' ') : c;
+        }
+        result += c;
+    }
+    return result;
+}
+
+QString scalar(const QString &text)
+{
+    static const QRegularExpression comment(QStringLiteral("(?:^|\\s)#.*$"));
+    const QString value = text.trimmed();
+    if (value.startsWith(u'"') || value.startsWith(u'\'')) {
+        return unquoted(value).trimmed();
+    }
+    // References, tags and maps are not read.
+    if (value.isEmpty() || QStringView(u"&*!{~").contains(value.at(0))
+        || value == QLatin1String("null")) {
+        return QString();
+    }
+    return QString(value).remove(comment).trimmed();
+}
+
+QStringList flowList(const QString &text)
+{
+    QStringList items;
+    QString item;
+    QChar quote;
+    for (const QChar c : text.mid(1)) {
+        if (quote.isNull() && (c == u',' || c == u']')) {
+            items.append(scalar(item));
+            item.clear();
+            if (c == u']') {
+                break;
+            }
+            continue;
+        }
+        if (c == quote) {
+            quote = QChar();
+        } else if (quote.isNull() && item.trimmed().isEmpty() && (c == u'"' || c == u'\'')) {
+            quote = c;
+        }
+        item += c;
+    }
+    return items;
+}
+
+/** A text below "|", which keeps its lines, or ">", which joins those of a paragraph. */
+QString blockText(const QStringList &lines, bool folded)
+{
+    QString text;
+    for (const QString &line : lines) {
+        const QString words = line.trimmed();
+        const bool joined = folded && !words.isEmpty();
+        if (!text.isEmpty() && !(joined && text.endsWith(u'\n'))) {
+            text += joined ? u' ' : u'\n';
+        }
+        text += words;
+    }
+    return text.trimmed();
+}
+
+/** The values of an entry in YAML; empty where they are not understood. */
+QStringList valuesOf(const Entry &entry)
+{
+    static const QRegularExpression block(QStringLiteral("^([|>])[-+0-9]*\\s*(?:#.*)?$"));
+    static const QRegularExpression mapping(QStringLiteral("^\\s*[\\w-]+:(?:\\s|$)"));
+    const QRegularExpressionMatch header = block.match(entry.value);
+    if (header.hasMatch()) {
+        return {blockText(entry.lines, header.capturedView(1) == u">")};
+    }
+    if (entry.value.startsWith(u'[')) {
+        return flowList(entry.value + entry.lines.join(u' '));
+    }
+    const QString first = entry.lines.value(0).trimmed();
+    if (!scalar(entry.value).isEmpty() || !first.startsWith(u'-')) {
+        return mapping.match(first).hasMatch()
+            ? QStringList()
+            : QStringList(scalar(entry.value + u' ' + blockText(entry.lines, true)));
+    }
+    static const QRegularExpression item(QStringLiteral("^\\s*-\\s+(?:name:\\s+)?(.*)$"));
+    QStringList items;
+    for (const QString &line : entry.lines) {
+        const QRegularExpressionMatch match = item.match(line);
+        if (match.hasMatch() && !mapping.match(match.captured(1)).hasMatch()) {
+            items.append(scalar(match.captured(1)));
+        }
+    }
+    return items;
+}
+
+void store(Field field, const QStringList &values, MRVMarkdownHead *head)
+{
+    for (const QString &value : values) {
+        if (value.isEmpty()) {
+            continue;
+        }
+        if (field == Author) {
+            if (!head->authors.contains(value)) {
+                head->authors.append(value);
+            }
+            continue;
+        }
+        QString *const text = field == Title ? &head->title
+            : field == Description           ? &head->description
+            : field == Language              ? &head->language
+            : field == Date                  ? &head->date
+                                             : nullptr;
+        if (text && text->isEmpty()) {
+            *text = field == Language ? MRV::languageTag(value) : value;
+        }
+    }
+}
+
+/** The lines of an entry, or false where @p line cannot be one of the block. */
+bool addLine(const QString &line, const QRegularExpression &key, bool yaml, QVector<Entry> *entries)
+{
+    const QRegularExpressionMatch match = key.match(line);
+    if (match.hasMatch()) {
+        entries->append({fieldOf(match.captured(1)), match.captured(2).trimmed(), {}});
+        return true;
+    }
+    if (yaml && line.startsWith(u'#')) {
+        return true;
+    }
+    const bool continues = line.startsWith(u' ') || line.startsWith(u'\t')
+        || (yaml && (line.isEmpty() || line.startsWith(QLatin1String("- "))));
+    if (entries->isEmpty() || !continues) {
+        return yaml && line.trimmed().isEmpty();
+    }
+    entries->last().lines.append(line);
+    return true;
+}
+
+bool has(const QVector<Entry> &entries, std::initializer_list<Field> fields)
+{
+    for (const Entry &entry : entries) {
+        if (std::find(fields.begin(), fields.end(), entry.field) != fields.end()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/** The length of a block of YAML, its fences included; 0 where the text begins with none. */
+int readYaml(const QString &text, QVector<Entry> *entries)
+{
+    static const QRegularExpression fence(QStringLiteral("^(?:---|\\.\\.\\.)\\s*$"));
+    static const QRegularExpression key(
+        QStringLiteral("^[\"']?([A-Za-z_][\\w.-]*)[\"']?\\s*:(?:\\s+(.*))?$"));
+    Lines lines(text);
+    const QString opening = lines.next();
+    if (!opening.startsWith(u'-') || !fence.match(opening).hasMatch()) {
+        return 0;
+    }
+    while (!lines.atEnd()) {
+        const QString line = lines.next();
+        if (fence.match(line).hasMatch()) {
+            const bool known = has(*entries, {Other, Title, Author, Description, Language, Date});
+            return known ? qMin(lines.position(), text.size()) : 0;
+        }
+        if (!addLine(line, key, true, entries)) {
+            break;
+        }
+    }
+    return 0;
+}
+
+/** The length of "Title: ..." lines; 0 where the text begins with none. */
+int readTitleLines(const QString &text, QVector<Entry> *entries)
+{
+    static const QRegularExpression key(QStringLiteral("^([A-Za-z][\\w -]*+):(?:\\s+(.*))?$"));
+    Lines lines(text);
+    while (!lines.atEnd()) {
+        const int start = lines.position();
+        const QString line = lines.next();
+        if (line.trimmed().isEmpty()) {
+            return has(*entries, {Title, Author, Language}) ? start : 0;
+        }
+        if (!addLine(line, key, false, entries) || entries->first().field == Unknown) {
+            break;
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+QString mrvTakeFrontMatter(const QString &markdown, MRVMarkdownHead *head)
+{
+    QVector<Entry> entries;
+    int length = readYaml(markdown, &entries);
+    const bool yaml = length > 0;
+    if (!yaml) {
+        entries.clear();
+        length = readTitleLines(markdown, &entries);
+    }
+    if (length == 0) {
+        return markdown;
+    }
+    for (const Entry &entry : qAsConst(entries)) {
+        const QString line = entry.value + u' ' + blockText(entry.lines, true);
+        store(entry.field, yaml ? valuesOf(entry) : QStringList(line.trimmed()), head);
+    }
+    // The numbers of the lines below stay.
+    static const QRegularExpression words(QStringLiteral("[^\\r\\n]+"));
+    return markdown.left(length).remove(words) + markdown.midRef(length);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "markdown/mrvmarkdownhead.h"
+#include "util/mrvbase_export.h"
+
+#include <QString>
+
+/**
+ * Markdown as HTML: CommonMark with tables, task lists, "~~deleted~~" and bare links.
+ *
+ * Time and memory are linear in the text. A text that would break that is refused, see toHtml().
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVMarkdown
+{
+public:
+    /** What is read beyond the syntax that is always on. */
+    enum Option {
+        NoOptions = 0,
+        /** Quotes are curled, "--" and "---" become dashes, "..." an ellipsis; "\"" stays. */
+        SmartPunctuation = 1,
+        /** "[^1]", and "[^1]: text" at the beginning of a block. */
+        Footnotes = 2,
+        /**
+         * A line of ": definition" after a term, which is a paragraph of one line; one blank line
+         * may separate the two. What follows belongs to the definition while it is indented by two
+         * columns or more; four of them are not part of it.
+         */
+        DefinitionLists = 4,
+        /** "H~2~O" and "x^2^". What is raised or lowered holds neither blanks nor markup. */
+        SubAndSuperscript = 8
+    };
+    Q_DECLARE_FLAGS(Options, Option)
+
+    MRVMarkdown() = delete;
+
+    /**
+     * The body of a page, without html, head and body. Each block has the attribute
+     * data-sourcepos="LINE:COLUMN-LINE:COLUMN": its first and last place in @p markdown, both from
+     * 1, columns in bytes of UTF-8; notes of unclear extent end in column 0.
+     *
+     * HTML in the text is passed on as it is, scripts included, and so is the address of any link:
+     * the result is for a reader that does not trust it.
+     *
+     * Headings have ids: the one of "# Heading {#id}", or else the text in lower case, without
+     * punctuation and with hyphens for its blanks, and "-1", "-2" after it where it is taken.
+     * Addresses of links are percent-encoded, ids are not. A note that nothing refers to, or whose
+     * name is taken, is a paragraph in its place that begins with its name.
+     *
+     * Metadata are not part of the result: a block of YAML between "---" and "---" or "...", or
+     * lines of "Title: ..." up to the first blank one. Neither is taken for metadata without a key
+     * that is known as one; the latter needs a title, an author or a language.
+     *
+     * @param markdown any text. Characters that are not valid (U+0000, half a surrogate pair) are
+     *                 replaced by U+FFFD.
+     * @param head     if given, receives the metadata; its former values are lost.
+     * @return the HTML, empty for an empty text. Null where the text is nested more than
+     *         MRVInputLimits::MarkdownDepth levels deep, or is built so that its tables, links or
+     *         unclosed tags take far more time or memory than its length would explain.
+     */
+    static QString toHtml(const QString &markdown, Options options = NoOptions,
+                          MRVMarkdownHead *head = nullptr);
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(MRVMarkdown::Options)
