@@ -4,7 +4,24 @@
 #include "support.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QTemporaryDir>
+
+/** Files by name; hidden folders too, so that none stays behind. */
+inline QMap<QString, QByteArray> contentsBelow(const QString &folder)
+{
+    QMap<QString, QByteArray> contents;
+    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         it.hasNext();) {
+        const QString file = it.next();
+        contents.insert(QDir(folder).relativeFilePath(file), bytesOf(file));
+    }
+    for (const QString &stage :
+         QDir(folder).entryList({".*"}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        contents.insert(stage, {});
+    }
+    return contents;
+}
 
 /**
  * What the tests of the command-line tool share. Each test function has a temporary folder of its
@@ -44,15 +61,15 @@ protected:
         return ran;
     }
 
-    /** The same with arguments separated by blanks, each of them filled(). */
-    Ran mrv(const QString &arguments, const QByteArray &input = {},
-            const QStringList &environment = {}) const
+    /** The same with words separated by blanks, each of them filled(); NAME=value first. */
+    Ran mrv(const QString &words, const QByteArray &input = {}) const
     {
-        QStringList list;
-        for (const QString &argument : arguments.isEmpty() ? list : arguments.split(' ')) {
-            list << filled(argument);
+        QStringList environment;
+        QStringList arguments;
+        for (const QString &word : words.isEmpty() ? QStringList() : words.split(' ')) {
+            (arguments.isEmpty() && word.contains('=') ? environment : arguments) << filled(word);
         }
-        return mrv(list, input, environment);
+        return mrv(arguments, input, environment);
     }
 
     /** Compares the exit code and the error, one line that holds a text or none, with the row's. */
@@ -66,15 +83,18 @@ protected:
     }
 
     /**
-     * The rows of a table for compareRow(): a file ("" for none) and what it holds, arguments, exit
-     * code, output, a word of the error, and what the file holds afterwards, if it changes.
+     * The rows of a table for compareRow(): a file ("" for none) and what it holds, the words of a
+     * call, exit code, output, a word of the error, and what the file then holds, if it changes.
      */
     static void addCalls(const QString &table)
     {
         addRows(table, {"case", "file", "source", "arguments", "code", "output", "error", "after"});
     }
 
-    /** Calls the tool; standard input is what the file holds, and "..." any part of the output. */
+    /**
+     * Calls the tool; standard input is what the file holds, and "..." any part of the output. A
+     * call that fails changes no file.
+     */
     void compareRow() const
     {
         QFETCH(QString, source);
@@ -82,9 +102,11 @@ protected:
         const QString file = in(cell("file"));
         const bool hasFile = !cell("file").isEmpty();
         QVERIFY(!hasFile || writeBytes(file, source.toUtf8()));
+        const QMap<QString, QByteArray> before = contentsBelow(in(""));
         const Ran ran = mrv(cell("arguments"), source.toUtf8());
         compareOutput(ran);
         compareEnd(ran);
+        QVERIFY(ran.exitCode == 0 || contentsBelow(in("")) == before);
         QCOMPARE(QString::fromUtf8(bytesOf(file)), after.isEmpty() ? source : after);
     }
 

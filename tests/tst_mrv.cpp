@@ -2,29 +2,12 @@
 
 #include <KZip>
 
-#include <QDirIterator>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
-
-// Files by name; hidden folders too, so that none stays behind.
-QMap<QString, QByteArray> contentsBelow(const QString &folder)
-{
-    QMap<QString, QByteArray> contents;
-    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-         it.hasNext();) {
-        const QString file = it.next();
-        contents.insert(QDir(folder).relativeFilePath(file), bytesOf(file));
-    }
-    for (const QString &stage :
-         QDir(folder).entryList({".*"}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
-        contents.insert(stage, {});
-    }
-    return contents;
-}
 
 QStringList filesBelow(const QString &folder)
 {
@@ -46,280 +29,196 @@ class tst_Mrv : public ToolTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void usage_data()
+    void init()
     {
-        addRows("mrv-usage.tsv", {"case", "arguments", "code", "word", "environment"});
-    }
-    void usage();
-    void refusals_data() { addRows("mrv-refusals.tsv", {"case", "arguments", "word"}); }
-    void refusals();
-    void exports_data();
-    void exports();
-    void sampleIsValid();
-    void bytesDoNotDependOnHashes();
-    void allOrNothing_data();
-    void allOrNothing();
-    void inputs_data()
-    {
-        addRows("mrv-inputs.tsv", {"case", "name", "text", "options", "expected"});
-    }
-    void inputs();
-    void manyInputs();
-    void standardStreams();
-    void metadata_data()
-    {
-        addRows("mrv-metadata.tsv", {"case", "arguments", "environment", "expected"});
-    }
-    void metadata();
-    void remotePictures();
-    void account();
-
-private:
-    void leaveOldFiles(const QString &folder);
-};
-
-void tst_Mrv::init()
-{
-    ToolTest::init();
-    QImage picture(12, 12, QImage::Format_RGB32);
-    picture.fill(Qt::darkCyan);
-    QVERIFY(picture.save(in("pic one.bmp"))); // written again for every type, so by one write
-    QVERIFY(writeBytes(in("book.html"),
+        ToolTest::init();
+        QImage picture(12, 12, QImage::Format_RGB32);
+        picture.fill(Qt::darkCyan);
+        QVERIFY(picture.save(in("pic one.bmp"))); // written again for every type, so by one write
+        QVERIFY(
+            writeBytes(in("book.html"),
                        "<html lang='fr'><head><meta charset='utf-8'><meta name=\"author\" "
                        "content=\"M. Auteur\"><title>Livre</title></head>"
                        "<body><h1>Un</h1><p align='center'>Texte \xc3\xa9 <img src='pic%20one.bmp' "
                        "alt='x'></p><h1>Deux</h1><p>fin</p></body></html>"));
-    QVERIFY(QFile::copy(in("pic one.bmp"), in("pic.bmp")));
-    for (const QStringList &row : rowsOf("mrv-files.tsv")) {
-        QVERIFY(QDir().mkpath(QFileInfo(in(row.at(0))).path()));
-        QVERIFY(writeBytes(in(row.at(0)), row.at(1).toUtf8()));
+        QVERIFY(QFile::copy(in("pic one.bmp"), in("pic.bmp")));
+        for (const QStringList &row : rowsOf("mrv-files.tsv")) {
+            QVERIFY(QDir().mkpath(QFileInfo(in(row.at(0))).path()));
+            QVERIFY(writeBytes(in(row.at(0)), row.at(1).toUtf8()));
+        }
     }
-}
 
-void tst_Mrv::usage()
-{
-    const Ran ran = mrv(cell("arguments"), {}, cell("environment").split(' ', Qt::SkipEmptyParts));
-    QTEST(QString::number(ran.exitCode), "code");
-    QVERIFY2((ran.output + ran.errors).contains(cell("word")), qPrintable(ran.output + ran.errors));
-    QVERIFY(ran.exitCode == 0 ? ran.errors.isEmpty() : isOneError(ran));
-}
+    void calls_data() { addCalls("mrv-export.tsv"); }
+    void calls() { compareRow(); }
 
-void tst_Mrv::refusals()
-{
-    const QMap<QString, QByteArray> before = contentsBelow(in(""));
-    const Ran ran = mrv("export " + cell("arguments"));
-    QCOMPARE(ran.exitCode, 1);
-    QVERIFY2(isOneError(ran), qPrintable(ran.errors));
-    QVERIFY2(ran.errors.contains(cell("word")), qPrintable(ran.errors));
-    QCOMPARE(contentsBelow(in("")), before);
-}
-
-void tst_Mrv::exports_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QStringList>("files");
-    QTest::newRow("xhtml") << "xhtml" << QStringList{"book.xhtml", "book_files/pic one.png"};
-    QTest::newRow("epub") << "epub" << QStringList{"book.epub"};
-    QTest::newRow("kf8") << "kf8"
-                         << QStringList{"book.xhtml", "book_files/pic one.jpg",
-                                        "css/stylesheet.css"};
-}
-
-void tst_Mrv::exports()
-{
-    QFETCH(QString, type);
-    QFETCH(QStringList, files);
-    const QStringList arguments{"export", in("book.html"), "--to", type, "-o", in("out/")};
-    const QStringList environment{"SOURCE_DATE_EPOCH=1700000000"};
-    const Ran ran = mrv(arguments, {}, environment);
-    QCOMPARE(ran.errors, QString());
-    QCOMPARE(ran.exitCode, 0);
-    const QMap<QString, QByteArray> first = contentsBelow(in("out"));
-    QCOMPARE(first.keys(), files);
-    QVERIFY(!first.values().contains(QByteArray()));
-    QCOMPARE(mrv(arguments, {}, environment).exitCode, 0); // once more, over the old files
-    QCOMPARE(contentsBelow(in("out")), first);
-    if (type == "xhtml") {
-        QCOMPARE(dtdErrors({in("out/book.xhtml")}), QString());
+    void exports_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QStringList>("files");
+        const QString pictures = "manuscript_files/";
+        QTest::newRow("xhtml") << "xhtml"
+                               << QStringList{"manuscript.xhtml", pictures + "curve.png",
+                                              pictures + "mill.png", pictures + "staff.png"};
+        QTest::newRow("epub") << "epub" << QStringList{"manuscript.epub"};
+        QTest::newRow("kf8") << "kf8"
+                             << QStringList{"css/stylesheet.css", "manuscript.xhtml",
+                                            pictures + "curve.jpg", pictures + "mill.jpg",
+                                            pictures + "staff.jpg"};
     }
-}
 
-void tst_Mrv::sampleIsValid()
-{
-    const QString sample = MRV_SOURCE_DIR "/examples/manuscript.html";
-    for (const char *version : {"2", "3"}) {
-        const QString book = in(QString("sample-%1.epub").arg(version));
-        const Ran ran = mrv({"export", sample, "--to", "epub", "--epub-version", version, "-o",
-                             book, "--cover", MRV_SOURCE_DIR "/examples/pictures/cover.png"});
-        QCOMPARE(ran.errors, QString());
-        QCOMPARE(epubErrors(book), QString());
-    }
-    QCOMPARE(mrv({"export", sample, "--to", "xhtml", "-o", in("sample.xhtml")}).exitCode, 0);
-    QCOMPARE(dtdErrors({in("sample.xhtml")}), QString());
-}
-
-void tst_Mrv::bytesDoNotDependOnHashes()
-{
-    for (const char *type : {"xhtml", "epub", "kf8"}) {
-        QList<QMap<QString, QByteArray>> results;
+    // The bytes depend on nothing else, and replace what was written before.
+    void exports()
+    {
+        QMap<QString, QByteArray> first;
         for (const char *seed : {"0", "1", "12345", "987654321"}) {
-            const QString folder = in(QString("%1-%2").arg(type, seed));
-            QCOMPARE(mrv({"export", MRV_SOURCE_DIR "/examples/manuscript.html", "--to", type, "-o",
-                          folder + '/'},
-                         {}, {QString("QT_HASH_SEED=") + seed, "SOURCE_DATE_EPOCH=1700000000"})
-                         .exitCode,
-                     0);
-            results.append(contentsBelow(folder));
+            const Ran ran =
+                mrv({"export", MRV_SOURCE_DIR "/examples/manuscript.html", "--to", cell("type"),
+                     "-o", in("out/")},
+                    {}, {QString("QT_HASH_SEED=") + seed, "SOURCE_DATE_EPOCH=1700000000"});
+            QCOMPARE(ran.exitCode, 0);
+            const QMap<QString, QByteArray> contents = contentsBelow(in("out"));
+            QTEST(QStringList(contents.keys()), "files");
+            QVERIFY(first.isEmpty() || contents == first);
+            first = contents;
         }
-        QVERIFY(!results.first().isEmpty());
-        QCOMPARE(results.count(results.first()), results.size());
+        QVERIFY(!first.values().contains(QByteArray()));
     }
-}
 
-void tst_Mrv::allOrNothing_data()
-{
-    const QString writes = "write,pwrite64,writev";
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("calls");
-    QTest::addColumn<QString>("fault");
-    for (const QString type : {"epub", "kf8"}) {
-        const auto row = [&](const char *name, const QString &calls, const QString &fault) {
-            QTest::newRow(qPrintable(type + ' ' + name)) << type << calls << fault;
+    void sampleIsValid()
+    {
+        const QString sample = MRV_SOURCE_DIR "/examples/manuscript.html";
+        for (const char *version : {"2", "3"}) {
+            const QString book = in(QString("sample-%1.epub").arg(version));
+            const Ran ran = mrv({"export", sample, "--to", "epub", "--epub-version", version, "-o",
+                                 book, "--cover", MRV_SOURCE_DIR "/examples/pictures/cover.png"});
+            QCOMPARE(ran.errors, QString());
+            QCOMPARE(epubErrors(book), QString());
+        }
+        QCOMPARE(mrv({"export", sample, "--to", "xhtml", "-o", in("sample.xhtml")}).exitCode, 0);
+        QCOMPARE(dtdErrors({in("sample.xhtml")}), QString());
+    }
+
+    void allOrNothing_data()
+    {
+        const QString writes = "write,pwrite64,writev";
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("calls");
+        QTest::addColumn<QString>("fault");
+        for (const QString type : {"epub", "kf8"}) {
+            const auto row = [&](const char *name, const QString &calls, const QString &fault) {
+                QTest::newRow(qPrintable(type + ' ' + name)) << type << calls << fault;
+            };
+            row("full disk", writes, "error=ENOSPC:when=%1..%2"); // it is full the second time, too
+            row("ended while writing", writes, "signal=TERM:when=%1");
+            row("moving fails", "rename", "error=EIO:when=%1..%2");
+            row("ended while moving", "rename", "signal=INT:when=%1");
+        }
+    }
+
+    // Each call that concerns the output folder meets a fault in turn.
+    void allOrNothing()
+    {
+        QFETCH(QString, calls);
+        QFETCH(QString, fault);
+        const auto tracedExport = [&](const QString &folder, const QStringList &options) {
+            leaveOldFiles(in(folder));
+            return run(
+                "strace",
+                QStringList{"-qq", "-y", "-o", in("trace"), "-e", "trace=" + calls} + options
+                    + QStringList{MRV_TOOL, "export", in("book.html"), "--to", cell("type"), "-o",
+                                  in(folder)},
+                {"ASAN_OPTIONS=detect_leaks=0", // leak detection and tracing exclude each other
+                 "SOURCE_DATE_EPOCH=0"});
         };
-        row("full disk", writes, "error=ENOSPC:when=%1..%2"); // it is full the second time, too
-        row("ended while writing", writes, "signal=TERM:when=%1");
-        row("moving fails", "rename", "error=EIO:when=%1..%2");
-        row("ended while moving", "rename", "signal=INT:when=%1");
-    }
-}
-
-void tst_Mrv::leaveOldFiles(const QString &folder)
-{
-    for (const char *file :
-         {"book.epub", "book.xhtml", "book_files/pic one.png", "css/stylesheet.css"}) {
-        QVERIFY(QDir().mkpath(QFileInfo(folder + file).path()));
-        QVERIFY(writeBytes(folder + file, "/* Styles of book.xhtml */\n"));
-    }
-}
-
-// Each call that concerns the output folder meets a fault in turn.
-void tst_Mrv::allOrNothing()
-{
-    QFETCH(QString, calls);
-    QFETCH(QString, fault);
-    const auto tracedExport = [&](const QString &folder, const QStringList &options) {
-        leaveOldFiles(in(folder));
-        return run("strace",
-                   QStringList{"-qq", "-y", "-o", in("trace"), "-e", "trace=" + calls} + options
-                       + QStringList{MRV_TOOL, "export", in("book.html"), "--to", cell("type"),
-                                     "-o", in(folder)},
-                   {"ASAN_OPTIONS=detect_leaks=0", // leak detection and tracing exclude each other
-                    "SOURCE_DATE_EPOCH=0"});
-    };
-    QVERIFY(tracedExport("old/", {"--help"}).exitCode == 0);
-    const QMap<QString, QByteArray> before = contentsBelow(in("old"));
-    QCOMPARE(tracedExport("new/", {}).exitCode, 0);
-    const QMap<QString, QByteArray> after = contentsBelow(in("new"));
-    const QList<QByteArray> trace = bytesOf(in("trace")).split('\n');
-    int undone = 0;
-    for (int call = 1; call <= trace.size(); ++call) {
-        // What is written may name the folder, too.
-        if (!trace.at(call - 1).split('>').first().contains(in("new").toUtf8())) {
-            continue;
+        QVERIFY(tracedExport("old/", {"--help"}).exitCode == 0);
+        const QMap<QString, QByteArray> before = contentsBelow(in("old"));
+        QCOMPARE(tracedExport("new/", {}).exitCode, 0);
+        const QMap<QString, QByteArray> after = contentsBelow(in("new"));
+        const QList<QByteArray> trace = bytesOf(in("trace")).split('\n');
+        int undone = 0;
+        for (int call = 1; call <= trace.size(); ++call) {
+            // What is written may name the folder, too.
+            if (!trace.at(call - 1).split('>').first().contains(in("new").toUtf8())) {
+                continue;
+            }
+            QDir(in("out")).removeRecursively();
+            const QString inject = "inject=" + calls + ':' + fault;
+            const Ran ran = tracedExport("out/",
+                                         {"-e",
+                                          QString(inject)
+                                              .replace("%1", QString::number(call))
+                                              .replace("%2", QString::number(call + 1))});
+            const QMap<QString, QByteArray> found = contentsBelow(in("out"));
+            QVERIFY(found == before || found == after);
+            QVERIFY(ran.exitCode < 0 || (ran.exitCode == 0) == (found == after));
+            QVERIFY2(ran.exitCode != 1 || isOneError(ran) || calls.contains("write"),
+                     qPrintable(ran.errors)); // writing the error may have failed as well
+            QVERIFY2(!ran.errors.contains(".mrv-"), qPrintable(ran.errors));
+            undone += found == before;
         }
-        QDir(in("out")).removeRecursively();
-        const QString inject = "inject=" + calls + ':' + fault;
-        const Ran ran = tracedExport("out/",
-                                     {"-e",
-                                      QString(inject)
-                                          .replace("%1", QString::number(call))
-                                          .replace("%2", QString::number(call + 1))});
-        const QMap<QString, QByteArray> found = contentsBelow(in("out"));
-        QVERIFY(found == before || found == after);
-        QVERIFY(ran.exitCode < 0 || (ran.exitCode == 0) == (found == after));
-        QVERIFY2(ran.exitCode != 1 || isOneError(ran) || calls.contains("write"),
-                 qPrintable(ran.errors)); // writing the error may have failed as well
-        QVERIFY2(!ran.errors.contains(".mrv-"), qPrintable(ran.errors));
-        undone += found == before;
+        QVERIFY(undone > 0 || fault.startsWith("signal")); // signals may wait until all is done
     }
-    QVERIFY(undone > 0 || fault.startsWith("signal")); // signals may wait until all is done
-}
 
-void tst_Mrv::inputs()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    const QString file = name == "-" ? name : in(name);
-    QVERIFY(name == "-" || writeBytes(file, text.toUtf8()));
-    const QStringList arguments{"export", file, "--to", "xhtml", "-o", in("a.xhtml")};
-    const Ran ran = mrv(arguments + cell("options").split(' ', Qt::SkipEmptyParts), text.toUtf8());
-    QCOMPARE(ran.errors, QString());
-    const QString page = QString::fromUtf8(bytesOf(in("a.xhtml")));
-    QVERIFY2(page.contains(cell("expected")), qPrintable(page));
-}
-
-void tst_Mrv::manyInputs()
-{
-    QCOMPARE(mrv({"export", in("book.html"), in("two.md"), "--to", "kindle", "-o", in("pages")})
-                 .exitCode,
-             0);
-    QCOMPARE(
-        filesBelow(in("pages")),
-        QStringList({"book.xhtml", "book_files/pic one.jpg", "css/stylesheet.css", "two.xhtml"}));
-    QCOMPARE(mrv({"export", in("book.html"), in("two.md"), "--to", "epub", "-o", in("all.epub")})
-                 .exitCode,
-             0);
-    QCOMPARE(epubErrors(in("all.epub")), QString());
-}
-
-void tst_Mrv::standardStreams()
-{
-    const Ran page =
-        mrv({"export", "-", "--to", "xhtml", "--json"}, "<!DOCTYPE html><p>from <b>a pipe</b></p>");
-    QCOMPARE(page.exitCode, 0);
-    QVERIFY2(page.output.contains("a pipe</span>"), qPrintable(page.output));
-    QVERIFY2(page.output.endsWith("</html>"), qPrintable(page.output));
-    const QString command = QString("cd '%1'; '%2' export ").arg(in(""), MRV_TOOL);
-    for (const char *broken :
-         {"book.html -o - >/dev/full", "book.html -o - >&-", "- <&-", "- <."}) {
-        const Ran ran = run("sh", {"-c", command + "--to xhtml " + broken});
-        QCOMPARE(ran.exitCode, 1);
-        QVERIFY2(isOneError(ran), broken);
+    void manyInputs()
+    {
+        QCOMPARE(mrv({"export", in("book.html"), in("two.md"), "--to", "kindle", "-o", in("pages")})
+                     .exitCode,
+                 0);
+        QCOMPARE(filesBelow(in("pages")),
+                 QStringList(
+                     {"book.xhtml", "book_files/pic one.jpg", "css/stylesheet.css", "two.xhtml"}));
+        QCOMPARE(
+            mrv({"export", in("book.html"), in("two.md"), "--to", "epub", "-o", in("all.epub")})
+                .exitCode,
+            0);
+        QCOMPARE(epubErrors(in("all.epub")), QString());
     }
-}
 
-void tst_Mrv::metadata()
-{
-    const Ran ran = mrv("export --to epub -o @a.epub " + cell("arguments"), {},
-                        cell("environment").split(' ', Qt::SkipEmptyParts));
-    QCOMPARE(ran.errors, QString());
-    KZip book(in("a.epub"));
-    QVERIFY(book.open(QIODevice::ReadOnly));
-    const KArchiveFile *file = book.directory()->file("OEBPS/content.opf");
-    QVERIFY(file);
-    const QString package = QString::fromUtf8(file->data());
-    QVERIFY2(package.contains(cell("expected")), qPrintable(package));
-}
+    void brokenStreams()
+    {
+        const QString command = QString("cd '%1'; '%2' export ").arg(in(""), MRV_TOOL);
+        for (const char *broken :
+             {"book.html -o - >/dev/full", "book.html -o - >&-", "- <&-", "- <."}) {
+            const Ran ran = run("sh", {"-c", command + "--to xhtml " + broken});
+            QCOMPARE(ran.exitCode, 1);
+            QVERIFY2(isOneError(ran), broken);
+        }
+    }
 
-void tst_Mrv::remotePictures()
-{
-    const QByteArray page = "<p>a<img src='http://x.example/1.png'><img src='//x.example/1.png'>";
-    const Ran ran = mrv({"export", "-", "--to", "epub", "-o", in("a.epub")}, page);
-    QCOMPARE(ran.exitCode, 0);
-    QVERIFY2(ran.errors.startsWith("mrv: export: note: "), qPrintable(ran.errors));
-    QVERIFY2(ran.errors.contains("2"), qPrintable(ran.errors));
-}
+    void metadata_data() { addRows("mrv-metadata.tsv", {"case", "arguments", "expected"}); }
 
-void tst_Mrv::account()
-{
-    const Ran ran = mrv({"export", in("book.html"), "--to", "xhtml", "--json"});
-    const QJsonArray files =
-        QJsonDocument::fromJson(ran.output.toUtf8()).object().value("files").toArray();
-    QCOMPARE(files.size(), 2);
-    QCOMPARE(files.last().toObject().value("path").toString(), QString("@book.xhtml"));
-    QCOMPARE(files.last().toObject().value("bytes").toInt(), bytesOf(in("book.xhtml")).size());
-}
+    void metadata()
+    {
+        const Ran ran = mrv(cell("arguments") + " --to epub -o @a.epub");
+        QCOMPARE(ran.errors, QString());
+        KZip book(in("a.epub"));
+        QVERIFY(book.open(QIODevice::ReadOnly));
+        const KArchiveFile *file = book.directory()->file("OEBPS/content.opf");
+        QVERIFY(file);
+        const QString package = QString::fromUtf8(file->data());
+        QVERIFY2(package.contains(cell("expected")), qPrintable(package));
+    }
+
+    void account()
+    {
+        const Ran ran = mrv({"export", in("book.html"), "--to", "xhtml", "--json"});
+        const QJsonArray files =
+            QJsonDocument::fromJson(ran.output.toUtf8()).object().value("files").toArray();
+        QCOMPARE(files.size(), 2);
+        QCOMPARE(files.last().toObject().value("path").toString(), QString("@book.xhtml"));
+        QCOMPARE(files.last().toObject().value("bytes").toInt(), bytesOf(in("book.xhtml")).size());
+    }
+
+private:
+    void leaveOldFiles(const QString &folder)
+    {
+        for (const char *file :
+             {"book.epub", "book.xhtml", "book_files/pic one.png", "css/stylesheet.css"}) {
+            QVERIFY(QDir().mkpath(QFileInfo(folder + file).path()));
+            QVERIFY(writeBytes(folder + file, "/* Styles of book.xhtml */\n"));
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_Mrv)
 #include "tst_mrv.moc"
