@@ -4,7 +4,6 @@
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
 #include "util/mrvfixeddate.h"
-#include "util/mrvnames.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -15,58 +14,17 @@
 
 namespace {
 
-constexpr struct Target
-{
-    const char *name;
-    const char *suffix;
-    MRVTextXhtmlExporter::ExportType type;
-    bool package;
-    bool styleSheet;
-} targets[] = {
-    {"html", "html", MRVTextXhtmlExporter::Html, false, false},
-    {"xhtml", "xhtml", MRVTextXhtmlExporter::Xhtml, false, false},
-    {"epub", "epub", MRVTextXhtmlExporter::EPub, true, true},
-    {"kindle", "xhtml", MRVTextXhtmlExporter::Kindle, false, true},
-    {"kf8", "xhtml", MRVTextXhtmlExporter::KindleKF8, false, true},
-};
-
 const QLatin1String StandardOutput("-");
 
+// What a call asks for, checked.
 struct Options
 {
-    const Target *target = nullptr;
-    QStringList inputs;
-    QString output;
+    MRVTextXhtmlExporter::ExportType type = MRVTextXhtmlExporter::Html;
     InputOptions input;
-    MRVEPubVersion version = MRVEPubVersion::EPub3;
     MRVEPubMetadata metadata;
-    QString coverFile;
-    bool images = true;
-    bool json = false;
+
+    bool isPackage() const { return type == MRVTextXhtmlExporter::EPub; }
 };
-
-const Target *targetNamed(const QString &name)
-{
-    for (const Target &target : targets) {
-        if (name == QLatin1String(target.name)) {
-            return &target;
-        }
-    }
-    return nullptr;
-}
-
-int readDate(const QString &given, QDateTime *date)
-{
-    if (!given.isEmpty()) {
-        *date = MRVFixedDate::fromIsoText(given);
-        return date->isValid()
-            ? -1
-            : usageError(QStringLiteral("the date is not one of ISO 8601 such as "
-                                        "2026-01-31T12:00:00Z, in the years 1 to 9999"));
-    }
-    QString error;
-    return MRVFixedDate::fromEnvironment(date, &error) ? -1 : usageError(error);
-}
 
 // Options that only pages, or only packages, have a use for.
 constexpr const char pagesOnly[] = "no-images";
@@ -74,14 +32,13 @@ constexpr const char packagesOnly[] =
     "author identifier publisher description rights cover date epub-version";
 
 // -1 to go on, else the exit code; so with all that follow.
-int readTarget(const Call &call, Options *options)
+int readType(const Call &call, Options *options)
 {
-    if (!call.has("to")) {
+    if (!MRVTextXhtmlExporter::typeNamed(call.value("to"), &options->type)) {
         return usageError(
             QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
     }
-    options->target = targetNamed(call.value("to"));
-    const bool package = options->target->package;
+    const bool package = options->isPackage();
     const QStringList useless = words(package ? pagesOnly : packagesOnly);
     for (const QString &option : useless) {
         if (call.has(option.toLatin1().constData())) {
@@ -95,49 +52,39 @@ int readTarget(const Call &call, Options *options)
 int readMetadata(const Call &call, Options *options)
 {
     MRVEPubMetadata &metadata = options->metadata;
-    const QString language = call.value("language");
     metadata.title = call.value("title");
     metadata.authors = call.values("author");
     metadata.identifier = call.value("identifier");
     metadata.publisher = call.value("publisher");
     metadata.description = call.value("description");
     metadata.rights = call.value("rights");
-    metadata.language = MRV::languageTag(language);
-    if (metadata.language.isEmpty() && !language.isEmpty()) {
-        return usageError(
-            QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
-    }
-    return options->target->package ? readDate(call.value("date"), &metadata.modified) : -1;
+    QString error;
+    const bool ok = readLanguage(call, &metadata.language, &error)
+        && (!options->isPackage()
+            || MRVFixedDate::fromTextOrEnvironment(call.value("date"), &metadata.modified, &error));
+    return ok ? -1 : usageError(error);
 }
 
-// @return -1 to go on, else the exit code.
 int readOptions(const Call &call, Options *options)
 {
-    options->inputs = call.arguments;
     options->input = inputOptions(call);
-    options->output = call.value("output");
-    options->coverFile = call.value("cover");
-    options->images = !call.has("no-images");
-    options->json = call.json();
-    options->version = call.value("epub-version") == QLatin1String("2") ? MRVEPubVersion::EPub2
-                                                                        : MRVEPubVersion::EPub3;
-    const int code = readTarget(call, options);
+    const int code = readType(call, options);
     if (code >= 0) {
         return code;
     }
-    return readsTwice(options->inputs) ? int(WrongUsage) : readMetadata(call, options);
+    return readsTwice(call.arguments) ? int(WrongUsage) : readMetadata(call, options);
 }
 
 // One for a package, else one an input.
-QStringList outputFiles(const Options &options)
+QStringList outputFiles(const Call &call, const Options &options)
 {
     QStringList files;
-    const bool isFolder = !options.target->package && options.inputs.size() > 1;
-    for (const QString &input : options.inputs) {
-        files.append(outputFile(input, options.output, QStringLiteral("manuscript"),
-                                QLatin1String(options.target->suffix), isFolder));
+    const bool isFolder = !options.isPackage() && call.arguments.size() > 1;
+    for (const QString &input : call.arguments) {
+        files.append(outputFile(input, call.value("output"), QStringLiteral("manuscript"),
+                                MRVTextXhtmlExporter::suffix(options.type), isFolder));
     }
-    return options.target->package ? files.mid(0, 1) : files;
+    return options.isPackage() ? files.mid(0, 1) : files;
 }
 
 // Standard input and output are no files.
@@ -158,27 +105,27 @@ bool spareInputs(const QStringList &outputs, const QStringList &inputs, QString 
 }
 
 // -1 to go on, else the exit code.
-int checkOutputs(const Options &options, const QStringList &outputs)
+int checkOutputs(const Call &call, const QStringList &outputs)
 {
     if (outputs.size() > 1 && outputs.contains(StandardOutput)) {
         return usageError(QStringLiteral(
             "only one page can be written to standard output; choose a folder with -o"));
     }
     QString error;
-    return spareInputs(outputs, options.inputs, &error)
+    return spareInputs(outputs, call.arguments, &error)
             && MRVOutputFiles::areDistinct(filesOf(outputs), &error)
         ? -1
         : refuse(error);
 }
 
-bool readManuscripts(const Options &options, const QStringList &outputs,
+bool readManuscripts(const Call &call, const Options &options, const QStringList &outputs,
                      std::vector<MRVManuscript> *manuscripts, QString *error)
 {
     InputOptions reading = options.input;
     reading.pictures =
-        options.target->package || (options.images && outputs.constFirst() != StandardOutput);
-    QStringList pictures{options.coverFile};
-    for (const QString &path : options.inputs) {
+        options.isPackage() || (!call.has("no-images") && outputs.constFirst() != StandardOutput);
+    QStringList pictures{call.value("cover")};
+    for (const QString &path : call.arguments) {
         showProgress(QStringLiteral("Reading %1").arg(path));
         MRVManuscript manuscript;
         if (!readManuscript(path, reading, &manuscript, error)) {
@@ -190,11 +137,12 @@ bool readManuscripts(const Options &options, const QStringList &outputs,
     return spareInputs(outputs, pictures, error);
 }
 
-bool exportPages(const Options &options, const std::vector<MRVManuscript> &manuscripts,
-                 const QStringList &outputs, QStringList *written, QString *error)
+bool exportPages(const Call &call, const Options &options,
+                 const std::vector<MRVManuscript> &manuscripts, const QStringList &outputs,
+                 QStringList *written, QString *error)
 {
-    const MRVPageOptions pageOptions{options.target->type, options.target->styleSheet,
-                                     options.images, options.metadata.title,
+    const MRVPageOptions pageOptions{options.type, MRVTextXhtmlExporter::isForEBooks(options.type),
+                                     !call.has("no-images"), options.metadata.title,
                                      options.metadata.language};
     if (outputs.constFirst() == StandardOutput) {
         const MRVManuscript &first = manuscripts.front();
@@ -213,24 +161,22 @@ bool exportPages(const Options &options, const std::vector<MRVManuscript> &manus
     return publisher.publish(written, error);
 }
 
-bool exportPackage(const Options &options, const std::vector<MRVManuscript> &manuscripts,
-                   const QString &file, QStringList *written, QString *error)
+bool exportPackage(const Call &call, const Options &options,
+                   const std::vector<MRVManuscript> &manuscripts, const QString &file,
+                   QStringList *written, QString *error)
 {
     MRVEPubMetadata metadata = options.metadata;
     metadata.completeFrom(manuscripts.front());
-    if (!options.coverFile.isEmpty() && !metadata.readCover(options.coverFile, error)) {
+    if (call.has("cover") && !metadata.readCover(call.value("cover"), error)) {
         return false;
     }
-    MRVEPubPackage package(options.version, metadata);
-    int left = 0;
+    const bool isOld = call.value("epub-version") == QLatin1String("2");
+    MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata);
     for (const MRVManuscript &manuscript : manuscripts) {
         showProgress(QStringLiteral("Adding %1").arg(manuscript.path));
-        QString reason;
-        if (!package.addDocument(*manuscript.document, manuscript.fileName, &reason)) {
-            *error = QStringLiteral("%1: %2").arg(manuscript.path, reason);
+        if (!package.addManuscript(manuscript, error)) {
             return false;
         }
-        left += manuscript.remotePictures;
     }
     const QByteArray bytes = package.toByteArray(error);
     if (file != StandardOutput) {
@@ -239,9 +185,9 @@ bool exportPackage(const Options &options, const std::vector<MRVManuscript> &man
     if (bytes.isEmpty() || !writeOutput(bytes, file, error)) {
         return false;
     }
-    if (left > 0) {
+    if (package.remotePictures() > 0) {
         printError(QStringLiteral("note: pictures on other machines that are not in the e-book: %1")
-                       .arg(left));
+                       .arg(package.remotePictures()));
     }
     if (file != StandardOutput) {
         written->append(file);
@@ -249,23 +195,23 @@ bool exportPackage(const Options &options, const std::vector<MRVManuscript> &man
     return true;
 }
 
-void report(const Options &options, const QStringList &written)
+void report(const Call &call, const QStringList &written)
 {
     QJsonArray files;
     QMap<QString, int> pictures; // by folder
     for (const QString &file : written) {
         if (QFileInfo(file).path().endsWith(QLatin1String("_files"))) {
             ++pictures[QFileInfo(file).path()];
-        } else if (!options.json) {
+        } else if (!call.json()) {
             printLine(file);
         }
         files.append(QJsonObject{{QStringLiteral("path"), file},
                                  {QStringLiteral("bytes"), QFileInfo(file).size()}});
     }
-    for (auto it = pictures.constBegin(); it != pictures.constEnd() && !options.json; ++it) {
+    for (auto it = pictures.constBegin(); it != pictures.constEnd() && !call.json(); ++it) {
         printLine(QStringLiteral("%1/ (pictures: %2)").arg(it.key(), QString::number(it.value())));
     }
-    if (options.json) {
+    if (call.json()) {
         printJson({{QStringLiteral("files"), files}});
     }
 }
@@ -277,24 +223,24 @@ int run(const Call &call)
     if (code >= 0) {
         return code;
     }
-    const QStringList outputs = outputFiles(options);
-    code = checkOutputs(options, outputs);
+    const QStringList outputs = outputFiles(call, options);
+    code = checkOutputs(call, outputs);
     if (code >= 0) {
         return code;
     }
     std::vector<MRVManuscript> manuscripts;
     QStringList written;
     QString error;
-    const bool ok = readManuscripts(options, outputs, &manuscripts, &error)
-        && (options.target->package
-                ? exportPackage(options, manuscripts, outputs.constFirst(), &written, &error)
-                : exportPages(options, manuscripts, outputs, &written, &error));
+    const bool ok = readManuscripts(call, options, outputs, &manuscripts, &error)
+        && (options.isPackage()
+                ? exportPackage(call, options, manuscripts, outputs.constFirst(), &written, &error)
+                : exportPages(call, options, manuscripts, outputs, &written, &error));
     if (!ok) {
         return refuse(error);
     }
     showProgress(QString());
     if (outputs.constFirst() != StandardOutput) {
-        report(options, written);
+        report(call, written);
     }
     return Done;
 }

@@ -2,6 +2,7 @@
 
 #include "manuscript/mrvmanuscriptreader.h"
 #include "publish/mrvstagedfiles.h"
+#include "util/mrvnames.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -96,6 +97,16 @@ int lookThrough(const Call &call, const QStringList &inputs, const QString &doin
         }
     }
     return found && !isRefused ? Done : Failed;
+}
+
+bool readLanguage(const Call &call, QString *tag, QString *error)
+{
+    const QString given = call.value("language");
+    *tag = MRV::languageTag(given);
+    if (tag->isEmpty() && !given.isEmpty()) {
+        *error = QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(given);
+    }
+    return error->isEmpty();
 }
 
 bool readsTwice(const QStringList &inputs)

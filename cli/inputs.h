@@ -54,6 +54,12 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
                 const std::function<bool(const MRVManuscript &)> &look);
 
+/**
+ * The tag that --language gives; empty without the option. @return false, with a text, when it is
+ * malformed.
+ */
+bool readLanguage(const Call &call, QString *tag, QString *error);
+
 /** Whether standard input ("-") is given twice among the inputs; an error is printed then. */
 bool readsTwice(const QStringList &inputs);
 

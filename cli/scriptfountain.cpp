@@ -89,17 +89,14 @@ int readOptions(const Call &call, ConvertOptions *options)
         return usageError(
             QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
     }
-    const QString language = call.value("language");
-    options->language = MRV::languageTag(language);
-    if (options->language.isEmpty() && !language.isEmpty()) {
-        return usageError(
-            QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(language));
+    QString error;
+    if (!readLanguage(call, &options->language, &error)) {
+        return usageError(error);
     }
     const QString mode = call.value("mode");
     if (!mode.isEmpty() && options->to != MRVScriptFile::EPub) {
         return usageError(QStringLiteral("--mode is for e-books only"));
     }
-    QString error;
     QDateTime unused;
     if (options->to == MRVScriptFile::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
         return usageError(error);

@@ -1,9 +1,12 @@
 #include "epub/mrvepubpackage.h"
 
+#include "epub/mrvepubbook_p.h"
+#include "manuscript/mrvmanuscript.h"
+#include "util/mrvfailure.h"
+#include "xhtml/mrvhtmltext.h"
+
 #include "core/mrvcoreutil.h"
 #include "core/mrvxmltext.h"
-#include "epub/mrvepubbook_p.h"
-#include "xhtml/mrvhtmltext.h"
 
 #include <KZip>
 #include <QBuffer>
@@ -68,6 +71,16 @@ bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &f
                                  QString *error)
 {
     return m_book->addDocument(document, fileName, error);
+}
+
+bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *error)
+{
+    QString reason;
+    if (!addDocument(*manuscript.document, manuscript.fileName, &reason)) {
+        return MRV::fail(error, manuscript.path, reason);
+    }
+    m_remotePictures += manuscript.remotePictures;
+    return true;
 }
 
 QByteArray MRVEPubPackage::toByteArray(QString *error) const

@@ -11,6 +11,7 @@
 
 class QTextDocument;
 struct MRVEPubBook;
+struct MRVManuscript;
 
 /**
  * Puts documents into one e-book file (EPUB 3.2 or EPUB 2.0.1).
@@ -70,6 +71,17 @@ public:
                      QString *error = nullptr);
 
     /**
+     * Adds the document of a manuscript that was read, under its file's name.
+     *
+     * @param error if given, receives a text that names the manuscript on failure; untouched on
+     *              success.
+     * @return as addDocument().
+     */
+    bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
+    /** How many pictures on other machines the manuscripts show, which are not in the e-book. */
+    int remotePictures() const { return m_remotePictures; }
+
+    /**
      * The bytes of the e-book file. Without any document the book has its cover page alone.
      *
      * @param error if given, receives a text on failure; untouched on success.
@@ -86,4 +98,5 @@ public:
 
 private:
     std::unique_ptr<MRVEPubBook> m_book;
+    int m_remotePictures = 0;
 };

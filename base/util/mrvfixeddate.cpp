@@ -43,3 +43,18 @@ bool MRVFixedDate::fromEnvironment(QDateTime *date, QString *error)
     *date = given;
     return true;
 }
+
+bool MRVFixedDate::fromTextOrEnvironment(const QString &text, QDateTime *date, QString *error)
+{
+    if (text.isEmpty()) {
+        return fromEnvironment(date, error);
+    }
+    const QDateTime given = fromIsoText(text);
+    if (!given.isValid()) {
+        return MRV::fail(error,
+                         tr("the date is not one of ISO 8601 such as 2026-01-31T12:00:00Z, in the "
+                            "years 1 to 9999"));
+    }
+    *date = given;
+    return true;
+}

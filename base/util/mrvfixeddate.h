@@ -28,6 +28,17 @@ public:
     static QDateTime fromIsoText(const QString &text);
 
     /**
+     * The date of ISO 8601 that a person gives, or, for an empty @p text, that of the environment.
+     *
+     * @param text  as for fromIsoText().
+     * @param date  untouched where neither gives one, and on failure.
+     * @param error if given, receives a translated line on failure; untouched on success.
+     * @return false for a text that is no such date, and as fromEnvironment().
+     */
+    static bool fromTextOrEnvironment(const QString &text, QDateTime *date,
+                                      QString *error = nullptr);
+
+    /**
      * The date that the environment variable SOURCE_DATE_EPOCH gives, in seconds since 1970.
      *
      * @param date  untouched where the variable is missing or empty, and on failure.

@@ -60,6 +60,20 @@ public:
      */
     using StyleList = QList<QHash<QString, QString>>;
 
+    /** The names of the types in their order: "html", "xhtml", "epub", "kindle" and "kf8". */
+    static QStringList typeNames();
+    /**
+     * Finds the type with one of typeNames().
+     *
+     * @param type untouched on failure.
+     * @return false for any other name.
+     */
+    static bool typeNamed(const QString &name, ExportType *type);
+    /** The suffix of the files of a type, without a dot. */
+    static QString suffix(ExportType type);
+    /** Whether a type is for e-books, whose pages share a style sheet. */
+    static bool isForEBooks(ExportType type) { return type >= EPub; }
+
     /** @param document the document to export; not owned, and null makes every export fail. */
     explicit MRVTextXhtmlExporter(const QTextDocument *document);
 

@@ -15,7 +15,33 @@
 #include <QTextDocument>
 #include <QTextImageFormat>
 
+#include <iterator>
+
 namespace {
+
+constexpr struct
+{
+    MRVTextXhtmlExporter::ExportType type;
+    const char *name;
+    const char *suffix;
+} types[] = {
+    {MRVTextXhtmlExporter::Html, "html", "html"},
+    {MRVTextXhtmlExporter::Xhtml, "xhtml", "xhtml"},
+    {MRVTextXhtmlExporter::EPub, "epub", "epub"},
+    {MRVTextXhtmlExporter::Kindle, "kindle", "xhtml"},
+    {MRVTextXhtmlExporter::KindleKF8, "kf8", "xhtml"},
+};
+
+constexpr bool typesAreInOrder()
+{
+    for (int i = 0; i < int(std::size(types)); ++i) {
+        if (types[i].type != i) {
+            return false;
+        }
+    }
+    return std::size(types) == MRVTextXhtmlExporter::KindleKF8 + 1;
+}
+static_assert(typesAreInOrder());
 
 // Removes what a failed export has written so far; folders are removed only when they are empty.
 void removeFiles(const QStringList &files, const QString &newFolder)
@@ -36,6 +62,29 @@ const char *imageFormatOf(MRVTextXhtmlExporter::ExportType type)
 }
 
 } // namespace
+
+QStringList MRVTextXhtmlExporter::typeNames()
+{
+    QStringList names;
+    for (const auto &row : types) {
+        names.append(QLatin1String(row.name));
+    }
+    return names;
+}
+
+bool MRVTextXhtmlExporter::typeNamed(const QString &name, ExportType *type)
+{
+    const int index = typeNames().indexOf(name);
+    if (index >= 0) {
+        *type = types[index].type;
+    }
+    return index >= 0;
+}
+
+QString MRVTextXhtmlExporter::suffix(ExportType type)
+{
+    return QLatin1String(types[type].suffix);
+}
 
 MRVTextXhtmlExporter::MRVTextXhtmlExporter(const QTextDocument *document)
     : m_document(document)

@@ -382,6 +382,10 @@ Fehler: %2</translation>
         <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
         <translation>SOURCE_DATE_EPOCH ist keine Anzahl von Sekunden seit 1970, die in den Jahren 1 bis 9999 liegt</translation>
     </message>
+    <message>
+        <source>the date is not one of ISO 8601 such as 2026-01-31T12:00:00Z, in the years 1 to 9999</source>
+        <translation>das Datum ist keines nach ISO 8601 wie 2026-01-31T12:00:00Z, in den Jahren 1 bis 9999</translation>
+    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>

@@ -382,6 +382,10 @@ Error: %2</translation>
         <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
         <translation>SOURCE_DATE_EPOCH no es un número de segundos desde 1970 comprendido en los años 1 a 9999</translation>
     </message>
+    <message>
+        <source>the date is not one of ISO 8601 such as 2026-01-31T12:00:00Z, in the years 1 to 9999</source>
+        <translation>la fecha no es una fecha ISO 8601 como 2026-01-31T12:00:00Z, de los años 1 a 9999</translation>
+    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>

@@ -382,6 +382,10 @@ Erreur&#xa0;: %2</translation>
         <source>SOURCE_DATE_EPOCH is not a number of seconds since 1970 that lies in the years 1 to 9999</source>
         <translation>SOURCE_DATE_EPOCH n’est pas un nombre de secondes depuis 1970 situé dans les années 1 à 9999</translation>
     </message>
+    <message>
+        <source>the date is not one of ISO 8601 such as 2026-01-31T12:00:00Z, in the years 1 to 9999</source>
+        <translation>la date n’est pas une date ISO 8601 comme 2026-01-31T12:00:00Z, des années 1 à 9999</translation>
+    </message>
 </context>
 <context>
     <name>MRVFountainHtml</name>
