@@ -8,22 +8,6 @@
 
 namespace {
 
-bool readSettings(const QString &path, MRVShortcutScheme *scheme, QString *error)
-{
-    MRVOptionsFile file;
-    if (!file.open(path, Access::Read, error)) {
-        return false;
-    }
-    *scheme = file.options()->shortcutScheme(error);
-    return error->isEmpty();
-}
-
-bool readNamed(const QString &name, MRVShortcutScheme *scheme, QString *error)
-{
-    *scheme = MRVShortcutScheme::loadNamed(name, error);
-    return error->isEmpty();
-}
-
 // The scheme with the number of an argument; without such an argument that of the settings.
 // @return Done, or the code to end with.
 int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
@@ -32,13 +16,16 @@ int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
         return usageError(QStringLiteral("either --settings or a scheme can be given"));
     }
     QString error;
-    const bool read = argument < call.arguments.size()
-        ? readNamed(call.arguments.at(argument), scheme, &error)
-        : readSettings(call.value("settings"), scheme, &error);
-    if (read && !call.has("stored")) {
+    MRVOptionsFile settings;
+    if (argument < call.arguments.size()) {
+        *scheme = MRVShortcutScheme::loadNamed(call.arguments.at(argument), &error);
+    } else if (settings.open(call.value("settings"), Access::Read, &error)) {
+        *scheme = settings.options()->shortcutScheme(&error);
+    }
+    if (error.isEmpty() && !call.has("stored")) {
         scheme->mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
     }
-    return read ? int(Done) : refuse(error);
+    return error.isEmpty() ? int(Done) : refuse(error);
 }
 
 QString nameOf(MRVShortcut::Id id)
