@@ -166,6 +166,11 @@ void tst_Css::selectors_data()
     row("p:before", "");
     row("p:unknown, h1", "");
     row("p::unknown, h1", "");
+    row("p::before.x, h1", "");
+    row("p:after > a, h1", "");
+    row("p:not(::before), h1", "");
+    row("p::before:hover, h1", "T");
+    row("p::before:root, h1", "");
     row("p,, h1", "");
     row("p,", "");
     row("p >, h1", "");
@@ -213,6 +218,7 @@ void tst_Css::sheets_data()
     row("p{a:url( x;y.png );b:url('q)')}", "a:url( x;y.png ); b:url('q)')");
     row("p{a:url(x'y);c:d}", "c:d");
     row("p{a:b;c;d:e;:f;g:;h:{i:j};k:l}", "a:b; d:e; k:l");
+    row("p{a:hover b{c:d}e:f;@x{}g:h}", "e:f; g:h");
     row("p{a:(b;c:d);e:f}", "a:(b;c:d); e:f");
     row("p{a:b);c:d]}p{e:f}", "e:f");
     row("p{a:[b;c:d}p{e:f}", ""); // an open bracket takes what follows

@@ -52,27 +52,6 @@ bool isNth(qint64 place, qint64 a, qint64 b)
     return a == 0 ? place == b : (place - b) % a == 0 && (place - b) / a >= 0;
 }
 
-/// The bits of an element and its ancestors.
-quint64 pathOf(const MRVCssElement *element)
-{
-    QVarLengthArray<const MRVCssElement *, 64> unknown;
-    for (; element && element->memo.path == 0; element = element->parent) {
-        unknown.append(element);
-    }
-    quint64 path = element ? element->memo.path : 0;
-    while (!unknown.isEmpty()) {
-        element = unknown.last();
-        unknown.removeLast();
-        path |= MRVCssMatcher::bitOf(element->name);
-        path |= element->id.isEmpty() ? 0 : MRVCssMatcher::bitOf(element->id);
-        for (const QString &name : element->classes) {
-            path |= MRVCssMatcher::bitOf(name);
-        }
-        element->memo.path = path;
-    }
-    return path;
-}
-
 } // namespace
 
 quint64 MRVCssMatcher::bitOf(const QString &text)
@@ -85,24 +64,36 @@ quint64 MRVCssMatcher::bitOf(const QString &text)
     return quint64(1) << ((hash * 0x9e3779b9U) >> 26);
 }
 
+quint64 MRVCssMatcher::pathOf(const MRVCssElement *element)
+{
+    QVarLengthArray<const MRVCssElement *, 64> unknown;
+    for (; element && element->memo.path == 0; element = element->parent) {
+        unknown.append(element);
+    }
+    quint64 path = element ? element->memo.path : 0;
+    while (!unknown.isEmpty()) {
+        element = unknown.last();
+        unknown.removeLast();
+        path |= bitOf(element->name);
+        path |= element->id.isEmpty() ? 0 : bitOf(element->id);
+        for (const QString &name : element->classes) {
+            path |= bitOf(name);
+        }
+        element->memo.path = path;
+    }
+    return path;
+}
+
 bool MRVCssMatcher::matches(const MRVCssSelector &selector, const MRVCssElement &element)
 {
-    ++m_steps;
-    if (selector.ancestors != 0
-        && (pathOf(element.parent) & selector.ancestors) != selector.ancestors) {
-        return false;
-    }
     return matchFrom(selector.compounds.constData(), element) == Matched;
 }
 
 MRVCssMatcher::Result MRVCssMatcher::matchFrom(const MRVCssCompound *compound,
                                                const MRVCssElement &element)
 {
-    if (m_steps > m_mostSteps) {
-        return NoOther;
-    }
     if (!matchesCompound(*compound, element)) {
-        return OtherSibling;
+        return isExhausted() ? NoOther : OtherSibling;
     }
     const char combinator = compound->combinator;
     if (combinator == 0) {
@@ -164,7 +155,7 @@ bool MRVCssMatcher::matchesCompound(const MRVCssCompound &compound, const MRVCss
 {
     m_steps += 1 + qint64(compound.classes.size()) * element.classes.size();
     m_steps += compound.id.isEmpty() ? 0 : costOf(compound.id);
-    return matchesNames(compound, element.name, element.id, element.classes)
+    return !isExhausted() && matchesNames(compound, element.name, element.id, element.classes)
         && std::all_of(compound.tests.cbegin(), compound.tests.cend(),
                        [&](const MRVCssTest &test) { return matchesTest(test, element); });
 }

@@ -21,6 +21,7 @@ struct PseudoClass
         Place, // (an+b)
         Compounds, // (a list of compound selectors)
         Language, // (a language)
+        Element, // one that CSS 2 wrote with a single colon
         Missing, // valid, but what it asks for is not known here
     };
 
@@ -73,10 +74,10 @@ constexpr PseudoClass pseudoClasses[] = {
     {QLatin1String("read-only"),        PseudoClass::Missing},
     {QLatin1String("read-write"),       PseudoClass::Missing},
     {QLatin1String("placeholder-shown"), PseudoClass::Missing},
-    {QLatin1String("before"),           PseudoClass::Missing}, // elements that CSS 2 wrote so
-    {QLatin1String("after"),            PseudoClass::Missing},
-    {QLatin1String("first-line"),       PseudoClass::Missing},
-    {QLatin1String("first-letter"),     PseudoClass::Missing},
+    {QLatin1String("before"),           PseudoClass::Element},
+    {QLatin1String("after"),            PseudoClass::Element},
+    {QLatin1String("first-line"),       PseudoClass::Element},
+    {QLatin1String("first-letter"),     PseudoClass::Element},
 };
 
 constexpr QLatin1String pseudoElements[] = {
@@ -154,6 +155,7 @@ private:
     int m_depth = 0;
     quint32 m_weight = 0;
     bool m_canMatch = true;
+    bool m_hasElement = false; // a pseudo element, which only pseudo classes may follow
 };
 
 bool SelectorReader::skipSpace()
@@ -208,10 +210,11 @@ bool SelectorReader::readSelector(MRVCssSelector &selector)
 {
     m_weight = 0;
     m_canMatch = true;
+    m_hasElement = false;
     char combinator = 0;
     do {
         MRVCssCompound compound;
-        if (!readCompound(compound)) {
+        if (m_hasElement || !readCompound(compound)) {
             return false;
         }
         compound.combinator = combinator;
@@ -253,6 +256,9 @@ bool SelectorReader::readCompound(MRVCssCompound &compound)
         return false;
     }
     for (;;) {
+        if (m_hasElement && !token().is(':')) {
+            return token().type != MRVCssToken::Hash && !token().is('.') && !token().is('[');
+        }
         if (token().type == MRVCssToken::Hash) {
             if (MRVCssTokenizer(token().raw.mid(1)).next().type != MRVCssToken::Ident) {
                 return false;
@@ -371,12 +377,19 @@ bool SelectorReader::readPseudoElement()
         ++m_at;
     }
     m_canMatch = false;
+    m_hasElement = true;
     return isKnown;
 }
 
 bool SelectorReader::readPseudoClass(const PseudoClass &row, MRVCssCompound &compound)
 {
     const bool isFunction = token().type == MRVCssToken::Function;
+    if (row.form == PseudoClass::Element) {
+        return !isFunction && readPseudoElement();
+    }
+    if (m_hasElement && (row.form != PseudoClass::Word || row.kind != MRVCssTest::Never)) {
+        return false;
+    }
     const bool needsFunction = row.form != PseudoClass::Word;
     if (row.form != PseudoClass::Missing && isFunction != needsFunction) {
         return false;
@@ -418,7 +431,7 @@ bool SelectorReader::readCompounds(const PseudoClass &row, MRVCssTest &test)
         MRVCssCompound compound;
         m_weight = 0;
         skipSpace();
-        if (!readCompound(compound)) {
+        if (!readCompound(compound) || m_hasElement) {
             return false;
         }
         most = qMax(most, m_weight);

@@ -74,12 +74,15 @@ public:
     /// Whether it took more steps than were allowed; nothing then matches.
     bool isExhausted() const { return m_steps > m_mostSteps; }
 
+    /// Whether the whole selector fits; the caller has compared the bits of the ancestors.
     bool matches(const MRVCssSelector &selector, const MRVCssElement &element);
     /// Whether name, id and classes fit, without the tests.
     static bool matchesNames(const MRVCssCompound &compound, const QString &name, const QString &id,
                              const QStringList &classes);
     /// Bits for a name, an id or a class.
     static quint64 bitOf(const QString &text);
+    /// The bits of an element and its ancestors; 0 for null.
+    static quint64 pathOf(const MRVCssElement *element);
 
 private:
     /// After a failure, which elements further on in the document's order are worth a try.

@@ -317,12 +317,14 @@ MRVCssPart MRVCssTokenizer::readPart(const char *ends)
             part.end = token.raw.front();
             break;
         }
-        if (!trackBrackets(token, closers) || token.type == MRVCssToken::Bad) {
+        const bool isBalanced = trackBrackets(token, closers);
+        if (isBalanced && c == '}' && closers.isEmpty()) {
             part.isValid = false;
-        }
-        if (isAtRule && c == '}' && closers.isEmpty()) {
             part.end = u';';
             break;
+        }
+        if (!isBalanced || token.type == MRVCssToken::Bad) {
+            part.isValid = false;
         }
         if (tokens.size() >= MRVInputLimits::CssTokens) {
             part.isValid = false;

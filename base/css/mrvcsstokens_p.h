@@ -56,8 +56,8 @@ public:
     }
 
     MRVCssToken next();
-    /// Reads on to one of @p ends outside brackets, and past it. Where the first token is an
-    /// at-keyword, a semicolon or the end of a block does as well, and counts as a semicolon.
+    /// Reads on to one of @p ends outside brackets, and past it. The end of a block counts as a
+    /// semicolon (what holds a block is no declaration), and a semicolon always ends an at-rule.
     MRVCssPart readPart(const char *ends);
     /// Goes past the end of the block whose opening brace was read.
     void skipBlock();

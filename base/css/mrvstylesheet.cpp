@@ -55,7 +55,13 @@ uint qHash(const Names &names, uint seed)
 /// The selectors that fit the names, from the weakest.
 struct Candidates
 {
-    QVector<int> selectors;
+    struct One
+    {
+        quint64 ancestors; // of the selector, beside those of the others for the processor's cache
+        int selector;
+        bool isPlain;
+    };
+    QVector<One> selectors;
     bool isPlain = true; // the names alone decide: the declarations are those of every such element
     QVector<MRVCssDeclaration> declarations;
 };
@@ -105,6 +111,7 @@ public:
     bool read(const QString &css, Origin origin);
     void index(int selector);
     const Candidates &candidates(const MRVCssElement &element);
+    QVector<int> matched(const Candidates &candidates, const MRVCssElement &element);
     QVector<MRVCssDeclaration> assembled(const QVector<int> &matched,
                                          const QVector<MRVCssDeclaration> &own) const;
 
@@ -116,7 +123,7 @@ public:
 private:
     bool readRule(const MRVCssPart &prelude, MRVCssTokenizer &tokens, Origin origin);
     Names namesOf(const MRVCssElement &element) const;
-    Candidates find(const Names &names) const;
+    Candidates find(const Names &names);
     quint64 weightOf(int selector) const;
 
     QHash<QString, QVector<int>> m_byId;
@@ -237,28 +244,34 @@ quint64 MRVStyleSheet::Private::weightOf(int selector) const
     return quint64(isAuthor) << 63 | quint64(one.selector.specificity) << 32 | quint32(one.rule);
 }
 
-Candidates MRVStyleSheet::Private::find(const Names &names) const
+Candidates MRVStyleSheet::Private::find(const Names &names)
 {
     QVector<int> all = m_others + m_byName.value(names.name) + m_byId.value(names.id);
     for (const QString &one : names.classes) {
         all += m_byClass.value(one);
     }
     QVector<QPair<quint64, int>> weighed;
-    Candidates found;
     for (const int selector : qAsConst(all)) {
-        const MRVCssSelector &one = selectors.at(selector).selector;
-        if (MRVCssMatcher::matchesNames(one.compounds.constFirst(), names.name, names.id,
-                                        names.classes)) {
+        const MRVCssCompound &own = selectors.at(selector).selector.compounds.constFirst();
+        matcher.spend(1 + qint64(own.classes.size()) * names.classes.size());
+        if (matcher.isExhausted()) {
+            return {};
+        }
+        if (MRVCssMatcher::matchesNames(own, names.name, names.id, names.classes)) {
             weighed.append({weightOf(selector), selector});
-            found.isPlain = found.isPlain && one.isPlain();
         }
     }
     std::sort(weighed.begin(), weighed.end());
+    Candidates found;
+    QVector<int> matched;
     for (const auto &one : qAsConst(weighed)) {
-        found.selectors.append(one.second);
+        const MRVCssSelector &selector = selectors.at(one.second).selector;
+        found.selectors.append({selector.ancestors, one.second, selector.isPlain()});
+        found.isPlain = found.isPlain && selector.isPlain();
+        matched.append(one.second);
     }
     if (found.isPlain) {
-        found.declarations = assembled(found.selectors, {});
+        found.declarations = assembled(matched, {});
     }
     return found;
 }
@@ -279,6 +292,21 @@ const Candidates &MRVStyleSheet::Private::candidates(const MRVCssElement &elemen
     }
     m_rememberedSize += size;
     return *m_remembered.insert(names, found);
+}
+
+QVector<int> MRVStyleSheet::Private::matched(const Candidates &candidates,
+                                             const MRVCssElement &element)
+{
+    const quint64 path = MRVCssMatcher::pathOf(element.parent);
+    QVector<int> matched;
+    matcher.spend(candidates.selectors.size());
+    for (const Candidates::One &one : candidates.selectors) {
+        if ((path & one.ancestors) == one.ancestors
+            && (one.isPlain || matcher.matches(selectors.at(one.selector).selector, element))) {
+            matched.append(one.selector);
+        }
+    }
+    return matched;
 }
 
 QVector<MRVCssDeclaration> MRVStyleSheet::Private::assembled(
@@ -371,14 +399,7 @@ QVector<MRVCssDeclaration> MRVStyleSheet::declarations(const MRVCssElement &elem
     const Candidates &candidates = d->candidates(element);
     QVector<MRVCssDeclaration> declarations = candidates.declarations;
     if (!candidates.isPlain || !own.isEmpty()) {
-        QVector<int> matched;
-        for (const int selector : candidates.selectors) {
-            const MRVCssSelector &one = d->selectors.at(selector).selector;
-            if (one.isPlain() || d->matcher.matches(one, element)) {
-                matched.append(selector);
-            }
-        }
-        declarations = d->assembled(matched, own);
+        declarations = d->assembled(d->matched(candidates, element), own);
     }
     d->matcher.spend(qint64(declarations.size()) * StepsPerDeclaration);
     return isExhausted() ? d->assembled({}, own) : declarations;
