@@ -47,19 +47,6 @@ private Q_SLOTS:
         QCOMPARE(ran.output.section('\n', 1, 1), QString("-:1:2: “ab” -> “ba”"));
     }
 
-    // What is no settings file is neither read nor written over.
-    void otherFiles()
-    {
-        QVERIFY(writeBytes(in("settings.ini"), "Call me Ishmael.\n"));
-        for (const QString arguments : {"list", "add x y"}) {
-            const Ran ran = edit(arguments);
-            QCOMPARE(ran.exitCode, 1);
-            QVERIFY2(ran.errors.contains("@settings.ini"), qPrintable(ran.errors));
-        }
-        QCOMPARE(bytesOf(in("settings.ini")), QByteArray("Call me Ishmael.\n"));
-        QCOMPARE(mrv("autoreplace list --settings @missing.ini").exitCode, 1);
-    }
-
     // Each takes the list as it finds it, and puts it back.
     void manyAtOnce()
     {

@@ -45,7 +45,6 @@ private Q_SLOTS:
         m_server.answer("/away", found + m_other.answer("/x", locked).toEncoded() + "\r\n\r\n");
         m_server.answer("/locked", locked);
         m_server.answer("/stalled", {}, RawServer::Stall);
-        m_server.answer("/escape", "HTTP/1.1 404 \x1b[2J\r\n\r\n");
     }
 
     void cleanupTestCase()
