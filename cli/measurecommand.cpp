@@ -1,9 +1,8 @@
 #include "commandline.h"
 
-#include "util/mrvunit.h"
+#include "util/mrvmeasure.h"
 
 #include <QJsonObject>
-#include <QVector>
 
 #include <cmath>
 
@@ -13,51 +12,13 @@ constexpr MRVUnit::Unit shownUnits[] = {
     MRVUnit::Inch, MRVUnit::Decimeter, MRVUnit::Centimeter, MRVUnit::Millimeter,
     MRVUnit::Pica, MRVUnit::Point,     MRVUnit::Pixel};
 
-struct Measure
-{
-    QString pattern;
-    double value = 0.0;
-    double points = 0.0;
-    int decimals = 0;
-    MRVUnit::Unit unit = MRVUnit::None;
-};
-
-// What a measure is printed in. A didot and a cicero are no units of their own, so that the
-// spelling tells them apart.
-struct Target
-{
-    QString name;
-    QString pattern;
-    double points = 0.0; // that it counts
-};
-
 constexpr const char units[] = "in inch \" dm cm mm pi pt px dd cc";
 
-Target targetNamed(const QString &unit)
-{
-    Target target{unit, QString(), 0.0};
-    int decimals = 0;
-    double value = 0.0;
-    MRVUnit::Unit ignored = MRVUnit::None;
-    MRVUnit::parseMeasure(u'1' + unit, target.pattern, decimals, value, target.points, ignored);
-    return target;
-}
-
-double converted(const Measure &measure, const Target &to)
-{
-    return to.pattern == measure.pattern ? measure.value : measure.points / to.points;
-}
-
-QString textOf(const Measure &measure, const Target &to)
-{
-    return to.pattern.arg(converted(measure, to), 0, 'g', -1, u' ');
-}
-
-void print(const QString &text, const Measure &measure, const QVector<Target> &targets, bool alone)
+void print(const QString &text, const MRVMeasure &measure, const QStringList &targets, bool alone)
 {
     QStringList all;
-    for (const Target &target : targets) {
-        all.append(textOf(measure, target));
+    for (const QString &unit : targets) {
+        all.append(measure.toText(unit));
     }
     if (!alone) {
         all.prepend(text.simplified());
@@ -65,11 +26,11 @@ void print(const QString &text, const Measure &measure, const QVector<Target> &t
     printLine(all.join(QLatin1String(" = ")));
 }
 
-void printAsJson(const QString &text, const Measure &measure, const QVector<Target> &targets)
+void printAsJson(const QString &text, const MRVMeasure &measure, const QStringList &targets)
 {
     QJsonObject values;
-    for (const Target &target : targets) {
-        values.insert(target.name, converted(measure, target));
+    for (const QString &unit : targets) {
+        values.insert(unit, measure.in(unit));
     }
     printJson({{QStringLiteral("text"), text},
                {QStringLiteral("value"), measure.value},
@@ -79,23 +40,22 @@ void printAsJson(const QString &text, const Measure &measure, const QVector<Targ
                {QStringLiteral("in"), values}});
 }
 
-QVector<Target> targetsFor(const QString &to)
+QStringList targetsFor(const Call &call)
 {
-    if (!to.isNull()) {
-        return {targetNamed(to)};
+    if (call.has("to")) {
+        return {call.value("to")};
     }
-    QVector<Target> targets;
+    QStringList targets;
     for (const MRVUnit::Unit unit : shownUnits) {
-        targets.append(targetNamed(MRVUnit::shortSuffix(unit)));
+        targets.append(MRVUnit::shortSuffix(unit));
     }
     return targets;
 }
 
 // What is wrong with a measure; empty when nothing is.
-QString objectionTo(const QString &text, Measure *measure)
+QString objectionTo(const QString &text, MRVMeasure *measure)
 {
-    if (!MRVUnit::parseMeasure(text, measure->pattern, measure->decimals, measure->value,
-                               measure->points, measure->unit)) {
+    if (!MRVMeasure::parse(text, measure)) {
         return QStringLiteral("'%1' is not a number with a unit (%2) after it")
             .arg(text, words(units).join(QLatin1String(", ")));
     }
@@ -106,10 +66,10 @@ QString objectionTo(const QString &text, Measure *measure)
 
 int run(const Call &call)
 {
-    const QVector<Target> targets = targetsFor(call.value("to"));
+    const QStringList targets = targetsFor(call);
     bool ok = true;
     for (const QString &text : call.arguments) {
-        Measure measure;
+        MRVMeasure measure;
         const QString objection = objectionTo(text, &measure);
         if (!objection.isEmpty()) {
             refuse(objection); // the other measures can still be converted
