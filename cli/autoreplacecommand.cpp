@@ -8,8 +8,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include <algorithm>
-
 namespace {
 
 QString quoted(const QString &text)
@@ -86,20 +84,6 @@ int list(const Call &call, MRVOptions *options)
     return Done;
 }
 
-/// The entries that have the match and, if it was given, the replacement.
-QVector<int> entriesOf(const Call &call, const MRVAutoReplaceList &list)
-{
-    QVector<int> entries;
-    for (int i = 0; i < list.size(); ++i) {
-        const bool fits =
-            call.arguments.size() < 2 || list.at(i).replacement == call.arguments.at(1);
-        if (list.at(i).match == call.arguments.at(0) && fits) {
-            entries.append(i);
-        }
-    }
-    return entries;
-}
-
 int store(const Call &call, MRVOptions *options, const MRVAutoReplaceList &list,
           const MRVAutoReplaceList &changed)
 {
@@ -111,14 +95,6 @@ int store(const Call &call, MRVOptions *options, const MRVAutoReplaceList &list,
         printEntry(call, entry);
     }
     return Done;
-}
-
-// Of several enabled entries for a match only the first applies.
-bool isEnabled(const MRVAutoReplaceList &list, const QString &match)
-{
-    return std::any_of(list.cbegin(), list.cend(), [&](const MRVAutoReplace &entry) {
-        return entry.enabled && entry.match == match;
-    });
 }
 
 QString enabledAlready(const QString &match)
@@ -139,7 +115,7 @@ int add(const Call &call, MRVOptions *options)
             QStringLiteral("%1 -> %2 is in the list already; it can be enabled or disabled")
                 .arg(quoted(entry.match), quoted(entry.replacement)));
     }
-    if (entry.enabled && isEnabled(list, entry.match)) {
+    if (entry.enabled && list.containsEnabled(entry.match)) {
         return refuse(enabledAlready(entry.match));
     }
     list.append(entry);
@@ -154,7 +130,7 @@ bool isOrdinal(const MRVAutoReplace &entry)
 int remove(const Call &call, MRVOptions *options)
 {
     MRVAutoReplaceList list = options->autoReplaceList();
-    const QVector<int> entries = entriesOf(call, list);
+    const QVector<int> entries = list.indexesOf(call.arguments.at(0), call.arguments.value(1));
     if (entries.isEmpty()) {
         return refuse(QStringLiteral("no such entry: %1").arg(quoted(call.arguments.join(u' '))));
     }
@@ -172,7 +148,7 @@ int remove(const Call &call, MRVOptions *options)
 int setEnabled(const Call &call, MRVOptions *options, bool enabled)
 {
     MRVAutoReplaceList list = options->autoReplaceList();
-    const QVector<int> entries = entriesOf(call, list);
+    const QVector<int> entries = list.indexesOf(call.arguments.at(0), call.arguments.value(1));
     if (entries.isEmpty()) {
         return refuse(QStringLiteral("no such entry: %1").arg(quoted(call.arguments.join(u' '))));
     }
@@ -183,7 +159,7 @@ int setEnabled(const Call &call, MRVOptions *options, bool enabled)
                 .arg(QString::number(entries.size()), quoted(call.arguments.at(0))));
     }
     if (enabled && !list.at(entries.constFirst()).enabled
-        && isEnabled(list, call.arguments.at(0))) {
+        && list.containsEnabled(call.arguments.at(0))) {
         return refuse(enabledAlready(call.arguments.at(0)));
     }
     MRVAutoReplaceList changed;

@@ -132,6 +132,24 @@ bool MRVAutoReplaceList::containsMatch(const QString &match) const
                        [&](const MRVAutoReplace &entry) { return entry.match == match; });
 }
 
+bool MRVAutoReplaceList::containsEnabled(const QString &match) const
+{
+    return std::any_of(cbegin(), cend(), [&](const MRVAutoReplace &entry) {
+        return entry.enabled && entry.match == match;
+    });
+}
+
+QVector<int> MRVAutoReplaceList::indexesOf(const QString &match, const QString &replacement) const
+{
+    QVector<int> indexes;
+    for (int i = 0; i < size(); ++i) {
+        if (at(i).match == match && (replacement.isNull() || at(i).replacement == replacement)) {
+            indexes.append(i);
+        }
+    }
+    return indexes;
+}
+
 bool MRVAutoReplaceList::containsReplacement(const QString &match, const QString &replacement) const
 {
     return std::any_of(cbegin(), cend(), [&](const MRVAutoReplace &entry) {

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QVector>
 
 #include <initializer_list>
 #include <memory>
@@ -80,6 +81,15 @@ public:
 
     /** Whether an entry, enabled or not, has just this match. */
     bool containsMatch(const QString &match) const;
+    /**
+     * Whether an enabled entry has just this match. Of several such entries only the first applies.
+     */
+    bool containsEnabled(const QString &match) const;
+    /**
+     * The entries, enabled or not, with just this match and, unless that is null, just this
+     * replacement: their indexes from 0, ascending.
+     */
+    QVector<int> indexesOf(const QString &match, const QString &replacement = QString()) const;
     /** Whether an entry, enabled or not, has just this match and this replacement. */
     bool containsReplacement(const QString &match, const QString &replacement) const;
 
