@@ -3,7 +3,6 @@
 
 #include "core/mrvcoreutil.h"
 
-#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
@@ -172,48 +171,26 @@ Result download(const Options &options)
 bool convert(const Options &options, Result *result)
 {
     const QString utf8 = QStringLiteral("UTF-8");
-    const QString named = MRVDownloadUrl::charset(result->contentType).remove(u'"').trimmed();
-    const bool isKnown = QTextCodec::codecForName(named.toLatin1());
-    if (!isKnown && !options.from.isEmpty()) {
-        result->data = MRVDownloadUrl::convert(result->data, options.from, utf8);
-    }
-    if (options.to.isEmpty()) {
-        return true;
-    }
-    if (!isKnown && options.from.isEmpty()) {
+    const bool isKnown = MRVDownloadUrl::namesCharset(result->contentType);
+    if (!isKnown && options.from.isEmpty() && !options.to.isEmpty()) {
         result->error = QStringLiteral("the server does not say what the text is in; --from does");
         return false;
     }
-    const QByteArray converted = MRVDownloadUrl::convert(result->data, utf8, options.to);
-    if (MRVDownloadUrl::convert(converted, options.to, utf8) != result->data) {
+    if (!isKnown) {
+        result->data = MRVDownloadUrl::convert(result->data, options.from, utf8);
+    }
+    if (!MRVDownloadUrl::convertLossless(&result->data, utf8, options.to)) {
         result->error = QStringLiteral("it has characters that %1 has not").arg(options.to);
-        return false;
     }
-    result->data = converted;
-    return true;
-}
-
-// A server must not give a file a name that steers the terminal of whoever lists it.
-QString withoutControls(QString name)
-{
-    for (QChar &c : name) {
-        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) {
-            c = u' ';
-        }
-    }
-    return name;
+    return result->error.isEmpty();
 }
 
 // Without a name that was asked for, no file is replaced.
 QString targetFile(const Options &options)
 {
-    const QString &output = options.output;
-    if (!output.isEmpty() && !QFileInfo(output).isDir()) {
-        return output;
-    }
-    const QString name = withoutControls(MRVDownloadUrl::fileForUrl(QString(), options.url));
-    return MRVCoreUtil::GetUniqueFileName(output.isEmpty() ? name
-                                                           : QDir(output).absoluteFilePath(name));
+    return options.output.isEmpty() || QFileInfo(options.output).isDir()
+        ? MRVDownloadUrl::newFileForUrl(options.output, options.url)
+        : options.output;
 }
 
 // What would be said after all has come can be said before.

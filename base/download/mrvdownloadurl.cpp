@@ -124,6 +124,19 @@ QString MRVDownloadUrl::fileForUrl(const QString &folder, const QUrl &url)
     return QDir(folder).absoluteFilePath(name);
 }
 
+QString MRVDownloadUrl::newFileForUrl(const QString &folder, const QUrl &url)
+{
+    QString name = fileForUrl(QString(), url);
+    // A server must not give a file a name that steers the terminal of whoever lists it.
+    for (QChar &c : name) {
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format) {
+            c = u' ';
+        }
+    }
+    return MRVCoreUtil::GetUniqueFileName(folder.isEmpty() ? name
+                                                           : QDir(folder).absoluteFilePath(name));
+}
+
 QString MRVDownloadUrl::fileForUrl(const QUrl &url) const
 {
     return fileForUrl(m_downloadFolder, url);
@@ -180,6 +193,22 @@ QByteArray MRVDownloadUrl::convert(const QByteArray &data, const QString &fromCh
         result += to->fromUnicode(&replacement, 1, &encoding);
     }
     return result;
+}
+
+bool MRVDownloadUrl::namesCharset(const QString &contentType)
+{
+    return codecOf(charset(contentType));
+}
+
+bool MRVDownloadUrl::convertLossless(QByteArray *data, const QString &fromCharset,
+                                     const QString &toCharset)
+{
+    const QByteArray converted = convert(*data, fromCharset, toCharset);
+    if (convert(converted, toCharset, fromCharset) != *data) {
+        return false;
+    }
+    *data = converted;
+    return true;
 }
 
 bool MRVDownloadUrl::download(const QUrl &url)

@@ -78,6 +78,15 @@ public:
     /** The same in the download folder. */
     QString fileForUrl(const QUrl &url) const;
 
+    /**
+     * A file for @p url that does not exist yet: fileForUrl() without control characters and such
+     * that change the direction of text, which blanks replace, and with a number where the name is
+     * taken.
+     *
+     * @param folder must exist; empty means the current one, and the path is relative then.
+     */
+    static QString newFileForUrl(const QString &folder, const QUrl &url);
+
     /** The folder of downloadToFile(QUrl); empty, as at first, means the current one. */
     void setDownloadFolder(const QString &folder);
 
@@ -125,6 +134,16 @@ public:
      */
     static QByteArray convert(const QByteArray &data, const QString &fromCharset,
                               const QString &toCharset);
+
+    /** Whether @p contentType names a charset that can be converted from. */
+    static bool namesCharset(const QString &contentType);
+    /**
+     * Converts @p data as convert() does, unless characters would be lost.
+     *
+     * @return false, with @p data unchanged, where @p toCharset lacks a character of the text.
+     */
+    static bool convertLossless(QByteArray *data, const QString &fromCharset,
+                                const QString &toCharset);
 
 public Q_SLOTS:
     /**
