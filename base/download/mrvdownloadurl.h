@@ -138,7 +138,7 @@ public:
     /** Whether @p contentType names a charset that can be converted from. */
     static bool namesCharset(const QString &contentType);
     /**
-     * Converts @p data as convert() does, unless characters would be lost.
+     * Converts @p data from @p fromCharset as convert() does, unless characters would be lost.
      *
      * @return false, with @p data unchanged, where @p toCharset lacks a character of the text.
      */

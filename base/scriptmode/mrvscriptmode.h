@@ -102,9 +102,10 @@ public:
      */
     bool fromXml(const QByteArray &xml, QString *error = nullptr, QStringList *remarks = nullptr);
     /**
-     * Replaces this mode by one of systemModes(), by its name in any case, or else loads the file
-     * of that path. A text for an unknown name has a similar one in it.
+     * Replaces this mode by one of systemModes(), or else loads a file.
      *
+     * @param nameOrPath the name of a mode in any case, or a path.
+     * @param error      as for load(); of an unknown name, it tells a similar one.
      * @return false, with this mode as it was, on failure.
      */
     bool loadNamed(const QString &nameOrPath, QString *error = nullptr);

@@ -219,10 +219,10 @@ public:
     /** The predefined scheme with this translated name, compared exactly; morvane() without one. */
     static MRVShortcutScheme predefinedScheme(const QString &name);
     /**
-     * The predefined scheme with this translated name, whatever files are there, or else that of
-     * the file of this path.
+     * A predefined scheme, or else that of a file.
      *
-     * @param error as for load(); for an unknown name, with a similar one in it.
+     * @param nameOrPath the translated name of a scheme, whatever files are there, or a path.
+     * @param error      as for load(); of an unknown name, it tells a similar one.
      * @return what could be read; a null scheme where nothing could.
      */
     static MRVShortcutScheme loadNamed(const QString &nameOrPath, QString *error = nullptr);

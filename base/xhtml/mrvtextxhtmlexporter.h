@@ -63,8 +63,9 @@ public:
     /** The names of the types in their order: "html", "xhtml", "epub", "kindle" and "kf8". */
     static QStringList typeNames();
     /**
-     * Finds the type with one of typeNames().
+     * Finds a type.
      *
+     * @param name one of typeNames().
      * @param type untouched on failure.
      * @return false for any other name.
      */
