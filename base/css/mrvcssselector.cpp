@@ -25,7 +25,7 @@ struct PseudoClass
         Missing, // valid, but what it asks for is not known here
     };
 
-    QLatin1String name;
+    const char *name;
     Form form;
     MRVCssTest::Kind kind = MRVCssTest::Never;
     int b = 0;
@@ -34,57 +34,55 @@ struct PseudoClass
 
 // clang-format off
 constexpr PseudoClass pseudoClasses[] = {
-    {QLatin1String("first-child"),      PseudoClass::Word, MRVCssTest::NthChild, 1},
-    {QLatin1String("last-child"),       PseudoClass::Word, MRVCssTest::LastChild},
-    {QLatin1String("only-child"),       PseudoClass::Word, MRVCssTest::LastChild, 1},
-    {QLatin1String("first-of-type"),    PseudoClass::Word, MRVCssTest::NthOfType, 1},
-    {QLatin1String("root"),             PseudoClass::Word, MRVCssTest::Root},
-    {QLatin1String("link"),             PseudoClass::Word, MRVCssTest::Link},
-    {QLatin1String("any-link"),         PseudoClass::Word, MRVCssTest::Link},
-    {QLatin1String("nth-child"),        PseudoClass::Place, MRVCssTest::NthChild},
-    {QLatin1String("nth-of-type"),      PseudoClass::Place, MRVCssTest::NthOfType},
-    {QLatin1String("not"),              PseudoClass::Compounds, MRVCssTest::None, 0, 0},
-    {QLatin1String("is"),               PseudoClass::Compounds, MRVCssTest::Any, 0, 0},
-    {QLatin1String("where"),            PseudoClass::Compounds, MRVCssTest::Any, 0, 0},
-    {QLatin1String("lang"),             PseudoClass::Language, MRVCssTest::Lang},
-    {QLatin1String("hover"),            PseudoClass::Word},
-    {QLatin1String("active"),           PseudoClass::Word},
-    {QLatin1String("focus"),            PseudoClass::Word},
-    {QLatin1String("focus-visible"),    PseudoClass::Word},
-    {QLatin1String("focus-within"),     PseudoClass::Word},
-    {QLatin1String("visited"),          PseudoClass::Word},
-    {QLatin1String("target"),           PseudoClass::Word},
-    {QLatin1String("last-of-type"),     PseudoClass::Missing},
-    {QLatin1String("only-of-type"),     PseudoClass::Missing},
-    {QLatin1String("nth-last-child"),   PseudoClass::Missing},
-    {QLatin1String("nth-last-of-type"), PseudoClass::Missing},
-    {QLatin1String("empty"),            PseudoClass::Missing},
-    {QLatin1String("has"),              PseudoClass::Missing},
-    {QLatin1String("dir"),              PseudoClass::Missing},
-    {QLatin1String("scope"),            PseudoClass::Missing},
-    {QLatin1String("enabled"),          PseudoClass::Missing},
-    {QLatin1String("disabled"),         PseudoClass::Missing},
-    {QLatin1String("checked"),          PseudoClass::Missing},
-    {QLatin1String("default"),          PseudoClass::Missing},
-    {QLatin1String("indeterminate"),    PseudoClass::Missing},
-    {QLatin1String("valid"),            PseudoClass::Missing},
-    {QLatin1String("invalid"),          PseudoClass::Missing},
-    {QLatin1String("required"),         PseudoClass::Missing},
-    {QLatin1String("optional"),         PseudoClass::Missing},
-    {QLatin1String("read-only"),        PseudoClass::Missing},
-    {QLatin1String("read-write"),       PseudoClass::Missing},
-    {QLatin1String("placeholder-shown"), PseudoClass::Missing},
-    {QLatin1String("before"),           PseudoClass::Element},
-    {QLatin1String("after"),            PseudoClass::Element},
-    {QLatin1String("first-line"),       PseudoClass::Element},
-    {QLatin1String("first-letter"),     PseudoClass::Element},
+    {"first-child",       PseudoClass::Word, MRVCssTest::NthChild, 1},
+    {"last-child",        PseudoClass::Word, MRVCssTest::LastChild},
+    {"only-child",        PseudoClass::Word, MRVCssTest::LastChild, 1},
+    {"first-of-type",     PseudoClass::Word, MRVCssTest::NthOfType, 1},
+    {"root",              PseudoClass::Word, MRVCssTest::Root},
+    {"link",              PseudoClass::Word, MRVCssTest::Link},
+    {"any-link",          PseudoClass::Word, MRVCssTest::Link},
+    {"nth-child",         PseudoClass::Place, MRVCssTest::NthChild},
+    {"nth-of-type",       PseudoClass::Place, MRVCssTest::NthOfType},
+    {"not",               PseudoClass::Compounds, MRVCssTest::None, 0, 0},
+    {"is",                PseudoClass::Compounds, MRVCssTest::Any, 0, 0},
+    {"where",             PseudoClass::Compounds, MRVCssTest::Any, 0, 0},
+    {"lang",              PseudoClass::Language, MRVCssTest::Lang},
+    {"hover",             PseudoClass::Word},
+    {"active",            PseudoClass::Word},
+    {"focus",             PseudoClass::Word},
+    {"focus-visible",     PseudoClass::Word},
+    {"focus-within",      PseudoClass::Word},
+    {"visited",           PseudoClass::Word},
+    {"target",            PseudoClass::Word},
+    {"last-of-type",      PseudoClass::Missing},
+    {"only-of-type",      PseudoClass::Missing},
+    {"nth-last-child",    PseudoClass::Missing},
+    {"nth-last-of-type",  PseudoClass::Missing},
+    {"empty",             PseudoClass::Missing},
+    {"has",               PseudoClass::Missing},
+    {"dir",               PseudoClass::Missing},
+    {"scope",             PseudoClass::Missing},
+    {"enabled",           PseudoClass::Missing},
+    {"disabled",          PseudoClass::Missing},
+    {"checked",           PseudoClass::Missing},
+    {"default",           PseudoClass::Missing},
+    {"indeterminate",     PseudoClass::Missing},
+    {"valid",             PseudoClass::Missing},
+    {"invalid",           PseudoClass::Missing},
+    {"required",          PseudoClass::Missing},
+    {"optional",          PseudoClass::Missing},
+    {"read-only",         PseudoClass::Missing},
+    {"read-write",        PseudoClass::Missing},
+    {"placeholder-shown", PseudoClass::Missing},
+    {"before",            PseudoClass::Element},
+    {"after",             PseudoClass::Element},
+    {"first-line",        PseudoClass::Element},
+    {"first-letter",      PseudoClass::Element},
 };
 
-constexpr QLatin1String pseudoElements[] = {
-    QLatin1String("before"),       QLatin1String("after"),       QLatin1String("first-line"),
-    QLatin1String("first-letter"), QLatin1String("marker"),      QLatin1String("placeholder"),
-    QLatin1String("selection"),    QLatin1String("backdrop"),    QLatin1String("part"),
-    QLatin1String("slotted"),      QLatin1String("file-selector-button"),
+constexpr const char *pseudoElements[] = {
+    "before", "after", "first-line", "first-letter", "marker", "placeholder", "selection",
+    "backdrop", "part", "slotted", "file-selector-button",
 };
 // clang-format on
 
@@ -357,7 +355,7 @@ bool SelectorReader::readPseudo(MRVCssCompound &compound)
         return readPseudoElement();
     }
     for (const PseudoClass &row : pseudoClasses) {
-        if (token().text.compare(row.name, Qt::CaseInsensitive) == 0) {
+        if (token().text.compare(QLatin1String(row.name), Qt::CaseInsensitive) == 0) {
             return readPseudoClass(row, compound);
         }
     }
@@ -367,10 +365,9 @@ bool SelectorReader::readPseudo(MRVCssCompound &compound)
 bool SelectorReader::readPseudoElement()
 {
     const QString name = token().text.toLower();
-    const bool isKnown =
-        name.startsWith(QLatin1String("-webkit-")) // valid, as all browsers have it
-        || std::find(std::begin(pseudoElements), std::end(pseudoElements), name)
-            != std::end(pseudoElements);
+    const bool isKnown = name.startsWith(QLatin1String("-webkit-")) // as all browsers have it
+        || std::any_of(std::begin(pseudoElements), std::end(pseudoElements),
+                       [&](const char *one) { return name == QLatin1String(one); });
     if (token().type == MRVCssToken::Function) {
         takeArguments();
     } else {
@@ -439,7 +436,7 @@ bool SelectorReader::readCompounds(const PseudoClass &row, MRVCssTest &test)
         skipSpace();
     } while (take(','));
     --m_depth;
-    m_weight = sum(outer, row.name == QLatin1String("where") ? 0 : most);
+    m_weight = sum(outer, qstrcmp(row.name, "where") == 0 ? 0 : most);
     return take(')');
 }
 

@@ -35,13 +35,13 @@ static_assert(sizeof(units) / sizeof(units[0]) == MRVCssLength::QuarterMillimete
 
 struct WidthRow
 {
-    QLatin1String name;
+    const char *name;
     double pixels;
 };
 constexpr WidthRow widths[] = {
-    {QLatin1String("thin"), 1},
-    {QLatin1String("medium"), 3},
-    {QLatin1String("thick"), 5},
+    {"thin", 1},
+    {"medium", 3},
+    {"thick", 5},
 };
 
 /// The only token of a value, apart from white space; an End where there are others.
@@ -143,7 +143,7 @@ MRVCssLength MRVCssLength::parsed(const QString &value)
         }
     }
     for (const WidthRow &row : widths) {
-        if (token.isWord(row.name)) {
+        if (token.isWord(QLatin1String(row.name))) {
             length = {row.pixels, Pixel};
         }
     }

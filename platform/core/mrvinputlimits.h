@@ -84,8 +84,8 @@ struct MRVInputLimits
     static constexpr int CssSelectors = 100000;
     /** Declarations of all sheets together, with shorthands split. */
     static constexpr int CssDeclarations = 500000;
-    /** Comparisons that matching may take, a second or two, for a document in any case ... */
-    static constexpr qint64 CssSteps = 200000000;
+    /** Comparisons that matching may take, about a second, for a document in any case ... */
+    static constexpr qint64 CssSteps = 100000000;
     /** ... and more for each element; books take some fifty. */
     static constexpr qint64 CssStepsPerElement = 2000;
 
