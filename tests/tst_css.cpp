@@ -489,15 +489,12 @@ void tst_Css::manyElements()
         elements[i].id = QString::number(i);
         elements[i].classes << "c" + QString::number(i % 9) << "x";
     }
-    QElapsedTimer timer;
-    timer.start();
     int declarations = 0;
     for (int i = 1; i <= count; ++i) {
         declarations += sheet.declarations(elements[i]).size();
     }
-    qInfo("%lld ms", timer.elapsed());
     QCOMPARE(declarations, 2 * count - 1); // each its class, all but one a neighbour
-    QVERIFY(!sheet.isExhausted());
+    QVERIFY(!sheet.isExhausted()); // as it would be if each looked at all before it
 }
 
 QTEST_GUILESS_MAIN(tst_Css)

@@ -118,6 +118,23 @@ bool readPlace(const QString &text, MRVCssTest &test)
     return match.hasMatch();
 }
 
+/// The bits that the ancestors of an element must have for a selector to match.
+quint64 ancestorBits(const QVector<MRVCssCompound> &compounds)
+{
+    quint64 bits = 0;
+    for (int i = 1; i < compounds.size(); ++i) {
+        const MRVCssCompound &compound = compounds.at(i);
+        const char reached = compounds.at(i - 1).combinator;
+        if (reached != ' ' && reached != '>') {
+            continue;
+        }
+        for (const QString &name : QStringList{compound.name, compound.id} + compound.classes) {
+            bits |= name.isEmpty() ? 0 : MRVCssMatcher::bitOf(name);
+        }
+    }
+    return bits;
+}
+
 class SelectorReader
 {
 public:
@@ -234,16 +251,7 @@ bool SelectorReader::readSelector(MRVCssSelector &selector)
     }
     std::reverse(selector.compounds.begin(), selector.compounds.end());
     selector.specificity = m_weight;
-    for (int i = 1; i < selector.compounds.size(); ++i) {
-        const MRVCssCompound &compound = selector.compounds.at(i);
-        const char reached = selector.compounds.at(i - 1).combinator;
-        if (reached != ' ' && reached != '>') {
-            continue;
-        }
-        for (const QString &name : QStringList{compound.name, compound.id} + compound.classes) {
-            selector.ancestors |= name.isEmpty() ? 0 : MRVCssMatcher::bitOf(name);
-        }
-    }
+    selector.ancestors = ancestorBits(selector.compounds);
     return true;
 }
 
