@@ -42,6 +42,7 @@ struct MRVBASE_EXPORT MRVCssLength
      */
     static MRVCssLength parsed(const QString &value);
 
+    /** Whether it was read; a number without a unit was, too. */
     bool isValid() const { return unit != Invalid; }
 
     /**

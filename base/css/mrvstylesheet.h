@@ -21,8 +21,8 @@
  * included. No value is judged, and unknown properties are kept, so a caller who finds a value
  * that is invalid takes the one before.
  *
- * What a sheet from elsewhere may cost is limited by MRVInputLimits. Memory for each distinct
- * combination of name, id and classes is kept.
+ * What a sheet from elsewhere may cost is limited by MRVInputLimits. What the names, the id and the
+ * classes of an element lead to is remembered for the next one with the same. GUI thread only.
  *
  * @code
  * MRVStyleSheet sheet;
@@ -51,6 +51,8 @@ public:
      * Adds the rules of another sheet after those that are there. Sheets that it imports are the
      * caller's to add before it; see imports().
      *
+     * @param css    the sheet as a whole, decoded.
+     * @param origin who wrote it.
      * @return false where the sheet exceeds MRVInputLimits; nothing of it is then added.
      */
     bool add(const QString &css, Origin origin = Origin::Author);
