@@ -59,6 +59,53 @@ private Q_SLOTS:
         QCOMPARE(head.date, cell("date"));
         QCOMPARE(shortened(html), cell("html"));
     }
+
+    // Lines count from the first of the text, whatever ends them and is taken from them.
+    void places()
+    {
+        const QString html = MRVMarkdown::toHtml(
+            "---\r\ntitle: a\r\n---\r# b\n\n> c\r\nd\n\ne\n: f", MRVMarkdown::DefinitionLists);
+        QStringList places;
+        static const QRegularExpression place("<(\\w+)[^>]* data-sourcepos=\"([^\"]*)\"");
+        for (auto it = place.globalMatch(html); it.hasNext();) {
+            const auto match = it.next();
+            places << match.captured(1) + ' ' + match.captured(2);
+        }
+        QCOMPARE(places.join(", "),
+                 QString("h1 4:1-4:3, blockquote 6:1-7:1, p 6:3-7:1, dl 10:1-10:3, dt 9:1-9:1, "
+                         "dd 10:1-10:3, p 10:3-10:3"));
+    }
+
+    void invalidCharacters()
+    {
+        const QString pair = QString::fromUcs4(U"\U0001f600");
+        const QString text =
+            QString("a") + QChar(0) + 'b' + pair.at(0) + 'c' + pair.at(1) + pair + pair.at(0);
+        QCOMPARE(shortened(MRVMarkdown::toHtml(text)),
+                 QString("<p>a%1b%1c%1%2%1</p>").arg(QChar(0xfffd), pair));
+        QVERIFY(MRVMarkdown::toHtml(QString()).isEmpty());
+    }
+
+    // Each part is repeated so often that cmark would take minutes or gigabytes; the same a few
+    // times, or in paragraphs of their own, is read.
+    void costly_data()
+    {
+        addRows("markdown-costly.tsv", {"name", "options", "before", "part", "times", "after"});
+    }
+    void costly()
+    {
+        const auto text = [](int times) {
+            return cell("before") + cell("part").repeated(times) + cell("after").repeated(times);
+        };
+        const MRVMarkdown::Options options = optionsOf(cell("options"));
+        const int times = cell("times").toInt();
+        QVERIFY(!MRVMarkdown::toHtml(text(20), options).isNull());
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(MRVMarkdown::toHtml(text(times), options).isNull());
+        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!MRVMarkdown::toHtml((text(20) + "\n\n").repeated(100), options).isNull());
+    }
 };
 
 QTEST_GUILESS_MAIN(TestMarkdown)

@@ -209,9 +209,7 @@ void store(Field field, const QStringList &values, MRVMarkdownHead *head)
             continue;
         }
         if (field == Author) {
-            if (!head->authors.contains(value)) {
-                head->authors.append(value);
-            }
+            head->authors.append(value);
             continue;
         }
         QString *const text = field == Title ? &head->title
@@ -315,6 +313,7 @@ QString mrvTakeFrontMatter(const QString &markdown, MRVMarkdownHead *head)
         const QString line = entry.value + u' ' + blockText(entry.lines, true);
         store(entry.field, yaml ? valuesOf(entry) : QStringList(line.trimmed()), head);
     }
+    head->authors.removeDuplicates();
     // The numbers of the lines below stay.
     static const QRegularExpression words(QStringLiteral("[^\\r\\n]+"));
     return markdown.left(length).remove(words) + markdown.midRef(length);

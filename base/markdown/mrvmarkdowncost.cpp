@@ -35,6 +35,21 @@ bool consistsOf(Text text, const char *characters)
     return text.find_first_not_of(characters) == Text::npos;
 }
 
+/** Whether a line is a heading, a break or a bullet with text, whatever precedes it. */
+bool endsParagraphs(Text line)
+{
+    const size_t start = line.find_first_not_of(' ');
+    if (start > 3) {
+        return false;
+    }
+    const Text text = line.substr(start);
+    const size_t marks = text.find_first_not_of('#');
+    const bool bullet = text[0] == '-' || text[0] == '+' || text[0] == '*';
+    return (marks > 0 && marks <= 6 && isBlank(text[marks]))
+        || (bullet && isBlank(text[1]) && !consistsOf(text.substr(1), " \t\n"))
+        || (text.substr(0, 3) == "---" && consistsOf(text, "- \t\n"));
+}
+
 /** What stands before the text of a line. */
 struct Indent
 {
@@ -105,12 +120,15 @@ private:
         const bool blank = consistsOf(line, "> \t\r\n");
         nest(indentOf(line.substr(0, line.find_last_not_of('\n') + 1)),
              consistsOf(line, " \t\r\n"));
-        if (blank) {
+        if (blank || endsParagraphs(line)) {
             endParagraph(text, start);
             m_paragraph = end;
         } else {
             readCells(line);
             readDefinition(line);
+            // The text is copied from each address of mail to the end of the line.
+            m_copied += count(line, "@") * qint64(line.size());
+            m_costly = m_costly || m_copied > MRVInputLimits::MarkdownExpansion;
         }
     }
 
@@ -129,7 +147,8 @@ private:
     void readCells(Text line)
     {
         const qint64 cells = count(line, "|") + 1;
-        if (consistsOf(line, "|:-> \t\r\n") && line.find('-') != Text::npos) {
+        if (consistsOf(line, "|:-> \t\r\n") && line.find('-') != Text::npos
+            && line.find_first_of("|:") != Text::npos) {
             ++m_rulers;
             m_columns = std::max(m_columns, cells);
         }
@@ -160,7 +179,8 @@ private:
             m_steps += unclosed(paragraph, tag.start, tag.end);
         }
         m_steps += m_rulers * length;
-        m_steps += count(paragraph, "![") * count(paragraph, "]");
+        const qint64 links = count(paragraph, "]");
+        m_steps += links * (count(paragraph, "![") + count(paragraph, "*") + count(paragraph, "_"));
         m_costly = m_costly || m_steps > MRVInputLimits::MarkdownSteps;
         m_current = 0;
         m_columns = 0;
@@ -190,6 +210,7 @@ private:
     qint64 m_rulers = 0;
     qint64 m_padding = 0;
     qint64 m_steps = 0;
+    qint64 m_copied = 0;
     int m_depth = 0;
     bool m_afterBlank = true;
     bool m_costly = false;

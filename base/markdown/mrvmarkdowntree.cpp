@@ -14,19 +14,15 @@ QString literal(cmark_node *node)
 }
 
 /** A start tag with the place of @p node in the source, as cmark writes it. */
-QByteArray startTag(const char *name, cmark_node *node, const QString &id = QString())
+QByteArray startTag(const char *name, cmark_node *node, const QString &id)
 {
-    QString tag = u'<' + QLatin1String(name);
-    if (!id.isEmpty()) {
-        tag += QStringLiteral(" id=\"%1\"").arg(MRV::escape(id));
-    }
-    return QStringLiteral("%1 data-sourcepos=\"%2:%3-%4:%5\">")
-        .arg(tag)
-        .arg(cmark_node_get_start_line(node))
-        .arg(cmark_node_get_start_column(node))
-        .arg(cmark_node_get_end_line(node))
-        .arg(cmark_node_get_end_column(node))
-        .toUtf8();
+    const QByteArray attribute =
+        id.isEmpty() ? QByteArray() : " id=\"" + MRV::escape(id).toUtf8() + '"';
+    return QByteArray("<") + name + attribute + " data-sourcepos=\""
+        + QByteArray::number(cmark_node_get_start_line(node)) + ':'
+        + QByteArray::number(cmark_node_get_start_column(node)) + '-'
+        + QByteArray::number(cmark_node_get_end_line(node)) + ':'
+        + QByteArray::number(cmark_node_get_end_column(node)) + "\">";
 }
 
 QByteArray endTag(const char *name)
@@ -72,6 +68,7 @@ public:
             setTags(custom, name, heading.node,
                     heading.id.isEmpty() ? unique(slug(heading.node)) : heading.id);
             cmark_node_insert_before(heading.node, custom);
+            cmark_node_own(heading.node); // the texts below it are parts of its own
             moveChildren(heading.node, custom);
             cmark_node_free(heading.node);
         }
