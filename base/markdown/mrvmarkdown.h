@@ -38,7 +38,7 @@ public:
     /**
      * The body of a page, without html, head and body. Each block has the attribute
      * data-sourcepos="LINE:COLUMN-LINE:COLUMN": its first and last place in @p markdown, both from
-     * 1, columns in bytes of UTF-8; notes of unclear extent end in column 0.
+     * 1, columns in bytes of UTF-8. A list may end in column 0 of the line after its blank ones.
      *
      * HTML in the text is passed on as it is, scripts included, and so is the address of any link:
      * the result is for a reader that does not trust it.

@@ -57,8 +57,7 @@ struct Indent
     int markers = 0; // of quotes, items, notes and definitions
 };
 
-/** The length of an item's, a note's or a definition's marker; 0 where the text begins with none.
- */
+/** The length of the marker of an item, a note or a definition; 0 where the text has none. */
 size_t markerLength(Text text)
 {
     size_t length = 0;

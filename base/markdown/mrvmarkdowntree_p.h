@@ -5,8 +5,7 @@
 /** Changes what cmark has read, so that its HTML is what MRVMarkdown::toHtml() promises. */
 void mrvCompleteMarkdownTree(cmark_node *root);
 
-/** Calls @p visit with each node of a tree and whether it is left; the visitor may change it then.
- */
+/** Calls @p visit with each node and whether it is left, when the visitor may change it. */
 template<typename Visitor>
 void mrvVisitMarkdownTree(cmark_node *root, Visitor visit)
 {
