@@ -57,24 +57,33 @@ inline QString cell(const char *column)
 }
 
 /**
- * Fills the data of a test function with the rows of @p file, whose @p columns are texts; missing
- * cells are empty. A row is named by its first two cells.
+ * Fills the data of a test function with the rows of @p file, whose columns are texts; missing
+ * cells are empty. The columns have the names of the comment with tabs before the rows, unless
+ * others are given. A row is named by its first two cells.
  */
-inline void addRows(const QString &file, std::initializer_list<const char *> columns)
+inline void addRows(const QString &file, QStringList columns = {})
 {
-    for (const char *column : columns) {
-        QTest::addColumn<QString>(column);
+    if (columns.isEmpty()) {
+        QFile data(MRV_SOURCE_DIR "/tests/data/" + file);
+        data.open(QIODevice::ReadOnly);
+        static const QRegularExpression header("^# (.*\\t.*)$",
+                                               QRegularExpression::MultilineOption);
+        columns = header.match(QString::fromUtf8(data.readAll())).captured(1).split('\t');
+    }
+    static QSet<QByteArray> names; // QtTest keeps pointers to them
+    for (const QString &column : qAsConst(columns)) {
+        QTest::addColumn<QString>(*names.insert(column.toLatin1()));
     }
     for (const QStringList &row : rowsOf(file)) {
         const QString name = QStringList(row.mid(0, 2)).join(' ').left(100).simplified();
         QTestData &data = QTest::newRow(qPrintable(name));
-        for (int i = 0; i < int(columns.size()); ++i) {
+        for (int i = 0; i < columns.size(); ++i) {
             data << row.value(i);
         }
     }
 }
 
-/** Fills the data of a test function with rows of a name and "steps", which are the further cells. */
+/** Fills the data of a test function with rows of a name and "steps", the further cells. */
 inline void addSteps(const QString &file)
 {
     QTest::addColumn<QStringList>("steps");

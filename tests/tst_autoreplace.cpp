@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(!expected.containsReplacement("2nd", "2r"));
     }
 
-    void matchesOfDefaults_data() { addRows("autoreplacematches.tsv", {"typed", "match"}); }
+    void matchesOfDefaults_data() { addRows("autoreplacematches.tsv"); }
     void matchesOfDefaults()
     {
         QFETCH(QString, match);
@@ -170,10 +170,7 @@ private Q_SLOTS:
         }
     }
 
-    void readsWhatIsThere_data()
-    {
-        addRows("autoreplaceforms.tsv", {"case", "bytes", "entries", "whole"});
-    }
+    void readsWhatIsThere_data() { addRows("autoreplaceforms.tsv"); }
     void readsWhatIsThere()
     {
         MRVAutoReplaceList list{{true, "to be", "cleared"}};

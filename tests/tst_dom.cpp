@@ -135,6 +135,13 @@ void setValue(MRVDomDoc *doc, const QString &text)
     doc->currentElement().setAttribute("k", text);
 }
 
+// The texts, or the only one where all are the same.
+QString together(QStringList texts)
+{
+    texts.removeDuplicates();
+    return texts.join('|');
+}
+
 template<typename T>
 QString textsOf(const T &value)
 {
@@ -151,7 +158,7 @@ QString textsOf(const T &value)
     }
     doc.getAttr("k", &attribute, doc.currentElement());
     doc.get(&appended, "new");
-    return QStringList{appended, set, attribute}.join('|');
+    return together({appended, set, attribute});
 }
 
 // What get(), getNext() and getAttr() make of a text: value and outcome of each.
@@ -162,9 +169,11 @@ QString readAs(const QString &text)
     setValue(&doc, "x");
     doc.append("e", text);
     doc.setAttr("k", text);
-    QString result;
+    QStringList results;
     const auto add = [&](bool ok, const T &value) {
-        QDebug(&result).noquote().nospace() << value << (ok ? "+ " : "- ");
+        QString result;
+        QDebug(&result).noquote().nospace() << value << (ok ? "+" : "-");
+        results << result;
     };
     T value{};
     QDomElement second = doc.currentElement().lastChildElement();
@@ -175,7 +184,7 @@ QString readAs(const QString &text)
     add(doc.getNext(&next), next);
     T attribute{};
     add(doc.getAttr("k", &attribute, doc.currentElement()), attribute);
-    return result.simplified();
+    return together(results);
 }
 
 } // namespace
@@ -185,7 +194,7 @@ class TestDom : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void find_data() { addRows("dompaths.tsv", {"notation", "start", "path", "expected"}); }
+    void find_data() { addRows("dompaths.tsv"); }
     void find()
     {
         QFETCH(QString, notation);
@@ -253,50 +262,38 @@ private Q_SLOTS:
         QCOMPARE(copy.createPath(QString("a/").repeated(5000)), 999);
     }
 
-    void writesValues_data()
+    void writesValues()
     {
-        QTest::addColumn<QString>("texts"); // appended, set, as attribute
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("int") << textsOf(-7) << "-7|-7|-7";
-        QTest::newRow("unsigned long")
-            << textsOf(18446744073709551615UL)
-            << QStringList(QStringList::fromVector({3, "18446744073709551615"})).join('|');
-        QTest::newRow("float") << textsOf(1.5F) << "1.500000|1.5|1.5";
-        QTest::newRow("double") << textsOf(1234567.0) << "1.23457e+06|1.23457e+06|1.23457e+06";
-        QTest::newRow("bool") << textsOf(true) << "true|true|true";
-        QTest::newRow("QSize") << textsOf(QSize(640, -1)) << "640,-1|640,-1|640,-1";
-        QTest::newRow("QSizeF") << textsOf(QSizeF(10, 2.5)) << "10.0,2.5|10.000,2.500|10.000,2.500";
-        QTest::newRow("QPointF") << textsOf(QPointF(-1, 0)) << "-1.0,0.0|-1.000,0.000|-1.000,0.000";
-        QTest::newRow("list") << textsOf(QStringList{"a", "", "b"}) << "a,,b|a,,b|a,,b";
-        QTest::newRow("forbidden") << textsOf(QString("a\x01\uFFFE") + QChar(0xD800)) << "a|a|a";
-        const QDateTime time({2020, 2, 29}, {1, 2, 3}, Qt::OffsetFromUTC, 3600);
-        QTest::newRow("date")
-            << textsOf(time)
-            << QStringList(QStringList::fromVector({3, "2020-02-29T01:02:03+01:00"})).join('|');
+        QCOMPARE(textsOf(-7), "-7");
+        QCOMPARE(textsOf(18446744073709551615UL), "18446744073709551615");
+        QCOMPARE(textsOf(1.5F), "1.500000|1.5"); // appended, and set or as an attribute
+        QCOMPARE(textsOf(1234567.0), "1.23457e+06");
+        QCOMPARE(textsOf(true), "true");
+        QCOMPARE(textsOf(QSize(640, -1)), "640,-1");
+        QCOMPARE(textsOf(QSizeF(10, 2.5)), "10.0,2.5|10.000,2.500");
+        QCOMPARE(textsOf(QPointF(-1, 0)), "-1.0,0.0|-1.000,0.000");
+        QCOMPARE(textsOf(QStringList{"a", "", "b"}), "a,,b");
+        QCOMPARE(textsOf(QString("a\x01\uFFFE") + QChar(0xD800)), "a");
+        QCOMPARE(textsOf(QDateTime({2020, 2, 29}, {1, 2, 3}, Qt::OffsetFromUTC, 3600)),
+                 "2020-02-29T01:02:03+01:00");
     }
-    void writesValues() { QTEST(cell("texts"), "expected"); }
 
-    void readsValues_data()
+    // By get(), getNext() and getAttr() alike.
+    void readsValues()
     {
-        QTest::addColumn<QString>("read"); // by get(), getNext() and getAttr()
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("int") << readAs<int>(" 12 ") << "12+ 12+ 12+";
-        QTest::newRow("no int") << readAs<int>("12abc") << "0- 0- 0-";
-        QTest::newRow("too large") << readAs<short>("32768") << "0- 0- 0-";
-        QTest::newRow("double") << readAs<double>("-1.5e3") << "-1500+ -1500+ -1500+";
-        QTest::newRow("yes") << readAs<bool>(" YES ") << "true+ true+ true+";
-        QTest::newRow("no bool") << readAs<bool>("1") << "false- false- false-";
-        QTest::newRow("size") << readAs<QSize>("640 , 480")
-                              << "QSize(640, 480)+ QSize(640, 480)+ QSize(640, 480)+";
-        QTest::newRow("no point") << readAs<QPointF>("1")
-                                  << "QPointF(0,0)- QPointF(0,0)- QPointF(0,0)-";
-        QTest::newRow("list") << readAs<QStringList>("a,,b") << "(a, b)+ (a, b)+ (a, b)+";
-        QTest::newRow("empty text") << readAs<int>("") << "0- 0- 0-";
-        const QString date = "QDateTime(2020-02-29 01:02:03.000 UTC Qt::UTC)+";
-        QTest::newRow("date") << readAs<QDateTime>("2020-02-29T01:02:03+05:00")
-                              << QString("%1 %1 %1").arg(date);
+        QCOMPARE(readAs<int>(" 12 "), "12+");
+        QCOMPARE(readAs<int>("12abc"), "0-");
+        QCOMPARE(readAs<int>(""), "0-");
+        QCOMPARE(readAs<short>("32768"), "0-");
+        QCOMPARE(readAs<double>("-1.5e3"), "-1500+");
+        QCOMPARE(readAs<bool>(" YES "), "true+");
+        QCOMPARE(readAs<bool>("1"), "false-");
+        QCOMPARE(readAs<QSize>("640 , 480"), "QSize(640, 480)+");
+        QCOMPARE(readAs<QPointF>("1"), "QPointF(0,0)-");
+        QCOMPARE(readAs<QStringList>("a,,b"), "(a, b)+");
+        QCOMPARE(readAs<QDateTime>("2020-02-29T01:02:03+05:00"),
+                 "QDateTime(2020-02-29 01:02:03.000 UTC Qt::UTC)+");
     }
-    void readsValues() { QTEST(cell("read"), "expected"); }
 
     void buffers()
     {
@@ -423,7 +420,7 @@ private Q_SLOTS:
 
     void saves_data()
     {
-        addRows("domsaves.tsv", {"case", "xml", "expected"});
+        addRows("domsaves.tsv");
         // What Qt's parser gets wrong.
         QTest::newRow("characters") << ""
                                     << QString(QChar(QChar::ByteOrderMark))
@@ -469,16 +466,10 @@ private Q_SLOTS:
         QVERIFY2(doc.errorColumn() <= 20, qPrintable(QString::number(doc.errorColumn())));
     }
 
-    void refusesHostile_data()
-    {
-        QTest::addColumn<QString>("xml");
-        QTest::newRow("too-deep") << QString("<a>").repeated(1001);
-        QTest::newRow("external") << "<!DOCTYPE r [<!ENTITY a SYSTEM '/etc/hostname'>]><r>t&a;</r>";
-    }
     void refusesHostile()
     {
         MRVDomDoc doc;
-        QVERIFY(!doc.setContent(cell("xml")));
+        QVERIFY(!doc.setContent(QString("<a>").repeated(MRVDomLimits::MaxDepth + 1)));
         QVERIFY(!doc.errorMessage().isEmpty());
         QVERIFY(!doc.exists("/"));
         QVERIFY(doc.errorLine() > 0);

@@ -1,4 +1,6 @@
 #include "epub/mrvepubpackage.h"
+#include "gui/mrvguiutil.h"
+#include "images.h"
 #include "support.h"
 #include "textformat/mrvtextformat.h"
 
@@ -17,20 +19,15 @@ QDateTime someDay()
     return QDateTime(QDate(2026, 1, 31), QTime(12, 0), Qt::UTC);
 }
 
-QByteArray png(QColor colour)
+QByteArray png(const QColor &color)
 {
-    QImage image(20, 30, QImage::Format_RGB32);
-    image.fill(colour);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return MRVGuiUtil::toByteArray(filledImage(20, 30, color), "PNG");
 }
 
 void fill(QTextDocument *document, const QString &html)
 {
     document->addResource(QTextDocument::ImageResource, QUrl("pic.png"),
-                          QImage::fromData(png(Qt::blue)));
+                          filledImage(20, 30, Qt::blue));
     document->setHtml(html);
 }
 
@@ -150,7 +147,7 @@ private Q_SLOTS:
         document.setHtml("<h1>One</h1><p><a name='heading-1'></a>a<a name='_heading-2'></a>b</p>"
                          "<table><tr><td><h2><img src='x' alt='Mill'></h2></td></tr></table>");
         document.addResource(QTextDocument::ImageResource, QUrl("x"),
-                             QImage::fromData(png(Qt::blue)));
+                             filledImage(20, 30, Qt::blue));
         MRVEPubPackage package;
         QVERIFY(package.addDocument(document));
         const QMap<QString, QString> files = unpacked(package.toByteArray());

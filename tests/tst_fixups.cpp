@@ -84,7 +84,7 @@ class tst_Fixups : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void function_data() { addRows("fixups.tsv", {"function", "case", "before", "after"}); }
+    void function_data() { addRows("fixups.tsv"); }
     void function()
     {
         QFETCH(QString, function);

@@ -341,7 +341,7 @@ class TestLayers : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void checkerTellsRightFromWrong_data() { addRows("layers.tsv", {"case", "files", "fault"}); }
+    void checkerTellsRightFromWrong_data() { addRows("layers.tsv"); }
     void checkerTellsRightFromWrong()
     {
         QFETCH(QString, fault);

@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "images.h"
 #include "support.h"
 
 #include "manuscript/mrvdocumentnotes.h"
@@ -18,16 +19,11 @@ private Q_SLOTS:
     void init()
     {
         m_folder.reset(new QTemporaryDir);
-        QImage picture(12, 12, QImage::Format_RGB32);
-        picture.fill(Qt::darkCyan);
-        QVERIFY(picture.save(in("pic one.bmp")));
+        QVERIFY(filledImage(12, 12, Qt::darkCyan).save(in("pic one.bmp")));
         QVERIFY(writeBytes(in("garbage.png"), "no picture"));
     }
 
-    void reading_data()
-    {
-        addRows("manuscripts.tsv", {"case", "name", "text", "format", "encoding", "expected"});
-    }
+    void reading_data() { addRows("manuscripts.tsv"); }
     /// "%div*5000" in a text stands for so many elements; a name of "-" for bytes without a file.
     /// What is expected is the format with the text, or the number of the error with a part of its
     /// text.
@@ -35,7 +31,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QString, text);
-        QFETCH(QString, format);
         QFETCH(QString, encoding);
         QFETCH(QString, expected);
         if (text.startsWith('%')) {
@@ -46,7 +41,7 @@ private Q_SLOTS:
         QVERIFY(name == "-" || name.startsWith("none") || name.isEmpty()
                 || writeBytes(in(name), bytes));
         MRVManuscriptReader reader;
-        reader.setFormat(MRVManuscript::formatNamed(format));
+        reader.setFormat(MRVManuscript::formatNamed(cell("format")));
         reader.setEncoding(encoding);
         MRVManuscript read;
         read.path = "before";
@@ -83,12 +78,10 @@ private Q_SLOTS:
         QVERIFY(!read.document->resource(QTextDocument::ImageResource, id).isNull());
     }
 
-    void notes_data() { addRows("manuscript-notes.tsv", {"case", "name", "text", "expected"}); }
+    void notes_data() { addRows("manuscript-notes.tsv"); }
     void notes()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, text);
-        const MRVManuscript read = manuscript(name, text.toUtf8());
+        const MRVManuscript read = manuscript(cell("name"), cell("text").toUtf8());
         QString found;
         const auto notes = MRVDocumentNotes::findAll(read.document.get());
         for (const MRVDocumentNote &note : notes) {
@@ -105,24 +98,18 @@ private Q_SLOTS:
         QTEST(found, "expected");
     }
 
-    void edits_data()
-    {
-        addRows("source-edits.tsv", {"case", "name", "text", "what", "by", "mode", "expected"});
-    }
+    void edits_data() { addRows("source-edits.tsv"); }
     /// Replaces all finds of a regular expression. An expected "!word" is a part of the error.
     void edits()
     {
         QFETCH(QString, name);
-        QFETCH(QString, text);
         QFETCH(QString, mode);
         QFETCH(QString, expected);
-        const MRVManuscript read = manuscript(name, text.toUtf8());
+        const MRVManuscript read = manuscript(name, cell("text").toUtf8());
         MRVTextQuery query;
         query.syntax = MRVTextQuery::RegularExpression;
-        QFETCH(QString, what);
-        query.text = what;
-        QFETCH(QString, by);
-        const auto changes = MRVTextReplacer::preview(read.document.get(), query, by);
+        query.text = cell("what");
+        const auto changes = MRVTextReplacer::preview(read.document.get(), query, cell("by"));
         const QString before = read.document->toRawText();
         QByteArray bytes = "before";
         QString error;
@@ -160,10 +147,8 @@ private Q_SLOTS:
     }
     void encodings()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, encoding);
         QFETCH(QByteArray, before);
-        const MRVManuscript read = manuscript(name, before, encoding);
+        const MRVManuscript read = manuscript(cell("name"), before, cell("encoding"));
         MRVTextQuery query;
         query.text = "x";
         const auto changes = MRVTextReplacer::preview(read.document.get(), query, "œ");

@@ -187,7 +187,7 @@ class TestNotes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void operations_data() { addRows("notes.tsv", {"name", "row", "a", "b", "before", "after"}); }
+    void operations_data() { addRows("notes.tsv"); }
     void operations()
     {
         QFETCH(QString, name);

@@ -82,7 +82,7 @@ private Q_SLOTS:
         m_options.reset(new MRVOptions(file()));
     }
 
-    void keysAndDefaults_data() { addRows("options.tsv", {"type", "number", "key", "value"}); }
+    void keysAndDefaults_data() { addRows("options.tsv"); }
     void keysAndDefaults()
     {
         QFETCH(QString, value);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(options->changedSettings().isEmpty());
     }
 
-    void texts_data() { addRows("optiontexts.tsv", {"key", "text", "stored"}); }
+    void texts_data() { addRows("optiontexts.tsv"); }
     void texts()
     {
         QFETCH(QString, key);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(options->changedSettings().first().key, key);
     }
 
-    void refusals_data() { addRows("optionrefusals.tsv", {"key", "text", "error"}); }
+    void refusals_data() { addRows("optionrefusals.tsv"); }
     void refusals()
     {
         QString reason;
@@ -192,16 +192,15 @@ private Q_SLOTS:
         system.clear();
     }
 
-    void contrasts_data() { addRows("colorpairs.tsv", {"text", "grounds"}); }
+    void contrasts_data() { addRows("colorpairs.tsv"); }
     void contrasts()
     {
         QFETCH(QString, text);
-        QFETCH(QString, grounds);
         const auto color = [this](QString key) {
             return m_options->explain(key.replace('/', "/Colors/")).defaultValue.value<QColor>();
         };
         QVERIFY(color(text).isValid());
-        for (const QString &ground : grounds.split(' ')) {
+        for (const QString &ground : cell("grounds").split(' ')) {
             QVERIFY2(color(ground).isValid(), qPrintable(ground));
             QVERIFY2(contrast(color(text), color(ground)) >= 4.5, qPrintable(ground));
         }
@@ -261,12 +260,11 @@ private Q_SLOTS:
         QVERIFY(!format.hasProperty(QTextFormat::FontUnderline)); // as a whole QFont would set
     }
 
-    void words_data() { addRows("optionwords.tsv", {"key", "word", "number"}); }
+    void words_data() { addRows("optionwords.tsv"); }
     void words()
     {
         QFETCH(QString, key);
         QFETCH(QString, word);
-        QFETCH(QString, number);
         m_options->setValue(key, word);
         const auto options = reread();
         int found = -1;
@@ -281,7 +279,7 @@ private Q_SLOTS:
             found = options->spaceDoubleClickMode();
             QVERIFY(m_options->setSpaceDoubleClickMode(MRVOptions::SpaceDoubleClickMode(found)));
         }
-        QCOMPARE(QString::number(found), number);
+        QCOMPARE(QString::number(found), cell("number"));
         if (word != "Unknown") {
             QCOMPARE(m_options->value(key).toString(), word);
         } else {
@@ -441,13 +439,12 @@ private Q_SLOTS:
         QCOMPARE(mrvOptions()->fileName(), m_home.filePath("0/Morvane/Morvane.conf"));
     }
 
-    void harmfulValues_data() { addRows("harmfulsettings.tsv", {"case", "value", "isKept"}); }
+    void harmfulValues_data() { addRows("harmfulsettings.tsv"); }
     // What would harm is taken out before the file is opened, and nothing else.
     void harmfulValues()
     {
-        QFETCH(QString, value);
         QFETCH(QString, isKept);
-        const QByteArray line = "TextEditing\\Colors\\Text=" + value.toUtf8() + '\n';
+        const QByteArray line = "TextEditing\\Colors\\Text=" + cell("value").toUtf8() + '\n';
         const QByteArray before = "[Options]\n" + line + "Backups\\retain=7\n";
         const QString path = m_folder->filePath("harm.ini");
         QVERIFY(writeBytes(path, before));
@@ -458,7 +455,7 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(path + ".damaged"), isKept == "yes" ? QByteArray() : before);
     }
 
-    void harmfulFiles_data() { addRows("harmfulfiles.tsv", {"case", "lines", "left"}); }
+    void harmfulFiles_data() { addRows("harmfulfiles.tsv"); }
     // Twice, since what was kept the first time must not be lost.
     void harmfulFiles()
     {

@@ -2,6 +2,7 @@
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 #include "heapmeter.h"
+#include "images.h"
 #include "input/mrvguardeddocument.h"
 #include "support.h"
 
@@ -118,11 +119,8 @@ bool isReadable(const char *format)
 
 QString write(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes)
 {
-    QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        qFatal("%s cannot be written", qPrintable(file.fileName()));
-    }
-    return file.fileName();
+    const QString path = folder.filePath(name);
+    return writeBytes(path, bytes) ? path : QString();
 }
 
 QTextImageFormat imageNamed(const QString &name)
@@ -158,8 +156,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("length");
         QTest::addColumn<QSize>("size");
         QTest::addColumn<qint64>("memory");
-        QImage image(8, 4, QImage::Format_RGB32);
-        image.fill(Qt::red);
+        const QImage image = filledImage(8, 4, Qt::red, QImage::Format_RGB32);
         const QByteArray real = MRVGuiUtil::toByteArray(image, "PNG");
         const QByteArray pixels = pngChunk("IDAT", QByteArray(2000, 'x'));
         const auto row = [](const char *name, const QByteArray &bytes, bool isWhole,
@@ -350,8 +347,7 @@ private Q_SLOTS:
 
     void loadsPictures()
     {
-        QImage image(8, 4, QImage::Format_RGB32);
-        image.fill(Qt::red);
+        const QImage image = filledImage(8, 4, Qt::red, QImage::Format_RGB32);
         const QByteArray png = MRVGuiUtil::toByteArray(image, "PNG");
         const QTemporaryDir folder;
         const QString path = write(folder, "pic.png", png);
@@ -377,8 +373,7 @@ private Q_SLOTS:
     // A loader that knows pictures only, and one that gives bytes.
     void asksLoaders()
     {
-        QImage image(8, 4, QImage::Format_RGB32);
-        image.fill(Qt::red);
+        const QImage image = filledImage(8, 4, Qt::red, QImage::Format_RGB32);
         Loader parent;
         parent.loaded = MRVGuiUtil::toByteArray(image, "PNG");
         QTextDocument plain(&parent);

@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "images.h"
 #include "support.h"
 
 #include "publish/mrvoutputfiles.h"
@@ -17,9 +18,7 @@
 static std::unique_ptr<QTextDocument> documentWith(const QColor &color)
 {
     auto document = std::make_unique<QTextDocument>();
-    QImage picture(9, 9, QImage::Format_RGB32);
-    picture.fill(color);
-    document->addResource(QTextDocument::ImageResource, QUrl("pic"), picture);
+    document->addResource(QTextDocument::ImageResource, QUrl("pic"), filledImage(9, 9, color));
     document->setHtml("<p>a <b>word</b> <img src=pic></p>");
     return document;
 }
@@ -113,26 +112,11 @@ private Q_SLOTS:
         QVERIFY(bytesOf(in("ch.3.html")).contains("src=\"ch_files/pic.png\""));
     }
 
-    void refusals_data()
-    {
-        QTest::addColumn<QString>("there");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("word"); // empty: not refused
-        QTest::newRow("folder-under-file") << "out" << QByteArray("x") << "out";
-        QTest::newRow("page-on-folder") << "out/a.xhtml/x" << QByteArray("x") << "folder";
-        QTest::newRow("sheet-under-file") << "out/css" << QByteArray("x") << "css";
-        QTest::newRow("foreign-sheet")
-            << "out/css/stylesheet.css" << QByteArray("p {}") << "not written";
-        QTest::newRow("sheet-in-use")
-            << "out/css/stylesheet.css" << QByteArray("/* Styles of b.xhtml / gone.xhtml */\n")
-            << "b.xhtml";
-        QTest::newRow("sheet-of-gone-page")
-            << "out/css/stylesheet.css" << QByteArray("/* Styles of gone.xhtml */\n") << "";
-    }
+    void refusals_data() { addRows("publish-refused.tsv"); }
     void refusals()
     {
         QFETCH(QString, there);
-        QFETCH(QByteArray, text);
+        const QByteArray text = cell("text").toUtf8();
         QFETCH(QString, word);
         QVERIFY(leave(there, text));
         QVERIFY(word != "b.xhtml" || leave("out/b.xhtml", "x"));
@@ -222,23 +206,18 @@ private Q_SLOTS:
         QVERIFY(MRVOutputFiles::spareInputs({in("b")}, {in("a")}));
     }
 
-    void dates_data() { addRows("fixeddates.tsv", {"case", "text", "expected"}); }
+    void dates_data() { addRows("fixeddates.tsv"); }
     void dates()
     {
-        QFETCH(QString, text);
-        QTEST(MRVFixedDate::fromIsoText(text).toUTC().toString(Qt::ISODate), "expected");
+        QTEST(MRVFixedDate::fromIsoText(cell("text")).toUTC().toString(Qt::ISODate), "expected");
     }
 
-    void environmentDates_data()
-    {
-        addRows("environmentdates.tsv", {"case", "variable", "expected"});
-    }
+    void environmentDates_data() { addRows("environmentdates.tsv"); }
     /// An expected "!" is a refusal.
     void environmentDates()
     {
-        QFETCH(QString, variable);
         QFETCH(QString, expected);
-        qputenv("SOURCE_DATE_EPOCH", variable.toLatin1());
+        qputenv("SOURCE_DATE_EPOCH", cell("variable").toLatin1());
         QDateTime date;
         QString error;
         const bool done = MRVFixedDate::fromEnvironment(&date, &error);

@@ -2,9 +2,9 @@
 #include "exchange/mrvreference.h"
 
 #include "core/mcoretype.h"
+#include "images.h"
 
 #include <QColor>
-#include <QImage>
 #include <QPolygon>
 #include <QTimeZone>
 #include <QtTest>
@@ -21,16 +21,9 @@ QByteArray bytesOf(const MRVFernwickDropItem &item)
     return MCoreType::toByteArray(item);
 }
 
-QImage picture()
-{
-    QImage image(2, 1, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    return image;
-}
-
 MRVFernwickDropItem group()
 {
-    return MRVFernwickDropItem({MRVFernwickDropItem("a", picture()).toVariant(),
+    return MRVFernwickDropItem({MRVFernwickDropItem("a", filledImage(2, 1, Qt::red)).toVariant(),
                                 QVariantMap{{"k", QStringList{"x", "y"}}}, 7});
 }
 
@@ -109,7 +102,7 @@ private Q_SLOTS:
 
     void variants()
     {
-        const MRVFernwickDropItem item("l", picture());
+        const MRVFernwickDropItem item("l", filledImage(2, 1, Qt::red));
         const QVariant variant = item.toVariant();
         QCOMPARE(variant.typeName(), "MRVFernwickDropItem");
         QCOMPARE(MRVFernwickDropItem::fromVariant(variant), item);
@@ -121,9 +114,7 @@ private Q_SLOTS:
         QCOMPARE(items.at(0), item);
         QCOMPARE(MRVFernwickDropItem::fromVariant(QVariant(list)), MRVFernwickDropItem(list));
         // A picture of one colour is large, though stored in few bytes.
-        QImage large(5120, 2880, QImage::Format_RGB32);
-        large.fill(Qt::white);
-        const MRVFernwickDropItem wall("l", large);
+        const MRVFernwickDropItem wall("l", filledImage(5120, 2880, Qt::white));
         QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytesOf(wall)), wall);
         // What could not be read again is not written.
         QVariant deep = 1;

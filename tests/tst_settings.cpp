@@ -86,10 +86,9 @@ class tst_Settings : public QObject
 
 private Q_SLOTS:
     void init() { m_folder.reset(new QTemporaryDir); }
-    void announcements_data() { addRows("settings-changes.tsv", {"case", "steps", "signals"}); }
+    void announcements_data() { addRows("settings-changes.tsv"); }
     void announcements()
     {
-        QFETCH(QString, steps);
         Store store(in("a"));
         store.setGroup("/Options/"); // means the same
         QStringList heard;
@@ -99,7 +98,7 @@ private Q_SLOTS:
                 store.setValue("Heard/a", 1);
             }
         });
-        for (const QString &step : steps.split(", ")) {
+        for (const QString &step : cell("steps").split(", ")) {
             const QString what = step.section(' ', 0, 0);
             const QString key = step.section(' ', 1);
             if (what == "set") {
@@ -213,7 +212,7 @@ private Q_SLOTS:
         }
         QCOMPARE(Store(in("c1")).value("G/k").toStringList(), (QStringList{"ä", "ä"}));
     }
-    void editedByHand_data() { addRows("settings-edited.tsv", {"case", "line", "key", "text"}); }
+    void editedByHand_data() { addRows("settings-edited.tsv"); }
     void editedByHand()
     {
         QFETCH(QString, text);
@@ -385,15 +384,11 @@ private Q_SLOTS:
         }
         QVERIFY(sizes.size() > 1);
     }
-    void faultsWhileSaving_data()
-    {
-        addRows("settings-faults.tsv", {"case", "size", "calls", "fault", "following"});
-    }
+    void faultsWhileSaving_data() { addRows("settings-faults.tsv"); }
     // Each call in turn meets a fault. A write of which only the count comes back is what a full
     // disk gives.
     void faultsWhileSaving()
     {
-        QFETCH(QString, size);
         QFETCH(QString, calls);
         QFETCH(QString, following);
         const auto save = [&](const QStringList &options) {
@@ -401,11 +396,11 @@ private Q_SLOTS:
             if (!writeBytes(in("a"), "[Options]\nOld\\gone=1\nOld\\kept=2\n[Other]\nx=3\n")) {
                 return Ran();
             }
-            return run(
-                "strace",
-                QStringList{"-f", "-qq", "-o", in("trace"), "-e", "trace=" + calls} + options
-                    + QStringList{QCoreApplication::applicationFilePath(), "once", in("a"), size},
-                {"ASAN_OPTIONS=detect_leaks=0:exitcode=9"});
+            return run("strace",
+                       QStringList{"-f", "-qq", "-o", in("trace"), "-e", "trace=" + calls} + options
+                           + QStringList{QCoreApplication::applicationFilePath(), "once", in("a"),
+                                         cell("size")},
+                       {"ASAN_OPTIONS=detect_leaks=0:exitcode=9"});
         };
         QCOMPARE(save({}).exitCode, 0);
         const QMap<QString, QString> after = textsOf(in("a"));

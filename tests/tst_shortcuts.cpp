@@ -198,21 +198,7 @@ private Q_SLOTS:
         QVERIFY(!scheme.isNull() || there == sampleScheme());
     }
 
-    void filters_data()
-    {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QString>("found");
-        QTest::newRow("text") << "KEEP"
-                              << "Save";
-        QTest::newRow("key") << "ctrl+g"
-                             << "NewProject";
-        QTest::newRow("label") << "zoomi"
-                               << "ZoomIn";
-        QTest::newRow("all") << ""
-                             << "NewProject Save ZoomIn";
-        QTest::newRow("none") << "Ctrl+Q"
-                              << "";
-    }
+    void filters_data() { addRows("shortcutfilters.tsv"); }
     void filters()
     {
         QFETCH(QString, filter);
@@ -292,10 +278,7 @@ private Q_SLOTS:
                     "Tools, View"));
     }
 
-    void conflicts_data()
-    {
-        addRows("shortcutconflicts.tsv", {"case", "keys", "found", "sentence"});
-    }
+    void conflicts_data() { addRows("shortcutconflicts.tsv"); }
     // Each key in turn is that of Undo, Redo and Cut.
     void conflicts()
     {

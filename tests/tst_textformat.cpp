@@ -1,5 +1,6 @@
 #include "datarows.h"
 #include "documentdump.h"
+#include "images.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QLinearGradient>
@@ -207,10 +208,7 @@ private Q_SLOTS:
         F::simplifySpacing(nullptr);
     }
 
-    void answers_data()
-    {
-        addRows("formatanswers.tsv", {"function", "name", "a", "b", "expected"});
-    }
+    void answers_data() { addRows("formatanswers.tsv"); }
     void answers()
     {
         QFETCH(QString, function);
@@ -255,7 +253,7 @@ private Q_SLOTS:
         QVERIFY(!document.isUndoAvailable());
     }
 
-    void linkId_data() { addRows("linkids.tsv", {"href", "id"}); }
+    void linkId_data() { addRows("linkids.tsv"); }
     void linkId()
     {
         QFETCH(QString, href);
@@ -304,6 +302,50 @@ private Q_SLOTS:
         }
         QCOMPARE(found, QString("050 175 075 050 "));
         mrvFragmentFormat(cursor.selection(), nullptr, nullptr);
+    }
+
+    void tooManyProperties()
+    {
+        QTextCharFormat format;
+        for (int i = 0; i < 4100; ++i) {
+            format.setProperty(QTextFormat::UserProperty + i, i);
+        }
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("4 of its 4100 properties"));
+        QCOMPARE(F::toCharFormat(F::toByteArray(format)).propertyCount(), 4096);
+    }
+
+    void hashIsStoredAsMap()
+    {
+        const QVariant map = QVariantMap{{"a", 1}, {"b", 2}},
+                       hash = QVariantHash{{"b", 2}, {"a", 1}};
+        QCOMPARE(F::toByteArray(with(F::ExtraProperty4, QVariantList{hash})),
+                 F::toByteArray(with(F::ExtraProperty4, QVariantList{map})));
+    }
+
+    void largePlainTextureAndManyStops()
+    {
+        QLinearGradient stops(0, 0, 1, 1);
+        for (int i = 0; i <= 2000; ++i) {
+            stops.setColorAt(i / 2000.0, Qt::red);
+        }
+        for (const QBrush &brush : {QBrush(filledImage(1400, 1400, Qt::green)), QBrush(stops)}) {
+            QCOMPARE(
+                F::toCharFormat(F::toByteArray(with(F::ExtraProperty4, brush))).propertyCount(), 1);
+        }
+    }
+
+    // The first of the families wins on screen.
+    void defaultFamilies()
+    {
+        QTextDocument document;
+        QTextCharFormat format;
+        format.setFontFamilies({"Serif", "Sans"});
+        format.setProperty(QTextFormat::FontFamily, "Mono");
+        F::setDefaultCharFormat(document, format);
+        QCOMPARE(document.defaultFont().family(), QString("Serif"));
+        QTextDocument other;
+        other.setDefaultFont(document.defaultFont());
+        QCOMPARE(F::defaultCharFormat(other).fontFamily(), QString("Serif"));
     }
 };
 

@@ -1,8 +1,9 @@
-#include "core/mrvcoreutil.h"
 #include "datarows.h"
 #include "document/mtextdoc.h"
 #include "documentdump.h"
 #include "gui/mrvguiutil.h"
+#include "images.h"
+#include "support.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QImageReader>
@@ -12,19 +13,12 @@ namespace {
 
 QImage picture(const QColor &color)
 {
-    QImage image(6, 6, QImage::Format_ARGB32);
-    image.fill(color);
-    return image;
+    return filledImage(6, 6, color);
 }
 
 QString idOf(const QColor &color)
 {
     return MRVGuiUtil::resourceId(picture(color));
-}
-
-bool write(const QString &path, const QByteArray &bytes)
-{
-    return MRVCoreUtil::WriteBinaryFile(bytes, path);
 }
 
 /// An image given as "id;name;colour;type;link;raw"; "@red" is the id made from a red picture.
@@ -95,50 +89,42 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(m_dir->path()));
     }
 
-    void exportFormat_data()
-    {
-        addRows("exportedimages.tsv", {"name", "target", "link", "raw", "picture", "expected"});
-    }
+    void exportFormat_data() { addRows("exportedimages.tsv"); }
     void exportFormat()
     {
         QFETCH(QString, target);
         QFETCH(QString, link);
         QFETCH(QString, expected);
-        QVERIFY(link.isEmpty() || write(path(link), "linked bytes"));
+        QVERIFY(link.isEmpty() || writeBytes(path(link), "linked bytes"));
         const QString file = target.isEmpty() ? "" : path(target);
         // A failure leaves no file of before, either.
-        QVERIFY(target.isEmpty() || target.contains('/') || write(file, "old"));
+        QVERIFY(target.isEmpty() || target.contains('/') || writeBytes(file, "old"));
         const auto format =
             imageFormat("id;;;;" + (link.isEmpty() ? "" : path(link)) + ';' + cell("raw"));
-        QFETCH(QString, picture);
         const bool done = MRVTextFormat::exportImageFormat(
-            file, format, picture.isEmpty() ? QImage() : ::picture(Qt::transparent));
+            file, format, cell("picture").isEmpty() ? QImage() : ::picture(Qt::transparent));
         QCOMPARE(done, !expected.isEmpty());
         QCOMPARE(QFile::exists(file), done);
         const QByteArray type = QImageReader::imageFormat(file);
         QVERIFY(type != "jpeg" || QImage(file).pixelColor(2, 2).lightness() > 250);
         if (done) {
-            QCOMPARE(type.isEmpty() ? MRVCoreUtil::ReadBinaryFile(file) : type,
-                     expected.toLatin1());
+            QCOMPARE(type.isEmpty() ? bytesOf(file) : type, expected.toLatin1());
         }
     }
 
     void exportOntoLinkedFile()
     {
-        QVERIFY(write(path("l.png"), "linked bytes"));
+        QVERIFY(writeBytes(path("l.png"), "linked bytes"));
         QVERIFY(QFile::link(path("l.png"), path("same.png")));
         for (const char *name : {"l.png", "./l.png", "same.png"}) {
             QVERIFY(MRVTextFormat::exportImageFormat(
                 path(name), imageFormat("id;;;;" + path("l.png")), picture(Qt::red)));
-            QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("l.png")), QByteArray("linked bytes"));
+            QCOMPARE(bytesOf(path("l.png")), QByteArray("linked bytes"));
             QVERIFY(QFileInfo(path("same.png")).isSymLink());
         }
     }
 
-    void rekey_data()
-    {
-        addRows("rekeyedimages.tsv", {"images", "name", "file", "before", "after"});
-    }
+    void rekey_data() { addRows("rekeyedimages.tsv"); }
     // In one undo step, or in none if nothing changes; resources of old ids are gone.
     void rekey()
     {
@@ -147,7 +133,7 @@ private Q_SLOTS:
         QFETCH(QString, before);
         QFETCH(QString, after);
         QVERIFY(QDir().mkdir("base"));
-        QVERIFY(write(path("text.png"), "no picture"));
+        QVERIFY(writeBytes(path("text.png"), "no picture"));
         QVERIFY(file.isEmpty() || picture("green").save(path(file)));
         Document document(before.replace("%1", m_dir->path()));
         document.addResource(QTextDocument::ImageResource, QUrl::fromLocalFile(path("base/beside")),
@@ -204,11 +190,11 @@ private Q_SLOTS:
         QCOMPARE(MTextDoc::uniqueImageName(document, "red"), QString("red"));
     }
 
-    void names_data() { addRows("imagenames.tsv", {"kind", "name", "taken", "expected"}); }
+    void names_data() { addRows("imagenames.tsv"); }
     void names()
     {
         QFETCH(QString, name);
-        QVERIFY(write(path("photo.large.png"), "x"));
+        QVERIFY(writeBytes(path("photo.large.png"), "x"));
         const QStringList list = cell("taken").split(',');
         const QSet<QString> set(list.begin(), list.end());
         QTEST(cell("kind") == "mmd"
@@ -219,7 +205,7 @@ private Q_SLOTS:
 
     void exportIntoFolder_data()
     {
-        addRows("imagefilenames.tsv", {"row", "name", "type", "mmd", "expected"});
+        addRows("imagefilenames.tsv");
         const QString rose = QString::fromUtf8("\U0001F339");
         QTest::newRow("long") << "" << QString(5000, 'x') << ""
                               << "" << QString(200, 'x') + ".png";
@@ -244,7 +230,7 @@ private Q_SLOTS:
     {
         const Document document("red;Rose;red|none;Rose|blue;Rose;blue|red;A_b|red;A_b");
         // A file of before is replaced.
-        QVERIFY(write(path("Rose.png"), "old"));
+        QVERIFY(writeBytes(path("Rose.png"), "old"));
         const auto names = [this](const QStringList &paths) {
             return QString(paths.join('|')).remove(m_dir->path());
         };
@@ -257,11 +243,17 @@ private Q_SLOTS:
         QCOMPARE(names(MTextDoc::exportImages(document, path("m/e"), true)).replace("/e/", "/d/"),
                  mmd);
 
+        // A file that an image links to stays, though another image has its name.
+        QVERIFY(filledImage(9, 9, Qt::green).save(path("b.png")));
+        const Document linked("b;;red|b;;;;" + path("b.png"));
+        QCOMPARE(names(MTextDoc::exportImages(linked, m_dir->path(), false)), "/b-1.png|/b.png");
+        QCOMPARE(QImage(path("b.png")).width(), 9);
+
         QVERIFY(MTextDoc::exportImages(QTextDocument(), path("never"), false).isEmpty());
         QVERIFY(!QFile::exists(path("never")));
-        QVERIFY(write(path("file"), "in the way"));
+        QVERIFY(writeBytes(path("file"), "in the way"));
         QVERIFY(MTextDoc::exportImages(document, path("file"), false).isEmpty());
-        QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("file")), QByteArray("in the way"));
+        QCOMPARE(bytesOf(path("file")), QByteArray("in the way"));
     }
 };
 

@@ -130,10 +130,7 @@ private Q_SLOTS:
         QVERIFY(italics(document).contains("|{0}[kept][free]|"));
     }
 
-    void convertRange_data()
-    {
-        addRows("convertedranges.tsv", {"name", "start", "end", "by", "expected"});
-    }
+    void convertRange_data() { addRows("convertedranges.tsv"); }
     void convertRange()
     {
         QFETCH(QString, start);

@@ -2,7 +2,6 @@
 #include "support.h"
 #include "web.h"
 
-#include "download/mrvredirectpolicy.h"
 #include "network/mrvnetwork.h"
 #include "update/mrvcheckforupdatesdialog.h"
 #include "update/mrvupdatedownloader.h"
@@ -117,6 +116,13 @@ void finish(const QString &how)
     }
 }
 
+QHash<QString, QString> answersOfRow()
+{
+    return {{"/update.xml", cell("feed")},
+            {"/morvane.run", cell("installer")},
+            {"/morvane.run.minisig", cell("signature")}};
+}
+
 bool isOver()
 {
     return !qApp->findChild<MRVUpdateDownloader *>();
@@ -156,12 +162,11 @@ private Q_SLOTS:
         QCoreApplication::setApplicationVersion("2.9.0.0");
     }
 
-    void betas_data() { addRows("update-versions.tsv", {"version", "beta"}); }
+    void betas_data() { addRows("update-versions.tsv"); }
     void betas()
     {
         QFETCH(QString, version);
-        QFETCH(QString, beta);
-        QCOMPARE(MVersion::isBetaVersion(version), beta == "yes");
+        QCOMPARE(MVersion::isBetaVersion(version), cell("beta") == "yes");
         QCoreApplication::setApplicationVersion(version);
         QCOMPARE(MVersion::versionLabel().startsWith("Version: " + version + " beta ("),
                  MVersion::isBetaVersion());
@@ -228,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(MVersion::currentUserNeedsAdminRights(), warnsOfRights); // remembered
     }
 
-    void feeds_data() { addRows("update-feeds.tsv", {"case", "running", "feed", "told"}); }
+    void feeds_data() { addRows("update-feeds.tsv"); }
     void feeds()
     {
         QFETCH(QString, feed);
@@ -262,10 +267,7 @@ private Q_SLOTS:
         QCOMPARE(heard.last(), QString("available 1"));
     }
 
-    void installers_data()
-    {
-        addRows("update-installers.tsv", {"case", "installer", "signature", "key", "told"});
-    }
+    void installers_data() { addRows("update-installers.tsv"); }
     void installers()
     {
         QFETCH(QString, installer);
@@ -299,19 +301,13 @@ private Q_SLOTS:
         QVERIFY(!model.isInstallerUnchanged());
     }
 
-    void checks_data()
-    {
-        addRows("update-checks.tsv", {"case", "plant", "feed", "installer", "signature", "said"});
-    }
+    void checks_data() { addRows("update-checks.tsv"); }
     void checks()
     {
         QFETCH(QString, plant);
         QFETCH(QString, signature);
         QFETCH(QString, said);
-        Web web;
-        web.answers = {{"/update.xml", cell("feed")},
-                       {"/morvane.run", cell("installer")},
-                       {"/morvane.run.minisig", signature}};
+        Web web(answersOfRow());
         plantIn(plant.replace("@tmp", m_folder->path()));
         QStringList heard;
         const Boxes boxes(&heard);
@@ -343,9 +339,8 @@ private Q_SLOTS:
     // An application may have a file opened that no check has anything to do with.
     void opensAnother()
     {
-        Web web;
-        web.answers = {{"/update.xml", "wait"}};
-        plantIn(QString());
+        Web web({{"/update.xml", "wait"}});
+        plantIn();
         QStringList heard;
         const Boxes boxes(&heard);
         m_heard = &heard;
@@ -373,21 +368,14 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activeModalWidget());
     }
 
-    void endsEarly_data()
-    {
-        addRows("update-ends.tsv",
-                {"case", "plant", "feed", "installer", "signature", "at", "end"});
-    }
+    void endsEarly_data() { addRows("update-ends.tsv"); }
     // Nothing is said, left behind or used after its end.
     void endsEarly()
     {
         QFETCH(QString, plant);
         QFETCH(QString, signature);
         QFETCH(QString, at);
-        Web web;
-        web.answers = {{"/update.xml", cell("feed")},
-                       {"/morvane.run", cell("installer")},
-                       {"/morvane.run.minisig", signature}};
+        Web web(answersOfRow());
         plantIn(plant);
         if (!signature.isEmpty()) {
             QVERIFY(MRVUpdateManager::instance()->setPublicKey(bytesOf(data + "key.pub")));
@@ -437,17 +425,13 @@ private Q_SLOTS:
         QTRY_VERIFY(web.asked.contains("/update.xml"));
     }
 
-    void endsOnce_data()
-    {
-        addRows("update-signals.tsv", {"case", "silent", "feed", "installer", "user", "expected"});
-    }
+    void endsOnce_data() { addRows("update-signals.tsv"); }
     // In order, and nothing after the end, whatever is asked then.
     void endsOnce()
     {
         QFETCH(QString, user);
-        Web web;
-        web.answers = {{"/update.xml", cell("feed")}, {"/morvane.run", cell("installer")}};
-        plantIn(QString());
+        Web web({{"/update.xml", cell("feed")}, {"/morvane.run", cell("installer")}});
+        plantIn();
         MRVUpdateDownloader check;
         QStringList heard;
         using D = MRVUpdateDownloader;
@@ -501,9 +485,8 @@ private Q_SLOTS:
     // The dialog may have been forgotten under other windows.
     void comesToTheFront()
     {
-        Web web;
-        web.answers = {{"/update.xml", "3.0.0.0|m|http://d/"}};
-        plantIn(QString());
+        Web web({{"/update.xml", "3.0.0.0|m|http://d/"}});
+        plantIn();
         MRVUpdateManager::instance()->checkForUpdatesSilent();
         QTRY_VERIFY(shownDialog());
         shownDialog()->showMinimized();
@@ -518,13 +501,12 @@ private Q_SLOTS:
         QCOMPARE(web.asked.count("/update.xml"), 1);
     }
 
-    void starts_data() { addRows("update-starts.tsv", {"case", "settings", "due", "feed"}); }
+    void starts_data() { addRows("update-starts.tsv"); }
     void starts()
     {
-        QFETCH(QString, settings);
         QFETCH(QString, due);
         QSettings store("Morvane", "Morvane");
-        for (const QString &setting : settings.split(';', Qt::SkipEmptyParts)) {
+        for (const QString &setting : cell("settings").split(';', Qt::SkipEmptyParts)) {
             const QString value = setting.section('=', 1);
             const QDateTime now = QDateTime::currentDateTime();
             store.setValue(setting.section('=', 0, 0),
@@ -533,8 +515,7 @@ private Q_SLOTS:
                                : QVariant(value));
         }
         store.sync();
-        Web web;
-        web.answers = {{"/update.xml", cell("feed")}};
+        Web web({{"/update.xml", cell("feed")}});
         QStringList heard;
         const Boxes boxes(&heard);
         auto *timer = MRVUpdateManager::instance()->findChild<QTimer *>();
@@ -553,32 +534,6 @@ private Q_SLOTS:
         QCOMPARE(shownDialog() != nullptr, due == "shown");
         QCOMPARE(heard, QStringList());
         QCOMPARE(store.value(key).toDate(), due == "failed" ? QDate() : QDate::currentDate());
-    }
-
-    void redirects_data()
-    {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<bool>("followed");
-        QTest::newRow("secure") << "https://a https://b" << true;
-        QTest::newRow("plain") << "http://a http://b" << true;
-        QTest::newRow("up") << "http://a https://b" << true;
-        QTest::newRow("down") << "https://a http://b" << false;
-        QTest::newRow("up-and-down") << "http://a https://b http://c" << false;
-        QTest::newRow("other") << "http://a ftp://b" << false;
-    }
-    void redirects()
-    {
-        QFETCH(QString, way);
-        MRVRedirectPolicy policy;
-        policy.start(QUrl(way.section(' ', 0, 0)));
-        bool isFollowed = true;
-        for (const QString &url : way.split(' ').mid(1)) {
-            isFollowed = policy.redirectTo(QUrl(url));
-        }
-        QCOMPARE(policy.hasRefused(), !isFollowed);
-        QTEST(isFollowed, "followed");
-        QVERIFY(!policy.authenticate("", QUrl(), nullptr, nullptr));
-        QVERIFY(!policy.ignoreSslErrors({"expired"}));
     }
 
     void keys()
@@ -693,15 +648,14 @@ private Q_SLOTS:
     void cleanupTestCase()
     {
         init();
-        Web web;
-        web.answers = {{"/update.xml", "3.0.0.0|morvane.run|http://d/"}};
-        plantIn(QString());
+        Web web({{"/update.xml", "3.0.0.0|morvane.run|http://d/"}});
+        plantIn();
         MRVUpdateManager::instance()->checkForUpdates();
         QTRY_VERIFY(shownDialog());
     }
 
 private:
-    void plantIn(const QString &plant)
+    void plantIn(const QString &plant = {})
     {
         const QStringList words = plant.split(' ');
         const auto place = [&](int i) {

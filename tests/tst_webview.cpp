@@ -1,3 +1,4 @@
+#include "datarows.h"
 #include "web.h"
 
 #include "update/mrvcheckforupdatesdialog.h"
@@ -35,8 +36,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, plugins);
         qputenv("MRV_PLUGIN_PATH", plugins.toUtf8());
-        Web web;
-        web.answers = {{"/notes.html", "@notes.html"}};
+        Web web({{"/notes.html", "@notes.html"}});
         QDesktopServices::setUrlHandler("http", this, "open");
         MRVCheckForUpdatesDialog dialog("http://www.example/notes.html");
         QCOMPARE(web.asked, QStringList());
@@ -60,72 +60,31 @@ private Q_SLOTS:
         QCOMPARE(web.asked, QStringList{"/notes.html"});
     }
 
-    void access_data()
-    {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("wanted");
-        QTest::addColumn<bool>("allowed");
-        QTest::newRow("plain") << "http://www.example/"
-                               << "http://www.example/x" << true;
-        QTest::newRow("down") << "https://www.example/"
-                              << "http://www.example/x" << false;
-        QTest::newRow("data") << "https://www.example/"
-                              << "data:,x" << true;
-        QTest::newRow("file") << "http://www.example/"
-                              << "file:///etc/hostname" << false;
-        QTest::newRow("ftp") << "http://www.example/"
-                             << "ftp://www.example/x" << false;
-        QTest::newRow("resource") << "http://www.example/"
-                                  << "qrc:/FileIcons/Morvane48" << false;
-    }
+    void access_data() { addRows("webaccess.tsv"); }
     // Whatever leads there: the page, what it shows, or a redirect.
     void access()
     {
-        QFETCH(QString, page);
         QFETCH(QString, wanted);
-        QFETCH(bool, allowed);
+        const bool isAllowed = cell("allowed") == "yes";
         qputenv("MRV_PLUGIN_PATH", MRV_BINARY_DIR "/lib/mrvbase/plugins");
-        Web web;
-        web.answers = {{"/x", "@notes.html"}};
-        MRVCheckForUpdatesDialog dialog(page);
+        Web web({{"/x", "@notes.html"}});
+        MRVCheckForUpdatesDialog dialog(cell("page"));
         dialog.show();
         auto *manager =
             dialog.findChild<QWidget *>("webView")->findChild<QNetworkAccessManager *>();
         QVERIFY(manager);
         const std::unique_ptr<QNetworkReply> reply(manager->get(QNetworkRequest(QUrl(wanted))));
         QTRY_VERIFY(reply->isFinished());
-        QCOMPARE(reply->error() == QNetworkReply::NoError, allowed);
-        QCOMPARE(web.asked.contains("/x"), allowed && wanted.startsWith("http"));
+        QCOMPARE(reply->error() == QNetworkReply::NoError, isAllowed);
+        QCOMPARE(web.asked.contains("/x"), isAllowed && wanted.startsWith("http"));
     }
 
-    void standIn_data()
-    {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QString>("shown");
-        const QByteArray ok = "HTTP/1.1 200 OK\r\n\r\n";
-        const QByteArray deep = QByteArray("<i>").repeated(100000);
-        const QString failed = "The release notes cannot be shown.\n";
-        QTest::newRow("utf-8") << ok + "<meta charset=iso-8859-1>\xc3\xa9"
-                               << "é";
-        QTest::newRow("named-by-page") << ok + "<meta charset=iso-8859-1>\xe9"
-                                       << "é";
-        QTest::newRow("named-by-server")
-            << QByteArray("HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=cp1250\r\n\r\n\x9a")
-            << "š";
-        QTest::newRow("nested-deeply") << ok + deep << failed.trimmed();
-        QTest::newRow("one-word") << ok + QByteArray(1000000, 'x') << QString(1000000, 'x');
-        QTest::newRow("refused") << QByteArray("HTTP/1.1 302 F\r\nLocation: file:///\r\n\r\n")
-                                 << failed
-                + "It redirects to file:///, which is not an http or https address";
-        QTest::newRow("too-large")
-            << ok + QByteArray(2000000, 'x') << failed + "It is larger than 1048576 bytes";
-    }
+    void standIn_data() { addRows("releasenotes.tsv"); }
     void standIn()
     {
-        QFETCH(QByteArray, answer);
         qputenv("MRV_PLUGIN_PATH", "/nowhere");
         Web web;
-        web.raw = answer;
+        web.raw = cell("answer").toLatin1();
         MRVCheckForUpdatesDialog dialog("http://www.example/");
         dialog.show();
         QTRY_VERIFY(!dialog.findChild<QTextBrowser *>("webView")->toPlainText().isEmpty());

@@ -37,7 +37,8 @@ inline QByteArray feedOf(const QString &text)
 class Web : public QTcpServer
 {
 public:
-    Web()
+    explicit Web(const QHash<QString, QString> &given = {})
+        : answers(given)
     {
         listen(QHostAddress::LocalHost);
         QNetworkProxy::setApplicationProxy(
