@@ -100,7 +100,11 @@ QString resultOf(const QString &call, MRVDomDoc *doc)
         {"prepend", [&] { return after(doc->prepend(path, text), *doc); }},
         {"create", [&] { return after(doc->create(path), *doc); }},
         {"copy", [&] { return after(doc->append(doc->find(path)), *doc); }},
-        {"createPath", [&] { return after(doc->createPath(path) > 0, *doc); }},
+        {"createPath",
+         [&] {
+             const int made = doc->createPath(path);
+             return QString("%1 %2").arg(made).arg(doc->workPath());
+         }},
         {"remove", [&] { return QString::number(doc->remove(path)); }},
         {"removeAll", [&] { return QString::number(doc->remove(path, true)); }},
         {"removeAttr", [&] { return QString::number(doc->removeAttr(text, path)); }},
