@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "documentdump.h"
 #include "images.h"
+#include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QLinearGradient>
@@ -95,6 +96,10 @@ QString answer(const QString &function, const QString &a, const QString &b)
     }
     if (function.endsWith(" match")) {
         return yes(F::formatsMatch(chars(a), chars(b), function == "values match"));
+    }
+    if (function == "heading") {
+        const QTextBlockFormat format = b == "spaced" ? F::simplifiedSpacing(blocks(a)) : blocks(a);
+        return QString::number(MRVTextBlockFormat::headingLevel(format));
     }
     if (function == "equivalentSpacing") {
         return yes(F::equivalentSpacing(blocks(a), blocks(b)));

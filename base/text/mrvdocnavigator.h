@@ -37,7 +37,7 @@ class QTextTable;
  *
  *     void startBlock(QTextBlock &block) override
  *     {
- *         count += block.blockFormat().headingLevel() > 0 ? 1 : 0;
+ *         count += MRVTextBlockFormat::headingLevel(block.blockFormat()) > 0 ? 1 : 0;
  *     }
  * };
  * HeadingCounter counter(&document);

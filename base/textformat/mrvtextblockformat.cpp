@@ -7,6 +7,9 @@
 
 namespace {
 
+// The level of a heading, int 1 to 6, under a number that no line spacing takes.
+constexpr int HeadingLevelProperty = 0x100100;
+
 enum Group : unsigned {
     Data = 1, ///< no style at all: always kept
     Indents = 2,
@@ -63,7 +66,35 @@ bool hasHeadingLevel(const QTextBlockFormat &format)
     return format.hasProperty(MRVTextFormat::BlockSpacing) && !hasLineSpacing(format);
 }
 
+void keepHeadingLevel(QTextBlockFormat *format, int level)
+{
+    if (level > 0) {
+        format->setProperty(HeadingLevelProperty, level);
+    }
+}
+
 } // namespace
+
+int MRVTextBlockFormat::headingLevel(const QTextBlockFormat &format)
+{
+    for (int property : {HeadingLevelProperty, int(QTextFormat::HeadingLevel)}) {
+        const int level = format.intProperty(property);
+        if (level >= 1 && level <= 6) {
+            return level;
+        }
+    }
+    return 0;
+}
+
+void MRVTextBlockFormat::setLineSpacing(QTextBlockFormat *format, double spacing, double base)
+{
+    if (!format) {
+        return;
+    }
+    keepHeadingLevel(format, headingLevel(*format));
+    format->setProperty(MRVTextFormat::BlockSpacing, spacing);
+    format->setProperty(MRVTextFormat::BlockBaseSpacing, base);
+}
 
 QTextBlockFormat MRVTextBlockFormat::merge(const QTextBlockFormat &existing,
                                            const QTextBlockFormat &with, bool keepIndents,
@@ -93,6 +124,9 @@ QTextBlockFormat MRVTextBlockFormat::merge(const QTextBlockFormat &existing,
             result.setProperty(QTextFormat::HeadingLevel,
                                existing.property(QTextFormat::HeadingLevel));
         }
+    }
+    if (hasLineSpacing(result)) {
+        keepHeadingLevel(&result, headingLevel(existing));
     }
     MrvFormatMerge::takeProperties(&result, existing, keep);
     return result;

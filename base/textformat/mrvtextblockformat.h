@@ -16,6 +16,20 @@ public:
     MRVTextBlockFormat() = delete;
 
     /**
+     * The level of the heading that a paragraph is, 1 to 6; 0 for any other paragraph.
+     *
+     * The application's own property of a heading (int 0x100100) comes first, then Qt's own level.
+     * That one is lost where a line spacing is written, since both have one number.
+     */
+    static int headingLevel(const QTextBlockFormat &format);
+
+    /**
+     * Writes a line spacing, the pair of MRVTextFormat::BlockSpacing and BlockBaseSpacing, in
+     * points. A heading keeps its headingLevel(). Null does nothing.
+     */
+    static void setLineSpacing(QTextBlockFormat *format, double spacing, double base);
+
+    /**
      * @p existing re-styled by @p with.
      *
      * The result is @p with, except for what it takes from @p existing; a property that is taken
@@ -25,8 +39,8 @@ public:
      * - block quotes, code blocks, preformatted text and task list markers;
      * - all properties of the application (0x100000 and above).
      *
-     * A heading level lies under the number of the line spacing. It is no style: it is never taken
-     * from @p with, and stays in the result unless @p with brings a line spacing in its place.
+     * The headingLevel() is no style either: it is never taken from @p with, and stays in the
+     * result even where @p with brings a line spacing, which has the number of Qt's own level.
      *
      * @param keepIndents   takes the geometry of the paragraph, which in a list is that of the
      *                      list: left, right and first-line indent, left and right margin, indent

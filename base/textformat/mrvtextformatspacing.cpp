@@ -1,6 +1,7 @@
 #include "textformat/mrvtextformat.h"
 
 #include "core/mrvfuzzycompare.h"
+#include "textformat/mrvtextblockformat.h"
 
 namespace {
 
@@ -21,8 +22,7 @@ Spacing spacingOf(const QTextBlockFormat &format)
 
 void setSpacing(QTextBlockFormat *format, const Spacing &value)
 {
-    format->setProperty(MRVTextFormat::BlockSpacing, value.spacing);
-    format->setProperty(MRVTextFormat::BlockBaseSpacing, value.base);
+    MRVTextBlockFormat::setLineSpacing(format, value.spacing, value.base);
 }
 
 // How two reals are compared is the caller's: simplified() and simplifySpacing() differ in it.
