@@ -104,6 +104,25 @@ private Q_SLOTS:
         QCOMPARE(text.split('\n'), QString::fromUtf8(bytesOf(golden)).split('\n'));
     }
 
+    // A line spacing takes the number of Qt's own heading level.
+    void spacedHeadings()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        const auto contents = [&document] {
+            MRVEPubPackage package;
+            package.addDocument(document, "novel.html");
+            const QMap<QString, QString> files = unpacked(package.toByteArray());
+            return QStringList(files.keys()) << files["OEBPS/nav.xhtml"];
+        };
+        const QStringList before = contents();
+        const QTextBlockFormat spaced = MRVTextFormat::simplifiedSpacing(QTextBlockFormat());
+        MRVTextFormat::convertToFormat(&document, nullptr, &spaced, true, true, true, true, false,
+                                       true, true, {}, false, false);
+        QCOMPARE(contents(), before);
+        QCOMPARE(QTextCursor(&document).blockFormat().headingLevel(), 0); // that is in the copy
+    }
+
     void nothingGiven()
     {
         MRVEPubMetadata metadata;

@@ -6,6 +6,7 @@
 #include "epub/mrvpagestarts_p.h"
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
+#include "xhtml/mrvdocumenthtml.h"
 #include "xhtml/mrvdocumenttitle.h"
 #include "xhtml/mrvhtmltext.h"
 #include "xhtml/mrvpagewriter.h"
@@ -220,7 +221,7 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
     if (!addAllPictures(document, &references, error)) {
         return false;
     }
-    QString html = document.toHtml("utf-8");
+    QString html = mrvDocumentHtml(document);
     MRVHtmlText::replaceImageSources(&html, references);
     const QString documentTitle = document.metaInformation(QTextDocument::DocumentTitle);
     if (metadata.title.isEmpty() && pages.isEmpty()) {

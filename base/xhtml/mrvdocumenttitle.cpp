@@ -1,5 +1,7 @@
 #include "xhtml/mrvdocumenttitle.h"
 
+#include "textformat/mrvtextblockformat.h"
+
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -13,8 +15,7 @@ QString mrvDocumentTitle(const QTextDocument &document, const QString &fallback)
     int seen = 0;
     for (QTextBlock block = document.begin(); block.isValid() && seen < Beginning;
          block = block.next(), ++seen) {
-        // Line spacings share the property's number but are not integers.
-        if (block.blockFormat().headingLevel() > 0) {
+        if (MRVTextBlockFormat::headingLevel(block.blockFormat()) > 0) {
             const QString text =
                 block.text().remove(QChar::ObjectReplacementCharacter).simplified();
             if (!text.isEmpty()) {

@@ -43,7 +43,7 @@ public:
     MRVPageWriter(ExportType type, MRVHtmlDialect dialect, MRVTextXhtmlExporter::StyleList *styles);
 
     /**
-     * @param html          what QTextDocument::toHtml("utf-8") gives.
+     * @param html          what mrvDocumentHtml() gives.
      * @param documentTitle the document's own title, which Qt writes unescaped.
      * @param title         the title where the document has none.
      */

@@ -14,14 +14,13 @@ class QTextImageFormat;
 /**
  * Writes a rich-text document as HTML, XHTML or e-book XHTML, and repairs HTML of other origin.
  *
- * The markup comes from QTextDocument::toHtml("utf-8"); a fixed chain of textual fix-ups turns it
- * into the wanted kind. Each fix-up is a static function that does just what its name says to any
- * text, and finds its patterns wherever they stand. The document exports (toFile() and what calls
- * it, toEBookXhtml() and toText()) apply the same chain to the tags of the page alone, so that
- * prose which reads like a style is left as it is, and add what makes the page well-formed and,
- * from type Xhtml on, valid against the XHTML 1.1 DTD: forbidden characters go, crossed tags are
- * closed, attributes that XHTML 1.1 lacks become styles, ids are unique names, and the page has a
- * title.
+ * The markup comes from mrvDocumentHtml(); a fixed chain of textual fix-ups turns it into the
+ * wanted kind. Each fix-up is a static function that does just what its name says to any text, and
+ * finds its patterns wherever they stand. The document exports (toFile() and what calls it,
+ * toEBookXhtml() and toText()) apply the same chain to the tags of the page alone, so that prose
+ * which reads like a style is left as it is, and add what makes the page well-formed and, from type
+ * Xhtml on, valid against the XHTML 1.1 DTD: forbidden characters go, crossed tags are closed,
+ * attributes that XHTML 1.1 lacks become styles, ids are unique names, and the page has a title.
  *
  * Everything here is for the GUI thread. The document is never changed.
  *

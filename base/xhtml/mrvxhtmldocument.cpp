@@ -4,6 +4,7 @@
 #include "document/mtextdoc.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvnames.h"
+#include "xhtml/mrvdocumenthtml.h"
 #include "xhtml/mrvdocumenttitle.h"
 #include "xhtml/mrvhtmltext.h"
 #include "xhtml/mrvpagewriter.h"
@@ -106,7 +107,7 @@ QString MRVTextXhtmlExporter::toText(ExportType type, const QString &title)
     if (!m_document) {
         return QString();
     }
-    return pageText(m_document->toHtml("utf-8"), type,
+    return pageText(mrvDocumentHtml(*m_document), type,
                     title.isEmpty() ? mrvDocumentTitle(*m_document, tr("Untitled")) : title);
 }
 
@@ -119,7 +120,7 @@ bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exp
         }
         return false;
     }
-    QString html = m_document->toHtml("utf-8");
+    QString html = mrvDocumentHtml(*m_document);
     QStringList written;
     QString newFolder;
     m_unwrittenImages.clear();
@@ -165,7 +166,7 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
     const QString newFolder = QFileInfo::exists(folder) ? QString() : folder;
     MRVTextXhtmlExporter exporter(document);
     exporter.m_pageDir = QFileInfo(file).absolutePath();
-    QString html = document->toHtml("utf-8");
+    QString html = mrvDocumentHtml(*document);
     const QStringList written = exporter.exportDocImages(folder, &html, imageFormatOf(type));
 
     MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);

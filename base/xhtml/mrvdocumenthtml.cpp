@@ -1,0 +1,189 @@
+#include "xhtml/mrvdocumenthtml.h"
+
+#include "textformat/mrvtextblockformat.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+#include <QTextTable>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int BorderStyles[] = {
+    QTextFormat::FrameBorderStyle,           QTextFormat::TableCellTopBorderStyle,
+    QTextFormat::TableCellBottomBorderStyle, QTextFormat::TableCellLeftBorderStyle,
+    QTextFormat::TableCellRightBorderStyle,
+};
+
+bool isUnknownStyle(const QTextFormat &format, int property)
+{
+    const int style = format.intProperty(property);
+    return style < QTextFrameFormat::BorderStyle_None
+        || style > QTextFrameFormat::BorderStyle_Outset;
+}
+
+bool hasUnknownStyle(const QTextFormat &format)
+{
+    return std::any_of(std::begin(BorderStyles), std::end(BorderStyles),
+                       [&format](int property) { return isUnknownStyle(format, property); });
+}
+
+void clampStyles(QTextFormat *format)
+{
+    for (int property : BorderStyles) {
+        if (isUnknownStyle(*format, property)) {
+            format->setProperty(property, int(QTextFrameFormat::BorderStyle_None));
+        }
+    }
+}
+
+bool isHiddenHeading(const QTextBlockFormat &format)
+{
+    const int level = MRVTextBlockFormat::headingLevel(format);
+    return level > 0 && level != format.headingLevel();
+}
+
+bool hasRule(const QTextFormat &format)
+{
+    return format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+}
+
+bool hasText(const QTextBlock &block)
+{
+    return block.length() > 1;
+}
+
+// What of a document QTextDocument::toHtml() would get wrong.
+struct Faults
+{
+    explicit Faults(const QTextDocument &document)
+    {
+        // Formats, of which a document has far fewer than paragraphs and cells. Some may be out of
+        // use, which costs a copy and no more.
+        const QVector<QTextFormat> formats = document.allFormats();
+        bool rules = false;
+        for (const QTextFormat &format : formats) {
+            if (format.isBlockFormat()) {
+                rules = rules || hasRule(format);
+                inBlocks = inBlocks || isHiddenHeading(format.toBlockFormat());
+            } else {
+                inBorders = inBorders || hasUnknownStyle(format);
+            }
+        }
+        for (QTextBlock block = document.begin(); rules && !inBlocks && block.isValid();
+             block = block.next()) {
+            inBlocks = hasText(block) && hasRule(formats.at(block.blockFormatIndex()));
+        }
+    }
+
+    bool inBlocks = false;
+    bool inBorders = false;
+};
+
+// Gives the rule of the cursor's paragraph a paragraph of its own, before it.
+void separateRule(QTextCursor *cursor, QTextBlockFormat format)
+{
+    const QTextBlock block = cursor->block();
+    QTextBlockFormat rule;
+    rule.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
+                     format.property(QTextFormat::BlockTrailingHorizontalRulerWidth));
+    format.clearProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+    const int position = cursor->position();
+    cursor->insertBlock(format, block.charFormat());
+    cursor->setPosition(position);
+    cursor->setBlockFormat(rule); // a list that the paragraph is in goes on with the text
+    cursor->setPosition(position + 1);
+}
+
+void mendBlocks(QTextDocument *document)
+{
+    QTextCursor cursor(document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        cursor.setPosition(block.position());
+        if (isHiddenHeading(format)) {
+            format.setHeadingLevel(MRVTextBlockFormat::headingLevel(format));
+            cursor.setBlockFormat(format);
+        }
+        if (hasRule(format) && hasText(block)) {
+            separateRule(&cursor, format);
+            block = cursor.block();
+        }
+    }
+    cursor.endEditBlock();
+}
+
+void mendCells(const QTextTable &table)
+{
+    for (int row = 0; row < table.rows(); ++row) {
+        for (int column = 0; column < table.columns(); ++column) {
+            QTextTableCell cell = table.cellAt(row, column);
+            QTextCharFormat format = cell.format();
+            if (hasUnknownStyle(format)) {
+                clampStyles(&format);
+                cell.setFormat(format);
+            }
+        }
+    }
+}
+
+void mendBorders(const QTextDocument &document)
+{
+    QList<QTextFrame *> frames{document.rootFrame()};
+    while (!frames.isEmpty()) {
+        QTextFrame *frame = frames.takeLast();
+        frames.append(frame->childFrames());
+        QTextFrameFormat format = frame->frameFormat();
+        if (hasUnknownStyle(format)) {
+            clampStyles(&format);
+            frame->setFrameFormat(format);
+        }
+        if (const auto *table = qobject_cast<QTextTable *>(frame)) {
+            mendCells(*table);
+        }
+    }
+}
+
+// A copy that is written as the document is.
+std::unique_ptr<QTextDocument> copyOf(const QTextDocument &document)
+{
+    std::unique_ptr<QTextDocument> copy(document.clone());
+    copy->setUndoRedoEnabled(false);
+    // Qt copies neither the formats of an empty paragraph at the beginning nor its list.
+    const QTextBlock first = document.begin();
+    QTextBlockFormat format = first.blockFormat();
+    format.setObjectIndex(copy->begin().blockFormat().objectIndex());
+    QTextCursor cursor(copy.get());
+    cursor.setBlockFormat(format);
+    cursor.setBlockCharFormat(first.charFormat());
+    const QTextList *list = first.textList();
+    if (list && list->count() > 1 && !cursor.currentList()) {
+        copy->findBlockByNumber(list->item(1).blockNumber()).textList()->add(cursor.block());
+    } else if (list && !cursor.currentList()) {
+        cursor.createList(list->format());
+    }
+    return copy;
+}
+
+} // namespace
+
+QString mrvDocumentHtml(const QTextDocument &document)
+{
+    const Faults faults(document);
+    if (!faults.inBlocks && !faults.inBorders) {
+        return document.toHtml("utf-8");
+    }
+    const std::unique_ptr<QTextDocument> copy = copyOf(document);
+    if (faults.inBlocks) {
+        mendBlocks(copy.get());
+    }
+    if (faults.inBorders) {
+        mendBorders(*copy);
+    }
+    return copy->toHtml("utf-8");
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QString>
+
+class QTextDocument;
+
+/**
+ * The HTML of a document, as QTextDocument::toHtml("utf-8") writes it, but for what that function
+ * gets wrong:
+ *
+ * - A paragraph that MRVTextBlockFormat::headingLevel() calls a heading is one in the HTML too,
+ *   where Qt's own level has given way to a line spacing.
+ * - A paragraph with both a rule and text becomes the rule and then the text, which Qt drops. In
+ *   this order, as Qt reads what follows a rule into the paragraph of the rule.
+ * - A border style that Qt does not know, for which it would crash, counts as none.
+ *
+ * The document is never changed: one that needs any of these is copied first. GUI thread only.
+ */
+MRVBASE_EXPORT QString mrvDocumentHtml(const QTextDocument &document);
