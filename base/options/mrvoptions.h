@@ -495,6 +495,7 @@ public:
     MRVAutoReplaceList autoReplaceList(QString *error = nullptr) const;
     bool setAutoReplaceList(const MRVAutoReplaceList &list);
 
+    using MRVSettings::shortcutScheme;
     /**
      * The stored shortcut scheme, without entries for the commands that it lacks; the default one
      * where none is stored.
