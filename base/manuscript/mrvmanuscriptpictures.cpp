@@ -3,11 +3,10 @@
 #include "document/mtextdoc.h"
 #include "manuscript/mrvmanuscript.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvlocalfile.h"
 
 #include "gui/mrvpicturereader.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 #include <QTextBlock>
@@ -48,24 +47,6 @@ QString withScheme(const QString &name)
     return name.startsWith(QLatin1String("//")) ? QLatin1String("https:") + name : name;
 }
 
-bool isElsewhere(const QString &name)
-{
-    const QString scheme = QUrl(name).scheme();
-    return scheme.size() > 1 && scheme != QLatin1String("file");
-}
-
-QString localFile(const QString &name, const QString &folder)
-{
-    const QUrl url(name);
-    if (url.scheme() == QLatin1String("file")) {
-        return url.toLocalFile();
-    }
-    const QString plain = QDir(folder).absoluteFilePath(name);
-    return QFileInfo::exists(plain)
-        ? plain
-        : QDir(folder).absoluteFilePath(QUrl::fromPercentEncoding(name.toUtf8()));
-}
-
 } // namespace
 
 bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable,
@@ -80,14 +61,14 @@ bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *
         const QString name = withScheme(fragment.format.name());
         QTextImageFormat format = fragment.format;
         format.setName(name);
-        if (isElsewhere(name)) {
+        if (MRV::isElsewhere(name)) {
             if (QUrl(name).scheme() != QLatin1String("data")) {
                 remote.insert(name);
             }
         } else {
             QString &path = paths[name];
             if (path.isEmpty()) {
-                path = localFile(name, folder);
+                path = MRV::localFile(name, folder);
                 if (MRVPictureReader::ofFile(path).read(reason).isNull()) {
                     *unreadable = name;
                     return false;
