@@ -68,6 +68,7 @@ int readMetadata(const Call &call, Options *options)
 int readOptions(const Call &call, Options *options)
 {
     options->input = inputOptions(call);
+    options->input.strict = call.has("strict");
     const int code = readType(call, options);
     if (code >= 0) {
         return code;
@@ -255,6 +256,7 @@ constexpr Option options[] = {
                  "beside the input, with the suffix of the type."),
     manuscriptFormat(),
     manuscriptEncoding(),
+    strictReading(),
     Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
     Option::text("language", "TAG",
                  "The language, such as en-GB. Default: that of the manuscript, else, for e-books, "

@@ -59,6 +59,9 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     reader.setFormat(MRVManuscript::formatNamed(options.format));
     reader.setEncoding(options.encoding);
     reader.setLoadsPictures(options.pictures);
+    // What shows no pictures looks for text, and changes it in its source.
+    reader.setPurpose(options.pictures ? MRVManuscriptReader::Publishing
+                                       : MRVManuscriptReader::Editing);
     bool ok = false;
     if (path == QLatin1String("-")) {
         QString unreadable;
@@ -73,8 +76,18 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     }
     if (!ok) {
         *error = reader.errorString() + hint(reader.error());
+        return false;
     }
-    return ok;
+    if (options.strict && !manuscript->isWhole()) {
+        *error = QStringLiteral("%1: %2").arg(path, manuscript->readingNotes().constFirst());
+        return false;
+    }
+    if (options.pictures || !manuscript->isWhole()) {
+        for (const QString &note : manuscript->readingNotes()) {
+            printError(QStringLiteral("note: %1: %2").arg(path, note));
+        }
+    }
+    return true;
 }
 
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,

@@ -30,7 +30,14 @@ struct InputOptions
     QString format; // "html", "markdown" or "text"
     QString encoding;
     bool pictures = false; // false: leave them, and what names them, alone
+    bool strict = false; // refuse a manuscript of which the document lacks something
 };
+
+constexpr Option strictReading(const char *verbs = nullptr)
+{
+    return Option::flag(
+        "strict", "Refuse a manuscript of which a word, a link or a picture would be lost.", verbs);
+}
 
 /** What the options of the call say; pictures are left alone. */
 InputOptions inputOptions(const Call &call);

@@ -50,6 +50,7 @@ constexpr Module modules[] = {
     {"base/presets",     4, "Core Gui"},
     {"base/text",        4, "Core Gui"},
 
+    {"base/html",        5, "Core Gui"},
     {"base/scriptmode",  5, "Core Gui"},
     {"base/search",      5, "Core Gui"},
     {"base/settings",    5, "Core Gui"},

@@ -10,6 +10,8 @@
 #include <QTextDocument>
 #include <QVector>
 
+#include <array>
+
 namespace {
 
 struct Tag
@@ -174,33 +176,77 @@ void readMeta(const Tag &tag, MRVHtmlHead *head, QString *creator)
     }
 }
 
-/** The elements that are open at a place of a page. */
-class OpenElements
+// Elements that a parser opens again in each paragraph after the one that they were left open in.
+constexpr const char *formatting[] = {"b", "big",   "code",   "em",     "font", "i",
+                                      "s", "small", "strike", "strong", "tt",   "u"};
+
+/** The elements of formatting that are open in a cell, or outside of cells. */
+class OpenFormatting
 {
 public:
-    int count() const { return m_elements.size(); }
+    int count() const { return m_count; }
 
+    // Of equal ones, a parser keeps three.
     void begin(const Tag &tag)
     {
-        const int group = groupOf(tag.name);
-        for (int i = count() - 1; group != NoGroup && i >= 0 && !m_elements[i].isBarrier; --i) {
-            if (m_elements[i].group == group) {
-                shrink(i);
-                break;
-            }
-        }
-        if (!tag.whole) {
-            m_elements.append({tag.name, group, contains(barriers, tag.name)});
-            ++m_counts[tag.name];
+        constexpr int MostEqual = 3;
+        const QString whole = tag.name + u' ' + tag.attributes.toString();
+        if (m_equal.value(whole) < MostEqual) {
+            ++m_equal[whole];
+            m_open[tag.name].append(whole);
+            ++m_count;
         }
     }
 
     void end(const QString &name)
     {
+        const auto open = m_open.find(name);
+        if (open != m_open.end() && !open->isEmpty()) {
+            --m_equal[open->takeLast()];
+            --m_count;
+        }
+    }
+
+private:
+    QHash<QString, int> m_equal; // by name and attributes
+    QHash<QString, QStringList> m_open; // by name
+    int m_count = 0;
+};
+
+/** The elements that are open at a place of a page. */
+class OpenElements
+{
+public:
+    int depth() const { return m_elements.size() + m_formatting.constLast().count(); }
+    qint64 repeats() const { return m_repeats; }
+
+    void begin(const Tag &tag)
+    {
+        if (contains(formatting, tag.name)) {
+            m_formatting.last().begin(tag);
+        } else {
+            m_repeats += m_formatting.constLast().count();
+        }
+        const int group = groupOf(tag.name);
+        if (group != NoGroup && m_groups.at(group) > 0) {
+            int last = m_elements.size() - 1;
+            while (m_elements.at(last).group != group) {
+                --last;
+            }
+            shrink(last);
+        }
+        if (!tag.whole) {
+            push(tag.name, group);
+        }
+    }
+
+    void end(const QString &name)
+    {
+        m_formatting.last().end(name);
         // Tags that end nothing must not cost a search each.
         if (m_counts.value(name) > 0) {
-            int last = count() - 1;
-            while (m_elements[last].name != name) {
+            int last = m_elements.size() - 1;
+            while (m_elements.at(last).name != name) {
                 --last;
             }
             shrink(last);
@@ -208,23 +254,82 @@ public:
     }
 
 private:
+    using Groups = std::array<int, 8>; // how many are open since the last barrier
+
     struct Element
     {
         QString name;
         int group;
         bool isBarrier;
+        Groups groups; // those outside, for a barrier
     };
+
+    static bool isCell(const QString &name)
+    {
+        return name == QLatin1String("td") || name == QLatin1String("th")
+            || name == QLatin1String("caption");
+    }
+
+    void push(const QString &name, int group)
+    {
+        const bool isBarrier = contains(barriers, name);
+        m_elements.append({name, group, isBarrier, m_groups});
+        ++m_counts[name];
+        if (isBarrier) {
+            m_groups.fill(0);
+        } else {
+            ++m_groups[group];
+        }
+        if (isCell(name)) {
+            m_formatting.append(OpenFormatting());
+        }
+    }
 
     void shrink(int count)
     {
         while (m_elements.size() > count) {
-            --m_counts[m_elements.takeLast().name];
+            const Element element = m_elements.takeLast();
+            --m_counts[element.name];
+            if (element.isBarrier) {
+                m_groups = element.groups;
+            } else {
+                --m_groups[element.group];
+            }
+            if (isCell(element.name)) {
+                m_formatting.removeLast();
+            }
         }
     }
 
     QVector<Element> m_elements;
     QHash<QString, int> m_counts; // by name
+    Groups m_groups{};
+    QVector<OpenFormatting> m_formatting{1}; // by cells in each other
+    qint64 m_repeats = 0;
 };
+
+// Those that a tag has at least: a value in quotes may hold anything.
+int attributeCount(QStringView attributes)
+{
+    int count = 0;
+    QChar quote;
+    bool inside = false;
+    for (const QChar character : attributes) {
+        if (!quote.isNull()) {
+            quote = character == quote ? QChar() : quote;
+        } else if (character.isSpace() || character == u'/') {
+            inside = false;
+        } else {
+            count += inside ? 0 : 1;
+            inside = true;
+            if (character == u'"' || character == u'\'') {
+                quote = character;
+                inside = false; // another attribute may follow without a blank
+            }
+        }
+    }
+    return count;
+}
 
 } // namespace
 
@@ -267,16 +372,27 @@ bool MRVHtmlReader::looksLikeHtml(const QByteArray &bytes)
             || Qt::mightBeRichText(text));
 }
 
-bool MRVHtmlReader::isNestedTooDeeply(const QString &html)
+QString MRVHtmlReader::whyTooComplex(const QString &html)
 {
     OpenElements open;
     TagReader reader(html);
-    for (Tag tag; reader.next(&tag) && open.count() <= MRVInputLimits::HtmlDepth;) {
+    for (Tag tag; reader.next(&tag);) {
         if (tag.end) {
             open.end(tag.name);
         } else {
             open.begin(tag);
         }
+        if (open.depth() > MRVInputLimits::HtmlDepth) {
+            return tr("elements are nested more than %1 levels deep")
+                .arg(MRVInputLimits::HtmlDepth);
+        }
+        if (tag.attributes.size() > MRVInputLimits::HtmlAttributes
+            && attributeCount(tag.attributes) > MRVInputLimits::HtmlAttributes) {
+            return tr("an element has more than %1 attributes").arg(MRVInputLimits::HtmlAttributes);
+        }
+        if (open.repeats() > MRVInputLimits::HtmlRepeats) {
+            return tr("too many elements such as <%1> are left open").arg(QLatin1String("font"));
+        }
     }
-    return open.count() > MRVInputLimits::HtmlDepth;
+    return QString();
 }

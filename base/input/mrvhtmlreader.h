@@ -2,6 +2,7 @@
 
 #include "util/mrvbase_export.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +30,8 @@ struct MRVHtmlHead
  */
 class MRVBASE_EXPORT MRVHtmlReader
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVHtmlReader)
+
 public:
     MRVHtmlReader() = delete;
 
@@ -42,8 +45,12 @@ public:
     static bool looksLikeHtml(const QByteArray &bytes);
 
     /**
-     * Whether elements of @p html are nested more deeply than MRVInputLimits::HtmlDepth, so that
-     * Qt's reader of rich text should not get it.
+     * Why reading @p html could take far more time or memory than its length explains: elements
+     * nested more deeply than MRVInputLimits::HtmlDepth, more attributes of one than
+     * MRVInputLimits::HtmlAttributes, or so many that are left open that a parser would repeat them
+     * more than MRVInputLimits::HtmlRepeats times. No parser should get such a text.
+     *
+     * @return a translated text without a full stop; empty for a page that can be read.
      */
-    static bool isNestedTooDeeply(const QString &html);
+    static QString whyTooComplex(const QString &html);
 };

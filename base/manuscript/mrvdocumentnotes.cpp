@@ -82,7 +82,9 @@ void addHighlights(QTextDocument *document, QVector<MRVDocumentNote> *notes)
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const QBrush brush = fragment.charFormat().background();
+            const QBrush own = fragment.charFormat().background();
+            const QBrush brush =
+                own.style() == Qt::NoBrush ? block.blockFormat().background() : own;
             const bool highlighted = brush.style() != Qt::NoBrush;
             const int end = fragment.position() + fragment.length();
             if (highlighted && follows && runs.constLast().color == brush.color()) {

@@ -18,6 +18,27 @@ constexpr struct
 
 } // namespace
 
+QStringList MRVManuscript::readingNotes() const
+{
+    QStringList notes;
+    for (const MRVHtmlLoss &loss : report.losses) {
+        notes.append(tr("line %1: not in the document: %2").arg(loss.line).arg(loss.what));
+    }
+    if (!report.missingSheets.isEmpty()) {
+        notes.append(tr("style sheets that cannot be read: %1")
+                         .arg(report.missingSheets.join(QLatin1String(", "))));
+    }
+    if (!report.remoteSheets.isEmpty()) {
+        notes.append(tr("style sheets on other machines, which are not loaded: %1")
+                         .arg(report.remoteSheets.join(QLatin1String(", "))));
+    }
+    if (report.hiddenWords > 0) {
+        notes.append(tr("words that the page hides, and the document does not hold: %1")
+                         .arg(report.hiddenWords));
+    }
+    return notes;
+}
+
 QString MRVManuscript::sourceText() const
 {
     const QTextCodec *codec = QTextCodec::codecForName(encoding);

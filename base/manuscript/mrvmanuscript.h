@@ -1,8 +1,11 @@
 #pragma once
 
+#include "html/mrvhtmlreport.h"
+#include "markdown/mrvmarkdown.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QTextDocument>
@@ -34,6 +37,9 @@
  */
 struct MRVBASE_EXPORT MRVManuscript
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVManuscript)
+
+public:
     enum Format { Unknown = 0, Html = 1, Markdown = 2, PlainText = 3 };
 
     /** As the reader was given it; for bytes that are in no file, what messages call them. */
@@ -41,16 +47,26 @@ struct MRVBASE_EXPORT MRVManuscript
     /** The file's name without its folder; empty for bytes that are in no file. */
     QString fileName;
     Format format = Unknown;
+    MRVMarkdown::Options options; ///< with which Markdown was read
     QByteArray encoding; ///< as QTextCodec calls it
     QByteArray bytes; ///< as they were read
 
     std::unique_ptr<QTextDocument> document; ///< keeps no undo history; null until read
-    QStringList authors; ///< what HTML says in its head, like the two that follow
+    /** What the head of HTML, or the front matter of Markdown, says; so with those that follow. */
+    QStringList authors;
     QString description;
+    QString date; ///< as it is written; of Markdown only
     QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
 
     QStringList pictures; ///< files that it shows, each once, in order of appearance
+    /** What reading found out beside the text: style sheets that are missing, and losses. */
+    MRVHtmlReport report;
     int remotePictures = 0; ///< pictures on other machines that it shows; they are not loaded
+
+    /** Whether the document holds all words, links and pictures that the source shows. */
+    bool isWhole() const { return report.losses.isEmpty(); }
+    /** What a writer should know about the reading, a translated line each; see report. */
+    QStringList readingNotes() const;
 
     /** The bytes as a text, markup included, without a byte-order mark; empty until read. */
     QString sourceText() const;

@@ -1,10 +1,31 @@
 #pragma once
 
+#include "html/mrvhtmlreport.h"
 #include "manuscript/mrvmanuscript.h"
+#include "markdown/mrvmarkdown.h"
 
 #include <QTextDocument>
 
 #include <memory>
 
-/** A document of a text in a known format, without its pictures. It keeps no undo history. */
-std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format);
+/** What reading a text found out beside it. */
+struct MRVSourceReport
+{
+    MRVHtmlReport html; ///< of the page that Markdown becomes, too
+    MRVMarkdownHead head; ///< of Markdown
+};
+
+/**
+ * A document of a text in a known format, without its pictures. It keeps no undo history.
+ *
+ * @param options of Markdown.
+ * @param folder  where the names of style sheets count from; with an empty one, none is loaded.
+ * @param report  if given, receives what was found out.
+ * @param error   if given, receives a translated text on failure.
+ * @return null for a text that is too complex to be read.
+ */
+std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
+                                              MRVMarkdown::Options options,
+                                              const QString &folder = QString(),
+                                              MRVSourceReport *report = nullptr,
+                                              QString *error = nullptr);

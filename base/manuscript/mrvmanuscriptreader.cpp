@@ -1,34 +1,14 @@
 #include "manuscript/mrvmanuscriptreader.h"
 
-#include "input/mrvguardeddocument.h"
 #include "input/mrvhtmlreader.h"
 #include "input/mrvtextdecoder.h"
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvmanuscriptpictures_p.h"
 
 #include "core/mrvcoreutil.h"
-#include "core/mrvinputlimits.h"
 
 #include <QFileInfo>
 #include <QTextCodec>
-
-std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format)
-{
-    auto document = std::make_unique<MRVGuardedDocument>();
-    document->setUndoRedoEnabled(false);
-    switch (format) {
-    case MRVManuscript::Html:
-        document->setHtml(text);
-        break;
-    case MRVManuscript::Markdown:
-        document->setMarkdown(text);
-        break;
-    default:
-        document->setPlainText(text);
-        break;
-    }
-    return document;
-}
 
 bool MRVManuscriptReader::read(const QString &path, MRVManuscript *manuscript)
 {
@@ -64,10 +44,11 @@ bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
                                     MRVManuscript *manuscript)
 {
     QString text;
+    read->options = m_purpose == Editing ? MRVMarkdown::Footnotes : m_options;
     if (read->format == MRVManuscript::Unknown) {
         return fail(UnknownFormat, *read, tr("unknown type of file"));
     }
-    if (!decode(read, &text) || !readDocument(text, read)
+    if (!decode(read, &text) || !readDocument(text, folder, read)
         || (m_loadsPictures && !loadPictures(folder, read))) {
         return false;
     }
@@ -102,20 +83,28 @@ bool MRVManuscriptReader::decode(MRVManuscript *read, QString *text)
                 tr("not readable as %1").arg(QString::fromLatin1(read->encoding)));
 }
 
-bool MRVManuscriptReader::readDocument(const QString &text, MRVManuscript *read)
+bool MRVManuscriptReader::readDocument(const QString &text, const QString &folder,
+                                       MRVManuscript *read)
 {
     if (read->format == MRVManuscript::Html) {
-        if (MRVHtmlReader::isNestedTooDeeply(text)) {
-            return fail(
-                NestingError, *read,
-                tr("elements are nested more than %1 levels deep").arg(MRVInputLimits::HtmlDepth));
-        }
         const MRVHtmlHead head = MRVHtmlReader::head(text);
         read->authors = head.authors;
         read->description = head.description;
         read->language = head.language;
     }
-    read->document = mrvNewDocument(text, read->format);
+    QString reason;
+    MRVSourceReport report;
+    read->document = mrvNewDocument(text, read->format, read->options, folder, &report, &reason);
+    if (!read->document) {
+        return fail(NestingError, *read, reason);
+    }
+    read->report = report.html;
+    if (read->format == MRVManuscript::Markdown) {
+        read->authors = report.head.authors;
+        read->description = report.head.description;
+        read->language = report.head.language;
+        read->date = report.head.date;
+    }
     return true;
 }
 

@@ -35,10 +35,20 @@ public:
         UnknownFormat = 2, ///< the suffix means no format, and none was set
         UnknownEncoding = 3,
         DecodingError = 4, ///< the bytes are not valid in the encoding
-        NestingError = 5, ///< elements are nested so deeply that reading would not end
+        NestingError = 5, ///< elements are nested so deeply, or so many, that reading would not end
         PictureError = 6, ///< a picture on this machine is missing or cannot be read
     };
 
+    enum Purpose {
+        Publishing, ///< as a reader of the book is to see the text
+        Editing, ///< in the order of the source and with its characters, so that changes find it
+    };
+
+    /** What the document is for; Publishing at first. For Editing, the
+     * characters of Markdown stay as they are, whatever its options. */
+    void setPurpose(Purpose purpose) { m_purpose = purpose; }
+    /** How Markdown is read; with footnotes at first. */
+    void setMarkdownOptions(MRVMarkdown::Options options) { m_options = options; }
     /** What the input is; Unknown, as at first, decides by suffix or content. */
     void setFormat(MRVManuscript::Format format) { m_format = format; }
     /** A name that QTextCodec knows; empty, as at first, means what the input declares. */
@@ -74,10 +84,12 @@ public:
 private:
     bool readBytes(const QString &folder, MRVManuscript *read, MRVManuscript *manuscript);
     bool decode(MRVManuscript *read, QString *text);
-    bool readDocument(const QString &text, MRVManuscript *read);
+    bool readDocument(const QString &text, const QString &folder, MRVManuscript *read);
     bool loadPictures(const QString &folder, MRVManuscript *read);
     bool fail(Error error, const MRVManuscript &read, const QString &reason);
 
+    Purpose m_purpose = Publishing;
+    MRVMarkdown::Options m_options = MRVMarkdown::Footnotes;
     MRVManuscript::Format m_format = MRVManuscript::Unknown;
     QString m_encoding;
     bool m_loadsPictures = true;

@@ -194,7 +194,8 @@ QVector<MRVTextChange> asInserted(QVector<MRVTextChange> changes)
 
 QString writtenAnew(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes)
 {
-    const auto document = mrvNewDocument(manuscript.sourceText(), manuscript.format);
+    const auto document =
+        mrvNewDocument(manuscript.sourceText(), manuscript.format, manuscript.options);
     MRVTextReplacer::apply(document.get(), changes);
     switch (manuscript.format) {
     case MRVManuscript::Html:
@@ -271,7 +272,8 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
                          tr("the change in paragraph %1 does not fit into the markup there")
                              .arg(block.blockNumber() + 1));
     }
-    const QString read = mrvNewDocument(text, manuscript.format)->toRawText();
+    const auto document = mrvNewDocument(text, manuscript.format, manuscript.options);
+    const QString read = document ? document->toRawText() : QString();
     if (comparable(read, manuscript.format) != comparable(after, manuscript.format)) {
         return MRV::fail(error, tr("the new text would not be read back as it is"));
     }

@@ -113,7 +113,7 @@ private:
         }
         QString &text = m_entities[name];
         if (text.isEmpty()) {
-            text = mrvNewDocument(name, MRVManuscript::Html)->toRawText();
+            text = mrvNewDocument(name, MRVManuscript::Html, {})->toRawText();
         }
         if (text.isEmpty() || mrvIsBlank(text.at(0))) {
             return character;

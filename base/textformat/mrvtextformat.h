@@ -90,6 +90,16 @@ public:
         ExtraProperty209 = 0x1000d1,
         ExtraProperty210 = 0x1000d2,
         ExtraProperty211 = 0x1000d3,
+
+        // What pages say and Qt has no property for.
+        /** int, 1 to 6, of a paragraph: the level of a heading. Line spacing does not end it. */
+        HeadingLevelProperty = 0x100100,
+        /** QString, of text: a well-formed BCP 47 tag, where it is not the document's language. */
+        LanguageProperty = 0x100101,
+        /** int, of a list: the number of its first item, where that is not 1. */
+        ListStartProperty = 0x100102,
+        /** bool, of a table cell: it heads a row or a column. */
+        HeaderCellProperty = 0x100103,
     };
 
     /** What simplified() keeps of a paragraph's format. */

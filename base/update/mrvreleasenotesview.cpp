@@ -113,7 +113,7 @@ private:
     void showPage(const QByteArray &bytes)
     {
         const QString html = decodedPage(bytes);
-        if (m_redirects.hasRefused() || MRVHtmlReader::isNestedTooDeeply(html)) {
+        if (m_redirects.hasRefused() || !MRVHtmlReader::whyTooComplex(html).isEmpty()) {
             showError(QString());
         } else {
             setHtml(html);

@@ -70,8 +70,12 @@ struct MRVInputLimits
     static constexpr int ScriptTagLength = 16 * 1024 * 1024;
     static constexpr int ScriptModeDepth = 32;
     static constexpr int ScriptModeTagLength = 16 * 1024;
-    /** Qt reads nested blocks of rich text in quadratic time. */
+    /** An HTML parser looks through the open elements for each tag, and recursion reads them. */
     static constexpr int HtmlDepth = 2000;
+    /** A parser of HTML compares each attribute of a tag with every other one. */
+    static constexpr int HtmlAttributes = 256;
+    /** Elements such as <i> that a page leaves open, which a parser repeats in each paragraph. */
+    static constexpr int HtmlRepeats = 1000000;
 
     // Style sheets. A rule or declaration beyond one of these three is dropped, as a faulty one is.
     /** Tokens of a list of selectors, or of a declaration. */
@@ -88,6 +92,11 @@ struct MRVInputLimits
     static constexpr qint64 CssSteps = 100000000;
     /** ... and more for each element; books take some fifty. */
     static constexpr qint64 CssStepsPerElement = 2000;
+    /** A style sheet in a file, ... */
+    static constexpr qint64 StyleSheetBytes = 4 << 20;
+    /** ... how many a page may have, and how deeply they may import each other. */
+    static constexpr int StyleSheets = 64;
+    static constexpr int StyleSheetDepth = 8;
 
     // Markdown. cmark passes all open blocks for each line, and repeats what links and tables do.
     /** Quotes, lists and items in each other. */

@@ -402,6 +402,44 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVHtmlReader</name>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>die Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>ein Element hat mehr als %1 Attribute</translation>
+    </message>
+    <message>
+        <source>too many elements such as &lt;%1&gt; are left open</source>
+        <translation>zu viele Elemente wie &lt;%1&gt; sind nicht geschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscript</name>
+    <message>
+        <source>line %1: not in the document: %2</source>
+        <translation>Zeile %1: nicht im Dokument: %2</translation>
+    </message>
+    <message>
+        <source>style sheets that cannot be read: %1</source>
+        <translation>Stylesheets, die nicht gelesen werden können: %1</translation>
+    </message>
+    <message>
+        <source>style sheets on other machines, which are not loaded: %1</source>
+        <translation>Stylesheets auf anderen Rechnern, die nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>words that the page hides, and the document does not hold: %1</source>
+        <translation>Wörter, die die Seite verbirgt und die nicht im Dokument stehen: %1</translation>
+    </message>
+    <message>
+        <source>the Markdown is nested too deeply, or too complex</source>
+        <translation>das Markdown ist zu tief verschachtelt oder zu komplex</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>
@@ -414,10 +452,6 @@ Fehler: %2</translation>
     <message>
         <source>not readable as %1</source>
         <translation>nicht als %1 lesbar</translation>
-    </message>
-    <message>
-        <source>elements are nested more than %1 levels deep</source>
-        <translation>die Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>

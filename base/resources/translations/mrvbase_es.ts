@@ -402,6 +402,44 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVHtmlReader</name>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>los elementos están anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un elemento tiene más de %1 atributos</translation>
+    </message>
+    <message>
+        <source>too many elements such as &lt;%1&gt; are left open</source>
+        <translation>demasiados elementos como &lt;%1&gt; quedan sin cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscript</name>
+    <message>
+        <source>line %1: not in the document: %2</source>
+        <translation>línea %1: no está en el documento: %2</translation>
+    </message>
+    <message>
+        <source>style sheets that cannot be read: %1</source>
+        <translation>hojas de estilo que no se pueden leer: %1</translation>
+    </message>
+    <message>
+        <source>style sheets on other machines, which are not loaded: %1</source>
+        <translation>hojas de estilo en otros equipos, que no se cargan: %1</translation>
+    </message>
+    <message>
+        <source>words that the page hides, and the document does not hold: %1</source>
+        <translation>palabras que la página oculta y que no están en el documento: %1</translation>
+    </message>
+    <message>
+        <source>the Markdown is nested too deeply, or too complex</source>
+        <translation>el Markdown tiene demasiados niveles o es demasiado complejo</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>
@@ -414,10 +452,6 @@ Error: %2</translation>
     <message>
         <source>not readable as %1</source>
         <translation>no se puede leer como %1</translation>
-    </message>
-    <message>
-        <source>elements are nested more than %1 levels deep</source>
-        <translation>los elementos están anidados a más de %1 niveles</translation>
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>

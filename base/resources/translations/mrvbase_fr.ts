@@ -402,6 +402,44 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVHtmlReader</name>
+    <message>
+        <source>elements are nested more than %1 levels deep</source>
+        <translation>les éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un élément a plus de %1 attributs</translation>
+    </message>
+    <message>
+        <source>too many elements such as &lt;%1&gt; are left open</source>
+        <translation>trop d’éléments tels que &lt;%1&gt; restent ouverts</translation>
+    </message>
+</context>
+<context>
+    <name>MRVManuscript</name>
+    <message>
+        <source>line %1: not in the document: %2</source>
+        <translation>ligne %1 : absent du document : %2</translation>
+    </message>
+    <message>
+        <source>style sheets that cannot be read: %1</source>
+        <translation>feuilles de style illisibles : %1</translation>
+    </message>
+    <message>
+        <source>style sheets on other machines, which are not loaded: %1</source>
+        <translation>feuilles de style sur d’autres machines, qui ne sont pas chargées : %1</translation>
+    </message>
+    <message>
+        <source>words that the page hides, and the document does not hold: %1</source>
+        <translation>mots que la page masque et qui ne sont pas dans le document : %1</translation>
+    </message>
+    <message>
+        <source>the Markdown is nested too deeply, or too complex</source>
+        <translation>le Markdown est trop imbriqué ou trop complexe</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>
@@ -414,10 +452,6 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>not readable as %1</source>
         <translation>illisible en %1</translation>
-    </message>
-    <message>
-        <source>elements are nested more than %1 levels deep</source>
-        <translation>les éléments sont imbriqués sur plus de %1 niveaux</translation>
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>

@@ -1,0 +1,435 @@
+#include "html/mrvhtmlbuilder_p.h"
+
+#include "textformat/mrvtextformat.h"
+#include "util/mrvnames.h"
+
+#include <QFont>
+#include <QTextFrame>
+#include <QUrl>
+
+namespace {
+
+constexpr qreal DefaultPoints = 12; // 16 pixels
+
+bool isQtPage(const GumboNode *root)
+{
+    for (const GumboNode *child : MRVHtmlChildren(root)) {
+        if (mrvIsElement(child, GUMBO_TAG_HEAD)) {
+            for (const GumboNode *meta : MRVHtmlChildren(child)) {
+                if (mrvIsElement(meta, GUMBO_TAG_META)
+                    && mrvAttributeOf(meta, "name") == QLatin1String("qrichtext")) {
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+const GumboNode *childOf(const GumboNode *element, GumboTag tag)
+{
+    for (const GumboNode *child : MRVHtmlChildren(element)) {
+        if (mrvIsElement(child, tag)) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+const QVector<MRVCssDeclaration> &innerListDeclarations()
+{
+    static const QVector<MRVCssDeclaration> declarations =
+        MRVStyleSheet::parseDeclarations(QStringLiteral("margin-top:0;margin-bottom:0"));
+    return declarations;
+}
+
+bool hasNextElement(const GumboNode *element)
+{
+    const GumboVector &siblings = element->parent->type == GUMBO_NODE_DOCUMENT
+        ? element->parent->v.document.children
+        : element->parent->v.element.children;
+    for (size_t i = element->index_within_parent + 1; i < siblings.length; ++i) {
+        if (mrvIsElement(static_cast<const GumboNode *>(siblings.data[i]))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const QVector<MRVCssDeclaration> &linkDeclarations()
+{
+    // The colour does not come from the palette of the machine that reads: the same page gives the
+    // same document everywhere.
+    static const QVector<MRVCssDeclaration> declarations =
+        MRVStyleSheet::parseDeclarations(QStringLiteral("color:#0000ff;text-decoration:underline"));
+    return declarations;
+}
+
+// What a picture of any kind names; null for none.
+QString pictureName(const GumboNode *element)
+{
+    QString name;
+    for (const char *attribute : {"src", "data", "xlink:href", "href"}) {
+        if (name.isEmpty()) {
+            name = mrvAttributeOf(element, attribute);
+        }
+    }
+    return name.trimmed();
+}
+
+} // namespace
+
+MRVHtmlBuilder::MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *sheets,
+                               QTextDocument *document)
+    : m_tree(tree)
+    , m_sheets(sheets)
+    , m_document(document)
+    , m_isQtPage(isQtPage(tree.root()))
+    , m_writer(document)
+{
+    m_writer.setIsQtPage(m_isQtPage);
+    m_styler.setQtWeights(m_isQtPage);
+}
+
+void MRVHtmlBuilder::build()
+{
+    Siblings roots;
+    Siblings bodies;
+    const GumboNode *root = m_tree.root();
+    const MRVCssElement *rootCss = cssElement(root, nullptr, &roots);
+    MRVHtmlStyle rootStyle = styleOf(root, MRVHtmlStyle(), rootCss);
+    m_language = rootStyle.language;
+    m_styler.setRootPixels(rootStyle.fontPixels);
+    m_writer.addName(mrvAttributeOf(root, "id"));
+    const GumboNode *body = childOf(root, GUMBO_TAG_BODY);
+    if (!body) {
+        body = childOf(root, GUMBO_TAG_FRAMESET);
+    }
+    if (body) {
+        const MRVCssElement *css = cssElement(body, rootCss, &bodies);
+        MRVHtmlStyle style = styleOf(body, rootStyle, css);
+        if (m_language.isEmpty()) {
+            m_language = style.language;
+        }
+        style.text.clearProperty(MRVTextFormat::LanguageProperty);
+        if (m_isQtPage) {
+            style.whiteSpace = MRVHtmlStyle::PreformattedWrapped;
+        }
+        prepareDocument(style);
+        style.text.clearProperty(QTextFormat::FontFamily);
+        style.text.clearProperty(QTextFormat::FontFamilies);
+        style.text.clearProperty(QTextFormat::FontPointSize);
+        style.text.clearProperty(QTextFormat::FontSizeAdjustment);
+        m_writer.addName(mrvAttributeOf(body, "id"));
+        m_writer.enter(style.inherited(), MRVHtmlBox());
+        readChildren(body, style.inherited(), css);
+        m_writer.leave();
+    }
+    m_writer.finish();
+}
+
+// What the whole page looks like is the document's own look.
+void MRVHtmlBuilder::prepareDocument(const MRVHtmlStyle &body)
+{
+    QFont font = m_document->defaultFont();
+    const QString family = body.text.fontFamily();
+    if (!family.isEmpty()) {
+        font.setFamily(family);
+    }
+    font.setPointSizeF(qRound(body.fontPixels * 0.75 * 100) / 100.0);
+    if (body.fontPixels == 16) {
+        font.setPointSizeF(DefaultPoints);
+    }
+    m_document->setDefaultFont(font);
+    if (body.background.style() != Qt::NoBrush) {
+        QTextFrameFormat format = m_document->rootFrame()->frameFormat();
+        format.setBackground(body.background);
+        m_document->rootFrame()->setFrameFormat(format);
+    }
+}
+
+const MRVCssElement *MRVHtmlBuilder::cssElement(const GumboNode *element,
+                                                const MRVCssElement *parent,
+                                                Siblings *siblings) const
+{
+    if (!m_sheets) {
+        return nullptr;
+    }
+    MRVCssElement css;
+    css.parent = parent;
+    css.name = mrvNameOf(element);
+    const GumboVector &attributes = element->v.element.attributes;
+    for (unsigned i = 0; i < attributes.length; ++i) {
+        const auto *attribute = static_cast<const GumboAttribute *>(attributes.data[i]);
+        css.attributes.append(
+            {QString::fromUtf8(attribute->name), QString::fromUtf8(attribute->value)});
+    }
+    css.id = mrvAttributeOf(element, "id");
+    css.classes = mrvAttributeOf(element, "class").simplified().split(u' ', Qt::SkipEmptyParts);
+    if (!siblings->elements.empty()) {
+        css.previous = &siblings->elements.back();
+        css.index = css.previous->index + 1;
+    }
+    css.typeIndex = ++siblings->counts[css.name];
+    css.isLast = !hasNextElement(element);
+    siblings->elements.push_back(css);
+    return &siblings->elements.back();
+}
+
+MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyle &outside,
+                                     const MRVCssElement *css) const
+{
+    const MRVHtmlElement &kind = mrvHtmlElement(element);
+    MRVHtmlStyle style = outside.inherited();
+    style.display = kind.display;
+    const QString address = mrvAddressOf(element);
+    // A list in a list has no space around it.
+    const bool isInner = kind.kind == MRVHtmlElement::List && m_writer.listDepth() > 0;
+    QVector<MRVCssDeclaration> declarations = kind.declarations;
+    if (isInner) {
+        declarations += innerListDeclarations();
+    }
+    declarations += mrvHtmlHints(element);
+    if (!address.isEmpty()) {
+        declarations += linkDeclarations();
+    }
+    const QVector<MRVCssDeclaration> own =
+        MRVStyleSheet::parseDeclarations(mrvAttributeOf(element, "style"));
+    declarations += css ? m_sheets->declarations(*css, own) : own;
+    if (!declarations.isEmpty()) {
+        m_styler.apply(declarations, outside, &style);
+    }
+    if (!address.isEmpty()) {
+        style.text.setAnchor(true);
+        style.text.setAnchorHref(address);
+    }
+    setLanguage(element, outside, &style);
+    return style;
+}
+
+void MRVHtmlBuilder::setLanguage(const GumboNode *element, const MRVHtmlStyle &outside,
+                                 MRVHtmlStyle *style) const
+{
+    for (const char *name : {"lang", "xml:lang"}) {
+        const QString language = MRV::languageTag(mrvAttributeOf(element, name));
+        if (!language.isEmpty()) {
+            style->language = language;
+        }
+    }
+    if (style->language == outside.language) {
+        return;
+    }
+    if (style->language == m_language) {
+        style->text.clearProperty(MRVTextFormat::LanguageProperty);
+    } else {
+        style->text.setProperty(MRVTextFormat::LanguageProperty, style->language);
+    }
+}
+
+void MRVHtmlBuilder::readChildren(const GumboNode *parent, const MRVHtmlStyle &style,
+                                  const MRVCssElement *css)
+{
+    Siblings siblings;
+    for (const GumboNode *child : MRVHtmlChildren(parent)) {
+        if (mrvIsElement(child)) {
+            readElement(child, style, cssElement(child, css, &siblings));
+        } else if (child->type != GUMBO_NODE_COMMENT) {
+            m_writer.writeText(mrvTextOf(child), style);
+        }
+    }
+}
+
+void MRVHtmlBuilder::readElement(const GumboNode *element, const MRVHtmlStyle &outside,
+                                 const MRVCssElement *css)
+{
+    if (mrvHtmlElement(element).kind == MRVHtmlElement::Skipped) {
+        return;
+    }
+    const MRVHtmlStyle style = styleOf(element, outside, css);
+    const bool isName = element->v.element.tag == GUMBO_TAG_A;
+    m_writer.addName(mrvAttributeOf(element, "id"));
+    m_writer.addName(isName ? mrvAttributeOf(element, "name") : QString());
+    if (style.display != mrvHtmlElement(element).display) {
+        m_displays.insert(element, style.display);
+    }
+    if (style.display != MRVHtmlStyle::Hidden) {
+        readShown(element, style, css);
+    }
+}
+
+void MRVHtmlBuilder::readShown(const GumboNode *element, const MRVHtmlStyle &style,
+                               const MRVCssElement *css)
+{
+    switch (mrvHtmlElement(element).kind) {
+    case MRVHtmlElement::LineEnd:
+        m_writer.writeLineEnd(style);
+        break;
+    case MRVHtmlElement::Rule:
+        m_writer.writeRule(style.width, style);
+        break;
+    case MRVHtmlElement::Table:
+        readTable(element, style, css);
+        break;
+    case MRVHtmlElement::Input:
+        readInput(element, style);
+        break;
+    case MRVHtmlElement::Picture:
+        if (style.display == MRVHtmlStyle::Inline) {
+            readPicture(element, style, css);
+        } else {
+            m_writer.enter(style, MRVHtmlBox());
+            readPicture(element, style.inherited(), css);
+            m_writer.leave();
+        }
+        break;
+    default:
+        if (style.display == MRVHtmlStyle::Inline) {
+            readInline(element, style, css);
+        } else {
+            readBlock(element, style, css);
+        }
+        break;
+    }
+}
+
+void MRVHtmlBuilder::readBlock(const GumboNode *element, const MRVHtmlStyle &style,
+                               const MRVCssElement *css)
+{
+    m_writer.enter(style, boxOf(element, style));
+    if (style.isEmptyParagraph) {
+        m_writer.writeEmptyParagraph(style);
+    } else {
+        readChildren(element, style.inherited(), css);
+    }
+    m_writer.leave();
+}
+
+void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
+                                const MRVCssElement *css)
+{
+    if (style.verticalAlignment != QTextCharFormat::AlignNormal) {
+        style.text.setVerticalAlignment(style.verticalAlignment);
+    }
+    if (style.background.style() != Qt::NoBrush) {
+        style.text.setBackground(style.background);
+    }
+    const MRVHtmlElement &kind = mrvHtmlElement(element);
+    if (mrvNameOf(element) == QLatin1String("image")) { // of SVG
+        readPicture(element, style, css);
+    }
+    if (kind.kind == MRVHtmlElement::Quotation) {
+        m_writer.writeText(mrvQuotationMark(true, m_quotations++), style);
+        readChildren(element, style.inherited(), css);
+        m_writer.writeText(mrvQuotationMark(false, --m_quotations), style);
+        return;
+    }
+    // Texts of a drawing stand apart, wherever it puts them.
+    const bool isDrawn = mrvIsDrawn(element);
+    m_writer.writeText(isDrawn ? QStringLiteral(" ") : QString(), style);
+    readChildren(element, style.inherited(), css);
+    m_writer.writeText(isDrawn ? QStringLiteral(" ") : QString(), style);
+}
+
+void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &style,
+                                 const MRVCssElement *css)
+{
+    const QString name = pictureName(element);
+    const bool isObject = element->v.element.tag == GUMBO_TAG_OBJECT;
+    const QString type = mrvAttributeOf(element, "type");
+    if (name.isEmpty()
+        || (isObject && !type.isEmpty() && !type.startsWith(QLatin1String("image/")))) {
+        // Without a picture, its texts are shown.
+        m_writer.writeText(mrvAttributeOf(element, "alt"), style);
+        readChildren(element, style.inherited(), css);
+        return;
+    }
+    QTextImageFormat image;
+    image.setName(name);
+    if (style.width.type() == QTextLength::FixedLength) {
+        image.setWidth(style.width.rawValue());
+    }
+    if (style.height.type() == QTextLength::FixedLength) {
+        image.setHeight(style.height.rawValue());
+    }
+    QString text = mrvAttributeOf(element, "alt");
+    if (isObject) {
+        text = mrvTextIn(element).simplified();
+    }
+    if (!text.isNull()) {
+        image.setProperty(QTextFormat::ImageAltText, text);
+    }
+    const QString title = mrvAttributeOf(element, "title");
+    if (!title.isEmpty()) {
+        image.setProperty(QTextFormat::ImageTitle, title);
+    }
+    if (style.verticalAlignment != QTextCharFormat::AlignNormal) {
+        image.setVerticalAlignment(style.verticalAlignment);
+    }
+    m_writer.writeImage(image, style);
+}
+
+void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &style)
+{
+    const QString type = mrvAttributeOf(element, "type").toLower();
+    if (type == QLatin1String("checkbox")) {
+        m_writer.setMarker(mrvHasAttribute(element, "checked")
+                               ? QTextBlockFormat::MarkerType::Checked
+                               : QTextBlockFormat::MarkerType::Unchecked);
+    } else if (type == QLatin1String("image")) {
+        readPicture(element, style, nullptr);
+    } else if (mrvIsField(element)) {
+        m_writer.writeText(QStringLiteral(" "), style);
+    }
+}
+
+MRVHtmlBox MRVHtmlBuilder::boxOf(const GumboNode *element, const MRVHtmlStyle &style)
+{
+    const MRVHtmlElement &kind = mrvHtmlElement(element);
+    MRVHtmlBox box;
+    box.headingLevel = kind.headingLevel;
+    box.isQuote = kind.isQuote;
+    if (kind.kind == MRVHtmlElement::List) {
+        box.list = listOf(element, style);
+    } else if (kind.kind == MRVHtmlElement::Item && style.display == MRVHtmlStyle::ListItem) {
+        continueList(element, &box);
+    }
+    return box;
+}
+
+std::shared_ptr<MRVHtmlList> MRVHtmlBuilder::listOf(const GumboNode *element,
+                                                    const MRVHtmlStyle &style) const
+{
+    auto list = std::make_shared<MRVHtmlList>();
+    list->format.setStyle(QTextListFormat::Style(style.listStyle));
+    const bool isFlat = style.listStyle == QTextListFormat::ListStyleUndefined
+        && style.paddings[int(MRVHtmlSide::Left)] == 0;
+    const int depth = style.listIndent > 0 ? style.listIndent : m_writer.listDepth() + 1;
+    list->format.setIndent(isFlat ? m_writer.listDepth() : depth);
+    if (style.hasNumberPrefix) {
+        list->format.setNumberPrefix(style.numberPrefix);
+    }
+    if (style.hasNumberSuffix) {
+        list->format.setNumberSuffix(style.numberSuffix);
+    }
+    bool ok = false;
+    const int start = mrvAttributeOf(element, "start").toInt(&ok);
+    if (ok && element->v.element.tag == GUMBO_TAG_OL && start != 1) {
+        list->format.setProperty(MRVTextFormat::ListStartProperty, start);
+        list->number = start;
+    }
+    return list;
+}
+
+// An item of another number than the next one begins another list, as rich text counts items.
+void MRVHtmlBuilder::continueList(const GumboNode *item, MRVHtmlBox *box)
+{
+    box->isItem = true;
+    MRVHtmlList *list = m_writer.list();
+    bool ok = false;
+    const int number = mrvAttributeOf(item, "value").toInt(&ok);
+    if (list && ok && number != list->number) {
+        list->list = nullptr;
+        list->number = number;
+        list->format.setProperty(MRVTextFormat::ListStartProperty, number);
+    }
+}

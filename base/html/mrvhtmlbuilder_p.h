@@ -1,0 +1,69 @@
+#pragma once
+
+#include "html/mrvhtmlelements_p.h"
+#include "html/mrvhtmltree_p.h"
+#include "html/mrvhtmlwriter_p.h"
+
+#include <deque>
+
+/** Builds a document from the tree of a page. */
+class MRVHtmlBuilder
+{
+public:
+    /** @p sheets may be null: the page has none. */
+    MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *sheets, QTextDocument *document);
+
+    void build();
+
+    /** How elements are shown that their styles show in another way than their kind is. */
+    const MRVHtmlDisplays &displays() const { return m_displays; }
+
+private:
+    /** The elements of one parent that have been met, as selectors see them. */
+    struct Siblings
+    {
+        std::deque<MRVCssElement> elements; // stay in place
+        QHash<QString, int> counts; // by name
+    };
+
+    MRVHtmlStyle styleOf(const GumboNode *element, const MRVHtmlStyle &outside,
+                         const MRVCssElement *css) const;
+    void setLanguage(const GumboNode *element, const MRVHtmlStyle &outside,
+                     MRVHtmlStyle *style) const;
+    const MRVCssElement *cssElement(const GumboNode *element, const MRVCssElement *parent,
+                                    Siblings *siblings) const;
+    void prepareDocument(const MRVHtmlStyle &body);
+
+    void readChildren(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readElement(const GumboNode *element, const MRVHtmlStyle &outside,
+                     const MRVCssElement *css);
+    void readShown(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readBlock(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readInline(const GumboNode *element, MRVHtmlStyle style, const MRVCssElement *css);
+    void readPicture(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readInput(const GumboNode *element, const MRVHtmlStyle &style);
+    MRVHtmlBox boxOf(const GumboNode *element, const MRVHtmlStyle &style);
+    std::shared_ptr<MRVHtmlList> listOf(const GumboNode *element, const MRVHtmlStyle &style) const;
+    void continueList(const GumboNode *item, MRVHtmlBox *box);
+
+    struct Table;
+
+    void readTable(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readFrame(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void collectTable(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css,
+                      Table *table);
+    void collectRow(const GumboNode *row, const MRVHtmlStyle &style, const MRVCssElement *css,
+                    Table *table);
+    void writeGrid(const Table &table, const QTextTableFormat &format);
+    void writeAsParagraphs(const Table &table);
+
+    const MRVHtmlTree &m_tree;
+    const MRVStyleSheet *const m_sheets;
+    QTextDocument *const m_document;
+    const bool m_isQtPage; // written by QTextDocument::toHtml()
+    MRVHtmlWriter m_writer;
+    MRVHtmlStyler m_styler;
+    QString m_language; // of the page
+    int m_quotations = 0; // around this place
+    MRVHtmlDisplays m_displays;
+};

@@ -1,0 +1,50 @@
+#include "html/mrvhtmldocument.h"
+
+#include "html/mrvhtmlbuilder_p.h"
+#include "html/mrvhtmlcheck_p.h"
+#include "html/mrvhtmlsheets_p.h"
+#include "input/mrvhtmlreader.h"
+#include "util/mrvfailure.h"
+
+namespace {
+
+// The text of the first element of this kind.
+QString titleOf(const GumboNode *root)
+{
+    for (const GumboNode *child : MRVHtmlChildren(root)) {
+        if (mrvIsElement(child, GUMBO_TAG_HEAD)) {
+            return titleOf(child);
+        }
+        if (mrvIsElement(child, GUMBO_TAG_TITLE)) {
+            return mrvTextIn(child).simplified();
+        }
+    }
+    return QString();
+}
+
+} // namespace
+
+bool MRVHtmlDocument::read(const QString &html, const QString &folder, QTextDocument *document,
+                           MRVHtmlReport *report, QString *error)
+{
+    const QString fault = MRVHtmlReader::whyTooComplex(html);
+    if (!fault.isEmpty()) {
+        return MRV::fail(error, fault);
+    }
+    MRVHtmlReport found;
+    const MRVHtmlTree tree(html);
+    MRVStyleSheet sheets;
+    const bool hasSheets = mrvAddSheets(tree, folder, &sheets, &found);
+    const bool keepsHistory = document->isUndoRedoEnabled();
+    document->clear();
+    document->setUndoRedoEnabled(false);
+    document->setMetaInformation(QTextDocument::DocumentTitle, titleOf(tree.root()));
+    MRVHtmlBuilder builder(tree, hasSheets ? &sheets : nullptr, document);
+    builder.build();
+    document->setUndoRedoEnabled(keepsHistory);
+    if (report) {
+        mrvCheckDocument(tree, builder.displays(), *document, &found);
+        *report = found;
+    }
+    return true;
+}

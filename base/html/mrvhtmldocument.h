@@ -1,0 +1,54 @@
+#pragma once
+
+#include "html/mrvhtmlreport.h"
+#include "util/mrvbase_export.h"
+
+#include <QString>
+#include <QTextDocument>
+
+/**
+ * Reads pages of HTML into documents: what a browser shows of a page, with its looks as far as rich
+ * text has them.
+ *
+ * A page is parsed as browsers do it, so that missing and crossed tags lose nothing. Style sheets
+ * of the page and of files beside it count, lengths of CSS in all its units, 16 pixels to an em
+ * where the page says nothing else. Names of elements become anchors on the next character.
+ * Pictures are named as the page names them and not loaded. Pages that QTextDocument::toHtml() has
+ * written are read as they were.
+ *
+ * Time and memory are linear in the length of the page; scripts do not run, and nothing is fetched
+ * from other machines. GUI thread only.
+ *
+ * @code
+ * QTextDocument page;
+ * MRVHtmlReport report;
+ * if (MRVHtmlDocument::read(QStringLiteral("<h1>One</h1>A <b>bold</b> start."), QString(), &page,
+ *                           &report)) {
+ *     qDebug() << page.blockCount() << "paragraphs," << report.losses.size() << "losses";
+ * }
+ * @endcode
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVHtmlDocument
+{
+public:
+    MRVHtmlDocument() = delete;
+
+    /**
+     * Replaces the content of @p document by that of a page.
+     *
+     * The font of the page's body, with 12 points where it has no size, becomes the document's
+     * default font. Undoing is switched off while reading, which empties its history.
+     *
+     * @param html     a page, or a part of one.
+     * @param folder   absolute; where the names of style sheets count from. With an empty one, no
+     *                 sheet is loaded.
+     * @param document untouched on failure; must not be null.
+     * @param report   if given, receives what was found; untouched on failure.
+     * @param error    if given, receives a translated text on failure; untouched on success.
+     * @return false for a page that MRVHtmlReader::whyTooComplex() refuses.
+     */
+    static bool read(const QString &html, const QString &folder, QTextDocument *document,
+                     MRVHtmlReport *report = nullptr, QString *error = nullptr);
+};

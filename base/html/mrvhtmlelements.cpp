@@ -1,0 +1,294 @@
+#include "html/mrvhtmlelements_p.h"
+
+#include "html/mrvhtmltree_p.h"
+
+#include <QUrl>
+
+namespace {
+
+using Element = MRVHtmlElement;
+using Style = MRVHtmlStyle;
+
+constexpr const char *Paragraph = "margin-top:12px;margin-bottom:12px";
+constexpr const char *Quote =
+    "margin-top:12px;margin-bottom:12px;margin-left:40px;margin-right:40px";
+constexpr const char *Bullets = "list-style-type:disc;margin-top:12px;margin-bottom:12px";
+constexpr const char *Numbers = "list-style-type:decimal;margin-top:12px;margin-bottom:12px";
+constexpr const char *Code = "font-family:monospace";
+constexpr const char *Preformatted =
+    "font-family:monospace;white-space:pre;margin-top:12px;margin-bottom:12px";
+
+// clang-format off
+constexpr struct
+{
+    GumboTag tag;
+    Style::Display display;
+    const char *style;
+    Element::Kind kind = Element::Plain;
+    int headingLevel = 0;
+} rows[] = {
+    {GUMBO_TAG_HTML,       Style::Block,  ""},
+    {GUMBO_TAG_BODY,       Style::Block,  ""},
+    {GUMBO_TAG_HEAD,       Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_TITLE,      Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_BASE,       Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_LINK,       Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_META,       Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_STYLE,      Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_SCRIPT,     Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_TEMPLATE,   Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_NOFRAMES,   Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_NOEMBED,    Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_IFRAME,     Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_DATALIST,   Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_AUDIO,      Style::Hidden, "", Element::Skipped},
+    {GUMBO_TAG_VIDEO,      Style::Hidden, "", Element::Skipped},
+
+    {GUMBO_TAG_H1, Style::Block, "font-size:xx-large;font-weight:bold;margin-top:18px;margin-bottom:12px", Element::Plain, 1},
+    {GUMBO_TAG_H2, Style::Block, "font-size:x-large;font-weight:bold;margin-top:16px;margin-bottom:12px", Element::Plain, 2},
+    {GUMBO_TAG_H3, Style::Block, "font-size:large;font-weight:bold;margin-top:14px;margin-bottom:12px", Element::Plain, 3},
+    {GUMBO_TAG_H4, Style::Block, "font-size:medium;font-weight:bold;margin-top:12px;margin-bottom:12px", Element::Plain, 4},
+    {GUMBO_TAG_H5, Style::Block, "font-size:small;font-weight:bold;margin-top:12px;margin-bottom:4px", Element::Plain, 5},
+    {GUMBO_TAG_H6, Style::Block, "font-size:x-small;font-weight:bold;margin-top:12px;margin-bottom:4px", Element::Plain, 6},
+
+    {GUMBO_TAG_P,          Style::Block,  Paragraph},
+    {GUMBO_TAG_BLOCKQUOTE, Style::Block,  Quote},
+    {GUMBO_TAG_FIGURE,     Style::Block,  Quote},
+    {GUMBO_TAG_PRE,        Style::Block,  Preformatted},
+    {GUMBO_TAG_LISTING,    Style::Block,  Preformatted},
+    {GUMBO_TAG_XMP,        Style::Block,  Preformatted},
+    {GUMBO_TAG_PLAINTEXT,  Style::Block,  Preformatted},
+    {GUMBO_TAG_TEXTAREA,   Style::Block,  Preformatted},
+    {GUMBO_TAG_CENTER,     Style::Block,  "text-align:center"},
+    {GUMBO_TAG_ADDRESS,    Style::Block,  "font-style:italic"},
+    {GUMBO_TAG_DL,         Style::Block,  "margin-top:8px;margin-bottom:8px"},
+    {GUMBO_TAG_DT,         Style::Block,  ""},
+    {GUMBO_TAG_DD,         Style::Block,  "margin-left:30px"},
+    {GUMBO_TAG_DIV,        Style::Block,  ""},
+    {GUMBO_TAG_ARTICLE,    Style::Block,  ""},
+    {GUMBO_TAG_ASIDE,      Style::Block,  ""},
+    {GUMBO_TAG_DETAILS,    Style::Block,  ""},
+    {GUMBO_TAG_SUMMARY,    Style::Block,  ""},
+    {GUMBO_TAG_FIELDSET,   Style::Block,  ""},
+    {GUMBO_TAG_LEGEND,     Style::Block,  ""},
+    {GUMBO_TAG_FIGCAPTION, Style::Block,  ""},
+    {GUMBO_TAG_FOOTER,     Style::Block,  ""},
+    {GUMBO_TAG_FORM,       Style::Block,  ""},
+    {GUMBO_TAG_HEADER,     Style::Block,  ""},
+    {GUMBO_TAG_HGROUP,     Style::Block,  ""},
+    {GUMBO_TAG_MAIN,       Style::Block,  ""},
+    {GUMBO_TAG_NAV,        Style::Block,  ""},
+    {GUMBO_TAG_SECTION,    Style::Block,  ""},
+    {GUMBO_TAG_OPTGROUP,   Style::Block,  ""},
+    {GUMBO_TAG_OPTION,     Style::Block,  ""},
+    {GUMBO_TAG_CAPTION,    Style::Block,  "text-align:center"},
+    {GUMBO_TAG_UL,         Style::Block,  Bullets, Element::List},
+    {GUMBO_TAG_OL,         Style::Block,  Numbers, Element::List},
+    {GUMBO_TAG_MENU,       Style::Block,  Bullets, Element::List},
+    {GUMBO_TAG_DIR,        Style::Block,  Bullets, Element::List},
+    {GUMBO_TAG_LI,         Style::ListItem, "", Element::Item},
+    {GUMBO_TAG_TABLE,      Style::Block,  "", Element::Table},
+    {GUMBO_TAG_HR,         Style::Block,  "", Element::Rule},
+
+    {GUMBO_TAG_BR,         Style::Inline, "", Element::LineEnd},
+    {GUMBO_TAG_IMG,        Style::Inline, "", Element::Picture},
+    {GUMBO_TAG_IMAGE,      Style::Inline, "", Element::Picture},
+    {GUMBO_TAG_OBJECT,     Style::Inline, "", Element::Picture},
+    {GUMBO_TAG_EMBED,      Style::Inline, "", Element::Picture},
+    {GUMBO_TAG_INPUT,      Style::Inline, "", Element::Input},
+    {GUMBO_TAG_Q,          Style::Inline, "", Element::Quotation},
+
+    {GUMBO_TAG_B,          Style::Inline, "font-weight:bold"},
+    {GUMBO_TAG_STRONG,     Style::Inline, "font-weight:bold"},
+    {GUMBO_TAG_TH,         Style::Block,  "font-weight:bold;text-align:center"},
+    {GUMBO_TAG_TD,         Style::Block,  ""},
+    {GUMBO_TAG_I,          Style::Inline, "font-style:italic"},
+    {GUMBO_TAG_EM,         Style::Inline, "font-style:italic"},
+    {GUMBO_TAG_CITE,       Style::Inline, "font-style:italic"},
+    {GUMBO_TAG_VAR,        Style::Inline, "font-style:italic"},
+    {GUMBO_TAG_DFN,        Style::Inline, "font-style:italic"},
+    {GUMBO_TAG_U,          Style::Inline, "text-decoration:underline"},
+    {GUMBO_TAG_INS,        Style::Inline, "text-decoration:underline"},
+    {GUMBO_TAG_S,          Style::Inline, "text-decoration:line-through"},
+    {GUMBO_TAG_STRIKE,     Style::Inline, "text-decoration:line-through"},
+    {GUMBO_TAG_DEL,        Style::Inline, "text-decoration:line-through"},
+    {GUMBO_TAG_SMALL,      Style::Inline, "font-size:smaller"},
+    {GUMBO_TAG_BIG,        Style::Inline, "font-size:larger"},
+    {GUMBO_TAG_SUB,        Style::Inline, "vertical-align:sub"},
+    {GUMBO_TAG_SUP,        Style::Inline, "vertical-align:super"},
+    {GUMBO_TAG_CODE,       Style::Inline, Code},
+    {GUMBO_TAG_TT,         Style::Inline, Code},
+    {GUMBO_TAG_KBD,        Style::Inline, Code},
+    {GUMBO_TAG_SAMP,       Style::Inline, Code},
+    {GUMBO_TAG_MARK,       Style::Inline, "background-color:#ffff00"},
+    {GUMBO_TAG_NOBR,       Style::Inline, "white-space:nowrap"},
+};
+// clang-format on
+
+QVector<Element> elementTable()
+{
+    QVector<Element> table(GUMBO_TAG_LAST + 1);
+    for (const auto &row : rows) {
+        Element &element = table[row.tag];
+        element.kind = row.kind;
+        element.headingLevel = row.headingLevel;
+        element.isQuote = row.tag == GUMBO_TAG_BLOCKQUOTE;
+        element.display = row.display;
+        element.declarations = MRVStyleSheet::parseDeclarations(QString::fromLatin1(row.style));
+    }
+    return table;
+}
+
+// Attributes that say the same as a property of CSS with their value.
+constexpr struct
+{
+    const char *attribute;
+    const char *property;
+} hints[] = {
+    {"bgcolor", "background-color"},
+    {"color", "color"},
+    {"face", "font-family"},
+    {"dir", "direction"},
+};
+
+// Lengths of attributes have no unit.
+QString lengthOf(const QString &value)
+{
+    const QString length = value.trimmed();
+    return length.endsWith(u'%') ? length : length + QLatin1String("px");
+}
+
+// What the attribute "type" of a list means.
+const char *markerOf(const QString &type)
+{
+    constexpr struct
+    {
+        const char *type;
+        const char *marker;
+    } types[] = {{"1", "decimal"},     {"a", "lower-alpha"}, {"A", "upper-alpha"},
+                 {"i", "lower-roman"}, {"I", "upper-roman"}, {"disc", "disc"},
+                 {"circle", "circle"}, {"square", "square"}, {"none", "none"}};
+    for (const auto &row : types) {
+        const bool isLetter = row.type[1] == 0;
+        const auto sensitivity = isLetter ? Qt::CaseSensitive : Qt::CaseInsensitive;
+        if (type.compare(QLatin1String(row.type), sensitivity) == 0) {
+            return row.marker;
+        }
+    }
+    return "";
+}
+
+// 3 is the size of the text around; a sign counts from there.
+QString fontSizeOf(const QString &size)
+{
+    constexpr const char *words[] = {"x-small", "small",    "medium",   "large",
+                                     "x-large", "xx-large", "xxx-large"};
+    const QString text = size.trimmed();
+    bool ok = false;
+    const int number = text.toInt(&ok) + (text.startsWith(u'+') || text.startsWith(u'-') ? 3 : 0);
+    return ok ? QString::fromLatin1(words[qBound(1, number, 7) - 1]) : QString();
+}
+
+void appendHint(const QByteArray &attribute, const QString &value, GumboTag tag,
+                QVector<MRVCssDeclaration> *declarations)
+{
+    const auto add = [declarations](const char *property, const QString &meaning) {
+        declarations->append({QString::fromLatin1(property), meaning.toLower(), false});
+    };
+    for (const auto &hint : hints) {
+        if (attribute == hint.attribute) {
+            declarations->append({QString::fromLatin1(hint.property), value, false});
+        }
+    }
+    if (attribute == "align") {
+        const bool floats = tag == GUMBO_TAG_IMG || tag == GUMBO_TAG_TABLE;
+        add(floats ? "float" : "text-align", value);
+    } else if (attribute == "valign") {
+        add("vertical-align", value);
+    } else if (attribute == "hidden") {
+        add("display", QStringLiteral("none"));
+    } else if (attribute == "width" || attribute == "height") {
+        add(attribute.constData(), lengthOf(value));
+    } else if (attribute == "type" && tag != GUMBO_TAG_INPUT) {
+        add("list-style-type", QString::fromLatin1(markerOf(value)));
+    } else if (attribute == "size" && tag == GUMBO_TAG_FONT) {
+        add("font-size", fontSizeOf(value));
+    }
+}
+
+} // namespace
+
+const MRVHtmlElement &mrvHtmlElement(const GumboNode *element)
+{
+    static const QVector<Element> table = elementTable();
+    if (element->v.element.tag_namespace == GUMBO_NAMESPACE_HTML) {
+        return table.at(element->v.element.tag);
+    }
+    // Of pictures and formulas, the texts are shown; these hold none of them.
+    constexpr const char *unseen[] = {"style", "script", "title", "desc", "metadata", "annotation"};
+    const QString name = mrvNameOf(element);
+    const bool isUnseen = std::any_of(std::begin(unseen), std::end(unseen), [&](const char *word) {
+        return name == QLatin1String(word);
+    });
+    return table.at(isUnseen ? GUMBO_TAG_SCRIPT : GUMBO_TAG_UNKNOWN);
+}
+
+QVector<MRVCssDeclaration> mrvHtmlHints(const GumboNode *element)
+{
+    QVector<MRVCssDeclaration> declarations;
+    const GumboVector &attributes = element->v.element.attributes;
+    for (unsigned i = 0; i < attributes.length; ++i) {
+        const auto *attribute = static_cast<const GumboAttribute *>(attributes.data[i]);
+        appendHint(attribute->name, QString::fromUtf8(attribute->value), element->v.element.tag,
+                   &declarations);
+    }
+    return declarations;
+}
+
+QString mrvShownText(const QString &text)
+{
+    const auto isStructure = [](QChar c) {
+        return c == QChar::ObjectReplacementCharacter || (c >= QChar(0xfdd0) && c <= QChar(0xfdef))
+            || c == QChar::ParagraphSeparator;
+    };
+    if (std::none_of(text.cbegin(), text.cend(), isStructure)) {
+        return text;
+    }
+    QString plain;
+    for (const QChar character : text) {
+        if (character == QChar::ParagraphSeparator) {
+            plain += QChar::LineSeparator;
+        } else if (!isStructure(character)) {
+            plain += character;
+        }
+    }
+    return plain;
+}
+
+QString mrvQuotationMark(bool opens, int depth)
+{
+    constexpr ushort marks[2][2] = {{0x2019, 0x2018}, {0x201d, 0x201c}};
+    return QChar(marks[depth % 2 == 0][opens]);
+}
+
+QString mrvAddressOf(const GumboNode *element)
+{
+    if (!mrvIsElement(element, GUMBO_TAG_A)) {
+        return QString();
+    }
+    const QString address = mrvAttributeOf(element, "href").trimmed();
+    return address.startsWith(u'#') ? QUrl::fromPercentEncoding(address.toUtf8()) : address;
+}
+
+bool mrvIsDrawn(const GumboNode *element)
+{
+    const QString name = mrvNameOf(element);
+    return element->v.element.tag_namespace == GUMBO_NAMESPACE_SVG
+        && (name == QLatin1String("svg") || name == QLatin1String("text"));
+}
+
+bool mrvIsField(const GumboNode *element)
+{
+    return mrvIsElement(element, GUMBO_TAG_INPUT)
+        && mrvAttributeOf(element, "type").compare(QLatin1String("hidden"), Qt::CaseInsensitive);
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "html/mrvhtmlstyle_p.h"
+
+#include <QHash>
+
+#include <gumbo.h>
+
+/** How elements are shown where that is not how their kind is. */
+using MRVHtmlDisplays = QHash<const GumboNode *, MRVHtmlStyle::Display>;
+
+/** What HTML says about a kind of elements. */
+struct MRVHtmlElement
+{
+    enum Kind {
+        Plain, ///< shown as its style says
+        Skipped, ///< never shown: what browsers run, keep, or put elsewhere
+        LineEnd,
+        Picture,
+        Rule,
+        Table,
+        List,
+        Item,
+        Input,
+        Quotation,
+    };
+
+    Kind kind = Plain;
+    int headingLevel = 0;
+    bool isQuote = false;
+    MRVHtmlStyle::Display display = MRVHtmlStyle::Inline;
+    /** Its looks where no sheet says anything. */
+    QVector<MRVCssDeclaration> declarations;
+};
+
+const MRVHtmlElement &mrvHtmlElement(const GumboNode *element);
+
+/** What attributes such as "align" and "bgcolor" say about an element's looks. */
+QVector<MRVCssDeclaration> mrvHtmlHints(const GumboNode *element);
+
+/**
+ * A text without the characters with which documents mark their own structure, and with line ends
+ * in place of ends of paragraphs.
+ */
+QString mrvShownText(const QString &text);
+
+/** The mark before or after an element q; @p depth counts those around it. */
+QString mrvQuotationMark(bool opens, int depth);
+
+/**
+ * The address of a link; empty for other elements. One within the page is decoded, as names of
+ * elements are not encoded.
+ */
+QString mrvAddressOf(const GumboNode *element);
+
+/** Whether an element is a drawing, or a text in one. */
+bool mrvIsDrawn(const GumboNode *element);
+
+/** Whether an element is a field to fill in, which separates the words beside it. */
+bool mrvIsField(const GumboNode *element);

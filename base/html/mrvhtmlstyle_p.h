@@ -1,0 +1,95 @@
+#pragma once
+
+#include "css/mrvstylesheet.h"
+
+#include <QBrush>
+#include <QTextFormat>
+#include <QTextFrameFormat>
+#include <QTextListFormat>
+
+/** The sides of a box, as CSS orders them. */
+enum class MRVHtmlSide { Top = 0, Right = 1, Bottom = 2, Left = 3 };
+
+/** A border of one side of a table or a cell. */
+struct MRVHtmlBorder
+{
+    qreal width = 0;
+    QTextFrameFormat::BorderStyle style = QTextFrameFormat::BorderStyle_None;
+    QBrush brush{Qt::black};
+
+    bool isVisible() const { return width > 0 && style != QTextFrameFormat::BorderStyle_None; }
+};
+
+/**
+ * What the sheets, the attributes and the kind of an element say about its looks, in the terms of
+ * rich text. Lengths are in pixels.
+ */
+struct MRVHtmlStyle
+{
+    enum Display { Inline, Block, ListItem, Hidden };
+    enum WhiteSpace { Collapsed, Unwrapped, Preformatted, PreformattedWrapped, PreformattedLines };
+
+    // Inherited from the element outside.
+    QTextCharFormat text;
+    qreal fontPixels = 16;
+    Qt::Alignment alignment;
+    Qt::LayoutDirection direction = Qt::LayoutDirectionAuto;
+    qreal textIndent = 0;
+    qreal lineHeight = 0;
+    int lineHeightType = QTextBlockFormat::SingleHeight;
+    WhiteSpace whiteSpace = Collapsed;
+    int listStyle = QTextListFormat::ListDisc; ///< ListStyleUndefined: without marks
+    bool invisible = false;
+    QString language;
+
+    // The element's own.
+    Display display = Inline;
+    qreal margins[4] = {0, 0, 0, 0}; ///< by MRVHtmlSide
+    qreal paddings[4] = {-1, -1, -1, -1}; ///< by MRVHtmlSide; -1: not said
+    MRVHtmlBorder borders[4]; ///< by MRVHtmlSide
+    QBrush background;
+    bool breaksBefore = false;
+    bool breaksAfter = false;
+    QTextFrameFormat::Position position = QTextFrameFormat::InFlow;
+    QTextLength width; ///< variable: not said
+    QTextLength height;
+    QTextCharFormat::VerticalAlignment verticalAlignment = QTextCharFormat::AlignNormal;
+    bool collapsesBorders = false;
+    // What Qt's own pages say.
+    int blockIndent = 0;
+    int listIndent = 0;
+    int userState = -1;
+    QString numberPrefix;
+    QString numberSuffix;
+    bool hasNumberPrefix = false;
+    bool hasNumberSuffix = false;
+    bool isEmptyParagraph = false;
+    QString tableType; ///< "root", "frame" or empty
+
+    qreal margin(MRVHtmlSide side) const { return margins[int(side)]; }
+
+    /** The style that an element inside of this one begins with: what is inherited. */
+    MRVHtmlStyle inherited() const;
+};
+
+/** Applies declarations to styles. */
+class MRVHtmlStyler
+{
+public:
+    /** What 1 rem is; the element html decides. */
+    void setRootPixels(qreal pixels) { m_rootPixels = pixels; }
+    /** The weights of fonts are Qt's eighths of those of CSS, as in pages that Qt has written. */
+    void setQtWeights(bool are) { m_qtWeights = are; }
+
+    /**
+     * Applies declarations, weakest first, to a style that holds what is inherited.
+     *
+     * @param outside the style of the element outside.
+     */
+    void apply(const QVector<MRVCssDeclaration> &declarations, const MRVHtmlStyle &outside,
+               MRVHtmlStyle *style) const;
+
+private:
+    qreal m_rootPixels = 16;
+    bool m_qtWeights = false;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <gumbo.h>
+
+/**
+ * The tree that an HTML5 parser makes of a page, as a browser would.
+ *
+ * The page has to be one that MRVHtmlReader::whyTooComplex() does not refuse. Offsets and lines of
+ * nodes are those of source().
+ */
+class MRVHtmlTree
+{
+    Q_DISABLE_COPY(MRVHtmlTree)
+
+public:
+    explicit MRVHtmlTree(const QString &html);
+    ~MRVHtmlTree();
+
+    /** The document node. */
+    const GumboNode *document() const { return m_output->document; }
+    /** The element html; a page without one gets one. */
+    const GumboNode *root() const { return m_output->root; }
+    /** The page in UTF-8, as it was parsed. */
+    const QByteArray &source() const { return m_source; }
+
+private:
+    QByteArray m_source; // the tree points into it
+    GumboOutput *m_output;
+};
+
+/** Whether @p node is an element, templates included. */
+bool mrvIsElement(const GumboNode *node);
+/** Whether @p node is an element of HTML with this tag. */
+bool mrvIsElement(const GumboNode *node, GumboTag tag);
+/** The text of a text node. */
+QString mrvTextOf(const GumboNode *node);
+/** All text in an element, scripts and comments apart. */
+QString mrvTextIn(const GumboNode *element);
+/** The name of an element in lower case, "w:sdt" for one that HTML does not know. */
+QString mrvNameOf(const GumboNode *element);
+/** The value of an attribute; null where it is missing. */
+QString mrvAttributeOf(const GumboNode *element, const char *name);
+bool mrvHasAttribute(const GumboNode *element, const char *name);
+/** The line of the source that a node begins in, from 1. */
+int mrvLineOf(const GumboNode *node);
+
+/** The children of an element, in order, for range-based loops. */
+class MRVHtmlChildren
+{
+public:
+    explicit MRVHtmlChildren(const GumboNode *element);
+
+    const GumboNode *const *begin() const { return m_begin; }
+    const GumboNode *const *end() const { return m_begin + m_count; }
+
+private:
+    const GumboNode *const *m_begin = nullptr;
+    unsigned m_count = 0;
+};

@@ -1,0 +1,511 @@
+#include "html/mrvhtmlwriter_p.h"
+
+#include "html/mrvhtmlelements_p.h"
+#include "textformat/mrvtextformat.h"
+
+namespace {
+
+bool isSpace(QChar character)
+{
+    return character == u' ' || (character >= u'\t' && character <= u'\r' && character != u'\v');
+}
+
+QTextBlockFormat lookOf(const MRVHtmlStyle &style)
+{
+    QTextBlockFormat format;
+    if (style.alignment) {
+        format.setAlignment(style.alignment & ~Qt::AlignAbsolute);
+    }
+    if (style.direction != Qt::LayoutDirectionAuto) {
+        format.setLayoutDirection(style.direction);
+    }
+    if (style.textIndent != 0) {
+        format.setTextIndent(style.textIndent);
+    }
+    if (style.lineHeightType != QTextBlockFormat::SingleHeight) {
+        format.setLineHeight(style.lineHeight, style.lineHeightType);
+    }
+    if (style.blockIndent > 0) {
+        format.setIndent(style.blockIndent);
+    }
+    if (style.whiteSpace == MRVHtmlStyle::Preformatted) {
+        format.setNonBreakableLines(true);
+    }
+    if (style.userState >= 0) {
+        format.setProperty(QTextFormat::UserProperty, style.userState);
+    }
+    return format;
+}
+
+} // namespace
+
+MRVHtmlWriter::MRVHtmlWriter(QTextDocument *document)
+    : m_document(document)
+    , m_cursor(document)
+{
+    m_boxes.append(Box());
+    m_cursor.beginEditBlock();
+}
+
+void MRVHtmlWriter::enter(const MRVHtmlStyle &style, const MRVHtmlBox &box)
+{
+    endParagraph();
+    const Box &outside = m_boxes.constLast();
+    Box inside;
+    inside.style = style;
+    inside.box = box;
+    inside.left = outside.left + style.margin(MRVHtmlSide::Left);
+    inside.right = outside.right + style.margin(MRVHtmlSide::Right);
+    inside.top = style.margin(MRVHtmlSide::Top);
+    inside.headingLevel = box.headingLevel ? box.headingLevel : outside.headingLevel;
+    inside.quoteLevel = outside.quoteLevel + (box.isQuote ? 1 : 0);
+    inside.listDepth = outside.listDepth + (box.list ? 1 : 0);
+    inside.list = box.list ? box.list : outside.list;
+    inside.background =
+        style.background.style() == Qt::NoBrush ? outside.background : style.background;
+    inside.breaksBefore = style.breaksBefore;
+    inside.marker = box.marker;
+    m_boxes.append(inside);
+}
+
+void MRVHtmlWriter::leave()
+{
+    Box &box = m_boxes.last();
+    const bool isNumbered =
+        box.box.isItem && box.list && box.list->format.style() <= QTextListFormat::ListDecimal;
+    if (isNumbered && !box.isItemStarted) {
+        openParagraph(); // the numbers of the items after it count it
+    }
+    endParagraph();
+    const qreal bottom = box.style.margin(MRVHtmlSide::Bottom);
+    if (box.isStarted && m_place == Place::Closed
+        && bottom > m_cursor.blockFormat().bottomMargin()) {
+        QTextBlockFormat format = m_cursor.blockFormat();
+        format.setBottomMargin(bottom);
+        m_cursor.setBlockFormat(format);
+    }
+    m_breakIsPending = m_breakIsPending || box.style.breaksAfter;
+    m_boxes.removeLast();
+}
+
+void MRVHtmlWriter::endParagraph()
+{
+    if (m_place != Place::Open && m_lineEnds == 0) {
+        m_spaceIsPending = false;
+        return;
+    }
+    if (m_lineEnds > 0) {
+        // The last one ends the line that the paragraph's end ends, too.
+        const bool isEmpty = m_place != Place::Open;
+        m_lineEnds -= m_isQtPage ? 0 : 1;
+        if (isEmpty) {
+            openParagraph();
+        }
+        writePendingLineEnds();
+    }
+    flush();
+    m_place = Place::Closed;
+    m_spaceIsPending = false;
+    m_atLineStart = true;
+}
+
+void MRVHtmlWriter::writeEmptyParagraph(const MRVHtmlStyle &style)
+{
+    Q_UNUSED(style)
+    if (m_place != Place::Open) {
+        openParagraph();
+    }
+    m_lineEnds = 0;
+    endParagraph();
+}
+
+// Gives the first paragraph of each element around it what is the element's.
+void MRVHtmlWriter::startBoxes(QTextBlockFormat *format)
+{
+    qreal top = 0;
+    bool breaks = m_breakIsPending;
+    m_breakIsPending = false;
+    for (int i = m_boxes.size() - 1; i >= 0 && !m_boxes.at(i).isStarted; --i) {
+        Box &box = m_boxes[i];
+        box.isStarted = true;
+        top = qMax(top, box.top);
+        breaks = breaks || box.breaksBefore;
+    }
+    if (top > 0) {
+        format->setTopMargin(top);
+    }
+    if (breaks) {
+        format->setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    }
+}
+
+QTextBlockFormat MRVHtmlWriter::paragraphFormat()
+{
+    const Box &box = m_boxes.constLast();
+    QTextBlockFormat format = lookOf(box.style);
+    startBoxes(&format);
+    const qreal bottom = box.style.margin(MRVHtmlSide::Bottom);
+    if (bottom > 0) {
+        format.setBottomMargin(bottom);
+    }
+    if (box.left != 0) {
+        format.setLeftMargin(box.left);
+    }
+    if (box.right != 0) {
+        format.setRightMargin(box.right);
+    }
+    if (box.headingLevel > 0) {
+        format.setHeadingLevel(box.headingLevel);
+        format.setProperty(MRVTextFormat::HeadingLevelProperty, box.headingLevel);
+    }
+    if (box.quoteLevel > 0) {
+        format.setProperty(QTextFormat::BlockQuoteLevel, box.quoteLevel);
+    }
+    if (box.background.style() != Qt::NoBrush) {
+        format.setBackground(box.background);
+    }
+    return format;
+}
+
+// Whether a paragraph is an item of a list. One without a mark is indented as items are.
+bool MRVHtmlWriter::joinList(QTextBlockFormat *format)
+{
+    const Box &last = m_boxes.constLast();
+    if (last.listDepth == 0) {
+        return false;
+    }
+    int at = m_boxes.size() - 1;
+    while (at > 0 && !m_boxes.at(at).box.isItem && !m_boxes.at(at).box.list) {
+        --at;
+    }
+    Box &box = m_boxes[at];
+    MRVHtmlList &list = *last.list;
+    if (!box.box.isItem || box.isItemStarted
+        || list.format.style() == QTextListFormat::ListStyleUndefined) {
+        box.isItemStarted = box.isItemStarted || box.box.isItem;
+        if (list.format.indent() > 0) {
+            format->setIndent(list.format.indent());
+        }
+        return false;
+    }
+    box.isItemStarted = true;
+    if (box.marker != QTextBlockFormat::MarkerType::NoMarker) {
+        format->setMarker(box.marker);
+    }
+    ++list.number;
+    return true;
+}
+
+void MRVHtmlWriter::setParagraphFormat(const QTextBlockFormat &format, const QTextCharFormat &text)
+{
+    if (m_place == Place::Closed) {
+        m_cursor.insertBlock(format, text);
+    } else {
+        m_cursor.setBlockFormat(format);
+        if (!m_isCellStart) {
+            m_cursor.setBlockCharFormat(text);
+        }
+    }
+    m_isCellStart = false;
+}
+
+void MRVHtmlWriter::openParagraph()
+{
+    flush();
+    QTextBlockFormat format = paragraphFormat();
+    const std::shared_ptr<MRVHtmlList> list = m_boxes.constLast().list;
+    const bool isItem = joinList(&format);
+    setParagraphFormat(format, m_boxes.constLast().style.text);
+    if (isItem && list->list) {
+        list->list->add(m_cursor.block());
+    } else if (isItem) {
+        list->list = m_cursor.createList(list->format);
+    }
+    m_place = Place::Open;
+    m_atLineStart = true;
+}
+
+void MRVHtmlWriter::writeText(const QString &text, const MRVHtmlStyle &style)
+{
+    if (style.invisible) {
+        return;
+    }
+    const QString plain = mrvShownText(text);
+    if (style.whiteSpace == MRVHtmlStyle::Collapsed
+        || style.whiteSpace == MRVHtmlStyle::Unwrapped) {
+        writeCollapsed(plain, style);
+    } else {
+        writePreformatted(plain, style);
+    }
+}
+
+void MRVHtmlWriter::writeCollapsed(const QString &text, const MRVHtmlStyle &style)
+{
+    QString visible;
+    visible.reserve(text.size());
+    for (const QChar character : text) {
+        if (!isSpace(character)) {
+            if (m_spaceIsPending && !visible.isEmpty()) {
+                visible += u' ';
+                m_spaceIsPending = false;
+            } else if (visible.isEmpty()) {
+                prepareContent();
+            }
+            visible += character;
+        } else if (!m_spaceIsPending && (!visible.isEmpty() || !m_atLineStart)) {
+            m_spaceIsPending = true;
+            m_spaceFormat = style.text;
+        }
+    }
+    append(visible, style.text);
+}
+
+// Line ends are paragraphs in <pre>, whose lines Qt does not break, and line ends elsewhere.
+void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &style)
+{
+    QString lines = text;
+    if (m_isQtPage && style.whiteSpace == MRVHtmlStyle::PreformattedWrapped) {
+        lines.remove(u'\n'); // between tags; those of the text are elements
+    }
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    if (style.whiteSpace == MRVHtmlStyle::PreformattedLines) {
+        const QStringList parts = lines.split(u'\n');
+        for (int i = 0; i < parts.size(); ++i) {
+            if (i > 0) {
+                writeLineEnd(style);
+            }
+            writeCollapsed(parts.at(i), style);
+        }
+        return;
+    }
+    if (m_place != Place::Open && lines.trimmed().isEmpty()) {
+        return; // between the elements of a page that Qt has written
+    }
+    for (int begin = 0; begin <= lines.size();) {
+        const int end = lines.indexOf(u'\n', begin);
+        const QString line = lines.mid(begin, end < 0 ? -1 : end - begin);
+        if (!line.isEmpty()) {
+            prepareContent();
+            append(line, style.text);
+        }
+        if (end < 0) {
+            break;
+        }
+        writeLineEnd(style);
+        begin = end + 1;
+    }
+}
+
+void MRVHtmlWriter::writeLineEnd(const MRVHtmlStyle &style)
+{
+    if (style.whiteSpace == MRVHtmlStyle::Preformatted) {
+        if (m_place != Place::Open) {
+            openParagraph();
+        }
+        endParagraph();
+        return;
+    }
+    m_spaceIsPending = false;
+    m_atLineStart = true;
+    ++m_lineEnds;
+    m_lineEndFormat = style.text;
+}
+
+// Writes what was put off until something is shown: the paragraph, line ends, white space.
+void MRVHtmlWriter::prepareContent()
+{
+    if (m_place != Place::Open) {
+        openParagraph();
+    }
+    writePendingLineEnds();
+    if (m_spaceIsPending && !m_atLineStart) {
+        m_spaceIsPending = false;
+        append(QStringLiteral(" "), m_spaceFormat);
+    }
+    m_spaceIsPending = false;
+    m_atLineStart = false;
+}
+
+void MRVHtmlWriter::writePendingLineEnds()
+{
+    if (m_lineEnds > 0) {
+        append(QString(m_lineEnds, QChar::LineSeparator), m_lineEndFormat);
+        m_lineEnds = 0;
+    }
+}
+
+QTextCharFormat MRVHtmlWriter::withNames(const QTextCharFormat &format)
+{
+    QTextCharFormat named = format;
+    named.setAnchor(true);
+    // As one text where there is one: Qt looks formats up by a hash, and all lists of names have
+    // the same one, so that many of them take quadratic time.
+    if (m_names.size() == 1) {
+        named.setProperty(QTextFormat::AnchorName, m_names.constFirst());
+    } else {
+        named.setAnchorNames(m_names);
+    }
+    m_names.clear();
+    return named;
+}
+
+void MRVHtmlWriter::append(const QString &text, const QTextCharFormat &format)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    QString rest = text;
+    if (!m_names.isEmpty() && text.at(0) != QChar::LineSeparator && text != QLatin1String(" ")) {
+        flush();
+        const int length = text.size() > 1 && text.at(0).isHighSurrogate() ? 2 : 1;
+        m_cursor.insertText(text.left(length), withNames(format));
+        rest.remove(0, length);
+    }
+    if (!m_text.isEmpty() && m_textFormat != format) {
+        flush();
+    }
+    m_text += rest;
+    m_textFormat = format;
+}
+
+void MRVHtmlWriter::flush()
+{
+    if (!m_text.isEmpty()) {
+        m_cursor.insertText(m_text, m_textFormat);
+        m_text.clear();
+    }
+}
+
+void MRVHtmlWriter::writeImage(const QTextImageFormat &image, const MRVHtmlStyle &style)
+{
+    prepareContent();
+    flush();
+    QTextImageFormat format = image;
+    if (style.text.isAnchor()) {
+        format.setAnchor(true);
+        format.setAnchorHref(style.text.anchorHref());
+    }
+    if (!m_names.isEmpty()) {
+        format.merge(withNames(QTextCharFormat()));
+    }
+    if (style.position == QTextFrameFormat::InFlow) {
+        m_cursor.insertImage(format);
+    } else {
+        m_cursor.insertImage(format, style.position);
+    }
+}
+
+void MRVHtmlWriter::writeRule(const QTextLength &width, const MRVHtmlStyle &style)
+{
+    enter(style, MRVHtmlBox());
+    openParagraph();
+    QTextBlockFormat format = m_cursor.blockFormat();
+    format.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth, width);
+    m_cursor.setBlockFormat(format);
+    leave();
+}
+
+void MRVHtmlWriter::addName(const QString &name)
+{
+    if (!name.isEmpty() && !m_names.contains(name)) {
+        m_names.append(name);
+    }
+}
+
+void MRVHtmlWriter::setMarker(QTextBlockFormat::MarkerType marker)
+{
+    if (m_place == Place::Open) {
+        flush();
+        QTextBlockFormat format = m_cursor.blockFormat();
+        format.setMarker(marker);
+        m_cursor.setBlockFormat(format);
+    } else {
+        for (int i = m_boxes.size() - 1; i > 0; --i) {
+            if (m_boxes.at(i).box.isItem) {
+                m_boxes[i].marker = marker;
+                break;
+            }
+        }
+    }
+}
+
+QTextTable *MRVHtmlWriter::writeTable(int rows, int columns, const QTextTableFormat &format)
+{
+    endParagraph();
+    QTextTableFormat placed = format;
+    QTextBlockFormat first;
+    startBoxes(&first);
+    if (first.pageBreakPolicy() != QTextFormat::PageBreak_Auto) {
+        placed.setPageBreakPolicy(first.pageBreakPolicy());
+    }
+    return m_cursor.insertTable(rows, columns, placed);
+}
+
+// Lists, margins and backgrounds of the outside do not count in here.
+void MRVHtmlWriter::startInside(const MRVHtmlStyle &style)
+{
+    Box box;
+    box.style = style.inherited();
+    m_boxes.append(box);
+    m_place = Place::Fresh;
+    m_atLineStart = true;
+}
+
+void MRVHtmlWriter::enterCell(const QTextTableCell &cell, const MRVHtmlStyle &style)
+{
+    startInside(style);
+    m_cursor = cell.firstCursorPosition();
+    m_isCellStart = true;
+}
+
+void MRVHtmlWriter::leaveCell()
+{
+    endParagraph();
+    m_boxes.removeLast();
+    m_isCellStart = false;
+}
+
+void MRVHtmlWriter::leaveTable(const QTextFrame *table)
+{
+    m_cursor.setPosition(table->lastPosition() + 1);
+    m_place = Place::Fresh;
+    m_isCellStart = false;
+    m_atLineStart = true;
+}
+
+void MRVHtmlWriter::enterFrame(const QTextFrameFormat &format, const MRVHtmlStyle &style)
+{
+    endParagraph();
+    m_cursor.insertFrame(format);
+    startInside(style);
+}
+
+void MRVHtmlWriter::leaveFrame()
+{
+    endParagraph();
+    m_boxes.removeLast();
+    leaveTable(m_cursor.currentFrame());
+}
+
+void MRVHtmlWriter::finish()
+{
+    endParagraph();
+    // Names after the last character have none to go to but that.
+    const auto isShown = [this](int position) {
+        const QChar character = m_document->characterAt(position);
+        return character == QChar::ObjectReplacementCharacter
+            || !mrvShownText(character).trimmed().isEmpty();
+    };
+    int last = m_cursor.position() - 1;
+    while (!m_names.isEmpty() && last >= 0 && !isShown(last)) {
+        --last;
+    }
+    if (!m_names.isEmpty() && last >= 0) {
+        const bool isPair = m_document->characterAt(last).isLowSurrogate();
+        m_cursor.setPosition(isPair ? last - 1 : last);
+        m_cursor.setPosition(last + 1, QTextCursor::KeepAnchor);
+        m_names = m_cursor.charFormat().anchorNames() + m_names;
+        m_cursor.mergeCharFormat(withNames(QTextCharFormat()));
+    }
+    m_cursor.endEditBlock();
+}

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "html/mrvhtmlstyle_p.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+#include <QTextTable>
+#include <QVector>
+
+#include <memory>
+
+/** A list of a page; its items share it. */
+struct MRVHtmlList
+{
+    QTextListFormat format; ///< without a style: items have no marks
+    QTextList *list = nullptr; ///< once there is an item
+    int number = 1; ///< of the next item
+};
+
+/** What a block-level element gives to the paragraphs in it, beside its style. */
+struct MRVHtmlBox
+{
+    int headingLevel = 0; ///< 0: none
+    bool isQuote = false;
+    bool isItem = false; ///< its first paragraph is an item of the list
+    QTextBlockFormat::MarkerType marker = QTextBlockFormat::MarkerType::NoMarker;
+    std::shared_ptr<MRVHtmlList> list; ///< null: that of the box outside
+};
+
+/**
+ * Writes what a page shows to the end of a document, or of one of its cells.
+ *
+ * White space is what CSS makes of it. A paragraph begins with the first thing that it shows, so
+ * that elements without content leave nothing. A document has one writer; entering a cell and
+ * leaving it moves that.
+ */
+class MRVHtmlWriter
+{
+public:
+    explicit MRVHtmlWriter(QTextDocument *document);
+
+    /** Whether the page was written by Qt, where elements for line ends count at any place. */
+    void setIsQtPage(bool is) { m_isQtPage = is; }
+
+    /** Begins a block-level element. */
+    void enter(const MRVHtmlStyle &style, const MRVHtmlBox &box);
+    /** Ends the last one that was begun. */
+    void leave();
+    /** Ends the present paragraph, if there is one. */
+    void endParagraph();
+    /** Makes the paragraph of an element that shows one in any case. */
+    void writeEmptyParagraph(const MRVHtmlStyle &style);
+
+    void writeText(const QString &text, const MRVHtmlStyle &style);
+    void writeLineEnd(const MRVHtmlStyle &style);
+    void writeImage(const QTextImageFormat &image, const MRVHtmlStyle &style);
+    void writeRule(const QTextLength &width, const MRVHtmlStyle &style);
+    /** A name for the next character. */
+    void addName(const QString &name);
+    /** The mark of a task: the present paragraph's, or that of the next one. */
+    void setMarker(QTextBlockFormat::MarkerType marker);
+
+    /** Makes a table, whose cells are entered next. */
+    QTextTable *writeTable(int rows, int columns, const QTextTableFormat &format);
+    void enterCell(const QTextTableCell &cell, const MRVHtmlStyle &style);
+    void leaveCell();
+    /** Goes on after a table whose cells have been left. */
+    void leaveTable(const QTextFrame *table);
+    /** Goes to the end of a new frame, which leaveFrame() leaves. */
+    void enterFrame(const QTextFrameFormat &format, const MRVHtmlStyle &style);
+    void leaveFrame();
+
+    /** The list around this place, whose items have a number; null outside of lists. */
+    MRVHtmlList *list() const { return m_boxes.last().list.get(); }
+    /** How many lists are around this place, in the present cell. */
+    int listDepth() const { return m_boxes.last().listDepth; }
+
+    /** Writes what is left. Nothing may be written afterwards. */
+    void finish();
+
+private:
+    struct Box
+    {
+        MRVHtmlStyle style;
+        MRVHtmlBox box;
+        qreal left = 0; // of all boxes up to this one
+        qreal right = 0;
+        qreal top = 0; // what the first paragraph gets
+        int headingLevel = 0;
+        int quoteLevel = 0;
+        int listDepth = 0;
+        QBrush background;
+        std::shared_ptr<MRVHtmlList> list;
+        bool breaksBefore = false;
+        bool isStarted = false; // has a paragraph
+        bool isItemStarted = false;
+        QTextBlockFormat::MarkerType marker = QTextBlockFormat::MarkerType::NoMarker;
+    };
+    void startInside(const MRVHtmlStyle &style);
+    enum class Place { Fresh, Open, Closed };
+
+    void openParagraph();
+    QTextBlockFormat paragraphFormat();
+    void startBoxes(QTextBlockFormat *format);
+    bool joinList(QTextBlockFormat *format);
+    void setParagraphFormat(const QTextBlockFormat &format, const QTextCharFormat &text);
+    void writeCollapsed(const QString &text, const MRVHtmlStyle &style);
+    void writePreformatted(const QString &text, const MRVHtmlStyle &style);
+    void append(const QString &text, const QTextCharFormat &format);
+    void prepareContent();
+    void writePendingLineEnds();
+    void flush();
+    QTextCharFormat withNames(const QTextCharFormat &format);
+
+    QTextDocument *const m_document;
+    QTextCursor m_cursor;
+    QVector<Box> m_boxes;
+    Place m_place = Place::Fresh;
+    bool m_isCellStart = false; // its paragraph's character format is the cell's
+    bool m_isQtPage = false;
+    bool m_breakIsPending = false; // a page break after what has ended
+    bool m_atLineStart = true; // where white space does not count
+    bool m_spaceIsPending = false;
+    QTextCharFormat m_spaceFormat;
+    int m_lineEnds = 0; // not written yet
+    QTextCharFormat m_lineEndFormat;
+    QString m_text; // not written yet
+    QTextCharFormat m_textFormat;
+    QStringList m_names; // for the next character
+};

@@ -1,0 +1,34 @@
+#include "manuscript/mrvmanuscriptdocument_p.h"
+
+#include "html/mrvhtmldocument.h"
+#include "input/mrvguardeddocument.h"
+#include "util/mrvfailure.h"
+
+std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
+                                              MRVMarkdown::Options options, const QString &folder,
+                                              MRVSourceReport *report, QString *error)
+{
+    auto document = std::make_unique<MRVGuardedDocument>();
+    document->setUndoRedoEnabled(false);
+    if (format == MRVManuscript::PlainText) {
+        document->setPlainText(text);
+        return document;
+    }
+    QString html = text;
+    if (format == MRVManuscript::Markdown) {
+        html = MRVMarkdown::toHtml(text, options, report ? &report->head : nullptr);
+        if (html.isNull()) {
+            MRV::fail(error,
+                      MRVManuscript::tr("the Markdown is nested too deeply, or too complex"));
+            return nullptr;
+        }
+    }
+    MRVHtmlReport *found = report ? &report->html : nullptr;
+    if (!MRVHtmlDocument::read(html, folder, document.get(), found, error)) {
+        return nullptr;
+    }
+    if (report && !report->head.title.isEmpty()) {
+        document->setMetaInformation(QTextDocument::DocumentTitle, report->head.title);
+    }
+    return document;
+}
