@@ -56,6 +56,7 @@ private:
                     Table *table);
     void writeGrid(const Table &table, const QTextTableFormat &format);
     void writeAsParagraphs(const Table &table);
+    void addNames(const QStringList &names);
 
     const MRVHtmlTree &m_tree;
     const MRVStyleSheet *const m_sheets;

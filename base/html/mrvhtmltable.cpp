@@ -93,9 +93,11 @@ struct MRVHtmlBuilder::Table
         int column;
         int rowSpan;
         int columnSpan;
+        QStringList names; // its own, and those of what begins with it
     };
 
     QVector<Cell> cells;
+    QStringList names; // of rows and groups of rows without a cell so far
     QVector<int> freeFrom; // by column: the first row that nothing spans
     QVector<QTextLength> widths; // of columns
     int rows = 0;
@@ -112,7 +114,9 @@ struct MRVHtmlBuilder::Table
                   rows - 1,
                   m_next,
                   spanOf(node, "rowspan", MostRows),
-                  spanOf(node, "colspan", MostColumns)};
+                  spanOf(node, "colspan", MostColumns),
+                  names + QStringList(mrvAttributeOf(node, "id"))};
+        names.clear();
         cell.rowSpan = qMin(cell.rowSpan, sectionEnd - cell.row);
         while (cell.column < freeFrom.size() && freeFrom.at(cell.column) > cell.row) {
             ++cell.column;
@@ -212,7 +216,7 @@ void MRVHtmlBuilder::collectTable(const GumboNode *parent, const MRVHtmlStyle &s
             continue;
         }
         MRVHtmlStyle childStyle = styleOf(child, style, childCss);
-        m_writer.addName(mrvAttributeOf(child, "id"));
+        table->names.append(mrvAttributeOf(child, "id"));
         if (childStyle.display == MRVHtmlStyle::Hidden) {
             m_displays.insert(child, MRVHtmlStyle::Hidden);
             continue;
@@ -273,22 +277,31 @@ void MRVHtmlBuilder::writeGrid(const Table &table, const QTextTableFormat &forma
             look.setProperty(property, place.format().property(property));
         }
         place.setFormat(look);
-        m_writer.addName(mrvAttributeOf(cell.node, "id"));
+        addNames(cell.names);
         m_writer.enterCell(place, cell.style);
         readChildren(cell.node, cell.style.inherited(), cell.css);
         m_writer.leaveCell();
     }
     m_writer.leaveTable(grid);
+    addNames(table.names);
+}
+
+void MRVHtmlBuilder::addNames(const QStringList &names)
+{
+    for (const QString &name : names) {
+        m_writer.addName(name);
+    }
 }
 
 void MRVHtmlBuilder::writeAsParagraphs(const Table &table)
 {
     for (const Table::Cell &cell : table.cells) {
-        m_writer.addName(mrvAttributeOf(cell.node, "id"));
+        addNames(cell.names);
         m_writer.enter(cell.style.inherited(), MRVHtmlBox());
         readChildren(cell.node, cell.style.inherited(), cell.css);
         m_writer.leave();
     }
+    addNames(table.names);
 }
 
 // QTextDocument::toHtml() writes frames as tables of one cell.

@@ -420,19 +420,19 @@ Erreur&#xa0;: %2</translation>
     <name>MRVManuscript</name>
     <message>
         <source>line %1: not in the document: %2</source>
-        <translation>ligne %1 : absent du document : %2</translation>
+        <translation>ligne %1&#xa0;: absent du document&#xa0;: %2</translation>
     </message>
     <message>
         <source>style sheets that cannot be read: %1</source>
-        <translation>feuilles de style illisibles : %1</translation>
+        <translation>feuilles de style illisibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>style sheets on other machines, which are not loaded: %1</source>
-        <translation>feuilles de style sur d’autres machines, qui ne sont pas chargées : %1</translation>
+        <translation>feuilles de style sur d’autres machines, qui ne sont pas chargées&#xa0;: %1</translation>
     </message>
     <message>
         <source>words that the page hides, and the document does not hold: %1</source>
-        <translation>mots que la page masque et qui ne sont pas dans le document : %1</translation>
+        <translation>mots que la page masque et qui ne sont pas dans le document&#xa0;: %1</translation>
     </message>
     <message>
         <source>the Markdown is nested too deeply, or too complex</source>
