@@ -2,6 +2,7 @@
 
 #include "textformat/mrvtextblockformat.h"
 
+#include <QHash>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -170,13 +171,45 @@ std::unique_ptr<QTextDocument> copyOf(const QTextDocument &document)
     return copy;
 }
 
+QString anchorHtml(const QString &name)
+{
+    return QStringLiteral("<a name=\"%1\"></a>").arg(name.toHtmlEscaped());
+}
+
+// Of the names of an anchor, Qt writes the first one.
+QString withAllNames(const QString &html, const QTextDocument &document)
+{
+    QHash<QString, QString> others; // by the first name, both as HTML
+    const QVector<QTextFormat> formats = document.allFormats();
+    for (const QTextFormat &format : formats) {
+        const QStringList names = format.toCharFormat().anchorNames();
+        for (int i = 1; i < names.size(); ++i) {
+            others[anchorHtml(names.constFirst())] += anchorHtml(names.at(i));
+        }
+    }
+    if (others.isEmpty()) {
+        return html;
+    }
+    QString whole;
+    int done = 0;
+    for (int at = html.indexOf(QLatin1String("<a name=")); at >= 0;
+         at = html.indexOf(QLatin1String("<a name="), done)) {
+        const int end = html.indexOf(QLatin1String("</a>"), at) + 4;
+        const QString anchor = html.mid(at, end - at);
+        whole += html.midRef(done, end - done);
+        whole += others.take(anchor);
+        done = end;
+    }
+    return whole + html.midRef(done);
+}
+
 } // namespace
 
 QString mrvDocumentHtml(const QTextDocument &document)
 {
     const Faults faults(document);
     if (!faults.inBlocks && !faults.inBorders) {
-        return document.toHtml("utf-8");
+        return withAllNames(document.toHtml("utf-8"), document);
     }
     const std::unique_ptr<QTextDocument> copy = copyOf(document);
     if (faults.inBlocks) {
@@ -185,5 +218,5 @@ QString mrvDocumentHtml(const QTextDocument &document)
     if (faults.inBorders) {
         mendBorders(*copy);
     }
-    return copy->toHtml("utf-8");
+    return withAllNames(copy->toHtml("utf-8"), document);
 }
