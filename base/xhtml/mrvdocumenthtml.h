@@ -7,8 +7,8 @@
 class QTextDocument;
 
 /**
- * The HTML of a document, as QTextDocument::toHtml("utf-8") writes it, but for what that function
- * gets wrong:
+ * The HTML of a document, as QTextDocument::toHtml("utf-8") writes it, except for what that
+ * function gets wrong:
  *
  * - A paragraph that MRVTextBlockFormat::headingLevel() calls a heading is one in the HTML too,
  *   where Qt's own level has given way to a line spacing.
