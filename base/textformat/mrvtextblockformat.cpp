@@ -7,9 +7,6 @@
 
 namespace {
 
-// The level of a heading, int 1 to 6, under a number that no line spacing takes.
-constexpr int HeadingLevelProperty = 0x100100;
-
 enum Group : unsigned {
     Data = 1, ///< no style at all: always kept
     Indents = 2,
@@ -69,7 +66,7 @@ bool hasHeadingLevel(const QTextBlockFormat &format)
 void keepHeadingLevel(QTextBlockFormat *format, int level)
 {
     if (level > 0) {
-        format->setProperty(HeadingLevelProperty, level);
+        format->setProperty(MRVTextFormat::HeadingLevelProperty, level);
     }
 }
 
@@ -77,7 +74,8 @@ void keepHeadingLevel(QTextBlockFormat *format, int level)
 
 int MRVTextBlockFormat::headingLevel(const QTextBlockFormat &format)
 {
-    for (int property : {HeadingLevelProperty, int(QTextFormat::HeadingLevel)}) {
+    for (int property :
+         {int(MRVTextFormat::HeadingLevelProperty), int(QTextFormat::HeadingLevel)}) {
         const int level = format.intProperty(property);
         if (level >= 1 && level <= 6) {
             return level;

@@ -18,8 +18,8 @@ public:
     /**
      * The level of the heading that a paragraph is, 1 to 6; 0 for any other paragraph.
      *
-     * The application's own property of a heading (int 0x100100) comes first, then Qt's own level.
-     * That one is lost where a line spacing is written, since both have one number.
+     * MRVTextFormat::HeadingLevelProperty comes first, then Qt's own level. That one is lost where
+     * a line spacing is written, since both have one number.
      */
     static int headingLevel(const QTextBlockFormat &format);
 
