@@ -17,7 +17,7 @@ bool isSeparator(QChar character)
         || (character >= QChar(0xfdd0) && character <= QChar(0xfdef));
 }
 
-/** Words, put together from pieces of text. */
+/** Words, put together from pieces of text. A novel has a million of them: few are copied. */
 class Words
 {
 public:
@@ -25,14 +25,24 @@ public:
     template<typename Take>
     void add(const QString &text, int line, const Take &take)
     {
-        for (const QChar character : text) {
-            if (isSeparator(character)) {
-                end(take);
-                line += character == u'\n' ? 1 : 0;
-            } else {
-                m_line = m_word.isEmpty() ? line : m_line;
-                m_word += character;
+        int begin = 0;
+        for (int at = 0; at <= text.size(); ++at) {
+            const bool isEnd = at == text.size();
+            if (!isEnd && !isSeparator(text.at(at))) {
+                continue;
             }
+            const QStringView piece = QStringView(text).mid(begin, at - begin);
+            if (isEnd || !m_word.isEmpty()) {
+                m_line = m_word.isEmpty() ? line : m_line;
+                m_word.append(piece.data(), piece.size());
+            } else if (!piece.isEmpty()) {
+                take(piece, line);
+            }
+            if (!isEnd) {
+                end(take);
+                line += text.at(at) == u'\n' ? 1 : 0;
+            }
+            begin = at + 1;
         }
     }
 
@@ -40,7 +50,7 @@ public:
     void end(const Take &take)
     {
         if (!m_word.isEmpty()) {
-            take(m_word, m_line);
+            take(QStringView(m_word), m_line);
             m_word.resize(0);
         }
     }
@@ -65,19 +75,19 @@ public:
      * Goes to the next @p item and past it. What is held before it is passed over, a few steps at
      * most: where the page and the document go on alike.
      */
-    bool take(Kind kind, const QString &item)
+    bool take(Kind kind, QStringView item)
     {
         constexpr int Ahead = 64;
-        QStringList &items = m_items[kind];
+        Items &items = m_items[kind];
         for (int i = 0; i < Ahead; ++i) {
-            while (i >= items.size() && m_block.isValid()) {
+            while (items.first + i >= items.places.size() && m_block.isValid()) {
                 readParagraph();
             }
-            if (i >= items.size()) {
+            if (items.first + i >= items.places.size()) {
                 return false;
             }
             if (items.at(i) == item) {
-                items.erase(items.begin(), items.begin() + i + 1);
+                items.first += i + 1;
                 return true;
             }
         }
@@ -85,13 +95,43 @@ public:
     }
 
 private:
+    /** Texts that have not been taken, one after the other. */
+    struct Items
+    {
+        QString text;
+        QVector<QPair<int, int>> places; // begin and length in the text
+        int first = 0; // that has not been taken
+
+        QStringView at(int index) const
+        {
+            const QPair<int, int> &place = places.at(first + index);
+            return QStringView(text).mid(place.first, place.second);
+        }
+
+        void append(QStringView item)
+        {
+            if (first == places.size()) {
+                text.resize(0);
+                places.resize(0);
+                first = 0;
+            }
+            places.append({text.size(), int(item.size())});
+            text.append(item.data(), int(item.size()));
+        }
+    };
+
     void readParagraph()
     {
-        const auto take = [this](const QString &word, int) { m_items[Word].append(word); };
+        const auto append = [this](QStringView word, int) { m_items[Word].append(word); };
+        m_words.add(m_block.text(), 0, append);
+        m_words.end(append);
         for (auto it = m_block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
+            if (isPlain(fragment)) {
+                m_address.clear();
+                continue;
+            }
             const QTextCharFormat format = fragment.charFormat();
-            m_words.add(fragment.text(), 0, take);
             const QString address = format.isAnchor() ? format.anchorHref() : QString();
             if (address != m_address && !address.isEmpty()) {
                 m_items[Link].append(address);
@@ -101,14 +141,28 @@ private:
                 m_items[Picture].append(format.toImageFormat().name());
             }
         }
-        m_words.end(take);
         m_block = m_block.next();
+    }
+
+    // Whether it is neither a link nor a picture; few formats are many fragments'.
+    bool isPlain(const QTextFragment &fragment)
+    {
+        const int index = fragment.charFormatIndex();
+        if (m_plain.size() <= index) {
+            m_plain.resize(index + 1);
+        }
+        if (m_plain.at(index) == 0) {
+            const QTextCharFormat format = fragment.charFormat();
+            m_plain[index] = format.anchorHref().isEmpty() && !format.isImageFormat() ? 1 : 2;
+        }
+        return m_plain.at(index) == 1;
     }
 
     QTextBlock m_block;
     Words m_words;
     QString m_address;
-    QStringList m_items[3]; // not taken yet, by kind
+    QVector<char> m_plain; // by format: 0 is unknown, 1 plain, 2 not
+    Items m_items[3]; // by kind
 };
 
 /** Compares what a tree shows with what a document holds. */
@@ -125,7 +179,7 @@ public:
 
     auto expectWord()
     {
-        return [this](const QString &word, int line) { expect(HeldContent::Word, word, line); };
+        return [this](QStringView word, int line) { expect(HeldContent::Word, word, line); };
     }
 
     void visit(const GumboNode *parent, const QString &address)
@@ -156,16 +210,16 @@ private:
         m_address = address;
     }
 
-    void expect(HeldContent::Kind kind, const QString &item, int line)
+    void expect(HeldContent::Kind kind, QStringView item, int line)
     {
         QVector<MRVHtmlLoss> &losses = m_report->losses;
         if (m_held.take(kind, item)) {
             return;
         }
         if (!losses.isEmpty() && losses.constLast().line == line) {
-            losses.last().what += u' ' + item;
+            losses.last().what += u' ' + item.toString();
         } else {
-            losses.append({line, item});
+            losses.append({line, item.toString()});
         }
     }
 
@@ -179,7 +233,7 @@ private:
         const QString place = mrvAttributeOf(element, "data-sourcepos");
         m_line = place.isEmpty() ? m_line : place.section(u':', 0, 0).toInt();
         if (display == MRVHtmlStyle::Hidden) {
-            const auto count = [this](const QString &, int) { ++m_report->hiddenWords; };
+            const auto count = [this](QStringView, int) { ++m_report->hiddenWords; };
             Words words;
             words.add(mrvTextIn(element), 0, count);
             words.end(count);
