@@ -65,18 +65,6 @@ const QVector<MRVCssDeclaration> &linkDeclarations()
     return declarations;
 }
 
-// What a picture of any kind names; null for none.
-QString pictureName(const GumboNode *element)
-{
-    QString name;
-    for (const char *attribute : {"src", "data", "xlink:href", "href"}) {
-        if (name.isEmpty()) {
-            name = mrvAttributeOf(element, attribute);
-        }
-    }
-    return name.trimmed();
-}
-
 } // namespace
 
 MRVHtmlBuilder::MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *sheets,
@@ -88,7 +76,7 @@ MRVHtmlBuilder::MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *she
     , m_writer(document)
 {
     m_writer.setIsQtPage(m_isQtPage);
-    m_styler.setQtWeights(m_isQtPage);
+    m_styler.setIsQtPage(m_isQtPage);
 }
 
 void MRVHtmlBuilder::build()
@@ -296,10 +284,10 @@ void MRVHtmlBuilder::readBlock(const GumboNode *element, const MRVHtmlStyle &sty
                                const MRVCssElement *css)
 {
     m_writer.enter(style, boxOf(element, style));
-    if (style.isEmptyParagraph) {
+    if (style.isEmptyParagraph && mrvTextIn(element).trimmed().isEmpty()) {
         m_writer.writeEmptyParagraph(style);
     } else {
-        readChildren(element, style.inherited(), css);
+        readInside(element, style.inherited(), css);
     }
     m_writer.leave();
 }
@@ -313,27 +301,27 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
     if (style.background.style() != Qt::NoBrush) {
         style.text.setBackground(style.background);
     }
-    const MRVHtmlElement &kind = mrvHtmlElement(element);
     if (mrvNameOf(element) == QLatin1String("image")) { // of SVG
         readPicture(element, style, css);
     }
-    if (kind.kind == MRVHtmlElement::Quotation) {
-        m_writer.writeText(mrvQuotationMark(true, m_quotations++), style);
-        readChildren(element, style.inherited(), css);
-        m_writer.writeText(mrvQuotationMark(false, --m_quotations), style);
-        return;
-    }
+    readInside(element, style.inherited(), css);
+}
+
+void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &style,
+                                const MRVCssElement *css)
+{
+    const bool isQuotation = mrvHtmlElement(element).kind == MRVHtmlElement::Quotation;
     // Texts of a drawing stand apart, wherever it puts them.
-    const bool isDrawn = mrvIsDrawn(element);
-    m_writer.writeText(isDrawn ? QStringLiteral(" ") : QString(), style);
-    readChildren(element, style.inherited(), css);
-    m_writer.writeText(isDrawn ? QStringLiteral(" ") : QString(), style);
+    const QString space = mrvIsDrawn(element) ? QStringLiteral(" ") : QString();
+    m_writer.writeText(isQuotation ? mrvQuotationMark(true, m_quotations++) : space, style);
+    readChildren(element, style, css);
+    m_writer.writeText(isQuotation ? mrvQuotationMark(false, --m_quotations) : space, style);
 }
 
 void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &style,
                                  const MRVCssElement *css)
 {
-    const QString name = pictureName(element);
+    const QString name = mrvPictureName(element);
     const bool isObject = element->v.element.tag == GUMBO_TAG_OBJECT;
     const QString type = mrvAttributeOf(element, "type");
     if (name.isEmpty()

@@ -40,6 +40,7 @@ private:
     void readShown(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readBlock(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readInline(const GumboNode *element, MRVHtmlStyle style, const MRVCssElement *css);
+    void readInside(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readPicture(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readInput(const GumboNode *element, const MRVHtmlStyle &style);
     MRVHtmlBox boxOf(const GumboNode *element, const MRVHtmlStyle &style);

@@ -185,6 +185,9 @@ public:
     void visit(const GumboNode *parent, const QString &address)
     {
         for (const GumboNode *child : MRVHtmlChildren(parent)) {
+            if (mrvIsElement(child) && isCaption(child)) {
+                continue; // visited with its table
+            }
             if (mrvIsElement(child)) {
                 visitElement(child, address);
             } else if (child->type != GUMBO_NODE_COMMENT) {
@@ -240,7 +243,8 @@ private:
             return;
         }
         const bool isSeparate = display != MRVHtmlStyle::Inline
-            || kind.kind == MRVHtmlElement::LineEnd || kind.kind == MRVHtmlElement::Picture
+            || kind.kind == MRVHtmlElement::LineEnd
+            || (kind.kind == MRVHtmlElement::Picture && !mrvPictureName(element).isEmpty())
             || mrvIsField(element) || mrvIsDrawn(element);
         if (isSeparate) {
             endWord();
@@ -253,6 +257,9 @@ private:
             visitPicture(element, address);
         } else if (kind.kind != MRVHtmlElement::Picture) {
             const QString own = mrvAddressOf(element);
+            if (mrvIsElement(element, GUMBO_TAG_TABLE)) {
+                visitCaptions(element, address);
+            }
             visit(element, own.isEmpty() ? address : own);
         }
         if (isQuotation) {
@@ -260,6 +267,21 @@ private:
         }
         if (isSeparate) {
             endWord();
+        }
+    }
+
+    static bool isCaption(const GumboNode *node)
+    {
+        return mrvIsElement(node, GUMBO_TAG_CAPTION) && mrvIsElement(node->parent, GUMBO_TAG_TABLE);
+    }
+
+    // They are shown before the rows, wherever they stand among them.
+    void visitCaptions(const GumboNode *table, const QString &address)
+    {
+        for (const GumboNode *child : MRVHtmlChildren(table)) {
+            if (isCaption(child)) {
+                visitElement(child, address);
+            }
         }
     }
 

@@ -292,3 +292,14 @@ bool mrvIsField(const GumboNode *element)
     return mrvIsElement(element, GUMBO_TAG_INPUT)
         && mrvAttributeOf(element, "type").compare(QLatin1String("hidden"), Qt::CaseInsensitive);
 }
+
+QString mrvPictureName(const GumboNode *element)
+{
+    QString name;
+    for (const char *attribute : {"src", "data", "xlink:href", "href"}) {
+        if (name.isEmpty()) {
+            name = mrvAttributeOf(element, attribute);
+        }
+    }
+    return name.trimmed();
+}

@@ -58,3 +58,6 @@ bool mrvIsDrawn(const GumboNode *element);
 
 /** Whether an element is a field to fill in, which separates the words beside it. */
 bool mrvIsField(const GumboNode *element);
+
+/** What a picture of any kind names; empty for none. */
+QString mrvPictureName(const GumboNode *element);

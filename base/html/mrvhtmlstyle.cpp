@@ -20,7 +20,7 @@ struct Value
     const QString &text;
     const MRVHtmlStyle &outside;
     qreal rootPixels;
-    bool qtWeights;
+    bool isQtPage;
 };
 
 using Handler = void (*)(const Value &, MRVHtmlStyle *);
@@ -162,7 +162,7 @@ void fontWeight(const Value &value, MRVHtmlStyle *style)
         const int standard = number >= BoldFrom
             ? (number >= 800 ? int(QFont::ExtraBold) : int(QFont::Bold))
             : ofHundreds[number / 100];
-        setWeight(value.qtWeights ? qMin(number / 8, 99) : standard, style);
+        setWeight(value.isQtPage ? qMin(number / 8, 99) : standard, style);
     }
 }
 
@@ -354,22 +354,32 @@ void listStyleType(const Value &value, MRVHtmlStyle *style)
 
 void visibility(const Value &value, MRVHtmlStyle *style)
 {
-    style->invisible =
-        value.text == QLatin1String("hidden") || value.text == QLatin1String("collapse");
+    style->isInvisible = value.text == QLatin1String("hidden")
+        || (style->isInvisible && value.text != QLatin1String("visible"));
 }
 
 void display(const Value &value, MRVHtmlStyle *style)
 {
+    // Rows, cells, grids and the like are paragraphs, at least.
+    constexpr const char *blocks[] = {"block",
+                                      "flow-root",
+                                      "flex",
+                                      "grid",
+                                      "table",
+                                      "table-row",
+                                      "table-cell",
+                                      "table-caption",
+                                      "table-row-group",
+                                      "table-header-group",
+                                      "table-footer-group"};
     if (value.text == QLatin1String("none")) {
         style->display = MRVHtmlStyle::Hidden;
     } else if (value.text == QLatin1String("list-item")) {
         style->display = MRVHtmlStyle::ListItem;
     } else if (value.text.startsWith(QLatin1String("inline"))
-               || value.text == QLatin1String("contents")
-               || value.text.startsWith(QLatin1String("ruby"))) {
+               || value.text == QLatin1String("contents")) {
         style->display = MRVHtmlStyle::Inline;
-    } else if (value.text != QLatin1String("inherit") && value.text != QLatin1String("initial")) {
-        // Rows, cells, grids and the like are paragraphs, at least.
+    } else if (wordIn(blocks, value.text) >= 0) {
         style->display = MRVHtmlStyle::Block;
     }
 }
@@ -462,6 +472,9 @@ void ofQt(const Value &value, MRVHtmlStyle *style)
     constexpr const char *names[] = {
         "-qt-block-indent",       "-qt-list-indent",    "-qt-user-state", "-qt-list-number-prefix",
         "-qt-list-number-suffix", "-qt-paragraph-type", "-qt-table-type"};
+    if (!value.isQtPage) {
+        return;
+    }
     const int number = qBound(-1, value.text.toInt(), 1000);
     switch (wordIn(names, value.property)) {
     case 0:
@@ -584,7 +597,6 @@ MRVHtmlStyle MRVHtmlStyle::inherited() const
     inside.lineHeightType = lineHeightType;
     inside.whiteSpace = whiteSpace;
     inside.listStyle = listStyle;
-    inside.invisible = invisible;
     inside.language = language;
     return inside;
 }
@@ -596,7 +608,7 @@ void MRVHtmlStyler::apply(const QVector<MRVCssDeclaration> &declarations,
     // An em of the other properties is the element's own size.
     for (const MRVCssDeclaration &declaration : declarations) {
         if (declaration.property == size) {
-            fontSize({declaration.property, declaration.value, outside, m_rootPixels, m_qtWeights},
+            fontSize({declaration.property, declaration.value, outside, m_rootPixels, m_isQtPage},
                      style);
         }
     }
@@ -605,7 +617,10 @@ void MRVHtmlStyler::apply(const QVector<MRVCssDeclaration> &declarations,
             // Names of fonts and texts have capitals; keywords mean the same in any case.
             const bool isText = handler == fontFamily || handler == ofQt;
             const QString value = isText ? declaration.value : declaration.value.toLower();
-            handler({declaration.property, value, outside, m_rootPixels, m_qtWeights}, style);
+            handler({declaration.property, value, outside, m_rootPixels, m_isQtPage}, style);
         }
+    }
+    if (style->isInvisible) {
+        style->display = MRVHtmlStyle::Hidden;
     }
 }

@@ -39,11 +39,11 @@ struct MRVHtmlStyle
     int lineHeightType = QTextBlockFormat::SingleHeight;
     WhiteSpace whiteSpace = Collapsed;
     int listStyle = QTextListFormat::ListDisc; ///< ListStyleUndefined: without marks
-    bool invisible = false;
     QString language;
 
     // The element's own.
     Display display = Inline;
+    bool isInvisible = false; ///< whatever its display says
     qreal margins[4] = {0, 0, 0, 0}; ///< by MRVHtmlSide
     qreal paddings[4] = {-1, -1, -1, -1}; ///< by MRVHtmlSide; -1: not said
     MRVHtmlBorder borders[4]; ///< by MRVHtmlSide
@@ -78,8 +78,11 @@ class MRVHtmlStyler
 public:
     /** What 1 rem is; the element html decides. */
     void setRootPixels(qreal pixels) { m_rootPixels = pixels; }
-    /** The weights of fonts are Qt's eighths of those of CSS, as in pages that Qt has written. */
-    void setQtWeights(bool are) { m_qtWeights = are; }
+    /**
+     * Whether Qt has written the page: weights of fonts are eighths of those of CSS, and
+     * properties of its own count.
+     */
+    void setIsQtPage(bool is) { m_isQtPage = is; }
 
     /**
      * Applies declarations, weakest first, to a style that holds what is inherited.
@@ -91,5 +94,5 @@ public:
 
 private:
     qreal m_rootPixels = 16;
-    bool m_qtWeights = false;
+    bool m_isQtPage = false;
 };

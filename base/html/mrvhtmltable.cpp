@@ -174,6 +174,7 @@ void MRVHtmlBuilder::readTable(const GumboNode *element, const MRVHtmlStyle &sty
         readFrame(element, style, css);
         return;
     }
+    m_writer.endParagraph();
     Table table;
     collectTable(element, style, css, &table);
     if (table.cells.isEmpty() || !table.fitsGrid()) {

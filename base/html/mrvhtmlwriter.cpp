@@ -227,9 +227,6 @@ void MRVHtmlWriter::openParagraph()
 
 void MRVHtmlWriter::writeText(const QString &text, const MRVHtmlStyle &style)
 {
-    if (style.invisible) {
-        return;
-    }
     const QString plain = mrvShownText(text);
     if (style.whiteSpace == MRVHtmlStyle::Collapsed
         || style.whiteSpace == MRVHtmlStyle::Unwrapped) {
