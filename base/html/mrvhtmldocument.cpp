@@ -6,6 +6,8 @@
 #include "input/mrvhtmlreader.h"
 #include "util/mrvfailure.h"
 
+#include "core/mrvinputlimits.h"
+
 namespace {
 
 // The text of the first element of this kind.
@@ -27,12 +29,19 @@ QString titleOf(const GumboNode *root)
 bool MRVHtmlDocument::read(const QString &html, const QString &folder, QTextDocument *document,
                            MRVHtmlReport *report, QString *error)
 {
-    const QString fault = MRVHtmlReader::whyTooComplex(html);
+    const QString page = mrvWithEndTags(html);
+    const QString fault = MRVHtmlReader::whyTooComplex(page);
     if (!fault.isEmpty()) {
         return MRV::fail(error, fault);
     }
     MRVHtmlReport found;
-    const MRVHtmlTree tree(html);
+    const MRVHtmlTree tree(page);
+    // With the groups of rows and the like that a page does not name.
+    if (tree.depth() > 2 * MRVInputLimits::HtmlDepth) {
+        return MRV::fail(error,
+                         MRVHtmlReader::tr("elements are nested more than %1 levels deep")
+                             .arg(MRVInputLimits::HtmlDepth));
+    }
     MRVStyleSheet sheets;
     const bool hasSheets = mrvAddSheets(tree, folder, &sheets, &found);
     const bool keepsHistory = document->isUndoRedoEnabled();

@@ -1,22 +1,10 @@
 #include "html/mrvhtmltree_p.h"
 
+#include <QPair>
 #include <QRegularExpression>
+#include <QVector>
 
 namespace {
-
-// In XHTML any element may be written as one tag, which HTML takes for a start tag.
-QString withEndTags(const QString &html)
-{
-    static const QRegularExpression declaration(QStringLiteral("^\\x{FEFF}?\\s*<\\?xml\\b"));
-    if (!declaration.match(html).hasMatch()) {
-        return html;
-    }
-    static const QRegularExpression whole(QStringLiteral(
-        "<(?!(?:area|base|br|col|embed|hr|img|input|link|meta|param|source|track|wbr)"
-        "[\\s/>])([A-Za-z][A-Za-z0-9]*+)((?:[^'\">/]++|\"[^\"]*+\"|'[^']*+'|/(?!>))*+)"
-        "/>"));
-    return QString(html).replace(whole, QStringLiteral("<\\1\\2></\\1>"));
-}
 
 GumboOptions options()
 {
@@ -32,8 +20,21 @@ const GumboAttribute *attribute(const GumboNode *element, const char *name)
 
 } // namespace
 
+QString mrvWithEndTags(const QString &html)
+{
+    static const QRegularExpression declaration(QStringLiteral("^\\x{FEFF}?\\s*<\\?xml\\b"));
+    if (!declaration.match(html).hasMatch()) {
+        return html;
+    }
+    static const QRegularExpression whole(QStringLiteral(
+        "<(?!(?:area|base|br|col|embed|hr|img|input|link|meta|param|source|track|wbr)"
+        "[\\s/>])([A-Za-z][A-Za-z0-9]*+)((?:[^'\">/]++|\"[^\"]*+\"|'[^']*+'|/(?!>))*+)"
+        "/>"));
+    return QString(html).replace(whole, QStringLiteral("<\\1\\2></\\1>"));
+}
+
 MRVHtmlTree::MRVHtmlTree(const QString &html)
-    : m_source(withEndTags(html).toUtf8())
+    : m_source(html.toUtf8())
 {
     const GumboOptions chosen = options();
     m_output = gumbo_parse_with_options(&chosen, m_source.constData(), size_t(m_source.size()));
@@ -43,6 +44,23 @@ MRVHtmlTree::~MRVHtmlTree()
 {
     const GumboOptions chosen = options();
     gumbo_destroy_output(&chosen, m_output);
+}
+
+// Without recursion: callers ask whether the tree can be read by it.
+int MRVHtmlTree::depth() const
+{
+    int most = 0;
+    QVector<QPair<const GumboNode *, int>> open{{root(), 1}};
+    while (!open.isEmpty()) {
+        const auto node = open.takeLast();
+        most = qMax(most, node.second);
+        for (const GumboNode *child : MRVHtmlChildren(node.first)) {
+            if (mrvIsElement(child)) {
+                open.append({child, node.second + 1});
+            }
+        }
+    }
+    return most;
 }
 
 bool mrvIsElement(const GumboNode *node)

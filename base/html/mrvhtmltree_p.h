@@ -6,6 +6,12 @@
 #include <gumbo.h>
 
 /**
+ * A page in which each element of XHTML has its end tag: there any may be written as one tag, which
+ * HTML takes for a start tag. Other pages are returned as they are.
+ */
+QString mrvWithEndTags(const QString &html);
+
+/**
  * The tree that an HTML5 parser makes of a page, as a browser would.
  *
  * The page has to be one that MRVHtmlReader::whyTooComplex() does not refuse. Offsets and lines of
@@ -23,6 +29,8 @@ public:
     const GumboNode *document() const { return m_output->document; }
     /** The element html; a page without one gets one. */
     const GumboNode *root() const { return m_output->root; }
+    /** How many elements are in each other at most. */
+    int depth() const;
     /** The page in UTF-8, as it was parsed. */
     const QByteArray &source() const { return m_source; }
 

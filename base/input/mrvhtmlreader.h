@@ -21,7 +21,7 @@ struct MRVHtmlHead
 };
 
 /**
- * What can be asked of an HTML page before Qt's reader of rich text gets it.
+ * What can be asked of an HTML page before a parser gets it.
  *
  * All functions take any text, take time linear in it, and read tags as a browser does: names in
  * any case, comments, scripts and styles passed over, end tags left out where they may be.
