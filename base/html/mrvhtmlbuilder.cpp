@@ -416,8 +416,6 @@ void MRVHtmlBuilder::continueList(const GumboNode *item, MRVHtmlBox *box)
     bool ok = false;
     const int number = mrvAttributeOf(item, "value").toInt(&ok);
     if (list && ok && number != list->number) {
-        list->list = nullptr;
-        list->number = number;
-        list->format.setProperty(MRVTextFormat::ListStartProperty, number);
+        list->goOnWith(number);
     }
 }

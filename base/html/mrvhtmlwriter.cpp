@@ -5,6 +5,9 @@
 
 namespace {
 
+// Qt visits all items of a list when one is added. Longer lists go on in another one.
+constexpr int MostItems = 1000;
+
 bool isSpace(QChar character)
 {
     return character == u' ' || (character >= u'\t' && character <= u'\r' && character != u'\v');
@@ -39,6 +42,20 @@ QTextBlockFormat lookOf(const MRVHtmlStyle &style)
 
 } // namespace
 
+bool MRVHtmlList::isNumbered() const
+{
+    return format.style() <= QTextListFormat::ListDecimal;
+}
+
+void MRVHtmlList::goOnWith(int next)
+{
+    list = nullptr;
+    number = next;
+    if (isNumbered()) {
+        format.setProperty(MRVTextFormat::ListStartProperty, next);
+    }
+}
+
 MRVHtmlWriter::MRVHtmlWriter(QTextDocument *document)
     : m_document(document)
     , m_cursor(document)
@@ -71,9 +88,7 @@ void MRVHtmlWriter::enter(const MRVHtmlStyle &style, const MRVHtmlBox &box)
 void MRVHtmlWriter::leave()
 {
     Box &box = m_boxes.last();
-    const bool isNumbered =
-        box.box.isItem && box.list && box.list->format.style() <= QTextListFormat::ListDecimal;
-    if (isNumbered && !box.isItemStarted) {
+    if (box.box.isItem && !box.isItemStarted && box.list && box.list->isNumbered()) {
         openParagraph(); // the numbers of the items after it count it
     }
     endParagraph();
@@ -189,6 +204,9 @@ bool MRVHtmlWriter::joinList(QTextBlockFormat *format)
         return false;
     }
     box.isItemStarted = true;
+    if (list.list && list.list->count() >= MostItems) {
+        list.goOnWith(list.number);
+    }
     if (box.marker != QTextBlockFormat::MarkerType::NoMarker) {
         format->setMarker(box.marker);
     }
@@ -335,6 +353,7 @@ QTextCharFormat MRVHtmlWriter::withNames(const QTextCharFormat &format)
 {
     QTextCharFormat named = format;
     named.setAnchor(true);
+    m_names.removeDuplicates();
     // As one text where there is one: Qt looks formats up by a hash, and all lists of names have
     // the same one, so that many of them take quadratic time.
     if (m_names.size() == 1) {
@@ -404,7 +423,7 @@ void MRVHtmlWriter::writeRule(const QTextLength &width, const MRVHtmlStyle &styl
 
 void MRVHtmlWriter::addName(const QString &name)
 {
-    if (!name.isEmpty() && !m_names.contains(name)) {
+    if (!name.isEmpty()) {
         m_names.append(name);
     }
 }

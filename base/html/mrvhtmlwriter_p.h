@@ -19,6 +19,10 @@ struct MRVHtmlList
     QTextListFormat format; ///< without a style: items have no marks
     QTextList *list = nullptr; ///< once there is an item
     int number = 1; ///< of the next item
+
+    bool isNumbered() const;
+    /** Makes the next item the first one of another list, with this number. */
+    void goOnWith(int next);
 };
 
 /** What a block-level element gives to the paragraphs in it, beside its style. */
