@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "support.h"
 
+#include "html/mrvhtmlcheck_p.h"
 #include "html/mrvhtmldocument.h"
 #include "textformat/mrvtextformat.h"
 
@@ -128,6 +129,8 @@ private Q_SLOTS:
     void sheets();
     void takesLinearTime_data();
     void takesLinearTime();
+    void countsHiddenWords();
+    void saysWhatIsMissing_data();
     void saysWhatIsMissing();
 
 private:
@@ -223,8 +226,44 @@ void tst_Html::takesLinearTime()
     QVERIFY2(timer.elapsed() < 8000, qPrintable(QString::number(timer.elapsed())));
 }
 
-/// Words that styles hide are counted: they are not in the document.
+void tst_Html::saysWhatIsMissing_data()
+{
+    QTest::addColumn<QString>("page"); // what a document would have been read from
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("whole") << "<p>a b\n<p><a href=x>c</a>d<img src=y>"
+                           << "";
+    QTest::newRow("words") << "<p>a new b\n<p>and more <a href=x>c</a>d<img src=y>"
+                           << "1 new|2 and more";
+    QTest::newRow("joined") << "<p>a b\n<p><a href=x>c</a><br>d<img src=y>"
+                            << "2 c d";
+    QTest::newRow("order") << "<p>b\n<p>a<p><a href=x>c</a>d<img src=y>"
+                           << "2 a";
+    QTest::newRow("link") << "<p>a b\n<p><a href=x2>c</a>d<img src=y>"
+                          << "2 x2";
+    QTest::newRow("picture") << "<p>a b\n<p><a href=x>c</a>d<img src=y><img src=z>"
+                             << "2 z";
+    QTest::newRow("markdown") << "<p data-sourcepos='7:1-8:2'>a b c</p>"
+                              << "7 c";
+}
+
+/// What the page shows and the document does not hold is named with its line.
 void tst_Html::saysWhatIsMissing()
+{
+    QTextDocument document;
+    QVERIFY(MRVHtmlDocument::read("<p>a b<p><a href=x>c</a>d<img src=y>", QString(), &document));
+    QFETCH(QString, page);
+    const MRVHtmlTree tree(page);
+    MRVHtmlReport report;
+    mrvCheckDocument(tree, {}, document, &report);
+    QStringList losses;
+    for (const MRVHtmlLoss &loss : report.losses) {
+        losses << QString("%1 %2").arg(loss.line).arg(loss.what);
+    }
+    QTEST(losses.join('|'), "expected");
+}
+
+/// Words that styles hide are not in the document.
+void tst_Html::countsHiddenWords()
 {
     QTextDocument document;
     MRVHtmlReport report;

@@ -46,7 +46,8 @@ public:
         BlockRightIndent = 0x1037,
         /**
          * Line spacing, measured against BlockBaseSpacing. Qt uses the number too, for the level of
-         * a heading: that is an int, so only a double is a spacing. One ends the other.
+         * a heading: that is an int, so only a double is a spacing. A spacing ends Qt's level,
+         * which HeadingLevelProperty then holds.
          */
         BlockSpacing = 0x1070,
         /** The font size of BlockSpacing; 0 makes that an absolute line height. */
@@ -178,8 +179,8 @@ public:
      * Brings the pair of spacing and base (see Property) to base 12, or leaves it at base 0.
      *
      * Equal values become 12 and 12, which is also what a format without spacing gets. The
-     * comparisons are exact. Writes the spacing even where the format has none, which ends a
-     * heading level. Null does nothing.
+     * comparisons are exact. Writes the spacing even where the format has none, which ends the
+     * level of a heading that Qt holds. Null does nothing.
      */
     static void simplifySpacing(QTextBlockFormat *format);
     /** A copy of @p format after simplifySpacing(). */
