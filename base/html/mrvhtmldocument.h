@@ -47,7 +47,7 @@ public:
      * @param document untouched on failure; must not be null.
      * @param report   if given, receives what was found; untouched on failure.
      * @param error    if given, receives a translated text on failure; untouched on success.
-     * @return false for a page that MRVHtmlReader::whyTooComplex() refuses, or whose parsed tree is too
+     * @return false for a page that MRVHtmlReader::whyTooComplex() refuses, or whose tree is too
      *         deep nevertheless.
      */
     static bool read(const QString &html, const QString &folder, QTextDocument *document,

@@ -26,9 +26,10 @@ QString mrvWithEndTags(const QString &html)
     if (!declaration.match(html).hasMatch()) {
         return html;
     }
+    // No tag of XML has a "<" in it, so that a search for the end of one stops at the next one.
     static const QRegularExpression whole(QStringLiteral(
         "<(?!(?:area|base|br|col|embed|hr|img|input|link|meta|param|source|track|wbr)"
-        "[\\s/>])([A-Za-z][A-Za-z0-9]*+)((?:[^'\">/]++|\"[^\"]*+\"|'[^']*+'|/(?!>))*+)"
+        "[\\s/>])([A-Za-z][A-Za-z0-9]*+)((?:[^'\"<>/]++|\"[^\"<]*+\"|'[^'<]*+'|/(?!>))*+)"
         "/>"));
     return QString(html).replace(whole, QStringLiteral("<\\1\\2></\\1>"));
 }
