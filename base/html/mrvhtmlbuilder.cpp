@@ -285,7 +285,7 @@ void MRVHtmlBuilder::readBlock(const GumboNode *element, const MRVHtmlStyle &sty
 {
     m_writer.enter(style, boxOf(element, style));
     if (style.isEmptyParagraph && mrvTextIn(element).trimmed().isEmpty()) {
-        m_writer.writeEmptyParagraph(style);
+        m_writer.writeEmptyParagraph();
     } else {
         readInside(element, style.inherited(), css);
     }

@@ -124,9 +124,8 @@ void MRVHtmlWriter::endParagraph()
     m_atLineStart = true;
 }
 
-void MRVHtmlWriter::writeEmptyParagraph(const MRVHtmlStyle &style)
+void MRVHtmlWriter::writeEmptyParagraph()
 {
-    Q_UNUSED(style)
     if (m_place != Place::Open) {
         openParagraph();
     }

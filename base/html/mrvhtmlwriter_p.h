@@ -57,7 +57,7 @@ public:
     /** Ends the present paragraph, if there is one. */
     void endParagraph();
     /** Makes the paragraph of an element that shows one in any case. */
-    void writeEmptyParagraph(const MRVHtmlStyle &style);
+    void writeEmptyParagraph();
 
     void writeText(const QString &text, const MRVHtmlStyle &style);
     void writeLineEnd(const MRVHtmlStyle &style);

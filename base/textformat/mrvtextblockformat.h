@@ -24,8 +24,11 @@ public:
     static int headingLevel(const QTextBlockFormat &format);
 
     /**
-     * Writes a line spacing, the pair of MRVTextFormat::BlockSpacing and BlockBaseSpacing, in
-     * points. A heading keeps its headingLevel(). Null does nothing.
+     * Writes a line spacing. A heading keeps its headingLevel().
+     *
+     * @param format  null does nothing.
+     * @param spacing MRVTextFormat::BlockSpacing, in points.
+     * @param base    MRVTextFormat::BlockBaseSpacing, in points.
      */
     static void setLineSpacing(QTextBlockFormat *format, double spacing, double base);
 

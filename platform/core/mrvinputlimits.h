@@ -74,7 +74,7 @@ struct MRVInputLimits
     static constexpr int HtmlDepth = 2000;
     /** A parser of HTML compares each attribute of a tag with every other one. */
     static constexpr int HtmlAttributes = 256;
-    /** Elements such as "font" that a page leaves open, which a parser repeats in each paragraph. */
+    /** Elements such as "font" that a page leaves open: a parser repeats them in each paragraph. */
     static constexpr int HtmlRepeats = 1000000;
 
     // Style sheets. A rule or declaration beyond one of these three is dropped, as a faulty one is.
