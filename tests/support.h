@@ -5,6 +5,15 @@
 #include <QStandardPaths>
 #include <QtTest>
 
+/// How much longer, and with how much more memory, code runs when the sanitizers watch it.
+#ifdef MRV_SANITIZE
+constexpr int SanitizerTime = 6;
+constexpr int SanitizerMemory = 2;
+#else
+constexpr int SanitizerTime = 1;
+constexpr int SanitizerMemory = 1;
+#endif
+
 /** What a program that was run to its end has left. */
 struct Ran
 {
