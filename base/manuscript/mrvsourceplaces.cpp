@@ -76,7 +76,8 @@ private:
     {
         int position = m_position;
         while (position < m_text.size()
-               && (mrvIsBlank(m_text.at(position)) || mrvIsStructure(m_text.at(position)))) {
+               && (mrvIsBlank(m_text.at(position)) || mrvIsStructure(m_text.at(position))
+                   || isGenerated(position))) {
             ++position;
         }
         int length = 1;
@@ -92,6 +93,17 @@ private:
         m_position = position + text.size();
         m_at += length;
         return true;
+    }
+
+    // Whether a character is a mark that <q> means, which the source does not have here.
+    bool isGenerated(int position) const
+    {
+        const QChar mark = m_text.at(position);
+        const bool isMark = mark == QChar(0x2018) || mark == QChar(0x2019) || mark == QChar(0x201c)
+            || mark == QChar(0x201d);
+        return m_html && isMark
+            && (m_at >= m_source.size()
+                || (m_source.at(m_at) != mark && m_source.at(m_at) != u'&'));
     }
 
     // The text that the source means at this place, and how much of the source that is. In code of
@@ -130,7 +142,7 @@ private:
         for (; m_position < m_text.size(); ++m_position) {
             if (mrvIsBlank(m_text.at(m_position))) {
                 positions.append(m_position);
-            } else if (!mrvIsStructure(m_text.at(m_position))) {
+            } else if (!mrvIsStructure(m_text.at(m_position)) && !isGenerated(m_position)) {
                 break;
             }
         }
