@@ -1,9 +1,9 @@
 #include "css/mrvcssvalue.h"
 #include "css/mrvstylesheet.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
+#include <ctime>
 #include <deque>
 
 namespace {
@@ -462,14 +462,15 @@ void tst_Css::hostile()
     for (int i = 0; i < 1000; ++i) {
         tree.add(outer, "p.x[title=x]");
     }
-    QElapsedTimer timer;
-    timer.start();
+    // Of the process: the machine may be busy with other things.
+    const std::clock_t start = std::clock();
     MRVStyleSheet rules;
     rules.add(sheet);
     for (const MRVCssElement &element : tree.elements) {
         rules.declarations(element);
     }
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 20, qPrintable(QString::number(seconds)));
 }
 
 void tst_Css::manyElements()

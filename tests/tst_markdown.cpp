@@ -100,10 +100,11 @@ private Q_SLOTS:
         const MRVMarkdown::Options options = optionsOf(cell("options"));
         const int times = cell("times").toInt();
         QVERIFY(!MRVMarkdown::toHtml(text(20), options).isNull());
-        QElapsedTimer timer;
-        timer.start();
+        // Of the process: the machine may be busy with other things.
+        const std::clock_t start = std::clock();
         QVERIFY(MRVMarkdown::toHtml(text(times), options).isNull());
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+        const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
         QVERIFY(!MRVMarkdown::toHtml((text(20) + "\n\n").repeated(100), options).isNull());
     }
 };
@@ -111,3 +112,5 @@ private Q_SLOTS:
 QTEST_GUILESS_MAIN(TestMarkdown)
 
 #include "tst_markdown.moc"
+
+#include <ctime>
