@@ -243,7 +243,8 @@ private:
             return;
         }
         const bool isSeparate = display != MRVHtmlStyle::Inline
-            || kind.kind == MRVHtmlElement::LineEnd
+            || kind.kind == MRVHtmlElement::LineEnd || kind.kind == MRVHtmlElement::Rule
+            || kind.kind == MRVHtmlElement::Table
             || (kind.kind == MRVHtmlElement::Picture && !mrvPictureName(element).isEmpty())
             || mrvIsField(element) || mrvIsDrawn(element);
         if (isSeparate) {

@@ -94,7 +94,11 @@ void fontSize(const Value &value, MRVHtmlStyle *style)
     const int direction = wordIn(relative, value.text);
     if (direction >= 0) {
         const int before = style->text.intProperty(QTextFormat::FontSizeAdjustment);
-        setFontStep(before + (direction ? 1 : -1), style);
+        if (style->text.hasProperty(QTextFormat::FontPointSize)) {
+            setFontPixels(value.outside.fontPixels * (direction ? 1.2 : 1 / 1.2), style);
+        } else {
+            setFontStep(before + (direction ? 1 : -1), style);
+        }
         return;
     }
     qreal pixels = 0;

@@ -5,8 +5,10 @@
 
 namespace {
 
-// Qt visits all items of a list when one is added. Longer lists go on in another one.
+// Qt visits all items of a list when one is added. Longer lists go on in another one; of numbered
+// lists few are that long, as Qt's HTML numbers each list from 1.
 constexpr int MostItems = 1000;
+constexpr int MostNumberedItems = 10000;
 
 bool isSpace(QChar character)
 {
@@ -17,7 +19,7 @@ QTextBlockFormat lookOf(const MRVHtmlStyle &style)
 {
     QTextBlockFormat format;
     if (style.alignment) {
-        format.setAlignment(style.alignment & ~Qt::AlignAbsolute);
+        format.setAlignment(style.alignment);
     }
     if (style.direction != Qt::LayoutDirectionAuto) {
         format.setLayoutDirection(style.direction);
@@ -203,7 +205,8 @@ bool MRVHtmlWriter::joinList(QTextBlockFormat *format)
         return false;
     }
     box.isItemStarted = true;
-    if (list.list && list.list->count() >= MostItems) {
+    const int most = list.isNumbered() ? MostNumberedItems : MostItems;
+    if (list.list && list.list->count() >= most) {
         list.goOnWith(list.number);
     }
     if (box.marker != QTextBlockFormat::MarkerType::NoMarker) {

@@ -35,7 +35,7 @@ public:
         UnknownFormat = 2, ///< the suffix means no format, and none was set
         UnknownEncoding = 3,
         DecodingError = 4, ///< the bytes are not valid in the encoding
-        NestingError = 5, ///< elements are nested so deeply, or so many, that reading would not end
+        NestingError = 5, ///< HTML or Markdown is built so that reading would hardly end
         PictureError = 6, ///< a picture on this machine is missing or cannot be read
     };
 
@@ -44,8 +44,10 @@ public:
         Editing, ///< in the order of the source and with its characters, so that changes find it
     };
 
-    /** What the document is for; Publishing at first. For Editing, the
-     * characters of Markdown stay as they are, whatever its options. */
+    /**
+     * What the document is for; Publishing at first. For Editing, the characters of Markdown stay
+     * as they are, whatever its options.
+     */
     void setPurpose(Purpose purpose) { m_purpose = purpose; }
     /** How Markdown is read; with footnotes at first. */
     void setMarkdownOptions(MRVMarkdown::Options options) { m_options = options; }
