@@ -232,7 +232,13 @@ bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &file
                          html5 ? MRVHtmlDialect::Html5 : MRVHtmlDialect::Xhtml11, &styles);
     writer.setCollecting(true);
     const QString page = writer.write(html, documentTitle, title());
-    picturesWithoutText += page.count(QLatin1String("<img alt=\" \""));
+    const QList<QTextImageFormat> images = MTextDoc::imageFormats(document);
+    for (const QTextImageFormat &image : images) {
+        const QString name = MRVTextFormat::imageName(image);
+        if (!image.hasProperty(QTextFormat::ImageAltText) && !picturesWithoutText.contains(name)) {
+            picturesWithoutText.append(name);
+        }
+    }
 
     const Cutting cutting(writer, page);
     const MRVEPubAnchors targets = anchorTargets(cutting, fileName);
@@ -269,8 +275,8 @@ void MRVEPubBook::addPages(const Cutting &cutting)
     for (int piece = 0; piece < cutting.starts.size(); ++piece) {
         const int end = cutting.end(piece);
         MRVEPubPage result{pageName(0), QString(),
-                           page.mid(cutting.body, cutting.bodyBegin - cutting.body), QString(),
-                           anchors.size()};
+                           QString(),   page.mid(cutting.body, cutting.bodyBegin - cutting.body),
+                           QString(),   anchors.size()};
         int done = cutting.starts.at(piece);
         for (; block < blocks.size() && blocks.at(block).offset < end; ++block) {
             const MRVPageWriter::Block &heading = blocks.at(block);
@@ -301,7 +307,9 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
         }
         open.append(entry.depth);
         entry.depth = open.size() - 1;
-        entries.append(entry);
+        if (options.contentsDepth <= 0 || entry.depth < options.contentsDepth) {
+            entries.append(entry);
+        }
     }
     for (int i = 0; headings.isEmpty() && i < pages.size(); ++i) {
         const QString text = pages.size() == 1 ? title() : MRVEPubBook::tr("Section %1").arg(i + 1);
@@ -339,7 +347,7 @@ QString MRVEPubBook::resolved(const QString &href, int document) const
     return url.isValid() && (web || mail) ? QString::fromLatin1(url.toEncoded()) : QString();
 }
 
-QString MRVEPubBook::pageText(const MRVEPubPage &page) const
+QByteArray MRVEPubBook::pageBytes(const MRVEPubPage &page) const
 {
     const QLatin1String opening("<a href=\"");
     const QLatin1String closing("</a>");
@@ -365,7 +373,7 @@ QString MRVEPubBook::pageText(const MRVEPubPage &page) const
         }
     }
     body.append(all.data() + done, page.body.size() - done);
-    return framed(page.title.isEmpty() ? title() : page.title, page.bodyTag, body);
+    return framed(page.title.isEmpty() ? title() : page.title, page.bodyTag, body).toUtf8();
 }
 
 QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
@@ -389,7 +397,7 @@ QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
         + bodyTag + body + QLatin1String("</body></html>\n");
 }
 
-QString MRVEPubBook::coverText() const
+QByteArray MRVEPubBook::coverBytes() const
 {
     QString body;
     const QString shownTitle = title().toHtmlEscaped();
@@ -411,10 +419,11 @@ QString MRVEPubBook::coverText() const
     const bool html5 = version == MRVEPubVersion::EPub3;
     return framed(title(),
                   html5 ? QStringLiteral("<body epub:type=\"cover\">") : QStringLiteral("<body>"),
-                  body);
+                  body)
+        .toUtf8();
 }
 
-QString MRVEPubBook::styleSheet() const
+QByteArray MRVEPubBook::styleSheet() const
 {
     MRVTextXhtmlExporter::StyleList own = styles;
     for (QHash<QString, QString> &rules : own) {
@@ -423,15 +432,17 @@ QString MRVEPubBook::styleSheet() const
             rule = rule->contains(QLatin1String("url(")) ? rules.erase(rule) : ++rule;
         }
     }
-    return MRVTextXhtmlExporter::styleSheetText(own)
+    const QString text =
+        MRVTextXhtmlExporter::styleSheetText(own)
         + QLatin1String(
-               "img {\n    height: auto;\n    max-width: 100%;\n}\n"
-               "nav ol {\n    list-style-type: none;\n}\n"
-               ".unlinked, .unlinked span {\n    color: inherit;\n    text-decoration: none;\n}\n"
-               ".cover {\n    text-align: center;\n}\n"
-               ".cover img {\n    max-height: 95vh;\n}\n"
-               ".cover-title {\n    margin-top: 25%;\n}\n"
-               ".cover-author {\n    font-size: 120%;\n    margin-top: 2em;\n}\n");
+            "img {\n    height: auto;\n    max-width: 100%;\n}\n"
+            "nav ol {\n    list-style-type: none;\n}\n"
+            ".unlinked, .unlinked span {\n    color: inherit;\n    text-decoration: none;\n}\n"
+            ".cover {\n    text-align: center;\n}\n"
+            ".cover img {\n    max-height: 95vh;\n}\n"
+            ".cover-title {\n    margin-top: 25%;\n}\n"
+            ".cover-author {\n    font-size: 120%;\n    margin-top: 2em;\n}\n");
+    return text.toUtf8();
 }
 
 QString MRVEPubBook::title() const

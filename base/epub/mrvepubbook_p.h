@@ -1,6 +1,7 @@
 #pragma once
 
 #include "epub/mrvepubmetadata.h"
+#include "epub/mrvepuboptions.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,13 @@ struct MRVEPubEntry
     int depth = 0;
 };
 
+/** Where a page of the printed edition begins. */
+struct MRVEPubPageBreak
+{
+    QString label; // the printed number: "12", "xii"
+    QString target; // "page.xhtml#id"
+};
+
 /**
  * A page of the book. Its body is kept until all documents are in, when its links can be resolved.
  */
@@ -22,6 +30,8 @@ struct MRVEPubPage
 {
     QString fileName;
     QString title;
+    // As epub:type has it: "titlepage", "chapter", "part", "glossary"...; empty where nothing tells.
+    QString type;
     QString bodyTag;
     QString body;
     int document = 0; // the one it is a piece of
@@ -51,13 +61,17 @@ struct MRVEPubBook
 public:
     MRVEPubVersion version = MRVEPubVersion::EPub3;
     MRVEPubMetadata metadata;
-    QVector<MRVEPubPage> pages;
+    MRVEPubOptions options;
+    QVector<MRVEPubPage> pages; // in reading order
     QVector<MRVEPubEntry> headings; // of all pages, depth counted from heading level 1 as 0
     QVector<MRVEPubFile> pictures;
     QVector<MRVEPubAnchors> anchors; // by document
     MRVTextXhtmlExporter::StyleList styles;
     QHash<QByteArray, QString> picturePaths; // by digest of the bytes
-    int picturesWithoutText = 0;
+    QStringList picturesWithoutText; // names, each once; those marked as decoration do not count
+    QVector<MRVEPubPageBreak> pageBreaks; // in reading order
+    QStringList languages; // of the text, beside the book's own, each once
+    int notes = 0; // that are linked with a mark
 
     /**
      * Adds the cover's picture, which has to come before all others; one that readers cannot show
@@ -66,12 +80,17 @@ public:
     void addCover();
     bool addDocument(const QTextDocument &document, const QString &fileName, QString *error);
 
-    /** The headings as entries without gaps in depth; of a book without headings its pages. */
+    /**
+     * The headings as entries without gaps in depth, as deep as the options say; of a book without
+     * headings its pages.
+     */
     QVector<MRVEPubEntry> contents() const;
-    /** The page with its links resolved. */
-    QString pageText(const MRVEPubPage &page) const;
-    QString coverText() const;
-    QString styleSheet() const;
+    /** Whether there is a page for the cover: for its picture, or where the book is empty. */
+    bool hasCoverPage() const { return !metadata.cover.isEmpty() || pages.isEmpty(); }
+    /** The page with its links resolved. May be called from several threads. */
+    QByteArray pageBytes(const MRVEPubPage &page) const;
+    QByteArray coverBytes() const;
+    QByteArray styleSheet() const;
     /** A whole page of the book around a body. */
     QString framed(const QString &title, const QString &bodyTag, const QString &body) const;
     QString title() const;

@@ -35,7 +35,7 @@ void writeProperty(QXmlStreamWriter *xml, const QString &property, const QString
 // The metadata that the W3C's EPUB Accessibility 1.0 (section 3.2) requires of a package.
 void writeAccessibility(QXmlStreamWriter *xml, const MRVEPubBook &book)
 {
-    const bool described = book.picturesWithoutText == 0;
+    const bool described = book.picturesWithoutText.isEmpty();
     writeProperty(xml, QStringLiteral("schema:accessMode"), QStringLiteral("textual"));
     if (!book.pictures.isEmpty()) {
         writeProperty(xml, QStringLiteral("schema:accessMode"), QStringLiteral("visual"));

@@ -57,11 +57,13 @@ QString identifierOf(const MRVEPubBook &book)
 
 } // namespace
 
-MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &metadata)
+MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &metadata,
+                               const MRVEPubOptions &options)
     : m_book(std::make_unique<MRVEPubBook>())
 {
     m_book->version = version;
     m_book->metadata = metadata;
+    m_book->options = options;
     m_book->addCover();
 }
 
@@ -110,10 +112,10 @@ QByteArray MRVEPubPackage::toByteArray(QString *error) const
         add(Folder + QLatin1String("nav.xhtml"), mrvEPubNavigation(*m_book));
     }
     add(Folder + QLatin1String("toc.ncx"), mrvEPubNcx(*m_book, identifier));
-    add(Folder + QLatin1String("css/stylesheet.css"), m_book->styleSheet().toUtf8());
-    add(Folder + QLatin1String("cover.xhtml"), m_book->coverText().toUtf8());
+    add(Folder + QLatin1String("css/stylesheet.css"), m_book->styleSheet());
+    add(Folder + QLatin1String("cover.xhtml"), m_book->coverBytes());
     for (const MRVEPubPage &page : qAsConst(m_book->pages)) {
-        add(Folder + page.fileName, m_book->pageText(page).toUtf8());
+        add(Folder + page.fileName, m_book->pageBytes(page));
     }
     for (const MRVEPubFile &picture : qAsConst(m_book->pictures)) {
         add(Folder + picture.path, picture.bytes);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "epub/mrvepubmetadata.h"
+#include "epub/mrvepuboptions.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -54,7 +55,8 @@ public:
      *                 counts, so the bytes differ from one call to the next.
      */
     explicit MRVEPubPackage(MRVEPubVersion version = MRVEPubVersion::EPub3,
-                            const MRVEPubMetadata &metadata = MRVEPubMetadata());
+                            const MRVEPubMetadata &metadata = MRVEPubMetadata(),
+                            const MRVEPubOptions &options = MRVEPubOptions());
     ~MRVEPubPackage();
     MRVEPubPackage(const MRVEPubPackage &) = delete;
     MRVEPubPackage &operator=(const MRVEPubPackage &) = delete;

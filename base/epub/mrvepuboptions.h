@@ -1,0 +1,41 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QByteArray>
+
+/**
+ * How an e-book presents its text: what its style sheet begins with, where its notes stand, how
+ * deep its table of contents goes.
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVEPubOptions
+{
+    /** The typography that what the manuscripts say about their looks is added to. */
+    enum StyleBase {
+        NoStyle, ///< the reading system's own
+        Classic, ///< as novels are set: paragraphs indented after the first one
+        Modern, ///< paragraphs separated by space
+    };
+
+    /** Where notes stand that the manuscripts link with a mark in the text. */
+    enum Notes {
+        ChapterNotes, ///< at the end of the page with the mark
+        BookNotes, ///< on a page of their own at the end of the book
+    };
+
+    StyleBase styleBase = Classic;
+    /**
+     * CSS in UTF-8 that takes the place of the base; empty: the base. It is not parsed. Bytes that
+     * are not UTF-8 are replaced.
+     */
+    QByteArray styleSheet;
+    Notes notes = ChapterNotes;
+    /**
+     * Whether inline annotations and inline footnotes of a document leave the text and become
+     * notes. Otherwise they are text as any other.
+     */
+    bool commentsAsNotes = false;
+    /** How many levels of headings the table of contents shows; 0: all. */
+    int contentsDepth = 0;
+};
