@@ -68,6 +68,17 @@ void package(benchmark::State &state)
         [&] { benchmark::DoNotOptimize(document->toHtml("utf-8")); });
 }
 
+// The last step of it alone: the links, the archive.
+void packing(benchmark::State &state)
+{
+    const auto document = novel(int(state.range(0)));
+    MRVEPubPackage book;
+    book.addDocument(*document);
+    compare(
+        state, [&] { benchmark::DoNotOptimize(book.toByteArray()); },
+        [&] { benchmark::DoNotOptimize(document->toHtml("utf-8")); });
+}
+
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->Arg(10000)->Arg(100000)->Arg(1000000)->Iterations(1)->Unit(benchmark::kMillisecond);
@@ -78,5 +89,6 @@ BENCHMARK(eBookFile)->Apply(sizes);
 BENCHMARK(wholeTextChain)->Apply(sizes);
 BENCHMARK(manyStyles)->Apply(sizes);
 BENCHMARK(package)->Apply(sizes);
+BENCHMARK(packing)->Apply(sizes);
 
 } // namespace

@@ -12,6 +12,8 @@
 
 #include <KZip>
 
+#include <sched.h>
+
 namespace {
 
 QDateTime someDay()
@@ -234,6 +236,15 @@ private Q_SLOTS:
         };
         const QByteArray book = made();
         QCOMPARE(book, made());
+        cpu_set_t cores;
+        cpu_set_t one;
+        CPU_ZERO(&one);
+        QCOMPARE(sched_getaffinity(0, sizeof cores, &cores), 0);
+        CPU_SET(sched_getcpu(), &one);
+        QCOMPARE(sched_setaffinity(0, sizeof one, &one), 0);
+        const QByteArray onOneCore = made();
+        QCOMPARE(sched_setaffinity(0, sizeof cores, &cores), 0);
+        QCOMPARE(onOneCore, book);
         QCOMPARE(book.mid(30, 28),
                  QByteArray("mimetypeapplication/epub+zip")); // first, stored, no extra field
         metadata.modified = someDay().addSecs(3600);
@@ -241,6 +252,19 @@ private Q_SLOTS:
         const QString identifier =
             unpacked(book)["OEBPS/content.opf"].section("urn:uuid:", 1).section('<', 0, 0);
         QVERIFY(unpacked(made())["OEBPS/content.opf"].contains(identifier)); // it is the same book
+
+        // Pictures are compressed already.
+        QByteArray bytes = book;
+        QBuffer buffer(&bytes);
+        KZip zip(&buffer);
+        QVERIFY(zip.open(QIODevice::ReadOnly));
+        const QMap<QString, int> methods{{"page-001.xhtml", 8}, {"images/pic-1.png", 0}};
+        for (const QString &name : methods.keys()) {
+            const auto *file =
+                static_cast<const KZipFileEntry *>(zip.directory()->entry("OEBPS/" + name));
+            QVERIFY(file);
+            QCOMPARE(file->encoding(), methods[name]);
+        }
 
         QTemporaryDir folder;
         MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);

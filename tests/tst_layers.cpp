@@ -65,7 +65,7 @@ constexpr Module modules[] = {
     {"base/update",      7, "Core Gui Network Widgets Xml"},
     {"base/xhtml",       7, "Core Gui"},
 
-    {"base/epub",        8, "Core Gui KZip KArchive"},
+    {"base/epub",        8, "Core Gui libdeflate.h zip.h"},
     {"base/publish",     8, "Core Gui"},
 
     {"plugins/webview",  ProgramLayer, "Core Gui Network Widgets WebKit WebKitWidgets"},

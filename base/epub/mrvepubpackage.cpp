@@ -1,6 +1,7 @@
 #include "epub/mrvepubpackage.h"
 
 #include "epub/mrvepubbook_p.h"
+#include "epub/mrvziparchive_p.h"
 #include "manuscript/mrvmanuscript.h"
 #include "util/mrvfailure.h"
 #include "xhtml/mrvhtmltext.h"
@@ -8,15 +9,12 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvxmltext.h"
 
-#include <KZip>
-#include <QBuffer>
 #include <QCryptographicHash>
 #include <QUuid>
 
 namespace {
 
 const QLatin1String Folder("OEBPS/");
-constexpr mode_t FileMode = 0100644;
 
 constexpr char Container[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -44,7 +42,7 @@ QString identifierOf(const MRVEPubBook &book)
     if (!given.isEmpty()) {
         return given;
     }
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    QCryptographicHash hash(QCryptographicHash::Sha1); // as the UUID is computed of it
     hash.addData(book.title().toUtf8() + '\n' + book.metadata.authors.join(u'\n').toUtf8());
     for (const MRVEPubPage &page : book.pages) {
         hash.addData(page.body.toUtf8());
@@ -53,6 +51,37 @@ QString identifierOf(const MRVEPubBook &book)
     const QUuid space(0x6d727665, 0x7075, 0x4b21, 0x9b, 0x4e, 0x2f, 0x61, 0x0c, 0x7d, 0x55, 0x10);
     return QLatin1String("urn:uuid:")
         + QUuid::createUuidV5(space, hash.result()).toString(QUuid::WithoutBraces);
+}
+
+std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modified)
+{
+    const QString identifier = identifierOf(book);
+    std::vector<MRVZipEntry> files;
+    const auto add = [&](const QString &path, const QByteArray &bytes,
+                         MRVZipEntry::Packing packing = MRVZipEntry::Deflated) {
+        files.push_back({path, packing, [bytes] { return bytes; }});
+    };
+    // The type comes first and uncompressed, for programs that read the first bytes only (OCF 3.2,
+    // section 4.3).
+    add(QStringLiteral("mimetype"), QByteArrayLiteral("application/epub+zip"), MRVZipEntry::Stored);
+    add(QStringLiteral("META-INF/container.xml"), QByteArray(Container));
+    add(Folder + QLatin1String("content.opf"), mrvEPubPackageDocument(book, identifier, modified));
+    if (book.version == MRVEPubVersion::EPub3) {
+        add(Folder + QLatin1String("nav.xhtml"), mrvEPubNavigation(book));
+    }
+    add(Folder + QLatin1String("toc.ncx"), mrvEPubNcx(book, identifier));
+    add(Folder + QLatin1String("css/stylesheet.css"), book.styleSheet());
+    add(Folder + QLatin1String("cover.xhtml"), book.coverBytes());
+    for (const MRVEPubPage &page : book.pages) {
+        files.push_back({Folder + page.fileName, MRVZipEntry::Deflated,
+                         [&book, &page] { return book.pageBytes(page); }});
+    }
+    for (const MRVEPubFile &picture : book.pictures) {
+        const bool isText = picture.mediaType == QLatin1String("image/svg+xml");
+        add(Folder + picture.path, picture.bytes,
+            isText ? MRVZipEntry::Deflated : MRVZipEntry::Stored);
+    }
+    return files;
 }
 
 } // namespace
@@ -90,42 +119,11 @@ QByteArray MRVEPubPackage::toByteArray(QString *error) const
     const QDateTime modified = m_book->metadata.modified.isValid()
         ? m_book->metadata.modified
         : QDateTime::currentDateTimeUtc();
-    const QDateTime date = archiveDate(modified);
-    const QString identifier = identifierOf(*m_book);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    KZip zip(&buffer);
-    bool ok = zip.open(QIODevice::WriteOnly);
-    auto add = [&](const QString &path, const QByteArray &data) {
-        ok = ok && zip.writeFile(path, data, FileMode, QString(), QString(), date, date, date);
-    };
-    zip.setExtraField(KZip::NoExtraField);
-    // The type comes first and uncompressed, for programs that read the first bytes only (OCF 3.2,
-    // section 4.3).
-    zip.setCompression(KZip::NoCompression);
-    add(QStringLiteral("mimetype"), QByteArrayLiteral("application/epub+zip"));
-    zip.setCompression(KZip::DeflateCompression);
-    add(QStringLiteral("META-INF/container.xml"), QByteArray(Container));
-    add(Folder + QLatin1String("content.opf"),
-        mrvEPubPackageDocument(*m_book, identifier, modified));
-    if (m_book->version == MRVEPubVersion::EPub3) {
-        add(Folder + QLatin1String("nav.xhtml"), mrvEPubNavigation(*m_book));
-    }
-    add(Folder + QLatin1String("toc.ncx"), mrvEPubNcx(*m_book, identifier));
-    add(Folder + QLatin1String("css/stylesheet.css"), m_book->styleSheet());
-    add(Folder + QLatin1String("cover.xhtml"), m_book->coverBytes());
-    for (const MRVEPubPage &page : qAsConst(m_book->pages)) {
-        add(Folder + page.fileName, m_book->pageBytes(page));
-    }
-    for (const MRVEPubFile &picture : qAsConst(m_book->pictures)) {
-        add(Folder + picture.path, picture.bytes);
-    }
-    ok = zip.close() && ok;
-    if (!ok) {
-        if (error) {
-            *error = tr("The e-book cannot be packed: %1").arg(zip.errorString());
-        }
-        return QByteArray();
+    QString reason;
+    const QByteArray bytes =
+        mrvZipArchive(filesOf(*m_book, modified), archiveDate(modified), &reason);
+    if (bytes.isEmpty()) {
+        MRV::fail(error, tr("The e-book cannot be packed: %1").arg(reason));
     }
     return bytes;
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/** A file of an archive that is to be written. */
+struct MRVZipEntry
+{
+    enum Packing {
+        Stored, ///< as it is, for what is compressed already
+        Deflated, ///< unless that would make it larger
+    };
+
+    QString path; // with "/" between folders
+    Packing packing = Deflated;
+    /** Makes the file. It is called once, in any thread, at the same time as those of others. */
+    std::function<QByteArray()> content;
+};
+
+/**
+ * A zip archive of the files in their order, without extra fields and with one date for all.
+ *
+ * The files are made and compressed on all cores, in threads that end before the function returns;
+ * the bytes do not depend on how many these are.
+ *
+ * @param date  1980 to 2107, of which the time of day of UTC is written.
+ * @param error if given, receives the library's reason on failure; untouched on success.
+ * @return empty on failure.
+ */
+QByteArray mrvZipArchive(const std::vector<MRVZipEntry> &entries, const QDateTime &date,
+                         QString *error);
