@@ -3,8 +3,8 @@
 #include "core/mrvfilewriter.h"
 #include "download/mrvdownloadsilentinput.h"
 #include "download/mrvdownloadurl.h"
-#include "publish/mrvtemporaryfolder.h"
 #include "update/mrvupdatemodel.h"
+#include "util/mrvtemporaryfolder.h"
 #include "version/mversion.h"
 
 #include <QCoreApplication>

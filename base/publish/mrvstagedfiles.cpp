@@ -1,8 +1,8 @@
 #include "publish/mrvstagedfiles.h"
 
 #include "publish/mrvnewfolders_p.h"
-#include "publish/mrvtemporaryfolder.h"
 #include "util/mrvfailure.h"
+#include "util/mrvtemporaryfolder.h"
 
 #include "core/mrvcoreutil.h"
 

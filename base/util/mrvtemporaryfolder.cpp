@@ -1,4 +1,4 @@
-#include "publish/mrvtemporaryfolder.h"
+#include "util/mrvtemporaryfolder.h"
 
 #include <QDir>
 #include <QFile>
