@@ -290,7 +290,7 @@ constexpr Option metadata[] = {
 const Command exportCommand = {
     "export",
     "write manuscripts as HTML, XHTML or e-books",
-    "Writes manuscripts (HTML, Markdown or plain text; - is standard input) as pages or e-books. "
+    "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is standard input) as pages or e-books. "
     "Several inputs become one e-book, or a page each.",
     "export novel.html --to epub --cover cover.png -o novel.epub\n"
     "export one.md two.md --to epub --title \"Both\" -o both.epub\n"

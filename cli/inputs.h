@@ -13,9 +13,9 @@
 /** Options that tell how manuscripts are to be read. */
 constexpr Option manuscriptFormat(const char *verbs = nullptr)
 {
-    return Option::choice("from", "FORMAT", "html markdown text",
-                          "The format of the input: html, markdown or text. Default: by its "
-                          "suffix.",
+    return Option::choice("from", "FORMAT", "html markdown text docx odt rtf",
+                          "The format of the input: html, markdown, text, docx, odt or rtf. "
+                          "Default: by its suffix.",
                           verbs);
 }
 constexpr Option manuscriptEncoding(const char *verbs = nullptr)
@@ -27,7 +27,7 @@ constexpr Option manuscriptEncoding(const char *verbs = nullptr)
 /** How to read an input. Empty texts: find out. */
 struct InputOptions
 {
-    QString format; // "html", "markdown" or "text"
+    QString format; // of MRVManuscript::formatNames()
     QString encoding;
     bool pictures = false; // false: leave them, and what names them, alone
     bool strict = false; // refuse a manuscript of which the document lacks something

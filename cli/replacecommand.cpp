@@ -191,7 +191,7 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     // Also where nothing will be written, so that a dry run refuses what the real one would.
     const auto mode = options.rewrite ? MRVSourceEdit::WriteAnew : MRVSourceEdit::KeepMarkup;
     QString reason;
-    if (!changes.isEmpty()
+    if ((!changes.isEmpty() || manuscript.isConverted())
         && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason)) {
         *error = QStringLiteral("%1: %2; nothing was changed").arg(path, reason);
         return false;

@@ -36,6 +36,7 @@ constexpr OutsideProgram outsidePrograms[] = {
     {"lighttpd", "lighttpd"},
     {"nginx", "nginx-light"},
     {"openssl", "openssl"},
+    {"pandoc", "pandoc"},
     {"pkg-config", "pkg-config"},
     {"readelf", "binutils"},
     {"script", "bsdutils"},

@@ -14,13 +14,16 @@ constexpr struct
     {MRVManuscript::Html, "html", "html htm xhtml"},
     {MRVManuscript::Markdown, "markdown", "md markdown mkd mdown"},
     {MRVManuscript::PlainText, "text", "txt text fountain"},
+    {MRVManuscript::Docx, "docx", "docx"},
+    {MRVManuscript::Odt, "odt", "odt"},
+    {MRVManuscript::Rtf, "rtf", "rtf"},
 };
 
 } // namespace
 
 QStringList MRVManuscript::readingNotes() const
 {
-    QStringList notes;
+    QStringList notes = conversionNotes;
     for (const MRVHtmlLoss &loss : report.losses) {
         notes.append(tr("line %1: not in the document: %2").arg(loss.line).arg(loss.what));
     }

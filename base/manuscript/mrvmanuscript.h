@@ -40,7 +40,7 @@ struct MRVBASE_EXPORT MRVManuscript
     Q_DECLARE_TR_FUNCTIONS(MRVManuscript)
 
 public:
-    enum Format { Unknown = 0, Html = 1, Markdown = 2, PlainText = 3 };
+    enum Format { Unknown = 0, Html = 1, Markdown = 2, PlainText = 3, Docx = 4, Odt = 5, Rtf = 6 };
 
     /** As the reader was given it; for bytes that are in no file, what messages call them. */
     QString path;
@@ -48,7 +48,7 @@ public:
     QString fileName;
     Format format = Unknown;
     MRVMarkdown::Options options; ///< with which Markdown was read
-    QByteArray encoding; ///< as QTextCodec calls it
+    QByteArray encoding; ///< as QTextCodec calls it; empty where isConverted()
     QByteArray bytes; ///< as they were read
 
     std::unique_ptr<QTextDocument> document; ///< keeps no undo history; null until read
@@ -61,6 +61,7 @@ public:
     QStringList pictures; ///< files that it shows, each once, in order of appearance
     /** What reading found out beside the text: style sheets that are missing, and losses. */
     MRVHtmlReport report;
+    QStringList conversionNotes; ///< the converter's own, in English, where isConverted()
     int remotePictures = 0; ///< pictures on other machines that it shows; they are not loaded
 
     /** Whether the document holds all words, links and pictures that the source shows. */
@@ -68,10 +69,19 @@ public:
     /** What a writer should know about the reading, a translated line each; see report. */
     QStringList readingNotes() const;
 
-    /** The bytes as a text, markup included, without a byte-order mark; empty until read. */
+    /**
+     * Whether the file is no text, and a program that is installed has made a page of it: DOCX, ODT
+     * and RTF, see MRVOfficeConverter.
+     */
+    bool isConverted() const { return format >= Docx; }
+
+    /**
+     * The bytes as a text, markup included, without a byte-order mark; empty until read, and where
+     * isConverted().
+     */
     QString sourceText() const;
 
-    /** "html", "markdown" and "text": Html, Markdown and PlainText. */
+    /** "html", "markdown", "text", "docx", "odt" and "rtf", in the order of Format from Html. */
     static QStringList formatNames();
     /** The format with one of formatNames(); Unknown for any other text. */
     static Format formatNamed(const QString &name);

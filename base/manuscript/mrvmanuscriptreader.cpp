@@ -4,11 +4,41 @@
 #include "input/mrvtextdecoder.h"
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvmanuscriptpictures_p.h"
+#include "office/mrvofficeconverter.h"
 
 #include "core/mrvcoreutil.h"
 
 #include <QFileInfo>
 #include <QTextCodec>
+
+namespace {
+
+MRVFormat::Format officeFormat(MRVManuscript::Format format)
+{
+    switch (format) {
+    case MRVManuscript::Docx:
+        return MRVFormat::DOCX;
+    case MRVManuscript::Odt:
+        return MRVFormat::ODT;
+    case MRVManuscript::Rtf:
+        return MRVFormat::RTF;
+    default:
+        return MRVFormat::NoFormat;
+    }
+}
+
+MRVManuscript::Format formatOfBytes(const QByteArray &bytes)
+{
+    const MRVFormat::Format office = MRVOfficeConverter::formatOf(bytes);
+    for (const auto format : {MRVManuscript::Docx, MRVManuscript::Odt, MRVManuscript::Rtf}) {
+        if (office == officeFormat(format)) {
+            return format;
+        }
+    }
+    return MRVHtmlReader::looksLikeHtml(bytes) ? MRVManuscript::Html : MRVManuscript::PlainText;
+}
+
+} // namespace
 
 bool MRVManuscriptReader::read(const QString &path, MRVManuscript *manuscript)
 {
@@ -32,10 +62,7 @@ bool MRVManuscriptReader::readBytes(const QByteArray &bytes, const QString &name
     MRVManuscript read;
     read.path = name;
     read.bytes = bytes;
-    const bool html = MRVHtmlReader::looksLikeHtml(bytes);
-    read.format = m_format != MRVManuscript::Unknown ? m_format
-        : html                                       ? MRVManuscript::Html
-                                                     : MRVManuscript::PlainText;
+    read.format = m_format == MRVManuscript::Unknown ? formatOfBytes(bytes) : m_format;
     return readBytes(folder, &read, manuscript);
 }
 
@@ -48,7 +75,8 @@ bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
     if (read->format == MRVManuscript::Unknown) {
         return fail(UnknownFormat, *read, tr("unknown type of file"));
     }
-    if (!decode(read, &text) || !readDocument(text, folder, read)
+    const bool hasText = read->isConverted() ? convert(read, &text) : decode(read, &text);
+    if (!hasText || !readDocument(text, folder, read)
         || (m_loadsPictures && !loadPictures(folder, read))) {
         return false;
     }
@@ -83,10 +111,20 @@ bool MRVManuscriptReader::decode(MRVManuscript *read, QString *text)
                 tr("not readable as %1").arg(QString::fromLatin1(read->encoding)));
 }
 
+bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
+{
+    MRVOfficeConverter converter;
+    converter.setEmbedsPictures(m_loadsPictures);
+    QString reason;
+    *text = converter.toHtml(read->bytes, officeFormat(read->format), &reason);
+    read->conversionNotes = converter.warnings();
+    return !text->isNull() || fail(ConversionError, *read, reason);
+}
+
 bool MRVManuscriptReader::readDocument(const QString &text, const QString &folder,
                                        MRVManuscript *read)
 {
-    if (read->format == MRVManuscript::Html) {
+    if (read->format == MRVManuscript::Html || read->isConverted()) {
         const MRVHtmlHead head = MRVHtmlReader::head(text);
         read->authors = head.authors;
         read->description = head.description;

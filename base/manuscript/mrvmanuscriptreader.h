@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 
 /**
- * Reads manuscripts: HTML, Markdown and plain text.
+ * Reads manuscripts: HTML, Markdown and plain text; DOCX, ODT and RTF where MRVOfficeConverter can.
  *
  * The encoding is the one that was set, else that of a byte-order mark, of an XML declaration, of
  * the head of HTML, else UTF-8. The names of pictures count from the folder of the file. Nothing is
@@ -37,6 +37,7 @@ public:
         DecodingError = 4, ///< the bytes are not valid in the encoding
         NestingError = 5, ///< HTML or Markdown is built so that reading would hardly end
         PictureError = 6, ///< a picture on this machine is missing or cannot be read
+        ConversionError = 7, ///< no installed program can read the DOCX, ODT or RTF
     };
 
     enum Purpose {
@@ -68,7 +69,7 @@ public:
     bool read(const QString &path, MRVManuscript *manuscript);
     /**
      * Reads @p bytes that are in no file, such as those of standard input. Where no format is set,
-     * they are HTML if they begin like it, else plain text.
+     * they are DOCX, ODT, RTF or HTML if they begin like it, else plain text.
      *
      * @param name       what messages call the bytes.
      * @param folder     where the names of pictures count from.
@@ -86,6 +87,7 @@ public:
 private:
     bool readBytes(const QString &folder, MRVManuscript *read, MRVManuscript *manuscript);
     bool decode(MRVManuscript *read, QString *text);
+    bool convert(MRVManuscript *read, QString *text);
     bool readDocument(const QString &text, const QString &folder, MRVManuscript *read);
     bool loadPictures(const QString &folder, MRVManuscript *read);
     bool fail(Error error, const MRVManuscript &read, const QString &reason);

@@ -255,6 +255,9 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
                                  const QVector<MRVTextChange> &wanted, Mode mode, QByteArray *bytes,
                                  QString *error)
 {
+    if (manuscript.isConverted()) {
+        return MRV::fail(error, tr("a file of a word processor is read, but not changed"));
+    }
     const QVector<MRVTextChange> changes = asInserted(wanted);
     const QString before = manuscript.document->toRawText();
     const QString after = changedText(before, changes);

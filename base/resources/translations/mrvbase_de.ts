@@ -459,6 +459,37 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOfficeConverter</name>
+    <message>
+        <source>no program is known that reads %1</source>
+        <translation>es ist kein Programm bekannt, das %1 liest</translation>
+    </message>
+    <message>
+        <source>reading %1 needs the program %2, which is not installed (Debian: apt install %3)</source>
+        <translation>zum Lesen von %1 ist das Programm %2 nötig, das nicht installiert ist (Debian: apt install %3)</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>es lässt sich nicht starten</translation>
+    </message>
+    <message>
+        <source>it was not done after %1 seconds</source>
+        <translation>es war nach %1 Sekunden nicht fertig</translation>
+    </message>
+    <message>
+        <source>its result is larger than %1 MB</source>
+        <translation>sein Ergebnis ist größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>es braucht mehr als %1 MB Speicher</translation>
+    </message>
+    <message>
+        <source>it has failed without a reason</source>
+        <translation>es ist ohne Angabe eines Grundes fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>MRVOptions</name>
     <message>
         <source>Editor</source>
@@ -2466,6 +2497,10 @@ Fehler: %2</translation>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
         <translation>die Kodierung %1 lässt sich nicht so zurückschreiben, wie sie war</translation>
+    </message>
+    <message>
+        <source>a file of a word processor is read, but not changed</source>
+        <translation>eine Datei einer Textverarbeitung wird gelesen, aber nicht geändert</translation>
     </message>
 </context>
 <context>

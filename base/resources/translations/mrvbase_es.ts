@@ -459,6 +459,37 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOfficeConverter</name>
+    <message>
+        <source>no program is known that reads %1</source>
+        <translation>no se conoce ningún programa que lea %1</translation>
+    </message>
+    <message>
+        <source>reading %1 needs the program %2, which is not installed (Debian: apt install %3)</source>
+        <translation>para leer %1 hace falta el programa %2, que no está instalado (Debian: apt install %3)</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>no se puede iniciar</translation>
+    </message>
+    <message>
+        <source>it was not done after %1 seconds</source>
+        <translation>no había terminado tras %1 segundos</translation>
+    </message>
+    <message>
+        <source>its result is larger than %1 MB</source>
+        <translation>su resultado supera %1 MB</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>necesita más de %1 MB de memoria</translation>
+    </message>
+    <message>
+        <source>it has failed without a reason</source>
+        <translation>ha fallado sin dar una razón</translation>
+    </message>
+</context>
+<context>
     <name>MRVOptions</name>
     <message>
         <source>Editor</source>
@@ -2466,6 +2497,10 @@ Error: %2</translation>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
         <translation>la codificación %1 no se puede volver a escribir como estaba</translation>
+    </message>
+    <message>
+        <source>a file of a word processor is read, but not changed</source>
+        <translation>un archivo de un procesador de textos se lee, pero no se modifica</translation>
     </message>
 </context>
 <context>

@@ -459,6 +459,37 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVOfficeConverter</name>
+    <message>
+        <source>no program is known that reads %1</source>
+        <translation>aucun programme connu ne lit %1</translation>
+    </message>
+    <message>
+        <source>reading %1 needs the program %2, which is not installed (Debian: apt install %3)</source>
+        <translation>lire %1 demande le programme %2, qui n’est pas installé (Debian&#xa0;: apt install %3)</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>il ne peut pas être lancé</translation>
+    </message>
+    <message>
+        <source>it was not done after %1 seconds</source>
+        <translation>il n’avait pas terminé après %1 secondes</translation>
+    </message>
+    <message>
+        <source>its result is larger than %1 MB</source>
+        <translation>son résultat dépasse %1 Mo</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>il lui faut plus de %1 Mo de mémoire</translation>
+    </message>
+    <message>
+        <source>it has failed without a reason</source>
+        <translation>il a échoué sans donner de raison</translation>
+    </message>
+</context>
+<context>
     <name>MRVOptions</name>
     <message>
         <source>Editor</source>
@@ -2466,6 +2497,10 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
         <translation>l’encodage %1 ne peut pas être réécrit tel qu’il était</translation>
+    </message>
+    <message>
+        <source>a file of a word processor is read, but not changed</source>
+        <translation>un fichier de traitement de texte est lu, mais n’est pas modifié</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/** What a program may use before it is ended. */
+struct MRVProgramLimits
+{
+    int milliseconds;
+    qint64 memory; ///< bytes of address space, of each process
+    qint64 output; ///< bytes of what it writes to one file
+};
+
+/** How a program ended, and what it wrote. */
+struct MRVProgramResult
+{
+    enum End { Exited, NotStarted, OutOfTime, TooMuchOutput, Crashed };
+    End end = NotStarted;
+    int exitCode = -1; ///< of Exited
+    QByteArray output;
+    QByteArray errors;
+};
+
+/**
+ * Runs a program, without a shell, to its end or to one of the limits, with all processes that it
+ * starts. They end with this process, too.
+ *
+ * The program has none of the environment's variables, so that its result depends on its input
+ * alone: its locale is C.UTF-8, and its home and working folder is @p folder. What it writes to its
+ * standard streams goes to files there, which a limit of the system bounds.
+ *
+ * @param program   a path.
+ * @param input     a file that is its standard input.
+ * @param folder    exists, for this run alone.
+ */
+MRVProgramResult mrvRunLimited(const QString &program, const QStringList &arguments,
+                               const QString &input, const QString &folder,
+                               const MRVProgramLimits &limits);

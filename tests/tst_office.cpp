@@ -1,0 +1,106 @@
+#include "datarows.h"
+#include "support.h"
+
+#include "manuscript/mrvmanuscriptreader.h"
+#include "manuscript/mrvsourceedit.h"
+#include "office/mrvofficeconverter.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+/// Documents of word processors, read by the program that is installed, and by faulty ones.
+class tst_Office : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QVERIFY(QDir(m_folder->path()).mkdir("tmp"));
+        qputenv("TMPDIR", m_folder->filePath("tmp").toUtf8());
+    }
+
+    void cleanup()
+    {
+        qputenv("PATH", m_path);
+        qputenv("TMPDIR", m_temporary);
+        QCOMPARE(QDir(m_folder->filePath("tmp"))
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList());
+    }
+
+    void programs_data() { addRows("converters.tsv"); }
+    void programs()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, expected);
+        const QString program = m_folder->filePath("pandoc");
+        const QString start = script.startsWith('#') ? "" : "#!/bin/sh\n";
+        QVERIFY(script == "-" || writeBytes(program, (start + script).toUtf8()));
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", m_folder->path().toUtf8());
+        MRVOfficeConverter converter;
+        converter.setLimits({1000, 100 << 20, 1 << 20});
+        QElapsedTimer timer;
+        timer.start();
+        QString error;
+        const QString page = converter.toHtml("High water", MRVFormat::RTF, &error);
+        QVERIFY(timer.elapsed() < 20000);
+        if (page.isNull()) {
+            QVERIFY2(error.contains(expected), qPrintable(error));
+            QVERIFY(!error.contains('\n'));
+        } else {
+            QCOMPARE(page + '|' + converter.warnings().join('|'), expected);
+            QCOMPARE(error, QString());
+        }
+        const int child = bytesOf(m_folder->filePath("child")).toInt();
+        QTRY_VERIFY(child == 0 || ::kill(child, 0) != 0);
+    }
+
+    void reading_data()
+    {
+        QTest::addColumn<QString>("format");
+        for (const char *format : {"docx", "odt", "rtf"}) {
+            QTest::newRow(format) << QString(format);
+        }
+    }
+    /// A file, and its bytes without a name: words, metadata and picture; changes are refused.
+    void reading()
+    {
+        QFETCH(QString, format);
+        const QString file = m_folder->filePath("a." + format);
+        const QByteArray source = "---\ntitle: The Tides\nauthor: Ann\n---\n# One\n\nx **b**\n\n"
+                                  "![p](" MRV_SOURCE_DIR "/docs/images/page.png)";
+        const Ran made = run("pandoc", {"-s", "-o", file}, {}, source);
+        QVERIFY2(made.exitCode == 0, qPrintable(made.errors));
+        MRVManuscriptReader reader;
+        MRVManuscript read;
+        QVERIFY2(reader.read(file, &read), qPrintable(reader.errorString()));
+        const QString text = read.document->toPlainText();
+        QVERIFY2(text.startsWith("The Tides\nAnn\nOne\nx b\n"), qPrintable(text));
+        QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 1);
+        QCOMPARE(read.readingNotes(), QStringList());
+        MRVManuscript same;
+        QVERIFY(reader.readBytes(read.bytes, "-", QString(), &same));
+        QCOMPARE(same.format, read.format);
+        QCOMPARE(MRVManuscript::formatNames().value(same.format - 1), format);
+        QCOMPARE(same.document->toHtml(), read.document->toHtml());
+        QByteArray bytes;
+        QString error;
+        QVERIFY(!MRVSourceEdit::changedBytes(read, {}, MRVSourceEdit::WriteAnew, &bytes, &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY(!reader.readBytes(read.bytes.left(read.bytes.size() / 2), "-", QString(), &same)
+                || format == "rtf");
+    }
+
+private:
+    QScopedPointer<QTemporaryDir> m_folder;
+    const QByteArray m_path = qgetenv("PATH");
+    const QByteArray m_temporary = qgetenv("TMPDIR");
+};
+
+QTEST_MAIN(tst_Office)
+#include "tst_office.moc"
