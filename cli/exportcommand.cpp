@@ -4,6 +4,7 @@
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
 #include "util/mrvfixeddate.h"
+#include "xhtml/mrvexportcheck.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -138,6 +139,19 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
     return spareInputs(outputs, pictures, error);
 }
 
+// Tells what an export lacks, which ends a strict one.
+bool acceptLosses(const Options &options, const QStringList &losses, QString *error)
+{
+    if (options.input.strict && !losses.isEmpty()) {
+        *error = losses.constFirst();
+        return false;
+    }
+    for (const QString &loss : losses) {
+        printError(QStringLiteral("note: %1").arg(loss));
+    }
+    return true;
+}
+
 bool exportPages(const Call &call, const Options &options,
                  const std::vector<MRVManuscript> &manuscripts, const QStringList &outputs,
                  QStringList *written, QString *error)
@@ -149,7 +163,11 @@ bool exportPages(const Call &call, const Options &options,
         const MRVManuscript &first = manuscripts.front();
         const QString page =
             MRVPagePublisher::pageText(pageOptions, first.document.get(), first.language);
-        return writeStandardOutput(page.toUtf8(), error);
+        MRVExportCheck check;
+        check.addDocument(*first.document);
+        check.addPage(page);
+        return acceptLosses(options, check.losses(), error)
+            && writeStandardOutput(page.toUtf8(), error);
     }
     MRVPagePublisher publisher(pageOptions);
     for (std::size_t i = 0; i < manuscripts.size(); ++i) {
@@ -159,7 +177,7 @@ bool exportPages(const Call &call, const Options &options,
             return false;
         }
     }
-    return publisher.publish(written, error);
+    return acceptLosses(options, publisher.losses(), error) && publisher.publish(written, error);
 }
 
 bool exportPackage(const Call &call, const Options &options,

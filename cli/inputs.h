@@ -35,8 +35,8 @@ struct InputOptions
 
 constexpr Option strictReading(const char *verbs = nullptr)
 {
-    return Option::flag(
-        "strict", "Refuse a manuscript of which a word, a link or a picture would be lost.", verbs);
+    return Option::flag("strict", "Write nothing where a word, a link or a picture would be lost.",
+                        verbs);
 }
 
 /** What the options of the call say; pictures are left alone. */

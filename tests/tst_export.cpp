@@ -3,6 +3,7 @@
 #include "images.h"
 #include "support.h"
 #include "textformat/mrvtextformat.h"
+#include "xhtml/mrvexportcheck.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QGuiApplication>
@@ -330,6 +331,32 @@ private Q_SLOTS:
         QVERIFY(page.contains("<title>Heading</title>"));
         QCOMPARE(page.count("<h2 "), 1);
         QCOMPARE(page.count("</h2>"), 1);
+    }
+
+    void losses_data() { addRows("exportlosses.tsv"); }
+    // A page that was tampered with is compared with its document.
+    void losses()
+    {
+        const QString separator(" || ");
+        QTextDocument document;
+        document.setHtml("<p>one two three</p><table><tr><td><i>first</i></td></tr></table>"
+                         "<p><a name=t></a>last words, R&amp;D</p><p><a href='#t'>in</a> "
+                         "<a href='https://a.b/c d?e=1&f'>out</a> "
+                         "<a href='other.html#x'>file</a> <a href='#gone'>gone</a><img src=p></p>");
+        QString page = X(&document).toText(X::Html);
+        const QStringList before = cell("before").split(separator);
+        const QStringList after = cell("after").split(separator);
+        for (int i = 0; i < before.size() && !before.constFirst().isEmpty(); ++i) {
+            QCOMPARE(page.count(before.at(i)), 1);
+            page.replace(before.at(i), QString(QChar(0xe000 + i)));
+        }
+        for (int i = 0; i < after.size(); ++i) {
+            page.replace(QChar(0xe000 + i), after.at(i));
+        }
+        MRVExportCheck check;
+        check.addDocument(document);
+        check.addPage(page);
+        QCOMPARE(check.losses().join(separator), cell("losses"));
     }
 
     void parts_data() { addRows("exportedparts.tsv"); }

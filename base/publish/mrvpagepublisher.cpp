@@ -1,6 +1,7 @@
 #include "publish/mrvpagepublisher.h"
 
 #include "util/mrvfailure.h"
+#include "xhtml/mrvexportcheck.h"
 
 #include "core/mrvcoreutil.h"
 
@@ -136,7 +137,7 @@ bool MRVPagePublisher::add(QTextDocument *document, const QString &language, con
     const QString page = QDir(stage).filePath(target.fileName());
     QString reason;
     if (!writePage(document, language, page, &folder, &reason)
-        || !addPictures(page, folder, &reason)) {
+        || !addPictures(page, folder, &reason) || !checkPage(*document, page, file, &reason)) {
         return MRV::fail(error, reason.replace(stage, target.path())); // as the caller knows it
     }
     m_pages.append({page, file});
@@ -179,6 +180,25 @@ bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QS
         }
     }
     return renamed.isEmpty() || replaceSources(page, renamed, error);
+}
+
+// The page is read as it lies on the disk.
+bool MRVPagePublisher::checkPage(const QTextDocument &document, const QString &page,
+                                 const QString &file, QString *error)
+{
+    QString unreadable;
+    const QString html = MRVCoreUtil::ReadUnicodeTextFile(page, &unreadable);
+    if (!unreadable.isEmpty()) {
+        return MRV::fail(error, unreadable);
+    }
+    MRVExportCheck check;
+    check.addDocument(document);
+    check.addPage(html);
+    const QStringList losses = check.losses();
+    for (const QString &loss : losses) {
+        m_losses.append(QStringLiteral("%1: %2").arg(file, loss));
+    }
+    return true;
 }
 
 // Each number of a name is looked at once: bytes that were met there before are known by their

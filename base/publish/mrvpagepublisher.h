@@ -79,6 +79,12 @@ public:
              QString *error = nullptr);
 
     /**
+     * What the pages lack of their documents, a translated line each that names the page; empty
+     * where every word, link and picture was written. See MRVExportCheck.
+     */
+    QStringList losses() const { return m_losses; }
+
+    /**
      * Puts all pages in place, or none. To be called once.
      *
      * @param written if given, receives the files that the pages consist of: pictures, also those
@@ -105,6 +111,8 @@ private:
     bool writePage(QTextDocument *document, const QString &language, const QString &page,
                    Folder *folder, QString *error) const;
     bool addPictures(const QString &page, const Folder &folder, QString *error);
+    bool checkPage(const QTextDocument &document, const QString &page, const QString &file,
+                   QString *error);
     QString pictureTarget(const QString &staged, const QString &wanted);
     static bool mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error);
     bool addStyleSheet(const Folder &folder, QString *error);
@@ -115,5 +123,6 @@ private:
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target
     QHash<QString, Numbered> m_numbered; // by the target that was wanted
     QStringList m_written;
+    QStringList m_losses;
     QVector<QPair<QString, QString>> m_pages; // staged file and target
 };

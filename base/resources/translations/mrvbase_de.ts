@@ -335,6 +335,25 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVExportCheck</name>
+    <message>
+        <source>not in what was written, of the paragraph &quot;%1&quot;: %2</source>
+        <translation>im Geschriebenen fehlt vom Absatz „%1“: %2</translation>
+    </message>
+    <message>
+        <source>links within the text or to files that were not written: %1</source>
+        <translation>Links im Text oder auf Dateien, die nicht geschrieben wurden: %1</translation>
+    </message>
+    <message>
+        <source>a link that was not written: %1</source>
+        <translation>ein Link, der nicht geschrieben wurde: %1</translation>
+    </message>
+    <message>
+        <source>pictures that were not written: %1</source>
+        <translation>Bilder, die nicht geschrieben wurden: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>

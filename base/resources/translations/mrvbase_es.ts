@@ -335,6 +335,25 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVExportCheck</name>
+    <message>
+        <source>not in what was written, of the paragraph &quot;%1&quot;: %2</source>
+        <translation>falta en lo escrito, del párrafo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>links within the text or to files that were not written: %1</source>
+        <translation>enlaces dentro del texto o a archivos que no se escribieron: %1</translation>
+    </message>
+    <message>
+        <source>a link that was not written: %1</source>
+        <translation>un enlace que no se escribió: %1</translation>
+    </message>
+    <message>
+        <source>pictures that were not written: %1</source>
+        <translation>imágenes que no se escribieron: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>

@@ -335,6 +335,25 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVExportCheck</name>
+    <message>
+        <source>not in what was written, of the paragraph &quot;%1&quot;: %2</source>
+        <translation>absent de ce qui a été écrit, du paragraphe «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>links within the text or to files that were not written: %1</source>
+        <translation>liens dans le texte ou vers des fichiers qui n’ont pas été écrits&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a link that was not written: %1</source>
+        <translation>un lien qui n’a pas été écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>pictures that were not written: %1</source>
+        <translation>images qui n’ont pas été écrites&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>
