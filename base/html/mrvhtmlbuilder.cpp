@@ -221,7 +221,7 @@ void MRVHtmlBuilder::readChildren(const GumboNode *parent, const MRVHtmlStyle &s
     for (const GumboNode *child : MRVHtmlChildren(parent)) {
         if (mrvIsElement(child)) {
             readElement(child, style, cssElement(child, css, &siblings));
-        } else if (child->type != GUMBO_NODE_COMMENT) {
+        } else if (child->type != GUMBO_NODE_COMMENT && !style.isInvisible) {
             m_writer.writeText(mrvTextOf(child), style);
         }
     }
@@ -237,11 +237,37 @@ void MRVHtmlBuilder::readElement(const GumboNode *element, const MRVHtmlStyle &o
     const bool isName = element->v.element.tag == GUMBO_TAG_A;
     m_writer.addName(mrvAttributeOf(element, "id"));
     m_writer.addName(isName ? mrvAttributeOf(element, "name") : QString());
-    if (style.display != mrvHtmlElement(element).display) {
-        m_displays.insert(element, style.display);
+    keepDisplay(element, style);
+    if (style.display == MRVHtmlStyle::Hidden) {
+        return;
     }
-    if (style.display != MRVHtmlStyle::Hidden) {
+    if (style.isInvisible) {
+        readInvisible(element, style, css);
+    } else {
         readShown(element, style, css);
+    }
+}
+
+void MRVHtmlBuilder::keepDisplay(const GumboNode *element, const MRVHtmlStyle &style)
+{
+    if (style.display != mrvHtmlElement(element).display || style.isInvisible) {
+        m_displays.insert(element, {style.display, style.isInvisible});
+    }
+}
+
+// The space that it takes up in a browser is left out. What is visible inside of it is shown.
+void MRVHtmlBuilder::readInvisible(const GumboNode *element, const MRVHtmlStyle &style,
+                                   const MRVCssElement *css)
+{
+    if (mrvHtmlElement(element).kind == MRVHtmlElement::Picture) {
+        return;
+    }
+    if (style.display == MRVHtmlStyle::Inline) {
+        readChildren(element, style.inherited(), css);
+    } else {
+        m_writer.enter(style.inherited(), MRVHtmlBox());
+        readChildren(element, style.inherited(), css);
+        m_writer.leave();
     }
 }
 

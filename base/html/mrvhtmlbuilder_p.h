@@ -37,7 +37,10 @@ private:
     void readChildren(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readElement(const GumboNode *element, const MRVHtmlStyle &outside,
                      const MRVCssElement *css);
+    void keepDisplay(const GumboNode *element, const MRVHtmlStyle &style);
     void readShown(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readInvisible(const GumboNode *element, const MRVHtmlStyle &style,
+                       const MRVCssElement *css);
     void readBlock(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readInline(const GumboNode *element, MRVHtmlStyle style, const MRVCssElement *css);
     void readInside(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);

@@ -182,14 +182,16 @@ public:
         return [this](QStringView word, int line) { expect(HeldContent::Word, word, line); };
     }
 
-    void visit(const GumboNode *parent, const QString &address)
+    void visit(const GumboNode *parent, const QString &address, bool isInvisible = false)
     {
         for (const GumboNode *child : MRVHtmlChildren(parent)) {
-            if (mrvIsElement(child) && isCaption(child)) {
+            if (mrvIsElement(child) && isCaption(child) && !isInvisible) {
                 continue; // visited with its table
             }
             if (mrvIsElement(child)) {
                 visitElement(child, address);
+            } else if (isInvisible && child->type != GUMBO_NODE_COMMENT) {
+                countHidden(mrvTextOf(child));
             } else if (child->type != GUMBO_NODE_COMMENT) {
                 m_words.add(mrvShownText(mrvTextOf(child)), lineOf(child), expectWord());
                 if (child->type != GUMBO_NODE_WHITESPACE) {
@@ -226,20 +228,30 @@ private:
         }
     }
 
+    void countHidden(const QString &text)
+    {
+        const auto count = [this](QStringView, int) { ++m_report->hiddenWords; };
+        Words words;
+        words.add(text, 0, count);
+        words.end(count);
+    }
+
     void visitElement(const GumboNode *element, const QString &address)
     {
         const MRVHtmlElement &kind = mrvHtmlElement(element);
-        const MRVHtmlStyle::Display display = m_displays.value(element, kind.display);
+        const MRVHtmlShown shown = m_displays.value(element, {kind.display, false});
+        const MRVHtmlStyle::Display display = shown.display;
         if (kind.kind == MRVHtmlElement::Skipped) {
             return;
         }
         const QString place = mrvAttributeOf(element, "data-sourcepos");
         m_line = place.isEmpty() ? m_line : place.section(u':', 0, 0).toInt();
         if (display == MRVHtmlStyle::Hidden) {
-            const auto count = [this](QStringView, int) { ++m_report->hiddenWords; };
-            Words words;
-            words.add(mrvTextIn(element), 0, count);
-            words.end(count);
+            countHidden(mrvTextIn(element));
+            return;
+        }
+        if (shown.isInvisible) {
+            visitInvisible(element, display, address);
             return;
         }
         const bool isSeparate = display != MRVHtmlStyle::Inline
@@ -267,6 +279,24 @@ private:
             m_words.add(mrvQuotationMark(false, --m_quotations), m_line, expectWord());
         }
         if (isSeparate) {
+            endWord();
+        }
+    }
+
+    // As the document is built: what is visible inside of it counts, and its box does not.
+    void visitInvisible(const GumboNode *element, MRVHtmlStyle::Display display,
+                        const QString &address)
+    {
+        if (mrvHtmlElement(element).kind == MRVHtmlElement::Picture) {
+            countHidden(mrvTextIn(element));
+            return;
+        }
+        if (display != MRVHtmlStyle::Inline) {
+            endWord();
+        }
+        const QString own = mrvAddressOf(element);
+        visit(element, own.isEmpty() ? address : own, true);
+        if (display != MRVHtmlStyle::Inline) {
             endWord();
         }
     }

@@ -6,8 +6,15 @@
 
 #include <gumbo.h>
 
+/** How an element is shown. */
+struct MRVHtmlShown
+{
+    MRVHtmlStyle::Display display = MRVHtmlStyle::Inline;
+    bool isInvisible = false; ///< elements inside of it may be visible, unlike those of Hidden
+};
+
 /** How elements are shown where that is not how their kind is. */
-using MRVHtmlDisplays = QHash<const GumboNode *, MRVHtmlStyle::Display>;
+using MRVHtmlDisplays = QHash<const GumboNode *, MRVHtmlShown>;
 
 /** What HTML says about a kind of elements. */
 struct MRVHtmlElement

@@ -358,8 +358,11 @@ void listStyleType(const Value &value, MRVHtmlStyle *style)
 
 void visibility(const Value &value, MRVHtmlStyle *style)
 {
-    style->isInvisible = value.text == QLatin1String("hidden")
-        || (style->isInvisible && value.text != QLatin1String("visible"));
+    if (value.text == QLatin1String("visible") || value.text == QLatin1String("initial")) {
+        style->isInvisible = false;
+    } else if (value.text == QLatin1String("hidden") || value.text == QLatin1String("collapse")) {
+        style->isInvisible = true;
+    }
 }
 
 void display(const Value &value, MRVHtmlStyle *style)
@@ -602,6 +605,7 @@ MRVHtmlStyle MRVHtmlStyle::inherited() const
     inside.whiteSpace = whiteSpace;
     inside.listStyle = listStyle;
     inside.language = language;
+    inside.isInvisible = isInvisible;
     return inside;
 }
 
@@ -623,8 +627,5 @@ void MRVHtmlStyler::apply(const QVector<MRVCssDeclaration> &declarations,
             const QString value = isText ? declaration.value : declaration.value.toLower();
             handler({declaration.property, value, outside, m_rootPixels, m_isQtPage}, style);
         }
-    }
-    if (style->isInvisible) {
-        style->display = MRVHtmlStyle::Hidden;
     }
 }

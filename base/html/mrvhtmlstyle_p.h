@@ -40,10 +40,10 @@ struct MRVHtmlStyle
     WhiteSpace whiteSpace = Collapsed;
     int listStyle = QTextListFormat::ListDisc; ///< ListStyleUndefined: without marks
     QString language;
+    bool isInvisible = false; ///< takes up space, but is not seen
 
     // The element's own.
     Display display = Inline;
-    bool isInvisible = false; ///< whatever its display says
     qreal margins[4] = {0, 0, 0, 0}; ///< by MRVHtmlSide
     qreal paddings[4] = {-1, -1, -1, -1}; ///< by MRVHtmlSide; -1: not said
     MRVHtmlBorder borders[4]; ///< by MRVHtmlSide

@@ -218,8 +218,8 @@ void MRVHtmlBuilder::collectTable(const GumboNode *parent, const MRVHtmlStyle &s
         }
         MRVHtmlStyle childStyle = styleOf(child, style, childCss);
         table->names.append(mrvAttributeOf(child, "id"));
+        keepDisplay(child, childStyle);
         if (childStyle.display == MRVHtmlStyle::Hidden) {
-            m_displays.insert(child, MRVHtmlStyle::Hidden);
             continue;
         }
         if (childStyle.background.style() == Qt::NoBrush && !isTable) {
@@ -249,8 +249,8 @@ void MRVHtmlBuilder::collectRow(const GumboNode *row, const MRVHtmlStyle &style,
         }
         const MRVCssElement *childCss = cssElement(child, css, siblings);
         MRVHtmlStyle cell = styleOf(child, style, childCss);
+        keepDisplay(child, cell);
         if (cell.display == MRVHtmlStyle::Hidden) {
-            m_displays.insert(child, MRVHtmlStyle::Hidden);
             continue;
         }
         if (cell.background.style() == Qt::NoBrush) {
