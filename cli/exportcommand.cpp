@@ -61,6 +61,7 @@ int readMetadata(const Call &call, Options *options)
     metadata.rights = call.value("rights");
     QString error;
     const bool ok = readLanguage(call, &metadata.language, &error)
+        && readMarkdownSyntax(call, call.arguments, &options->input.markdown, &error)
         && (!options->isPackage()
             || MRVFixedDate::fromTextOrEnvironment(call.value("date"), &metadata.modified, &error));
     return ok ? -1 : usageError(error);
@@ -70,6 +71,7 @@ int readOptions(const Call &call, Options *options)
 {
     options->input = inputOptions(call);
     options->input.strict = call.has("strict");
+    options->input.isPublished = true;
     const int code = readType(call, options);
     if (code >= 0) {
         return code;
@@ -274,6 +276,7 @@ constexpr Option options[] = {
                  "beside the input, with the suffix of the type."),
     manuscriptFormat(),
     manuscriptEncoding(),
+    markdownSyntax(),
     strictReading(),
     Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
     Option::text("language", "TAG",
@@ -308,7 +311,8 @@ constexpr Option metadata[] = {
 const Command exportCommand = {
     "export",
     "write manuscripts as HTML, XHTML or e-books",
-    "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is standard input) as pages or e-books. "
+    "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
+    "standard input) as pages or e-books. "
     "Several inputs become one e-book, or a page each.",
     "export novel.html --to epub --cover cover.png -o novel.epub\n"
     "export one.md two.md --to epub --title \"Both\" -o both.epub\n"

@@ -158,7 +158,8 @@ constexpr Option inputs[] = {manuscriptFormat(), manuscriptEncoding()};
 const Command findCommand = {
     "find",
     "find text and formats in manuscripts",
-    "Finds text in manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is standard input), and prints the "
+    "Finds text in manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
+    "standard input), and prints the "
     "paragraphs that contain it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e gives it, or "
     "where a format is asked for: then all text of that format is found.\n"
     "Exit code 1: nothing found.",

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 
 #include <unistd.h>
@@ -32,7 +33,36 @@ QString hint(MRVManuscriptReader::Error error)
 
 InputOptions inputOptions(const Call &call)
 {
-    return {call.value("from"), call.value("encoding"), false};
+    InputOptions options;
+    options.format = call.value("from");
+    options.encoding = call.value("encoding");
+    return options;
+}
+
+bool readMarkdownSyntax(const Call &call, const QStringList &inputs, MRVMarkdown::Options *options,
+                        QString *error)
+{
+    constexpr struct
+    {
+        const char *name;
+        MRVMarkdown::Option option;
+    } syntax[] = {
+        {"smart", MRVMarkdown::SmartPunctuation},
+        {"definitions", MRVMarkdown::DefinitionLists},
+        {"subsup", MRVMarkdown::SubAndSuperscript},
+    };
+    for (const auto &row : syntax) {
+        options->setFlag(row.option, call.values("markdown").contains(QLatin1String(row.name)));
+    }
+    const auto isMarkdown = [&call](const QString &input) {
+        return MRVManuscript::Markdown
+            == (call.has("from") ? MRVManuscript::formatNamed(call.value("from"))
+                                 : MRVManuscript::formatOfFile(input));
+    };
+    if (*options && std::none_of(inputs.begin(), inputs.end(), isMarkdown)) {
+        *error = QStringLiteral("--markdown is for Markdown, which no input is");
+    }
+    return error->isEmpty();
 }
 
 QByteArray standardInput(QString *reason)
@@ -58,10 +88,10 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     MRVManuscriptReader reader;
     reader.setFormat(MRVManuscript::formatNamed(options.format));
     reader.setEncoding(options.encoding);
+    reader.setMarkdownOptions(MRVMarkdown::Footnotes | options.markdown);
     reader.setLoadsPictures(options.pictures);
-    // What shows no pictures looks for text, and changes it in its source.
-    reader.setPurpose(options.pictures ? MRVManuscriptReader::Publishing
-                                       : MRVManuscriptReader::Editing);
+    reader.setPurpose(options.isPublished ? MRVManuscriptReader::Publishing
+                                          : MRVManuscriptReader::Editing);
     bool ok = false;
     if (path == QLatin1String("-")) {
         QString unreadable;

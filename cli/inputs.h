@@ -24,11 +24,23 @@ constexpr Option manuscriptEncoding(const char *verbs = nullptr)
                         "The encoding of the input. Default: what it declares, else UTF-8.", verbs);
 }
 
+constexpr Option markdownSyntax(const char *verbs = nullptr)
+{
+    return Option::choice("markdown", "SYNTAX", "smart definitions subsup",
+                          "Syntax that Markdown has besides: smart (\"--\" is a dash, quotes are "
+                          "curled), definitions (lines of \": text\" after a term) or subsup "
+                          "(H~2~O, x^2^).",
+                          verbs)
+        .repeated();
+}
+
 /** How to read an input. Empty texts: find out. */
 struct InputOptions
 {
     QString format; // of MRVManuscript::formatNames()
     QString encoding;
+    MRVMarkdown::Options markdown; // besides what is always read; for publishing
+    bool isPublished = false; // false: the text is looked for, and changed in its source
     bool pictures = false; // false: leave them, and what names them, alone
     bool strict = false; // refuse a manuscript of which the document lacks something
 };
@@ -38,6 +50,13 @@ constexpr Option strictReading(const char *verbs = nullptr)
     return Option::flag("strict", "Write nothing where a word, a link or a picture would be lost.",
                         verbs);
 }
+
+/**
+ * The syntax that --markdown asks for. @return false, with a text, when it is given and none of the
+ * inputs is Markdown.
+ */
+bool readMarkdownSyntax(const Call &call, const QStringList &inputs, MRVMarkdown::Options *options,
+                        QString *error);
 
 /** What the options of the call say; pictures are left alone. */
 InputOptions inputOptions(const Call &call);

@@ -83,7 +83,8 @@ constexpr Option options[] = {
 const Command notesCommand = {
     "notes",
     "list links, notes, highlights and pictures",
-    "Lists what manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is standard input) carry besides "
+    "Lists what manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
+    "standard input) carry besides "
     "their "
     "text: links, footnotes and links to and from them, comments, highlights, pictures and "
     "anchors, as PATH:PARAGRAPH: KIND. Comments of HTML are in no paragraph; they follow with "
