@@ -118,6 +118,7 @@ QString MRVPictureReader::refusal()
         if (m_bytes.isEmpty()) {
             return reason;
         }
+        m_isDrawing = true;
     }
     const MRVPictureClaims claims = mrvPictureClaims(m_bytes, m_format);
     for (const QSize &claim : claims.sizes) {
@@ -150,6 +151,12 @@ QString MRVPictureReader::refusal()
     m_memory += claims.texts;
     m_orientation = reader.transformation();
     return reason;
+}
+
+QSize MRVPictureReader::uprightSize() const
+{
+    // Each orientation with a turn by 90 degrees has this bit (QImageIOHandler::Transformation).
+    return m_orientation & QImageIOHandler::TransformationRotate90 ? m_size.transposed() : m_size;
 }
 
 QImage MRVPictureReader::read(QString *error) const

@@ -48,6 +48,8 @@ public:
     QByteArray format() const { return m_format; }
     /** In pixels, before the picture is turned upright; invalid where it is not known. */
     QSize size() const { return m_size; }
+    /** In pixels, as the picture is seen upright; invalid where it is not known. */
+    QSize uprightSize() const;
     /** How the picture must be turned to be upright; read() does so. */
     QImageIOHandler::Transformations orientation() const { return m_orientation; }
     /** What decoding takes at most, in bytes: its largest frame, and compressed texts. */
@@ -55,6 +57,17 @@ public:
 
     /** Whether the picture may be decoded; it may still turn out to be damaged. */
     bool isReadable() const { return m_error.isEmpty(); }
+    /**
+     * Whether the picture is an SVG whose text is safe. One that claims too many pixels may not be
+     * decoded, but be passed on to programs that show it in another size.
+     */
+    bool isDrawing() const { return m_isDrawing; }
+    /**
+     * The picture's bytes as they were given. Those of a drawing are its text in UTF-8, unpacked,
+     * without scripts and without references to what lies outside of it. Empty where the file was
+     * not read or the text of an SVG is refused.
+     */
+    QByteArray bytes() const { return m_bytes; }
     /**
      * Why the picture is refused, as a translated end of a sentence ("it is too large"); empty
      * where it is not.
@@ -94,5 +107,6 @@ private:
     QSize m_size;
     QImageIOHandler::Transformations m_orientation = QImageIOHandler::TransformationNone;
     qint64 m_memory = 0;
+    bool m_isDrawing = false;
     QString m_error;
 };

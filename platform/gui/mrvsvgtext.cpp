@@ -3,6 +3,7 @@
 #include "core/mrvinputlimits.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -44,6 +45,52 @@ QByteArray inflated(const QByteArray &bytes, QString *reason)
     return text;
 }
 
+// A name without its prefix.
+QString localName(const QString &name)
+{
+    return name.mid(name.indexOf(u':') + 1);
+}
+
+bool isWithin(const QString &reference)
+{
+    return reference.trimmed().startsWith(u'#');
+}
+
+// Without style sheets, fonts and pictures that it would fetch.
+QString guardedCss(QString css)
+{
+    static const QRegularExpression outside(
+        QStringLiteral("@import[^;]*;?|url\\((?!\\s*[\"']?\\s*#)[^)]*\\)?"),
+        QRegularExpression::CaseInsensitiveOption);
+    return css.replace(outside, QStringLiteral("none"));
+}
+
+// Elements that do things: scripts, handlers of events, and animations that set a reference.
+bool isActive(const QString &name, const QXmlStreamAttributes &attributes)
+{
+    const QString target = attributes.value(QLatin1String("attributeName")).toString();
+    return name.compare(QLatin1String("script"), Qt::CaseInsensitive) == 0
+        || name == QLatin1String("handler") || name == QLatin1String("listener")
+        || localName(target) == QLatin1String("href");
+}
+
+bool isOneOf(const QString &name, const char *names)
+{
+    return QString::fromLatin1(names).split(u' ').contains(name, Qt::CaseInsensitive);
+}
+
+// Names of attributes without a prefix; those of HTML within a drawing count, too.
+bool isReference(const QString &name)
+{
+    return isOneOf(name, "href src srcset data base poster action formaction");
+}
+
+bool isStyle(const QString &name)
+{
+    return name.startsWith(QLatin1String("marker"))
+        || isOneOf(name, "style fill stroke filter mask clip-path cursor color-profile");
+}
+
 // Writes what a reader finds, token by token.
 class SvgCopy
 {
@@ -51,6 +98,7 @@ public:
     SvgCopy(const QByteArray &text, MRVPictureMemory memoryOf)
         : m_memoryOf(memoryOf)
         , m_references(text.count('&'))
+        , m_usesLinks(text.contains("xlink:"))
         , m_reader(text)
         , m_writer(&m_copy)
     {
@@ -64,10 +112,15 @@ private:
     bool mayExpand() const;
     void writeToken();
     void startElement();
+    void startRoot(const QString &name, const QXmlStreamAttributes &attributes);
+    QXmlStreamAttributes allowed(const QXmlStreamAttributes &attributes, bool isImage);
     bool isAllowed(const QString &reference);
 
     const MRVPictureMemory m_memoryOf;
     const qint64 m_references; // at most; in any encoding
+    const bool m_usesLinks;
+    bool m_hasRoot = false;
+    bool m_isSvg = false;
     QXmlStreamReader m_reader;
     QByteArray m_copy;
     QXmlStreamWriter m_writer;
@@ -97,7 +150,7 @@ QByteArray SvgCopy::copy(QString *reason)
         }
         writeToken();
     }
-    return m_reader.hasError() ? QByteArray() : m_copy;
+    return m_reader.hasError() || !m_isSvg ? QByteArray() : m_copy;
 }
 
 void SvgCopy::writeToken()
@@ -120,20 +173,66 @@ void SvgCopy::writeToken()
     }
 }
 
+// Without the names of its spaces, which Qt does not ask for, other programs show no drawing.
+void SvgCopy::startRoot(const QString &name, const QXmlStreamAttributes &attributes)
+{
+    m_hasRoot = true;
+    m_isSvg = localName(name) == QLatin1String("svg");
+    if (!name.contains(u':') && !attributes.hasAttribute(QLatin1String("xmlns"))) {
+        m_writer.writeAttribute(QStringLiteral("xmlns"),
+                                QStringLiteral("http://www.w3.org/2000/svg"));
+    }
+    if (m_usesLinks && !attributes.hasAttribute(QLatin1String("xmlns:xlink"))) {
+        m_writer.writeAttribute(QStringLiteral("xmlns:xlink"),
+                                QStringLiteral("http://www.w3.org/1999/xlink"));
+    }
+}
+
 // A picture that is not allowed leaves an empty group.
 void SvgCopy::startElement()
 {
     const QString name = m_reader.qualifiedName().toString();
-    const QXmlStreamAttributes attributes = m_reader.attributes();
-    const bool isImage = name.mid(name.indexOf(QLatin1Char(':')) + 1) == QLatin1String("image");
-    if (isImage && !isAllowed(attributes.value(QLatin1String("xlink:href")).toString())) {
+    const QString element = localName(name);
+    if (isActive(element, m_reader.attributes())) {
+        m_reader.skipCurrentElement();
+        return;
+    }
+    const bool isImage = element == QLatin1String("image");
+    const QXmlStreamAttributes attributes = allowed(m_reader.attributes(), isImage);
+    if (isImage && !attributes.hasAttribute(QLatin1String("xlink:href"))
+        && !attributes.hasAttribute(QLatin1String("href"))) {
         m_writer.writeStartElement(QStringLiteral("g"));
         return;
     }
     m_writer.writeStartElement(name);
-    for (const QXmlStreamAttribute &attribute : attributes) {
-        m_writer.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+    if (!m_hasRoot) {
+        startRoot(name, attributes);
     }
+    m_writer.writeAttributes(attributes);
+    if (element == QLatin1String("style")) {
+        m_writer.writeCharacters(
+            guardedCss(m_reader.readElementText(QXmlStreamReader::SkipChildElements)));
+        m_writer.writeEndElement();
+    }
+}
+
+QXmlStreamAttributes SvgCopy::allowed(const QXmlStreamAttributes &attributes, bool isImage)
+{
+    QXmlStreamAttributes kept;
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        const QString name = localName(attribute.qualifiedName().toString());
+        const QString value = attribute.value().toString();
+        if (isReference(name)) {
+            if (isImage ? isAllowed(value) : isWithin(value)) {
+                kept.append(attribute);
+            }
+        } else if (isStyle(name)) {
+            kept.append(attribute.qualifiedName().toString(), guardedCss(value));
+        } else if (!name.startsWith(QLatin1String("on"), Qt::CaseInsensitive)) {
+            kept.append(attribute);
+        }
+    }
+    return kept;
 }
 
 // Qt's renderer takes what follows the last "base64,", and a file where that holds no picture.
