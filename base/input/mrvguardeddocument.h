@@ -2,8 +2,11 @@
 
 #include "util/mrvbase_export.h"
 
+#include <QCache>
 #include <QImage>
 #include <QTextDocument>
+#include <QUrl>
+#include <QVariant>
 
 /**
  * A document for texts that anybody may have written: what they name is read and decoded only where
@@ -12,7 +15,8 @@
  * QTextDocument opens each local file that its text names as a picture or a style sheet, pipes and
  * devices included, and decodes it whatever memory that takes. This one opens regular files of at
  * most MRVInputLimits::PictureFileBytes. A picture that is refused or damaged is a null image.
- * Nothing is fetched from elsewhere. A parent that has a loadResource() is asked first, as by
+ * Files are decoded when a layout asks for them, and those that were decoded last are kept. Nothing
+ * is fetched from elsewhere. A parent that has a loadResource() is asked first, as by
  * QTextDocument.
  *
  * @since 1.0
@@ -29,12 +33,25 @@ public:
      *
      * Any document is read safely: files that its own loading would open are looked at first.
      * Loaders of a parent or of a derived class are asked too, but not for names of local files
-     * that exist. Bytes that the document has loaded stay its resource.
+     * that exist. Bytes that a plain document has loaded stay its resource.
      *
      * @return a null image where there is no picture, and for one that is refused or damaged.
      */
     static QImage picture(const QTextDocument &document, const QUrl &url);
 
+    /**
+     * What picture() would decode: a QByteArray, a QImage or a QPixmap; for a file that a document
+     * of this class shows, the "file:" URL of it as a QUrl. Invalid where nothing is there, or must
+     * not be opened.
+     */
+    static QVariant pictureSource(const QTextDocument &document, const QUrl &url);
+
 protected:
     QVariant loadResource(int type, const QUrl &url) override;
+
+private:
+    QVariant source(const QUrl &url) const;
+    QImage decoded(const QVariant &source) const;
+
+    QCache<QUrl, QImage> m_decoded; // of files
 };
