@@ -1,5 +1,6 @@
 #include "datarows.h"
 #include "gui/mrvguiutil.h"
+#include "images.h"
 
 #include <QImageReader>
 #include <QPixmap>
@@ -74,11 +75,6 @@ private Q_SLOTS:
         // A large picture of one colour is small as a file, and honest.
         QImage large(7000, 6000, QImage::Format_Mono);
         large.fill(0);
-        QByteArray photo = MRVGuiUtil::toByteArray(large.copy(0, 0, 64, 32), "JPG");
-        // An EXIF block, big-endian, with the one entry that the camera was turned by 90 degrees.
-        photo.insert(2,
-                     QByteArray::fromHex("ffe1 0022 457869660000 4d4d002a 00000008 0001"
-                                         "0112 0003 00000001 00060000 00000000"));
         const auto row = [](const char *name, const QVariant &data, const QByteArray &format,
                             const QSize &size) { QTest::newRow(name) << data << format << size; };
         row("no-hint", png, {}, {8, 4});
@@ -86,7 +82,7 @@ private Q_SLOTS:
         row("image", card, {}, {8, 4});
         row("pixmap", QPixmap::fromImage(card), {}, {8, 4});
         row("large-but-honest", MRVGuiUtil::toByteArray(large, "PNG"), {}, {7000, 6000});
-        row("turned-photo", photo, {}, {32, 64});
+        row("turned-photo", turnedPhoto(), {}, {32, 64});
         row("nothing", {}, {}, {0, 0});
         row("file-name", "card.png", {}, {0, 0});
         row("text", QByteArray("once upon a time"), "PNG", {0, 0});

@@ -1,8 +1,10 @@
 #include "datarows.h"
+#include "document/mrvdocumentpictures.h"
 #include "document/mtextdoc.h"
 #include "documentdump.h"
 #include "gui/mrvguiutil.h"
 #include "images.h"
+#include "input/mrvguardeddocument.h"
 #include "support.h"
 #include "textformat/mrvtextformat.h"
 
@@ -254,6 +256,51 @@ private Q_SLOTS:
         QVERIFY(writeBytes(path("file"), "in the way"));
         QVERIFY(MTextDoc::exportImages(document, path("file"), false).isEmpty());
         QCOMPARE(bytesOf(path("file")), QByteArray("in the way"));
+    }
+
+    /// Pictures in files of their own: as they are where browsers show them, else as PNG.
+    void documentPictures()
+    {
+        const QByteArray photo = turnedPhoto();
+        const QByteArray svg = "<svg width='30000' height='30000' onload='a()'><script>a()</script>"
+                               "<rect fill='url(http://a)'/><use href='b.svg#c'/></svg>";
+        QVERIFY(writeBytes(path("photo.jpg"), photo));
+        QVERIFY(writeBytes(path("same.jpg"), photo));
+        QVERIFY(writeBytes(path("drawing.svg"), svg));
+        QVERIFY(picture(Qt::red).save(path("red.bmp")));
+        MRVGuardedDocument document;
+        document.addResource(QTextDocument::ImageResource, QUrl("pixels"), picture(Qt::blue));
+        QTextCursor cursor(&document);
+        const QStringList ids{"photo.jpg", "same.jpg", "drawing.svg", "red.bmp", "pixels", "none"};
+        for (const QString &id : ids) {
+            const QUrl url = QUrl::fromLocalFile(path(id));
+            cursor.insertImage(imageFormat(id.contains('.') ? url.toString() : id));
+        }
+        const MRVDocumentPictures pictures(document);
+        QStringList types;
+        for (const MRVDocumentPicture &picture : pictures.all()) {
+            const QSize size = picture.size();
+            types << QString("%1 %2x%3")
+                         .arg(picture.mediaType())
+                         .arg(size.width())
+                         .arg(size.height());
+        }
+        QCOMPARE(types,
+                 (QStringList{"image/jpeg 32x64", "image/svg+xml 30000x30000", "image/png 6x6",
+                              "image/png 6x6"}));
+        QCOMPARE(pictures.indexOf(QUrl::fromLocalFile(path("same.jpg")).toString()), 0);
+        QCOMPARE(pictures.indexOf("none"), -1);
+        QCOMPARE(pictures.missing().size(), 1);
+        QCOMPARE(pictures.all().at(0).bytes(), photo);
+        const QByteArray drawing = pictures.all().at(1).bytes();
+        QVERIFY2(drawing.contains("<rect fill=\"none\"/><use/></svg>"), drawing);
+        QVERIFY2(drawing.contains("xmlns=\"http://www.w3.org/2000/svg\""), drawing);
+        QCOMPARE(QImage::fromData(pictures.all().at(3).bytes()), picture(Qt::blue));
+
+        QString error;
+        QVERIFY(writeBytes(path("photo.jpg"), photo + ' '));
+        QCOMPARE(pictures.all().at(0).bytes(&error), QByteArray());
+        QVERIFY(error.contains("changed"));
     }
 };
 

@@ -1,19 +1,19 @@
 #include "epub/mrvepubbook_p.h"
 
-#include "core/mrvcoreutil.h"
 #include "core/mrvxmltext.h"
 #include "document/mtextdoc.h"
 #include "epub/mrvpagestarts_p.h"
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
 #include "xhtml/mrvdocumenthtml.h"
 #include "xhtml/mrvdocumenttitle.h"
 #include "xhtml/mrvhtmltext.h"
 #include "xhtml/mrvpagewriter.h"
 
-#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QLocale>
+#include <QSet>
 #include <QTextDocument>
 #include <QTextImageFormat>
 #include <QUrl>
@@ -21,56 +21,6 @@
 #include <algorithm>
 
 namespace {
-
-struct PictureType
-{
-    const char *mediaType;
-    const char *suffix;
-    const char *signature;
-};
-
-// The raster formats that every reading system has to show (EPUB 3.2, section 3.3).
-constexpr PictureType pictureTypes[] = {
-    {"image/png", "png", "\x89PNG\r\n\x1a\n"},
-    {"image/jpeg", "jpg", "\xff\xd8\xff"},
-    {"image/gif", "gif", "GIF8"},
-};
-
-const PictureType *pictureType(const QByteArray &bytes)
-{
-    for (const PictureType &type : pictureTypes) {
-        if (bytes.startsWith(type.signature)) {
-            return &type;
-        }
-    }
-    return nullptr;
-}
-
-// The original bytes of the picture, where reading systems can show them, so that nothing is lost
-// by encoding it again.
-QByteArray pictureBytes(const QTextDocument &document, const QTextImageFormat &format)
-{
-    const QImage image = MRVTextFormat::image(document, format);
-    if (image.isNull()) {
-        return QByteArray();
-    }
-    const QByteArray raw = MRVTextFormat::imageRawData(format);
-    if (pictureType(raw)) {
-        return raw;
-    }
-    const QString link = MRVTextFormat::imageLink(format);
-    if (!link.isEmpty() && QFileInfo(link).isFile()) {
-        const QByteArray linked = MRVCoreUtil::ReadBinaryFile(link);
-        // The file may have changed since it was inserted: the document's picture is the one to
-        // show.
-        if (pictureType(linked)
-            && MRVGuiUtil::resourceId(MRVGuiUtil::toImage(linked))
-                == MRVGuiUtil::resourceId(image)) {
-            return linked;
-        }
-    }
-    return MRVGuiUtil::toByteArray(image, "PNG");
-}
 
 bool isRemote(const QString &id)
 {
@@ -128,48 +78,46 @@ QString freeHeadingPrefix(const QHash<QString, QString> &ids)
 
 void MRVEPubBook::addCover()
 {
-    if (!metadata.cover.isEmpty() && !pictureType(metadata.cover)) {
-        metadata.cover = MRVGuiUtil::toByteArray(MRVGuiUtil::toImage(metadata.cover), "PNG");
+    MRVDocumentPicture cover = MRVDocumentPicture::fromBytes(metadata.cover);
+    if (cover.type() == MRVDocumentPicture::Svg) { // which libraries of books do not show
+        const QImage drawn = MRVGuiUtil::toImage(metadata.cover);
+        cover = MRVDocumentPicture::fromBytes(MRVGuiUtil::toByteArray(drawn, "PNG"));
     }
-    if (!metadata.cover.isEmpty()) {
-        addPicture(metadata.cover, QStringLiteral("cover"));
+    metadata.cover = cover.bytes();
+    if (cover.type() != MRVDocumentPicture::None) {
+        addPicture(cover, QStringLiteral("cover"));
     }
 }
 
 bool MRVEPubBook::addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                               QString *error)
 {
-    const QList<QTextImageFormat> formats = MTextDoc::imageFormats(document);
-    for (const QTextImageFormat &format : formats) {
-        const QString id = MRVTextFormat::imageResourceId(format);
-        if (references->contains(id)) {
-            continue;
-        }
-        const QByteArray bytes = pictureBytes(document, format);
-        if (bytes.isEmpty() && !isRemote(id)) {
-            if (error) {
-                *error = MRVEPubBook::tr("The picture %1 cannot be read.")
-                             .arg(MRVTextFormat::imageName(format));
-            }
-            return false;
-        }
+    const MRVDocumentPictures shown(document);
+    QStringList paths;
+    for (const MRVDocumentPicture &picture : shown.all()) {
+        paths.append(addPicture(picture, picture.name()));
+    }
+    const QSet<QString> ids = MTextDoc::imageResourceIds(document);
+    for (const QString &id : ids) {
         // A book cannot hold a picture from the web: its alternative text takes its place.
-        references->insert(
-            id, bytes.isEmpty() ? QString() : addPicture(bytes, MRVTextFormat::imageName(format)));
+        references->insert(id, paths.value(shown.indexOf(id)));
+    }
+    for (const MRVMissingPicture &missing : shown.missing()) {
+        if (!isRemote(missing.id)) {
+            return MRV::fail(error,
+                             MRVEPubBook::tr("The picture %1 cannot be read.").arg(missing.name));
+        }
     }
     return true;
 }
 
-QString MRVEPubBook::addPicture(const QByteArray &bytes, const QString &name)
+QString MRVEPubBook::addPicture(const MRVDocumentPicture &picture, const QString &name)
 {
-    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-    QString &path = picturePaths[digest];
+    QString &path = picturePaths[picture.digest()];
     if (path.isEmpty()) {
-        const PictureType *type = pictureType(bytes);
         path = QStringLiteral("images/%1-%2.%3")
-                   .arg(safeName(name), QString::number(pictures.size() + 1),
-                        QLatin1String(type->suffix));
-        pictures.append({path, QLatin1String(type->mediaType), bytes});
+                   .arg(safeName(name), QString::number(pictures.size() + 1), picture.suffix());
+        pictures.append({path, picture.mediaType(), picture});
     }
     return path;
 }
@@ -402,9 +350,7 @@ QByteArray MRVEPubBook::coverBytes() const
     QString body;
     const QString shownTitle = title().toHtmlEscaped();
     if (!metadata.cover.isEmpty()) {
-        body = QLatin1String("\n<div class=\"cover\"><img src=\"")
-            + picturePaths.value(
-                QCryptographicHash::hash(metadata.cover, QCryptographicHash::Sha256))
+        body = QLatin1String("\n<div class=\"cover\"><img src=\"") + pictures.constFirst().path
             + QLatin1String("\" alt=\"") + shownTitle + QLatin1String("\" /></div>\n");
     } else {
         body = QLatin1String("\n<div class=\"cover\">\n<h1 class=\"cover-title\">") + shownTitle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/mrvdocumentpictures.h"
 #include "epub/mrvepubmetadata.h"
 #include "epub/mrvepuboptions.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
@@ -37,12 +38,12 @@ struct MRVEPubPage
     int document = 0; // the one it is a piece of
 };
 
-/** A picture or another file of the package, at its path below the package folder. */
+/** A picture of the package. */
 struct MRVEPubFile
 {
-    QString path;
+    QString path; // below the package folder
     QString mediaType;
-    QByteArray bytes;
+    MRVDocumentPicture picture; // read from its file when the package is written
 };
 
 /** Where the links of a document lead. */
@@ -107,7 +108,7 @@ private:
     void addPages(const Cutting &cutting);
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
-    QString addPicture(const QByteArray &bytes, const QString &name);
+    QString addPicture(const MRVDocumentPicture &picture, const QString &name);
     QString resolved(const QString &href, int document) const;
 };
 

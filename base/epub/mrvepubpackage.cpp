@@ -76,10 +76,10 @@ std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modif
         files.push_back({Folder + page.fileName, MRVZipEntry::Deflated,
                          [&book, &page] { return book.pageBytes(page); }});
     }
-    for (const MRVEPubFile &picture : book.pictures) {
-        const bool isText = picture.mediaType == QLatin1String("image/svg+xml");
-        add(Folder + picture.path, picture.bytes,
-            isText ? MRVZipEntry::Deflated : MRVZipEntry::Stored);
+    for (const MRVEPubFile &file : book.pictures) {
+        const bool isText = file.picture.type() == MRVDocumentPicture::Svg;
+        files.push_back({Folder + file.path, isText ? MRVZipEntry::Deflated : MRVZipEntry::Stored,
+                         [&file] { return file.picture.bytes(); }});
     }
     return files;
 }
@@ -123,6 +123,12 @@ QByteArray MRVEPubPackage::toByteArray(QString *error) const
     const QByteArray bytes =
         mrvZipArchive(filesOf(*m_book, modified), archiveDate(modified), &reason);
     if (bytes.isEmpty()) {
+        for (const MRVEPubFile &file : qAsConst(m_book->pictures)) {
+            if (file.picture.bytes(&reason).isEmpty()) {
+                reason = QStringLiteral("%1: %2").arg(file.picture.name(), reason);
+                break;
+            }
+        }
         MRV::fail(error, tr("The e-book cannot be packed: %1").arg(reason));
     }
     return bytes;

@@ -231,6 +231,12 @@ QByteArray mrvZipArchive(const std::vector<MRVZipEntry> &entries, const QDateTim
                          QString *error)
 {
     std::vector<Packed> files = packAll(entries); // outlives the archive, which reads it
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (files[i].size == 0) {
+            MRV::fail(error, entries[i].path);
+            return QByteArray();
+        }
+    }
     Archive archive;
     bool ok = true;
     for (std::size_t i = 0; ok && i < files.size(); ++i) {

@@ -17,7 +17,10 @@ struct MRVZipEntry
 
     QString path; // with "/" between folders
     Packing packing = Deflated;
-    /** Makes the file. It is called once, in any thread, at the same time as those of others. */
+    /**
+     * Makes the file. It is called once, in any thread, at the same time as those of others. No
+     * bytes mean that it failed, and with it the archive.
+     */
     std::function<QByteArray()> content;
 };
 
@@ -28,7 +31,7 @@ struct MRVZipEntry
  * the bytes do not depend on how many these are.
  *
  * @param date  1980 to 2107, of which the time of day of UTC is written.
- * @param error if given, receives the library's reason on failure; untouched on success.
+ * @param error if given, receives the reason on failure, which names a file or is the library's; untouched on success.
  * @return empty on failure.
  */
 QByteArray mrvZipArchive(const std::vector<MRVZipEntry> &entries, const QDateTime &date,

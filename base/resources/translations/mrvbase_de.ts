@@ -136,6 +136,17 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
     </message>
 </context>
 <context>
+    <name>MRVDocumentPicture</name>
+    <message>
+        <source>its file has changed, or cannot be read any more</source>
+        <translation>seine Datei hat sich geändert oder ist nicht mehr lesbar</translation>
+    </message>
+    <message>
+        <source>the document does not have it</source>
+        <translation>das Dokument enthält es nicht</translation>
+    </message>
+</context>
+<context>
     <name>MRVDomDoc</name>
     <message>
         <source>%1: elements are nested more deeply than %2 levels</source>

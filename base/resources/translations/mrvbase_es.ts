@@ -136,6 +136,17 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
     </message>
 </context>
 <context>
+    <name>MRVDocumentPicture</name>
+    <message>
+        <source>its file has changed, or cannot be read any more</source>
+        <translation>su archivo ha cambiado o ya no se puede leer</translation>
+    </message>
+    <message>
+        <source>the document does not have it</source>
+        <translation>el documento no la contiene</translation>
+    </message>
+</context>
+<context>
     <name>MRVDomDoc</name>
     <message>
         <source>%1: elements are nested more deeply than %2 levels</source>

@@ -136,6 +136,17 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
     </message>
 </context>
 <context>
+    <name>MRVDocumentPicture</name>
+    <message>
+        <source>its file has changed, or cannot be read any more</source>
+        <translation>son fichier a changé ou n’est plus lisible</translation>
+    </message>
+    <message>
+        <source>the document does not have it</source>
+        <translation>le document ne la contient pas</translation>
+    </message>
+</context>
+<context>
     <name>MRVDomDoc</name>
     <message>
         <source>%1: elements are nested more deeply than %2 levels</source>
