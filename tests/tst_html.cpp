@@ -90,6 +90,7 @@ QString blockLook(const QTextBlock &block)
     if (const QTextTable *table = cursor.currentTable()) {
         const QTextTableCell cell = table->cellAt(cursor);
         look << QString("cell%1.%2").arg(cell.row()).arg(cell.column());
+        add(table->format().alignment() == Qt::AlignHCenter, "mid");
         add(cell.columnSpan() > 1, QString("wide%1").arg(cell.columnSpan()));
         add(cell.rowSpan() > 1, QString("high%1").arg(cell.rowSpan()));
         add(cell.format().boolProperty(MRVTextFormat::HeaderCellProperty), "th");

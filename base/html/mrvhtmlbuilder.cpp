@@ -7,6 +7,8 @@
 #include <QTextFrame>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qreal DefaultPoints = 12; // 16 pixels
@@ -41,6 +43,48 @@ const QVector<MRVCssDeclaration> &innerListDeclarations()
     static const QVector<MRVCssDeclaration> declarations =
         MRVStyleSheet::parseDeclarations(QStringLiteral("margin-top:0;margin-bottom:0"));
     return declarations;
+}
+
+bool isBlank(const GumboNode *node)
+{
+    return node->type == GUMBO_NODE_COMMENT
+        || (!mrvIsElement(node) && mrvTextOf(node).trimmed().isEmpty());
+}
+
+// Whether an element fills a line: between line ends, or the beginning or end of its block.
+bool fillsLine(const GumboNode *element)
+{
+    const GumboNode *parent = element->parent;
+    if (!mrvIsElement(parent) || mrvHtmlElement(parent).display == MRVHtmlStyle::Inline) {
+        return false;
+    }
+    const GumboVector &siblings = parent->v.element.children;
+    bool hasLineEnd = false;
+    for (const int step : {-1, 1}) {
+        size_t at = element->index_within_parent + size_t(step);
+        while (at < siblings.length && isBlank(static_cast<GumboNode *>(siblings.data[at]))) {
+            at += size_t(step); // before the first one it is beyond the last
+        }
+        if (at < siblings.length) {
+            if (!mrvIsElement(static_cast<GumboNode *>(siblings.data[at]), GUMBO_TAG_BR)) {
+                return false;
+            }
+            hasLineEnd = true;
+        }
+    }
+    return hasLineEnd;
+}
+
+// A line of verse with a margin of its own. Rich text knows margins of paragraphs only.
+void makeIndentedLine(const GumboNode *element, MRVHtmlStyle *style)
+{
+    const qreal indent = style->margin(MRVHtmlSide::Left);
+    if (style->display == MRVHtmlStyle::Inline && indent > 0 && style->textIndent == 0
+        && fillsLine(element)) {
+        style->display = MRVHtmlStyle::Block;
+        std::fill(std::begin(style->margins), std::end(style->margins), 0);
+        style->margins[int(MRVHtmlSide::Left)] = indent;
+    }
 }
 
 bool hasNextElement(const GumboNode *element)
@@ -218,34 +262,42 @@ void MRVHtmlBuilder::readChildren(const GumboNode *parent, const MRVHtmlStyle &s
                                   const MRVCssElement *css)
 {
     Siblings siblings;
+    bool isLineEnded = false; // an indented line has become a paragraph, which ends it
     for (const GumboNode *child : MRVHtmlChildren(parent)) {
         if (mrvIsElement(child)) {
-            readElement(child, style, cssElement(child, css, &siblings));
+            const MRVCssElement *childCss = cssElement(child, css, &siblings);
+            const bool isEnd = isLineEnded && mrvIsElement(child, GUMBO_TAG_BR);
+            isLineEnded = !isEnd && readElement(child, style, childCss);
         } else if (child->type != GUMBO_NODE_COMMENT && !style.isInvisible) {
+            isLineEnded = isLineEnded && isBlank(child);
             m_writer.writeText(mrvTextOf(child), style);
         }
     }
 }
 
-void MRVHtmlBuilder::readElement(const GumboNode *element, const MRVHtmlStyle &outside,
+// Tells whether the element was an indented line.
+bool MRVHtmlBuilder::readElement(const GumboNode *element, const MRVHtmlStyle &outside,
                                  const MRVCssElement *css)
 {
     if (mrvHtmlElement(element).kind == MRVHtmlElement::Skipped) {
-        return;
+        return false;
     }
-    const MRVHtmlStyle style = styleOf(element, outside, css);
+    MRVHtmlStyle style = styleOf(element, outside, css);
+    const MRVHtmlStyle::Display display = style.display;
+    makeIndentedLine(element, &style);
     const bool isName = element->v.element.tag == GUMBO_TAG_A;
     m_writer.addName(mrvAttributeOf(element, "id"));
     m_writer.addName(isName ? mrvAttributeOf(element, "name") : QString());
     keepDisplay(element, style);
     if (style.display == MRVHtmlStyle::Hidden) {
-        return;
+        return false;
     }
     if (style.isInvisible) {
         readInvisible(element, style, css);
     } else {
         readShown(element, style, css);
     }
+    return style.display != display;
 }
 
 void MRVHtmlBuilder::keepDisplay(const GumboNode *element, const MRVHtmlStyle &style)

@@ -35,7 +35,7 @@ private:
     void prepareDocument(const MRVHtmlStyle &body);
 
     void readChildren(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css);
-    void readElement(const GumboNode *element, const MRVHtmlStyle &outside,
+    bool readElement(const GumboNode *element, const MRVHtmlStyle &outside,
                      const MRVCssElement *css);
     void keepDisplay(const GumboNode *element, const MRVHtmlStyle &style);
     void readShown(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);

@@ -394,9 +394,10 @@ void display(const Value &value, MRVHtmlStyle *style)
 void margin(const Value &value, MRVHtmlStyle *style)
 {
     qreal pixels = 0;
-    if (value.text == QLatin1String("auto")
-        || toPixels(value, value.text, style->fontPixels, ColumnPixels, &pixels)) {
+    const bool isFree = value.text == QLatin1String("auto");
+    if (isFree || toPixels(value, value.text, style->fontPixels, ColumnPixels, &pixels)) {
         style->margins[sideOf(value.property)] = pixels;
+        style->isFree[sideOf(value.property)] = isFree;
     }
 }
 

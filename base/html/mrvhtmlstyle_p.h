@@ -45,6 +45,7 @@ struct MRVHtmlStyle
     // The element's own.
     Display display = Inline;
     qreal margins[4] = {0, 0, 0, 0}; ///< by MRVHtmlSide
+    bool isFree[4] = {false, false, false, false}; ///< by MRVHtmlSide; margins that are "auto"
     qreal paddings[4] = {-1, -1, -1, -1}; ///< by MRVHtmlSide; -1: not said
     MRVHtmlBorder borders[4]; ///< by MRVHtmlSide
     QBrush background;

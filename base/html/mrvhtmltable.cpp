@@ -79,6 +79,15 @@ QTextTableCellFormat cellFormat(const MRVHtmlStyle &style, bool isHeader)
     return format;
 }
 
+// Where in its line a table stands; 0 for the usual place.
+Qt::Alignment tableAlignment(const GumboNode *element, const MRVHtmlStyle &style)
+{
+    const QString named = mrvAttributeOf(element, "align").toLower();
+    const bool isFree =
+        style.isFree[int(MRVHtmlSide::Left)] && style.isFree[int(MRVHtmlSide::Right)];
+    return named == QLatin1String("center") || isFree ? Qt::AlignHCenter : Qt::Alignment();
+}
+
 } // namespace
 
 /** The cells of a table by their places in its grid. */
@@ -187,9 +196,7 @@ void MRVHtmlBuilder::readTable(const GumboNode *element, const MRVHtmlStyle &sty
     format.setCellPadding(lengthOf(element, "cellpadding", 0));
     format.setBorderCollapse(style.collapsesBorders);
     format.setHeaderRowCount(table.headerRows);
-    if (mrvAttributeOf(element, "align").toLower() == QLatin1String("center")) {
-        format.setAlignment(Qt::AlignHCenter);
-    }
+    format.setAlignment(tableAlignment(element, style));
     if (!table.widths.isEmpty()) {
         table.widths.resize(table.freeFrom.size());
         format.setColumnWidthConstraints(table.widths);

@@ -69,7 +69,12 @@ MRVHtmlWriter::MRVHtmlWriter(QTextDocument *document)
 void MRVHtmlWriter::enter(const MRVHtmlStyle &style, const MRVHtmlBox &box)
 {
     endParagraph();
-    const Box &outside = m_boxes.constLast();
+    Box &outside = m_boxes.last();
+    if (outside.endsWithText && m_place == Place::Closed
+        && outside.style.margin(MRVHtmlSide::Bottom) > 0) {
+        setBottomMargin(0); // the space is after all that the element holds
+    }
+    outside.endsWithText = false;
     Box inside;
     inside.style = style;
     inside.box = box;
@@ -97,12 +102,17 @@ void MRVHtmlWriter::leave()
     const qreal bottom = box.style.margin(MRVHtmlSide::Bottom);
     if (box.isStarted && m_place == Place::Closed
         && bottom > m_cursor.blockFormat().bottomMargin()) {
-        QTextBlockFormat format = m_cursor.blockFormat();
-        format.setBottomMargin(bottom);
-        m_cursor.setBlockFormat(format);
+        setBottomMargin(bottom);
     }
     m_breakIsPending = m_breakIsPending || box.style.breaksAfter;
     m_boxes.removeLast();
+}
+
+void MRVHtmlWriter::setBottomMargin(qreal margin)
+{
+    QTextBlockFormat format = m_cursor.blockFormat();
+    format.setBottomMargin(margin);
+    m_cursor.setBlockFormat(format);
 }
 
 void MRVHtmlWriter::endParagraph()
@@ -157,9 +167,10 @@ void MRVHtmlWriter::startBoxes(QTextBlockFormat *format)
 
 QTextBlockFormat MRVHtmlWriter::paragraphFormat()
 {
-    const Box &box = m_boxes.constLast();
+    Box &box = m_boxes.last();
     QTextBlockFormat format = lookOf(box.style);
     startBoxes(&format);
+    box.endsWithText = true;
     const qreal bottom = box.style.margin(MRVHtmlSide::Bottom);
     if (bottom > 0) {
         format.setBottomMargin(bottom);

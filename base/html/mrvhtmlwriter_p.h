@@ -100,6 +100,7 @@ private:
         QBrush background;
         std::shared_ptr<MRVHtmlList> list;
         bool breaksBefore = false;
+        bool endsWithText = false; // with a paragraph of its own, not of an element in it
         bool isStarted = false; // has a paragraph
         bool isItemStarted = false;
         QTextBlockFormat::MarkerType marker = QTextBlockFormat::MarkerType::NoMarker;
@@ -109,6 +110,7 @@ private:
 
     void openParagraph();
     QTextBlockFormat paragraphFormat();
+    void setBottomMargin(qreal margin);
     void startBoxes(QTextBlockFormat *format);
     bool joinList(QTextBlockFormat *format);
     void setParagraphFormat(const QTextBlockFormat &format, const QTextCharFormat &text);

@@ -58,6 +58,18 @@ bool hasText(const QTextBlock &block)
     return block.length() > 1;
 }
 
+// Qt writes no empty paragraph after the beginning or the end of a frame, nor the rule in it.
+bool isAfterFrameEdge(const QTextBlock &block)
+{
+    const QChar before = block.document()->characterAt(block.position() - 1);
+    return before == QChar(0xfdd0) || before == QChar(0xfdd1);
+}
+
+bool isWrongRule(const QTextBlock &block, const QTextFormat &format)
+{
+    return hasRule(format) && (hasText(block) || isAfterFrameEdge(block));
+}
+
 // What of a document QTextDocument::toHtml() would get wrong.
 struct Faults
 {
@@ -77,7 +89,7 @@ struct Faults
         }
         for (QTextBlock block = document.begin(); rules && !inBlocks && block.isValid();
              block = block.next()) {
-            inBlocks = hasText(block) && hasRule(formats.at(block.blockFormatIndex()));
+            inBlocks = isWrongRule(block, formats.at(block.blockFormatIndex()));
         }
     }
 
@@ -111,9 +123,14 @@ void mendBlocks(QTextDocument *document)
             format.setHeadingLevel(MRVTextBlockFormat::headingLevel(format));
             cursor.setBlockFormat(format);
         }
+        const bool isAfterEdge = isAfterFrameEdge(block);
         if (hasRule(format) && hasText(block)) {
             separateRule(&cursor, format);
             block = cursor.block();
+            cursor.setPosition(block.previous().position());
+        }
+        if (hasRule(format) && isAfterEdge) {
+            cursor.insertText(QString(QChar::Nbsp)); // gives way to the rule
         }
     }
     cursor.endEditBlock();
