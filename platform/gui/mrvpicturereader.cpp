@@ -159,20 +159,39 @@ QSize MRVPictureReader::uprightSize() const
     return m_orientation & QImageIOHandler::TransformationRotate90 ? m_size.transposed() : m_size;
 }
 
+// Decodes what was found safe; in its own size unless another one is valid.
+QImage MRVPictureReader::decoded(const QSize &size) const
+{
+    QBuffer file;
+    file.setData(m_bytes);
+    file.open(QIODevice::ReadOnly);
+    QImageReader reader(&file, m_format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    reader.setScaledSize(size);
+    return reader.read();
+}
+
 QImage MRVPictureReader::read(QString *error) const
 {
-    QImage image;
-    if (isReadable()) {
-        QBuffer file;
-        file.setData(m_bytes);
-        file.open(QIODevice::ReadOnly);
-        QImageReader reader(&file, m_format);
-        reader.setAutoDetectImageFormat(false);
-        reader.setAutoTransform(true);
-        image = reader.read();
-    }
+    const QImage image = isReadable() ? decoded(QSize()) : QImage();
     if (image.isNull() && error) {
         *error = isReadable() ? tr("it is damaged") : m_error;
+    }
+    return image;
+}
+
+QImage MRVPictureReader::draw(const QSize &bounds, QString *error) const
+{
+    // Without a size, what it takes is not known.
+    const bool isSmall = m_size.boundedTo(bounds) == m_size;
+    const QSize size = isSmall ? m_size : m_size.scaled(bounds, Qt::KeepAspectRatio);
+    if (!m_isDrawing || size.isEmpty()) {
+        return read(error);
+    }
+    const QImage image = decoded(size);
+    if (image.isNull() && error) {
+        *error = tr("it is damaged");
     }
     return image;
 }

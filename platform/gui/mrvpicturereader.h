@@ -84,6 +84,16 @@ public:
     QImage read(QString *error = nullptr) const;
 
     /**
+     * Draws an SVG in its own size or, where that is larger than @p bounds, as large as fits into
+     * them, so that it may claim any number of pixels.
+     *
+     * @param error if given, receives error(), or that the picture is damaged; untouched on
+     *              success.
+     * @return a null image on failure. Other pictures are read() as they are.
+     */
+    QImage draw(const QSize &bounds, QString *error = nullptr) const;
+
+    /**
      * The format of the picture in @p bytes, by its signature; see format(). Nothing is decoded,
      * which Qt does to recognise an XBM.
      */
@@ -100,6 +110,7 @@ public:
 private:
     MRVPictureReader() = default;
     QString refusal();
+    QImage decoded(const QSize &size) const;
     QString refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes = 4);
 
     QByteArray m_bytes; // of an SVG, what may be given to Qt
