@@ -128,6 +128,9 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
     InputOptions reading = options.input;
     reading.pictures =
         options.isPackage() || (!call.has("no-images") && outputs.constFirst() != StandardOutput);
+    if (options.isPackage() && reading.missingPictures == MRVManuscriptReader::Keep) {
+        reading.missingPictures = MRVManuscriptReader::Drop; // a book names no file outside of it
+    }
     QStringList pictures{call.value("cover")};
     for (const QString &path : call.arguments) {
         showProgress(QStringLiteral("Reading %1").arg(path));
@@ -216,7 +219,22 @@ bool exportPackage(const Call &call, const Options &options,
     return true;
 }
 
-void report(const Call &call, const QStringList &written)
+QJsonArray unreadablePictures(const std::vector<MRVManuscript> &manuscripts)
+{
+    QJsonArray pictures;
+    for (const MRVManuscript &manuscript : manuscripts) {
+        for (const MRVUnreadablePicture &picture : manuscript.unreadablePictures) {
+            pictures.append(QJsonObject{{QStringLiteral("input"), manuscript.path},
+                                        {QStringLiteral("line"), picture.line},
+                                        {QStringLiteral("picture"), picture.name},
+                                        {QStringLiteral("reason"), picture.reason}});
+        }
+    }
+    return pictures;
+}
+
+void report(const Call &call, const std::vector<MRVManuscript> &manuscripts,
+            const QStringList &written)
 {
     QJsonArray files;
     QMap<QString, int> pictures; // by folder
@@ -233,7 +251,8 @@ void report(const Call &call, const QStringList &written)
         printLine(QStringLiteral("%1/ (pictures: %2)").arg(it.key(), QString::number(it.value())));
     }
     if (call.json()) {
-        printJson({{QStringLiteral("files"), files}});
+        printJson({{QStringLiteral("files"), files},
+                   {QStringLiteral("missingPictures"), unreadablePictures(manuscripts)}});
     }
 }
 
@@ -261,7 +280,7 @@ int run(const Call &call)
     }
     showProgress(QString());
     if (outputs.constFirst() != StandardOutput) {
-        report(call, written);
+        report(call, manuscripts, written);
     }
     return Done;
 }
@@ -278,6 +297,7 @@ constexpr Option options[] = {
     manuscriptEncoding(),
     markdownSyntax(),
     strictReading(),
+    missingPictures(),
     Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
     Option::text("language", "TAG",
                  "The language, such as en-GB. Default: that of the manuscript, else, for e-books, "

@@ -1,6 +1,5 @@
 #include "inputs.h"
 
-#include "manuscript/mrvmanuscriptreader.h"
 #include "publish/mrvstagedfiles.h"
 #include "util/mrvnames.h"
 
@@ -24,9 +23,27 @@ QString hint(MRVManuscriptReader::Error error)
         return QStringLiteral("; give a known one with --encoding");
     case MRVManuscriptReader::DecodingError:
         return QStringLiteral("; give the right encoding with --encoding");
+    case MRVManuscriptReader::PictureError:
+        return QStringLiteral("; --missing-pictures=drop goes on without");
     default:
         return QString();
     }
+}
+
+// Of several pictures that cannot be read, the error counts them.
+void printUnreadable(const QString &path, const QVector<MRVUnreadablePicture> &pictures)
+{
+    for (int i = 0; pictures.size() > 1 && i < pictures.size(); ++i) {
+        printError(QStringLiteral("%1: %2").arg(path, pictures.at(i).text()));
+    }
+}
+
+MRVManuscriptReader::MissingPictures missingPicturesOf(const Call &call)
+{
+    const QString what = call.value("missing-pictures");
+    return what == QLatin1String("drop") ? MRVManuscriptReader::Drop
+        : what == QLatin1String("keep")  ? MRVManuscriptReader::Keep
+                                         : MRVManuscriptReader::Refuse;
 }
 
 } // namespace
@@ -36,6 +53,7 @@ InputOptions inputOptions(const Call &call)
     InputOptions options;
     options.format = call.value("from");
     options.encoding = call.value("encoding");
+    options.missingPictures = missingPicturesOf(call);
     return options;
 }
 
@@ -90,6 +108,7 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     reader.setEncoding(options.encoding);
     reader.setMarkdownOptions(MRVMarkdown::Footnotes | options.markdown);
     reader.setLoadsPictures(options.pictures);
+    reader.setMissingPictures(options.missingPictures);
     reader.setPurpose(options.isPublished ? MRVManuscriptReader::Publishing
                                           : MRVManuscriptReader::Editing);
     bool ok = false;
@@ -105,6 +124,7 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
         ok = reader.read(path, manuscript);
     }
     if (!ok) {
+        printUnreadable(path, reader.unreadablePictures());
         *error = reader.errorString() + hint(reader.error());
         return false;
     }
@@ -116,6 +136,12 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
         for (const QString &note : manuscript->readingNotes()) {
             printError(QStringLiteral("note: %1: %2").arg(path, note));
         }
+    }
+    const int dropped = manuscript->unreadablePictures.size();
+    if (dropped > 0 && options.missingPictures == MRVManuscriptReader::Drop) {
+        printError(QStringLiteral("note: %1: pictures with their alternative texts in their "
+                                  "places: %2")
+                       .arg(path, QString::number(dropped)));
     }
     return true;
 }

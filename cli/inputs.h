@@ -3,6 +3,7 @@
 #include "commandline.h"
 
 #include "manuscript/mrvmanuscript.h"
+#include "manuscript/mrvmanuscriptreader.h"
 
 #include <QByteArray>
 #include <QString>
@@ -34,6 +35,15 @@ constexpr Option markdownSyntax(const char *verbs = nullptr)
         .repeated();
 }
 
+constexpr Option missingPictures(const char *verbs = nullptr)
+{
+    return Option::choice("missing-pictures", "WHAT", "refuse drop keep",
+                          "What to do where pictures on this machine cannot be read: refuse the "
+                          "manuscript (default), drop them, so that their alternative texts take "
+                          "their places, or keep what names them, which drops them from e-books.",
+                          verbs);
+}
+
 /** How to read an input. Empty texts: find out. */
 struct InputOptions
 {
@@ -42,6 +52,7 @@ struct InputOptions
     MRVMarkdown::Options markdown; // besides what is always read; for publishing
     bool isPublished = false; // false: the text is looked for, and changed in its source
     bool pictures = false; // false: leave them, and what names them, alone
+    MRVManuscriptReader::MissingPictures missingPictures = MRVManuscriptReader::Refuse;
     bool strict = false; // refuse a manuscript of which the document lacks something
 };
 

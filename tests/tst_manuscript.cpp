@@ -1,4 +1,5 @@
 #include "datarows.h"
+#include "document/mtextdoc.h"
 #include "images.h"
 #include "support.h"
 
@@ -76,6 +77,39 @@ private Q_SLOTS:
         cursor.setPosition(2);
         const QString id = cursor.charFormat().toImageFormat().name();
         QVERIFY(!read.document->resource(QTextDocument::ImageResource, id).isNull());
+    }
+
+    void missingPictures()
+    {
+        const QByteArray page = "<p>1<img src='gone.png' alt='A'>\n<img src='/dev/zero'>"
+                                "<p id='x'><img src='data:image/png;base64,AAAA' alt='B'>"
+                                "<img src='gone.png' alt='A'><img src='pic%20one.bmp'>";
+        QVERIFY(writeBytes(in("a.html"), page));
+        MRVManuscriptReader reader;
+        MRVManuscript read;
+        QVERIFY(!reader.read(in("a.html"), &read));
+        QCOMPARE(reader.error(), MRVManuscriptReader::PictureError);
+        QStringList texts;
+        for (const MRVUnreadablePicture &picture : reader.unreadablePictures()) {
+            texts << picture.text();
+        }
+        const QString format = "line %1: the picture %2 cannot be read: it is %3";
+        QCOMPARE(texts,
+                 (QStringList{"line 1: the picture gone.png cannot be read: it does not exist",
+                              format.arg("2", "/dev/zero", "not a regular file"),
+                              format.arg("2", QString("data:image/png;base64,AAAA") + QChar(0x2026),
+                                         "in no known picture format")}));
+        reader.setMissingPictures(MRVManuscriptReader::Drop);
+        QVERIFY(reader.read(in("a.html"), &read));
+        QCOMPARE(read.document->toRawText(), QString("1A \u2029BA\ufffc"));
+        QCOMPARE(read.readingNotes(), texts);
+        QVERIFY(!read.isWhole());
+        QTextCursor cursor(read.document.get());
+        cursor.setPosition(5);
+        QCOMPARE(cursor.charFormat().anchorNames(), QStringList{"x"});
+        reader.setMissingPictures(MRVManuscriptReader::Keep);
+        QVERIFY(reader.read(in("a.html"), &read));
+        QCOMPARE(MTextDoc::imageFormats(*read.document).at(0).name(), QString("gone.png"));
     }
 
     void notes_data() { addRows("manuscript-notes.tsv"); }

@@ -209,6 +209,28 @@ private Q_SLOTS:
         QCOMPARE(files.last().toObject().value("bytes").toInt(), bytesOf(in("book.xhtml")).size());
     }
 
+    // An e-book may not name what is not in it, so that "keep" leaves the alternative text there.
+    void missingPictures()
+    {
+        QVERIFY(writeBytes(in("gone.html"), "<p>1<img src='a.png' alt='A'>\n<img src='b.png'>"));
+        const QStringList call{"export", in("gone.html"), "-o", in("out"), "--json", "--to"};
+        const Ran refused = mrv(call + QStringList("xhtml"));
+        QCOMPARE(refused.exitCode, 1);
+        QCOMPARE(refused.errors.count('\n'), 3);
+        QVERIFY(!QFile::exists(in("out")));
+        for (const QString type : {"xhtml", "epub"}) {
+            const Ran ran = mrv(call + QStringList{type, "--missing-pictures", "keep"});
+            const auto report = QJsonDocument::fromJson(ran.output.toUtf8()).object();
+            const QJsonArray pictures = report.value("missingPictures").toArray();
+            QCOMPARE(pictures.size(), 2);
+            QCOMPARE(pictures.last().toObject().value("line").toInt(), 2);
+            QCOMPARE(bytesOf(in("out")).contains("src=\"a.png\""), type == "xhtml");
+        }
+        KZip book(in("out"));
+        QVERIFY(book.open(QIODevice::ReadOnly));
+        QVERIFY(book.directory()->file("OEBPS/page-001.xhtml")->data().contains(">1A"));
+    }
+
 private:
     void leaveOldFiles(const QString &folder)
     {

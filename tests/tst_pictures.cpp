@@ -298,7 +298,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("svg-blanks") << packedBlanks();
-        QTest::newRow("svg") << svg("width='30000' height='30000'", "");
+        QTest::newRow("png") << pngClaiming(20000, 20000, 8, 6, pngChunk("IDAT", "x"));
         QTest::newRow("gif-frame") << gifOfLargeFrame();
     }
 
@@ -318,6 +318,23 @@ private Q_SLOTS:
         getrusage(RUSAGE_CHILDREN, &usage);
         QVERIFY2(usage.ru_maxrss < SanitizerMemory * (300 << 10),
                  qPrintable(QString::number(usage.ru_maxrss)));
+    }
+
+    // A drawing needs no pixels where it stays one, and few where it is drawn.
+    void exportsLargeDrawings()
+    {
+        const QTemporaryDir folder;
+        write(folder, "pic.svg", svg("width='30000' height='10000'", ""));
+        const QString page = write(folder, "page.html", "<p>text <img src='pic.svg'></p>");
+        for (const QString type : {"html", "xhtml", "epub", "kindle"}) {
+            const QString file = folder.filePath("out." + type);
+            QCOMPARE(run(MRV_TOOL, {"export", page, "--to", type, "-o", file}).errors, QString());
+        }
+        QCOMPARE(QImage(folder.filePath("out_files/pic.jpg")).size(), QSize(4096, 1365));
+        QVERIFY(QFile::exists(folder.filePath("out_files/pic.svg")));
+        rusage usage{};
+        getrusage(RUSAGE_CHILDREN, &usage);
+        QVERIFY(usage.ru_maxrss < SanitizerMemory * (300 << 10));
     }
 
     // Opening a pipe that nobody writes to never ends.

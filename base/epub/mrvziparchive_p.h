@@ -31,7 +31,8 @@ struct MRVZipEntry
  * the bytes do not depend on how many these are.
  *
  * @param date  1980 to 2107, of which the time of day of UTC is written.
- * @param error if given, receives the reason on failure, which names a file or is the library's; untouched on success.
+ * @param error if given, receives the reason on failure, which names a file or is the library's;
+ *              untouched on success.
  * @return empty on failure.
  */
 QByteArray mrvZipArchive(const std::vector<MRVZipEntry> &entries, const QDateTime &date,

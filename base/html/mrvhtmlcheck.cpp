@@ -262,6 +262,10 @@ private:
         if (isSeparate) {
             endWord();
         }
+        if (kind.kind == MRVHtmlElement::Picture
+            && !m_report->pictureLines.contains(mrvPictureName(element))) {
+            m_report->pictureLines.insert(mrvPictureName(element), lineOf(element));
+        }
         const bool isQuotation = kind.kind == MRVHtmlElement::Quotation;
         if (isQuotation) {
             m_words.add(mrvQuotationMark(true, m_quotations++), m_line, expectWord());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -30,4 +31,6 @@ struct MRVHtmlReport
     int hiddenWords = 0;
     /** What is missing from the document, by comparing it with the page; empty if all is well. */
     QVector<MRVHtmlLoss> losses;
+    /** The line, from 1, at which the page first shows each picture, by the picture's name. */
+    QHash<QString, int> pictureLines;
 };

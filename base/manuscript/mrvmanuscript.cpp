@@ -21,11 +21,21 @@ constexpr struct
 
 } // namespace
 
+QString MRVUnreadablePicture::text() const
+{
+    return line > 0
+        ? tr("line %1: the picture %2 cannot be read: %3").arg(QString::number(line), name, reason)
+        : tr("the picture %1 cannot be read: %2").arg(name, reason);
+}
+
 QStringList MRVManuscript::readingNotes() const
 {
     QStringList notes = conversionNotes;
     for (const MRVHtmlLoss &loss : report.losses) {
         notes.append(tr("line %1: not in the document: %2").arg(loss.line).arg(loss.what));
+    }
+    for (const MRVUnreadablePicture &picture : unreadablePictures) {
+        notes.append(picture.text());
     }
     if (!report.missingSheets.isEmpty()) {
         notes.append(tr("style sheets that cannot be read: %1")

@@ -9,8 +9,27 @@
 #include <QString>
 #include <QStringList>
 #include <QTextDocument>
+#include <QVector>
 
 #include <memory>
+
+/**
+ * A picture that a manuscript shows and that is missing or cannot be read.
+ *
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVUnreadablePicture
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVUnreadablePicture)
+
+public:
+    QString name; ///< as the source has it; where that holds the picture itself, the start of it
+    int line = 0; ///< of the source, from 1, that shows it first; 0 where it is not known
+    QString reason; ///< a translated end of a sentence: "it does not exist"
+
+    /** All that as a translated sentence without a full stop. */
+    QString text() const;
+};
 
 /**
  * A manuscript as it was read: the document, what the file says about it, and the file's bytes.
@@ -59,13 +78,15 @@ public:
     QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
 
     QStringList pictures; ///< files that it shows, each once, in order of appearance
+    /** Those that MRVManuscriptReader::setMissingPictures() let pass, each once, in order. */
+    QVector<MRVUnreadablePicture> unreadablePictures;
     /** What reading found out beside the text: style sheets that are missing, and losses. */
     MRVHtmlReport report;
     QStringList conversionNotes; ///< the converter's own, in English, where isConverted()
     int remotePictures = 0; ///< pictures on other machines that it shows; they are not loaded
 
     /** Whether the document holds all words, links and pictures that the source shows. */
-    bool isWhole() const { return report.losses.isEmpty(); }
+    bool isWhole() const { return report.losses.isEmpty() && unreadablePictures.isEmpty(); }
     /** What a writer should know about the reading, a translated line each; see report. */
     QStringList readingNotes() const;
 

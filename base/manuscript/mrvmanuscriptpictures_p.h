@@ -1,17 +1,19 @@
 #pragma once
 
-#include <QString>
+#include "manuscript/mrvmanuscript.h"
 
-struct MRVManuscript;
+#include <QString>
+#include <QVector>
 
 /**
- * Loads the pictures on this machine into the document, gives each its full path, and lists them in
- * the manuscript.
+ * Looks for the pictures that the document names, without decoding them. Each image of a file gets
+ * the file's URL as its name, and each that is part of the source a resource. Lists the files in
+ * the manuscript, and counts the pictures on other machines.
  *
- * @param folder     where their names count from.
- * @param unreadable receives the name, as it is in the document, of a picture that cannot be read.
- * @param reason     receives why, translated.
- * @return false at the first such picture.
+ * @param folder where their names count from.
+ * @param drop   whether alternative texts take the places of those that cannot be read; else these
+ *               stay as they are.
+ * @return those that cannot be read, each once, in order of appearance.
  */
-bool mrvLoadPictures(const QString &folder, MRVManuscript *manuscript, QString *unreadable,
-                     QString *reason);
+QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, bool drop,
+                                              MRVManuscript *manuscript);

@@ -71,6 +71,7 @@ bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
                                     MRVManuscript *manuscript)
 {
     QString text;
+    m_unreadablePictures.clear();
     read->options = m_purpose == Editing ? MRVMarkdown::Footnotes : m_options;
     if (read->format == MRVManuscript::Unknown) {
         return fail(UnknownFormat, *read, tr("unknown type of file"));
@@ -148,9 +149,15 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
 
 bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read)
 {
-    QString unreadable;
-    QString reason;
-    return mrvLoadPictures(folder, read, &unreadable, &reason)
-        || fail(PictureError, *read,
-                tr("the picture %1 cannot be read: %2").arg(unreadable, reason));
+    const QVector<MRVUnreadablePicture> unreadable =
+        mrvLoadPictures(folder, m_missingPictures == Drop, read);
+    if (m_missingPictures != Refuse || unreadable.isEmpty()) {
+        read->unreadablePictures = unreadable;
+        return true;
+    }
+    m_unreadablePictures = unreadable;
+    return fail(PictureError, *read,
+                unreadable.size() == 1
+                    ? unreadable.constFirst().text()
+                    : tr("pictures that cannot be read: %1").arg(unreadable.size()));
 }

@@ -45,6 +45,13 @@ public:
         Editing, ///< in the order of the source and with its characters, so that changes find it
     };
 
+    /** What is done about pictures on this machine that are missing or cannot be read. */
+    enum MissingPictures {
+        Refuse, ///< reading fails, and unreadablePictures() has them all
+        Drop, ///< their alternative texts take their places
+        Keep, ///< the document names them as the source does
+    };
+
     /**
      * What the document is for; Publishing at first. For Editing, the characters of Markdown stay
      * as they are, whatever its options.
@@ -56,8 +63,14 @@ public:
     void setFormat(MRVManuscript::Format format) { m_format = format; }
     /** A name that QTextCodec knows; empty, as at first, means what the input declares. */
     void setEncoding(const QString &encoding) { m_encoding = encoding; }
-    /** Whether pictures are loaded, which they are at first. Else what names them stays as is. */
+    /**
+     * Whether pictures are looked up, which they are at first. The document then names each file by
+     * its URL, and decodes it when somebody asks for its pixels: MRVGuardedDocument. What is part
+     * of the source becomes a resource. Else what names them stays as is.
+     */
     void setLoadsPictures(bool loads) { m_loadsPictures = loads; }
+    /** Refuse at first. Of use where pictures are looked up. */
+    void setMissingPictures(MissingPictures what) { m_missingPictures = what; }
 
     /**
      * Reads a file.
@@ -81,6 +94,8 @@ public:
 
     /** Why the last reading failed; NoError after success. */
     Error error() const { return m_error; }
+    /** After a PictureError, all pictures that cannot be read, each once, in order. */
+    QVector<MRVUnreadablePicture> unreadablePictures() const { return m_unreadablePictures; }
     /** The same as one translated line that names the file; empty after success. */
     QString errorString() const { return m_errorString; }
 
@@ -97,6 +112,8 @@ private:
     MRVManuscript::Format m_format = MRVManuscript::Unknown;
     QString m_encoding;
     bool m_loadsPictures = true;
+    MissingPictures m_missingPictures = Refuse;
+    QVector<MRVUnreadablePicture> m_unreadablePictures;
     Error m_error = NoError;
     QString m_errorString;
 };

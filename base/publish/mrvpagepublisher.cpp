@@ -151,6 +151,7 @@ bool MRVPagePublisher::writePage(QTextDocument *document, const QString &languag
     MRVTextXhtmlExporter exporter(document);
     exporter.setLanguage(m_options.language.isEmpty() ? language : m_options.language);
     exporter.setStyles(folder->styles);
+    exporter.setKeepsPictures(true);
     if (!exporter.toFile(m_options.type, page, m_options.images, QString(), error)) {
         return false;
     }

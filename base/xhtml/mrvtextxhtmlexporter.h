@@ -86,6 +86,12 @@ public:
      */
     void setLanguage(const QString &language) { m_language = language; }
     /**
+     * Whether toFile() writes the pictures in the form that they have where browsers show it, as
+     * MRVDocumentPictures gives them, and JPEG files as they are for the Kindle types. At first it
+     * does not: all are encoded again, unless a file of the same suffix is linked.
+     */
+    void setKeepsPictures(bool keeps) { m_keepsPictures = keeps; }
+    /**
      * A line with file and reason for each picture of the document that the last toFile() could not
      * write.
      */
@@ -107,8 +113,8 @@ public:
      * images written for it are removed again and an old page stands.
      *
      * @param exportImages write the images to files, as JPEG for the Kindle types and as PNG
-     *                     otherwise, and let the page refer to these; an image that cannot be
-     *                     written keeps its reference.
+     *                     otherwise unless setKeepsPictures(), and let the page refer to
+     *                     these; an image that cannot be written keeps its reference.
      * @param imageDir     folder for the images, made when missing; empty takes calcImageDir(@p
      *        path).
      * @param error        if given, receives a text on failure; untouched on success.
@@ -325,11 +331,14 @@ private:
                        QString *error = nullptr) const;
     QStringList writeImages(const QString &dir, QString *html, const char *format,
                             QStringList *failed) const;
+    QStringList writeKeptImages(const QString &dir, QString *html, const char *format,
+                                QStringList *failed) const;
     QString imageReference(const QString &file) const;
 
     const QTextDocument *m_document;
     StyleList m_styles;
     QString m_language;
+    bool m_keepsPictures = false;
     QStringList m_unwrittenImages;
     QString m_pageDir; // set while a page is written: what image references are relative to
 };

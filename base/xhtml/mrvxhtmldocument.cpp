@@ -1,8 +1,12 @@
 #include "xhtml/mrvtextxhtmlexporter.h"
 
 #include "core/mrvcoreutil.h"
+#include "document/mrvdocumentpictures.h"
 #include "document/mtextdoc.h"
+#include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
 #include "util/mrvnames.h"
 #include "xhtml/mrvdocumenthtml.h"
 #include "xhtml/mrvdocumenttitle.h"
@@ -60,6 +64,41 @@ const char *imageFormatOf(MRVTextXhtmlExporter::ExportType type)
     const bool kindle =
         type == MRVTextXhtmlExporter::Kindle || type == MRVTextXhtmlExporter::KindleKF8;
     return kindle ? "JPG" : "PNG";
+}
+
+// The bytes of a picture for a page, and their suffix; empty on failure.
+QByteArray pageBytes(const MRVDocumentPicture &picture, bool asJpeg, QString *suffix,
+                     QString *reason)
+{
+    const QByteArray bytes = picture.bytes(reason);
+    *suffix = picture.suffix();
+    if (!asJpeg || picture.type() == MRVDocumentPicture::Jpeg || bytes.isEmpty()) {
+        return bytes;
+    }
+    constexpr int Quality = 100;
+    constexpr QSize Drawing(4096, 4096); // more than any screen of a reading device
+    *suffix = QStringLiteral("jpg");
+    const QImage image = MRVPictureReader(bytes).draw(Drawing, reason);
+    return MRVGuiUtil::toByteArray(image, "JPG", Quality);
+}
+
+// Writes a picture into a folder under its name; empty on failure.
+QString writeKept(const MRVDocumentPicture &picture, const QString &dir, const char *format,
+                  QString *error)
+{
+    QString suffix;
+    QString reason;
+    const QByteArray bytes = pageBytes(picture, qstrcmp(format, "JPG") == 0, &suffix, &reason);
+    if (bytes.isEmpty()) {
+        MRV::fail(error,
+                  MRVTextXhtmlExporter::tr("The picture %1 cannot be written: %2")
+                      .arg(picture.name(), reason));
+        return QString();
+    }
+    const QString name = MRV::cleanFileName(picture.name());
+    const QString file = (name.isEmpty() ? QStringLiteral("image") : name) + u'.' + suffix;
+    const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(file));
+    return MRVCoreUtil::WriteBinaryFile(bytes, path, error) ? path : QString();
 }
 
 } // namespace
@@ -128,7 +167,9 @@ bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exp
         const QString folder = imageDir.isEmpty() ? calcImageDir(path) : imageDir;
         newFolder = QFileInfo::exists(folder) ? QString() : folder;
         m_pageDir = QFileInfo(path).absolutePath();
-        written = writeImages(folder, &html, imageFormatOf(type), &m_unwrittenImages);
+        const auto write = m_keepsPictures ? &MRVTextXhtmlExporter::writeKeptImages
+                                           : &MRVTextXhtmlExporter::writeImages;
+        written = (this->*write)(folder, &html, imageFormatOf(type), &m_unwrittenImages);
         m_pageDir.clear();
     }
     const QString title = mrvDocumentTitle(*m_document, QFileInfo(path).completeBaseName());
@@ -286,5 +327,34 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
     if (html) {
         MRVHtmlText::replaceImageSources(html, references);
     }
+    return files;
+}
+
+QStringList MRVTextXhtmlExporter::writeKeptImages(const QString &dir, QString *html,
+                                                  const char *format, QStringList *failed) const
+{
+    const MRVDocumentPictures pictures(*m_document);
+    QStringList files;
+    QStringList references; // by the place of the picture; empty where it was not written
+    for (const MRVDocumentPicture &picture : pictures.all()) {
+        QDir().mkpath(dir);
+        QString reason;
+        const QString file = writeKept(picture, dir, format, &reason);
+        references.append(file.isEmpty() ? QString() : imageReference(file));
+        if (file.isEmpty()) {
+            failed->append(reason);
+        } else {
+            files.append(file);
+        }
+    }
+    QHash<QString, QString> byId;
+    const QSet<QString> ids = MTextDoc::imageResourceIds(*m_document);
+    for (const QString &id : ids) {
+        const QString reference = references.value(pictures.indexOf(id));
+        if (!reference.isEmpty()) {
+            byId.insert(id, reference);
+        }
+    }
+    MRVHtmlText::replaceImageSources(html, byId);
     return files;
 }

@@ -484,8 +484,8 @@ Fehler: %2</translation>
         <translation>nicht als %1 lesbar</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read: %2</source>
-        <translation>das Bild %1 kann nicht gelesen werden: %2</translation>
+        <source>pictures that cannot be read: %1</source>
+        <translation>Bilder, die nicht gelesen werden können: %1</translation>
     </message>
 </context>
 <context>
@@ -2632,6 +2632,10 @@ Fehler: %2</translation>
         <source>There is no e-book page to export to %1.</source>
         <translation>Es gibt keine E-Book-Seite, die nach %1 exportiert werden kann.</translation>
     </message>
+    <message>
+        <source>The picture %1 cannot be written: %2</source>
+        <translation>Das Bild %1 kann nicht geschrieben werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVUnit</name>
@@ -2662,6 +2666,17 @@ Fehler: %2</translation>
     <message>
         <source> pt</source>
         <translation> pt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUnreadablePicture</name>
+    <message>
+        <source>line %1: the picture %2 cannot be read: %3</source>
+        <translation>Zeile %1: Das Bild %2 kann nicht gelesen werden: %3</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>das Bild %1 kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>

@@ -484,8 +484,8 @@ Error: %2</translation>
         <translation>no se puede leer como %1</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read: %2</source>
-        <translation>no se puede leer la imagen %1: %2</translation>
+        <source>pictures that cannot be read: %1</source>
+        <translation>imágenes que no se pueden leer: %1</translation>
     </message>
 </context>
 <context>
@@ -2632,6 +2632,10 @@ Error: %2</translation>
         <source>There is no e-book page to export to %1.</source>
         <translation>No hay ninguna página de libro electrónico que exportar a %1.</translation>
     </message>
+    <message>
+        <source>The picture %1 cannot be written: %2</source>
+        <translation>No se puede escribir la imagen %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVUnit</name>
@@ -2662,6 +2666,17 @@ Error: %2</translation>
     <message>
         <source> pt</source>
         <translation> pt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUnreadablePicture</name>
+    <message>
+        <source>line %1: the picture %2 cannot be read: %3</source>
+        <translation>línea %1: no se puede leer la imagen %2: %3</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>no se puede leer la imagen %1: %2</translation>
     </message>
 </context>
 <context>

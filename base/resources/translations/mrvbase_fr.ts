@@ -484,8 +484,8 @@ Erreur&#xa0;: %2</translation>
         <translation>illisible en %1</translation>
     </message>
     <message>
-        <source>the picture %1 cannot be read: %2</source>
-        <translation>l’image %1 ne peut pas être lue&#xa0;: %2</translation>
+        <source>pictures that cannot be read: %1</source>
+        <translation>images impossibles à lire&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2632,6 +2632,10 @@ Erreur&#xa0;: %2</translation>
         <source>There is no e-book page to export to %1.</source>
         <translation>Il n’y a pas de page de livre numérique à exporter vers %1.</translation>
     </message>
+    <message>
+        <source>The picture %1 cannot be written: %2</source>
+        <translation>Impossible d’écrire l’image %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>MRVUnit</name>
@@ -2662,6 +2666,17 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source> pt</source>
         <translation> pt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUnreadablePicture</name>
+    <message>
+        <source>line %1: the picture %2 cannot be read: %3</source>
+        <translation>ligne %1&#xa0;: impossible de lire l’image %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be read: %2</source>
+        <translation>l’image %1 ne peut pas être lue&#xa0;: %2</translation>
     </message>
 </context>
 <context>
