@@ -205,7 +205,8 @@ void tst_Html::sheets()
     timer.start();
     QVERIFY(MRVHtmlDocument::read(
         "<link rel=stylesheet href=a.css><link rel=stylesheet href=pipe>"
-        "<link rel=stylesheet href=/dev/zero><link rel='alternate stylesheet' href=c.css>"
+        "<link rel=stylesheet href=/dev/zero><link rel=stylesheet href=/proc/kmsg><link "
+        "rel='alternate stylesheet' href=c.css>"
         "<link rel=stylesheet href=//x.example/d.css><link rel=stylesheet href=gone.css>"
         "<style>p { background: url(/dev/zero) url(pipe) } @import 'no.css';</style><p>a",
         folder.path(), &document, &report));

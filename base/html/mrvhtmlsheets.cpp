@@ -91,6 +91,9 @@ private:
         if (!file.isFile() || file.size() > MRVInputLimits::StyleSheetBytes) {
             return false;
         }
+        if (file.size() == 0) {
+            return true; // files of the kernel, which may keep who reads them waiting, say so too
+        }
         QString error;
         const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
         // Selectors and lengths are ASCII, so that another encoding only changes names of fonts.

@@ -41,7 +41,8 @@ bool mayOpen(const QTextDocument &document, const QUrl &url)
     for (const QString &path : localFiles(document, url)) {
         const QFileInfo file(path);
         if (!path.isEmpty() && file.exists()
-            && (!file.isFile() || file.size() > MRVInputLimits::PictureFileBytes)) {
+            && (!file.isFile() || file.size() == 0
+                || file.size() > MRVInputLimits::PictureFileBytes)) {
             return false;
         }
     }

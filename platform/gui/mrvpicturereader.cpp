@@ -64,7 +64,9 @@ MRVPictureReader MRVPictureReader::ofFile(const QString &path)
         refused.m_error = tr("it is too large");
     } else {
         QString error;
-        const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
+        // Some files of the kernel have a size of 0 and keep who reads them waiting.
+        const QByteArray bytes =
+            file.size() > 0 ? MRVCoreUtil::ReadBinaryFile(path, &error) : QByteArray();
         if (error.isEmpty()) {
             return MRVPictureReader(bytes, file.suffix().toLatin1().constData());
         }
