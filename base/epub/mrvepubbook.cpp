@@ -2,14 +2,11 @@
 
 #include "core/mrvxmltext.h"
 #include "document/mtextdoc.h"
-#include "epub/mrvpagestarts_p.h"
+#include "epub/mrvepubmarkup_p.h"
+#include "epub/mrvepubstyles_p.h"
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
-#include "xhtml/mrvdocumenthtml.h"
-#include "xhtml/mrvdocumenttitle.h"
-#include "xhtml/mrvhtmltext.h"
-#include "xhtml/mrvpagewriter.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -21,6 +18,8 @@
 #include <algorithm>
 
 namespace {
+
+const QLatin1String NotesPage("notes.xhtml");
 
 bool isRemote(const QString &id)
 {
@@ -47,31 +46,6 @@ QString safeName(const QString &name)
         safe.chop(1);
     }
     return safe.isEmpty() ? QStringLiteral("picture") : safe;
-}
-
-// The text of an element; tags within words (emphasis) become no blank, line breaks do.
-QString elementText(QStringView page, int offset, QLatin1String close)
-{
-    const int begin = int(page.indexOf(u'>', offset)) + 1;
-    const int end = int(page.indexOf(close, begin));
-    QString markup = page.mid(begin, end - begin).toString();
-    markup.replace(QLatin1String("<br />"), QLatin1String(" "));
-    MRVHtmlText::rewriteBetween(
-        &markup, QLatin1String("<img alt=\""), QLatin1String("\""), Qt::CaseSensitive,
-        [](QStringView alt) { return QString(alt.toString() + QLatin1String("<img")); });
-    MRVHtmlText::rewriteBetween(&markup, QLatin1String("<"), QLatin1String(">"), Qt::CaseSensitive,
-                                [](QStringView) { return QString(); });
-    return MRVHtmlText::unescaped(markup).simplified();
-}
-
-QString freeHeadingPrefix(const QHash<QString, QString> &ids)
-{
-    QString prefix = QStringLiteral("heading-");
-    while (std::any_of(ids.begin(), ids.end(),
-                       [&](const QString &id) { return id.startsWith(prefix); })) {
-        prefix.prepend(u'_');
-    }
-    return prefix;
 }
 
 } // namespace
@@ -122,33 +96,6 @@ QString MRVEPubBook::addPicture(const MRVDocumentPicture &picture, const QString
     return path;
 }
 
-// A document's page as it is cut into the pages of the book.
-struct MRVEPubBook::Cutting
-{
-    const MRVPageWriter &writer;
-    const QString &page;
-    int body; // offset of the tag
-    int bodyBegin;
-    int bodyEnd;
-    QVector<int> starts; // offsets of the pieces
-
-    Cutting(const MRVPageWriter &pageWriter, const QString &text)
-        : writer(pageWriter)
-        , page(text)
-        , body(text.indexOf(QLatin1String("<body")))
-        , bodyBegin(text.indexOf(u'>', body) + 1)
-        , bodyEnd(text.lastIndexOf(QLatin1String("</body>")))
-        , starts(mrvPageStarts(pageWriter.blocks(), text, bodyBegin, bodyEnd))
-    {
-    }
-
-    int pieceOf(int offset) const
-    {
-        return int(std::upper_bound(starts.begin(), starts.end(), offset) - starts.begin()) - 1;
-    }
-    int end(int piece) const { return piece + 1 < starts.size() ? starts.at(piece + 1) : bodyEnd; }
-};
-
 bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
                                  QString *error)
 {
@@ -162,87 +109,26 @@ bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, Q
     return false;
 }
 
-bool MRVEPubBook::addDocument(const QTextDocument &document, const QString &fileName,
-                              QString *error)
+void MRVEPubBook::addPage(const MRVEPubPage &page)
 {
-    QHash<QString, QString> references;
-    if (!addAllPictures(document, &references, error)) {
-        return false;
-    }
-    QString html = mrvDocumentHtml(document);
-    MRVHtmlText::replaceImageSources(&html, references);
-    const QString documentTitle = document.metaInformation(QTextDocument::DocumentTitle);
-    if (metadata.title.isEmpty() && pages.isEmpty()) {
-        metadata.title = mrvDocumentTitle(document, QString());
-    }
-    const bool html5 = version == MRVEPubVersion::EPub3;
-    MRVPageWriter writer(MRVTextXhtmlExporter::EPub,
-                         html5 ? MRVHtmlDialect::Html5 : MRVHtmlDialect::Xhtml11, &styles);
-    writer.setCollecting(true);
-    const QString page = writer.write(html, documentTitle, title());
-    const QList<QTextImageFormat> images = MTextDoc::imageFormats(document);
-    for (const QTextImageFormat &image : images) {
-        const QString name = MRVTextFormat::imageName(image);
-        if (!image.hasProperty(QTextFormat::ImageAltText) && !picturesWithoutText.contains(name)) {
-            picturesWithoutText.append(name);
-        }
-    }
-
-    const Cutting cutting(writer, page);
-    const MRVEPubAnchors targets = anchorTargets(cutting, fileName);
-    addPages(cutting);
-    anchors.append(targets);
-    return true;
+    const bool hasNotes = !pages.isEmpty() && pages.constLast().fileName == NotesPage;
+    pages.insert(pages.size() - (hasNotes ? 1 : 0), page);
 }
 
-// The name of the page that the piece of the next document becomes.
-QString MRVEPubBook::pageName(int piece) const
+void MRVEPubBook::addNotes(const MRVEPubPage &page)
 {
-    return QStringLiteral("page-%1.xhtml").arg(pages.size() + piece + 1, 3, 10, QLatin1Char('0'));
-}
-
-MRVEPubAnchors MRVEPubBook::anchorTargets(const Cutting &cutting, const QString &fileName) const
-{
-    MRVEPubAnchors targets{fileName, pageName(0), {}};
-    const QHash<QString, int> places = MRVHtmlText::idPlaces(cutting.page);
-    const QHash<QString, QString> ids = cutting.writer.ids();
-    for (auto id = ids.constBegin(); id != ids.constEnd(); ++id) {
-        const QString name = pageName(cutting.pieceOf(places.value(*id)));
-        targets.targets.insert(id.key(), name + u'#' + *id);
+    if (pages.isEmpty() || pages.constLast().fileName != page.fileName) {
+        pages.append(page);
+        return;
     }
-    return targets;
-}
-
-// Adds a page for each piece, and its headings, which get ids, to the table of contents.
-void MRVEPubBook::addPages(const Cutting &cutting)
-{
-    const QString prefix = freeHeadingPrefix(cutting.writer.ids());
-    const QString &page = cutting.page;
-    int block = 0;
-    const QVector<MRVPageWriter::Block> blocks = cutting.writer.headings();
-    for (int piece = 0; piece < cutting.starts.size(); ++piece) {
-        const int end = cutting.end(piece);
-        MRVEPubPage result{pageName(0), QString(),
-                           QString(),   page.mid(cutting.body, cutting.bodyBegin - cutting.body),
-                           QString(),   anchors.size()};
-        int done = cutting.starts.at(piece);
-        for (; block < blocks.size() && blocks.at(block).offset < end; ++block) {
-            const MRVPageWriter::Block &heading = blocks.at(block);
-            const QString text = elementText(page, heading.offset, QLatin1String("</h"));
-            if (text.isEmpty()) {
-                continue;
-            }
-            const int afterName = heading.offset + 3; // "<h1"
-            const QString id = prefix + QString::number(headings.size() + 1);
-            result.body.append(page.constData() + done, afterName - done);
-            result.body.append(QLatin1String(" id=\"") + id + u'"');
-            done = afterName;
-            result.title = result.title.isEmpty() ? text : result.title;
-            headings.append({text, result.fileName + u'#' + id, heading.headingLevel - 1});
-        }
-        result.body.append(page.constData() + done, end - done);
-        pages.append(result);
+    MRVEPubPage &last = pages.last();
+    for (MRVEPubHole hole : page.holes) {
+        hole.offset += last.body.size();
+        hole.extra += hole.extra < 0 ? 0 : last.attributes.size();
+        last.holes.append(hole);
     }
+    last.body += page.body;
+    last.attributes += page.attributes;
 }
 
 QVector<MRVEPubEntry> MRVEPubBook::contents() const
@@ -297,35 +183,53 @@ QString MRVEPubBook::resolved(const QString &href, int document) const
 
 QByteArray MRVEPubBook::pageBytes(const MRVEPubPage &page) const
 {
-    const QLatin1String opening("<a href=\"");
-    const QLatin1String closing("</a>");
-    const QStringView all(page.body);
-    QString body;
+    QByteArray bytes = head(page.title.isEmpty() ? title() : page.title).toUtf8() + "<body>\n";
+    bytes.reserve(bytes.size() + page.body.size() + 40 * page.holes.size());
     int done = 0;
-    for (int at = page.body.indexOf(opening); at >= 0; at = page.body.indexOf(opening, done)) {
-        const int begin = at + opening.size();
-        const int end = page.body.indexOf(u'"', begin);
-        const int tagEnd = page.body.indexOf(u'>', end) + 1;
-        const int close = page.body.indexOf(closing, tagEnd);
-        const QString target =
-            resolved(MRVHtmlText::unescaped(all.mid(begin, end - begin)), page.document);
-        body.append(all.data() + done, at - done);
-        if (target.isEmpty()) { // and without the look of a link
-            body += QLatin1String("<span class=\"unlinked\">");
-            body.append(all.data() + tagEnd, close - tagEnd);
-            body += QLatin1String("</span>");
-            done = close + closing.size();
-        } else {
-            body += opening + target.toHtmlEscaped();
-            done = end;
-        }
+    for (const MRVEPubHole &hole : page.holes) {
+        bytes.append(page.body.constData() + done, hole.offset - done);
+        done = hole.offset;
+        bytes += hole.kind == MRVEPubHole::Class ? classAttribute(page, hole) : linkTag(page, hole);
     }
-    body.append(all.data() + done, page.body.size() - done);
-    return framed(page.title.isEmpty() ? title() : page.title, page.bodyTag, body).toUtf8();
+    bytes.append(page.body.constData() + done, page.body.size() - done);
+    return bytes + "</body>\n</html>\n";
 }
 
-QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
-                            const QString &body) const
+QByteArray MRVEPubBook::classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const
+{
+    QByteArray names = classes.at(hole.value);
+    const auto add = [&names](const QByteArray &name) {
+        names += names.isEmpty() ? name : ' ' + name;
+    };
+    if (hole.extra >= 0) {
+        add(page.attributes.at(hole.extra));
+    }
+    if (hole.flags & MRVEPubHole::Spaced) {
+        add("spaced");
+    }
+    if (hole.flags & (MRVEPubHole::Open | MRVEPubHole::Done)) {
+        add(hole.flags & MRVEPubHole::Done ? "checked" : "unchecked");
+    }
+    return names.isEmpty() ? names : " class=\"" + names + '"';
+}
+
+// A link that leads nowhere is text, with the id that it has.
+QByteArray MRVEPubBook::linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const
+{
+    const MRVEPubAddress &link = links.at(hole.value);
+    const QString target = resolved(link.address, link.document);
+    const QByteArray attributes = hole.extra < 0 ? QByteArray() : page.attributes.at(hole.extra);
+    const bool hasElement = attributes.startsWith(" id=");
+    if (hole.kind == MRVEPubHole::LinkEnd) {
+        return !target.isEmpty() ? "</a>" : hasElement ? "</span>" : "";
+    }
+    if (!target.isEmpty()) {
+        return "<a" + attributes + " href=\"" + mrvEPubValue(target) + "\">";
+    }
+    return hasElement ? "<span" + attributes + '>' : QByteArray();
+}
+
+QString MRVEPubBook::head(const QString &pageTitle) const
 {
     const QString tag = language().toHtmlEscaped();
     QString text = QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n");
@@ -339,10 +243,18 @@ QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
                               "<html xmlns=\"http://www.w3.org/1999/xhtml\" xml:lang=\"")
             + tag;
     }
-    return text + QLatin1String("\">\n<head><title>") + pageTitle.toHtmlEscaped()
-        + QLatin1String("</title>\n  <link rel=\"stylesheet\" href=\"css/stylesheet.css\" "
-                        "type=\"text/css\" />\n</head>")
-        + bodyTag + body + QLatin1String("</body></html>\n");
+    if (QLocale(language()).textDirection() == Qt::RightToLeft) {
+        text += QLatin1String("\" dir=\"rtl");
+    }
+    return text + QLatin1String("\">\n<head>\n<title>") + mrvXmlText(pageTitle).toHtmlEscaped()
+        + QLatin1String("</title>\n<link rel=\"stylesheet\" href=\"css/stylesheet.css\" "
+                        "type=\"text/css\" />\n</head>\n");
+}
+
+QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
+                            const QString &body) const
+{
+    return head(pageTitle) + bodyTag + body + QLatin1String("</body>\n</html>\n");
 }
 
 QByteArray MRVEPubBook::coverBytes() const
@@ -371,24 +283,10 @@ QByteArray MRVEPubBook::coverBytes() const
 
 QByteArray MRVEPubBook::styleSheet() const
 {
-    MRVTextXhtmlExporter::StyleList own = styles;
-    for (QHash<QString, QString> &rules : own) {
-        for (auto rule = rules.begin(); rule != rules.end();) {
-            // A background picture is not in the package.
-            rule = rule->contains(QLatin1String("url(")) ? rules.erase(rule) : ++rule;
-        }
-    }
-    const QString text =
-        MRVTextXhtmlExporter::styleSheetText(own)
-        + QLatin1String(
-            "img {\n    height: auto;\n    max-width: 100%;\n}\n"
-            "nav ol {\n    list-style-type: none;\n}\n"
-            ".unlinked, .unlinked span {\n    color: inherit;\n    text-decoration: none;\n}\n"
-            ".cover {\n    text-align: center;\n}\n"
-            ".cover img {\n    max-height: 95vh;\n}\n"
-            ".cover-title {\n    margin-top: 25%;\n}\n"
-            ".cover-author {\n    font-size: 120%;\n    margin-top: 2em;\n}\n");
-    return text.toUtf8();
+    const QByteArray own = QString::fromUtf8(options.styleSheet).toUtf8();
+    return mrvEPubBaseSheet(own.isEmpty() ? options.styleBase : MRVEPubOptions::NoStyle)
+        + "\n/* The looks of this book */\n\n" + looks.rules()
+        + (own.isEmpty() ? own : "\n/* The sheet that was asked for */\n\n" + own);
 }
 
 QString MRVEPubBook::title() const

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "document/mrvdocumentpictures.h"
+#include "epub/mrvepublooks_p.h"
 #include "epub/mrvepubmetadata.h"
 #include "epub/mrvepuboptions.h"
-#include "xhtml/mrvtextxhtmlexporter.h"
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QSet>
 #include <QVector>
+
+class QTextDocument;
 
 /** An entry of the table of contents; depth 0 is the outermost. */
 struct MRVEPubEntry
@@ -24,18 +27,40 @@ struct MRVEPubPageBreak
     QString target; // "page.xhtml#id"
 };
 
+/** A place in a page for what is known once the book is complete. */
+struct MRVEPubHole
+{
+    enum Kind { Class, LinkBegin, LinkEnd };
+    enum Flag { Spaced = 1, Open = 2, Done = 4 }; // further classes; the last two of tasks
+
+    int offset; // in the page's body
+    Kind kind;
+    int value; // the number of the look, or of the link
+    int flags;
+    int extra; // in the page's attributes: of a link, or a further class; -1: none
+};
+
 /**
- * A page of the book. Its body is kept until all documents are in, when its links can be resolved.
+ * A page of the book. Its body is kept with holes until all documents are in, when its links can be
+ * resolved.
  */
 struct MRVEPubPage
 {
     QString fileName;
     QString title;
-    // As epub:type has it: "titlepage", "chapter", "part", "glossary"...; empty where nothing tells.
+    // As epub:type has it: "titlepage", "chapter", "part", "glossary"...; empty where nothing
+    // tells.
     QString type;
-    QString bodyTag;
-    QString body;
-    int document = 0; // the one it is a piece of
+    QByteArray body; // UTF-8
+    QVector<MRVEPubHole> holes; // by offset
+    QVector<QByteArray> attributes;
+};
+
+/** Where a link of a document leads, as the document says. */
+struct MRVEPubAddress
+{
+    QString address;
+    int document; // by its number
 };
 
 /** A picture of the package. */
@@ -67,7 +92,12 @@ public:
     QVector<MRVEPubEntry> headings; // of all pages, depth counted from heading level 1 as 0
     QVector<MRVEPubFile> pictures;
     QVector<MRVEPubAnchors> anchors; // by document
-    MRVTextXhtmlExporter::StyleList styles;
+    QVector<MRVEPubAddress> links;
+    MRVEPubLooks looks;
+    QVector<QByteArray> classes; // of the paragraphs' looks
+    QSet<QString> usedIds; // of all pages
+    QHash<QString, int> idNumbers; // the last number tried for a name
+    int pageNumber = 0; // of the last page that was named
     QHash<QByteArray, QString> picturePaths; // by digest of the bytes
     QStringList picturesWithoutText; // names, each once; those marked as decoration do not count
     QVector<MRVEPubPageBreak> pageBreaks; // in reading order
@@ -79,7 +109,14 @@ public:
      * is converted.
      */
     void addCover();
-    bool addDocument(const QTextDocument &document, const QString &fileName, QString *error);
+    /**
+     * Adds the pictures of a document.
+     *
+     * @param references receives their paths by resource id, empty for those that no book can hold.
+     * @return false, with nothing added, when one of them cannot be read.
+     */
+    bool addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
+                        QString *error);
 
     /**
      * The headings as entries without gaps in depth, as deep as the options say; of a book without
@@ -91,6 +128,7 @@ public:
     /** The page with its links resolved. May be called from several threads. */
     QByteArray pageBytes(const MRVEPubPage &page) const;
     QByteArray coverBytes() const;
+    /** The base of the options, the rules of all looks, and the sheet of the options. */
     QByteArray styleSheet() const;
     /** A whole page of the book around a body. */
     QString framed(const QString &title, const QString &bodyTag, const QString &body) const;
@@ -98,18 +136,18 @@ public:
     QStringList authors() const;
     QString language() const;
 
-private:
-    struct Cutting;
+    void addPage(const MRVEPubPage &page);
+    /** Adds to the page of notes, which is the last one. */
+    void addNotes(const MRVEPubPage &page);
 
-    bool addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
-                        QString *error);
-    QString pageName(int piece) const;
-    MRVEPubAnchors anchorTargets(const Cutting &cutting, const QString &fileName) const;
-    void addPages(const Cutting &cutting);
+private:
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
     QString addPicture(const MRVDocumentPicture &picture, const QString &name);
     QString resolved(const QString &href, int document) const;
+    QByteArray classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const;
+    QByteArray linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const;
+    QString head(const QString &title) const;
 };
 
 /** The navigation document of EPUB 3. */

@@ -1,6 +1,7 @@
 #include "epub/mrvepubpackage.h"
 
 #include "epub/mrvepubbook_p.h"
+#include "epub/mrvepubwriter_p.h"
 #include "epub/mrvziparchive_p.h"
 #include "manuscript/mrvmanuscript.h"
 #include "util/mrvfailure.h"
@@ -45,7 +46,7 @@ QString identifierOf(const MRVEPubBook &book)
     QCryptographicHash hash(QCryptographicHash::Sha1); // as the UUID is computed of it
     hash.addData(book.title().toUtf8() + '\n' + book.metadata.authors.join(u'\n').toUtf8());
     for (const MRVEPubPage &page : book.pages) {
-        hash.addData(page.body.toUtf8());
+        hash.addData(page.body);
     }
     // None of the namespaces of RFC 4122 fits, so this one is the project's own.
     const QUuid space(0x6d727665, 0x7075, 0x4b21, 0x9b, 0x4e, 0x2f, 0x61, 0x0c, 0x7d, 0x55, 0x10);
@@ -101,7 +102,7 @@ MRVEPubPackage::~MRVEPubPackage() = default;
 bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &fileName,
                                  QString *error)
 {
-    return m_book->addDocument(document, fileName, error);
+    return MRVEPubWriter::add(m_book.get(), document, fileName, error);
 }
 
 bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *error)

@@ -2,12 +2,14 @@
 """Compares words, links and pictures of manuscripts with those of the pages and e-books that `mrv export` makes of them.
 
 Both are read by html5lib, which shares no code with the library: what a browser shows of the one has to be what it shows of
-the other, in order, and each link has to lead to the same text.
+the other, in order, and each link has to lead to the same text. Notes of an e-book have moved: each of them has to be found
+whole in the manuscript.
 
 usage: compare.py MRV [--documents N] [--seed S] [FILE...]
 N pages are generated with all that may go wrong; FILEs, HTML or Markdown, come besides. Exits with 1 where something differs.
 """
 import argparse
+import bisect
 import os
 import subprocess
 import sys
@@ -32,6 +34,7 @@ class Content:
     def __init__(self):
         self.words, self.links, self.pictures, self.names = [], [], 0, {}
         self.count, self.word = 0, ""
+        self.moved = []  # the words of each note, from one up to another
 
     def add_text(self, text):
         for character in text or "":
@@ -63,7 +66,10 @@ class Content:
             self.pictures += 1
         self.add_text(element.text)
         for child in element:
+            first = len(self.words)
             self.add(child, page)
+            if page and tag == "section" and element.get("class") == "notes":
+                self.moved.append((first, len(self.words)))
             self.add_text(child.tail)
         if "#" in address and "//" not in address and (self.count > start or element.find(".//*") is not None):
             self.add_link(start, page + address if address.startswith("#") else address)
@@ -80,6 +86,49 @@ class Content:
         """(place of a link, place that it leads to), for links whose target exists; a link in several parts counts once."""
         last = self.count - 1
         return sorted({(at, min(self.names[address], last)) for at, address, _ in self.links if address in self.names})
+
+
+def moved_back(found, expected):
+    """The content with its notes where they stand in what is expected."""
+    notes = {}
+    for begin, end in found.moved:
+        if begin < end:
+            notes.setdefault(found.words[begin], []).append((begin, end))
+    moved = {word for begin, end in found.moved for word in range(begin, end)}
+    text = [word for word in range(len(found.words)) if word not in moved]
+    order, done = [], 0
+    while len(order) < len(expected.words):
+        at = len(order)
+        word = expected.words[at]
+        isOther = done == len(text) or found.words[text[done]] != word
+        fits = [(begin, end) for begin, end in notes.get(word, []) if (isOther or end - begin > 2)
+                and found.words[begin:end] == expected.words[at:at + end - begin]]
+        if fits:
+            notes[word].remove(fits[0])
+            order += range(*fits[0])
+        elif done < len(text):
+            order.append(text[done])
+            done += 1
+        else:
+            break
+    order += text[done:] + [word for left in notes.values() for begin, end in left for word in range(begin, end)]
+    begins, places, count = [0], [0] * (len(found.words) + 1), 0
+    for word in found.words:
+        begins.append(begins[-1] + len(word))
+    for word in order:
+        places[word] = count
+        count += len(found.words[word])
+    places[-1] = count
+
+    def place(position):
+        word = bisect.bisect_right(begins, position) - 1
+        return places[word] + position - begins[word]
+
+    result = Content()
+    result.words, result.pictures, result.count = [found.words[word] for word in order], found.pictures, count
+    result.names = {name: place(at) for name, at in found.names.items()}
+    result.links = [(place(at), address, end) for at, address, end in found.links]
+    return result
 
 
 def content_of_html(data):
@@ -109,6 +158,7 @@ def content_of_book(path):
 
 
 def difference(expected, found):
+    found = moved_back(found, expected) if found.moved else found
     for at, (one, other) in enumerate(zip(expected.words + [""], found.words + [""])):
         if one != other:
             return f"word {at}: {expected.words[at:at + 8]} became {found.words[at:at + 8]}"

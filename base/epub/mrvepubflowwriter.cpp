@@ -1,0 +1,443 @@
+#include "epub/mrvepubwriter_p.h"
+
+#include <QTextDocument>
+#include <QTextList>
+
+#include <algorithm>
+
+namespace {
+
+struct ListType
+{
+    QTextListFormat::Style style;
+    const char *name;
+    bool isUsual; // needs no class
+};
+
+constexpr ListType listTypes[] = {
+    {QTextListFormat::ListDisc, "disc", true},
+    {QTextListFormat::ListCircle, "circle", false},
+    {QTextListFormat::ListSquare, "square", false},
+    {QTextListFormat::ListDecimal, "decimal", true},
+    {QTextListFormat::ListLowerAlpha, "lower-alpha", false},
+    {QTextListFormat::ListUpperAlpha, "upper-alpha", false},
+    {QTextListFormat::ListLowerRoman, "lower-roman", false},
+    {QTextListFormat::ListUpperRoman, "upper-roman", false},
+};
+
+const ListType &listType(QTextListFormat::Style style)
+{
+    const auto row = std::find_if(std::begin(listTypes), std::end(listTypes),
+                                  [style](const ListType &type) { return type.style == style; });
+    return row == std::end(listTypes) ? listTypes[0] : *row;
+}
+
+constexpr int FigurePixels = 40; // the margins of a figure, on both sides
+
+} // namespace
+
+// Writes paragraphs, and the tables and frames among them, except for the one that they are inside.
+void MRVEPubWriter::writeFlow(int begin, int end, int inside)
+{
+    const QVector<Container> outside = m_containers;
+    m_containers.clear();
+    for (int i = begin; i < end;) {
+        const int frame = m_frames.value(i, -1);
+        const int note = m_notes.beginningAt(i);
+        if (frame >= 0 && frame != inside) {
+            closeContainers(0);
+            writeFrame(frame);
+            i = m_flow.frames.at(frame).end;
+        } else if (!isWritten(i, begin, end)) {
+            ++i;
+        } else if (note >= 0 && m_flow.paragraphs.at(i).list < 0 && m_openNote != note) {
+            closeContainers(0);
+            writeNote(note);
+            i = m_notes.all().at(note).end;
+        } else {
+            i = writeBlock(i, end);
+        }
+    }
+    closeContainers(0);
+    m_containers = outside;
+}
+
+// Qt needs empty paragraphs around tables, and what has moved leaves none. At the ends, an empty
+// paragraph shows nothing.
+bool MRVEPubWriter::isWritten(int paragraph, int begin, int end) const
+{
+    if (m_notes.isMoved(paragraph) && m_openNote < 0) {
+        return false;
+    }
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    if (place.length > 0 || place.list >= 0 || m_flow.hasRule(paragraph)) {
+        return true;
+    }
+    const bool isAtFrame = m_frames.contains(paragraph + 1)
+        || (place.position > 0 && m_flow.text.at(place.position - 1) == QChar(0xfdd1));
+    return paragraph > begin && paragraph + 1 < end && !isAtFrame;
+}
+
+int MRVEPubWriter::writeBlock(int paragraph, int end)
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    arrange(paragraph);
+    if (m_flow.hasRule(paragraph)) {
+        m_out.append(QLatin1String("<hr />\n"));
+        if (place.length == 0) {
+            return paragraph + 1;
+        }
+    }
+    if (m_formats.paragraph(place.format).isPreformatted) {
+        return writePreformatted(paragraph, end);
+    }
+    if (place.headingLevel > 0) {
+        writeHeading(paragraph);
+    } else if (place.list >= 0 && !hasParagraphAfter(paragraph, end)) {
+        MRVEPubContext context;
+        m_formats.look(paragraph, MRVEPubKind::Item, usedIndent(), &context);
+        m_page.holes[m_itemHole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
+    } else if (isPicture(paragraph) && m_containers.isEmpty()) {
+        return writeFigure(paragraph, end);
+    } else if (place.length == 0 && place.list < 0) {
+        m_out.append(QLatin1String("<p class=\"blank\"><br /></p>\n"));
+    } else {
+        writeParagraph(paragraph, MRVEPubKind::Paragraph, "p");
+    }
+    return paragraph + 1;
+}
+
+// Whether a paragraph goes on with the item that this one begins.
+bool MRVEPubWriter::hasParagraphAfter(int paragraph, int end) const
+{
+    const int next = paragraph + 1;
+    return next < end && !m_frames.contains(next) && m_flow.paragraphs.at(next).list < 0
+        && m_flow.paragraphs.at(next).length > 0
+        && m_flow.formats.at(m_flow.paragraphs.at(next).format).toBlockFormat().indent()
+        >= usedIndent()
+        && usedIndent() > 0;
+}
+
+int MRVEPubWriter::usedIndent() const
+{
+    for (int i = m_containers.size() - 1; i >= 0; --i) {
+        if (!m_containers.at(i).isQuote) {
+            return m_containers.at(i).depth;
+        }
+    }
+    return 0;
+}
+
+void MRVEPubWriter::closeContainers(int count)
+{
+    while (m_containers.size() > count) {
+        m_out.append(m_containers.takeLast().end);
+    }
+}
+
+void MRVEPubWriter::openQuotes(int level)
+{
+    int open = int(std::count_if(m_containers.begin(), m_containers.end(),
+                                 [](const Container &container) { return container.isQuote; }));
+    for (; open < level; ++open) {
+        Container quote;
+        quote.isQuote = true;
+        quote.end = "</blockquote>\n";
+        m_out.append(QLatin1String("<blockquote>\n"));
+        m_containers.append(quote);
+    }
+}
+
+// Closes and opens lists and quotations until the paragraph can be written.
+void MRVEPubWriter::arrange(int paragraph)
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVEPubParagraphFormat format = m_formats.paragraph(place.format);
+    if (place.list >= 0) {
+        arrangeItem(place, format);
+        return;
+    }
+    int kept = 0;
+    int quotes = 0;
+    for (; kept < m_containers.size(); ++kept) {
+        const Container &container = m_containers.at(kept);
+        const bool stays =
+            container.isQuote ? quotes < format.quoteLevel : format.indent >= container.depth;
+        if (!stays) {
+            break;
+        }
+        quotes += container.isQuote ? 1 : 0;
+    }
+    closeContainers(kept);
+    openQuotes(format.quoteLevel);
+}
+
+void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
+                                const MRVEPubParagraphFormat &format)
+{
+    const QTextListFormat list = m_flow.document.object(paragraph.list)->format().toListFormat();
+    const int depth = list.indent();
+    int kept = 0;
+    int quotes = 0;
+    bool isOpen = false;
+    for (; kept < m_containers.size() && !isOpen; ++kept) {
+        Container &container = m_containers[kept];
+        const bool goesOn = !container.isQuote && container.depth == depth
+            && container.style == list.style() && list.style() <= QTextListFormat::ListDecimal
+            && paragraph.itemNumber != 1 && kept + 1 == m_containers.size();
+        isOpen = !container.isQuote && (container.list == paragraph.list || goesOn);
+        const bool stays =
+            isOpen || (container.isQuote ? quotes < format.quoteLevel : container.depth < depth);
+        if (!stays) {
+            break;
+        }
+        quotes += container.isQuote ? 1 : 0;
+    }
+    closeContainers(kept);
+    if (isOpen) {
+        m_containers.last().list = paragraph.list;
+        m_out.append(QLatin1String("</li>\n"));
+    } else {
+        openQuotes(format.quoteLevel);
+        openList(paragraph);
+    }
+    openItem(paragraph, format);
+    openQuotes(format.quoteLevel);
+}
+
+void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
+{
+    const QTextListFormat format = m_flow.document.object(paragraph.list)->format().toListFormat();
+    const ListType &type = listType(format.style());
+    const bool isNumbered = format.style() <= QTextListFormat::ListDecimal;
+    Container list;
+    list.list = paragraph.list;
+    list.depth = format.indent();
+    list.style = format.style();
+    list.number = paragraph.itemNumber - 1;
+    list.end = isNumbered ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
+    m_out.append(isNumbered ? QLatin1String("<ol") : QLatin1String("<ul"));
+    if (!type.isUsual) {
+        const QByteArray rule = QByteArray("    list-style-type: ") + type.name + ";\n";
+        m_out.append(" class=\"" + m_book.looks.boxClass(type.name, rule) + '"');
+    }
+    if (isNumbered && m_isEPub3 && paragraph.itemNumber != 1) {
+        m_out.append(" start=\"" + QByteArray::number(paragraph.itemNumber) + '"');
+    }
+    m_out.append(QLatin1String(">\n"));
+    m_containers.append(list);
+}
+
+void MRVEPubWriter::openItem(const MRVEPubParagraph &paragraph,
+                             const MRVEPubParagraphFormat &format)
+{
+    Container &list = m_containers.last();
+    const int index = int(&paragraph - m_flow.paragraphs.constData());
+    MRVEPubContext context;
+    const int look =
+        m_book.looks.add(m_formats.look(index, MRVEPubKind::Item, list.depth, &context));
+    m_out.append(QLatin1String("<li"));
+    m_itemHole = writeClass(look);
+    const bool isNumbered = list.style <= QTextListFormat::ListDecimal;
+    if (isNumbered && m_isEPub3 && paragraph.itemNumber != list.number + 1) {
+        m_out.append(" value=\"" + QByteArray::number(paragraph.itemNumber) + '"');
+    }
+    list.number = paragraph.itemNumber;
+    if (format.marker != QTextBlockFormat::MarkerType::NoMarker) {
+        const bool isDone = format.marker == QTextBlockFormat::MarkerType::Checked;
+        m_page.holes[m_itemHole].flags |= isDone ? MRVEPubHole::Done : MRVEPubHole::Open;
+    }
+    const int note = m_notes.beginningAt(index);
+    const bool isNote = note >= 0 && m_openNote != note;
+    writeAttributes(index, context, QByteArray());
+    if (isNote && m_isEPub3) {
+        m_out.append(QLatin1String(" epub:type=\"footnote\""));
+    }
+    m_out.append('>');
+}
+
+// The place where the class of a paragraph goes.
+int MRVEPubWriter::writeClass(int look)
+{
+    m_book.looks.count(look);
+    m_page.holes.append({m_out.size(), MRVEPubHole::Class, look, 0, -1});
+    return m_page.holes.size() - 1;
+}
+
+void MRVEPubWriter::writeAttributes(int paragraph, const MRVEPubContext &context,
+                                    const QByteArray &id)
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    QByteArray own = id;
+    const int last = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+    if (own.isEmpty() && place.firstFragment < last) {
+        own = takeId(m_flow.fragments.at(place.firstFragment).format);
+    }
+    if (!own.isEmpty()) {
+        m_out.append(" id=\"" + own + '"');
+    }
+    if (!context.language.isEmpty()) {
+        const QByteArray language = context.language.toUtf8();
+        if (m_isEPub3) {
+            m_out.append(" lang=\"" + language + '"');
+        }
+        m_out.append(" xml:lang=\"" + language + '"');
+    }
+    Qt::LayoutDirection direction = m_formats.paragraph(place.format).direction;
+    if (direction == Qt::LayoutDirectionAuto) {
+        const bool isRight = m_flow.textOf(place).isRightToLeft();
+        direction = isRight ? Qt::RightToLeft : m_direction;
+    }
+    if (direction != m_direction) {
+        m_out.append(direction == Qt::RightToLeft ? QLatin1String(" dir=\"rtl\"")
+                                                  : QLatin1String(" dir=\"ltr\""));
+    }
+}
+
+void MRVEPubWriter::writeParagraph(int paragraph, MRVEPubKind kind, const char *element)
+{
+    MRVEPubContext context;
+    const int look = m_book.looks.add(m_formats.look(paragraph, kind, usedIndent(), &context));
+    m_out.append('<');
+    m_out.append(QLatin1String(element));
+    const int hole = writeClass(look);
+    writeAttributes(paragraph, context, QByteArray());
+    m_out.append('>');
+    m_page.holes[hole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
+    m_out.append(QLatin1String("</"));
+    m_out.append(QLatin1String(element));
+    m_out.append(QLatin1String(">\n"));
+}
+
+void MRVEPubWriter::writeHeading(int paragraph)
+{
+    const int level = m_flow.paragraphs.at(paragraph).headingLevel;
+    const QByteArray element = "h" + QByteArray::number(level);
+    const auto kind = MRVEPubKind(int(MRVEPubKind::Heading1) + level - 1);
+    MRVEPubContext context;
+    const int look = m_book.looks.add(m_formats.look(paragraph, kind, usedIndent(), &context));
+    const QString text = headingText(paragraph);
+    QByteArray id =
+        takeId(m_flow.paragraphs.at(paragraph).length > 0
+                   ? m_flow.fragments.at(m_flow.paragraphs.at(paragraph).firstFragment).format
+                   : -1);
+    if (!text.isEmpty()) {
+        if (id.isEmpty()) {
+            id = uniqueId(QStringLiteral("heading-%1").arg(m_book.headings.size() + 1));
+        }
+        m_page.title = m_page.title.isEmpty() ? text : m_page.title;
+        m_book.headings.append({text, m_page.fileName + u'#' + QString::fromUtf8(id), level - 1});
+    }
+    m_out.append('<' + element);
+    const int hole = writeClass(look);
+    writeAttributes(paragraph, context, id);
+    m_out.append('>');
+    m_page.holes[hole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
+    m_out.append("</" + element + ">\n");
+}
+
+// Lines that are not broken are one element, up to one with space above it.
+int MRVEPubWriter::writePreformatted(int paragraph, int end)
+{
+    using Look = MRVEPubParagraphLook;
+    const int format = m_flow.paragraphs.at(paragraph).format;
+    const MRVEPubParagraphFormat first = m_formats.paragraph(format);
+    int last = paragraph + 1;
+    for (; last < end; ++last) {
+        const MRVEPubParagraph &place = m_flow.paragraphs.at(last);
+        const MRVEPubParagraphFormat &next = m_formats.paragraph(place.format);
+        const bool goesOn = next.isPreformatted && place.list < 0 && !m_frames.contains(last)
+            && next.quoteLevel == first.quoteLevel && next.look[Look::Top] == 0
+            && place.headingLevel == 0 && m_notes.beginningAt(last) < 0;
+        if (!goesOn) {
+            break;
+        }
+    }
+    MRVEPubContext context;
+    const int fragments = m_flow.paragraphs.at(last).firstFragment;
+    bool isPlain = true; // XHTML 1.1 allows neither pictures nor raised text in the element
+    bool isCode = true;
+    for (int i = m_flow.paragraphs.at(paragraph).firstFragment; i < fragments; ++i) {
+        const MRVEPubTextFormat &text = m_formats.text(m_flow.fragments.at(i).format);
+        const uint unfit = 1U << int(MRVEPubInline::Raised) | 1U << int(MRVEPubInline::Lowered);
+        isPlain = isPlain && !text.isPicture && !(text.elements & unfit);
+        isCode = isCode && (text.elements & 1U << int(MRVEPubInline::Code));
+    }
+    context.isCode = isCode;
+    const bool isElement = m_isEPub3 || isPlain;
+    m_out.append(isElement ? isCode ? QLatin1String("<pre") : QLatin1String("<pre class=\"lines\"")
+                           : QLatin1String("<p class=\"lines\""));
+    writeAttributes(paragraph, context, QByteArray());
+    m_out.append('>');
+    for (int i = paragraph; i < last; ++i) {
+        if (i > paragraph) {
+            m_out.append(isElement ? QLatin1String("\n") : QLatin1String("<br />"));
+        }
+        writeText(i, context);
+    }
+    m_out.append(isElement ? QLatin1String("</pre>\n") : QLatin1String("</p>\n"));
+    return last;
+}
+
+// Whether a paragraph shows pictures and nothing else.
+bool MRVEPubWriter::isPicture(int paragraph) const
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+    bool hasPicture = false;
+    int position = place.position;
+    for (int i = place.firstFragment; i < end; ++i) {
+        const MRVEPubFragment &fragment = m_flow.fragments.at(i);
+        const QTextFormat &format = m_flow.formats.at(fragment.format);
+        if (format.isImageFormat()) {
+            hasPicture = true;
+            if (format.objectIndex() >= 0) {
+                return false; // text flows around it
+            }
+        } else if (!QStringView(m_flow.text).mid(position, fragment.length).trimmed().isEmpty()) {
+            return false;
+        }
+        position += fragment.length;
+    }
+    return hasPicture;
+}
+
+// The caption of a figure has the figure's margins.
+bool MRVEPubWriter::isCaption(int picture, int paragraph) const
+{
+    const auto formatOf = [this](int index) {
+        return m_flow.formats.at(m_flow.paragraphs.at(index).format).toBlockFormat();
+    };
+    const QTextBlockFormat one = formatOf(picture);
+    const QTextBlockFormat other = formatOf(paragraph);
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    return one.leftMargin() == FigurePixels && one.rightMargin() == FigurePixels
+        && other.leftMargin() == FigurePixels && other.rightMargin() == FigurePixels
+        && !other.hasProperty(QTextFormat::BlockQuoteLevel) && place.headingLevel == 0
+        && place.list < 0 && place.length > 0 && !other.nonBreakableLines()
+        && !m_notes.isMoved(paragraph) && !m_flow.hasRule(paragraph) && !isPicture(paragraph);
+}
+
+int MRVEPubWriter::writeFigure(int paragraph, int end)
+{
+    MRVEPubContext context;
+    m_formats.look(paragraph, MRVEPubKind::Paragraph, 0, &context);
+    m_out.append(element("<figure", "<div class=\"figure\""));
+    writeAttributes(paragraph, context, QByteArray());
+    m_out.append('>');
+    writeText(paragraph, context);
+    int next = paragraph + 1;
+    if (next < end && !m_frames.contains(next) && isCaption(paragraph, next)) {
+        MRVEPubContext caption;
+        m_formats.look(next, MRVEPubKind::Paragraph, 0, &caption);
+        caption.size = 100;
+        m_out.append(element("\n<figcaption", "\n<p class=\"caption\""));
+        writeAttributes(next, caption, QByteArray());
+        m_out.append('>');
+        writeText(next, caption);
+        m_out.append(element("</figcaption>", "</p>"));
+        ++next;
+    }
+    m_out.append(element("</figure>\n", "</div>\n"));
+    return next;
+}

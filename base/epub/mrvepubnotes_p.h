@@ -1,0 +1,61 @@
+#pragma once
+
+#include "epub/mrvepubflow_p.h"
+
+#include <QHash>
+#include <QVector>
+
+class MRVEPubFormats;
+
+/** A note and the marks in the text that lead to it. */
+struct MRVEPubNote
+{
+    int begin; // paragraphs, up to end
+    int end;
+    QVector<int> marks; // where their links begin
+    int heading = -1; // the paragraph that heads the notes from this one on, and moves with it
+    bool isMoved = false;
+};
+
+/**
+ * The notes of a document: pairs of a link and a paragraph or list item that links back.
+ *
+ * A mark is a short link, such as "[12]" or a raised figure, to the beginning of a paragraph after
+ * it, from which, or from one that belongs to it, a link leads back to the paragraph of the mark.
+ * Everything else stays as it is.
+ */
+class MRVEPubNotes
+{
+public:
+    MRVEPubNotes(const MRVEPubFlow &flow, MRVEPubFormats *formats);
+
+    const QVector<MRVEPubNote> &all() const { return m_notes; }
+    /** The note that a link at this position is a mark of; -1: none. */
+    int ofMark(int position) const { return m_marks.value(position, -1); }
+    /** Whether the link at this position leads from a note back to its mark. */
+    bool isBackLink(int position) const { return m_backLinks.contains(position); }
+    /** The note that begins with a paragraph; -1: none. */
+    int beginningAt(int paragraph) const { return m_begins.value(paragraph, -1); }
+    /** Whether a paragraph stands elsewhere, or nowhere, since notes leave their place. */
+    bool isMoved(int paragraph) const { return !m_isMoved.isEmpty() && m_isMoved.at(paragraph); }
+
+    /**
+     * Decides which notes leave their place.
+     *
+     * @param pages the first paragraph of each page. Notes that make up a page of their own stay.
+     */
+    void place(const QVector<int> &pages);
+
+private:
+    struct Finder;
+
+    bool isOnlyNotes(int begin, int end) const;
+    void moveHeadings(int begin, int end);
+
+    const MRVEPubFlow &m_flow;
+    QVector<MRVEPubNote> m_notes; // by their first paragraph
+    QHash<int, int> m_marks;
+    QHash<int, int> m_begins;
+    QHash<int, bool> m_backLinks;
+    QVector<bool> m_isMoved;
+};

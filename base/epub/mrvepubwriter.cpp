@@ -1,0 +1,237 @@
+#include "epub/mrvepubwriter_p.h"
+
+#include "epub/mrvepubpages_p.h"
+#include "epub/mrvepubsections_p.h"
+#include "xhtml/mrvdocumenttitle.h"
+
+#include <QLocale>
+
+namespace {
+
+constexpr int LongestTitlePage = 2000; // characters
+
+} // namespace
+
+MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
+                             const QHash<QString, QString> &pictures)
+    : m_book(*book)
+    , m_flow(flow)
+    , m_pictures(pictures)
+    , m_isEPub3(book->version == MRVEPubVersion::EPub3)
+    , m_direction(QLocale(book->language()).textDirection())
+    , m_formats(flow, &book->looks, book->version, book->language())
+    , m_notes(flow, &m_formats)
+{
+    for (int i = 0; i < flow.frames.size(); ++i) {
+        m_frames.insert(flow.frames.at(i).begin, i);
+    }
+}
+
+bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const QString &fileName,
+                        QString *error)
+{
+    QHash<QString, QString> pictures;
+    if (!book->addAllPictures(document, &pictures, error)) {
+        return false;
+    }
+    if (book->metadata.title.isEmpty() && book->pages.isEmpty()) {
+        book->metadata.title = mrvDocumentTitle(document, QString());
+    }
+    const MRVEPubFlow flow(document);
+    MRVEPubWriter(book, flow, pictures).write(fileName);
+    book->classes = book->looks.paragraphClasses();
+    return true;
+}
+
+void MRVEPubWriter::write(const QString &fileName)
+{
+    const MRVEPubPages plan(m_flow, &m_formats);
+    QVector<int> starts = plan.starts();
+    if (m_isEPub3) {
+        m_notes.place(starts);
+    }
+    starts.append(m_flow.count());
+    m_targets.fileName = fileName;
+    for (int i = 0; i + 1 < starts.size(); ++i) {
+        writePage(starts.at(i), starts.at(i + 1), plan);
+    }
+    // Those whose marks stand on no page, such as in a heading of notes, must not be lost.
+    for (int note = 0; note < m_notes.all().size(); ++note) {
+        if (m_notes.all().at(note).isMoved && !m_isNoteWritten.value(note)) {
+            m_isNoteWritten.insert(note, true);
+            m_pageNotes.append(note);
+        }
+    }
+    if (!m_pageNotes.isEmpty()) {
+        writeNotesPage();
+    }
+    m_book.notes += m_notes.all().size();
+    m_book.anchors.append(m_targets);
+}
+
+void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
+{
+    bool isEmpty = begin > 0;
+    for (int i = begin; i < end && isEmpty; ++i) {
+        isEmpty = m_notes.isMoved(i) || m_flow.isBlank(i);
+    }
+    if (isEmpty) {
+        return;
+    }
+    m_page = MRVEPubPage();
+    m_page.fileName = QStringLiteral("page-%1.xhtml").arg(++m_book.pageNumber, 3, 10, QChar(u'0'));
+    if (m_targets.firstPage.isEmpty()) {
+        m_targets.firstPage = m_page.fileName;
+    }
+    const int written = openSections(begin, end, plan);
+    writeFlow(written, end, -1);
+    if (m_book.options.notes == MRVEPubOptions::ChapterNotes) {
+        writeNotes();
+    }
+    if (m_out.size() == 0) { // a body must not be empty
+        m_out.append(QLatin1String("<p class=\"blank\"><br /></p>\n"));
+    }
+    while (!m_sections.isEmpty()) {
+        m_out.append(m_sections.takeLast());
+    }
+    m_page.body = m_out.take();
+    m_book.addPage(m_page);
+}
+
+// Opens the sections that the headings of a page announce; returns the first paragraph that is not
+// written yet.
+int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan)
+{
+    int first = begin;
+    while (first < end && m_flow.isBlank(first) && !m_frames.contains(first)) {
+        ++first;
+    }
+    const bool isHeading =
+        first < end && !m_frames.contains(first) && m_flow.paragraphs.at(first).headingLevel > 0;
+    if (!isHeading) {
+        return begin;
+    }
+    const MRVEPubSection *section = sectionOf(first, end, plan);
+    if (!section) {
+        return begin;
+    }
+    m_page.type = QString::fromLatin1(section->type);
+    openSection(*section);
+    const int level = m_flow.paragraphs.at(first).headingLevel;
+    for (int i = first + 1; i < end; ++i) {
+        const int inner = m_flow.paragraphs.at(i).headingLevel;
+        if (inner > level && inner <= plan.lastLevel() && !m_frames.contains(i)) {
+            const MRVEPubSection *chapter = sectionOf(i, end, plan);
+            writeFlow(begin, i, -1);
+            if (chapter) {
+                openSection(*chapter);
+                m_page.type = QString::fromLatin1(chapter->type);
+            }
+            return i;
+        }
+        if (!m_flow.isBlank(i) && inner == 0) {
+            break;
+        }
+    }
+    return begin;
+}
+
+const MRVEPubSection *MRVEPubWriter::sectionOf(int heading, int end, const MRVEPubPages &plan) const
+{
+    const int level = m_flow.paragraphs.at(heading).headingLevel;
+    if (const MRVEPubSection *section = mrvEPubSectionOf(headingText(heading))) {
+        return section;
+    }
+    const bool isTitle = level < plan.firstLevel() && m_book.pages.isEmpty()
+        && m_flow.paragraphs.at(end).position < LongestTitlePage;
+    if (isTitle) {
+        return mrvEPubSection(QStringLiteral("titlepage"));
+    }
+    const bool isChapter = level >= plan.firstLevel() && level <= plan.lastLevel();
+    return isChapter ? mrvEPubSection(QStringLiteral("chapter")) : nullptr;
+}
+
+void MRVEPubWriter::openSection(const MRVEPubSection &section)
+{
+    if (!m_isEPub3) {
+        return;
+    }
+    QByteArray tag = QByteArray("<section epub:type=\"") + section.type + '"';
+    if (*section.role) {
+        tag += QByteArray(" role=\"") + section.role + '"';
+    }
+    m_out.append(tag + ">\n");
+    m_sections.append("</section>\n");
+}
+
+// What a heading says, pictures by their texts, without the marks of notes.
+QString MRVEPubWriter::headingText(int paragraph) const
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+    QString text;
+    int position = place.position;
+    for (int i = place.firstFragment; i < end; ++i) {
+        const MRVEPubFragment &fragment = m_flow.fragments.at(i);
+        const QTextFormat &format = m_flow.formats.at(fragment.format);
+        if (format.isImageFormat()) {
+            text += format.stringProperty(QTextFormat::ImageAltText);
+        } else if (m_notes.ofMark(position) < 0) {
+            text += QStringView(m_flow.text).mid(position, fragment.length);
+        }
+        position += fragment.length;
+    }
+    return text.simplified();
+}
+
+// The notes whose marks stand on the page; those that a note has marks of follow.
+void MRVEPubWriter::writeNotes()
+{
+    if (m_pageNotes.isEmpty()) {
+        return;
+    }
+    m_out.append(
+        element("<section class=\"notes\" epub:type=\"footnotes\">\n", "<div class=\"notes\">\n"));
+    for (int i = 0; i < m_pageNotes.size(); ++i) {
+        const int note = m_pageNotes.at(i);
+        const int heading = m_notes.all().at(note).heading;
+        if (heading >= 0) {
+            m_openNote = note;
+            writeFlow(heading, heading + 1, -1);
+            m_openNote = -1;
+        }
+        writeNote(note);
+    }
+    m_out.append(element("</section>\n", "</div>\n"));
+    m_pageNotes.clear();
+}
+
+void MRVEPubWriter::writeNote(int note)
+{
+    const MRVEPubNote &place = m_notes.all().at(note);
+    const MRVEPubParagraph &first = m_flow.paragraphs.at(place.begin);
+    const QByteArray id =
+        first.length > 0 ? takeId(m_flow.fragments.at(first.firstFragment).format) : QByteArray();
+    m_out.append(
+        element("<aside epub:type=\"footnote\" role=\"doc-footnote\"", "<div class=\"note\""));
+    if (!id.isEmpty()) {
+        m_out.append(" id=\"" + id + '"');
+    }
+    m_out.append(QLatin1String(">\n"));
+    const int outer = std::exchange(m_openNote, note);
+    writeFlow(place.begin, place.end, -1);
+    m_openNote = outer;
+    m_out.append(element("</aside>\n", "</div>\n"));
+}
+
+// The notes of the whole book, after those of the documents before.
+void MRVEPubWriter::writeNotesPage()
+{
+    const QString name = QStringLiteral("notes.xhtml");
+    m_page = MRVEPubPage();
+    m_page.fileName = name;
+    m_page.type = QStringLiteral("endnotes");
+    writeNotes();
+    m_page.body = m_out.take();
+    m_book.addNotes(m_page);
+}

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "epub/mrvepubbook_p.h"
+#include "epub/mrvepubflow_p.h"
+#include "epub/mrvepubformats_p.h"
+#include "epub/mrvepubmarkup_p.h"
+#include "epub/mrvepubnotes_p.h"
+
+#include <QHash>
+#include <QTextTableCell>
+#include <QVector>
+
+class MRVEPubPages;
+struct MRVEPubSection;
+
+/**
+ * Writes the pages of a document into a book.
+ *
+ * Elements are chosen from what paragraphs and text are, classes from what they look like besides.
+ * Classes of paragraphs and targets of links are known once the book is complete; a page keeps
+ * the places where they go.
+ */
+class MRVEPubWriter
+{
+public:
+    /**
+     * Adds the pages of a document, its pictures, and all that the book has to know of them.
+     *
+     * @param fileName of the document, as links of others name it.
+     * @return false, with nothing added, when one of its pictures cannot be read.
+     */
+    static bool add(MRVEPubBook *book, const QTextDocument &document, const QString &fileName,
+                    QString *error);
+
+private:
+    // An element around paragraphs.
+    struct Container
+    {
+        bool isQuote = false;
+        int list = -1;
+        int depth = 0; // of a list
+        QTextListFormat::Style style = QTextListFormat::ListDisc;
+        int number = 0; // of its last item
+        QByteArray end;
+    };
+    struct Element
+    {
+        MRVEPubInline kind;
+        int link = -1; // in the book's links
+        QByteArray attributes; // of a span
+    };
+
+    // Pictures are paths in the package by resource id; empty for those that it cannot hold.
+    MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
+                  const QHash<QString, QString> &pictures);
+
+    // Pages: mrvepubwriter.cpp
+    void write(const QString &fileName);
+    void writePage(int begin, int end, const MRVEPubPages &plan);
+    int openSections(int begin, int end, const MRVEPubPages &plan);
+    const MRVEPubSection *sectionOf(int heading, int end, const MRVEPubPages &plan) const;
+    void openSection(const MRVEPubSection &section);
+    QString headingText(int paragraph) const;
+    void writeNotes();
+    void writeNote(int note);
+    void writeNotesPage();
+
+    // Paragraphs: mrvepubflowwriter.cpp
+    void writeFlow(int begin, int end, int inside);
+    int writeBlock(int paragraph, int end);
+    bool isWritten(int paragraph, int begin, int end) const;
+    void arrange(int paragraph);
+    void arrangeItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
+    void openList(const MRVEPubParagraph &paragraph);
+    void openItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
+    void openQuotes(int level);
+    void closeContainers(int count);
+    int usedIndent() const;
+    int writePreformatted(int paragraph, int end);
+    void writeHeading(int paragraph);
+    int writeFigure(int paragraph, int end);
+    bool isPicture(int paragraph) const;
+    bool isCaption(int picture, int paragraph) const;
+    bool hasParagraphAfter(int paragraph, int end) const;
+    void writeParagraph(int paragraph, MRVEPubKind kind, const char *element);
+    void writeAttributes(int paragraph, const MRVEPubContext &context, const QByteArray &id);
+    int writeClass(int look);
+
+    // Tables and frames: mrvepubtablewriter.cpp
+    void writeFrame(int frame);
+    void writeTable(int frame);
+    void writeRows(int frame, int begin, int end);
+    void writeCell(int frame, const QTextTableCell &cell, int lastRow);
+    void writeCellText(int paragraph, const QByteArray &box, bool isHeader);
+    QByteArray cellRule(const QTextTableCellFormat &format) const;
+
+    // Text: mrvepubtextwriter.cpp
+    bool writeText(int paragraph, const MRVEPubContext &context);
+    void writeFragment(int index, int end, int position, const MRVEPubContext &context);
+    int commonElements(int index, int end, const MRVEPubContext &context);
+    void openLink(int link, int position, QByteArray *id);
+    void closeElements(int count);
+    void writePicture(const MRVEPubFragment &fragment, const QByteArray &id);
+    QByteArray pictureAttributes(const QTextImageFormat &format) const;
+    QByteArray takeId(int format);
+    void writePageBreaks(int format);
+    QByteArray uniqueId(const QString &name);
+    int linkNumber(const QString &address);
+    QLatin1String element(const char *epub3, const char *epub2) const
+    {
+        return QLatin1String(m_isEPub3 ? epub3 : epub2);
+    }
+
+    MRVEPubBook &m_book;
+    const MRVEPubFlow &m_flow;
+    const QHash<QString, QString> &m_pictures;
+    const bool m_isEPub3;
+    const Qt::LayoutDirection m_direction; // of the book
+    MRVEPubFormats m_formats;
+    MRVEPubNotes m_notes;
+    QHash<int, int> m_frames; // by their first paragraph
+
+    MRVEPubPage m_page;
+    MRVEPubMarkup m_out;
+    QVector<Container> m_containers;
+    QVector<Element> m_elements;
+    int m_linkAttributes = -1; // of the open link
+    bool m_isSpaced = false; // the text of the paragraph holds white space that counts
+    bool m_isAfterBlank = true;
+    int m_itemHole = 0; // of the item that was begun last
+    int m_openNote = -1; // the note that is being written
+    QVector<QByteArray> m_sections; // end tags
+    QVector<int> m_pageNotes; // whose marks stand on the page, and that are moved
+    QHash<int, bool> m_isNoteWritten;
+    MRVEPubAnchors m_targets;
+    QHash<QString, int> m_linkNumbers;
+};
