@@ -379,7 +379,7 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
     if (style.background.style() != Qt::NoBrush) {
         style.text.setBackground(style.background);
     }
-    if (mrvNameOf(element) == QLatin1String("image")) { // of SVG
+    if (mrvIsPicture(element)) { // of SVG
         readPicture(element, style, css);
     }
     readInside(element, style.inherited(), css);
@@ -399,18 +399,14 @@ void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &st
 void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &style,
                                  const MRVCssElement *css)
 {
-    const QString name = mrvPictureName(element);
-    const bool isObject = element->v.element.tag == GUMBO_TAG_OBJECT;
-    const QString type = mrvAttributeOf(element, "type");
-    if (name.isEmpty()
-        || (isObject && !type.isEmpty() && !type.startsWith(QLatin1String("image/")))) {
+    if (!mrvIsPicture(element)) {
         // Without a picture, its texts are shown.
         m_writer.writeText(mrvAttributeOf(element, "alt"), style);
         readChildren(element, style.inherited(), css);
         return;
     }
     QTextImageFormat image;
-    image.setName(name);
+    image.setName(mrvPictureName(element));
     if (style.width.type() == QTextLength::FixedLength) {
         image.setWidth(style.width.rawValue());
     }
@@ -418,7 +414,7 @@ void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &s
         image.setHeight(style.height.rawValue());
     }
     QString text = mrvAttributeOf(element, "alt");
-    if (isObject) {
+    if (mrvIsElement(element, GUMBO_TAG_OBJECT)) {
         text = mrvTextIn(element).simplified();
     }
     if (!text.isNull()) {

@@ -256,9 +256,8 @@ private:
         }
         const bool isSeparate = display != MRVHtmlStyle::Inline
             || kind.kind == MRVHtmlElement::LineEnd || kind.kind == MRVHtmlElement::Rule
-            || kind.kind == MRVHtmlElement::Table
-            || (kind.kind == MRVHtmlElement::Picture && !mrvPictureName(element).isEmpty())
-            || mrvIsField(element) || mrvIsDrawn(element);
+            || kind.kind == MRVHtmlElement::Table || mrvIsPicture(element) || mrvIsField(element)
+            || mrvIsDrawn(element);
         if (isSeparate) {
             endWord();
         }
@@ -270,21 +269,31 @@ private:
         if (isQuotation) {
             m_words.add(mrvQuotationMark(true, m_quotations++), m_line, expectWord());
         }
-        if (mrvIsElement(element, GUMBO_TAG_IMG)) {
-            visitPicture(element, address);
-        } else if (kind.kind != MRVHtmlElement::Picture) {
-            const QString own = mrvAddressOf(element);
-            if (mrvIsElement(element, GUMBO_TAG_TABLE)) {
-                visitCaptions(element, address);
-            }
-            visit(element, own.isEmpty() ? address : own);
-        }
+        visitInside(element, address);
         if (isQuotation) {
             m_words.add(mrvQuotationMark(false, --m_quotations), m_line, expectWord());
         }
         if (isSeparate) {
             endWord();
         }
+    }
+
+    void visitInside(const GumboNode *element, const QString &address)
+    {
+        if (mrvIsPicture(element)) {
+            expect(HeldContent::Picture, mrvPictureName(element), lineOf(element));
+            expectLink(address, lineOf(element));
+            return;
+        }
+        if (mrvIsImage(element)) {
+            m_words.add(mrvShownText(mrvAttributeOf(element, "alt")), lineOf(element),
+                        expectWord());
+        }
+        if (mrvIsElement(element, GUMBO_TAG_TABLE)) {
+            visitCaptions(element, address);
+        }
+        const QString own = mrvAddressOf(element);
+        visit(element, own.isEmpty() ? address : own);
     }
 
     // As the document is built: what is visible inside of it counts, and its box does not.
@@ -317,15 +326,6 @@ private:
             if (isCaption(child)) {
                 visitElement(child, address);
             }
-        }
-    }
-
-    void visitPicture(const GumboNode *element, const QString &address)
-    {
-        const QString name = mrvAttributeOf(element, "src").trimmed();
-        if (!name.isEmpty()) {
-            expect(HeldContent::Picture, name, lineOf(element));
-            expectLink(address, lineOf(element));
         }
     }
 

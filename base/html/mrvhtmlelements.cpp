@@ -289,8 +289,9 @@ bool mrvIsDrawn(const GumboNode *element)
 
 bool mrvIsField(const GumboNode *element)
 {
-    return mrvIsElement(element, GUMBO_TAG_INPUT)
-        && mrvAttributeOf(element, "type").compare(QLatin1String("hidden"), Qt::CaseInsensitive);
+    const QString type = mrvAttributeOf(element, "type").toLower();
+    return mrvIsElement(element, GUMBO_TAG_INPUT) && type != QLatin1String("hidden")
+        && type != QLatin1String("image");
 }
 
 QString mrvPictureName(const GumboNode *element)
@@ -302,4 +303,21 @@ QString mrvPictureName(const GumboNode *element)
         }
     }
     return name.trimmed();
+}
+
+bool mrvIsImage(const GumboNode *element)
+{
+    return mrvHtmlElement(element).kind == MRVHtmlElement::Picture
+        || (element->v.element.tag_namespace == GUMBO_NAMESPACE_SVG
+            && mrvNameOf(element) == QLatin1String("image"))
+        || (mrvIsElement(element, GUMBO_TAG_INPUT)
+            && mrvAttributeOf(element, "type").toLower() == QLatin1String("image"));
+}
+
+bool mrvIsPicture(const GumboNode *element)
+{
+    const bool isObject = element->v.element.tag == GUMBO_TAG_OBJECT;
+    const QString type = mrvAttributeOf(element, "type");
+    return mrvIsImage(element) && !mrvPictureName(element).isEmpty()
+        && (!isObject || type.isEmpty() || type.startsWith(QLatin1String("image/")));
 }

@@ -68,3 +68,7 @@ bool mrvIsField(const GumboNode *element);
 
 /** What a picture of any kind names; empty for none. */
 QString mrvPictureName(const GumboNode *element);
+/** Whether the element is for a picture: img, object and the like. */
+bool mrvIsImage(const GumboNode *element);
+/** Whether such an element shows one; else its texts are shown. */
+bool mrvIsPicture(const GumboNode *element);
