@@ -48,6 +48,7 @@ constexpr Module modules[] = {
     {"base/version",     3, "Core Xml"},
 
     {"base/office",      4, "Core"},
+    {"base/plaintext",   4, "Core"},
     {"base/presets",     4, "Core Gui"},
     {"base/text",        4, "Core Gui"},
 

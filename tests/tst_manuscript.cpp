@@ -253,7 +253,7 @@ private Q_SLOTS:
 
 private:
     QString in(const QString &name) const { return m_folder->filePath(name); }
-    /// Reads bytes as those of a file of this name, with pictures left alone.
+    /// Reads bytes as those of a file of this name, to be changed, with pictures left alone.
     MRVManuscript manuscript(const QString &name, const QByteArray &bytes,
                              const QString &encoding = QString()) const
     {
@@ -262,6 +262,7 @@ private:
         reader.setFormat(MRVManuscript::formatOfFile(name));
         reader.setEncoding(encoding);
         reader.setLoadsPictures(false);
+        reader.setPurpose(MRVManuscriptReader::Editing);
         if (!reader.readBytes(bytes, name, m_folder->path(), &read)) {
             qFatal("%s", qPrintable(reader.errorString()));
         }

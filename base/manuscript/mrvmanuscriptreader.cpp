@@ -5,6 +5,7 @@
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvmanuscriptpictures_p.h"
 #include "office/mrvofficeconverter.h"
+#include "plaintext/mrvplaintext.h"
 
 #include "core/mrvcoreutil.h"
 
@@ -36,6 +37,13 @@ MRVManuscript::Format formatOfBytes(const QByteArray &bytes)
         }
     }
     return MRVHtmlReader::looksLikeHtml(bytes) ? MRVManuscript::Html : MRVManuscript::PlainText;
+}
+
+// The lines of a script mean something.
+bool isProse(const MRVManuscript &manuscript)
+{
+    return manuscript.format == MRVManuscript::PlainText
+        && !manuscript.fileName.endsWith(QLatin1String(".fountain"), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -133,12 +141,21 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
     }
     QString reason;
     MRVSourceReport report;
-    read->document = mrvNewDocument(text, read->format, read->options, folder, &report, &reason);
+    if (m_purpose == Publishing && isProse(*read)) {
+        const QString page = MRVPlainText::toHtml(text, &report.head);
+        if (report.head.title.isEmpty()) {
+            report.head.title = MRVPlainText::titleOfFile(read->fileName);
+        }
+        read->document = mrvNewDocument(page, MRVManuscript::Html, {}, {}, &report, &reason);
+    } else {
+        read->document =
+            mrvNewDocument(text, read->format, read->options, folder, &report, &reason);
+    }
     if (!read->document) {
         return fail(NestingError, *read, reason);
     }
     read->report = report.html;
-    if (read->format == MRVManuscript::Markdown) {
+    if (read->format == MRVManuscript::Markdown || read->format == MRVManuscript::PlainText) {
         read->authors = report.head.authors;
         read->description = report.head.description;
         read->language = report.head.language;

@@ -54,7 +54,8 @@ public:
 
     /**
      * What the document is for; Publishing at first. For Editing, the characters of Markdown stay
-     * as they are, whatever its options.
+     * as they are, whatever its options, and a line of plain text is a paragraph; for Publishing,
+     * plain text gets the paragraphs and chapters that MRVPlainText finds, and a title.
      */
     void setPurpose(Purpose purpose) { m_purpose = purpose; }
     /** How Markdown is read; with footnotes at first. */

@@ -136,6 +136,12 @@ QByteArray toUtf8(QString text)
 
 } // namespace
 
+QString MRVMarkdown::takeHead(const QString &markdown, MRVMarkdownHead *head)
+{
+    *head = MRVMarkdownHead();
+    return mrvTakeFrontMatter(markdown, head);
+}
+
 QString MRVMarkdown::toHtml(const QString &markdown, Options options, MRVMarkdownHead *head)
 {
     MRVMarkdownHead read;

@@ -61,6 +61,15 @@ public:
      */
     static QString toHtml(const QString &markdown, Options options = NoOptions,
                           MRVMarkdownHead *head = nullptr);
+
+    /**
+     * The text with empty lines in the place of the metadata that it begins with, as toHtml() takes
+     * them; unchanged where it has none.
+     *
+     * @param markdown any text.
+     * @param head     receives what is understood of them; must not be null.
+     */
+    static QString takeHead(const QString &markdown, MRVMarkdownHead *head);
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(MRVMarkdown::Options)

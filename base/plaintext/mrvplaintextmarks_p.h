@@ -1,0 +1,29 @@
+#pragma once
+
+#include "plaintext/mrvplaintextlines_p.h"
+
+/** What a group of lines is by itself. */
+struct MRVPlainMark
+{
+    enum Kind {
+        Text,
+        Stars, ///< a break between scenes
+        Rule, ///< the same, drawn
+        Part, ///< a heading over chapters
+        Chapter,
+        Number, ///< a heading if others of its kind go on counting
+    };
+
+    Kind kind = Text;
+    int number = 0; ///< of Number, from 1
+    bool isRoman = false; ///< of Number
+    bool isComplete = false; ///< whether a heading has its title in the same lines
+};
+
+MRVPlainMark mrvPlainMark(const MRVPlainGroup &group);
+
+/**
+ * Whether short lines may be the title of the chapter that is announced before them: none of them
+ * ends with one of the characters @p ends.
+ */
+bool mrvIsPlainSubtitle(const MRVPlainGroup &group, const QString &ends);
