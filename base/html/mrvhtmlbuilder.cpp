@@ -439,7 +439,8 @@ void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &sty
                                : QTextBlockFormat::MarkerType::Unchecked);
     } else if (type == QLatin1String("image")) {
         readPicture(element, style, nullptr);
-    } else if (mrvIsField(element)) {
+    }
+    if (mrvIsField(element)) {
         m_writer.writeText(QStringLiteral(" "), style);
     }
 }
