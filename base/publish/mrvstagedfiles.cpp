@@ -37,6 +37,18 @@ bool putInPlace(const QString &from, const QString &to, QString *error)
         || copyFile(from, to, error);
 }
 
+template<typename Content>
+bool writeHeld(const Content &content, const QString &file, QString *error)
+{
+    const MRVHeldSignals held; // a temporary file would remain
+    MRVNewFolders folders;
+    if (!folders.makeFor(file, error) || !MRVFileWriter::write(file, content, error)) {
+        return false;
+    }
+    folders.keep();
+    return true;
+}
+
 } // namespace
 
 MRVStagedFiles::MRVStagedFiles()
@@ -145,11 +157,11 @@ void MRVStagedFiles::rollBack(Files::iterator end, QString *error)
 
 bool MRVStagedFiles::write(const QByteArray &bytes, const QString &file, QString *error)
 {
-    const MRVHeldSignals held; // a temporary file would remain
-    MRVNewFolders folders;
-    if (!folders.makeFor(file, error) || !MRVCoreUtil::WriteBinaryFile(bytes, file, error)) {
-        return false;
-    }
-    folders.keep();
-    return true;
+    return writeHeld(bytes, file, error);
+}
+
+bool MRVStagedFiles::write(const MRVFileWriter::Content &content, const QString &file,
+                           QString *error)
+{
+    return writeHeld(content, file, error);
 }

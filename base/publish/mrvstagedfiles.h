@@ -2,6 +2,8 @@
 
 #include "util/mrvbase_export.h"
 
+#include "core/mrvfilewriter.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
@@ -80,6 +82,9 @@ public:
      *              untouched on success.
      */
     static bool write(const QByteArray &bytes, const QString &file, QString *error = nullptr);
+    /** As above, with a @p content that need not be in memory as a whole. */
+    static bool write(const MRVFileWriter::Content &content, const QString &file,
+                      QString *error = nullptr);
 
 private:
     struct File

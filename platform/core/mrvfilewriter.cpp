@@ -88,17 +88,18 @@ bool syncToDisk(int handle)
 }
 
 // A disk that fills up takes a part of the bytes without an error; only the next write fails.
-bool writeAll(QFileDevice &file, const QByteArray &bytes)
+bool writeAll(QIODevice *file, const QByteArray &bytes, QString *reason)
 {
     qint64 done = 0;
     while (done < bytes.size()) {
-        const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
+        const qint64 count = file->write(bytes.constData() + done, bytes.size() - done);
         if (count <= 0) {
+            *reason = file->errorString();
             return false;
         }
         done += count;
     }
-    return file.flush();
+    return true;
 }
 
 // QFile::rename() never replaces a file. Leaves errno to the caller.
@@ -144,10 +145,12 @@ QString refusal(const QString &path, QString *target)
 
 // commit() alone reports success on a full disk, where the last write came back short and the
 // buffer could not be flushed. Empty on success, else the reason.
-QString commitAll(QSaveFile &file, const QByteArray &bytes)
+QString commitAll(QSaveFile &file, const MRVFileWriter::Content &content)
 {
     QString reason;
-    if (!writeAll(file, bytes)) {
+    if (!content(&file, &reason)) {
+        reason = reason.isEmpty() ? file.errorString() : reason;
+    } else if (!file.flush()) {
         reason = file.errorString();
     } else if (!syncToDisk(file.handle())) {
         reason = qt_error_string(errno);
@@ -160,7 +163,7 @@ QString commitAll(QSaveFile &file, const QByteArray &bytes)
 }
 
 // Empty on success, else the reason.
-QString replaceFile(const QFileInfo &target, const QByteArray &bytes)
+QString replaceFile(const QFileInfo &target, const MRVFileWriter::Content &content)
 {
     // A name too long for QSaveFile is given in a second step, from a name that nobody else uses.
     const QString path = target.filePath();
@@ -179,7 +182,7 @@ QString replaceFile(const QFileInfo &target, const QByteArray &bytes)
     if (isLong && target.exists()) {
         file.setPermissions(target.permissions());
     }
-    const QString reason = commitAll(file, bytes);
+    const QString reason = commitAll(file, content);
     if (!reason.isEmpty() || place == path) {
         return reason;
     }
@@ -190,10 +193,18 @@ QString replaceFile(const QFileInfo &target, const QByteArray &bytes)
 
 bool MRVFileWriter::write(const QString &path, const QByteArray &bytes, QString *error)
 {
+    const auto content = [&bytes](QIODevice *device, QString *reason) {
+        return writeAll(device, bytes, reason);
+    };
+    return write(path, content, error);
+}
+
+bool MRVFileWriter::write(const QString &path, const Content &content, QString *error)
+{
     QString target;
     QString reason = refusal(path, &target);
     if (reason.isEmpty()) {
-        reason = replaceFile(QFileInfo(target), bytes);
+        reason = replaceFile(QFileInfo(target), content);
     }
     if (!reason.isEmpty()) {
         mrvSetErrorLine(error, tr("Cannot write the file \"%1\": %2"), path, reason);

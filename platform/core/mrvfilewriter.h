@@ -6,6 +6,10 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
+
+class QIODevice;
+
 /**
  * The one way in which files are written: whole, or not at all.
  *
@@ -42,4 +46,17 @@ public:
      * @return true when the new file is in place.
      */
     static bool write(const QString &path, const QByteArray &bytes, QString *error = nullptr);
+
+    /**
+     * Writes to a device. Returns false, with a translated end of a sentence as the reason, where
+     * that failed or took fewer bytes than it was given.
+     */
+    using Content = std::function<bool(QIODevice *device, QString *reason)>;
+    /**
+     * As above, for what need not be in memory as a whole.
+     *
+     * @param content writes the file to a device that is open for writing, not buffered, and can
+     *                seek.
+     */
+    static bool write(const QString &path, const Content &content, QString *error = nullptr);
 };
