@@ -188,8 +188,12 @@ MRVPictureClaims tiffClaims(const QByteArray &bytes)
 // picture merely to find out whether it is one.
 MRVPictureClaims bitmapTextClaims(const QByteArray &bytes)
 {
-    const int at = bytes.startsWith("#define") ? 0 : bytes.indexOf("\n#define") + 1;
-    if ((at == 0 && !bytes.startsWith('#')) || bytes.left(at).contains('\0')) {
+    // Most files of other formats have a null byte among their first few, where a text ends.
+    const int textEnd = bytes.indexOf('\0');
+    const QByteArray text =
+        QByteArray::fromRawData(bytes.constData(), textEnd < 0 ? bytes.size() : textEnd);
+    const int at = text.startsWith("#define") ? 0 : text.indexOf("\n#define") + 1;
+    if (at == 0 && !text.startsWith('#')) {
         return MRVPictureClaims();
     }
     int numbers[2] = {-1, -1};
