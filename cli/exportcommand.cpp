@@ -3,6 +3,7 @@
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
+#include "publish/mrvstagedfiles.h"
 #include "util/mrvfixeddate.h"
 #include "xhtml/mrvexportcheck.h"
 
@@ -185,6 +186,19 @@ bool exportPages(const Call &call, const Options &options,
     return acceptLosses(options, publisher.losses(), error) && publisher.publish(written, error);
 }
 
+bool writePackage(const MRVEPubPackage &package, const QString &file, QString *error)
+{
+    if (file == StandardOutput) {
+        const QByteArray bytes = package.toByteArray(error);
+        return !bytes.isEmpty() && writeStandardOutput(bytes, error);
+    }
+    showProgress(QStringLiteral("Writing %1").arg(file));
+    const auto content = [&package](QIODevice *device, QString *reason) {
+        return package.write(device, reason);
+    };
+    return MRVStagedFiles::write(content, file, error);
+}
+
 bool exportPackage(const Call &call, const Options &options,
                    const std::vector<MRVManuscript> &manuscripts, const QString &file,
                    QStringList *written, QString *error)
@@ -202,11 +216,7 @@ bool exportPackage(const Call &call, const Options &options,
             return false;
         }
     }
-    const QByteArray bytes = package.toByteArray(error);
-    if (file != StandardOutput) {
-        showProgress(QStringLiteral("Writing %1").arg(file));
-    }
-    if (bytes.isEmpty() || !writeOutput(bytes, file, error)) {
+    if (!writePackage(package, file, error)) {
         return false;
     }
     if (package.remotePictures() > 0) {

@@ -337,6 +337,28 @@ private Q_SLOTS:
         QVERIFY(usage.ru_maxrss < SanitizerMemory * (300 << 10));
     }
 
+    // Decoded together, these would take half a gigabyte.
+    void exportsPhotosAsTheyAre()
+    {
+        const QTemporaryDir folder;
+        QByteArray text;
+        for (int i = 0; i < 10; ++i) {
+            const QString name = QString("%1.jpg").arg(i);
+            QVERIFY(filledImage(4000, 3000, QColor(20 * i, 0, 0)).save(folder.filePath(name)));
+            text += "<img src='" + name.toUtf8() + "'>";
+        }
+        const QString page = write(folder, "page.html", text);
+        for (const QString type : {"xhtml", "epub", "kf8"}) {
+            const QString file = folder.filePath("out." + type);
+            QCOMPARE(run(MRV_TOOL, {"export", page, "--to", type, "-o", file}).errors, QString());
+            QVERIFY(bytesOf(folder.filePath("out_files/7.jpg"))
+                    == bytesOf(folder.filePath("7.jpg")));
+        }
+        rusage usage{};
+        getrusage(RUSAGE_CHILDREN, &usage);
+        QVERIFY(usage.ru_maxrss < SanitizerMemory * (300 << 10));
+    }
+
     // Opening a pipe that nobody writes to never ends.
     void opensRegularFilesOnly()
     {

@@ -52,6 +52,8 @@ public:
      * file says. Invalid for an SVG whose size is not known.
      */
     QSize size() const { return m_size; }
+    /** How many bytes() gives. */
+    qint64 byteCount() const { return m_file.isEmpty() ? m_bytes.size() : m_fileBytes; }
     /** Equal for pictures of equal bytes, and for these alone; see bytes(). */
     QByteArray digest() const { return m_digest; }
     /**

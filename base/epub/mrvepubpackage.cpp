@@ -7,9 +7,10 @@
 #include "util/mrvfailure.h"
 #include "xhtml/mrvhtmltext.h"
 
-#include "core/mrvcoreutil.h"
+#include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
 
+#include <QBuffer>
 #include <QCryptographicHash>
 #include <QUuid>
 
@@ -80,7 +81,7 @@ std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modif
     for (const MRVEPubFile &file : book.pictures) {
         const bool isText = file.picture.type() == MRVDocumentPicture::Svg;
         files.push_back({Folder + file.path, isText ? MRVZipEntry::Deflated : MRVZipEntry::Stored,
-                         [&file] { return file.picture.bytes(); }});
+                         [&file] { return file.picture.bytes(); }, file.picture.byteCount()});
     }
     return files;
 }
@@ -117,26 +118,33 @@ bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *err
 
 QByteArray MRVEPubPackage::toByteArray(QString *error) const
 {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return write(&buffer, error) ? buffer.data() : QByteArray();
+}
+
+bool MRVEPubPackage::write(QIODevice *device, QString *error) const
+{
     const QDateTime modified = m_book->metadata.modified.isValid()
         ? m_book->metadata.modified
         : QDateTime::currentDateTimeUtc();
     QString reason;
-    const QByteArray bytes =
-        mrvZipArchive(filesOf(*m_book, modified), archiveDate(modified), &reason);
-    if (bytes.isEmpty()) {
-        for (const MRVEPubFile &file : qAsConst(m_book->pictures)) {
-            if (file.picture.bytes(&reason).isEmpty()) {
-                reason = QStringLiteral("%1: %2").arg(file.picture.name(), reason);
-                break;
-            }
-        }
-        MRV::fail(error, tr("The e-book cannot be packed: %1").arg(reason));
+    if (mrvWriteZip(filesOf(*m_book, modified), archiveDate(modified), device, &reason)) {
+        return true;
     }
-    return bytes;
+    for (const MRVEPubFile &file : qAsConst(m_book->pictures)) {
+        if (file.picture.bytes(&reason).isEmpty()) {
+            reason = QStringLiteral("%1: %2").arg(file.picture.name(), reason);
+            break;
+        }
+    }
+    return MRV::fail(error, tr("The e-book cannot be packed: %1").arg(reason));
 }
 
 bool MRVEPubPackage::write(const QString &path, QString *error) const
 {
-    const QByteArray bytes = toByteArray(error);
-    return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, path, error);
+    const auto content = [this](QIODevice *device, QString *reason) {
+        return write(device, reason);
+    };
+    return MRVFileWriter::write(path, content, error);
 }

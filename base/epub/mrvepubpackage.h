@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class QIODevice;
 class QTextDocument;
 struct MRVEPubBook;
 struct MRVManuscript;
@@ -92,11 +93,20 @@ public:
     QByteArray toByteArray(QString *error = nullptr) const;
 
     /**
-     * Writes toByteArray() to the file @p path, replacing it; on failure an old file stands.
+     * Writes toByteArray() to the file @p path, replacing it; on failure an old file stands. The
+     * pictures are not in memory together.
      *
      * @param error if given, receives a text on failure; untouched on success.
      */
     bool write(const QString &path, QString *error = nullptr) const;
+
+    /**
+     * Writes toByteArray() to a device, without having it in memory as a whole.
+     *
+     * @param device open for writing, able to seek, and empty.
+     * @param error  if given, receives a text on failure; untouched on success.
+     */
+    bool write(QIODevice *device, QString *error = nullptr) const;
 
 private:
     std::unique_ptr<MRVEPubBook> m_book;

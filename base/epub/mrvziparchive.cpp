@@ -2,13 +2,14 @@
 
 #include "util/mrvfailure.h"
 
+#include <QIODevice>
+
 #include <libdeflate.h>
 #include <zip.h>
 
 #include <atomic>
 #include <csignal>
 #include <cstring>
-#include <limits>
 #include <memory>
 #include <system_error>
 #include <thread>
@@ -26,7 +27,13 @@ struct Packed
     quint32 crc = 0;
     bool isDeflated = false;
     zip_uint64_t position = 0; // up to which the archive has read it
+    const MRVZipEntry *late = nullptr; // makes the bytes when the archive reads them
 };
+
+bool isLate(const MRVZipEntry &entry)
+{
+    return entry.packing == MRVZipEntry::Stored && entry.size >= 0;
+}
 
 /** Compresses one file after the other, with the same tables. */
 class Deflater
@@ -34,8 +41,11 @@ class Deflater
 public:
     Packed packed(const MRVZipEntry &entry)
     {
+        if (isLate(entry)) {
+            return Packed{QByteArray(), zip_uint64_t(entry.size), 0, false, 0, &entry};
+        }
         const QByteArray bytes = entry.content();
-        Packed file{bytes, zip_uint64_t(bytes.size()), 0, false, 0};
+        Packed file{bytes, zip_uint64_t(bytes.size()), 0, false, 0, nullptr};
         file.crc = libdeflate_crc32(0, bytes.constData(), std::size_t(bytes.size()));
         if (entry.packing == MRVZipEntry::Deflated && m_compressor && bytes.size() > 1) {
             // A result that is not shorter than the text does not fit, and is none.
@@ -120,6 +130,14 @@ zip_int64_t readPacked(void *user, void *data, zip_uint64_t length, zip_source_c
     switch (command) {
     case ZIP_SOURCE_OPEN:
         file.position = 0;
+        if (file.late) {
+            file.bytes = file.late->content();
+        }
+        return file.late && zip_uint64_t(file.bytes.size()) != file.size ? -1 : 0;
+    case ZIP_SOURCE_CLOSE:
+        if (file.late) {
+            file.bytes.clear();
+        }
         return 0;
     case ZIP_SOURCE_READ: {
         const zip_uint64_t size = qMin(length, zip_uint64_t(file.bytes.size()) - file.position);
@@ -131,12 +149,13 @@ zip_int64_t readPacked(void *user, void *data, zip_uint64_t length, zip_source_c
         zip_stat_t *const stat = static_cast<zip_stat_t *>(data);
         zip_stat_init(stat);
         stat->size = file.size;
-        stat->comp_size = zip_uint64_t(file.bytes.size());
+        stat->comp_size = file.late ? file.size : zip_uint64_t(file.bytes.size());
         stat->crc = file.crc;
         stat->comp_method = file.isDeflated ? ZIP_CM_DEFLATE : ZIP_CM_STORE;
         stat->encryption_method = ZIP_EM_NONE;
-        stat->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC | ZIP_STAT_COMP_METHOD
-            | ZIP_STAT_ENCRYPTION_METHOD;
+        // Of stored files, the library computes the checksum.
+        stat->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_COMP_METHOD
+            | ZIP_STAT_ENCRYPTION_METHOD | (file.isDeflated ? ZIP_STAT_CRC : 0);
         return sizeof *stat;
     }
     case ZIP_SOURCE_SUPPORTS:
@@ -146,18 +165,85 @@ zip_int64_t readPacked(void *user, void *data, zip_uint64_t length, zip_source_c
     }
 }
 
-/** An archive in memory. */
+/** What the library writes to. */
+struct Target
+{
+    QIODevice *device;
+    zip_error_t error;
+};
+
+bool writeAll(QIODevice *device, const char *data, qint64 size)
+{
+    while (size > 0) {
+        const qint64 count = device->write(data, size);
+        if (count <= 0) {
+            return false;
+        }
+        data += count;
+        size -= count;
+    }
+    return true;
+}
+
+bool seekTo(const Target &target, void *data, zip_uint64_t length)
+{
+    zip_error_t error;
+    zip_error_init(&error);
+    const zip_int64_t place =
+        zip_source_seek_compute_offset(zip_uint64_t(target.device->pos()),
+                                       zip_uint64_t(target.device->size()), data, length, &error);
+    zip_error_fini(&error);
+    return place >= 0 && target.device->seek(place);
+}
+
+// Passes on what the library writes. To it this is a file that is empty at first.
+zip_int64_t writeToDevice(void *user, void *data, zip_uint64_t length, zip_source_cmd_t command)
+{
+    Target &target = *static_cast<Target *>(user);
+    bool ok = true;
+    switch (command) {
+    case ZIP_SOURCE_WRITE:
+        ok = writeAll(target.device, static_cast<const char *>(data), qint64(length));
+        if (ok) {
+            return zip_int64_t(length);
+        }
+        break;
+    case ZIP_SOURCE_SEEK_WRITE:
+        ok = seekTo(target, data, length);
+        break;
+    case ZIP_SOURCE_TELL_WRITE:
+        return target.device->pos();
+    case ZIP_SOURCE_STAT:
+        zip_stat_init(static_cast<zip_stat_t *>(data));
+        static_cast<zip_stat_t *>(data)->valid = ZIP_STAT_SIZE;
+        return sizeof(zip_stat_t);
+    case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&target.error, data, length);
+    case ZIP_SOURCE_SUPPORTS:
+        return ZIP_SOURCE_SUPPORTS_WRITABLE;
+    default: // to open, to commit, to free: nothing to do
+        return 0;
+    }
+    if (!ok) {
+        zip_error_set(&target.error, ZIP_ER_WRITE, 0);
+    }
+    return ok ? 0 : -1;
+}
+
+/** An archive that is written to a device. */
 class Archive
 {
 public:
-    Archive()
+    explicit Archive(QIODevice *device)
+        : m_target{device, {}}
     {
         zip_error_init(&m_error);
-        m_target = zip_source_buffer_create(nullptr, 0, 0, &m_error);
-        m_zip = m_target ? zip_open_from_source(m_target, ZIP_CREATE | ZIP_TRUNCATE, &m_error)
-                         : nullptr;
-        if (m_zip) {
-            zip_source_keep(m_target); // beyond the closing, which drops one reference
+        zip_error_init(&m_target.error);
+        zip_source_t *const source = zip_source_function_create(writeToDevice, &m_target, &m_error);
+        m_zip =
+            source ? zip_open_from_source(source, ZIP_CREATE | ZIP_TRUNCATE, &m_error) : nullptr;
+        if (source && !m_zip) {
+            zip_source_free(source);
         }
     }
     ~Archive()
@@ -165,7 +251,7 @@ public:
         if (m_zip) {
             zip_discard(m_zip);
         }
-        zip_source_free(m_target);
+        zip_error_fini(&m_target.error);
         zip_error_fini(&m_error);
     }
     Archive(const Archive &) = delete;
@@ -193,58 +279,40 @@ public:
             == 0;
     }
 
-    QByteArray close()
+    bool close()
     {
-        if (!m_zip || zip_close(m_zip) != 0) {
-            return QByteArray();
-        }
-        m_zip = nullptr;
-        zip_stat_t stat;
-        if (zip_source_stat(m_target, &stat) != 0
-            || stat.size > zip_uint64_t(std::numeric_limits<int>::max())
-            || zip_source_open(m_target) != 0) {
-            return QByteArray();
-        }
-        QByteArray bytes(int(stat.size), Qt::Uninitialized);
-        const bool ok = zip_source_read(m_target, bytes.data(), stat.size) == bytes.size();
-        zip_source_close(m_target);
-        return ok ? bytes : QByteArray();
+        const bool ok = m_zip && zip_close(m_zip) == 0;
+        m_zip = ok ? nullptr : m_zip;
+        return ok;
     }
 
     QString errorString()
     {
-        zip_error_t *const error = m_zip ? zip_get_error(m_zip)
-            : m_target                   ? zip_source_error(m_target)
-                                         : &m_error;
-        return QString::fromUtf8(zip_error_strerror(error));
+        if (zip_error_code_zip(&m_target.error) != ZIP_ER_OK) {
+            return m_target.device->errorString(); // such as that the disk is full
+        }
+        return QString::fromUtf8(zip_error_strerror(m_zip ? zip_get_error(m_zip) : &m_error));
     }
 
 private:
     zip_error_t m_error;
-    zip_source_t *m_target = nullptr;
+    Target m_target;
     zip_t *m_zip = nullptr;
 };
 
 } // namespace
 
-QByteArray mrvZipArchive(const std::vector<MRVZipEntry> &entries, const QDateTime &date,
-                         QString *error)
+bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, const QDateTime &date, QIODevice *device,
+                 QString *error)
 {
     std::vector<Packed> files = packAll(entries); // outlives the archive, which reads it
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (files[i].size == 0) {
-            MRV::fail(error, entries[i].path);
-            return QByteArray();
-        }
-    }
-    Archive archive;
+    Archive archive(device);
     bool ok = true;
     for (std::size_t i = 0; ok && i < files.size(); ++i) {
+        if (files[i].size == 0) {
+            return MRV::fail(error, entries[i].path);
+        }
         ok = archive.add(entries[i].path, &files[i], date);
     }
-    const QByteArray bytes = ok ? archive.close() : QByteArray();
-    if (bytes.isEmpty()) {
-        MRV::fail(error, archive.errorString());
-    }
-    return bytes;
+    return (ok && archive.close()) || MRV::fail(error, archive.errorString());
 }
