@@ -210,11 +210,16 @@ bool exportPackage(const Call &call, const Options &options,
     }
     const bool isOld = call.value("epub-version") == QLatin1String("2");
     MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata);
+    QVector<const QTextDocument *> documents;
     for (const MRVManuscript &manuscript : manuscripts) {
         showProgress(QStringLiteral("Adding %1").arg(manuscript.path));
         if (!package.addManuscript(manuscript, error)) {
             return false;
         }
+        documents.append(manuscript.document.get());
+    }
+    if (!acceptLosses(options, package.losses(documents), error)) {
+        return false;
     }
     if (!writePackage(package, file, error)) {
         return false;

@@ -275,6 +275,23 @@ private Q_SLOTS:
         QVERIFY(!error.isEmpty());
     }
 
+    // Links to files and to nowhere are no loss, for a book cannot have them.
+    void losses()
+    {
+        QTextDocument document;
+        fill(&document, novel);
+        QTextDocument missing;
+        fill(&missing, "<p>Text <a href='https://a.org/'>unwritten</a> <img src='pic.png'></p>");
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document, "novel.html"));
+        QCOMPARE(package.losses({&document}), QStringList());
+        QCOMPARE(package.losses({&missing, &document}),
+                 QStringList({"not in what was written, of the paragraph \"Text unwritten\": "
+                              "Text unwritten",
+                              "a link that was not written: https://a.org/",
+                              "pictures that were not written: 1"}));
+    }
+
     void isValid_data()
     {
         QTest::addColumn<int>("version");

@@ -5,7 +5,7 @@
 #include "epub/mrvziparchive_p.h"
 #include "manuscript/mrvmanuscript.h"
 #include "util/mrvfailure.h"
-#include "xhtml/mrvhtmltext.h"
+#include "xhtml/mrvexportcheck.h"
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
@@ -114,6 +114,18 @@ bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *err
     }
     m_remotePictures += manuscript.remotePictures;
     return true;
+}
+
+QStringList MRVEPubPackage::losses(const QVector<const QTextDocument *> &documents) const
+{
+    MRVExportCheck check(MRVExportCheck::Book);
+    for (const QTextDocument *document : documents) {
+        check.addDocument(*document);
+    }
+    for (const MRVEPubPage &page : qAsConst(m_book->pages)) {
+        check.addPage(QString::fromUtf8(m_book->pageBytes(page)), page.fileName);
+    }
+    return check.losses();
 }
 
 QByteArray MRVEPubPackage::toByteArray(QString *error) const

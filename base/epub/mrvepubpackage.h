@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -83,6 +85,14 @@ public:
     bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
     /** How many pictures on other machines the manuscripts show, which are not in the e-book. */
     int remotePictures() const { return m_remotePictures; }
+
+    /**
+     * What the pages lack of the documents that were added, a translated line each; empty where
+     * every word, link and picture was written. See MRVExportCheck.
+     *
+     * @param documents all that were added; their order does not matter.
+     */
+    QStringList losses(const QVector<const QTextDocument *> &documents) const;
 
     /**
      * The bytes of the e-book file. Without any document the book has its cover page alone.

@@ -62,6 +62,13 @@ quint64 hashOf(const QString &text)
     return hash;
 }
 
+QString wordsOf(const QString &text)
+{
+    QStringList words;
+    forEachWord(text, [&words](QStringView word) { words.append(word.toString()); });
+    return words.join(u' ');
+}
+
 // Elements that stand within a paragraph and within a word.
 bool isInline(const QString &element)
 {
@@ -310,8 +317,10 @@ QStringList MRVExportCheck::lostWords() const
             }
         });
         if (!lost.isEmpty()) {
+            constexpr int Shown = 40; // characters
+            const QString beginning = wordsOf(paragraph).left(Shown).trimmed();
             losses.append(tr("not in what was written, of the paragraph \"%1\": %2")
-                              .arg(paragraph.simplified().left(40), lost.join(u' ')));
+                              .arg(beginning, lost.join(u' ')));
         }
     }
     return losses;
