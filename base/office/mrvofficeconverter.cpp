@@ -1,7 +1,7 @@
 #include "office/mrvofficeconverter.h"
 
-#include "office/mrvlimitedprogram_p.h"
 #include "util/mrvfailure.h"
+#include "util/mrvlimitedprogram.h"
 #include "util/mrvtemporaryfolder.h"
 
 #include "core/mrvcoreutil.h"

@@ -1,25 +1,34 @@
 #pragma once
 
+#include "util/mrvbase_export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-/** What a program may use before it is ended. */
+/**
+ * What a program may use before it is ended.
+ * @since 1.0
+ */
 struct MRVProgramLimits
 {
-    int milliseconds;
+    int milliseconds; ///< from its start to its end
     qint64 memory; ///< bytes of address space, of each process
     qint64 output; ///< bytes of what it writes to one file
 };
 
-/** How a program ended, and what it wrote. */
+/**
+ * How a program ended, and what it wrote.
+ * @since 1.0
+ */
 struct MRVProgramResult
 {
+    /** NotStarted: it is missing or not executable; Crashed: a signal ended it. */
     enum End { Exited, NotStarted, OutOfTime, TooMuchOutput, Crashed };
     End end = NotStarted;
     int exitCode = -1; ///< of Exited
-    QByteArray output;
-    QByteArray errors;
+    QByteArray output; ///< its standard output; empty for TooMuchOutput and OutOfTime
+    QByteArray errors; ///< its standard error, likewise
 };
 
 /**
@@ -31,9 +40,12 @@ struct MRVProgramResult
  * standard streams goes to files there, which a limit of the system bounds.
  *
  * @param program   a path.
+ * @param arguments as the program gets them.
  * @param input     a file that is its standard input.
  * @param folder    exists, for this run alone.
+ * @param limits    each of them ends it.
+ * @since 1.0
  */
-MRVProgramResult mrvRunLimited(const QString &program, const QStringList &arguments,
-                               const QString &input, const QString &folder,
-                               const MRVProgramLimits &limits);
+MRVBASE_EXPORT MRVProgramResult mrvRunLimited(const QString &program, const QStringList &arguments,
+                                              const QString &input, const QString &folder,
+                                              const MRVProgramLimits &limits);

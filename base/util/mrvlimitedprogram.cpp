@@ -1,4 +1,4 @@
-#include "office/mrvlimitedprogram_p.h"
+#include "util/mrvlimitedprogram.h"
 
 #include "core/mrvcoreutil.h"
 
