@@ -289,6 +289,9 @@ void readMeta(const Tag &tag, MRVHtmlHead *head, QString *creator)
     if (content.isEmpty()) {
         return;
     }
+    if (!name.isEmpty()) {
+        head->entries.append({name, {content}, 0});
+    }
     if (name == QLatin1String("author") && !head->authors.contains(content)) {
         head->authors.append(content);
     } else if (name == QLatin1String("creator") && creator->isEmpty()) {

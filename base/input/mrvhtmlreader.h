@@ -1,10 +1,12 @@
 #pragma once
 
 #include "util/mrvbase_export.h"
+#include "util/mrvmetadataentry.h"
 
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /**
  * What the head of an HTML page says about the page; empty where it says nothing.
@@ -18,6 +20,8 @@ struct MRVHtmlHead
     QString description;
     /** A well-formed tag, as MRV::languageTag() gives it. */
     QString language;
+    /** All meta elements with a name, without "dc." or "dcterms.", and a content, in order. */
+    QVector<MRVMetadataEntry> entries;
 };
 
 /**

@@ -3,6 +3,7 @@
 #include "html/mrvhtmlreport.h"
 #include "markdown/mrvmarkdown.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvmetadataentry.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -76,6 +77,7 @@ public:
     QString description;
     QString date; ///< as it is written; of Markdown only
     QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
+    QVector<MRVMetadataEntry> metadata; ///< all that it says there, in order
 
     QStringList pictures; ///< files that it shows, each once, in order of appearance
     /** Those that MRVManuscriptReader::setMissingPictures() let pass, each once, in order. */

@@ -138,6 +138,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         read->authors = head.authors;
         read->description = head.description;
         read->language = head.language;
+        read->metadata = head.entries;
     }
     QString reason;
     MRVSourceReport report;
@@ -160,6 +161,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         read->description = report.head.description;
         read->language = report.head.language;
         read->date = report.head.date;
+        read->metadata = report.head.entries;
     }
     return true;
 }

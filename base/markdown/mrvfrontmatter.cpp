@@ -1,5 +1,6 @@
-#include "markdown/mrvfrontmatter_p.h"
+#include "markdown/mrvfrontmatter.h"
 
+#include "markdown/mrvfrontmatter_p.h"
 #include "markdown/mrvmarkdownhead.h"
 #include "util/mrvnames.h"
 
@@ -55,7 +56,7 @@ constexpr struct
 Field fieldOf(const QString &key)
 {
     for (const auto &row : keys) {
-        if (key.compare(QLatin1String(row.key), Qt::CaseInsensitive) == 0) {
+        if (key == QLatin1String(row.key)) {
             return row.field;
         }
     }
@@ -64,7 +65,8 @@ Field fieldOf(const QString &key)
 
 struct Entry
 {
-    Field field;
+    QString key; // in lower case
+    int line; // from 1
     QString value; // what stands in the line of the key
     QStringList lines; // those that continue it, with their indents
 };
@@ -81,10 +83,12 @@ public:
 
     bool atEnd() const { return m_at >= m_text.size(); }
     int position() const { return m_at; }
+    int number() const { return m_number; } // of the last line, from 1
 
     QString next()
     {
         const int start = m_at;
+        ++m_number;
         while (m_at < m_text.size() && m_text.at(m_at) != u'\n' && m_text.at(m_at) != u'\r') {
             ++m_at;
         }
@@ -96,6 +100,7 @@ public:
 private:
     const QString m_text;
     int m_at;
+    int m_number = 0;
 };
 
 /** The text of a value in quotes. */
@@ -192,10 +197,12 @@ QStringList valuesOf(const Entry &entry)
             : QStringList(scalar(entry.value + u' ' + blockText(entry.lines, true)));
     }
     static const QRegularExpression item(QStringLiteral("^\\s*-\\s+(?:name:\\s+)?(.*)$"));
+    // "- editor: Name" is a map for YAML.
+    const bool keepsPairs = entry.key.startsWith(QLatin1String("contributor"));
     QStringList items;
     for (const QString &line : entry.lines) {
         const QRegularExpressionMatch match = item.match(line);
-        if (match.hasMatch() && !mapping.match(match.captured(1)).hasMatch()) {
+        if (match.hasMatch() && (keepsPairs || !mapping.match(match.captured(1)).hasMatch())) {
             items.append(scalar(match.captured(1)));
         }
     }
@@ -223,12 +230,13 @@ void store(Field field, const QStringList &values, MRVMarkdownHead *head)
     }
 }
 
-/** The lines of an entry, or false where @p line cannot be one of the block. */
-bool addLine(const QString &line, const QRegularExpression &key, bool yaml, QVector<Entry> *entries)
+/** Adds a line to the entries; false where it cannot be one of the block. */
+bool addLine(const QString &line, int number, const QRegularExpression &key, bool yaml,
+             QVector<Entry> *entries)
 {
     const QRegularExpressionMatch match = key.match(line);
     if (match.hasMatch()) {
-        entries->append({fieldOf(match.captured(1)), match.captured(2).trimmed(), {}});
+        entries->append({match.captured(1).toLower(), number, match.captured(2).trimmed(), {}});
         return true;
     }
     if (yaml && line.startsWith(u'#')) {
@@ -246,31 +254,41 @@ bool addLine(const QString &line, const QRegularExpression &key, bool yaml, QVec
 bool has(const QVector<Entry> &entries, std::initializer_list<Field> fields)
 {
     for (const Entry &entry : entries) {
-        if (std::find(fields.begin(), fields.end(), entry.field) != fields.end()) {
+        if (std::find(fields.begin(), fields.end(), fieldOf(entry.key)) != fields.end()) {
             return true;
         }
     }
     return false;
 }
 
+const QRegularExpression &yamlKey()
+{
+    static const QRegularExpression key(
+        QStringLiteral("^[\"']?([A-Za-z_][\\w.-]*)[\"']?\\s*:(?:\\s+(.*))?$"));
+    return key;
+}
+
+bool isFence(const QString &line)
+{
+    static const QRegularExpression fence(QStringLiteral("^(?:---|\\.\\.\\.)\\s*$"));
+    return fence.match(line).hasMatch();
+}
+
 /** The length of a block of YAML, its fences included; 0 where the text begins with none. */
 int readYaml(const QString &text, QVector<Entry> *entries)
 {
-    static const QRegularExpression fence(QStringLiteral("^(?:---|\\.\\.\\.)\\s*$"));
-    static const QRegularExpression key(
-        QStringLiteral("^[\"']?([A-Za-z_][\\w.-]*)[\"']?\\s*:(?:\\s+(.*))?$"));
     Lines lines(text);
     const QString opening = lines.next();
-    if (!opening.startsWith(u'-') || !fence.match(opening).hasMatch()) {
+    if (!opening.startsWith(u'-') || !isFence(opening)) {
         return 0;
     }
     while (!lines.atEnd()) {
         const QString line = lines.next();
-        if (fence.match(line).hasMatch()) {
+        if (isFence(line)) {
             const bool known = has(*entries, {Other, Title, Author, Description, Language, Date});
             return known ? qMin(lines.position(), text.size()) : 0;
         }
-        if (!addLine(line, key, true, entries)) {
+        if (!addLine(line, lines.number(), yamlKey(), true, entries)) {
             break;
         }
     }
@@ -288,7 +306,8 @@ int readTitleLines(const QString &text, QVector<Entry> *entries)
         if (line.trimmed().isEmpty()) {
             return has(*entries, {Title, Author, Language}) ? start : 0;
         }
-        if (!addLine(line, key, false, entries) || entries->first().field == Unknown) {
+        if (!addLine(line, lines.number(), key, false, entries)
+            || fieldOf(entries->first().key) == Unknown) {
             break;
         }
     }
@@ -311,10 +330,37 @@ QString mrvTakeFrontMatter(const QString &markdown, MRVMarkdownHead *head)
     }
     for (const Entry &entry : qAsConst(entries)) {
         const QString line = entry.value + u' ' + blockText(entry.lines, true);
-        store(entry.field, yaml ? valuesOf(entry) : QStringList(line.trimmed()), head);
+        const QStringList values = yaml ? valuesOf(entry) : QStringList(line.trimmed());
+        store(fieldOf(entry.key), values, head);
+        head->entries.append({entry.key, values, entry.line});
     }
     head->authors.removeDuplicates();
     // The numbers of the lines below stay.
     static const QRegularExpression words(QStringLiteral("[^\\r\\n]+"));
     return markdown.left(length).remove(words) + markdown.midRef(length);
+}
+
+int MRVFrontMatter::read(const QString &text, QVector<MRVMetadataEntry> *entries)
+{
+    QVector<Entry> read;
+    Lines lines(text);
+    int refused = 0;
+    while (!lines.atEnd() && refused == 0) {
+        const QString line = lines.next();
+        if (isFence(line)) {
+            if (!read.isEmpty()) {
+                break;
+            }
+        } else if (!addLine(line, lines.number(), yamlKey(), true, &read)) {
+            refused = lines.number();
+        }
+    }
+    for (const Entry &entry : qAsConst(read)) {
+        if (!entry.value.isEmpty() || !entry.lines.join(QString()).trimmed().isEmpty()) {
+            QStringList values = valuesOf(entry);
+            values.removeAll(QString());
+            entries->append({entry.key, values, entry.line});
+        }
+    }
+    return refused;
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "util/mrvmetadataentry.h"
+
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /**
  * What the metadata at the beginning of a Markdown text say about it; empty where they say nothing.
@@ -18,4 +21,6 @@ struct MRVMarkdownHead
     QString language;
     /** As it is written; no format is demanded. */
     QString date;
+    /** All that they say, in order, also what the members above do. */
+    QVector<MRVMetadataEntry> entries;
 };

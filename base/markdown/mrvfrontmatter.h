@@ -1,0 +1,31 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+#include "util/mrvmetadataentry.h"
+
+#include <QString>
+#include <QVector>
+
+/**
+ * Metadata as the front matter of Markdown writes them: "key: value" lines, a part of YAML.
+ *
+ * A value is a text, in quotes or not, which indented lines may continue; a text of several lines
+ * after "|" or ">"; or a list, "[a, b]" or lines that begin with "- ". References, tags and maps
+ * are not read. Lines that begin with "#" are comments, and a key without a value is left out.
+ *
+ * @since 1.0
+ */
+class MRVBASE_EXPORT MRVFrontMatter
+{
+public:
+    MRVFrontMatter() = delete;
+
+    /**
+     * Reads a text that is metadata as a whole, with or without a line of "---" before them; after
+     * them, such a line or "..." ends the reading.
+     *
+     * @param entries receives them in order, also those before a line that is refused.
+     * @return 0, or the first line, from 1, that is neither a key nor continues one.
+     */
+    static int read(const QString &text, QVector<MRVMetadataEntry> *entries);
+};
