@@ -1,3 +1,4 @@
+#include "datarows.h"
 #include "epub/mrvepubpackage.h"
 #include "gui/mrvguiutil.h"
 #include "images.h"
@@ -123,6 +124,30 @@ private Q_SLOTS:
                                        true, true, {}, false, false);
         QCOMPARE(contents(), before);
         QCOMPARE(QTextCursor(&document).blockFormat().headingLevel(), 0); // that is in the copy
+    }
+
+    void metadata_data()
+    {
+        addRows("epub-metadata.tsv", {"key", "value", "epub3", "epub2"});
+    }
+
+    // What is set, and says in the package document; a malformed value sets nothing.
+    void metadata()
+    {
+        const QStringList setting = cell("key").split('|');
+        for (const char *column : {"epub3", "epub2"}) {
+            const bool isNew = qstrcmp(column, "epub3") == 0;
+            MRVEPubMetadata metadata;
+            metadata.series = "Tides";
+            metadata.language = setting.value(1);
+            QString error;
+            QCOMPARE(metadata.set(setting.first(), cell("value"), &error),
+                     !cell("epub3").isEmpty());
+            QCOMPARE(error.isEmpty(), !cell("epub3").isEmpty());
+            MRVEPubPackage package(isNew ? MRVEPubVersion::EPub3 : MRVEPubVersion::EPub2, metadata);
+            const QString opf = unpacked(package.toByteArray())["OEBPS/content.opf"];
+            QVERIFY2(opf.contains(cell(column)), qPrintable(opf));
+        }
     }
 
     void nothingGiven()

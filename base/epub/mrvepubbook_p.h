@@ -150,10 +150,6 @@ private:
     QString head(const QString &title) const;
 };
 
-/** The navigation document of EPUB 3. */
-QByteArray mrvEPubNavigation(const MRVEPubBook &book);
-/** The table of contents of EPUB 2, which EPUB 3 books carry for older readers. */
-QByteArray mrvEPubNcx(const MRVEPubBook &book, const QString &identifier);
 /** The package document: metadata, the list of files and the reading order. */
 QByteArray mrvEPubPackageDocument(const MRVEPubBook &book, const QString &identifier,
                                   const QDateTime &modified);

@@ -1,6 +1,8 @@
 #include "epub/mrvepubpackage.h"
 
+#include "epub/mrvbooknames_p.h"
 #include "epub/mrvepubbook_p.h"
+#include "epub/mrvepubnavigation_p.h"
 #include "epub/mrvepubwriter_p.h"
 #include "epub/mrvziparchive_p.h"
 #include "manuscript/mrvmanuscript.h"
@@ -43,6 +45,10 @@ QString identifierOf(const MRVEPubBook &book)
     const QString given = mrvXmlText(book.metadata.identifier).simplified();
     if (!given.isEmpty()) {
         return given;
+    }
+    const QString isbn = mrvIsbn(book.metadata.isbn);
+    if (!isbn.isEmpty()) {
+        return QLatin1String("urn:isbn:") + isbn;
     }
     QCryptographicHash hash(QCryptographicHash::Sha1); // as the UUID is computed of it
     hash.addData(book.title().toUtf8() + '\n' + book.metadata.authors.join(u'\n').toUtf8());
@@ -126,6 +132,11 @@ QStringList MRVEPubPackage::losses(const QVector<const QTextDocument *> &documen
         check.addPage(QString::fromUtf8(m_book->pageBytes(page)), page.fileName);
     }
     return check.losses();
+}
+
+QStringList MRVEPubPackage::picturesWithoutText() const
+{
+    return m_book->picturesWithoutText;
 }
 
 QByteArray MRVEPubPackage::toByteArray(QString *error) const

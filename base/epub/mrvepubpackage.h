@@ -83,6 +83,8 @@ public:
      * @return as addDocument().
      */
     bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
+    /** The names of pictures without an alternative text, each once; decorations do not count. */
+    QStringList picturesWithoutText() const;
     /** How many pictures on other machines the manuscripts show, which are not in the e-book. */
     int remotePictures() const { return m_remotePictures; }
 

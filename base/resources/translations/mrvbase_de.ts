@@ -276,10 +276,6 @@ Fehler: %2</translation>
         <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn.</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
-        <translation>Der Text kann mit einem Screenreader gelesen werden; Überschriften und ein Inhaltsverzeichnis führen durch ihn. Nicht alle Bilder haben eine Beschreibung.</translation>
-    </message>
-    <message>
         <source>Cover</source>
         <translation>Titelbild</translation>
     </message>
@@ -291,12 +287,139 @@ Fehler: %2</translation>
         <source>Beginning</source>
         <translation>Anfang</translation>
     </message>
+    <message>
+        <source>Title page</source>
+        <translation>Titelseite</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Impressum</translation>
+    </message>
+    <message>
+        <source>Dedication</source>
+        <translation>Widmung</translation>
+    </message>
+    <message>
+        <source>Epigraph</source>
+        <translation>Motto</translation>
+    </message>
+    <message>
+        <source>Foreword</source>
+        <translation>Geleitwort</translation>
+    </message>
+    <message>
+        <source>Preface</source>
+        <translation>Vorwort</translation>
+    </message>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>Danksagung</translation>
+    </message>
+    <message>
+        <source>Appendix</source>
+        <translation>Anhang</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glossar</translation>
+    </message>
+    <message>
+        <source>Bibliography</source>
+        <translation>Literaturverzeichnis</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Colophon</source>
+        <translation>Kolophon</translation>
+    </message>
+    <message>
+        <source>Not all pictures have a description.</source>
+        <translation>Nicht alle Bilder haben eine Beschreibung.</translation>
+    </message>
+    <message>
+        <source>A list leads to the pages of the printed edition.</source>
+        <translation>Eine Liste führt zu den Seiten der gedruckten Ausgabe.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubCheck</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>e-books are checked by epubcheck, which is not installed; install the packages epubcheck and default-jre-headless</source>
+        <translation>E-Books prüft epubcheck, das nicht installiert ist; installieren Sie die Pakete epubcheck und default-jre-headless</translation>
+    </message>
+    <message>
+        <source>no files can be made there</source>
+        <translation>dort können keine Dateien angelegt werden</translation>
+    </message>
+    <message>
+        <source>epubcheck was not done after %1 seconds</source>
+        <translation>epubcheck war nach %1 Sekunden nicht fertig</translation>
+    </message>
+    <message>
+        <source>epubcheck gives no answer</source>
+        <translation>epubcheck gibt keine Antwort</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
         <source>the cover picture cannot be read: %1</source>
         <translation>das Titelbild kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>a role and a name such as &quot;translator: Ann Lee&quot;</source>
+        <translation>eine Rolle und ein Name wie „translator: Ann Lee“</translation>
+    </message>
+    <message>
+        <source>the tag of a language such as en-GB</source>
+        <translation>die Kennung einer Sprache wie en-GB</translation>
+    </message>
+    <message>
+        <source>an ISBN, whose last digit proves the others</source>
+        <translation>eine ISBN, deren letzte Ziffer die anderen bestätigt</translation>
+    </message>
+    <message>
+        <source>a date such as 2026, 2026-01 or 2026-01-31</source>
+        <translation>ein Datum wie 2026, 2026-01 oder 2026-01-31</translation>
+    </message>
+    <message>
+        <source>a number such as 2 or 2.5</source>
+        <translation>eine Zahl wie 2 oder 2.5</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no key of a book</source>
+        <translation>„%1“ ist kein Schlüssel eines Buches</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not %3</source>
+        <translation>%1: „%2“ ist nicht %3</translation>
+    </message>
+    <message>
+        <source>this is neither &quot;key: value&quot; nor continues it</source>
+        <translation>das ist weder „Schlüssel: Wert“ noch setzt es ihn fort</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the value cannot be read</source>
+        <translation>der Wert ist nicht lesbar</translation>
     </message>
 </context>
 <context>

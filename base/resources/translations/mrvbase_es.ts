@@ -276,10 +276,6 @@ Error: %2</translation>
         <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo.</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
-        <translation>El texto puede leerse con un lector de pantalla; los títulos y un índice permiten recorrerlo. No todas las imágenes tienen descripción.</translation>
-    </message>
-    <message>
         <source>Cover</source>
         <translation>Cubierta</translation>
     </message>
@@ -291,12 +287,139 @@ Error: %2</translation>
         <source>Beginning</source>
         <translation>Inicio</translation>
     </message>
+    <message>
+        <source>Title page</source>
+        <translation>Portada</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Página de créditos</translation>
+    </message>
+    <message>
+        <source>Dedication</source>
+        <translation>Dedicatoria</translation>
+    </message>
+    <message>
+        <source>Epigraph</source>
+        <translation>Epígrafe</translation>
+    </message>
+    <message>
+        <source>Foreword</source>
+        <translation>Prólogo</translation>
+    </message>
+    <message>
+        <source>Preface</source>
+        <translation>Prefacio</translation>
+    </message>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>Agradecimientos</translation>
+    </message>
+    <message>
+        <source>Appendix</source>
+        <translation>Apéndice</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glosario</translation>
+    </message>
+    <message>
+        <source>Bibliography</source>
+        <translation>Bibliografía</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Índice alfabético</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Colophon</source>
+        <translation>Colofón</translation>
+    </message>
+    <message>
+        <source>Not all pictures have a description.</source>
+        <translation>No todas las imágenes tienen una descripción.</translation>
+    </message>
+    <message>
+        <source>A list leads to the pages of the printed edition.</source>
+        <translation>Una lista lleva a las páginas de la edición impresa.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubCheck</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>no existe ese archivo</translation>
+    </message>
+    <message>
+        <source>e-books are checked by epubcheck, which is not installed; install the packages epubcheck and default-jre-headless</source>
+        <translation>los libros electrónicos los comprueba epubcheck, que no está instalado; instale los paquetes epubcheck y default-jre-headless</translation>
+    </message>
+    <message>
+        <source>no files can be made there</source>
+        <translation>allí no se pueden crear archivos</translation>
+    </message>
+    <message>
+        <source>epubcheck was not done after %1 seconds</source>
+        <translation>epubcheck no terminó en %1 segundos</translation>
+    </message>
+    <message>
+        <source>epubcheck gives no answer</source>
+        <translation>epubcheck no da respuesta</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
         <source>the cover picture cannot be read: %1</source>
         <translation>no se puede leer la imagen de portada: %1</translation>
+    </message>
+    <message>
+        <source>a role and a name such as &quot;translator: Ann Lee&quot;</source>
+        <translation>un papel y un nombre como «translator: Ann Lee»</translation>
+    </message>
+    <message>
+        <source>the tag of a language such as en-GB</source>
+        <translation>la etiqueta de un idioma como en-GB</translation>
+    </message>
+    <message>
+        <source>an ISBN, whose last digit proves the others</source>
+        <translation>un ISBN cuya última cifra confirma las demás</translation>
+    </message>
+    <message>
+        <source>a date such as 2026, 2026-01 or 2026-01-31</source>
+        <translation>una fecha como 2026, 2026-01 o 2026-01-31</translation>
+    </message>
+    <message>
+        <source>a number such as 2 or 2.5</source>
+        <translation>un número como 2 o 2.5</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no key of a book</source>
+        <translation>«%1» no es una clave de un libro</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not %3</source>
+        <translation>%1: «%2» no es %3</translation>
+    </message>
+    <message>
+        <source>this is neither &quot;key: value&quot; nor continues it</source>
+        <translation>esto no es «clave: valor» ni lo continúa</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>the value cannot be read</source>
+        <translation>el valor no se puede leer</translation>
     </message>
 </context>
 <context>

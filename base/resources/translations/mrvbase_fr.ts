@@ -276,10 +276,6 @@ Erreur&#xa0;: %2</translation>
         <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer.</translation>
     </message>
     <message>
-        <source>The text can be read with a screen reader; headings and a table of contents guide through it. Not all pictures have a description.</source>
-        <translation>Le texte peut être lu avec un lecteur d’écran&#xa0;; des titres et une table des matières permettent de s’y repérer. Toutes les images n’ont pas de description.</translation>
-    </message>
-    <message>
         <source>Cover</source>
         <translation>Couverture</translation>
     </message>
@@ -291,12 +287,139 @@ Erreur&#xa0;: %2</translation>
         <source>Beginning</source>
         <translation>Début</translation>
     </message>
+    <message>
+        <source>Title page</source>
+        <translation>Page de titre</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Mentions légales</translation>
+    </message>
+    <message>
+        <source>Dedication</source>
+        <translation>Dédicace</translation>
+    </message>
+    <message>
+        <source>Epigraph</source>
+        <translation>Épigraphe</translation>
+    </message>
+    <message>
+        <source>Foreword</source>
+        <translation>Avant-propos</translation>
+    </message>
+    <message>
+        <source>Preface</source>
+        <translation>Préface</translation>
+    </message>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>Remerciements</translation>
+    </message>
+    <message>
+        <source>Appendix</source>
+        <translation>Annexe</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glossaire</translation>
+    </message>
+    <message>
+        <source>Bibliography</source>
+        <translation>Bibliographie</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Colophon</source>
+        <translation>Colophon</translation>
+    </message>
+    <message>
+        <source>Not all pictures have a description.</source>
+        <translation>Toutes les images n’ont pas de description.</translation>
+    </message>
+    <message>
+        <source>A list leads to the pages of the printed edition.</source>
+        <translation>Une liste mène aux pages de l’édition imprimée.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEPubCheck</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>e-books are checked by epubcheck, which is not installed; install the packages epubcheck and default-jre-headless</source>
+        <translation>les livres électroniques sont vérifiés par epubcheck, qui n’est pas installé&#xa0;; installez les paquets epubcheck et default-jre-headless</translation>
+    </message>
+    <message>
+        <source>no files can be made there</source>
+        <translation>aucun fichier ne peut y être créé</translation>
+    </message>
+    <message>
+        <source>epubcheck was not done after %1 seconds</source>
+        <translation>epubcheck n’avait pas fini après %1 secondes</translation>
+    </message>
+    <message>
+        <source>epubcheck gives no answer</source>
+        <translation>epubcheck ne donne pas de réponse</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
     <message>
         <source>the cover picture cannot be read: %1</source>
         <translation>l’image de couverture ne peut pas être lue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a role and a name such as &quot;translator: Ann Lee&quot;</source>
+        <translation>un rôle et un nom comme «&#xa0;translator: Ann Lee&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the tag of a language such as en-GB</source>
+        <translation>le code d’une langue comme en-GB</translation>
+    </message>
+    <message>
+        <source>an ISBN, whose last digit proves the others</source>
+        <translation>un ISBN dont le dernier chiffre confirme les autres</translation>
+    </message>
+    <message>
+        <source>a date such as 2026, 2026-01 or 2026-01-31</source>
+        <translation>une date comme 2026, 2026-01 ou 2026-01-31</translation>
+    </message>
+    <message>
+        <source>a number such as 2 or 2.5</source>
+        <translation>un nombre comme 2 ou 2.5</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no key of a book</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une clé d’un livre</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>un nom</translation>
+    </message>
+    <message>
+        <source>%1: &apos;%2&apos; is not %3</source>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est pas %3</translation>
+    </message>
+    <message>
+        <source>this is neither &quot;key: value&quot; nor continues it</source>
+        <translation>ceci n’est ni «&#xa0;clé: valeur&#xa0;» ni sa suite</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the value cannot be read</source>
+        <translation>la valeur est illisible</translation>
     </message>
 </context>
 <context>
