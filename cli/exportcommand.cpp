@@ -1,5 +1,7 @@
 #include "inputs.h"
 
+#include "core/mrvcoreutil.h"
+#include "epub/mrvepubcheck.h"
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
@@ -18,20 +20,58 @@ namespace {
 
 const QLatin1String StandardOutput("-");
 
+// Those that e-books alone have a use for, as check.
+constexpr Option bookOptions[] = {
+    Option::name("css", "FILE", "A style sheet, in the place of --css-base."),
+    Option::choice("css-base", "NAME", "none classic modern",
+                   "The typography: classic (default; indented paragraphs), modern (spaced ones) "
+                   "or none."),
+    Option::choice("notes", "PLACE", "chapter book",
+                   "Where notes stand: after each chapter (default) or at the end of the book."),
+    Option::flag("comments-as-notes", "Make notes of annotations within the text."),
+    Option::integer("toc-depth", "N", 1, 6, "Levels of headings in the contents. Default: all."),
+    Option::choice("epub-version", "N", "2 3", "3 (default) or 2."),
+    Option::name("date", "TIME",
+                 "The date of modification (ISO 8601; UTC unless it says otherwise), for e-books "
+                 "that are the same byte for byte. Default: SOURCE_DATE_EPOCH (seconds since "
+                 "1970), else now."),
+    Option::name("cover", "FILE", "A picture for the cover page."),
+    Option::name("metadata", "FILE",
+                 "Lines such as \"publisher: NAME\", by the names of the options that follow. What "
+                 "they do not say, this file does, and else the manuscript."),
+};
+
+constexpr Option metadataOptions[] = {
+    Option::text("subtitle", "TEXT", "The subtitle."),
+    Option::text("author", "NAME",
+                 "An author; \"NAME | FORM\" also says how lists file the name, as Marrable, Ilse.")
+        .repeated(),
+    Option::text("contributor", "ROLE:NAME",
+                 "Another person, by a MARC code or its name: \"translator:Ann Lee\".")
+        .repeated(),
+    Option::text("identifier", "URI",
+                 "An identifier. Default: that of the ISBN, else computed from the content."),
+    Option::text("isbn", "NUMBER", "The ISBN of this e-book."),
+    Option::text("publisher", "NAME", "The publisher."),
+    Option::text("published", "DATE", "When it was published: a year, a month or a day."),
+    Option::text("description", "TEXT", "What the book is about."),
+    Option::text("rights", "TEXT", "Copyright and licence."),
+    Option::text("series", "NAME", "The series that it is part of."),
+    Option::text("series-number", "N", "Its number in the series."),
+    Option::text("subject", "TEXT", "What shelf it belongs on.").repeated(),
+    Option::text("source", "TEXT", "The edition whose page numbers it has, such as its ISBN."),
+};
+
 // What a call asks for, checked.
 struct Options
 {
     MRVTextXhtmlExporter::ExportType type = MRVTextXhtmlExporter::Html;
     InputOptions input;
     MRVEPubMetadata metadata;
+    MRVEPubOptions book;
 
     bool isPackage() const { return type == MRVTextXhtmlExporter::EPub; }
 };
-
-// Options that only pages, or only packages, have a use for.
-constexpr const char pagesOnly[] = "no-images";
-constexpr const char packagesOnly[] =
-    "author identifier publisher description rights cover date epub-version";
 
 // -1 to go on, else the exit code; so with all that follow.
 int readType(const Call &call, Options *options)
@@ -40,31 +80,58 @@ int readType(const Call &call, Options *options)
         return usageError(
             QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
     }
-    const bool package = options->isPackage();
-    const QStringList useless = words(package ? pagesOnly : packagesOnly);
-    for (const QString &option : useless) {
+    QStringList useless{QStringLiteral("no-images")};
+    if (!options->isPackage()) {
+        useless = QStringList{QStringLiteral("check")};
+        for (const Rows<Option> &rows :
+             {Rows<Option>(bookOptions), Rows<Option>(metadataOptions)}) {
+            for (const Option &row : rows) {
+                useless.append(QLatin1String(row.names));
+            }
+        }
+    }
+    for (const QString &option : qAsConst(useless)) {
         if (call.has(option.toLatin1().constData())) {
-            return usageError(QStringLiteral("--%1 is for %2 only")
-                                  .arg(option, QLatin1String(package ? "pages" : "e-books")));
+            return usageError(
+                QStringLiteral("--%1 is for %2 only")
+                    .arg(option, QLatin1String(options->isPackage() ? "pages" : "e-books")));
         }
     }
     return -1;
 }
 
+// A choice by its place in its list.
+template<typename Choice>
+Choice chosen(const Call &call, const char *option, const char *choices, Choice otherwise)
+{
+    return call.has(option) ? Choice(words(choices).indexOf(call.value(option))) : otherwise;
+}
+
+bool readBook(const Call &call, Options *options, QString *error)
+{
+    MRVEPubOptions &book = options->book;
+    book.styleBase = chosen(call, "css-base", "none classic modern", book.styleBase);
+    book.notes = chosen(call, "notes", "chapter book", book.notes);
+    book.commentsAsNotes = call.has("comments-as-notes");
+    book.contentsDepth = int(call.number("toc-depth", 0));
+    for (const Option &row : metadataOptions) {
+        for (const QString &value : call.values(row.names)) {
+            if (!options->metadata.set(QLatin1String(row.names), value, error)) {
+                return false;
+            }
+        }
+    }
+    return MRVFixedDate::fromTextOrEnvironment(call.value("date"), &options->metadata.modified,
+                                               error);
+}
+
 int readMetadata(const Call &call, Options *options)
 {
-    MRVEPubMetadata &metadata = options->metadata;
-    metadata.title = call.value("title");
-    metadata.authors = call.values("author");
-    metadata.identifier = call.value("identifier");
-    metadata.publisher = call.value("publisher");
-    metadata.description = call.value("description");
-    metadata.rights = call.value("rights");
+    options->metadata.title = call.value("title");
     QString error;
-    const bool ok = readLanguage(call, &metadata.language, &error)
+    const bool ok = readLanguage(call, &options->metadata.language, &error)
         && readMarkdownSyntax(call, call.arguments, &options->input.markdown, &error)
-        && (!options->isPackage()
-            || MRVFixedDate::fromTextOrEnvironment(call.value("date"), &metadata.modified, &error));
+        && (!options->isPackage() || readBook(call, options, &error));
     return ok ? -1 : usageError(error);
 }
 
@@ -199,17 +266,43 @@ bool writePackage(const MRVEPubPackage &package, const QString &file, QString *e
     return MRVStagedFiles::write(content, file, error);
 }
 
+bool readStyleSheet(const QString &file, QByteArray *sheet, QString *error)
+{
+    *sheet = file.isEmpty() ? QByteArray() : MRVCoreUtil::ReadBinaryFile(file, error);
+    return error->isEmpty();
+}
+
+// From the options, then the file, then the manuscript.
+bool completeMetadata(const Call &call, const MRVManuscript &manuscript, MRVEPubMetadata *metadata,
+                      QString *error)
+{
+    QStringList notes;
+    if ((call.has("cover") && !metadata->readCover(call.value("cover"), error))
+        || (call.has("metadata") && !metadata->readFile(call.value("metadata"), &notes, error))) {
+        return false;
+    }
+    metadata->completeFrom(manuscript, &notes);
+    if (metadata->language.isEmpty()) {
+        notes.append(QStringLiteral("the language of the book is unknown; say it with --language"));
+    }
+    for (const QString &note : qAsConst(notes)) {
+        printError(QStringLiteral("note: %1").arg(note));
+    }
+    return true;
+}
+
 bool exportPackage(const Call &call, const Options &options,
                    const std::vector<MRVManuscript> &manuscripts, const QString &file,
                    QStringList *written, QString *error)
 {
     MRVEPubMetadata metadata = options.metadata;
-    metadata.completeFrom(manuscripts.front());
-    if (call.has("cover") && !metadata.readCover(call.value("cover"), error)) {
+    MRVEPubOptions book = options.book;
+    if (!completeMetadata(call, manuscripts.front(), &metadata, error)
+        || !readStyleSheet(call.value("css"), &book.styleSheet, error)) {
         return false;
     }
     const bool isOld = call.value("epub-version") == QLatin1String("2");
-    MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata);
+    MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata, book);
     QVector<const QTextDocument *> documents;
     for (const MRVManuscript &manuscript : manuscripts) {
         showProgress(QStringLiteral("Adding %1").arg(manuscript.path));
@@ -219,6 +312,12 @@ bool exportPackage(const Call &call, const Options &options,
         documents.append(manuscript.document.get());
     }
     if (!acceptLosses(options, package.losses(documents), error)) {
+        return false;
+    }
+    const QStringList silent = options.input.strict ? package.picturesWithoutText() : QStringList();
+    if (!silent.isEmpty()) {
+        *error = QStringLiteral("no alternative text: ")
+            + silent.join(QLatin1String("\nno alternative text: "));
         return false;
     }
     if (!writePackage(package, file, error)) {
@@ -248,8 +347,31 @@ QJsonArray unreadablePictures(const std::vector<MRVManuscript> &manuscripts)
     return pictures;
 }
 
-void report(const Call &call, const std::vector<MRVManuscript> &manuscripts,
-            const QStringList &written)
+// Validates e-books. @return Done, or Failed where there is something wrong.
+int check(const Call &call, const QStringList &books, QJsonObject *answer)
+{
+    QJsonArray all;
+    for (const QString &book : books) {
+        QVector<MRVEPubFinding> findings;
+        QString error;
+        showProgress(QStringLiteral("Checking %1").arg(book));
+        if (!MRVEPubCheck::check(book, &findings, &error)) {
+            return refuse(error);
+        }
+        showProgress(QString());
+        for (const MRVEPubFinding &finding : qAsConst(findings)) {
+            all.append(finding.toJson(book));
+            if (!call.json()) {
+                printLine(finding.toString(book));
+            }
+        }
+    }
+    answer->insert(QStringLiteral("findings"), all);
+    return all.isEmpty() ? Done : Failed;
+}
+
+int report(const Call &call, const std::vector<MRVManuscript> &manuscripts,
+           const QStringList &written)
 {
     QJsonArray files;
     QMap<QString, int> pictures; // by folder
@@ -265,14 +387,31 @@ void report(const Call &call, const std::vector<MRVManuscript> &manuscripts,
     for (auto it = pictures.constBegin(); it != pictures.constEnd() && !call.json(); ++it) {
         printLine(QStringLiteral("%1/ (pictures: %2)").arg(it.key(), QString::number(it.value())));
     }
+    QJsonObject answer{{QStringLiteral("files"), files},
+                       {QStringLiteral("missingPictures"), unreadablePictures(manuscripts)}};
+    const int code = call.has("check") ? check(call, written, &answer) : int(Done);
     if (call.json()) {
-        printJson({{QStringLiteral("files"), files},
-                   {QStringLiteral("missingPictures"), unreadablePictures(manuscripts)}});
+        printJson(answer);
     }
+    return code;
+}
+
+// --check alone: the inputs are e-books.
+int checkInputs(const Call &call)
+{
+    QJsonObject answer;
+    const int code = check(call, call.arguments, &answer);
+    if (call.json() && !answer.isEmpty()) {
+        printJson(answer);
+    }
+    return code;
 }
 
 int run(const Call &call)
 {
+    if (call.has("check") && !call.has("to")) {
+        return checkInputs(call);
+    }
     Options options;
     int code = readOptions(call, &options);
     if (code >= 0) {
@@ -294,10 +433,7 @@ int run(const Call &call)
         return refuse(error);
     }
     showProgress(QString());
-    if (outputs.constFirst() != StandardOutput) {
-        report(call, manuscripts, written);
-    }
-    return Done;
+    return outputs.constFirst() == StandardOutput ? int(Done) : report(call, manuscripts, written);
 }
 
 constexpr Verb verbs[] = {{"", "IN...", "", run}};
@@ -315,30 +451,14 @@ constexpr Option options[] = {
     missingPictures(),
     Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
     Option::text("language", "TAG",
-                 "The language, such as en-GB. Default: that of the manuscript, else, for e-books, "
-                 "that of the locale."),
+                 "The language, such as en-GB. Default: that of the manuscript."),
     Option::flag("no-images",
                  "Leave pictures where they are, and what refers to them. (Pages only.)"),
     Option::flag("json", "Print as JSON what was written; nothing when that is standard output."),
-};
-
-constexpr Option metadata[] = {
-    Option::text("author", "NAME",
-                 "An author. Default: what HTML says in its head. (E-books only, as all that "
-                 "follow.)")
-        .repeated(),
-    Option::text("identifier", "URI",
-                 "An identifier such as urn:isbn:... Default: computed from the content."),
-    Option::text("publisher", "NAME", "The publisher."),
-    Option::text("description", "TEXT",
-                 "What the book is about. Default: what HTML says in its head."),
-    Option::text("rights", "TEXT", "Copyright and licence."),
-    Option::name("cover", "FILE", "A picture for the cover page."),
-    Option::name("date", "TIME",
-                 "The date of modification (ISO 8601; UTC unless it says otherwise), for e-books "
-                 "that are the same byte for byte. Default: SOURCE_DATE_EPOCH (seconds since "
-                 "1970), else now."),
-    Option::choice("epub-version", "N", "2 3", "3 (default) or 2."),
+    Option::flag("check",
+                 "Check e-books by epubcheck: with --to epub the one that is written, else the "
+                 "inputs. What is wrong is printed, and the exit code is 1. (E-books only, as all "
+                 "that follow.)"),
 };
 
 } // namespace
@@ -353,5 +473,5 @@ const Command exportCommand = {
     "export one.md two.md --to epub --title \"Both\" -o both.epub\n"
     "export notes.md --to xhtml -o site/notes.xhtml",
     verbs,
-    {options, metadata},
+    {options, bookOptions, metadataOptions},
 };
