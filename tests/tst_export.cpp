@@ -502,6 +502,24 @@ private Q_SLOTS:
         QCOMPARE(second.toText(X::EPub), page);
         QCOMPARE(second.styles(), first.styles());
     }
+
+    // A format that the text has no longer would write them again.
+    void namesOfAnchors()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        QTextCharFormat format;
+        format.setAnchor(true);
+        format.setAnchorNames({"a", "b", "c"});
+        cursor.insertText("x", format);
+        cursor.select(QTextCursor::Document);
+        format.setFontWeight(QFont::Bold);
+        cursor.mergeCharFormat(format);
+        const QString html = MRVTextXhtmlExporter(&document).toText(MRVTextXhtmlExporter::Html);
+        for (const QString name : {"a", "b", "c"}) {
+            QCOMPARE(html.count("<a name=\"" + name + "\"></a>"), 1);
+        }
+    }
 };
 
 QTEST_MAIN(tst_Export)

@@ -3,6 +3,8 @@
 #include "textformat/mrvtextblockformat.h"
 
 #include <QHash>
+#include <QPair>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -197,11 +199,17 @@ QString anchorHtml(const QString &name)
 QString withAllNames(const QString &html, const QTextDocument &document)
 {
     QHash<QString, QString> others; // by the first name, both as HTML
+    QSet<QPair<QString, QString>> known;
     const QVector<QTextFormat> formats = document.allFormats();
     for (const QTextFormat &format : formats) {
         const QStringList names = format.toCharFormat().anchorNames();
         for (int i = 1; i < names.size(); ++i) {
-            others[anchorHtml(names.constFirst())] += anchorHtml(names.at(i));
+            // A document keeps formats that its text no longer has.
+            const QPair<QString, QString> pair(names.constFirst(), names.at(i));
+            if (!known.contains(pair)) {
+                known.insert(pair);
+                others[anchorHtml(pair.first)] += anchorHtml(pair.second);
+            }
         }
     }
     if (others.isEmpty()) {
