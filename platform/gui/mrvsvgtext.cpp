@@ -59,10 +59,11 @@ bool isWithin(const QString &reference)
 // Without style sheets, fonts and pictures that it would fetch.
 QString guardedCss(QString css)
 {
-    static const QRegularExpression outside(
-        QStringLiteral("@import[^;]*;?|url\\((?!\\s*[\"']?\\s*#)[^)]*\\)?"),
-        QRegularExpression::CaseInsensitiveOption);
-    return css.replace(outside, QStringLiteral("none"));
+    static const QRegularExpression import(QStringLiteral("@import[^;]*;?"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression outside(QStringLiteral("url\\((?!\\s*[\"']?\\s*#)[^)]*\\)?"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return css.remove(import).replace(outside, QStringLiteral("none"));
 }
 
 // Elements that do things: scripts, handlers of events, and animations that set a reference.
