@@ -19,8 +19,6 @@
 
 namespace {
 
-const QLatin1String NotesPage("notes.xhtml");
-
 bool isRemote(const QString &id)
 {
     const QString scheme = QUrl(id).scheme();
@@ -115,6 +113,39 @@ void MRVEPubBook::addPage(const MRVEPubPage &page)
     pages.insert(pages.size() - (hasNotes ? 1 : 0), page);
 }
 
+void MRVEPubBook::addTitlePage()
+{
+    const bool hasTitle = !pages.isEmpty()
+        && (pages.constFirst().type == QLatin1String("titlepage")
+            || pages.constFirst().title.compare(title(), Qt::CaseInsensitive) == 0);
+    if (hasTitle || metadata.title.isEmpty()) {
+        return;
+    }
+    MRVEPubPage page;
+    page.fileName = QStringLiteral("title.xhtml");
+    page.title = title();
+    page.type = QStringLiteral("titlepage");
+    page.body = titleBody();
+    pages.prepend(page);
+}
+
+QByteArray MRVEPubBook::titleBody() const
+{
+    const bool isEPub3 = version == MRVEPubVersion::EPub3;
+    QByteArray body =
+        isEPub3 ? "<section class=\"cover\" epub:type=\"titlepage\">\n" : "<div class=\"cover\">\n";
+    body += "<h1 class=\"cover-title\">" + mrvEPubValue(title()) + "</h1>\n";
+    const QStringList names = authors();
+    for (const QString &author : names) {
+        body += "<p class=\"cover-author\">" + mrvEPubValue(author) + "</p>\n";
+    }
+    const QString publisher = mrvXmlText(metadata.publisher).simplified();
+    if (!publisher.isEmpty()) {
+        body += "<p class=\"cover-publisher\">" + mrvEPubValue(publisher) + "</p>\n";
+    }
+    return body + (isEPub3 ? "</section>\n" : "</div>\n");
+}
+
 void MRVEPubBook::addNotes(const MRVEPubPage &page)
 {
     if (pages.isEmpty() || pages.constLast().fileName != page.fileName) {
@@ -145,9 +176,17 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
             entries.append(entry);
         }
     }
-    for (int i = 0; headings.isEmpty() && i < pages.size(); ++i) {
-        const QString text = pages.size() == 1 ? title() : MRVEPubBook::tr("Section %1").arg(i + 1);
-        entries.append({text, pages.at(i).fileName, 0});
+    if (!headings.isEmpty()) {
+        return entries;
+    }
+    for (const MRVEPubPage &page : pages) {
+        if (page.type != QLatin1String("titlepage") && page.fileName != NotesPage) {
+            const QString text = MRVEPubBook::tr("Section %1").arg(entries.size() + 1);
+            entries.append({text, page.fileName, 0});
+        }
+    }
+    if (entries.size() == 1) {
+        entries.first().text = title();
     }
     return entries;
 }
@@ -210,6 +249,9 @@ QByteArray MRVEPubBook::classAttribute(const MRVEPubPage &page, const MRVEPubHol
     if (hole.flags & (MRVEPubHole::Open | MRVEPubHole::Done)) {
         add(hole.flags & MRVEPubHole::Done ? "checked" : "unchecked");
     }
+    if (hole.flags & MRVEPubHole::SceneBreak) {
+        add("scene-break");
+    }
     return names.isEmpty() ? names : " class=\"" + names + '"';
 }
 
@@ -217,7 +259,10 @@ QByteArray MRVEPubBook::classAttribute(const MRVEPubPage &page, const MRVEPubHol
 QByteArray MRVEPubBook::linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const
 {
     const MRVEPubAddress &link = links.at(hole.value);
-    const QString target = resolved(link.address, link.document);
+    QString target = resolved(link.address, link.document);
+    if (target.startsWith(page.fileName + u'#')) {
+        target.remove(0, page.fileName.size());
+    }
     const QByteArray attributes = hole.extra < 0 ? QByteArray() : page.attributes.at(hole.extra);
     const bool hasElement = attributes.startsWith(" id=");
     if (hole.kind == MRVEPubHole::LinkEnd) {
@@ -259,26 +304,13 @@ QString MRVEPubBook::framed(const QString &pageTitle, const QString &bodyTag,
 
 QByteArray MRVEPubBook::coverBytes() const
 {
-    QString body;
-    const QString shownTitle = title().toHtmlEscaped();
-    if (!metadata.cover.isEmpty()) {
-        body = QLatin1String("\n<div class=\"cover\"><img src=\"") + pictures.constFirst().path
-            + QLatin1String("\" alt=\"") + shownTitle + QLatin1String("\" /></div>\n");
-    } else {
-        body = QLatin1String("\n<div class=\"cover\">\n<h1 class=\"cover-title\">") + shownTitle
-            + QLatin1String("</h1>\n");
-        const QStringList names = authors();
-        for (const QString &author : names) {
-            body += QLatin1String("<p class=\"cover-author\">") + author.toHtmlEscaped()
-                + QLatin1String("</p>\n");
-        }
-        body += QLatin1String("</div>\n");
-    }
-    const bool html5 = version == MRVEPubVersion::EPub3;
-    return framed(title(),
-                  html5 ? QStringLiteral("<body epub:type=\"cover\">") : QStringLiteral("<body>"),
-                  body)
-        .toUtf8();
+    const QByteArray body = metadata.cover.isEmpty()
+        ? titleBody()
+        : "<div class=\"cover\"><img src=\"" + mrvEPubValue(pictures.constFirst().path)
+            + "\" alt=\"" + mrvEPubValue(title()) + "\" /></div>\n";
+    const bool isEPub3 = version == MRVEPubVersion::EPub3;
+    return head(title()).toUtf8() + (isEPub3 ? "<body epub:type=\"cover\">\n" : "<body>\n") + body
+        + "</body>\n</html>\n";
 }
 
 QByteArray MRVEPubBook::styleSheet() const

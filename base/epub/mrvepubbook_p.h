@@ -31,7 +31,7 @@ struct MRVEPubPageBreak
 struct MRVEPubHole
 {
     enum Kind { Class, LinkBegin, LinkEnd };
-    enum Flag { Spaced = 1, Open = 2, Done = 4 }; // further classes; the last two of tasks
+    enum Flag { Spaced = 1, Open = 2, Done = 4, SceneBreak = 8 }; // further classes
 
     int offset; // in the page's body
     Kind kind;
@@ -85,6 +85,8 @@ struct MRVEPubBook
     Q_DECLARE_TR_FUNCTIONS(MRVEPubBook)
 
 public:
+    static constexpr QLatin1String NotesPage{"notes.xhtml"}; // of the whole book
+
     MRVEPubVersion version = MRVEPubVersion::EPub3;
     MRVEPubMetadata metadata;
     MRVEPubOptions options;
@@ -103,6 +105,7 @@ public:
     QVector<MRVEPubPageBreak> pageBreaks; // in reading order
     QStringList languages; // of the text, beside the book's own, each once
     int notes = 0; // that are linked with a mark
+    int comments = 0; // that became notes
 
     /**
      * Adds the cover's picture, which has to come before all others; one that readers cannot show
@@ -137,6 +140,8 @@ public:
     QString language() const;
 
     void addPage(const MRVEPubPage &page);
+    /** Adds a title page from the metadata before all others, where the book begins with none. */
+    void addTitlePage();
     /** Adds to the page of notes, which is the last one. */
     void addNotes(const MRVEPubPage &page);
 
@@ -148,6 +153,7 @@ private:
     QByteArray classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const;
     QByteArray linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const;
     QString head(const QString &title) const;
+    QByteArray titleBody() const;
 };
 
 /** The package document: metadata, the list of files and the reading order. */

@@ -39,7 +39,9 @@ void writeManifest(QXmlStreamWriter *xml, const MRVEPubBook &book)
               QStringLiteral("application/x-dtbncx+xml"));
     writeItem(xml, QStringLiteral("css"), QStringLiteral("css/stylesheet.css"),
               QStringLiteral("text/css"));
-    writeItem(xml, QStringLiteral("cover"), QStringLiteral("cover.xhtml"), xhtml);
+    if (book.hasCoverPage()) {
+        writeItem(xml, QStringLiteral("cover"), QStringLiteral("cover.xhtml"), xhtml);
+    }
     for (int i = 0; i < book.pages.size(); ++i) {
         writeItem(xml, pageId(i), book.pages.at(i).fileName, xhtml);
     }
@@ -60,16 +62,19 @@ void writeSpine(QXmlStreamWriter *xml, const MRVEPubBook &book)
     if (book.version == MRVEPubVersion::EPub3 && rightToLeft) {
         xml->writeAttribute(QStringLiteral("page-progression-direction"), QStringLiteral("rtl"));
     }
-    QStringList ids{QStringLiteral("cover")};
+    QStringList ids;
     for (int i = 0; i < book.pages.size(); ++i) {
         ids.append(pageId(i));
     }
     if (book.version == MRVEPubVersion::EPub3) {
-        ids.insert(1 + mrvEPubContentsPlace(book), QStringLiteral("nav"));
+        ids.insert(mrvEPubContentsPlace(book), QStringLiteral("nav"));
+    }
+    if (book.hasCoverPage()) {
+        ids.prepend(QStringLiteral("cover"));
     }
     const auto notes =
         std::find_if(book.pages.begin(), book.pages.end(), [](const MRVEPubPage &page) {
-            return page.type == QLatin1String("endnotes");
+            return page.fileName == MRVEPubBook::NotesPage;
         });
     const QString notesId = pageId(int(notes - book.pages.begin()));
     for (const QString &id : qAsConst(ids)) {

@@ -141,6 +141,13 @@ void MRVEPubFlow::readFrames()
     std::sort(frames.begin(), frames.end(), [](const MRVEPubFrame &one, const MRVEPubFrame &other) {
         return one.begin < other.begin;
     });
+    m_isInFrame.resize(count() + 1);
+    int done = 0;
+    for (const MRVEPubFrame &frame : qAsConst(frames)) {
+        for (done = qMax(done, frame.begin); done < frame.end; ++done) {
+            m_isInFrame[done] = true;
+        }
+    }
 }
 
 int MRVEPubFlow::paragraphAt(int position) const

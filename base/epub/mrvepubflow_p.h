@@ -81,8 +81,12 @@ public:
     /** Whether a paragraph shows nothing: no text but blanks, no picture, no rule. */
     bool isBlank(int paragraph) const;
     bool hasRule(int paragraph) const;
+    /** Whether a paragraph stands in a table or a frame. */
+    bool isInFrame(int paragraph) const { return m_isInFrame.at(paragraph); }
 
 private:
     struct Reader;
     void readFrames();
+
+    QVector<bool> m_isInFrame;
 };

@@ -32,6 +32,24 @@ const ListType &listType(QTextListFormat::Style style)
     return row == std::end(listTypes) ? listTypes[0] : *row;
 }
 
+// Whether a paragraph holds marks such as "* * *" and nothing else.
+bool isSceneBreak(QStringView text)
+{
+    constexpr int Longest = 20;
+    constexpr ushort marks[] = {'*',    '#',    '~',    '-',    '+',    0x2022,
+                                0x2013, 0x2014, 0x2042, 0x2766, 0x2767, 0xb7};
+    bool isBreak = text.size() <= Longest;
+    bool hasMark = false;
+    for (int i = 0; i < text.size() && isBreak; ++i) {
+        const bool isMark =
+            std::find(std::begin(marks), std::end(marks), text[i].unicode()) != std::end(marks);
+        hasMark = hasMark || isMark;
+        isBreak = isMark || text[i].isSpace();
+    }
+    return isBreak && hasMark;
+}
+
+constexpr int NarrowestFigure = 150; // pixels
 constexpr int FigurePixels = 40; // the margins of a figure, on both sides
 
 } // namespace
@@ -234,8 +252,10 @@ void MRVEPubWriter::openItem(const MRVEPubParagraph &paragraph,
     Container &list = m_containers.last();
     const int index = int(&paragraph - m_flow.paragraphs.constData());
     MRVEPubContext context;
-    const int look =
-        m_book.looks.add(m_formats.look(index, MRVEPubKind::Item, list.depth, &context));
+    MRVEPubParagraphLook own = m_formats.look(index, MRVEPubKind::Item, list.depth, &context);
+    // Space around items is the list's, which gave it to the first and the last one.
+    own[MRVEPubParagraphLook::Top] = own[MRVEPubParagraphLook::Bottom] = 0;
+    const int look = m_book.looks.add(own);
     m_out.append(QLatin1String("<li"));
     m_itemHole = writeClass(look);
     const bool isNumbered = list.style <= QTextListFormat::ListDecimal;
@@ -297,10 +317,18 @@ void MRVEPubWriter::writeAttributes(int paragraph, const MRVEPubContext &context
 void MRVEPubWriter::writeParagraph(int paragraph, MRVEPubKind kind, const char *element)
 {
     MRVEPubContext context;
-    const int look = m_book.looks.add(m_formats.look(paragraph, kind, usedIndent(), &context));
+    MRVEPubParagraphLook look = m_formats.look(paragraph, kind, usedIndent(), &context);
+    if (usedIndent() > 0) { // as with the items themselves
+        const MRVEPubParagraphLook plain = mrvEPubPlainLook(kind);
+        look[MRVEPubParagraphLook::Top] = plain[MRVEPubParagraphLook::Top];
+        look[MRVEPubParagraphLook::Bottom] = plain[MRVEPubParagraphLook::Bottom];
+    }
     m_out.append('<');
     m_out.append(QLatin1String(element));
-    const int hole = writeClass(look);
+    const int hole = writeClass(m_book.looks.add(look));
+    if (isSceneBreak(m_flow.textOf(m_flow.paragraphs.at(paragraph)))) {
+        m_page.holes[hole].flags |= MRVEPubHole::SceneBreak;
+    }
     writeAttributes(paragraph, context, QByteArray());
     m_out.append('>');
     m_page.holes[hole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
@@ -391,8 +419,9 @@ bool MRVEPubWriter::isPicture(int paragraph) const
         const QTextFormat &format = m_flow.formats.at(fragment.format);
         if (format.isImageFormat()) {
             hasPicture = true;
-            if (format.objectIndex() >= 0) {
-                return false; // text flows around it
+            const int width = qRound(format.doubleProperty(QTextFormat::ImageWidth));
+            if (format.objectIndex() >= 0 || (width > 0 && width < NarrowestFigure)) {
+                return false; // text flows around it, or it is an initial or an ornament
             }
         } else if (!QStringView(m_flow.text).mid(position, fragment.length).trimmed().isEmpty()) {
             return false;

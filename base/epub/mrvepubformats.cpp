@@ -141,6 +141,9 @@ const MRVEPubTextFormat &MRVEPubFormats::text(int index)
     MRVEPubTextFormat &format = m_texts[index];
     if (!format.isKnown) {
         format = readText(m_flow.formats.at(index).toCharFormat());
+        if (!format.language.isEmpty() && !m_languages.contains(format.language)) {
+            m_languages.append(format.language);
+        }
     }
     return format;
 }
@@ -251,7 +254,8 @@ MRVEPubParagraphFormat MRVEPubFormats::readParagraph(const QTextBlockFormat &for
     }
     const double quoted = QuotePixels * paragraph.quoteLevel;
     const double scale = 16 / m_bodyPixels;
-    const auto length = [scale](double pixels) { return hundredths(pixels * scale); };
+    // Until the size of the text is known, as if it were the body's.
+    const auto length = [scale](double pixels) { return mrvEPubLength(pixels * scale, 100); };
     look[Look::Indent] = length(format.textIndent());
     look[Look::Top] = length(format.topMargin());
     look[Look::Bottom] = length(format.bottomMargin());
@@ -303,7 +307,7 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     const MRVEPubParagraphFormat &format = this->paragraph(place.format);
     Look look = format.look;
     look.kind = kind;
-    look[Look::Left] += hundredths(qMax(0, format.indent - usedIndent) * IndentPixels);
+    look[Look::Left] += mrvEPubLength(qMax(0, format.indent - usedIndent) * IndentPixels, 100);
     // What all of the text has in common is the paragraph's.
     int size = 0;
     bool isBold = false;
@@ -326,6 +330,9 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     }
     const bool isHeading = kind >= MRVEPubKind::Heading1 && kind <= MRVEPubKind::Heading6;
     look[Look::Size] = isFirst ? mrvEPubPlainLook(kind)[Look::Size] : qMax(1, size);
+    for (const auto value : {Look::Indent, Look::Top, Look::Right, Look::Bottom, Look::Left}) {
+        look[value] = int(std::lround(look[value] * 100.0 / look[Look::Size]));
+    }
     look[Look::Weight] = isHeading && !isFirst && !isBold ? 1 : 0;
     context->size = look[Look::Size];
     context->isBold = isHeading && (isFirst || isBold);

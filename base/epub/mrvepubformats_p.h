@@ -68,6 +68,8 @@ public:
                               MRVEPubContext *context);
     /** Attributes of the span that a text needs beside its elements; empty: none. */
     const QByteArray &span(int index, const MRVEPubContext &context);
+    /** Languages of text that was looked at, beside the book's own, in order of appearance. */
+    QStringList languages() const { return m_languages; }
     double bodyPixels() const { return m_bodyPixels; }
 
 private:
@@ -92,6 +94,7 @@ private:
     double m_bodyPixels = 16;
     QRgb m_ink = 0xff000000;
     QStringList m_families; // of the body
+    QStringList m_languages;
     QVector<MRVEPubTextFormat> m_texts;
     QVector<MRVEPubParagraphFormat> m_paragraphs;
     QVector<Spans> m_spans;

@@ -3,13 +3,13 @@
 #include <QColor>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 using Look = MRVEPubParagraphLook;
 using Text = MRVEPubTextLook;
 
-constexpr int Pixel = 100;
 constexpr int BodyPixels = 16;
 
 // clang-format off
@@ -47,9 +47,9 @@ QByteArray number(double value)
     return text == "-0" ? QByteArray("0") : text;
 }
 
-QByteArray em(int hundredths, int size)
+QByteArray em(int thousandths)
 {
-    const QByteArray length = number(hundredths * 100.0 / size / Pixel / BodyPixels);
+    const QByteArray length = number(thousandths / 1000.0);
     return length == "0" ? length : length + "em";
 }
 
@@ -132,13 +132,19 @@ uint qHash(const MRVEPubTextLook &look, uint seed)
     return hashOf(look.values, seed);
 }
 
+int mrvEPubLength(double pixels, int size)
+{
+    return int(std::lround(pixels * 1000 * 100 / BodyPixels / size));
+}
+
 MRVEPubParagraphLook mrvEPubPlainLook(MRVEPubKind kind)
 {
     Look look;
     look.kind = kind;
-    look[Look::Top] = kinds[int(kind)].top * Pixel;
-    look[Look::Bottom] = kinds[int(kind)].bottom * Pixel;
-    look[Look::Size] = kinds[int(kind)].size;
+    const auto &row = kinds[int(kind)];
+    look[Look::Size] = row.size;
+    look[Look::Top] = mrvEPubLength(row.top, row.size);
+    look[Look::Bottom] = mrvEPubLength(row.bottom, row.size);
     return look;
 }
 
@@ -258,11 +264,13 @@ QByteArray MRVEPubLooks::declarations(const MRVEPubParagraphLook &look,
     for (const auto &length : lengths) {
         // The base indents paragraphs, which these are not meant for.
         const bool resets = length.value == Look::Indent && look[length.value] == 0
-            && (isSet || look[Look::Left] > 0);
-        // A length in em means another one where the text has another size.
-        const bool scales = look[Look::Size] != usual[Look::Size] && usual[length.value] != 0;
-        if (look[length.value] != usual[length.value] || resets || scales) {
-            text += declaration(length.property, em(look[length.value], look[Look::Size]));
+            && look.kind == MRVEPubKind::Paragraph && (isSet || look[Look::Left] > 0);
+        if (look[length.value] != usual[length.value] || resets) {
+            QByteArray property = length.property;
+            if (look.kind == MRVEPubKind::Cell) { // which has no margins
+                property.replace("margin", "padding");
+            }
+            text += declaration(property.constData(), em(look[length.value]));
         }
     }
     if (look[Look::Size] != usual[Look::Size]) {

@@ -24,7 +24,7 @@ enum class MRVEPubKind {
 /** What one paragraph looks like, as numbers that compare. */
 struct MRVEPubParagraphLook
 {
-    // Lengths in hundredths of a pixel of the body's text, others in hundreds of what is usual.
+    // Lengths in thousandths of an em of the paragraph's own text, the rest in percent.
     enum Value {
         Align,
         Indent,
@@ -131,3 +131,5 @@ private:
 
 /** The look of a kind that a document which says nothing about it has. */
 MRVEPubParagraphLook mrvEPubPlainLook(MRVEPubKind kind);
+/** A length of a look: @p pixels where the body's text has 16, at a size in percent of it. */
+int mrvEPubLength(double pixels, int size);

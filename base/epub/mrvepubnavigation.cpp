@@ -242,8 +242,10 @@ int mrvEPubContentsPlace(const MRVEPubBook &book)
 
 QVector<MRVEPubLandmark> mrvEPubLandmarks(const MRVEPubBook &book)
 {
-    QVector<MRVEPubLandmark> marks{
-        {"cover", "cover", MRVEPubBook::tr("Cover"), QStringLiteral("cover.xhtml")}};
+    QVector<MRVEPubLandmark> marks;
+    if (book.hasCoverPage()) {
+        marks.append({"cover", "cover", MRVEPubBook::tr("Cover"), QStringLiteral("cover.xhtml")});
+    }
     const int contents = mrvEPubContentsPlace(book);
     int before = marks.size(); // those before the table of contents
     QStringList types;

@@ -100,7 +100,7 @@ struct MRVEPubNotes::Finder
     {
         const auto bound = std::upper_bound(bounds.begin(), bounds.end(), begin);
         int end = bound == bounds.end() ? most : qMin(most, *bound);
-        if (isInFrame(begin)) {
+        if (flow.isInFrame(begin)) {
             return begin + 1;
         }
         int last = begin + 1;
@@ -108,14 +108,6 @@ struct MRVEPubNotes::Finder
             ++last;
         }
         return last;
-    }
-
-    bool isInFrame(int paragraph) const
-    {
-        return std::any_of(flow.frames.begin(), flow.frames.end(),
-                           [paragraph](const MRVEPubFrame &frame) {
-                               return frame.begin <= paragraph && paragraph < frame.end;
-                           });
     }
 
     void addNote(int begin, int limit, const QVector<int> &marks)
@@ -141,7 +133,8 @@ struct MRVEPubNotes::Finder
             return;
         }
         const int mark = flow.paragraphAt(marks.constFirst());
-        MRVEPubNote note{begin, goesOnTo(begin, end, limit, mark), marks};
+        MRVEPubNote note{begin, goesOnTo(begin, end, limit, mark), marks,
+                         nameOf(marks.constFirst())};
         for (const int link : marks) {
             notes.m_marks.insert(link, notes.m_notes.size());
         }
@@ -150,6 +143,14 @@ struct MRVEPubNotes::Finder
         }
         notes.m_begins.insert(begin, notes.m_notes.size());
         notes.m_notes.append(note);
+    }
+
+    QString nameOf(int mark) const
+    {
+        const auto link = std::lower_bound(
+            flow.links.begin(), flow.links.end(), mark,
+            [](const MRVEPubLink &one, int position) { return one.begin < position; });
+        return link->address.mid(1);
     }
 
     bool leadsBack(const MRVEPubLink &link, const QVector<int> &marks) const
@@ -196,7 +197,7 @@ struct MRVEPubNotes::Finder
     {
         const MRVEPubParagraphFormat &format =
             formats.paragraph(flow.paragraphs.at(paragraph).format);
-        return format.look[MRVEPubParagraphLook::Left] + format.quoteLevel * 4000;
+        return format.look[MRVEPubParagraphLook::Left] + format.quoteLevel * 2500;
     }
 
     MRVEPubNotes &notes;
@@ -230,12 +231,8 @@ void MRVEPubNotes::place(const QVector<int> &pages)
             const int end = page + 1 < pages.size() ? pages.at(page + 1) : m_flow.count();
             ownPages.insert(page, isOnlyNotes(pages.at(page), end));
         }
-        const bool isInFrame = std::any_of(
-            m_flow.frames.begin(), m_flow.frames.end(), [&note](const MRVEPubFrame &frame) {
-                return frame.begin <= note.begin && note.begin < frame.end;
-            });
         const bool isElsewhere = pageOf(m_flow.paragraphAt(note.marks.constFirst())) != page;
-        note.isMoved = !isInFrame && !(ownPages.value(page) && isElsewhere);
+        note.isMoved = !m_flow.isInFrame(note.begin) && !(ownPages.value(page) && isElsewhere);
         for (int i = note.begin; note.isMoved && i < note.end; ++i) {
             m_isMoved[i] = true;
         }

@@ -13,6 +13,7 @@ struct MRVEPubNote
     int begin; // paragraphs, up to end
     int end;
     QVector<int> marks; // where their links begin
+    QString name; // of the anchor that they lead to
     int heading = -1; // the paragraph that heads the notes from this one on, and moves with it
     bool isMoved = false;
 };

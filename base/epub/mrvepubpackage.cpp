@@ -79,7 +79,9 @@ std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modif
     }
     add(Folder + QLatin1String("toc.ncx"), mrvEPubNcx(book, identifier));
     add(Folder + QLatin1String("css/stylesheet.css"), book.styleSheet());
-    add(Folder + QLatin1String("cover.xhtml"), book.coverBytes());
+    if (book.hasCoverPage()) {
+        add(Folder + QLatin1String("cover.xhtml"), book.coverBytes());
+    }
     for (const MRVEPubPage &page : book.pages) {
         files.push_back({Folder + page.fileName, MRVZipEntry::Deflated,
                          [&book, &page] { return book.pageBytes(page); }});

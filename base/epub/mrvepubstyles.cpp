@@ -17,6 +17,16 @@ p, li {
     widows: 2;
     orphans: 2;
 }
+ul, ol {
+    margin: 0.75em 0;
+    padding-left: 2em;
+}
+li > ul, li > ol {
+    margin: 0;
+}
+li > p {
+    margin: 0 0 0.5em;
+}
 blockquote {
     margin: 1em 2em;
 }
@@ -65,7 +75,7 @@ p {
     margin: 0;
     text-indent: 1.5em;
 }
-h1 + p, h2 + p, h3 + p, h4 + p, h5 + p, h6 + p, hr + p, .blank + p, figure + p, table + p,
+h1 + p, h2 + p, h3 + p, h4 + p, h5 + p, h6 + p, hr + p, .scene-break + p, .blank + p, figure + p, table + p,
 ul + p, ol + p, pre + p, div + p, section > p:first-child, aside > p:first-child,
 li > p, td > p, th > p {
     text-indent: 0;
@@ -137,6 +147,11 @@ table.ruled, table.ruled > * > tr > td, table.ruled > * > tr > th {
 td.covered {
     display: none;
 }
+.scene-break {
+    margin: 1em 0;
+    text-indent: 0;
+    text-align: center;
+}
 li.checked {
     list-style-type: "\2611\20";
 }
@@ -158,6 +173,10 @@ nav ol {
 }
 .cover-title {
     margin-top: 25%;
+}
+.cover-publisher {
+    margin-top: 6em;
+    text-indent: 0;
 }
 .cover-author {
     margin-top: 2em;

@@ -71,75 +71,89 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
     m_isAfterBlank = true;
     int position = place.position;
     for (int i = place.firstFragment; i < end; ++i) {
-        writeFragment(i, end, position, context);
+        if (m_book.options.commentsAsNotes
+            && m_formats.text(m_flow.fragments.at(i).format).isComment) {
+            const int last = writeCommentMark(i, end, position);
+            for (; i < last; ++i) {
+                position += m_flow.fragments.at(i).length;
+            }
+        } else {
+            writeFragment(i, end, position, context);
+        }
         position += m_flow.fragments.at(i).length;
     }
     closeElements(0);
     return m_isSpaced;
 }
 
+// Puts a mark in the place of an annotation; returns its last fragment.
+int MRVEPubWriter::writeCommentMark(int fragment, int end, int position)
+{
+    int last = fragment;
+    while (last + 1 < end && m_formats.text(m_flow.fragments.at(last + 1).format).isComment) {
+        ++last;
+    }
+    const int number = ++m_book.comments;
+    const QByteArray id = uniqueId(QStringLiteral("comment-%1").arg(number));
+    const QByteArray mark = uniqueId(QStringLiteral("comment-mark-%1").arg(number));
+    const bool isHere = m_book.options.notes == MRVEPubOptions::ChapterNotes;
+    const QString page = isHere ? QString() : QString(MRVEPubBook::NotesPage);
+    closeElements(0);
+    m_out.append("<a id=\"" + mark + '"');
+    m_out.append(element(" epub:type=\"noteref\" role=\"doc-noteref\"", ""));
+    m_out.append(" href=\"" + page.toUtf8() + '#' + id + "\">[" + QByteArray::number(number)
+                 + "]</a>");
+    m_comments.append({position, fragment, last + 1, number, id,
+                       (isHere ? QByteArray() : m_page.fileName.toUtf8()) + '#' + mark});
+    m_isAfterBlank = false;
+    return last;
+}
+
+void MRVEPubWriter::writeComment(const Comment &comment)
+{
+    m_out.append(
+        element("<aside epub:type=\"footnote\" role=\"doc-footnote\"", "<div class=\"note\""));
+    m_out.append(" id=\"" + comment.id + "\"><p>");
+    m_out.append(QLatin1String("<a"));
+    m_out.append(element(" role=\"doc-backlink\"", ""));
+    m_out.append(" href=\"" + comment.mark + "\">[" + QByteArray::number(comment.number)
+                 + "]</a> ");
+    int position = comment.position;
+    for (int i = comment.begin; i < comment.end; ++i) {
+        writeFragment(i, comment.end, position, MRVEPubContext());
+        position += m_flow.fragments.at(i).length;
+    }
+    closeElements(0);
+    m_out.append(QLatin1String("</p>"));
+    m_out.append(element("</aside>\n", "</div>\n"));
+}
+
 void MRVEPubWriter::writeFragment(int index, int end, int position, const MRVEPubContext &context)
 {
     const MRVEPubFragment &fragment = m_flow.fragments.at(index);
     const MRVEPubTextFormat &format = m_formats.text(fragment.format);
+    QByteArray id;
     if (format.hasNames) {
         writePageBreaks(fragment.format);
+        id = takeId(fragment.format);
     }
-    QByteArray id = format.hasNames ? takeId(fragment.format) : QByteArray();
-    const QByteArray &span = m_formats.span(fragment.format, context);
-    uint needed = format.elements;
-    needed |= format.isBold && !context.isBold ? bit(MRVEPubInline::Strong) : 0;
-    needed &= context.isCode ? ~bit(MRVEPubInline::Code) : ~0U;
-    const int link = format.address.isEmpty() ? -1 : linkNumber(format.address);
-    const auto isKept = [&](const Element &element) {
-        return element.kind == MRVEPubInline::Link ? element.link == link
-            : element.kind == MRVEPubInline::Span  ? element.attributes == span
-                                                   : bool(needed & bit(element.kind));
-    };
+    const Needs needs = needsOf(fragment.format, context);
     int kept = 0;
-    bool hasLink = false;
-    bool hasSpan = false;
-    uint open = 0;
-    for (; kept < m_elements.size() && isKept(m_elements.at(kept)); ++kept) {
-        const Element &element = m_elements.at(kept);
-        hasLink = hasLink || element.kind == MRVEPubInline::Link;
-        hasSpan = hasSpan || element.kind == MRVEPubInline::Span;
-        open |= bit(element.kind);
+    while (kept < m_elements.size() && needs.include(m_elements.at(kept))) {
+        ++kept;
     }
     closeElements(kept);
-    if (link >= 0 && !hasLink) {
-        const int common = commonElements(index, end, context);
-        if (common < kept) {
-            closeElements(common);
-            open = 0;
-            for (const Element &element : qAsConst(m_elements)) {
-                open |= bit(element.kind);
-            }
-            hasSpan = open & bit(MRVEPubInline::Span);
-        }
-        openLink(link, position, &id);
+    if (needs.elements & ~openElements() & bit(MRVEPubInline::Link)) {
+        closeElements(commonElements(index, end, context));
+        openLink(needs.link, position, &id);
     }
-    if (!id.isEmpty() && !format.isPicture) {
-        m_out.append("<span id=\"" + id + "\"></span>");
-    }
-    if (!span.isEmpty() && !hasSpan) {
-        m_out.append("<span" + span + '>');
-        m_elements.append({MRVEPubInline::Span, -1, span});
-    }
-    for (int kind = int(MRVEPubInline::Strong); kind <= int(MRVEPubInline::Lowered); ++kind) {
-        const uint missing = needed & ~open;
-        if (missing == 0) {
-            break;
-        }
-        if (missing & (1U << kind)) {
-            const InlineElement &element = inlineElements[kind];
-            m_out.append('<');
-            m_out.append(this->element(element.epub3, element.epub2));
-            m_out.append('>');
-            m_elements.append({element.kind, -1, QByteArray()});
-            open |= 1U << kind;
+    if (format.hasNames && !format.isPicture) {
+        for (id = id.isEmpty() ? takeId(fragment.format) : id; !id.isEmpty();
+             id = takeId(fragment.format)) {
+            m_out.append("<span id=\"" + id + "\"></span>");
         }
     }
+    addElements(needs);
     if (format.isPicture) {
         writePicture(fragment, id);
         m_isAfterBlank = false;
@@ -150,30 +164,75 @@ void MRVEPubWriter::writeFragment(int index, int end, int position, const MRVEPu
     m_isAfterBlank = text.back() == u' ' || text.back() == QChar::LineSeparator;
 }
 
+bool MRVEPubWriter::Needs::include(const Element &element) const
+{
+    switch (element.kind) {
+    case MRVEPubInline::Link:
+        return element.link == link;
+    case MRVEPubInline::Span:
+        return element.attributes == span;
+    default:
+        return elements & bit(element.kind);
+    }
+}
+
+MRVEPubWriter::Needs MRVEPubWriter::needsOf(int index, const MRVEPubContext &context)
+{
+    const MRVEPubTextFormat &format = m_formats.text(index);
+    Needs needs;
+    needs.span = m_formats.span(index, context);
+    needs.link = format.address.isEmpty() ? -1 : linkNumber(format.address);
+    needs.elements = format.elements;
+    needs.elements |= format.isBold && !context.isBold ? bit(MRVEPubInline::Strong) : 0;
+    needs.elements &= context.isCode ? ~bit(MRVEPubInline::Code) : ~0U;
+    needs.elements |= needs.link >= 0 ? bit(MRVEPubInline::Link) : 0;
+    needs.elements |= needs.span.isEmpty() ? 0 : bit(MRVEPubInline::Span);
+    return needs;
+}
+
+uint MRVEPubWriter::openElements() const
+{
+    uint open = 0;
+    for (const Element &element : m_elements) {
+        open |= bit(element.kind);
+    }
+    return open;
+}
+
+// Opens what is needed beside what is open.
+void MRVEPubWriter::addElements(const Needs &needs)
+{
+    const uint missing = needs.elements & ~openElements();
+    for (int kind = int(MRVEPubInline::Span); missing >> kind != 0; ++kind) {
+        if (missing & (1U << kind)) {
+            const InlineElement &row = inlineElements[kind];
+            const bool isSpan = row.kind == MRVEPubInline::Span;
+            m_out.append('<');
+            m_out.append(element(row.epub3, row.epub2));
+            m_out.append(isSpan ? needs.span : QByteArray());
+            m_out.append('>');
+            m_elements.append({row.kind, -1, isSpan ? needs.span : QByteArray()});
+        }
+    }
+}
+
 // How many of the open elements go on to the end of the link that begins with a fragment, so that
 // it is one element.
 int MRVEPubWriter::commonElements(int index, int end, const MRVEPubContext &context)
 {
     int common = m_elements.size();
     const QString address = m_formats.text(m_flow.fragments.at(index).format).address;
-    for (int i = index; i < end; ++i) {
-        const int number = m_flow.fragments.at(i).format;
-        const MRVEPubTextFormat &format = m_formats.text(number);
-        if (format.address != address) {
+    for (int i = index; i < end && common > 0; ++i) {
+        const int format = m_flow.fragments.at(i).format;
+        if (m_formats.text(format).address != address) {
             break;
         }
-        const uint needed =
-            format.elements | (format.isBold && !context.isBold ? bit(MRVEPubInline::Strong) : 0);
-        const QByteArray &span = m_formats.span(number, context);
-        for (int at = 0; at < common; ++at) {
-            const Element &element = m_elements.at(at);
-            const bool isKept = element.kind == MRVEPubInline::Span
-                ? element.attributes == span
-                : bool(needed & bit(element.kind));
-            if (!isKept) {
-                common = at;
-            }
+        const Needs needs = needsOf(format, context);
+        int kept = 0;
+        while (kept < common && needs.include(m_elements.at(kept))) {
+            ++kept;
         }
+        common = kept;
     }
     return common;
 }
@@ -230,22 +289,25 @@ int MRVEPubWriter::linkNumber(const QString &address)
     return *known;
 }
 
-// Makes the id of what stands at anchors, for all their names; empty where the names are known.
-QByteArray MRVEPubWriter::takeId(int format)
+// The id of what stands at anchors, for the first of their names that is not known yet; empty where
+// all are. One that is preferred comes first.
+QByteArray MRVEPubWriter::takeId(int format, const QString &preferred)
 {
     if (format < 0 || !m_formats.text(format).hasNames) {
         return QByteArray();
     }
-    QByteArray id;
-    const QStringList names = m_flow.formats.at(format).toCharFormat().anchorNames();
-    for (const QString &name : names) {
-        if (name.isEmpty() || m_targets.targets.contains(name) || !printedPage(name).isEmpty()) {
-            continue;
-        }
-        id = id.isEmpty() ? uniqueId(name) : id;
-        m_targets.targets.insert(name, m_page.fileName + u'#' + QString::fromUtf8(id));
+    QStringList names = m_flow.formats.at(format).toCharFormat().anchorNames();
+    if (names.contains(preferred)) {
+        names.prepend(preferred);
     }
-    return id;
+    for (const QString &name : qAsConst(names)) {
+        if (!name.isEmpty() && !m_targets.targets.contains(name) && printedPage(name).isEmpty()) {
+            const QByteArray id = uniqueId(name);
+            m_targets.targets.insert(name, m_page.fileName + u'#' + QString::fromUtf8(id));
+            return id;
+        }
+    }
+    return QByteArray();
 }
 
 void MRVEPubWriter::writePageBreaks(int format)

@@ -37,8 +37,12 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
     if (book->metadata.title.isEmpty() && book->pages.isEmpty()) {
         book->metadata.title = mrvDocumentTitle(document, QString());
     }
+    const bool isFirst = book->pages.isEmpty();
     const MRVEPubFlow flow(document);
     MRVEPubWriter(book, flow, pictures).write(fileName);
+    if (isFirst) {
+        book->addTitlePage();
+    }
     book->classes = book->looks.paragraphClasses();
     return true;
 }
@@ -62,10 +66,16 @@ void MRVEPubWriter::write(const QString &fileName)
             m_pageNotes.append(note);
         }
     }
-    if (!m_pageNotes.isEmpty()) {
+    if (!m_pageNotes.isEmpty() || !m_comments.isEmpty()) {
         writeNotesPage();
     }
     m_book.notes += m_notes.all().size();
+    const QStringList languages = m_formats.languages();
+    for (const QString &language : languages) {
+        if (!m_book.languages.contains(language)) {
+            m_book.languages.append(language);
+        }
+    }
     m_book.anchors.append(m_targets);
 }
 
@@ -202,16 +212,21 @@ void MRVEPubWriter::writeNotes()
         }
         writeNote(note);
     }
+    for (int i = 0; i < m_comments.size(); ++i) {
+        writeComment(Comment(m_comments.at(i)));
+    }
     m_out.append(element("</section>\n", "</div>\n"));
     m_pageNotes.clear();
+    m_comments.clear();
 }
 
 void MRVEPubWriter::writeNote(int note)
 {
     const MRVEPubNote &place = m_notes.all().at(note);
     const MRVEPubParagraph &first = m_flow.paragraphs.at(place.begin);
-    const QByteArray id =
-        first.length > 0 ? takeId(m_flow.fragments.at(first.firstFragment).format) : QByteArray();
+    const QByteArray id = first.length > 0
+        ? takeId(m_flow.fragments.at(first.firstFragment).format, place.name)
+        : QByteArray();
     m_out.append(
         element("<aside epub:type=\"footnote\" role=\"doc-footnote\"", "<div class=\"note\""));
     if (!id.isEmpty()) {
@@ -227,9 +242,8 @@ void MRVEPubWriter::writeNote(int note)
 // The notes of the whole book, after those of the documents before.
 void MRVEPubWriter::writeNotesPage()
 {
-    const QString name = QStringLiteral("notes.xhtml");
     m_page = MRVEPubPage();
-    m_page.fileName = name;
+    m_page.fileName = MRVEPubBook::NotesPage;
     m_page.type = QStringLiteral("endnotes");
     writeNotes();
     m_page.body = m_out.take();

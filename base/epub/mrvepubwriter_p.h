@@ -50,6 +50,26 @@ private:
         QByteArray attributes; // of a span
     };
 
+    // The elements that a fragment of text stands in.
+    struct Needs
+    {
+        uint elements = 0; // bits by MRVEPubInline
+        int link = -1;
+        QByteArray span;
+
+        bool include(const Element &element) const;
+    };
+    // An annotation in the text that has become a note.
+    struct Comment
+    {
+        int position;
+        int begin; // fragments, up to end
+        int end;
+        int number;
+        QByteArray id;
+        QByteArray mark; // where a link back leads
+    };
+
     // Pictures are paths in the package by resource id; empty for those that it cannot hold.
     MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
                   const QHash<QString, QString> &pictures);
@@ -64,6 +84,8 @@ private:
     void writeNotes();
     void writeNote(int note);
     void writeNotesPage();
+    int writeCommentMark(int fragment, int end, int position);
+    void writeComment(const Comment &comment);
 
     // Paragraphs: mrvepubflowwriter.cpp
     void writeFlow(int begin, int end, int inside);
@@ -97,12 +119,15 @@ private:
     // Text: mrvepubtextwriter.cpp
     bool writeText(int paragraph, const MRVEPubContext &context);
     void writeFragment(int index, int end, int position, const MRVEPubContext &context);
+    Needs needsOf(int index, const MRVEPubContext &context);
+    uint openElements() const;
+    void addElements(const Needs &needs);
     int commonElements(int index, int end, const MRVEPubContext &context);
     void openLink(int link, int position, QByteArray *id);
     void closeElements(int count);
     void writePicture(const MRVEPubFragment &fragment, const QByteArray &id);
     QByteArray pictureAttributes(const QTextImageFormat &format) const;
-    QByteArray takeId(int format);
+    QByteArray takeId(int format, const QString &preferred = QString());
     void writePageBreaks(int format);
     QByteArray uniqueId(const QString &name);
     int linkNumber(const QString &address);
@@ -132,6 +157,7 @@ private:
     QVector<QByteArray> m_sections; // end tags
     QVector<int> m_pageNotes; // whose marks stand on the page, and that are moved
     QHash<int, bool> m_isNoteWritten;
+    QVector<Comment> m_comments; // whose marks stand on the page
     MRVEPubAnchors m_targets;
     QHash<QString, int> m_linkNumbers;
 };

@@ -118,17 +118,6 @@ void MRVHtmlText::replaceImageSources(QString *html, const QHash<QString, QStrin
     });
 }
 
-QHash<QString, int> MRVHtmlText::idPlaces(const QString &html)
-{
-    const QLatin1String opening("<a id=\"");
-    QHash<QString, int> places;
-    for (int at = html.indexOf(opening); at >= 0; at = html.indexOf(opening, at + 1)) {
-        const int begin = at + opening.size();
-        places.insert(html.mid(begin, html.indexOf(u'"', begin) - begin), at);
-    }
-    return places;
-}
-
 bool MRVHtmlText::hasWideSpace(QStringView text)
 {
     // Without a branch the compiler vectorizes the loop, as above.

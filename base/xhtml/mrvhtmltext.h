@@ -32,9 +32,6 @@ MRVBASE_EXPORT QVector<QStringView> declarations(QStringView style);
  */
 MRVBASE_EXPORT void replaceImageSources(QString *html, const QHash<QString, QString> &references);
 
-/** Where the anchors with an id stand in the text, by id as it is written. */
-MRVBASE_EXPORT QHash<QString, int> idPlaces(const QString &html);
-
 /** Whether the text holds a tab or two blanks in a row. */
 MRVBASE_EXPORT bool hasWideSpace(QStringView text);
 /**

@@ -25,11 +25,9 @@ QStringView tagName(QStringView tag)
     return tag.mid(begin, end - begin);
 }
 
-// 1 to 6 for h1 to h6.
-int headingLevel(QStringView name)
+bool isHeading(QStringView name)
 {
-    const bool heading = name.size() == 2 && name[0] == u'h' && name[1] >= u'1' && name[1] <= u'6';
-    return heading ? name[1].unicode() - '0' : 0;
+    return name.size() == 2 && name[0] == u'h' && name[1] >= u'1' && name[1] <= u'6';
 }
 
 bool isNameStart(QChar c)
@@ -69,9 +67,7 @@ QString MRVPageWriter::write(const QString &html, const QString &documentTitle,
     writeBody(QStringView(html).mid(body));
     m_rewritten.clear();
     m_spaced.clear();
-    if (!m_collecting) {
-        resolveLinks();
-    }
+    resolveLinks();
     return m_page;
 }
 
@@ -181,7 +177,7 @@ void MRVPageWriter::startTag(QStringView html, int begin, int end)
     } else if (name == QLatin1String("thead") || name == QLatin1String("tr")
                || name == QLatin1String("td")) {
         startContainer(tag, name);
-    } else if (headingLevel(name) > 0 || name == QLatin1String("pre")) {
+    } else if (isHeading(name) || name == QLatin1String("pre")) {
         startBlock(html, begin, end);
     } else if (name == QLatin1String("img") && !tag.contains(QLatin1String(" src=\""))) {
         // A picture without a source has nothing to show but its text.
@@ -205,7 +201,7 @@ int MRVPageWriter::startAnchor(QStringView html, int begin, int end)
             m_page += reference + replacement->toHtmlEscaped() + QLatin1String("\">");
             return end;
         }
-        if (target.startsWith(u'#') && !m_collecting) {
+        if (target.startsWith(u'#')) {
             m_links.append({m_page.size() + reference.size(), escaped.size(), target.mid(1)});
         }
         m_page += tag;
@@ -269,7 +265,6 @@ void MRVPageWriter::startBlock(QStringView html, int begin, int end)
     endParagraph();
     enterBlock();
     const QStringView unit = html.mid(begin, end - begin);
-    noteBlock(unit);
     if (tagName(unit) == QLatin1String("pre")) {
         const int close = int(html.indexOf(QLatin1String("</pre>"), end));
         m_preAsParagraph = html.mid(end, close - end).contains(QLatin1String("<img"));
@@ -328,7 +323,6 @@ void MRVPageWriter::endParagraph()
 void MRVPageWriter::startContainer(QStringView tag, const QString &name)
 {
     endParagraph();
-    noteBlock(tag);
     Open open;
     open.name = name;
     open.offset = m_page.size();
@@ -351,22 +345,6 @@ void MRVPageWriter::startContainer(QStringView tag, const QString &name)
     }
     m_page += open.tag;
     m_open.append(open);
-}
-
-void MRVPageWriter::noteBlock(QStringView tag)
-{
-    if (!m_collecting) {
-        return;
-    }
-    const int level = headingLevel(tagName(tag));
-    if (level > 0) {
-        m_headings.append({m_page.size(), level, false});
-    }
-    if (m_open.isEmpty()) {
-        const bool breaks = tag.contains(QLatin1String("page-break-before:always;"));
-        m_blocks.append({m_page.size(), level, breaks || m_pageBreakAfter});
-        m_pageBreakAfter = tag.contains(QLatin1String("page-break-after:always;"));
-    }
 }
 
 // A block that stands between the items of a list belongs to the item before it.
@@ -394,7 +372,7 @@ void MRVPageWriter::endTag(QStringView html, int begin, int end)
     if (name != inlines[0] && name != inlines[2]) {
         endParagraph();
     }
-    if (name == inlines[0] || name == inlines[1] || name == inlines[2] || headingLevel(name) > 0) {
+    if (name == inlines[0] || name == inlines[1] || name == inlines[2] || isHeading(name)) {
         m_page.append(tag.data(), int(tag.size()));
     } else if (name == QLatin1String("pre")) {
         m_page += m_preAsParagraph ? ParagraphEnd : QLatin1String("</pre>");

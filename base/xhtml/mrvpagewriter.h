@@ -26,14 +26,6 @@ class MRVBASE_EXPORT MRVPageWriter
 public:
     using ExportType = MRVTextXhtmlExporter::ExportType;
 
-    /** A block of the page. */
-    struct Block
-    {
-        int offset; // of its tag in the page
-        int headingLevel; // 1 to 6, or 0
-        bool startsPage;
-    };
-
     /**
      * @param type    which fix-ups are applied.
      * @param dialect which document type the page has to be valid against.
@@ -49,17 +41,6 @@ public:
      */
     QString write(const QString &html, const QString &documentTitle, const QString &title);
 
-    /**
-     * Leaves links as they are and remembers the blocks at the top level, for a caller that will
-     * cut the page and rewrite its links.
-     */
-    void setCollecting(bool collecting) { m_collecting = collecting; }
-    /** The blocks at the top level, in order, where they were collected; empty else. */
-    QVector<Block> blocks() const { return m_blocks; }
-    /** Anchor names of the document, unescaped, to the ids that they got. */
-    QHash<QString, QString> ids() const { return m_ids; }
-    /** Headings wherever they stand, in tables too. */
-    QVector<Block> headings() const { return m_headings; }
     /** Link targets to replace, old to new, both unescaped. */
     void setLinks(const QHash<QString, QString> &links) { m_replacedLinks = links; }
     /** The language of the page as a BCP 47 tag; empty leaves it open. */
@@ -110,7 +91,6 @@ private:
     void close();
     void closeItem();
     void enterBlock();
-    void noteBlock(QStringView tag);
     void beginParagraph(int offset, QStringView tag);
     void appendText(QStringView text);
     void endParagraph();
@@ -124,7 +104,6 @@ private:
     ExportType m_type;
     MRVHtmlDialect m_dialect;
     std::unique_ptr<MRVStyleClasses> m_classes;
-    bool m_collecting = false;
 
     QString m_page;
     QHash<QStringView, QString> m_rewritten; // keys lie in the HTML that is being written
@@ -133,10 +112,7 @@ private:
     QVector<Open> m_open;
     QVector<QString> m_suspended; // tags of lists that had to be closed early, innermost last
     int m_itemEnd = -1; // where the page ended after a list item was closed
-    bool m_pageBreakAfter = false;
     bool m_preAsParagraph = false;
-    QVector<Block> m_blocks;
-    QVector<Block> m_headings;
     QHash<QString, QString> m_replacedLinks;
     QString m_language;
     QVector<Link> m_links;

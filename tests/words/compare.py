@@ -150,7 +150,7 @@ def content_of_book(path):
         items = {item.get("id"): item.get("href") for item in package.iter() if item.tag.endswith("}item")}
         for reference in (item for item in package.iter() if item.tag.endswith("}itemref")):
             page = items[reference.get("idref")]
-            if page.endswith(("cover.xhtml", "nav.xhtml")):
+            if page.endswith(("cover.xhtml", "nav.xhtml", "title.xhtml")):
                 continue
             content.add(html5lib.parse(book.read(os.path.join(os.path.dirname(opf), page)).decode("utf-8")), os.path.basename(page))
     content.end_word()
