@@ -1,6 +1,7 @@
 #include "inputs.h"
 
 #include "core/mrvcoreutil.h"
+#include "epub/mrvbooklist.h"
 #include "epub/mrvepubcheck.h"
 #include "epub/mrvepubpackage.h"
 #include "publish/mrvoutputfiles.h"
@@ -22,6 +23,9 @@ const QLatin1String StandardOutput("-");
 
 // Those that e-books alone have a use for, as check.
 constexpr Option bookOptions[] = {
+    Option::name("book", "FILE",
+                 "The inputs, a line each, in this order; after \" | \" a title may follow. "
+                 "\"[Title]\" begins a part and \"[]\" ends one."),
     Option::name("css", "FILE", "A style sheet, in the place of --css-base."),
     Option::choice("css-base", "NAME", "none classic modern",
                    "The typography: classic (default; indented paragraphs), modern (spaced ones) "
@@ -69,6 +73,7 @@ struct Options
     InputOptions input;
     MRVEPubMetadata metadata;
     MRVEPubOptions book;
+    QVector<MRVBookListEntry> list; // of inputs and parts
 
     bool isPackage() const { return type == MRVTextXhtmlExporter::EPub; }
 };
@@ -152,7 +157,8 @@ QStringList outputFiles(const Call &call, const Options &options)
 {
     QStringList files;
     const bool isFolder = !options.isPackage() && call.arguments.size() > 1;
-    for (const QString &input : call.arguments) {
+    const QStringList inputs = call.has("book") ? QStringList(call.value("book")) : call.arguments;
+    for (const QString &input : inputs) {
         files.append(outputFile(input, call.value("output"), QStringLiteral("manuscript"),
                                 MRVTextXhtmlExporter::suffix(options.type), isFolder));
     }
@@ -199,7 +205,8 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
     if (options.isPackage() && reading.missingPictures == MRVManuscriptReader::Keep) {
         reading.missingPictures = MRVManuscriptReader::Drop; // a book names no file outside of it
     }
-    QStringList pictures{call.value("cover")};
+    QStringList pictures{call.value("cover"), call.value("css"), call.value("metadata"),
+                         call.value("book")};
     for (const QString &path : call.arguments) {
         showProgress(QStringLiteral("Reading %1").arg(path));
         MRVManuscript manuscript;
@@ -304,12 +311,16 @@ bool exportPackage(const Call &call, const Options &options,
     const bool isOld = call.value("epub-version") == QLatin1String("2");
     MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata, book);
     QVector<const QTextDocument *> documents;
-    for (const MRVManuscript &manuscript : manuscripts) {
-        showProgress(QStringLiteral("Adding %1").arg(manuscript.path));
-        if (!package.addManuscript(manuscript, error)) {
+    auto manuscript = manuscripts.begin();
+    for (const MRVBookListEntry &entry : options.list) {
+        showProgress(QStringLiteral("Adding %1").arg(entry.path));
+        if (entry.isPart) {
+            package.addPart(entry.title);
+        } else if (package.addManuscript(*manuscript, entry.title, error)) {
+            documents.append(manuscript++->document.get());
+        } else {
             return false;
         }
-        documents.append(manuscript.document.get());
     }
     if (!acceptLosses(options, package.losses(documents), error)) {
         return false;
@@ -407,13 +418,35 @@ int checkInputs(const Call &call)
     return code;
 }
 
-int run(const Call &call)
+// Takes the inputs from the call or from the list that it names.
+int readInputs(Call *call, Options *options)
 {
-    if (call.has("check") && !call.has("to")) {
+    if (call->has("book") != call->arguments.isEmpty()) {
+        return usageError(QStringLiteral("give inputs, or a list of them with --book"));
+    }
+    for (const QString &input : qAsConst(call->arguments)) {
+        options->list.append({false, input, QString()});
+    }
+    QString error;
+    if (call->has("book") && !MRVBookList::read(call->value("book"), &options->list, &error)) {
+        return refuse(error);
+    }
+    call->arguments.clear();
+    for (const MRVBookListEntry &entry : qAsConst(options->list)) {
+        call->arguments += entry.isPart ? QStringList() : QStringList(entry.path);
+    }
+    return -1;
+}
+
+int run(const Call &given)
+{
+    Call call = given;
+    Options options;
+    int code = readInputs(&call, &options);
+    if (code < 0 && call.has("check") && !call.has("to")) {
         return checkInputs(call);
     }
-    Options options;
-    int code = readOptions(call, &options);
+    code = code < 0 ? readOptions(call, &options) : code;
     if (code >= 0) {
         return code;
     }
@@ -436,7 +469,7 @@ int run(const Call &call)
     return outputs.constFirst() == StandardOutput ? int(Done) : report(call, manuscripts, written);
 }
 
-constexpr Verb verbs[] = {{"", "IN...", "", run}};
+constexpr Verb verbs[] = {{"", "[IN...]", "", run}};
 
 constexpr Option options[] = {
     Option::choice("to", "TYPE", "html xhtml epub kindle kf8",

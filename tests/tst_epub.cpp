@@ -126,10 +126,7 @@ private Q_SLOTS:
         QCOMPARE(QTextCursor(&document).blockFormat().headingLevel(), 0); // that is in the copy
     }
 
-    void metadata_data()
-    {
-        addRows("epub-metadata.tsv", {"key", "value", "epub3", "epub2"});
-    }
+    void metadata_data() { addRows("epub-metadata.tsv", {"key", "value", "epub3", "epub2"}); }
 
     // What is set, and says in the package document; a malformed value sets nothing.
     void metadata()
@@ -148,6 +145,41 @@ private Q_SLOTS:
             const QString opf = unpacked(package.toByteArray())["OEBPS/content.opf"];
             QVERIFY2(opf.contains(cell(column)), qPrintable(opf));
         }
+    }
+
+    void links_data()
+    {
+        QTest::addColumn<QString>("href");
+        QTest::addColumn<QString>("target");
+        const QString there = "page-002.xhtml";
+        for (const QString href :
+             {"../b%20c/two.html", "./../b%20c/two.html?x=1", "../b c/two.html",
+              "../a/../b%20c/./two.html", "/b%20c/two.html"}) {
+            const QString address = href.startsWith('/') ? "/nowhere" + href : href;
+            QTest::newRow(qPrintable(href)) << address << there;
+            QTest::newRow(qPrintable(href + '#')) << address + "#z" << there + "#z";
+        }
+        QTest::newRow("own-name") << "one.html"
+                                  << "page-001.xhtml";
+        QTest::newRow("same-name") << "../two.html"
+                                   << "";
+        QTest::newRow("no-anchor") << "../b%20c/two.html#y"
+                                   << "";
+    }
+    // Pages by paths as the documents write them: the folder counts, not the name alone.
+    void links()
+    {
+        QFETCH(QString, target);
+        QTextDocument one;
+        one.setHtml("<p><a href='" + *static_cast<QString *>(QTest::qData("href", QVariant::String))
+                    + "'>x</a></p>");
+        QTextDocument two;
+        two.setHtml("<p><a name='z'></a>y</p>");
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(one, "/nowhere/a/one.html"));
+        QVERIFY(package.addDocument(two, "/nowhere/b c/two.html"));
+        const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"];
+        QCOMPARE(page.section("href=\"", 2).section('"', 0, 0), target);
     }
 
     void nothingGiven()

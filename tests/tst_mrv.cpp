@@ -174,6 +174,28 @@ private Q_SLOTS:
         QCOMPARE(epubErrors(in("all.epub")), QString());
     }
 
+    // Order, parts and titles of a list, and links between its files.
+    void bookList()
+    {
+        const Ran ran = mrv("export --to epub --language en --book @list.txt --check");
+        QCOMPARE(ran.output + ran.errors, QString("@list.epub\n"));
+        KZip book(in("list.epub"));
+        QVERIFY(book.open(QIODevice::ReadOnly));
+        const auto text = [&book](const QString &name) {
+            const KArchiveFile *file = book.directory()->file("OEBPS/" + name);
+            return file ? QString::fromUtf8(file->data()) : QString();
+        };
+        QString contents = text("nav.xhtml").section("</nav>", 0, 0).section("</h1>", 1);
+        contents.remove(QRegularExpression("<a[^>]*>|</a>|\n"));
+        QCOMPARE(contents,
+                 QString("<ol><li>Trois</li><li>Ebb<ol><li>Named</li><li>Second</li></ol></li>"
+                         "<li>Un</li><li>Deux</li></ol>"));
+        QVERIFY(text("page-002.xhtml").contains("epub:type=\"part\""));
+        QVERIFY(text("page-003.xhtml").contains(">Named</h1>"));
+        QVERIFY(text("page-003.xhtml").contains("href=\"page-001.xhtml#trois\""));
+        QVERIFY(!text("page-004.xhtml").contains("Second"));
+    }
+
     void brokenStreams()
     {
         const QString command = QString("cd '%1'; '%2' export ").arg(in(""), MRV_TOOL);

@@ -7,7 +7,9 @@
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
+#include "util/mrvlocalfile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QSet>
@@ -113,6 +115,25 @@ void MRVEPubBook::addPage(const MRVEPubPage &page)
     pages.insert(pages.size() - (hasNotes ? 1 : 0), page);
 }
 
+void MRVEPubBook::addPart(const QString &partTitle)
+{
+    const bool isFirst = pages.isEmpty();
+    const bool isEPub3 = version == MRVEPubVersion::EPub3;
+    const QString text = mrvXmlText(partTitle).simplified();
+    MRVEPubPage page;
+    page.fileName = QStringLiteral("page-%1.xhtml").arg(++pageNumber, 3, 10, QChar(u'0'));
+    page.title = text;
+    page.type = QStringLiteral("part");
+    page.body = (isEPub3 ? "<section epub:type=\"part\" role=\"doc-part\">\n" : QByteArray())
+        + "<h1 id=\"part\">" + mrvEPubValue(text) + "</h1>\n"
+        + (isEPub3 ? "</section>\n" : QByteArray());
+    addPage(page);
+    headings.append({text, page.fileName + QLatin1String("#part"), 0});
+    if (isFirst) {
+        addTitlePage();
+    }
+}
+
 void MRVEPubBook::addTitlePage()
 {
     const bool hasTitle = !pages.isEmpty()
@@ -191,26 +212,32 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
     return entries;
 }
 
+// The number of the document that is in a file, as a document names it; -1 where it is not here.
+int MRVEPubBook::linkedDocument(const QString &file, int document) const
+{
+    if (file.isEmpty()) {
+        return document;
+    }
+    if (MRV::isElsewhere(file)) {
+        return -1;
+    }
+    const QString &own = anchors.at(document).path;
+    const QString folder = own.isEmpty() ? QDir::currentPath() : QFileInfo(own).path();
+    return documents.value(MRV::fileIdentity(MRV::localFile(file, folder)), -1);
+}
+
 // Empty where the link leads to a place outside the book that a reader cannot open.
 QString MRVEPubBook::resolved(const QString &href, int document) const
 {
     const int hash = href.indexOf(u'#');
-    const QString file =
-        QUrl::fromPercentEncoding(href.left(hash < 0 ? href.size() : hash).toUtf8());
     const QString anchor = hash < 0 ? QString() : href.mid(hash + 1);
-    for (int i = 0; i < anchors.size(); ++i) {
-        const MRVEPubAnchors &candidate = anchors.at(i);
-        const bool own = file.isEmpty() && hash >= 0 && i == document;
-        if (!own && (file.isEmpty() || file != candidate.fileName)) {
-            continue;
-        }
-        if (anchor.isEmpty()) {
-            return candidate.firstPage;
-        }
-        const QString target = candidate.targets.value(anchor);
-        return target.isEmpty()
-            ? candidate.targets.value(QUrl::fromPercentEncoding(anchor.toUtf8()))
-            : target;
+    const int linked = href.isEmpty() ? -1 : linkedDocument(href.left(hash), document);
+    if (linked >= 0) {
+        const MRVEPubAnchors &there = anchors.at(linked);
+        const QString target = there.targets.value(anchor);
+        return anchor.isEmpty() ? there.firstPage
+            : target.isEmpty()  ? there.targets.value(QUrl::fromPercentEncoding(anchor.toUtf8()))
+                                : target;
     }
     const QUrl url(href, QUrl::TolerantMode);
     const QString scheme = url.scheme();

@@ -74,7 +74,7 @@ struct MRVEPubFile
 /** Where the links of a document lead. */
 struct MRVEPubAnchors
 {
-    QString fileName; // of the document, as links of others name it
+    QString path; // of the document, as MRV::fileIdentity() gives it; may be empty
     QString firstPage;
     QHash<QString, QString> targets; // anchor name to "page.xhtml#id"
 };
@@ -94,6 +94,7 @@ public:
     QVector<MRVEPubEntry> headings; // of all pages, depth counted from heading level 1 as 0
     QVector<MRVEPubFile> pictures;
     QVector<MRVEPubAnchors> anchors; // by document
+    QHash<QString, int> documents; // numbers by path, as MRV::fileIdentity() gives it
     QVector<MRVEPubAddress> links;
     MRVEPubLooks looks;
     QVector<QByteArray> classes; // of the paragraphs' looks
@@ -139,6 +140,8 @@ public:
     QStringList authors() const;
     QString language() const;
 
+    /** Adds a page of its own for the title of a part, and its heading. */
+    void addPart(const QString &title);
     void addPage(const MRVEPubPage &page);
     /** Adds a title page from the metadata before all others, where the book begins with none. */
     void addTitlePage();
@@ -149,6 +152,7 @@ private:
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
     QString addPicture(const MRVDocumentPicture &picture, const QString &name);
+    int linkedDocument(const QString &file, int document) const;
     QString resolved(const QString &href, int document) const;
     QByteArray classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const;
     QByteArray linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const;

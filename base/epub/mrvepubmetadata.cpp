@@ -5,6 +5,7 @@
 #include "markdown/mrvfrontmatter.h"
 #include "util/mrvfailure.h"
 #include "util/mrvnames.h"
+#include "xhtml/mrvdocumenttitle.h"
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvpicturereader.h"
@@ -282,6 +283,7 @@ void MRVEPubMetadata::completeFrom(const MRVEPubMetadata &other)
 void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript, QStringList *notes)
 {
     MRVEPubMetadata stated;
+    stated.title = mrvDocumentTitle(*manuscript.document, QString());
     for (const QString &author : manuscript.authors) {
         stated.set(QStringLiteral("author"), author);
     }

@@ -75,7 +75,7 @@ public:
     void completeFrom(const MRVEPubMetadata &other);
     /**
      * Takes what is empty here from a manuscript of the book: what the head of HTML, or the front
-     * matter of Markdown, says. The title is left to the package.
+     * matter of Markdown, says.
      *
      * @param notes if given, receives one translated line, which names the manuscript, for each
      *              value that is malformed and so not taken.

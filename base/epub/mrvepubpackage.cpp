@@ -14,6 +14,9 @@
 
 #include <QBuffer>
 #include <QCryptographicHash>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QUuid>
 
 namespace {
@@ -94,6 +97,31 @@ std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modif
     return files;
 }
 
+bool beginsWithHeading(const QTextDocument &document)
+{
+    QTextBlock block = document.begin();
+    while (block.isValid() && block.text().trimmed().isEmpty()) {
+        block = block.next();
+    }
+    return block.blockFormat().headingLevel() > 0;
+}
+
+void insertHeading(QTextDocument *document, const QString &title)
+{
+    QTextCursor cursor(document);
+    if (document->characterCount() > 1) {
+        cursor.insertBlock();
+        cursor.movePosition(QTextCursor::Start);
+    }
+    QTextBlockFormat format;
+    format.setHeadingLevel(1);
+    cursor.setBlockFormat(format);
+    QTextCharFormat look; // Qt's own of such headings
+    look.setFontWeight(QFont::Bold);
+    look.setProperty(QTextFormat::FontSizeAdjustment, 3);
+    cursor.insertText(title, look);
+}
+
 } // namespace
 
 MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &metadata,
@@ -111,17 +139,47 @@ MRVEPubPackage::~MRVEPubPackage() = default;
 bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &fileName,
                                  QString *error)
 {
-    return MRVEPubWriter::add(m_book.get(), document, fileName, error);
+    const int before = m_book->headings.size();
+    if (!MRVEPubWriter::add(m_book.get(), document, fileName, error)) {
+        return false;
+    }
+    for (int i = before; i < m_book->headings.size(); ++i) {
+        m_book->headings[i].depth += m_isInPart ? 1 : 0;
+    }
+    return true;
+}
+
+bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, const QString &title,
+                                   QString *error)
+{
+    const bool hasHeading = beginsWithHeading(*manuscript.document);
+    if (!title.isEmpty() && !hasHeading) {
+        insertHeading(manuscript.document.get(), title);
+    }
+    const int before = m_book->headings.size();
+    QString reason;
+    if (!addDocument(*manuscript.document,
+                     manuscript.fileName.isEmpty() ? QString() : manuscript.path, &reason)) {
+        return MRV::fail(error, manuscript.path, reason);
+    }
+    if (!title.isEmpty() && hasHeading && before < m_book->headings.size()) {
+        m_book->headings[before].text = title;
+    }
+    m_remotePictures += manuscript.remotePictures;
+    return true;
 }
 
 bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *error)
 {
-    QString reason;
-    if (!addDocument(*manuscript.document, manuscript.fileName, &reason)) {
-        return MRV::fail(error, manuscript.path, reason);
+    return addManuscript(manuscript, QString(), error);
+}
+
+void MRVEPubPackage::addPart(const QString &title)
+{
+    m_isInPart = !title.isEmpty();
+    if (m_isInPart) {
+        m_book->addPart(title);
     }
-    m_remotePictures += manuscript.remotePictures;
-    return true;
 }
 
 QStringList MRVEPubPackage::losses(const QVector<const QTextDocument *> &documents) const

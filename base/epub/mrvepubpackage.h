@@ -67,8 +67,9 @@ public:
     /**
      * Adds the document after those added before. It is read at once and needed no longer.
      *
-     * @param fileName the name, without folder, by which links of other documents name this one;
-     *                 may be empty.
+     * @param fileName the path by which links of other documents name this one, absolute or
+     *                 relative to the current folder; the file need not exist. Links of the
+     *                 document count from its folder. May be empty.
      * @param error    if given, receives a text on failure; untouched on success.
      * @return false, with nothing added, when one of its pictures cannot be read.
      */
@@ -76,7 +77,24 @@ public:
                      QString *error = nullptr);
 
     /**
-     * Adds the document of a manuscript that was read, under its file's name.
+     * Begins a part: a page with its title, below which the table of contents shows the documents
+     * that are added, until the next part. An empty title ends the last part, without a page. A
+     * book that begins with a part has a title page only if its metadata name its title.
+     */
+    void addPart(const QString &title);
+
+    /**
+     * Adds the document of a manuscript that was read, under its path.
+     *
+     * @param manuscript its document gets the title as its first heading, unless it begins with one.
+     * @param title what the table of contents calls it; empty: its own headings.
+     * @param error if given, receives a text that names the manuscript on failure; untouched on
+     *              success.
+     * @return as addDocument().
+     */
+    bool addManuscript(const MRVManuscript &manuscript, const QString &title, QString *error);
+    /**
+     * Adds the document of a manuscript that was read, under its path.
      *
      * @param error if given, receives a text that names the manuscript on failure; untouched on
      *              success.
@@ -123,4 +141,5 @@ public:
 private:
     std::unique_ptr<MRVEPubBook> m_book;
     int m_remotePictures = 0;
+    bool m_isInPart = false;
 };

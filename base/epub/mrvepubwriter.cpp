@@ -2,6 +2,7 @@
 
 #include "epub/mrvepubpages_p.h"
 #include "epub/mrvepubsections_p.h"
+#include "util/mrvlocalfile.h"
 #include "xhtml/mrvdocumenttitle.h"
 
 #include <QLocale>
@@ -34,7 +35,7 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
     if (!book->addAllPictures(document, &pictures, error)) {
         return false;
     }
-    if (book->metadata.title.isEmpty() && book->pages.isEmpty()) {
+    if (book->metadata.title.isEmpty()) {
         book->metadata.title = mrvDocumentTitle(document, QString());
     }
     const bool isFirst = book->pages.isEmpty();
@@ -55,7 +56,10 @@ void MRVEPubWriter::write(const QString &fileName)
         m_notes.place(starts);
     }
     starts.append(m_flow.count());
-    m_targets.fileName = fileName;
+    m_targets.path = fileName.isEmpty() ? QString() : MRV::fileIdentity(fileName);
+    if (!fileName.isEmpty() && !m_book.documents.contains(m_targets.path)) {
+        m_book.documents.insert(m_targets.path, m_book.anchors.size());
+    }
     for (int i = 0; i + 1 < starts.size(); ++i) {
         writePage(starts.at(i), starts.at(i + 1), plan);
     }

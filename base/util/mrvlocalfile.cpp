@@ -11,6 +11,16 @@ bool MRV::isElsewhere(const QString &address)
         || (scheme.size() > 1 && scheme != QLatin1String("file"));
 }
 
+QString MRV::fileIdentity(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString real = file.canonicalFilePath();
+    const QString folder = QFileInfo(file.path()).canonicalFilePath();
+    return !real.isEmpty()  ? real
+        : !folder.isEmpty() ? QDir(folder).filePath(file.fileName())
+                            : QDir::cleanPath(file.absoluteFilePath());
+}
+
 QString MRV::localFile(const QString &address, const QString &folder)
 {
     const QUrl url(address);

@@ -26,4 +26,12 @@ MRVBASE_EXPORT bool isElsewhere(const QString &address);
  */
 MRVBASE_EXPORT QString localFile(const QString &address, const QString &folder);
 
+/**
+ * A path that is the same for all paths of one file: relative or absolute, through links, with "."
+ * and "..". The file need not exist.
+ *
+ * @since 1.0
+ */
+MRVBASE_EXPORT QString fileIdentity(const QString &path);
+
 } // namespace MRV

@@ -16,6 +16,17 @@
     </message>
 </context>
 <context>
+    <name>MRVBookList</name>
+    <message>
+        <source>line %1: there is no file %2</source>
+        <translation>Zeile %1: die Datei %2 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the list names no manuscript</source>
+        <translation>die Liste nennt kein Manuskript</translation>
+    </message>
+</context>
+<context>
     <name>MRVCheckForUpdatesDialog</name>
     <message>
         <source>Check For Updates</source>

@@ -16,6 +16,17 @@
     </message>
 </context>
 <context>
+    <name>MRVBookList</name>
+    <message>
+        <source>line %1: there is no file %2</source>
+        <translation>línea %1: no existe el archivo %2</translation>
+    </message>
+    <message>
+        <source>the list names no manuscript</source>
+        <translation>la lista no nombra ningún manuscrito</translation>
+    </message>
+</context>
+<context>
     <name>MRVCheckForUpdatesDialog</name>
     <message>
         <source>Check For Updates</source>

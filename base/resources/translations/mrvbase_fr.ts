@@ -16,6 +16,17 @@
     </message>
 </context>
 <context>
+    <name>MRVBookList</name>
+    <message>
+        <source>line %1: there is no file %2</source>
+        <translation>ligne %1&#xa0;: le fichier %2 n’existe pas</translation>
+    </message>
+    <message>
+        <source>the list names no manuscript</source>
+        <translation>la liste ne nomme aucun manuscrit</translation>
+    </message>
+</context>
+<context>
     <name>MRVCheckForUpdatesDialog</name>
     <message>
         <source>Check For Updates</source>
