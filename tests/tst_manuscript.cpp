@@ -83,7 +83,10 @@ private Q_SLOTS:
     {
         const QByteArray page = "<p>1<img src='gone.png' alt='A'>\n<img src='/dev/zero'>"
                                 "<p id='x'><img src='data:image/png;base64,AAAA' alt='B'>"
-                                "<img src='gone.png' alt='A'><img src='pic%20one.bmp'>";
+                                "<img src='gone.png' alt='A'><img src='pic%20one.bmp'>"
+                                "<img src='cut.png'>";
+        const QByteArray png = MRVGuiUtil::toByteArray(filledImage(40, 40, Qt::red), "PNG");
+        QVERIFY(writeBytes(in("cut.png"), png.left(png.size() - 20)));
         QVERIFY(writeBytes(in("a.html"), page));
         MRVManuscriptReader reader;
         MRVManuscript read;
@@ -98,7 +101,8 @@ private Q_SLOTS:
                  (QStringList{"line 1: the picture gone.png cannot be read: it does not exist",
                               format.arg("2", "/dev/zero", "not a regular file"),
                               format.arg("2", QString("data:image/png;base64,AAAA") + QChar(0x2026),
-                                         "in no known picture format")}));
+                                         "in no known picture format"),
+                              format.arg("2", "cut.png", "damaged")}));
         reader.setMissingPictures(MRVManuscriptReader::Drop);
         QVERIFY(reader.read(in("a.html"), &read));
         QCOMPARE(read.document->toRawText(), QString("1A \u2029BA\ufffc"));

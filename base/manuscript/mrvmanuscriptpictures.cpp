@@ -49,17 +49,24 @@ QString withScheme(const QString &name)
     return name.startsWith(QLatin1String("//")) ? QLatin1String("https:") + name : name;
 }
 
-bool isRemote(const QString &name)
-{
-    return MRV::isElsewhere(name) && QUrl(name).scheme() != QLatin1String("data");
-}
-
 // What is known of a picture by its name in the source.
 struct Picture
 {
     QString id; // null: it cannot be read
+    QString name; // to be shown; null where the image keeps its own
     QString path; // of a file
 };
+
+// Whether the picture can be shown as it is. A PNG that does not end is decoded to see that.
+bool isUsable(const MRVPictureReader &look, QString *reason)
+{
+    if (!look.isReadable() && !look.isDrawing()) {
+        *reason = look.error();
+        return false;
+    }
+    const bool isWhole = look.format() != "png" || MRVPictureReader::png(look.bytes()).length >= 0;
+    return isWhole || !look.read(reason).isNull();
+}
 
 /** Looks at each picture once: an ornament may be shown a thousand times. */
 class PictureFinder
@@ -78,7 +85,7 @@ public:
             return *known;
         }
         QString reason;
-        const Picture picture = isData(name) ? ofData(name, &reason) : ofFile(name, &reason);
+        const Picture picture = look(name, &reason);
         if (picture.id.isNull()) {
             constexpr int Shown = 32; // characters of a picture that is no name but the bytes
             m_unreadable.append({isData(name) ? name.left(Shown) + QChar(0x2026) : name,
@@ -96,54 +103,67 @@ private:
         return name.startsWith(QLatin1String("data:"), Qt::CaseInsensitive);
     }
 
+    Picture look(const QString &name, QString *reason)
+    {
+        if (isData(name)) {
+            return ofData(name, reason);
+        }
+        const QString address = withScheme(name);
+        if (!MRV::isElsewhere(address)) {
+            return ofFile(name, reason);
+        }
+        m_remote.insert(address);
+        m_manuscript->remotePictures = m_remote.size();
+        return {address, QString(), QString()};
+    }
+
     Picture ofFile(const QString &name, QString *reason)
     {
         const QString path = MRV::localFile(name, m_folder);
-        const MRVPictureReader look = MRVPictureReader::ofFile(path);
-        if (!look.isReadable() && !look.isDrawing()) {
-            *reason = look.error();
+        if (!isUsable(MRVPictureReader::ofFile(path), reason)) {
             return Picture();
         }
         if (!m_paths.contains(path)) {
             m_paths.insert(path);
             m_manuscript->pictures.append(path);
         }
-        return {QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded), path};
+        return {QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded), QFileInfo(path).baseName(),
+                path};
     }
 
     Picture ofData(const QString &name, QString *reason)
     {
-        const QTextDocument &document = *m_manuscript->document;
         const MRVPictureReader look(
-            MRVGuardedDocument::pictureSource(document, QUrl(name)).toByteArray());
-        if (!look.isReadable() && !look.isDrawing()) {
-            *reason = look.error();
+            MRVGuardedDocument::pictureSource(*m_manuscript->document, QUrl(name)).toByteArray());
+        if (!isUsable(look, reason)) {
             return Picture();
         }
+        const QString shown = QStringLiteral("picture");
         if (!look.isReadable()) {
-            return {name, QString()}; // Qt would draw a resource in whatever size it claims
+            return {name, shown, QString()}; // Qt would draw a resource in the size it claims
         }
         const QByteArray digest =
             QCryptographicHash::hash(look.bytes(), QCryptographicHash::Sha1).toHex();
         const QString id = QLatin1String("img-") + QString::fromLatin1(digest);
         m_manuscript->document->addResource(QTextDocument::ImageResource, QUrl(id), look.bytes());
-        return {id, QString()};
+        return {id, shown, QString()};
     }
 
     const QString m_folder;
     MRVManuscript *m_manuscript;
     QHash<QString, Picture> m_pictures;
     QSet<QString> m_paths;
+    QSet<QString> m_remote;
     QVector<MRVUnreadablePicture> m_unreadable;
 };
 
 QTextImageFormat withPicture(QTextImageFormat format, const Picture &picture)
 {
     format.setName(picture.id);
-    const QString name =
-        picture.path.isEmpty() ? QStringLiteral("picture") : QFileInfo(picture.path).baseName();
-    format.setProperty(MRVTextFormat::ImageNameProperty, name);
-    if (!picture.path.isEmpty()) {
+    if (!picture.name.isNull()) {
+        format.setProperty(MRVTextFormat::ImageNameProperty, picture.name);
+    }
+    if (!picture.path.isNull()) {
         format.setProperty(MRVTextFormat::ImageLinkProperty, picture.path);
     }
     return format;
@@ -173,32 +193,17 @@ QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, bool drop,
                                               MRVManuscript *manuscript)
 {
     PictureFinder finder(folder, manuscript);
-    QSet<QString> remote;
     QVector<ImageFragment> fragments = imageFragments(*manuscript->document);
     for (const ImageFragment &fragment : qAsConst(fragments)) {
-        const QString name = withScheme(fragment.format.name());
-        if (isRemote(name)) {
-            remote.insert(name);
-        } else {
-            finder.find(name);
-        }
+        finder.find(fragment.format.name());
     }
-    manuscript->remotePictures = remote.size();
-
+    std::reverse(fragments.begin(), fragments.end()); // texts are longer than what they replace
     QTextCursor cursor(manuscript->document.get());
     cursor.beginEditBlock();
-    std::reverse(fragments.begin(), fragments.end()); // texts are longer than what they replace
     for (const ImageFragment &fragment : qAsConst(fragments)) {
-        const QString name = withScheme(fragment.format.name());
+        const Picture picture = finder.find(fragment.format.name());
         cursor.setPosition(fragment.begin);
         cursor.setPosition(fragment.end, QTextCursor::KeepAnchor);
-        if (isRemote(name)) {
-            QTextImageFormat format = fragment.format;
-            format.setName(name);
-            cursor.setCharFormat(format);
-            continue;
-        }
-        const Picture picture = finder.find(name);
         if (!picture.id.isNull()) {
             cursor.setCharFormat(withPicture(fragment.format, picture));
         } else if (drop) {
