@@ -47,7 +47,7 @@ constexpr Module modules[] = {
     {"base/textformat",  3, "Core Gui"},
     {"base/version",     3, "Core Xml"},
 
-    {"base/office",      4, "Core"},
+    {"base/office",      4, "Core zip.h"},
     {"base/plaintext",   4, "Core"},
     {"base/presets",     4, "Core Gui"},
     {"base/text",        4, "Core Gui"},

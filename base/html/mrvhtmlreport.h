@@ -12,7 +12,7 @@
  */
 struct MRVHtmlLoss
 {
-    int line = 0; ///< of the page, from 1
+    int line = 0; ///< of the page, from 1; 0 where no line is known
     QString what; ///< the words, the address of a link or of a picture, as the page has them
 };
 

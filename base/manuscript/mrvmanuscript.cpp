@@ -32,7 +32,9 @@ QStringList MRVManuscript::readingNotes() const
 {
     QStringList notes = conversionNotes;
     for (const MRVHtmlLoss &loss : report.losses) {
-        notes.append(tr("line %1: not in the document: %2").arg(loss.line).arg(loss.what));
+        notes.append(loss.line > 0
+                         ? tr("line %1: not in the document: %2").arg(loss.line).arg(loss.what)
+                         : tr("not in the document: %1").arg(loss.what));
     }
     for (const MRVUnreadablePicture &picture : unreadablePictures) {
         notes.append(picture.text());

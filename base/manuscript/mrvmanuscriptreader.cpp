@@ -127,6 +127,10 @@ bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
     QString reason;
     *text = converter.toHtml(read->bytes, officeFormat(read->format), &reason);
     read->conversionNotes = converter.warnings();
+    const QStringList missing = converter.missingWords();
+    if (!missing.isEmpty()) {
+        read->report.losses.append({0, missing.join(u' ')});
+    }
     return !text->isNull() || fail(ConversionError, *read, reason);
 }
 
@@ -155,6 +159,10 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
     if (!read->document) {
         return fail(NestingError, *read, reason);
     }
+    for (MRVHtmlLoss &loss : report.html.losses) {
+        loss.line = read->isConverted() ? 0 : loss.line; // of a page that nobody has seen
+    }
+    report.html.losses = read->report.losses + report.html.losses;
     read->report = report.html;
     if (read->format == MRVManuscript::Markdown || read->format == MRVManuscript::PlainText) {
         read->authors = report.head.authors;

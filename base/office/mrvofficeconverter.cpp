@@ -1,5 +1,6 @@
 #include "office/mrvofficeconverter.h"
 
+#include "office/mrvofficesource_p.h"
 #include "util/mrvfailure.h"
 #include "util/mrvlimitedprogram.h"
 #include "util/mrvtemporaryfolder.h"
@@ -145,6 +146,7 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
                                    QString *error)
 {
     m_warnings.clear();
+    m_missingWords.clear();
     const Converter *converter = converterOf(format);
     const QString formatName = MRVFormat::name(format);
     if (!converter) {
@@ -160,11 +162,12 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
                            QLatin1String(converter->package)));
         return QString();
     }
+    const MRVOfficeSource source(bytes, format);
     const MRVTemporaryFolder folder(QDir::tempPath());
     const QDir files(folder.path());
     const QString input = files.filePath(QStringLiteral("input"));
     QString reason = folder.errorString();
-    if (!reason.isEmpty() || !MRVCoreUtil::WriteBinaryFile(bytes, input, &reason)
+    if (!reason.isEmpty() || !MRVCoreUtil::WriteBinaryFile(source.prepared(), input, &reason)
         || !MRVCoreUtil::WriteBinaryFile(
             pageTemplate, files.filePath(QStringLiteral("page.template")), &reason)) {
         MRV::fail(error, reason);
@@ -179,8 +182,10 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
         return QString();
     }
     m_warnings = warningsIn(result.errors);
-    return QString::fromUtf8(result.output)
-        .replace(QLatin1String("<p></p>"), QLatin1String("<p><br /></p>"));
+    const QString page = MRVOfficeSource::withAnchors(QString::fromUtf8(result.output))
+                             .replace(QLatin1String("<p></p>"), QLatin1String("<p><br /></p>"));
+    m_missingWords = source.missingFrom(page);
+    return page;
 }
 
 QString MRVOfficeConverter::failureOf(const MRVProgramResult &result) const

@@ -65,6 +65,11 @@ public:
      * @return null on failure.
      */
     QString toHtml(const QByteArray &bytes, MRVFormat::Format format, QString *error = nullptr);
+    /**
+     * Words of the last document, a DOCX or ODT, that the page lacks, sorted, in lower case; empty
+     * if all is well. No page lacks a word without this.
+     */
+    QStringList missingWords() const { return m_missingWords; }
     /** What the converter said of the last document, a line each, in English. */
     QStringList warnings() const { return m_warnings; }
 
@@ -74,4 +79,5 @@ private:
     Limits m_limits;
     bool m_embedsPictures = true;
     QStringList m_warnings;
+    QStringList m_missingWords;
 };

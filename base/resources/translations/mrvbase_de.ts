@@ -602,6 +602,10 @@ Fehler: %2</translation>
         <source>the Markdown is nested too deeply, or too complex</source>
         <translation>das Markdown ist zu tief verschachtelt oder zu komplex</translation>
     </message>
+    <message>
+        <source>not in the document: %1</source>
+        <translation>nicht im Dokument: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>

@@ -602,6 +602,10 @@ Error: %2</translation>
         <source>the Markdown is nested too deeply, or too complex</source>
         <translation>el Markdown tiene demasiados niveles o es demasiado complejo</translation>
     </message>
+    <message>
+        <source>not in the document: %1</source>
+        <translation>no está en el documento: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>

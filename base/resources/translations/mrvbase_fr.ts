@@ -602,6 +602,10 @@ Erreur&#xa0;: %2</translation>
         <source>the Markdown is nested too deeply, or too complex</source>
         <translation>le Markdown est trop imbriqué ou trop complexe</translation>
     </message>
+    <message>
+        <source>not in the document: %1</source>
+        <translation>absent du document&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>

@@ -1,0 +1,288 @@
+#include "office/mrvofficetext_p.h"
+
+#include "util/mrvescape.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <cctype>
+
+namespace {
+
+constexpr QChar MarkBegin(0xfdd0);
+constexpr QChar MarkEnd(0xfdd1);
+
+// A backslash with what belongs to it: "\u220", "\'fc", "\{".
+int controlEnd(const QByteArray &rtf, int begin)
+{
+    int at = begin + 1;
+    while (at < rtf.size() && isalpha(uchar(rtf.at(at)))) {
+        ++at;
+    }
+    if (at == begin + 1) {
+        return qMin(begin + (rtf.mid(at, 1) == "'" ? 4 : 2), rtf.size());
+    }
+    const int digits = at + (rtf.mid(at, 1) == "-" ? 1 : 0);
+    int end = digits;
+    while (end < rtf.size() && isdigit(uchar(rtf.at(end)))) {
+        ++end;
+    }
+    return end > digits ? end : at;
+}
+
+// The start of a tag with that name and the end of the tag; false without another one.
+bool findTag(const QByteArray &xml, const QByteArray &start, int from, int *begin, int *end)
+{
+    for (*begin = xml.indexOf(start, from); *begin >= 0; *begin = xml.indexOf(start, *begin + 1)) {
+        const QByteArray next = xml.mid(*begin + start.size(), 1);
+        *end = xml.indexOf('>', *begin) + 1;
+        if (*end > 0 && (next == ">" || next == "/" || next == " ")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// The elements stay that are inside of those with that name.
+QByteArray withoutTags(QByteArray xml, const QByteArray &name)
+{
+    for (const QByteArray &start : {'<' + name, "</" + name}) {
+        QByteArray rest;
+        int done = 0;
+        int begin = 0;
+        int end = 0;
+        while (findTag(xml, start, done, &begin, &end)) {
+            rest += xml.mid(done, begin - done);
+            done = end;
+        }
+        xml = done > 0 ? rest + xml.mid(done) : xml;
+    }
+    return xml;
+}
+
+QByteArray attributeOf(const QByteArray &tag, const QByteArray &name)
+{
+    const int begin = tag.indexOf(' ' + name + "=\"");
+    const int value = begin + name.size() + 3;
+    return begin < 0 ? QByteArray() : tag.mid(value, tag.indexOf('"', value) - value);
+}
+
+bool isSkipped(const QStringRef &name)
+{
+    static const QStringList names{QStringLiteral("office:annotation"),
+                                   QStringLiteral("text:tracked-changes"),
+                                   QStringLiteral("text:note-citation"),
+                                   QStringLiteral("text:table-of-content"),
+                                   QStringLiteral("text:alphabetical-index"),
+                                   QStringLiteral("text:bibliography-mark"),
+                                   QStringLiteral("svg:title"),
+                                   QStringLiteral("svg:desc"),
+                                   QStringLiteral("office:forms"),
+                                   QStringLiteral("w:moveFrom"),
+                                   QStringLiteral("w:del"),
+                                   QStringLiteral("mc:Fallback"),
+                                   QStringLiteral("w:instrText")};
+    return names.contains(name);
+}
+
+bool isSeparator(const QStringRef &name)
+{
+    static const QStringList names{QStringLiteral("w:p"),
+                                   QStringLiteral("w:br"),
+                                   QStringLiteral("w:tab"),
+                                   QStringLiteral("w:cr"),
+                                   QStringLiteral("w:noBreakHyphen"),
+                                   QStringLiteral("text:p"),
+                                   QStringLiteral("text:h"),
+                                   QStringLiteral("text:s"),
+                                   QStringLiteral("text:tab"),
+                                   QStringLiteral("text:line-break")};
+    return names.contains(name);
+}
+
+// Where the content begins of the paragraph that begins at @p at; @p at where none does.
+int startOfParagraph(const QByteArray &xml, int at)
+{
+    const QByteArray tag = xml.mid(at, 5);
+    int inside = tag == "<w:p>" || tag == "<w:p " ? xml.indexOf('>', at) + 1 : 0;
+    if (inside > 0 && xml.mid(inside, 7) == "<w:pPr>") {
+        inside = xml.indexOf("</w:pPr>", inside) + 8;
+    }
+    return inside > at ? inside : at;
+}
+
+} // namespace
+
+QByteArray mrvPreparedRtf(const QByteArray &rtf)
+{
+    QByteArray prepared;
+    prepared.reserve(rtf.size() + rtf.size() / 8);
+    const QByteArray note("{\\*\\footnote");
+    for (int at = 0; at < rtf.size();) {
+        if (rtf.at(at) == '{' && rtf.mid(at, note.size()) == note) {
+            prepared += "{\\footnote";
+            at += note.size();
+        } else if (rtf.at(at) != '\\') {
+            prepared += rtf.at(at++);
+        } else {
+            int end = controlEnd(rtf, at);
+            const QByteArray control = rtf.mid(at, end - at);
+            if (control.startsWith("\\bin") && control.size() > 4
+                && isdigit(uchar(control.at(4)))) {
+                end += int(qMin(control.mid(4).toLongLong() + 1, qint64(rtf.size() - end)));
+            }
+            prepared += rtf.mid(at, end - at);
+            const bool isCharacter = control.size() > 2 && control.at(1) == 'u'
+                && (isdigit(uchar(control.at(2))) || control.at(2) == '-');
+            if (isCharacter && end < rtf.size() && !strchr(" \\{}\r\n", rtf.at(end))) {
+                prepared += ' ';
+            }
+            at = end;
+        }
+    }
+    return prepared;
+}
+
+QByteArray mrvPreparedOdt(QByteArray xml)
+{
+    xml = withoutTags(xml, "table:table-header-rows");
+    for (const char *start : {"<text:bookmark-start", "<text:bookmark"}) {
+        QByteArray marked;
+        int done = 0;
+        int begin = 0;
+        int end = 0;
+        while (findTag(xml, start, done, &begin, &end)) {
+            const QByteArray name = attributeOf(xml.mid(begin, end - begin), "text:name");
+            marked += xml.mid(done, begin - done) + QString(MarkBegin).toUtf8() + name.toHex()
+                + QString(MarkEnd).toUtf8();
+            done = end;
+        }
+        xml = done > 0 ? marked + xml.mid(done) : xml;
+    }
+    return xml;
+}
+
+QString mrvWithAnchors(const QString &html)
+{
+    QString anchored;
+    int done = 0;
+    bool isInTag = false;
+    for (int at = 0; at < html.size(); ++at) {
+        const QChar character = html.at(at);
+        isInTag = character == u'<' || (isInTag && character != u'>');
+        if (character != MarkBegin) {
+            continue;
+        }
+        int end = at + 1;
+        while (end < html.size() && isxdigit(html.at(end).toLatin1())) {
+            ++end;
+        }
+        if (html.midRef(end, 1) != QString(MarkEnd)) {
+            continue; // not one of ours
+        }
+        anchored += html.midRef(done, at - done);
+        done = end + 1;
+        // pandoc also makes names of headings of their texts; these are not needed. The name of a
+        // place is as it was in XML, with entities.
+        if (!isInTag) {
+            const QByteArray name = QByteArray::fromHex(html.mid(at + 1, end - at - 1).toLatin1());
+            anchored += QStringLiteral("<a id=\"%1\"></a>").arg(QString::fromUtf8(name));
+        }
+        at = end;
+    }
+    return anchored + html.midRef(done);
+}
+
+QByteArray mrvPreparedDocx(QByteArray xml)
+{
+    for (const char *name : {"w:fldSimple", "w:moveTo"}) {
+        xml = withoutTags(xml, name);
+    }
+    const QByteArray start("<w:bookmarkStart");
+    QByteArray prepared;
+    int done = 0;
+    int begin = 0;
+    int end = 0;
+    bool isFound = findTag(xml, start, 0, &begin, &end);
+    while (isFound) {
+        prepared += xml.mid(done, begin - done);
+        QByteArray names;
+        do { // one or more
+            names += xml.mid(begin, end - begin);
+            done = end;
+            isFound = findTag(xml, start, done, &begin, &end);
+        } while (isFound && begin == done);
+        const int inside = startOfParagraph(xml, done);
+        prepared += xml.mid(done, inside - done) + names;
+        done = inside;
+    }
+    return prepared + xml.mid(done);
+}
+
+QString mrvOfficeXmlText(const QByteArray &xml)
+{
+    QXmlStreamReader reader(xml);
+    reader.setNamespaceProcessing(false);
+    QString text;
+    bool isText = false; // of DOCX, where it is in elements of its own
+    bool isOdt = false;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            isOdt = isOdt || reader.qualifiedName() == QLatin1String("office:text");
+            isText = reader.qualifiedName() == QLatin1String("w:t");
+            if (isSkipped(reader.qualifiedName())) {
+                reader.skipCurrentElement();
+            } else if (isSeparator(reader.qualifiedName())) {
+                text += u' ';
+            }
+        } else if (token == QXmlStreamReader::EndElement) {
+            isText = false;
+            text += isSeparator(reader.qualifiedName()) ? QStringLiteral(" ") : QString();
+        } else if (token == QXmlStreamReader::Characters && (isText || isOdt)) {
+            text += reader.text();
+        }
+    }
+    return text;
+}
+
+QString mrvTextOfPage(const QString &html)
+{
+    static const QRegularExpression inlineTag(
+        QStringLiteral("</?(?:span|a|em|strong|u|del|sup|sub|code|mark|small)\\b[^>]*>"));
+    static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
+    QString text = html.mid(html.indexOf(QLatin1String("<body>")));
+    text.remove(inlineTag).replace(tag, QStringLiteral(" "));
+    text.replace(QLatin1String("&lt;"), QLatin1String("<"))
+        .replace(QLatin1String("&gt;"), QLatin1String(">"))
+        .replace(QLatin1String("&quot;"), QLatin1String("\""))
+        .replace(QLatin1String("&amp;"), QLatin1String("&"));
+    return text;
+}
+
+void mrvCountWords(const QString &text, QHash<QString, int> *words)
+{
+    QString word;
+    bool hasDigits = false;
+    const auto end = [&] {
+        if (!word.isEmpty()) {
+            ++(*words)[word];
+            word.resize(0);
+        }
+    };
+    for (const QChar character : text) {
+        const bool isDigit = character.isDigit();
+        const bool isLetter = character.isLetter() || character.isMark() || character.isSurrogate();
+        if (character == QChar::SoftHyphen) {
+            continue;
+        }
+        if ((!isDigit && !isLetter) || isDigit != hasDigits) {
+            end();
+        }
+        hasDigits = isDigit;
+        if (isDigit || isLetter) {
+            word += character.toCaseFolded();
+        }
+    }
+    end();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+/** RTF as pandoc reads it: it takes a character too many after "\u220?", and no "\*\footnote". */
+QByteArray mrvPreparedRtf(const QByteArray &rtf);
+
+/**
+ * The content of an ODT as pandoc reads it: it leaves out rows of headings, and gives names of
+ * places others. Instead, U+FDD0, the name in hexadecimal digits and U+FDD1 mark a place.
+ */
+QByteArray mrvPreparedOdt(QByteArray xml);
+/** The anchors of the places that mrvPreparedOdt() has marked; nothing else of that is left. */
+QString mrvWithAnchors(const QString &html);
+
+/**
+ * A text of a DOCX as pandoc reads it: it leaves out names before paragraphs, and simple fields and
+ * moved text with their content.
+ */
+QByteArray mrvPreparedDocx(QByteArray xml);
+
+/** The text of an ODT or a part of a DOCX that a reader of the book is to see, up to a fault. */
+QString mrvOfficeXmlText(const QByteArray &xml);
+/** The text of a page that pandoc has written. */
+QString mrvTextOfPage(const QString &html);
+
+/**
+ * Counts words, in any case. Letters and digits are words of their own, so that the number of a
+ * note after a word does not matter; soft hyphens do not count.
+ */
+void mrvCountWords(const QString &text, QHash<QString, int> *words);
