@@ -256,6 +256,9 @@ bool exportPages(const Call &call, const Options &options,
                            outputs.at(int(i)), error)) {
             return false;
         }
+        if (manuscripts.size() > 1 && !manuscripts[i].fileName.isEmpty()) {
+            publisher.setSource(outputs.at(int(i)), manuscripts[i].path);
+        }
     }
     return acceptLosses(options, publisher.losses(), error) && publisher.publish(written, error);
 }

@@ -196,6 +196,25 @@ private Q_SLOTS:
         QVERIFY(!text("page-004.xhtml").contains("Second"));
     }
 
+    void linkedPages()
+    {
+        QVERIFY(writeBytes(in("a b.html"),
+                           "<p><a href='sub/three.md#x'>1</a><a href='./two.md'>2</a>"
+                           "<a href='a%20b.html?q'>3</a><a href='none.md'>4</a>"
+                           "<a href='http://x.example/two.md'>5</a>"));
+        QCOMPARE(mrv("export @a␣b.html @sub/three.md --to xhtml -o @pages").exitCode, 0);
+        QStringList links;
+        for (const char *page : {"pages/a b.xhtml", "pages/three.xhtml"}) {
+            static const QRegularExpression href("<a href=\"([^\"]*)");
+            for (auto it = href.globalMatch(bytesOf(in(page))); it.hasNext();) {
+                links << it.next().captured(1);
+            }
+        }
+        QCOMPARE(links,
+                 QStringList({"three.xhtml#x", "./two.md", "a%20b.xhtml", "none.md",
+                              "http://x.example/two.md", "../two.md?x#trois"}));
+    }
+
     void brokenStreams()
     {
         const QString command = QString("cd '%1'; '%2' export ").arg(in(""), MRV_TOOL);

@@ -1,7 +1,9 @@
 #include "publish/mrvpagepublisher.h"
 
 #include "util/mrvfailure.h"
+#include "util/mrvlocalfile.h"
 #include "xhtml/mrvexportcheck.h"
+#include "xhtml/mrvhtmltext.h"
 
 #include "core/mrvcoreutil.h"
 
@@ -11,6 +13,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <QUrl>
 
 namespace {
 
@@ -71,9 +74,12 @@ QString asSource(QString path)
     return path.toHtmlEscaped();
 }
 
-bool replaceSources(const QString &page, const QHash<QString, QString> &sources, QString *error)
+// Changes the values of an attribute in a page, as they stand there.
+template<typename Changed>
+bool replaceValues(const QString &page, const QString &attribute, const Changed &changed,
+                   QString *error)
 {
-    static const QRegularExpression source(QStringLiteral(" src=\"([^\"]*)\""));
+    const QRegularExpression source(QStringLiteral(" %1=\"([^\"]*)\"").arg(attribute));
     QString unreadable;
     const QString html = MRVCoreUtil::ReadUnicodeTextFile(page, &unreadable);
     if (!unreadable.isEmpty()) {
@@ -83,12 +89,11 @@ bool replaceSources(const QString &page, const QHash<QString, QString> &sources,
     int done = 0;
     for (auto it = source.globalMatch(html); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
-        const QString old = match.captured(1);
-        result += html.midRef(done, match.capturedStart(1) - done) + sources.value(old, old);
+        result += html.midRef(done, match.capturedStart(1) - done) + changed(match.captured(1));
         done = match.capturedEnd(1);
     }
     result += html.midRef(done);
-    return MRVCoreUtil::WriteUnicodeTextFile(result, page, error);
+    return result == html || MRVCoreUtil::WriteUnicodeTextFile(result, page, error);
 }
 
 // The pages that a style sheet was written for; none when its first line does not tell.
@@ -181,7 +186,8 @@ bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QS
             renamed.insert(asSource(wanted), asSource(given));
         }
     }
-    return renamed.isEmpty() || replaceSources(page, renamed, error);
+    const auto changed = [&renamed](const QString &old) { return renamed.value(old, old); };
+    return renamed.isEmpty() || replaceValues(page, QStringLiteral("src"), changed, error);
 }
 
 // The page is read as it lies on the disk.
@@ -270,8 +276,41 @@ bool MRVPagePublisher::addStyleSheet(const Folder &folder, QString *error)
         || MRV::fail(error, reason.replace(staged, sheet));
 }
 
+void MRVPagePublisher::setSource(const QString &file, const QString &source)
+{
+    m_sources.insert(file, source);
+    m_targets.insert(MRV::fileIdentity(source), file);
+}
+
+// Where a link of a page leads once all pages have their new names.
+QString MRVPagePublisher::newLink(const QString &link, const QString &page) const
+{
+    const QString address = MRVHtmlText::unescaped(link);
+    const QString file = address.section(u'#', 0, 0);
+    if (file.isEmpty() || MRV::isElsewhere(address)) {
+        return link;
+    }
+    const QString folder = QFileInfo(m_sources.value(page)).absolutePath();
+    const QString target = m_targets.value(MRV::fileIdentity(MRV::localFile(file, folder)));
+    if (target.isEmpty()) {
+        return link;
+    }
+    const QDir from(QFileInfo(page).absolutePath());
+    const QString path = from.relativeFilePath(QFileInfo(target).absoluteFilePath());
+    return QString(QString::fromLatin1(QUrl::toPercentEncoding(path, "/"))
+                   + address.mid(file.size()))
+        .toHtmlEscaped();
+}
+
 bool MRVPagePublisher::publish(QStringList *written, QString *error)
 {
+    for (const auto &page : qAsConst(m_pages)) {
+        const auto changed = [&](const QString &link) { return newLink(link, page.second); };
+        if (m_sources.contains(page.second)
+            && !replaceValues(page.first, QStringLiteral("href"), changed, error)) {
+            return false;
+        }
+    }
     for (const auto &folder : m_folders) {
         if (m_options.styleSheet && !addStyleSheet(folder.second, error)) {
             return false;

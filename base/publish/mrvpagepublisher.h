@@ -85,6 +85,16 @@ public:
     QStringList losses() const { return m_losses; }
 
     /**
+     * Says which file a page is made from. Links of this page then count from that file's folder,
+     * and links of all such pages to that file lead to the page, under its new name; other links
+     * stay as they are.
+     *
+     * @param file   as add() gets it.
+     * @param source absolute, or relative to the current folder.
+     */
+    void setSource(const QString &file, const QString &source);
+
+    /**
      * Puts all pages in place, or none. To be called once.
      *
      * @param written if given, receives the files that the pages consist of: pictures, also those
@@ -116,6 +126,7 @@ private:
     QString pictureTarget(const QString &staged, const QString &wanted);
     static bool mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error);
     bool addStyleSheet(const Folder &folder, QString *error);
+    QString newLink(const QString &link, const QString &page) const;
 
     const MRVPageOptions m_options;
     MRVStagedFiles m_files;
@@ -125,4 +136,6 @@ private:
     QStringList m_written;
     QStringList m_losses;
     QVector<QPair<QString, QString>> m_pages; // staged file and target
+    QHash<QString, QString> m_sources; // by the page
+    QHash<QString, QString> m_targets; // pages by the identity of their source
 };
