@@ -130,6 +130,7 @@ void MRVHtmlBuilder::build()
     const GumboNode *root = m_tree.root();
     const MRVCssElement *rootCss = cssElement(root, nullptr, &roots);
     MRVHtmlStyle rootStyle = styleOf(root, MRVHtmlStyle(), rootCss);
+    rootStyle.isInvisible = false; // until a script shows the page
     m_language = rootStyle.language;
     m_styler.setRootPixels(rootStyle.fontPixels);
     m_writer.addName(mrvAttributeOf(root, "id"));
@@ -140,6 +141,7 @@ void MRVHtmlBuilder::build()
     if (body) {
         const MRVCssElement *css = cssElement(body, rootCss, &bodies);
         MRVHtmlStyle style = styleOf(body, rootStyle, css);
+        style.isInvisible = false;
         if (m_language.isEmpty()) {
             m_language = style.language;
         }
