@@ -11,13 +11,15 @@
 
 namespace {
 
-// Rules are drawn, and what marks the structure of documents or ends them is no text.
+// Rules are drawn; control characters, and what marks the structure of documents, are no text.
 QString shown(const QString &text)
 {
     QString characters;
     for (const QChar character : text) {
         const bool isDrawn = QStringLiteral("-_=–—─").contains(character);
-        if (!character.isSpace() && !character.isNull() && !isDrawn
+        const bool isControl = character.category() == QChar::Other_Control
+            || character == QChar::ReplacementCharacter;
+        if (!character.isSpace() && !isControl && !isDrawn
             && character != QChar::ObjectReplacementCharacter
             && (character < QChar(0xfdd0) || character > QChar(0xfdef))) {
             characters += character;

@@ -114,7 +114,8 @@ QVector<MRVPlainGroup> mrvPlainGroups(const QString &text)
         while (end < text.size() && !isLineEnd(text.at(end))) {
             ++end;
         }
-        const QString line = text.mid(begin, end - begin);
+        QString line = text.mid(begin, end - begin);
+        line.remove(QChar::Null); // no character, and HTML has none
         const QString shown = line.trimmed();
         if (!shown.isEmpty()) {
             if (!continues) {
