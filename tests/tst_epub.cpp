@@ -364,7 +364,8 @@ private Q_SLOTS:
         fill(&hard,
              "<body bgcolor='#eeeeee' background='x.png'><h3>Deep first</h3><h1>Then high</h1><p "
              "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
-             "</ol></ul><hr width='50%'><table border=2 cellpadding=3 cellspacing=1 width='70%' "
+             "</ol><li><blockquote>z</blockquote></ul><hr width='50%'><table border=2 "
+             "cellpadding=3 cellspacing=1 width='70%' "
              "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
              "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img src='pic.png' "
              "width='50%'></table><pre>a\n<img "

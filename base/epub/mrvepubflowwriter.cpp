@@ -111,7 +111,8 @@ int MRVEPubWriter::writeBlock(int paragraph, int end)
     }
     if (place.headingLevel > 0) {
         writeHeading(paragraph);
-    } else if (place.list >= 0 && !hasParagraphAfter(paragraph, end)) {
+    } else if (place.list >= 0 && !m_containers.constLast().isQuote
+               && !hasParagraphAfter(paragraph, end)) {
         MRVEPubContext context;
         m_formats.look(paragraph, MRVEPubKind::Item, usedIndent(), &context);
         m_page.holes[m_itemHole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
