@@ -55,6 +55,19 @@ void manyStyles(benchmark::State &state)
         [&] { benchmark::DoNotOptimize(Exporter(few.get()).toText(Exporter::EPub)); });
 }
 
+// The pages of an e-book, straight from the document.
+void eBookPages(benchmark::State &state)
+{
+    const auto document = novel(int(state.range(0)));
+    compare(
+        state,
+        [&] {
+            MRVEPubPackage book;
+            benchmark::DoNotOptimize(book.addDocument(*document));
+        },
+        [&] { benchmark::DoNotOptimize(document->toHtml("utf-8")); });
+}
+
 void package(benchmark::State &state)
 {
     const auto document = novel(int(state.range(0)));
@@ -88,6 +101,7 @@ BENCHMARK(eBookText)->Apply(sizes);
 BENCHMARK(eBookFile)->Apply(sizes);
 BENCHMARK(wholeTextChain)->Apply(sizes);
 BENCHMARK(manyStyles)->Apply(sizes);
+BENCHMARK(eBookPages)->Apply(sizes);
 BENCHMARK(package)->Apply(sizes);
 BENCHMARK(packing)->Apply(sizes);
 

@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "epub/mrvepubpackage.h"
 #include "gui/mrvguiutil.h"
+#include "html/mrvhtmldocument.h"
 #include "images.h"
 #include "support.h"
 #include "textformat/mrvtextformat.h"
@@ -105,6 +106,74 @@ private Q_SLOTS:
             QVERIFY(writeBytes(golden, text.toUtf8()));
         }
         QCOMPARE(text.split('\n'), QString::fromUtf8(bytesOf(golden)).split('\n'));
+    }
+
+    void pages_data() { addRows("epub-pages.tsv", {"case", "options", "html", "pages", "rules"}); }
+
+    // Elements of pages as they are read, and the rules for what their classes look like.
+    void pages()
+    {
+        QTextDocument document;
+        QVERIFY(MRVHtmlDocument::read(cell("html"), QString(), &document));
+        MRVEPubMetadata metadata;
+        metadata.language = "en";
+        MRVEPubOptions options;
+        options.notes =
+            cell("options") == "book" ? MRVEPubOptions::BookNotes : MRVEPubOptions::ChapterNotes;
+        const bool isOld = cell("options") == "epub2";
+        MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata,
+                               options);
+        QVERIFY(package.addDocument(document));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        QStringList bodies;
+        for (const QString &name :
+             QStringList(files.keys()).filter(QRegularExpression("page-|notes"))) {
+            const QString body = files[name].section("<body>", 1).section("</body>", 0, 0);
+            bodies << (body.contains("<pre") ? body.trimmed() : QString(body).remove('\n'));
+        }
+        QCOMPARE(bodies.join(" || "), cell("pages"));
+        const QString rules = files["OEBPS/css/stylesheet.css"].section("this book */", 1);
+        QCOMPARE(rules.simplified(), cell("rules"));
+    }
+
+    // By choice, an annotation leaves the text for a note.
+    void annotations()
+    {
+        QTextDocument document("Before annotated after");
+        QTextCursor cursor(&document);
+        cursor.setPosition(7);
+        cursor.setPosition(16, QTextCursor::KeepAnchor);
+        QTextCharFormat format;
+        format.setProperty(MRVTextFormat::InlineAnnotationProperty, true);
+        cursor.mergeCharFormat(format);
+        for (const bool areNotes : {false, true}) {
+            MRVEPubOptions options;
+            options.commentsAsNotes = areNotes;
+            MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata(), options);
+            QVERIFY(package.addDocument(document));
+            const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"];
+            QCOMPARE(page.contains("Before annotated after"), !areNotes);
+            QCOMPARE(page.contains("href=\"#comment-mark-1\">[1]</a> annotated</p></aside>"),
+                     areNotes);
+        }
+    }
+
+    // The base, or the sheet that takes its place after all other rules.
+    void sheets()
+    {
+        QTextDocument document("x");
+        const auto sheet = [&document](const MRVEPubOptions &options) {
+            MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata(), options);
+            package.addDocument(document);
+            return unpacked(package.toByteArray())["OEBPS/css/stylesheet.css"];
+        };
+        MRVEPubOptions options;
+        QVERIFY(sheet(options).startsWith("/* Classic"));
+        options.styleBase = MRVEPubOptions::Modern;
+        QVERIFY(sheet(options).startsWith("/* Modern"));
+        options.styleSheet = "p { color: red }\xff";
+        QVERIFY(!sheet(options).contains("Modern"));
+        QVERIFY(sheet(options).endsWith(QString("p { color: red }") + QChar(0xfffd)));
     }
 
     // A line spacing takes the number of Qt's own heading level.

@@ -70,7 +70,7 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
             ++i;
         } else if (note >= 0 && m_flow.paragraphs.at(i).list < 0 && m_openNote != note) {
             closeContainers(0);
-            writeNote(note);
+            writeNote(note, inside);
             i = m_notes.all().at(note).end;
         } else {
             i = writeBlock(i, end);

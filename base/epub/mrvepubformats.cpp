@@ -101,26 +101,33 @@ MRVEPubFormats::MRVEPubFormats(const MRVEPubFlow &flow, MRVEPubLooks *looks, MRV
 
 void MRVEPubFormats::findBody()
 {
+    // Headings do not count, nor does code where there is other text.
     QVector<qint64> lengths(m_flow.formats.size());
-    for (const MRVEPubFragment &fragment : m_flow.fragments) {
-        lengths[fragment.format] += fragment.length;
+    for (int i = 0; i < m_flow.count(); ++i) {
+        const MRVEPubParagraph &paragraph = m_flow.paragraphs.at(i);
+        const int end = m_flow.paragraphs.at(i + 1).firstFragment;
+        for (int at = paragraph.firstFragment; at < end && paragraph.headingLevel == 0; ++at) {
+            lengths[m_flow.fragments.at(at).format] += m_flow.fragments.at(at).length;
+        }
     }
     const double defaultPixels = pixelsOf(m_flow.document.defaultFont());
     m_bodyPixels = defaultPixels > 0 ? defaultPixels : m_bodyPixels;
     QMap<int, qint64> sizes;
     QMap<QRgb, qint64> inks;
     QMap<QStringList, qint64> families;
+    QMap<QStringList, qint64> allFamilies;
     for (int i = 0; i < lengths.size(); ++i) {
         if (lengths.at(i) > 0 && !m_flow.formats.at(i).isImageFormat()) {
             const QTextCharFormat format = m_flow.formats.at(i).toCharFormat();
             sizes[hundredths(pixels(format))] += lengths.at(i);
             inks[colorOf(format.foreground())] += lengths.at(i);
-            families[familiesOf(format)] += lengths.at(i);
+            families[familiesOf(format)] += isFixedPitch(format) ? 0 : lengths.at(i);
+            allFamilies[familiesOf(format)] += lengths.at(i);
         }
     }
     m_bodyPixels = mostUsed(sizes, hundredths(m_bodyPixels)) / 100.0;
     m_ink = mostUsed(inks, Black);
-    m_families = mostUsed(families, QStringList());
+    m_families = mostUsed(families, mostUsed(allFamilies, QStringList()));
 }
 
 double MRVEPubFormats::pixels(const QTextCharFormat &format) const

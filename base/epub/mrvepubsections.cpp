@@ -7,14 +7,14 @@
 namespace {
 
 // Kinds with the words that headings of them begin with, all in lower case and without accents.
-// Where words end with "#", a number or a name follows; others are the whole heading.
+// Where there is a "#", a number or a name follows, or stands before; others are the whole heading.
 // clang-format off
 constexpr struct
 {
     MRVEPubSection section;
     const char *words;
 } rows[] = {
-    {{"part", "doc-part"},                  "part #|teil #|partie #|parte #|book #|buch #|livre #|libro #|volume #|band #|tome #|tomo #"},
+    {{"part", "doc-part"},                  "part #|teil #|partie #|parte #|# part|# teil|# partie|# parte|book #|buch #|livre #|libro #|volume #|band #|tome #|tomo #"},
     {{"chapter", "doc-chapter"},            "chapter #|kapitel #|chapitre #|capitulo #"},
     {{"prologue", "doc-prologue"},          "prologue|prolog|prologo"},
     {{"epilogue", "doc-epilogue"},          "epilogue|epilog|epilogo"},
@@ -55,9 +55,11 @@ QString plain(const QString &heading)
     return text.simplified();
 }
 
-// Numbers in front, such as "3." or "IV.", say nothing of the kind.
 bool matches(const QString &heading, const QString &words)
 {
+    if (words.startsWith(u'#')) {
+        return heading.endsWith(QStringView(words).mid(1).toString());
+    }
     if (!words.endsWith(u'#')) {
         return heading == words;
     }

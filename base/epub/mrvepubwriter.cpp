@@ -201,7 +201,7 @@ QString MRVEPubWriter::headingText(int paragraph) const
 // The notes whose marks stand on the page; those that a note has marks of follow.
 void MRVEPubWriter::writeNotes()
 {
-    if (m_pageNotes.isEmpty()) {
+    if (m_pageNotes.isEmpty() && m_comments.isEmpty()) {
         return;
     }
     m_out.append(
@@ -214,7 +214,7 @@ void MRVEPubWriter::writeNotes()
             writeFlow(heading, heading + 1, -1);
             m_openNote = -1;
         }
-        writeNote(note);
+        writeNote(note, -1);
     }
     for (int i = 0; i < m_comments.size(); ++i) {
         writeComment(Comment(m_comments.at(i)));
@@ -224,7 +224,7 @@ void MRVEPubWriter::writeNotes()
     m_comments.clear();
 }
 
-void MRVEPubWriter::writeNote(int note)
+void MRVEPubWriter::writeNote(int note, int inside)
 {
     const MRVEPubNote &place = m_notes.all().at(note);
     const MRVEPubParagraph &first = m_flow.paragraphs.at(place.begin);
@@ -238,7 +238,7 @@ void MRVEPubWriter::writeNote(int note)
     }
     m_out.append(QLatin1String(">\n"));
     const int outer = std::exchange(m_openNote, note);
-    writeFlow(place.begin, place.end, -1);
+    writeFlow(place.begin, place.end, inside);
     m_openNote = outer;
     m_out.append(element("</aside>\n", "</div>\n"));
 }

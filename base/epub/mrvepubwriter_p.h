@@ -82,7 +82,7 @@ private:
     void openSection(const MRVEPubSection &section);
     QString headingText(int paragraph) const;
     void writeNotes();
-    void writeNote(int note);
+    void writeNote(int note, int inside);
     void writeNotesPage();
     int writeCommentMark(int fragment, int end, int position);
     void writeComment(const Comment &comment);
