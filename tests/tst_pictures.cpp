@@ -325,7 +325,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         write(folder, "pic.svg", svg("width='30000' height='10000'", ""));
-        const QString page = write(folder, "page.html", "<p>text <img src='pic.svg'></p>");
+        const QString page =
+            write(folder, "page.html", "<html lang='en'><p>text <img src='pic.svg'>");
         for (const QString type : {"html", "xhtml", "epub", "kindle"}) {
             const QString file = folder.filePath("out." + type);
             QCOMPARE(run(MRV_TOOL, {"export", page, "--to", type, "-o", file}).errors, QString());
@@ -341,7 +342,7 @@ private Q_SLOTS:
     void exportsPhotosAsTheyAre()
     {
         const QTemporaryDir folder;
-        QByteArray text;
+        QByteArray text = "<html lang='en'>";
         for (int i = 0; i < 10; ++i) {
             const QString name = QString("%1.jpg").arg(i);
             QVERIFY(filledImage(4000, 3000, QColor(20 * i, 0, 0)).save(folder.filePath(name)));
