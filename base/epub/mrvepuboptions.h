@@ -26,8 +26,9 @@ struct MRVBASE_EXPORT MRVEPubOptions
 
     StyleBase styleBase = Classic;
     /**
-     * CSS in UTF-8 that takes the place of the base; empty: the base. It is not parsed. Bytes that
-     * are not UTF-8 are replaced.
+     * CSS in UTF-8 that takes the place of the base, and stands after the rules of the book's own
+     * looks, so that it wins; empty: the base. It is not parsed. Bytes that are not UTF-8 are
+     * replaced.
      */
     QByteArray styleSheet;
     Notes notes = ChapterNotes;
