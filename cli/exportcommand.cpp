@@ -223,7 +223,7 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
 bool acceptLosses(const Options &options, const QStringList &losses, QString *error)
 {
     if (options.input.strict && !losses.isEmpty()) {
-        *error = losses.constFirst();
+        *error = losses.join(u'\n');
         return false;
     }
     for (const QString &loss : losses) {

@@ -106,7 +106,7 @@ struct MRVBASE_EXPORT MRVMissingPicture
  * is not changed, and not needed afterwards. GUI thread only.
  *
  * @code
- * const MRVDocumentPictures pictures(*document);
+ * const MRVDocumentPictures pictures(document);
  * for (const MRVDocumentPicture &picture : pictures.all()) {
  *     qDebug() << picture.name() << picture.mediaType() << picture.size();
  *     MRVCoreUtil::WriteBinaryFile(picture.bytes(), picture.name() + u'.' + picture.suffix());

@@ -45,8 +45,9 @@ public:
     MRVBookList() = delete;
 
     /**
-     * Reads a list in UTF-8.
+     * Reads a list.
      *
+     * @param file    in UTF-8.
      * @param entries receives them in order; untouched on failure.
      * @param error   if given, receives one translated line that names the file, and the line in
      *                it, on failure; untouched on success.

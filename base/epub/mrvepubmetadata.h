@@ -45,16 +45,15 @@ public:
      * Sets what a key names, or adds to it where there may be several: authors, contributors,
      * subjects.
      *
-     * The keys are those of readFile() but "cover". Values are trimmed; an empty one changes
-     * nothing.
-     *
+     * @param key   one of those of readFile() but "cover".
+     * @param value is trimmed; an empty one changes nothing.
      * @param error if given, receives one translated line on failure; untouched on success.
      * @return false, with nothing changed, for an unknown key and for a malformed value.
      */
     bool set(const QString &key, const QString &value, QString *error = nullptr);
 
     /**
-     * Reads a file of "key: value" lines (see MRVFrontMatter) in UTF-8, and takes what is empty
+     * Reads a file of "key: value" lines (see MRVFrontMatter), and takes what is empty
      * here from it.
      *
      * The keys, in any case, with "-" or "_": title, subtitle, author, creator, contributor,
@@ -64,6 +63,7 @@ public:
      * "ROLE: NAME", the role a MARC code or its English name. After a name, "|" and the form by
      * which lists file it may follow. The path of a cover counts from the file's folder.
      *
+     * @param file  in UTF-8.
      * @param notes if given, receives one translated line for each key that is not known.
      * @param error if given, receives one translated line that names the file, and the line in it
      *              where there is one, on failure; untouched on success.

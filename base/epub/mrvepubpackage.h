@@ -86,7 +86,8 @@ public:
     /**
      * Adds the document of a manuscript that was read, under its path.
      *
-     * @param manuscript its document gets the title as its first heading, unless it begins with one.
+     * @param manuscript its document gets the title as its first heading, unless it begins with
+     *                   one.
      * @param title what the table of contents calls it; empty: its own headings.
      * @param error if given, receives a text that names the manuscript on failure; untouched on
      *              success.

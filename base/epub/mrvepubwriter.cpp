@@ -122,15 +122,22 @@ int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan)
     }
     const bool isHeading =
         first < end && !m_frames.contains(first) && m_flow.paragraphs.at(first).headingLevel > 0;
-    if (!isHeading) {
-        return begin;
+    const MRVEPubSection *section = nullptr;
+    if (isHeading) {
+        section = sectionOf(first, end, plan);
+    } else if (isTitlePage(begin, end)) {
+        section = mrvEPubSection(QStringLiteral("titlepage"));
     }
-    const MRVEPubSection *section = sectionOf(first, end, plan);
-    if (!section) {
-        return begin;
+    if (section) {
+        m_page.type = QString::fromLatin1(section->type);
+        openSection(*section);
     }
-    m_page.type = QString::fromLatin1(section->type);
-    openSection(*section);
+    return section && isHeading ? openChapter(begin, first, end, plan) : begin;
+}
+
+// Opens the section of a chapter that follows the heading of its part, which is written.
+int MRVEPubWriter::openChapter(int begin, int first, int end, const MRVEPubPages &plan)
+{
     const int level = m_flow.paragraphs.at(first).headingLevel;
     for (int i = first + 1; i < end; ++i) {
         const int inner = m_flow.paragraphs.at(i).headingLevel;
@@ -148,6 +155,22 @@ int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan)
         }
     }
     return begin;
+}
+
+// Whether the first page says the title of the book in its text.
+bool MRVEPubWriter::isTitlePage(int begin, int end) const
+{
+    if (!m_book.pages.isEmpty() || m_flow.paragraphs.at(end).position >= LongestTitlePage) {
+        return false;
+    }
+    const QString title = m_book.title();
+    for (int i = begin; i < end; ++i) {
+        if (m_flow.paragraphs.at(i).headingLevel == 0
+            && headingText(i).compare(title, Qt::CaseInsensitive) == 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 const MRVEPubSection *MRVEPubWriter::sectionOf(int heading, int end, const MRVEPubPages &plan) const

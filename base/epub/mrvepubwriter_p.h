@@ -78,6 +78,8 @@ private:
     void write(const QString &fileName);
     void writePage(int begin, int end, const MRVEPubPages &plan);
     int openSections(int begin, int end, const MRVEPubPages &plan);
+    int openChapter(int begin, int first, int end, const MRVEPubPages &plan);
+    bool isTitlePage(int begin, int end) const;
     const MRVEPubSection *sectionOf(int heading, int end, const MRVEPubPages &plan) const;
     void openSection(const MRVEPubSection &section);
     QString headingText(int paragraph) const;

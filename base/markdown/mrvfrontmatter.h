@@ -24,6 +24,7 @@ public:
      * Reads a text that is metadata as a whole, with or without a line of "---" before them; after
      * them, such a line or "..." ends the reading.
      *
+     * @param text    with any line ends.
      * @param entries receives them in order, also those before a line that is refused.
      * @return 0, or the first line, from 1, that is neither a key nor continues one.
      */

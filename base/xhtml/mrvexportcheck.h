@@ -24,7 +24,7 @@ class QTextDocument;
  * MRVTextXhtmlExporter exporter(&document);
  * MRVExportCheck check;
  * check.addDocument(document);
- * check.addPage(exporter.toText(MRVTextXhtmlExporter::XHtml));
+ * check.addPage(exporter.toText(MRVTextXhtmlExporter::Xhtml));
  * for (const QString &loss : check.losses()) {
  *     qWarning() << loss;
  * }
