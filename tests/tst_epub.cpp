@@ -401,6 +401,27 @@ private Q_SLOTS:
         QVERIFY(!error.isEmpty());
     }
 
+    // Where pages of a printed edition begin, all that lists things says so, and of which edition.
+    void printedPages()
+    {
+        QTextDocument document;
+        QVERIFY(MRVHtmlDocument::read("<title>Ebb</title><h1>I</h1><p><a name=Page_7></a>a"
+                                      "<h1>II</h1><p><a name=Page_8></a>b",
+                                      QString(), &document));
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        const QString pages =
+            files["OEBPS/nav.xhtml"].section("page-list", 1).section("</nav>", 0, 0);
+        QVERIFY(pages.contains("<a href=\"page-001.xhtml#Page_7\">7</a>"));
+        QVERIFY(pages.contains("<a href=\"page-002.xhtml#Page_8\">8</a>"));
+        QCOMPARE(files["OEBPS/toc.ncx"].count("<pageTarget "), 2);
+        const QString metadata = files["OEBPS/content.opf"];
+        QVERIFY(metadata.contains(">printPageNumbers<"));
+        QVERIFY(metadata.contains("<dc:source id=\"source\">Printed edition of Ebb<"));
+        QVERIFY(metadata.contains("refines=\"#source\" property=\"source-of\">pagination<"));
+    }
+
     // Links to files and to nowhere are no loss, for a book cannot have them.
     void losses()
     {

@@ -187,12 +187,16 @@ void MetadataWriter::writeSeries()
     }
 }
 
-// The edition whose page numbers the page list has.
+// The edition whose page numbers the page list has. Pages need one, even where nobody has said
+// which it is.
 void MetadataWriter::writePageSource()
 {
     const QString isbn = mrvIsbn(m_metadata.source);
-    const QString source = isbn.isEmpty() ? m_metadata.source : IsbnScheme + isbn;
     const bool isPaged = m_isEPub3 && !m_book.pageBreaks.isEmpty();
+    QString source = isbn.isEmpty() ? m_metadata.source : IsbnScheme + isbn;
+    if (source.isEmpty() && isPaged) {
+        source = MRVEPubBook::tr("Printed edition of %1").arg(m_book.title());
+    }
     const QString id = isPaged ? QStringLiteral("source") : QString();
     if (writeElement("dc:source", source, {{"id", id}}) && isPaged) {
         refine(id, "source-of", QStringLiteral("pagination"));

@@ -31,7 +31,7 @@ constexpr struct
     {{"glossary", "doc-glossary"},          "glossary|glossar|glossaire|glosario"},
     {{"index", "doc-index"},                "index|register|sachregister|stichwortverzeichnis|indice alfabetico"},
     {{"endnotes", "doc-endnotes"},          "notes|endnotes|footnotes|anmerkungen|fussnoten|endnoten|notes de fin|notas|notas al pie"},
-    {{"toc", ""},                           "contents|table of contents|inhalt|inhaltsverzeichnis|table des matieres|sommaire|indice|contenido|tabla de contenido"},
+    {{"toc", "doc-toc"},                    "contents|table of contents|inhalt|inhaltsverzeichnis|table des matieres|sommaire|indice|contenido|tabla de contenido"},
     {{"titlepage", ""},                     "title page|titelseite|page de titre|portada"},
 };
 // clang-format on

@@ -358,6 +358,10 @@ Fehler: %2</translation>
         <source>A list leads to the pages of the printed edition.</source>
         <translation>Eine Liste führt zu den Seiten der gedruckten Ausgabe.</translation>
     </message>
+    <message>
+        <source>Printed edition of %1</source>
+        <translation>Druckausgabe von %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubCheck</name>

@@ -358,6 +358,10 @@ Error: %2</translation>
         <source>A list leads to the pages of the printed edition.</source>
         <translation>Una lista lleva a las páginas de la edición impresa.</translation>
     </message>
+    <message>
+        <source>Printed edition of %1</source>
+        <translation>Edición impresa de %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubCheck</name>

@@ -358,6 +358,10 @@ Erreur&#xa0;: %2</translation>
         <source>A list leads to the pages of the printed edition.</source>
         <translation>Une liste mène aux pages de l’édition imprimée.</translation>
     </message>
+    <message>
+        <source>Printed edition of %1</source>
+        <translation>Édition imprimée de %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubCheck</name>
