@@ -13,6 +13,17 @@ namespace {
 constexpr int MostUnpacked = 1 << 26;
 
 using Source = std::unique_ptr<zip_source_t, decltype(&zip_source_free)>;
+using Archive = std::unique_ptr<zip_t, decltype(&zip_discard)>;
+
+// Takes over the source, of which null is none.
+zip_t *openArchive(zip_source_t *source, int flags)
+{
+    zip_t *archive = source ? zip_open_from_source(source, flags, nullptr) : nullptr;
+    if (!archive) {
+        zip_source_free(source);
+    }
+    return archive;
+}
 
 bool readFile(zip_t *archive, zip_uint64_t index, QByteArray *bytes)
 {
@@ -27,16 +38,27 @@ bool readFile(zip_t *archive, zip_uint64_t index, QByteArray *bytes)
     return size == 0;
 }
 
-// Uncompressed: it is read at once.
-bool replaceFile(zip_t *archive, zip_uint64_t index, const QByteArray &bytes)
+// Owns no bytes: these must last until the archive is closed.
+bool addFile(zip_t *archive, const char *name, zip_source_t *source, zip_int32_t method)
 {
-    zip_source_t *source =
-        zip_source_buffer(archive, bytes.constData(), zip_uint64_t(bytes.size()), 0);
-    if (zip_file_replace(archive, index, source, 0) < 0) {
+    const zip_int64_t index = source ? zip_file_add(archive, name, source, 0) : -1;
+    if (index < 0) {
         zip_source_free(source);
         return false;
     }
-    return zip_set_file_compression(archive, index, ZIP_CM_STORE, 0) == 0;
+    return zip_set_file_compression(archive, zip_uint64_t(index), method, 0) == 0;
+}
+
+// As it is, compressed or not. Folders are left out: nothing reads them.
+bool copyFile(zip_t *from, zip_uint64_t index, zip_t *to)
+{
+    zip_stat_t stat;
+    if (zip_stat_index(from, index, 0, &stat) != 0 || (stat.valid & ZIP_STAT_NAME) == 0) {
+        return false;
+    }
+    return QByteArray(stat.name).endsWith('/')
+        || addFile(to, stat.name, zip_source_zip(to, from, index, ZIP_FL_COMPRESSED, 0, -1),
+                   stat.comp_method);
 }
 
 QByteArray bytesOf(zip_source_t *source)
@@ -74,38 +96,44 @@ MRVOfficeSource::MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format form
     }
 }
 
+// A new archive: libzip frees bytes that are not its own when it changes one in memory.
 void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format format)
 {
-    const Source source(
-        zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, nullptr),
-        zip_source_free);
-    zip_source_keep(source.get()); // the archive frees it once
-    zip_t *archive = zip_open_from_source(source.get(), 0, nullptr);
-    if (!archive) {
-        zip_source_free(source.get());
+    const Archive archive(
+        openArchive(
+            zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, nullptr),
+            ZIP_RDONLY),
+        zip_discard);
+    const Source target(zip_source_buffer_create(nullptr, 0, 0, nullptr), zip_source_free);
+    zip_source_keep(target.get()); // the archive frees it once
+    Archive written(openArchive(target.get(), ZIP_CREATE | ZIP_TRUNCATE), zip_discard);
+    if (!archive || !written) {
         return;
     }
     std::vector<QByteArray> texts; // until the archive is closed
     bool ok = true;
-    for (zip_uint64_t i = 0; i < zip_uint64_t(zip_get_num_entries(archive, 0)) && ok; ++i) {
-        if (hasText(format, QString::fromUtf8(zip_get_name(archive, i, 0)))) {
-            QByteArray text;
-            ok = readFile(archive, i, &text);
-            if (!ok) {
-                break;
-            }
+    for (zip_uint64_t i = 0; i < zip_uint64_t(zip_get_num_entries(archive.get(), 0)) && ok; ++i) {
+        const char *name = zip_get_name(archive.get(), i, 0);
+        if (!hasText(format, QString::fromUtf8(name))) {
+            ok = copyFile(archive.get(), i, written.get());
+            continue;
+        }
+        QByteArray text;
+        ok = readFile(archive.get(), i, &text);
+        if (ok) {
             mrvCountWords(mrvOfficeXmlText(text), &m_words);
             texts.push_back(format == MRVFormat::ODT ? mrvPreparedOdt(text)
                                                      : mrvPreparedDocx(text));
-            ok = replaceFile(archive, i, texts.back());
+            zip_source_t *prepared = zip_source_buffer(written.get(), texts.back().constData(),
+                                                       zip_uint64_t(texts.back().size()), 0);
+            ok = addFile(written.get(), name, prepared, ZIP_CM_STORE); // it is read at once
         }
     }
-    if (!ok || zip_close(archive) != 0) {
-        zip_discard(archive);
-        return;
+    if (ok && zip_close(written.get()) == 0) {
+        static_cast<void>(written.release());
+        const QByteArray prepared = bytesOf(target.get());
+        m_prepared = prepared.isEmpty() ? bytes : prepared;
     }
-    const QByteArray prepared = bytesOf(source.get());
-    m_prepared = prepared.isEmpty() ? bytes : prepared;
 }
 
 QString MRVOfficeSource::withAnchors(QString html)
