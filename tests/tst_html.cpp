@@ -243,7 +243,9 @@ void tst_Html::saysWhatIsMissing_data()
     QTest::newRow("joined") << "<p>a b\n<p><a href=x>c</a><br>d<img src=y>"
                             << "2 c d";
     QTest::newRow("order") << "<p>b\n<p>a<p><a href=x>c</a>d<img src=y>"
-                           << "2 a";
+                           << "1 b";
+    QTest::newRow("again") << "<p>a b\n<p>b<p><a href=x>c</a>d<img src=y>"
+                           << "2 b";
     QTest::newRow("link") << "<p>a b\n<p><a href=x2>c</a>d<img src=y>"
                           << "2 x2";
     QTest::newRow("picture") << "<p>a b\n<p><a href=x>c</a>d<img src=y><img src=z>"

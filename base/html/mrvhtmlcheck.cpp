@@ -71,23 +71,26 @@ public:
     {
     }
 
+    /** Goes past @p item where it is the next one. */
+    bool takeNext(Kind kind, QStringView item)
+    {
+        const bool isNext = holds(kind, 0, item);
+        m_items[kind].first += isNext ? 1 : 0;
+        return isNext;
+    }
+
     /**
      * Goes to the next @p item and past it. What is held before it is passed over, a few steps at
      * most: where the page and the document go on alike.
+     *
+     * @param after goes past this one, too, which has to follow at once; null: anything may follow.
      */
-    bool take(Kind kind, QStringView item)
+    bool take(Kind kind, QStringView item, QStringView after = QStringView())
     {
         constexpr int Ahead = 64;
-        Items &items = m_items[kind];
         for (int i = 0; i < Ahead; ++i) {
-            while (items.first + i >= items.places.size() && m_block.isValid()) {
-                readParagraph();
-            }
-            if (items.first + i >= items.places.size()) {
-                return false;
-            }
-            if (items.at(i) == item) {
-                items.first += i + 1;
+            if (holds(kind, i, item) && (after.isNull() || holds(kind, i + 1, after))) {
+                m_items[kind].first += i + (after.isNull() ? 1 : 2);
                 return true;
             }
         }
@@ -119,6 +122,15 @@ private:
             text.append(item.data(), int(item.size()));
         }
     };
+
+    bool holds(Kind kind, int index, QStringView item)
+    {
+        Items &items = m_items[kind];
+        while (items.first + index >= items.places.size() && m_block.isValid()) {
+            readParagraph();
+        }
+        return items.first + index < items.places.size() && items.at(index) == item;
+    }
 
     void readParagraph()
     {
@@ -179,7 +191,7 @@ public:
 
     auto expectWord()
     {
-        return [this](QStringView word, int line) { expect(HeldContent::Word, word, line); };
+        return [this](QStringView word, int line) { expectNextWord(word, line); };
     }
 
     void visit(const GumboNode *parent, const QString &address, bool isInvisible = false)
@@ -203,7 +215,36 @@ public:
 
     void endWord() { m_words.end(expectWord()); }
 
+    /** To be called when all has been visited. */
+    void finish()
+    {
+        endWord();
+        if (!m_awaited.isEmpty()) {
+            expect(HeldContent::Word, m_awaited, m_awaitedLine);
+        }
+    }
+
 private:
+    // A word that is not the next one has to be found together with the one that follows it, as
+    // many words are frequent: one that is missing would else be found where it comes again.
+    void expectNextWord(QStringView word, int line)
+    {
+        if (!m_awaited.isEmpty()) {
+            const bool isFound = m_held.take(HeldContent::Word, m_awaited, word);
+            if (!isFound) {
+                addLoss(m_awaited, m_awaitedLine);
+            }
+            m_awaited.resize(0);
+            if (isFound) {
+                return;
+            }
+        }
+        if (!m_held.takeNext(HeldContent::Word, word)) {
+            m_awaited.append(word.data(), int(word.size()));
+            m_awaitedLine = line;
+        }
+    }
+
     // That of the page, or of the Markdown that it was made of, by paragraphs.
     int lineOf(const GumboNode *node) const { return m_line > 0 ? m_line : mrvLineOf(node); }
 
@@ -217,10 +258,14 @@ private:
 
     void expect(HeldContent::Kind kind, QStringView item, int line)
     {
-        QVector<MRVHtmlLoss> &losses = m_report->losses;
-        if (m_held.take(kind, item)) {
-            return;
+        if (!m_held.take(kind, item)) {
+            addLoss(item, line);
         }
+    }
+
+    void addLoss(QStringView item, int line)
+    {
+        QVector<MRVHtmlLoss> &losses = m_report->losses;
         if (!losses.isEmpty() && losses.constLast().line == line) {
             losses.last().what += u' ' + item.toString();
         } else {
@@ -333,6 +378,8 @@ private:
     HeldContent m_held;
     MRVHtmlReport *m_report;
     Words m_words;
+    QString m_awaited; // a word that was not the next one; empty for none
+    int m_awaitedLine = 0;
     QString m_address;
     int m_line = 0; // of Markdown; 0: there is none
     int m_quotations = 0; // around this place
@@ -345,5 +392,5 @@ void mrvCheckDocument(const MRVHtmlTree &tree, const MRVHtmlDisplays &displays,
 {
     Comparison comparison(displays, document, report);
     comparison.visit(tree.root(), QString());
-    comparison.endWord();
+    comparison.finish();
 }

@@ -2,6 +2,7 @@
 
 #include "markdown/mrvfrontmatter_p.h"
 #include "markdown/mrvmarkdowncost_p.h"
+#include "markdown/mrvmarkdownraw_p.h"
 #include "markdown/mrvmarkdownsyntax_p.h"
 #include "markdown/mrvmarkdowntree_p.h"
 #include "markdown/mrvsmartpunctuation_p.h"
@@ -108,6 +109,7 @@ QString convert(const QByteArray &text, MRVMarkdown::Options options, QSet<Place
     const NodePointer root(cmark_parser_finish(parser.get()), cmark_node_free);
     plain->unite(notes.subtract(notesOf(root.get())));
     mrvCompleteMarkdownTree(root.get());
+    mrvEscapeOpenTags(root.get());
     if (options.testFlag(MRVMarkdown::SmartPunctuation)) {
         mrvSmartenPunctuation(root.get());
     }
