@@ -63,8 +63,10 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
         const int frame = m_frames.value(i, -1);
         const int note = m_notes.beginningAt(i);
         if (frame >= 0 && frame != inside) {
-            closeContainers(0);
-            writeFrame(frame);
+            if (!m_notes.isMoved(i) || m_openNote >= 0) {
+                closeContainers(0);
+                writeFrame(frame);
+            }
             i = m_flow.frames.at(frame).end;
         } else if (!isWritten(i, begin, end)) {
             ++i;

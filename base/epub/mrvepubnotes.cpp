@@ -12,10 +12,31 @@ namespace {
 
 constexpr int LongestMark = 8;
 
+// What stands for a note instead of a number.
+bool isStar(QChar c)
+{
+    return QStringView(u"*\u2020\u2021\u00a7\u00b6").contains(c);
+}
+
+// What may stand around a label.
+bool isFrame(QChar c)
+{
+    return !c.isLetterOrNumber() && !isStar(c);
+}
+
 } // namespace
 
 struct MRVEPubNotes::Finder
 {
+    using Look = QPair<int, int>; // a left margin and a size of text
+    struct Entry
+    {
+        int begin; // paragraphs, up to end
+        int end;
+        QVector<int> marks;
+        QVector<int> backLinks;
+    };
+
     Finder(MRVEPubNotes *target, MRVEPubFormats *allFormats)
         : notes(*target)
         , flow(target->m_flow)
@@ -26,11 +47,6 @@ struct MRVEPubNotes::Finder
                 places.insert(anchor.name, anchor.position);
             }
         }
-        for (const MRVEPubFrame &frame : flow.frames) {
-            bounds.append(frame.begin);
-            bounds.append(frame.end);
-        }
-        std::sort(bounds.begin(), bounds.end());
     }
 
     // Where a link within the document leads; -1 elsewhere.
@@ -39,16 +55,43 @@ struct MRVEPubNotes::Finder
         return link.address.startsWith(u'#') ? places.value(link.address.mid(1), -1) : -1;
     }
 
-    bool isMark(const MRVEPubLink &link) const
+    QStringView textOf(const MRVEPubLink &link) const
     {
-        const QStringView text =
-            QStringView(flow.text).mid(link.begin, link.end - link.begin).trimmed();
+        return QStringView(flow.text).mid(link.begin, link.end - link.begin).trimmed();
+    }
+
+    bool isMark(const MRVEPubLink &link)
+    {
+        const QStringView text = textOf(link);
         if (text.isEmpty() || text.size() > LongestMark) {
             return false;
         }
+        const auto isSign = [](QChar c) { return c.isDigit() || isStar(c); };
         const bool isBracketed = text.front() == u'[' || text.front() == u'(';
-        return isBracketed || isRaised(link.begin)
-            || std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+        return (isBracketed || isRaised(link.begin)
+                || std::all_of(text.begin(), text.end(), isSign))
+            && isInText(link);
+    }
+
+    // Whether there is more in the paragraph than links, as there is not in a table of contents.
+    bool isInText(const MRVEPubLink &link)
+    {
+        const int index = flow.paragraphAt(link.begin);
+        if (index == textParagraph) {
+            return isText;
+        }
+        textParagraph = index;
+        isText = false;
+        int at = flow.paragraphs.at(index).position;
+        const int end = flow.paragraphs.at(index + 1).firstFragment;
+        for (int i = flow.paragraphs.at(index).firstFragment; i < end && !isText; ++i) {
+            const MRVEPubFragment &part = flow.fragments.at(i);
+            const QStringView text = QStringView(flow.text).mid(at, part.length);
+            isText = formats.text(part.format).address.isEmpty()
+                && std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+            at += part.length;
+        }
+        return isText;
     }
 
     bool isRaised(int position) const
@@ -64,7 +107,7 @@ struct MRVEPubNotes::Finder
     }
 
     // The paragraph that a mark leads to the beginning of; -1 where it does not.
-    int noteParagraph(const MRVEPubLink &link) const
+    int noteParagraph(const MRVEPubLink &link)
     {
         const int position = targetOf(link);
         if (position < link.end) {
@@ -81,77 +124,148 @@ struct MRVEPubNotes::Finder
 
     void find()
     {
-        QMap<int, QVector<int>> candidates; // marks by paragraph
         for (const MRVEPubLink &link : flow.links) {
             const int paragraph = noteParagraph(link);
             if (paragraph >= 0) {
                 candidates[paragraph].append(link.begin);
             }
         }
-        for (auto it = candidates.begin(); it != candidates.end(); ++it) {
-            const auto next = std::next(it);
-            const int most = next == candidates.end() ? flow.count() : next.key();
-            addNote(it.key(), limit(it.key(), most), it.value());
-        }
-    }
-
-    // No note goes on beyond a heading, a rule or a table.
-    int limit(int begin, int most) const
-    {
-        const auto bound = std::upper_bound(bounds.begin(), bounds.end(), begin);
-        int end = bound == bounds.end() ? most : qMin(most, *bound);
-        if (flow.isInFrame(begin)) {
-            return begin + 1;
-        }
-        int last = begin + 1;
-        while (last < end && flow.paragraphs.at(last).headingLevel == 0 && !flow.hasRule(last)) {
-            ++last;
-        }
-        return last;
-    }
-
-    void addNote(int begin, int limit, const QVector<int> &marks)
-    {
-        const int firstLink =
-            int(std::lower_bound(flow.links.begin(), flow.links.end(),
-                                 flow.paragraphs.at(begin).position,
-                                 [](const MRVEPubLink &link, int at) { return link.begin < at; })
-                - flow.links.begin());
-        int end = 0;
-        QVector<int> backLinks;
-        for (int i = firstLink; i < flow.links.size(); ++i) {
-            const int paragraph = flow.paragraphAt(flow.links.at(i).begin);
-            if (paragraph >= limit) {
-                break;
-            }
-            if (leadsBack(flow.links.at(i), marks)) {
-                backLinks.append(flow.links.at(i).begin);
-                end = paragraph + 1;
-            }
-        }
-        if (backLinks.isEmpty()) {
+        if (candidates.isEmpty()) {
             return;
         }
-        const int mark = flow.paragraphAt(marks.constFirst());
-        MRVEPubNote note{begin, goesOnTo(begin, end, limit, mark), marks,
-                         nameOf(marks.constFirst())};
-        for (const int link : marks) {
-            notes.m_marks.insert(link, notes.m_notes.size());
+        readLooks();
+        QVector<Entry> group;
+        int end = 0; // of the section that the group stands in
+        for (auto it = candidates.constBegin(); it != candidates.constEnd(); ++it) {
+            if (it.key() >= end || flow.isInFrame(it.key())) {
+                addGroup(group, end);
+                group.clear();
+                end = sectionEnd(it.key());
+            }
+            const auto next = std::next(it);
+            const int limit = next == candidates.constEnd() ? end : qMin(end, next.key());
+            Entry entry{it.key(), it.key() + 1, it.value(), {}};
+            if (isNote(&entry, limit)) {
+                group.append(entry);
+            }
         }
-        for (const int link : qAsConst(backLinks)) {
-            notes.m_backLinks.insert(link, true);
-        }
-        notes.m_begins.insert(begin, notes.m_notes.size());
-        notes.m_notes.append(note);
+        addGroup(group, end);
     }
 
-    QString nameOf(int mark) const
+    // Up to a heading or a rule; in a table, each note stands alone.
+    int sectionEnd(int begin) const
     {
-        const auto link = std::lower_bound(
-            flow.links.begin(), flow.links.end(), mark,
-            [](const MRVEPubLink &one, int position) { return one.begin < position; });
-        return link->address.mid(1);
+        int end = begin + 1;
+        while (end < flow.count() && !flow.isInFrame(begin)
+               && (flow.isInFrame(end)
+                   || (flow.paragraphs.at(end).headingLevel == 0 && !flow.hasRule(end)))) {
+            ++end;
+        }
+        return end;
     }
+
+    // Where one of the notes of a section cannot be told from the text, all of them stay: a note
+    // that is torn apart is worse than one that stands where it was written.
+    void addGroup(QVector<Entry> group, int sectionEnd)
+    {
+        for (int i = 0; i < group.size(); ++i) {
+            const bool isLast = i + 1 == group.size();
+            Entry &entry = group[i];
+            entry.end = flow.paragraphs.at(entry.begin).list >= 0
+                ? itemEnd(entry.begin, isLast ? sectionEnd : group.at(i + 1).begin)
+                : isLast ? noteEnd(entry, sectionEnd, true)
+                         : noteEnd(entry, group.at(i + 1).begin, false);
+            if (entry.end < 0) {
+                return;
+            }
+        }
+        for (const Entry &entry : qAsConst(group)) {
+            addNote(entry);
+        }
+    }
+
+    void addNote(const Entry &entry)
+    {
+        for (const int link : entry.marks) {
+            notes.m_marks.insert(link, notes.m_notes.size());
+        }
+        for (const int link : entry.backLinks) {
+            notes.m_backLinks.insert(link, true);
+        }
+        notes.m_begins.insert(entry.begin, notes.m_notes.size());
+        notes.m_notes.append(
+            {entry.begin, entry.end, entry.marks, nameOf(entry.marks.constFirst())});
+    }
+
+    // Finds what leads back from a note, which begins with its label or a link back, or ends with
+    // an arrow.
+    bool isNote(Entry *entry, int limit) const
+    {
+        const bool isItem = flow.paragraphs.at(entry->begin).list >= 0;
+        const int end = isItem ? qMax(entry->begin + 1, itemEnd(entry->begin, limit)) : limit;
+        const int position = flow.paragraphs.at(entry->begin).position;
+        bool is = beginsWithLabel(*entry);
+        for (auto link = linkAt(position); link != flow.links.end(); ++link) {
+            const int paragraph = flow.paragraphAt(link->begin);
+            if (paragraph >= end) {
+                break;
+            }
+            const bool isArrow = isArrowAtEnd(*link, paragraph);
+            if ((paragraph == entry->begin || isItem || isArrow)
+                && leadsBack(*link, entry->marks)) {
+                entry->backLinks.append(link->begin);
+                entry->end = paragraph + 1;
+                const QStringView before =
+                    QStringView(flow.text).mid(position, link->begin - position);
+                is = is || isArrow || std::all_of(before.begin(), before.end(), isFrame);
+            }
+        }
+        return is && !entry->backLinks.isEmpty();
+    }
+
+    bool beginsWithLabel(const Entry &entry) const
+    {
+        QStringView label = textOf(*linkAt(entry.marks.constFirst()));
+        while (!label.isEmpty() && isFrame(label.front())) {
+            label = label.mid(1);
+        }
+        while (!label.isEmpty() && isFrame(label.back())) {
+            label.chop(1);
+        }
+        const MRVEPubParagraph &paragraph = flow.paragraphs.at(entry.begin);
+        QStringView text = flow.textOf(paragraph);
+        while (!text.isEmpty() && isFrame(text.front())) {
+            text = text.mid(1);
+        }
+        const bool begins = text.startsWith(label)
+            && (text.size() == label.size() || !text.at(label.size()).isLetterOrNumber());
+        const bool isNumber = paragraph.list >= 0 && label.toInt() == paragraph.itemNumber;
+        return !label.isEmpty() && (begins || isNumber);
+    }
+
+    bool isArrowAtEnd(const MRVEPubLink &link, int paragraph) const
+    {
+        const QStringView text = textOf(link);
+        const auto isSymbol = [](QChar c) {
+            return (c.category() >= QChar::Symbol_Math && c.category() <= QChar::Symbol_Other)
+                || c.isSurrogate();
+        };
+        const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
+        const QStringView after =
+            QStringView(flow.text).mid(link.end, place.position + place.length - link.end);
+        return std::any_of(text.begin(), text.end(), isSymbol)
+            && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); })
+            && std::none_of(after.begin(), after.end(),
+                            [](QChar c) { return c.isLetterOrNumber(); });
+    }
+
+    QVector<MRVEPubLink>::const_iterator linkAt(int position) const
+    {
+        return std::lower_bound(flow.links.begin(), flow.links.end(), position,
+                                [](const MRVEPubLink &one, int at) { return one.begin < at; });
+    }
+
+    QString nameOf(int mark) const { return linkAt(mark)->address.mid(1); }
 
     bool leadsBack(const MRVEPubLink &link, const QVector<int> &marks) const
     {
@@ -164,28 +278,117 @@ struct MRVEPubNotes::Finder
                            [&](int mark) { return flow.paragraphAt(mark) == paragraph; });
     }
 
-    // Further paragraphs of the list item, or those that are set apart from the text as the first.
-    int goesOnTo(int begin, int end, int limit, int mark) const
+    // Where a list item ends; -1 where what follows cannot be told from it, or where it is an item
+    // of the same list that is no note.
+    int itemEnd(int begin, int limit) const
     {
         const MRVEPubParagraph &first = flow.paragraphs.at(begin);
-        const MRVEPubParagraphFormat &format = formats.paragraph(first.format);
-        int last = end;
-        for (; last < limit; ++last) {
-            const MRVEPubParagraph &next = flow.paragraphs.at(last);
-            const MRVEPubParagraphFormat &other = formats.paragraph(next.format);
-            if (first.list >= 0) {
-                const bool isInside = next.list >= 0 ? next.list != first.list
-                        && other.indent >= format.indent && depthOf(next) > depthOf(first)
-                                                     : other.indent >= depthOf(first);
-                if (!isInside || flow.isBlank(last)) {
-                    break;
-                }
-            } else if (next.list >= 0 || flow.isBlank(last) || leftOf(begin) == leftOf(mark)
-                       || leftOf(begin) != leftOf(last)) {
-                break;
+        const int indent = formats.paragraph(first.format).indent;
+        int end = begin + 1;
+        bool isOpen = false; // since a table
+        for (int i = end; i < limit; ++i) {
+            const MRVEPubParagraph &next = flow.paragraphs.at(i);
+            if (flow.isInFrame(i) || flow.isBlank(i)) {
+                isOpen = isOpen || flow.isInFrame(i);
+                continue;
+            }
+            const int other = formats.paragraph(next.format).indent;
+            const bool isInside = next.list >= 0
+                ? next.list != first.list && other >= indent && depthOf(next) > depthOf(first)
+                : other >= depthOf(first);
+            if (!isInside) {
+                return isOpen || next.list == first.list ? -1 : end;
+            }
+            end = i + 1;
+            isOpen = false;
+        }
+        const bool hasNext = limit < flow.count() && flow.paragraphs.at(limit).list == first.list;
+        return !isOpen ? end : hasNext ? limit : -1;
+    }
+
+    // Where a note ends: all up to the next note is its own, but for text that looks like the
+    // body's where the note does not. The last one has only what looks as it does. -1 where it
+    // cannot be told.
+    int noteEnd(const Entry &note, int limit, bool isLast) const
+    {
+        const Look &own = looks.at(note.begin);
+        const Look &around = looks.at(flow.paragraphAt(note.marks.constFirst()));
+        const bool isApart = own != body && own != around;
+        int end = note.end;
+        int last = end; // what is not blank ends
+        for (int i = end; i < limit; ++i) {
+            if (flow.isInFrame(i)) {
+                last = i + 1;
+                continue;
+            }
+            if (flow.isBlank(i)) {
+                continue;
+            }
+            const Look &look = looks.at(i);
+            if (isApart && (look == body || look == around)) {
+                return last > end ? -1 : end;
+            }
+            if (candidates.contains(i) || (look != own && holdsMark(i))
+                || (!isApart && (isLast || holdsMark(i)))) {
+                return -1;
+            }
+            last = i + 1;
+            end = isApart && look == own && flow.paragraphs.at(i).list < 0 ? last : end;
+        }
+        return isLast && last > end ? -1 : last;
+    }
+
+    bool holdsMark(int paragraph) const
+    {
+        const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
+        for (auto link = linkAt(place.position);
+             link != flow.links.end() && link->begin < place.position + place.length; ++link) {
+            if (targetOf(*link) >= 0
+                && candidates.value(flow.paragraphAt(targetOf(*link))).contains(link->begin)) {
+                return true;
             }
         }
-        return last;
+        return false;
+    }
+
+    // What sets paragraphs apart; that of most of the text before notes is the body's.
+    void readLooks()
+    {
+        QMap<Look, int> lengths;
+        looks.reserve(flow.count());
+        bool isBody = true;
+        for (int i = 0; i < flow.count(); ++i) {
+            looks.append({leftOf(i), sizeOf(i)});
+            const MRVEPubParagraph &paragraph = flow.paragraphs.at(i);
+            if (flow.isInFrame(i)) {
+                continue;
+            }
+            isBody = !candidates.contains(i)
+                && (isBody || paragraph.headingLevel > 0 || flow.hasRule(i));
+            if (isBody && paragraph.headingLevel == 0 && paragraph.list < 0) {
+                lengths[looks.constLast()] += paragraph.length;
+            }
+        }
+        int longest = 0;
+        for (auto it = lengths.constBegin(); it != lengths.constEnd(); ++it) {
+            body = it.value() > longest ? it.key() : body;
+            longest = qMax(longest, it.value());
+        }
+    }
+
+    // Of the longest stretch of text.
+    int sizeOf(int paragraph) const
+    {
+        const int end = flow.paragraphs.at(paragraph + 1).firstFragment;
+        int size = 0;
+        int longest = 0;
+        for (int i = flow.paragraphs.at(paragraph).firstFragment; i < end; ++i) {
+            const MRVEPubFragment &fragment = flow.fragments.at(i);
+            const int other = formats.text(fragment.format).look[MRVEPubTextLook::Size];
+            size = fragment.length > longest ? other : size;
+            longest = qMax(longest, fragment.length);
+        }
+        return size;
     }
 
     int depthOf(const MRVEPubParagraph &item) const
@@ -204,7 +407,11 @@ struct MRVEPubNotes::Finder
     const MRVEPubFlow &flow;
     MRVEPubFormats &formats;
     QHash<QString, int> places;
-    QVector<int> bounds; // of tables and frames
+    QMap<int, QVector<int>> candidates; // marks by the paragraph that they lead to
+    QVector<Look> looks; // of paragraphs
+    Look body;
+    int textParagraph = -1; // the last one that was looked at for text
+    bool isText = false;
 };
 
 MRVEPubNotes::MRVEPubNotes(const MRVEPubFlow &flow, MRVEPubFormats *formats)
