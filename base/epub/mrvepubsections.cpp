@@ -1,5 +1,6 @@
 #include "epub/mrvepubsections_p.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -7,7 +8,7 @@
 namespace {
 
 // Kinds with the words that headings of them begin with, all in lower case and without accents.
-// Where there is a "#", a number or a name follows, or stands before; others are the whole heading.
+// A "#" stands for a number. What follows must be set off, as in "Prologue: The Storm".
 // clang-format off
 constexpr struct
 {
@@ -36,7 +37,26 @@ constexpr struct
 };
 // clang-format on
 
-// Lower case, without accents and what frames or ends a heading.
+// Digits, Roman figures, a single letter, and the words of the four languages.
+constexpr const char *number =
+    "(?:[0-9]+(?:st|nd|rd|th|er|re|e)?|(?=[mdclxvi])m*(?:c[md]|d?c{0,3})(?:x[cl]|l?x{0,3})"
+    "(?:i[xv]|v?i{0,3})|[a-z]|(?:(?:twenty|thirty|forty|fifty)-)?(?:one|two|three|four|five|six|"
+    "seven|eight|nine|first|second|third|fourth|fifth|sixth|seventh|eighth|ninth)|ten|eleven|"
+    "twelve|(?:thir|four|fif|six|seven|eigh|nine)teen|(?:ten|eleven|twelf|(?:thir|four|fif|six|"
+    "seven|eigh|nine)teen|twentie)th|twenty|thirty|forty|fifty|eins|(?:(?:ein|zwei|drei|vier|funf|"
+    "sechs|sieben|acht|neun)und)?(?:zwanzig|dreissig|vierzig|funfzig)(?:ste[rs]?)?|zwei|drei|vier|"
+    "funf|sechs|sieben|acht|neun|zehn|elf|zwolf|(?:drei|vier|funf|sech|sieb|acht|neun)zehn|(?:ers|"
+    "zwei|drit|vier|funf|sechs|sieb|sieben|ach|neun|zehn|elf|zwolf|(?:drei|vier|funf|sech|sieb|"
+    "acht|neun)zehn)te[rs]?|(?:(?:vingt|trente|quarante|cinquante)[- ](?:et[- ])?)?(?:une?|deux|"
+    "trois|quatre|cinq|six|sept|huit|neuf)|dix(?:-(?:sept|huit|neuf))?|onze|douze|treize|quatorze|"
+    "quinze|seize|vingt|trente|quarante|cinquante|premiere?|seconde|(?:deux|trois|quatr|cinqu|six|"
+    "sept|huit|neuv|dix|onz|douz|treiz|quatorz|quinz|seiz|vingt)ieme|(?:(?:treinta|cuarenta|"
+    "cincuenta) y )?(?:un[oa]|dos|tres|cuatro|cinco|seis|siete|ocho|nueve)|diez|once|doce|trece|"
+    "catorce|quince|dieci(?:seis|siete|ocho|nueve)|veinte|veinti(?:un[oa]|dos|tres|cuatro|cinco|"
+    "seis|siete|ocho|nueve)|treinta|cuarenta|cincuenta|(?:primer|segund|tercer|cuart|quint|sext|"
+    "septim|octav|noven|decim)[oa]?)";
+
+// Lower case, without accents and what frames or ends a heading; " |" is what sets off a title.
 QString plain(const QString &heading)
 {
     QString text;
@@ -48,31 +68,55 @@ QString plain(const QString &heading)
             text += u'\'';
         } else if (c.isLetterOrNumber() || c == u'\'' || c == u'-') {
             text += c;
+        } else if (QStringView(u":.\u2013\u2014").contains(c)) {
+            text += QLatin1String(" | ");
         } else if (!c.isMark()) {
             text += u' ';
         }
     }
-    return text.simplified();
+    text = text.simplified().replace(QLatin1String(" - "), QLatin1String(" | "));
+    while (text.endsWith(QLatin1String(" |"))) {
+        text.chop(2);
+    }
+    return text;
+}
+
+// Whether a heading ends at a position, or goes on with a title that is set off.
+bool endsAt(const QString &heading, int position)
+{
+    return position == heading.size() || heading.midRef(position).startsWith(QLatin1String(" |"));
 }
 
 bool matches(const QString &heading, const QString &words)
 {
-    if (words.startsWith(u'#')) {
-        return heading.endsWith(QStringView(words).mid(1).toString());
+    static const QRegularExpression numbers(QStringLiteral("(?:(?:the|la|le|el|der|das) )?")
+                                            + QLatin1String(number) + QLatin1String("(?![^ ])"));
+    const int place = words.indexOf(u'#');
+    if (!heading.startsWith(words.left(place))) {
+        return false;
     }
-    if (!words.endsWith(u'#')) {
-        return heading == words;
+    if (place < 0) {
+        return endsAt(heading, words.size());
     }
-    return heading.startsWith(QStringView(words).chopped(1).toString());
+    const QRegularExpressionMatch match = numbers.match(
+        heading, place, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+    if (!match.hasMatch()) {
+        return false;
+    }
+    int end = match.capturedEnd();
+    const QString after = words.mid(place + 1);
+    if (!after.isEmpty() && heading.midRef(end).startsWith(QLatin1String(" |"))) {
+        end += 2; // "2. Teil"
+    }
+    return heading.midRef(end).startsWith(after) && endsAt(heading, end + after.size());
 }
 
 bool isNumber(const QString &heading)
 {
-    const auto isRoman = [](QChar c) { return QLatin1String("ivxlcdm").contains(c); };
-    const auto isDigit = [](QChar c) { return c.isDigit(); };
-    return !heading.isEmpty()
-        && (std::all_of(heading.begin(), heading.end(), isDigit)
-            || std::all_of(heading.begin(), heading.end(), isRoman));
+    static const QRegularExpression figures(
+        QStringLiteral("^(?:[0-9]+|(?=[mdclxvi])m*(?:c[md]|d?c{0,3})(?:x[cl]|l?x{0,3})"
+                       "(?:i[xv]|v?i{0,3}))$"));
+    return figures.match(heading).hasMatch();
 }
 
 } // namespace
