@@ -66,8 +66,8 @@ public:
      */
     QString toHtml(const QByteArray &bytes, MRVFormat::Format format, QString *error = nullptr);
     /**
-     * Words of the last document, a DOCX or ODT, that the page lacks, sorted, in lower case; empty
-     * if all is well. No page lacks a word without this.
+     * Words of the last document that the page lacks, sorted, in lower case; empty if all is well.
+     * No page lacks a word without this.
      */
     QStringList missingWords() const { return m_missingWords; }
     /** What the converter said of the last document, a line each, in English. */

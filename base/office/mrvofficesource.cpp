@@ -1,5 +1,6 @@
 #include "office/mrvofficesource_p.h"
 
+#include "office/mrvofficertf_p.h"
 #include "office/mrvofficetext_p.h"
 
 #include <memory>
@@ -91,6 +92,7 @@ MRVOfficeSource::MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format form
 {
     if (format == MRVFormat::RTF) {
         m_prepared = mrvPreparedRtf(bytes);
+        mrvCountWords(mrvRtfText(bytes), &m_words);
     } else {
         readArchive(bytes, format);
     }

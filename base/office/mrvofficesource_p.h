@@ -19,15 +19,15 @@ public:
 
     /**
      * The document, written so that pandoc keeps what it would lose: rows of headings and names of
-     * places in ODT, names before paragraphs, fields and moved text in DOCX, characters and notes
-     * in RTF.
+     * places in ODT, names before paragraphs, fields and moved text in DOCX, characters, notes,
+     * fields and boxes in RTF.
      */
     QByteArray prepared() const { return m_prepared; }
 
     /** @p html of the prepared document, with anchors where prepared() has marked names. */
     static QString withAnchors(QString html);
 
-    /** Words of the document that @p html lacks, sorted; none for RTF. */
+    /** Words of the document that @p html lacks, sorted. */
     QStringList missingFrom(const QString &html) const;
 
 private:

@@ -12,24 +12,6 @@ namespace {
 constexpr QChar MarkBegin(0xfdd0);
 constexpr QChar MarkEnd(0xfdd1);
 
-// A backslash with what belongs to it: "\u220", "\'fc", "\{".
-int controlEnd(const QByteArray &rtf, int begin)
-{
-    int at = begin + 1;
-    while (at < rtf.size() && isalpha(uchar(rtf.at(at)))) {
-        ++at;
-    }
-    if (at == begin + 1) {
-        return qMin(begin + (rtf.mid(at, 1) == "'" ? 4 : 2), rtf.size());
-    }
-    const int digits = at + (rtf.mid(at, 1) == "-" ? 1 : 0);
-    int end = digits;
-    while (end < rtf.size() && isdigit(uchar(rtf.at(end)))) {
-        ++end;
-    }
-    return end > digits ? end : at;
-}
-
 // The start of a tag with that name and the end of the tag; false without another one.
 bool findTag(const QByteArray &xml, const QByteArray &start, int from, int *begin, int *end)
 {
@@ -112,36 +94,6 @@ int startOfParagraph(const QByteArray &xml, int at)
 }
 
 } // namespace
-
-QByteArray mrvPreparedRtf(const QByteArray &rtf)
-{
-    QByteArray prepared;
-    prepared.reserve(rtf.size() + rtf.size() / 8);
-    const QByteArray note("{\\*\\footnote");
-    for (int at = 0; at < rtf.size();) {
-        if (rtf.at(at) == '{' && rtf.mid(at, note.size()) == note) {
-            prepared += "{\\footnote";
-            at += note.size();
-        } else if (rtf.at(at) != '\\') {
-            prepared += rtf.at(at++);
-        } else {
-            int end = controlEnd(rtf, at);
-            const QByteArray control = rtf.mid(at, end - at);
-            if (control.startsWith("\\bin") && control.size() > 4
-                && isdigit(uchar(control.at(4)))) {
-                end += int(qMin(control.mid(4).toLongLong() + 1, qint64(rtf.size() - end)));
-            }
-            prepared += rtf.mid(at, end - at);
-            const bool isCharacter = control.size() > 2 && control.at(1) == 'u'
-                && (isdigit(uchar(control.at(2))) || control.at(2) == '-');
-            if (isCharacter && end < rtf.size() && !strchr(" \\{}\r\n", rtf.at(end))) {
-                prepared += ' ';
-            }
-            at = end;
-        }
-    }
-    return prepared;
-}
 
 QByteArray mrvPreparedOdt(QByteArray xml)
 {

@@ -4,9 +4,6 @@
 #include <QHash>
 #include <QString>
 
-/** RTF as pandoc reads it: it takes a character too many after "\u220?", and no "\*\footnote". */
-QByteArray mrvPreparedRtf(const QByteArray &rtf);
-
 /**
  * The content of an ODT as pandoc reads it: it leaves out rows of headings, and gives names of
  * places others. Instead, U+FDD0, the name in hexadecimal digits and U+FDD1 mark a place.
