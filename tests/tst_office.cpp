@@ -134,14 +134,20 @@ private:
                           "xmlns:office:1.0\"><office:font-face-decls/><office:styles/>"
                           "<office:automatic-styles/><office:master-styles/>"
                           "</office:document-styles>");
-            zip.writeFile("Formula-1/content.xml", "<math><mi>Tide</mi><mn>7</mn></math>");
-            zip.writeFile(
-                "content.xml",
-                "<office:document-content xmlns:office=\"urn:oasis:names:tc:"
-                "opendocument:xmlns:office:1.0\" xmlns:text=\"urn:oasis:names:tc:"
-                "opendocument:xmlns:text:1.0\"><office:font-face-decls/><office:automatic-styles/>"
-                "<office:body><office:text>"
-                    + content + "</office:text></office:body></office:document-content>");
+            if (content.contains("draw:")) {
+                zip.writeFile("Formula/content.xml",
+                              "<math xmlns=\"http://www.w3.org/1998/Math/"
+                              "MathML\"><mi>x</mi><mn>7</mn></math>");
+            }
+            zip.writeFile("content.xml",
+                          "<office:document-content xmlns:office=\"urn:oasis:names:tc:"
+                          "opendocument:xmlns:office:1.0\" xmlns:text=\"urn:oasis:names:tc:"
+                          "opendocument:xmlns:text:1.0\" "
+                          "xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+                          "xmlns:draw=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\"><"
+                          "office:font-face-decls/><office:automatic-styles/>"
+                          "<office:body><office:text>"
+                              + content + "</office:text></office:body></office:document-content>");
         } else {
             zip.writeFile("_rels/.rels",
                           "<Relationships><Relationship Target=\"word/document.xml\" "

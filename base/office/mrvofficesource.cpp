@@ -117,6 +117,7 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
     for (zip_uint64_t i = 0; i < zip_uint64_t(zip_get_num_entries(archive.get(), 0)) && ok; ++i) {
         const char *name = zip_get_name(archive.get(), i, 0);
         if (!hasText(format, QString::fromUtf8(name))) {
+            readFormula(archive.get(), i, name);
             ok = copyFile(archive.get(), i, written.get());
             continue;
         }
@@ -138,6 +139,18 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
     }
 }
 
+// In an ODT, each is a document in a folder of its own.
+void MRVOfficeSource::readFormula(zip_t *archive, quint64 index, const QByteArray &name)
+{
+    QByteArray content;
+    if (name.endsWith("/content.xml") && readFile(archive, index, &content)) {
+        const QString formula = mrvOfficeXmlText(content);
+        if (!formula.isEmpty()) {
+            m_formulas.append(formula);
+        }
+    }
+}
+
 QString MRVOfficeSource::withAnchors(QString html)
 {
     return mrvWithAnchors(html);
@@ -147,8 +160,13 @@ QStringList MRVOfficeSource::missingFrom(const QString &html) const
 {
     QHash<QString, int> found;
     mrvCountWords(mrvTextOfPage(html), &found);
+    // Their words cannot be compared, as they may be written as TeX.
+    QHash<QString, int> words = m_words;
+    if (html.count(QLatin1String("<span class=\"math ")) < m_formulas.size()) {
+        mrvCountWords(m_formulas.join(u' '), &words);
+    }
     QStringList missing;
-    for (auto it = m_words.constBegin(); it != m_words.constEnd(); ++it) {
+    for (auto it = words.constBegin(); it != words.constEnd(); ++it) {
         for (int i = found.value(it.key()); i < it.value(); ++i) {
             missing.append(it.key());
         }

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+struct zip;
+
 /**
  * A document of a word processor, as far as it takes to see that a converter loses nothing of it.
  *
@@ -18,8 +20,8 @@ public:
     MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format format);
 
     /**
-     * The document, written so that pandoc keeps what it would lose: rows of headings and names of
-     * places in ODT, names before paragraphs, fields and moved text in DOCX, characters, notes,
+     * The document, written so that pandoc keeps what it would lose: rows of headings, formulas and
+     * names of places in ODT, names before paragraphs, fields and moved text in DOCX, characters, notes,
      * fields and boxes in RTF.
      */
     QByteArray prepared() const { return m_prepared; }
@@ -32,7 +34,9 @@ public:
 
 private:
     void readArchive(const QByteArray &bytes, MRVFormat::Format format);
+    void readFormula(zip *archive, quint64 index, const QByteArray &name);
 
     QByteArray m_prepared;
     QHash<QString, int> m_words; // and how often each occurs
+    QStringList m_formulas; // of an ODT
 };

@@ -49,6 +49,25 @@ QByteArray attributeOf(const QByteArray &tag, const QByteArray &name)
     return begin < 0 ? QByteArray() : tag.mid(value, tag.indexOf('"', value) - value);
 }
 
+// Formulas are in folders, whose names may end with a slash.
+QByteArray withPlainFolders(const QByteArray &xml)
+{
+    QByteArray plain;
+    int done = 0;
+    int begin = 0;
+    int end = 0;
+    while (findTag(xml, "<draw:object", done, &begin, &end)) {
+        QByteArray tag = xml.mid(begin, end - begin);
+        const QByteArray folder = attributeOf(tag, "xlink:href");
+        if (folder.endsWith('/')) {
+            tag.replace('"' + folder + '"', '"' + folder.chopped(1) + '"');
+        }
+        plain += xml.mid(done, begin - done) + tag;
+        done = end;
+    }
+    return plain + xml.mid(done);
+}
+
 bool isSkipped(const QStringRef &name)
 {
     static const QStringList names{QStringLiteral("office:annotation"),
@@ -60,6 +79,8 @@ bool isSkipped(const QStringRef &name)
                                    QStringLiteral("svg:title"),
                                    QStringLiteral("svg:desc"),
                                    QStringLiteral("office:forms"),
+                                   QStringLiteral("annotation"),
+                                   QStringLiteral("math:annotation"),
                                    QStringLiteral("w:moveFrom"),
                                    QStringLiteral("w:del"),
                                    QStringLiteral("mc:Fallback"),
@@ -97,6 +118,7 @@ int startOfParagraph(const QByteArray &xml, int at)
 
 QByteArray mrvPreparedOdt(QByteArray xml)
 {
+    xml = withPlainFolders(xml);
     xml = withoutTags(xml, "table:table-header-rows");
     for (const char *start : {"<text:bookmark-start", "<text:bookmark"}) {
         QByteArray marked;
@@ -181,7 +203,9 @@ QString mrvOfficeXmlText(const QByteArray &xml)
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
-            isOdt = isOdt || reader.qualifiedName() == QLatin1String("office:text");
+            isOdt = isOdt || reader.qualifiedName() == QLatin1String("office:text")
+                || reader.qualifiedName() == QLatin1String("math")
+                || reader.qualifiedName() == QLatin1String("math:math");
             isText = reader.qualifiedName() == QLatin1String("w:t");
             if (isSkipped(reader.qualifiedName())) {
                 reader.skipCurrentElement();
