@@ -311,6 +311,7 @@ bool exportPackage(const Call &call, const Options &options,
         || !readStyleSheet(call.value("css"), &book.styleSheet, error)) {
         return false;
     }
+    book.areChapters = manuscripts.size() > 1;
     const bool isOld = call.value("epub-version") == QLatin1String("2");
     MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata, book);
     QVector<const QTextDocument *> documents;

@@ -120,6 +120,7 @@ private Q_SLOTS:
         MRVEPubOptions options;
         options.notes =
             cell("options") == "book" ? MRVEPubOptions::BookNotes : MRVEPubOptions::ChapterNotes;
+        options.areChapters = cell("options") == "chapters";
         const bool isOld = cell("options") == "epub2";
         MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata,
                                options);

@@ -5,7 +5,6 @@
 #include "markdown/mrvfrontmatter.h"
 #include "util/mrvfailure.h"
 #include "util/mrvnames.h"
-#include "xhtml/mrvdocumenttitle.h"
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvpicturereader.h"
@@ -13,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -283,7 +283,7 @@ void MRVEPubMetadata::completeFrom(const MRVEPubMetadata &other)
 void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript, QStringList *notes)
 {
     MRVEPubMetadata stated;
-    stated.title = mrvDocumentTitle(*manuscript.document, QString());
+    stated.title = manuscript.document->metaInformation(QTextDocument::DocumentTitle).simplified();
     for (const QString &author : manuscript.authors) {
         stated.set(QStringLiteral("author"), author);
     }

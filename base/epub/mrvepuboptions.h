@@ -39,4 +39,9 @@ struct MRVBASE_EXPORT MRVEPubOptions
     bool commentsAsNotes = false;
     /** How many levels of headings the table of contents shows; 0: all. */
     int contentsDepth = 0;
+    /**
+     * Whether the documents are chapters or parts of a book. The one heading of a document's
+     * outermost level is then its chapter, not the title of a book whose chapters are below it.
+     */
+    bool areChapters = false;
 };

@@ -14,12 +14,16 @@ constexpr int LargestPage = 1000000;
 
 } // namespace
 
-MRVEPubPages::MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats)
+MRVEPubPages::MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats, const QString &title,
+                           bool isChapter)
     : m_flow(flow)
     , m_bounds{0, flow.count()}
 {
     readBlocks(formats);
     findLevels();
+    if (isChapter) {
+        keepChapter(title);
+    }
     cutAtHeadings();
     for (int level = m_lastLevel + 1; level <= 6; ++level) {
         cutPagesAbove(LargePage, [level](const Block &block) { return block.level == level; });
@@ -55,14 +59,20 @@ void MRVEPubPages::findLevels()
 {
     int counts[7] = {};
     int parts[7] = {};
+    int others[7] = {}; // front and back matter
     for (int i = 0; i < m_blocks.size(); ++i) {
         const Block &block = m_blocks.at(i);
         ++counts[block.level];
+        if (block.level > 0 && isNamed(block, false)) {
+            ++others[block.level];
+            continue;
+        }
         int next = i + 1;
         while (next < m_blocks.size() && m_blocks.at(next).isBlank) {
             ++next;
         }
-        if (block.level > 0 && next < m_blocks.size() && m_blocks.at(next).level > block.level) {
+        const bool isPart = next < m_blocks.size() && m_blocks.at(next).level > block.level;
+        if (block.level > 0 && (isPart || isNamed(block, true))) {
             ++parts[block.level];
         }
     }
@@ -73,8 +83,41 @@ void MRVEPubPages::findLevels()
     m_firstLevel = repeated(1); // a level that occurs once is the book's title
     m_lastLevel = m_firstLevel;
     const int chapters = m_firstLevel > 0 ? repeated(m_firstLevel + 1) : 0;
-    if (chapters > 0 && 2 * parts[m_firstLevel] > counts[m_firstLevel]) {
+    if (chapters > 0 && 2 * parts[m_firstLevel] > counts[m_firstLevel] - others[m_firstLevel]) {
         m_lastLevel = chapters;
+    }
+}
+
+// Whether a heading says that it is a part, or front or back matter.
+bool MRVEPubPages::isNamed(const Block &heading, bool isPart) const
+{
+    const MRVEPubSection *section = mrvEPubSectionOf(
+        m_flow.textOf(m_flow.paragraphs.at(heading.first)).toString().simplified());
+    return section && qstrcmp(section->type, "chapter") != 0
+        && (qstrcmp(section->type, "part") == 0) == isPart;
+}
+
+// A document with one outermost heading is the chapter that it names, or the part.
+void MRVEPubPages::keepChapter(const QString &title)
+{
+    const auto first = std::min_element(
+        m_blocks.begin(), m_blocks.end(), [](const Block &one, const Block &other) {
+            return one.level > 0 && (other.level == 0 || one.level < other.level);
+        });
+    if (first == m_blocks.end() || first->level == 0 || first->level == m_firstLevel) {
+        return;
+    }
+    const QString text = m_flow.textOf(m_flow.paragraphs.at(first->first)).toString().simplified();
+    const bool hasChapters =
+        std::any_of(m_blocks.begin(), m_blocks.end(), [this](const Block &block) {
+            return block.level > 0 && block.level == m_firstLevel
+                && mrvEPubSectionOf(
+                       m_flow.textOf(m_flow.paragraphs.at(block.first)).toString().simplified());
+        });
+    const bool isPart = isNamed(*first, true);
+    if (text.compare(title, Qt::CaseInsensitive) != 0 && (isPart || !hasChapters)) {
+        m_lastLevel = isPart && m_firstLevel > 0 ? m_firstLevel : first->level;
+        m_firstLevel = first->level;
     }
 }
 

@@ -18,7 +18,12 @@ class MRVEPubFormats;
 class MRVEPubPages
 {
 public:
-    MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats);
+    /**
+     * @param title of the book; the one heading that says it is not a chapter.
+     * @param isChapter whether the document is a chapter or a part of the book.
+     */
+    MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats, const QString &title,
+                 bool isChapter);
 
     /** The first paragraph of each page; the first one is 0. */
     QVector<int> starts() const { return m_bounds.mid(0, m_bounds.size() - 1); }
@@ -39,6 +44,8 @@ private:
 
     void readBlocks(MRVEPubFormats *formats);
     void findLevels();
+    void keepChapter(const QString &title);
+    bool isNamed(const Block &heading, bool isPart) const;
     void cutAtHeadings();
     int lengthOf(int begin, int end) const;
     template<typename IsStart>

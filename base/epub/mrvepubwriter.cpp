@@ -6,18 +6,23 @@
 #include "xhtml/mrvdocumenttitle.h"
 
 #include <QLocale>
+#include <QTextDocument>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int LongestTitlePage = 2000; // characters
+constexpr int LongestTitleLine = 80;
 
 } // namespace
 
 MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
-                             const QHash<QString, QString> &pictures)
+                             const QHash<QString, QString> &pictures, const QString &title)
     : m_book(*book)
     , m_flow(flow)
     , m_pictures(pictures)
+    , m_title(title)
     , m_isEPub3(book->version == MRVEPubVersion::EPub3)
     , m_direction(QLocale(book->language()).textDirection())
     , m_formats(flow, &book->looks, book->version, book->language())
@@ -35,12 +40,15 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
     if (!book->addAllPictures(document, &pictures, error)) {
         return false;
     }
+    // Otherwise the first heading gives the book a name, and may be a chapter's.
+    const bool isTitleKnown = !book->metadata.title.isEmpty()
+        || !document.metaInformation(QTextDocument::DocumentTitle).isEmpty();
     if (book->metadata.title.isEmpty()) {
         book->metadata.title = mrvDocumentTitle(document, QString());
     }
     const bool isFirst = book->pages.isEmpty();
     const MRVEPubFlow flow(document);
-    MRVEPubWriter(book, flow, pictures).write(fileName);
+    MRVEPubWriter(book, flow, pictures, isTitleKnown ? book->title() : QString()).write(fileName);
     if (isFirst) {
         book->addTitlePage();
     }
@@ -50,7 +58,7 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
 
 void MRVEPubWriter::write(const QString &fileName)
 {
-    const MRVEPubPages plan(m_flow, &m_formats);
+    const MRVEPubPages plan(m_flow, &m_formats, m_title, m_book.options.areChapters);
     QVector<int> starts = plan.starts();
     if (m_isEPub3) {
         m_notes.place(starts);
@@ -179,13 +187,29 @@ const MRVEPubSection *MRVEPubWriter::sectionOf(int heading, int end, const MRVEP
     if (const MRVEPubSection *section = mrvEPubSectionOf(headingText(heading))) {
         return section;
     }
-    const bool isTitle = level < plan.firstLevel() && m_book.pages.isEmpty()
-        && m_flow.paragraphs.at(end).position < LongestTitlePage;
-    if (isTitle) {
+    if (isTitle(heading, end, plan)) {
         return mrvEPubSection(QStringLiteral("titlepage"));
     }
     const bool isChapter = level >= plan.firstLevel() && level <= plan.lastLevel();
     return isChapter ? mrvEPubSection(QStringLiteral("chapter")) : nullptr;
+}
+
+// Whether the first page is the title's, with chapters after it: its heading says the title, or
+// stands above those of the chapters with nothing but short lines below.
+bool MRVEPubWriter::isTitle(int heading, int end, const MRVEPubPages &plan) const
+{
+    if (!m_book.pages.isEmpty() || end == m_flow.count()
+        || m_flow.paragraphs.at(end).position >= LongestTitlePage) {
+        return false;
+    }
+    if (!m_title.isEmpty() && headingText(heading).compare(m_title, Qt::CaseInsensitive) == 0) {
+        return true;
+    }
+    return m_flow.paragraphs.at(heading).headingLevel < plan.firstLevel()
+        && std::all_of(m_flow.paragraphs.begin() + heading + 1, m_flow.paragraphs.begin() + end,
+                       [](const MRVEPubParagraph &paragraph) {
+                           return paragraph.length <= LongestTitleLine;
+                       });
 }
 
 void MRVEPubWriter::openSection(const MRVEPubSection &section)

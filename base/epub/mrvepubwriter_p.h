@@ -72,7 +72,7 @@ private:
 
     // Pictures are paths in the package by resource id; empty for those that it cannot hold.
     MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
-                  const QHash<QString, QString> &pictures);
+                  const QHash<QString, QString> &pictures, const QString &title);
 
     // Pages: mrvepubwriter.cpp
     void write(const QString &fileName);
@@ -80,6 +80,7 @@ private:
     int openSections(int begin, int end, const MRVEPubPages &plan);
     int openChapter(int begin, int first, int end, const MRVEPubPages &plan);
     bool isTitlePage(int begin, int end) const;
+    bool isTitle(int heading, int end, const MRVEPubPages &plan) const;
     const MRVEPubSection *sectionOf(int heading, int end, const MRVEPubPages &plan) const;
     void openSection(const MRVEPubSection &section);
     QString headingText(int paragraph) const;
@@ -141,6 +142,7 @@ private:
     MRVEPubBook &m_book;
     const MRVEPubFlow &m_flow;
     const QHash<QString, QString> &m_pictures;
+    const QString m_title; // of the book, where one is stated
     const bool m_isEPub3;
     const Qt::LayoutDirection m_direction; // of the book
     MRVEPubFormats m_formats;
