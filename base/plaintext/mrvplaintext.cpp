@@ -255,7 +255,11 @@ QString withoutHead(const QString &text, MRVMarkdownHead *head)
     const bool isKnown = std::all_of(lines.begin(), lines.end(), [](const QString &line) {
         return known.match(line).hasMatch();
     });
-    return isKnown ? rest : text;
+    if (!isKnown) {
+        *head = MRVMarkdownHead();
+        return text;
+    }
+    return rest;
 }
 
 } // namespace
@@ -263,7 +267,7 @@ QString withoutHead(const QString &text, MRVMarkdownHead *head)
 QString MRVPlainText::toHtml(const QString &text, MRVMarkdownHead *head)
 {
     MRVMarkdownHead read;
-    const QVector<MRVPlainGroup> groups = mrvPlainGroups(withoutHead(text, &read));
+    QVector<MRVPlainGroup> groups = mrvPlainGroups(withoutHead(text, &read));
     if (head) {
         *head = read;
     }
@@ -271,6 +275,7 @@ QString MRVPlainText::toHtml(const QString &text, MRVMarkdownHead *head)
         return QString();
     }
     Writer writer(mrvPlainLayout(groups));
+    groups = mrvWithHeadingsApart(groups);
     int group = 0;
     for (const MRVPlainBlock &block : mrvPlainBlocks(groups)) {
         if (block.level > 0) {

@@ -9,7 +9,7 @@
  * Plain text as HTML: paragraphs, chapters, breaks between scenes and verse, as the text itself
  * shows them.
  *
- * No character of the text but white space is left out, and none is added. What is no clear mark
+ * No character of the text but white space and control characters is left out, and none is added. What is no clear mark
  * stays a paragraph. Time and memory are linear in the text.
  *
  * @since 1.0
@@ -35,7 +35,7 @@ public:
      * - Rows of stars and similar characters are centred, those of hyphens and the like are rules.
      *
      * A block of lines such as "Title: ..." at the beginning is read as in MRVMarkdown::toHtml(),
-     * and left out if all of it went to @p head.
+     * and left out, if all of it can go to @p head; else it is text.
      *
      * @param head if given, receives the metadata; its former values are lost.
      */

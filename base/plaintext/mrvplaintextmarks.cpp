@@ -125,7 +125,49 @@ MRVPlainMark wordMark(const QString &line)
     return mark;
 }
 
+MRVPlainMark::Kind wordKind(const MRVPlainGroup &group, int i)
+{
+    const bool isLine = i >= 0 && i < group.size() && group.at(i).text.size() <= TitleLength;
+    return isLine ? wordMark(group.at(i).text).kind : MRVPlainMark::Text;
+}
+
+// Marks of one kind in lines after each other are a table of contents.
+bool isHeadingApart(const MRVPlainGroup &group, int i)
+{
+    const MRVPlainMark::Kind kind = wordKind(group, i);
+    const MRVPlainMark::Kind before = wordKind(group, i - 1);
+    if (kind == MRVPlainMark::Text || kind == before || kind == wordKind(group, i + 1)) {
+        return false;
+    }
+    const QString ends = QStringLiteral(".!?:\"'”’»…)*");
+    const bool isBegin = i == 0 || before != MRVPlainMark::Text
+        || ends.contains(group.at(i - 1).text.at(group.at(i - 1).text.size() - 1));
+    const bool isEnd = i + 1 == group.size() || group.at(i + 1).hasCapital();
+    return isBegin && isEnd;
+}
+
 } // namespace
+
+QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups)
+{
+    QVector<MRVPlainGroup> apart;
+    for (const MRVPlainGroup &group : groups) {
+        if (group.size() == 1 || mrvPlainMark(group).kind != MRVPlainMark::Text) {
+            apart.append(group);
+            continue;
+        }
+        bool begins = true;
+        for (int i = 0; i < group.size(); ++i) {
+            const bool isHeading = isHeadingApart(group, i);
+            if (begins || isHeading) {
+                apart.append(MRVPlainGroup());
+            }
+            apart.last().append(group.at(i));
+            begins = isHeading;
+        }
+    }
+    return apart;
+}
 
 MRVPlainMark mrvPlainMark(const MRVPlainGroup &group)
 {
@@ -141,6 +183,9 @@ MRVPlainMark mrvPlainMark(const MRVPlainGroup &group)
         return mark;
     }
     const MRVPlainGroup rest = group.mid(1);
+    if (wordKind(group, 1) != MRVPlainMark::Text) {
+        return mark; // a table of contents
+    }
     if (!rest.isEmpty() && !mrvIsPlainSubtitle(rest, QStringLiteral(",;:-\"”»"))) {
         return mark;
     }

@@ -23,6 +23,12 @@ struct MRVPlainMark
 MRVPlainMark mrvPlainMark(const MRVPlainGroup &group);
 
 /**
+ * The groups, with "Chapter 1" and the like as groups of their own where no blank line sets them
+ * apart: after a whole sentence, and before a line that begins with a capital.
+ */
+QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups);
+
+/**
  * Whether short lines may be the title of the chapter that is announced before them: none of them
  * ends with one of the characters @p ends.
  */
