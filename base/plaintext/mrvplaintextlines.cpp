@@ -46,8 +46,15 @@ int quantile(QVector<int> values, double share)
 
 bool isLineEnd(QChar character)
 {
-    return character == u'\n' || character == u'\r' || character == u'\f'
-        || character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+    return character == u'\n' || character == u'\r' || character == u'\f' || character == u'\v'
+        || character == QChar(0x85) || character == QChar::LineSeparator
+        || character == QChar::ParagraphSeparator;
+}
+
+// HTML has none. Files of DOS end with one.
+bool isControl(QChar character)
+{
+    return character != u'\t' && character.category() == QChar::Other_Control;
 }
 
 int widthOf(const MRVPlainGroup &group)
@@ -115,7 +122,7 @@ QVector<MRVPlainGroup> mrvPlainGroups(const QString &text)
             ++end;
         }
         QString line = text.mid(begin, end - begin);
-        line.remove(QChar::Null); // no character, and HTML has none
+        line.resize(int(std::remove_if(line.begin(), line.end(), isControl) - line.begin()));
         const QString shown = line.trimmed();
         if (!shown.isEmpty()) {
             if (!continues) {
