@@ -346,43 +346,34 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     return look;
 }
 
-const QByteArray &MRVEPubFormats::span(int index, const MRVEPubContext &context)
+QByteArray MRVEPubFormats::span(int index, const MRVEPubContext &context)
 {
-    Spans *spans = nullptr;
-    for (Spans &known : m_spans) {
-        if (known.context.size == context.size && known.context.isBold == context.isBold
-            && known.context.language == context.language) {
-            spans = &known;
-            break;
-        }
+    const QPair<int, QString> key(index,
+                                  QString::number(context.isBold ? -context.size : context.size)
+                                      + u' ' + context.language);
+    const auto known = m_spans.constFind(key);
+    if (known != m_spans.constEnd()) {
+        return *known;
     }
-    if (!spans) {
-        m_spans.append({context, QVector<QByteArray>(m_flow.formats.size()),
-                        QVector<bool>(m_flow.formats.size())});
-        spans = &m_spans.last();
+    QByteArray attributes;
+    const MRVEPubTextFormat &format = text(index);
+    MRVEPubTextLook look = format.look;
+    const int size = look[MRVEPubTextLook::Size];
+    look[MRVEPubTextLook::Size] = int(std::lround(100.0 * size / context.size));
+    if (look[MRVEPubTextLook::Size] == 100) {
+        look[MRVEPubTextLook::Size] = 0;
     }
-    QByteArray &attributes = spans->ofFormats[index];
-    if (!spans->isKnown.at(index)) {
-        spans->isKnown[index] = true;
-        const MRVEPubTextFormat &format = text(index);
-        MRVEPubTextLook look = format.look;
-        const int size = look[MRVEPubTextLook::Size];
-        look[MRVEPubTextLook::Size] = int(std::lround(100.0 * size / context.size));
-        if (look[MRVEPubTextLook::Size] == 100) {
-            look[MRVEPubTextLook::Size] = 0;
-        }
-        if (context.isBold && !format.isBold) {
-            look[MRVEPubTextLook::Weight] = -1;
-        }
-        if (!look.isPlain()) {
-            attributes = " class=\"" + m_looks->textClass(look) + '"';
-        }
-        if (format.language != context.language && !format.isPicture) {
-            const QByteArray language =
-                (format.language.isEmpty() ? m_language : format.language).toUtf8();
-            attributes += (m_version == MRVEPubVersion::EPub3 ? " lang=\"" + language + '"' : "")
-                + QByteArray(" xml:lang=\"") + language + '"';
-        }
+    if (context.isBold && !format.isBold) {
+        look[MRVEPubTextLook::Weight] = -1;
     }
-    return attributes;
+    if (!look.isPlain()) {
+        attributes = " class=\"" + m_looks->textClass(look) + '"';
+    }
+    if (format.language != context.language && !format.isPicture) {
+        const QByteArray language =
+            (format.language.isEmpty() ? m_language : format.language).toUtf8();
+        attributes += (m_version == MRVEPubVersion::EPub3 ? " lang=\"" + language + '"' : "")
+            + QByteArray(" xml:lang=\"") + language + '"';
+    }
+    return m_spans.insert(key, attributes).value();
 }

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QPair>
 #include <QString>
 #include <QVector>
 
@@ -67,19 +68,12 @@ public:
     MRVEPubParagraphLook look(int paragraph, MRVEPubKind kind, int usedIndent,
                               MRVEPubContext *context);
     /** Attributes of the span that a text needs beside its elements; empty: none. */
-    const QByteArray &span(int index, const MRVEPubContext &context);
+    QByteArray span(int index, const MRVEPubContext &context);
     /** Languages of text that was looked at, beside the book's own, in order of appearance. */
     QStringList languages() const { return m_languages; }
     double bodyPixels() const { return m_bodyPixels; }
 
 private:
-    struct Spans
-    {
-        MRVEPubContext context;
-        QVector<QByteArray> ofFormats;
-        QVector<bool> isKnown;
-    };
-
     void findBody();
     MRVEPubTextFormat readText(const QTextCharFormat &format) const;
     void readLook(const QTextCharFormat &format, MRVEPubTextFormat *text) const;
@@ -97,5 +91,5 @@ private:
     QStringList m_languages;
     QVector<MRVEPubTextFormat> m_texts;
     QVector<MRVEPubParagraphFormat> m_paragraphs;
-    QVector<Spans> m_spans;
+    QHash<QPair<int, QString>, QByteArray> m_spans; // by format and context
 };
