@@ -253,8 +253,13 @@ void MRVEPubWriter::writeNotes()
     }
     m_out.append(
         element("<section class=\"notes\" epub:type=\"footnotes\">\n", "<div class=\"notes\">\n"));
-    for (int i = 0; i < m_pageNotes.size(); ++i) {
-        const int note = m_pageNotes.at(i);
+    int comment = 0;
+    for (int i = 0; i < m_pageNotes.size() || comment < m_comments.size();) {
+        if (i == m_pageNotes.size()) {
+            writeComment(Comment(m_comments.at(comment++))); // it may have marks of notes
+            continue;
+        }
+        const int note = m_pageNotes.at(i++);
         const int heading = m_notes.all().at(note).heading;
         if (heading >= 0) {
             m_openNote = note;
@@ -262,9 +267,6 @@ void MRVEPubWriter::writeNotes()
             m_openNote = -1;
         }
         writeNote(note, -1);
-    }
-    for (int i = 0; i < m_comments.size(); ++i) {
-        writeComment(Comment(m_comments.at(i)));
     }
     m_out.append(element("</section>\n", "</div>\n"));
     m_pageNotes.clear();
