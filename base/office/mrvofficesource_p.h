@@ -21,8 +21,8 @@ public:
 
     /**
      * The document, written so that pandoc keeps what it would lose: rows of headings, formulas and
-     * names of places in ODT, names before paragraphs, fields and moved text in DOCX, characters, notes,
-     * fields and boxes in RTF.
+     * names of places in ODT, names before paragraphs, fields and moved text in DOCX, characters,
+     * notes, fields and boxes in RTF.
      */
     QByteArray prepared() const { return m_prepared; }
 

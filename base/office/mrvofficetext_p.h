@@ -6,7 +6,8 @@
 
 /**
  * The content of an ODT as pandoc reads it: it leaves out rows of headings and formulas whose
- * folder is named with a slash, and gives names of places others. Instead, U+FDD0, the name in hexadecimal digits and U+FDD1 mark a place.
+ * folder is named with a slash, and gives names of places others. Instead, U+FDD0, the
+ * name in hexadecimal digits and U+FDD1 mark a place.
  */
 QByteArray mrvPreparedOdt(QByteArray xml);
 /** The anchors of the places that mrvPreparedOdt() has marked; nothing else of that is left. */
@@ -18,7 +19,10 @@ QString mrvWithAnchors(const QString &html);
  */
 QByteArray mrvPreparedDocx(QByteArray xml);
 
-/** The text of an ODT, of a formula in it, or of a part of a DOCX that a reader of the book is to see, up to a fault. */
+/**
+ * The text of an ODT, of a formula in it, or of a part of a DOCX that a reader of the book is to
+ * see, up to a fault.
+ */
 QString mrvOfficeXmlText(const QByteArray &xml);
 /** The text of a page that pandoc has written. */
 QString mrvTextOfPage(const QString &html);

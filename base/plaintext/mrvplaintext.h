@@ -9,7 +9,8 @@
  * Plain text as HTML: paragraphs, chapters, breaks between scenes and verse, as the text itself
  * shows them.
  *
- * No character of the text but white space and control characters is left out, and none is added. What is no clear mark
+ * No character of the text but white space and control characters is left out, and none is
+ * added. What is no clear mark
  * stays a paragraph. Time and memory are linear in the text.
  *
  * @since 1.0
