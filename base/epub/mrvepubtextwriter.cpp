@@ -296,11 +296,15 @@ QByteArray MRVEPubWriter::takeId(int format, const QString &preferred)
     if (format < 0 || !m_formats.text(format).hasNames) {
         return QByteArray();
     }
-    QStringList names = m_flow.formats.at(format).toCharFormat().anchorNames();
-    if (names.contains(preferred)) {
-        names.prepend(preferred);
+    auto names = m_names.find(format);
+    if (names == m_names.end()) {
+        names = m_names.insert(format, m_flow.formats.at(format).toCharFormat().anchorNames());
     }
-    for (const QString &name : qAsConst(names)) {
+    if (!preferred.isEmpty() && names->contains(preferred)) {
+        names->prepend(preferred);
+    }
+    while (!names->isEmpty()) {
+        const QString name = names->takeFirst();
         if (!name.isEmpty() && !m_targets.targets.contains(name) && printedPage(name).isEmpty()) {
             const QByteArray id = uniqueId(name);
             m_targets.targets.insert(name, m_page.fileName + u'#' + QString::fromUtf8(id));
@@ -312,6 +316,10 @@ QByteArray MRVEPubWriter::takeId(int format, const QString &preferred)
 
 void MRVEPubWriter::writePageBreaks(int format)
 {
+    if (m_hasPageBreaks.contains(format)) {
+        return;
+    }
+    m_hasPageBreaks.insert(format);
     const QStringList names = m_flow.formats.at(format).toCharFormat().anchorNames();
     for (const QString &name : names) {
         const QString label = printedPage(name);

@@ -7,6 +7,8 @@
 #include "epub/mrvepubnotes_p.h"
 
 #include <QHash>
+#include <QSet>
+#include <QStringList>
 #include <QTextTableCell>
 #include <QVector>
 
@@ -163,5 +165,7 @@ private:
     QHash<int, bool> m_isNoteWritten;
     QVector<Comment> m_comments; // whose marks stand on the page
     MRVEPubAnchors m_targets;
+    QHash<int, QStringList> m_names; // of formats, without those that have an id
+    QSet<int> m_hasPageBreaks; // formats whose printed pages are written
     QHash<QString, int> m_linkNumbers;
 };
