@@ -329,6 +329,12 @@ bool exportPackage(const Call &call, const Options &options,
     if (!acceptLosses(options, package.losses(documents), error)) {
         return false;
     }
+    const QStringList dead = package.deadLinks();
+    if (!dead.isEmpty()) {
+        printError(
+            QStringLiteral("note: links that lead nowhere in the e-book, and are text there: ")
+            + dead.join(QLatin1String(", ")));
+    }
     const QStringList silent = options.input.strict ? package.picturesWithoutText() : QStringList();
     if (!silent.isEmpty()) {
         *error = QStringLiteral("no alternative text: ")

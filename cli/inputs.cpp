@@ -128,14 +128,14 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
         *error = reader.errorString() + hint(reader.error());
         return false;
     }
-    if (options.strict && !manuscript->isWhole()) {
-        *error = QStringLiteral("%1: %2").arg(path, manuscript->readingNotes().constFirst());
-        return false;
-    }
     if (options.pictures || !manuscript->isWhole()) {
         for (const QString &note : manuscript->readingNotes()) {
             printError(QStringLiteral("note: %1: %2").arg(path, note));
         }
+    }
+    if (options.strict && !manuscript->isWhole()) {
+        *error = QStringLiteral("%1: something would be lost, as the notes above say").arg(path);
+        return false;
     }
     const int dropped = manuscript->unreadablePictures.size();
     if (dropped > 0 && options.missingPictures == MRVManuscriptReader::Drop) {

@@ -428,11 +428,16 @@ private Q_SLOTS:
     {
         QTextDocument document;
         fill(&document, novel);
+        QTextDocument remote;
+        fill(&remote, "<p>(see<img src='http://x.example/a.png' alt='R'>this)</p>");
         QTextDocument missing;
         fill(&missing, "<p>Text <a href='https://a.org/'>unwritten</a> <img src='pic.png'></p>");
         MRVEPubPackage package;
         QVERIFY(package.addDocument(document, "novel.html"));
-        QCOMPARE(package.losses({&document}), QStringList());
+        QVERIFY(package.addDocument(remote));
+        QCOMPARE(package.losses({&document, &remote}), QStringList());
+        QCOMPARE(package.deadLinks(),
+                 QStringList({"other.html#there", "#nowhere", "file:///etc/passwd", "17"}));
         QCOMPARE(package.losses({&missing, &document}),
                  QStringList({"not in what was written, of the paragraph \"Text unwritten\": "
                               "Text unwritten",

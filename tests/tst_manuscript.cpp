@@ -105,7 +105,7 @@ private Q_SLOTS:
                               format.arg("2", "cut.png", "damaged")}));
         reader.setMissingPictures(MRVManuscriptReader::Drop);
         QVERIFY(reader.read(in("a.html"), &read));
-        QCOMPARE(read.document->toRawText(), QString("1A \u2029BA\ufffc"));
+        QCOMPARE(read.document->toRawText(), QString("1 A \u2029B A\ufffc"));
         QCOMPARE(read.readingNotes(), texts);
         QVERIFY(!read.isWhole());
         QTextCursor cursor(read.document.get());

@@ -270,7 +270,7 @@ private Q_SLOTS:
         }
         KZip book(in("out"));
         QVERIFY(book.open(QIODevice::ReadOnly));
-        QVERIFY(book.directory()->file("OEBPS/page-001.xhtml")->data().contains(">1A"));
+        QVERIFY(book.directory()->file("OEBPS/page-001.xhtml")->data().contains(">1 A"));
     }
 
 private:

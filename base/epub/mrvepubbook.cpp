@@ -226,6 +226,18 @@ int MRVEPubBook::linkedDocument(const QString &file, int document) const
     return documents.value(MRV::fileIdentity(MRV::localFile(file, folder)), -1);
 }
 
+QStringList MRVEPubBook::deadLinks() const
+{
+    QStringList dead;
+    for (const MRVEPubAddress &link : links) {
+        if (resolved(link.address, link.document).isEmpty()) {
+            dead.append(link.address);
+        }
+    }
+    dead.removeDuplicates();
+    return dead;
+}
+
 // Empty where the link leads to a place outside the book that a reader cannot open.
 QString MRVEPubBook::resolved(const QString &href, int document) const
 {

@@ -131,6 +131,8 @@ public:
     bool hasCoverPage() const { return !metadata.cover.isEmpty() || pages.isEmpty(); }
     /** The page with its links resolved. May be called from several threads. */
     QByteArray pageBytes(const MRVEPubPage &page) const;
+    /** The addresses of links that lead nowhere in the book, each once. */
+    QStringList deadLinks() const;
     QByteArray coverBytes() const;
     /** The base of the options, the rules of all looks, and the sheet of the options. */
     QByteArray styleSheet() const;

@@ -199,6 +199,11 @@ QStringList MRVEPubPackage::picturesWithoutText() const
     return m_book->picturesWithoutText;
 }
 
+QStringList MRVEPubPackage::deadLinks() const
+{
+    return m_book->deadLinks();
+}
+
 QByteArray MRVEPubPackage::toByteArray(QString *error) const
 {
     QBuffer buffer;

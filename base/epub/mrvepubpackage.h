@@ -104,6 +104,12 @@ public:
     bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
     /** The names of pictures without an alternative text, each once; decorations do not count. */
     QStringList picturesWithoutText() const;
+    /**
+     * The addresses of links that lead to no place of the book as it is now, and to none that a
+     * reader can open: to files, and to anchors that do not exist. Each once, in order of
+     * appearance; their texts are in the book.
+     */
+    QStringList deadLinks() const;
     /** How many pictures on other machines the manuscripts show, which are not in the e-book. */
     int remotePictures() const { return m_remotePictures; }
 

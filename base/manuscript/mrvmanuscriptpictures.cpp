@@ -176,6 +176,14 @@ void dropImages(QTextCursor *cursor, const ImageFragment &fragment)
                        .repeated(fragment.end - fragment.begin);
     if (text.isEmpty() && !fragment.format.anchorNames().isEmpty()) {
         text = QChar(0x200b);
+    } else if (!text.isEmpty()) {
+        const QTextDocument &document = *cursor->document();
+        if (document.characterAt(fragment.begin - 1).isLetterOrNumber()) {
+            text.prepend(u' ');
+        }
+        if (document.characterAt(fragment.end).isLetterOrNumber()) {
+            text.append(u' ');
+        }
     }
     QTextCharFormat format = fragment.format;
     for (int property :

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QVector>
 
+class QTextBlock;
 class QTextDocument;
 
 /**
@@ -88,6 +89,7 @@ private:
         QHash<QString, int> countedLinks(bool isBook) const;
     };
 
+    QString textOf(const QTextBlock &block) const;
     QStringList lostWords() const;
     QStringList lostLinks() const;
 
