@@ -331,9 +331,12 @@ bool exportPackage(const Call &call, const Options &options,
     }
     const QStringList dead = package.deadLinks();
     if (!dead.isEmpty()) {
-        printError(
-            QStringLiteral("note: links that lead nowhere in the e-book, and are text there: ")
-            + dead.join(QLatin1String(", ")));
+        constexpr int Shown = 5;
+        const QString first = QStringList(dead.mid(0, Shown)).join(QLatin1String(", "));
+        printError(QStringLiteral("note: links that lead nowhere in the e-book, and are text "
+                                  "there: %1 (%2%3)")
+                       .arg(QString::number(dead.size()), first,
+                            dead.size() > Shown ? QStringLiteral(", ...") : QString()));
     }
     const QStringList silent = options.input.strict ? package.picturesWithoutText() : QStringList();
     if (!silent.isEmpty()) {

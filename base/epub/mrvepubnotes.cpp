@@ -164,10 +164,11 @@ struct MRVEPubNotes::Finder
         return end;
     }
 
-    // Where one of the notes of a section cannot be told from the text, all of them stay: a note
-    // that is torn apart is worse than one that stands where it was written.
+    // A note that cannot be told from the text stays: one that is torn apart is worse than one that
+    // stands where it was written. Where that is true of half of a section's notes, all stay.
     void addGroup(QVector<Entry> group, int sectionEnd)
     {
+        QVector<Entry> certain;
         for (int i = 0; i < group.size(); ++i) {
             const bool isLast = i + 1 == group.size();
             Entry &entry = group[i];
@@ -175,11 +176,14 @@ struct MRVEPubNotes::Finder
                 ? itemEnd(entry.begin, isLast ? sectionEnd : group.at(i + 1).begin)
                 : isLast ? noteEnd(entry, sectionEnd, true)
                          : noteEnd(entry, group.at(i + 1).begin, false);
-            if (entry.end < 0) {
-                return;
+            if (entry.end >= 0) {
+                certain.append(entry);
             }
         }
-        for (const Entry &entry : qAsConst(group)) {
+        if (2 * certain.size() <= group.size()) {
+            return;
+        }
+        for (const Entry &entry : qAsConst(certain)) {
             addNote(entry);
         }
     }

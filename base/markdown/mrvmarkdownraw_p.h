@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cmark-gfm.h>
+#include <cmark-gfm-core-extensions.h>
 
 /**
  * Makes tags in raw HTML text where an HTML parser would take all that follows for something else,
