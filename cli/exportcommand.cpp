@@ -464,6 +464,9 @@ int run(const Call &given)
         return code;
     }
     const QStringList outputs = outputFiles(call, options);
+    if (call.has("check") && outputs.constFirst() == StandardOutput) {
+        return usageError(QStringLiteral("only a file can be checked; choose one with -o"));
+    }
     code = checkOutputs(call, outputs);
     if (code >= 0) {
         return code;

@@ -4,10 +4,10 @@
 #include "epub/mrvepublooks_p.h"
 #include "epub/mrvepubmetadata.h"
 #include "epub/mrvepuboptions.h"
+#include "xhtml/mrvuniqueids.h"
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QSet>
 #include <QVector>
 
 class QTextDocument;
@@ -98,8 +98,7 @@ public:
     QVector<MRVEPubAddress> links;
     MRVEPubLooks looks;
     QVector<QByteArray> classes; // of the paragraphs' looks
-    QSet<QString> usedIds; // of all pages
-    QHash<QString, int> idNumbers; // the last number tried for a name
+    MRVUniqueIds uniqueIds; // of all pages
     int pageNumber = 0; // of the last page that was named
     QHash<QByteArray, QString> picturePaths; // by digest of the bytes
     QStringList picturesWithoutText; // names, each once; those marked as decoration do not count

@@ -38,18 +38,6 @@ uint bit(MRVEPubInline kind)
     return 1U << int(kind);
 }
 
-bool isNameStart(QChar c)
-{
-    const ushort u = c.unicode();
-    return (u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || u == '_'
-        || (u >= 0xC0 && u <= 0xFF && u != 0xD7 && u != 0xF7);
-}
-
-bool isNameCharacter(QChar c)
-{
-    return isNameStart(c) || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.';
-}
-
 // The number of a page of the printed edition that an anchor is named after; empty: none.
 QString printedPage(const QString &name)
 {
@@ -340,23 +328,9 @@ void MRVEPubWriter::writePageBreaks(int format)
     }
 }
 
-// Identifiers are XML names (XML 1.0, section 2.3), limited to what all its editions allow.
 QByteArray MRVEPubWriter::uniqueId(const QString &name)
 {
-    QString base;
-    for (const QChar c : name) {
-        base += isNameCharacter(c) ? c : QChar(u'_');
-    }
-    if (!isNameStart(base.at(0))) {
-        base.prepend(u'_');
-    }
-    QString id = base;
-    int &number = m_book.idNumbers[base];
-    while (m_book.usedIds.contains(id)) {
-        id = base + u'-' + QString::number(++number);
-    }
-    m_book.usedIds.insert(id);
-    return id.toUtf8();
+    return m_book.uniqueIds.idFor(name).toUtf8();
 }
 
 void MRVEPubWriter::writePicture(const MRVEPubFragment &fragment, const QByteArray &id)

@@ -30,18 +30,6 @@ bool isHeading(QStringView name)
     return name.size() == 2 && name[0] == u'h' && name[1] >= u'1' && name[1] <= u'6';
 }
 
-bool isNameStart(QChar c)
-{
-    const ushort u = c.unicode();
-    return (u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || u == '_'
-        || (u >= 0xC0 && u <= 0xFF && u != 0xD7 && u != 0xF7);
-}
-
-bool isNameCharacter(QChar c)
-{
-    return isNameStart(c) || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.';
-}
-
 } // namespace
 
 MRVPageWriter::MRVPageWriter(ExportType type, MRVHtmlDialect dialect,
@@ -491,22 +479,9 @@ QString MRVPageWriter::chain(const QString &text) const
                                                  : MRVTextXhtmlExporter::htmlToEBook(text);
 }
 
-// Identifiers are XML names (XML 1.0, section 2.3), limited to what all its editions allow.
 QString MRVPageWriter::uniqueId(const QString &name)
 {
-    QString base;
-    for (const QChar c : name) {
-        base += isNameCharacter(c) ? c : QChar(u'_');
-    }
-    if (!isNameStart(base.at(0))) {
-        base.prepend(u'_');
-    }
-    QString id = base;
-    int &number = m_idNumbers[base];
-    while (m_usedIds.contains(id)) {
-        id = base + u'-' + QString::number(++number);
-    }
-    m_usedIds.insert(id);
+    const QString id = m_uniqueIds.idFor(name);
     m_ids.insert(name, id);
     return id;
 }

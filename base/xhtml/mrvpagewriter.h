@@ -4,9 +4,9 @@
 #include "xhtml/mrvhtmltag.h"
 #include "xhtml/mrvstyleclasses.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
+#include "xhtml/mrvuniqueids.h"
 
 #include <QHash>
-#include <QSet>
 #include <QVector>
 
 #include <memory>
@@ -46,7 +46,7 @@ public:
     /** The language of the page as a BCP 47 tag; empty leaves it open. */
     void setLanguage(const QString &language) { m_language = language; }
     /** Keeps @p id for the caller: no anchor gets it. */
-    void reserveId(const QString &id) { m_usedIds.insert(id); }
+    void reserveId(const QString &id) { m_uniqueIds.reserve(id); }
 
 private:
     struct Open
@@ -117,6 +117,5 @@ private:
     QString m_language;
     QVector<Link> m_links;
     QHash<QString, QString> m_ids;
-    QSet<QString> m_usedIds;
-    QHash<QString, int> m_idNumbers; // the last number tried for a name
+    MRVUniqueIds m_uniqueIds;
 };
