@@ -3,15 +3,17 @@
 #include <QFile>
 #include <QtTest>
 
-/** "⟨3×ab⟩" is "ababab", of which each may be repeated as well; "№" counts from 0. */
+/** "⟨3×ab⟩" is "ababab", of which each may be repeated; "№" counts from 0 and "-№" down to 0. */
 inline QString withRepeats(QString text)
 {
     static const QRegularExpression innermost("⟨(\\d+)×([^⟨⟩]*)⟩");
     for (auto match = innermost.match(text); match.hasMatch(); match = innermost.match(text)) {
         const QString one = match.captured(2);
+        const int count = match.captured(1).toInt();
         QString all;
-        for (int i = 0; i < match.captured(1).toInt(); ++i) {
-            all += QString(one).replace("№", QString::number(i));
+        for (int i = 0; i < count; ++i) {
+            const QString down = QString(one).replace("-№", QString::number(count - 1 - i));
+            all += QString(down).replace("№", QString::number(i));
         }
         text.replace(match.capturedStart(), match.capturedLength(), all);
     }

@@ -1,6 +1,8 @@
 #include "datarows.h"
+#include "document/mtextdoc.h"
 #include "documentdump.h"
 #include "images.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
 
@@ -307,6 +309,22 @@ private Q_SLOTS:
         }
         QCOMPARE(found, QString("050 175 075 050 "));
         mrvFragmentFormat(cursor.selection(), nullptr, nullptr);
+    }
+
+    void spreadIsNeitherStoredNorCompared()
+    {
+        QTextCharFormat format = with(QTextFormat::AnchorHref, "a");
+        const QTextCharFormat plain = format;
+        MRVFormatSpread::update(&format);
+        QCOMPARE(format, plain); // a single text needs no number
+        format.setProperty(QTextFormat::AnchorName, "b");
+        const QTextCharFormat named = format;
+        MRVFormatSpread::update(&format);
+        QVERIFY(format != named);
+        QVERIFY(F::equivalent(format, named));
+        QCOMPARE(F::toByteArray(format), F::toByteArray(named));
+        MTextDoc::clearLinkProperties(&format);
+        QCOMPARE(format, QTextCharFormat());
     }
 
     void tooManyProperties()

@@ -1,6 +1,7 @@
 #include "document/mtextdoc.h"
 
 #include "document/mtextdocsweep_p.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QTextDocument>
@@ -50,6 +51,7 @@ void MTextDoc::clearLinkProperties(QTextCharFormat *format)
     format->clearProperty(QTextFormat::AnchorHref);
     format->clearProperty(QTextFormat::AnchorName);
     format->clearProperty(QTextFormat::IsAnchor);
+    MRVFormatSpread::update(format);
 }
 
 void MTextDoc::clearHyperlinks(QTextDocument *document)

@@ -1,6 +1,7 @@
 #include "html/mrvhtmlwriter_p.h"
 
 #include "html/mrvhtmlelements_p.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 
 namespace {
@@ -367,14 +368,14 @@ QTextCharFormat MRVHtmlWriter::withNames(const QTextCharFormat &format)
     QTextCharFormat named = format;
     named.setAnchor(true);
     m_names.removeDuplicates();
-    // As one text where there is one: Qt looks formats up by a hash, and all lists of names have
-    // the same one, so that many of them take quadratic time.
+    // As one text where there is one, which needs no number to be found.
     if (m_names.size() == 1) {
         named.setProperty(QTextFormat::AnchorName, m_names.constFirst());
     } else {
         named.setAnchorNames(m_names);
     }
     m_names.clear();
+    MRVFormatSpread::update(&named);
     return named;
 }
 
@@ -417,6 +418,7 @@ void MRVHtmlWriter::writeImage(const QTextImageFormat &image, const MRVHtmlStyle
     if (!m_names.isEmpty()) {
         format.merge(withNames(QTextCharFormat()));
     }
+    MRVFormatSpread::update(&format);
     if (style.position == QTextFrameFormat::InFlow) {
         m_cursor.insertImage(format);
     } else {
@@ -534,7 +536,7 @@ void MRVHtmlWriter::finish()
         m_cursor.setPosition(isPair ? last - 1 : last);
         m_cursor.setPosition(last + 1, QTextCursor::KeepAnchor);
         m_names = m_cursor.charFormat().anchorNames() + m_names;
-        m_cursor.mergeCharFormat(withNames(QTextCharFormat()));
+        m_cursor.setCharFormat(withNames(m_cursor.charFormat()));
     }
     m_cursor.endEditBlock();
 }

@@ -1,6 +1,7 @@
 #include "manuscript/mrvmanuscriptpictures_p.h"
 
 #include "input/mrvguardeddocument.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvlocalfile.h"
 
@@ -166,6 +167,7 @@ QTextImageFormat withPicture(QTextImageFormat format, const Picture &picture)
     if (!picture.path.isNull()) {
         format.setProperty(MRVTextFormat::ImageLinkProperty, picture.path);
     }
+    MRVFormatSpread::update(&format);
     return format;
 }
 
@@ -192,6 +194,7 @@ void dropImages(QTextCursor *cursor, const ImageFragment &fragment)
           int(QTextFormat::ImageHeight), int(QTextFormat::ImageQuality)}) {
         format.clearProperty(property);
     }
+    MRVFormatSpread::update(&format);
     cursor->insertText(text, format);
 }
 

@@ -1,4 +1,5 @@
 #include "textformat/mrvtextformat.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat_p.h"
 
 #include <QColor>
@@ -108,7 +109,7 @@ QVariant comparable(int property, const QVariant &value)
 bool coveredBy(const QMap<int, QVariant> &a, const QMap<int, QVariant> &b)
 {
     for (auto it = a.cbegin(); it != a.cend(); ++it) {
-        if (it.key() == QTextFormat::PageBreakPolicy) {
+        if (it.key() == QTextFormat::PageBreakPolicy || it.key() == MRVFormatSpread::Property) {
             continue;
         }
         const QVariant value = comparable(it.key(), it.value());

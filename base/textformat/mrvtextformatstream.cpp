@@ -1,6 +1,7 @@
 #include "textformat/mrvtextformat.h"
 
 #include "input/mrvvariantguard.h"
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvlistlevel.h"
 #include "textformat/mrvtextformat_p.h"
 
@@ -102,6 +103,7 @@ QVariant ordered(const QVariant &value)
 
 QTextFormat ordered(QTextFormat format)
 {
+    format.clearProperty(MRVFormatSpread::Property);
     const QMap<int, QVariant> properties = format.properties();
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         const int type = it.value().userType();
