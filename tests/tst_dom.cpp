@@ -290,6 +290,9 @@ private Q_SLOTS:
         QCOMPARE(readAs<int>(""), "0-");
         QCOMPARE(readAs<short>("32768"), "0-");
         QCOMPARE(readAs<double>("-1.5e3"), "-1500+");
+        QCOMPARE(readAs<double>("1e400"), "0-");
+        QCOMPARE(readAs<float>("1e40"), "0-");
+        QCOMPARE(readAs<QSizeF>("1,1e400"), "QSizeF(0, 0)-");
         QCOMPARE(readAs<bool>(" YES "), "true+");
         QCOMPARE(readAs<bool>("1"), "false-");
         QCOMPARE(readAs<QSize>("640 , 480"), "QSize(640, 480)+");
@@ -381,6 +384,15 @@ private Q_SLOTS:
         QCOMPARE(doc.errorMessage(), QString("MRVDomDoc::load() failed "));
         QCOMPARE(doc.errorLine(), 2);
         QCOMPARE(doc.errorColumn(), 2);
+        QVERIFY(!doc.errorReason().isEmpty() && doc.errorReason() != doc.errorMessage());
+        // Damage is not loaded as if it were a text.
+        for (const QByteArray &damaged :
+             {QByteArray("<r>x\0y</r>", 10), QByteArray("<r>\x02</r>")}) {
+            writeBytes(path, damaged);
+            QVERIFY(!doc.load(path));
+            QVERIFY2(doc.errorReason().startsWith("XML does not allow the character U+000"),
+                     qPrintable(doc.errorReason()));
+        }
         QVERIFY(!doc.setContent(static_cast<QIODevice *>(nullptr)));
         QByteArray wide =
             QTextCodec::codecForName("UTF-16LE")
@@ -428,7 +440,7 @@ private Q_SLOTS:
         // What Qt's parser gets wrong.
         QTest::newRow("characters") << ""
                                     << QString(QChar(QChar::ByteOrderMark))
-                + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;\x01&#1;<!--&#1;--></r>"
+                + "<r a='&#x1F600;'>&#128512;\r\na\rb&#13;<!--&#1;--></r>"
                                     << "<r a=\"\U0001F600\">\U0001F600\na\nb&#xd;<!--&#1;--></r>";
     }
     // What is loaded, and what is saved of it: white space that is text survives; layout is made
@@ -481,6 +493,38 @@ private Q_SLOTS:
     }
 
     // Nothing is saved that could not be loaded again.
+    void refusesToSaveNames()
+    {
+        QTemporaryDir folder;
+        for (const char *name : {"1x", "a b", "a<", "-", "\u00b7a"}) {
+            MRVDomDoc doc;
+            doc.setRoot("r");
+            QVERIFY(doc.append(name));
+            QString error;
+            QVERIFY2(!doc.save(folder.filePath("a.xml"), &error), name);
+            QVERIFY2(error.endsWith(QString("the name '%1'").arg(name)), qPrintable(error));
+            doc.setRoot("r");
+            doc.setAttr(name, 1);
+            QCOMPARE(saved(doc), QByteArray("refused"));
+        }
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(QString("<_ \u00e4:b.c-='1' xmlns:p='u'><p:q\u00e9/></_>")));
+        QVERIFY(doc.setContent(QString::fromUtf8(saved(doc))));
+        QVERIFY(doc.exists("/_@xmlns:p/p:q\u00e9"));
+    }
+
+    // Nor are elements looked for that are gone.
+    void emptiedByTheDomItself()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent(QString("<?xml version='1.0'?><r><a/></r>")));
+        QVERIFY(doc.exists("a"));
+        doc.document().removeChild(doc.documentElement());
+        for (const char *path : {"", "a", "/", "/r"}) {
+            QVERIFY2(!doc.exists(path), path);
+        }
+    }
+
     void refusesToSaveTooDeep()
     {
         MRVDomDoc doc;

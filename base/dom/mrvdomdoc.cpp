@@ -10,7 +10,6 @@
 
 #include <QFile>
 #include <QJsonArray>
-#include <QXmlStreamReader>
 
 namespace {
 
@@ -80,11 +79,12 @@ void MRVDomDoc::clear()
     // The elements that it stands between are about to go.
     m_findPosition = EmptyElement;
     m_removed.clear();
-    m_lostRoot = false;
+    m_root = EmptyElement;
     m_fileName.clear();
     m_errorLine = -1;
     m_errorColumn = -1;
     m_errorMessage = QLatin1String("");
+    m_errorReason = QLatin1String("");
     m_document.setContent(QString());
 }
 
@@ -140,9 +140,10 @@ bool MRVDomDoc::setContent(QIODevice *device)
 
 bool MRVDomDoc::parse(const QString &text)
 {
-    const QString xml = MRVXmlReader::normalized(text);
+    QString xml = text;
     MRVTextFault fault;
-    if (!MRVXmlReader::keepsLimits(xml, MRVXmlLimits(), &fault)) {
+    if (!MRVXmlReader::normalize(&xml, &fault)
+        || !MRVXmlReader::keepsLimits(xml, MRVXmlLimits(), &fault)) {
         return refuse(fault.message, fault.line, fault.column);
     }
     const QString marked = mrvMarkBlanks(xml);
@@ -165,6 +166,7 @@ bool MRVDomDoc::refuse(const QString &message, int line, int column)
     // Qt keeps the part that it read.
     m_document.setContent(QString());
     m_errorMessage = message;
+    m_errorReason = message;
     m_errorLine = line;
     m_errorColumn = column;
     init();
@@ -176,6 +178,7 @@ bool MRVDomDoc::load(const QString &fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         m_errorMessage = QLatin1String("File not found: ") + fileName;
+        m_errorReason = file.errorString();
         m_errorLine = -1;
         m_errorColumn = -1;
         return false;
@@ -192,7 +195,8 @@ bool MRVDomDoc::load(const QString &fileName)
 bool MRVDomDoc::save(QIODevice &device) const
 {
     QByteArray bytes;
-    if (!mrvWriteXml(m_document, &bytes) || device.write(bytes) != bytes.size()) {
+    QString reason;
+    if (!mrvWriteXml(m_document, &bytes, &reason) || device.write(bytes) != bytes.size()) {
         return false;
     }
     auto *file = qobject_cast<QFileDevice *>(&device);
@@ -202,14 +206,9 @@ bool MRVDomDoc::save(QIODevice &device) const
 bool MRVDomDoc::save(const QString &fileName, QString *error) const
 {
     QByteArray bytes;
-    if (!mrvWriteXml(m_document, &bytes)) {
-        if (error) {
-            *error = tr("%1: elements are nested more deeply than %2 levels")
-                         .arg(fileName, QString::number(MRVDomLimits::MaxDepth));
-        }
-        return false;
-    }
-    return MRVFileWriter::write(fileName, bytes, error);
+    QString reason;
+    return mrvWriteXml(m_document, &bytes, &reason) ? MRVFileWriter::write(fileName, bytes, error)
+                                                    : MRV::fail(error, fileName, reason);
 }
 
 bool MRVDomDoc::setRoot(const QString &spec, const QString &text)
@@ -445,9 +444,7 @@ int MRVDomDoc::createPath(const QString &path)
 
 bool MRVDomDoc::isXmlName(const QString &name)
 {
-    QXmlStreamReader reader(u'<' + name + QLatin1String("/>"));
-    reader.setNamespaceProcessing(false);
-    return reader.readNextStartElement() && reader.qualifiedName() == name;
+    return mrvIsXmlName(name);
 }
 
 bool MRVDomDoc::createElements(const QString &path, QString *error)

@@ -28,7 +28,8 @@ class QIODevice;
  *
  * Values are read and written as the text of elements and as attributes, each type in one text form
  * (MRVDomText). What XML cannot hold (control characters, U+FFFE, U+FFFF, halves of surrogate
- * pairs) is dropped from texts where they enter the document, also when it is loaded.
+ * pairs) is dropped from the texts that an application sets. In a file it is damage: such a file is
+ * refused.
  *
  * No text is lost by loading and saving, white space included. White space between tags is layout,
  * and replaced by that of save(), only in an element without any other text, and only when each
@@ -95,10 +96,10 @@ public:
      * Namespaces are not looked at: a prefix is part of a name.
      *
      * @return false, with an empty document and errorMessage(), errorLine() and errorColumn() set,
-     * when Qt's parser does not take the text, or when it is refused: with two attributes of one
-     * name in an element, nested more deeply, or with entities that expand to more, than
-     * MRVDomLimits allows. External entities are never fetched; references to them are refused,
-     * too.
+     * when Qt's parser does not take the text, or when it is refused: with characters that XML
+     * forbids, two attributes of one name in an element, nested more deeply, or with entities that
+     * expand to more, than MRVDomLimits allows. External entities are never fetched; references to
+     * them are refused, too.
      */
     bool setContent(const QString &xml);
     /**
@@ -121,9 +122,9 @@ public:
      * document type, its name, files, notations and entities in other files are kept; its other
      * declarations go, since the parser has carried them out.
      *
-     * @return false when the device did not take it all, or when elements are nested more deeply
-     * than MRVDomLimits allows, so that the document could not be loaded again; nothing is written
-     * then.
+     * @return false when the device did not take it all, or when the document could not be loaded
+     * again, since elements are nested more deeply than MRVDomLimits allows, or the name of an
+     * element or attribute is none in XML; nothing is written then.
      */
     bool save(QIODevice &device) const;
     /**
@@ -153,6 +154,12 @@ public:
      * empty before the first.
      */
     QString errorMessage() const { return m_errorMessage; }
+    /**
+     * Why the last setContent() or load() failed: what is wrong in the text, or the system's reason
+     * where the file could not be read. Translated where it comes from this class; empty after a
+     * success and before the first.
+     */
+    QString errorReason() const { return m_errorReason; }
     /** From 1; -1 when there was no error. */
     int errorLine() const { return m_errorLine; }
     /** From 1; -1 when there was no error. */
@@ -272,8 +279,8 @@ public:
      * there was no child before. Without a work element the new one becomes the document element
      * and the work element.
      *
-     * @param name must not be empty, ".", ".." or hold "/", "@" or "=". Nothing else is checked: a
-     *             name that XML does not allow makes a document that cannot be loaded again.
+     * @param name must not be empty, ".", ".." or hold "/", "@" or "=". Nothing else is checked
+     *             here: save() refuses a name that XML does not allow.
      * @param text of the element; empty for none.
      * @return false, with nothing changed, for such a name, and where there is no work element but
      *        a document element.
@@ -530,6 +537,13 @@ private:
         QVector<Predicate> predicates;
         int wayBack = -1; // the later ".." that leads back to where this step began
     };
+    /** A path that leads up first, if at all, and then down. */
+    struct Walk
+    {
+        QVector<QDomElement> up; // the elements that it leaves upwards, the work element first
+        QVector<Step> steps; // down
+        bool isCutOff = false; // one of those was removed
+    };
     enum class Place { First, BeforeChild, AfterChild, Last };
 
     static Step stepOf(const QStringList &parts);
@@ -542,11 +556,12 @@ private:
     QString firstMissing(const QString &path);
     int removeFound(const QString &path, const QString &attribute, bool all);
     int removeAll(const QString &path, const QString &attribute);
-    int removeBelow(const QDomElement &e, const QVector<Step> &walk, int index,
-                    const QString &attribute);
+    bool walkOf(const QString &path, QDomElement *start, Walk *walk) const;
+    int removeBelow(const QDomElement &e, Walk *walk, int index, const QString &attribute);
     bool removeOne(QDomElement e, const QString &attribute);
     bool removeElement(const QDomElement &e);
 
+    bool hasRoot() const;
     bool readText(const QString &path, QString *out) const;
     bool parse(const QString &text);
     bool refuse(const QString &message, int line, int column);
@@ -573,6 +588,7 @@ private:
     mutable QVector<Step> m_pathSteps; // of m_path, once steps() has been asked for
     mutable QDomNode m_findPosition;
     QString m_errorMessage;
+    QString m_errorReason;
     int m_errorLine = -1;
     int m_errorColumn = -1;
     QString m_trueString = QStringLiteral("true");
@@ -580,6 +596,6 @@ private:
     mutable QString m_path; // what find() was last asked for
     mutable bool m_isParsed = false;
     mutable bool m_isAbsolute = false;
-    bool m_lostRoot = false; // a document element was removed; there may be another
+    mutable QDomElement m_root; // the document element when hasRoot() was last asked
     QVector<QDomElement> m_removed; // removed elements that the cursor is on or in
 };

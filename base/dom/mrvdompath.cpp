@@ -110,14 +110,21 @@ const QVector<MRVDomDoc::Step> &MRVDomDoc::steps() const
     return m_pathSteps;
 }
 
+// The document element is looked for only when it is no longer where it was: looking for it costs
+// as much as the rest of find().
+bool MRVDomDoc::hasRoot() const
+{
+    if (m_root.isNull() || m_root.parentNode().isNull()) {
+        m_root = m_document.documentElement();
+    }
+    return !m_root.isNull();
+}
+
 QDomElement MRVDomDoc::find(const QString &path) const
 {
-    // Asking for the document element itself would cost as much as the rest.
-    const bool isEmpty =
-        !m_document.hasChildNodes() || (m_lostRoot && m_document.documentElement().isNull());
-    if (isEmpty || path.isEmpty()) {
+    if (path.isEmpty() || !hasRoot()) {
         m_findPosition = EmptyElement;
-        return isEmpty ? EmptyElement : m_workElement;
+        return hasRoot() ? m_workElement : EmptyElement;
     }
     if (path != m_path) {
         m_path = path;
@@ -315,22 +322,11 @@ int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
     if (found.isNull()) {
         return 0;
     }
-    QVector<Step> walk;
-    QDomElement start = m_isAbsolute ? m_document.documentElement() : m_workElement;
-    bool isWalk = !path.isEmpty();
-    for (int i = m_isAbsolute ? 1 : 0; isWalk && i < steps().size(); ++i) {
-        const Step &step = m_pathSteps[i];
-        if (!isNavigation(step.name)) {
-            walk.append(step);
-        } else if (walk.isEmpty()) {
-            start = step.name == Parent ? start.parentNode().toElement() : start;
-        } else {
-            isWalk = step.name == Self && step.predicates.isEmpty();
-        }
-    }
+    Walk walk;
+    QDomElement start;
     int count = 0;
-    if (isWalk && !walk.isEmpty()) {
-        count = removeBelow(start, walk, 0, attribute);
+    if (walkOf(path, &start, &walk)) {
+        count = removeBelow(start, &walk, 0, attribute);
     } else {
         // An element remains after its attribute: only those that have it are looked for.
         const int end = path.lastIndexOf(QRegularExpression(QStringLiteral("[^/\\s]"))) + 1;
@@ -345,19 +341,45 @@ int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
     return count;
 }
 
-int MRVDomDoc::removeBelow(const QDomElement &e, const QVector<Step> &walk, int index,
-                           const QString &attribute)
+// Takes the last path apart: up to where it begins to lead down, and down from there. False for a
+// path that goes up again on its way, or nowhere down.
+bool MRVDomDoc::walkOf(const QString &path, QDomElement *start, Walk *walk) const
 {
-    const Step &step = walk[index];
+    *start = m_isAbsolute ? m_document.documentElement() : m_workElement;
+    for (int i = m_isAbsolute ? 1 : 0; !path.isEmpty() && i < steps().size(); ++i) {
+        const Step &step = m_pathSteps[i];
+        if (!isNavigation(step.name)) {
+            walk->steps.append(step);
+        } else if (!walk->steps.isEmpty()) {
+            if (step.name == Parent || !step.predicates.isEmpty()) {
+                return false;
+            }
+        } else if (step.name == Parent) {
+            walk->up.append(*start);
+            *start = start->parentNode().toElement();
+        }
+    }
+    return !walk->steps.isEmpty();
+}
+
+int MRVDomDoc::removeBelow(const QDomElement &e, Walk *walk, int index, const QString &attribute)
+{
+    const Step step = walk->steps[index];
     int count = 0;
     QDomElement next;
-    for (QDomElement child = e.firstChildElement(step.name); !child.isNull(); child = next) {
+    for (QDomElement child = e.firstChildElement(step.name); !child.isNull() && !walk->isCutOff;
+         child = next) {
         next = child.nextSiblingElement(step.name);
         if (!predicatesHold(step, child)) {
             continue;
         }
-        count += index + 1 < walk.size() ? removeBelow(child, walk, index + 1, attribute)
-                                         : removeOne(child, attribute);
+        if (index + 1 < walk->steps.size()) {
+            count += removeBelow(child, walk, index + 1, attribute);
+        } else {
+            count += removeOne(child, attribute);
+            // Nothing leads up any more from a work element that stands nowhere.
+            walk->isCutOff = attribute.isEmpty() && walk->up.contains(child);
+        }
     }
     return count;
 }
@@ -379,7 +401,6 @@ bool MRVDomDoc::removeElement(const QDomElement &e)
         return false;
     }
     parent.removeChild(e);
-    m_lostRoot = m_lostRoot || parent.isDocument();
     const auto holdsCursor = [this](const QDomElement &removed) {
         for (QDomNode node : {QDomNode(m_workElement), QDomNode(m_workChild), m_findPosition}) {
             while (!node.isNull() && node != removed) {

@@ -37,7 +37,7 @@ bool convert(const QString &text, Number (QString::*toNumber)(bool *) const, Num
     bool ok = false;
     const Number number = (text.*toNumber)(&ok);
     if (out) {
-        *out = number;
+        *out = ok ? number : Number(); // Qt gives infinity for what is too large
     }
     return ok && out;
 }
@@ -49,7 +49,7 @@ bool convert(const QString &text, QPair<Number, Number> (*toPair)(const QString 
     bool ok = false;
     const QPair<Number, Number> pair = toPair(text, &ok);
     if (out) {
-        *out = Value(pair.first, pair.second);
+        *out = ok ? Value(pair.first, pair.second) : Value(Number(), Number());
     }
     return ok && out;
 }

@@ -3,8 +3,11 @@
 #include "core/mrvxmltext.h"
 #include "dom/mrvdomblanks_p.h"
 #include "dom/mrvdomlimits.h"
+#include "util/mrvfailure.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextStream>
 
 #include <algorithm>
@@ -56,6 +59,8 @@ void readAttributes(const QDomNode &element, Attributes *attributes)
 
 class Writer
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVDomDoc)
+
 public:
     explicit Writer(QByteArray *bytes)
         : m_bytes(bytes)
@@ -75,6 +80,8 @@ public:
         flush();
         return isWritten;
     }
+
+    QString reason() const { return m_reason; }
 
 private:
     static bool isDeclaration(const QDomNode &node)
@@ -98,6 +105,8 @@ private:
         switch (node.nodeType()) {
         case QDomNode::ElementNode:
             if (depth >= MRVDomLimits::MaxDepth) {
+                m_reason = tr("elements are nested more deeply than %1 levels")
+                               .arg(MRVDomLimits::MaxDepth);
                 return false;
             }
             indent(depth);
@@ -144,10 +153,11 @@ private:
         m_text += u'<';
         m_text += name;
         declareNamespace(element);
+        bool isWritten = isName(name);
         if (element.hasAttributes()) {
-            writeAttributes(element);
+            isWritten = writeAttributes(element) && isWritten;
         }
-        const bool isWritten = writeContent(element, name, depth);
+        isWritten = isWritten && writeContent(element, name, depth);
         m_namespaces.resize(outerNamespaces);
         m_layout = outer;
         return isWritten;
@@ -189,20 +199,51 @@ private:
         writeEscaped(text, Place::Text);
     }
 
-    void writeAttributes(const QDomNode &element)
+    bool writeAttributes(const QDomNode &element)
     {
+        bool areNames = true;
         m_attributes.clear();
         readAttributes(element, &m_attributes);
         if (!m_namespaces.isEmpty() || element.attributes().item(0).localName().size() > 0) {
             declareAttributeNamespaces(element.attributes());
         }
         for (const QPair<QString, QString> &attribute : qAsConst(m_attributes)) {
+            areNames = isName(attribute.first) && areNames;
             m_text += u' ';
             m_text += attribute.first;
             m_text += QLatin1String("=\"");
             writeEscaped(attribute.second, Place::Attribute);
             m_text += u'"';
         }
+        return areNames;
+    }
+
+    // Whether XML allows a name, so that the document can be loaded again.
+    bool isName(const QString &name)
+    {
+        if (isPlainName(name) || m_names.contains(name)) {
+            return true;
+        }
+        if (!mrvIsXmlName(name)) {
+            m_reason = tr("XML does not allow the name '%1'").arg(name);
+            return false;
+        }
+        m_names.insert(name);
+        return true;
+    }
+
+    // As most are: of letters, digits and "_", "-", ".", beginning with a letter.
+    static bool isPlainName(const QString &name)
+    {
+        const auto isLetter = [](QChar c) {
+            const ushort lower = c.unicode() | 0x20;
+            return lower >= 'a' && lower <= 'z';
+        };
+        return !name.isEmpty() && isLetter(name[0])
+            && std::all_of(name.cbegin(), name.cend(), [&](QChar c) {
+                   return isLetter(c) || (c >= u'0' && c <= u'9') || c == u'_' || c == u'-'
+                       || c == u'.';
+               });
     }
 
     // Elements of documents that were read with their namespaces know these, and have no attributes
@@ -408,6 +449,8 @@ private:
     Layout m_layout;
     bool m_marksBlank = false; // the next text
     Attributes m_attributes;
+    QString m_reason;
+    QSet<QString> m_names; // that XML allows, of those that are not plain
     Attributes m_namespaces; // declared around, the innermost last: prefix and name
 };
 
@@ -420,7 +463,16 @@ Attributes mrvSortedAttributes(const QDomElement &element)
     return attributes;
 }
 
-bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes)
+bool mrvIsXmlName(const QString &name)
 {
-    return Writer(bytes).write(document);
+    // The parser that loads decides, so that what is saved can be loaded.
+    QDomDocument document;
+    return document.setContent(u'<' + name + QLatin1String("/>"), false)
+        && document.documentElement().tagName() == name;
+}
+
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reason)
+{
+    Writer writer(bytes);
+    return writer.write(document) || MRV::fail(reason, writer.reason());
 }

@@ -9,12 +9,18 @@
 /** The attributes of an element, by name in ascending order, whatever order Qt keeps them in. */
 QVector<QPair<QString, QString>> mrvSortedAttributes(const QDomElement &element);
 
+/** Whether Qt's parser takes a name for an element or attribute. */
+bool mrvIsXmlName(const QString &name);
+
 /**
  * Writes a document as UTF-8, laid out as QDomNode::save() does with an indentation of three
  * blanks. Other than there, attributes are sorted, what XML cannot hold is left out, an encoding in
  * the declaration becomes UTF-8, and elements that hold text are not laid out, where line ends
  * would become part of the text.
  *
- * @return false when elements are nested more deeply than MRVDomLimits::MaxDepth.
+ * @param reason receives, translated, why the document could not be loaded again: elements that are
+ *               nested more deeply than MRVDomLimits::MaxDepth, or a name that XML does not allow;
+ *               untouched on success.
+ * @return false with a reason; @p bytes hold a part then.
  */
-bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes);
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reason);

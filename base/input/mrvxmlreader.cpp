@@ -313,11 +313,17 @@ QString referenced(const QString &number)
                                                    : QString();
 }
 
-// The text with the references to characters that QDomDocument gets wrong put right: those beyond
-// U+FFFF, of which it takes the lower half, and those that XML forbids, which go.
-QString withValidReferences(const QString &xml)
+QString notAllowed(const QString &character)
+{
+    return MRVXmlReader::tr("XML does not allow the character %1").arg(character);
+}
+
+// Puts the references that QDomDocument gets wrong right: of characters beyond U+FFFF it takes the
+// lower half. False, with the place, for the first reference to what XML forbids.
+bool replaceReferences(QString *text, MRVTextFault *fault)
 {
     static const QRegularExpression mark(QStringLiteral("&#(x[0-9A-Fa-f]+|[0-9]+);|<[!?]"));
+    const QString xml = *text;
     QString result;
     int done = 0;
     int verbatim = 0; // where the last comment, section or instruction ends
@@ -332,12 +338,17 @@ QString withValidReferences(const QString &xml)
             continue;
         }
         const QString character = referenced(match.captured(1));
-        if (character.size() != 1) {
+        if (character.isEmpty()) {
+            *fault = MRVTextFault::at(xml, at, notAllowed(match.captured()));
+            return false;
+        }
+        if (character.size() > 1) {
             result += xml.midRef(done, at - done) + character;
             done = match.capturedEnd();
         }
     }
-    return done == 0 ? xml : result + xml.midRef(done);
+    *text = done == 0 ? xml : result + xml.midRef(done);
+    return true;
 }
 
 // A document type that names another file makes a stream reader pass over all entities that it does
@@ -377,9 +388,9 @@ bool MRVXmlReader::decode(const QByteArray &bytes, QString *text, MRVTextFault *
         bytes, QTextCodec::codecForName(name) ? name : QByteArrayLiteral("UTF-8"), text, fault);
 }
 
-QString MRVXmlReader::normalized(const QString &xml)
+bool MRVXmlReader::normalize(QString *xml, MRVTextFault *fault)
 {
-    QString text = mrvXmlText(xml);
+    QString text = *xml;
     if (text.startsWith(QChar::ByteOrderMark)) {
         text.remove(0, 1);
     }
@@ -387,7 +398,18 @@ QString MRVXmlReader::normalized(const QString &xml)
         text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
         text.replace(u'\r', u'\n');
     }
-    return text.contains(QLatin1String("&#")) ? withValidReferences(text) : text;
+    const int forbidden = mrvFirstNonXml(text);
+    if (forbidden >= 0) {
+        const QString code = QString::number(text[forbidden].unicode(), 16).toUpper();
+        *fault = MRVTextFault::at(text, forbidden,
+                                  notAllowed(QLatin1String("U+") + code.rightJustified(4, u'0')));
+        return false;
+    }
+    if (text.contains(QLatin1String("&#")) && !replaceReferences(&text, fault)) {
+        return false;
+    }
+    *xml = text;
+    return true;
 }
 
 bool MRVXmlReader::keepsLimits(const QString &xml, const MRVXmlLimits &limits, MRVTextFault *fault)

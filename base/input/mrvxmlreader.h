@@ -53,11 +53,14 @@ public:
     static bool decode(const QByteArray &bytes, QString *text, MRVTextFault *fault);
 
     /**
-     * The text as XML reads it (XML 1.0, sections 2.2 and 2.11), for QDomDocument, which does not:
-     * line ends are line feeds, what XML forbids is dropped, and references to characters beyond
-     * U+FFFF are the characters.
+     * Makes @p xml what QDomDocument reads as XML has it (XML 1.0, section 2.11): line ends become
+     * line feeds, and references to characters beyond U+FFFF the characters. A byte-order mark
+     * goes.
+     *
+     * @return false, with @p xml as it was and the place of the first fault, for a character that
+     *         XML forbids (XML 1.0, sections 2.2 and 4.1), or a reference to one.
      */
-    static QString normalized(const QString &xml);
+    static bool normalize(QString *xml, MRVTextFault *fault);
 
     /**
      * Whether the text @p xml keeps to @p limits, and has no two attributes of one name in an

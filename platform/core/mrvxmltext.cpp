@@ -28,7 +28,30 @@ bool isPlain(QStringView text)
     return !others || std::none_of(characters, characters + text.size(), isSuspicious);
 }
 
+// The index of the first character from @p start on that no document can hold; the size without one.
+int nextForbidden(QStringView text, int start)
+{
+    int i = start;
+    while (i < text.size()) {
+        const QChar c = text[i];
+        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            // U+1FFFE, U+2FFFF and their like are allowed: only the basic plane's pair is not.
+            ++i;
+        } else if (isSuspicious(c.unicode())) {
+            break;
+        }
+        ++i;
+    }
+    return i;
+}
+
 } // namespace
+
+int mrvFirstNonXml(QStringView text)
+{
+    const int found = isPlain(text) ? int(text.size()) : nextForbidden(text, 0);
+    return found < text.size() ? found : -1;
+}
 
 QString mrvXmlText(const QString &text)
 {
@@ -47,14 +70,9 @@ void mrvAppendXmlText(QString *result, QStringView text)
         result->append(text.data(), int(text.size()));
         return;
     }
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-            // U+1FFFE, U+2FFFF and their like are allowed: only the basic plane's pair is not.
-            result->append(c);
-            result->append(text[++i]);
-        } else if (!isSuspicious(c.unicode())) {
-            result->append(c);
-        }
+    for (int start = 0; start < text.size();) {
+        const int end = nextForbidden(text, start);
+        result->append(text.data() + start, end - start);
+        start = end + 1;
     }
 }

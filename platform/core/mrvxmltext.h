@@ -14,5 +14,8 @@
  */
 MRVCORE_EXPORT QString mrvXmlText(const QString &text);
 
+/** The index of the first character that mrvXmlText() drops; -1 without one. @since 1.0 */
+MRVCORE_EXPORT int mrvFirstNonXml(QStringView text);
+
 /** Appends mrvXmlText() of @p text to @p result. @since 1.0 */
 MRVCORE_EXPORT void mrvAppendXmlText(QString *result, QStringView text);

@@ -160,10 +160,6 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
 <context>
     <name>MRVDomDoc</name>
     <message>
-        <source>%1: elements are nested more deeply than %2 levels</source>
-        <translation>%1: Elemente sind mehr als %2 Ebenen tief verschachtelt</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>das Dokument hat kein Wurzelelement</translation>
     </message>
@@ -198,6 +194,14 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
     <message>
         <source>&apos;%1&apos; cannot be created</source>
         <translation>„%1“ kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation type="unfinished">Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>XML does not allow the name &apos;%1&apos;</source>
+        <translation>XML erlaubt den Namen „%1“ nicht</translation>
     </message>
 </context>
 <context>
@@ -2973,6 +2977,10 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>a tag is longer than %1 characters</source>
         <translation>Ein Tag ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>XML does not allow the character %1</source>
+        <translation>XML erlaubt das Zeichen %1 nicht</translation>
     </message>
 </context>
 <context>

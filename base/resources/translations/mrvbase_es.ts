@@ -160,10 +160,6 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
 <context>
     <name>MRVDomDoc</name>
     <message>
-        <source>%1: elements are nested more deeply than %2 levels</source>
-        <translation>%1: hay elementos anidados a más de %2 niveles</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>el documento no tiene elemento raíz</translation>
     </message>
@@ -198,6 +194,14 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
     <message>
         <source>&apos;%1&apos; cannot be created</source>
         <translation>no se puede crear «%1»</translation>
+    </message>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation type="unfinished">hay elementos anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>XML does not allow the name &apos;%1&apos;</source>
+        <translation>XML no permite el nombre «%1»</translation>
     </message>
 </context>
 <context>
@@ -2973,6 +2977,10 @@ Comuníquelo a %1.</translation>
     <message>
         <source>a tag is longer than %1 characters</source>
         <translation>una etiqueta tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>XML does not allow the character %1</source>
+        <translation>XML no permite el carácter %1</translation>
     </message>
 </context>
 <context>

@@ -160,10 +160,6 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
 <context>
     <name>MRVDomDoc</name>
     <message>
-        <source>%1: elements are nested more deeply than %2 levels</source>
-        <translation>%1&#xa0;: des éléments sont imbriqués sur plus de %2 niveaux</translation>
-    </message>
-    <message>
         <source>there is no document element</source>
         <translation>le document n’a pas d’élément racine</translation>
     </message>
@@ -198,6 +194,14 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
     <message>
         <source>&apos;%1&apos; cannot be created</source>
         <translation>impossible de créer «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>elements are nested more deeply than %1 levels</source>
+        <translation type="unfinished">des éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>XML does not allow the name &apos;%1&apos;</source>
+        <translation>XML n’autorise pas le nom « %1 »</translation>
     </message>
 </context>
 <context>
@@ -2973,6 +2977,10 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>a tag is longer than %1 characters</source>
         <translation>une balise dépasse %1 caractères</translation>
+    </message>
+    <message>
+        <source>XML does not allow the character %1</source>
+        <translation>XML n’autorise pas le caractère %1</translation>
     </message>
 </context>
 <context>
