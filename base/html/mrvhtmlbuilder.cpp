@@ -216,6 +216,7 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
     const MRVHtmlElement &kind = mrvHtmlElement(element);
     MRVHtmlStyle style = outside.inherited();
     style.display = kind.display;
+    style.innerDisplay = MRVHtmlStyle::Inline;
     const QString address = mrvAddressOf(element);
     // A list in a list has no space around it.
     const bool isInner = kind.kind == MRVHtmlElement::List && m_writer.listDepth() > 0;
@@ -232,6 +233,9 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
     declarations += css ? m_sheets->declarations(*css, own) : own;
     if (!declarations.isEmpty()) {
         m_styler.apply(declarations, outside, &style);
+    }
+    if (style.display == MRVHtmlStyle::Inline) {
+        style.display = outside.innerDisplay;
     }
     if (!address.isEmpty()) {
         style.text.setAnchor(true);
@@ -316,7 +320,7 @@ void MRVHtmlBuilder::readInvisible(const GumboNode *element, const MRVHtmlStyle 
     if (mrvHtmlElement(element).kind == MRVHtmlElement::Picture) {
         return;
     }
-    if (style.display == MRVHtmlStyle::Inline) {
+    if (style.isInLine()) {
         readChildren(element, style.inherited(), css);
     } else {
         m_writer.enter(style.inherited(), MRVHtmlBox());
@@ -342,7 +346,7 @@ void MRVHtmlBuilder::readShown(const GumboNode *element, const MRVHtmlStyle &sty
         readInput(element, style);
         break;
     case MRVHtmlElement::Picture:
-        if (style.display == MRVHtmlStyle::Inline) {
+        if (style.isInLine()) {
             readPicture(element, style, css);
         } else {
             m_writer.enter(style, MRVHtmlBox());
@@ -351,7 +355,7 @@ void MRVHtmlBuilder::readShown(const GumboNode *element, const MRVHtmlStyle &sty
         }
         break;
     default:
-        if (style.display == MRVHtmlStyle::Inline) {
+        if (style.isInLine()) {
             readInline(element, style, css);
         } else {
             readBlock(element, style, css);
@@ -381,21 +385,21 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
     if (style.background.style() != Qt::NoBrush) {
         style.text.setBackground(style.background);
     }
+    const QString space = style.display == MRVHtmlStyle::Apart ? QStringLiteral(" ") : QString();
+    m_writer.writeText(space, style);
     if (mrvIsPicture(element)) { // of SVG
         readPicture(element, style, css);
     }
     readInside(element, style.inherited(), css);
+    m_writer.writeText(space, style);
 }
 
 void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &style,
                                 const MRVCssElement *css)
 {
-    const bool isQuotation = mrvHtmlElement(element).kind == MRVHtmlElement::Quotation;
-    // Texts of a drawing stand apart, wherever it puts them.
-    const QString space = mrvIsDrawn(element) ? QStringLiteral(" ") : QString();
-    m_writer.writeText(isQuotation ? mrvQuotationMark(true, m_quotations++) : space, style);
+    m_writer.writeText(m_marks.before(element), style);
     readChildren(element, style, css);
-    m_writer.writeText(isQuotation ? mrvQuotationMark(false, --m_quotations) : space, style);
+    m_writer.writeText(m_marks.after(element), style);
 }
 
 void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &style,

@@ -69,6 +69,6 @@ private:
     MRVHtmlWriter m_writer;
     MRVHtmlStyler m_styler;
     QString m_language; // of the page
-    int m_quotations = 0; // around this place
+    MRVHtmlMarks m_marks;
     MRVHtmlDisplays m_displays;
 };

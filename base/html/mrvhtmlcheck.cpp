@@ -301,8 +301,7 @@ private:
         }
         const bool isSeparate = display != MRVHtmlStyle::Inline
             || kind.kind == MRVHtmlElement::LineEnd || kind.kind == MRVHtmlElement::Rule
-            || kind.kind == MRVHtmlElement::Table || mrvIsPicture(element) || mrvIsField(element)
-            || mrvIsDrawn(element);
+            || kind.kind == MRVHtmlElement::Table || mrvIsPicture(element) || mrvIsField(element);
         if (isSeparate) {
             endWord();
         }
@@ -310,14 +309,9 @@ private:
             && !m_report->pictureLines.contains(mrvPictureName(element))) {
             m_report->pictureLines.insert(mrvPictureName(element), lineOf(element));
         }
-        const bool isQuotation = kind.kind == MRVHtmlElement::Quotation;
-        if (isQuotation) {
-            m_words.add(mrvQuotationMark(true, m_quotations++), m_line, expectWord());
-        }
+        m_words.add(m_marks.before(element), lineOf(element), expectWord());
         visitInside(element, address);
-        if (isQuotation) {
-            m_words.add(mrvQuotationMark(false, --m_quotations), m_line, expectWord());
-        }
+        m_words.add(m_marks.after(element), lineOf(element), expectWord());
         if (isSeparate) {
             endWord();
         }
@@ -382,7 +376,7 @@ private:
     int m_awaitedLine = 0;
     QString m_address;
     int m_line = 0; // of Markdown; 0: there is none
-    int m_quotations = 0; // around this place
+    MRVHtmlMarks m_marks;
 };
 
 } // namespace

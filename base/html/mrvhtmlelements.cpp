@@ -2,7 +2,10 @@
 
 #include "html/mrvhtmltree_p.h"
 
+#include <QRegularExpression>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -97,6 +100,12 @@ constexpr struct
     {GUMBO_TAG_EMBED,      Style::Inline, "", Element::Picture},
     {GUMBO_TAG_INPUT,      Style::Inline, "", Element::Input},
     {GUMBO_TAG_Q,          Style::Inline, "", Element::Quotation},
+    {GUMBO_TAG_RT,         Style::Inline, "", Element::Reading},
+
+    {GUMBO_TAG_BUTTON,     Style::Apart,  ""},
+    {GUMBO_TAG_CANVAS,     Style::Apart,  ""},
+    {GUMBO_TAG_METER,      Style::Apart,  ""},
+    {GUMBO_TAG_PROGRESS,   Style::Apart,  ""},
 
     {GUMBO_TAG_B,          Style::Inline, "font-weight:bold"},
     {GUMBO_TAG_STRONG,     Style::Inline, "font-weight:bold"},
@@ -213,7 +222,55 @@ void appendHint(const QByteArray &attribute, const QString &value, GumboTag tag,
         add("list-style-type", QString::fromLatin1(markerOf(value)));
     } else if (attribute == "size" && tag == GUMBO_TAG_FONT) {
         add("font-size", fontSizeOf(value));
+    } else if (attribute == "display" && tag == GUMBO_TAG_MATH) {
+        add("display", value);
     }
+}
+
+template<int Count>
+bool isOneOf(const QString &name, const char *const (&words)[Count])
+{
+    return std::any_of(std::begin(words), std::end(words),
+                       [&](const char *word) { return name == QLatin1String(word); });
+}
+
+// Of elements that are younger than the parser.
+bool isNamed(const GumboNode *element, const char *name)
+{
+    return element->v.element.tag == GUMBO_TAG_UNKNOWN && mrvNameOf(element) == QLatin1String(name);
+}
+
+bool isDialog(const GumboNode *element)
+{
+    return isNamed(element, "dialog");
+}
+
+bool isNewBlock(const GumboNode *element)
+{
+    return isDialog(element) || isNamed(element, "search");
+}
+
+// Whether the page itself puts brackets around a reading, where it cannot stand above.
+bool hasBrackets(const GumboNode *reading)
+{
+    const GumboVector &siblings = reading->parent->v.element.children;
+    size_t at = reading->index_within_parent;
+    while (at > 0 && !mrvIsElement(static_cast<const GumboNode *>(siblings.data[at - 1]))) {
+        --at;
+    }
+    return at > 0
+        && mrvIsElement(static_cast<const GumboNode *>(siblings.data[at - 1]), GUMBO_TAG_RP);
+}
+
+// The first of the pictures that an image is a choice of: "a.png, b.png 2x".
+QString firstSource(const QString &choice)
+{
+    static const QRegularExpression first(QStringLiteral("[^\\s,]\\S*"));
+    QString name = first.match(choice).captured();
+    while (name.endsWith(u',')) {
+        name.chop(1);
+    }
+    return name;
 }
 
 } // namespace
@@ -221,16 +278,20 @@ void appendHint(const QByteArray &attribute, const QString &value, GumboTag tag,
 const MRVHtmlElement &mrvHtmlElement(const GumboNode *element)
 {
     static const QVector<Element> table = elementTable();
+    const GumboTag tag = element->v.element.tag;
     if (element->v.element.tag_namespace == GUMBO_NAMESPACE_HTML) {
-        return table.at(element->v.element.tag);
+        return table.at(isNewBlock(element) ? GUMBO_TAG_DIV : tag);
     }
     // Of pictures and formulas, the texts are shown; these hold none of them.
     constexpr const char *unseen[] = {"style", "script", "title", "desc", "metadata", "annotation"};
+    // Texts of a drawing stand apart, wherever it puts them.
+    constexpr const char *drawn[] = {"svg", "text"};
     const QString name = mrvNameOf(element);
-    const bool isUnseen = std::any_of(std::begin(unseen), std::end(unseen), [&](const char *word) {
-        return name == QLatin1String(word);
-    });
-    return table.at(isUnseen ? GUMBO_TAG_SCRIPT : GUMBO_TAG_UNKNOWN);
+    const bool isDrawn =
+        element->v.element.tag_namespace == GUMBO_NAMESPACE_SVG && isOneOf(name, drawn);
+    return table.at(isOneOf(name, unseen) ? GUMBO_TAG_SCRIPT
+                        : isDrawn         ? GUMBO_TAG_CANVAS
+                                          : GUMBO_TAG_UNKNOWN);
 }
 
 QVector<MRVCssDeclaration> mrvHtmlHints(const GumboNode *element)
@@ -241,6 +302,9 @@ QVector<MRVCssDeclaration> mrvHtmlHints(const GumboNode *element)
         const auto *attribute = static_cast<const GumboAttribute *>(attributes.data[i]);
         appendHint(attribute->name, QString::fromUtf8(attribute->value), element->v.element.tag,
                    &declarations);
+    }
+    if (isDialog(element) && !mrvHasAttribute(element, "open")) {
+        declarations.append({QStringLiteral("display"), QStringLiteral("none"), false});
     }
     return declarations;
 }
@@ -265,10 +329,24 @@ QString mrvShownText(const QString &text)
     return plain;
 }
 
-QString mrvQuotationMark(bool opens, int depth)
+QString MRVHtmlMarks::before(const GumboNode *element)
 {
-    constexpr ushort marks[2][2] = {{0x2019, 0x2018}, {0x201d, 0x201c}};
-    return QChar(marks[depth % 2 == 0][opens]);
+    const MRVHtmlElement::Kind kind = mrvHtmlElement(element).kind;
+    if (kind == MRVHtmlElement::Quotation) {
+        return QChar(m_quotations++ % 2 == 0 ? 0x201c : 0x2018);
+    }
+    return kind == MRVHtmlElement::Reading && !hasBrackets(element) ? QStringLiteral("(")
+                                                                    : QString();
+}
+
+QString MRVHtmlMarks::after(const GumboNode *element)
+{
+    const MRVHtmlElement::Kind kind = mrvHtmlElement(element).kind;
+    if (kind == MRVHtmlElement::Quotation) {
+        return QChar(--m_quotations % 2 == 0 ? 0x201d : 0x2019);
+    }
+    return kind == MRVHtmlElement::Reading && !hasBrackets(element) ? QStringLiteral(")")
+                                                                    : QString();
 }
 
 QString mrvAddressOf(const GumboNode *element)
@@ -278,13 +356,6 @@ QString mrvAddressOf(const GumboNode *element)
     }
     const QString address = mrvAttributeOf(element, "href").trimmed();
     return address.startsWith(u'#') ? QUrl::fromPercentEncoding(address.toUtf8()) : address;
-}
-
-bool mrvIsDrawn(const GumboNode *element)
-{
-    const QString name = mrvNameOf(element);
-    return element->v.element.tag_namespace == GUMBO_NAMESPACE_SVG
-        && (name == QLatin1String("svg") || name == QLatin1String("text"));
 }
 
 bool mrvIsField(const GumboNode *element)
@@ -302,7 +373,7 @@ QString mrvPictureName(const GumboNode *element)
             name = mrvAttributeOf(element, attribute);
         }
     }
-    return name.trimmed();
+    return name.isEmpty() ? firstSource(mrvAttributeOf(element, "srcset")) : name.trimmed();
 }
 
 bool mrvIsImage(const GumboNode *element)

@@ -30,6 +30,7 @@ struct MRVHtmlElement
         Item,
         Input,
         Quotation,
+        Reading, ///< how to say the characters before it
     };
 
     Kind kind = Plain;
@@ -51,17 +52,24 @@ QVector<MRVCssDeclaration> mrvHtmlHints(const GumboNode *element);
  */
 QString mrvShownText(const QString &text);
 
-/** The mark before or after an element q; @p depth counts those around it. */
-QString mrvQuotationMark(bool opens, int depth);
+/** The marks that browsers add to quotations, and the brackets that a reading needs in a line. */
+class MRVHtmlMarks
+{
+public:
+    /** The mark before the content of @p element; elements have to be visited in order. */
+    QString before(const GumboNode *element);
+    /** The one after it. */
+    QString after(const GumboNode *element);
+
+private:
+    int m_quotations = 0; // around this place
+};
 
 /**
  * The address of a link; empty for other elements. One within the page is decoded, as names of
  * elements are not encoded.
  */
 QString mrvAddressOf(const GumboNode *element);
-
-/** Whether an element is a drawing, or a text in one. */
-bool mrvIsDrawn(const GumboNode *element);
 
 /** Whether an element is a field to fill in, which separates the words beside it. */
 bool mrvIsField(const GumboNode *element);

@@ -379,15 +379,21 @@ void display(const Value &value, MRVHtmlStyle *style)
                                       "table-row-group",
                                       "table-header-group",
                                       "table-footer-group"};
-    if (value.text == QLatin1String("none")) {
+    const QString outer = value.text.section(u' ', 0, 0);
+    if (outer == QLatin1String("none")) {
         style->display = MRVHtmlStyle::Hidden;
-    } else if (value.text == QLatin1String("list-item")) {
+    } else if (outer == QLatin1String("list-item")) {
         style->display = MRVHtmlStyle::ListItem;
-    } else if (value.text.startsWith(QLatin1String("inline"))
-               || value.text == QLatin1String("contents")) {
+    } else if (outer.startsWith(QLatin1String("inline")) || outer == QLatin1String("contents")) {
         style->display = MRVHtmlStyle::Inline;
-    } else if (wordIn(blocks, value.text) >= 0) {
+    } else if (wordIn(blocks, outer) >= 0) {
         style->display = MRVHtmlStyle::Block;
+    }
+    // There, each element is a box of its own.
+    if (value.text.endsWith(QLatin1String("flex")) || value.text.endsWith(QLatin1String("grid"))) {
+        style->innerDisplay = style->isInLine() ? MRVHtmlStyle::Apart : MRVHtmlStyle::Block;
+    } else {
+        style->innerDisplay = MRVHtmlStyle::Inline;
     }
 }
 
@@ -607,6 +613,7 @@ MRVHtmlStyle MRVHtmlStyle::inherited() const
     inside.listStyle = listStyle;
     inside.language = language;
     inside.isInvisible = isInvisible;
+    inside.innerDisplay = innerDisplay;
     return inside;
 }
 

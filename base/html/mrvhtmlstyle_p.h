@@ -26,7 +26,8 @@ struct MRVHtmlBorder
  */
 struct MRVHtmlStyle
 {
-    enum Display { Inline, Block, ListItem, Hidden };
+    /** Apart is within a line, but not of the words before and after it: a button. */
+    enum Display { Inline, Apart, Block, ListItem, Hidden };
     enum WhiteSpace { Collapsed, Unwrapped, Preformatted, PreformattedWrapped, PreformattedLines };
 
     // Inherited from the element outside.
@@ -44,6 +45,7 @@ struct MRVHtmlStyle
 
     // The element's own.
     Display display = Inline;
+    Display innerDisplay = Inline; ///< of the elements in it that would be Inline
     qreal margins[4] = {0, 0, 0, 0}; ///< by MRVHtmlSide
     bool isFree[4] = {false, false, false, false}; ///< by MRVHtmlSide; margins that are "auto"
     qreal paddings[4] = {-1, -1, -1, -1}; ///< by MRVHtmlSide; -1: not said
@@ -68,8 +70,9 @@ struct MRVHtmlStyle
     QString tableType; ///< "root", "frame" or empty
 
     qreal margin(MRVHtmlSide side) const { return margins[int(side)]; }
+    bool isInLine() const { return display == Inline || display == Apart; }
 
-    /** The style that an element inside of this one begins with: what is inherited. */
+    /** What elements inside of this one begin with: what is inherited, and innerDisplay. */
     MRVHtmlStyle inherited() const;
 };
 

@@ -25,7 +25,7 @@ import generate
 UNSEEN = {"head", "title", "script", "style", "template", "noframes", "noembed", "iframe", "datalist", "audio", "video"}
 BLOCKS = set("""address article aside blockquote body caption center dd details dir div dl dt fieldset figcaption figure footer form h1
 h2 h3 h4 h5 h6 header hgroup hr html legend li main menu nav ol optgroup option p pre section summary table tbody td textarea tfoot
-th thead tr ul listing plaintext xmp br img input object embed svg text""".split())
+th thead tr ul listing plaintext xmp br img input object embed svg text button canvas dialog meter progress search""".split())
 SPACES = " \t\n\r\f\v\u2028\u2029\u00a0"
 
 
@@ -55,7 +55,8 @@ class Content:
             return
         tag = element.tag.split("}")[-1]
         style = element.get("style", "").replace(" ", "")
-        if tag in UNSEEN or "display:none" in style or element.get("hidden") is not None:
+        isClosed = tag == "dialog" and element.get("open") is None
+        if tag in UNSEEN or isClosed or "display:none" in style or element.get("hidden") is not None:
             return
         for name in {element.get("id"), element.get("name") if tag == "a" else None} - {None, ""}:
             self.names.setdefault(page + "#" + name, self.count)
