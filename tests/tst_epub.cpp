@@ -116,12 +116,12 @@ private Q_SLOTS:
         QTextDocument document;
         QVERIFY(MRVHtmlDocument::read(cell("html"), QString(), &document));
         MRVEPubMetadata metadata;
-        metadata.language = "en";
+        const bool hasEndnotes = cell("options").startsWith("book");
+        metadata.language = hasEndnotes ? "de" : "en";
         MRVEPubOptions options;
-        options.notes =
-            cell("options") == "book" ? MRVEPubOptions::BookNotes : MRVEPubOptions::ChapterNotes;
+        options.notes = hasEndnotes ? MRVEPubOptions::BookNotes : MRVEPubOptions::ChapterNotes;
         options.areChapters = cell("options") == "chapters";
-        const bool isOld = cell("options") == "epub2";
+        const bool isOld = cell("options").endsWith("epub2");
         MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata,
                                options);
         QVERIFY(package.addDocument(document));
@@ -135,6 +135,8 @@ private Q_SLOTS:
         QCOMPARE(bodies.join(" || "), cell("pages"));
         const QString rules = files["OEBPS/css/stylesheet.css"].section("this book */", 1);
         QCOMPARE(rules.simplified(), cell("rules"));
+        QCOMPARE(files["OEBPS/toc.ncx"].contains("Anmerkungen"),
+                 bodies.first().contains("Anmerkungen"));
     }
 
     // By choice, an annotation leaves the text for a note.

@@ -15,6 +15,7 @@
 #include <QSet>
 #include <QTextDocument>
 #include <QTextImageFormat>
+#include <QTranslator>
 #include <QUrl>
 
 #include <algorithm>
@@ -111,14 +112,14 @@ bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, Q
 
 void MRVEPubBook::addPage(const MRVEPubPage &page)
 {
-    const bool hasNotes = !pages.isEmpty() && pages.constLast().fileName == NotesPage;
-    pages.insert(pages.size() - (hasNotes ? 1 : 0), page);
+    pages.insert(pages.size() - (notesLevel > 0 ? 1 : 0), page);
 }
 
 void MRVEPubBook::addPart(const QString &partTitle)
 {
     const bool isFirst = pages.isEmpty();
     const bool isEPub3 = version == MRVEPubVersion::EPub3;
+    hasParts = true;
     const QString text = mrvXmlText(partTitle).simplified();
     MRVEPubPage page;
     page.fileName = QStringLiteral("page-%1.xhtml").arg(++pageNumber, 3, 10, QChar(u'0'));
@@ -167,12 +168,29 @@ QByteArray MRVEPubBook::titleBody() const
     return body + (isEPub3 ? "</section>\n" : "</div>\n");
 }
 
+MRVEPubPage MRVEPubBook::beginNotes(int level)
+{
+    MRVEPubPage page;
+    page.fileName = NotesPage;
+    page.title = text(QT_TRANSLATE_NOOP("MRVEPubBook", "Notes"));
+    page.type = QStringLiteral("endnotes");
+    if (notesLevel == 0) {
+        constexpr int Lowest = 4; // of six, for headings of chapters and of what they call notes
+        const bool isEPub3 = version == MRVEPubVersion::EPub3;
+        notesLevel = qBound(1, level, Lowest);
+        const QByteArray tag = 'h' + QByteArray::number(notesLevel);
+        MRVEPubPage first = page;
+        first.body =
+            (isEPub3 ? "<section epub:type=\"endnotes\" role=\"doc-endnotes\">\n" : "<div>\n")
+            + ('<' + tag + '>' + mrvEPubValue(page.title) + "</" + tag + ">\n");
+        first.end = isEPub3 ? "</section>\n" : "</div>\n";
+        pages.append(first);
+    }
+    return page;
+}
+
 void MRVEPubBook::addNotes(const MRVEPubPage &page)
 {
-    if (pages.isEmpty() || pages.constLast().fileName != page.fileName) {
-        pages.append(page);
-        return;
-    }
     MRVEPubPage &last = pages.last();
     for (MRVEPubHole hole : page.holes) {
         hole.offset += last.body.size();
@@ -187,7 +205,12 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
 {
     QVector<MRVEPubEntry> entries;
     QVector<int> open;
-    for (MRVEPubEntry entry : headings) {
+    QVector<MRVEPubEntry> all = headings;
+    if (notesLevel > 0 && !all.isEmpty()) {
+        const MRVEPubPage &notesPage = pages.constLast();
+        all.append({notesPage.title, NotesPage, hasParts ? 0 : notesLevel - 1});
+    }
+    for (MRVEPubEntry entry : qAsConst(all)) {
         while (!open.isEmpty() && open.constLast() >= entry.depth) {
             open.removeLast();
         }
@@ -201,12 +224,14 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
         return entries;
     }
     for (const MRVEPubPage &page : pages) {
-        if (page.type != QLatin1String("titlepage") && page.fileName != NotesPage) {
-            const QString text = MRVEPubBook::tr("Section %1").arg(entries.size() + 1);
-            entries.append({text, page.fileName, 0});
+        if (page.type != QLatin1String("titlepage")) {
+            const bool isNotes = page.fileName == NotesPage;
+            const QString name =
+                text(QT_TRANSLATE_NOOP("MRVEPubBook", "Section %1")).arg(entries.size() + 1);
+            entries.append({isNotes ? page.title : name, page.fileName, 0});
         }
     }
-    if (entries.size() == 1) {
+    if (entries.size() == (notesLevel > 0 ? 2 : 1)) {
         entries.first().text = title();
     }
     return entries;
@@ -270,7 +295,7 @@ QByteArray MRVEPubBook::pageBytes(const MRVEPubPage &page) const
         bytes += hole.kind == MRVEPubHole::Class ? classAttribute(page, hole) : linkTag(page, hole);
     }
     bytes.append(page.body.constData() + done, page.body.size() - done);
-    return bytes + "</body>\n</html>\n";
+    return bytes + page.end + "</body>\n</html>\n";
 }
 
 QByteArray MRVEPubBook::classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const
@@ -363,7 +388,16 @@ QByteArray MRVEPubBook::styleSheet() const
 QString MRVEPubBook::title() const
 {
     const QString own = mrvXmlText(metadata.title).simplified();
-    return own.isEmpty() ? MRVEPubBook::tr("Untitled") : own;
+    return own.isEmpty() ? text(QT_TRANSLATE_NOOP("MRVEPubBook", "Untitled")) : own;
+}
+
+QString MRVEPubBook::text(const char *source) const
+{
+    if (QLocale(language()).language() == QLocale::English) {
+        return QString::fromUtf8(source);
+    }
+    const QString own = translator ? translator->translate("MRVEPubBook", source) : QString();
+    return own.isEmpty() ? MRVEPubBook::tr(source) : own;
 }
 
 QStringList MRVEPubBook::authors() const

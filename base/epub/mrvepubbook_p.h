@@ -10,7 +10,10 @@
 #include <QHash>
 #include <QVector>
 
+#include <memory>
+
 class QTextDocument;
+class QTranslator;
 
 /** An entry of the table of contents; depth 0 is the outermost. */
 struct MRVEPubEntry
@@ -52,6 +55,7 @@ struct MRVEPubPage
     // tells.
     QString type;
     QByteArray body; // UTF-8
+    QByteArray end; // of what the body has begun
     QVector<MRVEPubHole> holes; // by offset
     QVector<QByteArray> attributes;
 };
@@ -90,6 +94,7 @@ public:
     MRVEPubVersion version = MRVEPubVersion::EPub3;
     MRVEPubMetadata metadata;
     MRVEPubOptions options;
+    std::shared_ptr<QTranslator> translator; // into the book's language; null: none
     QVector<MRVEPubPage> pages; // in reading order
     QVector<MRVEPubEntry> headings; // of all pages, depth counted from heading level 1 as 0
     QVector<MRVEPubFile> pictures;
@@ -106,6 +111,8 @@ public:
     QStringList languages; // of the text, beside the book's own, each once
     int notes = 0; // that are linked with a mark
     int comments = 0; // that became notes
+    int notesLevel = 0; // of the heading above all notes; 0: the book has no page for them
+    bool hasParts = false; // which stand above all headings of documents
 
     /**
      * Adds the cover's picture, which has to come before all others; one that readers cannot show
@@ -140,13 +147,25 @@ public:
     QString title() const;
     QStringList authors() const;
     QString language() const;
+    /**
+     * A text that was marked for translation, in the language of the book; where that is unknown,
+     * or there is no translation into it, in the language of the interface.
+     */
+    QString text(const char *source) const;
 
     /** Adds a page of its own for the title of a part, and its heading. */
     void addPart(const QString &title);
     void addPage(const MRVEPubPage &page);
     /** Adds a title page from the metadata before all others, where the book begins with none. */
     void addTitlePage();
-    /** Adds to the page of notes, which is the last one. */
+    /**
+     * Begins the page of notes, which stays the last one, where the book has none.
+     *
+     * @param level of the headings of chapters; 0: without any.
+     * @return an empty page of that name, for further notes.
+     */
+    MRVEPubPage beginNotes(int level);
+    /** Adds to the page of notes. */
     void addNotes(const MRVEPubPage &page);
 
 private:

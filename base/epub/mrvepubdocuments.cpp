@@ -5,8 +5,6 @@
 #include <QLocale>
 #include <QXmlStreamWriter>
 
-#include <algorithm>
-
 namespace {
 
 void writeItem(QXmlStreamWriter *xml, const QString &id, const QString &path,
@@ -72,17 +70,9 @@ void writeSpine(QXmlStreamWriter *xml, const MRVEPubBook &book)
     if (book.hasCoverPage()) {
         ids.prepend(QStringLiteral("cover"));
     }
-    const auto notes =
-        std::find_if(book.pages.begin(), book.pages.end(), [](const MRVEPubPage &page) {
-            return page.fileName == MRVEPubBook::NotesPage;
-        });
-    const QString notesId = pageId(int(notes - book.pages.begin()));
     for (const QString &id : qAsConst(ids)) {
         xml->writeEmptyElement(QStringLiteral("itemref"));
         xml->writeAttribute(QStringLiteral("idref"), id);
-        if (id == notesId) { // read one by one, from their marks
-            xml->writeAttribute(QStringLiteral("linear"), QStringLiteral("no"));
-        }
     }
     xml->writeEndElement();
 }

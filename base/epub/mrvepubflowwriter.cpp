@@ -32,6 +32,49 @@ const ListType &listType(QTextListFormat::Style style)
     return row == std::end(listTypes) ? listTypes[0] : *row;
 }
 
+QString lettersOf(int number)
+{
+    QString letters;
+    for (; number > 0; number = (number - 1) / 26) {
+        letters.prepend(QChar('a' + (number - 1) % 26));
+    }
+    return letters;
+}
+
+QString romanOf(int number)
+{
+    constexpr struct
+    {
+        int value;
+        const char *figures;
+    } rows[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
+                {90, "xc"},  {50, "l"},   {40, "xl"}, {10, "x"},   {9, "ix"},
+                {5, "v"},    {4, "iv"},   {1, "i"}};
+    QString roman;
+    for (const auto &row : rows) {
+        for (; number >= row.value; number -= row.value) {
+            roman += QLatin1String(row.figures);
+        }
+    }
+    return roman;
+}
+
+// The number of a list item as readers show it, with a blank after it.
+QString itemLabel(QTextListFormat::Style style, int number)
+{
+    constexpr int LargestRoman = 3999;
+    const bool isRoman =
+        style == QTextListFormat::ListLowerRoman || style == QTextListFormat::ListUpperRoman;
+    const bool isUpper =
+        style == QTextListFormat::ListUpperAlpha || style == QTextListFormat::ListUpperRoman;
+    const bool isFigure =
+        style == QTextListFormat::ListDecimal || number < 1 || (isRoman && number > LargestRoman);
+    const QString label = isFigure ? QString::number(number)
+        : isRoman                  ? romanOf(number)
+                                   : lettersOf(number);
+    return (isUpper ? label.toUpper() : label) + QLatin1String(". ");
+}
+
 // Whether a paragraph holds marks such as "* * *" and nothing else.
 bool isSceneBreak(QStringView text)
 {
@@ -206,7 +249,10 @@ void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
         const bool goesOn = !container.isQuote && container.depth == depth
             && container.style == list.style() && list.style() <= QTextListFormat::ListDecimal
             && paragraph.itemNumber != 1 && kept + 1 == m_containers.size();
-        isOpen = !container.isQuote && (container.list == paragraph.list || goesOn);
+        const bool isNext = m_isEPub3 || container.isCounted
+            || container.style > QTextListFormat::ListDecimal
+            || paragraph.itemNumber == container.number + 1;
+        isOpen = !container.isQuote && (container.list == paragraph.list || goesOn) && isNext;
         const bool stays =
             isOpen || (container.isQuote ? quotes < format.quoteLevel : container.depth < depth);
         if (!stays) {
@@ -236,9 +282,12 @@ void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
     list.depth = format.indent();
     list.style = format.style();
     list.number = paragraph.itemNumber - 1;
+    list.isCounted = isNumbered && !m_isEPub3 && paragraph.itemNumber != 1;
     list.end = isNumbered ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
     m_out.append(isNumbered ? QLatin1String("<ol") : QLatin1String("<ul"));
-    if (!type.isUsual) {
+    if (list.isCounted) {
+        m_out.append(QLatin1String(" class=\"counted\""));
+    } else if (!type.isUsual) {
         const QByteArray rule = QByteArray("    list-style-type: ") + type.name + ";\n";
         m_out.append(" class=\"" + m_book.looks.boxClass(type.name, rule) + '"');
     }
@@ -266,6 +315,7 @@ void MRVEPubWriter::openItem(const MRVEPubParagraph &paragraph,
         m_out.append(" value=\"" + QByteArray::number(paragraph.itemNumber) + '"');
     }
     list.number = paragraph.itemNumber;
+    m_itemLabel = list.isCounted ? itemLabel(list.style, list.number) : QString();
     if (format.marker != QTextBlockFormat::MarkerType::NoMarker) {
         const bool isDone = format.marker == QTextBlockFormat::MarkerType::Checked;
         m_page.holes[m_itemHole].flags |= isDone ? MRVEPubHole::Done : MRVEPubHole::Open;
@@ -342,7 +392,9 @@ void MRVEPubWriter::writeParagraph(int paragraph, MRVEPubKind kind, const char *
 
 void MRVEPubWriter::writeHeading(int paragraph)
 {
-    const int level = m_flow.paragraphs.at(paragraph).headingLevel;
+    const int own = m_flow.paragraphs.at(paragraph).headingLevel;
+    const bool isOfNotes = m_page.fileName == MRVEPubBook::NotesPage; // below that of a chapter
+    const int level = isOfNotes ? qMax(own, m_book.notesLevel + 2) : own;
     const QByteArray element = "h" + QByteArray::number(level);
     const auto kind = MRVEPubKind(int(MRVEPubKind::Heading1) + level - 1);
     MRVEPubContext context;
@@ -356,8 +408,11 @@ void MRVEPubWriter::writeHeading(int paragraph)
         if (id.isEmpty()) {
             id = uniqueId(QStringLiteral("heading-%1").arg(m_book.headings.size() + 1));
         }
-        m_page.title = m_page.title.isEmpty() ? text : m_page.title;
-        m_book.headings.append({text, m_page.fileName + u'#' + QString::fromUtf8(id), level - 1});
+        if (!isOfNotes) {
+            m_page.title = m_page.title.isEmpty() ? text : m_page.title;
+            m_book.headings.append(
+                {text, m_page.fileName + u'#' + QString::fromUtf8(id), level - 1});
+        }
     }
     m_out.append('<' + element);
     const int hole = writeClass(look);

@@ -102,7 +102,11 @@ public:
     QStringList authors;
     QVector<MRVEPubContributor> contributors;
     QMap<QString, QString> fileAs; ///< of a name, the form by which lists file it
-    QString language; ///< BCP 47 tag such as "en-GB"; empty or malformed: "und"
+    /**
+     * BCP 47 tag such as "en-GB"; empty or malformed: "und". What the e-book adds of its own, such
+     * as "Contents", is in this language where MTranslator has it, else in the interface's.
+     */
+    QString language;
     /** A URI; empty: that of the ISBN, else a UUID computed from the content, so it is stable. */
     QString identifier;
     QString isbn; ///< 10 or 13 characters without hyphens; not checked here

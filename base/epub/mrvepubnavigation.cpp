@@ -86,7 +86,8 @@ QVector<MRVEPubEntry> entriesOf(const MRVEPubBook &book)
 {
     const QVector<MRVEPubEntry> entries = book.contents();
     return entries.isEmpty()
-        ? QVector<MRVEPubEntry>{{MRVEPubBook::tr("Cover"), QStringLiteral("cover.xhtml"), 0}}
+        ? QVector<MRVEPubEntry>{{book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Cover")),
+                                 QStringLiteral("cover.xhtml"), 0}}
         : entries;
 }
 
@@ -244,7 +245,8 @@ QVector<MRVEPubLandmark> mrvEPubLandmarks(const MRVEPubBook &book)
 {
     QVector<MRVEPubLandmark> marks;
     if (book.hasCoverPage()) {
-        marks.append({"cover", "cover", MRVEPubBook::tr("Cover"), QStringLiteral("cover.xhtml")});
+        marks.append({"cover", "cover", book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Cover")),
+                      QStringLiteral("cover.xhtml")});
     }
     const int contents = mrvEPubContentsPlace(book);
     int before = marks.size(); // those before the table of contents
@@ -258,24 +260,26 @@ QVector<MRVEPubLandmark> mrvEPubLandmarks(const MRVEPubBook &book)
         }
         types.append(type);
         if (!role) {
-            marks.append({"bodymatter", "text", MRVEPubBook::tr("Beginning"), page.fileName});
+            marks.append({"bodymatter", "text",
+                          book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Beginning")), page.fileName});
         } else {
             const bool isNamed = !role->isFirst && !page.title.isEmpty();
             marks.append({role->epubType, role->guideType,
-                          isNamed ? page.title : MRVEPubBook::tr(role->title), page.fileName});
+                          isNamed ? page.title : book.text(role->title), page.fileName});
         }
         before = i < contents ? marks.size() : before;
     }
     if (book.version == MRVEPubVersion::EPub3) {
         marks.insert(before,
-                     {"toc", "toc", MRVEPubBook::tr("Contents"), QStringLiteral("nav.xhtml#toc")});
+                     {"toc", "toc", book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Contents")),
+                      QStringLiteral("nav.xhtml#toc")});
     }
     return marks;
 }
 
 QByteArray mrvEPubNavigation(const MRVEPubBook &book)
 {
-    const QString title = MRVEPubBook::tr("Contents");
+    const QString title = book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Contents"));
     QString body = QLatin1String("\n<nav epub:type=\"toc\" id=\"toc\" role=\"doc-toc\">\n<h1>")
         + title.toHtmlEscaped() + QLatin1String("</h1>\n") + navigationList(entriesOf(book))
         + QLatin1String("</nav>\n");

@@ -11,12 +11,14 @@
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
+#include "core/mtranslator.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTranslator>
 #include <QUuid>
 
 namespace {
@@ -131,6 +133,7 @@ MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &me
     m_book->version = version;
     m_book->metadata = metadata;
     m_book->options = options;
+    m_book->translator = MTranslator::translator(m_book->language());
     m_book->addCover();
 }
 

@@ -195,7 +195,8 @@ void MetadataWriter::writePageSource()
     const bool isPaged = m_isEPub3 && !m_book.pageBreaks.isEmpty();
     QString source = isbn.isEmpty() ? m_metadata.source : IsbnScheme + isbn;
     if (source.isEmpty() && isPaged) {
-        source = MRVEPubBook::tr("Printed edition of %1").arg(m_book.title());
+        source = m_book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Printed edition of %1"))
+                     .arg(m_book.title());
     }
     const QString id = isPaged ? QStringLiteral("source") : QString();
     if (writeElement("dc:source", source, {{"id", id}}) && isPaged) {
@@ -248,13 +249,18 @@ void MetadataWriter::writeAccessibility()
         });
     writeProperty("schema:accessibilityHazard",
                   isMoving ? QStringLiteral("unknown") : QStringLiteral("none"));
-    QString summary = MRVEPubBook::tr("The text can be read with a screen reader; headings and a "
-                                      "table of contents guide through it.");
+    QString summary =
+        m_book.text(QT_TRANSLATE_NOOP("MRVEPubBook",
+                                      "The text can be read with a screen reader; headings and a "
+                                      "table of contents guide through it."));
     if (!isDescribed) {
-        summary += u' ' + MRVEPubBook::tr("Not all pictures have a description.");
+        summary += u' '
+            + m_book.text(QT_TRANSLATE_NOOP("MRVEPubBook", "Not all pictures have a description."));
     }
     if (!m_book.pageBreaks.isEmpty()) {
-        summary += u' ' + MRVEPubBook::tr("A list leads to the pages of the printed edition.");
+        summary += u' '
+            + m_book.text(QT_TRANSLATE_NOOP("MRVEPubBook",
+                                            "A list leads to the pages of the printed edition."));
     }
     writeProperty("schema:accessibilitySummary", summary);
 }

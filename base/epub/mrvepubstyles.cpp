@@ -152,6 +152,9 @@ td.covered {
     text-indent: 0;
     text-align: center;
 }
+ol.counted {
+    list-style-type: none;
+}
 li.checked {
     list-style-type: "\2611\20";
 }

@@ -57,6 +57,9 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
     const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
     m_isSpaced = false;
     m_isAfterBlank = true;
+    if (!m_itemLabel.isEmpty()) {
+        m_out.appendText(std::exchange(m_itemLabel, QString()), QLatin1String(), false);
+    }
     int position = place.position;
     for (int i = place.firstFragment; i < end; ++i) {
         if (m_book.options.commentsAsNotes

@@ -27,6 +27,7 @@ MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
     , m_direction(QLocale(book->language()).textDirection())
     , m_formats(flow, &book->looks, book->version, book->language())
     , m_notes(flow, &m_formats)
+    , m_firstHeading(book->headings.size())
 {
     for (int i = 0; i < flow.frames.size(); ++i) {
         m_frames.insert(flow.frames.at(i).begin, i);
@@ -60,9 +61,7 @@ void MRVEPubWriter::write(const QString &fileName)
 {
     const MRVEPubPages plan(m_flow, &m_formats, m_title, m_book.options.areChapters);
     QVector<int> starts = plan.starts();
-    if (m_isEPub3) {
-        m_notes.place(starts);
-    }
+    m_notes.place(starts);
     starts.append(m_flow.count());
     m_targets.path = fileName.isEmpty() ? QString() : MRV::fileIdentity(fileName);
     if (!fileName.isEmpty() && !m_book.documents.contains(m_targets.path)) {
@@ -78,9 +77,7 @@ void MRVEPubWriter::write(const QString &fileName)
             m_pageNotes.append(note);
         }
     }
-    if (!m_pageNotes.isEmpty() || !m_comments.isEmpty()) {
-        writeNotesPage();
-    }
+    writeNotesPage(plan, nullptr);
     m_book.notes += m_notes.all().size();
     const QStringList languages = m_formats.languages();
     for (const QString &language : languages) {
@@ -118,6 +115,18 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
     }
     m_page.body = m_out.take();
     m_book.addPage(m_page);
+    writeNotesPage(plan, chapterOf(plan));
+}
+
+// The heading of the chapter that was written last; null where the document has none.
+const MRVEPubEntry *MRVEPubWriter::chapterOf(const MRVEPubPages &plan) const
+{
+    for (int i = m_book.headings.size() - 1; i >= m_firstHeading; --i) {
+        if (m_book.headings.at(i).depth < qMax(1, plan.lastLevel())) {
+            return &m_book.headings.at(i);
+        }
+    }
+    return nullptr;
 }
 
 // Opens the sections that the headings of a page announce; returns the first paragraph that is not
@@ -251,8 +260,9 @@ void MRVEPubWriter::writeNotes()
     if (m_pageNotes.isEmpty() && m_comments.isEmpty()) {
         return;
     }
-    m_out.append(
-        element("<section class=\"notes\" epub:type=\"footnotes\">\n", "<div class=\"notes\">\n"));
+    const bool isSection = m_isEPub3 && m_book.options.notes == MRVEPubOptions::ChapterNotes;
+    m_out.append(QLatin1String(isSection ? "<section class=\"notes\" epub:type=\"footnotes\">\n"
+                                         : "<div class=\"notes\">\n"));
     int comment = 0;
     for (int i = 0; i < m_pageNotes.size() || comment < m_comments.size();) {
         if (i == m_pageNotes.size()) {
@@ -268,7 +278,7 @@ void MRVEPubWriter::writeNotes()
         }
         writeNote(note, -1);
     }
-    m_out.append(element("</section>\n", "</div>\n"));
+    m_out.append(QLatin1String(isSection ? "</section>\n" : "</div>\n"));
     m_pageNotes.clear();
     m_comments.clear();
 }
@@ -292,12 +302,18 @@ void MRVEPubWriter::writeNote(int note, int inside)
     m_out.append(element("</aside>\n", "</div>\n"));
 }
 
-// The notes of the whole book, after those of the documents before.
-void MRVEPubWriter::writeNotesPage()
+// Adds the notes that are left to those of the whole book, under the heading of their chapter.
+void MRVEPubWriter::writeNotesPage(const MRVEPubPages &plan, const MRVEPubEntry *chapter)
 {
-    m_page = MRVEPubPage();
-    m_page.fileName = MRVEPubBook::NotesPage;
-    m_page.type = QStringLiteral("endnotes");
+    if (m_pageNotes.isEmpty() && m_comments.isEmpty()) {
+        return;
+    }
+    m_page = m_book.beginNotes(plan.firstLevel());
+    if (chapter && chapter->target != m_notesChapter) {
+        m_notesChapter = chapter->target;
+        const QByteArray tag = 'h' + QByteArray::number(m_book.notesLevel + 1) + '>';
+        m_out.append('<' + tag + mrvEPubValue(chapter->text) + "</" + tag + '\n');
+    }
     writeNotes();
     m_page.body = m_out.take();
     m_book.addNotes(m_page);

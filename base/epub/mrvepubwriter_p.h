@@ -43,6 +43,7 @@ private:
         int depth = 0; // of a list
         QTextListFormat::Style style = QTextListFormat::ListDisc;
         int number = 0; // of its last item
+        bool isCounted = false; // its numbers are text: it begins with another than EPUB 2 can say
         QByteArray end;
     };
     struct Element
@@ -88,7 +89,8 @@ private:
     QString headingText(int paragraph) const;
     void writeNotes();
     void writeNote(int note, int inside);
-    void writeNotesPage();
+    const MRVEPubEntry *chapterOf(const MRVEPubPages &plan) const;
+    void writeNotesPage(const MRVEPubPages &plan, const MRVEPubEntry *chapter);
     int writeCommentMark(int fragment, int end, int position);
     void writeComment(const Comment &comment);
 
@@ -158,11 +160,14 @@ private:
     int m_linkAttributes = -1; // of the open link
     bool m_isSpaced = false; // the text of the paragraph holds white space that counts
     bool m_isAfterBlank = true;
+    QString m_itemLabel; // the text before that of the next paragraph
     int m_itemHole = 0; // of the item that was begun last
     int m_openNote = -1; // the note that is being written
     QVector<QByteArray> m_sections; // end tags
     QVector<int> m_pageNotes; // whose marks stand on the page, and that are moved
     QHash<int, bool> m_isNoteWritten;
+    const int m_firstHeading; // of the document, in the book
+    QString m_notesChapter; // that the notes of the book are at, by the target of its heading
     QVector<Comment> m_comments; // whose marks stand on the page
     MRVEPubAnchors m_targets;
     QHash<int, QStringList> m_names; // of formats, without those that have an id

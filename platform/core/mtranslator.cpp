@@ -61,6 +61,14 @@ std::unique_ptr<QTranslator> newTranslator()
     return translator;
 }
 
+// Null where it cannot be read.
+std::unique_ptr<QTranslator> loaded(const QString &file)
+{
+    auto translator = newTranslator();
+    // Without delimiters, since Qt would otherwise look for files of other names, too.
+    return translator->load(file, QString(), QLatin1String("")) ? std::move(translator) : nullptr;
+}
+
 void removeTranslators(QCoreApplication *application)
 {
     qDeleteAll(application->findChildren<QTranslator *>(newTranslator()->objectName(),
@@ -131,9 +139,8 @@ bool MTranslator::install(const QString &code, QString *error)
         return fail(tr("No translation into the language \"%1\" exists").arg(code));
     }
 
-    // Without delimiters, since Qt would otherwise look for files of other names, too.
-    auto own = newTranslator();
-    if (!file.isEmpty() && !own->load(file, QString(), QLatin1String(""))) {
+    auto own = file.isEmpty() ? newTranslator() : loaded(file);
+    if (!own) {
         return fail(
             tr("The translation \"%1\" cannot be read").arg(QDir::toNativeSeparators(file)));
     }
@@ -149,4 +156,10 @@ bool MTranslator::install(const QString &code, QString *error)
         installTranslator(std::move(own), application);
     }
     return true;
+}
+
+std::unique_ptr<QTranslator> MTranslator::translator(const QString &code)
+{
+    const QString file = translationFile(code);
+    return file.isEmpty() ? nullptr : loaded(file);
 }

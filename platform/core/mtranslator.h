@@ -6,6 +6,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class QTranslator;
+
 /**
  * The languages of the user interface.
  *
@@ -58,4 +62,14 @@ public:
      *         read, and where there is no application object.
      */
     static bool install(const QString &code, QString *error = nullptr);
+
+    /**
+     * The library's texts in a language, whichever one the interface has: for what is written in
+     * the language of a document.
+     *
+     * @param code as install() takes it.
+     * @return a translator that is not installed; null where there is none, or it cannot be read.
+     *         Of English, it lacks all texts without a count.
+     */
+    static std::unique_ptr<QTranslator> translator(const QString &code);
 };
