@@ -2,22 +2,15 @@
 
 #include "options/mrvoptions.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QThread>
 
 #include <utility>
 
 namespace {
-
-// Longer than QLockFile takes to see that a lock belongs to nobody.
-constexpr int MostWaiting = 40000;
-constexpr int Step = 10;
 
 // QSettings takes any file for one of its own, and would write over it. What stands before the
 // first section must be comments and keys; where "#" comments are all there is, it may be a text
@@ -66,24 +59,6 @@ MRVOptionsFile::MRVOptionsFile() = default;
 
 MRVOptionsFile::~MRVOptionsFile() = default;
 
-// All names of a file lead to one lock.
-bool MRVOptionsFile::lock(const QFileInfo &file)
-{
-    const QString real = file.exists()
-        ? file.canonicalFilePath()
-        : QDir(QFileInfo(file.path()).canonicalFilePath()).filePath(file.fileName());
-    m_lock = std::make_unique<QLockFile>(real + QLatin1String(".edit"));
-    const QDeadlineTimer deadline(MostWaiting);
-    // Its own waiting becomes longer and longer. A folder that takes no lock is for saving to tell.
-    while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
-        QThread::msleep(Step);
-    }
-    return true;
-}
-
 // Empty when the file can be opened.
 QString MRVOptionsFile::objectionTo(const QFileInfo &info, bool isOwn, Access access)
 {
@@ -115,9 +90,7 @@ bool MRVOptionsFile::open(const QString &path, Access access, QString *error)
         if (isOwn) {
             QDir().mkpath(file.path());
         }
-        if (!lock(file)) {
-            reason = tr("another program is changing it");
-        }
+        m_lock.acquire(file.filePath(), &reason);
     }
     if (reason.isEmpty()) {
         m_options = isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
@@ -127,7 +100,7 @@ bool MRVOptionsFile::open(const QString &path, Access access, QString *error)
         m_options.reset();
         reason = tr("this is no settings file");
     }
-    m_lock.reset();
+    m_lock.release();
     if (error) {
         *error = file.filePath() + QLatin1String(": ") + reason;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "util/mrvbase_export.h"
+#include "util/mrveditlock.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -9,7 +10,6 @@
 
 class MRVOptions;
 class QFileInfo;
-class QLockFile;
 
 /**
  * Preferences in a file that may be any file, opened by one of several programs at a time.
@@ -57,8 +57,7 @@ public:
 
 private:
     static QString objectionTo(const QFileInfo &file, bool isOwn, Access access);
-    bool lock(const QFileInfo &file);
 
-    std::unique_ptr<QLockFile> m_lock; // goes last, since the options save when they go
+    MRVEditLock m_lock; // goes last, since the options save when they go
     std::unique_ptr<MRVOptions> m_options;
 };

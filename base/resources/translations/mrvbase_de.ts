@@ -197,11 +197,30 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
     </message>
     <message>
         <source>elements are nested more deeply than %1 levels</source>
-        <translation type="unfinished">Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
+        <translation>Elemente sind mehr als %1 Ebenen tief verschachtelt</translation>
     </message>
     <message>
         <source>XML does not allow the name &apos;%1&apos;</source>
         <translation>XML erlaubt den Namen „%1“ nicht</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDomSource</name>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>seine Kodierung schreibt manche Zeichen auf mehrere Arten</translation>
+    </message>
+    <message>
+        <source>its document type declares entities</source>
+        <translation>sein Dokumenttyp deklariert Entitäten</translation>
+    </message>
+    <message>
+        <source>the change goes beyond single elements</source>
+        <translation>die Änderung geht über einzelne Elemente hinaus</translation>
+    </message>
+    <message>
+        <source>the whole document was laid out anew: %1</source>
+        <translation>das ganze Dokument wurde neu gesetzt: %1</translation>
     </message>
 </context>
 <context>
@@ -446,6 +465,13 @@ Fehler: %2</translation>
     <message>
         <source>The e-book cannot be packed: %1</source>
         <translation>Das E-Book kann nicht gepackt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEditLock</name>
+    <message>
+        <source>another program is changing it</source>
+        <translation>Ein anderes Programm ändert sie gerade</translation>
     </message>
 </context>
 <context>
@@ -965,10 +991,6 @@ Fehler: %2</translation>
     <message>
         <source>this is no settings file</source>
         <translation>Dies ist keine Einstellungsdatei</translation>
-    </message>
-    <message>
-        <source>another program is changing it</source>
-        <translation>Ein anderes Programm ändert sie gerade</translation>
     </message>
 </context>
 <context>

@@ -197,11 +197,30 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
     </message>
     <message>
         <source>elements are nested more deeply than %1 levels</source>
-        <translation type="unfinished">hay elementos anidados a más de %1 niveles</translation>
+        <translation>hay elementos anidados a más de %1 niveles</translation>
     </message>
     <message>
         <source>XML does not allow the name &apos;%1&apos;</source>
         <translation>XML no permite el nombre «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDomSource</name>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>su codificación escribe algunos caracteres de varias maneras</translation>
+    </message>
+    <message>
+        <source>its document type declares entities</source>
+        <translation>su tipo de documento declara entidades</translation>
+    </message>
+    <message>
+        <source>the change goes beyond single elements</source>
+        <translation>el cambio va más allá de elementos individuales</translation>
+    </message>
+    <message>
+        <source>the whole document was laid out anew: %1</source>
+        <translation>se ha vuelto a componer todo el documento: %1</translation>
     </message>
 </context>
 <context>
@@ -446,6 +465,13 @@ Error: %2</translation>
     <message>
         <source>The e-book cannot be packed: %1</source>
         <translation>No se puede empaquetar el libro electrónico: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEditLock</name>
+    <message>
+        <source>another program is changing it</source>
+        <translation>otro programa lo está modificando</translation>
     </message>
 </context>
 <context>
@@ -965,10 +991,6 @@ Error: %2</translation>
     <message>
         <source>this is no settings file</source>
         <translation>no es un archivo de ajustes</translation>
-    </message>
-    <message>
-        <source>another program is changing it</source>
-        <translation>otro programa lo está modificando</translation>
     </message>
 </context>
 <context>

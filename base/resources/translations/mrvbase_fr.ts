@@ -197,11 +197,30 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
     </message>
     <message>
         <source>elements are nested more deeply than %1 levels</source>
-        <translation type="unfinished">des éléments sont imbriqués sur plus de %1 niveaux</translation>
+        <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
     </message>
     <message>
         <source>XML does not allow the name &apos;%1&apos;</source>
         <translation>XML n’autorise pas le nom « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDomSource</name>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>son encodage écrit certains caractères de plusieurs façons</translation>
+    </message>
+    <message>
+        <source>its document type declares entities</source>
+        <translation>son type de document déclare des entités</translation>
+    </message>
+    <message>
+        <source>the change goes beyond single elements</source>
+        <translation>la modification va au-delà d’éléments isolés</translation>
+    </message>
+    <message>
+        <source>the whole document was laid out anew: %1</source>
+        <translation>tout le document a été remis en forme : %1</translation>
     </message>
 </context>
 <context>
@@ -446,6 +465,13 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>The e-book cannot be packed: %1</source>
         <translation>Impossible d’assembler le livre numérique&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVEditLock</name>
+    <message>
+        <source>another program is changing it</source>
+        <translation>un autre programme est en train de le modifier</translation>
     </message>
 </context>
 <context>
@@ -965,10 +991,6 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>this is no settings file</source>
         <translation>ce n’est pas un fichier de réglages</translation>
-    </message>
-    <message>
-        <source>another program is changing it</source>
-        <translation>un autre programme est en train de le modifier</translation>
     </message>
 </context>
 <context>
