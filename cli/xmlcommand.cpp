@@ -1,8 +1,12 @@
 #include "commandline.h"
 
 #include "dom/mrvdomdoc.h"
+#include "dom/mrvdomsource.h"
+#include "manuscript/mrvsourcefile.h"
+#include "util/mrveditlock.h"
 
-#include <QBuffer>
+#include "core/mrvfilewriter.h"
+
 #include <QFile>
 #include <QJsonObject>
 
@@ -44,10 +48,7 @@ int get(MRVDomDoc &doc, const Call &call)
     QVector<QDomElement> found{doc.currentElement()};
     if (call.has("all")) {
         doc.cdRoot();
-        doc.find(pathOf(call));
-        for (QDomElement e = doc.findNext(); !e.isNull(); e = doc.findNext()) {
-            found.append(e);
-        }
+        found = doc.findAll(pathOf(call));
     }
     for (const QDomElement &element : qAsConst(found)) {
         doc.setWorkElement(element);
@@ -152,59 +153,85 @@ int create(MRVDomDoc &doc, const Call &call)
     return Done;
 }
 
-bool readFile(const Call &call, QByteArray *bytes, QString *error)
+/** An XML file from before a verb until it is written. */
+class XmlFile
 {
-    QFile file(call.arguments.constFirst());
-    const bool isOpen = call.arguments.constFirst() == QLatin1String("-")
-        ? file.open(stdin, QIODevice::ReadOnly)
-        : file.open(QIODevice::ReadOnly);
-    *bytes = isOpen ? file.readAll() : QByteArray();
-    *error = file.errorString();
-    return isOpen && file.error() == QFileDevice::NoError;
-}
+public:
+    explicit XmlFile(const Call &call)
+        : m_call(call)
+        , m_target(call.has("output") ? call.value("output") : call.arguments.constFirst())
+    {
+    }
 
-// @return Done, or the code to end with.
-int load(MRVDomDoc &doc, const Call &call, bool isCreated)
-{
-    QByteArray bytes;
-    QString error;
-    const QString &file = call.arguments.constFirst();
-    if (isCreated && file != QLatin1String("-") && !QFile::exists(file)) {
-        return Done;
+    MRVDomDoc &document() { return m_document; }
+    bool writesStandardOutput() const { return isStandard(m_target); }
+
+    // A file that is to change is locked until it is written. All return Done or the code to end
+    // with.
+    int lock()
+    {
+        QString reason;
+        return writesStandardOutput() || m_lock.acquire(m_target, &reason)
+            ? int(Done)
+            : refuse(m_target + QLatin1String(": ") + reason);
     }
-    if (!readFile(call, &bytes, &error)) {
-        return refuse(call, error);
-    }
-    QBuffer buffer(&bytes);
-    if (!doc.setContent(&buffer)) {
-        const QString place = doc.errorLine() < 0
+
+    int load(bool isCreated)
+    {
+        const QString &path = m_call.arguments.constFirst();
+        if (isCreated && !isStandard(path) && !QFile::exists(path)) {
+            return Done;
+        }
+        QFile file(path);
+        const bool isOpen = isStandard(path) ? file.open(stdin, QIODevice::ReadOnly)
+                                             : file.open(QIODevice::ReadOnly);
+        m_before = isOpen ? file.readAll() : QByteArray();
+        if (!isOpen || file.error() != QFileDevice::NoError) {
+            return refuse(m_call, file.errorString());
+        }
+        if (m_source.read(m_before, &m_document)) {
+            return Done;
+        }
+        const QString place = m_document.errorLine() < 0
             ? QString()
             : QStringLiteral("line %1, column %2: ")
-                  .arg(QString::number(doc.errorLine()), QString::number(doc.errorColumn()));
-        return refuse(call, place + doc.errorMessage());
+                  .arg(QString::number(m_document.errorLine()),
+                       QString::number(m_document.errorColumn()));
+        return refuse(m_call, place + m_document.errorMessage());
     }
-    return Done;
-}
 
-QString targetOf(const Call &call)
-{
-    return call.has("output") ? call.value("output") : call.arguments.constFirst();
-}
+    int store() const
+    {
+        QString error;
+        QString note;
+        QByteArray bytes;
+        if (!m_source.write(m_document, &bytes, &note, &error)) {
+            return refuse(m_call, error);
+        }
+        if (!note.isEmpty()) {
+            printError(described(m_call.arguments.constFirst()) + QLatin1String(": ") + note);
+        }
+        bool isStored = false;
+        if (writesStandardOutput()) {
+            isStored = writeStandardOutput(bytes, &error);
+        } else if (m_target == m_call.arguments.constFirst() && !m_before.isNull()) {
+            isStored = MRVSourceFile::replace(m_target, m_before, bytes, nullptr, &error);
+        } else {
+            isStored = MRVFileWriter::write(m_target, bytes, &error);
+        }
+        return isStored ? int(Done) : refuse(error);
+    }
 
-int store(const MRVDomDoc &doc, const Call &call)
-{
-    QString error;
-    const QString target = targetOf(call);
-    if (target != QLatin1String("-")) {
-        return doc.save(target, &error) ? int(Done) : refuse(error);
-    }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (!doc.save(buffer)) {
-        return refuse(call, QStringLiteral("the document is nested too deeply"));
-    }
-    return writeStandardOutput(buffer.data(), &error) ? int(Done) : refuse(error);
-}
+private:
+    static bool isStandard(const QString &path) { return path == QLatin1String("-"); }
+
+    const Call &m_call;
+    const QString m_target;
+    MRVEditLock m_lock;
+    MRVDomSource m_source;
+    MRVDomDoc m_document;
+    QByteArray m_before;
+};
 
 enum Effect { Reads, Changes, Creates };
 
@@ -212,15 +239,18 @@ enum Effect { Reads, Changes, Creates };
 template<Effect effect, int (*Run)(MRVDomDoc &doc, const Call &call)>
 int withDocument(const Call &call)
 {
-    if (effect != Reads && call.json() && targetOf(call) == QLatin1String("-")) {
+    XmlFile file(call);
+    if (effect != Reads && call.json() && file.writesStandardOutput()) {
         return usageError(QStringLiteral("--json needs a file to write to"));
     }
-    MRVDomDoc doc;
-    int code = load(doc, call, effect == Creates);
+    int code = effect == Reads ? int(Done) : file.lock();
     if (code == Done) {
-        code = Run(doc, call);
+        code = file.load(effect == Creates);
     }
-    return code == Done && effect != Reads ? store(doc, call) : code;
+    if (code == Done) {
+        code = Run(file.document(), call);
+    }
+    return code == Done && effect != Reads ? file.store() : code;
 }
 
 constexpr Verb verbs[] = {
@@ -249,7 +279,8 @@ const Command xmlCommand = {
     "read and edit XML files by paths",
     "Reads and edits any XML file (- is standard input) by paths such as "
     "/config/engine@id=rtf/option@enabled. A path that does not begin with \"/\" begins in the "
-    "document element. A changed file gets a new layout. FILE may also stand before the verb.",
+    "document element. A changed file keeps all bytes but those of the change. FILE may also stand "
+    "before the verb.",
     "xml get config.xml engine@id=rtf/option\nxml rm config.xml engine -a id",
     verbs,
     {options},

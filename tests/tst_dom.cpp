@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "dom/mrvdomdoc.h"
 #include "dom/mrvdomobject.h"
+#include "dom/mrvdomsource.h"
 #include "support.h"
 
 #include <QBuffer>
@@ -214,6 +215,7 @@ private Q_SLOTS:
         QTEST(found.join(' '), "expected");
         QCOMPARE(doc.currentElement().attribute("n"), start);
         QCOMPARE(doc.exists(path), !found.isEmpty());
+        QCOMPARE(doc.findAll(path).value(0).attribute("n"), found.value(0));
         QCOMPARE(doc.cd(path), !found.isEmpty());
         QCOMPARE(doc.currentElement().attribute("n"), found.value(0, start));
     }
@@ -455,6 +457,123 @@ private Q_SLOTS:
         QCOMPARE(once, (expected.isEmpty() ? xml : expected) + '\n');
         QVERIFY(doc.setContent(once));
         QCOMPARE(QString::fromUtf8(saved(doc)), once);
+    }
+
+    void changesInPlace_data() { addSteps("domsources.tsv"); }
+    // What a text becomes by calls, only the bytes of the change being others.
+    void changesInPlace()
+    {
+        QFETCH(QStringList, steps);
+        const QString expected = steps.takeLast();
+        const QByteArray before = steps.takeFirst().toUtf8();
+        MRVDomDoc doc;
+        MRVDomSource source;
+        QVERIFY2(source.read(before, &doc), qPrintable(doc.errorMessage()));
+        QByteArray written;
+        QVERIFY(source.write(doc, &written));
+        QCOMPARE(written, before);
+        for (const QString &call : steps) {
+            resultOf(call, &doc);
+        }
+        QString note;
+        QVERIFY(source.write(doc, &written, &note));
+        QCOMPARE(QString::fromUtf8(written), expected);
+        QCOMPARE(note, QString());
+    }
+
+    void changesInEachEncoding()
+    {
+        for (const char *encoding : {"ISO-8859-1", "UTF-16LE", "UTF-8", "KOI8-R"}) {
+            const QTextCodec *codec = QTextCodec::codecForName(encoding);
+            const QString xml =
+                "<?xml version='1.0' encoding='%1'?>\r\n<r b = 'x' a=\"\">\r\n%2</r>";
+            const auto bytesWith = [&](const QString &content) {
+                return codec->fromUnicode(xml.arg(encoding, content));
+            };
+            MRVDomDoc doc;
+            MRVDomSource source;
+            QVERIFY(source.read(bytesWith("<e/>"), &doc));
+            QVERIFY(doc.set(QString("1\n\u4e2d&"), "e"));
+            QByteArray written;
+            QString note;
+            QVERIFY(source.write(doc, &written, &note));
+            QCOMPARE(note, QString());
+            const bool isWide = QByteArray(encoding).startsWith("UTF");
+            QCOMPARE(written,
+                     bytesWith(isWide ? "<e>1\r\n\u4e2d&amp;</e>" : "<e>1\r\n&#x4e2d;&amp;</e>"));
+        }
+    }
+
+    // What cannot be changed in place is said, and still reads as the document.
+    void changesWithALayout()
+    {
+        MRVDomDoc doc;
+        MRVDomSource source;
+        QByteArray written;
+        QString note;
+        QVERIFY(source.read("<!DOCTYPE r [<!ENTITY e '<b/>'>]><r>&e;</r>", &doc));
+        QVERIFY(doc.setAttr("a", 1));
+        QVERIFY(source.write(doc, &written, &note));
+        QVERIFY2(note.endsWith("its document type declares entities"), qPrintable(note));
+        QCOMPARE(written, saved(doc));
+        QVERIFY(source.read("<r/><!-- x -->", &doc));
+        doc.setRoot("s");
+        QVERIFY(source.write(doc, &written, &note));
+        QVERIFY2(note.endsWith("goes beyond single elements"), qPrintable(note));
+        QCOMPARE(written, QByteArray("<s/>\n"));
+        QVERIFY(!source.read("<r>", &doc));
+        QVERIFY(doc.errorLine() == 1);
+        QVERIFY(doc.setRoot("1x"));
+        QVERIFY(!source.write(doc, &written, nullptr, &note));
+        QVERIFY2(note.endsWith("the name '1x'"), qPrintable(note));
+    }
+
+    void changesAtRandom()
+    {
+        QRandomGenerator random(20261122);
+        const auto pick = [&](const QStringList &list) {
+            return list[random.bounded(list.size())];
+        };
+        for (int i = 0; i < 2000; ++i) {
+            QString xml = "<r>";
+            QStringList open{"r"};
+            for (int left = random.bounded(12); left > 0; --left) {
+                const QString name = pick({"a", "b", "c"});
+                xml += pick(
+                    {"", "", "\n  ", " ", "t", "&lt;", "<!-- c -->", "<?p i?>", "<![CDATA[<]]>"});
+                xml += '<' + name + pick({"", " k='v'", "\n  k = \"&gt;\" l=''", " m='1' k='2'"});
+                if (random.bounded(2) == 0) {
+                    xml += pick({"/>", " />"});
+                } else {
+                    xml += '>';
+                    open << name;
+                }
+                while (open.size() > 1 && random.bounded(2) == 0) {
+                    xml += pick({"", "\n", "t", " "}) + "</" + open.takeLast() + pick({">", " >"});
+                }
+            }
+            while (!open.isEmpty()) {
+                xml += pick({"", "\n"}) + "</" + open.takeLast() + '>';
+            }
+            MRVDomDoc doc;
+            MRVDomSource source;
+            QVERIFY2(source.read(xml.toUtf8(), &doc), qPrintable(xml));
+            QStringList calls;
+            for (int count = random.bounded(1, 4); count > 0; --count) {
+                calls << pick({"cd ", "cd /", "cdUp 1", "cd a", "cd b/c", "cd c"})
+                      << pick({"set |new", "set |", "set a|x\ny", "setAttr k", "setAttr n|b",
+                               "removeAttrs a|k", "remove a", "removeAll b", "removeAll a/b",
+                               "append e|t", "append e", "prepend f", "insert g|\n", "create h",
+                               "createPath a/b/d"});
+            }
+            for (const QString &call : calls) {
+                resultOf(call, &doc);
+            }
+            QByteArray written;
+            QString note;
+            QVERIFY(source.write(doc, &written, &note));
+            QVERIFY2(note.isEmpty(), qPrintable(xml + '\n' + calls.join(';') + '\n' + saved(doc)));
+        }
     }
 
     void blanksAsValues()

@@ -246,6 +246,23 @@ private Q_SLOTS:
 
     // The page on paths shows what the tool prints: all its examples are run, one after the other,
     // on its file.
+    void xmlOneAfterTheOther()
+    {
+        QVERIFY(writeBytes(in("many.xml"), "<r/>"));
+        std::vector<std::unique_ptr<QProcess>> all;
+        for (int i = 0; i < 12; ++i) {
+            all.push_back(std::make_unique<QProcess>());
+            all.back()->start(MRV_TOOL,
+                              {"xml", "create", in("many.xml"), "/r/e" + QString::number(i)});
+        }
+        for (const auto &process : all) {
+            QVERIFY(process->waitForFinished(60000));
+            QCOMPARE(process->exitCode(), 0);
+        }
+        QCOMPARE(bytesOf(in("many.xml")).count("<e"), 12);
+        QVERIFY(!QFile::exists(in("many.xml.edit")));
+    }
+
     void xmlExamples()
     {
         const QString page = QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/docs/paths.md"));

@@ -1,5 +1,7 @@
 #include "dom/mrvdomblanks_p.h"
 
+#include "dom/mrvxmltokens_p.h"
+
 #include <QDomElement>
 #include <QRegularExpression>
 #include <QVector>
@@ -22,22 +24,15 @@ class BlankFinder
 public:
     explicit BlankFinder(const QString &xml)
         : m_xml(xml)
+        , m_tokens(xml)
     {
     }
 
     /** In ascending order. */
     QVector<int> marks()
     {
-        while (m_position < m_xml.size()) {
-            const int start = m_position;
-            const int found = m_xml.indexOf(u'<', start);
-            m_position = found < 0 ? m_xml.size() : found;
-            if (!m_open.isEmpty()) {
-                addText(start, m_position);
-            }
-            if (found >= 0) {
-                passMarkup();
-            }
+        while (m_tokens.next()) {
+            addToken();
         }
         std::sort(m_marks.begin(), m_marks.end());
         return m_marks;
@@ -57,9 +52,7 @@ private:
         const int known = element.blanks.size();
         bool isLayout = false;
         bool hasReference = false;
-        if (start < end) {
-            element.blanks.append(start);
-        }
+        element.blanks.append(start);
         for (int i = start; i < end; ++i) {
             const QChar c = m_xml[i];
             isLayout = isLayout || c == u'\n';
@@ -75,83 +68,35 @@ private:
                 return;
             }
         }
-        element.hasText = element.hasText || hasReference || (start < end && !isLayout);
+        element.hasText = element.hasText || hasReference || !isLayout;
     }
 
-    void passMarkup()
+    void addToken()
     {
-        const QStringView markup = QStringView(m_xml).mid(m_position);
-        if (markup.startsWith(QLatin1String("<!--"))) {
-            pass(4, QLatin1String("-->"));
-        } else if (markup.startsWith(QLatin1String("<![CDATA["))) {
+        switch (m_tokens.kind()) {
+        case MRVXmlTokens::Text:
+            if (!m_open.isEmpty()) {
+                addText(m_tokens.start(), m_tokens.end());
+            }
+            break;
+        case MRVXmlTokens::Section:
             if (!m_open.isEmpty()) {
                 m_open.last().hasText = true;
             }
-            pass(9, QLatin1String("]]>"));
-        } else if (markup.startsWith(QLatin1String("<?"))) {
-            pass(2, QLatin1String("?>"));
-        } else if (markup.startsWith(QLatin1String("<!"))) {
-            passDocumentType();
-        } else if (markup.startsWith(QLatin1String("</"))) {
-            pass(2, QLatin1String(">"));
+            break;
+        case MRVXmlTokens::StartTag:
+            open(m_tokens.text());
+            break;
+        case MRVXmlTokens::EndTag:
             close();
-        } else {
-            open();
+            break;
+        default:
+            break;
         }
     }
 
-    void pass(int length, QLatin1String end)
+    void open(QStringView tag)
     {
-        const int found = m_xml.indexOf(end, m_position + length);
-        m_position = found < 0 ? m_xml.size() : found + end.size();
-    }
-
-    // Passes a tag, or a declaration up to its own declarations.
-    void passTag(QChar other = u'>')
-    {
-        QChar quote;
-        for (++m_position; m_position < m_xml.size(); ++m_position) {
-            const QChar c = m_xml[m_position];
-            if (!quote.isNull()) {
-                quote = c == quote ? QChar() : quote;
-            } else if (c == u'"' || c == u'\'') {
-                quote = c;
-            } else if (c == u'>' || c == other) {
-                ++m_position;
-                return;
-            }
-        }
-    }
-
-    void passDocumentType()
-    {
-        passTag(u'[');
-        if (m_xml[m_position - 1] != u'[') {
-            return;
-        }
-        while (m_position < m_xml.size() && m_xml[m_position] != u']') {
-            const QStringView markup = QStringView(m_xml).mid(m_position);
-            if (markup.startsWith(QLatin1String("<!--"))) {
-                pass(4, QLatin1String("-->"));
-            } else if (markup.startsWith(QLatin1String("<?"))) {
-                pass(2, QLatin1String("?>"));
-            } else if (markup.startsWith(u'<')) {
-                passTag();
-            } else {
-                ++m_position;
-            }
-        }
-        pass(0, QLatin1String(">"));
-    }
-
-    void open()
-    {
-        const int start = m_position;
-        passTag();
-        const QStringView tag = QStringView(m_xml).mid(start, m_position - start);
-        if (tag.endsWith(QLatin1String("/>"))) {
-            return;
-        }
         Element element;
         element.preserves = !m_open.isEmpty() && m_open.last().preserves;
         if (tag.contains(QLatin1String("xml:space"))) {
@@ -176,7 +121,7 @@ private:
     }
 
     const QString &m_xml;
-    int m_position = 0;
+    MRVXmlTokens m_tokens;
     QVector<Element> m_open;
     QVector<int> m_marks;
 };

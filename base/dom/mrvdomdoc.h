@@ -240,6 +240,12 @@ public:
      */
     QDomElement findNext() const;
     /**
+     * All elements that @p path names, in the order of the document, each once: those that
+     * remove(path, true) removes, as long as removing one of them does not change what the path
+     * names. Nothing that findNext() depends on changes.
+     */
+    QVector<QDomElement> findAll(const QString &path) const;
+    /**
      * The work element for programs: "path", its workPath(); "text", what get() gives;
      * "attributes", texts by name; "elements", the names of its child elements, each once.
      */
@@ -537,13 +543,6 @@ private:
         QVector<Predicate> predicates;
         int wayBack = -1; // the later ".." that leads back to where this step began
     };
-    /** A path that leads up first, if at all, and then down. */
-    struct Walk
-    {
-        QVector<QDomElement> up; // the elements that it leaves upwards, the work element first
-        QVector<Step> steps; // down
-        bool isCutOff = false; // one of those was removed
-    };
     enum class Place { First, BeforeChild, AfterChild, Last };
 
     static Step stepOf(const QStringList &parts);
@@ -552,12 +551,12 @@ private:
     const QVector<Step> &steps() const;
     QDomElement resolve(QDomElement e, int index, int end) const;
     QDomElement resolveBelow(const QDomElement &e, int index, int end) const;
+    static void addChildren(const QDomElement &e, const Step &step, QVector<QDomElement> *children);
     static QStringList childNames(const QDomElement &element);
     QString firstMissing(const QString &path);
     int removeFound(const QString &path, const QString &attribute, bool all);
     int removeAll(const QString &path, const QString &attribute);
-    bool walkOf(const QString &path, QDomElement *start, Walk *walk) const;
-    int removeBelow(const QDomElement &e, Walk *walk, int index, const QString &attribute);
+    bool leadsDown(const QString &path, QVector<QDomElement> *up) const;
     bool removeOne(QDomElement e, const QString &attribute);
     bool removeElement(const QDomElement &e);
 

@@ -236,6 +236,47 @@ QDomElement MRVDomDoc::findNext() const
     return EmptyElement;
 }
 
+QVector<QDomElement> MRVDomDoc::findAll(const QString &path) const
+{
+    // What is looked up here must not change what findNext() does.
+    MRVDomDoc other;
+    other.m_document = m_document;
+    other.m_workElement = m_workElement;
+    const QDomElement first = other.find(path);
+    if (path.isEmpty() || first.isNull()) {
+        return first.isNull() ? QVector<QDomElement>() : QVector<QDomElement>{first};
+    }
+    QVector<QDomElement> level{other.m_isAbsolute ? documentElement() : m_workElement};
+    for (int i = other.m_isAbsolute ? 1 : 0; i < other.steps().size(); ++i) {
+        const Step &step = other.m_pathSteps[i];
+        QVector<QDomElement> next;
+        for (const QDomElement &e : qAsConst(level)) {
+            if (!isNavigation(step.name)) {
+                addChildren(e, step, &next);
+                continue;
+            }
+            const QDomElement target = step.name == Self ? e : e.parentNode().toElement();
+            // Elements of one parent follow each other.
+            if (!target.isNull() && predicatesHold(step, target)
+                && (next.isEmpty() || next.constLast() != target)) {
+                next.append(target);
+            }
+        }
+        level = next;
+    }
+    return level;
+}
+
+void MRVDomDoc::addChildren(const QDomElement &e, const Step &step, QVector<QDomElement> *children)
+{
+    for (QDomElement child = e.firstChildElement(step.name); !child.isNull();
+         child = child.nextSiblingElement(step.name)) {
+        if (predicatesHold(step, child)) {
+            children->append(child);
+        }
+    }
+}
+
 QStringList MRVDomDoc::childNames(const QDomElement &element)
 {
     QStringList names;
@@ -313,8 +354,8 @@ int MRVDomDoc::removeFound(const QString &path, const QString &attribute, bool a
 
 /*
  * Removing what was found and looking again would begin at the first child each time. As removing
- * makes nothing match that did not match before, one walk down removes the same elements in the
- * same order. Only paths that go up on their way may name an element twice.
+ * makes nothing match that did not match before, a path that only leads down names the same
+ * elements all the while.
  */
 int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
 {
@@ -322,11 +363,16 @@ int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
     if (found.isNull()) {
         return 0;
     }
-    Walk walk;
-    QDomElement start;
+    QVector<QDomElement> up;
     int count = 0;
-    if (walkOf(path, &start, &walk)) {
-        count = removeBelow(start, &walk, 0, attribute);
+    if (leadsDown(path, &up)) {
+        const QVector<QDomElement> all = findAll(path);
+        for (const QDomElement &e : all) {
+            count += removeOne(e, attribute);
+            if (attribute.isEmpty() && up.contains(e)) {
+                break; // nothing leads up any more from a work element that stands nowhere
+            }
+        }
     } else {
         // An element remains after its attribute: only those that have it are looked for.
         const int end = path.lastIndexOf(QRegularExpression(QStringLiteral("[^/\\s]"))) + 1;
@@ -341,47 +387,25 @@ int MRVDomDoc::removeAll(const QString &path, const QString &attribute)
     return count;
 }
 
-// Takes the last path apart: up to where it begins to lead down, and down from there. False for a
-// path that goes up again on its way, or nowhere down.
-bool MRVDomDoc::walkOf(const QString &path, QDomElement *start, Walk *walk) const
+// Whether the last path goes up no more once it has gone down. "up" receives the elements that it
+// leaves before, the work element first.
+bool MRVDomDoc::leadsDown(const QString &path, QVector<QDomElement> *up) const
 {
-    *start = m_isAbsolute ? m_document.documentElement() : m_workElement;
+    bool isDown = false;
+    QDomElement e = m_workElement;
     for (int i = m_isAbsolute ? 1 : 0; !path.isEmpty() && i < steps().size(); ++i) {
         const Step &step = m_pathSteps[i];
-        if (!isNavigation(step.name)) {
-            walk->steps.append(step);
-        } else if (!walk->steps.isEmpty()) {
-            if (step.name == Parent || !step.predicates.isEmpty()) {
-                return false;
-            }
-        } else if (step.name == Parent) {
-            walk->up.append(*start);
-            *start = start->parentNode().toElement();
+        const bool isUp = step.name == Parent;
+        if (isDown && (isUp || (step.name == Self && !step.predicates.isEmpty()))) {
+            return false;
+        }
+        isDown = isDown || !isNavigation(step.name);
+        if (isUp) {
+            up->append(e);
+            e = e.parentNode().toElement();
         }
     }
-    return !walk->steps.isEmpty();
-}
-
-int MRVDomDoc::removeBelow(const QDomElement &e, Walk *walk, int index, const QString &attribute)
-{
-    const Step step = walk->steps[index];
-    int count = 0;
-    QDomElement next;
-    for (QDomElement child = e.firstChildElement(step.name); !child.isNull() && !walk->isCutOff;
-         child = next) {
-        next = child.nextSiblingElement(step.name);
-        if (!predicatesHold(step, child)) {
-            continue;
-        }
-        if (index + 1 < walk->steps.size()) {
-            count += removeBelow(child, walk, index + 1, attribute);
-        } else {
-            count += removeOne(child, attribute);
-            // Nothing leads up any more from a work element that stands nowhere.
-            walk->isCutOff = attribute.isEmpty() && walk->up.contains(child);
-        }
-    }
-    return count;
+    return isDown;
 }
 
 bool MRVDomDoc::removeOne(QDomElement e, const QString &attribute)

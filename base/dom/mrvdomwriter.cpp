@@ -81,6 +81,39 @@ public:
         return isWritten;
     }
 
+    bool writeElement(const QDomNode &element, const QString *indent, const QString &prefix)
+    {
+        m_laysOut = indent;
+        m_layout.isLaidOut = indent;
+        m_indent = indent ? *indent : QString();
+        m_prefix = prefix;
+        const bool isWritten = writeElement(element, 0);
+        flush();
+        return isWritten;
+    }
+
+    void writeSome(const QDomNode &parent, const QDomNode &first, const QDomNode &end)
+    {
+        QDomElement around = parent.toElement();
+        while (!around.isNull() && !around.hasAttribute(QStringLiteral("xml:space"))) {
+            around = around.parentNode().toElement();
+        }
+        const bool isPreserved = mrvPreservesBlanks(around, false);
+        m_laysOut = false;
+        m_layout.isLaidOut = false;
+        m_layout.marksBlank = !isPreserved && mrvDomContentOf(parent) == MRVDomContent::Lines;
+        for (QDomNode node = first; node != end; node = node.nextSibling()) {
+            writeNode(node, 0);
+        }
+        flush();
+    }
+
+    QString attributeValue(const QString &value)
+    {
+        writeEscaped(value, Place::Attribute);
+        return m_text;
+    }
+
     QString reason() const { return m_reason; }
 
 private:
@@ -173,8 +206,9 @@ private:
         m_text += u'>';
         const MRVDomContent content = mrvDomContentOf(element);
         m_layout.isPreserved = mrvPreservesBlanks(element, m_layout.isPreserved);
-        m_layout.isLaidOut = content == MRVDomContent::Elements && !m_layout.isPreserved;
-        m_marksBlank = content == MRVDomContent::Lines && !m_layout.isPreserved;
+        m_layout.isLaidOut =
+            m_laysOut && content == MRVDomContent::Elements && !m_layout.isPreserved;
+        m_layout.marksBlank = content == MRVDomContent::Lines && !m_layout.isPreserved;
         if (m_layout.isLaidOut) {
             m_text += u'\n';
         }
@@ -191,10 +225,10 @@ private:
     // A reference makes readers take white space for text that would be layout to them.
     void writeText(QString text)
     {
-        if (m_marksBlank && mrvIsBlankXml(text)) {
+        if (m_layout.marksBlank && mrvIsBlankXml(text)) {
             m_text += QStringLiteral("&#x%1;").arg(int(text[0].unicode()), 0, 16);
             text.remove(0, 1);
-            m_marksBlank = false;
+            m_layout.marksBlank = false;
         }
         writeEscaped(text, Place::Text);
     }
@@ -414,9 +448,11 @@ private:
 
     void indent(int depth)
     {
-        static const QString blanks(MRVDomLimits::MaxDepth * Indentation, u' ');
         if (m_layout.isLaidOut) {
-            m_text.append(blanks.constData(), depth * Indentation);
+            m_text += m_prefix;
+            for (int i = 0; i < depth; ++i) {
+                m_text += m_indent;
+            }
         }
     }
 
@@ -442,12 +478,15 @@ private:
     {
         bool isLaidOut = true;
         bool isPreserved = false; // by xml:space
+        bool marksBlank = false; // in the next text that is white space
     };
 
     QByteArray *m_bytes;
     QString m_text;
+    bool m_laysOut = true; // at all
     Layout m_layout;
-    bool m_marksBlank = false; // the next text
+    QString m_indent = QString(Indentation, u' '); // of a level
+    QString m_prefix; // of each line
     Attributes m_attributes;
     QString m_reason;
     QSet<QString> m_names; // that XML allows, of those that are not plain
@@ -475,4 +514,27 @@ bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reaso
 {
     Writer writer(bytes);
     return writer.write(document) || MRV::fail(reason, writer.reason());
+}
+
+bool mrvXmlElement(const QDomElement &element, const QString *indent, const QString &prefix,
+                   QString *text)
+{
+    QByteArray bytes;
+    const bool isWritten = Writer(&bytes).writeElement(element, indent, prefix);
+    *text = QString::fromUtf8(bytes);
+    return isWritten;
+}
+
+QString mrvXmlContent(const QDomNode &parent, const QDomNode &first, const QDomNode &end)
+{
+    QByteArray bytes;
+    Writer(&bytes).writeSome(parent, first, end);
+    return QString::fromUtf8(bytes);
+}
+
+QString mrvXmlAttributeValue(const QString &value, QChar quote)
+{
+    QByteArray bytes;
+    const QString text = Writer(&bytes).attributeValue(value);
+    return quote == u'\'' ? QString(text).replace(u'\'', QLatin1String("&apos;")) : text;
 }

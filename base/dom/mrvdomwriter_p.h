@@ -24,3 +24,20 @@ bool mrvIsXmlName(const QString &name);
  * @return false with a reason; @p bytes hold a part then.
  */
 bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reason);
+
+/**
+ * An element that is written into a text, without blanks before it and line end after it.
+ *
+ * @param indent by which its content is laid out, level by level; null for no layout.
+ * @param prefix what stands before each of its lines.
+ * @param text   receives the element, with line feeds.
+ * @return false for one that could not be loaded again.
+ */
+bool mrvXmlElement(const QDomElement &element, const QString *indent, const QString &prefix,
+                   QString *text);
+
+/** What is in @p parent from the child @p first on up to @p end, which may be null. */
+QString mrvXmlContent(const QDomNode &parent, const QDomNode &first, const QDomNode &end);
+
+/** A value as it stands between two @p quote characters. */
+QString mrvXmlAttributeValue(const QString &value, QChar quote);
