@@ -11,7 +11,7 @@
 namespace {
 
 // Arguments that may be empty; all others name something.
-constexpr const char *mayBeEmpty[] = {"VALUE", "VALUE...", "[VALUE]", "REPLACEMENT", "NEW", "PATH", "WORD..."};
+constexpr const char *mayBeEmpty[] = {"VALUE", "VALUE...", "REPLACEMENT", "NEW", "PATH", "WORD..."};
 
 QString longName(const Option &option)
 {
