@@ -201,7 +201,7 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
     </message>
     <message>
         <source>XML does not allow the name &apos;%1&apos;</source>
-        <translation>XML n’autorise pas le nom « %1 »</translation>
+        <translation>XML n’autorise pas le nom «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -220,7 +220,7 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
     </message>
     <message>
         <source>the whole document was laid out anew: %1</source>
-        <translation>tout le document a été remis en forme : %1</translation>
+        <translation>tout le document a été remis en forme&#xa0;: %1</translation>
     </message>
 </context>
 <context>
