@@ -9,6 +9,7 @@
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QTextBlock>
 
 #include <csignal>
 
@@ -39,7 +40,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, script);
         QFETCH(QString, expected);
-        const QByteArray source = cell("source").isEmpty() ? "High water" : cell("source").toUtf8();
+        const QByteArray source =
+            cell("source").isEmpty() ? "{\\rtf1 High water}" : cell("source").toUtf8();
         const QString program = m_folder->filePath("pandoc");
         const QString start = script.startsWith('#') ? "" : "#!/bin/sh\n";
         QVERIFY(script == "-" || writeBytes(program, (start + script).toUtf8()));
@@ -113,16 +115,85 @@ private Q_SLOTS:
         MRVManuscriptReader reader;
         MRVManuscript read;
         QVERIFY2(reader.read(file, &read), qPrintable(reader.errorString()));
-        QCOMPARE(read.document->toPlainText(), cell("text"));
+        QCOMPARE(textWithLinks(*read.document), cell("text"));
         const QString missing = cell("missing");
         QCOMPARE(read.readingNotes().join('|'),
                  missing.isEmpty() ? missing : "not in the document: " + missing);
         QCOMPARE(read.isWhole(), missing.isEmpty());
     }
 
+    /// What the properties say where the text does not, in an archive of either kind.
+    void properties()
+    {
+        const QByteArray start = "<p xmlns:dc=\"a\" xmlns:meta=\"b\" xmlns:dcterms=\"c\">"
+                                 "<dc:title>A &lt; $b$ @date@</dc:title><dc:creator>Ann; Ben"
+                                 "</dc:creator><dc:language>de_DE</dc:language><dc:description>"
+                                 "\"W\"</dc:description>";
+        const QStringList names{"docProps/core.xml", "meta.xml"};
+        const QByteArrayList ends{"<dcterms:created>2020-03-04T05:06:07Z</dcterms:created></p>",
+                                  "<meta:initial-creator>Cy</meta:initial-creator>"
+                                  "<meta:creation-date>2020-03-04T05</meta:creation-date></p>"};
+        for (int i = 0; i < 2; ++i) {
+            const QString file = m_folder->filePath(i == 0 ? "a.docx" : "a.odt");
+            writeArchive(file, i == 0 ? "docx" : "odt", QByteArray(), names.at(i),
+                         start + ends.at(i));
+            MRVManuscriptReader reader;
+            MRVManuscript read;
+            QVERIFY2(reader.read(file, &read), qPrintable(reader.errorString()));
+            QCOMPARE(read.document->metaInformation(QTextDocument::DocumentTitle),
+                     "A < $b$ @date@");
+            QCOMPARE(read.authors.join('|'), i == 0 ? "Ann|Ben" : "Cy");
+            QCOMPARE(read.language, QString("de-DE"));
+            QCOMPARE(read.description, QString("\"W\""));
+            QCOMPARE(read.date, QString("2020-03-04"));
+        }
+    }
+
+    void refusesWhatIsTooLarge()
+    {
+        const QString file = m_folder->filePath("a.docx");
+        writeArchive(file, "docx", "<!--" + QByteArray(65 << 20, ' ') + "-->");
+        MRVManuscriptReader reader;
+        MRVManuscript read;
+        QVERIFY(!reader.read(file, &read));
+        QVERIFY2(reader.errorString().contains("larger than 64 MB"),
+                 qPrintable(reader.errorString()));
+    }
+
+    /// A name of another kind of file does not make text of an archive.
+    void refusesOtherNames()
+    {
+        for (const QString name : {"a.txt", "a.md", "a.html"}) {
+            writeArchive(m_folder->filePath(name), "odt", "<text:p>a</text:p>");
+            MRVManuscriptReader reader;
+            MRVManuscript read;
+            QVERIFY(!reader.read(m_folder->filePath(name), &read));
+            QCOMPARE(reader.error(), MRVManuscriptReader::UnknownFormat);
+            QVERIFY2(reader.errorString().contains("ODT"), qPrintable(reader.errorString()));
+        }
+    }
+
 private:
+    /// What leads to a place of the document stands after its address in brackets.
+    static QString textWithLinks(const QTextDocument &document)
+    {
+        QStringList paragraphs;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            QString paragraph;
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QString address = it.fragment().charFormat().anchorHref();
+                paragraph += address.startsWith('#') ? '[' + address + ']' : QString();
+                paragraph += it.fragment().text();
+            }
+            paragraphs << paragraph;
+        }
+        return paragraphs.join('\n');
+    }
+
     /// With the text as the last file, after what is as large.
-    static void writeArchive(const QString &name, const QString &format, const QByteArray &content)
+    static void writeArchive(const QString &name, const QString &format, const QByteArray &content,
+                             const QString &otherFile = QString(),
+                             const QByteArray &other = QByteArray())
     {
         KZip zip(name);
         QVERIFY(zip.open(QIODevice::WriteOnly));
@@ -134,7 +205,7 @@ private:
                           "xmlns:office:1.0\"><office:font-face-decls/><office:styles/>"
                           "<office:automatic-styles/><office:master-styles/>"
                           "</office:document-styles>");
-            if (content.contains("draw:")) {
+            if (content.contains("draw:object")) {
                 zip.writeFile("Formula/content.xml",
                               "<math xmlns=\"http://www.w3.org/1998/Math/"
                               "MathML\"><mi>x</mi><mn>7</mn></math>");
@@ -149,6 +220,7 @@ private:
                           "<office:body><office:text>"
                               + content + "</office:text></office:body></office:document-content>");
         } else {
+            zip.writeFile("[Content_Types].xml", "<Types/>");
             zip.writeFile("_rels/.rels",
                           "<Relationships><Relationship Target=\"word/document.xml\" "
                           "Type=\"http://schemas.openxmlformats.org/officeDocument/2006/"
@@ -158,6 +230,7 @@ private:
                           "wordprocessingml/2006/main\"><w:body><w:p>"
                               + content + "</w:p></w:body></w:document>");
         }
+        QVERIFY(otherFile.isEmpty() || zip.writeFile(otherFile, other));
         QVERIFY(zip.close());
     }
 

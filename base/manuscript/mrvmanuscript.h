@@ -75,7 +75,7 @@ public:
     /** What the head of HTML, or the front matter of Markdown, says; so with those that follow. */
     QStringList authors;
     QString description;
-    QString date; ///< as it is written; of Markdown only
+    QString date; ///< as it is written
     QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
     QVector<MRVMetadataEntry> metadata; ///< all that it says there, in order
 

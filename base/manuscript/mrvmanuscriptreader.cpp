@@ -46,6 +46,16 @@ bool isProse(const MRVManuscript &manuscript)
         && !manuscript.fileName.endsWith(QLatin1String(".fountain"), Qt::CaseInsensitive);
 }
 
+QString dateIn(const QVector<MRVMetadataEntry> &entries)
+{
+    for (const MRVMetadataEntry &entry : entries) {
+        if (entry.key == QLatin1String("date")) {
+            return entry.values.value(0);
+        }
+    }
+    return QString();
+}
+
 } // namespace
 
 bool MRVManuscriptReader::read(const QString &path, MRVManuscript *manuscript)
@@ -83,6 +93,13 @@ bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
     read->options = m_purpose == Editing ? MRVMarkdown::Footnotes : m_options;
     if (read->format == MRVManuscript::Unknown) {
         return fail(UnknownFormat, *read, tr("unknown type of file"));
+    }
+    // Such a file can be read as text all the same, if somebody says so.
+    const MRVFormat::Format office = MRVOfficeConverter::formatOf(read->bytes);
+    if (m_format == MRVManuscript::Unknown && !read->isConverted()
+        && office != MRVFormat::NoFormat) {
+        return fail(UnknownFormat, *read,
+                    tr("it is %1, which its name does not say").arg(MRVFormat::name(office)));
     }
     const bool hasText = read->isConverted() ? convert(read, &text) : decode(read, &text);
     if (!hasText || !readDocument(text, folder, read)
@@ -143,6 +160,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         read->description = head.description;
         read->language = head.language;
         read->metadata = head.entries;
+        read->date = dateIn(head.entries);
     }
     QString reason;
     MRVSourceReport report;

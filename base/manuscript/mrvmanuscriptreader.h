@@ -32,12 +32,12 @@ public:
     enum Error {
         NoError = 0,
         FileError = 1, ///< the file is missing, not regular, or cannot be read
-        UnknownFormat = 2, ///< the suffix means no format, and none was set
+        UnknownFormat = 2, ///< the suffix means no format or a wrong one, and none was set
         UnknownEncoding = 3,
         DecodingError = 4, ///< the bytes are not valid in the encoding
         NestingError = 5, ///< HTML or Markdown is built so that reading would hardly end
         PictureError = 6, ///< a picture on this machine is missing or cannot be read
-        ConversionError = 7, ///< no installed program can read the DOCX, ODT or RTF
+        ConversionError = 7, ///< it is no DOCX, ODT or RTF, or no installed program can read it
     };
 
     enum Purpose {

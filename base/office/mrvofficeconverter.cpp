@@ -1,8 +1,10 @@
 #include "office/mrvofficeconverter.h"
 
 #include "office/mrvofficesource_p.h"
+#include "util/mrvescape.h"
 #include "util/mrvfailure.h"
 #include "util/mrvlimitedprogram.h"
+#include "util/mrvnames.h"
 #include "util/mrvtemporaryfolder.h"
 
 #include "core/mrvcoreutil.h"
@@ -41,13 +43,14 @@ const Converter *converterOf(MRVFormat::Format format)
 
 // What styles of the document mark as its title and the like is no part of the body.
 constexpr char pageTemplate[] = R"(<!DOCTYPE html>
-<html$if(lang)$ lang="$lang$"$endif$>
+<html$if(lang)$ lang="$lang$"$else$@lang@$endif$>
 <head>
 <meta charset="utf-8">
 $if(title)$<title>$pagetitle$</title>
-$endif$$for(author-meta)$<meta name="author" content="$author-meta$">
-$endfor$$if(description-meta)$<meta name="description" content="$description-meta$">
-$endif$</head>
+$else$@title@$endif$$if(author-meta)$$for(author-meta)$<meta name="author" content="$author-meta$">
+$endfor$$else$@author@$endif$$if(description-meta)$<meta name="description" content="$description-meta$">
+$else$@description@$endif$$if(date-meta)$<meta name="date" content="$date-meta$">
+$else$@date@$endif$</head>
 <body>
 $if(title)$<p style="text-align: center; font-size: 2em; font-weight: bold">$title$</p>
 $endif$$if(subtitle)$<p style="text-align: center; font-size: 1.5em">$subtitle$</p>
@@ -58,6 +61,52 @@ $endif$$body$
 </body>
 </html>
 )";
+
+// A text as a template has it.
+QString literal(const QString &text)
+{
+    return MRV::escape(text).replace(u'$', QLatin1String("$$"));
+}
+
+QString metaElement(const char *name, const QString &content)
+{
+    return content.isEmpty() ? QString()
+                             : QStringLiteral("<meta name=\"%1\" content=\"%2\">\n")
+                                   .arg(QLatin1String(name), literal(content));
+}
+
+// What the text does not say, the properties do.
+QByteArray templateFor(const MRVOfficeProperties &properties)
+{
+    QString authors;
+    for (const QString &author : properties.authors) {
+        authors += metaElement("author", author);
+    }
+    const QString language = MRV::languageTag(properties.language);
+    const struct
+    {
+        const char *place;
+        QString markup;
+    } rows[] = {
+        {"@lang@",
+         language.isEmpty() ? QString() : QStringLiteral(" lang=\"%1\"").arg(literal(language))},
+        {"@title@",
+         properties.title.isEmpty()
+             ? QString()
+             : QStringLiteral("<title>%1</title>\n").arg(literal(properties.title))},
+        {"@author@", authors},
+        {"@description@", metaElement("description", properties.description)},
+        {"@date@", metaElement("date", properties.date)},
+    };
+    QString page;
+    QString rest = QLatin1String(pageTemplate);
+    for (const auto &row : rows) { // in order: a value may look like another place
+        const int place = rest.indexOf(QLatin1String(row.place));
+        page += rest.left(place) + row.markup;
+        rest.remove(0, place + int(qstrlen(row.place)));
+    }
+    return (page + rest).toUtf8();
+}
 
 // --sandbox keeps it from other files and from the network, which a document may name.
 QStringList argumentsFor(const Converter &converter, bool embedsPictures)
@@ -142,6 +191,18 @@ MRVFormat::Format MRVOfficeConverter::formatOf(const QByteArray &bytes)
                                                                             : MRVFormat::NoFormat;
 }
 
+// What begins in another way is no such document, whatever its name says.
+bool MRVOfficeConverter::begins(const QByteArray &bytes, MRVFormat::Format format, QString *error)
+{
+    const QString name = MRVFormat::name(format);
+    const MRVFormat::Format found = formatOf(bytes);
+    if (found != MRVFormat::NoFormat && found != format) {
+        return MRV::fail(error, tr("it is not %1, but %2").arg(name, MRVFormat::name(found)));
+    }
+    return bytes.startsWith(format == MRVFormat::RTF ? "{\\rtf" : "PK\3\4")
+        || MRV::fail(error, tr("it is not %1").arg(name));
+}
+
 QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format format,
                                    QString *error)
 {
@@ -162,14 +223,23 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
                            QLatin1String(converter->package)));
         return QString();
     }
+    if (!begins(bytes, format, error)) {
+        return QString();
+    }
     const MRVOfficeSource source(bytes, format);
+    if (source.isTooLarge()) {
+        MRV::fail(error,
+                  tr("its text is larger than %1 MB").arg(MRVOfficeSource::MostUnpacked >> 20));
+        return QString();
+    }
     const MRVTemporaryFolder folder(QDir::tempPath());
     const QDir files(folder.path());
     const QString input = files.filePath(QStringLiteral("input"));
     QString reason = folder.errorString();
     if (!reason.isEmpty() || !MRVCoreUtil::WriteBinaryFile(source.prepared(), input, &reason)
-        || !MRVCoreUtil::WriteBinaryFile(
-            pageTemplate, files.filePath(QStringLiteral("page.template")), &reason)) {
+        || !MRVCoreUtil::WriteBinaryFile(templateFor(source.properties()),
+                                         files.filePath(QStringLiteral("page.template")),
+                                         &reason)) {
         MRV::fail(error, reason);
         return QString();
     }
@@ -182,7 +252,7 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
         return QString();
     }
     m_warnings = warningsIn(result.errors);
-    const QString page = MRVOfficeSource::withAnchors(QString::fromUtf8(result.output))
+    const QString page = MRVOfficeSource::withMarks(QString::fromUtf8(result.output))
                              .replace(QLatin1String("<p></p>"), QLatin1String("<p><br /></p>"));
     m_missingWords = source.missingFrom(page);
     return page;

@@ -74,6 +74,7 @@ public:
     QStringList warnings() const { return m_warnings; }
 
 private:
+    static bool begins(const QByteArray &bytes, MRVFormat::Format format, QString *error);
     QString failureOf(const MRVProgramResult &result) const;
 
     Limits m_limits;

@@ -1,66 +1,29 @@
 #include "office/mrvofficertf_p.h"
 
-#include <QRegularExpression>
+#include "office/mrvofficefields_p.h"
+#include "office/mrvofficertfcodecs_p.h"
+
 #include <QSet>
-#include <QTextCodec>
 #include <QVector>
 
 #include <cctype>
 
 namespace {
 
-// Links are shorter; what is longer is no instruction but damage.
-constexpr int LongestInstruction = 8192;
+// Around the number of a character.
+constexpr QChar MarkBegin(0xfdd2);
+constexpr QChar MarkEnd(0xfdd3);
 
-/** A backslash with what belongs to it: "\u220", "\'fc", "\{", and the bytes of "\bin". */
-struct Control
-{
-    Control(const QByteArray &rtf, int begin)
-    {
-        int at = begin + 1;
-        while (at < rtf.size() && isalpha(uchar(rtf.at(at)))) {
-            ++at;
-        }
-        word = rtf.mid(begin + 1, at - begin - 1);
-        end = at;
-        if (word.isEmpty()) {
-            end = qMin(begin + (rtf.mid(at, 1) == "'" ? 4 : 2), rtf.size());
-            return;
-        }
-        at += rtf.mid(at, 1) == "-" ? 1 : 0;
-        const int digits = at;
-        while (at < rtf.size() && isdigit(uchar(rtf.at(at)))) {
-            ++at;
-        }
-        hasNumber = at > digits;
-        if (hasNumber) {
-            number = rtf.mid(end, at - end).toInt();
-            end = at;
-        }
-        if (word == "bin" && number > 0) {
-            end += int(qMin(qint64(number) + 1, qint64(rtf.size() - end)));
-        }
-    }
-
-    bool isCharacter() const { return word == "u" && hasNumber; }
-
-    QByteArray word; // empty for a symbol
-    int number = 0;
-    bool hasNumber = false;
-    int end = 0;
-};
-
-// The end of the group that has begun before @p at, without its brace; -1 if that is too far.
+// The end of the group that has begun before @p at, without its brace; -1 if it has none.
 int groupEnd(const QByteArray &rtf, int at)
 {
-    const int last = qMin(rtf.size(), at + LongestInstruction);
-    for (int depth = 0; at < last;) {
+    for (int depth = 0; at < rtf.size();) {
         const char character = rtf.at(at);
         depth += character == '{' ? 1 : character == '}' ? -1 : 0;
         if (depth < 0) {
             return at;
         }
-        at = character == '\\' ? Control(rtf, at).end : at + 1;
+        at = character == '\\' ? MRVRtfControl(rtf, at).end : at + 1;
     }
     return -1;
 }
@@ -75,7 +38,7 @@ QByteArray instructionIn(const QByteArray &rtf)
             const int end = groupEnd(rtf, at + 1);
             at = end < 0 ? rtf.size() : end + 1;
         } else if (character == '\\') {
-            const Control control(rtf, at);
+            const MRVRtfControl control(rtf, at);
             if (control.word.isEmpty() || control.isCharacter()) {
                 text += rtf.mid(at, control.end - at);
             }
@@ -92,20 +55,11 @@ QByteArray instructionIn(const QByteArray &rtf)
 // The instruction of a link in the only form that pandoc reads; empty for other fields.
 QByteArray linkOf(const QByteArray &instruction)
 {
-    static const QRegularExpression link(
-        QStringLiteral("^\\s*HYPERLINK\\s+(?:\"([^\"]*)\"|([^\\s\\\\\"]+))?"
-                       "(?:.*?\\\\\\\\l\\s+\"([^\"]*)\")?"),
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = link.match(QString::fromLatin1(instruction));
-    const QString address = match.captured(1) + match.captured(2);
-    const QString name = match.captured(3);
-    if (address.isEmpty() && name.isEmpty()) {
-        return QByteArray();
-    }
-    const QString place = name.isEmpty() ? QString() : u'#' + name;
-    return (address.isEmpty() ? QStringLiteral("HYPERLINK \\\\l \"%1\"").arg(name)
-                              : QStringLiteral("HYPERLINK \"%1\"").arg(address + place))
-        .toLatin1();
+    const QString address = mrvFieldAddress(QString::fromLatin1(instruction));
+    const QString link = address.startsWith(u'#')
+        ? QStringLiteral("\\\\l \"%1\"").arg(address.mid(1))
+        : QStringLiteral("\"%1\"").arg(address);
+    return address.isEmpty() ? QByteArray() : "HYPERLINK " + link.toLatin1();
 }
 
 /** Writes RTF so that pandoc reads it. */
@@ -124,11 +78,14 @@ public:
             const char character = m_rtf.at(m_at);
             if (character == '\\') {
                 copyControl();
-            } else if (character != '{' || !(isField() || isOtherGroup())) {
-                m_prepared += character;
+            } else if (character == '{' || character == '}') {
+                copyBrace(character);
+            } else {
+                addByte(character);
                 ++m_at;
             }
         }
+        flush();
         return m_prepared;
     }
 
@@ -142,26 +99,104 @@ private:
 
     void copyControl()
     {
-        const Control control(m_rtf, m_at);
-        m_prepared += m_rtf.mid(m_at, control.end - m_at);
+        const MRVRtfControl control(m_rtf, m_at);
+        const QByteArray written = m_rtf.mid(m_at, control.end - m_at);
         m_at = control.end;
-        if (control.isCharacter() && m_at < m_rtf.size() && !strchr(" \\{}\r\n", m_rtf.at(m_at))) {
-            m_prepared += ' ';
+        if (written.startsWith("\\'")) {
+            addByte(char(written.mid(2).toInt(nullptr, 16)), true);
+            return;
+        }
+        flush();
+        m_codecs.read(control);
+        const bool hasBlank = !control.word.isEmpty() && m_rtf.mid(m_at, 1) == " ";
+        m_at += hasBlank ? 1 : 0;
+        if (control.isCharacter()) {
+            addCharacter(QChar(ushort(control.number)));
+            m_substitutes = m_codecs.substitutes();
+        } else if (control.word != "uc") { // all that are written have one substitute
+            m_prepared += written;
+            m_prepared += hasBlank ? " " : "";
         }
         m_hasShapeText = m_hasShapeText || control.word == "shptxt";
+    }
+
+    void copyBrace(char brace)
+    {
+        flush();
+        m_substitutes = 0;
+        if (brace == '}') {
+            m_codecs.close();
+        } else {
+            m_codecs.open();
+        }
+        if (brace == '}' || !(isField() || isOtherGroup())) {
+            m_prepared += brace;
+            ++m_at;
+        }
+    }
+
+    void addByte(char byte, bool isEscaped = false)
+    {
+        const bool isText = isEscaped || uchar(byte) >= 0x80 || !m_bytes.isEmpty();
+        if (byte == '\r' || byte == '\n') {
+            m_prepared += isEscaped ? ' ' : byte;
+        } else if (m_substitutes > 0) {
+            --m_substitutes;
+        } else if (isText) {
+            m_bytes += byte;
+            if (!m_codecs.isIncomplete(m_bytes)) {
+                flush();
+            }
+        } else {
+            m_prepared += byte;
+        }
+    }
+
+    void flush()
+    {
+        if (!m_bytes.isEmpty() && !m_codecs.codec()) {
+            for (const char byte : qAsConst(m_bytes)) {
+                m_prepared += "\\'" + QByteArray(1, byte).toHex();
+            }
+        } else if (!m_bytes.isEmpty()) {
+            const QString text = m_codecs.decoded(m_bytes);
+            for (const QChar character : text) {
+                addCharacter(character);
+            }
+        }
+        m_bytes.clear();
+    }
+
+    // pandoc knows no characters of two halves; they are put together in its page.
+    void addCharacter(QChar character)
+    {
+        const auto add = [this](QChar one) {
+            m_prepared += "\\u" + QByteArray::number(one.unicode()) + " ?";
+        };
+        if (character.isHighSurrogate()) {
+            m_high = character;
+        } else if (character.isLowSurrogate()) {
+            const uint whole = QChar::surrogateToUcs4(m_high, character);
+            add(MarkBegin);
+            m_prepared += QByteArray::number(whole, 16);
+            add(MarkEnd);
+        } else {
+            add(character);
+        }
     }
 
     // Only links stay fields.
     bool isField()
     {
         const QByteArray start("\\fldinst");
-        if (!startsWith("{\\field")) {
+        if (m_hasOpenField || !startsWith("{\\field")) {
             return false;
         }
         const int begin = m_rtf.mid(m_at, 80).indexOf(start);
         const int inside = m_at + begin + start.size();
         const int end = begin < 0 ? -1 : groupEnd(m_rtf, inside);
         if (end < 0) {
+            m_hasOpenField = begin >= 0; // so that damage is looked through once
             return false;
         }
         const QByteArray link = linkOf(instructionIn(m_rtf.mid(inside, end - inside)));
@@ -196,6 +231,11 @@ private:
     const QByteArray &m_rtf;
     QByteArray m_prepared;
     int m_at = 0;
+    MRVRtfCodecs m_codecs;
+    QByteArray m_bytes; // of a character that is not complete
+    int m_substitutes = 0; // still to come
+    QChar m_high; // the first half of a character
+    bool m_hasOpenField = false;
     bool m_hasShapeText = false; // which its repetition for older programs also holds
 };
 
@@ -223,18 +263,21 @@ public:
         for (int at = 0; at < m_rtf.size();) {
             const char character = m_rtf.at(at);
             if (character == '\\') {
-                const Control control(m_rtf, at);
+                const MRVRtfControl control(m_rtf, at);
                 control.word.isEmpty() ? readSymbol(at) : readWord(control);
                 at = control.end;
                 at += !control.word.isEmpty() && m_rtf.mid(at, 1) == " " ? 1 : 0;
                 continue;
             }
             if (character == '{') {
+                flush();
+                m_codecs.open();
                 m_groups.append(m_group);
                 m_group.isApart = false;
             } else if (character == '}') {
                 m_bytes += m_group.isApart ? " " : "";
                 flush();
+                m_codecs.close();
                 m_group = m_groups.isEmpty() ? Group() : m_groups.takeLast();
             } else if (character != '\r' && character != '\n') {
                 addByte(character);
@@ -251,12 +294,11 @@ private:
         bool isSkipped = false; // with all in it
         bool isHidden = false; // by its format
         bool isApart = false; // from the text around it, as notes are
-        int substitutes = 1; // bytes after "\u220", for older programs
     };
 
     void flush()
     {
-        m_text += m_codec->toUnicode(m_bytes);
+        m_text += m_codecs.decoded(m_bytes);
         m_bytes.resize(0);
         m_substitutes = 0;
     }
@@ -274,7 +316,7 @@ private:
     {
         const QByteArray symbol = m_rtf.mid(at + 1, 1);
         if (symbol == "*") {
-            const QByteArray word = Control(m_rtf, at + 2).word;
+            const QByteArray word = MRVRtfControl(m_rtf, at + 2).word;
             m_group.isSkipped =
                 m_group.isSkipped || (word != "footnote" && word != "shpinst" && word != "do");
         } else if (symbol == "'") {
@@ -284,20 +326,17 @@ private:
         }
     }
 
-    void readWord(const Control &control)
+    void readWord(const MRVRtfControl &control)
     {
-        if (control.isCharacter()) {
+        if (control.isCharacter() || MRVRtfCodecs::isRead(control)) {
             flush();
+        }
+        m_codecs.read(control);
+        if (control.isCharacter()) {
             if (!m_group.isSkipped && !m_group.isHidden) {
                 m_text += QChar(ushort(control.number));
             }
-            m_substitutes = m_group.substitutes;
-        } else if (control.word == "uc") {
-            m_group.substitutes = qBound(0, control.number, 10);
-        } else if (control.word == "ansicpg") {
-            setCodec("windows-" + QByteArray::number(control.number));
-        } else if (control.word == "mac") {
-            setCodec("macintosh");
+            m_substitutes = m_codecs.substitutes();
         } else if (control.word == "v" || control.word == "plain") {
             flush();
             m_group.isHidden = control.word == "v" && (!control.hasNumber || control.number != 0);
@@ -312,12 +351,6 @@ private:
         }
     }
 
-    void setCodec(const QByteArray &name)
-    {
-        QTextCodec *codec = QTextCodec::codecForName(name);
-        m_codec = codec ? codec : m_codec;
-    }
-
     // Of words; formats may be in the middle of one.
     static bool isSeparator(const QByteArray &word)
     {
@@ -329,7 +362,7 @@ private:
     }
 
     const QByteArray &m_rtf;
-    QTextCodec *m_codec = QTextCodec::codecForName("windows-1252");
+    MRVRtfCodecs m_codecs;
     QVector<Group> m_groups;
     Group m_group;
     QByteArray m_bytes; // of text, not yet decoded
@@ -342,6 +375,23 @@ private:
 QByteArray mrvPreparedRtf(const QByteArray &rtf)
 {
     return Preparer(rtf).prepared();
+}
+
+QString mrvWithCharacters(const QString &html)
+{
+    QString whole;
+    int done = 0;
+    for (int at = html.indexOf(MarkBegin); at >= 0; at = html.indexOf(MarkBegin, done)) {
+        const int end = html.indexOf(MarkEnd, at);
+        bool ok = false;
+        const uint character = html.midRef(at + 1, qMin(end, at + 8) - at - 1).toUInt(&ok, 16);
+        whole += html.midRef(done, at - done);
+        done = ok ? end + 1 : at + 1;
+        if (ok && character <= QChar::LastValidCodePoint) {
+            whole += QString::fromUcs4(&character, 1);
+        }
+    }
+    return whole + html.midRef(done);
 }
 
 QString mrvRtfText(const QByteArray &rtf)

@@ -1,5 +1,6 @@
 #include "office/mrvofficesource_p.h"
 
+#include "office/mrvofficeboxes_p.h"
 #include "office/mrvofficertf_p.h"
 #include "office/mrvofficetext_p.h"
 
@@ -9,9 +10,6 @@
 #include <zip.h>
 
 namespace {
-
-// What a text of an archive may unpack to, some ten novels; a larger one is not looked into.
-constexpr int MostUnpacked = 1 << 26;
 
 using Source = std::unique_ptr<zip_source_t, decltype(&zip_source_free)>;
 using Archive = std::unique_ptr<zip_t, decltype(&zip_discard)>;
@@ -33,7 +31,7 @@ bool readFile(zip_t *archive, zip_uint64_t index, QByteArray *bytes)
     char buffer[65536];
     zip_int64_t size = -1;
     while (file && (size = zip_fread(file.get(), buffer, sizeof buffer)) > 0
-           && bytes->size() < MostUnpacked) {
+           && bytes->size() <= MRVOfficeSource::MostUnpacked) {
         bytes->append(buffer, int(size));
     }
     return size == 0;
@@ -118,13 +116,16 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
         const char *name = zip_get_name(archive.get(), i, 0);
         if (!hasText(format, QString::fromUtf8(name))) {
             readFormula(archive.get(), i, name);
+            readProperties(archive.get(), i, name);
             ok = copyFile(archive.get(), i, written.get());
             continue;
         }
         QByteArray text;
         ok = readFile(archive.get(), i, &text);
-        if (ok) {
-            mrvCountWords(mrvOfficeXmlText(text), &m_words);
+        if (text.size() > MRVOfficeSource::MostUnpacked) {
+            m_isTooLarge = true;
+        } else if (ok) {
+            mrvCountWords(mrvOfficeXmlText(mrvWithPlainRuby(text)), &m_words);
             texts.push_back(format == MRVFormat::ODT ? mrvPreparedOdt(text)
                                                      : mrvPreparedDocx(text));
             zip_source_t *prepared = zip_source_buffer(written.get(), texts.back().constData(),
@@ -136,6 +137,15 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
         static_cast<void>(written.release());
         const QByteArray prepared = bytesOf(target.get());
         m_prepared = prepared.isEmpty() ? bytes : prepared;
+    }
+}
+
+void MRVOfficeSource::readProperties(zip_t *archive, quint64 index, const QByteArray &name)
+{
+    QByteArray properties;
+    if ((name == "docProps/core.xml" || name == "meta.xml")
+        && readFile(archive, index, &properties)) {
+        m_properties = mrvOfficeProperties(properties);
     }
 }
 
@@ -151,9 +161,9 @@ void MRVOfficeSource::readFormula(zip_t *archive, quint64 index, const QByteArra
     }
 }
 
-QString MRVOfficeSource::withAnchors(QString html)
+QString MRVOfficeSource::withMarks(const QString &html)
 {
-    return mrvWithAnchors(html);
+    return mrvWithCharacters(mrvWithAnchors(html));
 }
 
 QStringList MRVOfficeSource::missingFrom(const QString &html) const

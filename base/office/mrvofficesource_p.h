@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fileformats/mrvformat.h"
+#include "office/mrvofficeproperties_p.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -12,22 +13,33 @@ struct zip;
 /**
  * A document of a word processor, as far as it takes to see that a converter loses nothing of it.
  *
- * What cannot be read of it, as it is damaged or large, is left to the converter.
+ * What cannot be read of it, as it is damaged, is left to the converter.
  */
 class MRVOfficeSource
 {
 public:
     MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format format);
 
+    /** Bytes that a text of an archive may unpack to, some ten novels; a small file may be huge. */
+    static constexpr int MostUnpacked = 1 << 26;
+
+    /** Whether a text is larger: it is not prepared, and losses would not be seen. */
+    bool isTooLarge() const { return m_isTooLarge; }
+    /** What an archive says about itself. */
+    MRVOfficeProperties properties() const { return m_properties; }
+
     /**
      * The document, written so that pandoc keeps what it would lose: rows of headings, formulas and
-     * names of places in ODT, names before paragraphs, fields and moved text in DOCX, characters,
-     * notes, fields and boxes in RTF.
+     * names of places in ODT, names before paragraphs, links and moved text in DOCX, boxes and
+     * readings of characters in both, characters, notes, fields and boxes in RTF.
      */
     QByteArray prepared() const { return m_prepared; }
 
-    /** @p html of the prepared document, with anchors where prepared() has marked names. */
-    static QString withAnchors(QString html);
+    /**
+     * @p html of the prepared document, with the names of places and the characters that prepared()
+     * has written in another way.
+     */
+    static QString withMarks(const QString &html);
 
     /** Words of the document that @p html lacks, sorted. */
     QStringList missingFrom(const QString &html) const;
@@ -35,8 +47,11 @@ public:
 private:
     void readArchive(const QByteArray &bytes, MRVFormat::Format format);
     void readFormula(zip *archive, quint64 index, const QByteArray &name);
+    void readProperties(zip *archive, quint64 index, const QByteArray &name);
 
     QByteArray m_prepared;
+    bool m_isTooLarge = false;
+    MRVOfficeProperties m_properties;
     QHash<QString, int> m_words; // and how often each occurs
     QStringList m_formulas; // of an ODT
 };

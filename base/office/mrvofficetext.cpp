@@ -1,5 +1,8 @@
 #include "office/mrvofficetext_p.h"
 
+#include "office/mrvofficeboxes_p.h"
+#include "office/mrvofficefields_p.h"
+#include "office/mrvofficexml_p.h"
 #include "util/mrvescape.h"
 
 #include <QRegularExpression>
@@ -25,30 +28,6 @@ bool findTag(const QByteArray &xml, const QByteArray &start, int from, int *begi
     return false;
 }
 
-// The elements stay that are inside of those with that name.
-QByteArray withoutTags(QByteArray xml, const QByteArray &name)
-{
-    for (const QByteArray &start : {'<' + name, "</" + name}) {
-        QByteArray rest;
-        int done = 0;
-        int begin = 0;
-        int end = 0;
-        while (findTag(xml, start, done, &begin, &end)) {
-            rest += xml.mid(done, begin - done);
-            done = end;
-        }
-        xml = done > 0 ? rest + xml.mid(done) : xml;
-    }
-    return xml;
-}
-
-QByteArray attributeOf(const QByteArray &tag, const QByteArray &name)
-{
-    const int begin = tag.indexOf(' ' + name + "=\"");
-    const int value = begin + name.size() + 3;
-    return begin < 0 ? QByteArray() : tag.mid(value, tag.indexOf('"', value) - value);
-}
-
 // Formulas are in folders, whose names may end with a slash.
 QByteArray withPlainFolders(const QByteArray &xml)
 {
@@ -58,7 +37,7 @@ QByteArray withPlainFolders(const QByteArray &xml)
     int end = 0;
     while (findTag(xml, "<draw:object", done, &begin, &end)) {
         QByteArray tag = xml.mid(begin, end - begin);
-        const QByteArray folder = attributeOf(tag, "xlink:href");
+        const QByteArray folder = mrvOfficeAttribute(tag, "xlink:href");
         if (folder.endsWith('/')) {
             tag.replace('"' + folder + '"', '"' + folder.chopped(1) + '"');
         }
@@ -118,15 +97,15 @@ int startOfParagraph(const QByteArray &xml, int at)
 
 QByteArray mrvPreparedOdt(QByteArray xml)
 {
-    xml = withPlainFolders(xml);
-    xml = withoutTags(xml, "table:table-header-rows");
+    xml = withPlainFolders(mrvWithPlainRuby(mrvWithBoxesAfterParagraphs(xml)));
+    xml = mrvWithoutTags(xml, "table:table-header-rows");
     for (const char *start : {"<text:bookmark-start", "<text:bookmark"}) {
         QByteArray marked;
         int done = 0;
         int begin = 0;
         int end = 0;
         while (findTag(xml, start, done, &begin, &end)) {
-            const QByteArray name = attributeOf(xml.mid(begin, end - begin), "text:name");
+            const QByteArray name = mrvOfficeAttribute(xml.mid(begin, end - begin), "text:name");
             marked += xml.mid(done, begin - done) + QString(MarkBegin).toUtf8() + name.toHex()
                 + QString(MarkEnd).toUtf8();
             done = end;
@@ -169,8 +148,10 @@ QString mrvWithAnchors(const QString &html)
 
 QByteArray mrvPreparedDocx(QByteArray xml)
 {
-    for (const char *name : {"w:fldSimple", "w:moveTo"}) {
-        xml = withoutTags(xml, name);
+    xml = mrvWithPlainRuby(mrvWithBoxesAfterParagraphs(mrvWithPlainFields(xml)));
+    // What describes a table is no text, which pandoc would make it.
+    for (const char *name : {"w:moveTo", "w:tblCaption", "w:tblDescription"}) {
+        xml = mrvWithoutTags(xml, name);
     }
     const QByteArray start("<w:bookmarkStart");
     QByteArray prepared;

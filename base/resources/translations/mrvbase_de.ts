@@ -659,6 +659,10 @@ Fehler: %2</translation>
         <source>pictures that cannot be read: %1</source>
         <translation>Bilder, die nicht gelesen werden können: %1</translation>
     </message>
+    <message>
+        <source>it is %1, which its name does not say</source>
+        <translation>es ist %1, was der Name nicht sagt</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>
@@ -689,6 +693,18 @@ Fehler: %2</translation>
     <message>
         <source>it has failed without a reason</source>
         <translation>es ist ohne Angabe eines Grundes fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>it is not %1, but %2</source>
+        <translation>es ist kein %1, sondern %2</translation>
+    </message>
+    <message>
+        <source>it is not %1</source>
+        <translation>es ist kein %1</translation>
+    </message>
+    <message>
+        <source>its text is larger than %1 MB</source>
+        <translation>der Text darin ist größer als %1 MB</translation>
     </message>
 </context>
 <context>

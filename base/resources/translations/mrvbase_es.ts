@@ -659,6 +659,10 @@ Error: %2</translation>
         <source>pictures that cannot be read: %1</source>
         <translation>imágenes que no se pueden leer: %1</translation>
     </message>
+    <message>
+        <source>it is %1, which its name does not say</source>
+        <translation>es %1, lo que su nombre no dice</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>
@@ -689,6 +693,18 @@ Error: %2</translation>
     <message>
         <source>it has failed without a reason</source>
         <translation>ha fallado sin dar una razón</translation>
+    </message>
+    <message>
+        <source>it is not %1, but %2</source>
+        <translation>no es %1, sino %2</translation>
+    </message>
+    <message>
+        <source>it is not %1</source>
+        <translation>no es %1</translation>
+    </message>
+    <message>
+        <source>its text is larger than %1 MB</source>
+        <translation>su texto supera %1 MB</translation>
     </message>
 </context>
 <context>

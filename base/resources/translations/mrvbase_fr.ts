@@ -659,6 +659,10 @@ Erreur&#xa0;: %2</translation>
         <source>pictures that cannot be read: %1</source>
         <translation>images impossibles à lire&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>it is %1, which its name does not say</source>
+        <translation>c’est un fichier %1, ce que son nom ne dit pas</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>
@@ -689,6 +693,18 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>it has failed without a reason</source>
         <translation>il a échoué sans donner de raison</translation>
+    </message>
+    <message>
+        <source>it is not %1, but %2</source>
+        <translation>ce n’est pas un fichier %1, mais %2</translation>
+    </message>
+    <message>
+        <source>it is not %1</source>
+        <translation>ce n’est pas un fichier %1</translation>
+    </message>
+    <message>
+        <source>its text is larger than %1 MB</source>
+        <translation>son texte dépasse %1 Mo</translation>
     </message>
 </context>
 <context>
