@@ -11,10 +11,13 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <cstdio>
 #include <ctime>
+#include <memory>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <zlib.h>
 
 namespace {
@@ -280,6 +283,32 @@ private Q_SLOTS:
         QVERIFY2(HeapMeter::peak() < 300 << 20, qPrintable(QString::number(HeapMeter::peak())));
         // Seconds of the processor's time, for more than a dozen looks at the picture.
         QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 15);
+    }
+
+    // Damage is told by the reader alone: libpng would print a line of its own.
+    void damagedPngPrintsNothing()
+    {
+        const QByteArray whole = bytesOf(MRV_SOURCE_DIR "/docs/images/page.png");
+        QVERIFY(!MRVPictureReader(whole).read().isNull());
+        std::unique_ptr<FILE, decltype(&std::fclose)> printed(std::tmpfile(), std::fclose);
+        const int before = ::dup(STDERR_FILENO);
+        ::dup2(::fileno(printed.get()), STDERR_FILENO);
+        QStringList readable;
+        QByteArrayList damaged{whole.left(500), whole, whole, whole};
+        for (const int at : {20, 2000, int(whole.size()) - 30}) {
+            QByteArray &bytes = damaged[at == 20 ? 1 : at == 2000 ? 2 : 3];
+            bytes[at] = char(~bytes.at(at));
+        }
+        for (const QByteArray &bytes : qAsConst(damaged)) {
+            QString error;
+            if (!MRVPictureReader(bytes).read(&error).isNull() || error.isEmpty()) {
+                readable << QString::number(damaged.indexOf(bytes));
+            }
+        }
+        ::dup2(before, STDERR_FILENO);
+        ::close(before);
+        QCOMPARE(readable, QStringList());
+        QCOMPARE(::lseek(::fileno(printed.get()), 0, SEEK_END), off_t(0));
     }
 
     // Headers that Qt does not tell the size of, or tells as a negative one.

@@ -3,6 +3,7 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvinputlimits.h"
 #include "gui/mrvpictureclaims_p.h"
+#include "gui/mrvpngfault_p.h"
 #include "gui/mrvsvgtext_p.h"
 
 #include <QBuffer>
@@ -136,6 +137,10 @@ QString MRVPictureReader::refusal()
         return tr("it holds too much compressed text");
     }
 
+    if (m_format == "png" && !mrvIsPngReadable(m_bytes, MRVPngPart::Head)) {
+        return tr("it is damaged");
+    }
+
     QBuffer file(&m_bytes);
     file.open(QIODevice::ReadOnly);
     QImageReader reader(&file, m_format);
@@ -164,6 +169,9 @@ QSize MRVPictureReader::uprightSize() const
 // Decodes what was found safe; in its own size unless another one is valid.
 QImage MRVPictureReader::decoded(const QSize &size) const
 {
+    if (m_format == "png" && !mrvIsPngReadable(m_bytes, MRVPngPart::Whole)) {
+        return QImage();
+    }
     QBuffer file;
     file.setData(m_bytes);
     file.open(QIODevice::ReadOnly);
