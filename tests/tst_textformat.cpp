@@ -6,8 +6,12 @@
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
 
+#include <QBitmap>
+#include <QCborMap>
 #include <QLinearGradient>
+#include <QMatrix4x4>
 #include <QPen>
+#include <QQuaternion>
 #include <QRandomGenerator>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
@@ -88,6 +92,84 @@ QByteArray stored(const QTextFormat &format)
                                   : F::toByteArray(format.toCharFormat());
 }
 
+/// A value of each of the other types that Qt stores.
+QVariantMap qtValues()
+{
+    QFont font("A", 12);
+    font.setStyleName("B");
+    font.setFamilies({"C", "D"});
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 2);
+    QPixmap pixmap(3, 2);
+    pixmap.fill(Qt::red);
+    QBitmap bitmap(8, 2);
+    bitmap.fill(Qt::color1);
+    QRegion region(0, 0, 9, 9);
+    region -= QRegion(1, 1, 3, 3);
+    const QJsonObject object{{"a", QJsonArray{1, "b", QJsonValue()}}};
+    const QCborMap cbor{{1, QCborArray{-5, 1.5, "x", QByteArray("y")}}, {"z", QCborMap()}};
+    return {
+        {"byteArrays", QVariant::fromValue(QByteArrayList{"a", "", "b"})},
+        {"bits", QBitArray(9, true)},
+        {"locale", QLocale("de_AT")},
+        {"line", QLine(1, 2, 3, 4)},
+        {"lineF", QLineF(1, 2, 3, 4.5)},
+        {"font", font},
+        {"regExp", QRegExp("a(b|c)*", Qt::CaseInsensitive, QRegExp::RegExp2)},
+        {"regularExpression", QRegularExpression("a{2,3}", QRegularExpression::MultilineOption)},
+        {"json", QJsonValue("s")},
+        {"jsonNumber", QJsonValue(1.5)},
+        {"jsonInside", QJsonValue(object)},
+        {"jsonObject", object},
+        {"jsonArray", object["a"].toArray()},
+        {"jsonDocument", QVariant::fromValue(QJsonDocument(object))},
+        {"cborSimple", QVariant::fromValue(QCborSimpleType::Null)},
+        {"cbor", QVariant::fromValue(QCborValue(QDateTime(QDate(2020, 1, 2), QTime(), Qt::UTC)))},
+        {"cborArray", QVariant::fromValue(cbor.value(1).toArray())},
+        {"cborMap", QVariant::fromValue(cbor)},
+        {"pixmap", pixmap},
+        {"noPixmap", QPixmap()},
+        {"bitmap", bitmap},
+        {"cursor", QCursor(Qt::WaitCursor)},
+        {"pictureCursor", QCursor(pixmap, 1, 2)},
+        {"bitmapCursor", QCursor(bitmap, bitmap, 0, 1)},
+        {"icon", QIcon(pixmap)},
+        {"noIcon", QIcon()},
+        {"polygon", QPolygon(QRect(1, 2, 3, 4))},
+        {"polygonF", QVariant::fromValue(QPolygonF({QPointF(1, 2.5)}))},
+        {"keys", QKeySequence("Ctrl+K, Ctrl+L")},
+        {"region", region},
+        {"noRegion", QRegion()},
+        {"palette", QPalette(Qt::red)},
+        {"matrix", QMatrix(1, 2, 3, 4, 5, 6)},
+        {"transform", QTransform(1, 2, 3, 4, 5, 6, 7, 8, 9)},
+        {"matrix4x4", QMatrix4x4(QTransform(1, 2, 3, 4, 5, 6))},
+        {"vector2", QVector2D(1, 2.5)},
+        {"vector3", QVector3D(1, 2, 3)},
+        {"vector4", QVector4D(1, 2, 3, 4)},
+        {"quaternion", QQuaternion(1, 2, 3, 4)},
+        {"sizePolicy", QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum)},
+        {"format", QVariant(with(QTextFormat::FontItalic, true))},
+        {"nothing", QVariant::fromValue(nullptr)},
+        {"inside", QVariantList{QVariantMap{{"a", QLocale("fr_FR")}}}},
+    };
+}
+
+struct Mood
+{
+    QString name;
+    int level = 0;
+};
+
+QDataStream &operator<<(QDataStream &stream, const Mood &mood)
+{
+    return stream << mood.name << mood.level;
+}
+
+QDataStream &operator>>(QDataStream &stream, Mood &mood)
+{
+    return stream >> mood.name >> mood.level;
+}
+
 /// What a function of MRVTextFormat says of two formats as text.
 QString answer(const QString &function, const QString &a, const QString &b)
 {
@@ -122,6 +204,8 @@ QString answer(const QString &function, const QString &a, const QString &b)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Mood)
 
 class TestTextFormat : public QObject
 {
@@ -180,6 +264,89 @@ private Q_SLOTS:
         const QByteArray bytes = F::toByteArray(with(QTextFormat::FontItalic, true));
         QCOMPARE(bytes.toHex(), QByteArray("000000020000000100002004000000010001"));
         QVERIFY(F::toCharFormat(bytes + "spare").fontItalic());
+    }
+
+    void typesOfQtComeBack()
+    {
+        const QVariantMap values = qtValues();
+        QRandomGenerator random(1);
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            QTextCharFormat format = with(F::ExtraProperty4, it.value());
+            format.setProperty(F::ExtraProperty5, "after");
+            const QByteArray bytes = stored(format);
+            const QTextCharFormat back = F::toCharFormat(bytes);
+            QVERIFY2(back.property(F::ExtraProperty4).userType() == it.value().userType(),
+                     qPrintable(it.key()));
+            QVERIFY2(stored(back) == bytes, qPrintable(it.key()));
+            QCOMPARE(back.property(F::ExtraProperty5), QVariant("after"));
+            // Damage gives another value or none. Damaged pictures have tests of their own.
+            for (int i = 0; i < 200 && !bytes.contains("PNG"); ++i) {
+                QByteArray damaged = bytes;
+                damaged[random.bounded(bytes.size())] = char(random.generate());
+                F::toCharFormat(i % 2 ? damaged : damaged.left(random.bounded(bytes.size())));
+            }
+        }
+        const QTextCharFormat font =
+            F::toCharFormat(stored(with(F::ExtraProperty4, values["font"])));
+        QCOMPARE(font.property(F::ExtraProperty4).value<QFont>(), values["font"].value<QFont>());
+    }
+
+    // A value without a length hides what stands after it, which is not lost.
+    void typesOfApplicationsComeBack()
+    {
+        const int type = qRegisterMetaType<Mood>("Mood");
+        qRegisterMetaTypeStreamOperators<Mood>("Mood");
+        const auto mood = [](const QTextFormat &format, int property) {
+            return format.property(property).value<Mood>().name;
+        };
+        QTextCharFormat format = with(F::ExtraProperty4, QVariant::fromValue(Mood{"calm", 3}));
+        format.setProperty(F::ExtraProperty6, QVariantList{QVariant::fromValue(Mood{"wild", 9})});
+        format.setProperty(F::ExtraProperty15, "after");
+        const QByteArray bytes = stored(format);
+        QTextCharFormat elsewhere = F::toCharFormat(bytes);
+        QCOMPARE(elsewhere.property(F::ExtraProperty15), QVariant("after"));
+        QVERIFY(!elsewhere.hasProperty(F::ExtraProperty4));
+        QVERIFY(F::toByteArray(elsewhere) == bytes);
+        elsewhere.setFontItalic(true);
+        elsewhere = F::toCharFormat(F::toByteArray(elsewhere));
+        const QByteArray changed = F::toByteArray(elsewhere);
+
+        F::registerStoredType(type);
+        for (const QByteArray &one : {bytes, changed}) {
+            const QTextCharFormat back = F::toCharFormat(one);
+            QCOMPARE(mood(back, F::ExtraProperty4), QString("calm"));
+            const QVariantList list = back.property(F::ExtraProperty6).toList();
+            QCOMPARE(list.value(0).value<Mood>().name, QString("wild"));
+            QCOMPARE(back.property(F::ExtraProperty15), QVariant("after"));
+            QCOMPARE(back.fontItalic(), one == changed);
+            QVERIFY(!back.hasProperty(F::UnreadProperty));
+        }
+        QVERIFY(F::toCharFormat(bytes.chopped(1)).properties().isEmpty());
+    }
+
+    // Easing curves hold an address, and files of icons would be read from anywhere.
+    void dangerousValuesStayOut()
+    {
+        const QTextCharFormat italic = with(QTextFormat::FontItalic, true);
+        for (const QVariant &value :
+             {QVariant(QEasingCurve(QEasingCurve::InBack)), QVariant(QRegExp("(a{9}){9}"))}) {
+            QTextCharFormat format = italic;
+            format.setProperty(F::ExtraProperty4, value);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("0x100004 of type Q"));
+            QVERIFY2(F::toCharFormat(F::toByteArray(format)) == italic, value.typeName());
+            QByteArray bytes;
+            QDataStream stream(&bytes, QIODevice::WriteOnly);
+            stream << static_cast<const QTextFormat &>(format);
+            QVERIFY(F::toCharFormat(bytes).properties().isEmpty());
+        }
+        for (const QString &file : {QString(), QString("/etc/logo.png")}) {
+            QByteArray bytes;
+            QDataStream stream(&bytes, QIODevice::WriteOnly);
+            stream << qint32(QTextFormat::CharFormat) << 1 << qint32(F::ExtraProperty4)
+                   << qint32(QMetaType::QIcon) << qint8(0) << QString("QPixmapIconEngine") << 1
+                   << QPixmap() << file << QSize(8, 8) << 0 << 1;
+            QCOMPARE(F::toCharFormat(bytes).propertyCount(), int(file.isEmpty()));
+        }
     }
 
     void unstorableValueCostsOnlyItself()

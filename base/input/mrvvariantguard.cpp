@@ -1,5 +1,7 @@
 #include "input/mrvvariantguard.h"
 
+#include "input/mrvcborcheck_p.h"
+
 #include "core/mrvcheckedstream.h"
 #include "core/mrvinputlimits.h"
 #include "gui/mrvpicturereader.h"
@@ -7,14 +9,21 @@
 #include <QBrush>
 #include <QBuffer>
 #include <QColor>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QImage>
 #include <QImageReader>
+#include <QJsonValue>
 #include <QMetaType>
+#include <QPalette>
 #include <QPen>
+#include <QRegExp>
+#include <QSet>
 #include <QTextFormat>
 #include <QTextOption>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -67,6 +76,11 @@ public:
     bool item();
 
     const QByteArray &taken() const { return m_taken; }
+    /** Whether a type that this process does not know ended the walk. */
+    bool isUnknown() const { return m_isUnknown; }
+    /** After a format of which not all was taken: the whole properties, and the bytes after them. */
+    QByteArray wholeProperties() const;
+    MRVVariantGuard::Rest rest() const;
 
 private:
     using Step = bool (Walker::*)();
@@ -109,6 +123,23 @@ private:
     bool dateTime();
     bool zonedDateTime();
     bool font();
+    bool wholeFont();
+    bool regExp();
+    bool regularExpression();
+    bool json();
+    bool cbor();
+    bool picture();
+    bool cursor();
+    bool icon();
+    bool iconPicture();
+    bool region();
+    bool palette();
+    bool anyFormat();
+    bool applicationValue(const QByteArray &name);
+    template<quint32 size>
+    bool rows();
+    quint32 numberAt(int offset) const;
+    bool property();
     bool color();
     bool brush();
     bool gradient(quint8 style);
@@ -127,60 +158,106 @@ private:
     QByteArray m_taken;
     qint64 m_pictureMemory = 0; ///< what the pictures so far take when decoded
     int m_depth = 0;
+    int m_wholeEnd = 0; ///< of the format's properties that were taken whole
+    quint32 m_propertyCount = 0; ///< of the format
+    quint32 m_wholeCount = 0; ///< of those
+    bool m_isUnknown = false;
 };
+
+// Types of applications, by their numbers.
+QSet<int> &registeredTypes()
+{
+    static QSet<int> types;
+    return types;
+}
+
+bool hasGui()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
 
 // clang-format off
 constexpr Walker::TypeRow Walker::Types[] = {
-    {QMetaType::UnknownType,    Settings,        0,  &Walker::text}, // an empty one
-    {QMetaType::UnknownType,    Stored | Date,   0,  nullptr},
-    {QMetaType::Bool,           Most,            1,  nullptr},
-    {QMetaType::Int,            Most,            4,  nullptr},
-    {QMetaType::UInt,           Most,            4,  nullptr},
-    {QMetaType::LongLong,       Most,            8,  nullptr},
-    {QMetaType::ULongLong,      Most,            8,  nullptr},
-    {QMetaType::Double,         Most,            8,  nullptr},
-    {QMetaType::Long,           Most,            8,  nullptr},
-    {QMetaType::Short,          Most,            2,  nullptr},
-    {QMetaType::Char,           Most,            1,  nullptr},
-    {QMetaType::ULong,          Most,            8,  nullptr},
-    {QMetaType::UShort,         Most,            2,  nullptr},
-    {QMetaType::UChar,          Most,            1,  nullptr},
-    {QMetaType::SChar,          Most,            1,  nullptr},
-    {QMetaType::Float,          Settings,        4,  nullptr},
-    {QMetaType::Float,          Stored,          8,  nullptr}, // the stream widens it
-    {QMetaType::QChar,          Most,            2,  nullptr},
-    {QMetaType::QString,        Most,            0,  &Walker::text},
-    {QMetaType::QStringList,    Most,            0,  &Walker::texts},
-    {QMetaType::QByteArray,     Most,            0,  &Walker::bytes},
-    {QMetaType::QByteArrayList, Settings,        0,  &Walker::byteArrays},
-    {QMetaType::QBitArray,      Settings,        0,  &Walker::bits},
-    {QMetaType::QUrl,           Most,            0,  &Walker::bytes},
-    {QMetaType::QUuid,          Most,            16, nullptr},
-    {QMetaType::QLocale,        Settings,        0,  &Walker::text},
-    {QMetaType::QDate,          Settings,        4,  nullptr},
-    {QMetaType::QDate,          Stored,          8,  nullptr},
-    {QMetaType::QTime,          Most,            4,  nullptr},
-    {QMetaType::QDateTime,      Settings,        9,  nullptr},
-    {QMetaType::QDateTime,      Date,            0,  &Walker::zonedDateTime},
-    {QMetaType::QDateTime,      Stored,          0,  &Walker::dateTime},
-    {QMetaType::QPoint,         Most,            8,  nullptr},
-    {QMetaType::QPointF,        Most,            16, nullptr},
-    {QMetaType::QSize,          Most,            8,  nullptr},
-    {QMetaType::QSizeF,         Most,            16, nullptr},
-    {QMetaType::QRect,          Most,            16, nullptr},
-    {QMetaType::QRectF,         Most,            32, nullptr},
-    {QMetaType::QLine,          Settings,        16, nullptr},
-    {QMetaType::QLineF,         Settings,        32, nullptr},
-    {QMetaType::QColor,         Most,            0,  &Walker::color},
-    {QMetaType::QFont,          Settings,        0,  &Walker::font},
-    {QMetaType::QBrush,         Format,          0,  &Walker::brush},
-    {QMetaType::QPen,           Format,          0,  &Walker::pen},
-    {QMetaType::QTextLength,    Format,          0,  &Walker::length},
-    {QMetaType::QImage,         Stored,          0,  &Walker::image},
-    {QMetaType::QVariantList,   Most,            0,  &Walker::list},
-    {QMetaType::QVariantMap,    Most,            0,  &Walker::map},
-    {QMetaType::QVariantHash,   Settings|Format, 0,  &Walker::map},
-    {QMetaType::User,           Most,            0,  &Walker::userValue},
+    {QMetaType::UnknownType,        Settings,         0,   &Walker::text}, // an empty one
+    {QMetaType::UnknownType,        Stored | Date,    0,   nullptr},
+    {QMetaType::Bool,               Most,             1,   nullptr},
+    {QMetaType::Int,                Most,             4,   nullptr},
+    {QMetaType::UInt,               Most,             4,   nullptr},
+    {QMetaType::LongLong,           Most,             8,   nullptr},
+    {QMetaType::ULongLong,          Most,             8,   nullptr},
+    {QMetaType::Double,             Most,             8,   nullptr},
+    {QMetaType::Long,               Most,             8,   nullptr},
+    {QMetaType::Short,              Most,             2,   nullptr},
+    {QMetaType::Char,               Most,             1,   nullptr},
+    {QMetaType::ULong,              Most,             8,   nullptr},
+    {QMetaType::UShort,             Most,             2,   nullptr},
+    {QMetaType::UChar,              Most,             1,   nullptr},
+    {QMetaType::SChar,              Most,             1,   nullptr},
+    {QMetaType::Float,              Settings,         4,   nullptr},
+    {QMetaType::Float,              Stored,           8,   nullptr}, // the stream widens it
+    {QMetaType::QChar,              Most,             2,   nullptr},
+    {QMetaType::QString,            Most,             0,   &Walker::text},
+    {QMetaType::QStringList,        Most,             0,   &Walker::texts},
+    {QMetaType::QByteArray,         Most,             0,   &Walker::bytes},
+    {QMetaType::QByteArrayList,     Settings|Format,  0,   &Walker::byteArrays},
+    {QMetaType::QBitArray,          Settings|Format,  0,   &Walker::bits},
+    {QMetaType::QUrl,               Most,             0,   &Walker::bytes},
+    {QMetaType::QUuid,              Most,             16,  nullptr},
+    {QMetaType::QLocale,            Settings|Format,  0,   &Walker::text},
+    {QMetaType::QDate,              Settings,         4,   nullptr},
+    {QMetaType::QDate,              Stored,           8,   nullptr},
+    {QMetaType::QTime,              Most,             4,   nullptr},
+    {QMetaType::QDateTime,          Settings,         9,   nullptr},
+    {QMetaType::QDateTime,          Date,             0,   &Walker::zonedDateTime},
+    {QMetaType::QDateTime,          Stored,           0,   &Walker::dateTime},
+    {QMetaType::QPoint,             Most,             8,   nullptr},
+    {QMetaType::QPointF,            Most,             16,  nullptr},
+    {QMetaType::QSize,              Most,             8,   nullptr},
+    {QMetaType::QSizeF,             Most,             16,  nullptr},
+    {QMetaType::QRect,              Most,             16,  nullptr},
+    {QMetaType::QRectF,             Most,             32,  nullptr},
+    {QMetaType::QLine,              Settings|Format,  16,  nullptr},
+    {QMetaType::QLineF,             Settings|Format,  32,  nullptr},
+    {QMetaType::QColor,             Most,             0,   &Walker::color},
+    {QMetaType::QFont,              Settings,         0,   &Walker::font},
+    {QMetaType::Nullptr,            Format,           0,   nullptr},
+    {QMetaType::QFont,              Format,           0,   &Walker::wholeFont},
+    {QMetaType::QRegExp,            Format,           0,   &Walker::regExp},
+    {QMetaType::QRegularExpression, Format,           0,   &Walker::regularExpression},
+    {QMetaType::QJsonValue,         Format,           0,   &Walker::json},
+    {QMetaType::QJsonObject,        Format,           0,   &Walker::bytes},
+    {QMetaType::QJsonArray,         Format,           0,   &Walker::bytes},
+    {QMetaType::QJsonDocument,      Format,           0,   &Walker::bytes},
+    {QMetaType::QCborSimpleType,    Format,           1,   nullptr},
+    {QMetaType::QCborValue,         Format,           0,   &Walker::cbor},
+    {QMetaType::QCborArray,         Format,           0,   &Walker::cbor},
+    {QMetaType::QCborMap,           Format,           0,   &Walker::cbor},
+    {QMetaType::QPixmap,            Format,           0,   &Walker::picture},
+    {QMetaType::QBitmap,            Format,           0,   &Walker::picture},
+    {QMetaType::QCursor,            Format,           0,   &Walker::cursor},
+    {QMetaType::QIcon,              Format,           0,   &Walker::icon},
+    {QMetaType::QPolygon,           Format,           0,   &Walker::rows<8>},
+    {QMetaType::QPolygonF,          Format,           0,   &Walker::rows<16>},
+    {QMetaType::QKeySequence,       Format,           0,   &Walker::rows<4>},
+    {QMetaType::QRegion,            Format,           0,   &Walker::region},
+    {QMetaType::QPalette,           Format,           0,   &Walker::palette},
+    {QMetaType::QMatrix,            Format,           48,  nullptr},
+    {QMetaType::QTransform,         Format,           72,  nullptr},
+    {QMetaType::QMatrix4x4,         Format,           128, nullptr},
+    {QMetaType::QVector2D,          Format,           16,  nullptr},
+    {QMetaType::QVector3D,          Format,           24,  nullptr},
+    {QMetaType::QVector4D,          Format,           32,  nullptr},
+    {QMetaType::QQuaternion,        Format,           32,  nullptr},
+    {QMetaType::QSizePolicy,        Format,           4,   nullptr},
+    {QMetaType::QTextFormat,        Format,           0,   &Walker::anyFormat},
+    {QMetaType::QBrush,             Format,           0,   &Walker::brush},
+    {QMetaType::QPen,               Format,           0,   &Walker::pen},
+    {QMetaType::QTextLength,        Format,           0,   &Walker::length},
+    {QMetaType::QImage,             Stored,           0,   &Walker::image},
+    {QMetaType::QVariantList,       Most,             0,   &Walker::list},
+    {QMetaType::QVariantMap,        Most,             0,   &Walker::map},
+    {QMetaType::QVariantHash,       Settings|Format,  0,   &Walker::map},
+    {QMetaType::User,               Most,             0,   &Walker::userValue},
 };
 
 // A type that is stored by its name gets its row here; without one, what holds it cannot be read.
@@ -276,24 +353,77 @@ bool Walker::userValue()
             return row.step ? (this->*row.step)() : skip(row.size);
         }
     }
-    return false;
+    return (m_form & Format) != 0 && applicationValue(name);
+}
+
+// What the type's own operators read is what they write again.
+bool Walker::applicationValue(const QByteArray &name)
+{
+    const auto isPrintable = [](char c) { return c > ' ' && c <= '~'; };
+    if (name.size() < 2 || !name.endsWith('\0')
+        || !std::all_of(name.cbegin(), name.cend() - 1, isPrintable)) {
+        return false;
+    }
+    const int type = QMetaType::type(name.constData());
+    if (!registeredTypes().contains(type)) {
+        m_isUnknown = true;
+        return false;
+    }
+    const int version = m_stream->version();
+    m_stream->setVersion(QDataStream::Qt_5_15);
+    QVariant value(type, nullptr);
+    const bool isRead = QMetaType::load(*m_stream, type, value.data()) && m_in.isOk();
+    m_stream->setVersion(version);
+    QDataStream out(&m_taken, QIODevice::Append);
+    out.setVersion(QDataStream::Qt_5_15);
+    out.setByteOrder(m_stream->byteOrder());
+    return isRead && QMetaType::save(out, type, value.constData());
 }
 
 bool Walker::format(QTextFormat::FormatType expected)
 {
     qint32 type = 0;
-    quint32 properties = 0;
-    if (!read(&type) || type != expected || !count(&properties, LeastProperty)
-        || properties > MRVInputLimits::FormatProperties) {
+    if (!read(&type) || type != expected || !count(&m_propertyCount, LeastProperty)
+        || m_propertyCount > MRVInputLimits::FormatProperties) {
         return false;
     }
-    for (; properties > 0; --properties) {
-        qint32 property = 0;
-        if (!read(&property) || property < 0 || !variant()) {
-            return false;
-        }
+    m_wholeEnd = m_taken.size();
+    while (m_wholeCount < m_propertyCount && property()) {
+        ++m_wholeCount;
+        m_wholeEnd = m_taken.size();
     }
-    return true;
+    return m_wholeCount == m_propertyCount;
+}
+
+bool Walker::property()
+{
+    qint32 property = 0;
+    return read(&property) && property >= 0 && variant();
+}
+
+QByteArray Walker::wholeProperties() const
+{
+    QByteArray bytes = m_taken.left(m_wholeEnd);
+    QDataStream count(&bytes, QIODevice::ReadWrite);
+    count.setByteOrder(m_stream->byteOrder());
+    count.skipRawData(sizeof(qint32));
+    count << m_wholeCount;
+    return bytes;
+}
+
+MRVVariantGuard::Rest Walker::rest() const
+{
+    MRVVariantGuard::Rest rest;
+    rest.properties = m_propertyCount - m_wholeCount;
+    rest.bytes = m_taken.mid(m_wholeEnd) + m_stream->device()->readAll();
+    return rest;
+}
+
+// A format as a value, of any type.
+bool Walker::anyFormat()
+{
+    return nested(
+        [this] { return skip(4) && items(LeastProperty, [this] { return property(); }); });
 }
 
 // Its version, label and payload.
@@ -368,6 +498,155 @@ bool Walker::zonedDateTime()
 bool Walker::font()
 {
     return text() && skip(8 + 4 + 5); // size in points and pixels, style
+}
+
+// As the stream version Qt_5_15 has it.
+bool Walker::wholeFont()
+{
+    return text() && text() // family, name of the style
+        && skip(8 + 4 + 1 + 2) // size in points and pixels, hint, strategy
+        && skip(1 + 1 + 1 + 2 + 1) // weight, style, stretch
+        && skip(4 + 4 + 1 + 1) // spacing of letters and words, hinting, capitals
+        && texts(); // families
+}
+
+// Qt compiles it at once, and repeats in repeats would take all memory.
+bool Walker::regExp()
+{
+    const int start = m_taken.size() + LeastText;
+    if (!text()) {
+        return false;
+    }
+    const QByteArray pattern = m_taken.mid(start);
+    quint8 syntax = 0;
+    return !pattern.contains('{') && skip(1) && read(&syntax) && syntax <= QRegExp::W3CXmlSchema11
+        && skip(1);
+}
+
+bool Walker::regularExpression()
+{
+    return text() && skip(4);
+}
+
+bool Walker::json()
+{
+    quint8 type = 0;
+    if (!read(&type)) {
+        return false;
+    }
+    switch (type) {
+    case QJsonValue::Null:
+    case QJsonValue::Undefined:
+        return true;
+    case QJsonValue::Bool:
+        return skip(1);
+    case QJsonValue::Double:
+        return skip(8);
+    case QJsonValue::String:
+        return text();
+    default:
+        return type <= QJsonValue::Object && bytes();
+    }
+}
+
+// Qt reserves memory on the word of the lengths in it (RFC 8949, section 3).
+bool Walker::cbor()
+{
+    const int start = m_taken.size() + LeastText;
+    if (!bytes()) {
+        return false;
+    }
+    const QByteArray value = m_taken.mid(start);
+    return value.isEmpty() || MRVCborCheck(value).isWhole();
+}
+
+// Before there is an application, Qt ends the process for a pixmap.
+bool Walker::picture()
+{
+    m_isUnknown = !hasGui();
+    return !m_isUnknown && image();
+}
+
+bool Walker::cursor()
+{
+    quint16 shape = 0;
+    m_isUnknown = !hasGui();
+    if (m_isUnknown || !read(&shape)) {
+        return false;
+    }
+    quint8 isPixmap = 0;
+    return shape <= Qt::LastCursor
+        || (shape == Qt::BitmapCursor && read(&isPixmap) && isPixmap <= 1 && image()
+            && (isPixmap == 1 || image()) && skip(8));
+}
+
+// Of pictures only: engines are plug-ins.
+bool Walker::icon()
+{
+    constexpr int LeastPicture = 4 + LeastText + 8 + 4 + 4;
+    static const QByteArray Engine("\0Q\0P\0i\0x\0m\0a\0p\0I\0c\0o\0n\0E\0n\0g\0i\0n\0e", 34);
+    m_isUnknown = !hasGui();
+    const int start = m_taken.size() + LeastText;
+    if (m_isUnknown || !text()) {
+        return false;
+    }
+    const QByteArray engine = m_taken.mid(start);
+    return engine.isEmpty()
+        || (engine == Engine && items(LeastPicture, [this] { return iconPicture(); }));
+}
+
+// A file that is named in place of a picture would be read when the icon is shown.
+bool Walker::iconPicture()
+{
+    const int start = m_taken.size();
+    if (!image()) {
+        return false;
+    }
+    const bool hasPicture = numberAt(start) == 1;
+    const int file = m_taken.size() + LeastText;
+    return text() && (hasPicture || m_taken.size() == file) && skip(8) // its size
+        && enumerator(QIcon::Selected) && enumerator(QIcon::Off);
+}
+
+template<quint32 size>
+bool Walker::rows()
+{
+    return items(size, [this] { return skip(size); });
+}
+
+quint32 Walker::numberAt(int offset) const
+{
+    const char *stored = m_taken.constData() + offset;
+    return m_stream->byteOrder() == QDataStream::BigEndian ? qFromBigEndian<quint32>(stored)
+                                                           : qFromLittleEndian<quint32>(stored);
+}
+
+// Bytes that hold a command and its rectangles. Other commands take regions apart in ways that
+// take memory.
+bool Walker::region()
+{
+    constexpr quint32 Rectangles = 10;
+    constexpr int Header = 8;
+    constexpr int Rectangle = 16;
+    constexpr int MostRectangles = 4096; // each is united with those before
+    const int start = m_taken.size() + LeastText;
+    if (!bytes()) {
+        return false;
+    }
+    const int size = m_taken.size() - start;
+    return size == 0
+        || (size >= Header && numberAt(start) == Rectangles
+            && size <= Header + Rectangle * MostRectangles && (size - Header) % Rectangle == 0
+            && numberAt(start + 4) == quint32((size - Header) / Rectangle));
+}
+
+bool Walker::palette()
+{
+    bool isTaken = true;
+    for (int i = 0; isTaken && i < QPalette::NColorGroups * QPalette::NColorRoles; ++i) {
+        isTaken = brush();
+    }
+    return isTaken;
 }
 
 bool Walker::color()
@@ -544,4 +823,24 @@ QByteArray MRVVariantGuard::take(QDataStream &stream, Form form)
         MRVCheckedStream(&stream).fail();
     }
     return isTaken ? walker.taken() : QByteArray();
+}
+
+QByteArray MRVVariantGuard::takeFormat(QDataStream &stream, Form form, Rest *rest)
+{
+    Walker walker(&stream, form);
+    *rest = Rest();
+    if (walker.format(form == CharFormat ? QTextFormat::CharFormat : QTextFormat::BlockFormat)) {
+        return walker.taken();
+    }
+    if (walker.isUnknown() && stream.status() == QDataStream::Ok) {
+        *rest = walker.rest();
+        return walker.wholeProperties();
+    }
+    MRVCheckedStream(&stream).fail();
+    return QByteArray();
+}
+
+void MRVVariantGuard::registerType(int type)
+{
+    registeredTypes().insert(type);
 }

@@ -54,4 +54,30 @@ public:
      * the bytes only end too early, else ReadCorruptData.
      */
     static QByteArray take(QDataStream &stream, Form form);
+
+    /** What takeFormat() could not read. */
+    struct Rest
+    {
+        quint32 properties = 0; ///< how many
+        QByteArray bytes; ///< all of the stream from the first of them on
+    };
+    /**
+     * As take(), for a format with nothing after it. Where a property is of a type that this
+     * process does not know, the properties before it are taken, and the rest is kept: such a value
+     * has no length, so nothing after it can be found.
+     *
+     * @param stream as for take().
+     * @param form   CharFormat or BlockFormat.
+     * @param rest   receives what is not taken; empty where all is.
+     */
+    static QByteArray takeFormat(QDataStream &stream, Form form, Rest *rest);
+
+    /**
+     * Makes formats hold values of an application's type, which its own stream operators read. They
+     * get bytes from outside, so that they have to check counts and lengths, and to set the
+     * stream's status where something is wrong.
+     *
+     * @param type from qRegisterMetaType(), with stream operators.
+     */
+    static void registerType(int type);
 };

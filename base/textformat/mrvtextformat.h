@@ -103,6 +103,15 @@ public:
         HeaderCellProperty = 0x100103,
     };
 
+    // Not stored under its number, but as what it holds.
+    enum {
+        /**
+         * QByteArray: what toCharFormat() could not read, for toByteArray() to write it again. It
+         * means nothing to anybody else, and is carried along as the application's data is.
+         */
+        UnreadProperty = 0x1fff01,
+    };
+
     /** What simplified() keeps of a paragraph's format. */
     enum FormatGroup {
         IndentGroup = 1, ///< left, first-line and right indent
@@ -129,14 +138,16 @@ public:
      * qint32 property to QVariant) in QDataStream version Qt_5_15, with nothing before or after.
      * Equal formats give equal bytes; for that, a QVariantHash is stored as a QVariantMap.
      *
-     * Stored are numbers, texts, byte arrays, dates, URLs, colours, brushes, pens, pictures,
-     * points, sizes, rectangles, text lengths, tab stops, list levels, and lists and maps of them;
-     * not fonts, locales, polygons and times in a named zone. Of a format of more than 4096
+     * Stored are values of all types that Qt can write, lists and maps of them, and values of an
+     * application's types that have stream operators. These come last in the map, as a process that
+     * does not know the type can read only what stands before. Of a format of more than 4096
      * properties, or with pictures beyond 8 MB and 32 times its stored length, the first that fit
      * are stored.
      *
-     * A property whose value toCharFormat() could not take back (a type without stream operators,
-     * say) would make the whole format unreadable. It is left out, with a warning in the log.
+     * Left out, with a warning in the log, are values that would make the whole format unreadable:
+     * of types without stream operators; easing curves, which Qt stores with an address in its
+     * memory; expressions of QRegExp with "{"; icons of plug-ins or with files that are not there; regions of more than
+     * 4096 rectangles; times in a named zone.
      */
     static QByteArray toByteArray(const QTextCharFormat &format);
     static QByteArray toByteArray(const QTextBlockFormat &format);
@@ -147,6 +158,10 @@ public:
      * Any bytes may be given: types, counts and lengths are checked against what is there before Qt
      * decodes it, so the memory taken is bounded by the length of @p bytes.
      *
+     * Where a property is of an application's type that is not registered in this process, the
+     * properties before it are read, and all bytes from it on are kept in UnreadProperty. Pictures
+     * on screen (QPixmap, QCursor and their like) count as such while there is no QGuiApplication.
+     *
      * @return a default-constructed format where @p bytes is empty, damaged, of another kind of
      * format, or holds a type that formats do not hold.
      */
@@ -156,6 +171,17 @@ public:
     /** The same for the byte array that @p value converts to. */
     static QTextCharFormat toCharFormat(const QVariant &value);
     static QTextBlockFormat toBlockFormat(const QVariant &value);
+
+    /**
+     * Makes toCharFormat() and toBlockFormat() read values of an application's type. Its stream
+     * operators get bytes from outside: they have to check counts and lengths against what is
+     * there, and to set the stream's status where something is wrong. To be called before formats
+     * that hold such values are read.
+     *
+     * @param type from qRegisterMetaType(), with operators from
+     *             qRegisterMetaTypeStreamOperators().
+     */
+    static void registerStoredType(int type);
 
     /**
      * Takes one stored format off a stream that goes on after it, with the checks of

@@ -10,6 +10,9 @@
 #include <QLoggingCategory>
 #include <QMetaType>
 #include <QTextOption>
+#include <QtEndian>
+
+#include <algorithm>
 
 namespace {
 
@@ -66,10 +69,40 @@ QByteArray write(const QTextFormat &format)
     return bytes;
 }
 
-bool isReadable(const QByteArray &bytes, int type)
+enum class Reading {
+    Whole, ///< it comes back as it was
+    Kept, ///< it has a type that only some processes know, and comes back as bytes elsewhere
+    None
+};
+
+Reading readingOf(const QByteArray &bytes, int type)
 {
     QDataStream stream(bytes);
-    return !MRVVariantGuard::take(stream, form(type)).isEmpty();
+    MRVVariantGuard::Rest rest;
+    if (MRVVariantGuard::takeFormat(stream, form(type), &rest).isEmpty()) {
+        return Reading::None;
+    }
+    return rest.properties == 0 ? Reading::Whole : Reading::Kept;
+}
+
+bool isReadable(const QByteArray &bytes, int type)
+{
+    return readingOf(bytes, type) == Reading::Whole;
+}
+
+// Whether Qt can write a value: where it cannot, it leaves a gap.
+bool isWritable(const QVariant &value)
+{
+    if (value.userType() == QMetaType::QVariantList || value.userType() == QMetaType::QVariantMap) {
+        const QVariantList items =
+            value.userType() == QMetaType::QVariantMap ? value.toMap().values() : value.toList();
+        return std::all_of(items.cbegin(), items.cend(), isWritable);
+    }
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(StreamVersion);
+    return value.userType() < QMetaType::User
+        || QMetaType::save(stream, value.userType(), value.constData());
 }
 
 // The order of a hash differs in every process; the order of a map does not.
@@ -104,6 +137,7 @@ QVariant ordered(const QVariant &value)
 QTextFormat ordered(QTextFormat format)
 {
     format.clearProperty(MRVFormatSpread::Property);
+    format.clearProperty(MRVTextFormat::UnreadProperty);
     const QMap<int, QVariant> properties = format.properties();
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         const int type = it.value().userType();
@@ -145,28 +179,64 @@ QByteArray storeFirst(const QTextFormat &format)
     return write(firstProperties(format, stored));
 }
 
+quint32 numberAt(const QByteArray &bytes, int offset)
+{
+    return qFromBigEndian<quint32>(bytes.constData() + offset);
+}
+
+// A stored format with more properties at its end: "tail" has their number and then each of them,
+// as a format has after its type.
+QByteArray withTail(QByteArray format, const QByteArray &tail)
+{
+    constexpr int Count = sizeof(quint32);
+    if (tail.size() < Count) {
+        return format;
+    }
+    qToBigEndian(numberAt(format, Count) + numberAt(tail, 0), format.data() + Count);
+    return format + tail.mid(Count);
+}
+
 QByteArray store(const QTextFormat &unordered)
 {
     mrvRegisterTextTypes();
     const QTextFormat format = ordered(unordered);
+    const QByteArray unread = unordered.property(MRVTextFormat::UnreadProperty).toByteArray();
     const QByteArray bytes = write(format);
-    if (isReadable(bytes, format.type())) {
+    if (unread.isEmpty() && isReadable(bytes, format.type())) {
         return bytes;
     }
 
     QTextFormat readable = format;
+    QTextFormat kept(format.type());
     const QMap<int, QVariant> properties = format.properties();
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         QTextFormat single(format.type());
         single.setProperty(it.key(), it.value());
-        if (isReadable(write(single), format.type())) {
+        const Reading reading =
+            isWritable(it.value()) ? readingOf(write(single), format.type()) : Reading::None;
+        if (reading == Reading::Whole) {
             continue;
         }
-        qCWarning(lcText, "Property 0x%x of type %s cannot be stored and is left out",
-                  uint(it.key()), it.value().typeName());
         readable.clearProperty(it.key());
+        if (reading == Reading::Kept) {
+            kept.setProperty(it.key(), it.value());
+        } else {
+            qCWarning(lcText, "Property 0x%x of type %s cannot be stored and is left out",
+                      uint(it.key()), it.value().typeName());
+        }
     }
-    return storeFirst(readable);
+    const QByteArray tail = write(kept).mid(sizeof(qint32));
+    return withTail(withTail(storeFirst(readable), tail), unread);
+}
+
+template<typename Format>
+bool decode(const QByteArray &bytes, Format *format)
+{
+    mrvRegisterTextTypes();
+    QDataStream checked(bytes);
+    checked.setVersion(StreamVersion);
+    checked >> *format;
+    return checked.status() == QDataStream::Ok;
 }
 
 template<typename Format>
@@ -182,12 +252,8 @@ bool take(QDataStream &stream, Format *format)
     if (bytes.isEmpty()) {
         return false;
     }
-    mrvRegisterTextTypes();
-    QDataStream checked(bytes);
-    checked.setVersion(StreamVersion);
-    checked >> read;
-    if (checked.status() != QDataStream::Ok) {
-        stream.setStatus(checked.status());
+    if (!decode(bytes, &read)) {
+        stream.setStatus(QDataStream::ReadCorruptData);
         return false;
     }
     *format = read;
@@ -199,7 +265,16 @@ Format restore(const QByteArray &bytes)
 {
     QDataStream stream(bytes);
     Format format;
-    take(stream, &format);
+    MRVVariantGuard::Rest rest;
+    const QByteArray known = MRVVariantGuard::takeFormat(stream, form(format.type()), &rest);
+    if (known.isEmpty() || !decode(known, &format)) {
+        return Format();
+    }
+    if (rest.properties > 0) {
+        QByteArray unread(sizeof(quint32), '\0');
+        qToBigEndian(rest.properties, unread.data());
+        format.setProperty(MRVTextFormat::UnreadProperty, unread + rest.bytes);
+    }
     return format;
 }
 
@@ -229,6 +304,11 @@ QTextCharFormat MRVTextFormat::toCharFormat(const QByteArray &bytes)
 QTextBlockFormat MRVTextFormat::toBlockFormat(const QByteArray &bytes)
 {
     return restore<QTextBlockFormat>(bytes);
+}
+
+void MRVTextFormat::registerStoredType(int type)
+{
+    MRVVariantGuard::registerType(type);
 }
 
 bool MRVTextFormat::read(QDataStream &stream, QTextCharFormat *format)
