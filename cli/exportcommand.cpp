@@ -312,6 +312,7 @@ bool exportPackage(const Call &call, const Options &options,
         return false;
     }
     book.areChapters = manuscripts.size() > 1;
+    book.packing = MRVEPubOptions::Small;
     const bool isOld = call.value("epub-version") == QLatin1String("2");
     MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata, book);
     QVector<const QTextDocument *> documents;

@@ -359,8 +359,9 @@ private Q_SLOTS:
         fill(&document, novel);
         MRVEPubMetadata metadata;
         metadata.modified = someDay();
+        MRVEPubOptions options;
         auto made = [&] {
-            MRVEPubPackage package(MRVEPubVersion::EPub3, metadata);
+            MRVEPubPackage package(MRVEPubVersion::EPub3, metadata, options);
             package.addDocument(document, "novel.html");
             return package.toByteArray();
         };
@@ -375,6 +376,9 @@ private Q_SLOTS:
         const QByteArray onOneCore = made();
         QCOMPARE(sched_setaffinity(0, sizeof cores, &cores), 0);
         QCOMPARE(onOneCore, book);
+        options.packing = MRVEPubOptions::Small;
+        QVERIFY(made().size() < book.size());
+        QCOMPARE(unpacked(made()), unpacked(book));
         QCOMPARE(book.mid(30, 28),
                  QByteArray("mimetypeapplication/epub+zip")); // first, stored, no extra field
         metadata.modified = someDay().addSecs(3600);

@@ -24,6 +24,12 @@ struct MRVBASE_EXPORT MRVEPubOptions
         BookNotes, ///< on a page of their own at the end of the book
     };
 
+    /** How the files of the e-book are compressed. */
+    enum Packing {
+        Quick, ///< what zlib does at its standard level, in a third of the time
+        Small, ///< two to six percent smaller, in five times the time
+    };
+
     StyleBase styleBase = Classic;
     /**
      * CSS in UTF-8 that takes the place of the base, and stands after the rules of the book's own
@@ -32,6 +38,7 @@ struct MRVBASE_EXPORT MRVEPubOptions
      */
     QByteArray styleSheet;
     Notes notes = ChapterNotes;
+    Packing packing = Quick;
     /**
      * Whether inline annotations and inline footnotes of a document leave the text and become
      * notes. Otherwise they are text as any other.

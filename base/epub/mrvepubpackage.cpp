@@ -220,7 +220,8 @@ bool MRVEPubPackage::write(QIODevice *device, QString *error) const
         ? m_book->metadata.modified
         : QDateTime::currentDateTimeUtc();
     QString reason;
-    if (mrvWriteZip(filesOf(*m_book, modified), archiveDate(modified), device, &reason)) {
+    const int level = m_book->options.packing == MRVEPubOptions::Small ? 10 : 5;
+    if (mrvWriteZip(filesOf(*m_book, modified), level, archiveDate(modified), device, &reason)) {
         return true;
     }
     for (const MRVEPubFile &file : qAsConst(m_book->pictures)) {

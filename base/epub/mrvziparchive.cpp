@@ -16,9 +16,6 @@
 
 namespace {
 
-// What zlib does at its standard level, in a third of the time: those above gain a percent or two.
-constexpr int Level = 5;
-
 /** A file as it goes into the archive. */
 struct Packed
 {
@@ -39,6 +36,11 @@ bool isLate(const MRVZipEntry &entry)
 class Deflater
 {
 public:
+    explicit Deflater(int level)
+        : m_compressor(libdeflate_alloc_compressor(level))
+    {
+    }
+
     Packed packed(const MRVZipEntry &entry)
     {
         if (isLate(entry)) {
@@ -70,7 +72,7 @@ private:
         }
     };
 
-    std::unique_ptr<libdeflate_compressor, Free> m_compressor{libdeflate_alloc_compressor(Level)};
+    std::unique_ptr<libdeflate_compressor, Free> m_compressor;
 };
 
 /** Threads that take no signals, whose handlers are written for the main thread. */
@@ -107,12 +109,12 @@ private:
 };
 
 // Each thread takes the next file that none has taken, and puts it in its place.
-std::vector<Packed> packAll(const std::vector<MRVZipEntry> &entries)
+std::vector<Packed> packAll(const std::vector<MRVZipEntry> &entries, int level)
 {
     std::vector<Packed> files(entries.size());
     std::atomic<std::size_t> next{0};
     const auto work = [&] {
-        Deflater deflater;
+        Deflater deflater(level);
         for (std::size_t i = next++; i < entries.size(); i = next++) {
             files[i] = deflater.packed(entries[i]);
         }
@@ -302,10 +304,10 @@ private:
 
 } // namespace
 
-bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, const QDateTime &date, QIODevice *device,
-                 QString *error)
+bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, int level, const QDateTime &date,
+                 QIODevice *device, QString *error)
 {
-    std::vector<Packed> files = packAll(entries); // outlives the archive, which reads it
+    std::vector<Packed> files = packAll(entries, level); // outlives the archive, which reads it
     Archive archive(device);
     bool ok = true;
     for (std::size_t i = 0; ok && i < files.size(); ++i) {

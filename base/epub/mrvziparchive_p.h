@@ -37,10 +37,11 @@ struct MRVZipEntry
  * The files are made and compressed on all cores, in threads that end before the function returns;
  * the bytes do not depend on how many these are.
  *
+ * @param level  of libdeflate, 1 to 12.
  * @param date   1980 to 2107, of which the time of day of UTC is written.
  * @param device open for writing, and able to seek.
  * @param error  if given, receives the reason on failure, which names a file or is the library's;
  *               untouched on success.
  */
-bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, const QDateTime &date, QIODevice *device,
-                 QString *error);
+bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, int level, const QDateTime &date,
+                 QIODevice *device, QString *error);
