@@ -11,6 +11,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
+#include <QXmlStreamReader>
 
 #include <KZip>
 
@@ -79,9 +80,9 @@ class tst_EPub : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Front matter, two chapters, a page break, and another document: all parts as they are
+    // Front matter, two chapters, a page break, and another document: all files as they are
     // written, with MRV_REWRITE_GOLDEN to write them again.
-    void parts()
+    void files()
     {
         QTextDocument document;
         fill(&document, novel);
@@ -290,6 +291,67 @@ private Q_SLOTS:
         QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);
     }
 
+    void deepNesting_data()
+    {
+        QTest::addColumn<QString>("element");
+        for (const QString element :
+             {"ul><li", "blockquote", "table><tr><td", "div style='border:1px solid'"}) {
+            QTest::newRow(qPrintable(element)) << element;
+        }
+    }
+    // Parsers of XML take 256 elements within each other; no word goes with those above it.
+    void deepNesting()
+    {
+        QFETCH(QString, element);
+        QTextDocument document;
+        QVERIFY(MRVHtmlDocument::read(QString("<%1>a b").arg(element).repeated(300), QString(),
+                                      &document));
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document));
+        QCOMPARE(package.losses({&document}), QStringList());
+        QXmlStreamReader page(unpacked(package.toByteArray())["OEBPS/page-001.xhtml"]);
+        int depth = 0;
+        int deepest = 0;
+        while (!page.atEnd()) {
+            page.readNext();
+            depth += page.isStartElement() ? 1 : page.isEndElement() ? -1 : 0;
+            deepest = qMax(deepest, depth);
+        }
+        QVERIFY(!page.hasError());
+        QVERIFY2(deepest < 256, qPrintable(QString::number(deepest)));
+    }
+
+    // A part stands with its first chapter, and the title of that one is not the book's.
+    void parts()
+    {
+        MRVEPubOptions options;
+        options.areChapters = true;
+        MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata(), options);
+        package.addPart("I");
+        for (const QString name : {"one", "two"}) {
+            QTextDocument document;
+            QVERIFY(MRVHtmlDocument::read("<title>" + name + "</title><h1>" + name + "</h1>x",
+                                          QString(), &document));
+            QVERIFY(package.addDocument(document));
+        }
+        package.addPart("II");
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        QStringList bodies;
+        for (const QString &name : QStringList(files.keys()).filter("page-")) {
+            bodies
+                << QString(files[name].section("<body>", 1).section("</body>", 0, 0)).remove('\n');
+        }
+        const QStringList expected{
+            "<section epub:type=\"part\" role=\"doc-part\"><h1 id=\"part\">I</h1><section "
+            "epub:type=\"chapter\" role=\"doc-chapter\"><h1 id=\"heading-2\">one</h1><p>x</p>"
+            "</section></section>",
+            "<section epub:type=\"chapter\" role=\"doc-chapter\"><h1 id=\"heading-3\">two</h1>"
+            "<p>x</p></section>",
+            "<section epub:type=\"part\" role=\"doc-part\"><h1 "
+            "id=\"part-1\">II</h1></section>"};
+        QCOMPARE(bodies, expected);
+    }
+
     // No id stands twice on a page, whatever the document calls its anchors.
     void headingIds()
     {
@@ -322,12 +384,14 @@ private Q_SLOTS:
         metadata.cover = cover;
         metadata.title = "T & U";
         metadata.authors = QStringList{"Writer"};
+        metadata.subtitle = "S";
         const QMap<QString, QString> files =
             unpacked(MRVEPubPackage(MRVEPubVersion::EPub3, metadata).toByteArray());
         QCOMPARE(files["OEBPS/cover.xhtml"].contains(
                      "<img src=\"images/cover-1.png\" alt=\"T &amp; U\" />"),
                  shown);
         QCOMPARE(files["OEBPS/cover.xhtml"].contains(">Writer</p>"), !shown);
+        QCOMPARE(files["OEBPS/cover.xhtml"].contains(">S</p>"), !shown);
         QCOMPARE(files["OEBPS/content.opf"].contains("properties=\"cover-image\""), shown);
     }
 
@@ -464,12 +528,14 @@ private Q_SLOTS:
         fill(&document, novel);
         QTextDocument hard;
         fill(&hard,
-             "<body bgcolor='#eeeeee' background='x.png'><h3>Deep first</h3><h1>Then high</h1><p "
+             "<body bgcolor='#eeeeee' background='x.png'><h3>Deep first</h3><h1>Then "
+             "high</h1><p "
              "dir=rtl align=center>&#1513;</p><ul type=square><li><b>x</b><ol type=i><li>y"
              "</ol><li><blockquote>z</blockquote></ul><hr width='50%'><table border=2 "
              "cellpadding=3 cellspacing=1 width='70%' "
              "bgcolor=yellow><thead><tr><th>h<tbody><tr><td bgcolor=red colspan=2 width=30>"
-             "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img src='pic.png' "
+             "<a name='1 bad'></a><img src='pic.png' width='7.5' height='-20'><img "
+             "src='pic.png' "
              "width='50%'></table><pre>a\n<img "
              "src='pic.png'></pre><a href='#1 bad'>x</a><a href='http://'>y</a>");
         MRVEPubMetadata metadata;

@@ -191,9 +191,9 @@ private Q_SLOTS:
                  QString("<ol><li>Trois</li><li>Ebb<ol><li>Named</li><li>Second</li></ol></li>"
                          "<li>Un</li><li>Deux</li></ol>"));
         QVERIFY(text("page-002.xhtml").contains("epub:type=\"part\""));
-        QVERIFY(text("page-003.xhtml").contains(">Named</h1>"));
-        QVERIFY(text("page-003.xhtml").contains("href=\"page-001.xhtml#trois\""));
-        QVERIFY(!text("page-004.xhtml").contains("Second"));
+        QVERIFY(text("page-002.xhtml").contains(">Named</h1>"));
+        QVERIFY(text("page-002.xhtml").contains("href=\"page-001.xhtml#trois\""));
+        QVERIFY(!text("page-003.xhtml").contains("Second"));
     }
 
     void linkedPages()

@@ -125,11 +125,13 @@ void MRVEPubBook::addPart(const QString &partTitle)
     page.fileName = QStringLiteral("page-%1.xhtml").arg(++pageNumber, 3, 10, QChar(u'0'));
     page.title = text;
     page.type = QStringLiteral("part");
+    const QString id = uniqueIds.idFor(QStringLiteral("part"));
     page.body = (isEPub3 ? "<section epub:type=\"part\" role=\"doc-part\">\n" : QByteArray())
-        + "<h1 id=\"part\">" + mrvEPubValue(text) + "</h1>\n"
-        + (isEPub3 ? "</section>\n" : QByteArray());
+        + "<h1 id=\"" + id.toUtf8() + "\">" + mrvEPubValue(text) + "</h1>\n";
+    page.end = isEPub3 ? "</section>\n" : QByteArray();
     addPage(page);
-    headings.append({text, page.fileName + QLatin1String("#part"), 0});
+    isPartOpen = true;
+    headings.append({text, page.fileName + u'#' + id, 0});
     if (isFirst) {
         addTitlePage();
     }
@@ -157,6 +159,11 @@ QByteArray MRVEPubBook::titleBody() const
     QByteArray body =
         isEPub3 ? "<section class=\"cover\" epub:type=\"titlepage\">\n" : "<div class=\"cover\">\n";
     body += "<h1 class=\"cover-title\">" + mrvEPubValue(title()) + "</h1>\n";
+    const QString subtitle = mrvXmlText(metadata.subtitle).simplified();
+    if (!subtitle.isEmpty()) {
+        body += QByteArray("<p class=\"cover-subtitle\"")
+            + (isEPub3 ? " role=\"doc-subtitle\">" : ">") + mrvEPubValue(subtitle) + "</p>\n";
+    }
     const QStringList names = authors();
     for (const QString &author : names) {
         body += "<p class=\"cover-author\">" + mrvEPubValue(author) + "</p>\n";
@@ -166,6 +173,17 @@ QByteArray MRVEPubBook::titleBody() const
         body += "<p class=\"cover-publisher\">" + mrvEPubValue(publisher) + "</p>\n";
     }
     return body + (isEPub3 ? "</section>\n" : "</div>\n");
+}
+
+MRVEPubPage MRVEPubBook::beginPage()
+{
+    MRVEPubPage page;
+    if (std::exchange(isPartOpen, false)) {
+        page = pages.takeAt(pages.size() - (notesLevel > 0 ? 2 : 1));
+    } else {
+        page.fileName = QStringLiteral("page-%1.xhtml").arg(++pageNumber, 3, 10, QChar(u'0'));
+    }
+    return page;
 }
 
 MRVEPubPage MRVEPubBook::beginNotes(int level)
@@ -276,9 +294,11 @@ QString MRVEPubBook::resolved(const QString &href, int document) const
             : target.isEmpty()  ? there.targets.value(QUrl::fromPercentEncoding(anchor.toUtf8()))
                                 : target;
     }
-    const QUrl url(href, QUrl::TolerantMode);
+    const bool hasScheme = !href.startsWith(QLatin1String("//"));
+    const QUrl url(hasScheme ? href : QLatin1String("https:") + href, QUrl::TolerantMode);
     const QString scheme = url.scheme();
-    const bool web = (scheme == QLatin1String("http") || scheme == QLatin1String("https"))
+    const bool web = (scheme == QLatin1String("http") || scheme == QLatin1String("https")
+                      || scheme == QLatin1String("ftp"))
         && !url.host().isEmpty();
     const bool mail = scheme == QLatin1String("mailto") || scheme == QLatin1String("tel");
     return url.isValid() && (web || mail) ? QString::fromLatin1(url.toEncoded()) : QString();

@@ -112,6 +112,7 @@ public:
     int notes = 0; // that are linked with a mark
     int comments = 0; // that became notes
     int notesLevel = 0; // of the heading above all notes; 0: the book has no page for them
+    bool isPartOpen = false; // the last page holds the title of a part, which goes on
     bool hasParts = false; // which stand above all headings of documents
 
     /**
@@ -153,8 +154,10 @@ public:
      */
     QString text(const char *source) const;
 
-    /** Adds a page of its own for the title of a part, and its heading. */
+    /** Adds a page for the title of a part, which the next one goes on with, and its heading. */
     void addPart(const QString &title);
+    /** A page that is still to be added, with a name: empty, or with the title of its part. */
+    MRVEPubPage beginPage();
     void addPage(const MRVEPubPage &page);
     /** Adds a title page from the metadata before all others, where the book begins with none. */
     void addTitlePage();

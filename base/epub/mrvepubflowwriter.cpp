@@ -203,7 +203,7 @@ void MRVEPubWriter::openQuotes(int level)
 {
     int open = int(std::count_if(m_containers.begin(), m_containers.end(),
                                  [](const Container &container) { return container.isQuote; }));
-    for (; open < level; ++open) {
+    for (; open < level && !isDeep(); ++open) {
         Container quote;
         quote.isQuote = true;
         quote.end = "</blockquote>\n";
@@ -264,12 +264,22 @@ void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
     if (isOpen) {
         m_containers.last().list = paragraph.list;
         m_out.append(QLatin1String("</li>\n"));
+    } else if (isDeep() && !m_containers.constLast().isQuote) {
+        m_out.append(QLatin1String("</li>\n")); // goes on at the depth that has been reached
     } else {
         openQuotes(format.quoteLevel);
         openList(paragraph);
     }
     openItem(paragraph, format);
     openQuotes(format.quoteLevel);
+}
+
+// Whether no more elements must be opened around text: parsers of XML take 256 within each other.
+bool MRVEPubWriter::isDeep() const
+{
+    constexpr int Deepest = 200;
+    constexpr int InList = 2;
+    return m_depth + InList * m_containers.size() > Deepest;
 }
 
 void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
@@ -285,6 +295,10 @@ void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
     list.isCounted = isNumbered && !m_isEPub3 && paragraph.itemNumber != 1;
     list.end = isNumbered ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
     m_out.append(isNumbered ? QLatin1String("<ol") : QLatin1String("<ul"));
+    // Markers stand on the side that the first item begins at.
+    const bool isRight = m_formats.isRightToLeft(int(&paragraph - m_flow.paragraphs.constData()));
+    list.direction = isRight ? Qt::RightToLeft : direction();
+    writeDirection(list.direction, direction());
     if (list.isCounted) {
         m_out.append(QLatin1String(" class=\"counted\""));
     } else if (!type.isUsual) {
@@ -356,14 +370,29 @@ void MRVEPubWriter::writeAttributes(int paragraph, const MRVEPubContext &context
         }
         m_out.append(" xml:lang=\"" + language + '"');
     }
-    Qt::LayoutDirection direction = m_formats.paragraph(place.format).direction;
-    if (direction == Qt::LayoutDirectionAuto) {
-        const bool isRight = m_flow.textOf(place).isRightToLeft();
-        direction = isRight ? Qt::RightToLeft : m_direction;
+    const bool isAuto = m_formats.paragraph(place.format).direction == Qt::LayoutDirectionAuto;
+    const bool isRight = m_formats.isRightToLeft(paragraph);
+    if (!isAuto || isRight) {
+        writeDirection(isRight ? Qt::RightToLeft : Qt::LeftToRight, direction());
     }
-    if (direction != m_direction) {
-        m_out.append(direction == Qt::RightToLeft ? QLatin1String(" dir=\"rtl\"")
-                                                  : QLatin1String(" dir=\"ltr\""));
+}
+
+// Of what is open.
+Qt::LayoutDirection MRVEPubWriter::direction() const
+{
+    for (int i = m_containers.size() - 1; i >= 0; --i) {
+        if (!m_containers.at(i).isQuote) {
+            return m_containers.at(i).direction;
+        }
+    }
+    return m_boxDirection;
+}
+
+void MRVEPubWriter::writeDirection(Qt::LayoutDirection own, Qt::LayoutDirection around)
+{
+    if (own != around) {
+        m_out.append(own == Qt::RightToLeft ? QLatin1String(" dir=\"rtl\"")
+                                            : QLatin1String(" dir=\"ltr\""));
     }
 }
 

@@ -208,7 +208,7 @@ void MRVEPubFormats::readLook(const QTextCharFormat &format, MRVEPubTextFormat *
         look[Look::WordSpacing] = int(std::lround(1000 * format.fontWordSpacing() / size));
     }
     const QRgb color = colorOf(format.foreground());
-    if (color != Black && color != m_ink && !(isLink && color == LinkBlue)) {
+    if (color != Black && color != White && color != m_ink && !(isLink && color == LinkBlue)) {
         look[Look::Color] = int(color);
     }
     const QRgb background = colorOf(format.background());
@@ -314,7 +314,11 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     const MRVEPubParagraphFormat &format = this->paragraph(place.format);
     Look look = format.look;
     look.kind = kind;
-    look[Look::Left] += mrvEPubLength(qMax(0, format.indent - usedIndent) * IndentPixels, 100);
+    const int levels = qMax(0, format.indent - usedIndent);
+    if (levels > 0) {
+        const Look::Value side = isRightToLeft(paragraph) ? Look::Right : Look::Left;
+        look[side] += mrvEPubLength(levels * IndentPixels, 100);
+    }
     // What all of the text has in common is the paragraph's.
     int size = 0;
     bool isBold = false;
@@ -344,6 +348,14 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     context->size = look[Look::Size];
     context->isBold = isHeading && (isFirst || isBold);
     return look;
+}
+
+bool MRVEPubFormats::isRightToLeft(int paragraph)
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const Qt::LayoutDirection direction = this->paragraph(place.format).direction;
+    return direction == Qt::LayoutDirectionAuto ? m_flow.textOf(place).isRightToLeft()
+                                                : direction == Qt::RightToLeft;
 }
 
 QByteArray MRVEPubFormats::span(int index, const MRVEPubContext &context)

@@ -67,6 +67,8 @@ public:
     /** The look of a paragraph, with what its text has in common. */
     MRVEPubParagraphLook look(int paragraph, MRVEPubKind kind, int usedIndent,
                               MRVEPubContext *context);
+    /** The direction of a paragraph, where it says none that of its text. */
+    bool isRightToLeft(int paragraph);
     /** Attributes of the span that a text needs beside its elements; empty: none. */
     QByteArray span(int index, const MRVEPubContext &context);
     /** Languages of text that was looked at, beside the book's own, in order of appearance. */

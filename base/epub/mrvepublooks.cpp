@@ -83,15 +83,12 @@ bool saysNothing(const Look &look)
     return look == plain;
 }
 
+constexpr const char *alignmentNames[] = {"start", "left", "right", "centered", "justified"};
+
 const char *nameOf(const Look &look, const Look &usual)
 {
-    switch (look[Look::Align]) {
-    case Look::Centered:
-        return "centered";
-    case Look::RightSide:
-        return "right";
-    default:
-        break;
+    if (look[Look::Align] == Look::Centered || look[Look::Align] == Look::RightSide) {
+        return alignmentNames[look[Look::Align]];
     }
     if (look[Look::Indent] < 0 && look[Look::Left] > 0) {
         return "hanging";
@@ -108,10 +105,43 @@ const char *nameOf(const Look &look, const Look &usual)
     if (look[Look::Indent] == 0 && usual[Look::Indent] > 0) {
         return "first";
     }
-    if (look[Look::Top] > usual[Look::Top]) {
-        return "apart";
+    constexpr struct
+    {
+        Look::Value value;
+        const char *more;
+        const char *less;
+    } rows[] = {{Look::Top, "apart", "tight"},    {Look::Bottom, "apart", "tight"},
+                {Look::Right, "narrow", "wide"},  {Look::Left, "indented", "wide"},
+                {Look::Indent, "begun", "flush"}, {Look::LineHeight, "open", "dense"},
+                {Look::Weight, "light", "heavy"}, {Look::Background, "shaded", "shaded"}};
+    for (const auto &row : rows) {
+        if (look[row.value] != usual[row.value]) {
+            return look[row.value] > usual[row.value] ? row.more : row.less;
+        }
     }
-    return "other";
+    return alignmentNames[look[Look::Align]];
+}
+
+const char *nameOf(const Text &look)
+{
+    constexpr const char *caps[] = {"", "uppercase", "lowercase", "smallcaps", "capitalized"};
+    if (look[Text::Caps]) {
+        return caps[look[Text::Caps]];
+    }
+    if (look[Text::Lines]) {
+        return look[Text::Lines] & Text::Underline ? "underlined" : "overlined";
+    }
+    if (look[Text::Size]) {
+        return look[Text::Size] < 100 ? "smaller" : "larger";
+    }
+    if (look[Text::Weight]) {
+        return look[Text::Weight] < 0 ? "regular" : "thin";
+    }
+    return look[Text::Background] ? "highlighted"
+        : look[Text::Color]       ? "colored"
+        : look[Text::Family]      ? "typeface"
+        : look[Text::Spacing]     ? "letterspaced"
+                                  : "wordspaced";
 }
 
 template<typename Values>
@@ -179,15 +209,7 @@ QByteArray MRVEPubLooks::textClass(const MRVEPubTextLook &look)
     if (known != m_textNumbers.constEnd()) {
         return m_named.at(*known).name;
     }
-    Text caps;
-    caps[Text::Caps] = QFont::SmallCaps;
-    Text line;
-    line[Text::Lines] = Text::Underline;
-    const char *base = look == caps ? "smallcaps" : look == line ? "underlined" : "c";
-    QByteArray name = freeName(base);
-    if (name == "c") {
-        name = "c1";
-    }
+    const QByteArray name = freeName(nameOf(look));
     m_textNumbers.insert(look, m_named.size());
     m_named.append({name, declarations(look)});
     return name;

@@ -94,15 +94,18 @@ struct MRVEPubNotes::Finder
         return isText;
     }
 
-    bool isRaised(int position) const
+    // Goes on from the last one of the paragraph, since links are looked at in their order.
+    bool isRaised(int position)
     {
         const MRVEPubParagraph &paragraph = flow.paragraphs.at(flow.paragraphAt(position));
-        int at = paragraph.position;
-        int fragment = paragraph.firstFragment;
-        while (at + flow.fragments.at(fragment).length <= position) {
-            at += flow.fragments.at(fragment++).length;
+        if (lastPosition < paragraph.position || lastPosition > position) {
+            lastPosition = paragraph.position;
+            lastFragment = paragraph.firstFragment;
         }
-        return formats.text(flow.fragments.at(fragment).format).elements
+        while (lastPosition + flow.fragments.at(lastFragment).length <= position) {
+            lastPosition += flow.fragments.at(lastFragment++).length;
+        }
+        return formats.text(flow.fragments.at(lastFragment).format).elements
             & (1U << int(MRVEPubInline::Raised));
     }
 
@@ -414,6 +417,8 @@ struct MRVEPubNotes::Finder
     QMap<int, QVector<int>> candidates; // marks by the paragraph that they lead to
     QVector<Look> looks; // of paragraphs
     Look body;
+    int lastFragment = 0; // that was looked at for a raised mark
+    int lastPosition = -1; // where it begins
     int textParagraph = -1; // the last one that was looked at for text
     bool isText = false;
 };

@@ -19,7 +19,7 @@ p, li {
 }
 ul, ol {
     margin: 0.75em 0;
-    padding-left: 2em;
+    padding-inline-start: 2em;
 }
 li > ul, li > ol {
     margin: 0;
@@ -176,6 +176,10 @@ nav ol {
 }
 .cover-title {
     margin-top: 25%;
+}
+.cover-subtitle {
+    font-size: 1.2em;
+    text-indent: 0;
 }
 .cover-publisher {
     margin-top: 6em;

@@ -5,6 +5,8 @@
 #include <QTextCursor>
 #include <QTextTable>
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char *borderStyles[] = {"none",   "dotted", "dashed", "solid", "double", "dashed",
@@ -70,10 +72,24 @@ QByteArray frameRule(const QTextFrameFormat &format, double bodyPixels)
 void MRVEPubWriter::writeFrame(int frame)
 {
     const MRVEPubFrame &place = m_flow.frames.at(frame);
-    if (place.table) {
-        writeTable(frame);
+    if (isDeep()) {
+        writeFlow(place.begin, place.end, frame);
         return;
     }
+    constexpr int InTable = 4;
+    const int depth = m_depth;
+    m_depth += place.table ? InTable : 1;
+    if (place.table) {
+        writeTable(frame);
+    } else {
+        writeBox(frame);
+    }
+    m_depth = depth;
+}
+
+void MRVEPubWriter::writeBox(int frame)
+{
+    const MRVEPubFrame &place = m_flow.frames.at(frame);
     const QByteArray rule = frameRule(place.frame->frameFormat(), m_formats.bodyPixels());
     const QByteArray name = m_book.looks.boxClass("frame", rule);
     m_out.append(name.isEmpty() ? QByteArray("<div>\n") : "<div class=\"" + name + "\">\n");
@@ -92,7 +108,11 @@ void MRVEPubWriter::writeTable(int frame)
     QByteArray name = m_book.looks.boxClass("table", rule);
     // Qt draws the border of a table around its cells, too.
     name += format.border() > 0 ? (name.isEmpty() ? "ruled" : " ruled") : "";
-    m_out.append(name.isEmpty() ? QByteArray("<table>\n") : "<table class=\"" + name + "\">\n");
+    m_out.append(name.isEmpty() ? QByteArray("<table") : "<table class=\"" + name + '"');
+    const Qt::LayoutDirection around = m_boxDirection;
+    m_boxDirection = isRightToLeft(frame) ? Qt::RightToLeft : around;
+    writeDirection(m_boxDirection, around);
+    m_out.append(QLatin1String(">\n"));
     const int headers = qBound(0, format.headerRowCount(), table.rows());
     if (headers > 0 && headers < table.rows()) {
         m_out.append(QLatin1String("<thead>\n"));
@@ -102,6 +122,18 @@ void MRVEPubWriter::writeTable(int frame)
     m_out.append(QLatin1String("<tbody>\n"));
     writeRows(frame, headers < table.rows() ? headers : 0, table.rows());
     m_out.append(QLatin1String("</tbody>\n</table>\n"));
+    m_boxDirection = around;
+}
+
+// Whether all that a table holds says that it goes from right to left, as its columns then do.
+bool MRVEPubWriter::isRightToLeft(int frame) const
+{
+    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    return std::all_of(m_flow.paragraphs.begin() + place.begin,
+                       m_flow.paragraphs.begin() + place.end, [this](const auto &paragraph) {
+                           const QTextFormat &format = m_flow.formats.at(paragraph.format);
+                           return format.layoutDirection() == Qt::RightToLeft;
+                       });
 }
 
 void MRVEPubWriter::writeRows(int frame, int begin, int end)

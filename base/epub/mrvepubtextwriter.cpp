@@ -2,6 +2,7 @@
 
 #include "textformat/mrvtextformat.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextFrame>
@@ -45,7 +46,11 @@ QString printedPage(const QString &name)
         QStringLiteral("^(?:page|pg|seite|pagina)[-_. ]?(\\d{1,5}[a-z]?|[ivxlcdm]{1,9})$"),
         QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = page.match(name);
-    return match.hasMatch() ? match.captured(1) : QString();
+    QString label = match.captured(1);
+    while (label.size() > 1 && label.at(0) == u'0' && label.at(1).isDigit()) {
+        label.remove(0, 1);
+    }
+    return label;
 }
 
 } // namespace
@@ -123,17 +128,17 @@ void MRVEPubWriter::writeFragment(int index, int end, int position, const MRVEPu
 {
     const MRVEPubFragment &fragment = m_flow.fragments.at(index);
     const MRVEPubTextFormat &format = m_formats.text(fragment.format);
-    QByteArray id;
-    if (format.hasNames) {
-        writePageBreaks(fragment.format);
-        id = takeId(fragment.format);
-    }
     const Needs needs = needsOf(fragment.format, context);
     int kept = 0;
     while (kept < m_elements.size() && needs.include(m_elements.at(kept))) {
         ++kept;
     }
     closeElements(kept);
+    QByteArray id;
+    if (format.hasNames) {
+        writePageBreaks(fragment.format);
+        id = takeId(fragment.format);
+    }
     if (needs.elements & ~openElements() & bit(MRVEPubInline::Link)) {
         closeElements(commonElements(index, end, context));
         openLink(needs.link, position, &id);
@@ -321,7 +326,6 @@ void MRVEPubWriter::writePageBreaks(int format)
         const QString target = m_page.fileName + u'#' + QString::fromUtf8(id);
         m_targets.targets.insert(name, target);
         m_book.pageBreaks.append({label, target});
-        closeElements(0);
         m_out.append("<span id=\"" + id + '"');
         if (m_isEPub3) {
             m_out.append(" epub:type=\"pagebreak\" role=\"doc-pagebreak\" aria-label=\""
@@ -347,7 +351,10 @@ void MRVEPubWriter::writePicture(const MRVEPubFragment &fragment, const QByteArr
             continue;
         }
         if (!format.hasProperty(QTextFormat::ImageAltText)) {
-            const QString name = MRVTextFormat::imageName(format);
+            QString name = MRVTextFormat::imageName(format);
+            if (!name.contains(u'.')) {
+                name += u'.' + QFileInfo(path).suffix();
+            }
             if (!m_book.picturesWithoutText.contains(name)) {
                 m_book.picturesWithoutText.append(name);
             }

@@ -15,6 +15,19 @@ namespace {
 constexpr int LongestTitlePage = 2000; // characters
 constexpr int LongestTitleLine = 80;
 
+// Whether the book has its title from this document, one of several, which is headed by it: that is
+// then the title of a chapter.
+bool isTitleOfChapter(const MRVEPubBook &book, const MRVEPubFlow &flow)
+{
+    const QString own = flow.document.metaInformation(QTextDocument::DocumentTitle);
+    const auto heading =
+        std::find_if(flow.paragraphs.begin(), flow.paragraphs.end(),
+                     [](const MRVEPubParagraph &paragraph) { return paragraph.headingLevel > 0; });
+    return book.options.areChapters && own.simplified() == book.title()
+        && heading != flow.paragraphs.end()
+        && flow.textOf(*heading).toString().simplified() == book.title();
+}
+
 } // namespace
 
 MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
@@ -24,7 +37,7 @@ MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
     , m_pictures(pictures)
     , m_title(title)
     , m_isEPub3(book->version == MRVEPubVersion::EPub3)
-    , m_direction(QLocale(book->language()).textDirection())
+    , m_boxDirection(QLocale(book->language()).textDirection())
     , m_formats(flow, &book->looks, book->version, book->language())
     , m_notes(flow, &m_formats)
     , m_firstHeading(book->headings.size())
@@ -49,7 +62,8 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
     }
     const bool isFirst = book->pages.isEmpty();
     const MRVEPubFlow flow(document);
-    MRVEPubWriter(book, flow, pictures, isTitleKnown ? book->title() : QString()).write(fileName);
+    const bool isStated = isTitleKnown && !isTitleOfChapter(*book, flow);
+    MRVEPubWriter(book, flow, pictures, isStated ? book->title() : QString()).write(fileName);
     if (isFirst) {
         book->addTitlePage();
     }
@@ -97,8 +111,11 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
     if (isEmpty) {
         return;
     }
-    m_page = MRVEPubPage();
-    m_page.fileName = QStringLiteral("page-%1.xhtml").arg(++m_book.pageNumber, 3, 10, QChar(u'0'));
+    m_page = m_book.beginPage();
+    m_out.append(m_page.body);
+    if (!m_page.end.isEmpty()) {
+        m_sections.append(std::exchange(m_page.end, QByteArray()));
+    }
     if (m_targets.firstPage.isEmpty()) {
         m_targets.firstPage = m_page.fileName;
     }

@@ -43,6 +43,7 @@ private:
         int depth = 0; // of a list
         QTextListFormat::Style style = QTextListFormat::ListDisc;
         int number = 0; // of its last item
+        Qt::LayoutDirection direction = Qt::LeftToRight;
         bool isCounted = false; // its numbers are text: it begins with another than EPUB 2 can say
         QByteArray end;
     };
@@ -105,6 +106,7 @@ private:
     void openQuotes(int level);
     void closeContainers(int count);
     int usedIndent() const;
+    bool isDeep() const;
     int writePreformatted(int paragraph, int end);
     void writeHeading(int paragraph);
     int writeFigure(int paragraph, int end);
@@ -114,10 +116,14 @@ private:
     void writeParagraph(int paragraph, MRVEPubKind kind, const char *element);
     void writeAttributes(int paragraph, const MRVEPubContext &context, const QByteArray &id);
     int writeClass(int look);
+    Qt::LayoutDirection direction() const;
+    void writeDirection(Qt::LayoutDirection own, Qt::LayoutDirection around);
 
     // Tables and frames: mrvepubtablewriter.cpp
     void writeFrame(int frame);
+    void writeBox(int frame);
     void writeTable(int frame);
+    bool isRightToLeft(int frame) const;
     void writeRows(int frame, int begin, int end);
     void writeCell(int frame, const QTextTableCell &cell, int lastRow);
     void writeCellText(int paragraph, const QByteArray &box, bool isHeader);
@@ -148,7 +154,7 @@ private:
     const QHash<QString, QString> &m_pictures;
     const QString m_title; // of the book, where one is stated
     const bool m_isEPub3;
-    const Qt::LayoutDirection m_direction; // of the book
+    Qt::LayoutDirection m_boxDirection; // of the book, or of the table that is being written
     MRVEPubFormats m_formats;
     MRVEPubNotes m_notes;
     QHash<int, int> m_frames; // by their first paragraph
@@ -156,6 +162,7 @@ private:
     MRVEPubPage m_page;
     MRVEPubMarkup m_out;
     QVector<Container> m_containers;
+    int m_depth = 0; // of the elements of tables and frames
     QVector<Element> m_elements;
     int m_linkAttributes = -1; // of the open link
     bool m_isSpaced = false; // the text of the paragraph holds white space that counts

@@ -86,9 +86,12 @@ bool isInline(const QString &element)
 // link to.
 QString plainAddress(const QString &address, bool isBook)
 {
-    const QUrl url(mrvXmlText(address), QUrl::TolerantMode);
+    const bool hasScheme = !isBook || !address.startsWith(QLatin1String("//"));
+    const QUrl url(mrvXmlText(hasScheme ? address : QLatin1String("https:") + address),
+                   QUrl::TolerantMode);
     const QString scheme = url.scheme();
-    const bool isWeb = scheme.startsWith(QLatin1String("http")) && !url.host().isEmpty();
+    const bool isWeb = (scheme.startsWith(QLatin1String("http")) || scheme == QLatin1String("ftp"))
+        && !url.host().isEmpty();
     const bool isLinked =
         isWeb || scheme == QLatin1String("mailto") || scheme == QLatin1String("tel");
     return isBook && !isLinked ? QString() : QString::fromLatin1(url.toEncoded());
