@@ -145,6 +145,8 @@ public:
     const Verb *verb = nullptr;
     QStringList arguments; // what follows the verb; as many as it takes
 
+    /** The long names of the options that were given. */
+    QStringList options() const { return m_values.keys(); }
     bool has(const char *option) const { return m_values.contains(QLatin1String(option)); }
     /** The value of the option, by its long name; null when it was not given. */
     QString value(const char *option) const;

@@ -85,21 +85,17 @@ int readType(const Call &call, Options *options)
         return usageError(
             QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
     }
-    QStringList useless{QStringLiteral("no-images")};
-    if (!options->isPackage()) {
-        useless = QStringList{QStringLiteral("check")};
-        for (const Rows<Option> &rows :
-             {Rows<Option>(bookOptions), Rows<Option>(metadataOptions)}) {
-            for (const Option &row : rows) {
-                useless.append(QLatin1String(row.names));
-            }
+    QStringList forBooks{QStringLiteral("check")};
+    for (const Rows<Option> &rows : {Rows<Option>(bookOptions), Rows<Option>(metadataOptions)}) {
+        for (const Option &row : rows) {
+            forBooks.append(QLatin1String(row.names));
         }
     }
-    for (const QString &option : qAsConst(useless)) {
-        if (call.has(option.toLatin1().constData())) {
-            return usageError(
-                QStringLiteral("--%1 is for %2 only")
-                    .arg(option, QLatin1String(options->isPackage() ? "pages" : "e-books")));
+    const bool isPackage = options->isPackage();
+    for (const QString &option : call.options()) {
+        if (isPackage ? option == QLatin1String("no-images") : forBooks.contains(option)) {
+            return usageError(QStringLiteral("--%1 is for %2 only")
+                                  .arg(option, QLatin1String(isPackage ? "pages" : "e-books")));
         }
     }
     return -1;
@@ -219,6 +215,13 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
     return spareInputs(outputs, pictures, error);
 }
 
+void printNotes(const QStringList &notes)
+{
+    for (const QString &note : notes) {
+        printError(QStringLiteral("note: %1").arg(note));
+    }
+}
+
 // Tells what an export lacks, which ends a strict one.
 bool acceptLosses(const Options &options, const QStringList &losses, QString *error)
 {
@@ -226,9 +229,7 @@ bool acceptLosses(const Options &options, const QStringList &losses, QString *er
         *error = losses.join(u'\n');
         return false;
     }
-    for (const QString &loss : losses) {
-        printError(QStringLiteral("note: %1").arg(loss));
-    }
+    printNotes(losses);
     return true;
 }
 
@@ -295,9 +296,7 @@ bool completeMetadata(const Call &call, const MRVManuscript &manuscript, MRVEPub
     if (metadata->language.isEmpty()) {
         notes.append(QStringLiteral("the language of the book is unknown; say it with --language"));
     }
-    for (const QString &note : qAsConst(notes)) {
-        printError(QStringLiteral("note: %1").arg(note));
-    }
+    printNotes(notes);
     return true;
 }
 
@@ -315,43 +314,19 @@ bool exportPackage(const Call &call, const Options &options,
     book.packing = MRVEPubOptions::Small;
     const bool isOld = call.value("epub-version") == QLatin1String("2");
     MRVEPubPackage package(isOld ? MRVEPubVersion::EPub2 : MRVEPubVersion::EPub3, metadata, book);
+    if (!package.addManuscripts(options.list, manuscripts, error)) {
+        return false;
+    }
     QVector<const QTextDocument *> documents;
-    auto manuscript = manuscripts.begin();
-    for (const MRVBookListEntry &entry : options.list) {
-        showProgress(QStringLiteral("Adding %1").arg(entry.path));
-        if (entry.isPart) {
-            package.addPart(entry.title);
-        } else if (package.addManuscript(*manuscript, entry.title, error)) {
-            documents.append(manuscript++->document.get());
-        } else {
-            return false;
-        }
+    for (const MRVManuscript &manuscript : manuscripts) {
+        documents.append(manuscript.document.get());
     }
-    if (!acceptLosses(options, package.losses(documents), error)) {
+    const QStringList defects = options.input.strict ? package.defects() : QStringList();
+    if (!acceptLosses(options, package.losses(documents) + defects, error)
+        || !writePackage(package, file, error)) {
         return false;
     }
-    const QStringList dead = package.deadLinks();
-    if (!dead.isEmpty()) {
-        constexpr int Shown = 5;
-        const QString first = QStringList(dead.mid(0, Shown)).join(QLatin1String(", "));
-        printError(QStringLiteral("note: links that lead nowhere in the e-book, and are text "
-                                  "there: %1 (%2%3)")
-                       .arg(QString::number(dead.size()), first,
-                            dead.size() > Shown ? QStringLiteral(", ...") : QString()));
-    }
-    const QStringList silent = options.input.strict ? package.picturesWithoutText() : QStringList();
-    if (!silent.isEmpty()) {
-        *error = QStringLiteral("no alternative text: ")
-            + silent.join(QLatin1String("\nno alternative text: "));
-        return false;
-    }
-    if (!writePackage(package, file, error)) {
-        return false;
-    }
-    if (package.remotePictures() > 0) {
-        printError(QStringLiteral("note: pictures on other machines that are not in the e-book: %1")
-                       .arg(package.remotePictures()));
-    }
+    printNotes(package.notes());
     if (file != StandardOutput) {
         written->append(file);
     }
@@ -424,6 +399,12 @@ int report(const Call &call, const std::vector<MRVManuscript> &manuscripts,
 // --check alone: the inputs are e-books.
 int checkInputs(const Call &call)
 {
+    for (const QString &option : call.options()) {
+        if (option != QLatin1String("check") && option != QLatin1String("json")) {
+            return usageError(
+                QStringLiteral("--%1 is for what is written; say what with --to").arg(option));
+        }
+    }
     QJsonObject answer;
     const int code = check(call, call.arguments, &answer);
     if (call.json() && !answer.isEmpty()) {

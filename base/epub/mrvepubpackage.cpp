@@ -1,5 +1,6 @@
 #include "epub/mrvepubpackage.h"
 
+#include "epub/mrvbooklist.h"
 #include "epub/mrvbooknames_p.h"
 #include "epub/mrvepubbook_p.h"
 #include "epub/mrvepubnavigation_p.h"
@@ -177,6 +178,20 @@ bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *err
     return addManuscript(manuscript, QString(), error);
 }
 
+bool MRVEPubPackage::addManuscripts(const QVector<MRVBookListEntry> &list,
+                                    const std::vector<MRVManuscript> &manuscripts, QString *error)
+{
+    auto manuscript = manuscripts.begin();
+    for (const MRVBookListEntry &entry : list) {
+        if (entry.isPart) {
+            addPart(entry.title);
+        } else if (!addManuscript(*manuscript++, entry.title, error)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void MRVEPubPackage::addPart(const QString &title)
 {
     m_isInPart = !title.isEmpty();
@@ -200,6 +215,36 @@ QStringList MRVEPubPackage::losses(const QVector<const QTextDocument *> &documen
 QStringList MRVEPubPackage::picturesWithoutText() const
 {
     return m_book->picturesWithoutText;
+}
+
+QStringList MRVEPubPackage::notes() const
+{
+    constexpr int Shown = 5;
+    QStringList notes;
+    const QStringList dead = deadLinks();
+    if (!dead.isEmpty()) {
+        const QStringList first = dead.mid(0, Shown);
+        notes.append(tr("links that lead nowhere in the e-book, and are text there: %1 (%2%3)")
+                         .arg(QString::number(dead.size()), first.join(QLatin1String(", ")),
+                              QLatin1String(dead.size() > Shown ? ", ..." : "")));
+    }
+    if (m_remotePictures > 0) {
+        notes.append(
+            tr("pictures on other machines that are not in the e-book: %1").arg(m_remotePictures));
+    }
+    return notes;
+}
+
+QStringList MRVEPubPackage::defects() const
+{
+    QStringList defects;
+    for (const QString &link : deadLinks()) {
+        defects.append(tr("a link that leads nowhere: %1").arg(link));
+    }
+    for (const QString &picture : picturesWithoutText()) {
+        defects.append(tr("no alternative text: %1").arg(picture));
+    }
+    return defects;
 }
 
 QStringList MRVEPubPackage::deadLinks() const

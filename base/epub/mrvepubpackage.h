@@ -11,9 +11,11 @@
 #include <QVector>
 
 #include <memory>
+#include <vector>
 
 class QIODevice;
 class QTextDocument;
+struct MRVBookListEntry;
 struct MRVEPubBook;
 struct MRVManuscript;
 
@@ -77,9 +79,10 @@ public:
                      QString *error = nullptr);
 
     /**
-     * Begins a part: a page with its title, below which the table of contents shows the documents
-     * that are added, until the next part. An empty title ends the last part, without a page. A
-     * book that begins with a part has a title page only if its metadata name its title.
+     * Begins a part: its title stands on the first page of the next document, and the table of
+     * contents shows the documents that are added below it, until the next part. An empty title
+     * ends the last part, without a page. A book that begins with a part has a title page only if
+     * its metadata name its title.
      */
     void addPart(const QString &title);
 
@@ -102,6 +105,16 @@ public:
      * @return as addDocument().
      */
     bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
+    /**
+     * Adds parts and manuscripts in the order of a list.
+     *
+     * @param list what is no part is, one by one, each of the manuscripts.
+     * @param error if given, receives a text that names a manuscript on failure; untouched on
+     *              success.
+     * @return false where one cannot be added. The object is of no more use then.
+     */
+    bool addManuscripts(const QVector<MRVBookListEntry> &list,
+                        const std::vector<MRVManuscript> &manuscripts, QString *error = nullptr);
     /** The names of pictures without an alternative text, each once; decorations do not count. */
     QStringList picturesWithoutText() const;
     /**
@@ -110,8 +123,14 @@ public:
      * appearance; their texts are in the book.
      */
     QStringList deadLinks() const;
-    /** How many pictures on other machines the manuscripts show, which are not in the e-book. */
-    int remotePictures() const { return m_remotePictures; }
+    /**
+     * What the manuscripts point to and the e-book cannot have, for people to know, a translated
+     * line for links and one for pictures on other machines. Empty where there is nothing of it.
+     */
+    QStringList notes() const;
+    /** What a strict author would not let pass, a translated line for each of deadLinks() and of
+     *  picturesWithoutText(). */
+    QStringList defects() const;
 
     /**
      * What the pages lack of the documents that were added, a translated line each; empty where

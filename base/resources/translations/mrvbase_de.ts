@@ -466,6 +466,22 @@ Fehler: %2</translation>
         <source>The e-book cannot be packed: %1</source>
         <translation>Das E-Book kann nicht gepackt werden: %1</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the e-book, and are text there: %1 (%2%3)</source>
+        <translation>Links, die im E-Book nirgendwohin führen und dort Text sind: %1 (%2%3)</translation>
+    </message>
+    <message>
+        <source>pictures on other machines that are not in the e-book: %1</source>
+        <translation>Bilder auf anderen Rechnern, die nicht im E-Book sind: %1</translation>
+    </message>
+    <message>
+        <source>a link that leads nowhere: %1</source>
+        <translation>ein Link, der nirgendwohin führt: %1</translation>
+    </message>
+    <message>
+        <source>no alternative text: %1</source>
+        <translation>kein Alternativtext: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEditLock</name>

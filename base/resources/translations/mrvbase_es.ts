@@ -466,6 +466,22 @@ Error: %2</translation>
         <source>The e-book cannot be packed: %1</source>
         <translation>No se puede empaquetar el libro electrónico: %1</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the e-book, and are text there: %1 (%2%3)</source>
+        <translation>enlaces que no llevan a ninguna parte en el libro y en él son texto: %1 (%2%3)</translation>
+    </message>
+    <message>
+        <source>pictures on other machines that are not in the e-book: %1</source>
+        <translation>imágenes en otras máquinas que no están en el libro: %1</translation>
+    </message>
+    <message>
+        <source>a link that leads nowhere: %1</source>
+        <translation>un enlace que no lleva a ninguna parte: %1</translation>
+    </message>
+    <message>
+        <source>no alternative text: %1</source>
+        <translation>sin texto alternativo: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEditLock</name>

@@ -466,6 +466,22 @@ Erreur&#xa0;: %2</translation>
         <source>The e-book cannot be packed: %1</source>
         <translation>Impossible d’assembler le livre numérique&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the e-book, and are text there: %1 (%2%3)</source>
+        <translation>liens qui ne mènent nulle part dans le livre et y sont du texte&#xa0;: %1 (%2%3)</translation>
+    </message>
+    <message>
+        <source>pictures on other machines that are not in the e-book: %1</source>
+        <translation>images sur d’autres machines qui ne sont pas dans le livre&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a link that leads nowhere: %1</source>
+        <translation>un lien qui ne mène nulle part&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no alternative text: %1</source>
+        <translation>pas de texte alternatif&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVEditLock</name>
