@@ -1,8 +1,10 @@
 #include "datarows.h"
+#include "document/mtextdoc.h"
 #include "search/mrvtextfinder.h"
 #include "text/mrvtextcursor.h"
 #include "textformat/mrvtextformat.h"
 
+#include <QRandomGenerator>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
@@ -51,6 +53,71 @@ void fill(QTextDocument *document, const QString &text, const QTextCharFormat &b
             cursor.insertText(c, format);
         }
     }
+}
+
+/// Paragraphs, tables in tables with merged cells, and frames, each piece of text in one of formats.
+void fillAtRandom(QTextDocument *document, QRandomGenerator *random,
+                  const QVector<QTextCharFormat> &formats)
+{
+    QTextCursor cursor(document);
+    for (int i = 0; i < 12; ++i) {
+        const int kind = random->bounded(12);
+        if (kind == 0) {
+            QTextTable *table = cursor.insertTable(random->bounded(1, 4), random->bounded(1, 4));
+            if (random->bounded(2) == 0) {
+                table->mergeCells(0, 0, random->bounded(1, 3), random->bounded(1, 3));
+            }
+            cursor =
+                table->cellAt(random->bounded(table->rows()), random->bounded(table->columns()))
+                    .firstCursorPosition();
+        } else if (kind == 1) {
+            cursor.insertFrame(QTextFrameFormat());
+        } else if (kind == 2) {
+            cursor.insertBlock();
+        } else if (kind == 3) {
+            cursor.setPosition(random->bounded(document->characterCount()));
+        } else {
+            cursor.insertText(QString("ab").left(random->bounded(1, 3)),
+                              formats[random->bounded(formats.size())]);
+        }
+    }
+}
+
+bool isText(const QTextDocument &document, int position)
+{
+    const ushort c = document.characterAt(position).unicode();
+    return c != QChar::ParagraphSeparator && c != 0xfdd0 && c != 0xfdd1;
+}
+
+/// "x" for each character that has a property, "." for other ones and "|" for what is no text.
+QString formatsOf(const QTextDocument &document, int property)
+{
+    QString formats;
+    for (int at = 0; at + 1 < document.characterCount(); ++at) {
+        QTextCursor cursor(const_cast<QTextDocument *>(&document));
+        cursor.setPosition(at + 1);
+        formats += !isText(document, at)                 ? '|'
+            : cursor.charFormat().boolProperty(property) ? 'x'
+                                                         : '.';
+    }
+    return formats;
+}
+
+QVector<bool> selectedBy(const QTextCursor &cursor)
+{
+    int row = 0, rows = 0, column = 0, columns = 0;
+    cursor.selectedTableCells(&row, &rows, &column, &columns);
+    QVector<bool> selected;
+    for (int at = 0; at + 1 < cursor.document()->characterCount(); ++at) {
+        bool isSelected = cursor.selectionStart() <= at && at < cursor.selectionEnd();
+        if (cursor.hasComplexSelection()) {
+            const QTextTableCell cell = cursor.currentTable()->cellAt(at);
+            isSelected = cell.isValid() && cell.row() >= row && cell.row() < row + rows
+                && cell.column() >= column && cell.column() < column + columns;
+        }
+        selected << isSelected;
+    }
+    return selected;
 }
 
 QVariant valueOf(const QString &text, bool asBrush)
@@ -349,6 +416,67 @@ private Q_SLOTS:
         QCOMPARE(back.selectedText(), QString("last"));
         QCOMPARE(Finder::findContinuousFragment(marked, found, true).selectedText(),
                  QString("after"));
+    }
+
+    // Against what Qt's cursor tells of each character.
+    void selectionsAtRandom()
+    {
+        using F = MRVTextFormat;
+        QRandomGenerator random(7);
+        const QTextCharFormat comment = marked(F::InspectorCommentProperty, true);
+        const QTextCharFormat inlined = marked(F::InlineFootnoteProperty, true);
+        int cellSelections = 0;
+        for (int i = 0; i < 1500; ++i) {
+            QTextDocument document;
+            fillAtRandom(&document, &random, {comment, inlined, QTextCharFormat()});
+            QTextCursor cursor(&document);
+            cursor.setPosition(random.bounded(document.characterCount()));
+            cursor.setPosition(random.bounded(document.characterCount()), QTextCursor::KeepAnchor);
+            cellSelections += cursor.hasComplexSelection();
+            QString before = formatsOf(document, F::InspectorCommentProperty);
+            const QString inlinedBefore = formatsOf(document, F::InlineFootnoteProperty);
+            const QVector<bool> selected = selectedBy(cursor);
+            int texts = 0;
+            int comments = 0;
+            QString expected = before;
+            QString inlinedExpected = inlinedBefore;
+            for (int at = 0; at < before.size(); ++at) {
+                if (selected[at] && before[at] != '|') {
+                    ++texts;
+                    comments += before[at] == 'x';
+                    expected[at] = '.';
+                    inlinedExpected[at] = '.';
+                }
+            }
+            if (!cursor.hasSelection()) {
+                continue;
+            }
+            QCOMPARE(Finder::hasFormat(cursor, comment, true), comments > 0);
+            QCOMPARE(Finder::isInFormat(cursor, comment, true), texts > 0 && comments == texts);
+            if (texts > 0) {
+                QCOMPARE(Finder::isFormatChecked(cursor, comment, true), comments == texts);
+            }
+            int found = 0;
+            for (const MRVTextRange &range : Finder::findFragmentsByFormat(cursor, comment)) {
+                found += range.end() - range.start();
+            }
+            QCOMPARE(found, comments);
+            MTextDoc::clearInlinePropertiesCursor(&cursor);
+            QCOMPARE(formatsOf(document, F::InlineFootnoteProperty), inlinedExpected);
+            QCOMPARE(formatsOf(document, F::InspectorCommentProperty), before);
+            switch (i % 3) {
+            case 0:
+                MTextDoc::clearCommentPropertiesCursor(&cursor);
+                break;
+            case 1:
+                MTextDoc::removeCommentsWithinSelection(cursor, F::InspectorCommentProperty);
+                break;
+            default:
+                MTextDoc::clearAllSelection(cursor, comment, true);
+            }
+            QCOMPARE(formatsOf(document, F::InspectorCommentProperty), expected);
+        }
+        QVERIFY(cellSelections > 100);
     }
 
     void noValue()

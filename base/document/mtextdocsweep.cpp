@@ -1,6 +1,7 @@
 #include "document/mtextdocsweep_p.h"
 
 #include "search/mrvtextfinder.h"
+#include "text/mrvtextcursor.h"
 #include "textformat/mrvtextformatchanges.h"
 
 #include <QTextBlock>
@@ -107,7 +108,7 @@ void MrvSweep::changeSelection(QTextCursor *cursor, const Change &change)
     }
     // A cursor knows one format only, but the selection may hold several.
     if (cursor->hasSelection()) {
-        changeRanges(cursor->document(), {MRVTextRange(*cursor)}, change);
+        changeRanges(cursor->document(), MRVTextCursor::selectedRanges(*cursor), change);
     } else {
         cursor->setCharFormat(change(cursor->charFormat()));
     }

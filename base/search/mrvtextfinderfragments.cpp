@@ -6,6 +6,8 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <limits>
+
 namespace {
 
 auto verdictsOf(const QTextDocument *document, const QTextCharFormat &format, bool compareValues)
@@ -67,9 +69,11 @@ bool pieceInBlock(const QTextBlock &block, int from, bool acceptPartial, Verdict
 }
 
 template<typename Verdicts>
-bool firstPiece(const QTextDocument *document, int from, Verdicts &verdicts, MRVTextRange *range)
+bool firstPiece(const QTextDocument *document, int from, Verdicts &verdicts, MRVTextRange *range,
+                int end = std::numeric_limits<int>::max())
 {
-    for (QTextBlock block = document->findBlock(from); block.isValid(); block = block.next()) {
+    for (QTextBlock block = document->findBlock(from); block.isValid() && block.position() < end;
+         block = block.next()) {
         if (pieceInBlock(block, from, true, verdicts, range)) {
             return true;
         }
@@ -118,13 +122,14 @@ bool passesAt(const QTextDocument *document, int position, Verdicts &verdicts)
 /// How much of the text of a range carries a format.
 enum class Share { NoText, None, Some, All };
 
+// Of what is selected.
 template<typename Verdicts>
-Share shareOf(const QTextDocument *document, const MRVTextRange &range, Verdicts &verdicts)
+Share shareOf(const QTextCursor &cursor, Verdicts &verdicts)
 {
     int carried = 0;
     int all = 0;
     auto any = [](int) { return true; };
-    mrvEachPiece(document, range, any, [&](const MRVTextPiece &piece) {
+    mrvEachSelected(cursor, any, [&](const MRVTextPiece &piece) {
         ++all;
         carried += verdicts(piece.format) ? 1 : 0;
     });
@@ -238,14 +243,16 @@ QTextCursor MRVTextFinder::findFragmentInSelection(const QTextCharFormat &format
         return QTextCursor();
     }
     const QTextDocument *document = selection.document();
-    const int end = selection.selectionEnd();
     auto verdicts = verdictsOf(document, format, compareValues);
-    MRVTextRange range;
-    if (!firstPiece(document, selection.selectionStart(), verdicts, &range)
-        || range.start() >= end) {
-        return QTextCursor();
+    const QVector<MRVTextRange> selected = MRVTextCursor::selectedRanges(selection);
+    for (const MRVTextRange &part : selected) {
+        MRVTextRange range;
+        if (firstPiece(document, part.start(), verdicts, &range, part.end())
+            && range.start() < part.end()) {
+            return mrvSelect(document, MRVTextRange(range.start(), qMin(range.end(), part.end())));
+        }
     }
-    return mrvSelect(document, MRVTextRange(range.start(), qMin(range.end(), end)));
+    return QTextCursor();
 }
 
 QTextCursor MRVTextFinder::findFragmentAround(const QTextCharFormat &format,
@@ -304,10 +311,9 @@ QList<MRVTextRange> MRVTextFinder::findFragmentsByFormat(const QTextCursor &sele
     QList<MRVTextRange> ranges;
     if (!selection.isNull()) {
         auto verdicts = verdictsOf(selection.document(), format, true);
-        mrvEachPiece(selection.document(), MRVTextRange(selection), verdicts,
-                     [&](const MRVTextPiece &piece) {
-                         ranges.append(MRVTextRange(piece.start, piece.end));
-                     });
+        mrvEachSelected(selection, verdicts, [&](const MRVTextPiece &piece) {
+            ranges.append(MRVTextRange(piece.start, piece.end));
+        });
     }
     return ranges;
 }
@@ -348,7 +354,7 @@ bool MRVTextFinder::isInFormat(const QTextCursor &cursor, const QTextCharFormat 
     const QTextDocument *document = cursor.document();
     auto verdicts = verdictsOf(document, format, compareValues);
     if (cursor.hasSelection()) {
-        return shareOf(document, MRVTextRange(cursor), verdicts) == Share::All;
+        return shareOf(cursor, verdicts) == Share::All;
     }
     return passesAt(document, cursor.position() - 1, verdicts)
         && passesAt(document, cursor.position(), verdicts);
@@ -367,7 +373,7 @@ bool MRVTextFinder::isFormatChecked(const QTextCursor &cursor, const QTextCharFo
         return false;
     }
     auto verdicts = verdictsOf(cursor.document(), format, compareValues);
-    const Share share = shareOf(cursor.document(), MRVTextRange(cursor), verdicts);
+    const Share share = shareOf(cursor, verdicts);
     if (share != Share::NoText) {
         return share == Share::All;
     }

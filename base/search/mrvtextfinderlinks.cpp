@@ -140,8 +140,7 @@ bool MRVTextFinder::hasAnchor(const QTextCursor &cursor, bool withComments)
     }
     auto verdicts = linkVerdicts(cursor.document(), withComments);
     bool found = false;
-    mrvEachPiece(cursor.document(), MRVTextRange(cursor), verdicts,
-                 [&found](const MRVTextPiece &) { found = true; });
+    mrvEachSelected(cursor, verdicts, [&found](const MRVTextPiece &) { found = true; });
     return found;
 }
 
@@ -157,7 +156,7 @@ QList<MRVTextRange> MRVTextFinder::findAllAnchors(const QTextCursor &cursor, boo
     }
     const QTextDocument *document = cursor.document();
     auto verdicts = linkVerdicts(document, withComments);
-    mrvEachPiece(document, MRVTextRange(cursor), verdicts, [&](const MRVTextPiece &piece) {
+    mrvEachSelected(cursor, verdicts, [&](const MRVTextPiece &piece) {
         if (links.isEmpty() || piece.start >= links.last().end()) {
             links << wholeLink(document, piece, verdicts.format(piece.format), withComments);
         }

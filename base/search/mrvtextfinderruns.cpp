@@ -113,7 +113,9 @@ QTextCursor MRVTextFinder::findText(const QTextCursor &from, FindType type, cons
     }
     const QTextDocument *document = from.document();
     auto verdicts = verdictsOf(document, type, value);
-    MRVRunFinder finder(document, MRVTextRange(from), backward, verdicts);
+    // What the cursor shows as selected may reach further than its ends.
+    const MRVTextRange selection(from.selectionStart(), from.selectionEnd());
+    MRVRunFinder finder(document, selection, backward, verdicts);
     MRVTextRange run;
     while (finder.next(&run)) {
         if (text.isEmpty() || holdsText(document, run, text)) {

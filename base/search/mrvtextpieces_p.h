@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/mrvtextcursor.h"
 #include "text/mrvtextrange.h"
 
 #include <QTextBlock>
@@ -100,6 +101,16 @@ void mrvEachPiece(const QTextDocument *document, const MRVTextRange &within, Ver
                 found(MRVTextPiece{start, end, fragment.charFormatIndex()});
             }
         }
+    }
+}
+
+/** As mrvEachPiece(), for what a cursor has selected. */
+template<typename Verdicts, typename Found>
+void mrvEachSelected(const QTextCursor &cursor, Verdicts &verdicts, Found found)
+{
+    const QVector<MRVTextRange> ranges = MRVTextCursor::selectedRanges(cursor);
+    for (const MRVTextRange &range : ranges) {
+        mrvEachPiece(cursor.document(), range, verdicts, found);
     }
 }
 

@@ -61,6 +61,33 @@ void select(QTextCursor *cursor, int start, int end)
 
 } // namespace
 
+QVector<MRVTextRange> MRVTextCursor::selectedRanges(const QTextCursor &cursor)
+{
+    // A cursor whose document was deleted is null, yet may report a selection.
+    if (cursor.isNull() || !cursor.hasSelection()) {
+        return {};
+    }
+    const QTextTable *table = cursor.hasComplexSelection() ? cursor.currentTable() : nullptr;
+    if (!table) {
+        return {MRVTextRange(cursor.selectionStart(), cursor.selectionEnd())};
+    }
+    int firstRow = 0;
+    int rows = 0;
+    int firstColumn = 0;
+    int columns = 0;
+    cursor.selectedTableCells(&firstRow, &rows, &firstColumn, &columns);
+    QVector<MRVTextRange> ranges;
+    for (int row = firstRow; row < firstRow + rows; ++row) {
+        for (int column = firstColumn; column < firstColumn + columns; ++column) {
+            const QTextTableCell cell = table->cellAt(row, column);
+            if (cell.row() == row && cell.column() == column) { // else part of a merged one
+                ranges.append(MRVTextRange(cell.firstPosition(), cell.lastPosition()));
+            }
+        }
+    }
+    return ranges;
+}
+
 QTextTable *MRVTextCursor::complexSelectionTable(const QTextCursor &cursor)
 {
     QTextTable *table = cursor.hasSelection() ? cursor.currentTable() : nullptr;

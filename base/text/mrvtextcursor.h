@@ -1,9 +1,11 @@
 #pragma once
 
+#include "text/mrvtextrange.h"
 #include "util/mrvbase_export.h"
 
 #include <QString>
 #include <QTextCharFormat>
+#include <QVector>
 
 class QTextCursor;
 class QTextTable;
@@ -25,6 +27,13 @@ class MRVBASE_EXPORT MRVTextCursor
 {
 public:
     MRVTextCursor() = delete;
+
+    /**
+     * What @p cursor has selected, in the order of the document: the content of each cell where
+     * cells of a table are selected, which may leave out others between them; else the one range
+     * that the cursor shows, with all of a table that it reaches into. Empty without a selection.
+     */
+    static QVector<MRVTextRange> selectedRanges(const QTextCursor &cursor);
 
     /** The table of which more than one cell is selected, or null. It belongs to its document. */
     static QTextTable *complexSelectionTable(const QTextCursor &cursor);
