@@ -196,8 +196,8 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
                      std::vector<MRVManuscript> *manuscripts, QString *error)
 {
     InputOptions reading = options.input;
-    reading.pictures =
-        options.isPackage() || (!call.has("no-images") && outputs.constFirst() != StandardOutput);
+    reading.pictures = options.isPackage() || !call.has("no-images");
+    reading.pictureNames = !options.isPackage() && outputs.constFirst() == StandardOutput;
     if (options.isPackage() && reading.missingPictures == MRVManuscriptReader::Keep) {
         reading.missingPictures = MRVManuscriptReader::Drop; // a book names no file outside of it
     }

@@ -108,6 +108,7 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     reader.setEncoding(options.encoding);
     reader.setMarkdownOptions(MRVMarkdown::Footnotes | options.markdown);
     reader.setLoadsPictures(options.pictures);
+    reader.setKeepsPictureNames(options.pictureNames);
     reader.setMissingPictures(options.missingPictures);
     reader.setPurpose(options.isPublished ? MRVManuscriptReader::Publishing
                                           : MRVManuscriptReader::Editing);

@@ -52,6 +52,7 @@ struct InputOptions
     MRVMarkdown::Options markdown; // besides what is always read; for publishing
     bool isPublished = false; // false: the text is looked for, and changed in its source
     bool pictures = false; // false: leave them, and what names them, alone
+    bool pictureNames = false; // leave what names them, even so
     MRVManuscriptReader::MissingPictures missingPictures = MRVManuscriptReader::Refuse;
     bool strict = false; // refuse a manuscript of which the document lacks something
 };

@@ -200,7 +200,7 @@ void dropImages(QTextCursor *cursor, const ImageFragment &fragment)
 
 } // namespace
 
-QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, bool drop,
+QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, MRVPictureActions actions,
                                               MRVManuscript *manuscript)
 {
     PictureFinder finder(folder, manuscript);
@@ -215,9 +215,9 @@ QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, bool drop,
         const Picture picture = finder.find(fragment.format.name());
         cursor.setPosition(fragment.begin);
         cursor.setPosition(fragment.end, QTextCursor::KeepAnchor);
-        if (!picture.id.isNull()) {
+        if (!picture.id.isNull() && actions.testFlag(MRVPictureAction::Rename)) {
             cursor.setCharFormat(withPicture(fragment.format, picture));
-        } else if (drop) {
+        } else if (picture.id.isNull() && actions.testFlag(MRVPictureAction::Drop)) {
             dropImages(&cursor, fragment);
         }
     }

@@ -5,15 +5,23 @@
 #include <QString>
 #include <QVector>
 
+/** What is done about the pictures of a document; what is not stays as it is. */
+enum class MRVPictureAction {
+    /**
+     * An image of a file gets the file's URL as its name, and one that is part of the source the
+     * name of a resource.
+     */
+    Rename = 1,
+    Drop = 2, ///< alternative texts take the places of those that cannot be read
+};
+Q_DECLARE_FLAGS(MRVPictureActions, MRVPictureAction)
+
 /**
- * Looks for the pictures that the document names, without decoding them. Each image of a file gets
- * the file's URL as its name, and each that is part of the source a resource. Lists the files in
- * the manuscript, and counts the pictures on other machines.
+ * Looks for the pictures that the document names, without decoding them. Lists their files in the
+ * manuscript, and counts the pictures on other machines.
  *
  * @param folder where their names count from.
- * @param drop   whether alternative texts take the places of those that cannot be read; else these
- *               stay as they are.
  * @return those that cannot be read, each once, in order of appearance.
  */
-QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, bool drop,
+QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, MRVPictureActions actions,
                                               MRVManuscript *manuscript);

@@ -194,8 +194,10 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
 
 bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read)
 {
-    const QVector<MRVUnreadablePicture> unreadable =
-        mrvLoadPictures(folder, m_missingPictures == Drop, read);
+    MRVPictureActions actions;
+    actions.setFlag(MRVPictureAction::Drop, m_missingPictures == Drop);
+    actions.setFlag(MRVPictureAction::Rename, !m_keepsPictureNames);
+    const QVector<MRVUnreadablePicture> unreadable = mrvLoadPictures(folder, actions, read);
     if (m_missingPictures != Refuse || unreadable.isEmpty()) {
         read->unreadablePictures = unreadable;
         return true;

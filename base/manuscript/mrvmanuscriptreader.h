@@ -70,6 +70,11 @@ public:
      * of the source becomes a resource. Else what names them stays as is.
      */
     void setLoadsPictures(bool loads) { m_loadsPictures = loads; }
+    /**
+     * Whether a picture that was found keeps its name in the source, for a page that is not written
+     * to a file of its own; which it does not at first. Of use where pictures are looked up.
+     */
+    void setKeepsPictureNames(bool keeps) { m_keepsPictureNames = keeps; }
     /** Refuse at first. Of use where pictures are looked up. */
     void setMissingPictures(MissingPictures what) { m_missingPictures = what; }
 
@@ -113,6 +118,7 @@ private:
     MRVManuscript::Format m_format = MRVManuscript::Unknown;
     QString m_encoding;
     bool m_loadsPictures = true;
+    bool m_keepsPictureNames = false;
     MissingPictures m_missingPictures = Refuse;
     QVector<MRVUnreadablePicture> m_unreadablePictures;
     Error m_error = NoError;
