@@ -16,6 +16,7 @@
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 #include <QTextOption>
+#include <QTextTable>
 
 using Tab = QTextOption::Tab;
 using F = MRVTextFormat;
@@ -476,6 +477,30 @@ private Q_SLOTS:
         }
         QCOMPARE(found, QString("050 175 075 050 "));
         mrvFragmentFormat(cursor.selection(), nullptr, nullptr);
+    }
+
+    void fragmentFormatsOfTablesAndFrames()
+    {
+        const QTextCharFormat bold = with(QTextFormat::FontWeight, 75);
+        for (const bool isTable : {true, false}) {
+            QTextDocument document;
+            QTextCursor cursor(&document);
+            cursor.setBlockFormat(spaced(20, 12));
+            QTextFrame *frame =
+                isTable ? cursor.insertTable(2, 2) : cursor.insertFrame(QTextFrameFormat());
+            QTextCursor inside = frame->firstCursorPosition();
+            inside.setBlockFormat(spaced(14, 12));
+            inside.insertText("a", bold);
+            QTextCursor selection(&document);
+            if (isTable) {
+                selection.setPosition(frame->firstPosition());
+                selection.setPosition(frame->lastPosition(), QTextCursor::KeepAnchor);
+            } else {
+                selection.select(QTextCursor::Document);
+            }
+            QCOMPARE(mrvFragmentCharFormat(selection.selection()), bold);
+            QCOMPARE(mrvFragmentBlockFormat(selection.selection()), spaced(14, 12));
+        }
     }
 
     void spreadIsNeitherStoredNorCompared()

@@ -4,6 +4,26 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QTextFrame>
+
+namespace {
+
+// Before a table or frame at the start of a document there is always an empty paragraph, which
+// nobody sees.
+QTextBlock firstBlock(QTextDocument *document)
+{
+    const auto frameOf = [](const QTextBlock &block) { return QTextCursor(block).currentFrame(); };
+    QTextBlock block = document->begin();
+    QTextBlock next = block.next();
+    while (block.length() == 1 && next.isValid()
+           && frameOf(next)->parentFrame() == frameOf(block)) {
+        block = next;
+        next = block.next();
+    }
+    return block;
+}
+
+} // namespace
 
 void mrvFragmentFormat(const QTextDocumentFragment &fragment, QTextBlockFormat *blockFormat,
                        QTextCharFormat *charFormat)
@@ -14,7 +34,7 @@ void mrvFragmentFormat(const QTextDocumentFragment &fragment, QTextBlockFormat *
     scratch.setUndoRedoEnabled(false);
     QTextCursor(&scratch).insertFragment(fragment);
 
-    const QTextBlock block = scratch.begin();
+    const QTextBlock block = firstBlock(&scratch);
     if (blockFormat) {
         *blockFormat = block.blockFormat();
         blockFormat->clearProperty(QTextFormat::ObjectIndex);

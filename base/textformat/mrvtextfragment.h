@@ -12,7 +12,8 @@ class QTextDocumentFragment;
  *
  * The block format is there only when the fragment was cut from the beginning of a paragraph that
  * is not empty: Qt copies none otherwise. Object indexes are left out, since they mean nothing
- * outside the document that the fragment came from. An empty fragment has default-constructed
+ * outside the document that the fragment came from. Where a table or frame comes first, the first
+ * paragraph in it counts. An empty fragment has default-constructed
  * formats.
  *
  * Takes time linear in the fragment. GUI thread only.
