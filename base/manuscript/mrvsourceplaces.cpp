@@ -48,6 +48,9 @@ public:
     /** Empty where the two do not match. */
     MRVSourcePlaces places()
     {
+        if (!m_source.isValidUtf16()) {
+            return MRVSourcePlaces(); // which expressions must not meet
+        }
         while (m_at < m_source.size()) {
             if (m_html && m_source.at(m_at) == u'<' && skipMarkup()) {
                 continue;
@@ -63,11 +66,17 @@ public:
     }
 
 private:
+    // Without checking each time that the rest of the source is valid, which is quadratic.
+    QRegularExpressionMatch matchHere(const QRegularExpression &expression) const
+    {
+        return expression.match(m_source, m_at, QRegularExpression::NormalMatch,
+                                QRegularExpression::AnchoredMatchOption
+                                    | QRegularExpression::DontCheckSubjectStringMatchOption);
+    }
+
     bool skipMarkup()
     {
-        const auto match = (m_html ? htmlMarkup() : markdownMarkup())
-                               .match(m_source, m_at, QRegularExpression::NormalMatch,
-                                      QRegularExpression::AnchoredMatchOption);
+        const auto match = matchHere(m_html ? htmlMarkup() : markdownMarkup());
         m_at += match.capturedLength();
         return match.capturedLength() > 0;
     }
@@ -116,10 +125,7 @@ private:
         if (character != u'&') {
             return character;
         }
-        const QString name = entity
-                                 .match(m_source, m_at, QRegularExpression::NormalMatch,
-                                        QRegularExpression::AnchoredMatchOption)
-                                 .captured();
+        const QString name = matchHere(entity).captured();
         if (name.isEmpty() || (!m_html && m_text.midRef(position, name.size()) == name)) {
             return character;
         }
