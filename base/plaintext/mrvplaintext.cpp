@@ -274,8 +274,9 @@ QString MRVPlainText::toHtml(const QString &text, MRVMarkdownHead *head)
     if (groups.isEmpty()) {
         return QString();
     }
-    Writer writer(mrvPlainLayout(groups));
-    groups = mrvWithHeadingsApart(groups);
+    const MRVPlainLayout layout = mrvPlainLayout(groups);
+    Writer writer(layout);
+    groups = mrvWithHeadingsApart(groups, layout.width == 0);
     int group = 0;
     for (const MRVPlainBlock &block : mrvPlainBlocks(groups)) {
         if (block.level > 0) {

@@ -131,6 +131,33 @@ MRVPlainMark::Kind wordKind(const MRVPlainGroup &group, int i)
     return isLine ? wordMark(group.at(i).text).kind : MRVPlainMark::Text;
 }
 
+bool endsSentence(const MRVPlainLine &line)
+{
+    return QStringLiteral(".!?:\"'”’»…)*").contains(line.text.at(line.text.size() - 1));
+}
+
+bool isTitleOf(const MRVPlainGroup &lines)
+{
+    return mrvIsPlainSubtitle(lines, QStringLiteral(".,;:!?-\"'”’»…"));
+}
+
+// Where each line is a paragraph, a short one before a long one may be a title.
+bool isTitleLine(const MRVPlainGroup &group, int i)
+{
+    return i + 1 < group.size() && group.at(i + 1).text.size() > TitleLength
+        && isTitleOf({group.at(i)});
+}
+
+// There, a number alone heads the long line after it, or the title before that.
+bool isNumberApart(const MRVPlainGroup &group, int i)
+{
+    const bool isBegin =
+        i == 0 || endsSentence(group.at(i - 1)) || (i == 1 && isTitleOf({group.at(0)}));
+    return isBegin && i + 1 < group.size()
+        && numberMark(group.at(i).text).kind == MRVPlainMark::Number
+        && (group.at(i + 1).text.size() > TitleLength || isTitleLine(group, i + 1));
+}
+
 // Marks of one kind in lines after each other are a table of contents.
 bool isHeadingApart(const MRVPlainGroup &group, int i)
 {
@@ -139,16 +166,14 @@ bool isHeadingApart(const MRVPlainGroup &group, int i)
     if (kind == MRVPlainMark::Text || kind == before || kind == wordKind(group, i + 1)) {
         return false;
     }
-    const QString ends = QStringLiteral(".!?:\"'”’»…)*");
-    const bool isBegin = i == 0 || before != MRVPlainMark::Text
-        || ends.contains(group.at(i - 1).text.at(group.at(i - 1).text.size() - 1));
+    const bool isBegin = i == 0 || before != MRVPlainMark::Text || endsSentence(group.at(i - 1));
     const bool isEnd = i + 1 == group.size() || group.at(i + 1).hasCapital();
     return isBegin && isEnd;
 }
 
 } // namespace
 
-QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups)
+QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups, bool isByLine)
 {
     QVector<MRVPlainGroup> apart;
     for (const MRVPlainGroup &group : groups) {
@@ -157,13 +182,17 @@ QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups
             continue;
         }
         bool begins = true;
+        bool isAfterHeading = false;
         for (int i = 0; i < group.size(); ++i) {
-            const bool isHeading = isHeadingApart(group, i);
+            const bool isHeading =
+                isHeadingApart(group, i) || (isByLine && isNumberApart(group, i));
+            const bool isTitle = isByLine && isAfterHeading && isTitleLine(group, i);
             if (begins || isHeading) {
                 apart.append(MRVPlainGroup());
             }
             apart.last().append(group.at(i));
-            begins = isHeading;
+            isAfterHeading = isHeading;
+            begins = isHeading || isTitle;
         }
     }
     return apart;

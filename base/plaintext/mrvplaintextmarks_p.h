@@ -25,8 +25,11 @@ MRVPlainMark mrvPlainMark(const MRVPlainGroup &group);
 /**
  * The groups, with "Chapter 1" and the like as groups of their own where no blank line sets them
  * apart: after a whole sentence, and before a line that begins with a capital.
+ *
+ * @param isByLine whether each line is a paragraph. Titles and bare numbers are then told from
+ *                 these by the long lines after them.
  */
-QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups);
+QVector<MRVPlainGroup> mrvWithHeadingsApart(const QVector<MRVPlainGroup> &groups, bool isByLine);
 
 /**
  * Whether short lines may be the title of the chapter that is announced before them: none of them
