@@ -116,6 +116,7 @@ private Q_SLOTS:
     {
         QTextDocument document;
         QVERIFY(MRVHtmlDocument::read(cell("html"), QString(), &document));
+        document.addResource(QTextDocument::ImageResource, QUrl("p"), filledImage(2, 2, Qt::blue));
         MRVEPubMetadata metadata;
         const bool hasEndnotes = cell("options").startsWith("book");
         metadata.language = hasEndnotes ? "de" : "en";

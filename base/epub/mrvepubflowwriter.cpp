@@ -106,13 +106,18 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
         const int frame = m_frames.value(i, -1);
         const int note = m_notes.beginningAt(i);
         if (frame >= 0 && frame != inside) {
+            const int after = m_flow.frames.at(frame).end;
+            const bool hasCaption = after < end && isTableCaption(frame, after);
             if (!m_notes.isMoved(i) || m_openNote >= 0) {
                 closeContainers(0);
+                m_caption = hasCaption ? after : m_caption;
                 writeFrame(frame);
             }
-            i = m_flow.frames.at(frame).end;
+            i = hasCaption ? after + 1 : after;
         } else if (!isWritten(i, begin, end)) {
             ++i;
+        } else if (i + 1 < end && isTableCaption(m_frames.value(i + 1, -1), i)) {
+            m_caption = i++;
         } else if (note >= 0 && m_flow.paragraphs.at(i).list < 0 && m_openNote != note) {
             closeContainers(0);
             writeNote(note, inside);
@@ -151,7 +156,10 @@ int MRVEPubWriter::writeBlock(int paragraph, int end)
             return paragraph + 1;
         }
     }
-    if (m_formats.paragraph(place.format).isPreformatted) {
+    if (isFigure(paragraph, end)) {
+        return writeFigure(paragraph, end);
+    }
+    if (isCode(paragraph)) {
         return writePreformatted(paragraph, end);
     }
     if (place.headingLevel > 0) {
@@ -161,8 +169,6 @@ int MRVEPubWriter::writeBlock(int paragraph, int end)
         MRVEPubContext context;
         m_formats.look(paragraph, MRVEPubKind::Item, usedIndent(), &context);
         m_page.holes[m_itemHole].flags |= writeText(paragraph, context) ? MRVEPubHole::Spaced : 0;
-    } else if (isPicture(paragraph) && m_containers.isEmpty()) {
-        return writeFigure(paragraph, end);
     } else if (place.length == 0 && place.list < 0) {
         m_out.append(QLatin1String("<p class=\"blank\"><br /></p>\n"));
     } else {
@@ -451,8 +457,13 @@ void MRVEPubWriter::writeHeading(int paragraph)
     m_out.append("</" + element + ">\n");
 }
 
+bool MRVEPubWriter::isCode(int paragraph)
+{
+    return m_formats.paragraph(m_flow.paragraphs.at(paragraph).format).isPreformatted;
+}
+
 // Lines that are not broken are one element, up to one with space above it.
-int MRVEPubWriter::writePreformatted(int paragraph, int end)
+int MRVEPubWriter::codeEnd(int paragraph, int end)
 {
     using Look = MRVEPubParagraphLook;
     const int format = m_flow.paragraphs.at(paragraph).format;
@@ -468,6 +479,12 @@ int MRVEPubWriter::writePreformatted(int paragraph, int end)
             break;
         }
     }
+    return last;
+}
+
+int MRVEPubWriter::writePreformatted(int paragraph, int end)
+{
+    const int last = codeEnd(paragraph, end);
     MRVEPubContext context;
     const int fragments = m_flow.paragraphs.at(last).firstFragment;
     bool isPlain = true; // XHTML 1.1 allows neither pictures nor raised text in the element
@@ -518,42 +535,106 @@ bool MRVEPubWriter::isPicture(int paragraph) const
     return hasPicture;
 }
 
-// The caption of a figure has the figure's margins.
-bool MRVEPubWriter::isCaption(int picture, int paragraph) const
+// Whether a paragraph is the caption of what a figure shows, beside which it stands: all of a
+// figure has its margins, and a caption no space between.
+bool MRVEPubWriter::isCaption(int paragraph, int shown)
 {
     const auto formatOf = [this](int index) {
         return m_flow.formats.at(m_flow.paragraphs.at(index).format).toBlockFormat();
     };
-    const QTextBlockFormat one = formatOf(picture);
-    const QTextBlockFormat other = formatOf(paragraph);
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
-    return one.leftMargin() == FigurePixels && one.rightMargin() == FigurePixels
-        && other.leftMargin() == FigurePixels && other.rightMargin() == FigurePixels
-        && !other.hasProperty(QTextFormat::BlockQuoteLevel) && place.headingLevel == 0
-        && place.list < 0 && place.length > 0 && !other.nonBreakableLines()
-        && !m_notes.isMoved(paragraph) && !m_flow.hasRule(paragraph) && !isPicture(paragraph);
+    const QTextBlockFormat format = formatOf(paragraph);
+    const double space = paragraph < shown ? format.bottomMargin() : format.topMargin();
+    return isInFigure(format) && isInFigure(formatOf(shown)) && space == 0
+        && isPlainText(paragraph);
 }
 
-int MRVEPubWriter::writeFigure(int paragraph, int end)
+bool MRVEPubWriter::isInFigure(const QTextBlockFormat &format)
+{
+    return format.leftMargin() == FigurePixels && format.rightMargin() == FigurePixels
+        && !format.hasProperty(QTextFormat::BlockQuoteLevel);
+}
+
+bool MRVEPubWriter::isPlainText(int paragraph)
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    return place.headingLevel == 0 && place.list < 0 && place.length > 0
+        && !m_frames.contains(paragraph) && !m_formats.paragraph(place.format).isPreformatted
+        && !m_notes.isMoved(paragraph) && m_notes.beginningAt(paragraph) < 0
+        && !m_flow.hasRule(paragraph) && !isPicture(paragraph)
+        && !isSceneBreak(m_flow.textOf(place));
+}
+
+// Whether a paragraph is the caption of a table, beside which it stands: within a figure, or
+// centered above it without space.
+bool MRVEPubWriter::isTableCaption(int frame, int paragraph)
+{
+    if (frame < 0 || !m_flow.frames.at(frame).table || isDeep() || !isPlainText(paragraph)
+        || m_notes.isMoved(m_flow.frames.at(frame).begin)) {
+        return false;
+    }
+    const QTextBlockFormat format =
+        m_flow.formats.at(m_flow.paragraphs.at(paragraph).format).toBlockFormat();
+    if (paragraph >= m_flow.frames.at(frame).end) {
+        return isInFigure(format) && format.topMargin() == 0;
+    }
+    const bool isTitle = format.alignment() & Qt::AlignHCenter && format.topMargin() == 0
+        && !format.hasProperty(QTextFormat::BlockQuoteLevel);
+    return format.bottomMargin() == 0 && (isTitle || isInFigure(format));
+}
+
+void MRVEPubWriter::writeCaption(int paragraph, QLatin1String tag, QLatin1String end)
 {
     MRVEPubContext context;
     m_formats.look(paragraph, MRVEPubKind::Paragraph, 0, &context);
-    m_out.append(element("<figure", "<div class=\"figure\""));
+    context.size = 100;
+    m_out.append(tag);
     writeAttributes(paragraph, context, QByteArray());
     m_out.append('>');
     writeText(paragraph, context);
-    int next = paragraph + 1;
-    if (next < end && !m_frames.contains(next) && isCaption(paragraph, next)) {
-        MRVEPubContext caption;
-        m_formats.look(next, MRVEPubKind::Paragraph, 0, &caption);
-        caption.size = 100;
-        m_out.append(element("\n<figcaption", "\n<p class=\"caption\""));
-        writeAttributes(next, caption, QByteArray());
-        m_out.append('>');
-        writeText(next, caption);
-        m_out.append(element("</figcaption>", "</p>"));
-        ++next;
+    m_out.append(end);
+}
+
+// Writes a picture or lines of code with the caption above or below; returns where they end.
+int MRVEPubWriter::writeFigure(int begin, int end)
+{
+    const auto isShown = [this](int paragraph) {
+        return isPicture(paragraph) || isCode(paragraph);
+    };
+    const bool hasTitle = !isShown(begin);
+    const int shown = begin + (hasTitle ? 1 : 0);
+    int next = isPicture(shown) ? shown + 1 : codeEnd(shown, end);
+    const QLatin1String captionTag = element("<figcaption", "<p class=\"caption\"");
+    const QLatin1String captionEnd = element("</figcaption>", "</p>");
+    m_out.append(element("<figure", "<div class=\"figure\""));
+    MRVEPubContext context;
+    if (isPicture(shown) && !hasTitle) {
+        m_formats.look(shown, MRVEPubKind::Paragraph, 0, &context);
+        writeAttributes(shown, context, QByteArray());
+    }
+    m_out.append('>');
+    if (hasTitle) {
+        writeCaption(begin, captionTag, captionEnd);
+        m_out.append('\n');
+    }
+    if (isPicture(shown)) {
+        writeText(shown, context);
+        m_out.append(QLatin1String(!hasTitle && next < end && isCaption(next, shown) ? "\n" : ""));
+    } else {
+        writePreformatted(shown, next);
+    }
+    if (!hasTitle && next < end && isCaption(next, next - 1)) {
+        writeCaption(next++, captionTag, captionEnd);
     }
     m_out.append(element("</figure>\n", "</div>\n"));
     return next;
+}
+
+// Whether a figure begins with a paragraph. A picture on its own is one, too.
+bool MRVEPubWriter::isFigure(int paragraph, int end)
+{
+    const int next = isCode(paragraph) ? codeEnd(paragraph, end) : paragraph + 1;
+    const bool hasCaption = next < end && isCode(paragraph) && isCaption(next, next - 1);
+    const bool isTitle = next < end && (isPicture(next) || isCode(next)) && !m_frames.contains(next)
+        && isCaption(paragraph, next);
+    return m_containers.isEmpty() && (isPicture(paragraph) || hasCaption || isTitle);
 }

@@ -53,7 +53,7 @@ figure, .figure {
     break-inside: avoid;
     page-break-inside: avoid;
 }
-figcaption, .caption {
+figcaption, .caption, caption {
     font-size: 0.85em;
     text-indent: 0;
 }
@@ -143,6 +143,9 @@ sub, sup {
 }
 table.ruled, table.ruled > * > tr > td, table.ruled > * > tr > th {
     border: 1px solid;
+}
+caption.below {
+    caption-side: bottom;
 }
 td.covered {
     display: none;

@@ -111,7 +111,14 @@ private:
     void writeHeading(int paragraph);
     int writeFigure(int paragraph, int end);
     bool isPicture(int paragraph) const;
-    bool isCaption(int picture, int paragraph) const;
+    bool isFigure(int paragraph, int end);
+    bool isCaption(int paragraph, int shown);
+    static bool isInFigure(const QTextBlockFormat &format);
+    bool isPlainText(int paragraph);
+    bool isTableCaption(int frame, int paragraph);
+    void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
+    bool isCode(int paragraph);
+    int codeEnd(int paragraph, int end);
     bool hasParagraphAfter(int paragraph, int end) const;
     void writeParagraph(int paragraph, MRVEPubKind kind, const char *element);
     void writeAttributes(int paragraph, const MRVEPubContext &context, const QByteArray &id);
@@ -162,6 +169,7 @@ private:
     MRVEPubPage m_page;
     MRVEPubMarkup m_out;
     QVector<Container> m_containers;
+    int m_caption = -1; // the paragraph that is one of the next table
     int m_depth = 0; // of the elements of tables and frames
     QVector<Element> m_elements;
     int m_linkAttributes = -1; // of the open link
