@@ -14,7 +14,8 @@ public:
     static void write(QDataStream &stream, const void *item)
     {
         const auto *source = static_cast<const MRVFernwickDropItem *>(item);
-        stream << FormatVersion << source->m_label << source->m_payload;
+        stream << FormatVersion << source->m_label
+               << MRVVariantGuard::storable(source->m_payload, MRVVariantGuard::DropItem);
     }
     static void read(QDataStream &stream, void *item)
     {

@@ -9,6 +9,7 @@
 #include <QBrush>
 #include <QBuffer>
 #include <QColor>
+#include <QDateTime>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
@@ -21,6 +22,7 @@
 #include <QSet>
 #include <QTextFormat>
 #include <QTextOption>
+#include <QTimeZone>
 #include <QtEndian>
 
 #include <algorithm>
@@ -485,7 +487,7 @@ bool Walker::zonedDateTime()
     static constexpr char OffsetOnly[] = "\0O\0f\0f\0s\0e\0t\0F\0r\0o\0m\0U\0t\0c";
     qint8 spec = 0;
     if (!skip(12) || !read(&spec) || spec != Qt::TimeZone) {
-        return m_in.isOk();
+        return m_in.isOk() && (spec != Qt::OffsetFromUTC || skip(4));
     }
     const int name = m_taken.size() + LeastText;
     if (!text()) {
@@ -843,4 +845,31 @@ QByteArray MRVVariantGuard::takeFormat(QDataStream &stream, Form form, Rest *res
 void MRVVariantGuard::registerType(int type)
 {
     registeredTypes().insert(type);
+}
+
+QVariant MRVVariantGuard::storable(const QVariant &value, Form form)
+{
+    const auto convert = [form](auto items) {
+        for (auto it = items.begin(); it != items.end(); ++it) {
+            *it = storable(*it, form);
+        }
+        return items;
+    };
+    switch (value.userType()) {
+    case QMetaType::QVariantList:
+        return convert(value.toList());
+    case QMetaType::QVariantMap:
+        return convert(value.toMap());
+    case QMetaType::QVariantHash:
+        return convert(value.toHash());
+    case QMetaType::QDateTime: {
+        const QDateTime date = value.toDateTime();
+        const bool mayHaveZone = form == SettingsValue || form == SettingsDate;
+        const bool isKept =
+            date.timeSpec() != Qt::TimeZone || (mayHaveZone && date.timeZone().isValid());
+        return isKept ? value : date.toUTC();
+    }
+    default:
+        return value;
+    }
 }

@@ -3,6 +3,7 @@
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
+#include <QVariant>
 
 class QDataStream;
 
@@ -80,4 +81,12 @@ public:
      * @param type from qRegisterMetaType(), with stream operators.
      */
     static void registerType(int type);
+
+    /**
+     * A value as it can be written in a form. Qt crashes when it writes a date whose time zone this
+     * machine does not know, and a form other than those of settings holds no named zone: such
+     * dates are given in UTC, as Qt converts them. In an unknown zone, Qt takes the date for one in
+     * UTC. Also those in lists, maps and hashes, at any depth; all else is left as it is.
+     */
+    static QVariant storable(const QVariant &value, Form form);
 };

@@ -105,7 +105,8 @@ bool isWritable(const QVariant &value)
         || QMetaType::save(stream, value.userType(), value.constData());
 }
 
-// The order of a hash differs in every process; the order of a map does not.
+// A value as it can be written. The order of a hash differs in every process; the order of a map
+// does not.
 QVariant ordered(const QVariant &value)
 {
     QVariantMap map;
@@ -129,6 +130,8 @@ QVariant ordered(const QVariant &value)
             list << ordered(item);
         }
         return list;
+    case QMetaType::QDateTime:
+        return MRVVariantGuard::storable(value, MRVVariantGuard::CharFormat);
     default:
         return value;
     }
@@ -142,7 +145,7 @@ QTextFormat ordered(QTextFormat format)
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         const int type = it.value().userType();
         if (type == QMetaType::QVariantHash || type == QMetaType::QVariantMap
-            || type == QMetaType::QVariantList) {
+            || type == QMetaType::QVariantList || type == QMetaType::QDateTime) {
             format.setProperty(it.key(), ordered(it.value()));
         }
     }
