@@ -21,9 +21,16 @@ int withSettings(const Call &call)
                                                              : refuse(error);
 }
 
-/** Saves the options. @return Done, or Failed after an error. */
+/**
+ * Saves the options. @return Done, or Failed after an error; the options then are not tried again
+ * at the end, so that the exit code tells what the file holds.
+ */
 inline int save(MRVOptions *options)
 {
     QString error;
-    return options->saveNow(&error) ? int(Done) : refuse(error);
+    if (options->saveNow(&error)) {
+        return Done;
+    }
+    options->revert();
+    return refuse(error);
 }

@@ -1,20 +1,17 @@
-// Feeds arbitrary bytes to QSettings as a file, after what would do harm was taken out.
+// Reads arbitrary bytes as a settings file, and writes again what was read.
 
 #include "guiapplication.h"
-#include "settings/mrvsettingsfile_p.h"
-#include "settings/mrvsettingsguard_p.h"
+#include "settings/mrvsettingstext_p.h"
 
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
-    const QByteArray safe = mrvSafeSettings(bytes);
-    if (mrvSafeSettings(safe) != safe) {
+    const MRVSettingsMap values = mrvReadSettings(bytes).values;
+    const MRVSettingsText again = mrvReadSettings(mrvWriteSettings(values));
+    if (again.isDamaged || again.values.keys() != values.keys()) {
         std::abort();
     }
-    MRVSettingsMap values;
-    mrvReadSettings(safe, QSettings::IniFormat, &values);
-    mrvIsSettings(bytes);
     return 0;
 }

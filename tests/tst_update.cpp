@@ -533,6 +533,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isOver() || shownDialog());
         QCOMPARE(shownDialog() != nullptr, due == "shown");
         QCOMPARE(heard, QStringList());
+        store.sync();
         QCOMPARE(store.value(key).toDate(), due == "failed" ? QDate() : QDate::currentDate());
     }
 

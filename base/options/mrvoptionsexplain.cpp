@@ -3,53 +3,12 @@
 #include "util/mrvclosestmatch.h"
 
 #include <QMap>
-#include <QSettings>
 
 #include <algorithm>
-#include <utility>
 
 using namespace MRVOptionsTables;
 
 namespace {
-
-// Whether the user's own file has the key, or will have it after the next save.
-bool isOwn(const MRVOptions &options, const QString &key)
-{
-    // Changes how the object reads, not its values.
-    MRVOptions &own = const_cast<MRVOptions &>(options);
-    const bool hasFallbacks = own.fallbacksEnabled();
-    own.setFallbacksEnabled(false);
-    const bool isFound = own.contains(key);
-    own.setFallbacksEnabled(hasFallbacks);
-    return isFound;
-}
-
-// The file that a value comes from: the user's own or one of the system's, in the order in which
-// QSettings searches them. The user's own is not opened a second time: that would write unsaved
-// changes, unchecked.
-QString originOf(const MRVOptions &options, const QString &key)
-{
-    if (!options.contains(key)) {
-        return QString();
-    }
-    if (options.QSettings::organizationName().isEmpty() || isOwn(options, key)) {
-        return options.fileName();
-    }
-    const std::pair<QSettings::Scope, QString> places[] = {
-        {QSettings::UserScope, QString()},
-        {QSettings::SystemScope, MRVOptions::applicationName()},
-        {QSettings::SystemScope, QString()},
-    };
-    for (const auto &[scope, application] : places) {
-        QSettings file(options.format(), scope, MRVOptions::companyName(), application);
-        file.setFallbacksEnabled(false);
-        file.beginGroup(options.group());
-        if (file.contains(key)) {
-            return file.fileName();
-        }
-    }
-    return options.fileName();
-}
 
 template<typename Setting>
 QVariant valueOf(const MRVOptions &options, Setting setting)
@@ -124,7 +83,7 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Row<Setti
     explanation.value = valueOf(options, row.setting);
     explanation.defaultValue = variantOf(options.defaultValue(row.setting));
     explanation.accepts = acceptsOf(row);
-    explanation.origin = originOf(options, explanation.key);
+    explanation.origin = options.originOf(explanation.key);
     return explanation;
 }
 
@@ -143,7 +102,7 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Separator
     if (isType) {
         explanation.accepts = separatorTypeWords().join(QLatin1String(", "));
     }
-    explanation.origin = originOf(options, explanation.key);
+    explanation.origin = options.originOf(explanation.key);
     return explanation;
 }
 

@@ -1,6 +1,7 @@
 #include "options/mrvoptionsfile.h"
 
 #include "options/mrvoptions.h"
+#include "util/mrvfailure.h"
 
 #include <QDir>
 #include <QFile>
@@ -94,15 +95,18 @@ bool MRVOptionsFile::open(const QString &path, Access access, QString *error)
     }
     if (reason.isEmpty()) {
         m_options = isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
-        if (isOwn || m_options->status() == QSettings::NoError) {
+        const QSettings::Status status = m_options->status();
+        if (status == QSettings::NoError || (isOwn && status == QSettings::FormatError)) {
             return true;
         }
+        const QString text = m_options->errorText();
         m_options.reset();
+        if (!text.isEmpty()) {
+            m_lock.release();
+            return MRV::fail(error, text);
+        }
         reason = tr("this is no settings file");
     }
     m_lock.release();
-    if (error) {
-        *error = file.filePath() + QLatin1String(": ") + reason;
-    }
-    return false;
+    return MRV::fail(error, file.filePath(), reason);
 }

@@ -1,7 +1,5 @@
 #include "options/mrvoptionstables_p.h"
 
-#include "settings/mrvsettingssanitizer.h"
-
 #include <QFileInfo>
 #include <QGlobalStatic>
 
@@ -21,15 +19,13 @@ QString keyOf(Setting setting)
 } // namespace
 
 MRVOptions::MRVOptions(QObject *parent)
-    : MRVSettings(NativeFormat, UserScope,
-                  mrvSanitizeUserSettings(companyName(), applicationName()), applicationName(),
-                  parent)
+    : MRVSettings(NativeFormat, UserScope, companyName(), applicationName(), parent)
 {
     setGroup(QStringLiteral("Options"));
 }
 
 MRVOptions::MRVOptions(const QString &fileName, QObject *parent)
-    : MRVSettings(mrvSanitizeSettings(fileName), IniFormat, parent)
+    : MRVSettings(fileName, IniFormat, parent)
 {
     setGroup(QStringLiteral("Options"));
 }

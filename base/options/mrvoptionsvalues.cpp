@@ -244,7 +244,7 @@ bool MRVOptions::setPdfSettings(const QString &name, const QByteArray &settings)
 MRVAutoReplaceList MRVOptions::autoReplaceList(QString *error) const
 {
     MRVAutoReplaceList list;
-    const QByteArray stored = QSettings::value(keyText(SubstitutionList)).toByteArray();
+    const QByteArray stored = value(keyText(SubstitutionList)).toByteArray();
     QString reason;
     if (error && !stored.isEmpty()) {
         list.fromByteArray(stored, &reason);
@@ -264,7 +264,7 @@ MRVAutoReplaceList MRVOptions::autoReplaceList(QString *error) const
 MRVShortcutScheme MRVOptions::shortcutScheme(QString *error) const
 {
     // value() gives the default in place of what cannot be read.
-    const QVariant stored = QSettings::value(keyText(DefaultShortcutScheme));
+    const QVariant stored = value(keyText(DefaultShortcutScheme));
     if (!stored.isValid()) {
         return MRVShortcutScheme::morvane();
     }
@@ -311,14 +311,10 @@ QString MRVOptions::backupPath() const
 void MRVOptions::resetAllWarnings()
 {
     // The application state shares the file, but not the group that is open here.
-    const WholeFile whole(this);
-    if (!whole.isOpen()) {
-        return;
-    }
-    remove(QStringLiteral("Options/Warnings"));
+    setInFile(QStringLiteral("Options/Warnings"), QVariant());
     const QStringList keys = warningKeys();
     for (const QString &key : keys) {
-        setValue(key, true);
+        setInFile(key, true);
     }
 }
 

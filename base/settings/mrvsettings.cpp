@@ -2,7 +2,8 @@
 
 #include "core/mcoretype.h"
 #include "gui/mrvguiutil.h"
-#include "settings/mrvsettingsguard_p.h"
+#include "input/mrvvariantguard.h"
+#include "settings/mrvsettingsstorage_p.h"
 #include "settings/mrvsettingsvalue.h"
 #include "textformat/mrvtextformat.h"
 
@@ -30,7 +31,7 @@ bool isEmpty(const QVariant &value)
 }
 
 // Not a member, which the compiler could not inline in a shared library.
-QVariant stored(const QSettings &settings, const QString &key)
+QVariant stored(const MRVSettings &settings, const QString &key)
 {
     return key.isEmpty() ? QVariant() : settings.value(key);
 }
@@ -85,19 +86,6 @@ QString toText(const QList<int> &numbers)
 }
 
 } // namespace
-
-MRVSettings::~MRVSettings()
-{
-    if (!m_isDirty) {
-        return;
-    }
-    while (!QSettings::group().isEmpty()) {
-        QSettings::endGroup();
-    }
-    m_openGroups.clear();
-    m_openPath.clear();
-    save(Saving::Last, nullptr);
-}
 
 // The subclass defines the default of a setting and where it is stored.
 
@@ -233,48 +221,6 @@ void MRVSettings::setGroup(const QString &group)
     m_group = QSettings::group();
 }
 
-void MRVSettings::beginGroup(const QString &prefix)
-{
-    QSettings::beginGroup(prefix);
-    m_openGroups.append(prefix);
-    m_openPath = QSettings::group();
-}
-
-void MRVSettings::endGroup()
-{
-    QSettings::endGroup();
-    if (!m_openGroups.isEmpty()) {
-        m_openGroups.removeLast();
-    }
-    m_openPath = QSettings::group();
-}
-
-MRVSettings::WholeFile::WholeFile(MRVSettings *settings)
-    : m_settings(settings)
-    , m_groups(settings->m_openGroups)
-    , m_hasFallbacks(settings->fallbacksEnabled())
-    , m_isOpen(settings->m_openPath == settings->QSettings::group())
-{
-    if (!m_isOpen) {
-        return;
-    }
-    for (int i = 0; i < m_groups.size(); ++i) {
-        m_settings->QSettings::endGroup();
-    }
-    m_settings->setFallbacksEnabled(false);
-}
-
-MRVSettings::WholeFile::~WholeFile()
-{
-    if (!m_isOpen) {
-        return;
-    }
-    m_settings->setFallbacksEnabled(m_hasFallbacks);
-    for (const QString &group : qAsConst(m_groups)) {
-        m_settings->QSettings::beginGroup(group);
-    }
-}
-
 bool MRVSettings::value(FlagSetting setting) const
 {
     bool ok = false;
@@ -359,13 +305,21 @@ QTextBlockFormat MRVSettings::value(TextBlockFormat setting) const
 
 bool MRVSettings::setValue(const QString &key, const QVariant &value)
 {
+    if (key.isEmpty()) {
+        return false;
+    }
     if (!mrvCanBeStored(value)) {
         qCWarning(lcSettings, "%s: values of the type %s cannot be stored", qPrintable(key),
                   value.typeName());
         return false;
     }
-    QSettings::setValue(key, value);
+    const bool isDate = value.userType() == QMetaType::QDateTime;
+    QSettings::setValue(
+        key, isDate ? MRVVariantGuard::storable(value, MRVVariantGuard::SettingsDate) : value);
     recordChange(key);
+    if (m_storage->isShared()) {
+        m_storage->announce({inFile(key)}, this);
+    }
     return status() == NoError;
 }
 
@@ -431,8 +385,12 @@ bool MRVSettings::setValue(TextBlockFormat setting, const QTextBlockFormat &valu
 
 void MRVSettings::remove(const QString &key)
 {
+    const QStringList removed = m_storage->isShared()
+        ? m_storage->keysOf(key.isEmpty() ? group() : inFile(key))
+        : QStringList();
     QSettings::remove(key);
     recordChange(key);
+    m_storage->announce(removed, this);
 }
 
 void MRVSettings::resetToDefaults()
@@ -526,10 +484,6 @@ bool MRVSettings::isOpenGroup() const
 void MRVSettings::recordChange(const QString &key)
 {
     m_isDirty = true;
-    if (m_isStalled) {
-        m_isStalled = false;
-        QCoreApplication::postEvent(this, new QEvent(QEvent::UpdateRequest));
-    }
     const int slash = key.lastIndexOf(QLatin1Char('/'));
     if (slash <= 0 || key.at(0) == QLatin1Char('/') || signalsBlocked()) {
         return;
@@ -541,7 +495,28 @@ void MRVSettings::recordChange(const QString &key)
     if ((isListed && m_timerId != -1) || !isOpenGroup()) {
         return;
     }
-    if (!isListed) {
+    addChangedGroup(group);
+}
+
+void MRVSettings::recordForeignChanges(const QStringList &keys)
+{
+    if (signalsBlocked()) {
+        return;
+    }
+    const int begin = m_group.isEmpty() ? 0 : m_group.size() + 1;
+    for (const QString &key : keys) {
+        const int slash = key.lastIndexOf(QLatin1Char('/'));
+        const bool isInGroup =
+            begin == 0 || (key.startsWith(m_group) && key.at(m_group.size()) == QLatin1Char('/'));
+        if (isInGroup && slash > begin) {
+            addChangedGroup(key.midRef(begin, slash - begin));
+        }
+    }
+}
+
+void MRVSettings::addChangedGroup(const QStringRef &group)
+{
+    if (!m_changedGroups.contains(group)) {
         m_changedGroups.append(group.toString());
     }
     if (m_timerId == -1) {

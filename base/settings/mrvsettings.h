@@ -17,6 +17,13 @@
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 #include <QVariant>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+
+class MRVSettingsStorage;
+class MRVSettingsWatcher;
 
 /**
  * The typed settings store of the application.
@@ -28,17 +35,22 @@
  *
  * A stored value that cannot be read as its type (a file edited by hand, a damaged format) gives
  * the default. In a file edited by hand, letters beyond ASCII are written as "\\xe4", or the file
- * begins with a UTF-8 mark: it then is rewritten in ASCII when it is opened. What was stored as an
- * int, a bool or a list of one text comes back from a file as a text, and an empty list as nothing;
- * the typed functions take both.
+ * begins with a UTF-8 mark. What was stored as an int, a bool or a list of one text comes back from
+ * a file as a text, and an empty list as nothing; the typed functions take both.
+ *
+ * The base class keeps the values, but never opens the file: the store reads and writes it, in the
+ * INI form of QSettings, which QSettings itself can read. NativeFormat and IniFormat are the same;
+ * other formats are not supported, and setIniCodec() has no effect. fileName(), status(), sync()
+ * and the other functions that this class has, too, are to be called on the class itself: through a
+ * QSettings pointer they know of no file, and changes made there are saved but not announced. A
+ * QSettings that is opened on the same file is as one of another process, and sees what was saved.
  *
  * Saving. Changes are in memory at once and are saved in the next pass of the event loop, by sync()
- * and saveNow(), and when the store is destroyed. A disk that fills up while QSettings writes would
- * leave a file that ends in the middle of a value, without an error; so the store reads what was
- * written, and repairs it or puts the old file back, see saveNow(). Several processes may write to
- * one file: each adds its own changes to what the others have saved. Call sync() and the functions
- * that change something on the class itself; through a QSettings pointer they are Qt's, which
- * neither announce nor check.
+ * and saveNow(), and when the store is destroyed. A file is read again before it is written, and
+ * replaced whole: several processes and stores may have it open, and each adds its own changes to
+ * what the others have saved. A file that cannot be read is not replaced, see saveNow(). Values
+ * that cannot be decoded safely are left out; before such a file is replaced, it is copied to its
+ * name and ".damaged". Stores on one file in a process share their values.
  *
  * GUI thread only.
  *
@@ -89,9 +101,37 @@ public:
     /** What colour settings are grouped by for the user. */
     enum ColorSettingGroup : int {};
 
-    using QSettings::QSettings;
+    /** A store on an INI file; see the class about @p format. */
+    MRVSettings(const QString &fileName, Format format, QObject *parent = nullptr);
+    /**
+     * A store on the file that QSettings has for an organisation and its application, with the same
+     * fallbacks, which are read once. Without an organisation it has no file.
+     */
+    MRVSettings(Format format, Scope scope, const QString &organization,
+                const QString &application = QString(), QObject *parent = nullptr);
+    /** The same in the native format, of the user. */
+    explicit MRVSettings(const QString &organization, const QString &application = QString(),
+                         QObject *parent = nullptr)
+        : MRVSettings(NativeFormat, UserScope, organization, application, parent)
+    {
+    }
     /** Saves what is not saved yet. A pending announcement is lost. */
     ~MRVSettings() override;
+
+    /** As those of QSettings; of the store's file. */
+    QString fileName() const { return m_fileName; }
+    QString organizationName() const { return m_organization; }
+    QString applicationName() const { return m_application; }
+    Scope scope() const { return m_scope; }
+    /** Whether the file, or a folder for it, may be written. Makes neither. */
+    bool isWritable() const;
+    /**
+     * AccessError while the file could not be read or written the last time that was tried,
+     * FormatError when it has lines that are no settings.
+     */
+    Status status() const;
+    /** Why status() is AccessError, as a translated line; else empty. */
+    QString errorText() const;
 
     /**
      * What a setting is worth where it is not stored. Of this class: false, 0, an empty text, list,
@@ -113,7 +153,7 @@ public:
     /**
      * The key of a setting, relative to the open group; "General/saveInterval", say. An empty key,
      * which is all that this class gives, means that there is no such setting: it reads as its
-     * default, and setting it does nothing.
+     * default, and setting it does nothing and returns false.
      */
     virtual QString keyText(FlagSetting setting) const;
     virtual QString keyText(IntSetting setting) const;
@@ -133,16 +173,15 @@ public:
      * relative to it from then on.
      */
     void setGroup(const QString &group);
-    /**
-     * As those of QSettings. The store leaves the groups for a moment while it saves, and comes
-     * back; so groups must be opened here, and nothing is saved while an array is open or a group
-     * was opened through a QSettings pointer.
-     */
-    void beginGroup(const QString &prefix);
-    /** Leaves the group that was opened last; see beginGroup(). */
-    void endGroup();
+    /** As those of QSettings: the value or key of the store's file, or else of a fallback. */
+    QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
+    bool contains(const QString &key) const;
+    QStringList allKeys() const;
+    QStringList childKeys() const;
+    QStringList childGroups() const;
+    /** The file that a value comes from; empty where it is not stored. */
+    QString originOf(const QString &key) const;
 
-    using QSettings::value;
     /**
      * The value of a setting: what is stored, or defaultValue() where nothing is, or nothing that
      * can be read as the type.
@@ -169,8 +208,9 @@ public:
      * Stored are numbers, texts, bytes and bits, colours, dates and times, points, sizes, lines and
      * rectangles, fonts, URLs, locales, identifiers, key sequences, and lists and maps of those.
      * What else there is, Qt cannot read from a damaged file safely: it is not set, with a warning.
+     * A date of a time zone that this machine does not know is stored in UTC.
      *
-     * @param key relative to the open group.
+     * @param key relative to the open group; an empty one sets nothing.
      * @param value of one of these types; invalid stores an invalid variant, which reads as the
      *              default.
      * @return whether the value was set and status() is NoError. Nothing is saved yet, so this
@@ -244,20 +284,27 @@ public:
     static QImage toImage(const QByteArray &bytes);
 
     /**
-     * Saves what is not saved yet, and makes sure that it is: the file is read again, and each
-     * value in it compared with the one in memory.
+     * Saves what is not saved yet, by MRVFileWriter and under the lock that QSettings takes. Keys
+     * that others have saved meanwhile stay, and are taken over.
      *
-     * Where what was written is not whole, as on a disk that has filled up, the file is written
-     * once more through MRVFileWriter, else the old file is put back. What is no regular file is
-     * not written to. Changes that could not be saved stay in memory, and are tried again with the
-     * next one.
+     * Where the file cannot be read, is no regular file or cannot be replaced, it stays as it was.
+     * The changes then stay in memory, and are tried again with the next one.
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return whether the file holds all that the store does; also when there was nothing to save.
      */
     bool saveNow(QString *error = nullptr);
-    /** saveNow(), and reads what others have saved. */
+    /** saveNow(), whose failure saveFailed() tells. Also reads what others have saved. */
     void sync();
+    /** Forgets all changes that are not saved, which otherwise are tried again. */
+    void revert();
+
+    /**
+     * Reads the file whenever it has changed, while the event loop runs, until it is switched off.
+     * Without that, what others have saved is read by sync() and saveNow() only.
+     */
+    void setWatched(bool isWatched);
+    bool isWatched() const { return bool(m_watcher); }
 
     /**
      * Copies the open group into an INI file, whose group of that name it replaces; other groups
@@ -266,7 +313,7 @@ public:
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      * @param fileName of an INI file, which is made where it does not exist.
-     * @return false where the file cannot be written.
+     * @return false where the file cannot be read or written, or holds something else.
      */
     bool saveToFile(const QString &fileName, QString *error = nullptr);
     /**
@@ -279,7 +326,9 @@ public:
 Q_SIGNALS:
     /**
      * Once for all changes of a pass of the event loop: each group once, in the order of first
-     * change.
+     * change. Changes that others have made to the file come when it is read, those of another
+     * store of this process at once; of those, the ones outside of the group of setGroup() do not
+     * count.
      */
     void groupsChanged(const QStringList &groups);
     /** After resetToDefaults() and loadFromFile(): any setting may have changed. */
@@ -294,41 +343,38 @@ protected:
     void timerEvent(QTimerEvent *event) override;
     bool event(QEvent *event) override;
 
-    /** Leaves all groups and the fallbacks while it lives: keys are those of the whole file. */
-    class MRVBASE_EXPORT WholeFile
-    {
-    public:
-        /** Leaves the groups of @p settings, which must outlive this. */
-        explicit WholeFile(MRVSettings *settings);
-        ~WholeFile();
-        WholeFile(const WholeFile &) = delete;
-        WholeFile &operator=(const WholeFile &) = delete;
-        /** False where an array is open, which cannot be left and entered again. */
-        bool isOpen() const { return m_isOpen; }
-
-    private:
-        MRVSettings *m_settings;
-        QStringList m_groups;
-        bool m_hasFallbacks;
-        bool m_isOpen;
-    };
+    /**
+     * Sets a value by its key in the whole file, whatever group is open; an invalid one removes the
+     * key with all that lies below it. Announced and saved like other changes.
+     */
+    void setInFile(const QString &key, const QVariant &value);
 
 private:
-    enum class Saving { MayBeRepeated, Last };
+    struct Fallback
+    {
+        QString path;
+        QMap<QString, QVariant> values;
+    };
 
+    MRVSettings(const QString &fileName, const std::shared_ptr<MRVSettingsStorage> &storage,
+                Format format, QObject *parent);
     bool isOpenGroup() const;
     void recordChange(const QString &key);
-    void replaceGroupIn(QSettings *file) const;
-    bool save(Saving saving, QString *error);
-    bool saveWhole(Saving saving, QString *error);
-    void stall();
-    void setAgain(const QMap<QString, QVariant> &old, const QMap<QString, QVariant> &wanted);
+    void recordForeignChanges(const QStringList &keys);
+    void addChangedGroup(const QStringRef &group);
+    QString inFile(const QString &key) const;
+    const Fallback *fallbackOf(const QString &key) const;
+    QStringList withFallbacks(QStringList keys, const std::function<QString(QString)> &part) const;
 
     int m_timerId = -1;
     QStringList m_changedGroups;
     QString m_group;
-    QStringList m_openGroups; ///< as they were opened
-    QString m_openPath; ///< what group() is while only those are open
-    bool m_isDirty = false; ///< something may not be saved
-    bool m_isStalled = false; ///< QSettings believes that its turn to save is still to come
+    QString m_fileName;
+    QString m_organization;
+    QString m_application;
+    Scope m_scope = UserScope;
+    QVector<Fallback> m_fallbacks;
+    bool m_isDirty = false; ///< this store has changed something since it was saved
+    std::shared_ptr<MRVSettingsStorage> m_storage;
+    std::unique_ptr<MRVSettingsWatcher> m_watcher;
 };

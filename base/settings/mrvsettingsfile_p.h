@@ -1,97 +1,55 @@
 #pragma once
 
-#include <QByteArray>
+#include "settings/mrvsettingstext_p.h"
+
 #include <QLockFile>
-#include <QMap>
-#include <QSettings>
-#include <QString>
-#include <QVariant>
-
-#include <functional>
-
-using MRVSettingsMap = QMap<QString, QVariant>;
-
-/** All that @p settings have in the group that is open. */
-MRVSettingsMap mrvValuesOf(const QSettings &settings);
 
 /**
- * What the bytes of a settings file hold, keys with their groups.
+ * A file of settings, which is read whole or not at all, and replaced whole or not at all.
  *
- * QSettings remembers files, and tells changed ones by length and time alone; so the bytes are read
- * from memory, under a time that no other file had.
- *
- * @return false where they cannot be read.
+ * A file that could not be read is never taken for an empty one, and one that is damaged is copied
+ * to its name and ".damaged" before it is replaced; reading writes nothing.
  */
-bool mrvReadSettings(const QByteArray &bytes, QSettings::Format format, MRVSettingsMap *values);
+class MRVSettingsFile
+{
+public:
+    /** @param path absolute; of a file that need not exist. */
+    explicit MRVSettingsFile(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    /** Reads the file, unless it is the same as before. Of a failure, all stays as it was. */
+    bool read(QString *error);
+    /** Puts values in place of what was read last, or written. */
+    bool replace(const MRVSettingsMap &values, QString *error);
+
+    const QString &path() const { return m_path; }
+    bool exists() const { return m_exists; }
+    const MRVSettingsText &text() const { return m_text; }
+
+private:
+    bool keepDamaged(QString *error) const;
+
+    QString m_path;
+    bool m_exists = false;
+    QByteArray m_bytes;
+    MRVSettingsText m_text;
+};
 
 /**
- * Whether bytes are those of an INI file, or nothing but comments. QSettings itself takes any text
- * for settings that it could not understand in part, and would write over it.
+ * The lock that QSettings takes for a file while it writes, for the life of the object. Waits for
+ * up to ten seconds.
  */
-bool mrvIsSettings(const QByteArray &bytes);
-
-/** The error where the disk has no space even for a temporary file. */
-QString mrvNoRoomText();
-
-/** Whether a value that was stored as @p wanted may come back from a file as @p found. */
-bool mrvIsStoredAs(const QVariant &wanted, const QVariant &found);
-
-/** Whether @p found has all of @p wanted. */
-bool mrvHolds(const MRVSettingsMap &found, const MRVSettingsMap &wanted);
-
-/**
- * The bytes of a settings file after @p edit.
- *
- * @param error receives a translated line on failure.
- * @return empty where the folder for temporary files has no space left.
- */
-QByteArray mrvEditedSettings(const QByteArray &before, const std::function<void(QSettings *)> &edit,
-                             QString *error);
-
-/** The same settings without a UTF-8 mark, all in ASCII; @p bytes where there is none. */
-QByteArray mrvWithoutUtf8Mark(const QByteArray &bytes, QString *error);
-
-/** The lock that QSettings takes for a file, for the life of the object. */
 class MRVSettingsLock
 {
 public:
     explicit MRVSettingsLock(const QString &path);
 
-    /**
-     * After ten seconds of waiting. On a full or read-only disk the lock cannot be made either; the
-     * lock does not report that.
-     */
-    bool isHeldByOther() const { return m_isHeldByOther; }
-
-    /**
-     * A process that was killed between making its lock and writing its name into it leaves an
-     * empty one, for which QSettings would wait half a minute.
-     */
-    static void removeDead(const QString &path);
+    /** @return false, with the reason in @p error, where the file must not be written. */
+    bool isHeld(QString *error) const;
 
 private:
+    QString m_path;
     QLockFile m_lock;
-    bool m_isHeldByOther;
-};
-
-QString mrvLockedText(const QString &path);
-QString mrvDamagedText(const QString &path);
-
-/** Keeps the file as it is beside the one that takes its place, for the life of the object. */
-class MRVOldSettingsFile
-{
-public:
-    /** @param bytes what is in the file; none where it does not exist. */
-    MRVOldSettingsFile(const QString &path, const QByteArray &bytes);
-    ~MRVOldSettingsFile();
-    MRVOldSettingsFile(const MRVOldSettingsFile &) = delete;
-    MRVOldSettingsFile &operator=(const MRVOldSettingsFile &) = delete;
-
-    /** Needs no disk space, except on a file system without hard links. */
-    bool putBack() const;
-
-private:
-    QByteArray m_bytes;
-    QString m_path; ///< without links
-    QString m_kept; ///< empty where nothing is kept
 };

@@ -1,7 +1,6 @@
 #include "state/mrvapplicationstate.h"
 
 #include "options/mrvoptions.h"
-#include "settings/mrvsettingssanitizer.h"
 #include "settings/mrvsettingsvalue.h"
 
 #include <QDir>
@@ -39,19 +38,19 @@ QString documentsFolder()
 }
 
 // QSettings returns a list of one text from the file as that text.
-QStringList listAt(const QSettings &settings, QLatin1String key)
+QStringList listAt(const MRVSettings &settings, QLatin1String key)
 {
     return settings.value(key).toStringList();
 }
 
-bool flagAt(const QSettings &settings, QLatin1String key)
+bool flagAt(const MRVSettings &settings, QLatin1String key)
 {
     bool ok = false;
     const bool flag = mrvToFlag(settings.value(key), &ok);
     return flag || !ok;
 }
 
-QString folderAt(const QSettings &settings, QLatin1String key)
+QString folderAt(const MRVSettings &settings, QLatin1String key)
 {
     return mrvToText(settings.value(key, documentsFolder()));
 }
@@ -65,9 +64,8 @@ void putFirst(QStringList *list, const QString &text)
 } // namespace
 
 MRVApplicationState::MRVApplicationState(QObject *parent)
-    : MRVSettings(NativeFormat, UserScope,
-                  mrvSanitizeUserSettings(MRVOptions::companyName(), MRVOptions::applicationName()),
-                  MRVOptions::applicationName(), parent)
+    : MRVSettings(NativeFormat, UserScope, MRVOptions::companyName(), MRVOptions::applicationName(),
+                  parent)
 {
 }
 

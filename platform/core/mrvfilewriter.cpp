@@ -99,6 +99,11 @@ bool writeAll(QIODevice *file, const QByteArray &bytes, QString *reason)
         }
         done += count;
     }
+    // What a file system has only claimed to take is missing from the file.
+    if (file->size() != bytes.size()) {
+        *reason = MRVFileWriter::tr("not all of it was written");
+        return false;
+    }
     return true;
 }
 

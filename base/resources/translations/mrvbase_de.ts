@@ -582,6 +582,10 @@ Fehler: %2</translation>
         <source>its folder does not exist</source>
         <translation>Ihr Ordner existiert nicht</translation>
     </message>
+    <message>
+        <source>not all of it was written</source>
+        <translation>nicht alles davon wurde geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>MRVFinalDraft</name>
@@ -1203,40 +1207,28 @@ Fehler: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>No space is left for temporary files</source>
-        <translation>Für temporäre Dateien ist kein Platz</translation>
-    </message>
-    <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>
         <translation>Die Datei „%1“ kann nicht geschrieben werden: Sie ist gesperrt</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: it is damaged</source>
-        <translation>Die Datei „%1“ kann nicht geschrieben werden: Sie ist beschädigt</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: %2</source>
-        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>it is not a regular file</source>
-        <translation>Es handelt sich nicht um eine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>The settings have no file</source>
         <translation>Die Einstellungen haben keine Datei</translation>
     </message>
     <message>
-        <source>The settings cannot be saved while an array of them is open</source>
-        <translation>Die Einstellungen können nicht gespeichert werden, solange ein Feld von ihnen offen ist</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;</source>
-        <translation>Die Datei „%1“ kann nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>Die Datei „%1“ enthält keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is not a regular file</source>
+        <translation>„%1“ ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it cannot be locked</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: Sie kann nicht gesperrt werden</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,10 @@ Error: %2</translation>
         <source>its folder does not exist</source>
         <translation>su carpeta no existe</translation>
     </message>
+    <message>
+        <source>not all of it was written</source>
+        <translation>no se ha escrito todo</translation>
+    </message>
 </context>
 <context>
     <name>MRVFinalDraft</name>
@@ -1203,40 +1207,28 @@ Error: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>No space is left for temporary files</source>
-        <translation>No hay espacio para archivos temporales</translation>
-    </message>
-    <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>
         <translation>No se puede escribir el archivo «%1»: está bloqueado</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: it is damaged</source>
-        <translation>No se puede escribir el archivo «%1»: está dañado</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: %2</source>
-        <translation>No se puede escribir el archivo «%1»: %2</translation>
-    </message>
-    <message>
-        <source>it is not a regular file</source>
-        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>The settings have no file</source>
         <translation>Los ajustes no tienen archivo</translation>
     </message>
     <message>
-        <source>The settings cannot be saved while an array of them is open</source>
-        <translation>Los ajustes no se pueden guardar mientras una de sus matrices esté abierta</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;</source>
-        <translation>No se puede escribir el archivo «%1»</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>El archivo «%1» no contiene ajustes</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>No se puede leer el archivo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is not a regular file</source>
+        <translation>«%1» no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it cannot be locked</source>
+        <translation>No se puede escribir el archivo «%1»: no se puede bloquear</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,10 @@ Erreur&#xa0;: %2</translation>
         <source>its folder does not exist</source>
         <translation>son dossier n’existe pas</translation>
     </message>
+    <message>
+        <source>not all of it was written</source>
+        <translation>tout n’a pas été écrit</translation>
+    </message>
 </context>
 <context>
     <name>MRVFinalDraft</name>
@@ -1203,40 +1207,28 @@ Erreur&#xa0;: %2</translation>
 <context>
     <name>MRVSettings</name>
     <message>
-        <source>No space is left for temporary files</source>
-        <translation>Il n’y a pas de place pour les fichiers temporaires</translation>
-    </message>
-    <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>
         <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: il est verrouillé</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: it is damaged</source>
-        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: il est endommagé</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;: %2</source>
-        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>it is not a regular file</source>
-        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>The settings have no file</source>
         <translation>Les réglages n’ont pas de fichier</translation>
     </message>
     <message>
-        <source>The settings cannot be saved while an array of them is open</source>
-        <translation>Les réglages ne peuvent pas être enregistrés tant qu’un de leurs tableaux est ouvert</translation>
-    </message>
-    <message>
-        <source>Cannot write the file &quot;%1&quot;</source>
-        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; does not hold settings</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &quot;%1&quot;: %2</source>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is not a regular file</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: it cannot be locked</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: il ne peut pas être verrouillé</translation>
     </message>
 </context>
 <context>
