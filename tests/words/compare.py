@@ -177,7 +177,8 @@ def difference(expected, found, path=""):
 def written_through(path, kind, folder):
     copy = os.path.join(folder, f"{os.path.basename(path)}.{kind}")
     for output in copy, copy + ".html":
-        subprocess.run(["pandoc", path, "-o", output, "--resource-path", os.path.dirname(path)], check=True)
+        whole = ["--standalone"] if output.endswith(".rtf") else []  # else RTF has no signature
+        subprocess.run(["pandoc", path, "-o", output, "--resource-path", os.path.dirname(path), *whole], check=True)
     return copy
 
 
