@@ -214,6 +214,7 @@ private:
                           "<office:document-content xmlns:office=\"urn:oasis:names:tc:"
                           "opendocument:xmlns:office:1.0\" xmlns:text=\"urn:oasis:names:tc:"
                           "opendocument:xmlns:text:1.0\" "
+                          "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
                           "xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
                           "xmlns:draw=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\"><"
                           "office:font-face-decls/><office:automatic-styles/>"

@@ -47,6 +47,25 @@ QByteArray withPlainFolders(const QByteArray &xml)
     return plain + xml.mid(done);
 }
 
+// Headings in cells become paragraphs: pandoc leaves them out.
+QByteArray withoutHeadingsInCells(const QByteArray &xml)
+{
+    QByteArray plain;
+    int done = 0;
+    int cells = 0; // around this place
+    MRVOfficeTag tag;
+    for (MRVOfficeTags tags(xml); tags.next(&tag);) {
+        if (tag.is("table:table-cell") && tag.kind != MRVOfficeTag::Empty) {
+            cells += tag.kind == MRVOfficeTag::Start ? 1 : -1;
+        } else if (cells > 0 && tag.is("text:h")) {
+            const int letter = tag.begin + (tag.kind == MRVOfficeTag::End ? 7 : 6);
+            plain += xml.mid(done, letter - done) + 'p';
+            done = letter + 1;
+        }
+    }
+    return done > 0 ? plain + xml.mid(done) : xml;
+}
+
 bool isSkipped(const QStringRef &name)
 {
     static const QStringList names{QStringLiteral("office:annotation"),
@@ -98,7 +117,7 @@ int startOfParagraph(const QByteArray &xml, int at)
 QByteArray mrvPreparedOdt(QByteArray xml)
 {
     xml = withPlainFolders(mrvWithPlainRuby(mrvWithBoxesAfterParagraphs(xml)));
-    xml = mrvWithoutTags(xml, "table:table-header-rows");
+    xml = withoutHeadingsInCells(mrvWithoutTags(xml, "table:table-header-rows"));
     for (const char *start : {"<text:bookmark-start", "<text:bookmark"}) {
         QByteArray marked;
         int done = 0;

@@ -5,17 +5,17 @@
 #include <QString>
 
 /**
- * The content of an ODT as pandoc reads it: it leaves out rows of headings and formulas whose
- * folder is named with a slash, and gives names of places others. Instead, U+FDD0, the
- * name in hexadecimal digits and U+FDD1 mark a place.
+ * The content of an ODT as pandoc reads it: it leaves out text boxes, readings of characters, rows
+ * of headings, headings in cells, and formulas whose folder is named with a slash, and gives names
+ * of places others. Instead, U+FDD0, the name in hexadecimal digits and U+FDD1 mark a place.
  */
 QByteArray mrvPreparedOdt(QByteArray xml);
 /** The anchors of the places that mrvPreparedOdt() has marked; nothing else of that is left. */
 QString mrvWithAnchors(const QString &html);
 
 /**
- * A text of a DOCX as pandoc reads it: it leaves out names before paragraphs, and simple fields and
- * moved text with their content.
+ * A text of a DOCX as pandoc reads it: it leaves out text boxes, readings of characters, names
+ * before paragraphs, links by fields, and simple fields and moved text with their content.
  */
 QByteArray mrvPreparedDocx(QByteArray xml);
 
