@@ -155,23 +155,16 @@ QStringList outputFiles(const Call &call, const Options &options)
     const bool isFolder = !options.isPackage() && call.arguments.size() > 1;
     const QStringList inputs = call.has("book") ? QStringList(call.value("book")) : call.arguments;
     for (const QString &input : inputs) {
-        files.append(outputFile(input, call.value("output"), QStringLiteral("manuscript"),
-                                MRVTextXhtmlExporter::suffix(options.type), isFolder));
+        files.append(MRVOutputFiles::fileFor(input, call.value("output"),
+                                             QStringLiteral("manuscript"),
+                                             MRVTextXhtmlExporter::suffix(options.type), isFolder));
     }
     return options.isPackage() ? files.mid(0, 1) : files;
 }
 
-// Standard input and output are no files.
-QStringList filesOf(QStringList names)
-{
-    names.removeAll(StandardOutput);
-    names.removeAll(QString());
-    return names;
-}
-
 bool spareInputs(const QStringList &outputs, const QStringList &inputs, QString *error)
 {
-    const bool spared = MRVOutputFiles::spareInputs(filesOf(outputs), filesOf(inputs), error);
+    const bool spared = MRVOutputFiles::spareInputs(outputs, inputs, error);
     if (!spared) {
         *error += QLatin1String("; choose another with -o");
     }
@@ -187,7 +180,7 @@ int checkOutputs(const Call &call, const QStringList &outputs)
     }
     QString error;
     return spareInputs(outputs, call.arguments, &error)
-            && MRVOutputFiles::areDistinct(filesOf(outputs), &error)
+            && MRVOutputFiles::areDistinct(outputs, &error)
         ? -1
         : refuse(error);
 }

@@ -4,7 +4,6 @@
 #include "util/mrvnames.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -186,24 +185,6 @@ bool readsTwice(const QStringList &inputs)
         usageError(QStringLiteral("standard input can be read only once"));
     }
     return twice;
-}
-
-QString outputFile(const QString &input, const QString &output, const QString &standardName,
-                   const QString &suffix, bool isFolder)
-{
-    const QLatin1String standardStream("-");
-    const bool standard = input == standardStream;
-    const QString name =
-        (standard ? standardName : QFileInfo(input).completeBaseName()) + u'.' + suffix;
-    if (output.isEmpty()) {
-        return standard ? QString(standardStream) : QFileInfo(input).dir().filePath(name);
-    }
-    if (output == standardStream) {
-        return output;
-    }
-    return isFolder || output.endsWith(u'/') || QFileInfo(output).isDir()
-        ? QDir(output).filePath(name)
-        : output;
 }
 
 bool writeOutput(const QByteArray &bytes, const QString &file, QString *error)

@@ -104,15 +104,5 @@ bool readsTwice(const QStringList &inputs);
 /** All of standard input; @p reason receives a text when it cannot be read. */
 QByteArray standardInput(QString *reason);
 
-/**
- * Where to write what is made of an input: @p output, or a file named after the input in the folder
- * @p output or, without one, beside the input. Standard input goes to standard output.
- *
- * @param standardName what a file for standard input is called.
- * @param isFolder     whether @p output is a folder although it does not exist.
- */
-QString outputFile(const QString &input, const QString &output, const QString &standardName,
-                   const QString &suffix, bool isFolder = false);
-
 /** Writes a file with MRVStagedFiles; "-" is standard output. */
 bool writeOutput(const QByteArray &bytes, const QString &file, QString *error);

@@ -4,6 +4,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvscriptbook.h"
+#include "publish/mrvoutputfiles.h"
 #include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
@@ -111,8 +112,8 @@ int readOptions(const Call &call, ConvertOptions *options)
 // Finds the file to write. @return -1 to go on, else the exit code.
 int readOutput(const QString &output, ConvertOptions *options)
 {
-    options->output = outputFile(options->input, output, QStringLiteral("script"),
-                                 MRVScriptFile::suffix(options->to));
+    options->output = MRVOutputFiles::fileFor(options->input, output, QStringLiteral("script"),
+                                              MRVScriptFile::suffix(options->to));
     const bool toFile = options->output != StandardStream;
     // Nobody named it, so what stands there may be somebody's work.
     if (toFile && (output.isEmpty() || QFileInfo(output).isDir())

@@ -204,6 +204,8 @@ private Q_SLOTS:
         }
         QVERIFY(!MRVOutputFiles::areDistinct({in("none/a"), in("none/../none/a")}));
         QVERIFY(MRVOutputFiles::spareInputs({in("b")}, {in("a")}));
+        QVERIFY(MRVOutputFiles::areDistinct({"-", "-"}));
+        QVERIFY(MRVOutputFiles::spareInputs({"-"}, {"-", ""}));
     }
 
     void dates_data() { addRows("fixeddates.tsv"); }

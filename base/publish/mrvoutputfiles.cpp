@@ -3,14 +3,39 @@
 #include "util/mrvfailure.h"
 #include "util/mrvlocalfile.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSet>
+
+namespace {
+
+constexpr QLatin1String StandardStream("-");
+
+}
+
+QString MRVOutputFiles::fileFor(const QString &input, const QString &output,
+                                const QString &standardName, const QString &suffix, bool isFolder)
+{
+    const bool standard = input == StandardStream;
+    const QString name =
+        (standard ? standardName : QFileInfo(input).completeBaseName()) + u'.' + suffix;
+    if (output.isEmpty()) {
+        return standard ? QString(StandardStream) : QFileInfo(input).dir().filePath(name);
+    }
+    if (output == StandardStream) {
+        return output;
+    }
+    return isFolder || output.endsWith(u'/') || QFileInfo(output).isDir()
+        ? QDir(output).filePath(name)
+        : output;
+}
 
 bool MRVOutputFiles::areDistinct(const QStringList &outputs, QString *error)
 {
     QSet<QString> known;
     for (const QString &output : outputs) {
         const QString name = MRV::fileIdentity(output);
-        if (known.contains(name)) {
+        if (output != StandardStream && known.contains(name)) {
             return MRV::fail(error, output, tr("two inputs would be written to this file"));
         }
         known.insert(name);
@@ -23,10 +48,12 @@ bool MRVOutputFiles::spareInputs(const QStringList &outputs, const QStringList &
 {
     QSet<QString> spared;
     for (const QString &input : inputs) {
-        spared.insert(MRV::fileIdentity(input));
+        if (!input.isEmpty() && input != StandardStream) {
+            spared.insert(MRV::fileIdentity(input));
+        }
     }
     for (const QString &output : outputs) {
-        if (spared.contains(MRV::fileIdentity(output))) {
+        if (output != StandardStream && spared.contains(MRV::fileIdentity(output))) {
             return MRV::fail(error, output, tr("the output would replace an input"));
         }
     }
