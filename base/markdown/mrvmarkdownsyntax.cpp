@@ -116,7 +116,15 @@ cmark_node *headingId(cmark_inline_parser *text)
     return node;
 }
 
-cmark_node *subOrSuperscript(unsigned char mark, cmark_inline_parser *text)
+// A cell of a table holds no nodes of ours: cmark would lose them without a word.
+cmark_node *rawInline(const QByteArray &html)
+{
+    cmark_node *const node = cmark_node_new(CMARK_NODE_HTML_INLINE);
+    cmark_node_set_literal(node, html.constData());
+    return node;
+}
+
+cmark_node *subOrSuperscript(unsigned char mark, bool isInCell, cmark_inline_parser *text)
 {
     const int start = cmark_inline_parser_get_offset(text) + 1;
     const QByteArray content = textUntil(" \t\n\\`*_[]<>&~^", start, text);
@@ -128,8 +136,15 @@ cmark_node *subOrSuperscript(unsigned char mark, cmark_inline_parser *text)
         return nullptr;
     }
     cmark_inline_parser_set_offset(text, end + 1);
-    return mark == '~' ? customInline("<sub>", content, "</sub>")
-                       : customInline("<sup>", content, "</sup>");
+    const QByteArray name = mark == '~' ? "sub" : "sup";
+    const QByteArray enter = '<' + name + '>';
+    const QByteArray exit = "</" + name + '>';
+    return isInCell ? rawInline(enter + content + exit) : customInline(enter, content, exit);
+}
+
+bool isCell(cmark_node *node)
+{
+    return QByteArray(cmark_node_get_type_string(node)) == "table_cell";
 }
 
 } // namespace
@@ -236,6 +251,6 @@ cmark_node *MRVMarkdownSyntax::matchInline(cmark_syntax_extension *extension, cm
         return headingId(text);
     }
     return (character == '~' || character == '^') && self->m_parts.testFlag(SubAndSuperscript)
-        ? subOrSuperscript(character, text)
+        ? subOrSuperscript(character, isCell(parent), text)
         : nullptr;
 }
