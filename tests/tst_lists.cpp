@@ -289,6 +289,10 @@ private Q_SLOTS:
         list->setProperty("BlockLevels", 7);
         QVERIFY(blockLevels(*list).isEmpty());
 
+        const MRVTextBlockLevelMap own{{list->item(1), 7}};
+        list->setProperty("BlockLevels", QVariant::fromValue(own));
+        QCOMPARE(blockLevels(*list), own);
+
         const MRVTextBlockLevelMap levels{{list->item(0), 0}, {list->item(2), 5}};
         setBlockLevels(*list, levels);
         document.undo();
@@ -299,6 +303,9 @@ private Q_SLOTS:
         QVERIFY(!document.isModified());
         QCOMPARE(blockLevels(*list), levels);
         QCOMPARE(list->property("BlockLevels").typeName(), "MRVTextBlockLevelMap");
+        list->setProperty("BlockLevels", QVariant::fromValue(own));
+        QCOMPARE(blockLevels(*list), own);
+        setBlockLevels(*list, levels);
         Levels::setBlockLevel(*list, list->item(3), 6);
         // The map that is kept names a paragraph that is gone then.
         MRVTextRange(8, 14).toTextCursor(&document).removeSelectedText();

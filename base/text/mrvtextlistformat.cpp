@@ -35,6 +35,8 @@ constexpr double LeftIndent = 36.0;
 constexpr double TextIndent = 18.0;
 
 constexpr char BlockLevelsProperty[] = "BlockLevels";
+// The map that setBlockLevels() has put there, whose paragraphs carry their levels themselves.
+constexpr char AppliedLevelsProperty[] = "_mrv_AppliedBlockLevels";
 
 QTextBlock blockAt(const QTextDocument *document, int position)
 {
@@ -243,16 +245,22 @@ void setBlockLevels(QTextList &list, const MRVTextBlockLevelMap &levels)
     }
     cursor.endEditBlock();
     list.setProperty(BlockLevelsProperty, QVariant::fromValue(levels));
+    list.setProperty(AppliedLevelsProperty, QVariant::fromValue(levels));
 }
 
 MRVTextBlockLevelMap blockLevels(const QTextList &list)
 {
-    MRVTextBlockLevelMap result;
     const QVariant kept = list.property(BlockLevelsProperty);
     if (kept.userType() != qMetaTypeId<MRVTextBlockLevelMap>()) {
-        return result;
+        return MRVTextBlockLevelMap();
     }
-    const QHash<int, int> named = levelsByIndex(kept.value<MRVTextBlockLevelMap>());
+    const auto levels = kept.value<MRVTextBlockLevelMap>();
+    const QVariant applied = list.property(AppliedLevelsProperty);
+    if (!applied.isValid() || applied.value<MRVTextBlockLevelMap>() != levels) {
+        return levels;
+    }
+    MRVTextBlockLevelMap result;
+    const QHash<int, int> named = levelsByIndex(levels);
     for (int i = 0; i < list.count(); ++i) {
         const QTextBlock block = list.item(i);
         const int level = mrvListLevel(list, block);

@@ -125,7 +125,8 @@ public:
 MRVBASE_EXPORT void setBlockLevels(QTextList &list, const MRVTextBlockLevelMap &levels);
 /**
  * The levels of a list whose levels were set by setBlockLevels(): the present level of each of its
- * paragraphs that is not on level 0, and of those on level 0 that the map given then named. Empty
- * where the property "BlockLevels" is absent or no such map; blockLevel() works for every list.
+ * paragraphs that is not on level 0, and of those on level 0 that the map given then named. A map
+ * that the application itself has set as the property "BlockLevels" is returned as it is. Empty
+ * where the property is absent or no such map; blockLevel() works for every list.
  */
 MRVBASE_EXPORT MRVTextBlockLevelMap blockLevels(const QTextList &list);
