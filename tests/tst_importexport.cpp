@@ -65,6 +65,11 @@ private Q_SLOTS:
         QVERIFY(MRVImportExportConfig::kindleGenExists());
         QVERIFY(MRVImportExportConfig::exportFormats().contains(F::MOBI));
         QVERIFY(converter.remove());
+        const MRVOptions other(folder.filePath("other.ini"));
+        const QByteArray byDefault =
+            MRVImportExportConfig::toByteArray(MRVImportExportConfig::defaultExportEngines());
+        QCOMPARE(mrvOptions()->value(MRVOptions::ExportFormatConverters), byDefault);
+        QCOMPARE(other.value(MRVOptions::ExportFormatConverters), byDefault);
         QCOMPARE(MRVImportExportConfig::exportFormats().size(), 18);
         QCOMPARE(MRVImportExportConfig::defaultExportEngines().size(), 18);
         QCOMPARE(MRVImportExportConfig::importFormats().size(), 10);
@@ -292,7 +297,7 @@ private Q_SLOTS:
         QCOMPARE(options.value(MRVOptions::ImportFormatConverters),
                  toByteArray(defaultEngines(Import, {})));
         QCOMPARE(options.value(MRVOptions::ExportFormatConverters),
-                 toByteArray(defaultEngines(Export, {})));
+                 toByteArray(MRVImportExportConfig::defaultExportEngines()));
         MRVImportExportConfig config(&options);
         QVERIFY(config.setExportFormatEngines(
             {{F::PDF, E::Doc2AnyPreferMsOffice}, {F::DOCX, E::RtfBasedDoc}}));

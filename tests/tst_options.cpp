@@ -1,5 +1,4 @@
 #include "datarows.h"
-#include "engines/mrvimportexportconfig.h"
 #include "options/mrvoptions.h"
 #include "support.h"
 
@@ -363,17 +362,6 @@ private Q_SLOTS:
         m_options->setDefaultImportUrlType(MRVImportExport::ImportAsMht);
         QCOMPARE(reread()->defaultImportUrlType(), MRVImportExport::ImportAsMht);
         QCOMPARE(reread()->value(MRVOptions::ImportDefaultUrlType), QByteArray("ImportAsMht"));
-    }
-
-    // MOBI is among the export formats while its converter is there.
-    void kindleConverter()
-    {
-        const QByteArray without = m_options->value(MRVOptions::ExportFormatConverters);
-        QVERIFY(writeBytes(m_folder->filePath("kindle"), "x"));
-        m_options->setValue(MRVOptions::KindlePath, m_folder->filePath("kindle"));
-        const QByteArray with = m_options->value(MRVOptions::ExportFormatConverters);
-        QCOMPARE(MRVImportExportConfig::toFormatEngines(with).size(),
-                 MRVImportExportConfig::toFormatEngines(without).size() + 1);
     }
 
     void folders()

@@ -57,7 +57,8 @@ QSet<Format> MRVImportExportConfig::importFormats()
 
 QSet<Format> MRVImportExportConfig::exportFormats()
 {
-    static const QSet<Format> set = toSet(formats(Export, applications(kindleGenExists())));
+    static const QSet<Format> set =
+        toSet(formats(Export, applications(MRVOptions::hasKindleConverter())));
     return set;
 }
 

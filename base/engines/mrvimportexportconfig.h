@@ -68,8 +68,9 @@ public:
     /** The formats that can be turned into RTF. */
     static QSet<MRVFormat::Format> importFormats();
     /**
-     * The formats that RTF can be turned into. MOBI is among them if kindleGenExists() was true at
-     * the first call: a Kindle converter installed later is noticed at the next start.
+     * The formats that RTF can be turned into. MOBI is among them if
+     * MRVOptions::hasKindleConverter()
+     * is true: a Kindle converter installed later is noticed at the next start.
      */
     static QSet<MRVFormat::Format> exportFormats();
     /**

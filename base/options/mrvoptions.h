@@ -389,6 +389,13 @@ public:
     /** "Morvane", too; the settings of the user are in "Morvane/Morvane.conf". */
     static QString applicationName();
 
+    /**
+     * Whether the user's own KindlePath named an existing file when this was first asked in this
+     * process. Until the next start it decides whether MOBI is among the export formats, and so in
+     * the default of ExportFormatConverters.
+     */
+    static bool hasKindleConverter();
+
     bool defaultValue(FlagSetting setting) const override;
     int defaultValue(IntSetting setting) const override;
     qreal defaultValue(RealSetting setting) const override;

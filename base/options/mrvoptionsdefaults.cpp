@@ -143,14 +143,9 @@ QByteArray defaultImportEngines()
 
 QByteArray defaultExportEngines()
 {
-    return exportEngines(false);
-}
-
-QByteArray exportEngines(bool hasKindleConverter)
-{
     using namespace MRVEngineTables;
     Applications applications;
-    applications.kindleConverter = hasKindleConverter;
+    applications.kindleConverter = MRVOptions::hasKindleConverter();
     return MRVEngineTables::toByteArray(defaultEngines(Export, applications));
 }
 

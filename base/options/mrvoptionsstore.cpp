@@ -52,6 +52,12 @@ QString MRVOptions::applicationName()
     return QStringLiteral("Morvane");
 }
 
+bool MRVOptions::hasKindleConverter()
+{
+    static const bool isThere = mrvOptions() && QFileInfo::exists(mrvOptions()->value(KindlePath));
+    return isThere;
+}
+
 bool MRVOptions::defaultValue(FlagSetting setting) const
 {
     const FlagRow *row = rowOf(setting);
@@ -115,10 +121,6 @@ QList<int> MRVOptions::defaultValue(IntListSetting) const
 
 QByteArray MRVOptions::defaultValue(ByteArraySetting setting) const
 {
-    // The format that the converter makes is an export format only where a converter is set.
-    if (setting == ExportFormatConverters) {
-        return exportEngines(QFileInfo::exists(value(KindlePath)));
-    }
     const ByteArrayRow *row = rowOf(setting);
     return row ? row->value.make() : QByteArray();
 }

@@ -206,8 +206,6 @@ QByteArray defaultUrlImportType();
 QByteArray defaultCodec();
 QByteArray defaultImportEngines();
 QByteArray defaultExportEngines();
-/** With the format that needs a converter of its own, where there is one. */
-QByteArray exportEngines(bool hasKindleConverter);
 bool isMeasure(const QString &text);
 bool isLocaleName(const QString &text);
 bool isShortcutScheme(const QByteArray &bytes);
