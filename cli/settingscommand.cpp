@@ -43,6 +43,16 @@ QString shownText(MRVOptions::SettingType type, const QVariant &value)
     return displayed(text);
 }
 
+QString shownProblem(const MRVOptions::Problem &problem)
+{
+    constexpr int LongestText = 60;
+    QString text = displayed(problem.stored);
+    if (text.size() > LongestText) {
+        text = text.left(LongestText) + u'\u2026';
+    }
+    return QStringLiteral("%1 (%2: %3)").arg(text, problem.kindName(), displayed(problem.message));
+}
+
 int get(const Call &call, MRVOptions *options)
 {
     for (const QString &key : call.arguments) {
@@ -137,12 +147,17 @@ int explain(const Call &call, MRVOptions *options)
             continue;
         }
         printLine(key);
+        printLine(QLatin1String("  label    ") + explanation.label);
+        printLine(QLatin1String("  about    ") + explanation.description);
         printLine(QLatin1String("  type     ") + MRVOptions::typeName(explanation.type));
         printLine(QLatin1String("  value    ") + shownText(explanation.type, explanation.value));
         printLine(QLatin1String("  default  ")
                   + shownText(explanation.type, explanation.defaultValue));
-        if (!explanation.accepts.isEmpty()) {
-            printLine(QLatin1String("  accepts  ") + explanation.accepts);
+        if (!explanation.accepts().isEmpty()) {
+            printLine(QLatin1String("  accepts  ") + explanation.accepts());
+        }
+        if (!explanation.problem.key.isEmpty()) {
+            printLine(QLatin1String("  stored   ") + shownProblem(explanation.problem));
         }
         if (const QStringList names = options->pdfSettingsNames();
             key == PdfSettings && !names.isEmpty()) {
@@ -177,8 +192,37 @@ int exportTo(const Call &call, MRVOptions *options)
     return options->saveToFile(path, &error) ? Done : refuse(error);
 }
 
-// Reading replaces all that is there: it must not begin before there is something to put in its
-// place.
+void printProblem(const Call &call, const MRVOptions::Problem &problem)
+{
+    printAnswer(call, problem.toJson(),
+                displayed(problem.key) + QLatin1String(" = ") + shownProblem(problem));
+}
+
+int checkAll(const Call &call, MRVOptions *options)
+{
+    const QList<MRVOptions::Problem> problems = options->problems();
+    for (const MRVOptions::Problem &problem : problems) {
+        printProblem(call, problem);
+    }
+    return problems.isEmpty() ? Done : Failed;
+}
+
+int check(const Call &call)
+{
+    if (call.arguments.isEmpty()) {
+        return withSettings<Access::Read, checkAll>(call);
+    }
+    if (call.has("settings")) {
+        return usageError(QStringLiteral("either --settings or a file can be given"));
+    }
+    QString error;
+    MRVOptionsFile file;
+    return file.open(call.arguments.constFirst(), Access::Read, &error)
+        ? checkAll(call, file.options())
+        : refuse(error);
+}
+
+// What is left out is told before the rest is saved, so that no failure hides it.
 int importFrom(const Call &call, MRVOptions *options)
 {
     const QString path = call.arguments.constFirst();
@@ -190,8 +234,16 @@ int importFrom(const Call &call, MRVOptions *options)
     if (source.options()->allKeys().isEmpty()) {
         return refuse(QStringLiteral("%1: it contains no settings").arg(path));
     }
-    options->loadFromFile(path);
-    return save(options);
+    const bool keepsAll = call.has("keep-invalid");
+    const QList<MRVOptions::Problem> left = options->importFrom(
+        *source.options(), keepsAll ? MRVOptions::Import::All : MRVOptions::Import::Usable);
+    for (const MRVOptions::Problem &problem : left) {
+        printError(QStringLiteral("%1: %2: %3 is %4")
+                       .arg(path, problem.key, shownProblem(problem),
+                            keepsAll ? QStringLiteral("kept") : QStringLiteral("left out")));
+    }
+    const int code = save(options);
+    return left.isEmpty() || keepsAll ? code : int(Failed);
 }
 
 constexpr Verb verbs[] = {
@@ -201,18 +253,25 @@ constexpr Verb verbs[] = {
     {"reset", "KEY...", "go back to the default", withSettings<Access::Change, reset>},
     {"list", "[WORD...]", "list the settings whose keys contain all words",
      withSettings<Access::Read, list>},
-    {"explain", "KEY...", "print value, default, accepted values, and the source of the value",
+    {"explain", "KEY...",
+     "print what settings are for, their values, defaults and limits, and where a value is from",
      withSettings<Access::Read, explain>},
+    {"check", "[FILE]",
+     "list stored values that are out of limits, unknown or unreadable; exit code 1 if there are "
+     "any",
+     check},
     {"changed", "", "list the settings that differ from their defaults",
      withSettings<Access::Read, changed>},
     {"export", "FILE", "copy what is stored into an INI file",
      withSettings<Access::Read, exportTo>},
     {"import", "FILE", "replace what is stored by an exported file",
-     withSettings<Access::Create, importFrom>},
+     withSettings<Access::Create, importFrom>,
+     "Values that \"check\" lists are left out with a message each; the exit code is then 1."},
 };
 
 constexpr Option options[] = {
     settingsOption,
+    Option::flag("keep-invalid", "Import values that \"check\" lists, too.", "import"),
     Option::flag("json", "Print each setting as a line of JSON."),
 };
 

@@ -179,6 +179,22 @@ private Q_SLOTS:
                  QString("AutoCorrection/personalWords = Möwe, a,b (default: )\n"));
     }
 
+    void importsUsableSettings()
+    {
+        QVERIFY(writeBytes(in("b.ini"), "[Options]\nBackups\\onSave=true\nBackups\\retain=-5\n"));
+        const Ran some = mrv("settings import @b.ini --settings @a.ini");
+        QCOMPARE(some.exitCode, 1);
+        QVERIFY2(some.errors.contains("Backups/retain: -5 (limits: "), qPrintable(some.errors));
+        QCOMPARE(bytesOf(in("a.ini")), QByteArray("[Options]\nBackups\\onSave=true\n"));
+        const Ran all = mrv("settings import @b.ini --settings @a.ini --keep-invalid");
+        QCOMPARE(all.exitCode, 0);
+        QCOMPARE(bytesOf(in("a.ini")), bytesOf(in("b.ini")));
+        // Where nothing is left, nothing is replaced.
+        QVERIFY(writeBytes(in("c.ini"), "[Options]\nBackups\\retain=-5\n"));
+        QCOMPARE(mrv("settings import @c.ini --settings @a.ini").exitCode, 1);
+        QCOMPARE(bytesOf(in("a.ini")), bytesOf(in("b.ini")));
+    }
+
     // What cannot be read replaces nothing, and nothing is written over a file of another kind.
     void losesNoSettings()
     {

@@ -169,6 +169,74 @@ private Q_SLOTS:
         QVERIFY(m_options->allKeys().isEmpty());
     }
 
+    void problems_data() { addRows("optionproblems.tsv"); }
+    // What a file holds beyond the limits stays there, but does not reach the application.
+    void problems()
+    {
+        const QByteArray bytes = "[Options]\n" + cell("line").toUtf8() + '\n';
+        const QString path = m_folder->filePath("stored.ini");
+        QVERIFY(writeBytes(path, bytes));
+        const MRVOptions options(path);
+        const auto problems = options.problems();
+        QCOMPARE(problems.isEmpty() ? "none" : problems.first().kindName(), cell("kind"));
+        const QString key = options.allKeys().first();
+        if (!problems.isEmpty()) {
+            QCOMPARE(problems.size(), 1);
+            QCOMPARE(problems.first().key, key);
+            QTEST(problems.first().stored, "raw");
+            QVERIFY(!problems.first().message.isEmpty());
+        }
+        const auto setting = options.explain(key);
+        if (!cell("read").isEmpty()) {
+            QTEST(MRVOptions::toText(setting.type, setting.value), "read");
+        }
+        if (!setting.key.isEmpty()) {
+            QCOMPARE(setting.problem.message.isEmpty(), problems.isEmpty());
+        }
+        m_options->setValue(MRVOptions::SmartQuotes, false);
+        MRVOptions all(m_folder->filePath("all.ini"));
+        QCOMPARE(m_options->importFrom(options, MRVOptions::Import::Usable).size(),
+                 problems.size());
+        all.importFrom(options, MRVOptions::Import::All);
+        QCOMPARE(m_options->contains(key), problems.isEmpty());
+        QCOMPARE(m_options->value(MRVOptions::SmartQuotes), problems.isEmpty());
+        QCOMPARE(all.value(key), options.value(key));
+        QCOMPARE(bytesOf(path), bytes);
+    }
+
+    // What a page of preferences is made from.
+    void settingTexts()
+    {
+        const auto settings = MRVOptions::settings();
+        QCOMPARE(settings.size(), MRVOptions::settingKeys().size());
+        QSet<QString> labels;
+        QStringList groups;
+        for (const auto &setting : settings) {
+            QVERIFY2(setting.description.endsWith('.'), qPrintable(setting.key));
+            QVERIFY2(setting.description != setting.label, qPrintable(setting.key));
+            QVERIFY2(!setting.label.contains(QRegularExpression("[.:]$|^$")),
+                     qPrintable(setting.key));
+            labels << setting.group + QString::number(setting.type) + setting.label;
+            QCOMPARE(MRVOptions::label(setting.key), setting.label);
+            QCOMPARE(MRVOptions::description(setting.key), setting.description);
+            if (groups.isEmpty() || groups.last() != setting.group) {
+                groups << setting.group;
+            }
+            for (const auto &choice : setting.choices) {
+                QVERIFY2(!choice.label.isEmpty(), qPrintable(setting.key));
+            }
+        }
+        QCOMPARE(labels.size(), settings.size());
+        QCOMPARE(groups.removeDuplicates(), 0);
+        QCOMPARE(groups.first(), QString("General"));
+        QVERIFY(!groups.contains(QString()));
+        QCOMPARE(MRVOptions::label(MRVOptions::SaveInterval), QString("Save after (seconds)"));
+        QCOMPARE(MRVOptions::label(MRVOptions::TextColor), QString("Text"));
+        QVERIFY(MRVOptions::label(MRVOptions::FlagSetting(60)).isEmpty());
+        QVERIFY(MRVOptions::description(MRVOptions::IntListSetting(0)).isEmpty());
+        QVERIFY(MRVOptions::label("General/none").isEmpty());
+    }
+
     void explainsOrigin()
     {
         const QString key = "Backups/retain";

@@ -354,23 +354,78 @@ public:
         BlockFormatType = 11,
     };
 
-    /** What is known of one setting of a store. */
-    struct Explanation
+    /** A value that a setting takes, and the translated text that the user chooses it by. */
+    struct Choice
+    {
+        QVariant value; ///< an int or a text
+        QString label;
+    };
+
+    /** What a page of preferences has to know of a setting, whatever is stored. */
+    struct SettingInfo
     {
         QString key; ///< below "Options"; empty for a setting that does not exist
         SettingType type = FlagType;
         int number = -1; ///< within its enumeration; -1 where it has none (the separators)
+        QString group; ///< the translated title of the settings that belong together
+        QString label; ///< translated, without a colon; unique among those of its type in a group
+        QString description; ///< one translated sentence
+        bool isPreference = true; ///< false for what the application itself keeps in a setting
+        QVariant least; ///< of a number; invalid for other types
+        QVariant most; ///< the largest value, which is accepted, too
+        QList<Choice> choices; ///< all that is accepted, where that has names; else empty
+
+        /** The limits, or the words, that setFromText() keeps to; empty for none. */
+        QString accepts() const;
+    };
+
+    /** A stored value that is not one of its setting's. */
+    struct Problem
+    {
+        enum Kind : int {
+            UnknownKey = 0, ///< no setting has the key
+            OutOfLimits = 1, ///< read as the nearest limit, or by typed readers as the default
+            Unreadable = 2, ///< not a value of the type: read as the default
+        };
+
+        QString key; ///< below "Options"
+        Kind kind = UnknownKey;
+        QString stored; ///< the value as text; bytes as toText() gives them
+        QString message; ///< a translated line that tells what is wrong, without the key
+
+        /** "unknown", "limits" or "unreadable". Not translated. */
+        QString kindName() const;
+        /** For programs: "key"; "kind", its kindName(); "stored"; "message". */
+        QJsonObject toJson() const;
+    };
+
+    /** Which values importFrom() takes. */
+    enum class Import {
+        Usable, ///< those without a Problem
+        All,
+    };
+
+    /** What is known of one setting of a store. */
+    struct Explanation : SettingInfo
+    {
         QVariant
             value; ///< as the typed value() gives it; formats as QTextFormat, QList<int> as such
         QVariant defaultValue; ///< of the same type
-        QString accepts; ///< the limits, or the words, that setFromText() keeps to; empty for none
         QString origin; ///< path of the file that the value is from; empty for the default
+        Problem problem; ///< why the value is not the stored one; without a key where it is
 
+        Explanation() = default;
+        explicit Explanation(const SettingInfo &info)
+            : SettingInfo(info)
+        {
+        }
         /** Whether the value is another than the default. */
         bool isChanged() const;
         /**
-         * For programs: "key"; "type", its typeName(); "value" and "default" as
-         * MRVOptions::toJson() gives them; "changed"; "accepts", if not empty; "origin", or null.
+         * For programs: "key"; "type", its typeName(); "group", "label" and "description"; "value"
+         * and "default" as MRVOptions::toJson() gives them; "changed"; "preference"; "origin", or
+         * null. Where there are any: "accepts"; "least" and "most"; "choices", objects of a "value"
+         * and a "label"; "problem".
          */
         QJsonObject toJson() const;
     };
@@ -421,6 +476,55 @@ public:
     QString keyText(TextBlockFormat setting) const override;
     QString keyText(IntListSetting setting) const override;
     QString keyText(ByteArraySetting setting) const override;
+
+    using MRVSettings::value;
+    /**
+     * As that of the base class, but never outside of the setting's limits: a stored number beyond
+     * them reads as the nearest one. The stored value stays; see Explanation::problem.
+     */
+    int value(IntSetting setting) const;
+    qreal value(RealSetting setting) const;
+
+    /**
+     * @name Texts of settings
+     *
+     * For pages of preferences: what a setting is called there, without a colon, and a sentence on
+     * what it does. Translated; empty for a setting that does not exist.
+     */
+    //@{
+    static QString label(FlagSetting setting);
+    static QString label(IntSetting setting);
+    static QString label(RealSetting setting);
+    static QString label(StringSetting setting);
+    static QString label(StringListSetting setting);
+    static QString label(ColorSetting setting);
+    static QString label(DateTimeSetting setting);
+    static QString label(FontSetting setting);
+    static QString label(IntListSetting setting);
+    static QString label(ByteArraySetting setting);
+    static QString label(TextCharFormat setting);
+    static QString label(TextBlockFormat setting);
+    static QString label(const QString &key);
+    static QString description(FlagSetting setting);
+    static QString description(IntSetting setting);
+    static QString description(RealSetting setting);
+    static QString description(StringSetting setting);
+    static QString description(StringListSetting setting);
+    static QString description(ColorSetting setting);
+    static QString description(DateTimeSetting setting);
+    static QString description(FontSetting setting);
+    static QString description(IntListSetting setting);
+    static QString description(ByteArraySetting setting);
+    static QString description(TextCharFormat setting);
+    static QString description(TextBlockFormat setting);
+    static QString description(const QString &key);
+    //@}
+
+    /**
+     * All settings in the order in which pages of preferences show them: group by group, and in a
+     * group by type and number. Those that are no preferences are among them.
+     */
+    static QList<SettingInfo> settings();
 
     /** The stored word: the enumerator's name; that of the default outside the enumeration. */
     static QString toString(CorkCornerStyle style);
@@ -583,6 +687,20 @@ public:
     Explanation explain(const QString &key) const;
     /** The settings whose value is another than the default, by key. */
     QList<Explanation> changedSettings() const;
+
+    /**
+     * The stored values that are outside of their setting's limits, cannot be read as its type, or
+     * have a key that no setting has, by key. PDF settings, and the warnings of dialogs, may have
+     * any name.
+     */
+    QList<Problem> problems() const;
+    /**
+     * Puts what another store has in place of all that this one has, and emits settingsReset().
+     * Nothing is changed where there is no value to be taken.
+     *
+     * @return the problems of @p source; with Import::Usable, the values that were left out.
+     */
+    QList<Problem> importFrom(const MRVOptions &source, Import which);
 
     /** "flag", "int", ..., as the tool shows it. Not translated. */
     static QString typeName(SettingType type);

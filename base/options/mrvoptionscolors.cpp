@@ -12,15 +12,6 @@ struct ThemeRow
 };
 
 // clang-format off
-constexpr const char *GroupNames[] = {
-    QT_TRANSLATE_NOOP("MRVOptions", "Editor"),
-    QT_TRANSLATE_NOOP("MRVOptions", "Full screen"),
-    QT_TRANSLATE_NOOP("MRVOptions", "Index cards"),
-    QT_TRANSLATE_NOOP("MRVOptions", "Revisions"),
-    QT_TRANSLATE_NOOP("MRVOptions", "Backgrounds"),
-    QT_TRANSLATE_NOOP("MRVOptions", "Scratch pad"),
-};
-
 // The first is the default; its colours are the defaults of the two settings.
 constexpr ThemeRow Themes[] = {
     {QT_TRANSLATE_NOOP("MRVOptions", "White"),    0xffffffff, 0xff8a8f98},
@@ -33,8 +24,6 @@ constexpr ThemeRow Themes[] = {
     {QT_TRANSLATE_NOOP("MRVOptions", "Slate"),    0xffe4e7ec, 0xff798290},
 };
 // clang-format on
-
-static_assert(std::size(GroupNames) == int(MRVOptions::ScratchPadColors) + 1);
 
 MRVOptions::IndexCardTheme themeOf(const ThemeRow &row)
 {
@@ -54,13 +43,13 @@ QMap<MRVSettings::ColorSettingGroup, QList<MRVSettings::ColorSetting>> MRVOption
 
 QString MRVOptions::colorGroupName(ColorSettingGroup group)
 {
-    return uint(group) < std::size(GroupNames) ? tr(GroupNames[group]) : QString();
+    const char *title = titleOf(group);
+    return title ? tr(title) : QString();
 }
 
 QString MRVOptions::colorName(ColorSetting setting)
 {
-    const ColorRow *row = rowOf(setting);
-    return row ? tr(row->value.name) : QString();
+    return label(setting);
 }
 
 QList<MRVOptions::IndexCardTheme> MRVOptions::indexCardThemes()

@@ -93,22 +93,6 @@ QString systemSnap()
     return isMetric() ? QStringLiteral("0.25cm") : QStringLiteral("0.125in");
 }
 
-QStringList measureWords()
-{
-    return {QStringLiteral("in"), QStringLiteral("cm"), QStringLiteral("mm"),
-            QStringLiteral("pi"), QStringLiteral("pt"), QStringLiteral("px")};
-}
-
-QStringList orientationWords()
-{
-    return {QStringLiteral("Vertical"), QStringLiteral("Horizontal")};
-}
-
-QString defaultCustomSeparator()
-{
-    return QStringLiteral("\n#\n");
-}
-
 QByteArray noBytes()
 {
     return QByteArray();
@@ -185,9 +169,9 @@ bool isPicture(const QByteArray &bytes)
 
 bool isAutoReplaceList(const QByteArray &bytes)
 {
-    MRVAutoReplaceList list;
-    list.fromByteArray(bytes);
-    return list.toByteArray() == bytes;
+    QString reason;
+    MRVAutoReplaceList().fromByteArray(bytes, &reason);
+    return reason.isEmpty();
 }
 
 bool isUrlImportType(const QByteArray &bytes)

@@ -2,6 +2,7 @@
 
 #include "util/mrvclosestmatch.h"
 
+#include <QJsonArray>
 #include <QMap>
 
 #include <algorithm>
@@ -47,62 +48,36 @@ QVariant variantOf(const QTextBlockFormat &format)
     return QTextFormat(format);
 }
 
-template<typename Setting, typename Default>
-QString acceptsOf(const Row<Setting, Default> &)
+// Explained is what the getter gives, whatever word is stored.
+QVariant valueOf(const MRVOptions &options, SeparatorSetting setting)
 {
-    return QString();
+    return setting.part == SeparatorSetting::Type
+        ? QString::fromLatin1(MRV::toString(options.separatorType(setting.context)))
+        : options.customSeparator(setting.context);
 }
 
-QString rangeOf(double least, double most)
+template<typename Entry>
+QVariant defaultOf(const MRVOptions &options, const Entry &row)
 {
-    return MRVOptions::tr("%1 to %2").arg(QString::number(least), QString::number(most));
+    return variantOf(options.defaultValue(row.setting));
 }
 
-QString acceptsOf(const IntRow &row)
+QVariant defaultOf(const MRVOptions &, const SeparatorRow &row)
 {
-    return rangeOf(row.value.least, row.value.most);
+    return QString::fromUtf8(row.value.utf8);
 }
 
-QString acceptsOf(const RealRow &row)
+template<typename Entry>
+MRVOptions::Explanation explanationOf(const MRVOptions &options, const Entry &row)
 {
-    return rangeOf(row.value.least, row.value.most);
-}
-
-QString acceptsOf(const StringRow &row)
-{
-    return row.value.words ? row.value.words().join(QLatin1String(", ")) : QString();
-}
-
-template<typename Setting, typename Default>
-MRVOptions::Explanation explanationOf(const MRVOptions &options, const Row<Setting, Default> &row)
-{
-    MRVOptions::Explanation explanation;
-    explanation.key = QString::fromLatin1(row.key);
-    explanation.type = typeOf(row.setting);
-    explanation.number = row.setting;
+    const QString key = QString::fromLatin1(row.key);
+    MRVOptions::Explanation explanation(infoOf(key));
     explanation.value = valueOf(options, row.setting);
-    explanation.defaultValue = variantOf(options.defaultValue(row.setting));
-    explanation.accepts = acceptsOf(row);
-    explanation.origin = options.originOf(explanation.key);
-    return explanation;
-}
-
-MRVOptions::Explanation explanationOf(const MRVOptions &options, const SeparatorRow &row,
-                                      const char *key)
-{
-    const bool isType = key == row.typeKey;
-    MRVOptions::Explanation explanation;
-    explanation.key = QString::fromLatin1(key);
-    explanation.type = MRVOptions::StringType;
-    explanation.value = isType
-        ? QString::fromLatin1(MRV::toString(options.separatorType(row.context)))
-        : options.customSeparator(row.context);
-    explanation.defaultValue =
-        isType ? QString::fromLatin1(MRV::toString(row.type)) : defaultCustomSeparator();
-    if (isType) {
-        explanation.accepts = separatorTypeWords().join(QLatin1String(", "));
+    explanation.defaultValue = defaultOf(options, row);
+    explanation.origin = options.originOf(key);
+    if (!explanation.origin.isEmpty()) {
+        explanation.problem = problemOf(key, options.value(key));
     }
-    explanation.origin = options.originOf(explanation.key);
     return explanation;
 }
 
@@ -110,13 +85,23 @@ constexpr QLatin1String PdfPrefix("PdfSettings/");
 
 MRVOptions::Explanation explanationOfPdf(const MRVOptions &options, const QString &name)
 {
-    MRVOptions::Explanation explanation;
+    MRVOptions::Explanation explanation(infoOf(options.keyText(MRVOptions::PdfSettings)));
     explanation.key = PdfPrefix + name;
-    explanation.type = MRVOptions::ByteArrayType;
+    explanation.number = -1;
     explanation.value = options.pdfSettings(name);
     explanation.defaultValue = QByteArray();
     explanation.origin = options.fileName();
     return explanation;
+}
+
+QJsonArray jsonOf(const Choices &choices)
+{
+    QJsonArray array;
+    for (const MRVOptions::Choice &choice : choices) {
+        array.append(QJsonObject{{QStringLiteral("value"), QJsonValue::fromVariant(choice.value)},
+                                 {QStringLiteral("label"), choice.label}});
+    }
+    return array;
 }
 
 // Calls visit(key, explain) for every setting; only those that are wanted need be explained.
@@ -126,11 +111,6 @@ void forEachSetting(const MRVOptions *options, const Visitor &visit)
     forEachRow([&](const auto &row) {
         visit(QLatin1String(row.key), [&] { return explanationOf(*options, row); });
     });
-    for (const SeparatorRow &row : separators()) {
-        for (const char *key : {row.typeKey, row.customKey}) {
-            visit(QLatin1String(key), [&] { return explanationOf(*options, row, key); });
-        }
-    }
 }
 
 } // namespace
@@ -146,13 +126,27 @@ QJsonObject MRVOptions::Explanation::toJson() const
     QJsonObject object{
         {QStringLiteral("key"), key},
         {QStringLiteral("type"), typeName(type)},
+        {QStringLiteral("group"), group},
+        {QStringLiteral("label"), label},
+        {QStringLiteral("description"), description},
         {QStringLiteral("value"), MRVOptions::toJson(type, value)},
         {QStringLiteral("default"), MRVOptions::toJson(type, defaultValue)},
         {QStringLiteral("changed"), isChanged()},
+        {QStringLiteral("preference"), isPreference},
         {QStringLiteral("origin"), origin.isEmpty() ? QJsonValue() : QJsonValue(origin)},
     };
-    if (!accepts.isEmpty()) {
-        object.insert(QStringLiteral("accepts"), accepts);
+    if (!accepts().isEmpty()) {
+        object.insert(QStringLiteral("accepts"), accepts());
+    }
+    if (least.isValid()) {
+        object.insert(QStringLiteral("least"), MRVOptions::toJson(type, least));
+        object.insert(QStringLiteral("most"), MRVOptions::toJson(type, most));
+    }
+    if (!choices.isEmpty()) {
+        object.insert(QStringLiteral("choices"), jsonOf(choices));
+    }
+    if (!problem.key.isEmpty()) {
+        object.insert(QStringLiteral("problem"), problem.toJson());
     }
     return object;
 }

@@ -137,6 +137,20 @@ QTextBlockFormat MRVOptions::defaultValue(TextBlockFormat setting) const
     return row ? row->value() : QTextBlockFormat();
 }
 
+int MRVOptions::value(IntSetting setting) const
+{
+    const IntRow *row = rowOf(setting);
+    const int number = MRVSettings::value(setting);
+    return row ? qBound(int(row->value.least), number, int(row->value.most)) : number;
+}
+
+qreal MRVOptions::value(RealSetting setting) const
+{
+    const RealRow *row = rowOf(setting);
+    const qreal number = MRVSettings::value(setting);
+    return row ? qBound(row->value.least, number, row->value.most) : number;
+}
+
 // clang-format off
 QString MRVOptions::keyText(FlagSetting setting) const { return keyOf(setting); }
 QString MRVOptions::keyText(IntSetting setting) const { return keyOf(setting); }

@@ -8,11 +8,17 @@
 
 /**
  * The tables of the options: one row a setting, in ascending order of the settings' numbers, in one
- * table for each type. Keys and defaults stand nowhere else.
+ * table for each type. Keys, defaults, limits and the texts for the user stand nowhere else.
  */
 namespace MRVOptionsTables {
 
-/** A setting, its key below "Options", and the source of its default. */
+/** Who changes a setting. */
+enum Use : bool {
+    Chosen, ///< the user, as a preference
+    Remembered, ///< the application, to find it again
+};
+
+/** A setting, its key below "Options", the source of its default, and its texts for the user. */
 template<typename Setting, typename Default>
 struct Row
 {
@@ -20,6 +26,9 @@ struct Row
     const char *key;
     QString (*keyText)(); // the same without a copy of the characters
     Default value;
+    const char *label; // to be translated in the context "MRVOptions", as all texts here
+    const char *description;
+    Use use = Chosen;
 };
 
 /** A table, or a part of one. */
@@ -38,11 +47,14 @@ struct Empty
 {
 };
 
+using Choices = QList<MRVOptions::Choice>;
+
 struct IntDefault
 {
     qint16 value;
-    qint16 least; // limits of what makes sense; stored values are read as they are
+    qint16 least; // what MRVOptions::value() keeps to
     qint16 most;
+    Choices (*choices)() = nullptr; // for each number from least to most, where they have names
 };
 
 struct RealDefault
@@ -56,7 +68,7 @@ struct TextDefault
 {
     const char *utf8;
     QString (*ask)() = nullptr; // what only the system knows; utf8 is null then
-    QStringList (*words)() = nullptr; // all that the setting takes, where it does not take any text
+    Choices (*choices)() = nullptr; // all that the setting takes, where it does not take any text
     bool isPair = false; // of quotes, see MRVOptions::singleQuotes()
     bool (*accepts)(const QString &text) =
         nullptr; // with ask, whose text is one of those; null for any
@@ -65,8 +77,7 @@ struct TextDefault
 struct ColorDefault
 {
     QRgb color;
-    MRVSettings::ColorSettingGroup group;
-    const char *name; // to be translated in the context "MRVOptions"
+    MRVSettings::ColorSettingGroup group; // within which the label is unique
 };
 
 struct BytesDefault
@@ -74,6 +85,14 @@ struct BytesDefault
     QByteArray (*make)();
     bool (*accepts)(const QByteArray &bytes) =
         nullptr; // whether they are what is kept there; null for any
+    Choices (*choices)() = nullptr; // all that the setting takes, where it is a word
+};
+
+/** The type or the custom text of a separator: settings without a number. */
+struct SeparatorSetting
+{
+    MRV::SeparatorContext context;
+    enum Part : bool { Type, Custom } part;
 };
 
 /** The system's font, larger or smaller. */
@@ -95,6 +114,7 @@ using IntListRow = Row<MRVSettings::IntListSetting, Empty>;
 using ByteArrayRow = Row<MRVSettings::ByteArraySetting, BytesDefault>;
 using CharFormatRow = Row<MRVSettings::TextCharFormat, QTextCharFormat (*)()>;
 using BlockFormatRow = Row<MRVSettings::TextBlockFormat, QTextBlockFormat (*)()>;
+using SeparatorRow = Row<SeparatorSetting, TextDefault>;
 
 // The table that a setting belongs to; the value of the setting does not matter.
 Rows<FlagRow> tableOf(MRVSettings::FlagSetting);
@@ -109,6 +129,7 @@ Rows<IntListRow> tableOf(MRVSettings::IntListSetting);
 Rows<ByteArrayRow> tableOf(MRVSettings::ByteArraySetting);
 Rows<CharFormatRow> tableOf(MRVSettings::TextCharFormat);
 Rows<BlockFormatRow> tableOf(MRVSettings::TextBlockFormat);
+Rows<SeparatorRow> tableOf(SeparatorSetting);
 
 // The row of a setting; null where it has none.
 const FlagRow *rowOf(MRVSettings::FlagSetting setting);
@@ -123,6 +144,7 @@ const IntListRow *rowOf(MRVSettings::IntListSetting setting);
 const ByteArrayRow *rowOf(MRVSettings::ByteArraySetting setting);
 const CharFormatRow *rowOf(MRVSettings::TextCharFormat setting);
 const BlockFormatRow *rowOf(MRVSettings::TextBlockFormat setting);
+const SeparatorRow *rowOf(SeparatorSetting setting);
 
 /** The type that a setting's enumeration stands for. */
 // clang-format off
@@ -138,9 +160,13 @@ constexpr MRVOptions::SettingType typeOf(MRVSettings::IntListSetting) { return M
 constexpr MRVOptions::SettingType typeOf(MRVSettings::ByteArraySetting) { return MRVOptions::ByteArrayType; }
 constexpr MRVOptions::SettingType typeOf(MRVSettings::TextCharFormat) { return MRVOptions::CharFormatType; }
 constexpr MRVOptions::SettingType typeOf(MRVSettings::TextBlockFormat) { return MRVOptions::BlockFormatType; }
+constexpr MRVOptions::SettingType typeOf(SeparatorSetting) { return MRVOptions::StringType; }
 // clang-format on
 
-/** Calls @p visit with each row of each table, the tables in the order of SettingType. */
+/**
+ * Calls @p visit with each row of each table: the tables in the order of SettingType, then that of
+ * the separators.
+ */
 template<typename Visitor>
 void forEachRow(const Visitor &visit)
 {
@@ -161,26 +187,38 @@ void forEachRow(const Visitor &visit)
     all(tableOf(MRVSettings::ByteArraySetting()));
     all(tableOf(MRVSettings::TextCharFormat()));
     all(tableOf(MRVSettings::TextBlockFormat()));
+    all(tableOf(SeparatorSetting()));
 }
 
-/** A separator that can be set: two texts under keys without a number. */
-struct SeparatorRow
-{
-    MRV::SeparatorContext context;
-    const char *typeKey;
-    const char *customKey;
-    MRV::SeparatorType type; // the default
-};
+/** The title of the group of settings that a key belongs to; null for a key of no group. */
+const char *groupOf(const char *key);
+/** The place of a group's title among all; the number of groups for another text. */
+int placeOfGroup(const char *title);
+/** The title of a group of colours; null for a number outside the table. */
+const char *titleOf(MRVSettings::ColorSettingGroup group);
 
-Rows<SeparatorRow> separators();
-/** The default text of a custom separator. */
-QString defaultCustomSeparator();
+// What a setting takes, in the order in which it is offered.
+Choices paperPositions();
+Choices linkTargets();
+Choices opmlImportTypes();
+Choices measures();
+Choices orientations();
+Choices guiLanguages();
+Choices labelIndicators();
+Choices cornerStyles();
+Choices spaceDoubleClickModes();
+Choices urlImportTypes();
+Choices separatorTypes();
+/** The values of choices as texts. */
+QStringList wordsOf(const Choices &choices);
 
-/** The words that are stored for an enumeration, in its order. */
-QStringList cornerStyleWords();
-QStringList labelIndicatorWords();
-QStringList spaceDoubleClickWords();
-QStringList separatorTypeWords();
+/** What is known of the setting of a key; without a key where there is none. */
+MRVOptions::SettingInfo infoOf(const QString &key);
+/**
+ * What is wrong with a stored value, the raw text included; a problem without a key where nothing
+ * is.
+ */
+MRVOptions::Problem problemOf(const QString &key, const QVariant &stored);
 
 /** Whether a text is a pair of quotes: two halves of equal length, neither of them empty. */
 inline bool isQuotePair(const QString &text)
@@ -197,8 +235,6 @@ QString defaultScratchPadPath();
 QString systemLocaleName();
 QString systemMeasure();
 QString systemSnap();
-QStringList measureWords();
-QStringList orientationWords();
 QByteArray noBytes();
 QByteArray defaultShortcutScheme();
 QByteArray defaultTextPresets();

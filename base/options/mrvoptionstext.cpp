@@ -117,10 +117,11 @@ Stored parse(const RealRow &row, const QString &text, QString *error)
     return within<double>(ok, number, row.value.least, row.value.most, text, error);
 }
 
-Stored parse(const StringRow &row, const QString &text, QString *error)
+template<typename Setting>
+Stored parse(const Row<Setting, TextDefault> &row, const QString &text, QString *error)
 {
-    if (row.value.words) {
-        return oneOf(row.value.words(), text, error);
+    if (row.value.choices) {
+        return oneOf(wordsOf(row.value.choices()), text, error);
     }
     if (row.value.isPair && !isQuotePair(text)) {
         return refuse(
@@ -260,7 +261,104 @@ Stored parse(const BlockFormatRow &, const QString &text, QString *error)
     return formatOf<QTextBlockFormat>(text, &MRVSettings::toTextBlockFormat, error);
 }
 
+// A stored value as the text that setFromText() takes; null where any value of its type will do.
+QString textToParse(MRVOptions::SettingType type, const QVariant &stored)
+{
+    switch (type) {
+    case MRVOptions::StringListType:
+    case MRVOptions::IntListType:
+        return QString();
+    case MRVOptions::ColorType:
+        return stored.userType() == QMetaType::QColor ? textOf(stored.value<QColor>())
+                                                      : mrvToText(stored);
+    case MRVOptions::DateTimeType:
+        return stored.userType() == QMetaType::QDateTime ? QString() : mrvToText(stored);
+    case MRVOptions::FontType:
+        return stored.userType() == QMetaType::QFont ? QString() : stored.toStringList().join(u',');
+    case MRVOptions::ByteArrayType:
+    case MRVOptions::CharFormatType:
+    case MRVOptions::BlockFormatType: {
+        const QByteArray bytes = stored.toByteArray(); // empty ones read as the default
+        return bytes.isEmpty() ? QString() : Base64 + QString::fromLatin1(bytes.toBase64());
+    }
+    default:
+        return mrvToText(stored);
+    }
+}
+
+// Whether a text that is refused is of the type at least.
+bool isOfType(MRVOptions::SettingType type, const QString &text)
+{
+    bool ok =
+        type == MRVOptions::StringType || (type == MRVOptions::ColorType && QColor(text).isValid());
+    if (type == MRVOptions::IntType) {
+        text.toLongLong(&ok);
+    } else if (type == MRVOptions::RealType) {
+        text.toDouble(&ok);
+    }
+    return ok;
+}
+
+bool isBytes(MRVOptions::SettingType type)
+{
+    return type >= MRVOptions::ByteArrayType;
+}
+
+template<typename Entry>
+MRVOptions::Problem problemOf(const Entry &row, const QVariant &stored)
+{
+    using Problem = MRVOptions::Problem;
+    const MRVOptions::SettingType type = typeOf(row.setting);
+    const QString key = QString::fromLatin1(row.key);
+    if (isBytes(type) && mrvIsList(stored)) {
+        return {key, Problem::Unreadable, mrvToText(stored),
+                MRVOptions::tr(
+                    "the commas make a list of the bytes; they belong into quotation marks")};
+    }
+    const QString text = textToParse(type, stored);
+    QString message;
+    if (text.isNull() || parse(row, text, &message)) {
+        return {};
+    }
+    return {key, isOfType(type, text) ? Problem::OutOfLimits : Problem::Unreadable,
+            isBytes(type) ? textOf(stored.toByteArray()) : text, message};
+}
+
+constexpr const char *ProblemNames[] = {"unknown", "limits", "unreadable"};
+static_assert(std::size(ProblemNames) == MRVOptions::Problem::Unreadable + 1);
+
 } // namespace
+
+MRVOptions::Problem MRVOptionsTables::problemOf(const QString &key, const QVariant &stored)
+{
+    MRVOptions::Problem problem;
+    bool isKnown = false;
+    forEachRow([&](const auto &row) {
+        if (!isKnown && key == QLatin1String(row.key)) {
+            isKnown = true;
+            // An invalid value was set so that the default holds.
+            problem = stored.isValid() ? ::problemOf(row, stored) : MRVOptions::Problem();
+        }
+    });
+    if (isKnown) {
+        return problem;
+    }
+    return {key, MRVOptions::Problem::UnknownKey, mrvToText(stored),
+            MRVOptions::tr("no setting is called '%1'").arg(key)};
+}
+
+QString MRVOptions::Problem::kindName() const
+{
+    return QString::fromLatin1(ProblemNames[kind]);
+}
+
+QJsonObject MRVOptions::Problem::toJson() const
+{
+    return {{QStringLiteral("key"), key},
+            {QStringLiteral("kind"), kindName()},
+            {QStringLiteral("stored"), stored},
+            {QStringLiteral("message"), message}};
+}
 
 QString MRVOptions::typeName(SettingType type)
 {
@@ -326,13 +424,6 @@ bool MRVOptions::setFromText(const QString &key, const QString &text, QString *e
             stored = parse(row, text, error);
         }
     });
-    for (const SeparatorRow &row : separators()) {
-        if (key == QLatin1String(row.typeKey) || key == QLatin1String(row.customKey)) {
-            known = true;
-            stored = key == QLatin1String(row.typeKey) ? oneOf(separatorTypeWords(), text, error)
-                                                       : Stored(text);
-        }
-    }
     if (!known) {
         refuse(error, tr("no setting is called '%1'").arg(key));
     }

@@ -10,43 +10,17 @@ using namespace MRVOptionsTables;
 
 namespace {
 
-// Stored words, so that a file can be read by a person and an enumeration can be reordered;
-// row i carries the enumerator of value i.
-constexpr const char *CornerStyles[] = {"SquareCorners", "RoundedCorners"};
-constexpr const char *LabelIndicators[] = {"NoLabelIndicator", "PinIndicator", "CornerIndicator",
-                                           "StripeIndicator"};
-constexpr const char *SpaceDoubleClickModes[] = {
-    "SpaceDoubleClickDoesNothing", "SpaceDoubleClickCreatesCard", "SpaceDoubleClickOpensParent"};
-
-static_assert(std::size(CornerStyles) == MRVOptions::RoundedCorners + 1);
-static_assert(std::size(LabelIndicators) == MRVOptions::StripeIndicator + 1);
-static_assert(std::size(SpaceDoubleClickModes) == MRVOptions::SpaceDoubleClickOpensParent + 1);
-
-template<std::size_t Size>
-QString wordOf(const char *const (&words)[Size], int value, int fallback)
+// Stored words, so that a file can be read by a person and an enumeration can be reordered; the
+// choice at index i carries the enumerator of value i.
+QString wordOf(const Choices &choices, int value, int fallback)
 {
-    return QString::fromLatin1(words[uint(value) < Size ? value : fallback]);
+    return choices.at(uint(value) < uint(choices.size()) ? value : fallback).value.toString();
 }
 
-template<std::size_t Size>
-int valueOf(const char *const (&words)[Size], const QString &text, int fallback)
+int valueOf(const Choices &choices, const QString &text, int fallback)
 {
-    for (std::size_t i = 0; i < Size; ++i) {
-        if (text == QLatin1String(words[i])) {
-            return int(i);
-        }
-    }
-    return fallback;
-}
-
-template<std::size_t Size>
-QStringList listOf(const char *const (&words)[Size])
-{
-    QStringList list;
-    for (const char *word : words) {
-        list.append(QString::fromLatin1(word));
-    }
-    return list;
+    const int index = wordsOf(choices).indexOf(text);
+    return index < 0 ? fallback : index;
 }
 
 // In the name of a key, "/" parts groups, and which slashes are one differs between systems.
@@ -61,16 +35,6 @@ QString pdfKey(const QString &key, QString name)
     return key + u'/' + name;
 }
 
-const SeparatorRow *separatorRow(MRV::SeparatorContext context)
-{
-    for (const SeparatorRow &row : separators()) {
-        if (row.context == context) {
-            return &row;
-        }
-    }
-    return nullptr;
-}
-
 QPair<QString, QString> halves(const QString &text)
 {
     const int half = text.size() / 2;
@@ -79,58 +43,35 @@ QPair<QString, QString> halves(const QString &text)
 
 } // namespace
 
-QStringList MRVOptionsTables::cornerStyleWords()
-{
-    return listOf(CornerStyles);
-}
-
-QStringList MRVOptionsTables::labelIndicatorWords()
-{
-    return listOf(LabelIndicators);
-}
-
-QStringList MRVOptionsTables::spaceDoubleClickWords()
-{
-    return listOf(SpaceDoubleClickModes);
-}
-
-QStringList MRVOptionsTables::separatorTypeWords()
-{
-    QStringList words;
-    for (const auto type : {MRV::SingleReturn, MRV::EmptyLine, MRV::CustomSeparator}) {
-        words.append(QString::fromLatin1(MRV::toString(type)));
-    }
-    return words;
-}
-
 QString MRVOptions::toString(CorkCornerStyle style)
 {
-    return wordOf(CornerStyles, style, RoundedCorners);
+    return wordOf(cornerStyles(), style, RoundedCorners);
 }
 
 QString MRVOptions::toString(CorkLabelIndicator indicator)
 {
-    return wordOf(LabelIndicators, indicator, PinIndicator);
+    return wordOf(labelIndicators(), indicator, PinIndicator);
 }
 
 QString MRVOptions::toString(SpaceDoubleClickMode mode)
 {
-    return wordOf(SpaceDoubleClickModes, mode, SpaceDoubleClickCreatesCard);
+    return wordOf(spaceDoubleClickModes(), mode, SpaceDoubleClickCreatesCard);
 }
 
 MRVOptions::CorkCornerStyle MRVOptions::toCornerStyle(const QString &text)
 {
-    return CorkCornerStyle(valueOf(CornerStyles, text, RoundedCorners));
+    return CorkCornerStyle(valueOf(cornerStyles(), text, RoundedCorners));
 }
 
 MRVOptions::CorkLabelIndicator MRVOptions::toLabelIndicator(const QString &text)
 {
-    return CorkLabelIndicator(valueOf(LabelIndicators, text, PinIndicator));
+    return CorkLabelIndicator(valueOf(labelIndicators(), text, PinIndicator));
 }
 
 MRVOptions::SpaceDoubleClickMode MRVOptions::toSpaceDoubleClickMode(const QString &text)
 {
-    return SpaceDoubleClickMode(valueOf(SpaceDoubleClickModes, text, SpaceDoubleClickCreatesCard));
+    return SpaceDoubleClickMode(
+        valueOf(spaceDoubleClickModes(), text, SpaceDoubleClickCreatesCard));
 }
 
 MRVOptions::CorkCornerStyle MRVOptions::cornerStyle() const
@@ -165,32 +106,33 @@ bool MRVOptions::setSpaceDoubleClickMode(SpaceDoubleClickMode mode)
 
 MRV::SeparatorType MRVOptions::separatorType(MRV::SeparatorContext context) const
 {
-    const SeparatorRow *row = separatorRow(context);
+    const SeparatorRow *row = rowOf({context, SeparatorSetting::Type});
     if (!row) {
         return MRV::EmptyLine;
     }
-    const QVariant stored = value(QString::fromLatin1(row->typeKey));
-    return stored.isValid() ? MRV::toSeparatorType(stored.toString()) : row->type;
+    const QVariant stored = value(row->keyText());
+    return MRV::toSeparatorType(stored.isValid() ? stored.toString()
+                                                 : QString::fromUtf8(row->value.utf8));
 }
 
 bool MRVOptions::setSeparator(MRV::SeparatorContext context, MRV::SeparatorType type,
                               const QString &custom)
 {
-    const SeparatorRow *row = separatorRow(context);
-    if (!row || type < MRV::SingleReturn || type > MRV::CustomSeparator) {
+    const SeparatorRow *typeRow = rowOf({context, SeparatorSetting::Type});
+    const SeparatorRow *customRow = rowOf({context, SeparatorSetting::Custom});
+    if (!typeRow || type < MRV::SingleReturn || type > MRV::CustomSeparator) {
         return false;
     }
-    if (!custom.isNull() && !setValue(QString::fromLatin1(row->customKey), custom)) {
+    if (!custom.isNull() && !setValue(customRow->keyText(), custom)) {
         return false;
     }
-    return setValue(QString::fromLatin1(row->typeKey), QString::fromLatin1(MRV::toString(type)));
+    return setValue(typeRow->keyText(), QString::fromLatin1(MRV::toString(type)));
 }
 
 QString MRVOptions::customSeparator(MRV::SeparatorContext context) const
 {
-    const SeparatorRow *row = separatorRow(context);
-    return row ? mrvToText(value(QString::fromLatin1(row->customKey), defaultCustomSeparator()))
-               : QString();
+    const SeparatorRow *row = rowOf({context, SeparatorSetting::Custom});
+    return row ? mrvToText(value(row->keyText(), QString::fromUtf8(row->value.utf8))) : QString();
 }
 
 QPair<QString, QString> MRVOptions::singleQuotes() const

@@ -786,10 +786,6 @@ Fehler: %2</translation>
         <translation>Schiefer</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
         <source>Divider</source>
         <translation>Trennlinie</translation>
     </message>
@@ -1012,6 +1008,1474 @@ Fehler: %2</translation>
     <message>
         <source>the shortcut scheme in %1: %2</source>
         <translation>das Tastenkürzelschema in %1: %2</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungskopien</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Import and export</source>
+        <translation>Import und Export</translation>
+    </message>
+    <message>
+        <source>OPML files</source>
+        <translation>OPML-Dateien</translation>
+    </message>
+    <message>
+        <source>E-books</source>
+        <translation>E-Books</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Am linken Rand</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>In der Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Am rechten Rand</translation>
+    </message>
+    <message>
+        <source>The other editor</source>
+        <translation>Dem anderen Editor</translation>
+    </message>
+    <message>
+        <source>The current editor</source>
+        <translation>Dem aktuellen Editor</translation>
+    </message>
+    <message>
+        <source>A reference panel</source>
+        <translation>Einem Referenzfenster</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Pica</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Above the text</source>
+        <translation>Über dem Text</translation>
+    </message>
+    <message>
+        <source>Beside the text</source>
+        <translation>Neben dem Text</translation>
+    </message>
+    <message>
+        <source>Not at all</source>
+        <translation>Gar nicht</translation>
+    </message>
+    <message>
+        <source>As a pin</source>
+        <translation>Als Nadel</translation>
+    </message>
+    <message>
+        <source>As a coloured corner</source>
+        <translation>Als farbige Ecke</translation>
+    </message>
+    <message>
+        <source>As a stripe</source>
+        <translation>Als Streifen</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Eckig</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>Abgerundet</translation>
+    </message>
+    <message>
+        <source>Does nothing</source>
+        <translation>Bewirkt nichts</translation>
+    </message>
+    <message>
+        <source>Creates a card</source>
+        <translation>Legt eine Karte an</translation>
+    </message>
+    <message>
+        <source>Goes up to the folder above</source>
+        <translation>Geht zum übergeordneten Ordner</translation>
+    </message>
+    <message>
+        <source>Single return</source>
+        <translation>Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Leerzeile</translation>
+    </message>
+    <message>
+        <source>A separator of your own</source>
+        <translation>Eigenes Trennzeichen</translation>
+    </message>
+    <message>
+        <source>Last session ended normally</source>
+        <translation>Letzte Sitzung regulär beendet</translation>
+    </message>
+    <message>
+        <source>Whether the session before this one was ended by the user and not by a failure.</source>
+        <translation>Gibt an, ob die vorige Sitzung vom Benutzer beendet wurde und nicht durch einen Fehler.</translation>
+    </message>
+    <message>
+        <source>This session has ended normally</source>
+        <translation>Diese Sitzung regulär beendet</translation>
+    </message>
+    <message>
+        <source>Whether the present session was ended by the user, which is stored when the application closes.</source>
+        <translation>Gibt an, ob die jetzige Sitzung vom Benutzer beendet wurde, was beim Schließen der Anwendung gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Reopen projects at start</source>
+        <translation>Projekte beim Start wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Opens the projects again that were open when the application was closed.</source>
+        <translation>Öffnet die Projekte wieder, die beim Schließen der Anwendung geöffnet waren.</translation>
+    </message>
+    <message>
+        <source>Show the start panel</source>
+        <translation>Startfenster anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows a panel with templates and recent projects when no project is open.</source>
+        <translation>Zeigt ein Fenster mit Vorlagen und zuletzt benutzten Projekten an, wenn kein Projekt geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Show the full path in the title bar</source>
+        <translation>Vollständigen Pfad in der Titelleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows the folder of a project with its name in the title bar of the window.</source>
+        <translation>Zeigt in der Titelleiste des Fensters neben dem Namen des Projekts auch seinen Ordner an.</translation>
+    </message>
+    <message>
+        <source>Allow overtyping</source>
+        <translation>Überschreiben zulassen</translation>
+    </message>
+    <message>
+        <source>Lets the Insert key switch between inserting text and typing over it.</source>
+        <translation>Lässt die Einfügetaste zwischen Einfügen und Überschreiben wechseln.</translation>
+    </message>
+    <message>
+        <source>Set notes after punctuation</source>
+        <translation>Anmerkungszeichen nach Satzzeichen setzen</translation>
+    </message>
+    <message>
+        <source>Places the mark of a footnote or comment after the punctuation that follows the selected words.</source>
+        <translation>Setzt das Zeichen einer Fußnote oder eines Kommentars nach das Satzzeichen, das auf die ausgewählten Wörter folgt.</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Looks for a newer version of the application from time to time.</source>
+        <translation>Sucht von Zeit zu Zeit nach einer neueren Version der Anwendung.</translation>
+    </message>
+    <message>
+        <source>Name untitled documents on saving</source>
+        <translation>Dokumente ohne Titel beim Speichern benennen</translation>
+    </message>
+    <message>
+        <source>Gives a document without a title its first words as a title when it is saved.</source>
+        <translation>Gibt einem Dokument ohne Titel beim Speichern seine ersten Wörter als Titel.</translation>
+    </message>
+    <message>
+        <source>Import web pages as text</source>
+        <translation>Webseiten als Text importieren</translation>
+    </message>
+    <message>
+        <source>Converts a web page to text that can be edited when it is imported.</source>
+        <translation>Wandelt eine Webseite beim Import in Text um, der sich bearbeiten lässt.</translation>
+    </message>
+    <message>
+        <source>Import known file types only</source>
+        <translation>Nur bekannte Dateitypen importieren</translation>
+    </message>
+    <message>
+        <source>Leaves out files that the application cannot show when a folder is imported.</source>
+        <translation>Lässt beim Import eines Ordners Dateien aus, die die Anwendung nicht anzeigen kann.</translation>
+    </message>
+    <message>
+        <source>Remove invalid characters from RTF</source>
+        <translation>Ungültige Zeichen aus RTF entfernen</translation>
+    </message>
+    <message>
+        <source>Leaves out control characters that some programs write into RTF files.</source>
+        <translation>Lässt Steuerzeichen aus, die manche Programme in RTF-Dateien schreiben.</translation>
+    </message>
+    <message>
+        <source>Use font hinting</source>
+        <translation>Schrift-Hinting verwenden</translation>
+    </message>
+    <message>
+        <source>Fits the shapes of letters to the pixels of the screen in text that is read from the settings.</source>
+        <translation>Passt die Formen der Buchstaben an die Pixel des Bildschirms an, wenn Textformate aus den Einstellungen gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Use first lines as titles only</source>
+        <translation>Erste Zeilen nur als Titel verwenden</translation>
+    </message>
+    <message>
+        <source>Takes the first line of an imported Fernwick note as its title and leaves it out of the text.</source>
+        <translation>Nimmt die erste Zeile einer importierten Fernwick-Notiz als Titel und lässt sie im Text weg.</translation>
+    </message>
+    <message>
+        <source>Show the number of documents</source>
+        <translation>Anzahl der Dokumente anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows at each folder of the binder how many documents it contains.</source>
+        <translation>Zeigt bei jedem Ordner der Mappe an, wie viele Dokumente er enthält.</translation>
+    </message>
+    <message>
+        <source>Show lines in document notes</source>
+        <translation>Linien in Dokumentnotizen anzeigen</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of a document.</source>
+        <translation>Zeichnet in die Notizen eines Dokuments die Linien eines Schreibblocks.</translation>
+    </message>
+    <message>
+        <source>Show lines in project notes</source>
+        <translation>Linien in Projektnotizen anzeigen</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of the project.</source>
+        <translation>Zeichnet in die Notizen des Projekts die Linien eines Schreibblocks.</translation>
+    </message>
+    <message>
+        <source>Shade every other row</source>
+        <translation>Jede zweite Zeile abtönen</translation>
+    </message>
+    <message>
+        <source>Gives every other row of the outliner another background.</source>
+        <translation>Gibt jeder zweiten Zeile der Gliederung einen anderen Hintergrund.</translation>
+    </message>
+    <message>
+        <source>Folders in bold</source>
+        <translation>Ordner fett</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in bold type.</source>
+        <translation>Zeigt die Titel der Ordner in der Mappe fett an.</translation>
+    </message>
+    <message>
+        <source>Folders in italics</source>
+        <translation>Ordner kursiv</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in italics.</source>
+        <translation>Zeigt die Titel der Ordner in der Mappe kursiv an.</translation>
+    </message>
+    <message>
+        <source>Collections in bold</source>
+        <translation>Sammlungen fett</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in bold type.</source>
+        <translation>Zeigt die Titel der Sammlungen fett an.</translation>
+    </message>
+    <message>
+        <source>Collections in italics</source>
+        <translation>Sammlungen kursiv</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in italics.</source>
+        <translation>Zeigt die Titel der Sammlungen kursiv an.</translation>
+    </message>
+    <message>
+        <source>Show collections as folders</source>
+        <translation>Sammlungen wie Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows a collection on the corkboard and in the outliner as if it were a folder.</source>
+        <translation>Zeigt eine Sammlung auf der Pinnwand und in der Gliederung so an, als wäre sie ein Ordner.</translation>
+    </message>
+    <message>
+        <source>Include the enclosing group</source>
+        <translation>Umgebende Gruppe einbeziehen</translation>
+    </message>
+    <message>
+        <source>Adds the folder itself when its documents are shown as one text.</source>
+        <translation>Nimmt den Ordner selbst mit auf, wenn seine Dokumente als ein Text angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Open all results together</source>
+        <translation>Alle Treffer zusammen öffnen</translation>
+    </message>
+    <message>
+        <source>Shows all documents that a project search has found in the editor at once.</source>
+        <translation>Zeigt alle Dokumente, die eine Projektsuche gefunden hat, auf einmal im Editor an.</translation>
+    </message>
+    <message>
+        <source>Collapse items again after dragging</source>
+        <translation>Einträge nach dem Ziehen wieder schließen</translation>
+    </message>
+    <message>
+        <source>Closes the items of the outline that opened by themselves during a drag.</source>
+        <translation>Schließt die Einträge der Gliederung, die sich beim Ziehen von selbst geöffnet haben.</translation>
+    </message>
+    <message>
+        <source>Return ends a synopsis</source>
+        <translation>Eingabetaste beendet die Synopsis</translation>
+    </message>
+    <message>
+        <source>Ends the editing of a synopsis with the Return key, which otherwise begins a new line.</source>
+        <translation>Beendet mit der Eingabetaste das Bearbeiten einer Synopsis, statt eine neue Zeile zu beginnen.</translation>
+    </message>
+    <message>
+        <source>Return creates an item</source>
+        <translation>Eingabetaste legt einen Eintrag an</translation>
+    </message>
+    <message>
+        <source>Creates a new item with the Return key in the binder, the outliner and on the corkboard.</source>
+        <translation>Legt mit der Eingabetaste in der Mappe, der Gliederung und auf der Pinnwand einen neuen Eintrag an.</translation>
+    </message>
+    <message>
+        <source>Allow dropping on cards</source>
+        <translation>Ablegen auf Karten zulassen</translation>
+    </message>
+    <message>
+        <source>Lets an index card be dropped on another one, so that it becomes part of it.</source>
+        <translation>Erlaubt es, eine Karteikarte auf einer anderen abzulegen, sodass sie ein Teil von ihr wird.</translation>
+    </message>
+    <message>
+        <source>Check spelling in new projects</source>
+        <translation>Rechtschreibung in neuen Projekten prüfen</translation>
+    </message>
+    <message>
+        <source>Turns on the spelling check while typing in every new project.</source>
+        <translation>Schaltet in jedem neuen Projekt die Rechtschreibprüfung beim Tippen ein.</translation>
+    </message>
+    <message>
+        <source>Correct spelling while typing</source>
+        <translation>Rechtschreibung beim Tippen korrigieren</translation>
+    </message>
+    <message>
+        <source>Replaces a misspelt word by the likely one as soon as it is complete.</source>
+        <translation>Ersetzt ein falsch geschriebenes Wort durch das wahrscheinliche, sobald es fertig ist.</translation>
+    </message>
+    <message>
+        <source>Capitalize a single i</source>
+        <translation>Einzelnes i großschreiben</translation>
+    </message>
+    <message>
+        <source>Writes the English word I as a capital letter.</source>
+        <translation>Schreibt das englische Wort I als Großbuchstaben.</translation>
+    </message>
+    <message>
+        <source>Capitalize sentences</source>
+        <translation>Satzanfänge großschreiben</translation>
+    </message>
+    <message>
+        <source>Begins each sentence with a capital letter.</source>
+        <translation>Beginnt jeden Satz mit einem Großbuchstaben.</translation>
+    </message>
+    <message>
+        <source>Use smart quotes</source>
+        <translation>Typografische Anführungszeichen verwenden</translation>
+    </message>
+    <message>
+        <source>Replaces straight quotation marks by opening and closing ones while typing.</source>
+        <translation>Ersetzt gerade Anführungszeichen beim Tippen durch öffnende und schließende.</translation>
+    </message>
+    <message>
+        <source>Replace hyphens by em dashes</source>
+        <translation>Bindestriche durch Geviertstriche ersetzen</translation>
+    </message>
+    <message>
+        <source>Turns two hyphens into an em dash while typing.</source>
+        <translation>Macht beim Tippen aus zwei Bindestrichen einen Geviertstrich.</translation>
+    </message>
+    <message>
+        <source>Replace dots by ellipses</source>
+        <translation>Punkte durch Auslassungspunkte ersetzen</translation>
+    </message>
+    <message>
+        <source>Turns three full stops into an ellipsis while typing.</source>
+        <translation>Macht beim Tippen aus drei Punkten ein Auslassungszeichen.</translation>
+    </message>
+    <message>
+        <source>No correction in script mode</source>
+        <translation>Keine Korrekturen im Drehbuchmodus</translation>
+    </message>
+    <message>
+        <source>Switches all corrections off while a script is written.</source>
+        <translation>Schaltet alle Korrekturen aus, solange ein Drehbuch geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>Raise ordinals</source>
+        <translation>Ordnungszahlen hochstellen</translation>
+    </message>
+    <message>
+        <source>Raises the letters of English ordinal numbers such as 1st.</source>
+        <translation>Stellt die Buchstaben englischer Ordnungszahlen wie 1st hoch.</translation>
+    </message>
+    <message>
+        <source>Link web addresses</source>
+        <translation>Webadressen verlinken</translation>
+    </message>
+    <message>
+        <source>Turns a web address into a link while it is typed.</source>
+        <translation>Macht aus einer Webadresse beim Tippen einen Link.</translation>
+    </message>
+    <message>
+        <source>Link titles in brackets</source>
+        <translation>Titel in Klammern verlinken</translation>
+    </message>
+    <message>
+        <source>Turns the title of a document in double square brackets into a link to it.</source>
+        <translation>Macht aus dem Titel eines Dokuments in doppelten eckigen Klammern einen Link auf das Dokument.</translation>
+    </message>
+    <message>
+        <source>Replace text while typing</source>
+        <translation>Text beim Tippen ersetzen</translation>
+    </message>
+    <message>
+        <source>Replaces abbreviations by the texts in the list of replacements.</source>
+        <translation>Ersetzt Abkürzungen durch die Texte der Ersetzungsliste.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling</source>
+        <translation>Schreibmaschinenrollen</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the editor.</source>
+        <translation>Hält die Zeile, in der geschrieben wird, in der Mitte des Editors.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling in full screen</source>
+        <translation>Schreibmaschinenrollen im Vollbild</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the screen.</source>
+        <translation>Hält die Zeile, in der geschrieben wird, in der Mitte des Bildschirms.</translation>
+    </message>
+    <message>
+        <source>Complete words</source>
+        <translation>Wörter vervollständigen</translation>
+    </message>
+    <message>
+        <source>Offers words from the completion list of the project while typing.</source>
+        <translation>Bietet beim Tippen Wörter aus der Vervollständigungsliste des Projekts an.</translation>
+    </message>
+    <message>
+        <source>Complete words in script mode only</source>
+        <translation>Wörter nur im Drehbuchmodus vervollständigen</translation>
+    </message>
+    <message>
+        <source>Offers completions in scripts and not in other text.</source>
+        <translation>Bietet Vervollständigungen in Drehbüchern an, in anderem Text nicht.</translation>
+    </message>
+    <message>
+        <source>Make backups</source>
+        <translation>Sicherungskopien anlegen</translation>
+    </message>
+    <message>
+        <source>Makes backups of projects without being asked.</source>
+        <translation>Legt von selbst Sicherungskopien der Projekte an.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is opened</source>
+        <translation>Beim Öffnen eines Projekts sichern</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project before it is opened.</source>
+        <translation>Legt eine Sicherungskopie eines Projekts an, bevor es geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is closed</source>
+        <translation>Beim Schließen eines Projekts sichern</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project when it is closed.</source>
+        <translation>Legt eine Sicherungskopie eines Projekts an, wenn es geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>Back up on each manual save</source>
+        <translation>Bei jedem manuellen Speichern sichern</translation>
+    </message>
+    <message>
+        <source>Makes a backup whenever the project is saved by command.</source>
+        <translation>Legt eine Sicherungskopie an, sooft das Projekt mit dem Befehl dafür gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Compress backups</source>
+        <translation>Sicherungskopien komprimieren</translation>
+    </message>
+    <message>
+        <source>Stores each backup as one zip file.</source>
+        <translation>Speichert jede Sicherungskopie als eine einzige ZIP-Datei.</translation>
+    </message>
+    <message>
+        <source>Put the date into backup names</source>
+        <translation>Datum in die Namen der Sicherungskopien aufnehmen</translation>
+    </message>
+    <message>
+        <source>Adds the date and the time to the name of each backup.</source>
+        <translation>Fügt dem Namen jeder Sicherungskopie Datum und Uhrzeit hinzu.</translation>
+    </message>
+    <message>
+        <source>No sound effects</source>
+        <translation>Keine Klangeffekte</translation>
+    </message>
+    <message>
+        <source>Switches the sounds of the application off.</source>
+        <translation>Schaltet die Klänge der Anwendung aus.</translation>
+    </message>
+    <message>
+        <source>Transparent scratch pad</source>
+        <translation>Durchsichtiger Notizblock</translation>
+    </message>
+    <message>
+        <source>Lets the windows behind the scratch pad shine through.</source>
+        <translation>Lässt die Fenster hinter dem Notizblock durchscheinen.</translation>
+    </message>
+    <message>
+        <source>Wrap metadata fields</source>
+        <translation>Metadatenfelder umbrechen</translation>
+    </message>
+    <message>
+        <source>Shows long values of custom metadata on several lines.</source>
+        <translation>Zeigt lange Werte eigener Metadaten auf mehreren Zeilen an.</translation>
+    </message>
+    <message>
+        <source>Colour metadata fields</source>
+        <translation>Metadatenfelder einfärben</translation>
+    </message>
+    <message>
+        <source>Shows each field of custom metadata in its own colour.</source>
+        <translation>Zeigt jedes Feld eigener Metadaten in seiner Farbe an.</translation>
+    </message>
+    <message>
+        <source>Keep windows on top</source>
+        <translation>Fenster im Vordergrund halten</translation>
+    </message>
+    <message>
+        <source>Keeps the tool windows of the application above all other windows.</source>
+        <translation>Hält die Werkzeugfenster der Anwendung über allen anderen Fenstern.</translation>
+    </message>
+    <message>
+        <source>Keep reference panels on top</source>
+        <translation>Referenzfenster im Vordergrund halten</translation>
+    </message>
+    <message>
+        <source>Keeps quick reference panels above the main window.</source>
+        <translation>Hält die Referenzfenster über dem Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Export the entire binder</source>
+        <translation>Gesamte Mappe exportieren</translation>
+    </message>
+    <message>
+        <source>Exports all of the binder to OPML, and not the selected items only.</source>
+        <translation>Exportiert die ganze Mappe nach OPML und nicht nur die ausgewählten Einträge.</translation>
+    </message>
+    <message>
+        <source>Create a folder for the import</source>
+        <translation>Ordner für den Import anlegen</translation>
+    </message>
+    <message>
+        <source>Puts what is imported from OPML into a new folder.</source>
+        <translation>Legt das, was aus OPML importiert wird, in einen neuen Ordner.</translation>
+    </message>
+    <message>
+        <source>Position of the page</source>
+        <translation>Lage der Seite</translation>
+    </message>
+    <message>
+        <source>Determines where on the screen the page stands in full screen.</source>
+        <translation>Legt fest, wo auf dem Bildschirm die Seite im Vollbild steht.</translation>
+    </message>
+    <message>
+        <source>Save after (seconds)</source>
+        <translation>Speichern nach (Sekunden)</translation>
+    </message>
+    <message>
+        <source>Saves the project when nothing has been typed for this number of seconds.</source>
+        <translation>Speichert das Projekt, wenn so viele Sekunden lang nichts getippt wurde.</translation>
+    </message>
+    <message>
+        <source>Days between checks for updates</source>
+        <translation>Tage zwischen zwei Suchen nach Updates</translation>
+    </message>
+    <message>
+        <source>Determines how many days pass before a newer version is looked for again.</source>
+        <translation>Legt fest, nach wie vielen Tagen wieder nach einer neueren Version gesucht wird.</translation>
+    </message>
+    <message>
+        <source>Strength of label tints</source>
+        <translation>Stärke der Etikettfarben</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the colour of a label shows, from 0 (not at all) to 255 (fully).</source>
+        <translation>Legt fest, wie stark sich die Farbe eines Etiketts zeigt, von 0 (gar nicht) bis 255 (voll).</translation>
+    </message>
+    <message>
+        <source>Strength of the status stamp</source>
+        <translation>Stärke des Statusstempels</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the status is stamped on an index card, from 0 to 255.</source>
+        <translation>Legt fest, wie stark der Status auf eine Karteikarte gestempelt wird, von 0 bis 255.</translation>
+    </message>
+    <message>
+        <source>Strength of card shadows</source>
+        <translation>Stärke der Kartenschatten</translation>
+    </message>
+    <message>
+        <source>Determines how dark the shadows of index cards are, from 0 (none) to 255.</source>
+        <translation>Legt fest, wie dunkel die Schatten der Karteikarten sind, von 0 (keine) bis 255.</translation>
+    </message>
+    <message>
+        <source>Strength of the background</source>
+        <translation>Stärke des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Determines how much the background of full screen hides the desktop, from 0 to 255.</source>
+        <translation>Legt fest, wie weit der Hintergrund des Vollbilds den Schreibtisch verdeckt, von 0 bis 255.</translation>
+    </message>
+    <message>
+        <source>Width of the page (percent)</source>
+        <translation>Breite der Seite (Prozent)</translation>
+    </message>
+    <message>
+        <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
+        <translation>Legt die Breite der Seite im Vollbild fest, in Prozent der Breite des Bildschirms.</translation>
+    </message>
+    <message>
+        <source>Height of the page (percent)</source>
+        <translation>Höhe der Seite (Prozent)</translation>
+    </message>
+    <message>
+        <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
+        <translation>Legt die Höhe der Seite im Vollbild fest, in Prozent der Höhe des Bildschirms.</translation>
+    </message>
+    <message>
+        <source>Width of the text cursor (pixels)</source>
+        <translation>Breite der Schreibmarke (Pixel)</translation>
+    </message>
+    <message>
+        <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
+        <translation>Legt fest, wie breit die Schreibmarke ist; -1 ist die Breite, die das System verwendet.</translation>
+    </message>
+    <message>
+        <source>Zoom of the editor</source>
+        <translation>Zoom des Editors</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors the editor uses.</source>
+        <translation>Legt fest, welchen Eintrag der Liste der Zoomstufen der Editor verwendet.</translation>
+    </message>
+    <message>
+        <source>Zoom of project notes</source>
+        <translation>Zoom der Projektnotizen</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors project notes use.</source>
+        <translation>Legt fest, welchen Eintrag der Liste der Zoomstufen die Projektnotizen verwenden.</translation>
+    </message>
+    <message>
+        <source>Zoom of document notes</source>
+        <translation>Zoom der Dokumentnotizen</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors document notes use.</source>
+        <translation>Legt fest, welchen Eintrag der Liste der Zoomstufen die Dokumentnotizen verwenden.</translation>
+    </message>
+    <message>
+        <source>Rewind on pause (seconds)</source>
+        <translation>Zurückspulen bei Pause (Sekunden)</translation>
+    </message>
+    <message>
+        <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
+        <translation>Legt fest, um wie viele Sekunden eine Aufnahme bei einer Pause zurückgeht, damit kein Wort verloren geht.</translation>
+    </message>
+    <message>
+        <source>Backups to keep</source>
+        <translation>Zu behaltende Sicherungskopien</translation>
+    </message>
+    <message>
+        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
+        <translation>Legt fest, wie viele Sicherungskopien eines Projekts behalten werden, bevor die älteste entfernt wird; 0 behält alle.</translation>
+    </message>
+    <message>
+        <source>Revision of new text</source>
+        <translation>Überarbeitung für neuen Text</translation>
+    </message>
+    <message>
+        <source>Determines as which revision new text is marked, from 1 to 5; 0 marks nothing.</source>
+        <translation>Legt fest, als welche Überarbeitung neuer Text gekennzeichnet wird, von 1 bis 5; 0 kennzeichnet nichts.</translation>
+    </message>
+    <message>
+        <source>Adapt indents to line spacing</source>
+        <translation>Einzüge an den Zeilenabstand anpassen</translation>
+    </message>
+    <message>
+        <source>Determines how the first-line indent follows when the line spacing is changed.</source>
+        <translation>Legt fest, wie der Erstzeileneinzug folgt, wenn der Zeilenabstand geändert wird.</translation>
+    </message>
+    <message>
+        <source>Open links in</source>
+        <translation>Links öffnen in</translation>
+    </message>
+    <message>
+        <source>Determines where the document opens that a clicked link leads to.</source>
+        <translation>Legt fest, wo das Dokument geöffnet wird, auf das ein angeklickter Link führt.</translation>
+    </message>
+    <message>
+        <source>Recent projects to list</source>
+        <translation>Anzahl zuletzt benutzter Projekte</translation>
+    </message>
+    <message>
+        <source>Determines how many projects the menu of recent projects shows.</source>
+        <translation>Legt fest, wie viele Projekte das Menü der zuletzt benutzten Projekte zeigt.</translation>
+    </message>
+    <message>
+        <source>Last format of an OPML export</source>
+        <translation>Letztes Format eines OPML-Exports</translation>
+    </message>
+    <message>
+        <source>This is the format that the last export to OPML used.</source>
+        <translation>Dies ist das Format, das der letzte Export nach OPML verwendet hat.</translation>
+    </message>
+    <message>
+        <source>Content of OPML exports</source>
+        <translation>Inhalt von OPML-Exporten</translation>
+    </message>
+    <message>
+        <source>Determines which parts of the documents an export to OPML contains.</source>
+        <translation>Legt fest, welche Teile der Dokumente ein Export nach OPML enthält.</translation>
+    </message>
+    <message>
+        <source>Content of OPML imports</source>
+        <translation>Inhalt von OPML-Importen</translation>
+    </message>
+    <message>
+        <source>Determines what the notes of an OPML file become when it is imported.</source>
+        <translation>Legt fest, was beim Import aus den Notizen einer OPML-Datei wird.</translation>
+    </message>
+    <message>
+        <source>Last choice for an OPML import</source>
+        <translation>Letzte Wahl für einen OPML-Import</translation>
+    </message>
+    <message>
+        <source>This is the choice that the import dialog showed last.</source>
+        <translation>Dies ist die Wahl, die der Importdialog zuletzt angezeigt hat.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Sets how loud recordings are played, from 0 (silent) to 1 (full).</source>
+        <translation>Legt fest, wie laut Aufnahmen abgespielt werden, von 0 (stumm) bis 1 (voll).</translation>
+    </message>
+    <message>
+        <source>Margin of the editor (pixels)</source>
+        <translation>Rand des Editors (Pixel)</translation>
+    </message>
+    <message>
+        <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
+        <translation>Legt fest, wie viele Pixel zwischen dem Text und dem Rand des Editors frei bleiben.</translation>
+    </message>
+    <message>
+        <source>Folder of templates</source>
+        <translation>Ordner der Vorlagen</translation>
+    </message>
+    <message>
+        <source>This is the folder in which project templates of your own are kept.</source>
+        <translation>Dies ist der Ordner, in dem eigene Projektvorlagen liegen.</translation>
+    </message>
+    <message>
+        <source>Picture of the corkboard</source>
+        <translation>Bild der Pinnwand</translation>
+    </message>
+    <message>
+        <source>This is the picture file that covers the corkboard; without one it has a plain colour.</source>
+        <translation>Dies ist die Bilddatei, die die Pinnwand bedeckt; ohne Bild ist sie einfarbig.</translation>
+    </message>
+    <message>
+        <source>Unit of the ruler</source>
+        <translation>Einheit des Lineals</translation>
+    </message>
+    <message>
+        <source>This is the unit in which the ruler and the fields for lengths count.</source>
+        <translation>Dies ist die Einheit, in der das Lineal und die Felder für Längen rechnen.</translation>
+    </message>
+    <message>
+        <source>Step of the ruler</source>
+        <translation>Schrittweite des Lineals</translation>
+    </message>
+    <message>
+        <source>This is the distance in which tab stops and indents move on the ruler; empty lets them move freely.</source>
+        <translation>Dies ist der Abstand, in dem sich Tabstopps und Einzüge auf dem Lineal bewegen; leer bewegen sie sich frei.</translation>
+    </message>
+    <message>
+        <source>Language of the dictionary</source>
+        <translation>Sprache des Wörterbuchs</translation>
+    </message>
+    <message>
+        <source>This is the language in which spelling is checked, such as en_GB.</source>
+        <translation>Dies ist die Sprache, in der die Rechtschreibung geprüft wird, etwa de_DE.</translation>
+    </message>
+    <message>
+        <source>Citation manager</source>
+        <translation>Literaturverwaltung</translation>
+    </message>
+    <message>
+        <source>This is the program that opens when citations are to be inserted.</source>
+        <translation>Dies ist das Programm, das zum Einfügen von Literaturangaben geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Folder of scratch pad notes</source>
+        <translation>Ordner des Notizblocks</translation>
+    </message>
+    <message>
+        <source>This is the folder in which the notes of the scratch pad are kept.</source>
+        <translation>Dies ist der Ordner, in dem die Notizen des Notizblocks liegen.</translation>
+    </message>
+    <message>
+        <source>Last scratch pad note</source>
+        <translation>Letzte Notiz des Notizblocks</translation>
+    </message>
+    <message>
+        <source>This is the note that the scratch pad showed last.</source>
+        <translation>Dies ist die Notiz, die der Notizblock zuletzt angezeigt hat.</translation>
+    </message>
+    <message>
+        <source>Layout of the scratch pad</source>
+        <translation>Aufteilung des Notizblocks</translation>
+    </message>
+    <message>
+        <source>Determines whether the list of notes stands above the text or beside it.</source>
+        <translation>Legt fest, ob die Liste der Notizen über oder neben dem Text steht.</translation>
+    </message>
+    <message>
+        <source>Folder of backups</source>
+        <translation>Ordner der Sicherungskopien</translation>
+    </message>
+    <message>
+        <source>This is the folder in which automatic backups are kept.</source>
+        <translation>Dies ist der Ordner, in dem die automatischen Sicherungskopien liegen.</translation>
+    </message>
+    <message>
+        <source>Language of the application</source>
+        <translation>Sprache der Anwendung</translation>
+    </message>
+    <message>
+        <source>This is the language of menus and dialogs; it changes at the next start.</source>
+        <translation>Dies ist die Sprache der Menüs und Dialoge; sie wechselt beim nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Double quotes</source>
+        <translation>Doppelte Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight double quotes.</source>
+        <translation>Dies sind das öffnende und das schließende Zeichen, die gerade doppelte Anführungszeichen ersetzen.</translation>
+    </message>
+    <message>
+        <source>Single quotes</source>
+        <translation>Einfache Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight single quotes.</source>
+        <translation>Dies sind das öffnende und das schließende Zeichen, die gerade einfache Anführungszeichen ersetzen.</translation>
+    </message>
+    <message>
+        <source>Labels on index cards</source>
+        <translation>Etiketten auf Karteikarten</translation>
+    </message>
+    <message>
+        <source>Determines how an index card shows the colour of its label.</source>
+        <translation>Legt fest, wie eine Karteikarte die Farbe ihres Etiketts zeigt.</translation>
+    </message>
+    <message>
+        <source>Corners of index cards</source>
+        <translation>Ecken der Karteikarten</translation>
+    </message>
+    <message>
+        <source>Determines whether the corners of index cards are square or rounded.</source>
+        <translation>Legt fest, ob die Ecken der Karteikarten eckig oder abgerundet sind.</translation>
+    </message>
+    <message>
+        <source>Double click on the corkboard</source>
+        <translation>Doppelklick auf die Pinnwand</translation>
+    </message>
+    <message>
+        <source>Determines what a double click between the cards does.</source>
+        <translation>Legt fest, was ein Doppelklick zwischen die Karten bewirkt.</translation>
+    </message>
+    <message>
+        <source>Kindle converter</source>
+        <translation>Kindle-Konverter</translation>
+    </message>
+    <message>
+        <source>This is the program that makes Kindle books; without it, they are not offered.</source>
+        <translation>Dies ist das Programm, das Kindle-Bücher erzeugt; ohne das Programm werden sie nicht angeboten.</translation>
+    </message>
+    <message>
+        <source>Last folder of an OPML import</source>
+        <translation>Letzter Ordner eines OPML-Imports</translation>
+    </message>
+    <message>
+        <source>This is the folder from which an OPML file was last imported.</source>
+        <translation>Dies ist der Ordner, aus dem zuletzt eine OPML-Datei importiert wurde.</translation>
+    </message>
+    <message>
+        <source>Personal dictionary</source>
+        <translation>Eigenes Wörterbuch</translation>
+    </message>
+    <message>
+        <source>These are the words that you have added to the dictionary.</source>
+        <translation>Dies sind die Wörter, die Sie dem Wörterbuch hinzugefügt haben.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below the title of an index card.</source>
+        <translation>Dies ist die Farbe der Linie unter dem Titel einer Karteikarte.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the lines on an index card.</source>
+        <translation>Dies ist die Farbe der Schreiblinien auf einer Karteikarte.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the status that is stamped on an index card.</source>
+        <translation>Dies ist die Farbe des Status, der auf eine Karteikarte gestempelt wird.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the edge of an index card.</source>
+        <translation>Dies ist die Farbe des Rands einer Karteikarte.</translation>
+    </message>
+    <message>
+        <source>This is the colour of an index card without a label.</source>
+        <translation>Dies ist die Farbe einer Karteikarte ohne Etikett.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the corkboard where it has no picture.</source>
+        <translation>Dies ist die Farbe der Pinnwand, wenn sie kein Bild hat.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the screen around the page in full screen.</source>
+        <translation>Dies ist die Farbe des Bildschirms um die Seite im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the first revision.</source>
+        <translation>Dies ist die Farbe von Text, der in der ersten Überarbeitung geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the second revision.</source>
+        <translation>Dies ist die Farbe von Text, der in der zweiten Überarbeitung geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the third revision.</source>
+        <translation>Dies ist die Farbe von Text, der in der dritten Überarbeitung geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fourth revision.</source>
+        <translation>Dies ist die Farbe von Text, der in der vierten Überarbeitung geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fifth revision.</source>
+        <translation>Dies ist die Farbe von Text, der in der fünften Überarbeitung geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the editor that has none of its own.</source>
+        <translation>Dies ist die Farbe von Text im Editor, der keine eigene hat.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in the editor.</source>
+        <translation>Dies ist die Farbe der Seite im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor.</source>
+        <translation>Dies ist die Farbe der Links im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor that have been opened.</source>
+        <translation>Dies ist die Farbe von Links im Editor, die schon geöffnet wurden.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in the editor.</source>
+        <translation>Dies ist die Farbe von Leerzeichen, Tabulatoren und Absatzmarken im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in the editor.</source>
+        <translation>Dies ist die Farbe von ausgewähltem Text im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in the editor.</source>
+        <translation>Dies ist der Hintergrund von ausgewähltem Text im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of annotations within the text.</source>
+        <translation>Dies ist die Farbe von Anmerkungen im Text.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a comment.</source>
+        <translation>Dies ist der Hintergrund von Text mit einem Kommentar.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the text of footnotes.</source>
+        <translation>Dies ist die Farbe des Textes von Fußnoten.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a footnote.</source>
+        <translation>Dies ist der Hintergrund von Text mit einer Fußnote.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that keeps its formatting when the book is compiled.</source>
+        <translation>Dies ist der Hintergrund von Text, der beim Kompilieren seine Formatierung behält.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found in the editor.</source>
+        <translation>Dies ist der Hintergrund der Treffer einer Projektsuche im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found in the editor.</source>
+        <translation>Dies ist die Farbe des Rahmens um die Treffer einer Projektsuche im Editor.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document.</source>
+        <translation>Dies ist der Hintergrund der Fundstellen im Dokument.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document.</source>
+        <translation>Dies ist der Hintergrund jeder zweiten Fundstelle im Dokument.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document.</source>
+        <translation>Dies ist die Farbe von Text, der im Dokument gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below a misspelt word.</source>
+        <translation>Dies ist die Farbe der Linie unter einem falsch geschriebenen Wort.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in full screen that has none of its own.</source>
+        <translation>Dies ist die Farbe von Text im Vollbild, der keine eigene hat.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in full screen.</source>
+        <translation>Dies ist die Farbe der Seite im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen.</source>
+        <translation>Dies ist die Farbe der Links im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen that have been opened.</source>
+        <translation>Dies ist die Farbe von Links im Vollbild, die schon geöffnet wurden.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in full screen.</source>
+        <translation>Dies ist die Farbe von Leerzeichen, Tabulatoren und Absatzmarken im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in full screen.</source>
+        <translation>Dies ist die Farbe von ausgewähltem Text im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in full screen.</source>
+        <translation>Dies ist der Hintergrund von ausgewähltem Text im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found, in full screen.</source>
+        <translation>Dies ist der Hintergrund der Treffer einer Projektsuche im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found, in full screen.</source>
+        <translation>Dies ist die Farbe des Rahmens um die Treffer einer Projektsuche im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document, in full screen.</source>
+        <translation>Dies ist der Hintergrund der Fundstellen im Dokument, im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document, in full screen.</source>
+        <translation>Dies ist der Hintergrund jeder zweiten Fundstelle im Dokument, im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document, in full screen.</source>
+        <translation>Dies ist die Farbe von Text, der im Dokument gefunden wurde, im Vollbild.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of a document.</source>
+        <translation>Dies ist der Hintergrund der Notizen eines Dokuments.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of the project.</source>
+        <translation>Dies ist der Hintergrund der Notizen des Projekts.</translation>
+    </message>
+    <message>
+        <source>This is the background of the list of recent search results.</source>
+        <translation>Dies ist der Hintergrund der Liste der letzten Suchergebnisse.</translation>
+    </message>
+    <message>
+        <source>This is the background of the binder.</source>
+        <translation>Dies ist der Hintergrund der Mappe.</translation>
+    </message>
+    <message>
+        <source>This is the background of the outliner.</source>
+        <translation>Dies ist der Hintergrund der Gliederung.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other row of the outliner.</source>
+        <translation>Dies ist der Hintergrund jeder zweiten Zeile der Gliederung.</translation>
+    </message>
+    <message>
+        <source>This is the background of earlier versions of a document.</source>
+        <translation>Dies ist der Hintergrund früherer Fassungen eines Dokuments.</translation>
+    </message>
+    <message>
+        <source>This is the background of the scratch pad.</source>
+        <translation>Dies ist der Hintergrund des Notizblocks.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the scratch pad.</source>
+        <translation>Dies ist die Farbe von Text im Notizblock.</translation>
+    </message>
+    <message>
+        <source>Last check for updates</source>
+        <translation>Letzte Suche nach Updates</translation>
+    </message>
+    <message>
+        <source>This is the time at which a newer version was last looked for.</source>
+        <translation>Dies ist der Zeitpunkt, zu dem zuletzt nach einer neueren Version gesucht wurde.</translation>
+    </message>
+    <message>
+        <source>First start</source>
+        <translation>Erster Start</translation>
+    </message>
+    <message>
+        <source>This is the time at which the application was started for the first time.</source>
+        <translation>Dies ist der Zeitpunkt, zu dem die Anwendung zum ersten Mal gestartet wurde.</translation>
+    </message>
+    <message>
+        <source>This is the font of the titles of index cards.</source>
+        <translation>Dies ist die Schrift der Titel von Karteikarten.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on index cards.</source>
+        <translation>Dies ist die Schrift der Synopsen auf Karteikarten.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on small index cards.</source>
+        <translation>Dies ist die Schrift der Synopsen auf kleinen Karteikarten.</translation>
+    </message>
+    <message>
+        <source>This is the font of the status that is stamped on index cards.</source>
+        <translation>Dies ist die Schrift des Status, der auf Karteikarten gestempelt wird.</translation>
+    </message>
+    <message>
+        <source>This is the font of menus, buttons and dialogs.</source>
+        <translation>Dies ist die Schrift der Menüs, Knöpfe und Dialoge.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of a document.</source>
+        <translation>Dies ist die Schrift der Notizen eines Dokuments.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of the project.</source>
+        <translation>Dies ist die Schrift der Notizen des Projekts.</translation>
+    </message>
+    <message>
+        <source>This is the font of the binder.</source>
+        <translation>Dies ist die Schrift der Mappe.</translation>
+    </message>
+    <message>
+        <source>This is the font of the outliner.</source>
+        <translation>Dies ist die Schrift der Gliederung.</translation>
+    </message>
+    <message>
+        <source>This is the font of the bar above each editor.</source>
+        <translation>Dies ist die Schrift der Leiste über jedem Editor.</translation>
+    </message>
+    <message>
+        <source>This is the font of comments in the inspector.</source>
+        <translation>Dies ist die Schrift der Kommentare im Inspektor.</translation>
+    </message>
+    <message>
+        <source>This is the font of footnotes in the inspector.</source>
+        <translation>Dies ist die Schrift der Fußnoten im Inspektor.</translation>
+    </message>
+    <message>
+        <source>This is the font of the scratch pad.</source>
+        <translation>Dies ist die Schrift des Notizblocks.</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>This is the set of keys that the commands of the application have.</source>
+        <translation>Dies sind die Tasten, die die Befehle der Anwendung haben.</translation>
+    </message>
+    <message>
+        <source>Text presets</source>
+        <translation>Textvorlagen</translation>
+    </message>
+    <message>
+        <source>These are the named formats for characters and paragraphs.</source>
+        <translation>Dies sind die benannten Formate für Zeichen und Absätze.</translation>
+    </message>
+    <message>
+        <source>Background picture</source>
+        <translation>Hintergrundbild</translation>
+    </message>
+    <message>
+        <source>This is the picture that fills the screen around the page in full screen.</source>
+        <translation>Dies ist das Bild, das den Bildschirm um die Seite im Vollbild füllt.</translation>
+    </message>
+    <message>
+        <source>Replacements</source>
+        <translation>Ersetzungen</translation>
+    </message>
+    <message>
+        <source>This is the list of texts that are replaced while typing.</source>
+        <translation>Dies ist die Liste der Texte, die beim Tippen ersetzt werden.</translation>
+    </message>
+    <message>
+        <source>PDF settings</source>
+        <translation>PDF-Einstellungen</translation>
+    </message>
+    <message>
+        <source>These are the settings of PDF exports by their names.</source>
+        <translation>Dies sind die Einstellungen von PDF-Exporten mit ihren Namen.</translation>
+    </message>
+    <message>
+        <source>Place of the spelling window</source>
+        <translation>Lage des Rechtschreibfensters</translation>
+    </message>
+    <message>
+        <source>This is the place and the size that the spelling window had last.</source>
+        <translation>Dies sind die Lage und die Größe, die das Rechtschreibfenster zuletzt hatte.</translation>
+    </message>
+    <message>
+        <source>Import web pages as</source>
+        <translation>Webseiten importieren als</translation>
+    </message>
+    <message>
+        <source>Determines what a web page becomes when it is imported.</source>
+        <translation>Legt fest, was beim Import aus einer Webseite wird.</translation>
+    </message>
+    <message>
+        <source>Encoding of plain text</source>
+        <translation>Kodierung von reinem Text</translation>
+    </message>
+    <message>
+        <source>This is the encoding in which plain text files are read where they do not name one.</source>
+        <translation>Dies ist die Kodierung, in der reine Textdateien gelesen werden, die selbst keine nennen.</translation>
+    </message>
+    <message>
+        <source>Converters for imports</source>
+        <translation>Konverter für Importe</translation>
+    </message>
+    <message>
+        <source>Determines which converter reads which file format.</source>
+        <translation>Legt fest, welcher Konverter welches Dateiformat liest.</translation>
+    </message>
+    <message>
+        <source>Converters for exports</source>
+        <translation>Konverter für Exporte</translation>
+    </message>
+    <message>
+        <source>Determines which converter writes which file format.</source>
+        <translation>Legt fest, welcher Konverter welches Dateiformat schreibt.</translation>
+    </message>
+    <message>
+        <source>Characters of new documents</source>
+        <translation>Zeichen neuer Dokumente</translation>
+    </message>
+    <message>
+        <source>This is the format of characters with which a new document begins.</source>
+        <translation>Dies ist das Zeichenformat, mit dem ein neues Dokument beginnt.</translation>
+    </message>
+    <message>
+        <source>Paragraphs of new documents</source>
+        <translation>Absätze neuer Dokumente</translation>
+    </message>
+    <message>
+        <source>This is the format of paragraphs with which a new document begins.</source>
+        <translation>Dies ist das Absatzformat, mit dem ein neues Dokument beginnt.</translation>
+    </message>
+    <message>
+        <source>Between documents shown together</source>
+        <translation>Zwischen zusammen angezeigten Dokumenten</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are shown as one.</source>
+        <translation>Legt fest, was die Texte von Dokumenten trennt, die als eines angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between documents shown together</source>
+        <translation>Eigenes Trennzeichen zwischen zusammen angezeigten Dokumenten</translation>
+    </message>
+    <message>
+        <source>This is the text that separates documents shown as one where a separator of your own is chosen.</source>
+        <translation>Dies ist der Text, der als eines angezeigte Dokumente trennt, wenn ein eigenes Trennzeichen gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Between merged documents</source>
+        <translation>Zwischen verbundenen Dokumenten</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are merged.</source>
+        <translation>Legt fest, was die Texte von Dokumenten trennt, die verbunden werden.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between merged documents</source>
+        <translation>Eigenes Trennzeichen zwischen verbundenen Dokumenten</translation>
+    </message>
+    <message>
+        <source>This is the text that separates merged documents where a separator of your own is chosen.</source>
+        <translation>Dies ist der Text, der verbundene Dokumente trennt, wenn ein eigenes Trennzeichen gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Between clippings</source>
+        <translation>Zwischen Ausschnitten</translation>
+    </message>
+    <message>
+        <source>Determines what separates a clipping from the text to which it is added.</source>
+        <translation>Legt fest, was einen Ausschnitt von dem Text trennt, an den er angefügt wird.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between clippings</source>
+        <translation>Eigenes Trennzeichen zwischen Ausschnitten</translation>
+    </message>
+    <message>
+        <source>This is the text that separates clippings where a separator of your own is chosen.</source>
+        <translation>Dies ist der Text, der Ausschnitte trennt, wenn ein eigenes Trennzeichen gewählt ist.</translation>
+    </message>
+    <message>
+        <source>the commas make a list of the bytes; they belong into quotation marks</source>
+        <translation>die Kommas machen aus den Bytes eine Liste; sie gehören in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Font of card titles</source>
+        <translation>Schrift der Kartentitel</translation>
+    </message>
+    <message>
+        <source>Font of synopses</source>
+        <translation>Schrift der Synopsen</translation>
+    </message>
+    <message>
+        <source>Font of synopses on small cards</source>
+        <translation>Schrift der Synopsen auf kleinen Karten</translation>
+    </message>
+    <message>
+        <source>Font of status stamps</source>
+        <translation>Schrift der Statusstempel</translation>
+    </message>
+    <message>
+        <source>Font of menus and dialogs</source>
+        <translation>Schrift von Menüs und Dialogen</translation>
+    </message>
+    <message>
+        <source>Font of document notes</source>
+        <translation>Schrift der Dokumentnotizen</translation>
+    </message>
+    <message>
+        <source>Font of project notes</source>
+        <translation>Schrift der Projektnotizen</translation>
+    </message>
+    <message>
+        <source>Font of the binder</source>
+        <translation>Schrift der Mappe</translation>
+    </message>
+    <message>
+        <source>Font of the outliner</source>
+        <translation>Schrift der Gliederung</translation>
+    </message>
+    <message>
+        <source>Font of header bars</source>
+        <translation>Schrift der Kopfleisten</translation>
+    </message>
+    <message>
+        <source>Font of comments</source>
+        <translation>Schrift der Kommentare</translation>
+    </message>
+    <message>
+        <source>Font of footnotes</source>
+        <translation>Schrift der Fußnoten</translation>
+    </message>
+    <message>
+        <source>Font of the scratch pad</source>
+        <translation>Schrift des Notizblocks</translation>
     </message>
 </context>
 <context>

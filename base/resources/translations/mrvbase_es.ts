@@ -786,10 +786,6 @@ Error: %2</translation>
         <translation>Pizarra</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>de %1 a %2</translation>
-    </message>
-    <message>
         <source>Divider</source>
         <translation>Línea divisoria</translation>
     </message>
@@ -1012,6 +1008,1474 @@ Error: %2</translation>
     <message>
         <source>the shortcut scheme in %1: %2</source>
         <translation>el esquema de atajos de %1: %2</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>Correcciones</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navegación</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>Separadores</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Grabaciones</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+    <message>
+        <source>Import and export</source>
+        <translation>Importación y exportación</translation>
+    </message>
+    <message>
+        <source>OPML files</source>
+        <translation>Archivos OPML</translation>
+    </message>
+    <message>
+        <source>E-books</source>
+        <translation>Libros electrónicos</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>Archivos PDF</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Ventanas</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>The other editor</source>
+        <translation>El otro editor</translation>
+    </message>
+    <message>
+        <source>The current editor</source>
+        <translation>El editor actual</translation>
+    </message>
+    <message>
+        <source>A reference panel</source>
+        <translation>Un panel de referencia</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pulgadas</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Milímetros</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Picas</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Píxeles</translation>
+    </message>
+    <message>
+        <source>Above the text</source>
+        <translation>Encima del texto</translation>
+    </message>
+    <message>
+        <source>Beside the text</source>
+        <translation>Al lado del texto</translation>
+    </message>
+    <message>
+        <source>Not at all</source>
+        <translation>De ninguna forma</translation>
+    </message>
+    <message>
+        <source>As a pin</source>
+        <translation>Con una chincheta</translation>
+    </message>
+    <message>
+        <source>As a coloured corner</source>
+        <translation>Con una esquina de color</translation>
+    </message>
+    <message>
+        <source>As a stripe</source>
+        <translation>Con una franja</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Rectas</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>Redondeadas</translation>
+    </message>
+    <message>
+        <source>Does nothing</source>
+        <translation>No hace nada</translation>
+    </message>
+    <message>
+        <source>Creates a card</source>
+        <translation>Crea una ficha</translation>
+    </message>
+    <message>
+        <source>Goes up to the folder above</source>
+        <translation>Sube a la carpeta superior</translation>
+    </message>
+    <message>
+        <source>Single return</source>
+        <translation>Un solo salto</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Línea vacía</translation>
+    </message>
+    <message>
+        <source>A separator of your own</source>
+        <translation>Un separador propio</translation>
+    </message>
+    <message>
+        <source>Last session ended normally</source>
+        <translation>La última sesión terminó bien</translation>
+    </message>
+    <message>
+        <source>Whether the session before this one was ended by the user and not by a failure.</source>
+        <translation>Indica si la sesión anterior la terminó el usuario y no un fallo.</translation>
+    </message>
+    <message>
+        <source>This session has ended normally</source>
+        <translation>Esta sesión ha terminado bien</translation>
+    </message>
+    <message>
+        <source>Whether the present session was ended by the user, which is stored when the application closes.</source>
+        <translation>Indica si la sesión actual la terminó el usuario, lo que se guarda al cerrar la aplicación.</translation>
+    </message>
+    <message>
+        <source>Reopen projects at start</source>
+        <translation>Reabrir los proyectos al inicio</translation>
+    </message>
+    <message>
+        <source>Opens the projects again that were open when the application was closed.</source>
+        <translation>Vuelve a abrir los proyectos que estaban abiertos al cerrar la aplicación.</translation>
+    </message>
+    <message>
+        <source>Show the start panel</source>
+        <translation>Mostrar el panel de inicio</translation>
+    </message>
+    <message>
+        <source>Shows a panel with templates and recent projects when no project is open.</source>
+        <translation>Muestra un panel con plantillas y proyectos recientes cuando no hay ningún proyecto abierto.</translation>
+    </message>
+    <message>
+        <source>Show the full path in the title bar</source>
+        <translation>Mostrar la ruta completa en la barra de título</translation>
+    </message>
+    <message>
+        <source>Shows the folder of a project with its name in the title bar of the window.</source>
+        <translation>Muestra la carpeta del proyecto junto a su nombre en la barra de título de la ventana.</translation>
+    </message>
+    <message>
+        <source>Allow overtyping</source>
+        <translation>Permitir sobrescribir</translation>
+    </message>
+    <message>
+        <source>Lets the Insert key switch between inserting text and typing over it.</source>
+        <translation>Permite que la tecla Insertar alterne entre insertar texto y sobrescribirlo.</translation>
+    </message>
+    <message>
+        <source>Set notes after punctuation</source>
+        <translation>Poner las notas tras la puntuación</translation>
+    </message>
+    <message>
+        <source>Places the mark of a footnote or comment after the punctuation that follows the selected words.</source>
+        <translation>Coloca la marca de una nota o de un comentario tras el signo de puntuación que sigue a las palabras seleccionadas.</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Looks for a newer version of the application from time to time.</source>
+        <translation>Busca de vez en cuando una versión más reciente de la aplicación.</translation>
+    </message>
+    <message>
+        <source>Name untitled documents on saving</source>
+        <translation>Dar nombre al guardar documentos sin título</translation>
+    </message>
+    <message>
+        <source>Gives a document without a title its first words as a title when it is saved.</source>
+        <translation>Da a un documento sin título sus primeras palabras como título al guardarlo.</translation>
+    </message>
+    <message>
+        <source>Import web pages as text</source>
+        <translation>Importar páginas web como texto</translation>
+    </message>
+    <message>
+        <source>Converts a web page to text that can be edited when it is imported.</source>
+        <translation>Convierte una página web en texto editable al importarla.</translation>
+    </message>
+    <message>
+        <source>Import known file types only</source>
+        <translation>Importar solo tipos de archivo conocidos</translation>
+    </message>
+    <message>
+        <source>Leaves out files that the application cannot show when a folder is imported.</source>
+        <translation>Omite los archivos que la aplicación no puede mostrar cuando se importa una carpeta.</translation>
+    </message>
+    <message>
+        <source>Remove invalid characters from RTF</source>
+        <translation>Quitar caracteres no válidos de RTF</translation>
+    </message>
+    <message>
+        <source>Leaves out control characters that some programs write into RTF files.</source>
+        <translation>Omite los caracteres de control que algunos programas escriben en los archivos RTF.</translation>
+    </message>
+    <message>
+        <source>Use font hinting</source>
+        <translation>Usar el ajuste de las fuentes</translation>
+    </message>
+    <message>
+        <source>Fits the shapes of letters to the pixels of the screen in text that is read from the settings.</source>
+        <translation>Ajusta la forma de las letras a los píxeles de la pantalla en el texto que se lee de las preferencias.</translation>
+    </message>
+    <message>
+        <source>Use first lines as titles only</source>
+        <translation>Usar las primeras líneas solo como títulos</translation>
+    </message>
+    <message>
+        <source>Takes the first line of an imported Fernwick note as its title and leaves it out of the text.</source>
+        <translation>Toma la primera línea de una nota de Fernwick importada como título y la omite en el texto.</translation>
+    </message>
+    <message>
+        <source>Show the number of documents</source>
+        <translation>Mostrar el número de documentos</translation>
+    </message>
+    <message>
+        <source>Shows at each folder of the binder how many documents it contains.</source>
+        <translation>Muestra en cada carpeta del archivador cuántos documentos contiene.</translation>
+    </message>
+    <message>
+        <source>Show lines in document notes</source>
+        <translation>Mostrar renglones en las notas de documento</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of a document.</source>
+        <translation>Dibuja los renglones de un cuaderno en las notas de un documento.</translation>
+    </message>
+    <message>
+        <source>Show lines in project notes</source>
+        <translation>Mostrar renglones en las notas de proyecto</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of the project.</source>
+        <translation>Dibuja los renglones de un cuaderno en las notas del proyecto.</translation>
+    </message>
+    <message>
+        <source>Shade every other row</source>
+        <translation>Sombrear filas alternas</translation>
+    </message>
+    <message>
+        <source>Gives every other row of the outliner another background.</source>
+        <translation>Da otro fondo a una de cada dos filas del esquema.</translation>
+    </message>
+    <message>
+        <source>Folders in bold</source>
+        <translation>Carpetas en negrita</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in bold type.</source>
+        <translation>Muestra en negrita los títulos de las carpetas del archivador.</translation>
+    </message>
+    <message>
+        <source>Folders in italics</source>
+        <translation>Carpetas en cursiva</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in italics.</source>
+        <translation>Muestra en cursiva los títulos de las carpetas del archivador.</translation>
+    </message>
+    <message>
+        <source>Collections in bold</source>
+        <translation>Colecciones en negrita</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in bold type.</source>
+        <translation>Muestra en negrita los títulos de las colecciones.</translation>
+    </message>
+    <message>
+        <source>Collections in italics</source>
+        <translation>Colecciones en cursiva</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in italics.</source>
+        <translation>Muestra en cursiva los títulos de las colecciones.</translation>
+    </message>
+    <message>
+        <source>Show collections as folders</source>
+        <translation>Mostrar las colecciones como carpetas</translation>
+    </message>
+    <message>
+        <source>Shows a collection on the corkboard and in the outliner as if it were a folder.</source>
+        <translation>Muestra una colección en el tablero de corcho y en el esquema como si fuera una carpeta.</translation>
+    </message>
+    <message>
+        <source>Include the enclosing group</source>
+        <translation>Incluir el grupo que los contiene</translation>
+    </message>
+    <message>
+        <source>Adds the folder itself when its documents are shown as one text.</source>
+        <translation>Añade la propia carpeta cuando sus documentos se muestran como un solo texto.</translation>
+    </message>
+    <message>
+        <source>Open all results together</source>
+        <translation>Abrir juntos todos los resultados</translation>
+    </message>
+    <message>
+        <source>Shows all documents that a project search has found in the editor at once.</source>
+        <translation>Muestra a la vez en el editor todos los documentos que ha encontrado una búsqueda en el proyecto.</translation>
+    </message>
+    <message>
+        <source>Collapse items again after dragging</source>
+        <translation>Contraer los elementos después de arrastrar</translation>
+    </message>
+    <message>
+        <source>Closes the items of the outline that opened by themselves during a drag.</source>
+        <translation>Contrae los elementos del esquema que se abrieron solos al arrastrar.</translation>
+    </message>
+    <message>
+        <source>Return ends a synopsis</source>
+        <translation>Intro termina una sinopsis</translation>
+    </message>
+    <message>
+        <source>Ends the editing of a synopsis with the Return key, which otherwise begins a new line.</source>
+        <translation>Termina de editar una sinopsis con la tecla Intro, que de otro modo empieza una línea nueva.</translation>
+    </message>
+    <message>
+        <source>Return creates an item</source>
+        <translation>Intro crea un elemento</translation>
+    </message>
+    <message>
+        <source>Creates a new item with the Return key in the binder, the outliner and on the corkboard.</source>
+        <translation>Crea un elemento con la tecla Intro en el archivador, en el esquema y en el tablero de corcho.</translation>
+    </message>
+    <message>
+        <source>Allow dropping on cards</source>
+        <translation>Permitir soltar sobre fichas</translation>
+    </message>
+    <message>
+        <source>Lets an index card be dropped on another one, so that it becomes part of it.</source>
+        <translation>Permite soltar una ficha sobre otra, de la que pasa a formar parte.</translation>
+    </message>
+    <message>
+        <source>Check spelling in new projects</source>
+        <translation>Revisar la ortografía en proyectos nuevos</translation>
+    </message>
+    <message>
+        <source>Turns on the spelling check while typing in every new project.</source>
+        <translation>Activa la revisión ortográfica mientras se escribe en cada proyecto nuevo.</translation>
+    </message>
+    <message>
+        <source>Correct spelling while typing</source>
+        <translation>Corregir la ortografía al escribir</translation>
+    </message>
+    <message>
+        <source>Replaces a misspelt word by the likely one as soon as it is complete.</source>
+        <translation>Sustituye una palabra mal escrita por la probable en cuanto está completa.</translation>
+    </message>
+    <message>
+        <source>Capitalize a single i</source>
+        <translation>Poner en mayúscula una i sola</translation>
+    </message>
+    <message>
+        <source>Writes the English word I as a capital letter.</source>
+        <translation>Escribe la palabra inglesa I en mayúscula.</translation>
+    </message>
+    <message>
+        <source>Capitalize sentences</source>
+        <translation>Empezar las frases con mayúscula</translation>
+    </message>
+    <message>
+        <source>Begins each sentence with a capital letter.</source>
+        <translation>Empieza cada frase con una letra mayúscula.</translation>
+    </message>
+    <message>
+        <source>Use smart quotes</source>
+        <translation>Usar comillas tipográficas</translation>
+    </message>
+    <message>
+        <source>Replaces straight quotation marks by opening and closing ones while typing.</source>
+        <translation>Sustituye al escribir las comillas rectas por comillas de apertura y de cierre.</translation>
+    </message>
+    <message>
+        <source>Replace hyphens by em dashes</source>
+        <translation>Sustituir guiones por rayas</translation>
+    </message>
+    <message>
+        <source>Turns two hyphens into an em dash while typing.</source>
+        <translation>Convierte dos guiones en una raya al escribir.</translation>
+    </message>
+    <message>
+        <source>Replace dots by ellipses</source>
+        <translation>Sustituir puntos por puntos suspensivos</translation>
+    </message>
+    <message>
+        <source>Turns three full stops into an ellipsis while typing.</source>
+        <translation>Convierte tres puntos en puntos suspensivos al escribir.</translation>
+    </message>
+    <message>
+        <source>No correction in script mode</source>
+        <translation>Sin correcciones en el modo de guion</translation>
+    </message>
+    <message>
+        <source>Switches all corrections off while a script is written.</source>
+        <translation>Desactiva todas las correcciones mientras se escribe un guion.</translation>
+    </message>
+    <message>
+        <source>Raise ordinals</source>
+        <translation>Volar los ordinales</translation>
+    </message>
+    <message>
+        <source>Raises the letters of English ordinal numbers such as 1st.</source>
+        <translation>Pone en superíndice las letras de los números ordinales ingleses como 1st.</translation>
+    </message>
+    <message>
+        <source>Link web addresses</source>
+        <translation>Enlazar direcciones web</translation>
+    </message>
+    <message>
+        <source>Turns a web address into a link while it is typed.</source>
+        <translation>Convierte una dirección web en un enlace al escribirla.</translation>
+    </message>
+    <message>
+        <source>Link titles in brackets</source>
+        <translation>Enlazar títulos entre corchetes</translation>
+    </message>
+    <message>
+        <source>Turns the title of a document in double square brackets into a link to it.</source>
+        <translation>Convierte el título de un documento entre dobles corchetes en un enlace al documento.</translation>
+    </message>
+    <message>
+        <source>Replace text while typing</source>
+        <translation>Sustituir texto al escribir</translation>
+    </message>
+    <message>
+        <source>Replaces abbreviations by the texts in the list of replacements.</source>
+        <translation>Sustituye las abreviaturas por los textos de la lista de sustituciones.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling</source>
+        <translation>Desplazamiento de máquina de escribir</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the editor.</source>
+        <translation>Mantiene la línea que se escribe en el centro del editor.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling in full screen</source>
+        <translation>Desplazamiento de máquina de escribir a pantalla completa</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the screen.</source>
+        <translation>Mantiene la línea que se escribe en el centro de la pantalla.</translation>
+    </message>
+    <message>
+        <source>Complete words</source>
+        <translation>Completar palabras</translation>
+    </message>
+    <message>
+        <source>Offers words from the completion list of the project while typing.</source>
+        <translation>Ofrece al escribir palabras de la lista de autocompletado del proyecto.</translation>
+    </message>
+    <message>
+        <source>Complete words in script mode only</source>
+        <translation>Completar palabras solo en el modo de guion</translation>
+    </message>
+    <message>
+        <source>Offers completions in scripts and not in other text.</source>
+        <translation>Ofrece el autocompletado en los guiones y no en otros textos.</translation>
+    </message>
+    <message>
+        <source>Make backups</source>
+        <translation>Hacer copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Makes backups of projects without being asked.</source>
+        <translation>Hace copias de seguridad de los proyectos sin que se pida.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is opened</source>
+        <translation>Hacer copia al abrir un proyecto</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project before it is opened.</source>
+        <translation>Hace una copia de seguridad de un proyecto antes de abrirlo.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is closed</source>
+        <translation>Hacer copia al cerrar un proyecto</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project when it is closed.</source>
+        <translation>Hace una copia de seguridad de un proyecto cuando se cierra.</translation>
+    </message>
+    <message>
+        <source>Back up on each manual save</source>
+        <translation>Hacer copia al guardar a mano</translation>
+    </message>
+    <message>
+        <source>Makes a backup whenever the project is saved by command.</source>
+        <translation>Hace una copia de seguridad cada vez que se guarda el proyecto con la orden.</translation>
+    </message>
+    <message>
+        <source>Compress backups</source>
+        <translation>Comprimir las copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Stores each backup as one zip file.</source>
+        <translation>Guarda cada copia de seguridad en un solo archivo zip.</translation>
+    </message>
+    <message>
+        <source>Put the date into backup names</source>
+        <translation>Poner la fecha en el nombre de las copias</translation>
+    </message>
+    <message>
+        <source>Adds the date and the time to the name of each backup.</source>
+        <translation>Añade la fecha y la hora al nombre de cada copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>No sound effects</source>
+        <translation>Sin efectos de sonido</translation>
+    </message>
+    <message>
+        <source>Switches the sounds of the application off.</source>
+        <translation>Desactiva los sonidos de la aplicación.</translation>
+    </message>
+    <message>
+        <source>Transparent scratch pad</source>
+        <translation>Bloc de notas transparente</translation>
+    </message>
+    <message>
+        <source>Lets the windows behind the scratch pad shine through.</source>
+        <translation>Deja ver las ventanas que hay bajo el bloc de notas.</translation>
+    </message>
+    <message>
+        <source>Wrap metadata fields</source>
+        <translation>Ajustar los metadatos en varias líneas</translation>
+    </message>
+    <message>
+        <source>Shows long values of custom metadata on several lines.</source>
+        <translation>Muestra en varias líneas los valores largos de los metadatos personalizados.</translation>
+    </message>
+    <message>
+        <source>Colour metadata fields</source>
+        <translation>Colorear los campos de metadatos</translation>
+    </message>
+    <message>
+        <source>Shows each field of custom metadata in its own colour.</source>
+        <translation>Muestra cada campo de los metadatos personalizados en su color.</translation>
+    </message>
+    <message>
+        <source>Keep windows on top</source>
+        <translation>Mantener las ventanas delante</translation>
+    </message>
+    <message>
+        <source>Keeps the tool windows of the application above all other windows.</source>
+        <translation>Mantiene las ventanas de herramientas de la aplicación sobre todas las demás.</translation>
+    </message>
+    <message>
+        <source>Keep reference panels on top</source>
+        <translation>Mantener delante los paneles de referencia</translation>
+    </message>
+    <message>
+        <source>Keeps quick reference panels above the main window.</source>
+        <translation>Mantiene los paneles de referencia rápida sobre la ventana principal.</translation>
+    </message>
+    <message>
+        <source>Export the entire binder</source>
+        <translation>Exportar todo el archivador</translation>
+    </message>
+    <message>
+        <source>Exports all of the binder to OPML, and not the selected items only.</source>
+        <translation>Exporta todo el archivador a OPML y no solo los elementos seleccionados.</translation>
+    </message>
+    <message>
+        <source>Create a folder for the import</source>
+        <translation>Crear una carpeta para la importación</translation>
+    </message>
+    <message>
+        <source>Puts what is imported from OPML into a new folder.</source>
+        <translation>Pone lo que se importa de OPML en una carpeta nueva.</translation>
+    </message>
+    <message>
+        <source>Position of the page</source>
+        <translation>Posición de la página</translation>
+    </message>
+    <message>
+        <source>Determines where on the screen the page stands in full screen.</source>
+        <translation>Determina en qué lugar de la pantalla está la página a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>Save after (seconds)</source>
+        <translation>Guardar tras (segundos)</translation>
+    </message>
+    <message>
+        <source>Saves the project when nothing has been typed for this number of seconds.</source>
+        <translation>Guarda el proyecto cuando no se ha escrito nada durante este número de segundos.</translation>
+    </message>
+    <message>
+        <source>Days between checks for updates</source>
+        <translation>Días entre búsquedas de actualizaciones</translation>
+    </message>
+    <message>
+        <source>Determines how many days pass before a newer version is looked for again.</source>
+        <translation>Determina cuántos días pasan hasta que se vuelve a buscar una versión más reciente.</translation>
+    </message>
+    <message>
+        <source>Strength of label tints</source>
+        <translation>Intensidad del color de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the colour of a label shows, from 0 (not at all) to 255 (fully).</source>
+        <translation>Determina con qué fuerza se ve el color de una etiqueta, de 0 (nada) a 255 (del todo).</translation>
+    </message>
+    <message>
+        <source>Strength of the status stamp</source>
+        <translation>Intensidad del sello de estado</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the status is stamped on an index card, from 0 to 255.</source>
+        <translation>Determina con qué fuerza se estampa el estado en una ficha, de 0 a 255.</translation>
+    </message>
+    <message>
+        <source>Strength of card shadows</source>
+        <translation>Intensidad de las sombras de las fichas</translation>
+    </message>
+    <message>
+        <source>Determines how dark the shadows of index cards are, from 0 (none) to 255.</source>
+        <translation>Determina lo oscuras que son las sombras de las fichas, de 0 (ninguna) a 255.</translation>
+    </message>
+    <message>
+        <source>Strength of the background</source>
+        <translation>Intensidad del fondo</translation>
+    </message>
+    <message>
+        <source>Determines how much the background of full screen hides the desktop, from 0 to 255.</source>
+        <translation>Determina cuánto oculta el escritorio el fondo de la pantalla completa, de 0 a 255.</translation>
+    </message>
+    <message>
+        <source>Width of the page (percent)</source>
+        <translation>Anchura de la página (por ciento)</translation>
+    </message>
+    <message>
+        <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
+        <translation>Fija la anchura de la página a pantalla completa, en tanto por ciento de la de la pantalla.</translation>
+    </message>
+    <message>
+        <source>Height of the page (percent)</source>
+        <translation>Altura de la página (por ciento)</translation>
+    </message>
+    <message>
+        <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
+        <translation>Fija la altura de la página a pantalla completa, en tanto por ciento de la de la pantalla.</translation>
+    </message>
+    <message>
+        <source>Width of the text cursor (pixels)</source>
+        <translation>Anchura del cursor de texto (píxeles)</translation>
+    </message>
+    <message>
+        <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
+        <translation>Fija la anchura del cursor de texto; -1 es la anchura que usa el sistema.</translation>
+    </message>
+    <message>
+        <source>Zoom of the editor</source>
+        <translation>Zoom del editor</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors the editor uses.</source>
+        <translation>Determina qué entrada de la lista de factores de zoom usa el editor.</translation>
+    </message>
+    <message>
+        <source>Zoom of project notes</source>
+        <translation>Zoom de las notas de proyecto</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors project notes use.</source>
+        <translation>Determina qué entrada de la lista de factores de zoom usan las notas de proyecto.</translation>
+    </message>
+    <message>
+        <source>Zoom of document notes</source>
+        <translation>Zoom de las notas de documento</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors document notes use.</source>
+        <translation>Determina qué entrada de la lista de factores de zoom usan las notas de documento.</translation>
+    </message>
+    <message>
+        <source>Rewind on pause (seconds)</source>
+        <translation>Retroceso al pausar (segundos)</translation>
+    </message>
+    <message>
+        <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
+        <translation>Determina cuántos segundos retrocede una grabación al pausarla, para que no se pierda ninguna palabra.</translation>
+    </message>
+    <message>
+        <source>Backups to keep</source>
+        <translation>Copias de seguridad que se conservan</translation>
+    </message>
+    <message>
+        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
+        <translation>Determina cuántas copias de un proyecto se conservan antes de quitar la más antigua; 0 las conserva todas.</translation>
+    </message>
+    <message>
+        <source>Revision of new text</source>
+        <translation>Revisión del texto nuevo</translation>
+    </message>
+    <message>
+        <source>Determines as which revision new text is marked, from 1 to 5; 0 marks nothing.</source>
+        <translation>Determina con qué revisión se marca el texto nuevo, de 1 a 5; 0 no marca nada.</translation>
+    </message>
+    <message>
+        <source>Adapt indents to line spacing</source>
+        <translation>Adaptar las sangrías al interlineado</translation>
+    </message>
+    <message>
+        <source>Determines how the first-line indent follows when the line spacing is changed.</source>
+        <translation>Determina cómo sigue la sangría de primera línea los cambios de interlineado.</translation>
+    </message>
+    <message>
+        <source>Open links in</source>
+        <translation>Abrir los enlaces en</translation>
+    </message>
+    <message>
+        <source>Determines where the document opens that a clicked link leads to.</source>
+        <translation>Determina dónde se abre el documento al que lleva un enlace pulsado.</translation>
+    </message>
+    <message>
+        <source>Recent projects to list</source>
+        <translation>Número de proyectos recientes</translation>
+    </message>
+    <message>
+        <source>Determines how many projects the menu of recent projects shows.</source>
+        <translation>Determina cuántos proyectos muestra el menú de proyectos recientes.</translation>
+    </message>
+    <message>
+        <source>Last format of an OPML export</source>
+        <translation>Último formato de exportación OPML</translation>
+    </message>
+    <message>
+        <source>This is the format that the last export to OPML used.</source>
+        <translation>Es el formato que usó la última exportación a OPML.</translation>
+    </message>
+    <message>
+        <source>Content of OPML exports</source>
+        <translation>Contenido de las exportaciones OPML</translation>
+    </message>
+    <message>
+        <source>Determines which parts of the documents an export to OPML contains.</source>
+        <translation>Determina qué partes de los documentos contiene una exportación a OPML.</translation>
+    </message>
+    <message>
+        <source>Content of OPML imports</source>
+        <translation>Contenido de las importaciones OPML</translation>
+    </message>
+    <message>
+        <source>Determines what the notes of an OPML file become when it is imported.</source>
+        <translation>Determina en qué se convierten las notas de un archivo OPML al importarlo.</translation>
+    </message>
+    <message>
+        <source>Last choice for an OPML import</source>
+        <translation>Última elección de importación OPML</translation>
+    </message>
+    <message>
+        <source>This is the choice that the import dialog showed last.</source>
+        <translation>Es la elección que mostró por última vez el diálogo de importación.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Sets how loud recordings are played, from 0 (silent) to 1 (full).</source>
+        <translation>Fija el volumen con que se reproducen las grabaciones, de 0 (silencio) a 1 (máximo).</translation>
+    </message>
+    <message>
+        <source>Margin of the editor (pixels)</source>
+        <translation>Margen del editor (píxeles)</translation>
+    </message>
+    <message>
+        <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
+        <translation>Fija cuántos píxeles quedan libres entre el texto y el borde del editor.</translation>
+    </message>
+    <message>
+        <source>Folder of templates</source>
+        <translation>Carpeta de plantillas</translation>
+    </message>
+    <message>
+        <source>This is the folder in which project templates of your own are kept.</source>
+        <translation>Es la carpeta en la que están sus propias plantillas de proyecto.</translation>
+    </message>
+    <message>
+        <source>Picture of the corkboard</source>
+        <translation>Imagen del tablero de corcho</translation>
+    </message>
+    <message>
+        <source>This is the picture file that covers the corkboard; without one it has a plain colour.</source>
+        <translation>Es el archivo de imagen que cubre el tablero de corcho; sin él, es de un color liso.</translation>
+    </message>
+    <message>
+        <source>Unit of the ruler</source>
+        <translation>Unidad de la regla</translation>
+    </message>
+    <message>
+        <source>This is the unit in which the ruler and the fields for lengths count.</source>
+        <translation>Es la unidad en la que cuentan la regla y los campos de longitud.</translation>
+    </message>
+    <message>
+        <source>Step of the ruler</source>
+        <translation>Paso de la regla</translation>
+    </message>
+    <message>
+        <source>This is the distance in which tab stops and indents move on the ruler; empty lets them move freely.</source>
+        <translation>Es la distancia con que se mueven las tabulaciones y sangrías en la regla; vacía, se mueven libremente.</translation>
+    </message>
+    <message>
+        <source>Language of the dictionary</source>
+        <translation>Idioma del diccionario</translation>
+    </message>
+    <message>
+        <source>This is the language in which spelling is checked, such as en_GB.</source>
+        <translation>Es el idioma en que se revisa la ortografía, como es_ES.</translation>
+    </message>
+    <message>
+        <source>Citation manager</source>
+        <translation>Gestor de citas</translation>
+    </message>
+    <message>
+        <source>This is the program that opens when citations are to be inserted.</source>
+        <translation>Es el programa que se abre para insertar citas.</translation>
+    </message>
+    <message>
+        <source>Folder of scratch pad notes</source>
+        <translation>Carpeta de las notas del bloc</translation>
+    </message>
+    <message>
+        <source>This is the folder in which the notes of the scratch pad are kept.</source>
+        <translation>Es la carpeta en la que están las notas del bloc de notas.</translation>
+    </message>
+    <message>
+        <source>Last scratch pad note</source>
+        <translation>Última nota del bloc</translation>
+    </message>
+    <message>
+        <source>This is the note that the scratch pad showed last.</source>
+        <translation>Es la nota que mostró por última vez el bloc de notas.</translation>
+    </message>
+    <message>
+        <source>Layout of the scratch pad</source>
+        <translation>Disposición del bloc de notas</translation>
+    </message>
+    <message>
+        <source>Determines whether the list of notes stands above the text or beside it.</source>
+        <translation>Determina si la lista de notas está encima del texto o al lado.</translation>
+    </message>
+    <message>
+        <source>Folder of backups</source>
+        <translation>Carpeta de las copias de seguridad</translation>
+    </message>
+    <message>
+        <source>This is the folder in which automatic backups are kept.</source>
+        <translation>Es la carpeta en la que están las copias de seguridad automáticas.</translation>
+    </message>
+    <message>
+        <source>Language of the application</source>
+        <translation>Idioma de la aplicación</translation>
+    </message>
+    <message>
+        <source>This is the language of menus and dialogs; it changes at the next start.</source>
+        <translation>Es el idioma de los menús y diálogos; cambia en el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Double quotes</source>
+        <translation>Comillas dobles</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight double quotes.</source>
+        <translation>Son los signos de apertura y de cierre que sustituyen a las comillas dobles rectas.</translation>
+    </message>
+    <message>
+        <source>Single quotes</source>
+        <translation>Comillas simples</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight single quotes.</source>
+        <translation>Son los signos de apertura y de cierre que sustituyen a las comillas simples rectas.</translation>
+    </message>
+    <message>
+        <source>Labels on index cards</source>
+        <translation>Etiquetas en las fichas</translation>
+    </message>
+    <message>
+        <source>Determines how an index card shows the colour of its label.</source>
+        <translation>Determina cómo muestra una ficha el color de su etiqueta.</translation>
+    </message>
+    <message>
+        <source>Corners of index cards</source>
+        <translation>Esquinas de las fichas</translation>
+    </message>
+    <message>
+        <source>Determines whether the corners of index cards are square or rounded.</source>
+        <translation>Determina si las esquinas de las fichas son rectas o redondeadas.</translation>
+    </message>
+    <message>
+        <source>Double click on the corkboard</source>
+        <translation>Doble clic en el tablero de corcho</translation>
+    </message>
+    <message>
+        <source>Determines what a double click between the cards does.</source>
+        <translation>Determina qué hace un doble clic entre las fichas.</translation>
+    </message>
+    <message>
+        <source>Kindle converter</source>
+        <translation>Convertidor de Kindle</translation>
+    </message>
+    <message>
+        <source>This is the program that makes Kindle books; without it, they are not offered.</source>
+        <translation>Es el programa que crea los libros Kindle; sin él, no se ofrecen.</translation>
+    </message>
+    <message>
+        <source>Last folder of an OPML import</source>
+        <translation>Última carpeta de importación OPML</translation>
+    </message>
+    <message>
+        <source>This is the folder from which an OPML file was last imported.</source>
+        <translation>Es la carpeta de la que se importó por última vez un archivo OPML.</translation>
+    </message>
+    <message>
+        <source>Personal dictionary</source>
+        <translation>Diccionario personal</translation>
+    </message>
+    <message>
+        <source>These are the words that you have added to the dictionary.</source>
+        <translation>Son las palabras que ha añadido al diccionario.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below the title of an index card.</source>
+        <translation>Es el color de la línea bajo el título de una ficha.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the lines on an index card.</source>
+        <translation>Es el color de los renglones de una ficha.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the status that is stamped on an index card.</source>
+        <translation>Es el color del estado que se estampa en una ficha.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the edge of an index card.</source>
+        <translation>Es el color del borde de una ficha.</translation>
+    </message>
+    <message>
+        <source>This is the colour of an index card without a label.</source>
+        <translation>Es el color de una ficha sin etiqueta.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the corkboard where it has no picture.</source>
+        <translation>Es el color del tablero de corcho cuando no tiene imagen.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the screen around the page in full screen.</source>
+        <translation>Es el color de la pantalla alrededor de la página a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the first revision.</source>
+        <translation>Es el color del texto escrito en la primera revisión.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the second revision.</source>
+        <translation>Es el color del texto escrito en la segunda revisión.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the third revision.</source>
+        <translation>Es el color del texto escrito en la tercera revisión.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fourth revision.</source>
+        <translation>Es el color del texto escrito en la cuarta revisión.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fifth revision.</source>
+        <translation>Es el color del texto escrito en la quinta revisión.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the editor that has none of its own.</source>
+        <translation>Es el color del texto del editor que no tiene otro.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in the editor.</source>
+        <translation>Es el color de la página en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor.</source>
+        <translation>Es el color de los enlaces en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor that have been opened.</source>
+        <translation>Es el color de los enlaces ya abiertos en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in the editor.</source>
+        <translation>Es el color de los espacios, tabuladores y marcas de párrafo en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in the editor.</source>
+        <translation>Es el color del texto seleccionado en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in the editor.</source>
+        <translation>Es el fondo del texto seleccionado en el editor.</translation>
+    </message>
+    <message>
+        <source>This is the colour of annotations within the text.</source>
+        <translation>Es el color de las anotaciones dentro del texto.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a comment.</source>
+        <translation>Es el fondo del texto que tiene un comentario.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the text of footnotes.</source>
+        <translation>Es el color del texto de las notas al pie.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a footnote.</source>
+        <translation>Es el fondo del texto que tiene una nota al pie.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that keeps its formatting when the book is compiled.</source>
+        <translation>Es el fondo del texto que conserva su formato al compilar el libro.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found in the editor.</source>
+        <translation>Es el fondo de lo que ha encontrado en el editor una búsqueda en el proyecto.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found in the editor.</source>
+        <translation>Es el color del marco de lo que ha encontrado en el editor una búsqueda en el proyecto.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document.</source>
+        <translation>Es el fondo de lo que se ha encontrado en el documento.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document.</source>
+        <translation>Es el fondo de una de cada dos coincidencias en el documento.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document.</source>
+        <translation>Es el color del texto encontrado en el documento.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below a misspelt word.</source>
+        <translation>Es el color de la línea bajo una palabra mal escrita.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in full screen that has none of its own.</source>
+        <translation>Es el color del texto a pantalla completa que no tiene otro.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in full screen.</source>
+        <translation>Es el color de la página a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen.</source>
+        <translation>Es el color de los enlaces a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen that have been opened.</source>
+        <translation>Es el color de los enlaces ya abiertos a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in full screen.</source>
+        <translation>Es el color de los espacios, tabuladores y marcas de párrafo a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in full screen.</source>
+        <translation>Es el color del texto seleccionado a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in full screen.</source>
+        <translation>Es el fondo del texto seleccionado a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found, in full screen.</source>
+        <translation>Es el fondo de lo que ha encontrado una búsqueda en el proyecto, a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found, in full screen.</source>
+        <translation>Es el color del marco de lo que ha encontrado una búsqueda en el proyecto, a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document, in full screen.</source>
+        <translation>Es el fondo de lo que se ha encontrado en el documento, a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document, in full screen.</source>
+        <translation>Es el fondo de una de cada dos coincidencias en el documento, a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document, in full screen.</source>
+        <translation>Es el color del texto encontrado en el documento, a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of a document.</source>
+        <translation>Es el fondo de las notas de un documento.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of the project.</source>
+        <translation>Es el fondo de las notas del proyecto.</translation>
+    </message>
+    <message>
+        <source>This is the background of the list of recent search results.</source>
+        <translation>Es el fondo de la lista de los últimos resultados de búsqueda.</translation>
+    </message>
+    <message>
+        <source>This is the background of the binder.</source>
+        <translation>Es el fondo del archivador.</translation>
+    </message>
+    <message>
+        <source>This is the background of the outliner.</source>
+        <translation>Es el fondo del esquema.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other row of the outliner.</source>
+        <translation>Es el fondo de una de cada dos filas del esquema.</translation>
+    </message>
+    <message>
+        <source>This is the background of earlier versions of a document.</source>
+        <translation>Es el fondo de las versiones anteriores de un documento.</translation>
+    </message>
+    <message>
+        <source>This is the background of the scratch pad.</source>
+        <translation>Es el fondo del bloc de notas.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the scratch pad.</source>
+        <translation>Es el color del texto en el bloc de notas.</translation>
+    </message>
+    <message>
+        <source>Last check for updates</source>
+        <translation>Última búsqueda de actualizaciones</translation>
+    </message>
+    <message>
+        <source>This is the time at which a newer version was last looked for.</source>
+        <translation>Es el momento en que se buscó por última vez una versión más reciente.</translation>
+    </message>
+    <message>
+        <source>First start</source>
+        <translation>Primer inicio</translation>
+    </message>
+    <message>
+        <source>This is the time at which the application was started for the first time.</source>
+        <translation>Es el momento en que se inició la aplicación por primera vez.</translation>
+    </message>
+    <message>
+        <source>This is the font of the titles of index cards.</source>
+        <translation>Es la fuente de los títulos de las fichas.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on index cards.</source>
+        <translation>Es la fuente de las sinopsis en las fichas.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on small index cards.</source>
+        <translation>Es la fuente de las sinopsis en las fichas pequeñas.</translation>
+    </message>
+    <message>
+        <source>This is the font of the status that is stamped on index cards.</source>
+        <translation>Es la fuente del estado que se estampa en las fichas.</translation>
+    </message>
+    <message>
+        <source>This is the font of menus, buttons and dialogs.</source>
+        <translation>Es la fuente de los menús, botones y diálogos.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of a document.</source>
+        <translation>Es la fuente de las notas de un documento.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of the project.</source>
+        <translation>Es la fuente de las notas del proyecto.</translation>
+    </message>
+    <message>
+        <source>This is the font of the binder.</source>
+        <translation>Es la fuente del archivador.</translation>
+    </message>
+    <message>
+        <source>This is the font of the outliner.</source>
+        <translation>Es la fuente del esquema.</translation>
+    </message>
+    <message>
+        <source>This is the font of the bar above each editor.</source>
+        <translation>Es la fuente de la barra que hay sobre cada editor.</translation>
+    </message>
+    <message>
+        <source>This is the font of comments in the inspector.</source>
+        <translation>Es la fuente de los comentarios en el inspector.</translation>
+    </message>
+    <message>
+        <source>This is the font of footnotes in the inspector.</source>
+        <translation>Es la fuente de las notas al pie en el inspector.</translation>
+    </message>
+    <message>
+        <source>This is the font of the scratch pad.</source>
+        <translation>Es la fuente del bloc de notas.</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>This is the set of keys that the commands of the application have.</source>
+        <translation>Son las teclas que tienen las órdenes de la aplicación.</translation>
+    </message>
+    <message>
+        <source>Text presets</source>
+        <translation>Estilos de texto predefinidos</translation>
+    </message>
+    <message>
+        <source>These are the named formats for characters and paragraphs.</source>
+        <translation>Son los formatos con nombre para caracteres y párrafos.</translation>
+    </message>
+    <message>
+        <source>Background picture</source>
+        <translation>Imagen de fondo</translation>
+    </message>
+    <message>
+        <source>This is the picture that fills the screen around the page in full screen.</source>
+        <translation>Es la imagen que llena la pantalla alrededor de la página a pantalla completa.</translation>
+    </message>
+    <message>
+        <source>Replacements</source>
+        <translation>Sustituciones</translation>
+    </message>
+    <message>
+        <source>This is the list of texts that are replaced while typing.</source>
+        <translation>Es la lista de los textos que se sustituyen al escribir.</translation>
+    </message>
+    <message>
+        <source>PDF settings</source>
+        <translation>Ajustes de PDF</translation>
+    </message>
+    <message>
+        <source>These are the settings of PDF exports by their names.</source>
+        <translation>Son los ajustes de las exportaciones a PDF con sus nombres.</translation>
+    </message>
+    <message>
+        <source>Place of the spelling window</source>
+        <translation>Lugar de la ventana de ortografía</translation>
+    </message>
+    <message>
+        <source>This is the place and the size that the spelling window had last.</source>
+        <translation>Son el lugar y el tamaño que tuvo por última vez la ventana de ortografía.</translation>
+    </message>
+    <message>
+        <source>Import web pages as</source>
+        <translation>Importar páginas web como tipo</translation>
+    </message>
+    <message>
+        <source>Determines what a web page becomes when it is imported.</source>
+        <translation>Determina en qué se convierte una página web al importarla.</translation>
+    </message>
+    <message>
+        <source>Encoding of plain text</source>
+        <translation>Codificación del texto sin formato</translation>
+    </message>
+    <message>
+        <source>This is the encoding in which plain text files are read where they do not name one.</source>
+        <translation>Es la codificación con que se leen los archivos de texto sin formato que no indican ninguna.</translation>
+    </message>
+    <message>
+        <source>Converters for imports</source>
+        <translation>Convertidores de importación</translation>
+    </message>
+    <message>
+        <source>Determines which converter reads which file format.</source>
+        <translation>Determina qué convertidor lee cada formato de archivo.</translation>
+    </message>
+    <message>
+        <source>Converters for exports</source>
+        <translation>Convertidores de exportación</translation>
+    </message>
+    <message>
+        <source>Determines which converter writes which file format.</source>
+        <translation>Determina qué convertidor escribe cada formato de archivo.</translation>
+    </message>
+    <message>
+        <source>Characters of new documents</source>
+        <translation>Caracteres de los documentos nuevos</translation>
+    </message>
+    <message>
+        <source>This is the format of characters with which a new document begins.</source>
+        <translation>Es el formato de caracteres con que empieza un documento nuevo.</translation>
+    </message>
+    <message>
+        <source>Paragraphs of new documents</source>
+        <translation>Párrafos de los documentos nuevos</translation>
+    </message>
+    <message>
+        <source>This is the format of paragraphs with which a new document begins.</source>
+        <translation>Es el formato de párrafo con que empieza un documento nuevo.</translation>
+    </message>
+    <message>
+        <source>Between documents shown together</source>
+        <translation>Entre documentos mostrados juntos</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are shown as one.</source>
+        <translation>Determina qué separa los textos de los documentos que se muestran como uno.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between documents shown together</source>
+        <translation>Separador propio entre documentos mostrados juntos</translation>
+    </message>
+    <message>
+        <source>This is the text that separates documents shown as one where a separator of your own is chosen.</source>
+        <translation>Es el texto que separa los documentos mostrados como uno cuando se elige un separador propio.</translation>
+    </message>
+    <message>
+        <source>Between merged documents</source>
+        <translation>Entre documentos combinados</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are merged.</source>
+        <translation>Determina qué separa los textos de los documentos que se combinan.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between merged documents</source>
+        <translation>Separador propio entre documentos combinados</translation>
+    </message>
+    <message>
+        <source>This is the text that separates merged documents where a separator of your own is chosen.</source>
+        <translation>Es el texto que separa los documentos combinados cuando se elige un separador propio.</translation>
+    </message>
+    <message>
+        <source>Between clippings</source>
+        <translation>Entre recortes</translation>
+    </message>
+    <message>
+        <source>Determines what separates a clipping from the text to which it is added.</source>
+        <translation>Determina qué separa un recorte del texto al que se añade.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between clippings</source>
+        <translation>Separador propio entre recortes</translation>
+    </message>
+    <message>
+        <source>This is the text that separates clippings where a separator of your own is chosen.</source>
+        <translation>Es el texto que separa los recortes cuando se elige un separador propio.</translation>
+    </message>
+    <message>
+        <source>the commas make a list of the bytes; they belong into quotation marks</source>
+        <translation>las comas convierten los bytes en una lista; deben ir entre comillas</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>Font of card titles</source>
+        <translation>Fuente de los títulos de ficha</translation>
+    </message>
+    <message>
+        <source>Font of synopses</source>
+        <translation>Fuente de las sinopsis</translation>
+    </message>
+    <message>
+        <source>Font of synopses on small cards</source>
+        <translation>Fuente de las sinopsis en fichas pequeñas</translation>
+    </message>
+    <message>
+        <source>Font of status stamps</source>
+        <translation>Fuente de los sellos de estado</translation>
+    </message>
+    <message>
+        <source>Font of menus and dialogs</source>
+        <translation>Fuente de menús y diálogos</translation>
+    </message>
+    <message>
+        <source>Font of document notes</source>
+        <translation>Fuente de las notas de documento</translation>
+    </message>
+    <message>
+        <source>Font of project notes</source>
+        <translation>Fuente de las notas de proyecto</translation>
+    </message>
+    <message>
+        <source>Font of the binder</source>
+        <translation>Fuente del archivador</translation>
+    </message>
+    <message>
+        <source>Font of the outliner</source>
+        <translation>Fuente del esquema</translation>
+    </message>
+    <message>
+        <source>Font of header bars</source>
+        <translation>Fuente de las barras de cabecera</translation>
+    </message>
+    <message>
+        <source>Font of comments</source>
+        <translation>Fuente de los comentarios</translation>
+    </message>
+    <message>
+        <source>Font of footnotes</source>
+        <translation>Fuente de las notas al pie</translation>
+    </message>
+    <message>
+        <source>Font of the scratch pad</source>
+        <translation>Fuente del bloc de notas</translation>
     </message>
 </context>
 <context>

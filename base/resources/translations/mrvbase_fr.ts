@@ -786,10 +786,6 @@ Erreur&#xa0;: %2</translation>
         <translation>Ardoise</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 à %2</translation>
-    </message>
-    <message>
         <source>Divider</source>
         <translation>Ligne de séparation</translation>
     </message>
@@ -1012,6 +1008,1474 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>the shortcut scheme in %1: %2</source>
         <translation>le jeu de raccourcis de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>Corrections</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>Séparateurs</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copies de sauvegarde</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Modèles</translation>
+    </message>
+    <message>
+        <source>Import and export</source>
+        <translation>Importation et exportation</translation>
+    </message>
+    <message>
+        <source>OPML files</source>
+        <translation>Fichiers OPML</translation>
+    </message>
+    <message>
+        <source>E-books</source>
+        <translation>Livres numériques</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>Fichiers PDF</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>The other editor</source>
+        <translation>L’autre éditeur</translation>
+    </message>
+    <message>
+        <source>The current editor</source>
+        <translation>L’éditeur actuel</translation>
+    </message>
+    <message>
+        <source>A reference panel</source>
+        <translation>Un panneau de référence</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centimètres</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimètres</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Picas</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Above the text</source>
+        <translation>Au-dessus du texte</translation>
+    </message>
+    <message>
+        <source>Beside the text</source>
+        <translation>À côté du texte</translation>
+    </message>
+    <message>
+        <source>Not at all</source>
+        <translation>Pas du tout</translation>
+    </message>
+    <message>
+        <source>As a pin</source>
+        <translation>Par une épingle</translation>
+    </message>
+    <message>
+        <source>As a coloured corner</source>
+        <translation>Par un coin coloré</translation>
+    </message>
+    <message>
+        <source>As a stripe</source>
+        <translation>Par une bande</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carrés</translation>
+    </message>
+    <message>
+        <source>Rounded</source>
+        <translation>Arrondis</translation>
+    </message>
+    <message>
+        <source>Does nothing</source>
+        <translation>Ne fait rien</translation>
+    </message>
+    <message>
+        <source>Creates a card</source>
+        <translation>Crée une fiche</translation>
+    </message>
+    <message>
+        <source>Goes up to the folder above</source>
+        <translation>Remonte au dossier parent</translation>
+    </message>
+    <message>
+        <source>Single return</source>
+        <translation>Un seul retour</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Ligne vide</translation>
+    </message>
+    <message>
+        <source>A separator of your own</source>
+        <translation>Votre propre séparateur</translation>
+    </message>
+    <message>
+        <source>Last session ended normally</source>
+        <translation>Dernière session terminée normalement</translation>
+    </message>
+    <message>
+        <source>Whether the session before this one was ended by the user and not by a failure.</source>
+        <translation>Indique si la session précédente a été terminée par l’utilisateur et non par une défaillance.</translation>
+    </message>
+    <message>
+        <source>This session has ended normally</source>
+        <translation>Session actuelle terminée normalement</translation>
+    </message>
+    <message>
+        <source>Whether the present session was ended by the user, which is stored when the application closes.</source>
+        <translation>Indique si la session actuelle a été terminée par l’utilisateur, ce qui est enregistré à la fermeture de l’application.</translation>
+    </message>
+    <message>
+        <source>Reopen projects at start</source>
+        <translation>Rouvrir les projets au démarrage</translation>
+    </message>
+    <message>
+        <source>Opens the projects again that were open when the application was closed.</source>
+        <translation>Rouvre les projets qui étaient ouverts à la fermeture de l’application.</translation>
+    </message>
+    <message>
+        <source>Show the start panel</source>
+        <translation>Afficher le panneau d’accueil</translation>
+    </message>
+    <message>
+        <source>Shows a panel with templates and recent projects when no project is open.</source>
+        <translation>Affiche un panneau avec les modèles et les projets récents quand aucun projet n’est ouvert.</translation>
+    </message>
+    <message>
+        <source>Show the full path in the title bar</source>
+        <translation>Afficher le chemin complet dans la barre de titre</translation>
+    </message>
+    <message>
+        <source>Shows the folder of a project with its name in the title bar of the window.</source>
+        <translation>Affiche le dossier du projet avec son nom dans la barre de titre de la fenêtre.</translation>
+    </message>
+    <message>
+        <source>Allow overtyping</source>
+        <translation>Autoriser la frappe par-dessus</translation>
+    </message>
+    <message>
+        <source>Lets the Insert key switch between inserting text and typing over it.</source>
+        <translation>Permet à la touche Inser de passer de l’insertion au remplacement du texte.</translation>
+    </message>
+    <message>
+        <source>Set notes after punctuation</source>
+        <translation>Placer les notes après la ponctuation</translation>
+    </message>
+    <message>
+        <source>Places the mark of a footnote or comment after the punctuation that follows the selected words.</source>
+        <translation>Place l’appel d’une note ou d’un commentaire après la ponctuation qui suit les mots sélectionnés.</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Rechercher les mises à jour</translation>
+    </message>
+    <message>
+        <source>Looks for a newer version of the application from time to time.</source>
+        <translation>Recherche de temps en temps une version plus récente de l’application.</translation>
+    </message>
+    <message>
+        <source>Name untitled documents on saving</source>
+        <translation>Nommer les documents sans titre à l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Gives a document without a title its first words as a title when it is saved.</source>
+        <translation>Donne à un document sans titre ses premiers mots pour titre quand il est enregistré.</translation>
+    </message>
+    <message>
+        <source>Import web pages as text</source>
+        <translation>Importer les pages web comme texte</translation>
+    </message>
+    <message>
+        <source>Converts a web page to text that can be edited when it is imported.</source>
+        <translation>Convertit une page web importée en texte modifiable.</translation>
+    </message>
+    <message>
+        <source>Import known file types only</source>
+        <translation>N’importer que les types de fichiers connus</translation>
+    </message>
+    <message>
+        <source>Leaves out files that the application cannot show when a folder is imported.</source>
+        <translation>Laisse de côté les fichiers que l’application ne peut pas afficher quand un dossier est importé.</translation>
+    </message>
+    <message>
+        <source>Remove invalid characters from RTF</source>
+        <translation>Supprimer les caractères non valides du RTF</translation>
+    </message>
+    <message>
+        <source>Leaves out control characters that some programs write into RTF files.</source>
+        <translation>Laisse de côté les caractères de commande que certains programmes écrivent dans les fichiers RTF.</translation>
+    </message>
+    <message>
+        <source>Use font hinting</source>
+        <translation>Utiliser le hinting des polices</translation>
+    </message>
+    <message>
+        <source>Fits the shapes of letters to the pixels of the screen in text that is read from the settings.</source>
+        <translation>Ajuste la forme des lettres aux pixels de l’écran dans le texte lu dans les préférences.</translation>
+    </message>
+    <message>
+        <source>Use first lines as titles only</source>
+        <translation>Utiliser les premières lignes comme titres seulement</translation>
+    </message>
+    <message>
+        <source>Takes the first line of an imported Fernwick note as its title and leaves it out of the text.</source>
+        <translation>Prend la première ligne d’une note Fernwick importée comme titre et ne la garde pas dans le texte.</translation>
+    </message>
+    <message>
+        <source>Show the number of documents</source>
+        <translation>Afficher le nombre de documents</translation>
+    </message>
+    <message>
+        <source>Shows at each folder of the binder how many documents it contains.</source>
+        <translation>Affiche à chaque dossier du classeur combien de documents il contient.</translation>
+    </message>
+    <message>
+        <source>Show lines in document notes</source>
+        <translation>Afficher les lignes dans les notes de document</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of a document.</source>
+        <translation>Trace les lignes d’un carnet dans les notes d’un document.</translation>
+    </message>
+    <message>
+        <source>Show lines in project notes</source>
+        <translation>Afficher les lignes dans les notes de projet</translation>
+    </message>
+    <message>
+        <source>Draws the lines of a notepad in the notes of the project.</source>
+        <translation>Trace les lignes d’un carnet dans les notes du projet.</translation>
+    </message>
+    <message>
+        <source>Shade every other row</source>
+        <translation>Teinter une ligne sur deux</translation>
+    </message>
+    <message>
+        <source>Gives every other row of the outliner another background.</source>
+        <translation>Donne un autre fond à une ligne sur deux du plan.</translation>
+    </message>
+    <message>
+        <source>Folders in bold</source>
+        <translation>Dossiers en gras</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in bold type.</source>
+        <translation>Affiche en gras les titres des dossiers dans le classeur.</translation>
+    </message>
+    <message>
+        <source>Folders in italics</source>
+        <translation>Dossiers en italique</translation>
+    </message>
+    <message>
+        <source>Shows the titles of folders in the binder in italics.</source>
+        <translation>Affiche en italique les titres des dossiers dans le classeur.</translation>
+    </message>
+    <message>
+        <source>Collections in bold</source>
+        <translation>Collections en gras</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in bold type.</source>
+        <translation>Affiche en gras les titres des collections.</translation>
+    </message>
+    <message>
+        <source>Collections in italics</source>
+        <translation>Collections en italique</translation>
+    </message>
+    <message>
+        <source>Shows the titles of collections in italics.</source>
+        <translation>Affiche en italique les titres des collections.</translation>
+    </message>
+    <message>
+        <source>Show collections as folders</source>
+        <translation>Afficher les collections comme des dossiers</translation>
+    </message>
+    <message>
+        <source>Shows a collection on the corkboard and in the outliner as if it were a folder.</source>
+        <translation>Affiche une collection sur le tableau de liège et dans le plan comme si elle était un dossier.</translation>
+    </message>
+    <message>
+        <source>Include the enclosing group</source>
+        <translation>Inclure le groupe englobant</translation>
+    </message>
+    <message>
+        <source>Adds the folder itself when its documents are shown as one text.</source>
+        <translation>Ajoute le dossier lui-même quand ses documents sont affichés comme un seul texte.</translation>
+    </message>
+    <message>
+        <source>Open all results together</source>
+        <translation>Ouvrir tous les résultats ensemble</translation>
+    </message>
+    <message>
+        <source>Shows all documents that a project search has found in the editor at once.</source>
+        <translation>Affiche ensemble dans l’éditeur tous les documents trouvés par une recherche dans le projet.</translation>
+    </message>
+    <message>
+        <source>Collapse items again after dragging</source>
+        <translation>Replier les éléments après un glissement</translation>
+    </message>
+    <message>
+        <source>Closes the items of the outline that opened by themselves during a drag.</source>
+        <translation>Replie les éléments du plan qui se sont ouverts d’eux-mêmes pendant un glissement.</translation>
+    </message>
+    <message>
+        <source>Return ends a synopsis</source>
+        <translation>Entrée termine un synopsis</translation>
+    </message>
+    <message>
+        <source>Ends the editing of a synopsis with the Return key, which otherwise begins a new line.</source>
+        <translation>Termine la modification d’un synopsis par la touche Entrée, qui sinon commence une nouvelle ligne.</translation>
+    </message>
+    <message>
+        <source>Return creates an item</source>
+        <translation>Entrée crée un élément</translation>
+    </message>
+    <message>
+        <source>Creates a new item with the Return key in the binder, the outliner and on the corkboard.</source>
+        <translation>Crée un élément par la touche Entrée dans le classeur, dans le plan et sur le tableau de liège.</translation>
+    </message>
+    <message>
+        <source>Allow dropping on cards</source>
+        <translation>Autoriser le dépôt sur les fiches</translation>
+    </message>
+    <message>
+        <source>Lets an index card be dropped on another one, so that it becomes part of it.</source>
+        <translation>Permet de déposer une fiche sur une autre, dont elle devient une partie.</translation>
+    </message>
+    <message>
+        <source>Check spelling in new projects</source>
+        <translation>Vérifier l’orthographe dans les nouveaux projets</translation>
+    </message>
+    <message>
+        <source>Turns on the spelling check while typing in every new project.</source>
+        <translation>Active la vérification de l’orthographe pendant la frappe dans chaque nouveau projet.</translation>
+    </message>
+    <message>
+        <source>Correct spelling while typing</source>
+        <translation>Corriger l’orthographe pendant la frappe</translation>
+    </message>
+    <message>
+        <source>Replaces a misspelt word by the likely one as soon as it is complete.</source>
+        <translation>Remplace un mot mal orthographié par le mot probable dès qu’il est complet.</translation>
+    </message>
+    <message>
+        <source>Capitalize a single i</source>
+        <translation>Mettre en majuscule un i isolé</translation>
+    </message>
+    <message>
+        <source>Writes the English word I as a capital letter.</source>
+        <translation>Écrit le mot anglais I en majuscule.</translation>
+    </message>
+    <message>
+        <source>Capitalize sentences</source>
+        <translation>Mettre une majuscule aux phrases</translation>
+    </message>
+    <message>
+        <source>Begins each sentence with a capital letter.</source>
+        <translation>Commence chaque phrase par une majuscule.</translation>
+    </message>
+    <message>
+        <source>Use smart quotes</source>
+        <translation>Utiliser les guillemets typographiques</translation>
+    </message>
+    <message>
+        <source>Replaces straight quotation marks by opening and closing ones while typing.</source>
+        <translation>Remplace pendant la frappe les guillemets droits par des guillemets ouvrants et fermants.</translation>
+    </message>
+    <message>
+        <source>Replace hyphens by em dashes</source>
+        <translation>Remplacer les traits d’union par des tirets cadratins</translation>
+    </message>
+    <message>
+        <source>Turns two hyphens into an em dash while typing.</source>
+        <translation>Change deux traits d’union en un tiret cadratin pendant la frappe.</translation>
+    </message>
+    <message>
+        <source>Replace dots by ellipses</source>
+        <translation>Remplacer les points par des points de suspension</translation>
+    </message>
+    <message>
+        <source>Turns three full stops into an ellipsis while typing.</source>
+        <translation>Change trois points en points de suspension pendant la frappe.</translation>
+    </message>
+    <message>
+        <source>No correction in script mode</source>
+        <translation>Aucune correction en mode scénario</translation>
+    </message>
+    <message>
+        <source>Switches all corrections off while a script is written.</source>
+        <translation>Désactive toutes les corrections pendant l’écriture d’un scénario.</translation>
+    </message>
+    <message>
+        <source>Raise ordinals</source>
+        <translation>Mettre les ordinaux en exposant</translation>
+    </message>
+    <message>
+        <source>Raises the letters of English ordinal numbers such as 1st.</source>
+        <translation>Met en exposant les lettres des nombres ordinaux anglais comme 1st.</translation>
+    </message>
+    <message>
+        <source>Link web addresses</source>
+        <translation>Lier les adresses web</translation>
+    </message>
+    <message>
+        <source>Turns a web address into a link while it is typed.</source>
+        <translation>Change une adresse web en lien pendant la frappe.</translation>
+    </message>
+    <message>
+        <source>Link titles in brackets</source>
+        <translation>Lier les titres entre crochets</translation>
+    </message>
+    <message>
+        <source>Turns the title of a document in double square brackets into a link to it.</source>
+        <translation>Change en lien le titre d’un document placé entre doubles crochets.</translation>
+    </message>
+    <message>
+        <source>Replace text while typing</source>
+        <translation>Remplacer du texte pendant la frappe</translation>
+    </message>
+    <message>
+        <source>Replaces abbreviations by the texts in the list of replacements.</source>
+        <translation>Remplace les abréviations par les textes de la liste des remplacements.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling</source>
+        <translation>Défilement de machine à écrire</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the editor.</source>
+        <translation>Garde la ligne en cours d’écriture au milieu de l’éditeur.</translation>
+    </message>
+    <message>
+        <source>Typewriter scrolling in full screen</source>
+        <translation>Défilement de machine à écrire en plein écran</translation>
+    </message>
+    <message>
+        <source>Keeps the line that is being written in the middle of the screen.</source>
+        <translation>Garde la ligne en cours d’écriture au milieu de l’écran.</translation>
+    </message>
+    <message>
+        <source>Complete words</source>
+        <translation>Compléter les mots</translation>
+    </message>
+    <message>
+        <source>Offers words from the completion list of the project while typing.</source>
+        <translation>Propose pendant la frappe des mots de la liste de complétion du projet.</translation>
+    </message>
+    <message>
+        <source>Complete words in script mode only</source>
+        <translation>Compléter les mots en mode scénario seulement</translation>
+    </message>
+    <message>
+        <source>Offers completions in scripts and not in other text.</source>
+        <translation>Propose des complétions dans les scénarios et non dans les autres textes.</translation>
+    </message>
+    <message>
+        <source>Make backups</source>
+        <translation>Faire des copies de sauvegarde</translation>
+    </message>
+    <message>
+        <source>Makes backups of projects without being asked.</source>
+        <translation>Fait des copies de sauvegarde des projets sans qu’on le demande.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is opened</source>
+        <translation>Sauvegarder à l’ouverture d’un projet</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project before it is opened.</source>
+        <translation>Fait une copie de sauvegarde d’un projet avant de l’ouvrir.</translation>
+    </message>
+    <message>
+        <source>Back up when a project is closed</source>
+        <translation>Sauvegarder à la fermeture d’un projet</translation>
+    </message>
+    <message>
+        <source>Makes a backup of a project when it is closed.</source>
+        <translation>Fait une copie de sauvegarde d’un projet quand il est fermé.</translation>
+    </message>
+    <message>
+        <source>Back up on each manual save</source>
+        <translation>Sauvegarder à chaque enregistrement manuel</translation>
+    </message>
+    <message>
+        <source>Makes a backup whenever the project is saved by command.</source>
+        <translation>Fait une copie de sauvegarde chaque fois que le projet est enregistré par la commande.</translation>
+    </message>
+    <message>
+        <source>Compress backups</source>
+        <translation>Compresser les copies de sauvegarde</translation>
+    </message>
+    <message>
+        <source>Stores each backup as one zip file.</source>
+        <translation>Enregistre chaque copie de sauvegarde dans un seul fichier zip.</translation>
+    </message>
+    <message>
+        <source>Put the date into backup names</source>
+        <translation>Mettre la date dans les noms des copies</translation>
+    </message>
+    <message>
+        <source>Adds the date and the time to the name of each backup.</source>
+        <translation>Ajoute la date et l’heure au nom de chaque copie de sauvegarde.</translation>
+    </message>
+    <message>
+        <source>No sound effects</source>
+        <translation>Aucun effet sonore</translation>
+    </message>
+    <message>
+        <source>Switches the sounds of the application off.</source>
+        <translation>Désactive les sons de l’application.</translation>
+    </message>
+    <message>
+        <source>Transparent scratch pad</source>
+        <translation>Bloc-notes transparent</translation>
+    </message>
+    <message>
+        <source>Lets the windows behind the scratch pad shine through.</source>
+        <translation>Laisse transparaître les fenêtres situées sous le bloc-notes.</translation>
+    </message>
+    <message>
+        <source>Wrap metadata fields</source>
+        <translation>Renvoyer les métadonnées à la ligne</translation>
+    </message>
+    <message>
+        <source>Shows long values of custom metadata on several lines.</source>
+        <translation>Affiche sur plusieurs lignes les longues valeurs des métadonnées personnalisées.</translation>
+    </message>
+    <message>
+        <source>Colour metadata fields</source>
+        <translation>Colorer les champs de métadonnées</translation>
+    </message>
+    <message>
+        <source>Shows each field of custom metadata in its own colour.</source>
+        <translation>Affiche chaque champ des métadonnées personnalisées dans sa couleur.</translation>
+    </message>
+    <message>
+        <source>Keep windows on top</source>
+        <translation>Garder les fenêtres au premier plan</translation>
+    </message>
+    <message>
+        <source>Keeps the tool windows of the application above all other windows.</source>
+        <translation>Garde les fenêtres d’outils de l’application au-dessus de toutes les autres.</translation>
+    </message>
+    <message>
+        <source>Keep reference panels on top</source>
+        <translation>Garder les panneaux de référence au premier plan</translation>
+    </message>
+    <message>
+        <source>Keeps quick reference panels above the main window.</source>
+        <translation>Garde les panneaux de référence rapide au-dessus de la fenêtre principale.</translation>
+    </message>
+    <message>
+        <source>Export the entire binder</source>
+        <translation>Exporter tout le classeur</translation>
+    </message>
+    <message>
+        <source>Exports all of the binder to OPML, and not the selected items only.</source>
+        <translation>Exporte tout le classeur en OPML, et pas seulement les éléments sélectionnés.</translation>
+    </message>
+    <message>
+        <source>Create a folder for the import</source>
+        <translation>Créer un dossier pour l’importation</translation>
+    </message>
+    <message>
+        <source>Puts what is imported from OPML into a new folder.</source>
+        <translation>Place ce qui est importé depuis OPML dans un nouveau dossier.</translation>
+    </message>
+    <message>
+        <source>Position of the page</source>
+        <translation>Position de la page</translation>
+    </message>
+    <message>
+        <source>Determines where on the screen the page stands in full screen.</source>
+        <translation>Détermine où se trouve la page sur l’écran en plein écran.</translation>
+    </message>
+    <message>
+        <source>Save after (seconds)</source>
+        <translation>Enregistrer après (secondes)</translation>
+    </message>
+    <message>
+        <source>Saves the project when nothing has been typed for this number of seconds.</source>
+        <translation>Enregistre le projet quand rien n’a été tapé pendant ce nombre de secondes.</translation>
+    </message>
+    <message>
+        <source>Days between checks for updates</source>
+        <translation>Jours entre deux recherches de mises à jour</translation>
+    </message>
+    <message>
+        <source>Determines how many days pass before a newer version is looked for again.</source>
+        <translation>Détermine après combien de jours une version plus récente est de nouveau recherchée.</translation>
+    </message>
+    <message>
+        <source>Strength of label tints</source>
+        <translation>Force des teintes d’étiquette</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the colour of a label shows, from 0 (not at all) to 255 (fully).</source>
+        <translation>Détermine avec quelle force apparaît la couleur d’une étiquette, de 0 (pas du tout) à 255 (entièrement).</translation>
+    </message>
+    <message>
+        <source>Strength of the status stamp</source>
+        <translation>Force du tampon de statut</translation>
+    </message>
+    <message>
+        <source>Determines how strongly the status is stamped on an index card, from 0 to 255.</source>
+        <translation>Détermine avec quelle force le statut est tamponné sur une fiche, de 0 à 255.</translation>
+    </message>
+    <message>
+        <source>Strength of card shadows</source>
+        <translation>Force des ombres des fiches</translation>
+    </message>
+    <message>
+        <source>Determines how dark the shadows of index cards are, from 0 (none) to 255.</source>
+        <translation>Détermine à quel point les ombres des fiches sont foncées, de 0 (aucune) à 255.</translation>
+    </message>
+    <message>
+        <source>Strength of the background</source>
+        <translation>Force de l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Determines how much the background of full screen hides the desktop, from 0 to 255.</source>
+        <translation>Détermine à quel point l’arrière-plan du plein écran cache le bureau, de 0 à 255.</translation>
+    </message>
+    <message>
+        <source>Width of the page (percent)</source>
+        <translation>Largeur de la page (pour cent)</translation>
+    </message>
+    <message>
+        <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
+        <translation>Fixe la largeur de la page en plein écran, en pour cent de celle de l’écran.</translation>
+    </message>
+    <message>
+        <source>Height of the page (percent)</source>
+        <translation>Hauteur de la page (pour cent)</translation>
+    </message>
+    <message>
+        <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
+        <translation>Fixe la hauteur de la page en plein écran, en pour cent de celle de l’écran.</translation>
+    </message>
+    <message>
+        <source>Width of the text cursor (pixels)</source>
+        <translation>Largeur du curseur de texte (pixels)</translation>
+    </message>
+    <message>
+        <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
+        <translation>Fixe la largeur du curseur de texte&#xa0;; -1 est la largeur qu’emploie le système.</translation>
+    </message>
+    <message>
+        <source>Zoom of the editor</source>
+        <translation>Zoom de l’éditeur</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors the editor uses.</source>
+        <translation>Détermine quelle entrée de la liste des facteurs de zoom l’éditeur emploie.</translation>
+    </message>
+    <message>
+        <source>Zoom of project notes</source>
+        <translation>Zoom des notes de projet</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors project notes use.</source>
+        <translation>Détermine quelle entrée de la liste des facteurs de zoom les notes de projet emploient.</translation>
+    </message>
+    <message>
+        <source>Zoom of document notes</source>
+        <translation>Zoom des notes de document</translation>
+    </message>
+    <message>
+        <source>Determines which entry of the list of zoom factors document notes use.</source>
+        <translation>Détermine quelle entrée de la liste des facteurs de zoom les notes de document emploient.</translation>
+    </message>
+    <message>
+        <source>Rewind on pause (seconds)</source>
+        <translation>Retour en arrière à la pause (secondes)</translation>
+    </message>
+    <message>
+        <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
+        <translation>Détermine de combien de secondes un enregistrement recule à la pause, pour qu’aucun mot ne manque.</translation>
+    </message>
+    <message>
+        <source>Backups to keep</source>
+        <translation>Copies de sauvegarde à garder</translation>
+    </message>
+    <message>
+        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
+        <translation>Détermine combien de copies d’un projet sont gardées avant que la plus ancienne soit supprimée&#xa0;; 0 les garde toutes.</translation>
+    </message>
+    <message>
+        <source>Revision of new text</source>
+        <translation>Révision du nouveau texte</translation>
+    </message>
+    <message>
+        <source>Determines as which revision new text is marked, from 1 to 5; 0 marks nothing.</source>
+        <translation>Détermine la révision dont le nouveau texte porte la marque, de 1 à 5&#xa0;; 0 ne marque rien.</translation>
+    </message>
+    <message>
+        <source>Adapt indents to line spacing</source>
+        <translation>Adapter les retraits à l’interligne</translation>
+    </message>
+    <message>
+        <source>Determines how the first-line indent follows when the line spacing is changed.</source>
+        <translation>Détermine comment le retrait de première ligne suit un changement d’interligne.</translation>
+    </message>
+    <message>
+        <source>Open links in</source>
+        <translation>Ouvrir les liens dans</translation>
+    </message>
+    <message>
+        <source>Determines where the document opens that a clicked link leads to.</source>
+        <translation>Détermine où s’ouvre le document auquel mène un lien cliqué.</translation>
+    </message>
+    <message>
+        <source>Recent projects to list</source>
+        <translation>Nombre de projets récents</translation>
+    </message>
+    <message>
+        <source>Determines how many projects the menu of recent projects shows.</source>
+        <translation>Détermine combien de projets le menu des projets récents affiche.</translation>
+    </message>
+    <message>
+        <source>Last format of an OPML export</source>
+        <translation>Dernier format d’exportation OPML</translation>
+    </message>
+    <message>
+        <source>This is the format that the last export to OPML used.</source>
+        <translation>C’est le format employé par la dernière exportation en OPML.</translation>
+    </message>
+    <message>
+        <source>Content of OPML exports</source>
+        <translation>Contenu des exportations OPML</translation>
+    </message>
+    <message>
+        <source>Determines which parts of the documents an export to OPML contains.</source>
+        <translation>Détermine quelles parties des documents une exportation en OPML contient.</translation>
+    </message>
+    <message>
+        <source>Content of OPML imports</source>
+        <translation>Contenu des importations OPML</translation>
+    </message>
+    <message>
+        <source>Determines what the notes of an OPML file become when it is imported.</source>
+        <translation>Détermine ce que deviennent les notes d’un fichier OPML importé.</translation>
+    </message>
+    <message>
+        <source>Last choice for an OPML import</source>
+        <translation>Dernier choix d’importation OPML</translation>
+    </message>
+    <message>
+        <source>This is the choice that the import dialog showed last.</source>
+        <translation>C’est le dernier choix qu’a montré la boîte de dialogue d’importation.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Sets how loud recordings are played, from 0 (silent) to 1 (full).</source>
+        <translation>Fixe le volume de lecture des enregistrements, de 0 (muet) à 1 (maximum).</translation>
+    </message>
+    <message>
+        <source>Margin of the editor (pixels)</source>
+        <translation>Marge de l’éditeur (pixels)</translation>
+    </message>
+    <message>
+        <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
+        <translation>Fixe le nombre de pixels laissés libres entre le texte et le bord de l’éditeur.</translation>
+    </message>
+    <message>
+        <source>Folder of templates</source>
+        <translation>Dossier des modèles</translation>
+    </message>
+    <message>
+        <source>This is the folder in which project templates of your own are kept.</source>
+        <translation>C’est le dossier où se trouvent vos propres modèles de projet.</translation>
+    </message>
+    <message>
+        <source>Picture of the corkboard</source>
+        <translation>Image du tableau de liège</translation>
+    </message>
+    <message>
+        <source>This is the picture file that covers the corkboard; without one it has a plain colour.</source>
+        <translation>C’est le fichier d’image qui couvre le tableau de liège&#xa0;; sans lui, le tableau a une couleur unie.</translation>
+    </message>
+    <message>
+        <source>Unit of the ruler</source>
+        <translation>Unité de la règle</translation>
+    </message>
+    <message>
+        <source>This is the unit in which the ruler and the fields for lengths count.</source>
+        <translation>C’est l’unité dans laquelle comptent la règle et les champs de longueur.</translation>
+    </message>
+    <message>
+        <source>Step of the ruler</source>
+        <translation>Pas de la règle</translation>
+    </message>
+    <message>
+        <source>This is the distance in which tab stops and indents move on the ruler; empty lets them move freely.</source>
+        <translation>C’est la distance par laquelle les taquets et les retraits se déplacent sur la règle&#xa0;; vide, ils se déplacent librement.</translation>
+    </message>
+    <message>
+        <source>Language of the dictionary</source>
+        <translation>Langue du dictionnaire</translation>
+    </message>
+    <message>
+        <source>This is the language in which spelling is checked, such as en_GB.</source>
+        <translation>C’est la langue dans laquelle l’orthographe est vérifiée, comme fr_FR.</translation>
+    </message>
+    <message>
+        <source>Citation manager</source>
+        <translation>Gestionnaire de citations</translation>
+    </message>
+    <message>
+        <source>This is the program that opens when citations are to be inserted.</source>
+        <translation>C’est le programme qui s’ouvre pour insérer des citations.</translation>
+    </message>
+    <message>
+        <source>Folder of scratch pad notes</source>
+        <translation>Dossier des notes du bloc-notes</translation>
+    </message>
+    <message>
+        <source>This is the folder in which the notes of the scratch pad are kept.</source>
+        <translation>C’est le dossier où se trouvent les notes du bloc-notes.</translation>
+    </message>
+    <message>
+        <source>Last scratch pad note</source>
+        <translation>Dernière note du bloc-notes</translation>
+    </message>
+    <message>
+        <source>This is the note that the scratch pad showed last.</source>
+        <translation>C’est la dernière note que le bloc-notes a affichée.</translation>
+    </message>
+    <message>
+        <source>Layout of the scratch pad</source>
+        <translation>Disposition du bloc-notes</translation>
+    </message>
+    <message>
+        <source>Determines whether the list of notes stands above the text or beside it.</source>
+        <translation>Détermine si la liste des notes se trouve au-dessus du texte ou à côté.</translation>
+    </message>
+    <message>
+        <source>Folder of backups</source>
+        <translation>Dossier des copies de sauvegarde</translation>
+    </message>
+    <message>
+        <source>This is the folder in which automatic backups are kept.</source>
+        <translation>C’est le dossier où se trouvent les copies de sauvegarde automatiques.</translation>
+    </message>
+    <message>
+        <source>Language of the application</source>
+        <translation>Langue de l’application</translation>
+    </message>
+    <message>
+        <source>This is the language of menus and dialogs; it changes at the next start.</source>
+        <translation>C’est la langue des menus et des boîtes de dialogue&#xa0;; elle change au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Double quotes</source>
+        <translation>Guillemets doubles</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight double quotes.</source>
+        <translation>Ce sont les signes ouvrant et fermant qui remplacent les guillemets doubles droits.</translation>
+    </message>
+    <message>
+        <source>Single quotes</source>
+        <translation>Guillemets simples</translation>
+    </message>
+    <message>
+        <source>These are the opening and the closing mark that replace straight single quotes.</source>
+        <translation>Ce sont les signes ouvrant et fermant qui remplacent les guillemets simples droits.</translation>
+    </message>
+    <message>
+        <source>Labels on index cards</source>
+        <translation>Étiquettes sur les fiches</translation>
+    </message>
+    <message>
+        <source>Determines how an index card shows the colour of its label.</source>
+        <translation>Détermine comment une fiche montre la couleur de son étiquette.</translation>
+    </message>
+    <message>
+        <source>Corners of index cards</source>
+        <translation>Coins des fiches</translation>
+    </message>
+    <message>
+        <source>Determines whether the corners of index cards are square or rounded.</source>
+        <translation>Détermine si les coins des fiches sont carrés ou arrondis.</translation>
+    </message>
+    <message>
+        <source>Double click on the corkboard</source>
+        <translation>Double-clic sur le tableau de liège</translation>
+    </message>
+    <message>
+        <source>Determines what a double click between the cards does.</source>
+        <translation>Détermine ce que fait un double-clic entre les fiches.</translation>
+    </message>
+    <message>
+        <source>Kindle converter</source>
+        <translation>Convertisseur Kindle</translation>
+    </message>
+    <message>
+        <source>This is the program that makes Kindle books; without it, they are not offered.</source>
+        <translation>C’est le programme qui fait les livres Kindle&#xa0;; sans lui, ils ne sont pas proposés.</translation>
+    </message>
+    <message>
+        <source>Last folder of an OPML import</source>
+        <translation>Dernier dossier d’importation OPML</translation>
+    </message>
+    <message>
+        <source>This is the folder from which an OPML file was last imported.</source>
+        <translation>C’est le dossier d’où un fichier OPML a été importé la dernière fois.</translation>
+    </message>
+    <message>
+        <source>Personal dictionary</source>
+        <translation>Dictionnaire personnel</translation>
+    </message>
+    <message>
+        <source>These are the words that you have added to the dictionary.</source>
+        <translation>Ce sont les mots que vous avez ajoutés au dictionnaire.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below the title of an index card.</source>
+        <translation>C’est la couleur de la ligne sous le titre d’une fiche.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the lines on an index card.</source>
+        <translation>C’est la couleur des lignes sur une fiche.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the status that is stamped on an index card.</source>
+        <translation>C’est la couleur du statut tamponné sur une fiche.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the edge of an index card.</source>
+        <translation>C’est la couleur du bord d’une fiche.</translation>
+    </message>
+    <message>
+        <source>This is the colour of an index card without a label.</source>
+        <translation>C’est la couleur d’une fiche sans étiquette.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the corkboard where it has no picture.</source>
+        <translation>C’est la couleur du tableau de liège quand il n’a pas d’image.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the screen around the page in full screen.</source>
+        <translation>C’est la couleur de l’écran autour de la page en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the first revision.</source>
+        <translation>C’est la couleur du texte écrit pendant la première révision.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the second revision.</source>
+        <translation>C’est la couleur du texte écrit pendant la deuxième révision.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the third revision.</source>
+        <translation>C’est la couleur du texte écrit pendant la troisième révision.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fourth revision.</source>
+        <translation>C’est la couleur du texte écrit pendant la quatrième révision.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was written in the fifth revision.</source>
+        <translation>C’est la couleur du texte écrit pendant la cinquième révision.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the editor that has none of its own.</source>
+        <translation>C’est la couleur du texte de l’éditeur qui n’en a pas d’autre.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in the editor.</source>
+        <translation>C’est la couleur de la page dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor.</source>
+        <translation>C’est la couleur des liens dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in the editor that have been opened.</source>
+        <translation>C’est la couleur des liens déjà ouverts dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in the editor.</source>
+        <translation>C’est la couleur des espaces, des tabulations et des marques de paragraphe dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in the editor.</source>
+        <translation>C’est la couleur du texte sélectionné dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in the editor.</source>
+        <translation>C’est le fond du texte sélectionné dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of annotations within the text.</source>
+        <translation>C’est la couleur des annotations dans le texte.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a comment.</source>
+        <translation>C’est le fond du texte qui porte un commentaire.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the text of footnotes.</source>
+        <translation>C’est la couleur du texte des notes de bas de page.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that has a footnote.</source>
+        <translation>C’est le fond du texte qui porte une note de bas de page.</translation>
+    </message>
+    <message>
+        <source>This is the background of text that keeps its formatting when the book is compiled.</source>
+        <translation>C’est le fond du texte qui garde sa mise en forme à la compilation du livre.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found in the editor.</source>
+        <translation>C’est le fond de ce qu’une recherche dans le projet a trouvé dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found in the editor.</source>
+        <translation>C’est la couleur du cadre de ce qu’une recherche dans le projet a trouvé dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document.</source>
+        <translation>C’est le fond de ce qui a été trouvé dans le document.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document.</source>
+        <translation>C’est le fond d’une occurrence sur deux dans le document.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document.</source>
+        <translation>C’est la couleur du texte trouvé dans le document.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the line below a misspelt word.</source>
+        <translation>C’est la couleur de la ligne sous un mot mal orthographié.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in full screen that has none of its own.</source>
+        <translation>C’est la couleur du texte en plein écran qui n’en a pas d’autre.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the page in full screen.</source>
+        <translation>C’est la couleur de la page en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen.</source>
+        <translation>C’est la couleur des liens en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of links in full screen that have been opened.</source>
+        <translation>C’est la couleur des liens déjà ouverts en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of blanks, tabs and paragraph marks in full screen.</source>
+        <translation>C’est la couleur des espaces, des tabulations et des marques de paragraphe en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of selected text in full screen.</source>
+        <translation>C’est la couleur du texte sélectionné en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the background of selected text in full screen.</source>
+        <translation>C’est le fond du texte sélectionné en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the background of what a project search has found, in full screen.</source>
+        <translation>C’est le fond de ce qu’une recherche dans le projet a trouvé, en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of the frame around what a project search has found, in full screen.</source>
+        <translation>C’est la couleur du cadre de ce qu’une recherche dans le projet a trouvé, en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the background of what was found in the document, in full screen.</source>
+        <translation>C’est le fond de ce qui a été trouvé dans le document, en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other match in the document, in full screen.</source>
+        <translation>C’est le fond d’une occurrence sur deux dans le document, en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text that was found in the document, in full screen.</source>
+        <translation>C’est la couleur du texte trouvé dans le document, en plein écran.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of a document.</source>
+        <translation>C’est le fond des notes d’un document.</translation>
+    </message>
+    <message>
+        <source>This is the background of the notes of the project.</source>
+        <translation>C’est le fond des notes du projet.</translation>
+    </message>
+    <message>
+        <source>This is the background of the list of recent search results.</source>
+        <translation>C’est le fond de la liste des derniers résultats de recherche.</translation>
+    </message>
+    <message>
+        <source>This is the background of the binder.</source>
+        <translation>C’est le fond du classeur.</translation>
+    </message>
+    <message>
+        <source>This is the background of the outliner.</source>
+        <translation>C’est le fond du plan.</translation>
+    </message>
+    <message>
+        <source>This is the background of every other row of the outliner.</source>
+        <translation>C’est le fond d’une ligne sur deux du plan.</translation>
+    </message>
+    <message>
+        <source>This is the background of earlier versions of a document.</source>
+        <translation>C’est le fond des versions antérieures d’un document.</translation>
+    </message>
+    <message>
+        <source>This is the background of the scratch pad.</source>
+        <translation>C’est le fond du bloc-notes.</translation>
+    </message>
+    <message>
+        <source>This is the colour of text in the scratch pad.</source>
+        <translation>C’est la couleur du texte dans le bloc-notes.</translation>
+    </message>
+    <message>
+        <source>Last check for updates</source>
+        <translation>Dernière recherche de mises à jour</translation>
+    </message>
+    <message>
+        <source>This is the time at which a newer version was last looked for.</source>
+        <translation>C’est le moment où une version plus récente a été recherchée pour la dernière fois.</translation>
+    </message>
+    <message>
+        <source>First start</source>
+        <translation>Premier démarrage</translation>
+    </message>
+    <message>
+        <source>This is the time at which the application was started for the first time.</source>
+        <translation>C’est le moment où l’application a été démarrée pour la première fois.</translation>
+    </message>
+    <message>
+        <source>This is the font of the titles of index cards.</source>
+        <translation>C’est la police des titres des fiches.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on index cards.</source>
+        <translation>C’est la police des synopsis sur les fiches.</translation>
+    </message>
+    <message>
+        <source>This is the font of the synopses on small index cards.</source>
+        <translation>C’est la police des synopsis sur les petites fiches.</translation>
+    </message>
+    <message>
+        <source>This is the font of the status that is stamped on index cards.</source>
+        <translation>C’est la police du statut tamponné sur les fiches.</translation>
+    </message>
+    <message>
+        <source>This is the font of menus, buttons and dialogs.</source>
+        <translation>C’est la police des menus, des boutons et des boîtes de dialogue.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of a document.</source>
+        <translation>C’est la police des notes d’un document.</translation>
+    </message>
+    <message>
+        <source>This is the font of the notes of the project.</source>
+        <translation>C’est la police des notes du projet.</translation>
+    </message>
+    <message>
+        <source>This is the font of the binder.</source>
+        <translation>C’est la police du classeur.</translation>
+    </message>
+    <message>
+        <source>This is the font of the outliner.</source>
+        <translation>C’est la police du plan.</translation>
+    </message>
+    <message>
+        <source>This is the font of the bar above each editor.</source>
+        <translation>C’est la police de la barre au-dessus de chaque éditeur.</translation>
+    </message>
+    <message>
+        <source>This is the font of comments in the inspector.</source>
+        <translation>C’est la police des commentaires dans l’inspecteur.</translation>
+    </message>
+    <message>
+        <source>This is the font of footnotes in the inspector.</source>
+        <translation>C’est la police des notes de bas de page dans l’inspecteur.</translation>
+    </message>
+    <message>
+        <source>This is the font of the scratch pad.</source>
+        <translation>C’est la police du bloc-notes.</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>This is the set of keys that the commands of the application have.</source>
+        <translation>Ce sont les touches attribuées aux commandes de l’application.</translation>
+    </message>
+    <message>
+        <source>Text presets</source>
+        <translation>Préréglages de texte</translation>
+    </message>
+    <message>
+        <source>These are the named formats for characters and paragraphs.</source>
+        <translation>Ce sont les formats nommés de caractères et de paragraphes.</translation>
+    </message>
+    <message>
+        <source>Background picture</source>
+        <translation>Image d’arrière-plan</translation>
+    </message>
+    <message>
+        <source>This is the picture that fills the screen around the page in full screen.</source>
+        <translation>C’est l’image qui remplit l’écran autour de la page en plein écran.</translation>
+    </message>
+    <message>
+        <source>Replacements</source>
+        <translation>Remplacements</translation>
+    </message>
+    <message>
+        <source>This is the list of texts that are replaced while typing.</source>
+        <translation>C’est la liste des textes remplacés pendant la frappe.</translation>
+    </message>
+    <message>
+        <source>PDF settings</source>
+        <translation>Réglages PDF</translation>
+    </message>
+    <message>
+        <source>These are the settings of PDF exports by their names.</source>
+        <translation>Ce sont les réglages des exportations PDF avec leurs noms.</translation>
+    </message>
+    <message>
+        <source>Place of the spelling window</source>
+        <translation>Place de la fenêtre d’orthographe</translation>
+    </message>
+    <message>
+        <source>This is the place and the size that the spelling window had last.</source>
+        <translation>Ce sont la place et la taille qu’avait la fenêtre d’orthographe la dernière fois.</translation>
+    </message>
+    <message>
+        <source>Import web pages as</source>
+        <translation>Importer les pages web en</translation>
+    </message>
+    <message>
+        <source>Determines what a web page becomes when it is imported.</source>
+        <translation>Détermine ce que devient une page web importée.</translation>
+    </message>
+    <message>
+        <source>Encoding of plain text</source>
+        <translation>Codage du texte brut</translation>
+    </message>
+    <message>
+        <source>This is the encoding in which plain text files are read where they do not name one.</source>
+        <translation>C’est le codage dans lequel sont lus les fichiers de texte brut qui n’en indiquent pas.</translation>
+    </message>
+    <message>
+        <source>Converters for imports</source>
+        <translation>Convertisseurs d’importation</translation>
+    </message>
+    <message>
+        <source>Determines which converter reads which file format.</source>
+        <translation>Détermine quel convertisseur lit quel format de fichier.</translation>
+    </message>
+    <message>
+        <source>Converters for exports</source>
+        <translation>Convertisseurs d’exportation</translation>
+    </message>
+    <message>
+        <source>Determines which converter writes which file format.</source>
+        <translation>Détermine quel convertisseur écrit quel format de fichier.</translation>
+    </message>
+    <message>
+        <source>Characters of new documents</source>
+        <translation>Caractères des nouveaux documents</translation>
+    </message>
+    <message>
+        <source>This is the format of characters with which a new document begins.</source>
+        <translation>C’est le format de caractères par lequel commence un nouveau document.</translation>
+    </message>
+    <message>
+        <source>Paragraphs of new documents</source>
+        <translation>Paragraphes des nouveaux documents</translation>
+    </message>
+    <message>
+        <source>This is the format of paragraphs with which a new document begins.</source>
+        <translation>C’est le format de paragraphe par lequel commence un nouveau document.</translation>
+    </message>
+    <message>
+        <source>Between documents shown together</source>
+        <translation>Entre les documents affichés ensemble</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are shown as one.</source>
+        <translation>Détermine ce qui sépare les textes des documents affichés comme un seul.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between documents shown together</source>
+        <translation>Votre séparateur entre les documents affichés ensemble</translation>
+    </message>
+    <message>
+        <source>This is the text that separates documents shown as one where a separator of your own is chosen.</source>
+        <translation>C’est le texte qui sépare les documents affichés comme un seul quand un séparateur personnel est choisi.</translation>
+    </message>
+    <message>
+        <source>Between merged documents</source>
+        <translation>Entre les documents fusionnés</translation>
+    </message>
+    <message>
+        <source>Determines what separates the texts of documents that are merged.</source>
+        <translation>Détermine ce qui sépare les textes des documents fusionnés.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between merged documents</source>
+        <translation>Votre séparateur entre les documents fusionnés</translation>
+    </message>
+    <message>
+        <source>This is the text that separates merged documents where a separator of your own is chosen.</source>
+        <translation>C’est le texte qui sépare les documents fusionnés quand un séparateur personnel est choisi.</translation>
+    </message>
+    <message>
+        <source>Between clippings</source>
+        <translation>Entre les extraits</translation>
+    </message>
+    <message>
+        <source>Determines what separates a clipping from the text to which it is added.</source>
+        <translation>Détermine ce qui sépare un extrait du texte auquel il est ajouté.</translation>
+    </message>
+    <message>
+        <source>Separator of your own between clippings</source>
+        <translation>Votre séparateur entre les extraits</translation>
+    </message>
+    <message>
+        <source>This is the text that separates clippings where a separator of your own is chosen.</source>
+        <translation>C’est le texte qui sépare les extraits quand un séparateur personnel est choisi.</translation>
+    </message>
+    <message>
+        <source>the commas make a list of the bytes; they belong into quotation marks</source>
+        <translation>les virgules font une liste des octets&#xa0;; il faut les mettre entre guillemets</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>Font of card titles</source>
+        <translation>Police des titres de fiche</translation>
+    </message>
+    <message>
+        <source>Font of synopses</source>
+        <translation>Police des synopsis</translation>
+    </message>
+    <message>
+        <source>Font of synopses on small cards</source>
+        <translation>Police des synopsis sur les petites fiches</translation>
+    </message>
+    <message>
+        <source>Font of status stamps</source>
+        <translation>Police des tampons de statut</translation>
+    </message>
+    <message>
+        <source>Font of menus and dialogs</source>
+        <translation>Police des menus et boîtes de dialogue</translation>
+    </message>
+    <message>
+        <source>Font of document notes</source>
+        <translation>Police des notes de document</translation>
+    </message>
+    <message>
+        <source>Font of project notes</source>
+        <translation>Police des notes de projet</translation>
+    </message>
+    <message>
+        <source>Font of the binder</source>
+        <translation>Police du classeur</translation>
+    </message>
+    <message>
+        <source>Font of the outliner</source>
+        <translation>Police du plan</translation>
+    </message>
+    <message>
+        <source>Font of header bars</source>
+        <translation>Police des barres d’en-tête</translation>
+    </message>
+    <message>
+        <source>Font of comments</source>
+        <translation>Police des commentaires</translation>
+    </message>
+    <message>
+        <source>Font of footnotes</source>
+        <translation>Police des notes de bas de page</translation>
+    </message>
+    <message>
+        <source>Font of the scratch pad</source>
+        <translation>Police du bloc-notes</translation>
     </message>
 </context>
 <context>
