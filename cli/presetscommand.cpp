@@ -4,6 +4,7 @@
 #include "options/mrvoptions.h"
 #include "presets/mrvtextpresetjson.h"
 #include "state/mrvtextpresetmgr.h"
+#include "util/mrvfilekind.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -77,8 +78,12 @@ int show(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 
 int exportTo(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
+    const QString path = call.arguments.constFirst();
     QString error;
-    return scheme.save(call.arguments.constFirst(), &error) ? Done : refuse(error);
+    return MRVFileKind::mayReplace(path, MRVTextPresetScheme::isStoredForm, &error)
+            && scheme.save(path, &error)
+        ? Done
+        : refuse(error);
 }
 
 int importFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
@@ -105,6 +110,53 @@ int removeFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme
     return write(call, options, scheme);
 }
 
+int set(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
+{
+    const QString name = call.arguments.constFirst();
+    MRVTextPreset preset = scheme.preset(name);
+    const QStringList assignments = call.arguments.mid(1);
+    for (const QString &assignment : assignments) {
+        const int equals = assignment.indexOf(u'=');
+        if (equals < 0) {
+            return usageError(QStringLiteral("'%1' is not PROPERTY=VALUE").arg(assignment));
+        }
+        QString error;
+        if (!MRVTextPresetJson::setFromText(&preset, assignment.left(equals),
+                                            assignment.mid(equals + 1), &error)) {
+            return refuse(error);
+        }
+    }
+    scheme.setPreset(name, preset);
+    return write(call, options, scheme);
+}
+
+int rename(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
+{
+    const QString name = call.arguments.at(0);
+    if (!scheme.contains(name)) {
+        return refuseName(name, scheme);
+    }
+    if (!scheme.renamePreset(name, call.arguments.at(1))) {
+        return refuse(QStringLiteral("there is a preset '%1' already").arg(call.arguments.at(1)));
+    }
+    return write(call, options, scheme);
+}
+
+int reset(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
+{
+    const MRVTextPresetScheme defaults = MRVTextPresetScheme::defaultScheme();
+    if (call.arguments.isEmpty()) {
+        return write(call, options, defaults);
+    }
+    for (const QString &name : call.arguments) {
+        if (!defaults.contains(name)) {
+            return refuseName(name, defaults);
+        }
+        scheme.setPreset(name, defaults.preset(name));
+    }
+    return write(call, options, scheme);
+}
+
 // Opens the settings unless a preset file is read, and hands the presets to the verb.
 template<Access access, int (*Run)(const Call &call, MRVOptions *options, MRVTextPresetScheme)>
 int withPresets(const Call &call)
@@ -119,7 +171,8 @@ int withPresets(const Call &call)
     }
     MRVTextPresetScheme scheme;
     // The presets may be damaged when all of them are to be replaced.
-    if (error.isEmpty() && !call.has("only-these")) {
+    const bool replacesAll = call.has("only-these") || (Run == reset && call.arguments.isEmpty());
+    if (error.isEmpty() && !replacesAll) {
         scheme = call.has("file")
             ? MRVTextPresetScheme::load(call.value("file"), &error)
             : MRVTextPresetMgr::readPresets(named(call, settings.options()), &error);
@@ -133,7 +186,16 @@ constexpr Verb verbs[] = {
     {"export", "FILE", "write all presets to a preset file", withPresets<Access::Read, exportTo>},
     {"import", "FILE", "add the presets of a preset file, replacing those of the same name",
      withPresets<Access::Create, importFrom>},
+    {"set", "NAME PROPERTY=VALUE...", "change a preset, or add one",
+     withPresets<Access::Create, set>,
+     "The properties are those that \"show --json\" prints, such as family, size, weight, italic, "
+     "color, alignment, left, firstLine, above and spacing. Lengths are in points. Without a VALUE "
+     "the preset leaves the property as it is in the text. applies=characters,paragraphs says what "
+     "is applied; a part in which something is set is applied."},
+    {"rename", "NAME NEW", "give a preset another name", withPresets<Access::Change, rename>},
     {"remove", "NAME...", "remove presets", withPresets<Access::Change, removeFrom>},
+    {"reset", "[NAME...]", "restore default presets; all of them, and only them, without a NAME",
+     withPresets<Access::Create, reset>},
 };
 
 constexpr Option options[] = {
@@ -147,10 +209,10 @@ constexpr Option options[] = {
 
 const Command presetsCommand = {
     "presets",
-    "show, export and import text presets",
+    "show and change text presets",
     "Shows and changes the text presets of the application.\n"
     "Exit code 1: refused, or there are no presets to list.",
-    "presets show Heading --json\npresets list --file house.presets\n"
+    "presets show Heading --json\npresets set Motto size=18 italic=yes alignment=center\n"
     "presets import house.presets --only-these",
     verbs,
     {options},

@@ -2,6 +2,7 @@
 #include "commandline.h"
 #include "scriptmode/mrvscriptelementtext.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvfilekind.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -58,8 +59,9 @@ int showMode(const MRVScriptMode &mode, const Call &call)
     if (call.has("xml") || call.has("output")) {
         const QString path = call.value("output");
         QString error;
-        const bool ok =
-            path.isEmpty() ? writeStandardOutput(mode.toXml(), &error) : mode.save(path, &error);
+        const bool ok = path.isEmpty() ? writeStandardOutput(mode.toXml(), &error)
+                                       : MRVFileKind::mayReplace(path, MRVScriptMode::isXml, &error)
+                && mode.save(path, &error);
         return ok ? int(Done) : refuse(error);
     }
     const QList<MRVScriptElement> elements = mode.elements();

@@ -2,6 +2,7 @@
 #include "suggestion.h"
 
 #include "options/mrvoptions.h"
+#include "util/mrvfilekind.h"
 
 #include <QFileInfo>
 #include <QJsonObject>
@@ -189,7 +190,10 @@ int exportTo(const Call &call, MRVOptions *options)
         return refuse(QStringLiteral("%1 is the settings file itself").arg(path));
     }
     QString error;
-    return options->saveToFile(path, &error) ? Done : refuse(error);
+    return MRVFileKind::mayReplace(path, MRVOptionsFile::isSettings, &error)
+            && options->saveToFile(path, &error)
+        ? Done
+        : refuse(error);
 }
 
 void printProblem(const Call &call, const MRVOptions::Problem &problem)

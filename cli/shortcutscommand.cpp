@@ -1,8 +1,10 @@
 #include "settingsfile.h"
+#include "suggestion.h"
 
 #include "options/mrvoptions.h"
 #include "shortcuts/mrvshortcutcheck.h"
 #include "shortcuts/mrvshortcutscheme.h"
+#include "util/mrvfilekind.h"
 
 #include "core/mrvfilewriter.h"
 
@@ -31,6 +33,13 @@ int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
 QString nameOf(MRVShortcut::Id id)
 {
     return QString::fromLatin1(MRVShortcut::valueToKey(id));
+}
+
+void printEntry(const Call &call, const MRVShortcutInfo &info)
+{
+    printAnswer(call, info.toJson(),
+                nameOf(info.id).leftJustified(32) + u' ' + info.keysText().leftJustified(22) + u' '
+                    + displayed(info.text));
 }
 
 // What list shows: the options, checked.
@@ -84,9 +93,7 @@ int list(const Call &call)
             continue;
         }
         found = true;
-        printAnswer(call, info.toJson(),
-                    nameOf(info.id).leftJustified(32) + u' ' + info.keysText().leftJustified(22)
-                        + u' ' + displayed(info.text));
+        printEntry(call, info);
     }
     return found ? Done : Failed;
 }
@@ -131,12 +138,102 @@ int exportScheme(const Call &call)
         return code;
     }
     QString error;
+    const QString path = call.value("output");
     const bool asFile = call.value("to") == QLatin1String("scheme");
+    const auto isOfKind = asFile ? MRVShortcutScheme::isStoredForm : MRVShortcutScheme::isText;
     const QByteArray bytes = asFile ? scheme.toByteArray() : scheme.toText().toUtf8();
-    const bool written = call.has("output")
-        ? MRVFileWriter::write(call.value("output"), bytes, &error)
-        : writeStandardOutput(bytes, &error);
+    const bool written = call.has("output") ? MRVFileKind::mayReplace(path, isOfKind, &error)
+            && MRVFileWriter::write(path, bytes, &error)
+                                            : writeStandardOutput(bytes, &error);
     return written ? Done : refuse(error);
+}
+
+using Keys = QList<QPair<MRVShortcut::Id, QKeySequence>>;
+
+// @return Done, or the code to end with.
+int readCommand(const QString &name, MRVShortcut::Id *id)
+{
+    *id = MRVShortcut::keyToValue(name.toLatin1().constData());
+    if (MRVShortcut::isValid(*id) && nameOf(*id) == name) {
+        return Done;
+    }
+    QStringList names;
+    const auto infos = MRVShortcutScheme::morvane().sortedShortcuts();
+    for (const MRVShortcutInfo &info : infos) {
+        names.append(nameOf(info.id));
+    }
+    return refuse(QStringLiteral("unknown command '%1'").arg(name) + didYouMean(name, names));
+}
+
+int store(MRVOptions *options, const MRVShortcutScheme &scheme)
+{
+    options->setShortcutScheme(options->keyText(MRVOptions::DefaultShortcutScheme), scheme);
+    return save(options);
+}
+
+// Keys that would not work are stored on request only.
+int change(const Call &call, MRVOptions *options, const Keys &keys)
+{
+    QString damage;
+    MRVShortcutScheme scheme = options->shortcutScheme(&damage);
+    if (!damage.isEmpty()) {
+        return refuse(damage + QLatin1String("; it can be reset"));
+    }
+    scheme.mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
+    for (const auto &[id, sequence] : keys) {
+        scheme.setShortcut(id, sequence);
+    }
+    for (const auto &[id, sequence] : keys) {
+        const auto conflicts = MRVShortcutCheck::conflicts(scheme, id, sequence);
+        if (!conflicts.isEmpty() && !call.has("force")) {
+            return refuse(MRVShortcutCheck::describe(conflicts.constFirst(), scheme));
+        }
+    }
+    if (const int code = store(options, scheme); code != Done) {
+        return code;
+    }
+    for (const auto &key : keys) {
+        printEntry(call, scheme.shortcutInfo(key.first));
+    }
+    return Done;
+}
+
+int set(const Call &call, MRVOptions *options)
+{
+    MRVShortcut::Id id = MRVShortcut::NoId;
+    if (const int code = readCommand(call.arguments.at(0), &id); code != Done) {
+        return code;
+    }
+    const QString keys = call.arguments.at(1);
+    const QKeySequence sequence = MRVShortcutScheme::toSequence(keys);
+    if (sequence.isEmpty() && keys != QLatin1String("none")) {
+        return usageError(QStringLiteral("'%1' contains what is not a key").arg(keys));
+    }
+    return change(call, options, {{id, sequence}});
+}
+
+int reset(const Call &call, MRVOptions *options)
+{
+    Keys keys;
+    for (const QString &name : call.arguments) {
+        MRVShortcut::Id id = MRVShortcut::NoId;
+        if (const int code = readCommand(name, &id); code != Done) {
+            return code;
+        }
+        keys.append({id, MRVShortcutScheme::morvane().shortcut(id)});
+    }
+    if (!keys.isEmpty()) {
+        return change(call, options, keys);
+    }
+    options->remove(options->keyText(MRVOptions::DefaultShortcutScheme));
+    return save(options);
+}
+
+int importScheme(const Call &call, MRVOptions *options)
+{
+    QString error;
+    const auto scheme = MRVShortcutScheme::loadNamed(call.arguments.constFirst(), &error);
+    return error.isEmpty() ? store(options, scheme) : refuse(error);
 }
 
 constexpr Verb verbs[] = {
@@ -145,11 +242,20 @@ constexpr Verb verbs[] = {
     {"diff", "[BEFORE] [AFTER]", "list what changed; from the default unless two are given", diff},
     {"export", "[SCHEME]", "write the scheme as text for readers, or as a scheme file",
      exportScheme},
+    {"set", "COMMAND KEYS", "give a command other keys, or none", withSettings<Access::Create, set>,
+     "COMMAND is a name that \"list\" prints. KEYS are up to four keys such as Ctrl+S or "
+     "Ctrl+G,Ctrl+N; none is no key. Keys that \"check\" would list are refused."},
+    {"reset", "[COMMAND...]", "give commands, or all of them, their default keys",
+     withSettings<Access::Create, reset>},
+    {"import", "SCHEME", "store a scheme in place of that of the settings",
+     withSettings<Access::Create, importScheme>},
 };
 
 constexpr Option options[] = {
     settingsOption,
-    Option::flag("stored", "Only what is stored: no default for what is not."),
+    Option::flag("stored", "Only what is stored: no default for what is not.",
+                 "list check diff export"),
+    Option::flag("force", "Store keys that would not work, too.", "set reset"),
     Option::text("filter", "TEXT", "Only commands whose text, keys or name contain TEXT.", "list"),
     Option::name("group", "GROUP", "Only the commands of this menu group.", "list"),
     Option::name("keys", "KEYS",
@@ -159,20 +265,21 @@ constexpr Option options[] = {
     Option::choice("to", "FORMAT", "text scheme",
                    "The format: text (the default), or scheme for a scheme file.", "export"),
     Option::name("o output", "FILE", "Write to this file instead of standard output.", "export"),
-    Option::flag("json", "Print a line of JSON for each command.", "list check diff"),
+    Option::flag("json", "Print a line of JSON for each command.", "list check diff set reset"),
 };
 
 } // namespace
 
 const Command shortcutsCommand = {
     "shortcuts",
-    "show, check and compare keyboard shortcuts",
-    "Shows and checks keyboard shortcuts. SCHEME is a scheme file or the name of a predefined "
+    "show, check and change keyboard shortcuts",
+    "Shows, checks and changes keyboard shortcuts. SCHEME is a scheme file or the name of a "
+    "predefined "
     "scheme: Morvane, Microsoft Word, Open Office, Mac Morvane (a file of such a name is "
     "./Morvane). Without it, the scheme is that of the settings. Commands that it lacks get their "
     "default, as in the application.\n"
     "Exit code 1: refused, or nothing found.",
-    "shortcuts list --keys Ctrl+G\nshortcuts diff Morvane \"Open Office\"\n"
+    "shortcuts list --keys Ctrl+G\nshortcuts set ZoomIn Ctrl+Alt+Z\n"
     "shortcuts export --to scheme -o mine.scheme",
     verbs,
     {options},

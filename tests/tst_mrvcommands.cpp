@@ -81,7 +81,10 @@ private Q_SLOTS:
     // What one call writes, another one checks.
     void writesModes()
     {
-        QCOMPARE(mrv("script show UK␣Stage␣Play --units in -o @play.xml").exitCode, 0);
+        QVERIFY(writeBytes(in("play.xml"), {}));
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(mrv("script show UK␣Stage␣Play --units in -o @play.xml").exitCode, 0);
+        }
         QVERIFY(bytesOf(in("play.xml")).contains("<Units>Inches</Units>"));
         QCOMPARE(mrv("script check @play.xml").exitCode, 0);
     }
@@ -211,6 +214,10 @@ private Q_SLOTS:
         QCOMPARE(mrv("settings set Backups/retain 7 --settings @novel.txt").exitCode, 1);
         QCOMPARE(bytesOf(in("novel.txt")), QByteArray("It was a dark night.\nStormy.\n"));
         QCOMPARE(mrv("settings export @a.ini --settings @a.ini").exitCode, 1);
+        QCOMPARE(mrv("settings export @novel.txt --settings @a.ini").exitCode, 1);
+        QCOMPARE(mrv("presets export @novel.txt --settings @a.ini").exitCode, 1);
+        QCOMPARE(mrv("script show UK␣Stage␣Play -o @novel.txt").exitCode, 1);
+        QCOMPARE(bytesOf(in("novel.txt")), QByteArray("It was a dark night.\nStormy.\n"));
         QVERIFY(writeBytes(in("file"), "x"));
         QCOMPARE(mrv("settings set Backups/retain 7 --settings @file/a.ini").exitCode, 1);
         QCOMPARE(mrv("settings set Backups/retain 7 --settings @no/folder/a.ini").exitCode, 1);
@@ -239,6 +246,25 @@ private Q_SLOTS:
         Scheme wanted(bytesOf(in("a.scheme")), true);
         QVERIFY(Scheme::load(in("out.scheme")) == wanted);
         QCOMPARE(mrv("shortcuts export Morvane -o @missing/out").exitCode, 1);
+    }
+
+    void changesShortcuts()
+    {
+        leaveSchemes();
+        const auto diff = [this] { return mrv("shortcuts diff --settings @mine.conf").output; };
+        QCOMPARE(mrv("shortcuts set ZoomIn Ctrl+Alt+Z --settings @mine.conf").exitCode, 0);
+        QCOMPARE(diff(),
+                 QString("Save: “Save” -> “Keep”\n"
+                         "ZoomIn: Ctrl++ -> Ctrl+Alt+Z, “Zoom In” -> “Bigger”\n"));
+        QCOMPARE(mrv("shortcuts reset ZoomIn --settings @mine.conf").exitCode, 0);
+        QVERIFY(diff().contains("ZoomIn: “Zoom In” -> “Bigger”\n"));
+        QCOMPARE(mrv("shortcuts import @b.scheme --settings @mine.conf").exitCode, 0);
+        QVERIFY(diff().contains("OpenProject: Ctrl+O -> Ctrl+S, F2"));
+        QCOMPARE(mrv("shortcuts import Open␣Office --settings @mine.conf").exitCode, 0);
+        QCOMPARE(diff(), QString());
+        QCOMPARE(mrv("shortcuts set ZoomIn none --settings @mine.conf").exitCode, 0);
+        QCOMPARE(mrv("shortcuts reset --settings @mine.conf").exitCode, 0);
+        QVERIFY(!bytesOf(in("mine.conf")).contains("Shortcut"));
     }
 
     void xml_data() { addCalls("mrv-xml.tsv"); }

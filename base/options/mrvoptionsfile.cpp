@@ -3,6 +3,7 @@
 #include "options/mrvoptions.h"
 #include "util/mrvfailure.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,7 +17,7 @@ namespace {
 // QSettings takes any file for one of its own, and would write over it. What stands before the
 // first section must be comments and keys; where "#" comments are all there is, it may be a text
 // with headings.
-bool beginsLikeSettings(QFile *file)
+bool beginsLikeSettings(QIODevice *file)
 {
     static const QRegularExpression key(QStringLiteral("^[\\w%\\\\./-]+\\s*="));
     constexpr int MostLine = 10000;
@@ -59,6 +60,14 @@ QString pathOfOwn()
 MRVOptionsFile::MRVOptionsFile() = default;
 
 MRVOptionsFile::~MRVOptionsFile() = default;
+
+bool MRVOptionsFile::isSettings(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return beginsLikeSettings(&buffer);
+}
 
 // Empty when the file can be opened.
 QString MRVOptionsFile::objectionTo(const QFileInfo &info, bool isOwn, Access access)

@@ -55,6 +55,9 @@ public:
     /** The preferences, which this object owns; null before open() and after its failure. */
     MRVOptions *options() const { return m_options.get(); }
 
+    /** Whether bytes begin like a settings file; see MRVFileKind. */
+    static bool isSettings(const QByteArray &bytes);
+
 private:
     static QString objectionTo(const QFileInfo &file, bool isOwn, Access access);
 

@@ -2,6 +2,7 @@
 
 #include "util/mrvbase_export.h"
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QString>
 
@@ -9,13 +10,15 @@ class MRVTextPreset;
 class QTextFormat;
 
 /**
- * Text presets as JSON for readers and scripts. Nothing reads it back: presets are stored by
- * MRVTextPresetScheme.
+ * Text presets as JSON for readers and scripts, and their properties by the names used there.
+ * Presets are stored by MRVTextPresetScheme.
  *
  * @since 1.0
  */
 class MRVBASE_EXPORT MRVTextPresetJson
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVTextPresetJson)
+
 public:
     MRVTextPresetJson() = delete;
 
@@ -30,4 +33,19 @@ public:
      * under these two names the formats.
      */
     static QJsonObject toJson(const QString &name, const MRVTextPreset &preset);
+
+    /**
+     * Sets a property of a preset, and applies the part of the preset that it belongs to.
+     *
+     * @param property a name that toJson() uses, or "applies".
+     * @param text     as toJson() gives it: a number, with a decimal point and lengths in points;
+     *                 "true" or "false", also "yes" or "no"; a colour such as "#1f1f1f"; a word; of
+     *                 "applies", "characters" and "paragraphs" with a comma between. Empty: the
+     *                 property is not set, nothing is applied.
+     * @param error    if given, receives one translated line on failure; untouched on success.
+     * @return false, with @p preset as it was, for an unknown property or a text that is no value
+     * of it.
+     */
+    static bool setFromText(MRVTextPreset *preset, const QString &property, const QString &text,
+                            QString *error = nullptr);
 };

@@ -77,6 +77,23 @@ bool MRVTextPresetScheme::deletePreset(const QString &name)
     return m_presets.remove(name) > 0;
 }
 
+bool MRVTextPresetScheme::renamePreset(const QString &oldName, const QString &newName)
+{
+    if (!contains(oldName) || (newName != oldName && contains(newName))) {
+        return false;
+    }
+    const MRVTextPreset preset = m_presets.take(oldName);
+    m_presets.insert(newName, preset);
+    return true;
+}
+
+bool MRVTextPresetScheme::isStoredForm(const QByteArray &bytes)
+{
+    QString error;
+    fromByteArray(bytes, &error);
+    return error.isEmpty() && !bytes.isEmpty();
+}
+
 QByteArray MRVTextPresetScheme::toByteArray(const MRVTextPresetScheme &scheme)
 {
     return MCoreType::toByteArray(scheme);

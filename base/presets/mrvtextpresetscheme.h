@@ -37,6 +37,14 @@ public:
     /** @return false where there is no preset of that name. */
     bool deletePreset(const QString &name);
 
+    /**
+     * Gives a preset another name.
+     *
+     * @return false, with nothing done, where there is no preset of the old name, or another one
+     * has the new name.
+     */
+    bool renamePreset(const QString &oldName, const QString &newName);
+
     /** Adds all presets of @p other, each in the place of one of the same name. */
     void merge(const MRVTextPresetScheme &other);
 
@@ -54,6 +62,9 @@ public:
     int count() const { return m_presets.size(); }
     bool isEmpty() const { return m_presets.isEmpty(); }
     //@}
+
+    /** Whether bytes can be read whole as the stored form; see MRVFileKind. */
+    static bool isStoredForm(const QByteArray &bytes);
 
     /** The stored form, as the stream operator below writes it. */
     static QByteArray toByteArray(const MRVTextPresetScheme &scheme);

@@ -101,6 +101,8 @@ public:
      * @param remarks as for load().
      */
     bool fromXml(const QByteArray &xml, QString *error = nullptr, QStringList *remarks = nullptr);
+    /** Whether bytes are those of a mode file; see MRVFileKind. */
+    static bool isXml(const QByteArray &bytes) { return MRVScriptMode().fromXml(bytes); }
     /**
      * Replaces this mode by one of systemModes(), or else loads a file.
      *

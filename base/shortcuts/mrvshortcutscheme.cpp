@@ -254,6 +254,30 @@ QString MRVShortcutScheme::toText() const
     return text;
 }
 
+bool MRVShortcutScheme::isStoredForm(const QByteArray &bytes)
+{
+    QString error;
+    fromByteArray(bytes, &error);
+    return error.isEmpty();
+}
+
+bool MRVShortcutScheme::isText(const QByteArray &bytes)
+{
+    // Each group is a heading and at least one entry.
+    enum { Outside, AfterHeading, AfterEntry } place = Outside;
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (const QByteArray &line : lines) {
+        const QString text = QString::fromUtf8(line);
+        const bool isEntry = line.startsWith("  ") && line.contains(": ");
+        const bool isHeading = !line.startsWith(' ') && text == text.toUpper();
+        if (line.isEmpty() ? place == AfterHeading : place == Outside ? !isHeading : !isEntry) {
+            return false;
+        }
+        place = line.isEmpty() ? Outside : place == Outside ? AfterHeading : AfterEntry;
+    }
+    return place == Outside;
+}
+
 MRVShortcutScheme MRVShortcutScheme::morvane()
 {
     static const MRVShortcutScheme scheme = [] {

@@ -199,6 +199,14 @@ public:
     /** The text that saveAsText() writes. */
     QString toText() const;
 
+    /** Whether bytes can be read whole as the stored form; see MRVFileKind. */
+    static bool isStoredForm(const QByteArray &bytes);
+    /**
+     * Whether bytes look like a text of saveAsText(), in whatever language: headings, and lines
+     * with two blanks before and ": " within.
+     */
+    static bool isText(const QByteArray &bytes);
+
     /** The default scheme, with an entry for every command, though not a key for every one. */
     static MRVShortcutScheme morvane();
     /**

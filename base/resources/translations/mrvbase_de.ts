@@ -549,6 +549,17 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFileKind</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it holds something else, which is not overwritten</source>
+        <translation>sie enthält etwas anderes, das nicht überschrieben wird</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>
@@ -4247,6 +4258,21 @@ Fehler: %2</translation>
     <message>
         <source>The picture cannot be encoded for the file &quot;%1&quot;.</source>
         <translation>Das Bild kann für die Datei „%1“ nicht kodiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextPresetJson</name>
+    <message>
+        <source>&apos;%1&apos; is not a list of characters and paragraphs</source>
+        <translation>„%1“ ist keine Liste aus characters und paragraphs</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a value of the property %2</source>
+        <translation>„%1“ ist kein Wert der Eigenschaft %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of the properties %2</source>
+        <translation>„%1“ ist keine der Eigenschaften %2</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,17 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFileKind</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it holds something else, which is not overwritten</source>
+        <translation>contiene otra cosa, que no se sobrescribe</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>
@@ -4247,6 +4258,21 @@ Error: %2</translation>
     <message>
         <source>The picture cannot be encoded for the file &quot;%1&quot;.</source>
         <translation>No se puede codificar la imagen para el archivo «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextPresetJson</name>
+    <message>
+        <source>&apos;%1&apos; is not a list of characters and paragraphs</source>
+        <translation>«%1» no es una lista de characters y paragraphs</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a value of the property %2</source>
+        <translation>«%1» no es un valor de la propiedad %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of the properties %2</source>
+        <translation>«%1» no es ninguna de las propiedades %2</translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,17 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVFileKind</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it holds something else, which is not overwritten</source>
+        <translation>il contient autre chose, qui n’est pas écrasé</translation>
+    </message>
+</context>
+<context>
     <name>MRVFileWriter</name>
     <message>
         <source>its symbolic links form a loop</source>
@@ -4247,6 +4258,21 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>The picture cannot be encoded for the file &quot;%1&quot;.</source>
         <translation>Impossible d’encoder l’image pour le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>MRVTextPresetJson</name>
+    <message>
+        <source>&apos;%1&apos; is not a list of characters and paragraphs</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une liste de characters et paragraphs</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a value of the property %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une valeur de la propriété %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of the properties %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas l’une des propriétés %2</translation>
     </message>
 </context>
 <context>
