@@ -238,16 +238,15 @@ int importFrom(const Call &call, MRVOptions *options)
     if (source.options()->allKeys().isEmpty()) {
         return refuse(QStringLiteral("%1: it contains no settings").arg(path));
     }
-    const bool keepsAll = call.has("keep-invalid");
-    const QList<MRVOptions::Problem> left = options->importFrom(
-        *source.options(), keepsAll ? MRVOptions::Import::All : MRVOptions::Import::Usable);
+    const auto which =
+        call.has("keep-invalid") ? MRVOptions::Import::All : MRVOptions::Import::Usable;
+    const QList<MRVOptions::Problem> left = options->importFrom(*source.options(), which);
     for (const MRVOptions::Problem &problem : left) {
-        printError(QStringLiteral("%1: %2: %3 is %4")
-                       .arg(path, problem.key, shownProblem(problem),
-                            keepsAll ? QStringLiteral("kept") : QStringLiteral("left out")));
+        printError(
+            QStringLiteral("%1: %2 is left out: %3").arg(path, problem.key, shownProblem(problem)));
     }
     const int code = save(options);
-    return left.isEmpty() || keepsAll ? code : int(Failed);
+    return left.isEmpty() ? code : int(Failed);
 }
 
 constexpr Verb verbs[] = {

@@ -124,7 +124,7 @@ private Q_SLOTS:
     void valuesFromACopy()
     {
         const auto values = std::make_tuple(
-            std::pair(MRVOptions::CheckForUpdates, false), std::pair(MRVOptions::SaveInterval, -3),
+            std::pair(MRVOptions::CheckForUpdates, false), std::pair(MRVOptions::SaveInterval, 300),
             std::pair(S::RealSetting(0), 0.1),
             std::pair(S::StringSetting(1), QString("@a, \u00e9\n")),
             std::pair(S::StringSetting(2), QString("")),

@@ -698,7 +698,8 @@ public:
      * Puts what another store has in place of all that this one has, and emits settingsReset().
      * Nothing is changed where there is no value to be taken.
      *
-     * @return the problems of @p source; with Import::Usable, the values that were left out.
+     * @return the values that were left out: the problems of @p source; with Import::All, only those
+     * that cannot be decoded at all.
      */
     QList<Problem> importFrom(const MRVOptions &source, Import which);
 

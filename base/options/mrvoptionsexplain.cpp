@@ -77,6 +77,8 @@ MRVOptions::Explanation explanationOf(const MRVOptions &options, const Entry &ro
     explanation.origin = options.originOf(key);
     if (!explanation.origin.isEmpty()) {
         explanation.problem = problemOf(key, options.value(key));
+    } else if (const auto unreadable = options.unreadableValues(); unreadable.contains(key)) {
+        explanation.problem = problemOfDamage(key, unreadable.value(key));
     }
     return explanation;
 }

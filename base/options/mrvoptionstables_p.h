@@ -219,6 +219,8 @@ MRVOptions::SettingInfo infoOf(const QString &key);
  * is.
  */
 MRVOptions::Problem problemOf(const QString &key, const QVariant &stored);
+/** The problem of a value that could not be decoded. */
+MRVOptions::Problem problemOfDamage(const QString &key, const QString &text);
 
 /** Whether a text is a pair of quotes: two halves of equal length, neither of them empty. */
 inline bool isQuotePair(const QString &text)

@@ -347,6 +347,11 @@ MRVOptions::Problem MRVOptionsTables::problemOf(const QString &key, const QVaria
             MRVOptions::tr("no setting is called '%1'").arg(key)};
 }
 
+MRVOptions::Problem MRVOptionsTables::problemOfDamage(const QString &key, const QString &text)
+{
+    return {key, MRVOptions::Problem::Unreadable, text, MRVOptions::tr("the value is damaged")};
+}
+
 QString MRVOptions::Problem::kindName() const
 {
     return QString::fromLatin1(ProblemNames[kind]);

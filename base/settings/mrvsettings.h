@@ -179,6 +179,11 @@ public:
     QStringList allKeys() const;
     QStringList childKeys() const;
     QStringList childGroups() const;
+    /**
+     * The values in the open group that the file has but the store has left out, since they cannot
+     * be decoded safely: the text in the file by key.
+     */
+    QMap<QString, QString> unreadableValues() const;
     /** The file that a value comes from; empty where it is not stored. */
     QString originOf(const QString &key) const;
 

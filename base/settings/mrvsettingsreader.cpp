@@ -360,10 +360,12 @@ MRVSettingsText mrvReadSettings(const QByteArray &bytes)
             continue;
         }
         bool isDamaged = false;
-        const Items items(bytes.mid(line.equals + 1, line.end - line.equals - 1), isUtf8);
-        const QVariant value = valueOf(items, &isDamaged);
+        const QByteArray stored = bytes.mid(line.equals + 1, line.end - line.equals - 1);
+        const QVariant value = valueOf(Items(stored, isUtf8), &isDamaged);
         text.isDamaged = text.isDamaged || isDamaged;
-        if (!isDamaged) {
+        if (isDamaged) {
+            text.unreadable.insert(key, QString::fromLatin1(stored.trimmed()));
+        } else {
             text.values.insert(key, value);
         }
     }

@@ -36,6 +36,8 @@ public:
 
     /** By the keys of the whole file. */
     MRVSettingsMap values() const;
+    /** What was left out when the file was read or written the last time. */
+    const QMap<QString, QString> &unreadable() const { return m_file.text().unreadable; }
     /** Sets a value, or removes a key for an invalid one. @return the keys that this changes. */
     QStringList set(const QString &key, const QVariant &value);
     /** Whether something is not saved. */

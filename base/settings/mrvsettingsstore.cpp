@@ -176,6 +176,17 @@ QStringList MRVSettings::childGroups() const
                          [](const QString &key) { return key.left(qMax(key.indexOf(u'/'), 0)); });
 }
 
+QMap<QString, QString> MRVSettings::unreadableValues() const
+{
+    const QString prefix = prefixOf(group());
+    const QMap<QString, QString> &all = m_storage->unreadable();
+    QMap<QString, QString> below;
+    for (auto it = all.lowerBound(prefix); it != all.end() && it.key().startsWith(prefix); ++it) {
+        below.insert(it.key().mid(prefix.size()), it.value());
+    }
+    return below;
+}
+
 bool MRVSettings::saveNow(QString *error)
 {
     if (!m_storage->save(error)) {

@@ -12,6 +12,8 @@ using MRVSettingsMap = QMap<QString, QVariant>;
 struct MRVSettingsText
 {
     MRVSettingsMap values;
+    /** The texts of values that cannot be decoded safely and were left out, by key. */
+    QMap<QString, QString> unreadable;
     /** A value that cannot be decoded safely, or a line that is no setting, was left out. */
     bool isDamaged = false;
     /** A line is neither a section, a setting nor a comment. */

@@ -2488,6 +2488,10 @@ Fehler: %2</translation>
         <source>Font of the scratch pad</source>
         <translation>Schrift des Notizblocks</translation>
     </message>
+    <message>
+        <source>the value is damaged</source>
+        <translation>der Wert ist beschädigt</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>

@@ -2488,6 +2488,10 @@ Error: %2</translation>
         <source>Font of the scratch pad</source>
         <translation>Fuente del bloc de notas</translation>
     </message>
+    <message>
+        <source>the value is damaged</source>
+        <translation>el valor está dañado</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>

@@ -2488,6 +2488,10 @@ Erreur&#xa0;: %2</translation>
         <source>Font of the scratch pad</source>
         <translation>Police du bloc-notes</translation>
     </message>
+    <message>
+        <source>the value is damaged</source>
+        <translation>la valeur est endommagée</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
