@@ -15,6 +15,9 @@
 #include <QTextDocument>
 #include <QUrl>
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
 const QLatin1String SheetName("css/stylesheet.css");
@@ -106,6 +109,20 @@ QStringList pagesOf(const QString &sheet)
         : QStringList();
 }
 
+// The names in a folder, in order; none where it does not exist. To QDir, a folder that cannot be
+// read is an empty one.
+bool listFiles(const QString &folder, QStringList *names, QString *error)
+{
+    std::error_code code;
+    std::filesystem::directory_iterator file(QFile::encodeName(folder).constData(), code);
+    for (; !code && file != std::filesystem::directory_iterator(); file.increment(code)) {
+        names->append(QFile::decodeName(file->path().filename().c_str()));
+    }
+    names->sort();
+    return !code || code == std::errc::no_such_file_or_directory
+        || MRV::fail(error, folder, qt_error_string(code.value()));
+}
+
 } // namespace
 
 MRVPagePublisher::MRVPagePublisher(const MRVPageOptions &options)
@@ -176,8 +193,11 @@ bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QS
     const QDir stage(QFileInfo(page).path());
     const QDir images(MRVTextXhtmlExporter::calcImageDir(page));
     QHash<QString, QString> renamed;
-    const QStringList names = images.entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    for (const QString &name : names) {
+    QStringList names;
+    if (!listFiles(images.path(), &names, error)) {
+        return false;
+    }
+    for (const QString &name : qAsConst(names)) {
         const QString staged = images.filePath(name);
         const QString wanted = stage.relativeFilePath(staged);
         const QString target = pictureTarget(staged, QDir(folder.path).filePath(wanted));
