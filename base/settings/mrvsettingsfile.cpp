@@ -11,10 +11,6 @@
 #include <QLoggingCategory>
 #include <QThread>
 
-#include <cerrno>
-
-#include <sys/stat.h>
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
@@ -46,18 +42,12 @@ void removeDeadLock(const QString &path)
 
 bool MRVSettingsFile::read(QString *error)
 {
-    struct stat now;
-    if (::stat(QFile::encodeName(m_path).constData(), &now) != 0) {
-        if (errno != ENOENT) {
-            return MRV::fail(error,
-                             Messages::tr("Cannot read the file \"%1\": %2")
-                                 .arg(m_path, qt_error_string(errno)));
-        }
+    if (MRVCoreUtil::isMissing(m_path)) {
         *this = MRVSettingsFile(m_path);
         return true;
     }
     // A pipe never ends, and a file would be put in place of a device.
-    if (!S_ISREG(now.st_mode)) {
+    if (!QFileInfo(m_path).isFile()) {
         return MRV::fail(error, Messages::tr("The file \"%1\" is not a regular file").arg(m_path));
     }
     QString reason;

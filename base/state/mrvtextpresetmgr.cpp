@@ -19,9 +19,15 @@ Q_GLOBAL_STATIC(MRVTextPresetMgr, theManager)
 // A file that cannot be read to its end holds presets that the next save would destroy.
 bool keepDamaged(const QString &path, QString *error)
 {
+    if (MRVCoreUtil::isMissing(path)) {
+        return true;
+    }
+    QString reason;
+    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &reason);
+    if (!reason.isEmpty()) {
+        return MRV::fail(error, reason);
+    }
     QString damage;
-    const QByteArray bytes =
-        QFileInfo::exists(path) ? MRVCoreUtil::ReadBinaryFile(path, error) : QByteArray();
     MRVTextPresetScheme::fromByteArray(bytes, &damage);
     return damage.isEmpty() || MRVCoreUtil::WriteBinaryFile(bytes, path + QLatin1Char('~'), error);
 }
@@ -84,7 +90,7 @@ MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
 {
     const QString path = presetSchemeFilePath();
     QString error;
-    if (!path.isEmpty() && QFileInfo::exists(path)) {
+    if (!path.isEmpty() && !MRVCoreUtil::isMissing(path)) {
         const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &error);
         if (error.isEmpty()) {
             return MRVTextPresetScheme::fromByteArray(bytes);
@@ -97,7 +103,7 @@ MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
 MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, QString *error)
 {
     const QString path = options ? QString() : presetSchemeFilePath();
-    if (QFileInfo::exists(path)) {
+    if (!path.isEmpty() && !MRVCoreUtil::isMissing(path)) {
         return MRVTextPresetScheme::load(path, error);
     }
     if (!options) {
@@ -115,15 +121,21 @@ MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, QSt
 bool MRVTextPresetMgr::writePresets(const MRVTextPresetScheme &scheme, MRVOptions *options,
                                     QString *error)
 {
-    if (options) {
+    const QString path = options ? QString() : presetSchemeFilePath();
+    if (!path.isEmpty() && !MRVCoreUtil::isMissing(path)) {
+        // The settings would be hidden by this file.
+        return keepDamaged(path, error)
+            && MRVCoreUtil::WriteBinaryFile(MRVTextPresetScheme::toByteArray(scheme), path, error);
+    }
+    if (!options) {
+        savePresetScheme(scheme);
+        options = mrvOptions();
+    } else {
         options->setValue(MRVOptions::TextPresets, MRVTextPresetScheme::toByteArray(scheme));
-        return options->saveNow(error);
     }
-    savePresetScheme(scheme);
-    if (!mrvOptions()->saveNow(error)) {
-        return false;
+    const bool isSaved = options->saveNow(error);
+    if (!isSaved) {
+        options->revert();
     }
-    // The file may have been impossible to write, and the settings then be hidden by an older file.
-    return loadPresetScheme() == scheme
-        || MRV::fail(error, tr("%1 cannot be written").arg(presetSchemeFilePath()));
+    return isSaved;
 }

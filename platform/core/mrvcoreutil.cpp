@@ -10,7 +10,10 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -214,6 +217,12 @@ QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
 bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)
 {
     return MRVFileWriter::write(path, bytes, error);
+}
+
+bool MRVCoreUtil::isMissing(const QString &path)
+{
+    struct stat found;
+    return ::stat(QFile::encodeName(path).constData(), &found) != 0 && errno == ENOENT;
 }
 
 QString MRVCoreUtil::GetUniqueFileName(const QString &path)

@@ -69,6 +69,12 @@ public:
                                 QString *error = nullptr);
 
     /**
+     * Whether the system says that no file of this name exists. QFileInfo::exists() says so, too,
+     * where it could not find out, and what is there would be overwritten as if nothing were.
+     */
+    static bool isMissing(const QString &path);
+
+    /**
      * @p path itself where nothing bears that name, else the path with a hyphen and a number from 1
      * up put before the suffix: "cover.png", "cover-1.png", "cover-2.png". The suffix is what
      * follows the last dot, up to 100 bytes; a name that only begins with a dot, and a folder, have

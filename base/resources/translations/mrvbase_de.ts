@@ -2698,10 +2698,6 @@ Fehler: %2</translation>
         <translation>Die Datei „%1“ enthält keine Einstellungen</translation>
     </message>
     <message>
-        <source>Cannot read the file &quot;%1&quot;: %2</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; is not a regular file</source>
         <translation>„%1“ ist keine gewöhnliche Datei</translation>
     </message>
@@ -4277,13 +4273,6 @@ Fehler: %2</translation>
     <message>
         <source>&apos;%1&apos; is not one of the properties %2</source>
         <translation>„%1“ ist keine der Eigenschaften %2</translation>
-    </message>
-</context>
-<context>
-    <name>MRVTextPresetMgr</name>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>

@@ -2698,10 +2698,6 @@ Error: %2</translation>
         <translation>El archivo «%1» no contiene ajustes</translation>
     </message>
     <message>
-        <source>Cannot read the file &quot;%1&quot;: %2</source>
-        <translation>No se puede leer el archivo «%1»: %2</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; is not a regular file</source>
         <translation>«%1» no es un archivo normal</translation>
     </message>
@@ -4277,13 +4273,6 @@ Error: %2</translation>
     <message>
         <source>&apos;%1&apos; is not one of the properties %2</source>
         <translation>«%1» no es ninguna de las propiedades %2</translation>
-    </message>
-</context>
-<context>
-    <name>MRVTextPresetMgr</name>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>no se puede escribir %1</translation>
     </message>
 </context>
 <context>

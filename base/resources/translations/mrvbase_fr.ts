@@ -2698,10 +2698,6 @@ Erreur&#xa0;: %2</translation>
         <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages</translation>
     </message>
     <message>
-        <source>Cannot read the file &quot;%1&quot;: %2</source>
-        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; is not a regular file</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un fichier ordinaire</translation>
     </message>
@@ -4277,13 +4273,6 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>&apos;%1&apos; is not one of the properties %2</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas l’une des propriétés %2</translation>
-    </message>
-</context>
-<context>
-    <name>MRVTextPresetMgr</name>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>impossible d’écrire %1</translation>
     </message>
 </context>
 <context>
