@@ -1,7 +1,13 @@
 #include "novel.h"
 #include "settings/mrvsettings.h"
 
+#include <QFile>
 #include <QTemporaryDir>
+
+#include <algorithm>
+#include <random>
+
+#include <unistd.h>
 
 namespace {
 
@@ -102,10 +108,16 @@ static void value(benchmark::State &state)
 }
 BENCHMARK(value)->ArgName("stored")->Arg(1)->Arg(0)->Iterations(5);
 
-// A save that is checked against one that is not.
+// A change and its saving, among settings of a size, against QSettings and a sync of its file, since
+// the store's file is synced, too.
 static void save(benchmark::State &state)
 {
     Stores stores;
+    QByteArray picture(int(state.range(0)), '\0');
+    std::mt19937 random(1);
+    std::generate(picture.begin(), picture.end(), [&random] { return char(random()); });
+    stores.ours.setValue(QStringLiteral("Picture/bytes"), picture);
+    stores.bare.setValue(QStringLiteral("Picture/bytes"), picture);
     int round = 0;
     compare(
         state,
@@ -116,6 +128,9 @@ static void save(benchmark::State &state)
         [&] {
             stores.bare.setValue(key(0), ++round);
             stores.bare.sync();
+            QFile file(stores.bare.fileName());
+            file.open(QIODevice::ReadWrite);
+            ::fsync(file.handle());
         });
 }
-BENCHMARK(save)->Iterations(5);
+BENCHMARK(save)->ArgName("bytes")->Arg(0)->Arg(500000)->Arg(2000000)->Iterations(5);

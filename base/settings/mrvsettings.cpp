@@ -30,12 +30,6 @@ bool isEmpty(const QVariant &value)
         || (value.userType() == QMetaType::QString && value.toString().isEmpty());
 }
 
-// Not a member, which the compiler could not inline in a shared library.
-QVariant stored(const MRVSettings &settings, const QString &key)
-{
-    return key.isEmpty() ? QVariant() : settings.value(key);
-}
-
 int toInt(const QVariant &value, bool *ok)
 {
     *ok = value.isValid();
@@ -224,34 +218,34 @@ void MRVSettings::setGroup(const QString &group)
 bool MRVSettings::value(FlagSetting setting) const
 {
     bool ok = false;
-    const bool flag = mrvToFlag(stored(*this, keyText(setting)), &ok);
+    const bool flag = mrvToFlag(stored(keyText(setting)), &ok);
     return ok ? flag : defaultValue(setting);
 }
 
 int MRVSettings::value(IntSetting setting) const
 {
     bool ok = false;
-    const int number = toInt(stored(*this, keyText(setting)), &ok);
+    const int number = toInt(stored(keyText(setting)), &ok);
     return ok ? number : defaultValue(setting);
 }
 
 qreal MRVSettings::value(RealSetting setting) const
 {
     bool ok = false;
-    const qreal number = stored(*this, keyText(setting)).toReal(&ok);
+    const qreal number = stored(keyText(setting)).toReal(&ok);
     return ok && qIsFinite(number) ? number : defaultValue(setting);
 }
 
 QString MRVSettings::value(StringSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     return value.isValid() ? mrvToText(value) : defaultValue(setting);
 }
 
 QStringList MRVSettings::value(StringListSetting setting) const
 {
     const QString key = keyText(setting);
-    const QVariant value = stored(*this, key);
+    const QVariant value = stored(key);
     // A file returns an empty list as an invalid value under an existing key.
     const bool isMissing = !value.isValid() && (key.isEmpty() || !contains(key));
     return isMissing ? defaultValue(setting) : value.toStringList();
@@ -259,7 +253,7 @@ QStringList MRVSettings::value(StringListSetting setting) const
 
 QColor MRVSettings::value(ColorSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     const QColor color = value.value<QColor>();
     // An invalid colour may have been set, but a text that names no colour has not.
     return color.isValid() || value.userType() == QMetaType::QColor ? color : defaultValue(setting);
@@ -267,7 +261,7 @@ QColor MRVSettings::value(ColorSetting setting) const
 
 QDateTime MRVSettings::value(DateTimeSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     const QDateTime time = value.toDateTime();
     return time.isValid() || value.userType() == QMetaType::QDateTime ? time
                                                                       : defaultValue(setting);
@@ -275,7 +269,7 @@ QDateTime MRVSettings::value(DateTimeSetting setting) const
 
 QFont MRVSettings::value(FontSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     QFont font;
     return !isEmpty(value) && font.fromString(fontDescription(value)) ? font
                                                                       : defaultValue(setting);
@@ -283,13 +277,13 @@ QFont MRVSettings::value(FontSetting setting) const
 
 QList<int> MRVSettings::value(IntListSetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     return value.isValid() ? toIntList(value.toString()) : defaultValue(setting);
 }
 
 QByteArray MRVSettings::value(ByteArraySetting setting) const
 {
-    const QVariant value = stored(*this, keyText(setting));
+    const QVariant value = stored(keyText(setting));
     return value.isValid() && !mrvIsList(value) ? value.toByteArray() : defaultValue(setting);
 }
 
@@ -402,13 +396,13 @@ void MRVSettings::resetToDefaults()
 QTextCharFormat MRVSettings::textCharFormat(const QString &key, const QTextCharFormat &def) const
 {
     QTextCharFormat format;
-    return readFormat(stored(*this, key).toByteArray(), &format) ? applyFontHinting(format) : def;
+    return readFormat(stored(key).toByteArray(), &format) ? applyFontHinting(format) : def;
 }
 
 QTextBlockFormat MRVSettings::textBlockFormat(const QString &key, const QTextBlockFormat &def) const
 {
     QTextBlockFormat format;
-    return readFormat(stored(*this, key).toByteArray(), &format) ? format : def;
+    return readFormat(stored(key).toByteArray(), &format) ? format : def;
 }
 
 QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) const
@@ -419,7 +413,7 @@ QTextCharFormat MRVSettings::applyFontHinting(const QTextCharFormat &format) con
 MRVShortcutScheme MRVSettings::shortcutScheme(const QString &key,
                                               const MRVShortcutScheme &def) const
 {
-    const auto scheme = MRVShortcutScheme::fromByteArray(stored(*this, key).toByteArray());
+    const auto scheme = MRVShortcutScheme::fromByteArray(stored(key).toByteArray());
     if (scheme.isValid()) {
         return scheme;
     }
@@ -434,7 +428,7 @@ bool MRVSettings::setShortcutScheme(const QString &key, const MRVShortcutScheme 
 MRVTextPresetScheme MRVSettings::textPresets(const QString &key,
                                              const MRVTextPresetScheme &def) const
 {
-    const QByteArray bytes = stored(*this, key).toByteArray();
+    const QByteArray bytes = stored(key).toByteArray();
     QString error;
     const MRVTextPresetScheme scheme = MRVTextPresetScheme::fromByteArray(bytes, &error);
     const bool isDamaged = !error.isEmpty();

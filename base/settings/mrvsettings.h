@@ -363,6 +363,13 @@ private:
 
     MRVSettings(const QString &fileName, const std::shared_ptr<MRVSettingsStorage> &storage,
                 Format format, QObject *parent);
+    /** value() of one look-up; invalid for an empty key. */
+    QVariant stored(const QString &key) const
+    {
+        return key.isEmpty()        ? QVariant()
+            : m_fallbacks.isEmpty() ? QSettings::value(key)
+                                    : value(key);
+    }
     bool isOpenGroup() const;
     void recordChange(const QString &key);
     void recordForeignChanges(const QStringList &keys);

@@ -266,18 +266,10 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
 
 void MRVSettings::loadFromFile(const QString &fileName)
 {
-    MRVSettingsMap all;
-    const QString path = MRVSettingsStorage::realPath(fileName);
-    if (path == m_storage->path()) {
-        saveNow();
-        all = m_storage->values();
-    } else {
-        MRVSettingsFile file(path);
-        QString error;
-        file.read(&error);
-        all = file.text().values;
-    }
-    const MRVSettingsMap values = valuesBelow(all, prefixOf(group()));
+    // The file may be this store's own, or one that is open and has been read before.
+    const auto storage = MRVSettingsStorage::of(QFileInfo(fileName).absoluteFilePath());
+    storage == m_storage ? saveNow() : storage->read(nullptr);
+    const MRVSettingsMap values = valuesBelow(storage->values(), prefixOf(group()));
     remove(QString());
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         setValue(it.key(), it.value());
