@@ -108,8 +108,8 @@ static void value(benchmark::State &state)
 }
 BENCHMARK(value)->ArgName("stored")->Arg(1)->Arg(0)->Iterations(5);
 
-// A change and its saving, among settings of a size, against QSettings and a sync of its file, since
-// the store's file is synced, too.
+// A change and its saving, among settings of a size, against QSettings and a sync of its file,
+// since the store's file is synced, too.
 static void save(benchmark::State &state)
 {
     Stores stores;
