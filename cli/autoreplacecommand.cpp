@@ -1,6 +1,7 @@
 #include "inputs.h"
 #include "settingsfile.h"
 
+#include "autoreplace/mrvautoreplaceeditor.h"
 #include "autoreplace/mrvtyping.h"
 #include "options/mrvoptions.h"
 
@@ -97,87 +98,30 @@ int store(const Call &call, MRVOptions *options, const MRVAutoReplaceList &list,
     return Done;
 }
 
-QString enabledAlready(const QString &match)
+// Makes one change and stores the list.
+template<bool (*Change)(const Call &call, MRVAutoReplaceEditor *editor, QString *error)>
+int edit(const Call &call, MRVOptions *options)
 {
-    return QStringLiteral("an entry for %1 is enabled already; disable or remove it first")
-        .arg(quoted(match));
+    QString error;
+    MRVAutoReplaceEditor editor(options->autoReplaceList());
+    return Change(call, &editor, &error) ? store(call, options, editor.list(), editor.changed())
+                                         : refuse(error);
 }
 
-int add(const Call &call, MRVOptions *options)
+bool add(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
 {
-    const MRVAutoReplace entry{!call.has("disabled"), call.arguments.at(0), call.arguments.at(1)};
-    if (entry.match.contains(u'\n') || entry.match.contains(QChar::ParagraphSeparator)) {
-        return usageError(QStringLiteral("a match cannot go over the end of a paragraph"));
-    }
-    MRVAutoReplaceList list = options->autoReplaceList();
-    if (list.containsReplacement(entry.match, entry.replacement)) {
-        return refuse(
-            QStringLiteral("%1 -> %2 is in the list already; it can be enabled or disabled")
-                .arg(quoted(entry.match), quoted(entry.replacement)));
-    }
-    if (entry.enabled && list.containsEnabled(entry.match)) {
-        return refuse(enabledAlready(entry.match));
-    }
-    list.append(entry);
-    return store(call, options, list, {entry});
+    return editor->add({!call.has("disabled"), call.arguments.at(0), call.arguments.at(1)}, error);
 }
 
-bool isOrdinal(const MRVAutoReplace &entry)
+bool remove(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
 {
-    return MRVAutoReplace::ordinals().containsReplacement(entry.match, entry.replacement);
+    return editor->remove(call.arguments.at(0), call.arguments.value(1), error);
 }
 
-int remove(const Call &call, MRVOptions *options)
+template<bool isEnabled>
+bool setEnabled(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
 {
-    MRVAutoReplaceList list = options->autoReplaceList();
-    const QVector<int> entries = list.indexesOf(call.arguments.at(0), call.arguments.value(1));
-    if (entries.isEmpty()) {
-        return refuse(QStringLiteral("no such entry: %1").arg(quoted(call.arguments.join(u' '))));
-    }
-    MRVAutoReplaceList removed;
-    for (int i = entries.size() - 1; i >= 0; --i) {
-        if (isOrdinal(list.at(entries.at(i)))) {
-            return refuse(QStringLiteral("ordinals stay in each list; disable %1 instead")
-                              .arg(quoted(call.arguments.at(0))));
-        }
-        removed.prepend(list.takeAt(entries.at(i)));
-    }
-    return store(call, options, list, removed);
-}
-
-int setEnabled(const Call &call, MRVOptions *options, bool enabled)
-{
-    MRVAutoReplaceList list = options->autoReplaceList();
-    const QVector<int> entries = list.indexesOf(call.arguments.at(0), call.arguments.value(1));
-    if (entries.isEmpty()) {
-        return refuse(QStringLiteral("no such entry: %1").arg(quoted(call.arguments.join(u' '))));
-    }
-    if (enabled && entries.size() > 1) {
-        return refuse(
-            QStringLiteral("%1 entries have the match %2, and only one can apply; add its "
-                           "replacement")
-                .arg(QString::number(entries.size()), quoted(call.arguments.at(0))));
-    }
-    if (enabled && !list.at(entries.constFirst()).enabled
-        && list.containsEnabled(call.arguments.at(0))) {
-        return refuse(enabledAlready(call.arguments.at(0)));
-    }
-    MRVAutoReplaceList changed;
-    for (const int i : entries) {
-        list[i].enabled = enabled;
-        changed.append(list.at(i));
-    }
-    return store(call, options, list, changed);
-}
-
-int enable(const Call &call, MRVOptions *options)
-{
-    return setEnabled(call, options, true);
-}
-
-int disable(const Call &call, MRVOptions *options)
-{
-    return setEnabled(call, options, false);
+    return editor->setEnabled(call.arguments.at(0), call.arguments.value(1), isEnabled, error);
 }
 
 int reset(const Call &call, MRVOptions *options)
@@ -214,10 +158,12 @@ constexpr Verb verbs[] = {
      "printed as PATH:LINE:COLUMN: MATCH -> REPLACEMENT. A line is a paragraph; columns count "
      "UTF-16 units from 1 in the text as it was given."},
     {"list", "", "print the entries in their order, on or off", onList<Access::Read, list>},
-    {"add", "MATCH REPLACEMENT", "append an entry", onList<Access::Create, add>},
-    {"remove", "MATCH [REPLACEMENT]", "remove entries", onList<Access::Create, remove>},
-    {"enable", "MATCH [REPLACEMENT]", "enable an entry", onList<Access::Create, enable>},
-    {"disable", "MATCH [REPLACEMENT]", "disable entries", onList<Access::Create, disable>},
+    {"add", "MATCH REPLACEMENT", "append an entry", onList<Access::Create, edit<add>>},
+    {"remove", "MATCH [REPLACEMENT]", "remove entries", onList<Access::Create, edit<remove>>},
+    {"enable", "MATCH [REPLACEMENT]", "enable an entry",
+     onList<Access::Create, edit<setEnabled<true>>>},
+    {"disable", "MATCH [REPLACEMENT]", "disable entries",
+     onList<Access::Create, edit<setEnabled<false>>>},
     {"reset", "", "go back to the default list", withSettings<Access::Create, reset>},
 };
 

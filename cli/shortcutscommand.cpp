@@ -1,5 +1,4 @@
 #include "settingsfile.h"
-#include "suggestion.h"
 
 #include "options/mrvoptions.h"
 #include "shortcuts/mrvshortcutcheck.h"
@@ -148,50 +147,18 @@ int exportScheme(const Call &call)
     return written ? Done : refuse(error);
 }
 
-using Keys = QList<QPair<MRVShortcut::Id, QKeySequence>>;
-
-// @return Done, or the code to end with.
-int readCommand(const QString &name, MRVShortcut::Id *id)
+int change(const Call &call, MRVOptions *options, const MRVOptions::ShortcutKeys &keys)
 {
-    *id = MRVShortcut::keyToValue(name.toLatin1().constData());
-    if (MRVShortcut::isValid(*id) && nameOf(*id) == name) {
-        return Done;
+    using Conflicts = MRVOptions::Conflicts;
+    QString error;
+    if (!options->setShortcuts(keys, call.has("force") ? Conflicts::Accept : Conflicts::Refuse,
+                               &error)) {
+        return refuse(error);
     }
-    QStringList names;
-    const auto infos = MRVShortcutScheme::morvane().sortedShortcuts();
-    for (const MRVShortcutInfo &info : infos) {
-        names.append(nameOf(info.id));
+    if (save(options) != Done) {
+        return Failed;
     }
-    return refuse(QStringLiteral("unknown command '%1'").arg(name) + didYouMean(name, names));
-}
-
-int store(MRVOptions *options, const MRVShortcutScheme &scheme)
-{
-    options->setShortcutScheme(options->keyText(MRVOptions::DefaultShortcutScheme), scheme);
-    return save(options);
-}
-
-// Keys that would not work are stored on request only.
-int change(const Call &call, MRVOptions *options, const Keys &keys)
-{
-    QString damage;
-    MRVShortcutScheme scheme = options->shortcutScheme(&damage);
-    if (!damage.isEmpty()) {
-        return refuse(damage + QLatin1String("; it can be reset"));
-    }
-    scheme.mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
-    for (const auto &[id, sequence] : keys) {
-        scheme.setShortcut(id, sequence);
-    }
-    for (const auto &[id, sequence] : keys) {
-        const auto conflicts = MRVShortcutCheck::conflicts(scheme, id, sequence);
-        if (!conflicts.isEmpty() && !call.has("force")) {
-            return refuse(MRVShortcutCheck::describe(conflicts.constFirst(), scheme));
-        }
-    }
-    if (const int code = store(options, scheme); code != Done) {
-        return code;
-    }
+    const MRVShortcutScheme scheme = options->shortcutScheme();
     for (const auto &key : keys) {
         printEntry(call, scheme.shortcutInfo(key.first));
     }
@@ -200,9 +167,10 @@ int change(const Call &call, MRVOptions *options, const Keys &keys)
 
 int set(const Call &call, MRVOptions *options)
 {
-    MRVShortcut::Id id = MRVShortcut::NoId;
-    if (const int code = readCommand(call.arguments.at(0), &id); code != Done) {
-        return code;
+    QString error;
+    const MRVShortcut::Id id = MRVShortcut::idNamed(call.arguments.at(0), &error);
+    if (id == MRVShortcut::NoId) {
+        return refuse(error);
     }
     const QString keys = call.arguments.at(1);
     const QKeySequence sequence = MRVShortcutScheme::toSequence(keys);
@@ -214,11 +182,12 @@ int set(const Call &call, MRVOptions *options)
 
 int reset(const Call &call, MRVOptions *options)
 {
-    Keys keys;
+    MRVOptions::ShortcutKeys keys;
     for (const QString &name : call.arguments) {
-        MRVShortcut::Id id = MRVShortcut::NoId;
-        if (const int code = readCommand(name, &id); code != Done) {
-            return code;
+        QString error;
+        const MRVShortcut::Id id = MRVShortcut::idNamed(name, &error);
+        if (id == MRVShortcut::NoId) {
+            return refuse(error);
         }
         keys.append({id, MRVShortcutScheme::morvane().shortcut(id)});
     }
@@ -233,7 +202,11 @@ int importScheme(const Call &call, MRVOptions *options)
 {
     QString error;
     const auto scheme = MRVShortcutScheme::loadNamed(call.arguments.constFirst(), &error);
-    return error.isEmpty() ? store(options, scheme) : refuse(error);
+    if (!error.isEmpty()) {
+        return refuse(error);
+    }
+    options->setShortcutScheme(options->keyText(MRVOptions::DefaultShortcutScheme), scheme);
+    return save(options);
 }
 
 constexpr Verb verbs[] = {

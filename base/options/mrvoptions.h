@@ -384,7 +384,7 @@ public:
     {
         enum Kind : int {
             UnknownKey = 0, ///< no setting has the key
-            OutOfLimits = 1, ///< read as the nearest limit, or by typed readers as the default
+            OutOfLimits = 1, ///< see value(); a text that is not one of the words reads as it is
             Unreadable = 2, ///< not a value of the type: read as the default
         };
 
@@ -479,11 +479,13 @@ public:
 
     using MRVSettings::value;
     /**
-     * As that of the base class, but never outside of the setting's limits: a stored number beyond
-     * them reads as the nearest one. The stored value stays; see Explanation::problem.
+     * As those of the base class, but never outside of the setting's limits: a stored number beyond
+     * them reads as the nearest one, and a fully transparent colour of text as the default. The
+     * stored value stays; see Explanation::problem.
      */
     int value(IntSetting setting) const;
     qreal value(RealSetting setting) const;
+    QColor value(ColorSetting setting) const;
 
     /**
      * @name Texts of settings
@@ -617,6 +619,20 @@ public:
      */
     MRVShortcutScheme shortcutScheme(QString *error = nullptr) const;
 
+    /** The keys that are to be given to commands; an empty sequence is no key. */
+    using ShortcutKeys = QList<QPair<MRVShortcut::Id, QKeySequence>>;
+    /** What setShortcuts() does with keys that would not work; see MRVShortcutCheck. */
+    enum class Conflicts { Refuse, Accept };
+    /**
+     * Gives commands other keys in the stored scheme, which gets an entry for every command.
+     *
+     * @param keys      all are set, or none.
+     * @param conflicts whether MRVShortcutCheck::conflicts() matter, with all @p keys set.
+     * @param error     if given, receives one translated line on failure; untouched on success.
+     * @return false also where the stored scheme is damaged, so that nothing of it is lost.
+     */
+    bool setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, QString *error = nullptr);
+
     /** The codec that texts are imported with: a name that QTextCodec knows, "UTF-8" by default. */
     QByteArray defaultTextEncoding() const;
     bool setDefaultTextEncoding(const QByteArray &codec);
@@ -698,8 +714,8 @@ public:
      * Puts what another store has in place of all that this one has, and emits settingsReset().
      * Nothing is changed where there is no value to be taken.
      *
-     * @return the values that were left out: the problems of @p source; with Import::All, only those
-     * that cannot be decoded at all.
+     * @return the values that were left out: the problems of @p source; with Import::All, only
+     * those that cannot be decoded at all.
      */
     QList<Problem> importFrom(const MRVOptions &source, Import which);
 

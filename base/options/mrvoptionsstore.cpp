@@ -151,6 +151,14 @@ qreal MRVOptions::value(RealSetting setting) const
     return row ? qBound(row->value.least, number, row->value.most) : number;
 }
 
+QColor MRVOptions::value(ColorSetting setting) const
+{
+    const ColorRow *row = rowOf(setting);
+    const QColor color = MRVSettings::value(setting);
+    const bool isInvisible = color.isValid() && color.alpha() == 0;
+    return row && row->value.isRead && isInvisible ? defaultValue(setting) : color;
+}
+
 // clang-format off
 QString MRVOptions::keyText(FlagSetting setting) const { return keyOf(setting); }
 QString MRVOptions::keyText(IntSetting setting) const { return keyOf(setting); }

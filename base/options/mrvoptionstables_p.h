@@ -78,6 +78,7 @@ struct ColorDefault
 {
     QRgb color;
     MRVSettings::ColorSettingGroup group; // within which the label is unique
+    bool isRead = false; // colours text; others may be left out by making them transparent
 };
 
 struct BytesDefault

@@ -140,38 +140,10 @@ Stored parse(const StringListRow &, const QString &text, QString *)
     return QVariant(text.split(u'\n', Qt::SkipEmptyParts));
 }
 
-// What has to be read; other colours may be left out by making them transparent.
-bool isTextColor(MRVSettings::ColorSetting setting)
-{
-    switch (setting) {
-    case MRVOptions::TextColor:
-    case MRVOptions::LinksColor:
-    case MRVOptions::VisitedLinksColor:
-    case MRVOptions::HighlightTextColor:
-    case MRVOptions::AnnotationColor:
-    case MRVOptions::FootnotesTextColor:
-    case MRVOptions::FindTextColor:
-    case MRVOptions::FullScreenTextColor:
-    case MRVOptions::FullScreenLinksColor:
-    case MRVOptions::FullScreenVisitedLinksColor:
-    case MRVOptions::FullScreenHighlightTextColor:
-    case MRVOptions::FullScreenFindTextColor:
-    case MRVOptions::FirstRevisionColor:
-    case MRVOptions::SecondRevisionColor:
-    case MRVOptions::ThirdRevisionColor:
-    case MRVOptions::FourthRevisionColor:
-    case MRVOptions::FifthRevisionColor:
-    case MRVOptions::ScratchPadTextColor:
-        return true;
-    default:
-        return false;
-    }
-}
-
 Stored parse(const ColorRow &row, const QString &text, QString *error)
 {
     const QColor color(text);
-    if (color.isValid() && color.alpha() == 0 && isTextColor(row.setting)) {
+    if (color.isValid() && color.alpha() == 0 && row.value.isRead) {
         return refuse(error, MRVOptions::tr("'%1' is fully transparent").arg(text));
     }
     if (color.isValid()) {

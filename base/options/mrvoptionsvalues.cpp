@@ -1,6 +1,8 @@
 #include "options/mrvoptionstables_p.h"
 
+#include "shortcuts/mrvshortcutcheck.h"
 #include "shortcuts/mrvshortcutscheme.h"
+#include "util/mrvfailure.h"
 
 #include "settings/mrvsettingsvalue.h"
 
@@ -216,6 +218,27 @@ MRVShortcutScheme MRVOptions::shortcutScheme(QString *error) const
         *error = tr("the shortcut scheme in %1: %2").arg(fileName(), reason);
     }
     return scheme;
+}
+
+bool MRVOptions::setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, QString *error)
+{
+    QString damage;
+    MRVShortcutScheme scheme = shortcutScheme(&damage);
+    if (!damage.isEmpty()) {
+        return MRV::fail(error, tr("%1; it can be reset").arg(damage));
+    }
+    scheme.mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
+    for (const auto &[id, sequence] : keys) {
+        scheme.setShortcut(id, sequence);
+    }
+    for (const auto &[id, sequence] : keys) {
+        const auto found = MRVShortcutCheck::conflicts(scheme, id, sequence);
+        if (conflicts == Conflicts::Refuse && !found.isEmpty()) {
+            return MRV::fail(error, MRVShortcutCheck::describe(found.constFirst(), scheme));
+        }
+    }
+    return setShortcutScheme(keyText(DefaultShortcutScheme), scheme)
+        || MRV::fail(error, tr("%1 cannot be written").arg(fileName()));
 }
 
 bool MRVOptions::setAutoReplaceList(const MRVAutoReplaceList &list)

@@ -1,5 +1,10 @@
 #include "shortcuts/mrvshortcut.h"
 
+#include "util/mrvclosestmatch.h"
+#include "util/mrvfailure.h"
+
+#include <QStringList>
+
 QMetaEnum MRVShortcut::metaEnumId()
 {
     static const QMetaEnum metaEnum = QMetaEnum::fromType<Id>();
@@ -9,6 +14,22 @@ QMetaEnum MRVShortcut::metaEnumId()
 MRVShortcut::Id MRVShortcut::keyToValue(const char *key)
 {
     return Id(metaEnumId().keyToValue(key));
+}
+
+MRVShortcut::Id MRVShortcut::idNamed(const QString &name, QString *error)
+{
+    QStringList names;
+    for (int i = NoId + 1; i <= FullScreenGoTo; ++i) {
+        names.append(QString::fromLatin1(valueToKey(Id(i))));
+        if (names.constLast() == name) {
+            return Id(i);
+        }
+    }
+    const QString meant = MRV::closestMatch(name, names);
+    MRV::fail(error,
+              meant.isNull() ? tr("unknown command '%1'").arg(name)
+                             : tr("unknown command '%1'; did you mean '%2'?").arg(name, meant));
+    return NoId;
 }
 
 const char *MRVShortcut::valueToKey(Id id)

@@ -210,6 +210,15 @@ public:
     /** The identifier called @p key; Id(-1) for null, an empty and an unknown name. */
     static Id keyToValue(const char *key);
 
+    /**
+     * The command that a user names as the enumerator is called, in the same case.
+     *
+     * @param error if given, receives a translated line that tells a similar name when there is no
+     *              such command; untouched otherwise.
+     * @return NoId for an unknown name.
+     */
+    static Id idNamed(const QString &name, QString *error = nullptr);
+
     /** The name of @p id, also of NoId; null outside the enumeration. */
     static const char *valueToKey(Id id);
 

@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>MRVAutoReplaceEditor</name>
+    <message>
+        <source>a match cannot go over the end of a paragraph</source>
+        <translation>ein Suchtext kann nicht über das Ende eines Absatzes gehen</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2” is in the list already; it can be enabled or disabled</source>
+        <translation>„%1“ -&gt; „%2“ steht schon in der Liste; der Eintrag lässt sich ein- oder ausschalten</translation>
+    </message>
+    <message>
+        <source>ordinals stay in each list; disable “%1” instead</source>
+        <translation>Ordnungszahlen bleiben in jeder Liste; stattdessen lässt sich „%1“ ausschalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries have the match “%1”, and only one can apply; add its replacement</source>
+        <translation>
+            <numerusform>%n Eintrag hat den Suchtext „%1“, und nur einer kann gelten; die Ersetzung muss mit angegeben werden</numerusform>
+            <numerusform>%n Einträge haben den Suchtext „%1“, und nur einer kann gelten; die Ersetzung muss mit angegeben werden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no such entry: “%1”</source>
+        <translation>kein solcher Eintrag: „%1“</translation>
+    </message>
+    <message>
+        <source>no such entry: “%1” -&gt; “%2”</source>
+        <translation>kein solcher Eintrag: „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>an entry for “%1” is enabled already; disable or remove it first</source>
+        <translation>ein Eintrag für „%1“ ist schon eingeschaltet; er muss zuerst ausgeschaltet oder entfernt werden</translation>
+    </message>
+</context>
+<context>
     <name>MRVAutoReplaceList</name>
     <message>
         <source>it is not an auto-replace list of a known version</source>
@@ -2492,6 +2526,10 @@ Fehler: %2</translation>
         <source>the value is damaged</source>
         <translation>der Wert ist beschädigt</translation>
     </message>
+    <message>
+        <source>%1; it can be reset</source>
+        <translation>%1; es lässt sich zurücksetzen</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -4083,6 +4121,14 @@ Fehler: %2</translation>
     <message>
         <source>Ctrl+G,Ctrl+G</source>
         <translation>Ctrl+G,Ctrl+G</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>unbekannter Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;; did you mean &apos;%2&apos;?</source>
+        <translation>unbekannter Befehl „%1“; meinten Sie „%2“?</translation>
     </message>
 </context>
 <context>

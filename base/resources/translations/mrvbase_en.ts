@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>MRVAutoReplaceEditor</name>
+    <message numerus="yes">
+        <source>%n entries have the match “%1”, and only one can apply; add its replacement</source>
+        <translation>
+            <numerusform>%n entry has the match “%1”, and only one can apply; add its replacement</numerusform>
+            <numerusform>%n entries have the match “%1”, and only one can apply; add its replacement</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MRVAutoReplaceList</name>
     <message numerus="yes">
         <source>it is damaged or truncated; entries that could be read: %n</source>

@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>MRVAutoReplaceEditor</name>
+    <message>
+        <source>a match cannot go over the end of a paragraph</source>
+        <translation>un texto que se sustituye no puede pasar del final de un párrafo</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2” is in the list already; it can be enabled or disabled</source>
+        <translation>«%1» -&gt; «%2» ya está en la lista; se puede activar o desactivar</translation>
+    </message>
+    <message>
+        <source>ordinals stay in each list; disable “%1” instead</source>
+        <translation>los ordinales se quedan en cada lista; en su lugar se puede desactivar «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries have the match “%1”, and only one can apply; add its replacement</source>
+        <translation>
+            <numerusform>%n entrada tiene el texto «%1», y solo una puede aplicarse; hay que indicar también la sustitución</numerusform>
+            <numerusform>%n entradas tienen el texto «%1», y solo una puede aplicarse; hay que indicar también la sustitución</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no such entry: “%1”</source>
+        <translation>no existe la entrada «%1»</translation>
+    </message>
+    <message>
+        <source>no such entry: “%1” -&gt; “%2”</source>
+        <translation>no existe la entrada «%1» -&gt; «%2»</translation>
+    </message>
+    <message>
+        <source>an entry for “%1” is enabled already; disable or remove it first</source>
+        <translation>ya hay una entrada activada para «%1»; primero hay que desactivarla o quitarla</translation>
+    </message>
+</context>
+<context>
     <name>MRVAutoReplaceList</name>
     <message>
         <source>it is not an auto-replace list of a known version</source>
@@ -2492,6 +2526,10 @@ Error: %2</translation>
         <source>the value is damaged</source>
         <translation>el valor está dañado</translation>
     </message>
+    <message>
+        <source>%1; it can be reset</source>
+        <translation>%1; se puede restablecer</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -4083,6 +4121,14 @@ Error: %2</translation>
     <message>
         <source>Ctrl+G,Ctrl+G</source>
         <translation>Ctrl+G,Ctrl+G</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>orden desconocida «%1»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;; did you mean &apos;%2&apos;?</source>
+        <translation>orden desconocida «%1»; ¿quería decir «%2»?</translation>
     </message>
 </context>
 <context>

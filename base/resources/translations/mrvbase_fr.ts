@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>MRVAutoReplaceEditor</name>
+    <message>
+        <source>a match cannot go over the end of a paragraph</source>
+        <translation>un texte à remplacer ne peut pas dépasser la fin d’un paragraphe</translation>
+    </message>
+    <message>
+        <source>“%1” -&gt; “%2” is in the list already; it can be enabled or disabled</source>
+        <translation>«&#xa0;%1&#xa0;» -&gt; «&#xa0;%2&#xa0;» est déjà dans la liste&#xa0;; on peut l’activer ou le désactiver</translation>
+    </message>
+    <message>
+        <source>ordinals stay in each list; disable “%1” instead</source>
+        <translation>les ordinaux restent dans chaque liste&#xa0;; on peut désactiver «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries have the match “%1”, and only one can apply; add its replacement</source>
+        <translation>
+            <numerusform>%n entrée a pour texte «&#xa0;%1&#xa0;», et une seule peut s’appliquer&#xa0;; il faut indiquer aussi son remplacement</numerusform>
+            <numerusform>%n entrées ont pour texte «&#xa0;%1&#xa0;», et une seule peut s’appliquer&#xa0;; il faut indiquer aussi le remplacement</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no such entry: “%1”</source>
+        <translation>aucune entrée de ce genre&#xa0;: «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>no such entry: “%1” -&gt; “%2”</source>
+        <translation>aucune entrée de ce genre&#xa0;: «&#xa0;%1&#xa0;» -&gt; «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>an entry for “%1” is enabled already; disable or remove it first</source>
+        <translation>une entrée pour «&#xa0;%1&#xa0;» est déjà activée&#xa0;; il faut d’abord la désactiver ou la supprimer</translation>
+    </message>
+</context>
+<context>
     <name>MRVAutoReplaceList</name>
     <message>
         <source>it is not an auto-replace list of a known version</source>
@@ -2492,6 +2526,10 @@ Erreur&#xa0;: %2</translation>
         <source>the value is damaged</source>
         <translation>la valeur est endommagée</translation>
     </message>
+    <message>
+        <source>%1; it can be reset</source>
+        <translation>%1&#xa0;; il est possible de le réinitialiser</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -4083,6 +4121,14 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>Ctrl+G,Ctrl+G</source>
         <translation>Ctrl+G,Ctrl+G</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <translation>commande inconnue «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;; did you mean &apos;%2&apos;?</source>
+        <translation>commande inconnue «&#xa0;%1&#xa0;»&#xa0;; vouliez-vous dire «&#xa0;%2&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
