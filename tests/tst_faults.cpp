@@ -166,8 +166,9 @@ private:
                 return it.key() + (found.contains(it.key()) ? " differs" : " is missing");
             }
         }
+        // A hidden folder that could not be removed loses nothing.
         for (const QString &name : found.keys()) {
-            if (!before.contains(name) && !after.contains(name)) {
+            if (!before.contains(name) && !after.contains(name) && !name.startsWith('.')) {
                 return name + " is left";
             }
         }
