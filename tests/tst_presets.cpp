@@ -158,6 +158,19 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(path + '~'), damaged);
         QCOMPARE(bytesOf(path).toHex(), QByteArray("0000000100000000"));
     }
+    // Presets that could not be read when the manager was made are not lost when it saves.
+    void unreadFileIsKept()
+    {
+        const QString path = MRVTextPresetMgr::presetSchemeFilePath();
+        QVERIFY(QDir().mkpath(path));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("it is a folder"));
+        MRVTextPresetMgr manager;
+        QVERIFY(QDir().rmdir(path));
+        QVERIFY(writeBytes(path, sampleBytes()));
+        manager.setPresetScheme(Scheme::defaultScheme());
+        QCOMPARE(bytesOf(path + '~'), sampleBytes());
+        QVERIFY(MRVTextPresetMgr::loadPresetScheme() == Scheme::defaultScheme());
+    }
     void tool()
     {
         QVERIFY(writeBytes(in("two"), sampleBytes()));

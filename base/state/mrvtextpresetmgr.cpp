@@ -17,7 +17,7 @@ Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
 Q_GLOBAL_STATIC(MRVTextPresetMgr, theManager)
 
 // A file that cannot be read to its end holds presets that the next save would destroy.
-bool keepDamaged(const QString &path, QString *error)
+bool keepDamaged(const QString &path, QString *error, bool isUnknown = false)
 {
     if (MRVCoreUtil::isMissing(path)) {
         return true;
@@ -29,7 +29,8 @@ bool keepDamaged(const QString &path, QString *error)
     }
     QString damage;
     MRVTextPresetScheme::fromByteArray(bytes, &damage);
-    return damage.isEmpty() || MRVCoreUtil::WriteBinaryFile(bytes, path + QLatin1Char('~'), error);
+    return (damage.isEmpty() && !isUnknown)
+        || MRVCoreUtil::WriteBinaryFile(bytes, path + QLatin1Char('~'), error);
 }
 
 } // namespace
@@ -41,7 +42,7 @@ MRVTextPresetMgr *MRVTextPresetMgr::instance()
 
 MRVTextPresetMgr::MRVTextPresetMgr(QObject *parent)
     : QObject(parent)
-    , m_scheme(loadPresetScheme())
+    , m_scheme(load(&m_isUnknown))
 {
 }
 
@@ -50,7 +51,7 @@ MRVTextPresetMgr::~MRVTextPresetMgr() = default;
 void MRVTextPresetMgr::setPresetScheme(const MRVTextPresetScheme &scheme)
 {
     m_scheme = scheme;
-    savePresetScheme(m_scheme);
+    m_isUnknown = !save(m_scheme, m_isUnknown) && m_isUnknown;
     Q_EMIT presetsChanged();
 }
 
@@ -59,7 +60,7 @@ void MRVTextPresetMgr::removePreset(const QString &name)
     if (!m_scheme.deletePreset(name)) {
         return;
     }
-    savePresetScheme(m_scheme);
+    m_isUnknown = !save(m_scheme, m_isUnknown) && m_isUnknown;
     Q_EMIT presetsChanged();
 }
 
@@ -75,18 +76,30 @@ QString MRVTextPresetMgr::presetSchemeFilePath()
 
 void MRVTextPresetMgr::savePresetScheme(const MRVTextPresetScheme &scheme)
 {
+    save(scheme, false);
+}
+
+bool MRVTextPresetMgr::save(const MRVTextPresetScheme &scheme, bool isUnknown)
+{
     const QByteArray bytes = MRVTextPresetScheme::toByteArray(scheme);
     const QString path = presetSchemeFilePath();
     QString error;
-    if (!path.isEmpty() && keepDamaged(path, &error)
+    if (!path.isEmpty() && keepDamaged(path, &error, isUnknown)
         && MRVCoreUtil::WriteBinaryFile(bytes, path, &error)) {
-        return;
+        return true;
     }
     qCWarning(lcSettings, "The text presets go to the settings: %s", qPrintable(error));
     mrvOptions()->setValue(MRVOptions::TextPresets, bytes);
+    return false;
 }
 
 MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
+{
+    bool isUnknown = false;
+    return load(&isUnknown);
+}
+
+MRVTextPresetScheme MRVTextPresetMgr::load(bool *isUnknown)
 {
     const QString path = presetSchemeFilePath();
     QString error;
@@ -96,6 +109,7 @@ MRVTextPresetScheme MRVTextPresetMgr::loadPresetScheme()
             return MRVTextPresetScheme::fromByteArray(bytes);
         }
         qCWarning(lcSettings, "%s", qPrintable(error));
+        *isUnknown = true;
     }
     return MRVTextPresetScheme::fromByteArray(mrvOptions()->value(MRVOptions::TextPresets));
 }

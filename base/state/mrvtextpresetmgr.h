@@ -51,7 +51,8 @@ public:
     static QString presetSchemeFilePath();
     /**
      * Saves a scheme to the file or, where that fails, to the setting MRVOptions::TextPresets. A
-     * file that is damaged or of a newer version is first copied to "TextPresets.bin~".
+     * file that is damaged or of a newer version is first copied to "TextPresets.bin~". A manager
+     * does so, too, with a file that it could not read when it was made.
      */
     static void savePresetScheme(const MRVTextPresetScheme &scheme);
     /**
@@ -89,5 +90,10 @@ Q_SIGNALS:
     void presetsChanged();
 
 private:
+    /** @return whether the presets went to the file. */
+    static bool save(const MRVTextPresetScheme &scheme, bool isUnknown);
+    static MRVTextPresetScheme load(bool *isUnknown);
+
+    bool m_isUnknown = false; ///< the file could not be read: a save keeps a copy of it
     MRVTextPresetScheme m_scheme;
 };
