@@ -1,3 +1,5 @@
+#include "manuscript/mrvmanuscriptreader.h"
+#include "manuscript/mrvsourceedit.h"
 #include "novel.h"
 #include "search/mrvtextfinder.h"
 #include "search/mrvtextreplacer.h"
@@ -266,6 +268,35 @@ void replaceAll(benchmark::State &state)
         });
 }
 
+/// Replacing in the source of a page, beside finding the same in it.
+void replaceInSource(benchmark::State &state)
+{
+    const QByteArray html = novelOf(int(state.range(0)))->toHtml().toUtf8();
+    MRVTextQuery query;
+    query.text = QStringLiteral("lamp");
+    MRVManuscriptReader reader;
+    reader.setPurpose(MRVManuscriptReader::Editing);
+    MRVManuscript manuscript;
+    const auto changes = [&] {
+        if (!reader.readBytes(html, QStringLiteral("novel"), QString(), &manuscript)) {
+            std::fprintf(stderr, "%s\n", qPrintable(reader.errorString()));
+            std::exit(1);
+        }
+        return MRVTextReplacer::preview(manuscript.document.get(), query,
+                                        QStringLiteral("lantern"));
+    };
+    compare(
+        state,
+        [&] {
+            QByteArray changed;
+            if (!MRVSourceEdit::changedBytes(manuscript, changes(), MRVSourceEdit::KeepMarkup,
+                                             &changed)) {
+                std::exit(1);
+            }
+        },
+        [&] { changes(); });
+}
+
 const std::vector<int64_t> sizes{10000, 100000, 1000000};
 
 } // namespace
@@ -281,4 +312,5 @@ MRV_SEARCH_BENCHMARK(findAllInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(loopInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(collectRuns)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(loopOfFragmentFinds)->ArgsProduct({sizes});
+MRV_SEARCH_BENCHMARK(replaceInSource)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(replaceAll)->ArgsProduct({sizes, {0}})->Args({100000, 1});
