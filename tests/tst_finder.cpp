@@ -55,7 +55,7 @@ void fill(QTextDocument *document, const QString &text, const QTextCharFormat &b
     }
 }
 
-/// Paragraphs, tables in tables with merged cells, and frames, each piece of text in one of formats.
+/// Paragraphs, tables in tables with merged cells, and frames; each text in one of the formats.
 void fillAtRandom(QTextDocument *document, QRandomGenerator *random,
                   const QVector<QTextCharFormat> &formats)
 {

@@ -41,8 +41,7 @@ class Aligner
 {
 public:
     Aligner(const QString &xml, const QDomDocument &document, MRVDomPieces *pieces)
-        : m_xml(xml)
-        , m_tokens(xml)
+        : m_tokens(xml)
         , m_next(withoutType(document.firstChild()))
         , m_pieces(pieces)
     {
@@ -151,7 +150,6 @@ private:
         return true;
     }
 
-    const QString &m_xml;
     MRVXmlTokens m_tokens;
     QDomNode m_next; // what the next token stands for
     MRVDomPieces *m_pieces;

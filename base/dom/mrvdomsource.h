@@ -18,6 +18,9 @@ class MRVDomDoc;
  * ends and comments. A new element is laid out as its neighbours are.
  *
  * @code
+ * const QString path = QStringLiteral("config.xml");
+ * QString unreadable;
+ * const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
  * MRVDomDoc config;
  * MRVDomSource source;
  * QByteArray changed;

@@ -1,5 +1,7 @@
 #include "epub/mrvepubwriter_p.h"
 
+#include "textformat/mrvtextformat.h"
+
 #include <QTextDocument>
 #include <QTextList>
 
@@ -93,7 +95,6 @@ bool isSceneBreak(QStringView text)
 }
 
 constexpr int NarrowestFigure = 150; // pixels
-constexpr int FigurePixels = 40; // the margins of a figure, on both sides
 
 } // namespace
 
@@ -107,7 +108,7 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
         const int note = m_notes.beginningAt(i);
         if (frame >= 0 && frame != inside) {
             const int after = m_flow.frames.at(frame).end;
-            const bool hasCaption = after < end && isTableCaption(frame, after);
+            const bool hasCaption = m_caption < 0 && after < end && isTableCaption(frame, after);
             if (!m_notes.isMoved(i) || m_openNote >= 0) {
                 closeContainers(0);
                 m_caption = hasCaption ? after : m_caption;
@@ -535,23 +536,13 @@ bool MRVEPubWriter::isPicture(int paragraph) const
     return hasPicture;
 }
 
-// Whether a paragraph is the caption of what a figure shows, beside which it stands: all of a
-// figure has its margins, and a caption no space between.
+// Whether a paragraph is the caption of what stands from another one on, or up to it.
 bool MRVEPubWriter::isCaption(int paragraph, int shown)
 {
-    const auto formatOf = [this](int index) {
-        return m_flow.formats.at(m_flow.paragraphs.at(index).format).toBlockFormat();
-    };
-    const QTextBlockFormat format = formatOf(paragraph);
-    const double space = paragraph < shown ? format.bottomMargin() : format.topMargin();
-    return isInFigure(format) && isInFigure(formatOf(shown)) && space == 0
+    const QTextFormat format = m_flow.formats.at(m_flow.paragraphs.at(paragraph).format);
+    return format.intProperty(MRVTextFormat::CaptionProperty)
+        == (paragraph < shown ? MRVTextFormat::CaptionOfNext : MRVTextFormat::CaptionOfPrevious)
         && isPlainText(paragraph);
-}
-
-bool MRVEPubWriter::isInFigure(const QTextBlockFormat &format)
-{
-    return format.leftMargin() == FigurePixels && format.rightMargin() == FigurePixels
-        && !format.hasProperty(QTextFormat::BlockQuoteLevel);
 }
 
 bool MRVEPubWriter::isPlainText(int paragraph)
@@ -564,22 +555,12 @@ bool MRVEPubWriter::isPlainText(int paragraph)
         && !isSceneBreak(m_flow.textOf(place));
 }
 
-// Whether a paragraph is the caption of a table, beside which it stands: within a figure, or
-// centered above it without space.
+// Whether a paragraph is the caption of a table, beside which it stands.
 bool MRVEPubWriter::isTableCaption(int frame, int paragraph)
 {
-    if (frame < 0 || !m_flow.frames.at(frame).table || isDeep() || !isPlainText(paragraph)
-        || m_notes.isMoved(m_flow.frames.at(frame).begin)) {
-        return false;
-    }
-    const QTextBlockFormat format =
-        m_flow.formats.at(m_flow.paragraphs.at(paragraph).format).toBlockFormat();
-    if (paragraph >= m_flow.frames.at(frame).end) {
-        return isInFigure(format) && format.topMargin() == 0;
-    }
-    const bool isTitle = format.alignment() & Qt::AlignHCenter && format.topMargin() == 0
-        && !format.hasProperty(QTextFormat::BlockQuoteLevel);
-    return format.bottomMargin() == 0 && (isTitle || isInFigure(format));
+    return frame >= 0 && m_flow.frames.at(frame).table && !isDeep()
+        && isCaption(paragraph, m_flow.frames.at(frame).begin)
+        && !m_notes.isMoved(m_flow.frames.at(frame).begin);
 }
 
 void MRVEPubWriter::writeCaption(int paragraph, QLatin1String tag, QLatin1String end)

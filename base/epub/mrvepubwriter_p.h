@@ -113,7 +113,6 @@ private:
     bool isPicture(int paragraph) const;
     bool isFigure(int paragraph, int end);
     bool isCaption(int paragraph, int shown);
-    static bool isInFigure(const QTextBlockFormat &format);
     bool isPlainText(int paragraph);
     bool isTableCaption(int frame, int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);

@@ -451,12 +451,34 @@ void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &sty
     }
 }
 
+// What the element captions: an MRVTextFormat::Caption; 0 for another element. The caption of a
+// table is written before it.
+int MRVHtmlBuilder::captionOf(const GumboNode *element)
+{
+    if (element->v.element.tag == GUMBO_TAG_CAPTION) {
+        return MRVTextFormat::CaptionOfNext;
+    }
+    if (element->v.element.tag != GUMBO_TAG_FIGCAPTION) {
+        return 0;
+    }
+    for (const GumboNode *child : MRVHtmlChildren(element->parent)) {
+        if (child == element) {
+            break;
+        }
+        if (mrvIsElement(child)) {
+            return MRVTextFormat::CaptionOfPrevious;
+        }
+    }
+    return MRVTextFormat::CaptionOfNext;
+}
+
 MRVHtmlBox MRVHtmlBuilder::boxOf(const GumboNode *element, const MRVHtmlStyle &style)
 {
     const MRVHtmlElement &kind = mrvHtmlElement(element);
     MRVHtmlBox box;
     box.headingLevel = kind.headingLevel;
     box.isQuote = kind.isQuote;
+    box.caption = captionOf(element);
     if (kind.kind == MRVHtmlElement::List) {
         box.list = listOf(element, style);
     } else if (kind.kind == MRVHtmlElement::Item && style.display == MRVHtmlStyle::ListItem) {

@@ -46,6 +46,7 @@ private:
     void readInside(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readPicture(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readInput(const GumboNode *element, const MRVHtmlStyle &style);
+    static int captionOf(const GumboNode *element);
     MRVHtmlBox boxOf(const GumboNode *element, const MRVHtmlStyle &style);
     std::shared_ptr<MRVHtmlList> listOf(const GumboNode *element, const MRVHtmlStyle &style) const;
     void continueList(const GumboNode *item, MRVHtmlBox *box);

@@ -83,6 +83,7 @@ void MRVHtmlWriter::enter(const MRVHtmlStyle &style, const MRVHtmlBox &box)
     inside.right = outside.right + style.margin(MRVHtmlSide::Right);
     inside.top = style.margin(MRVHtmlSide::Top);
     inside.headingLevel = box.headingLevel ? box.headingLevel : outside.headingLevel;
+    inside.caption = box.caption ? box.caption : outside.caption;
     inside.quoteLevel = outside.quoteLevel + (box.isQuote ? 1 : 0);
     inside.listDepth = outside.listDepth + (box.list ? 1 : 0);
     inside.list = box.list ? box.list : outside.list;
@@ -185,6 +186,9 @@ QTextBlockFormat MRVHtmlWriter::paragraphFormat()
     if (box.headingLevel > 0) {
         format.setHeadingLevel(box.headingLevel);
         format.setProperty(MRVTextFormat::HeadingLevelProperty, box.headingLevel);
+    }
+    if (box.caption > 0) {
+        format.setProperty(MRVTextFormat::CaptionProperty, box.caption);
     }
     if (box.quoteLevel > 0) {
         format.setProperty(QTextFormat::BlockQuoteLevel, box.quoteLevel);

@@ -29,6 +29,7 @@ struct MRVHtmlList
 struct MRVHtmlBox
 {
     int headingLevel = 0; ///< 0: none
+    int caption = 0; ///< an MRVTextFormat::Caption; 0: none
     bool isQuote = false;
     bool isItem = false; ///< its first paragraph is an item of the list
     QTextBlockFormat::MarkerType marker = QTextBlockFormat::MarkerType::NoMarker;
@@ -95,6 +96,7 @@ private:
         qreal right = 0;
         qreal top = 0; // what the first paragraph gets
         int headingLevel = 0;
+        int caption = 0;
         int quoteLevel = 0;
         int listDepth = 0;
         QBrush background;

@@ -80,7 +80,7 @@ public:
     const QByteArray &taken() const { return m_taken; }
     /** Whether a type that this process does not know ended the walk. */
     bool isUnknown() const { return m_isUnknown; }
-    /** After a format of which not all was taken: the whole properties, and the bytes after them. */
+    /** Of a format of which not all was taken: the whole properties, and the bytes after them. */
     QByteArray wholeProperties() const;
     MRVVariantGuard::Rest rest() const;
 

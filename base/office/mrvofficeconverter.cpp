@@ -50,7 +50,7 @@ $if(title)$<title>$pagetitle$</title>
 $else$@title@$endif$$if(author-meta)$$for(author-meta)$<meta name="author" content="$author-meta$">
 $endfor$$else$@author@$endif$$if(description-meta)$<meta name="description" content="$description-meta$">
 $else$@description@$endif$$if(date-meta)$<meta name="date" content="$date-meta$">
-$else$@date@$endif$</head>
+$endif$</head>
 <body>
 $if(title)$<p style="text-align: center; font-size: 2em; font-weight: bold">$title$</p>
 $endif$$if(subtitle)$<p style="text-align: center; font-size: 1.5em">$subtitle$</p>
@@ -96,7 +96,6 @@ QByteArray templateFor(const MRVOfficeProperties &properties)
              : QStringLiteral("<title>%1</title>\n").arg(literal(properties.title))},
         {"@author@", authors},
         {"@description@", metaElement("description", properties.description)},
-        {"@date@", metaElement("date", properties.date)},
     };
     QString page;
     QString rest = QLatin1String(pageTemplate);

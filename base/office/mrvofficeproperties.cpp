@@ -25,7 +25,6 @@ MRVOfficeProperties mrvOfficeProperties(const QByteArray &xml)
     properties.title = first("dc:title", "");
     properties.language = first("dc:language", "");
     properties.description = first("dc:description", "");
-    properties.date = first("dcterms:created", "meta:creation-date").section(u'T', 0, 0);
     // An ODT also has who has changed it last.
     const QStringList authors = first("meta:initial-creator", "dc:creator").split(u';');
     for (const QString &author : authors) {

@@ -101,6 +101,14 @@ public:
         ListStartProperty = 0x100102,
         /** bool, of a table cell: it heads a row or a column. */
         HeaderCellProperty = 0x100103,
+        /** Caption, of a paragraph: it is the caption of the picture, table or code beside it. */
+        CaptionProperty = 0x100104,
+    };
+
+    /** Values of CaptionProperty. */
+    enum Caption {
+        CaptionOfNext = 1, ///< of what follows the paragraph
+        CaptionOfPrevious = 2, ///< of what precedes it
     };
 
     // Not stored under its number, but as what it holds.
@@ -146,8 +154,8 @@ public:
      *
      * Left out, with a warning in the log, are values that would make the whole format unreadable:
      * of types without stream operators; easing curves, which Qt stores with an address in its
-     * memory; expressions of QRegExp with "{"; icons of plug-ins or with files that are not there; regions of more than
-     * 4096 rectangles; times in a named zone.
+     * memory; expressions of QRegExp with "{"; icons of plug-ins or with files that are not there;
+     * regions of more than 4096 rectangles.
      */
     static QByteArray toByteArray(const QTextCharFormat &format);
     static QByteArray toByteArray(const QTextBlockFormat &format);

@@ -28,7 +28,8 @@ bool isPlain(QStringView text)
     return !others || std::none_of(characters, characters + text.size(), isSuspicious);
 }
 
-// The index of the first character from @p start on that no document can hold; the size without one.
+// The index of the first character from "start" on that no document can hold; without one, the
+// size.
 int nextForbidden(QStringView text, int start)
 {
     int i = start;
