@@ -28,8 +28,7 @@ class MRVShortcutScheme;
  * base class tells which groups changed. Each setting has a constant here; a number of a setting
  * that has no constant has an empty key and the empty value of its type.
  *
- * Values that QSettings could not decode safely are taken out of the user's file, or the one that
- * is named, before it is opened; it is then kept as it was with ".damaged" at its end.
+ * Values that cannot be decoded safely are left out; see MRVSettings.
  *
  * A default is never written to the store. Those of folders, languages and fonts are asked of the
  * system at each call.

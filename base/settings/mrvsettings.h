@@ -127,7 +127,8 @@ public:
     bool isWritable() const;
     /**
      * AccessError while the file could not be read or written the last time that was tried,
-     * FormatError when it has lines that are no settings.
+     * FormatError when it holds something else than settings. Single lines that are no settings are
+     * damage: the file is copied before it is replaced.
      */
     Status status() const;
     /** Why status() is AccessError, as a translated line; else empty. */

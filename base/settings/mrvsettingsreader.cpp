@@ -331,44 +331,75 @@ QString groupIn(const QByteArray &section)
     return unescapedKey(name) + u'/';
 }
 
+class Reader
+{
+public:
+    explicit Reader(const QByteArray &bytes)
+        : m_bytes(bytes)
+        , m_isUtf8(bytes.startsWith(Utf8Mark))
+    {
+    }
+
+    MRVSettingsText read();
+
+private:
+    void readSection(const QByteArray &line);
+    void readSetting(const Line &line);
+
+    const QByteArray m_bytes;
+    const bool m_isUtf8;
+    QString m_group;
+    MRVSettingsText m_text;
+};
+
+MRVSettingsText Reader::read()
+{
+    bool isFirst = true;
+    Line line = lineAfter(m_bytes, m_isUtf8 ? int(std::strlen(Utf8Mark)) : 0);
+    for (; line.begin < m_bytes.size(); line = lineAfter(m_bytes, line.end)) {
+        const bool isSection = m_bytes.at(line.begin) == '[';
+        if (isFirst) {
+            m_text.beginsWithSection = isSection;
+            isFirst = false;
+        }
+        if (isSection) {
+            readSection(m_bytes.mid(line.begin + 1, line.end - line.begin - 1));
+        } else {
+            readSetting(line);
+        }
+    }
+    m_text.isDamaged = m_text.hasOtherLines || !m_text.unreadable.isEmpty();
+    return m_text;
+}
+
+void Reader::readSection(const QByteArray &line)
+{
+    const int end = line.indexOf(']');
+    m_group = groupIn(end < 0 ? line : line.left(end));
+    m_text.hasOtherLines = m_text.hasOtherLines || end < 0;
+}
+
+void Reader::readSetting(const Line &line)
+{
+    const QString key = normalized(m_group + unescapedKey(nameIn(m_bytes, line)));
+    if (line.equals < 0 || key.isEmpty()) {
+        // People write comments so, too.
+        m_text.hasOtherLines = m_text.hasOtherLines || m_bytes.at(line.begin) != '#';
+        return;
+    }
+    const QByteArray stored = m_bytes.mid(line.equals + 1, line.end - line.equals - 1);
+    bool isDamaged = false;
+    const QVariant value = valueOf(Items(stored, m_isUtf8), &isDamaged);
+    if (isDamaged) {
+        m_text.unreadable.insert(key, QString::fromLatin1(stored.trimmed()));
+    } else {
+        m_text.values.insert(key, value);
+    }
+}
+
 } // namespace
 
 MRVSettingsText mrvReadSettings(const QByteArray &bytes)
 {
-    MRVSettingsText text;
-    const bool isUtf8 = bytes.startsWith(Utf8Mark);
-    QString group;
-    bool isFirst = true;
-    int at = isUtf8 ? int(std::strlen(Utf8Mark)) : 0;
-    for (Line line = lineAfter(bytes, at); line.begin < bytes.size();
-         line = lineAfter(bytes, line.end)) {
-        const bool isSection = bytes.at(line.begin) == '[';
-        text.beginsWithSection = text.beginsWithSection && (isSection || !isFirst);
-        isFirst = false;
-        if (isSection) {
-            const int end = bytes.indexOf(']', line.begin);
-            const bool isClosed = end >= 0 && end < line.end;
-            group =
-                groupIn(bytes.mid(line.begin + 1, (isClosed ? end : line.end) - line.begin - 1));
-            text.hasOtherLines = text.hasOtherLines || !isClosed;
-            continue;
-        }
-        const QString key = normalized(group + unescapedKey(nameIn(bytes, line)));
-        if (line.equals < 0 || key.isEmpty()) {
-            // People write comments so, too.
-            text.hasOtherLines = text.hasOtherLines || bytes.at(line.begin) != '#';
-            continue;
-        }
-        bool isDamaged = false;
-        const QByteArray stored = bytes.mid(line.equals + 1, line.end - line.equals - 1);
-        const QVariant value = valueOf(Items(stored, isUtf8), &isDamaged);
-        text.isDamaged = text.isDamaged || isDamaged;
-        if (isDamaged) {
-            text.unreadable.insert(key, QString::fromLatin1(stored.trimmed()));
-        } else {
-            text.values.insert(key, value);
-        }
-    }
-    text.isDamaged = text.isDamaged || text.hasOtherLines;
-    return text;
+    return Reader(bytes).read();
 }

@@ -188,7 +188,9 @@ QSettings::Status MRVSettingsStorage::status() const
     if (!m_error.isEmpty()) {
         return QSettings::AccessError;
     }
-    return m_file.text().hasOtherLines ? QSettings::FormatError : QSettings::NoError;
+    const MRVSettingsText &text = m_file.text();
+    return text.hasOtherLines && !text.beginsWithSection ? QSettings::FormatError
+                                                         : QSettings::NoError;
 }
 
 void MRVSettingsStorage::announce(const QStringList &keys, const void *by) const

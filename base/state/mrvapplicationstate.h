@@ -10,9 +10,8 @@
  * What the application remembers from one run to the next that is no preference: recent projects,
  * folders and icons, and which warnings the user has turned off.
  *
- * It lies in the user's settings file beside the group of the options, under keys without a group.
- * Each save of QSettings writes the whole file; so that none of them can harm the options, the
- * state is kept in a store of the same kind, which reads what was written. It has no typed
+ * It lies in the user's settings file beside the group of the options, under keys without a group,
+ * in a store of the same kind, so that neither can lose what the other has saved. It has no typed
  * settings.
  *
  * GUI thread only.
