@@ -135,6 +135,9 @@ QByteArray defaultExportEngines()
 
 bool isMeasure(const QString &text)
 {
+    if (text.isEmpty()) {
+        return true; // no step
+    }
     QString pattern;
     int decimals = 0;
     double value = 0;

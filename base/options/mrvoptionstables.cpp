@@ -237,7 +237,7 @@ constexpr IntRow Ints[] = {
      QT_TRANSLATE_NOOP("MRVOptions", "Determines how many seconds a recording goes back when it is paused, so that no word is missed.")},
     {MRVOptions::BackupsToRetain, KEY("Backups/retain"), {5, 0, Any},
      QT_TRANSLATE_NOOP("MRVOptions", "Backups to keep"),
-     QT_TRANSLATE_NOOP("MRVOptions", "Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.")},
+     QT_TRANSLATE_NOOP("MRVOptions", "Determines how many backups of a project are kept before the oldest is removed.")},
     {MRVOptions::RevisionLevel, KEY("TextEditing/revisionLevel"), {0, 0, 5},
      QT_TRANSLATE_NOOP("MRVOptions", "Revision of new text"),
      QT_TRANSLATE_NOOP("MRVOptions", "Determines as which revision new text is marked, from 1 to 5; 0 marks nothing.")},
@@ -499,8 +499,8 @@ constexpr DateTimeRow DateTimes[] = {
      QT_TRANSLATE_NOOP("MRVOptions", "Last check for updates"),
      QT_TRANSLATE_NOOP("MRVOptions", "This is the time at which a newer version was last looked for."), Remembered},
     {MRVOptions::MorvaneStartDateTime, KEY("General/morvaneStartDateTime"), {},
-     QT_TRANSLATE_NOOP("MRVOptions", "First start"),
-     QT_TRANSLATE_NOOP("MRVOptions", "This is the time at which the application was started for the first time."), Remembered},
+     QT_TRANSLATE_NOOP("MRVOptions", "Time of the start"),
+     QT_TRANSLATE_NOOP("MRVOptions", "This is the time at which the application was started."), Remembered},
 };
 
 constexpr FontRow Fonts[] = {

@@ -1811,8 +1811,8 @@ Fehler: %2</translation>
         <translation>Zu behaltende Sicherungskopien</translation>
     </message>
     <message>
-        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
-        <translation>Legt fest, wie viele Sicherungskopien eines Projekts behalten werden, bevor die älteste entfernt wird; 0 behält alle.</translation>
+        <source>Determines how many backups of a project are kept before the oldest is removed.</source>
+        <translation>Legt fest, wie viele Sicherungskopien eines Projekts behalten werden, bevor die älteste entfernt wird.</translation>
     </message>
     <message>
         <source>Revision of new text</source>
@@ -2259,12 +2259,12 @@ Fehler: %2</translation>
         <translation>Dies ist der Zeitpunkt, zu dem zuletzt nach einer neueren Version gesucht wurde.</translation>
     </message>
     <message>
-        <source>First start</source>
-        <translation>Erster Start</translation>
+        <source>Time of the start</source>
+        <translation>Zeitpunkt des Starts</translation>
     </message>
     <message>
-        <source>This is the time at which the application was started for the first time.</source>
-        <translation>Dies ist der Zeitpunkt, zu dem die Anwendung zum ersten Mal gestartet wurde.</translation>
+        <source>This is the time at which the application was started.</source>
+        <translation>Dies ist der Zeitpunkt, zu dem die Anwendung gestartet wurde.</translation>
     </message>
     <message>
         <source>This is the font of the titles of index cards.</source>

@@ -1811,8 +1811,8 @@ Error: %2</translation>
         <translation>Copias de seguridad que se conservan</translation>
     </message>
     <message>
-        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
-        <translation>Determina cuántas copias de un proyecto se conservan antes de quitar la más antigua; 0 las conserva todas.</translation>
+        <source>Determines how many backups of a project are kept before the oldest is removed.</source>
+        <translation>Determina cuántas copias de un proyecto se conservan antes de quitar la más antigua.</translation>
     </message>
     <message>
         <source>Revision of new text</source>
@@ -2259,12 +2259,12 @@ Error: %2</translation>
         <translation>Es el momento en que se buscó por última vez una versión más reciente.</translation>
     </message>
     <message>
-        <source>First start</source>
-        <translation>Primer inicio</translation>
+        <source>Time of the start</source>
+        <translation>Momento del inicio</translation>
     </message>
     <message>
-        <source>This is the time at which the application was started for the first time.</source>
-        <translation>Es el momento en que se inició la aplicación por primera vez.</translation>
+        <source>This is the time at which the application was started.</source>
+        <translation>Es el momento en que se inició la aplicación.</translation>
     </message>
     <message>
         <source>This is the font of the titles of index cards.</source>

@@ -1811,8 +1811,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Copies de sauvegarde à garder</translation>
     </message>
     <message>
-        <source>Determines how many backups of a project are kept before the oldest is removed; 0 keeps all.</source>
-        <translation>Détermine combien de copies d’un projet sont gardées avant que la plus ancienne soit supprimée&#xa0;; 0 les garde toutes.</translation>
+        <source>Determines how many backups of a project are kept before the oldest is removed.</source>
+        <translation>Détermine combien de copies d’un projet sont gardées avant que la plus ancienne soit supprimée.</translation>
     </message>
     <message>
         <source>Revision of new text</source>
@@ -2259,12 +2259,12 @@ Erreur&#xa0;: %2</translation>
         <translation>C’est le moment où une version plus récente a été recherchée pour la dernière fois.</translation>
     </message>
     <message>
-        <source>First start</source>
-        <translation>Premier démarrage</translation>
+        <source>Time of the start</source>
+        <translation>Moment du démarrage</translation>
     </message>
     <message>
-        <source>This is the time at which the application was started for the first time.</source>
-        <translation>C’est le moment où l’application a été démarrée pour la première fois.</translation>
+        <source>This is the time at which the application was started.</source>
+        <translation>C’est le moment où l’application a été démarrée.</translation>
     </message>
     <message>
         <source>This is the font of the titles of index cards.</source>
