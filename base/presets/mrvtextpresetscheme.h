@@ -38,10 +38,10 @@ public:
     bool deletePreset(const QString &name);
 
     /**
-     * Gives a preset another name.
+     * Gives the preset called @p oldName another name.
      *
-     * @return false, with nothing done, where there is no preset of the old name, or another one
-     * has the new name.
+     * @return false, with nothing done, where there is no such preset, or another one is called
+     * @p newName.
      */
     bool renamePreset(const QString &oldName, const QString &newName);
 

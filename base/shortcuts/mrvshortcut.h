@@ -211,8 +211,9 @@ public:
     static Id keyToValue(const char *key);
 
     /**
-     * The command that a user names as the enumerator is called, in the same case.
+     * The command that a user names.
      *
+     * @param name  the enumerator's name, in the same case.
      * @param error if given, receives a translated line that tells a similar name when there is no
      *              such command; untouched otherwise.
      * @return NoId for an unknown name.
