@@ -713,6 +713,7 @@ public:
      * Puts what another store has in place of all that this one has, and emits settingsReset().
      * Nothing is changed where there is no value to be taken.
      *
+     * @param which whether values with a Problem are taken, too.
      * @return the values that were left out: the problems of @p source; with Import::All, only
      * those that cannot be decoded at all.
      */
