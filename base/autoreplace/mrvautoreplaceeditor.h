@@ -20,6 +20,7 @@ class MRVBASE_EXPORT MRVAutoReplaceEditor
     Q_DECLARE_TR_FUNCTIONS(MRVAutoReplaceEditor)
 
 public:
+    /** Changes a copy of @p list. */
     explicit MRVAutoReplaceEditor(const MRVAutoReplaceList &list);
 
     /** The list with the changes. */
@@ -28,18 +29,19 @@ public:
     const MRVAutoReplaceList &changed() const { return m_changed; }
 
     /**
-     * Appends an entry. Refused are one that is in the list already, enabled or not; one that is
+     * Appends @p entry. Refused are one that is in the list already, enabled or not; one that is
      * enabled while another one with its match is; and a match with the end of a paragraph in it.
      */
     bool add(const MRVAutoReplace &entry, QString *error = nullptr);
     /**
-     * Removes the entries with a match and, unless that is null, a replacement. Refused where there
-     * are none, and for ordinals, which would come back.
+     * Removes the entries with just this @p match and, unless it is null, this @p replacement.
+     * Refused where there are none, and for ordinals, which would come back.
      */
     bool remove(const QString &match, const QString &replacement, QString *error = nullptr);
     /**
-     * Enables or disables the entries with a match and, unless that is null, a replacement. Refused
-     * where there are none; and to enable several, or one beside an enabled one of its match.
+     * Enables or disables, as @p isEnabled says, the entries with just this @p match and, unless it
+     * is null, this @p replacement. Refused where there are none; and to enable several, or one
+     * beside an enabled one of its match.
      */
     bool setEnabled(const QString &match, const QString &replacement, bool isEnabled,
                     QString *error = nullptr);

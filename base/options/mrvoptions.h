@@ -413,7 +413,9 @@ public:
         QString origin; ///< path of the file that the value is from; empty for the default
         Problem problem; ///< why the value is not the stored one; without a key where it is
 
+        /** Of no setting. */
         Explanation() = default;
+        /** Of the setting of @p info, without a value. */
         explicit Explanation(const SettingInfo &info)
             : SettingInfo(info)
         {
@@ -476,6 +478,7 @@ public:
     QString keyText(IntListSetting setting) const override;
     QString keyText(ByteArraySetting setting) const override;
 
+    /** The value under @p key as it is stored; @p defaultValue where there is none. */
     using MRVSettings::value;
     /**
      * As those of the base class, but never outside of the setting's limits: a stored number beyond
