@@ -310,6 +310,7 @@ public:
      * Without that, what others have saved is read by sync() and saveNow() only.
      */
     void setWatched(bool isWatched);
+    /** Whether the file is read whenever it has changed; not so at first. */
     bool isWatched() const { return bool(m_watcher); }
 
     /**
@@ -350,8 +351,8 @@ protected:
     bool event(QEvent *event) override;
 
     /**
-     * Sets a value by its key in the whole file, whatever group is open; an invalid one removes the
-     * key with all that lies below it. Announced and saved like other changes.
+     * Sets @p value under @p key in the whole file, whatever group is open; an invalid one removes
+     * the key with all that lies below it. Announced and saved like other changes.
      */
     void setInFile(const QString &key, const QVariant &value);
 
