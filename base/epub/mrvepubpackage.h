@@ -108,9 +108,10 @@ public:
     /**
      * Adds parts and manuscripts in the order of a list.
      *
-     * @param list what is no part is, one by one, each of the manuscripts.
-     * @param error if given, receives a text that names a manuscript on failure; untouched on
-     *              success.
+     * @param list        what is no part is, one by one, each of the manuscripts.
+     * @param manuscripts in the order of the list.
+     * @param error       if given, receives a text that names a manuscript on failure; untouched on
+     *                    success.
      * @return false where one cannot be added. The object is of no more use then.
      */
     bool addManuscripts(const QVector<MRVBookListEntry> &list,

@@ -24,7 +24,7 @@ public:
     MRVOutputFiles() = delete;
 
     /**
-     * Where to write what is made of an input: @p output, or a file named after the input in the
+     * Where to write what is made of the file @p input: @p output, or a file named after the input in the
      * folder @p output or, where that is empty, beside the input.
      *
      * @param output       a folder if it is one, or ends with "/". Where it is empty, what is made

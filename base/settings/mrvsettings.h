@@ -101,15 +101,18 @@ public:
     /** What colour settings are grouped by for the user. */
     enum ColorSettingGroup : int {};
 
-    /** A store on an INI file; see the class about @p format. */
+    /** A store on the INI file @p fileName; see the class about @p format. */
     MRVSettings(const QString &fileName, Format format, QObject *parent = nullptr);
     /**
-     * A store on the file that QSettings has for an organisation and its application, with the same
-     * fallbacks, which are read once. Without an organisation it has no file.
+     * A store on the file that QSettings has for @p organization and its @p application, with the
+     * same fallbacks, which are read once. Without an organisation it has no file.
      */
     MRVSettings(Format format, Scope scope, const QString &organization,
                 const QString &application = QString(), QObject *parent = nullptr);
-    /** The same in the native format, of the user. */
+    /**
+     * The same in the native format, of the user: of @p organization and, unless that is empty,
+     * @p application.
+     */
     explicit MRVSettings(const QString &organization, const QString &application = QString(),
                          QObject *parent = nullptr)
         : MRVSettings(NativeFormat, UserScope, organization, application, parent)
@@ -120,8 +123,11 @@ public:
 
     /** As those of QSettings; of the store's file. */
     QString fileName() const { return m_fileName; }
+    /** Empty for a store on a file that was named. */
     QString organizationName() const { return m_organization; }
+    /** Empty for a store on a file that was named, or of all applications. */
     QString applicationName() const { return m_application; }
+    /** UserScope for a store on a file that was named. */
     Scope scope() const { return m_scope; }
     /** Whether the file, or a folder for it, may be written. Makes neither. */
     bool isWritable() const;
@@ -174,11 +180,18 @@ public:
      * relative to it from then on.
      */
     void setGroup(const QString &group);
-    /** As those of QSettings: the value or key of the store's file, or else of a fallback. */
+    /**
+     * As that of QSettings: the value of @p key in the store's file, else in a fallback, else
+     * @p defaultValue.
+     */
     QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
+    /** As that of QSettings: whether the file or a fallback has @p key. */
     bool contains(const QString &key) const;
+    /** As that of QSettings: the keys in the open group and below, those of fallbacks included. */
     QStringList allKeys() const;
+    /** As that of QSettings: the keys in the open group that are no groups. */
     QStringList childKeys() const;
+    /** As that of QSettings: the groups in the open group. */
     QStringList childGroups() const;
     /**
      * The values in the open group that the file has but the store has left out, since they cannot
