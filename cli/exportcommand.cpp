@@ -219,7 +219,10 @@ void printNotes(const QStringList &notes)
 bool acceptLosses(const Options &options, const QStringList &losses, QString *error)
 {
     if (options.input.strict && !losses.isEmpty()) {
-        *error = losses.join(u'\n');
+        for (int i = 0; i + 1 < losses.size(); ++i) {
+            printError(losses.at(i));
+        }
+        *error = losses.constLast();
         return false;
     }
     printNotes(losses);

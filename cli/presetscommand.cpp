@@ -136,6 +136,9 @@ int rename(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
     if (!scheme.contains(name)) {
         return refuseName(name, scheme);
     }
+    if (call.arguments.at(1).isEmpty()) {
+        return refuse(QStringLiteral("a preset needs a name"));
+    }
     if (!scheme.renamePreset(name, call.arguments.at(1))) {
         return refuse(QStringLiteral("there is a preset '%1' already").arg(call.arguments.at(1)));
     }

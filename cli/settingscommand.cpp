@@ -189,6 +189,13 @@ int exportTo(const Call &call, MRVOptions *options)
     if (QFileInfo(path) == QFileInfo(options->fileName())) {
         return refuse(QStringLiteral("%1 is the settings file itself").arg(path));
     }
+    const QList<MRVOptions::Problem> problems = options->problems();
+    for (const MRVOptions::Problem &problem : problems) {
+        if (problem.kind == MRVOptions::Problem::Unreadable) {
+            printError(QStringLiteral("note: %1 is left out: %2")
+                           .arg(displayed(problem.key), shownProblem(problem)));
+        }
+    }
     QString error;
     return MRVFileKind::mayReplace(path, MRVOptionsFile::isSettings, &error)
             && options->saveToFile(path, &error)

@@ -4,6 +4,7 @@
 #include "dom/mrvdomsource.h"
 #include "manuscript/mrvsourcefile.h"
 #include "util/mrveditlock.h"
+#include "util/mrvfilekind.h"
 
 #include "core/mrvfilewriter.h"
 
@@ -209,7 +210,7 @@ public:
             return refuse(m_call, error);
         }
         if (!note.isEmpty()) {
-            printError(described(m_call.arguments.constFirst()) + QLatin1String(": ") + note);
+            return refuse(m_call, note); // what its document type declares would be lost
         }
         bool isStored = false;
         if (writesStandardOutput()) {
@@ -217,12 +218,18 @@ public:
         } else if (m_target == m_call.arguments.constFirst() && !m_before.isNull()) {
             isStored = MRVSourceFile::replace(m_target, m_before, bytes, nullptr, &error);
         } else {
-            isStored = MRVFileWriter::write(m_target, bytes, &error);
+            isStored = MRVFileKind::mayReplace(m_target, isXml, &error)
+                && MRVFileWriter::write(m_target, bytes, &error);
         }
         return isStored ? int(Done) : refuse(error);
     }
 
 private:
+    static bool isXml(const QByteArray &bytes)
+    {
+        MRVDomDoc document;
+        return MRVDomSource().read(bytes, &document);
+    }
     static bool isStandard(const QString &path) { return path == QLatin1String("-"); }
 
     const Call &m_call;

@@ -229,6 +229,22 @@ private Q_SLOTS:
         QVERIFY(doc.exists(QString("a/../").repeated(1000) + "a"));
     }
 
+    // A plain name after an absolute path, and many attributes.
+    void largeElements()
+    {
+        MRVDomDoc doc;
+        QVERIFY(doc.setContent("<r>" + QString("x<a/>").repeated(50000) + "</r>"));
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(doc.cd("/"));
+        QCOMPARE(doc.remove("a", true), 50000);
+        for (int i = 0; i < 9999; ++i) {
+            doc.currentElement().setAttribute(QString("a%1").arg(i), i);
+        }
+        QCOMPARE(doc.toJson()["attributes"].toObject().size(), 9999);
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    }
+
     void calls_data() { addSteps("domcalls.tsv"); }
     // Each call in turn, with what it gives.
     void calls()

@@ -64,8 +64,11 @@ private:
                 element.blanks.append(qMin(i + 1, end));
             } else if (!isBlank(c)) {
                 element.hasText = true;
-                element.blanks.resize(known);
-                return;
+                // The parser also drops what only Unicode counts as white space.
+                if (!c.isSpace()) {
+                    element.blanks.resize(known);
+                    return;
+                }
             }
         }
         element.hasText = element.hasText || hasReference || !isLayout;

@@ -475,9 +475,9 @@ bool MRVDomDoc::createElements(const QString &path, QString *error)
 QJsonObject MRVDomDoc::toJson() const
 {
     QJsonObject attributes;
-    const QDomNamedNodeMap map = m_workElement.attributes();
-    for (int i = 0; i < map.count(); ++i) {
-        attributes.insert(map.item(i).nodeName(), map.item(i).nodeValue());
+    const auto sorted = mrvSortedAttributes(m_workElement);
+    for (const QPair<QString, QString> &attribute : sorted) {
+        attributes.insert(attribute.first, attribute.second);
     }
     QString text;
     get(&text);

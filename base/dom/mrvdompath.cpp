@@ -246,6 +246,7 @@ QVector<QDomElement> MRVDomDoc::findAll(const QString &path) const
     if (path.isEmpty() || first.isNull()) {
         return first.isNull() ? QVector<QDomElement>() : QVector<QDomElement>{first};
     }
+    other.steps(); // which tells whether it is absolute
     QVector<QDomElement> level{other.m_isAbsolute ? documentElement() : m_workElement};
     for (int i = other.m_isAbsolute ? 1 : 0; i < other.steps().size(); ++i) {
         const Step &step = other.m_pathSteps[i];
@@ -393,6 +394,7 @@ bool MRVDomDoc::leadsDown(const QString &path, QVector<QDomElement> *up) const
 {
     bool isDown = false;
     QDomElement e = m_workElement;
+    steps(); // which tells whether it is absolute
     for (int i = m_isAbsolute ? 1 : 0; !path.isEmpty() && i < steps().size(); ++i) {
         const Step &step = m_pathSteps[i];
         const bool isUp = step.name == Parent;

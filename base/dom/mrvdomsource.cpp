@@ -99,7 +99,7 @@ bool MRVDomSource::write(const MRVDomDoc &doc, QByteArray *bytes, QString *note,
         objection = tr("the change goes beyond single elements");
     }
     if (note && !objection.isEmpty()) {
-        *note = tr("the whole document was laid out anew: %1").arg(objection);
+        *note = tr("the whole document would be laid out anew: %1").arg(objection);
     }
     *bytes = whole;
     return true;

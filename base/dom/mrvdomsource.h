@@ -56,10 +56,11 @@ public:
      *
      * @param doc   the document of read(), changed in any way.
      * @param bytes receives the result; untouched on failure.
-     * @param note  if given, receives one translated line where the whole document was laid out
-     *              anew, with the reason; untouched otherwise. That is so for a document type that
-     *              declares entities, for an encoding of several forms for one text, and for
-     *              changes outside the document element. Nothing is noted where nothing was read.
+     * @param note  if given, receives one translated line where the whole document is laid out
+     *              anew in @p bytes, with the reason; untouched otherwise. That is so for a
+     *              document type that declares entities, which then go, for an encoding of several
+     *              forms for one text, and for changes outside the document element. Nothing is
+     *              noted where nothing was read.
      * @param error if given, receives one translated line on failure; untouched on success.
      * @return false where MRVDomDoc::save() would fail.
      */

@@ -111,8 +111,13 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
             const bool hasCaption = m_caption < 0 && after < end && isTableCaption(frame, after);
             if (!m_notes.isMoved(i) || m_openNote >= 0) {
                 closeContainers(0);
-                m_caption = hasCaption ? after : m_caption;
+                m_out.append(hasCaption ? element("<figure>\n", "<div class=\"figure\">\n")
+                                        : QLatin1String());
                 writeFrame(frame);
+                if (hasCaption) {
+                    writeCaption(after);
+                    m_out.append(element("\n</figure>\n", "\n</div>\n"));
+                }
             }
             i = hasCaption ? after + 1 : after;
         } else if (!isWritten(i, begin, end)) {
@@ -539,9 +544,15 @@ bool MRVEPubWriter::isPicture(int paragraph) const
 // Whether a paragraph is the caption of what stands from another one on, or up to it.
 bool MRVEPubWriter::isCaption(int paragraph, int shown)
 {
-    const QTextFormat format = m_flow.formats.at(m_flow.paragraphs.at(paragraph).format);
+    const auto formatOf = [this](int index) {
+        return m_flow.formats.at(m_flow.paragraphs.at(index).format);
+    };
+    const QTextFormat format = formatOf(paragraph);
     return format.intProperty(MRVTextFormat::CaptionProperty)
         == (paragraph < shown ? MRVTextFormat::CaptionOfNext : MRVTextFormat::CaptionOfPrevious)
+        && format.intProperty(QTextFormat::BlockQuoteLevel)
+        == formatOf(shown).intProperty(QTextFormat::BlockQuoteLevel)
+        && (m_frames.contains(shown) || m_flow.paragraphs.at(shown).list < 0)
         && isPlainText(paragraph);
 }
 
@@ -561,6 +572,13 @@ bool MRVEPubWriter::isTableCaption(int frame, int paragraph)
     return frame >= 0 && m_flow.frames.at(frame).table && !isDeep()
         && isCaption(paragraph, m_flow.frames.at(frame).begin)
         && !m_notes.isMoved(m_flow.frames.at(frame).begin);
+}
+
+// The caption of a figure.
+void MRVEPubWriter::writeCaption(int paragraph)
+{
+    writeCaption(paragraph, element("<figcaption", "<p class=\"caption\""),
+                 element("</figcaption>", "</p>"));
 }
 
 void MRVEPubWriter::writeCaption(int paragraph, QLatin1String tag, QLatin1String end)
@@ -584,8 +602,6 @@ int MRVEPubWriter::writeFigure(int begin, int end)
     const bool hasTitle = !isShown(begin);
     const int shown = begin + (hasTitle ? 1 : 0);
     int next = isPicture(shown) ? shown + 1 : codeEnd(shown, end);
-    const QLatin1String captionTag = element("<figcaption", "<p class=\"caption\"");
-    const QLatin1String captionEnd = element("</figcaption>", "</p>");
     m_out.append(element("<figure", "<div class=\"figure\""));
     MRVEPubContext context;
     if (isPicture(shown) && !hasTitle) {
@@ -594,7 +610,7 @@ int MRVEPubWriter::writeFigure(int begin, int end)
     }
     m_out.append('>');
     if (hasTitle) {
-        writeCaption(begin, captionTag, captionEnd);
+        writeCaption(begin);
         m_out.append('\n');
     }
     if (isPicture(shown)) {
@@ -604,7 +620,7 @@ int MRVEPubWriter::writeFigure(int begin, int end)
         writePreformatted(shown, next);
     }
     if (!hasTitle && next < end && isCaption(next, next - 1)) {
-        writeCaption(next++, captionTag, captionEnd);
+        writeCaption(next++);
     }
     m_out.append(element("</figure>\n", "</div>\n"));
     return next;

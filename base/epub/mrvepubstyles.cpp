@@ -144,9 +144,6 @@ sub, sup {
 table.ruled, table.ruled > * > tr > td, table.ruled > * > tr > th {
     border: 1px solid;
 }
-caption.below {
-    caption-side: bottom;
-}
 td.covered {
     display: none;
 }

@@ -115,9 +115,7 @@ void MRVEPubWriter::writeTable(int frame)
     m_out.append(QLatin1String(">\n"));
     const int caption = std::exchange(m_caption, -1);
     if (caption >= 0) {
-        const bool isBelow = caption >= m_flow.frames.at(frame).end;
-        writeCaption(caption, QLatin1String(isBelow ? "<caption class=\"below\"" : "<caption"),
-                     QLatin1String("</caption>\n"));
+        writeCaption(caption, QLatin1String("<caption"), QLatin1String("</caption>\n"));
     }
     const int headers = qBound(0, format.headerRowCount(), table.rows());
     if (headers > 0 && headers < table.rows()) {

@@ -115,6 +115,7 @@ private:
     bool isCaption(int paragraph, int shown);
     bool isPlainText(int paragraph);
     bool isTableCaption(int frame, int paragraph);
+    void writeCaption(int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
     bool isCode(int paragraph);
     int codeEnd(int paragraph, int end);

@@ -461,15 +461,8 @@ int MRVHtmlBuilder::captionOf(const GumboNode *element)
     if (element->v.element.tag != GUMBO_TAG_FIGCAPTION) {
         return 0;
     }
-    for (const GumboNode *child : MRVHtmlChildren(element->parent)) {
-        if (child == element) {
-            break;
-        }
-        if (mrvIsElement(child)) {
-            return MRVTextFormat::CaptionOfPrevious;
-        }
-    }
-    return MRVTextFormat::CaptionOfNext;
+    return mrvElementBefore(element) ? MRVTextFormat::CaptionOfPrevious
+                                     : MRVTextFormat::CaptionOfNext;
 }
 
 MRVHtmlBox MRVHtmlBuilder::boxOf(const GumboNode *element, const MRVHtmlStyle &style)

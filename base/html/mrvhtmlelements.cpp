@@ -253,13 +253,15 @@ bool isNewBlock(const GumboNode *element)
 // Whether the page itself puts brackets around a reading, where it cannot stand above.
 bool hasBrackets(const GumboNode *reading)
 {
-    const GumboVector &siblings = reading->parent->v.element.children;
-    size_t at = reading->index_within_parent;
-    while (at > 0 && !mrvIsElement(static_cast<const GumboNode *>(siblings.data[at - 1]))) {
-        --at;
-    }
-    return at > 0
-        && mrvIsElement(static_cast<const GumboNode *>(siblings.data[at - 1]), GUMBO_TAG_RP);
+    const GumboNode *before = mrvElementBefore(reading);
+    return before && mrvIsElement(before, GUMBO_TAG_RP);
+}
+
+// Whether a reading stands in brackets of ours: one without text shows none.
+bool needsBrackets(const GumboNode *element)
+{
+    return mrvHtmlElement(element).kind == MRVHtmlElement::Reading
+        && element->v.element.children.length > 0 && !hasBrackets(element);
 }
 
 // The first of the pictures that an image is a choice of: "a.png, b.png 2x".
@@ -335,8 +337,7 @@ QString MRVHtmlMarks::before(const GumboNode *element)
     if (kind == MRVHtmlElement::Quotation) {
         return QChar(m_quotations++ % 2 == 0 ? 0x201c : 0x2018);
     }
-    return kind == MRVHtmlElement::Reading && !hasBrackets(element) ? QStringLiteral("(")
-                                                                    : QString();
+    return needsBrackets(element) ? QStringLiteral("(") : QString();
 }
 
 QString MRVHtmlMarks::after(const GumboNode *element)
@@ -345,8 +346,7 @@ QString MRVHtmlMarks::after(const GumboNode *element)
     if (kind == MRVHtmlElement::Quotation) {
         return QChar(--m_quotations % 2 == 0 ? 0x201d : 0x2019);
     }
-    return kind == MRVHtmlElement::Reading && !hasBrackets(element) ? QStringLiteral(")")
-                                                                    : QString();
+    return needsBrackets(element) ? QStringLiteral(")") : QString();
 }
 
 QString mrvAddressOf(const GumboNode *element)

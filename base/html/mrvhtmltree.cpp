@@ -69,6 +69,18 @@ bool mrvIsElement(const GumboNode *node)
     return node->type == GUMBO_NODE_ELEMENT || node->type == GUMBO_NODE_TEMPLATE;
 }
 
+const GumboNode *mrvElementBefore(const GumboNode *node)
+{
+    const GumboVector &siblings = node->parent->v.element.children;
+    for (size_t at = node->index_within_parent; at > 0; --at) {
+        const auto *before = static_cast<const GumboNode *>(siblings.data[at - 1]);
+        if (mrvIsElement(before)) {
+            return before;
+        }
+    }
+    return nullptr;
+}
+
 bool mrvIsElement(const GumboNode *node, GumboTag tag)
 {
     return mrvIsElement(node) && node->v.element.tag == tag

@@ -43,6 +43,8 @@ private:
 bool mrvIsElement(const GumboNode *node);
 /** Whether @p node is an element of HTML with this tag. */
 bool mrvIsElement(const GumboNode *node, GumboTag tag);
+/** The element before @p node among its siblings, with no other one between; null without one. */
+const GumboNode *mrvElementBefore(const GumboNode *node);
 /** The text of a text node. */
 QString mrvTextOf(const GumboNode *node);
 /** All text in an element, scripts and comments apart. */

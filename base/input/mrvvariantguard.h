@@ -83,8 +83,8 @@ public:
     static void registerType(int type);
 
     /**
-     * The @p value as it can be written in a form. Qt crashes when it writes a date whose time zone this
-     * machine does not know, and a form other than those of settings holds no named zone: such
+     * The @p value as it can be written in a form. Qt crashes when it writes a date whose time zone
+     * this machine does not know, and a form other than those of settings holds no named zone: such
      * dates are given in UTC, as Qt converts them. In an unknown zone, Qt takes the date for one in
      * UTC. Also those in lists, maps and hashes, at any depth; all else is left as it is.
      */

@@ -34,7 +34,7 @@ bool beginsLikeSettings(QIODevice *file)
         }
         const QByteArray line = part.trimmed();
         if (line.startsWith('[')) {
-            return line.contains(']');
+            return line.endsWith(']');
         }
         if (line.isEmpty() || line.startsWith(';')) {
             continue;

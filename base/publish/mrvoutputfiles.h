@@ -24,8 +24,8 @@ public:
     MRVOutputFiles() = delete;
 
     /**
-     * Where to write what is made of the file @p input: @p output, or a file named after the input in the
-     * folder @p output or, where that is empty, beside the input.
+     * Where to write what is made of the file @p input: @p output, or a file named after the input
+     * in the folder @p output or, where that is empty, beside the input.
      *
      * @param output       a folder if it is one, or ends with "/". Where it is empty, what is made
      *                     of standard input goes to standard output.

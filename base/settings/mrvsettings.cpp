@@ -500,8 +500,7 @@ void MRVSettings::recordForeignChanges(const QStringList &keys)
     const int begin = m_group.isEmpty() ? 0 : m_group.size() + 1;
     for (const QString &key : keys) {
         const int slash = key.lastIndexOf(QLatin1Char('/'));
-        const bool isInGroup =
-            begin == 0 || (key.startsWith(m_group) && key.at(m_group.size()) == QLatin1Char('/'));
+        const bool isInGroup = begin == 0 || key.startsWith(m_group + QLatin1Char('/'));
         if (isInGroup && slash > begin) {
             addChangedGroup(key.midRef(begin, slash - begin));
         }

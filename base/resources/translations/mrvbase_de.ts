@@ -253,8 +253,8 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <translation>die Änderung geht über einzelne Elemente hinaus</translation>
     </message>
     <message>
-        <source>the whole document was laid out anew: %1</source>
-        <translation>das ganze Dokument wurde neu gesetzt: %1</translation>
+        <source>the whole document would be laid out anew: %1</source>
+        <translation>das ganze Dokument würde neu gesetzt: %1</translation>
     </message>
 </context>
 <context>

@@ -253,8 +253,8 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <translation>el cambio va más allá de elementos individuales</translation>
     </message>
     <message>
-        <source>the whole document was laid out anew: %1</source>
-        <translation>se ha vuelto a componer todo el documento: %1</translation>
+        <source>the whole document would be laid out anew: %1</source>
+        <translation>se volvería a componer todo el documento: %1</translation>
     </message>
 </context>
 <context>

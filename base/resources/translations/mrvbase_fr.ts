@@ -253,8 +253,8 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <translation>la modification va au-delà d’éléments isolés</translation>
     </message>
     <message>
-        <source>the whole document was laid out anew: %1</source>
-        <translation>tout le document a été remis en forme&#xa0;: %1</translation>
+        <source>the whole document would be laid out anew: %1</source>
+        <translation>tout le document serait remis en forme&#xa0;: %1</translation>
     </message>
 </context>
 <context>
