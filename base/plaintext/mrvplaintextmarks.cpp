@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 // A title is no longer, in characters.
@@ -148,11 +150,20 @@ bool isTitleLine(const MRVPlainGroup &group, int i)
         && isTitleOf({group.at(i)});
 }
 
+// Whether all lines before are those of a title page: the title, the author and the like.
+bool followsTitles(const MRVPlainGroup &group, int i)
+{
+    constexpr int MostTitles = 4;
+    return i <= MostTitles && (i == 0 || isTitleOf({group.at(0)}))
+        && std::all_of(group.cbegin(), group.cbegin() + i, [](const MRVPlainLine &line) {
+               return line.text.size() <= SubtitleLength && !endsSentence(line);
+           });
+}
+
 // There, a number alone heads the long line after it, or the title before that.
 bool isNumberApart(const MRVPlainGroup &group, int i)
 {
-    const bool isBegin =
-        i == 0 || endsSentence(group.at(i - 1)) || (i == 1 && isTitleOf({group.at(0)}));
+    const bool isBegin = followsTitles(group, i) || endsSentence(group.at(i - 1));
     return isBegin && i + 1 < group.size()
         && numberMark(group.at(i).text).kind == MRVPlainMark::Number
         && (group.at(i + 1).text.size() > TitleLength || isTitleLine(group, i + 1));
