@@ -17,12 +17,13 @@ MRVBookListEntry entryOf(const QString &line, const QDir &folder)
         return {true, QString(), line.mid(1, line.size() - 2).simplified()};
     }
     const QLatin1String separator(" | ");
-    const int at = line.indexOf(separator);
+    const QString titled = line + u' '; // the title after the bar may be missing
+    const int at = titled.indexOf(separator);
     if (at < 0 || QFileInfo::exists(folder.filePath(line))) {
         return {false, QDir::cleanPath(folder.filePath(line)), QString()};
     }
     return {false, QDir::cleanPath(folder.filePath(line.left(at).trimmed())),
-            line.mid(at + separator.size()).simplified()};
+            titled.mid(at + separator.size()).simplified()};
 }
 
 } // namespace
