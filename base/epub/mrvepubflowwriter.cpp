@@ -111,8 +111,9 @@ void MRVEPubWriter::writeFlow(int begin, int end, int inside)
             const bool hasCaption = m_caption < 0 && after < end && isTableCaption(frame, after);
             if (!m_notes.isMoved(i) || m_openNote >= 0) {
                 closeContainers(0);
-                m_out.append(hasCaption ? element("<figure>\n", "<div class=\"figure\">\n")
-                                        : QLatin1String());
+                if (hasCaption) {
+                    m_out.append(element("<figure>\n", "<div class=\"figure\">\n"));
+                }
                 writeFrame(frame);
                 if (hasCaption) {
                     writeCaption(after);

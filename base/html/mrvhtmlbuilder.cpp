@@ -448,6 +448,7 @@ void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &sty
     }
     if (mrvIsField(element)) {
         m_writer.writeText(QStringLiteral(" "), style);
+        m_writer.writeText(mrvFieldText(element) + u' ', style);
     }
 }
 

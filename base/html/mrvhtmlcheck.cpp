@@ -331,6 +331,7 @@ private:
         if (mrvIsElement(element, GUMBO_TAG_TABLE)) {
             visitCaptions(element, address);
         }
+        m_words.add(mrvFieldText(element), lineOf(element), expectWord());
         const QString own = mrvAddressOf(element);
         visit(element, own.isEmpty() ? address : own);
     }

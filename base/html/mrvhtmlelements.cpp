@@ -365,6 +365,19 @@ bool mrvIsField(const GumboNode *element)
         && type != QLatin1String("image");
 }
 
+QString mrvFieldText(const GumboNode *element)
+{
+    constexpr const char *WithoutText[] = {"checkbox", "color", "file",
+                                           "password", "radio", "range"};
+    const QString type = mrvAttributeOf(element, "type").toLower();
+    const bool hasText =
+        std::none_of(std::begin(WithoutText), std::end(WithoutText),
+                     [&](const char *other) { return type == QLatin1String(other); });
+    return hasText && mrvIsField(element)
+        ? mrvShownText(mrvAttributeOf(element, "value")).simplified()
+        : QString();
+}
+
 QString mrvPictureName(const GumboNode *element)
 {
     QString name;

@@ -73,6 +73,8 @@ QString mrvAddressOf(const GumboNode *element);
 
 /** Whether an element is a field to fill in, which separates the words beside it. */
 bool mrvIsField(const GumboNode *element);
+/** The text that a field shows, in one line: its value, if it is of a type that shows that. */
+QString mrvFieldText(const GumboNode *element);
 
 /** What a picture of any kind names; empty for none. */
 QString mrvPictureName(const GumboNode *element);

@@ -26,6 +26,7 @@ UNSEEN = {"head", "title", "script", "style", "template", "noframes", "noembed",
 BLOCKS = set("""address article aside blockquote body caption center dd details dir div dl dt fieldset figcaption figure footer form h1
 h2 h3 h4 h5 h6 header hgroup hr html legend li main menu nav ol optgroup option p pre section summary table tbody td textarea tfoot
 th thead tr ul listing plaintext xmp br img input object embed svg text button canvas dialog meter progress search""".split())
+NO_VALUE = {"hidden", "image", "checkbox", "color", "file", "password", "radio", "range"}  # fields that do not show it
 SPACES = " \t\n\r\f\v\u2028\u2029\u00a0"
 
 
@@ -66,6 +67,8 @@ class Content:
         start = self.count
         if tag == "img" and element.get("src"):
             self.pictures += 1
+        if tag == "input" and element.get("type", "").lower() not in NO_VALUE:
+            self.add_text(element.get("value"))
         self.add_text(element.text)
         for child in element:
             first = len(self.words)

@@ -50,6 +50,7 @@ class Page:
             lambda: f'<span style="border-style:initial;margin:1em 2ex;text-indent:-5%">{self.inline(depth + 1)}</span>',
             lambda: f"<svg><text>{self.word()}</text><title>unseen</title></svg>".replace("<title>unseen</title>", ""),
             lambda: f"<wbr>{self.word()}<input type=text value=unseen>",
+            lambda: f'<input value="{self.word()}"><input type=Submit value="{self.word()}"><input type=radio value=unseen>',
             lambda: f"<button>{self.word()}</button><button>{self.word()}</button><dialog>unseen</dialog>",
             lambda: f"<search>{self.word()}</search><dialog open>{self.word()}</dialog>",
         ])()
