@@ -102,7 +102,9 @@ int importFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme
 
 int removeFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 {
-    for (const QString &name : call.arguments) {
+    QStringList names = call.arguments;
+    names.removeDuplicates();
+    for (const QString &name : qAsConst(names)) {
         if (!scheme.deletePreset(name)) {
             return refuseName(name, scheme);
         }

@@ -157,6 +157,17 @@ private Q_SLOTS:
         manager.removePreset("A");
         QCOMPARE(bytesOf(path + '~'), damaged);
         QCOMPARE(bytesOf(path).toHex(), QByteArray("0000000100000000"));
+        // What was kept earlier stays beside what is kept now.
+        QVERIFY(writeBytes(path, damaged.left(40)));
+        MRVTextPresetMgr again;
+        again.setPresetScheme(Scheme::defaultScheme());
+        QCOMPARE(bytesOf(path + '~'), damaged);
+        QByteArrayList kept;
+        const QDir folder = QFileInfo(path).dir();
+        for (const QString &name : folder.entryList({"*~*"}, QDir::Files)) {
+            kept << bytesOf(folder.filePath(name));
+        }
+        QVERIFY(kept.contains(damaged.left(40)));
     }
     // Presets that could not be read when the manager was made are not lost when it saves.
     void unreadFileIsKept()

@@ -66,7 +66,8 @@ constexpr AlignmentRow alignmentRows[] = {
 QJsonValue jsonOf(int property, const QVariant &value)
 {
     if (value.userType() == QMetaType::QBrush) {
-        return value.value<QBrush>().color().name();
+        const QColor color = value.value<QBrush>().color();
+        return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
     }
     if (property == QTextFormat::BlockAlignment) {
         for (const AlignmentRow &row : alignmentRows) {

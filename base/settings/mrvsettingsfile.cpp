@@ -3,6 +3,7 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvfilewriter.h"
 #include "util/mrvfailure.h"
+#include "util/mrvkeptcopy.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -83,18 +84,10 @@ bool MRVSettingsFile::replace(const MRVSettingsMap &values, QString *error)
     return true;
 }
 
-// Under a name of its own where another one was kept earlier.
 bool MRVSettingsFile::keepDamaged(QString *error) const
 {
-    const QString kept = m_path + QLatin1String(".damaged");
-    QString reason;
-    const bool isNew = !QFileInfo::exists(kept);
-    if (!isNew && MRVCoreUtil::ReadBinaryFile(kept, &reason) == m_bytes && reason.isEmpty()) {
-        return true;
-    }
     qCWarning(lcSettings, "%s: damaged values are taken out", qPrintable(m_path));
-    return MRVFileWriter::write(isNew ? kept : MRVCoreUtil::GetUniqueFileName(kept), m_bytes,
-                                error);
+    return MRV::keepCopy(m_path + QLatin1String(".damaged"), m_bytes, error);
 }
 
 MRVSettingsLock::MRVSettingsLock(const QString &path)

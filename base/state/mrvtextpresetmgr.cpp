@@ -2,6 +2,7 @@
 
 #include "options/mrvoptions.h"
 #include "util/mrvfailure.h"
+#include "util/mrvkeptcopy.h"
 
 #include "core/mrvcoreutil.h"
 
@@ -29,8 +30,7 @@ bool keepDamaged(const QString &path, QString *error, bool isUnknown = false)
     }
     QString damage;
     MRVTextPresetScheme::fromByteArray(bytes, &damage);
-    return (damage.isEmpty() && !isUnknown)
-        || MRVCoreUtil::WriteBinaryFile(bytes, path + QLatin1Char('~'), error);
+    return (damage.isEmpty() && !isUnknown) || MRV::keepCopy(path + QLatin1Char('~'), bytes, error);
 }
 
 } // namespace

@@ -1,0 +1,16 @@
+#include "util/mrvkeptcopy.h"
+
+#include "core/mrvcoreutil.h"
+#include "core/mrvfilewriter.h"
+
+#include <QFileInfo>
+
+bool MRV::keepCopy(const QString &path, const QByteArray &bytes, QString *error)
+{
+    QString reason;
+    const bool isNew = !QFileInfo::exists(path);
+    if (!isNew && MRVCoreUtil::ReadBinaryFile(path, &reason) == bytes && reason.isEmpty()) {
+        return true;
+    }
+    return MRVFileWriter::write(isNew ? path : MRVCoreUtil::GetUniqueFileName(path), bytes, error);
+}
