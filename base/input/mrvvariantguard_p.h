@@ -11,8 +11,9 @@
 #include <QtEndian>
 
 /**
- * Moves one value from a stream to a byte array, by tables of the types that its form may hold. Each
- * function takes one thing and returns false where it is not there whole, or not as Qt writes it.
+ * Moves one value from a stream to a byte array, by tables of the types that its form may hold.
+ * Each function takes one thing and returns false where it is not there whole, or not as Qt writes
+ * it.
  */
 class MRVVariantWalker
 {

@@ -8,8 +8,8 @@
 namespace MRV {
 
 /**
- * Keeps the bytes of a file that is about to be replaced: in the file @p path or, where that is
- * there with other bytes, in one whose name MRVCoreUtil::GetUniqueFileName() makes of it, so that
+ * Keeps @p bytes, those of a file that is about to be replaced: in the file @p path or, where that
+ * is there with other bytes, in one whose name MRVCoreUtil::GetUniqueFileName() makes of it, so that
  * nothing that was kept earlier goes.
  *
  * @param error if given, receives one translated line that names the file on failure; untouched on
