@@ -9,8 +9,8 @@ namespace MRV {
 
 /**
  * Keeps @p bytes, those of a file that is about to be replaced: in the file @p path or, where that
- * is there with other bytes, in one whose name MRVCoreUtil::GetUniqueFileName() makes of it, so that
- * nothing that was kept earlier goes.
+ * is there with other bytes, in one whose name MRVCoreUtil::GetUniqueFileName() makes of it, so
+ * that nothing that was kept earlier goes.
  *
  * @param error if given, receives one translated line that names the file on failure; untouched on
  *              success.
