@@ -157,6 +157,17 @@ private:
     bool m_isRun = false; // the last piece, to which more may belong
 };
 
+// CR LF, LF, or the CR of old systems.
+QString lineEndOf(const QString &xml)
+{
+    for (const char *end : {"\r\n", "\n", "\r"}) {
+        if (xml.contains(QLatin1String(end))) {
+            return QLatin1String(end);
+        }
+    }
+    return QStringLiteral("\n");
+}
+
 /** Writes a text again, with the changes in its document. */
 class Patcher
 {
@@ -165,8 +176,7 @@ public:
         : m_xml(xml)
         , m_pieces(pieces)
         , m_codec(codec)
-        , m_lineEnd(xml.contains(QLatin1String("\r\n")) ? QStringLiteral("\r\n")
-                                                        : QStringLiteral("\n"))
+        , m_lineEnd(lineEndOf(xml))
     {
         findIndent();
         m_out.reserve(xml.size());
@@ -200,7 +210,7 @@ private:
     QString separator(const MRVDomPiece &run) const
     {
         const QString layout = m_xml.mid(run.layoutStart, run.end - run.layoutStart);
-        const int line = layout.lastIndexOf(u'\n');
+        const int line = layout.lastIndexOf(m_lineEnd.back());
         return line < 0 ? QString() : m_lineEnd + layout.mid(line + 1);
     }
 
@@ -432,7 +442,7 @@ private:
     // With references for what the encoding lacks, and the line ends of the text.
     QString fitted(QString text) const
     {
-        if (m_lineEnd.size() > 1) {
+        if (m_lineEnd != u'\n') {
             text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
             text.replace(QLatin1String("\n"), m_lineEnd);
         }
