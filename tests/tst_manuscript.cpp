@@ -79,6 +79,40 @@ private Q_SLOTS:
         QVERIFY(!read.document->resource(QTextDocument::ImageResource, id).isNull());
     }
 
+    void linksToTheFileItself_data()
+    {
+        const auto row = [](const char *title, const char *name, const char *text,
+                            const char *address) {
+            QTest::newRow(title) << QString(name) << QString(text) << QString(address);
+        };
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("address");
+        row("name", "n2.html", "<a href='n2.html#f2'>x</a>", "#f2");
+        row("encoded", "n 2.html", "<a href='./n%202.html#%C3%BC'>x</a>", "#ü");
+        row("percent-in-name", "n%202.html", "<a href='n%202.html#f'>x</a>", "#f");
+        row("folders", "n2.html", "<a href='a/../n2.html#f'>x</a>", "#f");
+        row("file-url", "n2.html", "<a href='file://FOLDER/n2.html#f'>x</a>", "#f");
+        row("markdown", "b.md", "[x](b.md#head)", "#head");
+        row("whole-page", "n2.html", "<a href='n2.html'>x</a>", "n2.html");
+        row("other-folder", "n2.html", "<a href='a/n2.html#f'>x</a>", "a/n2.html#f");
+        row("longer-name", "2.html", "<a href='n2.html#f'>x</a>", "n2.html#f");
+        row("other-machine", "n2.html", "<a href='//n2.html#f'>x</a>", "//n2.html#f");
+        row("base", "n2.html", "<base href='a/'><a href='n2.html#f'>x</a>", "n2.html#f");
+    }
+    void linksToTheFileItself()
+    {
+        const QString text = cell("text").replace("FOLDER", m_folder->path());
+        QVERIFY(writeBytes(in(cell("name")), text.toUtf8()));
+        MRVManuscriptReader reader;
+        MRVManuscript read;
+        QVERIFY(reader.read(in(cell("name")), &read));
+        QTextCursor cursor(read.document.get());
+        cursor.setPosition(1);
+        QTEST(cursor.charFormat().anchorHref(), "address");
+        QCOMPARE(read.readingNotes(), QStringList());
+    }
+
     void missingPictures()
     {
         const QByteArray page = "<p>1<img src='gone.png' alt='A'>\n<img src='/dev/zero'>"

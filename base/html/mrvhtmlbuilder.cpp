@@ -217,7 +217,7 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
     MRVHtmlStyle style = outside.inherited();
     style.display = kind.display;
     style.innerDisplay = MRVHtmlStyle::Inline;
-    const QString address = mrvAddressOf(element);
+    const QString address = m_tree.addressOf(element);
     // A list in a list has no space around it.
     const bool isInner = kind.kind == MRVHtmlElement::List && m_writer.listDepth() > 0;
     QVector<MRVCssDeclaration> declarations = kind.declarations;

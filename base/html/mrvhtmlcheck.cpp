@@ -181,9 +181,10 @@ private:
 class Comparison
 {
 public:
-    Comparison(const MRVHtmlDisplays &displays, const QTextDocument &document,
-               MRVHtmlReport *report)
-        : m_displays(displays)
+    Comparison(const MRVHtmlTree &tree, const MRVHtmlDisplays &displays,
+               const QTextDocument &document, MRVHtmlReport *report)
+        : m_tree(tree)
+        , m_displays(displays)
         , m_held(document)
         , m_report(report)
     {
@@ -332,7 +333,7 @@ private:
             visitCaptions(element, address);
         }
         m_words.add(mrvFieldText(element), lineOf(element), expectWord());
-        const QString own = mrvAddressOf(element);
+        const QString own = m_tree.addressOf(element);
         visit(element, own.isEmpty() ? address : own);
     }
 
@@ -347,7 +348,7 @@ private:
         if (display != MRVHtmlStyle::Inline) {
             endWord();
         }
-        const QString own = mrvAddressOf(element);
+        const QString own = m_tree.addressOf(element);
         visit(element, own.isEmpty() ? address : own, true);
         if (display != MRVHtmlStyle::Inline) {
             endWord();
@@ -369,6 +370,7 @@ private:
         }
     }
 
+    const MRVHtmlTree &m_tree;
     const MRVHtmlDisplays &m_displays;
     HeldContent m_held;
     MRVHtmlReport *m_report;
@@ -385,7 +387,7 @@ private:
 void mrvCheckDocument(const MRVHtmlTree &tree, const MRVHtmlDisplays &displays,
                       const QTextDocument &document, MRVHtmlReport *report)
 {
-    Comparison comparison(displays, document, report);
+    Comparison comparison(tree, displays, document, report);
     comparison.visit(tree.root(), QString());
     comparison.finish();
 }

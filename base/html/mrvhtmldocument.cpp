@@ -8,6 +8,8 @@
 
 #include "core/mrvinputlimits.h"
 
+#include <QFileInfo>
+
 namespace {
 
 // The text of the first element of this kind.
@@ -26,7 +28,7 @@ QString titleOf(const GumboNode *root)
 
 } // namespace
 
-bool MRVHtmlDocument::read(const QString &html, const QString &folder, QTextDocument *document,
+bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocument *document,
                            MRVHtmlReport *report, QString *error)
 {
     const QString page = mrvWithEndTags(html);
@@ -35,7 +37,7 @@ bool MRVHtmlDocument::read(const QString &html, const QString &folder, QTextDocu
         return MRV::fail(error, fault);
     }
     MRVHtmlReport found;
-    const MRVHtmlTree tree(page);
+    const MRVHtmlTree tree(page, file);
     // With the groups of rows and the like that a page does not name.
     if (tree.depth() > 2 * MRVInputLimits::HtmlDepth) {
         return MRV::fail(error,
@@ -43,7 +45,7 @@ bool MRVHtmlDocument::read(const QString &html, const QString &folder, QTextDocu
                              .arg(MRVInputLimits::HtmlDepth));
     }
     MRVStyleSheet sheets;
-    const bool hasSheets = mrvAddSheets(tree, folder, &sheets, &found);
+    const bool hasSheets = mrvAddSheets(tree, QFileInfo(file).path(), &sheets, &found);
     const bool keepsHistory = document->isUndoRedoEnabled();
     document->clear();
     document->setUndoRedoEnabled(false);

@@ -42,14 +42,15 @@ public:
      * default font. Undoing is switched off while reading, which empties its history.
      *
      * @param html     a page, or a part of one.
-     * @param folder   absolute; where the names of style sheets count from. With an empty one, no
-     *                 sheet is loaded.
+     * @param file     the absolute path of the page's file, or of its folder with "/" at the end:
+     *                 where the names of style sheets count from, and how links name the page
+     *                 itself. With an empty one, no sheet is loaded. The file is not opened.
      * @param document untouched on failure; must not be null.
      * @param report   if given, receives what was found; untouched on failure.
      * @param error    if given, receives a translated text on failure; untouched on success.
      * @return false for a page that MRVHtmlReader::whyTooComplex() refuses, or whose tree is too
      *         deep nevertheless.
      */
-    static bool read(const QString &html, const QString &folder, QTextDocument *document,
+    static bool read(const QString &html, const QString &file, QTextDocument *document,
                      MRVHtmlReport *report = nullptr, QString *error = nullptr);
 };

@@ -3,7 +3,6 @@
 #include "html/mrvhtmltree_p.h"
 
 #include <QRegularExpression>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -347,15 +346,6 @@ QString MRVHtmlMarks::after(const GumboNode *element)
         return QChar(--m_quotations % 2 == 0 ? 0x201d : 0x2019);
     }
     return needsBrackets(element) ? QStringLiteral(")") : QString();
-}
-
-QString mrvAddressOf(const GumboNode *element)
-{
-    if (!mrvIsElement(element, GUMBO_TAG_A)) {
-        return QString();
-    }
-    const QString address = mrvAttributeOf(element, "href").trimmed();
-    return address.startsWith(u'#') ? QUrl::fromPercentEncoding(address.toUtf8()) : address;
 }
 
 bool mrvIsField(const GumboNode *element)

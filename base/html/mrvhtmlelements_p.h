@@ -65,12 +65,6 @@ private:
     int m_quotations = 0; // around this place
 };
 
-/**
- * The address of a link; empty for other elements. One within the page is decoded, as names of
- * elements are not encoded.
- */
-QString mrvAddressOf(const GumboNode *element);
-
 /** Whether an element is a field to fill in, which separates the words beside it. */
 bool mrvIsField(const GumboNode *element);
 /** The text that a field shows, in one line: its value, if it is of a type that shows that. */

@@ -1,7 +1,12 @@
 #include "html/mrvhtmltree_p.h"
 
+#include "util/mrvlocalfile.h"
+
+#include <QDir>
+#include <QFileInfo>
 #include <QPair>
 #include <QRegularExpression>
+#include <QUrl>
 #include <QVector>
 
 namespace {
@@ -16,6 +21,20 @@ GumboOptions options()
 const GumboAttribute *attribute(const GumboNode *element, const char *name)
 {
     return gumbo_get_attribute(&element->v.element.attributes, name);
+}
+
+// Whether the page says that its links count from another place than its own file.
+bool hasBase(const GumboNode *root)
+{
+    for (const GumboNode *child : MRVHtmlChildren(root)) {
+        const bool isHead = mrvIsElement(child, GUMBO_TAG_HEAD);
+        if (isHead
+            || (mrvIsElement(child, GUMBO_TAG_BASE)
+                && !mrvAttributeOf(child, "href").trimmed().isEmpty())) {
+            return !isHead || hasBase(child);
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -34,11 +53,14 @@ QString mrvWithEndTags(const QString &html)
     return QString(html).replace(whole, QStringLiteral("<\\1\\2></\\1>"));
 }
 
-MRVHtmlTree::MRVHtmlTree(const QString &html)
+MRVHtmlTree::MRVHtmlTree(const QString &html, const QString &file)
     : m_source(html.toUtf8())
 {
     const GumboOptions chosen = options();
     m_output = gumbo_parse_with_options(&chosen, m_source.constData(), size_t(m_source.size()));
+    if (!file.endsWith(u'/') && !hasBase(root())) {
+        m_file = QDir::cleanPath(file);
+    }
 }
 
 MRVHtmlTree::~MRVHtmlTree()
@@ -62,6 +84,35 @@ int MRVHtmlTree::depth() const
         }
     }
     return most;
+}
+
+QString MRVHtmlTree::addressOf(const GumboNode *element) const
+{
+    if (!mrvIsElement(element, GUMBO_TAG_A)) {
+        return QString();
+    }
+    const QString address = mrvAttributeOf(element, "href").trimmed();
+    const int hash = address.indexOf(u'#');
+    return hash == 0 || (hash > 0 && isOwnFile(address.left(hash)))
+        ? u'#' + QUrl::fromPercentEncoding(address.mid(hash + 1).toUtf8())
+        : address;
+}
+
+bool MRVHtmlTree::isOwnFile(const QString &address) const
+{
+    const QFileInfo own(m_file);
+    const QString decoded = QUrl::fromPercentEncoding(address.toUtf8());
+    if (m_file.isEmpty() || MRV::isElsewhere(address)
+        || !(address.endsWith(own.fileName()) || decoded.endsWith(own.fileName()))) {
+        return false;
+    }
+    if (address.startsWith(QLatin1String("file:"))) {
+        return QUrl(address).toLocalFile() == m_file;
+    }
+    const auto path = [&own](const QString &name) {
+        return QDir::cleanPath(QDir(own.path()).absoluteFilePath(name));
+    };
+    return path(address) == m_file || path(decoded) == m_file;
 }
 
 bool mrvIsElement(const GumboNode *node)

@@ -22,7 +22,8 @@ class MRVHtmlTree
     Q_DISABLE_COPY(MRVHtmlTree)
 
 public:
-    explicit MRVHtmlTree(const QString &html);
+    /** @p file is the absolute path of the page's file, if it has one; it is not opened. */
+    explicit MRVHtmlTree(const QString &html, const QString &file = QString());
     ~MRVHtmlTree();
 
     /** The document node. */
@@ -33,10 +34,18 @@ public:
     int depth() const;
     /** The page in UTF-8, as it was parsed. */
     const QByteArray &source() const { return m_source; }
+    /**
+     * The address of a link; empty for other elements. One within the page, by its file's name or
+     * without, is "#" and a name, which is decoded, as names of elements are not encoded.
+     */
+    QString addressOf(const GumboNode *element) const;
 
 private:
+    bool isOwnFile(const QString &address) const;
+
     QByteArray m_source; // the tree points into it
     GumboOutput *m_output;
+    QString m_file; // empty: links that name a file lead elsewhere
 };
 
 /** Whether @p node is an element, templates included. */

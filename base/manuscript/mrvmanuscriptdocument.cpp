@@ -5,7 +5,7 @@
 #include "util/mrvfailure.h"
 
 std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
-                                              MRVMarkdown::Options options, const QString &folder,
+                                              MRVMarkdown::Options options, const QString &file,
                                               MRVSourceReport *report, QString *error)
 {
     auto document = std::make_unique<MRVGuardedDocument>();
@@ -24,7 +24,7 @@ std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript
         }
     }
     MRVHtmlReport *found = report ? &report->html : nullptr;
-    if (!MRVHtmlDocument::read(html, folder, document.get(), found, error)) {
+    if (!MRVHtmlDocument::read(html, file, document.get(), found, error)) {
         return nullptr;
     }
     if (report && !report->head.title.isEmpty()) {

@@ -19,13 +19,13 @@ struct MRVSourceReport
  * A document of a text in a known format, without its pictures. It keeps no undo history.
  *
  * @param options of Markdown.
- * @param folder  where the names of style sheets count from; with an empty one, none is loaded.
+ * @param file    as MRVHtmlDocument::read() takes it.
  * @param report  if given, receives what was found out.
  * @param error   if given, receives a translated text on failure.
  * @return null for a text that is too complex to be read.
  */
 std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
                                               MRVMarkdown::Options options,
-                                              const QString &folder = QString(),
+                                              const QString &file = QString(),
                                               MRVSourceReport *report = nullptr,
                                               QString *error = nullptr);

@@ -171,8 +171,8 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         }
         read->document = mrvNewDocument(page, MRVManuscript::Html, {}, {}, &report, &reason);
     } else {
-        read->document =
-            mrvNewDocument(text, read->format, read->options, folder, &report, &reason);
+        const QString file = folder.isEmpty() ? QString() : folder + u'/' + read->fileName;
+        read->document = mrvNewDocument(text, read->format, read->options, file, &report, &reason);
     }
     if (!read->document) {
         return fail(NestingError, *read, reason);
