@@ -98,43 +98,60 @@ constexpr int NarrowestFigure = 150; // pixels
 
 } // namespace
 
-// Writes paragraphs, and the tables and frames among them, except for the one that they are inside.
-void MRVEPubWriter::writeFlow(int begin, int end, int inside)
+// Writes paragraphs, and the tables and frames among them.
+void MRVEPubWriter::writeFlow(int begin, int end)
 {
     const QVector<Container> outside = m_containers;
     m_containers.clear();
     for (int i = begin; i < end;) {
-        const int frame = m_frames.value(i, -1);
+        const int frame = frameAt(i);
         const int note = m_notes.beginningAt(i);
-        if (frame >= 0 && frame != inside) {
-            const int after = m_flow.frames.at(frame).end;
-            const bool hasCaption = m_caption < 0 && after < end && isTableCaption(frame, after);
-            if (!m_notes.isMoved(i) || m_openNote >= 0) {
-                closeContainers(0);
-                if (hasCaption) {
-                    m_out.append(element("<figure>\n", "<div class=\"figure\">\n"));
-                }
-                writeFrame(frame);
-                if (hasCaption) {
-                    writeCaption(after);
-                    m_out.append(element("\n</figure>\n", "\n</div>\n"));
-                }
-            }
-            i = hasCaption ? after + 1 : after;
+        if (frame >= 0) {
+            i = writeFramePlace(frame, end);
         } else if (!isWritten(i, begin, end)) {
             ++i;
-        } else if (i + 1 < end && isTableCaption(m_frames.value(i + 1, -1), i)) {
-            m_caption = i++;
         } else if (note >= 0 && m_flow.paragraphs.at(i).list < 0 && m_openNote != note) {
             closeContainers(0);
-            writeNote(note, inside);
-            i = m_notes.all().at(note).end;
+            writeNote(note, end);
+            i = qMin(end, m_notes.all().at(note).end);
+        } else if (i + 1 < end && isTableCaption(frameAt(i + 1), i)) {
+            arrange(i);
+            m_caption = i++;
         } else {
             i = writeBlock(i, end);
         }
     }
     closeContainers(0);
     m_containers = outside;
+}
+
+// Writes a table or a frame, and a caption below it; returns where they end.
+int MRVEPubWriter::writeFramePlace(int frame, int end)
+{
+    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    if (m_notes.isMoved(place.begin) && m_openNote < 0) {
+        return place.end;
+    }
+    const bool hasCaption = m_caption < 0 && place.end < end && isTableCaption(frame, place.end);
+    const QPair<int, int> levels = placeOf(place.begin);
+    arrangeIn(levels.first, levels.second);
+    if (hasCaption) {
+        m_out.append(element("<figure>\n", "<div class=\"figure\">\n"));
+    }
+    writeFrame(frame);
+    if (hasCaption) {
+        writeCaption(place.end);
+        m_out.append(element("\n</figure>\n", "\n</div>\n"));
+    }
+    return place.end + (hasCaption ? 1 : 0);
+}
+
+// The table or frame that begins with a paragraph, unless that is looked at from the inside; -1:
+// none.
+int MRVEPubWriter::frameAt(int paragraph) const
+{
+    const int frame = m_frames.value(paragraph, -1);
+    return frame == m_openFrame ? -1 : frame;
 }
 
 // Qt needs empty paragraphs around tables, and what has moved leaves none. At the ends, an empty
@@ -148,7 +165,7 @@ bool MRVEPubWriter::isWritten(int paragraph, int begin, int end) const
     if (place.length > 0 || place.list >= 0 || m_flow.hasRule(paragraph)) {
         return true;
     }
-    const bool isAtFrame = m_frames.contains(paragraph + 1)
+    const bool isAtFrame = frameAt(paragraph + 1) >= 0
         || (place.position > 0 && m_flow.text.at(place.position - 1) == QChar(0xfdd1));
     return paragraph > begin && paragraph + 1 < end && !isAtFrame;
 }
@@ -188,7 +205,7 @@ int MRVEPubWriter::writeBlock(int paragraph, int end)
 bool MRVEPubWriter::hasParagraphAfter(int paragraph, int end) const
 {
     const int next = paragraph + 1;
-    return next < end && !m_frames.contains(next) && m_flow.paragraphs.at(next).list < 0
+    return next < end && frameAt(next) < 0 && m_flow.paragraphs.at(next).list < 0
         && m_flow.paragraphs.at(next).length > 0
         && m_flow.formats.at(m_flow.paragraphs.at(next).format).toBlockFormat().indent()
         >= usedIndent()
@@ -232,27 +249,31 @@ void MRVEPubWriter::arrange(int paragraph)
     const MRVEPubParagraphFormat format = m_formats.paragraph(place.format);
     if (place.list >= 0) {
         arrangeItem(place, format);
-        return;
+    } else {
+        arrangeIn(format.quoteLevel, format.indent);
     }
+}
+
+void MRVEPubWriter::arrangeIn(int quoteLevel, int indent)
+{
     int kept = 0;
     int quotes = 0;
     for (; kept < m_containers.size(); ++kept) {
         const Container &container = m_containers.at(kept);
-        const bool stays =
-            container.isQuote ? quotes < format.quoteLevel : format.indent >= container.depth;
+        const bool stays = container.isQuote ? quotes < quoteLevel : indent >= container.depth;
         if (!stays) {
             break;
         }
         quotes += container.isQuote ? 1 : 0;
     }
     closeContainers(kept);
-    openQuotes(format.quoteLevel);
+    openQuotes(quoteLevel);
 }
 
 void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
                                 const MRVEPubParagraphFormat &format)
 {
-    const QTextListFormat list = m_flow.document.object(paragraph.list)->format().toListFormat();
+    const QTextListFormat list = listFormat(paragraph);
     const int depth = list.indent();
     int kept = 0;
     int quotes = 0;
@@ -287,17 +308,21 @@ void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
     openQuotes(format.quoteLevel);
 }
 
+QTextListFormat MRVEPubWriter::listFormat(const MRVEPubParagraph &paragraph) const
+{
+    return m_flow.document.object(paragraph.list)->format().toListFormat();
+}
+
 // Whether no more elements must be opened around text: parsers of XML take 256 within each other.
 bool MRVEPubWriter::isDeep() const
 {
     constexpr int Deepest = 200;
-    constexpr int InList = 2;
     return m_depth + InList * m_containers.size() > Deepest;
 }
 
 void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
 {
-    const QTextListFormat format = m_flow.document.object(paragraph.list)->format().toListFormat();
+    const QTextListFormat format = listFormat(paragraph);
     const ListType &type = listType(format.style());
     const bool isNumbered = format.style() <= QTextListFormat::ListDecimal;
     Container list;
@@ -479,7 +504,7 @@ int MRVEPubWriter::codeEnd(int paragraph, int end)
     for (; last < end; ++last) {
         const MRVEPubParagraph &place = m_flow.paragraphs.at(last);
         const MRVEPubParagraphFormat &next = m_formats.paragraph(place.format);
-        const bool goesOn = next.isPreformatted && place.list < 0 && !m_frames.contains(last)
+        const bool goesOn = next.isPreformatted && place.list < 0 && frameAt(last) < 0
             && next.quoteLevel == first.quoteLevel && next.look[Look::Top] == 0
             && place.headingLevel == 0 && m_notes.beginningAt(last) < 0;
         if (!goesOn) {
@@ -542,37 +567,55 @@ bool MRVEPubWriter::isPicture(int paragraph) const
     return hasPicture;
 }
 
-// Whether a paragraph is the caption of what stands from another one on, or up to it.
+// Whether a paragraph is the caption of what stands from another one on, or up to it. The first of
+// the two is where it can be written.
 bool MRVEPubWriter::isCaption(int paragraph, int shown)
 {
-    const auto formatOf = [this](int index) {
-        return m_flow.formats.at(m_flow.paragraphs.at(index).format);
-    };
-    const QTextFormat format = formatOf(paragraph);
+    const QTextFormat &format = m_flow.formats.at(m_flow.paragraphs.at(paragraph).format);
+    const bool isBefore = paragraph < shown;
     return format.intProperty(MRVTextFormat::CaptionProperty)
-        == (paragraph < shown ? MRVTextFormat::CaptionOfNext : MRVTextFormat::CaptionOfPrevious)
-        && format.intProperty(QTextFormat::BlockQuoteLevel)
-        == formatOf(shown).intProperty(QTextFormat::BlockQuoteLevel)
-        && (m_frames.contains(shown) || m_flow.paragraphs.at(shown).list < 0)
-        && isPlainText(paragraph);
+        == (isBefore ? MRVTextFormat::CaptionOfNext : MRVTextFormat::CaptionOfPrevious)
+        && isPlainText(paragraph)
+        && (isBefore ? standsWith(paragraph, shown) : standsWith(shown, paragraph));
+}
+
+// Whether what two paragraphs begin stands in the same quotations, the same item and the same note.
+bool MRVEPubWriter::standsWith(int first, int second)
+{
+    const QPair<int, int> one = placeOf(first);
+    const QPair<int, int> other = placeOf(second);
+    return one.first == other.first && one.second <= other.second
+        && (frameAt(second) >= 0 || m_flow.paragraphs.at(second).list < 0)
+        && m_notes.beginningAt(second) < 0 && (!m_notes.isMoved(second) || m_openNote >= 0);
+}
+
+// How deep a paragraph, or the table or frame that it begins, stands in quotations and in lists.
+QPair<int, int> MRVEPubWriter::placeOf(int paragraph)
+{
+    const int frame = frameAt(paragraph);
+    if (frame >= 0) { // with the same properties, where the reader of pages has set them
+        const QTextFrameFormat format = m_flow.frames.at(frame).frame->frameFormat();
+        return {format.intProperty(QTextFormat::BlockQuoteLevel),
+                format.intProperty(QTextFormat::BlockIndent)};
+    }
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVEPubParagraphFormat &format = m_formats.paragraph(place.format);
+    return {format.quoteLevel, place.list < 0 ? format.indent : listFormat(place).indent()};
 }
 
 bool MRVEPubWriter::isPlainText(int paragraph)
 {
     const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
-    return place.headingLevel == 0 && place.list < 0 && place.length > 0
-        && !m_frames.contains(paragraph) && !m_formats.paragraph(place.format).isPreformatted
-        && !m_notes.isMoved(paragraph) && m_notes.beginningAt(paragraph) < 0
-        && !m_flow.hasRule(paragraph) && !isPicture(paragraph)
-        && !isSceneBreak(m_flow.textOf(place));
+    return place.headingLevel == 0 && place.length > 0 && frameAt(paragraph) < 0
+        && !m_formats.paragraph(place.format).isPreformatted && !m_flow.hasRule(paragraph)
+        && !isPicture(paragraph) && !isSceneBreak(m_flow.textOf(place));
 }
 
 // Whether a paragraph is the caption of a table, beside which it stands.
 bool MRVEPubWriter::isTableCaption(int frame, int paragraph)
 {
     return frame >= 0 && m_flow.frames.at(frame).table && !isDeep()
-        && isCaption(paragraph, m_flow.frames.at(frame).begin)
-        && !m_notes.isMoved(m_flow.frames.at(frame).begin);
+        && isCaption(paragraph, m_flow.frames.at(frame).begin);
 }
 
 // The caption of a figure.
@@ -616,23 +659,31 @@ int MRVEPubWriter::writeFigure(int begin, int end)
     }
     if (isPicture(shown)) {
         writeText(shown, context);
-        m_out.append(QLatin1String(!hasTitle && next < end && isCaption(next, shown) ? "\n" : ""));
+        m_out.append(QLatin1String(!hasTitle && hasCaptionAfter(shown, end) ? "\n" : ""));
     } else {
         writePreformatted(shown, next);
     }
-    if (!hasTitle && next < end && isCaption(next, next - 1)) {
+    if (!hasTitle && hasCaptionAfter(next - 1, end)) {
         writeCaption(next++);
     }
     m_out.append(element("</figure>\n", "</div>\n"));
     return next;
 }
 
-// Whether a figure begins with a paragraph. A picture on its own is one, too.
+bool MRVEPubWriter::hasCaptionAfter(int shown, int end)
+{
+    return shown + 1 < end && isCaption(shown + 1, shown);
+}
+
+// Whether a figure begins with a paragraph. Outside of lists and quotations, a picture on its own is
+// one, too.
 bool MRVEPubWriter::isFigure(int paragraph, int end)
 {
-    const int next = isCode(paragraph) ? codeEnd(paragraph, end) : paragraph + 1;
-    const bool hasCaption = next < end && isCode(paragraph) && isCaption(next, next - 1);
-    const bool isTitle = next < end && (isPicture(next) || isCode(next)) && !m_frames.contains(next)
+    const bool isShown = isPicture(paragraph) || isCode(paragraph);
+    const int last = isCode(paragraph) ? codeEnd(paragraph, end) - 1 : paragraph;
+    const int next = paragraph + 1;
+    const bool isTitle = next < end && (isPicture(next) || isCode(next)) && frameAt(next) < 0
         && isCaption(paragraph, next);
-    return m_containers.isEmpty() && (isPicture(paragraph) || hasCaption || isTitle);
+    return (isPicture(paragraph) && m_containers.isEmpty()) || isTitle
+        || (isShown && hasCaptionAfter(last, end));
 }

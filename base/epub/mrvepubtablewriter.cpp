@@ -72,19 +72,22 @@ QByteArray frameRule(const QTextFrameFormat &format, double bodyPixels)
 void MRVEPubWriter::writeFrame(int frame)
 {
     const MRVEPubFrame &place = m_flow.frames.at(frame);
+    const int outside = std::exchange(m_openFrame, frame);
+    const int depth = m_depth;
+    constexpr int InTable = 4;
     if (isDeep()) {
-        writeFlow(place.begin, place.end, frame);
+        writeFlow(place.begin, place.end);
+        m_openFrame = outside;
         return;
     }
-    constexpr int InTable = 4;
-    const int depth = m_depth;
-    m_depth += place.table ? InTable : 1;
+    m_depth += InList * m_containers.size() + (place.table ? InTable : 1);
     if (place.table) {
         writeTable(frame);
     } else {
         writeBox(frame);
     }
     m_depth = depth;
+    m_openFrame = outside;
 }
 
 void MRVEPubWriter::writeBox(int frame)
@@ -93,7 +96,7 @@ void MRVEPubWriter::writeBox(int frame)
     const QByteArray rule = frameRule(place.frame->frameFormat(), m_formats.bodyPixels());
     const QByteArray name = m_book.looks.boxClass("frame", rule);
     m_out.append(name.isEmpty() ? QByteArray("<div>\n") : "<div class=\"" + name + "\">\n");
-    writeFlow(place.begin, place.end, frame);
+    writeFlow(place.begin, place.end);
     m_out.append(QLatin1String("</div>\n"));
 }
 
@@ -187,7 +190,7 @@ void MRVEPubWriter::writeCell(int frame, const QTextTableCell &cell, int lastRow
         writeCellText(begin, box, isHeader);
     } else {
         m_out.append(box.isEmpty() ? QByteArray(">\n") : " class=\"" + box + "\">\n");
-        writeFlow(begin, end, frame);
+        writeFlow(begin, end);
     }
     m_out.append(isHeader ? QLatin1String("</th>\n") : QLatin1String("</td>\n"));
 }

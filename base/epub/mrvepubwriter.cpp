@@ -120,7 +120,7 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
         m_targets.firstPage = m_page.fileName;
     }
     const int written = openSections(begin, end, plan);
-    writeFlow(written, end, -1);
+    writeFlow(written, end);
     if (m_book.options.notes == MRVEPubOptions::ChapterNotes) {
         writeNotes();
     }
@@ -177,7 +177,7 @@ int MRVEPubWriter::openChapter(int begin, int first, int end, const MRVEPubPages
         const int inner = m_flow.paragraphs.at(i).headingLevel;
         if (inner > level && inner <= plan.lastLevel() && !m_frames.contains(i)) {
             const MRVEPubSection *chapter = sectionOf(i, end, plan);
-            writeFlow(begin, i, -1);
+            writeFlow(begin, i);
             if (chapter) {
                 openSection(*chapter);
                 m_page.type = QString::fromLatin1(chapter->type);
@@ -290,17 +290,18 @@ void MRVEPubWriter::writeNotes()
         const int heading = m_notes.all().at(note).heading;
         if (heading >= 0) {
             m_openNote = note;
-            writeFlow(heading, heading + 1, -1);
+            writeFlow(heading, heading + 1);
             m_openNote = -1;
         }
-        writeNote(note, -1);
+        writeNote(note, m_flow.count());
     }
     m_out.append(QLatin1String(isSection ? "</section>\n" : "</div>\n"));
     m_pageNotes.clear();
     m_comments.clear();
 }
 
-void MRVEPubWriter::writeNote(int note, int inside)
+// Writes a note, or what there is of it up to the end of a page.
+void MRVEPubWriter::writeNote(int note, int end)
 {
     const MRVEPubNote &place = m_notes.all().at(note);
     const MRVEPubParagraph &first = m_flow.paragraphs.at(place.begin);
@@ -314,7 +315,7 @@ void MRVEPubWriter::writeNote(int note, int inside)
     }
     m_out.append(QLatin1String(">\n"));
     const int outer = std::exchange(m_openNote, note);
-    writeFlow(place.begin, place.end, inside);
+    writeFlow(place.begin, qMin(place.end, end));
     m_openNote = outer;
     m_out.append(element("</aside>\n", "</div>\n"));
 }

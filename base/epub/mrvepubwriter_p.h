@@ -35,6 +35,8 @@ public:
                     QString *error);
 
 private:
+    static constexpr int InList = 2; // elements around what an item holds
+
     // An element around paragraphs.
     struct Container
     {
@@ -89,17 +91,20 @@ private:
     void openSection(const MRVEPubSection &section);
     QString headingText(int paragraph) const;
     void writeNotes();
-    void writeNote(int note, int inside);
+    void writeNote(int note, int end);
     const MRVEPubEntry *chapterOf(const MRVEPubPages &plan) const;
     void writeNotesPage(const MRVEPubPages &plan, const MRVEPubEntry *chapter);
     int writeCommentMark(int fragment, int end, int position);
     void writeComment(const Comment &comment);
 
     // Paragraphs: mrvepubflowwriter.cpp
-    void writeFlow(int begin, int end, int inside);
+    void writeFlow(int begin, int end);
+    int writeFramePlace(int frame, int end);
+    int frameAt(int paragraph) const;
     int writeBlock(int paragraph, int end);
     bool isWritten(int paragraph, int begin, int end) const;
     void arrange(int paragraph);
+    void arrangeIn(int quoteLevel, int indent);
     void arrangeItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
     void openList(const MRVEPubParagraph &paragraph);
     void openItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
@@ -113,7 +118,11 @@ private:
     bool isPicture(int paragraph) const;
     bool isFigure(int paragraph, int end);
     bool isCaption(int paragraph, int shown);
+    bool hasCaptionAfter(int shown, int end);
     bool isPlainText(int paragraph);
+    bool standsWith(int first, int second);
+    QPair<int, int> placeOf(int paragraph);
+    QTextListFormat listFormat(const MRVEPubParagraph &paragraph) const;
     bool isTableCaption(int frame, int paragraph);
     void writeCaption(int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
@@ -178,6 +187,7 @@ private:
     QString m_itemLabel; // the text before that of the next paragraph
     int m_itemHole = 0; // of the item that was begun last
     int m_openNote = -1; // the note that is being written
+    int m_openFrame = -1; // the innermost table or frame that is
     QVector<QByteArray> m_sections; // end tags
     QVector<int> m_pageNotes; // whose marks stand on the page, and that are moved
     QHash<int, bool> m_isNoteWritten;

@@ -4,6 +4,8 @@
 #include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 
+#include <algorithm>
+
 namespace {
 
 // Qt visits all items of a list when one is added. Longer lists go on in another one; of numbered
@@ -464,10 +466,30 @@ void MRVHtmlWriter::setMarker(QTextBlockFormat::MarkerType marker)
     }
 }
 
-QTextTable *MRVHtmlWriter::writeTable(int rows, int columns, const QTextTableFormat &format)
+// Makes the first paragraph of an item that begins with a table, so that its number stands above.
+void MRVHtmlWriter::startItem()
 {
     endParagraph();
+    const auto isItem = [](const Box &box) { return box.box.isItem || box.box.list; };
+    const auto box = std::find_if(m_boxes.rbegin(), m_boxes.rend(), isItem);
+    if (box != m_boxes.rend() && box->box.isItem && !box->isItemStarted
+        && box->list->format.style() != QTextListFormat::ListStyleUndefined) {
+        openParagraph();
+        endParagraph();
+    }
+}
+
+QTextTable *MRVHtmlWriter::writeTable(int rows, int columns, const QTextTableFormat &format)
+{
+    startItem();
     QTextTableFormat placed = format;
+    const Box &box = m_boxes.constLast();
+    if (box.listDepth > 0 && box.list->format.indent() > 0) {
+        placed.setProperty(QTextFormat::BlockIndent, box.list->format.indent());
+    }
+    if (box.quoteLevel > 0) {
+        placed.setProperty(QTextFormat::BlockQuoteLevel, box.quoteLevel);
+    }
     QTextBlockFormat first;
     startBoxes(&first);
     if (first.pageBreakPolicy() != QTextFormat::PageBreak_Auto) {

@@ -115,6 +115,7 @@ private:
     void setBottomMargin(qreal margin);
     void startBoxes(QTextBlockFormat *format);
     bool joinList(QTextBlockFormat *format);
+    void startItem();
     void setParagraphFormat(const QTextBlockFormat &format, const QTextCharFormat &text);
     void writeCollapsed(const QString &text, const MRVHtmlStyle &style);
     void writePreformatted(const QString &text, const MRVHtmlStyle &style);
