@@ -21,6 +21,14 @@ constexpr double PixelsPerPoint = 4 / 3.0;
 constexpr double QuotePixels = 40; // of a quotation, on both sides
 constexpr double IndentPixels = 40;
 
+constexpr MRVEPubDirection directions[] = {
+    {"ltr", "<span dir=\"ltr\">", "</span>", true},
+    {"rtl", "<span dir=\"rtl\">", "</span>", true},
+    {"auto", "<bdi>", "</bdi>", false},
+    {"ltr-override", "<bdo dir=\"ltr\">", "</bdo>", true},
+    {"rtl-override", "<bdo dir=\"rtl\">", "</bdo>", true},
+};
+
 uint bit(MRVEPubInline element)
 {
     return 1U << int(element);
@@ -167,6 +175,7 @@ MRVEPubTextFormat MRVEPubFormats::readText(const QTextCharFormat &format) const
     const QString language =
         MRV::languageTag(format.stringProperty(MRVTextFormat::LanguageProperty));
     text.language = language == m_language ? QString() : language;
+    readDirections(format, &text);
     if (text.isPicture) {
         return text;
     }
@@ -181,6 +190,20 @@ MRVEPubTextFormat MRVEPubFormats::readText(const QTextCharFormat &format) const
     add(format.verticalAlignment() == QTextCharFormat::AlignSubScript, MRVEPubInline::Lowered);
     readLook(format, &text);
     return text;
+}
+
+void MRVEPubFormats::readDirections(const QTextCharFormat &format, MRVEPubTextFormat *text) const
+{
+    const QStringList names =
+        format.stringProperty(MRVTextFormat::DirectionProperty).split(u' ', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        for (const MRVEPubDirection &direction : directions) {
+            if (name == QLatin1String(direction.name)
+                && (direction.isInEPub2 || m_version == MRVEPubVersion::EPub3)) {
+                text->directions.append(&direction);
+            }
+        }
+    }
 }
 
 void MRVEPubFormats::readLook(const QTextCharFormat &format, MRVEPubTextFormat *text) const

@@ -11,7 +11,27 @@
 #include <QVector>
 
 /** Elements of text, innermost last. */
-enum class MRVEPubInline { Link, Span, Strong, Emphasis, Code, Mark, Strike, Raised, Lowered };
+enum class MRVEPubInline {
+    Direction,
+    Link,
+    Span,
+    Strong,
+    Emphasis,
+    Code,
+    Mark,
+    Strike,
+    Raised,
+    Lowered
+};
+
+/** An element that sets the direction of the text in it. */
+struct MRVEPubDirection
+{
+    const char *name; // in MRVTextFormat::DirectionProperty
+    const char *begin; // tags
+    const char *end;
+    bool isInEPub2;
+};
 
 /** What a character format means, wherever it stands. */
 struct MRVEPubTextFormat
@@ -21,7 +41,8 @@ struct MRVEPubTextFormat
     bool isComment = false; // an annotation or a note in the text
     bool isBold = false;
     bool hasNames = false;
-    uint elements = 0; // bits by MRVEPubInline, the weight and the link left out
+    uint elements = 0; // bits by MRVEPubInline, the directions, the weight and the link left out
+    QVector<const MRVEPubDirection *> directions; // outermost first
     MRVEPubTextLook look; // with the size of the body's text as 100
     QString address;
     QString language; // empty: the book's
@@ -78,6 +99,7 @@ public:
 private:
     void findBody();
     MRVEPubTextFormat readText(const QTextCharFormat &format) const;
+    void readDirections(const QTextCharFormat &format, MRVEPubTextFormat *text) const;
     void readLook(const QTextCharFormat &format, MRVEPubTextFormat *text) const;
     MRVEPubParagraphFormat readParagraph(const QTextBlockFormat &format) const;
     int lineHeight(const QTextBlockFormat &format) const;

@@ -7,6 +7,8 @@
 #include <QTextDocument>
 #include <QTextFrame>
 
+#include <algorithm>
+
 namespace {
 
 struct InlineElement
@@ -18,6 +20,7 @@ struct InlineElement
 
 // In the order in which they are opened.
 constexpr InlineElement inlineElements[] = {
+    {MRVEPubInline::Direction, "", ""}, // has tags of its own
     {MRVEPubInline::Link, "a", "a"},
     {MRVEPubInline::Span, "span", "span"},
     {MRVEPubInline::Strong, "strong", "strong"},
@@ -129,18 +132,14 @@ void MRVEPubWriter::writeFragment(int index, int end, int position, const MRVEPu
     const MRVEPubFragment &fragment = m_flow.fragments.at(index);
     const MRVEPubTextFormat &format = m_formats.text(fragment.format);
     const Needs needs = needsOf(fragment.format, context);
-    int kept = 0;
-    while (kept < m_elements.size() && needs.include(m_elements.at(kept))) {
-        ++kept;
-    }
-    closeElements(kept);
+    closeUnfit(needs);
     QByteArray id;
     if (format.hasNames) {
         writePageBreaks(fragment.format);
         id = takeId(fragment.format);
     }
     if (needs.elements & ~openElements() & bit(MRVEPubInline::Link)) {
-        closeElements(commonElements(index, end, context));
+        beginLink(index, end, needs, context);
         openLink(needs.link, position, &id);
     }
     if (format.hasNames && !format.isPicture) {
@@ -177,6 +176,7 @@ MRVEPubWriter::Needs MRVEPubWriter::needsOf(int index, const MRVEPubContext &con
     const MRVEPubTextFormat &format = m_formats.text(index);
     Needs needs;
     needs.span = m_formats.span(index, context);
+    needs.directions = format.directions;
     needs.link = format.address.isEmpty() ? -1 : linkNumber(format.address);
     needs.elements = format.elements;
     needs.elements |= format.isBold && !context.isBold ? bit(MRVEPubInline::Strong) : 0;
@@ -195,9 +195,47 @@ uint MRVEPubWriter::openElements() const
     return open;
 }
 
+int MRVEPubWriter::openDirections() const
+{
+    return int(std::count_if(m_elements.begin(), m_elements.end(),
+                             [](const Element &element) { return element.direction; }));
+}
+
+// How many of the open elements may stay around what needs these.
+int MRVEPubWriter::fittingElements(const Needs &needs) const
+{
+    int fitting = 0;
+    int level = 0;
+    for (; fitting < m_elements.size(); ++fitting) {
+        const Element &element = m_elements.at(fitting);
+        const bool fits = element.direction
+            ? needs.directions.value(level++, nullptr) == element.direction
+            : needs.include(element);
+        if (!fits) {
+            break;
+        }
+    }
+    return fitting;
+}
+
+// A direction that begins stands around everything but links, since it must not be closed before it
+// ends: two of them beside each other are read in another order than one.
+void MRVEPubWriter::closeUnfit(const Needs &needs)
+{
+    closeElements(fittingElements(needs));
+    const auto isOuter = [](const Element &element) {
+        return element.direction || element.kind == MRVEPubInline::Link;
+    };
+    if (needs.directions.size() > openDirections()) {
+        const auto inner = std::find_if_not(m_elements.cbegin(), m_elements.cend(), isOuter);
+        closeElements(int(inner - m_elements.cbegin()));
+    }
+}
+
 // Opens what is needed beside what is open.
 void MRVEPubWriter::addElements(const Needs &needs)
 {
+    addDirections(needs.directions);
     const uint missing = needs.elements & ~openElements();
     for (int kind = int(MRVEPubInline::Span); missing >> kind != 0; ++kind) {
         if (missing & (1U << kind)) {
@@ -207,30 +245,39 @@ void MRVEPubWriter::addElements(const Needs &needs)
             m_out.append(element(row.epub3, row.epub2));
             m_out.append(isSpan ? needs.span : QByteArray());
             m_out.append('>');
-            m_elements.append({row.kind, -1, isSpan ? needs.span : QByteArray()});
+            m_elements.append({row.kind, -1, isSpan ? needs.span : QByteArray(), nullptr});
         }
     }
 }
 
-// How many of the open elements go on to the end of the link that begins with a fragment, so that
-// it is one element.
-int MRVEPubWriter::commonElements(int index, int end, const MRVEPubContext &context)
+void MRVEPubWriter::addDirections(const QVector<const MRVEPubDirection *> &directions)
+{
+    for (int level = openDirections(); level < directions.size(); ++level) {
+        m_out.append(QLatin1String(directions.at(level)->begin));
+        m_elements.append({MRVEPubInline::Direction, -1, QByteArray(), directions.at(level)});
+    }
+}
+
+// Closes what does not go on to the end of the link that begins with a fragment, so that it is one
+// element, and opens the directions that do.
+void MRVEPubWriter::beginLink(int index, int end, const Needs &needs, const MRVEPubContext &context)
 {
     int common = m_elements.size();
+    QVector<const MRVEPubDirection *> directions = needs.directions;
     const QString address = m_formats.text(m_flow.fragments.at(index).format).address;
-    for (int i = index; i < end && common > 0; ++i) {
+    for (int i = index; i < end && (common > 0 || !directions.isEmpty()); ++i) {
         const int format = m_flow.fragments.at(i).format;
         if (m_formats.text(format).address != address) {
             break;
         }
-        const Needs needs = needsOf(format, context);
-        int kept = 0;
-        while (kept < common && needs.include(m_elements.at(kept))) {
-            ++kept;
-        }
-        common = kept;
+        const Needs inside = needsOf(format, context);
+        common = qMin(common, fittingElements(inside));
+        const auto differ = std::mismatch(directions.begin(), directions.end(),
+                                          inside.directions.begin(), inside.directions.end());
+        directions.resize(int(differ.first - directions.begin()));
     }
-    return common;
+    closeElements(common);
+    addDirections(directions);
 }
 
 void MRVEPubWriter::openLink(int link, int position, QByteArray *id)
@@ -256,13 +303,17 @@ void MRVEPubWriter::openLink(int link, int position, QByteArray *id)
         m_page.attributes.append(attributes);
     }
     m_page.holes.append({m_out.size(), MRVEPubHole::LinkBegin, link, 0, m_linkAttributes});
-    m_elements.append({MRVEPubInline::Link, link, QByteArray()});
+    m_elements.append({MRVEPubInline::Link, link, QByteArray(), nullptr});
 }
 
 void MRVEPubWriter::closeElements(int count)
 {
     while (m_elements.size() > count) {
         const Element element = m_elements.takeLast();
+        if (element.direction) {
+            m_out.append(QLatin1String(element.direction->end));
+            continue;
+        }
         if (element.kind == MRVEPubInline::Link) {
             m_page.holes.append(
                 {m_out.size(), MRVEPubHole::LinkEnd, element.link, 0, m_linkAttributes});

@@ -54,6 +54,7 @@ private:
         MRVEPubInline kind;
         int link = -1; // in the book's links
         QByteArray attributes; // of a span
+        const MRVEPubDirection *direction = nullptr;
     };
 
     // The elements that a fragment of text stands in.
@@ -62,6 +63,7 @@ private:
         uint elements = 0; // bits by MRVEPubInline
         int link = -1;
         QByteArray span;
+        QVector<const MRVEPubDirection *> directions;
 
         bool include(const Element &element) const;
     };
@@ -150,8 +152,12 @@ private:
     void writeFragment(int index, int end, int position, const MRVEPubContext &context);
     Needs needsOf(int index, const MRVEPubContext &context);
     uint openElements() const;
+    int openDirections() const;
+    int fittingElements(const Needs &needs) const;
     void addElements(const Needs &needs);
-    int commonElements(int index, int end, const MRVEPubContext &context);
+    void addDirections(const QVector<const MRVEPubDirection *> &directions);
+    void closeUnfit(const Needs &needs);
+    void beginLink(int index, int end, const Needs &needs, const MRVEPubContext &context);
     void openLink(int link, int position, QByteArray *id);
     void closeElements(int count);
     void writePicture(const MRVEPubFragment &fragment, const QByteArray &id);

@@ -87,6 +87,27 @@ void makeIndentedLine(const GumboNode *element, MRVHtmlStyle *style)
     }
 }
 
+// Adds the direction that an element in a line sets for what it holds. More levels than texts have
+// would only make formats long.
+void addDirection(const GumboNode *element, QTextCharFormat *text)
+{
+    constexpr int MostLevels = 8;
+    QString direction = mrvAttributeOf(element, "dir").toLower();
+    const bool isFixed = direction == QLatin1String("ltr") || direction == QLatin1String("rtl");
+    if (mrvIsElement(element, GUMBO_TAG_BDI) && !isFixed) {
+        direction = QStringLiteral("auto");
+    } else if (mrvIsElement(element, GUMBO_TAG_BDO) && isFixed) {
+        direction += QLatin1String("-override");
+    } else if (!isFixed && direction != QLatin1String("auto")) {
+        return;
+    }
+    const QString outside = text->stringProperty(MRVTextFormat::DirectionProperty);
+    if (outside.count(u' ') + 1 < MostLevels) {
+        text->setProperty(MRVTextFormat::DirectionProperty,
+                          QString(outside + u' ' + direction).trimmed());
+    }
+}
+
 bool hasNextElement(const GumboNode *element)
 {
     const GumboVector &siblings = element->parent->type == GUMBO_NODE_DOCUMENT
@@ -385,6 +406,7 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
     if (style.background.style() != Qt::NoBrush) {
         style.text.setBackground(style.background);
     }
+    addDirection(element, &style.text);
     const QString space = style.display == MRVHtmlStyle::Apart ? QStringLiteral(" ") : QString();
     m_writer.writeText(space, style);
     if (mrvIsPicture(element)) { // of SVG

@@ -103,6 +103,12 @@ public:
         HeaderCellProperty = 0x100103,
         /** Caption, of a paragraph: it is the caption of the picture, table or code beside it. */
         CaptionProperty = 0x100104,
+        /**
+         * QString, of text: the directions that elements around it set, outermost first, separated
+         * by blanks. "ltr", "rtl" and "auto" keep the order of what is inside apart from that of
+         * what is outside; "ltr-override" and "rtl-override" also set that of each character.
+         */
+        DirectionProperty = 0x100105,
     };
 
     /** Values of CaptionProperty. */
