@@ -22,6 +22,8 @@
 
 namespace {
 
+constexpr int LowestNotes = 4; // of six, for headings of chapters and of what they call notes
+
 bool isRemote(const QString &id)
 {
     const QString scheme = QUrl(id).scheme();
@@ -112,7 +114,7 @@ bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, Q
 
 void MRVEPubBook::addPage(const MRVEPubPage &page)
 {
-    pages.insert(pages.size() - (notesLevel > 0 ? 1 : 0), page);
+    pages.insert(documentEnd(), page);
 }
 
 void MRVEPubBook::addPart(const QString &partTitle)
@@ -179,11 +181,24 @@ MRVEPubPage MRVEPubBook::beginPage()
 {
     MRVEPubPage page;
     if (std::exchange(isPartOpen, false)) {
-        page = pages.takeAt(pages.size() - (notesLevel > 0 ? 2 : 1));
+        page = pages.takeAt(documentEnd() - 1);
     } else {
         page.fileName = QStringLiteral("page-%1.xhtml").arg(++pageNumber, 3, 10, QChar(u'0'));
     }
     return page;
+}
+
+MRVEPubPage MRVEPubBook::adoptNotes(MRVEPubPage *chapter, int level)
+{
+    if (options.notes != MRVEPubOptions::BookNotes || areNotesInChapter
+        || chapter->type != QLatin1String("endnotes")) {
+        return MRVEPubPage();
+    }
+    const MRVEPubPage others = notesLevel > 0 ? pages.takeLast() : MRVEPubPage();
+    areNotesInChapter = true;
+    notesLevel = qMin(level, LowestNotes);
+    chapter->fileName = NotesPage;
+    return others;
 }
 
 MRVEPubPage MRVEPubBook::beginNotes(int level)
@@ -193,12 +208,11 @@ MRVEPubPage MRVEPubBook::beginNotes(int level)
     page.title = text(QT_TRANSLATE_NOOP("MRVEPubBook", "Notes"));
     page.type = QStringLiteral("endnotes");
     if (notesLevel == 0) {
-        constexpr int Lowest = 4; // of six, for headings of chapters and of what they call notes
         const bool isEPub3 = version == MRVEPubVersion::EPub3;
-        notesLevel = qBound(1, level, Lowest);
+        notesLevel = qBound(1, level, LowestNotes);
         const QByteArray tag = 'h' + QByteArray::number(notesLevel);
         MRVEPubPage first = page;
-        first.body =
+        first.begin =
             (isEPub3 ? "<section epub:type=\"endnotes\" role=\"doc-endnotes\">\n" : "<div>\n")
             + ('<' + tag + '>' + mrvEPubValue(page.title) + "</" + tag + ">\n");
         first.end = isEPub3 ? "</section>\n" : "</div>\n";
@@ -209,14 +223,16 @@ MRVEPubPage MRVEPubBook::beginNotes(int level)
 
 void MRVEPubBook::addNotes(const MRVEPubPage &page)
 {
-    MRVEPubPage &last = pages.last();
+    const auto last = std::find_if(pages.rbegin(), pages.rend(), [](const MRVEPubPage &one) {
+        return one.fileName == NotesPage;
+    });
     for (MRVEPubHole hole : page.holes) {
-        hole.offset += last.body.size();
-        hole.extra += hole.extra < 0 ? 0 : last.attributes.size();
-        last.holes.append(hole);
+        hole.offset += last->body.size();
+        hole.extra += hole.extra < 0 ? 0 : last->attributes.size();
+        last->holes.append(hole);
     }
-    last.body += page.body;
-    last.attributes += page.attributes;
+    last->body += page.body;
+    last->attributes += page.attributes;
 }
 
 QVector<MRVEPubEntry> MRVEPubBook::contents() const
@@ -224,7 +240,7 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
     QVector<MRVEPubEntry> entries;
     QVector<int> open;
     QVector<MRVEPubEntry> all = headings;
-    if (notesLevel > 0 && !all.isEmpty()) {
+    if (notesLevel > 0 && !areNotesInChapter && !all.isEmpty()) {
         const MRVEPubPage &notesPage = pages.constLast();
         all.append({notesPage.title, NotesPage, hasParts ? 0 : notesLevel - 1});
     }
@@ -306,7 +322,8 @@ QString MRVEPubBook::resolved(const QString &href, int document) const
 
 QByteArray MRVEPubBook::pageBytes(const MRVEPubPage &page) const
 {
-    QByteArray bytes = head(page.title.isEmpty() ? title() : page.title).toUtf8() + "<body>\n";
+    QByteArray bytes =
+        head(page.title.isEmpty() ? title() : page.title).toUtf8() + "<body>\n" + page.begin;
     bytes.reserve(bytes.size() + page.body.size() + 40 * page.holes.size());
     int done = 0;
     for (const MRVEPubHole &hole : page.holes) {

@@ -54,8 +54,9 @@ struct MRVEPubPage
     // As epub:type has it: "titlepage", "chapter", "part", "glossary"...; empty where nothing
     // tells.
     QString type;
-    QByteArray body; // UTF-8
-    QByteArray end; // of what the body has begun
+    QByteArray begin; // what stands around the body, UTF-8 as that
+    QByteArray body;
+    QByteArray end;
     QVector<MRVEPubHole> holes; // by offset
     QVector<QByteArray> attributes;
 };
@@ -112,6 +113,7 @@ public:
     int notes = 0; // that are linked with a mark
     int comments = 0; // that became notes
     int notesLevel = 0; // of the heading above all notes; 0: the book has no page for them
+    bool areNotesInChapter = false; // of a manuscript, which is then the page for them
     bool isPartOpen = false; // the last page holds the title of a part, which goes on
     bool hasParts = false; // which stand above all headings of documents
 
@@ -162,6 +164,14 @@ public:
     /** Adds a title page from the metadata before all others, where the book begins with none. */
     void addTitlePage();
     /**
+     * Makes a chapter of notes the page for those of the whole book, where these have one and none
+     * is it yet.
+     *
+     * @param level of its heading.
+     * @return the notes that it has to end with; they may be none.
+     */
+    MRVEPubPage adoptNotes(MRVEPubPage *chapter, int level);
+    /**
      * Begins the page of notes, which stays the last one, where the book has none.
      *
      * @param level of the headings of chapters; 0: without any.
@@ -172,6 +182,11 @@ public:
     void addNotes(const MRVEPubPage &page);
 
 private:
+    // After the pages of documents comes one that was made for notes.
+    int documentEnd() const
+    {
+        return pages.size() - (notesLevel > 0 && !areNotesInChapter ? 1 : 0);
+    }
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
     QString addPicture(const MRVDocumentPicture &picture, const QString &name);

@@ -460,8 +460,11 @@ void MRVEPubWriter::writeParagraph(int paragraph, MRVEPubKind kind, const char *
 void MRVEPubWriter::writeHeading(int paragraph)
 {
     const int own = m_flow.paragraphs.at(paragraph).headingLevel;
-    const bool isOfNotes = m_page.fileName == MRVEPubBook::NotesPage; // below that of a chapter
-    const int level = isOfNotes ? qMax(own, m_book.notesLevel + 2) : own;
+    const bool isInNote = m_openNote >= 0;
+    const bool isOfBook = isInNote && m_page.fileName == MRVEPubBook::NotesPage;
+    const int level = isOfBook ? qMax(own, m_book.notesLevel + 2) : own; // below a chapter's
+    const bool isListed =
+        !isInNote || (!isOfBook && m_notes.all().at(m_openNote).heading == paragraph);
     const QByteArray element = "h" + QByteArray::number(level);
     const auto kind = MRVEPubKind(int(MRVEPubKind::Heading1) + level - 1);
     MRVEPubContext context;
@@ -471,15 +474,12 @@ void MRVEPubWriter::writeHeading(int paragraph)
         takeId(m_flow.paragraphs.at(paragraph).length > 0
                    ? m_flow.fragments.at(m_flow.paragraphs.at(paragraph).firstFragment).format
                    : -1);
-    if (!text.isEmpty()) {
+    if (!text.isEmpty() && isListed) {
         if (id.isEmpty()) {
             id = uniqueId(QStringLiteral("heading-%1").arg(m_book.headings.size() + 1));
         }
-        if (!isOfNotes) {
-            m_page.title = m_page.title.isEmpty() ? text : m_page.title;
-            m_book.headings.append(
-                {text, m_page.fileName + u'#' + QString::fromUtf8(id), level - 1});
-        }
+        m_page.title = m_page.title.isEmpty() ? text : m_page.title;
+        m_book.headings.append({text, m_page.fileName + u'#' + QString::fromUtf8(id), level - 1});
     }
     m_out.append('<' + element);
     const int hole = writeClass(look);
@@ -675,8 +675,8 @@ bool MRVEPubWriter::hasCaptionAfter(int shown, int end)
     return shown + 1 < end && isCaption(shown + 1, shown);
 }
 
-// Whether a figure begins with a paragraph. Outside of lists and quotations, a picture on its own is
-// one, too.
+// Whether a figure begins with a paragraph. Outside of lists and quotations, a picture on its own
+// is one, too.
 bool MRVEPubWriter::isFigure(int paragraph, int end)
 {
     const bool isShown = isPicture(paragraph) || isCode(paragraph);

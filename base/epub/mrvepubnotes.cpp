@@ -155,16 +155,36 @@ struct MRVEPubNotes::Finder
         addGroup(group, end);
     }
 
-    // Up to a heading or a rule; in a table, each note stands alone.
+    // Up to a rule, or a heading that is none of a note's; in a table, each note stands alone.
     int sectionEnd(int begin) const
     {
         int end = begin + 1;
         while (end < flow.count() && !flow.isInFrame(begin)
-               && (flow.isInFrame(end)
-                   || (flow.paragraphs.at(end).headingLevel == 0 && !flow.hasRule(end)))) {
+               && (flow.isInFrame(end) || !(flow.hasRule(end) || endsNotes(end, begin)))) {
             ++end;
         }
         return end;
+    }
+
+    // A heading stands in a note when it is in the list item, or above text that looks like the
+    // note and unlike the body's.
+    bool endsNotes(int heading, int note) const
+    {
+        const MRVEPubParagraph &place = flow.paragraphs.at(heading);
+        const MRVEPubParagraph &first = flow.paragraphs.at(note);
+        if (place.headingLevel == 0) {
+            return false;
+        }
+        if (first.list >= 0) {
+            return place.list < 0 && formats.paragraph(place.format).indent < depthOf(first);
+        }
+        int next = heading + 1;
+        while (next < flow.count() && flow.isBlank(next)) {
+            ++next;
+        }
+        return next == flow.count() || flow.isInFrame(next) || candidates.contains(next)
+            || flow.paragraphs.at(next).headingLevel > 0 || looks.at(next) == body
+            || looks.at(next) != looks.at(note);
     }
 
     // A note that cannot be told from the text stays: one that is torn apart is worse than one that
@@ -324,7 +344,7 @@ struct MRVEPubNotes::Finder
         int end = note.end;
         int last = end; // what is not blank ends
         for (int i = end; i < limit; ++i) {
-            if (flow.isInFrame(i)) {
+            if (flow.isInFrame(i) || flow.paragraphs.at(i).headingLevel > 0) {
                 last = i + 1;
                 continue;
             }
@@ -455,7 +475,9 @@ void MRVEPubNotes::place(const QVector<int> &pages)
     }
     int begin = 0;
     for (int i = 1; i <= m_flow.count(); ++i) {
-        if (i == m_flow.count() || m_flow.paragraphs.at(i).headingLevel > 0 || m_flow.hasRule(i)) {
+        const bool isDivided = i == m_flow.count()
+            || (!isMoved(i) && (m_flow.paragraphs.at(i).headingLevel > 0 || m_flow.hasRule(i)));
+        if (isDivided) {
             moveHeadings(begin, i);
             begin = i;
         }

@@ -59,7 +59,7 @@ QString identifierOf(const MRVEPubBook &book)
     QCryptographicHash hash(QCryptographicHash::Sha1); // as the UUID is computed of it
     hash.addData(book.title().toUtf8() + '\n' + book.metadata.authors.join(u'\n').toUtf8());
     for (const MRVEPubPage &page : book.pages) {
-        hash.addData(page.body);
+        hash.addData(page.begin + page.body + page.end);
     }
     // None of the namespaces of RFC 4122 fits, so this one is the project's own.
     const QUuid space(0x6d727665, 0x7075, 0x4b21, 0x9b, 0x4e, 0x2f, 0x61, 0x0c, 0x7d, 0x55, 0x10);

@@ -119,7 +119,8 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
     if (m_targets.firstPage.isEmpty()) {
         m_targets.firstPage = m_page.fileName;
     }
-    const int written = openSections(begin, end, plan);
+    MRVEPubPage notes; // of other chapters, which go to the end of this page
+    const int written = openSections(begin, end, plan, &notes);
     writeFlow(written, end);
     if (m_book.options.notes == MRVEPubOptions::ChapterNotes) {
         writeNotes();
@@ -128,10 +129,13 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
         m_out.append(QLatin1String("<p class=\"blank\"><br /></p>\n"));
     }
     while (!m_sections.isEmpty()) {
-        m_out.append(m_sections.takeLast());
+        m_page.end += m_sections.takeLast();
     }
     m_page.body = m_out.take();
     m_book.addPage(m_page);
+    if (!notes.body.isEmpty()) {
+        m_book.addNotes(notes);
+    }
     writeNotesPage(plan, chapterOf(plan));
 }
 
@@ -148,7 +152,7 @@ const MRVEPubEntry *MRVEPubWriter::chapterOf(const MRVEPubPages &plan) const
 
 // Opens the sections that the headings of a page announce; returns the first paragraph that is not
 // written yet.
-int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan)
+int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan, MRVEPubPage *notes)
 {
     int first = begin;
     while (first < end && m_flow.isBlank(first) && !m_frames.contains(first)) {
@@ -164,6 +168,9 @@ int MRVEPubWriter::openSections(int begin, int end, const MRVEPubPages &plan)
     }
     if (section) {
         m_page.type = QString::fromLatin1(section->type);
+        if (isHeading && m_sections.isEmpty()) {
+            *notes = m_book.adoptNotes(&m_page, m_flow.paragraphs.at(first).headingLevel);
+        }
         openSection(*section);
     }
     return section && isHeading ? openChapter(begin, first, end, plan) : begin;

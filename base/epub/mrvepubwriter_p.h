@@ -85,7 +85,7 @@ private:
     // Pages: mrvepubwriter.cpp
     void write(const QString &fileName);
     void writePage(int begin, int end, const MRVEPubPages &plan);
-    int openSections(int begin, int end, const MRVEPubPages &plan);
+    int openSections(int begin, int end, const MRVEPubPages &plan, MRVEPubPage *notes);
     int openChapter(int begin, int first, int end, const MRVEPubPages &plan);
     bool isTitlePage(int begin, int end) const;
     bool isTitle(int heading, int end, const MRVEPubPages &plan) const;
