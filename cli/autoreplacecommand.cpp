@@ -70,7 +70,7 @@ int show(const Call &call, MRVOptions *options)
 {
     const MRVAutoReplaceList list = options->autoReplaceList();
     return lookThrough(call, call.arguments, QStringLiteral("Reading %1"),
-                       [&](const MRVManuscript &manuscript) {
+                       [&](const MRVManuscript &manuscript, QString *) {
                            showProgress(QString());
                            return printReplacements(call, list, manuscript);
                        });

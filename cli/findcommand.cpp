@@ -131,13 +131,17 @@ int run(const Call &call)
     if (!readSearch(call, &query, &inputs, &error)) {
         return usageError(error);
     }
-    return lookThrough(
-        call, inputs, QStringLiteral("Searching %1"), [&](const MRVManuscript &manuscript) {
-            const auto finds = MRVTextReplacer::findAll(manuscript.document.get(), query);
-            showProgress(QString());
-            printFinds(call, manuscript.path, manuscript.document.get(), finds);
-            return !finds.isEmpty();
-        });
+    const auto look = [&](const MRVManuscript &manuscript, QString *reason) {
+        MRVSearchOutcome outcome;
+        const auto finds = MRVTextReplacer::findAll(manuscript.document.get(), query, &outcome);
+        showProgress(QString());
+        printFinds(call, manuscript.path, manuscript.document.get(), finds);
+        if (!outcome.isComplete()) {
+            *reason = QStringLiteral("%1: %2").arg(manuscript.path, outcome.text());
+        }
+        return !finds.isEmpty();
+    };
+    return lookThrough(call, inputs, QStringLiteral("Searching %1"), look);
 }
 
 constexpr Verb verbs[] = {{"", "[TEXT] IN...", "", run}};
@@ -162,7 +166,7 @@ const Command findCommand = {
     "standard input), and prints the "
     "paragraphs that contain it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e gives it, or "
     "where a format is asked for: then all text of that format is found.\n"
-    "Exit code 1: nothing found.",
+    "Exit code 1: nothing found, or the search given up.",
     "find --loose --whole-word \"it's\" one.md two.md\nfind --bold --italic novel.html --count",
     verbs,
     {options, searchOptions, inputs},

@@ -147,7 +147,7 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
 }
 
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
-                const std::function<bool(const MRVManuscript &)> &look)
+                const std::function<bool(const MRVManuscript &, QString *)> &look)
 {
     if (readsTwice(inputs)) {
         return WrongUsage;
@@ -159,8 +159,9 @@ int lookThrough(const Call &call, const QStringList &inputs, const QString &doin
         MRVManuscript manuscript;
         QString error;
         if (readManuscript(path, inputOptions(call), &manuscript, &error)) {
-            found = look(manuscript) || found;
-        } else {
+            found = look(manuscript, &error) || found;
+        }
+        if (!error.isEmpty()) {
             refuse(error);
             isRefused = true;
         }

@@ -83,14 +83,15 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
 
 /**
  * Reads the inputs one after the other and hands each to @p look, which returns whether it found
- * something. One that cannot be read is reported, and the others are still read.
+ * something, and may set an error. An input that has one is reported, and the others are still
+ * read.
  *
  * @param doing shown on a terminal while an input is worked on: "Reading %1".
- * @return Done when something was found and every input could be read, else Failed; WrongUsage
+ * @return Done when something was found and no input has an error, else Failed; WrongUsage
  *         when standard input is given twice.
  */
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
-                const std::function<bool(const MRVManuscript &)> &look);
+                const std::function<bool(const MRVManuscript &, QString *)> &look);
 
 /**
  * The tag that --language gives; empty without the option. @return false, with a text, when it is

@@ -61,7 +61,7 @@ bool printNotes(const Call &call, const MRVManuscript &manuscript)
 int run(const Call &call)
 {
     return lookThrough(call, call.arguments, QStringLiteral("Reading %1"),
-                       [&](const MRVManuscript &manuscript) {
+                       [&](const MRVManuscript &manuscript, QString *) {
                            showProgress(QString());
                            return printNotes(call, manuscript);
                        });

@@ -180,8 +180,13 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     if (!readManuscript(path, options.input, &manuscript, error)) {
         return false;
     }
-    const QVector<MRVTextChange> changes =
-        MRVTextReplacer::preview(manuscript.document.get(), options.query, options.replacement);
+    MRVSearchOutcome outcome;
+    const QVector<MRVTextChange> changes = MRVTextReplacer::preview(
+        manuscript.document.get(), options.query, options.replacement, &outcome);
+    if (!outcome.isComplete()) {
+        *error = QStringLiteral("%1: %2; nothing was changed").arg(path, outcome.text());
+        return false;
+    }
     Changed changed{
         path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}};
     if (options.dryRun) {

@@ -54,7 +54,7 @@ constexpr Module modules[] = {
 
     {"base/html",        5, "Core Gui"},
     {"base/scriptmode",  5, "Core Gui"},
-    {"base/search",      5, "Core Gui"},
+    {"base/search",      5, "Core Gui pcre2.h"},
     {"base/settings",    5, "Core Gui"},
 
     {"base/document",    6, "Core Gui"},

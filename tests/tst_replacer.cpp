@@ -185,6 +185,41 @@ private Q_SLOTS:
         QCOMPARE(places.join(' '), QString("5 10"));
     }
 
+    void givesUp_data() { addRows("searches-given-up.tsv"); }
+    void givesUp()
+    {
+        QTextDocument document(cell("text"));
+        const MRVTextQuery query = queryFor(cell("pattern"), cell("kind"));
+        MRVSearchOutcome outcome;
+        QCOMPARE(QString::number(Replacer::count(&document, query, &outcome)), cell("finds"));
+        QCOMPARE(QString::number(outcome.paragraph), cell("paragraph"));
+        QCOMPARE(outcome.isComplete(), outcome.text().isEmpty());
+        QCOMPARE(outcome.text().contains(QString(" %1,").arg(outcome.paragraph + 1)),
+                 !outcome.isComplete());
+        if (!outcome.isComplete()) {
+            const int steps = document.availableUndoSteps();
+            QCOMPARE(Replacer::replaceAll(&document, query, "x", &outcome), 0);
+            QCOMPARE(outcome.reason, MRVSearchOutcome::TooCostly);
+            QCOMPARE(document.availableUndoSteps(), steps);
+        }
+    }
+
+    // The paragraph alone takes minutes, so the search must end in its middle.
+    void endsInTime()
+    {
+        QTextDocument document("x\n" + QString("a").repeated(600000));
+        MRVTextQuery query = queryFor("x|(?=(a+))\\1b", "r");
+        query.timeLimit = 50;
+        MRVSearchOutcome outcome;
+        QCOMPARE(Replacer::count(&document, query, &outcome), 1);
+        QCOMPARE(outcome.reason, MRVSearchOutcome::TimedOut);
+        QCOMPARE(outcome.paragraph, 1);
+        query.timeLimit = 0;
+        query.isCancelled = [asked = 0]() mutable { return ++asked == 3; };
+        QVERIFY(Replacer::preview(&document, query, "y", &outcome).isEmpty());
+        QCOMPARE(outcome.reason, MRVSearchOutcome::Cancelled);
+    }
+
     void refusals()
     {
         QString error;

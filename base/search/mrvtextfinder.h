@@ -117,7 +117,8 @@ public:
      * \\d, \\s, \\b and case go by Unicode, whether or not @p expression sets
      * UseUnicodePropertiesOption. By its nature it takes the first of several alternatives that
      * fit, where QRegExp takes the longest, and counts a character beyond U+FFFF as one, where
-     * QRegExp counts two.
+     * QRegExp counts two. Where matching takes too many steps or too much memory, the search ends
+     * without a find; MRVTextReplacer tells of that.
      */
     static QTextCursor find(const QTextDocument *document, const QRegularExpression &expression,
                             int from, FindFlags flags = FindFlags());
@@ -143,9 +144,9 @@ public:
      * All matches in a document or in a part of it, in document order, none overlapping another.
      *
      * They are those that find() gives forward from the start of the part and on from the end of
-     * each find; after an empty match the search goes on by one character. Of those, the ones that
-     * lie within the part as a whole. Word rules and expressions see the whole paragraphs, also
-     * around the part. FindBackward has no meaning here.
+     * each find; after an empty match follows a longer one in its place, or the next one, as in
+     * Perl. Of those, the ones that lie within the part as a whole. Word rules and expressions see
+     * the whole paragraphs, also around the part. FindBackward has no meaning here.
      *
      * The part is @p within; what of it lies outside the document is ignored. An empty @p text or
      * @p expression finds nothing.

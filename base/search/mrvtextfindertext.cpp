@@ -24,14 +24,14 @@ void selectMatch(const QTextBlock &block, int position, MRVTextMatch match, QTex
 
 template<typename Matcher>
 MRVTextMatch matchInBlock(const Matcher &matcher, const QTextBlock &block, int offset,
-                          Finder::FindFlags flags)
+                          Finder::FindFlags flags, MRVEmptyMatch empty)
 {
     if (!block.isValid() || offset < 0 || matcher.isEmpty()) {
         return MRVTextMatch();
     }
     QString text = block.text();
     matcher.prepare(&text);
-    return mrvFindInText(matcher, text, offset, flags);
+    return mrvFindInText(matcher, text, offset, flags, empty);
 }
 
 /// The text of a paragraph between two offsets.
@@ -73,18 +73,18 @@ MRVTextMatch matchInLongBlock(const MRVLiteralMatcher &matcher, const QTextBlock
 }
 
 MRVTextMatch matchInBlock(const MRVLiteralMatcher &matcher, const QTextBlock &block, int offset,
-                          Finder::FindFlags flags)
+                          Finder::FindFlags flags, MRVEmptyMatch empty)
 {
     constexpr int LongParagraph = 4096;
     if (block.length() > LongParagraph) {
         return matchInLongBlock(matcher, block, offset, flags);
     }
-    return matchInBlock<MRVLiteralMatcher>(matcher, block, offset, flags);
+    return matchInBlock<MRVLiteralMatcher>(matcher, block, offset, flags, empty);
 }
 
 template<typename Matcher>
 QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int from,
-                     Finder::FindFlags flags)
+                     Finder::FindFlags flags, MRVEmptyMatch empty, const MRVSearchGuard &guard)
 {
     QTextCursor result;
     const bool backward = flags & Finder::FindBackward;
@@ -95,8 +95,8 @@ QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int 
     QTextBlock block = document->findBlock(start);
     int position = block.position(); // fetched once, since Qt searches a tree for it
     int offset = start - position;
-    while (block.isValid()) {
-        const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
+    while (block.isValid() && guard.isComplete()) {
+        const MRVTextMatch match = matchInBlock(matcher, block, offset, flags, empty);
         if (match) {
             selectMatch(block, position < 0 ? block.position() : position, match, &result);
             return result;
@@ -104,60 +104,14 @@ QTextCursor findFrom(const QTextDocument *document, const Matcher &matcher, int 
         block = backward ? block.previous() : block.next();
         offset = backward ? block.length() - 1 : 0;
         position = -1;
+        empty = MRVEmptyMatch::Allowed;
     }
     return result;
 }
 
-template<typename Pattern>
-QTextCursor findFromCursor(const QTextDocument *document, const Pattern &pattern,
-                           const QTextCursor &from, Finder::FindFlags flags)
-{
-    if (from.isNull()) {
-        return Finder::find(document, pattern, 0, flags);
-    }
-    if (flags & Finder::FindBackward) {
-        return Finder::find(document, pattern, from.selectionStart(), flags);
-    }
-    const int end = from.selectionEnd();
-    const QTextCursor found = Finder::find(document, pattern, end, flags);
-    const bool again =
-        !from.hasSelection() && !found.isNull() && !found.hasSelection() && found.position() == end;
-    return again ? Finder::find(document, pattern, end + 1, flags) : found;
-}
-
-template<typename Matcher>
-QVector<MRVTextRange> findAllWith(const QTextDocument *document, const Matcher &matcher,
-                                  Finder::FindFlags flags, const MRVTextRange &within)
-{
-    QVector<MRVTextRange> finds;
-    if (matcher.isEmpty()) {
-        return finds;
-    }
-    mrvEachBlock(document, within, [&](const QTextBlock &block, int position, int from, int to) {
-        QString text = block.text();
-        matcher.prepare(&text);
-        mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
-            finds.append(MRVTextRange(position + match.start, position + match.end()));
-            return true;
-        });
-        return true;
-    });
-    return finds;
-}
-
-Qt::CaseSensitivity sensitivity(Finder::FindFlags flags)
-{
-    return flags & Finder::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
-}
-
-MRVTextRange whole(const QTextDocument *document)
-{
-    return document ? MRVTextRange(0, document->characterCount()) : MRVTextRange();
-}
-
 /// Calls @p work with the fastest matcher for a text.
 template<typename Work>
-auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
+auto withLiteralMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
 {
     if (MRVLiteralMatcher::canMatch(text, cs)) {
         return work(MRVLiteralMatcher(text, cs));
@@ -165,14 +119,95 @@ auto withMatcher(const QString &text, Qt::CaseSensitivity cs, Work work)
     return work(MRVRegExpMatcher(QRegExp(text, cs, QRegExp::FixedString)));
 }
 
+template<typename Work>
+auto withMatcher(const QString &text, Finder::FindFlags flags, MRVSearchGuard *, Work work)
+{
+    return withLiteralMatcher(
+        text, flags & Finder::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive, work);
+}
+
 /// The same for an expression.
 template<typename Work>
-auto withMatcher(const QRegExp &expression, Work work)
+auto withMatcher(const QRegExp &expression, Finder::FindFlags, MRVSearchGuard *, Work work)
 {
     if (expression.patternSyntax() == QRegExp::FixedString) {
-        return withMatcher(expression.pattern(), expression.caseSensitivity(), work);
+        return withLiteralMatcher(expression.pattern(), expression.caseSensitivity(), work);
     }
     return work(MRVRegExpMatcher(expression));
+}
+
+template<typename Work>
+auto withMatcher(const QRegularExpression &expression, Finder::FindFlags, MRVSearchGuard *guard,
+                 Work work)
+{
+    return work(MRVRegularExpressionMatcher(expression, guard));
+}
+
+template<typename Pattern>
+QTextCursor findFrom(const QTextDocument *document, const Pattern &pattern, int from,
+                     Finder::FindFlags flags, MRVEmptyMatch empty = MRVEmptyMatch::Allowed)
+{
+    MRVSearchGuard guard;
+    return withMatcher(pattern, flags, &guard, [&](const auto &matcher) {
+        return findFrom(document, matcher, from, flags, empty, guard);
+    });
+}
+
+template<typename Pattern>
+QTextCursor findFrom(const QTextDocument *document, const Pattern &pattern, const QTextCursor &from,
+                     Finder::FindFlags flags)
+{
+    if (from.isNull()) {
+        return findFrom(document, pattern, 0, flags);
+    }
+    if (flags & Finder::FindBackward) {
+        return findFrom(document, pattern, from.selectionStart(), flags);
+    }
+    return findFrom(document, pattern, from.selectionEnd(), flags,
+                    from.hasSelection() ? MRVEmptyMatch::Allowed : MRVEmptyMatch::NotAtStart);
+}
+
+template<typename Pattern>
+bool findInOneBlock(const QTextBlock &block, const Pattern &pattern, int offset,
+                    Finder::FindFlags flags, QTextCursor *result)
+{
+    MRVSearchGuard guard;
+    const MRVTextMatch match = withMatcher(pattern, flags, &guard, [&](const auto &matcher) {
+        return matchInBlock(matcher, block, offset, flags, MRVEmptyMatch::Allowed);
+    });
+    if (match) {
+        selectMatch(block, block.position(), match, result);
+    }
+    return bool(match);
+}
+
+template<typename Pattern>
+QVector<MRVTextRange> findAllOf(const QTextDocument *document, const Pattern &pattern,
+                                Finder::FindFlags flags, const MRVTextRange &within)
+{
+    QVector<MRVTextRange> finds;
+    MRVSearchGuard guard;
+    withMatcher(pattern, flags, &guard, [&](const auto &matcher) {
+        if (matcher.isEmpty()) {
+            return;
+        }
+        mrvEachBlock(
+            document, within, [&](const QTextBlock &block, int position, int from, int to) {
+                QString text = block.text();
+                matcher.prepare(&text);
+                mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
+                    finds.append(MRVTextRange(position + match.start, position + match.end()));
+                    return true;
+                });
+                return guard.isComplete();
+            });
+    });
+    return finds;
+}
+
+MRVTextRange whole(const QTextDocument *document)
+{
+    return document ? MRVTextRange(0, document->characterCount()) : MRVTextRange();
 }
 
 } // namespace
@@ -180,103 +215,85 @@ auto withMatcher(const QRegExp &expression, Work work)
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegExp &expression, int from,
                                 FindFlags flags)
 {
-    return withMatcher(
-        expression, [&](const auto &matcher) { return findFrom(document, matcher, from, flags); });
+    return findFrom(document, expression, from, flags);
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegExp &expression,
                                 const QTextCursor &from, FindFlags flags)
 {
-    return findFromCursor(document, expression, from, flags);
+    return findFrom(document, expression, from, flags);
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text, int from,
                                 FindFlags flags)
 {
-    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
-        return findFrom(document, matcher, from, flags);
-    });
+    return findFrom(document, text, from, flags);
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QString &text,
                                 const QTextCursor &from, FindFlags flags)
 {
-    return findFromCursor(document, text, from, flags);
+    return findFrom(document, text, from, flags);
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegularExpression &expression,
                                 int from, FindFlags flags)
 {
-    return findFrom(document, MRVRegularExpressionMatcher(expression), from, flags);
+    return findFrom(document, expression, from, flags);
 }
 
 QTextCursor MRVTextFinder::find(const QTextDocument *document, const QRegularExpression &expression,
                                 const QTextCursor &from, FindFlags flags)
 {
-    return findFromCursor(document, expression, from, flags);
+    return findFrom(document, expression, from, flags);
 }
 
 bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegExp &expression, int offset,
                                 FindFlags flags, QTextCursor &result)
 {
-    return withMatcher(expression, [&](const auto &matcher) {
-        const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
-        if (match) {
-            selectMatch(block, block.position(), match, &result);
-        }
-        return bool(match);
-    });
+    return findInOneBlock(block, expression, offset, flags, &result);
 }
 
 bool MRVTextFinder::findInBlock(const QTextBlock &block, const QRegularExpression &expression,
                                 int offset, FindFlags flags, QTextCursor &result)
 {
-    const MRVRegularExpressionMatcher matcher(expression);
-    const MRVTextMatch match = matchInBlock(matcher, block, offset, flags);
-    if (match) {
-        selectMatch(block, block.position(), match, &result);
-    }
-    return bool(match);
+    return findInOneBlock(block, expression, offset, flags, &result);
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, const QString &text,
                                              FindFlags flags)
 {
-    return findAll(document, text, flags, whole(document));
+    return findAllOf(document, text, flags, whole(document));
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document, const QString &text,
                                              FindFlags flags, const MRVTextRange &within)
 {
-    return withMatcher(text, sensitivity(flags), [&](const auto &matcher) {
-        return findAllWith(document, matcher, flags, within);
-    });
+    return findAllOf(document, text, flags, within);
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
                                              const QRegExp &expression, FindFlags flags)
 {
-    return findAll(document, expression, flags, whole(document));
+    return findAllOf(document, expression, flags, whole(document));
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
                                              const QRegExp &expression, FindFlags flags,
                                              const MRVTextRange &within)
 {
-    return withMatcher(expression, [&](const auto &matcher) {
-        return findAllWith(document, matcher, flags, within);
-    });
+    return findAllOf(document, expression, flags, within);
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
                                              const QRegularExpression &expression, FindFlags flags)
 {
-    return findAll(document, expression, flags, whole(document));
+    return findAllOf(document, expression, flags, whole(document));
 }
 
 QVector<MRVTextRange> MRVTextFinder::findAll(const QTextDocument *document,
                                              const QRegularExpression &expression, FindFlags flags,
                                              const MRVTextRange &within)
 {
-    return findAllWith(document, MRVRegularExpressionMatcher(expression), flags, within);
+    return findAllOf(document, expression, flags, within);
 }

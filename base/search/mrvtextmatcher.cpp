@@ -75,6 +75,12 @@ void replaceLoneSurrogates(QString *text)
     }
 }
 
+// From each of its starts, an expression may look at all of the text.
+int firstWindow(int length)
+{
+    return qMax(64, (1 << 22) / qMax(1, length));
+}
+
 } // namespace
 
 void mrvBlankObjects(QString *text)
@@ -213,7 +219,7 @@ int MRVLiteralMatcher::bySkipping(const ushort *text, int length, int offset) co
     return -1;
 }
 
-MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset) const
+MRVTextMatch MRVLiteralMatcher::next(const QString &text, int offset, MRVEmptyMatch) const
 {
     if (m_text.isEmpty()) {
         return MRVTextMatch();
@@ -243,9 +249,12 @@ MRVTextMatch MRVLiteralMatcher::last(const QString &text, int offset) const
     return MRVTextMatch();
 }
 
-MRVTextMatch MRVRegExpMatcher::next(const QString &text, int offset) const
+MRVTextMatch MRVRegExpMatcher::next(const QString &text, int offset, MRVEmptyMatch empty) const
 {
-    const int at = m_expression.indexIn(text, offset);
+    int at = m_expression.indexIn(text, offset);
+    if (empty == MRVEmptyMatch::NotAtStart && at == offset && m_expression.matchedLength() == 0) {
+        at = m_expression.indexIn(text, offset + 1);
+    }
     return {at, m_expression.matchedLength()};
 }
 
@@ -255,32 +264,12 @@ MRVTextMatch MRVRegExpMatcher::last(const QString &text, int offset) const
     return {at, m_expression.matchedLength()};
 }
 
-MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpression &expression)
+MRVRegularExpressionMatcher::MRVRegularExpressionMatcher(const QRegularExpression &expression,
+                                                         MRVSearchGuard *guard)
     : m_expression(expression)
+    , m_guard(guard)
+    , m_isEmpty(expression.pattern().isEmpty() || !m_expression.isValid())
 {
-    const auto options = expression.patternOptions();
-    if (options & QRegularExpression::UseUnicodePropertiesOption) {
-        return;
-    }
-    // Other options need a compilation, which takes longer than searching a paragraph. So the last
-    // expression is kept compiled; searching from match to match always asks for the same one.
-    struct Compiled
-    {
-        QRegularExpression given;
-        QRegularExpression used;
-    };
-    static thread_local Compiled last;
-    if (last.given != expression) {
-        last.given = expression;
-        last.used = expression;
-        last.used.setPatternOptions(options | QRegularExpression::UseUnicodePropertiesOption);
-    }
-    m_expression = last.used;
-}
-
-bool MRVRegularExpressionMatcher::isEmpty() const
-{
-    return m_expression.pattern().isEmpty() || !m_expression.isValid();
 }
 
 void MRVRegularExpressionMatcher::prepare(QString *text) const
@@ -291,26 +280,45 @@ void MRVRegularExpressionMatcher::prepare(QString *text) const
     }
 }
 
-QRegularExpressionMatch MRVRegularExpressionMatcher::match(const QString &text, int offset) const
+// In windows, so that a search of a long text can be given up in time. They grow, since each may
+// look further ahead in the text, but not where that already takes long.
+MRVTextMatch MRVRegularExpressionMatcher::search(const QString &text, int from, int last,
+                                                 MRVEmptyMatch empty) const
 {
-    // prepare() checked the surrogates once. The expression would check them again at each match,
-    // from the beginning of the paragraph.
-    return m_expression.match(text, offset, QRegularExpression::NormalMatch,
-                              QRegularExpression::DontCheckSubjectStringMatchOption);
+    constexpr qint64 LongTime = 5; // milliseconds
+    int window = m_expression.dependsOnStart() ? text.size() : firstWindow(text.size());
+    QElapsedTimer clock;
+    while (from <= last) {
+        // A search must not start in the middle of a surrogate pair.
+        if (from > 0 && from < text.size() && text.at(from).isLowSurrogate()
+            && text.at(from - 1).isHighSurrogate()) {
+            ++from;
+        }
+        const int end = last - from > window ? from + window : qMax(from, last);
+        const MRVExpression::Result result = m_expression.match(text, from, end, empty);
+        if (result == MRVExpression::Found) {
+            return m_expression.captured(0);
+        }
+        if (result == MRVExpression::TooCostly) {
+            m_guard->giveUp();
+        }
+        if (end >= last || !m_guard->goesOn()) {
+            break;
+        }
+        from = end + 1;
+        empty = MRVEmptyMatch::Allowed;
+        if (!clock.isValid() || clock.elapsed() < LongTime) {
+            window += qMin(window, text.size());
+        }
+        clock.start();
+    }
+    return MRVTextMatch();
 }
 
-MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset) const
+MRVTextMatch MRVRegularExpressionMatcher::next(const QString &text, int offset,
+                                               MRVEmptyMatch empty) const
 {
-    // Unchecked, a search must not start in the middle of a surrogate pair.
-    if (offset > 0 && offset < text.size() && text.at(offset).isLowSurrogate()
-        && text.at(offset - 1).isHighSurrogate()) {
-        ++offset;
-    }
-    const QRegularExpressionMatch found = match(text, offset);
-    if (!found.hasMatch()) {
-        return MRVTextMatch();
-    }
-    return {found.capturedStart(), found.capturedLength(), offset};
+    return search(text, offset, text.size(), empty);
 }
 
 MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) const
@@ -320,14 +328,15 @@ MRVTextMatch MRVRegularExpressionMatcher::last(const QString &text, int offset) 
     for (int reach = 16;; reach = qMin(reach, offset) * 4) {
         const int from = qMax(0, offset - reach);
         MRVTextMatch best;
-        for (MRVTextMatch match = next(text, from); match && match.start <= offset;
-             match = next(text, match.start + 1)) {
+        for (MRVTextMatch match = search(text, from, offset, MRVEmptyMatch::Allowed);
+             match && match.start <= offset;
+             match = search(text, match.start + 1, offset, MRVEmptyMatch::Allowed)) {
             best = match;
-            if (match.start == text.size()) {
+            if (match.start == offset) {
                 break;
             }
         }
-        if (best || from == 0) {
+        if (best || from == 0 || !m_guard->isComplete()) {
             return best;
         }
     }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "search/mrvexpression_p.h"
+#include "search/mrvsearchguard_p.h"
 #include "search/mrvtextfinder.h"
+#include "search/mrvtextmatch_p.h"
 
 #include <QRegExp>
 #include <QRegularExpression>
@@ -12,16 +15,6 @@
 
 // The three ways to search for text, with one interface: prepare a paragraph's text, find the next
 // match from an offset on, and find the last match that starts at or before an offset.
-
-struct MRVTextMatch
-{
-    int start = -1; ///< negative: no match
-    int length = 0;
-    int from = -1; ///< where the search started, which may lie before the reported match (\K)
-
-    int end() const { return start + length; }
-    explicit operator bool() const { return start >= 0; }
-};
 
 /** Replaces objects and no-break spaces by blanks, which keeps all positions. */
 void mrvBlankObjects(QString *text);
@@ -41,7 +34,7 @@ public:
     bool isEmpty() const { return m_text.isEmpty(); }
     int length() const { return m_text.size(); }
     void prepare(QString *text) const;
-    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch next(const QString &text, int offset, MRVEmptyMatch empty) const;
     MRVTextMatch last(const QString &text, int offset) const;
 
 private:
@@ -71,28 +64,33 @@ public:
 
     bool isEmpty() const { return m_expression.isEmpty(); }
     void prepare(QString *text) const { mrvBlankObjects(text); }
-    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch next(const QString &text, int offset, MRVEmptyMatch empty) const;
     MRVTextMatch last(const QString &text, int offset) const;
 
 private:
     mutable QRegExp m_expression; // remembers its last match
 };
 
+/** Gives up where the guard says so, or where an expression costs too much, which it then tells. */
 class MRVRegularExpressionMatcher
 {
 public:
-    explicit MRVRegularExpressionMatcher(const QRegularExpression &expression);
+    MRVRegularExpressionMatcher(const QRegularExpression &expression, MRVSearchGuard *guard);
 
-    bool isEmpty() const;
+    bool isEmpty() const { return m_isEmpty; }
     /** Also replaces lone surrogates, since a text with one of them cannot be searched at all. */
     void prepare(QString *text) const;
-    MRVTextMatch next(const QString &text, int offset) const;
+    MRVTextMatch next(const QString &text, int offset, MRVEmptyMatch empty) const;
     MRVTextMatch last(const QString &text, int offset) const;
-    /** The whole match, with captures; @p text must have been prepared. */
-    QRegularExpressionMatch match(const QString &text, int offset) const;
+    /** The expression, whose captures are those of the match that was given last. */
+    const MRVExpression &expression() const { return m_expression; }
 
 private:
-    QRegularExpression m_expression;
+    MRVTextMatch search(const QString &text, int from, int last, MRVEmptyMatch empty) const;
+
+    MRVExpression m_expression;
+    MRVSearchGuard *m_guard;
+    bool m_isEmpty;
 };
 
 /** Whether the word rules of @p flags accept @p match. */
@@ -105,36 +103,40 @@ bool mrvKeepsWordRules(const QString &text, MRVTextMatch match, MRVTextFinder::F
  */
 template<typename Matcher>
 MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offset,
-                           MRVTextFinder::FindFlags flags)
+                           MRVTextFinder::FindFlags flags,
+                           MRVEmptyMatch empty = MRVEmptyMatch::Allowed)
 {
     const bool backward = flags & MRVTextFinder::FindBackward;
     while (offset >= 0 && offset <= text.size()) {
         const MRVTextMatch match =
-            backward ? matcher.last(text, offset) : matcher.next(text, offset);
+            backward ? matcher.last(text, offset) : matcher.next(text, offset, empty);
         if (!match || mrvKeepsWordRules(text, match, flags)) {
             return match;
         }
         offset = backward ? match.start - 1 : match.end() + 1;
+        empty = MRVEmptyMatch::Allowed;
     }
     return MRVTextMatch();
 }
 
 /**
  * Calls @p found(match) for the matches in a prepared text from @p offset on, until it returns
- * false or a match reaches beyond @p limit. After an empty match the search moves on by one
- * character, or it would never end.
+ * false or a match reaches beyond @p limit.
  */
 template<typename Matcher, typename Found>
 void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
                   MRVTextFinder::FindFlags flags, Found found)
 {
     flags &= ~MRVTextFinder::FindBackward;
+    MRVEmptyMatch empty = MRVEmptyMatch::Allowed;
     while (offset <= limit) {
-        const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags);
+        const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags, empty);
         if (!match || match.end() > limit || !found(match)) {
             return;
         }
-        offset = match.length > 0 ? match.end() : match.end() + 1;
+        offset = match.end();
+        // After an empty match as in Perl: a longer one in its place, or the next one.
+        empty = match.length > 0 ? MRVEmptyMatch::Allowed : MRVEmptyMatch::NotAtStart;
     }
 }
 

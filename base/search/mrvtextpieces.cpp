@@ -83,3 +83,9 @@ QTextCursor mrvSelect(const QTextDocument *document, const MRVTextRange &range)
     cursor.setPosition(range.end(), QTextCursor::KeepAnchor);
     return cursor;
 }
+
+MRVTextRange mrvClipped(const MRVTextRange &range, int start, int end)
+{
+    const int from = qBound(start, range.start(), end);
+    return MRVTextRange(from, qBound(from, range.end(), end));
+}

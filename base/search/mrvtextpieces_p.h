@@ -216,3 +216,6 @@ MRVTextPiece mrvPieceAt(const QTextDocument *document, int position);
 
 /** A cursor with the anchor at the start; also for a const document. */
 QTextCursor mrvSelect(const QTextDocument *document, const MRVTextRange &range);
+
+/** The part of a range between two positions; empty at one of them where it lies outside. */
+MRVTextRange mrvClipped(const MRVTextRange &range, int start, int end);

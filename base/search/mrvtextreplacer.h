@@ -1,74 +1,14 @@
 #pragma once
 
-#include "search/mrvtextfinder.h"
+#include "search/mrvtextquery.h"
 #include "text/mrvtextrange.h"
 #include "util/mrvbase_export.h"
 
 #include <QString>
-#include <QTextCharFormat>
-#include <QVariant>
 #include <QVector>
-
-#include <limits>
 
 class QTextCursor;
 class QTextDocument;
-
-/**
- * What to look for, in all that a search dialog can ask: a text or an expression, the word rules,
- * the part of the document, the format of the text.
- *
- * @since 1.0
- */
-struct MRVBASE_EXPORT MRVTextQuery
-{
-    enum Syntax {
-        PlainText,
-        RegularExpression, ///< of QRegularExpression; letters and digits are those of Unicode
-    };
-
-    /** An empty text finds nothing, but see #kinds. */
-    QString text;
-    Syntax syntax = PlainText;
-    /** FindCaseSensitively counts for expressions, too. FindBackward counts in find() only. */
-    MRVTextFinder::FindFlags flags;
-    /**
-     * Whether what writers type one way or the other counts as the same, in the text as in what is
-     * looked for: straight and curly quotes and apostrophes; hyphens, figure dash, en dash and
-     * minus (not the em dash); blanks, no-break spaces and objects; composed and decomposed
-     * letters. Finds are whole letters with their accents.
-     */
-    bool ignoreTypography = false;
-    /** Only finds that lie as a whole within this range count. All of the document at first. */
-    MRVTextRange range = MRVTextRange(0, std::numeric_limits<int>::max());
-    /**
-     * Only finds all of whose characters carry this format count; see MRVTextFinder. An empty one
-     * must lie in such text or at an end of it. Without properties, any format will do.
-     */
-    QTextCharFormat format;
-    bool compareFormatValues = true;
-
-    /** A kind of text, as MRVTextFinder::matchFormat() takes it. */
-    struct Kind
-    {
-        MRVTextFinder::FindType type;
-        QVariant value;
-    };
-    /**
-     * Only finds that lie as a whole in runs of each of these kinds count. Links side by side are
-     * runs of their own. With kinds and an empty #text, MRVTextReplacer::findAll() and count() find
-     * the text that is of all these kinds; it may go on over paragraph ends, and #format does not
-     * count then.
-     */
-    QVector<Kind> kinds;
-
-    /**
-     * Whether @p text is an expression that can be searched for; true for plain text.
-     *
-     * @param error if given, receives a translated text that says why not, and where.
-     */
-    bool isValid(QString *error = nullptr) const;
-};
 
 /**
  * One replacement that was or could be made.
@@ -102,6 +42,10 @@ struct MRVBASE_EXPORT MRVTextChange
  * All else stands as it is, a group that the expression does not have included. Groups give the
  * text as it is in the document. The replacement of plain text stands as it is.
  *
+ * A search that ends early, because an expression costs too much or the query says so, tells by its
+ * @c outcome where it ended; if given, that is set in any case but for a null document or cursor.
+ * findAll() and count() then have the finds up to there, and nothing is previewed or replaced.
+ *
  * GUI thread only.
  *
  * @code
@@ -125,9 +69,11 @@ public:
     MRVTextReplacer() = delete;
 
     /** All finds, in document order. */
-    static QVector<MRVTextRange> findAll(const QTextDocument *document, const MRVTextQuery &query);
+    static QVector<MRVTextRange> findAll(const QTextDocument *document, const MRVTextQuery &query,
+                                         MRVSearchOutcome *outcome = nullptr);
     /** How many findAll() finds, in the same time. */
-    static int count(const QTextDocument *document, const MRVTextQuery &query);
+    static int count(const QTextDocument *document, const MRVTextQuery &query,
+                     MRVSearchOutcome *outcome = nullptr);
     /**
      * The first find that starts at the end of the selection of @p from or later; with
      * FindBackward, the last one that ends at its start or earlier. Unlike findAll(), each search
@@ -135,11 +81,13 @@ public:
      * without selection is passed over. Null where there is none; the search does not begin again
      * at the other end.
      */
-    static QTextCursor find(const QTextCursor &from, const MRVTextQuery &query);
+    static QTextCursor find(const QTextCursor &from, const MRVTextQuery &query,
+                            MRVSearchOutcome *outcome = nullptr);
 
     /** What replaceAll() with the same @p replacement would do, in document order. */
     static QVector<MRVTextChange> preview(const QTextDocument *document, const MRVTextQuery &query,
-                                          const QString &replacement);
+                                          const QString &replacement,
+                                          MRVSearchOutcome *outcome = nullptr);
     /**
      * Replaces all finds. One undo step; none where nothing changes.
      *
@@ -147,7 +95,7 @@ public:
      * @return how many were replaced.
      */
     static int replaceAll(QTextDocument *document, const MRVTextQuery &query,
-                          const QString &replacement);
+                          const QString &replacement, MRVSearchOutcome *outcome = nullptr);
     /**
      * Makes some of the @p changes of preview(), in whichever order they are given. One undo step;
      * none where nothing changes. A change is left out if its text is no longer in its place, or if
@@ -164,5 +112,6 @@ public:
      * @param replacement see above.
      * @return false where the selection is no find, or has an object in it.
      */
-    static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement);
+    static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement,
+                        MRVSearchOutcome *outcome = nullptr);
 };

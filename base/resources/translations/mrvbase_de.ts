@@ -2722,6 +2722,21 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSearchOutcome</name>
+    <message>
+        <source>the search was given up in paragraph %1, where the expression can match in too many ways</source>
+        <translation>die Suche wurde in Absatz %1 aufgegeben, wo der Ausdruck auf zu viele Arten passen kann</translation>
+    </message>
+    <message>
+        <source>the search was given up in paragraph %1, since it took too long</source>
+        <translation>die Suche wurde in Absatz %1 aufgegeben, da sie zu lange dauerte</translation>
+    </message>
+    <message>
+        <source>the search was cancelled in paragraph %1</source>
+        <translation>die Suche wurde in Absatz %1 abgebrochen</translation>
+    </message>
+</context>
+<context>
     <name>MRVSettings</name>
     <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>

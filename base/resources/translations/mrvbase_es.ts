@@ -2722,6 +2722,21 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSearchOutcome</name>
+    <message>
+        <source>the search was given up in paragraph %1, where the expression can match in too many ways</source>
+        <translation>la búsqueda se abandonó en el párrafo %1, donde la expresión puede coincidir de demasiadas maneras</translation>
+    </message>
+    <message>
+        <source>the search was given up in paragraph %1, since it took too long</source>
+        <translation>la búsqueda se abandonó en el párrafo %1, porque tardaba demasiado</translation>
+    </message>
+    <message>
+        <source>the search was cancelled in paragraph %1</source>
+        <translation>la búsqueda se canceló en el párrafo %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVSettings</name>
     <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>

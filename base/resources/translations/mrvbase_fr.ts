@@ -2722,6 +2722,21 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSearchOutcome</name>
+    <message>
+        <source>the search was given up in paragraph %1, where the expression can match in too many ways</source>
+        <translation>la recherche a été abandonnée au paragraphe %1, où l’expression peut correspondre de trop de façons</translation>
+    </message>
+    <message>
+        <source>the search was given up in paragraph %1, since it took too long</source>
+        <translation>la recherche a été abandonnée au paragraphe %1, car elle durait trop longtemps</translation>
+    </message>
+    <message>
+        <source>the search was cancelled in paragraph %1</source>
+        <translation>la recherche a été annulée au paragraphe %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVSettings</name>
     <message>
         <source>Cannot write the file &quot;%1&quot;: it is locked</source>
