@@ -32,7 +32,9 @@ constexpr Option bookOptions[] = {
                    "or none."),
     Option::choice("notes", "PLACE", "chapter book",
                    "Where notes stand: after each chapter (default) or at the end of the book."),
-    Option::flag("comments-as-notes", "Make notes of annotations within the text."),
+    Option::flag("comments-as-notes",
+                 "Make notes of annotations within the text and of comments in the margin (of DOCX "
+                 "and ODT)."),
     Option::integer("toc-depth", "N", 1, 6, "Levels of headings in the contents. Default: all."),
     Option::choice("epub-version", "N", "2 3", "3 (default) or 2."),
     Option::name("date", "TIME",
@@ -185,6 +187,18 @@ int checkOutputs(const Call &call, const QStringList &outputs)
         : refuse(error);
 }
 
+// Only notes of an e-book show comments.
+void tellComments(const Options &options, const MRVManuscript &manuscript)
+{
+    const bool areShown = options.isPackage() && options.book.commentsAsNotes;
+    if (manuscript.report.comments > 0 && !areShown) {
+        printError(QStringLiteral("note: %1: comments that are left out: %2; --comments-as-notes "
+                                  "makes notes of them in e-books")
+                       .arg(manuscript.path)
+                       .arg(manuscript.report.comments));
+    }
+}
+
 bool readManuscripts(const Call &call, const Options &options, const QStringList &outputs,
                      std::vector<MRVManuscript> *manuscripts, QString *error)
 {
@@ -202,6 +216,7 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
         if (!readManuscript(path, reading, &manuscript, error)) {
             return false;
         }
+        tellComments(options, manuscript);
         pictures += manuscript.pictures;
         manuscripts->push_back(std::move(manuscript));
     }

@@ -141,7 +141,7 @@ private Q_SLOTS:
                  bodies.first().contains("Anmerkungen"));
     }
 
-    // By choice, an annotation leaves the text for a note.
+    // By choice, an annotation leaves the text for a note, and a comment becomes one.
     void annotations()
     {
         QTextDocument document("Before annotated after");
@@ -151,15 +151,30 @@ private Q_SLOTS:
         QTextCharFormat format;
         format.setProperty(MRVTextFormat::InlineAnnotationProperty, true);
         cursor.mergeCharFormat(format);
+        QTextCharFormat comment;
+        comment.setProperty(MRVTextFormat::CommentData0, "Why?\nSo.");
+        comment.setProperty(MRVTextFormat::CommentData2, QStringList{"Ann"});
+        cursor.setPosition(19); // two stretches of it
+        cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(comment);
+        comment.setFontItalic(true);
+        cursor.setPosition(20);
+        cursor.setPosition(21, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(comment);
         for (const bool areNotes : {false, true}) {
             MRVEPubOptions options;
             options.commentsAsNotes = areNotes;
             MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata(), options);
             QVERIFY(package.addDocument(document));
             const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"];
-            QCOMPARE(page.contains("Before annotated after"), !areNotes);
+            QCOMPARE(page.contains("Before annotated aft"), !areNotes);
             QCOMPARE(page.contains("href=\"#comment-mark-1\">[1]</a> annotated</p></aside>"),
                      areNotes);
+            QCOMPARE(page.contains("</em>r<a id=\"comment-mark-2\""), areNotes);
+            QCOMPARE(page.contains("href=\"#comment-mark-2\">[2]</a> Ann: Why?<br />So.</p>"),
+                     areNotes);
+            QCOMPARE(page.contains("Why"), areNotes);
+            QCOMPARE(package.losses({&document}), QStringList());
         }
     }
 

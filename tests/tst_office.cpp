@@ -4,6 +4,7 @@
 #include "manuscript/mrvmanuscriptreader.h"
 #include "manuscript/mrvsourceedit.h"
 #include "office/mrvofficeconverter.h"
+#include "textformat/mrvtextformat.h"
 
 #include <KZip>
 
@@ -110,7 +111,10 @@ private Q_SLOTS:
         if (format == "rtf") {
             QVERIFY(writeBytes(file, "{\\rtf1 " + cell("source").toUtf8() + '}'));
         } else {
-            writeArchive(file, format, cell("source").toUtf8());
+            const QByteArray source = cell("source").toUtf8();
+            const bool hasComments = source.contains("w:comment");
+            writeArchive(file, format, source, hasComments ? "word/comments.xml" : "",
+                         comments(source));
         }
         MRVManuscriptReader reader;
         MRVManuscript read;
@@ -174,16 +178,36 @@ private Q_SLOTS:
     }
 
 private:
-    /// What leads to a place of the document stands after its address in brackets.
+    /// Those that a text of a DOCX names, each with its number in what it says.
+    static QByteArray comments(const QByteArray &content)
+    {
+        QByteArray xml;
+        for (int i = 0; content.contains("w:id=\"" + QByteArray::number(i)); ++i) {
+            xml += QString("<w:comment w:id=\"%1\" w:author=\"Ann %1\" w:date=\"2024-05-0%1\"><w:p>"
+                           "<w:r><w:t>Why %1?</w:t></w:r></w:p></w:comment>")
+                       .arg(i)
+                       .toUtf8();
+        }
+        return "<w:comments>" + xml + "</w:comments>";
+    }
+
+    /// What leads to a place of the document stands after its address in brackets, and a comment
+    /// after the first stretch of what it is about.
     static QString textWithLinks(const QTextDocument &document)
     {
         QStringList paragraphs;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
             QString paragraph;
             for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QString address = it.fragment().charFormat().anchorHref();
+                const QTextCharFormat format = it.fragment().charFormat();
+                const QString address = format.anchorHref();
                 paragraph += address.startsWith('#') ? '[' + address + ']' : QString();
                 paragraph += it.fragment().text();
+                const QStringList by = format.property(MRVTextFormat::CommentData2).toStringList();
+                const QString comment = format.stringProperty(MRVTextFormat::CommentData0);
+                paragraph += comment.isEmpty()
+                    ? QString()
+                    : QString("{%1, %2}").arg(by.join(' ').trimmed(), comment);
             }
             paragraphs << paragraph;
         }
@@ -216,7 +240,8 @@ private:
                           "opendocument:xmlns:text:1.0\" "
                           "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
                           "xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
-                          "xmlns:draw=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\"><"
+                          "xmlns:draw=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\" "
+                          "xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><"
                           "office:font-face-decls/><office:automatic-styles/>"
                           "<office:body><office:text>"
                               + content + "</office:text></office:body></office:document-content>");

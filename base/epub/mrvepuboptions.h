@@ -41,7 +41,9 @@ struct MRVBASE_EXPORT MRVEPubOptions
     Packing packing = Quick;
     /**
      * Whether inline annotations and inline footnotes of a document leave the text and become
-     * notes. Otherwise they are text as any other.
+     * notes; otherwise they are text as any other. So do comments in the margin whose CommentData0
+     * is a QString, with the first text of CommentData2 as the author's name before it; otherwise
+     * the book does not have them.
      */
     bool commentsAsNotes = false;
     /** How many levels of headings the table of contents shows; 0: all. */

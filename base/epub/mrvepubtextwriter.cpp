@@ -72,7 +72,7 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
     for (int i = place.firstFragment; i < end; ++i) {
         if (m_book.options.commentsAsNotes
             && m_formats.text(m_flow.fragments.at(i).format).isComment) {
-            const int last = writeCommentMark(i, end, position);
+            const int last = writeAnnotationMark(i, end, position);
             for (; i < last; ++i) {
                 position += m_flow.fragments.at(i).length;
             }
@@ -80,32 +80,65 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
             writeFragment(i, end, position, context);
         }
         position += m_flow.fragments.at(i).length;
+        if (m_book.options.commentsAsNotes
+            && m_formats.text(m_flow.fragments.at(i).format).hasComment && endsComment(i)) {
+            writeMarginMark(i);
+        }
     }
     closeElements(0);
     return m_isSpaced;
 }
 
 // Puts a mark in the place of an annotation; returns its last fragment.
-int MRVEPubWriter::writeCommentMark(int fragment, int end, int position)
+int MRVEPubWriter::writeAnnotationMark(int fragment, int end, int position)
 {
     int last = fragment;
     while (last + 1 < end && m_formats.text(m_flow.fragments.at(last + 1).format).isComment) {
         ++last;
     }
-    const int number = ++m_book.comments;
-    const QByteArray id = uniqueId(QStringLiteral("comment-%1").arg(number));
-    const QByteArray mark = uniqueId(QStringLiteral("comment-mark-%1").arg(number));
+    writeCommentMark({position, fragment, last + 1, 0, {}, {}, {}});
+    return last;
+}
+
+// Whether the text after a fragment has another comment in the margin, or none.
+bool MRVEPubWriter::endsComment(int fragment) const
+{
+    if (fragment + 1 == m_flow.fragments.size()) {
+        return true;
+    }
+    const QTextFormat &one = m_flow.formats.at(m_flow.fragments.at(fragment).format);
+    const QTextFormat &other = m_flow.formats.at(m_flow.fragments.at(fragment + 1).format);
+    const auto differs = [&](int property) {
+        return one.property(property) != other.property(property);
+    };
+    return differs(MRVTextFormat::CommentData0) || differs(MRVTextFormat::CommentData1)
+        || differs(MRVTextFormat::CommentData2);
+}
+
+void MRVEPubWriter::writeMarginMark(int fragment)
+{
+    const QTextFormat &format = m_flow.formats.at(m_flow.fragments.at(fragment).format);
+    const QString author = format.property(MRVTextFormat::CommentData2).toStringList().value(0);
+    const QString text = format.stringProperty(MRVTextFormat::CommentData0);
+    writeCommentMark(
+        {0, 0, 0, 0, {}, {}, author.isEmpty() ? text : author + QLatin1String(": ") + text});
+}
+
+void MRVEPubWriter::writeCommentMark(Comment comment)
+{
+    comment.number = ++m_book.comments;
+    const QByteArray number = QByteArray::number(comment.number);
+    comment.id = uniqueId(QLatin1String("comment-") + QString::fromLatin1(number));
+    const QByteArray mark = uniqueId(QLatin1String("comment-mark-") + QString::fromLatin1(number));
     const bool isHere = m_book.options.notes == MRVEPubOptions::ChapterNotes;
     const QString page = isHere ? QString() : QString(MRVEPubBook::NotesPage);
+    comment.mark = (isHere ? QByteArray() : m_page.fileName.toUtf8()) + '#' + mark;
     closeElements(0);
     m_out.append("<a id=\"" + mark + '"');
     m_out.append(element(" epub:type=\"noteref\" role=\"doc-noteref\"", ""));
-    m_out.append(" href=\"" + page.toUtf8() + '#' + id + "\">[" + QByteArray::number(number)
-                 + "]</a>");
-    m_comments.append({position, fragment, last + 1, number, id,
-                       (isHere ? QByteArray() : m_page.fileName.toUtf8()) + '#' + mark});
+    m_out.append(" href=\"" + page.toUtf8() + '#' + comment.id + "\">[" + number + "]</a>");
+    m_comments.append(comment);
     m_isAfterBlank = false;
-    return last;
 }
 
 void MRVEPubWriter::writeComment(const Comment &comment)
@@ -117,6 +150,8 @@ void MRVEPubWriter::writeComment(const Comment &comment)
     m_out.append(element(" role=\"doc-backlink\"", ""));
     m_out.append(" href=\"" + comment.mark + "\">[" + QByteArray::number(comment.number)
                  + "]</a> ");
+    m_out.appendText(QString(comment.text).replace(u'\n', QChar::LineSeparator),
+                     QLatin1String("<br />"), true);
     int position = comment.position;
     for (int i = comment.begin; i < comment.end; ++i) {
         writeFragment(i, comment.end, position, MRVEPubContext());

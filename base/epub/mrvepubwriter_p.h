@@ -76,6 +76,7 @@ private:
         int number;
         QByteArray id;
         QByteArray mark; // where a link back leads
+        QString text; // of one in the margin, which has no fragments
     };
 
     // Pictures are paths in the package by resource id; empty for those that it cannot hold.
@@ -96,7 +97,10 @@ private:
     void writeNote(int note, int end);
     const MRVEPubEntry *chapterOf(const MRVEPubPages &plan) const;
     void writeNotesPage(const MRVEPubPages &plan, const MRVEPubEntry *chapter);
-    int writeCommentMark(int fragment, int end, int position);
+    int writeAnnotationMark(int fragment, int end, int position);
+    bool endsComment(int fragment) const;
+    void writeMarginMark(int fragment);
+    void writeCommentMark(Comment comment);
     void writeComment(const Comment &comment);
 
     // Paragraphs: mrvepubflowwriter.cpp

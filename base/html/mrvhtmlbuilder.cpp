@@ -309,6 +309,9 @@ bool MRVHtmlBuilder::readElement(const GumboNode *element, const MRVHtmlStyle &o
     if (mrvHtmlElement(element).kind == MRVHtmlElement::Skipped) {
         return false;
     }
+    if (mrvIsComment(element)) {
+        readComment(element);
+    }
     MRVHtmlStyle style = styleOf(element, outside, css);
     const MRVHtmlStyle::Display display = style.display;
     makeIndentedLine(element, &style);
@@ -456,6 +459,18 @@ void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &s
         image.setVerticalAlignment(style.verticalAlignment);
     }
     m_writer.writeImage(image, style);
+}
+
+// Text inside of the element, which has none, is shown as that of any other.
+void MRVHtmlBuilder::readComment(const GumboNode *element)
+{
+    const int begin = mrvAttributeOf(element, "begin").toInt();
+    if (begin > 0) {
+        m_writer.beginComment({begin, mrvAttributeOf(element, "author"),
+                               mrvAttributeOf(element, "date"), mrvAttributeOf(element, "text")});
+    } else {
+        m_writer.endComment(mrvAttributeOf(element, "end").toInt());
+    }
 }
 
 void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &style)

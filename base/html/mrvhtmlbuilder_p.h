@@ -17,6 +17,8 @@ public:
 
     /** How elements are shown that their styles show in another way than their kind is. */
     const MRVHtmlDisplays &displays() const { return m_displays; }
+    /** How many comments in the margin the page has. */
+    int commentCount() const { return m_writer.commentCount(); }
 
 private:
     /** The elements of one parent that have been met, as selectors see them. */
@@ -45,6 +47,7 @@ private:
     void readInline(const GumboNode *element, MRVHtmlStyle style, const MRVCssElement *css);
     void readInside(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
     void readPicture(const GumboNode *element, const MRVHtmlStyle &style, const MRVCssElement *css);
+    void readComment(const GumboNode *element);
     void readInput(const GumboNode *element, const MRVHtmlStyle &style);
     static int captionOf(const GumboNode *element);
     MRVHtmlBox boxOf(const GumboNode *element, const MRVHtmlStyle &style);

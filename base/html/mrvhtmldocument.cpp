@@ -52,6 +52,7 @@ bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocume
     document->setMetaInformation(QTextDocument::DocumentTitle, titleOf(tree.root()));
     MRVHtmlBuilder builder(tree, hasSheets ? &sheets : nullptr, document);
     builder.build();
+    found.comments = builder.commentCount();
     document->setUndoRedoEnabled(keepsHistory);
     if (report) {
         mrvCheckDocument(tree, builder.displays(), *document, &found);

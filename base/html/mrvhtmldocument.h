@@ -16,6 +16,12 @@
  * Pictures are named as the page names them and not loaded. Pages that QTextDocument::toHtml() has
  * written are read as they were.
  *
+ * MRVOfficeConverter writes elements "mrv-comment" for comments in the margin. The text from one
+ * with a number as its attribute "begin" to the one with the same as its "end" is a commented one:
+ * InspectorCommentProperty is true, CommentData0 the text of the comment, a line a paragraph,
+ * CommentData1 a text that no other comment has, and CommentData2 a QStringList of author and date.
+ * A character has one comment; comments that begin at the same one are one comment.
+ *
  * Time and memory are linear in the length of the page; scripts do not run, and nothing is fetched
  * from other machines. GUI thread only.
  *

@@ -368,6 +368,11 @@ QString mrvFieldText(const GumboNode *element)
         : QString();
 }
 
+bool mrvIsComment(const GumboNode *element)
+{
+    return isNamed(element, "mrv-comment");
+}
+
 QString mrvPictureName(const GumboNode *element)
 {
     QString name;

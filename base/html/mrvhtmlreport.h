@@ -29,6 +29,8 @@ struct MRVHtmlReport
     QStringList remoteSheets;
     /** How many words the page's own styles hide, which the document does not hold. */
     int hiddenWords = 0;
+    /** How many comments in the margin the document holds, as properties of its text. */
+    int comments = 0;
     /** What is missing from the document, by comparing it with the page; empty if all is well. */
     QVector<MRVHtmlLoss> losses;
     /** The line, from 1, at which the page first shows each picture, by the picture's name. */

@@ -369,9 +369,17 @@ void MRVHtmlWriter::writePendingLineEnds()
     }
 }
 
+// The comment and the names of the next character.
 QTextCharFormat MRVHtmlWriter::withNames(const QTextCharFormat &format)
 {
     QTextCharFormat named = format;
+    if (m_comments.isOpen()) {
+        named = m_comments.added(named);
+        m_comments.setWritten();
+    }
+    if (m_names.isEmpty()) {
+        return named;
+    }
     named.setAnchor(true);
     m_names.removeDuplicates();
     // As one text where there is one, which needs no number to be found.
@@ -391,17 +399,51 @@ void MRVHtmlWriter::append(const QString &text, const QTextCharFormat &format)
         return;
     }
     QString rest = text;
-    if (!m_names.isEmpty() && text.at(0) != QChar::LineSeparator && text != QLatin1String(" ")) {
+    const bool isSeen = text.at(0) != QChar::LineSeparator && text != QLatin1String(" ");
+    if ((!m_names.isEmpty() || m_comments.isPoint()) && isSeen) {
         flush();
         const int length = text.size() > 1 && text.at(0).isHighSurrogate() ? 2 : 1;
         m_cursor.insertText(text.left(length), withNames(format));
         rest.remove(0, length);
     }
-    if (!m_text.isEmpty() && m_textFormat != format) {
+    const bool isCommented = m_comments.isOpen() && !m_comments.isPoint();
+    const QTextCharFormat whole = isCommented ? m_comments.added(format) : format;
+    if (!m_text.isEmpty() && m_textFormat != whole) {
         flush();
     }
     m_text += rest;
-    m_textFormat = format;
+    m_textFormat = whole;
+    if (isCommented && isSeen) {
+        m_comments.setWritten();
+    }
+}
+
+void MRVHtmlWriter::endComment(int number)
+{
+    m_comments.end(number);
+    if (!m_comments.isPoint() || m_place != Place::Open) {
+        return;
+    }
+    flush();
+    const int before = m_cursor.position() - 1;
+    if (!m_cursor.atBlockStart() && m_document->characterAt(before) != QChar::LineSeparator
+        && !m_cursor.charFormat().hasProperty(MRVTextFormat::CommentData0)) {
+        markCharacter(before);
+    }
+}
+
+// Gives a character of the document the comment and the names of the next one.
+void MRVHtmlWriter::markCharacter(int position)
+{
+    const int end = m_cursor.position();
+    const bool isPair = m_document->characterAt(position).isLowSurrogate();
+    m_cursor.setPosition(isPair ? position - 1 : position);
+    m_cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+    if (!m_names.isEmpty()) {
+        m_names = m_cursor.charFormat().anchorNames() + m_names;
+    }
+    m_cursor.setCharFormat(withNames(m_cursor.charFormat()));
+    m_cursor.setPosition(end);
 }
 
 void MRVHtmlWriter::flush()
@@ -421,7 +463,7 @@ void MRVHtmlWriter::writeImage(const QTextImageFormat &image, const MRVHtmlStyle
         format.setAnchor(true);
         format.setAnchorHref(style.text.anchorHref());
     }
-    if (!m_names.isEmpty()) {
+    if (!m_names.isEmpty() || m_comments.isOpen()) {
         format.merge(withNames(QTextCharFormat()));
     }
     MRVFormatSpread::update(&format);
@@ -547,22 +589,19 @@ void MRVHtmlWriter::leaveFrame()
 void MRVHtmlWriter::finish()
 {
     endParagraph();
-    // Names after the last character have none to go to but that.
+    // Names and comments after the last character have none to go to but that.
     const auto isShown = [this](int position) {
         const QChar character = m_document->characterAt(position);
         return character == QChar::ObjectReplacementCharacter
             || !mrvShownText(character).trimmed().isEmpty();
     };
+    const bool isNeeded = !m_names.isEmpty() || m_comments.isWaiting();
     int last = m_cursor.position() - 1;
-    while (!m_names.isEmpty() && last >= 0 && !isShown(last)) {
+    while (isNeeded && last >= 0 && !isShown(last)) {
         --last;
     }
-    if (!m_names.isEmpty() && last >= 0) {
-        const bool isPair = m_document->characterAt(last).isLowSurrogate();
-        m_cursor.setPosition(isPair ? last - 1 : last);
-        m_cursor.setPosition(last + 1, QTextCursor::KeepAnchor);
-        m_names = m_cursor.charFormat().anchorNames() + m_names;
-        m_cursor.setCharFormat(withNames(m_cursor.charFormat()));
+    if (isNeeded && last >= 0) {
+        markCharacter(last);
     }
     m_cursor.endEditBlock();
 }

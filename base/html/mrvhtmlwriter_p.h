@@ -1,5 +1,6 @@
 #pragma once
 
+#include "html/mrvhtmlcomments_p.h"
 #include "html/mrvhtmlstyle_p.h"
 
 #include <QPointer>
@@ -66,6 +67,10 @@ public:
     void writeRule(const QTextLength &width, const MRVHtmlStyle &style);
     /** A name for the next character. */
     void addName(const QString &name);
+    void beginComment(const MRVHtmlComment &comment) { m_comments.begin(comment); }
+    /** One that has ended without text is about the character before it, if that has none. */
+    void endComment(int number);
+    int commentCount() const { return m_comments.count(); }
     /** The mark of a task: the present paragraph's, or that of the next one. */
     void setMarker(QTextBlockFormat::MarkerType marker);
 
@@ -123,6 +128,7 @@ private:
     void prepareContent();
     void writePendingLineEnds();
     void flush();
+    void markCharacter(int position);
     QTextCharFormat withNames(const QTextCharFormat &format);
 
     QTextDocument *const m_document;
@@ -140,4 +146,5 @@ private:
     QString m_text; // not written yet
     QTextCharFormat m_textFormat;
     QStringList m_names; // for the next character
+    MRVHtmlComments m_comments;
 };

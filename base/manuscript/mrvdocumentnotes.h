@@ -24,7 +24,8 @@ struct MRVBASE_EXPORT MRVDocumentNote
     MRVTextRange range;
     /**
      * The address of a link, and of a link to or from a footnote or comment; the colour of a
-     * highlight as "#rrggbb"; the file of a picture; the name of an anchor. Else empty.
+     * highlight as "#rrggbb"; the file of a picture; the name of an anchor; the text of a comment
+     * in the margin. Else empty.
      */
     QString target;
     /**
@@ -50,7 +51,8 @@ struct MRVBASE_EXPORT MRVSourceComment
  *
  * Footnotes and comments are links that word processors and converters name as such ("#_ftn1",
  * "#cmnt1"), links inside the page on a mere number or sign, and what authors of plain text and
- * Markdown type: "[^1]" and "{>> text <<}". GUI thread only.
+ * Markdown type: "[^1]" and "{>> text <<}". Comments are also those in the margin, with
+ * InspectorCommentProperty. GUI thread only.
  *
  * @since 1.0
  */

@@ -148,6 +148,9 @@ bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
     if (!missing.isEmpty()) {
         read->report.losses.append({0, missing.join(u' ')});
     }
+    for (const QString &comment : converter.missingComments()) {
+        read->report.losses.append({0, tr("the comment %1").arg(comment)});
+    }
     return !text->isNull() || fail(ConversionError, *read, reason);
 }
 

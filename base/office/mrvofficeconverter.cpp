@@ -207,6 +207,7 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
 {
     m_warnings.clear();
     m_missingWords.clear();
+    m_missingComments.clear();
     const Converter *converter = converterOf(format);
     const QString formatName = MRVFormat::name(format);
     if (!converter) {
@@ -225,7 +226,7 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
     if (!begins(bytes, format, error)) {
         return QString();
     }
-    const MRVOfficeSource source(bytes, format);
+    MRVOfficeSource source(bytes, format);
     if (source.isTooLarge()) {
         MRV::fail(error,
                   tr("its text is larger than %1 MB").arg(MRVOfficeSource::MostUnpacked >> 20));
@@ -251,9 +252,10 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
         return QString();
     }
     m_warnings = warningsIn(result.errors);
-    const QString page = MRVOfficeSource::withMarks(QString::fromUtf8(result.output))
+    const QString page = source.withMarks(QString::fromUtf8(result.output))
                              .replace(QLatin1String("<p></p>"), QLatin1String("<p><br /></p>"));
     m_missingWords = source.missingFrom(page);
+    m_missingComments = source.missingComments();
     return page;
 }
 

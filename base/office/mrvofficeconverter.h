@@ -70,6 +70,11 @@ public:
      * No page lacks a word without this.
      */
     QStringList missingWords() const { return m_missingWords; }
+    /**
+     * The texts of comments of the last document that its text, or the page, has no place for. The
+     * others are elements "mrv-comment" of the page, which MRVHtmlDocument reads.
+     */
+    QStringList missingComments() const { return m_missingComments; }
     /** What the converter said of the last document, a line each, in English. */
     QStringList warnings() const { return m_warnings; }
 
@@ -81,4 +86,5 @@ private:
     bool m_embedsPictures = true;
     QStringList m_warnings;
     QStringList m_missingWords;
+    QStringList m_missingComments;
 };

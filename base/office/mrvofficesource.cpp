@@ -117,6 +117,7 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
         if (!hasText(format, QString::fromUtf8(name))) {
             readFormula(archive.get(), i, name);
             readProperties(archive.get(), i, name);
+            readComments(archive.get(), i, name);
             ok = copyFile(archive.get(), i, written.get());
             continue;
         }
@@ -126,8 +127,7 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
             m_isTooLarge = true;
         } else if (ok) {
             mrvCountWords(mrvOfficeXmlText(mrvWithPlainRuby(text)), &m_words);
-            texts.push_back(format == MRVFormat::ODT ? mrvPreparedOdt(text)
-                                                     : mrvPreparedDocx(text));
+            texts.push_back(preparedText(text, format));
             zip_source_t *prepared = zip_source_buffer(written.get(), texts.back().constData(),
                                                        zip_uint64_t(texts.back().size()), 0);
             ok = addFile(written.get(), name, prepared, ZIP_CM_STORE); // it is read at once
@@ -137,6 +137,23 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
         static_cast<void>(written.release());
         const QByteArray prepared = bytesOf(target.get());
         m_prepared = prepared.isEmpty() ? bytes : prepared;
+    }
+}
+
+QByteArray MRVOfficeSource::preparedText(const QByteArray &text, MRVFormat::Format format)
+{
+    return format == MRVFormat::ODT ? mrvPreparedOdt(mrvWithMarksOfOdtComments(text, &m_comments))
+                                    : mrvPreparedDocx(mrvWithMarksOfDocxComments(text));
+}
+
+// In a DOCX, they are in a file of their own.
+void MRVOfficeSource::readComments(zip_t *archive, quint64 index, const QByteArray &name)
+{
+    QByteArray comments;
+    if (name == "word/comments.xml") {
+        readFile(archive, index, &comments);
+        m_isTooLarge = m_isTooLarge || comments.size() > MRVOfficeSource::MostUnpacked;
+        m_comments = mrvCommentsOfDocx(comments);
     }
 }
 
@@ -163,7 +180,16 @@ void MRVOfficeSource::readFormula(zip_t *archive, quint64 index, const QByteArra
 
 QString MRVOfficeSource::withMarks(const QString &html)
 {
-    return mrvWithCharacters(mrvWithAnchors(html));
+    return mrvWithCharacters(mrvWithAnchors(mrvWithComments(html, &m_comments)));
+}
+
+QStringList MRVOfficeSource::missingComments() const
+{
+    QStringList missing;
+    for (const MRVOfficeComment &comment : m_comments) {
+        missing.append(comment.text.simplified());
+    }
+    return missing;
 }
 
 QStringList MRVOfficeSource::missingFrom(const QString &html) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fileformats/mrvformat.h"
+#include "office/mrvofficecomments_p.h"
 #include "office/mrvofficeproperties_p.h"
 
 #include <QByteArray>
@@ -30,21 +31,25 @@ public:
 
     /**
      * The document, written so that pandoc keeps what it would lose: rows of headings, formulas and
-     * names of places in ODT, names before paragraphs, links and moved text in DOCX, boxes and
-     * readings of characters in both, characters, notes, fields and boxes in RTF.
+     * names of places in ODT, names before paragraphs, links and moved text in DOCX, boxes,
+     * readings of characters and comments in both, characters, notes, fields and boxes in RTF.
      */
     QByteArray prepared() const { return m_prepared; }
 
     /**
-     * @p html of the prepared document, with the names of places and the characters that prepared()
-     * has written in another way.
+     * @p html of the prepared document, with the names of places, the comments and the characters
+     * that prepared() has written in another way. To be called once.
      */
-    static QString withMarks(const QString &html);
+    QString withMarks(const QString &html);
 
     /** Words of the document that @p html lacks, sorted. */
     QStringList missingFrom(const QString &html) const;
+    /** The texts of comments that withMarks() has found no place for. */
+    QStringList missingComments() const;
 
 private:
+    QByteArray preparedText(const QByteArray &text, MRVFormat::Format format);
+    void readComments(zip *archive, quint64 index, const QByteArray &name);
     void readArchive(const QByteArray &bytes, MRVFormat::Format format);
     void readFormula(zip *archive, quint64 index, const QByteArray &name);
     void readProperties(zip *archive, quint64 index, const QByteArray &name);
@@ -54,4 +59,5 @@ private:
     MRVOfficeProperties m_properties;
     QHash<QString, int> m_words; // and how often each occurs
     QStringList m_formulas; // of an ODT
+    MRVOfficeComments m_comments; // that have no place in a page yet
 };

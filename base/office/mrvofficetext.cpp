@@ -224,8 +224,8 @@ QString mrvOfficeXmlText(const QByteArray &xml)
 
 QString mrvTextOfPage(const QString &html)
 {
-    static const QRegularExpression inlineTag(
-        QStringLiteral("</?(?:span|a|em|strong|u|del|sup|sub|code|mark|small)\\b[^>]*>"));
+    static const QRegularExpression inlineTag(QStringLiteral(
+        "</?(?:span|a|em|strong|u|del|sup|sub|code|mark|small|mrv-comment)\\b[^>]*>"));
     static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
     QString text = html.mid(html.indexOf(QLatin1String("<body>")));
     text.remove(inlineTag).replace(tag, QStringLiteral(" "));

@@ -6,6 +6,7 @@
 
 #include "core/mrvxmltext.h"
 
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>
@@ -67,6 +68,13 @@ QString wordsOf(const QString &text)
     QStringList words;
     forEachWord(text, [&words](QStringView word) { words.append(word.toString()); });
     return words.join(u' ');
+}
+
+// A word without the marks of comments, as in "word[12].", which the document does not hold.
+QString withoutMarks(QStringView word)
+{
+    static const QRegularExpression marks(QStringLiteral("\\[\\d+\\]"));
+    return word.toString().remove(marks);
 }
 
 // Elements that stand within a paragraph and within a word.
@@ -324,7 +332,12 @@ QStringList MRVExportCheck::lostWords() const
         int &count = held[paragraph.hash];
         if (count > 0 && !changed.isEmpty()) {
             --count;
-            forEachWord(paragraph.text, [&](QStringView word) { ++spare[word.toString()]; });
+            forEachWord(paragraph.text, [&](QStringView word) {
+                ++spare[word.toString()];
+                if (word.indexOf(u']') > 0) {
+                    ++spare[withoutMarks(word)];
+                }
+            });
         }
     }
     QStringList losses;

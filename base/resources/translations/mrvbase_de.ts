@@ -728,6 +728,10 @@ Fehler: %2</translation>
         <source>it is %1, which its name does not say</source>
         <translation>es ist %1, was der Name nicht sagt</translation>
     </message>
+    <message>
+        <source>the comment %1</source>
+        <translation>der Kommentar %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>

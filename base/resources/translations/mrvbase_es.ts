@@ -728,6 +728,10 @@ Error: %2</translation>
         <source>it is %1, which its name does not say</source>
         <translation>es %1, lo que su nombre no dice</translation>
     </message>
+    <message>
+        <source>the comment %1</source>
+        <translation>el comentario %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>

@@ -728,6 +728,10 @@ Erreur&#xa0;: %2</translation>
         <source>it is %1, which its name does not say</source>
         <translation>c’est un fichier %1, ce que son nom ne dit pas</translation>
     </message>
+    <message>
+        <source>the comment %1</source>
+        <translation>le commentaire %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>
