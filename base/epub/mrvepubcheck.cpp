@@ -32,6 +32,17 @@ constexpr MRVProgramLimits Limits{180000, qint64(16) << 30, qint64(256) << 20};
 
 constexpr char LinkName[] = "book.epub";
 
+// What is no archive at all is no book with faults.
+bool isArchive(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return MRV::fail(error, path, file.errorString());
+    }
+    return file.read(4) == "PK\x03\x04"
+        || MRV::fail(error, path, MRVEPubCheck::tr("it is no e-book, as it is no ZIP archive"));
+}
+
 // Where distributions put it; the command "epubcheck" may be the archive itself, which not every
 // system can start.
 QString archive()
@@ -97,6 +108,9 @@ bool MRVEPubCheck::check(const QString &file, QVector<MRVEPubFinding> *findings,
         return MRV::fail(error,
                          tr("e-books are checked by epubcheck, which is not installed; install "
                             "the packages epubcheck and default-jre-headless"));
+    }
+    if (!isArchive(file, error)) {
+        return false;
     }
     const MRVTemporaryFolder folder(QDir::tempPath());
     // The suffix of the file counts for epubcheck.

@@ -48,8 +48,9 @@ public:
      * @param file     absolute, or relative to the current folder.
      * @param findings receives them in the validator's order; untouched on failure.
      * @param error    if given, receives one translated line on failure; untouched on success.
-     * @return false when the file does not exist, and when epubcheck or a Java runtime is not
-     *         installed or does not come to an end; the text then says what to install.
+     * @return false when the file does not exist or is no ZIP archive, and when epubcheck or a Java
+     *         runtime is not installed or does not come to an end; the text then says what to
+     *         install.
      */
     static bool check(const QString &file, QVector<MRVEPubFinding> *findings,
                       QString *error = nullptr);

@@ -442,6 +442,10 @@ Fehler: %2</translation>
         <source>epubcheck gives no answer</source>
         <translation>epubcheck gibt keine Antwort</translation>
     </message>
+    <message>
+        <source>it is no e-book, as it is no ZIP archive</source>
+        <translation>sie ist kein E-Book, denn sie ist kein ZIP-Archiv</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>

@@ -442,6 +442,10 @@ Error: %2</translation>
         <source>epubcheck gives no answer</source>
         <translation>epubcheck no da respuesta</translation>
     </message>
+    <message>
+        <source>it is no e-book, as it is no ZIP archive</source>
+        <translation>no es un libro electrónico, ya que no es un archivo ZIP</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>

@@ -442,6 +442,10 @@ Erreur&#xa0;: %2</translation>
         <source>epubcheck gives no answer</source>
         <translation>epubcheck ne donne pas de réponse</translation>
     </message>
+    <message>
+        <source>it is no e-book, as it is no ZIP archive</source>
+        <translation>ce n’est pas un livre numérique, car ce n’est pas une archive ZIP</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubMetadata</name>
