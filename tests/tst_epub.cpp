@@ -531,6 +531,30 @@ private Q_SLOTS:
                               "pictures that were not written: 1"}));
     }
 
+    // A picture that a link leads to has a page, if it lies in the folder of the document.
+    void plates()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("book/sub"));
+        QVERIFY(writeBytes(folder.filePath("book/sub/a b.png"), png(Qt::red)));
+        QVERIFY(writeBytes(folder.filePath("book/c.txt"), "c"));
+        QVERIFY(writeBytes(folder.filePath("book2.png"), png(Qt::blue)));
+        QTextDocument document;
+        document.setHtml("<a href='sub/a%20b.png'>Plate <b>1</b></a> <a href='sub/a%20b.png#x'>2"
+                         "</a> <a href='c.txt'>3</a> <a href='../book2.png'>4</a>");
+        MRVEPubPackage package;
+        QVERIFY(package.addDocument(document, folder.filePath("book/d.html")));
+        const QMap<QString, QString> files = unpacked(package.toByteArray());
+        QVERIFY(files["OEBPS/page-001.xhtml"].contains(
+            "<a href=\"plate-001.xhtml\">Plate <strong>1</strong></a> "
+            "<a href=\"plate-001.xhtml\">2</a> 3 4"));
+        QVERIFY(files["OEBPS/plate-001.xhtml"].contains(
+            "<img src=\"images/a-b-1.png\" alt=\"Plate 1\" />"));
+        QVERIFY(files["OEBPS/content.opf"].contains("idref=\"plate-1\" linear=\"no\""));
+        QCOMPARE(QStringList(files.keys()).filter("plate-").size(), 1);
+        QCOMPARE(package.deadLinks(), QStringList({"c.txt", "../book2.png"}));
+    }
+
     void isValid_data()
     {
         QTest::addColumn<int>("version");
@@ -566,6 +590,10 @@ private Q_SLOTS:
         QVERIFY(package.addDocument(hard, "hard.html"));
         QVERIFY(package.addDocument(QTextDocument(), "empty.txt"));
         QTemporaryDir folder;
+        QVERIFY(writeBytes(folder.filePath("plate.png"), png(Qt::red)));
+        QTextDocument linking;
+        linking.setHtml("<a href='plate.png'>Plate</a>");
+        QVERIFY(package.addDocument(linking, folder.filePath("linking.html")));
         QVERIFY(package.write(folder.filePath("book.epub")));
         QCOMPARE(epubErrors(folder.filePath("book.epub")), QString());
     }

@@ -126,12 +126,13 @@ MRVDocumentPicture MRVDocumentPicture::ofPixels(const QImage &image, QString *re
     return fromBytes(png, reason);
 }
 
-MRVDocumentPicture MRVDocumentPicture::ofFile(const QString &path, QString *reason)
+MRVDocumentPicture MRVDocumentPicture::fromFile(const QString &path, QString *error)
 {
     const QFileInfo file(path);
     const qint64 time = changeTime(file); // of a file that changes from here on, this is not it
     const MRVPictureReader look = MRVPictureReader::ofFile(path);
-    MRVDocumentPicture picture = ofLook(look, reason);
+    MRVDocumentPicture picture = ofLook(look, error);
+    picture.m_name = file.fileName();
     // Others are not the bytes of the file.
     if (picture.m_type != None && picture.m_type != Svg && typeOf(look) != None) {
         picture.m_file = path;
@@ -152,7 +153,7 @@ MRVDocumentPicture MRVDocumentPicture::of(const QTextDocument &document,
     const QVariant source =
         MRVGuardedDocument::pictureSource(document, QUrl(MRVTextFormat::imageResourceId(format)));
     if (source.userType() == QMetaType::QUrl) {
-        return ofFile(source.toUrl().toLocalFile(), reason);
+        return fromFile(source.toUrl().toLocalFile(), reason);
     }
     if (source.userType() == QMetaType::QByteArray) {
         return fromBytes(source.toByteArray(), reason);
@@ -164,7 +165,7 @@ MRVDocumentPicture MRVDocumentPicture::of(const QTextDocument &document,
         const MRVPictureReader look = MRVPictureReader::ofFile(link);
         if (typeOf(look) != None
             && MRVGuiUtil::resourceId(look.read()) == MRVGuiUtil::resourceId(image)) {
-            return ofFile(link, reason);
+            return fromFile(link, reason);
         }
     }
     return ofPixels(image, reason);

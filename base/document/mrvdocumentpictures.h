@@ -39,9 +39,20 @@ public:
      */
     static MRVDocumentPicture fromBytes(const QByteArray &bytes, QString *error = nullptr);
 
+    /**
+     * The picture in a file, by whose name name() goes. The file is read again by bytes().
+     *
+     * @param error as for fromBytes().
+     * @return type None on failure.
+     */
+    static MRVDocumentPicture fromFile(const QString &path, QString *error = nullptr);
+
     /** None for a value that was made without a picture; nothing else is set then. */
     Type type() const { return m_type; }
-    /** MRVTextFormat::imageName() of the image that shows the picture first; it may be any text. */
+    /**
+     * MRVTextFormat::imageName() of the image that shows the picture first, which may be any text;
+     * the name of a file without its folder.
+     */
     QString name() const { return m_name; }
     /** Such as "image/jpeg"; empty for None. */
     QString mediaType() const;
@@ -72,7 +83,6 @@ private:
 
     static MRVDocumentPicture of(const QTextDocument &document, const QTextImageFormat &format,
                                  QString *reason);
-    static MRVDocumentPicture ofFile(const QString &path, QString *reason);
     static MRVDocumentPicture ofPixels(const QImage &image, QString *reason);
     static MRVDocumentPicture ofLook(const MRVPictureReader &look, QString *reason);
 

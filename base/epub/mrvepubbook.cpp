@@ -7,9 +7,7 @@
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
-#include "util/mrvlocalfile.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QSet>
@@ -271,20 +269,6 @@ QVector<MRVEPubEntry> MRVEPubBook::contents() const
     return entries;
 }
 
-// The number of the document that is in a file, as a document names it; -1 where it is not here.
-int MRVEPubBook::linkedDocument(const QString &file, int document) const
-{
-    if (file.isEmpty()) {
-        return document;
-    }
-    if (MRV::isElsewhere(file)) {
-        return -1;
-    }
-    const QString &own = anchors.at(document).path;
-    const QString folder = own.isEmpty() ? QDir::currentPath() : QFileInfo(own).path();
-    return documents.value(MRV::fileIdentity(MRV::localFile(file, folder)), -1);
-}
-
 QStringList MRVEPubBook::deadLinks() const
 {
     QStringList dead;
@@ -302,7 +286,12 @@ QString MRVEPubBook::resolved(const QString &href, int document) const
 {
     const int hash = href.indexOf(u'#');
     const QString anchor = hash < 0 ? QString() : href.mid(hash + 1);
-    const int linked = href.isEmpty() ? -1 : linkedDocument(href.left(hash), document);
+    const QString file = linkedFile(href, anchors.at(document).path);
+    const int linked = hash == 0 ? document : documents.value(file, -1);
+    const QString plate = plates.value(file);
+    if (!plate.isEmpty()) {
+        return plate;
+    }
     if (linked >= 0) {
         const MRVEPubAnchors &there = anchors.at(linked);
         const QString target = there.targets.value(anchor);

@@ -110,6 +110,8 @@ public:
     QStringList picturesWithoutText; // names, each once; those marked as decoration do not count
     QVector<MRVEPubPageBreak> pageBreaks; // in reading order
     QStringList languages; // of the text, beside the book's own, each once
+    QVector<MRVEPubPage> platePages; // outside of the reading order; only links lead to them
+    QHash<QString, QString> plates; // their names by the picture's file, as MRV::fileIdentity()
     int notes = 0; // that are linked with a mark
     int comments = 0; // that became notes
     int notesLevel = 0; // of the heading above all notes; 0: the book has no page for them
@@ -130,6 +132,15 @@ public:
      */
     bool addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
                         QString *error);
+
+    /**
+     * Adds a page for a picture that a link leads to, where it is a file in the folder of the
+     * document or below. Otherwise the link is one that leads nowhere.
+     *
+     * @param text of the link, which says what the picture shows.
+     * @param path of the document; may be empty.
+     */
+    void addPlate(const QString &address, const QString &text, const QString &path);
 
     /**
      * The headings as entries without gaps in depth, as deep as the options say; of a book without
@@ -190,7 +201,7 @@ private:
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
                      QString *error);
     QString addPicture(const MRVDocumentPicture &picture, const QString &name);
-    int linkedDocument(const QString &file, int document) const;
+    static QString linkedFile(const QString &address, const QString &path);
     QString resolved(const QString &href, int document) const;
     QByteArray classAttribute(const MRVEPubPage &page, const MRVEPubHole &hole) const;
     QByteArray linkTag(const MRVEPubPage &page, const MRVEPubHole &hole) const;

@@ -24,6 +24,11 @@ QString pageId(int page)
     return QStringLiteral("page-%1").arg(page + 1);
 }
 
+QString plateId(int plate)
+{
+    return QStringLiteral("plate-%1").arg(plate + 1);
+}
+
 void writeManifest(QXmlStreamWriter *xml, const MRVEPubBook &book)
 {
     const bool epub3 = book.version == MRVEPubVersion::EPub3;
@@ -42,6 +47,9 @@ void writeManifest(QXmlStreamWriter *xml, const MRVEPubBook &book)
     }
     for (int i = 0; i < book.pages.size(); ++i) {
         writeItem(xml, pageId(i), book.pages.at(i).fileName, xhtml);
+    }
+    for (int i = 0; i < book.platePages.size(); ++i) {
+        writeItem(xml, plateId(i), book.platePages.at(i).fileName, xhtml);
     }
     for (int i = 0; i < book.pictures.size(); ++i) {
         const bool cover =
@@ -73,6 +81,11 @@ void writeSpine(QXmlStreamWriter *xml, const MRVEPubBook &book)
     for (const QString &id : qAsConst(ids)) {
         xml->writeEmptyElement(QStringLiteral("itemref"));
         xml->writeAttribute(QStringLiteral("idref"), id);
+    }
+    for (int i = 0; i < book.platePages.size(); ++i) {
+        xml->writeEmptyElement(QStringLiteral("itemref"));
+        xml->writeAttribute(QStringLiteral("idref"), plateId(i));
+        xml->writeAttribute(QStringLiteral("linear"), QStringLiteral("no"));
     }
     xml->writeEndElement();
 }

@@ -88,9 +88,11 @@ std::vector<MRVZipEntry> filesOf(const MRVEPubBook &book, const QDateTime &modif
     if (book.hasCoverPage()) {
         add(Folder + QLatin1String("cover.xhtml"), book.coverBytes());
     }
-    for (const MRVEPubPage &page : book.pages) {
-        files.push_back({Folder + page.fileName, MRVZipEntry::Deflated,
-                         [&book, &page] { return book.pageBytes(page); }});
+    for (const auto *pages : {&book.pages, &book.platePages}) {
+        for (const MRVEPubPage &page : *pages) {
+            files.push_back({Folder + page.fileName, MRVZipEntry::Deflated,
+                             [&book, &page] { return book.pageBytes(page); }});
+        }
     }
     for (const MRVEPubFile &file : book.pictures) {
         const bool isText = file.picture.type() == MRVDocumentPicture::Svg;

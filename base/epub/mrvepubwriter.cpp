@@ -92,6 +92,7 @@ void MRVEPubWriter::write(const QString &fileName)
         }
     }
     writeNotesPage(plan, nullptr);
+    addPlates();
     m_book.notes += m_notes.all().size();
     const QStringList languages = m_formats.languages();
     for (const QString &language : languages) {
@@ -262,12 +263,21 @@ void MRVEPubWriter::openSection(const MRVEPubSection &section)
 QString MRVEPubWriter::headingText(int paragraph) const
 {
     const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
-    const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+    return plainText(place.position, place.position + place.length);
+}
+
+QString MRVEPubWriter::plainText(int begin, int end) const
+{
+    const MRVEPubParagraph &place = m_flow.paragraphs.at(m_flow.paragraphAt(begin));
     QString text;
     int position = place.position;
-    for (int i = place.firstFragment; i < end; ++i) {
+    for (int i = place.firstFragment; position < end; ++i) {
         const MRVEPubFragment &fragment = m_flow.fragments.at(i);
         const QTextFormat &format = m_flow.formats.at(fragment.format);
+        if (position < begin) {
+            position += fragment.length;
+            continue;
+        }
         if (format.isImageFormat()) {
             text += format.stringProperty(QTextFormat::ImageAltText);
         } else if (m_notes.ofMark(position) < 0) {
@@ -276,6 +286,18 @@ QString MRVEPubWriter::headingText(int paragraph) const
         position += fragment.length;
     }
     return text.simplified();
+}
+
+// Pictures that links lead to, as documents have them where a page shows a small one, or none.
+void MRVEPubWriter::addPlates()
+{
+    QSet<QString> known;
+    for (const MRVEPubLink &link : m_flow.links) {
+        if (!known.contains(link.address)) {
+            known.insert(link.address);
+            m_book.addPlate(link.address, plainText(link.begin, link.end), m_targets.path);
+        }
+    }
 }
 
 // The notes whose marks stand on the page; those that a note has marks of follow.

@@ -93,6 +93,8 @@ private:
     const MRVEPubSection *sectionOf(int heading, int end, const MRVEPubPages &plan) const;
     void openSection(const MRVEPubSection &section);
     QString headingText(int paragraph) const;
+    QString plainText(int begin, int end) const;
+    void addPlates();
     void writeNotes();
     void writeNote(int note, int end);
     const MRVEPubEntry *chapterOf(const MRVEPubPages &plan) const;
