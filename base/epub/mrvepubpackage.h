@@ -25,10 +25,11 @@ struct MRVManuscript;
  * Each document becomes one or more pages: a new page begins at a page break and at each heading of
  * the highest level that occurs more than once. The package holds a cover page, the navigation
  * document (EPUB 3) and the NCX, made from the headings, the pictures, one style sheet, and
- * accessibility metadata (EPUB 3). Links within and between the documents lead to the right page.
- * A picture in the folder of the document, or below, that a link leads to has a page of its own
+ * accessibility metadata (EPUB 3). Links within and between the documents lead to the right page. A
+ * picture in the folder of the document, or below, that a link leads to has a page of its own
  * outside of the reading order. Links that would lead nowhere inside the book (other local files,
- * anchors that do not exist, other documents) keep their text only. The same documents, metadata and date give the same bytes.
+ * anchors that do not exist, other documents) keep their text only. The same documents, metadata
+ * and date give the same bytes.
  *
  * GUI thread only.
  *
