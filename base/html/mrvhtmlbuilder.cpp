@@ -121,6 +121,14 @@ bool hasNextElement(const GumboNode *element)
     return false;
 }
 
+int itemCount(const GumboNode *list)
+{
+    const MRVHtmlChildren children(list);
+    return int(std::count_if(children.begin(), children.end(), [](const GumboNode *child) {
+        return mrvIsElement(child, GUMBO_TAG_LI);
+    }));
+}
+
 const QVector<MRVCssDeclaration> &linkDeclarations()
 {
     // The colour does not come from the palette of the machine that reads: the same page gives the
@@ -533,11 +541,15 @@ std::shared_ptr<MRVHtmlList> MRVHtmlBuilder::listOf(const GumboNode *element,
     if (style.hasNumberSuffix) {
         list->format.setNumberSuffix(style.numberSuffix);
     }
-    bool ok = false;
-    const int start = mrvAttributeOf(element, "start").toInt(&ok);
-    if (ok && element->v.element.tag == GUMBO_TAG_OL && start != 1) {
-        list->format.setProperty(MRVTextFormat::ListStartProperty, start);
-        list->number = start;
+    if (element->v.element.tag == GUMBO_TAG_OL) {
+        const bool isReversed = mrvHasAttribute(element, "reversed");
+        bool ok = false;
+        const int start = mrvAttributeOf(element, "start").toInt(&ok);
+        list->step = isReversed ? -1 : 1;
+        list->number = ok ? start : isReversed ? itemCount(element) : 1;
+    }
+    if (list->number != 1) {
+        list->format.setProperty(MRVTextFormat::ListStartProperty, list->number);
     }
     return list;
 }

@@ -224,13 +224,14 @@ bool MRVHtmlWriter::joinList(QTextBlockFormat *format)
     }
     box.isItemStarted = true;
     const int most = list.isNumbered() ? MostNumberedItems : MostItems;
-    if (list.list && list.list->count() >= most) {
+    // A list of rich text counts up.
+    if (list.list && (list.step < 0 || list.list->count() >= most)) {
         list.goOnWith(list.number);
     }
     if (box.marker != QTextBlockFormat::MarkerType::NoMarker) {
         format->setMarker(box.marker);
     }
-    ++list.number;
+    list.number += list.step;
     return true;
 }
 

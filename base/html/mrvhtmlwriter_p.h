@@ -20,6 +20,7 @@ struct MRVHtmlList
     QTextListFormat format; ///< without a style: items have no marks
     QTextList *list = nullptr; ///< once there is an item
     int number = 1; ///< of the next item
+    int step = 1; ///< from one item to the next
 
     bool isNumbered() const;
     /** Makes the next item the first one of another list, with this number. */
