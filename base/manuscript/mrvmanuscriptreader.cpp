@@ -144,9 +144,11 @@ bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
     QString reason;
     *text = converter.toHtml(read->bytes, officeFormat(read->format), &reason);
     read->conversionNotes = converter.warnings();
-    const QStringList missing = converter.missingWords();
-    if (!missing.isEmpty()) {
-        read->report.losses.append({0, missing.join(u' ')});
+    for (const MRVOfficeLoss &loss : converter.missingWords()) {
+        read->report.losses.append({0,
+                                    loss.after.isEmpty()
+                                        ? loss.words
+                                        : tr("%1 (after \"%2\")").arg(loss.words, loss.after)});
     }
     for (const QString &comment : converter.missingComments()) {
         read->report.losses.append({0, tr("the comment %1").arg(comment)});
@@ -180,8 +182,11 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
     if (!read->document) {
         return fail(NestingError, *read, reason);
     }
-    for (MRVHtmlLoss &loss : report.html.losses) {
-        loss.line = read->isConverted() ? 0 : loss.line; // of a page that nobody has seen
+    if (read->isConverted()) { // lines are those of a page that nobody has seen
+        report.html.pictureLines.clear();
+        for (MRVHtmlLoss &loss : report.html.losses) {
+            loss.line = 0;
+        }
     }
     report.html.losses = read->report.losses + report.html.losses;
     read->report = report.html;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "fileformats/mrvformat.h"
+#include "office/mrvofficeloss.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 struct MRVProgramResult;
 
@@ -66,10 +68,10 @@ public:
      */
     QString toHtml(const QByteArray &bytes, MRVFormat::Format format, QString *error = nullptr);
     /**
-     * Words of the last document that the page lacks, sorted, in lower case; empty if all is well.
-     * No page lacks a word without this.
+     * Words of the last document that the page lacks, in order; empty if all is well. No page lacks
+     * a word without this.
      */
-    QStringList missingWords() const { return m_missingWords; }
+    QVector<MRVOfficeLoss> missingWords() const { return m_missingWords; }
     /**
      * The texts of comments of the last document that its text, or the page, has no place for. The
      * others are elements "mrv-comment" of the page, which MRVHtmlDocument reads.
@@ -85,6 +87,6 @@ private:
     Limits m_limits;
     bool m_embedsPictures = true;
     QStringList m_warnings;
-    QStringList m_missingWords;
+    QVector<MRVOfficeLoss> m_missingWords;
     QStringList m_missingComments;
 };

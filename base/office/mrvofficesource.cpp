@@ -3,6 +3,7 @@
 #include "office/mrvofficeboxes_p.h"
 #include "office/mrvofficertf_p.h"
 #include "office/mrvofficetext_p.h"
+#include "office/mrvofficewords_p.h"
 
 #include <memory>
 #include <vector>
@@ -90,7 +91,7 @@ MRVOfficeSource::MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format form
 {
     if (format == MRVFormat::RTF) {
         m_prepared = mrvPreparedRtf(bytes);
-        mrvCountWords(mrvRtfText(bytes), &m_words);
+        m_text = mrvRtfText(bytes);
     } else {
         readArchive(bytes, format);
     }
@@ -126,7 +127,7 @@ void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format for
         if (text.size() > MRVOfficeSource::MostUnpacked) {
             m_isTooLarge = true;
         } else if (ok) {
-            mrvCountWords(mrvOfficeXmlText(mrvWithPlainRuby(text)), &m_words);
+            m_text += mrvOfficeXmlText(mrvWithPlainRuby(text)) + u' ';
             texts.push_back(preparedText(text, format));
             zip_source_t *prepared = zip_source_buffer(written.get(), texts.back().constData(),
                                                        zip_uint64_t(texts.back().size()), 0);
@@ -192,21 +193,10 @@ QStringList MRVOfficeSource::missingComments() const
     return missing;
 }
 
-QStringList MRVOfficeSource::missingFrom(const QString &html) const
+QVector<MRVOfficeLoss> MRVOfficeSource::missingFrom(const QString &html) const
 {
-    QHash<QString, int> found;
-    mrvCountWords(mrvTextOfPage(html), &found);
     // Their words cannot be compared, as they may be written as TeX.
-    QHash<QString, int> words = m_words;
-    if (html.count(QLatin1String("<span class=\"math ")) < m_formulas.size()) {
-        mrvCountWords(m_formulas.join(u' '), &words);
-    }
-    QStringList missing;
-    for (auto it = words.constBegin(); it != words.constEnd(); ++it) {
-        for (int i = found.value(it.key()); i < it.value(); ++i) {
-            missing.append(it.key());
-        }
-    }
-    missing.sort();
-    return missing;
+    const bool hasFormulas = html.count(QLatin1String("<span class=\"math ")) >= m_formulas.size();
+    return mrvMissingWords(m_text, hasFormulas ? QString() : m_formulas.join(u' '),
+                           mrvTextOfPage(html));
 }

@@ -2,12 +2,13 @@
 
 #include "fileformats/mrvformat.h"
 #include "office/mrvofficecomments_p.h"
+#include "office/mrvofficeloss.h"
 #include "office/mrvofficeproperties_p.h"
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 struct zip;
 
@@ -42,8 +43,8 @@ public:
      */
     QString withMarks(const QString &html);
 
-    /** Words of the document that @p html lacks, sorted. */
-    QStringList missingFrom(const QString &html) const;
+    /** Words of the document that @p html lacks. */
+    QVector<MRVOfficeLoss> missingFrom(const QString &html) const;
     /** The texts of comments that withMarks() has found no place for. */
     QStringList missingComments() const;
 
@@ -57,7 +58,7 @@ private:
     QByteArray m_prepared;
     bool m_isTooLarge = false;
     MRVOfficeProperties m_properties;
-    QHash<QString, int> m_words; // and how often each occurs
+    QString m_text; // that a reader is to see
     QStringList m_formulas; // of an ODT
     MRVOfficeComments m_comments; // that have no place in a page yet
 };

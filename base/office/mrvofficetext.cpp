@@ -235,30 +235,3 @@ QString mrvTextOfPage(const QString &html)
         .replace(QLatin1String("&amp;"), QLatin1String("&"));
     return text;
 }
-
-void mrvCountWords(const QString &text, QHash<QString, int> *words)
-{
-    QString word;
-    bool hasDigits = false;
-    const auto end = [&] {
-        if (!word.isEmpty()) {
-            ++(*words)[word];
-            word.resize(0);
-        }
-    };
-    for (const QChar character : text) {
-        const bool isDigit = character.isDigit();
-        const bool isLetter = character.isLetter() || character.isMark() || character.isSurrogate();
-        if (character == QChar::SoftHyphen) {
-            continue;
-        }
-        if ((!isDigit && !isLetter) || isDigit != hasDigits) {
-            end();
-        }
-        hasDigits = isDigit;
-        if (isDigit || isLetter) {
-            word += character.toCaseFolded();
-        }
-    }
-    end();
-}

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
 
 /**
@@ -26,9 +25,3 @@ QByteArray mrvPreparedDocx(QByteArray xml);
 QString mrvOfficeXmlText(const QByteArray &xml);
 /** The text of a page that pandoc has written. */
 QString mrvTextOfPage(const QString &html);
-
-/**
- * Counts words, in any case. Letters and digits are words of their own, so that the number of a
- * note after a word does not matter; soft hyphens do not count.
- */
-void mrvCountWords(const QString &text, QHash<QString, int> *words);

@@ -736,6 +736,10 @@ Fehler: %2</translation>
         <source>the comment %1</source>
         <translation>der Kommentar %1</translation>
     </message>
+    <message>
+        <source>%1 (after &quot;%2&quot;)</source>
+        <translation>%1 (nach „%2“)</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>

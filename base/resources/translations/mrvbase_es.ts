@@ -736,6 +736,10 @@ Error: %2</translation>
         <source>the comment %1</source>
         <translation>el comentario %1</translation>
     </message>
+    <message>
+        <source>%1 (after &quot;%2&quot;)</source>
+        <translation>%1 (después de «%2»)</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>

@@ -736,6 +736,10 @@ Erreur&#xa0;: %2</translation>
         <source>the comment %1</source>
         <translation>le commentaire %1</translation>
     </message>
+    <message>
+        <source>%1 (after &quot;%2&quot;)</source>
+        <translation>%1 (après «&#xa0;%2&#xa0;»)</translation>
+    </message>
 </context>
 <context>
     <name>MRVOfficeConverter</name>
