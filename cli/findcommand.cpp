@@ -18,10 +18,10 @@ bool readSearch(const Call &call, MRVTextQuery *query, QStringList *inputs, QStr
     if (!readSearchOptions(call, query, error)) {
         return false;
     }
-    if (!call.has("text") && query->kinds.isEmpty()) {
+    if (!call.has("text") && !query->isForRuns()) {
         query->text = inputs->takeFirst();
     }
-    if (query->text.isEmpty() && query->kinds.isEmpty()) {
+    if (query->text.isEmpty() && !query->isForRuns()) {
         *error = QStringLiteral("TEXT is empty");
     } else if (inputs->isEmpty()) {
         *error = QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb);

@@ -20,17 +20,15 @@ constexpr struct
     {"word-end", MRVTextFinder::FindWordEnd},
 };
 
-// Formats that consist of a property and its value.
+// Formats that consist of a property that is true.
 constexpr struct
 {
     const char *option;
     int property;
-    int value;
 } propertyRows[] = {
-    {"bold", QTextFormat::FontWeight, QFont::Bold},
-    {"italic", QTextFormat::FontItalic, true},
-    {"underline", QTextFormat::FontUnderline, true},
-    {"strike", QTextFormat::FontStrikeOut, true},
+    {"italic", QTextFormat::FontItalic},
+    {"underline", QTextFormat::FontUnderline},
+    {"strike", QTextFormat::FontStrikeOut},
 };
 
 // Formats with a colour.
@@ -43,10 +41,10 @@ constexpr struct
     {"highlight", MRVTextFinder::FindHighlight},
 };
 
-QVariant propertyFormat(int property, const QVariant &value)
+QVariant propertyFormat(int property)
 {
     QTextCharFormat format;
-    format.setProperty(property, value);
+    format.setProperty(property, true);
     return QVariant::fromValue<QTextFormat>(format);
 }
 
@@ -56,6 +54,8 @@ bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
 {
     query->syntax = call.has("regex") ? MRVTextQuery::RegularExpression : MRVTextQuery::PlainText;
     query->ignoreTypography = call.has("loose");
+    query->ignoreAccents = call.has("ignore-accents");
+    query->acrossParagraphs = call.has("across");
     for (const auto &row : flagRows) {
         if (call.has(row.option)) {
             query->flags |= row.flags;
@@ -83,9 +83,13 @@ bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
     }
     for (const auto &row : propertyRows) {
         if (call.has(row.option)) {
-            const QVariant value = row.value == true ? QVariant(true) : QVariant(row.value);
-            query->kinds.append({MRVTextFinder::FindFormat, propertyFormat(row.property, value)});
+            query->kinds.append({MRVTextFinder::FindFormat, propertyFormat(row.property)});
         }
+    }
+    if (call.has("bold")) {
+        query->accepts = [](const QTextCharFormat &format) {
+            return format.fontWeight() > QFont::Medium;
+        };
     }
     return query->isValid(error);
 }

@@ -19,14 +19,19 @@ constexpr Option searchOptions[] = {
     Option::flag("word-start", "Match only where a word begins."),
     Option::flag("word-end", "Match only where a word ends."),
     Option::flag("l loose",
-                 "Match straight and curly quotes, hyphens and short dashes, kinds of spaces, and "
-                 "composed and decomposed accents alike."),
+                 "Match quotes of all kinds, hyphens and short dashes, kinds of spaces, composed "
+                 "and decomposed accents, and ligatures and full-width letters and what they stand "
+                 "for alike, and pass over soft hyphens and characters without width."),
+    Option::flag("ignore-accents", "Match letters with and without accents alike."),
+    Option::flag("across",
+                 "Let matches go on over ends of paragraphs: \\n in an expression; ^ and $ are the "
+                 "start and end of each paragraph."),
     Option::flag("links", "Only text that is a link."),
     Option::flag("highlights", "Only highlighted text."),
     Option::name("colour color", "COLOUR",
                  "Only text in this colour (a name or #rrggbb); 'any' for any colour."),
     Option::name("highlight", "COLOUR", "Only text highlighted in this colour."),
-    Option::flag("bold", "Only bold text, headings included."),
+    Option::flag("bold", "Only bold text (from weight 600 on), headings included."),
     Option::flag("italic", "Only italic text."),
     Option::flag("underline", "Only underlined text."),
     Option::flag("strike", "Only text that is struck out."),

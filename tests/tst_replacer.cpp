@@ -19,6 +19,8 @@ MRVTextQuery queryFor(const QString &text, const QString &kind)
         query.flags |= Finder::FindWholeWords;
     }
     query.ignoreTypography = kind.contains('t');
+    query.ignoreAccents = kind.contains('a');
+    query.acrossParagraphs = kind.contains('x');
     return query;
 }
 
@@ -41,7 +43,7 @@ private Q_SLOTS:
         QFETCH(QString, replacement);
         QFETCH(QString, after);
         for (QString *cell : {&text, &after}) {
-            for (ushort code : {0xa0, 0x301, 0xfffc}) {
+            for (ushort code : {0xa0, 0xad, 0x301, 0x302, 0x307, 0xfffc}) {
                 cell->replace(QString::asprintf("u%04x", code), QChar(code));
             }
         }
@@ -123,6 +125,32 @@ private Q_SLOTS:
         query.range = {5, 9};
         QVERIFY(!Replacer::findAll(&document, query).contains(linked.first()));
         QCOMPARE(Replacer::replaceAll(&document, query, "dog"), 0);
+        query.kinds.clear();
+        query.range = MRVTextQuery().range;
+        query.accepts = [](const QTextCharFormat &format) {
+            return !format.anchorHref().isEmpty();
+        };
+        QCOMPARE(Replacer::findAll(&document, query), QVector<MRVTextRange>{MRVTextRange(4, 9)});
+    }
+
+    // What a find takes away must not be a border between cells.
+    void acrossStaysInCells()
+    {
+        QTextDocument document("a\nb");
+        QTextCursor cursor(&document);
+        cursor.movePosition(QTextCursor::End);
+        cursor.insertTable(1, 2);
+        cursor.insertText("c\nd");
+        const MRVTextQuery query = queryFor("\\n", "rx");
+        QCOMPARE(Replacer::findAll(&document, query), (QVector<MRVTextRange>{{1, 2}, {5, 6}}));
+        QTextCursor back(&document);
+        back.movePosition(QTextCursor::End);
+        MRVTextQuery backward = query;
+        backward.flags |= Finder::FindBackward;
+        QTextCursor found = Replacer::find(back, backward);
+        QCOMPARE(MRVTextRange(found), MRVTextRange(5, 6));
+        QVERIFY(Replacer::replace(found, query, "-"));
+        QCOMPARE(document.toPlainText(), QString("a\nb\nc-d\n\n"));
     }
 
     void formatsStay()

@@ -12,17 +12,38 @@ Qt::CaseSensitivity caseOf(const MRVTextQuery &query)
     return query.flags & Finder::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
 }
 
+MRVFoldedText::Options foldingOf(const MRVTextQuery &query)
+{
+    MRVFoldedText::Options folding;
+    folding.setFlag(MRVFoldedText::Accents, query.ignoreAccents);
+    folding.setFlag(MRVFoldedText::Typography, query.ignoreTypography);
+    folding.setFlag(MRVFoldedText::Case,
+                    query.ignoreTypography && caseOf(query) == Qt::CaseInsensitive);
+    return folding;
+}
+
+QRegularExpression compiled(const MRVTextQuery &query, const QString &pattern)
+{
+    QRegularExpression::PatternOptions options;
+    options.setFlag(QRegularExpression::CaseInsensitiveOption,
+                    caseOf(query) == Qt::CaseInsensitive);
+    options.setFlag(QRegularExpression::MultilineOption, query.acrossParagraphs);
+    return QRegularExpression(pattern, options);
+}
+
 std::variant<MRVLiteralMatcher, MRVRegularExpressionMatcher> matcherOf(const MRVTextQuery &query,
                                                                        MRVSearchGuard *guard)
 {
-    if (query.syntax == MRVTextQuery::PlainText) {
-        const QString text =
-            query.ignoreTypography ? MRVFoldedText::foldPattern(query.text) : query.text;
-        if (MRVLiteralMatcher::canMatch(text, caseOf(query))) {
-            return MRVLiteralMatcher(text, caseOf(query));
-        }
+    const auto folding = foldingOf(query);
+    if (query.syntax == MRVTextQuery::RegularExpression) {
+        const QString pattern = MRVFoldedText::foldExpression(query.text, folding);
+        return MRVRegularExpressionMatcher(compiled(query, pattern), guard);
     }
-    return MRVRegularExpressionMatcher(mrvExpressionOf(query), guard);
+    const QString text = MRVFoldedText(query.text, folding).text();
+    if (MRVLiteralMatcher::canMatch(text, caseOf(query))) {
+        return MRVLiteralMatcher(text, caseOf(query));
+    }
+    return MRVRegularExpressionMatcher(compiled(query, QRegularExpression::escape(text)), guard);
 }
 
 QVector<MRVTextRange> intersection(const QVector<MRVTextRange> &first,
@@ -42,25 +63,17 @@ QVector<MRVTextRange> intersection(const QVector<MRVTextRange> &first,
 
 } // namespace
 
-MRVSearchedText::MRVSearchedText(int position, const QString &original, bool fold)
+MRVSearchedText::MRVSearchedText(int position, const QString &original,
+                                 MRVFoldedText::Options folding)
     : m_position(position)
-    , m_isFolded(fold)
     , m_original(original)
-    , m_folded(fold ? original : QString())
-    , m_searched(fold ? m_folded.text() : original)
+    , m_folded(original, folding)
+    , m_searched(m_folded.text())
 {
-}
-
-int MRVSearchedText::fromOriginal(int offset) const
-{
-    return m_isFolded ? m_folded.fromOriginal(offset) : offset;
 }
 
 MRVTextMatch MRVSearchedText::toOriginal(MRVTextMatch match) const
 {
-    if (!m_isFolded) {
-        return match;
-    }
     const int from = m_folded.toOriginalStart(match.start);
     const int to = match.length > 0 ? m_folded.toOriginalEnd(match.end()) : from;
     return {from, to - from};
@@ -72,19 +85,9 @@ QString MRVSearchedText::original(MRVTextMatch match) const
     return m_original.mid(part.start, part.length);
 }
 
-QRegularExpression mrvExpressionOf(const MRVTextQuery &query)
+bool MRVSearchedText::isOfWholeLetters(MRVTextMatch match) const
 {
-    QString pattern = query.text;
-    if (query.syntax == MRVTextQuery::PlainText) {
-        pattern = QRegularExpression::escape(
-            query.ignoreTypography ? MRVFoldedText::foldPattern(pattern) : pattern);
-    } else if (query.ignoreTypography) {
-        pattern = MRVFoldedText::foldExpression(pattern);
-    }
-    return QRegularExpression(pattern,
-                              caseOf(query) == Qt::CaseSensitive
-                                  ? QRegularExpression::NoPatternOption
-                                  : QRegularExpression::CaseInsensitiveOption);
+    return m_folded.isBoundary(match.start) && m_folded.isBoundary(match.end());
 }
 
 bool MRVTextQuery::isValid(QString *error) const
@@ -92,17 +95,26 @@ bool MRVTextQuery::isValid(QString *error) const
     if (syntax == PlainText) {
         return true;
     }
-    const MRVExpression expression(mrvExpressionOf(*this));
-    if (!expression.isValid() && error) {
-        *error = QCoreApplication::translate("MRVTextQuery", "%1 (at character %2)")
-                     .arg(expression.errorString(), QString::number(expression.errorOffset() + 1));
+    // First as it was given, so that the place of a fault is the one that the user knows.
+    for (const QString &pattern : {text, MRVFoldedText::foldExpression(text, foldingOf(*this))}) {
+        const MRVExpression expression(compiled(*this, pattern));
+        if (expression.isValid()) {
+            continue;
+        }
+        if (error) {
+            *error =
+                QCoreApplication::translate("MRVTextQuery", "%1 (at character %2)")
+                    .arg(expression.errorString(), QString::number(expression.errorOffset() + 1));
+        }
+        return false;
     }
-    return expression.isValid();
+    return true;
 }
 
 MRVQueryMatcher::MRVQueryMatcher(const MRVTextQuery &query, MRVSearchGuard *guard)
     : m_matcher(matcherOf(query, guard))
     , m_hasGroups(query.syntax == MRVTextQuery::RegularExpression)
+    , m_isAcross(query.acrossParagraphs)
 {
 }
 
@@ -113,6 +125,9 @@ bool MRVQueryMatcher::isEmpty() const
 
 void MRVQueryMatcher::prepare(QString *text) const
 {
+    if (m_isAcross) {
+        text->replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
+    }
     std::visit([text](const auto &matcher) { matcher.prepare(text); }, m_matcher);
 }
 
@@ -147,18 +162,23 @@ QVector<MRVTextRange> mrvRunsOfKinds(const QTextDocument *document, const MRVTex
             break;
         }
     }
+    if (query.accepts) {
+        MRVFormatVerdicts verdicts(document, query.accepts);
+        common = intersection(common, mrvAllRuns(document, verdicts));
+    }
     return common;
 }
 
 MRVQueryFilter::MRVQueryFilter(const QTextDocument *document, const MRVTextQuery &query)
-    : m_verdicts(document, Test{query})
+    : m_document(document)
+    , m_verdicts(document, Test{query})
     , m_all(query.format.propertyCount() == 0)
-    , m_hasKinds(!query.kinds.isEmpty())
+    , m_hasKinds(!query.kinds.isEmpty() || query.accepts)
     , m_ofKinds(m_hasKinds ? mrvRunsOfKinds(document, query) : QVector<MRVTextRange>())
 {
 }
 
-bool MRVQueryFilter::accepts(const QTextBlock &block, const MRVTextRange &find)
+bool MRVQueryFilter::accepts(const MRVSearchedText &text, const MRVTextRange &find)
 {
     if (m_hasKinds && !isOfKinds(find)) {
         return false;
@@ -166,8 +186,8 @@ bool MRVQueryFilter::accepts(const QTextBlock &block, const MRVTextRange &find)
     if (m_all) {
         return true;
     }
-    if (block != m_block) {
-        load(block);
+    if (text.position() != m_loaded) {
+        load(text);
     }
     while (m_next < m_runs.size() && m_runs.at(m_next).end() < find.end()) {
         ++m_next;
@@ -183,15 +203,15 @@ bool MRVQueryFilter::isOfKinds(const MRVTextRange &find) const
     return after != m_ofKinds.cbegin() && find.end() <= std::prev(after)->end();
 }
 
-void MRVQueryFilter::load(const QTextBlock &block)
+void MRVQueryFilter::load(const MRVSearchedText &text)
 {
-    m_block = block;
+    m_loaded = text.position();
     m_runs.resize(0);
     m_next = 0;
-    const int start = block.position();
-    const MRVTextRange text(start, start + block.length() - 1);
-    mrvEachPiece(block.document(), text, m_verdicts, [this](const MRVTextPiece &piece) {
-        const bool adjoins = !m_runs.isEmpty() && m_runs.last().end() == piece.start;
+    const MRVTextRange all(m_loaded, m_loaded + text.original().size());
+    mrvEachPiece(m_document, all, m_verdicts, [this](const MRVTextPiece &piece) {
+        const bool adjoins =
+            !m_runs.isEmpty() && mrvAdjoins(m_document, m_runs.last().end(), piece.start);
         const int from = adjoins ? m_runs.takeLast().start() : piece.start;
         m_runs.append(MRVTextRange(from, piece.end));
     });
@@ -200,11 +220,12 @@ void MRVQueryFilter::load(const QTextBlock &block)
 MRVQuerySearch::MRVQuerySearch(const QTextDocument *document, const MRVTextQuery &query)
     : m_document(document)
     , m_query(query)
+    , m_folding(foldingOf(query))
     , m_range(mrvClipped(query.range, 0, document->characterCount()))
     , m_guard(query.timeLimit, query.isCancelled)
     , m_matcher(query, &m_guard)
 {
-    if (!query.kinds.isEmpty() || query.format.propertyCount() > 0) {
+    if (!query.kinds.isEmpty() || query.accepts || query.format.propertyCount() > 0) {
         m_filter = std::make_unique<MRVQueryFilter>(document, query);
     }
 }
@@ -217,7 +238,36 @@ bool MRVQuerySearch::report(MRVSearchOutcome *outcome) const
     return m_outcome.isComplete();
 }
 
-bool MRVQuerySearch::accepts(const QTextBlock &block, const MRVTextRange &find)
+bool MRVQuerySearch::accepts(const MRVSearchedText &text, const MRVTextRange &find)
 {
-    return !m_filter || m_filter->accepts(block, find);
+    return !m_filter || m_filter->accepts(text, find);
+}
+
+bool MRVQuerySearch::goesOn(int position)
+{
+    if (m_guard.goesOn()) {
+        return true;
+    }
+    m_outcome.reason = m_guard.reason();
+    m_outcome.paragraph = m_document->findBlock(position).blockNumber();
+    return false;
+}
+
+// All paragraphs around a position up to the borders of the cell or frame that they are in.
+MRVSearchedText MRVQuerySearch::textAcross(int position) const
+{
+    const auto continues = [this](const QTextBlock &next) {
+        return next.isValid() && next.position() > 0
+            && m_document->characterAt(next.position() - 1) == QChar::ParagraphSeparator;
+    };
+    QTextBlock block = m_document->findBlock(position);
+    while (continues(block)) {
+        block = block.previous();
+    }
+    const int start = block.position();
+    QString text = block.text();
+    for (block = block.next(); continues(block); block = block.next()) {
+        text += QChar(QChar::ParagraphSeparator) + block.text();
+    }
+    return MRVSearchedText(start, text, m_folding);
 }

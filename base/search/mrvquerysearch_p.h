@@ -15,27 +15,28 @@
 #include <memory>
 #include <variant>
 
-/** The text of a paragraph as it is and as it is searched, with the mapping between the two. */
+/** The text of one or more paragraphs as it is and as it is searched, with the map between both. */
 class MRVSearchedText
 {
 public:
-    MRVSearchedText(int position, const QString &original, bool fold);
+    /** @param position of the text in the document, whose separators it holds. */
+    MRVSearchedText(int position, const QString &original, MRVFoldedText::Options folding);
 
-    /** Of the paragraph in the document. */
     int position() const { return m_position; }
     const QString &original() const { return m_original; }
     const QString &searched() const { return m_searched; }
     /** For the matcher, which makes it ready to be searched. */
     QString *toBePrepared() { return &m_searched; }
 
-    int fromOriginal(int offset) const;
-    /** Offsets in the paragraph. */
+    int fromOriginal(int offset) const { return m_folded.fromOriginal(offset); }
+    /** Offsets in the original. */
     MRVTextMatch toOriginal(MRVTextMatch match) const;
     QString original(MRVTextMatch match) const;
+    /** Whether a match takes nothing but whole letters of the original. */
+    bool isOfWholeLetters(MRVTextMatch match) const;
 
 private:
     int m_position;
-    bool m_isFolded;
     QString m_original;
     MRVFoldedText m_folded;
     QString m_searched;
@@ -57,25 +58,20 @@ public:
 private:
     std::variant<MRVLiteralMatcher, MRVRegularExpressionMatcher> m_matcher;
     bool m_hasGroups;
+    bool m_isAcross;
 };
-
-/** The expression of a query, as it is compiled. */
-QRegularExpression mrvExpressionOf(const MRVTextQuery &query);
 
 /** The text that is of all kinds of a query, in order; all of the document without kinds. */
 QVector<MRVTextRange> mrvRunsOfKinds(const QTextDocument *document, const MRVTextQuery &query);
 
-/**
- * Tells whether text has the format and the kinds of a query. To be asked for the ranges of a
- * paragraph in document order.
- */
+/** Tells whether text has the format and the kinds of a query. To be asked in document order. */
 class MRVQueryFilter
 {
 public:
     MRVQueryFilter(const QTextDocument *document, const MRVTextQuery &query);
 
-    /** @param block the paragraph that @p find lies in. */
-    bool accepts(const QTextBlock &block, const MRVTextRange &find);
+    /** @param text in which @p find lies. */
+    bool accepts(const MRVSearchedText &text, const MRVTextRange &find);
 
 private:
     struct Test
@@ -88,10 +84,11 @@ private:
     };
 
     bool isOfKinds(const MRVTextRange &find) const;
-    void load(const QTextBlock &block);
+    void load(const MRVSearchedText &text);
 
+    const QTextDocument *m_document;
     MRVFormatVerdicts<Test> m_verdicts;
-    QTextBlock m_block;
+    int m_loaded = -1; // the position of the text that the runs are of
     QVector<MRVTextRange> m_runs;
     int m_next = 0;
     bool m_all;
@@ -134,11 +131,14 @@ public:
 
 private:
     template<typename Found>
-    bool eachFindInBlock(const QTextBlock &block, int position, int from, int to, Found &found);
-    bool accepts(const QTextBlock &block, const MRVTextRange &find);
+    bool eachFindIn(MRVSearchedText text, int from, int to, Found &found);
+    bool accepts(const MRVSearchedText &text, const MRVTextRange &find);
+    bool goesOn(int position);
+    MRVSearchedText textAcross(int position) const;
 
     const QTextDocument *m_document;
     const MRVTextQuery &m_query;
+    MRVFoldedText::Options m_folding;
     MRVTextRange m_range;
     MRVSearchGuard m_guard;
     MRVQueryMatcher m_matcher;
@@ -152,39 +152,40 @@ void MRVQuerySearch::eachFind(const MRVTextRange &within, Found found)
     if (m_matcher.isEmpty()) {
         return;
     }
+    int searched = -1; // up to where the text has been searched with that of earlier paragraphs
     mrvEachBlock(m_document, within, [&](const QTextBlock &block, int position, int from, int to) {
-        const bool goesOn = eachFindInBlock(block, position, from, to, found);
-        if (m_guard.goesOn()) {
-            return goesOn;
+        if (!m_query.acrossParagraphs) {
+            const MRVSearchedText text(position, block.text(), m_folding);
+            return eachFindIn(text, from, to, found) && goesOn(position);
         }
-        m_outcome.reason = m_guard.reason();
-        m_outcome.paragraph = block.blockNumber();
-        return false;
+        if (position < searched) {
+            return true;
+        }
+        const MRVSearchedText text = textAcross(position);
+        searched = text.position() + text.original().size();
+        return eachFindIn(text, position + from - text.position(),
+                          qMin(within.end(), searched) - text.position(), found)
+            && goesOn(position);
     });
 }
 
 template<typename Found>
-bool MRVQuerySearch::eachFindInBlock(const QTextBlock &block, int position, int from, int to,
-                                     Found &found)
+bool MRVQuerySearch::eachFindIn(MRVSearchedText text, int from, int to, Found &found)
 {
-    MRVSearchedText text(position, block.text(), m_query.ignoreTypography);
     m_matcher.prepare(text.toBePrepared());
-    int last = from;
     bool goesOn = true;
-    const auto take = [&](MRVTextMatch match) {
-        const MRVTextMatch own = text.toOriginal(match);
-        const MRVTextRange range(position + own.start, position + own.end());
-        if (own.end() > to) {
-            return false;
-        }
-        // Two matches within the expansion of one letter are one match.
-        if (own.start >= last && accepts(block, range)) {
-            last = own.end();
-            goesOn = found(MRVQueryFind{range, match, text, m_matcher.expression()});
-        }
-        return goesOn;
-    };
     mrvEachMatch(m_matcher, text.searched(), text.fromOriginal(from), text.searched().size(),
-                 m_query.flags, take);
+                 m_query.flags, [&](MRVTextMatch match) {
+                     if (!text.isOfWholeLetters(match)) {
+                         return MRVNextMatch::Overlapping;
+                     }
+                     const MRVTextMatch own = text.toOriginal(match);
+                     const MRVTextRange range(text.position() + own.start,
+                                              text.position() + own.end());
+                     if (own.end() <= to && accepts(text, range)) {
+                         goesOn = found(MRVQueryFind{range, match, text, m_matcher.expression()});
+                     }
+                     return goesOn && own.end() <= to ? MRVNextMatch::After : MRVNextMatch::None;
+                 });
     return goesOn;
 }

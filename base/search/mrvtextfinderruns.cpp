@@ -140,27 +140,9 @@ QTextCursor MRVTextFinder::findPrevious(const QTextCursor &from, FindType type, 
 QVector<MRVTextRange> MRVTextFinder::findAllRuns(const QTextDocument *document, FindType type,
                                                  const QVariant &value)
 {
-    QVector<MRVTextRange> runs;
     if (!document) {
-        return runs;
+        return QVector<MRVTextRange>();
     }
     auto verdicts = verdictsOf(document, type, value);
-    int lastEnd = -1; // of the last fragment, if it passed
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            if (!verdicts(fragment.charFormatIndex())) {
-                lastEnd = -1;
-                continue;
-            }
-            const int end = fragment.position() + fragment.length();
-            if (lastEnd < 0 || !mrvAdjoins(document, lastEnd, fragment.position())) {
-                runs.append(MRVTextRange(fragment.position(), end));
-            } else {
-                runs.last() = MRVTextRange(runs.last().start(), end);
-            }
-            lastEnd = end;
-        }
-    }
-    return runs;
+    return mrvAllRuns(document, verdicts);
 }

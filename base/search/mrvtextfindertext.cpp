@@ -197,7 +197,7 @@ QVector<MRVTextRange> findAllOf(const QTextDocument *document, const Pattern &pa
                 matcher.prepare(&text);
                 mrvEachMatch(matcher, text, from, to, flags, [&](MRVTextMatch match) {
                     finds.append(MRVTextRange(position + match.start, position + match.end()));
-                    return true;
+                    return MRVNextMatch::After;
                 });
                 return guard.isComplete();
             });

@@ -119,9 +119,12 @@ MRVTextMatch mrvFindInText(const Matcher &matcher, const QString &text, int offs
     return MRVTextMatch();
 }
 
+/** Where to go on after a match: after it, one character after its start, or not at all. */
+enum class MRVNextMatch { After, Overlapping, None };
+
 /**
- * Calls @p found(match) for the matches in a prepared text from @p offset on, until it returns
- * false or a match reaches beyond @p limit.
+ * Calls @p found(match) for the matches in a prepared text from @p offset on, until a match reaches
+ * beyond @p limit or @p found wants no more.
  */
 template<typename Matcher, typename Found>
 void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int limit,
@@ -131,12 +134,17 @@ void mrvEachMatch(const Matcher &matcher, const QString &text, int offset, int l
     MRVEmptyMatch empty = MRVEmptyMatch::Allowed;
     while (offset <= limit) {
         const MRVTextMatch match = mrvFindInText(matcher, text, offset, flags, empty);
-        if (!match || match.end() > limit || !found(match)) {
+        if (!match || match.end() > limit) {
             return;
         }
-        offset = match.end();
+        const MRVNextMatch next = found(match);
+        if (next == MRVNextMatch::None) {
+            return;
+        }
+        const bool overlaps = next == MRVNextMatch::Overlapping;
+        offset = overlaps ? match.start + 1 : match.end();
         // After an empty match as in Perl: a longer one in its place, or the next one.
-        empty = match.length > 0 ? MRVEmptyMatch::Allowed : MRVEmptyMatch::NotAtStart;
+        empty = match.length > 0 || overlaps ? MRVEmptyMatch::Allowed : MRVEmptyMatch::NotAtStart;
     }
 }
 

@@ -145,6 +145,31 @@ MRVTextRange mrvGrown(const QTextDocument *document, const MRVTextRange &range, 
     return MRVTextRange(start, end);
 }
 
+/** All runs of a document, in order. */
+template<typename Verdicts>
+QVector<MRVTextRange> mrvAllRuns(const QTextDocument *document, Verdicts &verdicts)
+{
+    QVector<MRVTextRange> runs;
+    int lastEnd = -1; // of the last fragment, if it passed
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            if (!verdicts(fragment.charFormatIndex())) {
+                lastEnd = -1;
+                continue;
+            }
+            const int end = fragment.position() + fragment.length();
+            if (lastEnd < 0 || !mrvAdjoins(document, lastEnd, fragment.position())) {
+                runs.append(MRVTextRange(fragment.position(), end));
+            } else {
+                runs.last() = MRVTextRange(runs.last().start(), end);
+            }
+            lastEnd = end;
+        }
+    }
+    return runs;
+}
+
 /** Finds the runs outside a selection, one after the other; see MRVTextFinder::find(). */
 template<typename Verdicts>
 class MRVRunFinder

@@ -33,11 +33,26 @@ struct MRVBASE_EXPORT MRVTextQuery
     MRVTextFinder::FindFlags flags;
     /**
      * Whether what writers type one way or the other counts as the same, in the text as in what is
-     * looked for: straight and curly quotes and apostrophes; hyphens, figure dash, en dash and
-     * minus (not the em dash); blanks, no-break spaces and objects; composed and decomposed
-     * letters. Finds are whole letters with their accents.
+     * looked for, expressions included: straight, curly and pointed quotes and apostrophes;
+     * hyphens, figure dash, en dash and minus (not the em dash); blanks, no-break spaces and
+     * objects; composed and decomposed letters; ligatures, full-width letters and the ellipsis, and
+     * what they are spelled out as; where case does not matter, also the sharp s and "ss". Soft
+     * hyphens and characters without width are passed over. Finds are whole letters with their
+     * accents, and whole ligatures.
      */
     bool ignoreTypography = false;
+    /**
+     * Whether letters count as the same with and without accents, points of Hebrew and Arabic
+     * included. Letters that do not decompose, such as the Danish o with its stroke, stay apart.
+     */
+    bool ignoreAccents = false;
+    /**
+     * Whether a find may go on over paragraph ends, which are line feeds in #text and for its
+     * expression; there "^" and "$" stand for the start and end of each paragraph, and white space
+     * holds paragraph ends. A find stays within the text of a cell or frame. The search takes the
+     * memory of the whole text, and a limit of what an expression may cost holds for all of it.
+     */
+    bool acrossParagraphs = false;
     /** Only finds that lie as a whole within this range count. All of the document at first. */
     MRVTextRange range = MRVTextRange(0, std::numeric_limits<int>::max());
     /**
@@ -60,6 +75,14 @@ struct MRVBASE_EXPORT MRVTextQuery
      * count then.
      */
     QVector<Kind> kinds;
+    /**
+     * Only text whose format this accepts counts, as if that were one more of the #kinds. Asked
+     * once for each format of the document. Empty at first.
+     */
+    std::function<bool(const QTextCharFormat &)> accepts;
+
+    /** Whether it asks for text of #kinds or formats that #accepts takes, instead of a #text. */
+    bool isForRuns() const { return text.isEmpty() && (!kinds.isEmpty() || accepts); }
 
     /** After how many milliseconds a search is given up; 0, as at first: never. */
     int timeLimit = 0;
@@ -100,6 +123,6 @@ public:
     int paragraph = -1; ///< its number from 0, as QTextBlock::blockNumber(); -1 where complete
 
     bool isComplete() const { return reason == Complete; }
-    /** A translated sentence without a full stop that counts paragraphs from 1; empty if complete. */
+    /** A translated sentence without a full stop, counting paragraphs from 1; empty if complete. */
     QString text() const;
 };

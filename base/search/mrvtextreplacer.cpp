@@ -139,7 +139,7 @@ QVector<MRVTextRange> MRVTextReplacer::findAll(const QTextDocument *document,
         return finds;
     }
     MRVQuerySearch search(document, query);
-    if (query.text.isEmpty() && !query.kinds.isEmpty()) {
+    if (query.isForRuns()) {
         finds = mrvRunsOfKinds(document, query);
         const auto isOutside = [&](const MRVTextRange &find) {
             return find.start() < search.range().start() || find.end() > search.range().end();
@@ -184,14 +184,17 @@ QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &q
     if (!backward && own.end() <= search.range().end()) {
         search.eachFind(mrvClipped(search.range(), own.end(), search.range().end()), take);
     }
-    // Backward from paragraph to paragraph; of each, the last match.
     const MRVTextRange part = mrvClipped(search.range(), 0, own.start());
-    for (QTextBlock block = document->findBlock(part.end());
-         backward && block.isValid() && last.start() < 0
-         && block.position() + block.length() > part.start() && search.outcome().isComplete();
-         block = block.previous()) {
-        search.eachFind(mrvClipped(part, block.position(), block.position() + block.length() - 1),
-                        take);
+    if (backward && query.acrossParagraphs) {
+        search.eachFind(part, take);
+    } else if (backward) {
+        // From paragraph to paragraph; of each, the last match.
+        for (QTextBlock block = document->findBlock(part.end()); block.isValid() && last.start() < 0
+             && block.position() + block.length() > part.start() && search.outcome().isComplete();
+             block = block.previous()) {
+            search.eachFind(
+                mrvClipped(part, block.position(), block.position() + block.length() - 1), take);
+        }
     }
     search.report(outcome);
     return last.start() < 0 ? result : mrvSelect(document, last);
@@ -288,8 +291,9 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
     QString after;
     // First from the selection itself; an expression that requires text before the match without
     // including it (\K) needs the paragraph from its start.
-    const QTextBlock block = cursor.document()->findBlock(own.start());
-    for (int from : {own.start(), qMax(all.start(), block.position())}) {
+    const int paragraph =
+        query.acrossParagraphs ? 0 : cursor.document()->findBlock(own.start()).position();
+    for (int from : {own.start(), qMax(all.start(), paragraph)}) {
         if (isFind) {
             break;
         }
