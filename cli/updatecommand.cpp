@@ -1,8 +1,8 @@
 #include "commandline.h"
 
 #include "core/mrvfilewriter.h"
-#include "download/mrvdownloadsilentinput.h"
 #include "download/mrvdownloadurl.h"
+#include "download/mrvredirectpolicy.h"
 #include "update/mrvupdatemodel.h"
 #include "util/mrvtemporaryfolder.h"
 #include "version/mversion.h"
@@ -17,27 +17,6 @@
 #include <cstdio>
 
 namespace {
-
-constexpr int MaxRedirects = 10;
-
-// Follows redirects, but not round and round.
-class FewRedirects : public MRVDownloadSilentInput
-{
-public:
-    FewRedirects()
-        : MRVDownloadSilentInput(false, true, QString(), QString())
-    {
-    }
-
-    bool redirectTo(const QUrl &url) override
-    {
-        return ++m_count <= MaxRedirects && MRVDownloadSilentInput::redirectTo(url);
-    }
-    bool hasRefused() const { return m_count > MaxRedirects; }
-
-private:
-    int m_count = 0;
-};
 
 // One that can be compared: digits with full stops between, or such a text and ".beta".
 bool isVersion(QString text)
@@ -54,7 +33,8 @@ bool isAddress(const QString &feed)
 
 bool downloadFeed(const QUrl &url, const QString &path, QString *error)
 {
-    FewRedirects redirects;
+    MRVRedirectPolicy redirects;
+    redirects.start(url);
     MRVDownloadUrl download;
     download.setUserInputHandler(&redirects);
     download.setMaximumSize(MRVUpdateModel::MaxFeedSize + 1);
@@ -73,7 +53,7 @@ bool downloadFeed(const QUrl &url, const QString &path, QString *error)
     loop.exec();
     showProgress(QString());
     if (redirects.hasRefused()) {
-        *error = QStringLiteral("it redirects more than %1 times").arg(MaxRedirects);
+        *error = QStringLiteral("it redirects too often, or to where it must not");
     }
     return error->isEmpty();
 }
