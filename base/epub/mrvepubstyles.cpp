@@ -109,6 +109,7 @@ constexpr char Needed[] = R"css(/* What the pages need whatever they look like *
 img {
     max-width: 100%;
     height: auto;
+    background-color: #ffffff; /* of a drawing in black, on a page that is black */
 }
 img.float-left {
     float: left;

@@ -430,13 +430,17 @@ void MRVEPubWriter::writePicture(const MRVEPubFragment &fragment, const QByteArr
 {
     const QTextImageFormat format = m_flow.formats.at(fragment.format).toImageFormat();
     const QString path = m_pictures.value(MRVTextFormat::imageResourceId(format));
-    const QString alternative = format.stringProperty(QTextFormat::ImageAltText);
+    QString alternative = format.stringProperty(QTextFormat::ImageAltText);
+    // An empty text marks a decoration; blanks are nothing that could be read.
+    const bool isDescribed = format.hasProperty(QTextFormat::ImageAltText)
+        && (alternative.isEmpty() || !alternative.trimmed().isEmpty());
+    alternative = alternative.trimmed();
     for (int i = 0; i < fragment.length; ++i) {
         if (path.isEmpty()) {
             m_out.appendText(alternative, QLatin1String(" "), false);
             continue;
         }
-        if (!format.hasProperty(QTextFormat::ImageAltText)) {
+        if (!isDescribed) {
             QString name = MRVTextFormat::imageName(format);
             if (!name.contains(u'.')) {
                 name += u'.' + QFileInfo(path).suffix();

@@ -122,7 +122,7 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
     }
     MRVEPubPage notes; // of other chapters, which go to the end of this page
     const int written = openSections(begin, end, plan, &notes);
-    writeFlow(written, end);
+    writeFlow(written, shownEnd(written, end));
     if (m_book.options.notes == MRVEPubOptions::ChapterNotes) {
         writeNotes();
     }
@@ -138,6 +138,25 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
         m_book.addNotes(notes);
     }
     writeNotesPage(plan, chapterOf(plan));
+}
+
+// Where a page ends without blank paragraphs, which may take a page of their own.
+int MRVEPubWriter::shownEnd(int begin, int end)
+{
+    const auto isShown = [this](int paragraph) {
+        const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+        const int last = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+        bool isTarget = false;
+        for (int i = place.firstFragment; i < last; ++i) {
+            isTarget = isTarget || m_formats.text(m_flow.fragments.at(i).format).hasNames;
+        }
+        return isTarget || place.list >= 0 || m_flow.isInFrame(paragraph)
+            || !m_flow.isBlank(paragraph);
+    };
+    while (end > begin && !isShown(end - 1)) {
+        --end;
+    }
+    return end;
 }
 
 // The heading of the chapter that was written last; null where the document has none.

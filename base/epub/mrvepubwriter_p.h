@@ -92,6 +92,7 @@ private:
     bool isTitle(int heading, int end, const MRVEPubPages &plan) const;
     const MRVEPubSection *sectionOf(int heading, int end, const MRVEPubPages &plan) const;
     void openSection(const MRVEPubSection &section);
+    int shownEnd(int begin, int end);
     QString headingText(int paragraph) const;
     QString plainText(int begin, int end) const;
     void addPlates();
