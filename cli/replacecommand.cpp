@@ -7,11 +7,13 @@
 
 #include "core/mrvfilewriter.h"
 
+#include <QColor>
 #include <QDir>
 #include <QFileInfo>
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <limits>
 #include <vector>
 
 namespace {
@@ -21,7 +23,7 @@ const QLatin1String StandardStream("-");
 struct Options
 {
     MRVTextQuery query;
-    QString replacement;
+    MRVTextReplacement replacement;
     InputOptions input;
     QStringList inputs;
     QString output;
@@ -36,12 +38,46 @@ bool isFolder(const QString &path)
     return path.endsWith(u'/') || QFileInfo(path).isDir();
 }
 
+// What takes the place of finds, except for the text.
+// @return false, with a text, when the call is wrong.
+bool readReplacement(const Call &call, MRVTextReplacement *replacement, QString *error)
+{
+    replacement->keepsText = call.has("keep-text");
+    replacement->preservesCase = call.has("preserve-case");
+    replacement->firstNumber = int(call.number("first-number", 1));
+    if (call.has("set-bold")) {
+        replacement->format.setFontWeight(QFont::Bold);
+    }
+    if (call.has("set-highlight")) {
+        const QColor color(call.value("set-highlight"));
+        if (!color.isValid()) {
+            *error = unknownColor(call.value("set-highlight"));
+            return false;
+        }
+        replacement->format.setBackground(color);
+    }
+    if (replacement->keepsText && replacement->format.propertyCount() == 0) {
+        *error = QStringLiteral("--keep-text needs a format to set, such as --set-bold");
+        return false;
+    }
+    return true;
+}
+
 // @return false, with a text, when the call is wrong.
 bool readOptions(const Call &call, Options *options, QString *error)
 {
     options->inputs = call.arguments;
     options->query.text = options->inputs.takeFirst();
-    options->replacement = options->inputs.takeFirst();
+    if (!readReplacement(call, &options->replacement, error)) {
+        return false;
+    }
+    if (!options->replacement.keepsText) {
+        options->replacement.text = options->inputs.takeFirst();
+    }
+    if (options->inputs.isEmpty()) {
+        *error = QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb);
+        return false;
+    }
     options->input = inputOptions(call);
     options->output = call.value("output");
     options->dryRun = call.has("dry-run");
@@ -237,7 +273,7 @@ int run(const Call &call)
     return count > 0 ? Done : Failed;
 }
 
-constexpr Verb verbs[] = {{"", "TEXT NEW IN...", "", run}};
+constexpr Verb verbs[] = {{"", "TEXT [NEW] IN...", "", run}};
 
 constexpr Option options[] = {
     Option::flag("n dry-run", "Show what would change, and change nothing."),
@@ -247,6 +283,15 @@ constexpr Option options[] = {
     Option::flag("rewrite",
                  "Write the whole document, for changes that do not fit into the markup. Style "
                  "sheets and the like may be lost."),
+    Option::flag("preserve-case",
+                 "Begin NEW with a capital, or have it in capitals, where the match is so."),
+    Option::integer("first-number", "N", 0, std::numeric_limits<int>::max(),
+                    "The number that \\# in NEW stands for at the first match in each file; 1 if "
+                    "it is not given."),
+    Option::flag("keep-text", "Leave the text as it is, and only set formats; NEW is left out."),
+    Option::flag("set-bold", "Make what takes the place of a match bold. Needs --rewrite."),
+    Option::name("set-highlight", "COLOUR",
+                 "Highlight what takes the place of a match. Needs --rewrite."),
     Option::flag("no-backup", "Do not keep FILE~."),
     Option::flag("json",
                  "Print as lines of JSON what was replaced in each file, or, with --dry-run, each "
@@ -261,7 +306,10 @@ const Command replaceCommand = {
     "replace",
     "replace text in manuscripts",
     "Replaces TEXT by NEW in manuscripts (HTML, Markdown or plain text; - is standard input). With "
-    "-E, $1 in NEW stands for a group, $& for the whole match. Markup and all other text stay as "
+    "-E, $1 in NEW stands for a group, $& for the whole match, \\# for its number; \\U, \\L and "
+    "\\E "
+    "begin and end capitals and small letters, \\u and \\l make the next letter one. Markup and "
+    "all other text stay as "
     "they are. Without -o each file is replaced, and what it was is kept beside it as FILE~ (or "
     "FILE~1 and so on: no file but the input is overwritten); standard input goes to standard "
     "output. No file is written before all changes are ready.\n"

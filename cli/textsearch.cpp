@@ -50,6 +50,11 @@ QVariant propertyFormat(int property)
 
 } // namespace
 
+QString unknownColor(const QString &name)
+{
+    return QStringLiteral("unknown colour '%1'; known are #rrggbb and names of CSS").arg(name);
+}
+
 bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
 {
     query->syntax = call.has("regex") ? MRVTextQuery::RegularExpression : MRVTextQuery::PlainText;
@@ -75,8 +80,7 @@ bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
         const QString name = call.value(row.option);
         const QColor color(name);
         if (name != QLatin1String("any") && !color.isValid()) {
-            *error =
-                QStringLiteral("unknown colour '%1'; known are #rrggbb and names of CSS").arg(name);
+            *error = unknownColor(name);
             return false;
         }
         query->kinds.append({row.type, color.isValid() ? QVariant(color) : QVariant()});

@@ -43,6 +43,9 @@ constexpr Option searchOptions[] = {
  */
 bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error);
 
+/** The error for what is not the name of a colour. */
+QString unknownColor(const QString &name);
+
 /**
  * Where a range lies, for programs: the paragraph and the column in it, from 1; the positions in
  * the document, from 0, the end not included; the text, with a line feed for each end of a line or

@@ -52,9 +52,11 @@ private Q_SLOTS:
         document.setUndoRedoEnabled(true);
         const QStringList before = documentDump(document);
         const MRVTextQuery query = queryFor(cell("pattern"), cell("kind"));
-        const int changes = Replacer::preview(&document, query, replacement).size();
+        MRVTextReplacement wanted(replacement);
+        wanted.preservesCase = cell("kind").contains('k');
+        const int changes = Replacer::preview(&document, query, wanted).size();
         QCOMPARE(documentDump(document), before);
-        QCOMPARE(Replacer::replaceAll(&document, query, replacement), changes);
+        QCOMPARE(Replacer::replaceAll(&document, query, wanted), changes);
         QCOMPARE(document.toRawText().replace(QChar(0x2029), '\n'), after);
         QCOMPARE(document.availableUndoSteps() > 0, text != after);
         document.undo();
@@ -162,6 +164,30 @@ private Q_SLOTS:
         QCOMPARE(Replacer::replaceAll(&document, queryFor("one", "p"), "ONE"), 1);
         QCOMPARE(selected(&document, 0, 2).charFormat().fontWeight(), int(QFont::Bold));
         QVERIFY(selected(&document, 0, 3).charFormat().fontWeight() != QFont::Bold);
+    }
+
+    void newFormats()
+    {
+        QTextDocument document("Cat cat scat");
+        MRVTextReplacement marked("dog");
+        marked.preservesCase = true;
+        marked.format.setFontWeight(QFont::Bold);
+        QCOMPARE(Replacer::replaceAll(&document, queryFor("cat", "pw"), marked), 2);
+        QCOMPARE(document.toPlainText(), QString("Dog dog scat"));
+        document.undo();
+        QCOMPARE(document.toPlainText(), QString("Cat cat scat"));
+        QVERIFY(selected(&document, 0, 1).charFormat().fontWeight() != QFont::Bold);
+        selected(&document, 4, 7).mergeCharFormat(marked.format);
+        marked.keepsText = true;
+        const auto changes = Replacer::preview(&document, queryFor("cat", "pw"), marked);
+        QCOMPARE(changes.size(), 1); // the other one is bold
+        QCOMPARE(Replacer::apply(&document, changes), 1);
+        QCOMPARE(selected(&document, 0, 3).charFormat().fontWeight(), int(QFont::Bold));
+        QVERIFY(selected(&document, 2, 4).charFormat().fontWeight() != QFont::Bold);
+        QCOMPARE(Replacer::replaceAll(&document, queryFor("cat", "pw"), marked), 0);
+        QTextCursor third = selected(&document, 9, 12);
+        QVERIFY(Replacer::replace(third, queryFor("cat", "p"), marked));
+        QCOMPARE(selected(&document, 9, 12).charFormat().fontWeight(), int(QFont::Bold));
     }
 
     void someChanges()

@@ -258,6 +258,13 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
     if (manuscript.isConverted()) {
         return MRV::fail(error, tr("a file of a word processor is read, but not changed"));
     }
+    const auto setsFormat = [](const MRVTextChange &change) {
+        return change.format.propertyCount() > 0;
+    };
+    if ((mode == KeepMarkup || manuscript.format != MRVManuscript::Html)
+        && std::any_of(wanted.cbegin(), wanted.cend(), setsFormat)) {
+        return MRV::fail(error, tr("formats can be set only in HTML that is written as a whole"));
+    }
     const QVector<MRVTextChange> changes = asInserted(wanted);
     const QString before = manuscript.document->toRawText();
     const QString after = changedText(before, changes);

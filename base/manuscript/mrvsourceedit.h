@@ -40,7 +40,8 @@ public:
      * @param error      if given, receives a translated reason on failure, which does not name the
      *                   file; untouched on success.
      * @return false when a change does not fit into the markup, as a new paragraph in HTML, or into
-     *         the encoding, when the changes overlap or belong to another text, and where
+     *         the encoding, when the changes overlap or belong to another text, when one sets a
+     *         format and is not to be written to HTML by WriteAnew, and where
      *         MRVManuscript::isConverted().
      */
     static bool changedBytes(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes,

@@ -1,6 +1,7 @@
 #include "search/mrvtextreplacer.h"
 
 #include "search/mrvquerysearch_p.h"
+#include "search/mrvreplacementtext_p.h"
 #include "text/mrvreplacetext.h"
 
 #include <QTextBlock>
@@ -13,120 +14,29 @@ namespace {
 
 using Finder = MRVTextFinder;
 
-/// The text that a replacement stands for, given the groups of a match.
-class Replacement
+/// Whether an operation would lose an object, which counts as a blank for the search.
+bool losesObject(const QString &before, const QString &after)
 {
-public:
-    Replacement(const QString &text, const MRVQueryFind &find)
-        : m_text(text)
-        , m_find(find)
-        , m_groups(find.expression->groupCount())
-    {
-    }
-
-    QString expanded()
-    {
-        QString result;
-        while (m_at < m_text.size()) {
-            const QChar c = m_text.at(m_at++);
-            if (c != QLatin1Char('\\') && c != QLatin1Char('$')) {
-                result += c;
-            } else if (!takeGroup(&result) && !takeCharacter(c, &result)
-                       && !(c == QLatin1Char('$') && takeNamed(&result))) {
-                result += c;
-            }
-        }
-        return result;
-    }
-
-private:
-    QString group(int number) const
-    {
-        const MRVTextMatch part = m_find.expression->captured(number);
-        return part ? m_find.text.original(part) : QString();
-    }
-
-    int digitAt(int at) const
-    {
-        const ushort c = at < m_text.size() ? m_text.at(at).unicode() : 0;
-        return c >= '0' && c <= '9' ? c - '0' : -1;
-    }
-
-    bool takeGroup(QString *result)
-    {
-        int number = digitAt(m_at);
-        if (number < 0 || number > m_groups) {
-            return false;
-        }
-        ++m_at;
-        const int second = digitAt(m_at);
-        if (number > 0 && second >= 0 && number * 10 + second <= m_groups) {
-            number = number * 10 + second;
-            ++m_at;
-        }
-        *result += group(number);
-        return true;
-    }
-
-    bool takeCharacter(QChar sign, QString *result)
-    {
-        const QChar c = m_at < m_text.size() ? m_text.at(m_at) : QChar();
-        const bool backslash = sign == QLatin1Char('\\');
-        if (c == sign) {
-            *result += c;
-        } else if (backslash && c == QLatin1Char('n')) {
-            *result += QChar(QChar::ParagraphSeparator);
-        } else if (backslash && c == QLatin1Char('t')) {
-            *result += QLatin1Char('\t');
-        } else if (!backslash && c == QLatin1Char('&')) {
-            *result += group(0);
-        } else {
-            return false;
-        }
-        ++m_at;
-        return true;
-    }
-
-    bool takeNamed(QString *result)
-    {
-        const int end = m_text.indexOf(QLatin1Char('}'), m_at);
-        if (end < 0 || m_text.at(m_at) != QLatin1Char('{')) {
-            return false;
-        }
-        const QString name = m_text.mid(m_at + 1, end - m_at - 1);
-        bool isNumber = false;
-        int number = name.toInt(&isNumber);
-        if (!isNumber) {
-            number = m_find.expression->groupNamed(name);
-        }
-        if (number < 0 || number > m_groups) {
-            return false;
-        }
-        m_at = end + 1;
-        *result += group(number);
-        return true;
-    }
-
-    const QString &m_text;
-    const MRVQueryFind &m_find;
-    const int m_groups;
-    int m_at = 0;
-};
-
-QString replacementFor(const MRVQueryFind &find, const QString &replacement)
-{
-    return find.expression ? Replacement(replacement, find).expanded() : replacement;
-}
-
-bool holdsObject(const QString &text)
-{
-    return text.contains(QChar(QChar::ObjectReplacementCharacter));
+    return before != after && before.contains(QChar(QChar::ObjectReplacementCharacter));
 }
 
 void select(QTextCursor *cursor, const MRVTextRange &range)
 {
     cursor->setPosition(range.start());
     cursor->setPosition(range.end(), QTextCursor::KeepAnchor);
+}
+
+/// Replaces the selection; the cursor stands after the new text then.
+void replaceSelection(QTextCursor *cursor, const QString &text, const QTextCharFormat &format)
+{
+    const int start = cursor->selectionStart();
+    mrvReplaceText(*cursor, text);
+    if (format.propertyCount() > 0) {
+        const int end = cursor->position();
+        select(cursor, MRVTextRange(start, end));
+        cursor->mergeCharFormat(format);
+        cursor->setPosition(end);
+    }
 }
 
 } // namespace
@@ -202,7 +112,7 @@ QTextCursor MRVTextReplacer::find(const QTextCursor &from, const MRVTextQuery &q
 
 QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
                                                 const MRVTextQuery &query,
-                                                const QString &replacement,
+                                                const MRVTextReplacement &replacement,
                                                 MRVSearchOutcome *outcome)
 {
     QVector<MRVTextChange> changes;
@@ -210,11 +120,18 @@ QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
         return changes;
     }
     MRVQuerySearch search(document, query);
+    MRVReplacementText texts(replacement);
+    MRVTextQuery formatted;
+    formatted.format = replacement.format;
+    MRVQueryFilter hasFormat(document, formatted);
     search.eachFind(search.range(), [&](const MRVQueryFind &find) {
         const QString before = find.before();
-        const QString after = replacementFor(find, replacement);
-        if (before != after && !holdsObject(before)) {
-            changes.append({find.range, before, after});
+        if (!replacement.keepsText && losesObject(before, QString())) {
+            return true;
+        }
+        const QString after = texts.next(find);
+        if (before != after || !hasFormat.accepts(find.text, find.range)) {
+            changes.append({find.range, before, after, replacement.format});
         }
         return true;
     });
@@ -223,7 +140,7 @@ QVector<MRVTextChange> MRVTextReplacer::preview(const QTextDocument *document,
 }
 
 int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &query,
-                                const QString &replacement, MRVSearchOutcome *outcome)
+                                const MRVTextReplacement &replacement, MRVSearchOutcome *outcome)
 {
     const QVector<MRVTextChange> changes = preview(document, query, replacement, outcome);
     if (changes.isEmpty()) {
@@ -234,7 +151,7 @@ int MRVTextReplacer::replaceAll(QTextDocument *document, const MRVTextQuery &que
     // From the last to the first, so that the positions of the others stay valid.
     for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
         select(&cursor, change->range);
-        mrvReplaceText(cursor, change->after);
+        replaceSelection(&cursor, change->after, change->format);
     }
     cursor.endEditBlock();
     return changes.size();
@@ -256,7 +173,8 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
     int limit = document->characterCount() - 1;
     for (const MRVTextChange *change : qAsConst(order)) {
         const MRVTextRange &range = change->range;
-        if (range.start() < 0 || range.end() > limit || change->before == change->after) {
+        if (range.start() < 0 || range.end() > limit
+            || (change->before == change->after && change->format.propertyCount() == 0)) {
             continue;
         }
         select(&cursor, range);
@@ -266,7 +184,7 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
         if (made++ == 0) {
             cursor.beginEditBlock();
         }
-        mrvReplaceText(cursor, change->after);
+        replaceSelection(&cursor, change->after, change->format);
         limit = range.start();
     }
     if (made > 0) {
@@ -276,7 +194,7 @@ int MRVTextReplacer::apply(QTextDocument *document, const QVector<MRVTextChange>
 }
 
 bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
-                              const QString &replacement, MRVSearchOutcome *outcome)
+                              const MRVTextReplacement &replacement, MRVSearchOutcome *outcome)
 {
     if (cursor.isNull()) {
         return false;
@@ -299,14 +217,16 @@ bool MRVTextReplacer::replace(QTextCursor &cursor, const MRVTextQuery &query,
         }
         search.eachFind(MRVTextRange(from, own.end()), [&](const MRVQueryFind &find) {
             if (find.range == own) {
-                isFind = !holdsObject(find.before());
-                after = replacementFor(find, replacement);
+                after = MRVReplacementText(replacement).next(find);
+                isFind = !losesObject(find.before(), after);
             }
             return find.range.start() < own.start();
         });
     }
     if (isFind) {
-        mrvReplaceText(cursor, after);
+        cursor.beginEditBlock();
+        replaceSelection(&cursor, after, replacement.format);
+        cursor.endEditBlock();
         if (query.flags & Finder::FindBackward) {
             cursor.setPosition(own.start());
         }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "search/mrvtextquery.h"
+#include "search/mrvtextreplacement.h"
 #include "text/mrvtextrange.h"
 #include "util/mrvbase_export.h"
 
 #include <QString>
+#include <QTextCharFormat>
 #include <QVector>
 
 class QTextCursor;
@@ -20,6 +22,7 @@ struct MRVBASE_EXPORT MRVTextChange
     MRVTextRange range; ///< in the document before any of the changes
     QString before; ///< the text there
     QString after; ///< what takes its place
+    QTextCharFormat format = QTextCharFormat(); ///< merged into the formats of what takes its place
 };
 
 /**
@@ -29,18 +32,8 @@ struct MRVBASE_EXPORT MRVTextChange
  * document order, none over another, none over a paragraph end. A null document or cursor, an
  * invalid expression and an empty text find nothing.
  *
- * What is not replaced: text that would not change, and finds with an image or another object in
- * them. An object counts as a blank for the search, and would be lost.
- *
- * In the replacement of a regular expression these stand for something else:
- *
- * - \\0 or $0 or $&: all of the find. \\1 or $1, to 99: the group of that number, or nothing where
- *   it took no part. Of two digits the second counts as text where there are fewer groups. ${name}:
- *   the group of that name or number.
- * - \\n: a paragraph end. \\t: a tab. \\\\ and $$: a backslash, a dollar.
- *
- * All else stands as it is, a group that the expression does not have included. Groups give the
- * text as it is in the document. The replacement of plain text stands as it is.
+ * What is not replaced: what would not change, and text with an image or another object in it. An
+ * object counts as a blank for the search, and would be lost.
  *
  * A search that ends early, because an expression costs too much or the query says so, tells by its
  * @c outcome where it ended; if given, that is set in any case but for a null document or cursor.
@@ -86,16 +79,17 @@ public:
 
     /** What replaceAll() with the same @p replacement would do, in document order. */
     static QVector<MRVTextChange> preview(const QTextDocument *document, const MRVTextQuery &query,
-                                          const QString &replacement,
+                                          const MRVTextReplacement &replacement,
                                           MRVSearchOutcome *outcome = nullptr);
     /**
      * Replaces all finds. One undo step; none where nothing changes.
      *
-     * @param replacement see above.
+     * @param replacement a text, or see MRVTextReplacement.
      * @return how many were replaced.
      */
     static int replaceAll(QTextDocument *document, const MRVTextQuery &query,
-                          const QString &replacement, MRVSearchOutcome *outcome = nullptr);
+                          const MRVTextReplacement &replacement,
+                          MRVSearchOutcome *outcome = nullptr);
     /**
      * Makes some of the @p changes of preview(), in whichever order they are given. One undo step;
      * none where nothing changes. A change is left out if its text is no longer in its place, or if
@@ -109,9 +103,9 @@ public:
      *
      * @param cursor afterwards stands after the new text, or, with FindBackward, before it, so that
      *               find() goes on beyond it; untouched where false is returned.
-     * @param replacement see above.
+     * @param replacement a text, or see MRVTextReplacement.
      * @return false where the selection is no find, or has an object in it.
      */
-    static bool replace(QTextCursor &cursor, const MRVTextQuery &query, const QString &replacement,
-                        MRVSearchOutcome *outcome = nullptr);
+    static bool replace(QTextCursor &cursor, const MRVTextQuery &query,
+                        const MRVTextReplacement &replacement, MRVSearchOutcome *outcome = nullptr);
 };

@@ -4272,6 +4272,10 @@ Fehler: %2</translation>
         <source>a file of a word processor is read, but not changed</source>
         <translation>eine Datei einer Textverarbeitung wird gelesen, aber nicht geändert</translation>
     </message>
+    <message>
+        <source>formats can be set only in HTML that is written as a whole</source>
+        <translation>Formate können nur in HTML gesetzt werden, das als Ganzes geschrieben wird</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

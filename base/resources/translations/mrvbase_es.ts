@@ -4272,6 +4272,10 @@ Error: %2</translation>
         <source>a file of a word processor is read, but not changed</source>
         <translation>un archivo de un procesador de textos se lee, pero no se modifica</translation>
     </message>
+    <message>
+        <source>formats can be set only in HTML that is written as a whole</source>
+        <translation>los formatos solo pueden definirse en HTML que se escribe completo</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

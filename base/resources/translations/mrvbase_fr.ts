@@ -4272,6 +4272,10 @@ Erreur&#xa0;: %2</translation>
         <source>a file of a word processor is read, but not changed</source>
         <translation>un fichier de traitement de texte est lu, mais n’est pas modifié</translation>
     </message>
+    <message>
+        <source>formats can be set only in HTML that is written as a whole</source>
+        <translation>les formats ne peuvent être définis que dans du HTML écrit en entier</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>
