@@ -679,11 +679,14 @@ bool MRVEPubWriter::hasCaptionAfter(int shown, int end)
 // is one, too.
 bool MRVEPubWriter::isFigure(int paragraph, int end)
 {
-    const bool isShown = isPicture(paragraph) || isCode(paragraph);
-    const int last = isCode(paragraph) ? codeEnd(paragraph, end) - 1 : paragraph;
+    const bool hasPicture = isPicture(paragraph);
+    if (hasPicture && m_containers.isEmpty()) {
+        return true;
+    }
+    if (hasPicture || isCode(paragraph)) {
+        return hasCaptionAfter(hasPicture ? paragraph : codeEnd(paragraph, end) - 1, end);
+    }
     const int next = paragraph + 1;
-    const bool isTitle = next < end && (isPicture(next) || isCode(next)) && frameAt(next) < 0
+    return next < end && (isPicture(next) || isCode(next)) && frameAt(next) < 0
         && isCaption(paragraph, next);
-    return (isPicture(paragraph) && m_containers.isEmpty()) || isTitle
-        || (isShown && hasCaptionAfter(last, end));
 }

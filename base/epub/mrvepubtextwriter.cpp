@@ -261,7 +261,7 @@ void MRVEPubWriter::closeUnfit(const Needs &needs)
     const auto isOuter = [](const Element &element) {
         return element.direction || element.kind == MRVEPubInline::Link;
     };
-    if (needs.directions.size() > openDirections()) {
+    if (!needs.directions.isEmpty() && needs.directions.size() > openDirections()) {
         const auto inner = std::find_if_not(m_elements.cbegin(), m_elements.cend(), isOuter);
         closeElements(int(inner - m_elements.cbegin()));
     }
@@ -270,7 +270,9 @@ void MRVEPubWriter::closeUnfit(const Needs &needs)
 // Opens what is needed beside what is open.
 void MRVEPubWriter::addElements(const Needs &needs)
 {
-    addDirections(needs.directions);
+    if (!needs.directions.isEmpty()) {
+        addDirections(needs.directions);
+    }
     const uint missing = needs.elements & ~openElements();
     for (int kind = int(MRVEPubInline::Span); missing >> kind != 0; ++kind) {
         if (missing & (1U << kind)) {
