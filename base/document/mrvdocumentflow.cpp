@@ -1,4 +1,4 @@
-#include "epub/mrvepubflow_p.h"
+#include "document/mrvdocumentflow.h"
 
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-struct MRVEPubFlow::Reader
+struct MRVDocumentFlow::Reader
 {
     // What one format says, by its index.
     struct OfText
@@ -27,7 +27,7 @@ struct MRVEPubFlow::Reader
         int list = -1;
     };
 
-    explicit Reader(MRVEPubFlow *target)
+    explicit Reader(MRVDocumentFlow *target)
         : flow(*target)
         , texts(target->formats.size())
         , paragraphs(target->formats.size())
@@ -41,7 +41,7 @@ struct MRVEPubFlow::Reader
             const int length = block.length() - 1;
             const int index = block.blockFormatIndex();
             const OfParagraph &format = paragraphFormat(index);
-            MRVEPubParagraph paragraph{
+            MRVFlowParagraph paragraph{
                 position, length, index, flow.fragments.size(), format.headingLevel, format.list};
             if (format.list >= 0) {
                 paragraph.itemNumber = nextNumber(format.list);
@@ -100,7 +100,7 @@ private:
             }
         }
         if (!format.address.isEmpty()) {
-            MRVEPubLink *last = flow.links.isEmpty() ? nullptr : &flow.links.last();
+            MRVFlowLink *last = flow.links.isEmpty() ? nullptr : &flow.links.last();
             if (last && last->end == begin && last->address == format.address) {
                 last->end += length;
             } else {
@@ -109,13 +109,13 @@ private:
         }
     }
 
-    MRVEPubFlow &flow;
+    MRVDocumentFlow &flow;
     QVector<OfText> texts;
     QVector<OfParagraph> paragraphs;
     QHash<int, int> numbers; // of the last item, by list
 };
 
-MRVEPubFlow::MRVEPubFlow(const QTextDocument &source)
+MRVDocumentFlow::MRVDocumentFlow(const QTextDocument &source)
     : document(source)
     , text(source.toRawText())
     , formats(source.allFormats())
@@ -125,7 +125,7 @@ MRVEPubFlow::MRVEPubFlow(const QTextDocument &source)
     readFrames();
 }
 
-void MRVEPubFlow::readFrames()
+void MRVDocumentFlow::readFrames()
 {
     QList<QTextFrame *> open = document.rootFrame()->childFrames();
     while (!open.isEmpty()) {
@@ -138,33 +138,33 @@ void MRVEPubFlow::readFrames()
                        paragraphAt(frame->firstPosition()),
                        paragraphAt(frame->lastPosition()) + 1});
     }
-    std::sort(frames.begin(), frames.end(), [](const MRVEPubFrame &one, const MRVEPubFrame &other) {
+    std::sort(frames.begin(), frames.end(), [](const MRVFlowFrame &one, const MRVFlowFrame &other) {
         return one.begin < other.begin;
     });
     m_isInFrame.resize(count() + 1);
     int done = 0;
-    for (const MRVEPubFrame &frame : qAsConst(frames)) {
+    for (const MRVFlowFrame &frame : qAsConst(frames)) {
         for (done = qMax(done, frame.begin); done < frame.end; ++done) {
             m_isInFrame[done] = true;
         }
     }
 }
 
-int MRVEPubFlow::paragraphAt(int position) const
+int MRVDocumentFlow::paragraphAt(int position) const
 {
     const auto after = std::upper_bound(
         paragraphs.begin(), paragraphs.end(), position,
-        [](int at, const MRVEPubParagraph &paragraph) { return at < paragraph.position; });
+        [](int at, const MRVFlowParagraph &paragraph) { return at < paragraph.position; });
     return int(after - paragraphs.begin()) - 1;
 }
 
-bool MRVEPubFlow::hasRule(int paragraph) const
+bool MRVDocumentFlow::hasRule(int paragraph) const
 {
     return formats.at(paragraphs.at(paragraph).format)
         .hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
 }
 
-bool MRVEPubFlow::isBlank(int paragraph) const
+bool MRVDocumentFlow::isBlank(int paragraph) const
 {
     const QStringView shown = textOf(paragraphs.at(paragraph));
     return std::all_of(shown.begin(), shown.end(), [](QChar c) { return c.isSpace(); })
