@@ -1,5 +1,6 @@
 #include "epub/mrvepubnotes_p.h"
 
+#include "document/mrvnotefinder.h"
 #include "epub/mrvepubformats_p.h"
 
 #include <QMap>
@@ -8,136 +9,26 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int LongestMark = 8;
-
-// What stands for a note instead of a number.
-bool isStar(QChar c)
-{
-    return QStringView(u"*\u2020\u2021\u00a7\u00b6").contains(c);
-}
-
-// What may stand around a label.
-bool isFrame(QChar c)
-{
-    return !c.isLetterOrNumber() && !isStar(c);
-}
-
-} // namespace
-
 struct MRVEPubNotes::Finder
 {
     using Look = QPair<int, int>; // a left margin and a size of text
-    struct Entry
-    {
-        int begin; // paragraphs, up to end
-        int end;
-        QVector<int> marks;
-        QVector<int> backLinks;
-    };
 
     Finder(MRVEPubNotes *target, MRVEPubFormats *allFormats)
         : notes(*target)
         , flow(target->m_flow)
+        , marked(flow)
         , formats(*allFormats)
+        , candidates(marked.candidates())
     {
-        for (const MRVEPubAnchor &anchor : flow.anchors) {
-            if (!places.contains(anchor.name)) {
-                places.insert(anchor.name, anchor.position);
-            }
-        }
-    }
-
-    // Where a link within the document leads; -1 elsewhere.
-    int targetOf(const MRVEPubLink &link) const
-    {
-        return link.address.startsWith(u'#') ? places.value(link.address.mid(1), -1) : -1;
-    }
-
-    QStringView textOf(const MRVEPubLink &link) const
-    {
-        return QStringView(flow.text).mid(link.begin, link.end - link.begin).trimmed();
-    }
-
-    bool isMark(const MRVEPubLink &link)
-    {
-        const QStringView text = textOf(link);
-        if (text.isEmpty() || text.size() > LongestMark) {
-            return false;
-        }
-        const auto isSign = [](QChar c) { return c.isDigit() || isStar(c); };
-        const bool isBracketed = text.front() == u'[' || text.front() == u'(';
-        return (isBracketed || isRaised(link.begin)
-                || std::all_of(text.begin(), text.end(), isSign))
-            && isInText(link);
-    }
-
-    // Whether there is more in the paragraph than links, as there is not in a table of contents.
-    bool isInText(const MRVEPubLink &link)
-    {
-        const int index = flow.paragraphAt(link.begin);
-        if (index == textParagraph) {
-            return isText;
-        }
-        textParagraph = index;
-        isText = false;
-        int at = flow.paragraphs.at(index).position;
-        const int end = flow.paragraphs.at(index + 1).firstFragment;
-        for (int i = flow.paragraphs.at(index).firstFragment; i < end && !isText; ++i) {
-            const MRVEPubFragment &part = flow.fragments.at(i);
-            const QStringView text = QStringView(flow.text).mid(at, part.length);
-            isText = formats.text(part.format).address.isEmpty()
-                && std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
-            at += part.length;
-        }
-        return isText;
-    }
-
-    // Goes on from the last one of the paragraph, since links are looked at in their order.
-    bool isRaised(int position)
-    {
-        const MRVEPubParagraph &paragraph = flow.paragraphs.at(flow.paragraphAt(position));
-        if (lastPosition < paragraph.position || lastPosition > position) {
-            lastPosition = paragraph.position;
-            lastFragment = paragraph.firstFragment;
-        }
-        while (lastPosition + flow.fragments.at(lastFragment).length <= position) {
-            lastPosition += flow.fragments.at(lastFragment++).length;
-        }
-        return formats.text(flow.fragments.at(lastFragment).format).elements
-            & (1U << int(MRVEPubInline::Raised));
-    }
-
-    // The paragraph that a mark leads to the beginning of; -1 where it does not.
-    int noteParagraph(const MRVEPubLink &link)
-    {
-        const int position = targetOf(link);
-        if (position < link.end) {
-            return -1;
-        }
-        const int paragraph = flow.paragraphAt(position);
-        const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
-        const QStringView before =
-            QStringView(flow.text).mid(place.position, position - place.position);
-        const bool leads = place.headingLevel == 0 && before.trimmed().isEmpty()
-            && paragraph != flow.paragraphAt(link.begin) && isMark(link);
-        return leads ? paragraph : -1;
     }
 
     void find()
     {
-        for (const MRVEPubLink &link : flow.links) {
-            const int paragraph = noteParagraph(link);
-            if (paragraph >= 0) {
-                candidates[paragraph].append(link.begin);
-            }
-        }
         if (candidates.isEmpty()) {
             return;
         }
         readLooks();
-        QVector<Entry> group;
+        QVector<MRVMarkedNote> group;
         int end = 0; // of the section that the group stands in
         for (auto it = candidates.constBegin(); it != candidates.constEnd(); ++it) {
             if (it.key() >= end || flow.isInFrame(it.key())) {
@@ -147,9 +38,11 @@ struct MRVEPubNotes::Finder
             }
             const auto next = std::next(it);
             const int limit = next == candidates.constEnd() ? end : qMin(end, next.key());
-            Entry entry{it.key(), it.key() + 1, it.value(), {}};
-            if (isNote(&entry, limit)) {
-                group.append(entry);
+            const bool isItem = flow.paragraphs.at(it.key()).list >= 0;
+            const int after = isItem ? qMax(it.key() + 1, itemEnd(it.key(), limit)) : limit;
+            MRVMarkedNote note;
+            if (marked.isNote(it.key(), after, &note)) {
+                group.append(note);
             }
         }
         addGroup(group, end);
@@ -189,12 +82,12 @@ struct MRVEPubNotes::Finder
 
     // A note that cannot be told from the text stays: one that is torn apart is worse than one that
     // stands where it was written. Where that is true of half of a section's notes, all stay.
-    void addGroup(QVector<Entry> group, int sectionEnd)
+    void addGroup(QVector<MRVMarkedNote> group, int sectionEnd)
     {
-        QVector<Entry> certain;
+        QVector<MRVMarkedNote> certain;
         for (int i = 0; i < group.size(); ++i) {
             const bool isLast = i + 1 == group.size();
-            Entry &entry = group[i];
+            MRVMarkedNote &entry = group[i];
             entry.end = flow.paragraphs.at(entry.begin).list >= 0
                 ? itemEnd(entry.begin, isLast ? sectionEnd : group.at(i + 1).begin)
                 : isLast ? noteEnd(entry, sectionEnd, true)
@@ -206,12 +99,12 @@ struct MRVEPubNotes::Finder
         if (2 * certain.size() <= group.size()) {
             return;
         }
-        for (const Entry &entry : qAsConst(certain)) {
+        for (const MRVMarkedNote &entry : qAsConst(certain)) {
             addNote(entry);
         }
     }
 
-    void addNote(const Entry &entry)
+    void addNote(const MRVMarkedNote &entry)
     {
         for (const int link : entry.marks) {
             notes.m_marks.insert(link, notes.m_notes.size());
@@ -224,86 +117,7 @@ struct MRVEPubNotes::Finder
             {entry.begin, entry.end, entry.marks, nameOf(entry.marks.constFirst())});
     }
 
-    // Finds what leads back from a note, which begins with its label or a link back, or ends with
-    // an arrow.
-    bool isNote(Entry *entry, int limit) const
-    {
-        const bool isItem = flow.paragraphs.at(entry->begin).list >= 0;
-        const int end = isItem ? qMax(entry->begin + 1, itemEnd(entry->begin, limit)) : limit;
-        const int position = flow.paragraphs.at(entry->begin).position;
-        bool is = beginsWithLabel(*entry);
-        for (auto link = linkAt(position); link != flow.links.end(); ++link) {
-            const int paragraph = flow.paragraphAt(link->begin);
-            if (paragraph >= end) {
-                break;
-            }
-            const bool isArrow = isArrowAtEnd(*link, paragraph);
-            if ((paragraph == entry->begin || isItem || isArrow)
-                && leadsBack(*link, entry->marks)) {
-                entry->backLinks.append(link->begin);
-                entry->end = paragraph + 1;
-                const QStringView before =
-                    QStringView(flow.text).mid(position, link->begin - position);
-                is = is || isArrow || std::all_of(before.begin(), before.end(), isFrame);
-            }
-        }
-        return is && !entry->backLinks.isEmpty();
-    }
-
-    bool beginsWithLabel(const Entry &entry) const
-    {
-        QStringView label = textOf(*linkAt(entry.marks.constFirst()));
-        while (!label.isEmpty() && isFrame(label.front())) {
-            label = label.mid(1);
-        }
-        while (!label.isEmpty() && isFrame(label.back())) {
-            label.chop(1);
-        }
-        const MRVEPubParagraph &paragraph = flow.paragraphs.at(entry.begin);
-        QStringView text = flow.textOf(paragraph);
-        while (!text.isEmpty() && isFrame(text.front())) {
-            text = text.mid(1);
-        }
-        const bool begins = text.startsWith(label)
-            && (text.size() == label.size() || !text.at(label.size()).isLetterOrNumber());
-        const bool isNumber = paragraph.list >= 0 && label.toInt() == paragraph.itemNumber;
-        return !label.isEmpty() && (begins || isNumber);
-    }
-
-    bool isArrowAtEnd(const MRVEPubLink &link, int paragraph) const
-    {
-        const QStringView text = textOf(link);
-        const auto isSymbol = [](QChar c) {
-            return (c.category() >= QChar::Symbol_Math && c.category() <= QChar::Symbol_Other)
-                || c.isSurrogate();
-        };
-        const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
-        const QStringView after =
-            QStringView(flow.text).mid(link.end, place.position + place.length - link.end);
-        return std::any_of(text.begin(), text.end(), isSymbol)
-            && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); })
-            && std::none_of(after.begin(), after.end(),
-                            [](QChar c) { return c.isLetterOrNumber(); });
-    }
-
-    QVector<MRVEPubLink>::const_iterator linkAt(int position) const
-    {
-        return std::lower_bound(flow.links.begin(), flow.links.end(), position,
-                                [](const MRVEPubLink &one, int at) { return one.begin < at; });
-    }
-
-    QString nameOf(int mark) const { return linkAt(mark)->address.mid(1); }
-
-    bool leadsBack(const MRVEPubLink &link, const QVector<int> &marks) const
-    {
-        const int target = targetOf(link);
-        if (target < 0) {
-            return false;
-        }
-        const int paragraph = flow.paragraphAt(target);
-        return std::any_of(marks.begin(), marks.end(),
-                           [&](int mark) { return flow.paragraphAt(mark) == paragraph; });
-    }
+    QString nameOf(int mark) const { return marked.linkAt(mark)->address.mid(1); }
 
     // Where a list item ends; -1 where what follows cannot be told from it, or where it is an item
     // of the same list that is no note.
@@ -336,7 +150,7 @@ struct MRVEPubNotes::Finder
     // Where a note ends: all up to the next note is its own, but for text that looks like the
     // body's where the note does not. The last one has only what looks as it does. -1 where it
     // cannot be told.
-    int noteEnd(const Entry &note, int limit, bool isLast) const
+    int noteEnd(const MRVMarkedNote &note, int limit, bool isLast) const
     {
         const Look &own = looks.at(note.begin);
         const Look &around = looks.at(flow.paragraphAt(note.marks.constFirst()));
@@ -368,10 +182,11 @@ struct MRVEPubNotes::Finder
     bool holdsMark(int paragraph) const
     {
         const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
-        for (auto link = linkAt(place.position);
+        for (auto link = marked.linkAt(place.position);
              link != flow.links.end() && link->begin < place.position + place.length; ++link) {
-            if (targetOf(*link) >= 0
-                && candidates.value(flow.paragraphAt(targetOf(*link))).contains(link->begin)) {
+            if (marked.targetOf(*link) >= 0
+                && candidates.value(flow.paragraphAt(marked.targetOf(*link)))
+                       .contains(link->begin)) {
                 return true;
             }
         }
@@ -432,15 +247,11 @@ struct MRVEPubNotes::Finder
 
     MRVEPubNotes &notes;
     const MRVEPubFlow &flow;
+    const MRVNoteFinder marked;
     MRVEPubFormats &formats;
-    QHash<QString, int> places;
-    QMap<int, QVector<int>> candidates; // marks by the paragraph that they lead to
+    const QMap<int, QVector<int>> &candidates; // marks by the paragraph that they lead to
     QVector<Look> looks; // of paragraphs
     Look body;
-    int lastFragment = 0; // that was looked at for a raised mark
-    int lastPosition = -1; // where it begins
-    int textParagraph = -1; // the last one that was looked at for text
-    bool isText = false;
 };
 
 MRVEPubNotes::MRVEPubNotes(const MRVEPubFlow &flow, MRVEPubFormats *formats)

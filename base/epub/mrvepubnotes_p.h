@@ -19,13 +19,10 @@ struct MRVEPubNote
 };
 
 /**
- * The notes of a document: pairs of a link and a paragraph or list item that links back.
+ * The notes of a document that MRVNoteFinder finds, with all that belongs to them.
  *
- * A mark is a short link in running text, such as "[12]" or a raised figure, to the beginning of a
- * paragraph after it, from which, or from one that belongs to it, a link leads back to the
- * paragraph of the mark; the note begins with its label or that link, or ends with an arrow. What
- * stands between two notes belongs to the first of them. Where it cannot be told how far a note
- * goes, all of its section stay as they are.
+ * What stands between two notes belongs to the first of them. Where it cannot be told how far a
+ * note goes, all of its section stay as they are.
  */
 class MRVEPubNotes
 {

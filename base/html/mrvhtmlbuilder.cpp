@@ -129,6 +129,15 @@ int itemCount(const GumboNode *list)
     }));
 }
 
+void setNoteLink(int link, QTextCharFormat *format)
+{
+    if (link != 0) {
+        format->setProperty(MRVTextFormat::NoteLinkProperty, link);
+    } else {
+        format->clearProperty(MRVTextFormat::NoteLinkProperty);
+    }
+}
+
 const QVector<MRVCssDeclaration> &linkDeclarations()
 {
     // The colour does not come from the palette of the machine that reads: the same page gives the
@@ -269,6 +278,7 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
     if (!address.isEmpty()) {
         style.text.setAnchor(true);
         style.text.setAnchorHref(address);
+        setNoteLink(mrvNoteLinkOf(element), &style.text);
     }
     setLanguage(element, outside, &style);
     return style;

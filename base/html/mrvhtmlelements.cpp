@@ -1,6 +1,7 @@
 #include "html/mrvhtmlelements_p.h"
 
 #include "html/mrvhtmltree_p.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QRegularExpression>
 
@@ -366,6 +367,27 @@ QString mrvFieldText(const GumboNode *element)
     return hasText && mrvIsField(element)
         ? mrvShownText(mrvAttributeOf(element, "value")).simplified()
         : QString();
+}
+
+int mrvNoteLinkOf(const GumboNode *element)
+{
+    constexpr struct
+    {
+        const char *word;
+        MRVTextFormat::NoteLink link;
+    } rows[] = {{"noteref", MRVTextFormat::NoteMark},
+                {"doc-noteref", MRVTextFormat::NoteMark},
+                {"backlink", MRVTextFormat::NoteBackLink},
+                {"doc-backlink", MRVTextFormat::NoteBackLink}};
+    const QString words =
+        mrvAttributeOf(element, "epub:type") + u' ' + mrvAttributeOf(element, "role");
+    const QStringList said = words.toLower().simplified().split(u' ');
+    for (const auto &row : rows) {
+        if (said.contains(QLatin1String(row.word))) {
+            return row.link;
+        }
+    }
+    return 0;
 }
 
 bool mrvIsComment(const GumboNode *element)

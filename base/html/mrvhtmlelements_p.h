@@ -70,6 +70,9 @@ bool mrvIsField(const GumboNode *element);
 /** The text that a field shows, in one line: its value, if it is of a type that shows that. */
 QString mrvFieldText(const GumboNode *element);
 
+/** What a link is said to be: an MRVTextFormat::NoteLink, or 0. */
+int mrvNoteLinkOf(const GumboNode *element);
+
 /** Whether an element begins or ends a comment in the margin; it shows nothing itself. */
 bool mrvIsComment(const GumboNode *element);
 

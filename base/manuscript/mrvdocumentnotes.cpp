@@ -1,5 +1,6 @@
 #include "manuscript/mrvdocumentnotes.h"
 
+#include "document/mrvnotefinder.h"
 #include "manuscript/mrvmanuscript.h"
 #include "search/mrvtextfinder.h"
 #include "textformat/mrvtextformat.h"
@@ -7,6 +8,7 @@
 #include <QBrush>
 #include <QColor>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -35,37 +37,47 @@ QTextCharFormat formatAt(QTextDocument *document, int position)
     return cursor.charFormat();
 }
 
-// Word processors and converters name notes and comments in their own ways; else, a link inside the
-// page on a mere number or sign belongs to a note.
-MRVDocumentNote::Kind kindOfLink(const QString &address, const QString &text)
+// Word processors and converters name comments and notes in their own ways.
+MRVDocumentNote::Kind kindOfAddress(const QString &address)
 {
     static const QRegularExpression comment(QStringLiteral("#(?:_msocom|cmnt)"));
     static const QRegularExpression footnote(
-        QStringLiteral("#_*(?:fn|ftn|edn|footnote|endnote|sdfootnote|sdendnote|cite_)"),
+        QStringLiteral("#_*(?:(?:fn|ftnt?|edn|footnote|endnote|sdfootnote|sdendnote)"
+                       "(?:_?ref)?[-_:.]?\\d|cite_(?:note|ref)-)"),
         QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression sign(
-        QStringLiteral(
-            "^[\\[(]?(?:\\d{1,4}|[a-z]|[ivxlc]+|[*\u2020\u2021\u00a7\u00b6]+|\u21a9\ufe0e?)"
-            "[.\\])]*$"),
-        QRegularExpression::CaseInsensitiveOption);
-    if (address.contains(comment)) {
-        return MRVDocumentNote::Comment;
+    return address.contains(comment) ? MRVDocumentNote::Comment
+        : address.contains(footnote) ? MRVDocumentNote::Footnote
+                                     : MRVDocumentNote::Link;
+}
+
+// Where links to and from notes begin.
+QSet<int> linksOfNotes(const QTextDocument &document)
+{
+    QSet<int> links;
+    const MRVDocumentFlow flow(document);
+    const QVector<MRVMarkedNote> notes = MRVNoteFinder(flow).notes();
+    for (const MRVMarkedNote &note : notes) {
+        for (const QVector<int> &begins : {note.marks, note.backLinks}) {
+            for (const int begin : begins) {
+                links.insert(begin);
+            }
+        }
     }
-    const bool inside = address.startsWith(u'#');
-    return address.contains(footnote) || (inside && text.trimmed().contains(sign))
-        ? MRVDocumentNote::Footnote
-        : MRVDocumentNote::Link;
+    return links;
 }
 
 void addLinks(QTextDocument *document, QVector<MRVDocumentNote> *notes)
 {
     QTextCursor all(document);
     all.select(QTextCursor::Document);
+    const QSet<int> ofNotes = linksOfNotes(*document);
     const QList<MRVTextRange> links = MRVTextFinder::findAllAnchors(all);
     for (const MRVTextRange &link : links) {
-        const QString address = formatAt(document, link.start()).anchorHref();
-        const QString text = textOf(document, link);
-        notes->append({kindOfLink(address, text), link, address, text});
+        const QTextCharFormat format = formatAt(document, link.start());
+        const bool isNote =
+            ofNotes.contains(link.start()) || format.hasProperty(MRVTextFormat::NoteLinkProperty);
+        notes->append({isNote ? MRVDocumentNote::Footnote : kindOfAddress(format.anchorHref()),
+                       link, format.anchorHref(), textOf(document, link)});
     }
 }
 

@@ -49,10 +49,11 @@ struct MRVBASE_EXPORT MRVSourceComment
 /**
  * Lists the links, notes, highlights and pictures of a document. It changes nothing.
  *
- * Footnotes and comments are links that word processors and converters name as such ("#_ftn1",
- * "#cmnt1"), links inside the page on a mere number or sign, and what authors of plain text and
- * Markdown type: "[^1]" and "{>> text <<}". Comments are also those in the margin, with
- * InspectorCommentProperty. GUI thread only.
+ * Footnotes are links between the notes that MRVNoteFinder finds and their marks, links with
+ * NoteLinkProperty, and links that word processors and converters name as such ("#_ftn1"), as they
+ * do those of comments ("#cmnt1"). Entries of an index are links. Footnotes and comments are also
+ * what authors of plain text and Markdown type: "[^1]" and "{>> text <<}". Comments are also those
+ * in the margin, with InspectorCommentProperty. GUI thread only.
  *
  * @since 1.0
  */

@@ -109,12 +109,20 @@ public:
          * what is outside; "ltr-override" and "rtl-override" also set that of each character.
          */
         DirectionProperty = 0x100105,
+        /** NoteLink, of a link: what a page says that it is. */
+        NoteLinkProperty = 0x100106,
     };
 
     /** Values of CaptionProperty. */
     enum Caption {
         CaptionOfNext = 1, ///< of what follows the paragraph
         CaptionOfPrevious = 2, ///< of what precedes it
+    };
+
+    /** Values of NoteLinkProperty. */
+    enum NoteLink {
+        NoteMark = 1, ///< the mark of a note in the text
+        NoteBackLink = 2, ///< from a note to its mark
     };
 
     // Not stored under its number, but as what it holds.
