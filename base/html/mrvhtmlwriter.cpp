@@ -516,7 +516,7 @@ void MRVHtmlWriter::startItem()
     endParagraph();
     const auto isItem = [](const Box &box) { return box.box.isItem || box.box.list; };
     const auto box = std::find_if(m_boxes.rbegin(), m_boxes.rend(), isItem);
-    if (box != m_boxes.rend() && box->box.isItem && !box->isItemStarted
+    if (box != m_boxes.rend() && box->box.isItem && !box->isItemStarted && box->list
         && box->list->format.style() != QTextListFormat::ListStyleUndefined) {
         openParagraph();
         endParagraph();
