@@ -22,14 +22,14 @@ bool isDigit(QChar character)
     return character >= QChar(FirstDigit) && character < QChar(FirstDigit + 16);
 }
 
-QByteArray mark(ushort kind, const QByteArray &name)
+QString markOf(ushort kind, const QByteArray &name)
 {
     QString text{QChar(kind)};
     for (const char byte : name) {
         text += QChar(FirstDigit + (uchar(byte) >> 4));
         text += QChar(FirstDigit + (uchar(byte) & 15));
     }
-    return (text + QChar(MarkEnd)).toUtf8();
+    return text + QChar(MarkEnd);
 }
 
 // Without the characters that have a meaning in pages of the converter.
@@ -134,10 +134,10 @@ private:
         const bool isNew = begins || (refers && !m_begun.contains(name));
         if (isNew) {
             m_begun.insert(name);
-            m_pending += mark(BeginMark, name);
+            m_pending += mrvCommentBegin(name).toUtf8();
         }
         if (!begins && (isNew || !refers)) {
-            m_pending += mark(EndMark, name);
+            m_pending += mrvCommentEnd(name).toUtf8();
         }
     }
 
@@ -267,6 +267,16 @@ private:
 
 } // namespace
 
+QString mrvCommentBegin(const QByteArray &name)
+{
+    return markOf(BeginMark, name);
+}
+
+QString mrvCommentEnd(const QByteArray &name)
+{
+    return markOf(EndMark, name);
+}
+
 MRVOfficeComments mrvCommentsOfDocx(const QByteArray &xml)
 {
     MRVOfficeComments comments;
@@ -310,7 +320,7 @@ QByteArray mrvWithMarksOfOdtComments(const QByteArray &xml, MRVOfficeComments *c
             name = mrvOfficeAttribute(xml.mid(tag.begin, tag.end - tag.begin), "office:name");
             marked.append(xml.constData() + done, tag.begin - done);
             done = isEnd ? tag.end : tag.begin;
-            marked += isEnd ? mark(EndMark, name) : QByteArray();
+            marked += isEnd ? mrvCommentEnd(name).toUtf8() : QByteArray();
             begin = isEnd ? -1 : tag.begin;
         } else if (!isEnd && begin >= 0) {
             QXmlStreamReader reader(xml.mid(begin, tag.end - begin));
@@ -319,7 +329,8 @@ QByteArray mrvWithMarksOfOdtComments(const QByteArray &xml, MRVOfficeComments *c
             const bool isPoint = !ended.contains(name);
             name = isPoint ? '#' + QByteArray::number(comments->size()) : name;
             comments->insert(name, readComment(&reader));
-            marked += mark(BeginMark, name) + (isPoint ? mark(EndMark, name) : QByteArray());
+            marked += mrvCommentBegin(name).toUtf8()
+                + (isPoint ? mrvCommentEnd(name).toUtf8() : QByteArray());
             done = tag.end;
             begin = -1;
         }

@@ -17,6 +17,10 @@ using MRVOfficeComments = QMap<QByteArray, MRVOfficeComment>;
 
 /** Reads word/comments.xml of a DOCX, up to a fault. */
 MRVOfficeComments mrvCommentsOfDocx(const QByteArray &xml);
+/** The text that marks where the comment with that name begins, or ends. */
+QString mrvCommentBegin(const QByteArray &name);
+QString mrvCommentEnd(const QByteArray &name);
+
 /**
  * A text of a DOCX with marks in it where comments begin and end, as text that pandoc, which leaves
  * out comments, carries over.

@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QVector>
 
+#include <algorithm>
 #include <cctype>
 
 namespace {
@@ -66,8 +67,9 @@ QByteArray linkOf(const QByteArray &instruction)
 class Preparer
 {
 public:
-    explicit Preparer(const QByteArray &rtf)
+    Preparer(const QByteArray &rtf, MRVOfficeComments *comments)
         : m_rtf(rtf)
+        , m_comments(*comments)
     {
         m_prepared.reserve(rtf.size() + rtf.size() / 8);
     }
@@ -129,7 +131,7 @@ private:
         } else {
             m_codecs.open();
         }
-        if (brace == '}' || !(isField() || isOtherGroup())) {
+        if (brace == '}' || !(isField() || isComment() || isOtherGroup())) {
             m_prepared += brace;
             ++m_at;
         }
@@ -159,10 +161,7 @@ private:
                 m_prepared += "\\'" + QByteArray(1, byte).toHex();
             }
         } else if (!m_bytes.isEmpty()) {
-            const QString text = m_codecs.decoded(m_bytes);
-            for (const QChar character : text) {
-                addCharacter(character);
-            }
+            addText(m_codecs.decoded(m_bytes));
         }
         m_bytes.clear();
     }
@@ -208,6 +207,60 @@ private:
         return true;
     }
 
+    // What is about comments gives way to marks. The author's name comes before the comment.
+    bool isComment()
+    {
+        constexpr const char *groups[] = {"{\\*\\atrfstart", "{\\*\\atrfend", "{\\*\\atnauthor",
+                                          "{\\*\\annotation"};
+        const auto group = std::find_if(std::begin(groups), std::end(groups),
+                                        [this](const char *start) { return startsWith(start); });
+        const int kind = int(group - std::begin(groups));
+        const int inside = group == std::end(groups) ? -1 : m_at + int(qstrlen(*group));
+        const int end = inside < 0 || m_hasOpenComment ? -1 : groupEnd(m_rtf, inside);
+        if (end < 0) {
+            m_hasOpenComment = m_hasOpenComment || inside >= 0; // damage is looked through once
+            return false;
+        }
+        const QByteArray content = m_rtf.mid(inside, end - inside);
+        const QByteArray name = content.trimmed();
+        if (kind == 0) {
+            m_begun.insert(name);
+            addText(mrvCommentBegin(name));
+        } else if (kind == 1) {
+            addText(mrvCommentEnd(name));
+        } else if (kind == 2) {
+            m_author = mrvRtfText(content).trimmed();
+        } else {
+            addComment(content);
+        }
+        m_prepared += "{}"; // a blank after the group does not belong to what is before it
+        m_codecs.close(); // the group that has been opened
+        m_at = end + 1;
+        return true;
+    }
+
+    void addComment(const QByteArray &content)
+    {
+        const QByteArray reference("{\\*\\atnref");
+        const int begin = content.indexOf(reference) + reference.size();
+        const int end = content.indexOf('}', begin);
+        QByteArray name =
+            content.contains(reference) ? content.mid(begin, end - begin).trimmed() : QByteArray();
+        if (!m_begun.contains(name)) { // it has no range
+            name = '#' + QByteArray::number(m_comments.size());
+            addText(mrvCommentBegin(name) + mrvCommentEnd(name));
+        }
+        m_comments.insert(name, {m_author, QString(), mrvRtfText(content).trimmed()});
+        m_author.clear();
+    }
+
+    void addText(const QString &text)
+    {
+        for (const QChar character : text) {
+            addCharacter(character);
+        }
+    }
+
     // Text that is hidden from pandoc, and properties and repetitions that are not.
     bool isOtherGroup()
     {
@@ -229,6 +282,7 @@ private:
     }
 
     const QByteArray &m_rtf;
+    MRVOfficeComments &m_comments;
     QByteArray m_prepared;
     int m_at = 0;
     MRVRtfCodecs m_codecs;
@@ -236,6 +290,9 @@ private:
     int m_substitutes = 0; // still to come
     QChar m_high; // the first half of a character
     bool m_hasOpenField = false;
+    bool m_hasOpenComment = false;
+    QSet<QByteArray> m_begun; // comments with a range
+    QString m_author; // of the next comment
     bool m_hasShapeText = false; // which its repetition for older programs also holds
 };
 
@@ -372,9 +429,9 @@ private:
 
 } // namespace
 
-QByteArray mrvPreparedRtf(const QByteArray &rtf)
+QByteArray mrvPreparedRtf(const QByteArray &rtf, MRVOfficeComments *comments)
 {
-    return Preparer(rtf).prepared();
+    return Preparer(rtf, comments).prepared();
 }
 
 QString mrvWithCharacters(const QString &html)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "office/mrvofficecomments_p.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -7,9 +9,10 @@
  * RTF as pandoc reads it: it takes a character too many after "\u220?", takes all bytes for
  * Windows-1252, and loses notes in "\*\footnote", what fields show if they are no links, most
  * links, and the text of boxes. Instead of a character above U+FFFF, which it cannot read, are
- * U+FDD2, its number in hexadecimal digits and U+FDD3.
+ * U+FDD2, its number in hexadecimal digits and U+FDD3. Comments are marked and added to
+ * @p comments.
  */
-QByteArray mrvPreparedRtf(const QByteArray &rtf);
+QByteArray mrvPreparedRtf(const QByteArray &rtf, MRVOfficeComments *comments);
 /** A page with the characters whose numbers mrvPreparedRtf() has written. */
 QString mrvWithCharacters(const QString &html);
 

@@ -90,7 +90,7 @@ MRVOfficeSource::MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format form
     : m_prepared(bytes)
 {
     if (format == MRVFormat::RTF) {
-        m_prepared = mrvPreparedRtf(bytes);
+        m_prepared = mrvPreparedRtf(bytes, &m_comments);
         m_text = mrvRtfText(bytes);
     } else {
         readArchive(bytes, format);
