@@ -311,7 +311,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("element");
         for (const QString element :
-             {"ul><li", "blockquote", "table><tr><td", "div style='border:1px solid'"}) {
+             {"ul><li", "blockquote", "table><tr><td", "div style='border:1px solid'",
+              "ul><li><table><caption>c<tr><td"}) {
             QTest::newRow(qPrintable(element)) << element;
         }
     }

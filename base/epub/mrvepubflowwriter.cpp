@@ -188,7 +188,7 @@ int MRVEPubWriter::writeBlock(int paragraph, int end)
     }
     if (place.headingLevel > 0) {
         writeHeading(paragraph);
-    } else if (place.list >= 0 && !m_containers.constLast().isQuote
+    } else if (place.list >= 0 && !m_containers.isEmpty() && !m_containers.constLast().isQuote
                && !hasParagraphAfter(paragraph, end)) {
         MRVEPubContext context;
         m_formats.look(paragraph, MRVEPubKind::Item, usedIndent(), &context);
@@ -298,6 +298,8 @@ void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
     if (isOpen) {
         m_containers.last().list = paragraph.list;
         m_out.append(QLatin1String("</li>\n"));
+    } else if (isDeep() && m_containers.isEmpty()) {
+        return; // a paragraph, as no list can be opened
     } else if (isDeep() && !m_containers.constLast().isQuote) {
         m_out.append(QLatin1String("</li>\n")); // goes on at the depth that has been reached
     } else {

@@ -75,13 +75,15 @@ void MRVEPubWriter::writeFrame(int frame)
     const int outside = std::exchange(m_openFrame, frame);
     const int depth = m_depth;
     constexpr int InTable = 4;
-    if (isDeep()) {
+    const bool isTooDeep = isDeep();
+    m_depth += InList * m_containers.size() + (isTooDeep ? 0 : place.table ? InTable : 1);
+    if (isTooDeep) {
+        const int caption = std::exchange(m_caption, -1);
+        if (caption >= 0) {
+            writeParagraph(caption, MRVEPubKind::Paragraph, "p");
+        }
         writeFlow(place.begin, place.end);
-        m_openFrame = outside;
-        return;
-    }
-    m_depth += InList * m_containers.size() + (place.table ? InTable : 1);
-    if (place.table) {
+    } else if (place.table) {
         writeTable(frame);
     } else {
         writeBox(frame);
