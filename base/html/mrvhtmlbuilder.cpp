@@ -161,8 +161,9 @@ MRVHtmlBuilder::MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *she
     m_styler.setIsQtPage(m_isQtPage);
 }
 
-void MRVHtmlBuilder::build()
+void MRVHtmlBuilder::build(MRVHtmlRuns *runs)
 {
+    m_runs = runs;
     Siblings roots;
     Siblings bodies;
     const GumboNode *root = m_tree.root();
@@ -315,9 +316,19 @@ void MRVHtmlBuilder::readChildren(const GumboNode *parent, const MRVHtmlStyle &s
             isLineEnded = !isEnd && readElement(child, style, childCss);
         } else if (child->type != GUMBO_NODE_COMMENT && !style.isInvisible) {
             isLineEnded = isLineEnded && isBlank(child);
-            m_writer.writeText(mrvTextOf(child), style);
+            writeText(mrvTextOf(child), style, child);
         }
     }
+}
+
+// Without a node, it is a text that the page only implies.
+void MRVHtmlBuilder::writeText(const QString &text, const MRVHtmlStyle &style,
+                               const GumboNode *node)
+{
+    if (m_runs) {
+        m_runs->append({node, text});
+    }
+    m_writer.writeText(text, style);
 }
 
 // Tells whether the element was an indented line.
@@ -429,20 +440,20 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
     }
     addDirection(element, &style.text);
     const QString space = style.display == MRVHtmlStyle::Apart ? QStringLiteral(" ") : QString();
-    m_writer.writeText(space, style);
+    writeText(space, style);
     if (mrvIsPicture(element)) { // of SVG
         readPicture(element, style, css);
     }
     readInside(element, style.inherited(), css);
-    m_writer.writeText(space, style);
+    writeText(space, style);
 }
 
 void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &style,
                                 const MRVCssElement *css)
 {
-    m_writer.writeText(m_marks.before(element), style);
+    writeText(m_marks.before(element), style);
     readChildren(element, style, css);
-    m_writer.writeText(m_marks.after(element), style);
+    writeText(m_marks.after(element), style);
 }
 
 void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &style,
@@ -450,7 +461,7 @@ void MRVHtmlBuilder::readPicture(const GumboNode *element, const MRVHtmlStyle &s
 {
     if (!mrvIsPicture(element)) {
         // Without a picture, its texts are shown.
-        m_writer.writeText(mrvAttributeOf(element, "alt"), style);
+        writeText(mrvAttributeOf(element, "alt"), style);
         readChildren(element, style.inherited(), css);
         return;
     }
@@ -502,8 +513,8 @@ void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &sty
         readPicture(element, style, nullptr);
     }
     if (mrvIsField(element)) {
-        m_writer.writeText(QStringLiteral(" "), style);
-        m_writer.writeText(mrvFieldText(element) + u' ', style);
+        writeText(QStringLiteral(" "), style);
+        writeText(mrvFieldText(element) + u' ', style);
     }
 }
 

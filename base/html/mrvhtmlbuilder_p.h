@@ -1,6 +1,7 @@
 #pragma once
 
 #include "html/mrvhtmlelements_p.h"
+#include "html/mrvhtmlplaces_p.h"
 #include "html/mrvhtmltree_p.h"
 #include "html/mrvhtmlwriter_p.h"
 
@@ -13,7 +14,8 @@ public:
     /** @p sheets may be null: the page has none. */
     MRVHtmlBuilder(const MRVHtmlTree &tree, const MRVStyleSheet *sheets, QTextDocument *document);
 
-    void build();
+    /** @param runs if given, receives what is written. */
+    void build(MRVHtmlRuns *runs = nullptr);
 
     /** How elements are shown that their styles show in another way than their kind is. */
     const MRVHtmlDisplays &displays() const { return m_displays; }
@@ -36,6 +38,7 @@ private:
                                     Siblings *siblings) const;
     void prepareDocument(const MRVHtmlStyle &body);
 
+    void writeText(const QString &text, const MRVHtmlStyle &style, const GumboNode *node = nullptr);
     void readChildren(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css);
     bool readElement(const GumboNode *element, const MRVHtmlStyle &outside,
                      const MRVCssElement *css);
@@ -75,4 +78,5 @@ private:
     QString m_language; // of the page
     MRVHtmlMarks m_marks;
     MRVHtmlDisplays m_displays;
+    MRVHtmlRuns *m_runs = nullptr;
 };

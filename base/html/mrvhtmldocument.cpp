@@ -3,6 +3,7 @@
 #include "html/mrvhtmlbuilder_p.h"
 #include "html/mrvhtmlcheck_p.h"
 #include "html/mrvhtmlsheets_p.h"
+#include "input/mrvguardeddocument.h"
 #include "input/mrvhtmlreader.h"
 #include "util/mrvfailure.h"
 
@@ -26,10 +27,39 @@ QString titleOf(const GumboNode *root)
     return QString();
 }
 
-} // namespace
+// Where the characters of a page are in another that lacks some of its end tags.
+QVector<int> offsetsIn(const QString &html, const QString &page)
+{
+    QVector<int> offsets;
+    offsets.reserve(page.size());
+    int at = 0;
+    while (offsets.size() < page.size()) {
+        if (html.at(at) == page.at(offsets.size())) {
+            offsets.append(at++);
+            continue;
+        }
+        at += 2; // "/>", which became "></x>"
+        const int end = page.indexOf(u'>', offsets.size() + 1) + 1;
+        while (offsets.size() < end) {
+            offsets.append(at);
+        }
+    }
+    return offsets;
+}
 
-bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocument *document,
-                           MRVHtmlReport *report, QString *error)
+MRVSourcePlaces placesIn(const QString &html, const QString &page, MRVSourcePlaces places)
+{
+    if (page != html) {
+        const QVector<int> offsets = offsetsIn(html, page);
+        for (MRVSourcePlace &place : places) {
+            place.start = place.isKnown() ? offsets.at(place.start) : place.start;
+        }
+    }
+    return places;
+}
+
+bool readPage(const QString &html, const QString &file, QTextDocument *document,
+              MRVHtmlReport *report, MRVSourcePlaces *places, QString *error)
 {
     const QString page = mrvWithEndTags(html);
     const QString fault = MRVHtmlReader::whyTooComplex(page);
@@ -50,13 +80,34 @@ bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocume
     document->clear();
     document->setUndoRedoEnabled(false);
     document->setMetaInformation(QTextDocument::DocumentTitle, titleOf(tree.root()));
+    MRVHtmlRuns runs;
     MRVHtmlBuilder builder(tree, hasSheets ? &sheets : nullptr, document);
-    builder.build();
+    builder.build(places ? &runs : nullptr);
     found.comments = builder.commentCount();
     document->setUndoRedoEnabled(keepsHistory);
     if (report) {
         mrvCheckDocument(tree, builder.displays(), *document, &found);
         *report = found;
     }
+    if (places) {
+        *places = placesIn(html, page, mrvHtmlPlaces(tree, runs, document->toRawText()));
+    }
     return true;
+}
+
+} // namespace
+
+bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocument *document,
+                           MRVHtmlReport *report, QString *error)
+{
+    return readPage(html, file, document, report, nullptr, error);
+}
+
+MRVSourcePlaces MRVHtmlDocument::places(const QString &html, const QString &file)
+{
+    MRVSourcePlaces places;
+    MRVGuardedDocument document;
+    document.setUndoRedoEnabled(false);
+    readPage(html, file, &document, nullptr, &places, nullptr);
+    return places;
 }

@@ -2,6 +2,7 @@
 
 #include "html/mrvhtmlreport.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvsourceplace.h"
 
 #include <QString>
 #include <QTextDocument>
@@ -59,4 +60,16 @@ public:
      */
     static bool read(const QString &html, const QString &file, QTextDocument *document,
                      MRVHtmlReport *report = nullptr, QString *error = nullptr);
+
+    /**
+     * Where the text of the document that read() makes of a page stands in the page.
+     *
+     * @param html a page, as read() takes it.
+     * @param file the same as for read(): style sheets can hide text.
+     * @return one place for each character of the document's toRawText(). Not known are those of
+     *         paragraphs' and lines' ends, pictures, text that the page only implies, such as the
+     *         marks around <q>, and white space that stands in several places. Empty for a page
+     *         that read() refuses.
+     */
+    static MRVSourcePlaces places(const QString &html, const QString &file);
 };

@@ -2,6 +2,7 @@
 
 #include "markdown/mrvfrontmatter_p.h"
 #include "markdown/mrvmarkdowncost_p.h"
+#include "markdown/mrvmarkdownplaces_p.h"
 #include "markdown/mrvmarkdownraw_p.h"
 #include "markdown/mrvmarkdownsyntax_p.h"
 #include "markdown/mrvmarkdowntree_p.h"
@@ -87,8 +88,11 @@ void replaceNotes(const QSet<Place> &places, const QByteArray &text, cmark_node 
 /**
  * The HTML of @p text, whose notes at @p plain are text. cmark leaves out the notes that nothing
  * refers to: these are added to @p plain, and the result is of no use.
+ *
+ * @param places may be null; else it gets the places of the text.
  */
-QString convert(const QByteArray &text, MRVMarkdown::Options options, QSet<Place> *plain)
+QString convert(const QByteArray &text, MRVMarkdown::Options options, QSet<Place> *plain,
+                MRVMarkdownPlaces *places)
 {
     const int flags = flagsOf(options);
     MRVMarkdownSyntax syntax(partsOf(options));
@@ -108,15 +112,22 @@ QString convert(const QByteArray &text, MRVMarkdown::Options options, QSet<Place
     }
     const NodePointer root(cmark_parser_finish(parser.get()), cmark_node_free);
     plain->unite(notes.subtract(notesOf(root.get())));
+    if (places) {
+        places->find(root.get());
+    }
     mrvCompleteMarkdownTree(root.get());
     mrvEscapeOpenTags(root.get());
     if (options.testFlag(MRVMarkdown::SmartPunctuation)) {
         mrvSmartenPunctuation(root.get());
     }
+    if (places) {
+        places->setMarks(root.get());
+    }
     const BytesPointer html(
         cmark_render_html(root.get(), flags, cmark_parser_get_syntax_extensions(parser.get())),
         free);
-    return QString::fromUtf8(html.get());
+    const QString page = QString::fromUtf8(html.get());
+    return places ? places->takeMarks(page) : page;
 }
 
 /**
@@ -136,6 +147,43 @@ QByteArray toUtf8(QString text)
     return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n').toUtf8();
 }
 
+/** The offset in @p markdown of each byte of what toUtf8() made of it, metadata apart. */
+QVector<int> offsetsOf(const QByteArray &text, const QString &markdown)
+{
+    QVector<int> offsets;
+    offsets.reserve(text.size() + 1);
+    int at = 0;
+    for (const char byte : text) {
+        if (byte == '\n') {
+            while (at < markdown.size() && markdown.at(at) != u'\n' && markdown.at(at) != u'\r') {
+                ++at; // of the metadata, of which the line ends are left
+            }
+            offsets.append(at);
+            at += QStringView(markdown).mid(at).startsWith(QLatin1String("\r\n")) ? 2 : 1;
+        } else if ((byte & 0xc0) == 0x80) {
+            offsets.append(at);
+        } else {
+            offsets.append(at);
+            at += uchar(byte) >= 0xf0 ? 2 : 1;
+        }
+    }
+    offsets.append(at);
+    return offsets;
+}
+
+MRVSourcePlaces placesIn(const QString &markdown, const QByteArray &text, MRVSourcePlaces places)
+{
+    const QVector<int> offsets = offsetsOf(text, markdown);
+    for (MRVSourcePlace &place : places) {
+        if (place.isKnown()) {
+            const int end = offsets.at(place.end());
+            place.start = offsets.at(place.start);
+            place.length = end - place.start;
+        }
+    }
+    return places;
+}
+
 } // namespace
 
 QString MRVMarkdown::takeHead(const QString &markdown, MRVMarkdownHead *head)
@@ -144,7 +192,8 @@ QString MRVMarkdown::takeHead(const QString &markdown, MRVMarkdownHead *head)
     return mrvTakeFrontMatter(markdown, head);
 }
 
-QString MRVMarkdown::toHtml(const QString &markdown, Options options, MRVMarkdownHead *head)
+QString MRVMarkdown::toHtml(const QString &markdown, Options options, MRVMarkdownHead *head,
+                            MRVSourcePlaces *places)
 {
     MRVMarkdownHead read;
     const QByteArray text = toUtf8(mrvTakeFrontMatter(markdown, &read));
@@ -156,10 +205,14 @@ QString MRVMarkdown::toHtml(const QString &markdown, Options options, MRVMarkdow
     }
     cmark_gfm_core_extensions_ensure_registered();
     QSet<Place> plain;
+    MRVMarkdownPlaces found(text);
     for (;;) {
         const int known = plain.size();
-        const QString html = convert(text, options, &plain);
+        const QString html = convert(text, options, &plain, places ? &found : nullptr);
         if (plain.size() == known) {
+            if (places) {
+                *places = placesIn(markdown, text, found.places());
+            }
             return html;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "markdown/mrvmarkdownhead.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvsourceplace.h"
 
 #include <QString>
 
@@ -55,12 +56,17 @@ public:
      * @param markdown any text. Characters that are not valid (U+0000, half a surrogate pair) are
      *                 replaced by U+FFFD.
      * @param head     if given, receives the metadata; its former values are lost.
+     * @param places   if given, receives for each character of the result where it stands in
+     *                 @p markdown, as far as it is text: tags are in no place, and a character
+     *                 that is a reference in the result has the place at its "&". A line end that
+     *                 is a blank has that of the whole end of the line, with what quotations and
+     *                 lists begin the next one with. Not with SmartPunctuation.
      * @return the HTML, empty for an empty text. Null where the text is nested more than
      *         MRVInputLimits::MarkdownDepth levels deep, or is built so that its tables, links or
      *         unclosed tags take far more time or memory than its length would explain.
      */
     static QString toHtml(const QString &markdown, Options options = NoOptions,
-                          MRVMarkdownHead *head = nullptr);
+                          MRVMarkdownHead *head = nullptr, MRVSourcePlaces *places = nullptr);
 
     /**
      * The text with empty lines in the place of the metadata that it begins with, as toHtml() takes
