@@ -29,6 +29,7 @@ struct Options
     QString output;
     bool dryRun = false;
     bool rewrite = false;
+    bool skip = false;
     bool backup = true;
     bool json = false;
 };
@@ -82,6 +83,7 @@ bool readOptions(const Call &call, Options *options, QString *error)
     options->output = call.value("output");
     options->dryRun = call.has("dry-run");
     options->rewrite = call.has("rewrite");
+    options->skip = call.has("skip");
     options->backup = !call.has("no-backup");
     options->json = call.json();
     if (!readSearchOptions(call, &options->query, error)) {
@@ -171,6 +173,7 @@ struct Changed
     QByteArray before;
     QByteArray after;
     int count = 0;
+    QVector<MRVSourceMisfit> misfits;
     QString backup;
 };
 
@@ -185,6 +188,20 @@ bool write(const Options &options, Changed *changed, QString *error)
                                       options.backup ? &changed->backup : nullptr, error);
     }
     return MRVFileWriter::write(changed->target, changed->after, error);
+}
+
+void reportMisfits(const Options &options, const Changed &changed)
+{
+    for (const MRVSourceMisfit &misfit : changed.misfits) {
+        if (options.json) {
+            printJson({{QStringLiteral("path"), changed.path},
+                       {QStringLiteral("line"), misfit.line},
+                       {QStringLiteral("skipped"), misfit.change.before},
+                       {QStringLiteral("reason"), misfit.reason}});
+        } else {
+            printError(QStringLiteral("note: %1: %2").arg(changed.path, misfit.text()));
+        }
+    }
 }
 
 void report(const Options &options, const Changed &changed)
@@ -224,7 +241,7 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
         return false;
     }
     Changed changed{
-        path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}};
+        path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}, {}};
     if (options.dryRun) {
         showProgress(QString());
         printPreview(options, manuscript, changes);
@@ -233,10 +250,12 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     const auto mode = options.rewrite ? MRVSourceEdit::WriteAnew : MRVSourceEdit::KeepMarkup;
     QString reason;
     if ((!changes.isEmpty() || manuscript.isConverted())
-        && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason)) {
+        && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason,
+                                        options.skip ? &changed.misfits : nullptr)) {
         *error = QStringLiteral("%1: %2; nothing was changed").arg(path, reason);
         return false;
     }
+    changed.count -= changed.misfits.size();
     all->push_back(changed);
     return true;
 }
@@ -259,6 +278,7 @@ int run(const Call &call)
     int count = 0;
     for (auto changed = all.begin(); ok && changed != all.end(); ++changed) {
         count += changed->count;
+        reportMisfits(options, *changed);
         if (!options.dryRun) {
             ok = write(options, &*changed, &error);
             showProgress(QString());
@@ -289,9 +309,12 @@ constexpr Option options[] = {
                     "The number that \\# in NEW stands for at the first match in each file; 1 if "
                     "it is not given."),
     Option::flag("keep-text", "Leave the text as it is, and only set formats; NEW is left out."),
-    Option::flag("set-bold", "Make what takes the place of a match bold. Needs --rewrite."),
+    Option::flag("set-bold", "Make what takes the place of a match bold."),
     Option::name("set-highlight", "COLOUR",
-                 "Highlight what takes the place of a match. Needs --rewrite."),
+                 "Highlight what takes the place of a match."),
+    Option::flag("skip",
+                 "Leave out the changes that do not fit into the markup, and list them with the "
+                 "line of the file, instead of refusing all."),
     Option::flag("no-backup", "Do not keep FILE~."),
     Option::flag("json",
                  "Print as lines of JSON what was replaced in each file, or, with --dry-run, each "

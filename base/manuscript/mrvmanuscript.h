@@ -66,6 +66,8 @@ public:
     QString path;
     /** The file's name without its folder; empty for bytes that are in no file. */
     QString fileName;
+    /** Where it was read, as MRVHtmlDocument::read() takes it; empty where that is not known. */
+    QString location;
     Format format = Unknown;
     MRVMarkdown::Options options; ///< with which Markdown was read
     QByteArray encoding; ///< as QTextCodec calls it; empty where isConverted()

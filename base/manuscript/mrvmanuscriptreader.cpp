@@ -176,8 +176,9 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         }
         read->document = mrvNewDocument(page, MRVManuscript::Html, {}, {}, &report, &reason);
     } else {
-        const QString file = folder.isEmpty() ? QString() : folder + u'/' + read->fileName;
-        read->document = mrvNewDocument(text, read->format, read->options, file, &report, &reason);
+        read->location = folder.isEmpty() ? QString() : folder + u'/' + read->fileName;
+        read->document =
+            mrvNewDocument(text, read->format, read->options, read->location, &report, &reason);
     }
     if (!read->document) {
         return fail(NestingError, *read, reason);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/mrvtextreplacer.h"
+#include "manuscript/mrvsourcemisfit.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -30,8 +30,10 @@ public:
     /**
      * The bytes of a manuscript, in its format and encoding, after changes to its text.
      *
-     * The result is read once more, and refused where its text is not that of the document with
-     * these changes. The manuscript itself is not changed.
+     * The result is read once more, and its text is that of the document with these changes;
+     * paragraphs that they have emptied may be gone. A change that would make another text of it
+     * is a misfit, as is one that does not fit into the markup, such as a new paragraph in HTML, or
+     * that the encoding has no characters for. The manuscript itself is not changed.
      *
      * @param manuscript its document is as it was read.
      * @param changes    of MRVTextReplacer::preview() for that document, in document order; some
@@ -39,11 +41,13 @@ public:
      * @param bytes      receives the result; untouched on failure.
      * @param error      if given, receives a translated reason on failure, which does not name the
      *                   file; untouched on success.
-     * @return false when a change does not fit into the markup, as a new paragraph in HTML, or into
-     *         the encoding, when the changes overlap or belong to another text, when one sets a
-     *         format and is not to be written to HTML by WriteAnew, and where
+     * @param misfits    if given, receives the changes that are left out since they do not fit, in
+     *                   document order; else one of them is a failure.
+     * @return false when a change does not fit, when the changes overlap or belong to another text,
+     *         when the bytes are not what their encoding would write, and where
      *         MRVManuscript::isConverted().
      */
     static bool changedBytes(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes,
-                             Mode mode, QByteArray *bytes, QString *error = nullptr);
+                             Mode mode, QByteArray *bytes, QString *error = nullptr,
+                             QVector<MRVSourceMisfit> *misfits = nullptr);
 };

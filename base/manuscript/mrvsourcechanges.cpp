@@ -1,0 +1,450 @@
+#include "manuscript/mrvsourcechanges_p.h"
+
+#include "manuscript/mrvmanuscript.h"
+#include "manuscript/mrvmanuscriptdocument_p.h"
+#include "manuscript/mrvsourceplaces_p.h"
+#include "util/mrvmarkupcharacters.h"
+
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace {
+
+// How often a source is read to find out which changes are not read back. What is not known then
+// is left out.
+constexpr int MostTrials = 200;
+
+/** A text by its paragraphs. */
+struct Paragraphs
+{
+    QStringList texts;
+    QVector<int> blocks; // their numbers
+
+    void append(const QString &text, int block)
+    {
+        texts.append(text);
+        blocks.append(block);
+    }
+};
+
+// The end of a paragraph, or the beginning or end of a cell or frame.
+bool isEndOfParagraph(QChar character)
+{
+    return mrvIsStructure(character) && character != QChar::LineSeparator
+        && character != QChar::ObjectReplacementCharacter;
+}
+
+// A paragraph as markup can say it: several blanks count as one, and those at a line end do not.
+QString inMarkup(QStringView paragraph)
+{
+    QString result;
+    result.reserve(paragraph.size());
+    bool isBlank = false;
+    for (const QChar character : paragraph) {
+        if (mrvIsMarkupBlank(character)) {
+            isBlank = true;
+            continue;
+        }
+        if (isBlank && !result.isEmpty() && !mrvIsStructure(result.back())
+            && !mrvIsStructure(character)) {
+            result += u' ';
+        }
+        isBlank = false;
+        result += character;
+    }
+    while (result.endsWith(QChar::LineSeparator)) {
+        result.chop(1);
+    }
+    return result;
+}
+
+// In markup, empty paragraphs are nothing.
+Paragraphs paragraphsOf(const QString &text, bool isMarkup)
+{
+    Paragraphs paragraphs;
+    int begin = 0;
+    int block = 0;
+    for (int i = 0; i <= text.size(); ++i) {
+        const bool isEnd = i == text.size() || isEndOfParagraph(text.at(i));
+        if (!isEnd) {
+            continue;
+        }
+        const QStringView raw = QStringView(text).mid(begin, i - begin);
+        const QString paragraph = isMarkup ? inMarkup(raw) : raw.toString();
+        if (!isMarkup || !paragraph.isEmpty()) {
+            paragraphs.append(paragraph, block);
+        }
+        if (i < text.size() && text.at(i) != QChar::ParagraphSeparator) {
+            paragraphs.append(text.at(i), block);
+        }
+        begin = i + 1;
+        ++block;
+    }
+    return paragraphs;
+}
+
+// Where the bracket is that closes, or with a negative step opens, the one around a place; -1
+// where there is none in this paragraph.
+int bracketFrom(const QString &markdown, int at, int step)
+{
+    constexpr int Longest = 1000;
+    const QChar wanted(step > 0 ? u']' : u'[');
+    const QChar other(step > 0 ? u'[' : u']');
+    int depth = 0;
+    for (int i = at, last = at + step * Longest; i >= 0 && i < markdown.size() && i != last;
+         i += step) {
+        const QChar character = markdown.at(i);
+        const bool isEscaped = i > 0 && markdown.at(i - 1) == u'\\';
+        if (character == u'\n' && i + step >= 0 && i + step < markdown.size()
+            && markdown.at(i + step) == u'\n') {
+            return -1;
+        }
+        if (character == other && !isEscaped) {
+            ++depth;
+        } else if (character == wanted && !isEscaped && depth-- == 0) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+} // namespace
+
+void MRVSourceChanges::Change::fail()
+{
+    const bool isLast = way + 1 == ways.size();
+    way += isLast ? 0 : 1;
+    state = isLast ? State::LeftOut : State::Waiting;
+}
+
+MRVSourceChanges::MRVSourceChanges(const MRVManuscript &manuscript,
+                                   const QVector<MRVTextChange> &changes)
+    : m_manuscript(manuscript)
+    , m_source(manuscript.sourceText())
+    , m_text(manuscript.document->toRawText())
+    , m_writer(manuscript, m_source)
+{
+    for (const MRVTextChange &wanted : changes) {
+        Change one;
+        one.change = wanted;
+        QString &after = one.change.after;
+        if (after.contains(u'\n') || after.contains(u'\r')) {
+            after.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+            after.replace(u'\r', u'\n').replace(u'\n', QChar::ParagraphSeparator);
+        }
+        one.block = manuscript.document->findBlock(wanted.range.start()).blockNumber();
+        m_changes.append(one);
+    }
+}
+
+bool MRVSourceChanges::isValid() const
+{
+    int done = 0;
+    return std::all_of(m_changes.cbegin(), m_changes.cend(), [&](const Change &one) {
+        const int start = one.change.range.start();
+        const int end = one.change.range.end();
+        const bool fits = start >= done && m_text.midRef(start, end - start) == one.change.before;
+        done = end;
+        return fits;
+    });
+}
+
+// Where text can be inserted that replaces nothing: beside the text that it gets its format from.
+MRVSourcePlace MRVSourceChanges::insertionPlace(int position, bool prefersBefore) const
+{
+    const MRVSourcePlace before = m_places.value(position - 1);
+    const MRVSourcePlace after = m_places.value(position);
+    if (before.isKnown() && (prefersBefore || !after.isKnown())) {
+        return {before.end(), 0, before.syntax};
+    }
+    return m_places.isEmpty() ? MRVSourcePlace{0, 0, MRVSourcePlace::Plain}
+                              : MRVSourcePlace{after.start, 0, after.syntax};
+}
+
+// The edits of a change, without the syntax of the source. As in the document, a text of the same
+// length is replaced character by character; any other takes the place of the first character that
+// is replaced.
+MRVSourceChanges::Edits MRVSourceChanges::editsOf(const MRVTextChange &change) const
+{
+    const QString &before = change.before;
+    const QString &after = change.after;
+    const bool keepsEnds = change.format.isEmpty(); // else these get the format, too
+    const int shorter = keepsEnds ? qMin(before.size(), after.size()) : 0;
+    int head = 0;
+    while (head < shorter && before.at(head) == after.at(head)) {
+        ++head;
+    }
+    int tail = 0;
+    while (tail < shorter - head
+           && before.at(before.size() - 1 - tail) == after.at(after.size() - 1 - tail)) {
+        ++tail;
+    }
+    const int start = change.range.start() + head;
+    const int end = change.range.end() - tail;
+    const QString text = after.mid(head, after.size() - head - tail);
+    if (start == end) {
+        return {{insertionPlace(start, head > 0), text}};
+    }
+    const bool isSingle = before.size() == after.size();
+    Edits edits;
+    for (int position = start; position < end; ++position) {
+        const int i = position - start;
+        const QString part = isSingle ? text.mid(i, 1) : i == 0 ? text : QString();
+        if (isSingle && keepsEnds && part.at(0) == before.at(head + i)) {
+            continue;
+        }
+        const MRVSourcePlace place = m_places.value(position);
+        if (!edits.isEmpty() && edits.constLast().place.end() == place.start
+            && edits.constLast().place.syntax == place.syntax) {
+            edits.last().place.length += place.length;
+            edits.last().text += part;
+        } else {
+            edits.append({place, part});
+        }
+    }
+    return edits;
+}
+
+// A link of Markdown that has its text for its label keeps the label when the text changes. Empty
+// where the edits are not in such a link.
+MRVSourceChanges::Edits MRVSourceChanges::withLinkLabel(const Edits &edits) const
+{
+    if (edits.isEmpty() || edits.constFirst().place.syntax == MRVSourcePlace::Page) {
+        return {};
+    }
+    const int at = edits.constFirst().place.start;
+    const int open = bracketFrom(m_source, at - 1, -1);
+    const int close = open < 0 ? -1 : bracketFrom(m_source, edits.constLast().place.end(), 1);
+    const QStringView rest = close < 0 ? QStringView() : QStringView(m_source).mid(close + 1);
+    if (close < 0 || rest.startsWith(u'(') || (rest.startsWith(u'[') && !rest.startsWith(u"[]"))) {
+        return {};
+    }
+    const QString label = m_source.mid(open + 1, close - open - 1);
+    const bool hasBrackets = rest.startsWith(u"[]");
+    Edits labelled = edits;
+    labelled.append({{close + (hasBrackets ? 2 : 1), 0, MRVSourcePlace::Plain},
+                     hasBrackets ? label : u'[' + label + u']'});
+    return labelled;
+}
+
+void MRVSourceChanges::findWays(Change *change) const
+{
+    const auto leaveOut = [change](const QString &reason) {
+        change->state = State::LeftOut;
+        change->misfit = reason;
+    };
+    const bool isMarkdown = m_manuscript.format == MRVManuscript::Markdown;
+    Edits edits = editsOf(change->change);
+    Edits others; // with elements in place of Markdown
+    // A new paragraph would need markup of its own.
+    const bool splits = m_manuscript.format != MRVManuscript::PlainText
+        && change->change.after.contains(QChar::ParagraphSeparator);
+    for (Edit &edit : edits) {
+        if (splits || !edit.place.isKnown()) {
+            return leaveOut(MRVSourceMisfit::tr("it does not fit into the markup"));
+        }
+        if (!m_writer.write(edit.text, edit.place, &edit.text)) {
+            return leaveOut(MRVSourceMisfit::tr("the encoding %1 does not have all its characters")
+                                .arg(QString::fromLatin1(m_manuscript.encoding)));
+        }
+        Edit other = edit;
+        const QTextCharFormat format =
+            edit.text.isEmpty() ? QTextCharFormat() : change->change.format;
+        if (!MRVSourceWriter::mark(format, edit.place.syntax, false, &edit.text)
+            || !MRVSourceWriter::mark(format, edit.place.syntax, true, &other.text)) {
+            return leaveOut(MRVSourceMisfit::tr("there it cannot have this format"));
+        }
+        others.append(other);
+    }
+    change->misfit = MRVSourceMisfit::tr("the new text would not be read back as it is");
+    change->ways = {edits};
+    if (isMarkdown && !change->change.format.isEmpty()) {
+        change->ways.append(others);
+    }
+    const Edits labelled = isMarkdown ? withLinkLabel(edits) : Edits();
+    if (!labelled.isEmpty()) {
+        change->ways.append(labelled);
+    }
+}
+
+bool MRVSourceChanges::settle()
+{
+    m_places = mrvSourcePlaces(m_manuscript, m_source);
+    for (Change &change : m_changes) {
+        findWays(&change);
+    }
+    int trials = 0;
+    // Without the changes in paragraphs that would be read in another way, the rest is read back.
+    for (;; ++trials) {
+        const QSet<int> blocks = differingBlocks(edited());
+        if (blocks.isEmpty()) {
+            break;
+        }
+        if (trials == MostTrials || !suspendIn(blocks)) {
+            return false;
+        }
+    }
+    // Of these, one in each paragraph at a time.
+    for (; trials < MostTrials && putOnTrial(); ++trials) {
+        judge(differingBlocks(edited()));
+    }
+    for (Change &change : m_changes) {
+        change.state = change.state == State::Waiting ? State::LeftOut : change.state;
+    }
+    return true;
+}
+
+// Leaves out for now what is in some paragraphs, or the last change before them.
+bool MRVSourceChanges::suspendIn(const QSet<int> &blocks)
+{
+    const int first = *std::min_element(blocks.cbegin(), blocks.cend());
+    Change *before = nullptr;
+    bool isFound = false;
+    for (Change &change : m_changes) {
+        if (!change.isIn()) {
+            continue;
+        }
+        if (blocks.contains(change.block)) {
+            change.state = State::Waiting;
+            isFound = true;
+        } else if (!before || change.block < first) {
+            before = &change;
+        }
+    }
+    if (!isFound && before) {
+        before->state = State::Waiting;
+    }
+    return isFound || before;
+}
+
+bool MRVSourceChanges::putOnTrial()
+{
+    int last = -1;
+    bool isFound = false;
+    for (Change &change : m_changes) {
+        if (change.state == State::Waiting && change.block != last) {
+            change.state = State::OnTrial;
+            last = change.block;
+            isFound = true;
+        }
+    }
+    return isFound;
+}
+
+// Decides on the changes that are on trial, when some paragraphs are not read back.
+void MRVSourceChanges::judge(const QSet<int> &blocks)
+{
+    const bool isKnown =
+        std::any_of(m_changes.cbegin(), m_changes.cend(), [&](const Change &change) {
+            return change.state == State::OnTrial && blocks.contains(change.block);
+        });
+    for (Change &change : m_changes) {
+        if (change.state != State::OnTrial) {
+            continue;
+        }
+        if (blocks.isEmpty() || (isKnown && !blocks.contains(change.block))) {
+            change.state = State::Made;
+        } else {
+            change.fail();
+        }
+    }
+}
+
+QString MRVSourceChanges::edited() const
+{
+    Edits edits;
+    for (const Change &change : m_changes) {
+        if (change.isIn()) {
+            edits += change.ways.at(change.way);
+        }
+    }
+    std::stable_sort(edits.begin(), edits.end(), [](const Edit &left, const Edit &right) {
+        return left.place.start < right.place.start;
+    });
+    QString result;
+    result.reserve(m_source.size());
+    int done = 0;
+    for (const Edit &edit : qAsConst(edits)) {
+        result += m_source.midRef(done, qMax(0, edit.place.start - done));
+        result += edit.text;
+        done = qMax(done, edit.place.end());
+    }
+    return result + m_source.midRef(done);
+}
+
+QString MRVSourceChanges::writtenAnew() const
+{
+    QVector<MRVTextChange> changes;
+    for (const Change &one : m_changes) {
+        changes.append(one.change);
+    }
+    const auto document = read(m_source);
+    MRVTextReplacer::apply(document.get(), changes);
+    switch (m_manuscript.format) {
+    case MRVManuscript::Html:
+        return document->toHtml(m_manuscript.encoding);
+    case MRVManuscript::Markdown:
+        return document->toMarkdown();
+    default:
+        return document->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    }
+}
+
+QVector<MRVSourceMisfit> MRVSourceChanges::misfits() const
+{
+    QVector<MRVSourceMisfit> misfits;
+    int line = 1;
+    int done = 0;
+    for (const Change &one : m_changes) {
+        if (one.isIn()) {
+            continue;
+        }
+        int position = one.change.range.start();
+        while (position > 0 && !m_places.value(position).isKnown()) {
+            --position;
+        }
+        const int start = qMax(done, m_places.value(position).start);
+        line += m_source.midRef(done, start - done).count(u'\n');
+        done = start;
+        misfits.append({one.change, m_places.isEmpty() ? 0 : line, one.misfit});
+    }
+    return misfits;
+}
+
+std::unique_ptr<QTextDocument> MRVSourceChanges::read(const QString &source) const
+{
+    return mrvNewDocument(source, m_manuscript.format, m_manuscript.options, m_manuscript.location);
+}
+
+// The paragraphs in which the text of a source is not that of the document with the changes. Only
+// the first one where their number differs.
+QSet<int> MRVSourceChanges::differingBlocks(const QString &source) const
+{
+    QString wanted;
+    wanted.reserve(m_text.size());
+    int done = 0;
+    for (const Change &one : m_changes) {
+        if (one.isIn()) {
+            wanted += m_text.midRef(done, one.change.range.start() - done);
+            wanted += one.change.after;
+            done = one.change.range.end();
+        }
+    }
+    wanted += m_text.midRef(done);
+    const bool isMarkup = m_manuscript.format != MRVManuscript::PlainText;
+    const auto document = read(source);
+    const Paragraphs left = paragraphsOf(wanted, isMarkup);
+    const Paragraphs right = paragraphsOf(document ? document->toRawText() : QString(), isMarkup);
+    const bool isSameCount = left.texts.size() == right.texts.size();
+    QSet<int> blocks;
+    for (int i = 0; i < left.texts.size() && (isSameCount || blocks.isEmpty()); ++i) {
+        if (right.texts.value(i) != left.texts.at(i) || i >= right.texts.size()) {
+            blocks.insert(left.blocks.at(i));
+        }
+    }
+    if (blocks.isEmpty() && !isSameCount) {
+        blocks.insert(left.blocks.isEmpty() ? 0 : left.blocks.constLast());
+    }
+    return blocks;
+}

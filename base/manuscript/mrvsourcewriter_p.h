@@ -1,0 +1,41 @@
+#pragma once
+
+#include "util/mrvsourceplace.h"
+
+#include <QString>
+#include <QTextCharFormat>
+
+class QTextCodec;
+struct MRVManuscript;
+
+/** Writes new text as the format and the encoding of a source need it. */
+class MRVSourceWriter
+{
+public:
+    MRVSourceWriter(const MRVManuscript &manuscript, const QString &source);
+
+    /**
+     * @p text as the source has it at @p place.
+     *
+     * @return false where the encoding has no way to write a character there.
+     */
+    bool write(const QString &text, const MRVSourcePlace &place, QString *written) const;
+    /**
+     * Puts the markup of a format around what write() has written.
+     *
+     * @param prefersElements in Markdown elements of HTML are always understood, asterisks only
+     *                        where they touch the words as they should.
+     * @return false where the syntax has no markup for a property of the format.
+     */
+    static bool mark(const QTextCharFormat &format, MRVSourcePlace::Syntax syntax,
+                     bool prefersElements, QString *written);
+
+private:
+    QString asPage(const QString &text) const;
+    QString asMarkdown(const QString &text, bool isAtLineStart) const;
+    bool isAtLineStart(int at) const;
+
+    const QString &m_source;
+    const QTextCodec *const m_codec;
+    const QString m_lineEnd;
+};
