@@ -181,7 +181,11 @@ private Q_SLOTS:
         MRVTextQuery query;
         query.syntax = MRVTextQuery::RegularExpression;
         query.text = cell("what");
-        const auto changes = MRVTextReplacer::preview(read.document.get(), query, cell("by"));
+        MRVTextReplacement replacement = cell("by");
+        if (mode == "bold") {
+            replacement.format.setFontWeight(QFont::Bold);
+        }
+        const auto changes = MRVTextReplacer::preview(read.document.get(), query, replacement);
         const QString before = read.document->toRawText();
         QByteArray bytes = "before";
         QString error;

@@ -4253,16 +4253,8 @@ Fehler: %2</translation>
         <translation>die Änderungen überschneiden sich oder gehören zu einem anderen Text</translation>
     </message>
     <message>
-        <source>the change in paragraph %1 does not fit into the markup there</source>
-        <translation>die Änderung in Absatz %1 passt nicht in das Markup an dieser Stelle</translation>
-    </message>
-    <message>
         <source>the new text would not be read back as it is</source>
         <translation>der neue Text würde anders zurückgelesen, als er ist</translation>
-    </message>
-    <message>
-        <source>the encoding %1 does not have all characters of the new text</source>
-        <translation>die Kodierung %1 hat nicht alle Zeichen des neuen Textes</translation>
     </message>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
@@ -4273,8 +4265,8 @@ Fehler: %2</translation>
         <translation>eine Datei einer Textverarbeitung wird gelesen, aber nicht geändert</translation>
     </message>
     <message>
-        <source>formats can be set only in HTML that is written as a whole</source>
-        <translation>Formate können nur in HTML gesetzt werden, das als Ganzes geschrieben wird</translation>
+        <source>others: %1</source>
+        <translation>weitere: %1</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4278,33 @@ Fehler: %2</translation>
     <message>
         <source>the backup cannot be made</source>
         <translation>die Sicherungskopie kann nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceMisfit</name>
+    <message>
+        <source>it does not fit into the markup</source>
+        <translation>sie passt nicht in die Auszeichnung</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all its characters</source>
+        <translation>die Kodierung %1 hat nicht alle ihre Zeichen</translation>
+    </message>
+    <message>
+        <source>there it cannot have this format</source>
+        <translation>dort kann sie dieses Format nicht haben</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>der neue Text würde anders zurückgelesen, als er ist</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot; cannot be replaced: %3</source>
+        <translation>Zeile %1: „%2“ kann nicht ersetzt werden: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: %2</source>
+        <translation>„%1“ kann nicht ersetzt werden: %2</translation>
     </message>
 </context>
 <context>

@@ -4253,16 +4253,8 @@ Error: %2</translation>
         <translation>los cambios se solapan o corresponden a otro texto</translation>
     </message>
     <message>
-        <source>the change in paragraph %1 does not fit into the markup there</source>
-        <translation>el cambio en el párrafo %1 no encaja en el marcado de ese lugar</translation>
-    </message>
-    <message>
         <source>the new text would not be read back as it is</source>
         <translation>el texto nuevo no se volvería a leer tal como es</translation>
-    </message>
-    <message>
-        <source>the encoding %1 does not have all characters of the new text</source>
-        <translation>la codificación %1 no tiene todos los caracteres del texto nuevo</translation>
     </message>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
@@ -4273,8 +4265,8 @@ Error: %2</translation>
         <translation>un archivo de un procesador de textos se lee, pero no se modifica</translation>
     </message>
     <message>
-        <source>formats can be set only in HTML that is written as a whole</source>
-        <translation>los formatos solo pueden definirse en HTML que se escribe completo</translation>
+        <source>others: %1</source>
+        <translation>otros: %1</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4278,33 @@ Error: %2</translation>
     <message>
         <source>the backup cannot be made</source>
         <translation>no se puede crear la copia de seguridad</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceMisfit</name>
+    <message>
+        <source>it does not fit into the markup</source>
+        <translation>no cabe en el marcado</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all its characters</source>
+        <translation>la codificación %1 no tiene todos sus caracteres</translation>
+    </message>
+    <message>
+        <source>there it cannot have this format</source>
+        <translation>allí no puede tener este formato</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>el texto nuevo no se volvería a leer tal como es</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot; cannot be replaced: %3</source>
+        <translation>línea %1: «%2» no se puede sustituir: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: %2</source>
+        <translation>«%1» no se puede sustituir: %2</translation>
     </message>
 </context>
 <context>

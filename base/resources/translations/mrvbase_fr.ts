@@ -4253,16 +4253,8 @@ Erreur&#xa0;: %2</translation>
         <translation>les modifications se chevauchent ou appartiennent à un autre texte</translation>
     </message>
     <message>
-        <source>the change in paragraph %1 does not fit into the markup there</source>
-        <translation>la modification du paragraphe %1 ne s’insère pas dans le balisage à cet endroit</translation>
-    </message>
-    <message>
         <source>the new text would not be read back as it is</source>
         <translation>le nouveau texte ne serait pas relu tel quel</translation>
-    </message>
-    <message>
-        <source>the encoding %1 does not have all characters of the new text</source>
-        <translation>l’encodage %1 ne contient pas tous les caractères du nouveau texte</translation>
     </message>
     <message>
         <source>the encoding %1 cannot be written back as it was</source>
@@ -4273,8 +4265,8 @@ Erreur&#xa0;: %2</translation>
         <translation>un fichier de traitement de texte est lu, mais n’est pas modifié</translation>
     </message>
     <message>
-        <source>formats can be set only in HTML that is written as a whole</source>
-        <translation>les formats ne peuvent être définis que dans du HTML écrit en entier</translation>
+        <source>others: %1</source>
+        <translation>autres&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -4286,6 +4278,33 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>the backup cannot be made</source>
         <translation>la copie de sauvegarde ne peut pas être créée</translation>
+    </message>
+</context>
+<context>
+    <name>MRVSourceMisfit</name>
+    <message>
+        <source>it does not fit into the markup</source>
+        <translation>elle ne s’intègre pas au balisage</translation>
+    </message>
+    <message>
+        <source>the encoding %1 does not have all its characters</source>
+        <translation>l’encodage %1 n’a pas tous ses caractères</translation>
+    </message>
+    <message>
+        <source>there it cannot have this format</source>
+        <translation>elle ne peut pas avoir ce format à cet endroit</translation>
+    </message>
+    <message>
+        <source>the new text would not be read back as it is</source>
+        <translation>le nouveau texte ne serait pas relu tel quel</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot; cannot be replaced: %3</source>
+        <translation>ligne %1&#xa0;: «&#xa0;%2&#xa0;» ne peut pas être remplacé : %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: %2</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être remplacé&#xa0;: %2</translation>
     </message>
 </context>
 <context>
