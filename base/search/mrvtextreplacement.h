@@ -16,8 +16,8 @@
  *   it took no part. Of two digits the second counts as text where there are fewer groups. ${name}:
  *   the group of that name or number.
  * - \\n: a paragraph end. \\t: a tab. \\\\ and $$: a backslash, a dollar.
- * - \\U and \\L: what follows in capitals or in small letters, up to \\E or the end. \\u and \\l: the
- *   same for the next letter alone, also before \\L and \\U: "\\u\\L$0".
+ * - \\U and \\L: what follows in capitals or in small letters, up to \\E or the end. \\u and \\l:
+ *   the same for the next letter alone, also before \\L and \\U: "\\u\\L$0".
  * - \\#: the number of the find, in the order of the document.
  *
  * All else stands as it is, a group that the expression does not have included. Groups give the
@@ -29,7 +29,7 @@ struct MRVBASE_EXPORT MRVTextReplacement
 {
     /** Removes finds. */
     MRVTextReplacement() = default;
-    /** Puts a text in the place of finds. What converts to a text can be passed as a replacement. */
+    /** Puts a text in the place of finds; whatever converts to a text can be passed for it. */
     template<typename Text, typename = std::enable_if_t<std::is_convertible_v<Text, QString>>>
     MRVTextReplacement(const Text &replacement)
         : text(replacement)

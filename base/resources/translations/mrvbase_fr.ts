@@ -4300,7 +4300,7 @@ Erreur&#xa0;: %2</translation>
     </message>
     <message>
         <source>line %1: &quot;%2&quot; cannot be replaced: %3</source>
-        <translation>ligne %1&#xa0;: «&#xa0;%2&#xa0;» ne peut pas être remplacé : %3</translation>
+        <translation>ligne %1&#xa0;: «&#xa0;%2&#xa0;» ne peut pas être remplacé&#xa0;: %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be replaced: %2</source>
