@@ -33,8 +33,8 @@ constexpr Option bookOptions[] = {
     Option::choice("notes", "PLACE", "chapter book",
                    "Where notes stand: after each chapter (default) or at the end of the book."),
     Option::flag("comments-as-notes",
-                 "Make notes of annotations within the text and of comments in the margin (of DOCX "
-                 "and ODT)."),
+                 "Make notes of annotations within the text and of comments in the margin (of "
+                 "DOCX, ODT and RTF)."),
     Option::integer("toc-depth", "N", 1, 6, "Levels of headings in the contents. Default: all."),
     Option::choice("epub-version", "N", "2 3", "3 (default) or 2."),
     Option::name("date", "TIME",
