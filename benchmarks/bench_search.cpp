@@ -1,11 +1,13 @@
 #include "manuscript/mrvmanuscriptreader.h"
 #include "manuscript/mrvsourceedit.h"
 #include "novel.h"
+#include "search/mrvfindsession.h"
 #include "search/mrvtextfinder.h"
 #include "search/mrvtextreplacer.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QElapsedTimer>
 #include <QRegExp>
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -297,6 +299,29 @@ void replaceInSource(benchmark::State &state)
         [&] { changes(); });
 }
 
+/// The longest time that a find bar takes at once while somebody types into it, beside all of it.
+void typeInFindBar(benchmark::State &state)
+{
+    QTextDocument *document = novelOf(int(state.range(0)));
+    const QString text = QStringLiteral("letter, window");
+    qint64 longest = 0;
+    for (auto _ : state) {
+        for (int length = 1; length <= text.size(); ++length) {
+            QElapsedTimer clock;
+            clock.start();
+            MRVFindSession session(document);
+            MRVTextQuery query;
+            query.text = text.left(length);
+            session.setQuery(query, QTextCursor());
+            for (bool isComplete = false; !isComplete; clock.start()) {
+                isComplete = session.advance(8);
+                longest = qMax(longest, clock.nsecsElapsed());
+            }
+        }
+    }
+    state.counters["longest_ms"] = double(longest) / 1e6;
+}
+
 const std::vector<int64_t> sizes{10000, 100000, 1000000};
 
 } // namespace
@@ -312,5 +337,6 @@ MRV_SEARCH_BENCHMARK(findAllInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(loopInHugeParagraph)->Arg(1000)->Arg(10000);
 MRV_SEARCH_BENCHMARK(collectRuns)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(loopOfFragmentFinds)->ArgsProduct({sizes});
+MRV_SEARCH_BENCHMARK(typeInFindBar)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(replaceInSource)->ArgsProduct({sizes});
 MRV_SEARCH_BENCHMARK(replaceAll)->ArgsProduct({sizes, {0}})->Args({100000, 1});

@@ -1,8 +1,11 @@
 #include "datarows.h"
 #include "documentdump.h"
+#include "search/mrvfindsession.h"
 #include "search/mrvtextreplacer.h"
 
+#include <QRandomGenerator>
 #include <QTextDocument>
+#include <QTextTable>
 
 using Finder = MRVTextFinder;
 using Replacer = MRVTextReplacer;
@@ -263,7 +266,7 @@ private Q_SLOTS:
     {
         QTextDocument document("x\n" + QString("a").repeated(600000));
         MRVTextQuery query = queryFor("x|(?=(a+))\\1b", "r");
-        query.timeLimit = 50;
+        query.timeLimit = 300;
         MRVSearchOutcome outcome;
         QCOMPARE(Replacer::count(&document, query, &outcome), 1);
         QCOMPARE(outcome.reason, MRVSearchOutcome::TimedOut);
@@ -272,6 +275,62 @@ private Q_SLOTS:
         query.isCancelled = [asked = 0]() mutable { return ++asked == 3; };
         QVERIFY(Replacer::preview(&document, query, "y", &outcome).isEmpty());
         QCOMPARE(outcome.reason, MRVSearchOutcome::Cancelled);
+    }
+
+    // What a find bar knows after edits must be what a search of the document finds.
+    void followsEdits()
+    {
+        QRandomGenerator random(7);
+        for (int round = 0; round < 60; ++round) {
+            QTextDocument document(QString("ab a\nb\naab\n").repeated(4));
+            if (round % 2) {
+                document.documentLayout(); // without it Qt does not tell what has changed
+            }
+            MRVFindSession session(&document);
+            const MRVTextQuery query =
+                queryFor(round % 3 ? "ab?" : "a\\n?b|^$", round % 3 ? "r" : "rx");
+            session.setQuery(query, selected(&document, 9, 9));
+            for (int edit = 0; edit < 20; ++edit) {
+                if (random.bounded(2)) {
+                    session.advance(0);
+                }
+                const int at = random.bounded(document.characterCount());
+                const int to = random.bounded(at, qMin(at + 4, document.characterCount()));
+                selected(&document, at, to)
+                    .insertText(QStringList{"", "a", "b\n", "\n\nab"}[random.bounded(4)]);
+                if (random.bounded(5) == 0) {
+                    document.undo();
+                }
+            }
+            while (!session.advance(0)) { }
+            QCOMPARE(session.finds(), Replacer::findAll(&document, query));
+        }
+    }
+
+    void nextAndPrevious()
+    {
+        QTextDocument document("aXa\n" + QString("b").repeated(20000) + "\naa");
+        MRVFindSession session(&document);
+        session.setQuery(queryFor("a", "p"), selected(&document, 5, 5));
+        QCOMPARE(session.count(), 0);
+        QVERIFY(session.next(selected(&document, 5, 5)).isNull());
+        session.advance(0); // the long paragraph alone
+        QVERIFY(session.next(selected(&document, 5, 5)).isNull());
+        while (!session.advance(0)) { }
+        QCOMPARE(session.count(), 4);
+        QStringList places;
+        QTextCursor c = selected(&document, 5, 5);
+        bool wrapped = false;
+        for (int i = 0; i < 5; ++i) {
+            c = session.next(c, &wrapped);
+            places << QString::number(session.numberOf(c)) + (wrapped ? "!" : "");
+        }
+        QCOMPARE(places.join(' '), QString("3 4 1! 2 3"));
+        c = session.previous(selected(&document, 1, 2), &wrapped);
+        QCOMPARE(session.numberOf(c), 1);
+        QCOMPARE(session.numberOf(session.previous(c, &wrapped)), 4);
+        QVERIFY(wrapped);
+        QCOMPARE(session.numberOf(selected(&document, 0, 2)), 0);
     }
 
     void refusals()

@@ -122,6 +122,7 @@ public:
     Reason reason = Complete;
     int paragraph = -1; ///< its number from 0, as QTextBlock::blockNumber(); -1 where complete
 
+    /** Whether the search looked at everything. */
     bool isComplete() const { return reason == Complete; }
     /** A translated sentence without a full stop, counting paragraphs from 1; empty if complete. */
     QString text() const;

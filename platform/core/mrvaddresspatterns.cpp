@@ -8,9 +8,9 @@
 //
 // Letters, digits and the marks that belong to them are those of Unicode, as addresses have them
 // (RFC 3987, 2.2). Punctuation beyond ASCII is not, or the quotation marks, dashes and full stops
-// that surround an address in typeset text would be part of it. "\w" stands for all three in QRegExp,
-// and for letters and digits in QRegularExpression. There "\pM" adds the marks; QRegExp takes that
-// for two letters, which it knows anyway, but fails at it in a look-ahead.
+// that surround an address in typeset text would be part of it. "\w" stands for all three in
+// QRegExp, and for letters and digits in QRegularExpression. There "\pM" adds the marks; QRegExp
+// takes that for two letters, which it knows anyway, but fails at it in a look-ahead.
 
 namespace {
 
@@ -20,9 +20,10 @@ QString hostLabel()
     return QStringLiteral("\\w(?:[\\w\\pM-]{0,61}[\\w\\pM])?");
 }
 
-// Labels before the registered ones, each with its full stop. No name in use has fifty; a name of 253 characters could have 127 (RFC 1035, 2.3.4), but compiled, a
-// repetition is so many copies, and a caller may join the three patterns and ignore the case, where
-// QRegularExpression takes 64 KiB at most.
+// Labels before the registered ones, each with its full stop. No name in use has fifty; a name of
+// 253 characters could have 127 (RFC 1035, 2.3.4), but compiled, a repetition is so many copies,
+// and a caller may join the three patterns and ignore the case, where QRegularExpression takes 64
+// KiB at most.
 QString subdomains()
 {
     return QStringLiteral("(?:[\\w\\pM-]{1,63}\\.){0,48}");
@@ -39,8 +40,8 @@ QString domainName()
 
 // A port, then a path, query or fragment, with up to 16 bracketed parts. Punctuation belongs to it
 // only when something follows that may stand at the end, a bracketed part included. So do the
-// apostrophe of typeset text, the middle dots of Catalan and Japanese, and the joiners of Persian and
-// the languages of India.
+// apostrophe of typeset text, the middle dots of Catalan and Japanese, and the joiners of Persian
+// and the languages of India.
 QString portAndPath()
 {
     const QString sign = QStringLiteral("\\w/~%&=+$@#*");

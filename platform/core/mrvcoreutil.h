@@ -99,8 +99,9 @@ public:
      *
      * The three patterns find the same with QRegExp and with QRegularExpression, which needs
      * UseUnicodePropertiesOption to know letters beyond ASCII. Those of all scripts belong to an
-     * address, with their accents and vowel signs, up to U+FFFF for QRegExp. They match in any case whatever the case sensitivity set, have neither anchors nor capturing groups, and take
-     * time linear in the text. A host's name has 50 labels at most; all but the last may hold
+     * address, with their accents and vowel signs, up to U+FFFF for QRegExp. They match in any case
+     * whatever the case sensitivity set, have neither anchors nor capturing groups, and take time
+     * linear in the text. A host's name has 50 labels at most; all but the last may hold
      * underscores. Punctuation that ends a sentence, quotation marks and an unpaired closing
      * bracket are not part of the match, while a path may hold bracketed parts.
      */
