@@ -256,6 +256,11 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
         return false;
     }
     changed.count -= changed.misfits.size();
+    if (options.rewrite && changed.count > 0 && manuscript.format != MRVManuscript::PlainText) {
+        printError(QStringLiteral("note: %1 is written as a whole: style sheets, comments and "
+                                  "what rich text does not hold are lost")
+                       .arg(path));
+    }
     all->push_back(changed);
     return true;
 }
@@ -310,8 +315,7 @@ constexpr Option options[] = {
                     "it is not given."),
     Option::flag("keep-text", "Leave the text as it is, and only set formats; NEW is left out."),
     Option::flag("set-bold", "Make what takes the place of a match bold."),
-    Option::name("set-highlight", "COLOUR",
-                 "Highlight what takes the place of a match."),
+    Option::name("set-highlight", "COLOUR", "Highlight what takes the place of a match."),
     Option::flag("skip",
                  "Leave out the changes that do not fit into the markup, and list them with the "
                  "line of the file, instead of refusing all."),

@@ -203,6 +203,8 @@ private Q_SLOTS:
             QCOMPARE(QString::fromUtf8(bytes), expected);
         } else {
             QCOMPARE(manuscript(name, bytes).document->toPlainText(), expected);
+            QCOMPARE(bytes.count('\n'), bytes.count("\r\n"));
+            QVERIFY2(!bytes.contains("font-family"), bytes);
         }
     }
 

@@ -6,10 +6,14 @@
 
 std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
                                               MRVMarkdown::Options options, const QString &file,
-                                              MRVSourceReport *report, QString *error)
+                                              MRVSourceReport *report, QString *error,
+                                              const QFont &font)
 {
     auto document = std::make_unique<MRVGuardedDocument>();
     document->setUndoRedoEnabled(false);
+    if (font != QFont()) {
+        document->setDefaultFont(font);
+    }
     if (format == MRVManuscript::PlainText) {
         document->setPlainText(text);
         return document;

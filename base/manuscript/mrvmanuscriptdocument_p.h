@@ -4,6 +4,7 @@
 #include "manuscript/mrvmanuscript.h"
 #include "markdown/mrvmarkdown.h"
 
+#include <QFont>
 #include <QTextDocument>
 
 #include <memory>
@@ -22,10 +23,12 @@ struct MRVSourceReport
  * @param file    as MRVHtmlDocument::read() takes it.
  * @param report  if given, receives what was found out.
  * @param error   if given, receives a translated text on failure.
+ * @param font    of a text that names none; its size counts for plain text only.
  * @return null for a text that is too complex to be read.
  */
 std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
                                               MRVMarkdown::Options options,
                                               const QString &file = QString(),
                                               MRVSourceReport *report = nullptr,
-                                              QString *error = nullptr);
+                                              QString *error = nullptr,
+                                              const QFont &font = QFont());

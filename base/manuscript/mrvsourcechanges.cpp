@@ -373,22 +373,32 @@ QString MRVSourceChanges::edited() const
     return result + m_source.midRef(done);
 }
 
-QString MRVSourceChanges::writtenAnew() const
+bool MRVSourceChanges::writeAnew(QString *text) const
 {
     QVector<MRVTextChange> changes;
     for (const Change &one : m_changes) {
         changes.append(one.change);
     }
-    const auto document = read(m_source);
+    // Qt writes the font of the document, which is that of this machine where the page has none.
+    const QString noFont = QStringLiteral("mrv-no-font");
+    const auto document = read(m_source, QFont(noFont));
     MRVTextReplacer::apply(document.get(), changes);
+    MRVSourcePlace::Syntax syntax = MRVSourcePlace::Plain;
     switch (m_manuscript.format) {
     case MRVManuscript::Html:
-        return document->toHtml(m_manuscript.encoding);
+        syntax = MRVSourcePlace::Page;
+        *text = document->toHtml(m_manuscript.encoding);
+        text->remove(QStringLiteral(" font-family:'%1';").arg(noFont));
+        break;
     case MRVManuscript::Markdown:
-        return document->toMarkdown();
+        syntax = MRVSourcePlace::Markdown;
+        *text = document->toMarkdown();
+        break;
     default:
-        return document->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+        *text = document->toRawText().replace(QChar::ParagraphSeparator, u'\n');
     }
+    text->replace(u'\n', m_writer.lineEnd());
+    return m_writer.encode(syntax, text);
 }
 
 QVector<MRVSourceMisfit> MRVSourceChanges::misfits() const
@@ -412,9 +422,11 @@ QVector<MRVSourceMisfit> MRVSourceChanges::misfits() const
     return misfits;
 }
 
-std::unique_ptr<QTextDocument> MRVSourceChanges::read(const QString &source) const
+std::unique_ptr<QTextDocument> MRVSourceChanges::read(const QString &source,
+                                                      const QFont &font) const
 {
-    return mrvNewDocument(source, m_manuscript.format, m_manuscript.options, m_manuscript.location);
+    return mrvNewDocument(source, m_manuscript.format, m_manuscript.options, m_manuscript.location,
+                          nullptr, nullptr, font);
 }
 
 // The paragraphs in which the text of a source is not that of the document with the changes. Only

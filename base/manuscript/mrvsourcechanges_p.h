@@ -4,6 +4,7 @@
 #include "manuscript/mrvsourcewriter_p.h"
 #include "util/mrvsourceplace.h"
 
+#include <QFont>
 #include <QSet>
 #include <QStringList>
 #include <QTextDocument>
@@ -37,8 +38,12 @@ public:
     /** Those that are left out. */
     QVector<MRVSourceMisfit> misfits() const;
 
-    /** The whole document with all changes, written by Qt. */
-    QString writtenAnew() const;
+    /**
+     * The whole document with all changes, written by Qt with the line ends of the source.
+     *
+     * @return false where the encoding lacks a character.
+     */
+    bool writeAnew(QString *text) const;
     /** Whether a source has the text of the document with the changes that are not left out. */
     bool isReadBack(const QString &source) const { return differingBlocks(source).isEmpty(); }
 
@@ -74,7 +79,7 @@ private:
     bool putOnTrial();
     void judge(const QSet<int> &blocks);
     QSet<int> differingBlocks(const QString &source) const;
-    std::unique_ptr<QTextDocument> read(const QString &source) const;
+    std::unique_ptr<QTextDocument> read(const QString &source, const QFont &font = QFont()) const;
 
     const MRVManuscript &m_manuscript;
     const QString m_source;

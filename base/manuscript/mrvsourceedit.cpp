@@ -55,7 +55,11 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
     QString text;
     bool isReadBack = false;
     if (mode == WriteAnew) {
-        text = changes.writtenAnew();
+        if (!changes.writeAnew(&text)) {
+            return MRV::fail(error,
+                             tr("the encoding %1 does not have all characters of the new text")
+                                 .arg(QString::fromLatin1(manuscript.encoding)));
+        }
         isReadBack = changes.isReadBack(text);
     } else {
         isReadBack = changes.settle();

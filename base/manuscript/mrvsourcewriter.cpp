@@ -63,18 +63,23 @@ bool MRVSourceWriter::write(const QString &text, const MRVSourcePlace &place,
     } else {
         result = asMarkdown(text, isAtLineStart(place.start));
     }
-    if (m_codec->canEncode(result)) {
-        *written = result;
+    *written = result;
+    return encode(place.syntax, written);
+}
+
+bool MRVSourceWriter::encode(MRVSourcePlace::Syntax syntax, QString *text) const
+{
+    if (m_codec->canEncode(*text)) {
         return true;
     }
-    if (isPlain) {
+    if (syntax == MRVSourcePlace::Plain) {
         return false;
     }
-    written->clear();
-    const QVector<uint> characters = result.toUcs4();
+    const QVector<uint> characters = text->toUcs4();
+    text->clear();
     for (const uint character : characters) {
         const QString one = QString::fromUcs4(&character, 1);
-        *written += m_codec->canEncode(one) ? one : QStringLiteral("&#%1;").arg(character);
+        *text += m_codec->canEncode(one) ? one : QStringLiteral("&#%1;").arg(character);
     }
     return true;
 }

@@ -30,6 +30,15 @@ public:
     static bool mark(const QTextCharFormat &format, MRVSourcePlace::Syntax syntax,
                      bool prefersElements, QString *written);
 
+    /** That of the source. */
+    const QString &lineEnd() const { return m_lineEnd; }
+    /**
+     * Puts references of HTML in the place of what the encoding lacks.
+     *
+     * @return false where it lacks something and @p syntax has no references.
+     */
+    bool encode(MRVSourcePlace::Syntax syntax, QString *text) const;
+
 private:
     QString asPage(const QString &text) const;
     QString asMarkdown(const QString &text, bool isAtLineStart) const;

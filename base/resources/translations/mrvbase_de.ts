@@ -4268,6 +4268,10 @@ Fehler: %2</translation>
         <source>others: %1</source>
         <translation>weitere: %1</translation>
     </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>die Kodierung %1 hat nicht alle Zeichen des neuen Textes</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

@@ -4268,6 +4268,10 @@ Error: %2</translation>
         <source>others: %1</source>
         <translation>otros: %1</translation>
     </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>la codificación %1 no tiene todos los caracteres del texto nuevo</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

@@ -4268,6 +4268,10 @@ Erreur&#xa0;: %2</translation>
         <source>others: %1</source>
         <translation>autres&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>the encoding %1 does not have all characters of the new text</source>
+        <translation>l’encodage %1 n’a pas tous les caractères du nouveau texte</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>
