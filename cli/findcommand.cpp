@@ -141,6 +141,9 @@ int run(const Call &call)
         }
         return !finds.isEmpty();
     };
+    if (!expandFolders(call, false, &inputs, &error)) {
+        return refuse(error);
+    }
     return lookThrough(call, inputs, QStringLiteral("Searching %1"), look);
 }
 
@@ -150,6 +153,7 @@ constexpr Option options[] = {
     Option::text("e text", "TEXT", "What to look for, instead of the first argument."),
     Option::integer("C context", "N", 0, std::numeric_limits<int>::max(),
                     "Show N paragraphs around each match, too."),
+    foldersOption(),
     Option::flag("c count", "Print only how many matches each input has."),
     Option::flag("o only-matching", "Print each match alone, without the text around it."),
     Option::flag("json", "Print each match, or with --count each input, as a line of JSON."),

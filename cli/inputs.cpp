@@ -4,6 +4,8 @@
 #include "util/mrvnames.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -143,6 +145,36 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
                                   "places: %2")
                        .arg(path, QString::number(dropped)));
     }
+    return true;
+}
+
+bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QString *error)
+{
+    QStringList expanded;
+    for (const QString &input : qAsConst(*inputs)) {
+        if (!call.has("recursive") || !QFileInfo(input).isDir()) {
+            expanded.append(input);
+            continue;
+        }
+        QStringList found;
+        QDirIterator files(input, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString file = files.next();
+            const MRVManuscript::Format format = MRVManuscript::formatOfFile(file);
+            const bool fits = !changeable || format < MRVManuscript::Docx;
+            // A file without a suffix may be anything.
+            if (format != MRVManuscript::Unknown && fits && !files.fileInfo().suffix().isEmpty()) {
+                found.append(file);
+            }
+        }
+        if (found.isEmpty()) {
+            *error = QStringLiteral("%1: the folder has no manuscripts").arg(input);
+            return false;
+        }
+        found.sort();
+        expanded += found;
+    }
+    *inputs = expanded;
     return true;
 }
 

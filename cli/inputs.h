@@ -81,6 +81,22 @@ InputOptions inputOptions(const Call &call);
 bool readManuscript(const QString &path, const InputOptions &options, MRVManuscript *manuscript,
                     QString *error);
 
+constexpr Option foldersOption(const char *verbs = nullptr)
+{
+    return Option::flag("r recursive",
+                        "Take folders for the manuscripts in them and in their folders: files with "
+                        "the suffix of a format. Hidden ones and links are left out.",
+                        verbs);
+}
+
+/**
+ * Puts the manuscripts in the place of folders where --recursive asks for it, by name. @return
+ * false, with a text, when a folder has none.
+ *
+ * @param changeable whether those that can be read but not changed are left out.
+ */
+bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QString *error);
+
 /**
  * Reads the inputs one after the other and hands each to @p look, which returns whether it found
  * something, and may set an error. An input that has one is reported, and the others are still

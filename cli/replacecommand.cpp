@@ -122,6 +122,22 @@ bool checkTargets(const Options &options, QString *error)
     return MRVOutputFiles::areDistinct(targets, error);
 }
 
+// What stands around changes, for one line: its middle, or the end that is away from them, is left
+// out where it is long.
+QString context(const QString &text, bool isStart, bool isEnd)
+{
+    constexpr int Kept = 40;
+    const int kept = (isStart ? 0 : Kept) + (isEnd ? 0 : Kept);
+    if (text.size() <= kept + 1) {
+        return displayed(text);
+    }
+    int head = isStart ? 0 : Kept;
+    int tail = text.size() - (isEnd ? 0 : Kept);
+    head -= head > 0 && text.at(head).isLowSurrogate() ? 1 : 0;
+    tail += tail < text.size() && text.at(tail).isLowSurrogate() ? 1 : 0;
+    return displayed(text.left(head)) + QChar(0x2026) + displayed(text.mid(tail));
+}
+
 // A paragraph before and after its changes, as two lines.
 void printChanges(const QString &path, const QTextDocument &document,
                   const QVector<MRVTextChange> &changes)
@@ -135,7 +151,7 @@ void printChanges(const QString &path, const QTextDocument &document,
         for (; i < changes.size() && block.contains(changes[i].range.start()); ++i) {
             const MRVTextChange &change = changes[i];
             const int start = change.range.start() - block.position();
-            const QString same = displayed(text.mid(done, start - done));
+            const QString same = context(text.mid(done, start - done), done == 0, false);
             before += same + styled(Style::Removed, displayed(change.before));
             after += same
                 + styled(Style::Added,
@@ -143,7 +159,7 @@ void printChanges(const QString &path, const QTextDocument &document,
                              QString(change.after).replace(QChar::ParagraphSeparator, u'\u00b6')));
             done = change.range.end() - block.position();
         }
-        const QString rest = displayed(text.mid(done));
+        const QString rest = context(text.mid(done), false, true);
         const QString place = path + u':' + QString::number(block.blockNumber() + 1) + u':';
         printLine(styled(Style::Path, place) + QLatin1String(" - ") + before + rest);
         printLine(styled(Style::Path, place) + QLatin1String(" + ") + after + rest);
@@ -276,7 +292,7 @@ int run(const Call &call)
         return WrongUsage;
     }
     std::vector<Changed> all;
-    bool ok = checkTargets(options, &error);
+    bool ok = expandFolders(call, true, &options.inputs, &error) && checkTargets(options, &error);
     for (int i = 0; ok && i < options.inputs.size(); ++i) {
         ok = prepare(options, options.inputs.at(i), &all, &error);
     }
@@ -302,6 +318,7 @@ constexpr Verb verbs[] = {{"", "TEXT [NEW] IN...", "", run}};
 
 constexpr Option options[] = {
     Option::flag("n dry-run", "Show what would change, and change nothing."),
+    foldersOption(),
     Option::name("o output", "FILE",
                  "Where to write: a file, or a folder that exists; - is standard output. It is "
                  "written even where nothing changes. The input stays as it is."),

@@ -48,6 +48,22 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(in("a.txt")), QByteArray("word"));
     }
 
+    void searchesFolders()
+    {
+        QVERIFY(QDir().mkpath("d/e/.hidden") && QDir().mkdir("none"));
+        for (const char *file :
+             {"d/z.txt", "d/e/b.md", "d/e/.hidden/c.md", "d/e/b.bin", "d/README", "d/e/b.md~"}) {
+            QVERIFY(writeBytes(in(file), "mill"));
+        }
+        QVERIFY(QFile::link(in("d/z.txt"), in("d/link.txt")));
+        QCOMPARE(mrv("find -r mill @d").output, QString("@d/e/b.md:1: mill\n@d/z.txt:1: mill\n"));
+        QCOMPARE(mrv("find mill @d").exitCode, 1);
+        QVERIFY(mrv("find -r mill @none").errors.contains("no manuscripts"));
+        QVERIFY(writeBytes(in("d/e/x.docx"), "no document"));
+        QCOMPARE(mrv("replace -r --no-backup mill ship @d").exitCode, 0);
+        QCOMPARE(bytesOf(in("d/e/b.md")) + bytesOf(in("d/e/.hidden/c.md")), QByteArray("shipmill"));
+    }
+
     void formats_data() { addCalls("mrv-formats.tsv"); }
     void formats() { compareRow(); }
 

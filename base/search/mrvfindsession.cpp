@@ -114,8 +114,8 @@ void MRVFindSession::searchPart(const MRVTextRange &part, QVector<MRVTextRange> 
     m_search->report(&m_outcome);
 }
 
-// The paragraphs that an edit has changed are searched again. Where more than their own text decides
-// about finds, all of the document is.
+// The paragraphs that an edit has changed are searched again. Where more than their own text
+// decides about finds, all of the document is.
 void MRVFindSession::followEdit(int position, int removed, int added)
 {
     m_isFollowed = true;
