@@ -1,11 +1,14 @@
 #include "inputs.h"
 #include "textsearch.h"
 
+#include "manuscript/mrvsourcelines.h"
+
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -59,7 +62,23 @@ QVector<FoundParagraph> foundParagraphs(const QTextDocument &document,
     return paragraphs;
 }
 
-void printParagraph(const QString &path, const QTextBlock &block, QChar mark,
+// What is printed of a manuscript, and where that stands.
+struct Searched
+{
+    QString path;
+    QTextDocument *document;
+    const MRVSourceLines *lines; // null where they are not asked for
+
+    // "PATH:PARAGRAPH:", with LINE: where it is asked for, each colon as the mark.
+    QString place(int position, QChar mark) const
+    {
+        const int paragraph = document->findBlock(position).blockNumber() + 1;
+        const QString line = lines ? QString::number(lines->lineAt(position)) + mark : QString();
+        return styled(Style::Path, path + mark + QString::number(paragraph) + mark + line) + u' ';
+    }
+};
+
+void printParagraph(const Searched &searched, const QTextBlock &block, QChar mark,
                     const QVector<MRVTextRange> &parts)
 {
     const QString text = displayed(block.text());
@@ -70,14 +89,14 @@ void printParagraph(const QString &path, const QTextBlock &block, QChar mark,
         marked += styled(Style::Match, text.mid(part.start(), part.end() - part.start()));
         done = part.end();
     }
-    printLine(styled(Style::Path, path + mark + QString::number(block.blockNumber() + 1) + mark)
-              + u' ' + marked + text.midRef(done));
+    printLine(searched.place(block.position(), mark) + marked + text.midRef(done));
 }
 
 // Paragraphs around finds are shown once, and stretches that do not join are separated by a line.
-void printParagraphs(const QString &path, const QTextDocument &document,
-                     const QVector<FoundParagraph> &paragraphs, int context)
+void printParagraphs(const Searched &searched, const QVector<FoundParagraph> &paragraphs,
+                     int context)
 {
+    const QTextDocument &document = *searched.document;
     static bool first = true;
     int next = 0; // the first paragraph that has not been shown
     for (int i = 0; i < paragraphs.size(); ++i) {
@@ -88,37 +107,40 @@ void printParagraphs(const QString &path, const QTextDocument &document,
         }
         first = false;
         for (int n = from; n < number; ++n) {
-            printParagraph(path, document.findBlockByNumber(n), u'-', {});
+            printParagraph(searched, document.findBlockByNumber(n), u'-', {});
         }
-        printParagraph(path, paragraphs[i].block, u':', paragraphs[i].parts);
+        printParagraph(searched, paragraphs[i].block, u':', paragraphs[i].parts);
         const int following = i + 1 < paragraphs.size() ? paragraphs[i + 1].block.blockNumber()
                                                         : document.blockCount();
         next = qMin(following, number + 1 + qMin(context, document.blockCount()));
         for (int n = number + 1; n < next; ++n) {
-            printParagraph(path, document.findBlockByNumber(n), u'-', {});
+            printParagraph(searched, document.findBlockByNumber(n), u'-', {});
         }
     }
 }
 
-void printFinds(const Call &call, const QString &path, QTextDocument *document,
-                const QVector<MRVTextRange> &finds)
+void printFinds(const Call &call, const Searched &searched, const QVector<MRVTextRange> &finds)
 {
+    const QString &path = searched.path;
     if (call.has("count") && call.json()) {
         printJson({{QStringLiteral("path"), path}, {QStringLiteral("count"), finds.size()}});
     } else if (call.has("count")) {
         printLine(styled(Style::Path, path + u':') + u' ' + QString::number(finds.size()));
     } else if (call.json()) {
         for (const MRVTextRange &find : finds) {
-            printJson(toJson(path, document, find));
+            QJsonObject object = toJson(path, searched.document, find);
+            if (searched.lines) {
+                object.insert(QStringLiteral("line"), searched.lines->lineAt(find.start()));
+            }
+            printJson(object);
         }
     } else if (call.has("only-matching")) {
         for (const MRVTextRange &find : finds) {
-            const int paragraph = document->findBlock(find.start()).blockNumber() + 1;
-            printLine(styled(Style::Path, path + u':' + QString::number(paragraph) + u':') + u' '
-                      + displayed(find.toTextCursor(document).selectedText()));
+            printLine(searched.place(find.start(), u':')
+                      + displayed(find.toTextCursor(searched.document).selectedText()));
         }
     } else {
-        printParagraphs(path, *document, foundParagraphs(*document, finds),
+        printParagraphs(searched, foundParagraphs(*searched.document, finds),
                         int(call.number("context", 0)));
     }
 }
@@ -134,8 +156,12 @@ int run(const Call &call)
     const auto look = [&](const MRVManuscript &manuscript, QString *reason) {
         MRVSearchOutcome outcome;
         const auto finds = MRVTextReplacer::findAll(manuscript.document.get(), query, &outcome);
+        std::unique_ptr<MRVSourceLines> lines;
+        if (call.has("line-number") && !finds.isEmpty()) {
+            lines = std::make_unique<MRVSourceLines>(manuscript);
+        }
         showProgress(QString());
-        printFinds(call, manuscript.path, manuscript.document.get(), finds);
+        printFinds(call, {manuscript.path, manuscript.document.get(), lines.get()}, finds);
         if (!outcome.isComplete()) {
             *reason = QStringLiteral("%1: %2").arg(manuscript.path, outcome.text());
         }
@@ -154,6 +180,8 @@ constexpr Option options[] = {
     Option::integer("C context", "N", 0, std::numeric_limits<int>::max(),
                     "Show N paragraphs around each match, too."),
     foldersOption(),
+    Option::flag("n line-number",
+                 "Print the line of the file after the paragraph; 0 where it has none."),
     Option::flag("c count", "Print only how many matches each input has."),
     Option::flag("o only-matching", "Print each match alone, without the text around it."),
     Option::flag("json", "Print each match, or with --count each input, as a line of JSON."),
