@@ -95,7 +95,10 @@ private:
                 return meant.size();
             }
         }
-        if (character == text.at(i)) {
+        // Not the "<" of a tag that means nothing there.
+        const bool isOther = character == u'<' && i + 1 < text.size()
+            && m_source.midRef(m_at + 1, 1) != text.midRef(i + 1, 1);
+        if (character == text.at(i) && !isOther) {
             place(i, 1);
             return 1;
         }

@@ -3,6 +3,7 @@
 #include "markdown/mrvmarkdowntree_p.h"
 
 #include <cctype>
+#include <cstring>
 #include <memory>
 
 namespace {
@@ -147,7 +148,7 @@ bool MRVMarkdownPlaces::search(int begin, int end, Text *text)
 {
     const int last = qMin(end, begin + LongestSearch);
     while (begin < last && !take(begin, text)) {
-        ++begin;
+        begin = pastMarkup(begin);
     }
     return begin < last;
 }
@@ -274,6 +275,24 @@ int MRVMarkdownPlaces::lineStart(int line) const
 int MRVMarkdownPlaces::lineEnd(int line) const
 {
     return line < m_lines.size() ? lineStart(line + 1) - 1 : m_markdown.size();
+}
+
+// The next place at which text may stand: after a tag or the address of a link.
+int MRVMarkdownPlaces::pastMarkup(int at) const
+{
+    const QByteArray two = m_markdown.mid(at, 2);
+    int name = at + 1;
+    while (name < m_markdown.size() && std::isalnum(uchar(m_markdown.at(name)))) {
+        ++name;
+    }
+    // An address in such brackets is text.
+    const bool isTag = two == "</" || two == "<!"
+        || (two.startsWith('<') && name > at + 1 && name < m_markdown.size()
+            && std::strchr(" \n/>", m_markdown.at(name)));
+    const int end = isTag ? m_markdown.indexOf('>', at)
+        : two == "]("     ? m_markdown.indexOf(')', at)
+                          : at;
+    return qMax(at, end) + 1;
 }
 
 // What stands before the text of a line in lists and quotations.

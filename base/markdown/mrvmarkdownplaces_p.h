@@ -50,6 +50,7 @@ private:
     int lineStart(int line) const;
     int lineEnd(int line) const;
     int pastPrefix(int at) const;
+    int pastMarkup(int at) const;
     int appendPlaces(const Text &text, QStringView html);
     MRVSourcePlace lineEndPlace() const;
 
