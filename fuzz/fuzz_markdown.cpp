@@ -1,4 +1,4 @@
-// Makes HTML of arbitrary Markdown, the same each time.
+// Makes HTML of arbitrary Markdown, the same each time, and with places in the Markdown as well.
 
 #include "markdown/mrvmarkdown.h"
 
@@ -12,10 +12,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     }
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
+    const MRVMarkdown::Options options(int(data[0] & 15));
     MRVMarkdownHead head;
-    const QString html = MRVMarkdown::toHtml(text, MRVMarkdown::Options(int(data[0] & 15)), &head);
-    if (html != MRVMarkdown::toHtml(text, MRVMarkdown::Options(int(data[0] & 15)))) {
+    MRVSourcePlaces places;
+    const QString html = MRVMarkdown::toHtml(text, options, &head);
+    if (html != MRVMarkdown::toHtml(text, options, nullptr, &places)
+        || places.size() != html.size()) {
         std::abort();
+    }
+    for (const MRVSourcePlace &place : places) {
+        if (place.isKnown() && (place.length < 0 || place.end() > text.size())) {
+            std::abort();
+        }
     }
     return 0;
 }

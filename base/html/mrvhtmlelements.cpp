@@ -375,16 +375,16 @@ int mrvNoteLinkOf(const GumboNode *element)
     {
         const char *word;
         MRVTextFormat::NoteLink link;
-    } rows[] = {{"noteref", MRVTextFormat::NoteMark},
-                {"doc-noteref", MRVTextFormat::NoteMark},
-                {"backlink", MRVTextFormat::NoteBackLink},
-                {"doc-backlink", MRVTextFormat::NoteBackLink}};
+    } links[] = {{"noteref", MRVTextFormat::NoteMark},
+                 {"doc-noteref", MRVTextFormat::NoteMark},
+                 {"backlink", MRVTextFormat::NoteBackLink},
+                 {"doc-backlink", MRVTextFormat::NoteBackLink}};
     const QString words =
         mrvAttributeOf(element, "epub:type") + u' ' + mrvAttributeOf(element, "role");
     const QStringList said = words.toLower().simplified().split(u' ');
-    for (const auto &row : rows) {
-        if (said.contains(QLatin1String(row.word))) {
-            return row.link;
+    for (const auto &one : links) {
+        if (said.contains(QLatin1String(one.word))) {
+            return one.link;
         }
     }
     return 0;
