@@ -323,6 +323,30 @@ private Q_SLOTS:
         QCOMPARE(MRVPictureReader(icon, "icns").error(), QString());
     }
 
+    // Qt would read such a picture of 16-bit colours past the end of its lines.
+    void makesOneColorTransparent()
+    {
+        const QByteArray red = QByteArray::fromHex("ff0000000001");
+        const QByteArray near = QByteArray::fromHex("ff0000000002");
+        const auto chunk = [](const char *type, const QByteArray &data) {
+            const QByteArray all = type + data;
+            return bigEndian(data.size()) + all
+                + bigEndian(crc32(0, reinterpret_cast<const Bytef *>(all.data()), all.size()));
+        };
+        const QByteArray line = '\0' + (red + near).repeated(40);
+        const QByteArray png = "\x89PNG\r\n\x1a\n"
+            + chunk("IHDR", bigEndian(80) + bigEndian(9) + QByteArray::fromHex("1002000000"))
+            + chunk("tRNS", red) + chunk("IDAT", qCompress(line.repeated(9)).mid(4))
+            + chunk("IEND", "");
+        const QImage image = MRVPictureReader(png).read();
+        QImage expected(80, 9, QImage::Format_RGBA64);
+        for (int i = 0; i < 80 * 9; ++i) {
+            const QRgba64 color = QRgba64::fromRgba64(0xff00, 0, 1 + i % 2, i % 2 ? 0xffff : 0);
+            expected.setPixelColor(i % 80, i / 80, QColor::fromRgba64(color));
+        }
+        QCOMPARE(image, expected);
+    }
+
     void refusesInExport_data()
     {
         QTest::addColumn<QByteArray>("bytes");

@@ -3,6 +3,7 @@
 #include "core/mrvcoreutil.h"
 #include "core/mrvinputlimits.h"
 #include "gui/mrvpictureclaims_p.h"
+#include "gui/mrvpngcolorkey_p.h"
 #include "gui/mrvpngfault_p.h"
 #include "gui/mrvsvgtext_p.h"
 
@@ -172,14 +173,18 @@ QImage MRVPictureReader::decoded(const QSize &size) const
     if (m_format == "png" && !mrvIsPngReadable(m_bytes, MRVPngPart::Whole)) {
         return QImage();
     }
-    QBuffer file;
-    file.setData(m_bytes);
+    QByteArray bytes = m_bytes;
+    MRVPngColorKey key;
+    if (m_format == "png") {
+        key = MRVPngColorKey::takenFrom(&bytes);
+    }
+    QBuffer file(&bytes);
     file.open(QIODevice::ReadOnly);
     QImageReader reader(&file, m_format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     reader.setScaledSize(size);
-    return reader.read();
+    return key.appliedTo(reader.read());
 }
 
 QImage MRVPictureReader::read(QString *error) const
