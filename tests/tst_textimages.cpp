@@ -258,6 +258,26 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(path("file")), QByteArray("in the way"));
     }
 
+    // However the document shows a photo, it is written as it is, and seen upright.
+    void photosOfShownDocument()
+    {
+        const QByteArray photo = turnedPhoto();
+        QVERIFY(writeBytes(path("a.jpg"), photo));
+        const QString url = QUrl::fromLocalFile(path("a.jpg")).toString();
+        const QString linked = "id;;;;" + path("a.jpg");
+        for (const QString &image : {url, linked}) {
+            Document document(image);
+            document.addResource(QTextDocument::ImageResource, QUrl("id"), QImage(path("a.jpg")));
+            QVERIFY(document.resource(QTextDocument::ImageResource, QUrl(url)).isValid());
+            QCOMPARE(MRVDocumentPictures(document).all().at(0).bytes(), photo);
+            MTextDoc::fixHtmlImageFormatsAndResourceIds(&document);
+            if (image == url) {
+                QCOMPARE(MTextDoc::image(document, MTextDoc::imageFormats(document).at(0)).size(),
+                         QSize(32, 64));
+            }
+        }
+    }
+
     /// Pictures in files of their own: as they are where browsers show them, else as PNG.
     void documentPictures()
     {

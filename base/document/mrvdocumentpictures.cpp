@@ -163,8 +163,7 @@ MRVDocumentPicture MRVDocumentPicture::of(const QTextDocument &document,
     const QString link = MRVTextFormat::imageLink(format);
     if (!image.isNull() && !link.isEmpty()) {
         const MRVPictureReader look = MRVPictureReader::ofFile(link);
-        if (typeOf(look) != None
-            && MRVGuiUtil::resourceId(look.read()) == MRVGuiUtil::resourceId(image)) {
+        if (typeOf(look) != None && look.isOf(image)) {
             return fromFile(link, reason);
         }
     }

@@ -49,6 +49,30 @@ bool mayOpen(const QTextDocument &document, const QUrl &url)
     return true;
 }
 
+// The existing file that a document may show for a URL; empty without one.
+QString fileOf(const QTextDocument &document, const QUrl &url)
+{
+    for (const QString &path : localFiles(document, url)) {
+        const QFileInfo file(path);
+        if (file.isFile()) {
+            return file.absoluteFilePath();
+        }
+    }
+    return QString();
+}
+
+// The file that Qt has decoded to what a document has as a picture; empty without one.
+QString fileOfPixels(const QTextDocument &document, const QUrl &url, const QVariant &resource)
+{
+    if (resource.userType() == QMetaType::QByteArray) {
+        return QString();
+    }
+    const QString path = fileOf(document, url);
+    const bool isShown = !path.isEmpty()
+        && MRVPictureReader::ofFile(path).isOf(MRVGuiUtil::toImage(resource, nullptr));
+    return isShown ? path : QString();
+}
+
 QVariant loadedByParent(const QTextDocument &document, int type, const QUrl &url)
 {
     QVariant loaded;
@@ -83,8 +107,12 @@ MRVGuardedDocument::MRVGuardedDocument(QObject *parent)
 QImage MRVGuardedDocument::picture(const QTextDocument &document, const QUrl &url)
 {
     const QVariant source = pictureSource(document, url);
-    const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
-    return guarded ? guarded->decoded(source) : MRVGuiUtil::toImage(source, nullptr);
+    if (const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document)) {
+        return guarded->decoded(source);
+    }
+    return source.userType() == QMetaType::QUrl
+        ? MRVPictureReader::ofFile(source.toUrl().toLocalFile()).read()
+        : MRVGuiUtil::toImage(source, nullptr);
 }
 
 QVariant MRVGuardedDocument::pictureSource(const QTextDocument &document, const QUrl &url)
@@ -101,7 +129,11 @@ QVariant MRVGuardedDocument::pictureSource(const QTextDocument &document, const 
         // No file is there to be opened, but a loader may know pictures only.
         resource = loadedByParent(document, ImageResource, document.baseUrl().resolved(url));
     }
-    return resource.isValid() ? resource : document.resource(ImageResource, url);
+    if (!resource.isValid()) {
+        resource = document.resource(ImageResource, url);
+    }
+    const QString path = fileOfPixels(document, url, resource);
+    return path.isEmpty() ? resource : QUrl::fromLocalFile(path);
 }
 
 // Where the picture comes from that the document does not have yet.
@@ -114,12 +146,8 @@ QVariant MRVGuardedDocument::source(const QUrl &url) const
     if (url.scheme() == QLatin1String("data")) {
         return dataOf(url);
     }
-    for (const QString &path : localFiles(*this, url)) {
-        if (QFileInfo(path).isFile()) {
-            return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
-        }
-    }
-    return QVariant();
+    const QString path = fileOf(*this, url);
+    return path.isEmpty() ? QVariant() : QUrl::fromLocalFile(path);
 }
 
 QImage MRVGuardedDocument::decoded(const QVariant &source) const

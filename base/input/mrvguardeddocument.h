@@ -33,7 +33,8 @@ public:
      *
      * Any document is read safely: files that its own loading would open are looked at first.
      * Loaders of a parent or of a derived class are asked too, but not for names of local files
-     * that exist. Bytes that a plain document has loaded stay its resource.
+     * that exist. Bytes that a plain document has loaded stay its resource. A photo is turned
+     * upright, though the layout of a plain document shows it as the camera was held.
      *
      * @return a null image where there is no picture, and for one that is refused or damaged.
      */
@@ -41,8 +42,8 @@ public:
 
     /**
      * What picture() would decode: a QByteArray, a QImage or a QPixmap; for a file that a document
-     * of this class shows, the "file:" URL of it as a QUrl. Invalid where nothing is there, or must
-     * not be opened.
+     * of this class shows, or that Qt has decoded for another one, the "file:" URL of it as a QUrl.
+     * Invalid where nothing is there, or must not be opened.
      */
     static QVariant pictureSource(const QTextDocument &document, const QUrl &url);
 

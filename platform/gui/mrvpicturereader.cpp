@@ -168,7 +168,7 @@ QSize MRVPictureReader::uprightSize() const
 }
 
 // Decodes what was found safe; in its own size unless another one is valid.
-QImage MRVPictureReader::decoded(const QSize &size) const
+QImage MRVPictureReader::decoded(const QSize &size, bool isUpright) const
 {
     if (m_format == "png" && !mrvIsPngReadable(m_bytes, MRVPngPart::Whole)) {
         return QImage();
@@ -182,7 +182,7 @@ QImage MRVPictureReader::decoded(const QSize &size) const
     file.open(QIODevice::ReadOnly);
     QImageReader reader(&file, m_format);
     reader.setAutoDetectImageFormat(false);
-    reader.setAutoTransform(true);
+    reader.setAutoTransform(isUpright);
     reader.setScaledSize(size);
     return key.appliedTo(reader.read());
 }
@@ -194,6 +194,21 @@ QImage MRVPictureReader::read(QString *error) const
         *error = isReadable() ? tr("it is damaged") : m_error;
     }
     return image;
+}
+
+bool MRVPictureReader::isOf(const QImage &image) const
+{
+    if (!isReadable() || image.isNull()) {
+        return false;
+    }
+    // The layout of a pixmap, through which documents pass pictures on.
+    const auto hasPixels = [&image](const QImage &decoded) {
+        constexpr QImage::Format Layout = QImage::Format_ARGB32_Premultiplied;
+        return decoded.convertToFormat(Layout) == image.convertToFormat(Layout);
+    };
+    const bool isTurned = m_orientation != QImageIOHandler::TransformationNone;
+    return (image.size() == uprightSize() && hasPixels(decoded(QSize())))
+        || (isTurned && image.size() == m_size && hasPixels(decoded(QSize(), false)));
 }
 
 QImage MRVPictureReader::draw(const QSize &bounds, QString *error) const

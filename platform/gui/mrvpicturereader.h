@@ -84,6 +84,13 @@ public:
     QImage read(QString *error = nullptr) const;
 
     /**
+     * Whether @p image has the pixels of the picture, either as read() gives them or as the file
+     * has them, which Qt's own loading does not turn upright. Decodes the picture where the sizes
+     * agree.
+     */
+    bool isOf(const QImage &image) const;
+
+    /**
      * Draws an SVG in its own size or, where that is larger than @p bounds, as large as fits into
      * them, so that it may claim any number of pixels.
      *
@@ -110,7 +117,7 @@ public:
 private:
     MRVPictureReader() = default;
     QString refusal();
-    QImage decoded(const QSize &size) const;
+    QImage decoded(const QSize &size, bool isUpright = true) const;
     QString refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes = 4);
 
     QByteArray m_bytes; // of an SVG, what may be given to Qt
