@@ -165,6 +165,35 @@ private Q_SLOTS:
         QCOMPARE(documentDump(document), dump);
         QVERIFY(!document.isUndoAvailable());
         QCOMPARE(document.isRedoAvailable(), changed);
+        document.redo();
+        QCOMPARE(document.text(), after);
+    }
+
+    // With the ids, the pictures come back, and only while the step is there.
+    void undoneIds()
+    {
+        Document document("@blue;A;red|@red;B;blue|file;;green");
+        const QString before = document.text();
+        MTextDoc::convertUniqueImageResources(&document);
+        const QString after = document.text();
+        QTextCursor(&document).insertText("typed");
+        for (int i = 0; i < 2; ++i) {
+            document.undo();
+            document.undo();
+            QCOMPARE(document.text(), before);
+            document.redo();
+            QCOMPARE(document.text(), after);
+        }
+        document.undo();
+        QTextCursor(&document).insertText("typed");
+        QCOMPARE(document.text(), before);
+        MTextDoc::convertUniqueImageResources(&document);
+        document.clearUndoRedoStacks();
+        document.addResource(QTextDocument::ImageResource, QUrl("file"), picture("red"));
+        QTextCursor(&document).insertText("typed");
+        document.undo();
+        QCOMPARE(document.text(), after);
+        QCOMPARE(MTextDoc::image(document, imageFormat("file")), picture("red"));
     }
 
     void lists()
@@ -275,7 +304,25 @@ private Q_SLOTS:
                 QCOMPARE(MTextDoc::image(document, MTextDoc::imageFormats(document).at(0)).size(),
                          QSize(32, 64));
             }
+            QCOMPARE(MRVDocumentPictures(document).all().at(0).bytes(), photo);
         }
+    }
+
+    // In the bytes that they came in.
+    void exportsEncoded()
+    {
+        const QByteArray photo = turnedPhoto();
+        const QByteArray gif = QByteArray::fromHex(
+            "47494638396101000100 800000 000000ffffff 2c00000000010001000002024401003b");
+        QVERIFY(writeBytes(path("a.jpg"), photo));
+        QVERIFY(writeBytes(path("b.gif"), gif));
+        QVERIFY(picture("red").save(path("c.png")));
+        Document document(path("a.jpg") + '|' + path("b.gif") + '|' + path("c.png"));
+        MTextDoc::fixHtmlImageFormatsAndResourceIds(&document);
+        const QStringList files = MTextDoc::exportImages(document, path("to"), false);
+        QCOMPARE(QDir(path("to")).entryList(QDir::Files), (QStringList{"a.jpg", "b.gif", "c.png"}));
+        QCOMPARE(bytesOf(files.at(0)), photo);
+        QCOMPARE(bytesOf(files.at(1)), gif);
     }
 
     /// Pictures in files of their own: as they are where browsers show them, else as PNG.

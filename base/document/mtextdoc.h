@@ -71,9 +71,11 @@ public:
      * Concerns the images whose resource id names an existing file: by a path, a file: URL, or a
      * reference relative to the document's base URL. The picture becomes a resource under the id
      * generated from it, the image gets that id, and the file's base name as its display name. A
-     * file that is no picture is passed over.
+     * file that is no picture is passed over. Of a JPEG or GIF, whose pixels are not all of it, the
+     * image keeps the bytes and the type ("JPG", "GIF"), in which it is exported.
      *
-     * Resources are no part of undo: after it, the images name their files again.
+     * Undoing it lets the images name their files again. The document keeps their pictures, so that
+     * they are shown even where a file is gone.
      */
     static void fixHtmlImageFormatsAndResourceIds(QTextDocument *document);
 
@@ -81,8 +83,8 @@ public:
      * Gives every image the id generated from its picture, so that equal pictures share one
      * resource and different ones do not. Images without a picture are passed over.
      *
-     * The resources under the old ids are cleared. They are no part of undo: after it, the images
-     * have their old ids again, but no pictures.
+     * The resources under the old ids are cleared, and come back when this is undone: the document
+     * keeps their pictures for it.
      */
     static void convertUniqueImageResources(QTextDocument *document);
 

@@ -86,7 +86,82 @@ struct NewKey
     QString id; ///< empty: the images stay as they are
     QImage picture;
     QString name; ///< the new display name; null keeps the old one
+    QByteArray bytes; ///< of a file in a form that pixels do not keep, and its type
+    QString type;
 };
+
+using Pictures = QHash<QString, QImage>; // by resource id
+
+void setImageResources(QTextDocument *document, const Pictures &pictures)
+{
+    for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
+        setImageResource(document, it.key(), it.value());
+    }
+}
+
+// Undoing gives the images of a document their old ids back, but resources are not part of what is
+// undone. Both are known by the number of steps that lead there.
+class RekeyedPictures : public QObject
+{
+public:
+    // The last step is the one that gave the images their new ids.
+    RekeyedPictures(QTextDocument *document, const Pictures &before, const Pictures &after)
+        : QObject(document)
+        , m_document(document)
+        , m_before(before)
+        , m_after(after)
+        , m_steps(document->availableUndoSteps())
+    {
+        connect(document, &QTextDocument::contentsChanged, this, &RekeyedPictures::follow);
+        // With the steps themselves, which another text would count again.
+        connect(document, &QTextDocument::undoAvailable, this, &RekeyedPictures::follow);
+        connect(document, &QTextDocument::undoCommandAdded, this, [this] {
+            if (m_isUndone) {
+                forget();
+            }
+        });
+    }
+
+private:
+    void follow()
+    {
+        const bool isUndone = m_document->availableUndoSteps() < m_steps;
+        if (isUndone && !m_document->isRedoAvailable()) {
+            forget();
+        } else if (isUndone != m_isUndone) {
+            m_isUndone = isUndone;
+            setImageResources(m_document, isUndone ? m_before : m_after);
+            m_document->markContentsDirty(0, m_document->characterCount());
+        }
+    }
+
+    // The step cannot be undone or done again any more, and the ids may get other pictures.
+    void forget()
+    {
+        disconnect(m_document, nullptr, this, nullptr);
+        m_before.clear();
+        m_after.clear();
+        deleteLater();
+    }
+
+    QTextDocument *m_document;
+    Pictures m_before;
+    Pictures m_after;
+    int m_steps;
+    bool m_isUndone = false;
+};
+
+void setNewKey(QTextImageFormat *format, const NewKey &key)
+{
+    format->setProperty(QTextFormat::ImageName, key.id);
+    if (!key.name.isNull()) {
+        format->setProperty(MRVTextFormat::ImageNameProperty, key.name);
+    }
+    if (!key.bytes.isEmpty()) {
+        format->setProperty(MRVTextFormat::ImageRawDataProperty, key.bytes);
+        format->setProperty(MRVTextFormat::ImageTypeProperty, key.type);
+    }
+}
 
 // Moves pictures and images to their new ids; an image that has its id already stays as it is. All
 // pictures are known before the first resource is cleared, since one image's new id may be
@@ -98,17 +173,18 @@ void rekey(QTextDocument *document, const std::vector<ImageRun> &runs, QHash<QSt
             it->id.clear();
         }
     }
-    for (const ImageRun &run : runs) {
-        if (!keys.value(run.id()).id.isEmpty()) {
-            setImageResource(document, run.id(), QVariant());
+    Pictures before;
+    Pictures after;
+    for (auto it = keys.constBegin(); it != keys.constEnd(); ++it) {
+        if (!it->id.isEmpty()) {
+            before.insert(it.key(), it->picture);
+            after.insert(it->id, it->picture);
         }
     }
-    for (const ImageRun &run : runs) {
-        const NewKey key = keys.value(run.id());
-        if (!key.id.isEmpty()) {
-            setImageResource(document, key.id, key.picture);
-        }
+    for (auto it = before.constBegin(); it != before.constEnd(); ++it) {
+        setImageResource(document, it.key(), QVariant());
     }
+    setImageResources(document, after);
 
     QTextCursor cursor(document);
     bool editing = false;
@@ -122,16 +198,32 @@ void rekey(QTextDocument *document, const std::vector<ImageRun> &runs, QHash<QSt
         }
         editing = true;
         QTextImageFormat format = run.format;
-        format.setProperty(QTextFormat::ImageName, key.id);
-        if (!key.name.isNull()) {
-            format.setProperty(MRVTextFormat::ImageNameProperty, key.name);
-        }
+        setNewKey(&format, key);
         cursor.setPosition(run.position);
         cursor.setPosition(run.position + run.count, QTextCursor::KeepAnchor);
         cursor.setCharFormat(format);
     }
     if (editing) {
         cursor.endEditBlock();
+        if (document->isUndoRedoEnabled()) {
+            new RekeyedPictures(document, before, after);
+        }
+    }
+}
+
+// A JPEG would lose quality when it is encoded again, and a GIF its movement.
+void keepEncoded(const MRVPictureReader &look, NewKey *key)
+{
+    static constexpr struct
+    {
+        const char *format; // as Qt names it
+        const char *type;
+    } kept[] = {{"jpeg", "JPG"}, {"gif", "GIF"}};
+    for (const auto &row : kept) {
+        if (look.format() == row.format && look.isOf(key->picture)) {
+            key->bytes = look.bytes();
+            key->type = QLatin1String(row.type);
+        }
     }
 }
 
@@ -217,10 +309,12 @@ void MTextDoc::fixHtmlImageFormatsAndResourceIds(QTextDocument *document)
         const QString path = localFile(*document, id);
         if (!path.isEmpty()) {
             // Qt may have loaded the file by itself; it does not for every path.
+            const MRVPictureReader look = MRVPictureReader::ofFile(path);
             key.picture = image(*document, run.format);
             if (key.picture.isNull()) {
-                key.picture = MRVPictureReader::ofFile(path).read();
+                key.picture = look.read();
             }
+            keepEncoded(look, &key);
             key.id = MRVGuiUtil::resourceId(key.picture);
             key.name = QFileInfo(path).baseName();
         }

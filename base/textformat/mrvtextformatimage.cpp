@@ -2,6 +2,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"
+#include "gui/mrvpicturereader.h"
 #include "input/mrvguardeddocument.h"
 
 #include <QFile>
@@ -19,6 +20,15 @@ bool isSameFile(const QString &a, const QString &b)
     // Empty where there is no file.
     const QString canonical = QFileInfo(a).canonicalFilePath();
     return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
+}
+
+// The encoded bytes of an image where a file of this suffix may hold them; else empty.
+QByteArray rawDataOfType(const QTextImageFormat &format, const QString &suffix)
+{
+    const QByteArray raw = MRVTextFormat::imageRawData(format);
+    const bool isOfType = !raw.isEmpty()
+        && QLatin1String(MRVPictureReader::formatOf(raw)).compare(suffix, Qt::CaseInsensitive) == 0;
+    return isOfType ? raw : QByteArray();
 }
 
 bool copyFile(const QString &from, const QString &to)
@@ -103,8 +113,11 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
             return true;
         }
     }
-    const QByteArray bytes = MRVGuiUtil::toByteArray(image, suffix.toUpper().toLatin1().constData(),
-                                                     jpeg ? JpegQuality : DefaultQuality);
+    QByteArray bytes = MRVGuiUtil::toByteArray(image, suffix.toUpper().toLatin1().constData(),
+                                               jpeg ? JpegQuality : DefaultQuality);
+    if (bytes.isEmpty()) {
+        bytes = rawDataOfType(format, suffix); // Qt writes no GIF
+    }
     if (bytes.isEmpty() && error) {
         *error = tr("The picture cannot be encoded for the file \"%1\".").arg(fileName);
     }
