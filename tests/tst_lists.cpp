@@ -1,6 +1,7 @@
 #include "datarows.h"
 #include "documentdump.h"
 #include "documentnotation.h"
+#include "text/mrvlistmarkers.h"
 #include "text/mrvtextcursor.h"
 #include "text/mrvtextlistformat.h"
 #include "text/mrvtextrange.h"
@@ -229,6 +230,39 @@ private Q_SLOTS:
             format.clearProperty(QTextFormat::ListStyle);
             QCOMPARE(Levels::style(format), style);
         }
+    }
+
+    void markers_data() { addRows("list-markers.tsv"); }
+    void markers()
+    {
+        QTextListFormat format;
+        QList<MRVTextListLevel> own;
+        for (const QString &level : cell("list").split(' ')) {
+            own << MRVTextListLevel{level.section(':', 1), level.section(':', 0, 0).toInt(), 0, 0};
+        }
+        format.setStyle(QTextListFormat::Style(qMin(0, own.first().numberStyle)));
+        if (own.first().numberStyle >= 0) {
+            Levels::setLevels(format, own);
+        }
+        format.setProperty(MRVTextFormat::ListStartProperty, cell("start").toInt());
+        const QStringList levels = cell("levels").split(' ');
+        QTextDocument document(QString(levels.size(), '\n'));
+        QTextList *list = QTextCursor(document.findBlock(levels.size())).createList(format);
+        QTextList *other = nullptr; // among the items, it does not count for them
+        for (int i = 0; i < levels.size(); ++i) {
+            const QTextBlock block = document.findBlock(i);
+            if (levels.at(i) != "-") {
+                list->add(block);
+                Levels::setBlockLevel(*list, block, levels.at(i).toInt());
+            } else if (!other) {
+                other = QTextCursor(block).createList(QTextListFormat::ListStyleUndefined);
+            }
+        }
+        QStringList shown;
+        for (const MRVListMarker &marker : mrvListMarkers(document).mid(0, levels.size())) {
+            shown << (marker.text.isEmpty() ? "-" : marker.text);
+        }
+        QTEST(shown.join(' '), "markers");
     }
 
     void edits_data() { addRows("list-edits.tsv"); }

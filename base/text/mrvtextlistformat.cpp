@@ -34,6 +34,31 @@ constexpr StyleRow Styles[] = {
 constexpr double LeftIndent = 36.0;
 constexpr double TextIndent = 18.0;
 
+MRVTextListLevel levelOf(QTextListFormat::Style style)
+{
+    MRVTextListLevel level;
+    for (const StyleRow &row : Styles) {
+        if (row.style == style) {
+            level.numberStyle = row.numberStyle;
+            level.text = row.numberStyle > 0 ? QStringLiteral("%0.") : QString(QChar(row.bullet));
+        }
+    }
+    level.leftIndent = LeftIndent;
+    level.textIndent = TextIndent;
+    return level;
+}
+
+QTextListFormat::Style styleOf(const MRVTextListLevel &level)
+{
+    const ushort bullet = level.text.isEmpty() ? 0 : level.text.at(0).unicode();
+    for (const StyleRow &row : Styles) {
+        if (row.numberStyle > 0 ? row.numberStyle == level.numberStyle : row.bullet == bullet) {
+            return row.style;
+        }
+    }
+    return QTextListFormat::ListDisc;
+}
+
 constexpr char BlockLevelsProperty[] = "BlockLevels";
 // The map that setBlockLevels() has put there, whose paragraphs carry their levels themselves.
 constexpr char AppliedLevelsProperty[] = "_mrv_AppliedBlockLevels";
@@ -140,31 +165,40 @@ double MRVTextListFormat::textIndent(const QTextListFormat &format, int level)
     return levels(format).value(level).textIndent;
 }
 
+MRVTextListLevel MRVTextListFormat::shownLevel(const QTextListFormat &format, int level)
+{
+    level = qMax(0, level);
+    const QList<MRVTextListLevel> own = levels(format);
+    if (!own.isEmpty()) {
+        MRVTextListLevel shown = own.at(qMin(level, own.size() - 1));
+        shown.leftIndent += LeftIndent * qMax(0, level - (own.size() - 1));
+        return shown;
+    }
+    MRVTextListLevel shown = levelOf(format.style());
+    if (shown.numberStyle > 0) {
+        const bool hasSuffix = format.hasProperty(QTextFormat::ListNumberSuffix);
+        shown.text = format.numberPrefix() + QLatin1String("%0")
+            + (hasSuffix ? format.numberSuffix() : QStringLiteral("."));
+    }
+    shown.leftIndent = LeftIndent * (qMax(1, format.indent()) + double(level));
+    return shown;
+}
+
 void MRVTextListFormat::setStyle(QTextListFormat &format, QTextListFormat::Style style)
 {
-    MRVTextListLevel level;
-    for (const StyleRow &row : Styles) {
-        if (row.style == style) {
-            level.numberStyle = row.numberStyle;
-            level.text = row.numberStyle > 0 ? QStringLiteral("%0.") : QString(QChar(row.bullet));
-        }
-    }
-    level.leftIndent = LeftIndent;
-    level.textIndent = TextIndent;
-    setLevels(format, {level});
+    setLevels(format, {levelOf(style)});
     format.setStyle(style);
+}
+
+QTextListFormat::Style MRVTextListFormat::shownStyle(const QTextListFormat &format, int level)
+{
+    const bool hasLevels = !levels(format).isEmpty();
+    return hasLevels ? styleOf(shownLevel(format, level)) : format.style();
 }
 
 QTextListFormat::Style MRVTextListFormat::style(const QTextListFormat &format)
 {
-    const MRVTextListLevel level = levels(format).value(0);
-    const ushort bullet = level.text.isEmpty() ? 0 : level.text.at(0).unicode();
-    for (const StyleRow &row : Styles) {
-        if (row.numberStyle > 0 ? row.numberStyle == level.numberStyle : row.bullet == bullet) {
-            return row.style;
-        }
-    }
-    return QTextListFormat::ListDisc;
+    return styleOf(levels(format).value(0));
 }
 
 void MRVTextListFormat::setBlockLevel(QTextList &list, const QTextBlock &block, int level)

@@ -80,6 +80,16 @@ public:
     //@}
 
     /**
+     * What items of the level number @p level look like, from 0. A level beyond the last one that
+     * the format has looks like that one, with 36 points more of indent for each. A format without
+     * levels has those of Qt: all look like its style, with its texts before and after numbers, and
+     * an empty text where it draws no marker.
+     */
+    static MRVTextListLevel shownLevel(const QTextListFormat &format, int level);
+    /** The Qt style that shownLevel() looks like; that of the format where it has no levels. */
+    static QTextListFormat::Style shownStyle(const QTextListFormat &format, int level);
+
+    /**
      * Replaces the levels by a single one that looks like @p style: indented by 36 points, its text
      * by 18 more. A style that is none of Qt's gives a level without number and bullet. Also sets
      * Qt's own list style, which is what Qt draws and exports.
