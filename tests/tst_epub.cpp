@@ -4,12 +4,14 @@
 #include "html/mrvhtmldocument.h"
 #include "images.h"
 #include "support.h"
+#include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextList>
 #include <QUrl>
 #include <QXmlStreamReader>
 
@@ -139,6 +141,29 @@ private Q_SLOTS:
         QCOMPARE(rules.simplified(), cell("rules"));
         QCOMPARE(files["OEBPS/toc.ncx"].contains("Anmerkungen"),
                  bodies.first().contains("Anmerkungen"));
+    }
+
+    // Lists with levels become lists in lists, each with the numbers of its level.
+    void listLevels()
+    {
+        QTextDocument document("a\nb\nc\nd\ne\nf");
+        QTextCursor cursor(&document);
+        cursor.select(QTextCursor::Document);
+        QTextListFormat format;
+        format.setIndent(1);
+        MRVTextListFormat::setLevels(format, {{"%0.", 1, 36, 18}, {"%0)", 2, 72, 18}});
+        QTextList *list = cursor.createList(format);
+        const int levels[] = {0, 1, 1, 2, 0, 1};
+        for (int i = 0; i < 6; ++i) {
+            MRVTextListFormat::setBlockLevel(*list, list->item(i), levels[i]);
+        }
+        MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata());
+        QVERIFY(package.addDocument(document));
+        const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"].remove('\n');
+        QCOMPARE(page.section("<body>", 1).section("</body>", 0, 0),
+                 QString("<ol><li>a<A><li>b</li><li>c<A><li>d</li></ol></li></ol></li>"
+                         "<li>e<A><li>f</li></ol></li></ol>")
+                     .replace("<A>", "<ol class=\"lower-alpha\">"));
     }
 
     // By choice, an annotation leaves the text for a note, and a comment becomes one.

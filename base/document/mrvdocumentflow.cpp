@@ -1,7 +1,8 @@
 #include "document/mrvdocumentflow.h"
 
+#include "text/mrvlistmarkers.h"
+#include "textformat/mrvlistlevel.h"
 #include "textformat/mrvtextblockformat.h"
-#include "textformat/mrvtextformat.h"
 
 #include <QHash>
 #include <QTextBlock>
@@ -25,6 +26,7 @@ struct MRVDocumentFlow::Reader
         bool isKnown = false;
         int headingLevel = 0;
         int list = -1;
+        int listLevel = 0;
     };
 
     explicit Reader(MRVDocumentFlow *target)
@@ -44,7 +46,8 @@ struct MRVDocumentFlow::Reader
             MRVFlowParagraph paragraph{
                 position, length, index, flow.fragments.size(), format.headingLevel, format.list};
             if (format.list >= 0) {
-                paragraph.itemNumber = nextNumber(format.list);
+                paragraph.listLevel = format.listLevel;
+                paragraph.itemNumber = nextNumber(format.list, format.listLevel);
             }
             flow.paragraphs.append(paragraph);
             int at = position;
@@ -69,20 +72,18 @@ private:
             format.headingLevel = MRVTextBlockFormat::headingLevel(full);
             const bool isItem = qobject_cast<QTextList *>(flow.document.object(full.objectIndex()));
             format.list = isItem ? full.objectIndex() : -1;
+            format.listLevel = qMax(0, full.intProperty(MRVParagraphListLevelProperty));
         }
         return format;
     }
 
-    int nextNumber(int list)
+    int nextNumber(int list, int level)
     {
-        auto number = numbers.find(list);
-        if (number == numbers.end()) {
-            const QTextFormat format = flow.document.object(list)->format();
-            const bool starts = format.hasProperty(MRVTextFormat::ListStartProperty);
-            const int start = starts ? format.intProperty(MRVTextFormat::ListStartProperty) : 1;
-            number = numbers.insert(list, start - 1);
+        auto format = lists.constFind(list);
+        if (format == lists.constEnd()) {
+            format = lists.insert(list, flow.document.object(list)->format().toListFormat());
         }
-        return ++*number;
+        return counter.next(*format, list, level);
     }
 
     void note(int index, int begin, int length)
@@ -112,7 +113,8 @@ private:
     MRVDocumentFlow &flow;
     QVector<OfText> texts;
     QVector<OfParagraph> paragraphs;
-    QHash<int, int> numbers; // of the last item, by list
+    QHash<int, QTextListFormat> lists; // by object index
+    MRVListCounter counter;
 };
 
 MRVDocumentFlow::MRVDocumentFlow(const QTextDocument &source)

@@ -57,7 +57,8 @@ struct MRVFlowParagraph
     int firstFragment; ///< its fragments end where those of the next paragraph begin
     int headingLevel; ///< 1 to 6, or 0
     int list = -1; ///< an object index; -1: none
-    int itemNumber = 0; ///< counted from 1 in the list, or from where that starts
+    int itemNumber = 0; ///< as MRVListCounter counts
+    int listLevel = 0; ///< from 0
 };
 
 /**

@@ -1,5 +1,7 @@
 #include "epub/mrvepubwriter_p.h"
 
+#include "text/mrvlistmarkers.h"
+#include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QTextDocument>
@@ -34,47 +36,13 @@ const ListType &listType(QTextListFormat::Style style)
     return row == std::end(listTypes) ? listTypes[0] : *row;
 }
 
-QString lettersOf(int number)
-{
-    QString letters;
-    for (; number > 0; number = (number - 1) / 26) {
-        letters.prepend(QChar('a' + (number - 1) % 26));
-    }
-    return letters;
-}
-
-QString romanOf(int number)
-{
-    constexpr struct
-    {
-        int value;
-        const char *figures;
-    } rows[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
-                {90, "xc"},  {50, "l"},   {40, "xl"}, {10, "x"},   {9, "ix"},
-                {5, "v"},    {4, "iv"},   {1, "i"}};
-    QString roman;
-    for (const auto &row : rows) {
-        for (; number >= row.value; number -= row.value) {
-            roman += QLatin1String(row.figures);
-        }
-    }
-    return roman;
-}
-
 // The number of a list item as readers show it, with a blank after it.
 QString itemLabel(QTextListFormat::Style style, int number)
 {
-    constexpr int LargestRoman = 3999;
-    const bool isRoman =
-        style == QTextListFormat::ListLowerRoman || style == QTextListFormat::ListUpperRoman;
-    const bool isUpper =
-        style == QTextListFormat::ListUpperAlpha || style == QTextListFormat::ListUpperRoman;
-    const bool isFigure =
-        style == QTextListFormat::ListDecimal || number < 1 || (isRoman && number > LargestRoman);
-    const QString label = isFigure ? QString::number(number)
-        : isRoman                  ? romanOf(number)
-                                   : lettersOf(number);
-    return (isUpper ? label.toUpper() : label) + QLatin1String(". ");
+    QTextListFormat format;
+    format.setStyle(style);
+    const int numberStyle = MRVTextListFormat::shownLevel(format, 0).numberStyle;
+    return mrvListNumberText(number, numberStyle) + QLatin1String(". ");
 }
 
 // Whether a paragraph holds marks such as "* * *" and nothing else.
@@ -273,20 +241,21 @@ void MRVEPubWriter::arrangeIn(int quoteLevel, int indent)
 void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
                                 const MRVEPubParagraphFormat &format)
 {
-    const QTextListFormat list = listFormat(paragraph);
-    const int depth = list.indent();
+    const QTextListFormat::Style style = listStyle(paragraph);
+    const int depth = listDepth(paragraph);
     int kept = 0;
     int quotes = 0;
     bool isOpen = false;
     for (; kept < m_containers.size() && !isOpen; ++kept) {
         Container &container = m_containers[kept];
         const bool goesOn = !container.isQuote && container.depth == depth
-            && container.style == list.style() && list.style() <= QTextListFormat::ListDecimal
+            && container.style == style && style <= QTextListFormat::ListDecimal
             && paragraph.itemNumber != 1 && kept + 1 == m_containers.size();
         const bool isNext = m_isEPub3 || container.isCounted
             || container.style > QTextListFormat::ListDecimal
             || paragraph.itemNumber == container.number + 1;
-        isOpen = !container.isQuote && (container.list == paragraph.list || goesOn) && isNext;
+        const bool isSame = container.list == paragraph.list && container.depth == depth;
+        isOpen = !container.isQuote && (isSame || goesOn) && isNext;
         const bool stays =
             isOpen || (container.isQuote ? quotes < format.quoteLevel : container.depth < depth);
         if (!stays) {
@@ -315,6 +284,18 @@ QTextListFormat MRVEPubWriter::listFormat(const MRVEPubParagraph &paragraph) con
     return m_flow.document.object(paragraph.list)->format().toListFormat();
 }
 
+QTextListFormat::Style MRVEPubWriter::listStyle(const MRVEPubParagraph &paragraph) const
+{
+    return MRVTextListFormat::shownStyle(listFormat(paragraph), paragraph.listLevel);
+}
+
+// How deep an item stands in lists, levels included; as many are open around it at most.
+int MRVEPubWriter::listDepth(const MRVEPubParagraph &paragraph) const
+{
+    constexpr int Deepest = 1000;
+    return listFormat(paragraph).indent() + qMin(paragraph.listLevel, Deepest);
+}
+
 // Whether no more elements must be opened around text: parsers of XML take 256 within each other.
 bool MRVEPubWriter::isDeep() const
 {
@@ -324,13 +305,13 @@ bool MRVEPubWriter::isDeep() const
 
 void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
 {
-    const QTextListFormat format = listFormat(paragraph);
-    const ListType &type = listType(format.style());
-    const bool isNumbered = format.style() <= QTextListFormat::ListDecimal;
+    const QTextListFormat::Style style = listStyle(paragraph);
+    const ListType &type = listType(style);
+    const bool isNumbered = style <= QTextListFormat::ListDecimal;
     Container list;
     list.list = paragraph.list;
-    list.depth = format.indent();
-    list.style = format.style();
+    list.depth = listDepth(paragraph);
+    list.style = style;
     list.number = paragraph.itemNumber - 1;
     list.isCounted = isNumbered && !m_isEPub3 && paragraph.itemNumber != 1;
     list.end = isNumbered ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
@@ -602,7 +583,7 @@ QPair<int, int> MRVEPubWriter::placeOf(int paragraph)
     }
     const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
     const MRVEPubParagraphFormat &format = m_formats.paragraph(place.format);
-    return {format.quoteLevel, place.list < 0 ? format.indent : listFormat(place).indent()};
+    return {format.quoteLevel, place.list < 0 ? format.indent : listDepth(place)};
 }
 
 bool MRVEPubWriter::isPlainText(int paragraph)

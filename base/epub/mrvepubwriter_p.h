@@ -132,6 +132,8 @@ private:
     bool standsWith(int first, int second);
     QPair<int, int> placeOf(int paragraph);
     QTextListFormat listFormat(const MRVEPubParagraph &paragraph) const;
+    QTextListFormat::Style listStyle(const MRVEPubParagraph &paragraph) const;
+    int listDepth(const MRVEPubParagraph &paragraph) const;
     bool isTableCaption(int frame, int paragraph);
     void writeCaption(int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
