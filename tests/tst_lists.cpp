@@ -2,6 +2,7 @@
 #include "documentdump.h"
 #include "documentnotation.h"
 #include "text/mrvlistmarkers.h"
+#include "text/mrvnestedlists.h"
 #include "text/mrvtextcursor.h"
 #include "text/mrvtextlistformat.h"
 #include "text/mrvtextrange.h"
@@ -263,6 +264,39 @@ private Q_SLOTS:
             shown << (marker.text.isEmpty() ? "-" : marker.text);
         }
         QTEST(shown.join(' '), "markers");
+    }
+
+    void nesting_data() { addRows("list-nesting.tsv"); }
+    // Lists within lists become levels and the same lists within lists again.
+    void nesting()
+    {
+        QTextDocument document;
+        document.setHtml(cell("html"));
+        const auto nested = [&document] {
+            QStringList lists;
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+                const QTextList *list = block.textList();
+                lists << (list ? QString("%1%2")
+                                     .arg(list->format().indent())
+                                     .arg(list->itemText(block))
+                               : "-");
+            }
+            return lists;
+        };
+        const QStringList before = nested();
+        const QStringList dump = documentDump(document);
+        document.clearUndoRedoStacks();
+        const bool isNested = !cell("levels").contains("1");
+        QCOMPARE(MRVNestedLists::toLevels(&document), !isNested);
+        QTEST(levelsOf(document), "levels");
+        QCOMPARE(MRVNestedLists::hasLevels(document), !isNested);
+        QVERIFY(!MRVNestedLists::toLevels(&document));
+        document.undo();
+        QCOMPARE(documentDump(document), dump);
+        QVERIFY(!document.isUndoAvailable());
+        MRVNestedLists::toLevels(&document);
+        QCOMPARE(MRVNestedLists::fromLevels(&document), !isNested);
+        QCOMPARE(nested(), before);
     }
 
     void edits_data() { addRows("list-edits.tsv"); }
