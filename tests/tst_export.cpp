@@ -2,6 +2,7 @@
 #include "documentdump.h"
 #include "images.h"
 #include "support.h"
+#include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextformat.h"
 #include "xhtml/mrvexportcheck.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
@@ -331,6 +332,28 @@ private Q_SLOTS:
         QVERIFY(page.contains("<title>Heading</title>"));
         QCOMPARE(page.count("<h2 "), 1);
         QCOMPARE(page.count("</h2>"), 1);
+    }
+
+    // Qt's HTML knows no levels, so each is a list of its own.
+    void listLevels()
+    {
+        QTextDocument document("a\nb\nc\nd\ne");
+        QTextCursor cursor(&document);
+        cursor.select(QTextCursor::Document);
+        QTextListFormat format;
+        MRVTextListFormat::setStyle(format, QTextListFormat::ListDecimal);
+        QTextList *list = cursor.createList(format);
+        const QString flat = document.toHtml("utf-8");
+        QCOMPARE(X(&document).toText(X::Html), flat);
+        const int levels[] = {0, 1, 1, 2, 0};
+        for (int i = 0; i < 5; ++i) {
+            MRVTextListFormat::setBlockLevel(*list, list->item(i), levels[i]);
+        }
+        const QString page = X(&document).toText(X::Xhtml).section("<body", 1).section('>', 1);
+        QCOMPARE(QString(page).remove(QRegularExpression(" style=\"[^\"]*\"|\n")),
+                 QString("<ol><li>a<ol><li>b</li><li>c<ol><li>d</li></ol></li></ol></li>"
+                         "<li>e</li></ol></body></html>"));
+        QCOMPARE(list->count(), 5);
     }
 
     void losses_data() { addRows("exportlosses.tsv"); }

@@ -1,5 +1,6 @@
 #include "xhtml/mrvdocumenthtml.h"
 
+#include "text/mrvnestedlists.h"
 #include "textformat/mrvtextblockformat.h"
 
 #include <QHash>
@@ -76,6 +77,7 @@ bool isWrongRule(const QTextBlock &block, const QTextFormat &format)
 struct Faults
 {
     explicit Faults(const QTextDocument &document)
+        : inLists(MRVNestedLists::hasLevels(document))
     {
         // Formats, of which a document has far fewer than paragraphs and cells. Some may be out of
         // use, which costs a copy and no more.
@@ -95,6 +97,9 @@ struct Faults
         }
     }
 
+    bool any() const { return inLists || inBlocks || inBorders; }
+
+    bool inLists = false; // levels
     bool inBlocks = false;
     bool inBorders = false;
 };
@@ -233,10 +238,11 @@ QString withAllNames(const QString &html, const QTextDocument &document)
 QString mrvDocumentHtml(const QTextDocument &document)
 {
     const Faults faults(document);
-    if (!faults.inBlocks && !faults.inBorders) {
+    if (!faults.any()) {
         return withAllNames(document.toHtml("utf-8"), document);
     }
     const std::unique_ptr<QTextDocument> copy = copyOf(document);
+    MRVNestedLists::fromLevels(copy.get());
     if (faults.inBlocks) {
         mendBlocks(copy.get());
     }

@@ -15,6 +15,7 @@ class QTextDocument;
  * - A paragraph with both a rule and text becomes the rule and then the text, which Qt drops. In
  *   this order, as Qt reads what follows a rule into the paragraph of the rule.
  * - A border style that Qt does not know, for which it would crash, counts as none.
+ * - Lists whose paragraphs have levels become lists within lists: MRVNestedLists::fromLevels().
  * - All names of an anchor are written, and not just the first one.
  *
  * The document is never changed: one that needs any of these is copied first. GUI thread only.
