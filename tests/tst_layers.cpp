@@ -67,6 +67,7 @@ constexpr Module modules[] = {
     {"base/update",      7, "Core Gui Network Widgets Xml"},
     {"base/xhtml",       7, "Core Gui"},
 
+    {"base/clipboard",   8, "Core Gui"},
     {"base/epub",        8, "Core Gui libdeflate.h zip.h"},
     {"base/publish",     8, "Core Gui"},
 
