@@ -57,6 +57,7 @@ struct MRVListMarker
  * A number as a list shows it, without anything around it: 28 in letters is "ab". A number that
  * letters or Roman numerals do not have (below 1, or above 3999 for the latter) is in figures.
  *
+ * @param number      of any size and sign.
  * @param numberStyle see MRVQtListLevel; any other number means figures, 0 included.
  */
 MRVBASE_EXPORT QString mrvListNumberText(int number, int numberStyle);
