@@ -162,6 +162,53 @@ private Q_SLOTS:
 
     // From within the first run to the beginning of "after". The mono family of DejaVu has normal
     // and bold only; HTML import sets the list of families as well, or alone.
+    // Headings stay what they are, whatever is done about the line spacing, which has the number
+    // of Qt's own level; undo and stored formats have them, too.
+    void headings()
+    {
+        QTextDocument document;
+        document.setHtml("<h1>a</h1><p>b</p><h3>c</h3><ul><li><h6>d</h6></ul>");
+        const auto levels = [&document] {
+            QString all;
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+                const QTextBlockFormat format = block.blockFormat();
+                QList<QTextBlockFormat> forms{
+                    format, MRVTextFormat::simplifiedSpacing(format),
+                    MRVTextFormat::toBlockFormat(MRVTextFormat::toByteArray(format)),
+                    MRVTextBlockFormat::merge(format, blocks("0x100100=4:int"), true, false, true,
+                                              {})};
+                QSet<int> found;
+                for (const QTextBlockFormat &form : qAsConst(forms)) {
+                    found << MRVTextBlockFormat::headingLevel(form);
+                }
+                all += found.size() == 1 ? QString::number(*found.begin()) : "?";
+            }
+            return all;
+        };
+        document.clearUndoRedoStacks();
+        for (const QString with : {"0x1070=24:double 0x1071=12:double", "TextIndent=1:double",
+                                   "HeadingLevel=5:int", "0x1070=-14:double", ""}) {
+            const QTextBlockFormat style = blocks(with);
+            for (const bool keepSpacing : {true, false}) {
+                MRVTextFormat::convertToFormat(&document, nullptr, &style, false, false, false,
+                                               false, keepSpacing, false, false, {}, true, false);
+                QCOMPARE(levels(), QString("1036"));
+            }
+        }
+        int steps = 0;
+        for (; document.isUndoAvailable(); ++steps) {
+            document.undo();
+            QCOMPARE(levels(), QString("1036"));
+        }
+        QVERIFY(steps > 4);
+        QCOMPARE(document.begin().blockFormat().headingLevel(), 1);
+        for (; document.isRedoAvailable(); --steps) {
+            document.redo();
+            QCOMPARE(levels(), QString("1036"));
+        }
+        QCOMPARE(steps, 0);
+    }
+
     void adjustFontWeight()
     {
         QTextDocument document;
