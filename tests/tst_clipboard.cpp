@@ -223,6 +223,17 @@ private Q_SLOTS:
         QCOMPARE(QSize(inserted->columns(), inserted->rows()), QSize(2, 3));
         QCOMPARE(inserted->cellAt(2, 1).columnSpan(), 2);
         QCOMPARE(document.toPlainText().simplified(), QString("cell merged framed"));
+
+        // A row that a merged cell only reaches into.
+        table = QTextCursor(&source).insertTable(2, 3);
+        table->mergeCells(0, 1, 2, 1);
+        table->cellAt(0, 1).firstCursorPosition().insertText("above");
+        table->cellAt(1, 2).firstCursorPosition().insertText("right");
+        cursor = table->cellAt(1, 0).firstCursorPosition();
+        cursor.setPosition(table->cellAt(1, 2).firstPosition(), QTextCursor::KeepAnchor);
+        document.clear();
+        QVERIFY(paste(&at, copied(cursor)));
+        QCOMPARE(document.toPlainText(), QString("\n\n\nright\n"));
     }
 
     // Another picture of the same name keeps its own.

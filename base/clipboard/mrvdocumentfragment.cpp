@@ -55,9 +55,7 @@ public:
             int column = 0;
             int columns = 0;
             m_cursor.selectedTableCells(&row, &rows, &column, &columns);
-            MRVFragmentParagraph around;
-            around.blockFormat = add(QTextBlockFormat());
-            around.charFormat = add(QTextCharFormat());
+            MRVFragmentParagraph around = emptyParagraph();
             m_fragment.flow.append(around);
             around.frame = addTable(m_cursor.currentTable(), row, rows, column, columns);
             m_fragment.flow.append(around);
@@ -84,6 +82,14 @@ private:
         }
         m_fragment.isFromStart = start == m_document.findBlock(start).position();
         m_fragment.flow = flow(start, end, first);
+    }
+
+    MRVFragmentParagraph emptyParagraph()
+    {
+        MRVFragmentParagraph result;
+        result.blockFormat = add(QTextBlockFormat());
+        result.charFormat = add(QTextCharFormat());
+        return result;
     }
 
     QTextFrame *frameAt(int position) const
@@ -166,11 +172,15 @@ private:
         for (int r = row; r < row + rows; ++r) {
             for (int c = column; c < column + columns; ++c) {
                 const QTextTableCell cell = table->cellAt(r, c);
-                if (cell.row() == r && cell.column() == c) {
-                    result.cells.append({r - row, c - column, qMin(cell.rowSpan(), row + rows - r),
-                                         qMin(cell.columnSpan(), column + columns - c),
-                                         add(cellFormat(cell)),
-                                         flow(cell.firstPosition(), cell.lastPosition(), table)});
+                // Of one that begins outside, only its places are selected, and not its text.
+                if (qMax(cell.row(), row) == r && qMax(cell.column(), column) == c) {
+                    const int bottom = qMin(cell.row() + cell.rowSpan(), row + rows);
+                    const int right = qMin(cell.column() + cell.columnSpan(), column + columns);
+                    const bool isSelected = cell.row() == r && cell.column() == c;
+                    result.cells.append(
+                        {r - row, c - column, bottom - r, right - c, add(cellFormat(cell)),
+                         isSelected ? flow(cell.firstPosition(), cell.lastPosition(), table)
+                                    : MRVFragmentFlow{emptyParagraph()}});
                 }
             }
         }
