@@ -4,6 +4,7 @@
 #include "manuscript/mrvsourceedit.h"
 #include "manuscript/mrvsourcefile.h"
 #include "publish/mrvoutputfiles.h"
+#include "util/mrveditlock.h"
 
 #include "core/mrvfilewriter.h"
 
@@ -199,6 +200,13 @@ bool write(const Options &options, Changed *changed, QString *error)
         return writeStandardOutput(changed->after, error);
     }
     if (options.output.isEmpty()) {
+        // Of two that change a file at once, the second one finds it changed.
+        MRVEditLock lock;
+        QString reason;
+        if (!lock.acquire(changed->path, &reason)) {
+            *error = QStringLiteral("%1: %2").arg(changed->path, reason);
+            return false;
+        }
         return changed->count == 0
             || MRVSourceFile::replace(changed->path, changed->before, changed->after,
                                       options.backup ? &changed->backup : nullptr, error);

@@ -315,7 +315,7 @@ void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &s
         }
         return;
     }
-    if (m_place != Place::Open && lines.trimmed().isEmpty()) {
+    if (m_place != Place::Open && std::all_of(lines.cbegin(), lines.cend(), isSpace)) {
         return; // between the elements of a page that Qt has written
     }
     for (int begin = 0; begin <= lines.size();) {

@@ -2,6 +2,7 @@
 
 #include "manuscript/mrvmanuscript.h"
 #include "manuscript/mrvmanuscriptdocument_p.h"
+#include "manuscript/mrvparagraphs_p.h"
 #include "manuscript/mrvsourceplaces_p.h"
 #include "util/mrvmarkupcharacters.h"
 
@@ -11,78 +12,8 @@
 
 namespace {
 
-// How often a source is read to find out which changes are not read back. What is not known then
-// is left out.
-constexpr int MostTrials = 200;
-
-/** A text by its paragraphs. */
-struct Paragraphs
-{
-    QStringList texts;
-    QVector<int> blocks; // their numbers
-
-    void append(const QString &text, int block)
-    {
-        texts.append(text);
-        blocks.append(block);
-    }
-};
-
-// The end of a paragraph, or the beginning or end of a cell or frame.
-bool isEndOfParagraph(QChar character)
-{
-    return mrvIsStructure(character) && character != QChar::LineSeparator
-        && character != QChar::ObjectReplacementCharacter;
-}
-
-// A paragraph as markup can say it: several blanks count as one, and those at a line end do not.
-QString inMarkup(QStringView paragraph)
-{
-    QString result;
-    result.reserve(paragraph.size());
-    bool isBlank = false;
-    for (const QChar character : paragraph) {
-        if (mrvIsMarkupBlank(character)) {
-            isBlank = true;
-            continue;
-        }
-        if (isBlank && !result.isEmpty() && !mrvIsStructure(result.back())
-            && !mrvIsStructure(character)) {
-            result += u' ';
-        }
-        isBlank = false;
-        result += character;
-    }
-    while (result.endsWith(QChar::LineSeparator)) {
-        result.chop(1);
-    }
-    return result;
-}
-
-// In markup, empty paragraphs are nothing.
-Paragraphs paragraphsOf(const QString &text, bool isMarkup)
-{
-    Paragraphs paragraphs;
-    int begin = 0;
-    int block = 0;
-    for (int i = 0; i <= text.size(); ++i) {
-        const bool isEnd = i == text.size() || isEndOfParagraph(text.at(i));
-        if (!isEnd) {
-            continue;
-        }
-        const QStringView raw = QStringView(text).mid(begin, i - begin);
-        const QString paragraph = isMarkup ? inMarkup(raw) : raw.toString();
-        if (!isMarkup || !paragraph.isEmpty()) {
-            paragraphs.append(paragraph, block);
-        }
-        if (i < text.size() && text.at(i) != QChar::ParagraphSeparator) {
-            paragraphs.append(text.at(i), block);
-        }
-        begin = i + 1;
-        ++block;
-    }
-    return paragraphs;
-}
+// How often a source is read to find out which changes cannot be made.
+constexpr int MostTrials = 100;
 
 // Where the bracket is that closes, or with a negative step opens, the one around a place; -1
 // where there is none in this paragraph.
@@ -107,6 +38,23 @@ int bracketFrom(const QString &markdown, int at, int step)
         }
     }
     return -1;
+}
+
+int countOfText(const QString &text)
+{
+    return text.size() - int(std::count_if(text.cbegin(), text.cend(), mrvIsMarkupBlank));
+}
+
+// How many characters of links a change adds, at least; negative where it removes some.
+int linkedCharacters(const QTextDocument &document, const MRVTextChange &change)
+{
+    QTextCursor cursor(const_cast<QTextDocument *>(&document));
+    cursor.setPosition(qMin(change.range.start() + 1, change.range.end()));
+    const bool startsInLink = !cursor.charFormat().anchorHref().isEmpty();
+    cursor.setPosition(change.range.end());
+    const bool endsInLink = !cursor.charFormat().anchorHref().isEmpty();
+    const int before = startsInLink || endsInLink ? countOfText(change.before) : 0;
+    return (startsInLink && endsInLink ? countOfText(change.after) : 0) - before;
 }
 
 } // namespace
@@ -134,6 +82,7 @@ MRVSourceChanges::MRVSourceChanges(const MRVManuscript &manuscript,
             after.replace(u'\r', u'\n').replace(u'\n', QChar::ParagraphSeparator);
         }
         one.block = manuscript.document->findBlock(wanted.range.start()).blockNumber();
+        one.linkedCharacters = linkedCharacters(*manuscript.document, one.change);
         m_changes.append(one);
     }
 }
@@ -191,7 +140,9 @@ MRVSourceChanges::Edits MRVSourceChanges::editsOf(const MRVTextChange &change) c
     for (int position = start; position < end; ++position) {
         const int i = position - start;
         const QString part = isSingle ? text.mid(i, 1) : i == 0 ? text : QString();
-        if (isSingle && keepsEnds && part.at(0) == before.at(head + i)) {
+        // What stays the same stays in the source, as do the blanks in text that gets a format.
+        if (isSingle && part.at(0) == before.at(head + i)
+            && (keepsEnds || mrvIsMarkupBlank(part.at(0)))) {
             continue;
         }
         const MRVSourcePlace place = m_places.value(position);
@@ -274,80 +225,111 @@ bool MRVSourceChanges::settle()
     for (Change &change : m_changes) {
         findWays(&change);
     }
-    int trials = 0;
     // Without the changes in paragraphs that would be read in another way, the rest is read back.
-    for (;; ++trials) {
+    if (!suspendDiffering()) {
+        return false;
+    }
+    for (int trials = 0; trials < MostTrials && !m_groups.isEmpty(); ++trials) {
+        tryGroups();
+    }
+    const bool isReadBack = suspendDiffering();
+    for (Change &change : m_changes) {
+        if (change.state == State::Waiting) {
+            change.state = State::LeftOut;
+            change.misfit = MRVSourceMisfit::tr("too many others near it cannot be made");
+        }
+    }
+    return isReadBack;
+}
+
+bool MRVSourceChanges::suspendDiffering()
+{
+    for (;;) {
         const QSet<int> blocks = differingBlocks(edited());
         if (blocks.isEmpty()) {
-            break;
+            return true;
         }
-        if (trials == MostTrials || !suspendIn(blocks)) {
+        if (!suspendIn(blocks)) {
             return false;
         }
     }
-    // Of these, one in each paragraph at a time.
-    for (; trials < MostTrials && putOnTrial(); ++trials) {
-        judge(differingBlocks(edited()));
-    }
-    for (Change &change : m_changes) {
-        change.state = change.state == State::Waiting ? State::LeftOut : change.state;
-    }
-    return true;
 }
 
 // Leaves out for now what is in some paragraphs, or the last change before them.
 bool MRVSourceChanges::suspendIn(const QSet<int> &blocks)
 {
     const int first = *std::min_element(blocks.cbegin(), blocks.cend());
-    Change *before = nullptr;
+    int before = -1;
     bool isFound = false;
-    for (Change &change : m_changes) {
+    for (int i = 0; i < m_changes.size(); ++i) {
+        Change &change = m_changes[i];
         if (!change.isIn()) {
             continue;
         }
         if (blocks.contains(change.block)) {
-            change.state = State::Waiting;
+            suspend(i);
             isFound = true;
-        } else if (!before || change.block < first) {
-            before = &change;
+        } else if (before < 0 || change.block < first) {
+            before = i;
         }
     }
-    if (!isFound && before) {
-        before->state = State::Waiting;
+    if (!isFound && before >= 0) {
+        suspend(before);
     }
-    return isFound || before;
+    return isFound || before >= 0;
 }
 
-bool MRVSourceChanges::putOnTrial()
+void MRVSourceChanges::suspend(int index)
 {
-    int last = -1;
-    bool isFound = false;
-    for (Change &change : m_changes) {
-        if (change.state == State::Waiting && change.block != last) {
-            change.state = State::OnTrial;
-            last = change.block;
-            isFound = true;
-        }
+    Change &change = m_changes[index];
+    change.state = State::Waiting;
+    QVector<QVector<int>> &groups = m_groups[change.block];
+    if (groups.isEmpty()) {
+        groups.append(QVector<int>());
     }
-    return isFound;
+    groups.last().append(index);
 }
 
-// Decides on the changes that are on trial, when some paragraphs are not read back.
-void MRVSourceChanges::judge(const QSet<int> &blocks)
+// Tries a group of changes of each paragraph, or of one where they cannot be told apart. A group
+// with which the source is not read back is halved.
+void MRVSourceChanges::tryGroups()
 {
-    const bool isKnown =
-        std::any_of(m_changes.cbegin(), m_changes.cend(), [&](const Change &change) {
-            return change.state == State::OnTrial && blocks.contains(change.block);
-        });
-    for (Change &change : m_changes) {
-        if (change.state != State::OnTrial) {
-            continue;
+    QMap<int, QVector<int>> tried;
+    for (auto it = m_groups.begin(); it != m_groups.end() && (tried.isEmpty() || !m_isSerial);) {
+        const QVector<int> group = it->takeLast();
+        for (const int index : group) {
+            m_changes[index].state = State::OnTrial;
         }
-        if (blocks.isEmpty() || (isKnown && !blocks.contains(change.block))) {
-            change.state = State::Made;
-        } else {
+        tried.insert(it.key(), group);
+        it = it->isEmpty() ? m_groups.erase(it) : it + 1;
+    }
+    const QSet<int> blocks = differingBlocks(edited());
+    const bool isElsewhere = std::any_of(blocks.cbegin(), blocks.cend(),
+                                         [&](int block) { return !tried.contains(block); });
+    const bool isUndecided = isElsewhere && tried.size() > 1;
+    m_isSerial = m_isSerial || isUndecided;
+    for (auto it = tried.cbegin(); it != tried.cend(); ++it) {
+        judge(it.key(), it.value(), isUndecided, isElsewhere || blocks.contains(it.key()));
+    }
+}
+
+void MRVSourceChanges::judge(int block, const QVector<int> &group, bool isUndecided, bool isWrong)
+{
+    const bool isSingle = group.size() == 1;
+    for (const int index : group) {
+        Change &change = m_changes[index];
+        change.state = isUndecided || isWrong ? State::Waiting : State::Made;
+        if (isWrong && isSingle && !isUndecided) {
             change.fail();
         }
+    }
+    if (isUndecided) {
+        m_groups[block].append(group);
+    } else if (isWrong && !isSingle) {
+        m_groups[block].append(group.mid(group.size() / 2));
+        m_groups[block].append(group.mid(0, group.size() / 2));
+    } else if (isWrong && m_changes[group.first()].state == State::Waiting) {
+        m_groups[block].append(group);
     }
 }
 
@@ -405,19 +387,18 @@ QVector<MRVSourceMisfit> MRVSourceChanges::misfits() const
 {
     QVector<MRVSourceMisfit> misfits;
     int line = 1;
-    int done = 0;
+    int done = 0; // in the source
+    int position = 0;
     for (const Change &one : m_changes) {
-        if (one.isIn()) {
-            continue;
+        int start = done;
+        for (; position < m_places.size() && position <= one.change.range.start(); ++position) {
+            start = qMax(start, m_places.at(position).start);
         }
-        int position = one.change.range.start();
-        while (position > 0 && !m_places.value(position).isKnown()) {
-            --position;
-        }
-        const int start = qMax(done, m_places.value(position).start);
         line += m_source.midRef(done, start - done).count(u'\n');
         done = start;
-        misfits.append({one.change, m_places.isEmpty() ? 0 : line, one.misfit});
+        if (!one.isIn()) {
+            misfits.append({one.change, m_places.isEmpty() ? 0 : line, one.misfit});
+        }
     }
     return misfits;
 }
@@ -429,34 +410,29 @@ std::unique_ptr<QTextDocument> MRVSourceChanges::read(const QString &source,
                           nullptr, nullptr, font);
 }
 
-// The paragraphs in which the text of a source is not that of the document with the changes. Only
-// the first one where their number differs.
+// The paragraphs that a source does not have as the document has them with the changes.
 QSet<int> MRVSourceChanges::differingBlocks(const QString &source) const
 {
-    QString wanted;
-    wanted.reserve(m_text.size());
+    const bool isMarkup = m_manuscript.format != MRVManuscript::PlainText;
+    QString text;
+    text.reserve(m_text.size());
+    QHash<int, int> linked; // characters more or less, by block
     int done = 0;
     for (const Change &one : m_changes) {
         if (one.isIn()) {
-            wanted += m_text.midRef(done, one.change.range.start() - done);
-            wanted += one.change.after;
+            text += m_text.midRef(done, one.change.range.start() - done);
+            text += one.change.after;
             done = one.change.range.end();
+            linked[one.block] += one.linkedCharacters;
         }
     }
-    wanted += m_text.midRef(done);
-    const bool isMarkup = m_manuscript.format != MRVManuscript::PlainText;
+    text += m_text.midRef(done);
+    MRVParagraphs wanted = mrvParagraphs(*m_manuscript.document, text, isMarkup);
+    for (MRVParagraph &paragraph : wanted) {
+        paragraph.linkedCharacters += linked.value(paragraph.block);
+    }
     const auto document = read(source);
-    const Paragraphs left = paragraphsOf(wanted, isMarkup);
-    const Paragraphs right = paragraphsOf(document ? document->toRawText() : QString(), isMarkup);
-    const bool isSameCount = left.texts.size() == right.texts.size();
-    QSet<int> blocks;
-    for (int i = 0; i < left.texts.size() && (isSameCount || blocks.isEmpty()); ++i) {
-        if (right.texts.value(i) != left.texts.at(i) || i >= right.texts.size()) {
-            blocks.insert(left.blocks.at(i));
-        }
-    }
-    if (blocks.isEmpty() && !isSameCount) {
-        blocks.insert(left.blocks.isEmpty() ? 0 : left.blocks.constLast());
-    }
-    return blocks;
+    return mrvDifferingBlocks(wanted,
+                              document ? mrvParagraphs(*document, document->toRawText(), isMarkup)
+                                       : MRVParagraphs());
 }

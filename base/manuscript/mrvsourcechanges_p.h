@@ -5,8 +5,8 @@
 #include "util/mrvsourceplace.h"
 
 #include <QFont>
+#include <QMap>
 #include <QSet>
-#include <QStringList>
 #include <QTextDocument>
 #include <QVector>
 
@@ -61,6 +61,7 @@ private:
     {
         MRVTextChange change; // with the ends of lines that a document makes of it
         int block = 0;
+        int linkedCharacters = 0; // that it adds
         State state = State::Made;
         QVector<Edits> ways; // the first one that is read back is taken
         int way = 0;
@@ -75,9 +76,11 @@ private:
     Edits editsOf(const MRVTextChange &change) const;
     MRVSourcePlace insertionPlace(int position, bool prefersBefore) const;
     Edits withLinkLabel(const Edits &edits) const;
+    bool suspendDiffering();
     bool suspendIn(const QSet<int> &blocks);
-    bool putOnTrial();
-    void judge(const QSet<int> &blocks);
+    void suspend(int index);
+    void tryGroups();
+    void judge(int block, const QVector<int> &group, bool isUndecided, bool isWrong);
     QSet<int> differingBlocks(const QString &source) const;
     std::unique_ptr<QTextDocument> read(const QString &source, const QFont &font = QFont()) const;
 
@@ -87,4 +90,6 @@ private:
     const MRVSourceWriter m_writer;
     QVector<Change> m_changes;
     MRVSourcePlaces m_places;
+    QMap<int, QVector<QVector<int>>> m_groups; // of changes that wait, by block
+    bool m_isSerial = false; // a paragraph was wrong in which nothing was tried
 };

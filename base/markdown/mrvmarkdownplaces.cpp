@@ -116,7 +116,9 @@ void MRVMarkdownPlaces::findLines(int line, Text *text)
         const int start = lineEnd(line) - (end - begin);
         if (start >= lineStart(line)
             && m_markdown.indexOf(text->literal.mid(begin, end - begin), start) == start) {
-            for (int i = begin; i < end + (found < 0 ? 0 : 1); ++i) {
+            // The last line may lack its end.
+            const int stop = found < 0 || lineEnd(line) == m_markdown.size() ? end : end + 1;
+            for (int i = begin; i < stop; ++i) {
                 text->places[i] = {start + i - begin, 1, text->syntax};
             }
         }

@@ -3,6 +3,7 @@
 #include "office/mrvofficefields_p.h"
 #include "office/mrvofficertfcodecs_p.h"
 
+#include <QHash>
 #include <QSet>
 #include <QVector>
 
@@ -224,10 +225,12 @@ private:
         const QByteArray content = m_rtf.mid(inside, end - inside);
         const QByteArray name = content.trimmed();
         if (kind == 0) {
-            m_begun.insert(name);
-            addText(mrvCommentBegin(name));
+            // Some programs give one name to several comments.
+            const QByteArray unique = 'r' + QByteArray::number(m_ranges++);
+            m_begun.insert(name, unique);
+            addText(mrvCommentBegin(unique));
         } else if (kind == 1) {
-            addText(mrvCommentEnd(name));
+            addText(mrvCommentEnd(m_begun.value(name, name)));
         } else if (kind == 2) {
             m_author = mrvRtfText(content).trimmed();
         } else {
@@ -246,7 +249,9 @@ private:
         const int end = content.indexOf('}', begin);
         QByteArray name =
             content.contains(reference) ? content.mid(begin, end - begin).trimmed() : QByteArray();
-        if (!m_begun.contains(name)) { // it has no range
+        if (m_begun.contains(name)) {
+            name = m_begun.take(name);
+        } else { // it has no range
             name = '#' + QByteArray::number(m_comments.size());
             addText(mrvCommentBegin(name) + mrvCommentEnd(name));
         }
@@ -291,7 +296,8 @@ private:
     QChar m_high; // the first half of a character
     bool m_hasOpenField = false;
     bool m_hasOpenComment = false;
-    QSet<QByteArray> m_begun; // comments with a range
+    QHash<QByteArray, QByteArray> m_begun; // ranges whose comment has not come, with unique names
+    int m_ranges = 0;
     QString m_author; // of the next comment
     bool m_hasShapeText = false; // which its repetition for older programs also holds
 };

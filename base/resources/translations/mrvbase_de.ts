@@ -4310,6 +4310,10 @@ Fehler: %2</translation>
         <source>&quot;%1&quot; cannot be replaced: %2</source>
         <translation>„%1“ kann nicht ersetzt werden: %2</translation>
     </message>
+    <message>
+        <source>too many others near it cannot be made</source>
+        <translation>zu viele andere in ihrer Nähe sind nicht möglich</translation>
+    </message>
 </context>
 <context>
     <name>MRVStagedFiles</name>

@@ -4310,6 +4310,10 @@ Error: %2</translation>
         <source>&quot;%1&quot; cannot be replaced: %2</source>
         <translation>«%1» no se puede sustituir: %2</translation>
     </message>
+    <message>
+        <source>too many others near it cannot be made</source>
+        <translation>demasiados otros cerca no son posibles</translation>
+    </message>
 </context>
 <context>
     <name>MRVStagedFiles</name>

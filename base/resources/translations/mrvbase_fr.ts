@@ -4310,6 +4310,10 @@ Erreur&#xa0;: %2</translation>
         <source>&quot;%1&quot; cannot be replaced: %2</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être remplacé&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>too many others near it cannot be made</source>
+        <translation>trop d’autres à proximité sont impossibles</translation>
+    </message>
 </context>
 <context>
     <name>MRVStagedFiles</name>
