@@ -85,6 +85,7 @@ struct MRVFlowFrame
 class MRVBASE_EXPORT MRVDocumentFlow
 {
 public:
+    /** Looks through all of @p document once. */
     explicit MRVDocumentFlow(const QTextDocument &document);
 
     const QTextDocument &document;

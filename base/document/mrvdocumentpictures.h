@@ -40,7 +40,7 @@ public:
     static MRVDocumentPicture fromBytes(const QByteArray &bytes, QString *error = nullptr);
 
     /**
-     * The picture in a file, by whose name name() goes. The file is read again by bytes().
+     * The picture in the file @p path, by whose name name() goes. It is read again by bytes().
      *
      * @param error as for fromBytes().
      * @return type None on failure.

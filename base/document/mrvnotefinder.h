@@ -36,6 +36,7 @@ struct MRVBASE_EXPORT MRVMarkedNote
 class MRVBASE_EXPORT MRVNoteFinder
 {
 public:
+    /** Looks through all of @p flow once. */
     explicit MRVNoteFinder(const MRVDocumentFlow &flow);
 
     /** All notes, in order; each is looked for up to the next one, a heading or a rule. */

@@ -68,8 +68,8 @@ public:
      * @param file the same as for read(): style sheets can hide text.
      * @return one place for each character of the document's toRawText(). Not known are those of
      *         paragraphs' and lines' ends, pictures, text that the page only implies, such as the
-     *         marks around a quotation, and white space that stands in several places. Empty for a page
-     *         that read() refuses.
+     *         marks around a quotation, and white space that stands in several places. Empty for a
+     *         page that read() refuses.
      */
     static MRVSourcePlaces places(const QString &html, const QString &file);
 };

@@ -18,9 +18,11 @@ struct MRVSourcePlace
 
     int start = -1; ///< offset in UTF-16 units; negative: nowhere, or unknown
     int length = 0; ///< in units; 0 for what a character before it stands for, too
-    Syntax syntax = Plain;
+    Syntax syntax = Plain; ///< there
 
+    /** The offset after the last unit. */
     int end() const { return start + length; }
+    /** Whether the character stands anywhere. */
     bool isKnown() const { return start >= 0; }
 };
 
