@@ -9,6 +9,7 @@
 #include <QTextTable>
 #include <QtTest>
 
+#include <ctime>
 #include <functional>
 #include <utility>
 
@@ -245,6 +246,30 @@ private Q_SLOTS:
         QCOMPARE(flags(false), int(QTextOption::SuppressColors));
         MTextDoc::clearDefaultTextOptionFlags(&document);
         QCOMPARE(flags(false), 0);
+    }
+
+    // A cell that covers many places, with a table in it that has such a cell, and so on.
+    void nestedTablesToText()
+    {
+        const auto clocks = [](int levels) {
+            QTextDocument document;
+            QTextCursor cursor(&document);
+            for (int i = 0; i < levels; ++i) {
+                QTextTable *table = cursor.insertTable(4, 4);
+                table->mergeCells(0, 0, 4, 4);
+                cursor = table->cellAt(0, 0).firstCursorPosition();
+            }
+            cursor.insertText(QString("text\n").repeated(200));
+            const std::clock_t start = std::clock(); // of this process alone
+            MTextDoc::tablesToText(&document);
+            const double taken = std::clock() - start;
+            return document.rootFrame()->childFrames().isEmpty() ? taken : -1;
+        };
+        const double small = clocks(3);
+        QVERIFY(small > 0);
+        const double growth = clocks(6) / small;
+        QVERIFY2(growth > 0, "a table is left");
+        QVERIFY2(growth < 16, qPrintable(QString::number(growth)));
     }
 
     void numbersAndFinds()

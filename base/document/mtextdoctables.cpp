@@ -1,6 +1,5 @@
 #include "document/mtextdoc.h"
 
-#include "text/mrvdocnavigator.h"
 #include "textformat/mrvtextformatchanges.h"
 
 #include <QTextBlock>
@@ -150,29 +149,33 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
     insertLines(cursor, lines, keepsBefore);
 }
 
+// Each table once, an outer one before those in its cells, which a walk over cells would meet again
+// for each place that a cell covers.
+std::vector<QTextTable *> tablesOf(const QTextDocument &document)
+{
+    std::vector<QTextTable *> tables;
+    std::vector<QTextFrame *> frames{document.rootFrame()};
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const QList<QTextFrame *> children = frames[i]->childFrames();
+        frames.insert(frames.end(), children.begin(), children.end());
+        if (auto *table = qobject_cast<QTextTable *>(frames[i])) {
+            tables.push_back(table);
+        }
+    }
+    return tables;
+}
+
 } // namespace
 
 void MTextDoc::tablesToText(QTextDocument *document)
 {
-    MRVTableCollector collector(document);
-    collector.navigate();
-    // The tables and not their ranges are kept: columns are walked before rows, so of two nested
-    // tables the one found later may come first, and its removal moves the other.
-    std::vector<QTextTable *> tables;
-    QSet<QTextTable *> seen;
-    const QList<MRVTextRange> ranges = collector.tables();
-    for (const MRVTextRange &range : ranges) {
-        auto table = qobject_cast<QTextTable *>(document->frameAt(range.start()));
-        if (table && !seen.contains(table)) {
-            seen.insert(table);
-            tables.push_back(table);
-        }
-    }
+    const auto tables = document ? tablesOf(*document) : std::vector<QTextTable *>();
     if (tables.empty()) {
         return;
     }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
+    // The tables and not their ranges are kept: the removal of one moves others.
     for (auto it = tables.rbegin(); it != tables.rend(); ++it) {
         replaceByText(&cursor, **it);
     }
