@@ -96,7 +96,7 @@ void MRVEPubWriter::writeFlow(int begin, int end)
 // Writes a table or a frame, and a caption below it; returns where they end.
 int MRVEPubWriter::writeFramePlace(int frame, int end)
 {
-    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    const MRVFlowFrame &place = m_flow.frames.at(frame);
     if (m_notes.isMoved(place.begin) && m_openNote < 0) {
         return place.end;
     }
@@ -129,7 +129,7 @@ bool MRVEPubWriter::isWritten(int paragraph, int begin, int end) const
     if (m_notes.isMoved(paragraph) && m_openNote < 0) {
         return false;
     }
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     if (place.length > 0 || place.list >= 0 || m_flow.hasRule(paragraph)) {
         return true;
     }
@@ -140,7 +140,7 @@ bool MRVEPubWriter::isWritten(int paragraph, int begin, int end) const
 
 int MRVEPubWriter::writeBlock(int paragraph, int end)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     arrange(paragraph);
     if (m_flow.hasRule(paragraph)) {
         m_out.append(QLatin1String("<hr />\n"));
@@ -213,7 +213,7 @@ void MRVEPubWriter::openQuotes(int level)
 // Closes and opens lists and quotations until the paragraph can be written.
 void MRVEPubWriter::arrange(int paragraph)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const MRVEPubParagraphFormat format = m_formats.paragraph(place.format);
     if (place.list >= 0) {
         arrangeItem(place, format);
@@ -238,7 +238,7 @@ void MRVEPubWriter::arrangeIn(int quoteLevel, int indent)
     openQuotes(quoteLevel);
 }
 
-void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
+void MRVEPubWriter::arrangeItem(const MRVFlowParagraph &paragraph,
                                 const MRVEPubParagraphFormat &format)
 {
     const QTextListFormat::Style style = listStyle(paragraph);
@@ -279,18 +279,18 @@ void MRVEPubWriter::arrangeItem(const MRVEPubParagraph &paragraph,
     openQuotes(format.quoteLevel);
 }
 
-QTextListFormat MRVEPubWriter::listFormat(const MRVEPubParagraph &paragraph) const
+QTextListFormat MRVEPubWriter::listFormat(const MRVFlowParagraph &paragraph) const
 {
     return m_flow.document.object(paragraph.list)->format().toListFormat();
 }
 
-QTextListFormat::Style MRVEPubWriter::listStyle(const MRVEPubParagraph &paragraph) const
+QTextListFormat::Style MRVEPubWriter::listStyle(const MRVFlowParagraph &paragraph) const
 {
     return MRVTextListFormat::shownStyle(listFormat(paragraph), paragraph.listLevel);
 }
 
 // How deep an item stands in lists, levels included; as many are open around it at most.
-int MRVEPubWriter::listDepth(const MRVEPubParagraph &paragraph) const
+int MRVEPubWriter::listDepth(const MRVFlowParagraph &paragraph) const
 {
     constexpr int Deepest = 1000;
     return listFormat(paragraph).indent() + qMin(paragraph.listLevel, Deepest);
@@ -303,7 +303,7 @@ bool MRVEPubWriter::isDeep() const
     return m_depth + InList * m_containers.size() > Deepest;
 }
 
-void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
+void MRVEPubWriter::openList(const MRVFlowParagraph &paragraph)
 {
     const QTextListFormat::Style style = listStyle(paragraph);
     const ListType &type = listType(style);
@@ -333,7 +333,7 @@ void MRVEPubWriter::openList(const MRVEPubParagraph &paragraph)
     m_containers.append(list);
 }
 
-void MRVEPubWriter::openItem(const MRVEPubParagraph &paragraph,
+void MRVEPubWriter::openItem(const MRVFlowParagraph &paragraph,
                              const MRVEPubParagraphFormat &format)
 {
     Container &list = m_containers.last();
@@ -375,7 +375,7 @@ int MRVEPubWriter::writeClass(int look)
 void MRVEPubWriter::writeAttributes(int paragraph, const MRVEPubContext &context,
                                     const QByteArray &id)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     QByteArray own = id;
     const int last = m_flow.paragraphs.at(paragraph + 1).firstFragment;
     if (own.isEmpty() && place.firstFragment < last) {
@@ -485,7 +485,7 @@ int MRVEPubWriter::codeEnd(int paragraph, int end)
     const MRVEPubParagraphFormat first = m_formats.paragraph(format);
     int last = paragraph + 1;
     for (; last < end; ++last) {
-        const MRVEPubParagraph &place = m_flow.paragraphs.at(last);
+        const MRVFlowParagraph &place = m_flow.paragraphs.at(last);
         const MRVEPubParagraphFormat &next = m_formats.paragraph(place.format);
         const bool goesOn = next.isPreformatted && place.list < 0 && frameAt(last) < 0
             && next.quoteLevel == first.quoteLevel && next.look[Look::Top] == 0
@@ -529,12 +529,12 @@ int MRVEPubWriter::writePreformatted(int paragraph, int end)
 // Whether a paragraph shows pictures and nothing else.
 bool MRVEPubWriter::isPicture(int paragraph) const
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
     bool hasPicture = false;
     int position = place.position;
     for (int i = place.firstFragment; i < end; ++i) {
-        const MRVEPubFragment &fragment = m_flow.fragments.at(i);
+        const MRVFlowFragment &fragment = m_flow.fragments.at(i);
         const QTextFormat &format = m_flow.formats.at(fragment.format);
         if (format.isImageFormat()) {
             hasPicture = true;
@@ -581,14 +581,14 @@ QPair<int, int> MRVEPubWriter::placeOf(int paragraph)
         return {format.intProperty(QTextFormat::BlockQuoteLevel),
                 format.intProperty(QTextFormat::BlockIndent)};
     }
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const MRVEPubParagraphFormat &format = m_formats.paragraph(place.format);
     return {format.quoteLevel, place.list < 0 ? format.indent : listDepth(place)};
 }
 
 bool MRVEPubWriter::isPlainText(int paragraph)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     return place.headingLevel == 0 && place.length > 0 && frameAt(paragraph) < 0
         && !m_formats.paragraph(place.format).isPreformatted && !m_flow.hasRule(paragraph)
         && !isPicture(paragraph) && !isSceneBreak(m_flow.textOf(place));

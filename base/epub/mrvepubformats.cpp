@@ -95,8 +95,8 @@ Key mostUsed(const QMap<Key, qint64> &uses, const Key &otherwise)
 
 } // namespace
 
-MRVEPubFormats::MRVEPubFormats(const MRVEPubFlow &flow, MRVEPubLooks *looks, MRVEPubVersion version,
-                               const QString &language)
+MRVEPubFormats::MRVEPubFormats(const MRVDocumentFlow &flow, MRVEPubLooks *looks,
+                               MRVEPubVersion version, const QString &language)
     : m_flow(flow)
     , m_looks(looks)
     , m_version(version)
@@ -112,7 +112,7 @@ void MRVEPubFormats::findBody()
     // Headings do not count, nor does code where there is other text.
     QVector<qint64> lengths(m_flow.formats.size());
     for (int i = 0; i < m_flow.count(); ++i) {
-        const MRVEPubParagraph &paragraph = m_flow.paragraphs.at(i);
+        const MRVFlowParagraph &paragraph = m_flow.paragraphs.at(i);
         const int end = m_flow.paragraphs.at(i + 1).firstFragment;
         for (int at = paragraph.firstFragment; at < end && paragraph.headingLevel == 0; ++at) {
             lengths[m_flow.fragments.at(at).format] += m_flow.fragments.at(at).length;
@@ -334,7 +334,7 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
                                           MRVEPubContext *context)
 {
     using Look = MRVEPubParagraphLook;
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const MRVEPubParagraphFormat &format = this->paragraph(place.format);
     Look look = format.look;
     look.kind = kind;
@@ -376,7 +376,7 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
 
 bool MRVEPubFormats::isRightToLeft(int paragraph)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const Qt::LayoutDirection direction = this->paragraph(place.format).direction;
     return direction == Qt::LayoutDirectionAuto ? m_flow.textOf(place).isRightToLeft()
                                                 : direction == Qt::RightToLeft;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "epub/mrvepubflow_p.h"
+#include "document/mrvdocumentflow.h"
 #include "epub/mrvepublooks_p.h"
 #include "epub/mrvepubmetadata.h"
 
@@ -81,7 +81,7 @@ struct MRVEPubContext
 class MRVEPubFormats
 {
 public:
-    MRVEPubFormats(const MRVEPubFlow &flow, MRVEPubLooks *looks, MRVEPubVersion version,
+    MRVEPubFormats(const MRVDocumentFlow &flow, MRVEPubLooks *looks, MRVEPubVersion version,
                    const QString &language);
 
     const MRVEPubTextFormat &text(int index);
@@ -106,7 +106,7 @@ private:
     int lineHeight(const QTextBlockFormat &format) const;
     double pixels(const QTextCharFormat &format) const;
 
-    const MRVEPubFlow &m_flow;
+    const MRVDocumentFlow &m_flow;
     MRVEPubLooks *const m_looks;
     const MRVEPubVersion m_version;
     const QString m_language;

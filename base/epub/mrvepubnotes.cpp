@@ -63,8 +63,8 @@ struct MRVEPubNotes::Finder
     // note and unlike the body's.
     bool endsNotes(int heading, int note) const
     {
-        const MRVEPubParagraph &place = flow.paragraphs.at(heading);
-        const MRVEPubParagraph &first = flow.paragraphs.at(note);
+        const MRVFlowParagraph &place = flow.paragraphs.at(heading);
+        const MRVFlowParagraph &first = flow.paragraphs.at(note);
         if (place.headingLevel == 0) {
             return false;
         }
@@ -123,12 +123,12 @@ struct MRVEPubNotes::Finder
     // of the same list that is no note.
     int itemEnd(int begin, int limit) const
     {
-        const MRVEPubParagraph &first = flow.paragraphs.at(begin);
+        const MRVFlowParagraph &first = flow.paragraphs.at(begin);
         const int indent = formats.paragraph(first.format).indent;
         int end = begin + 1;
         bool isOpen = false; // since a table
         for (int i = end; i < limit; ++i) {
-            const MRVEPubParagraph &next = flow.paragraphs.at(i);
+            const MRVFlowParagraph &next = flow.paragraphs.at(i);
             if (flow.isInFrame(i) || flow.isBlank(i)) {
                 isOpen = isOpen || flow.isInFrame(i);
                 continue;
@@ -181,7 +181,7 @@ struct MRVEPubNotes::Finder
 
     bool holdsMark(int paragraph) const
     {
-        const MRVEPubParagraph &place = flow.paragraphs.at(paragraph);
+        const MRVFlowParagraph &place = flow.paragraphs.at(paragraph);
         for (auto link = marked.linkAt(place.position);
              link != flow.links.end() && link->begin < place.position + place.length; ++link) {
             if (marked.targetOf(*link) >= 0
@@ -201,7 +201,7 @@ struct MRVEPubNotes::Finder
         bool isBody = true;
         for (int i = 0; i < flow.count(); ++i) {
             looks.append({leftOf(i), sizeOf(i)});
-            const MRVEPubParagraph &paragraph = flow.paragraphs.at(i);
+            const MRVFlowParagraph &paragraph = flow.paragraphs.at(i);
             if (flow.isInFrame(i)) {
                 continue;
             }
@@ -225,7 +225,7 @@ struct MRVEPubNotes::Finder
         int size = 0;
         int longest = 0;
         for (int i = flow.paragraphs.at(paragraph).firstFragment; i < end; ++i) {
-            const MRVEPubFragment &fragment = flow.fragments.at(i);
+            const MRVFlowFragment &fragment = flow.fragments.at(i);
             const int other = formats.text(fragment.format).look[MRVEPubTextLook::Size];
             size = fragment.length > longest ? other : size;
             longest = qMax(longest, fragment.length);
@@ -233,7 +233,7 @@ struct MRVEPubNotes::Finder
         return size;
     }
 
-    int depthOf(const MRVEPubParagraph &item) const
+    int depthOf(const MRVFlowParagraph &item) const
     {
         return flow.document.object(item.list)->format().toListFormat().indent();
     }
@@ -246,7 +246,7 @@ struct MRVEPubNotes::Finder
     }
 
     MRVEPubNotes &notes;
-    const MRVEPubFlow &flow;
+    const MRVDocumentFlow &flow;
     const MRVNoteFinder marked;
     MRVEPubFormats &formats;
     const QMap<int, QVector<int>> &candidates; // marks by the paragraph that they lead to
@@ -254,7 +254,7 @@ struct MRVEPubNotes::Finder
     Look body;
 };
 
-MRVEPubNotes::MRVEPubNotes(const MRVEPubFlow &flow, MRVEPubFormats *formats)
+MRVEPubNotes::MRVEPubNotes(const MRVDocumentFlow &flow, MRVEPubFormats *formats)
     : m_flow(flow)
 {
     if (!flow.links.isEmpty() && !flow.anchors.isEmpty()) {
@@ -313,7 +313,7 @@ bool MRVEPubNotes::isOnlyNotes(int begin, int end) const
 // rule goes altogether.
 void MRVEPubNotes::moveHeadings(int begin, int end)
 {
-    const MRVEPubParagraph &first = m_flow.paragraphs.at(begin);
+    const MRVFlowParagraph &first = m_flow.paragraphs.at(begin);
     const bool isRule = m_flow.hasRule(begin) && first.length == 0;
     if ((first.headingLevel == 0 && !isRule) || begin + 1 >= end) {
         return;

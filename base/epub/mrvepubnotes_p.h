@@ -1,6 +1,6 @@
 #pragma once
 
-#include "epub/mrvepubflow_p.h"
+#include "document/mrvdocumentflow.h"
 
 #include <QHash>
 #include <QVector>
@@ -27,7 +27,7 @@ struct MRVEPubNote
 class MRVEPubNotes
 {
 public:
-    MRVEPubNotes(const MRVEPubFlow &flow, MRVEPubFormats *formats);
+    MRVEPubNotes(const MRVDocumentFlow &flow, MRVEPubFormats *formats);
 
     const QVector<MRVEPubNote> &all() const { return m_notes; }
     /** The note that a link at this position is a mark of; -1: none. */
@@ -52,7 +52,7 @@ private:
     bool isOnlyNotes(int begin, int end) const;
     void moveHeadings(int begin, int end);
 
-    const MRVEPubFlow &m_flow;
+    const MRVDocumentFlow &m_flow;
     QVector<MRVEPubNote> m_notes; // by their first paragraph
     QHash<int, int> m_marks;
     QHash<int, int> m_begins;

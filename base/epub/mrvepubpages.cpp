@@ -14,8 +14,8 @@ constexpr int LargestPage = 1000000;
 
 } // namespace
 
-MRVEPubPages::MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats, const QString &title,
-                           bool isChapter)
+MRVEPubPages::MRVEPubPages(const MRVDocumentFlow &flow, MRVEPubFormats *formats,
+                           const QString &title, bool isChapter)
     : m_flow(flow)
     , m_bounds{0, flow.count()}
 {
@@ -47,7 +47,7 @@ void MRVEPubPages::readBlocks(MRVEPubFormats *formats)
             i = frame->end - 1;
             continue;
         }
-        const MRVEPubParagraph &paragraph = m_flow.paragraphs.at(i);
+        const MRVFlowParagraph &paragraph = m_flow.paragraphs.at(i);
         const MRVEPubParagraphFormat &format = formats->paragraph(paragraph.format);
         m_blocks.append(
             {i, paragraph.headingLevel, breaks || format.breaksBefore, m_flow.isBlank(i)});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "epub/mrvepubflow_p.h"
+#include "document/mrvdocumentflow.h"
 
 #include <QVector>
 
@@ -22,7 +22,7 @@ public:
      * @param title of the book; the one heading that says it is not a chapter.
      * @param isChapter whether the document is a chapter or a part of the book.
      */
-    MRVEPubPages(const MRVEPubFlow &flow, MRVEPubFormats *formats, const QString &title,
+    MRVEPubPages(const MRVDocumentFlow &flow, MRVEPubFormats *formats, const QString &title,
                  bool isChapter);
 
     /** The first paragraph of each page; the first one is 0. */
@@ -51,7 +51,7 @@ private:
     template<typename IsStart>
     void cutPagesAbove(int size, IsStart isStart);
 
-    const MRVEPubFlow &m_flow;
+    const MRVDocumentFlow &m_flow;
     QVector<Block> m_blocks;
     QVector<int> m_bounds; // the starts and the end
     int m_firstLevel = 0;

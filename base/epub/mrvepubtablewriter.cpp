@@ -71,7 +71,7 @@ QByteArray frameRule(const QTextFrameFormat &format, double bodyPixels)
 
 void MRVEPubWriter::writeFrame(int frame)
 {
-    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    const MRVFlowFrame &place = m_flow.frames.at(frame);
     const int outside = std::exchange(m_openFrame, frame);
     const int depth = m_depth;
     constexpr int InTable = 4;
@@ -94,7 +94,7 @@ void MRVEPubWriter::writeFrame(int frame)
 
 void MRVEPubWriter::writeBox(int frame)
 {
-    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    const MRVFlowFrame &place = m_flow.frames.at(frame);
     const QByteArray rule = frameRule(place.frame->frameFormat(), m_formats.bodyPixels());
     const QByteArray name = m_book.looks.boxClass("frame", rule);
     m_out.append(name.isEmpty() ? QByteArray("<div>\n") : "<div class=\"" + name + "\">\n");
@@ -137,7 +137,7 @@ void MRVEPubWriter::writeTable(int frame)
 // Whether all that a table holds says that it goes from right to left, as its columns then do.
 bool MRVEPubWriter::isRightToLeft(int frame) const
 {
-    const MRVEPubFrame &place = m_flow.frames.at(frame);
+    const MRVFlowFrame &place = m_flow.frames.at(frame);
     return std::all_of(m_flow.paragraphs.begin() + place.begin,
                        m_flow.paragraphs.begin() + place.end, [this](const auto &paragraph) {
                            const QTextFormat &format = m_flow.formats.at(paragraph.format);

@@ -61,7 +61,7 @@ QString printedPage(const QString &name)
 // Returns whether the text holds white space that a browser would swallow.
 bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
     m_isSpaced = false;
     m_isAfterBlank = true;
@@ -164,7 +164,7 @@ void MRVEPubWriter::writeComment(const Comment &comment)
 
 void MRVEPubWriter::writeFragment(int index, int end, int position, const MRVEPubContext &context)
 {
-    const MRVEPubFragment &fragment = m_flow.fragments.at(index);
+    const MRVFlowFragment &fragment = m_flow.fragments.at(index);
     const MRVEPubTextFormat &format = m_formats.text(fragment.format);
     const Needs needs = needsOf(fragment.format, context);
     closeUnfit(needs);
@@ -428,7 +428,7 @@ QByteArray MRVEPubWriter::uniqueId(const QString &name)
     return m_book.uniqueIds.idFor(name).toUtf8();
 }
 
-void MRVEPubWriter::writePicture(const MRVEPubFragment &fragment, const QByteArray &id)
+void MRVEPubWriter::writePicture(const MRVFlowFragment &fragment, const QByteArray &id)
 {
     const QTextImageFormat format = m_flow.formats.at(fragment.format).toImageFormat();
     const QString path = m_pictures.value(MRVTextFormat::imageResourceId(format));

@@ -17,12 +17,12 @@ constexpr int LongestTitleLine = 80;
 
 // Whether the book has its title from this document, one of several, which is headed by it: that is
 // then the title of a chapter.
-bool isTitleOfChapter(const MRVEPubBook &book, const MRVEPubFlow &flow)
+bool isTitleOfChapter(const MRVEPubBook &book, const MRVDocumentFlow &flow)
 {
     const QString own = flow.document.metaInformation(QTextDocument::DocumentTitle);
     const auto heading =
         std::find_if(flow.paragraphs.begin(), flow.paragraphs.end(),
-                     [](const MRVEPubParagraph &paragraph) { return paragraph.headingLevel > 0; });
+                     [](const MRVFlowParagraph &paragraph) { return paragraph.headingLevel > 0; });
     return book.options.areChapters && own.simplified() == book.title()
         && heading != flow.paragraphs.end()
         && flow.textOf(*heading).toString().simplified() == book.title();
@@ -30,7 +30,7 @@ bool isTitleOfChapter(const MRVEPubBook &book, const MRVEPubFlow &flow)
 
 } // namespace
 
-MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
+MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVDocumentFlow &flow,
                              const QHash<QString, QString> &pictures, const QString &title)
     : m_book(*book)
     , m_flow(flow)
@@ -61,7 +61,7 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
         book->metadata.title = mrvDocumentTitle(document, QString());
     }
     const bool isFirst = book->pages.isEmpty();
-    const MRVEPubFlow flow(document);
+    const MRVDocumentFlow flow(document);
     const bool isStated = isTitleKnown && !isTitleOfChapter(*book, flow);
     MRVEPubWriter(book, flow, pictures, isStated ? book->title() : QString()).write(fileName);
     if (isFirst) {
@@ -144,7 +144,7 @@ void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)
 int MRVEPubWriter::shownEnd(int begin, int end)
 {
     const auto isShown = [this](int paragraph) {
-        const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+        const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
         const int last = m_flow.paragraphs.at(paragraph + 1).firstFragment;
         bool isTarget = false;
         for (int i = place.firstFragment; i < last; ++i) {
@@ -260,7 +260,7 @@ bool MRVEPubWriter::isTitle(int heading, int end, const MRVEPubPages &plan) cons
     }
     return m_flow.paragraphs.at(heading).headingLevel < plan.firstLevel()
         && std::all_of(m_flow.paragraphs.begin() + heading + 1, m_flow.paragraphs.begin() + end,
-                       [](const MRVEPubParagraph &paragraph) {
+                       [](const MRVFlowParagraph &paragraph) {
                            return paragraph.length <= LongestTitleLine;
                        });
 }
@@ -281,17 +281,17 @@ void MRVEPubWriter::openSection(const MRVEPubSection &section)
 // What a heading says, pictures by their texts, without the marks of notes.
 QString MRVEPubWriter::headingText(int paragraph) const
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(paragraph);
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     return plainText(place.position, place.position + place.length);
 }
 
 QString MRVEPubWriter::plainText(int begin, int end) const
 {
-    const MRVEPubParagraph &place = m_flow.paragraphs.at(m_flow.paragraphAt(begin));
+    const MRVFlowParagraph &place = m_flow.paragraphs.at(m_flow.paragraphAt(begin));
     QString text;
     int position = place.position;
     for (int i = place.firstFragment; position < end; ++i) {
-        const MRVEPubFragment &fragment = m_flow.fragments.at(i);
+        const MRVFlowFragment &fragment = m_flow.fragments.at(i);
         const QTextFormat &format = m_flow.formats.at(fragment.format);
         if (position < begin) {
             position += fragment.length;
@@ -311,7 +311,7 @@ QString MRVEPubWriter::plainText(int begin, int end) const
 void MRVEPubWriter::addPlates()
 {
     QSet<QString> known;
-    for (const MRVEPubLink &link : m_flow.links) {
+    for (const MRVFlowLink &link : m_flow.links) {
         if (!known.contains(link.address)) {
             known.insert(link.address);
             m_book.addPlate(link.address, plainText(link.begin, link.end), m_targets.path);
@@ -352,7 +352,7 @@ void MRVEPubWriter::writeNotes()
 void MRVEPubWriter::writeNote(int note, int end)
 {
     const MRVEPubNote &place = m_notes.all().at(note);
-    const MRVEPubParagraph &first = m_flow.paragraphs.at(place.begin);
+    const MRVFlowParagraph &first = m_flow.paragraphs.at(place.begin);
     const QByteArray id = first.length > 0
         ? takeId(m_flow.fragments.at(first.firstFragment).format, place.name)
         : QByteArray();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "document/mrvdocumentflow.h"
 #include "epub/mrvepubbook_p.h"
-#include "epub/mrvepubflow_p.h"
 #include "epub/mrvepubformats_p.h"
 #include "epub/mrvepubmarkup_p.h"
 #include "epub/mrvepubnotes_p.h"
@@ -80,7 +80,7 @@ private:
     };
 
     // Pictures are paths in the package by resource id; empty for those that it cannot hold.
-    MRVEPubWriter(MRVEPubBook *book, const MRVEPubFlow &flow,
+    MRVEPubWriter(MRVEPubBook *book, const MRVDocumentFlow &flow,
                   const QHash<QString, QString> &pictures, const QString &title);
 
     // Pages: mrvepubwriter.cpp
@@ -114,9 +114,9 @@ private:
     bool isWritten(int paragraph, int begin, int end) const;
     void arrange(int paragraph);
     void arrangeIn(int quoteLevel, int indent);
-    void arrangeItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
-    void openList(const MRVEPubParagraph &paragraph);
-    void openItem(const MRVEPubParagraph &paragraph, const MRVEPubParagraphFormat &format);
+    void arrangeItem(const MRVFlowParagraph &paragraph, const MRVEPubParagraphFormat &format);
+    void openList(const MRVFlowParagraph &paragraph);
+    void openItem(const MRVFlowParagraph &paragraph, const MRVEPubParagraphFormat &format);
     void openQuotes(int level);
     void closeContainers(int count);
     int usedIndent() const;
@@ -131,9 +131,9 @@ private:
     bool isPlainText(int paragraph);
     bool standsWith(int first, int second);
     QPair<int, int> placeOf(int paragraph);
-    QTextListFormat listFormat(const MRVEPubParagraph &paragraph) const;
-    QTextListFormat::Style listStyle(const MRVEPubParagraph &paragraph) const;
-    int listDepth(const MRVEPubParagraph &paragraph) const;
+    QTextListFormat listFormat(const MRVFlowParagraph &paragraph) const;
+    QTextListFormat::Style listStyle(const MRVFlowParagraph &paragraph) const;
+    int listDepth(const MRVFlowParagraph &paragraph) const;
     bool isTableCaption(int frame, int paragraph);
     void writeCaption(int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
@@ -169,7 +169,7 @@ private:
     void beginLink(int index, int end, const Needs &needs, const MRVEPubContext &context);
     void openLink(int link, int position, QByteArray *id);
     void closeElements(int count);
-    void writePicture(const MRVEPubFragment &fragment, const QByteArray &id);
+    void writePicture(const MRVFlowFragment &fragment, const QByteArray &id);
     QByteArray pictureAttributes(const QTextImageFormat &format) const;
     QByteArray takeId(int format, const QString &preferred = QString());
     void writePageBreaks(int format);
@@ -181,7 +181,7 @@ private:
     }
 
     MRVEPubBook &m_book;
-    const MRVEPubFlow &m_flow;
+    const MRVDocumentFlow &m_flow;
     const QHash<QString, QString> &m_pictures;
     const QString m_title; // of the book, where one is stated
     const bool m_isEPub3;
