@@ -438,9 +438,19 @@ private Q_SLOTS:
         QVERIFY(X(&document).toFile(X::Xhtml, folder.filePath("sub.xhtml"), true,
                                     folder.filePath("deep/pics")));
         QVERIFY(bytesOf(folder.filePath("sub.xhtml")).contains(" src=\"deep/pics/id1.png\""));
+        // What is there and the same is used again, and outlives a page that cannot be written.
         QString own = document.toHtml();
+        QVERIFY(QDir().mkdir(folder.filePath("page")));
+        QVERIFY(!X(&document).toFile(X::Xhtml, folder.filePath("page"), true,
+                                     folder.filePath("deep/pics")));
+        X(&document).exportDocImages(folder.filePath("deep/pics"), &own, "PNG");
+        QCOMPARE(own.count(" src=\"pics/id1.png\""), 2);
+        QVERIFY(writeBytes(folder.filePath("deep/pics/id1.png"), "another"));
+        own = document.toHtml();
         X(&document).exportDocImages(folder.filePath("deep/pics"), &own, "PNG");
         QCOMPARE(own.count(" src=\"pics/id1-1.png\""), 2); // the name was taken
+        QCOMPARE(bytesOf(folder.filePath("deep/pics/id1.png")), QByteArray("another"));
+        QCOMPARE(QDir(folder.filePath("deep/pics")).entryList(QDir::Files).size(), 3);
         QTextImageFormat image;
         image.setName("id1");
         own = document.toHtml();

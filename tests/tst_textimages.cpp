@@ -270,7 +270,9 @@ private Q_SLOTS:
         QCOMPARE(QImage(path("Rose.png")).pixelColor(0, 0), QColor(Qt::red));
         QCOMPARE(QImage(path("Rose-1.png")).pixelColor(0, 0), QColor(Qt::blue));
         const QString mmd = "/m/d/Rose.png|/m/d/Rose-1.png|/m/d/A-b.png|/m/d/A-b-1.png";
-        QCOMPARE(names(MTextDoc::exportImagesToMmd(document, path("m/d"))), mmd);
+        for (int i = 0; i < 2; ++i) { // no more files for the second time
+            QCOMPARE(names(MTextDoc::exportImagesToMmd(document, path("m/d"))), mmd);
+        }
         QCOMPARE(names(MTextDoc::exportImages(document, path("m/e"), true)).replace("/e/", "/d/"),
                  mmd);
 

@@ -134,16 +134,17 @@ public:
      * @param used if given, paths that are taken: a file of such a path gets a free name beside it.
      * @param folder made where it does not exist.
      * @return the path that was written; empty for an image without a picture or a name, and on
-     * failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image links to a
-     * file of that suffix, which is copied.
+     * failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image has bytes of
+     * that type or links to a file of that suffix.
      */
     static QString exportImageFormat(const QTextDocument &document, const QTextImageFormat &format,
                                      const QDir &folder, bool mmd, const QSet<QString> *used);
 
     /**
      * Writes each image of the document into @p folder as exportImageFormat() does, each to a file
-     * of its own and none over a file that another image links to. The folder is made where needed,
-     * but not for a document without images.
+     * of its own and none over a file that another image links to. An image that needs a number is
+     * not written where a file of before holds its bytes. The folder is made where needed, but not
+     * for a document without images.
      *
      * @param mmd see exportImageFormat().
      * @return the paths that were written, in document order.

@@ -1,6 +1,7 @@
 #include "document/mtextdoc.h"
 
 #include "core/mrvcoreutil.h"
+#include "document/mrvpicturefiles.h"
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 #include "textformat/mrvtextformat.h"
@@ -260,6 +261,16 @@ QString targetPath(const QTextImageFormat &format, const QDir &folder, bool mmd)
     return folder.filePath(fileName(name, suffix));
 }
 
+// Writes an image beside the file of its name, which is another's.
+QString writeNumbered(const QTextDocument &document, const QTextImageFormat &format,
+                      const QString &target, MRVPictureFiles *files)
+{
+    const QImage picture = MRVTextFormat::image(document, format);
+    const QByteArray bytes =
+        picture.isNull() ? QByteArray() : MRVTextFormat::imageFileBytes(target, format, picture);
+    return bytes.isEmpty() ? QString() : files->write(target, bytes);
+}
+
 // The file that an image links to, or empty where there is none.
 QString linkedFile(const QTextImageFormat &format)
 {
@@ -492,17 +503,23 @@ QStringList MTextDoc::exportImages(const QTextDocument &document, const QString 
 
     QStringList paths;
     QSet<QString> used;
+    MRVPictureFiles files;
     for (const QTextImageFormat &format : formats) {
         const QString target = targetPath(format, dir, mmd);
         const QString file = QFileInfo(target).canonicalFilePath();
-        QSet<QString> taken{target};
         const bool linked = !file.isEmpty() && links.contains(file) && linkedFile(format) != file;
-        const QString path = exportImageFormat(document, format, dir, mmd, linked ? &taken : &used);
-        if (path.isEmpty()) {
-            continue;
+        QString path;
+        if (linked || used.contains(target)) {
+            files.take(target);
+            path = writeNumbered(document, format, target, &files);
+        } else {
+            path = exportImageFormat(document, format, dir, mmd, nullptr);
         }
-        paths << path;
-        used.insert(path);
+        if (!path.isEmpty()) {
+            paths << path;
+            used.insert(path);
+            files.take(path);
+        }
     }
     return paths;
 }

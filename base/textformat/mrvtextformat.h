@@ -302,12 +302,19 @@ public:
     static QImage image(const QTextDocument &document, const QTextImageFormat &format);
 
     /**
-     * Writes one image of a document to a file.
+     * What to write to the file @p fileName for one image of a document.
      *
-     * In this order: a copy of the linked file, where it exists and has the suffix of @p fileName;
-     * the bytes as they were inserted, for a JPEG file; @p image encoded in the format that the
-     * suffix names (JPEG at quality 100, transparency on white). Where @p fileName is the linked
-     * file itself, nothing is done.
+     * The first that there is of: the linked file, where it has the suffix of @p fileName; the
+     * bytes as they were inserted, for a JPEG file; @p image encoded in the format that the suffix
+     * names (JPEG at quality 100, transparency on white); the bytes as they were inserted, where
+     * they are in that format. Empty without any of them.
+     */
+    static QByteArray imageFileBytes(const QString &fileName, const QTextImageFormat &format,
+                                     const QImage &image);
+
+    /**
+     * Writes imageFileBytes() of one image to the file @p fileName. Where that is the linked file
+     * itself, nothing is done.
      *
      * An existing file is removed first, so that a failed export leaves no stale file behind.
      *

@@ -31,11 +31,9 @@ QByteArray rawDataOfType(const QTextImageFormat &format, const QString &suffix)
     return isOfType ? raw : QByteArray();
 }
 
-bool copyFile(const QString &from, const QString &to)
+QByteArray bytesOfFile(const QString &path)
 {
-    QString error;
-    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(from, &error);
-    return error.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, to);
+    return QFileInfo(path).isFile() ? MRVCoreUtil::ReadBinaryFile(path) : QByteArray();
 }
 
 } // namespace
@@ -79,6 +77,24 @@ QImage MRVTextFormat::image(const QTextDocument &document, const QTextImageForma
     return MRVGuardedDocument::picture(document, QUrl(imageResourceId(format)));
 }
 
+QByteArray MRVTextFormat::imageFileBytes(const QString &fileName, const QTextImageFormat &format,
+                                         const QImage &image)
+{
+    const QString suffix = QFileInfo(fileName).suffix();
+    const QString link = imageLink(format);
+    QByteArray bytes = QFileInfo(link).suffix() == suffix ? bytesOfFile(link) : QByteArray();
+    const QString type = suffix.toUpper();
+    const bool jpeg = type == QLatin1String("JPEG") || type == QLatin1String("JPG");
+    if (bytes.isEmpty() && jpeg) {
+        bytes = imageRawData(format);
+    }
+    if (bytes.isEmpty()) {
+        bytes = MRVGuiUtil::toByteArray(image, type.toLatin1().constData(),
+                                        jpeg ? JpegQuality : DefaultQuality);
+    }
+    return bytes.isEmpty() ? rawDataOfType(format, suffix) : bytes; // Qt writes no GIF
+}
+
 bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageFormat &format,
                                       const QImage &image, QString *error)
 {
@@ -99,25 +115,7 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
         QFile::remove(fileName);
     }
 
-    const QString suffix = QFileInfo(fileName).suffix();
-    if (linked && QFileInfo(link).suffix() == suffix && copyFile(link, fileName)) {
-        return true;
-    }
-
-    const QString lower = fileName.toLower();
-    const bool jpeg =
-        lower.endsWith(QLatin1String(".jpeg")) || lower.endsWith(QLatin1String(".jpg"));
-    if (jpeg) {
-        const QByteArray raw = imageRawData(format);
-        if (!raw.isEmpty() && MRVCoreUtil::WriteBinaryFile(raw, fileName)) {
-            return true;
-        }
-    }
-    QByteArray bytes = MRVGuiUtil::toByteArray(image, suffix.toUpper().toLatin1().constData(),
-                                               jpeg ? JpegQuality : DefaultQuality);
-    if (bytes.isEmpty()) {
-        bytes = rawDataOfType(format, suffix); // Qt writes no GIF
-    }
+    const QByteArray bytes = imageFileBytes(fileName, format, image);
     if (bytes.isEmpty() && error) {
         *error = tr("The picture cannot be encoded for the file \"%1\".").arg(fileName);
     }

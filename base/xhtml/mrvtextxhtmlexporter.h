@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+class MRVPictureFiles;
 class QTextDocument;
 class QTextImageFormat;
 
@@ -317,22 +318,23 @@ public:
                         const char *format) const;
     /**
      * exportImage() for every image of the document, once for images that share a resource; makes
-     * the folder when there is an image to write.
+     * the folder when there is an image to write. A file of before that already holds an image
+     * under its name, with a number or without, is used again.
      *
      * The folder is @p dir; @p html and @p format are those of exportImage().
      *
-     * @return the paths of the files written.
+     * @return the paths of the files that hold the images.
      */
     QStringList exportDocImages(const QString &dir, QString *html, const char *format) const;
 
 private:
     QString pageText(const QString &html, ExportType type, const QString &title);
     QString writeImage(const QString &dir, const QTextImageFormat &imageFormat, const char *format,
-                       QString *error = nullptr) const;
+                       MRVPictureFiles *files, QString *error = nullptr) const;
     QStringList writeImages(const QString &dir, QString *html, const char *format,
-                            QStringList *failed) const;
+                            MRVPictureFiles *files, QStringList *failed = nullptr) const;
     QStringList writeKeptImages(const QString &dir, QString *html, const char *format,
-                                QStringList *failed) const;
+                                MRVPictureFiles *files, QStringList *failed) const;
     QString imageReference(const QString &file) const;
 
     const QTextDocument *m_document;

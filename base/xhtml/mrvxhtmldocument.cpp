@@ -2,6 +2,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "document/mrvdocumentpictures.h"
+#include "document/mrvpicturefiles.h"
 #include "document/mtextdoc.h"
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
@@ -84,7 +85,7 @@ QByteArray pageBytes(const MRVDocumentPicture &picture, bool asJpeg, QString *su
 
 // Writes a picture into a folder under its name; empty on failure.
 QString writeKept(const MRVDocumentPicture &picture, const QString &dir, const char *format,
-                  QString *error)
+                  MRVPictureFiles *files, QString *error)
 {
     QString suffix;
     QString reason;
@@ -97,8 +98,7 @@ QString writeKept(const MRVDocumentPicture &picture, const QString &dir, const c
     }
     const QString name = MRV::cleanFileName(picture.name());
     const QString file = (name.isEmpty() ? QStringLiteral("image") : name) + u'.' + suffix;
-    const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(file));
-    return MRVCoreUtil::WriteBinaryFile(bytes, path, error) ? path : QString();
+    return files->write(QDir(dir).filePath(file), bytes, error);
 }
 
 } // namespace
@@ -160,7 +160,7 @@ bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exp
         return false;
     }
     QString html = mrvDocumentHtml(*m_document);
-    QStringList written;
+    MRVPictureFiles files;
     QString newFolder;
     m_unwrittenImages.clear();
     if (exportImages) {
@@ -169,14 +169,14 @@ bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exp
         m_pageDir = QFileInfo(path).absolutePath();
         const auto write = m_keepsPictures ? &MRVTextXhtmlExporter::writeKeptImages
                                            : &MRVTextXhtmlExporter::writeImages;
-        written = (this->*write)(folder, &html, imageFormatOf(type), &m_unwrittenImages);
+        (this->*write)(folder, &html, imageFormatOf(type), &files, &m_unwrittenImages);
         m_pageDir.clear();
     }
     const QString title = mrvDocumentTitle(*m_document, QFileInfo(path).completeBaseName());
     const QString text = pageText(html, type, title);
     const bool ok = MRVCoreUtil::WriteUnicodeTextFile(text, path, error, "UTF-8");
     if (!ok) {
-        removeFiles(written, newFolder);
+        removeFiles(files.created(), newFolder);
     }
     return ok;
 }
@@ -208,7 +208,8 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
     MRVTextXhtmlExporter exporter(document);
     exporter.m_pageDir = QFileInfo(file).absolutePath();
     QString html = mrvDocumentHtml(*document);
-    const QStringList written = exporter.exportDocImages(folder, &html, imageFormatOf(type));
+    MRVPictureFiles files;
+    exporter.writeImages(folder, &html, imageFormatOf(type), &files);
 
     MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
     writer.reserveId(QStringLiteral("start"));
@@ -218,7 +219,7 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
     addDocAnchor(&html);
     const bool ok = MRVCoreUtil::WriteUnicodeTextFile(html, file, error, "UTF-8");
     if (!ok) {
-        removeFiles(written, newFolder);
+        removeFiles(files.created(), newFolder);
     }
     return ok;
 }
@@ -248,7 +249,8 @@ QString MRVTextXhtmlExporter::calcImageDir(const QString &path)
 }
 
 QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFormat &imageFormat,
-                                         const char *format, QString *error) const
+                                         const char *format, MRVPictureFiles *files,
+                                         QString *error) const
 {
     if (!m_document) {
         return QString();
@@ -262,8 +264,14 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
         name = QStringLiteral("image");
     }
     const QString fileName = name + u'.' + QString::fromLatin1(format).toLower();
-    const QString path = MRVCoreUtil::GetUniqueFileName(QDir(dir).filePath(fileName));
-    return MRVTextFormat::exportImageFormat(path, imageFormat, picture, error) ? path : QString();
+    const QByteArray bytes = MRVTextFormat::imageFileBytes(fileName, imageFormat, picture);
+    if (bytes.isEmpty()) {
+        MRV::fail(
+            error,
+            MRVTextFormat::tr("The picture cannot be encoded for the file \"%1\".").arg(fileName));
+        return QString();
+    }
+    return files->write(QDir(dir).filePath(fileName), bytes, error);
 }
 
 // The file as the page refers to it. Only characters that would end a path or begin an escape are
@@ -284,7 +292,8 @@ QString MRVTextXhtmlExporter::exportImage(const QString &dir, QString *html,
                                           const QTextImageFormat &imageFormat,
                                           const char *format) const
 {
-    const QString file = writeImage(dir, imageFormat, format);
+    MRVPictureFiles files;
+    const QString file = writeImage(dir, imageFormat, format, &files);
     if (!file.isEmpty() && html) {
         MRVHtmlText::replaceImageSources(
             html, {{MRVTextFormat::imageResourceId(imageFormat), imageReference(file)}});
@@ -295,15 +304,16 @@ QString MRVTextXhtmlExporter::exportImage(const QString &dir, QString *html,
 QStringList MRVTextXhtmlExporter::exportDocImages(const QString &dir, QString *html,
                                                   const char *format) const
 {
-    return writeImages(dir, html, format, nullptr);
+    MRVPictureFiles files;
+    return writeImages(dir, html, format, &files);
 }
 
 QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html, const char *format,
-                                              QStringList *failed) const
+                                              MRVPictureFiles *files, QStringList *failed) const
 {
-    QStringList files;
+    QStringList paths;
     if (!m_document) {
-        return files;
+        return paths;
     }
     QHash<QString, QString> references;
     QSet<QString> seen;
@@ -316,10 +326,10 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
         seen.insert(id);
         QDir().mkpath(dir);
         QString reason;
-        const QString file = writeImage(dir, imageFormat, format, &reason);
+        const QString file = writeImage(dir, imageFormat, format, files, &reason);
         if (!file.isEmpty()) {
             references.insert(id, imageReference(file));
-            files.append(file);
+            paths.append(file);
         } else if (failed) {
             failed->append(reason);
         }
@@ -327,24 +337,25 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
     if (html) {
         MRVHtmlText::replaceImageSources(html, references);
     }
-    return files;
+    return paths;
 }
 
 QStringList MRVTextXhtmlExporter::writeKeptImages(const QString &dir, QString *html,
-                                                  const char *format, QStringList *failed) const
+                                                  const char *format, MRVPictureFiles *files,
+                                                  QStringList *failed) const
 {
     const MRVDocumentPictures pictures(*m_document);
-    QStringList files;
+    QStringList paths;
     QStringList references; // by the place of the picture; empty where it was not written
     for (const MRVDocumentPicture &picture : pictures.all()) {
         QDir().mkpath(dir);
         QString reason;
-        const QString file = writeKept(picture, dir, format, &reason);
+        const QString file = writeKept(picture, dir, format, files, &reason);
         references.append(file.isEmpty() ? QString() : imageReference(file));
         if (file.isEmpty()) {
             failed->append(reason);
         } else {
-            files.append(file);
+            paths.append(file);
         }
     }
     QHash<QString, QString> byId;
@@ -356,5 +367,5 @@ QStringList MRVTextXhtmlExporter::writeKeptImages(const QString &dir, QString *h
         }
     }
     MRVHtmlText::replaceImageSources(html, byId);
-    return files;
+    return paths;
 }

@@ -225,12 +225,11 @@ bool MRVCoreUtil::isMissing(const QString &path)
     return ::stat(QFile::encodeName(path).constData(), &found) != 0 && errno == ENOENT;
 }
 
-QString MRVCoreUtil::GetUniqueFileName(const QString &path)
+QString MRVCoreUtil::NumberedFileName(const QString &path, int number)
 {
-    if (path.isEmpty() || !isTaken(path)) {
+    if (path.isEmpty() || number <= 0) {
         return path;
     }
-
     QString stem = path;
     while (stem.size() > 1 && stem.endsWith(QLatin1Char('/'))) {
         stem.chop(1);
@@ -245,22 +244,26 @@ QString MRVCoreUtil::GetUniqueFileName(const QString &path)
     }
     const QString folder = stem.left(nameStart);
     stem.remove(0, nameStart);
-    const auto numbered = [&](int number) {
-        return folder + shortened(stem, QLatin1Char('-') + QString::number(number) + suffix);
-    };
+    return folder + shortened(stem, QLatin1Char('-') + QString::number(number) + suffix);
+}
 
+QString MRVCoreUtil::GetUniqueFileName(const QString &path)
+{
+    if (path.isEmpty() || !isTaken(path)) {
+        return path;
+    }
     // Doubling and halving: a thousand pictures of one name must not cost half a million look-ups.
     int taken = 0;
     int free = 1;
-    while (isTaken(numbered(free))) {
+    while (isTaken(NumberedFileName(path, free))) {
         taken = free;
         free *= 2;
     }
     while (free - taken > 1) {
         const int middle = taken + (free - taken) / 2;
-        (isTaken(numbered(middle)) ? taken : free) = middle;
+        (isTaken(NumberedFileName(path, middle)) ? taken : free) = middle;
     }
-    return numbered(free);
+    return NumberedFileName(path, free);
 }
 
 QDate MRVCoreUtil::convertCompileStringDate(const QString &text)

@@ -75,10 +75,18 @@ public:
     static bool isMissing(const QString &path);
 
     /**
-     * @p path itself where nothing bears that name, else the path with a hyphen and a number from 1
-     * up put before the suffix: "cover.png", "cover-1.png", "cover-2.png". The suffix is what
-     * follows the last dot, up to 100 bytes; a name that only begins with a dot, and a folder, have
-     * none. Where the name would exceed 255 bytes, the end of what stands before the number goes.
+     * @p path with a hyphen and @p number put before the suffix: "cover-1.png"; @p path itself for
+     * a number that is not positive.
+     *
+     * The suffix is what follows the last dot, up to 100 bytes; a name that only begins with a dot,
+     * and a folder, have none. Where the name would exceed 255 bytes, the end of what stands before
+     * the number goes.
+     */
+    static QString NumberedFileName(const QString &path, int number);
+
+    /**
+     * @p path itself where nothing bears that name, else the first NumberedFileName() of it from 1
+     * up that is free: "cover.png", "cover-1.png", "cover-2.png".
      *
      * A symbolic link that leads nowhere counts as a file. The number is the first free one as long
      * as the numbers in use have no gaps; the search takes steps in the logarithm of their count.
