@@ -134,8 +134,8 @@ public:
      * @param used if given, paths that are taken: a file of such a path gets a free name beside it.
      * @param folder made where it does not exist.
      * @return the path that was written; empty for an image without a picture or a name, and on
-     * failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image has bytes of
-     * that type or links to a file of that suffix.
+     *         failure: also for a type that Qt cannot write (GIF or SVG, say), unless the image has
+     *         bytes of that type or links to a file of that suffix.
      */
     static QString exportImageFormat(const QTextDocument &document, const QTextImageFormat &format,
                                      const QDir &folder, bool mmd, const QSet<QString> *used);
