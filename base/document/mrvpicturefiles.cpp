@@ -8,7 +8,7 @@
 
 namespace {
 
-// Guards against accident rather than forgery, at a fifth of the time that SHA-256 takes.
+// Finds files that may be equal, whose bytes are compared then.
 constexpr QCryptographicHash::Algorithm Digest = QCryptographicHash::Sha1;
 
 // Empty for what is no file, and for one that cannot be read.
@@ -31,11 +31,12 @@ QString MRVPictureFiles::write(const QString &wanted, const QByteArray &bytes, Q
     for (;;) {
         if (numbered.held.contains(digest)) {
             const QString path = numbered.held.take(digest);
-            if (m_taken.contains(path)) {
-                continue; // by a picture that wanted another name
+            // A picture that wanted another name may have taken it.
+            if (!m_taken.contains(path) && MRVCoreUtil::ReadBinaryFile(path) == bytes) {
+                m_taken.insert(path);
+                return path;
             }
-            m_taken.insert(path);
-            return path;
+            continue;
         }
         const QString path = MRVCoreUtil::NumberedFileName(wanted, numbered.next);
         ++numbered.next;
