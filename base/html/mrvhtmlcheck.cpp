@@ -325,7 +325,8 @@ private:
             expectLink(address, lineOf(element));
             return;
         }
-        if (mrvIsImage(element)) {
+        // A drawing shows nothing in the place of a picture.
+        if (mrvIsImage(element) && element->v.element.tag_namespace == GUMBO_NAMESPACE_HTML) {
             m_words.add(mrvShownText(mrvAttributeOf(element, "alt")), lineOf(element),
                         expectWord());
         }
