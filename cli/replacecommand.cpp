@@ -271,7 +271,7 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
         printPreview(options, manuscript, changes);
     }
     // Also where nothing will be written, so that a dry run refuses what the real one would.
-    const auto mode = options.rewrite ? MRVSourceEdit::WriteAnew : MRVSourceEdit::KeepMarkup;
+    const auto mode = options.rewrite ? MRVSourceEdit::WriteWhole : MRVSourceEdit::KeepMarkup;
     QString reason;
     if ((!changes.isEmpty() || manuscript.isConverted())
         && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason,
@@ -359,10 +359,9 @@ const Command replaceCommand = {
     "replace text in manuscripts",
     "Replaces TEXT by NEW in manuscripts (HTML, Markdown or plain text; - is standard input). With "
     "-E, $1 in NEW stands for a group, $& for the whole match, \\# for its number; \\U, \\L and "
-    "\\E "
-    "begin and end capitals and small letters, \\u and \\l make the next letter one. Markup and "
-    "all other text stay as "
-    "they are. Without -o each file is replaced, and what it was is kept beside it as FILE~ (or "
+    "\\E begin and end capitals and small letters, \\u and \\l make the next letter one. Markup "
+    "and all other text stay as they are. Without -o each file is replaced, and what it was is "
+    "kept beside it as FILE~ (or "
     "FILE~1 and so on: no file but the input is overwritten); standard input goes to standard "
     "output. No file is written before all changes are ready.\n"
     "Exit code 1: nothing to replace.",

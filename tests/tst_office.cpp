@@ -96,7 +96,7 @@ private Q_SLOTS:
         QCOMPARE(same.document->toHtml(), read.document->toHtml());
         QByteArray bytes;
         QString error;
-        QVERIFY(!MRVSourceEdit::changedBytes(read, {}, MRVSourceEdit::WriteAnew, &bytes, &error));
+        QVERIFY(!MRVSourceEdit::changedBytes(read, {}, MRVSourceEdit::WriteWhole, &bytes, &error));
         QVERIFY(!error.isEmpty());
         QVERIFY(!reader.readBytes(read.bytes.left(read.bytes.size() / 2), "-", QString(), &same)
                 || format == "rtf");

@@ -15,6 +15,9 @@ namespace {
 // How often a source is read to find out which changes cannot be made.
 constexpr int MostTrials = 100;
 
+// How often paragraphs are looked for that are read in another way, before all changes wait.
+constexpr int MostRounds = 20;
+
 // Where the bracket is that closes, or with a negative step opens, the one around a place; -1
 // where there is none in this paragraph.
 int bracketFrom(const QString &markdown, int at, int step)
@@ -26,7 +29,8 @@ int bracketFrom(const QString &markdown, int at, int step)
     for (int i = at, last = at + step * Longest; i >= 0 && i < markdown.size() && i != last;
          i += step) {
         const QChar character = markdown.at(i);
-        const bool isEscaped = i > 0 && markdown.at(i - 1) == u'\\';
+        const bool isEscaped =
+            i > 0 && markdown.at(i - 1) == u'\\' && (i == 1 || markdown.at(i - 2) != u'\\');
         if (character == u'\n' && i + step >= 0 && i + step < markdown.size()
             && markdown.at(i + step) == u'\n') {
             return -1;
@@ -244,39 +248,31 @@ bool MRVSourceChanges::settle()
 
 bool MRVSourceChanges::suspendDiffering()
 {
-    for (;;) {
+    for (int round = 0;; ++round) {
         const QSet<int> blocks = differingBlocks(edited());
         if (blocks.isEmpty()) {
             return true;
         }
-        if (!suspendIn(blocks)) {
+        if (!suspendIn(round < MostRounds ? blocks : QSet<int>())) {
             return false;
         }
     }
 }
 
-// Leaves out for now what is in some paragraphs, or the last change before them.
+// Leaves out for now what is in some paragraphs, or all changes where none is in them.
 bool MRVSourceChanges::suspendIn(const QSet<int> &blocks)
 {
-    const int first = *std::min_element(blocks.cbegin(), blocks.cend());
-    int before = -1;
+    const bool isAll = std::none_of(m_changes.cbegin(), m_changes.cend(), [&](const Change &one) {
+        return one.isIn() && blocks.contains(one.block);
+    });
     bool isFound = false;
     for (int i = 0; i < m_changes.size(); ++i) {
-        Change &change = m_changes[i];
-        if (!change.isIn()) {
-            continue;
-        }
-        if (blocks.contains(change.block)) {
+        if (m_changes[i].isIn() && (isAll || blocks.contains(m_changes[i].block))) {
             suspend(i);
             isFound = true;
-        } else if (before < 0 || change.block < first) {
-            before = i;
         }
     }
-    if (!isFound && before >= 0) {
-        suspend(before);
-    }
-    return isFound || before >= 0;
+    return isFound;
 }
 
 void MRVSourceChanges::suspend(int index)
@@ -355,7 +351,7 @@ QString MRVSourceChanges::edited() const
     return result + m_source.midRef(done);
 }
 
-bool MRVSourceChanges::writeAnew(QString *text) const
+bool MRVSourceChanges::writeWhole(QString *text) const
 {
     QVector<MRVTextChange> changes;
     for (const Change &one : m_changes) {

@@ -43,7 +43,7 @@ public:
      *
      * @return false where the encoding lacks a character.
      */
-    bool writeAnew(QString *text) const;
+    bool writeWhole(QString *text) const;
     /** Whether a source has the text of the document with the changes that are not left out. */
     bool isReadBack(const QString &source) const { return differingBlocks(source).isEmpty(); }
 

@@ -6,6 +6,8 @@
 
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace {
 
 // Names the first of the changes that do not fit.
@@ -54,8 +56,15 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
     }
     QString text;
     bool isReadBack = false;
-    if (mode == WriteAnew) {
-        if (!changes.writeAnew(&text)) {
+    if (mode == WriteWhole) {
+        const auto setsFormat = [](const MRVTextChange &change) {
+            return !change.format.isEmpty();
+        };
+        if (manuscript.format != MRVManuscript::Html
+            && std::any_of(wanted.cbegin(), wanted.cend(), setsFormat)) {
+            return MRV::fail(error, tr("only HTML can be written as a whole with new formats"));
+        }
+        if (!changes.writeWhole(&text)) {
             return MRV::fail(error,
                              tr("the encoding %1 does not have all characters of the new text")
                                  .arg(QString::fromLatin1(manuscript.encoding)));

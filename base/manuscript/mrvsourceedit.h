@@ -24,7 +24,7 @@ public:
 
     enum Mode {
         KeepMarkup, ///< changes the text alone
-        WriteAnew, ///< writes the whole document; what it does not hold, as style sheets, is lost
+        WriteWhole, ///< writes the whole document; what it does not hold, as style sheets, is lost
     };
 
     /**
@@ -33,7 +33,8 @@ public:
      * The result is read once more, and its text is that of the document with these changes;
      * paragraphs that they have emptied may be gone. A change that would make another text of it
      * is a misfit, as is one that does not fit into the markup, such as a new paragraph in HTML, or
-     * that the encoding has no characters for. The manuscript itself is not changed.
+     * that the encoding has no characters for. Of formats, bold, italic and backgrounds have markup
+     * in HTML and Markdown. The manuscript itself is not changed.
      *
      * @param manuscript its document is as it was read.
      * @param changes    of MRVTextReplacer::preview() for that document, in document order; some
@@ -43,7 +44,8 @@ public:
      *                   file; untouched on success.
      * @param misfits    if given, receives the changes that are left out since they do not fit, in
      *                   document order; else one of them is a failure.
-     * @return false when a change does not fit, when the changes overlap or belong to another text,
+     * @return false when a change does not fit, when one has a format and something else than HTML
+     *         is written as a whole, when the changes overlap or belong to another text,
      *         when the bytes are not what their encoding would write, and where
      *         MRVManuscript::isConverted().
      */

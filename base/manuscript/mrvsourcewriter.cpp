@@ -101,8 +101,12 @@ bool MRVSourceWriter::mark(const QTextCharFormat &format, MRVSourcePlace::Syntax
                 QStringLiteral(" style=\"background-color:%1\"")
                     .arg(format.background().color().name()));
         } else if (it.key() == QTextFormat::FontWeight && format.fontWeight() >= QFont::Bold) {
-            isMarkdown ? void(before += QLatin1String("**")) : add(QStringLiteral("b"));
-            after.prepend(isMarkdown ? QLatin1String("**") : QLatin1String());
+            if (isMarkdown) {
+                before += QLatin1String("**");
+                after.prepend(QLatin1String("**"));
+            } else {
+                add(QStringLiteral("b"));
+            }
         } else if (it.key() == QTextFormat::FontItalic && format.fontItalic()) {
             add(QStringLiteral("i"));
         } else {

@@ -4272,6 +4272,10 @@ Fehler: %2</translation>
         <source>the encoding %1 does not have all characters of the new text</source>
         <translation>die Kodierung %1 hat nicht alle Zeichen des neuen Textes</translation>
     </message>
+    <message>
+        <source>only HTML can be written as a whole with new formats</source>
+        <translation>nur HTML kann mit neuen Formaten als Ganzes geschrieben werden</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

@@ -4272,6 +4272,10 @@ Error: %2</translation>
         <source>the encoding %1 does not have all characters of the new text</source>
         <translation>la codificación %1 no tiene todos los caracteres del texto nuevo</translation>
     </message>
+    <message>
+        <source>only HTML can be written as a whole with new formats</source>
+        <translation>solo el HTML se puede escribir entero con formatos nuevos</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>

@@ -4272,6 +4272,10 @@ Erreur&#xa0;: %2</translation>
         <source>the encoding %1 does not have all characters of the new text</source>
         <translation>l’encodage %1 n’a pas tous les caractères du nouveau texte</translation>
     </message>
+    <message>
+        <source>only HTML can be written as a whole with new formats</source>
+        <translation>seul le HTML peut être réécrit en entier avec de nouveaux formats</translation>
+    </message>
 </context>
 <context>
     <name>MRVSourceFile</name>
