@@ -175,6 +175,10 @@ constexpr Option options[] = {
                  "The language of a page or e-book, such as en-GB. Default: that of the page that "
                  "is read.",
                  "convert"),
+    Option::flag("printed",
+                 "Write only what is printed: no notes, cut text, sections and synopses. E-books "
+                 "never hold them.",
+                 "convert"),
     Option::flag("dialogue", "Also in dialogue.", "rename"),
     Option::flag("action", "Also in all other text.", "rename"),
     Option::flag("json", "Print the answer as lines of JSON."),

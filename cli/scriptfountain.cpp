@@ -144,9 +144,11 @@ int runScriptConvert(const Call &call)
     }
     const QString language =
         options.language.isEmpty() ? MRV::languageTag(script.language()) : options.language;
+    const MRVFountainScript written =
+        call.has("printed") ? script.script().printed() : script.script();
     const QByteArray bytes = options.to == MRVScriptFile::EPub
-        ? MRVScriptBook::toByteArray(script.script(), options.mode, language, &error)
-        : MRVScriptFile::toByteArray(script.script(), options.to, language);
+        ? MRVScriptBook::toByteArray(written, options.mode, language, &error)
+        : MRVScriptFile::toByteArray(written, options.to, language);
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }

@@ -322,15 +322,23 @@ private Q_SLOTS:
         QCOMPARE(MRVScriptDocument::script(document, used).toText(), cell("text"));
     }
 
+    void printed_data() { addRows("fountain-printed.tsv"); }
+    void printed()
+    {
+        const MRVFountainScript script = MRVFountainScript::fromText(cell("text")).printed();
+        QCOMPARE(script.toText(), cell("printed"));
+        QCOMPARE(script.printed().toText(), cell("printed"));
+    }
+
     void printedDocument()
     {
         MRVScriptMode mode;
         mode.loadFactoryDefaults();
         QTextDocument document;
-        const QString text = "Title: T\nWGA #: 1\n\n# A\n\nint. b #2#\n\nC [[d]]/* e "
+        const QString text = "Title: T\nWGA #: 1\ncopyright: c\n\n# A\n\nint. b #2#\n\nC [[d]]/* e "
                              "*/\n\n[[f]]\n\n= G\n\n@Al (h)\nI\n";
         MRVScriptDocument::setPrintedScript(&document, MRVFountainScript::fromText(text), mode);
-        QCOMPARE(document.toPlainText(), QString("T\nWGA #: 1\n2 INT. B\nC \nAL (h)\nI"));
+        QCOMPARE(document.toPlainText(), QString("T\ncopyright: c\n2 INT. B\nC\nAL (h)\nI"));
         QCOMPARE(document.findBlockByNumber(2).blockFormat().headingLevel(), 1);
         QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 72.0);
         QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 108.0);

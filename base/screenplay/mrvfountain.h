@@ -192,6 +192,15 @@ public:
      */
     MRVFountainScript normalized() const;
 
+    /**
+     * What is printed of the script: normalized(), and without notes, what is cut out, sections,
+     * synopses, and entries of the title page whose keys are not known. These are Title, Credit,
+     * Author, Authors, Source, Contact, Draft date, Date, Revision, Copyright and Notes, in any
+     * case. A line or paragraph that holds nothing else goes with it, and so do the blanks that
+     * would be doubled; dialogue that an outline has interrupted is one speech again.
+     */
+    MRVFountainScript printed() const;
+
     /** The name in a cue: "BOB" of "BOB (V.O.) (CONT'D)". */
     static QString cueName(const QString &cue);
     /** How many QChars of a cue are before its extensions: 4 of "BOB (V.O.)". */

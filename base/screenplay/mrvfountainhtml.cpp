@@ -70,7 +70,7 @@ p, h2 { margin: 12pt 0 0; font-size: 12pt; font-weight: normal; white-space: pre
 .title-page [data-key='Title'] { margin-top: 3in; }
 .title[data-label]::before { content: attr(data-label); }
 .page-break { break-after: page; border: 0; margin: 24pt 0 0; }
-.note, .boneyard, .section, .synopsis { display: none; }
+.note, .boneyard, .section, .synopsis, [hidden] { display: none; }
 @media print { body { margin: 0; } }
 )";
 
@@ -153,6 +153,9 @@ void HtmlWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
         if (mrvIsTitleKeyShown(title.key)) {
             m_xml.writeAttribute(QStringLiteral("data-label"),
                                  mrvXmlText(mrvTitleLabel(title.key)));
+        }
+        if (!mrvIsTitleKeyPrinted(title.key)) {
+            m_xml.writeAttribute(QStringLiteral("hidden"), QStringLiteral("hidden"));
         }
         writeRuns(title.value);
         m_xml.writeEndElement();

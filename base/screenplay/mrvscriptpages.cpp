@@ -8,41 +8,22 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include <algorithm>
-
 namespace {
 
 using Element = MRVFountainElement;
 
-MRVFountainRuns printed(MRVFountainRuns runs)
+// What the places on a page do not tell stands in the text.
+MRVFountainScript labelled(MRVFountainScript script)
 {
-    const auto isHidden = [](const MRVFountainRun &run) {
-        return run.kind != MRVFountainRun::Text;
-    };
-    runs.erase(std::remove_if(runs.begin(), runs.end(), isHidden), runs.end());
-    return runs;
-}
-
-MRVFountainScript printed(const MRVFountainScript &script)
-{
-    MRVFountainScript result;
-    for (const MRVFountainTitle &title : script.titles) {
-        MRVFountainRuns value = printed(title.value);
-        value.prepend({mrvTitleLabel(title.key), {}, MRVFountainRun::Text});
-        result.titles.append({title.key, value});
+    for (MRVFountainTitle &title : script.titles) {
+        title.value.prepend({mrvTitleLabel(title.key), {}, MRVFountainRun::Text});
     }
-    for (Element element : script.elements) {
-        if (element.kind == Element::Note || element.kind == Element::Boneyard
-            || element.kind == Element::Section || element.kind == Element::Synopsis) {
-            continue;
-        }
-        element.runs = printed(element.runs);
+    for (Element &element : script.elements) {
         if (!element.sceneNumber.isEmpty()) {
             element.runs.prepend({element.sceneNumber + u' ', {}, MRVFountainRun::Text});
         }
-        result.elements.append(element);
     }
-    return result;
+    return script;
 }
 
 } // namespace
@@ -53,7 +34,7 @@ void MRVScriptDocument::setPrintedScript(QTextDocument *document, const MRVFount
     if (!document) {
         return;
     }
-    setScript(document, printed(script.normalized()), mode);
+    setScript(document, labelled(script.printed()), mode);
     const bool hadUndo = document->isUndoRedoEnabled();
     document->setUndoRedoEnabled(false);
     const MrvScriptRoles roles(mode);

@@ -11,14 +11,24 @@ struct KnownKey
 {
     const char *key;
     Qt::AlignmentFlag alignment;
+    bool isLabelled; // whether its place on the page does not say enough
 };
 
-// For these, the place on the page says enough.
+// clang-format off
 constexpr KnownKey knownKeys[] = {
-    {"Title", Qt::AlignHCenter},   {"Credit", Qt::AlignHCenter}, {"Author", Qt::AlignHCenter},
-    {"Authors", Qt::AlignHCenter}, {"Source", Qt::AlignHCenter}, {"Draft date", Qt::AlignRight},
-    {"Contact", Qt::AlignLeft},
+    {"Title",      Qt::AlignHCenter, false},
+    {"Credit",     Qt::AlignHCenter, false},
+    {"Author",     Qt::AlignHCenter, false},
+    {"Authors",    Qt::AlignHCenter, false},
+    {"Source",     Qt::AlignHCenter, false},
+    {"Draft date", Qt::AlignRight,   false},
+    {"Contact",    Qt::AlignLeft,    false},
+    {"Date",       Qt::AlignRight,   true},
+    {"Revision",   Qt::AlignLeft,    true},
+    {"Copyright",  Qt::AlignLeft,    true},
+    {"Notes",      Qt::AlignLeft,    true},
 };
+// clang-format on
 
 const KnownKey *known(const QString &key)
 {
@@ -56,7 +66,13 @@ Qt::AlignmentFlag mrvTitleAlignment(const QString &key)
 
 bool mrvIsTitleKeyShown(const QString &key)
 {
-    return !known(key);
+    const KnownKey *row = known(key);
+    return !row || row->isLabelled;
+}
+
+bool mrvIsTitleKeyPrinted(const QString &key)
+{
+    return known(key);
 }
 
 QString mrvTitleLabel(const QString &key)

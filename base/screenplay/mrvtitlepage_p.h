@@ -25,6 +25,9 @@ Qt::AlignmentFlag mrvTitleAlignment(const QString &key);
 /** Whether an entry is shown as "Key: value", since its place does not tell what it is. */
 bool mrvIsTitleKeyShown(const QString &key);
 
+/** Whether an entry with this key is printed: readers of Fountain ignore keys they do not know. */
+bool mrvIsTitleKeyPrinted(const QString &key);
+
 /** The text to put before an entry's value on the page: "Copyright: ", or nothing. */
 QString mrvTitleLabel(const QString &key);
 
