@@ -100,6 +100,41 @@ private Q_SLOTS:
         QCOMPARE(MCoreType::fromByteArray<MRVFernwickDropItem>(bytes), item);
     }
 
+    // Before any other test has used an item: how the receiver of a drop begins.
+    void initTestCase()
+    {
+        QDataStream stream(hex("00000400 00 00000014") + QByteArray("MRVFernwickDropItem") + '\0'
+                           + hex("00000001 00000002 006c 0000000a 00 00000002 0074"));
+        stream.setVersion(MCoreType::StreamVersion);
+        QVariant variant;
+        stream >> variant;
+        QCOMPARE(stream.status(), QDataStream::Ok);
+        QCOMPARE(MRVFernwickDropItem::fromVariant(variant), MRVFernwickDropItem("l", QString("t")));
+    }
+
+    // Items in a list, as programs of Qt 4 have written them.
+    void oldGroups()
+    {
+        const QVariantList items{MRVFernwickDropItem("a", QString("b")).toVariant(),
+                                 MRVFernwickDropItem({QVariant::fromValue(7L)}).toVariant()};
+        for (const auto order : {QDataStream::BigEndian, QDataStream::LittleEndian}) {
+            QByteArray bytes;
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            out.setVersion(QDataStream::Qt_4_8);
+            out.setByteOrder(order);
+            out << qint32(1) << QString() << QVariant(items);
+            for (const int version : {int(QDataStream::Qt_4_8), MCoreType::StreamVersion}) {
+                QDataStream in(bytes);
+                in.setVersion(version);
+                in.setByteOrder(order);
+                MRVFernwickDropItem read;
+                in >> read;
+                QCOMPARE(in.status(), QDataStream::Ok);
+                QCOMPARE(read, MRVFernwickDropItem(items));
+            }
+        }
+    }
+
     void variants()
     {
         const MRVFernwickDropItem item("l", filledImage(2, 1, Qt::red));

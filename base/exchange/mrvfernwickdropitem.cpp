@@ -28,9 +28,7 @@ private:
     static constexpr qint32 FormatVersion = 1;
 };
 
-namespace {
-
-void registerType()
+int MRVFernwickDropItem::metaType()
 {
     static const int type = [] {
         const int id = qRegisterMetaType<MRVFernwickDropItem>("MRVFernwickDropItem");
@@ -38,10 +36,8 @@ void registerType()
         QMetaType::registerEqualsComparator<MRVFernwickDropItem>();
         return id;
     }();
-    Q_UNUSED(type)
+    return type;
 }
-
-} // namespace
 
 MRVFernwickDropItem::MRVFernwickDropItem(const QString &label, const QString &text)
     : m_label(label)
@@ -62,14 +58,13 @@ MRVFernwickDropItem::MRVFernwickDropItem(const QList<QVariant> &list)
 
 QVariant MRVFernwickDropItem::toVariant() const
 {
-    registerType();
+    MRVFernwickDropItem::metaType();
     return QVariant::fromValue(*this);
 }
 
 MRVFernwickDropItem MRVFernwickDropItem::fromVariant(const QVariant &variant)
 {
-    registerType();
-    if (variant.userType() == qMetaTypeId<MRVFernwickDropItem>()) {
+    if (variant.userType() == metaType()) {
         return variant.value<MRVFernwickDropItem>();
     }
     MRVFernwickDropItem item;
@@ -89,7 +84,7 @@ QList<MRVFernwickDropItem> MRVFernwickDropItem::fromVariant(const QList<QVariant
 
 QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item)
 {
-    registerType();
+    MRVFernwickDropItem::metaType();
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out.setVersion(MCoreType::StreamVersion);
@@ -107,7 +102,7 @@ QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item)
 
 QDataStream &operator>>(QDataStream &stream, MRVFernwickDropItem &item)
 {
-    registerType();
+    MRVFernwickDropItem::metaType();
     const QByteArray bytes = MRVVariantGuard::take(stream, MRVVariantGuard::DropItem);
     QDataStream checked(bytes);
     checked.setVersion(MCoreType::StreamVersion);

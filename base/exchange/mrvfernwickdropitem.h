@@ -15,8 +15,8 @@ class QImage;
  * its payload. What travels under "application/fernwick.notes.grouped" is an item whose list holds
  * the items of the group, each as toVariant() makes it.
  *
- * The meta type "MRVFernwickDropItem" and its stream operators are registered before the first item
- * is put into a variant, written or read.
+ * The meta type "MRVFernwickDropItem" and its stream operators are known to any program that
+ * includes this header: see metaType().
  *
  * @since 1.0
  */
@@ -43,6 +43,14 @@ public:
     /** A QString, a QImage or a QVariantList; of items that were read or converted, any value. */
     QVariant payload() const { return m_payload; }
 
+    /**
+     * The number of the meta type "MRVFernwickDropItem", which the first call registers together
+     * with the stream operators. That call is made while a program starts that includes this
+     * header, as the receiver of a drop may read a stream of variants before it uses anything else
+     * of the library.
+     */
+    static int metaType();
+
     /** A variant of the meta type "MRVFernwickDropItem" that holds a copy of the item. */
     QVariant toVariant() const;
     /**
@@ -68,6 +76,10 @@ private:
 };
 Q_DECLARE_METATYPE(MRVFernwickDropItem)
 
+#ifndef MRVBASE_BUILD // loading the library itself runs no code
+inline const int mrvDropItemType = MRVFernwickDropItem::metaType();
+#endif
+
 /**
  * qint32 format version 1, QString label, QVariant payload, in MCoreType::StreamVersion. Nothing is
  * written, and the stream's status is WriteFailed, where the payload holds what could not be read
@@ -77,7 +89,8 @@ Q_DECLARE_METATYPE(MRVFernwickDropItem)
  */
 MRVBASE_EXPORT QDataStream &operator<<(QDataStream &stream, const MRVFernwickDropItem &item);
 /**
- * Reads what operator<<() wrote, whatever the format version says.
+ * Reads what operator<<() wrote, whatever the format version says; also items in lists that a
+ * program of Qt 4 has written.
  *
  * Any bytes may be given. Payloads may hold texts, pictures, colours, numbers, booleans, points,
  * sizes, rectangles, UUIDs, times without a named zone, byte arrays, addresses, items, and lists

@@ -27,9 +27,9 @@ enum : uint {
     Most = Settings | Stored,
 };
 
-// The stream version Qt_4_0 has other numbers for some types; for those that it does not know,
-// whose names follow, it has User.
-quint32 typeInSettings(quint32 stored)
+// The streams of Qt 4 have other numbers for some types; for those that they do not know, whose
+// names follow, they have User. None of these numbers is a type of Qt 5.
+quint32 typeOfQt4(quint32 stored)
 {
     constexpr quint32 User = 127;
     constexpr quint32 FirstMoved = 128;
@@ -150,12 +150,17 @@ bool MRVVariantWalker::count(quint32 *items, int leastSize)
 bool MRVVariantWalker::variant()
 {
     quint32 type = 0;
+    const int start = m_taken.size();
     if (!read(&type)) {
         return false;
     }
     if (m_form == Settings) {
-        type = typeInSettings(type);
-    } else if (!skip(1)) { // whether it is null
+        type = typeOfQt4(type);
+    } else if (m_form == Item) {
+        type = typeOfQt4(type);
+        setNumberAt(start, type); // it will be read as a stream of the form's own version
+    }
+    if (m_form != Settings && !skip(1)) { // whether it is null
         return false;
     }
     for (const TypeRow &row : Types) {
@@ -377,6 +382,16 @@ quint32 MRVVariantWalker::numberAt(int offset) const
     const char *stored = m_taken.constData() + offset;
     return m_stream->byteOrder() == QDataStream::BigEndian ? qFromBigEndian<quint32>(stored)
                                                            : qFromLittleEndian<quint32>(stored);
+}
+
+void MRVVariantWalker::setNumberAt(int offset, quint32 number)
+{
+    char *stored = m_taken.data() + offset;
+    if (m_stream->byteOrder() == QDataStream::BigEndian) {
+        qToBigEndian(number, stored);
+    } else {
+        qToLittleEndian(number, stored);
+    }
 }
 
 bool MRVVariantWalker::length()

@@ -48,7 +48,8 @@ public:
      * decoded once, since Qt reads on in the middle of a damaged one. Time linear in the bytes.
      *
      * Of a drop item, pictures beyond MRVInputLimits::PictureMemory together are replaced by null
-     * ones, since the other notes are worth keeping. A format with too many pictures fails.
+     * ones, since the other notes are worth keeping. A format with too many pictures fails. The
+     * types in a drop item may have the numbers of a stream of Qt 4; those of Qt 5 are given.
      *
      * @param stream its byte order is used; its version does not count, as the form tells it.
      * @return the value's bytes; empty, with a bad status, where it is damaged: ReadPastEnd where

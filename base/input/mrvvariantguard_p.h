@@ -97,6 +97,7 @@ private:
     template<quint32 size>
     bool rows();
     quint32 numberAt(int offset) const;
+    void setNumberAt(int offset, quint32 number);
     bool property();
     bool color();
     bool brush();

@@ -89,13 +89,6 @@ bool lookTheSame(QTextCharFormat a, QTextCharFormat b)
     return MRVTextFormat::equivalent(a, b);
 }
 
-// Registered by name on first use: loading the library runs no code.
-void registerTypes()
-{
-    qRegisterMetaType<MRVScriptElement>();
-    qRegisterMetaType<QList<MRVScriptElement>>();
-}
-
 void setOrRemove(QHash<MRVScriptElement::Action, QString> *texts, MRVScriptElement::Action action,
                  const QString &text)
 {
@@ -209,31 +202,38 @@ bool MRVScriptElement::newLineAfter(const QString &text) const
     return m_completions.newLineAfter(text);
 }
 
+int MRVScriptElement::metaType()
+{
+    static const int type = qRegisterMetaType<MRVScriptElement>();
+    return type;
+}
+
+int MRVScriptElement::listMetaType()
+{
+    static const int type = qRegisterMetaType<QList<MRVScriptElement>>();
+    return type;
+}
+
 QVariant MRVScriptElement::toVariant(const MRVScriptElement &element)
 {
-    registerTypes();
     return QVariant::fromValue(element);
 }
 
 QVariant MRVScriptElement::toVariant(const QList<MRVScriptElement> &elements)
 {
-    registerTypes();
     return QVariant::fromValue(elements);
 }
 
 MRVScriptElement MRVScriptElement::toScriptElement(const QVariant &variant)
 {
-    registerTypes();
-    return variant.userType() == qMetaTypeId<MRVScriptElement>() ? variant.value<MRVScriptElement>()
-                                                                 : MRVScriptElement();
+    return variant.userType() == metaType() ? variant.value<MRVScriptElement>()
+                                            : MRVScriptElement();
 }
 
 QList<MRVScriptElement> MRVScriptElement::toScriptElementList(const QVariant &variant)
 {
-    registerTypes();
-    return variant.userType() == qMetaTypeId<QList<MRVScriptElement>>()
-        ? variant.value<QList<MRVScriptElement>>()
-        : QList<MRVScriptElement>();
+    return variant.userType() == listMetaType() ? variant.value<QList<MRVScriptElement>>()
+                                                : QList<MRVScriptElement>();
 }
 
 bool MRVScriptElement::operator==(const MRVScriptElement &other) const

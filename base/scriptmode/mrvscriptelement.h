@@ -80,9 +80,8 @@ private:
  * What a default one is: no title, no formats, no completions, every flag off, and Tab after text
  * goes to another element that is not named.
  *
- * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names once any
- * of toVariant(), toScriptElement() and toScriptElementList() was called, which is what must come
- * first where names count: QMetaType::type(), queued connections, properties of scripts.
+ * The meta types "MRVScriptElement" and "QList<MRVScriptElement>" are known by these names to any
+ * program that includes this header: see metaType().
  *
  * @since 1.0
  */
@@ -233,16 +232,24 @@ public:
     bool newLineAfter(const QString &text) const;
 
     /**
-     * @name Variants
+     * @name Meta types
      *
-     * Each of these registers both meta types, MRVScriptElement and QList<MRVScriptElement>. A
-     * variant that holds something else gives a default element or an empty list.
+     * The numbers of "MRVScriptElement" and "QList<MRVScriptElement>", which the first call
+     * registers. These calls are made while a program starts that includes this header, since names
+     * may be looked up before anything else of the library is used: by streams, queued connections
+     * and scripts.
      */
     //@{
+    static int metaType();
+    static int listMetaType();
+    //@}
+
     /**
-     * Each of these registers both meta types, MRVScriptElement and QList<MRVScriptElement>.
-     * What holds something else gives a default element or an empty list.
+     * @name Variants
+     *
+     * A variant that holds something else gives a default element or an empty list.
      */
+    //@{
     static QVariant toVariant(const MRVScriptElement &element);
     static QVariant toVariant(const QList<MRVScriptElement> &elements);
     static MRVScriptElement toScriptElement(const QVariant &variant);
@@ -271,3 +278,8 @@ private:
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(MRVScriptElement::Flags)
 Q_DECLARE_METATYPE(MRVScriptElement)
+
+#ifndef MRVBASE_BUILD // loading the library itself runs no code
+inline const int mrvScriptElementType = MRVScriptElement::metaType();
+inline const int mrvScriptElementListType = MRVScriptElement::listMetaType();
+#endif
