@@ -121,14 +121,19 @@ Q_DECLARE_TYPEINFO(MRVFountainTitle, Q_MOVABLE_TYPE);
  * A script as Fountain knows it: plain text in which each paragraph's kind shows in how it is
  * typed.
  *
- * fromText() reads any text, and toText() writes any script so that it is read as the same. Two
+ * fromText() reads any text, and toText() writes any script so that it is read as the same. Three
  * things of the published syntax are read more widely: a scene heading needs no blank line after
- * it, and "@NAME" is a cue whether or not something is said. Three things are added, for what could
- * not be written otherwise: dialogue that nobody speaks follows a line with a mere "@"; a "!"
- * before any line of action makes that line action; and a backslash takes the meaning not only from
- * "*" and "_", but from any of [ / # ^ < ( . ~ as well, and within notes from "]". Backslashes
- * before anything else are themselves, however many they are. Emphasis ends at the end of a line at
- * the latest, and may overlap.
+ * it; "@NAME" is a cue whether or not something is said; and a number of a scene may have notes and
+ * cut text after it. Four things are added, for what could not be written otherwise: dialogue that
+ * nobody speaks follows a line with a mere "@"; a "!" before any line of action makes that line
+ * action; a backslash takes the meaning not only from "*" and "_", but from any of
+ * [ / # ^ < ( . ~ = as well, and within notes from "]"; and one after the period of a forced
+ * heading lets it begin with anything. Backslashes before anything else are themselves, however
+ * many they are. Emphasis ends at the end of a line at the latest, and may overlap.
+ *
+ * Sections and synopses may stand within any paragraph; dialogue after one is dialogue, but without
+ * a cue. On the title page, lines without an indent go on with the entry before, and below Contact
+ * even those that begin like a key that is not known; see printed() for those that are.
  *
  * Both take time linear in the text.
  *
@@ -183,11 +188,11 @@ public:
 
     /**
      * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and
-     * at its end (but in action and dialogue), emphasis of blanks at the edges of an emphasised
+     * at its end (but in action and dialogue), tabs, which become four blanks, emphasis of blanks at the edges of an emphasised
      * text, line breaks in headings, cues, parentheticals, transitions, sections and synopses,
      * which become blanks, empty lines of the title page and around dialogue, notes without text
-     * within a paragraph, and scene headings, cues and dialogue without text. Number, level and
-     * marks are reset where they mean nothing; two Lyrics one after the other in a speech cannot
+     * within a paragraph, and scene headings, cues and dialogue without text. Numbers of scenes
+     * keep their letters, digits, dashes and periods. Number, level and marks are reset where they mean nothing; two Lyrics one after the other in a speech cannot
      * both be part of it.
      */
     MRVFountainScript normalized() const;

@@ -200,7 +200,7 @@ MRVFountainRuns InlineReader::styledRuns() const
 class InlineWriter
 {
 public:
-    QString text(const MRVFountainRuns &line, bool escapeFirst);
+    QString text(const MRVFountainRuns &line, int escaped);
 
 private:
     void addMarks(Emphasis toggled);
@@ -213,7 +213,7 @@ private:
     Emphasis m_emphasis;
     bool m_isUnderlineInside = false; // of the styles before
     int m_backslashes = 0; // that the text ends with, and that stand for themselves
-    bool m_escapeNext = false;
+    int m_escaped = -1; // the position in the rest of the text
 };
 
 // Before a special character.
@@ -251,7 +251,7 @@ int InlineWriter::plainMarks(const QString &text, int at, Emphasis toggledBehind
     const QChar mark = text.at(at);
     const bool isLine = mark == u'_';
     const QChar before = m_text.isEmpty() ? QChar() : m_text.at(m_text.size() - 1);
-    if ((!isLine && mark != u'*') || m_backslashes > 0 || m_escapeNext || before == mark
+    if ((!isLine && mark != u'*') || m_backslashes > 0 || m_escaped == 0 || before == mark
         || before == u'/') {
         return 0;
     }
@@ -288,29 +288,29 @@ void InlineWriter::addText(const QString &text, Emphasis toggledBehind, bool isN
         if (const int marks = plainMarks(text, at, toggledBehind)) {
             m_text += QString(marks, c);
             at += marks - 1;
+            m_escaped -= marks;
             continue;
         }
+        const bool escapes = m_escaped-- == 0;
         if (c == u'\\') {
             m_text += c;
             ++m_backslashes;
-            m_escapeNext = false;
             continue;
         }
         if (isEscapable(c)
-            && (m_backslashes > 0 || m_escapeNext
+            && (m_backslashes > 0 || escapes
                 || needsEscape(text, at, toggledBehind, isNoteBehind))) {
             doubleBackslashes();
             m_text += u'\\';
         }
         m_text += c;
         m_backslashes = 0;
-        m_escapeNext = false;
     }
 }
 
-QString InlineWriter::text(const MRVFountainRuns &line, bool escapeFirst)
+QString InlineWriter::text(const MRVFountainRuns &line, int escaped)
 {
-    m_escapeNext = escapeFirst;
+    m_escaped = escaped;
     for (int i = 0; i < line.size(); ++i) {
         const Run &run = line.at(i);
         addMarks(m_emphasis ^ run.emphasis);
@@ -333,9 +333,9 @@ MRVFountainRuns runsOf(const QString &text, int start, int end, const Object *ob
     return InlineReader(text, start, end, objects).runs();
 }
 
-QString inlineText(const MRVFountainRuns &line, bool escapeFirst)
+QString inlineText(const MRVFountainRuns &line, int escaped)
 {
-    return InlineWriter().text(line, escapeFirst);
+    return InlineWriter().text(line, escaped);
 }
 
 QString noteText(const QStringRef &text)

@@ -1,6 +1,7 @@
 #include "screenplay/mrvfountain.h"
 
 #include "screenplay/mrvfountainsyntax_p.h"
+#include "screenplay/mrvtitlepage_p.h"
 
 #include <climits>
 
@@ -161,7 +162,11 @@ private:
 
     int readParagraph(int line);
     int readAction(int line);
+    int readActionLines(int line);
+    bool isOutline(int line) const;
+    bool goesOnWithAction(int line) const;
     int readDialogue(int line);
+    int readOutline(int line);
     int readLines(Element::Kind kind, int line, int end);
     void readHeading(const Line &line, bool forced);
     void readCue(const Line &line, bool forced);
@@ -169,8 +174,11 @@ private:
     void addOneLine(Element::Kind kind, const Line &line, int markLength);
     void addObject(Element::Kind kind, const Line &line);
     MRVFountainRuns runs(const Line &line, int start, int end) const;
+    bool isMereBackslash(int at) const;
     int contentStart(const Line &line) const;
     int contentEnd(const Line &line) const;
+    int textPosition(const Line &line, int viewPosition) const;
+    MRVFountainRuns runsAround(const Line &line, int start, const Range &number) const;
     int endOfKind(int line, LineKind kind) const;
     LineKind kindOf(int line) const;
     int startOf(int line) const
@@ -250,7 +258,8 @@ LineKind FountainReader::kindOf(int line) const
 {
     const LineKind kind = lineKind(view(line), endsBefore(line + 1, false));
     // A transition rather than a character of that name whose only dialogue is a boneyard.
-    if (kind == TransitionLine || endsBefore(line + 1, true)) {
+    if (lineKind(trimmed(view(line)), endsBefore(line + 1, false)) == TransitionLine
+        || endsBefore(line + 1, true)) {
         return kind;
     }
     const LineKind spoken = lineKind(view(line), false);
@@ -351,13 +360,20 @@ int FountainReader::readTitles()
         return 0;
     }
     int line = 0;
+    bool isAddress = false;
     for (; !isEmpty(line); ++line) {
         const Line &given = m_lines.at(line);
-        const int key = titleKeyLength(view(line));
-        if (key > 0) {
-            m_script.titles.append({given.view.left(key), {}});
-            addTitleLine(&m_script.titles.last(), given, given.start + key + 1);
-        } else if (isBlank(given.view.at(0))) {
+        const QStringRef text = trimmed(view(line));
+        const int length = isTitleIndented(view(line)) ? 0 : titleKeyLength(text);
+        const QString key = text.left(length).toString();
+        if (length > 0 && (!isAddress || mrvIsTitleKeyPrinted(key))) {
+            m_script.titles.append({key, {}});
+            addTitleLine(&m_script.titles.last(), given, contentStart(given) + length + 1);
+            isAddress = isAddressKey(key);
+        } else if (isTitleIndented(view(line))) {
+            addTitleLine(&m_script.titles.last(), given, given.start);
+            isAddress = false; // what belongs to it shows in the indent
+        } else if (length > 0 || isTitleText(text)) {
             addTitleLine(&m_script.titles.last(), given, given.start);
         } else {
             break;
@@ -399,26 +415,32 @@ int FountainReader::readParagraph(int line)
         return line;
     case CenteredLine:
         return readLines(Element::Centered, line, endOfKind(line, CenteredLine));
-    case SectionLine: {
-        const QStringRef text = trimmed(view(line));
-        int level = 1;
-        while (level < 255 && level < text.size() && text.at(level) == u'#') {
-            ++level;
-        }
-        const int before = m_script.elements.size();
-        addOneLine(Element::Section, given, level);
-        m_script.elements[before].level = level;
-        return line + 1;
-    }
+    case SectionLine:
     case SynopsisLine:
-        addOneLine(Element::Synopsis, given, 1);
-        return line + 1;
+        return readOutline(line);
     case PageBreakLine:
         addElement(Element(Element::PageBreak, QString()));
         return line + 1;
     default:
         return readAction(line);
     }
+}
+
+int FountainReader::readOutline(int line)
+{
+    const QStringRef text = trimmed(view(line));
+    if (text.startsWith(u'=')) {
+        addOneLine(Element::Synopsis, m_lines.at(line), 1);
+        return line + 1;
+    }
+    int level = 1;
+    while (level < 255 && level < text.size() && text.at(level) == u'#') {
+        ++level;
+    }
+    const int before = m_script.elements.size();
+    addOneLine(Element::Section, m_lines.at(line), level);
+    m_script.elements[before].level = level;
+    return line + 1;
 }
 
 int FountainReader::endOfKind(int line, LineKind kind) const
@@ -453,33 +475,64 @@ void FountainReader::readHeading(const Line &line, bool forced)
 {
     Element element;
     element.kind = Element::SceneHeading;
-    const int start = contentStart(line) + (forced ? 1 : 0);
-    int end = contentEnd(line);
-    // Without objects the view equals the line; with objects, both still have the same end.
-    const Range number = sceneNumber(QStringRef(&line.view));
-    const QStringRef after =
-        number.isEmpty() ? QStringRef() : trimmed(line.view.midRef(number.end));
-    if (!number.isEmpty()) {
-        element.sceneNumber = line.view.mid(number.start + 1, number.end - number.start - 2);
-        end = line.end - (line.view.size() - number.start);
-        while (end > start && isBlank(m_text.at(end - 1))) {
-            --end;
-        }
+    int start = contentStart(line) + (forced ? 1 : 0);
+    if (forced && isMereBackslash(start)) {
+        ++start;
     }
-    if (after.isEmpty()) {
-        element.runs = runs(line, start, qMax(start, end));
+    const Range number = sceneNumber(QStringRef(&line.view));
+    if (number.isEmpty()) {
+        element.runs = runs(line, start, contentEnd(line));
     } else {
-        // Marks around both the text and its number: no object follows the number.
-        QVector<Object> moved = m_objects.mid(line.firstObject, line.endObject - line.firstObject);
-        for (Object &object : moved) {
-            object.start -= start;
-            object.end -= start;
-        }
-        moved.append(m_objects.constLast());
-        const QString text = m_text.mid(start, end - start) + after;
-        element.runs = runsOf(text, 0, text.size(), moved.constData());
+        element.sceneNumber = line.view.mid(number.start + 1, number.end - number.start - 2);
+        element.runs = runsAround(line, start, number);
     }
     addElement(element);
+}
+
+// Whether a backslash stands after the period of a forced heading that escapes nothing.
+bool FountainReader::isMereBackslash(int at) const
+{
+    int end = at;
+    while (end < m_text.size() && m_text.at(end) == u'\\') {
+        ++end;
+    }
+    return end > at && (end == m_text.size() || !isEscapable(m_text.at(end)));
+}
+
+int FountainReader::textPosition(const Line &line, int viewPosition) const
+{
+    int position = line.start + viewPosition;
+    for (int i = line.firstObject; i < line.endObject && m_objects.at(i).start < position; ++i) {
+        position += m_objects.at(i).end - m_objects.at(i).start - 1;
+    }
+    return position;
+}
+
+// The text of a heading before and after its number. Emphasis marks may be around all of it.
+MRVFountainRuns FountainReader::runsAround(const Line &line, int start, const Range &number) const
+{
+    int end = qMax(start, textPosition(line, number.start));
+    while (end > start && isBlank(m_text.at(end - 1))) {
+        --end;
+    }
+    int after = textPosition(line, number.end);
+    while (after < line.end && isBlank(m_text.at(after))) {
+        ++after;
+    }
+    QString text = m_text.mid(start, end - start);
+    if (line.view.midRef(number.end).trimmed().startsWith(QChar::ObjectReplacementCharacter)) {
+        text += u' ';
+    }
+    const int shift = after - text.size();
+    text += m_text.midRef(after, line.end - after);
+    QVector<Object> moved = m_objects.mid(line.firstObject, line.endObject - line.firstObject);
+    for (Object &object : moved) {
+        const int by = object.start < after ? start : shift;
+        object.start -= by;
+        object.end -= by;
+    }
+    moved.append(m_objects.constLast());
+    return runsOf(text, 0, text.size(), moved.constData());
 }
 
 void FountainReader::readCue(const Line &line, bool forced)
@@ -503,12 +556,17 @@ int FountainReader::readDialogue(int line)
         return at < m_lines.size() && (!isEmpty(at) || m_lines.at(at).view.size() > 1);
     };
     const auto isSpoken = [this](int at) {
-        return !isParenthetical(view(at)) && !trimmed(view(at)).startsWith(u'~');
+        return !isParenthetical(view(at)) && !trimmed(view(at)).startsWith(u'~')
+            && !interruptsSpeech(lineKind(view(at), true));
     };
     while (goesOn(line)) {
         const int start = line;
         if (isEmpty(line)) {
             ++line; // it means nothing except between lines of dialogue
+        } else if (isOutline(line)) {
+            line = readOutline(line);
+        } else if (lineKind(view(line), true) == PageBreakLine) {
+            return line;
         } else if (isParenthetical(view(line))) {
             Element element;
             element.kind = Element::Parenthetical;
@@ -533,11 +591,39 @@ int FountainReader::readDialogue(int line)
 
 int FountainReader::readAction(int line)
 {
+    do {
+        const int start = line;
+        line = readActionLines(line);
+        placeElements(start, line);
+        while (isOutline(line)) {
+            line = readOutline(line);
+            placeElements(line - 1, line);
+        }
+        // The rest of the paragraph is action, too, even if it is in capitals.
+    } while (isOutline(line - 1) && goesOnWithAction(line));
+    return line;
+}
+
+bool FountainReader::isOutline(int line) const
+{
+    const LineKind kind = lineKind(view(line), true);
+    return kind == SectionLine || kind == SynopsisLine;
+}
+
+bool FountainReader::goesOnWithAction(int line) const
+{
+    const LineKind kind = lineKind(view(line), true);
+    return !isEmpty(line) && !isOnly(line, Run::Note) && !isOnly(line, Run::Boneyard)
+        && (kind == ActionLine || kind == TransitionLine || kind == ForcedActionLine);
+}
+
+// Lines that end at an empty one, or at one that cannot be action.
+int FountainReader::readActionLines(int line)
+{
     Element element;
     for (int first = line; !isEmpty(line); ++line) {
         const Line &given = m_lines.at(line);
-        const LineKind kind = line > first ? lineKind(view(line), true) : ActionLine;
-        if (interruptsAction(kind)) {
+        if (line > first && interruptsAction(lineKind(view(line), true))) {
             break;
         }
         if (line > first) {

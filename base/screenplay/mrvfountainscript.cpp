@@ -59,8 +59,11 @@ void cleanRun(MRVFountainRun *run, bool isOneLine)
         run->text = cleanNote(run->text);
     } else if (run->kind == MRVFountainRun::Boneyard) {
         run->text = cleanBoneyard(run->text);
-    } else if (isOneLine) {
-        run->text.replace(u'\n', u' ');
+    } else {
+        run->text.replace(u'\t', QLatin1String("    "));
+        if (isOneLine) {
+            run->text.replace(u'\n', u' ');
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "screenplay/mrvfountainsyntax_p.h"
 
 #include "core/mrvxmltext.h"
+#include "screenplay/mrvtitlepage_p.h"
 
 #include <cstring>
 
@@ -59,6 +60,19 @@ bool isCue(const QStringRef &line)
     return isUpper(text.left(extensionStart(text)));
 }
 
+// What forces a heading: a period and a letter or digit, but no ellipsis. Marks and objects may stand
+// between; a backslash may, too, so that a heading can begin with anything.
+bool isForcedHeading(const QStringRef &text)
+{
+    if (text.size() < 2) {
+        return false;
+    }
+    const QChar c = text.at(1);
+    const bool isPair = c.isHighSurrogate() && text.size() > 2 && text.at(2).isLowSurrogate();
+    return isMark(c) || c == ObjectSign || c == u'\\'
+        || QChar::isLetterOrNumber(isPair ? QChar::surrogateToUcs4(c, text.at(2)) : c.unicode());
+}
+
 LineKind markedKind(const QStringRef &text)
 {
     switch (text.at(0).unicode()) {
@@ -77,8 +91,7 @@ LineKind markedKind(const QStringRef &text)
     case u'@':
         return ForcedCueLine;
     case u'.':
-        return text.size() > 1 && text.at(1) != u'.' && !isBlank(text.at(1)) ? ForcedHeadingLine
-                                                                             : ActionLine;
+        return isForcedHeading(text) ? ForcedHeadingLine : ActionLine;
     default:
         return ActionLine;
     }
@@ -146,14 +159,21 @@ LineKind lineKind(const QStringRef &line, bool nextBlank)
         return HeadingLine;
     }
     if (nextBlank) {
-        return isTransition(text) ? TransitionLine : ActionLine;
+        // A blank at its end is how a writer keeps action from being a transition.
+        const bool isPlain = isBlank(line.at(line.size() - 1));
+        return isTransition(text) && !isPlain ? TransitionLine : ActionLine;
     }
     return isCue(text) ? CueLine : ActionLine;
 }
 
 bool interruptsAction(LineKind kind)
 {
-    return kind == LyricsLine || kind == CenteredLine || kind == PageBreakLine;
+    return kind == LyricsLine || kind == CenteredLine || interruptsSpeech(kind);
+}
+
+bool interruptsSpeech(LineKind kind)
+{
+    return kind == SectionLine || kind == SynopsisLine || kind == PageBreakLine;
 }
 
 bool isParenthetical(const QStringRef &line)
@@ -186,13 +206,15 @@ int extensionStart(const QStringRef &cue)
 
 bool isInSceneNumber(QChar c)
 {
-    return !c.isSpace() && c != u'#' && c != u'[' && c != u'\\' && c != u'*' && c != ObjectSign;
+    return c.isLetterOrNumber() || c == u'-' || c == u'.';
 }
 
 Range sceneNumber(const QStringRef &line)
 {
     int end = line.size();
-    while (end > 0 && (isBlank(line.at(end - 1)) || isMark(line.at(end - 1)))) {
+    while (end > 0
+           && (isBlank(line.at(end - 1)) || isMark(line.at(end - 1))
+               || line.at(end - 1) == ObjectSign)) {
         --end;
     }
     if (end < 3 || line.at(end - 1) != u'#') {
@@ -229,7 +251,25 @@ bool beginsTitlePage(const QStringRef &line, const QStringRef &next)
     }
     // Many scripts without a title page begin with "FADE IN:" and an empty line.
     return !isBlankLine(line.mid(key + 1))
-        || (!isBlankLine(next) && (isBlank(next.at(0)) || titleKeyLength(next) > 0));
+        || (!isBlankLine(next)
+            && (isTitleIndented(next) || titleKeyLength(next) > 0
+                || (isTitleText(next) && mrvIsTitleKeyPrinted(line.left(key).toString()))));
+}
+
+bool isTitleIndented(const QStringRef &line)
+{
+    return line.startsWith(u'\t') || line.startsWith(QLatin1String("   "));
+}
+
+bool isTitleText(const QStringRef &line)
+{
+    const LineKind kind = lineKind(line, true);
+    return kind == ActionLine || kind == TransitionLine;
+}
+
+bool isAddressKey(const QString &key)
+{
+    return key.compare(QLatin1String("Contact"), Qt::CaseInsensitive) == 0;
 }
 
 QString plainText(const QString &text)

@@ -28,7 +28,7 @@ enum LineKind {
 };
 
 /** The characters that a backslash escapes; within notes only "]". */
-constexpr char Escapable[] = "*_[/#^<(.~";
+constexpr char Escapable[] = "*_[/#^<(.~=";
 
 inline bool isBlank(QChar c)
 {
@@ -49,6 +49,8 @@ bool isEscaped(const QStringRef &line, int position);
 LineKind lineKind(const QStringRef &line, bool nextBlank);
 /** Whether lineKind() also holds for a line that continues action. */
 bool interruptsAction(LineKind kind);
+/** Whether a line within a speech is no part of it, wherever it stands. */
+bool interruptsSpeech(LineKind kind);
 bool isParenthetical(const QStringRef &line);
 /** Where the extensions of a cue begin; its length where it has none. */
 int extensionStart(const QStringRef &cue);
@@ -59,12 +61,21 @@ struct Range
     int end = 0;
     bool isEmpty() const { return start >= end; }
 };
-/** The number of a scene with both its "#", at the end of a heading except for emphasis marks. */
+/**
+ * The number of a scene with both its "#", at the end of a heading except for emphasis marks, notes
+ * and boneyards.
+ */
 Range sceneNumber(const QStringRef &line);
 bool isInSceneNumber(QChar c);
 
 /** The length of a title page's key, or 0 where the line does not begin with one. */
 int titleKeyLength(const QStringRef &line);
+/** Whether a line is indented enough to go on with the value before. */
+bool isTitleIndented(const QStringRef &line);
+/** Whether a line without a key and an indent can go on with the value before, too. */
+bool isTitleText(const QStringRef &line);
+/** Whether lines without an indent that follow this key belong to it, unless their key is known. */
+bool isAddressKey(const QString &key);
 /** Whether a title page begins with @p line, followed by @p next. */
 bool beginsTitlePage(const QStringRef &line, const QStringRef &next);
 
@@ -112,8 +123,13 @@ struct Object
     QString text;
 };
 MRVFountainRuns runsOf(const QString &text, int start, int end, const Object *objects);
-/** The characters of a line that runsOf() reads as these runs. */
-QString inlineText(const MRVFountainRuns &line, bool escapeFirst = false);
+/**
+ * The characters of a line that runsOf() reads as these runs.
+ *
+ * @param escaped the position in the line's text, without objects, of a character that gets a
+ *                backslash in any case if it is escapable; -1 for none.
+ */
+QString inlineText(const MRVFountainRuns &line, int escaped = -1);
 QString objectText(const MRVFountainRun &run);
 /** The text of a note without the backslashes that objectText() puts before its brackets. */
 QString noteText(const QStringRef &text);

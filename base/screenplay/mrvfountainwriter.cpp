@@ -1,6 +1,7 @@
 #include "screenplay/mrvfountain.h"
 
 #include "screenplay/mrvfountainsyntax_p.h"
+#include "screenplay/mrvtitlepage_p.h"
 
 using namespace MrvFountain;
 
@@ -12,18 +13,23 @@ using Run = MRVFountainRun;
 // A line as it is written, and with objects as the reader sees it.
 struct WrittenLine
 {
-    explicit WrittenLine(const MRVFountainRuns &line, bool escapeFirst = false)
-        : text(inlineText(line, escapeFirst))
+    explicit WrittenLine(const MRVFountainRuns &line, int escaped = -1)
+        : text(inlineText(line, escaped))
     {
         MRVFountainRuns seen = line;
         bool any = false;
+        int position = 0;
+        int seenEscaped = escaped;
         for (Run &run : seen) {
-            if (run.kind != Run::Text) {
-                run = {QString(QChar::ObjectReplacementCharacter), run.emphasis, Run::Text};
-                any = true;
+            if (run.kind == Run::Text) {
+                position += run.text.size();
+                continue;
             }
+            run = {QString(QChar::ObjectReplacementCharacter), run.emphasis, Run::Text};
+            any = true;
+            seenEscaped += position <= escaped ? 1 : 0;
         }
-        view = any ? inlineText(seen, escapeFirst) : text;
+        view = any ? inlineText(seen, seenEscaped) : text;
     }
 
     LineKind kind(bool nextBlank) const { return lineKind(QStringRef(&view), nextBlank); }
@@ -44,7 +50,7 @@ public:
     const TextRanges &ranges() const { return m_ranges; }
 
 private:
-    void addTitle(const MRVFountainTitle &title);
+    void addTitle(const MRVFountainTitle &title, const MRVFountainTitle *next);
     void addElement(const Element &element, const Element *next);
     void addEmptyLine();
     void separate();
@@ -55,6 +61,7 @@ private:
     void addSpeech(const Element &element);
     void addTransition(const WrittenLine &line);
     static bool speaksIn(const Element *next);
+    static int firstShown(const MRVFountainRuns &line);
 
     QString m_text;
     bool m_isSeparated = false; // an empty line was written since the last text
@@ -66,8 +73,9 @@ private:
 
 QString FountainWriter::text(const MRVFountainScript &script)
 {
-    for (const MRVFountainTitle &title : script.titles) {
-        addTitle(title);
+    for (int i = 0; i < script.titles.size(); ++i) {
+        addTitle(script.titles.at(i),
+                 i + 1 < script.titles.size() ? &script.titles.at(i + 1) : nullptr);
     }
     m_ranges.titles.end = m_text.size();
     const QVector<Element> &elements = script.elements;
@@ -87,17 +95,21 @@ QString FountainWriter::text(const MRVFountainScript &script)
     return m_text;
 }
 
-void FountainWriter::addTitle(const MRVFountainTitle &title)
+void FountainWriter::addTitle(const MRVFountainTitle &title, const MRVFountainTitle *next)
 {
     const QVector<MRVFountainRuns> lines = linesOf(title.value);
-    if (lines.size() == 1) {
+    // Only an indent shows that the next line, of a key that nobody knows, is not in the address.
+    const bool indents =
+        lines.size() > 1 || (next && isAddressKey(title.key) && !mrvIsTitleKeyPrinted(next->key));
+    if (!indents) {
         const QString value = inlineText(lines.constFirst());
         addLine(title.key + (value.isEmpty() ? QLatin1String(":") : QLatin1String(": ")) + value);
         return;
     }
     addLine(title.key + u':');
     for (const MRVFountainRuns &line : lines) {
-        addLine(QLatin1String("    ") + inlineText(line));
+        addLine(QLatin1String("    ")
+                + (line.isEmpty() ? QStringLiteral("[[]]") : inlineText(line)));
     }
 }
 
@@ -200,7 +212,9 @@ void FountainWriter::addAction(const Element &element)
             force = force || line.isObject() || line.kind(single) != ActionLine
                 || (cutBehind && line.kind(true) != ActionLine);
         } else {
-            force = force || interruptsAction(line.kind(true));
+            // Some would not need it here, but other programs take them for what they begin like.
+            const LineKind kind = line.kind(true);
+            force = force || (kind != ActionLine && kind != HeadingLine && kind != TransitionLine);
         }
         addLine(force ? u'!' + line.text : line.text);
     }
@@ -210,26 +224,25 @@ void FountainWriter::addHeading(const Element &element)
 {
     WrittenLine line(element.runs);
     if (!element.sceneNumber.isEmpty()) {
-        const QString number =
-            QLatin1String(line.text.isEmpty() ? "#" : " #") + element.sceneNumber + u'#';
+        const QString number = QLatin1String(" #") + element.sceneNumber + u'#';
         line.text += number;
         line.view += number;
-    } else {
-        const Range number = sceneNumber(QStringRef(&line.view));
-        if (!number.isEmpty()) {
-            const int after =
-                line.view.size() - number.end + 1; // its last character and what follows
-            line.text.insert(line.text.size() - after, u'\\');
-            line.view.insert(line.view.size() - after, u'\\');
-        }
+    } else if (!sceneNumber(QStringRef(&line.view)).isEmpty()) {
+        line = WrittenLine(element.runs, element.text().lastIndexOf(u'#'));
     }
     if (line.kind(true) == HeadingLine) {
         addLine(line.text);
-    } else if (line.text.startsWith(u'.')) {
-        addLine(QLatin1String(".\\") + line.text);
-    } else {
-        addLine(u'.' + line.text);
+        return;
     }
+    int slashes = 0;
+    while (slashes < line.text.size() && line.text.at(slashes) == u'\\') {
+        ++slashes;
+    }
+    const bool escapes = slashes < line.text.size() && isEscapable(line.text.at(slashes));
+    const QString forced = u'.' + line.view;
+    const bool holds =
+        slashes == 0 ? lineKind(QStringRef(&forced), true) == ForcedHeadingLine : escapes;
+    addLine(QLatin1String(holds ? "." : ".\\") + line.text);
 }
 
 // Whether dialogue follows a cue directly, so that it is read as a cue.
@@ -260,6 +273,21 @@ void FountainWriter::addCue(const Element &element, const Element *next)
     addLine(plain ? line.text : u'@' + line.text);
 }
 
+// The position in a line's text of its first character that is no blank.
+int FountainWriter::firstShown(const MRVFountainRuns &line)
+{
+    int position = 0;
+    for (const Run &run : line) {
+        for (const QChar c : run.kind == Run::Text ? run.text : QString()) {
+            if (!isBlank(c)) {
+                return position;
+            }
+            ++position;
+        }
+    }
+    return -1;
+}
+
 void FountainWriter::addSpeech(const Element &element)
 {
     const bool isLyrics = element.kind == Element::Lyrics;
@@ -285,8 +313,9 @@ void FountainWriter::addSpeech(const Element &element)
             addLine(line.text.isEmpty() ? QStringLiteral("~") : QLatin1String("~ ") + line.text);
         } else if (runs.isEmpty()) {
             addLine(QStringLiteral("  "));
-        } else if (isParenthetical(view) || trimmed(view).startsWith(u'~')) {
-            addLine(inlineText(runs, true));
+        } else if (isParenthetical(view) || trimmed(view).startsWith(u'~')
+                   || interruptsSpeech(line.kind(true))) {
+            addLine(inlineText(runs, firstShown(runs)));
         } else {
             addLine(line.text);
         }
