@@ -188,12 +188,13 @@ public:
 
     /**
      * The script less what Fountain cannot hold: blanks at the start of a line (but in action) and
-     * at its end (but in action and dialogue), tabs, which become four blanks, emphasis of blanks at the edges of an emphasised
-     * text, line breaks in headings, cues, parentheticals, transitions, sections and synopses,
-     * which become blanks, empty lines of the title page and around dialogue, notes without text
-     * within a paragraph, and scene headings, cues and dialogue without text. Numbers of scenes
-     * keep their letters, digits, dashes and periods. Number, level and marks are reset where they mean nothing; two Lyrics one after the other in a speech cannot
-     * both be part of it.
+     * at its end (but in action and dialogue), tabs, which become four blanks, emphasis of blanks
+     * at the edges of an emphasised text, line breaks in headings, cues, parentheticals,
+     * transitions, sections and synopses, which become blanks, empty lines of the title page and
+     * around dialogue, notes without text within a paragraph, and scene headings, cues and dialogue
+     * without text. Numbers of scenes keep their letters, digits, dashes and periods. Number, level
+     * and marks are reset where they mean nothing; two Lyrics one after the other in a speech
+     * cannot both be part of it.
      */
     MRVFountainScript normalized() const;
 

@@ -60,8 +60,8 @@ bool isCue(const QStringRef &line)
     return isUpper(text.left(extensionStart(text)));
 }
 
-// What forces a heading: a period and a letter or digit, but no ellipsis. Marks and objects may stand
-// between; a backslash may, too, so that a heading can begin with anything.
+// What forces a heading: a period and a letter or digit, but no ellipsis. Marks and objects may
+// stand between; a backslash may, too, so that a heading can begin with anything.
 bool isForcedHeading(const QStringRef &text)
 {
     if (text.size() < 2) {
