@@ -179,6 +179,8 @@ constexpr Option options[] = {
                  "Write only what is printed: no notes, cut text, sections and synopses. E-books "
                  "never hold them.",
                  "convert"),
+    Option::flag("fixed-pitch", "Set an e-book in type of one width, as scripts are typed.",
+                 "convert"),
     Option::flag("dialogue", "Also in dialogue.", "rename"),
     Option::flag("action", "Also in all other text.", "rename"),
     Option::flag("json", "Print the answer as lines of JSON."),

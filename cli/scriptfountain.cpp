@@ -66,6 +66,7 @@ struct ConvertOptions
     QString output; // the file
     MRVScriptMode mode;
     QString language;
+    MRVScriptBook::Typeface typeface = MRVScriptBook::ReadersChoice;
     bool json = false;
 };
 
@@ -97,6 +98,12 @@ int readOptions(const Call &call, ConvertOptions *options)
     const QString mode = call.value("mode");
     if (!mode.isEmpty() && options->to != MRVScriptFile::EPub) {
         return usageError(QStringLiteral("--mode is for e-books only"));
+    }
+    if (call.has("fixed-pitch")) {
+        if (options->to != MRVScriptFile::EPub) {
+            return usageError(QStringLiteral("--fixed-pitch is for e-books only"));
+        }
+        options->typeface = MRVScriptBook::FixedPitch;
     }
     QDateTime unused;
     if (options->to == MRVScriptFile::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
@@ -147,7 +154,7 @@ int runScriptConvert(const Call &call)
     const MRVFountainScript written =
         call.has("printed") ? script.script().printed() : script.script();
     const QByteArray bytes = options.to == MRVScriptFile::EPub
-        ? MRVScriptBook::toByteArray(written, options.mode, language, &error)
+        ? MRVScriptBook::toByteArray(written, options.mode, language, options.typeface, &error)
         : MRVScriptFile::toByteArray(written, options.to, language);
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);

@@ -1,8 +1,11 @@
 #include "datarows.h"
 #include "epub/mrvepubpackage.h"
+#include "epub/mrvscriptbook.h"
 #include "gui/mrvguiutil.h"
 #include "html/mrvhtmldocument.h"
 #include "images.h"
+#include "screenplay/mrvfountain.h"
+#include "scriptmode/mrvscriptmode.h"
 #include "support.h"
 #include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextformat.h"
@@ -330,6 +333,31 @@ private Q_SLOTS:
         QVERIFY2(largest < 1100000, qPrintable(QString::number(largest)));
         QVERIFY(files["OEBPS/page-004.xhtml"].size() < 400000);
         QCOMPARE(files["OEBPS/nav.xhtml"].count("Part"), 4);
+    }
+
+    // Acts begin pages; scenes do where a page would grow large, and are listed all the same.
+    void scriptPages()
+    {
+        MRVScriptMode mode;
+        mode.loadFactoryDefaults();
+        const QString scenes = QString("INT. A [[private]]\n\nB\n\nANN\n(c)\n%1\n\n").repeated(3);
+        const QString text = "Title: T\nHidden: private\nCopyright: R [[private]]\n\n# private\n\n"
+                             ">ACT ONE<\n\n"
+            + scenes.arg("d") + "= private\n\n>Act II: E<\n\n" + scenes.arg(QString(40000, 'f'));
+        const auto script = MRVFountainScript::fromText(text);
+        QString error;
+        const QByteArray book =
+            MRVScriptBook::toByteArray(script, mode, "en", MRVScriptBook::FixedPitch, &error);
+        QVERIFY2(!book.isEmpty(), qPrintable(error));
+        const QMap<QString, QString> files = unpacked(book);
+        QCOMPARE(files.keys().filter("page-").size(), 5);
+        QCOMPARE(files.value("OEBPS/nav.xhtml").count("INT. A"), 6);
+        const QString sheet = files.value("OEBPS/css/stylesheet.css");
+        QVERIFY(sheet.contains("monospace"));
+        QCOMPARE(sheet.count(QRegularExpression("(margin-(left|right)|text-indent): [-0-9.]*em")),
+                 0);
+        QVERIFY2(sheet.contains("margin-left: 36.667%"), qPrintable(sheet));
+        QVERIFY(!QStringList(files.values()).join(' ').contains("private"));
     }
 
     void deepNesting_data()

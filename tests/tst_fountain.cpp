@@ -340,8 +340,8 @@ private Q_SLOTS:
         MRVScriptDocument::setPrintedScript(&document, MRVFountainScript::fromText(text), mode);
         QCOMPARE(document.toPlainText(), QString("T\ncopyright: c\n2 INT. B\nC\nAL (h)\nI"));
         QCOMPARE(document.findBlockByNumber(2).blockFormat().headingLevel(), 1);
-        QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 72.0);
-        QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 108.0);
+        QCOMPARE(document.lastBlock().blockFormat().leftMargin(), 96.0);
+        QCOMPARE(document.lastBlock().blockFormat().rightMargin(), 144.0);
     }
 
     void documents_data()

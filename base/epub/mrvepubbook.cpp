@@ -407,7 +407,7 @@ QByteArray MRVEPubBook::styleSheet() const
 {
     const QByteArray own = QString::fromUtf8(options.styleSheet).toUtf8();
     return mrvEPubBaseSheet(own.isEmpty() ? options.styleBase : MRVEPubOptions::NoStyle)
-        + "\n/* The looks of this book */\n\n" + looks.rules()
+        + "\n/* The looks of this book */\n\n" + looks.rules(options.textWidth)
         + (own.isEmpty() ? own : "\n/* The sheet that was asked for */\n\n" + own);
 }
 

@@ -53,6 +53,13 @@ QByteArray em(int thousandths)
     return length == "0" ? length : length + "em";
 }
 
+// Of the width of the text; @p size is that of the paragraph's own text.
+QByteArray percent(int thousandths, int size, double textWidth)
+{
+    const QByteArray length = number(thousandths / 1000.0 * size / textWidth);
+    return length == "0" ? length : length + '%';
+}
+
 QByteArray declaration(const char *property, const QByteArray &value)
 {
     return QByteArray("    ") + property + ": " + value + ";\n";
@@ -267,17 +274,18 @@ QVector<QByteArray> MRVEPubLooks::paragraphClasses() const
 
 // What differs from the look that the element has without a class.
 QByteArray MRVEPubLooks::declarations(const MRVEPubParagraphLook &look,
-                                      const MRVEPubParagraphLook &usual) const
+                                      const MRVEPubParagraphLook &usual, double textWidth) const
 {
     constexpr struct
     {
         Look::Value value;
         const char *property;
-    } lengths[] = {{Look::Top, "margin-top"},
-                   {Look::Right, "margin-right"},
-                   {Look::Bottom, "margin-bottom"},
-                   {Look::Left, "margin-left"},
-                   {Look::Indent, "text-indent"}};
+        bool isAcross;
+    } lengths[] = {{Look::Top, "margin-top", false},
+                   {Look::Right, "margin-right", true},
+                   {Look::Bottom, "margin-bottom", false},
+                   {Look::Left, "margin-left", true},
+                   {Look::Indent, "text-indent", true}};
     const bool isSet = look[Look::Align] == Look::Centered || look[Look::Align] == Look::RightSide;
     QByteArray text;
     if (look[Look::Align] != usual[Look::Align]) {
@@ -292,7 +300,10 @@ QByteArray MRVEPubLooks::declarations(const MRVEPubParagraphLook &look,
             if (look.kind == MRVEPubKind::Cell) { // which has no margins
                 property.replace("margin", "padding");
             }
-            text += declaration(property.constData(), em(look[length.value]));
+            text += declaration(property.constData(),
+                                length.isAcross && textWidth > 0
+                                    ? percent(look[length.value], look[Look::Size], textWidth)
+                                    : em(look[length.value]));
         }
     }
     if (look[Look::Size] != usual[Look::Size]) {
@@ -352,7 +363,7 @@ QByteArray MRVEPubLooks::declarations(const MRVEPubTextLook &look) const
     return text;
 }
 
-QByteArray MRVEPubLooks::rules() const
+QByteArray MRVEPubLooks::rules(double textWidth) const
 {
     QByteArray text;
     const auto add = [&text](const QByteArray &selector, const QByteArray &declarations) {
@@ -366,7 +377,7 @@ QByteArray MRVEPubLooks::rules() const
         const Look plain = mrvEPubPlainLook(MRVEPubKind(kind));
         usual.append(rule < 0 ? plain : m_paragraphs.at(rule).look);
         if (!saysNothing(usual.constLast())) {
-            add(kinds[kind].element, declarations(usual.constLast(), plain));
+            add(kinds[kind].element, declarations(usual.constLast(), plain, textWidth));
         }
     }
     const QVector<QByteArray> classes = paragraphClasses();
@@ -376,7 +387,7 @@ QByteArray MRVEPubLooks::rules() const
             // As strong as what the base says of what follows a heading.
             add(QByteArray(kinds[int(look.kind)].element).replace(',', '.' + classes.at(i) + ',')
                     + '.' + classes.at(i),
-                declarations(look, usual.at(int(look.kind))));
+                declarations(look, usual.at(int(look.kind)), textWidth));
         }
     }
     for (const Named &named : m_named) {

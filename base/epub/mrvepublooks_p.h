@@ -101,8 +101,8 @@ public:
     int common(MRVEPubKind kind) const;
     /** The class of a paragraph's look, where it needs one, by the number of the look. */
     QVector<QByteArray> paragraphClasses() const;
-    /** The rules of all looks. */
-    QByteArray rules() const;
+    /** The rules of all looks; with indents in percent of a text's width in ems, if it is not 0. */
+    QByteArray rules(double textWidth) const;
 
 private:
     struct Paragraph
@@ -116,8 +116,8 @@ private:
         QByteArray rule;
     };
     QByteArray freeName(const QByteArray &base);
-    QByteArray declarations(const MRVEPubParagraphLook &look,
-                            const MRVEPubParagraphLook &usual) const;
+    QByteArray declarations(const MRVEPubParagraphLook &look, const MRVEPubParagraphLook &usual,
+                            double textWidth) const;
     QByteArray declarations(const MRVEPubTextLook &look) const;
 
     QVector<Paragraph> m_paragraphs;

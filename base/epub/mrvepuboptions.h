@@ -53,4 +53,17 @@ struct MRVBASE_EXPORT MRVEPubOptions
      * outermost level is then its chapter, not the title of a book whose chapters are below it.
      */
     bool areChapters = false;
+    /**
+     * The innermost level of headings that pages begin at, 0 for none: those below it stand in the
+     * table of contents, but begin a page only where one is larger than largePage.
+     */
+    int pageDepth = 6;
+    /** Characters above which a page is cut at lesser headings, into halves of this at least. */
+    int largePage = 250000;
+    /**
+     * The width of the text that the documents are laid out for, in ems of most of it. Indents are
+     * then in percent of the width that a reader has, so that they keep their proportions in large
+     * type; 0: in ems.
+     */
+    double textWidth = 0;
 };

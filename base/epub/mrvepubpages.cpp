@@ -9,24 +9,24 @@
 
 namespace {
 
-constexpr int LargePage = 250000; // characters
-constexpr int LargestPage = 1000000;
+constexpr int LargestPage = 1000000; // characters
 
 } // namespace
 
 MRVEPubPages::MRVEPubPages(const MRVDocumentFlow &flow, MRVEPubFormats *formats,
-                           const QString &title, bool isChapter)
+                           const QString &title, const MRVEPubOptions &options)
     : m_flow(flow)
     , m_bounds{0, flow.count()}
 {
     readBlocks(formats);
-    findLevels();
-    if (isChapter) {
+    findLevels(options.pageDepth);
+    if (options.areChapters) {
         keepChapter(title);
     }
     cutAtHeadings();
     for (int level = m_lastLevel + 1; level <= 6; ++level) {
-        cutPagesAbove(LargePage, [level](const Block &block) { return block.level == level; });
+        cutPagesAbove(options.largePage,
+                      [level](const Block &block) { return block.level == level; });
     }
     cutPagesAbove(LargestPage, [](const Block &) { return true; });
 }
@@ -55,7 +55,7 @@ void MRVEPubPages::readBlocks(MRVEPubFormats *formats)
     }
 }
 
-void MRVEPubPages::findLevels()
+void MRVEPubPages::findLevels(int depth)
 {
     int counts[7] = {};
     int parts[7] = {};
@@ -76,9 +76,13 @@ void MRVEPubPages::findLevels()
             ++parts[block.level];
         }
     }
-    const auto repeated = [&counts](int from) {
-        const int *level = std::find_if(counts + from, counts + 7, [](int n) { return n > 1; });
-        return level == counts + 7 ? 0 : int(level - counts);
+    const auto repeated = [&counts, depth](int from) {
+        for (int level = from; level <= qMin(depth, 6); ++level) {
+            if (counts[level] > 1) {
+                return level;
+            }
+        }
+        return 0;
     };
     m_firstLevel = repeated(1); // a level that occurs once is the book's title
     m_lastLevel = m_firstLevel;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/mrvdocumentflow.h"
+#include "epub/mrvepuboptions.h"
 
 #include <QVector>
 
@@ -12,7 +13,7 @@ class MRVEPubFormats;
  * A page begins at a page break, at each heading of the outermost level that occurs more than once,
  * and, where those are parts, at the headings of their chapters; the first chapter of a part stands
  * on the part's page unless there is text between them. Readers take their time with a large page:
- * one above a quarter of a million characters is cut at lesser headings, one above a million at any
+ * one that the options call so is cut at lesser headings, one above a million characters at any
  * paragraph. A piece that shows nothing is joined to the one after it.
  */
 class MRVEPubPages
@@ -20,10 +21,9 @@ class MRVEPubPages
 public:
     /**
      * @param title of the book; the one heading that says it is not a chapter.
-     * @param isChapter whether the document is a chapter or a part of the book.
      */
     MRVEPubPages(const MRVDocumentFlow &flow, MRVEPubFormats *formats, const QString &title,
-                 bool isChapter);
+                 const MRVEPubOptions &options);
 
     /** The first paragraph of each page; the first one is 0. */
     QVector<int> starts() const { return m_bounds.mid(0, m_bounds.size() - 1); }
@@ -43,7 +43,7 @@ private:
     };
 
     void readBlocks(MRVEPubFormats *formats);
-    void findLevels();
+    void findLevels(int depth);
     void keepChapter(const QString &title);
     bool isNamed(const Block &heading, bool isPart) const;
     void cutAtHeadings();

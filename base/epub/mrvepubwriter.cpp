@@ -73,7 +73,7 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
 
 void MRVEPubWriter::write(const QString &fileName)
 {
-    const MRVEPubPages plan(m_flow, &m_formats, m_title, m_book.options.areChapters);
+    const MRVEPubPages plan(m_flow, &m_formats, m_title, m_book.options);
     QVector<int> starts = plan.starts();
     m_notes.place(starts);
     starts.append(m_flow.count());

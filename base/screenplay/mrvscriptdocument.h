@@ -59,10 +59,11 @@ public:
                           const MRVScriptMode &mode);
 
     /**
-     * The same for what is printed alone, to be exported: without notes, what is cut out, sections
-     * and synopses, with scene numbers before the headings, which are headings of the first level,
-     * with capitals where the mode wants them, and with indents as Qt's margins. It is no longer a
-     * document of the mode.
+     * The same for what is printed alone, to be exported: MRVFountainScript::printed() with scene
+     * numbers before the headings, with capitals where the mode wants them, and with lengths as
+     * Qt's margins, of which 96 are an inch. Acts, which are centred lines like "ACT ONE" and
+     * "TEASER", are headings of the first level, and scenes are of the second; of the first where
+     * the script has no acts. It is no longer a document of the mode.
      */
     static void setPrintedScript(QTextDocument *document, const MRVFountainScript &script,
                                  const MRVScriptMode &mode);

@@ -4,13 +4,51 @@
 #include "screenplay/mrvtitlepage_p.h"
 #include "textformat/mrvtextformat.h"
 
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace {
 
 using Element = MRVFountainElement;
+
+// Centred text that begins an act.
+bool isAct(const QString &text)
+{
+    static const QRegularExpression act(
+        QStringLiteral(
+            "^\\s*(?:(?:ACT|AKT|ACTE|ACTO)\\s+[\\p{L}\\p{N}]+(?:\\s*[:.\u2013\u2014-].*)?"
+            "|TEASER|COLD OPEN|TAG|PROLOGUE|EPILOGUE)\\s*$"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return act.match(text).hasMatch();
+}
+
+bool hasActs(const MRVFountainScript &script)
+{
+    return std::any_of(script.elements.cbegin(), script.elements.cend(),
+                       [](const Element &element) {
+                           return element.kind == Element::Centered && isAct(element.text());
+                       });
+}
+
+// Lengths of modes are in points, margins of a document in pixels.
+void setMargins(QTextBlockFormat *format)
+{
+    constexpr double PixelsPerPoint = 96.0 / 72;
+    const auto take = [format](int property) {
+        const double points = format->doubleProperty(property);
+        format->clearProperty(property);
+        return points * PixelsPerPoint;
+    };
+    format->setLeftMargin(take(MRVTextFormat::BlockLeftIndent));
+    format->setRightMargin(take(MRVTextFormat::BlockRightIndent));
+    format->setTopMargin(format->topMargin() * PixelsPerPoint);
+    format->setBottomMargin(format->bottomMargin() * PixelsPerPoint);
+    format->setTextIndent(format->textIndent() * PixelsPerPoint);
+}
 
 // What the places on a page do not tell stands in the text.
 MRVFountainScript labelled(MRVFountainScript script)
@@ -34,7 +72,9 @@ void MRVScriptDocument::setPrintedScript(QTextDocument *document, const MRVFount
     if (!document) {
         return;
     }
-    setScript(document, labelled(script.printed()), mode);
+    const MRVFountainScript printed = script.printed();
+    setScript(document, labelled(printed), mode);
+    const int sceneLevel = hasActs(printed) ? 2 : 1;
     const bool hadUndo = document->isUndoRedoEnabled();
     document->setUndoRedoEnabled(false);
     const MrvScriptRoles roles(mode);
@@ -44,11 +84,11 @@ void MRVScriptDocument::setPrintedScript(QTextDocument *document, const MRVFount
         const MrvScriptRole role = roles.roleOf(block);
         roles.element(role).recapitalizeBlock(block);
         QTextBlockFormat format = block.blockFormat();
-        format.setLeftMargin(format.doubleProperty(MRVTextFormat::BlockLeftIndent));
-        format.setRightMargin(format.doubleProperty(MRVTextFormat::BlockRightIndent));
-        if (role == mrvScriptRole(Element::SceneHeading) && block.length() > 1) {
+        setMargins(&format);
+        const bool isScene = role == mrvScriptRole(Element::SceneHeading) && block.length() > 1;
+        if (isScene || (role == mrvScriptRole(Element::Centered) && isAct(block.text()))) {
             format.clearProperty(MRVTextFormat::BlockSpacing); // which has the number of the level
-            format.setHeadingLevel(1);
+            format.setHeadingLevel(isScene ? sceneLevel : 1);
         }
         cursor.setPosition(block.position());
         cursor.setBlockFormat(format);
