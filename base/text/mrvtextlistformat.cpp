@@ -213,10 +213,9 @@ int MRVTextListFormat::blockLevel(const QTextList &list, const QTextBlock &block
 
 QTextBlockFormat MRVTextListFormat::clearListProperties(const QTextBlockFormat &format)
 {
-    QTextBlockFormat cleared = format;
+    QTextBlockFormat cleared = mrvWithoutListLevel(format);
     for (int property : {int(QTextFormat::ObjectIndex), int(MRVTextFormat::ListExtraProperty1),
-                         int(MRVTextFormat::ListExtraProperty2), int(MRVListLevelsProperty),
-                         int(MRVParagraphListLevelProperty)}) {
+                         int(MRVTextFormat::ListExtraProperty2), int(MRVListLevelsProperty)}) {
         cleared.clearProperty(property);
     }
     return cleared;

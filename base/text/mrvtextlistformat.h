@@ -103,7 +103,10 @@ public:
     /** See mrvListLevel(). */
     static int blockLevel(const QTextList &list, const QTextBlock &block);
 
-    /** A copy without the properties that make a paragraph a list item. Its indents stay. */
+    /**
+     * A copy without the properties that make a paragraph a list item. Its indents stay, but for
+     * what shows its level.
+     */
     static QTextBlockFormat clearListProperties(const QTextBlockFormat &format);
     /**
      * The same for the paragraph at the cursor's position, or at @p position. It leaves its list,

@@ -13,6 +13,18 @@ T *withoutLookup()
     return reinterpret_cast<T *>(quintptr(-1));
 }
 
+int levelOf(const QTextBlockFormat &format)
+{
+    return qMax(0, format.intProperty(MRVParagraphListLevelProperty));
+}
+
+// Of a paragraph's indent, what shows its level.
+int indentOf(int level)
+{
+    constexpr int Deepest = 1000;
+    return qMin(level, Deepest);
+}
+
 } // namespace
 
 int QMetaTypeId<MRVQtListLevel>::qt_metatype_id()
@@ -72,7 +84,7 @@ int mrvListLevel(const QTextList &list, const QTextBlock &block)
     if (!block.isValid() || block.textList() != &list) {
         return 0;
     }
-    return qMax(0, block.blockFormat().intProperty(MRVParagraphListLevelProperty));
+    return levelOf(block.blockFormat());
 }
 
 void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level)
@@ -81,13 +93,26 @@ void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level)
     if (!block.isValid() || block.textList() != &list || mrvListLevel(list, block) == level) {
         return;
     }
-    QTextBlockFormat format = block.blockFormat();
+    QTextBlockFormat format = mrvWithoutListLevel(block.blockFormat());
     if (level > 0) {
         format.setProperty(MRVParagraphListLevelProperty, level);
-    } else {
-        format.clearProperty(MRVParagraphListLevelProperty);
+        format.setIndent(format.indent() + indentOf(level));
     }
     QTextCursor(block).setBlockFormat(format);
+}
+
+QTextBlockFormat mrvWithoutListLevel(const QTextBlockFormat &format)
+{
+    QTextBlockFormat without = format;
+    without.clearProperty(MRVParagraphListLevelProperty);
+    const int indent = format.indent() - indentOf(levelOf(format));
+    // An indent of 0 is left unset: a format that says it is another one than one that does not.
+    if (indent > 0) {
+        without.setIndent(indent);
+    } else if (levelOf(format) > 0) {
+        without.clearProperty(QTextFormat::BlockIndent);
+    }
+    return without;
 }
 
 void mrvRemoveFromList(const QTextBlock &block)

@@ -87,9 +87,15 @@ MRVBASE_EXPORT int mrvListLevel(const QTextList &list, const QTextBlock &block);
  * Sets the level; a negative one counts as 0. One undo step; nothing for the level that it has, and
  * for a paragraph that is not in the list.
  *
- * @param level from 0.
+ * Qt's indent of the paragraph (QTextBlockFormat::indent()) goes up and down with the level, so
+ * that every view of Qt's shows the paragraph where its level is: QTextDocument::indentWidth()
+ * further in for each level.
+ *
+ * @param level from 0; above 1000 the indent does not grow any more.
  */
 MRVBASE_EXPORT void mrvSetListLevel(QTextList &list, const QTextBlock &block, int level);
+/** What is left of @p format without the level: neither the level nor its part of the indent. */
+MRVBASE_EXPORT QTextBlockFormat mrvWithoutListLevel(const QTextBlockFormat &format);
 /**
  * Takes a paragraph out of its list, and its level with it. Qt adds the list's indent to that of
  * the paragraph, so that it stays where it is. One undo step; nothing for a paragraph of no list.
