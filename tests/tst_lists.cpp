@@ -1,7 +1,7 @@
 #include "datarows.h"
 #include "documentdump.h"
 #include "documentnotation.h"
-#include "text/mrvlistmarkers.h"
+#include "text/mrvlistmarkercache.h"
 #include "text/mrvnestedlists.h"
 #include "text/mrvtextcursor.h"
 #include "text/mrvtextlistformat.h"
@@ -11,6 +11,8 @@
 #include <QTextDocumentFragment>
 #include <QTextList>
 #include <QtTest>
+
+#include <random>
 
 using Levels = MRVTextListFormat;
 
@@ -264,6 +266,107 @@ private Q_SLOTS:
             shown << (marker.text.isEmpty() ? "-" : marker.text);
         }
         QTEST(shown.join(' '), "markers");
+    }
+
+    void markerCache_data()
+    {
+        QTest::addColumn<bool>("isLaidOut");
+        QTest::newRow("laid out") << true;
+        QTest::newRow("not laid out") << false;
+    }
+    // The cache follows random edits, undone and redone, and says when markers change.
+    void markerCache()
+    {
+        QFETCH(bool, isLaidOut);
+        const auto markersOf = [](const QVector<MRVListMarker> &markers) {
+            QStringList texts;
+            for (const MRVListMarker &marker : markers) {
+                if (marker.level < 0) {
+                    continue;
+                }
+                texts << QString("%1:%2:%3").arg(marker.level).arg(marker.number).arg(marker.text);
+            }
+            return texts;
+        };
+        QTextDocument document("one\ntwo\nthree\nfour");
+        buildList(&document);
+        if (isLaidOut) {
+            document.documentLayout();
+        }
+        MRVListMarkerCache cache(&document);
+        QStringList shown = markersOf(mrvListMarkers(document));
+        cache.marker(document.begin());
+        QSignalSpy changes(&cache, &MRVListMarkerCache::markersChanged);
+        std::mt19937 random(7);
+        for (int edit = 0; edit < 3000; ++edit) {
+            QTextCursor cursor(&document);
+            cursor.setPosition(int(random() % unsigned(document.characterCount())));
+            QTextCursor other = cursor;
+            cursor.setPosition(int(random() % unsigned(document.characterCount())));
+            QTextList *list = cursor.currentList();
+            switch (random() % (document.blockCount() > 40 ? 12 : 10)) {
+            case 0:
+                cursor.insertText("a\nb");
+                break;
+            case 1:
+                cursor.insertBlock();
+                break;
+            case 2:
+                cursor.insertBlock(QTextBlockFormat());
+                break;
+            case 3:
+                cursor.createList(QTextListFormat::Style(-4 - int(random() % 3)));
+                break;
+            case 4:
+                if (list) {
+                    Levels::setBlockLevel(*list, cursor.block(), int(random() % 4));
+                }
+                break;
+            case 5:
+                if (list) {
+                    QTextListFormat format = list->format();
+                    format.setProperty(MRVTextFormat::ListStartProperty, int(random() % 9));
+                    list->setFormat(format);
+                }
+                break;
+            case 6:
+                if (other.currentList() && !list) {
+                    other.currentList()->add(cursor.block());
+                } else {
+                    Levels::clearBlockAtPositionFromTextList(cursor);
+                }
+                break;
+            case 7:
+                document.undo();
+                break;
+            case 8:
+                document.redo();
+                break;
+            case 9:
+                cursor.insertText("x");
+                break;
+            default: // an edit block of two places
+                cursor.beginEditBlock();
+                other.insertBlock();
+                cursor.setPosition(qMax(0, cursor.position() - 60), QTextCursor::KeepAnchor);
+                cursor.removeSelectedText();
+                cursor.endEditBlock();
+            }
+            QVector<MRVListMarker> cached;
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+                cached << cache.marker(block);
+            }
+            const QStringList now = markersOf(mrvListMarkers(document));
+            QCOMPARE(markersOf(cached), now);
+            QVERIFY(now == shown || !changes.isEmpty());
+            shown = now;
+            changes.clear();
+        }
+        QTextCursor(document.begin()).insertText("a letter");
+        QCOMPARE(changes.isEmpty(), isLaidOut);
+        QTextDocument elsewhere("text");
+        QCOMPARE(cache.marker(elsewhere.begin()).level, -1);
+        QCOMPARE(cache.marker(QTextBlock()).level, -1);
     }
 
     void nesting_data() { addRows("list-nesting.tsv"); }

@@ -46,15 +46,6 @@ QString romanOf(int number)
     return roman;
 }
 
-QString markerText(const MRVTextListLevel &level, int number)
-{
-    if (level.numberStyle == Bullet) {
-        return level.text;
-    }
-    QString text = level.text;
-    return text.replace(QLatin1String("%0"), mrvListNumberText(number, level.numberStyle));
-}
-
 } // namespace
 
 int MRVListCounter::next(const QTextListFormat &format, int list, int level)
@@ -85,6 +76,15 @@ QString mrvListNumberText(int number, int numberStyle)
     return isUpper ? text.toUpper() : text;
 }
 
+QString mrvListMarkerText(const MRVTextListLevel &level, int number)
+{
+    if (level.numberStyle == Bullet) {
+        return level.text;
+    }
+    QString text = level.text;
+    return text.replace(QLatin1String("%0"), mrvListNumberText(number, level.numberStyle));
+}
+
 QVector<MRVListMarker> mrvListMarkers(const QTextDocument &document)
 {
     QVector<MRVListMarker> markers;
@@ -106,7 +106,7 @@ QVector<MRVListMarker> mrvListMarkers(const QTextDocument &document)
                                       MRVTextListFormat::shownLevel(*format, marker.level));
             }
             marker.number = counter.next(*format, list->objectIndex(), marker.level);
-            marker.text = markerText(*level, marker.number);
+            marker.text = mrvListMarkerText(*level, marker.number);
         }
         markers.append(marker);
     }

@@ -8,6 +8,7 @@
 
 class QTextDocument;
 class QTextListFormat;
+struct MRVTextListLevel;
 
 /**
  * Numbers the items of a document's lists as they come.
@@ -61,6 +62,12 @@ struct MRVListMarker
  * @param numberStyle see MRVQtListLevel; any other number means figures, 0 included.
  */
 MRVBASE_EXPORT QString mrvListNumberText(int number, int numberStyle);
+
+/**
+ * What is shown before the item that has the number @p number on a level that looks like @p level,
+ * without a blank: the level's text, with the number in place of each "%0" unless it is a bullet.
+ */
+MRVBASE_EXPORT QString mrvListMarkerText(const MRVTextListLevel &level, int number);
 
 /**
  * The markers of all paragraphs of a document, one for each block, in order. Where the format of a
