@@ -52,6 +52,7 @@ constexpr Module modules[] = {
     {"base/presets",     4, "Core Gui"},
     {"base/text",        4, "Core Gui"},
 
+    {"base/editor",      5, "Core Gui Widgets"},
     {"base/html",        5, "Core Gui"},
     {"base/scriptmode",  5, "Core Gui"},
     {"base/search",      5, "Core Gui pcre2.h"},
