@@ -1,0 +1,384 @@
+#include "pdf/mrvpdfwriter.h"
+
+#include <QBuffer>
+#include <QHash>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QUrl>
+#include <QVector>
+
+// The interface for C: that for C++ brings streams with it, which are set up on loading.
+#include <qpdf/qpdf-c.h>
+
+namespace {
+
+struct Place
+{
+    int page; // from 0
+    qreal y; // in dots, from the top
+};
+
+struct OutlineEntry
+{
+    QString title;
+    int level;
+    Place place;
+};
+
+struct Link
+{
+    int page;
+    QRectF area; // in dots
+    QString address;
+};
+
+bool isOutsideAddress(const QString &address)
+{
+    const QString scheme = QUrl(address).scheme();
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https")
+        || scheme == QLatin1String("mailto");
+}
+
+// Adds to the file that Qt has written what Qt cannot write.
+class Completion
+{
+public:
+    Completion(qpdf_data file, qreal paperHeight)
+        : m_file(file)
+        , m_root(qpdf_get_root(file))
+        , m_height(paperHeight)
+    {
+    }
+
+    void setProperties(const MRVPdfProperties &properties);
+    void setPageNumbers(const QVector<QPair<int, int>> &numbers);
+    void addOutline(const QVector<OutlineEntry> &entries);
+    void addLinks(const QVector<Link> &links, const QHash<QString, Place> &targets);
+
+private:
+    using Object = qpdf_oh; // a number that stands for an object, until the file is closed
+
+    struct OpenEntry
+    {
+        int level;
+        Object item;
+        Object last; // of its children
+        int count; // of its children
+    };
+
+    Object newText(const QString &text) const;
+    Object newBytes(const QByteArray &bytes) const;
+    Object newNumber(qreal number) const { return qpdf_oh_new_real_from_double(m_file, number, 2); }
+    Object newDictionary() const { return qpdf_oh_new_dictionary(m_file); }
+    Object newIndirect(Object object) const { return qpdf_make_indirect_object(m_file, object); }
+    Object newName(const char *name) const { return qpdf_oh_new_name(m_file, name); }
+    Object newInteger(int number) const { return qpdf_oh_new_integer(m_file, number); }
+    Object newDestination(const Place &place) const;
+    Object newAction(const QString &address) const;
+    void set(Object dictionary, const char *key, Object value) const
+    {
+        qpdf_oh_replace_key(m_file, dictionary, key, value);
+    }
+    void append(Object array, Object item) const { qpdf_oh_append_item(m_file, array, item); }
+    Object pageAt(int page) const { return qpdf_get_page_n(m_file, size_t(page)); }
+    qreal fromBottom(qreal y) const { return m_height - y / MRVPdfWriter::DotsPerPoint; }
+    void close(const OpenEntry &entry, bool isOutermost) const;
+
+    qpdf_data m_file;
+    Object m_root;
+    qreal m_height; // in points
+};
+
+Completion::Object Completion::newText(const QString &text) const
+{
+    const QByteArray utf8 = text.toUtf8();
+    return qpdf_oh_new_binary_unicode_string(m_file, utf8.constData(), size_t(utf8.size()));
+}
+
+Completion::Object Completion::newBytes(const QByteArray &bytes) const
+{
+    return qpdf_oh_new_binary_string(m_file, bytes.constData(), size_t(bytes.size()));
+}
+
+void Completion::setProperties(const MRVPdfProperties &properties)
+{
+    const Object info = newDictionary();
+    if (!properties.title.isEmpty()) {
+        set(info, "/Title", newText(properties.title));
+    }
+    if (!properties.author.isEmpty()) {
+        set(info, "/Author", newText(properties.author));
+    }
+    set(info, "/Creator", newText(QCoreApplication::applicationName()));
+    if (properties.date.isValid()) {
+        const QString date = properties.date.toUTC().toString(QStringLiteral("yyyyMMddHHmmss"));
+        const Object written = newBytes("D:" + date.toLatin1() + 'Z');
+        set(info, "/CreationDate", written);
+        set(info, "/ModDate", written);
+    }
+    set(qpdf_get_trailer(m_file), "/Info", newIndirect(info));
+    qpdf_oh_remove_key(m_file, m_root, "/Metadata"); // it holds the time and a random identifier
+    if (!properties.language.isEmpty()) {
+        set(m_root, "/Lang", newText(properties.language));
+    }
+    if (!properties.title.isEmpty()) {
+        const Object preferences = newDictionary();
+        set(preferences, "/DisplayDocTitle", qpdf_oh_new_bool(m_file, QPDF_TRUE));
+        set(m_root, "/ViewerPreferences", preferences);
+    }
+}
+
+void Completion::setPageNumbers(const QVector<QPair<int, int>> &numbers)
+{
+    if (numbers.isEmpty()) {
+        return;
+    }
+    const Object list = qpdf_oh_new_array(m_file);
+    const auto add = [&](int page, int number) {
+        const Object label = newDictionary();
+        if (number > 0) {
+            set(label, "/S", newName("/D"));
+            set(label, "/St", newInteger(number));
+        }
+        append(list, newInteger(page));
+        append(list, label);
+    };
+    if (numbers.constFirst().first > 0) {
+        add(0, 1); // ISO 32000-1, 12.4.2: the first page has an entry
+    }
+    for (const QPair<int, int> &entry : numbers) {
+        add(entry.first, entry.second);
+    }
+    const Object tree = newDictionary();
+    set(tree, "/Nums", list);
+    set(m_root, "/PageLabels", tree);
+}
+
+Completion::Object Completion::newDestination(const Place &place) const
+{
+    const Object result = qpdf_oh_new_array(m_file);
+    append(result, pageAt(place.page));
+    append(result, newName("/XYZ"));
+    append(result, qpdf_oh_new_null(m_file));
+    append(result, newNumber(fromBottom(place.y)));
+    append(result, qpdf_oh_new_null(m_file));
+    return result;
+}
+
+void Completion::close(const OpenEntry &entry, bool isOutermost) const
+{
+    if (entry.count > 0) {
+        set(entry.item, "/Last", entry.last);
+        // Below the outermost entries nothing is shown at first, which is what the sign means.
+        set(entry.item, "/Count", newInteger(isOutermost ? entry.count : -entry.count));
+    }
+}
+
+void Completion::addOutline(const QVector<OutlineEntry> &entries)
+{
+    if (entries.isEmpty()) {
+        return;
+    }
+    const Object top = newIndirect(newDictionary());
+    QVector<OpenEntry> open;
+    open.append({0, top, 0, 0});
+    for (const OutlineEntry &entry : entries) {
+        while (open.size() > 1 && open.constLast().level >= entry.level) {
+            close(open.takeLast(), false);
+        }
+        OpenEntry &parent = open.last();
+        const Object item = newIndirect(newDictionary());
+        set(item, "/Title", newText(entry.title));
+        set(item, "/Parent", parent.item);
+        set(item, "/Dest", newDestination(entry.place));
+        if (parent.count > 0) {
+            set(item, "/Prev", parent.last);
+            set(parent.last, "/Next", item);
+        } else {
+            set(parent.item, "/First", item);
+        }
+        parent.last = item;
+        ++parent.count;
+        open.append({entry.level, item, 0, 0});
+    }
+    while (!open.isEmpty()) {
+        const OpenEntry entry = open.takeLast();
+        close(entry, open.isEmpty());
+    }
+    set(m_root, "/Outlines", top);
+    set(m_root, "/PageMode", newName("/UseOutlines"));
+}
+
+Completion::Object Completion::newAction(const QString &address) const
+{
+    const Object action = newDictionary();
+    set(action, "/S", newName("/URI"));
+    set(action, "/URI", newBytes(QUrl(address).toEncoded()));
+    return action;
+}
+
+void Completion::addLinks(const QVector<Link> &links, const QHash<QString, Place> &targets)
+{
+    QHash<int, Object> lists; // of the annotations of a page
+    for (const Link &link : links) {
+        const bool isInside = link.address.startsWith(u'#');
+        const auto target = targets.constFind(link.address.mid(1));
+        if (isInside && target == targets.cend()) {
+            continue;
+        }
+        const Object area = qpdf_oh_new_array(m_file);
+        append(area, newNumber(link.area.left() / MRVPdfWriter::DotsPerPoint));
+        append(area, newNumber(fromBottom(link.area.bottom())));
+        append(area, newNumber(link.area.right() / MRVPdfWriter::DotsPerPoint));
+        append(area, newNumber(fromBottom(link.area.top())));
+        const Object annotation = newDictionary();
+        set(annotation, "/Type", newName("/Annot"));
+        set(annotation, "/Subtype", newName("/Link"));
+        set(annotation, "/Rect", area);
+        set(annotation, "/Border", qpdf_oh_parse(m_file, "[0 0 0]"));
+        set(annotation, "/F", newInteger(4)); // printed with the page
+        if (isInside) {
+            set(annotation, "/Dest", newDestination(*target));
+        } else {
+            set(annotation, "/A", newAction(link.address));
+        }
+        if (!lists.contains(link.page)) {
+            lists.insert(link.page, newIndirect(qpdf_oh_new_array(m_file)));
+            set(pageAt(link.page), "/Annots", lists.value(link.page));
+        }
+        append(lists.value(link.page), newIndirect(annotation));
+    }
+}
+
+} // namespace
+
+class MRVPdfWriter::Private
+{
+public:
+    Private(const QSizeF &paper, const MRVPdfProperties &documentProperties);
+    bool complete(QByteArray *bytes, QString *error);
+
+    MRVPdfProperties properties;
+    qreal paperHeight;
+    QBuffer buffer;
+    std::unique_ptr<QPdfWriter> writer;
+    QPainter painter;
+    qpdf_data file = nullptr;
+    bool isValid = true;
+    int page = 0;
+    QVector<QPair<int, int>> numbers; // page from 0, number
+    QVector<OutlineEntry> outline;
+    QVector<Link> links;
+    QHash<QString, Place> targets;
+};
+
+MRVPdfWriter::Private::Private(const QSizeF &paper, const MRVPdfProperties &documentProperties)
+    : properties(documentProperties)
+    , paperHeight(paper.height())
+{
+    buffer.open(QIODevice::WriteOnly);
+    writer = std::make_unique<QPdfWriter>(&buffer);
+    writer->setResolution(DotsPerInch);
+    writer->setPageSize(QPageSize(paper, QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer->setPageMargins(QMarginsF());
+    isValid = painter.begin(writer.get());
+}
+
+bool MRVPdfWriter::Private::complete(QByteArray *bytes, QString *error)
+{
+    const std::unique_ptr<qpdf_data, void (*)(qpdf_data *)> owner(&file, qpdf_cleanup);
+    file = qpdf_init();
+    qpdf_set_suppress_warnings(file, QPDF_TRUE);
+    qpdf_silence_errors(file);
+    const QByteArray &written = buffer.data();
+    int result = qpdf_read_memory(file, "pdf", written.constData(),
+                                  static_cast<unsigned long long>(written.size()), nullptr);
+    if ((result & QPDF_ERRORS) == 0) {
+        Completion completion(file, paperHeight);
+        completion.setProperties(properties);
+        completion.setPageNumbers(numbers);
+        completion.addOutline(outline);
+        completion.addLinks(links, targets);
+        // Objects are numbered as they are reached from the root, and not in the order of a hash.
+        result = qpdf_init_write_memory(file);
+    }
+    if ((result & QPDF_ERRORS) == 0) {
+        qpdf_set_object_stream_mode(file, qpdf_o_generate);
+        qpdf_set_deterministic_ID(file, QPDF_TRUE);
+        result = qpdf_write(file);
+    }
+    if ((result & QPDF_ERRORS) != 0 || qpdf_has_error(file)) {
+        *error = QString::fromLocal8Bit(qpdf_get_error_full_text(file, qpdf_get_error(file)));
+        return false;
+    }
+    *bytes = QByteArray(reinterpret_cast<const char *>(qpdf_get_buffer(file)),
+                        int(qpdf_get_buffer_length(file)));
+    return true;
+}
+
+MRVPdfWriter::MRVPdfWriter(const QSizeF &paper, const MRVPdfProperties &properties)
+    : d(std::make_unique<Private>(paper, properties))
+{
+}
+
+MRVPdfWriter::~MRVPdfWriter() = default;
+
+QPainter *MRVPdfWriter::painter()
+{
+    return &d->painter;
+}
+
+void MRVPdfWriter::newPage()
+{
+    d->isValid = d->writer->newPage() && d->isValid;
+    ++d->page;
+}
+
+int MRVPdfWriter::pageCount() const
+{
+    return d->page + 1;
+}
+
+void MRVPdfWriter::setPageNumber(int number)
+{
+    if (!d->numbers.isEmpty() && d->numbers.constLast().first == d->page) {
+        d->numbers.removeLast();
+    }
+    d->numbers.append({d->page, number});
+}
+
+void MRVPdfWriter::addOutline(const QString &title, int level, qreal y)
+{
+    const QString shown = title.simplified();
+    if (!shown.isEmpty()) {
+        d->outline.append({shown, qMax(1, level), {d->page, y}});
+    }
+}
+
+void MRVPdfWriter::addTarget(const QString &name, qreal y)
+{
+    if (!d->targets.contains(name)) {
+        d->targets.insert(name, {d->page, y});
+    }
+}
+
+void MRVPdfWriter::addLink(const QRectF &area, const QString &address)
+{
+    if (address.startsWith(u'#') || isOutsideAddress(address)) {
+        d->links.append({d->page, area.normalized(), address});
+    }
+}
+
+bool MRVPdfWriter::finish(QByteArray *bytes, QString *error)
+{
+    d->isValid = d->painter.end() && d->isValid;
+    QString reason = tr("the pages cannot be painted");
+    if (d->isValid && d->complete(bytes, &reason)) {
+        return true;
+    }
+    if (error) {
+        *error = tr("The PDF document cannot be made: %1").arg(reason);
+    }
+    return false;
+}
