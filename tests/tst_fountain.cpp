@@ -225,7 +225,7 @@ private Q_SLOTS:
         QCOMPARE(QString("%1 %2 %3 %4")
                      .arg(found.scenes)
                      .arg(found.words)
-                     .arg(found.lines)
+                     .arg(found.printedPages)
                      .arg(found.eighths),
                  cell("counts"));
         QCOMPARE(list.join(", "), cell("characters"));

@@ -22,7 +22,8 @@ constexpr struct
 } formats[] = {{MRVScriptFile::Fountain, "fountain", "fountain spmd txt"},
                {MRVScriptFile::Html, "html", "html htm xhtml"},
                {MRVScriptFile::FinalDraft, "fdx", "fdx"},
-               {MRVScriptFile::EPub, "epub", "epub"}};
+               {MRVScriptFile::EPub, "epub", "epub"},
+               {MRVScriptFile::Pdf, "pdf", "pdf"}};
 
 } // namespace
 
@@ -75,6 +76,7 @@ bool MRVScriptFile::read(const QByteArray &bytes, Format format, QString *error)
         file.m_script = MRVFountainScript::fromText(file.m_text);
         break;
     case EPub:
+    case Pdf:
     case UnknownFormat:
         reason = tr("unknown type of script");
         break;
@@ -126,6 +128,7 @@ QByteArray MRVScriptFile::toByteArray(const MRVFountainScript &script, Format fo
     case FinalDraft:
         return MRVFinalDraft::toXml(script);
     case EPub:
+    case Pdf:
     case UnknownFormat:
         break;
     }

@@ -44,9 +44,10 @@ public:
         Html, ///< a page of MRVFountainHtml
         FinalDraft,
         EPub, ///< is only written, by MRVScriptBook
+        Pdf, ///< is only written, by MRVScriptPdf
     };
 
-    /** The format that is called "fountain", "html", "fdx" or "epub"; else UnknownFormat. */
+    /** The format that is called "fountain", "html", "fdx", "epub" or "pdf"; else UnknownFormat. */
     static Format formatNamed(const QString &name);
     /** The format that the suffix of a file says, in any case; UnknownFormat for another one. */
     static Format formatOfFile(const QString &path);

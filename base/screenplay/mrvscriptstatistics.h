@@ -6,17 +6,15 @@
 #include <QString>
 #include <QVector>
 
+class MRVScriptPagination;
 class QJsonObject;
 
 /**
  * How much of a script there is, and whose.
  *
- * Pages are counted as a screenplay is typed: Courier of 12 points has ten characters and six lines
- * to the inch, and a Letter page with margins of an inch above and below holds 54 lines. Lines are
- * broken at the widths of the built-in mode (action 60 characters, dialogue 35, parentheticals 20),
- * with two empty lines before a scene heading and one before action, cues, transitions and centred
- * text; of two who speak side by side, the longer counts. Notes, sections, synopses, the title page
- * and what is cut out are not printed. A page is a minute, which is the rule of thumb of the trade.
+ * Pages are those of MRVScriptPagination, so a PDF document of the script has as many. Notes,
+ * sections, synopses, the title page and what is cut out are not printed. A page is a minute, which
+ * is the rule of thumb of the trade.
  *
  * @since 1.0
  */
@@ -34,11 +32,11 @@ struct MRVBASE_EXPORT MRVScriptStatistics
 
     int scenes = 0;
     int words = 0; ///< of all that is printed: what has a letter or digit, between white space
-    int lines = 0; ///< as they are printed, empty ones at the head of pages left out of account
+    int printedPages = 0; ///< sheets of paper, without the title page
     int eighths = 0; ///< pages in eighths, as breakdowns count them, rounded up
     QVector<Character> characters; ///< by words, then by name
 
-    /** The printed length in Letter pages; the last one counts in eighths. */
+    /** The printed length; the last page counts in eighths. */
     double pages() const { return eighths / 8.0; }
     /** Playing time at a page a minute, rounded up. */
     int minutes() const { return (eighths + 7) / 8; }
@@ -47,6 +45,13 @@ struct MRVBASE_EXPORT MRVScriptStatistics
     /** All of it, with "characters" as a list in their order; keys are the names used here. */
     QJsonObject toJson() const;
 
-    /** Takes time linear in the script. */
+    /** Counts a script in the built-in mode, on Letter paper. Takes time linear in the script. */
     static MRVScriptStatistics of(const MRVFountainScript &script);
+    /**
+     * Counts a script on other pages.
+     *
+     * @param pagination that of @p script.
+     */
+    static MRVScriptStatistics of(const MRVFountainScript &script,
+                                  const MRVScriptPagination &pagination);
 };
