@@ -139,12 +139,14 @@ constexpr Verb verbs[] = {
      "Prints what could not be read as it stands, titles that are missing, used twice or lead "
      "nowhere, and elements whose paragraphs look the same. Exit code 1: something was printed, or "
      "a file was refused."},
-    {"convert", "IN", "convert a script: Fountain, HTML, Final Draft, EPUB", runScriptConvert,
-     "Converts Fountain, pages and Final Draft documents into each other, and into e-books. - is "
-     "standard input. The pages that can be read are those that this command has written."},
+    {"convert", "IN", "convert a script: Fountain, HTML, Final Draft, EPUB, PDF", runScriptConvert,
+     "Converts Fountain, pages and Final Draft documents into each other, into e-books, and into "
+     "PDF documents as scripts are printed. - is standard input. The pages that can be read are "
+     "those that this command has written."},
     {"stats", "IN...", "count scenes, pages, and what characters say", runScriptStats,
-     "Counts the scenes, pages, minutes and words of scripts, and what each character says. A page "
-     "is 54 lines of Courier 12, in eighths; a page is a minute. - is standard input."},
+     "Counts the scenes, pages, minutes and words of scripts, and what each character says. Pages "
+     "are those of a PDF document of the script, in eighths; a page is a minute. - is standard "
+     "input."},
     {"rename", "OLD NEW IN", "rename a character", runScriptRename,
      "Renames a character in the cues and, on request, elsewhere, and writes the script in its own "
      "format; other lines of Fountain stay as they are. - is standard input. Exit code 1: no "
@@ -155,8 +157,8 @@ constexpr Option options[] = {
     Option::choice("units", "UNITS", "in cm pt", "Show lengths in in, cm or pt.", "show"),
     Option::flag("xml", "Print the file of the mode.", "show"),
     Option::name("o output", "FILE", "Write the file of the mode.", "show"),
-    Option::choice("to", "FORMAT", "fountain html fdx epub",
-                   "What to write: fountain, html, fdx or epub. Default: by the suffix of -o.",
+    Option::choice("to", "FORMAT", "fountain html fdx epub pdf",
+                   "What to write: fountain, html, fdx, epub or pdf. Default: by the suffix of -o.",
                    "convert"),
     Option::choice("from", "FORMAT", "fountain html fdx",
                    "The format of the input: fountain, html or fdx. Default: by its suffix.",
@@ -167,9 +169,27 @@ constexpr Option options[] = {
                  "convert"),
     Option::name("o output", "FILE",
                  "Where to write; may be the script itself. Default: standard output.", "rename"),
-    Option::name("mode", "MODE",
-                 "The mode that gives an e-book its look: the name of a factory mode, or a mode "
-                 "file. Default: the built-in US screenplay.",
+    Option::name(
+        "mode", "MODE",
+        "The mode that gives an e-book or the pages of a PDF document their look: the name "
+        "of a factory mode, or a mode file. Default: the built-in US screenplay.",
+        "convert stats"),
+    Option::choice("paper", "PAPER", "letter a4",
+                   "The paper: letter or a4. Default: a4 for modes in centimetres, else letter.",
+                   "convert stats"),
+    Option::text("pages", "FIRST-LAST",
+                 "Print only these pages into a PDF document: 3-10, 3- or 3.", "convert"),
+    Option::text("character", "NAME",
+                 "Print into a PDF document only the pages of the scenes in which NAME speaks, "
+                 "with these speeches marked.",
+                 "convert"),
+    Option::text("watermark", "TEXT", "Print TEXT across each page of a PDF document.", "convert"),
+    Option::flag("scene-numbers",
+                 "Print numbers of scenes in both margins of a PDF document: those of the script, "
+                 "or else counted from 1.",
+                 "convert"),
+    Option::flag("continued",
+                 "Print \"CONTINUED\" where a scene of a PDF document goes on on the next page.",
                  "convert"),
     Option::text("language", "TAG",
                  "The language of a page or e-book, such as en-GB. Default: that of the page that "

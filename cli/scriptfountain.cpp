@@ -4,8 +4,10 @@
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvscriptbook.h"
+#include "pdf/mrvscriptpdf.h"
 #include "publish/mrvoutputfiles.h"
 #include "screenplay/mrvscriptfile.h"
+#include "screenplay/mrvscriptpagination.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvfixeddate.h"
@@ -13,6 +15,7 @@
 
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 namespace {
 
@@ -37,7 +40,8 @@ bool readScript(const QString &path, const QString &from, MRVScriptFile *file, Q
     if (file->read(bytes, format, &reason)) {
         return true;
     }
-    const bool isUnknown = format == MRVScriptFile::UnknownFormat || format == MRVScriptFile::EPub;
+    const bool isUnknown = format == MRVScriptFile::UnknownFormat || format == MRVScriptFile::EPub
+        || format == MRVScriptFile::Pdf;
     *error = path + QLatin1String(": ") + reason
         + QLatin1String(isUnknown ? "; say with --from what it is" : "");
     return false;
@@ -65,10 +69,55 @@ struct ConvertOptions
     Format to = MRVScriptFile::UnknownFormat;
     QString output; // the file
     MRVScriptMode mode;
+    MRVScriptPdf::Options pdf;
     QString language;
     MRVScriptBook::Typeface typeface = MRVScriptBook::ReadersChoice;
     bool json = false;
 };
+
+QByteArray bytesOf(const MRVFountainScript &script, const ConvertOptions &options, QString *error)
+{
+    switch (options.to) {
+    case MRVScriptFile::EPub:
+        return MRVScriptBook::toByteArray(script, options.mode, options.language, options.typeface,
+                                          error);
+    case MRVScriptFile::Pdf: {
+        MRVScriptPdf::Options pdf = options.pdf;
+        pdf.language = options.language;
+        return MRVScriptPdf::toByteArray(script, options.mode, pdf, error);
+    }
+    default:
+        return MRVScriptFile::toByteArray(script, options.to, options.language);
+    }
+}
+
+constexpr const char *pdfOptions[] = {"paper",     "pages",         "character",
+                                      "watermark", "scene-numbers", "continued"};
+
+// Reads "3-10", "3-" or "3".
+bool readPages(const QString &text, MRVScriptPdf::Options *options)
+{
+    static const QRegularExpression pages(QStringLiteral("^([1-9]\\d{0,5})(-([1-9]\\d{0,5})?)?$"));
+    const QRegularExpressionMatch match = pages.match(text);
+    options->firstPage = match.captured(1).toInt();
+    options->lastPage =
+        match.capturedLength(2) == 0 ? options->firstPage : match.captured(3).toInt();
+    return match.hasMatch() && (options->lastPage == 0 || options->lastPage >= options->firstPage);
+}
+
+bool readPdfOptions(const Call &call, MRVScriptPdf::Options *options, QString *error)
+{
+    if (call.has("pages") && !readPages(call.value("pages"), options)) {
+        *error = QStringLiteral("'%1' is no range of pages such as 3-10").arg(call.value("pages"));
+        return false;
+    }
+    options->pagination.paper = MRVScriptPagination::paperNamed(call.value("paper"));
+    options->pagination.sceneNumbers = call.has("scene-numbers");
+    options->pagination.sceneContinuations = call.has("continued");
+    options->character = call.value("character");
+    options->watermark = call.value("watermark").simplified();
+    return true;
+}
 
 // -1 to go on, else the exit code.
 int readOptions(const Call &call, ConvertOptions *options)
@@ -82,7 +131,7 @@ int readOptions(const Call &call, ConvertOptions *options)
     options->json = call.has("json");
     if (options->to == MRVScriptFile::UnknownFormat) {
         return usageError(
-            QStringLiteral("say with --to what to write: fountain, html, fdx or epub"));
+            QStringLiteral("say with --to what to write: fountain, html, fdx, epub or pdf"));
     }
     const Format named = output == StandardStream ? MRVScriptFile::UnknownFormat
                                                   : MRVScriptFile::formatOfFile(output);
@@ -95,9 +144,20 @@ int readOptions(const Call &call, ConvertOptions *options)
     if (!readLanguage(call, &options->language, &error)) {
         return usageError(error);
     }
+    const bool isPdf = options->to == MRVScriptFile::Pdf;
+    const bool isLaidOut = isPdf || options->to == MRVScriptFile::EPub;
     const QString mode = call.value("mode");
-    if (!mode.isEmpty() && options->to != MRVScriptFile::EPub) {
-        return usageError(QStringLiteral("--mode is for e-books only"));
+    if (!mode.isEmpty() && !isLaidOut) {
+        return usageError(QStringLiteral("--mode is for e-books and PDF documents only"));
+    }
+    for (const char *option : pdfOptions) {
+        if (call.has(option) && !isPdf) {
+            return usageError(
+                QStringLiteral("--%1 is for PDF documents only").arg(QLatin1String(option)));
+        }
+    }
+    if (!readPdfOptions(call, &options->pdf, &error)) {
+        return usageError(error);
     }
     if (call.has("fixed-pitch")) {
         if (options->to != MRVScriptFile::EPub) {
@@ -106,7 +166,7 @@ int readOptions(const Call &call, ConvertOptions *options)
         options->typeface = MRVScriptBook::FixedPitch;
     }
     QDateTime unused;
-    if (options->to == MRVScriptFile::EPub && !MRVFixedDate::fromEnvironment(&unused, &error)) {
+    if (isLaidOut && !MRVFixedDate::fromEnvironment(&unused, &error)) {
         return usageError(error);
     }
     options->mode.loadFactoryDefaults();
@@ -149,13 +209,12 @@ int runScriptConvert(const Call &call)
     if (!readScript(options.input, options.from, &script, &error)) {
         return refuse(error);
     }
-    const QString language =
-        options.language.isEmpty() ? MRV::languageTag(script.language()) : options.language;
+    if (options.language.isEmpty()) {
+        options.language = MRV::languageTag(script.language());
+    }
     const MRVFountainScript written =
         call.has("printed") ? script.script().printed() : script.script();
-    const QByteArray bytes = options.to == MRVScriptFile::EPub
-        ? MRVScriptBook::toByteArray(written, options.mode, language, options.typeface, &error)
-        : MRVScriptFile::toByteArray(written, options.to, language);
+    const QByteArray bytes = bytesOf(written, options, &error);
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }
@@ -173,10 +232,10 @@ namespace {
 
 void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
 {
-    printLine(QStringLiteral("%1: scenes %2, pages %3, minutes %4, words %5")
+    printLine(QStringLiteral("%1: scenes %2, pages %3 (%4 printed), minutes %5, words %6")
                   .arg(styled(Style::Path, path), QString::number(statistics.scenes),
-                       statistics.pagesText(), QString::number(statistics.minutes()),
-                       QString::number(statistics.words)));
+                       statistics.pagesText(), QString::number(statistics.printedPages),
+                       QString::number(statistics.minutes()), QString::number(statistics.words)));
     for (const auto &character : statistics.characters) {
         printLine(QStringLiteral("  %1: speeches %2, lines %3, words %4, scenes %5")
                       .arg(displayed(character.name), QString::number(character.speeches),
@@ -189,6 +248,14 @@ void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
 
 int runScriptStats(const Call &call)
 {
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    QString modeError;
+    if (call.has("mode") && !mode.loadNamed(call.value("mode"), &modeError)) {
+        return refuse(modeError);
+    }
+    MRVScriptPagination::Options layout;
+    layout.paper = MRVScriptPagination::paperNamed(call.value("paper"));
     bool ok = true;
     for (const QString &input : call.arguments) {
         MRVScriptFile file;
@@ -198,7 +265,9 @@ int runScriptStats(const Call &call)
             ok = false;
             continue;
         }
-        const MRVScriptStatistics statistics = MRVScriptStatistics::of(file.script());
+        const MRVFountainScript script = file.script();
+        const MRVScriptStatistics statistics =
+            MRVScriptStatistics::of(script, MRVScriptPagination(script, mode, layout));
         if (call.has("json")) {
             QJsonObject object = statistics.toJson();
             object.insert(QStringLiteral("path"), input);

@@ -70,6 +70,7 @@ constexpr Module modules[] = {
 
     {"base/clipboard",   8, "Core Gui"},
     {"base/epub",        8, "Core Gui libdeflate.h zip.h"},
+    {"base/pdf",         8, "Core Gui qpdf/qpdf-c.h"},
     {"base/publish",     8, "Core Gui"},
 
     {"plugins/webview",  ProgramLayer, "Core Gui Network Widgets WebKit WebKitWidgets"},

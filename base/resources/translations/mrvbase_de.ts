@@ -2585,6 +2585,17 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPdfWriter</name>
+    <message>
+        <source>the pages cannot be painted</source>
+        <translation>die Seiten können nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be made: %1</source>
+        <translation>Das PDF-Dokument kann nicht erstellt werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVPictureReader</name>
     <message>
         <source>it does not exist</source>
@@ -2731,6 +2742,17 @@ Fehler: %2</translation>
     <message>
         <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
         <translation>„%1“ ist weder ein mitgelieferter Modus noch eine Datei; meinten Sie „%2“?</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptPdf</name>
+    <message>
+        <source>Nobody called &quot;%1&quot; speaks.</source>
+        <translation>Niemand namens „%1“ spricht.</translation>
+    </message>
+    <message>
+        <source>The script has no such pages, or nothing to print.</source>
+        <translation>Das Drehbuch hat keine solchen Seiten oder nichts zu drucken.</translation>
     </message>
 </context>
 <context>

@@ -2585,6 +2585,17 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPdfWriter</name>
+    <message>
+        <source>the pages cannot be painted</source>
+        <translation>las páginas no se pueden dibujar</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be made: %1</source>
+        <translation>El documento PDF no se puede crear: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVPictureReader</name>
     <message>
         <source>it does not exist</source>
@@ -2731,6 +2742,17 @@ Error: %2</translation>
     <message>
         <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
         <translation>«%1» no es ni un modo incluido ni un archivo; ¿quiso decir «%2»?</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptPdf</name>
+    <message>
+        <source>Nobody called &quot;%1&quot; speaks.</source>
+        <translation>No habla nadie llamado «%1».</translation>
+    </message>
+    <message>
+        <source>The script has no such pages, or nothing to print.</source>
+        <translation>El guion no tiene esas páginas o nada que imprimir.</translation>
     </message>
 </context>
 <context>

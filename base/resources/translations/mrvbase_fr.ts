@@ -2585,6 +2585,17 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVPdfWriter</name>
+    <message>
+        <source>the pages cannot be painted</source>
+        <translation>les pages ne peuvent pas être dessinées</translation>
+    </message>
+    <message>
+        <source>The PDF document cannot be made: %1</source>
+        <translation>Le document PDF ne peut pas être créé&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>MRVPictureReader</name>
     <message>
         <source>it does not exist</source>
@@ -2731,6 +2742,17 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>&apos;%1&apos; is neither a factory mode nor a file; did you mean &apos;%2&apos;?</source>
         <translation>«&#xa0;%1&#xa0;» n’est ni un mode fourni ni un fichier&#xa0;; vouliez-vous dire «&#xa0;%2&#xa0;»&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>MRVScriptPdf</name>
+    <message>
+        <source>Nobody called &quot;%1&quot; speaks.</source>
+        <translation>Personne du nom de «&#xa0;%1&#xa0;» ne parle.</translation>
+    </message>
+    <message>
+        <source>The script has no such pages, or nothing to print.</source>
+        <translation>Le scénario n’a pas de telles pages, ou rien à imprimer.</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,329 @@
+#include "datarows.h"
+#include "support.h"
+
+#include "pdf/mrvpdfwriter.h"
+#include "pdf/mrvscriptpdf.h"
+#include "screenplay/mrvscriptpagination.h"
+#include "scriptmode/mrvscriptmode.h"
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <algorithm>
+
+using Element = MRVFountainElement;
+using Line = MRVScriptLine;
+using Page = MRVScriptPage;
+
+namespace {
+
+MRVScriptMode builtIn()
+{
+    MRVScriptMode mode;
+    mode.loadFactoryDefaults();
+    return mode;
+}
+
+QString joined(const QVector<Line> &lines)
+{
+    QStringList texts;
+    for (const Line &line : lines) {
+        if (line.kind != Line::PageNumber) {
+            texts += line.text();
+        }
+    }
+    return texts.join('|');
+}
+
+QStringList wordsOf(const QString &text)
+{
+    return text.toUpper().split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
+}
+
+/// A text of up to @p most words.
+QString sentences(QRandomGenerator *random, int most)
+{
+    QString text;
+    const int count = random->bounded(1, most);
+    for (int i = 0; i < count; ++i) {
+        const int ends = random->bounded(9);
+        text += QString("ivy%1").arg(random->bounded(1000)) + QString(random->bounded(12), 'x');
+        text += ends == 0 ? ". " : ends == 1 ? "\n" : " ";
+    }
+    return text.trimmed();
+}
+
+MRVFountainScript randomScript(QRandomGenerator *random, int size)
+{
+    constexpr Element::Kind kinds[] = {
+        Element::Action,   Element::Action,     Element::SceneHeading, Element::Character,
+        Element::Dialogue, Element::Dialogue,   Element::Dialogue,     Element::Parenthetical,
+        Element::Lyrics,   Element::Transition, Element::Centered,     Element::Note,
+        Element::Synopsis, Element::PageBreak};
+    MRVFountainScript script;
+    script.titles.append({"Title", {{"Title of it", {}, MRVFountainRun::Text}}});
+    for (int i = 0; i < size; ++i) {
+        int most = random->bounded(20) == 0 ? 400 : 30;
+        Element element;
+        element.kind = kinds[random->bounded(int(std::size(kinds)))];
+        if (element.kind == Element::PageBreak && random->bounded(5) > 0) {
+            continue;
+        }
+        most =
+            element.kind == Element::SceneHeading || element.kind == Element::Character ? 4 : most;
+        if (element.kind != Element::PageBreak) {
+            element.runs = {{sentences(random, most), {}, MRVFountainRun::Text}};
+        }
+        element.dual = element.kind == Element::Character && random->bounded(4) == 0;
+        script.elements.append(element);
+    }
+    return script.normalized();
+}
+
+/// The lines of a page as they are read: those of one height from left to right.
+QStringList rowsOf(const Page &page)
+{
+    QVector<Line> lines = page.lines;
+    std::stable_sort(lines.begin(), lines.end(), [](const Line &a, const Line &b) {
+        return a.top != b.top ? a.top < b.top : a.left < b.left;
+    });
+    QStringList rows;
+    qreal top = -1;
+    for (const Line &line : qAsConst(lines)) {
+        if (line.top == top) {
+            rows.last() += ' ' + line.text();
+        } else {
+            rows += line.text();
+        }
+        top = line.top;
+    }
+    for (QString &row : rows) {
+        row = row.simplified();
+    }
+    rows.removeAll(QString());
+    return rows;
+}
+
+} // namespace
+
+class tst_Pagination : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString pdfText(const QByteArray &bytes, const QStringList &options = {"-layout"})
+    {
+        const QString file = m_folder.filePath("script.pdf");
+        QFile output(file);
+        if (!output.open(QIODevice::WriteOnly) || output.write(bytes) != bytes.size()) {
+            qFatal("no space for %s", qPrintable(file));
+        }
+        output.close();
+        return run(programPath("pdftotext"), options + QStringList{file, "-"}).output;
+    }
+
+private Q_SLOTS:
+    void breaks_data() { addRows("scriptpages.tsv"); }
+    void breaks()
+    {
+        const auto script = MRVFountainScript::fromText(cell("text"));
+        const MRVScriptPagination pagination(script, builtIn());
+        const QVector<Page> pages = pagination.pages();
+        QCOMPARE(QString::number(pages.size()), cell("pages"));
+        if (pages.size() > 1) {
+            const QStringList foot = cell("foot").split('|');
+            QCOMPARE(joined(pages.at(0).lines.mid(pages.at(0).lines.size() - foot.size())),
+                     cell("foot"));
+            QVERIFY(joined(pages.at(1).lines.mid(0, 3)).startsWith(cell("head")));
+        }
+        QCOMPARE((pagination.eighths() + 7) / 8, pages.size());
+    }
+
+    /// Each word is on the pages once and in its order, within the margins, and by the rules.
+    void rules()
+    {
+        const MRVScriptMode mode = builtIn();
+        for (int seed = 0; seed < 300; ++seed) {
+            QRandomGenerator random(seed);
+            const MRVFountainScript script = randomScript(&random, 60);
+            const MRVScriptPagination pagination(script, mode);
+            QStringList expected;
+            for (const Element &element : script.printed().elements) {
+                expected +=
+                    wordsOf(element.kind == Element::Parenthetical ? '(' + element.text() + ')'
+                                                                   : element.text());
+            }
+            QStringList printed;
+            for (const Page &page : pagination.pages()) {
+                for (int i = 0; i < page.lines.size(); ++i) {
+                    const Line &line = page.lines.at(i);
+                    if (line.kind == Line::Text) {
+                        printed += wordsOf(line.text());
+                    }
+                    QVERIFY(line.kind == Line::PageNumber || line.top >= 72);
+                    QVERIFY2(line.top + line.height <= 792 - 72 + 0.1, qPrintable(line.text()));
+                    QVERIFY(line.text().size() <= 62);
+                }
+                const Line &last = page.lines.constLast();
+                const bool isLastPage = page.number == pagination.pages().size();
+                const auto next = std::find_if(script.elements.cbegin() + last.element + 1,
+                                               script.elements.cend(), [](const Element &element) {
+                                                   return element.kind < Element::Note
+                                                       || element.kind == Element::PageBreak;
+                                               });
+                if (!isLastPage && next->kind != Element::PageBreak && last.kind == Line::Text) {
+                    const QByteArray place =
+                        QString("seed %1 page %2").arg(seed).arg(page.number).toUtf8();
+                    const Element::Kind kind = script.elements.at(last.element).kind;
+                    QVERIFY2(kind != Element::SceneHeading, place);
+                    QVERIFY2(kind != Element::Character || next->kind != Element::Dialogue, place);
+                }
+            }
+            printed.sort();
+            expected.sort(); // speeches side by side are divided together
+            QCOMPARE(printed.join(' '), expected.join(' '));
+        }
+    }
+
+    void margins()
+    {
+        const auto script = MRVFountainScript::fromText(
+            withRepeats("INT. A #7#\n\n⟨60×a\n⟩\nINT. B\n\nOne\n\nEXT. C #9A#\n\nTwo"));
+        MRVScriptPagination::Options options;
+        options.sceneNumbers = true;
+        options.sceneContinuations = true;
+        options.paper = MRVScriptPagination::A4;
+        const MRVScriptPagination pagination(script, builtIn(), options);
+        QCOMPARE(pagination.paperSize(), MRVPdfWriter::a4());
+        const QVector<Page> pages = pagination.pages();
+        QCOMPARE(pages.size(), 2);
+        QCOMPARE(rowsOf(pages.at(0)).constFirst(), QString("7 INT. A 7"));
+        QCOMPARE(rowsOf(pages.at(0)).constLast(), QString("(CONTINUED)"));
+        QCOMPARE(rowsOf(pages.at(0)).size(), 1 + 56 + 1); // 58 lines, of which one is empty
+        QCOMPARE(rowsOf(pages.at(1)),
+                 (QStringList{"2.", "CONTINUED:", "a", "a", "a", "a", "INT. B", "One",
+                              "9A EXT. C 9A", "Two"}));
+        QCOMPARE(pagination.pageOf(3), 2);
+        QCOMPARE(pagination.eighths(0, 2), 9); // 1 + 1 + 60 lines of 58
+        QCOMPARE(pagination.eighths(2, 4), 1);
+    }
+
+    void titlePage()
+    {
+        const auto script =
+            MRVFountainScript::fromText("Title: The Gauge\nCredit: by\nAuthor: Ann\nContact:\n    "
+                                        "Street 1\n    Town\nDraft date: "
+                                        "today\n\nText");
+        const QVector<Page> pages = MRVScriptPagination(script, builtIn()).titlePages();
+        QCOMPARE(pages.size(), 1);
+        QCOMPARE(rowsOf(pages.constFirst()),
+                 (QStringList{"The Gauge", "by", "Ann", "Street 1", "Town today"}));
+        QVERIFY(pages.constFirst().lines.constLast().top > 700);
+    }
+
+    /// What another program reads is what the pages say, in each mode.
+    void pdf()
+    {
+        const QMap<QString, MRVScriptMode> modes = MRVScriptMode::systemModes();
+        QCOMPARE(modes.size(), 10);
+        for (const MRVScriptMode &mode : modes) {
+            QRandomGenerator random(mode.elements().size());
+            const MRVFountainScript script = randomScript(&random, 60);
+            MRVScriptPdf::Options options;
+            options.pagination.sceneNumbers = true;
+            QString error;
+            const QByteArray bytes = MRVScriptPdf::toByteArray(script, mode, options, &error);
+            QVERIFY2(!bytes.isEmpty(), qPrintable(error));
+            const MRVScriptPagination pagination(script, mode, options.pagination);
+            const QStringList read = pdfText(bytes).split('\f');
+            const QVector<Page> pages = pagination.titlePages() + pagination.pages();
+            QCOMPARE(read.size(), pages.size() + 1);
+            for (int i = 0; i < pages.size(); ++i) {
+                // Rows may be apart by less than a line where line heights differ.
+                QStringList expected = wordsOf(rowsOf(pages.at(i)).join(' '));
+                QStringList found = wordsOf(read.at(i));
+                expected.sort();
+                found.sort();
+                QCOMPARE(found.join(' '), expected.join(' '));
+            }
+            if (mode.name() == QLatin1String("US Screenplay")) {
+                QStringList rows = read.at(2).split('\n');
+                for (QString &row : rows) {
+                    row = row.simplified();
+                }
+                rows.removeAll(QString());
+                QCOMPARE(rows, rowsOf(pages.at(2)));
+            }
+        }
+    }
+
+    void pdfPages()
+    {
+        const auto script = MRVFountainScript::fromText(withRepeats(
+            "Title: T\n\nINT. A\n\nANN\nMine.\n\n===\n\nINT. B\n\nBOB\nHis.\n\n===\n\n> ACT TWO "
+            "<\n\nINT. C\n\nBOB\nAgain.\n\nANN\nLast. [[private]]\n\n= secret"));
+        MRVScriptPdf::Options options;
+        QString error;
+        const auto text = [&] {
+            return pdfText(MRVScriptPdf::toByteArray(script, builtIn(), options, &error), {"-raw"})
+                .simplified();
+        };
+        QCOMPARE(text(),
+                 QString("T INT. A ANN Mine. 2. INT. B BOB His. 3. ACT TWO INT. C BOB "
+                         "Again. ANN Last."));
+        options.firstPage = options.lastPage = 2;
+        QCOMPARE(text(), QString("2. INT. B BOB His."));
+        options.firstPage = options.lastPage = 0;
+        options.character = "ann";
+        QCOMPARE(text(), QString("INT. A ANN Mine. 3. ACT TWO INT. C BOB Again. ANN Last."));
+        options.watermark = "Copy";
+        QVERIFY(text().contains("C o p y"));
+        options.character = "Eve";
+        QVERIFY(MRVScriptPdf::toByteArray(script, builtIn(), options, &error).isEmpty());
+        QVERIFY(error.contains("Eve"));
+        options.character.clear();
+        options.firstPage = 4;
+        QVERIFY(MRVScriptPdf::toByteArray(script, builtIn(), options, &error).isEmpty());
+    }
+
+    void structure()
+    {
+        QByteArray bytes;
+        QString error;
+        MRVPdfWriter writer(MRVPdfWriter::a4(), {"Größe", "Ann", "de", {}});
+        writer.setPageNumber(0);
+        writer.addLink({0, 0, 100, 100}, "#late");
+        writer.addLink({0, 100, 100, 100}, "https://example.org/ü");
+        writer.addLink({0, 200, 100, 100}, "file:///etc/passwd");
+        writer.addLink({0, 200, 100, 100}, "#nowhere");
+        writer.newPage();
+        writer.setPageNumber(7);
+        writer.addOutline("Act", 1, 0);
+        writer.addOutline("Scene (1)", 2, 600);
+        writer.addOutline("Deeper", 5, 600);
+        writer.addOutline("Act 2", 1, 1200);
+        writer.addTarget("late", 2400);
+        QVERIFY2(writer.finish(&bytes, &error), qPrintable(error));
+        const QString file = m_folder.filePath("structure.pdf");
+        QFile output(file);
+        QVERIFY(output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size());
+        output.close();
+        const QString info = run(programPath("pdfinfo"), {"-url", file}).output;
+        QVERIFY2(info.contains("https://example.org/%C3%BC"), qPrintable(info));
+        QVERIFY(!info.contains("passwd"));
+        const QString about = run(programPath("pdfinfo"), {file}).output;
+        QVERIFY(about.contains("Größe") && about.contains(QRegularExpression("Pages: +2\n")));
+        QVERIFY(!about.contains("Date"));
+        const QString shown = run(programPath("pdftohtml"), {"-xml", "-stdout", "-i", file}).output;
+        const QString outline = shown.mid(shown.indexOf("<outline>")).simplified();
+        QVERIFY2(outline.startsWith(
+                     "<outline> <item page=\"2\">Act</item> <outline> <item page=\"2\">Scene "
+                     "(1)</item> <outline> <item page=\"2\">Deeper</item> </outline> </outline> "
+                     "<item page=\"2\">Act 2</item> </outline>"),
+                 qPrintable(shown));
+    }
+};
+
+QTEST_MAIN(tst_Pagination)
+#include "tst_pagination.moc"
