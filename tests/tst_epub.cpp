@@ -146,27 +146,35 @@ private Q_SLOTS:
                  bodies.first().contains("Anmerkungen"));
     }
 
-    // Lists with levels become lists in lists, each with the numbers of its level.
+    // Lists with levels become lists in lists, each with the numbers of its level. Markers that
+    // no type of list has are text.
     void listLevels()
     {
-        QTextDocument document("a\nb\nc\nd\ne\nf");
+        QTextDocument document("a\nb\nc\nd\ne\n");
         QTextCursor cursor(&document);
         cursor.select(QTextCursor::Document);
         QTextListFormat format;
         format.setIndent(1);
-        MRVTextListFormat::setLevels(format, {{"%0.", 1, 36, 18}, {"%0)", 2, 72, 18}});
+        MRVTextListFormat::setLevels(format,
+                                     {{"%0.", 1, 36, 18},
+                                      {"(%0)", 2, 72, 18},
+                                      {QString(QChar(0x25a0)), 0, 108, 18},
+                                      {"<", 0, 144, 18}});
         QTextList *list = cursor.createList(format);
-        const int levels[] = {0, 1, 1, 2, 0, 1};
+        const int levels[] = {0, 1, 1, 2, 3, 1};
         for (int i = 0; i < 6; ++i) {
             MRVTextListFormat::setBlockLevel(*list, list->item(i), levels[i]);
         }
         MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata());
         QVERIFY(package.addDocument(document));
         const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"].remove('\n');
-        QCOMPARE(page.section("<body>", 1).section("</body>", 0, 0),
-                 QString("<ol><li>a<A><li>b</li><li>c<A><li>d</li></ol></li></ol></li>"
-                         "<li>e<A><li>f</li></ol></li></ol>")
-                     .replace("<A>", "<ol class=\"lower-alpha\">"));
+        QCOMPARE(
+            page.section("<body>", 1).section("</body>", 0, 0),
+            QString("<ol><li>a<ol COUNTED><li>MARK(a)</span> b</li><li>MARK(b)</span> c"
+                    "<ul class=\"square\"><li>d<ul COUNTED><li>MARK&lt;</span> e</li></ul></li>"
+                    "</ul></li><li>MARK(c)</span> </li></ol></li></ol>")
+                .replace("COUNTED", "class=\"counted\"")
+                .replace("MARK", "<span class=\"marker\">"));
     }
 
     // By choice, an annotation leaves the text for a note, and a comment becomes one.

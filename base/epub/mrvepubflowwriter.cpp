@@ -36,13 +36,20 @@ const ListType &listType(QTextListFormat::Style style)
     return row == std::end(listTypes) ? listTypes[0] : *row;
 }
 
-// The number of a list item as readers show it, with a blank after it.
-QString itemLabel(QTextListFormat::Style style, int number)
+bool isNumbered(QTextListFormat::Style style)
 {
-    QTextListFormat format;
-    format.setStyle(style);
-    const int numberStyle = MRVTextListFormat::shownLevel(format, 0).numberStyle;
-    return mrvListNumberText(number, numberStyle) + QLatin1String(". ");
+    return style <= QTextListFormat::ListDecimal;
+}
+
+// Whether readers show the items of a level as they are meant to without being told more than the
+// type of the list.
+bool isUsualMarker(const MRVTextListLevel &level, QTextListFormat::Style style)
+{
+    QTextListFormat plain;
+    plain.setStyle(style);
+    const MRVTextListLevel usual = MRVTextListFormat::shownLevel(plain, 0);
+    return level.text == usual.text && level.numberStyle == usual.numberStyle
+        && style != QTextListFormat::ListStyleUndefined;
 }
 
 // Whether a paragraph holds marks such as "* * *" and nothing else.
@@ -241,18 +248,18 @@ void MRVEPubWriter::arrangeIn(int quoteLevel, int indent)
 void MRVEPubWriter::arrangeItem(const MRVFlowParagraph &paragraph,
                                 const MRVEPubParagraphFormat &format)
 {
-    const QTextListFormat::Style style = listStyle(paragraph);
-    const int depth = listDepth(paragraph);
+    const ListLook &look = listLook(paragraph);
+    const int depth = look.depth;
     int kept = 0;
     int quotes = 0;
     bool isOpen = false;
     for (; kept < m_containers.size() && !isOpen; ++kept) {
         Container &container = m_containers[kept];
         const bool goesOn = !container.isQuote && container.depth == depth
-            && container.style == style && style <= QTextListFormat::ListDecimal
-            && paragraph.itemNumber != 1 && kept + 1 == m_containers.size();
-        const bool isNext = m_isEPub3 || container.isCounted
-            || container.style > QTextListFormat::ListDecimal
+            && container.style == look.style && container.markers == look.level.text
+            && isNumbered(look.style) && paragraph.itemNumber != 1
+            && kept + 1 == m_containers.size();
+        const bool isNext = m_isEPub3 || container.isCounted || !isNumbered(container.style)
             || paragraph.itemNumber == container.number + 1;
         const bool isSame = container.list == paragraph.list && container.depth == depth;
         isOpen = !container.isQuote && (isSame || goesOn) && isNext;
@@ -279,21 +286,23 @@ void MRVEPubWriter::arrangeItem(const MRVFlowParagraph &paragraph,
     openQuotes(format.quoteLevel);
 }
 
-QTextListFormat MRVEPubWriter::listFormat(const MRVFlowParagraph &paragraph) const
+const MRVEPubWriter::ListLook &MRVEPubWriter::listLook(const MRVFlowParagraph &paragraph)
 {
-    return m_flow.document.object(paragraph.list)->format().toListFormat();
-}
-
-QTextListFormat::Style MRVEPubWriter::listStyle(const MRVFlowParagraph &paragraph) const
-{
-    return MRVTextListFormat::shownStyle(listFormat(paragraph), paragraph.listLevel);
-}
-
-// How deep an item stands in lists, levels included; as many are open around it at most.
-int MRVEPubWriter::listDepth(const MRVFlowParagraph &paragraph) const
-{
-    constexpr int Deepest = 1000;
-    return listFormat(paragraph).indent() + qMin(paragraph.listLevel, Deepest);
+    const QPair<int, int> key(paragraph.list, paragraph.listLevel);
+    auto known = m_listLooks.find(key);
+    if (known == m_listLooks.end()) {
+        // As many lists are open around an item as it is deep, at most.
+        constexpr int Deepest = 1000;
+        const QTextListFormat format =
+            m_flow.document.object(paragraph.list)->format().toListFormat();
+        ListLook look;
+        look.style = MRVTextListFormat::shownStyle(format, paragraph.listLevel);
+        look.level = MRVTextListFormat::shownLevel(format, paragraph.listLevel);
+        look.isUsual = isUsualMarker(look.level, look.style);
+        look.depth = format.indent() + qMin(paragraph.listLevel, Deepest);
+        known = m_listLooks.insert(key, look);
+    }
+    return *known;
 }
 
 // Whether no more elements must be opened around text: parsers of XML take 256 within each other.
@@ -305,17 +314,18 @@ bool MRVEPubWriter::isDeep() const
 
 void MRVEPubWriter::openList(const MRVFlowParagraph &paragraph)
 {
-    const QTextListFormat::Style style = listStyle(paragraph);
-    const ListType &type = listType(style);
-    const bool isNumbered = style <= QTextListFormat::ListDecimal;
+    const ListLook &look = listLook(paragraph);
+    const ListType &type = listType(look.style);
+    const bool hasNumbers = isNumbered(look.style);
     Container list;
     list.list = paragraph.list;
-    list.depth = listDepth(paragraph);
-    list.style = style;
+    list.depth = look.depth;
+    list.style = look.style;
+    list.markers = look.level.text;
     list.number = paragraph.itemNumber - 1;
-    list.isCounted = isNumbered && !m_isEPub3 && paragraph.itemNumber != 1;
-    list.end = isNumbered ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
-    m_out.append(isNumbered ? QLatin1String("<ol") : QLatin1String("<ul"));
+    list.isCounted = !look.isUsual || (hasNumbers && !m_isEPub3 && paragraph.itemNumber != 1);
+    list.end = hasNumbers ? "</li>\n</ol>\n" : "</li>\n</ul>\n";
+    m_out.append(hasNumbers ? QLatin1String("<ol") : QLatin1String("<ul"));
     // Markers stand on the side that the first item begins at.
     const bool isRight = m_formats.isRightToLeft(int(&paragraph - m_flow.paragraphs.constData()));
     list.direction = isRight ? Qt::RightToLeft : direction();
@@ -326,7 +336,7 @@ void MRVEPubWriter::openList(const MRVFlowParagraph &paragraph)
         const QByteArray rule = QByteArray("    list-style-type: ") + type.name + ";\n";
         m_out.append(" class=\"" + m_book.looks.boxClass(type.name, rule) + '"');
     }
-    if (isNumbered && m_isEPub3 && paragraph.itemNumber != 1) {
+    if (hasNumbers && m_isEPub3 && paragraph.itemNumber != 1) {
         m_out.append(" start=\"" + QByteArray::number(paragraph.itemNumber) + '"');
     }
     m_out.append(QLatin1String(">\n"));
@@ -345,13 +355,15 @@ void MRVEPubWriter::openItem(const MRVFlowParagraph &paragraph,
     const int look = m_book.looks.add(own);
     m_out.append(QLatin1String("<li"));
     m_itemHole = writeClass(look);
-    const bool isNumbered = list.style <= QTextListFormat::ListDecimal;
-    if (isNumbered && m_isEPub3 && paragraph.itemNumber != list.number + 1) {
+    if (isNumbered(list.style) && m_isEPub3 && paragraph.itemNumber != list.number + 1) {
         m_out.append(" value=\"" + QByteArray::number(paragraph.itemNumber) + '"');
     }
     list.number = paragraph.itemNumber;
-    m_itemLabel = list.isCounted ? itemLabel(list.style, list.number) : QString();
-    if (format.marker != QTextBlockFormat::MarkerType::NoMarker) {
+    const bool isTask = format.marker != QTextBlockFormat::MarkerType::NoMarker;
+    m_itemLabel = list.isCounted && !isTask
+        ? mrvListMarkerText(listLook(paragraph).level, list.number)
+        : QString();
+    if (isTask) {
         const bool isDone = format.marker == QTextBlockFormat::MarkerType::Checked;
         m_page.holes[m_itemHole].flags |= isDone ? MRVEPubHole::Done : MRVEPubHole::Open;
     }
@@ -583,7 +595,7 @@ QPair<int, int> MRVEPubWriter::placeOf(int paragraph)
     }
     const MRVFlowParagraph &place = m_flow.paragraphs.at(paragraph);
     const MRVEPubParagraphFormat &format = m_formats.paragraph(place.format);
-    return {format.quoteLevel, place.list < 0 ? format.indent : listDepth(place)};
+    return {format.quoteLevel, place.list < 0 ? format.indent : listLook(place).depth};
 }
 
 bool MRVEPubWriter::isPlainText(int paragraph)

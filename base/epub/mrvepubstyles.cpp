@@ -153,8 +153,22 @@ td.covered {
     text-indent: 0;
     text-align: center;
 }
-ol.counted {
+ol.counted, ul.counted {
     list-style-type: none;
+}
+.marker {
+    display: inline-block;
+    min-width: 1.5em;
+    margin: 0 0 0 -1.8em;
+    text-align: right;
+    text-indent: 0;
+}
+.marker-right {
+    display: inline-block;
+    min-width: 1.5em;
+    margin: 0 -1.8em 0 0;
+    text-align: left;
+    text-indent: 0;
 }
 li.checked {
     list-style-type: "\2611\20";

@@ -66,7 +66,11 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
     m_isSpaced = false;
     m_isAfterBlank = true;
     if (!m_itemLabel.isEmpty()) {
+        const bool isRight = direction() == Qt::RightToLeft;
+        m_out.append(isRight ? QLatin1String("<span class=\"marker-right\">")
+                             : QLatin1String("<span class=\"marker\">"));
         m_out.appendText(std::exchange(m_itemLabel, QString()), QLatin1String(), false);
+        m_out.append(QLatin1String("</span> "));
     }
     int position = place.position;
     for (int i = place.firstFragment; i < end; ++i) {

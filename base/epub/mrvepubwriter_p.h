@@ -5,8 +5,10 @@
 #include "epub/mrvepubformats_p.h"
 #include "epub/mrvepubmarkup_p.h"
 #include "epub/mrvepubnotes_p.h"
+#include "text/mrvtextlistformat.h"
 
 #include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QStringList>
 #include <QTextTableCell>
@@ -46,8 +48,17 @@ private:
         QTextListFormat::Style style = QTextListFormat::ListDisc;
         int number = 0; // of its last item
         Qt::LayoutDirection direction = Qt::LeftToRight;
-        bool isCounted = false; // its numbers are text: it begins with another than EPUB 2 can say
+        QString markers; // the text around numbers, or the bullet
+        bool isCounted = false; // markers are text, as no type of list is like them
         QByteArray end;
+    };
+    // What the items of a level of a list look like.
+    struct ListLook
+    {
+        QTextListFormat::Style style;
+        MRVTextListLevel level;
+        bool isUsual; // as readers show items of the style
+        int depth; // in lists, levels included
     };
     struct Element
     {
@@ -131,9 +142,7 @@ private:
     bool isPlainText(int paragraph);
     bool standsWith(int first, int second);
     QPair<int, int> placeOf(int paragraph);
-    QTextListFormat listFormat(const MRVFlowParagraph &paragraph) const;
-    QTextListFormat::Style listStyle(const MRVFlowParagraph &paragraph) const;
-    int listDepth(const MRVFlowParagraph &paragraph) const;
+    const ListLook &listLook(const MRVFlowParagraph &paragraph);
     bool isTableCaption(int frame, int paragraph);
     void writeCaption(int paragraph);
     void writeCaption(int paragraph, QLatin1String tag, QLatin1String end);
@@ -199,7 +208,8 @@ private:
     int m_linkAttributes = -1; // of the open link
     bool m_isSpaced = false; // the text of the paragraph holds white space that counts
     bool m_isAfterBlank = true;
-    QString m_itemLabel; // the text before that of the next paragraph
+    QHash<QPair<int, int>, ListLook> m_listLooks; // by list and level
+    QString m_itemLabel; // the marker before the text of the next paragraph
     int m_itemHole = 0; // of the item that was begun last
     int m_openNote = -1; // the note that is being written
     int m_openFrame = -1; // the innermost table or frame that is
