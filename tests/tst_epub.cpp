@@ -158,7 +158,7 @@ private Q_SLOTS:
         MRVTextListFormat::setLevels(format,
                                      {{"%0.", 1, 36, 18},
                                       {"(%0)", 2, 72, 18},
-                                      {QString(QChar(0x25a0)), 0, 108, 18},
+                                      {QString(QChar(0x25cf)), 0, 108, 18},
                                       {"<", 0, 144, 18}});
         QTextList *list = cursor.createList(format);
         const int levels[] = {0, 1, 1, 2, 3, 1};
@@ -168,13 +168,12 @@ private Q_SLOTS:
         MRVEPubPackage package(MRVEPubVersion::EPub3, MRVEPubMetadata());
         QVERIFY(package.addDocument(document));
         const QString page = unpacked(package.toByteArray())["OEBPS/page-001.xhtml"].remove('\n');
-        QCOMPARE(
-            page.section("<body>", 1).section("</body>", 0, 0),
-            QString("<ol><li>a<ol COUNTED><li>MARK(a)</span> b</li><li>MARK(b)</span> c"
-                    "<ul class=\"square\"><li>d<ul COUNTED><li>MARK&lt;</span> e</li></ul></li>"
-                    "</ul></li><li>MARK(c)</span> </li></ol></li></ol>")
-                .replace("COUNTED", "class=\"counted\"")
-                .replace("MARK", "<span class=\"marker\">"));
+        QCOMPARE(page.section("<body>", 1).section("</body>", 0, 0),
+                 QString("<ol><li>a<ol COUNTED><li>MARK(a)</span> b</li><li>MARK(b)</span> c"
+                         "<ul class=\"disc\"><li>d<ul COUNTED><li>MARK&lt;</span> e</li></ul></li>"
+                         "</ul></li><li>MARK(c)</span> </li></ol></li></ol>")
+                     .replace("COUNTED", "class=\"counted\"")
+                     .replace("MARK", "<span class=\"marker\">"));
     }
 
     // By choice, an annotation leaves the text for a note, and a comment becomes one.

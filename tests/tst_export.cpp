@@ -334,7 +334,8 @@ private Q_SLOTS:
         QCOMPARE(page.count("</h2>"), 1);
     }
 
-    // Qt's HTML knows no levels, so each is a list of its own.
+    // Qt's HTML knows no levels, so each is a list of its own. What it does not say of markers, the
+    // styles of items do.
     void listLevels()
     {
         QTextDocument document("a\nb\nc\nd\ne");
@@ -345,15 +346,47 @@ private Q_SLOTS:
         QTextList *list = cursor.createList(format);
         const QString flat = document.toHtml("utf-8");
         QCOMPARE(X(&document).toText(X::Html), flat);
+        MRVTextListFormat::setLevels(format,
+                                     {{"%0.", 1, 36, 18}, {"%0;", 2, 72, 18}, {"●", 0, 99, 9}});
+        list->setFormat(format);
         const int levels[] = {0, 1, 1, 2, 0};
         for (int i = 0; i < 5; ++i) {
             MRVTextListFormat::setBlockLevel(*list, list->item(i), levels[i]);
         }
-        const QString page = X(&document).toText(X::Xhtml).section("<body", 1).section('>', 1);
-        QCOMPARE(QString(page).remove(QRegularExpression(" style=\"[^\"]*\"|\n")),
-                 QString("<ol><li>a<ol><li>b</li><li>c<ol><li>d</li></ol></li></ol></li>"
+        const auto listsOf = [&document] {
+            QString page = X(&document).toText(X::Xhtml).section("<body", 1).section('>', 1);
+            page.remove(
+                QRegularExpression("(?<=[\" ;]) *(?!list|counter)[-a-z]+: ?[^;]*;| *(?=\")|\n"));
+            return page.remove(" style=\"\"");
+        };
+        const QString nested = listsOf();
+        QCOMPARE(nested,
+                 QString("<ol><li>a<ol style=\"list-style-type:lower-alpha;\">"
+                         "<li style=\"list-style-type: 'a\\3b  ';\">b</li>"
+                         "<li style=\"list-style-type: 'b\\3b  ';\">c"
+                         "<ul style=\"list-style-type: disc;\"><li>d</li></ul></li></ol></li>"
                          "<li>e</li></ol></body></html>"));
         QCOMPARE(list->count(), 5);
+
+        document.setPlainText("f\ng");
+        cursor = QTextCursor(&document);
+        cursor.select(QTextCursor::Document);
+        format = QTextListFormat();
+        format.setStyle(QTextListFormat::ListUpperRoman);
+        format.setProperty(MRVTextFormat::ListStartProperty, 4);
+        cursor.createList(format);
+        QVERIFY(X(&document).toText(X::Html).contains("<ol type=\"I\" start=\"4\""));
+        QCOMPARE(listsOf(),
+                 QString("<ol style=\"counter-reset:list-item 3; list-style-type:upper-roman;\">"
+                         "<li style=\"list-style-type: 'IV. ';\">f</li>"
+                         "<li style=\"list-style-type: 'V. ';\">g</li></ol></body></html>"));
+        document.setHtml("<ul style='list-style-type:none'><li dir=rtl>h</ul>");
+        cursor = QTextCursor(&document);
+        format.setStyle(QTextListFormat::ListStyleUndefined);
+        cursor.createList(format);
+        QCOMPARE(listsOf(),
+                 QString("<ul dir=\"rtl\" style=\"list-style-type: none;\">"
+                         "<li dir='rtl'>h</li></ul></body></html>"));
     }
 
     void losses_data() { addRows("exportlosses.tsv"); }

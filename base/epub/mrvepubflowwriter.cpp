@@ -300,6 +300,9 @@ const MRVEPubWriter::ListLook &MRVEPubWriter::listLook(const MRVFlowParagraph &p
         look.level = MRVTextListFormat::shownLevel(format, paragraph.listLevel);
         look.isUsual = isUsualMarker(look.level, look.style);
         look.depth = format.indent() + qMin(paragraph.listLevel, Deepest);
+        // Readers draw circles in a list within a list, where nobody tells them what to draw.
+        look.isTold =
+            look.style == QTextListFormat::ListDisc && !MRVTextListFormat::levels(format).isEmpty();
         known = m_listLooks.insert(key, look);
     }
     return *known;
@@ -310,6 +313,12 @@ bool MRVEPubWriter::isDeep() const
 {
     constexpr int Deepest = 200;
     return m_depth + InList * m_containers.size() > Deepest;
+}
+
+bool MRVEPubWriter::isInList() const
+{
+    return std::any_of(m_containers.begin(), m_containers.end(),
+                       [](const Container &container) { return !container.isQuote; });
 }
 
 void MRVEPubWriter::openList(const MRVFlowParagraph &paragraph)
@@ -332,7 +341,7 @@ void MRVEPubWriter::openList(const MRVFlowParagraph &paragraph)
     writeDirection(list.direction, direction());
     if (list.isCounted) {
         m_out.append(QLatin1String(" class=\"counted\""));
-    } else if (!type.isUsual) {
+    } else if (!type.isUsual || (look.isTold && isInList())) {
         const QByteArray rule = QByteArray("    list-style-type: ") + type.name + ";\n";
         m_out.append(" class=\"" + m_book.looks.boxClass(type.name, rule) + '"');
     }

@@ -58,6 +58,7 @@ private:
         QTextListFormat::Style style;
         MRVTextListLevel level;
         bool isUsual; // as readers show items of the style
+        bool isTold; // a disc on purpose, where readers draw others
         int depth; // in lists, levels included
     };
     struct Element
@@ -126,6 +127,7 @@ private:
     void arrange(int paragraph);
     void arrangeIn(int quoteLevel, int indent);
     void arrangeItem(const MRVFlowParagraph &paragraph, const MRVEPubParagraphFormat &format);
+    bool isInList() const;
     void openList(const MRVFlowParagraph &paragraph);
     void openItem(const MRVFlowParagraph &paragraph, const MRVEPubParagraphFormat &format);
     void openQuotes(int level);

@@ -567,7 +567,10 @@ std::shared_ptr<MRVHtmlList> MRVHtmlBuilder::listOf(const GumboNode *element,
         bool ok = false;
         const int start = mrvAttributeOf(element, "start").toInt(&ok);
         list->step = isReversed ? -1 : 1;
-        list->number = ok ? start : isReversed ? itemCount(element) : 1;
+        list->number = ok        ? start
+            : style.hasListStart ? style.listStart
+            : isReversed         ? itemCount(element)
+                                 : 1;
     }
     if (list->number != 1) {
         list->format.setProperty(MRVTextFormat::ListStartProperty, list->number);

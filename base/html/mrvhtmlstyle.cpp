@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QHash>
 
+#include <limits>
+
 namespace {
 
 /** Pages have no width here; percentages are those of a column of this many pixels. */
@@ -356,6 +358,17 @@ void listStyleType(const Value &value, MRVHtmlStyle *style)
     }
 }
 
+// As the exporter writes where a list begins, in pages that have no attribute for it.
+void counterReset(const Value &value, MRVHtmlStyle *style)
+{
+    const QStringList words = value.text.simplified().split(u' ');
+    bool ok = false;
+    const int before = words.value(1).toInt(&ok);
+    style->hasListStart = words.constFirst() == QLatin1String("list-item") && words.size() == 2
+        && ok && before < std::numeric_limits<int>::max();
+    style->listStart = style->hasListStart ? before + 1 : 1;
+}
+
 void visibility(const Value &value, MRVHtmlStyle *style)
 {
     if (value.text == QLatin1String("visible") || value.text == QLatin1String("initial")) {
@@ -545,6 +558,7 @@ constexpr struct
     {"-qt-line-height-type", lineHeightType},
     {"white-space", whiteSpace},
     {"list-style-type", listStyleType},
+    {"counter-reset", counterReset},
     {"visibility", visibility},
     {"display", display},
     {"margin-top", margin},

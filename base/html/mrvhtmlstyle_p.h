@@ -58,6 +58,8 @@ struct MRVHtmlStyle
     QTextLength height;
     QTextCharFormat::VerticalAlignment verticalAlignment = QTextCharFormat::AlignNormal;
     bool collapsesBorders = false;
+    bool hasListStart = false;
+    int listStart = 1; ///< of the list's first item, where hasListStart
     // What Qt's own pages say.
     int blockIndent = 0;
     int listIndent = 0;

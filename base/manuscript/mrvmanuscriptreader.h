@@ -10,7 +10,8 @@
  *
  * The encoding is the one that was set, else that of a byte-order mark, of an XML declaration, of
  * the head of HTML, else UTF-8. The names of pictures count from the folder of the file. Nothing is
- * fetched from other machines. GUI thread only.
+ * fetched from other machines. Lists within lists stay such; MRVNestedLists::toLevels() makes
+ * levels of them. GUI thread only.
  *
  * @code
  * MRVManuscriptReader reader;

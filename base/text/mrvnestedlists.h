@@ -7,8 +7,20 @@ class QTextDocument;
 /**
  * Lists whose paragraphs have levels, and lists within lists, which are Qt's way and that of HTML.
  *
- * Qt knows nothing of levels, so what it writes (HTML, ODT, its own clipboard) is flat unless they
- * are nested first, in a copy of the document.
+ * Qt knows nothing of levels, so what it writes (HTML, Markdown, ODT, paper, its own clipboard) is
+ * flat unless they are nested first, in a copy of the document. The exporters of this library nest
+ * them themselves.
+ *
+ * What the readers of manuscripts give has lists within lists, since any view of Qt shows those. An
+ * application that edits levels turns them into levels once, when it takes a document in:
+ *
+ * @code
+ * MRVManuscriptReader reader;
+ * MRVManuscript manuscript;
+ * if (reader.read(QStringLiteral("novel.docx"), &manuscript)) {
+ *     MRVNestedLists::toLevels(manuscript.document.get());
+ * }
+ * @endcode
  *
  * Each function is one undo step, and none where nothing changes. Qt's time for a list grows with
  * the square of its items: thousands are fast, tens of thousands are not. GUI thread only.

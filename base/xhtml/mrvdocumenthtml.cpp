@@ -1,10 +1,14 @@
 #include "xhtml/mrvdocumenthtml.h"
 
+#include "text/mrvlistmarkers.h"
 #include "text/mrvnestedlists.h"
+#include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextblockformat.h"
+#include "textformat/mrvtextformat.h"
 
 #include <QHash>
 #include <QPair>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -200,6 +204,157 @@ QString anchorHtml(const QString &name)
     return QStringLiteral("<a name=\"%1\"></a>").arg(name.toHtmlEscaped());
 }
 
+// What Qt's HTML does not say of a list or of an item, as declarations and attributes.
+struct ListTag
+{
+    QString attributes;
+    QString style;
+};
+
+QString cssString(const QString &text)
+{
+    QString escaped;
+    for (const QChar c : text) {
+        const bool isPlain = c.isLetterOrNumber() || QStringLiteral(" .()[]-*+").contains(c);
+        escaped += isPlain || c.unicode() > 0x7f ? QString(c)
+                                                 : u'\\' + QString::number(c.unicode(), 16) + u' ';
+    }
+    return u'\'' + escaped + u'\'';
+}
+
+// The tags of lists and of items, in the order in which Qt writes them: that of the paragraphs.
+class ListTags
+{
+public:
+    // Written is the document itself, or a copy in which the levels of lists are nested.
+    ListTags(const QTextDocument &document, const QTextDocument &written)
+    {
+        for (QTextBlock block = written.begin(); block.isValid(); block = block.next()) {
+            const QTextList *list = block.textList();
+            if (list && list->item(0) == block) {
+                addList(list->format(), block.textDirection(), &document != &written);
+            }
+        }
+        QHash<QPair<const QTextList *, int>, Look> looks;
+        MRVListCounter counter;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            if (const QTextList *list = block.textList()) {
+                const int level = mrvListLevel(*list, block);
+                auto look = looks.find({list, level});
+                if (look == looks.end()) {
+                    look = looks.insert({list, level}, lookOf(list->format(), level));
+                }
+                addItem(*look, counter.next(look->format, list->objectIndex(), level));
+            }
+        }
+    }
+
+    bool any() const { return m_any; }
+    ListTag takeList() { return m_lists.value(m_list++); }
+    ListTag takeItem() { return m_items.value(m_item++); }
+
+private:
+    struct Look
+    {
+        QTextListFormat format;
+        MRVTextListLevel level;
+        bool isUsual; // as HTML shows items of the style, from 1 on
+    };
+
+    static Look lookOf(const QTextListFormat &format, int level)
+    {
+        const QTextListFormat::Style style = MRVTextListFormat::shownStyle(format, level);
+        QTextListFormat plain;
+        plain.setStyle(style);
+        const MRVTextListLevel usual = MRVTextListFormat::shownLevel(plain, 0);
+        const MRVTextListLevel shown = MRVTextListFormat::shownLevel(format, level);
+        // XHTML 1.1 has no attribute for the start, and some browsers not its declaration in CSS.
+        const bool begins = level == 0 && hasStart(format);
+        return {format, shown,
+                !begins && shown.text == usual.text && shown.numberStyle == usual.numberStyle};
+    }
+
+    static bool hasStart(const QTextListFormat &format)
+    {
+        return format.hasProperty(MRVTextFormat::ListStartProperty)
+            && format.intProperty(MRVTextFormat::ListStartProperty) != 1
+            && format.style() <= QTextListFormat::ListDecimal;
+    }
+
+    // Browsers draw circles in a list within a list, where nobody tells them what to draw. Qt draws
+    // discs, but as its HTML has always been, only lists that had levels are told.
+    void addList(const QTextListFormat &format, Qt::LayoutDirection direction, bool areDiscsTold)
+    {
+        ListTag tag;
+        const QTextListFormat::Style style = format.style();
+        if (hasStart(format)) {
+            tag.attributes = QStringLiteral(" start=\"%1\"")
+                                 .arg(format.intProperty(MRVTextFormat::ListStartProperty));
+        }
+        if (direction == Qt::RightToLeft) { // or the markers stand outside of the page
+            tag.attributes += QLatin1String(" dir=\"rtl\"");
+        }
+        if (style == QTextListFormat::ListStyleUndefined) {
+            tag.style = QStringLiteral("list-style-type: none; ");
+        } else if (areDiscsTold && style == QTextListFormat::ListDisc && format.indent() > 1) {
+            tag.style = QStringLiteral("list-style-type: disc; ");
+        }
+        append(&m_lists, tag);
+    }
+
+    // Browsers that know no texts here go on with the type of the list.
+    void addItem(const Look &look, int number)
+    {
+        ListTag tag;
+        if (!look.isUsual) {
+            const QString marker = mrvListMarkerText(look.level, number);
+            tag.style =
+                QStringLiteral("list-style-type: %1; ")
+                    .arg(marker.isEmpty() ? QStringLiteral("none") : cssString(marker + u' '));
+        }
+        append(&m_items, tag);
+    }
+
+    void append(QVector<ListTag> *tags, const ListTag &tag)
+    {
+        m_any = m_any || !tag.attributes.isEmpty() || !tag.style.isEmpty();
+        tags->append(tag);
+    }
+
+    QVector<ListTag> m_lists;
+    QVector<ListTag> m_items;
+    int m_list = 0;
+    int m_item = 0;
+    bool m_any = false;
+};
+
+QString withListTags(const QString &html, const QTextDocument &document,
+                     const QTextDocument &written)
+{
+    ListTags tags(document, written);
+    if (!tags.any()) {
+        return html;
+    }
+    static const QRegularExpression opening(
+        QStringLiteral("<(?:(ol|ul)|li)(?=[ >])(?:[^>\"']|\"[^\"]*\"|'[^']*')*?(?= style=\"| ?>)"));
+    QString whole;
+    int done = 0;
+    QRegularExpressionMatchIterator it = opening.globalMatch(html);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch match = it.next();
+        const ListTag tag = match.capturedLength(1) > 0 ? tags.takeList() : tags.takeItem();
+        whole += html.midRef(done, match.capturedEnd() - done);
+        whole += tag.attributes;
+        done = match.capturedEnd();
+        const QLatin1String style(" style=\"");
+        if (html.midRef(done).startsWith(style) && !tag.style.isEmpty()) {
+            whole += style + tag.style;
+            done += style.size();
+        }
+    }
+    return whole + html.midRef(done);
+}
+
 // Of the names of an anchor, Qt writes the first one.
 QString withAllNames(const QString &html, const QTextDocument &document)
 {
@@ -239,7 +394,7 @@ QString mrvDocumentHtml(const QTextDocument &document)
 {
     const Faults faults(document);
     if (!faults.any()) {
-        return withAllNames(document.toHtml("utf-8"), document);
+        return withAllNames(withListTags(document.toHtml("utf-8"), document, document), document);
     }
     const std::unique_ptr<QTextDocument> copy = copyOf(document);
     MRVNestedLists::fromLevels(copy.get());
@@ -249,5 +404,5 @@ QString mrvDocumentHtml(const QTextDocument &document)
     if (faults.inBorders) {
         mendBorders(*copy);
     }
-    return withAllNames(copy->toHtml("utf-8"), document);
+    return withAllNames(withListTags(copy->toHtml("utf-8"), document, *copy), document);
 }

@@ -16,6 +16,9 @@ class QTextDocument;
  *   this order, as Qt reads what follows a rule into the paragraph of the rule.
  * - A border style that Qt does not know, for which it would crash, counts as none.
  * - Lists whose paragraphs have levels become lists within lists: MRVNestedLists::fromLevels().
+ * - A list says the number that it begins with, and a list without markers that it has none. An
+ *   item whose marker is none of HTML's carries it as text of its style, which a browser shows that
+ *   knows CSS of this kind; others show the number or bullet that the list has in HTML.
  * - All names of an anchor are written, and not just the first one.
  *
  * The document is never changed: one that needs any of these is copied first. GUI thread only.

@@ -12,6 +12,7 @@ enum class Move {
     Value, // %1 is the value
     Length, // %1 is the value as a CSS length
     ListType,
+    ListStart,
     TableAlign,
     Pixels, // stays an attribute, a whole number above 0; others mean a size that Qt does not know
 };
@@ -35,6 +36,7 @@ constexpr AttributeRule rules[] = {
     {" td hr ",                         "width",       Move::Length,     "width:%1;",                   false},
     {" table ",                         "height",      Move::Length,     "height:%1;",                  false},
     {" ul ol ",                         "type",        Move::ListType,   "list-style-type:%1;",         false},
+    {" ol ",                            "start",       Move::ListStart,  "counter-reset:list-item %1;", false},
     {" table ",                         "width",       Move::Length,     "width:%1;",                   true},
     {" table ",                         "border",      Move::Length,     "border:%1 outset;",           true},
     {" table ",                         "cellspacing", Move::Length,     "border-spacing:%1;",          true},
@@ -72,6 +74,8 @@ QString declaration(const AttributeRule &rule, const QString &value)
             }
         }
         break;
+    case Move::ListStart: // %1 is what the first item adds 1 to
+        return pattern.arg(value.toInt() - 1);
     case Move::TableAlign:
     case Move::Drop:
     case Move::Pixels:
@@ -107,7 +111,8 @@ void applyRules(MRVHtmlTag *tag, MRVHtmlDialect dialect)
     for (const AttributeRule &rule : rules) {
         const QLatin1String name(rule.attribute);
         const int index = tag->indexOf(name);
-        if (index < 0 || (rule.html5Only && dialect != MRVHtmlDialect::Html5)
+        const bool isHtml5 = dialect == MRVHtmlDialect::Html5;
+        if (index < 0 || (rule.html5Only && !isHtml5) || (rule.move == Move::ListStart && isHtml5)
             || !QLatin1String(rule.elements).contains(element)) {
             continue;
         }
