@@ -88,7 +88,8 @@ public:
      * Renames a character.
      *
      * A cue is renamed where @p from is its name, in any case, or one of several names that are
-     * joined by "/", "&", "," or "AND"; what is after the name stays. In other text, @p from is
+     * joined by "/", "&", "+", "," or "AND" (also in German, French and Spanish), and in "MARY'S
+     * VOICE" where it is MARY; what is after the name stays. In other text, @p from is
      * looked for as a whole word: as it is given, in capitals, and with capital initials ("Ann
      * Lee"), so that "will" is not Will. The new name is written in capitals where the old one was,
      * and as given elsewhere; a name given in capitals becomes one with capital initials where the

@@ -1,5 +1,6 @@
 #include "screenplay/mrvscriptdocument.h"
 
+#include "screenplay/mrvcueparts_p.h"
 #include "screenplay/mrvscriptroles_p.h"
 #include "textformat/mrvtextformat.h"
 
@@ -134,8 +135,6 @@ bool Renaming::addName(const QString &text, int start, int end, int position)
 
 void Renaming::addCue(const QString &text, int position)
 {
-    static const QRegularExpression joint(QStringLiteral("[/&,]| and "),
-                                          QRegularExpression::CaseInsensitiveOption);
     QString end = text;
     while (!end.isEmpty()
            && (end.endsWith(u' ') || end.endsWith(QChar::ObjectReplacementCharacter))) {
@@ -145,14 +144,11 @@ void Renaming::addCue(const QString &text, int position)
     if (addName(text, 0, length, position)) {
         return;
     }
-    int start = 0;
-    for (auto it = joint.globalMatch(end.left(length)); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        addName(text, start, match.capturedStart(), position);
-        start = match.capturedEnd();
-    }
-    if (start > 0) {
-        addName(text, start, length, position);
+    const QVector<MrvCuePart> parts = mrvCueParts(text, length);
+    for (const MrvCuePart &part : parts) {
+        if (!addName(text, part.start, part.end, position)) {
+            addName(text, part.start, part.ownerEnd, position); // "MARY'S VOICE"
+        }
     }
 }
 
