@@ -1,5 +1,6 @@
 #include "scriptcommand.h"
 #include "commandline.h"
+#include "screenplay/mrvscriptfile.h"
 #include "scriptmode/mrvscriptelementtext.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvfilekind.h"
@@ -111,6 +112,10 @@ int check(const Call &call)
 {
     bool clean = true;
     for (const QString &file : call.arguments) {
+        if (call.has("from") || MRVScriptFile::formatOfFile(file) != MRVScriptFile::UnknownFormat) {
+            clean = checkScript(call, file) == Done && clean;
+            continue;
+        }
         MRVScriptMode mode;
         QString error;
         QStringList faults;
@@ -135,8 +140,10 @@ constexpr Verb verbs[] = {
      "script check' says why."},
     {"show", "MODE", "show a mode, or write its file", show,
      "MODE is the name of a factory mode, or a mode file. Lengths in JSON are in points."},
-    {"check", "FILE...", "check mode files", check,
-     "Prints what could not be read as it stands, titles that are missing, used twice or lead "
+    {"check", "FILE...", "check scripts and mode files", check,
+     "Of scripts, prints notes and cut text that do not end, cues without speech, and cues and "
+     "places that are one letter apart or spelled in two ways, with their lines. Of mode files, "
+     "prints what could not be read as it stands, titles that are missing, used twice or lead "
      "nowhere, and elements whose paragraphs look the same. Exit code 1: something was printed, or "
      "a file was refused."},
     {"convert", "IN", "convert a script: Fountain, HTML, Final Draft, EPUB, PDF", runScriptConvert,
@@ -147,6 +154,17 @@ constexpr Verb verbs[] = {
      "Counts the scenes, pages, minutes and words of scripts, and what each character says. Pages "
      "are those of a PDF document of the script, in eighths; a page is a minute. - is standard "
      "input."},
+    {"number", "IN", "number the scenes that have no number", runScriptNumber,
+     "Numbers the scenes without a number, and writes the script in its own format. Numbers that "
+     "are there stay: new scenes after 12 are 12A, 12B, those between 12 and 12A are A12A. - is "
+     "standard input."},
+    {"renumber", "IN", "number all scenes from 1", runScriptRenumber,
+     "Numbers all scenes from 1 on, whatever numbers they have, and writes the script in its own "
+     "format. - is standard input."},
+    {"compare", "BEFORE AFTER", "compare two scripts paragraph by paragraph", runScriptCompare,
+     "Prints the paragraphs and the entries of the title page that are gone (-) and new (+), with "
+     "their lines; those that have changed are both. Formats, line ends and empty lines that mean "
+     "nothing do not count. Exit code 1: they differ."},
     {"rename", "OLD NEW IN", "rename a character", runScriptRename,
      "Renames a character in the cues and, on request, elsewhere, and writes the script in its own "
      "format; other lines of Fountain stay as they are. - is standard input. Exit code 1: no "
@@ -162,13 +180,16 @@ constexpr Option options[] = {
                    "convert"),
     Option::choice("from", "FORMAT", "fountain html fdx",
                    "The format of the input: fountain, html or fdx. Default: by its suffix.",
-                   "convert stats rename"),
+                   "convert stats rename check number renumber compare"),
     Option::name("o output", "FILE",
                  "Where to write; - is standard output. Default: beside the input, with the suffix "
                  "of the format.",
                  "convert"),
     Option::name("o output", "FILE",
-                 "Where to write; may be the script itself. Default: standard output.", "rename"),
+                 "Where to write; may be the script itself. Default: standard output.",
+                 "rename number renumber"),
+    {"first", Option::Integer, "N", "The number of the first scene. Default: 1.", "renumber",
+     nullptr, 1, 1000000},
     Option::name(
         "mode", "MODE",
         "The mode that gives an e-book or the pages of a PDF document their look: the name "
@@ -210,14 +231,15 @@ constexpr Option options[] = {
 
 const Command scriptCommand = {
     "script",
-    "convert and count scripts, rename characters, check script modes",
-    "Converts scripts, counts what they contain, renames their characters, and shows and checks "
-    "the "
-    "script modes that they are written in.\n"
+    "convert, count, number, compare and check scripts, rename characters",
+    "Converts scripts, counts what they contain, numbers their scenes, renames their characters, "
+    "compares and checks them, and shows and checks the script modes that they are written in.\n"
     "Exit code 1: nothing found, or refused.",
     "script show \"US Screenplay\" --units cm -o mine.xml\n"
     "script convert play.fountain --to epub --mode \"UK Screenplay\"\n"
-    "script rename Ann Anna play.fountain --dialogue --action -o play.fountain",
+    "script rename Ann Anna play.fountain --dialogue --action -o play.fountain\n"
+    "script number play.fountain -o play.fountain\n"
+    "script compare draft1.fountain draft2.fdx",
     verbs,
     {options},
 };

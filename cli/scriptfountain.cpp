@@ -6,6 +6,7 @@
 #include "epub/mrvscriptbook.h"
 #include "pdf/mrvscriptpdf.h"
 #include "publish/mrvoutputfiles.h"
+#include "screenplay/mrvscriptcast.h"
 #include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptpagination.h"
 #include "screenplay/mrvscriptstatistics.h"
@@ -303,10 +304,10 @@ int runScriptRename(const Call &call)
     MRVScriptDocument::RenameScope scope;
     scope.setFlag(MRVScriptDocument::InDialogue, call.has("dialogue"));
     scope.setFlag(MRVScriptDocument::InAction, call.has("action"));
+    const bool speaksAlready = MRVScriptCast(file.script()).speaks(names.at(1));
     const int count = file.renameCharacter(names.at(0), names.at(1), scope);
+    const bool isSame = names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
     if (count == 0) {
-        const bool isSame =
-            names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
         return refuse((isSame ? QStringLiteral("%1: '%2' is the same name")
                               : QStringLiteral("%1: nobody is called '%2'"))
                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
@@ -315,11 +316,37 @@ int runScriptRename(const Call &call)
     if (!writeOutput(file.revised(), target, &error)) {
         return refuse(error);
     }
+    const bool isMerged = speaksAlready && !isSame;
+    if (isMerged) {
+        printError(QStringLiteral("%1: '%2' spoke already; both are one character now")
+                       .arg(names.at(2), names.at(1)));
+    }
     printLeftOut(names.at(2), file);
     if (target != StandardStream && call.has("json")) {
-        printJson({{QStringLiteral("path"), target}, {QStringLiteral("renamed"), count}});
+        printJson({{QStringLiteral("path"), target},
+                   {QStringLiteral("renamed"), count},
+                   {QStringLiteral("merged"), isMerged}});
     } else if (target != StandardStream) {
         printLine(QStringLiteral("%1: %2 renamed").arg(target).arg(count));
     }
     return Done;
+}
+
+bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error)
+{
+    return readScript(path, call.value("from"), file, error);
+}
+
+bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QString &path,
+                  const QString &target, QString *error)
+{
+    // Documents and pages may hold more than scripts: revisions, headers, what others have added.
+    if (isSameFile(path, target) && file->revised() != file->source()) {
+        *error =
+            QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
+                .arg(target);
+        return false;
+    }
+    file->setScript(script);
+    return writeOutput(file->revised(), target, error);
 }

@@ -173,6 +173,12 @@ public:
      * Reads a Fountain text. There is no text that could not be read. The result is normalized().
      */
     static MRVFountainScript fromText(const QString &text);
+    /**
+     * The same, and where its elements stand.
+     *
+     * @param lines receives for each element the line of @p text that it begins on, from 1.
+     */
+    static MRVFountainScript fromText(const QString &text, QVector<int> *lines);
 
     /** The Fountain text, of lines that end with '\n'. Reading it gives normalized(). */
     QString toText() const;

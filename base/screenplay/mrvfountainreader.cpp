@@ -22,8 +22,11 @@ public:
     }
 
     QVector<Object> objects();
+    /** The marks that objects() took for text. */
+    const QVector<int> &unmatched() const { return m_unmatched; }
 
 private:
+    void addUnmatched(int at);
     int noteEnd(int start);
     int boneyardEnd(int start);
     bool endsParagraph(int lineEnd) const;
@@ -32,6 +35,7 @@ private:
     // Once a search for an end has failed, all later ones fail, too.
     int m_noNoteBefore = 0;
     bool m_noBoneyards = false;
+    QVector<int> m_unmatched;
 };
 
 QVector<Object> ObjectScanner::objects()
@@ -57,10 +61,26 @@ QVector<Object> ObjectScanner::objects()
         } else if (c == u'/' && next == u'*' && (end = boneyardEnd(at + 2)) >= 0) {
             found.append({at, end, Run::Boneyard, m_text.mid(at + 2, end - at - 4)});
         }
+        if (end < 0) {
+            addUnmatched(at);
+        }
         at = end >= 0 ? end : at + 1;
     }
     found.append({INT_MAX, INT_MAX, Run::Note, QString()}); // for callers that look at the next one
     return found;
+}
+
+void ObjectScanner::addUnmatched(int at)
+{
+    const QStringRef mark = m_text.midRef(at, 2);
+    const bool isMark = mark == QLatin1String("[[") || mark == QLatin1String("]]")
+        || mark == QLatin1String("/*")
+        // Text may end with emphasis before a slash.
+        || (mark == QLatin1String("*/") && (at == 0 || m_text.at(at - 1).isSpace()));
+    const bool isAgain = !m_unmatched.isEmpty() && m_unmatched.constLast() == at - 1;
+    if (isMark && !isAgain) {
+        m_unmatched.append(at);
+    }
 }
 
 // Whether the line after a line's end is empty: one blank counts as empty, two are deliberate.
@@ -639,6 +659,13 @@ int FountainReader::readActionLines(int line)
 
 } // namespace
 
+QVector<int> MrvFountain::unmatchedMarks(const QString &plain)
+{
+    ObjectScanner scanner(plain);
+    scanner.objects();
+    return scanner.unmatched();
+}
+
 MRVFountainScript MrvFountain::scriptOf(const QString &plain, TextRanges *ranges)
 {
     FountainReader reader(plain);
@@ -652,4 +679,21 @@ MRVFountainScript MrvFountain::scriptOf(const QString &plain, TextRanges *ranges
 MRVFountainScript MRVFountainScript::fromText(const QString &text)
 {
     return scriptOf(plainText(text));
+}
+
+MRVFountainScript MRVFountainScript::fromText(const QString &text, QVector<int> *lines)
+{
+    const QString plain = plainText(text);
+    TextRanges ranges;
+    const MRVFountainScript script = scriptOf(plain, &ranges);
+    lines->clear();
+    int line = 1;
+    int at = 0;
+    for (const Range &range : qAsConst(ranges.elements)) {
+        for (; at < range.start; ++at) {
+            line += plain.at(at) == u'\n' ? 1 : 0;
+        }
+        lines->append(line);
+    }
+    return script;
 }

@@ -99,6 +99,12 @@ QString plainText(const QString &text);
  */
 QString withPlainLineEnds(const QString &text);
 
+/**
+ * Where in a plain text a note or boneyard begins or ends, but its other end is missing; positions
+ * of "[[", "/ *", "]]" and "* /" (without the blanks), in order.
+ */
+QVector<int> unmatchedMarks(const QString &plain);
+
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
 /** Normalizes the entries of a title page; a single one without a value makes no title page. */
 void normalizeTitles(QVector<MRVFountainTitle> *titles);

@@ -66,6 +66,8 @@ public:
 
     /** The format that was read; UnknownFormat before. */
     Format format() const { return m_format; }
+    /** The text of a Fountain script as it was read; null for other formats. */
+    QString text() const { return m_text; }
     /** The bytes that were read, whatever has changed since. */
     QByteArray source() const { return m_source; }
     /** The language of a page as it says it; empty for other formats. */

@@ -2647,6 +2647,45 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVScriptCheck</name>
+    <message>
+        <source>&apos;%1&apos; says nothing</source>
+        <translation>„%1“ sagt nichts</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; looks like a cue, but is action</source>
+        <translation>„%1“ sieht wie ein Sprechername aus, ist aber Handlung</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>der Sprechername „%1“ unterscheidet sich in einem Buchstaben von „%2“</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>der Sprechername „%1“ wird sonst „%2“ geschrieben</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>der Ort „%1“ unterscheidet sich in einem Buchstaben von „%2“</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>der Ort „%1“ wird sonst „%2“ geschrieben</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends nothing</source>
+        <translation>„%1“ beendet nichts</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins a note that does not end in its paragraph</source>
+        <translation>„%1“ beginnt eine Notiz, die nicht in ihrem Absatz endet</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins cut text that does not end</source>
+        <translation>„%1“ beginnt gestrichenen Text, der nicht endet</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptFile</name>
     <message>
         <source>unknown type of script</source>

@@ -2647,6 +2647,45 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVScriptCheck</name>
+    <message>
+        <source>&apos;%1&apos; says nothing</source>
+        <translation>«%1» no dice nada</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; looks like a cue, but is action</source>
+        <translation>«%1» parece un nombre de personaje, pero es acción</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>el nombre de personaje «%1» difiere en una letra de «%2»</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>el nombre de personaje «%1» se escribe en otra parte «%2»</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>el lugar «%1» difiere en una letra de «%2»</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>el lugar «%1» se escribe en otra parte «%2»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends nothing</source>
+        <translation>«%1» no termina nada</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins a note that does not end in its paragraph</source>
+        <translation>«%1» empieza una nota que no termina en su párrafo</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins cut text that does not end</source>
+        <translation>«%1» empieza texto cortado que no termina</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptFile</name>
     <message>
         <source>unknown type of script</source>

@@ -2647,6 +2647,45 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVScriptCheck</name>
+    <message>
+        <source>&apos;%1&apos; says nothing</source>
+        <translation>«&#xa0;%1&#xa0;» ne dit rien</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; looks like a cue, but is action</source>
+        <translation>«&#xa0;%1&#xa0;» ressemble à un nom de personnage, mais c’est de l’action</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>le nom de personnage «&#xa0;%1&#xa0;» diffère d’une lettre de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the cue &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>le nom de personnage «&#xa0;%1&#xa0;» s’écrit ailleurs «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is one letter apart from &apos;%2&apos;</source>
+        <translation>le lieu «&#xa0;%1&#xa0;» diffère d’une lettre de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the place &apos;%1&apos; is spelled &apos;%2&apos;</source>
+        <translation>le lieu «&#xa0;%1&#xa0;» s’écrit ailleurs «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends nothing</source>
+        <translation>«&#xa0;%1&#xa0;» ne termine rien</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins a note that does not end in its paragraph</source>
+        <translation>«&#xa0;%1&#xa0;» commence une note qui ne se termine pas dans son paragraphe</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins cut text that does not end</source>
+        <translation>«&#xa0;%1&#xa0;» commence du texte coupé qui ne se termine pas</translation>
+    </message>
+</context>
+<context>
     <name>MRVScriptFile</name>
     <message>
         <source>unknown type of script</source>
