@@ -154,6 +154,11 @@ constexpr Verb verbs[] = {
      "Counts the scenes, pages, minutes and words of scripts, and what each character says. Pages "
      "are those of a PDF document of the script, in eighths; a page is a minute. - is standard "
      "input."},
+    {"scenes", "IN", "list the scenes of a script", runScriptScenes,
+     "Lists the scenes with their pages, lengths in eighths of a page, and who has a cue; as JSON "
+     "or "
+     "CSV also whether they are interiors or exteriors, the place and the time of the day. - is "
+     "standard input. Exit code 1: no scene."},
     {"number", "IN", "number the scenes that have no number", runScriptNumber,
      "Numbers the scenes without a number, and writes the script in its own format. Numbers that "
      "are there stay: new scenes after 12 are 12A, 12B, those between 12 and 12A are A12A. - is "
@@ -180,7 +185,7 @@ constexpr Option options[] = {
                    "convert"),
     Option::choice("from", "FORMAT", "fountain html fdx",
                    "The format of the input: fountain, html or fdx. Default: by its suffix.",
-                   "convert stats rename check number renumber compare"),
+                   "convert stats scenes rename check number renumber compare"),
     Option::name("o output", "FILE",
                  "Where to write; - is standard output. Default: beside the input, with the suffix "
                  "of the format.",
@@ -188,16 +193,17 @@ constexpr Option options[] = {
     Option::name("o output", "FILE",
                  "Where to write; may be the script itself. Default: standard output.",
                  "rename number renumber"),
+    Option::flag("csv", "Print a table of comma-separated values.", "scenes"),
     {"first", Option::Integer, "N", "The number of the first scene. Default: 1.", "renumber",
      nullptr, 1, 1000000},
     Option::name(
         "mode", "MODE",
         "The mode that gives an e-book or the pages of a PDF document their look: the name "
         "of a factory mode, or a mode file. Default: the built-in US screenplay.",
-        "convert stats"),
+        "convert stats scenes"),
     Option::choice("paper", "PAPER", "letter a4",
                    "The paper: letter or a4. Default: a4 for modes in centimetres, else letter.",
-                   "convert stats"),
+                   "convert stats scenes"),
     Option::text("pages", "FIRST-LAST",
                  "Print only these pages into a PDF document: 3-10, 3- or 3.", "convert"),
     Option::text("character", "NAME",

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "commandline.h"
+#include "screenplay/mrvscriptpagination.h"
 
 class MRVFountainScript;
 class MRVScriptFile;
+class MRVScriptMode;
 
 // Verbs of "mrv script" that are in a file of their own.
 
@@ -12,6 +14,7 @@ int runScriptConvert(const Call &call);
 int runScriptNumber(const Call &call);
 int runScriptRename(const Call &call);
 int runScriptRenumber(const Call &call);
+int runScriptScenes(const Call &call);
 int runScriptStats(const Call &call);
 
 /** Prints the faults of a script. @return Done where it has none. */
@@ -19,6 +22,10 @@ int checkScript(const Call &call, const QString &path);
 
 /** Reads a script, "-" for standard input, as the options of the call say; @p error names it. */
 bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error);
+
+/** The mode and the paper that the options of the call name; @p error says what is wrong. */
+bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Options *layout,
+                QString *error);
 
 /**
  * Writes a script that has changed in the format of its file, "-" for standard output.

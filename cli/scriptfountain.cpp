@@ -250,13 +250,11 @@ void printStatistics(const QString &path, const MRVScriptStatistics &statistics)
 int runScriptStats(const Call &call)
 {
     MRVScriptMode mode;
-    mode.loadFactoryDefaults();
+    MRVScriptPagination::Options layout;
     QString modeError;
-    if (call.has("mode") && !mode.loadNamed(call.value("mode"), &modeError)) {
+    if (!readLayout(call, &mode, &layout, &modeError)) {
         return refuse(modeError);
     }
-    MRVScriptPagination::Options layout;
-    layout.paper = MRVScriptPagination::paperNamed(call.value("paper"));
     bool ok = true;
     for (const QString &input : call.arguments) {
         MRVScriptFile file;
@@ -335,6 +333,14 @@ int runScriptRename(const Call &call)
 bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error)
 {
     return readScript(path, call.value("from"), file, error);
+}
+
+bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Options *layout,
+                QString *error)
+{
+    mode->loadFactoryDefaults();
+    layout->paper = MRVScriptPagination::paperNamed(call.value("paper"));
+    return !call.has("mode") || mode->loadNamed(call.value("mode"), error);
 }
 
 bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QString &path,

@@ -6,7 +6,9 @@
 #include "screenplay/mrvscriptcompare.h"
 #include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptnumbers.h"
+#include "screenplay/mrvscriptpagination.h"
 #include "screenplay/mrvscriptscenes.h"
+#include "scriptmode/mrvscriptmode.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -63,6 +65,50 @@ int checkScript(const Call &call, const QString &path)
         printAnswer(call, object, shownPlace(path, file, fault.line) + displayed(text));
     }
     return faults.isEmpty() ? Done : Failed;
+}
+
+namespace {
+
+void printScene(const Call &call, const QString &path, const MRVScriptScene &scene)
+{
+    QJsonObject object = scene.toJson();
+    object.insert(QStringLiteral("path"), path);
+    const QString number = scene.number.isEmpty() ? QString() : scene.number + u' ';
+    printAnswer(call, object,
+                displayed(QStringLiteral("%1%2: page %3, %4 pages")
+                              .arg(number, scene.heading, QString::number(scene.page),
+                                   MRVScriptPagination::eighthsText(scene.eighths))
+                          + (scene.characters.isEmpty() ? QString()
+                                                        : QLatin1String(": ")
+                                     + scene.characters.join(QLatin1String(", ")))));
+}
+
+} // namespace
+
+int runScriptScenes(const Call &call)
+{
+    const QString path = call.arguments.constFirst();
+    MRVScriptFile file;
+    MRVScriptMode mode;
+    MRVScriptPagination::Options layout;
+    QString error;
+    if (!readLayout(call, &mode, &layout, &error) || !readScriptFile(call, path, &file, &error)) {
+        return refuse(error);
+    }
+    if (call.json() && call.has("csv")) {
+        return usageError(QStringLiteral("--json and --csv exclude each other"));
+    }
+    const MRVFountainScript script = file.script();
+    const QVector<MRVScriptScene> scenes =
+        MRVScriptScene::of(script, MRVScriptPagination(script, mode, layout));
+    if (call.has("csv")) {
+        return writeStandardOutput(MRVScriptScene::toCsv(scenes), &error) ? int(Done)
+                                                                          : refuse(error);
+    }
+    for (const MRVScriptScene &scene : scenes) {
+        printScene(call, path, scene);
+    }
+    return scenes.isEmpty() ? Failed : Done;
 }
 
 namespace {

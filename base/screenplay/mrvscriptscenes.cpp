@@ -1,7 +1,10 @@
 #include "screenplay/mrvscriptscenes.h"
 
 #include "screenplay/mrvscriptcast.h"
+#include "screenplay/mrvscriptpagination.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -41,6 +44,16 @@ MRVSceneHeading::Setting settingOf(const QString &start)
     return isInterior && isExterior ? MRVSceneHeading::InteriorExterior
         : isInterior                ? MRVSceneHeading::Interior
                                     : MRVSceneHeading::Exterior;
+}
+
+QString csvLine(QStringList cells)
+{
+    for (QString &cell : cells) {
+        if (cell.contains(u',') || cell.contains(u'"') || cell.contains(u'\n')) {
+            cell = u'"' + cell.replace(u'"', QLatin1String("\"\"")) + u'"';
+        }
+    }
+    return cells.join(u',') + QLatin1String("\r\n");
 }
 
 } // namespace
@@ -92,7 +105,8 @@ QVector<MRVScriptScene> MRVScriptScene::of(const MRVFountainScript &script)
         const Element &element = script.elements.at(i);
         if (element.kind == Element::SceneHeading) {
             const QString heading = element.text().simplified();
-            scenes.append({i, i, heading, element.sceneNumber, MRVSceneHeading::of(heading), {}});
+            scenes.append(
+                {i, i, heading, element.sceneNumber, MRVSceneHeading::of(heading), {}, 0, 0});
             present.clear();
         } else if (element.kind == Element::Character && !scenes.isEmpty()) {
             const QStringList names = cast.namesIn(element.text());
@@ -108,4 +122,39 @@ QVector<MRVScriptScene> MRVScriptScene::of(const MRVFountainScript &script)
         }
     }
     return scenes;
+}
+
+QVector<MRVScriptScene> MRVScriptScene::of(const MRVFountainScript &script,
+                                           const MRVScriptPagination &pagination)
+{
+    QVector<MRVScriptScene> scenes = of(script);
+    for (MRVScriptScene &scene : scenes) {
+        scene.page = pagination.pageOf(scene.first);
+        scene.eighths = pagination.eighths(scene.first, scene.end);
+    }
+    return scenes;
+}
+
+QJsonObject MRVScriptScene::toJson() const
+{
+    return {{QStringLiteral("number"), number},
+            {QStringLiteral("heading"), heading},
+            {QStringLiteral("setting"), MRVSceneHeading::name(parts.setting)},
+            {QStringLiteral("place"), parts.place},
+            {QStringLiteral("time"), parts.time},
+            {QStringLiteral("page"), page},
+            {QStringLiteral("eighths"), eighths},
+            {QStringLiteral("characters"), QJsonArray::fromStringList(characters)}};
+}
+
+QByteArray MRVScriptScene::toCsv(const QVector<MRVScriptScene> &scenes)
+{
+    QString text = QStringLiteral("number,heading,setting,place,time,page,length,characters\r\n");
+    for (const MRVScriptScene &scene : scenes) {
+        text += csvLine({scene.number, scene.heading, MRVSceneHeading::name(scene.parts.setting),
+                         scene.parts.place, scene.parts.time, QString::number(scene.page),
+                         MRVScriptPagination::eighthsText(scene.eighths),
+                         scene.characters.join(QLatin1String(", "))});
+    }
+    return text.toUtf8();
 }

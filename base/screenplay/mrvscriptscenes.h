@@ -3,9 +3,13 @@
 #include "screenplay/mrvfountain.h"
 #include "util/mrvbase_export.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QVector>
+
+class MRVScriptPagination;
+class QJsonObject;
 
 /**
  * What a scene's heading says.
@@ -49,7 +53,28 @@ struct MRVBASE_EXPORT MRVScriptScene
     QString number; ///< the scene's number; may be empty
     MRVSceneHeading parts; ///< the heading taken apart
     QStringList characters; ///< who has a cue, in order, in capitals; see MRVScriptCast::namesIn()
+    int page = 0; ///< on which the heading is printed, from 1; 0 if unknown
+    int eighths = 0; ///< the printed length in eighths of a page, as breakdowns count it
 
-    /** The scenes of a script in order; what stands before the first heading is in none. */
+    /**
+     * The scenes of a script in order, without pages; what stands before the first heading is in
+     * none. Takes time linear in the script.
+     */
     static QVector<MRVScriptScene> of(const MRVFountainScript &script);
+    /**
+     * The same with their pages.
+     *
+     * @param pagination that of @p script.
+     */
+    static QVector<MRVScriptScene> of(const MRVFountainScript &script,
+                                      const MRVScriptPagination &pagination);
+
+    /** The scene, with "characters" as a list and "setting" as MRVSceneHeading::name() has it. */
+    QJsonObject toJson() const;
+
+    /**
+     * A table of @p scenes as RFC 4180 has it, in UTF-8, with a line of names first. Names of
+     * characters are separated by ", ", lengths are written as breakdowns do ("1 3/8").
+     */
+    static QByteArray toCsv(const QVector<MRVScriptScene> &scenes);
 };
