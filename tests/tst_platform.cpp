@@ -1,6 +1,7 @@
 #include "core/mcoretype.h"
 #include "core/mrvcore.h"
 #include "core/mrvcoreutil.h"
+#include "core/mrvfilebatch.h"
 #include "core/mrvfuzzycompare.h"
 #include "core/mtranslator.h"
 #include "datarows.h"
@@ -152,6 +153,42 @@ private Q_SLOTS:
         QVERIFY(written || message.contains(shown));
         QVERIFY(written ? MRVCoreUtil::ReadBinaryFile(path(target)) == bytes
                         : !message.contains('\n'));
+    }
+
+    // Files of a batch come to their places together, and the others where one cannot.
+    void writesBatches()
+    {
+        QVERIFY(writeBytes(path("old"), "as it was"));
+        const QMap<QString, Entry> before = entriesOf(m_dir->path());
+        {
+            MRVFileBatch dropped;
+            QVERIFY(dropped.add(path("old"), "new"));
+            QVERIFY(dropped.add(path("other"), "new"));
+        }
+        QCOMPARE(entriesOf(m_dir->path()), before);
+
+        MRVFileBatch batch;
+        QString error;
+        QVERIFY(!batch.add(path("missing/file"), "new", &error));
+        QVERIFY2(error.contains("missing/file"), qPrintable(error));
+        const int count = 300; // more than are open at a time
+        for (int i = 0; i < count; ++i) {
+            QVERIFY(batch.add(path(QString::number(i)), QByteArray::number(i)));
+        }
+        QVERIFY(batch.add(path("taken"), "new"));
+        QVERIFY(batch.add(path("old"), "new"));
+        QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("old")), QByteArray("as it was"));
+        QVERIFY(QDir(m_dir->path()).mkdir("taken"));
+        const QMap<QString, QString> failed = batch.commit();
+        QCOMPARE(failed.keys(), QStringList(path("taken")));
+        QVERIFY2(failed.first().contains("taken"), qPrintable(failed.first()));
+        QMap<QString, Entry> after = entriesOf(m_dir->path());
+        QCOMPARE(after.size(), count + 2);
+        for (int i = 0; i < count; ++i) {
+            QCOMPARE(after[QString::number(i)].second, QByteArray::number(i));
+        }
+        QCOMPARE(after["old"].second, QByteArray("new"));
+        QVERIFY(batch.commit().isEmpty());
     }
 
     void textFiles_data() { addRows("texts.tsv"); }

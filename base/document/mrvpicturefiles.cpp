@@ -2,57 +2,44 @@
 
 #include "core/mrvcoreutil.h"
 
-#include <QCryptographicHash>
-#include <QFile>
 #include <QFileInfo>
 
-namespace {
-
-// Finds files that may be equal, whose bytes are compared then.
-constexpr QCryptographicHash::Algorithm Digest = QCryptographicHash::Sha1;
-
-// Empty for what is no file, and for one that cannot be read.
-QByteArray digestOf(const QString &path)
-{
-    QFile file(path);
-    QCryptographicHash hash(Digest);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && hash.addData(&file)
-        ? hash.result()
-        : QByteArray();
-}
-
-} // namespace
-
-// Looks at each number of a name once, whatever the count of pictures that want the name.
 QString MRVPictureFiles::write(const QString &wanted, const QByteArray &bytes, QString *error)
 {
-    Numbered &numbered = m_numbered[wanted];
-    const QByteArray digest = QCryptographicHash::hash(bytes, Digest);
-    for (;;) {
-        if (numbered.held.contains(digest)) {
-            const QString path = numbered.held.take(digest);
-            // A picture that wanted another name may have taken it.
-            if (!m_taken.contains(path) && MRVCoreUtil::ReadBinaryFile(path) == bytes) {
-                m_taken.insert(path);
-                return path;
-            }
-            continue;
-        }
-        const QString path = MRVCoreUtil::NumberedFileName(wanted, numbered.next);
-        ++numbered.next;
+    MRVNumberedFiles::Rules rules;
+    rules.holder = [this](const QString &path) {
         const QFileInfo file(path);
-        if (m_taken.contains(path)) {
-            continue;
-        }
-        if (file.exists() || file.isSymLink()) {
-            numbered.held.insert(digestOf(path), path);
-            continue;
-        }
-        m_taken.insert(path);
-        if (!MRVCoreUtil::WriteBinaryFile(bytes, path, error)) {
-            return QString();
-        }
-        m_created.append(path);
-        return path;
+        const bool isThere = file.exists() || file.isSymLink();
+        return m_taken.contains(path) ? QStringLiteral("") : isThere ? path : QString();
+    };
+    rules.digest = [&bytes] { return MRVNumberedFiles::digestOf(bytes); };
+    // Digests find files that may be equal. A picture that wanted another name may have taken one.
+    rules.mayUse = [this, &bytes](const QString &path) {
+        return !m_taken.contains(path) && MRVCoreUtil::ReadBinaryFile(path) == bytes;
+    };
+    const MRVNumberedFiles::Place place = m_numbered.find(wanted, rules);
+    if (place.isFree) {
+        return replace(place.path, bytes, error) ? place.path : QString();
     }
+    m_taken.insert(place.path);
+    return place.path;
+}
+
+bool MRVPictureFiles::replace(const QString &path, const QByteArray &bytes, QString *error)
+{
+    m_taken.insert(path);
+    if (!m_batch.add(path, bytes, error)) {
+        return false;
+    }
+    m_created.append(path);
+    return true;
+}
+
+QMap<QString, QString> MRVPictureFiles::commit()
+{
+    const QMap<QString, QString> failed = m_batch.commit();
+    for (auto it = failed.cbegin(); it != failed.cend(); ++it) {
+        m_created.removeOne(it.key());
+    }
+    return failed;
 }

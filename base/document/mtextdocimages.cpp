@@ -271,6 +271,21 @@ QString writeNumbered(const QTextDocument &document, const QTextImageFormat &for
     return bytes.isEmpty() ? QString() : files->write(target, bytes);
 }
 
+// Writes an image in place of what has its name; false where that failed, with nothing there then.
+bool replaceImage(const QTextDocument &document, const QTextImageFormat &format,
+                  const QString &target, MRVPictureFiles *files)
+{
+    const QImage picture = MRVTextFormat::image(document, format);
+    const QByteArray bytes =
+        picture.isNull() ? QByteArray() : MRVTextFormat::imageFileBytes(target, format, picture);
+    const QFileInfo old(target);
+    // A link must not lead the writer to another file, and a protected file is replaced, too.
+    if (old.isSymLink() || (old.exists() && !old.isWritable())) {
+        QFile::remove(target);
+    }
+    return !bytes.isEmpty() && files->replace(target, bytes);
+}
+
 // The file that an image links to, or empty where there is none.
 QString linkedFile(const QTextImageFormat &format)
 {
@@ -507,19 +522,29 @@ QStringList MTextDoc::exportImages(const QTextDocument &document, const QString 
     for (const QTextImageFormat &format : formats) {
         const QString target = targetPath(format, dir, mmd);
         const QString file = QFileInfo(target).canonicalFilePath();
-        const bool linked = !file.isEmpty() && links.contains(file) && linkedFile(format) != file;
+        const bool isOwn = !file.isEmpty() && linkedFile(format) == file;
+        const bool isOthers = !file.isEmpty() && !isOwn && links.contains(file);
         QString path;
-        if (linked || used.contains(target)) {
+        if (isOthers || used.contains(target)) {
             files.take(target);
             path = writeNumbered(document, format, target, &files);
+        } else if (isOwn || target.isEmpty()) {
+            path = exportImageFormat(document, format, dir, mmd, nullptr); // writes nothing
+        } else if (replaceImage(document, format, target, &files)) {
+            path = target;
         } else {
-            path = exportImageFormat(document, format, dir, mmd, nullptr);
+            QFile::remove(target); // as exportImageFormat() leaves nothing old
         }
         if (!path.isEmpty()) {
             paths << path;
             used.insert(path);
             files.take(path);
         }
+    }
+    const QMap<QString, QString> failed = files.commit();
+    for (auto it = failed.cbegin(); it != failed.cend(); ++it) {
+        QFile::remove(it.key());
+        paths.removeOne(it.key());
     }
     return paths;
 }

@@ -7,7 +7,6 @@
 
 #include "core/mrvcoreutil.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -46,27 +45,6 @@ private:
     QTextDocument *m_document;
     const QString m_before;
 };
-
-// Empty for what is no file or cannot be read.
-QByteArray digestOf(const QString &path)
-{
-    QFile file(path);
-    // Guards against accident rather than forgery, at a fifth of the time that SHA-256 takes.
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) && hash.addData(&file)
-        ? hash.result()
-        : QByteArray();
-}
-
-QString numbered(const QString &file, int number)
-{
-    if (number == 0) {
-        return file;
-    }
-    const QFileInfo info(file);
-    return QStringLiteral("%1/%2-%3.%4")
-        .arg(info.path(), info.completeBaseName(), QString::number(number), info.suffix());
-}
 
 // A path as the source of an image in a page.
 QString asSource(QString path)
@@ -229,34 +207,26 @@ bool MRVPagePublisher::checkPage(const QTextDocument &document, const QString &p
     return true;
 }
 
-// Each number of a name is looked at once: bytes that were met there before are known by their
-// digest. Nothing is read where no other picture has the name.
+// Pictures with the same bytes are one file.
 QString MRVPagePublisher::pictureTarget(const QString &staged, const QString &wanted)
 {
-    Numbered &taken = m_numbered[wanted];
-    QByteArray digest = taken.targets.isEmpty() ? QByteArray() : digestOf(staged);
-    for (; !taken.targets.contains(digest); ++taken.next) {
-        const QString target = numbered(wanted, taken.next);
-        const QString holder = m_pictures.value(target, target);
+    MRVNumberedFiles::Rules rules;
+    rules.holder = [this](const QString &path) {
+        const QString holder = m_pictures.value(path, path);
         const QFileInfo there(holder);
-        if (!there.exists() && !there.isSymLink()) {
-            m_pictures.insert(target, staged);
-            m_written.append(target);
-            m_files.add(staged, target);
-            return target;
+        return there.exists() || there.isSymLink() ? holder : QString();
+    };
+    rules.digest = [&staged] { return MRVNumberedFiles::digestOf(staged); };
+    rules.mayUse = [](const QString &) { return true; };
+    const MRVNumberedFiles::Place place = m_numbered.find(wanted, rules);
+    if (!m_pictures.contains(place.path)) {
+        m_pictures.insert(place.path, place.isFree ? staged : place.path);
+        m_written.append(place.path);
+        if (place.isFree) {
+            m_files.add(staged, place.path);
         }
-        const QByteArray held = digestOf(holder);
-        if (!held.isEmpty() && !taken.targets.contains(held)) {
-            taken.targets.insert(held, target);
-        }
-        digest = digest.isEmpty() ? digestOf(staged) : digest;
     }
-    const QString target = taken.targets.value(digest);
-    if (!m_pictures.contains(target)) {
-        m_pictures.insert(target, target);
-        m_written.append(target);
-    }
-    return target;
+    return place.path;
 }
 
 bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/mrvnumberedfiles.h"
 #include "publish/mrvstagedfiles.h"
 #include "util/mrvbase_export.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
@@ -112,12 +113,6 @@ private:
         QStringList pages; // names
     };
 
-    struct Numbered // the pictures that were meant to have one name
-    {
-        QHash<QByteArray, QString> targets; // by the digest of what lies there
-        int next = 0; // the first number that has not been looked at, or is free
-    };
-
     bool writePage(QTextDocument *document, const QString &language, const QString &page,
                    Folder *folder, QString *error) const;
     bool addPictures(const QString &page, const Folder &folder, QString *error);
@@ -132,7 +127,7 @@ private:
     MRVStagedFiles m_files;
     std::map<QString, Folder> m_folders; // by the real path, however it is written
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target
-    QHash<QString, Numbered> m_numbered; // by the target that was wanted
+    MRVNumberedFiles m_numbered; // the targets of pictures
     QStringList m_written;
     QStringList m_losses;
     QVector<QPair<QString, QString>> m_pages; // staged file and target

@@ -20,6 +20,7 @@
 #include <QSet>
 #include <QTextDocument>
 #include <QTextImageFormat>
+#include <QVector>
 
 #include <iterator>
 
@@ -99,6 +100,28 @@ QString writeKept(const MRVDocumentPicture &picture, const QString &dir, const c
     const QString name = MRV::cleanFileName(picture.name());
     const QString file = (name.isEmpty() ? QStringLiteral("image") : name) + u'.' + suffix;
     return files->write(QDir(dir).filePath(file), bytes, error);
+}
+
+struct WrittenPicture
+{
+    QString id;
+    QString file; // empty where it could not be written
+    QString reason; // why
+};
+
+// Puts the files in their places; leaves those that are there, and tells of the others.
+void dropFailed(QVector<WrittenPicture> *written, MRVPictureFiles *files, QStringList *failed)
+{
+    const QMap<QString, QString> missing = files->commit();
+    QVector<WrittenPicture> kept;
+    for (const WrittenPicture &picture : qAsConst(*written)) {
+        if (!picture.file.isEmpty() && !missing.contains(picture.file)) {
+            kept.append(picture);
+        } else if (failed) {
+            failed->append(picture.file.isEmpty() ? picture.reason : missing.value(picture.file));
+        }
+    }
+    *written = kept;
 }
 
 } // namespace
@@ -294,6 +317,9 @@ QString MRVTextXhtmlExporter::exportImage(const QString &dir, QString *html,
 {
     MRVPictureFiles files;
     const QString file = writeImage(dir, imageFormat, format, &files);
+    if (!files.commit().isEmpty()) {
+        return QString();
+    }
     if (!file.isEmpty() && html) {
         MRVHtmlText::replaceImageSources(
             html, {{MRVTextFormat::imageResourceId(imageFormat), imageReference(file)}});
@@ -315,7 +341,7 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
     if (!m_document) {
         return paths;
     }
-    QHash<QString, QString> references;
+    QVector<WrittenPicture> written;
     QSet<QString> seen;
     const QList<QTextImageFormat> formats = MTextDoc::imageFormats(*m_document);
     for (const QTextImageFormat &imageFormat : formats) {
@@ -327,12 +353,13 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
         QDir().mkpath(dir);
         QString reason;
         const QString file = writeImage(dir, imageFormat, format, files, &reason);
-        if (!file.isEmpty()) {
-            references.insert(id, imageReference(file));
-            paths.append(file);
-        } else if (failed) {
-            failed->append(reason);
-        }
+        written.append({id, file, reason});
+    }
+    dropFailed(&written, files, failed);
+    QHash<QString, QString> references;
+    for (const WrittenPicture &picture : qAsConst(written)) {
+        references.insert(picture.id, imageReference(picture.file));
+        paths.append(picture.file);
     }
     if (html) {
         MRVHtmlText::replaceImageSources(html, references);
@@ -345,23 +372,24 @@ QStringList MRVTextXhtmlExporter::writeKeptImages(const QString &dir, QString *h
                                                   QStringList *failed) const
 {
     const MRVDocumentPictures pictures(*m_document);
-    QStringList paths;
-    QStringList references; // by the place of the picture; empty where it was not written
+    QVector<WrittenPicture> written; // by their place as ids
     for (const MRVDocumentPicture &picture : pictures.all()) {
         QDir().mkpath(dir);
         QString reason;
         const QString file = writeKept(picture, dir, format, files, &reason);
-        references.append(file.isEmpty() ? QString() : imageReference(file));
-        if (file.isEmpty()) {
-            failed->append(reason);
-        } else {
-            paths.append(file);
-        }
+        written.append({QString::number(written.size()), file, reason});
+    }
+    dropFailed(&written, files, failed);
+    QStringList paths;
+    QHash<QString, QString> byPlace;
+    for (const WrittenPicture &picture : qAsConst(written)) {
+        byPlace.insert(picture.id, imageReference(picture.file));
+        paths.append(picture.file);
     }
     QHash<QString, QString> byId;
     const QSet<QString> ids = MTextDoc::imageResourceIds(*m_document);
     for (const QString &id : ids) {
-        const QString reference = references.value(pictures.indexOf(id));
+        const QString reference = byPlace.value(QString::number(pictures.indexOf(id)));
         if (!reference.isEmpty()) {
             byId.insert(id, reference);
         }
