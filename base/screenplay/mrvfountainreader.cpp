@@ -342,6 +342,10 @@ void FountainReader::placeElements(int line, int end)
 MRVFountainScript FountainReader::script()
 {
     int line = readTitles();
+    normalizeTitles(&m_script.titles);
+    if (m_script.titles.isEmpty()) {
+        line = 0; // a key alone is text
+    }
     m_ranges.titles = {0, startOf(line)};
     while (line < m_lines.size()) {
         const int first = line;
@@ -358,7 +362,6 @@ MRVFountainScript FountainReader::script()
             placeElements(start, line);
         }
     }
-    normalizeTitles(&m_script.titles);
     normalizeLyrics(&m_script.elements);
     return m_script;
 }

@@ -2,6 +2,7 @@
 
 #include "screenplay/mrvfountain.h"
 
+#include <QHash>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -107,13 +108,14 @@ public:
 private:
     int nextNumbered(int scene) const;
     void fillGap(int begin, int end);
-    QString next(const QString &before, const QString &after);
+    QString unused(const QString &number);
     QString between(const QString &before, const QString &after) const;
     QStringList candidates(const QString &before, const QString &after) const;
     void give(Element *scene, const QString &number);
 
     const QVector<Element *> m_scenes;
     QSet<QString> m_used; // in capitals
+    QHash<QString, int> m_tried; // how many letters were put after a number that is used
     qint64 m_last = 0; // the largest whole number that is used
     int m_given = 0;
 };
@@ -186,12 +188,26 @@ void Numberer::fillGap(int begin, int end)
             number = begin > 0 ? m_scenes.at(begin - 1)->sceneNumber + letters
                                : reversed(letters) + after;
         }
-        while (m_used.contains(number.toUpper())) {
-            number += Letters.at(0);
-        }
-        give(m_scenes.at(i), number);
-        before = number;
+        before = unused(number);
+        give(m_scenes.at(i), before);
     }
+}
+
+// The number, or with more letters where it is used already: in a script whose numbers have no
+// order, there may be none in between.
+QString Numberer::unused(const QString &number)
+{
+    QString result = number;
+    while (m_used.contains(result.toUpper())) {
+        int index = m_tried[number]++;
+        int width = 1;
+        for (int count = Letters.size(); index >= count; count *= Letters.size()) {
+            index -= count;
+            ++width;
+        }
+        result = number + lettersOf(index, width);
+    }
+    return result;
 }
 
 // The first number that is free and stands between two others; one that is free, at least.
