@@ -285,7 +285,8 @@ private Q_SLOTS:
         QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 15);
     }
 
-    // Damage is told by the reader alone: libpng would print a line of its own.
+    // Damage is told by the reader alone: libpng would print a line of its own, and take the memory
+    // that a chunk claims.
     void damagedPngPrintsNothing()
     {
         const QByteArray whole = bytesOf(MRV_SOURCE_DIR "/docs/images/page.png");
@@ -299,6 +300,8 @@ private Q_SLOTS:
             QByteArray &bytes = damaged[at == 20 ? 1 : at == 2000 ? 2 : 3];
             bytes[at] = char(~bytes.at(at));
         }
+        damaged << whole.left(whole.size() - 12) + "boolzTXt" + whole.right(12);
+        HeapMeter::start();
         for (const QByteArray &bytes : qAsConst(damaged)) {
             QString error;
             if (!MRVPictureReader(bytes).read(&error).isNull() || error.isEmpty()) {
@@ -308,6 +311,7 @@ private Q_SLOTS:
         ::dup2(before, STDERR_FILENO);
         ::close(before);
         QCOMPARE(readable, QStringList());
+        QVERIFY2(HeapMeter::peak() < 100 << 20, qPrintable(QString::number(HeapMeter::peak())));
         QCOMPARE(::lseek(::fileno(printed.get()), 0, SEEK_END), off_t(0));
     }
 

@@ -1,5 +1,7 @@
 #include "gui/mrvpngfault_p.h"
 
+#include <QtEndian>
+
 #include <cstring>
 
 #include <png.h>
@@ -56,10 +58,31 @@ bool isReadable(png_structp png, png_infop info, MRVPngPart part, QByteArray *li
     return true;
 }
 
+// Whether the bytes can hold each chunk up to the end, or up to the pixels. libpng takes memory for
+// what a chunk claims before it reads it.
+bool holdsChunks(const QByteArray &bytes, MRVPngPart part)
+{
+    constexpr qint64 Signature = 8;
+    constexpr qint64 Frame = 12; // length, type and checksum
+    const char *last = part == MRVPngPart::Whole ? "IEND" : "IDAT";
+    qint64 left = bytes.size() - Signature;
+    while (left >= Frame) {
+        const char *chunk = bytes.constData() + bytes.size() - left;
+        if (memcmp(chunk + 4, last, 4) == 0) {
+            return true;
+        }
+        left -= Frame + qFromBigEndian<quint32>(chunk);
+    }
+    return false;
+}
+
 } // namespace
 
 bool mrvIsPngReadable(const QByteArray &bytes, MRVPngPart part)
 {
+    if (!holdsChunks(bytes, part)) {
+        return false;
+    }
     Source source{bytes, 0};
     QByteArray line;
     png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, stop, ignore);
