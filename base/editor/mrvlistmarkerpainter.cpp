@@ -38,15 +38,17 @@ bool isShape(QTextListFormat::Style style)
 Look lookByQt(const QTextList &list, const QTextBlock &block)
 {
     const QTextBlockFormat format = block.blockFormat();
-    QTextListFormat::Style style = list.format().style();
+    QTextListFormat::Style style = MRVTextListFormat::qtStyle(list.format());
     if (style != QTextListFormat::ListStyleUndefined
         && format.hasProperty(QTextFormat::ListStyle)) {
-        style = QTextListFormat::Style(format.intProperty(QTextFormat::ListStyle));
+        QTextListFormat own;
+        own.setProperty(QTextFormat::ListStyle, format.intProperty(QTextFormat::ListStyle));
+        style = MRVTextListFormat::qtStyle(own);
     }
     Look look;
     if (isShape(style)) {
         look.shape = style;
-    } else if (style <= QTextListFormat::ListDecimal && style >= QTextListFormat::ListUpperRoman) {
+    } else if (style <= QTextListFormat::ListDecimal) {
         look.text = list.itemText(block); // its parts the other way round from right to left
     }
     return look;

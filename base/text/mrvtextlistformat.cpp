@@ -174,7 +174,7 @@ MRVTextListLevel MRVTextListFormat::shownLevel(const QTextListFormat &format, in
         shown.leftIndent += LeftIndent * qMax(0, level - (own.size() - 1));
         return shown;
     }
-    MRVTextListLevel shown = levelOf(format.style());
+    MRVTextListLevel shown = levelOf(qtStyle(format));
     if (shown.numberStyle > 0) {
         const bool hasSuffix = format.hasProperty(QTextFormat::ListNumberSuffix);
         shown.text = format.numberPrefix() + QLatin1String("%0")
@@ -182,6 +182,14 @@ MRVTextListLevel MRVTextListFormat::shownLevel(const QTextListFormat &format, in
     }
     shown.leftIndent = LeftIndent * (qMax(1, format.indent()) + double(level));
     return shown;
+}
+
+QTextListFormat::Style MRVTextListFormat::qtStyle(const QTextListFormat &format)
+{
+    const int number = format.intProperty(QTextFormat::ListStyle);
+    return number < QTextListFormat::ListUpperRoman || number > QTextListFormat::ListStyleUndefined
+        ? QTextListFormat::ListStyleUndefined
+        : QTextListFormat::Style(number);
 }
 
 void MRVTextListFormat::setStyle(QTextListFormat &format, QTextListFormat::Style style)
@@ -193,7 +201,7 @@ void MRVTextListFormat::setStyle(QTextListFormat &format, QTextListFormat::Style
 QTextListFormat::Style MRVTextListFormat::shownStyle(const QTextListFormat &format, int level)
 {
     const bool hasLevels = !levels(format).isEmpty();
-    return hasLevels ? styleOf(shownLevel(format, level)) : format.style();
+    return hasLevels ? styleOf(shownLevel(format, level)) : qtStyle(format);
 }
 
 QTextListFormat::Style MRVTextListFormat::style(const QTextListFormat &format)

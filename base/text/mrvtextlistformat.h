@@ -86,8 +86,14 @@ public:
      * an empty text where it draws no marker.
      */
     static MRVTextListLevel shownLevel(const QTextListFormat &format, int level);
-    /** The Qt style that shownLevel() looks like; that of the format where it has no levels. */
+    /** The Qt style that shownLevel() looks like; qtStyle() where the format has no levels. */
     static QTextListFormat::Style shownStyle(const QTextListFormat &format, int level);
+
+    /**
+     * The style that Qt draws, whatever the levels are; undefined for a number that is no style,
+     * which formats from elsewhere may hold and which must not become a value of the enumeration.
+     */
+    static QTextListFormat::Style qtStyle(const QTextListFormat &format);
 
     /**
      * Replaces the levels by a single one that looks like @p style: indented by 36 points, its text

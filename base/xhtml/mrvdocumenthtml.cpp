@@ -278,7 +278,7 @@ private:
     {
         return format.hasProperty(MRVTextFormat::ListStartProperty)
             && format.intProperty(MRVTextFormat::ListStartProperty) != 1
-            && format.style() <= QTextListFormat::ListDecimal;
+            && MRVTextListFormat::qtStyle(format) <= QTextListFormat::ListDecimal;
     }
 
     // Browsers draw circles in a list within a list, where nobody tells them what to draw. Qt draws
@@ -286,7 +286,7 @@ private:
     void addList(const QTextListFormat &format, Qt::LayoutDirection direction, bool areDiscsTold)
     {
         ListTag tag;
-        const QTextListFormat::Style style = format.style();
+        const QTextListFormat::Style style = MRVTextListFormat::qtStyle(format);
         if (hasStart(format)) {
             tag.attributes = QStringLiteral(" start=\"%1\"")
                                  .arg(format.intProperty(MRVTextFormat::ListStartProperty));
