@@ -308,7 +308,7 @@ private:
     void insertFlow(QTextCursor *cursor, const MRVFragmentFlow &flow, bool isFirstApplied)
     {
         const QTextBlockFormat block = cursor->blockFormat();
-        const QTextCharFormat character = cursor->blockCharFormat();
+        const QTextCharFormat character = withSpansOf(QTextCharFormat(), cursor->blockCharFormat());
         for (int i = 0; i < flow.size(); ++i) {
             const MRVFragmentParagraph &paragraph = flow.at(i);
             if (paragraph.frame >= 0) {
@@ -328,10 +328,21 @@ private:
         }
     }
 
+    // The first paragraph of a cell has the cell's format. Spans that do not fit the table would
+    // have Qt's layout write beyond its memory.
+    static QTextCharFormat withSpansOf(const QTextCharFormat &cell, QTextCharFormat format)
+    {
+        for (int span : {QTextFormat::TableCellRowSpan, QTextFormat::TableCellColumnSpan}) {
+            format.setProperty(span, cell.property(span)); // clears it where the cell has none
+        }
+        return format;
+    }
+
     void format(QTextCursor *cursor, const MRVFragmentParagraph &paragraph)
     {
         cursor->setBlockFormat(m_formats.at(paragraph.blockFormat).toBlockFormat());
-        cursor->setBlockCharFormat(m_formats.at(paragraph.charFormat).toCharFormat());
+        cursor->setBlockCharFormat(withSpansOf(cursor->blockCharFormat(),
+                                               m_formats.at(paragraph.charFormat).toCharFormat()));
         if (paragraph.list >= 0) {
             QTextList *&list = m_lists[paragraph.list];
             if (list) {

@@ -5,6 +5,10 @@
 #include "textformat/mrvtextformat.h"
 
 #include <QDataStream>
+#include <QTextLength>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -31,6 +35,48 @@ QByteArray stored(const QTextFormat &format)
     return format.isCharFormat()
         ? MRVTextFormat::toByteArray(format.toCharFormat())
         : MRVTextFormat::toByteArray(asType(format, QTextFormat::BlockFormat).toBlockFormat());
+}
+
+// Above these Qt's layout computes beyond the range of its numbers, and may never end.
+constexpr double LongestLength = 1e5; // pixels or points
+constexpr int DeepestIndent = 1000;
+
+bool isLength(double length)
+{
+    return std::abs(length) <= LongestLength; // false for what is no number, too
+}
+
+// Whether a value of a property of Qt's can be laid out.
+bool isLaidOut(int property, const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return isLength(value.toDouble());
+    case QMetaType::QTextLength:
+        return isLength(value.value<QTextLength>().rawValue());
+    case QMetaType::QVariantList: {
+        const QVariantList list = value.toList();
+        return std::all_of(list.begin(), list.end(),
+                           [property](const QVariant &item) { return isLaidOut(property, item); });
+    }
+    case QMetaType::Int:
+        return (property != QTextFormat::BlockIndent && property != QTextFormat::ListIndent)
+            || std::abs(qint64(value.toInt())) <= DeepestIndent;
+    default:
+        return true;
+    }
+}
+
+bool isLaidOut(const QTextFormat &format)
+{
+    const QMap<int, QVariant> properties = format.properties();
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
+        if (it.key() < QTextFormat::UserProperty && !isLaidOut(it.key(), it.value())) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /** Reads a fragment, and checks it as far as inserting it relies on it. */
@@ -92,7 +138,7 @@ private:
         // A format without properties is what damaged bytes give, too.
         const bool isGood = format->propertyCount() > 0 || bytes == stored(*format);
         format->clearProperty(QTextFormat::ObjectIndex);
-        return isGood;
+        return isGood && isLaidOut(*format);
     }
 
     bool readIndex(int *index, int type)
