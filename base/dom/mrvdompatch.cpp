@@ -3,9 +3,9 @@
 #include "dom/mrvdomblanks_p.h"
 #include "dom/mrvdomwriter_p.h"
 #include "dom/mrvxmltokens_p.h"
+#include "input/mrvsourceencoding.h"
 
 #include <QHash>
-#include <QTextCodec>
 
 #include <algorithm>
 
@@ -172,10 +172,10 @@ QString lineEndOf(const QString &xml)
 class Patcher
 {
 public:
-    Patcher(const QString &xml, const MRVDomPieces &pieces, const QTextCodec *codec)
+    Patcher(const QString &xml, const MRVDomPieces &pieces, const MRVSourceEncoding &encoding)
         : m_xml(xml)
         , m_pieces(pieces)
-        , m_codec(codec)
+        , m_encoding(encoding)
         , m_lineEnd(lineEndOf(xml))
     {
         findIndent();
@@ -446,22 +446,12 @@ private:
             text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
             text.replace(QLatin1String("\n"), m_lineEnd);
         }
-        if (m_codec->canEncode(text)) {
-            return text;
-        }
-        QString result;
-        const QVector<uint> characters = text.toUcs4();
-        for (const uint character : characters) {
-            const QString one = QString::fromUcs4(&character, 1);
-            result +=
-                m_codec->canEncode(one) ? one : QStringLiteral("&#x%1;").arg(character, 0, 16);
-        }
-        return result;
+        return m_encoding.withReferences(text);
     }
 
     const QString &m_xml;
     const MRVDomPieces &m_pieces;
-    const QTextCodec *m_codec;
+    const MRVSourceEncoding &m_encoding;
     QString m_lineEnd;
     QString m_indent = QStringLiteral("   ");
     QString m_out;
@@ -475,10 +465,10 @@ bool mrvDomPieces(const QString &xml, const QDomDocument &document, MRVDomPieces
     return Aligner(xml, document, pieces).align();
 }
 
-bool mrvPatchXml(const QString &xml, const MRVDomPieces &pieces, const QTextCodec *codec,
+bool mrvPatchXml(const QString &xml, const MRVDomPieces &pieces, const MRVSourceEncoding &encoding,
                  const QDomDocument &document, QString *patched)
 {
-    Patcher patcher(xml, pieces, codec);
+    Patcher patcher(xml, pieces, encoding);
     if (!patcher.patch(document)) {
         return false;
     }

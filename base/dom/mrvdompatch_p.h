@@ -5,7 +5,7 @@
 #include <QString>
 #include <QVector>
 
-class QTextCodec;
+class MRVSourceEncoding;
 
 /**
  * A part of an XML text with what it stands for in the document that was read from it: an element
@@ -37,10 +37,10 @@ bool mrvDomPieces(const QString &xml, const QDomDocument &document, MRVDomPieces
 
 /**
  * The text @p xml with the changes that @p document has undergone since @p pieces were made of it.
- * Characters that @p codec cannot encode are written by references.
+ * Characters that @p encoding lacks are written by references.
  *
  * @return false for changes outside the document element, and for one that XML cannot hold. That
  *         the result reads as the document remains to be tried.
  */
-bool mrvPatchXml(const QString &xml, const MRVDomPieces &pieces, const QTextCodec *codec,
+bool mrvPatchXml(const QString &xml, const MRVDomPieces &pieces, const MRVSourceEncoding &encoding,
                  const QDomDocument &document, QString *patched);

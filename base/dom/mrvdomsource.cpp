@@ -4,19 +4,13 @@
 #include "dom/mrvdomdoc.h"
 #include "dom/mrvdompatch_p.h"
 #include "dom/mrvdomwriter_p.h"
+#include "input/mrvsourceencoding.h"
 #include "input/mrvxmlreader.h"
 #include "util/mrvfailure.h"
 
 #include <QBuffer>
-#include <QTextCodec>
 
 namespace {
-
-QByteArray encoded(const QTextCodec *codec, const QString &text)
-{
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return codec->fromUnicode(text.constData(), text.size(), &state);
-}
 
 // What is written of a document that is read from the bytes; null where that fails.
 QByteArray readAgain(QByteArray bytes)
@@ -34,8 +28,8 @@ QByteArray readAgain(QByteArray bytes)
 class MRVDomSource::Private
 {
 public:
-    QByteArray mark; // of the byte order
-    const QTextCodec *codec = nullptr; // null where the bytes cannot be kept
+    MRVSourceEncoding encoding;
+    bool isKept = false; // the bytes can be
     QString xml;
     MRVDomPieces pieces;
     QString objection; // to keeping the bytes
@@ -57,21 +51,13 @@ bool MRVDomSource::read(const QByteArray &bytes, MRVDomDoc *doc)
         return false;
     }
     MRVTextFault fault;
-    const QByteArray name = MRVTextDecoder::encodingOf(bytes, MRVTextDecoder::XmlDeclaration);
-    const QTextCodec *codec = QTextCodec::codecForName(name);
-    codec = codec ? codec : QTextCodec::codecForName("UTF-8");
     MRVXmlReader::decode(bytes, &d->xml, &fault);
-    // A mark of the byte order is not part of the text.
-    constexpr int LongestMark = 4;
-    const QByteArray again = encoded(codec, d->xml);
-    const int markLength = bytes.size() - again.size();
-    if (markLength < 0 || markLength > LongestMark || !bytes.endsWith(again)) {
+    if (!d->encoding.find(bytes, MRVTextDecoder::XmlDeclaration, d->xml)) {
         d->objection = tr("its encoding writes some characters in several ways");
     } else if (!mrvDomPieces(d->xml, doc->document(), &d->pieces)) {
         d->objection = tr("its document type declares entities");
     } else {
-        d->codec = codec;
-        d->mark = bytes.left(markLength);
+        d->isKept = true;
     }
     return true;
 }
@@ -85,10 +71,10 @@ bool MRVDomSource::write(const MRVDomDoc &doc, QByteArray *bytes, QString *note,
         return MRV::fail(error, reason);
     }
     QString objection = d->objection;
-    if (d->codec) {
+    if (d->isKept) {
         QString patched;
-        if (mrvPatchXml(d->xml, d->pieces, d->codec, doc.document(), &patched)) {
-            const QByteArray result = d->mark + encoded(d->codec, patched);
+        if (mrvPatchXml(d->xml, d->pieces, d->encoding, doc.document(), &patched)) {
+            const QByteArray result = d->encoding.encode(patched);
             const QByteArray again = readAgain(result);
             // An empty text is gone after saving and loading.
             if (again == whole || (!again.isNull() && again == readAgain(whole))) {
