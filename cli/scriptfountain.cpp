@@ -49,11 +49,11 @@ bool readScript(const QString &path, const QString &from, MRVScriptFile *file, Q
 }
 
 // After the script was written, which may fail.
-void printLeftOut(const QString &path, const MRVScriptFile &file)
+void printLosses(const QString &path, const MRVScriptFile &file)
 {
-    if (!file.leftOut().isEmpty()) {
-        printError(QStringLiteral("%1: without what stands in %2")
-                       .arg(path, file.leftOut().join(QLatin1String(", "))));
+    const QStringList losses = file.losses();
+    for (const QString &loss : losses) {
+        printError(QStringLiteral("%1: %2").arg(path, loss));
     }
 }
 
@@ -219,7 +219,7 @@ int runScriptConvert(const Call &call)
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }
-    printLeftOut(options.input, script);
+    printLosses(options.input, script);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});
@@ -293,7 +293,7 @@ int runScriptRename(const Call &call)
         return refuse(error);
     }
     const QString output = call.value("output");
-    // Documents and pages may hold more than scripts: revisions, headers, what others have added.
+    // Pages may hold more than scripts: what others have added.
     if (isSameFile(names.at(2), output) && file.revised() != file.source()) {
         return refuse(
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
@@ -311,7 +311,11 @@ int runScriptRename(const Call &call)
                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
-    if (!writeOutput(file.revised(), target, &error)) {
+    const QByteArray bytes = file.revised(&error);
+    if (!error.isEmpty()) {
+        return refuse(QStringLiteral("%1: %2").arg(names.at(2), error));
+    }
+    if (!writeOutput(bytes, target, &error)) {
         return refuse(error);
     }
     const bool isMerged = speaksAlready && !isSame;
@@ -319,7 +323,6 @@ int runScriptRename(const Call &call)
         printError(QStringLiteral("%1: '%2' spoke already; both are one character now")
                        .arg(names.at(2), names.at(1)));
     }
-    printLeftOut(names.at(2), file);
     if (target != StandardStream && call.has("json")) {
         printJson({{QStringLiteral("path"), target},
                    {QStringLiteral("renamed"), count},
@@ -346,7 +349,7 @@ bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Opti
 bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QString &path,
                   const QString &target, QString *error)
 {
-    // Documents and pages may hold more than scripts: revisions, headers, what others have added.
+    // Pages may hold more than scripts: what others have added.
     if (isSameFile(path, target) && file->revised() != file->source()) {
         *error =
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
@@ -354,5 +357,11 @@ bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QS
         return false;
     }
     file->setScript(script);
-    return writeOutput(file->revised(), target, error);
+    QString reason;
+    const QByteArray bytes = file->revised(&reason);
+    if (!reason.isEmpty()) {
+        *error = QStringLiteral("%1: %2").arg(path, reason);
+        return false;
+    }
+    return writeOutput(bytes, target, error);
 }

@@ -281,11 +281,11 @@ private Q_SLOTS:
     void finalDraftParts()
     {
         MRVFountainScript read;
-        QStringList sections;
+        QStringList losses;
         const QByteArray xml = "<FinalDraft>" + cell("content").toUtf8() + "</FinalDraft>";
-        QVERIFY(MRVFinalDraft::fromXml(xml, &read, nullptr, &sections));
+        QVERIFY(MRVFinalDraft::fromXml(xml, &read, nullptr, &losses));
         QCOMPARE(read.toText(), cell("text"));
-        QCOMPARE(sections.join(' '), cell("leftOut"));
+        QCOMPARE(losses.join("; "), cell("losses"));
     }
 
     void refusedXml_data() { addRows("scriptxml-refused.tsv"); }

@@ -1,6 +1,7 @@
 #include "screenplay/mrvfinaldraft.h"
 
 #include "core/mrvxmltext.h"
+#include "screenplay/mrvfinaldraftparts_p.h"
 #include "screenplay/mrvscriptxml_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 
@@ -216,4 +217,19 @@ QByteArray MRVFinalDraft::toXml(const MRVFountainScript &script)
     QByteArray bytes;
     FinalDraftWriter(&bytes).write(script.normalized());
     return bytes;
+}
+
+bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error,
+                            QStringList *losses)
+{
+    QString text;
+    MrvFinalDraftParts parts;
+    if (!mrvReadFinalDraft(xml, &text, &parts, error)) {
+        return false;
+    }
+    *script = parts.script().normalized();
+    if (losses) {
+        *losses = parts.losses.lines();
+    }
+    return true;
 }

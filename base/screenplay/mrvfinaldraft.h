@@ -37,21 +37,47 @@ public:
     static QByteArray toXml(const MRVFountainScript &script);
 
     /**
-     * Reads a document; paragraphs of types that Fountain does not know ("General", "Shot") are
-     * action. A scene's title, summary and what its characters go through become synopses after its
-     * heading, and notes that stand after the script ("ScriptNotes") go to the end of the
+     * Reads a document.
+     *
+     * Paragraphs of types that Fountain does not know ("General", "Shot") are action, and the first
+     * and last lines of acts centred text. Text is read as it is shown: in capitals where a style
+     * or the settings of a type say so. Struck-out text and scenes that are omitted are cut text. A
+     * scene's title, summary and what its characters go through become synopses after its heading,
+     * alternatives notes. Notes that stand after the script ("ScriptNotes") go to the end of the
      * paragraphs that they are about, and those in paragraphs of their own on the title page stand
      * after the script.
      *
      * @param error if given, receives a translated line with the number of the line on failure.
-     * @param leftOut if given, receives on success the tags of the other sections that hold text,
-     * such as "HeaderAndFooter" or "ListItems", in the document's order: that text is not in the
-     * script.
+     * @param losses if given, receives on success a translated line for each way in which the
+     * script is less than the document, in a fixed order: types of paragraphs that became others,
+     * alternatives, marks of revisions, styles, and sections whose text is not in the script, such
+     * as "HeaderAndFooter" or "ListItems". Empty where the script says all of it; settings and
+     * layout do not count.
      * @param xml the document's bytes, in the encoding that they name.
      * @return false, with @p script untouched, where it is not well-formed, has another root
      * element than "FinalDraft", elements within elements beyond 256 levels, or a tag with more
      * than 64 attributes, or where its document type declares entities or attributes.
      */
     static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr,
-                        QStringList *leftOut = nullptr);
+                        QStringList *losses = nullptr);
+
+    /**
+     * The document @p xml with @p script in place of the one that it holds.
+     *
+     * Only the characters of texts that have changed, word by word, and numbers of scenes are other
+     * bytes than before; where a word was in several formats, the new one is in that of its first
+     * character. Lists of names, such as those that completions are taken from, are no part of the
+     * script and stay. The ranges of notes after the script are moved with the text, all of them,
+     * where a note would otherwise be about another paragraph. New text is escaped as its place
+     * needs it, with references for characters that the encoding lacks. The result has been read
+     * again, and is the script. Takes time linear in the document.
+     *
+     * @param revised receives the bytes; untouched on failure.
+     * @param error   if given, receives a translated line with the number of the line and the text
+     *                on failure; untouched on success.
+     * @return false where fromXml() fails, or where @p script has other paragraphs or formats than
+     *         the document, which cannot be changed in place.
+     */
+    static bool revise(const QByteArray &xml, const MRVFountainScript &script, QByteArray *revised,
+                       QString *error = nullptr);
 };

@@ -1,9 +1,9 @@
-#include "screenplay/mrvfinaldraft.h"
-
+#include "screenplay/mrvfinaldraftparts_p.h"
+#include "screenplay/mrvfinaldrafttitles_p.h"
+#include "screenplay/mrvfinaldrafttokens_p.h"
 #include "screenplay/mrvscriptxml_p.h"
-#include "screenplay/mrvtitlepage_p.h"
 
-#include <QXmlStreamReader>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -12,69 +12,118 @@ namespace {
 
 using Element = MRVFountainElement;
 using Run = MRVFountainRun;
+using Piece = MrvFinalDraftPiece;
+using Pieces = MrvFinalDraftPieces;
+using Paragraph = MrvFinalDraftParagraph;
 
+// Types that have a kind of their own; others are action.
 constexpr struct
 {
     const char *type;
     Element::Kind kind;
     int level;
+    bool isKept; // the kind says as much as the type
 } types[] = {
-    {"Scene Heading", Element::SceneHeading, 1},
-    {"Action", Element::Action, 1},
-    {"Character", Element::Character, 1},
-    {"Parenthetical", Element::Parenthetical, 1},
-    {"Dialogue", Element::Dialogue, 1},
-    {"Lyrics", Element::Lyrics, 1},
-    {"Singing", Element::Lyrics, 1},
-    {"Transition", Element::Transition, 1},
-    {"New Act", Element::Centered, 1},
-    {"End of Act", Element::Centered, 1},
-    {"Outline 1", Element::Section, 1},
-    {"Outline 2", Element::Section, 2},
-    {"Outline 3", Element::Section, 3},
-    {"Outline 4", Element::Section, 4},
-    {"Outline Body", Element::Synopsis, 1},
+    {"Scene Heading", Element::SceneHeading, 1, true},
+    {"Action", Element::Action, 1, true},
+    {"Character", Element::Character, 1, true},
+    {"Parenthetical", Element::Parenthetical, 1, true},
+    {"Dialogue", Element::Dialogue, 1, true},
+    {"Lyrics", Element::Lyrics, 1, true},
+    {"Singing", Element::Lyrics, 1, false},
+    {"Transition", Element::Transition, 1, true},
+    {"New Act", Element::Centered, 1, false},
+    {"End of Act", Element::Centered, 1, false},
+    {"Outline 1", Element::Section, 1, true},
+    {"Outline 2", Element::Section, 2, true},
+    {"Outline 3", Element::Section, 3, true},
+    {"Outline 4", Element::Section, 4, true},
+    {"Outline Body", Element::Synopsis, 1, true},
 };
 
-// A note or a boneyard as a paragraph of its own.
-Element alone(const Run &run)
+constexpr struct
 {
-    return Element(run.kind == Run::Note ? Element::Note : Element::Boneyard, run.text);
+    const char *name;
+    Run::Style style;
+} emphases[] = {{"Bold", Run::Bold}, {"Italic", Run::Italic}, {"Underline", Run::Underline}};
+
+const QLatin1String Capitals("AllCaps");
+const QLatin1String Strikeout("Strikeout");
+
+Pieces asNote(Pieces pieces)
+{
+    for (Piece &piece : pieces) {
+        piece.kind = Run::Note;
+        piece.begins = &piece == pieces.begin();
+    }
+    return pieces;
+}
+
+// Whether some text was cut out, and none is left.
+bool isCut(const Pieces &pieces)
+{
+    const auto isBoneyard = [](const Piece &piece) { return piece.kind == Run::Boneyard; };
+    return std::any_of(pieces.cbegin(), pieces.cend(), isBoneyard)
+        && std::all_of(pieces.cbegin(), pieces.cend(), [&](const Piece &piece) {
+               return isBoneyard(piece)
+                   || (piece.kind == Run::Text && piece.text.trimmed().isEmpty());
+           });
+}
+
+bool isSpeech(Element::Kind kind)
+{
+    return kind == Element::Character || kind == Element::Parenthetical || kind == Element::Dialogue
+        || kind == Element::Lyrics;
 }
 
 class FinalDraftReader
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVFinalDraft)
+
 public:
-    explicit FinalDraftReader(const QString &xml)
-        : m_xml(xml)
+    FinalDraftReader(const QString &text, MrvFinalDraftParts *parts)
+        : m_tokens(text)
+        , m_parts(parts)
+        , m_out(&parts->elements)
+        , m_titles(parts)
     {
     }
 
-    bool read(MRVFountainScript *script, QString *error);
-    /** The sections of the document that hold text and were not read. */
-    const QStringList &leftOut() const { return m_leftOut; }
+    bool read(QString *error);
 
 private:
+    /** What is open: one state for the script, and one for the omitted scene in it. */
+    struct State
+    {
+        Paragraph paragraph;
+        QString alignment;
+        double space = 0; // before the paragraph, in points
+        bool isOpen = false; // a paragraph
+        bool hasContent = false; // that paragraph
+        int length = 0; // of its text
+        bool breakPending = false;
+        int dualCues = -1; // cues so far in speeches side by side; -1 outside of them
+        int firstDualCue = -1;
+        std::vector<Paragraph> after; // what follows the heading: its summary, omitted scenes
+    };
     struct Place
     {
-        int start; // in the text of the document
+        int start; // in the text of the document, as Final Draft counts it
         int element;
     };
     struct PlacedNote
     {
         int position;
-        QString text;
+        Pieces pieces;
     };
 
-    QString attribute(const char *name) const
-    {
-        return m_xml.attributes().value(QLatin1String(name)).toString();
-    }
-    QStringList readParagraphs();
+    QString attribute(const char *name) const { return m_tokens.attribute(name); }
     void readNotes();
     void placeNotes();
     bool readForeign();
+    void readSettings();
     void readSummary();
+    void readAlternatives();
     void startElement();
     void endElement();
     void beginParagraph();
@@ -84,108 +133,161 @@ private:
     void endNote();
     void endParagraph();
     void startText();
-    void addText(const QStringRef &text);
-    void addSummary();
-    void addTitle();
+    void addText();
+    void addPiece(Piece piece);
+    bool countsText() const { return m_omittedDepth == 0 && !m_inTitles && m_at.dualCues < 0; }
+    void addPlace(int length, int element);
+    void addAfter();
+    bool continueSpeech();
+    void settleKind(Paragraph *paragraph) const;
+    void countType(const QString &type);
+    void startDual();
+    void endDual();
+    void startOmitted();
+    void endOmitted();
+    void omitHeading();
+    void settleCapitals(std::vector<Paragraph> *paragraphs) const;
 
-    QXmlStreamReader m_xml;
+    MrvFinalDraftTokens m_tokens;
     QVector<bool> m_isText; // of each element that is open
-    MRVFountainScript m_script;
-    MrvTitleKeys m_titleKeys; // of the script's titles
-    Element m_element;
-    QString m_alignment;
+    MrvFinalDraftParts *m_parts;
+    std::vector<Paragraph> *m_out; // the script's, or the omitted scene's
+    State m_at;
+    State m_outer; // around an omitted scene
+    std::vector<Paragraph> m_omitted;
+    int m_omittedDepth = 0;
     bool m_inTitles = false;
-    bool m_hasParagraph = false; // one with content is open
-    int m_dualCues = -1; // cues so far in speeches side by side; -1 outside of them
-    int m_firstDualCue = -1;
-    Run::Kind m_runKind = Run::Text;
-    Run::Emphasis m_emphasis;
+    MrvFinalDraftTitles m_titles;
+    Piece m_look; // of the text that is open
+    Run::Kind m_noteKind = Run::Note;
     int m_noteDepth = 0;
     bool m_isNewNote = false;
+    bool m_noteBegins = false;
     bool m_isNoteAlone = false; // without a paragraph around it
-    bool m_breakPending = false;
-    QStringList m_summary; // of the scene whose heading is open
     int m_textLength = 0;
-    QVector<Place> m_paragraphs;
+    QVector<Place> m_places;
     QVector<PlacedNote> m_notes;
-    QStringList m_leftOut;
+    QSet<QString> m_capitalTypes;
+    QHash<QString, int> m_typeIndex; // in the losses
 };
+
+void FinalDraftReader::addPiece(Piece piece)
+{
+    Pieces &pieces = m_at.paragraph.pieces;
+    if (m_noteDepth > 0) {
+        piece.kind = m_noteKind;
+        piece.begins = m_noteBegins;
+        m_noteBegins = false;
+    } else {
+        piece.kind = m_look.kind;
+        piece.emphasis = m_look.emphasis;
+        piece.capitals = m_look.capitals;
+        piece.begins = piece.kind == Run::Boneyard
+            && (pieces.isEmpty() || pieces.constLast().kind != Run::Boneyard);
+        piece.position = countsText() ? m_textLength + m_at.length : -1;
+        m_at.length += piece.text.size();
+    }
+    pieces.append(piece);
+}
 
 void FinalDraftReader::beginParagraph()
 {
-    m_element = Element();
-    m_alignment.clear();
-    m_hasParagraph = true;
+    m_at.paragraph = Paragraph();
+    m_at.alignment.clear();
+    m_at.space = 0;
+    m_at.isOpen = true;
+    m_at.hasContent = false;
+    m_at.length = 0;
 }
 
 // The part of a paragraph before a nested one is a paragraph by itself.
 void FinalDraftReader::leaveParagraph()
 {
-    if (m_hasParagraph && !m_element.runs.isEmpty()) {
+    if (m_at.isOpen && m_at.hasContent) {
         endParagraph();
     }
-    m_hasParagraph = false;
+    m_at.isOpen = false;
 }
 
 void FinalDraftReader::startParagraph()
 {
-    if (m_runKind != Run::Text) {
+    if (m_noteDepth > 0) {
         if (!m_isNewNote) {
-            m_element.runs.last().text += u'\n'; // a further paragraph of a note
+            addPiece(mrvAddedPiece(QStringLiteral("\n"))); // a further paragraph of a note
         }
         return;
     }
     leaveParagraph();
-    m_breakPending =
-        m_breakPending || (!m_inTitles && attribute("StartsNewPage") == QLatin1String("Yes"));
+    m_at.breakPending =
+        m_at.breakPending || (!m_inTitles && attribute("StartsNewPage") == QLatin1String("Yes"));
     beginParagraph();
-    m_alignment = attribute("Alignment");
-    m_element.sceneNumber = attribute("Number");
-    const QString type = attribute("Type");
+    Paragraph &paragraph = m_at.paragraph;
+    paragraph.tagStart = m_tokens.start();
+    paragraph.tagEnd = m_tokens.end();
+    paragraph.type = attribute("Type");
+    paragraph.element.sceneNumber = attribute("Number");
+    m_at.alignment = attribute("Alignment");
     for (const auto &row : types) {
-        if (type == QLatin1String(row.type)) {
-            m_element.kind = row.kind;
-            m_element.level = row.level;
+        if (paragraph.type == QLatin1String(row.type)) {
+            paragraph.element.kind = row.kind;
+            paragraph.element.level = row.level;
         }
     }
-    if (m_element.kind == Element::Action && m_alignment == QLatin1String("Center")) {
-        m_element.kind = Element::Centered;
+    if (paragraph.element.kind == Element::Action && m_at.alignment == QLatin1String("Center")) {
+        paragraph.element.kind = Element::Centered;
     }
+    m_at.space = attribute("SpaceBefore").toDouble();
 }
 
 void FinalDraftReader::startText()
 {
-    if (m_runKind != Run::Text) {
+    if (m_noteDepth > 0) {
+        m_at.hasContent = true;
         if (m_isNewNote) {
-            m_element.runs.append({QString(), {}, m_runKind});
+            addPiece(Piece());
         }
         m_isNewNote = false;
         return;
     }
-    if (!m_hasParagraph) {
+    if (!m_at.isOpen) {
         beginParagraph();
     }
-    const QStringList names = attribute("Style").split(u'+');
-    m_emphasis.setFlag(Run::Bold, names.contains(QLatin1String("Bold")));
-    m_emphasis.setFlag(Run::Italic, names.contains(QLatin1String("Italic")));
-    m_emphasis.setFlag(Run::Underline, names.contains(QLatin1String("Underline")));
-    m_element.runs.append({QString(), m_emphasis, Run::Text});
+    m_at.hasContent = true;
+    m_look = Piece();
+    const QStringList names = attribute("Style").split(u'+', Qt::SkipEmptyParts);
+    m_look.capitals = names.contains(Capitals) ? Piece::Shown
+        : m_tokens.has("Style") || m_inTitles  ? Piece::AsTyped
+                                               : Piece::OfType;
+    m_look.kind = names.contains(Strikeout) ? Run::Boneyard : Run::Text;
+    for (const QString &name : names) {
+        const auto row =
+            std::find_if(std::begin(emphases), std::end(emphases),
+                         [&name](const auto &known) { return name == QLatin1String(known.name); });
+        if (row != std::end(emphases)) {
+            m_look.emphasis |= m_look.kind == Run::Text ? row->style : Run::Style(0);
+        } else if (name != Capitals && name != Strikeout
+                   && !m_parts->losses.styles.contains(name)) {
+            m_parts->losses.styles.append(name);
+        }
+    }
+    const QString revision = attribute("RevisionID");
+    m_parts->losses.revisions += !revision.isEmpty() && revision != QLatin1String("0");
 }
 
-void FinalDraftReader::addText(const QStringRef &text)
+void FinalDraftReader::addText()
 {
     if (m_isText.isEmpty() || !m_isText.constLast()) {
         return;
     }
-    if (!m_hasParagraph) {
+    if (!m_at.isOpen) {
         // After a paragraph nested in a text; blanks of the layout do not continue that text.
-        if (text.trimmed().isEmpty()) {
+        if (m_tokens.xml().text().trimmed().isEmpty()) {
             return;
         }
         beginParagraph();
-        m_element.runs.append({QString(), m_emphasis, Run::Text});
+        m_at.hasContent = true;
     }
-    m_element.runs.last().text += text;
+    addPiece(m_tokens.characters());
 }
 
 void FinalDraftReader::startNote()
@@ -193,12 +295,13 @@ void FinalDraftReader::startNote()
     if (m_noteDepth++ > 0) {
         return;
     }
-    m_isNoteAlone = !m_hasParagraph;
+    m_isNoteAlone = !m_at.isOpen;
     if (m_isNoteAlone) {
         beginParagraph();
     }
-    m_runKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
+    m_noteKind = attribute("Name") == QLatin1String("Omitted") ? Run::Boneyard : Run::Note;
     m_isNewNote = true;
+    m_noteBegins = true;
 }
 
 void FinalDraftReader::endNote()
@@ -206,60 +309,31 @@ void FinalDraftReader::endNote()
     if (--m_noteDepth > 0) {
         return;
     }
-    m_runKind = Run::Text;
-    if (m_isNoteAlone && m_element.runs.isEmpty()) {
-        m_hasParagraph = false;
+    if (m_isNoteAlone && !m_at.hasContent) {
+        m_at.isOpen = false;
     } else if (m_isNoteAlone) {
         endParagraph();
-    } else if (!m_isText.isEmpty() && m_isText.constLast()) {
-        m_element.runs.append({QString(), m_emphasis, Run::Text}); // the text goes on
     }
-}
-
-// The paragraphs of the current element, up to its end; a character's arc begins with the name.
-QStringList FinalDraftReader::readParagraphs()
-{
-    QStringList paragraphs;
-    QString name;
-    int textDepth = 0; // of the outermost text that is open
-    for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::StartElement) {
-            ++depth;
-            if (m_xml.name() == QLatin1String("Text") && textDepth == 0) {
-                textDepth = depth;
-            }
-            if (m_xml.name() == QLatin1String("Paragraph")) {
-                paragraphs.append(QString());
-            } else if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
-                name = attribute("Name") + QLatin1String(": ");
-            }
-        } else if (token == QXmlStreamReader::EndElement) {
-            textDepth = depth == textDepth ? 0 : textDepth;
-            --depth;
-            if (m_xml.name() == QLatin1String("CharacterArcBeat")) {
-                name.clear();
-            }
-        } else if (token == QXmlStreamReader::Characters && textDepth > 0) {
-            if (paragraphs.isEmpty()) {
-                paragraphs.append(QString());
-            }
-            QString &last = paragraphs.last();
-            last += last.isEmpty() ? name + m_xml.text() : m_xml.text().toString();
-        }
-    }
-    paragraphs.removeAll(QString());
-    return paragraphs;
 }
 
 // Notes that follow the script, with the range of its text that each is about: "12,20".
 void FinalDraftReader::readNotes()
 {
-    while (m_xml.readNextStartElement()) {
-        const int position = attribute("Range").section(u',', 0, 0).toInt();
-        const QString text = readParagraphs().join(u'\n');
-        if (!text.isEmpty()) {
-            m_notes.append({position, text});
+    while (m_tokens.nextChild()) {
+        const Piece range = m_tokens.attributePiece("Range");
+        const int position = range.text.section(u',', 0, 0).toInt();
+        const int end = range.text.section(u',', 1, 1).toInt();
+        m_parts->ranges.append({position, end, range.start, range.end});
+        Pieces note;
+        const QVector<Pieces> paragraphs = m_tokens.readParagraphs();
+        for (const Pieces &paragraph : paragraphs) {
+            if (!note.isEmpty()) {
+                note.append(mrvAddedPiece(QStringLiteral("\n")));
+            }
+            note += paragraph;
+        }
+        if (!note.isEmpty()) {
+            m_notes.append({position, asNote(note)});
         }
     }
 }
@@ -269,16 +343,22 @@ void FinalDraftReader::placeNotes()
 {
     for (const PlacedNote &note : qAsConst(m_notes)) {
         const auto after = std::upper_bound(
-            m_paragraphs.cbegin(), m_paragraphs.cend(), note.position,
+            m_places.cbegin(), m_places.cend(), note.position,
             [](int position, const Place &place) { return position < place.start; });
-        if (after == m_paragraphs.cbegin()) {
-            m_script.elements.append(Element(Element::Note, note.text));
-        } else {
-            Element &element = m_script.elements[std::prev(after)->element];
-            const bool isObject =
-                element.kind == Element::Note || element.kind == Element::Boneyard;
-            element.runs.append({isObject ? u'\n' + note.text : note.text, {}, Run::Note});
+        const int index = after == m_places.cbegin() ? -1 : std::prev(after)->element;
+        if (index < 0 || index >= int(m_parts->elements.size())) {
+            Paragraph alone;
+            alone.element.kind = Element::Note;
+            alone.pieces = note.pieces;
+            m_parts->elements.push_back(alone);
+            continue;
         }
+        Paragraph &paragraph = m_parts->elements[size_t(index)];
+        if (paragraph.element.kind == Element::Note
+            || paragraph.element.kind == Element::Boneyard) {
+            paragraph.pieces.append(mrvAddedPiece(QStringLiteral("\n")));
+        }
+        paragraph.pieces += note.pieces;
     }
 }
 
@@ -287,7 +367,7 @@ void FinalDraftReader::placeNotes()
 bool FinalDraftReader::readForeign()
 {
     constexpr int BelowRoot = 2;
-    const QString tag = m_xml.name().toString();
+    const QString tag = m_tokens.xml().name().toString();
     const bool isForeign = m_isText.size() == BelowRoot
         ? tag != QLatin1String("Content") && tag != QLatin1String("TitlePage")
         : m_inTitles && m_isText.size() == BelowRoot + 1 && tag != QLatin1String("Content");
@@ -296,25 +376,72 @@ bool FinalDraftReader::readForeign()
     }
     if (tag == QLatin1String("ScriptNotes")) {
         readNotes();
+    } else if (tag == QLatin1String("ElementSettings")) {
+        readSettings();
     } else {
-        const QString text = readParagraphs().join(QString());
+        QString text;
+        const QVector<Pieces> paragraphs = m_tokens.readParagraphs();
+        for (const Pieces &paragraph : paragraphs) {
+            text += mrvTextOf(paragraph);
+        }
         // Each header has the page number and its dot.
-        if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); })) {
-            m_leftOut.append(tag);
+        const bool saysSomething =
+            std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); });
+        if (saysSomething && !m_parts->losses.sections.contains(tag)) {
+            m_parts->losses.sections.append(tag);
         }
     }
     m_isText.removeLast();
     return true;
 }
 
+// Which types are shown in capitals.
+void FinalDraftReader::readSettings()
+{
+    const QString type = attribute("Type");
+    for (int depth = 1; depth > 0 && !m_tokens.atEnd();) {
+        const QXmlStreamReader::TokenType token = m_tokens.next();
+        depth += token == QXmlStreamReader::StartElement;
+        depth -= token == QXmlStreamReader::EndElement;
+        if (token == QXmlStreamReader::StartElement && m_tokens.is("FontSpec")
+            && attribute("Style").split(u'+').contains(Capitals)) {
+            m_capitalTypes.insert(type);
+        }
+    }
+}
+
 // The summary of a scene stands in its heading, in paragraphs of its own.
 void FinalDraftReader::readSummary()
 {
-    const QString title = attribute("Title");
-    if (!title.isEmpty()) {
-        m_summary.append(title);
+    QVector<Pieces> lines{{m_tokens.attributePiece("Title")}};
+    lines += m_tokens.readParagraphs();
+    for (const Pieces &line : qAsConst(lines)) {
+        Paragraph synopsis;
+        synopsis.element.kind = Element::Synopsis;
+        synopsis.pieces = line;
+        if (!mrvTextOf(line).isEmpty()) {
+            m_at.after.push_back(synopsis);
+        }
     }
-    m_summary += readParagraphs();
+    m_isText.removeLast();
+}
+
+// What else might be said, of which one paragraph is shown.
+void FinalDraftReader::readAlternatives()
+{
+    const bool isAlone = !m_at.isOpen;
+    if (isAlone) {
+        beginParagraph();
+    }
+    const QVector<Pieces> alternatives = m_tokens.readParagraphs();
+    for (const Pieces &alternative : alternatives) {
+        m_at.paragraph.pieces += asNote(alternative);
+        m_at.hasContent = true;
+        ++m_parts->losses.alternatives;
+    }
+    if (isAlone) {
+        leaveParagraph();
+    }
     m_isText.removeLast();
 }
 
@@ -323,12 +450,16 @@ void FinalDraftReader::startElement()
     if (readForeign()) {
         return;
     }
-    const QStringRef tag = m_xml.name();
+    const QStringRef tag = m_tokens.xml().name();
+    const bool isInScript = m_noteDepth == 0 && !m_inTitles;
     if (tag == QLatin1String("TitlePage")) {
         m_inTitles = true;
     } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
-        leaveParagraph();
-        m_dualCues = 0;
+        startDual();
+    } else if (tag == QLatin1String("OmittedScene") && isInScript) {
+        startOmitted();
+    } else if (tag.startsWith(QLatin1String("Alt")) && isInScript) {
+        readAlternatives();
     } else if (tag == QLatin1String("ScriptNote")) {
         startNote();
     } else if (tag == QLatin1String("SceneProperties")) {
@@ -343,103 +474,202 @@ void FinalDraftReader::startElement()
     }
 }
 
-void FinalDraftReader::addSummary()
+// Two speeches side by side are two characters of the text, as an omitted scene is.
+void FinalDraftReader::startDual()
 {
-    for (const QString &line : qAsConst(m_summary)) {
-        m_script.elements.append(Element(Element::Synopsis, line));
-    }
-    m_summary.clear();
+    leaveParagraph();
+    addPlace(2, int(m_out->size()));
+    m_at.dualCues = 0;
 }
 
-// The format does not tell what the lines of a title page mean.
-void FinalDraftReader::addTitle()
+void FinalDraftReader::endDual()
 {
-    if (m_element.text().trimmed().isEmpty()) {
-        for (const Run &run : qAsConst(m_element.runs)) {
-            if (run.kind != Run::Text) {
-                m_script.elements.append(alone(run));
-            }
-        }
+    if (m_at.dualCues == 1) {
+        (*m_out)[size_t(m_at.firstDualCue)].element.dual = true; // beside one that is elsewhere
+    }
+    m_at.dualCues = -1;
+}
+
+void FinalDraftReader::startOmitted()
+{
+    if (m_omittedDepth++ > 0) {
         return;
     }
-    const Qt::AlignmentFlag alignment = m_alignment == QLatin1String("Center") ? Qt::AlignHCenter
-        : m_alignment == QLatin1String("Right")                                ? Qt::AlignRight
-                                                                               : Qt::AlignLeft;
-    Run &first = m_element.runs.first();
-    const int length = first.kind == Run::Text ? mrvShownTitleKeyLength(alignment, first.text) : 0;
-    if (length > 0) {
-        const QString key = first.text.left(length);
-        first.text.remove(0, length + 2);
-        m_script.titles.append({key, m_element.runs});
-        m_titleKeys.append(key);
+    m_outer = m_at;
+    m_at = State();
+    m_omitted.clear();
+    m_out = &m_omitted;
+}
+
+void FinalDraftReader::endOmitted()
+{
+    if (--m_omittedDepth > 0) {
         return;
     }
-    // A value that continues in a further paragraph.
-    const QString key = mrvGuessedTitleKey(alignment, m_element.text(), m_titleKeys);
-    const int earlier = m_titleKeys.indexOf(key);
-    if (earlier >= 0) {
-        MRVFountainTitle &title = m_script.titles[earlier];
-        title.value.append({QStringLiteral("\n"), {}, Run::Text});
-        title.value += m_element.runs;
+    leaveParagraph();
+    addAfter();
+    m_at = m_outer;
+    m_out = &m_parts->elements;
+    if (m_omitted.empty()) {
+        return;
+    }
+    Paragraph cut;
+    cut.element.kind = Element::Boneyard;
+    cut.omitted.swap(m_omitted);
+    m_at.after.push_back(cut);
+    if (!m_at.isOpen) {
+        addPlace(2, int(m_out->size()));
+        addAfter();
+    }
+}
+
+// A heading with nothing but the scene that was cut there.
+void FinalDraftReader::omitHeading()
+{
+    std::vector<Paragraph> &scene = m_at.after.back().omitted;
+    Element &heading = scene.front().element;
+    if (heading.sceneNumber.isEmpty()) {
+        heading.sceneNumber = m_at.paragraph.element.sceneNumber;
+    }
+    scene.insert(scene.begin() + 1, m_at.after.begin(), m_at.after.end() - 1);
+    m_at.after.erase(m_at.after.begin(), m_at.after.end() - 1);
+    m_at.isOpen = false;
+    addPlace(2, int(m_out->size()));
+    addAfter();
+}
+
+// Notes after the script count its text without the lines of omitted scenes and double speeches.
+void FinalDraftReader::addPlace(int length, int element)
+{
+    if (countsText()) {
+        m_places.append({m_textLength, element});
+        m_textLength += length;
+    }
+}
+
+void FinalDraftReader::addAfter()
+{
+    m_out->insert(m_out->end(), m_at.after.begin(), m_at.after.end());
+    m_at.after.clear();
+}
+
+// What is nothing but a note is a paragraph of that kind, and so is cut text.
+void FinalDraftReader::settleKind(Paragraph *paragraph) const
+{
+    Element &element = paragraph->element;
+    const Pieces &pieces = paragraph->pieces;
+    const auto isOneNote = [&pieces](const Piece &piece) {
+        return piece.kind == Run::Note && piece.begins == (&piece == &pieces.constFirst());
+    };
+    if (isCut(pieces) && m_omittedDepth == 0) {
+        element.kind = Element::Boneyard;
+    } else if (element.kind == Element::Action && !pieces.isEmpty()
+               && std::all_of(pieces.cbegin(), pieces.cend(), isOneNote)) {
+        element.kind = Element::Note;
+    }
+}
+
+// What was cut out of a speech would separate it as a paragraph of its own.
+bool FinalDraftReader::continueSpeech()
+{
+    const Paragraph &paragraph = m_at.paragraph;
+    const bool continues = m_omittedDepth == 0 && isSpeech(paragraph.element.kind)
+        && isCut(paragraph.pieces) && paragraph.element.kind != Element::Character
+        && !m_out->empty() && isSpeech(m_out->back().element.kind);
+    if (continues) {
+        m_out->back().pieces += paragraph.pieces;
+        addPlace(m_at.length + 1, int(m_out->size()) - 1);
+    }
+    return continues;
+}
+
+void FinalDraftReader::countType(const QString &type)
+{
+    const auto row = std::find_if(std::begin(types), std::end(types), [&type](const auto &known) {
+        return type == QLatin1String(known.type);
+    });
+    if (type.isEmpty() || (row != std::end(types) && row->isKept)) {
+        return;
+    }
+    QVector<QPair<QString, int>> &counts = m_parts->losses.types;
+    const auto known = m_typeIndex.constFind(type);
+    if (known != m_typeIndex.cend()) {
+        ++counts[*known].second;
     } else {
-        m_script.titles.append({key, m_element.runs});
-        m_titleKeys.append(key);
+        m_typeIndex.insert(type, counts.size());
+        counts.append({type, 1});
     }
 }
 
 void FinalDraftReader::endParagraph()
 {
-    m_hasParagraph = false;
-    if (m_inTitles) {
-        addTitle();
+    if (!m_at.hasContent && !m_at.after.empty() && !m_at.after.back().omitted.empty()) {
+        omitHeading();
         return;
     }
-    if (m_breakPending) {
-        m_script.elements.append(Element(Element::PageBreak, QString()));
-        m_breakPending = false;
+    m_at.isOpen = false;
+    if (m_inTitles) {
+        m_titles.addLine(&m_at.paragraph, m_at.alignment, m_at.space);
+        return;
     }
-    m_paragraphs.append({m_textLength, m_script.elements.size()});
-    m_textLength += m_element.text().size() + 1;
-    if (m_element.kind == Element::Parenthetical) {
-        mrvRemoveBrackets(&m_element.runs);
+    if (!m_at.breakPending && continueSpeech()) {
+        return;
     }
-    if (m_element.kind == Element::Action && m_element.runs.size() == 1
-        && m_element.runs.constFirst().kind != Run::Text) {
-        m_element = alone(m_element.runs.constFirst());
+    if (m_at.breakPending) {
+        Paragraph pageBreak;
+        pageBreak.element.kind = Element::PageBreak;
+        m_out->push_back(pageBreak);
+        m_at.breakPending = false;
     }
-    if (m_element.kind == Element::Character && m_dualCues >= 0) {
-        m_firstDualCue = m_dualCues == 0 ? m_script.elements.size() : m_firstDualCue;
-        m_element.dual = m_dualCues++ > 0;
+    Paragraph &paragraph = m_at.paragraph;
+    const bool hasOmitted = !m_at.after.empty() && !m_at.after.back().omitted.empty();
+    addPlace(m_at.length + 1 + hasOmitted, int(m_out->size()));
+    countType(paragraph.type);
+    settleKind(&paragraph);
+    if (paragraph.element.kind == Element::Character && m_at.dualCues >= 0) {
+        m_at.firstDualCue = m_at.dualCues == 0 ? int(m_out->size()) : m_at.firstDualCue;
+        paragraph.element.dual = m_at.dualCues++ > 0;
     }
-    m_script.elements.append(m_element);
-    addSummary();
+    m_out->push_back(paragraph);
+    addAfter();
 }
 
 void FinalDraftReader::endElement()
 {
-    const QStringRef tag = m_xml.name();
+    const QStringRef tag = m_tokens.xml().name();
     if (tag == QLatin1String("ScriptNote")) {
         endNote();
     } else if ((tag == QLatin1String("Paragraph") || tag == QLatin1String("Content"))
-               && m_noteDepth == 0 && m_hasParagraph) {
+               && m_noteDepth == 0 && m_at.isOpen) {
         endParagraph();
     } else if (tag == QLatin1String("DualDialogue") && m_noteDepth == 0) {
-        if (m_dualCues == 1) {
-            m_script.elements[m_firstDualCue].dual = true; // beside one that is elsewhere
-        }
-        m_dualCues = -1;
+        endDual();
+    } else if (tag == QLatin1String("OmittedScene") && m_omittedDepth > 0 && m_noteDepth == 0) {
+        endOmitted();
     } else if (tag == QLatin1String("TitlePage")) {
         m_inTitles = false;
     }
 }
 
-bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
+void FinalDraftReader::settleCapitals(std::vector<Paragraph> *paragraphs) const
 {
-    while (!m_xml.atEnd()) {
-        switch (m_xml.readNext()) {
+    for (Paragraph &paragraph : *paragraphs) {
+        const auto capitals =
+            m_capitalTypes.contains(paragraph.type) ? Piece::Shown : Piece::AsTyped;
+        for (Piece &piece : paragraph.pieces) {
+            piece.capitals = piece.capitals == Piece::OfType ? capitals : piece.capitals;
+        }
+        settleCapitals(&paragraph.omitted);
+    }
+}
+
+bool FinalDraftReader::read(QString *error)
+{
+    while (!m_tokens.atEnd()) {
+        switch (m_tokens.next()) {
         case QXmlStreamReader::StartElement:
-            if (m_isText.isEmpty() && m_xml.name() != QLatin1String("FinalDraft")) {
-                m_xml.raiseError(MRVFinalDraft::tr("this is not a Final Draft document"));
+            if (m_isText.isEmpty() && !m_tokens.is("FinalDraft")) {
+                m_tokens.fail(tr("this is not a Final Draft document"));
             } else {
                 m_isText.append(false);
                 startElement();
@@ -450,35 +680,33 @@ bool FinalDraftReader::read(MRVFountainScript *script, QString *error)
             endElement();
             break;
         case QXmlStreamReader::Characters:
-            addText(m_xml.text());
+            addText();
             break;
         default:
             break;
         }
     }
-    if (!MRVXmlReader::isRead(m_xml, error)) {
+    if (!MRVXmlReader::isRead(m_tokens.xml(), error)) {
         return false;
     }
-    addSummary();
+    addAfter();
     placeNotes();
-    *script = m_script.normalized();
+    settleCapitals(&m_parts->elements);
     return true;
 }
 
 } // namespace
 
-bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error,
-                            QStringList *leftOut)
+bool mrvReadFinalDraft(const QByteArray &xml, QString *text, MrvFinalDraftParts *parts,
+                       QString *error)
 {
-    QString text;
-    if (!MRVXmlReader::read(xml, MrvScriptLimits, &text, error)) {
+    QString decoded;
+    MrvFinalDraftParts read;
+    if (!MRVXmlReader::read(xml, MrvScriptLimits, &decoded, error)
+        || !FinalDraftReader(decoded, &read).read(error)) {
         return false;
     }
-    FinalDraftReader reader(text);
-    const bool ok = reader.read(script, error);
-    if (ok && leftOut) {
-        *leftOut = reader.leftOut();
-        leftOut->removeDuplicates();
-    }
-    return ok;
+    *text = decoded;
+    *parts = std::move(read);
+    return true;
 }

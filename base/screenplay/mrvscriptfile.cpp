@@ -68,7 +68,7 @@ bool MRVScriptFile::read(const QByteArray &bytes, Format format, QString *error)
         ok = MRVFountainHtml::fromHtml(bytes, &file.m_script, &reason, &file.m_language);
         break;
     case FinalDraft:
-        ok = MRVFinalDraft::fromXml(bytes, &file.m_script, &reason, &file.m_leftOut);
+        ok = MRVFinalDraft::fromXml(bytes, &file.m_script, &reason, &file.m_losses);
         break;
     case Fountain:
         ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file.m_text, &reason);
@@ -103,8 +103,13 @@ int MRVScriptFile::renameCharacter(const QString &from, const QString &to,
     return count;
 }
 
-QByteArray MRVScriptFile::revised() const
+QByteArray MRVScriptFile::revised(QString *error) const
 {
+    if (m_format == FinalDraft) {
+        QByteArray bytes;
+        MRVFinalDraft::revise(m_source, m_script, &bytes, error);
+        return bytes;
+    }
     if (m_format != Fountain) {
         return toByteArray(m_script, m_format, m_language);
     }

@@ -72,8 +72,8 @@ public:
     QByteArray source() const { return m_source; }
     /** The language of a page as it says it; empty for other formats. */
     QString language() const { return m_language; }
-    /** The sections of a Final Draft document whose text is not in the script; see its reader. */
-    QStringList leftOut() const { return m_leftOut; }
+    /** In what the script is less than a Final Draft document; see MRVFinalDraft::fromXml(). */
+    QStringList losses() const { return m_losses; }
 
     /**
      * @name Script
@@ -96,11 +96,16 @@ public:
                         MRVScriptDocument::RenameScope scope);
 
     /**
-     * The script in the format and encoding that it was read from. Lines of Fountain that have not
-     * changed stay as they were typed; the other formats are written again, so what those files
-     * held besides the script is lost: source() is equal to this where nothing was.
+     * The script in the format and encoding that it was read from; source() where nothing has
+     * changed. Lines of Fountain that have not changed stay as they were typed. In a Final Draft
+     * document just the characters of changed texts are others: see MRVFinalDraft::revise(). A page
+     * is written again, so that what it held besides the script is lost.
+     *
+     * @param error if given, receives one translated line on failure; untouched on success.
+     * @return null where a Final Draft document cannot be changed so: toByteArray() writes a new
+     *         one.
      */
-    QByteArray revised() const;
+    QByteArray revised(QString *error = nullptr) const;
 
     /**
      * The bytes of a script.
@@ -119,5 +124,5 @@ private:
     QString m_text; // of a Fountain script, as it was typed
     QTextCodec *m_codec = nullptr; // of that text, where a byte-order mark names it
     QString m_language;
-    QStringList m_leftOut;
+    QStringList m_losses;
 };

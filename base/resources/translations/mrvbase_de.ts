@@ -642,6 +642,34 @@ Fehler: %2</translation>
         <source>this is not a Final Draft document</source>
         <translation>Das ist kein Final-Draft-Dokument</translation>
     </message>
+    <message>
+        <source>paragraphs of the type &quot;%1&quot; become another kind: %2</source>
+        <translation>Absätze vom Typ „%1“ werden zu einer anderen Art: %2</translation>
+    </message>
+    <message>
+        <source>alternatives become notes: %1</source>
+        <translation>Alternativen werden zu Notizen: %1</translation>
+    </message>
+    <message>
+        <source>texts lose the mark that they were revised: %1</source>
+        <translation>Texte verlieren das Zeichen, dass sie überarbeitet wurden: %1</translation>
+    </message>
+    <message>
+        <source>styles of text are left out: %1</source>
+        <translation>Textstile werden weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>the text of sections is left out: %1</source>
+        <translation>der Text von Abschnitten wird weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>the document cannot be changed there without losing something: %1</source>
+        <translation>das Dokument kann dort nicht geändert werden, ohne etwas zu verlieren: %1</translation>
+    </message>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>seine Kodierung schreibt manche Zeichen auf mehrere Arten</translation>
+    </message>
 </context>
 <context>
     <name>MRVFixedDate</name>

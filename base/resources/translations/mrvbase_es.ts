@@ -642,6 +642,34 @@ Error: %2</translation>
         <source>this is not a Final Draft document</source>
         <translation>no es un documento de Final Draft</translation>
     </message>
+    <message>
+        <source>paragraphs of the type &quot;%1&quot; become another kind: %2</source>
+        <translation>los párrafos del tipo «%1» pasan a ser de otra clase: %2</translation>
+    </message>
+    <message>
+        <source>alternatives become notes: %1</source>
+        <translation>las alternativas pasan a ser notas: %1</translation>
+    </message>
+    <message>
+        <source>texts lose the mark that they were revised: %1</source>
+        <translation>textos que pierden la marca de que se revisaron: %1</translation>
+    </message>
+    <message>
+        <source>styles of text are left out: %1</source>
+        <translation>se omiten estilos de texto: %1</translation>
+    </message>
+    <message>
+        <source>the text of sections is left out: %1</source>
+        <translation>se omite el texto de secciones: %1</translation>
+    </message>
+    <message>
+        <source>the document cannot be changed there without losing something: %1</source>
+        <translation>el documento no se puede cambiar ahí sin perder algo: %1</translation>
+    </message>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>su codificación escribe algunos caracteres de varias maneras</translation>
+    </message>
 </context>
 <context>
     <name>MRVFixedDate</name>

@@ -642,6 +642,34 @@ Erreur&#xa0;: %2</translation>
         <source>this is not a Final Draft document</source>
         <translation>ce n’est pas un document Final Draft</translation>
     </message>
+    <message>
+        <source>paragraphs of the type &quot;%1&quot; become another kind: %2</source>
+        <translation>les paragraphes du type «&#xa0;%1&#xa0;» deviennent d’un autre genre&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>alternatives become notes: %1</source>
+        <translation>les variantes deviennent des notes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>texts lose the mark that they were revised: %1</source>
+        <translation>des textes perdent la marque de leur révision&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>styles of text are left out: %1</source>
+        <translation>des styles de texte sont laissés de côté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the text of sections is left out: %1</source>
+        <translation>le texte de sections est laissé de côté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the document cannot be changed there without losing something: %1</source>
+        <translation>le document ne peut pas y être modifié sans rien perdre&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>its encoding writes some characters in several ways</source>
+        <translation>son encodage écrit certains caractères de plusieurs façons</translation>
+    </message>
 </context>
 <context>
     <name>MRVFixedDate</name>
