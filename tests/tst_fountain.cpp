@@ -271,7 +271,9 @@ private Q_SLOTS:
         // Keys that the places on the page do not tell are written.
         const QString odd =
             "Author: A\nTitle: B: C\nauthor: D\nCredit: Story\nWGA #: 1-2\nnotes: n\n"
-            "Contact: Phone: 1\nDate: 2\nSource: by E\n\nF\n";
+            "Contact: Phone: 1\nDate: 2\nSource: by E\n\nF\n\n"
+            // Small letters stay, though the settings are for capitals.
+            "@McG **H**\nI\n\n.House **j**\n\n> Cut _STRASSE_ straße\n";
         QVERIFY(
             MRVFinalDraft::fromXml(MRVFinalDraft::toXml(MRVFountainScript::fromText(odd)), &read));
         QCOMPARE(read.toText(), odd);

@@ -2,6 +2,7 @@
 
 #include "core/mrvxmltext.h"
 #include "screenplay/mrvfinaldraftparts_p.h"
+#include "screenplay/mrvfountainsyntax_p.h"
 #include "screenplay/mrvscriptxml_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 
@@ -21,6 +22,82 @@ constexpr const char *types[] = {
 static_assert(sizeof types / sizeof *types == Element::KindCount);
 
 constexpr int OutlineLevels = 4;
+
+// What the elements look like on Letter paper: lengths in inches from the edge of the page, and
+// points. "HiddenText" is not printed.
+struct SettingsRow
+{
+    const char *type;
+    const char *style;
+    const char *alignment;
+    double firstIndent;
+    double left;
+    double right;
+    int spaceBefore;
+    const char *paginateAs;
+    const char *next;
+};
+
+// clang-format off
+constexpr SettingsRow settings[] = {
+    {"General",       "",                  "Left",   0.0,  1.5, 7.5, 0,  "General",       "General"},
+    {"Scene Heading", "AllCaps",           "Left",   0.0,  1.5, 7.5, 24, "Scene Heading", "Action"},
+    {"Action",        "",                  "Left",   0.0,  1.5, 7.5, 12, "Action",        "Action"},
+    {"Character",     "AllCaps",           "Left",   0.0,  3.7, 7.5, 12, "Character",     "Dialogue"},
+    {"Parenthetical", "",                  "Left",   -0.1, 3.1, 5.6, 0,  "Parenthetical", "Dialogue"},
+    {"Dialogue",      "",                  "Left",   0.0,  2.5, 6.0, 0,  "Dialogue",      "Action"},
+    {"Lyrics",        "Italic",            "Left",   0.0,  2.5, 6.0, 0,  "Dialogue",      "Lyrics"},
+    {"Transition",    "AllCaps",           "Right",  0.0,  4.0, 7.5, 12, "Transition",    "Scene Heading"},
+    {"Shot",          "AllCaps",           "Left",   0.0,  1.5, 7.5, 24, "Scene Heading", "Action"},
+    {"Outline 1",     "Italic+HiddenText", "Left",   0.0,  1.5, 7.5, 12, "General",       "Outline Body"},
+    {"Outline 2",     "Italic+HiddenText", "Left",   0.0,  1.5, 7.5, 12, "General",       "Outline Body"},
+    {"Outline 3",     "Italic+HiddenText", "Left",   0.0,  1.5, 7.5, 12, "General",       "Outline Body"},
+    {"Outline 4",     "Italic+HiddenText", "Left",   0.0,  1.5, 7.5, 12, "General",       "Outline Body"},
+    {"Outline Body",  "Italic+HiddenText", "Left",   0.0,  1.5, 7.5, 0,  "General",       "Outline Body"},
+};
+// clang-format on
+
+// In points, as title pages are laid out.
+constexpr double PointsPerInch = 72;
+constexpr int PageHeight = 11 * 72;
+constexpr int VerticalMargin = 72;
+constexpr int LineHeight = 12;
+constexpr int TitleTop = 216; // a third of the way down the page
+
+bool isInCapitals(const char *type)
+{
+    for (const SettingsRow &row : settings) {
+        if (qstrcmp(row.type, type) == 0) {
+            return QByteArray(row.style).contains("AllCaps");
+        }
+    }
+    return false;
+}
+
+int linesOf(const MRVFountainTitle &title)
+{
+    return MrvFountain::linesOf(title.value).size();
+}
+
+// The first of the entries that end the title page and do not stand in its middle: those are at
+// its foot.
+int footOf(const QVector<MRVFountainTitle> &titles)
+{
+    int foot = titles.size();
+    while (foot > 0 && mrvTitleAlignment(titles.at(foot - 1).key) != Qt::AlignHCenter) {
+        --foot;
+    }
+    return foot;
+}
+
+int spaceAboveFoot(const QVector<MRVFountainTitle> &titles, int foot)
+{
+    int height = foot > 0 ? TitleTop - 2 * LineHeight : -LineHeight;
+    for (const MRVFountainTitle &title : titles) {
+        height += LineHeight * (1 + linesOf(title));
+    }
+    return qMax(LineHeight, PageHeight - 2 * VerticalMargin - height);
+}
 
 constexpr struct
 {
@@ -48,10 +125,12 @@ private:
         m_xml.writeAttribute(QLatin1String(name), mrvXmlText(value));
     }
     void writeElement(const Element &element);
-    void writeRuns(const MRVFountainRuns &runs);
-    void writeText(const QString &text, Run::Emphasis emphasis);
+    void writeRuns(const MRVFountainRuns &runs, bool inCapitals);
+    void writeText(const QString &text, Run::Emphasis emphasis, bool inCapitals = false);
     void writeNote(const Run &run);
+    void writeSettings();
     void writeTitles(const QVector<MRVFountainTitle> &titles);
+    void writeTitleLine(const MRVFountainRuns &line, Qt::AlignmentFlag alignment, int space);
 
     QXmlStreamWriter m_xml;
     int m_notes = 0;
@@ -89,6 +168,7 @@ void FinalDraftWriter::write(const MRVFountainScript &script)
         writeElement(Element());
     }
     end();
+    writeSettings();
     writeTitles(script.titles);
     m_xml.writeEndDocument();
 }
@@ -124,15 +204,15 @@ void FinalDraftWriter::writeElement(const Element &element)
     } else if (element.kind == Element::Note || element.kind == Element::Boneyard) {
         runs = {{element.text(), {}, element.kind == Element::Note ? Run::Note : Run::Boneyard}};
     }
-    writeRuns(runs);
+    writeRuns(runs, isInCapitals(types[element.kind]));
     end();
 }
 
-void FinalDraftWriter::writeRuns(const MRVFountainRuns &runs)
+void FinalDraftWriter::writeRuns(const MRVFountainRuns &runs, bool inCapitals)
 {
     for (const Run &run : runs) {
         if (run.kind == Run::Text) {
-            writeText(run.text, run.emphasis);
+            writeText(run.text, run.emphasis, inCapitals);
         } else {
             writeNote(run);
         }
@@ -142,16 +222,21 @@ void FinalDraftWriter::writeRuns(const MRVFountainRuns &runs)
     }
 }
 
-void FinalDraftWriter::writeText(const QString &text, Run::Emphasis emphasis)
+// The style of a text replaces that of its element; what is typed in small letters shows them.
+void FinalDraftWriter::writeText(const QString &text, Run::Emphasis emphasis, bool inCapitals)
 {
     start("Text");
     QStringList names;
+    const bool hasSmall = inCapitals && text != text.toUpper();
     for (const auto &row : styles) {
         if (emphasis.testFlag(row.style)) {
             names.append(QLatin1String(row.name));
         }
     }
-    if (!names.isEmpty()) {
+    if (inCapitals && !hasSmall && !names.isEmpty()) {
+        names.append(QStringLiteral("AllCaps"));
+    }
+    if (hasSmall || !names.isEmpty()) {
         attribute("Style", names.join(u'+'));
     }
     m_xml.writeCharacters(mrvXmlText(text));
@@ -172,6 +257,42 @@ void FinalDraftWriter::writeNote(const Run &run)
     end();
 }
 
+void FinalDraftWriter::writeSettings()
+{
+    start("PageLayout");
+    attribute("TopMargin", QString::number(VerticalMargin));
+    attribute("BottomMargin", QString::number(VerticalMargin));
+    attribute("HeaderMargin", QString::number(VerticalMargin / 2));
+    attribute("FooterMargin", QString::number(VerticalMargin / 2));
+    start("PageSize");
+    attribute("Height", QString::number(PageHeight / PointsPerInch, 'f', 2));
+    attribute("Width", QStringLiteral("8.50"));
+    end();
+    end();
+    for (const SettingsRow &row : settings) {
+        start("ElementSettings");
+        attribute("Type", QLatin1String(row.type));
+        start("FontSpec");
+        attribute("Font", QStringLiteral("Courier"));
+        attribute("Size", QStringLiteral("12"));
+        attribute("Style", QLatin1String(row.style));
+        end();
+        start("ParagraphSpec");
+        attribute("Alignment", QLatin1String(row.alignment));
+        attribute("FirstIndent", QString::number(row.firstIndent, 'f', 2));
+        attribute("LeftIndent", QString::number(row.left, 'f', 2));
+        attribute("RightIndent", QString::number(row.right, 'f', 2));
+        attribute("SpaceBefore", QString::number(row.spaceBefore));
+        attribute("Spacing", QStringLiteral("1"));
+        end();
+        start("Behavior");
+        attribute("PaginateAs", QLatin1String(row.paginateAs));
+        attribute("ReturnKey", QLatin1String(row.next));
+        end();
+        end();
+    }
+}
+
 // Keys are written where position and words alone would not identify them.
 void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
 {
@@ -181,32 +302,41 @@ void FinalDraftWriter::writeTitles(const QVector<MRVFountainTitle> &titles)
     start("TitlePage");
     start("Content");
     MrvTitleKeys before;
-    bool isFirst = true;
-    for (const MRVFountainTitle &title : titles) {
+    const int foot = footOf(titles);
+    for (int i = 0; i < titles.size(); ++i) {
+        const MRVFountainTitle &title = titles.at(i);
         const Qt::AlignmentFlag alignment = mrvTitleAlignment(title.key);
         const QString text = title.text();
         const QString guessed = mrvGuessedTitleKey(alignment, text, before);
         const bool isGuessed = !text.trimmed().isEmpty()
             && guessed.compare(title.key, Qt::CaseInsensitive) == 0
             && mrvShownTitleKeyLength(alignment, text) == 0 && before.indexOf(guessed) < 0;
-        start("Paragraph");
-        attribute("Type", QStringLiteral("General"));
-        attribute("Alignment",
-                  alignment == Qt::AlignHCenter     ? QStringLiteral("Center")
-                      : alignment == Qt::AlignRight ? QStringLiteral("Right")
-                                                    : QStringLiteral("Left"));
-        // Points: a third of the way down the page.
-        attribute("SpaceBefore", QString::number(isFirst ? 216 : 12));
-        MRVFountainRuns value = title.value;
+        QVector<MRVFountainRuns> lines = MrvFountain::linesOf(title.value);
         if (!isGuessed) {
-            value.prepend({title.key + QLatin1String(": "), {}, Run::Text});
+            lines.first().prepend({title.key + QLatin1String(": "), {}, Run::Text});
         }
-        writeRuns(value);
-        end();
+        int space = i == foot ? spaceAboveFoot(titles, foot) : i == 0 ? TitleTop : LineHeight;
+        for (const MRVFountainRuns &line : qAsConst(lines)) {
+            writeTitleLine(line, alignment, space);
+            space = 0;
+        }
         before.append(title.key);
-        isFirst = false;
     }
     end();
+    end();
+}
+
+void FinalDraftWriter::writeTitleLine(const MRVFountainRuns &line, Qt::AlignmentFlag alignment,
+                                      int space)
+{
+    start("Paragraph");
+    attribute("Type", QStringLiteral("General"));
+    attribute("Alignment",
+              alignment == Qt::AlignHCenter     ? QStringLiteral("Center")
+                  : alignment == Qt::AlignRight ? QStringLiteral("Right")
+                                                : QStringLiteral("Left"));
+    attribute("SpaceBefore", QString::number(space));
+    writeRuns(line, false);
     end();
 }
 

@@ -12,11 +12,13 @@
  * Scripts as Final Draft documents (.fdx), an XML format that script programs exchange.
  *
  * Written are paragraphs with their types, styles and alignment, scene numbers, page breaks, two
- * speeches side by side, notes as script notes, and the title page. What was cut out is a script
- * note called "Omitted", sections are outline headings of four levels, and synopses are outline
- * text. Read again, it is the same script, except for deeper sections, the mark of lyrics after a
- * speech, the emphasis of notes, action that is nothing but a note, and page breaks without a
- * paragraph after them, which get one.
+ * speeches side by side, notes as script notes, settings of the elements for Letter paper, and the
+ * title page, each line a paragraph, with what does not stand in its middle at its foot. What was
+ * cut out is a script note called "Omitted", sections are outline headings of four levels, and
+ * synopses are outline text. Headings, cues and transitions have a style of capitals, except where
+ * they are typed in small letters. Read again, it is the same script, except for deeper sections,
+ * the mark of lyrics after a speech, the emphasis of notes, action that is nothing but a note, and
+ * page breaks without a paragraph after them, which get one.
  *
  * The format does not say which line of a title page is what: reading it takes the first centred
  * one as the title, "written by" and the like as the credit, the one after as the author, other

@@ -1,5 +1,9 @@
 #include "screenplay/mrvfinaldrafttitles_p.h"
 
+#include "screenplay/mrvfountainsyntax_p.h"
+
+#include <algorithm>
+
 namespace {
 
 using Run = MRVFountainRun;
@@ -18,13 +22,15 @@ void MrvFinalDraftTitles::addLine(MrvFinalDraftParagraph *line, const QString &a
                                   double space)
 {
     const QString text = mrvTextOf(line->pieces);
-    if (text.trimmed().isEmpty()) {
+    const Qt::AlignmentFlag side = alignmentNamed(alignment);
+    const bool continues = m_last >= 0 && space == 0 && side == m_alignment
+        && std::any_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return !MrvFountain::isBlank(c) && c != u'\n'; });
+    if (!continues && text.trimmed().isEmpty()) {
         addNotes(line->pieces);
         m_last = -1;
         return;
     }
-    const Qt::AlignmentFlag side = alignmentNamed(alignment);
-    const bool continues = m_last >= 0 && space == 0 && side == m_alignment;
     int entry = m_last;
     if (!continues) {
         Piece &first = line->pieces.first();

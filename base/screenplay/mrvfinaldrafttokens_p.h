@@ -18,7 +18,7 @@ public:
     }
 
     QXmlStreamReader::TokenType next();
-    /** Goes to the next element within the current one; false, at its end, where that has no more. */
+    /** Goes to the next element in the current one; false, at its end, where that has no more. */
     bool nextChild();
     bool atEnd() const { return m_xml.atEnd(); }
     /** Ends the reading with an error. */
