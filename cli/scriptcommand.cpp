@@ -186,6 +186,11 @@ constexpr Option options[] = {
     Option::choice("from", "FORMAT", "fountain html fdx",
                    "The format of the input: fountain, html or fdx. Default: by its suffix.",
                    "convert stats scenes rename check number renumber compare"),
+    Option::name(
+        "encoding", "NAME",
+        "The encoding of Fountain that is not UTF-8, such as windows-1252. A script that is "
+        "changed is written in it again.",
+        "convert stats scenes rename check number renumber compare"),
     Option::name("o output", "FILE",
                  "Where to write; - is standard output. Default: beside the input, with the suffix "
                  "of the format.",

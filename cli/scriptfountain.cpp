@@ -24,9 +24,11 @@ const QLatin1String StandardStream("-");
 
 using Format = MRVScriptFile::Format;
 
-// Reads a script; @p error names the file.
-bool readScript(const QString &path, const QString &from, MRVScriptFile *file, QString *error)
+} // namespace
+
+bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error)
 {
+    const QString from = call.value("from");
     const bool standard = path == StandardStream;
     const Format format = !from.isEmpty() ? MRVScriptFile::formatNamed(from)
         : standard                        ? MRVScriptFile::Fountain
@@ -38,15 +40,20 @@ bool readScript(const QString &path, const QString &from, MRVScriptFile *file, Q
         *error = reason;
         return false;
     }
-    if (file->read(bytes, format, &reason)) {
+    if (file->read(bytes, format, call.value("encoding").toLatin1(), &reason)) {
         return true;
     }
     const bool isUnknown = format == MRVScriptFile::UnknownFormat || format == MRVScriptFile::EPub
         || format == MRVScriptFile::Pdf;
+    const bool isText = format == MRVScriptFile::Fountain;
     *error = path + QLatin1String(": ") + reason
-        + QLatin1String(isUnknown ? "; say with --from what it is" : "");
+        + QLatin1String(isUnknown    ? "; say with --from what it is"
+                            : isText ? "; give the right encoding with --encoding"
+                                     : "");
     return false;
 }
+
+namespace {
 
 // After the script was written, which may fail.
 void printLosses(const QString &path, const MRVScriptFile &file)
@@ -66,7 +73,6 @@ bool isSameFile(const QString &a, const QString &b)
 struct ConvertOptions
 {
     QString input;
-    QString from;
     Format to = MRVScriptFile::UnknownFormat;
     QString output; // the file
     MRVScriptMode mode;
@@ -126,7 +132,6 @@ int readOptions(const Call &call, ConvertOptions *options)
     const QString to = call.value("to");
     const QString output = call.value("output");
     options->input = call.arguments.constFirst();
-    options->from = call.value("from");
     options->to =
         to.isEmpty() ? MRVScriptFile::formatOfFile(output) : MRVScriptFile::formatNamed(to);
     options->json = call.has("json");
@@ -207,7 +212,7 @@ int runScriptConvert(const Call &call)
     }
     MRVScriptFile script;
     QString error;
-    if (!readScript(options.input, options.from, &script, &error)) {
+    if (!readScriptFile(call, options.input, &script, &error)) {
         return refuse(error);
     }
     if (options.language.isEmpty()) {
@@ -259,7 +264,7 @@ int runScriptStats(const Call &call)
     for (const QString &input : call.arguments) {
         MRVScriptFile file;
         QString error;
-        if (!readScript(input, call.value("from"), &file, &error)) {
+        if (!readScriptFile(call, input, &file, &error)) {
             printError(error); // the others can still be counted
             ok = false;
             continue;
@@ -289,7 +294,7 @@ int runScriptRename(const Call &call)
     }
     MRVScriptFile file;
     QString error;
-    if (!readScript(names.at(2), call.value("from"), &file, &error)) {
+    if (!readScriptFile(call, names.at(2), &file, &error)) {
         return refuse(error);
     }
     const QString output = call.value("output");
@@ -331,11 +336,6 @@ int runScriptRename(const Call &call)
         printLine(QStringLiteral("%1: %2 renamed").arg(target).arg(count));
     }
     return Done;
-}
-
-bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error)
-{
-    return readScript(path, call.value("from"), file, error);
 }
 
 bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Options *layout,

@@ -2,6 +2,7 @@
 #include "screenplay/mrvscriptcast.h"
 #include "screenplay/mrvscriptcheck.h"
 #include "screenplay/mrvscriptcompare.h"
+#include "screenplay/mrvscriptfile.h"
 #include "screenplay/mrvscriptnumbers.h"
 #include "screenplay/mrvscriptscenes.h"
 
@@ -166,6 +167,47 @@ private Q_SLOTS:
             QCOMPARE(changed(sides[0], sides[1], changes), sides[1].elements);
             QCOMPARE(MRVScriptCompare::elements(sides[0], sides[0]).size(), 0);
         }
+    }
+
+    void encodings_data()
+    {
+        QTest::addColumn<QByteArray>("encoding");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("revised");
+        const QByteArray none;
+        QTest::newRow("same") << QByteArray("windows-1252") << QByteArray("\xc9VE\r\n Hi\x80")
+                              << QString("\u00C9VE") << QByteArray("\xc9VE\r\n Hi\x80");
+        QTest::newRow("other") << QByteArray("windows-1252") << QByteArray("\xc9VE\r\n Hi\x80\r\n")
+                               << QString("\u00D6D")
+                               << QByteArray("\xd6"
+                                             "D\r\n Hi\x80\r\n");
+        QTest::newRow("lacks") << QByteArray("latin1") << QByteArray("\xc9VE\nHi\n")
+                               << QString("\u0150D") << none;
+        QTest::newRow("marked") << QByteArray("latin1")
+                                << QByteArray("\xef\xbb\xbf"
+                                              "A\nHi\n")
+                                << QString("\u0150") << QByteArray("\xef\xbb\xbf\xc5\x90\nHi\n");
+        QTest::newRow("wide") << QByteArray("UTF-16LE") << QByteArray("A\0\n\0b\0", 6)
+                              << QString("\u0150") << QByteArray("\x50\x01\n\0b\0", 6);
+    }
+    void encodings()
+    {
+        QFETCH(QByteArray, encoding);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, name);
+        MRVScriptFile file;
+        QString error;
+        QVERIFY2(file.read(bytes, MRVScriptFile::Fountain, encoding, &error), qPrintable(error));
+        MRVFountainScript script = file.script();
+        script.elements.first().runs.first().text = name;
+        file.setScript(script);
+        QTEST(file.revised(&error), "revised");
+        QCOMPARE(error.contains("ISO-8859-1 lacks"), file.revised().isNull());
+        QCOMPARE(file.read("\xff\n", MRVScriptFile::Fountain, "UTF-8", &error), false);
+        QCOMPARE(file.read("a\n", MRVScriptFile::Fountain, "UTF-9", &error), false);
+        QCOMPARE(file.read("<FinalDraft/>", MRVScriptFile::FinalDraft, "latin1", &error), false);
+        QCOMPARE(file.source(), bytes);
     }
 
     // Minutes each, unless they take linear time.

@@ -60,9 +60,35 @@ QString MRVScriptFile::suffix(Format format)
 
 bool MRVScriptFile::read(const QByteArray &bytes, Format format, QString *error)
 {
+    return read(bytes, format, QByteArray(), error);
+}
+
+bool MRVScriptFile::readFountain(const QByteArray &bytes, const QByteArray &encoding,
+                                 QString *reason)
+{
+    const QByteArray name = encoding.isEmpty() ? QByteArray("UTF-8") : encoding;
+    if (!MRVCoreUtil::decodeText(bytes, name.constData(), &m_text, reason)) {
+        return false;
+    }
+    m_codec = QTextCodec::codecForUtfText(bytes, nullptr);
+    m_hasMark = m_codec;
+    if (!m_codec && !encoding.isEmpty()) {
+        m_codec = QTextCodec::codecForName(encoding);
+    }
+    m_script = MRVFountainScript::fromText(m_text);
+    return true;
+}
+
+bool MRVScriptFile::read(const QByteArray &bytes, Format format, const QByteArray &encoding,
+                         QString *error)
+{
     MRVScriptFile file;
     QString reason;
     bool ok = false;
+    if (!encoding.isEmpty() && (format == Html || format == FinalDraft)) {
+        reason = tr("files of this type name their encoding themselves");
+        format = UnknownFormat;
+    }
     switch (format) {
     case Html:
         ok = MRVFountainHtml::fromHtml(bytes, &file.m_script, &reason, &file.m_language);
@@ -71,14 +97,12 @@ bool MRVScriptFile::read(const QByteArray &bytes, Format format, QString *error)
         ok = MRVFinalDraft::fromXml(bytes, &file.m_script, &reason, &file.m_losses);
         break;
     case Fountain:
-        ok = MRVCoreUtil::decodeText(bytes, "UTF-8", &file.m_text, &reason);
-        file.m_codec = QTextCodec::codecForUtfText(bytes, nullptr);
-        file.m_script = MRVFountainScript::fromText(file.m_text);
+        ok = file.readFountain(bytes, encoding, &reason);
         break;
     case EPub:
     case Pdf:
     case UnknownFormat:
-        reason = tr("unknown type of script");
+        reason = reason.isEmpty() ? tr("unknown type of script") : reason;
         break;
     }
     if (ok) {
@@ -114,12 +138,23 @@ QByteArray MRVScriptFile::revised(QString *error) const
         return toByteArray(m_script, m_format, m_language);
     }
     const QString text = m_script.toText(m_text);
+    if (text == m_text) {
+        return m_source; // some encodings have two codes for a character
+    }
     if (!m_codec) {
         return text.toUtf8();
     }
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString marked = QChar(QChar::ByteOrderMark) + text;
-    return m_codec->fromUnicode(marked.constData(), marked.size(), &state);
+    const QString written = m_hasMark ? QChar(QChar::ByteOrderMark) + text : text;
+    const QByteArray bytes = m_codec->fromUnicode(written.constData(), written.size(), &state);
+    if (!m_hasMark && m_codec->toUnicode(bytes) != text) {
+        if (error) {
+            *error = tr("the encoding %1 lacks some characters of the changed text")
+                         .arg(QString::fromLatin1(m_codec->name()));
+        }
+        return QByteArray();
+    }
+    return bytes;
 }
 
 QByteArray MRVScriptFile::toByteArray(const MRVFountainScript &script, Format format,

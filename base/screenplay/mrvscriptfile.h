@@ -63,6 +63,16 @@ public:
      * @return false, with nothing changed, when the bytes are not of the format.
      */
     bool read(const QByteArray &bytes, Format format, QString *error = nullptr);
+    /**
+     * The same for Fountain in another encoding; other formats say themselves which they have.
+     *
+     * @param bytes    the contents of the file; a byte-order mark still counts.
+     * @param format   a format other than Fountain fails where an encoding is given.
+     * @param encoding a name that QTextCodec knows; empty for UTF-8.
+     * @param error    if given, receives one translated line on failure; untouched on success.
+     * @return false, with nothing changed, when the bytes are not of the format or encoding.
+     */
+    bool read(const QByteArray &bytes, Format format, const QByteArray &encoding, QString *error);
 
     /** The format that was read; UnknownFormat before. */
     Format format() const { return m_format; }
@@ -102,8 +112,8 @@ public:
      * is written again, so that what it held besides the script is lost.
      *
      * @param error if given, receives one translated line on failure; untouched on success.
-     * @return null where a Final Draft document cannot be changed so: toByteArray() writes a new
-     *         one.
+     * @return null where a Final Draft document cannot be changed so, or the encoding lacks a
+     *         character: toByteArray() writes a new one.
      */
     QByteArray revised(QString *error = nullptr) const;
 
@@ -118,11 +128,14 @@ public:
                                   const QString &language = QString());
 
 private:
+    bool readFountain(const QByteArray &bytes, const QByteArray &encoding, QString *reason);
+
     QByteArray m_source;
     Format m_format = UnknownFormat;
     MRVFountainScript m_script;
     QString m_text; // of a Fountain script, as it was typed
-    QTextCodec *m_codec = nullptr; // of that text, where a byte-order mark names it
+    QTextCodec *m_codec = nullptr; // of that text, where it is not UTF-8 without a mark
+    bool m_hasMark = false; // whether a byte-order mark names the codec
     QString m_language;
     QStringList m_losses;
 };

@@ -2719,6 +2719,14 @@ Fehler: %2</translation>
         <source>unknown type of script</source>
         <translation>Unbekannte Art von Drehbuch</translation>
     </message>
+    <message>
+        <source>files of this type name their encoding themselves</source>
+        <translation>Dateien dieses Typs nennen ihre Kodierung selbst</translation>
+    </message>
+    <message>
+        <source>the encoding %1 lacks some characters of the changed text</source>
+        <translation>der Kodierung %1 fehlen einige Zeichen des geänderten Textes</translation>
+    </message>
 </context>
 <context>
     <name>MRVScriptMode</name>

@@ -2719,6 +2719,14 @@ Error: %2</translation>
         <source>unknown type of script</source>
         <translation>tipo de guion desconocido</translation>
     </message>
+    <message>
+        <source>files of this type name their encoding themselves</source>
+        <translation>los archivos de este tipo indican ellos mismos su codificación</translation>
+    </message>
+    <message>
+        <source>the encoding %1 lacks some characters of the changed text</source>
+        <translation>a la codificación %1 le faltan algunos caracteres del texto cambiado</translation>
+    </message>
 </context>
 <context>
     <name>MRVScriptMode</name>

@@ -2719,6 +2719,14 @@ Erreur&#xa0;: %2</translation>
         <source>unknown type of script</source>
         <translation>type de script inconnu</translation>
     </message>
+    <message>
+        <source>files of this type name their encoding themselves</source>
+        <translation>les fichiers de ce type indiquent eux-mêmes leur codage</translation>
+    </message>
+    <message>
+        <source>the encoding %1 lacks some characters of the changed text</source>
+        <translation>il manque au codage %1 certains caractères du texte modifié</translation>
+    </message>
 </context>
 <context>
     <name>MRVScriptMode</name>
