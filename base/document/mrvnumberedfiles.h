@@ -31,7 +31,7 @@ public:
         std::function<QString(const QString &path)> holder;
         /** The digestOf() of what wants a place; asked for once, where the name is taken. */
         std::function<QByteArray()> digest;
-        /** Whether a file with that digest may be used; one that may not is never asked for again. */
+        /** Whether a file with that digest may be used; after a no it is not asked for again. */
         std::function<bool(const QString &path)> mayUse;
     };
     /** A path, and whether nothing is there yet. */
