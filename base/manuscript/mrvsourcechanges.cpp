@@ -6,6 +6,7 @@
 #include "manuscript/mrvsourceplaces_p.h"
 #include "util/mrvmarkupcharacters.h"
 
+#include <QRegularExpression>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -61,6 +62,30 @@ int linkedCharacters(const QTextDocument &document, const MRVTextChange &change)
     return (startsInLink && endsInLink ? countOfText(change.after) : 0) - before;
 }
 
+// How many links a change deletes with all of their text.
+int deletedLinks(const QTextDocument &document, const MRVTextChange &change)
+{
+    int count = 0;
+    int begin = 0; // of the link that was met last
+    QString address;
+    const auto end = [&](int position) {
+        const bool isInside = begin >= change.range.start() && position <= change.range.end();
+        count += !address.isEmpty() && isInside ? 1 : 0;
+        address.clear();
+    };
+    const QTextBlock block = document.findBlock(change.range.start());
+    for (auto it = block.begin(); change.after.isEmpty() && !it.atEnd(); ++it) {
+        const QString next = it.fragment().charFormat().anchorHref();
+        if (next != address) {
+            end(it.fragment().position());
+            address = next;
+            begin = it.fragment().position();
+        }
+    }
+    end(block.position() + block.length() - 1);
+    return count;
+}
+
 } // namespace
 
 void MRVSourceChanges::Change::fail()
@@ -87,6 +112,7 @@ MRVSourceChanges::MRVSourceChanges(const MRVManuscript &manuscript,
         }
         one.block = manuscript.document->findBlock(wanted.range.start()).blockNumber();
         one.linkedCharacters = linkedCharacters(*manuscript.document, one.change);
+        one.deletedLinks = deletedLinks(*manuscript.document, one.change);
         m_changes.append(one);
     }
 }
@@ -183,6 +209,50 @@ MRVSourceChanges::Edits MRVSourceChanges::withLinkLabel(const Edits &edits) cons
     return labelled;
 }
 
+// The deletion of the whole text of a link of Markdown takes the link with it. Empty where the
+// edits are none.
+MRVSourceChanges::Edits MRVSourceChanges::withoutLink(const Edits &edits) const
+{
+    const bool isDeletion = edits.size() == 1 && edits.constFirst().text.isEmpty()
+        && edits.constFirst().place.syntax == MRVSourcePlace::Markdown;
+    const int open = isDeletion ? edits.constFirst().place.start - 1 : -1;
+    const int close = isDeletion ? edits.constFirst().place.end() : -1;
+    if (open < 0 || m_source.at(open) != u'[' || m_source.midRef(close, 1) != QLatin1String("]")
+        || (open > 0 && m_source.at(open - 1) == u'!')) {
+        return {};
+    }
+    // The address and title, or the label. Whether the link ends there, reading the result tells.
+    static const QRegularExpression target(
+        QStringLiteral("\\G\\](?:\\((?:[^()\\n\"']|\"[^\"\\n]*\"|'[^'\\n]*'|\\([^()\\n]*\\))*\\)|"
+                       "\\[[^\\]\\n]*\\])?"));
+    const QRegularExpressionMatch match =
+        target.match(m_source, close, QRegularExpression::NormalMatch,
+                     QRegularExpression::DontCheckSubjectStringMatchOption);
+    return {{{open, match.capturedEnd() - open, MRVSourcePlace::Markdown}, QString()}};
+}
+
+// Edits whose text was not written yet, with more backslashes than most places need.
+MRVSourceChanges::Edits MRVSourceChanges::withEscapes(const Edits &raw,
+                                                      const MRVTextChange &change) const
+{
+    Edits escaped = raw;
+    for (Edit &edit : escaped) {
+        const QTextCharFormat format = edit.text.isEmpty() ? QTextCharFormat() : change.format;
+        if (!m_writer.writeEscaped(edit.text, edit.place, &edit.text)
+            || !MRVSourceWriter::mark(format, edit.place.syntax, false, &edit.text)) {
+            return {};
+        }
+    }
+    const Edit &last = raw.constLast();
+    const int place = last.place.syntax == MRVSourcePlace::Markdown
+        ? m_writer.escapeAfter(last.text, last.place.start, last.place.end())
+        : -1;
+    if (place >= 0) {
+        escaped.append({{place, 0, MRVSourcePlace::Plain}, QStringLiteral("\\")});
+    }
+    return escaped;
+}
+
 void MRVSourceChanges::findWays(Change *change) const
 {
     const auto leaveOut = [change](const QString &reason) {
@@ -190,7 +260,8 @@ void MRVSourceChanges::findWays(Change *change) const
         change->misfit = reason;
     };
     const bool isMarkdown = m_manuscript.format == MRVManuscript::Markdown;
-    Edits edits = editsOf(change->change);
+    const Edits raw = editsOf(change->change);
+    Edits edits = raw;
     Edits others; // with elements in place of Markdown
     // A new paragraph would need markup of its own.
     const bool splits = m_manuscript.format != MRVManuscript::PlainText
@@ -213,13 +284,23 @@ void MRVSourceChanges::findWays(Change *change) const
         others.append(other);
     }
     change->misfit = MRVSourceMisfit::tr("the new text would not be read back as it is");
-    change->ways = {edits};
+    if (isMarkdown) {
+        change->ways.append(withoutLink(edits));
+    }
+    change->ways.append(edits);
     if (isMarkdown && !change->change.format.isEmpty()) {
         change->ways.append(others);
     }
-    const Edits labelled = isMarkdown ? withLinkLabel(edits) : Edits();
-    if (!labelled.isEmpty()) {
-        change->ways.append(labelled);
+    if (isMarkdown && !raw.isEmpty()) {
+        change->ways.append(withLinkLabel(edits));
+        change->ways.append(withEscapes(raw, change->change));
+    }
+    const auto isNone = [](const Edits &way) { return way.isEmpty(); };
+    const bool isNothing = edits.isEmpty();
+    change->ways.erase(std::remove_if(change->ways.begin(), change->ways.end(), isNone),
+                       change->ways.end());
+    if (isNothing) {
+        change->ways = {edits};
     }
 }
 
@@ -413,6 +494,7 @@ QSet<int> MRVSourceChanges::differingBlocks(const QString &source) const
     QString text;
     text.reserve(m_text.size());
     QHash<int, int> linked; // characters more or less, by block
+    QHash<int, int> deleted; // links
     int done = 0;
     for (const Change &one : m_changes) {
         if (one.isIn()) {
@@ -420,12 +502,14 @@ QSet<int> MRVSourceChanges::differingBlocks(const QString &source) const
             text += one.change.after;
             done = one.change.range.end();
             linked[one.block] += one.linkedCharacters;
+            deleted[one.block] += one.deletedLinks;
         }
     }
     text += m_text.midRef(done);
     MRVParagraphs wanted = mrvParagraphs(*m_manuscript.document, text, isMarkup);
     for (MRVParagraph &paragraph : wanted) {
         paragraph.linkedCharacters += linked.value(paragraph.block);
+        paragraph.links -= deleted.value(paragraph.block);
     }
     const auto document = read(source);
     return mrvDifferingBlocks(wanted,

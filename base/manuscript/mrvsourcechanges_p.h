@@ -62,6 +62,7 @@ private:
         MRVTextChange change; // with the ends of lines that a document makes of it
         int block = 0;
         int linkedCharacters = 0; // that it adds
+        int deletedLinks = 0; // with all of their text
         State state = State::Made;
         QVector<Edits> ways; // the first one that is read back is taken
         int way = 0;
@@ -76,6 +77,8 @@ private:
     Edits editsOf(const MRVTextChange &change) const;
     MRVSourcePlace insertionPlace(int position, bool prefersBefore) const;
     Edits withLinkLabel(const Edits &edits) const;
+    Edits withoutLink(const Edits &edits) const;
+    Edits withEscapes(const Edits &raw, const MRVTextChange &change) const;
     bool suspendDiffering();
     bool suspendIn(const QSet<int> &blocks);
     void suspend(int index);

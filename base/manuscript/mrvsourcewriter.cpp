@@ -67,6 +67,35 @@ bool MRVSourceWriter::write(const QString &text, const MRVSourcePlace &place,
     return encode(place.syntax, written);
 }
 
+bool MRVSourceWriter::writeEscaped(const QString &text, const MRVSourcePlace &place,
+                                   QString *written) const
+{
+    if (place.syntax == MRVSourcePlace::Page) {
+        return write(text, place, written);
+    }
+    const bool isCode = place.syntax == MRVSourcePlace::Plain; // a table ends cells within it
+    QString escaped;
+    for (const QChar c : text) {
+        const bool isPunctuation = c.unicode() > ' ' && c.unicode() < 0x7f && !c.isLetterOrNumber();
+        if (isCode ? c == u'|' : isPunctuation) {
+            escaped += u'\\';
+        }
+        escaped += c;
+    }
+    *written = escaped;
+    return encode(place.syntax, written);
+}
+
+int MRVSourceWriter::escapeAfter(const QString &text, int start, int after) const
+{
+    constexpr int Longest = 20;
+    static const QRegularExpression beginning(
+        QStringLiteral("^[ \\t]*([0-9]{1,9}(?=[.)])|(?=[-#>+=~]))"));
+    const QRegularExpressionMatch match = beginning.match(text + m_source.midRef(after, Longest));
+    const int place = match.capturedEnd() - text.size();
+    return match.hasMatch() && place >= 0 && isAtLineStart(start) ? after + place : -1;
+}
+
 bool MRVSourceWriter::encode(MRVSourcePlace::Syntax syntax, QString *text) const
 {
     if (m_codec->canEncode(*text)) {

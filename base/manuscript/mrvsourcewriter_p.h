@@ -21,6 +21,16 @@ public:
      */
     bool write(const QString &text, const MRVSourcePlace &place, QString *written) const;
     /**
+     * The same with a backslash before all that could mean anything to Markdown, also where what
+     * stands beside the place decides that, as before a link or at the end of a heading.
+     */
+    bool writeEscaped(const QString &text, const MRVSourcePlace &place, QString *written) const;
+    /**
+     * Where a backslash keeps a line from beginning a heading, a list or a quotation, when @p text
+     * comes before the source from @p after on; -1 where no such begins.
+     */
+    int escapeAfter(const QString &text, int start, int after) const;
+    /**
      * Puts the markup of a format around what write() has written.
      *
      * @param prefersElements in Markdown elements of HTML are always understood, asterisks only
