@@ -1,5 +1,6 @@
 #include "screenplay/mrvscriptcheck.h"
 
+#include "screenplay/mrvcueparts_p.h"
 #include "screenplay/mrvfountainsyntax_p.h"
 #include "screenplay/mrvscriptcast.h"
 #include "screenplay/mrvscriptscenes.h"
@@ -23,6 +24,15 @@ public:
     {
         if (m_names.add(name) == m_lines.size()) {
             m_lines.append(line);
+        }
+    }
+
+    /** Adds each of the names that a cue joins. */
+    void addParts(const QString &cue, int line)
+    {
+        const QVector<MrvCuePart> parts = mrvCueParts(cue, cue.size());
+        for (const MrvCuePart &part : parts) {
+            add(cue.mid(part.start, part.end - part.start), line);
         }
     }
 
@@ -77,7 +87,7 @@ QVector<Fault> faultsOf(const MRVFountainScript &script, const QVector<int> &lin
         const QString text = element.text().simplified();
         const int line = lines.at(i);
         if (element.kind == Element::Character) {
-            names.add(MRVScriptCast::nameOf(text), line);
+            names.addParts(MRVScriptCast::nameOf(text), line);
             if (!isFollowedBySpeech(script.elements, i)) {
                 faults.append(
                     {Fault::SilentCue, line, 0, MRVScriptCheck::tr("'%1' says nothing").arg(text)});
