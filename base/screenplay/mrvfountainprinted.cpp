@@ -81,22 +81,35 @@ MRVFountainRuns printedRuns(const MRVFountainRuns &runs)
 
 } // namespace
 
-MRVFountainScript MRVFountainScript::printed() const
+MRVFountainScript MrvFountain::withoutPrivateText(const MRVFountainScript &script)
 {
-    const MRVFountainScript normal = normalized();
     MRVFountainScript result;
-    for (const MRVFountainTitle &title : normal.titles) {
+    for (const MRVFountainTitle &title : script.titles) {
         const MRVFountainRuns value = printedRuns(title.value);
         if (mrvIsTitleKeyPrinted(title.key) && value.isEmpty() == title.value.isEmpty()) {
             result.titles.append({title.key, value});
         }
     }
-    bool wasHidden = false;
-    for (Element element : normal.elements) {
+    for (Element element : script.elements) {
         const bool hadText = !element.runs.isEmpty();
         element.runs = printedRuns(element.runs);
         if (isOutline(element.kind)
             || (hadText && element.runs.isEmpty() && element.sceneNumber.isEmpty())) {
+            element = Element(Element::Note, QString());
+        }
+        result.elements.append(element);
+    }
+    return result;
+}
+
+MRVFountainScript MRVFountainScript::printed() const
+{
+    const MRVFountainScript open = withoutPrivateText(normalized());
+    MRVFountainScript result;
+    result.titles = open.titles;
+    bool wasHidden = false;
+    for (Element element : open.elements) {
+        if (element.kind == Element::Note) {
             wasHidden = true;
             continue;
         }

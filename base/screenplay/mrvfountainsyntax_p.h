@@ -105,6 +105,12 @@ QString withPlainLineEnds(const QString &text);
  */
 QVector<int> unmatchedMarks(const QString &plain);
 
+/**
+ * The text of a script that is printed, with each element at its index; one that is not printed is
+ * a note without text.
+ */
+MRVFountainScript withoutPrivateText(const MRVFountainScript &script);
+
 MRVFountainElement normalizedElement(const MRVFountainElement &element);
 /** Normalizes the entries of a title page; a single one without a value makes no title page. */
 void normalizeTitles(QVector<MRVFountainTitle> *titles);

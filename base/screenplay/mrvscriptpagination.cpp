@@ -1,5 +1,6 @@
 #include "screenplay/mrvscriptpagination.h"
 
+#include "screenplay/mrvfountainsyntax_p.h"
 #include "screenplay/mrvscripttypesetter_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 #include "scriptmode/mrvscriptmode.h"
@@ -939,7 +940,7 @@ MRVScriptPagination::MRVScriptPagination(const MRVFountainScript &script, const 
 MRVScriptPagination::MRVScriptPagination(const MRVFountainScript &script, const MRVScriptMode &mode,
                                          const Options &options)
 {
-    MrvScriptPaginator(script, mode, options, this).run();
+    MrvScriptPaginator(MrvFountain::withoutPrivateText(script), mode, options, this).run();
 }
 
 MRVScriptPagination::MRVScriptPagination(const MRVScriptPagination &other) = default;
