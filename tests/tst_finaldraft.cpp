@@ -66,6 +66,57 @@ private Q_SLOTS:
         QCOMPARE(QString(revised), QString(after)); // which shows where they differ
         QCOMPARE(revised, after);
     }
+
+    void changes_data() { addRows("finaldraft-changes.tsv"); }
+    // A text, a scene's number or an entry of the title page becomes another.
+    void changes()
+    {
+        const QByteArray before = encoded(cell("document"), cell("encoding"));
+        MRVFountainScript script;
+        QVERIFY(MRVFinalDraft::fromXml(before, &script));
+        const QString to = cell("to");
+        const QRegularExpression from(cell("from").isEmpty() ? "(?!)" : cell("from"));
+        for (MRVFountainElement &element : script.elements) {
+            if (element.sceneNumber == cell("from")) {
+                element.sceneNumber = to;
+            }
+            for (MRVFountainRun &run : element.runs) {
+                run.text.replace(from, to);
+                run.emphasis = cell("from") == "bold" ? MRVFountainRun::Bold : run.emphasis;
+            }
+        }
+        for (MRVFountainTitle &title : script.titles) {
+            title.value[0].text.replace(from, to);
+        }
+        script.elements.resize(script.elements.size() - (cell("from") == "last"));
+        QByteArray revised = "old";
+        QString error;
+        const QString after = cell("after");
+        QCOMPARE(MRVFinalDraft::revise(before, script, &revised, &error),
+                 !after.startsWith("line "));
+        QCOMPARE(error, after.startsWith("line ") ? after : QString());
+        QCOMPARE(QString(revised),
+                 QString(error.isEmpty() ? encoded(after, cell("encoding")) : "old"));
+    }
+
+    // Time linear in a document, and in a paragraph, of which each word changes.
+    void longDocuments()
+    {
+        constexpr int Names = 1 << 17;
+        for (const char *text : {"<Paragraph><Text>A b</Text></Paragraph>", "A "}) {
+            const QByteArray many = QByteArray(text).repeated(Names);
+            const QByteArray before = "<FinalDraft><Content><Paragraph><Text>A " + many
+                + "</Text></Paragraph></Content></FinalDraft>";
+            MRVFountainScript script;
+            QVERIFY(MRVFinalDraft::fromXml(before, &script));
+            for (MRVFountainElement &element : script.elements) {
+                element.runs[0].text.replace('A', "CD");
+            }
+            QByteArray revised;
+            QVERIFY(MRVFinalDraft::revise(before, script, &revised));
+            QCOMPARE(revised.size(), before.size() + Names + 1);
+        }
+    }
 };
 
 QTEST_MAIN(TestFinalDraft)

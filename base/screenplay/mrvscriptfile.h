@@ -27,7 +27,10 @@ class QTextCodec;
  * } else if (file.renameCharacter(QStringLiteral("Ann"), QStringLiteral("Anna"),
  *                                 MRVScriptDocument::InDialogue)
  *            > 0) {
- *     MRVFileWriter::write(path, file.revised(), &error);
+ *     const QByteArray revised = file.revised(&error);
+ *     if (revised.isEmpty() || !MRVFileWriter::write(path, revised, &error)) {
+ *         qWarning() << error;
+ *     }
  * }
  * @endcode
  *
