@@ -1,5 +1,6 @@
 #include "xhtml/mrvdocumenthtml.h"
 
+#include "document/mrvdocumentcopy.h"
 #include "text/mrvlistmarkers.h"
 #include "text/mrvnestedlists.h"
 #include "text/mrvtextlistformat.h"
@@ -176,27 +177,6 @@ void mendBorders(const QTextDocument &document)
             mendCells(*table);
         }
     }
-}
-
-// A copy that is written as the document is.
-std::unique_ptr<QTextDocument> copyOf(const QTextDocument &document)
-{
-    std::unique_ptr<QTextDocument> copy(document.clone());
-    copy->setUndoRedoEnabled(false);
-    // Qt copies neither the formats of an empty paragraph at the beginning nor its list.
-    const QTextBlock first = document.begin();
-    QTextBlockFormat format = first.blockFormat();
-    format.setObjectIndex(copy->begin().blockFormat().objectIndex());
-    QTextCursor cursor(copy.get());
-    cursor.setBlockFormat(format);
-    cursor.setBlockCharFormat(first.charFormat());
-    const QTextList *list = first.textList();
-    if (list && list->count() > 1 && !cursor.currentList()) {
-        copy->findBlockByNumber(list->item(1).blockNumber()).textList()->add(cursor.block());
-    } else if (list && !cursor.currentList()) {
-        cursor.createList(list->format());
-    }
-    return copy;
 }
 
 QString anchorHtml(const QString &name)
@@ -396,7 +376,7 @@ QString mrvDocumentHtml(const QTextDocument &document)
     if (!faults.any()) {
         return withAllNames(withListTags(document.toHtml("utf-8"), document, document), document);
     }
-    const std::unique_ptr<QTextDocument> copy = copyOf(document);
+    const std::unique_ptr<QTextDocument> copy = mrvDocumentCopy(document);
     MRVNestedLists::fromLevels(copy.get());
     if (faults.inBlocks) {
         mendBlocks(copy.get());
