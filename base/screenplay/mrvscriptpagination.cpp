@@ -195,10 +195,16 @@ void MrvScriptPaginator::addUnit(Unit::Kind kind, int first)
 void MrvScriptPaginator::collectPlain(int index)
 {
     MrvPrintedParagraph paragraph = m_setter.paragraph(m_script.elements.at(index), index);
-    if (!paragraph.lines.isEmpty()) {
-        m_paragraphs.append(paragraph);
-        addUnit(Unit::Plain, m_paragraphs.size() - 1);
+    if (paragraph.lines.isEmpty()) {
+        return;
     }
+    // A song apart from any speech stands apart from what is before it, too.
+    const bool isSong = paragraph.kind == Element::Lyrics;
+    if (isSong && !m_paragraphs.isEmpty() && m_paragraphs.constLast().kind != Element::Lyrics) {
+        paragraph.before = qMax(paragraph.before, paragraph.lineHeight);
+    }
+    m_paragraphs.append(paragraph);
+    addUnit(Unit::Plain, m_paragraphs.size() - 1);
 }
 
 bool MrvScriptPaginator::isBesideTheLast(int cue) const

@@ -227,9 +227,10 @@ MrvPrintedParagraph MrvScriptTypesetter::paragraph(const Element &element, int i
     MrvPrintedParagraph result = emptyParagraph(role);
     result.element = index;
     result.kind = element.kind;
-    append(&result,
-           element.kind == Element::Parenthetical ? mrvWithBrackets(element.runs) : element.runs,
-           role);
+    const bool hasBrackets = element.kind == Element::Parenthetical
+        || (look(role).element.hasFlag(MRVScriptElement::Parenthetical)
+            && !element.text().startsWith(u'(') && !element.text().trimmed().isEmpty());
+    append(&result, hasBrackets ? mrvWithBrackets(element.runs) : element.runs, role);
     const bool isEmptyLine = element.kind == Element::Action && element.runs.isEmpty();
     if (isEmptyLine) {
         result.before = result.after = 0;
