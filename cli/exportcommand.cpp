@@ -4,6 +4,7 @@
 #include "epub/mrvbooklist.h"
 #include "epub/mrvepubcheck.h"
 #include "epub/mrvepubpackage.h"
+#include "pdf/mrvmanuscriptpdf.h"
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
 #include "publish/mrvstagedfiles.h"
@@ -76,16 +77,49 @@ struct Options
     MRVEPubMetadata metadata;
     MRVEPubOptions book;
     QVector<MRVBookListEntry> list; // of inputs and parts
+    bool isPdf = false; // else type says what
+    MRVPrintOptions print;
 
-    bool isPackage() const { return type == MRVTextXhtmlExporter::EPub; }
+    bool isPackage() const { return !isPdf && type == MRVTextXhtmlExporter::EPub; }
+    /** Whether all inputs become one file. */
+    bool isBook() const { return isPdf || isPackage(); }
 };
+
+// Of the options that belong to pages and e-books, those that PDF documents have, too.
+int checkPrintOptions(const Call &call)
+{
+    static const QStringList own{QStringLiteral("book"), QStringLiteral("date"),
+                                 QStringLiteral("author")};
+    QStringList others{QStringLiteral("check"), QStringLiteral("no-images")};
+    for (const Rows<Option> &rows : {Rows<Option>(bookOptions), Rows<Option>(metadataOptions)}) {
+        for (const Option &row : rows) {
+            others.append(QLatin1String(row.names));
+        }
+    }
+    for (const QString &option : call.options()) {
+        if (others.contains(option) && !own.contains(option)) {
+            return usageError(QStringLiteral("--%1 is not for PDF documents").arg(option));
+        }
+    }
+    return -1;
+}
 
 // -1 to go on, else the exit code; so with all that follow.
 int readType(const Call &call, Options *options)
 {
-    if (!MRVTextXhtmlExporter::typeNamed(call.value("to"), &options->type)) {
+    options->isPdf = call.value("to") == QLatin1String("pdf");
+    if (!options->isPdf && !MRVTextXhtmlExporter::typeNamed(call.value("to"), &options->type)) {
         return usageError(
-            QStringLiteral("say with --to what to write: html, xhtml, epub, kindle or kf8"));
+            QStringLiteral("say with --to what to write: html, xhtml, epub, kindle, kf8 or pdf"));
+    }
+    if (options->isPdf) {
+        return checkPrintOptions(call);
+    }
+    for (const char *option : {"layout", "paper"}) {
+        if (call.has(option)) {
+            return usageError(
+                QStringLiteral("--%1 is for PDF documents only").arg(QLatin1String(option)));
+        }
     }
     QStringList forBooks{QStringLiteral("check")};
     for (const Rows<Option> &rows : {Rows<Option>(bookOptions), Rows<Option>(metadataOptions)}) {
@@ -134,7 +168,9 @@ int readMetadata(const Call &call, Options *options)
     QString error;
     const bool ok = readLanguage(call, &options->metadata.language, &error)
         && readMarkdownSyntax(call, call.arguments, &options->input.markdown, &error)
-        && (!options->isPackage() || readBook(call, options, &error));
+        && (!options->isBook() || readBook(call, options, &error));
+    MRVPrintOptions::layoutNamed(call.value("layout"), &options->print.layout);
+    options->print.paper = MRVPrintOptions::paperNamed(call.value("paper"));
     return ok ? -1 : usageError(error);
 }
 
@@ -154,14 +190,15 @@ int readOptions(const Call &call, Options *options)
 QStringList outputFiles(const Call &call, const Options &options)
 {
     QStringList files;
-    const bool isFolder = !options.isPackage() && call.arguments.size() > 1;
+    const bool isFolder = !options.isBook() && call.arguments.size() > 1;
+    const QString suffix =
+        options.isPdf ? QStringLiteral("pdf") : MRVTextXhtmlExporter::suffix(options.type);
     const QStringList inputs = call.has("book") ? QStringList(call.value("book")) : call.arguments;
     for (const QString &input : inputs) {
         files.append(MRVOutputFiles::fileFor(input, call.value("output"),
-                                             QStringLiteral("manuscript"),
-                                             MRVTextXhtmlExporter::suffix(options.type), isFolder));
+                                             QStringLiteral("manuscript"), suffix, isFolder));
     }
-    return options.isPackage() ? files.mid(0, 1) : files;
+    return options.isBook() ? files.mid(0, 1) : files;
 }
 
 bool spareInputs(const QStringList &outputs, const QStringList &inputs, QString *error)
@@ -203,9 +240,9 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
                      std::vector<MRVManuscript> *manuscripts, QString *error)
 {
     InputOptions reading = options.input;
-    reading.pictures = options.isPackage() || !call.has("no-images");
-    reading.pictureNames = !options.isPackage() && outputs.constFirst() == StandardOutput;
-    if (options.isPackage() && reading.missingPictures == MRVManuscriptReader::Keep) {
+    reading.pictures = options.isBook() || !call.has("no-images");
+    reading.pictureNames = !options.isBook() && outputs.constFirst() == StandardOutput;
+    if (options.isBook() && reading.missingPictures == MRVManuscriptReader::Keep) {
         reading.missingPictures = MRVManuscriptReader::Drop; // a book names no file outside of it
     }
     QStringList pictures{call.value("cover"), call.value("css"), call.value("metadata"),
@@ -344,6 +381,54 @@ bool exportPackage(const Call &call, const Options &options,
     return true;
 }
 
+// As for an e-book: what the call does not say, the first manuscript does.
+bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscripts,
+               const QString &file, QStringList *written, QString *error)
+{
+    MRVEPubMetadata metadata = options.metadata;
+    QStringList notes;
+    metadata.completeFrom(manuscripts.front(), &notes);
+    MRVPrintOptions print = options.print;
+    print.title = metadata.title;
+    for (const QString &author : qAsConst(metadata.authors)) {
+        print.authors.append(author.section(u'|', 0, 0).trimmed());
+    }
+    print.language = metadata.language;
+    print.date = metadata.modified;
+    MRVManuscriptPdf pdf(print);
+    std::size_t next = 0;
+    for (const MRVBookListEntry &entry : options.list) {
+        if (entry.isPart) {
+            pdf.addPart(entry.title);
+        } else {
+            pdf.addDocument(*manuscripts[next].document, manuscripts[next].path);
+            ++next;
+        }
+    }
+    QByteArray bytes;
+    showProgress(QStringLiteral("Writing %1").arg(file));
+    if (!pdf.toByteArray(&bytes, error)) {
+        return false;
+    }
+    const QStringList dead = pdf.deadLinks();
+    if (!dead.isEmpty()) {
+        notes.append(QStringLiteral("links that lead nowhere in the document, and are text there: "
+                                    "%1 (%2)")
+                         .arg(QString::number(dead.size()), dead.constFirst()));
+    }
+    if (pdf.wideTables() > 0) {
+        notes.append(QStringLiteral("tables that are wider than the paper, and cut off: %1")
+                         .arg(pdf.wideTables()));
+    }
+    if (!acceptLosses(options, notes, error) || !writeOutput(bytes, file, error)) {
+        return false;
+    }
+    if (file != StandardOutput) {
+        written->append(file);
+    }
+    return true;
+}
+
 QJsonArray unreadablePictures(const std::vector<MRVManuscript> &manuscripts)
 {
     QJsonArray pictures;
@@ -468,7 +553,8 @@ int run(const Call &given)
     QStringList written;
     QString error;
     const bool ok = readManuscripts(call, options, outputs, &manuscripts, &error)
-        && (options.isPackage()
+        && (options.isPdf ? exportPdf(options, manuscripts, outputs.constFirst(), &written, &error)
+                : options.isPackage()
                 ? exportPackage(call, options, manuscripts, outputs.constFirst(), &written, &error)
                 : exportPages(call, options, manuscripts, outputs, &written, &error));
     if (!ok) {
@@ -481,8 +567,8 @@ int run(const Call &given)
 constexpr Verb verbs[] = {{"", "[IN...]", "", run}};
 
 constexpr Option options[] = {
-    Option::choice("to", "TYPE", "html xhtml epub kindle kf8",
-                   "What to write: html, xhtml, epub, kindle or kf8."),
+    Option::choice("to", "TYPE", "html xhtml epub kindle kf8 pdf",
+                   "What to write: html, xhtml, epub, kindle, kf8 or pdf."),
     Option::name("o output", "FILE",
                  "Where to write: a file, or a folder that exists; - is standard output. Default: "
                  "beside the input, with the suffix of the type."),
@@ -494,6 +580,11 @@ constexpr Option options[] = {
     Option::text("title", "TEXT", "The title. Default: the title of the manuscript."),
     Option::text("language", "TAG",
                  "The language, such as en-GB. Default: that of the manuscript."),
+    Option::choice("layout", "NAME", "book manuscript",
+                   "The pages of a PDF document: book (default), or manuscript as publishers want "
+                   "it, in double-spaced Courier."),
+    Option::choice("paper", "PAPER", "letter a4 a5",
+                   "The paper of a PDF document. Default: a5 for a book, letter for a manuscript."),
     Option::flag("no-images",
                  "Leave pictures where they are, and what refers to them. (Pages only.)"),
     Option::flag("json", "Print as JSON what was written; nothing when that is standard output."),
@@ -507,13 +598,14 @@ constexpr Option options[] = {
 
 const Command exportCommand = {
     "export",
-    "write manuscripts as HTML, XHTML or e-books",
+    "write manuscripts as HTML, XHTML, e-books or PDF documents",
     "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
-    "standard input) as pages or e-books. "
-    "Several inputs become one e-book, or a page each.",
+    "standard input) as pages, e-books or PDF documents. "
+    "Several inputs become one e-book or PDF document, or a page each.",
     "export novel.html --to epub --cover cover.png -o novel.epub\n"
     "export one.md two.md --to epub --title \"Both\" -o both.epub\n"
-    "export notes.md --to xhtml -o site/notes.xhtml",
+    "export notes.md --to xhtml -o site/notes.xhtml\n"
+    "export novel.md --to pdf --layout manuscript",
     verbs,
     {options, bookOptions, metadataOptions},
 };

@@ -1,12 +1,14 @@
 #include "datarows.h"
 #include "support.h"
 
+#include "pdf/mrvmanuscriptpdf.h"
 #include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvscriptpdf.h"
 #include "screenplay/mrvscriptpagination.h"
 #include "scriptmode/mrvscriptmode.h"
 
 #include <QRandomGenerator>
+#include <QTextDocument>
 #include <QtTest>
 
 #include <algorithm>
@@ -285,6 +287,129 @@ private Q_SLOTS:
         options.character.clear();
         options.firstPage = 4;
         QVERIFY(MRVScriptPdf::toByteArray(script, builtIn(), options, &error).isEmpty());
+    }
+
+    /// All words, in each layout, and nothing wider than the paper.
+    void manuscript_data()
+    {
+        QTest::addColumn<QString>("layout");
+        QTest::newRow("book") << "book";
+        QTest::newRow("manuscript") << "manuscript";
+    }
+    void manuscript()
+    {
+        QString html = "<h1>The Book</h1>";
+        for (int i = 0; i < 4; ++i) {
+            html += QString("<h2>Chapter %1</h2>").arg(i) + withRepeats("<p>⟨90×mid№ ⟩</p>")
+                + withRepeats("<ol>⟨20×<li>item№<ul><li>inner№</li></ul></li>⟩</ol>")
+                + withRepeats("<table width='2000'><tr>⟨9×<th>Heading№</th>⟩</tr>⟨30×<tr>"
+                              "⟨9×<td>wide cell№</td>⟩</tr>⟩</table>")
+                + withRepeats("<pre>⟨40×longline№ ⟩</pre><p>⟨200×x⟩</p>")
+                + "<p style='font-variant:small-caps'>Small Capitals</p><p "
+                  "style='font-size:40pt'>Large text of several lines which needs them</p>"
+                  "<p style='margin-left:900px'>far away</p><hr>end";
+        }
+        QTextDocument document;
+        document.setHtml(html);
+        MRVPrintOptions options;
+        QVERIFY(MRVPrintOptions::layoutNamed(cell("layout"), &options.layout));
+        options.title = "the book";
+        options.hasContents = false;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QString error;
+        QVERIFY2(pdf.toByteArray(&bytes, &error), qPrintable(error));
+        QCOMPARE(pdf.wideTables(), 0);
+        // Without headers; a word that is wider than its cell continues on another line.
+        const QString read = pdfText(bytes, {"-raw"});
+        QHash<QString, int> counts;
+        for (const QString &word : wordsOf(read)) {
+            ++counts[word];
+        }
+        QStringList missing;
+        for (const QString &word : wordsOf(document.toPlainText())) {
+            if (word.size() < 30 && --counts[word] < 0) {
+                missing.append(word);
+            }
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(' ')));
+        QCOMPARE(read.count('x'), document.toPlainText().count('x'));
+    }
+
+    /// At least two lines of a paragraph on either side, and a heading with its text.
+    void orphans()
+    {
+        QString html;
+        QRandomGenerator random(1);
+        for (int i = 0; i < 400; ++i) {
+            html += i % 9 == 0 ? QString("<h3>Heading%1</h3>").arg(i) : QString("<p>");
+            const int words = random.bounded(1, 80);
+            for (int k = 0; k < words && i % 9 != 0; ++k) {
+                html += QString("p%1w%2 ").arg(i).arg(k);
+            }
+        }
+        QTextDocument document;
+        document.setHtml("<h2>a</h2><p>p0w0</p>" + html + "<h2>b</h2><p>p400w0</p>");
+        MRVPrintOptions options;
+        options.hasContents = false;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        const auto paragraph = [](const QString &line) {
+            return line.section('w', 0, 0).trimmed();
+        };
+        QStringList before;
+        int pages = 0;
+        for (const QString &page : pdfText(bytes).split('\f', Qt::SkipEmptyParts)) {
+            QStringList lines;
+            for (const QString &line : page.split('\n')) {
+                const QString text = line.simplified();
+                if (text.startsWith('p') || text.startsWith("Head")) {
+                    lines.append(text);
+                }
+            }
+            QVERIFY(!lines.isEmpty());
+            QVERIFY(!lines.constLast().startsWith("Head"));
+            if (!before.isEmpty() && paragraph(before.constLast()) == paragraph(lines.at(0))) {
+                QCOMPARE(paragraph(before.at(before.size() - 2)), paragraph(lines.at(0)));
+                QCOMPARE(paragraph(lines.at(1)), paragraph(lines.at(0)));
+            }
+            before = lines;
+            ++pages;
+        }
+        QVERIFY(pages > 20);
+    }
+
+    void manuscriptLinks()
+    {
+        QTextDocument one;
+        one.setHtml("<h1>Alpha</h1><p>See <a href='two.html#x'>there</a>, <a "
+                    "href='http://example.org'>out</a>, <a href='#nowhere'>nothing</a> and <a "
+                    "href='three.html'>none</a>.</p>");
+        QTextDocument two;
+        two.setHtml("<h1>Beta</h1><p><a name='x'>X</a></p><p><img src='data:,'></p>");
+        MRVPrintOptions options;
+        options.title = "Both";
+        options.authors = QStringList{"Ann Lee", "Bob"};
+        options.language = "de";
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(one, "/folder/one.html");
+        pdf.addPart("Teil Zwei");
+        pdf.addDocument(two, "/folder/two.html");
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        QCOMPARE(pdf.deadLinks(), (QStringList{"#nowhere", "three.html"}));
+        const QStringList pages = pdfText(bytes).split('\f');
+        QCOMPARE(pages.size(), 6);
+        QCOMPARE(pages.at(0).simplified(), QString("Both Ann Lee Bob"));
+        QCOMPARE(pages.at(1).simplified(), QString("Inhalt Alpha 1 Teil Zwei 2 Beta 3"));
+        QCOMPARE(pages.at(4).simplified(), QString("Beta X 3"));
+        const QString file = m_folder.filePath("script.pdf");
+        QVERIFY(run(programPath("pdfinfo"), {"-url", file}).output.contains("example.org"));
+        const QString shown = run(programPath("pdftohtml"), {"-xml", "-stdout", "-i", file}).output;
+        QVERIFY2(shown.contains("script.html#5\">there</a>"), qPrintable(shown));
     }
 
     void structure()

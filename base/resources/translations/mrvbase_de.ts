@@ -739,6 +739,13 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVManuscriptPdf</name>
+    <message>
+        <source>About %1 words</source>
+        <translation>Etwa %1 Wörter</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>

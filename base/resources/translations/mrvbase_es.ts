@@ -739,6 +739,13 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVManuscriptPdf</name>
+    <message>
+        <source>About %1 words</source>
+        <translation>Unas %1 palabras</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>

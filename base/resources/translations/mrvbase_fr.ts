@@ -739,6 +739,13 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVManuscriptPdf</name>
+    <message>
+        <source>About %1 words</source>
+        <translation>Environ %1 mots</translation>
+    </message>
+</context>
+<context>
     <name>MRVManuscriptReader</name>
     <message>
         <source>unknown type of file</source>

@@ -1,0 +1,707 @@
+#include "pdf/mrvprinteddocument_p.h"
+
+#include "document/mrvdocumentcopy.h"
+#include "document/mrvdocumentpictures.h"
+#include "input/mrvguardeddocument.h"
+#include "pdf/mrvpdfwriter.h"
+#include "text/mrvnestedlists.h"
+#include "textformat/mrvtextblockformat.h"
+#include "textformat/mrvtextformat.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+#include <QTextTable>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qreal Scale = MRVPdfWriter::DotsPerPoint;
+constexpr qreal PixelsPerPoint =
+    96.0 / 72; // Qt's layout scales lengths of formats from 96 to the inch
+constexpr qreal DotsPerPixel = MRVPdfWriter::DotsPerInch / 96.0;
+constexpr qreal DotsPerPrintedPixel = MRVPdfWriter::DotsPerInch / 300.0; // finer is not seen
+constexpr qreal LargestUsualMargin = 16; // in pixels: HTML's distance of paragraphs
+constexpr qreal Tolerance = 1; // in dots
+constexpr int LeastLines = 2;
+// Of a picture's format in a table, in the copy alone: the part of the width that it may have.
+constexpr int ShareProperty = QTextFormat::UserProperty + 1;
+constexpr qreal ShareWithoutPadding = 0.9;
+// Qt adds borders to the full width; the margin has space for them.
+constexpr qreal OverhangOfTables = 10 * Scale;
+
+bool isText(const QTextBlockFormat &format)
+{
+    const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
+    return !alignment || alignment == Qt::AlignLeft || alignment == Qt::AlignJustify;
+}
+
+bool hasPicture(const QTextBlock &block)
+{
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        if (it.fragment().charFormat().isImageFormat()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isPreformatted(const QTextBlock &block)
+{
+    return block.blockFormat().nonBreakableLines();
+}
+
+// All frames and tables within a frame.
+QVector<QTextFrame *> framesOf(QTextFrame *frame)
+{
+    QVector<QTextFrame *> frames{frame};
+    for (int i = 0; i < frames.size(); ++i) {
+        for (QTextFrame *child : frames.at(i)->childFrames()) {
+            frames.append(child);
+        }
+    }
+    return frames.mid(1);
+}
+
+// Whether lines of a given height would cut off something, or lie over each other.
+bool hasLargeText(const QTextBlock &block, const QFont &font)
+{
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextCharFormat format = it.fragment().charFormat();
+        const qreal pixels = format.intProperty(QTextFormat::FontPixelSize);
+        if (format.isImageFormat() || format.intProperty(QTextFormat::FontSizeAdjustment) > 0
+            || format.fontPointSize() > font.pointSizeF()
+            || pixels > font.pointSizeF() * PixelsPerPoint) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+MrvPrintedDocument::MrvPrintedDocument(const QTextDocument &original, const MrvPrintLook &look)
+    : m_original(original)
+    , m_look(look)
+    , m_copy(mrvDocumentCopy(original))
+{
+    const MRVDocumentPictures pictures(original);
+    const QVector<QTextFormat> formats = original.allFormats();
+    for (const QTextFormat &format : formats) {
+        if (!format.isImageFormat()) {
+            continue;
+        }
+        const QString id = MRVTextFormat::imageResourceId(format.toImageFormat());
+        const int index = pictures.indexOf(id);
+        if (index >= 0) {
+            m_pictureSizes.insert(id, pictures.all().at(index).size());
+        }
+    }
+    MRVNestedLists::fromLevels(m_copy.get());
+}
+
+MrvPrintedDocument::~MrvPrintedDocument() = default;
+
+QVector<int> MrvPrintedDocument::headingLevels() const
+{
+    QVector<int> levels;
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
+        if (level > 0 && !block.text().trimmed().isEmpty()) {
+            levels.append(level);
+        }
+    }
+    return levels;
+}
+
+void MrvPrintedDocument::removeHeading(const QString &text)
+{
+    const QTextBlock first = m_copy->begin();
+    const bool isSame = MRVTextBlockFormat::headingLevel(first.blockFormat()) > 0
+        && first.text().simplified().compare(text.simplified(), Qt::CaseInsensitive) == 0;
+    if (isSame && first.next().isValid() && !QTextCursor(first.next()).currentTable()) {
+        QTextCursor cursor(first);
+        cursor.setPosition(first.next().position(), QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+    }
+}
+
+// Fonts that a typewriter does not have.
+void MrvPrintedDocument::clearLook(QTextCharFormat *format)
+{
+    for (const int property :
+         {int(QTextFormat::FontFamily), int(QTextFormat::FontFamilies),
+          int(QTextFormat::FontPointSize), int(QTextFormat::FontPixelSize),
+          int(QTextFormat::FontSizeAdjustment), int(QTextFormat::ForegroundBrush),
+          int(QTextFormat::BackgroundBrush)}) {
+        format->clearProperty(property);
+    }
+}
+
+// Replaces a small capital by a capital in smaller type: painted into a PDF document, Qt's own are
+// lost.
+void MrvPrintedDocument::setSmallCapitals(QTextCursor *cursor, const QTextCharFormat &format) const
+{
+    QTextCharFormat large = format;
+    large.clearProperty(QTextFormat::FontCapitalization);
+    QTextCharFormat small = large;
+    makeSmaller(&small);
+    const QString text = cursor->selectedText();
+    for (int start = 0; start < text.size();) {
+        const bool isLower = text.at(start).isLower();
+        int end = start + 1;
+        while (end < text.size() && text.at(end).isLower() == isLower) {
+            ++end;
+        }
+        const QString piece = text.mid(start, end - start);
+        cursor->insertText(isLower ? piece.toUpper() : piece, isLower ? small : large);
+        start = end;
+    }
+}
+
+void MrvPrintedDocument::makeSmaller(QTextCharFormat *format) const
+{
+    constexpr qreal factor = 0.8;
+    if (format->hasProperty(QTextFormat::FontPixelSize)) {
+        const int pixels = format->intProperty(QTextFormat::FontPixelSize);
+        format->setProperty(QTextFormat::FontPixelSize, qMax(1, qRound(pixels * factor)));
+        return;
+    }
+    // As Qt adjusts the size of a font, which it does in seven steps only.
+    constexpr qreal adjusted[] = {0.7, 0.8, 1, 1.2, 1.5, 2, 2.4};
+    const int step = format->intProperty(QTextFormat::FontSizeAdjustment) + 2;
+    const qreal own =
+        format->fontPointSize() > 0 ? format->fontPointSize() : m_look.font.pointSizeF();
+    format->clearProperty(QTextFormat::FontSizeAdjustment);
+    format->setFontPointSize(own * adjusted[qBound(0, step, 6)] * factor);
+}
+
+void MrvPrintedDocument::restyleText(const QTextBlock &block)
+{
+    if (const QTextTable *table = QTextCursor(block).currentTable()) {
+        const QTextTableCell cell = table->cellAt(block.position());
+        setShare(block, ShareWithoutPadding * cell.columnSpan() / table->columns());
+    }
+    // The cells of a small page are narrow, and lines that an author has broken are long.
+    const bool isTight = QTextCursor(block).currentTable() || isPreformatted(block);
+    if (m_look.isManuscript) {
+        restyle(block, clearLook);
+    } else {
+        restyle(block, [this, isTight](QTextCharFormat *format) {
+            if (isTight) {
+                makeSmaller(format);
+            }
+        });
+    }
+}
+
+// For the layout, within which a document cannot be asked for its tables.
+void MrvPrintedDocument::setShare(const QTextBlock &block, qreal share)
+{
+    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        QTextCharFormat format = it.fragment().charFormat();
+        if (format.isImageFormat()) {
+            format.setProperty(ShareProperty, share);
+            changes.append({cursorOf(it.fragment()), format});
+        }
+    }
+    for (QPair<QTextCursor, QTextCharFormat> &picture : changes) {
+        picture.first.setCharFormat(picture.second);
+    }
+}
+
+QTextCursor MrvPrintedDocument::cursorOf(const QTextFragment &fragment) const
+{
+    QTextCursor cursor(m_copy.get());
+    cursor.setPosition(fragment.position());
+    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+// Lines are broken between words, so that cells of tables do not cut theirs; but an address may be
+// longer than a line.
+void MrvPrintedDocument::divideLongWords(const QTextBlock &block)
+{
+    constexpr int MostLetters = 30;
+    constexpr int Piece = 10;
+    constexpr QChar Opportunity(0x200b); // a space without width
+    const QString text = block.text();
+    QVector<int> places;
+    for (int start = 0, at = 0; at <= text.size(); ++at) {
+        if (at < text.size() && !text.at(at).isSpace()) {
+            continue;
+        }
+        for (int place = start + Piece; at - start > MostLetters && place < at; place += Piece) {
+            const bool isInside = text.at(place).isLowSurrogate() || text.at(place).isMark();
+            places.append(place - (isInside ? 1 : 0));
+        }
+        start = at + 1;
+    }
+    QTextCursor cursor(m_copy.get());
+    for (auto place = places.crbegin(); place != places.crend(); ++place) {
+        cursor.setPosition(block.position() + *place);
+        cursor.insertText(Opportunity);
+    }
+}
+
+// Changes the formats of a paragraph's text, and its small capitals.
+void MrvPrintedDocument::restyle(const QTextBlock &block, const CharFormatChange &change)
+{
+    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        QTextCharFormat format = fragment.charFormat();
+        if (format.isImageFormat()) {
+            continue;
+        }
+        change(&format);
+        if (format != fragment.charFormat() || format.fontCapitalization() == QFont::SmallCaps) {
+            changes.append({cursorOf(fragment), format});
+        }
+    }
+    for (QPair<QTextCursor, QTextCharFormat> &text : changes) {
+        if (text.second.fontCapitalization() == QFont::SmallCaps) {
+            setSmallCapitals(&text.first, text.second);
+        } else {
+            text.first.setCharFormat(text.second);
+        }
+    }
+}
+
+void MrvPrintedDocument::restyleBlock(const QTextBlock &block, bool isFirst)
+{
+    QTextBlockFormat format = block.blockFormat();
+    QTextCursor cursor(block);
+    const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
+    const bool isPlain =
+        !isHeading && !block.textList() && !cursor.currentTable() && !isPreformatted(block);
+    for (const auto &indent : {qMakePair(int(MRVTextFormat::BlockLeftIndent), true),
+                               qMakePair(int(MRVTextFormat::BlockRightIndent), false)}) {
+        const qreal length = format.doubleProperty(indent.first) * PixelsPerPoint;
+        if (length > 0 && indent.second) {
+            format.setLeftMargin(format.leftMargin() + length);
+        } else if (length > 0) {
+            format.setRightMargin(format.rightMargin() + length);
+        }
+    }
+    // Qt's layout scales all lengths to the device but this one.
+    format.setTextIndent(format.textIndent() * DotsPerPixel);
+    if (isPlain) {
+        const QTextBlock before = block.previous();
+        const bool isApart = before.textList() || QTextCursor(before).currentTable();
+        if (format.topMargin() <= LargestUsualMargin) {
+            format.setTopMargin(isApart ? m_look.lineHeight / 2 * PixelsPerPoint : 0);
+        }
+        if (format.bottomMargin() <= LargestUsualMargin) {
+            format.setBottomMargin(0);
+        }
+        if (isText(format) && format.leftMargin() <= 0 && format.textIndent() == 0
+            && (!isFirst || m_look.isManuscript)) {
+            format.setTextIndent(m_look.indent * Scale);
+        }
+    }
+    // Margins in pixels, too, were meant for a screen.
+    const qreal margins = (format.leftMargin() + format.rightMargin()) * DotsPerPixel;
+    const qreal most = m_look.text.width() / 3;
+    if (margins > most) {
+        format.setLeftMargin(format.leftMargin() * most / margins);
+        format.setRightMargin(format.rightMargin() * most / margins);
+    }
+    if (isPlain && isText(format)) {
+        format.setAlignment(m_look.isManuscript ? Qt::AlignLeft : Qt::AlignJustify);
+    }
+    if (isHeading && m_look.isManuscript) {
+        format.setAlignment(Qt::AlignHCenter);
+    }
+    const bool isLarge = m_look.isManuscript ? hasPicture(block) : hasLargeText(block, m_look.font);
+    if (!isLarge && (isPlain || (m_look.isManuscript && !cursor.currentTable()))) {
+        format.setLineHeight(m_look.lineHeight * PixelsPerPoint, QTextBlockFormat::FixedHeight);
+    }
+    format.clearProperty(QTextFormat::BlockNonBreakableLines); // they would leave the paper
+    cursor.setBlockFormat(format);
+}
+
+// Widths in pixels were meant for a screen, and may be wider than the paper.
+void MrvPrintedDocument::restyleFrame(QTextFrame *frame)
+{
+    const auto isTooWide = [this](const QTextLength &length) {
+        return length.type() == QTextLength::FixedLength
+            && length.rawValue() * DotsPerPixel > m_look.text.width();
+    };
+    auto *table = qobject_cast<QTextTable *>(frame);
+    QTextFrameFormat format = frame->frameFormat();
+    if (isTooWide(format.width())) {
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        frame->setFrameFormat(format);
+    }
+    if (table) {
+        QTextTableFormat look = table->format();
+        const QVector<QTextLength> columns = look.columnWidthConstraints();
+        const bool isFixed = std::any_of(columns.cbegin(), columns.cend(), [](const auto &width) {
+            return width.type() == QTextLength::FixedLength;
+        });
+        if (isFixed) {
+            look.clearColumnWidthConstraints();
+            table->setFormat(look);
+        }
+    }
+}
+
+void MrvPrintedDocument::restyle()
+{
+    m_copy->setDefaultFont(m_look.font);
+    m_copy->setDocumentMargin(0);
+    const QVector<QTextFrame *> frames = framesOf(m_copy->rootFrame());
+    for (QTextFrame *frame : frames) {
+        restyleFrame(frame);
+    }
+    QTextCursor edit(m_copy.get());
+    edit.beginEditBlock();
+    // The first paragraph after a heading, a blank or a rule has no indent.
+    bool isFirst = true;
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        const QTextBlockFormat format = block.blockFormat();
+        const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
+        const bool hasRule = format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+        const bool isBlank = block.text().trimmed().isEmpty();
+        restyleText(block);
+        divideLongWords(block);
+        restyleBlock(block, isFirst);
+        isFirst = isHeading || hasRule || isBlank || !isText(format) || hasPicture(block);
+    }
+    edit.endEditBlock();
+}
+
+QSizeF MrvPrintedDocument::intrinsicSize(QTextDocument *, int, const QTextFormat &format)
+{
+    const QTextImageFormat image = format.toImageFormat();
+    QSizeF size = m_pictureSizes.value(MRVTextFormat::imageResourceId(image));
+    const QSizeF natural = size;
+    const qreal width = image.width();
+    const qreal height = image.height();
+    if (width > 0) {
+        size = QSizeF(width, natural.width() > 0 ? width * natural.height() / natural.width() : 0);
+    }
+    if (height > 0) {
+        const qreal fitting =
+            natural.height() > 0 ? height * natural.width() / natural.height() : 0;
+        size = QSizeF(width > 0 ? width : fitting, height);
+    }
+    size *= DotsPerPixel;
+    if (size.isEmpty()) {
+        return QSizeF(0, 0);
+    }
+    const qreal share =
+        format.hasProperty(ShareProperty) ? format.doubleProperty(ShareProperty) : 1;
+    // A line below a picture must still fit.
+    const QSizeF most(m_look.text.width() * share,
+                      m_look.text.height() - 2 * m_look.lineHeight * Scale);
+    return size.width() > most.width() || size.height() > most.height()
+        ? size.scaled(most, Qt::KeepAspectRatio)
+        : size;
+}
+
+void MrvPrintedDocument::drawObject(QPainter *painter, const QRectF &area, QTextDocument *, int,
+                                    const QTextFormat &format)
+{
+    if (area.isEmpty()) {
+        return;
+    }
+    QImage image = MRVGuardedDocument::picture(m_original, QUrl(format.toImageFormat().name()));
+    const QSize most = (area.size() / DotsPerPrintedPixel).toSize();
+    if (image.width() > most.width() || image.height() > most.height()) {
+        image = image.scaled(most, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    if (!image.isNull()) {
+        painter->drawImage(area, image);
+    }
+}
+
+void MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
+{
+    restyle();
+    QAbstractTextDocumentLayout *layout = m_copy->documentLayout();
+    layout->setPaintDevice(device);
+    layout->registerHandler(QTextFormat::ImageObject, this);
+    setWrapMode(QTextOption::WordWrap);
+    m_copy->setTextWidth(m_look.text.width());
+    layout->documentSize(); // lays out all of it
+    shrinkTables();
+    collect(m_copy->rootFrame(), chapterLevel);
+    if (!m_boxes.isEmpty()) {
+        m_boxes.first().beginsChapter = true;
+    }
+    divide();
+    collectPlaces();
+}
+
+void MrvPrintedDocument::setWrapMode(QTextOption::WrapMode mode)
+{
+    QTextOption option = m_copy->defaultTextOption();
+    option.setWrapMode(mode);
+    m_copy->setDefaultTextOption(option);
+}
+
+QVector<QTextTable *> MrvPrintedDocument::wideTablesNow() const
+{
+    QVector<QTextTable *> tables;
+    const QVector<QTextFrame *> frames = framesOf(m_copy->rootFrame());
+    for (QTextFrame *frame : frames) {
+        auto *table = qobject_cast<QTextTable *>(frame);
+        const QRectF area = m_copy->documentLayout()->frameBoundingRect(frame);
+        if (table && area.right() > m_look.text.width() + OverhangOfTables) {
+            tables.append(table);
+        }
+    }
+    return tables;
+}
+
+// Qt lets a table whose words need more than the width leave the paper.
+void MrvPrintedDocument::shrinkTables()
+{
+    constexpr int MostSteps = 4; // to less than half the size
+    QVector<QTextTable *> tables = wideTablesNow();
+    for (int step = 0; step < MostSteps && !tables.isEmpty(); ++step) {
+        QTextCursor edit(m_copy.get());
+        edit.beginEditBlock();
+        for (const QTextTable *table : qAsConst(tables)) {
+            shrinkTable(*table);
+        }
+        edit.endEditBlock();
+        m_copy->documentLayout()->documentSize();
+        tables = wideTablesNow();
+    }
+    if (!tables.isEmpty()) {
+        setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        m_copy->documentLayout()->documentSize();
+        tables = wideTablesNow();
+    }
+    m_wideTables = tables.size();
+}
+
+void MrvPrintedDocument::shrinkTable(const QTextTable &table)
+{
+    const int end = table.lastPosition();
+    for (QTextBlock block = m_copy->findBlock(table.firstPosition());
+         block.isValid() && block.position() <= end; block = block.next()) {
+        restyle(block, [this](QTextCharFormat *format) { makeSmaller(format); });
+    }
+}
+
+void MrvPrintedDocument::collectBlock(const QTextBlock &block, int chapterLevel)
+{
+    const QTextBlockFormat format = block.blockFormat();
+    const int level = MRVTextBlockFormat::headingLevel(format);
+    const bool isHeading = level > 0 && !block.text().trimmed().isEmpty();
+    const bool isChapter = isHeading && level <= chapterLevel;
+    const QTextBlockFormat before = block.previous().blockFormat();
+    const bool breaks = isChapter
+        || (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore)
+        || (before.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysAfter);
+    const QTextLayout *lines = block.layout();
+    const QRectF area = m_copy->documentLayout()->blockBoundingRect(block);
+    for (int i = 0; i < lines->lineCount(); ++i) {
+        const QTextLine line = lines->lineAt(i);
+        Box box;
+        box.top = area.top() + line.y();
+        box.bottom = box.top + line.height();
+        box.line = i;
+        box.lineCount = lines->lineCount();
+        box.keepsWithNext = isHeading;
+        box.breaksBefore = i == 0 && breaks;
+        box.beginsChapter = i == 0 && isChapter;
+        m_boxes.append(box);
+    }
+    if (lines->lineCount() > 0
+        && format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth)) {
+        m_boxes.last().bottom = qMax(m_boxes.constLast().bottom, area.bottom()) + Scale;
+    }
+}
+
+// What stands side by side cannot be divided where one of it has a line.
+void MrvPrintedDocument::collectRow(const QVector<QTextBlock> &blocks, qreal padding)
+{
+    const int first = m_boxes.size();
+    for (const QTextBlock &block : blocks) {
+        collectBlock(block, 0);
+    }
+    if (m_boxes.size() == first) {
+        return;
+    }
+    std::sort(m_boxes.begin() + first, m_boxes.end(),
+              [](const Box &a, const Box &b) { return a.top < b.top; });
+    QVector<Box> joined;
+    qreal bottom = m_boxes.at(first).bottom;
+    for (int i = first; i < m_boxes.size(); ++i) {
+        Box box = m_boxes.at(i);
+        box.line = 0;
+        box.lineCount = 1;
+        box.keepsWithNext = box.breaksBefore = box.beginsChapter = false;
+        bottom = qMax(bottom, box.bottom);
+        if (!joined.isEmpty() && box.top < joined.constLast().bottom - Tolerance) {
+            joined.last().bottom = qMax(joined.constLast().bottom, box.bottom);
+        } else {
+            joined.append(box);
+        }
+    }
+    joined.first().top -= padding;
+    joined.last().bottom += padding;
+    m_boxes.resize(first);
+    const qreal height = joined.constLast().bottom - joined.constFirst().top;
+    if (height <= m_look.text.height()) {
+        joined.first().bottom = joined.constLast().bottom;
+        joined.resize(1);
+    }
+    m_boxes += joined;
+}
+
+void MrvPrintedDocument::collectTable(QTextTable *table)
+{
+    const QTextTableFormat format = table->format();
+    const qreal padding = (format.cellPadding() + format.border()) * DotsPerPixel;
+    QVector<QTextBlock> blocks;
+    int end = 0; // of the rows that cells of the row so far reach into
+    for (int row = 0; row < table->rows(); ++row) {
+        for (int column = 0; column < table->columns(); ++column) {
+            const QTextTableCell cell = table->cellAt(row, column);
+            if (cell.row() != row || cell.column() != column) {
+                continue;
+            }
+            end = qMax(end, row + cell.rowSpan());
+            const int last = m_copy->findBlock(cell.lastPosition()).blockNumber();
+            for (QTextBlock block = m_copy->findBlock(cell.firstPosition());
+                 block.isValid() && block.blockNumber() <= last; block = block.next()) {
+                blocks.append(block);
+            }
+        }
+        if (row + 1 >= end) {
+            collectRow(blocks, padding);
+            blocks.clear();
+            if (!m_boxes.isEmpty() && end < table->rows()
+                && row < qMax(1, format.headerRowCount())) {
+                m_boxes.last().keepsWithNext = true; // the head of the table
+            }
+        }
+    }
+}
+
+void MrvPrintedDocument::collect(QTextFrame *frame, int chapterLevel)
+{
+    for (auto it = frame->begin(); !it.atEnd(); ++it) {
+        if (auto *table = qobject_cast<QTextTable *>(it.currentFrame())) {
+            collectTable(table);
+        } else if (it.currentFrame()) {
+            collect(it.currentFrame(), chapterLevel);
+        } else {
+            collectBlock(it.currentBlock(), chapterLevel);
+        }
+    }
+}
+
+bool MrvPrintedDocument::mayBreakBefore(int index) const
+{
+    const Box &box = m_boxes.at(index);
+    return !m_boxes.at(index - 1).keepsWithNext
+        && (box.line == 0 || (box.line >= LeastLines && box.lineCount - box.line >= LeastLines));
+}
+
+void MrvPrintedDocument::divide()
+{
+    for (int first = 0; first < m_boxes.size();) {
+        const bool begins = m_boxes.at(first).beginsChapter;
+        const qreal top = m_boxes.at(first).top;
+        const qreal height = m_look.text.height() - (begins ? m_look.chapterTop : 0) + Tolerance;
+        int end = first + 1; // what is too high has a page for itself
+        while (end < m_boxes.size() && !m_boxes.at(end).breaksBefore
+               && m_boxes.at(end).bottom - top <= height) {
+            ++end;
+        }
+        if (end < m_boxes.size() && !m_boxes.at(end).breaksBefore) {
+            int best = end;
+            while (best > first && !mayBreakBefore(best)) {
+                --best;
+            }
+            end = best > first ? best : end;
+        }
+        m_pages.append({top, m_boxes.at(end - 1).bottom, begins});
+        first = end;
+    }
+}
+
+void MrvPrintedDocument::collectLink(const QTextBlock &block, int start, int end,
+                                     const QString &address)
+{
+    const QTextLayout *lines = block.layout();
+    const QPointF origin = m_copy->documentLayout()->blockBoundingRect(block).topLeft();
+    for (int i = 0; i < lines->lineCount(); ++i) {
+        const QTextLine line = lines->lineAt(i);
+        const int from = qMax(start, line.textStart());
+        const int to = qMin(end, line.textStart() + line.textLength());
+        if (from < to) {
+            const QPointF corner(line.cursorToX(from), line.y());
+            const QPointF other(line.cursorToX(to), line.y() + line.height());
+            const QRectF shown = QRectF(corner + origin, other + origin).normalized();
+            m_links.append({shown.top(), shown, address});
+        }
+    }
+}
+
+void MrvPrintedDocument::collectPlaces()
+{
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        const QRectF area = m_copy->documentLayout()->blockBoundingRect(block);
+        const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
+        const QString text = block.text().simplified();
+        if (level > 0 && !text.isEmpty()) {
+            m_headings.append({area.top() + block.layout()->lineAt(0).y(), level, text});
+        }
+        QString address;
+        int start = 0;
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const QTextCharFormat format = fragment.charFormat();
+            const int at = fragment.position() - block.position();
+            const QStringList names = format.anchorNames();
+            for (const QString &name : names) {
+                const QTextLine line = block.layout()->lineForTextPosition(at);
+                m_targets.append({area.top() + (line.isValid() ? line.y() : 0), name});
+            }
+            if (format.anchorHref() != address) {
+                if (!address.isEmpty()) {
+                    collectLink(block, start, at, address);
+                }
+                address = format.anchorHref();
+                start = at;
+            }
+        }
+        if (!address.isEmpty()) {
+            collectLink(block, start, block.length() - 1, address);
+        }
+    }
+    // Cells of a table stand side by side.
+    const auto isHigher = [](const auto &a, const auto &b) { return a.y < b.y; };
+    std::stable_sort(m_headings.begin(), m_headings.end(), isHigher);
+    std::stable_sort(m_targets.begin(), m_targets.end(), isHigher);
+    std::stable_sort(m_links.begin(), m_links.end(), isHigher);
+}
+
+void MrvPrintedDocument::paint(QPainter *painter, const MrvPrintedPage &page) const
+{
+    painter->save();
+    painter->translate(0, -page.top);
+    QAbstractTextDocumentLayout::PaintContext context;
+    // Lines that only touch the edge belong to the pages before and after.
+    const qreal left = -m_look.text.left();
+    context.clip = QRectF(left, page.top + Tolerance, m_look.paper.width(),
+                          page.bottom - page.top - 2 * Tolerance);
+    context.palette.setColor(QPalette::Text, Qt::black);
+    painter->setClipRect(context.clip.adjusted(0, -Scale, 0, Scale));
+    m_copy->documentLayout()->draw(painter, context);
+    painter->restore();
+}

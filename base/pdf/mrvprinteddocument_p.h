@@ -1,0 +1,136 @@
+#pragma once
+
+#include "pdf/mrvprintlook_p.h"
+
+#include <QHash>
+#include <QRectF>
+#include <QString>
+#include <QTextObjectInterface>
+#include <QTextOption>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+
+class QPaintDevice;
+class QPainter;
+class QTextBlock;
+class QTextCharFormat;
+class QTextCursor;
+class QTextDocument;
+class QTextFragment;
+class QTextFrame;
+class QTextTable;
+
+/** What stands on a page of a document: from #top up to #bottom, in the document's own dots. */
+struct MrvPrintedPage
+{
+    qreal top;
+    qreal bottom;
+    bool beginsChapter;
+};
+
+/** A place of a document, by its distance from the document's beginning. */
+struct MrvPrintedHeading
+{
+    qreal y;
+    int level;
+    QString text;
+};
+struct MrvPrintedTarget
+{
+    qreal y;
+    QString name;
+};
+struct MrvPrintedLink
+{
+    qreal y;
+    QRectF area;
+    QString address;
+};
+
+/**
+ * A copy of a document that is laid out for paper: as one long column, which is then divided.
+ *
+ * Qt's own pages know neither orphans nor headings, and cannot begin lower down.
+ */
+class MrvPrintedDocument : public QObject, public QTextObjectInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    MrvPrintedDocument(const QTextDocument &original, const MrvPrintLook &look);
+    ~MrvPrintedDocument() override;
+
+    /** The levels of the headings, in order. */
+    QVector<int> headingLevels() const;
+    /** Leaves out the first paragraph where it is a heading with this text. */
+    void removeHeading(const QString &text);
+    /** Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings that begin a page. */
+    void layOut(QPaintDevice *device, int chapterLevel);
+
+    const QVector<MrvPrintedPage> &pages() const { return m_pages; }
+    const QVector<MrvPrintedHeading> &headings() const { return m_headings; }
+    const QVector<MrvPrintedTarget> &targets() const { return m_targets; }
+    const QVector<MrvPrintedLink> &links() const { return m_links; }
+    /** How many tables do not fit on the paper, however small their type. */
+    int wideTables() const { return m_wideTables; }
+
+    /** Paints a page's part, with its top where the painter has its origin. */
+    void paint(QPainter *painter, const MrvPrintedPage &page) const;
+
+    QSizeF intrinsicSize(QTextDocument *document, int position, const QTextFormat &format) override;
+    void drawObject(QPainter *painter, const QRectF &area, QTextDocument *document, int position,
+                    const QTextFormat &format) override;
+
+private:
+    using CharFormatChange = std::function<void(QTextCharFormat *)>;
+
+    // What no page break divides, from top to bottom.
+    struct Box
+    {
+        qreal top;
+        qreal bottom;
+        int line = 0; // of its paragraph
+        int lineCount = 1;
+        bool keepsWithNext = false;
+        bool breaksBefore = false;
+        bool beginsChapter = false;
+    };
+
+    void restyle();
+    void restyleFrame(QTextFrame *frame);
+    void restyleBlock(const QTextBlock &block, bool isFirst);
+    void restyleText(const QTextBlock &block);
+    void restyle(const QTextBlock &block, const CharFormatChange &change);
+    void setShare(const QTextBlock &block, qreal share);
+    QTextCursor cursorOf(const QTextFragment &fragment) const;
+    static void clearLook(QTextCharFormat *format);
+    void makeSmaller(QTextCharFormat *format) const;
+    void setSmallCapitals(QTextCursor *cursor, const QTextCharFormat &format) const;
+    void divideLongWords(const QTextBlock &block);
+    void setWrapMode(QTextOption::WrapMode mode);
+    QVector<QTextTable *> wideTablesNow() const;
+    void shrinkTables();
+    void shrinkTable(const QTextTable &table);
+    void collect(QTextFrame *frame, int chapterLevel);
+    void collectBlock(const QTextBlock &block, int chapterLevel);
+    void collectTable(QTextTable *table);
+    void collectRow(const QVector<QTextBlock> &blocks, qreal padding);
+    void collectPlaces();
+    void collectLink(const QTextBlock &block, int start, int end, const QString &address);
+    void divide();
+    bool mayBreakBefore(int box) const;
+
+    const QTextDocument &m_original;
+    const MrvPrintLook &m_look;
+    std::unique_ptr<QTextDocument> m_copy;
+    QHash<QString, QSize> m_pictureSizes; // in pixels, by resource id
+    int m_wideTables = 0;
+    QVector<Box> m_boxes;
+    QVector<MrvPrintedPage> m_pages;
+    QVector<MrvPrintedHeading> m_headings;
+    QVector<MrvPrintedTarget> m_targets;
+    QVector<MrvPrintedLink> m_links;
+};
