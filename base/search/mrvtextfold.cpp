@@ -1,6 +1,7 @@
 #include "search/mrvtextfold_p.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
@@ -167,6 +168,8 @@ public:
             const QChar c = m_pattern.at(m_at);
             if (c == QLatin1Char('\\')) {
                 takeEscape();
+            } else if (m_class >= 0 && isRange()) {
+                takeRange();
             } else if (m_isQuoted || c.unicode() >= 0x80) {
                 takeLetter();
             } else if (m_class < 0 && c == QLatin1Char('[')) {
@@ -210,6 +213,34 @@ private:
         }
         emitLetter(letter);
         m_at = end;
+    }
+
+    // Of literal characters, one of which may be folded.
+    bool isRange() const
+    {
+        const QStringView range = QStringView(m_pattern).mid(m_at, 3);
+        return !m_isQuoted && range.size() == 3 && range.at(1) == u'-' && range.at(0) <= range.at(2)
+            && range.at(2).unicode() >= 0x80 && !range.at(0).isSurrogate()
+            && !range.at(2).isSurrogate() && accentAfter(m_at + 3) == 0;
+    }
+
+    // All of a range stays, as folded ends would leave another one; what its characters are folded
+    // to is added.
+    void takeRange()
+    {
+        const ushort last = m_pattern.at(m_at + 2).unicode();
+        QSet<QString> known;
+        uint code = m_pattern.at(m_at).unicode();
+        copy(3);
+        for (; code <= last; ++code) {
+            const QString letter(QChar{ushort(code)});
+            const QString folded =
+                needsFolding(letter.at(0), m_options) ? foldLetter(letter, m_options) : letter;
+            if (folded != letter && !known.contains(folded)) {
+                known.insert(folded);
+                emitLetter(letter);
+            }
+        }
     }
 
     void takeEscape()
