@@ -161,7 +161,10 @@ int run(const Call &call)
             lines = std::make_unique<MRVSourceLines>(manuscript);
         }
         showProgress(QString());
-        printFinds(call, {manuscript.path, manuscript.document.get(), lines.get()}, finds);
+        // A count of some of the matches would be taken for that of all.
+        if (outcome.isComplete() || !call.has("count")) {
+            printFinds(call, {manuscript.path, manuscript.document.get(), lines.get()}, finds);
+        }
         if (!outcome.isComplete()) {
             *reason = QStringLiteral("%1: %2").arg(manuscript.path, outcome.text());
         }

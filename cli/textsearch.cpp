@@ -61,6 +61,7 @@ bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
     query->ignoreTypography = call.has("loose");
     query->ignoreAccents = call.has("ignore-accents");
     query->acrossParagraphs = call.has("across");
+    query->timeLimit = int(call.number("time-limit", 0)) * 1000;
     for (const auto &row : flagRows) {
         if (call.has(row.option)) {
             query->flags |= row.flags;

@@ -26,6 +26,8 @@ constexpr Option searchOptions[] = {
     Option::flag("across",
                  "Let matches go on over ends of paragraphs: \\n in an expression; ^ and $ are the "
                  "start and end of each paragraph."),
+    Option::integer("time-limit", "SECONDS", 1, 86400,
+                    "Give up when the search in an input takes longer. Default: no limit."),
     Option::flag("links", "Only text that is a link."),
     Option::flag("highlights", "Only highlighted text."),
     Option::name("colour color", "COLOUR",
