@@ -108,11 +108,17 @@ int show(const Call &call)
     return showMode(mode, call);
 }
 
+bool isScript(const Call &call, const QString &file)
+{
+    return call.has("from") || file == QLatin1String("-")
+        || MRVScriptFile::formatOfFile(file) != MRVScriptFile::UnknownFormat;
+}
+
 int check(const Call &call)
 {
     bool clean = true;
     for (const QString &file : call.arguments) {
-        if (call.has("from") || MRVScriptFile::formatOfFile(file) != MRVScriptFile::UnknownFormat) {
+        if (isScript(call, file)) {
             clean = checkScript(call, file) == Done && clean;
             continue;
         }
@@ -144,8 +150,8 @@ constexpr Verb verbs[] = {
      "Of scripts, prints notes and cut text that do not end, cues without speech, and cues and "
      "places that are one letter apart or spelled in two ways, with their lines. Of mode files, "
      "prints what could not be read as it stands, titles that are missing, used twice or lead "
-     "nowhere, and elements whose paragraphs look the same. Exit code 1: something was printed, or "
-     "a file was refused."},
+     "nowhere, and elements whose paragraphs look the same. - is a script on standard input. Exit "
+     "code 1: something was printed, or a file was refused."},
     {"convert", "IN", "convert a script: Fountain, HTML, Final Draft, EPUB, PDF", runScriptConvert,
      "Converts Fountain, pages and Final Draft documents into each other, into e-books, and into "
      "PDF documents as scripts are printed. - is standard input. The pages that can be read are "
