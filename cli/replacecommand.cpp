@@ -191,6 +191,7 @@ struct Changed
     QByteArray after;
     int count = 0;
     QVector<MRVSourceMisfit> misfits;
+    QStringList brokenLinks;
     QString backup;
 };
 
@@ -214,7 +215,7 @@ bool write(const Options &options, Changed *changed, QString *error)
     return MRVFileWriter::write(changed->target, changed->after, error);
 }
 
-void reportMisfits(const Options &options, const Changed &changed)
+void reportNotes(const Options &options, const Changed &changed)
 {
     for (const MRVSourceMisfit &misfit : changed.misfits) {
         if (options.json) {
@@ -225,6 +226,11 @@ void reportMisfits(const Options &options, const Changed &changed)
         } else {
             printError(QStringLiteral("note: %1: %2").arg(changed.path, misfit.text()));
         }
+    }
+    for (const QString &address : changed.brokenLinks) {
+        printError(QStringLiteral("note: %1: the heading that links to %2 lead to has another name "
+                                  "now")
+                       .arg(changed.path, address));
     }
 }
 
@@ -265,7 +271,8 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
         return false;
     }
     Changed changed{
-        path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}, {}};
+        path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}, {},
+        {}};
     if (options.dryRun) {
         showProgress(QString());
         printPreview(options, manuscript, changes);
@@ -275,7 +282,8 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     QString reason;
     if ((!changes.isEmpty() || manuscript.isConverted())
         && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason,
-                                        options.skip ? &changed.misfits : nullptr)) {
+                                        options.skip ? &changed.misfits : nullptr,
+                                        &changed.brokenLinks)) {
         *error = QStringLiteral("%1: %2; nothing was changed").arg(path, reason);
         return false;
     }
@@ -307,7 +315,7 @@ int run(const Call &call)
     int count = 0;
     for (auto changed = all.begin(); ok && changed != all.end(); ++changed) {
         count += changed->count;
-        reportMisfits(options, *changed);
+        reportNotes(options, *changed);
         if (!options.dryRun) {
             ok = write(options, &*changed, &error);
             showProgress(QString());

@@ -4,6 +4,7 @@
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvparagraphs_p.h"
 #include "manuscript/mrvsourceplaces_p.h"
+#include "textformat/mrvtextformat.h"
 #include "util/mrvmarkupcharacters.h"
 
 #include <QRegularExpression>
@@ -85,6 +86,29 @@ int deletedLinks(const QTextDocument &document, const MRVTextChange &change)
     end(block.position() + block.length() - 1);
     return count;
 }
+
+// The names of places in a document, and the addresses within it that its links have.
+struct Names
+{
+    explicit Names(const QTextDocument &document)
+    {
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextCharFormat format = it.fragment().charFormat();
+                const QString address = format.anchorHref();
+                for (const QString &name : format.anchorNames()) {
+                    places.insert(name);
+                }
+                if (address.startsWith(u'#') && !links.contains(address)) {
+                    links.append(address);
+                }
+            }
+        }
+    }
+
+    QSet<QString> places;
+    QStringList links;
+};
 
 } // namespace
 
@@ -430,6 +454,30 @@ QString MRVSourceChanges::edited() const
         done = qMax(done, edit.place.end());
     }
     return result + m_source.midRef(done);
+}
+
+QStringList MRVSourceChanges::brokenLinks(const QString &source) const
+{
+    const bool mayBreak =
+        std::any_of(m_changes.cbegin(), m_changes.cend(), [this](const Change &one) {
+            const QTextBlock block = m_manuscript.document->findBlockByNumber(one.block);
+            return one.isIn()
+                && block.blockFormat().hasProperty(MRVTextFormat::HeadingLevelProperty);
+        });
+    const auto document = mayBreak ? read(source) : nullptr;
+    if (!document) {
+        return QStringList();
+    }
+    const QSet<QString> before = Names(*m_manuscript.document).places;
+    const Names names(*document);
+    QStringList broken;
+    for (const QString &address : names.links) {
+        const QString name = address.mid(1);
+        if (before.contains(name) && !names.places.contains(name)) {
+            broken.append(address);
+        }
+    }
+    return broken;
 }
 
 bool MRVSourceChanges::writeWhole(QString *text) const

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QMap>
 #include <QSet>
+#include <QStringList>
 #include <QTextDocument>
 #include <QVector>
 
@@ -37,6 +38,12 @@ public:
     QString edited() const;
     /** Those that are left out. */
     QVector<MRVSourceMisfit> misfits() const;
+
+    /**
+     * Addresses ("#name") of links in a source, in order, that lead nowhere there and led somewhere
+     * in the document: a heading of Markdown is named by its text.
+     */
+    QStringList brokenLinks(const QString &source) const;
 
     /**
      * The whole document with all changes, written by Qt with the line ends of the source.

@@ -45,7 +45,8 @@ QByteArray encoded(const QString &source, const MRVManuscript &manuscript)
 
 bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
                                  const QVector<MRVTextChange> &wanted, Mode mode, QByteArray *bytes,
-                                 QString *error, QVector<MRVSourceMisfit> *misfits)
+                                 QString *error, QVector<MRVSourceMisfit> *misfits,
+                                 QStringList *brokenLinks)
 {
     if (manuscript.isConverted()) {
         return MRV::fail(error, tr("a file of a word processor is read, but not changed"));
@@ -89,6 +90,9 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
     }
     if (misfits) {
         *misfits = found;
+    }
+    if (brokenLinks) {
+        *brokenLinks = changes.brokenLinks(text);
     }
     *bytes = result;
     return true;

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QStringList>
 #include <QVector>
 
 struct MRVManuscript;
@@ -44,6 +45,8 @@ public:
      *                   file; untouched on success.
      * @param misfits    if given, receives the changes that are left out since they do not fit, in
      *                   document order; else one of them is a failure.
+     * @param brokenLinks if given, receives the addresses ("#name") of links that lead nowhere now,
+     *                   since the heading that they led to has another text, in document order.
      * @return false when a change does not fit, when one has a format and something else than HTML
      *         is written as a whole, when the changes overlap or belong to another text,
      *         when the bytes are not what their encoding would write, and where
@@ -51,5 +54,6 @@ public:
      */
     static bool changedBytes(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes,
                              Mode mode, QByteArray *bytes, QString *error = nullptr,
-                             QVector<MRVSourceMisfit> *misfits = nullptr);
+                             QVector<MRVSourceMisfit> *misfits = nullptr,
+                             QStringList *brokenLinks = nullptr);
 };
