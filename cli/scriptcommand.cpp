@@ -178,7 +178,8 @@ constexpr Verb verbs[] = {
      "nothing do not count. Exit code 1: they differ."},
     {"rename", "OLD NEW IN", "rename a character", runScriptRename,
      "Renames a character in the cues and, on request, elsewhere, and writes the script in its own "
-     "format; other lines of Fountain stay as they are. - is standard input. Exit code 1: no "
+     "format. Other lines of Fountain stay as they are, and all of a Final Draft document but the "
+     "characters of the name, its lists of names included. - is standard input. Exit code 1: no "
      "character has that name."},
 };
 

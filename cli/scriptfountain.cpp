@@ -56,9 +56,12 @@ bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, 
 namespace {
 
 // After the script was written, which may fail.
-void printLosses(const QString &path, const MRVScriptFile &file)
+void printLosses(const QString &path, const MRVScriptFile &file, Format to)
 {
-    const QStringList losses = file.losses();
+    QStringList losses = file.losses();
+    if (file.format() == MRVScriptFile::FinalDraft && to == MRVScriptFile::FinalDraft) {
+        losses.append(QStringLiteral("settings, layout and lists are those of a new document"));
+    }
     for (const QString &loss : losses) {
         printError(QStringLiteral("%1: %2").arg(path, loss));
     }
@@ -224,7 +227,7 @@ int runScriptConvert(const Call &call)
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }
-    printLosses(options.input, script);
+    printLosses(options.input, script, options.to);
     if (options.output != StandardStream && options.json) {
         printJson(
             {{QStringLiteral("path"), options.output}, {QStringLiteral("bytes"), bytes.size()}});

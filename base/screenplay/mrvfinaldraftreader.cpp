@@ -41,14 +41,21 @@ constexpr struct
     {"Outline Body", Element::Synopsis, 1, true},
 };
 
+// What the names in a style mean.
 constexpr struct
 {
     const char *name;
-    Run::Style style;
-} emphases[] = {{"Bold", Run::Bold}, {"Italic", Run::Italic}, {"Underline", Run::Underline}};
-
-const QLatin1String Capitals("AllCaps");
-const QLatin1String Strikeout("Strikeout");
+    Run::Style emphasis;
+    bool isCapitals;
+    bool isCut;
+} styles[] = {
+    {"Bold", Run::Bold, false, false},
+    {"Italic", Run::Italic, false, false},
+    {"Underline", Run::Underline, false, false},
+    {"AllCaps", Run::Style(0), true, false},
+    {"Strikeout", Run::Style(0), false, true},
+    {"Strikethrough", Run::Style(0), false, true}, // as some programs call it
+};
 
 Pieces asNote(Pieces pieces)
 {
@@ -133,6 +140,7 @@ private:
     void endNote();
     void endParagraph();
     void startText();
+    void readLook();
     void addText();
     void addPiece(Piece piece);
     bool countsText() const { return m_omittedDepth == 0 && !m_inTitles && m_at.dualCues < 0; }
@@ -253,25 +261,31 @@ void FinalDraftReader::startText()
         beginParagraph();
     }
     m_at.hasContent = true;
+    readLook();
+    const QString revision = attribute("RevisionID");
+    m_parts->losses.revisions += !revision.isEmpty() && revision != QLatin1String("0");
+}
+
+void FinalDraftReader::readLook()
+{
     m_look = Piece();
+    m_look.capitals = m_tokens.has("Style") || m_inTitles ? Piece::AsTyped : Piece::OfType;
     const QStringList names = attribute("Style").split(u'+', Qt::SkipEmptyParts);
-    m_look.capitals = names.contains(Capitals) ? Piece::Shown
-        : m_tokens.has("Style") || m_inTitles  ? Piece::AsTyped
-                                               : Piece::OfType;
-    m_look.kind = names.contains(Strikeout) ? Run::Boneyard : Run::Text;
     for (const QString &name : names) {
         const auto row =
-            std::find_if(std::begin(emphases), std::end(emphases),
+            std::find_if(std::begin(styles), std::end(styles),
                          [&name](const auto &known) { return name == QLatin1String(known.name); });
-        if (row != std::end(emphases)) {
-            m_look.emphasis |= m_look.kind == Run::Text ? row->style : Run::Style(0);
-        } else if (name != Capitals && name != Strikeout
-                   && !m_parts->losses.styles.contains(name)) {
+        if (row != std::end(styles)) {
+            m_look.emphasis |= row->emphasis;
+            m_look.capitals = row->isCapitals ? Piece::Shown : m_look.capitals;
+            m_look.kind = row->isCut ? Run::Boneyard : m_look.kind;
+        } else if (!m_parts->losses.styles.contains(name)) {
             m_parts->losses.styles.append(name);
         }
     }
-    const QString revision = attribute("RevisionID");
-    m_parts->losses.revisions += !revision.isEmpty() && revision != QLatin1String("0");
+    if (m_look.kind == Run::Boneyard) {
+        m_look.emphasis = {};
+    }
 }
 
 void FinalDraftReader::addText()
@@ -404,7 +418,7 @@ void FinalDraftReader::readSettings()
         depth += token == QXmlStreamReader::StartElement;
         depth -= token == QXmlStreamReader::EndElement;
         if (token == QXmlStreamReader::StartElement && m_tokens.is("FontSpec")
-            && attribute("Style").split(u'+').contains(Capitals)) {
+            && attribute("Style").split(u'+').contains(QLatin1String("AllCaps"))) {
             m_capitalTypes.insert(type);
         }
     }

@@ -475,13 +475,15 @@ bool MRVFinalDraft::revise(const QByteArray &xml, const MRVFountainScript &scrip
         return false;
     }
     QByteArray bytes = encoding.encode(revision.result());
-    if (!parts.ranges.isEmpty() && !isReadBack(bytes, wanted, source, text, nullptr)) {
+    const bool mayMove = !parts.ranges.isEmpty();
+    bool isDone = isReadBack(bytes, wanted, source, text, mayMove ? nullptr : error);
+    if (!isDone && mayMove) {
         revision.moveRanges(parts.ranges);
         bytes = encoding.encode(revision.result());
+        isDone = isReadBack(bytes, wanted, source, text, error);
     }
-    if (!isReadBack(bytes, wanted, source, text, error)) {
-        return false;
+    if (isDone) {
+        *revised = bytes;
     }
-    *revised = bytes;
-    return true;
+    return isDone;
 }

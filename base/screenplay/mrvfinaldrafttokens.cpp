@@ -56,16 +56,14 @@ MrvFinalDraftPiece MrvFinalDraftTokens::attributePiece(const char *name) const
 
 QVector<MrvFinalDraftPieces> MrvFinalDraftTokens::readParagraphs()
 {
-    QVector<Pieces> paragraphs;
+    QVector<Pieces> paragraphs(1);
     Pieces name;
     int textDepth = 0; // of the outermost text that is open
-    for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
+    for (int depth = 1; depth > 0 && !atEnd();) {
         const QXmlStreamReader::TokenType token = next();
         if (token == QXmlStreamReader::StartElement) {
             ++depth;
-            if (is("Text") && textDepth == 0) {
-                textDepth = depth;
-            }
+            textDepth = textDepth == 0 && is("Text") ? depth : textDepth;
             if (is("Paragraph") || m_xml.name().startsWith(QLatin1String("Alt"))) {
                 paragraphs.append(Pieces());
             } else if (is("CharacterArcBeat")) {
@@ -74,13 +72,8 @@ QVector<MrvFinalDraftPieces> MrvFinalDraftTokens::readParagraphs()
         } else if (token == QXmlStreamReader::EndElement) {
             textDepth = depth == textDepth ? 0 : textDepth;
             --depth;
-            if (is("CharacterArcBeat")) {
-                name.clear();
-            }
+            name = is("CharacterArcBeat") ? Pieces() : name;
         } else if (token == QXmlStreamReader::Characters && textDepth > 0) {
-            if (paragraphs.isEmpty()) {
-                paragraphs.append(Pieces());
-            }
             Pieces &last = paragraphs.last();
             last += last.isEmpty() ? name : Pieces();
             last.append(characters());
