@@ -83,6 +83,15 @@ bool isSpeech(Element::Kind kind)
         || kind == Element::Lyrics;
 }
 
+// Adds a name that is not known yet.
+void tell(const QString &name, QSet<QString> *known, QStringList *names)
+{
+    if (!known->contains(name)) {
+        known->insert(name);
+        names->append(name);
+    }
+}
+
 class FinalDraftReader
 {
     Q_DECLARE_TR_FUNCTIONS(MRVFinalDraft)
@@ -177,6 +186,8 @@ private:
     QVector<PlacedNote> m_notes;
     QSet<QString> m_capitalTypes;
     QHash<QString, int> m_typeIndex; // in the losses
+    QSet<QString> m_knownStyles; // in the losses, as the next
+    QSet<QString> m_knownSections;
 };
 
 void FinalDraftReader::addPiece(Piece piece)
@@ -279,8 +290,8 @@ void FinalDraftReader::readLook()
             m_look.emphasis |= row->emphasis;
             m_look.capitals = row->isCapitals ? Piece::Shown : m_look.capitals;
             m_look.kind = row->isCut ? Run::Boneyard : m_look.kind;
-        } else if (!m_parts->losses.styles.contains(name)) {
-            m_parts->losses.styles.append(name);
+        } else {
+            tell(name, &m_knownStyles, &m_parts->losses.styles);
         }
     }
     if (m_look.kind == Run::Boneyard) {
@@ -401,8 +412,8 @@ bool FinalDraftReader::readForeign()
         // Each header has the page number and its dot.
         const bool saysSomething =
             std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); });
-        if (saysSomething && !m_parts->losses.sections.contains(tag)) {
-            m_parts->losses.sections.append(tag);
+        if (saysSomething) {
+            tell(tag, &m_knownSections, &m_parts->losses.sections);
         }
     }
     m_isText.removeLast();
