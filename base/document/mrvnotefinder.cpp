@@ -1,5 +1,6 @@
 #include "document/mrvnotefinder.h"
 
+#include "textformat/mrvnoteproperty.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QTextCharFormat>
@@ -183,7 +184,7 @@ QVector<MRVFlowLink>::const_iterator MRVNoteFinder::linkAt(int position) const
 
 bool MRVNoteFinder::isNote(int paragraph, int end, MRVMarkedNote *note) const
 {
-    *note = {paragraph, paragraph + 1, m_candidates.value(paragraph), {}};
+    *note = {paragraph, paragraph + 1, false, m_candidates.value(paragraph), {}};
     if (note->marks.isEmpty()) {
         return false;
     }
@@ -204,7 +205,28 @@ bool MRVNoteFinder::isNote(int paragraph, int end, MRVMarkedNote *note) const
             is = is || isArrow || std::all_of(before.begin(), before.end(), isFrame);
         }
     }
-    return is && !note->backLinks.isEmpty();
+    const int last = saidEnd(paragraph, end);
+    note->isSaid = last >= note->end;
+    note->end = qMax(note->end, last);
+    return note->isSaid || (is && !note->backLinks.isEmpty());
+}
+
+// The end of the note that is said to begin with a paragraph; -1 where none is.
+int MRVNoteFinder::saidEnd(int paragraph, int limit) const
+{
+    const auto noteOf = [this](int index) {
+        return m_flow.formats.at(m_flow.paragraphs.at(index).format)
+            .intProperty(MRVParagraphNoteProperty);
+    };
+    const int note = noteOf(paragraph);
+    if (note < 1 || (paragraph > 0 && noteOf(paragraph - 1) == note)) {
+        return -1;
+    }
+    int end = paragraph + 1;
+    while (end < limit && noteOf(end) == note) {
+        ++end;
+    }
+    return end;
 }
 
 bool MRVNoteFinder::beginsWithLabel(int paragraph, int mark) const

@@ -16,7 +16,8 @@
 struct MRVBASE_EXPORT MRVMarkedNote
 {
     int begin = 0; ///< its first paragraph
-    int end = 0; ///< the paragraph after the last one with a link back
+    int end = 0; ///< the paragraph after the last one with a link back, or after the note itself
+    bool isSaid = false; ///< the document says that it is a note, and where that ends
     QVector<int> marks; ///< where their links begin, in order
     QVector<int> backLinks; ///< where the links back begin, in order
 };
@@ -27,7 +28,8 @@ struct MRVBASE_EXPORT MRVMarkedNote
  * A mark is a short link in running text, such as "[12]" or a raised figure, or a link that is said
  * to be one (NoteLinkProperty), to the beginning of a paragraph after it. From there a link leads
  * back to the paragraph of the mark. The note begins with its label or that link, or ends with an
- * arrow. So entries of an index and numbers of pages are no notes.
+ * arrow. So entries of an index and numbers of pages are no notes. Paragraphs that are said to be a
+ * note (MRVParagraphNoteProperty) need no link back.
  *
  * The document must not change, and it and its flow must live as long. GUI thread only.
  *
@@ -71,6 +73,7 @@ private:
 
     QStringView textOf(const MRVFlowLink &link) const;
     bool beginsWithLabel(int paragraph, int mark) const;
+    int saidEnd(int paragraph, int limit) const;
     bool isArrowAtEnd(const MRVFlowLink &link, int paragraph) const;
     bool leadsBack(const MRVFlowLink &link, const QVector<int> &marks) const;
 

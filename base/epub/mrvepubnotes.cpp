@@ -88,7 +88,8 @@ struct MRVEPubNotes::Finder
         for (int i = 0; i < group.size(); ++i) {
             const bool isLast = i + 1 == group.size();
             MRVMarkedNote &entry = group[i];
-            entry.end = flow.paragraphs.at(entry.begin).list >= 0
+            entry.end = entry.isSaid ? entry.end
+                : flow.paragraphs.at(entry.begin).list >= 0
                 ? itemEnd(entry.begin, isLast ? sectionEnd : group.at(i + 1).begin)
                 : isLast ? noteEnd(entry, sectionEnd, true)
                          : noteEnd(entry, group.at(i + 1).begin, false);

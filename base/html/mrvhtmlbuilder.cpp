@@ -539,6 +539,7 @@ MRVHtmlBox MRVHtmlBuilder::boxOf(const GumboNode *element, const MRVHtmlStyle &s
     box.headingLevel = kind.headingLevel;
     box.isQuote = kind.isQuote;
     box.caption = captionOf(element);
+    box.note = mrvIsNote(element) ? ++m_noteCount : 0;
     if (kind.kind == MRVHtmlElement::List) {
         box.list = listOf(element, style);
     } else if (kind.kind == MRVHtmlElement::Item && style.display == MRVHtmlStyle::ListItem) {

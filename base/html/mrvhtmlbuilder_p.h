@@ -78,5 +78,6 @@ private:
     QString m_language; // of the page
     MRVHtmlMarks m_marks;
     MRVHtmlDisplays m_displays;
+    int m_noteCount = 0; // of elements that are said to be notes
     MRVHtmlRuns *m_runs = nullptr;
 };

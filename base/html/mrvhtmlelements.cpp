@@ -275,6 +275,14 @@ QString firstSource(const QString &choice)
     return name;
 }
 
+// What an element is said to be, in e-books and to those who hear a page.
+QStringList kindsOf(const GumboNode *element)
+{
+    const QString words =
+        mrvAttributeOf(element, "epub:type") + u' ' + mrvAttributeOf(element, "role");
+    return words.toLower().simplified().split(u' ');
+}
+
 } // namespace
 
 const MRVHtmlElement &mrvHtmlElement(const GumboNode *element)
@@ -369,6 +377,15 @@ QString mrvFieldText(const GumboNode *element)
         : QString();
 }
 
+bool mrvIsNote(const GumboNode *element)
+{
+    constexpr const char *notes[] = {"footnote", "endnote", "rearnote", "doc-footnote",
+                                     "doc-endnote"};
+    const QStringList said = kindsOf(element);
+    return std::any_of(std::begin(notes), std::end(notes),
+                       [&said](const char *note) { return said.contains(QLatin1String(note)); });
+}
+
 int mrvNoteLinkOf(const GumboNode *element)
 {
     constexpr struct
@@ -379,9 +396,7 @@ int mrvNoteLinkOf(const GumboNode *element)
                  {"doc-noteref", MRVTextFormat::NoteMark},
                  {"backlink", MRVTextFormat::NoteBackLink},
                  {"doc-backlink", MRVTextFormat::NoteBackLink}};
-    const QString words =
-        mrvAttributeOf(element, "epub:type") + u' ' + mrvAttributeOf(element, "role");
-    const QStringList said = words.toLower().simplified().split(u' ');
+    const QStringList said = kindsOf(element);
     for (const auto &one : links) {
         if (said.contains(QLatin1String(one.word))) {
             return one.link;

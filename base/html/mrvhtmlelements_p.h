@@ -73,6 +73,9 @@ QString mrvFieldText(const GumboNode *element);
 /** What a link is said to be: an MRVTextFormat::NoteLink, or 0. */
 int mrvNoteLinkOf(const GumboNode *element);
 
+/** Whether an element is said to be the text of a note. */
+bool mrvIsNote(const GumboNode *element);
+
 /** Whether an element begins or ends a comment in the margin; it shows nothing itself. */
 bool mrvIsComment(const GumboNode *element);
 

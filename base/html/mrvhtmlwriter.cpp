@@ -2,6 +2,7 @@
 
 #include "html/mrvhtmlelements_p.h"
 #include "textformat/mrvformatspread.h"
+#include "textformat/mrvnoteproperty.h"
 #include "textformat/mrvtextformat.h"
 
 #include <algorithm>
@@ -87,6 +88,7 @@ void MRVHtmlWriter::enter(const MRVHtmlStyle &style, const MRVHtmlBox &box)
     inside.top = style.margin(MRVHtmlSide::Top);
     inside.headingLevel = box.headingLevel ? box.headingLevel : outside.headingLevel;
     inside.caption = box.caption ? box.caption : outside.caption;
+    inside.note = box.note ? box.note : outside.note;
     inside.quoteLevel = outside.quoteLevel + (box.isQuote ? 1 : 0);
     inside.listDepth = outside.listDepth + (box.list ? 1 : 0);
     inside.list = box.list ? box.list : outside.list;
@@ -192,6 +194,9 @@ QTextBlockFormat MRVHtmlWriter::paragraphFormat()
     }
     if (box.caption > 0) {
         format.setProperty(MRVTextFormat::CaptionProperty, box.caption);
+    }
+    if (box.note > 0) {
+        format.setProperty(MRVParagraphNoteProperty, box.note);
     }
     if (box.quoteLevel > 0) {
         format.setProperty(QTextFormat::BlockQuoteLevel, box.quoteLevel);

@@ -32,6 +32,7 @@ struct MRVHtmlBox
 {
     int headingLevel = 0; ///< 0: none
     int caption = 0; ///< an MRVTextFormat::Caption; 0: none
+    int note = 0; ///< MRVParagraphNoteProperty; 0: that of the box outside
     bool isQuote = false;
     bool isItem = false; ///< its first paragraph is an item of the list
     QTextBlockFormat::MarkerType marker = QTextBlockFormat::MarkerType::NoMarker;
@@ -103,6 +104,7 @@ private:
         qreal top = 0; // what the first paragraph gets
         int headingLevel = 0;
         int caption = 0;
+        int note = 0;
         int quoteLevel = 0;
         int listDepth = 0;
         QBrush background;
