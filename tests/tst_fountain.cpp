@@ -256,6 +256,34 @@ private Q_SLOTS:
             !MRVFountainHtml::toHtml(MRVFountainScript::fromText("A\n\n\n\nB")).contains("<p/>"));
     }
 
+    // All but page breaks, lyrics apart, action of mere notes, and the emphasis of notes.
+    void finalDraftScripts()
+    {
+        for (int seed = 0; seed < 1000; ++seed) {
+            QRandomGenerator random(seed);
+            MRVFountainScript script = randomScript(&random).normalized();
+            script.titles.clear();
+            const auto isLost = [](const Element &element) {
+                const auto isText = [](const Run &run) { return run.kind == Run::Text; };
+                return element.kind == Element::PageBreak || element.apart
+                    || (element.kind == Element::Action && !element.runs.isEmpty()
+                        && std::none_of(element.runs.cbegin(), element.runs.cend(), isText));
+            };
+            script.elements.erase(
+                std::remove_if(script.elements.begin(), script.elements.end(), isLost),
+                script.elements.end());
+            for (Element &element : script.elements) {
+                for (Run &run : element.runs) {
+                    run.emphasis = run.kind == Run::Text ? run.emphasis : Run::Emphasis();
+                }
+            }
+            script = script.normalized();
+            MRVFountainScript read;
+            QVERIFY(MRVFinalDraft::fromXml(MRVFinalDraft::toXml(script), &read));
+            QCOMPARE(dump(read), dump(script));
+        }
+    }
+
     void finalDraft()
     {
         const QString text = bytesOf(MRV_SOURCE_DIR "/tests/data/script.fountain");

@@ -66,15 +66,13 @@ Pieces asNote(Pieces pieces)
     return pieces;
 }
 
-// Whether some text was cut out, and none is left.
+// Whether no text is left beside what was cut out.
 bool isCut(const Pieces &pieces)
 {
-    const auto isBoneyard = [](const Piece &piece) { return piece.kind == Run::Boneyard; };
-    return std::any_of(pieces.cbegin(), pieces.cend(), isBoneyard)
-        && std::all_of(pieces.cbegin(), pieces.cend(), [&](const Piece &piece) {
-               return isBoneyard(piece)
-                   || (piece.kind == Run::Text && piece.text.trimmed().isEmpty());
-           });
+    return std::all_of(pieces.cbegin(), pieces.cend(), [](const Piece &piece) {
+        return piece.kind == Run::Boneyard
+            || (piece.kind == Run::Text && piece.text.trimmed().isEmpty());
+    });
 }
 
 bool isSpeech(Element::Kind kind)
@@ -116,6 +114,7 @@ private:
         double space = 0; // before the paragraph, in points
         bool isOpen = false; // a paragraph
         bool hasContent = false; // that paragraph
+        bool hasStruck = false; // text that is struck out
         int length = 0; // of its text
         bool breakPending = false;
         int dualCues = -1; // cues so far in speeches side by side; -1 outside of them
@@ -199,6 +198,7 @@ void FinalDraftReader::addPiece(Piece piece)
         m_noteBegins = false;
     } else {
         piece.kind = m_look.kind;
+        m_at.hasStruck = m_at.hasStruck || piece.kind == Run::Boneyard;
         piece.emphasis = m_look.emphasis;
         piece.capitals = m_look.capitals;
         piece.begins = piece.kind == Run::Boneyard
@@ -216,6 +216,7 @@ void FinalDraftReader::beginParagraph()
     m_at.space = 0;
     m_at.isOpen = true;
     m_at.hasContent = false;
+    m_at.hasStruck = false;
     m_at.length = 0;
 }
 
@@ -584,13 +585,13 @@ void FinalDraftReader::settleKind(Paragraph *paragraph) const
     Element &element = paragraph->element;
     const Pieces &pieces = paragraph->pieces;
     const auto isOneNote = [&pieces](const Piece &piece) {
-        return piece.kind == Run::Note && piece.begins == (&piece == &pieces.constFirst());
+        return piece.kind != Run::Text && piece.begins == (&piece == &pieces.constFirst());
     };
-    if (isCut(pieces) && m_omittedDepth == 0) {
+    if (m_at.hasStruck && isCut(pieces) && m_omittedDepth == 0) {
         element.kind = Element::Boneyard;
     } else if (element.kind == Element::Action && !pieces.isEmpty()
                && std::all_of(pieces.cbegin(), pieces.cend(), isOneNote)) {
-        element.kind = Element::Note;
+        element.kind = pieces.constFirst().kind == Run::Note ? Element::Note : Element::Boneyard;
     }
 }
 
@@ -598,7 +599,7 @@ void FinalDraftReader::settleKind(Paragraph *paragraph) const
 bool FinalDraftReader::continueSpeech()
 {
     const Paragraph &paragraph = m_at.paragraph;
-    const bool continues = m_omittedDepth == 0 && isSpeech(paragraph.element.kind)
+    const bool continues = m_omittedDepth == 0 && isSpeech(paragraph.element.kind) && m_at.hasStruck
         && isCut(paragraph.pieces) && paragraph.element.kind != Element::Character
         && !m_out->empty() && isSpeech(m_out->back().element.kind);
     if (continues) {
