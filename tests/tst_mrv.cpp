@@ -64,6 +64,7 @@ private Q_SLOTS:
                              << QStringList{"css/stylesheet.css", "manuscript.xhtml",
                                             pictures + "curve.jpg", pictures + "mill.jpg",
                                             pictures + "staff.jpg"};
+        QTest::newRow("pdf") << "pdf" << QStringList{"manuscript.pdf"};
     }
 
     // The bytes depend on nothing else, and replace what was written before.

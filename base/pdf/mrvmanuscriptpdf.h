@@ -16,11 +16,12 @@ class QTextDocument;
  * Documents as one PDF document: a title page, the contents with links, and the text.
  *
  * A chapter begins a page: a heading of the highest level that occurs more than once, what follows
- * a page break, and each document. No heading stands alone at the foot of a page, and of a paragraph at least
- * two lines stand on either side of a page break. Pictures become smaller where they would not fit;
- * a row of a table stays on one page where it can. Emphasis, lists, tables, pictures and links, also
- * those between notes and their marks, are kept; fonts and sizes of the text in a book, too. A first
- * heading that repeats the title is on the title page alone. The outline has all headings.
+ * a page break, and each document. No heading stands alone at the foot of a page, and of a
+ * paragraph at least two lines stand on either side of a page break. Pictures become smaller where
+ * they would not fit; a row of a table stays on one page where it can. Emphasis, lists, tables,
+ * pictures and links, also those between notes and their marks, are kept; fonts and sizes of the
+ * text in a book, too. A first heading that repeats the title is on the title page alone. The
+ * outline has all headings.
  *
  * The same documents and options give the same bytes on a machine with the same fonts. GUI thread
  * only.

@@ -55,6 +55,7 @@ public:
     void setPageNumbers(const QVector<QPair<int, int>> &numbers);
     void addOutline(const QVector<OutlineEntry> &entries);
     void addLinks(const QVector<Link> &links, const QHash<QString, Place> &targets);
+    void nameFonts(int pageCount);
 
 private:
     using Object = qpdf_oh; // a number that stands for an object, until the file is closed
@@ -79,6 +80,10 @@ private:
     void set(Object dictionary, const char *key, Object value) const
     {
         qpdf_oh_replace_key(m_file, dictionary, key, value);
+    }
+    Object get(Object dictionary, const char *key) const
+    {
+        return qpdf_oh_get_key(m_file, dictionary, key);
     }
     void append(Object array, Object item) const { qpdf_oh_append_item(m_file, array, item); }
     Object pageAt(int page) const { return qpdf_get_page_n(m_file, size_t(page)); }
@@ -251,20 +256,88 @@ void Completion::addLinks(const QVector<Link> &links, const QHash<QString, Place
     }
 }
 
+// Qt marks the parts of fonts that are in the file by letters, in the order of a hash. Here the order
+// is that of their first use.
+void Completion::nameFonts(int pageCount)
+{
+    QHash<QByteArray, QByteArray> names;
+    for (int page = 0; page < pageCount; ++page) {
+        const Object resources = get(pageAt(page), "/Resources");
+        const Object fonts = get(resources, "/Font");
+        if (!qpdf_oh_is_dictionary(m_file, fonts)) {
+            continue;
+        }
+        QVector<QByteArray> keys;
+        qpdf_oh_begin_dict_key_iter(m_file, fonts);
+        while (qpdf_oh_dict_more_keys(m_file)) {
+            keys.append(qpdf_oh_dict_next_key(m_file));
+        }
+        for (const QByteArray &key : qAsConst(keys)) {
+            const Object list = get(get(fonts, key.constData()), "/DescendantFonts");
+            if (!qpdf_oh_is_array(m_file, list)) {
+                continue;
+            }
+            const Object font = qpdf_oh_get_array_item(m_file, list, 0);
+            const Object descriptor = get(font, "/FontDescriptor");
+            const QByteArray name = qpdf_oh_get_name(m_file, get(descriptor, "/FontName"));
+            constexpr int TagLength = 8; // "/ABCDEF+", ISO 32000-1, 9.6.4
+            if (name.indexOf('+') + 1 != TagLength || names.contains(name)) {
+                continue;
+            }
+            QByteArray tag = QByteArrayLiteral("/AAAAAA+");
+            for (int i = names.size(), place = TagLength - 2; i > 0; i /= 26, --place) {
+                tag[place] = char('A' + i % 26);
+            }
+            const QByteArray ownName = tag + name.mid(TagLength);
+            names.insert(name, ownName);
+            names.insert(ownName, ownName); // which a font that comes later does not have
+            set(descriptor, "/FontName", newName(ownName.constData()));
+        }
+    }
+}
+
+// Writes a file again, with what is changed in it.
+template<typename Change>
+bool rewrite(const QByteArray &written, qpdf_object_stream_e packing, Change change,
+             QByteArray *bytes, QString *error)
+{
+    qpdf_data file = qpdf_init();
+    const std::unique_ptr<qpdf_data, void (*)(qpdf_data *)> owner(&file, qpdf_cleanup);
+    qpdf_set_suppress_warnings(file, QPDF_TRUE);
+    qpdf_silence_errors(file);
+    int result = qpdf_read_memory(file, "pdf", written.constData(),
+                                  static_cast<unsigned long long>(written.size()), nullptr);
+    if ((result & QPDF_ERRORS) == 0) {
+        change(file);
+        result = qpdf_init_write_memory(file);
+    }
+    if ((result & QPDF_ERRORS) == 0) {
+        qpdf_set_object_stream_mode(file, packing);
+        qpdf_set_deterministic_ID(file, QPDF_TRUE);
+        result = qpdf_write(file);
+    }
+    if ((result & QPDF_ERRORS) != 0 || qpdf_has_error(file)) {
+        *error = QString::fromLocal8Bit(qpdf_get_error_full_text(file, qpdf_get_error(file)));
+        return false;
+    }
+    *bytes = QByteArray(reinterpret_cast<const char *>(qpdf_get_buffer(file)),
+                        int(qpdf_get_buffer_length(file)));
+    return true;
+}
+
 } // namespace
 
 class MRVPdfWriter::Private
 {
 public:
     Private(const QSizeF &paper, const MRVPdfProperties &documentProperties);
-    bool complete(QByteArray *bytes, QString *error);
+    bool complete(QByteArray *bytes, QString *error) const;
 
     MRVPdfProperties properties;
     qreal paperHeight;
     QBuffer buffer;
     std::unique_ptr<QPdfWriter> writer;
     QPainter painter;
-    qpdf_data file = nullptr;
     bool isValid = true;
     int page = 0;
     QVector<QPair<int, int>> numbers; // page from 0, number
@@ -285,36 +358,22 @@ MRVPdfWriter::Private::Private(const QSizeF &paper, const MRVPdfProperties &docu
     isValid = painter.begin(writer.get());
 }
 
-bool MRVPdfWriter::Private::complete(QByteArray *bytes, QString *error)
+bool MRVPdfWriter::Private::complete(QByteArray *bytes, QString *error) const
 {
-    const std::unique_ptr<qpdf_data, void (*)(qpdf_data *)> owner(&file, qpdf_cleanup);
-    file = qpdf_init();
-    qpdf_set_suppress_warnings(file, QPDF_TRUE);
-    qpdf_silence_errors(file);
-    const QByteArray &written = buffer.data();
-    int result = qpdf_read_memory(file, "pdf", written.constData(),
-                                  static_cast<unsigned long long>(written.size()), nullptr);
-    if ((result & QPDF_ERRORS) == 0) {
+    // The first file has its objects in the order in which they are reached from the root, and not
+    // in that of a hash. In the second they are packed, which goes by the numbers of the first.
+    QByteArray ordered;
+    const auto addAll = [this](qpdf_data file) {
         Completion completion(file, paperHeight);
         completion.setProperties(properties);
         completion.setPageNumbers(numbers);
         completion.addOutline(outline);
         completion.addLinks(links, targets);
-        // Objects are numbered as they are reached from the root, and not in the order of a hash.
-        result = qpdf_init_write_memory(file);
-    }
-    if ((result & QPDF_ERRORS) == 0) {
-        qpdf_set_object_stream_mode(file, qpdf_o_generate);
-        qpdf_set_deterministic_ID(file, QPDF_TRUE);
-        result = qpdf_write(file);
-    }
-    if ((result & QPDF_ERRORS) != 0 || qpdf_has_error(file)) {
-        *error = QString::fromLocal8Bit(qpdf_get_error_full_text(file, qpdf_get_error(file)));
-        return false;
-    }
-    *bytes = QByteArray(reinterpret_cast<const char *>(qpdf_get_buffer(file)),
-                        int(qpdf_get_buffer_length(file)));
-    return true;
+        completion.nameFonts(page + 1);
+    };
+    return rewrite(buffer.data(), qpdf_o_disable, addAll, &ordered, error)
+        && rewrite(
+               ordered, qpdf_o_generate, [](qpdf_data) {}, bytes, error);
 }
 
 MRVPdfWriter::MRVPdfWriter(const QSizeF &paper, const MRVPdfProperties &properties)

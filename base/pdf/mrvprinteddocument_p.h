@@ -67,7 +67,10 @@ public:
     QVector<int> headingLevels() const;
     /** Leaves out the first paragraph where it is a heading with this text. */
     void removeHeading(const QString &text);
-    /** Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings that begin a page. */
+    /**
+     * Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings
+     * that begin a page.
+     */
     void layOut(QPaintDevice *device, int chapterLevel);
 
     const QVector<MrvPrintedPage> &pages() const { return m_pages; }
