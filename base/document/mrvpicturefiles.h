@@ -37,6 +37,7 @@ public:
      * The same, at @p path, in place of the file that may be there; none that this object has
      * written.
      *
+     * @param bytes the contents of the file.
      * @param error if given, receives a translated line on failure; untouched on success.
      */
     bool replace(const QString &path, const QByteArray &bytes, QString *error = nullptr);

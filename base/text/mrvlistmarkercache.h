@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTextDocument>
 #include <QVector>
 
 class QTextBlock;
