@@ -393,6 +393,7 @@ bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscr
     for (const QString &author : qAsConst(metadata.authors)) {
         print.authors.append(author.section(u'|', 0, 0).trimmed());
     }
+    print.surname = metadata.authors.value(0).section(u'|', 1).section(u',', 0, 0).trimmed();
     print.language = metadata.language;
     print.date = metadata.modified;
     MRVManuscriptPdf pdf(print);
@@ -401,7 +402,13 @@ bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscr
         if (entry.isPart) {
             pdf.addPart(entry.title);
         } else {
-            pdf.addDocument(*manuscripts[next].document, manuscripts[next].path);
+            const QTextDocument &document = *manuscripts[next].document;
+            // A single one has the title page for that.
+            const QString own = manuscripts.size() > 1
+                ? document.metaInformation(QTextDocument::DocumentTitle)
+                : QString();
+            pdf.addDocument(document, manuscripts[next].path,
+                            entry.title.isEmpty() ? own : entry.title);
             ++next;
         }
     }
@@ -415,6 +422,10 @@ bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscr
         notes.append(QStringLiteral("links that lead nowhere in the document, and are text there: "
                                     "%1 (%2)")
                          .arg(QString::number(dead.size()), dead.constFirst()));
+    }
+    const QString missing = pdf.missingCharacters();
+    if (!missing.isEmpty()) {
+        notes.append(missingCharactersText(missing));
     }
     if (pdf.wideTables() > 0) {
         notes.append(QStringLiteral("tables that are wider than the paper, and cut off: %1")

@@ -225,3 +225,17 @@ bool writeOutput(const QByteArray &bytes, const QString &file, QString *error)
     return file == QLatin1String("-") ? writeStandardOutput(bytes, error)
                                       : MRVStagedFiles::write(bytes, file, error);
 }
+
+QString missingCharactersText(const QString &missing)
+{
+    constexpr int Shown = 10;
+    QStringList first;
+    const QVector<uint> characters = missing.toUcs4();
+    for (const uint character : characters.mid(0, Shown)) {
+        first.append(QString::fromUcs4(&character, 1));
+    }
+    return QStringLiteral("characters that no installed font has, and that are empty boxes: %1 "
+                          "(%2%3)")
+        .arg(QString::number(characters.size()), first.join(u' '),
+             QLatin1String(characters.size() > Shown ? " ..." : ""));
+}

@@ -123,3 +123,6 @@ QByteArray standardInput(QString *reason);
 
 /** Writes a file with MRVStagedFiles; "-" is standard output. */
 bool writeOutput(const QByteArray &bytes, const QString &file, QString *error);
+
+/** The note on characters that a PDF document cannot show; see MRVPdfWriter. */
+QString missingCharactersText(const QString &missing);

@@ -85,7 +85,8 @@ struct ConvertOptions
     bool json = false;
 };
 
-QByteArray bytesOf(const MRVFountainScript &script, const ConvertOptions &options, QString *error)
+QByteArray bytesOf(const MRVFountainScript &script, const ConvertOptions &options, QString *missing,
+                   QString *error)
 {
     switch (options.to) {
     case MRVScriptFile::EPub:
@@ -94,7 +95,7 @@ QByteArray bytesOf(const MRVFountainScript &script, const ConvertOptions &option
     case MRVScriptFile::Pdf: {
         MRVScriptPdf::Options pdf = options.pdf;
         pdf.language = options.language;
-        return MRVScriptPdf::toByteArray(script, options.mode, pdf, error);
+        return MRVScriptPdf::toByteArray(script, options.mode, pdf, error, missing);
     }
     default:
         return MRVScriptFile::toByteArray(script, options.to, options.language);
@@ -223,9 +224,13 @@ int runScriptConvert(const Call &call)
     }
     const MRVFountainScript written =
         call.has("printed") ? script.script().printed() : script.script();
-    const QByteArray bytes = bytesOf(written, options, &error);
+    QString missing;
+    const QByteArray bytes = bytesOf(written, options, &missing, &error);
     if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
+    }
+    if (!missing.isEmpty()) {
+        printError(QStringLiteral("note: ") + missingCharactersText(missing));
     }
     printLosses(options.input, script, options.to);
     if (options.output != StandardStream && options.json) {

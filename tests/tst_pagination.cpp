@@ -8,6 +8,7 @@
 #include "scriptmode/mrvscriptmode.h"
 
 #include <QRandomGenerator>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QtTest>
 
@@ -380,6 +381,61 @@ private Q_SLOTS:
             ++pages;
         }
         QVERIFY(pages > 20);
+    }
+
+    /// Qt paints nothing beyond some 800 pages of one document.
+    void longManuscript()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        for (int i = 0; i < 9000; ++i) {
+            cursor.insertText(QString("para%1x ").arg(i) + QString("word ").repeated(50));
+            cursor.insertBlock();
+        }
+        MRVPrintOptions options;
+        options.layout = MRVPrintOptions::Manuscript;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QString error;
+        QVERIFY2(pdf.toByteArray(&bytes, &error), qPrintable(error));
+        const QString read = pdfText(bytes, {"-raw"});
+        int at = 0;
+        for (int i = 0; i < 9000; ++i) {
+            at = read.indexOf(QString("para%1x").arg(i), at);
+            QVERIFY2(at >= 0, qPrintable(QString::number(i)));
+        }
+    }
+
+    void manuscriptDetails()
+    {
+        QTextDocument document;
+        document.setHtml("<p>Plain</p><blockquote>Quoted</blockquote><p>\uE123</p>");
+        MRVPrintOptions options;
+        options.hasContents = false;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document, QString(), "Heading");
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        QCOMPARE(pdf.missingCharacters(), QString(QChar(0xe123)));
+        const QString read = pdfText(bytes, {"-bbox"});
+        const auto left = [&read](const QString &word) {
+            const QRegularExpression place("xMin=\"([0-9.]+)\"[^>]*>" + word);
+            return place.match(read).captured(1).toDouble();
+        };
+        QCOMPARE(left("Heading"), left("Plain"));
+        QVERIFY(left("Quoted") - left("Plain") > 25); // 40 pixels are 30 points
+    }
+
+    void rightToLeft()
+    {
+        const auto script = MRVFountainScript::fromText(
+            withRepeats(QString::fromUtf8("⟨30×שלום ⟩Hollywood ⟨30×שלום ⟩\n\nPlain text.")));
+        const QVector<Line> lines = MRVScriptPagination(script, builtIn()).pages().at(0).lines;
+        for (const Line &line : lines) {
+            QCOMPARE(line.isRightToLeft, line.element == 0);
+            QCOMPARE(line.alignment, line.element == 0 ? Qt::AlignRight : Qt::AlignLeft);
+        }
     }
 
     void manuscriptLinks()

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class QTextBlock;
 class QTextDocument;
 
 /**
@@ -17,3 +18,14 @@ class QTextDocument;
  * @since 1.0
  */
 MRVBASE_EXPORT std::unique_ptr<QTextDocument> mrvDocumentCopy(const QTextDocument &document);
+
+/**
+ * The same for some paragraphs of a document, outside of tables and frames; takes time linear in
+ * them.
+ *
+ * @param first a paragraph of the document.
+ * @param last  one that is not before it; tables and frames in between are copied whole.
+ * @since 1.0
+ */
+MRVBASE_EXPORT std::unique_ptr<QTextDocument> mrvDocumentCopy(const QTextBlock &first,
+                                                              const QTextBlock &last);

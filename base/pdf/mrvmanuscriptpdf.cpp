@@ -3,6 +3,7 @@
 #include "core/mtranslator.h"
 #include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvprinteddocument_p.h"
+#include "textformat/mrvtextblockformat.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,6 +12,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTranslator>
@@ -48,19 +50,22 @@ public:
     }
 
     void addTitle(const QString &title) { nextTitle = title; }
-    void add(const QTextDocument &document, const QString &fileName);
+    void add(const QTextDocument &document, const QString &fileName, const QString &heading);
     bool print(QByteArray *bytes, QString *error);
     QStringList deadLinks() const;
     int wideTables() const;
+    QString missingCharacters() const;
 
 private:
     struct Part
     {
-        std::unique_ptr<MrvPrintedDocument> document;
+        const QTextDocument *original;
+        QHash<QString, QSize> pictureSizes;
+        std::vector<std::unique_ptr<MrvPrintedDocument>> pieces; // in order
         QString fileName;
+        QString heading; // to be printed before it
         QString title; // of the part of the book that begins with it
         int firstPage = 1; // of its text
-        int wordCount = 0;
     };
     struct Entry // of the contents
     {
@@ -71,20 +76,23 @@ private:
     };
 
     int chapterLevel() const;
+    bool layOut(Part *part, int level, bool isFirst);
     void beginPage(int number);
     void printTitlePage();
     void printManuscriptTitle();
     void printContents();
     void printPart(int index);
     void printHeader(int number, bool beginsChapter);
-    void printPlaces(int part, const MrvPrintedPage &page, const QPointF &origin);
+    void printPlaces(int part, int piece, const MrvPrintedPage &page, const QPointF &origin);
     void drawLine(const QString &text, const QFont &font, qreal y, Qt::Alignment alignment);
+    qreal heightOf(const QString &lines, const QFont &font) const;
     QVector<Entry> entries() const;
     QString addressOf(const QString &address, int part) const;
     QString text(const char *context, const char *source) const;
     QFont headerFont() const;
     QFont titleFont() const;
     static QString targetName(int part, const QString &name);
+    static QString headingName(int part, int piece, int heading);
 
     MRVPrintOptions options;
     MrvPrintLook look;
@@ -94,17 +102,15 @@ private:
     bool hasPage = false;
 };
 
-void MRVPrintedBook::add(const QTextDocument &document, const QString &fileName)
+void MRVPrintedBook::add(const QTextDocument &document, const QString &fileName,
+                         const QString &heading)
 {
     Part part;
-    part.document = std::make_unique<MrvPrintedDocument>(document, look);
+    part.original = &document;
     part.fileName =
         fileName.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(fileName).absoluteFilePath());
-    const QString all = document.toPlainText();
-    part.wordCount =
-        all.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
-    if (parts.empty()) {
-        part.document->removeHeading(options.title);
+    if (MRVTextBlockFormat::headingLevel(document.begin().blockFormat()) == 0) {
+        part.heading = heading.simplified();
     }
     part.title = nextTitle;
     nextTitle.clear();
@@ -115,9 +121,11 @@ int MRVPrintedBook::chapterLevel() const
 {
     QMap<int, int> counts;
     for (const Part &part : parts) {
-        const QVector<int> levels = part.document->headingLevels();
-        for (const int level : levels) {
-            ++counts[level];
+        for (QTextBlock block = part.original->begin(); block.isValid(); block = block.next()) {
+            const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
+            if (level > 0 && !block.text().trimmed().isEmpty()) {
+                ++counts[level];
+            }
         }
     }
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
@@ -126,6 +134,31 @@ int MRVPrintedBook::chapterLevel() const
         }
     }
     return 0;
+}
+
+// Makes the pieces of a document, and their pages.
+bool MRVPrintedBook::layOut(Part *part, int level, bool isFirst)
+{
+    part->pictureSizes = MrvPrintedDocument::pictureSizesOf(*part->original);
+    const QVector<QTextBlock> starts = MrvPrintedDocument::piecesOf(*part->original, level);
+    for (int i = 0; i < starts.size(); ++i) {
+        const QTextBlock last =
+            i + 1 < starts.size() ? starts.at(i + 1).previous() : part->original->lastBlock();
+        auto piece =
+            std::make_unique<MrvPrintedDocument>(starts.at(i), last, look, part->pictureSizes);
+        if (i == 0 && isFirst) {
+            piece->removeHeading(options.title);
+        }
+        if (i == 0 && !part->heading.isEmpty()) {
+            piece->insertHeading(part->heading, qMax(1, level));
+        }
+        piece->layOut(writer->painter()->device(), level);
+        if (piece->isTooLong()) {
+            return false;
+        }
+        part->pieces.push_back(std::move(piece));
+    }
+    return true;
 }
 
 void MRVPrintedBook::beginPage(int number)
@@ -167,6 +200,11 @@ QString MRVPrintedBook::targetName(int part, const QString &name)
     return QString::number(part) + u':' + name;
 }
 
+QString MRVPrintedBook::headingName(int part, int piece, int heading)
+{
+    return QStringLiteral("heading%1:%2:%3").arg(part).arg(piece).arg(heading);
+}
+
 void MRVPrintedBook::drawLine(const QString &line, const QFont &font, qreal y,
                               Qt::Alignment alignment)
 {
@@ -177,16 +215,25 @@ void MRVPrintedBook::drawLine(const QString &line, const QFont &font, qreal y,
     painter->drawText(area, int(alignment | Qt::AlignTop) | Qt::TextWordWrap, line);
 }
 
+qreal MRVPrintedBook::heightOf(const QString &lines, const QFont &font) const
+{
+    QPainter *painter = writer->painter();
+    painter->setFont(font);
+    const QRectF area(0, 0, look.text.width(), look.text.height());
+    return painter->boundingRect(area, Qt::AlignHCenter | Qt::TextWordWrap, lines).height();
+}
+
 // As publishers want it: who writes and how much above, the title half way down.
 void MRVPrintedBook::printManuscriptTitle()
 {
+    static const QRegularExpression blanks(QStringLiteral("\\s+"));
     int words = 0;
     for (const Part &part : parts) {
-        words += part.wordCount;
+        words += part.original->toPlainText().split(blanks, Qt::SkipEmptyParts).size();
     }
-    constexpr int RoundedTo = 100;
+    const int roundedTo = words >= 1000 ? 100 : words >= 100 ? 10 : 1;
     const QString count =
-        QLocale(options.language).toString((words + RoundedTo / 2) / RoundedTo * RoundedTo);
+        QLocale(options.language).toString((words + roundedTo / 2) / roundedTo * roundedTo);
     const QFont font = look.font;
     const qreal line = look.lineHeight * Scale;
     drawLine(options.authors.join(u'\n'), font, look.text.top(), Qt::AlignLeft);
@@ -194,8 +241,10 @@ void MRVPrintedBook::printManuscriptTitle()
                  .arg(count),
              font, look.text.top(), Qt::AlignRight);
     const qreal middle = look.text.center().y() - line;
-    drawLine(options.title.toUpper(), font, middle, Qt::AlignHCenter);
-    drawLine(options.authors.join(QLatin1String(", ")), font, middle + 2 * line, Qt::AlignHCenter);
+    const QString title = options.title.toUpper();
+    drawLine(title, font, middle, Qt::AlignHCenter);
+    drawLine(options.authors.join(QLatin1String(", ")), font, middle + heightOf(title, font) + line,
+             Qt::AlignHCenter);
 }
 
 void MRVPrintedBook::printTitlePage()
@@ -210,14 +259,9 @@ void MRVPrintedBook::printTitlePage()
     }
     const QFont large = titleFont();
     const qreal top = look.text.top() + look.text.height() / 4;
-    const QRectF area(look.text.left(), 0, look.text.width(), look.text.height());
-    QPainter *painter = writer->painter();
-    painter->setFont(large);
-    const qreal height =
-        painter->boundingRect(area, Qt::AlignHCenter | Qt::TextWordWrap, options.title).height();
     drawLine(options.title, large, top, Qt::AlignHCenter);
-    drawLine(options.authors.join(u'\n'), look.font, top + height + 3 * look.lineHeight * Scale,
-             Qt::AlignHCenter);
+    drawLine(options.authors.join(u'\n'), look.font,
+             top + heightOf(options.title, large) + 3 * look.lineHeight * Scale, Qt::AlignHCenter);
 }
 
 QVector<MRVPrintedBook::Entry> MRVPrintedBook::entries() const
@@ -225,20 +269,24 @@ QVector<MRVPrintedBook::Entry> MRVPrintedBook::entries() const
     QVector<Entry> result;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const Part &part = parts[i];
-        const QVector<MrvPrintedPage> &pages = part.document->pages();
-        int page = 0;
         if (!part.title.isEmpty()) {
             result.append({part.title, 1, part.firstPage - 1,
                            QStringLiteral("part") + targetName(int(i), QString())});
         }
-        const QVector<MrvPrintedHeading> &headings = part.document->headings();
-        for (int k = 0; k < headings.size(); ++k) {
-            const MrvPrintedHeading &heading = headings.at(k);
-            while (page + 1 < pages.size() && heading.y >= pages.at(page + 1).top - 1) {
-                ++page;
+        int firstPage = part.firstPage;
+        for (std::size_t piece = 0; piece < part.pieces.size(); ++piece) {
+            const QVector<MrvPrintedPage> &pages = part.pieces[piece]->pages();
+            const QVector<MrvPrintedHeading> &headings = part.pieces[piece]->headings();
+            int page = 0;
+            for (int k = 0; k < headings.size(); ++k) {
+                const MrvPrintedHeading &heading = headings.at(k);
+                while (page + 1 < pages.size() && heading.y >= pages.at(page + 1).top - 1) {
+                    ++page;
+                }
+                result.append({heading.text, heading.level, firstPage + page,
+                               headingName(int(i), int(piece), k)});
             }
-            result.append({heading.text, heading.level, part.firstPage + page,
-                           QStringLiteral("heading") + targetName(int(i), QString::number(k))});
+            firstPage += pages.size();
         }
     }
     return result;
@@ -290,8 +338,14 @@ void MRVPrintedBook::printHeader(int number, bool beginsChapter)
     const qreal line = font.pointSizeF() * 1.5 * Scale;
     const QString page = QString::number(number);
     if (look.isManuscript) {
-        const QString author = options.authors.value(0).section(u' ', -1);
-        QStringList words{author, options.title.toUpper(), page};
+        static const QRegularExpression subtitle(QStringLiteral("\\s*[:;\u2014].*$"));
+        const QString author = options.surname.isEmpty()
+            ? options.authors.value(0).section(u' ', -1)
+            : options.surname;
+        const QFontMetricsF metrics(font, writer->painter()->device());
+        const QString title = metrics.elidedText(QString(options.title).remove(subtitle).toUpper(),
+                                                 Qt::ElideRight, look.text.width() / 2);
+        QStringList words{author, title, page};
         words.removeAll(QString());
         drawLine(words.join(QLatin1String(" / ")), font, look.text.top() / 2, Qt::AlignRight);
         return;
@@ -309,11 +363,22 @@ void MRVPrintedBook::printHeader(int number, bool beginsChapter)
     drawLine(metrics.elidedText(title, Qt::ElideRight, besideNumber), font, y, Qt::AlignHCenter);
 }
 
+QString MRVPrintedBook::missingCharacters() const
+{
+    QString all;
+    for (const Part &part : parts) {
+        all += part.original->toPlainText();
+    }
+    return MRVPdfWriter::missingCharacters(all, look.font);
+}
+
 int MRVPrintedBook::wideTables() const
 {
     int count = 0;
     for (const Part &part : parts) {
-        count += part.document->wideTables();
+        for (const auto &piece : part.pieces) {
+            count += piece->wideTables();
+        }
     }
     return count;
 }
@@ -324,19 +389,23 @@ QStringList MRVPrintedBook::deadLinks() const
     QSet<QString> names;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         names.insert(u'#' + targetName(int(i), QString()));
-        for (const MrvPrintedTarget &target : parts[i].document->targets()) {
-            names.insert(u'#' + targetName(int(i), target.name));
+        for (const auto &piece : parts[i].pieces) {
+            for (const MrvPrintedTarget &target : piece->targets()) {
+                names.insert(u'#' + targetName(int(i), target.name));
+            }
         }
     }
     QStringList dead;
     QSet<QString> known;
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        for (const MrvPrintedLink &link : parts[i].document->links()) {
-            const QString address = addressOf(link.address, int(i));
-            const bool leadsOut = !address.isEmpty() && !address.startsWith(u'#');
-            if (!leadsOut && !names.contains(address) && !known.contains(link.address)) {
-                known.insert(link.address);
-                dead.append(link.address);
+        for (const auto &piece : parts[i].pieces) {
+            for (const MrvPrintedLink &link : piece->links()) {
+                const QString address = addressOf(link.address, int(i));
+                const bool leadsOut = !address.isEmpty() && !address.startsWith(u'#');
+                if (!leadsOut && !names.contains(address) && !known.contains(link.address)) {
+                    known.insert(link.address);
+                    dead.append(link.address);
+                }
             }
         }
     }
@@ -364,14 +433,15 @@ QString MRVPrintedBook::addressOf(const QString &address, int part) const
 }
 
 // Headings, places and links of what stands on a page.
-void MRVPrintedBook::printPlaces(int index, const MrvPrintedPage &page, const QPointF &origin)
+void MRVPrintedBook::printPlaces(int index, int piece, const MrvPrintedPage &page,
+                                 const QPointF &origin)
 {
-    const MrvPrintedDocument &document = *parts[std::size_t(index)].document;
+    const MrvPrintedDocument &document = *parts[std::size_t(index)].pieces[std::size_t(piece)];
     const auto shown = [&](qreal y) { return y - page.top + origin.y(); };
     const QVector<MrvPrintedHeading> &headings = document.headings();
     const Range here = rangeOf(headings, page);
     for (int k = here.first; k < here.second; ++k) {
-        const QString name = QStringLiteral("heading") + targetName(index, QString::number(k));
+        const QString name = headingName(index, piece, k);
         writer->addOutline(headings.at(k).text, headings.at(k).level, shown(headings.at(k).y));
         writer->addTarget(name, shown(headings.at(k).y));
     }
@@ -399,19 +469,22 @@ void MRVPrintedBook::printPart(int index)
         writer->addTarget(QStringLiteral("part") + targetName(index, QString()), 0);
         drawLine(part.title, titleFont(), top, Qt::AlignHCenter);
     }
-    for (const MrvPrintedPage &page : part.document->pages()) {
-        beginPage(number);
-        if (number == part.firstPage) {
-            writer->addTarget(targetName(index, QString()), 0);
+    for (std::size_t i = 0; i < part.pieces.size(); ++i) {
+        const MrvPrintedDocument &piece = *part.pieces[i];
+        for (const MrvPrintedPage &page : piece.pages()) {
+            beginPage(number);
+            if (number == part.firstPage) {
+                writer->addTarget(targetName(index, QString()), 0);
+            }
+            printHeader(number, page.beginsChapter);
+            const qreal down = page.beginsChapter ? look.chapterTop : 0;
+            const QPointF origin(look.text.left(), look.text.top() + down);
+            writer->painter()->translate(origin);
+            piece.paint(writer->painter(), page);
+            writer->painter()->translate(-origin);
+            printPlaces(index, int(i), page, origin);
+            ++number;
         }
-        printHeader(number, page.beginsChapter);
-        const QPointF origin(look.text.left(),
-                             look.text.top() + (page.beginsChapter ? look.chapterTop : 0));
-        writer->painter()->translate(origin);
-        part.document->paint(writer->painter(), page);
-        writer->painter()->translate(-origin);
-        printPlaces(index, page, origin);
-        ++number;
     }
 }
 
@@ -424,10 +497,17 @@ bool MRVPrintedBook::print(QByteArray *bytes, QString *error)
     const int level = chapterLevel();
     int page = 1;
     for (Part &part : parts) {
-        part.document->layOut(pdf.painter()->device(), level);
+        if (!layOut(&part, level, page == 1)) {
+            if (error) {
+                *error = MRVManuscriptPdf::tr("A table or picture is too long to be printed.");
+            }
+            return false;
+        }
         page += part.title.isEmpty() ? 0 : 1;
         part.firstPage = page;
-        page += part.document->pages().size();
+        for (const auto &piece : part.pieces) {
+            page += piece->pages().size();
+        }
     }
     printTitlePage();
     printContents();
@@ -444,9 +524,15 @@ MRVManuscriptPdf::MRVManuscriptPdf(const MRVPrintOptions &options)
 
 MRVManuscriptPdf::~MRVManuscriptPdf() = default;
 
-void MRVManuscriptPdf::addDocument(const QTextDocument &document, const QString &fileName)
+void MRVManuscriptPdf::addDocument(const QTextDocument &document, const QString &fileName,
+                                   const QString &heading)
 {
-    m_book->add(document, fileName);
+    m_book->add(document, fileName, heading);
+}
+
+QString MRVManuscriptPdf::missingCharacters() const
+{
+    return m_book->missingCharacters();
 }
 
 void MRVManuscriptPdf::addPart(const QString &title)

@@ -4,6 +4,7 @@
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -21,7 +22,8 @@ class QTextDocument;
  * they would not fit; a row of a table stays on one page where it can. Emphasis, lists, tables,
  * pictures and links, also those between notes and their marks, are kept; fonts and sizes of the
  * text in a book, too. A first heading that repeats the title is on the title page alone. The
- * outline has all headings.
+ * outline has all headings. A chapter of more than some 200 pages is divided by one page break
+ * more, between paragraphs.
  *
  * The same documents and options give the same bytes on a machine with the same fonts. GUI thread
  * only.
@@ -42,6 +44,8 @@ class QTextDocument;
  */
 class MRVBASE_EXPORT MRVManuscriptPdf
 {
+    Q_DECLARE_TR_FUNCTIONS(MRVManuscriptPdf)
+
 public:
     /** A document without text. */
     explicit MRVManuscriptPdf(const MRVPrintOptions &options);
@@ -49,12 +53,14 @@ public:
     Q_DISABLE_COPY(MRVManuscriptPdf)
 
     /**
-     * Adds a document after those added before. It is copied; its pictures are fetched from it when
-     * the file is made, so it has to live until then.
+     * Adds a document after those added before. It has to live, unchanged, until the file is made.
      *
      * @param fileName the path by which links of other documents name this one; may be empty.
+     * @param heading  what stands before it, and in the contents, where it does not begin with a
+     *                 heading; may be empty.
      */
-    void addDocument(const QTextDocument &document, const QString &fileName = QString());
+    void addDocument(const QTextDocument &document, const QString &fileName = QString(),
+                     const QString &heading = QString());
 
     /** Has the next document begin a part of the book, whose title stands on a page before it. */
     void addPart(const QString &title);
@@ -70,6 +76,9 @@ public:
      * smallest type; known after toByteArray().
      */
     int wideTables() const;
+
+    /** See MRVPdfWriter::missingCharacters(). */
+    QString missingCharacters() const;
 
     /**
      * Makes the file; only once.

@@ -1,10 +1,12 @@
 #include "pdf/mrvpdfwriter.h"
 
 #include <QBuffer>
+#include <QFontMetricsF>
 #include <QHash>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSet>
 #include <QUrl>
 #include <QVector>
 
@@ -256,8 +258,8 @@ void Completion::addLinks(const QVector<Link> &links, const QHash<QString, Place
     }
 }
 
-// Qt marks the parts of fonts that are in the file by letters, in the order of a hash. Here the order
-// is that of their first use.
+// Qt marks the parts of fonts that are in the file by letters, in the order of a hash. Here the
+// order is that of their first use.
 void Completion::nameFonts(int pageCount)
 {
     QHash<QByteArray, QByteArray> names;
@@ -427,6 +429,25 @@ void MRVPdfWriter::addLink(const QRectF &area, const QString &address)
     if (address.startsWith(u'#') || isOutsideAddress(address)) {
         d->links.append({d->page, area.normalized(), address});
     }
+}
+
+QString MRVPdfWriter::missingCharacters(const QString &text, const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    QSet<uint> known;
+    QString missing;
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint character : characters) {
+        const QChar::Category category = QChar::category(character);
+        const bool isShown = !QChar::isSpace(character) && category != QChar::Other_Control
+            && category != QChar::Other_Format && category != QChar::Mark_NonSpacing
+            && character != QChar::ObjectReplacementCharacter;
+        if (isShown && !known.contains(character)) {
+            known.insert(character);
+            missing += metrics.inFontUcs4(character) ? QString() : QString::fromUcs4(&character, 1);
+        }
+    }
+    return missing;
 }
 
 bool MRVPdfWriter::finish(QByteArray *bytes, QString *error)

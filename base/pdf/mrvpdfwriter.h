@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class QFont;
 class QPainter;
 
 /**
@@ -108,6 +109,12 @@ public:
      *                address of http, https or mailto. For all others nothing is added.
      */
     void addLink(const QRectF &area, const QString &address);
+
+    /**
+     * The characters of @p text that neither @p font nor any other installed font has, each once:
+     * an empty box is painted for them, and nobody finds them in the document.
+     */
+    static QString missingCharacters(const QString &text, const QFont &font);
 
     /**
      * Ends the document, on which nothing can be painted then.

@@ -32,6 +32,7 @@ constexpr int LeastLines = 2;
 // Of a picture's format in a table, in the copy alone: the part of the width that it may have.
 constexpr int ShareProperty = QTextFormat::UserProperty + 1;
 constexpr qreal ShareWithoutPadding = 0.9;
+constexpr int BelowHeadingProperty = QTextFormat::UserProperty + 2; // likewise
 // Qt adds borders to the full width; the margin has space for them.
 constexpr qreal OverhangOfTables = 10 * Scale;
 
@@ -85,38 +86,87 @@ bool hasLargeText(const QTextBlock &block, const QFont &font)
 
 } // namespace
 
-MrvPrintedDocument::MrvPrintedDocument(const QTextDocument &original, const MrvPrintLook &look)
-    : m_original(original)
+MrvPrintedDocument::MrvPrintedDocument(const QTextBlock &first, const QTextBlock &last,
+                                       const MrvPrintLook &look,
+                                       const QHash<QString, QSize> &pictureSizes)
+    : m_original(*first.document())
     , m_look(look)
-    , m_copy(mrvDocumentCopy(original))
+    , m_copy(mrvDocumentCopy(first, last))
+    , m_pictureSizes(pictureSizes)
 {
-    const MRVDocumentPictures pictures(original);
-    const QVector<QTextFormat> formats = original.allFormats();
+    MRVNestedLists::fromLevels(m_copy.get());
+}
+
+QHash<QString, QSize> MrvPrintedDocument::pictureSizesOf(const QTextDocument &document)
+{
+    QHash<QString, QSize> sizes;
+    const MRVDocumentPictures pictures(document);
+    const QVector<MRVDocumentPicture> all = pictures.all();
+    const QVector<QTextFormat> formats = document.allFormats();
     for (const QTextFormat &format : formats) {
-        if (!format.isImageFormat()) {
-            continue;
-        }
-        const QString id = MRVTextFormat::imageResourceId(format.toImageFormat());
-        const int index = pictures.indexOf(id);
-        if (index >= 0) {
-            m_pictureSizes.insert(id, pictures.all().at(index).size());
+        if (format.isImageFormat()) {
+            const QString id = MRVTextFormat::imageResourceId(format.toImageFormat());
+            const int index = pictures.indexOf(id);
+            if (index >= 0) {
+                sizes.insert(id, all.at(index).size());
+            }
         }
     }
-    MRVNestedLists::fromLevels(m_copy.get());
+    return sizes;
+}
+
+QVector<QTextBlock> MrvPrintedDocument::piecesOf(const QTextDocument &document, int chapterLevel)
+{
+    // In characters, of which a page of a manuscript has some 1,500.
+    constexpr int LeastLength = 50000;
+    constexpr int MostLength = 400000;
+    constexpr int OfParagraph = 60; // a line at least
+    constexpr int OfPicture = 2000; // a page at most
+    QVector<QTextBlock> pieces{document.begin()};
+    const QTextFrame *root = document.rootFrame();
+    int length = 0;
+    bool isFree = false; // the paragraph before is in no table, frame or list
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QTextBlockFormat format = block.blockFormat();
+        const int level = MRVTextBlockFormat::headingLevel(format);
+        const bool isOutside = QTextCursor(block).currentFrame() == root && !block.textList();
+        const bool begins = (level > 0 && level <= chapterLevel)
+            || (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore);
+        if (isFree && isOutside && length > (begins ? LeastLength : MostLength)) {
+            pieces.append(block);
+            length = 0;
+        }
+        isFree = isOutside;
+        length += qMax(OfParagraph, block.length());
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            length += it.fragment().charFormat().isImageFormat() ? OfPicture : 0;
+        }
+    }
+    return pieces;
+}
+
+bool MrvPrintedDocument::isTooLong() const
+{
+    constexpr qreal LastDot = 1 << 23; // of QFixed, where it is painted
+    return m_copy->documentLayout()->documentSize().height() >= LastDot;
 }
 
 MrvPrintedDocument::~MrvPrintedDocument() = default;
 
-QVector<int> MrvPrintedDocument::headingLevels() const
+void MrvPrintedDocument::insertHeading(const QString &text, int level)
 {
-    QVector<int> levels;
-    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
-        const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
-        if (level > 0 && !block.text().trimmed().isEmpty()) {
-            levels.append(level);
-        }
-    }
-    return levels;
+    QTextCursor cursor(m_copy.get());
+    const QTextBlockFormat first = cursor.blockFormat();
+    const QTextCharFormat firstChars = cursor.blockCharFormat();
+    QTextBlockFormat format;
+    format.setHeadingLevel(level);
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    bold.setProperty(QTextFormat::FontSizeAdjustment, 2);
+    cursor.insertBlock(first, firstChars);
+    cursor.movePosition(QTextCursor::Start);
+    cursor.setBlockFormat(format);
+    cursor.insertText(text, bold);
 }
 
 void MrvPrintedDocument::removeHeading(const QString &text)
@@ -183,10 +233,6 @@ void MrvPrintedDocument::makeSmaller(QTextCharFormat *format) const
 
 void MrvPrintedDocument::restyleText(const QTextBlock &block)
 {
-    if (const QTextTable *table = QTextCursor(block).currentTable()) {
-        const QTextTableCell cell = table->cellAt(block.position());
-        setShare(block, ShareWithoutPadding * cell.columnSpan() / table->columns());
-    }
     // The cells of a small page are narrow, and lines that an author has broken are long.
     const bool isTight = QTextCursor(block).currentTable() || isPreformatted(block);
     if (m_look.isManuscript) {
@@ -201,15 +247,21 @@ void MrvPrintedDocument::restyleText(const QTextBlock &block)
 }
 
 // For the layout, within which a document cannot be asked for its tables.
-void MrvPrintedDocument::setShare(const QTextBlock &block, qreal share)
+void MrvPrintedDocument::limitPictures(const QTextBlock &block, bool isBelowHeading)
 {
     QVector<QPair<QTextCursor, QTextCharFormat>> changes;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         QTextCharFormat format = it.fragment().charFormat();
-        if (format.isImageFormat()) {
-            format.setProperty(ShareProperty, share);
-            changes.append({cursorOf(it.fragment()), format});
+        if (!format.isImageFormat()) {
+            continue;
         }
+        if (const QTextTable *table = QTextCursor(block).currentTable()) {
+            const QTextTableCell cell = table->cellAt(block.position());
+            format.setProperty(ShareProperty,
+                               ShareWithoutPadding * cell.columnSpan() / table->columns());
+        }
+        format.setProperty(BelowHeadingProperty, isBelowHeading);
+        changes.append({cursorOf(it.fragment()), format});
     }
     for (QPair<QTextCursor, QTextCharFormat> &picture : changes) {
         picture.first.setCharFormat(picture.second);
@@ -290,7 +342,7 @@ void MrvPrintedDocument::restyleBlock(const QTextBlock &block, bool isFirst)
             format.setRightMargin(format.rightMargin() + length);
         }
     }
-    // Qt's layout scales all lengths to the device but this one.
+    // Of lengths across the page, Qt's layout scales none to the device.
     format.setTextIndent(format.textIndent() * DotsPerPixel);
     if (isPlain) {
         const QTextBlock before = block.previous();
@@ -306,13 +358,11 @@ void MrvPrintedDocument::restyleBlock(const QTextBlock &block, bool isFirst)
             format.setTextIndent(m_look.indent * Scale);
         }
     }
-    // Margins in pixels, too, were meant for a screen.
+    // They were meant for a screen, in pixels, which Qt's layout does not scale either.
     const qreal margins = (format.leftMargin() + format.rightMargin()) * DotsPerPixel;
-    const qreal most = m_look.text.width() / 3;
-    if (margins > most) {
-        format.setLeftMargin(format.leftMargin() * most / margins);
-        format.setRightMargin(format.rightMargin() * most / margins);
-    }
+    const qreal fitting = DotsPerPixel * qMin(1.0, m_look.text.width() / 3 / qMax(1.0, margins));
+    format.setLeftMargin(format.leftMargin() * fitting);
+    format.setRightMargin(format.rightMargin() * fitting);
     if (isPlain && isText(format)) {
         format.setAlignment(m_look.isManuscript ? Qt::AlignLeft : Qt::AlignJustify);
     }
@@ -370,6 +420,9 @@ void MrvPrintedDocument::restyle()
         const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
         const bool hasRule = format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
         const bool isBlank = block.text().trimmed().isEmpty();
+        const bool isBelowHeading =
+            MRVTextBlockFormat::headingLevel(block.previous().blockFormat()) > 0;
+        limitPictures(block, isHeading || isBelowHeading);
         restyleText(block);
         divideLongWords(block);
         restyleBlock(block, isFirst);
@@ -399,9 +452,11 @@ QSizeF MrvPrintedDocument::intrinsicSize(QTextDocument *, int, const QTextFormat
     }
     const qreal share =
         format.hasProperty(ShareProperty) ? format.doubleProperty(ShareProperty) : 1;
-    // A line below a picture must still fit.
-    const QSizeF most(m_look.text.width() * share,
-                      m_look.text.height() - 2 * m_look.lineHeight * Scale);
+    // A line below a picture must still fit, and a heading above it.
+    const qreal lines =
+        (format.boolProperty(BelowHeadingProperty) ? 6 : 2) * m_look.lineHeight * Scale;
+    const qreal above = format.boolProperty(BelowHeadingProperty) ? m_look.chapterTop : 0;
+    const QSizeF most(m_look.text.width() * share, m_look.text.height() - lines - above);
     return size.width() > most.width() || size.height() > most.height()
         ? size.scaled(most, Qt::KeepAspectRatio)
         : size;

@@ -60,13 +60,23 @@ class MrvPrintedDocument : public QObject, public QTextObjectInterface
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    MrvPrintedDocument(const QTextDocument &original, const MrvPrintLook &look);
+    /** A copy of the paragraphs from @p first to @p last, of which pictures are fetched later. */
+    MrvPrintedDocument(const QTextBlock &first, const QTextBlock &last, const MrvPrintLook &look,
+                       const QHash<QString, QSize> &pictureSizes);
     ~MrvPrintedDocument() override;
 
-    /** The levels of the headings, in order. */
-    QVector<int> headingLevels() const;
+    /** Adds a heading before all else. */
+    void insertHeading(const QString &text, int level);
     /** Leaves out the first paragraph where it is a heading with this text. */
     void removeHeading(const QString &text);
+    /** The sizes of a document's pictures in pixels, by resource id. */
+    static QHash<QString, QSize> pictureSizesOf(const QTextDocument &document);
+    /**
+     * The places at which a document is divided into such copies: their first paragraphs. Qt's
+     * lengths end at 2^23 dots where it paints, which are some 800 pages.
+     */
+    static QVector<QTextBlock> piecesOf(const QTextDocument &document, int chapterLevel);
+
     /**
      * Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings
      * that begin a page.
@@ -77,6 +87,8 @@ public:
     const QVector<MrvPrintedHeading> &headings() const { return m_headings; }
     const QVector<MrvPrintedTarget> &targets() const { return m_targets; }
     const QVector<MrvPrintedLink> &links() const { return m_links; }
+    /** Whether it is too long to be painted. */
+    bool isTooLong() const;
     /** How many tables do not fit on the paper, however small their type. */
     int wideTables() const { return m_wideTables; }
 
@@ -107,7 +119,7 @@ private:
     void restyleBlock(const QTextBlock &block, bool isFirst);
     void restyleText(const QTextBlock &block);
     void restyle(const QTextBlock &block, const CharFormatChange &change);
-    void setShare(const QTextBlock &block, qreal share);
+    void limitPictures(const QTextBlock &block, bool isBelowHeading);
     QTextCursor cursorOf(const QTextFragment &fragment) const;
     static void clearLook(QTextCharFormat *format);
     void makeSmaller(QTextCharFormat *format) const;
@@ -129,7 +141,7 @@ private:
     const QTextDocument &m_original;
     const MrvPrintLook &m_look;
     std::unique_ptr<QTextDocument> m_copy;
-    QHash<QString, QSize> m_pictureSizes; // in pixels, by resource id
+    const QHash<QString, QSize> &m_pictureSizes; // in pixels, by resource id
     int m_wideTables = 0;
     QVector<Box> m_boxes;
     QVector<MrvPrintedPage> m_pages;

@@ -24,6 +24,7 @@ struct MRVBASE_EXPORT MRVPrintOptions
     QSizeF paper; ///< in points; empty: A5 for a book, Letter for a manuscript
     QString title;
     QStringList authors;
+    QString surname; ///< above the pages of a manuscript; empty: the first author's last word
     QString language; ///< a BCP 47 tag, in which the word for the contents is; may be empty
     QDateTime date; ///< in the file; invalid for none
     bool hasContents = true; ///< a table of contents, where there are two headings or more

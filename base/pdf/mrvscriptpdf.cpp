@@ -4,6 +4,7 @@
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvfixeddate.h"
 
+#include <QMap>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
@@ -47,6 +48,7 @@ public:
     bool select();
     bool isEmpty() const { return m_pages.isEmpty(); }
     bool print(const MRVPdfProperties &properties, QByteArray *bytes, QString *error);
+    QString missingCharacters() const;
 
 private:
     bool selectScenes();
@@ -132,7 +134,7 @@ void Printer::printLine(const Line &line)
     QTextLayout layout(text, m_pagination.font(line.style, {}, dpi));
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
-    option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setTextDirection(line.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setTabStopDistance(MRVScriptPagination::TabDistance * Scale);
     if (line.tabStop > 0) {
@@ -221,6 +223,23 @@ void Printer::printPage(const Page &page)
     }
 }
 
+QString Printer::missingCharacters() const
+{
+    QMap<int, QString> texts; // by style
+    for (const Page &page : m_pages) {
+        for (const Line &line : page.lines) {
+            texts[line.style] += line.text();
+        }
+    }
+    QString missing;
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        const QFont font = m_pagination.font(it.key(), {}, MRVPdfWriter::DotsPerInch);
+        const QString some = MRVPdfWriter::missingCharacters(it.value(), font);
+        missing += missing.contains(some) ? QString() : some;
+    }
+    return missing;
+}
+
 bool Printer::print(const MRVPdfProperties &properties, QByteArray *bytes, QString *error)
 {
     m_hasActs = std::any_of(m_script.elements.cbegin(), m_script.elements.cend(), isAct);
@@ -238,7 +257,7 @@ bool Printer::print(const MRVPdfProperties &properties, QByteArray *bytes, QStri
 } // namespace
 
 QByteArray MRVScriptPdf::toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
-                                     const Options &options, QString *error)
+                                     const Options &options, QString *error, QString *missing)
 {
     MRVPdfProperties properties;
     if (!MRVFixedDate::fromEnvironment(&properties.date, error)) {
@@ -263,6 +282,9 @@ QByteArray MRVScriptPdf::toByteArray(const MRVFountainScript &script, const MRVS
             *error = reason;
         }
         return {};
+    }
+    if (missing) {
+        *missing = printer.missingCharacters();
     }
     return printer.print(properties, &bytes, error) ? bytes : QByteArray();
 }

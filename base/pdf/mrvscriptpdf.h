@@ -53,9 +53,11 @@ public:
      * @param mode    what it looks like, and on which paper.
      * @param options which pages, and what goes on them besides.
      * @param error   if given, receives one translated line on failure; untouched on success.
+     * @param missing if given, receives MRVPdfWriter::missingCharacters() of the script.
      * @return empty on failure: where nothing is left to print, nobody of that name speaks, or
      *         SOURCE_DATE_EPOCH is set to what is no date.
      */
     static QByteArray toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
-                                  const Options &options, QString *error = nullptr);
+                                  const Options &options, QString *error = nullptr,
+                                  QString *missing = nullptr);
 };

@@ -123,6 +123,7 @@ QVector<MrvPrintedLine> measuredLines(const MrvPrintedParagraph &paragraph, int 
     QTextLayout layout(text, font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(paragraph.text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setTabStopDistance(MrvPrintedParagraph::TabDistance * scale);
     const bool isFirst = from == 0;
     if (paragraph.tabStop > 0 && isFirst) {

@@ -32,6 +32,8 @@ constexpr int EighthsPerPage = 8;
 // A paragraph of more lines is divided at any line, so that looking for sentences on each of its
 // pages does not cost the square of its length.
 constexpr int MostLinesWithSentences = 400;
+// What is longer is no name, and neither repeated nor kept in one piece.
+constexpr int MostCueLines = 4;
 constexpr qreal TitleTop = 3 * Inch; // of a title page's first line in the middle
 constexpr qreal TitleGap = 12; // between entries of a title page
 constexpr qreal AfterTitleGap = 36;
@@ -228,7 +230,7 @@ bool MrvScriptPaginator::isBesideTheLast(int cue) const
 int MrvScriptPaginator::collectSpeech(int cue)
 {
     const QVector<Element> &elements = m_script.elements;
-    const bool hasCue = elements.at(cue).kind == Element::Character;
+    bool hasCue = elements.at(cue).kind == Element::Character;
     int end = cue + (hasCue ? 1 : 0);
     QVector<int> parts;
     for (; end < elements.size() && elements.at(end).kind != Element::PageBreak
@@ -245,8 +247,17 @@ int MrvScriptPaginator::collectSpeech(int cue)
         return end;
     }
     if (hasCue) {
-        parts.prepend(cue);
+        const MrvPrintedParagraph paragraph = m_setter.paragraph(elements.at(cue), cue);
+        if (paragraph.lines.size() > MostCueLines) {
+            m_paragraphs.append(paragraph);
+            m_paragraphs.last().keepsWithNext = false;
+            addUnit(Unit::Plain, first);
+            hasCue = false;
+        } else {
+            parts.prepend(cue);
+        }
     }
+    const int firstSpoken = m_paragraphs.size();
     const bool isBeside = hasCue && isBesideTheLast(cue);
     for (const int part : qAsConst(parts)) {
         const Element &element = elements.at(part);
@@ -265,8 +276,8 @@ int MrvScriptPaginator::collectSpeech(int cue)
         unit.kind = Unit::Beside;
         unit.second = unit.end;
         unit.end = m_paragraphs.size();
-    } else if (m_paragraphs.size() > first) {
-        addUnit(Unit::Speech, first);
+    } else if (m_paragraphs.size() > firstSpoken) {
+        addUnit(Unit::Speech, firstSpoken);
     }
     return end;
 }
@@ -309,7 +320,8 @@ qreal MrvScriptPaginator::unitHeight(const Unit &unit) const
 {
     qreal height = 0;
     qreal firstHeight = 0;
-    for (int i = unit.first; i < unit.end; ++i) {
+    // How much more than a page it is makes no difference.
+    for (int i = unit.first; i < unit.end && qMax(height, firstHeight) <= 2 * m_height; ++i) {
         const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
         if (unit.kind == Unit::Beside && i == unit.second) {
             firstHeight = height;
@@ -328,12 +340,14 @@ qreal MrvScriptPaginator::spaceBefore(const Unit &unit) const
     return qMax(m_paragraphs.at(unit.first).before, m_lastAfter);
 }
 
-// The lines of a speech after its cue.
+// The lines of a speech after its cue, or more than two pages have.
 int MrvScriptPaginator::speechLineCount(const Unit &unit) const
 {
     int count = 0;
-    for (int i = unit.first + (hasCue(unit) ? 1 : 0); i < unit.end; ++i) {
+    qreal height = 0;
+    for (int i = unit.first + (hasCue(unit) ? 1 : 0); i < unit.end && height <= 2 * m_height; ++i) {
         count += m_paragraphs.at(i).lines.size();
+        height += m_paragraphs.at(i).height();
     }
     return count;
 }
@@ -542,7 +556,8 @@ void MrvScriptPaginator::addLine(Line::Kind kind, const MrvPrintedParagraph &par
     line.tabStop = isFirst ? paragraph.tabStop : 0;
     line.alignment = paragraph.alignment == Qt::AlignJustify && broken.isLast ? Qt::AlignLeft
                                                                               : paragraph.alignment;
-    if (line.text().isRightToLeft()) {
+    line.isRightToLeft = paragraph.text.isRightToLeft();
+    if (line.isRightToLeft) {
         line.left = 2 * m_paper.left + ColumnWidth - line.left - line.width;
         line.alignment = line.alignment == Qt::AlignRight ? Qt::AlignLeft
             : line.alignment == Qt::AlignHCenter          ? Qt::AlignHCenter
@@ -681,14 +696,21 @@ void MrvScriptPaginator::cutBeside(Unit *unit, qreal height)
             }
         }
     }
-    if (unitHeight(*unit) > 0) {
+    while (unit->first < unit->second && m_paragraphs.at(unit->first).lines.isEmpty()) {
+        ++unit->first;
+    }
+    while (unit->second < unit->end && m_paragraphs.at(unit->second).lines.isEmpty()
+           && unit->first == unit->second) {
+        unit->first = ++unit->second;
+    }
+    if (unit->first < unit->end && unitHeight(*unit) > 0) {
         newPage();
     }
 }
 
 void MrvScriptPaginator::placePart(Unit unit)
 {
-    while (true) {
+    while (unit.first < unit.end) {
         if (unitHeight(unit) <= m_height - m_y + Tolerance) {
             emitUnit(unit);
             return;

@@ -41,6 +41,7 @@ struct MRVBASE_EXPORT MRVScriptLine
     qreal tabStop = 0; ///< from #left, of the first tab in a line that has one
     /** Qt::AlignLeft, AlignRight, AlignHCenter or AlignJustify; of right-to-left text mirrored. */
     Qt::Alignment alignment = Qt::AlignLeft;
+    bool isRightToLeft = false; ///< the paragraph begins with right-to-left text
 
     /** The runs without emphasis. */
     QString text() const;

@@ -744,6 +744,10 @@ Fehler: %2</translation>
         <source>About %1 words</source>
         <translation>Etwa %1 Wörter</translation>
     </message>
+    <message>
+        <source>A table or picture is too long to be printed.</source>
+        <translation>Eine Tabelle oder ein Bild ist zu lang zum Drucken.</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>

@@ -744,6 +744,10 @@ Error: %2</translation>
         <source>About %1 words</source>
         <translation>Unas %1 palabras</translation>
     </message>
+    <message>
+        <source>A table or picture is too long to be printed.</source>
+        <translation>Una tabla o una imagen es demasiado larga para imprimirla.</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>

@@ -744,6 +744,10 @@ Erreur&#xa0;: %2</translation>
         <source>About %1 words</source>
         <translation>Environ %1 mots</translation>
     </message>
+    <message>
+        <source>A table or picture is too long to be printed.</source>
+        <translation>Un tableau ou une image est trop long pour être imprimé.</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>
