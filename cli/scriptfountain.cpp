@@ -18,6 +18,8 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 const QLatin1String StandardStream("-");
@@ -297,8 +299,17 @@ int runScriptRename(const Call &call)
     if (names.at(0).trimmed().isEmpty() || names.at(1).trimmed().isEmpty()) {
         return usageError(QStringLiteral("a name is empty"));
     }
-    if (names.at(1).contains(u'\n') || names.at(1).contains(u'\r')) {
+    const QString name = names.at(1).trimmed();
+    const bool isOneLine = std::none_of(name.cbegin(), name.cend(), [](QChar character) {
+        return character.category() == QChar::Other_Control || character == QChar::LineSeparator
+            || character == QChar::ParagraphSeparator;
+    });
+    if (!isOneLine) {
         return usageError(QStringLiteral("a name is one line"));
+    }
+    if (MRVFountainScript::cueNameLength(name) < name.size() || name.endsWith(u'^')) {
+        return usageError(
+            QStringLiteral("'%1' is more than a name; extensions stay as they are").arg(name));
     }
     MRVScriptFile file;
     QString error;

@@ -87,6 +87,9 @@ void printScene(const Call &call, const QString &path, const MRVScriptScene &sce
 
 int runScriptScenes(const Call &call)
 {
+    if (call.json() && call.has("csv")) {
+        return usageError(QStringLiteral("--json and --csv exclude each other"));
+    }
     const QString path = call.arguments.constFirst();
     MRVScriptFile file;
     MRVScriptMode mode;
@@ -94,9 +97,6 @@ int runScriptScenes(const Call &call)
     QString error;
     if (!readLayout(call, &mode, &layout, &error) || !readScriptFile(call, path, &file, &error)) {
         return refuse(error);
-    }
-    if (call.json() && call.has("csv")) {
-        return usageError(QStringLiteral("--json and --csv exclude each other"));
     }
     const MRVFountainScript script = file.script();
     const QVector<MRVScriptScene> scenes =

@@ -1,6 +1,7 @@
 #include "pdf/mrvscriptpdf.h"
 
 #include "pdf/mrvpdfwriter.h"
+#include "screenplay/mrvscriptcast.h"
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvfixeddate.h"
 
@@ -71,6 +72,7 @@ private:
 bool Printer::selectScenes()
 {
     const QString wanted = m_options.character.simplified().toUpper();
+    const MRVScriptCast cast(m_script);
     QSet<int> scenes; // by the index of the heading
     QVector<int> sceneOf;
     int scene = -1;
@@ -80,8 +82,8 @@ bool Printer::selectScenes()
         scene = element.kind == Element::SceneHeading ? i : scene;
         sceneOf.append(scene);
         if (element.kind == Element::Character) {
-            const QString name = MRVFountainScript::cueName(element.text());
-            speaks = name.simplified().toUpper() == wanted;
+            speaks = MRVScriptCast::nameOf(element.text()) == wanted
+                || cast.namesIn(element.text()).contains(wanted);
         } else if (element.kind < Element::Note && element.kind != Element::Dialogue
                    && element.kind != Element::Parenthetical && element.kind != Element::Lyrics) {
             speaks = false;

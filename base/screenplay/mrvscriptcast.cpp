@@ -2,6 +2,24 @@
 
 #include "screenplay/mrvcueparts_p.h"
 
+#include <algorithm>
+
+namespace {
+
+// What somebody says who has it: ANN'S VOICE is Ann, but ANN'S MOTHER is not.
+bool isVoice(const QString &owned)
+{
+    static const QStringList words =
+        QStringLiteral("VOICE VOICE-OVER VOICEMAIL V.O. VO O.S. THOUGHT THOUGHTS RECORDING MESSAGE "
+                       "STIMME GEDANKEN VOIX VOZ")
+            .split(u' ');
+    return std::any_of(words.cbegin(), words.cend(), [&owned](const QString &word) {
+        return owned == word || owned.endsWith(u' ' + word);
+    });
+}
+
+} // namespace
+
 MRVScriptCast::MRVScriptCast(const MRVFountainScript &script)
 {
     for (const MRVFountainElement &element : script.elements) {
@@ -48,8 +66,9 @@ QStringList MRVScriptCast::namesIn(const QString &cue) const
     for (const MrvCuePart &part : parts) {
         const bool isWhole = parts.size() == 1;
         const QString own = isWhole ? QString() : ownName(name, part.start, part.end);
-        const QString owner =
-            part.ownerEnd < part.end ? ownName(name, part.start, part.ownerEnd) : QString();
+        const bool isOwned = part.ownerEnd < part.end
+            && isVoice(name.mid(part.ownerEnd, part.end - part.ownerEnd).trimmed());
+        const QString owner = isOwned ? ownName(name, part.start, part.ownerEnd) : QString();
         if (own.isNull() && owner.isNull()) {
             return {name};
         }

@@ -34,7 +34,7 @@ public:
 
     /**
      * Whom a cue names: "ANN AND BOB" ANN and BOB, and "ANN'S VOICE" ANN, where each of them has a
-     * cue of their own; otherwise the one name that it is.
+     * cue of their own; otherwise the one name that it is, as is "ANN'S MOTHER".
      */
     QStringList namesIn(const QString &cue) const;
 

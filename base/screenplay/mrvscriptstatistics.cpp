@@ -1,5 +1,6 @@
 #include "screenplay/mrvscriptstatistics.h"
 
+#include "screenplay/mrvscriptcast.h"
 #include "screenplay/mrvscriptpagination.h"
 #include "scriptmode/mrvscriptmode.h"
 
@@ -32,8 +33,9 @@ int wordCount(const QString &text)
 class Counter
 {
 public:
-    explicit Counter(const MRVScriptPagination &pagination)
-        : m_pagination(pagination)
+    Counter(const MRVFountainScript &script, const MRVScriptPagination &pagination)
+        : m_cast(script)
+        , m_pagination(pagination)
     {
     }
 
@@ -43,35 +45,38 @@ private:
     void addElement(const Element &element, int index);
     void addSpeech(int words, int lines, bool isSpoken);
 
+    const MRVScriptCast m_cast;
     const MRVScriptPagination &m_pagination;
     MRVScriptStatistics m_result;
     QHash<QString, int> m_index; // of characters, by name
     QHash<QString, int> m_sceneOf; // the last in which a character spoke
-    QString m_speaker;
+    QStringList m_speakers; // of the last cue
     bool m_hasSpoken = false; // since the cue
 };
 
 void Counter::addSpeech(int words, int lines, bool isSpoken)
 {
-    if (m_speaker.isEmpty()) {
-        return;
+    const int scene = m_result.scenes + 1; // 0 is never
+    for (const QString &speaker : qAsConst(m_speakers)) {
+        if (speaker.isEmpty()) {
+            continue;
+        }
+        if (!m_index.contains(speaker)) {
+            m_index.insert(speaker, m_result.characters.size());
+            m_result.characters.append({speaker, 0, 0, 0, 0});
+        }
+        MRVScriptStatistics::Character &character = m_result.characters[m_index.value(speaker)];
+        if (!m_hasSpoken) {
+            ++character.speeches;
+            character.scenes += m_sceneOf.value(speaker) != scene ? 1 : 0;
+            m_sceneOf.insert(speaker, scene);
+        }
+        if (isSpoken) {
+            character.lines += lines;
+            character.words += words;
+        }
     }
-    if (!m_index.contains(m_speaker)) {
-        m_index.insert(m_speaker, m_result.characters.size());
-        m_result.characters.append({m_speaker, 0, 0, 0, 0});
-    }
-    MRVScriptStatistics::Character &character = m_result.characters[m_index.value(m_speaker)];
-    if (!m_hasSpoken) {
-        m_hasSpoken = true;
-        ++character.speeches;
-        const int scene = m_result.scenes + 1; // 0 is never
-        character.scenes += m_sceneOf.value(m_speaker) != scene ? 1 : 0;
-        m_sceneOf.insert(m_speaker, scene);
-    }
-    if (isSpoken) {
-        character.lines += lines;
-        character.words += words;
-    }
+    m_hasSpoken = true;
 }
 
 void Counter::addElement(const Element &element, int index)
@@ -84,10 +89,10 @@ void Counter::addElement(const Element &element, int index)
         || element.kind == Element::Parenthetical
         || (element.kind == Element::Lyrics && !element.apart);
     if (element.kind == Element::Character) {
-        m_speaker = MRVFountainScript::cueName(element.text()).simplified().toUpper();
+        m_speakers = m_cast.namesIn(element.text());
         m_hasSpoken = false;
     } else if (!isSpeech) {
-        m_speaker.clear();
+        m_speakers.clear();
     }
     m_result.scenes += element.kind == Element::SceneHeading ? 1 : 0;
     const int words = wordCount(element.text());
@@ -123,7 +128,7 @@ MRVScriptStatistics MRVScriptStatistics::of(const MRVFountainScript &script)
 MRVScriptStatistics MRVScriptStatistics::of(const MRVFountainScript &script,
                                             const MRVScriptPagination &pagination)
 {
-    return Counter(pagination).count(script);
+    return Counter(script, pagination).count(script);
 }
 
 QString MRVScriptStatistics::pagesText() const

@@ -20,7 +20,10 @@ class QJsonObject;
  */
 struct MRVBASE_EXPORT MRVScriptStatistics
 {
-    /** What one character says in the whole script. */
+    /**
+     * What one character says in the whole script. A speech of two counts for both of them: see
+     * MRVScriptCast::namesIn().
+     */
     struct Character
     {
         QString name; ///< in capitals
