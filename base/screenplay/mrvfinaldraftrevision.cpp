@@ -167,9 +167,14 @@ QVector<int> placesOf(const MrvRunUnits &units, const Letters &letters, bool isO
         const MrvRunUnit &unit = units.at(i);
         const auto isUnit = [&](const Letter &letter) {
             const QChar found = letter.unit.character;
-            const bool isLineEnd = found == u'\n' || found == u'\r';
+            // As reading a script changes them: see withPlainLineEnds().
+            const bool isLineEnd = found == u'\n' || found == u'\r' || found == QChar(0x85)
+                || found == QChar(QChar::LineSeparator)
+                || found == QChar(QChar::ParagraphSeparator);
+            const bool isReplaced = unit.character == QChar(QChar::ReplacementCharacter)
+                && (found == QChar(0xfdd0) || found == QChar(0xfdd1));
             return (isOneKind || letter.unit.kind == unit.kind)
-                && (found == unit.character
+                && (found == unit.character || isReplaced
                     || (isLineEnd && (unit.character == u' ' || unit.character == u'\n')));
         };
         const auto found = std::find_if(letters.cbegin() + at, letters.cend(), isUnit);
