@@ -175,7 +175,8 @@ private Q_SLOTS:
                                                    return element.kind < Element::Note
                                                        || element.kind == Element::PageBreak;
                                                });
-                if (!isLastPage && next->kind != Element::PageBreak && last.kind == Line::Text) {
+                if (!isLastPage && next != script.elements.cend()
+                    && next->kind != Element::PageBreak && last.kind == Line::Text) {
                     const QByteArray place =
                         QString("seed %1 page %2").arg(seed).arg(page.number).toUtf8();
                     const Element::Kind kind = script.elements.at(last.element).kind;
