@@ -230,7 +230,7 @@ private Q_SLOTS:
                 shown = dialog->windowTitle();
                 for (const QLabel *label : dialog->findChildren<QLabel *>()) {
                     if (label->objectName() == "siteDescription") {
-                        shown += ", " + label->text();
+                        shown += ", " + label->text().remove(QChar(0x200b));
                     }
                     if (label->height() < label->heightForWidth(label->width())) {
                         shown += ", cut off: " + label->text();

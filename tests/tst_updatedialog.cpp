@@ -2,9 +2,14 @@
 #include "support.h"
 #include "web.h"
 
+#include "download/mrvdownloaduserinput.h"
+#include "download/mrvmessage.h"
+#include "download/mrvservertext.h"
 #include "update/mrvcheckforupdatesdialog.h"
 
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -102,6 +107,68 @@ private Q_SLOTS:
             4 * status->fontMetrics().height());
     const QSize screen = dialog.screen()->availableSize();
     QCOMPARE(dialog.size().boundedTo(screen), dialog.size());
+  }
+
+  void serverTexts_data() { addRows("servertexts.tsv"); }
+  void serverTexts() {
+    QFETCH(QString, text);
+    const bool isAddress = cell("case").startsWith("address");
+    QTEST(isAddress ? MRVServerText::address(QUrl(text))
+                    : MRVServerText::shortened(text),
+          "shown");
+  }
+
+  void boxes_data() {
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<QString>("part");
+    const QString long300 = QString("x").repeated(300);
+    const QString million = QString("reason ").repeated(150000);
+    QTest::newRow("redirect")
+        << "http://host.example/" + long300 << "http://host.example/";
+    QTest::newRow("password")
+        << "password http://host.example/" + long300 << "http://host.example/";
+    QTest::newRow("realm") << "realm " + million << "http://host.example/";
+    QTest::newRow("message") << "message " + million << "reason";
+    QTest::newRow("word") << "message " + QString("x").repeated(1000000)
+                          << "xxx";
+  }
+  // Fits on a small screen, at once, and Return gives nothing away.
+  void boxes() {
+    QFETCH(QString, question);
+    const QString rest = question.section(' ', 1);
+    bool isAsked = false;
+    QElapsedTimer clock;
+    clock.start();
+    QTimer::singleShot(0, this, [&] {
+      auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+      QVERIFY(dialog);
+      const auto close = qScopeGuard([dialog] { dialog->reject(); });
+      QCoreApplication::processEvents();
+      QVERIFY2(dialog->width() < 700,
+               qPrintable(QString::number(dialog->width())));
+      QVERIFY2(dialog->height() < 500,
+               qPrintable(QString::number(dialog->height())));
+      auto *box = qobject_cast<QMessageBox *>(dialog);
+      const QString text =
+          box ? box->text()
+              : dialog->findChild<QLabel *>("siteDescription")->text();
+      QVERIFY2(text.contains(cell("part")), qPrintable(text));
+      QVERIFY(!question.startsWith("http") ||
+              box->defaultButton() == box->button(QMessageBox::No));
+      isAsked = true;
+    });
+    MRVDownloadUserInput input;
+    if (question.startsWith("message")) {
+      mrvShowMessage(nullptr, QMessageBox::Warning, "title", rest);
+    } else if (question.startsWith("password")) {
+      input.authenticate("realm", QUrl(rest), nullptr, nullptr);
+    } else if (question.startsWith("realm")) {
+      input.authenticate(rest, QUrl("http://host.example/"), nullptr, nullptr);
+    } else {
+      input.redirectTo(QUrl(question));
+    }
+    QVERIFY(isAsked);
+    QVERIFY(clock.elapsed() < 2000 * SanitizerTime);
   }
 };
 

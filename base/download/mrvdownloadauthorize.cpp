@@ -1,5 +1,6 @@
 #include "download/mrvdownloadauthorize_p.h"
 
+#include "download/mrvservertext.h"
 #include "ui_mrvdownloadauthorize.h"
 
 #include <QLayout>
@@ -15,7 +16,7 @@ MRVDownloadAuthorize::~MRVDownloadAuthorize() = default;
 
 void MRVDownloadAuthorize::setSite(const QString &site)
 {
-    m_ui->siteDescription->setText(site);
+    m_ui->siteDescription->setText(MRVServerText::breakable(site));
     // A dialog does not grow by itself when an address, or a translated text, takes more lines.
     resize(width(), layout()->totalHeightForWidth(width()));
 }

@@ -15,7 +15,7 @@ public:
     explicit MRVDownloadAuthorize(QWidget *parent = nullptr);
     ~MRVDownloadAuthorize() override;
 
-    /** Shown as plain text, since a server chooses a part of it. */
+    /** Shown as plain text, since a server chooses a part of it; long words are broken. */
     void setSite(const QString &site);
     /** The cursor waits in the first field that is empty. */
     void setCredentials(const QString &user, const QString &password);

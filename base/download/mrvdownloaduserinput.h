@@ -31,6 +31,7 @@ public:
      */
     bool authenticate(const QString &realm, const QUrl &url, QString *user,
                       QString *password) override;
+    /** Asks in a box in which Return means No. */
     bool redirectTo(const QUrl &url) override;
     bool ignoreSslErrors(const QStringList &errors) override;
 
