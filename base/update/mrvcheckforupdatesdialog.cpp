@@ -1,7 +1,9 @@
 #include "update/mrvcheckforupdatesdialog.h"
 
 #include "core/mrvcore.h"
+#include "download/mrvservertext.h"
 #include "ui_mrvcheckforupdatesdialog.h"
+#include "update/mrvdownloadpace_p.h"
 #include "update/mrvreleasenotesview_p.h"
 #include "update/msharedresources.h"
 #include "version/mversion.h"
@@ -24,23 +26,7 @@ constexpr int LogoSize = 48;
 constexpr int CharactersWide = 90;
 constexpr int LinesHigh = 34;
 constexpr int LinesOfNotes = 6; // at least
-constexpr int LongestWord = 60;
-
-// Adds break opportunities to words, such as addresses, that would be wider than the screen.
-QString breakable(const QString &text)
-{
-    QString result;
-    int length = 0;
-    for (const QChar c : text) {
-        length = c.isSpace() ? 0 : length + 1;
-        if (length > LongestWord && !c.isLowSurrogate()) {
-            result += QChar(0x200b); // zero width space
-            length = 1;
-        }
-        result += c;
-    }
-    return result;
-}
+constexpr int TickLength = 1000; // milliseconds
 
 } // namespace
 
@@ -48,6 +34,7 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::MRVCheckForUpdatesDialog>())
     , m_releaseNotesUrl(releaseNotesUrl)
+    , m_pace(std::make_unique<MRVDownloadPace>())
 {
     m_ui->setupUi(this);
     m_ui->appLogo->setPixmap(QPixmap::fromImage(logoImage()));
@@ -57,11 +44,11 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
     connect(m_ui->installButton, &QPushButton::clicked, this,
             &MRVCheckForUpdatesDialog::installUpdate);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    m_clock.start();
+    m_ticker.setInterval(TickLength);
+    connect(&m_ticker, &QTimer::timeout, this, &MRVCheckForUpdatesDialog::tellProgress);
     m_ui->downloadButton->setFocus();
-    const QFontMetrics metrics = fontMetrics();
-    const QSize wanted(metrics.averageCharWidth() * CharactersWide,
-                       metrics.lineSpacing() * LinesHigh);
-    resize(wanted.boundedTo(availableSize()));
+    takeFullSize();
 }
 
 MRVCheckForUpdatesDialog::~MRVCheckForUpdatesDialog() = default;
@@ -75,29 +62,92 @@ QImage MRVCheckForUpdatesDialog::logoImage()
         : image.scaled(LogoSize, LogoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
+void MRVCheckForUpdatesDialog::setStep(Step step)
+{
+    m_step = step;
+    const bool isChecking = step == Step::Checking;
+    m_ui->webView->setVisible(!isChecking);
+    m_ui->progressBar->setVisible(step != Step::Failed);
+    m_ui->progressLabel->setVisible(step == Step::Downloading);
+    m_ui->downloadButton->setVisible(!isChecking);
+    m_ui->downloadButton->setEnabled(step == Step::Available || step == Step::Failed);
+    m_ui->installButton->setVisible(step == Step::Ready);
+    *m_pace = MRVDownloadPace();
+    m_ui->progressLabel->clear();
+    if (step == Step::Downloading) {
+        m_ticker.start();
+    } else {
+        m_ticker.stop();
+    }
+}
+
+void MRVCheckForUpdatesDialog::showChecking()
+{
+    setStep(Step::Checking);
+    m_ui->progressBar->setRange(0, 0);
+    statusMsg(tr("Checking for updates..."));
+    adjustSize();
+}
+
+void MRVCheckForUpdatesDialog::endChecking()
+{
+    setStep(Step::Available);
+    m_ui->progressBar->setRange(0, 100);
+    m_ui->progressBar->setValue(0);
+    m_ui->downloadButton->setFocus();
+    takeFullSize();
+    if (isVisible()) {
+        showReleaseNotes();
+    }
+}
+
 void MRVCheckForUpdatesDialog::versions(const QString &current, const QString &available)
 {
-    statusMsg(tr("You are currently running %1 %2. Version %3 is available.\n\nClick the Download "
-                 "Update button to begin the download. (You will not be able to use %1 while the "
-                 "update is downloading.) When the download has finished, click Install Update to "
-                 "close %1 and launch the update installer.\n\nChoose Cancel if you do not wish to "
-                 "update at this time.")
-                  .arg(QCoreApplication::applicationName(), current, available));
+    if (m_step == Step::Checking) {
+        endChecking();
+    }
+    m_ui->statusLabel->setText(
+        tr("You are currently running %1 %2. Version %3 is available.\n\nClick the Download "
+           "Update button to begin the download. (You will not be able to use %1 while the "
+           "update is downloading.) When the download has finished, click Install Update to "
+           "close %1 and launch the update installer.\n\nChoose Cancel if you do not wish to "
+           "update at this time.")
+            .arg(QCoreApplication::applicationName(), current,
+                 MRVServerText::shortened(available)));
 }
 
 void MRVCheckForUpdatesDialog::statusMsg(const QString &text)
 {
-    m_ui->statusLabel->setText(breakable(text));
+    m_ui->statusLabel->setText(
+        MRVServerText::breakable(MRVServerText::shortened(text, MRVServerText::LongestMessage)));
 }
 
 void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
 {
-    statusMsg(text);
-    m_ui->progressBar->hide();
+    statusMsg(MRVServerText::shortened(text));
+    if (m_step != Step::Downloading) {
+        m_ui->progressBar->hide();
+        return;
+    }
+    setStep(Step::Failed);
+    m_ui->downloadButton->setText(tr("Try Again"));
+    if (!focusWidget()) {
+        m_ui->downloadButton->setFocus();
+    }
 }
 
 void MRVCheckForUpdatesDialog::updateDownloadProgress(qint64 bytesRead, qint64 total)
 {
+    if (m_step == Step::Checking) {
+        return; // that of the feed
+    }
+    if (m_step == Step::Downloading) {
+        const bool isFirst = !m_pace->hasBegun();
+        m_pace->setBytes(bytesRead, total);
+        if (isFirst) {
+            tellProgress();
+        }
+    }
     // The bar counts in int: larger sizes are scaled down.
     while (total > std::numeric_limits<int>::max()) {
         total /= 2;
@@ -108,7 +158,13 @@ void MRVCheckForUpdatesDialog::updateDownloadProgress(qint64 bytesRead, qint64 t
         return;
     }
     m_ui->progressBar->setMaximum(int(total));
-    m_ui->progressBar->setValue(int(qMin(bytesRead, total)));
+    m_ui->progressBar->setValue(int(qBound(qint64(0), bytesRead, total)));
+}
+
+void MRVCheckForUpdatesDialog::tellProgress()
+{
+    m_pace->tick(m_clock.elapsed());
+    m_ui->progressLabel->setText(m_pace->text(locale()));
 }
 
 void MRVCheckForUpdatesDialog::downloadUpdate()
@@ -124,7 +180,7 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
     // The focus would move on to the Cancel button, where a key that is pressed twice would end the
     // download.
     m_ui->downloadButton->clearFocus();
-    m_ui->downloadButton->setEnabled(false);
+    setStep(Step::Downloading);
     m_ui->downloadButton->setText(tr("Downloading Update"));
     m_ui->progressBar->setValue(0);
     Q_EMIT downloadRequested();
@@ -164,7 +220,7 @@ void MRVCheckForUpdatesDialog::enableInstallButton()
 {
     // Deliberate: this one text is not translated.
     m_ui->downloadButton->setText(QStringLiteral("Downloaded Update"));
-    m_ui->installButton->show();
+    setStep(Step::Ready);
     m_ui->installButton->setDefault(true);
     // A user who reads the notes may be pressing keys at this moment.
     const QWidget *const focus = focusWidget();
@@ -194,6 +250,14 @@ bool MRVCheckForUpdatesDialog::event(QEvent *event)
     return isHandled;
 }
 
+void MRVCheckForUpdatesDialog::takeFullSize()
+{
+    const QFontMetrics metrics = fontMetrics();
+    const QSize wanted(metrics.averageCharWidth() * CharactersWide,
+                       metrics.lineSpacing() * LinesHigh);
+    resize(wanted.boundedTo(availableSize()));
+}
+
 QSize MRVCheckForUpdatesDialog::availableSize() const
 {
     return screen()->availableSize();
@@ -210,7 +274,9 @@ void MRVCheckForUpdatesDialog::keepStatusWhole()
 
 void MRVCheckForUpdatesDialog::showEvent(QShowEvent *event)
 {
-    showReleaseNotes();
+    if (m_step != Step::Checking) {
+        showReleaseNotes();
+    }
     QDialog::showEvent(event);
 }
 

@@ -3,10 +3,14 @@
 #include "util/mrvbase_export.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
+
+class MRVDownloadPace;
 
 namespace Ui {
 class MRVCheckForUpdatesDialog;
@@ -40,25 +44,35 @@ public:
 
 public Q_SLOTS:
     /**
+     * For a check that the user waits for: says so, and shows nothing but that, a busy bar and the
+     * Cancel button, until versions() is called. The release notes are not fetched before.
+     */
+    void showChecking();
+    /**
      * Shows which version runs, @p current, and which is offered, @p available, and what the
      * buttons do.
      */
     void versions(const QString &current, const QString &available);
     /**
-     * Shows a text; in words of more than 60 characters, such as addresses, places to break them
-     * are put.
+     * Shows a message as plain text; of a longer one than MRVServerText::LongestMessage the middle
+     * is left out.
      */
     void statusMsg(const QString &text);
-    /** As statusMsg(), and hides the progress bar for good. */
+    /**
+     * Shows an error in the words of a server, of which MRVServerText::Longest QChars are shown,
+     * and hides the progress bar. Where a download was running, the download button then offers to
+     * try again, which emits downloadRequested() and shows the bar once more.
+     */
     void errorMsg(const QString &text);
     /**
      * Counts @p bytesRead and @p total in bytes; a total that is unknown (negative, or 0) shows a
-     * busy bar.
+     * busy bar. While a download runs, the line below tells the bytes, the speed and the time that
+     * is left, once a second. Without meaning before versions() while showChecking() holds.
      */
     void updateDownloadProgress(qint64 bytesRead, qint64 total);
     /**
-     * What the download button does: asks for the download, unless the user could not install it;
-     * then says why.
+     * What the download button does, at first and to try again: asks for the download, unless the
+     * user could not install it; then says why.
      */
     void downloadUpdate();
     /** The installer is there, and valid. */
@@ -79,6 +93,12 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    enum class Step { Checking, Available, Downloading, Failed, Ready };
+
+    void setStep(Step step);
+    void endChecking();
+    void tellProgress();
+    void takeFullSize();
     QSize availableSize() const;
     void keepStatusWhole();
     void showReleaseNotes();
@@ -86,4 +106,8 @@ private:
 
     std::unique_ptr<Ui::MRVCheckForUpdatesDialog> m_ui;
     QString m_releaseNotesUrl; // empty once the page is being shown
+    Step m_step = Step::Available;
+    std::unique_ptr<MRVDownloadPace> m_pace;
+    QElapsedTimer m_clock;
+    QTimer m_ticker; // once a second while a download runs
 };

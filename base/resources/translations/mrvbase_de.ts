@@ -140,6 +140,51 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>The release notes cannot be shown.</source>
         <translation>Die Versionshinweise können nicht angezeigt werden.</translation>
     </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Nach Updates wird gesucht&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>a few seconds left</source>
+        <translation>noch wenige Sekunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n seconds left</source>
+        <translation>
+            <numerusform>noch %n Sekunde</numerusform>
+            <numerusform>noch %n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes left</source>
+        <translation>
+            <numerusform>noch %n Minute</numerusform>
+            <numerusform>noch %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours left</source>
+        <translation>
+            <numerusform>noch %n Stunde</numerusform>
+            <numerusform>noch %n Stunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2/s</source>
+        <translation>%1, %2/s</translation>
+    </message>
+    <message>
+        <source>%1, %2/s, %3</source>
+        <translation>%1, %2/s, %3</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>

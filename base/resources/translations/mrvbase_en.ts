@@ -22,6 +22,30 @@
     </message>
 </context>
 <context>
+    <name>MRVCheckForUpdatesDialog</name>
+    <message numerus="yes">
+        <source>%n seconds left</source>
+        <translation>
+            <numerusform>%n second left</numerusform>
+            <numerusform>%n seconds left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes left</source>
+        <translation>
+            <numerusform>%n minute left</numerusform>
+            <numerusform>%n minutes left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours left</source>
+        <translation>
+            <numerusform>%n hour left</numerusform>
+            <numerusform>%n hours left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MRVShortcutScheme</name>
     <message numerus="yes">
         <source>it is damaged or truncated; shortcuts that could be read: %n</source>

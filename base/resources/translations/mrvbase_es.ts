@@ -140,6 +140,51 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>The release notes cannot be shown.</source>
         <translation>No se pueden mostrar las notas de la versión.</translation>
     </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Buscando actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>a few seconds left</source>
+        <translation>quedan unos segundos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n seconds left</source>
+        <translation>
+            <numerusform>queda %n segundo</numerusform>
+            <numerusform>quedan %n segundos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes left</source>
+        <translation>
+            <numerusform>queda %n minuto</numerusform>
+            <numerusform>quedan %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours left</source>
+        <translation>
+            <numerusform>queda %n hora</numerusform>
+            <numerusform>quedan %n horas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1, %2/s</source>
+        <translation>%1, %2/s</translation>
+    </message>
+    <message>
+        <source>%1, %2/s, %3</source>
+        <translation>%1, %2/s, %3</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>

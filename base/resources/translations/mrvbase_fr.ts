@@ -140,6 +140,51 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>The release notes cannot be shown.</source>
         <translation>Impossible d’afficher les notes de version.</translation>
     </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Recherche de mises à jour…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>a few seconds left</source>
+        <translation>encore quelques secondes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n seconds left</source>
+        <translation>
+            <numerusform>encore %n seconde</numerusform>
+            <numerusform>encore %n secondes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes left</source>
+        <translation>
+            <numerusform>encore %n minute</numerusform>
+            <numerusform>encore %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours left</source>
+        <translation>
+            <numerusform>encore %n heure</numerusform>
+            <numerusform>encore %n heures</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, %2/s</source>
+        <translation>%1, %2/s</translation>
+    </message>
+    <message>
+        <source>%1, %2/s, %3</source>
+        <translation>%1, %2/s, %3</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>
