@@ -4,6 +4,7 @@
 #include "document/mrvdocumentpictures.h"
 #include "input/mrvguardeddocument.h"
 #include "pdf/mrvpdfwriter.h"
+#include "pdf/mrvprintstyler_p.h"
 #include "text/mrvnestedlists.h"
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
@@ -13,7 +14,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextList>
 #include <QTextTable>
 #include <QUrl>
 
@@ -22,67 +22,12 @@
 namespace {
 
 constexpr qreal Scale = MRVPdfWriter::DotsPerPoint;
-constexpr qreal PixelsPerPoint =
-    96.0 / 72; // Qt's layout scales lengths of formats from 96 to the inch
 constexpr qreal DotsPerPixel = MRVPdfWriter::DotsPerInch / 96.0;
 constexpr qreal DotsPerPrintedPixel = MRVPdfWriter::DotsPerInch / 300.0; // finer is not seen
-constexpr qreal LargestUsualMargin = 16; // in pixels: HTML's distance of paragraphs
 constexpr qreal Tolerance = 1; // in dots
 constexpr int LeastLines = 2;
-// Of a picture's format in a table, in the copy alone: the part of the width that it may have.
-constexpr int ShareProperty = QTextFormat::UserProperty + 1;
-constexpr qreal ShareWithoutPadding = 0.9;
-constexpr int BelowHeadingProperty = QTextFormat::UserProperty + 2; // likewise
 // Qt adds borders to the full width; the margin has space for them.
 constexpr qreal OverhangOfTables = 10 * Scale;
-
-bool isText(const QTextBlockFormat &format)
-{
-    const Qt::Alignment alignment = format.alignment() & Qt::AlignHorizontal_Mask;
-    return !alignment || alignment == Qt::AlignLeft || alignment == Qt::AlignJustify;
-}
-
-bool hasPicture(const QTextBlock &block)
-{
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        if (it.fragment().charFormat().isImageFormat()) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool isPreformatted(const QTextBlock &block)
-{
-    return block.blockFormat().nonBreakableLines();
-}
-
-// All frames and tables within a frame.
-QVector<QTextFrame *> framesOf(QTextFrame *frame)
-{
-    QVector<QTextFrame *> frames{frame};
-    for (int i = 0; i < frames.size(); ++i) {
-        for (QTextFrame *child : frames.at(i)->childFrames()) {
-            frames.append(child);
-        }
-    }
-    return frames.mid(1);
-}
-
-// Whether lines of a given height would cut off something, or lie over each other.
-bool hasLargeText(const QTextBlock &block, const QFont &font)
-{
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        const QTextCharFormat format = it.fragment().charFormat();
-        const qreal pixels = format.intProperty(QTextFormat::FontPixelSize);
-        if (format.isImageFormat() || format.intProperty(QTextFormat::FontSizeAdjustment) > 0
-            || format.fontPointSize() > font.pointSizeF()
-            || pixels > font.pointSizeF() * PixelsPerPoint) {
-            return true;
-        }
-    }
-    return false;
-}
 
 } // namespace
 
@@ -181,256 +126,6 @@ void MrvPrintedDocument::removeHeading(const QString &text)
     }
 }
 
-// Fonts that a typewriter does not have.
-void MrvPrintedDocument::clearLook(QTextCharFormat *format)
-{
-    for (const int property :
-         {int(QTextFormat::FontFamily), int(QTextFormat::FontFamilies),
-          int(QTextFormat::FontPointSize), int(QTextFormat::FontPixelSize),
-          int(QTextFormat::FontSizeAdjustment), int(QTextFormat::ForegroundBrush),
-          int(QTextFormat::BackgroundBrush)}) {
-        format->clearProperty(property);
-    }
-}
-
-// Replaces a small capital by a capital in smaller type: painted into a PDF document, Qt's own are
-// lost.
-void MrvPrintedDocument::setSmallCapitals(QTextCursor *cursor, const QTextCharFormat &format) const
-{
-    QTextCharFormat large = format;
-    large.clearProperty(QTextFormat::FontCapitalization);
-    QTextCharFormat small = large;
-    makeSmaller(&small);
-    const QString text = cursor->selectedText();
-    for (int start = 0; start < text.size();) {
-        const bool isLower = text.at(start).isLower();
-        int end = start + 1;
-        while (end < text.size() && text.at(end).isLower() == isLower) {
-            ++end;
-        }
-        const QString piece = text.mid(start, end - start);
-        cursor->insertText(isLower ? piece.toUpper() : piece, isLower ? small : large);
-        start = end;
-    }
-}
-
-void MrvPrintedDocument::makeSmaller(QTextCharFormat *format) const
-{
-    constexpr qreal factor = 0.8;
-    if (format->hasProperty(QTextFormat::FontPixelSize)) {
-        const int pixels = format->intProperty(QTextFormat::FontPixelSize);
-        format->setProperty(QTextFormat::FontPixelSize, qMax(1, qRound(pixels * factor)));
-        return;
-    }
-    // As Qt adjusts the size of a font, which it does in seven steps only.
-    constexpr qreal adjusted[] = {0.7, 0.8, 1, 1.2, 1.5, 2, 2.4};
-    const int step = format->intProperty(QTextFormat::FontSizeAdjustment) + 2;
-    const qreal own =
-        format->fontPointSize() > 0 ? format->fontPointSize() : m_look.font.pointSizeF();
-    format->clearProperty(QTextFormat::FontSizeAdjustment);
-    format->setFontPointSize(own * adjusted[qBound(0, step, 6)] * factor);
-}
-
-void MrvPrintedDocument::restyleText(const QTextBlock &block)
-{
-    // The cells of a small page are narrow, and lines that an author has broken are long.
-    const bool isTight = QTextCursor(block).currentTable() || isPreformatted(block);
-    if (m_look.isManuscript) {
-        restyle(block, clearLook);
-    } else {
-        restyle(block, [this, isTight](QTextCharFormat *format) {
-            if (isTight) {
-                makeSmaller(format);
-            }
-        });
-    }
-}
-
-// For the layout, within which a document cannot be asked for its tables.
-void MrvPrintedDocument::limitPictures(const QTextBlock &block, bool isBelowHeading)
-{
-    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        QTextCharFormat format = it.fragment().charFormat();
-        if (!format.isImageFormat()) {
-            continue;
-        }
-        if (const QTextTable *table = QTextCursor(block).currentTable()) {
-            const QTextTableCell cell = table->cellAt(block.position());
-            format.setProperty(ShareProperty,
-                               ShareWithoutPadding * cell.columnSpan() / table->columns());
-        }
-        format.setProperty(BelowHeadingProperty, isBelowHeading);
-        changes.append({cursorOf(it.fragment()), format});
-    }
-    for (QPair<QTextCursor, QTextCharFormat> &picture : changes) {
-        picture.first.setCharFormat(picture.second);
-    }
-}
-
-QTextCursor MrvPrintedDocument::cursorOf(const QTextFragment &fragment) const
-{
-    QTextCursor cursor(m_copy.get());
-    cursor.setPosition(fragment.position());
-    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-    return cursor;
-}
-
-// Lines are broken between words, so that cells of tables do not cut theirs; but an address may be
-// longer than a line.
-void MrvPrintedDocument::divideLongWords(const QTextBlock &block)
-{
-    constexpr int MostLetters = 30;
-    constexpr int Piece = 10;
-    constexpr QChar Opportunity(0x200b); // a space without width
-    const QString text = block.text();
-    QVector<int> places;
-    for (int start = 0, at = 0; at <= text.size(); ++at) {
-        if (at < text.size() && !text.at(at).isSpace()) {
-            continue;
-        }
-        for (int place = start + Piece; at - start > MostLetters && place < at; place += Piece) {
-            const bool isInside = text.at(place).isLowSurrogate() || text.at(place).isMark();
-            places.append(place - (isInside ? 1 : 0));
-        }
-        start = at + 1;
-    }
-    QTextCursor cursor(m_copy.get());
-    for (auto place = places.crbegin(); place != places.crend(); ++place) {
-        cursor.setPosition(block.position() + *place);
-        cursor.insertText(Opportunity);
-    }
-}
-
-// Changes the formats of a paragraph's text, and its small capitals.
-void MrvPrintedDocument::restyle(const QTextBlock &block, const CharFormatChange &change)
-{
-    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-        const QTextFragment fragment = it.fragment();
-        QTextCharFormat format = fragment.charFormat();
-        if (format.isImageFormat()) {
-            continue;
-        }
-        change(&format);
-        if (format != fragment.charFormat() || format.fontCapitalization() == QFont::SmallCaps) {
-            changes.append({cursorOf(fragment), format});
-        }
-    }
-    for (QPair<QTextCursor, QTextCharFormat> &text : changes) {
-        if (text.second.fontCapitalization() == QFont::SmallCaps) {
-            setSmallCapitals(&text.first, text.second);
-        } else {
-            text.first.setCharFormat(text.second);
-        }
-    }
-}
-
-void MrvPrintedDocument::restyleBlock(const QTextBlock &block, bool isFirst)
-{
-    QTextBlockFormat format = block.blockFormat();
-    QTextCursor cursor(block);
-    const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
-    const bool isPlain =
-        !isHeading && !block.textList() && !cursor.currentTable() && !isPreformatted(block);
-    for (const auto &indent : {qMakePair(int(MRVTextFormat::BlockLeftIndent), true),
-                               qMakePair(int(MRVTextFormat::BlockRightIndent), false)}) {
-        const qreal length = format.doubleProperty(indent.first) * PixelsPerPoint;
-        if (length > 0 && indent.second) {
-            format.setLeftMargin(format.leftMargin() + length);
-        } else if (length > 0) {
-            format.setRightMargin(format.rightMargin() + length);
-        }
-    }
-    // Of lengths across the page, Qt's layout scales none to the device.
-    format.setTextIndent(format.textIndent() * DotsPerPixel);
-    if (isPlain) {
-        const QTextBlock before = block.previous();
-        const bool isApart = before.textList() || QTextCursor(before).currentTable();
-        if (format.topMargin() <= LargestUsualMargin) {
-            format.setTopMargin(isApart ? m_look.lineHeight / 2 * PixelsPerPoint : 0);
-        }
-        if (format.bottomMargin() <= LargestUsualMargin) {
-            format.setBottomMargin(0);
-        }
-        if (isText(format) && format.leftMargin() <= 0 && format.textIndent() == 0
-            && (!isFirst || m_look.isManuscript)) {
-            format.setTextIndent(m_look.indent * Scale);
-        }
-    }
-    // They were meant for a screen, in pixels, which Qt's layout does not scale either.
-    const qreal margins = (format.leftMargin() + format.rightMargin()) * DotsPerPixel;
-    const qreal fitting = DotsPerPixel * qMin(1.0, m_look.text.width() / 3 / qMax(1.0, margins));
-    format.setLeftMargin(format.leftMargin() * fitting);
-    format.setRightMargin(format.rightMargin() * fitting);
-    if (isPlain && isText(format)) {
-        format.setAlignment(m_look.isManuscript ? Qt::AlignLeft : Qt::AlignJustify);
-    }
-    if (isHeading && m_look.isManuscript) {
-        format.setAlignment(Qt::AlignHCenter);
-    }
-    const bool isLarge = m_look.isManuscript ? hasPicture(block) : hasLargeText(block, m_look.font);
-    if (!isLarge && (isPlain || (m_look.isManuscript && !cursor.currentTable()))) {
-        format.setLineHeight(m_look.lineHeight * PixelsPerPoint, QTextBlockFormat::FixedHeight);
-    }
-    format.clearProperty(QTextFormat::BlockNonBreakableLines); // they would leave the paper
-    cursor.setBlockFormat(format);
-}
-
-// Widths in pixels were meant for a screen, and may be wider than the paper.
-void MrvPrintedDocument::restyleFrame(QTextFrame *frame)
-{
-    const auto isTooWide = [this](const QTextLength &length) {
-        return length.type() == QTextLength::FixedLength
-            && length.rawValue() * DotsPerPixel > m_look.text.width();
-    };
-    auto *table = qobject_cast<QTextTable *>(frame);
-    QTextFrameFormat format = frame->frameFormat();
-    if (isTooWide(format.width())) {
-        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
-        frame->setFrameFormat(format);
-    }
-    if (table) {
-        QTextTableFormat look = table->format();
-        const QVector<QTextLength> columns = look.columnWidthConstraints();
-        const bool isFixed = std::any_of(columns.cbegin(), columns.cend(), [](const auto &width) {
-            return width.type() == QTextLength::FixedLength;
-        });
-        if (isFixed) {
-            look.clearColumnWidthConstraints();
-            table->setFormat(look);
-        }
-    }
-}
-
-void MrvPrintedDocument::restyle()
-{
-    m_copy->setDefaultFont(m_look.font);
-    m_copy->setDocumentMargin(0);
-    const QVector<QTextFrame *> frames = framesOf(m_copy->rootFrame());
-    for (QTextFrame *frame : frames) {
-        restyleFrame(frame);
-    }
-    QTextCursor edit(m_copy.get());
-    edit.beginEditBlock();
-    // The first paragraph after a heading, a blank or a rule has no indent.
-    bool isFirst = true;
-    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
-        const QTextBlockFormat format = block.blockFormat();
-        const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
-        const bool hasRule = format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
-        const bool isBlank = block.text().trimmed().isEmpty();
-        const bool isBelowHeading =
-            MRVTextBlockFormat::headingLevel(block.previous().blockFormat()) > 0;
-        limitPictures(block, isHeading || isBelowHeading);
-        restyleText(block);
-        divideLongWords(block);
-        restyleBlock(block, isFirst);
-        isFirst = isHeading || hasRule || isBlank || !isText(format) || hasPicture(block);
-    }
-    edit.endEditBlock();
-}
-
 QSizeF MrvPrintedDocument::intrinsicSize(QTextDocument *, int, const QTextFormat &format)
 {
     const QTextImageFormat image = format.toImageFormat();
@@ -450,12 +145,14 @@ QSizeF MrvPrintedDocument::intrinsicSize(QTextDocument *, int, const QTextFormat
     if (size.isEmpty()) {
         return QSizeF(0, 0);
     }
-    const qreal share =
-        format.hasProperty(ShareProperty) ? format.doubleProperty(ShareProperty) : 1;
+    const qreal share = format.hasProperty(MrvPrintStyler::ShareProperty)
+        ? format.doubleProperty(MrvPrintStyler::ShareProperty)
+        : 1;
     // A line below a picture must still fit, and a heading above it.
-    const qreal lines =
-        (format.boolProperty(BelowHeadingProperty) ? 6 : 2) * m_look.lineHeight * Scale;
-    const qreal above = format.boolProperty(BelowHeadingProperty) ? m_look.chapterTop : 0;
+    const qreal lines = (format.boolProperty(MrvPrintStyler::BelowHeadingProperty) ? 6 : 2)
+        * m_look.lineHeight * Scale;
+    const qreal above =
+        format.boolProperty(MrvPrintStyler::BelowHeadingProperty) ? m_look.chapterTop : 0;
     const QSizeF most(m_look.text.width() * share, m_look.text.height() - lines - above);
     return size.width() > most.width() || size.height() > most.height()
         ? size.scaled(most, Qt::KeepAspectRatio)
@@ -480,14 +177,15 @@ void MrvPrintedDocument::drawObject(QPainter *painter, const QRectF &area, QText
 
 void MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
 {
-    restyle();
+    MrvPrintStyler styler(m_copy.get(), m_look);
+    styler.restyle();
     QAbstractTextDocumentLayout *layout = m_copy->documentLayout();
     layout->setPaintDevice(device);
     layout->registerHandler(QTextFormat::ImageObject, this);
     setWrapMode(QTextOption::WordWrap);
     m_copy->setTextWidth(m_look.text.width());
     layout->documentSize(); // lays out all of it
-    shrinkTables();
+    shrinkTables(&styler);
     collect(m_copy->rootFrame(), chapterLevel);
     if (!m_boxes.isEmpty()) {
         m_boxes.first().beginsChapter = true;
@@ -506,7 +204,7 @@ void MrvPrintedDocument::setWrapMode(QTextOption::WrapMode mode)
 QVector<QTextTable *> MrvPrintedDocument::wideTablesNow() const
 {
     QVector<QTextTable *> tables;
-    const QVector<QTextFrame *> frames = framesOf(m_copy->rootFrame());
+    const QVector<QTextFrame *> frames = MrvPrintStyler::framesOf(m_copy->rootFrame());
     for (QTextFrame *frame : frames) {
         auto *table = qobject_cast<QTextTable *>(frame);
         const QRectF area = m_copy->documentLayout()->frameBoundingRect(frame);
@@ -518,7 +216,7 @@ QVector<QTextTable *> MrvPrintedDocument::wideTablesNow() const
 }
 
 // Qt lets a table whose words need more than the width leave the paper.
-void MrvPrintedDocument::shrinkTables()
+void MrvPrintedDocument::shrinkTables(MrvPrintStyler *styler)
 {
     constexpr int MostSteps = 4; // to less than half the size
     QVector<QTextTable *> tables = wideTablesNow();
@@ -526,7 +224,7 @@ void MrvPrintedDocument::shrinkTables()
         QTextCursor edit(m_copy.get());
         edit.beginEditBlock();
         for (const QTextTable *table : qAsConst(tables)) {
-            shrinkTable(*table);
+            styler->shrink(*table);
         }
         edit.endEditBlock();
         m_copy->documentLayout()->documentSize();
@@ -538,15 +236,6 @@ void MrvPrintedDocument::shrinkTables()
         tables = wideTablesNow();
     }
     m_wideTables = tables.size();
-}
-
-void MrvPrintedDocument::shrinkTable(const QTextTable &table)
-{
-    const int end = table.lastPosition();
-    for (QTextBlock block = m_copy->findBlock(table.firstPosition());
-         block.isValid() && block.position() <= end; block = block.next()) {
-        restyle(block, [this](QTextCharFormat *format) { makeSmaller(format); });
-    }
 }
 
 void MrvPrintedDocument::collectBlock(const QTextBlock &block, int chapterLevel)

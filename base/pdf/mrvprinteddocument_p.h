@@ -9,16 +9,13 @@
 #include <QTextOption>
 #include <QVector>
 
-#include <functional>
 #include <memory>
 
+class MrvPrintStyler;
 class QPaintDevice;
 class QPainter;
 class QTextBlock;
-class QTextCharFormat;
-class QTextCursor;
 class QTextDocument;
-class QTextFragment;
 class QTextFrame;
 class QTextTable;
 
@@ -100,8 +97,6 @@ public:
                     const QTextFormat &format) override;
 
 private:
-    using CharFormatChange = std::function<void(QTextCharFormat *)>;
-
     // What no page break divides, from top to bottom.
     struct Box
     {
@@ -114,21 +109,9 @@ private:
         bool beginsChapter = false;
     };
 
-    void restyle();
-    void restyleFrame(QTextFrame *frame);
-    void restyleBlock(const QTextBlock &block, bool isFirst);
-    void restyleText(const QTextBlock &block);
-    void restyle(const QTextBlock &block, const CharFormatChange &change);
-    void limitPictures(const QTextBlock &block, bool isBelowHeading);
-    QTextCursor cursorOf(const QTextFragment &fragment) const;
-    static void clearLook(QTextCharFormat *format);
-    void makeSmaller(QTextCharFormat *format) const;
-    void setSmallCapitals(QTextCursor *cursor, const QTextCharFormat &format) const;
-    void divideLongWords(const QTextBlock &block);
     void setWrapMode(QTextOption::WrapMode mode);
     QVector<QTextTable *> wideTablesNow() const;
-    void shrinkTables();
-    void shrinkTable(const QTextTable &table);
+    void shrinkTables(MrvPrintStyler *styler);
     void collect(QTextFrame *frame, int chapterLevel);
     void collectBlock(const QTextBlock &block, int chapterLevel);
     void collectTable(QTextTable *table);
