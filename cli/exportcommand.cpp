@@ -431,6 +431,11 @@ bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscr
         notes.append(QStringLiteral("tables that are wider than the paper, and cut off: %1")
                          .arg(pdf.wideTables()));
     }
+    if (pdf.flattenedTables() > 0) {
+        notes.append(QStringLiteral("tables within four others, of which the rows are lines of "
+                                    "text: %1")
+                         .arg(pdf.flattenedTables()));
+    }
     if (!acceptLosses(options, notes, error) || !writeOutput(bytes, file, error)) {
         return false;
     }

@@ -171,6 +171,7 @@ bool call(const QString &name, QTextDocument *d, const QString &question, const 
         {"replaceAll", [&] { M::replaceAll(d, format, formatOf(b), equal); }},
         {"normalizePageBreaks", [&] { M::normalizePageBreaks(d); }},
         {"tablesToText", [&] { M::tablesToText(d); }},
+        {"nestedTablesToText", [&] { M::nestedTablesToText(d, a.toInt()); }},
         {"copyBlockFormat", [&] { M::setBlockFormatByBlockNumber(d, a.toInt(), M::blockFormatByBlockNumber(d, b.toInt())); }},
         {"setCharFormat", [&] { M::setCharFormatByBlockNumber(d, a.toInt(), formatOf(b)); }},
     };

@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
 #include <QtTest>
 
 #include <algorithm>
@@ -406,6 +407,31 @@ private Q_SLOTS:
             at = read.indexOf(QString("para%1x").arg(i), at);
             QVERIFY2(at >= 0, qPrintable(QString::number(i)));
         }
+    }
+
+    /// Qt's layout takes twice the time for each level of tables.
+    void nestedTables()
+    {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        QStringList words;
+        for (int level = 0; level < 40; ++level) {
+            words.append(QString("level%1").arg(level));
+            cursor.insertText(words.constLast() + '\n');
+            QTextTable *table = cursor.insertTable(2, 2);
+            words.append(QString("below%1").arg(level));
+            table->cellAt(1, 0).firstCursorPosition().insertText(words.constLast());
+            cursor = table->cellAt(0, 1).firstCursorPosition();
+        }
+        MRVManuscriptPdf pdf({});
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        QCOMPARE(pdf.flattenedTables(), 36);
+        QStringList read = wordsOf(pdfText(bytes, {"-raw"})).filter("E"); // no page numbers
+        read.sort();
+        words.sort();
+        QCOMPARE(read.join(' '), words.join(' ').toUpper());
     }
 
     void manuscriptDetails()

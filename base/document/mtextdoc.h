@@ -301,9 +301,16 @@ public:
      * Characters keep their formats, and images stay. Each line has the paragraph format that it
      * had in its first cell, but belongs to no list. The text starts a paragraph of its own, for
      * which an empty paragraph before the table is used up; so is an empty one that only closes the
-     * document, cell or frame after the table. Takes time linear in the text and in its nesting.
+     * document, cell or frame after the table. Takes linear time.
      */
     static void tablesToText(QTextDocument *document);
+    /**
+     * The same for the tables alone that are nested more deeply.
+     *
+     * @param depth of how many tables around it on a table becomes text; 0 or less for all.
+     * @return how many were replaced, those within one another counted each.
+     */
+    static int nestedTablesToText(QTextDocument *document, int depth);
 
     // Paragraphs by number, from 0; table cells count. Those that do not exist are passed over.
 

@@ -33,46 +33,86 @@ struct Line
     }
 };
 
-Line emptyLine(const QTextBlock &block)
+// The lines that replace a table. Tables within it give theirs where they stand, so that each text
+// is taken once, however deeply it is nested.
+class TableLines
 {
-    Line line;
-    line.format = block.blockFormat();
-    line.format.clearProperty(QTextFormat::ObjectIndex);
-    return line;
-}
+public:
+    explicit TableLines(const QTextTable &table) { addTable(table); }
 
-void appendRuns(Line *line, const QTextBlock &block)
-{
-    for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
-        line->pieces.push_back({it.fragment().text(), it.fragment().charFormat()});
-    }
-}
+    const std::vector<Line> &lines() const { return m_lines; }
 
-// The cell's first paragraph continues the last line, or starts a line at the row's start.
-void appendCell(std::vector<Line> *lines, const QTextTableCell &cell, bool startsRow)
+private:
+    enum Start { NewLine, AfterTab, SameLine }; // where the next paragraph begins
+
+    void addTable(const QTextTable &table);
+    void addContents(QTextFrame::iterator it);
+    void addParagraph(const QTextBlock &block);
+    void takeBack(Start start);
+
+    std::vector<Line> m_lines;
+    Start m_start = NewLine;
+};
+
+void TableLines::addParagraph(const QTextBlock &block)
 {
-    QTextBlock block = cell.firstCursorPosition().block();
-    if (startsRow) {
-        lines->push_back(emptyLine(block));
-    } else {
-        Line &line = lines->back();
+    if (m_start == NewLine) {
+        Line line;
+        line.format = block.blockFormat();
+        line.format.clearProperty(QTextFormat::ObjectIndex);
+        m_lines.push_back(line);
+    } else if (m_start == AfterTab) {
+        Line &line = m_lines.back();
         QTextCharFormat format = line.lastFormat();
         if (format.isImageFormat()) {
             format = QTextCharFormat();
         }
         line.pieces.push_back({QStringLiteral("\t"), format});
     }
-    appendRuns(&lines->back(), block);
-    for (block = block.next(); block.isValid() && block.position() <= cell.lastPosition();
-         block = block.next()) {
-        lines->push_back(emptyLine(block));
-        appendRuns(&lines->back(), block);
+    for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+        m_lines.back().pieces.push_back({it.fragment().text(), it.fragment().charFormat()});
+    }
+    m_start = NewLine;
+}
+
+// Uses up an empty paragraph, which began at start, for the table after it.
+void TableLines::takeBack(Start start)
+{
+    if (start == NewLine) {
+        m_lines.pop_back();
+    } else {
+        m_start = SameLine;
     }
 }
 
-std::vector<Line> linesOf(const QTextTable &table)
+// The first paragraph continues the last line, or starts a line at the row's start.
+void TableLines::addContents(QTextFrame::iterator it)
 {
-    std::vector<Line> lines;
+    bool followsTable = false;
+    while (!it.atEnd()) {
+        QTextFrame *frame = it.currentFrame();
+        const QTextBlock block = it.currentBlock();
+        ++it;
+        auto *table = qobject_cast<QTextTable *>(frame);
+        if (table) {
+            addTable(*table);
+        } else if (frame) {
+            addContents(frame->begin());
+        } else if (block.length() > 1) {
+            addParagraph(block);
+        } else if (!followsTable || (!it.atEnd() && !it.currentFrame())) {
+            const Start start = m_start;
+            addParagraph(block);
+            if (!it.atEnd() && qobject_cast<QTextTable *>(it.currentFrame())) {
+                takeBack(start);
+            }
+        }
+        followsTable = table;
+    }
+}
+
+void TableLines::addTable(const QTextTable &table)
+{
     for (int row = 0; row < table.rows(); ++row) {
         bool startsRow = true;
         for (int column = 0; column < table.columns(); ++column) {
@@ -80,11 +120,14 @@ std::vector<Line> linesOf(const QTextTable &table)
             if (cell.row() != row || cell.column() != column) {
                 continue; // covered by a cell that was visited already
             }
-            appendCell(&lines, cell, startsRow);
+            if (!startsRow) {
+                m_start = AfterTab;
+            }
+            addContents(cell.begin());
+            m_start = NewLine;
             startsRow = false;
         }
     }
-    return lines;
 }
 
 // Whether an empty paragraph after a table exists only because a document must end with one.
@@ -128,7 +171,7 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
     const QTextDocument *document = cursor->document();
     const int start = table.firstPosition() - 1;
     const int end = table.lastPosition() + 1;
-    const std::vector<Line> lines = linesOf(table);
+    const TableLines lines(table);
     const bool keepsBefore = document->findBlock(start).length() > 1;
     const QTextBlock after = document->findBlock(end);
     const bool keepsAfter = !onlyCloses(*document, after);
@@ -146,20 +189,30 @@ void replaceByText(QTextCursor *cursor, const QTextTable &table)
         cursor->insertBlock(afterFormat, afterCharFormat);
         cursor->setPosition(start);
     }
-    insertLines(cursor, lines, keepsBefore);
+    insertLines(cursor, lines.lines(), keepsBefore);
 }
 
-// Each table once, an outer one before those in its cells, which a walk over cells would meet again
-// for each place that a cell covers.
-std::vector<QTextTable *> tablesOf(const QTextDocument &document)
+// The tables with a number of tables around them, each once: a walk over cells would meet them
+// again for each place that a cell covers.
+std::vector<QTextTable *> tablesOf(const QTextDocument &document, int depth, int *count)
 {
+    struct Nested
+    {
+        QTextFrame *frame;
+        int depth;
+    };
     std::vector<QTextTable *> tables;
-    std::vector<QTextFrame *> frames{document.rootFrame()};
+    std::vector<Nested> frames{{document.rootFrame(), 0}};
     for (std::size_t i = 0; i < frames.size(); ++i) {
-        const QList<QTextFrame *> children = frames[i]->childFrames();
-        frames.insert(frames.end(), children.begin(), children.end());
-        if (auto *table = qobject_cast<QTextTable *>(frames[i])) {
+        const Nested outer = frames[i];
+        auto *table = qobject_cast<QTextTable *>(outer.frame);
+        *count += table && outer.depth >= depth ? 1 : 0;
+        if (table && outer.depth == depth) {
             tables.push_back(table);
+        }
+        const QList<QTextFrame *> children = outer.frame->childFrames();
+        for (QTextFrame *child : children) {
+            frames.push_back({child, outer.depth + (table ? 1 : 0)});
         }
     }
     return tables;
@@ -169,9 +222,16 @@ std::vector<QTextTable *> tablesOf(const QTextDocument &document)
 
 void MTextDoc::tablesToText(QTextDocument *document)
 {
-    const auto tables = document ? tablesOf(*document) : std::vector<QTextTable *>();
+    nestedTablesToText(document, 0);
+}
+
+int MTextDoc::nestedTablesToText(QTextDocument *document, int depth)
+{
+    int count = 0;
+    const auto tables =
+        document ? tablesOf(*document, qMax(0, depth), &count) : std::vector<QTextTable *>();
     if (tables.empty()) {
-        return;
+        return 0;
     }
     QTextCursor cursor(document);
     cursor.beginEditBlock();
@@ -180,4 +240,5 @@ void MTextDoc::tablesToText(QTextDocument *document)
         replaceByText(&cursor, **it);
     }
     cursor.endEditBlock();
+    return count;
 }

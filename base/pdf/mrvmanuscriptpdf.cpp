@@ -53,7 +53,7 @@ public:
     void add(const QTextDocument &document, const QString &fileName, const QString &heading);
     bool print(QByteArray *bytes, QString *error);
     QStringList deadLinks() const;
-    int wideTables() const;
+    int countOf(int (MrvPrintedDocument::*tables)() const) const;
     QString missingCharacters() const;
 
 private:
@@ -372,12 +372,12 @@ QString MRVPrintedBook::missingCharacters() const
     return MRVPdfWriter::missingCharacters(all, look.font);
 }
 
-int MRVPrintedBook::wideTables() const
+int MRVPrintedBook::countOf(int (MrvPrintedDocument::*tables)() const) const
 {
     int count = 0;
     for (const Part &part : parts) {
         for (const auto &piece : part.pieces) {
-            count += piece->wideTables();
+            count += (*piece.*tables)();
         }
     }
     return count;
@@ -547,7 +547,12 @@ QStringList MRVManuscriptPdf::deadLinks() const
 
 int MRVManuscriptPdf::wideTables() const
 {
-    return m_book->wideTables();
+    return m_book->countOf(&MrvPrintedDocument::wideTables);
+}
+
+int MRVManuscriptPdf::flattenedTables() const
+{
+    return m_book->countOf(&MrvPrintedDocument::flattenedTables);
 }
 
 bool MRVManuscriptPdf::toByteArray(QByteArray *bytes, QString *error)

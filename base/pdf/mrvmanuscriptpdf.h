@@ -19,11 +19,11 @@ class QTextDocument;
  * A chapter begins a page: a heading of the highest level that occurs more than once, what follows
  * a page break, and each document. No heading stands alone at the foot of a page, and of a
  * paragraph at least two lines stand on either side of a page break. Pictures become smaller where
- * they would not fit; a row of a table stays on one page where it can. Emphasis, lists, tables,
- * pictures and links, also those between notes and their marks, are kept; fonts and sizes of the
- * text in a book, too. A first heading that repeats the title is on the title page alone. The
- * outline has all headings. A chapter of more than some 200 pages is divided by one page break
- * more, between paragraphs.
+ * they would not fit; a row of a table stays on one page where it can, and a table within four
+ * others becomes lines of text. Emphasis, lists, tables, pictures and links, also those between
+ * notes and their marks, are kept; fonts and sizes of the text in a book, too. A first heading that
+ * repeats the title is on the title page alone. The outline has all headings. A chapter of more
+ * than some 200 pages is divided by one page break more, between paragraphs.
  *
  * The same documents and options give the same bytes on a machine with the same fonts. GUI thread
  * only.
@@ -76,6 +76,12 @@ public:
      * smallest type; known after toByteArray().
      */
     int wideTables() const;
+
+    /**
+     * How many tables are printed as lines of text, a row each, since there are four tables or more
+     * around them; known after toByteArray().
+     */
+    int flattenedTables() const;
 
     /** See MRVPdfWriter::missingCharacters(). */
     QString missingCharacters() const;

@@ -2,6 +2,7 @@
 
 #include "document/mrvdocumentcopy.h"
 #include "document/mrvdocumentpictures.h"
+#include "document/mtextdoc.h"
 #include "input/mrvguardeddocument.h"
 #include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvprintstyler_p.h"
@@ -39,6 +40,9 @@ MrvPrintedDocument::MrvPrintedDocument(const QTextBlock &first, const QTextBlock
     , m_copy(mrvDocumentCopy(first, last))
     , m_pictureSizes(pictureSizes)
 {
+    // Qt's layout takes twice the time for each level.
+    constexpr int MostNestedTables = 4;
+    m_flattenedTables = MTextDoc::nestedTablesToText(m_copy.get(), MostNestedTables);
     MRVNestedLists::fromLevels(m_copy.get());
 }
 

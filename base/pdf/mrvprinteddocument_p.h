@@ -88,6 +88,8 @@ public:
     bool isTooLong() const;
     /** How many tables do not fit on the paper, however small their type. */
     int wideTables() const { return m_wideTables; }
+    /** How many tables are lines of text, since they are nested too deeply. */
+    int flattenedTables() const { return m_flattenedTables; }
 
     /** Paints a page's part, with its top where the painter has its origin. */
     void paint(QPainter *painter, const MrvPrintedPage &page) const;
@@ -126,6 +128,7 @@ private:
     std::unique_ptr<QTextDocument> m_copy;
     const QHash<QString, QSize> &m_pictureSizes; // in pixels, by resource id
     int m_wideTables = 0;
+    int m_flattenedTables = 0;
     QVector<Box> m_boxes;
     QVector<MrvPrintedPage> m_pages;
     QVector<MrvPrintedHeading> m_headings;
