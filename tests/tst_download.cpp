@@ -3,6 +3,7 @@
 #include "rawserver.h"
 #include "support.h"
 
+#include "core/mrvpartialfile.h"
 #include "download/mrvdownloadsilentinput.h"
 #include "download/mrvdownloadurl.h"
 #include "download/mrvdownloaduserinput.h"
@@ -387,6 +388,152 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(folder.filePath("got")).size(), BigSize);
         const qint64 limit = (2 + CopiesWhileGrowing) * qint64(BigSize);
         QVERIFY2(HeapMeter::peak() <= limit, QByteArray::number(qlonglong(HeapMeter::peak())));
+    }
+
+    void bodies_data()
+    {
+        using Body = MRVDownloadUrl::Body;
+        QTest::addColumn<Body>("body");
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<bool>("isConverted");
+        QTest::newRow("text") << Body::Text << QByteArray("; charset=latin1") << true;
+        QTest::newRow("raw") << Body::Raw << QByteArray("; charset=latin1") << false;
+        QTest::newRow("text all the same")
+            << Body::RawUnlessText << QByteArray("; charset=latin1") << true;
+        QTest::newRow("UTF-8") << Body::RawUnlessText << QByteArray("; charset=utf-8") << false;
+        QTest::newRow("bytes") << Body::RawUnlessText << QByteArray("") << false;
+    }
+    // A raw file has the very bytes, which are delivered only where none is asked for.
+    void bodies()
+    {
+        QFETCH(MRVDownloadUrl::Body, body);
+        QFETCH(QByteArray, type);
+        QFETCH(bool, isConverted);
+        const QByteArray bytes = "a\xe9\xff";
+        const QByteArray expected = isConverted ? QString::fromLatin1(bytes).toUtf8() : bytes;
+        const QUrl url = m_own.answer(
+            "/raw", "HTTP/1.1 200 OK\r\nContent-Type: a/b" + type + "\r\n\r\n" + bytes);
+        QTemporaryDir folder;
+        Download download;
+        download.url->setBody(body);
+        QVERIFY(download.url->download(url));
+        QTRY_COMPARE(download.deliveries, 1);
+        QCOMPARE(download.data, body == MRVDownloadUrl::Body::Raw ? bytes : expected);
+        QVERIFY(download.url->downloadToFile(url, folder.filePath("got")));
+        QTRY_COMPARE(download.finals, 1);
+        QCOMPARE(download.error, QString());
+        QCOMPARE(bytesOf(folder.filePath("got")), expected);
+        QCOMPARE(download.deliveries, expected == bytes ? 1 : 2);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"got"});
+    }
+
+    void resumes_data() { addRows("download-resumes.tsv"); }
+    // After an answer that breaks off after "hello", another request for the same file.
+    void resumes()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath("got");
+        QVERIFY(writeBytes(file, "old"));
+        const QByteArray headers =
+            "Date: Sun, 22 Nov 2026 10:00:00 GMT\r\n" + cell("headers").toUtf8();
+        QUrl url = m_own.answer(
+            "/part", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n" + headers + "\r\nhello");
+        {
+            Download download;
+            download.url->setBody(MRVDownloadUrl::Body::Raw);
+            download.url->setResumable(true);
+            QVERIFY(download.url->downloadToFile(url, file));
+            QTRY_COMPARE(download.finals, 1);
+            QVERIFY(!download.error.isEmpty());
+        }
+        QCOMPARE(bytesOf(file), QByteArray("old"));
+        const bool isKept = !cell("asked").isEmpty();
+        QCOMPARE(QFile::exists(file + ".part"), isKept);
+        QCOMPARE(bytesOf(file + ".part"), isKept ? QByteArray("hello") : QByteArray());
+
+        if (cell("other") == "yes") {
+            url = m_own.url("/other");
+        }
+        m_own.answer(url.path(), cell("answer").toUtf8());
+        Download download;
+        download.url->setBody(MRVDownloadUrl::Body::Raw);
+        download.url->setResumable(true);
+        QVERIFY(download.url->downloadToFile(url, file));
+        QTRY_COMPARE(download.finals, 1);
+        const QByteArray request = m_own.requests().constLast();
+        const QByteArray asked = cell("other") == "yes" ? QByteArray() : cell("asked").toUtf8();
+        QVERIFY2(request.contains("Range: bytes=5-\r\nIf-Range: " + asked + "\r\n")
+                     == !asked.isEmpty(),
+                 request);
+        QVERIFY2(fits(download.error, cell("error")), qPrintable(download.error));
+        QCOMPARE(bytesOf(file),
+                 cell("error").isEmpty() ? cell("data").toUtf8() : QByteArray("old"));
+        if (cell("error").isEmpty()) {
+            QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"got"});
+        }
+    }
+
+    // There is nothing to go on with, and the server has no such part: it comes once more.
+    void resumesWhole()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath("got");
+        const QUrl url = m_nginx->url("/whole");
+        MRVHttpAccess access;
+        QNetworkReply *const head = access.head(QNetworkRequest(url));
+        QTRY_VERIFY(head->isFinished());
+        QVERIFY(!head->rawHeader("ETag").isEmpty() && head->readAll().isEmpty());
+        {
+            MRVPartialFile part(file);
+            QVERIFY(part.open() && part.restart(url.toEncoded() + '\n' + head->rawHeader("ETag"))
+                    && part.append("secret"));
+        }
+        QVERIFY(QFile::exists(file + ".part"));
+        Download download;
+        download.url->setBody(MRVDownloadUrl::Body::Raw);
+        download.url->setResumable(true);
+        QVERIFY(download.url->downloadToFile(url, file));
+        QTRY_COMPARE(download.finals, 1);
+        QCOMPARE(download.error, QString());
+        QCOMPARE(bytesOf(file), QByteArray("secret"));
+    }
+
+    // What lies in the way of the part is not written into; another program's part is left alone.
+    void partInTheWay()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath("got");
+        const QString victim = folder.filePath("victim");
+        QVERIFY(writeBytes(victim, "mine"));
+        QVERIFY(QFile::link(victim, file + ".part"));
+        QString error;
+        {
+            MRVPartialFile part(file);
+            QVERIFY2(part.open(&error) && part.append("new", &error), qPrintable(error));
+            MRVPartialFile other(file);
+            QVERIFY(!other.open(&error));
+            QVERIFY2(error.contains("another program"), qPrintable(error));
+            QVERIFY(part.putInPlace(&error));
+        }
+        QCOMPARE(bytesOf(victim), QByteArray("mine"));
+        QCOMPARE(bytesOf(file), QByteArray("new"));
+        QVERIFY(
+            QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+        {
+            MRVPartialFile part(file);
+            QVERIFY(part.open() && part.append("newer") && part.putInPlace());
+        }
+        QVERIFY(QFileInfo(file).permission(QFile::ReadOther)
+                && !QFileInfo(file).permission(QFile::ReadGroup));
+        // After a fall of the machine the part may have holes.
+        {
+            MRVPartialFile part(file);
+            QVERIFY(part.open() && part.restart("from") && part.append("hole"));
+        }
+        QVERIFY(writeBytes(file + ".part.origin", "an earlier boot\nfrom"));
+        MRVPartialFile part(file);
+        QVERIFY(part.open());
+        QCOMPARE(part.origin(), QByteArray());
     }
 
     void refusals_data() { addRows("download-refusals.tsv"); }

@@ -34,6 +34,7 @@ constexpr Module modules[] = {
     {"platform/network", 0, "Core Network"},
 
     {"base/util",        1, "Core Gui"},
+    {"base/http",        2, "Core Network curl/curl.h openssl/ssl.h openssl/x509v3.h zlib.h"},
     {"base/input",       2, "Core Gui"},
 
     {"base/autoreplace", 3, "Core Gui"},

@@ -1,12 +1,16 @@
 #include "download/mrvdownloadurl.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvpartialfile.h"
 #include "download/mrvdownloaduserinputabstract.h"
+#include "http/mrvhttpaccess.h"
 
 #include <QAuthenticator>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
+#include <QNetworkProxy>
 #include <QNetworkRequest>
 #include <QPointer>
 #include <QTextCodec>
@@ -37,46 +41,46 @@ int statusOf(const QNetworkReply *reply)
     return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-// Statuses that Qt counts as success though the body is at most a part: an interim response, after
-// which Qt reads nothing, and answers to what was not requested (a range, a modification check).
-bool isPartial(int status)
+bool isConverted(const QString &contentType)
 {
-    return status < 200 || status == 206 || status == 304;
+    const QTextCodec *codec = codecOf(MRVDownloadUrl::charset(contentType));
+    return codec && codec != codecOf(QStringLiteral("UTF-8"));
 }
 
-// Empty where a response cannot have a body.
-QByteArray promisedLength(const QNetworkReply *reply)
+// RFC 9110, 8.8.2.2: a date of change is worth something once it cannot be that of two versions.
+bool isOld(const QByteArray &changed, const QByteArray &now)
 {
-    return statusOf(reply) == 204 ? QByteArray() : reply->rawHeader("Content-Length");
+    const auto time = [](const QByteArray &date) {
+        return QLocale::c().toDateTime(QString::fromLatin1(date),
+                                       QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    };
+    return time(changed).isValid() && time(now).isValid() && time(changed).secsTo(time(now)) >= 1;
 }
 
-bool isPacked(const QNetworkReply *reply)
+// What a Range request is made under the condition of, RFC 9110, 13.1.5; empty where the server
+// does not say which version it sends.
+QByteArray validatorOf(const QNetworkReply *reply)
 {
-    const QByteArray coding = reply->rawHeader("Content-Encoding").trimmed().toLower();
-    return !coding.isEmpty() && coding != "identity";
-}
-
-// Qt puts the URL into it as it was requested.
-QString errorText(const QNetworkReply *reply)
-{
-    QString text = reply->errorString();
-    if (!reply->url().password().isEmpty()) {
-        text.replace(reply->url().toString(), reply->url().toDisplayString());
-    }
-    return text;
+    const QByteArray tag = reply->rawHeader("ETag");
+    const QByteArray changed = reply->rawHeader("Last-Modified");
+    const bool isSure = isOld(changed, reply->rawHeader("Date"));
+    const bool isPacked = reply->hasRawHeader("Content-Encoding");
+    return isPacked ? QByteArray() : tag.startsWith('"') ? tag : isSure ? changed : QByteArray();
 }
 
 } // namespace
 
 MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
     : QObject(parent)
-    , m_manager(new QNetworkAccessManager(this))
+    , m_manager(new MRVHttpAccess(this))
     , m_asking(std::make_shared<QVector<QNetworkReply *>>())
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &MRVDownloadUrl::onTimeout);
     connect(m_manager, &QNetworkAccessManager::authenticationRequired, this,
             &MRVDownloadUrl::onAuthenticationRequired);
+    connect(m_manager, &QNetworkAccessManager::proxyAuthenticationRequired, this,
+            &MRVDownloadUrl::onProxyAuthenticationRequired);
     // Connected before anything that the host connects, to answer the questions first.
     connect(m_manager, &QNetworkAccessManager::sslErrors, this, [this](QNetworkReply *reply) {
         if (reply == m_reply) {
@@ -94,7 +98,6 @@ MRVDownloadUrl::MRVDownloadUrl(QObject *parent)
 MRVDownloadUrl::~MRVDownloadUrl()
 {
     dropReply();
-    // A receiver may delete this object while the manager or one of its replies is on the stack.
     m_manager->disconnect(this);
     m_manager->setParent(nullptr);
     if (!m_asking->isEmpty()) {
@@ -213,6 +216,12 @@ bool MRVDownloadUrl::convertLossless(QByteArray *data, const QString &fromCharse
 
 bool MRVDownloadUrl::download(const QUrl &url)
 {
+    m_requested = url;
+    return begin(url);
+}
+
+bool MRVDownloadUrl::begin(const QUrl &url)
+{
     dropReply();
     if (!url.isValid()) {
         return false;
@@ -232,11 +241,16 @@ bool MRVDownloadUrl::download(const QUrl &url)
 void MRVDownloadUrl::start()
 {
     QNetworkRequest request(m_url);
-    // Qt unpacks compressed bodies without checking that they are complete or undamaged.
-    request.setRawHeader("Accept-Encoding", "identity");
+    if (m_body != Body::Text && !m_fileName.isEmpty() && !openFile(&request)) {
+        return;
+    }
+    if (m_body == Body::Raw || m_isResumable) {
+        // What is packed stays so: a part is of what the server sends.
+        request.setRawHeader("Accept-Encoding", "identity");
+    }
     m_reply = m_manager->get(request);
     connect(m_reply, &QNetworkReply::finished, this, &MRVDownloadUrl::onReplyFinished);
-    connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::downloadProgress);
+    connect(m_reply, &QNetworkReply::downloadProgress, this, &MRVDownloadUrl::tellProgress);
     connect(m_reply, &QNetworkReply::errorOccurred, this, &MRVDownloadUrl::onReplyError);
     // Called after the manager's signal. The context lives as long as the question.
     connect(m_reply, &QNetworkReply::sslErrors, m_manager, questionEnd());
@@ -244,6 +258,34 @@ void MRVDownloadUrl::start()
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &MRVDownloadUrl::onMetaData);
     connect(m_reply, &QNetworkReply::readyRead, this, &MRVDownloadUrl::collect);
     awaitBytes();
+}
+
+// The file of a raw body, and where the request has to go on; false where it cannot be written,
+// which is reported.
+bool MRVDownloadUrl::openFile(QNetworkRequest *request)
+{
+    QString error;
+    m_file = std::make_unique<MRVPartialFile>(m_fileName);
+    if (!m_file->open(&error)) {
+        m_file.reset();
+        m_failure = writeError(error);
+        m_timer.start(0);
+        return false;
+    }
+    const QByteArray place = m_requested.toEncoded() + '\n';
+    if (m_isResumable && m_file->origin().startsWith(place)) {
+        m_offset = m_file->size();
+    }
+    if (m_offset > 0) {
+        request->setRawHeader("Range", "bytes=" + QByteArray::number(m_offset) + '-');
+        request->setRawHeader("If-Range", m_file->origin().mid(place.size()));
+    }
+    return true;
+}
+
+QString MRVDownloadUrl::writeError(const QString &reason) const
+{
+    return tr("Cannot write to file: '%1'\nError: %2").arg(m_fileName, reason);
 }
 
 bool MRVDownloadUrl::downloadToFile(const QUrl &url)
@@ -278,6 +320,9 @@ void MRVDownloadUrl::dropReply()
     m_aborted = false;
     m_failure.clear();
     m_data.clear();
+    m_file.reset();
+    m_isRaw = false;
+    m_offset = 0;
     QNetworkReply *reply = std::exchange(m_reply, nullptr);
     if (!reply) {
         return;
@@ -326,45 +371,76 @@ void MRVDownloadUrl::onTimeout()
 void MRVDownloadUrl::onMetaData()
 {
     awaitBytes();
-    if (promisedLength(m_reply).toLongLong() > m_maximumSize) {
-        fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
+    const QString fault = m_file ? prepareFile() : QString();
+    if (!fault.isEmpty()) {
+        fail(fault);
+    } else if (m_offset + m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong()
+               > m_maximumSize) {
+        failTooLarge();
     }
 }
 
-// Moves what has arrived out of the reply, so that memory holds a body once.
+// Empty on success: what comes is for the file, or is not.
+QString MRVDownloadUrl::prepareFile()
+{
+    const int status = statusOf(m_reply);
+    const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    m_isRaw = status >= 200 && status < 300 && (m_body == Body::Raw || !isConverted(type));
+    if (m_isRaw && m_offset > 0 && status == 206) {
+        const QByteArray begin = "bytes " + QByteArray::number(m_offset) + '-';
+        return m_reply->rawHeader("Content-Range").startsWith(begin)
+            ? QString()
+            : tr("The server sends another part than was asked for");
+    }
+    m_offset = 0;
+    if (!m_isRaw) {
+        return QString();
+    }
+    const QByteArray validator = m_isResumable ? validatorOf(m_reply) : QByteArray();
+    QString error;
+    const bool isReady = m_file->restart(
+        validator.isEmpty() ? validator : m_requested.toEncoded() + '\n' + validator, &error);
+    return isReady ? QString() : writeError(error);
+}
+
+void MRVDownloadUrl::tellProgress(qint64 bytesRead, qint64 totalBytes)
+{
+    Q_EMIT downloadProgress(bytesRead + m_offset, totalBytes < 0 ? -1 : totalBytes + m_offset);
+}
+
+// Moves what has arrived out of the reply, so that memory holds a body once, or a raw one not at
+// all.
 void MRVDownloadUrl::collect()
 {
     awaitBytes();
     const qint64 available = m_reply->bytesAvailable();
-    if (m_data.size() + available > m_maximumSize) {
-        fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
-        return;
+    const qint64 size = m_isRaw ? m_file->size() : m_data.size();
+    if (size + available > m_maximumSize) {
+        failTooLarge();
+    } else if (m_isRaw) {
+        QString error;
+        if (!m_file->append(m_reply->read(available), &error)) {
+            fail(writeError(error));
+        }
+    } else {
+        m_data.resize(int(size + available));
+        const qint64 count = m_reply->read(m_data.data() + size, available);
+        m_data.resize(int(size + qMax(qint64(0), count)));
     }
-    const int size = m_data.size();
-    m_data.resize(size + int(available));
-    m_data.resize(size + int(qMax(qint64(0), m_reply->read(m_data.data() + size, available))));
+}
+
+void MRVDownloadUrl::failTooLarge()
+{
+    if (m_isRaw) {
+        m_file->restart(QByteArray()); // to go on with it would be of no use
+    }
+    fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
 }
 
 // A failed reply reports it when it finishes; what has arrived of the body is useless.
 void MRVDownloadUrl::onReplyError()
 {
     m_data.clear();
-}
-
-// Qt detects most of these itself, but with a length that is not a number it would accept any part
-// as the whole.
-bool MRVDownloadUrl::isCutShort() const
-{
-    if (isPartial(statusOf(m_reply))) {
-        return true;
-    }
-    const QByteArray promised = promisedLength(m_reply);
-    if (promised.isNull()) {
-        return false;
-    }
-    bool isNumber = false;
-    const qint64 length = promised.toLongLong(&isNumber);
-    return !isNumber || length < 0 || m_data.size() < length;
 }
 
 void MRVDownloadUrl::onReplyFinished()
@@ -376,8 +452,14 @@ void MRVDownloadUrl::onReplyFinished()
     if (!m_failure.isEmpty()) {
         return endWith(m_failure);
     }
+    if (statusOf(m_reply) == 416 && m_reply->request().hasRawHeader("Range")) {
+        // There is no more of it, or it has become shorter: all of it, then.
+        m_file->restart(QByteArray());
+        begin(m_url);
+        return;
+    }
     if (m_reply->error() != QNetworkReply::NoError) {
-        return endWith(errorText(m_reply));
+        return endWith(m_reply->errorString());
     }
     const QPointer<MRVDownloadUrl> self(this);
     const QNetworkReply *reply = m_reply;
@@ -386,7 +468,9 @@ void MRVDownloadUrl::onReplyFinished()
         return; // too large
     }
     m_timer.stop();
-    if (isCutShort()) {
+    // Answers to what was not requested, a range or a modification check.
+    const int status = statusOf(m_reply);
+    if ((status == 206 && m_offset == 0) || status == 304) {
         return endWith(tr("The connection ended before the download was complete"));
     }
 
@@ -398,8 +482,9 @@ void MRVDownloadUrl::onReplyFinished()
     }
 }
 
-// A handler is asked about the reply, perhaps in an event loop, in which anything may happen. Qt
-// still uses the reply and the manager when the handler returns, so neither may be deleted before.
+// Somebody is asked about the reply, perhaps in an event loop, in which anything may happen.
+// Whoever asks may still use the reply and the manager then, so neither may be deleted before the
+// answer.
 void MRVDownloadUrl::beginQuestion()
 {
     m_asking->append(m_reply);
@@ -461,45 +546,70 @@ void MRVDownloadUrl::redirect(const QUrl &target)
             return endWith(danger);
         }
     }
-    download(target);
+    begin(target);
 }
 
 void MRVDownloadUrl::deliver()
 {
-    QByteArray data = std::exchange(m_data, QByteArray());
-    const QString fileName = m_fileName;
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
-    const QString from = isPacked(m_reply) ? QString() : charset(type);
+    QByteArray data = std::exchange(m_data, QByteArray());
+    const std::unique_ptr<MRVPartialFile> file = std::move(m_file);
+    const bool isRaw = m_isRaw;
     dropReply();
     m_contentType = type;
-    if (!from.isEmpty()) {
-        data = convert(data, from, QStringLiteral("UTF-8"));
-    }
 
-    const QPointer<MRVDownloadUrl> self(this);
-    Q_EMIT downloadSuccess(data);
-    if (!self || fileName.isEmpty()) {
-        return;
-    }
+    const QString fileName = m_fileName;
     QString error;
-    if (MRVCoreUtil::WriteBinaryFile(data, fileName, &error)) {
+    bool isWritten = false;
+    if (isRaw) {
+        isWritten = file->putInPlace(&error);
+    } else {
+        if (m_body != Body::Raw && !charset(type).isEmpty()) {
+            data = convert(data, charset(type), QStringLiteral("UTF-8"));
+        }
+        const QPointer<MRVDownloadUrl> self(this);
+        Q_EMIT downloadSuccess(data);
+        if (!self || fileName.isEmpty()) {
+            return;
+        }
+        isWritten = MRVCoreUtil::WriteBinaryFile(data, fileName, &error);
+    }
+    if (isWritten) {
         Q_EMIT downloadSuccess(fileName);
     } else {
-        Q_EMIT downloadError(tr("Cannot write to file: '%1'\nError: %2").arg(fileName, error));
+        Q_EMIT downloadError(writeError(error));
     }
 }
 
 void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator)
 {
-    if (reply != m_reply) {
-        return; // dropped while the question was pending
+    if (reply == m_reply) {
+        answer(m_url, authenticator);
     }
+}
+
+void MRVDownloadUrl::onProxyAuthenticationRequired(const QNetworkProxy &proxy,
+                                                   QAuthenticator *authenticator)
+{
+    QUrl place;
+    place.setScheme(QStringLiteral("http"));
+    place.setHost(proxy.hostName());
+    place.setPort(proxy.port());
+    place.setUserName(proxy.user());
+    place.setPassword(proxy.password());
+    answer(place, authenticator);
+}
+
+// Asks for a login to the address, which may have one in it.
+void MRVDownloadUrl::answer(const QUrl &place, QAuthenticator *authenticator)
+{
     const QPointer<MRVDownloadUrl> self(this);
-    QString user = m_url.userName();
-    QString password = m_url.password();
+    const QNetworkReply *reply = m_reply;
+    QString user = place.userName();
+    QString password = place.password();
     const bool isGiven =
         m_userInput && ask([&] {
-            return m_userInput->authenticate(authenticator->realm(), m_url, &user, &password);
+            return m_userInput->authenticate(authenticator->realm(), place, &user, &password);
         });
     if (!self || m_reply != reply || reply->isFinished()) {
         return;

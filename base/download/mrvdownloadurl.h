@@ -1,9 +1,9 @@
 #pragma once
 
+#include "http/mrvhttpaccess.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QObject>
 #include <QString>
@@ -15,6 +15,9 @@
 #include <memory>
 
 class MRVDownloadUserInputAbstract;
+class MRVPartialFile;
+class QAuthenticator;
+class QNetworkProxy;
 
 /**
  * Downloads one URL at a time, as bytes or into a file.
@@ -22,15 +25,13 @@ class MRVDownloadUserInputAbstract;
  * Each request that was started ends with exactly one final signal, which never comes before
  * download() has returned: downloadError(), or, where all is well, downloadSuccess(QByteArray) for
  * a request of bytes and downloadSuccess(QString) for one of a file. A request of a file also
- * delivers its bytes, before the file is written, so that a receiver of the bytes has them even
- * where writing fails. Only a request that is dropped, by starting another one or by deleting this
- * object, says no more. Any receiver may start the next request, or delete this object.
+ * delivers its bytes, unless setBody() has them raw, before the file is written, so that a receiver
+ * of the bytes has them even where writing fails. Only a request that is dropped, by starting
+ * another one or by deleting this object, says no more. Any receiver may start the next request, or
+ * delete this object.
  *
- * A body that is cut off is an error, except for two that Qt passes on as whole: one that ends at a
- * chunk whose size is no number, and one of no stated length whose connection breaks.
- *
- * Servers are asked not to compress, so that each body can be checked against its length; one that
- * comes compressed all the same is delivered as it came.
+ * A body that is cut off, however, is an error; MRVHttpAccess says what counts as one. Servers are
+ * asked not to compress; what comes compressed by gzip or deflate all the same is unpacked.
  *
  * Only http and https addresses are fetched, at the first request and at each redirect. Redirects
  * are followed where the user-input handler says so; one from https to http also needs the
@@ -56,6 +57,14 @@ class MRVBASE_EXPORT MRVDownloadUrl : public QObject
     Q_OBJECT
 
 public:
+    /** What becomes of a body. */
+    enum class Body {
+        Text, ///< A text whose charset the server names becomes UTF-8.
+        Raw, ///< It stays as it was sent.
+        RawUnlessText, ///< As Text where the server names a charset other than UTF-8, else as Raw.
+    };
+    Q_ENUM(Body)
+
     /** Default of setTransferTimeout(), in milliseconds. */
     static constexpr int DefaultTransferTimeout = 30000;
     /** Default of setMaximumSize(), and the most that it takes: 1 GiB. */
@@ -109,8 +118,27 @@ public:
     void setMaximumSize(qint64 bytes);
     qint64 maximumSize() const { return m_maximumSize; }
 
-    /** Owned by this object; for proxies, cookies and SSL errors. */
-    QNetworkAccessManager *networkAccessManager() const { return m_manager; }
+    /**
+     * What becomes of the bodies of requests that are made from now on; Body::Text at first.
+     *
+     * A raw body that is to be a file goes to the disk piece by piece, as MRVPartialFile has it. It
+     * is never in memory, and is not delivered as bytes.
+     */
+    void setBody(Body body) { m_body = body; }
+    /** What setBody() has set. */
+    Body body() const { return m_body; }
+
+    /**
+     * Whether what has come of a raw file stays beside it when a request fails or is dropped, off
+     * at first. The next request of the same address for the same file then goes on there, where
+     * the server still has the same version by its ETag or its date, and else begins again.
+     */
+    void setResumable(bool isResumable) { m_isResumable = isResumable; }
+    /** What setResumable() has set. */
+    bool isResumable() const { return m_isResumable; }
+
+    /** Owned by this object; for proxies, cookies, certificates and SSL errors. */
+    MRVHttpAccess *networkAccessManager() const { return m_manager; }
 
     /** The address of the last request, after redirects. */
     QUrl url() const { return m_url; }
@@ -160,7 +188,7 @@ public Q_SLOTS:
 
     /**
      * Starts a request of a file. It appears, or is replaced, when it is whole; before that nothing
-     * of it is on the disk.
+     * of it is on the disk, but the part of a raw one.
      *
      * @param fileName an existing file is replaced; a relative path is taken from the current
      *                 folder, not the download folder.
@@ -190,16 +218,23 @@ private Q_SLOTS:
     void onReplyFinished();
     void onReplyError();
     void onAuthenticationRequired(QNetworkReply *reply, QAuthenticator *authenticator);
+    void onProxyAuthenticationRequired(const QNetworkProxy &proxy, QAuthenticator *authenticator);
     void onNetworkAccessibleChanged(int accessibility);
 
 private:
+    bool begin(const QUrl &url);
     void start();
+    bool openFile(QNetworkRequest *request);
+    QString writeError(const QString &reason) const;
     void dropReply();
     void onMetaData();
+    QString prepareFile();
+    void tellProgress(qint64 bytesRead, qint64 totalBytes);
     void onTimeout();
     void awaitBytes();
     void collect();
-    bool isCutShort() const;
+    void failTooLarge();
+    void answer(const QUrl &place, QAuthenticator *authenticator);
     void beginQuestion();
     std::function<void()> questionEnd();
     bool ask(const std::function<bool()> &question);
@@ -209,7 +244,7 @@ private:
     void endWith(const QString &error);
 
     QUrl m_url;
-    QNetworkAccessManager *m_manager;
+    MRVHttpAccess *m_manager;
     QNetworkReply *m_reply = nullptr;
     bool m_aborted = false;
     QString m_fileName;
@@ -219,7 +254,13 @@ private:
     QTimer m_timer; // waits for bytes; without a reply, to report m_failure
     int m_transferTimeout = DefaultTransferTimeout;
     qint64 m_maximumSize = LargestSize;
+    Body m_body = Body::Text;
+    bool m_isResumable = false;
+    QUrl m_requested; // before redirects
     QByteArray m_data;
+    std::unique_ptr<MRVPartialFile> m_file; // of a raw body
+    bool m_isRaw = false; // the body that is coming, which then goes to the file
+    qint64 m_offset = 0; // where the body that is coming begins
     QString m_contentType;
     QString m_failure; // why this object gave up the request, which is said in place of "canceled"
     std::shared_ptr<QVector<QNetworkReply *>> m_asking; // those that somebody is being asked about

@@ -369,6 +369,10 @@ Fehler: %2</translation>
         <source>Network not accessible</source>
         <translation>Netzwerk nicht erreichbar</translation>
     </message>
+    <message>
+        <source>The server sends another part than was asked for</source>
+        <translation>Der Server sendet einen anderen Teil, als angefordert wurde</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubBook</name>
@@ -679,6 +683,10 @@ Fehler: %2</translation>
     <message>
         <source>not all of it was written</source>
         <translation>nicht alles davon wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>another program is writing it</source>
+        <translation>ein anderes Programm schreibt sie gerade</translation>
     </message>
 </context>
 <context>
@@ -4833,6 +4841,101 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source> runtime: </source>
         <translation> zur Laufzeit: </translation>
+    </message>
+</context>
+<context>
+    <name>MrvHttpReply</name>
+    <message>
+        <source>The proxy was not found</source>
+        <translation>Der Proxy wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Der Rechner %1 wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2</source>
+        <translation>Keine Verbindung zu %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Connection closed without an answer</source>
+        <translation>Die Verbindung wurde ohne Antwort geschlossen</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end</source>
+        <translation>Die Verbindung wurde vor dem Ende geschlossen</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end: %2</source>
+        <translation>Die Verbindung wurde vor dem Ende geschlossen: %2</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %2</source>
+        <translation>Der SSL-Handshake ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer in HTTP: %2</source>
+        <translation>%1 antwortet nicht in HTTP: %2</translation>
+    </message>
+    <message>
+        <source>The address is not valid: %2</source>
+        <translation>Die Adresse ist ungültig: %2</translation>
+    </message>
+    <message>
+        <source>Network access is disabled.</source>
+        <translation>Der Netzwerkzugriff ist abgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Protocol &quot;%1&quot; is not supported</source>
+        <translation>Das Protokoll „%1“ wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>The address names no host</source>
+        <translation>Die Adresse nennt keinen Rechner</translation>
+    </message>
+    <message>
+        <source>Only requests that fetch something are supported</source>
+        <translation>Nur Anfragen, die etwas abrufen, werden unterstützt</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Vorgang abgebrochen</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Die komprimierten Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>The server sends too much before it lets one in</source>
+        <translation>Der Server sendet zu viel, bevor er die Anmeldung annimmt</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %1</source>
+        <translation>Der SSL-Handshake ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Host requires authentication</source>
+        <translation>Der Server verlangt eine Anmeldung</translation>
+    </message>
+    <message>
+        <source>Proxy requires authentication</source>
+        <translation>Der Proxy verlangt eine Anmeldung</translation>
+    </message>
+    <message>
+        <source>Error transferring %1 - server replied: %2</source>
+        <translation>Fehler beim Übertragen von %1 – der Server antwortete: %2</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 bytes of headers</source>
+        <translation>Der Server sendet mehr als %1 Bytes an Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>The server states two different lengths</source>
+        <translation>Der Server nennt zwei verschiedene Längen</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@ Error: %2</translation>
         <source>Network not accessible</source>
         <translation>Red no accesible</translation>
     </message>
+    <message>
+        <source>The server sends another part than was asked for</source>
+        <translation>El servidor envía una parte distinta de la solicitada</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubBook</name>
@@ -679,6 +683,10 @@ Error: %2</translation>
     <message>
         <source>not all of it was written</source>
         <translation>no se ha escrito todo</translation>
+    </message>
+    <message>
+        <source>another program is writing it</source>
+        <translation>otro programa lo está escribiendo</translation>
     </message>
 </context>
 <context>
@@ -4833,6 +4841,101 @@ Comuníquelo a %1.</translation>
     <message>
         <source> runtime: </source>
         <translation> En ejecución: </translation>
+    </message>
+</context>
+<context>
+    <name>MrvHttpReply</name>
+    <message>
+        <source>The proxy was not found</source>
+        <translation>No se encontró el proxy</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>No se encontró el servidor %1</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2</source>
+        <translation>Sin conexión con %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 no responde</translation>
+    </message>
+    <message>
+        <source>Connection closed without an answer</source>
+        <translation>La conexión se cerró sin respuesta</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end</source>
+        <translation>La conexión se cerró antes del final</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end: %2</source>
+        <translation>La conexión se cerró antes del final: %2</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %2</source>
+        <translation>La negociación SSL falló: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer in HTTP: %2</source>
+        <translation>%1 no responde en HTTP: %2</translation>
+    </message>
+    <message>
+        <source>The address is not valid: %2</source>
+        <translation>La dirección no es válida: %2</translation>
+    </message>
+    <message>
+        <source>Network access is disabled.</source>
+        <translation>El acceso a la red está desactivado.</translation>
+    </message>
+    <message>
+        <source>Protocol &quot;%1&quot; is not supported</source>
+        <translation>El protocolo «%1» no se admite</translation>
+    </message>
+    <message>
+        <source>The address names no host</source>
+        <translation>La dirección no nombra ningún servidor</translation>
+    </message>
+    <message>
+        <source>Only requests that fetch something are supported</source>
+        <translation>Solo se admiten solicitudes que obtienen algo</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Operación cancelada</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Los datos comprimidos están dañados</translation>
+    </message>
+    <message>
+        <source>The server sends too much before it lets one in</source>
+        <translation>El servidor envía demasiado antes de aceptar la identificación</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %1</source>
+        <translation>La negociación SSL falló: %1</translation>
+    </message>
+    <message>
+        <source>Host requires authentication</source>
+        <translation>El servidor requiere autenticación</translation>
+    </message>
+    <message>
+        <source>Proxy requires authentication</source>
+        <translation>El proxy requiere autenticación</translation>
+    </message>
+    <message>
+        <source>Error transferring %1 - server replied: %2</source>
+        <translation>Error al transferir %1: el servidor respondió: %2</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 bytes of headers</source>
+        <translation>El servidor envía más de %1 bytes de encabezados</translation>
+    </message>
+    <message>
+        <source>The server states two different lengths</source>
+        <translation>El servidor indica dos longitudes distintas</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@ Erreur&#xa0;: %2</translation>
         <source>Network not accessible</source>
         <translation>Réseau inaccessible</translation>
     </message>
+    <message>
+        <source>The server sends another part than was asked for</source>
+        <translation>Le serveur envoie une autre partie que celle demandée</translation>
+    </message>
 </context>
 <context>
     <name>MRVEPubBook</name>
@@ -679,6 +683,10 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>not all of it was written</source>
         <translation>tout n’a pas été écrit</translation>
+    </message>
+    <message>
+        <source>another program is writing it</source>
+        <translation>un autre programme est en train de l’écrire</translation>
     </message>
 </context>
 <context>
@@ -4833,6 +4841,101 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source> runtime: </source>
         <translation> Exécution&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>MrvHttpReply</name>
+    <message>
+        <source>The proxy was not found</source>
+        <translation>Le proxy est introuvable</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>L’hôte %1 est introuvable</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2</source>
+        <translation>Pas de connexion à %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 ne répond pas</translation>
+    </message>
+    <message>
+        <source>Connection closed without an answer</source>
+        <translation>La connexion a été fermée sans réponse</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end</source>
+        <translation>La connexion a été fermée avant la fin</translation>
+    </message>
+    <message>
+        <source>Connection closed before the end: %2</source>
+        <translation>La connexion a été fermée avant la fin&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %2</source>
+        <translation>La négociation SSL a échoué&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not answer in HTTP: %2</source>
+        <translation>%1 ne répond pas en HTTP&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The address is not valid: %2</source>
+        <translation>L’adresse n’est pas valable&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Network access is disabled.</source>
+        <translation>L’accès au réseau est désactivé.</translation>
+    </message>
+    <message>
+        <source>Protocol &quot;%1&quot; is not supported</source>
+        <translation>Le protocole «&#xa0;%1&#xa0;» n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>The address names no host</source>
+        <translation>L’adresse ne nomme aucun hôte</translation>
+    </message>
+    <message>
+        <source>Only requests that fetch something are supported</source>
+        <translation>Seules les requêtes qui récupèrent quelque chose sont prises en charge</translation>
+    </message>
+    <message>
+        <source>Operation canceled</source>
+        <translation>Opération annulée</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Les données compressées sont endommagées</translation>
+    </message>
+    <message>
+        <source>The server sends too much before it lets one in</source>
+        <translation>Le serveur envoie trop de données avant d’accepter l’identification</translation>
+    </message>
+    <message>
+        <source>SSL handshake failed: %1</source>
+        <translation>La négociation SSL a échoué&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Host requires authentication</source>
+        <translation>L’hôte demande une identification</translation>
+    </message>
+    <message>
+        <source>Proxy requires authentication</source>
+        <translation>Le proxy demande une identification</translation>
+    </message>
+    <message>
+        <source>Error transferring %1 - server replied: %2</source>
+        <translation>Erreur lors du transfert de %1 – le serveur a répondu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 bytes of headers</source>
+        <translation>Le serveur envoie plus de %1 octets d’en-têtes</translation>
+    </message>
+    <message>
+        <source>The server states two different lengths</source>
+        <translation>Le serveur indique deux longueurs différentes</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,33 @@
+#include "http/mrvhttpaccess.h"
+
+#include "http/mrvhttpcontext_p.h"
+#include "http/mrvhttpreply_p.h"
+
+#include <QNetworkRequest>
+#include <QSslCertificate>
+
+MRVHttpAccess::MRVHttpAccess(QObject *parent)
+    : QNetworkAccessManager(parent)
+    , m_context(std::make_shared<MrvHttpContext>())
+{
+}
+
+MRVHttpAccess::~MRVHttpAccess() = default;
+
+bool MRVHttpAccess::setCaCertificates(const QByteArray &pem)
+{
+    const bool isUsable = !QSslCertificate::fromData(pem, QSsl::Pem).isEmpty();
+    if (isUsable) {
+        m_context->caCertificates = pem;
+    }
+    return isUsable;
+}
+
+QNetworkReply *MRVHttpAccess::createRequest(Operation operation, const QNetworkRequest &request,
+                                            QIODevice *body)
+{
+    if (operation == GetOperation && request.url().scheme() == QLatin1String("data")) {
+        return QNetworkAccessManager::createRequest(operation, request, body);
+    }
+    return new MrvHttpReply(this, m_context, operation, request);
+}
