@@ -1,0 +1,37 @@
+#pragma once
+
+#include "util/mrvbase_export.h"
+
+#include <QDateTime>
+#include <QString>
+
+/**
+ * What one check of updates leaves for the next.
+ *
+ * It is kept in the user's settings of the application's organisation and name, in the group
+ * "Updates": skippedVersion, remindAfter (a date-time), rolloutNumber, feedVersion and feedTime.
+ * Without an organisation nothing is kept.
+ *
+ * @since 1.0
+ */
+struct MRVBASE_EXPORT MRVUpdateState
+{
+    /** The version that the user does not want to hear of; empty for none. */
+    QString skippedVersion;
+    /** When the user wants to be reminded; not valid for at once. */
+    QDateTime remindAfter;
+    /**
+     * Which of a hundred users this is, 0 to 99, for updates that are rolled out bit by bit; -1
+     * before that is known.
+     */
+    int rolloutNumber = -1;
+    /** What the newest signed feed that was seen offers; empty before. */
+    QString feedVersion;
+    /** When that feed was signed, in seconds since 1970; 0 before. */
+    qint64 feedTime = 0;
+
+    /** What is kept of the running application; values that are damaged are as absent. */
+    static MRVUpdateState load();
+    /** Keeps it. Failing is only logged, since the user cannot do anything about it. */
+    void save() const;
+};
