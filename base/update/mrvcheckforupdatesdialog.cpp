@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QUrl>
 
@@ -60,6 +61,15 @@ QImage MRVCheckForUpdatesDialog::logoImage()
     return image.isNull()
         ? image
         : image.scaled(LogoSize, LogoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+QPushButton *MRVCheckForUpdatesDialog::addButton(const QString &text)
+{
+    auto *const button = new QPushButton(text, this);
+    button->setAutoDefault(false);
+    m_ui->buttonLayout->insertWidget(m_ui->buttonLayout->indexOf(m_ui->cancelButton), button);
+    connect(this, &MRVCheckForUpdatesDialog::downloadRequested, button, &QWidget::hide);
+    return button;
 }
 
 void MRVCheckForUpdatesDialog::setStep(Step step)

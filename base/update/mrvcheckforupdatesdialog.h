@@ -11,6 +11,7 @@
 #include <memory>
 
 class MRVDownloadPace;
+class QPushButton;
 
 namespace Ui {
 class MRVCheckForUpdatesDialog;
@@ -41,6 +42,12 @@ public:
      * resource is missing.
      */
     static QImage logoImage();
+
+    /**
+     * Adds a button with @p text before the Cancel button, for a choice that the application offers
+     * besides. The dialog owns it, and hides it once a download begins.
+     */
+    QPushButton *addButton(const QString &text);
 
 public Q_SLOTS:
     /**

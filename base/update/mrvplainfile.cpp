@@ -22,3 +22,11 @@ bool mrvOpenPlain(QFile *file, const QString &path, QIODevice::OpenMode mode)
     ::close(descriptor);
     return false;
 }
+
+bool mrvMakeExecutable(const QString &path)
+{
+    QFile file;
+    struct stat status;
+    return mrvOpenPlain(&file, path) && ::fstat(file.handle(), &status) == 0
+        && ::fchmod(file.handle(), status.st_mode | S_IXUSR) == 0;
+}

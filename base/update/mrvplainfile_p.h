@@ -11,3 +11,6 @@
  * @param mode added to QIODevice::ReadOnly.
  */
 bool mrvOpenPlain(QFile *file, const QString &path, QIODevice::OpenMode mode = QIODevice::NotOpen);
+
+/** Lets its owner run a file, which is opened as by mrvOpenPlain(). False where that fails. */
+bool mrvMakeExecutable(const QString &path);

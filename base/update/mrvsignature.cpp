@@ -1,13 +1,9 @@
-#include "update/mrvsignature_p.h"
+#include "update/mrvsignature.h"
 
 #include "update/mrvplainfile_p.h"
 
-#include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QFile>
 #include <QList>
-
-#include <cstring>
 
 #include <sodium.h>
 
@@ -21,20 +17,6 @@ constexpr int SignatureSize = int(crypto_sign_BYTES);
 constexpr int HashSize = int(crypto_generichash_BYTES_MAX);
 // Four lines, two of which are comments that may be a page long.
 constexpr int MaxSignatureFile = 16 * 1024;
-
-struct Signature
-{
-    bool isHashed = false;
-    QByteArray keyId;
-    QByteArray ofFile;
-    QByteArray trustedComment;
-    QByteArray ofComment; // over ofFile and trustedComment
-};
-
-QString reasonText(const char *text)
-{
-    return QCoreApplication::translate("MRVUpdateModel", text);
-}
 
 const unsigned char *data(const QByteArray &bytes)
 {
@@ -54,73 +36,9 @@ QList<QByteArray> linesOf(QByteArray text)
     return text.replace("\r\n", "\n").split('\n');
 }
 
-bool readSignature(const QString &path, Signature *signature)
-{
-    QFile file;
-    if (!mrvOpenPlain(&file, path)) {
-        return false;
-    }
-    const QByteArray text = file.read(MaxSignatureFile + 1);
-    const QList<QByteArray> lines = linesOf(text);
-    const QByteArray label = QByteArrayLiteral("trusted comment: ");
-    if (text.size() > MaxSignatureFile || lines.size() < 4 || !lines.at(2).startsWith(label)) {
-        return false;
-    }
-    const QByteArray body = decoded(lines.at(1).trimmed(), HeadSize + SignatureSize);
-    signature->ofComment = decoded(lines.at(3).trimmed(), SignatureSize);
-    signature->trustedComment = lines.at(2).mid(label.size());
-    signature->isHashed = body.startsWith("ED");
-    signature->keyId = body.mid(AlgorithmSize, KeyIdSize);
-    signature->ofFile = body.mid(HeadSize);
-    return (signature->isHashed || body.startsWith("Ed")) && !signature->ofComment.isEmpty();
-}
-
-bool verify(const QByteArray &signature, const unsigned char *message, qint64 size,
-            const QByteArray &key)
-{
-    return crypto_sign_verify_detached(data(signature), message, quint64(size),
-                                       data(key) + HeadSize)
-        == 0;
-}
-
-bool verifyHash(QFile *file, const QByteArray &signature, const QByteArray &key,
-                QCryptographicHash *digest)
-{
-    constexpr int PieceSize = 1 << 16;
-    crypto_generichash_state state;
-    crypto_generichash_init(&state, nullptr, 0, HashSize);
-    QByteArray piece(PieceSize, Qt::Uninitialized);
-    qint64 size = 0;
-    while ((size = file->read(piece.data(), PieceSize)) > 0) {
-        crypto_generichash_update(&state, data(piece), quint64(size));
-        digest->addData(piece.constData(), int(size));
-    }
-    QByteArray hash(HashSize, Qt::Uninitialized);
-    crypto_generichash_final(&state, reinterpret_cast<unsigned char *>(hash.data()), HashSize);
-    return size == 0 && verify(signature, data(hash), HashSize, key);
-}
-
-bool verifyFile(QFile *file, const Signature &signature, const QByteArray &key,
-                QCryptographicHash *digest)
-{
-    if (signature.isHashed) {
-        return verifyHash(file, signature.ofFile, key, digest);
-    }
-    // The older form needs all the bytes at once. The file is not mapped, since a mapping would
-    // show what another process writes meanwhile.
-    const QByteArray bytes = file->readAll();
-    digest->addData(bytes);
-    return verify(signature.ofFile, data(bytes), bytes.size(), key);
-}
-
-bool namesFile(const QByteArray &comment, const QString &name)
-{
-    return comment.split('\t').contains("file:" + name.toUtf8());
-}
-
 } // namespace
 
-QByteArray mrvPublicKey(const QByteArray &text)
+QByteArray MRVSignature::publicKey(const QByteArray &text)
 {
     const QList<QByteArray> lines = linesOf(text.trimmed());
     if (lines.size() > 2
@@ -131,36 +49,87 @@ QByteArray mrvPublicKey(const QByteArray &text)
     return key.startsWith("Ed") ? key : QByteArray();
 }
 
-bool mrvIsSigned(const QString &file, const QString &signatureFile, const QByteArray &key,
-                 const QString &expectedName, QByteArray *digest, QString *reason)
+MRVSignature MRVSignature::read(const QString &path, const QByteArray &key, QString *reason)
 {
-    digest->clear();
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    Signature signature;
-    QFile signedFile;
-    const char *fault = nullptr;
+    QFile file;
+    QByteArray text;
+    if (mrvOpenPlain(&file, path)) {
+        text = file.read(MaxSignatureFile + 1);
+    }
+    MRVSignature signature;
+    const char *const fault = signature.fault(text, key);
+    if (!fault) {
+        return signature;
+    }
+    if (reason) {
+        *reason = tr(fault);
+    }
+    return MRVSignature();
+}
+
+// Takes over what the text holds; null when all is as it should be.
+const char *MRVSignature::fault(const QByteArray &text, const QByteArray &key)
+{
     if (key.size() != KeySize || sodium_init() < 0) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "no valid key is set to check it with");
-    } else if (!mrvOpenPlain(&signedFile, file)) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "the installer cannot be read");
-    } else if (!readSignature(signatureFile, &signature)) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "the signature cannot be read");
-    } else if (signature.keyId != key.mid(AlgorithmSize, KeyIdSize)) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "it was made with another key");
-    } else if (!verifyFile(&signedFile, signature, key, &hash)) {
-        fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "it is not this installer's");
-    } else {
-        const QByteArray message = signature.ofFile + signature.trustedComment;
-        if (!verify(signature.ofComment, data(message), message.size(), key)) {
-            fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "its comment was altered");
-        } else if (!namesFile(signature.trustedComment, expectedName)) {
-            fault = QT_TRANSLATE_NOOP("MRVUpdateModel", "it was made for another file");
+        return QT_TR_NOOP("no valid key is set to check it with");
+    }
+    const QList<QByteArray> lines = linesOf(text);
+    const QByteArray label = QByteArrayLiteral("trusted comment: ");
+    const QByteArray body = decoded(lines.value(1).trimmed(), HeadSize + SignatureSize);
+    const QByteArray ofComment = decoded(lines.value(3).trimmed(), SignatureSize);
+    m_isHashed = body.startsWith("ED");
+    if (text.size() > MaxSignatureFile || !lines.value(2).startsWith(label) || ofComment.isEmpty()
+        || !(m_isHashed || body.startsWith("Ed"))) {
+        return QT_TR_NOOP("the signature cannot be read");
+    }
+    if (body.mid(AlgorithmSize, KeyIdSize) != key.mid(AlgorithmSize, KeyIdSize)) {
+        return QT_TR_NOOP("it was made with another key");
+    }
+    m_key = key.mid(HeadSize);
+    m_ofFile = body.mid(HeadSize);
+    m_comment = lines.at(2).mid(label.size());
+    return verify(ofComment, m_ofFile + m_comment) ? nullptr : QT_TR_NOOP("it was altered");
+}
+
+bool MRVSignature::verify(const QByteArray &signature, const QByteArray &message) const
+{
+    return crypto_sign_verify_detached(data(signature), data(message), quint64(message.size()),
+                                       data(m_key))
+        == 0;
+}
+
+QString MRVSignature::field(const QString &name) const
+{
+    const QByteArray label = name.toUtf8() + ':';
+    QByteArray value;
+    int count = 0;
+    const QList<QByteArray> fields = m_comment.split('\t');
+    for (const QByteArray &field : fields) {
+        if (field.startsWith(label)) {
+            value = field.mid(label.size());
+            ++count;
         }
     }
-    if (fault) {
-        *reason = reasonText(fault);
-        return false;
+    return count == 1 ? QString::fromUtf8(value) : QString();
+}
+
+qint64 MRVSignature::timestamp() const
+{
+    return qMax(qint64(0), field(QStringLiteral("timestamp")).toLongLong());
+}
+
+bool MRVSignature::isOfBytes(const QByteArray &bytes) const
+{
+    if (!m_isHashed) {
+        return !isNull() && bytes.size() <= LargestUnhashed && verify(m_ofFile, bytes);
     }
-    *digest = hash.result();
-    return true;
+    QByteArray hash(HashSize, Qt::Uninitialized);
+    crypto_generichash(reinterpret_cast<unsigned char *>(hash.data()), HashSize, data(bytes),
+                       quint64(bytes.size()), nullptr, 0);
+    return isOfHash(hash);
+}
+
+bool MRVSignature::isOfHash(const QByteArray &blake2b) const
+{
+    return m_isHashed && blake2b.size() == HashSize && verify(m_ofFile, blake2b);
 }

@@ -7,8 +7,10 @@
 #include "update/mrvupdatemodel.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
+#include <QPushButton>
+#include <QRandomGenerator>
 #include <QUrl>
 
 namespace {
@@ -16,6 +18,7 @@ namespace {
 // One byte more than the model takes, so that the model refuses a feed that is too large.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
+constexpr int Users = 100; // that a rollout tells apart
 
 } // namespace
 
@@ -26,19 +29,39 @@ MRVUpdateDownloader::MRVUpdateDownloader(QObject *parent)
 {
     // No parent: windows that are open now may be closed before the check ends.
     m_dialog = new MRVCheckForUpdatesDialog(m_model->releaseNotesUrl());
-    connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::removeRefused);
+    connectModel();
+    connectDialog();
+}
+
+void MRVUpdateDownloader::connectModel()
+{
     connect(m_model, &MRVUpdateModel::updateError, m_dialog, &MRVCheckForUpdatesDialog::statusMsg);
     connect(m_model, &MRVUpdateModel::updateError, this, &MRVUpdateDownloader::errorMsg);
     connect(m_model, &MRVUpdateModel::updateAvailable, this, &MRVUpdateDownloader::updateAvailable);
     connect(m_model, &MRVUpdateModel::versions, m_dialog, &MRVCheckForUpdatesDialog::versions);
     connect(m_model, &MRVUpdateModel::readyToInstall, m_dialog,
             &MRVCheckForUpdatesDialog::enableInstallButton);
+}
+
+void MRVUpdateDownloader::connectDialog()
+{
     connect(m_dialog, &MRVCheckForUpdatesDialog::downloadRequested, this,
             &MRVUpdateDownloader::downloadInstaller);
     connect(m_dialog, &MRVCheckForUpdatesDialog::installRequested, this,
             QOverload<>::of(&MRVUpdateDownloader::installRequested));
     connect(m_dialog, &QDialog::rejected, this, &MRVUpdateDownloader::cancelUpdate);
     connect(m_dialog, &QObject::destroyed, this, &MRVUpdateDownloader::cancelUpdate);
+}
+
+void MRVUpdateDownloader::connectDownloader()
+{
+    m_downloader->setUserInputHandler(m_redirects.get());
+    connect(m_downloader, &MRVDownloadUrl::downloadError, this,
+            &MRVUpdateDownloader::tellDownloadError);
+    connect(m_downloader, QOverload<QString>::of(&MRVDownloadUrl::downloadSuccess), this,
+            &MRVUpdateDownloader::onDownloaded);
+    connect(m_downloader, &MRVDownloadUrl::downloadProgress, this,
+            &MRVUpdateDownloader::onProgress);
 }
 
 MRVUpdateDownloader::~MRVUpdateDownloader()
@@ -58,6 +81,11 @@ bool MRVUpdateDownloader::setPublicKey(const QByteArray &key)
     return m_model->setPublicKey(key);
 }
 
+void MRVUpdateDownloader::setPolicy(const MRVUpdatePolicy &policy)
+{
+    m_policy = policy;
+}
+
 bool MRVUpdateDownloader::startUpdate(bool silent)
 {
     m_silent = silent;
@@ -67,50 +95,80 @@ bool MRVUpdateDownloader::startUpdate(bool silent)
     }
     if (!m_downloader) {
         m_downloader = new MRVDownloadUrl(this);
-        m_downloader->setUserInputHandler(m_redirects.get());
-        connect(m_downloader, &MRVDownloadUrl::downloadError, this,
-                &MRVUpdateDownloader::tellDownloadError);
-        connect(m_downloader, QOverload<QString>::of(&MRVDownloadUrl::downloadSuccess), this,
-                &MRVUpdateDownloader::onDownloaded);
-        connect(m_downloader, QOverload<QByteArray>::of(&MRVDownloadUrl::downloadSuccess), this,
-                &MRVUpdateDownloader::removePlantedLink);
-        connect(m_downloader, &MRVDownloadUrl::downloadProgress, m_dialog,
-                &MRVCheckForUpdatesDialog::updateDownloadProgress);
+        connectDownloader();
     }
-    m_downloader->setMaximumSize(MaxFeedDownload);
-    if (!download(Step::Feed, m_model->xmlUrl(), m_model->xmlFilePath())) {
+    prepareState();
+    QString error;
+    if (!m_model->claimFeed(&error)) {
+        errorMsg(error);
+        return false;
+    }
+    if (!download(m_model->needsSignature() ? Step::FeedSignature : Step::Feed)) {
         errorMsg(tr("The address of the download is not valid."));
         return false;
+    }
+    if (!silent) {
+        showChecking();
     }
     return true;
 }
 
-bool MRVUpdateDownloader::download(Step step, const QString &url, const QString &path)
+void MRVUpdateDownloader::prepareState()
 {
+    m_model->setPolicy(m_policy, !m_silent);
+    if (!m_policy.features && !m_model->needsSignature()) {
+        return;
+    }
+    MRVUpdateState state = MRVUpdateState::load();
+    if (m_policy.features.testFlag(MRVUpdatePolicy::Rollout) && state.rolloutNumber < 0) {
+        state.rolloutNumber = QRandomGenerator::global()->bounded(Users);
+        state.save();
+    }
+    m_model->setState(state);
+}
+
+bool MRVUpdateDownloader::download(Step step)
+{
+    struct Target
+    {
+        QString url;
+        QString path;
+        qint64 maximumSize;
+    };
+    const qint64 size = m_model->offer().size;
+    const auto target = [&]() -> Target {
+        switch (step) {
+        case Step::FeedSignature:
+            return {m_model->xmlSignatureUrl(), m_model->xmlSignatureFilePath(),
+                    MaxSignatureDownload};
+        case Step::Feed:
+            return {m_model->xmlUrl(), m_model->xmlFilePath(), MaxFeedDownload};
+        case Step::InstallerSignature:
+            return {m_model->signatureUrl(), m_model->signatureFilePath(), MaxSignatureDownload};
+        case Step::Installer:
+            break;
+        }
+        return {m_model->downloadURL(), m_model->downloadFilePath(),
+                size >= 0 ? size : MRVDownloadUrl::LargestSize};
+    }();
     m_step = step;
-    m_path = path;
-    m_redirects->start(QUrl(url));
-    return m_downloader->downloadToFile(QUrl(url), path);
+    const QUrl url(target.url);
+    m_redirects->start(url);
+    m_downloader->setMaximumSize(target.maximumSize);
+    return m_downloader->downloadToFile(url, target.path);
 }
 
-// The bytes have arrived and are written next. Somebody may have planted a link to one of the
-// user's files under this name.
-void MRVUpdateDownloader::removePlantedLink()
+void MRVUpdateDownloader::next(Step step)
 {
-    if (QFileInfo(m_path).isSymLink()) {
-        QFile::remove(m_path);
+    if (!download(step)) {
+        tellDownloadError(tr("The address of the download is not valid."));
     }
 }
 
-// A refused installer must not remain under its name, where a user might open it by hand.
-// Files that this check has not written are left alone.
-void MRVUpdateDownloader::removeRefused()
+void MRVUpdateDownloader::onProgress(qint64 bytesRead, qint64 total)
 {
-    if (m_step != Step::Feed) {
-        QFile::remove(m_model->downloadFilePath());
-    }
-    if (m_step == Step::Signature) {
-        QFile::remove(m_model->signatureFilePath());
+    if (m_dialog && m_step == Step::Installer) {
+        m_dialog->updateDownloadProgress(bytesRead, total);
     }
 }
 
@@ -118,28 +176,27 @@ void MRVUpdateDownloader::onDownloaded()
 {
     // Where a redirect is not followed, the redirect's own page has been downloaded.
     if (m_redirects->hasRefused()) {
-        QFile::remove(m_path);
         tellDownloadError(tr("The server redirected the download to an address that is not safe."));
-    } else if (m_step == Step::Feed) {
-        m_model->readXML();
-    } else if (m_step == Step::Installer) {
-        onInstallerDownloaded();
-    } else {
-        m_model->readEXE();
-    }
-}
-
-void MRVUpdateDownloader::onInstallerDownloaded()
-{
-    if (!m_model->needsSignature()) {
-        m_model->readEXE();
         return;
     }
-    // The bar stays at the end of the installer's download.
-    disconnect(m_downloader, &MRVDownloadUrl::downloadProgress, nullptr, nullptr);
-    m_downloader->setMaximumSize(MaxSignatureDownload);
-    if (!download(Step::Signature, m_model->signatureUrl(), m_model->signatureFilePath())) {
-        tellDownloadError(tr("The address of the download is not valid."));
+    const QPointer<MRVUpdateDownloader> self(this);
+    switch (m_step) {
+    case Step::FeedSignature:
+        if (m_model->readXMLSignature() && self) {
+            next(Step::Feed);
+        }
+        break;
+    case Step::Feed:
+        m_model->readXML();
+        break;
+    case Step::InstallerSignature:
+        if (m_model->readEXESignature() && self) {
+            next(Step::Installer);
+        }
+        break;
+    case Step::Installer:
+        m_model->readEXE();
+        break;
     }
 }
 
@@ -147,9 +204,6 @@ void MRVUpdateDownloader::tellDownloadError(const QString &error)
 {
     // Errors after the feed was evaluated are reported where the user asked for the download.
     if (m_model->isNewerAvailable()) {
-        if (m_step == Step::Signature) {
-            removeRefused();
-        }
         if (m_dialog) {
             m_dialog->errorMsg(error);
         }
@@ -167,13 +221,22 @@ void MRVUpdateDownloader::showDialog()
     }
 }
 
+// To be seen at once, with a button to cancel, by a user who has asked for the check.
+void MRVUpdateDownloader::showChecking()
+{
+    if (m_dialog) {
+        m_dialog->showChecking();
+        showDialog();
+    }
+}
+
 void MRVUpdateDownloader::disableSilent()
 {
     if (m_silent && m_dialog && m_dialog->isHidden()) {
-        m_dialog->statusMsg(tr("Checking for updates..."));
-        showDialog();
+        showChecking();
     }
     m_silent = false;
+    m_model->setPolicy(m_policy, true);
     // It may be covered by the window from which the user asks.
     if (m_dialog && m_dialog->isVisible()) {
         m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
@@ -189,18 +252,19 @@ void MRVUpdateDownloader::updateAvailable(bool available)
     }
     // The check may be deleted by a receiver, or while its box is open.
     const QPointer<MRVUpdateDownloader> self(this);
+    if (m_model->needsSignature()) {
+        m_model->state().save();
+    }
     Q_EMIT updateChecked();
     if (!self || m_ended) {
         return;
     }
     if (available) {
+        offerChoices();
         showDialog();
         if (m_dialog) {
             // It has counted the feed.
             m_dialog->updateDownloadProgress(0, 1);
-        }
-        if (m_installerWanted) {
-            downloadInstaller();
         }
         return;
     }
@@ -222,6 +286,8 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
     }
     m_isTelling = true;
     const QPointer<MRVUpdateDownloader> self(this);
+    // What was refused must not remain where a user might open it by hand.
+    m_model->removeFiles();
     if (!m_silent) {
         mrvShowMessage(nullptr, QMessageBox::Warning, tr("Check for Updates"), error);
     }
@@ -232,26 +298,68 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
 
 void MRVUpdateDownloader::downloadInstaller()
 {
-    m_installerWanted = !m_model->isNewerAvailable();
-    if (m_installerWanted || m_ended) {
+    if (!m_model->isNewerAvailable() || m_ended) {
         return;
     }
     disconnect(m_model, &MRVUpdateModel::updateAvailable, this, nullptr);
-    m_downloader->setMaximumSize(MRVDownloadUrl::LargestSize);
-    if (!download(Step::Installer, m_model->downloadURL(), m_model->downloadFilePath())) {
-        tellDownloadError(tr("The address of the download is not valid."));
+    QString error;
+    if (!m_model->claimInstaller(&error)) {
+        tellDownloadError(error);
+        return;
     }
+    next(m_model->needsSignature() ? Step::InstallerSignature : Step::Installer);
+}
+
+// The buttons of the features that the application has chosen.
+void MRVUpdateDownloader::offerChoices()
+{
+    if (!m_dialog || m_model->decision().isUrgent) {
+        return;
+    }
+    if (m_policy.features.testFlag(MRVUpdatePolicy::RemindLater)) {
+        connect(m_dialog->addButton(tr("Remind Me Later")), &QPushButton::clicked, this, [this] {
+            putOff([this](MRVUpdateState *state) {
+                state->remindAfter =
+                    QDateTime::currentDateTimeUtc().addDays(m_policy.remindAfterDays);
+            });
+        });
+    }
+    if (m_policy.features.testFlag(MRVUpdatePolicy::SkipVersions)) {
+        connect(m_dialog->addButton(tr("Skip This Version")), &QPushButton::clicked, this, [this] {
+            putOff([this](MRVUpdateState *state) {
+                state->skippedVersion = m_model->availableVersion();
+            });
+        });
+    }
+}
+
+void MRVUpdateDownloader::putOff(const std::function<void(MRVUpdateState *state)> &note)
+{
+    MRVUpdateState state = m_model->state();
+    note(&state);
+    state.save();
+    cancelUpdate();
 }
 
 bool MRVUpdateDownloader::confirmInstaller()
 {
+    const QPointer<MRVUpdateDownloader> self(this);
     const bool isUnchanged = m_model->isInstallerUnchanged();
+    if (!self) {
+        return false;
+    }
     if (!isUnchanged) {
+        m_model->removeFiles();
         mrvShowMessage(
             nullptr, QMessageBox::Warning, tr("Check for Updates"),
             tr("The installer was changed after it had been downloaded, and will not be opened."));
     }
     return isUnchanged;
+}
+
+void MRVUpdateDownloader::keepInstaller()
+{
+    m_model->keepInstaller();
 }
 
 void MRVUpdateDownloader::installRequested()
@@ -261,10 +369,12 @@ void MRVUpdateDownloader::installRequested()
     }
     m_isTelling = true;
     const QPointer<MRVUpdateDownloader> self(this);
-    if (!confirmInstaller()) {
-        if (self) {
-            cancelUpdate();
-        }
+    const bool isConfirmed = confirmInstaller();
+    if (!self || m_ended) {
+        return;
+    }
+    if (!isConfirmed) {
+        cancelUpdate();
         return;
     }
     m_ended = true;
@@ -289,5 +399,6 @@ void MRVUpdateDownloader::cancelUpdate()
         m_downloader->disconnect();
         m_downloader->cancelDownload();
     }
+    m_model->removeFiles();
     Q_EMIT finished();
 }

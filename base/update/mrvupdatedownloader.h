@@ -1,22 +1,27 @@
 #pragma once
 
+#include "update/mrvupdatepolicy.h"
 #include "util/mrvbase_export.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class MRVCheckForUpdatesDialog;
 class MRVDownloadUrl;
 class MRVRedirectPolicy;
 class MRVUpdateModel;
+struct MRVUpdateState;
 
 /**
  * Runs one update check from its start to its end: fetches the feed, lets the model judge it, shows
  * the dialog when there is something to show, fetches the installer when the user asks for it, and
- * tells when it is to be opened.
+ * tells when it is to be opened. With a public key, the signatures of both are fetched before them.
+ * What lies in the temporary folder is removed when the check ends, except an installer that is to
+ * be opened.
  *
  * A check ends once, with finished() or with installRequested(QString), and can then be deleted; it
  * needs a QApplication. Redirects are followed ten times at most, on http and https only, and never
@@ -54,18 +59,26 @@ public:
     void disableSilent();
     /** MRVUpdateModel::setPublicKey() of this check; to be called before it starts. */
     bool setPublicKey(const QByteArray &key);
+    /** Which features this check has; to be called before it starts. */
+    void setPolicy(const MRVUpdatePolicy &policy);
     /**
      * Whether the installer is still the one that was found valid; warns the user where it is not.
-     * To be asked right before it is opened.
+     * To be asked right before it is opened. While a large one is read, events are handled except
+     * those of user input.
      */
     bool confirmInstaller();
+    /** Leaves the installer where it is, for what is going to open it. */
+    void keepInstaller();
 
 public Q_SLOTS:
     /** Ends the check, with a warning unless it is silent. */
     void errorMsg(const QString &error);
     /** The feed has been judged. */
     void updateAvailable(bool available);
-    /** Does nothing before a newer version is known; it is then fetched at once. */
+    /**
+     * Does nothing before a newer version is known. After a failed download it goes on where that
+     * ended, as far as the server lets it.
+     */
     void downloadInstaller();
     /** Checks that the installer is still the one that was found valid, and hands it over. */
     void installRequested();
@@ -93,24 +106,29 @@ Q_SIGNALS:
     void updateChecked();
 
 private:
-    enum class Step { Feed, Installer, Signature };
+    enum class Step { FeedSignature, Feed, InstallerSignature, Installer };
 
-    bool download(Step step, const QString &url, const QString &path);
-    void removePlantedLink();
-    void removeRefused();
+    void connectModel();
+    void connectDialog();
+    void connectDownloader();
+    bool download(Step step);
+    void next(Step step);
+    void onProgress(qint64 bytesRead, qint64 total);
     void onDownloaded();
-    void onInstallerDownloaded();
     void tellDownloadError(const QString &error);
     void showDialog();
+    void showChecking();
+    void prepareState();
+    void offerChoices();
+    void putOff(const std::function<void(MRVUpdateState *state)> &note);
 
     bool m_silent = true;
     QPointer<MRVCheckForUpdatesDialog> m_dialog;
     MRVUpdateModel *m_model;
     MRVDownloadUrl *m_downloader = nullptr;
     std::unique_ptr<MRVRedirectPolicy> m_redirects;
+    MRVUpdatePolicy m_policy;
     Step m_step = Step::Feed;
-    QString m_path; // of the file that is being downloaded
     bool m_ended = false;
     bool m_isTelling = false; // what ends the check
-    bool m_installerWanted = false; // asked for before the feed was judged
 };

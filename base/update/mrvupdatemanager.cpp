@@ -1,6 +1,7 @@
 #include "update/mrvupdatemanager.h"
 
 #include "download/mrvmessage.h"
+#include "download/mrvservertext.h"
 #include "network/mrvnetwork.h"
 #include "settings/mrvsettings.h"
 #include "update/mrvupdatedownloader.h"
@@ -12,19 +13,27 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QEventLoopLocker>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScopedPointer>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
 Q_LOGGING_CATEGORY(lcWeb, "mrv.web", QtWarningMsg)
 
 constexpr int StartUpDelay = 5000; // milliseconds
+// Short, since a timer stands still while the machine sleeps.
+constexpr int ClockInterval = 15 * 60 * 1000;
 
 MRVUpdateManager *manager = nullptr;
 
@@ -62,15 +71,47 @@ QVariant setting(const QString &key)
                          : settings.value(key, settings.value(QLatin1String("Options/") + key));
 }
 
-bool isCheckDue()
+// @param leastDays between two checks, whatever the interval says.
+bool isCheckDue(int leastDays = 0)
 {
     if (!setting(MRVUpdateManager::checkForUpdatesKey()).toBool()) {
         return false;
     }
     const QDate last = setting(MRVUpdateManager::lastCheckForUpdatesKey()).toDateTime().date();
-    return !last.isValid()
-        || last.daysTo(QDate::currentDate())
-        >= setting(MRVUpdateManager::checkForUpdatesIntervalKey()).toInt();
+    const int interval = setting(MRVUpdateManager::checkForUpdatesIntervalKey()).toInt();
+    return !last.isValid() || last.daysTo(QDate::currentDate()) >= qMax(leastDays, interval);
+}
+
+// Whether a window has refused to close.
+bool isAnyWindowOpen()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(widgets.begin(), widgets.end(),
+                       [](const QWidget *widget) {
+                           return widget->isVisible() && widget->windowType() != Qt::Desktop
+                               && !widget->testAttribute(Qt::WA_DontShowOnScreen);
+                       })
+        || std::any_of(windows.begin(), windows.end(),
+                       [](const QWindow *window) { return window->isVisible(); });
+}
+
+// The windows are closed, so the user could not find it otherwise.
+void showUnopened(const QString &path)
+{
+    const QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Warning, MRVUpdateManager::tr("Morvane Update"),
+                        MRVUpdateManager::tr("The installer cannot be opened: %1")
+                            .arg(MRVServerText::breakable(QDir::toNativeSeparators(path))),
+                        QMessageBox::Close);
+    box->setTextFormat(Qt::PlainText);
+    const QAbstractButton *const open =
+        box->addButton(MRVUpdateManager::tr("Open Folder"), QMessageBox::AcceptRole);
+    box->exec();
+    if (box && box->clickedButton() == open) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path()));
+    }
+    delete box;
 }
 
 } // namespace
@@ -119,6 +160,24 @@ bool MRVUpdateManager::setPublicKey(const QByteArray &key)
 {
     m_publicKey = key;
     return MRVUpdateModel().setPublicKey(key);
+}
+
+void MRVUpdateManager::setPolicy(const MRVUpdatePolicy &policy)
+{
+    m_policy = policy;
+    delete std::exchange(m_clock, nullptr);
+    if (policy.features.testFlag(MRVUpdatePolicy::ChecksWhileRunning)) {
+        m_clock = new QTimer(this);
+        connect(m_clock, &QTimer::timeout, this, &MRVUpdateManager::onTime);
+        m_clock->start(ClockInterval);
+    }
+}
+
+void MRVUpdateManager::onTime()
+{
+    if (isCheckDue(1)) {
+        checkForUpdatesSilent();
+    }
 }
 
 QString MRVUpdateManager::checkForUpdatesKey()
@@ -170,6 +229,7 @@ void MRVUpdateManager::doCheckForUpdates(bool silent)
     connect(m_downloader, &MRVUpdateDownloader::updateChecked, this,
             &MRVUpdateManager::onUpdateChecked);
     m_downloader->setPublicKey(m_publicKey);
+    m_downloader->setPolicy(m_policy);
     // Its message box runs an event loop, in which this object may be released.
     const QPointer<MRVUpdateManager> self(this);
     if (!m_downloader->startUpdate(silent) && self) {
@@ -222,10 +282,13 @@ void MRVUpdateManager::onInstallUpdateRequested(const QString &exeFilePath)
         locker.emplace();
     }
     QApplication::closeAllWindows();
-    if (isChecks && !check->confirmInstaller()) {
+    if (isAnyWindowOpen() || (isChecks && !check->confirmInstaller())) {
         return;
     }
+    if (isChecks) {
+        check->keepInstaller();
+    }
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::toNativeSeparators(exeFilePath)))) {
-        qCWarning(lcWeb, "%s cannot be opened", qUtf8Printable(exeFilePath));
+        showUnopened(exeFilePath);
     }
 }

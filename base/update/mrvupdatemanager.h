@@ -1,5 +1,6 @@
 #pragma once
 
+#include "update/mrvupdatepolicy.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -10,6 +11,7 @@
 class MRVUpdateDownloader;
 class QAction;
 class QMenu;
+class QTimer;
 
 /**
  * The application's update checks: the menu action for them, the check at start-up, and the opening
@@ -20,6 +22,14 @@ class QMenu;
  * that is neither "Morvane" nor "Fernwick" these are empty, and nothing is checked at start-up. A
  * preference that is not under its key is looked for where the application's options keep it, under
  * "Options/" and the key.
+ *
+ * An application that gives its maker's public key gets installers of that maker only, and neither
+ * older feeds than it has seen nor an installer of another version than the feed names; see
+ * MRVUpdateModel. The key does not protect from a server, or a network, that offers nothing new:
+ * a feed names a time when it expires for that. Without a key, whoever can change what the server
+ * sends decides what is opened, so that https and the server are all there is to rely upon.
+ *
+ * What was seen and chosen is kept beside the preferences; see MRVUpdateState.
  *
  * Needs a QApplication.
  *
@@ -55,11 +65,19 @@ public:
     void setupMenuActions(QMenu *menu);
 
     /**
-     * From now on installers must carry a signature of this key; see
+     * From now on feeds and installers must carry a signature of this key; see
      * MRVUpdateModel::setPublicKey(). To be called before a check is made, as right after the first
      * instance().
      */
     bool setPublicKey(const QByteArray &key);
+
+    /**
+     * Chooses features of the checks that are made from now on. With
+     * MRVUpdatePolicy::ChecksWhileRunning a silent check is made as at start-up, but once a day at
+     * most, as long as the application runs.
+     */
+    void setPolicy(const MRVUpdatePolicy &policy);
+    const MRVUpdatePolicy &policy() const { return m_policy; }
 
     /** Whether to check at start-up: bool, false when absent. */
     static QString checkForUpdatesKey();
@@ -81,7 +99,8 @@ public Q_SLOTS:
     /**
      * Ends a check, closes all windows of the application, and opens the installer with what the
      * desktop has for it, unless it comes from the check, and was changed since that found it
-     * valid.
+     * valid. A window that does not close, as when the user cancels saving, stops that; the
+     * installer is then removed. Where the desktop cannot open it, the user is told where it lies.
      */
     void onInstallUpdateRequested(const QString &exeFilePath);
     /** Notes the present time as that of the last check, and saves it. */
@@ -91,8 +110,11 @@ private:
     explicit MRVUpdateManager(QObject *parent);
     void doCheckForUpdates(bool silent);
     void forgetDownloader();
+    void onTime();
 
     QAction *m_action;
     QPointer<MRVUpdateDownloader> m_downloader;
     QByteArray m_publicKey;
+    MRVUpdatePolicy m_policy;
+    QTimer *m_clock = nullptr; // for checks while the application runs
 };

@@ -4408,6 +4408,25 @@ Fehler: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSignature</name>
+    <message>
+        <source>no valid key is set to check it with</source>
+        <translation>es gibt keinen gültigen Schlüssel, um sie zu prüfen</translation>
+    </message>
+    <message>
+        <source>the signature cannot be read</source>
+        <translation>die Signatur kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it was made with another key</source>
+        <translation>sie wurde mit einem anderen Schlüssel erzeugt</translation>
+    </message>
+    <message>
+        <source>it was altered</source>
+        <translation>sie wurde verändert</translation>
+    </message>
+</context>
+<context>
     <name>MRVSourceEdit</name>
     <message>
         <source>the changes overlap or belong to another text</source>
@@ -4634,10 +4653,6 @@ Fehler: %2</translation>
         <translation>Der Server hat den Download an eine unsichere Adresse weitergeleitet.</translation>
     </message>
     <message>
-        <source>Checking for updates...</source>
-        <translation>Nach Updates wird gesucht&#xa0;…</translation>
-    </message>
-    <message>
         <source>Check for Updates</source>
         <translation>Nach Updates suchen</translation>
     </message>
@@ -4648,6 +4663,21 @@ Fehler: %2</translation>
     <message>
         <source>The installer was changed after it had been downloaded, and will not be opened.</source>
         <translation>Das Installationsprogramm wurde nach dem Download verändert und wird nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Diese Version überspringen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateFeed</name>
+    <message>
+        <source>its element &quot;%1&quot; is not valid</source>
+        <translation>deren Element „%1“ ist nicht gültig</translation>
     </message>
 </context>
 <context>
@@ -4666,32 +4696,20 @@ You need internet connection to check for updates</source>
         <translation>Keine aktive Netzwerkverbindung gefunden
 Um nach Updates zu suchen, benötigen Sie eine Internetverbindung</translation>
     </message>
+    <message>
+        <source>The installer cannot be opened: %1</source>
+        <translation>Das Installationsprogramm kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>no valid key is set to check it with</source>
-        <translation>es gibt keinen gültigen Schlüssel, um sie zu prüfen</translation>
-    </message>
-    <message>
-        <source>the installer cannot be read</source>
-        <translation>das Installationsprogramm kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>the signature cannot be read</source>
-        <translation>die Signatur kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>it was made with another key</source>
-        <translation>sie wurde mit einem anderen Schlüssel erzeugt</translation>
-    </message>
-    <message>
         <source>it is not this installer&apos;s</source>
         <translation>sie gehört nicht zu diesem Installationsprogramm</translation>
-    </message>
-    <message>
-        <source>its comment was altered</source>
-        <translation>ihr Kommentar wurde verändert</translation>
     </message>
     <message>
         <source>it was made for another file</source>
@@ -4740,6 +4758,50 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Das Installationsprogramm trägt keine gültige Signatur (%1) und wird nicht geöffnet. Bitte melden Sie dies an %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The update feed is not accepted: %1. Please report this to %2.</source>
+        <translation>Die Angaben zum Update werden nicht angenommen: %1. Bitte melden Sie dies an %2.</translation>
+    </message>
+    <message>
+        <source>it does not say when it was made</source>
+        <translation>die Signatur nennt nicht die Zeit, zu der sie erzeugt wurde</translation>
+    </message>
+    <message>
+        <source>it is older than one that was seen before</source>
+        <translation>sie sind älter als solche, die schon empfangen wurden</translation>
+    </message>
+    <message>
+        <source>it is not what was signed</source>
+        <translation>sie sind nicht das, was signiert wurde</translation>
+    </message>
+    <message>
+        <source>it is another application&apos;s</source>
+        <translation>sie gehören zu einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>sie sind abgelaufen</translation>
+    </message>
+    <message>
+        <source>it offers an older version than before</source>
+        <translation>sie bieten eine ältere Version an als zuvor</translation>
+    </message>
+    <message>
+        <source>it was made for another version</source>
+        <translation>sie gilt für eine andere Version</translation>
+    </message>
+    <message>
+        <source>The installer is not the one that the update feed describes, and will not be opened. Please report this to %1.</source>
+        <translation>Das Installationsprogramm ist nicht das in den Angaben zum Update beschriebene und wird nicht geöffnet. Bitte melden Sie dies an %1.</translation>
+    </message>
+    <message>
+        <source>it is not over a hash, as that of a large file has to be</source>
+        <translation>sie gilt keinem Hash, wie es bei einer großen Datei nötig ist</translation>
     </message>
 </context>
 <context>

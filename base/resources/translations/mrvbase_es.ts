@@ -4408,6 +4408,25 @@ Error: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSignature</name>
+    <message>
+        <source>no valid key is set to check it with</source>
+        <translation>no hay ninguna clave válida con la que comprobarla</translation>
+    </message>
+    <message>
+        <source>the signature cannot be read</source>
+        <translation>no se puede leer la firma</translation>
+    </message>
+    <message>
+        <source>it was made with another key</source>
+        <translation>se creó con otra clave</translation>
+    </message>
+    <message>
+        <source>it was altered</source>
+        <translation>fue alterada</translation>
+    </message>
+</context>
+<context>
     <name>MRVSourceEdit</name>
     <message>
         <source>the changes overlap or belong to another text</source>
@@ -4634,10 +4653,6 @@ Error: %2</translation>
         <translation>El servidor redirigió la descarga a una dirección que no es segura.</translation>
     </message>
     <message>
-        <source>Checking for updates...</source>
-        <translation>Buscando actualizaciones…</translation>
-    </message>
-    <message>
         <source>Check for Updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
@@ -4648,6 +4663,21 @@ Error: %2</translation>
     <message>
         <source>The installer was changed after it had been downloaded, and will not be opened.</source>
         <translation>El instalador se modificó después de descargarse y no se abrirá.</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Recordármelo más tarde</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Omitir esta versión</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateFeed</name>
+    <message>
+        <source>its element &quot;%1&quot; is not valid</source>
+        <translation>su elemento «%1» no es válido</translation>
     </message>
 </context>
 <context>
@@ -4666,32 +4696,20 @@ You need internet connection to check for updates</source>
         <translation>No se encontró ninguna conexión de red activa
 Se necesita conexión a Internet para buscar actualizaciones</translation>
     </message>
+    <message>
+        <source>The installer cannot be opened: %1</source>
+        <translation>No se puede abrir el instalador: %1</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>no valid key is set to check it with</source>
-        <translation>no hay ninguna clave válida con la que comprobarla</translation>
-    </message>
-    <message>
-        <source>the installer cannot be read</source>
-        <translation>no se puede leer el instalador</translation>
-    </message>
-    <message>
-        <source>the signature cannot be read</source>
-        <translation>no se puede leer la firma</translation>
-    </message>
-    <message>
-        <source>it was made with another key</source>
-        <translation>se creó con otra clave</translation>
-    </message>
-    <message>
         <source>it is not this installer&apos;s</source>
         <translation>no corresponde a este instalador</translation>
-    </message>
-    <message>
-        <source>its comment was altered</source>
-        <translation>su comentario fue alterado</translation>
     </message>
     <message>
         <source>it was made for another file</source>
@@ -4740,6 +4758,50 @@ Comuníquelo a %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>El instalador no lleva una firma válida (%1) y no se abrirá. Comuníquelo a %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>No se puede escribir el archivo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The update feed is not accepted: %1. Please report this to %2.</source>
+        <translation>No se aceptan los datos de la actualización: %1. Comuníquelo a %2.</translation>
+    </message>
+    <message>
+        <source>it does not say when it was made</source>
+        <translation>la firma no dice cuándo se creó</translation>
+    </message>
+    <message>
+        <source>it is older than one that was seen before</source>
+        <translation>son más antiguos que otros ya recibidos</translation>
+    </message>
+    <message>
+        <source>it is not what was signed</source>
+        <translation>no son lo que se firmó</translation>
+    </message>
+    <message>
+        <source>it is another application&apos;s</source>
+        <translation>son de otra aplicación</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>han caducado</translation>
+    </message>
+    <message>
+        <source>it offers an older version than before</source>
+        <translation>ofrecen una versión más antigua que antes</translation>
+    </message>
+    <message>
+        <source>it was made for another version</source>
+        <translation>es de otra versión</translation>
+    </message>
+    <message>
+        <source>The installer is not the one that the update feed describes, and will not be opened. Please report this to %1.</source>
+        <translation>El instalador no es el que describen los datos de la actualización y no se abrirá. Comuníquelo a %1.</translation>
+    </message>
+    <message>
+        <source>it is not over a hash, as that of a large file has to be</source>
+        <translation>no es de un resumen criptográfico, como exige un archivo grande</translation>
     </message>
 </context>
 <context>

@@ -4408,6 +4408,25 @@ Erreur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>MRVSignature</name>
+    <message>
+        <source>no valid key is set to check it with</source>
+        <translation>aucune clé valide ne permet de la vérifier</translation>
+    </message>
+    <message>
+        <source>the signature cannot be read</source>
+        <translation>impossible de lire la signature</translation>
+    </message>
+    <message>
+        <source>it was made with another key</source>
+        <translation>elle a été créée avec une autre clé</translation>
+    </message>
+    <message>
+        <source>it was altered</source>
+        <translation>elle a été modifiée</translation>
+    </message>
+</context>
+<context>
     <name>MRVSourceEdit</name>
     <message>
         <source>the changes overlap or belong to another text</source>
@@ -4634,10 +4653,6 @@ Erreur&#xa0;: %2</translation>
         <translation>Le serveur a redirigé le téléchargement vers une adresse qui n’est pas sûre.</translation>
     </message>
     <message>
-        <source>Checking for updates...</source>
-        <translation>Recherche de mises à jour…</translation>
-    </message>
-    <message>
         <source>Check for Updates</source>
         <translation>Rechercher des mises à jour</translation>
     </message>
@@ -4648,6 +4663,21 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>The installer was changed after it had been downloaded, and will not be opened.</source>
         <translation>Le programme d’installation a été modifié après son téléchargement et ne sera pas ouvert.</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Me le rappeler plus tard</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+</context>
+<context>
+    <name>MRVUpdateFeed</name>
+    <message>
+        <source>its element &quot;%1&quot; is not valid</source>
+        <translation>leur élément «&#xa0;%1&#xa0;» n’est pas valide</translation>
     </message>
 </context>
 <context>
@@ -4666,32 +4696,20 @@ You need internet connection to check for updates</source>
         <translation>Aucune connexion réseau active
 Une connexion Internet est nécessaire pour rechercher des mises à jour</translation>
     </message>
+    <message>
+        <source>The installer cannot be opened: %1</source>
+        <translation>Impossible d’ouvrir le programme d’installation&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateModel</name>
     <message>
-        <source>no valid key is set to check it with</source>
-        <translation>aucune clé valide ne permet de la vérifier</translation>
-    </message>
-    <message>
-        <source>the installer cannot be read</source>
-        <translation>impossible de lire le programme d’installation</translation>
-    </message>
-    <message>
-        <source>the signature cannot be read</source>
-        <translation>impossible de lire la signature</translation>
-    </message>
-    <message>
-        <source>it was made with another key</source>
-        <translation>elle a été créée avec une autre clé</translation>
-    </message>
-    <message>
         <source>it is not this installer&apos;s</source>
         <translation>elle n’est pas celle de ce programme d’installation</translation>
-    </message>
-    <message>
-        <source>its comment was altered</source>
-        <translation>son commentaire a été modifié</translation>
     </message>
     <message>
         <source>it was made for another file</source>
@@ -4740,6 +4758,50 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>The installer does not carry a valid signature (%1) and will not be opened. Please report this to %2.</source>
         <translation>Le programme d’installation ne porte pas de signature valide (%1) et ne sera pas ouvert. Veuillez le signaler à %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write the file &quot;%1&quot;: %2</source>
+        <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The update feed is not accepted: %1. Please report this to %2.</source>
+        <translation>Les données de mise à jour sont refusées&#xa0;: %1. Veuillez le signaler à %2.</translation>
+    </message>
+    <message>
+        <source>it does not say when it was made</source>
+        <translation>la signature n’indique pas quand elle a été créée</translation>
+    </message>
+    <message>
+        <source>it is older than one that was seen before</source>
+        <translation>elles sont plus anciennes que d’autres déjà reçues</translation>
+    </message>
+    <message>
+        <source>it is not what was signed</source>
+        <translation>elles ne correspondent pas à ce qui a été signé</translation>
+    </message>
+    <message>
+        <source>it is another application&apos;s</source>
+        <translation>elles concernent une autre application</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>elles ont expiré</translation>
+    </message>
+    <message>
+        <source>it offers an older version than before</source>
+        <translation>elles proposent une version plus ancienne qu’auparavant</translation>
+    </message>
+    <message>
+        <source>it was made for another version</source>
+        <translation>elle concerne une autre version</translation>
+    </message>
+    <message>
+        <source>The installer is not the one that the update feed describes, and will not be opened. Please report this to %1.</source>
+        <translation>Le programme d’installation n’est pas celui que décrivent les données de mise à jour et ne sera pas ouvert. Veuillez le signaler à %1.</translation>
+    </message>
+    <message>
+        <source>it is not over a hash, as that of a large file has to be</source>
+        <translation>elle ne porte pas sur une empreinte, ce qu’exige un gros fichier</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "util/mrvtemporaryfolder.h"
+
+#include <QCoreApplication>
+#include <QString>
+#include <QVector>
+
+#include <memory>
+
+/**
+ * Where the files of an update check lie: in the temporary folder, under names that are known
+ * beforehand, or, where another user has taken one of these, in a private folder there.
+ *
+ * A name is claimed before its file is downloaded: a new, empty file holds it, which other users
+ * cannot replace in a folder such as /tmp. What was claimed is removed with this object.
+ */
+class MRVUpdateFolder
+{
+    Q_DECLARE_TR_FUNCTIONS(MRVUpdateModel)
+
+public:
+    MRVUpdateFolder() = default;
+    ~MRVUpdateFolder();
+    MRVUpdateFolder(const MRVUpdateFolder &) = delete;
+    MRVUpdateFolder &operator=(const MRVUpdateFolder &) = delete;
+
+    /** The path under a name; in the folder itself for an empty one. */
+    QString filePath(const QString &name) const;
+    /**
+     * Claims a name. Links and pipes of this user are removed, a file of this user is kept until it
+     * is replaced. Claiming a name again does nothing.
+     *
+     * @param error receives a translated line where neither folder takes the file.
+     */
+    bool claim(const QString &name, QString *error);
+    /** Removes all files that were claimed, except those that were there before. */
+    void clear();
+    /** Leaves a file where it is for good. */
+    void keep(const QString &name);
+
+private:
+    struct Claim
+    {
+        QString path;
+        quint64 before = 0; // the inode of a file that was there before; 0 for none
+    };
+
+    bool claimIn(const QString &folder, const QString &name);
+    bool isClaimed(const QString &path) const;
+
+    std::unique_ptr<MRVTemporaryFolder> m_private;
+    QString m_privatePath; // empty while the temporary folder itself is used
+    QVector<Claim> m_claims;
+};

@@ -1,0 +1,335 @@
+#include "datarows.h"
+#include "rawserver.h"
+#include "signer.h"
+#include "support.h"
+
+#include "network/mrvnetwork.h"
+#include "update/mrvcheckforupdatesdialog.h"
+#include "update/mrvupdatedownloader.h"
+#include "update/mrvupdatemodel.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QNetworkProxy>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <ctime>
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr uid_t victim = 65534;
+constexpr uid_t attacker = 65533;
+
+const QByteArray installer = "#!/bin/sh\n# installer of 3.0.0.0\n";
+
+// Of "name=value|name=value".
+QString valueIn(const QString &cell, const QString &name, const QString &otherwise)
+{
+    for (const QString &part : cell.split('|')) {
+        if (part.startsWith(name + '=')) {
+            return part.mid(name.size() + 1);
+        }
+    }
+    return otherwise;
+}
+
+// "302 URL", "404", or all of the body.
+QByteArray answerOf(const QByteArray &body)
+{
+    const auto status = [](const QByteArray &line) {
+        return "HTTP/1.1 " + line + "\r\nContent-Length: 0\r\n\r\n";
+    };
+    if (body == "404") {
+        return status("404 Not Found");
+    }
+    if (body.startsWith("302 ")) {
+        return status("302 Found\r\nLocation: " + body.mid(4));
+    }
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n"
+        + body;
+}
+
+// A text as it stands, or the usual feed with other values: "V" version, "N" name, "U" address and
+// "X" further elements.
+QByteArray feedOf(const QString &cell)
+{
+    if (cell.startsWith('<') || cell.startsWith("302 ") || cell == "404") {
+        return cell.toUtf8();
+    }
+    return QString("<u><version>%1</version><linuxfilename>%2</linuxfilename><url>%3</url>%4</u>")
+        .arg(valueIn(cell, "V", "3.0.0.0"), valueIn(cell, "N", "morvane.run"),
+             valueIn(cell, "U", "http://d.example/"), valueIn(cell, "X", {}))
+        .toUtf8();
+}
+
+// The maker's signature of a file with other values: "key" (b is another key, c one with the same
+// id), "of" what is signed, "form", "comment" or its fields "time", "file" and "version"; then
+// "edit" replaces in the result. A status as it stands, and what follows "raw ".
+QByteArray signatureOf(const QByteArray &bytes, const QString &file, const QString &version,
+                       const QString &cell)
+{
+    if (cell == "404" || cell.startsWith("302 ")) {
+        return cell.toUtf8();
+    }
+    if (cell.startsWith("raw ")) {
+        return cell.mid(4).toUtf8();
+    }
+    const QString key = valueIn(cell, "key", "a");
+    const Signer signer(key[0].toLatin1(), key == "b" ? "other id" : "maker id");
+    QString comment = "timestamp:" + valueIn(cell, "time", "1795270412")
+        + "\tfile:" + valueIn(cell, "file", file);
+    const QString bound = valueIn(cell, "version", version);
+    comment += bound.isEmpty() ? QString() : "\tversion:" + bound;
+    QByteArray result = signer.sign(valueIn(cell, "of", QString::fromLatin1(bytes)).toLatin1(),
+                                    valueIn(cell, "comment", comment).toUtf8(),
+                                    valueIn(cell, "form", "hashed") == "hashed");
+    const QString edit = valueIn(cell, "edit", "=");
+    return result.replace(edit.section('>', 0, 0).toUtf8(), edit.section('>', 1).toUtf8());
+}
+
+} // namespace
+
+// In place of the platform's, as an application may bring its own.
+bool MrvNetwork::isNetworkConnected()
+{
+    return true;
+}
+
+/** Attackers who own the server, the network, or an account of the machine. */
+class TestUpdateAttacks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>("/tmp/tst_updateattacks-XXXXXX");
+        QVERIFY(m_folder->isValid());
+        QVERIFY(chmod(QFile::encodeName(m_folder->path()), 01777) == 0);
+        qputenv("TMPDIR", QFile::encodeName(m_folder->path()));
+        qputenv("MRV_PLUGIN_PATH", "/nowhere");
+        QCoreApplication::setApplicationName("Morvane");
+        QCoreApplication::setOrganizationName("Morvane");
+        QCoreApplication::setApplicationVersion("2.9.0.0");
+        QSettings("Morvane", "Morvane").clear();
+    }
+
+    void cleanup()
+    {
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+        if (geteuid() != getuid()) {
+            QVERIFY(seteuid(getuid()) == 0);
+        }
+        QFile::remove(m_folder->path() + "\\update.xml");
+    }
+
+    void attacks_data() { addRows("update-attacks.tsv"); }
+    // What a user sees who downloads and installs whatever is offered.
+    void attacks()
+    {
+        QFETCH(QString, said);
+        RawServer server;
+        serve(&server);
+        QVERIFY(writeBytes(m_folder->filePath("victim"), "precious"));
+        plant(cell("before").split(' '));
+        if (QTest::currentTestFailed() || m_skipped) {
+            m_skipped = false;
+            QSKIP("only the superuser has several users");
+        }
+        MRVUpdateDownloader check;
+        if (!cell("key").startsWith("no")) {
+            check.setPublicKey(cell("key").isEmpty() ? Signer('a').publicKey()
+                                                     : cell("key").toUtf8());
+        }
+        QString heard = drive(&check);
+        QCOMPARE(heard.replace(m_folder->path(), "@tmp").left(said.size()), said);
+        QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
+        compareRest(said);
+    }
+
+    void digestsInSlices_data()
+    {
+        QTest::addColumn<QByteArray>("sha256");
+        QTest::newRow("hash") << QByteArray();
+        const QByteArray zeroes(1 << 20, '\0');
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        for (int i = 0; i < 400; ++i) {
+            hash.addData(zeroes);
+        }
+        QTest::newRow("hash-and-sha256") << hash.result().toHex();
+    }
+    // The window answers while 400 MB are read.
+    void digestsInSlices()
+    {
+        QFETCH(QByteArray, sha256);
+        MRVUpdateModel model;
+        MRVUpdatePolicy policy;
+        policy.features = MRVUpdatePolicy::CriticalUpdates; // all elements are read
+        model.setPolicy(policy, true);
+        const QByteArray element = sha256.isEmpty() ? sha256 : "<sha256>" + sha256 + "</sha256>";
+        QVERIFY(writeBytes(model.xmlFilePath(), feedOf("X=" + element)));
+        model.readXML();
+        QFile file(model.downloadFilePath());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(400 << 20));
+        // Of the processor, as others may be using it meanwhile.
+        std::clock_t last = std::clock();
+        std::clock_t longest = 0;
+        QTimer ticker;
+        ticker.callOnTimeout([&] {
+            longest = qMax(longest, std::clock() - last);
+            last = std::clock();
+        });
+        ticker.start(0);
+        QSignalSpy ready(&model, &MRVUpdateModel::readyToInstall);
+        QSignalSpy failed(&model, &MRVUpdateModel::updateError);
+        model.readEXE();
+        QVERIFY(ready.isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, 30000 * SanitizerTime);
+        QVERIFY(model.isInstallerUnchanged());
+        longest = qMax(longest, std::clock() - last);
+        QVERIFY2(longest < CLOCKS_PER_SEC / 10 * SanitizerTime,
+                 qPrintable(QString::number(longest)));
+        QVERIFY(failed.isEmpty());
+        QVERIFY(file.seek(300 << 20) && file.write("x") == 1 && file.flush());
+        QVERIFY(!model.isInstallerUnchanged());
+    }
+
+private:
+    void serve(RawServer *server)
+    {
+        QNetworkProxy::setApplicationProxy(
+            {QNetworkProxy::HttpProxy, server->serverAddress().toString(), server->serverPort()});
+        const QByteArray feed = feedOf(cell("feed"));
+        const QString name = valueIn(cell("feed"), "N", "morvane.run");
+        const QByteArray run =
+            cell("installer").isEmpty() ? installer : cell("installer").toLatin1();
+        const QString version = valueIn(cell("feed"), "V", "3.0.0.0");
+        const QString folder = "http://d.example/" + name;
+        const auto answer = [&](const QString &url, const QByteArray &body) {
+            server->answer(url, answerOf(body));
+        };
+        answer("http://updates.example/update.xml", feed);
+        answer("http://updates.example/update.xml.minisig",
+               signatureOf(feed, "update.xml", {}, cell("feed signature")));
+        answer(folder, run);
+        answer(folder + ".minisig", signatureOf(run, name, version, cell("signature")));
+        answer("http://loop.example/", "302 http://loop.example/");
+        answer("http://mirror.example/", run);
+    }
+
+    // "seen VERSION TIME" is kept of an earlier check. "KIND NAME" is what this user has in the
+    // temporary folder, and "other KIND NAME" what another one has there.
+    void plant(QStringList words)
+    {
+        if (words[0] == "seen") {
+            QSettings settings("Morvane", "Morvane");
+            settings.setValue("Updates/feedVersion", words.value(1));
+            settings.setValue("Updates/feedTime", words.value(2));
+            return;
+        }
+        const bool isOther = words[0] == "other";
+        if (isOther && getuid() != 0) {
+            m_skipped = true;
+            return;
+        }
+        if (isOther) {
+            words.removeFirst();
+            const QByteArray precious = QFile::encodeName(m_folder->filePath("victim"));
+            QVERIFY(chown(precious, victim, victim) == 0);
+            QVERIFY(seteuid(attacker) == 0);
+        }
+        for (int i = 0; i + 1 < words.size(); i += 2) {
+            // Below "\" is what lies beside the folder, with its name before a backslash.
+            const QString path = words[i + 1] == "\\" ? m_folder->path() + "\\update.xml"
+                                                      : m_folder->filePath(words[i + 1]);
+            const QByteArray name = QFile::encodeName(path);
+            const bool isMade = words[i] == "file" ? writeBytes(path, "planted")
+                : words[i] == "link"               ? QFile::link("victim", path)
+                : words[i] == "folder"             ? QDir().mkdir(path)
+                : words[i] == "pipe"               ? mkfifo(name, 0666) == 0
+                                                   : false;
+            QVERIFY2(isMade, name.constData());
+            // Links and pipes of this user give way.
+            if (isOther || words[i] == "folder") {
+                m_planted << QFileInfo(path).fileName();
+            }
+        }
+        QVERIFY(!isOther || (seteuid(0) == 0 && seteuid(victim) == 0));
+    }
+
+    // The last thing that is said, or "installed".
+    QString drive(MRVUpdateDownloader *check)
+    {
+        QString heard;
+        bool isOver = false;
+        connect(check, &MRVUpdateDownloader::finished, [&] { isOver = true; });
+        connect(check, QOverload<QString>::of(&MRVUpdateDownloader::installRequested),
+                [&](const QString &path) {
+                    QCOMPARE(bytesOf(path), installer);
+                    const bool isSigned = !cell("key").startsWith("no");
+                    QCOMPARE(QFileInfo(path).isExecutable(), isSigned);
+                    check->keepInstaller();
+                    heard = "installed";
+                    isOver = true;
+                });
+        QTimer user;
+        user.callOnTimeout([&] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                heard = box->text();
+                box->accept();
+            }
+            for (QWidget *dialog : QApplication::topLevelWidgets()) {
+                const auto *download = dialog->findChild<QPushButton *>("downloadButton");
+                if (!download || !dialog->isVisible()) {
+                    continue;
+                }
+                if (download->text() == "Try Again" && download->isEnabled()) {
+                    heard = dialog->findChild<QLabel *>("statusLabel")->text();
+                    qobject_cast<QDialog *>(dialog)->reject();
+                    break;
+                }
+                for (const char *name : {"downloadButton", "installButton"}) {
+                    auto *button = dialog->findChild<QPushButton *>(name);
+                    if (button->isVisible() && button->isEnabled()) {
+                        button->click();
+                    }
+                }
+                break;
+            }
+        });
+        user.start(2);
+        const bool isEnded =
+            !check->startUpdate(false) || QTest::qWaitFor([&] { return isOver; }, 20000);
+        return isEnded ? heard : QString("no end");
+    }
+
+    // Nothing is left but what was there, and an installer.
+    void compareRest(const QString &said)
+    {
+        QStringList rest =
+            QDir(m_folder->path())
+                .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
+        for (const QString &planted : qAsConst(m_planted)) {
+            rest.removeOne(planted);
+        }
+        m_planted.clear();
+        rest.removeOne("victim");
+        const QStringList privates = rest.filter("mrv-");
+        const QStringList wanted = said == "installed"
+            ? (privates.isEmpty() ? QStringList("morvane.run") : privates)
+            : QStringList();
+        QCOMPARE(rest, wanted);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList m_planted;
+    bool m_skipped = false;
+};
+
+QTEST_MAIN(TestUpdateAttacks)
+#include "tst_updateattacks.moc"
