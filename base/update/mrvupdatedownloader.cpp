@@ -134,6 +134,7 @@ bool MRVUpdateDownloader::download(Step step)
         QString url;
         QString path;
         qint64 maximumSize;
+        MRVDownloadUrl::Body body = MRVDownloadUrl::Body::Raw;
     };
     const qint64 size = m_model->offer().size;
     const auto target = [&]() -> Target {
@@ -142,7 +143,9 @@ bool MRVUpdateDownloader::download(Step step)
             return {m_model->xmlSignatureUrl(), m_model->xmlSignatureFilePath(),
                     MaxSignatureDownload};
         case Step::Feed:
-            return {m_model->xmlUrl(), m_model->xmlFilePath(), MaxFeedDownload};
+            return {m_model->xmlUrl(), m_model->xmlFilePath(), MaxFeedDownload,
+                    m_model->needsSignature() ? MRVDownloadUrl::Body::Raw
+                                              : MRVDownloadUrl::Body::Text};
         case Step::InstallerSignature:
             return {m_model->signatureUrl(), m_model->signatureFilePath(), MaxSignatureDownload};
         case Step::Installer:
@@ -155,6 +158,8 @@ bool MRVUpdateDownloader::download(Step step)
     const QUrl url(target.url);
     m_redirects->start(url);
     m_downloader->setMaximumSize(target.maximumSize);
+    m_downloader->setBody(target.body);
+    m_downloader->setResumable(step == Step::Installer);
     return m_downloader->downloadToFile(url, target.path);
 }
 

@@ -38,15 +38,9 @@ QString MRVUpdateFolder::filePath(const QString &name) const
     return (m_privatePath.isEmpty() ? QDir::tempPath() : m_privatePath) + u'/' + name;
 }
 
-bool MRVUpdateFolder::isClaimed(const QString &path) const
-{
-    return std::any_of(m_claims.begin(), m_claims.end(),
-                       [&](const Claim &claim) { return claim.path == path; });
-}
-
 bool MRVUpdateFolder::claim(const QString &name, QString *error)
 {
-    if (isClaimed(filePath(name)) || claimIn(filePath(QString()), name)) {
+    if (claimAll(filePath(name))) {
         return true;
     }
     const QString reason = qt_error_string(errno);
@@ -54,7 +48,7 @@ bool MRVUpdateFolder::claim(const QString &name, QString *error)
     if (m_privatePath.isEmpty()) {
         m_private = std::make_unique<MRVTemporaryFolder>(QDir::tempPath());
         m_privatePath = m_private->path();
-        if (!m_privatePath.isEmpty() && claimIn(filePath(QString()), name)) {
+        if (!m_privatePath.isEmpty() && claimAll(filePath(name))) {
             return true;
         }
         m_private.reset();
@@ -63,26 +57,37 @@ bool MRVUpdateFolder::claim(const QString &name, QString *error)
     return MRV::fail(error, tr("Cannot write the file \"%1\": %2").arg(path, reason));
 }
 
-bool MRVUpdateFolder::claimIn(const QString &folder, const QString &name)
+bool MRVUpdateFolder::claimAll(const QString &path)
 {
-    const QByteArray path = QFile::encodeName(folder + name);
-    if (createNew(path)) {
-        m_claims.append({folder + name, 0});
-        return true;
-    }
+    return claimPath(path) && claimPath(path + QLatin1String(".part"))
+        && claimPath(path + QLatin1String(".part.origin"));
+}
+
+bool MRVUpdateFolder::claimPath(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
     struct stat status;
-    if (::lstat(path.constData(), &status) != 0 || status.st_uid != ::geteuid()) {
+    if (createNew(name)) {
+        note(path, 0);
+    } else if (::lstat(name.constData(), &status) != 0 || status.st_uid != ::geteuid()) {
+        return false;
+    } else if (S_ISREG(status.st_mode)) {
+        note(path, quint64(status.st_ino));
+    } else if (::unlink(name.constData()) == 0 && createNew(name)) {
+        note(path, 0);
+    } else {
         return false;
     }
-    if (S_ISREG(status.st_mode)) {
-        m_claims.append({folder + name, quint64(status.st_ino)});
-        return true;
-    }
-    if (::unlink(path.constData()) != 0 || !createNew(path)) {
-        return false;
-    }
-    m_claims.append({folder + name, 0});
     return true;
+}
+
+void MRVUpdateFolder::note(const QString &path, quint64 before)
+{
+    const bool isNoted = std::any_of(m_claims.cbegin(), m_claims.cend(),
+                                     [&](const Claim &claim) { return claim.path == path; });
+    if (!isNoted) {
+        m_claims.append({path, before});
+    }
 }
 
 void MRVUpdateFolder::clear()

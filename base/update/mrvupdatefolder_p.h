@@ -12,8 +12,9 @@
  * Where the files of an update check lie: in the temporary folder, under names that are known
  * beforehand, or, where another user has taken one of these, in a private folder there.
  *
- * A name is claimed before its file is downloaded: a new, empty file holds it, which other users
- * cannot replace in a folder such as /tmp. What was claimed is removed with this object.
+ * A name is claimed before its file is downloaded, together with those that MRVPartialFile uses:
+ * new, empty files hold them, which other users cannot replace in a folder such as /tmp. What was
+ * claimed is removed with this object.
  */
 class MRVUpdateFolder
 {
@@ -29,7 +30,7 @@ public:
     QString filePath(const QString &name) const;
     /**
      * Claims a name. Links and pipes of this user are removed, a file of this user is kept until it
-     * is replaced. Claiming a name again does nothing.
+     * is replaced. To be called before each download, which may have given names back.
      *
      * @param error receives a translated line where neither folder takes the file.
      */
@@ -46,8 +47,9 @@ private:
         quint64 before = 0; // the inode of a file that was there before; 0 for none
     };
 
-    bool claimIn(const QString &folder, const QString &name);
-    bool isClaimed(const QString &path) const;
+    bool claimAll(const QString &path);
+    bool claimPath(const QString &path);
+    void note(const QString &path, quint64 before);
 
     std::unique_ptr<MRVTemporaryFolder> m_private;
     QString m_privatePath; // empty while the temporary folder itself is used
