@@ -17,6 +17,7 @@ constexpr int SignatureSize = int(crypto_sign_BYTES);
 constexpr int HashSize = int(crypto_generichash_BYTES_MAX);
 // Four lines, two of which are comments that may be a page long.
 constexpr int MaxSignatureFile = 16 * 1024;
+constexpr int PieceSize = 1 << 16;
 
 const unsigned char *data(const QByteArray &bytes)
 {
@@ -52,10 +53,12 @@ QByteArray MRVSignature::publicKey(const QByteArray &text)
 MRVSignature MRVSignature::read(const QString &path, const QByteArray &key, QString *reason)
 {
     QFile file;
-    QByteArray text;
-    if (mrvOpenPlain(&file, path)) {
-        text = file.read(MaxSignatureFile + 1);
-    }
+    const bool isOpen = mrvOpenPlain(&file, path);
+    return fromText(isOpen ? file.read(MaxSignatureFile + 1) : QByteArray(), key, reason);
+}
+
+MRVSignature MRVSignature::fromText(const QByteArray &text, const QByteArray &key, QString *reason)
+{
     MRVSignature signature;
     const char *const fault = signature.fault(text, key);
     if (!fault) {
@@ -127,6 +130,23 @@ bool MRVSignature::isOfBytes(const QByteArray &bytes) const
     crypto_generichash(reinterpret_cast<unsigned char *>(hash.data()), HashSize, data(bytes),
                        quint64(bytes.size()), nullptr, 0);
     return isOfHash(hash);
+}
+
+bool MRVSignature::isOf(QIODevice *device) const
+{
+    if (!m_isHashed) {
+        return isOfBytes(device->read(LargestUnhashed + 1));
+    }
+    crypto_generichash_state state;
+    crypto_generichash_init(&state, nullptr, 0, HashSize);
+    QByteArray piece(PieceSize, Qt::Uninitialized);
+    qint64 size = 0;
+    while ((size = device->read(piece.data(), PieceSize)) > 0) {
+        crypto_generichash_update(&state, data(piece), quint64(size));
+    }
+    QByteArray hash(HashSize, Qt::Uninitialized);
+    crypto_generichash_final(&state, reinterpret_cast<unsigned char *>(hash.data()), HashSize);
+    return size == 0 && isOfHash(hash);
 }
 
 bool MRVSignature::isOfHash(const QByteArray &blake2b) const

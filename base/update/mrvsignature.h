@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+class QIODevice;
+
 /**
  * A detached signature of a file, in minisign's format, whose own contents have been checked.
  *
@@ -39,14 +41,18 @@ public:
     static QByteArray publicKey(const QByteArray &text);
 
     /**
-     * Reads a signature file and checks that all of it was made with a key. A symbolic link is not
-     * followed, and another user's file not read.
+     * Reads the signature file at @p path and checks that all of it was made with a key. A symbolic
+     * link is not followed, and another user's file not read.
      *
      * @param key    of publicKey(); with an empty one nothing is signed.
      * @param reason receives why the result is null, as a translated end of a sentence; untouched
      *               otherwise. May be null.
      */
     static MRVSignature read(const QString &path, const QByteArray &key, QString *reason = nullptr);
+
+    /** As read() with @p key and @p reason, of @p text, which such a file holds. */
+    static MRVSignature fromText(const QByteArray &text, const QByteArray &key,
+                                 QString *reason = nullptr);
 
     /** Whether nothing is signed. */
     bool isNull() const { return m_ofFile.isEmpty(); }
@@ -64,6 +70,11 @@ public:
     bool isHashed() const { return m_isHashed; }
     /** Whether these bytes are the signed file; for signatures of both forms. */
     bool isOfBytes(const QByteArray &bytes) const;
+    /**
+     * The same for what @p device, which is open, gives up to its end. Of a hashed signature it is
+     * not kept in memory.
+     */
+    bool isOf(QIODevice *device) const;
     /**
      * Whether a file with this BLAKE2b-512 hash is the signed one; false where the signature is not
      * over a hash.

@@ -126,7 +126,7 @@ public:
     /** Whether setPublicKey() was given a key, also one that is not valid. */
     bool needsSignature() const { return m_needsSignature; }
     /**
-     * Which features the check has, and whether the user has asked for it; see MRVUpdatePolicy.
+     * Which features the check has; @p isAsked as in MRVUpdatePolicy::decide().
      */
     void setPolicy(const MRVUpdatePolicy &policy, bool isAsked);
     /** What earlier checks have left; to be set before readXML(). */
