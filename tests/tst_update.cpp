@@ -73,17 +73,17 @@ bool isOnline = true;
 class SlowWindow : public QWidget
 {
 public:
-    explicit SlowWindow(std::function<void()> happens)
+    explicit SlowWindow(std::function<void(QCloseEvent *)> happens)
         : m_happens(std::move(happens))
     {
         show();
     }
 
 protected:
-    void closeEvent(QCloseEvent *) override { m_happens(); }
+    void closeEvent(QCloseEvent *event) override { m_happens(event); }
 
 private:
-    std::function<void()> m_happens;
+    std::function<void(QCloseEvent *)> m_happens;
 };
 
 MRVCheckForUpdatesDialog *shownDialog()
@@ -164,6 +164,8 @@ public Q_SLOTS:
         QCOMPARE(bytesOf(path), bytesOf(data + "morvane.run"));
         m_heard->append("opened " + url.fileName());
     }
+
+    void openFolder(const QUrl &url) { m_opened = url; }
 
 private Q_SLOTS:
     void init()
@@ -325,7 +327,8 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
         QCOMPARE(web.asked.isEmpty(), !isOnline || plant == "Fernwick");
         // What was refused is not left for somebody to open by hand.
-        QVERIFY(said.contains("install") || !QFileInfo(m_folder->filePath("morvane.run")).isFile());
+        QTRY_COMPARE(QFileInfo::exists(m_folder->filePath("morvane.run")),
+                     said.endsWith("opened morvane.run"));
         QVERIFY(!QFile::exists(m_folder->filePath("update.xml")));
     }
 
@@ -344,6 +347,121 @@ private Q_SLOTS:
         QVERIFY(writeBytes(path, bytesOf(data + "morvane.run")));
         MRVUpdateManager::instance()->onInstallUpdateRequested(path);
         QCOMPARE(heard.join(';'), QString("opened morvane.run"));
+    }
+
+    // One that the desktop cannot open: its folder may be opened instead.
+    void tellsWhereItIs()
+    {
+        const QString path = m_folder->filePath("morvane.run");
+        QVERIFY(writeBytes(path, "x"));
+        QString said;
+        QTimer::singleShot(0, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            said = box->text();
+            QDesktopServices::setUrlHandler("file", this, "openFolder");
+            for (QAbstractButton *button : box->buttons()) {
+                if (button->text() == "Open Folder") {
+                    button->click();
+                }
+            }
+        });
+        MRVUpdateManager::instance()->onInstallUpdateRequested(path);
+        QCOMPARE(said, "The installer cannot be opened: " + path);
+        QCOMPARE(m_opened, QUrl::fromLocalFile(m_folder->path()));
+    }
+
+    void putsOff_data()
+    {
+        QTest::addColumn<int>("features");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("elements");
+        const int both = MRVUpdatePolicy::SkipVersions | MRVUpdatePolicy::RemindLater;
+        const int critical = both | MRVUpdatePolicy::CriticalUpdates;
+        QTest::newRow("skips") << both << "Skip This Version"
+                               << "";
+        QTest::newRow("later") << both << "Remind Me Later"
+                               << "";
+        QTest::newRow("critical") << critical << ""
+                                  << "<critical>true</critical>";
+        QTest::newRow("not-asked-for") << 0 << ""
+                                       << "";
+    }
+    // Then only a check that the user asks for offers it.
+    void putsOff()
+    {
+        QFETCH(QString, button);
+        const Web web({{"/update.xml",
+                        "<u><version>3.0.0.0</version><linuxfilename>m</linuxfilename>"
+                        "<url>http://d/</url>"
+                            + cell("elements") + "</u>"}});
+        plantIn();
+        auto *manager = MRVUpdateManager::instance();
+        QFETCH(int, features);
+        MRVUpdatePolicy policy;
+        policy.features = MRVUpdatePolicy::Features(features);
+        manager->setPolicy(policy);
+        manager->checkForUpdatesSilent();
+        QTRY_VERIFY(shownDialog());
+        QPushButton *wanted = nullptr;
+        const auto buttons = shownDialog()->findChildren<QPushButton *>();
+        for (QPushButton *one : buttons) {
+            wanted = one->text() == button ? one : wanted;
+        }
+        QCOMPARE(buttons.size(), button.isEmpty() ? 3 : 5);
+        if (button.isEmpty()) {
+            return;
+        }
+        QVERIFY(wanted && wanted->isVisible());
+        wanted->click();
+        QTRY_VERIFY(isOver() && !shownDialog());
+        MRVUpdateManager::release(); // as by the end of the application
+        manager = MRVUpdateManager::instance();
+        manager->setPolicy(policy);
+        manager->checkForUpdatesSilent();
+        QTRY_VERIFY(isOver());
+        QVERIFY(!shownDialog());
+        QCOMPARE(web.asked.count("/update.xml"), 2);
+        manager->checkForUpdates();
+        QTRY_VERIFY(enabledButton("downloadButton"));
+    }
+
+    void whileRunning_data()
+    {
+        QTest::addColumn<bool>("on");
+        QTest::addColumn<int>("interval");
+        QTest::addColumn<int>("days");
+        QTest::addColumn<bool>("due");
+        QTest::newRow("yesterday") << true << 0 << 1 << true;
+        QTest::newRow("today") << true << 0 << 0 << false;
+        QTest::newRow("not-yet") << true << 7 << 6 << false;
+        QTest::newRow("week") << true << 7 << 7 << true;
+        QTest::newRow("off") << false << 0 << 1 << false;
+    }
+    void whileRunning()
+    {
+        Web web({{"/update.xml", "2.9.0.0|m|http://d/"}});
+        auto *manager = MRVUpdateManager::instance();
+        QFETCH(bool, on);
+        QFETCH(int, interval);
+        QFETCH(int, days);
+        QSettings store("Morvane", "Morvane");
+        store.setValue(MRVUpdateManager::checkForUpdatesKey(), on);
+        store.setValue(MRVUpdateManager::checkForUpdatesIntervalKey(), interval);
+        store.setValue(MRVUpdateManager::lastCheckForUpdatesKey(),
+                       QDateTime::currentDateTime().addDays(-days));
+        store.sync();
+        QVERIFY(!manager->findChild<QTimer *>());
+        MRVUpdatePolicy policy;
+        policy.features = MRVUpdatePolicy::ChecksWhileRunning;
+        manager->setPolicy(policy);
+        auto *clock = manager->findChild<QTimer *>();
+        QVERIFY(clock && clock->isActive() && clock->interval() <= 3600 * 1000);
+        QVERIFY(QMetaObject::invokeMethod(clock, "timeout"));
+        QTEST(!isOver(), "due");
+        QTRY_VERIFY(isOver());
+        manager->setPolicy(MRVUpdatePolicy());
+        QVERIFY(!manager->findChild<QTimer *>());
     }
 
     // What asked may be gone before the answer is read.
@@ -405,9 +523,9 @@ private Q_SLOTS:
         MRVUpdateManager::instance()->checkForUpdates();
         QTRY_VERIFY(isEnded && isOver() && !shownDialog() && !QApplication::activeModalWidget());
         QVERIFY(heard.size() <= (at == "box")); // the one that was open
-        if (at.startsWith('/')) {
-            QVERIFY(!QFile::exists(m_folder->filePath("morvane.run")));
-        }
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System;
+        QCOMPARE(QDir(m_folder->path()).entryList(all | QDir::NoDotAndDotDot),
+                 QStringList("victim"));
         user.stop();
         web.asked.clear();
         MRVUpdateManager::instance()->checkForUpdates(); // as if there had been none
@@ -633,9 +751,11 @@ private:
             }
             std::unique_ptr<SlowWindow> window;
             if (plant == "closing-swap") {
-                window = std::make_unique<SlowWindow>([&] { writeBytes(path, "evil"); });
+                window = std::make_unique<SlowWindow>([&](auto *) { writeBytes(path, "evil"); });
             } else if (plant == "closing-release") {
-                window = std::make_unique<SlowWindow>(&MRVUpdateManager::release);
+                window = std::make_unique<SlowWindow>([](auto *) { MRVUpdateManager::release(); });
+            } else if (plant == "closing-refused") {
+                window = std::make_unique<SlowWindow>([](auto *event) { event->ignore(); });
             }
             m_heard = heard;
             QDesktopServices::setUrlHandler("file", this, "open");
@@ -651,6 +771,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QStringList *m_heard = nullptr;
+    QUrl m_opened;
 };
 
 QTEST_MAIN(TestUpdate)
