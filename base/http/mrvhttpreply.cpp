@@ -513,7 +513,8 @@ void MrvHttpReply::askForProxyLogin()
 
 void MrvHttpReply::finishTransfer()
 {
-    if (m_unpacker && !m_unpacker->isWhole() && m_received > 0) {
+    const bool isUnpacked = !m_unpacker || m_unpacker->isWhole() || m_received == 0;
+    if (!m_hasHead || !isUnpacked) {
         finish(RemoteHostClosedError, tr("Connection closed before the end"));
         return;
     }
@@ -534,15 +535,24 @@ void MrvHttpReply::finishTransfer()
 
 void MrvHttpReply::finishFailed()
 {
-    if (m_transfer->hasTooManyHeaders()) {
-        finish(
+    using Fault = MrvHttpTransfer::Fault;
+    // What libcurl calls out of memory is a line that is longer than it takes.
+    const bool isLongLine = m_transfer->result() == CURLE_OUT_OF_MEMORY && !m_hasHead;
+    switch (isLongLine ? Fault::HeaderBytes : m_transfer->fault()) {
+    case Fault::HeaderBytes:
+        return finish(
             ProtocolFailure,
             tr("The server sends more than %1 bytes of headers").arg(MRVHttpLimits::HeaderBytes));
-        return;
-    }
-    if (m_transfer->hasTwoLengths()) {
-        finish(ProtocolFailure, tr("The server states two different lengths"));
-        return;
+    case Fault::TwoLengths:
+        return finish(ProtocolFailure, tr("The server states two different lengths"));
+    case Fault::NoLength:
+        return finish(ProtocolFailure, tr("The server states a length that is not a number"));
+    case Fault::Logins:
+        return finish(AuthenticationRequiredError, tr("Host requires authentication"));
+    case Fault::TlsEnd:
+        return finish(RemoteHostClosedError, tr("The encrypted connection was cut off"));
+    case Fault::None:
+        break;
     }
     const int system = m_transfer->systemError();
     const bool hasConnected = m_transfer->result() != CURLE_COULDNT_CONNECT;

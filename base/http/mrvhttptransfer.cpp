@@ -8,8 +8,8 @@
 
 namespace {
 
-// What libcurl reads at once; larger ones make large bodies no faster.
-constexpr long ReadBuffer = 256 * 1024;
+// libcurl reads up to a hundred of them before it returns to the event loop.
+constexpr long ReadBuffer = 32 * 1024;
 
 // As certificates and connections name it. There is no other form of an address.
 QString hostOf(const QUrl &url)
@@ -26,6 +26,7 @@ MrvHttpTransfer::MrvHttpTransfer(const MrvHttpPlan &plan,
     : m_transfers(std::move(transfers))
     , m_onChange(std::move(onChange))
     , m_handle(curl_easy_init())
+    , m_isHead(plan.isHead)
     , m_check(hostOf(plan.url), plan.acceptedCertificate)
 {
     setOptions(plan);
@@ -134,6 +135,7 @@ void MrvHttpTransfer::setProxy(const QNetworkProxy &proxy)
 CURLcode MrvHttpTransfer::onTls(CURL *, void *context, void *self)
 {
     static_cast<MrvHttpTransfer *>(self)->m_check.install(context);
+    MrvTlsClosing::install(context);
     return CURLE_OK;
 }
 
@@ -142,7 +144,7 @@ size_t MrvHttpTransfer::onHeader(char *bytes, size_t, size_t count, void *self)
     auto *const transfer = static_cast<MrvHttpTransfer *>(self);
     transfer->m_headerBytes += qint64(count);
     if (transfer->m_headerBytes > MRVHttpLimits::HeaderBytes) {
-        transfer->m_fault = Fault::TooManyHeaders;
+        transfer->m_fault = Fault::HeaderBytes;
         return 0; // ends the transfer
     }
     return transfer->readLine(QByteArray(bytes, int(count))) ? count : 0;
@@ -163,26 +165,38 @@ bool MrvHttpTransfer::readLine(const QByteArray &line)
     const QByteArray text = line.trimmed();
     const bool isContinued = line.startsWith(' ') || line.startsWith('\t');
     if (line.startsWith("HTTP/")) {
-        readStatus(text);
-    } else if (!m_isHeadWhole && isContinued && !m_headers.isEmpty()) {
+        return readStatus(text);
+    }
+    if (!m_isHeadWhole && isContinued && !m_headers.isEmpty()) {
         m_headers.last().second += ' ' + text;
     } else if (!m_isHeadWhole && !text.isEmpty()) {
         return addHeader(text);
     } else if (!m_isHeadWhole) {
         m_isHeadWhole = true;
+        const curl_tlssessioninfo *tls = nullptr;
+        curl_easy_getinfo(m_handle, CURLINFO_TLS_SSL_PTR, &tls);
+        if (tls && tls->internals) {
+            m_closing = MrvTlsClosing::of(tls->internals);
+        }
         m_transfers->setChanged(this);
     }
     return true;
 }
 
-void MrvHttpTransfer::readStatus(const QByteArray &line)
+bool MrvHttpTransfer::readStatus(const QByteArray &line)
 {
+    // libcurl answers a challenge by itself, as often as there is one.
+    if ((m_status == 401 || m_status == 407) && ++m_refusals > MRVHttpLimits::Logins) {
+        m_fault = Fault::Logins;
+        return false;
+    }
     m_isHeadWhole = false;
     m_headers.clear();
     const int code = line.indexOf(' ') + 1;
     const int text = line.indexOf(' ', code);
     m_status = line.mid(code, 3).toInt();
     m_reason = text < 0 ? QByteArray() : line.mid(text + 1);
+    return true;
 }
 
 bool MrvHttpTransfer::addHeader(const QByteArray &line)
@@ -192,15 +206,24 @@ bool MrvHttpTransfer::addHeader(const QByteArray &line)
         return true;
     }
     const Header added(line.left(colon).trimmed(), line.mid(colon + 1).trimmed());
-    if (added.first.toLower() == "content-length") {
-        const QByteArray stated = header(added.first);
-        if (!stated.isNull() && stated != added.second) {
-            m_fault = Fault::TwoLengths;
-            return false;
-        }
+    if (added.first.toLower() == "content-length" && !checkLength(added.second)) {
+        return false;
     }
     m_headers.append(added);
     return true;
+}
+
+// libcurl takes what it can read of one, and the last one of several.
+bool MrvHttpTransfer::checkLength(const QByteArray &length)
+{
+    bool isNumber = false;
+    const QByteArray stated = header("Content-Length");
+    if (length.toLongLong(&isNumber) < 0 || !isNumber || length.startsWith('+')) {
+        m_fault = Fault::NoLength;
+    } else if (!stated.isNull() && stated != length) {
+        m_fault = Fault::TwoLengths;
+    }
+    return m_fault == Fault::None;
 }
 
 QByteArray MrvHttpTransfer::header(const QByteArray &name) const
@@ -226,13 +249,19 @@ QByteArray MrvHttpTransfer::takeBody()
 
 void MrvHttpTransfer::setPaused(bool isPaused)
 {
-    curl_easy_pause(m_handle, isPaused ? CURLPAUSE_RECV : CURLPAUSE_CONT);
+    curl_easy_pause(m_handle, isPaused ? CURLPAUSE_ALL : CURLPAUSE_CONT);
 }
 
 void MrvHttpTransfer::setResult(CURLcode result)
 {
     m_isDone = true;
     m_result = result;
+    const bool hasEnd = header("Transfer-Encoding").toLower() == "chunked"
+        || !header("Content-Length").isNull() || m_status == 204 || m_status == 304;
+    if (result == CURLE_OK && m_closing && !*m_closing && !hasEnd && !m_isHead) {
+        m_fault = Fault::TlsEnd;
+        m_result = CURLE_RECV_ERROR;
+    }
 }
 
 QString MrvHttpTransfer::resultText() const

@@ -2,6 +2,7 @@
 
 #include "http/mrvcertificatecheck_p.h"
 #include "http/mrvhttptransfers_p.h"
+#include "http/mrvtlsclosing_p.h"
 
 #include <QByteArray>
 #include <QList>
@@ -74,12 +75,12 @@ public:
     /** What the proxy answered to a request for a tunnel; 0: nothing. */
     int tunnelStatus() const;
     const MrvCertificateCheck &certificateCheck() const { return m_check; }
-    bool hasTooManyHeaders() const { return m_fault == Fault::TooManyHeaders; }
-    bool hasTwoLengths() const { return m_fault == Fault::TwoLengths; }
+
+    /** What ended the transfer where libcurl would have gone on. */
+    enum class Fault { None, HeaderBytes, TwoLengths, NoLength, Logins, TlsEnd };
+    Fault fault() const { return m_fault; }
 
 private:
-    enum class Fault { None, TooManyHeaders, TwoLengths };
-
     static size_t onHeader(char *bytes, size_t, size_t count, void *self);
     static size_t onBody(char *bytes, size_t, size_t count, void *self);
     static CURLcode onTls(CURL *, void *context, void *self);
@@ -87,14 +88,17 @@ private:
     void setTls(const MrvHttpPlan &plan);
     void setProxy(const QNetworkProxy &proxy);
     bool readLine(const QByteArray &line);
-    void readStatus(const QByteArray &line);
+    bool readStatus(const QByteArray &line);
     bool addHeader(const QByteArray &line);
+    bool checkLength(const QByteArray &length);
 
     std::shared_ptr<MrvHttpTransfers> m_transfers;
     std::function<void()> m_onChange;
     CURL *m_handle;
+    const bool m_isHead; // a request that has no body
     curl_slist *m_sent = nullptr;
     MrvCertificateCheck m_check;
+    std::shared_ptr<const bool> m_closing; // of the TLS connection
     char m_error[CURL_ERROR_SIZE] = {};
 
     int m_status = 0;
@@ -102,6 +106,7 @@ private:
     QList<Header> m_headers;
     qint64 m_headerBytes = 0;
     bool m_isHeadWhole = false;
+    int m_refusals = 0; // of logins
     Fault m_fault = Fault::None;
     QByteArray m_body;
     bool m_isDone = false;

@@ -11,10 +11,10 @@
  * A file that comes in piece by piece, and gets to its place when it is whole.
  *
  * Until then it lies beside its place, as "NAME.part", and the place is what it was. With an origin
- * stated, the part stays there when it could not be ended, even where the program is killed, and the
- * next object for this place goes on with it; without one it is removed. After a fall of the whole
- * machine, which leaves holes in files, a part is begun again. The same places are refused as by
- * MRVFileWriter, and the same of an old file is kept.
+ * stated, the part stays there when it could not be ended, even where the program is killed, and
+ * the next object for this place goes on with it; without one it is removed. After a fall of the
+ * whole machine, which leaves holes in files, a part is begun again. The same places are refused as
+ * by MRVFileWriter, and the same of an old file is kept.
  *
  * The part must be a plain file of this user without other names; anything else of its name is
  * removed before. Another process that is writing it makes open() fail.

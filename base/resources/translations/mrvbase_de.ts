@@ -4999,6 +4999,14 @@ Bitte melden Sie dies an %1.</translation>
         <source>The server states two different lengths</source>
         <translation>Der Server nennt zwei verschiedene Längen</translation>
     </message>
+    <message>
+        <source>The server states a length that is not a number</source>
+        <translation>Der Server nennt eine Länge, die keine Zahl ist</translation>
+    </message>
+    <message>
+        <source>The encrypted connection was cut off</source>
+        <translation>Die verschlüsselte Verbindung wurde abgeschnitten</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

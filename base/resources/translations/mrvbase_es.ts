@@ -4999,6 +4999,14 @@ Comuníquelo a %1.</translation>
         <source>The server states two different lengths</source>
         <translation>El servidor indica dos longitudes distintas</translation>
     </message>
+    <message>
+        <source>The server states a length that is not a number</source>
+        <translation>El servidor indica una longitud que no es un número</translation>
+    </message>
+    <message>
+        <source>The encrypted connection was cut off</source>
+        <translation>La conexión cifrada se cortó</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -4999,6 +4999,14 @@ Veuillez la signaler à %1.</translation>
         <source>The server states two different lengths</source>
         <translation>Le serveur indique deux longueurs différentes</translation>
     </message>
+    <message>
+        <source>The server states a length that is not a number</source>
+        <translation>Le serveur indique une longueur qui n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>The encrypted connection was cut off</source>
+        <translation>La connexion chiffrée a été coupée</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
