@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QUrl>
@@ -18,7 +17,6 @@ namespace {
 // One byte more than the model takes, so that the model refuses a feed that is too large.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
-constexpr int Users = 100; // that a rollout tells apart
 
 } // namespace
 
@@ -121,7 +119,7 @@ void MRVUpdateDownloader::prepareState()
     }
     MRVUpdateState state = MRVUpdateState::load();
     if (m_policy.features.testFlag(MRVUpdatePolicy::Rollout) && state.rolloutNumber < 0) {
-        state.rolloutNumber = QRandomGenerator::global()->bounded(Users);
+        state.rolloutNumber = QRandomGenerator::global()->bounded(MRVUpdateState::Users);
         state.save();
     }
     m_model->setState(state);
@@ -181,6 +179,7 @@ void MRVUpdateDownloader::onDownloaded()
 {
     // Where a redirect is not followed, the redirect's own page has been downloaded.
     if (m_redirects->hasRefused()) {
+        m_model->removeFiles();
         tellDownloadError(tr("The server redirected the download to an address that is not safe."));
         return;
     }
