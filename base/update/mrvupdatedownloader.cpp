@@ -272,14 +272,8 @@ void MRVUpdateDownloader::updateAvailable(bool available)
         }
         return;
     }
-    m_isTelling = true;
-    if (!m_silent) {
-        mrvShowMessage(nullptr, QMessageBox::Information, tr("Check for Updates"),
-                       tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
-    }
-    if (self) {
-        cancelUpdate();
-    }
+    endWith(QMessageBox::Information,
+            tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
 }
 
 void MRVUpdateDownloader::errorMsg(const QString &error)
@@ -288,12 +282,21 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
     if (m_ended || m_isTelling) {
         return;
     }
-    m_isTelling = true;
-    const QPointer<MRVUpdateDownloader> self(this);
     // What was refused must not remain where a user might open it by hand.
     m_model->removeFiles();
+    endWith(QMessageBox::Warning, error);
+}
+
+void MRVUpdateDownloader::endWith(QMessageBox::Icon icon, const QString &text)
+{
+    m_isTelling = true;
+    const QPointer<MRVUpdateDownloader> self(this);
+    // Beside the verdict, it would still say that it is checking.
+    if (m_dialog && !m_model->isNewerAvailable()) {
+        m_dialog->hide();
+    }
     if (!m_silent) {
-        mrvShowMessage(nullptr, QMessageBox::Warning, tr("Check for Updates"), error);
+        mrvShowMessage(nullptr, icon, tr("Check for Updates"), text);
     }
     if (self) {
         cancelUpdate();
