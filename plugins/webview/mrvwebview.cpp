@@ -1,10 +1,8 @@
 #include "mrvwebview.h"
 
-#include <QCoreApplication>
+#include "mrvpictureaccess.h"
+
 #include <QDesktopServices>
-#include <QFont>
-#include <QGuiApplication>
-#include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QUrl>
 #include <QWebFrame>
@@ -19,43 +17,14 @@ bool isOnTheWeb(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Qt's own would also read files, for a page that leads there by a redirect, too, and leave an
-// encrypted connection for one that is not.
-class WebOnlyAccess : public QNetworkAccessManager
-{
-public:
-    WebOnlyAccess(const QUrl &page, QObject *parent)
-        : QNetworkAccessManager(parent)
-        , m_isEncrypted(page.scheme() == QLatin1String("https"))
-    {
-    }
-
-protected:
-    QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
-                                 QIODevice *body) override
-    {
-        const QString scheme = request.url().scheme();
-        const bool isAllowed = scheme == QLatin1String("https") || scheme == QLatin1String("data")
-            || (scheme == QLatin1String("http") && !m_isEncrypted);
-        // A request for no address ends with an error.
-        return QNetworkAccessManager::createRequest(
-            operation, isAllowed ? request : QNetworkRequest(QUrl()), body);
-    }
-
-private:
-    bool m_isEncrypted;
-};
-
 // Stays on its page: whatever the user follows opens in the desktop's browser.
 class Page : public QWebPage
 {
-    Q_DECLARE_TR_FUNCTIONS(MRVCheckForUpdatesDialog)
-
 public:
     Page(const QUrl &page, QObject *parent)
         : QWebPage(parent)
     {
-        setNetworkAccessManager(new WebOnlyAccess(page, this));
+        setNetworkAccessManager(new MRVPictureAccess(page, this));
         setForwardUnsupportedContent(false);
         const QWebSettings::WebAttribute unwanted[] = {
             QWebSettings::JavascriptEnabled,
@@ -68,14 +37,17 @@ public:
             QWebSettings::LocalContentCanAccessRemoteUrls,
             QWebSettings::DnsPrefetchEnabled,
             QWebSettings::DeveloperExtrasEnabled,
+            QWebSettings::MediaEnabled,
+            QWebSettings::MediaSourceEnabled,
+            QWebSettings::WebAudioEnabled,
+            QWebSettings::WebGLEnabled,
+            QWebSettings::NotificationsEnabled,
+            QWebSettings::HyperlinkAuditingEnabled,
         };
         for (const QWebSettings::WebAttribute attribute : unwanted) {
             settings()->setAttribute(attribute, false);
         }
         settings()->setAttribute(QWebSettings::PrivateBrowsingEnabled, true);
-        // What a page that names no font of its own is written in.
-        settings()->setFontFamily(QWebSettings::StandardFont, QGuiApplication::font().family());
-        connect(this, &QWebPage::loadFinished, this, &Page::showFailure);
     }
 
 protected:
@@ -99,17 +71,6 @@ protected:
         }
         return isOnTheWeb(url) || url.scheme() == QLatin1String("about");
     }
-
-private:
-    void showFailure(bool isLoaded)
-    {
-        if (!isLoaded) {
-            disconnect(this, &QWebPage::loadFinished, this, &Page::showFailure);
-            const QString text = tr("The release notes cannot be shown.");
-            mainFrame()->setHtml(QLatin1String("<p>") + text.toHtmlEscaped()
-                                 + QLatin1String("</p>"));
-        }
-    }
 };
 
 } // namespace
@@ -122,8 +83,10 @@ QWidget *MRVWebView::create(const QUrl &page, QWidget *parent)
     view->setContextMenuPolicy(Qt::NoContextMenu);
     view->setAcceptDrops(false);
     view->setUrl(QUrl(QStringLiteral("about:blank")));
-    if (!page.isEmpty()) {
-        view->setUrl(page);
-    }
     return view;
+}
+
+void MRVWebView::show(QWidget *view, const QString &html)
+{
+    static_cast<QWebView *>(view)->setHtml(html);
 }

@@ -13,4 +13,5 @@ class MRVWebView : public QObject, public MRVWebViewFactory
 
 public:
     QWidget *create(const QUrl &page, QWidget *parent) override;
+    void show(QWidget *view, const QString &html) override;
 };
