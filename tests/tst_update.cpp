@@ -45,6 +45,16 @@ public:
     }
 };
 
+MRVCheckForUpdatesDialog *shownDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog") {
+            return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
+        }
+    }
+    return nullptr;
+}
+
 // Closes each message box as soon as it opens, and keeps what it said.
 class Boxes : public QTimer
 {
@@ -60,6 +70,10 @@ public:
                 // Servers have a say in what most of them tell.
                 const bool isPlain = box->textFormat() == Qt::PlainText;
                 said->append(isPlain ? text : "markup " + text);
+                const QWidget *dialog = shownDialog();
+                if (dialog && !dialog->findChild<QPushButton *>("downloadButton")->isVisible()) {
+                    said->append("still checking");
+                }
                 box->accept();
             }
         });
@@ -85,16 +99,6 @@ protected:
 private:
     std::function<void(QCloseEvent *)> m_happens;
 };
-
-MRVCheckForUpdatesDialog *shownDialog()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget->objectName() == "MRVCheckForUpdatesDialog") {
-            return qobject_cast<MRVCheckForUpdatesDialog *>(widget);
-        }
-    }
-    return nullptr;
-}
 
 QPushButton *enabledButton(const char *name)
 {

@@ -152,6 +152,25 @@ private Q_SLOTS:
         compareRest(said);
     }
 
+    // Two windows of one user may check at the same time.
+    void sharesWithOtherChecks()
+    {
+        auto first = std::make_unique<MRVUpdateModel>();
+        MRVUpdateModel second;
+        QVERIFY(first->claimFeed());
+        QVERIFY(second.claimFeed());
+        QCOMPARE(first->xmlFilePath(), m_folder->filePath("update.xml"));
+        QVERIFY(first->xmlFilePath() != second.xmlFilePath());
+        QVERIFY(writeBytes(second.xmlFilePath(), feedOf(QString())));
+        first.reset();
+        second.readXML();
+        QVERIFY(second.isNewerAvailable());
+        second.removeFiles();
+        compareRest(QString());
+        QVERIFY(second.claimFeed());
+        QCOMPARE(second.xmlFilePath(), m_folder->filePath("update.xml"));
+    }
+
     // A broken download goes on where it ended when the user tries again.
     void resumes()
     {

@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QUrl>
@@ -18,7 +17,6 @@ namespace {
 // One byte more than the model takes, so that the model refuses a feed that is too large.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
-constexpr int Users = 100; // that a rollout tells apart
 
 } // namespace
 
@@ -121,7 +119,7 @@ void MRVUpdateDownloader::prepareState()
     }
     MRVUpdateState state = MRVUpdateState::load();
     if (m_policy.features.testFlag(MRVUpdatePolicy::Rollout) && state.rolloutNumber < 0) {
-        state.rolloutNumber = QRandomGenerator::global()->bounded(Users);
+        state.rolloutNumber = QRandomGenerator::global()->bounded(MRVUpdateState::Users);
         state.save();
     }
     m_model->setState(state);
@@ -181,6 +179,7 @@ void MRVUpdateDownloader::onDownloaded()
 {
     // Where a redirect is not followed, the redirect's own page has been downloaded.
     if (m_redirects->hasRefused()) {
+        m_model->removeFiles();
         tellDownloadError(tr("The server redirected the download to an address that is not safe."));
         return;
     }
@@ -273,14 +272,8 @@ void MRVUpdateDownloader::updateAvailable(bool available)
         }
         return;
     }
-    m_isTelling = true;
-    if (!m_silent) {
-        mrvShowMessage(nullptr, QMessageBox::Information, tr("Check for Updates"),
-                       tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
-    }
-    if (self) {
-        cancelUpdate();
-    }
+    endWith(QMessageBox::Information,
+            tr("%1 is all up to date.").arg(QCoreApplication::applicationName()));
 }
 
 void MRVUpdateDownloader::errorMsg(const QString &error)
@@ -289,12 +282,21 @@ void MRVUpdateDownloader::errorMsg(const QString &error)
     if (m_ended || m_isTelling) {
         return;
     }
-    m_isTelling = true;
-    const QPointer<MRVUpdateDownloader> self(this);
     // What was refused must not remain where a user might open it by hand.
     m_model->removeFiles();
+    endWith(QMessageBox::Warning, error);
+}
+
+void MRVUpdateDownloader::endWith(QMessageBox::Icon icon, const QString &text)
+{
+    m_isTelling = true;
+    const QPointer<MRVUpdateDownloader> self(this);
+    // Beside the verdict, it would still say that it is checking.
+    if (m_dialog && !m_model->isNewerAvailable()) {
+        m_dialog->hide();
+    }
     if (!m_silent) {
-        mrvShowMessage(nullptr, QMessageBox::Warning, tr("Check for Updates"), error);
+        mrvShowMessage(nullptr, icon, tr("Check for Updates"), text);
     }
     if (self) {
         cancelUpdate();

@@ -3,6 +3,7 @@
 #include "update/mrvupdatepolicy.h"
 #include "util/mrvbase_export.h"
 
+#include <QMessageBox>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -116,6 +117,7 @@ private:
     void onProgress(qint64 bytesRead, qint64 total);
     void onDownloaded();
     void tellDownloadError(const QString &error);
+    void endWith(QMessageBox::Icon icon, const QString &text);
     void showDialog();
     void showChecking();
     void prepareState();

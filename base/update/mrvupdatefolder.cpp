@@ -9,6 +9,7 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -59,8 +60,34 @@ bool MRVUpdateFolder::claim(const QString &name, QString *error)
 
 bool MRVUpdateFolder::claimAll(const QString &path)
 {
-    return claimPath(path) && claimPath(path + QLatin1String(".part"))
+    return lock(path + QLatin1String(".lock")) && claimPath(path)
+        && claimPath(path + QLatin1String(".part"))
         && claimPath(path + QLatin1String(".part.origin"));
+}
+
+// What two checks of this user wrote at a time, one would remove under the other's eyes.
+bool MRVUpdateFolder::lock(const QString &path)
+{
+    if (m_locks.contains(path)) {
+        return true;
+    }
+    if (!claimPath(path)) {
+        return false;
+    }
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    struct stat status;
+    // The other check may have removed it in the meantime.
+    if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0
+        && ::fstat(descriptor, &status) == 0 && status.st_nlink > 0) {
+        m_locks.insert(path, descriptor);
+        return true;
+    }
+    const int reason = errno;
+    ::close(descriptor);
+    forget(path);
+    errno = reason;
+    return false;
 }
 
 bool MRVUpdateFolder::claimPath(const QString &path)
@@ -101,15 +128,21 @@ void MRVUpdateFolder::clear()
         }
     }
     m_claims.clear();
+    std::for_each(m_locks.cbegin(), m_locks.cend(), ::close);
+    m_locks.clear();
     m_private.reset();
     m_privatePath.clear();
 }
 
+void MRVUpdateFolder::forget(const QString &path)
+{
+    const auto isIt = [&](const Claim &claim) { return claim.path == path; };
+    m_claims.erase(std::remove_if(m_claims.begin(), m_claims.end(), isIt), m_claims.end());
+}
+
 void MRVUpdateFolder::keep(const QString &name)
 {
-    const QString path = filePath(name);
-    const auto isKept = [&](const Claim &claim) { return claim.path == path; };
-    m_claims.erase(std::remove_if(m_claims.begin(), m_claims.end(), isKept), m_claims.end());
+    forget(filePath(name));
     if (m_private) {
         m_private->keep();
     }

@@ -3,6 +3,7 @@
 #include "util/mrvtemporaryfolder.h"
 
 #include <QCoreApplication>
+#include <QMap>
 #include <QString>
 #include <QVector>
 
@@ -10,7 +11,8 @@
 
 /**
  * Where the files of an update check lie: in the temporary folder, under names that are known
- * beforehand, or, where another user has taken one of these, in a private folder there.
+ * beforehand, or, where another user or another check has taken one of these, in a private folder
+ * there.
  *
  * A name is claimed before its file is downloaded, together with those that MRVPartialFile uses:
  * new, empty files hold them, which other users cannot replace in a folder such as /tmp. What was
@@ -48,10 +50,13 @@ private:
     };
 
     bool claimAll(const QString &path);
+    bool lock(const QString &path);
     bool claimPath(const QString &path);
     void note(const QString &path, quint64 before);
+    void forget(const QString &path);
 
     std::unique_ptr<MRVTemporaryFolder> m_private;
     QString m_privatePath; // empty while the temporary folder itself is used
     QVector<Claim> m_claims;
+    QMap<QString, int> m_locks; // descriptors of files beside those that were claimed, by path
 };

@@ -9,8 +9,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcWeb, "mrv.web", QtWarningMsg)
 
-constexpr int Users = 100;
-
 const QLatin1String skippedVersionKey("Updates/skippedVersion");
 const QLatin1String remindAfterKey("Updates/remindAfter");
 const QLatin1String rolloutNumberKey("Updates/rolloutNumber");

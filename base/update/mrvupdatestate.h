@@ -16,6 +16,9 @@
  */
 struct MRVBASE_EXPORT MRVUpdateState
 {
+    /** How many users a rollout tells apart. */
+    static constexpr int Users = 100;
+
     /** The version that the user does not want to hear of; empty for none. */
     QString skippedVersion;
     /** When the user wants to be reminded; not valid for at once. */

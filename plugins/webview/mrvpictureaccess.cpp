@@ -1,7 +1,5 @@
 #include "mrvpictureaccess.h"
 
-#include "mrvpicturereply.h"
-
 namespace {
 
 // The library has fetched the page itself, of a megabyte at most.
@@ -14,29 +12,16 @@ constexpr int MostTime = 30000; // milliseconds
 MRVPictureAccess::MRVPictureAccess(const QUrl &page, QObject *parent)
     : MRVHttpAccess(parent)
     , m_isEncrypted(page.scheme() == QLatin1String("https"))
-    , m_bytesLeft(MostBytes)
-    , m_pixelsLeft(MostPixels)
+    , m_budget{MostBytes, MostPixels}
 {
     m_deadline.setSingleShot(true);
     m_deadline.start(MostTime);
 }
 
-bool MRVPictureAccess::takeBytes(qint64 count)
-{
-    m_bytesLeft -= count;
-    return m_bytesLeft >= 0;
-}
-
-bool MRVPictureAccess::takePixels(qint64 count)
-{
-    m_pixelsLeft -= count;
-    return m_pixelsLeft >= 0;
-}
-
 bool MRVPictureAccess::isAllowed(const QUrl &url) const
 {
     const QString scheme = url.scheme();
-    return m_deadline.isActive() && m_bytesLeft > 0 && m_pixelsLeft > 0
+    return m_deadline.isActive() && m_budget.bytes > 0 && m_budget.pixels > 0
         && (scheme == QLatin1String("https") || scheme == QLatin1String("data")
             || (scheme == QLatin1String("http") && !m_isEncrypted));
 }
@@ -47,7 +32,7 @@ QNetworkReply *MRVPictureAccess::createRequest(Operation operation, const QNetwo
     // A request for no address ends with an error.
     QNetworkReply *const source = MRVHttpAccess::createRequest(
         operation, isAllowed(request.url()) ? request : QNetworkRequest(QUrl()), body);
-    auto *const reply = new MRVPictureReply(source, this);
+    auto *const reply = new MRVPictureReply(source, &m_budget, this);
     connect(&m_deadline, &QTimer::timeout, reply, &QNetworkReply::abort);
     return reply;
 }

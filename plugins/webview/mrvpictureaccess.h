@@ -1,6 +1,7 @@
 #pragma once
 
 #include "http/mrvhttpaccess.h"
+#include "mrvpicturereply.h"
 
 #include <QTimer>
 #include <QUrl>
@@ -20,11 +21,6 @@ public:
     /** @param page the address of the page that shows the pictures. */
     MRVPictureAccess(const QUrl &page, QObject *parent);
 
-    /** Whether so many bytes more, unpacked ones, are within the limit; they then count. */
-    bool takeBytes(qint64 count);
-    /** The same of pixels, as they are shown. */
-    bool takePixels(qint64 count);
-
 protected:
     QNetworkReply *createRequest(Operation operation, const QNetworkRequest &request,
                                  QIODevice *body) override;
@@ -33,7 +29,6 @@ private:
     bool isAllowed(const QUrl &url) const;
 
     const bool m_isEncrypted;
-    qint64 m_bytesLeft;
-    qint64 m_pixelsLeft;
+    MRVPictureBudget m_budget;
     QTimer m_deadline;
 };

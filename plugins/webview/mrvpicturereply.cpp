@@ -1,7 +1,6 @@
 #include "mrvpicturereply.h"
 
 #include "gui/mrvpicturereader.h"
-#include "mrvpictureaccess.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -17,10 +16,10 @@ constexpr QSize Largest(1600, 1600);
 
 } // namespace
 
-MRVPictureReply::MRVPictureReply(QNetworkReply *source, MRVPictureAccess *access)
-    : QNetworkReply(access)
+MRVPictureReply::MRVPictureReply(QNetworkReply *source, MRVPictureBudget *budget, QObject *parent)
+    : QNetworkReply(parent)
     , m_source(source)
-    , m_access(access)
+    , m_budget(budget)
 {
     source->setParent(this);
     setRequest(source->request());
@@ -39,7 +38,8 @@ void MRVPictureReply::take()
 {
     const QByteArray bytes = m_source->readAll();
     m_received += bytes;
-    if (!m_access->takeBytes(bytes.size())) {
+    m_budget->bytes -= bytes.size();
+    if (m_budget->bytes < 0) {
         abort();
     }
 }
@@ -83,7 +83,8 @@ bool MRVPictureReply::decode()
     if (image.width() > Largest.width() || image.height() > Largest.height()) {
         image = image.scaled(Largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
-    if (!m_access->takePixels(qint64(image.width()) * image.height())) {
+    m_budget->pixels -= qint64(image.width()) * image.height();
+    if (m_budget->pixels < 0) {
         return false;
     }
     QBuffer buffer(&m_picture);

@@ -185,6 +185,18 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>%1, %2/s, %3</source>
         <translation>%1, %2/s, %3</translation>
     </message>
+    <message>
+        <source>The server has sent %1, which is not a text</source>
+        <translation>Der Server hat %1 gesendet, was kein Text ist</translation>
+    </message>
+    <message>
+        <source>The page has too many parts</source>
+        <translation>Die Seite hat zu viele Bestandteile</translation>
+    </message>
+    <message>
+        <source>It did not arrive within %1 s</source>
+        <translation>Sie ist nicht innerhalb von %1 s angekommen</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>

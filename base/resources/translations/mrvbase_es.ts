@@ -185,6 +185,18 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>%1, %2/s, %3</source>
         <translation>%1, %2/s, %3</translation>
     </message>
+    <message>
+        <source>The server has sent %1, which is not a text</source>
+        <translation>El servidor ha enviado %1, que no es un texto</translation>
+    </message>
+    <message>
+        <source>The page has too many parts</source>
+        <translation>La página tiene demasiados elementos</translation>
+    </message>
+    <message>
+        <source>It did not arrive within %1 s</source>
+        <translation>No ha llegado en %1 s</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>

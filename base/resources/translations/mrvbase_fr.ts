@@ -185,6 +185,18 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>%1, %2/s, %3</source>
         <translation>%1, %2/s, %3</translation>
     </message>
+    <message>
+        <source>The server has sent %1, which is not a text</source>
+        <translation>Le serveur a envoyé %1, qui n’est pas un texte</translation>
+    </message>
+    <message>
+        <source>The page has too many parts</source>
+        <translation>La page a trop d’éléments</translation>
+    </message>
+    <message>
+        <source>It did not arrive within %1 s</source>
+        <translation>Elle n’est pas arrivée en %1 s</translation>
+    </message>
 </context>
 <context>
     <name>MRVCoreUtil</name>
