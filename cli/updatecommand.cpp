@@ -331,13 +331,15 @@ int run(const Call &call)
     }
     QCoreApplication::setApplicationName(call.has("app") ? call.value("app")
                                                          : QStringLiteral("Morvane"));
+    const QString output = call.has("output") ? call.value("output") : QStringLiteral(".");
+    if (!QFileInfo(output).isDir()) {
+        return unreadable(QStringLiteral("%1: no such folder").arg(output));
+    }
     // The model reads what lies in the temporary folder, where others may have files of these
     // names. An installer is renamed at the end, which needs the same file system.
-    const MRVTemporaryFolder folder(!call.has("download")    ? QDir::tempPath()
-                                        : call.has("output") ? call.value("output")
-                                                             : QStringLiteral("."));
+    const MRVTemporaryFolder folder(call.has("download") ? output : QDir::tempPath());
     if (folder.path().isEmpty()) {
-        return refuse(folder.errorString());
+        return unreadable(folder.errorString());
     }
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     return Check(call).run(key);
@@ -372,7 +374,7 @@ const Command updateCommand = {
     "is an http or https address, a file, or - for standard input. Default: the feed of the "
     "application.\n"
     "Exit code 1: nothing is newer, or the signature that --verify checks is not valid. Exit code "
-    "3: the feed, or what it names, cannot be read, fetched or relied upon.",
+    "3: the feed, or what it names, cannot be read, fetched, relied upon or written.",
     "update\nupdate feed.xml --current 2.9.0.0\nupdate --key maker.pub --download -o installers",
     verbs,
     {options},

@@ -40,6 +40,10 @@ class QTimer;
  * if (key.open(QIODevice::ReadOnly)) {
  *     updates->setPublicKey(key.readAll());
  * }
+ * // Buttons of the dialog, by choice.
+ * MRVUpdatePolicy policy;
+ * policy.features = MRVUpdatePolicy::SkipVersions | MRVUpdatePolicy::RemindLater;
+ * updates->setPolicy(policy);
  * updates->setupMenuActions(new QMenu(QStringLiteral("Help"), window));
  * @endcode
  *
