@@ -2,6 +2,7 @@
 #include "terminalinput.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvpartialfile.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include <QSslError>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <cmath>
 
 #include <fcntl.h>
@@ -19,22 +21,35 @@
 namespace {
 
 const QLatin1String StandardOutput("-");
+constexpr qint64 MaxCertificates = 16 << 20;
 
 struct Options
 {
-    QUrl url;
+    QList<QUrl> urls;
     QString output;
     QString from;
     QString to;
     int timeout = MRVDownloadUrl::DefaultTransferTimeout;
     qint64 maximumSize = MRVDownloadUrl::LargestSize;
     bool json = false;
+    bool resume = false;
+    QByteArray caCertificates;
     TerminalInput::Answers answers;
+};
+
+// Where one download goes.
+struct Target
+{
+    QUrl url;
+    QString file; // empty: standard output
+    bool isDevice = false; // or a pipe: nothing that could be replaced
+    bool isPlain() const { return !file.isEmpty() && !isDevice; }
 };
 
 struct Result
 {
     QByteArray data;
+    bool isWritten = false; // already, piece by piece
     QString error;
     QUrl url;
     QString contentType;
@@ -78,23 +93,60 @@ QString readAnswers(const Call &call, Options *options)
         return QStringLiteral("--user: the password is not given here, where others can read it");
     }
     const QString wrong = readPassword(call, &answers.password);
+    const auto hasUser = [](const QUrl &url) { return !url.userName().isEmpty(); };
     if (wrong.isEmpty() && !answers.password.isNull() && answers.user.isEmpty()
-        && options->url.userName().isEmpty()) {
+        && !std::all_of(options->urls.cbegin(), options->urls.cend(), hasUser)) {
         return QStringLiteral("--user: is needed with a password");
     }
     return wrong;
 }
 
+// The addresses, and whether there is a place for each. What is wrong, or empty for nothing.
+QString readAddresses(const Call &call, Options *options)
+{
+    for (const QString &argument : call.arguments) {
+        const QUrl url(argument);
+        const bool isOnTheWeb =
+            url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+        if (!url.isValid() || url.host().isEmpty() || !isOnTheWeb) {
+            return QStringLiteral("%1: not an http or https address").arg(argument);
+        }
+        options->urls.append(url);
+    }
+    options->output = call.value("output");
+    const QFileInfo output(options->output);
+    const bool isFile = output.isFile() || !output.exists();
+    if (options->urls.size() > 1 && !options->output.isEmpty() && options->output != StandardOutput
+        && isFile) {
+        return QStringLiteral("%1: not a folder, for several files").arg(options->output);
+    }
+    return QString();
+}
+
+// What is wrong, or empty for nothing.
+QString readCertificates(const Call &call, Options *options)
+{
+    if (!call.has("cacert")) {
+        return QString();
+    }
+    QFile file(call.value("cacert"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QStringLiteral("--cacert: %1: %2").arg(file.fileName(), file.errorString());
+    }
+    options->caCertificates = file.read(MaxCertificates);
+    return MRVHttpAccess().setCaCertificates(options->caCertificates)
+        ? QString()
+        : QStringLiteral("--cacert: %1: there is no certificate in PEM in it").arg(file.fileName());
+}
+
 // What is wrong, or empty for nothing.
 QString readOptions(const Call &call, Options *options)
 {
-    options->url = QUrl(call.arguments.constFirst());
-    const QString scheme = options->url.scheme();
-    if (!options->url.isValid() || options->url.host().isEmpty()
-        || (scheme != QLatin1String("http") && scheme != QLatin1String("https"))) {
-        return QStringLiteral("%1: not an http or https address").arg(call.arguments.constFirst());
+    const QString wrong = readAddresses(call, options);
+    if (!wrong.isEmpty()) {
+        return wrong;
     }
-    options->output = call.value("output");
+    options->resume = call.has("resume");
     options->json = call.json();
     if (options->json && options->output == StandardOutput) {
         return QStringLiteral("--json: standard output is taken by what is downloaded");
@@ -111,7 +163,8 @@ QString readOptions(const Call &call, Options *options)
         options->timeout = int(std::ceil(call.number("timeout", 0) * 1000));
     }
     options->maximumSize = qint64(call.number("max-size", MRVDownloadUrl::LargestSize));
-    return readAnswers(call, options);
+    const QString unread = readCertificates(call, options);
+    return unread.isEmpty() ? readAnswers(call, options) : unread;
 }
 
 void showBar(qint64 bytes, qint64 total)
@@ -128,15 +181,28 @@ void showBar(qint64 bytes, qint64 total)
     showProgress(text);
 }
 
-Result download(const Options &options)
+void setUp(MRVDownloadUrl *download, const Options &options, const Target &target)
+{
+    download->setTransferTimeout(options.timeout);
+    download->setMaximumSize(options.maximumSize);
+    if (!options.caCertificates.isEmpty()) {
+        download->networkAccessManager()->setCaCertificates(options.caCertificates);
+    }
+    // Only what is converted has to be in memory.
+    if (target.isPlain() && options.from.isEmpty() && options.to.isEmpty()) {
+        download->setBody(MRVDownloadUrl::Body::RawUnlessText);
+        download->setResumable(true);
+    }
+}
+
+Result download(const Options &options, const Target &target)
 {
     Result result;
     MRVDownloadUrl download;
-    TerminalInput input(options.answers, &download, options.url);
+    TerminalInput input(options.answers, &download, target.url);
     QEventLoop loop;
+    setUp(&download, options, target);
     download.setUserInputHandler(&input);
-    download.setTransferTimeout(options.timeout);
-    download.setMaximumSize(options.maximumSize);
     QObject::connect(download.networkAccessManager(), &QNetworkAccessManager::sslErrors, &loop,
                      [&](QNetworkReply *reply, const QList<QSslError> &errors) {
                          QStringList texts;
@@ -152,15 +218,25 @@ Result download(const Options &options)
         result.error = input.reason().isEmpty() ? error : input.reason();
         loop.quit();
     });
+    const bool isFile = download.body() != MRVDownloadUrl::Body::Text;
     QObject::connect(&download, qOverload<QByteArray>(&MRVDownloadUrl::downloadSuccess), &loop,
                      [&](const QByteArray &data) {
                          result.data = data;
-                         loop.quit();
+                         if (!isFile) {
+                             loop.quit();
+                         }
                      });
+    QObject::connect(&download, qOverload<QString>(&MRVDownloadUrl::downloadSuccess), &loop,
+                     &QEventLoop::quit);
     // The signals never come before the loop runs.
-    download.download(options.url);
+    if (isFile) {
+        download.downloadToFile(target.url, target.file);
+    } else {
+        download.download(target.url);
+    }
     loop.exec();
     showProgress(QString());
+    result.isWritten = isFile && result.error.isEmpty();
     result.url = download.url();
     result.contentType = download.contentType();
     result.redirects = input.redirects();
@@ -186,40 +262,96 @@ bool convert(const Options &options, Result *result)
 }
 
 // Without a name that was asked for, no file is replaced.
-QString targetFile(const Options &options)
+Target targetOf(const Options &options, const QUrl &url)
 {
-    return options.output.isEmpty() || QFileInfo(options.output).isDir()
-        ? MRVDownloadUrl::newFileForUrl(options.output, options.url)
-        : options.output;
+    Target target{url, QString(), false};
+    const QFileInfo output(options.output);
+    if (options.output.isEmpty() || output.isDir()) {
+        target.file = MRVDownloadUrl::newFileForUrl(options.output, url);
+    } else if (options.output != StandardOutput) {
+        target.file = options.output;
+        target.isDevice = output.exists() && !output.isFile();
+    }
+    return target;
 }
 
-// What would be said after all has come can be said before.
-QString unwritable(const Options &options)
+// What would be said after all has come can be said before. Also throws away what another download
+// has left, unless it is to be gone on with.
+QString unwritable(const Options &options, const Target &target)
 {
-    if (options.output == StandardOutput) {
-        return QString();
+    QString error;
+    if (target.isDevice) {
+        return QFileInfo(target.file).isWritable()
+            ? QString()
+            : QStringLiteral("%1: it is write-protected").arg(target.file);
     }
-    const QString file = targetFile(options);
-    // What a link leads to is written, wherever the link lies.
-    if (QFileInfo(file).isSymLink()) {
-        return QString();
+    if (target.isPlain()) {
+        MRVPartialFile part(target.file);
+        if (part.open(&error) && !options.resume) {
+            part.restart(QByteArray(), &error);
+        }
     }
-    const QFileInfo folder(QFileInfo(file).absolutePath());
-    return !folder.isDir()     ? QStringLiteral("%1: its folder does not exist").arg(file)
-        : !folder.isWritable() ? QStringLiteral("%1: its folder is write-protected").arg(file)
-                               : QString();
+    return error;
 }
 
-// Writes what was downloaded. @return the file, empty for standard output.
-QString write(const Options &options, Result *result)
+// A device or a pipe takes bytes as standard output does.
+bool writeDevice(const QString &path, const QByteArray &data, QString *error)
 {
-    if (options.output == StandardOutput) {
+    QFile device(path);
+    const bool isWritten = device.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && device.write(data) == data.size();
+    if (!isWritten) {
+        *error = QStringLiteral("%1 cannot be written: %2").arg(path, device.errorString());
+    }
+    return isWritten;
+}
+
+void write(const Target &target, Result *result)
+{
+    if (target.isDevice) {
+        writeDevice(target.file, result->data, &result->error);
+    } else if (target.file.isEmpty()) {
         writeStandardOutput(result->data, &result->error);
-        return QString();
+    } else {
+        MRVCoreUtil::WriteBinaryFile(result->data, target.file, &result->error);
     }
-    const QString file = targetFile(options);
-    MRVCoreUtil::WriteBinaryFile(result->data, file, &result->error);
-    return file;
+}
+
+// Whether a part of it is there that --resume would go on with.
+bool isBegun(const Target &target)
+{
+    MRVPartialFile part(target.file);
+    return target.isPlain() && part.open() && part.size() > 0 && !part.origin().isEmpty();
+}
+
+int get(const Options &options, const QUrl &url)
+{
+    const Target target = targetOf(options, url);
+    const QString useless = unwritable(options, target);
+    if (!useless.isEmpty()) {
+        return refuse(useless);
+    }
+    Result result = download(options, target);
+    if (result.error.isEmpty() && !result.isWritten && convert(options, &result)) {
+        write(target, &result);
+    }
+    if (!result.error.isEmpty()) {
+        const QString hint =
+            isBegun(target) ? QStringLiteral("; --resume goes on with what has come") : QString();
+        return refuse(QStringLiteral("%1: %2").arg(url.toDisplayString(), result.error + hint));
+    }
+    if (options.json) {
+        const qint64 size =
+            result.isWritten ? QFileInfo(target.file).size() : qint64(result.data.size());
+        printJson({{QStringLiteral("url"), result.url.toDisplayString()},
+                   {QStringLiteral("file"), target.file},
+                   {QStringLiteral("size"), size},
+                   {QStringLiteral("contentType"), result.contentType},
+                   {QStringLiteral("redirects"), QJsonArray::fromStringList(result.redirects)}});
+    } else if (!target.file.isEmpty()) {
+        printLine(target.file);
+    }
+    return Done;
 }
 
 int run(const Call &call)
@@ -229,42 +361,28 @@ int run(const Call &call)
     if (!wrong.isEmpty()) {
         return usageError(wrong);
     }
-    const QString useless = unwritable(options);
-    if (!useless.isEmpty()) {
-        return refuse(useless);
+    int code = Done;
+    for (const QUrl &url : qAsConst(options.urls)) {
+        code = qMax(code, get(options, url));
     }
-    Result result = download(options);
-    QString file;
-    if (result.error.isEmpty() && convert(options, &result)) {
-        file = write(options, &result);
-    }
-    if (!result.error.isEmpty()) {
-        return refuse(QStringLiteral("%1: %2").arg(options.url.toDisplayString(), result.error));
-    }
-    if (options.json) {
-        printJson({{QStringLiteral("url"), result.url.toDisplayString()},
-                   {QStringLiteral("file"), file},
-                   {QStringLiteral("size"), result.data.size()},
-                   {QStringLiteral("contentType"), result.contentType},
-                   {QStringLiteral("redirects"), QJsonArray::fromStringList(result.redirects)}});
-    } else if (!file.isEmpty()) {
-        printLine(file);
-    }
-    return Done;
+    return code;
 }
 
-constexpr Verb verbs[] = {{"", "URL", "", run}};
+constexpr Verb verbs[] = {{"", "URL...", "", run}};
 
 constexpr Option options[] = {
     Option::name("o output", "FILE",
-                 "Where to write: a file, which is replaced, or a folder; - is standard output. "
-                 "Default: a new file with the name that ends the URL."),
+                 "Where to write: a file, which is replaced, a folder, a device or a pipe; - is "
+                 "standard output. Default: a new file with the name that ends the URL."),
+    Option::flag("resume", "Go on with what a broken download has left."),
     Option::flag("follow", "Follow redirects without asking."),
     Option::name("user", "NAME", "The user name; the password is asked for on the terminal."),
     Option::integer("password-fd", "NUMBER", 0, 65535,
                     "Read the password from this open file, such as 0."),
     Option::name("password-env", "NAME", "Take the password from this environment variable."),
     Option::flag("insecure", "Go on in spite of SSL errors, and from https to http."),
+    Option::name("cacert", "FILE",
+                 "Trust the certificates of this file, in PEM, instead of the system's."),
     Option::name("from", "CHARSET", "The charset of the text where the server does not name it."),
     Option::name("to", "CHARSET", "The charset in which the text is written. Default: UTF-8."),
     Option::number("timeout", "SECONDS", 0, 2147483,
@@ -279,10 +397,12 @@ constexpr Option options[] = {
 const Command getCommand = {
     "get",
     "download a page or a file",
-    "Downloads a page or a file over http or https. Text whose charset the server names becomes "
+    "Downloads pages or files over http or https. Text whose charset the server names becomes "
     "UTF-8. The file appears when all of it has come. A redirect is asked about on a terminal, and "
-    "refused without one.",
-    "get https://example.org/novel.html -o novel.html",
+    "refused without one. What has come of a file when a download breaks off stays "
+    "beside it, as FILE.part.",
+    "get https://example.org/novel.html -o novel.html\n"
+    "get https://example.org/a.zip https://example.org/b.zip -o downloads",
     verbs,
     {options},
 };

@@ -3,6 +3,8 @@
 
 #include <csignal>
 
+#include <sys/stat.h>
+
 /** The command that downloads. */
 class tst_MrvGet : public ToolTest
 {
@@ -44,6 +46,7 @@ private Q_SLOTS:
         m_server.answer("/loop", found + "/loop\r\n\r\n");
         m_server.answer("/away", found + m_other.answer("/x", locked).toEncoded() + "\r\n\r\n");
         m_server.answer("/locked", locked);
+        m_server.answer("/lost", "HTTP/1.1 404 No\r\nContent-Length: 0\r\n\r\n");
         m_server.answer("/stalled", {}, RawServer::Stall);
     }
 
@@ -75,6 +78,7 @@ private Q_SLOTS:
             QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         });
         arguments.replace('@', host).replace('$', m_tlsHost).replace('#', in("") + '/');
+        arguments.replace('~', m_shared.filePath("pem.cert"));
         QProcess tool;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("GET_PASSWORD", "pass");
@@ -88,6 +92,7 @@ private Q_SLOTS:
         const auto said = [&](const QByteArray &bytes) {
             return QString::fromUtf8(bytes)
                 .trimmed()
+                .replace('\n', u'␤')
                 .replace(in("") + '/', "#")
                 .replace(host, "@")
                 .replace(m_tlsHost, "$");
@@ -104,6 +109,47 @@ private Q_SLOTS:
             QVERIFY(requests.contains(password));
         }
         QVERIFY(!m_other.requests().join().contains("Authorization"));
+    }
+
+    // What a broken download has left is gone on with only where that is asked for.
+    void resumes()
+    {
+        const QByteArray whole =
+            "HTTP/1.1 200 OK\r\nETag: \"1\"\r\nContent-Length: 10\r\n\r\nhello";
+        const QString url = m_server.answer("/part", whole).toString();
+        const Ran broken = ranGet({url, "-o", "got"});
+        QCOMPARE(broken.exitCode, 1);
+        QVERIFY2(broken.errors.contains("; --resume goes on with what has come"),
+                 qPrintable(broken.errors));
+        QCOMPARE(bytesOf("got.part"), QByteArray("hello"));
+
+        m_server.answer("/part",
+                        "HTTP/1.1 206 Part\r\nContent-Range: bytes 5-9/10\r\n"
+                        "Content-Length: 5\r\n\r\nworld");
+        const Ran resumed = ranGet({url, "-o", "got", "--resume", "--json"});
+        QCOMPARE(resumed.exitCode, 0);
+        QVERIFY2(resumed.output.contains("\"size\":10"), qPrintable(resumed.output));
+        QCOMPARE(bytesOf("got"), QByteArray("helloworld"));
+
+        m_server.answer("/part", whole);
+        QCOMPARE(ranGet({url, "-o", "got"}).exitCode, 1);
+        m_server.answer("/part", QByteArray(whole).replace("10\r\n", "5\r\n"));
+        QCOMPARE(ranGet({url, "-o", "got"}).exitCode, 0);
+        QVERIFY(!m_server.requests().constLast().contains("Range"));
+        QCOMPARE(bytesOf("got"), QByteArray("hello"));
+        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList{"got"});
+    }
+
+    // What cannot be replaced is written into.
+    void pipe()
+    {
+        QCOMPARE(::mkfifo("pipe", 0600), 0);
+        QProcess reader;
+        reader.start(programPath("sh"), {"-c", "read line < pipe; echo got $line"});
+        QCOMPARE(ranGet({m_server.url("/page").toString(), "-o", "pipe"}).exitCode, 0);
+        QTRY_COMPARE(reader.state(), QProcess::NotRunning);
+        QCOMPARE(reader.readAll(), QByteArray("got hello\n"));
+        QVERIFY(!QFileInfo("pipe").isFile());
     }
 
     void terminal_data()
@@ -160,6 +206,17 @@ private Q_SLOTS:
     }
 
 private:
+    // The server answers from this thread.
+    static Ran ranGet(const QStringList &arguments)
+    {
+        QProcess tool;
+        tool.start(MRV_TOOL, QStringList{"get"} + arguments);
+        tool.closeWriteChannel();
+        (void)QTest::qWaitFor([&] { return tool.state() == QProcess::NotRunning; }, 60000);
+        return {tool.exitCode(), QString::fromUtf8(tool.readAllStandardOutput()),
+                QString::fromUtf8(tool.readAllStandardError())};
+    }
+
     RawServer m_server;
     RawServer m_other;
     QTemporaryDir m_shared;

@@ -9,7 +9,7 @@
 namespace {
 
 // libcurl reads up to a hundred of them before it returns to the event loop.
-constexpr long ReadBuffer = 32 * 1024;
+constexpr long ReadBuffer = 16 * 1024;
 
 // As certificates and connections name it. There is no other form of an address.
 QString hostOf(const QUrl &url)
