@@ -1,6 +1,8 @@
 #include "datarows.h"
+#include "rawserver.h"
 #include "web.h"
 
+#include "core/mtranslator.h"
 #include "update/mrvcheckforupdatesdialog.h"
 
 #include <QDesktopServices>
@@ -177,6 +179,27 @@ private Q_SLOTS:
         const int asked = web.asked.size();
         QVERIFY(errorOf("http://www.example/drawing") != QNetworkReply::NoError);
         QCOMPARE(web.asked.size(), asked);
+    }
+
+    // That of the interface, for the page and for its pictures.
+    void language()
+    {
+        RawServer server;
+        const QString page = server
+                                 .answer("/",
+                                         "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\n\r\n"
+                                         "<img src='p.png'><link rel=stylesheet href=s.css>")
+                                 .toString();
+        QVERIFY(MTranslator::install("fr"));
+        qputenv("MRV_PLUGIN_PATH", MRV_BINARY_DIR "/lib/mrvbase/plugins");
+        MRVCheckForUpdatesDialog dialog(page);
+        dialog.show();
+        QTRY_COMPARE(server.requests().size(), 2);
+        QVERIFY(server.requests().at(1).startsWith("GET /p.png "));
+        for (const QByteArray &request : server.requests()) {
+            QVERIFY2(request.contains("Accept-Language: fr, en;q=0.5\r\n"), request);
+        }
+        QVERIFY(MTranslator::install("en"));
     }
 
     void markdownByName()

@@ -1,5 +1,7 @@
 #include "http/mrvhttpcontext_p.h"
 
+#include "core/mtranslator.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QNetworkCookie>
@@ -11,7 +13,8 @@ namespace {
 // The interface's language, and English, which most pages have.
 QByteArray languages()
 {
-    const QByteArray name = QLocale().bcp47Name().toLatin1();
+    const QString installed = MTranslator::installedLanguage();
+    const QByteArray name = (installed.isEmpty() ? QLocale().bcp47Name() : installed).toLatin1();
     return name.startsWith("en") ? name : name + ", en;q=0.5";
 }
 

@@ -69,6 +69,12 @@ std::unique_ptr<QTranslator> loaded(const QString &file)
     return translator->load(file, QString(), QLatin1String("")) ? std::move(translator) : nullptr;
 }
 
+QString &lastInstalled()
+{
+    static QString language;
+    return language;
+}
+
 void removeTranslators(QCoreApplication *application)
 {
     qDeleteAll(application->findChildren<QTranslator *>(newTranslator()->objectName(),
@@ -155,7 +161,13 @@ bool MTranslator::install(const QString &code, QString *error)
     if (!own->isEmpty()) {
         installTranslator(std::move(own), application);
     }
+    lastInstalled() = locale.bcp47Name();
     return true;
+}
+
+QString MTranslator::installedLanguage()
+{
+    return lastInstalled();
 }
 
 std::unique_ptr<QTranslator> MTranslator::translator(const QString &code)

@@ -64,6 +64,12 @@ public:
     static bool install(const QString &code, QString *error = nullptr);
 
     /**
+     * The language that install() has chosen last, as QLocale::bcp47Name() writes it ("pt-BR");
+     * empty before.
+     */
+    static QString installedLanguage();
+
+    /**
      * The library's texts in a language, whichever one the interface has: for what is written in
      * the language of a document.
      *
