@@ -417,6 +417,13 @@ private Q_SLOTS:
             return;
         }
         QVERIFY(wanted && wanted->isVisible());
+        QWidget *next = shownDialog()->findChild<QWidget *>("installButton");
+        QStringList order; // of the Tab key
+        for (int i = 0; i < 3; ++i) {
+            next = next->nextInFocusChain();
+            order << qobject_cast<QPushButton *>(next)->text();
+        }
+        QCOMPARE(order, QStringList({"Remind Me Later", "Skip This Version", "Cancel"}));
         wanted->click();
         QTRY_VERIFY(isOver() && !shownDialog());
         MRVUpdateManager::release(); // as by the end of the application

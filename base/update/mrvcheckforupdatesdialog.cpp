@@ -67,7 +67,9 @@ QPushButton *MRVCheckForUpdatesDialog::addButton(const QString &text)
 {
     auto *const button = new QPushButton(text, this);
     button->setAutoDefault(false);
-    m_ui->buttonLayout->insertWidget(m_ui->buttonLayout->indexOf(m_ui->cancelButton), button);
+    const int place = m_ui->buttonLayout->indexOf(m_ui->cancelButton);
+    setTabOrder(m_ui->buttonLayout->itemAt(place - 1)->widget(), button);
+    m_ui->buttonLayout->insertWidget(place, button);
     connect(this, &MRVCheckForUpdatesDialog::downloadRequested, button, &QWidget::hide);
     return button;
 }
