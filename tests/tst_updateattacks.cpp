@@ -152,6 +152,22 @@ private Q_SLOTS:
         compareRest(said);
     }
 
+    // A feed whose address names no file is signed under the name that it is saved under.
+    void addressWithoutFile()
+    {
+        for (const QByteArray file : {"", "\tfile:update.xml"}) {
+            MRVUpdateModel model;
+            model.setXmlUrl("http://updates.example/");
+            QVERIFY(model.setPublicKey(Signer('a').publicKey()));
+            const QByteArray feed = feedOf(QString());
+            QVERIFY(writeBytes(model.xmlFilePath(), feed));
+            QVERIFY(writeBytes(model.xmlSignatureFilePath(),
+                               Signer('a').sign(feed, "timestamp:1" + file)));
+            model.readXML();
+            QCOMPARE(model.isNewerAvailable(), !file.isEmpty());
+        }
+    }
+
     // Two windows of one user may check at the same time.
     void sharesWithOtherChecks()
     {

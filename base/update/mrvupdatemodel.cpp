@@ -238,7 +238,10 @@ bool MRVUpdateModel::readXMLSignature()
     QString reason;
     m_feedSignature = MRVSignature::read(xmlSignatureFilePath(), m_publicKey, &reason);
     if (!m_feedSignature.isNull()) {
-        if (m_feedSignature.field(QStringLiteral("file")) != QUrl(m_xmlUrl).fileName()) {
+        // A comment without a file must not be that of an address without one.
+        const QString name = QUrl(m_xmlUrl).fileName();
+        if (m_feedSignature.field(QStringLiteral("file"))
+            != (name.isEmpty() ? m_xmlFileName : name)) {
             reason = tr("it was made for another file");
         } else if (m_feedSignature.timestamp() == 0) {
             reason = tr("it does not say when it was made");
