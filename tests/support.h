@@ -39,6 +39,7 @@ constexpr OutsideProgram outsidePrograms[] = {
     {"pandoc", "pandoc"},
     {"pdfinfo", "poppler-utils"},
     {"pdftohtml", "poppler-utils"},
+    {"pdftoppm", "poppler-utils"},
     {"pdftotext", "poppler-utils"},
     {"pkg-config", "pkg-config"},
     {"readelf", "binutils"},

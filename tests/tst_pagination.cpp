@@ -454,6 +454,33 @@ private Q_SLOTS:
         QVERIFY(left("Quoted") - left("Plain") > 25); // 40 pixels are 30 points
     }
 
+    /// A rule is as wide as the text, however far in the first lines of paragraphs are.
+    void horizontalRules()
+    {
+        QTextDocument document;
+        document.setHtml("<p>before</p><hr><p>after</p>");
+        MRVPrintOptions options;
+        options.layout = MRVPrintOptions::Manuscript;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        pdfText(bytes);
+        const QString page = m_folder.filePath("page");
+        run(programPath("pdftoppm"),
+            {"-r", "72", "-gray", "-singlefile", m_folder.filePath("script.pdf"), page});
+        const QImage image(page + ".pgm");
+        int widest = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            int dots = 0;
+            for (int x = 0; x < image.width(); ++x) {
+                dots += qGray(image.pixel(x, y)) < 250;
+            }
+            widest = qMax(widest, dots);
+        }
+        QVERIFY2(qAbs(widest - (612 - 2 * 72)) <= 2, qPrintable(QString::number(widest)));
+    }
+
     void rightToLeft()
     {
         const auto script = MRVFountainScript::fromText(

@@ -28,6 +28,12 @@ bool isText(const QTextBlockFormat &format)
     return !alignment || alignment == Qt::AlignLeft || alignment == Qt::AlignJustify;
 }
 
+// Qt draws it below the lines, and as far in as they are.
+bool hasRule(const QTextBlockFormat &format)
+{
+    return format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+}
+
 bool hasPicture(const QTextBlock &block)
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -250,7 +256,7 @@ void MrvPrintStyler::restyleBlock(const QTextBlock &block, bool isFirst)
             format.setBottomMargin(0);
         }
         if (isText(format) && format.leftMargin() <= 0 && format.textIndent() == 0
-            && (!isFirst || m_look.isManuscript)) {
+            && !hasRule(format) && (!isFirst || m_look.isManuscript)) {
             format.setTextIndent(m_look.indent * Scale);
         }
     }
@@ -314,7 +320,6 @@ void MrvPrintStyler::restyle()
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
         const QTextBlockFormat format = block.blockFormat();
         const bool isHeading = MRVTextBlockFormat::headingLevel(format) > 0;
-        const bool hasRule = format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
         const bool isBlank = block.text().trimmed().isEmpty();
         const bool isBelowHeading =
             MRVTextBlockFormat::headingLevel(block.previous().blockFormat()) > 0;
@@ -322,7 +327,7 @@ void MrvPrintStyler::restyle()
         restyleText(block);
         divideLongWords(block);
         restyleBlock(block, isFirst);
-        isFirst = isHeading || hasRule || isBlank || !isText(format) || hasPicture(block);
+        isFirst = isHeading || hasRule(format) || isBlank || !isText(format) || hasPicture(block);
     }
     edit.endEditBlock();
 }
