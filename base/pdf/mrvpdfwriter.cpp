@@ -13,6 +13,8 @@
 // The interface for C: that for C++ brings streams with it, which are set up on loading.
 #include <qpdf/qpdf-c.h>
 
+#include <utility>
+
 namespace {
 
 struct Place
@@ -42,13 +44,49 @@ bool isOutsideAddress(const QString &address)
         || scheme == QLatin1String("mailto");
 }
 
+// An object of a file. The interface keeps it until it is told that nobody needs it any more.
+class Object
+{
+public:
+    Object(qpdf_data file, qpdf_oh handle)
+        : m_file(file)
+        , m_handle(handle)
+    {
+    }
+    Object(const Object &other)
+        : Object(other.m_file, qpdf_oh_new_object(other.m_file, other.m_handle))
+    {
+    }
+    Object(Object &&other) noexcept
+        : Object(other.m_file, std::exchange(other.m_handle, 0))
+    {
+    }
+    Object &operator=(Object other)
+    {
+        std::swap(m_handle, other.m_handle);
+        return *this;
+    }
+    ~Object()
+    {
+        if (m_handle != 0) {
+            qpdf_oh_release(m_file, m_handle);
+        }
+    }
+
+    qpdf_oh handle() const { return m_handle; }
+
+private:
+    qpdf_data m_file;
+    qpdf_oh m_handle; // 0 for none
+};
+
 // Adds to the file that Qt has written what Qt cannot write.
 class Completion
 {
 public:
     Completion(qpdf_data file, qreal paperHeight)
         : m_file(file)
-        , m_root(qpdf_get_root(file))
+        , m_root(object(qpdf_get_root(file)))
         , m_height(paperHeight)
     {
     }
@@ -60,8 +98,6 @@ public:
     void nameFonts(int pageCount);
 
 private:
-    using Object = qpdf_oh; // a number that stands for an object, until the file is closed
-
     struct OpenEntry
     {
         int level;
@@ -70,25 +106,37 @@ private:
         int count; // of its children
     };
 
+    Object object(qpdf_oh handle) const { return Object(m_file, handle); }
     Object newText(const QString &text) const;
     Object newBytes(const QByteArray &bytes) const;
-    Object newNumber(qreal number) const { return qpdf_oh_new_real_from_double(m_file, number, 2); }
-    Object newDictionary() const { return qpdf_oh_new_dictionary(m_file); }
-    Object newIndirect(Object object) const { return qpdf_make_indirect_object(m_file, object); }
-    Object newName(const char *name) const { return qpdf_oh_new_name(m_file, name); }
-    Object newInteger(int number) const { return qpdf_oh_new_integer(m_file, number); }
+    Object newNumber(qreal number) const
+    {
+        return object(qpdf_oh_new_real_from_double(m_file, number, 2));
+    }
+    Object newArray() const { return object(qpdf_oh_new_array(m_file)); }
+    Object newDictionary() const { return object(qpdf_oh_new_dictionary(m_file)); }
+    Object newIndirect(const Object &value) const
+    {
+        return object(qpdf_make_indirect_object(m_file, value.handle()));
+    }
+    Object newName(const char *name) const { return object(qpdf_oh_new_name(m_file, name)); }
+    Object newInteger(int number) const { return object(qpdf_oh_new_integer(m_file, number)); }
     Object newDestination(const Place &place) const;
     Object newAction(const QString &address) const;
-    void set(Object dictionary, const char *key, Object value) const
+    Object newArea(const QRectF &area) const;
+    void set(const Object &dictionary, const char *key, const Object &value) const
     {
-        qpdf_oh_replace_key(m_file, dictionary, key, value);
+        qpdf_oh_replace_key(m_file, dictionary.handle(), key, value.handle());
     }
-    Object get(Object dictionary, const char *key) const
+    Object get(const Object &dictionary, const char *key) const
     {
-        return qpdf_oh_get_key(m_file, dictionary, key);
+        return object(qpdf_oh_get_key(m_file, dictionary.handle(), key));
     }
-    void append(Object array, Object item) const { qpdf_oh_append_item(m_file, array, item); }
-    Object pageAt(int page) const { return qpdf_get_page_n(m_file, size_t(page)); }
+    void append(const Object &array, const Object &item) const
+    {
+        qpdf_oh_append_item(m_file, array.handle(), item.handle());
+    }
+    Object pageAt(int page) const { return object(qpdf_get_page_n(m_file, size_t(page))); }
     qreal fromBottom(qreal y) const { return m_height - y / MRVPdfWriter::DotsPerPoint; }
     void close(const OpenEntry &entry, bool isOutermost) const;
 
@@ -97,15 +145,15 @@ private:
     qreal m_height; // in points
 };
 
-Completion::Object Completion::newText(const QString &text) const
+Object Completion::newText(const QString &text) const
 {
     const QByteArray utf8 = text.toUtf8();
-    return qpdf_oh_new_binary_unicode_string(m_file, utf8.constData(), size_t(utf8.size()));
+    return object(qpdf_oh_new_binary_unicode_string(m_file, utf8.constData(), size_t(utf8.size())));
 }
 
-Completion::Object Completion::newBytes(const QByteArray &bytes) const
+Object Completion::newBytes(const QByteArray &bytes) const
 {
-    return qpdf_oh_new_binary_string(m_file, bytes.constData(), size_t(bytes.size()));
+    return object(qpdf_oh_new_binary_string(m_file, bytes.constData(), size_t(bytes.size())));
 }
 
 void Completion::setProperties(const MRVPdfProperties &properties)
@@ -124,14 +172,15 @@ void Completion::setProperties(const MRVPdfProperties &properties)
         set(info, "/CreationDate", written);
         set(info, "/ModDate", written);
     }
-    set(qpdf_get_trailer(m_file), "/Info", newIndirect(info));
-    qpdf_oh_remove_key(m_file, m_root, "/Metadata"); // it holds the time and a random identifier
+    set(object(qpdf_get_trailer(m_file)), "/Info", newIndirect(info));
+    // It holds the time and a random identifier.
+    qpdf_oh_remove_key(m_file, m_root.handle(), "/Metadata");
     if (!properties.language.isEmpty()) {
         set(m_root, "/Lang", newText(properties.language));
     }
     if (!properties.title.isEmpty()) {
         const Object preferences = newDictionary();
-        set(preferences, "/DisplayDocTitle", qpdf_oh_new_bool(m_file, QPDF_TRUE));
+        set(preferences, "/DisplayDocTitle", object(qpdf_oh_new_bool(m_file, QPDF_TRUE)));
         set(m_root, "/ViewerPreferences", preferences);
     }
 }
@@ -141,7 +190,7 @@ void Completion::setPageNumbers(const QVector<QPair<int, int>> &numbers)
     if (numbers.isEmpty()) {
         return;
     }
-    const Object list = qpdf_oh_new_array(m_file);
+    const Object list = newArray();
     const auto add = [&](int page, int number) {
         const Object label = newDictionary();
         if (number > 0) {
@@ -162,14 +211,14 @@ void Completion::setPageNumbers(const QVector<QPair<int, int>> &numbers)
     set(m_root, "/PageLabels", tree);
 }
 
-Completion::Object Completion::newDestination(const Place &place) const
+Object Completion::newDestination(const Place &place) const
 {
-    const Object result = qpdf_oh_new_array(m_file);
+    const Object result = newArray();
     append(result, pageAt(place.page));
     append(result, newName("/XYZ"));
-    append(result, qpdf_oh_new_null(m_file));
+    append(result, object(qpdf_oh_new_null(m_file)));
     append(result, newNumber(fromBottom(place.y)));
-    append(result, qpdf_oh_new_null(m_file));
+    append(result, object(qpdf_oh_new_null(m_file)));
     return result;
 }
 
@@ -189,7 +238,7 @@ void Completion::addOutline(const QVector<OutlineEntry> &entries)
     }
     const Object top = newIndirect(newDictionary());
     QVector<OpenEntry> open;
-    open.append({0, top, 0, 0});
+    open.append({0, top, object(0), 0});
     for (const OutlineEntry &entry : entries) {
         while (open.size() > 1 && open.constLast().level >= entry.level) {
             close(open.takeLast(), false);
@@ -207,7 +256,7 @@ void Completion::addOutline(const QVector<OutlineEntry> &entries)
         }
         parent.last = item;
         ++parent.count;
-        open.append({entry.level, item, 0, 0});
+        open.append({entry.level, item, object(0), 0});
     }
     while (!open.isEmpty()) {
         const OpenEntry entry = open.takeLast();
@@ -217,7 +266,7 @@ void Completion::addOutline(const QVector<OutlineEntry> &entries)
     set(m_root, "/PageMode", newName("/UseOutlines"));
 }
 
-Completion::Object Completion::newAction(const QString &address) const
+Object Completion::newAction(const QString &address) const
 {
     const Object action = newDictionary();
     set(action, "/S", newName("/URI"));
@@ -225,36 +274,48 @@ Completion::Object Completion::newAction(const QString &address) const
     return action;
 }
 
+Object Completion::newArea(const QRectF &area) const
+{
+    const Object result = newArray();
+    append(result, newNumber(area.left() / MRVPdfWriter::DotsPerPoint));
+    append(result, newNumber(fromBottom(area.bottom())));
+    append(result, newNumber(area.right() / MRVPdfWriter::DotsPerPoint));
+    append(result, newNumber(fromBottom(area.top())));
+    return result;
+}
+
+// They are in order of their pages.
 void Completion::addLinks(const QVector<Link> &links, const QHash<QString, Place> &targets)
 {
-    QHash<int, Object> lists; // of the annotations of a page
+    if (links.isEmpty()) {
+        return;
+    }
+    const Object noBorder = newIndirect(object(qpdf_oh_parse(m_file, "[0 0 0]")));
+    int page = -1;
+    Object list = newArray(); // of the annotations of a page
     for (const Link &link : links) {
         const bool isInside = link.address.startsWith(u'#');
         const auto target = targets.constFind(link.address.mid(1));
         if (isInside && target == targets.cend()) {
             continue;
         }
-        const Object area = qpdf_oh_new_array(m_file);
-        append(area, newNumber(link.area.left() / MRVPdfWriter::DotsPerPoint));
-        append(area, newNumber(fromBottom(link.area.bottom())));
-        append(area, newNumber(link.area.right() / MRVPdfWriter::DotsPerPoint));
-        append(area, newNumber(fromBottom(link.area.top())));
         const Object annotation = newDictionary();
         set(annotation, "/Type", newName("/Annot"));
         set(annotation, "/Subtype", newName("/Link"));
-        set(annotation, "/Rect", area);
-        set(annotation, "/Border", qpdf_oh_parse(m_file, "[0 0 0]"));
+        set(annotation, "/Rect", newArea(link.area));
+        set(annotation, "/Border", noBorder);
         set(annotation, "/F", newInteger(4)); // printed with the page
         if (isInside) {
             set(annotation, "/Dest", newDestination(*target));
         } else {
             set(annotation, "/A", newAction(link.address));
         }
-        if (!lists.contains(link.page)) {
-            lists.insert(link.page, newIndirect(qpdf_oh_new_array(m_file)));
-            set(pageAt(link.page), "/Annots", lists.value(link.page));
+        if (link.page != page) {
+            page = link.page;
+            list = newIndirect(newArray());
+            set(pageAt(page), "/Annots", list);
         }
-        append(lists.value(link.page), newIndirect(annotation));
+        append(list, newIndirect(annotation));
     }
 }
 
@@ -266,22 +327,22 @@ void Completion::nameFonts(int pageCount)
     for (int page = 0; page < pageCount; ++page) {
         const Object resources = get(pageAt(page), "/Resources");
         const Object fonts = get(resources, "/Font");
-        if (!qpdf_oh_is_dictionary(m_file, fonts)) {
+        if (!qpdf_oh_is_dictionary(m_file, fonts.handle())) {
             continue;
         }
         QVector<QByteArray> keys;
-        qpdf_oh_begin_dict_key_iter(m_file, fonts);
+        qpdf_oh_begin_dict_key_iter(m_file, fonts.handle());
         while (qpdf_oh_dict_more_keys(m_file)) {
             keys.append(qpdf_oh_dict_next_key(m_file));
         }
         for (const QByteArray &key : qAsConst(keys)) {
             const Object list = get(get(fonts, key.constData()), "/DescendantFonts");
-            if (!qpdf_oh_is_array(m_file, list)) {
+            if (!qpdf_oh_is_array(m_file, list.handle())) {
                 continue;
             }
-            const Object font = qpdf_oh_get_array_item(m_file, list, 0);
+            const Object font = object(qpdf_oh_get_array_item(m_file, list.handle(), 0));
             const Object descriptor = get(font, "/FontDescriptor");
-            const QByteArray name = qpdf_oh_get_name(m_file, get(descriptor, "/FontName"));
+            const QByteArray name = qpdf_oh_get_name(m_file, get(descriptor, "/FontName").handle());
             constexpr int TagLength = 8; // "/ABCDEF+", ISO 32000-1, 9.6.4
             if (name.indexOf('+') + 1 != TagLength || names.contains(name)) {
                 continue;
