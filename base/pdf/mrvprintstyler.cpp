@@ -64,6 +64,20 @@ bool hasLargeText(const QTextBlock &block, const QFont &font)
     return false;
 }
 
+// A piece of text, by integers: cursors would each follow each change.
+struct Restyled
+{
+    int start;
+    int end;
+    QTextCharFormat format;
+};
+
+void select(const Restyled &text, QTextCursor *cursor)
+{
+    cursor->setPosition(text.start);
+    cursor->setPosition(text.end, QTextCursor::KeepAnchor);
+}
+
 } // namespace
 
 MrvPrintStyler::MrvPrintStyler(QTextDocument *document, const MrvPrintLook &look)
@@ -137,23 +151,23 @@ void MrvPrintStyler::restyleText(const QTextBlock &block)
 {
     // The cells of a small page are narrow, and lines that an author has broken are long.
     const bool isTight = QTextCursor(block).currentTable() || isPreformatted(block);
-    if (m_look.isManuscript) {
-        restyle(block, clearLook);
-    } else {
-        restyle(block, [this, isTight](QTextCharFormat *format) {
-            if (isTight) {
-                makeSmaller(format);
-            }
-        });
-    }
+    restyle(block, [this, isTight](QTextCharFormat *format) {
+        if (m_look.isManuscript) {
+            clearLook(format);
+        } else if (isTight) {
+            makeSmaller(format);
+        }
+        format->clearProperty(QTextFormat::IsAnchor); // Qt would make links of their own of it
+    });
 }
 
 // For the layout, within which a document cannot be asked for its tables.
 void MrvPrintStyler::limitPictures(const QTextBlock &block, bool isBelowHeading)
 {
-    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
+    QVector<Restyled> changes;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
-        QTextCharFormat format = it.fragment().charFormat();
+        const QTextFragment fragment = it.fragment();
+        QTextCharFormat format = fragment.charFormat();
         if (!format.isImageFormat()) {
             continue;
         }
@@ -163,19 +177,13 @@ void MrvPrintStyler::limitPictures(const QTextBlock &block, bool isBelowHeading)
                                ShareWithoutPadding * cell.columnSpan() / table->columns());
         }
         format.setProperty(BelowHeadingProperty, isBelowHeading);
-        changes.append({cursorOf(it.fragment()), format});
+        changes.append({fragment.position(), fragment.position() + fragment.length(), format});
     }
-    for (QPair<QTextCursor, QTextCharFormat> &picture : changes) {
-        picture.first.setCharFormat(picture.second);
-    }
-}
-
-QTextCursor MrvPrintStyler::cursorOf(const QTextFragment &fragment) const
-{
     QTextCursor cursor(m_copy);
-    cursor.setPosition(fragment.position());
-    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-    return cursor;
+    for (const Restyled &picture : qAsConst(changes)) {
+        select(picture, &cursor);
+        cursor.setCharFormat(picture.format);
+    }
 }
 
 // Lines are broken between words, so that cells of tables do not cut theirs; but an address may be
@@ -207,7 +215,7 @@ void MrvPrintStyler::divideLongWords(const QTextBlock &block)
 // Changes the formats of a paragraph's text, and its small capitals.
 void MrvPrintStyler::restyle(const QTextBlock &block, const CharFormatChange &change)
 {
-    QVector<QPair<QTextCursor, QTextCharFormat>> changes;
+    QVector<Restyled> all;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         QTextCharFormat format = fragment.charFormat();
@@ -216,14 +224,16 @@ void MrvPrintStyler::restyle(const QTextBlock &block, const CharFormatChange &ch
         }
         change(&format);
         if (format != fragment.charFormat() || format.fontCapitalization() == QFont::SmallCaps) {
-            changes.append({cursorOf(fragment), format});
+            all.append({fragment.position(), fragment.position() + fragment.length(), format});
         }
     }
-    for (QPair<QTextCursor, QTextCharFormat> &text : changes) {
-        if (text.second.fontCapitalization() == QFont::SmallCaps) {
-            setSmallCapitals(&text.first, text.second);
+    QTextCursor cursor(m_copy);
+    for (auto text = all.crbegin(); text != all.crend(); ++text) { // capitals may be more letters
+        select(*text, &cursor);
+        if (text->format.fontCapitalization() == QFont::SmallCaps) {
+            setSmallCapitals(&cursor, text->format);
         } else {
-            text.first.setCharFormat(text.second);
+            cursor.setCharFormat(text->format);
         }
     }
 }

@@ -10,7 +10,6 @@ struct MrvPrintLook;
 class QTextBlock;
 class QTextCursor;
 class QTextDocument;
-class QTextFragment;
 class QTextTable;
 
 /** Gives a copy of a document the formats that it has on paper. */
@@ -40,7 +39,6 @@ private:
     void restyleText(const QTextBlock &block);
     void restyle(const QTextBlock &block, const CharFormatChange &change);
     void limitPictures(const QTextBlock &block, bool isBelowHeading);
-    QTextCursor cursorOf(const QTextFragment &fragment) const;
     static void clearLook(QTextCharFormat *format);
     void makeSmaller(QTextCharFormat *format) const;
     void setSmallCapitals(QTextCursor *cursor, const QTextCharFormat &format) const;
