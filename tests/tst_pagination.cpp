@@ -14,6 +14,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <ctime>
 
 using Element = MRVFountainElement;
 using Line = MRVScriptLine;
@@ -454,6 +455,42 @@ private Q_SLOTS:
         QVERIFY(left("Quoted") - left("Plain") > 25); // 40 pixels are 30 points
     }
 
+    /// Qt's layout would never return.
+    void endlessParts_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::newRow("paragraph") << "<p>⟨2500000×x⟩</p>";
+        QTest::newRow("cell") << "<table><tr><td>⟨40000×<p>x</p>⟩</td></tr></table>";
+    }
+    void endlessParts()
+    {
+        QTextDocument document;
+        document.setHtml(withRepeats(cell("html")));
+        MRVManuscriptPdf pdf({});
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QString error;
+        QVERIFY(!pdf.toByteArray(&bytes, &error));
+        QVERIFY2(error.contains("too long"), qPrintable(error));
+    }
+
+    /// Pages and paragraphs of any length take time in proportion.
+    void longParagraph()
+    {
+        const auto clocks = [](int letters) {
+            QTextDocument document(QString(letters, 'x'));
+            MRVManuscriptPdf pdf({});
+            pdf.addDocument(document);
+            QByteArray bytes;
+            const std::clock_t start = std::clock(); // of this process alone
+            const bool isDone = pdf.toByteArray(&bytes);
+            return isDone ? double(std::clock() - start) : 0;
+        };
+        clocks(1000); // loads fonts
+        const double growth = clocks(400000) / clocks(50000);
+        QVERIFY2(growth > 0 && growth < 20, qPrintable(QString::number(growth)));
+    }
+
     /// A rule is as wide as the text, however far in the first lines of paragraphs are.
     void horizontalRules()
     {
@@ -499,7 +536,8 @@ private Q_SLOTS:
                     "href='http://example.org'>out</a>, <a href='#nowhere'>nothing</a> and <a "
                     "href='three.html'>none</a>.</p>");
         QTextDocument two;
-        two.setHtml("<h1>Beta</h1><p><a name='x'>X</a></p><p><img src='data:,'></p>");
+        two.setHtml("<h1>Beta</h1><p><a name='x' href='file:///etc/passwd'>X</a></p><p><img "
+                    "src='data:,'></p>");
         MRVPrintOptions options;
         options.title = "Both";
         options.authors = QStringList{"Ann Lee", "Bob"};
@@ -510,14 +548,16 @@ private Q_SLOTS:
         pdf.addDocument(two, "/folder/two.html");
         QByteArray bytes;
         QVERIFY(pdf.toByteArray(&bytes));
-        QCOMPARE(pdf.deadLinks(), (QStringList{"#nowhere", "three.html"}));
+        QCOMPARE(pdf.deadLinks(), (QStringList{"#nowhere", "three.html", "file:///etc/passwd"}));
         const QStringList pages = pdfText(bytes).split('\f');
         QCOMPARE(pages.size(), 6);
         QCOMPARE(pages.at(0).simplified(), QString("Both Ann Lee Bob"));
         QCOMPARE(pages.at(1).simplified(), QString("Inhalt Alpha 1 Teil Zwei 2 Beta 3"));
         QCOMPARE(pages.at(4).simplified(), QString("Beta X 3"));
         const QString file = m_folder.filePath("script.pdf");
-        QVERIFY(run(programPath("pdfinfo"), {"-url", file}).output.contains("example.org"));
+        const QString urls = run(programPath("pdfinfo"), {"-url", file}).output;
+        QCOMPARE(urls.count("Annotation"), 1);
+        QVERIFY(urls.contains("example.org"));
         const QString shown = run(programPath("pdftohtml"), {"-xml", "-stdout", "-i", file}).output;
         QVERIFY2(shown.contains("script.html#5\">there</a>"), qPrintable(shown));
     }

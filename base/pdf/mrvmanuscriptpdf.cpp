@@ -152,8 +152,7 @@ bool MRVPrintedBook::layOut(Part *part, int level, bool isFirst)
         if (i == 0 && !part->heading.isEmpty()) {
             piece->insertHeading(part->heading, qMax(1, level));
         }
-        piece->layOut(writer->painter()->device(), level);
-        if (piece->isTooLong()) {
+        if (!piece->layOut(writer->painter()->device(), level)) {
             return false;
         }
         part->pieces.push_back(std::move(piece));
@@ -499,7 +498,8 @@ bool MRVPrintedBook::print(QByteArray *bytes, QString *error)
     for (Part &part : parts) {
         if (!layOut(&part, level, page == 1)) {
             if (error) {
-                *error = MRVManuscriptPdf::tr("A table or picture is too long to be printed.");
+                *error = MRVManuscriptPdf::tr("A paragraph, list or table is too long to be "
+                                              "printed.");
             }
             return false;
         }

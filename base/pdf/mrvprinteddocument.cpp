@@ -11,6 +11,8 @@
 #include "textformat/mrvtextformat.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -27,6 +29,7 @@ constexpr qreal DotsPerPixel = MRVPdfWriter::DotsPerInch / 96.0;
 constexpr qreal DotsPerPrintedPixel = MRVPdfWriter::DotsPerInch / 300.0; // finer is not seen
 constexpr qreal Tolerance = 1; // in dots
 constexpr int LeastLines = 2;
+constexpr qreal LastDot = 1 << 23; // of lengths that Qt lays out and paints
 // Qt adds borders to the full width; the margin has space for them.
 constexpr qreal OverhangOfTables = 10 * Scale;
 
@@ -94,10 +97,75 @@ QVector<QTextBlock> MrvPrintedDocument::piecesOf(const QTextDocument &document, 
     return pieces;
 }
 
-bool MrvPrintedDocument::isTooLong() const
+// An estimate of a paragraph's height in a column of a table, or of the page.
+qreal MrvPrintedDocument::likelyHeight(const QTextBlock &block, int columns) const
 {
-    constexpr qreal LastDot = 1 << 23; // of QFixed, where it is painted
-    return m_copy->documentLayout()->documentSize().height() >= LastDot;
+    const QFontMetricsF metrics(m_look.font);
+    const qreal size = m_look.font.pointSizeF();
+    const qreal pixels = QFontInfo(m_look.font).pixelSize();
+    const qreal columnWidth = m_look.text.width() / Scale / columns;
+    qreal lines = 1;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const qreal own = fragment.charFormat().fontPointSize() / size;
+        const qreal area = !m_look.isManuscript && own > 1 ? own * own : 1;
+        qreal width = 0;
+        const QString text = fragment.text();
+        for (const QChar letter : text) {
+            width += letter.unicode() < 0x1100 ? metrics.horizontalAdvance(letter) : pixels;
+        }
+        lines += area * width * size / pixels / columnWidth;
+    }
+    return lines * m_look.lineHeight * Scale;
+}
+
+bool MrvPrintedDocument::mayBeTooLong(const QTextBlock &first, const QTextBlock &last,
+                                      int columns) const
+{
+    constexpr int SurelyShort = 20000; // in characters
+    constexpr qreal Most = 0.8 * LastDot; // lines are not full
+    if (last.position() + last.length() - first.position() < SurelyShort / columns) {
+        return false;
+    }
+    qreal height = 0;
+    for (QTextBlock block = first; block.isValid() && height <= Most; block = block.next()) {
+        height += likelyHeight(block, columns);
+        if (block == last) {
+            break;
+        }
+    }
+    return height > Most;
+}
+
+// Qt's layout does not return from a paragraph, or the cell of a table, that is longer.
+bool MrvPrintedDocument::hasEndlessPart() const
+{
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        if (mayBeTooLong(block, block, 1)) {
+            return true;
+        }
+    }
+    const QVector<QTextFrame *> frames = MrvPrintStyler::framesOf(m_copy->rootFrame());
+    for (QTextFrame *frame : frames) {
+        auto *table = qobject_cast<QTextTable *>(frame);
+        const QTextBlock first = m_copy->findBlock(frame->firstPosition());
+        const QTextBlock last = m_copy->findBlock(frame->lastPosition());
+        if (!mayBeTooLong(first, last, table ? table->columns() : 1)) {
+            continue;
+        }
+        for (int cell = 0; table && cell < table->rows() * table->columns(); ++cell) {
+            const QTextTableCell here =
+                table->cellAt(cell / table->columns(), cell % table->columns());
+            if (mayBeTooLong(here.firstCursorPosition().block(), here.lastCursorPosition().block(),
+                             table->columns())) {
+                return true;
+            }
+        }
+        if (!table) {
+            return true;
+        }
+    }
+    return false;
 }
 
 MrvPrintedDocument::~MrvPrintedDocument() = default;
@@ -179,23 +247,30 @@ void MrvPrintedDocument::drawObject(QPainter *painter, const QRectF &area, QText
     }
 }
 
-void MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
+bool MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
 {
+    if (hasEndlessPart()) {
+        return false;
+    }
     MrvPrintStyler styler(m_copy.get(), m_look);
     styler.restyle();
+    setWrapMode(QTextOption::WordWrap);
     QAbstractTextDocumentLayout *layout = m_copy->documentLayout();
     layout->setPaintDevice(device);
     layout->registerHandler(QTextFormat::ImageObject, this);
-    setWrapMode(QTextOption::WordWrap);
     m_copy->setTextWidth(m_look.text.width());
     layout->documentSize(); // lays out all of it
     shrinkTables(&styler);
+    if (layout->documentSize().height() >= LastDot) {
+        return false;
+    }
     collect(m_copy->rootFrame(), chapterLevel);
     if (!m_boxes.isEmpty()) {
         m_boxes.first().beginsChapter = true;
     }
     divide();
     collectPlaces();
+    return true;
 }
 
 void MrvPrintedDocument::setWrapMode(QTextOption::WrapMode mode)
@@ -265,6 +340,9 @@ void MrvPrintedDocument::collectBlock(const QTextBlock &block, int chapterLevel)
         box.breaksBefore = i == 0 && breaks;
         box.beginsChapter = i == 0 && isChapter;
         m_boxes.append(box);
+    }
+    if (area.height() > m_look.text.height()) {
+        m_longParagraphs.append({area.top(), area.bottom(), block.layout()});
     }
     if (lines->lineCount() > 0
         && format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth)) {
@@ -382,55 +460,61 @@ void MrvPrintedDocument::divide()
     }
 }
 
-void MrvPrintedDocument::collectLink(const QTextBlock &block, int start, int end,
-                                     const QString &address)
+void MrvPrintedDocument::collectLink(const QTextLayout &lines, const QPointF &origin,
+                                     const LinkedText &link)
 {
-    const QTextLayout *lines = block.layout();
-    const QPointF origin = m_copy->documentLayout()->blockBoundingRect(block).topLeft();
-    for (int i = 0; i < lines->lineCount(); ++i) {
-        const QTextLine line = lines->lineAt(i);
-        const int from = qMax(start, line.textStart());
-        const int to = qMin(end, line.textStart() + line.textLength());
+    for (int i = link.firstLine; i < lines.lineCount() && !link.address.isEmpty(); ++i) {
+        const QTextLine line = lines.lineAt(i);
+        if (line.textStart() >= link.end) {
+            return;
+        }
+        const int from = qMax(link.start, line.textStart());
+        const int to = qMin(link.end, line.textStart() + line.textLength());
         if (from < to) {
             const QPointF corner(line.cursorToX(from), line.y());
             const QPointF other(line.cursorToX(to), line.y() + line.height());
             const QRectF shown = QRectF(corner + origin, other + origin).normalized();
-            m_links.append({shown.top(), shown, address});
+            m_links.append({shown.top(), shown, link.address});
         }
     }
+}
+
+void MrvPrintedDocument::collectPlaces(const QTextBlock &block)
+{
+    const QPointF origin = m_copy->documentLayout()->blockBoundingRect(block).topLeft();
+    const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
+    const QTextLayout &lines = *block.layout();
+    const QString text = level > 0 ? block.text().simplified() : QString();
+    if (!text.isEmpty()) {
+        m_headings.append({origin.y() + lines.lineAt(0).y(), level, text});
+    }
+    LinkedText link;
+    int line = 0;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const QTextCharFormat format = fragment.charFormat();
+        const int at = fragment.position() - block.position();
+        while (line + 1 < lines.lineCount() && lines.lineAt(line + 1).textStart() <= at) {
+            ++line;
+        }
+        const QStringList names = format.anchorNames();
+        for (const QString &name : names) {
+            m_targets.append(
+                {origin.y() + (lines.lineCount() > 0 ? lines.lineAt(line).y() : 0), name});
+        }
+        if (format.anchorHref() != link.address) {
+            collectLink(lines, origin, link);
+            link = {format.anchorHref(), at, at, line};
+        }
+        link.end = at + fragment.length();
+    }
+    collectLink(lines, origin, link);
 }
 
 void MrvPrintedDocument::collectPlaces()
 {
     for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
-        const QRectF area = m_copy->documentLayout()->blockBoundingRect(block);
-        const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
-        const QString text = block.text().simplified();
-        if (level > 0 && !text.isEmpty()) {
-            m_headings.append({area.top() + block.layout()->lineAt(0).y(), level, text});
-        }
-        QString address;
-        int start = 0;
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            const QTextCharFormat format = fragment.charFormat();
-            const int at = fragment.position() - block.position();
-            const QStringList names = format.anchorNames();
-            for (const QString &name : names) {
-                const QTextLine line = block.layout()->lineForTextPosition(at);
-                m_targets.append({area.top() + (line.isValid() ? line.y() : 0), name});
-            }
-            if (format.anchorHref() != address) {
-                if (!address.isEmpty()) {
-                    collectLink(block, start, at, address);
-                }
-                address = format.anchorHref();
-                start = at;
-            }
-        }
-        if (!address.isEmpty()) {
-            collectLink(block, start, block.length() - 1, address);
-        }
+        collectPlaces(block);
     }
     // Cells of a table stand side by side.
     const auto isHigher = [](const auto &a, const auto &b) { return a.y < b.y; };
@@ -450,6 +534,11 @@ void MrvPrintedDocument::paint(QPainter *painter, const MrvPrintedPage &page) co
                           page.bottom - page.top - 2 * Tolerance);
     context.palette.setColor(QPalette::Text, Qt::black);
     painter->setClipRect(context.clip.adjusted(0, -Scale, 0, Scale));
+    for (const LongParagraph &paragraph : m_longParagraphs) {
+        if (paragraph.bottom > page.top && paragraph.top < page.bottom) {
+            paragraph.lines->setCacheEnabled(paragraph.bottom > page.bottom);
+        }
+    }
     m_copy->documentLayout()->draw(painter, context);
     painter->restore();
 }

@@ -17,6 +17,7 @@ class QPainter;
 class QTextBlock;
 class QTextDocument;
 class QTextFrame;
+class QTextLayout;
 class QTextTable;
 
 /** What stands on a page of a document: from #top up to #bottom, in the document's own dots. */
@@ -77,15 +78,15 @@ public:
     /**
      * Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings
      * that begin a page.
+     *
+     * @return false where it is too long to be painted.
      */
-    void layOut(QPaintDevice *device, int chapterLevel);
+    bool layOut(QPaintDevice *device, int chapterLevel);
 
     const QVector<MrvPrintedPage> &pages() const { return m_pages; }
     const QVector<MrvPrintedHeading> &headings() const { return m_headings; }
     const QVector<MrvPrintedTarget> &targets() const { return m_targets; }
     const QVector<MrvPrintedLink> &links() const { return m_links; }
-    /** Whether it is too long to be painted. */
-    bool isTooLong() const;
     /** How many tables do not fit on the paper, however small their type. */
     int wideTables() const { return m_wideTables; }
     /** How many tables are lines of text, since they are nested too deeply. */
@@ -111,6 +112,27 @@ private:
         bool beginsChapter = false;
     };
 
+    // A paragraph of more than a page. Qt keeps the shapes of its letters for the next page only
+    // where it is told to, and takes time for all of it otherwise.
+    struct LongParagraph
+    {
+        qreal top;
+        qreal bottom;
+        QTextLayout *lines;
+    };
+
+    // Positions in a paragraph, and the index of the line in which it starts.
+    struct LinkedText
+    {
+        QString address;
+        int start = 0;
+        int end = 0;
+        int firstLine = 0;
+    };
+
+    qreal likelyHeight(const QTextBlock &block, int columns) const;
+    bool mayBeTooLong(const QTextBlock &first, const QTextBlock &last, int columns) const;
+    bool hasEndlessPart() const;
     void setWrapMode(QTextOption::WrapMode mode);
     QVector<QTextTable *> wideTablesNow() const;
     void shrinkTables(MrvPrintStyler *styler);
@@ -119,7 +141,8 @@ private:
     void collectTable(QTextTable *table);
     void collectRow(const QVector<QTextBlock> &blocks, qreal padding);
     void collectPlaces();
-    void collectLink(const QTextBlock &block, int start, int end, const QString &address);
+    void collectPlaces(const QTextBlock &block);
+    void collectLink(const QTextLayout &lines, const QPointF &origin, const LinkedText &link);
     void divide();
     bool mayBreakBefore(int box) const;
 
@@ -130,6 +153,7 @@ private:
     int m_wideTables = 0;
     int m_flattenedTables = 0;
     QVector<Box> m_boxes;
+    QVector<LongParagraph> m_longParagraphs;
     QVector<MrvPrintedPage> m_pages;
     QVector<MrvPrintedHeading> m_headings;
     QVector<MrvPrintedTarget> m_targets;

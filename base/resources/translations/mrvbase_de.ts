@@ -810,8 +810,8 @@ Fehler: %2</translation>
         <translation>Etwa %1 Wörter</translation>
     </message>
     <message>
-        <source>A table or picture is too long to be printed.</source>
-        <translation>Eine Tabelle oder ein Bild ist zu lang zum Drucken.</translation>
+        <source>A paragraph, list or table is too long to be printed.</source>
+        <translation>Ein Absatz, eine Liste oder eine Tabelle ist zu lang, um gedruckt zu werden.</translation>
     </message>
 </context>
 <context>

@@ -810,8 +810,8 @@ Error: %2</translation>
         <translation>Unas %1 palabras</translation>
     </message>
     <message>
-        <source>A table or picture is too long to be printed.</source>
-        <translation>Una tabla o una imagen es demasiado larga para imprimirla.</translation>
+        <source>A paragraph, list or table is too long to be printed.</source>
+        <translation>Un párrafo, una lista o una tabla es demasiado largo para imprimirse.</translation>
     </message>
 </context>
 <context>

@@ -810,8 +810,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Environ %1 mots</translation>
     </message>
     <message>
-        <source>A table or picture is too long to be printed.</source>
-        <translation>Un tableau ou une image est trop long pour être imprimé.</translation>
+        <source>A paragraph, list or table is too long to be printed.</source>
+        <translation>Un paragraphe, une liste ou un tableau est trop long pour être imprimé.</translation>
     </message>
 </context>
 <context>
