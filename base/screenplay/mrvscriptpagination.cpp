@@ -1,111 +1,41 @@
 #include "screenplay/mrvscriptpagination.h"
 
 #include "screenplay/mrvfountainsyntax_p.h"
+#include "screenplay/mrvpagebreaks_p.h"
+#include "screenplay/mrvscriptmargins_p.h"
+#include "screenplay/mrvscriptpaper_p.h"
+#include "screenplay/mrvscripttitlepages_p.h"
 #include "screenplay/mrvscripttypesetter_p.h"
-#include "screenplay/mrvtitlepage_p.h"
 #include "scriptmode/mrvscriptmode.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
-using Element = MRVFountainElement;
-using Run = MRVFountainRun;
 using Line = MRVScriptLine;
 using Page = MRVScriptPage;
 using Pagination = MRVScriptPagination;
+using Unit = MrvScriptUnit;
+using Cut = MrvScriptCut;
 
-constexpr qreal Inch = 72;
-constexpr qreal ColumnWidth = 6 * Inch;
-constexpr qreal TopMargin = Inch;
-constexpr qreal BottomMargin = Inch;
-constexpr qreal NumberTop = Inch / 2; // of the page's number
-constexpr qreal ContinuedDistance = 24; // of "CONTINUED:" from the text's edge, to its own top
-constexpr qreal ContinuesDistance = 12;
-constexpr qreal SceneNumberLeft = 0.75 * Inch;
-constexpr qreal SceneNumberGap = 10;
-constexpr qreal Tolerance = 0.1; // lengths of modes are rounded to twentieths of points
-constexpr int LeastLines = 2; // on either side of a page break
+constexpr qreal ColumnWidth = MrvScriptPaper::ColumnWidth;
+constexpr qreal TopMargin = MrvScriptPaper::TopMargin;
+constexpr qreal Tolerance = MrvScriptPaper::Tolerance;
 constexpr int EighthsPerPage = 8;
-// A paragraph of more lines is divided at any line, so that looking for sentences on each of its
-// pages does not cost the square of its length.
-constexpr int MostLinesWithSentences = 400;
-// What is longer is no name, and neither repeated nor kept in one piece.
-constexpr int MostCueLines = 4;
-constexpr qreal TitleTop = 3 * Inch; // of a title page's first line in the middle
-constexpr qreal TitleGap = 12; // between entries of a title page
-constexpr qreal AfterTitleGap = 36;
 
 static_assert(Pagination::TabDistance == MrvPrintedParagraph::TabDistance);
 
-struct PaperSize
-{
-    Pagination::Paper paper;
-    const char *name;
-    qreal width;
-    qreal height;
-    qreal left; // margin
+constexpr MrvScriptPaper papers[] = {
+    {Pagination::Letter, "letter", 612, 792, 1.5 * MrvScriptPaper::Inch},
+    {Pagination::A4, "a4", 595.2756, 841.8898, 1.25 * MrvScriptPaper::Inch},
 };
 
-constexpr PaperSize papers[] = {
-    {Pagination::Letter, "letter", 612, 792, 1.5 * Inch},
-    {Pagination::A4, "a4", 595.2756, 841.8898, 1.25 * Inch},
-};
-
-const PaperSize &paperOf(Pagination::Paper paper, const MRVScriptMode &mode)
+const MrvScriptPaper &paperOf(Pagination::Paper paper, const MRVScriptMode &mode)
 {
     const Pagination::Paper wanted = paper != Pagination::PaperOfMode ? paper
         : mode.units() == MRVUnit::Centimeter                         ? Pagination::A4
                                                                       : Pagination::Letter;
     return papers[wanted == Pagination::A4 ? 1 : 0];
-}
-
-bool isPrinted(const Element &element)
-{
-    return element.kind < Element::Note;
-}
-
-bool isSpoken(const Element &element)
-{
-    return element.kind == Element::Dialogue || element.kind == Element::Parenthetical
-        || (element.kind == Element::Lyrics && !element.apart);
-}
-
-// What is placed together: a paragraph, a speech from its cue on, or two of them side by side.
-struct Unit
-{
-    enum Kind { Plain, Speech, Beside };
-
-    Kind kind = Plain;
-    int first = 0; // index of a paragraph
-    int second = 0; // of Beside, where the second speech begins
-    int end = 0;
-};
-
-// Where a unit is divided: before a position of a paragraph.
-struct Cut
-{
-    int paragraph = -1;
-    int position = 0;
-
-    bool isValid() const { return paragraph >= 0; }
-};
-
-QVector<int> sentenceEnds(const MrvPrintedParagraph &paragraph)
-{
-    return paragraph.lines.size() <= MostLinesWithSentences ? paragraph.sentenceEnds()
-                                                            : QVector<int>();
-}
-
-// How many lines begin before a position.
-int lineCountUntil(const MrvPrintedParagraph &paragraph, int position)
-{
-    const auto end =
-        std::lower_bound(paragraph.lines.cbegin(), paragraph.lines.cend(), position,
-                         [](const MrvPrintedLine &line, int value) { return line.start < value; });
-    return int(end - paragraph.lines.cbegin());
 }
 
 } // namespace
@@ -120,38 +50,21 @@ public:
         , m_options(options)
         , m_paper(paperOf(options.paper, mode))
         , m_setter(mode, ColumnWidth)
+        , m_more(m_setter.lineLike(MRVFountainElement::Character, options.more))
         , m_result(*result)
-        , m_height(m_paper.height - TopMargin - BottomMargin)
+        , m_height(m_paper.textHeight())
+        , m_collected(script, &m_setter)
+        , m_paragraphs(m_collected.paragraphs())
+        , m_breaks(m_paragraphs, m_setter, m_more.lineHeight, m_height)
     {
     }
 
     void run();
 
 private:
-    void collect();
-    int collectSpeech(int cue);
-    void collectPlain(int element);
-    bool isBesideTheLast(int cue) const;
-    void addUnit(Unit::Kind kind, int first);
-
-    void measure();
-    qreal unitHeight(const Unit &unit) const;
-    qreal leastHeight(const Unit &unit) const;
-    bool isLonger(const Unit &unit) const;
-    qreal forcedHeight(const Unit &unit) const;
     qreal spaceBefore(const Unit &unit) const;
-
     void place(int index);
     void placePart(Unit unit);
-    Cut bestCut(const Unit &unit, qreal height) const;
-    Cut plainCut(const Unit &unit, qreal height) const;
-    Cut speechCut(const Unit &unit, qreal height) const;
-    Cut forcedCut(const Unit &unit, qreal height) const;
-    int speechLineCount(const Unit &unit) const;
-    QVector<Cut> speechCuts(const Unit &unit) const;
-    qreal speechHeight(const Unit &unit, const Cut &cut) const;
-    qreal moreHeight() const;
-    bool hasCue(const Unit &unit) const;
     void emitUntil(Unit *unit, const Cut &cut);
     void cutBeside(Unit *unit, qreal height);
 
@@ -159,373 +72,24 @@ private:
     void emitUnit(const Unit &unit);
     qreal emitLines(const MrvPrintedParagraph &paragraph, int count, qreal top);
     void addLine(Line::Kind kind, const MrvPrintedParagraph &paragraph, int line, qreal top);
-    void addMarginLine(Page *page, Line::Kind kind, const QString &text, qreal left, qreal width,
-                       qreal top, Qt::Alignment alignment, int element = -1);
-    void addMargins();
-    void addSceneContinuations();
-    void addSceneNumbers();
     MrvPrintedParagraph repeatedCue(const MrvPrintedParagraph &cue);
-    void addTitlePages();
-    qreal addTitleLines(const QVector<MrvPrintedParagraph> &paragraphs, qreal top, qreal left);
 
     const MRVFountainScript &m_script;
     const Pagination::Options &m_options;
-    const PaperSize &m_paper;
+    const MrvScriptPaper &m_paper;
     MrvScriptTypesetter m_setter;
+    const MrvPrintedParagraph m_more;
     Pagination &m_result;
     const qreal m_height; // of the text
-    QVector<MrvPrintedParagraph> m_paragraphs;
-    QVector<Unit> m_units;
+    MrvScriptUnits m_collected;
+    QVector<MrvPrintedParagraph> &m_paragraphs;
+    const MrvPageBreaks m_breaks;
     QVector<qreal> m_needed; // by each unit, with what it keeps with, at the foot of a page
-    MrvPrintedParagraph m_more;
     qreal m_y = 0; // on the page, from the text's top
     qreal m_lastAfter = 0; // the space that the last paragraph wants after it
     qreal m_space = 0; // above the next line, which counts for its element
     bool m_hasOnlyHeadings = true; // on the page so far
 };
-
-void MrvScriptPaginator::addUnit(Unit::Kind kind, int first)
-{
-    Unit unit;
-    unit.kind = kind;
-    unit.first = first;
-    unit.end = m_paragraphs.size();
-    unit.second = unit.end;
-    m_units.append(unit);
-}
-
-void MrvScriptPaginator::collectPlain(int index)
-{
-    MrvPrintedParagraph paragraph = m_setter.paragraph(m_script.elements.at(index), index);
-    if (paragraph.lines.isEmpty()) {
-        return;
-    }
-    // A song apart from any speech stands apart from what is before it, too.
-    const bool isSong = paragraph.kind == Element::Lyrics;
-    if (isSong && !m_paragraphs.isEmpty() && m_paragraphs.constLast().kind != Element::Lyrics) {
-        paragraph.before = qMax(paragraph.before, paragraph.lineHeight);
-    }
-    m_paragraphs.append(paragraph);
-    addUnit(Unit::Plain, m_paragraphs.size() - 1);
-}
-
-bool MrvScriptPaginator::isBesideTheLast(int cue) const
-{
-    if (!m_script.elements.at(cue).dual || m_setter.hasHangingSpeeches() || m_units.isEmpty()
-        || m_units.constLast().kind != Unit::Speech) {
-        return false;
-    }
-    // Nothing printed stands between the two.
-    int before = cue - 1;
-    while (before >= 0 && !isPrinted(m_script.elements.at(before))) {
-        --before;
-    }
-    return before >= 0 && m_script.elements.at(before).kind != Element::PageBreak
-        && m_paragraphs.at(m_units.constLast().end - 1).element <= before
-        && (isSpoken(m_script.elements.at(before))
-            || m_script.elements.at(before).kind == Element::Character);
-}
-
-// Returns the index after the speech that begins at a cue, or at speech without one.
-int MrvScriptPaginator::collectSpeech(int cue)
-{
-    const QVector<Element> &elements = m_script.elements;
-    bool hasCue = elements.at(cue).kind == Element::Character;
-    int end = cue + (hasCue ? 1 : 0);
-    QVector<int> parts;
-    for (; end < elements.size() && elements.at(end).kind != Element::PageBreak
-         && (isSpoken(elements.at(end)) || !isPrinted(elements.at(end)));
-         ++end) {
-        if (isSpoken(elements.at(end))) {
-            parts.append(end);
-        }
-    }
-    const int first = m_paragraphs.size();
-    if (hasCue && m_setter.hasHangingSpeeches()) {
-        m_paragraphs.append(m_setter.hangingSpeech(m_script, cue, end));
-        addUnit(Unit::Plain, first);
-        return end;
-    }
-    if (hasCue) {
-        const MrvPrintedParagraph paragraph = m_setter.paragraph(elements.at(cue), cue);
-        if (paragraph.lines.size() > MostCueLines) {
-            m_paragraphs.append(paragraph);
-            m_paragraphs.last().keepsWithNext = false;
-            addUnit(Unit::Plain, first);
-            hasCue = false;
-        } else {
-            parts.prepend(cue);
-        }
-    }
-    const int firstSpoken = m_paragraphs.size();
-    const bool isBeside = hasCue && isBesideTheLast(cue);
-    for (const int part : qAsConst(parts)) {
-        const Element &element = elements.at(part);
-        const MrvPrintedParagraph paragraph = isBeside ? m_setter.besideParagraph(element, part, 1)
-                                                       : m_setter.paragraph(element, part);
-        if (!paragraph.lines.isEmpty()) {
-            m_paragraphs.append(paragraph);
-        }
-    }
-    if (isBeside) {
-        Unit &unit = m_units.last();
-        for (int i = unit.first; i < unit.end; ++i) {
-            const int element = m_paragraphs.at(i).element;
-            m_paragraphs[i] = m_setter.besideParagraph(elements.at(element), element, 0);
-        }
-        unit.kind = Unit::Beside;
-        unit.second = unit.end;
-        unit.end = m_paragraphs.size();
-    } else if (m_paragraphs.size() > firstSpoken) {
-        addUnit(Unit::Speech, firstSpoken);
-    }
-    return end;
-}
-
-void MrvScriptPaginator::collect()
-{
-    bool breaks = false;
-    for (int i = 0; i < m_script.elements.size();) {
-        const Element &element = m_script.elements.at(i);
-        const int count = m_units.size();
-        if (element.kind == Element::PageBreak) {
-            breaks = true;
-            ++i;
-        } else if (element.kind == Element::Character || isSpoken(element)) {
-            i = collectSpeech(i);
-        } else {
-            if (isPrinted(element)) {
-                collectPlain(i);
-            }
-            ++i;
-        }
-        if (breaks && m_units.size() > count) {
-            m_paragraphs[m_units.constLast().first].breaksBefore = true;
-            breaks = false;
-        }
-    }
-}
-
-bool MrvScriptPaginator::hasCue(const Unit &unit) const
-{
-    return unit.kind != Unit::Plain && m_paragraphs.at(unit.first).kind == Element::Character;
-}
-
-qreal MrvScriptPaginator::moreHeight() const
-{
-    return m_more.lineHeight;
-}
-
-qreal MrvScriptPaginator::unitHeight(const Unit &unit) const
-{
-    qreal height = 0;
-    qreal firstHeight = 0;
-    // How much more than a page it is makes no difference.
-    for (int i = unit.first; i < unit.end && qMax(height, firstHeight) <= 2 * m_height; ++i) {
-        const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
-        if (unit.kind == Unit::Beside && i == unit.second) {
-            firstHeight = height;
-            height = 0;
-        }
-        height += paragraph.height();
-        if (i + 1 < unit.end && i + 1 != unit.second) {
-            height += qMax(paragraph.after, m_paragraphs.at(i + 1).before);
-        }
-    }
-    return qMax(height, firstHeight);
-}
-
-qreal MrvScriptPaginator::spaceBefore(const Unit &unit) const
-{
-    return qMax(m_paragraphs.at(unit.first).before, m_lastAfter);
-}
-
-// The lines of a speech after its cue, or more than two pages have.
-int MrvScriptPaginator::speechLineCount(const Unit &unit) const
-{
-    int count = 0;
-    qreal height = 0;
-    for (int i = unit.first + (hasCue(unit) ? 1 : 0); i < unit.end && height <= 2 * m_height; ++i) {
-        count += m_paragraphs.at(i).lines.size();
-        height += m_paragraphs.at(i).height();
-    }
-    return count;
-}
-
-// Where a speech may be divided, in its order.
-QVector<Cut> MrvScriptPaginator::speechCuts(const Unit &unit) const
-{
-    QVector<Cut> cuts;
-    const int total = speechLineCount(unit);
-    if (total < 2 * LeastLines) {
-        return cuts;
-    }
-    int before = 0;
-    qreal height = 0;
-    for (int i = unit.first + (hasCue(unit) ? 1 : 0); i < unit.end && height < m_height; ++i) {
-        const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
-        height += paragraph.height();
-        const auto add = [&](int position, int lines) {
-            if (before + lines < LeastLines) {
-                return;
-            }
-            const bool isEnd = position == paragraph.text.size();
-            // The rest has at least the lines after that in which the sentence ends.
-            int rest = total - before - lines;
-            if (rest < LeastLines && !isEnd) {
-                rest += m_setter.linesFrom(paragraph, position).size()
-                    - (paragraph.lines.size() - lines);
-            }
-            if (rest >= LeastLines) {
-                cuts.append(isEnd ? Cut{i + 1, 0} : Cut{i, position});
-            }
-        };
-        if (paragraph.kind != Element::Parenthetical) {
-            for (const int position : sentenceEnds(paragraph)) {
-                add(position, lineCountUntil(paragraph, position));
-            }
-            if (i + 1 < unit.end) {
-                add(paragraph.text.size(), paragraph.lines.size());
-            }
-        }
-        before += paragraph.lines.size();
-    }
-    return cuts;
-}
-
-// The height of a speech up to a cut.
-qreal MrvScriptPaginator::speechHeight(const Unit &unit, const Cut &cut) const
-{
-    qreal height = 0;
-    for (int i = unit.first; i < unit.end && i <= cut.paragraph; ++i) {
-        const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
-        const int lines =
-            i < cut.paragraph ? paragraph.lines.size() : lineCountUntil(paragraph, cut.position);
-        if (lines > 0 && i > unit.first) {
-            height += qMax(m_paragraphs.at(i - 1).after, paragraph.before);
-        }
-        height += lines * paragraph.lineHeight;
-    }
-    return height;
-}
-
-Cut MrvScriptPaginator::plainCut(const Unit &unit, qreal height) const
-{
-    const MrvPrintedParagraph &paragraph = m_paragraphs.at(unit.first);
-    const int count = paragraph.lines.size();
-    const int fitting = qMin(int((height + Tolerance) / paragraph.lineHeight), count - LeastLines);
-    if (fitting < LeastLines || paragraph.keepsWithNext) {
-        return {};
-    }
-    const QVector<int> ends = sentenceEnds(paragraph);
-    for (auto end = ends.crbegin(); end != ends.crend(); ++end) {
-        const int lines = lineCountUntil(paragraph, *end);
-        if (lines < LeastLines) {
-            break;
-        }
-        if (lines <= fitting && m_setter.linesFrom(paragraph, *end).size() >= LeastLines) {
-            return {unit.first, *end};
-        }
-    }
-    return {unit.first, paragraph.lines.at(fitting).start};
-}
-
-Cut MrvScriptPaginator::speechCut(const Unit &unit, qreal height) const
-{
-    const QVector<Cut> cuts = speechCuts(unit);
-    for (auto cut = cuts.crbegin(); cut != cuts.crend(); ++cut) {
-        if (speechHeight(unit, *cut) + moreHeight() <= height + Tolerance) {
-            return *cut;
-        }
-    }
-    return {};
-}
-
-Cut MrvScriptPaginator::bestCut(const Unit &unit, qreal height) const
-{
-    switch (unit.kind) {
-    case Unit::Plain:
-        return plainCut(unit, height);
-    case Unit::Speech:
-        return speechCut(unit, height);
-    case Unit::Beside:
-        break;
-    }
-    return {};
-}
-
-// For what is longer than a page and has no better place.
-Cut MrvScriptPaginator::forcedCut(const Unit &unit, qreal height) const
-{
-    qreal left = height + Tolerance - (unit.kind == Unit::Speech ? moreHeight() : 0);
-    const int body = unit.first + (hasCue(unit) ? 1 : 0);
-    Cut cut;
-    for (int i = unit.first; i < unit.end; ++i) {
-        const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
-        left -= i > unit.first ? qMax(m_paragraphs.at(i - 1).after, paragraph.before) : 0;
-        // At least a line is placed, however small the page is.
-        const int least = i == body ? 1 : 0;
-        const int lines = qBound(least, int(left / paragraph.lineHeight), paragraph.lines.size());
-        if (lines < paragraph.lines.size() && i >= body) {
-            return {i, paragraph.lines.at(lines).start};
-        }
-        left -= lines * paragraph.lineHeight;
-    }
-    return cut;
-}
-
-// The smallest part of a unit that may stand at the foot of a page.
-qreal MrvScriptPaginator::leastHeight(const Unit &unit) const
-{
-    const qreal whole = unitHeight(unit);
-    if (unit.kind == Unit::Plain) {
-        const MrvPrintedParagraph &paragraph = m_paragraphs.at(unit.first);
-        return paragraph.lines.size() < 2 * LeastLines || paragraph.keepsWithNext
-            ? whole
-            : LeastLines * paragraph.lineHeight;
-    }
-    const QVector<Cut> cuts = unit.kind == Unit::Speech ? speechCuts(unit) : QVector<Cut>();
-    if (!cuts.isEmpty()) {
-        return qMin(whole, speechHeight(unit, cuts.constFirst()) + moreHeight());
-    }
-    return isLonger(unit) ? forcedHeight(unit) : whole;
-}
-
-// Whether a unit has to be divided wherever it stands.
-bool MrvScriptPaginator::isLonger(const Unit &unit) const
-{
-    return unitHeight(unit) > m_height + Tolerance;
-}
-
-// What of such a unit has to be on its first page: the cue and a few lines.
-qreal MrvScriptPaginator::forcedHeight(const Unit &unit) const
-{
-    const MrvPrintedParagraph &first = m_paragraphs.at(unit.first);
-    const qreal cue = hasCue(unit) ? first.height() : 0;
-    return qMin(m_height, cue + LeastLines * first.lineHeight + moreHeight());
-}
-
-// What keeps with the next is measured with it, from the last unit on.
-void MrvScriptPaginator::measure()
-{
-    m_needed.resize(m_units.size());
-    // What a heading before the unit needs: an empty line between it and its text is no text.
-    qreal afterHeading = 0;
-    for (int i = m_units.size() - 1; i >= 0; --i) {
-        const Unit &unit = m_units.at(i);
-        const MrvPrintedParagraph &last = m_paragraphs.at(unit.end - 1);
-        const qreal least = leastHeight(unit);
-        qreal withNext = least;
-        if (i + 1 < m_units.size()) {
-            const MrvPrintedParagraph &next = m_paragraphs.at(m_units.at(i + 1).first);
-            withNext += next.breaksBefore ? 0 : qMax(last.after, next.before) + afterHeading;
-        }
-        withNext = qMin(withNext, m_height);
-        const bool isPlain = unit.kind == Unit::Plain;
-        m_needed[i] = isPlain && last.keepsWithNext ? withNext : least;
-        afterHeading = isPlain && last.text.isEmpty() ? withNext : m_needed.at(i);
-    }
-}
 
 void MrvScriptPaginator::newPage()
 {
@@ -625,8 +189,9 @@ void MrvScriptPaginator::emitUntil(Unit *unit, const Cut &cut)
 {
     for (int i = unit->first; i < unit->end && i <= cut.paragraph; ++i) {
         const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
-        const int count =
-            i < cut.paragraph ? paragraph.lines.size() : lineCountUntil(paragraph, cut.position);
+        const int count = i < cut.paragraph
+            ? paragraph.lines.size()
+            : MrvPageBreaks::lineCountUntil(paragraph, cut.position);
         if (count == 0) {
             continue;
         }
@@ -644,7 +209,7 @@ void MrvScriptPaginator::emitUntil(Unit *unit, const Cut &cut)
         }
         m_y = emitLines(part, count, m_y);
     }
-    const bool isSpeech = hasCue(*unit);
+    const bool isSpeech = m_breaks.hasCue(*unit);
     const MrvPrintedParagraph cue = m_paragraphs.at(unit->first);
     if (isSpeech) {
         MrvPrintedParagraph more = m_more;
@@ -654,7 +219,7 @@ void MrvScriptPaginator::emitUntil(Unit *unit, const Cut &cut)
     newPage();
     MrvPrintedParagraph &rest = m_paragraphs[cut.paragraph];
     if (cut.position > 0) {
-        const int next = lineCountUntil(rest, cut.position);
+        const int next = MrvPageBreaks::lineCountUntil(rest, cut.position);
         const bool isWhole = next < rest.lines.size() && rest.lines.at(next).start == cut.position;
         rest.lines = isWhole ? rest.lines.mid(next) : m_setter.linesFrom(rest, cut.position);
         rest.breaksBefore = false;
@@ -703,25 +268,30 @@ void MrvScriptPaginator::cutBeside(Unit *unit, qreal height)
            && unit->first == unit->second) {
         unit->first = ++unit->second;
     }
-    if (unit->first < unit->end && unitHeight(*unit) > 0) {
+    if (unit->first < unit->end && m_breaks.unitHeight(*unit) > 0) {
         newPage();
     }
+}
+
+qreal MrvScriptPaginator::spaceBefore(const Unit &unit) const
+{
+    return qMax(m_paragraphs.at(unit.first).before, m_lastAfter);
 }
 
 void MrvScriptPaginator::placePart(Unit unit)
 {
     while (unit.first < unit.end) {
-        if (unitHeight(unit) <= m_height - m_y + Tolerance) {
+        if (m_breaks.unitHeight(unit) <= m_height - m_y + Tolerance) {
             emitUnit(unit);
             return;
         }
         const bool isAtHead = m_result.m_pages.constLast().lines.isEmpty()
             || m_result.m_pages.constLast().lines.constLast().kind == Line::RepeatedCue;
-        Cut cut = bestCut(unit, m_height - m_y);
+        Cut cut = m_breaks.bestCut(unit, m_height - m_y);
         // Not on any page, or not below a heading that has a page for itself.
-        const bool fitsNowhere = isLonger(unit) || m_hasOnlyHeadings;
+        const bool fitsNowhere = m_breaks.isLonger(unit) || m_hasOnlyHeadings;
         const bool mayBeForced =
-            isAtHead || (fitsNowhere && m_y + forcedHeight(unit) <= m_height + Tolerance);
+            isAtHead || (fitsNowhere && m_y + m_breaks.forcedHeight(unit) <= m_height + Tolerance);
         if (!cut.isValid() && !mayBeForced) {
             newPage();
             continue;
@@ -730,7 +300,7 @@ void MrvScriptPaginator::placePart(Unit unit)
             cutBeside(&unit, m_height - m_y);
             continue;
         }
-        cut = cut.isValid() ? cut : forcedCut(unit, m_height - m_y);
+        cut = cut.isValid() ? cut : m_breaks.forcedCut(unit, m_height - m_y);
         if (!cut.isValid()) {
             emitUnit(unit); // a single line that is higher than the page
             return;
@@ -741,7 +311,7 @@ void MrvScriptPaginator::placePart(Unit unit)
 
 void MrvScriptPaginator::place(int index)
 {
-    const Unit &unit = m_units.at(index);
+    const Unit &unit = m_collected.units().at(index);
     if (m_result.m_pages.isEmpty()
         || (m_paragraphs.at(unit.first).breaksBefore
             && !m_result.m_pages.constLast().lines.isEmpty())) {
@@ -760,172 +330,15 @@ void MrvScriptPaginator::place(int index)
         && (last.keepsWithNext || last.text.isEmpty());
 }
 
-void MrvScriptPaginator::addMarginLine(Page *page, Line::Kind kind, const QString &text, qreal left,
-                                       qreal width, qreal top, Qt::Alignment alignment, int element)
-{
-    MrvPrintedParagraph paragraph = m_setter.lineLike(Element::Action, text);
-    Line line;
-    line.kind = kind;
-    line.element = element;
-    line.runs = {{text, {}, Run::Text}};
-    line.style = paragraph.style;
-    line.left = left;
-    line.width = width;
-    line.top = top;
-    line.height = paragraph.lineHeight;
-    line.alignment = alignment;
-    page->lines.append(line);
-}
-
-void MrvScriptPaginator::addSceneContinuations()
-{
-    int scene = -1; // the last heading before the page
-    for (int i = 0; i < m_result.m_pages.size(); ++i) {
-        Page &page = m_result.m_pages[i];
-        const int first = page.lines.constFirst().element;
-        const bool goesOn = scene >= 0
-            && (m_script.elements.at(first).kind != Element::SceneHeading || first == scene);
-        if (goesOn) {
-            addMarginLine(&page, Line::SceneContinued, m_options.sceneContinued, m_paper.left,
-                          ColumnWidth, TopMargin - ContinuedDistance, Qt::AlignLeft, scene);
-            page.lines.move(page.lines.size() - 1, 0);
-            Page &before = m_result.m_pages[i - 1];
-            addMarginLine(&before, Line::SceneContinues, m_options.sceneContinues, m_paper.left,
-                          ColumnWidth, TopMargin + m_height + ContinuesDistance, Qt::AlignRight,
-                          scene);
-        }
-        for (const Line &line : qAsConst(page.lines)) {
-            if (line.kind == Line::Text
-                && m_script.elements.at(line.element).kind == Element::SceneHeading) {
-                scene = line.element;
-            }
-        }
-    }
-}
-
-void MrvScriptPaginator::addSceneNumbers()
-{
-    const bool hasOwn =
-        std::any_of(m_script.elements.cbegin(), m_script.elements.cend(),
-                    [](const Element &element) { return !element.sceneNumber.isEmpty(); });
-    const qreal right = m_paper.left + ColumnWidth + SceneNumberGap;
-    int count = 0;
-    int last = -1;
-    for (Page &page : m_result.m_pages) {
-        for (int i = 0; i < page.lines.size(); ++i) {
-            const Line line = page.lines.at(i);
-            if (line.kind != Line::Text || line.element == last
-                || m_script.elements.at(line.element).kind != Element::SceneHeading) {
-                continue;
-            }
-            last = line.element;
-            const QString own = m_script.elements.at(last).sceneNumber;
-            const QString number = hasOwn ? own : QString::number(++count);
-            if (number.isEmpty()) {
-                continue;
-            }
-            addMarginLine(&page, Line::SceneNumber, number, SceneNumberLeft,
-                          m_paper.left - SceneNumberLeft - SceneNumberGap, line.top, Qt::AlignLeft,
-                          last);
-            page.lines.move(page.lines.size() - 1, i++);
-            addMarginLine(&page, Line::SceneNumber, number, right,
-                          m_paper.width - right - SceneNumberGap, line.top, Qt::AlignLeft, last);
-            page.lines.move(page.lines.size() - 1, ++i);
-        }
-    }
-}
-
-void MrvScriptPaginator::addMargins()
-{
-    if (m_options.sceneNumbers) {
-        addSceneNumbers();
-    }
-    if (m_options.sceneContinuations) {
-        addSceneContinuations();
-    }
-    for (int i = 1; i < m_result.m_pages.size(); ++i) {
-        Page &page = m_result.m_pages[i];
-        addMarginLine(&page, Line::PageNumber, QString::number(page.number) + u'.', m_paper.left,
-                      ColumnWidth, NumberTop, Qt::AlignRight);
-        page.lines.move(page.lines.size() - 1, 0);
-    }
-}
-
-// Places lines one below the other, and returns where they end.
-qreal MrvScriptPaginator::addTitleLines(const QVector<MrvPrintedParagraph> &paragraphs, qreal top,
-                                        qreal left)
-{
-    for (const MrvPrintedParagraph &paragraph : paragraphs) {
-        for (const MrvPrintedLine &broken : paragraph.lines) {
-            if (top + paragraph.lineHeight > TopMargin + m_height + Tolerance) {
-                m_result.m_titlePages.append(Page());
-                top = TopMargin;
-            }
-            Line line;
-            line.runs = paragraph.runs(broken.start, broken.end);
-            line.style = paragraph.style;
-            line.left = left;
-            line.width = paragraph.width;
-            line.top = top;
-            line.height = paragraph.lineHeight;
-            line.alignment = paragraph.alignment;
-            m_result.m_titlePages.last().lines.append(line);
-            top += paragraph.lineHeight;
-        }
-        top += paragraph.after;
-    }
-    return top;
-}
-
-// The title in the middle, dates at the lower right, contact and all else at the lower left.
-void MrvScriptPaginator::addTitlePages()
-{
-    QVector<MrvPrintedParagraph> middle;
-    QVector<MrvPrintedParagraph> corners[2];
-    for (const MRVFountainTitle &title : m_script.titles) {
-        if (title.text().trimmed().isEmpty()) {
-            continue;
-        }
-        const Qt::AlignmentFlag place = mrvTitleAlignment(title.key);
-        const bool isMiddle = place == Qt::AlignHCenter;
-        MRVFountainRuns runs = title.value;
-        runs.prepend({mrvTitleLabel(title.key), {}, Run::Text});
-        MrvPrintedParagraph paragraph =
-            m_setter.titleParagraph(runs, isMiddle ? Qt::AlignHCenter : Qt::AlignLeft,
-                                    isMiddle ? ColumnWidth : ColumnWidth / 2);
-        const bool isTitle = title.key.compare(QLatin1String("Title"), Qt::CaseInsensitive) == 0;
-        paragraph.after = isTitle ? AfterTitleGap : isMiddle ? TitleGap : 0;
-        (isMiddle ? middle : corners[place == Qt::AlignRight ? 1 : 0]).append(paragraph);
-    }
-    if (middle.isEmpty() && corners[0].isEmpty() && corners[1].isEmpty()) {
-        return;
-    }
-    m_result.m_titlePages.append(Page());
-    const qreal end = addTitleLines(middle, TitleTop, m_paper.left);
-    const int page = m_result.m_titlePages.size();
-    for (int side = 0; side < 2; ++side) {
-        qreal height = 0;
-        for (const MrvPrintedParagraph &paragraph : qAsConst(corners[side])) {
-            height += paragraph.height() + paragraph.after;
-        }
-        const qreal top = TopMargin + m_height - height;
-        // Where the corners do not fit below the middle, they follow one after the other.
-        const bool fits = top >= end && m_result.m_titlePages.size() == page;
-        const qreal left = m_paper.left + (side == 1 ? ColumnWidth / 2 : 0);
-        addTitleLines(corners[side], fits ? top : TopMargin + m_height, left);
-    }
-}
-
 void MrvScriptPaginator::run()
 {
     m_result.m_paperSize = QSizeF(m_paper.width, m_paper.height);
     m_result.m_textHeight = m_height;
     m_result.m_extents.resize(m_script.elements.size());
-    m_more = m_setter.lineLike(Element::Character, m_options.more);
-    addTitlePages();
-    collect();
-    measure();
-    for (int i = 0; i < m_units.size(); ++i) {
+    m_result.m_titlePages = mrvScriptTitlePages(m_script, m_paper, &m_setter);
+    m_collected.collect();
+    m_needed = m_breaks.neededHeights(m_collected.units());
+    for (int i = 0; i < m_collected.units().size(); ++i) {
         place(i);
     }
     m_result.m_lastHeight = m_y;
@@ -935,7 +348,7 @@ void MrvScriptPaginator::run()
         page = extent.lines > 0 ? extent.page : page;
         extent.page = page;
     }
-    addMargins();
+    MrvScriptMargins(m_script, m_options, m_paper, &m_setter, &m_result.m_pages).add();
     m_result.m_styles = m_setter.styles();
 }
 
@@ -950,7 +363,7 @@ QString MRVScriptLine::text() const
 
 MRVScriptPagination::Paper MRVScriptPagination::paperNamed(const QString &name)
 {
-    for (const PaperSize &paper : papers) {
+    for (const MrvScriptPaper &paper : papers) {
         if (name.compare(QLatin1String(paper.name), Qt::CaseInsensitive) == 0) {
             return paper.paper;
         }

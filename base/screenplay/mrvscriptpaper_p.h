@@ -1,0 +1,21 @@
+#pragma once
+
+#include "screenplay/mrvscriptpagination.h"
+
+/** Lengths of a script's page, in points. */
+struct MrvScriptPaper
+{
+    static constexpr qreal Inch = 72;
+    static constexpr qreal ColumnWidth = 6 * Inch; ///< on all paper, so that lines break alike
+    static constexpr qreal TopMargin = Inch;
+    static constexpr qreal BottomMargin = Inch;
+    static constexpr qreal Tolerance = 0.1; ///< lengths of modes are rounded to 20ths of points
+
+    MRVScriptPagination::Paper paper;
+    const char *name;
+    qreal width;
+    qreal height;
+    qreal left; ///< margin
+
+    qreal textHeight() const { return height - TopMargin - BottomMargin; }
+};
