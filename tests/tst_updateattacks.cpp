@@ -342,12 +342,12 @@ private:
         connect(check, &MRVUpdateDownloader::finished, [&] { isOver = true; });
         connect(check, QOverload<QString>::of(&MRVUpdateDownloader::installRequested),
                 [&](const QString &path) {
+                    isOver = true;
                     QCOMPARE(bytesOf(path), installer);
                     const bool isSigned = !cell("key").startsWith("no");
                     QCOMPARE(QFileInfo(path).isExecutable(), isSigned);
                     check->keepInstaller();
                     heard = "installed";
-                    isOver = true;
                 });
         QTimer user;
         user.callOnTimeout([&] {
