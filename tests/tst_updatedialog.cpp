@@ -8,7 +8,6 @@
 #include "update/mrvcheckforupdatesdialog.h"
 #include "update/mrvdownloadpace_p.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -131,8 +130,10 @@ private Q_SLOTS:
     void triesAgain()
     {
         MRVCheckForUpdatesDialog dialog{QString()};
+        dialog.statusMsg("ready");
         dialog.show();
         QSignalSpy wanted(&dialog, &MRVCheckForUpdatesDialog::downloadRequested);
+        auto *status = dialog.findChild<QLabel *>("statusLabel");
         auto *download = dialog.findChild<QPushButton *>("downloadButton");
         auto *label = dialog.findChild<QLabel *>("progressLabel");
         for (int i = 1; i < 3; ++i) {
@@ -141,6 +142,7 @@ private Q_SLOTS:
             QCOMPARE(shownParts(dialog),
                      QString("statusLabel webView progressBar progressLabel "
                              "downloadButton cancelButton"));
+            QCOMPARE(status->text(), QString("ready"));
             QVERIFY(!download->isEnabled());
             dialog.updateDownloadProgress(3000000000, 6000000000);
             QCOMPARE(label->text(), QString("3.0 GB of 6.0 GB"));

@@ -5,6 +5,12 @@
 
 #include <QLayout>
 
+namespace {
+
+constexpr int CharactersWide = 70;
+
+} // namespace
+
 MRVDownloadAuthorize::MRVDownloadAuthorize(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui_MRVDownloadAuthorize>())
@@ -18,7 +24,9 @@ void MRVDownloadAuthorize::setSite(const QString &site)
 {
     m_ui->siteDescription->setText(MRVServerText::breakable(site));
     // A dialog does not grow by itself when an address, or a translated text, takes more lines.
-    resize(width(), layout()->totalHeightForWidth(width()));
+    const int wide = qMax(layout()->totalMinimumSize().width(),
+                          fontMetrics().averageCharWidth() * CharactersWide);
+    resize(wide, layout()->totalHeightForWidth(wide));
 }
 
 void MRVDownloadAuthorize::setCredentials(const QString &user, const QString &password)

@@ -38,7 +38,9 @@ MRVCheckForUpdatesDialog::MRVCheckForUpdatesDialog(const QString &releaseNotesUr
     , m_pace(std::make_unique<MRVDownloadPace>())
 {
     m_ui->setupUi(this);
-    m_ui->appLogo->setPixmap(QPixmap::fromImage(logoImage()));
+    const QImage logo = logoImage();
+    m_ui->appLogo->setPixmap(QPixmap::fromImage(logo));
+    m_ui->appLogo->setVisible(!logo.isNull());
     m_ui->installButton->hide();
     connect(m_ui->downloadButton, &QPushButton::clicked, this,
             &MRVCheckForUpdatesDialog::downloadUpdate);
@@ -125,7 +127,7 @@ void MRVCheckForUpdatesDialog::versions(const QString &current, const QString &a
            "close %1 and launch the update installer.\n\nChoose Cancel if you do not wish to "
            "update at this time.")
             .arg(QCoreApplication::applicationName(), current,
-                 MRVServerText::shortened(available)));
+                 MRVServerText::breakable(MRVServerText::shortened(available))));
 }
 
 void MRVCheckForUpdatesDialog::statusMsg(const QString &text)
@@ -136,12 +138,14 @@ void MRVCheckForUpdatesDialog::statusMsg(const QString &text)
 
 void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
 {
+    const QString before = m_ui->statusLabel->text();
     statusMsg(MRVServerText::shortened(text));
     if (m_step != Step::Downloading) {
         m_ui->progressBar->hide();
         return;
     }
     setStep(Step::Failed);
+    m_beforeError = before;
     m_ui->downloadButton->setText(tr("Try Again"));
     if (!focusWidget()) {
         m_ui->downloadButton->setFocus();
@@ -192,6 +196,9 @@ void MRVCheckForUpdatesDialog::downloadUpdate()
     // The focus would move on to the Cancel button, where a key that is pressed twice would end the
     // download.
     m_ui->downloadButton->clearFocus();
+    if (m_step == Step::Failed) {
+        m_ui->statusLabel->setText(m_beforeError);
+    }
     setStep(Step::Downloading);
     m_ui->downloadButton->setText(tr("Downloading Update"));
     m_ui->progressBar->setValue(0);

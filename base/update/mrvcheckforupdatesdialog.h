@@ -68,7 +68,7 @@ public Q_SLOTS:
     /**
      * Shows an error in the words of a server, of which MRVServerText::Longest QChars are shown,
      * and hides the progress bar. Where a download was running, the download button then offers to
-     * try again, which emits downloadRequested() and shows the bar once more.
+     * try again, which emits downloadRequested() and shows the bar and the former text once more.
      */
     void errorMsg(const QString &text);
     /**
@@ -114,6 +114,7 @@ private:
     std::unique_ptr<Ui::MRVCheckForUpdatesDialog> m_ui;
     QString m_releaseNotesUrl; // empty once the page is being shown
     Step m_step = Step::Available;
+    QString m_beforeError; // what the status was when a download failed
     std::unique_ptr<MRVDownloadPace> m_pace;
     QElapsedTimer m_clock;
     QTimer m_ticker; // once a second while a download runs

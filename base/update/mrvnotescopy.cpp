@@ -2,8 +2,6 @@
 
 #include "textformat/mrvformatspread.h"
 
-#include <QFontDatabase>
-
 namespace {
 
 // Paragraphs are split at the first blank after so many characters ...
@@ -46,6 +44,12 @@ bool isMark(uint c)
 int headingLevelOf(const QTextBlock &block)
 {
     return qBound(0, block.blockFormat().headingLevel(), int(std::size(headingSizes)));
+}
+
+// Each line of such a text is a paragraph.
+bool isPreformatted(const QTextBlock &block)
+{
+    return block.isValid() && block.blockFormat().nonBreakableLines();
 }
 
 QTextBlockFormat blockFormat(const QTextBlockFormat &from)
@@ -93,7 +97,6 @@ qint64 lengthOf(const QTextFrame *frame)
 
 MRVNotesCopy::MRVNotesCopy(const MRVNotesLook &look, QTextDocument *to)
     : m_look(look)
-    , m_fixedFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family())
     , m_cursor(to)
 {
 }
@@ -161,7 +164,10 @@ bool MRVNotesCopy::copyTable(const QTextTable *table)
 // Whatever follows a table, or begins a cell, already has its paragraph.
 void MRVNotesCopy::startBlock(const QTextBlock &block)
 {
-    const QTextBlockFormat format = blockFormat(block.blockFormat());
+    QTextBlockFormat format = blockFormat(block.blockFormat());
+    if (isPreformatted(block) && isPreformatted(block.next())) {
+        format.setBottomMargin(0);
+    }
     if (m_isBlockFree) {
         m_cursor.setBlockFormat(format);
     } else {
@@ -297,7 +303,7 @@ QTextCharFormat MRVNotesCopy::charFormat(const QTextCharFormat &from, int headin
     format.setFontUnderline(from.fontUnderline());
     format.setFontStrikeOut(from.fontStrikeOut());
     if (from.fontFixedPitch()) {
-        format.setFontFamily(m_fixedFamily);
+        format.setFontFamily(QStringLiteral("monospace"));
         format.setFontFixedPitch(true);
     }
     const QTextCharFormat::VerticalAlignment place = from.verticalAlignment();
