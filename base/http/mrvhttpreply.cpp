@@ -467,12 +467,15 @@ void MrvHttpReply::askForLogin()
 {
     const QPointer<MrvHttpReply> self(this);
     const QString realm = realmOf(m_transfer->header("WWW-Authenticate"));
-    const QString place = url().authority(QUrl::FullyDecoded).section(u'@', -1) + u'\n' + realm;
-    const MrvHttpContext::Login known = m_context->logins.value(place);
+    const QUrl server = url().adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery
+                                       | QUrl::RemoveFragment);
+    m_place = server.toString() + u'\n' + realm;
+    const MrvHttpContext::Login known = m_context->logins.value(m_place);
     if (m_logins == 0 && isAnotherLogin(known.first, known.second, &m_user, &m_password)) {
         transfer();
         return;
     }
+    m_context->logins.remove(m_place);
     QAuthenticator login;
     login.setRealm(realm);
     if (m_manager) {
@@ -482,7 +485,6 @@ void MrvHttpReply::askForLogin()
         return;
     }
     if (isAnotherLogin(login.user(), login.password(), &m_user, &m_password)) {
-        m_context->logins.insert(place, {m_user, m_password});
         transfer();
     } else {
         finish(AuthenticationRequiredError, tr("Host requires authentication"));
@@ -522,6 +524,9 @@ void MrvHttpReply::finishTransfer()
     Q_EMIT downloadProgress(m_received, m_received);
     if (!self || isFinished()) {
         return;
+    }
+    if (!m_place.isEmpty()) {
+        m_context->logins.insert(m_place, {m_user, m_password}); // which has been accepted
     }
     const int status = m_transfer->status();
     if (status < 400) {

@@ -80,6 +80,7 @@ private:
     QElapsedTimer m_sinceProgress;
 
     int m_logins = 0;
+    QString m_place; // what a login was asked for: the server and the realm
     QString m_user;
     QString m_password;
     QNetworkProxy m_proxy;
