@@ -22,12 +22,9 @@ constexpr qreal SceneNumberGap = 10;
 
 } // namespace
 
-MrvScriptMargins::MrvScriptMargins(const MRVFountainScript &script,
-                                   const MRVScriptPagination::Options &options,
-                                   const MrvScriptPaper &paper, MrvScriptTypesetter *setter,
-                                   QVector<MRVScriptPage> *pages)
+MrvScriptMargins::MrvScriptMargins(const MRVFountainScript &script, const MrvScriptPaper &paper,
+                                   MrvScriptTypesetter *setter, QVector<MRVScriptPage> *pages)
     : m_script(script)
-    , m_options(options)
     , m_paper(paper)
     , m_setter(*setter)
     , m_pages(*pages)
@@ -51,7 +48,7 @@ void MrvScriptMargins::addLine(Page *page, Line::Kind kind, const QString &text,
     page->lines.append(line);
 }
 
-void MrvScriptMargins::addSceneContinuations()
+void MrvScriptMargins::addSceneContinuations(const QString &continues, const QString &continued)
 {
     int scene = -1; // the last heading before the page
     for (int i = 0; i < m_pages.size(); ++i) {
@@ -60,13 +57,12 @@ void MrvScriptMargins::addSceneContinuations()
         const bool goesOn = scene >= 0
             && (m_script.elements.at(first).kind != Element::SceneHeading || first == scene);
         if (goesOn) {
-            addLine(&page, Line::SceneContinued, m_options.sceneContinued, m_paper.left,
-                    ColumnWidth, TopMargin - ContinuedDistance, Qt::AlignLeft, scene);
+            addLine(&page, Line::SceneContinued, continued, m_paper.left, ColumnWidth,
+                    TopMargin - ContinuedDistance, Qt::AlignLeft, scene);
             page.lines.move(page.lines.size() - 1, 0);
             Page &before = m_pages[i - 1];
-            addLine(&before, Line::SceneContinues, m_options.sceneContinues, m_paper.left,
-                    ColumnWidth, TopMargin + m_paper.textHeight() + ContinuesDistance,
-                    Qt::AlignRight, scene);
+            addLine(&before, Line::SceneContinues, continues, m_paper.left, ColumnWidth,
+                    TopMargin + m_paper.textHeight() + ContinuesDistance, Qt::AlignRight, scene);
         }
         for (const Line &line : qAsConst(page.lines)) {
             if (line.kind == Line::Text
@@ -108,14 +104,8 @@ void MrvScriptMargins::addSceneNumbers()
     }
 }
 
-void MrvScriptMargins::add()
+void MrvScriptMargins::addPageNumbers()
 {
-    if (m_options.sceneNumbers) {
-        addSceneNumbers();
-    }
-    if (m_options.sceneContinuations) {
-        addSceneContinuations();
-    }
     for (int i = 1; i < m_pages.size(); ++i) {
         Page &page = m_pages[i];
         addLine(&page, Line::PageNumber, QString::number(page.number) + u'.', m_paper.left,

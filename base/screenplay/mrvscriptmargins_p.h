@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screenplay/mrvscriptpage.h"
 #include "screenplay/mrvscriptpaper_p.h"
 
 class MrvScriptTypesetter;
@@ -9,20 +10,21 @@ class MrvScriptMargins
 {
 public:
     /** All have to outlive it; @p pages are changed. */
-    MrvScriptMargins(const MRVFountainScript &script, const MRVScriptPagination::Options &options,
-                     const MrvScriptPaper &paper, MrvScriptTypesetter *setter,
-                     QVector<MRVScriptPage> *pages);
+    MrvScriptMargins(const MRVFountainScript &script, const MrvScriptPaper &paper,
+                     MrvScriptTypesetter *setter, QVector<MRVScriptPage> *pages);
 
-    void add();
+    /** Those of the script or, where no heading has one, counted from 1. */
+    void addSceneNumbers();
+    /** At the foot of a page on which a scene does not end, and at the head of the next one. */
+    void addSceneContinuations(const QString &continues, const QString &continued);
+    /** Last, since each is the first line of its page; not on the first page. */
+    void addPageNumbers();
 
 private:
     void addLine(MRVScriptPage *page, MRVScriptLine::Kind kind, const QString &text, qreal left,
                  qreal width, qreal top, Qt::Alignment alignment, int element = -1);
-    void addSceneContinuations();
-    void addSceneNumbers();
 
     const MRVFountainScript &m_script;
-    const MRVScriptPagination::Options &m_options;
     const MrvScriptPaper &m_paper;
     MrvScriptTypesetter &m_setter;
     QVector<MRVScriptPage> &m_pages;

@@ -25,9 +25,16 @@ constexpr int EighthsPerPage = 8;
 
 static_assert(Pagination::TabDistance == MrvPrintedParagraph::TabDistance);
 
-constexpr MrvScriptPaper papers[] = {
-    {Pagination::Letter, "letter", 612, 792, 1.5 * MrvScriptPaper::Inch},
-    {Pagination::A4, "a4", 595.2756, 841.8898, 1.25 * MrvScriptPaper::Inch},
+struct NamedPaper
+{
+    Pagination::Paper kind;
+    const char *name;
+    MrvScriptPaper paper;
+};
+
+constexpr NamedPaper papers[] = {
+    {Pagination::Letter, "letter", {612, 792, 1.5 * MrvScriptPaper::Inch}},
+    {Pagination::A4, "a4", {595.2756, 841.8898, 1.25 * MrvScriptPaper::Inch}},
 };
 
 const MrvScriptPaper &paperOf(Pagination::Paper paper, const MRVScriptMode &mode)
@@ -35,7 +42,7 @@ const MrvScriptPaper &paperOf(Pagination::Paper paper, const MRVScriptMode &mode
     const Pagination::Paper wanted = paper != Pagination::PaperOfMode ? paper
         : mode.units() == MRVUnit::Centimeter                         ? Pagination::A4
                                                                       : Pagination::Letter;
-    return papers[wanted == Pagination::A4 ? 1 : 0];
+    return papers[wanted == Pagination::A4 ? 1 : 0].paper;
 }
 
 } // namespace
@@ -348,24 +355,22 @@ void MrvScriptPaginator::run()
         page = extent.lines > 0 ? extent.page : page;
         extent.page = page;
     }
-    MrvScriptMargins(m_script, m_options, m_paper, &m_setter, &m_result.m_pages).add();
-    m_result.m_styles = m_setter.styles();
-}
-
-QString MRVScriptLine::text() const
-{
-    QString result;
-    for (const MRVFountainRun &run : runs) {
-        result += run.text;
+    MrvScriptMargins margins(m_script, m_paper, &m_setter, &m_result.m_pages);
+    if (m_options.sceneNumbers) {
+        margins.addSceneNumbers();
     }
-    return result;
+    if (m_options.sceneContinuations) {
+        margins.addSceneContinuations(m_options.sceneContinues, m_options.sceneContinued);
+    }
+    margins.addPageNumbers();
+    m_result.m_styles = m_setter.styles();
 }
 
 MRVScriptPagination::Paper MRVScriptPagination::paperNamed(const QString &name)
 {
-    for (const MrvScriptPaper &paper : papers) {
+    for (const NamedPaper &paper : papers) {
         if (name.compare(QLatin1String(paper.name), Qt::CaseInsensitive) == 0) {
-            return paper.paper;
+            return paper.kind;
         }
     }
     return PaperOfMode;

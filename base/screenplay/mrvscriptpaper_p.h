@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screenplay/mrvscriptpagination.h"
+#include <QtGlobal>
 
 /** Lengths of a script's page, in points. */
 struct MrvScriptPaper
@@ -11,8 +11,6 @@ struct MrvScriptPaper
     static constexpr qreal BottomMargin = Inch;
     static constexpr qreal Tolerance = 0.1; ///< lengths of modes are rounded to 20ths of points
 
-    MRVScriptPagination::Paper paper;
-    const char *name;
     qreal width;
     qreal height;
     qreal left; ///< margin

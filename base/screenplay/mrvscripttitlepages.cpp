@@ -1,5 +1,6 @@
 #include "screenplay/mrvscripttitlepages_p.h"
 
+#include "screenplay/mrvscriptpaper_p.h"
 #include "screenplay/mrvscripttypesetter_p.h"
 #include "screenplay/mrvtitlepage_p.h"
 

@@ -1,8 +1,11 @@
 #pragma once
 
-#include "screenplay/mrvscriptpaper_p.h"
+#include "screenplay/mrvscriptpage.h"
+
+#include <QVector>
 
 class MrvScriptTypesetter;
+struct MrvScriptPaper;
 
 /**
  * The pages of a script's title page: the title in the middle, dates at the lower right, contact
