@@ -108,6 +108,8 @@ void MRVCheckForUpdatesDialog::endChecking()
     setStep(Step::Available);
     m_ui->progressBar->setRange(0, 100);
     m_ui->progressBar->setValue(0);
+    // While it was hidden, the Cancel button took its place.
+    m_ui->downloadButton->setDefault(true);
     m_ui->downloadButton->setFocus();
     takeFullSize();
     if (isVisible()) {
@@ -147,6 +149,7 @@ void MRVCheckForUpdatesDialog::errorMsg(const QString &text)
     setStep(Step::Failed);
     m_beforeError = before;
     m_ui->downloadButton->setText(tr("Try Again"));
+    m_ui->downloadButton->setDefault(true);
     if (!focusWidget()) {
         m_ui->downloadButton->setFocus();
     }

@@ -2,6 +2,8 @@
 
 #include "textformat/mrvformatspread.h"
 
+#include <QFontInfo>
+
 namespace {
 
 // Paragraphs are split at the first blank after so many characters ...
@@ -97,6 +99,7 @@ qint64 lengthOf(const QTextFrame *frame)
 
 MRVNotesCopy::MRVNotesCopy(const MRVNotesLook &look, QTextDocument *to)
     : m_look(look)
+    , m_fixedFamily(QFontInfo(QFont(QStringLiteral("monospace"))).family())
     , m_cursor(to)
 {
 }
@@ -303,7 +306,7 @@ QTextCharFormat MRVNotesCopy::charFormat(const QTextCharFormat &from, int headin
     format.setFontUnderline(from.fontUnderline());
     format.setFontStrikeOut(from.fontStrikeOut());
     if (from.fontFixedPitch()) {
-        format.setFontFamily(QStringLiteral("monospace"));
+        format.setFontFamily(m_fixedFamily);
         format.setFontFixedPitch(true);
     }
     const QTextCharFormat::VerticalAlignment place = from.verticalAlignment();

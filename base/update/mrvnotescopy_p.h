@@ -61,6 +61,7 @@ private:
     QString linkTo(const QString &address) const;
 
     const MRVNotesLook m_look;
+    const QString m_fixedFamily;
     QTextCursor m_cursor;
     QHash<const QTextList *, QTextList *> m_lists;
     bool m_isBlockFree = true; // the present paragraph is still to be filled

@@ -72,11 +72,14 @@ QColor linkColor(const QPalette &palette)
     return QColor::fromHslF(qMax(0.0, link.hslHueF()), link.hslSaturationF(), isDark ? 0.8 : 0.3);
 }
 
-// The application's font, in the pixels that both kinds of views count in.
+// The view's font in the pixels that both kinds of views count in, and without aliases such as
+// "Sans Serif", which web engines do not know.
 QFont pixelFont(const QWidget *view)
 {
     QFont font = view->font();
-    font.setPixelSize(QFontInfo(font).pixelSize());
+    const QFontInfo info(font);
+    font.setFamily(info.family());
+    font.setPixelSize(info.pixelSize());
     return font;
 }
 
