@@ -310,7 +310,7 @@ private:
                                                       : m_folder->filePath(words[i + 1]);
             const QByteArray name = QFile::encodeName(path);
             const bool isMade = words[i] == "file" ? writeBytes(path, "planted")
-                : words[i] == "link"               ? QFile::link("victim", path)
+                : words[i] == "link"               ? QFile::link(m_folder->filePath("victim"), path)
                 : words[i] == "folder"             ? QDir().mkdir(path)
                 : words[i] == "pipe"               ? mkfifo(name, 0666) == 0
                                                    : false;
