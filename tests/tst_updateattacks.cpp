@@ -150,6 +150,11 @@ private Q_SLOTS:
         QCOMPARE(heard.replace(m_folder->path(), "@tmp").left(said.size()), said);
         QCOMPARE(bytesOf(m_folder->filePath("victim")), QByteArray("precious"));
         compareRest(said);
+        if (said == "installed" && geteuid() == getuid()) {
+            const bool isSigned = cell("key").isEmpty();
+            QCOMPARE(MRVUpdateState::load().feedTime, isSigned ? 1795270412 : 0);
+            QCOMPARE(MRVUpdateState::load().feedVersion, QString(isSigned ? "3.0.0.0" : ""));
+        }
     }
 
     // A feed whose address names no file is signed under the name that it is saved under.
@@ -187,9 +192,16 @@ private Q_SLOTS:
         QCOMPARE(second.xmlFilePath(), m_folder->filePath("update.xml"));
     }
 
-    // A broken download goes on where it ended when the user tries again.
+    void resumes_data()
+    {
+        QTest::addColumn<bool>("again");
+        QTest::newRow("again") << true;
+        QTest::newRow("cancelled") << false;
+    }
+    // A broken download goes on where it ended when the user tries again. Else nothing is left.
     void resumes()
     {
+        QFETCH(bool, again);
         RawServer server;
         QNetworkProxy::setApplicationProxy(
             {QNetworkProxy::HttpProxy, server.serverAddress().toString(), server.serverPort()});
@@ -205,6 +217,12 @@ private Q_SLOTS:
         QTRY_VERIFY(download = shownButton("downloadButton"));
         download->click();
         QTRY_COMPARE(download->text(), QString("Try Again"));
+        QVERIFY(bytesOf(m_folder->filePath("morvane.run.part.origin")).contains("\"a\""));
+        if (!again) {
+            check.cancelUpdate();
+            compareRest(QString());
+            return;
+        }
         server.answer(url,
                       "HTTP/1.1 206 Partial Content\r\nContent-Range: bytes 9-"
                           + QByteArray::number(installer.size() - 1) + '/' + size + head
