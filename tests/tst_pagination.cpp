@@ -215,6 +215,26 @@ private Q_SLOTS:
         QCOMPARE(pagination.eighths(2, 4), 1);
     }
 
+    /// Each column says that its speech goes on, and who speaks.
+    void longBeside()
+    {
+        const auto script = MRVFountainScript::fromText(
+            withRepeats("INT. A\n\nANN\n⟨70×a№\n⟩\nBOB ^\n⟨130×b№\n⟩\nEXT. B"));
+        const MRVScriptPagination pagination(script, builtIn());
+        const QVector<Page> pages = pagination.pages();
+        QCOMPARE(pages.size(), 3);
+        QStringList rows = rowsOf(pages.at(0));
+        QCOMPARE(rows.mid(0, 3), (QStringList{"INT. A", "ANN BOB", "a0 b0"}));
+        QCOMPARE(rows.constLast(), QString("(MORE) (MORE)"));
+        rows = rowsOf(pages.at(1));
+        QCOMPARE(rows.mid(0, 3), (QStringList{"2.", "ANN (CONT'D) BOB (CONT'D)", "a50 b50"}));
+        QCOMPARE(rows.constLast(), QString("(MORE)"));
+        rows = rowsOf(pages.at(2));
+        QCOMPARE(rows.mid(0, 3), (QStringList{"3.", "BOB (CONT'D)", "b102"}));
+        QCOMPARE(rows.constLast(), QString("EXT. B"));
+        QCOMPARE(pagination.eighths(0, 5), 20); // 1 + 1 + 1 + 130 lines of 54
+    }
+
     void titlePage()
     {
         const auto script =

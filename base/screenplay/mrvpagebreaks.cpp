@@ -224,7 +224,10 @@ bool MrvPageBreaks::isLonger(const Unit &unit) const
 qreal MrvPageBreaks::forcedHeight(const Unit &unit) const
 {
     const MrvPrintedParagraph &first = m_paragraphs.at(unit.first);
-    const qreal cue = hasCue(unit) ? first.height() : 0;
+    qreal cue = hasCue(unit) ? first.height() : 0;
+    if (unit.kind == Unit::Beside) {
+        cue = qMax(cue, m_paragraphs.at(unit.second).height());
+    }
     return qMin(m_height, cue + LeastLines * first.lineHeight + m_moreHeight);
 }
 

@@ -8,6 +8,7 @@
 #include "screenplay/mrvscripttypesetter_p.h"
 #include "scriptmode/mrvscriptmode.h"
 
+#include <array>
 #include <cmath>
 
 namespace {
@@ -69,15 +70,31 @@ public:
     void run();
 
 private:
+    // One of two speeches side by side that are longer than a page.
+    struct Side
+    {
+        int next; // the paragraph of which line is the first that is not on a page yet
+        int line;
+        int end;
+        MrvPrintedParagraph cue; // without lines where the speech has none, and "(MORE)", too
+        MrvPrintedParagraph more;
+        qreal height; // so far
+    };
+
     qreal spaceBefore(const Unit &unit) const;
     void place(int index);
     void placePart(Unit unit);
     void emitUntil(Unit *unit, const Cut &cut);
-    void cutBeside(Unit *unit, qreal height);
+    bool fits(const Side &side) const;
+    void emitSide(Side *side);
+    void repeatCues(const std::array<Side, 2> &sides);
+    void placeBeside(const Unit &unit);
+    void countLonger(const Unit &unit, bool isFirst);
 
     void newPage();
     void emitUnit(const Unit &unit);
-    qreal emitLines(const MrvPrintedParagraph &paragraph, int count, qreal top);
+    qreal emitLines(const MrvPrintedParagraph &paragraph, int first, int count, qreal top);
+    void emitRepeatedCue(const MrvPrintedParagraph &cue);
     void addLine(Line::Kind kind, const MrvPrintedParagraph &paragraph, int line, qreal top);
     MrvPrintedParagraph repeatedCue(const MrvPrintedParagraph &cue);
 
@@ -137,12 +154,13 @@ void MrvScriptPaginator::addLine(Line::Kind kind, const MrvPrintedParagraph &par
     m_result.m_pages.last().lines.append(line);
 }
 
-// Places lines from the first on, and returns where they end, from the text's top.
-qreal MrvScriptPaginator::emitLines(const MrvPrintedParagraph &paragraph, int count, qreal top)
+// Places some lines, and returns where they end, from the text's top.
+qreal MrvScriptPaginator::emitLines(const MrvPrintedParagraph &paragraph, int first, int count,
+                                    qreal top)
 {
     const int page = m_result.m_pages.size() - 1;
     for (int i = 0; i < count; ++i) {
-        addLine(Line::Text, paragraph, i, TopMargin + top + i * paragraph.lineHeight);
+        addLine(Line::Text, paragraph, first + i, TopMargin + top + i * paragraph.lineHeight);
     }
     Pagination::Extent &extent = m_result.m_extents[paragraph.element];
     if (extent.lines == 0) {
@@ -166,14 +184,10 @@ void MrvScriptPaginator::emitUnit(const Unit &unit)
         } else if (i > unit.first) {
             m_y += qMax(m_paragraphs.at(i - 1).after, paragraph.before);
         }
-        m_y = emitLines(paragraph, paragraph.lines.size(), m_y);
+        m_y = emitLines(paragraph, 0, paragraph.lines.size(), m_y);
     }
-    // Of speeches side by side, the longer one counts.
-    const bool firstIsLonger = bottom > m_y;
-    const int shorter = firstIsLonger ? unit.second : unit.first;
-    const int shorterEnd = firstIsLonger ? unit.end : unit.second;
-    for (int i = shorter; unit.kind == Unit::Beside && i < shorterEnd; ++i) {
-        m_result.m_extents[m_paragraphs.at(i).element].height = 0;
+    if (unit.kind == Unit::Beside) {
+        countLonger(unit, bottom > m_y);
     }
     m_y = qMax(bottom, m_y);
     m_lastAfter = m_paragraphs.at(unit.end - 1).after;
@@ -189,6 +203,15 @@ MrvPrintedParagraph MrvScriptPaginator::repeatedCue(const MrvPrintedParagraph &c
     }
     result.lines = m_setter.linesFrom(result, 0);
     return result;
+}
+
+void MrvScriptPaginator::emitRepeatedCue(const MrvPrintedParagraph &cue)
+{
+    const MrvPrintedParagraph shown = repeatedCue(cue);
+    for (int i = 0; i < shown.lines.size(); ++i) {
+        addLine(Line::RepeatedCue, shown, i, TopMargin + m_y);
+        m_y += shown.lineHeight;
+    }
 }
 
 // Places the part before a cut, begins a page, and leaves the rest in the unit.
@@ -214,7 +237,7 @@ void MrvScriptPaginator::emitUntil(Unit *unit, const Cut &cut)
             }
             last.isLast = true;
         }
-        m_y = emitLines(part, count, m_y);
+        m_y = emitLines(part, 0, count, m_y);
     }
     const bool isSpeech = m_breaks.hasCue(*unit);
     const MrvPrintedParagraph cue = m_paragraphs.at(unit->first);
@@ -238,45 +261,106 @@ void MrvScriptPaginator::emitUntil(Unit *unit, const Cut &cut)
     // The cue takes the place of the paragraph before, of which nothing is left.
     unit->first = cut.paragraph - 1;
     m_paragraphs[unit->first] = cue;
-    const MrvPrintedParagraph shown = repeatedCue(cue);
-    for (int i = 0; i < shown.lines.size(); ++i) {
-        addLine(Line::RepeatedCue, shown, i, TopMargin + m_y);
-        m_y += shown.lineHeight;
-    }
+    emitRepeatedCue(cue);
     m_paragraphs[unit->first].lines.clear();
 }
 
-// Two speeches side by side that are longer than a page: each goes on on the next one.
-void MrvScriptPaginator::cutBeside(Unit *unit, qreal height)
+// Whether what is left of one of two speeches fits on the page.
+bool MrvScriptPaginator::fits(const Side &side) const
 {
-    const qreal start = m_y;
-    const int ends[] = {unit->second, unit->end};
-    for (int side = 0; side < 2; ++side) {
-        m_y = start;
-        for (int i = side == 0 ? unit->first : unit->second; i < ends[side]; ++i) {
-            MrvPrintedParagraph &paragraph = m_paragraphs[i];
-            const qreal left = height - (m_y - start) + Tolerance;
-            const int least = m_y == start ? 1 : 0;
-            const int count =
-                qMin(paragraph.lines.size(), qMax(least, int(left / paragraph.lineHeight)));
-            if (count > 0) {
-                m_y = emitLines(paragraph, count, m_y);
-                paragraph.lines.remove(0, count);
+    qreal y = m_y;
+    for (int i = side.next; i < side.end && y <= m_height + Tolerance; ++i) {
+        const MrvPrintedParagraph &paragraph = m_paragraphs.at(i);
+        y += i > side.next ? qMax(m_paragraphs.at(i - 1).after, paragraph.before) : 0;
+        const int done = i == side.next ? side.line : 0;
+        y += (paragraph.lines.size() - done) * paragraph.lineHeight;
+    }
+    return y <= m_height + Tolerance;
+}
+
+// Places what fits of one of two speeches, and "(MORE)" where something is left.
+void MrvScriptPaginator::emitSide(Side *side)
+{
+    const qreal bottom = m_height + Tolerance - (fits(*side) ? 0 : side->more.lineHeight);
+    bool hasSpeech = false; // on this page, on which there has to be some
+    for (bool isFirst = true; side->next < side->end; isFirst = false) {
+        const MrvPrintedParagraph &paragraph = m_paragraphs.at(side->next);
+        m_y += isFirst ? 0 : qMax(m_paragraphs.at(side->next - 1).after, paragraph.before);
+        const bool isCue = paragraph.kind == MRVFountainElement::Character;
+        const int rest = paragraph.lines.size() - side->line;
+        const int count = isCue
+            ? rest
+            : qMin(rest, qMax(hasSpeech ? 0 : 1, int((bottom - m_y) / paragraph.lineHeight)));
+        m_y = emitLines(paragraph, side->line, count, m_y);
+        hasSpeech = hasSpeech || !isCue;
+        side->line += count;
+        if (count < rest) {
+            if (!side->more.lines.isEmpty()) {
+                addLine(Line::More, side->more, 0, TopMargin + m_y);
             }
-            if (!paragraph.lines.isEmpty()) {
-                break;
-            }
+            return;
+        }
+        side->line = 0;
+        ++side->next;
+    }
+}
+
+// Begins a page with the cues of those speeches of which something is left.
+void MrvScriptPaginator::repeatCues(const std::array<Side, 2> &sides)
+{
+    newPage();
+    qreal bottom = 0;
+    for (const Side &side : sides) {
+        if (side.next < side.end && !side.cue.lines.isEmpty()) {
+            m_y = 0;
+            emitRepeatedCue(side.cue);
+            bottom = qMax(bottom, m_y);
         }
     }
-    while (unit->first < unit->second && m_paragraphs.at(unit->first).lines.isEmpty()) {
-        ++unit->first;
+    m_y = bottom;
+}
+
+// Two speeches side by side that are longer than a page: each goes on on the next one.
+void MrvScriptPaginator::placeBeside(const Unit &unit)
+{
+    MRVFountainElement more;
+    more.kind = MRVFountainElement::Character;
+    more.runs = {{m_options.more, {}, MRVFountainRun::Text}};
+    std::array<Side, 2> sides;
+    sides[0] = {unit.first, 0, unit.second, {}, {}, 0};
+    sides[1] = {unit.second, 0, unit.end, {}, {}, 0};
+    for (int i = 0; i < 2; ++i) {
+        const MrvPrintedParagraph &first = m_paragraphs.at(sides[i].next);
+        if (first.kind == MRVFountainElement::Character) {
+            sides[i].cue = first;
+            sides[i].more = m_setter.besideParagraph(more, first.element, i);
+        }
     }
-    while (unit->second < unit->end && m_paragraphs.at(unit->second).lines.isEmpty()
-           && unit->first == unit->second) {
-        unit->first = ++unit->second;
+    while (true) {
+        const qreal start = m_y;
+        qreal bottom = start;
+        for (Side &side : sides) {
+            m_y = start;
+            emitSide(&side);
+            side.height += m_y - start;
+            bottom = qMax(bottom, m_y);
+        }
+        m_y = bottom;
+        if (sides[0].next == sides[0].end && sides[1].next == sides[1].end) {
+            break;
+        }
+        repeatCues(sides);
     }
-    if (unit->first < unit->end && m_breaks.unitHeight(*unit) > 0) {
-        newPage();
+    countLonger(unit, sides[0].height > sides[1].height);
+    m_lastAfter = m_paragraphs.at(unit.end - 1).after;
+}
+
+// Of speeches side by side, the longer one counts.
+void MrvScriptPaginator::countLonger(const Unit &unit, bool isFirst)
+{
+    const int end = isFirst ? unit.end : unit.second;
+    for (int i = isFirst ? unit.second : unit.first; i < end; ++i) {
+        m_result.m_extents[m_paragraphs.at(i).element].height = 0;
     }
 }
 
@@ -304,8 +388,8 @@ void MrvScriptPaginator::placePart(Unit unit)
             continue;
         }
         if (unit.kind == Unit::Beside) {
-            cutBeside(&unit, m_height - m_y);
-            continue;
+            placeBeside(unit);
+            return;
         }
         cut = cut.isValid() ? cut : m_breaks.forcedCut(unit, m_height - m_y);
         if (!cut.isValid()) {

@@ -25,8 +25,9 @@ struct MrvScriptStyle;
  * The trade's rules hold: no heading or cue stands alone at the foot of a page; a speech that does
  * not fit is divided between sentences, with "(MORE)" and the repeated cue, and so is action; at
  * least two lines are left on either side; speeches side by side stay together. What is longer than
- * a page is divided where it must be. Notes, sections, synopses and what was cut out are not
- * printed. Space before a paragraph is left out at the head of a page.
+ * a page is divided where it must be; of speeches side by side, each repeats its cue then. Notes,
+ * sections, synopses and what was cut out are not printed. Space before a paragraph is left out at
+ * the head of a page.
  *
  * Takes time linear in the script. Modes with other fonts need a QGuiApplication.
  *
