@@ -1,4 +1,4 @@
-#include "../tests/hostileserver.h"
+#include "hostileserver.h"
 #include "novel.h"
 
 #include "download/mrvdownloadurl.h"

@@ -491,6 +491,16 @@ private Q_SLOTS:
         QCOMPARE(reply->readAll(), isSecure ? QByteArray() : QByteArray("hello"));
     }
 
+    void noProxy()
+    {
+        MRVHttpAccess access;
+        access.setProxy({QNetworkProxy::HttpProxy, "127.0.0.1", 1});
+        QNetworkReply *const reply = access.get(QNetworkRequest(QUrl("https://a.example/")));
+        QTRY_VERIFY(reply->isFinished());
+        QVERIFY2(reply->errorString().startsWith("No connection to the proxy 127.0.0.1: "),
+                 qPrintable(reply->errorString()));
+    }
+
     // What a request carries: logins in UTF-8, the jar's cookies, headers without line ends, and a
     // login that is known for the next request.
     void requests()

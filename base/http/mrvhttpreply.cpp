@@ -564,6 +564,10 @@ void MrvHttpReply::finishFailed()
     const QString reason = hasConnected || system == 0 || system == EINPROGRESS
         ? m_transfer->resultText()
         : qt_error_string(system);
+    if (!hasConnected && m_proxy.type() != QNetworkProxy::NoProxy) {
+        return finish(ProxyConnectionRefusedError,
+                      tr("No connection to the proxy %1: %2").arg(m_proxy.hostName(), reason));
+    }
     for (const Failure &failure : failures) {
         if (failure.code == m_transfer->result()) {
             QString text = tr(failure.text);

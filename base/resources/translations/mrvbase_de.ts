@@ -5019,6 +5019,10 @@ Bitte melden Sie dies an %1.</translation>
         <source>The encrypted connection was cut off</source>
         <translation>Die verschlüsselte Verbindung wurde abgeschnitten</translation>
     </message>
+    <message>
+        <source>No connection to the proxy %1: %2</source>
+        <translation>Keine Verbindung zum Proxy %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -5019,6 +5019,10 @@ Comuníquelo a %1.</translation>
         <source>The encrypted connection was cut off</source>
         <translation>La conexión cifrada se cortó</translation>
     </message>
+    <message>
+        <source>No connection to the proxy %1: %2</source>
+        <translation>Sin conexión con el proxy %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -5019,6 +5019,10 @@ Veuillez la signaler à %1.</translation>
         <source>The encrypted connection was cut off</source>
         <translation>La connexion chiffrée a été coupée</translation>
     </message>
+    <message>
+        <source>No connection to the proxy %1: %2</source>
+        <translation>Pas de connexion au proxy %1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
