@@ -1,4 +1,3 @@
-#include "hostileserver.h"
 #include "novel.h"
 
 #include "download/mrvdownloadurl.h"
@@ -6,6 +5,8 @@
 #include <QEventLoop>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include <hostileserver.h> // of the tests
 
 namespace {
 
