@@ -8,8 +8,9 @@ namespace {
 
 // Paragraphs are split at the first blank after so many characters ...
 constexpr int LongBlock = 2000;
-// ... and in a word of so many, since mixed directions take time that grows with the square.
-constexpr int LongestWord = 500;
+// ... and in a word of so many, since scripts without blanks, and mixed directions, take time that
+// grows with its square.
+constexpr int LongestWord = 200;
 constexpr int MostMarks = 16;
 constexpr ushort EmSpace = 0x2003;
 constexpr int MostIndent = 10;

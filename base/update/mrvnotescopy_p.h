@@ -35,7 +35,7 @@ struct MRVNotesLook
  *
  * What makes an engine slow is bounded: tables nest at most five deep, and have 20 columns and, all
  * together, 2,000 cells at most; tables beyond that become the paragraphs of their cells.
- * Paragraphs are split after 2,000 characters, at line ends, and in words of more than 500; a list
+ * Paragraphs are split after 2,000 characters, at line ends, and in words of more than 200; a list
  * has marks for 1,000 items, and a character carries at most 16 marks. No other text is left out.
  */
 class MRVNotesCopy

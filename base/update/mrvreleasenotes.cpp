@@ -7,13 +7,17 @@
 
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace {
 
 // Reading, copying and laying out a page with so many takes half a second.
-constexpr int MostElements = 8000;
+constexpr int MostElements = 6000;
 constexpr int MostLines = 20000;
 // A line of the page's source may be one that it shows.
 constexpr int LinesPerElement = 12;
+// Characters that have to be shaped take a web engine some microseconds each.
+constexpr int MostShaped = 150000;
 // A layout takes words of other directions apart.
 constexpr int MostTurns = 50000;
 // Each makes a table wider by up to a thousand columns.
@@ -78,6 +82,14 @@ int turnsIn(const QString &text)
     return turns;
 }
 
+// Marks, characters of scripts that join or stack them, and those beyond 16 bits, such as emoji.
+bool isShaped(QChar c)
+{
+    const ushort code = c.unicode();
+    return c.isMark() || c.isHighSurrogate() || (code >= 0x590 && code < 0x10a0)
+        || (code >= 0x1700 && code < 0x1e00);
+}
+
 bool isTooMuch(const QString &html)
 {
     int elements = html.count(u'\n') / LinesPerElement;
@@ -85,6 +97,7 @@ bool isTooMuch(const QString &html)
         elements += at + 1 < html.size() && html.at(at + 1) != u'/';
     }
     return elements > MostElements || turnsIn(html) > MostTurns
+        || std::count_if(html.cbegin(), html.cend(), isShaped) > MostShaped
         || html.count(QLatin1String("colspan"), Qt::CaseInsensitive) > MostSpans;
 }
 
@@ -108,8 +121,9 @@ bool MRVReleaseNotes::read(const QByteArray &bytes, const QString &contentType, 
                      .arg(MRVServerText::shortened(contentType));
         return false;
     }
-    const QString html = htmlOf(decoded(bytes), kind);
-    if ((kind == Kind::Markdown && html.isNull()) || isTooMuch(html)) {
+    const QString text = decoded(bytes);
+    const QString html = isTooMuch(text) ? QString() : htmlOf(text, kind);
+    if ((html.isNull() && !text.isEmpty()) || isTooMuch(html)) {
         *error = tooMuch();
     } else if (MRVHtmlDocument::read(html, QString(), &m_page, nullptr, error)) {
         if (lineCount(m_page) <= MostLines) {
