@@ -184,7 +184,7 @@ const QVector<Hostile> &hostiles()
         {"HTTP/9", bytes("HTTP/9.9 200 OK\r\n\r\nhello"), "HTTP", nullptr},
         {"no status", bytes("HTTP/1.1 \r\n\r\nhello"), "HTTP", nullptr},
         {"status of four digits", bytes("HTTP/1.1 2000 OK\r\n\r\nhello"), "HTTP", nullptr},
-        {"null characters", bytes(QByteArray(Ok) + QByteArray("X: \0\0\r\n\r\nhello", 16)), "",
+        {"null characters", bytes(QByteArray(Ok) + QByteArray("X: \0\0\r\n\r\nhello", 14)), "",
          nullptr},
         {"bare line feeds", bytes("HTTP/1.1 200 OK\nContent-Length: 5\n\nhello"), nullptr, "hello"},
         {"folded length", bytes(QByteArray(Ok) + "X: 1\r\n  Content-Length: 900\r\n\r\nhello"),

@@ -169,6 +169,8 @@ bool MrvHttpTransfer::readLine(const QByteArray &line)
     }
     if (!m_isHeadWhole && isContinued && !m_headers.isEmpty()) {
         m_headers.last().second += ' ' + text;
+        // libcurl copies all of it each time.
+        m_headerBytes += m_headers.constLast().second.size();
     } else if (!m_isHeadWhole && !text.isEmpty()) {
         return addHeader(text);
     } else if (!m_isHeadWhole) {
