@@ -9,6 +9,7 @@
 #include "publish/mrvpagepublisher.h"
 #include "publish/mrvstagedfiles.h"
 #include "util/mrvfixeddate.h"
+#include "util/mrvpapersize.h"
 #include "xhtml/mrvexportcheck.h"
 
 #include <QFileInfo>
@@ -170,7 +171,7 @@ int readMetadata(const Call &call, Options *options)
         && readMarkdownSyntax(call, call.arguments, &options->input.markdown, &error)
         && (!options->isBook() || readBook(call, options, &error));
     MRVPrintOptions::layoutNamed(call.value("layout"), &options->print.layout);
-    options->print.paper = MRVPrintOptions::paperNamed(call.value("paper"));
+    options->print.paper = MRVPaperSize::named(call.value("paper"));
     return ok ? -1 : usageError(error);
 }
 

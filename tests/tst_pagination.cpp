@@ -6,6 +6,7 @@
 #include "pdf/mrvscriptpdf.h"
 #include "screenplay/mrvscriptpagination.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvpapersize.h"
 
 #include <QRandomGenerator>
 #include <QTextCursor>
@@ -201,7 +202,7 @@ private Q_SLOTS:
         options.sceneContinuations = true;
         options.paper = MRVScriptPagination::A4;
         const MRVScriptPagination pagination(script, builtIn(), options);
-        QCOMPARE(pagination.paperSize(), MRVPdfWriter::a4());
+        QCOMPARE(pagination.paperSize(), MRVPaperSize::A4);
         const QVector<Page> pages = pagination.pages();
         QCOMPARE(pages.size(), 2);
         QCOMPARE(rowsOf(pages.at(0)).constFirst(), QString("7 INT. A 7"));
@@ -586,7 +587,7 @@ private Q_SLOTS:
     {
         QByteArray bytes;
         QString error;
-        MRVPdfWriter writer(MRVPdfWriter::a4(), {"Größe", "Ann", "de", {}});
+        MRVPdfWriter writer(MRVPaperSize::A4, {"Größe", "Ann", "de", {}});
         writer.setPageNumber(0);
         writer.addLink({0, 0, 100, 100}, "#late");
         writer.addLink({0, 100, 100, 100}, "https://example.org/ü");

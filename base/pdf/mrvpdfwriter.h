@@ -36,7 +36,7 @@ struct MRVPdfProperties
  * in the document. GUI thread only; needs a QGuiApplication.
  *
  * @code
- * MRVPdfWriter pdf(MRVPdfWriter::letter(), {QStringLiteral("Play"), {}, {}, {}});
+ * MRVPdfWriter pdf(MRVPaperSize::Letter, {QStringLiteral("Play"), {}, {}, {}});
  * pdf.painter()->drawText(QPointF(1200, 1200), QStringLiteral("FADE IN:"));
  * pdf.addOutline(QStringLiteral("Start"), 1, 1200);
  * QByteArray bytes;
@@ -56,15 +56,10 @@ public:
     static constexpr int DotsPerInch = 1200;
     static constexpr qreal DotsPerPoint = DotsPerInch / 72.0;
 
-    /** The size of US Letter paper in points. */
-    static QSizeF letter() { return {612, 792}; }
-    /** The size of ISO 216 A4 paper in points. */
-    static QSizeF a4() { return {595.2756, 841.8898}; }
-
     /**
      * Begins a document with an empty page.
      *
-     * @param paper      width and height in points, for all pages.
+     * @param paper      width and height in points, for all pages: an MRVPaperSize, for example.
      * @param properties what the document says about itself.
      */
     MRVPdfWriter(const QSizeF &paper, const MRVPdfProperties &properties);

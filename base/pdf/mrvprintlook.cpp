@@ -2,6 +2,7 @@
 
 #include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvprintoptions.h"
+#include "util/mrvpapersize.h"
 
 namespace {
 
@@ -29,8 +30,8 @@ MrvPrintLook::MrvPrintLook(const MRVPrintOptions &options)
     , indent(isManuscript ? Inch / 2 : 14)
 {
     const QSizeF points = !options.paper.isEmpty() ? options.paper
-        : isManuscript ? MRVPrintOptions::paperNamed(QStringLiteral("letter"))
-                       : MRVPrintOptions::paperNamed(QStringLiteral("a5"));
+        : isManuscript                             ? MRVPaperSize::Letter
+                                                   : MRVPaperSize::A5;
     paper = points * Scale;
     // A book's margins are a share of the paper.
     const qreal side = isManuscript ? Inch : points.width() * 0.125;

@@ -2,16 +2,6 @@
 
 namespace {
 
-struct PaperName
-{
-    const char *name;
-    qreal width;
-    qreal height;
-};
-constexpr PaperName papers[] = {{"letter", 612, 792},
-                                {"a4", 595.2756, 841.8898},
-                                {"a5", 419.5276, 595.2756}};
-
 constexpr const char *layoutNames[] = {"book", "manuscript"};
 
 } // namespace
@@ -25,14 +15,4 @@ bool MRVPrintOptions::layoutNamed(const QString &name, Layout *layout)
         }
     }
     return false;
-}
-
-QSizeF MRVPrintOptions::paperNamed(const QString &name)
-{
-    for (const PaperName &paper : papers) {
-        if (name == QLatin1String(paper.name)) {
-            return {paper.width, paper.height};
-        }
-    }
-    return {};
 }

@@ -37,6 +37,4 @@ struct MRVBASE_EXPORT MRVPrintOptions
      * @return false for any other name.
      */
     static bool layoutNamed(const QString &name, Layout *layout);
-    /** The paper named "letter", "a4" or "a5"; empty for any other text. */
-    static QSizeF paperNamed(const QString &name);
 };

@@ -86,6 +86,11 @@ struct MRVBASE_EXPORT MRVFountainElement
 
     /** The text without notes and boneyards within it. */
     QString text() const;
+    /** Whether it belongs to a speech: what is said, sung or directed after a cue. */
+    bool isSpoken() const
+    {
+        return kind == Dialogue || kind == Parenthetical || (kind == Lyrics && !apart);
+    }
 
     bool operator==(const MRVFountainElement &other) const
     {

@@ -17,18 +17,9 @@ using Role = MrvScriptRole;
 
 static_assert(Document::RoleProperty == MrvScriptRoleProperty);
 
-Run::Emphasis emphasisOf(const QTextCharFormat &format)
-{
-    Run::Emphasis emphasis;
-    emphasis.setFlag(Run::Italic, format.fontItalic());
-    emphasis.setFlag(Run::Bold, format.fontWeight() > QFont::Medium);
-    emphasis.setFlag(Run::Underline, format.fontUnderline());
-    return emphasis;
-}
-
 QTextCharFormat emphasized(QTextCharFormat format, Run::Emphasis emphasis)
 {
-    const Run::Emphasis same = emphasis & emphasisOf(format);
+    const Run::Emphasis same = emphasis & mrvEmphasisOf(format);
     if (emphasis.testFlag(Run::Italic)) {
         format.setFontItalic(true);
     }
@@ -154,9 +145,7 @@ void DocumentWriter::addParagraph(Role role, const MRVFountainRuns &runs, int de
 
 Role DocumentWriter::roleOf(const Element &element)
 {
-    const bool isSpeech = element.kind == Element::Parenthetical
-        || element.kind == Element::Dialogue || (element.kind == Element::Lyrics && !element.apart);
-    m_isDual = element.kind == Element::Character ? element.dual : m_isDual && isSpeech;
+    m_isDual = element.kind == Element::Character ? element.dual : m_isDual && element.isSpoken();
     const Role role = mrvScriptRole(element.kind);
     const Role dual = element.kind == Element::Character ? Role::DualCharacter
         : element.kind == Element::Parenthetical         ? Role::DualParenthetical
@@ -261,7 +250,7 @@ QVariant DocumentReader::detail(const QTextBlock &block, int property)
 
 MRVFountainRuns DocumentReader::runsOf(const QTextBlock &block, Role role) const
 {
-    const Run::Emphasis base = emphasisOf(m_roles.element(role).charFormat());
+    const Run::Emphasis base = mrvEmphasisOf(m_roles.element(role).charFormat());
     MRVFountainRuns runs;
     bool wasBorder = false;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -269,7 +258,7 @@ MRVFountainRuns DocumentReader::runsOf(const QTextBlock &block, Role role) const
         if (format.objectType() != QTextFormat::NoObject) {
             continue;
         }
-        const Run::Emphasis shown = emphasisOf(format);
+        const Run::Emphasis shown = mrvEmphasisOf(format);
         const Run::Emphasis meant(format.intProperty(Document::EmphasisProperty));
         Run run;
         run.text = it.fragment().text();

@@ -97,8 +97,8 @@ void MrvScriptMargins::addSceneNumbers()
             addLine(&page, Line::SceneNumber, number, SceneNumberLeft,
                     m_paper.left - SceneNumberLeft - SceneNumberGap, line.top, Qt::AlignLeft, last);
             page.lines.move(page.lines.size() - 1, i++);
-            addLine(&page, Line::SceneNumber, number, right, m_paper.width - right - SceneNumberGap,
-                    line.top, Qt::AlignLeft, last);
+            addLine(&page, Line::SceneNumber, number, right,
+                    m_paper.size.width() - right - SceneNumberGap, line.top, Qt::AlignLeft, last);
             page.lines.move(page.lines.size() - 1, ++i);
         }
     }

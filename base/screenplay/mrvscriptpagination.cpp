@@ -7,6 +7,7 @@
 #include "screenplay/mrvscripttitlepages_p.h"
 #include "screenplay/mrvscripttypesetter_p.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvpapersize.h"
 
 #include <array>
 #include <cmath>
@@ -34,8 +35,8 @@ struct NamedPaper
 };
 
 constexpr NamedPaper papers[] = {
-    {Pagination::Letter, "letter", {612, 792, 1.5 * MrvScriptPaper::Inch}},
-    {Pagination::A4, "a4", {595.2756, 841.8898, 1.25 * MrvScriptPaper::Inch}},
+    {Pagination::Letter, "letter", {MRVPaperSize::Letter, 1.5 * MrvScriptPaper::Inch}},
+    {Pagination::A4, "a4", {MRVPaperSize::A4, 1.25 * MrvScriptPaper::Inch}},
 };
 
 const MrvScriptPaper &paperOf(Pagination::Paper paper, const MRVScriptMode &mode)
@@ -423,7 +424,7 @@ void MrvScriptPaginator::place(int index)
 
 void MrvScriptPaginator::run()
 {
-    m_result.m_paperSize = QSizeF(m_paper.width, m_paper.height);
+    m_result.m_paperSize = m_paper.size;
     m_result.m_textHeight = m_height;
     m_result.m_extents.resize(m_script.elements.size());
     m_result.m_titlePages = mrvScriptTitlePages(m_script, m_paper, &m_setter);

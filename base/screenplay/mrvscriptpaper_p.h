@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QSizeF>
 
 /** Lengths of a script's page, in points. */
 struct MrvScriptPaper
@@ -11,9 +11,8 @@ struct MrvScriptPaper
     static constexpr qreal BottomMargin = Inch;
     static constexpr qreal Tolerance = 0.1; ///< lengths of modes are rounded to 20ths of points
 
-    qreal width;
-    qreal height;
+    QSizeF size;
     qreal left; ///< margin
 
-    qreal textHeight() const { return height - TopMargin - BottomMargin; }
+    qreal textHeight() const { return size.height() - TopMargin - BottomMargin; }
 };

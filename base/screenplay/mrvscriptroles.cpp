@@ -130,3 +130,12 @@ MrvScriptRole MrvScriptRoles::roleOf(const QTextBlock &block) const
     m_known.insert(block.blockFormatIndex(), role);
     return role;
 }
+
+MRVFountainRun::Emphasis mrvEmphasisOf(const QTextCharFormat &format)
+{
+    MRVFountainRun::Emphasis emphasis;
+    emphasis.setFlag(MRVFountainRun::Italic, format.fontItalic());
+    emphasis.setFlag(MRVFountainRun::Bold, format.fontWeight() > QFont::Medium);
+    emphasis.setFlag(MRVFountainRun::Underline, format.fontUnderline());
+    return emphasis;
+}

@@ -7,6 +7,7 @@
 #include <QTextBlockFormat>
 
 class QTextBlock;
+class QTextCharFormat;
 
 /**
  * The roles of paragraphs in a script, beyond the kinds of Fountain. Documents store the numbers.
@@ -49,6 +50,9 @@ private:
     QHash<int, int> m_own; // role to index in the mode
     mutable QHash<int, MrvScriptRole> m_known; // by index of the block format
 };
+
+/** The emphasis that a format shows. */
+MRVFountainRun::Emphasis mrvEmphasisOf(const QTextCharFormat &format);
 
 constexpr MrvScriptRole mrvScriptRole(MRVFountainElement::Kind kind)
 {

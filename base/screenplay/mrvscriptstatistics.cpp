@@ -85,19 +85,16 @@ void Counter::addElement(const Element &element, int index)
     if (element.kind >= Element::Note) {
         return;
     }
-    const bool isSpeech = element.kind == Element::Dialogue
-        || element.kind == Element::Parenthetical
-        || (element.kind == Element::Lyrics && !element.apart);
     if (element.kind == Element::Character) {
         m_speakers = m_cast.namesIn(element.text());
         m_hasSpoken = false;
-    } else if (!isSpeech) {
+    } else if (!element.isSpoken()) {
         m_speakers.clear();
     }
     m_result.scenes += element.kind == Element::SceneHeading ? 1 : 0;
     const int words = wordCount(element.text());
     m_result.words += words;
-    if (isSpeech) {
+    if (element.isSpoken()) {
         addSpeech(words, m_pagination.lineCount(index), element.kind != Element::Parenthetical);
     }
 }

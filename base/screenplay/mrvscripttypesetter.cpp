@@ -70,15 +70,6 @@ qreal lineHeight(const QTextBlockFormat &format, const MrvScriptStyle &style)
     return single;
 }
 
-Run::Emphasis emphasisOf(const QTextCharFormat &format)
-{
-    Run::Emphasis emphasis;
-    emphasis.setFlag(Run::Italic, format.fontItalic());
-    emphasis.setFlag(Run::Bold, format.fontWeight() > QFont::Medium);
-    emphasis.setFlag(Run::Underline, format.fontUnderline());
-    return emphasis;
-}
-
 } // namespace
 
 QFont mrvScriptFont(const MrvScriptStyle &style, Run::Emphasis emphasis, int dotsPerInch)
@@ -178,7 +169,7 @@ void MrvScriptTypesetter::append(MrvPrintedParagraph *paragraph, const MRVFounta
                                  Role role)
 {
     const Look &known = look(role);
-    const Run::Emphasis own = emphasisOf(known.element.charFormat());
+    const Run::Emphasis own = mrvEmphasisOf(known.element.charFormat());
     const int before = paragraph->text.size();
     for (const Run &run : runs) {
         if (run.kind == Run::Text) {

@@ -15,12 +15,6 @@ bool isPrinted(const Element &element)
     return element.kind < Element::Note;
 }
 
-bool isSpoken(const Element &element)
-{
-    return element.kind == Element::Dialogue || element.kind == Element::Parenthetical
-        || (element.kind == Element::Lyrics && !element.apart);
-}
-
 } // namespace
 
 MrvScriptUnits::MrvScriptUnits(const MRVFountainScript &script, MrvScriptTypesetter *setter)
@@ -67,7 +61,7 @@ bool MrvScriptUnits::isBesideTheLast(int cue) const
     }
     return before >= 0 && m_script.elements.at(before).kind != Element::PageBreak
         && m_paragraphs.at(m_units.constLast().end - 1).element <= before
-        && (isSpoken(m_script.elements.at(before))
+        && (m_script.elements.at(before).isSpoken()
             || m_script.elements.at(before).kind == Element::Character);
 }
 
@@ -79,9 +73,9 @@ int MrvScriptUnits::collectSpeech(int cue)
     int end = cue + (hasCue ? 1 : 0);
     QVector<int> parts;
     for (; end < elements.size() && elements.at(end).kind != Element::PageBreak
-         && (isSpoken(elements.at(end)) || !isPrinted(elements.at(end)));
+         && (elements.at(end).isSpoken() || !isPrinted(elements.at(end)));
          ++end) {
-        if (isSpoken(elements.at(end))) {
+        if (elements.at(end).isSpoken()) {
             parts.append(end);
         }
     }
@@ -136,7 +130,7 @@ void MrvScriptUnits::collect()
         if (element.kind == Element::PageBreak) {
             breaks = true;
             ++i;
-        } else if (element.kind == Element::Character || isSpoken(element)) {
+        } else if (element.kind == Element::Character || element.isSpoken()) {
             i = collectSpeech(i);
         } else {
             if (isPrinted(element)) {

@@ -7,10 +7,7 @@ QVector<MrvSpeeches> mrvSpeeches(const QVector<MRVFountainElement> &elements)
     using Element = MRVFountainElement;
     const auto endOfSpeech = [&elements](int cue) {
         int end = cue + 1;
-        while (end < elements.size()
-               && (elements.at(end).kind == Element::Parenthetical
-                   || elements.at(end).kind == Element::Dialogue
-                   || (elements.at(end).kind == Element::Lyrics && !elements.at(end).apart))) {
+        while (end < elements.size() && elements.at(end).isSpoken()) {
             ++end;
         }
         return end;
