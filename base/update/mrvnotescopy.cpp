@@ -128,8 +128,8 @@ void MRVNotesCopy::copyFlow(QTextFrame::iterator it)
     }
 }
 
-// False where the table is too much for a layout.
-bool MRVNotesCopy::copyTable(const QTextTable *table)
+// Whether a layout can be given the table here; its cost then counts.
+bool MRVNotesCopy::takeTable(const QTextTable *table)
 {
     qint64 laidOut = lengthOf(table);
     for (int i = 0; i <= m_tableDepth; ++i) {
@@ -142,6 +142,15 @@ bool MRVNotesCopy::copyTable(const QTextTable *table)
     }
     m_cells += table->rows() * table->columns();
     m_laidOut += laidOut;
+    return true;
+}
+
+// False where it is too much for a layout; nothing is copied then.
+bool MRVNotesCopy::copyTable(const QTextTable *table)
+{
+    if (!takeTable(table)) {
+        return false;
+    }
     ++m_tableDepth;
     QTextTable *const copy = m_cursor.insertTable(table->rows(), table->columns(), tableFormat());
     for (int row = 0; row < table->rows(); ++row) {
@@ -314,19 +323,24 @@ QTextCharFormat MRVNotesCopy::charFormat(const QTextCharFormat &from, int headin
     if (place == QTextCharFormat::AlignSuperScript || place == QTextCharFormat::AlignSubScript) {
         format.setVerticalAlignment(place);
     }
+    setAnchor(from, &format);
+    return format;
+}
+
+void MRVNotesCopy::setAnchor(const QTextCharFormat &from, QTextCharFormat *format) const
+{
     const QString link = linkTo(from.anchorHref());
     if (!link.isEmpty()) {
-        format.setAnchor(true);
-        format.setAnchorHref(link);
-        format.setFontUnderline(true);
-        format.setForeground(m_look.linkColor);
+        format->setAnchor(true);
+        format->setAnchorHref(link);
+        format->setFontUnderline(true);
+        format->setForeground(m_look.linkColor);
     }
     if (!from.anchorNames().isEmpty()) {
-        format.setAnchor(true);
-        format.setAnchorNames(from.anchorNames());
+        format->setAnchor(true);
+        format->setAnchorNames(from.anchorNames());
     }
-    MRVFormatSpread::update(&format);
-    return format;
+    MRVFormatSpread::update(format);
 }
 
 // Empty for what does not lead to the web, or to a place of this page.

@@ -48,6 +48,7 @@ public:
 
 private:
     void copyFlow(QTextFrame::iterator it);
+    bool takeTable(const QTextTable *table);
     bool copyTable(const QTextTable *table);
     void copyBlock(const QTextBlock &block);
     void copyFragment(const QTextFragment &fragment, int headingLevel);
@@ -58,6 +59,7 @@ private:
     void startBlock(const QTextBlock &block);
     void addToList(const QTextBlock &block);
     QTextCharFormat charFormat(const QTextCharFormat &from, int headingLevel) const;
+    void setAnchor(const QTextCharFormat &from, QTextCharFormat *format) const;
     QString linkTo(const QString &address) const;
 
     const MRVNotesLook m_look;
