@@ -338,10 +338,12 @@ bool MRVSourceChanges::settle()
     if (!suspendDiffering()) {
         return false;
     }
+    const bool isTried = !m_groups.isEmpty();
     for (int trials = 0; trials < MostTrials && !m_groups.isEmpty(); ++trials) {
         tryGroups();
     }
-    const bool isReadBack = suspendDiffering();
+    // Without trials, reading all of it again would tell the same.
+    const bool isReadBack = !isTried || suspendDiffering();
     for (Change &change : m_changes) {
         if (change.state == State::Waiting) {
             change.state = State::LeftOut;
@@ -464,11 +466,18 @@ QStringList MRVSourceChanges::brokenLinks(const QString &source) const
             return one.isIn()
                 && block.blockFormat().hasProperty(MRVTextFormat::HeadingLevelProperty);
         });
-    const auto document = mayBreak ? read(source) : nullptr;
+    if (!mayBreak) {
+        return QStringList();
+    }
+    const Names old(*m_manuscript.document);
+    const QSet<QString> &before = old.places;
+    const bool hasLinks =
+        std::any_of(old.links.cbegin(), old.links.cend(),
+                    [&before](const QString &address) { return before.contains(address.mid(1)); });
+    const auto document = hasLinks ? read(source) : nullptr;
     if (!document) {
         return QStringList();
     }
-    const QSet<QString> before = Names(*m_manuscript.document).places;
     const Names names(*document);
     QStringList broken;
     for (const QString &address : names.links) {
