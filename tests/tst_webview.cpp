@@ -7,8 +7,8 @@
 
 #include <QDesktopServices>
 #include <QNetworkReply>
+#include <QScrollBar>
 #include <QTextBrowser>
-#include <QWidget>
 
 #include <memory>
 
@@ -200,6 +200,30 @@ private Q_SLOTS:
             QVERIFY2(request.contains("Accept-Language: fr, en;q=0.5\r\n"), request);
         }
         QVERIFY(MTranslator::install("en"));
+    }
+
+    // Links to places of the page stay in it.
+    void places()
+    {
+        Web web;
+        web.raw = "HTTP/1.1 200 OK\r\n\r\n<title>Notes</title><a href='#end'>go</a>"
+            + QByteArray("<p>text").repeated(200) + "<p id=end>END";
+        QDesktopServices::setUrlHandler("http", this, "open");
+        for (const char *plugins : {"/nowhere", MRV_BINARY_DIR "/lib/mrvbase/plugins"}) {
+            qputenv("MRV_PLUGIN_PATH", plugins);
+            MRVCheckForUpdatesDialog dialog("http://www.example/");
+            dialog.show();
+            auto *view = dialog.findChild<QWidget *>("webView");
+            QTRY_COMPARE(titleOf(view), QString("Notes"));
+            view->setFocus();
+            QTest::keyClick(view, Qt::Key_Tab);
+            QTest::keyClick(view, Qt::Key_Return);
+            const auto *browser = qobject_cast<QTextBrowser *>(view);
+            QTRY_VERIFY(browser ? browser->verticalScrollBar()->value() > 1000
+                                : view->property("url").toUrl().fragment() == "end");
+            QCOMPARE(titleOf(view), QString("Notes"));
+        }
+        QCOMPARE(m_opened, QStringList());
     }
 
     void markdownByName()

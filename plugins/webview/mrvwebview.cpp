@@ -69,7 +69,7 @@ protected:
             }
             return false;
         }
-        return isOnTheWeb(url) || url.scheme() == QLatin1String("about");
+        return url.scheme() == QLatin1String("about");
     }
 };
 
@@ -88,5 +88,6 @@ QWidget *MRVWebView::create(const QUrl &page, QWidget *parent)
 
 void MRVWebView::show(QWidget *view, const QString &html)
 {
-    static_cast<QWebView *>(view)->setHtml(html);
+    // Places in the page count from its address.
+    static_cast<QWebView *>(view)->setHtml(html, QUrl(QStringLiteral("about:blank")));
 }
