@@ -553,7 +553,8 @@ private Q_SLOTS:
     void manuscriptLinks()
     {
         QTextDocument one;
-        one.setHtml("<h1>Alpha</h1><p>See <a href='two.html#x'>there</a>, <a "
+        one.setHtml("<h1><a name='top'>Both</a></h1><h1>Alpha</h1><p><a href='#top'>Up</a>. See <a "
+                    "href='two.html#x'>there</a>, <a "
                     "href='http://example.org'>out</a>, <a href='#nowhere'>nothing</a> and <a "
                     "href='three.html'>none</a>.</p>");
         QTextDocument two;

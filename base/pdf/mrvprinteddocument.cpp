@@ -192,9 +192,22 @@ void MrvPrintedDocument::removeHeading(const QString &text)
     const bool isSame = MRVTextBlockFormat::headingLevel(first.blockFormat()) > 0
         && first.text().simplified().compare(text.simplified(), Qt::CaseInsensitive) == 0;
     if (isSame && first.next().isValid() && !QTextCursor(first.next()).currentTable()) {
+        QStringList names;
+        for (auto it = first.begin(); !it.atEnd(); ++it) {
+            names += it.fragment().charFormat().anchorNames();
+        }
         QTextCursor cursor(first);
         cursor.setPosition(first.next().position(), QTextCursor::KeepAnchor);
         cursor.removeSelectedText();
+        // Links to the heading lead to what comes after it.
+        const auto next = m_copy->begin().begin();
+        if (!names.isEmpty() && !next.atEnd()) {
+            QTextCharFormat format = next.fragment().charFormat();
+            format.setAnchorNames(names + format.anchorNames());
+            cursor.setPosition(next.fragment().position());
+            cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+            cursor.setCharFormat(format);
+        }
     }
 }
 
