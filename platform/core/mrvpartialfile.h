@@ -34,7 +34,7 @@ public:
     /**
      * Begins, or goes on with what a former object has left.
      *
-     * @param error if given, receives one translated line on failure, as in all functions here.
+     * @param error if given, receives one translated line on failure.
      */
     bool open(QString *error = nullptr);
 
@@ -48,15 +48,22 @@ public:
      *
      * @param origin where the bytes come from, to tell whether they can be gone on with; empty
      *               where they cannot.
+     * @param error  as for open().
      */
     bool restart(const QByteArray &origin, QString *error = nullptr);
 
-    /** Adds bytes at the end. */
+    /**
+     * Adds bytes at the end.
+     *
+     * @param error as for open().
+     */
     bool append(const QByteArray &bytes, QString *error = nullptr);
 
     /**
      * Brings it to the disk and puts it in the place of the old file; this object is done with
      * then. A part that cannot be renamed is removed.
+     *
+     * @param error as for open().
      */
     bool putInPlace(QString *error = nullptr);
 
