@@ -223,7 +223,7 @@ private Q_SLOTS:
         QVERIFY(writeBytes(file, "old"));
         Handler input(handler);
         Download download(handler.isEmpty() ? nullptr : &input);
-        if (error.startsWith("sent nothing")) {
+        if ((error.startsWith("sent nothing") || error.startsWith("not answered"))) {
             download.url->setTransferTimeout(500);
         }
         if (end == "slow") {
@@ -451,6 +451,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(file + ".part"), isKept);
         QCOMPARE(bytesOf(file + ".part"), isKept ? QByteArray("hello") : QByteArray());
 
+        const int before = m_own.requests().size();
         if (cell("other") == "yes") {
             url = m_own.url("/other");
         }
@@ -460,7 +461,7 @@ private Q_SLOTS:
         download.url->setResumable(true);
         QVERIFY(download.url->downloadToFile(url, file));
         QTRY_COMPARE(download.finals, 1);
-        const QByteArray request = m_own.requests().constLast();
+        const QByteArray request = m_own.requests().value(before);
         const QByteArray asked = cell("other") == "yes" ? QByteArray() : cell("asked").toUtf8();
         QVERIFY2(request.contains("Range: bytes=5-\r\nIf-Range: " + asked + "\r\n")
                      == !asked.isEmpty(),
@@ -525,12 +526,24 @@ private Q_SLOTS:
         }
         QVERIFY(QFileInfo(file).permission(QFile::ReadOther)
                 && !QFileInfo(file).permission(QFile::ReadGroup));
+        // The user's own file of that name is nobody's part.
+        QVERIFY(QFile::remove(file + ".part") && writeBytes(file + ".part", "a chapter"));
+        {
+            MRVPartialFile part(file);
+            QVERIFY(part.open() && part.restart("from") && part.append("newest"));
+            QVERIFY(part.putInPlace());
+        }
+        QCOMPARE(bytesOf(file + ".part"), QByteArray("a chapter"));
+        QVERIFY(QFile::remove(file + ".part"));
         // After a fall of the machine the part may have holes.
         {
             MRVPartialFile part(file);
             QVERIFY(part.open() && part.restart("from") && part.append("hole"));
         }
-        QVERIFY(writeBytes(file + ".part.origin", "an earlier boot\nfrom"));
+        QCOMPARE(QFileInfo(file + ".part.origin").permissions()
+                     & (QFile::ReadGroup | QFile::ReadOther),
+                 QFile::Permissions());
+        QVERIFY(writeBytes(file + ".part.origin", "part of a download, an earlier boot\nfrom"));
         MRVPartialFile part(file);
         QVERIFY(part.open());
         QCOMPARE(part.origin(), QByteArray());

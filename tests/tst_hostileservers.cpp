@@ -1,3 +1,4 @@
+#include "datarows.h"
 #include "heapmeter.h"
 #include "hostileserver.h"
 #include "support.h"
@@ -143,6 +144,15 @@ QByteArray gzipped(const QByteArray &body)
         + QByteArray::number(body.size()) + "\r\n\r\n" + body;
 }
 
+QByteArray names(int count)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i) {
+        lines += "X-" + QByteArray::number(i) + ": 1\r\n";
+    }
+    return lines;
+}
+
 QByteArray redirect(const QByteArray &to)
 {
     return "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + to + "\r\n\r\n";
@@ -154,7 +164,7 @@ const QVector<Hostile> &hostiles()
     static const QByteArray bomb = packed(QByteArray(64 << 20, 'x'), GzipWindow);
     static const QVector<Hostile> all = {
         // Heads.
-        {"header flood", many(Ok, "X-Padding: 1\r\n", 200000), "bytes of headers", nullptr},
+        {"header flood", many(Ok, "X-Padding: 1\r\n", 200000), "more than 500 headers", nullptr},
         {"endless headers", many(Ok, "X: " + QByteArray(1000, 'x') + "\r\n"), "bytes of headers",
          nullptr},
         {"endless header", many(QByteArray(Ok) + "X: ", "xxxxxxxx"), "bytes of headers", nullptr},
@@ -162,7 +172,8 @@ const QVector<Hostile> &hostiles()
         {"lines without colons", many(Ok, "nothing\r\n", 200000), "without colon", nullptr},
         {"folded flood", many(QByteArray(Ok) + "X: 1\r\n", " more\r\n", 200000), "bytes of headers",
          nullptr},
-        {"cookies", many(Ok, "Set-Cookie: a=b\r\n", 200000), "bytes of headers", nullptr},
+        {"cookies", many(Ok, "Set-Cookie: a=b\r\n", 200000), "more than 500 headers", nullptr},
+        {"as many names as are let in", bytes(Ok + names(498) + "\r\nhello"), nullptr, "hello"},
         {"interim flood", many("", "HTTP/1.1 100 Continue\r\n\r\n", 200000), "bytes of headers",
          nullptr},
         {"early hints flood", many("", "HTTP/1.1 103 Hints\r\nLink: a\r\n\r\n", 200000),
@@ -178,7 +189,7 @@ const QVector<Hostile> &hostiles()
                  peer.wait(50);
              }
          },
-         "sent nothing", nullptr},
+         "not answered", nullptr},
         {"no HTTP", bytes("hello\r\n\r\n"), "does not answer in HTTP", nullptr},
         {"mail", bytesAndNoMore("220 mail ESMTP\r\n"), "does not answer in HTTP", nullptr},
         {"HTTP/9", bytes("HTTP/9.9 200 OK\r\n\r\nhello"), "HTTP", nullptr},
@@ -197,8 +208,8 @@ const QVector<Hostile> &hostiles()
         {"reset at once", reset(""), "closed", nullptr},
         {"reset in the head", reset(Ok), "closed", nullptr},
         {"closed in the head", bytes(Ok), "closed", nullptr},
-        {"silent", bytesAndNoMore(""), "sent nothing", nullptr},
-        {"silent in the head", bytesAndNoMore(Ok), "sent nothing", nullptr},
+        {"silent", bytesAndNoMore(""), "not answered", nullptr},
+        {"silent in the head", bytesAndNoMore(Ok), "not answered", nullptr},
         // Lengths.
         {"negative length", bytes(QByteArray(Ok) + "Content-Length: -1\r\n\r\nhello"),
          "Invalid Content-Length", nullptr},
@@ -265,6 +276,23 @@ const QVector<Hostile> &hostiles()
         {"deflated without a header",
          bytes(QByteArray(Ok) + "Content-Encoding: deflate\r\n\r\n" + packed("hello", -MAX_WBITS)),
          nullptr, "hello"},
+        {"deflated without a header, a full piece",
+         bytes(QByteArray(Ok) + "Content-Encoding: deflate\r\n\r\n"
+               + packed(QByteArray(1 << 20, 'x'), -MAX_WBITS)),
+         nullptr, nullptr},
+        {"deflated without a header, byte by byte",
+         [](Peer &peer) {
+             peer.send(QByteArray(Ok) + "Content-Encoding: deflate\r\n\r\n");
+             for (const char byte : packed("hello", -MAX_WBITS)) {
+                 peer.send(QByteArray(1, byte));
+                 peer.wait(20);
+             }
+         },
+         nullptr, "hello"},
+        {"packed and padded", bytes(gzipped(hello + QByteArray(20, '\0'))), nullptr, "hello"},
+        {"packed, cut in its header",
+         bytes(QByteArray(Ok) + "Content-Encoding: gzip\r\n\r\n" + hello.left(10)),
+         "before the end", nullptr},
         {"packed, cut", bytes(gzipped(hello.left(hello.size() - 5))), "before the end", nullptr},
         {"packed, damaged", bytes(gzipped(QByteArray(hello).replace(14, 2, "zz"))), "damaged",
          nullptr},
@@ -291,13 +319,13 @@ const QVector<Hostile> &hostiles()
          "requires authentication", nullptr},
         {"many challenges",
          each(unauthorized(QByteArray("WWW-Authenticate: Basic realm=\"a\"\r\n").repeated(1000))),
-         "requires authentication", nullptr},
-        {"no challenge", each(unauthorized("")), "requires authentication", nullptr},
+         "more than 500 headers", nullptr},
+        {"no challenge", each(unauthorized("")), "not supported", nullptr},
         {"endless page with a question",
          many("HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"a\"\r\n\r\n", "page"),
          "before it lets one in", nullptr},
         {"proxy's question without a proxy", each("HTTP/1.1 407 No\r\nContent-Length: 0\r\n\r\n"),
-         "requires authentication", nullptr},
+         "server replied: No", nullptr},
     };
     return all;
 }
@@ -383,6 +411,12 @@ private Q_SLOTS:
 
     // All that is wrong is told, and what was accepted once is not accepted from another server, or
     // for another request.
+    void acceptedCertificate_data()
+    {
+        QTest::addColumn<QString>("refusesSecond");
+        QTest::newRow("both") << "no";
+        QTest::newRow("the first") << "yes";
+    }
     void acceptedCertificate()
     {
         const TestCertificate first("DNS:a.example", -1);
@@ -393,11 +427,12 @@ private Q_SLOTS:
         int asked = 0;
         QList<QSslError> errors;
         bool isAccepting = true;
+        const int refused = cell("refusesSecond") == "yes" ? 2 : 0;
         connect(&access, &QNetworkAccessManager::sslErrors, this,
                 [&](QNetworkReply *reply, const QList<QSslError> &wrong) {
                     ++asked;
                     errors = wrong;
-                    if (isAccepting) {
+                    if (isAccepting && asked != refused) {
                         reply->ignoreSslErrors();
                     }
                     // Now another one answers.
@@ -407,7 +442,7 @@ private Q_SLOTS:
         QNetworkReply *reply = access.get(QNetworkRequest(server.url()));
         QTRY_VERIFY(reply->isFinished());
         QCOMPARE(asked, 2);
-        QCOMPARE(reply->readAll(), QByteArray("hello"));
+        QCOMPARE(reply->readAll(), refused ? QByteArray() : QByteArray("hello"));
         QSet<int> kinds;
         for (const QSslError &error : qAsConst(errors)) {
             kinds << error.error();
@@ -491,14 +526,21 @@ private Q_SLOTS:
         QCOMPARE(reply->readAll(), isSecure ? QByteArray() : QByteArray("hello"));
     }
 
+    void noProxy_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::newRow("IPv4") << "127.0.0.1";
+        QTest::newRow("IPv6") << "::1";
+    }
     void noProxy()
     {
         MRVHttpAccess access;
-        access.setProxy({QNetworkProxy::HttpProxy, "127.0.0.1", 1});
+        access.setProxy({QNetworkProxy::HttpProxy, cell("host"), 1});
         QNetworkReply *const reply = access.get(QNetworkRequest(QUrl("https://a.example/")));
         QTRY_VERIFY(reply->isFinished());
-        QVERIFY2(reply->errorString().startsWith("No connection to the proxy 127.0.0.1: "),
-                 qPrintable(reply->errorString()));
+        QVERIFY2(
+            reply->errorString().startsWith("No connection to the proxy " + cell("host") + ": "),
+            qPrintable(reply->errorString()));
     }
 
     // What a request carries: logins in UTF-8, the jar's cookies, headers without line ends, and a
@@ -537,6 +579,13 @@ private Q_SLOTS:
         QVERIFY2(last.contains("Authorization: Basic " + QByteArray("ä:ß").toBase64()), last);
         QVERIFY2(last.contains("Cookie: a=b\r\n") && last.contains("X-Empty:\r\n"), last);
         QVERIFY2(!last.contains("Worse") && last.contains("Accept-Encoding: identity\r\n"), last);
+        // Another server gets its own, even for a realm of the same name.
+        HostileServer other(each(unauthorized("WWW-Authenticate: Basic realm=\"a\"\r\n")));
+        QNetworkReply *const away = access.get(QNetworkRequest(other.url()));
+        QTRY_VERIFY(away->isFinished());
+        QVERIFY(asked > 1);
+        QCOMPARE(server.connections(), 6); // what is kept might have an answer in it already
+
         QNetworkReply *const post = access.post(request, QByteArray("a"));
         QTRY_VERIFY(post->isFinished());
         QVERIFY(post->error() != QNetworkReply::NoError);

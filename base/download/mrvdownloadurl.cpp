@@ -13,6 +13,7 @@
 #include <QNetworkProxy>
 #include <QNetworkRequest>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTextCodec>
 
 #include <utility>
@@ -21,6 +22,8 @@ namespace {
 
 // Text is converted in pieces, so that memory never holds a third copy of the whole.
 constexpr int ConvertedAtOnce = 1 << 20;
+
+constexpr int MaxShown = 200; // of what a server says
 
 bool isFetched(const QUrl &url)
 {
@@ -64,8 +67,15 @@ QByteArray validatorOf(const QNetworkReply *reply)
     const QByteArray tag = reply->rawHeader("ETag");
     const QByteArray changed = reply->rawHeader("Last-Modified");
     const bool isSure = isOld(changed, reply->rawHeader("Date"));
-    const bool isPacked = reply->hasRawHeader("Content-Encoding");
+    const bool isPacked = reply->hasRawHeader("Content-Encoding")
+        || reply->attribute(QNetworkRequest::OriginalContentLengthAttribute).isValid();
     return isPacked ? QByteArray() : tag.startsWith('"') ? tag : isSure ? changed : QByteArray();
+}
+
+// The first line of an origin. A password does not belong on the disk.
+QByteArray placeOf(const QUrl &url)
+{
+    return url.toEncoded(QUrl::RemoveUserInfo) + '\n';
 }
 
 } // namespace
@@ -244,8 +254,8 @@ void MRVDownloadUrl::start()
     if (m_body != Body::Text && !m_fileName.isEmpty() && !openFile(&request)) {
         return;
     }
-    if (m_body == Body::Raw || m_isResumable) {
-        // What is packed stays so: a part is of what the server sends.
+    if (m_body == Body::Raw) {
+        // What is packed stays so.
         request.setRawHeader("Accept-Encoding", "identity");
     }
     m_reply = m_manager->get(request);
@@ -272,7 +282,7 @@ bool MRVDownloadUrl::openFile(QNetworkRequest *request)
         m_timer.start(0);
         return false;
     }
-    const QByteArray place = m_requested.toEncoded() + '\n';
+    const QByteArray place = placeOf(m_requested);
     if (m_isResumable && m_file->origin().startsWith(place)) {
         m_offset = m_file->size();
     }
@@ -323,6 +333,7 @@ void MRVDownloadUrl::dropReply()
     m_file.reset();
     m_isRaw = false;
     m_offset = 0;
+    m_fileSize = -1;
     QNetworkReply *reply = std::exchange(m_reply, nullptr);
     if (!reply) {
         return;
@@ -362,7 +373,10 @@ void MRVDownloadUrl::awaitBytes()
 void MRVDownloadUrl::onTimeout()
 {
     if (m_reply) {
-        fail(tr("The server has sent nothing for %1 s").arg(m_timer.interval() / 1000.0));
+        const double seconds = m_timer.interval() / 1000.0;
+        fail((statusOf(m_reply) == 0 ? tr("The server has not answered for %1 s")
+                                     : tr("The server has sent nothing for %1 s"))
+                 .arg(seconds));
     } else {
         endWith(m_failure);
     }
@@ -371,6 +385,12 @@ void MRVDownloadUrl::onTimeout()
 void MRVDownloadUrl::onMetaData()
 {
     awaitBytes();
+    if (m_offset > 0 && statusOf(m_reply) == 206 && !continuesFile()) {
+        // What is there is of no use.
+        m_file->restart(QByteArray());
+        begin(m_url);
+        return;
+    }
     const QString fault = m_file ? prepareFile() : QString();
     if (!fault.isEmpty()) {
         fail(fault);
@@ -380,17 +400,37 @@ void MRVDownloadUrl::onMetaData()
     }
 }
 
+// Whether a part is the rest of the very file that has been begun; RFC 9110, 14.4 and 15.3.7.
+bool MRVDownloadUrl::continuesFile() const
+{
+    static const QRegularExpression form(
+        QStringLiteral("^bytes ([0-9]{1,18})-([0-9]{1,18})/([0-9]{1,18})$"));
+    const QRegularExpressionMatch range =
+        form.match(QString::fromLatin1(m_reply->rawHeader("Content-Range")));
+    const qint64 first = range.captured(1).toLongLong();
+    const qint64 last = range.captured(2).toLongLong();
+    const qint64 total = range.captured(3).toLongLong();
+    const QByteArray length = m_reply->rawHeader("Content-Length");
+    const bool isRest = range.hasMatch() && first == m_offset && last == total - 1
+        && (length.isNull() || length.toLongLong() == total - first);
+    const QByteArray tag = m_reply->rawHeader("ETag");
+    const QByteArray known = m_file->origin().mid(placeOf(m_requested).size());
+    const bool isSameVersion = tag.isNull() || !known.startsWith('"') || tag == known;
+    const bool isPacked = m_reply->hasRawHeader("Content-Encoding")
+        || m_reply->attribute(QNetworkRequest::OriginalContentLengthAttribute).isValid();
+    const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    return isRest && isSameVersion && !isPacked && (m_body == Body::Raw || !isConverted(type));
+}
+
 // Empty on success: what comes is for the file, or is not.
 QString MRVDownloadUrl::prepareFile()
 {
     const int status = statusOf(m_reply);
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
     m_isRaw = status >= 200 && status < 300 && (m_body == Body::Raw || !isConverted(type));
-    if (m_isRaw && m_offset > 0 && status == 206) {
-        const QByteArray begin = "bytes " + QByteArray::number(m_offset) + '-';
-        return m_reply->rawHeader("Content-Range").startsWith(begin)
-            ? QString()
-            : tr("The server sends another part than was asked for");
+    if (m_offset > 0 && status == 206) {
+        m_fileSize = m_reply->rawHeader("Content-Range").split('/').last().toLongLong();
+        return QString();
     }
     m_offset = 0;
     if (!m_isRaw) {
@@ -398,8 +438,9 @@ QString MRVDownloadUrl::prepareFile()
     }
     const QByteArray validator = m_isResumable ? validatorOf(m_reply) : QByteArray();
     QString error;
-    const bool isReady = m_file->restart(
-        validator.isEmpty() ? validator : m_requested.toEncoded() + '\n' + validator, &error);
+    m_fileSize = -1;
+    const bool isReady =
+        m_file->restart(validator.isEmpty() ? validator : placeOf(m_requested) + validator, &error);
     return isReady ? QString() : writeError(error);
 }
 
@@ -414,6 +455,10 @@ void MRVDownloadUrl::collect()
 {
     awaitBytes();
     const qint64 available = m_reply->bytesAvailable();
+    if (statusOf(m_reply) >= 400) {
+        m_reply->skip(available); // nobody sees an error's page
+        return;
+    }
     const qint64 size = m_isRaw ? m_file->size() : m_data.size();
     if (size + available > m_maximumSize) {
         failTooLarge();
@@ -474,6 +519,10 @@ void MRVDownloadUrl::onReplyFinished()
         return endWith(tr("The connection ended before the download was complete"));
     }
 
+    if (m_fileSize >= 0 && m_file && m_file->size() != m_fileSize) {
+        m_file->restart(QByteArray());
+        return endWith(tr("The connection ended before the download was complete"));
+    }
     const QUrl location = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     if (m_userInput && !location.isEmpty()) {
         redirect(m_url.resolved(location));
@@ -525,8 +574,10 @@ void MRVDownloadUrl::redirect(const QUrl &target)
     const QNetworkReply *reply = m_reply;
     const auto isGone = [&] { return !self || m_reply != reply; };
     if (!target.isValid() || !isFetched(target)) {
-        return endWith(tr("It redirects to %1, which is not an http or https address")
-                           .arg(target.toDisplayString()));
+        const QString text = target.isValid()
+            ? target.toDisplayString()
+            : QString::fromUtf8(m_reply->rawHeader("Location").left(MaxShown)).simplified();
+        return endWith(tr("It redirects to %1, which is not an http or https address").arg(text));
     }
     const bool isFollowed = ask([&] { return m_userInput->redirectTo(target); });
     if (isGone()) {
@@ -591,6 +642,9 @@ void MRVDownloadUrl::onAuthenticationRequired(QNetworkReply *reply, QAuthenticat
 void MRVDownloadUrl::onProxyAuthenticationRequired(const QNetworkProxy &proxy,
                                                    QAuthenticator *authenticator)
 {
+    if (!m_reply) {
+        return; // of a request that the host made by itself
+    }
     QUrl place;
     place.setScheme(QStringLiteral("http"));
     place.setHost(proxy.hostName());

@@ -107,7 +107,8 @@ public:
     void setUserInputHandler(MRVDownloadUserInputAbstract *handler);
 
     /**
-     * After how many milliseconds without a single byte a request fails; 0 or less waits for ever.
+     * After how many milliseconds without an answer, or then without a single byte of it, a request
+     * fails; 0 or less waits for ever.
      * The time that the answers to questions take does not count. Holds from the next byte on.
      */
     void setTransferTimeout(int milliseconds);
@@ -229,6 +230,7 @@ private:
     void dropReply();
     void onMetaData();
     QString prepareFile();
+    bool continuesFile() const;
     void tellProgress(qint64 bytesRead, qint64 totalBytes);
     void onTimeout();
     void awaitBytes();
@@ -261,6 +263,7 @@ private:
     std::unique_ptr<MRVPartialFile> m_file; // of a raw body
     bool m_isRaw = false; // the body that is coming, which then goes to the file
     qint64 m_offset = 0; // where the body that is coming begins
+    qint64 m_fileSize = -1; // of the whole file, as far as the answer states it
     QString m_contentType;
     QString m_failure; // why this object gave up the request, which is said in place of "canceled"
     std::shared_ptr<QVector<QNetworkReply *>> m_asking; // those that somebody is being asked about

@@ -120,6 +120,14 @@ int MrvCertificateCheck::collect(int isFine, void *store)
             QSslCertificate(derOf(X509_STORE_CTX_get_current_cert(chain)), QSsl::Der));
         if (!check->m_errors.contains(error)) {
             check->m_errors.append(error);
+            const char *const reason =
+                X509_verify_cert_error_string(X509_STORE_CTX_get_error(chain));
+            const QString text = error.error() == QSslError::UnspecifiedError
+                ? QString::fromLatin1(reason)
+                : error.errorString();
+            if (!check->m_texts.contains(text)) {
+                check->m_texts.append(text);
+            }
         }
     }
     return 1;

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QSslError>
 #include <QString>
+#include <QStringList>
 
 /**
  * Looks at the certificates of one connection, and keeps everything that is wrong with them, where
@@ -26,6 +27,8 @@ public:
 
     /** Empty until a certificate was refused. */
     QList<QSslError> errors() const { return m_errors; }
+    /** What is wrong, for the user: Qt's texts, or OpenSSL's where Qt has none. */
+    QStringList texts() const { return m_texts; }
     /** Which server's certificate it was: SHA-256 of it. Empty before there was one. */
     QByteArray digest() const { return m_digest; }
 
@@ -36,5 +39,6 @@ private:
     QString m_host;
     QByteArray m_accepted;
     QList<QSslError> m_errors;
+    QStringList m_texts;
     QByteArray m_digest;
 };

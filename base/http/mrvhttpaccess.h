@@ -24,10 +24,12 @@ struct MrvHttpContext;
  * proxyAuthenticationRequired(), where a login that was refused is asked for again, as often as
  * MRVHttpLimits allows; sslErrors() of the reply and the manager, where only the very certificate
  * that was asked about is accepted, for this request alone. A receiver may run an event loop, and
- * may abort or delete the reply and delete the manager. Proxies are those of the application, and
- * of the environment where that has none; cookies are those of the manager's jar. Redirects are
- * left to the caller, as Qt leaves them by default. The certificates that are trusted are the
- * system's, whatever the QSslConfiguration of a request says. GUI thread only.
+ * may abort or delete the reply and delete the manager, but not in the manager's own finished().
+ *
+ * Proxies are those of the application, and of the environment where that has none; cookies are
+ * those of the manager's jar. Redirects are left to the caller, as Qt leaves them by default. The
+ * certificates that are trusted are the system's, whatever the QSslConfiguration of a request says.
+ * Each request has a connection of its own. GUI thread only.
  *
  * @since 1.0
  */

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -19,9 +20,11 @@ constexpr int UnpackedAtOnce = 1 << 20;
 constexpr int ProgressInterval = 100; // milliseconds
 constexpr int MaxReason = 200; // characters that a server may say in an error text
 
-bool asksForLogin(int status)
+// Those that libcurl has.
+bool isKnownScheme(const QByteArray &challenge)
 {
-    return status == 401 || status == 407;
+    const QByteArray name = challenge.left(challenge.indexOf(' ')).toLower();
+    return name == "basic" || name == "digest" || name == "ntlm" || name == "negotiate";
 }
 
 bool isRedirect(int status)
@@ -147,7 +150,7 @@ void MrvHttpReply::start()
     if (isFinished()) {
         return;
     }
-    const QString refused = refusal();
+    const QString refused = m_manager ? refusal() : tr("Operation canceled");
     if (!refused.isEmpty()) {
         finish(ProtocolUnknownError, refused);
         return;
@@ -275,7 +278,7 @@ void MrvHttpReply::advance()
     const QPointer<MrvHttpReply> self(this);
     const MrvHttpTransfer *const transfer = m_transfer.get();
     const auto isGone = [&] { return !self || m_transfer.get() != transfer; };
-    if (!m_hasHead && transfer->hasHead() && !asksForLogin(transfer->status())) {
+    if (!m_hasHead && transfer->hasHead() && !asksForLogin()) {
         m_hasHead = true;
         takeHeaders();
         if (url().scheme() == QLatin1String("https")) {
@@ -303,6 +306,13 @@ void MrvHttpReply::advance()
     }
 }
 
+// A proxy's question means nothing where there is no proxy.
+bool MrvHttpReply::asksForLogin() const
+{
+    const int status = m_transfer->status();
+    return status == 401 || (status == 407 && m_proxy.type() != QNetworkProxy::NoProxy);
+}
+
 void MrvHttpReply::takeHeaders()
 {
     const int status = m_transfer->status();
@@ -314,7 +324,10 @@ void MrvHttpReply::takeHeaders()
     const QByteArray coding = m_transfer->header("Content-Encoding");
     if (MrvUnpacker::isKnown(coding) && !request().hasRawHeader("Accept-Encoding")) {
         m_unpacker = std::make_unique<MrvUnpacker>(coding);
+        setAttribute(QNetworkRequest::OriginalContentLengthAttribute,
+                     m_transfer->header("Content-Length").toLongLong());
     }
+    int cookieCount = 0;
     QByteArray cookies;
     for (const MrvHttpTransfer::Header &each : m_transfer->headers()) {
         const QByteArray name = each.first.toLower();
@@ -327,7 +340,7 @@ void MrvHttpReply::takeHeaders()
         const QByteArray separator = name == "set-cookie" ? "\n" : ", ";
         const bool isJoined = !before.isEmpty() && name != "content-length";
         setRawHeader(each.first, isJoined ? before + separator + each.second : each.second);
-        if (name == "set-cookie") {
+        if (name == "set-cookie" && ++cookieCount <= MRVHttpLimits::Cookies) {
             cookies += each.second + '\n';
         }
     }
@@ -410,10 +423,14 @@ void MrvHttpReply::conclude()
     if (m_transfer->result() == CURLE_PEER_FAILED_VERIFICATION
         && !m_transfer->certificateCheck().errors().isEmpty()) {
         askAboutCertificate();
-    } else if (isTunnel || (m_transfer->result() == CURLE_OK && m_transfer->status() == 407)) {
+    } else if (isTunnel) {
         askForProxyLogin();
-    } else if (m_transfer->result() == CURLE_OK && m_transfer->status() == 401) {
-        askForLogin();
+    } else if (m_transfer->result() == CURLE_OK && asksForLogin()) {
+        if (m_transfer->status() == 401) {
+            askForLogin();
+        } else {
+            askForProxyLogin();
+        }
     } else if (m_transfer->result() == CURLE_OK) {
         finishTransfer();
     } else {
@@ -425,29 +442,24 @@ void MrvHttpReply::askAboutCertificate()
 {
     const QPointer<MrvHttpReply> self(this);
     const QList<QSslError> errors = m_transfer->certificateCheck().errors();
+    const QStringList texts = m_transfer->certificateCheck().texts();
     const QByteArray digest = m_transfer->certificateCheck().digest();
     Q_EMIT sslErrors(errors);
     if (!self || isFinished()) {
         return;
     }
-    bool isIgnored = m_ignoresAll;
-    if (!isIgnored) {
-        isIgnored = true;
-        for (const QSslError &error : errors) {
-            isIgnored = isIgnored && m_ignored.contains(error);
-        }
-    }
-    if (isIgnored && digest != m_acceptedCertificate) {
+    // An answer is for this certificate: a server that then has another one is asked about again.
+    const QList<QSslError> ignored = std::exchange(m_ignored, {});
+    const bool isIgnored = std::exchange(m_ignoresAll, false)
+        || std::all_of(errors.cbegin(), errors.cend(),
+                       [&](const QSslError &error) { return ignored.contains(error); });
+    if (isIgnored && ++m_certificates <= MRVHttpLimits::Certificates) {
         m_acceptedCertificate = digest;
         transfer();
         return;
     }
-    QStringList reasons;
-    for (const QSslError &error : errors) {
-        reasons.append(error.errorString());
-    }
     finish(SslHandshakeFailedError,
-           tr("SSL handshake failed: %1").arg(reasons.join(QLatin1String(", "))));
+           tr("SSL handshake failed: %1").arg(texts.join(QLatin1String(", "))));
 }
 
 // Whether there is something to try that was not tried just now, and not too often.
@@ -466,12 +478,21 @@ bool MrvHttpReply::isAnotherLogin(const QString &user, const QString &password, 
 void MrvHttpReply::askForLogin()
 {
     const QPointer<MrvHttpReply> self(this);
+    const QList<MrvHttpTransfer::Header> headers = m_transfer->headers();
+    const bool isKnown = std::any_of(headers.cbegin(), headers.cend(), [](const auto &header) {
+        return header.first.toLower() == "www-authenticate" && isKnownScheme(header.second);
+    });
+    if (!isKnown) {
+        finish(AuthenticationRequiredError,
+               tr("The server asks for a login of a kind that is not supported"));
+        return;
+    }
     const QString realm = realmOf(m_transfer->header("WWW-Authenticate"));
     const QUrl server = url().adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery
                                        | QUrl::RemoveFragment);
     m_place = server.toString() + u'\n' + realm;
     const MrvHttpContext::Login known = m_context->logins.value(m_place);
-    if (m_logins == 0 && isAnotherLogin(known.first, known.second, &m_user, &m_password)) {
+    if (m_user.isEmpty() && isAnotherLogin(known.first, known.second, &m_user, &m_password)) {
         transfer();
         return;
     }
@@ -515,7 +536,7 @@ void MrvHttpReply::askForProxyLogin()
 
 void MrvHttpReply::finishTransfer()
 {
-    const bool isUnpacked = !m_unpacker || m_unpacker->isWhole() || m_received == 0;
+    const bool isUnpacked = !m_unpacker || m_unpacker->isWhole();
     if (!m_hasHead || !isUnpacked) {
         finish(RemoteHostClosedError, tr("Connection closed before the end"));
         return;
@@ -548,6 +569,9 @@ void MrvHttpReply::finishFailed()
         return finish(
             ProtocolFailure,
             tr("The server sends more than %1 bytes of headers").arg(MRVHttpLimits::HeaderBytes));
+    case Fault::HeaderLines:
+        return finish(ProtocolFailure,
+                      tr("The server sends more than %1 headers").arg(MRVHttpLimits::HeaderLines));
     case Fault::TwoLengths:
         return finish(ProtocolFailure, tr("The server states two different lengths"));
     case Fault::NoLength:

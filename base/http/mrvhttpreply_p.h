@@ -52,6 +52,7 @@ private:
     void advanceLater();
     bool takeHead();
     void takeHeaders();
+    bool asksForLogin() const;
     void takeBody();
     void holdBack();
     void tellProgress();
@@ -80,6 +81,7 @@ private:
     QElapsedTimer m_sinceProgress;
 
     int m_logins = 0;
+    int m_certificates = 0; // that somebody was asked about
     QString m_place; // what a login was asked for: the server and the realm
     QString m_user;
     QString m_password;

@@ -62,6 +62,10 @@ void MrvHttpTransfer::setOptions(const MrvHttpPlan &plan)
     set(CURLOPT_NOSIGNAL, 1L);
     // To end a request while a name is looked up would wait for the answer otherwise.
     set(CURLOPT_QUICK_EXIT, 1L);
+    // What a server says unasked on a connection that is kept would answer the next request, and an
+    // accepted certificate or a login is for one request alone.
+    set(CURLOPT_FRESH_CONNECT, 1L);
+    set(CURLOPT_FORBID_REUSE, 1L);
     set(CURLOPT_BUFFERSIZE, ReadBuffer);
     set(CURLOPT_ERRORBUFFER, &m_error[0]);
     set(CURLOPT_HEADERFUNCTION, &MrvHttpTransfer::onHeader);
@@ -95,6 +99,9 @@ void MrvHttpTransfer::setTls(const MrvHttpPlan &plan)
     if (system && !QFile::exists(QFile::decodeName(system))) {
         // Without it libcurl would not even connect, and nobody could be asked.
         set(CURLOPT_CAINFO, static_cast<const char *>(nullptr));
+    } else {
+        // With a folder, too, libcurl would read all certificates for each connection.
+        set(CURLOPT_CAPATH, static_cast<const char *>(nullptr));
     }
     if (!plan.caCertificates.isEmpty()) {
         curl_blob blob{const_cast<char *>(plan.caCertificates.constData()),
@@ -103,10 +110,8 @@ void MrvHttpTransfer::setTls(const MrvHttpPlan &plan)
         set(CURLOPT_CAPATH, static_cast<const char *>(nullptr));
     }
     if (!plan.acceptedCertificate.isEmpty()) {
-        // The check compares the whole certificate. Others must not find the connection.
+        // The check compares the whole certificate.
         set(CURLOPT_SSL_VERIFYHOST, 0L);
-        set(CURLOPT_FRESH_CONNECT, 1L);
-        set(CURLOPT_FORBID_REUSE, 1L);
     }
 }
 
@@ -122,7 +127,9 @@ void MrvHttpTransfer::setProxy(const QNetworkProxy &proxy)
     }
     curl_easy_setopt(m_handle, CURLOPT_PROXYTYPE,
                      long(isSocks ? CURLPROXY_SOCKS5_HOSTNAME : CURLPROXY_HTTP));
-    curl_easy_setopt(m_handle, CURLOPT_PROXY, proxy.hostName().toUtf8().constData());
+    const QString host = proxy.hostName();
+    const QString bracketed = host.contains(u':') ? u'[' + host + u']' : host;
+    curl_easy_setopt(m_handle, CURLOPT_PROXY, bracketed.toUtf8().constData());
     curl_easy_setopt(m_handle, CURLOPT_PROXYPORT, long(proxy.port()));
     curl_easy_setopt(m_handle, CURLOPT_NOPROXY, "");
     if (!proxy.user().isEmpty()) {
@@ -203,6 +210,10 @@ bool MrvHttpTransfer::readStatus(const QByteArray &line)
 
 bool MrvHttpTransfer::addHeader(const QByteArray &line)
 {
+    if (m_headers.size() == MRVHttpLimits::HeaderLines) {
+        m_fault = Fault::HeaderLines;
+        return false;
+    }
     const int colon = line.indexOf(':');
     if (colon <= 0) {
         return true;

@@ -77,7 +77,7 @@ public:
     const MrvCertificateCheck &certificateCheck() const { return m_check; }
 
     /** What ended the transfer where libcurl would have gone on. */
-    enum class Fault { None, HeaderBytes, TwoLengths, NoLength, Logins, TlsEnd };
+    enum class Fault { None, HeaderBytes, HeaderLines, TwoLengths, NoLength, Logins, TlsEnd };
     Fault fault() const { return m_fault; }
 
 private:

@@ -4,13 +4,14 @@
 
 namespace {
 
+constexpr int HeaderSize = 2; // of the beginning by which the kinds of deflate are told apart
 constexpr int GzipHeader = 16; // added to the window's bits; zlib.h, inflateInit2()
 
 // Two bytes, RFC 1950, 2.2. Some servers send "deflate" without them.
 bool hasZlibHeader(const QByteArray &bytes)
 {
-    return bytes.size() < 2
-        || ((uchar(bytes.at(0)) & 0x0f) == Z_DEFLATED
+    return bytes.size() >= HeaderSize
+        && ((uchar(bytes.at(0)) & 0x0f) == Z_DEFLATED
             && ((uchar(bytes.at(0)) << 8) | uchar(bytes.at(1))) % 31 == 0);
 }
 
@@ -46,6 +47,19 @@ void MrvUnpacker::add(const QByteArray &packed)
     m_packed += packed;
 }
 
+bool MrvUnpacker::hasMore() const
+{
+    const int left = m_packed.size() - m_at;
+    const bool canBegin = m_stream ? left > 0 : left >= HeaderSize;
+    return !m_isDamaged && (canBegin || (m_isFull && !m_isAtEnd));
+}
+
+bool MrvUnpacker::isWhole() const
+{
+    const bool isNothing = !m_stream && m_packed.isEmpty();
+    return isNothing || (m_isAtEnd && !m_isDamaged && m_at == m_packed.size());
+}
+
 bool MrvUnpacker::begin()
 {
     m_stream = std::make_unique<Stream>();
@@ -60,6 +74,13 @@ QByteArray MrvUnpacker::take(int size)
     QByteArray result(size, Qt::Uninitialized);
     int done = 0;
     while (hasMore() && done < size) {
+        // Some pad with zeros, as gzip itself allows.
+        while (m_isAtEnd && m_at < m_packed.size() && m_packed.at(m_at) == '\0') {
+            ++m_at;
+        }
+        if (m_isAtEnd && m_at == m_packed.size()) {
+            break;
+        }
         // A packed body may be several, one after another; RFC 1952, 2.2.
         if (!m_stream || m_isAtEnd) {
             m_isDamaged = !begin();
@@ -77,6 +98,7 @@ QByteArray MrvUnpacker::take(int size)
         done = size - int(m_stream->avail_out);
         m_isAtEnd = state == Z_STREAM_END;
         m_isDamaged = !m_isAtEnd && state != Z_OK && state != Z_BUF_ERROR;
+        m_isFull = m_stream->avail_out == 0;
     }
     result.truncate(done);
     return result;

@@ -17,11 +17,11 @@ public:
     /** More of the packed body. */
     void add(const QByteArray &packed);
     /** Whether take() has work to do. */
-    bool hasMore() const { return m_at < m_packed.size() && !m_isDamaged; }
+    bool hasMore() const;
     /** Unpacks at most @p size bytes of what was added. */
     QByteArray take(int size);
     /** Whether all that was added is whole and well. */
-    bool isWhole() const { return m_isAtEnd && !m_isDamaged && m_at == m_packed.size(); }
+    bool isWhole() const;
     bool isDamaged() const { return m_isDamaged; }
 
 private:
@@ -33,6 +33,7 @@ private:
     bool m_isGzip;
     QByteArray m_packed;
     int m_at = 0; // up to where it was unpacked
+    bool m_isFull = false; // the last piece, so that there may be more of it
     bool m_isAtEnd = false;
     bool m_isDamaged = false;
 };

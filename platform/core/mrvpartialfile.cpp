@@ -2,7 +2,6 @@
 
 #include "core/mrverrorline_p.h"
 #include "core/mrvfilesteps_p.h"
-#include "core/mrvfilewriter.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -23,9 +22,12 @@ constexpr qint64 SyncedAtOnce = 8 << 20;
 constexpr int WrittenAtOnce = 64 * 1024;
 constexpr qint64 MaxOrigin = 16 * 1024;
 
-// The first line of an origin says what the part can be trusted after: anything, or all but a fall
-// of the machine, of which each life has its own name.
+// The first line of an origin begins with this, and goes on with what the part can be trusted
+// after: anything, or all but a fall of the machine, of which each life has its own name.
+constexpr const char *Mark = "part of a download, ";
 constexpr const char *OnDisk = "on disk";
+constexpr int MaxNumber = 9;
+constexpr mode_t PrivateFile = 0600;
 
 QByteArray thisBoot()
 {
@@ -33,23 +35,45 @@ QByteArray thisBoot()
     return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed() : QByteArray();
 }
 
-// A descriptor of the plain file of this user at @p path, which is made where there is none; -1 for
-// anything else.
-int openPlain(const QString &path)
+QString originOf(const QString &part)
+{
+    return part + QLatin1String(".origin");
+}
+
+// Whether an open file is a plain one of this user, without other names, and still at @p path.
+bool isOurs(int handle, const QByteArray &path)
+{
+    struct stat opened;
+    struct stat there;
+    return ::fstat(handle, &opened) == 0 && ::lstat(path.constData(), &there) == 0
+        && S_ISREG(opened.st_mode) && opened.st_uid == ::geteuid() && opened.st_nlink == 1
+        && opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+}
+
+// The contents of an open origin; false where it is something else. An empty file holds the name
+// for one.
+bool readMarked(int handle, const QByteArray &path, QByteArray *bytes)
+{
+    if (!isOurs(handle, path)) {
+        return false;
+    }
+    QByteArray buffer(int(MaxOrigin), '\0');
+    const ssize_t size = ::pread(handle, buffer.data(), size_t(buffer.size()), 0);
+    *bytes = buffer.left(int(qMax(ssize_t(0), size)));
+    return size == 0 || bytes->startsWith(Mark);
+}
+
+// The same of the one at @p path; empty where there is none.
+QByteArray readMarked(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
-    const int handle =
-        ::open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, 0666);
-    struct stat file;
-    if (handle < 0 || ::fstat(handle, &file) != 0) {
-        return -1;
+    const int handle = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    QByteArray bytes;
+    const bool isMarked = handle >= 0 && readMarked(handle, name, &bytes);
+    if (handle >= 0) {
+        ::close(handle);
     }
-    if (S_ISREG(file.st_mode) && file.st_uid == ::geteuid() && file.st_nlink == 1) {
-        return handle;
-    }
-    ::close(handle);
-    errno = EPERM;
-    return -1;
+    return isMarked ? bytes : QByteArray();
 }
 
 } // namespace
@@ -91,58 +115,104 @@ bool MRVPartialFile::open(QString *error)
 // Empty on success, else the reason.
 QString MRVPartialFile::openPart()
 {
-    const QString suffix = QStringLiteral(".part");
     const QFileInfo target(m_target);
-    const bool isLong = QFile::encodeName(target.fileName() + suffix).size() > MaxName;
-    const QByteArray name = target.fileName().toUtf8();
-    const QString hash =
-        QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex());
-    m_name = isLong ? target.path() + u'/' + hash + suffix : m_target + suffix;
-
-    int handle = openPlain(m_name);
-    if (handle < 0 && ::unlink(QFile::encodeName(m_name).constData()) == 0) {
-        handle = openPlain(m_name);
+    const QString longest = QStringLiteral(".9.part.origin.XXXXXX"); // of a part's names
+    const bool isLong = QFile::encodeName(target.fileName() + longest).size() > MaxName;
+    const QByteArray hash =
+        QCryptographicHash::hash(target.fileName().toUtf8(), QCryptographicHash::Sha256);
+    const QString base =
+        isLong ? target.path() + u'/' + QString::fromLatin1(hash.toHex()) : m_target;
+    int error = 0;
+    for (int number = 0; number <= MaxNumber; ++number) {
+        const QString infix = number == 0 ? QString() : u'.' + QString::number(number);
+        m_name = base + infix + QLatin1String(".part");
+        bool isTaken = false;
+        const int handle = openPart(m_name, &isTaken);
+        error = errno;
+        if (isTaken) {
+            return tr("another program is writing it");
+        }
+        if (handle >= 0) {
+            m_part.open(handle, QIODevice::ReadWrite | QIODevice::Unbuffered,
+                        QFileDevice::AutoCloseHandle);
+            m_part.seek(m_part.size());
+            return QString();
+        }
+        if (error != EEXIST) {
+            break;
+        }
     }
-    if (handle < 0) {
-        return qt_error_string(errno);
-    }
-    if (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
-        ::close(handle);
-        return tr("another program is writing it");
-    }
-    m_part.open(handle, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
-    m_part.seek(m_part.size());
-    return QString();
+    return qt_error_string(error);
 }
 
-QString MRVPartialFile::originPath() const
+// A handle of the part, which belongs to this object then; -1 with errno, which is EEXIST where
+// something else has the name.
+int MRVPartialFile::openPart(const QString &name, bool *isTaken)
 {
-    return m_name + QLatin1String(".origin");
+    const QByteArray path = QFile::encodeName(name);
+    const int handle =
+        ::open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, 0666);
+    if (handle < 0) {
+        struct stat there;
+        const int error = errno;
+        errno = ::lstat(path.constData(), &there) == 0 ? EEXIST : error;
+        return -1;
+    }
+    // Whoever had the lock before may have put the file into its place, or removed it. And without
+    // an origin only an empty file is one.
+    *isTaken = isOurs(handle, path) && ::flock(handle, LOCK_EX | LOCK_NB) != 0;
+    struct stat status;
+    if (*isTaken || !isOurs(handle, path) || ::fstat(handle, &status) != 0
+        || (status.st_size > 0 && readMarked(originOf(name)).isEmpty())) {
+        ::close(handle);
+        errno = EEXIST;
+        return -1;
+    }
+    return handle;
 }
 
 void MRVPartialFile::readOrigin()
 {
-    m_origin.clear();
-    const int handle = ::open(QFile::encodeName(originPath()).constData(),
-                              O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
-    struct stat status;
-    QFile file;
-    if (handle >= 0 && ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode)
-        && status.st_uid == ::geteuid() && file.open(handle, QIODevice::ReadOnly)) {
-        const QByteArray state = file.readLine().trimmed();
-        if (state == OnDisk || (!state.isEmpty() && state == thisBoot())) {
-            m_origin = file.read(MaxOrigin);
-        }
-        file.close();
-    }
-    if (handle >= 0) {
-        ::close(handle);
+    const QByteArray bytes = readMarked(originOf(m_name));
+    const int end = bytes.indexOf('\n');
+    m_state = bytes.left(end).mid(int(qstrlen(Mark)));
+    const bool isTrusted = m_state == OnDisk || (!m_state.isEmpty() && m_state == thisBoot());
+    m_origin = isTrusted ? bytes.mid(end + 1) : QByteArray();
+    if (m_origin.isEmpty()) {
+        writeOrigin(thisBoot());
     }
 }
 
+// Not synced: what is lost of it only begins the part again.
 bool MRVPartialFile::writeOrigin(const QByteArray &state)
 {
-    return MRVFileWriter::write(originPath(), state + '\n' + m_origin, nullptr);
+    const QByteArray path = QFile::encodeName(originOf(m_name));
+    const QByteArray bytes = Mark + state + '\n' + m_origin;
+    const int handle = ::open(path.constData(),
+                              O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, PrivateFile);
+    if (handle < 0) {
+        return false;
+    }
+    QByteArray before;
+    const bool isWritten = readMarked(handle, path, &before) && ::fchmod(handle, PrivateFile) == 0
+        && ::ftruncate(handle, 0) == 0
+        && ::pwrite(handle, bytes.constData(), size_t(bytes.size()), 0) == bytes.size();
+    ::close(handle);
+    m_state = state;
+    return isWritten;
+}
+
+void MRVPartialFile::removeOrigin()
+{
+    const QByteArray path = QFile::encodeName(originOf(m_name));
+    const int handle = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK);
+    QByteArray bytes;
+    if (handle >= 0) {
+        if (readMarked(handle, path, &bytes)) {
+            ::unlink(path.constData());
+        }
+        ::close(handle);
+    }
 }
 
 qint64 MRVPartialFile::size() const
@@ -154,14 +224,13 @@ bool MRVPartialFile::restart(const QByteArray &origin, QString *error)
 {
     m_origin.clear();
     m_synced = 0;
-    ::unlink(QFile::encodeName(originPath()).constData());
     if (!m_part.resize(0) || !m_part.seek(0)) {
         return fail(m_part.errorString(), error);
     }
     if (origin.size() <= MaxOrigin) {
         m_origin = origin;
     }
-    if (!m_origin.isEmpty() && !writeOrigin(thisBoot())) {
+    if (!writeOrigin(thisBoot())) {
         m_origin.clear();
     }
     return true;
@@ -169,6 +238,10 @@ bool MRVPartialFile::restart(const QByteArray &origin, QString *error)
 
 bool MRVPartialFile::append(const QByteArray &bytes, QString *error)
 {
+    // What comes now is on the disk only after the next sync.
+    if (m_state == OnDisk) {
+        writeOrigin(thisBoot());
+    }
     QString reason;
     for (int at = 0; at < bytes.size(); at += WrittenAtOnce) {
         const QByteArray piece =
@@ -195,12 +268,12 @@ bool MRVPartialFile::putInPlace(QString *error)
     if (!MrvFileSteps::syncToDisk(m_part.handle())) {
         return fail(qt_error_string(errno), error);
     }
-    if (!MrvFileSteps::renameOver(m_name, m_target)) {
-        return fail(qt_error_string(errno), error);
-    }
-    ::unlink(QFile::encodeName(originPath()).constData());
+    const bool isInPlace = MrvFileSteps::renameOver(m_name, m_target);
+    const int reason = errno;
+    // In this order: as long as the file is open, nobody else takes it for a part.
+    removeOrigin();
     m_part.close();
-    return true;
+    return isInPlace || fail(qt_error_string(reason), error);
 }
 
 bool MRVPartialFile::fail(const QString &reason, QString *error)
@@ -211,7 +284,7 @@ bool MRVPartialFile::fail(const QString &reason, QString *error)
 
 void MRVPartialFile::remove()
 {
-    m_part.close();
     ::unlink(QFile::encodeName(m_name).constData());
-    ::unlink(QFile::encodeName(originPath()).constData());
+    removeOrigin();
+    m_part.close();
 }

@@ -16,8 +16,9 @@
  * whole machine, which leaves holes in files, a part is begun again. The same places are refused as
  * by MRVFileWriter, and the same of an old file is kept.
  *
- * The part must be a plain file of this user without other names; anything else of its name is
- * removed before. Another process that is writing it makes open() fail.
+ * "NAME.part.origin" beside it, which only this user can read, says that the part is one. Anything
+ * else of such a name is left alone, and the part gets a number. Another process that is writing
+ * the part makes open() fail.
  *
  * @since 1.0
  */
@@ -69,16 +70,18 @@ public:
 
 private:
     QString openPart();
-    QString originPath() const;
+    int openPart(const QString &name, bool *isTaken);
     void readOrigin();
     bool writeOrigin(const QByteArray &state);
     bool fail(const QString &reason, QString *error);
     void remove();
+    void removeOrigin();
 
     const QString m_path;
     QString m_target;
     QString m_name; // of the part; QFile forgets the name of what it is opened by a handle
     QFile m_part;
+    QByteArray m_state; // what the origin says that the part can be trusted after
     QByteArray m_origin;
     qint64 m_synced = 0; // what the system was asked to bring to the disk
 };

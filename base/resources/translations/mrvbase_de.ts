@@ -382,8 +382,8 @@ Fehler: %2</translation>
         <translation>Netzwerk nicht erreichbar</translation>
     </message>
     <message>
-        <source>The server sends another part than was asked for</source>
-        <translation>Der Server sendet einen anderen Teil, als angefordert wurde</translation>
+        <source>The server has not answered for %1 s</source>
+        <translation>Der Server hat seit %1 s nicht geantwortet</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5022,14 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>No connection to the proxy %1: %2</source>
         <translation>Keine Verbindung zum Proxy %1: %2</translation>
+    </message>
+    <message>
+        <source>The server asks for a login of a kind that is not supported</source>
+        <translation>Der Server verlangt eine Anmeldung, deren Art nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 headers</source>
+        <translation>Der Server sendet mehr als %1 Kopfzeilen</translation>
     </message>
 </context>
 <context>

@@ -382,8 +382,8 @@ Error: %2</translation>
         <translation>Red no accesible</translation>
     </message>
     <message>
-        <source>The server sends another part than was asked for</source>
-        <translation>El servidor envía una parte distinta de la solicitada</translation>
+        <source>The server has not answered for %1 s</source>
+        <translation>El servidor no ha respondido durante %1 s</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5022,14 @@ Comuníquelo a %1.</translation>
     <message>
         <source>No connection to the proxy %1: %2</source>
         <translation>Sin conexión con el proxy %1: %2</translation>
+    </message>
+    <message>
+        <source>The server asks for a login of a kind that is not supported</source>
+        <translation>El servidor requiere un tipo de autenticación que no se admite</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 headers</source>
+        <translation>El servidor envía más de %1 encabezados</translation>
     </message>
 </context>
 <context>

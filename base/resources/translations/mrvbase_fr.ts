@@ -382,8 +382,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Réseau inaccessible</translation>
     </message>
     <message>
-        <source>The server sends another part than was asked for</source>
-        <translation>Le serveur envoie une autre partie que celle demandée</translation>
+        <source>The server has not answered for %1 s</source>
+        <translation>Le serveur n’a pas répondu depuis %1 s</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5022,14 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>No connection to the proxy %1: %2</source>
         <translation>Pas de connexion au proxy %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The server asks for a login of a kind that is not supported</source>
+        <translation>Le serveur demande un type d’identification qui n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>The server sends more than %1 headers</source>
+        <translation>Le serveur envoie plus de %1 en-têtes</translation>
     </message>
 </context>
 <context>
