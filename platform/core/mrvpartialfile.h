@@ -56,6 +56,7 @@ public:
     /**
      * Adds bytes at the end.
      *
+     * @param bytes may be empty.
      * @param error as for open().
      */
     bool append(const QByteArray &bytes, QString *error = nullptr);
