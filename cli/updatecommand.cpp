@@ -174,9 +174,13 @@ bool Check::download()
     if (!m_isReady && m_error.isEmpty()) {
         m_loop.exec();
     }
-    // Never over a file that has come meanwhile.
+    // Never over a file that has come meanwhile. The signature is for --verify.
     if (m_error.isEmpty() && !QFile::rename(m_model.downloadFilePath(), m_file)) {
         m_error = QStringLiteral("%1 cannot be written").arg(m_file);
+    }
+    if (m_error.isEmpty() && m_model.needsSignature()
+        && !QFile::rename(m_model.signatureFilePath(), signatureOf(m_file))) {
+        m_error = QStringLiteral("%1 cannot be written").arg(signatureOf(m_file));
     }
     return m_error.isEmpty();
 }
@@ -356,7 +360,9 @@ constexpr Option options[] = {
         "key", "FILE",
         "The maker's public key, as minisign writes it: the feed and the installer must be "
         "signed with it, in files of their names and .minisig."),
-    Option::flag("download", "Download the installer of a newer version, and check it."),
+    Option::flag(
+        "download",
+        "Download the installer of a newer version, and with --key its signature, and check it."),
     Option::name("o output", "DIR",
                  "The folder for the installer, in which no file is replaced. Default: the current "
                  "one."),

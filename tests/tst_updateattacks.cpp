@@ -61,9 +61,13 @@ QByteArray feedOf(const QString &cell)
     if (cell.startsWith('<') || cell.startsWith("302 ") || cell == "404") {
         return cell.toUtf8();
     }
+    QString more = valueIn(cell, "X", {});
+    if (!more.contains("<application")) {
+        more += "<application>Morvane</application>";
+    }
     return QString("<u><version>%1</version><linuxfilename>%2</linuxfilename><url>%3</url>%4</u>")
         .arg(valueIn(cell, "V", "3.0.0.0"), valueIn(cell, "N", "morvane.run"),
-             valueIn(cell, "U", "http://d.example/"), valueIn(cell, "X", {}))
+             valueIn(cell, "U", "http://d.example/"), more)
         .toUtf8();
 }
 
@@ -81,7 +85,7 @@ QByteArray signatureOf(const QByteArray &bytes, const QString &file, const QStri
     }
     const QString key = valueIn(cell, "key", "a");
     const Signer signer(key[0].toLatin1(), key == "b" ? "other id" : "maker id");
-    QString comment = "timestamp:" + valueIn(cell, "time", "1795270412")
+    QString comment = "timestamp:" + valueIn(cell, "time", "1700000412")
         + "\tfile:" + valueIn(cell, "file", file);
     const QString bound = valueIn(cell, "version", version);
     comment += bound.isEmpty() ? QString() : "\tversion:" + bound;
@@ -152,8 +156,7 @@ private Q_SLOTS:
         compareRest(said);
         if (said == "installed" && geteuid() == getuid()) {
             const bool isSigned = cell("key").isEmpty();
-            QCOMPARE(MRVUpdateState::load().feedTime, isSigned ? 1795270412 : 0);
-            QCOMPARE(MRVUpdateState::load().feedVersion, QString(isSigned ? "3.0.0.0" : ""));
+            QCOMPARE(MRVUpdateState::load().feedTime, isSigned ? 1700000412 : 0);
         }
     }
 
@@ -301,14 +304,13 @@ private:
         answer("http://mirror.example/", run);
     }
 
-    // "seen VERSION TIME" is kept of an earlier check. "KIND NAME" is what this user has in the
+    // "seen TIME" is kept of an earlier check. "KIND NAME" is what this user has in the
     // temporary folder, and "other KIND NAME" what another one has there.
     void plant(QStringList words)
     {
         if (words[0] == "seen") {
             QSettings settings("Morvane", "Morvane");
-            settings.setValue("Updates/feedVersion", words.value(1));
-            settings.setValue("Updates/feedTime", words.value(2));
+            settings.setValue("Updates/feedTime", words.value(1));
             return;
         }
         const bool isOther = words[0] == "other";
@@ -333,8 +335,9 @@ private:
                 : words[i] == "pipe"               ? mkfifo(name, 0666) == 0
                                                    : false;
             QVERIFY2(isMade, name.constData());
-            // Links and pipes of this user give way.
-            if (isOther || words[i] == "folder") {
+            // Links and pipes of this user give way to the feed, whose name the network has not
+            // chosen.
+            if (isOther || words[i] == "folder" || words[i + 1] == "morvane.run") {
                 m_planted << QFileInfo(path).fileName();
             }
         }

@@ -127,19 +127,18 @@ private Q_SLOTS:
         state.skippedVersion = "3.0.0.0";
         state.remindAfter = now;
         state.rolloutNumber = 42;
-        state.feedVersion = "3.0.0.1";
-        state.feedTime = 1795270412;
+        state.feedTime = 1700000412;
         state.save();
         const MRVUpdateState kept = MRVUpdateState::load();
         QCOMPARE(kept.skippedVersion, state.skippedVersion);
         QCOMPARE(kept.remindAfter, state.remindAfter);
         QCOMPARE(kept.rolloutNumber, state.rolloutNumber);
-        QCOMPARE(kept.feedVersion, state.feedVersion);
         QCOMPARE(kept.feedTime, state.feedTime);
         QSettings("Morvane", "Morvane").setValue("Updates/rolloutNumber", 100);
         QCOMPARE(MRVUpdateState::load().rolloutNumber, -1);
         MRVUpdateState().save();
-        QCOMPARE(QSettings("Morvane", "Morvane").allKeys(), QStringList());
+        QCOMPARE(QSettings("Morvane", "Morvane").allKeys(), QStringList("Updates/feedTime"));
+        QCOMPARE(MRVUpdateState::load().feedTime, state.feedTime);
     }
 };
 

@@ -47,9 +47,9 @@ private Q_SLOTS:
         dialog.show();
         auto *view = dialog.findChild<QWidget *>("webView");
         QVERIFY(view->inherits(QTest::currentDataTag()));
-        QTRY_COMPARE(titleOf(view), QString("Notes"));
+        QTRY_COMPARE(titleOf(view), QString("Release notes"));
         QTest::qWait(50); // the page's attempt to go elsewhere
-        QCOMPARE(titleOf(view), QString("Notes"));
+        QCOMPARE(titleOf(view), QString("Release notes"));
         QVERIFY(dialog.grab().save(
             QString(MRV_BINARY_DIR "/update-dialog-%1.png").arg(QTest::currentDataTag())));
         view->setFocus();
@@ -214,14 +214,14 @@ private Q_SLOTS:
             MRVCheckForUpdatesDialog dialog("http://www.example/");
             dialog.show();
             auto *view = dialog.findChild<QWidget *>("webView");
-            QTRY_COMPARE(titleOf(view), QString("Notes"));
+            QTRY_COMPARE(titleOf(view), QString("Release notes"));
             view->setFocus();
             QTest::keyClick(view, Qt::Key_Tab);
             QTest::keyClick(view, Qt::Key_Return);
             const auto *browser = qobject_cast<QTextBrowser *>(view);
             QTRY_VERIFY(browser ? browser->verticalScrollBar()->value() > 1000
                                 : view->property("url").toUrl().fragment() == "end");
-            QCOMPARE(titleOf(view), QString("Notes"));
+            QCOMPARE(titleOf(view), QString("Release notes"));
         }
         QCOMPARE(m_opened, QStringList());
     }

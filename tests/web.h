@@ -24,8 +24,8 @@ inline QByteArray feedOf(const QString &text)
     return parts.size() != 3
         ? text.toUtf8()
         : QString("<?xml version='1.0'?><update><version>%1</version><linuxfilename>%2"
-                  "</linuxfilename><url>%3</url></update>")
-              .arg(parts[0], parts[1], parts[2])
+                  "</linuxfilename><url>%3</url><application>%4</application></update>")
+              .arg(parts[0], parts[1], parts[2], QCoreApplication::applicationName())
               .toUtf8();
 }
 

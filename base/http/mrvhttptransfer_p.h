@@ -33,7 +33,7 @@ struct MrvHttpPlan
  * One request to a server and what comes of it: libcurl sends it again by itself only for the steps
  * of an authentication.
  */
-class MrvHttpTransfer : public MrvHttpTransferClient
+class MrvHttpTransfer final : public MrvHttpTransferClient
 {
 public:
     using Header = QPair<QByteArray, QByteArray>;

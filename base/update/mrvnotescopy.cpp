@@ -107,8 +107,7 @@ MRVNotesCopy::MRVNotesCopy(const MRVNotesLook &look, QTextDocument *to)
 
 void MRVNotesCopy::copy(const QTextDocument &from)
 {
-    m_cursor.document()->setMetaInformation(QTextDocument::DocumentTitle,
-                                            from.metaInformation(QTextDocument::DocumentTitle));
+    // No title: Qt writes it into HTML as it stands.
     m_cursor.beginEditBlock();
     copyFlow(from.rootFrame()->begin());
     m_cursor.endEditBlock();
@@ -285,8 +284,8 @@ void MRVNotesCopy::copyText(const QString &text, const QTextCharFormat &format)
 void MRVNotesCopy::copyPicture(const QTextImageFormat &picture, const QTextCharFormat &format)
 {
     const QUrl url = m_look.page.resolved(QUrl(picture.name()));
-    if (m_look.pictures == MRVNotesPictures::Text
-        || (!isOnTheWeb(url) && url.scheme() != QLatin1String("data"))) {
+    // A web engine decodes those that are in the page by itself, whatever they take.
+    if (m_look.pictures == MRVNotesPictures::Text || !isOnTheWeb(url)) {
         copyText(picture.stringProperty(QTextFormat::ImageAltText), format);
         return;
     }

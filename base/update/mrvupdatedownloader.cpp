@@ -17,6 +17,7 @@ namespace {
 // One byte more than the model takes, so that the model refuses a feed that is too large.
 constexpr qint64 MaxFeedDownload = MRVUpdateModel::MaxFeedSize + 1;
 constexpr qint64 MaxSignatureDownload = 64 * 1024;
+constexpr int SmallFileDeadline = 60 * 1000; // milliseconds
 
 } // namespace
 
@@ -93,6 +94,8 @@ bool MRVUpdateDownloader::startUpdate(bool silent)
     }
     if (!m_downloader) {
         m_downloader = new MRVDownloadUrl(this);
+        m_deadline.setSingleShot(true);
+        connect(&m_deadline, &QTimer::timeout, this, &MRVUpdateDownloader::onLate);
         connectDownloader();
     }
     prepareState();
@@ -158,6 +161,12 @@ bool MRVUpdateDownloader::download(Step step)
     m_downloader->setMaximumSize(target.maximumSize);
     m_downloader->setBody(target.body);
     m_downloader->setResumable(step == Step::Installer);
+    m_isLate = false;
+    if (step == Step::Installer) {
+        m_deadline.stop();
+    } else {
+        m_deadline.start(SmallFileDeadline);
+    }
     return m_downloader->downloadToFile(url, target.path);
 }
 
@@ -183,6 +192,7 @@ void MRVUpdateDownloader::onDownloaded()
         tellDownloadError(tr("The server redirected the download to an address that is not safe."));
         return;
     }
+    m_deadline.stop();
     const QPointer<MRVUpdateDownloader> self(this);
     switch (m_step) {
     case Step::FeedSignature:
@@ -204,8 +214,17 @@ void MRVUpdateDownloader::onDownloaded()
     }
 }
 
-void MRVUpdateDownloader::tellDownloadError(const QString &error)
+// A byte now and then would hold up a check, and all that come after it, without end.
+void MRVUpdateDownloader::onLate()
 {
+    m_isLate = true;
+    m_downloader->cancelDownload();
+}
+
+void MRVUpdateDownloader::tellDownloadError(const QString &reason)
+{
+    const QString error = m_isLate ? tr("The server takes too long.") : reason;
+    m_deadline.stop();
     // Errors after the feed was evaluated are reported where the user asked for the download.
     if (m_model->isNewerAvailable()) {
         if (m_dialog) {
@@ -397,6 +416,7 @@ void MRVUpdateDownloader::cancelUpdate()
         return;
     }
     m_ended = true;
+    m_deadline.stop();
     if (m_dialog) {
         m_dialog->hide();
         m_dialog->deleteLater();

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -116,7 +117,8 @@ private:
     void next(Step step);
     void onProgress(qint64 bytesRead, qint64 total);
     void onDownloaded();
-    void tellDownloadError(const QString &error);
+    void onLate();
+    void tellDownloadError(const QString &reason);
     void endWith(QMessageBox::Icon icon, const QString &text);
     void showDialog();
     void showChecking();
@@ -131,6 +133,8 @@ private:
     std::unique_ptr<MRVRedirectPolicy> m_redirects;
     MRVUpdatePolicy m_policy;
     Step m_step = Step::Feed;
+    QTimer m_deadline; // of a feed or a signature
+    bool m_isLate = false;
     bool m_ended = false;
     bool m_isTelling = false; // what ends the check
 };

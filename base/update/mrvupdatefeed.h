@@ -50,7 +50,7 @@ struct MRVUpdateOffer
  * | critical | "true" or "false": whether users should not put it off |
  * | rollout | 0 to 100: how many of a hundred users it is offered to |
  * | expires | a date (the last day, in UTC) or an ISO date-time: the feed is not valid afterwards |
- * | application | the name of the application that it is for |
+ * | application | the name of the application that it is for; a signed feed needs it |
  * | channel | with an attribute "name": the elements up to "rollout" again, for a channel |
  *
  * Channels come after the first three, which older versions of an application look for in the whole

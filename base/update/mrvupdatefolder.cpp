@@ -39,9 +39,9 @@ QString MRVUpdateFolder::filePath(const QString &name) const
     return (m_privatePath.isEmpty() ? QDir::tempPath() : m_privatePath) + u'/' + name;
 }
 
-bool MRVUpdateFolder::claim(const QString &name, QString *error)
+bool MRVUpdateFolder::claim(const QString &name, bool mayReplace, QString *error)
 {
-    if (claimAll(filePath(name))) {
+    if (claimAll(filePath(name), mayReplace)) {
         return true;
     }
     const QString reason = qt_error_string(errno);
@@ -49,7 +49,7 @@ bool MRVUpdateFolder::claim(const QString &name, QString *error)
     if (m_privatePath.isEmpty()) {
         m_private = std::make_unique<MRVTemporaryFolder>(QDir::tempPath());
         m_privatePath = m_private->path();
-        if (!m_privatePath.isEmpty() && claimAll(filePath(name))) {
+        if (!m_privatePath.isEmpty() && claimAll(filePath(name), mayReplace)) {
             return true;
         }
         m_private.reset();
@@ -58,9 +58,9 @@ bool MRVUpdateFolder::claim(const QString &name, QString *error)
     return MRV::fail(error, tr("Cannot write the file \"%1\": %2").arg(path, reason));
 }
 
-bool MRVUpdateFolder::claimAll(const QString &path)
+bool MRVUpdateFolder::claimAll(const QString &path, bool mayReplace)
 {
-    return lock(path + QLatin1String(".lock")) && claimPath(path)
+    return lock(path + QLatin1String(".lock")) && claimPath(path, mayReplace)
         && claimPath(path + QLatin1String(".part"))
         && claimPath(path + QLatin1String(".part.origin"));
 }
@@ -90,13 +90,16 @@ bool MRVUpdateFolder::lock(const QString &path)
     return false;
 }
 
-bool MRVUpdateFolder::claimPath(const QString &path)
+bool MRVUpdateFolder::claimPath(const QString &path, bool mayReplace)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status;
     if (createNew(name)) {
         note(path, 0);
     } else if (::lstat(name.constData(), &status) != 0 || status.st_uid != ::geteuid()) {
+        return false;
+    } else if (!mayReplace && !isNoted(path)) {
+        errno = EEXIST;
         return false;
     } else if (S_ISREG(status.st_mode)) {
         note(path, quint64(status.st_ino));
@@ -108,11 +111,15 @@ bool MRVUpdateFolder::claimPath(const QString &path)
     return true;
 }
 
+bool MRVUpdateFolder::isNoted(const QString &path) const
+{
+    return std::any_of(m_claims.cbegin(), m_claims.cend(),
+                       [&](const Claim &claim) { return claim.path == path; });
+}
+
 void MRVUpdateFolder::note(const QString &path, quint64 before)
 {
-    const bool isNoted = std::any_of(m_claims.cbegin(), m_claims.cend(),
-                                     [&](const Claim &claim) { return claim.path == path; });
-    if (!isNoted) {
+    if (!isNoted(path)) {
         m_claims.append({path, before});
     }
 }

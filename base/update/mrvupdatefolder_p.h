@@ -31,12 +31,14 @@ public:
     /** The path under a name; in the folder itself for an empty one. */
     QString filePath(const QString &name) const;
     /**
-     * Claims a name. Links and pipes of this user are removed, a file of this user is kept until it
-     * is replaced. To be called before each download, which may have given names back.
+     * Claims a name. To be called before each download, which may have given names back.
      *
+     * @param mayReplace whether a file of this user may lie there and will be replaced, and links
+     *                   and pipes removed: for names that the application has chosen, and not
+     *                   the network.
      * @param error receives a translated line where neither folder takes the file.
      */
-    bool claim(const QString &name, QString *error);
+    bool claim(const QString &name, bool mayReplace, QString *error);
     /** Removes all files that were claimed, except those that were there before. */
     void clear();
     /** Leaves a file where it is for good. */
@@ -49,9 +51,10 @@ private:
         quint64 before = 0; // the inode of a file that was there before; 0 for none
     };
 
-    bool claimAll(const QString &path);
+    bool claimAll(const QString &path, bool mayReplace);
     bool lock(const QString &path);
-    bool claimPath(const QString &path);
+    bool claimPath(const QString &path, bool mayReplace = true);
+    bool isNoted(const QString &path) const;
     void note(const QString &path, quint64 before);
     void forget(const QString &path);
 

@@ -41,6 +41,13 @@ bool isFileName(const QString &name)
     });
 }
 
+// A signature of a feed may be so late that clocks which are a day fast do not matter.
+qint64 latestTime()
+{
+    constexpr qint64 Day = 24 * 60 * 60;
+    return QDateTime::currentSecsSinceEpoch() + Day;
+}
+
 } // namespace
 
 MRVUpdateModel::MRVUpdateModel(QObject *parent)
@@ -109,17 +116,17 @@ void MRVUpdateModel::setPolicy(const MRVUpdatePolicy &policy, bool isAsked)
 bool MRVUpdateModel::claimFeed(QString *error)
 {
     // The signature again, in case the feed has moved to the private folder.
-    return (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), error))
-        && m_folder->claim(m_xmlFileName, error)
-        && (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), error));
+    return (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), true, error))
+        && m_folder->claim(m_xmlFileName, true, error)
+        && (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), true, error));
 }
 
 bool MRVUpdateModel::claimInstaller(QString *error)
 {
     const QString signature = m_offer.fileName + signatureSuffix();
-    return (!m_needsSignature || m_folder->claim(signature, error))
-        && m_folder->claim(m_offer.fileName, error)
-        && (!m_needsSignature || m_folder->claim(signature, error));
+    return (!m_needsSignature || m_folder->claim(signature, false, error))
+        && m_folder->claim(m_offer.fileName, false, error)
+        && (!m_needsSignature || m_folder->claim(signature, false, error));
 }
 
 void MRVUpdateModel::removeFiles()
@@ -230,6 +237,13 @@ void MRVUpdateModel::failFeed(const QString &reason)
              .arg(reason, MrvCore::supportEmail()));
 }
 
+QString MRVUpdateModel::xmlSignatureUrl() const
+{
+    QUrl url(xmlUrl());
+    url.setPath(url.path(QUrl::FullyEncoded) + signatureSuffix());
+    return url.toString(QUrl::FullyEncoded);
+}
+
 bool MRVUpdateModel::readXMLSignature()
 {
     if (m_failed || !m_needsSignature) {
@@ -247,6 +261,9 @@ bool MRVUpdateModel::readXMLSignature()
             reason = tr("it does not say when it was made");
         } else if (m_feedSignature.timestamp() < m_state.feedTime) {
             reason = tr("it is older than one that was seen before");
+        } else if (m_feedSignature.timestamp() > latestTime()) {
+            // Once seen, it would make all others old.
+            reason = tr("it was made in the future");
         }
     }
     if (!reason.isEmpty()) {
@@ -328,17 +345,14 @@ void MRVUpdateModel::readFeed(const QByteArray &feed)
 
 void MRVUpdateModel::acceptFeed()
 {
-    const std::optional<int> number = MRVUpdateFeed::versionNumber(m_offer.version);
-    const std::optional<int> seen = MRVUpdateFeed::versionNumber(m_state.feedVersion);
-    if (!m_feed.application.isEmpty()
-        && m_feed.application != QCoreApplication::applicationName()) {
+    // The maker's other application may have the same key.
+    if (m_feed.application.isEmpty()) {
+        failFeed(tr("it does not say which application it is for"));
+    } else if (m_feed.application != QCoreApplication::applicationName()) {
         failFeed(tr("it is another application's"));
     } else if (m_feed.expires.isValid() && m_feed.expires <= QDateTime::currentDateTimeUtc()) {
         failFeed(tr("it has expired"));
-    } else if (number && seen && *number < *seen) {
-        failFeed(tr("it offers an older version than before"));
-    } else if (number) {
-        m_state.feedVersion = m_offer.version;
+    } else {
         m_state.feedTime = m_feedSignature.timestamp();
     }
 }

@@ -92,7 +92,7 @@ public:
     /** Where the installer has to be put; the folder itself before a feed was read. */
     QString downloadFilePath() const;
     /** Where the feed's signature is downloaded from. */
-    QString xmlSignatureUrl() const { return xmlUrl() + signatureSuffix(); }
+    QString xmlSignatureUrl() const;
     /** Where the feed's signature has to be put, beside the feed. */
     QString xmlSignatureFilePath() const { return xmlFilePath() + signatureSuffix(); }
     /** Where the installer's signature is downloaded from, and to. */

@@ -46,6 +46,7 @@ struct MRVBASE_EXPORT MRVUpdatePolicy
         HeldBack, ///< it is not rolled out to this user yet
     };
 
+    /** What decide() has decided. */
     struct Decision
     {
         Verdict verdict = NothingNewer;

@@ -12,7 +12,6 @@ Q_LOGGING_CATEGORY(lcWeb, "mrv.web", QtWarningMsg)
 const QLatin1String skippedVersionKey("Updates/skippedVersion");
 const QLatin1String remindAfterKey("Updates/remindAfter");
 const QLatin1String rolloutNumberKey("Updates/rolloutNumber");
-const QLatin1String feedVersionKey("Updates/feedVersion");
 const QLatin1String feedTimeKey("Updates/feedTime");
 
 void store(MRVSettings *settings, QLatin1String key, const QVariant &value, bool isKnown)
@@ -36,7 +35,6 @@ MRVUpdateState MRVUpdateState::load()
     bool isNumber = false;
     const int number = settings.value(rolloutNumberKey).toInt(&isNumber);
     state.rolloutNumber = isNumber && number >= 0 && number < Users ? number : -1;
-    state.feedVersion = settings.value(feedVersionKey).toString();
     state.feedTime = settings.value(feedTimeKey).toLongLong();
     return state;
 }
@@ -47,8 +45,9 @@ void MRVUpdateState::save() const
     store(&settings, skippedVersionKey, skippedVersion, !skippedVersion.isEmpty());
     store(&settings, remindAfterKey, remindAfter, remindAfter.isValid());
     store(&settings, rolloutNumberKey, rolloutNumber, rolloutNumber >= 0);
-    store(&settings, feedVersionKey, feedVersion, !feedVersion.isEmpty());
-    store(&settings, feedTimeKey, feedTime, feedTime > 0);
+    // Another check may have seen a newer one meanwhile.
+    const qint64 newest = qMax(feedTime, settings.value(feedTimeKey).toLongLong());
+    store(&settings, feedTimeKey, newest, newest > 0);
     QString error;
     if (!settings.organizationName().isEmpty() && !settings.saveNow(&error)) {
         qCWarning(lcWeb, "%s", qUtf8Printable(error));

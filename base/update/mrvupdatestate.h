@@ -9,7 +9,7 @@
  * What one check of updates leaves for the next.
  *
  * It is kept in the user's settings of the application's organisation and name, in the group
- * "Updates": skippedVersion, remindAfter (a date-time), rolloutNumber, feedVersion and feedTime.
+ * "Updates": skippedVersion, remindAfter (a date-time), rolloutNumber and feedTime.
  * Without an organisation nothing is kept.
  *
  * @since 1.0
@@ -28,13 +28,14 @@ struct MRVBASE_EXPORT MRVUpdateState
      * before that is known.
      */
     int rolloutNumber = -1;
-    /** What the newest signed feed that was seen offers; empty before. */
-    QString feedVersion;
-    /** When that feed was signed, in seconds since 1970; 0 before. */
+    /** When the newest signed feed that was seen was signed, in seconds since 1970; 0 before. */
     qint64 feedTime = 0;
 
     /** What is kept of the running application; values that are damaged are as absent. */
     static MRVUpdateState load();
-    /** Keeps it. Failing is only logged, since the user cannot do anything about it. */
+    /**
+     * Keeps it, but no feedTime that is older than what is kept. Failing is only logged, since the
+     * user cannot do anything about it.
+     */
     void save() const;
 };

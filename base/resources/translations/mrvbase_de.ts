@@ -4684,6 +4684,10 @@ Fehler: %2</translation>
         <source>Skip This Version</source>
         <translation>Diese Version überspringen</translation>
     </message>
+    <message>
+        <source>The server takes too long.</source>
+        <translation>Der Server braucht zu lange.</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateFeed</name>
@@ -4800,10 +4804,6 @@ Bitte melden Sie dies an %1.</translation>
         <translation>sie sind abgelaufen</translation>
     </message>
     <message>
-        <source>it offers an older version than before</source>
-        <translation>sie bieten eine ältere Version an als zuvor</translation>
-    </message>
-    <message>
         <source>it was made for another version</source>
         <translation>sie gilt für eine andere Version</translation>
     </message>
@@ -4814,6 +4814,14 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>it is not over a hash, as that of a large file has to be</source>
         <translation>sie gilt keinem Hash, wie es bei einer großen Datei nötig ist</translation>
+    </message>
+    <message>
+        <source>it was made in the future</source>
+        <translation>sie wurde in der Zukunft erstellt</translation>
+    </message>
+    <message>
+        <source>it does not say which application it is for</source>
+        <translation>sie nennt die Anwendung nicht, für die sie ist</translation>
     </message>
 </context>
 <context>

@@ -4684,6 +4684,10 @@ Error: %2</translation>
         <source>Skip This Version</source>
         <translation>Omitir esta versión</translation>
     </message>
+    <message>
+        <source>The server takes too long.</source>
+        <translation>El servidor tarda demasiado.</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateFeed</name>
@@ -4800,10 +4804,6 @@ Comuníquelo a %1.</translation>
         <translation>han caducado</translation>
     </message>
     <message>
-        <source>it offers an older version than before</source>
-        <translation>ofrecen una versión más antigua que antes</translation>
-    </message>
-    <message>
         <source>it was made for another version</source>
         <translation>es de otra versión</translation>
     </message>
@@ -4814,6 +4814,14 @@ Comuníquelo a %1.</translation>
     <message>
         <source>it is not over a hash, as that of a large file has to be</source>
         <translation>no es de un resumen criptográfico, como exige un archivo grande</translation>
+    </message>
+    <message>
+        <source>it was made in the future</source>
+        <translation>se hizo en el futuro</translation>
+    </message>
+    <message>
+        <source>it does not say which application it is for</source>
+        <translation>no dice para qué aplicación es</translation>
     </message>
 </context>
 <context>

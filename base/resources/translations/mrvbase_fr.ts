@@ -4684,6 +4684,10 @@ Erreur&#xa0;: %2</translation>
         <source>Skip This Version</source>
         <translation>Ignorer cette version</translation>
     </message>
+    <message>
+        <source>The server takes too long.</source>
+        <translation>Le serveur met trop de temps.</translation>
+    </message>
 </context>
 <context>
     <name>MRVUpdateFeed</name>
@@ -4800,10 +4804,6 @@ Veuillez la signaler à %1.</translation>
         <translation>elles ont expiré</translation>
     </message>
     <message>
-        <source>it offers an older version than before</source>
-        <translation>elles proposent une version plus ancienne qu’auparavant</translation>
-    </message>
-    <message>
         <source>it was made for another version</source>
         <translation>elle concerne une autre version</translation>
     </message>
@@ -4814,6 +4814,14 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>it is not over a hash, as that of a large file has to be</source>
         <translation>elle ne porte pas sur une empreinte, ce qu’exige un gros fichier</translation>
+    </message>
+    <message>
+        <source>it was made in the future</source>
+        <translation>elle a été créée dans le futur</translation>
+    </message>
+    <message>
+        <source>it does not say which application it is for</source>
+        <translation>il n’indique pas pour quelle application il est prévu</translation>
     </message>
 </context>
 <context>
