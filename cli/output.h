@@ -6,7 +6,7 @@
 class QJsonObject;
 
 /** Exit codes of the tool. */
-enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2, Unreadable = 3 };
+enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2, NotRead = 3 };
 
 /** How errors begin from here on: with the command's name, or as an object of JSON. */
 void setErrorStyle(const QString &command, bool json);

@@ -33,7 +33,7 @@ QString signatureOf(const QString &file)
 int unreadable(const QString &text)
 {
     refuse(text);
-    return Unreadable;
+    return NotRead;
 }
 
 bool isAddress(const QString &feed)
