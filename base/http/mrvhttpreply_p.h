@@ -50,7 +50,6 @@ private:
     QNetworkProxy proxyFor(const QUrl &url) const;
     void advance();
     void advanceLater();
-    bool takeHead();
     void takeHeaders();
     bool asksForLogin() const;
     void takeBody();
