@@ -1,7 +1,6 @@
 #include "commandline.h"
 
 #include <QPair>
-#include <QVector>
 
 #include <algorithm>
 
@@ -11,24 +10,6 @@ constexpr int LineWidth = 79;
 constexpr int MaxLeftColumn = 30;
 
 using Entry = QPair<QString, QString>; // what stands in the left column, and in the right one
-
-// Lines of words that fit the width; a word that does not fit gets a line of its own.
-QStringList wrapped(const QString &paragraph, int width)
-{
-    QStringList lines{QString()};
-    const QStringList words = paragraph.split(u' ');
-    for (const QString &word : words) {
-        QString &line = lines.last();
-        if (line.isEmpty()) {
-            line = word;
-        } else if (line.size() + 1 + word.size() <= width) {
-            line += u' ' + word;
-        } else {
-            lines.append(word);
-        }
-    }
-    return lines;
-}
 
 QString columns(const QVector<Entry> &entries)
 {
@@ -44,7 +25,7 @@ QString columns(const QVector<Entry> &entries)
         const bool isLong = entry.first.size() > left;
         text += QLatin1String("  ") + entry.first.leftJustified(left)
             + (isLong ? u'\n' + indent : QStringLiteral("  "))
-            + wrapped(entry.second, LineWidth - indent.size()).join(u'\n' + indent) + u'\n';
+            + wrappedLines(entry.second, LineWidth - indent.size()).join(u'\n' + indent) + u'\n';
     }
     return text;
 }
@@ -54,41 +35,28 @@ QString paragraphs(const QString &text)
     QString shown;
     const QStringList all = text.split(u'\n');
     for (const QString &paragraph : all) {
-        shown += wrapped(paragraph, LineWidth).join(u'\n') + u'\n';
+        shown += wrappedLines(paragraph, LineWidth).join(u'\n') + u'\n';
     }
     return shown;
 }
 
 QString spelling(const Option &option)
 {
-    QStringList spellings;
-    const QStringList names = words(option.names);
-    for (const QString &name : names) {
-        spellings.append(QLatin1String(name.size() > 1 ? "--" : "-") + name);
-    }
-    const QString indent = names.constFirst().size() > 1 ? QStringLiteral("    ") : QString();
-    return indent + spellings.join(QLatin1String(", "))
+    const QStringList spellings = option.spellings();
+    const bool isLong = spellings.constFirst().startsWith(QLatin1String("--"));
+    return QLatin1String(isLong ? "    " : "") + spellings.join(QLatin1String(", "))
         + (option.value ? u' ' + QLatin1String(option.value) : QString());
-}
-
-QString explanation(const Option &option, bool namesVerbs)
-{
-    QString text = QString::fromUtf8(option.help);
-    if (namesVerbs && option.verbs) {
-        text.prepend(words(option.verbs).join(QLatin1String(", ")) + QLatin1String(": "));
-    }
-    return option.repeatable ? text + QLatin1String(" May be given several times.") : text;
 }
 
 QString optionList(const Command &command, const Verb *verb)
 {
     QVector<Entry> entries;
-    for (const Rows<Option> &group : command.options) {
-        for (const Option &option : group) {
-            if (!verb || !option.verbs || words(option.verbs).contains(QLatin1String(verb->name))) {
-                entries.append({spelling(option), explanation(option, !verb)});
-            }
-        }
+    const QVector<const Option *> options = command.optionsOf(verb);
+    for (const Option *option : options) {
+        const QString verbs = !verb && option->verbs
+            ? words(option->verbs).join(QLatin1String(", ")) + QLatin1String(": ")
+            : QString();
+        entries.append({spelling(*option), verbs + option->explanation()});
     }
     entries.append({QStringLiteral("-h, --help"), QStringLiteral("Show this help.")});
     return QLatin1String("\nOptions:\n") + columns(entries);
@@ -121,6 +89,23 @@ QString exampleList(const Command &command, const Verb *verb)
 
 } // namespace
 
+QStringList wrappedLines(const QString &paragraph, int width)
+{
+    QStringList lines{QString()};
+    const QStringList words = paragraph.split(u' ');
+    for (const QString &word : words) {
+        QString &line = lines.last();
+        if (line.isEmpty()) {
+            line = word;
+        } else if (line.size() + 1 + word.size() <= width) {
+            line += u' ' + word;
+        } else {
+            lines.append(word);
+        }
+    }
+    return lines;
+}
+
 QString usageOf(const Command &command, const Verb &verb)
 {
     return QStringLiteral("mrv %1 %2 %3")
@@ -146,10 +131,7 @@ QString helpOf(const Command &command, const Verb *verb)
     QString usage = usageOf(command, verb ? *verb : *command.verbs.begin());
     QString description = QString::fromUtf8(command.description);
     if (verb) {
-        const QString details = QString::fromUtf8(verb->details);
-        description = QString::fromUtf8(verb->help) + u'.';
-        description[0] = description.at(0).toUpper();
-        description += details.isEmpty() ? details : u'\n' + details;
+        description = verb->description();
     } else if (command.hasVerbs()) {
         usage = QStringLiteral("mrv %1 VERB [ARGUMENTS]").arg(QLatin1String(command.name));
     }

@@ -13,17 +13,6 @@ namespace {
 // Arguments that may be empty; all others name something.
 constexpr const char *mayBeEmpty[] = {"VALUE", "VALUE...", "REPLACEMENT", "NEW", "PATH", "WORD..."};
 
-QString longName(const Option &option)
-{
-    const QStringList names = words(option.names);
-    return names.constFirst().size() > 1 || names.size() == 1 ? names.constFirst() : names.at(1);
-}
-
-bool takes(const Verb &verb, const Option &option)
-{
-    return !option.verbs || words(option.verbs).contains(QLatin1String(verb.name));
-}
-
 QStringList verbNames(const Command &command)
 {
     QStringList names;
@@ -31,20 +20,6 @@ QStringList verbNames(const Command &command)
         names.append(QLatin1String(verb.name));
     }
     return names;
-}
-
-const Verb *verbNamed(const Command &command, const QString &name)
-{
-    const auto verb =
-        std::find_if(command.verbs.begin(), command.verbs.end(),
-                     [&](const Verb &row) { return name == QLatin1String(row.name); });
-    return verb == command.verbs.end() ? nullptr : verb;
-}
-
-bool takesFileFirst(const Verb &verb)
-{
-    const QString arguments = QLatin1String(verb.arguments);
-    return arguments.startsWith(QLatin1String("FILE")) || arguments.startsWith(QLatin1String("IN"));
 }
 
 /** How many arguments a verb takes. */
@@ -71,12 +46,6 @@ QString argumentName(const Verb &verb, int index)
 {
     const QStringList names = words(verb.arguments);
     return QString(names.value(qMin(index, names.size() - 1))).remove(u'[').remove(u']');
-}
-
-bool looksLikeOption(const QString &argument)
-{
-    const int letter = argument.startsWith(QLatin1String("--")) ? 2 : 1;
-    return argument.startsWith(u'-') && argument.size() > letter && argument.at(letter).isLetter();
 }
 
 // What is wrong with a value; empty when nothing is.
@@ -120,14 +89,12 @@ public:
     {
         m_call.command = &command;
         m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QString()});
-        for (const Rows<Option> &group : command.options) {
-            for (const Option &option : group) {
-                // The rows of one option, for several verbs, agree on whether it takes a value.
-                if (!m_all.contains(longName(option))) {
-                    m_all.append(longName(option));
-                    m_parser.addOption(
-                        {words(option.names), QString(), QLatin1String(option.value)});
-                }
+        const QVector<const Option *> options = command.optionsOf();
+        for (const Option *option : options) {
+            // The rows of one option, for several verbs, agree on whether it takes a value.
+            if (!m_all.contains(option->longName())) {
+                m_all.append(option->longName());
+                m_parser.addOption({words(option->names), QString(), QLatin1String(option->value)});
             }
         }
     }
@@ -142,7 +109,6 @@ public:
 
 private:
     bool fail(const QString &text, const QString &advice = QString());
-    bool takesNext(const QString &argument) const;
     bool putOptionsFirst(QStringList *arguments);
     bool checkOption(const QString &name);
 
@@ -164,31 +130,6 @@ bool CommandLine::fail(const QString &text, const QString &advice)
     return false;
 }
 
-// Whether an argument is an option whose value is the next argument.
-bool CommandLine::takesNext(const QString &argument) const
-{
-    const auto takesValue = [this](const QString &name) {
-        for (const Rows<Option> &group : m_command.options) {
-            for (const Option &option : group) {
-                if (words(option.names).contains(name)) {
-                    return option.kind != Option::Flag;
-                }
-            }
-        }
-        return false;
-    };
-    if (argument.startsWith(QLatin1String("--"))) {
-        return takesValue(argument.mid(2));
-    }
-    // Of short options in one argument, the first that takes a value takes the rest as such.
-    for (int i = 1; i < argument.size(); ++i) {
-        if (takesValue(argument.mid(i, 1))) {
-            return i + 1 == argument.size();
-        }
-    }
-    return false;
-}
-
 // A text such as "-1" or "-->" is no option: the parser gets such texts after "--".
 bool CommandLine::putOptionsFirst(QStringList *arguments)
 {
@@ -205,7 +146,7 @@ bool CommandLine::putOptionsFirst(QStringList *arguments)
             continue;
         }
         options.append(argument);
-        if (takesNext(argument)) {
+        if (m_command.takesNext(argument)) {
             if (++i == arguments->size()) {
                 return fail(argument + QLatin1String(": needs a value"));
             }
@@ -254,12 +195,12 @@ bool CommandLine::findVerb()
         return wantsHelp()
             || fail(QStringLiteral("a verb is missing: %1").arg(names.join(QLatin1String(", "))));
     }
-    const Verb *first = verbNamed(m_command, arguments.constFirst());
-    const Verb *second = verbNamed(m_command, arguments.value(1));
+    const Verb *first = m_command.verbNamed(arguments.constFirst());
+    const Verb *second = m_command.verbNamed(arguments.value(1));
     // Of two words that could each be the verb, the file is the one that exists.
     const bool isFileFirst = !first
         || (QFileInfo(arguments.constFirst()).isFile() && !QFileInfo(arguments.value(1)).isFile());
-    if (second && takesFileFirst(*second) && isFileFirst) {
+    if (second && second->takesFileFirst() && isFileFirst) {
         arguments.move(0, 1);
         first = second;
     }
@@ -278,26 +219,24 @@ bool CommandLine::findVerb()
 bool CommandLine::checkOption(const QString &name)
 {
     const QStringList values = m_parser.values(name);
-    for (const Rows<Option> &group : m_command.options) {
-        for (const Option &option : group) {
-            if (longName(option) != name || !takes(*m_call.verb, option)) {
-                continue;
-            }
-            for (const QString &value : values) {
-                const QString objection = objectionTo(option, value);
-                if (!objection.isEmpty()) {
-                    return fail(QStringLiteral("--%1: %2").arg(name, objection),
-                                option.kind == Option::Choice
-                                    ? didYouMean(value, words(option.choices))
-                                    : QString());
-                }
-            }
-            m_call.m_values.insert(name, values);
-            return true;
+    const QVector<const Option *> options = m_command.optionsOf(m_call.verb);
+    const auto option = std::find_if(options.begin(), options.end(),
+                                     [&](const Option *row) { return row->longName() == name; });
+    if (option == options.end()) {
+        return fail(QStringLiteral("%1 takes no option '--%2'")
+                        .arg(QLatin1String(m_call.verb->name), name));
+    }
+    for (const QString &value : values) {
+        const QString objection = objectionTo(**option, value);
+        if (!objection.isEmpty()) {
+            return fail(QStringLiteral("--%1: %2").arg(name, objection),
+                        (*option)->kind == Option::Choice
+                            ? didYouMean(value, words((*option)->choices))
+                            : QString());
         }
     }
-    return fail(
-        QStringLiteral("%1 takes no option '--%2'").arg(QLatin1String(m_call.verb->name), name));
+    m_call.m_values.insert(name, values);
+    return true;
 }
 
 bool CommandLine::checkOptions()
@@ -364,6 +303,12 @@ int refuse(const QString &text)
     return Failed;
 }
 
+int refuse(const MRVError &error)
+{
+    printError(error);
+    return Failed;
+}
+
 int usageError(const QString &text)
 {
     printError(text);
@@ -379,7 +324,102 @@ void printAnswer(const Call &call, const QJsonObject &object, const QString &lin
     }
 }
 
+QString Option::longName() const
+{
+    const QStringList all = words(names);
+    return all.constFirst().size() > 1 || all.size() == 1 ? all.constFirst() : all.at(1);
+}
+
+QStringList Option::spellings() const
+{
+    QStringList all = words(names);
+    for (QString &name : all) {
+        name.prepend(QLatin1String(name.size() > 1 ? "--" : "-"));
+    }
+    return all;
+}
+
+QString Option::explanation() const
+{
+    return QString::fromUtf8(help)
+        + QLatin1String(repeatable ? " May be given several times." : "");
+}
+
+bool Option::isTakenBy(const Verb &verb) const
+{
+    return !verbs || words(verbs).contains(QLatin1String(verb.name));
+}
+
+QString Verb::description() const
+{
+    QString text = QString::fromUtf8(help) + u'.';
+    text[0] = text.at(0).toUpper();
+    return details ? text + u'\n' + QString::fromUtf8(details) : text;
+}
+
+bool Verb::takesFileFirst() const
+{
+    const QString names = QLatin1String(arguments);
+    return names.startsWith(QLatin1String("FILE")) || names.startsWith(QLatin1String("IN"));
+}
+
+const Verb *Command::verbNamed(const QString &wanted) const
+{
+    const auto verb = std::find_if(verbs.begin(), verbs.end(), [&](const Verb &row) {
+        return wanted == QLatin1String(row.name);
+    });
+    return verb == verbs.end() ? nullptr : verb;
+}
+
+QVector<const Option *> Command::optionsOf(const Verb *verb) const
+{
+    QVector<const Option *> rows;
+    for (const Rows<Option> &group : options) {
+        for (const Option &option : group) {
+            if (!verb || option.isTakenBy(*verb)) {
+                rows.append(&option);
+            }
+        }
+    }
+    return rows;
+}
+
+bool Command::takesNext(const QString &argument) const
+{
+    const QVector<const Option *> rows = optionsOf();
+    const auto takesValue = [&rows](const QString &wanted) {
+        return std::any_of(rows.begin(), rows.end(), [&](const Option *option) {
+            return option->kind != Option::Flag && words(option->names).contains(wanted);
+        });
+    };
+    if (argument.startsWith(QLatin1String("--"))) {
+        return takesValue(argument.mid(2));
+    }
+    // Of short options in one argument, the first that takes a value takes the rest as such.
+    for (int i = 1; i < argument.size(); ++i) {
+        if (takesValue(argument.mid(i, 1))) {
+            return i + 1 == argument.size();
+        }
+    }
+    return false;
+}
+
+bool looksLikeOption(const QString &argument)
+{
+    const int letter = argument.startsWith(QLatin1String("--")) ? 2 : 1;
+    return argument.startsWith(u'-') && argument.size() > letter && argument.at(letter).isLetter();
+}
+
 QStringList words(const char *list)
 {
     return QString::fromUtf8(list).split(u' ', Qt::SkipEmptyParts);
+}
+
+Candidates candidates(const QStringList &texts)
+{
+    Candidates all;
+    for (const QString &text : texts) {
+        all.append({text, QString()});
+    }
+    return all;
 }

@@ -5,11 +5,13 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <cstddef>
 
 class Call;
 class QJsonObject;
+struct Verb;
 
 /** The rows of a constexpr table. */
 template<typename Row>
@@ -88,6 +90,13 @@ struct Option
     {
         return {names, kind, value, help, verbs, choices, least, most, true};
     }
+
+    QString longName() const;
+    /** All ways to write it, with their hyphens: "-o", "--output". */
+    QStringList spellings() const;
+    /** Its help, and whether it may be given several times. */
+    QString explanation() const;
+    bool isTakenBy(const Verb &verb) const;
 };
 
 /** What a command does with its arguments; a command without verbs has one row without a name. */
@@ -98,10 +107,30 @@ struct Verb
     const char *help; // one line
     int (*run)(const Call &call); // returns an ExitCode
     const char *details = nullptr; // for the help of the verb itself
+
+    /** The help as a sentence, and the details. */
+    QString description() const;
+    /** Whether the file may stand before the verb. */
+    bool takesFileFirst() const;
+};
+
+/** A word that may stand for an argument, and what it means if that is known. */
+struct Candidate
+{
+    QString text;
+    QString help;
+};
+using Candidates = QVector<Candidate>;
+
+/** Words that a command knows for some of its arguments and values of options. */
+struct ArgumentValues
+{
+    const char *arguments; // as usage and help call them
+    Candidates (*candidates)(const Call &call); // of which only what stands before is there
 };
 
 /**
- * A command: all that parsing, refusals and help are made from.
+ * A command: all that parsing, refusals, help, completion and manual pages are made from.
  *
  * An option may have several rows, for different verbs. Paragraphs of a description and examples
  * are separated by line feeds; an example leaves the tool's own name out.
@@ -114,8 +143,15 @@ struct Command
     const char *examples;
     Rows<Verb> verbs;
     Rows<Option> options[3];
+    Rows<ArgumentValues> values = {}; // for completion
 
     bool hasVerbs() const { return verbs.begin()->name[0] != '\0'; }
+    /** The verb of that name; null for a name that no verb has. */
+    const Verb *verbNamed(const QString &name) const;
+    /** All options, or those that the verb takes. */
+    QVector<const Option *> optionsOf(const Verb *verb = nullptr) const;
+    /** Whether an argument is an option whose value is the next argument. */
+    bool takesNext(const QString &argument) const;
 };
 
 extern const Command autoReplaceCommand;
@@ -156,6 +192,7 @@ public:
 
 private:
     friend class CommandLine;
+    friend class Completer;
     QMap<QString, QStringList> m_values; // by the long name; those that were given
 };
 
@@ -172,8 +209,13 @@ private:
  */
 int readCall(const Command &command, const QStringList &arguments, Call *call);
 
+/** Whether an argument is an option; "-1" and "-->" are none. */
+bool looksLikeOption(const QString &argument);
+
 /** Prints an error. @return Failed. */
 int refuse(const QString &text);
+/** Prints an error with its kind. @return Failed. */
+int refuse(const MRVError &error);
 /** Prints an error. @return WrongUsage. */
 int usageError(const QString &text);
 
@@ -182,6 +224,12 @@ void printAnswer(const Call &call, const QJsonObject &object, const QString &lin
 
 /** The words of a list in one of the tables. */
 QStringList words(const char *list);
+
+/** The texts, of which nothing more is known. */
+Candidates candidates(const QStringList &texts);
+
+/** Lines of words that fit the width; a word that does not fit gets a line of its own. */
+QStringList wrappedLines(const QString &paragraph, int width);
 
 /** How a verb is called: "mrv settings set KEY VALUE...". */
 QString usageOf(const Command &command, const Verb &verb);

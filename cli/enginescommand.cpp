@@ -1,3 +1,4 @@
+#include "formatcandidates.h"
 #include "settingsfile.h"
 
 #include "engines/mrvimportexportconfig.h"
@@ -77,6 +78,20 @@ int reset(const Call &, MRVOptions *options)
     return save(options);
 }
 
+// Those that the conversion may be done by.
+Candidates enginesOf(const Call &call)
+{
+    const MRVFormat::Format from = MRVFormat::formatNamed(call.arguments.value(0));
+    const MRVFormat::Format to = MRVFormat::formatNamed(call.arguments.value(1));
+    QString error;
+    MRVOptionsFile settings;
+    return settings.open(call.value("settings"), Access::Read, &error)
+        ? candidates(MRVImportExportConfig(settings.options()).explain(from, to).supportedNames())
+        : Candidates();
+}
+
+constexpr ArgumentValues values[] = {{"FROM TO", formatCandidates}, {"ENGINE", enginesOf}};
+
 constexpr Verb verbs[] = {
     {"list", "", "list all conversions", withSettings<Access::Read, list>},
     {"show", "FROM TO", "show the engine of one conversion", withSettings<Access::Read, show>,
@@ -103,4 +118,5 @@ const Command enginesCommand = {
     "engines list\nengines show doc rtf\nengines set rtf doc Doc2AnyInternalEngine",
     verbs,
     {options},
+    values,
 };

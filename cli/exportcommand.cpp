@@ -8,6 +8,11 @@
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
 #include "publish/mrvstagedfiles.h"
+#include "publish/mrvtextpublisher.h"
+#include "textexport/mrvdocumentlosses.h"
+#include "textexport/mrvmarkdownwriter.h"
+#include "textexport/mrvplaintextwriter.h"
+#include "util/mrvfailure.h"
 #include "util/mrvfixeddate.h"
 #include "util/mrvpapersize.h"
 #include "xhtml/mrvexportcheck.h"
@@ -78,9 +83,11 @@ struct Options
     MRVEPubMetadata metadata;
     MRVEPubOptions book;
     QVector<MRVBookListEntry> list; // of inputs and parts
-    bool isPdf = false; // else type says what
+    bool isPdf = false; // else text or type says what
+    MRVDocumentLosses::Format text = MRVDocumentLosses::Html; // Html where it is no text
     MRVPrintOptions print;
 
+    bool isText() const { return text != MRVDocumentLosses::Html; }
     bool isPackage() const { return !isPdf && type == MRVTextXhtmlExporter::EPub; }
     /** Whether all inputs become one file. */
     bool isBook() const { return isPdf || isPackage(); }
@@ -108,10 +115,15 @@ int checkPrintOptions(const Call &call)
 // -1 to go on, else the exit code; so with all that follow.
 int readType(const Call &call, Options *options)
 {
-    options->isPdf = call.value("to") == QLatin1String("pdf");
-    if (!options->isPdf && !MRVTextXhtmlExporter::typeNamed(call.value("to"), &options->type)) {
-        return usageError(
-            QStringLiteral("say with --to what to write: html, xhtml, epub, kindle, kf8 or pdf"));
+    const QString to = call.value("to");
+    options->isPdf = to == QLatin1String("pdf");
+    options->text = to == QLatin1String("markdown") ? MRVDocumentLosses::Markdown
+        : to == QLatin1String("text")               ? MRVDocumentLosses::PlainText
+                                                    : MRVDocumentLosses::Html;
+    if (!options->isPdf && !options->isText()
+        && !MRVTextXhtmlExporter::typeNamed(to, &options->type)) {
+        return usageError(QStringLiteral(
+            "say with --to what to write: html, xhtml, epub, kindle, kf8, pdf, markdown or text"));
     }
     if (options->isPdf) {
         return checkPrintOptions(call);
@@ -192,8 +204,10 @@ QStringList outputFiles(const Call &call, const Options &options)
 {
     QStringList files;
     const bool isFolder = !options.isBook() && call.arguments.size() > 1;
-    const QString suffix =
-        options.isPdf ? QStringLiteral("pdf") : MRVTextXhtmlExporter::suffix(options.type);
+    const QString suffix = options.isPdf               ? QStringLiteral("pdf")
+        : options.text == MRVDocumentLosses::Markdown  ? QStringLiteral("md")
+        : options.text == MRVDocumentLosses::PlainText ? QStringLiteral("txt")
+                                                       : MRVTextXhtmlExporter::suffix(options.type);
     const QStringList inputs = call.has("book") ? QStringList(call.value("book")) : call.arguments;
     for (const QString &input : inputs) {
         files.append(MRVOutputFiles::fileFor(input, call.value("output"),
@@ -202,13 +216,11 @@ QStringList outputFiles(const Call &call, const Options &options)
     return options.isBook() ? files.mid(0, 1) : files;
 }
 
-bool spareInputs(const QStringList &outputs, const QStringList &inputs, QString *error)
+bool spareInputs(const QStringList &outputs, const QStringList &inputs, MRVErrorSink error)
 {
-    const bool spared = MRVOutputFiles::spareInputs(outputs, inputs, error);
-    if (!spared) {
-        *error += QLatin1String("; choose another with -o");
-    }
-    return spared;
+    MRVError reason;
+    return MRVOutputFiles::spareInputs(outputs, inputs, &reason)
+        || MRV::fail(error, reason.kind, reason.text + QLatin1String("; choose another with -o"));
 }
 
 // -1 to go on, else the exit code.
@@ -218,7 +230,7 @@ int checkOutputs(const Call &call, const QStringList &outputs)
         return usageError(QStringLiteral(
             "only one page can be written to standard output; choose a folder with -o"));
     }
-    QString error;
+    MRVError error;
     return spareInputs(outputs, call.arguments, &error)
             && MRVOutputFiles::areDistinct(outputs, &error)
         ? -1
@@ -238,7 +250,7 @@ void tellComments(const Options &options, const MRVManuscript &manuscript)
 }
 
 bool readManuscripts(const Call &call, const Options &options, const QStringList &outputs,
-                     std::vector<MRVManuscript> *manuscripts, QString *error)
+                     std::vector<MRVManuscript> *manuscripts, MRVErrorSink error)
 {
     InputOptions reading = options.input;
     reading.pictures = options.isBook() || !call.has("no-images");
@@ -269,14 +281,13 @@ void printNotes(const QStringList &notes)
 }
 
 // Tells what an export lacks, which ends a strict one.
-bool acceptLosses(const Options &options, const QStringList &losses, QString *error)
+bool acceptLosses(const Options &options, const QStringList &losses, MRVErrorSink error)
 {
     if (options.input.strict && !losses.isEmpty()) {
         for (int i = 0; i + 1 < losses.size(); ++i) {
             printError(losses.at(i));
         }
-        *error = losses.constLast();
-        return false;
+        return MRV::fail(error, losses.constLast());
     }
     printNotes(losses);
     return true;
@@ -284,7 +295,7 @@ bool acceptLosses(const Options &options, const QStringList &losses, QString *er
 
 bool exportPages(const Call &call, const Options &options,
                  const std::vector<MRVManuscript> &manuscripts, const QStringList &outputs,
-                 QStringList *written, QString *error)
+                 QStringList *written, MRVErrorSink error)
 {
     const MRVPageOptions pageOptions{options.type, MRVTextXhtmlExporter::isForEBooks(options.type),
                                      !call.has("no-images"), options.metadata.title,
@@ -301,7 +312,7 @@ bool exportPages(const Call &call, const Options &options,
     }
     MRVPagePublisher publisher(pageOptions);
     for (std::size_t i = 0; i < manuscripts.size(); ++i) {
-        showProgress(QStringLiteral("Writing %1").arg(manuscripts[i].path));
+        publisher.setProgress(progressOf(QStringLiteral("Writing %1").arg(manuscripts[i].path)));
         if (!publisher.add(manuscripts[i].document.get(), manuscripts[i].language,
                            outputs.at(int(i)), error)) {
             return false;
@@ -313,28 +324,85 @@ bool exportPages(const Call &call, const Options &options,
     return acceptLosses(options, publisher.losses(), error) && publisher.publish(written, error);
 }
 
-bool writePackage(const MRVEPubPackage &package, const QString &file, QString *error)
+MRVMarkdownHead headOf(const Options &options, const MRVManuscript &manuscript)
+{
+    MRVMarkdownHead head;
+    head.title = options.metadata.title;
+    head.authors = manuscript.authors;
+    head.description = manuscript.description;
+    head.language =
+        options.metadata.language.isEmpty() ? manuscript.language : options.metadata.language;
+    head.date = manuscript.date;
+    return head;
+}
+
+// One input as Markdown or plain text.
+bool exportText(const Call &call, const Options &options, const MRVManuscript &manuscript,
+                const QString &file, QStringList *written, MRVErrorSink error)
+{
+    const QTextDocument &document = *manuscript.document;
+    const MRVMarkdownHead head = headOf(options, manuscript);
+    const bool isFile = file != StandardOutput;
+    if (options.text == MRVDocumentLosses::PlainText) {
+        const QByteArray text = MRVPlainTextWriter(document).text().toUtf8();
+        written->append(isFile ? QStringList(file) : QStringList());
+        return writeOutput(text, file, error);
+    }
+    if (isFile && !call.has("no-images")) {
+        return MRVTextPublisher::writeMarkdown(document, head, file, written, error);
+    }
+    MRVMarkdownWriter writer(document);
+    writer.setHead(head);
+    written->append(isFile ? QStringList(file) : QStringList());
+    return writeOutput(writer.text().toUtf8(), file, error);
+}
+
+bool exportTexts(const Call &call, const Options &options,
+                 const std::vector<MRVManuscript> &manuscripts, const QStringList &outputs,
+                 QStringList *written, MRVErrorSink error)
+{
+    QStringList losses;
+    for (const MRVManuscript &manuscript : manuscripts) {
+        const QStringList own = MRVDocumentLosses::of(*manuscript.document, options.text);
+        for (const QString &loss : own) {
+            losses.append(QStringLiteral("%1: not written: %2").arg(manuscript.path, loss));
+        }
+    }
+    if (!acceptLosses(options, losses, error)) {
+        return false;
+    }
+    for (std::size_t i = 0; i < manuscripts.size(); ++i) {
+        showProgress(QStringLiteral("Writing %1").arg(outputs.at(int(i))));
+        if (!exportText(call, options, manuscripts[i], outputs.at(int(i)), written, error)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool writePackage(MRVEPubPackage *package, const QString &file, MRVErrorSink error)
 {
     if (file == StandardOutput) {
-        const QByteArray bytes = package.toByteArray(error);
+        const QByteArray bytes = package->toByteArray(error);
         return !bytes.isEmpty() && writeStandardOutput(bytes, error);
     }
-    showProgress(QStringLiteral("Writing %1").arg(file));
-    const auto content = [&package](QIODevice *device, QString *reason) {
-        return package.write(device, reason);
+    package->setProgress(progressOf(QStringLiteral("Writing %1").arg(file)));
+    const auto content = [package](QIODevice *device, MRVErrorSink reason) {
+        return package->write(device, reason);
     };
     return MRVStagedFiles::write(content, file, error);
 }
 
-bool readStyleSheet(const QString &file, QByteArray *sheet, QString *error)
+bool readStyleSheet(const QString &file, QByteArray *sheet, MRVErrorSink error)
 {
-    *sheet = file.isEmpty() ? QByteArray() : MRVCoreUtil::ReadBinaryFile(file, error);
-    return error->isEmpty();
+    MRVError unreadable;
+    *sheet = file.isEmpty() ? QByteArray() : MRVCoreUtil::readStream(file, &unreadable);
+    return !unreadable || MRV::fail(error, unreadable);
 }
 
 // From the options, then the file, then the manuscript.
 bool completeMetadata(const Call &call, const MRVManuscript &manuscript, MRVEPubMetadata *metadata,
-                      QString *error)
+                      MRVErrorSink error)
 {
     QStringList notes;
     if ((call.has("cover") && !metadata->readCover(call.value("cover"), error))
@@ -351,7 +419,7 @@ bool completeMetadata(const Call &call, const MRVManuscript &manuscript, MRVEPub
 
 bool exportPackage(const Call &call, const Options &options,
                    const std::vector<MRVManuscript> &manuscripts, const QString &file,
-                   QStringList *written, QString *error)
+                   QStringList *written, MRVErrorSink error)
 {
     MRVEPubMetadata metadata = options.metadata;
     MRVEPubOptions book = options.book;
@@ -372,7 +440,7 @@ bool exportPackage(const Call &call, const Options &options,
     }
     const QStringList defects = options.input.strict ? package.defects() : QStringList();
     if (!acceptLosses(options, package.losses(documents) + defects, error)
-        || !writePackage(package, file, error)) {
+        || !writePackage(&package, file, error)) {
         return false;
     }
     printNotes(package.notes());
@@ -384,7 +452,7 @@ bool exportPackage(const Call &call, const Options &options,
 
 // As for an e-book: what the call does not say, the first manuscript does.
 bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscripts,
-               const QString &file, QStringList *written, QString *error)
+               const QString &file, QStringList *written, MRVErrorSink error)
 {
     MRVEPubMetadata metadata = options.metadata;
     QStringList notes;
@@ -414,29 +482,11 @@ bool exportPdf(const Options &options, const std::vector<MRVManuscript> &manuscr
         }
     }
     QByteArray bytes;
-    showProgress(QStringLiteral("Writing %1").arg(file));
+    pdf.setProgress(progressOf(QStringLiteral("Writing %1").arg(file)));
     if (!pdf.toByteArray(&bytes, error)) {
         return false;
     }
-    const QStringList dead = pdf.deadLinks();
-    if (!dead.isEmpty()) {
-        notes.append(QStringLiteral("links that lead nowhere in the document, and are text there: "
-                                    "%1 (%2)")
-                         .arg(QString::number(dead.size()), dead.constFirst()));
-    }
-    const QString missing = pdf.missingCharacters();
-    if (!missing.isEmpty()) {
-        notes.append(missingCharactersText(missing));
-    }
-    if (pdf.wideTables() > 0) {
-        notes.append(QStringLiteral("tables that are wider than the paper, and cut off: %1")
-                         .arg(pdf.wideTables()));
-    }
-    if (pdf.flattenedTables() > 0) {
-        notes.append(QStringLiteral("tables within four others, of which the rows are lines of "
-                                    "text: %1")
-                         .arg(pdf.flattenedTables()));
-    }
+    notes += pdf.notes();
     if (!acceptLosses(options, notes, error) || !writeOutput(bytes, file, error)) {
         return false;
     }
@@ -466,7 +516,7 @@ int check(const Call &call, const QStringList &books, QJsonObject *answer)
     QJsonArray all;
     for (const QString &book : books) {
         QVector<MRVEPubFinding> findings;
-        QString error;
+        MRVError error;
         showProgress(QStringLiteral("Checking %1").arg(book));
         if (!MRVEPubCheck::check(book, &findings, &error)) {
             return refuse(error);
@@ -535,7 +585,7 @@ int readInputs(Call *call, Options *options)
     for (const QString &input : qAsConst(call->arguments)) {
         options->list.append({false, input, QString()});
     }
-    QString error;
+    MRVError error;
     if (call->has("book") && !MRVBookList::read(call->value("book"), &options->list, &error)) {
         return refuse(error);
     }
@@ -568,11 +618,13 @@ int run(const Call &given)
     }
     std::vector<MRVManuscript> manuscripts;
     QStringList written;
-    QString error;
+    MRVError error;
     const bool ok = readManuscripts(call, options, outputs, &manuscripts, &error)
         && (options.isPdf ? exportPdf(options, manuscripts, outputs.constFirst(), &written, &error)
                 : options.isPackage()
                 ? exportPackage(call, options, manuscripts, outputs.constFirst(), &written, &error)
+                : options.isText()
+                ? exportTexts(call, options, manuscripts, outputs, &written, &error)
                 : exportPages(call, options, manuscripts, outputs, &written, &error));
     if (!ok) {
         return refuse(error);
@@ -584,8 +636,8 @@ int run(const Call &given)
 constexpr Verb verbs[] = {{"", "[IN...]", "", run}};
 
 constexpr Option options[] = {
-    Option::choice("to", "TYPE", "html xhtml epub kindle kf8 pdf",
-                   "What to write: html, xhtml, epub, kindle, kf8 or pdf."),
+    Option::choice("to", "TYPE", "html xhtml epub kindle kf8 pdf markdown text",
+                   "What to write: html, xhtml, epub, kindle, kf8, pdf, markdown or text."),
     Option::name("o output", "FILE",
                  "Where to write: a file, or a folder that exists; - is standard output. Default: "
                  "beside the input, with the suffix of the type."),
@@ -615,10 +667,11 @@ constexpr Option options[] = {
 
 const Command exportCommand = {
     "export",
-    "write manuscripts as HTML, XHTML, e-books or PDF documents",
+    "write manuscripts as pages, e-books, PDF documents, Markdown or text",
     "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
-    "standard input) as pages, e-books or PDF documents. "
-    "Several inputs become one e-book or PDF document, or a page each.",
+    "standard input) as pages, e-books, PDF documents, Markdown or plain text. "
+    "Several inputs become one e-book or PDF document, or else a file each. What Markdown or plain "
+    "text cannot say of a manuscript is told.",
     "export novel.html --to epub --cover cover.png -o novel.epub\n"
     "export one.md two.md --to epub --title \"Both\" -o both.epub\n"
     "export notes.md --to xhtml -o site/notes.xhtml\n"

@@ -1,3 +1,4 @@
+#include "formatcandidates.h"
 #include "settingsfile.h"
 
 #include "engines/mrvimportexportconfig.h"
@@ -65,6 +66,8 @@ int list(const Call &call, MRVOptions *options)
     return found && areKnown ? Done : Failed;
 }
 
+constexpr ArgumentValues values[] = {{"FORMAT", formatCandidates}};
+
 constexpr Verb verbs[] = {{"", "[FORMAT...]", "", withSettings<Access::Read, list>}};
 
 constexpr Option options[] = {
@@ -86,4 +89,5 @@ const Command formatsCommand = {
     "formats --import\nformats docx novel.mobi",
     verbs,
     {options},
+    values,
 };

@@ -1,7 +1,10 @@
 #include "inputs.h"
 
 #include "publish/mrvstagedfiles.h"
+#include "util/mrvfailure.h"
 #include "util/mrvnames.h"
+
+#include "core/mrvcoreutil.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -13,6 +16,13 @@
 #include <unistd.h>
 
 namespace {
+
+// Such as what a shell puts in the place of a program's output.
+bool isStream(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() && !file.isFile() && !file.isDir();
+}
 
 // The option that helps where an input cannot be read.
 QString hint(MRVManuscriptReader::Error error)
@@ -102,7 +112,7 @@ QByteArray standardInput(QString *reason)
 }
 
 bool readManuscript(const QString &path, const InputOptions &options, MRVManuscript *manuscript,
-                    QString *error)
+                    MRVErrorSink error)
 {
     MRVManuscriptReader reader;
     reader.setFormat(MRVManuscript::formatNamed(options.format));
@@ -118,17 +128,25 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
         QString unreadable;
         const QByteArray bytes = standardInput(&unreadable);
         if (!unreadable.isEmpty()) {
-            *error = unreadable;
-            return false;
+            return MRV::fail(error, unreadable);
         }
         ok = reader.readBytes(bytes, path, QDir::currentPath(), manuscript);
+    } else if (isStream(path)) {
+        MRVError unreadable;
+        const QByteArray bytes = MRVCoreUtil::readStream(path, &unreadable);
+        if (unreadable) {
+            return MRV::fail(error, unreadable);
+        }
+        if (options.format.isEmpty()) {
+            reader.setFormat(MRVManuscript::formatOfFile(path));
+        }
+        ok = reader.readBytes(bytes, path, QFileInfo(path).absolutePath(), manuscript);
     } else {
         ok = reader.read(path, manuscript);
     }
     if (!ok) {
         printUnreadable(path, reader.unreadablePictures());
-        *error = reader.errorString() + hint(reader.error());
-        return false;
+        return MRV::fail(error, reader.errorKind(), reader.errorString() + hint(reader.error()));
     }
     if (options.pictures || !manuscript->isWhole()) {
         for (const QString &note : manuscript->readingNotes()) {
@@ -136,8 +154,8 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
         }
     }
     if (options.strict && !manuscript->isWhole()) {
-        *error = QStringLiteral("%1: something would be lost, as the notes above say").arg(path);
-        return false;
+        return MRV::fail(
+            error, QStringLiteral("%1: something would be lost, as the notes above say").arg(path));
     }
     const int dropped = manuscript->unreadablePictures.size();
     if (dropped > 0 && options.missingPictures == MRVManuscriptReader::Drop) {
@@ -189,11 +207,11 @@ int lookThrough(const Call &call, const QStringList &inputs, const QString &doin
     for (const QString &path : inputs) {
         showProgress(doing.arg(path));
         MRVManuscript manuscript;
-        QString error;
+        MRVError error;
         if (readManuscript(path, inputOptions(call), &manuscript, &error)) {
-            found = look(manuscript, &error) || found;
+            found = look(manuscript, &error.text) || found;
         }
-        if (!error.isEmpty()) {
+        if (!error.text.isEmpty()) {
             refuse(error);
             isRefused = true;
         }
@@ -220,22 +238,8 @@ bool readsTwice(const QStringList &inputs)
     return twice;
 }
 
-bool writeOutput(const QByteArray &bytes, const QString &file, QString *error)
+bool writeOutput(const QByteArray &bytes, const QString &file, MRVErrorSink error)
 {
     return file == QLatin1String("-") ? writeStandardOutput(bytes, error)
                                       : MRVStagedFiles::write(bytes, file, error);
-}
-
-QString missingCharactersText(const QString &missing)
-{
-    constexpr int Shown = 10;
-    QStringList first;
-    const QVector<uint> characters = missing.toUcs4();
-    for (const uint character : characters.mid(0, Shown)) {
-        first.append(QString::fromUcs4(&character, 1));
-    }
-    return QStringLiteral("characters that no installed font has, and that are empty boxes: %1 "
-                          "(%2%3)")
-        .arg(QString::number(characters.size()), first.join(u' '),
-             QLatin1String(characters.size() > Shown ? " ..." : ""));
 }

@@ -79,7 +79,7 @@ InputOptions inputOptions(const Call &call);
  * @param error receives one line that names the file and, where there is one, an option that helps.
  */
 bool readManuscript(const QString &path, const InputOptions &options, MRVManuscript *manuscript,
-                    QString *error);
+                    MRVErrorSink error);
 
 constexpr Option foldersOption(const char *verbs = nullptr)
 {
@@ -122,7 +122,4 @@ bool readsTwice(const QStringList &inputs);
 QByteArray standardInput(QString *reason);
 
 /** Writes a file with MRVStagedFiles; "-" is standard output. */
-bool writeOutput(const QByteArray &bytes, const QString &file, QString *error);
-
-/** The note on characters that a PDF document cannot show; see MRVPdfWriter. */
-QString missingCharactersText(const QString &missing);
+bool writeOutput(const QByteArray &bytes, const QString &file, MRVErrorSink error);

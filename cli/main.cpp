@@ -1,6 +1,11 @@
 #include "commandline.h"
+#include "completion.h"
+#include "manual.h"
 #include "suggestion.h"
 
+#include "util/mrvfixeddate.h"
+
+#include <QDateTime>
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -61,6 +66,15 @@ int refuseCommand(const QString &name)
                       + (advice.isNull() ? QStringLiteral("; try 'mrv --help'") : advice));
 }
 
+int writeManualsInto(const QString &folder)
+{
+    QString error;
+    QDateTime date = QDateTime::currentDateTimeUtc();
+    return MRVFixedDate::fromEnvironment(&date, &error) && writeManuals(folder, date.date(), &error)
+        ? Done
+        : refuse(error);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -86,6 +100,17 @@ int main(int argc, char **argv)
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
         printLine(toolHelp());
         return Done;
+    }
+    // For the scripts of shells.
+    if (name == QLatin1String("--complete")) {
+        const QString lines = completionLines(arguments.mid(1));
+        if (!lines.isEmpty()) {
+            printLine(lines);
+        }
+        return ended(Done);
+    }
+    if (name == QLatin1String("--manual") && arguments.size() == 2) {
+        return writeManualsInto(arguments.at(1));
     }
     for (const Command *command : commands()) {
         if (name == QLatin1String(command->name)) {

@@ -1,5 +1,7 @@
 #include "output.h"
 
+#include "util/mrvfailure.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -14,6 +16,12 @@ namespace {
 // noncharacters: one that stands in the data can change a colour and nothing else.
 constexpr ushort FirstStyle = 0xfdd0;
 constexpr ushort EndOfStyle = 0xfddf;
+
+constexpr const char *kindNames[] = {"",          "other",       "no-space",        "no-permission",
+                                     "not-found", "in-use",      "damaged",         "cancelled",
+                                     "too-large", "unsupported", "program-missing", "network",
+                                     "changed"}; // by MRVErrorKind
+static_assert(std::size(kindNames) == std::size_t(MRVErrorKind::Changed) + 1);
 
 constexpr const char *styleCodes[] = {"\033[1;31m", "\033[35m", "\033[31m", "\033[32m"}; // by Style
 
@@ -49,6 +57,12 @@ bool steersTerminal(QChar c)
         || (code >= 0x2066 && code <= 0x2069);
 }
 
+bool isTerminal()
+{
+    static const bool is = isatty(STDERR_FILENO);
+    return is;
+}
+
 } // namespace
 
 void setErrorStyle(const QString &command, bool json)
@@ -56,20 +70,28 @@ void setErrorStyle(const QString &command, bool json)
     errorStyle() = {command, json};
 }
 
-void printError(const QString &text)
+void printError(const MRVError &error)
 {
     const ErrorStyle &style = errorStyle();
-    const QString line = text.simplified();
+    const QString line = error.text.simplified();
     showProgress(QString());
     if (style.json) {
-        const QJsonObject object{{QStringLiteral("command"), style.command},
-                                 {QStringLiteral("error"), line}};
+        QJsonObject object{{QStringLiteral("command"), style.command},
+                           {QStringLiteral("error"), line}};
+        if (error) {
+            object.insert(QStringLiteral("kind"), QLatin1String(kindNames[int(error.kind)]));
+        }
         printTo(stderr, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
         return;
     }
     const QString command =
         style.command.isEmpty() ? QString() : style.command + QLatin1String(": ");
     printTo(stderr, printable(QLatin1String("mrv: ") + command + line));
+}
+
+void printError(const QString &text)
+{
+    printError(MRVError{MRVErrorKind::None, text});
 }
 
 void printLine(const QString &text)
@@ -90,24 +112,34 @@ void printJson(const QJsonObject &object)
     printLine(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
-bool writeStandardOutput(const QByteArray &bytes, QString *error)
+bool writeStandardOutput(const QByteArray &bytes, MRVErrorSink error)
 {
     const std::size_t size = std::size_t(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
         return true;
     }
-    *error = QStringLiteral("standard output cannot be written");
-    return false;
+    return MRV::fail(error, QStringLiteral("standard output cannot be written"));
 }
 
 void showProgress(const QString &text)
 {
-    static const bool terminal = isatty(STDERR_FILENO);
-    if (terminal) {
+    if (isTerminal()) {
         const QByteArray bytes = printable(text).toUtf8();
         std::fprintf(stderr, "\r\033[K%s", bytes.constData());
         std::fflush(stderr);
     }
+}
+
+MRVProgress progressOf(const QString &text)
+{
+    showProgress(text);
+    if (!isTerminal()) {
+        return {};
+    }
+    return [text](int thousandths) {
+        showProgress(QStringLiteral("%1: %2%").arg(text, QString::number(thousandths / 10)));
+        return true;
+    };
 }
 
 QString printable(const QString &text, const QString &kept)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "util/mrvprogress.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -16,6 +18,8 @@ void setErrorStyle(const QString &command, bool json);
  * text as "error". Control characters are escaped.
  */
 void printError(const QString &text);
+/** The same, where JSON has the kind of the failure as "kind", too: "no-space". */
+void printError(const MRVError &error);
 /**
  * Prints a line to standard output, as UTF-8 whatever the locale. On a terminal the control
  * characters of the text are escaped, except tabs and line feeds.
@@ -26,10 +30,12 @@ void printLine(const QString &text);
 void printJson(const QJsonObject &object);
 
 /** Writes to standard output; false, with a text, when that cannot take it all. */
-bool writeStandardOutput(const QByteArray &bytes, QString *error);
+bool writeStandardOutput(const QByteArray &bytes, MRVErrorSink error);
 
 /** Shows what is being done, on a terminal only; an empty text clears the line. */
 void showProgress(const QString &text);
+/** The same for a long operation, with how much of it is done. */
+MRVProgress progressOf(const QString &text);
 
 /**
  * The text with its control characters, and those that change the direction of what follows, as

@@ -162,28 +162,47 @@ int reset(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
     return write(call, options, scheme);
 }
 
-// Opens the settings unless a preset file is read, and hands the presets to the verb.
-template<Access access, int (*Run)(const Call &call, MRVOptions *options, MRVTextPresetScheme)>
-int withPresets(const Call &call)
+// Opens the settings unless a preset file is read. Where all presets are to be replaced, those that
+// are there may be damaged.
+bool readPresets(const Call &call, Access access, bool replacesAll, MRVOptionsFile *settings,
+                 MRVTextPresetScheme *scheme, QString *error)
 {
     // The presets are in the application's folders, not in those of the tool.
     QCoreApplication::setOrganizationName(MRVOptions::companyName());
     QCoreApplication::setApplicationName(MRVOptions::applicationName());
+    if (!call.has("file") && !settings->open(call.value("settings"), access, error)) {
+        return false;
+    }
+    if (!replacesAll) {
+        *scheme = call.has("file")
+            ? MRVTextPresetScheme::load(call.value("file"), error)
+            : MRVTextPresetMgr::readPresets(named(call, settings->options()), error);
+    }
+    return error->isEmpty();
+}
+
+template<Access access, int (*Run)(const Call &call, MRVOptions *options, MRVTextPresetScheme)>
+int withPresets(const Call &call)
+{
     QString error;
     MRVOptionsFile settings;
-    if (!call.has("file")) {
-        settings.open(call.value("settings"), access, &error);
-    }
     MRVTextPresetScheme scheme;
-    // The presets may be damaged when all of them are to be replaced.
     const bool replacesAll = call.has("only-these") || (Run == reset && call.arguments.isEmpty());
-    if (error.isEmpty() && !replacesAll) {
-        scheme = call.has("file")
-            ? MRVTextPresetScheme::load(call.value("file"), &error)
-            : MRVTextPresetMgr::readPresets(named(call, settings.options()), &error);
-    }
-    return error.isEmpty() ? Run(call, settings.options(), scheme) : refuse(error);
+    return readPresets(call, access, replacesAll, &settings, &scheme, &error)
+        ? Run(call, settings.options(), scheme)
+        : refuse(error);
 }
+
+Candidates presetNames(const Call &call)
+{
+    QString error;
+    MRVOptionsFile settings;
+    MRVTextPresetScheme scheme;
+    readPresets(call, Access::Read, false, &settings, &scheme, &error);
+    return candidates(scheme.names());
+}
+
+constexpr ArgumentValues values[] = {{"NAME", presetNames}};
 
 constexpr Verb verbs[] = {
     {"list", "", "list the names of all presets", withPresets<Access::Read, list>},
@@ -221,4 +240,5 @@ const Command presetsCommand = {
     "presets import house.presets --only-these",
     verbs,
     {options},
+    values,
 };

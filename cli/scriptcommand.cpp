@@ -140,6 +140,13 @@ int check(const Call &call)
     return clean ? Done : Failed;
 }
 
+Candidates modeNames(const Call &)
+{
+    return candidates(MRVScriptMode::systemModes().keys());
+}
+
+constexpr ArgumentValues values[] = {{"MODE", modeNames}};
+
 constexpr Verb verbs[] = {
     {"list", "[FOLDER...]", "list the factory modes, or the modes of folders", list,
      "Prints their names, units and number of elements. Files that are no modes are left out; 'mrv "
@@ -260,4 +267,5 @@ const Command scriptCommand = {
     "script compare draft1.fountain draft2.fdx",
     verbs,
     {options},
+    values,
 };

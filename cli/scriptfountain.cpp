@@ -4,6 +4,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "epub/mrvscriptbook.h"
+#include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvscriptpdf.h"
 #include "publish/mrvoutputfiles.h"
 #include "screenplay/mrvscriptcast.h"
@@ -37,7 +38,7 @@ bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, 
                                           : MRVScriptFile::formatOfFile(path);
     QString reason;
     const QByteArray bytes =
-        standard ? standardInput(&reason) : MRVCoreUtil::ReadBinaryFile(path, &reason);
+        standard ? standardInput(&reason) : MRVCoreUtil::readStream(path, &reason);
     if (!reason.isEmpty()) {
         *error = reason;
         return false;
@@ -232,7 +233,7 @@ int runScriptConvert(const Call &call)
         return refuse(error);
     }
     if (!missing.isEmpty()) {
-        printError(QStringLiteral("note: ") + missingCharactersText(missing));
+        printError(QStringLiteral("note: ") + MRVPdfWriter::missingCharactersNote(missing));
     }
     printLosses(options.input, script, options.to);
     if (options.output != StandardStream && options.json) {

@@ -256,6 +256,36 @@ int importFrom(const Call &call, MRVOptions *options)
     return left.isEmpty() ? code : int(Failed);
 }
 
+Candidates keys(const Call &)
+{
+    Candidates all;
+    const QList<MRVOptions::SettingInfo> settings = MRVOptions::settings();
+    for (const MRVOptions::SettingInfo &info : settings) {
+        all.append({info.key, info.label});
+    }
+    return all;
+}
+
+Candidates valuesOfKey(const Call &call)
+{
+    Candidates all;
+    const QList<MRVOptions::SettingInfo> settings = MRVOptions::settings();
+    for (const MRVOptions::SettingInfo &info : settings) {
+        if (info.key != call.arguments.value(0)) {
+            continue;
+        }
+        if (info.type == MRVOptions::FlagType) {
+            return candidates({QStringLiteral("true"), QStringLiteral("false")});
+        }
+        for (const MRVOptions::Choice &choice : info.choices) {
+            all.append({choice.value.toString(), choice.label});
+        }
+    }
+    return all;
+}
+
+constexpr ArgumentValues values[] = {{"KEY", keys}, {"VALUE", valuesOfKey}};
+
 constexpr Verb verbs[] = {
     {"get", "KEY...", "print values", withSettings<Access::Read, get>},
     {"set", "KEY VALUE...", "store a value; several values make a list",
@@ -296,4 +326,5 @@ const Command settingsCommand = {
     "settings explain Backups/retain --json",
     verbs,
     {options},
+    values,
 };

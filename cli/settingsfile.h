@@ -15,7 +15,7 @@ constexpr Option settingsOption =
 template<Access access, int (*Run)(const Call &call, MRVOptions *options)>
 int withSettings(const Call &call)
 {
-    QString error;
+    MRVError error;
     MRVOptionsFile file;
     return file.open(call.value("settings"), access, &error) ? Run(call, file.options())
                                                              : refuse(error);
@@ -27,7 +27,7 @@ int withSettings(const Call &call)
  */
 inline int save(MRVOptions *options)
 {
-    QString error;
+    MRVError error;
     if (options->saveNow(&error)) {
         return Done;
     }

@@ -209,6 +209,37 @@ int importScheme(const Call &call, MRVOptions *options)
     return save(options);
 }
 
+Candidates commandNames(const Call &)
+{
+    Candidates all;
+    const QList<MRVShortcutInfo> infos = MRVShortcutScheme::morvane().findShortcuts(QString());
+    for (const MRVShortcutInfo &info : infos) {
+        all.append({nameOf(info.id), info.text});
+    }
+    return all;
+}
+
+Candidates schemeNames(const Call &)
+{
+    Candidates all;
+    const QList<MRVShortcutScheme> schemes = MRVShortcutScheme::predefinedSchemes();
+    for (const MRVShortcutScheme &scheme : schemes) {
+        all.append({scheme.name(), QString()});
+    }
+    return all;
+}
+
+Candidates groupNames(const Call &)
+{
+    return candidates(MRVShortcutScheme::morvane().shortcutGroups());
+}
+
+constexpr ArgumentValues values[] = {
+    {"COMMAND", commandNames},
+    {"SCHEME BEFORE AFTER", schemeNames},
+    {"GROUP", groupNames},
+};
+
 constexpr Verb verbs[] = {
     {"list", "[SCHEME]", "list the commands with their keys and texts", list},
     {"check", "[SCHEME]", "find keys that would not work; exit code 1 if there are any", check},
@@ -256,4 +287,5 @@ const Command shortcutsCommand = {
     "shortcuts export --to scheme -o mine.scheme",
     verbs,
     {options},
+    values,
 };

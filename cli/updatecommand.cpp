@@ -343,7 +343,7 @@ int run(const Call &call)
     // names. An installer is renamed at the end, which needs the same file system.
     const MRVTemporaryFolder folder(call.has("download") ? output : QDir::tempPath());
     if (folder.path().isEmpty()) {
-        return unreadable(folder.errorString());
+        return unreadable(folder.error().text);
     }
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     return Check(call).run(key);

@@ -11,8 +11,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
-# What is installed finds the libraries from where it lies, so that an installation may be moved as a whole. For
-# a package in the system's own folders, configure with -DCMAKE_SKIP_INSTALL_RPATH=ON.
+# What is installed finds the libraries from where it lies, so that an installation may be moved as a whole.
 file(RELATIVE_PATH lib_from_bin "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
 set(CMAKE_INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
 
@@ -42,6 +41,11 @@ endif()
 
 # Product code spells out every conversion between bytes and text; tests may be lax.
 add_library(mrv_strict INTERFACE)
+if(MRV_COVERAGE)
+  # Tests are not counted, but link what is.
+  target_compile_options(mrv_strict INTERFACE --coverage -fprofile-abs-path)
+  target_link_options(mrv_options INTERFACE --coverage)
+endif()
 target_link_libraries(mrv_strict INTERFACE mrv_options)
 target_compile_definitions(
   mrv_strict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
@@ -68,13 +72,54 @@ function(mrv_add_library target)
   install(
     TARGETS ${target}
     EXPORT MrvBaseTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
   foreach(file IN LISTS ARG_SOURCES)
     if(file MATCHES "\\.h$" AND NOT file MATCHES "_p\\.h$")
       file(RELATIVE_PATH place "${ARG_INCLUDE_ROOT}" "${file}")
       get_filename_component(folder "${place}" DIRECTORY)
-      install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${ARG_HEADER_DIR}/${folder}")
+      install(
+        FILES "${file}"
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${ARG_HEADER_DIR}/${folder}"
+        COMPONENT development)
       set_property(GLOBAL APPEND PROPERTY MRV_PUBLIC_HEADERS "${file}")
     endif()
+  endforeach()
+endfunction()
+
+# How lupdate takes the texts of sources over into translations. New ones come in as unfinished; what the sources no longer
+# have goes. In English only texts that hold a count need one.
+set(MRV_LUPDATE_OPTIONS -silent -no-obsolete -locations none -no-ui-lines -source-language en)
+
+# mrv_compile_translations(NAME prefix files...): makes a list of Qt resources below prefix, NAME.qrc, which no other list of a
+# program may be called. It holds the translations (*.ts). Sets translations_qrc to its path, and translation_files to what
+# is made of them.
+function(mrv_compile_translations list prefix)
+  qt5_add_translation(files ${ARGN} OPTIONS -silent)
+  foreach(file IN LISTS files)
+    cmake_path(GET file FILENAME name)
+    string(APPEND rows "        <file>${name}</file>\n")
+  endforeach()
+  set(qrc "${CMAKE_CURRENT_BINARY_DIR}/${list}.qrc")
+  file(CONFIGURE OUTPUT "${qrc}" CONTENT "<RCC>\n    <qresource prefix=\"${prefix}\">\n${rows}    </qresource>\n</RCC>\n")
+  set(translations_qrc "${qrc}" PARENT_SCOPE)
+  set(translation_files "${files}" PARENT_SCOPE)
+endfunction()
+
+# mrv_update_translations(TARGET FILES files... FOLDERS folders...): TARGET takes the texts of the sources in the folders
+# over into translations, whose names end with "_CODE.ts".
+function(mrv_update_translations target)
+  cmake_parse_arguments(ARG "" "" "FILES;FOLDERS" ${ARGN})
+  add_custom_target(${target})
+  foreach(file IN LISTS ARG_FILES)
+    string(REGEX REPLACE ".*_(.*)\\.ts$" "\\1" language "${file}")
+    set(only)
+    if(language STREQUAL "en")
+      set(only -pluralonly)
+    endif()
+    add_custom_command(
+      TARGET ${target}
+      COMMAND Qt5::lupdate ${MRV_LUPDATE_OPTIONS} ${only} -target-language ${language} ${ARG_FOLDERS} -ts "${file}"
+      WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+      VERBATIM)
   endforeach()
 endfunction()

@@ -34,6 +34,7 @@ constexpr OutsideProgram outsidePrograms[] = {
     {"ip", "iproute2"},
     {"java", "default-jre-headless"},
     {"lighttpd", "lighttpd"},
+    {"mandoc", "mandoc"},
     {"nginx", "nginx-light"},
     {"openssl", "openssl"},
     {"pandoc", "pandoc"},
@@ -48,7 +49,9 @@ constexpr OutsideProgram outsidePrograms[] = {
     {"sh", "dash"},
     {"strace", "strace"},
     {"unshare", "util-linux"},
+    {"xdotool", "xdotool"},
     {"xmllint", "libxml2-utils"},
+    {"zsh", "zsh"},
 };
 
 inline QString missingText(const QString &program, const QString &package)

@@ -1,10 +1,9 @@
 #include "clipboard/mrvdocumentmimedata.h"
-#include "documentdump.h"
+#include "fulldocument.h"
 #include "gui/mrvguiutil.h"
 #include "images.h"
 #include "input/mrvguardeddocument.h"
 #include "text/mrvlistmarkers.h"
-#include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
 
@@ -33,91 +32,6 @@ protected:
     }
 };
 
-/// A document with everything that the clipboard has to keep.
-void fill(QTextDocument *document)
-{
-    QTextCursor cursor(document);
-    QTextBlockFormat heading;
-    heading.setHeadingLevel(2);
-    MRVTextBlockFormat::setLineSpacing(&heading, 18, 12);
-    cursor.setBlockFormat(heading);
-    cursor.insertText("Heading");
-
-    cursor.insertBlock(QTextBlockFormat());
-    QTextListFormat list;
-    MRVTextListFormat::setLevels(list, {{"%0.", 1, 36, 18}, {"%0)", 2, 72, 18}});
-    QTextList *items = cursor.createList(list);
-    for (const int level : {0, 1, 1, 0}) {
-        MRVTextListFormat::setBlockLevel(*items, cursor.block(), level);
-        QTextCharFormat comment;
-        comment.setProperty(MRVTextFormat::InspectorCommentProperty, true);
-        comment.setProperty(MRVTextFormat::CommentData0, QString("Comment %1").arg(level));
-        cursor.insertText("item ");
-        cursor.insertText("with", comment);
-        cursor.insertText(" comment", QTextCharFormat());
-        cursor.insertBlock();
-    }
-    cursor.setBlockFormat(QTextBlockFormat());
-    QTextCharFormat footnote;
-    footnote.setProperty(MRVTextFormat::InlineFootnoteProperty, true);
-    cursor.insertText("A note", footnote);
-    for (const auto position : {QTextFrameFormat::FloatLeft, QTextFrameFormat::FloatRight}) {
-        const QString name = QString("picture-%1").arg(position);
-        document->addResource(QTextDocument::ImageResource, QUrl(name), filledImage(4, 3, Qt::red));
-        QTextImageFormat image;
-        image.setName(name);
-        image.setProperty(MRVTextFormat::ImageTypeProperty, "JPG");
-        cursor.insertImage(image, position);
-        cursor.insertImage(image);
-    }
-    QTextTableFormat wide;
-    wide.setColumnWidthConstraints(
-        {QTextLength(), QTextLength(QTextLength::FixedLength, 40), QTextLength()});
-    QTextTable *table = cursor.insertTable(3, 3, wide);
-    table->mergeCells(1, 1, 2, 2);
-    table->cellAt(0, 2).firstCursorPosition().insertText("cell");
-    QTextCursor inner = table->cellAt(1, 1).firstCursorPosition();
-    inner.insertText("merged");
-    inner.insertFrame(QTextFrameFormat());
-    inner.insertText("framed");
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertText("last");
-}
-
-/// All that can be seen of a document, without the numbers of its objects.
-QStringList dump(const QTextDocument &document)
-{
-    QStringList lines;
-    const QVector<MRVListMarker> markers = mrvListMarkers(document);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        QTextBlockFormat format = block.blockFormat();
-        format.clearProperty(QTextFormat::ObjectIndex);
-        QTextCursor cursor(block);
-        QString place;
-        for (QTextFrame *frame = cursor.currentFrame(); frame; frame = frame->parentFrame()) {
-            place += propertyDump(frame->parentFrame() ? frame->frameFormat() : QTextFormat());
-        }
-        if (QTextTable *table = cursor.currentTable()) {
-            const QTextTableCell cell = table->cellAt(block.position());
-            place += QString("%1,%2 %3x%4")
-                         .arg(cell.row())
-                         .arg(cell.column())
-                         .arg(cell.rowSpan())
-                         .arg(cell.columnSpan());
-        }
-        lines << place + markers.at(block.blockNumber()).text + propertyDump(format);
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            QTextCharFormat text = it.fragment().charFormat();
-            const QTextObject *object = document.objectForFormat(text);
-            lines << it.fragment().text() + (object ? propertyDump(object->format()) : QString());
-            text.clearProperty(QTextFormat::ObjectIndex);
-            text.clearProperty(QTextFormat::CssFloat); // where the object was, in a copy
-            lines << propertyDump(text);
-        }
-    }
-    return lines;
-}
-
 QByteArray copied(const QTextCursor &cursor)
 {
     const QScopedPointer<QMimeData> data(MRVDocumentMimeData::createMimeData(cursor));
@@ -142,12 +56,12 @@ private Q_SLOTS:
     void wholeDocument()
     {
         Editor from;
-        fill(from.document());
+        fillDocument(from.document());
         from.selectAll();
         from.copy();
         Editor to;
         to.paste();
-        QCOMPARE(dump(*to.document()), dump(*from.document()));
+        QCOMPARE(fullDump(*to.document()), fullDump(*from.document()));
         for (const QString name : {"picture-1", "picture-2"}) {
             QCOMPARE(MRVGuardedDocument::picture(*to.document(), name), filledImage(4, 3, Qt::red));
         }
@@ -155,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(to.document()->isEmpty());
         QVERIFY(!to.document()->isUndoAvailable());
         to.document()->redo();
-        QCOMPARE(dump(*to.document()), dump(*from.document()));
+        QCOMPARE(fullDump(*to.document()), fullDump(*from.document()));
 
         const QScopedPointer<QMimeData> data(
             MRVDocumentMimeData::createMimeData(from.textCursor()));
@@ -190,7 +104,7 @@ private Q_SLOTS:
         QFETCH(QPoint, selection);
         QFETCH(QString, target);
         QTextDocument source;
-        fill(&source);
+        fillDocument(&source);
         QTextCursor cursor(&source);
         cursor.setPosition(selection.x());
         cursor.setPosition(selection.y(), QTextCursor::KeepAnchor);
@@ -211,7 +125,7 @@ private Q_SLOTS:
     void selectedCells()
     {
         QTextDocument source;
-        fill(&source);
+        fillDocument(&source);
         auto *table = qobject_cast<QTextTable *>(source.rootFrame()->childFrames().last());
         QTextCursor cursor = table->cellAt(0, 1).firstCursorPosition();
         cursor.setPosition(table->cellAt(1, 1).firstPosition(), QTextCursor::KeepAnchor);
@@ -240,7 +154,7 @@ private Q_SLOTS:
     void picturesOfOneName()
     {
         QTextDocument source;
-        fill(&source);
+        fillDocument(&source);
         QTextCursor cursor(&source);
         cursor.select(QTextCursor::Document);
         QTextDocument document;
@@ -259,7 +173,7 @@ private Q_SLOTS:
     void damage()
     {
         QTextDocument source;
-        fill(&source);
+        fillDocument(&source);
         QTextCursor cursor(&source);
         cursor.select(QTextCursor::Document);
         const QByteArray bytes = copied(cursor);

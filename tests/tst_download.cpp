@@ -564,6 +564,7 @@ private Q_SLOTS:
         QCOMPARE(download.finals, int(!error.isEmpty()));
         QVERIFY2(fits(download.error, error), qPrintable(download.error));
         QVERIFY2(!download.error.contains("pass"), qPrintable(download.error));
+        QCOMPARE(int(download.url->lastError().kind), cell("kind").toInt());
     }
 
     void fileForUrl_data() { addRows("download-files.tsv"); }

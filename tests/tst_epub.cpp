@@ -208,7 +208,7 @@ private Q_SLOTS:
             QCOMPARE(page.contains("</em>r<a id=\"comment-mark-2\""), areNotes);
             QCOMPARE(page.contains("href=\"#comment-mark-2\">[2]</a> Ann: Why?<br />So.</p>"),
                      areNotes);
-            QCOMPARE(page.contains("Why"), areNotes);
+            QCOMPARE(page.count("Why"), areNotes ? 1 : 0);
             QCOMPARE(package.losses({&document}), QStringList());
         }
     }

@@ -382,6 +382,7 @@ private Q_SLOTS:
         QVERIFY(modes.size() > 5);
         for (const MRVScriptMode &mode : modes) {
             QTest::newRow(qPrintable(mode.name())) << mode;
+            QTest::newRow(qPrintable(mode.name() + " in an editor")) << mode.forEditor();
         }
     }
     // Through a document, a copy of it, and formats as they are stored.

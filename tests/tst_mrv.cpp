@@ -65,6 +65,7 @@ private Q_SLOTS:
                                             pictures + "curve.jpg", pictures + "mill.jpg",
                                             pictures + "staff.jpg"};
         QTest::newRow("pdf") << "pdf" << QStringList{"manuscript.pdf"};
+        QTest::newRow("text") << "text" << QStringList{"manuscript.txt"};
     }
 
     // The bytes depend on nothing else, and replace what was written before.

@@ -230,11 +230,42 @@ private Q_SLOTS:
         QCOMPARE(groups.removeDuplicates(), 0);
         QCOMPARE(groups.first(), QString("General"));
         QVERIFY(!groups.contains(QString()));
-        QCOMPARE(MRVOptions::label(MRVOptions::SaveInterval), QString("Save after (seconds)"));
+        QCOMPARE(MRVOptions::label(MRVOptions::SaveInterval), QString("Save after"));
         QCOMPARE(MRVOptions::label(MRVOptions::TextColor), QString("Text"));
         QVERIFY(MRVOptions::label(MRVOptions::FlagSetting(60)).isEmpty());
         QVERIFY(MRVOptions::description(MRVOptions::IntListSetting(0)).isEmpty());
         QVERIFY(MRVOptions::label("General/none").isEmpty());
+    }
+
+    void unitsAndForms_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("accepts");
+        QTest::addColumn<int>("form");
+        QTest::newRow("seconds") << "General/saveInterval"
+                                 << "1 to 3600 s" << 0;
+        QTest::newRow("pixels") << "TextEditing/margin"
+                                << "0 to 1000 px" << 0;
+        QTest::newRow("no unit") << "Backups/retain"
+                                 << "0 to 32767" << 0;
+        QTest::newRow("line") << "Ruler/snap"
+                              << "" << int(MRVOptions::Line);
+        QTest::newRow("lines") << "Separators/ClippingsCustom"
+                               << "" << int(MRVOptions::Lines);
+        QTest::newRow("folder") << "Backups/location"
+                                << "" << int(MRVOptions::FolderPath);
+        QTest::newRow("file") << "Compile/KindlePath"
+                              << "" << int(MRVOptions::FilePath);
+        QTest::newRow("quotes") << "General/DoubleQuotesSubstitution"
+                                << "" << int(MRVOptions::QuotePair);
+    }
+    void unitsAndForms()
+    {
+        const MRVOptions::Explanation setting = m_options->explain(cell("key"));
+        QCOMPARE(setting.accepts(), cell("accepts"));
+        QFETCH(int, form);
+        QCOMPARE(int(setting.form), form);
+        QCOMPARE(setting.toJson().value("unit").toString(), setting.unit);
     }
 
     void explainsOrigin()

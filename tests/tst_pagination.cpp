@@ -450,6 +450,8 @@ private Q_SLOTS:
         QByteArray bytes;
         QVERIFY(pdf.toByteArray(&bytes));
         QCOMPARE(pdf.flattenedTables(), 36);
+        QCOMPARE(pdf.notes(),
+                 QStringList("tables within four others, of which the rows are lines of text: 36"));
         QStringList read = wordsOf(pdfText(bytes, {"-raw"})).filter("E"); // no page numbers
         read.sort();
         words.sort();
@@ -467,6 +469,7 @@ private Q_SLOTS:
         QByteArray bytes;
         QVERIFY(pdf.toByteArray(&bytes));
         QCOMPARE(pdf.missingCharacters(), QString(QChar(0xe123)));
+        QCOMPARE(pdf.notes(), QStringList(MRVPdfWriter::missingCharactersNote(QChar(0xe123))));
         const QString read = pdfText(bytes, {"-bbox"});
         const auto left = [&read](const QString &word) {
             const QRegularExpression place("xMin=\"([0-9.]+)\"[^>]*>" + word);

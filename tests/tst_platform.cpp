@@ -179,9 +179,9 @@ private Q_SLOTS:
         QVERIFY(batch.add(path("old"), "new"));
         QCOMPARE(MRVCoreUtil::ReadBinaryFile(path("old")), QByteArray("as it was"));
         QVERIFY(QDir(m_dir->path()).mkdir("taken"));
-        const QMap<QString, QString> failed = batch.commit();
+        const QMap<QString, MRVError> failed = batch.commit();
         QCOMPARE(failed.keys(), QStringList(path("taken")));
-        QVERIFY2(failed.first().contains("taken"), qPrintable(failed.first()));
+        QVERIFY2(failed.first().text.contains("taken"), qPrintable(failed.first().text));
         QMap<QString, Entry> after = entriesOf(m_dir->path());
         QCOMPARE(after.size(), count + 2);
         for (int i = 0; i < count; ++i) {
@@ -205,6 +205,7 @@ private Q_SLOTS:
         const QByteArray raw = QByteArray::fromHex(cell("bytes").toLatin1());
         const bool good = error.isEmpty();
         QString message;
+        QVERIFY(file != "pipe" || ::mkfifo(qPrintable(path(file)), 0600) == 0);
         if (file.startsWith('@')) {
             QVERIFY(QFile(path(file)).open(QIODevice::WriteOnly));
             QVERIFY(QFile::resize(path(file), file.mid(1).toLongLong()));

@@ -307,6 +307,59 @@ private Q_SLOTS:
         }
     }
 
+    void movesItsRange_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("finds"); // where they start; the range is the middle one's
+        QTest::newRow("before it") << 0 << 0 << "one "
+                                   << "8";
+        QTest::newRow("across paragraphs before it") << 0 << 4 << "\n\n"
+                                                     << "2";
+        QTest::newRow("all before it") << 0 << 4 << ""
+                                       << "0";
+        QTest::newRow("at its start") << 4 << 4 << "one "
+                                      << "8";
+        QTest::newRow("at its end") << 7 << 7 << " one"
+                                    << "4";
+        QTest::newRow("after it") << 8 << 8 << "one "
+                                  << "4";
+        QTest::newRow("in place of it") << 4 << 7 << "one one"
+                                        << "4 8";
+        QTest::newRow("removing some of it") << 5 << 6 << ""
+                                             << "";
+    }
+
+    void movesItsRange()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(QString, typed);
+        for (const bool hasLayout : {true, false}) {
+            QTextDocument document("one one one");
+            if (hasLayout) {
+                document.documentLayout();
+            }
+            MRVFindSession session(&document);
+            MRVTextQuery query = queryFor("one", "p");
+            query.range = MRVTextRange(4, 7);
+            session.setQuery(query, QTextCursor());
+            while (!session.advance(0)) { }
+            selected(&document, from, to).insertText(typed);
+            while (!session.advance(0)) { }
+            QStringList finds;
+            for (const MRVTextRange &find : session.finds()) {
+                finds << QString::number(find.start());
+            }
+            QTEST(finds.join(' '), "finds");
+            document.undo();
+            while (!session.advance(0)) { }
+            QCOMPARE(session.count(), 1);
+            QCOMPARE(session.finds().first().start(), 4);
+        }
+    }
+
     void nextAndPrevious()
     {
         QTextDocument document("aXa\n" + QString("b").repeated(20000) + "\naa");

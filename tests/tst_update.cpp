@@ -322,6 +322,7 @@ private Q_SLOTS:
         }
         QMenu menu;
         manager->setupMenuActions(&menu);
+        QCOMPARE(menu.actions().constFirst()->objectName(), QString("CheckForUpdates"));
         menu.actions().constFirst()->trigger();
         QTRY_VERIFY(isOver() || shownDialog());
         drive(plant, &heard);

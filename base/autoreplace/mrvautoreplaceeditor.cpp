@@ -6,17 +6,17 @@
 
 namespace {
 
-bool failToFind(QString *error, const QString &match, const QString &replacement)
+bool failToFind(MRVErrorSink error, const QString &match, const QString &replacement)
 {
     return MRV::fail(
-        error,
+        error, MRVErrorKind::NotFound,
         replacement.isNull()
             ? MRVAutoReplaceEditor::tr("no such entry: \u201c%1\u201d").arg(match)
             : MRVAutoReplaceEditor::tr("no such entry: \u201c%1\u201d -> \u201c%2\u201d")
                   .arg(match, replacement));
 }
 
-bool failOfEnabled(QString *error, const QString &match)
+bool failOfEnabled(MRVErrorSink error, const QString &match)
 {
     return MRV::fail(error,
                      MRVAutoReplaceEditor::tr(
@@ -37,7 +37,7 @@ MRVAutoReplaceEditor::MRVAutoReplaceEditor(const MRVAutoReplaceList &list)
 {
 }
 
-bool MRVAutoReplaceEditor::add(const MRVAutoReplace &entry, QString *error)
+bool MRVAutoReplaceEditor::add(const MRVAutoReplace &entry, MRVErrorSink error)
 {
     if (entry.match.contains(u'\n') || entry.match.contains(QChar::ParagraphSeparator)) {
         return MRV::fail(error, tr("a match cannot go over the end of a paragraph"));
@@ -56,7 +56,8 @@ bool MRVAutoReplaceEditor::add(const MRVAutoReplace &entry, QString *error)
     return true;
 }
 
-bool MRVAutoReplaceEditor::remove(const QString &match, const QString &replacement, QString *error)
+bool MRVAutoReplaceEditor::remove(const QString &match, const QString &replacement,
+                                  MRVErrorSink error)
 {
     const QVector<int> entries = m_list.indexesOf(match, replacement);
     if (entries.isEmpty()) {
@@ -79,7 +80,7 @@ bool MRVAutoReplaceEditor::remove(const QString &match, const QString &replaceme
 }
 
 bool MRVAutoReplaceEditor::setEnabled(const QString &match, const QString &replacement,
-                                      bool isEnabled, QString *error)
+                                      bool isEnabled, MRVErrorSink error)
 {
     const QVector<int> entries = m_list.indexesOf(match, replacement);
     if (entries.isEmpty()) {

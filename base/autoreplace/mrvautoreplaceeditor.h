@@ -1,6 +1,7 @@
 #pragma once
 
 #include "autoreplace/mrvautoreplacelist.h"
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -32,19 +33,19 @@ public:
      * Appends @p entry. Refused are one that is in the list already, enabled or not; one that is
      * enabled while another one with its match is; and a match with the end of a paragraph in it.
      */
-    bool add(const MRVAutoReplace &entry, QString *error = nullptr);
+    bool add(const MRVAutoReplace &entry, MRVErrorSink error = nullptr);
     /**
      * Removes the entries with just this @p match and, unless it is null, this @p replacement.
      * Refused where there are none, and for ordinals, which would come back.
      */
-    bool remove(const QString &match, const QString &replacement, QString *error = nullptr);
+    bool remove(const QString &match, const QString &replacement, MRVErrorSink error = nullptr);
     /**
      * Enables or disables, as @p isEnabled says, the entries with just this @p match and, unless it
      * is null, this @p replacement. Refused where there are none; and to enable several, or one
      * beside an enabled one of its match.
      */
     bool setEnabled(const QString &match, const QString &replacement, bool isEnabled,
-                    QString *error = nullptr);
+                    MRVErrorSink error = nullptr);
 
 private:
     MRVAutoReplaceList m_list;

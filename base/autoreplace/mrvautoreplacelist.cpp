@@ -2,6 +2,7 @@
 
 #include "autoreplace/mrvautoreplaceindex_p.h"
 #include "core/mrvcheckedstream.h"
+#include "util/mrvfailure.h"
 
 #include <QDataStream>
 
@@ -169,7 +170,7 @@ QByteArray MRVAutoReplaceList::toByteArray() const
     return data;
 }
 
-void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
+void MRVAutoReplaceList::fromByteArray(const QByteArray &data, MRVErrorSink error)
 {
     clear();
     QDataStream stream(data);
@@ -178,9 +179,8 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
     qint32 version = 0;
     qint32 count = 0;
     if (!in.read(&version) || version != ListVersion) {
-        if (error) {
-            *error = tr("it is not an auto-replace list of a known version");
-        }
+        MRV::fail(error, MRVErrorKind::Unsupported,
+                  tr("it is not an auto-replace list of a known version"));
         return;
     }
     in.read(&count);
@@ -194,8 +194,10 @@ void MRVAutoReplaceList::fromByteArray(const QByteArray &data, QString *error)
             append(entry);
         }
     }
-    if (error && (count < 0 || !in.isOk() || !stream.atEnd())) {
-        *error = tr("it is damaged or truncated; entries that could be read: %n", nullptr, size());
+    if (count < 0 || !in.isOk() || !stream.atEnd()) {
+        MRV::fail(
+            error, MRVErrorKind::Damaged,
+            tr("it is damaged or truncated; entries that could be read: %n", nullptr, size()));
     }
 }
 

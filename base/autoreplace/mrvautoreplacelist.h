@@ -1,6 +1,7 @@
 #pragma once
 
 #include "autoreplace/mrvautoreplace.h"
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -103,7 +104,7 @@ public:
      * @param error if given, receives a translated reason when not all of @p data could be read;
      *              untouched otherwise.
      */
-    void fromByteArray(const QByteArray &data, QString *error = nullptr);
+    void fromByteArray(const QByteArray &data, MRVErrorSink error = nullptr);
 
     /**
      * Appends those entries of MRVAutoReplace::ordinals() whose match and replacement no entry of

@@ -1,6 +1,6 @@
 #include "clipboard/mrvdocumentmimedata.h"
 
-#include "clipboard/mrvdocumentfragment_p.h"
+#include "fragment/mrvdocumentfragment.h"
 #include "input/mrvguardeddocument.h"
 #include "xhtml/mrvdocumenthtml.h"
 

@@ -4,6 +4,7 @@
 #include "input/mrvguardeddocument.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
+#include "util/mrvprogress.h"
 
 #include "core/mrvcoreutil.h"
 #include "gui/mrvguiutil.h"
@@ -77,7 +78,7 @@ QString MRVDocumentPicture::suffix() const
     return QLatin1String(types[m_type].suffix);
 }
 
-QByteArray MRVDocumentPicture::bytes(QString *error) const
+QByteArray MRVDocumentPicture::bytes(MRVErrorSink error) const
 {
     if (m_file.isEmpty()) {
         return m_bytes;
@@ -89,19 +90,17 @@ QByteArray MRVDocumentPicture::bytes(QString *error) const
             return bytes;
         }
     }
-    if (error) {
-        *error = tr("its file has changed, or cannot be read any more");
-    }
+    MRV::fail(error, MRVErrorKind::Changed, tr("its file has changed, or cannot be read any more"));
     return QByteArray();
 }
 
-MRVDocumentPicture MRVDocumentPicture::fromBytes(const QByteArray &bytes, QString *error)
+MRVDocumentPicture MRVDocumentPicture::fromBytes(const QByteArray &bytes, MRVErrorSink error)
 {
     return ofLook(MRVPictureReader(bytes), error);
 }
 
 // A picture in another form than those that browsers show becomes a PNG.
-MRVDocumentPicture MRVDocumentPicture::ofLook(const MRVPictureReader &look, QString *reason)
+MRVDocumentPicture MRVDocumentPicture::ofLook(const MRVPictureReader &look, MRVErrorSink reason)
 {
     MRVDocumentPicture picture;
     picture.m_type = typeOf(look);
@@ -116,17 +115,17 @@ MRVDocumentPicture MRVDocumentPicture::ofLook(const MRVPictureReader &look, QStr
     return picture;
 }
 
-MRVDocumentPicture MRVDocumentPicture::ofPixels(const QImage &image, QString *reason)
+MRVDocumentPicture MRVDocumentPicture::ofPixels(const QImage &image, MRVErrorSink reason)
 {
     const QByteArray png = MRVGuiUtil::toByteArray(image, "PNG");
     if (png.isEmpty()) {
-        MRV::fail(reason, tr("the document does not have it"));
+        MRV::fail(reason, MRVErrorKind::NotFound, tr("the document does not have it"));
         return MRVDocumentPicture();
     }
     return fromBytes(png, reason);
 }
 
-MRVDocumentPicture MRVDocumentPicture::fromFile(const QString &path, QString *error)
+MRVDocumentPicture MRVDocumentPicture::fromFile(const QString &path, MRVErrorSink error)
 {
     const QFileInfo file(path);
     const qint64 time = changeTime(file); // of a file that changes from here on, this is not it
@@ -144,7 +143,7 @@ MRVDocumentPicture MRVDocumentPicture::fromFile(const QString &path, QString *er
 }
 
 MRVDocumentPicture MRVDocumentPicture::of(const QTextDocument &document,
-                                          const QTextImageFormat &format, QString *reason)
+                                          const QTextImageFormat &format, MRVErrorSink reason)
 {
     const MRVPictureReader raw(MRVTextFormat::imageRawData(format));
     if (typeOf(raw) != None) {
@@ -170,22 +169,28 @@ MRVDocumentPicture MRVDocumentPicture::of(const QTextDocument &document,
     return ofPixels(image, reason);
 }
 
-MRVDocumentPictures::MRVDocumentPictures(const QTextDocument &document)
+MRVDocumentPictures::MRVDocumentPictures(const QTextDocument &document, MRVProgressMeter *meter)
 {
     QHash<QByteArray, int> digests;
     QSet<QString> ids;
     const QList<QTextImageFormat> formats = MTextDoc::imageFormats(document);
+    if (meter) {
+        meter->begin(500, formats.size());
+    }
     for (const QTextImageFormat &format : formats) {
+        if (meter && !meter->advance()) {
+            return;
+        }
         const QString id = MRVTextFormat::imageResourceId(format);
         if (ids.contains(id)) {
             continue;
         }
         ids.insert(id);
-        QString reason;
+        MRVError reason;
         MRVDocumentPicture picture = MRVDocumentPicture::of(document, format, &reason);
         picture.m_name = MRVTextFormat::imageName(format);
         if (picture.type() == MRVDocumentPicture::None) {
-            m_missing.append({id, picture.name(), reason});
+            m_missing.append({id, picture.name(), reason.text, reason.kind});
             continue;
         }
         const auto known = digests.constFind(picture.digest());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -11,6 +12,7 @@
 
 class MRVPictureReader;
 class QImage;
+class MRVProgressMeter;
 class QTextDocument;
 class QTextImageFormat;
 
@@ -37,7 +39,7 @@ public:
      *              failure; untouched on success.
      * @return type None on failure.
      */
-    static MRVDocumentPicture fromBytes(const QByteArray &bytes, QString *error = nullptr);
+    static MRVDocumentPicture fromBytes(const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * The picture in the file @p path, by whose name name() goes. It is read again by bytes().
@@ -45,7 +47,7 @@ public:
      * @param error as for fromBytes().
      * @return type None on failure.
      */
-    static MRVDocumentPicture fromFile(const QString &path, QString *error = nullptr);
+    static MRVDocumentPicture fromFile(const QString &path, MRVErrorSink error = nullptr);
 
     /** None for a value that was made without a picture; nothing else is set then. */
     Type type() const { return m_type; }
@@ -76,15 +78,15 @@ public:
      *              failure; untouched on success.
      * @return empty for None, and for a file that has changed or cannot be read any more.
      */
-    QByteArray bytes(QString *error = nullptr) const;
+    QByteArray bytes(MRVErrorSink error = nullptr) const;
 
 private:
     friend class MRVDocumentPictures;
 
     static MRVDocumentPicture of(const QTextDocument &document, const QTextImageFormat &format,
-                                 QString *reason);
-    static MRVDocumentPicture ofPixels(const QImage &image, QString *reason);
-    static MRVDocumentPicture ofLook(const MRVPictureReader &look, QString *reason);
+                                 MRVErrorSink reason);
+    static MRVDocumentPicture ofPixels(const QImage &image, MRVErrorSink reason);
+    static MRVDocumentPicture ofLook(const MRVPictureReader &look, MRVErrorSink reason);
 
     Type m_type = None;
     QString m_name;
@@ -106,6 +108,7 @@ struct MRVBASE_EXPORT MRVMissingPicture
     QString id; ///< of the resource; of a picture on another machine its address
     QString name; ///< MRVTextFormat::imageName()
     QString reason; ///< a translated end of a sentence: "it does not exist"
+    MRVErrorKind kind = MRVErrorKind::None; ///< of the reason
 };
 
 /**
@@ -128,8 +131,12 @@ struct MRVBASE_EXPORT MRVMissingPicture
 class MRVBASE_EXPORT MRVDocumentPictures
 {
 public:
-    /** Looks at the pictures of @p document. */
-    explicit MRVDocumentPictures(const QTextDocument &document);
+    /**
+     * Looks at the pictures of @p document.
+     *
+     * @param meter if given, counts the images; where it is cancelled, the others are left out.
+     */
+    explicit MRVDocumentPictures(const QTextDocument &document, MRVProgressMeter *meter = nullptr);
 
     /** In order of their first appearance. */
     QVector<MRVDocumentPicture> all() const { return m_all; }

@@ -4,7 +4,7 @@
 
 #include <QFileInfo>
 
-QString MRVPictureFiles::write(const QString &wanted, const QByteArray &bytes, QString *error)
+QString MRVPictureFiles::write(const QString &wanted, const QByteArray &bytes, MRVErrorSink error)
 {
     MRVNumberedFiles::Rules rules;
     rules.holder = [this](const QString &path) {
@@ -25,7 +25,7 @@ QString MRVPictureFiles::write(const QString &wanted, const QByteArray &bytes, Q
     return place.path;
 }
 
-bool MRVPictureFiles::replace(const QString &path, const QByteArray &bytes, QString *error)
+bool MRVPictureFiles::replace(const QString &path, const QByteArray &bytes, MRVErrorSink error)
 {
     m_taken.insert(path);
     if (!m_batch.add(path, bytes, error)) {
@@ -35,9 +35,9 @@ bool MRVPictureFiles::replace(const QString &path, const QByteArray &bytes, QStr
     return true;
 }
 
-QMap<QString, QString> MRVPictureFiles::commit()
+QMap<QString, MRVError> MRVPictureFiles::commit()
 {
-    const QMap<QString, QString> failed = m_batch.commit();
+    const QMap<QString, MRVError> failed = m_batch.commit();
     for (auto it = failed.cbegin(); it != failed.cend(); ++it) {
         m_created.removeOne(it.key());
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "document/mrvnumberedfiles.h"
 #include "util/mrvbase_export.h"
 
@@ -31,7 +32,7 @@ public:
      * @param error  if given, receives a translated line on failure; untouched on success.
      * @return the path of the file that holds the picture, or will; empty on failure.
      */
-    QString write(const QString &wanted, const QByteArray &bytes, QString *error = nullptr);
+    QString write(const QString &wanted, const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * The same, at @p path, in place of the file that may be there; none that this object has
@@ -40,7 +41,7 @@ public:
      * @param bytes the contents of the file.
      * @param error if given, receives a translated line on failure; untouched on success.
      */
-    bool replace(const QString &path, const QByteArray &bytes, QString *error = nullptr);
+    bool replace(const QString &path, const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /** Keeps write() from giving @p path to a picture. */
     void take(const QString &path) { m_taken.insert(path); }
@@ -51,7 +52,7 @@ public:
      * @return those that could not be, by their paths, each with a translated line; empty on
      *         success.
      */
-    QMap<QString, QString> commit();
+    QMap<QString, MRVError> commit();
 
     /**
      * The files that write() and replace() have made, in order, without those that were there

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QImage>
@@ -15,6 +16,7 @@
 #include <QTextImageFormat>
 #include <QVariant>
 
+class MRVPictureReader;
 class QColor;
 class QDir;
 class QTextBlock;
@@ -78,6 +80,21 @@ public:
      * they are shown even where a file is gone.
      */
     static void fixHtmlImageFormatsAndResourceIds(QTextDocument *document);
+
+    /**
+     * Takes a picture into a document as a resource, in place of what is selected: one undo step,
+     * which leaves the resource. It is named and kept as by fixHtmlImageFormatsAndResourceIds().
+     *
+     * @param cursor  stands after the image then; null does nothing.
+     * @param look    at the picture's file or bytes, which are not needed afterwards.
+     * @param name    shown for the picture; may be empty.
+     * @param widest  a wider picture is shown as wide as this, in pixels, and with its proportions;
+     *                its own pixels stay. 0 or less shows each in its own size.
+     * @param error   if given, receives the end of a sentence ("it is too large") on failure.
+     * @return false where the picture is refused or damaged; nothing changed then.
+     */
+    static bool insertPicture(QTextCursor *cursor, const MRVPictureReader &look,
+                              const QString &name, int widest = 0, MRVErrorSink error = nullptr);
 
     /**
      * Gives every image the id generated from its picture, so that equal pictures share one

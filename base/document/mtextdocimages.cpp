@@ -349,6 +349,29 @@ void MTextDoc::fixHtmlImageFormatsAndResourceIds(QTextDocument *document)
     rekey(document, runs, keys);
 }
 
+bool MTextDoc::insertPicture(QTextCursor *cursor, const MRVPictureReader &look, const QString &name,
+                             int widest, MRVErrorSink error)
+{
+    NewKey key;
+    key.picture = look.read(error);
+    if (!cursor || cursor->isNull() || key.picture.isNull()) {
+        return false;
+    }
+    keepEncoded(look, &key);
+    key.id = MRVGuiUtil::resourceId(key.picture);
+    key.name = name;
+    setImageResource(cursor->document(), key.id, key.picture);
+    QTextImageFormat format;
+    setNewKey(&format, key);
+    if (widest > 0 && key.picture.width() > widest) {
+        format.setWidth(widest);
+        format.setHeight(
+            qMax(1, qRound(double(widest) * key.picture.height() / key.picture.width())));
+    }
+    cursor->insertImage(format);
+    return true;
+}
+
 void MTextDoc::convertUniqueImageResources(QTextDocument *document)
 {
     if (!document) {
@@ -541,7 +564,7 @@ QStringList MTextDoc::exportImages(const QTextDocument &document, const QString 
             files.take(path);
         }
     }
-    const QMap<QString, QString> failed = files.commit();
+    const QMap<QString, MRVError> failed = files.commit();
     for (auto it = failed.cbegin(); it != failed.cend(); ++it) {
         QFile::remove(it.key());
         paths.removeOne(it.key());

@@ -195,18 +195,17 @@ bool MRVDomDoc::load(const QString &fileName)
 bool MRVDomDoc::save(QIODevice &device) const
 {
     QByteArray bytes;
-    QString reason;
-    if (!mrvWriteXml(m_document, &bytes, &reason) || device.write(bytes) != bytes.size()) {
+    if (!mrvWriteXml(m_document, &bytes, nullptr) || device.write(bytes) != bytes.size()) {
         return false;
     }
     auto *file = qobject_cast<QFileDevice *>(&device);
     return !file || file->flush();
 }
 
-bool MRVDomDoc::save(const QString &fileName, QString *error) const
+bool MRVDomDoc::save(const QString &fileName, MRVErrorSink error) const
 {
     QByteArray bytes;
-    QString reason;
+    MRVError reason;
     return mrvWriteXml(m_document, &bytes, &reason) ? MRVFileWriter::write(fileName, bytes, error)
                                                     : MRV::fail(error, fileName, reason);
 }
@@ -447,7 +446,7 @@ bool MRVDomDoc::isXmlName(const QString &name)
     return mrvIsXmlName(name);
 }
 
-bool MRVDomDoc::createElements(const QString &path, QString *error)
+bool MRVDomDoc::createElements(const QString &path, MRVErrorSink error)
 {
     QStringList steps = path.split(u'/', Qt::SkipEmptyParts);
     for (QString &step : steps) {

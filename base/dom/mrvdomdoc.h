@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "dom/mrvdomlimits.h"
 #include "dom/mrvdomtext.h"
 #include "util/mrvbase_export.h"
@@ -133,7 +134,7 @@ public:
      *
      * @param error if given, receives a translated line on failure; untouched on success.
      */
-    bool save(const QString &fileName, QString *error = nullptr) const;
+    bool save(const QString &fileName, MRVErrorSink error = nullptr) const;
     /**
      * The file that was loaded, or the name that setFilename() gave; nothing is read or written
      * under it by itself.
@@ -338,7 +339,7 @@ public:
      * @return false where a step is no name, the path leads out of the document, or does not begin
      *         with the document element. Elements that were made before that remain.
      */
-    bool createElements(const QString &path, QString *error = nullptr);
+    bool createElements(const QString &path, MRVErrorSink error = nullptr);
     /** Whether @p name is one that XML allows for elements and attributes. */
     static bool isXmlName(const QString &name);
     /**

@@ -18,8 +18,7 @@ QByteArray readAgain(QByteArray bytes)
     MRVDomDoc doc;
     QBuffer buffer(&bytes);
     QByteArray written;
-    QString reason;
-    return doc.setContent(&buffer) && mrvWriteXml(doc.document(), &written, &reason) ? written
+    return doc.setContent(&buffer) && mrvWriteXml(doc.document(), &written, nullptr) ? written
                                                                                      : QByteArray();
 }
 
@@ -63,12 +62,11 @@ bool MRVDomSource::read(const QByteArray &bytes, MRVDomDoc *doc)
 }
 
 bool MRVDomSource::write(const MRVDomDoc &doc, QByteArray *bytes, QString *note,
-                         QString *error) const
+                         MRVErrorSink error) const
 {
     QByteArray whole;
-    QString reason;
-    if (!mrvWriteXml(doc.document(), &whole, &reason)) {
-        return MRV::fail(error, reason);
+    if (!mrvWriteXml(doc.document(), &whole, error)) {
+        return false;
     }
     QString objection = d->objection;
     if (d->isKept) {

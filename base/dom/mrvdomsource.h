@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -65,7 +66,7 @@ public:
      * @return false where MRVDomDoc::save() would fail.
      */
     bool write(const MRVDomDoc &doc, QByteArray *bytes, QString *note = nullptr,
-               QString *error = nullptr) const;
+               MRVErrorSink error = nullptr) const;
 
 private:
     class Private;

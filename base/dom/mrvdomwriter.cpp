@@ -510,10 +510,10 @@ bool mrvIsXmlName(const QString &name)
         && document.documentElement().tagName() == name;
 }
 
-bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reason)
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, MRVErrorSink reason)
 {
     Writer writer(bytes);
-    return writer.write(document) || MRV::fail(reason, writer.reason());
+    return writer.write(document) || MRV::fail(reason, MRVErrorKind::Unsupported, writer.reason());
 }
 
 bool mrvXmlElement(const QDomElement &element, const QString *indent, const QString &prefix,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QByteArray>
 #include <QDomDocument>
 #include <QPair>
@@ -23,7 +25,7 @@ bool mrvIsXmlName(const QString &name);
  *               untouched on success.
  * @return false with a reason; @p bytes hold a part then.
  */
-bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, QString *reason);
+bool mrvWriteXml(const QDomDocument &document, QByteArray *bytes, MRVErrorSink reason);
 
 /**
  * An element that is written into a text, without blanks before it and line end after it.

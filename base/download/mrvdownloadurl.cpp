@@ -233,6 +233,7 @@ bool MRVDownloadUrl::download(const QUrl &url)
 bool MRVDownloadUrl::begin(const QUrl &url)
 {
     dropReply();
+    m_error = {};
     if (!url.isValid()) {
         return false;
     }
@@ -241,8 +242,9 @@ bool MRVDownloadUrl::begin(const QUrl &url)
     if (isFetched(url)) {
         start();
     } else {
-        m_failure =
-            tr("Only http and https addresses are downloaded, not %1").arg(url.toDisplayString());
+        m_failure = {
+            MRVErrorKind::Unsupported,
+            tr("Only http and https addresses are downloaded, not %1").arg(url.toDisplayString())};
         m_timer.start(0);
     }
     return true;
@@ -274,7 +276,7 @@ void MRVDownloadUrl::start()
 // which is reported.
 bool MRVDownloadUrl::openFile(QNetworkRequest *request)
 {
-    QString error;
+    MRVError error;
     m_file = std::make_unique<MRVPartialFile>(m_fileName);
     if (!m_file->open(&error)) {
         m_file.reset();
@@ -293,9 +295,9 @@ bool MRVDownloadUrl::openFile(QNetworkRequest *request)
     return true;
 }
 
-QString MRVDownloadUrl::writeError(const QString &reason) const
+MRVError MRVDownloadUrl::writeError(const MRVError &reason) const
 {
-    return tr("Cannot write to file: '%1'\nError: %2").arg(m_fileName, reason);
+    return {reason.kind, tr("Cannot write to file: '%1'\nError: %2").arg(m_fileName, reason.text)};
 }
 
 bool MRVDownloadUrl::downloadToFile(const QUrl &url)
@@ -319,7 +321,7 @@ void MRVDownloadUrl::cancelDownload()
         m_reply->abort(); // which calls onReplyFinished()
     } else if (m_reply || m_timer.isActive()) {
         // While the handler is asked about a redirect, or before a refusal was reported.
-        endWith(tr("Operation canceled"));
+        endWith({MRVErrorKind::Cancelled, tr("Operation canceled")});
     }
 }
 
@@ -328,7 +330,7 @@ void MRVDownloadUrl::dropReply()
 {
     m_timer.stop();
     m_aborted = false;
-    m_failure.clear();
+    m_failure = {};
     m_data.clear();
     m_file.reset();
     m_isRaw = false;
@@ -345,15 +347,15 @@ void MRVDownloadUrl::dropReply()
     }
 }
 
-void MRVDownloadUrl::endWith(const QString &error)
+void MRVDownloadUrl::endWith(const MRVError &error)
 {
-    const QString text = error; // dropReply() clears the member that it may be
+    m_error = error; // dropReply() clears the member that it may be
     dropReply();
-    Q_EMIT downloadError(text);
+    Q_EMIT downloadError(m_error.text);
 }
 
 // Ends a running request for a reason that Qt does not know.
-void MRVDownloadUrl::fail(const QString &error)
+void MRVDownloadUrl::fail(const MRVError &error)
 {
     m_failure = error;
     if (m_reply->isFinished()) {
@@ -374,9 +376,9 @@ void MRVDownloadUrl::onTimeout()
 {
     if (m_reply) {
         const double seconds = m_timer.interval() / 1000.0;
-        fail((statusOf(m_reply) == 0 ? tr("The server has not answered for %1 s")
-                                     : tr("The server has sent nothing for %1 s"))
-                 .arg(seconds));
+        const QString text = statusOf(m_reply) == 0 ? tr("The server has not answered for %1 s")
+                                                    : tr("The server has sent nothing for %1 s");
+        fail({MRVErrorKind::Network, text.arg(seconds)});
     } else {
         endWith(m_failure);
     }
@@ -391,8 +393,8 @@ void MRVDownloadUrl::onMetaData()
         begin(m_url);
         return;
     }
-    const QString fault = m_file ? prepareFile() : QString();
-    if (!fault.isEmpty()) {
+    const MRVError fault = m_file ? prepareFile() : MRVError();
+    if (fault) {
         fail(fault);
     } else if (m_offset + m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong()
                > m_maximumSize) {
@@ -422,26 +424,26 @@ bool MRVDownloadUrl::continuesFile() const
     return isRest && isSameVersion && !isPacked && (m_body == Body::Raw || !isConverted(type));
 }
 
-// Empty on success: what comes is for the file, or is not.
-QString MRVDownloadUrl::prepareFile()
+// No error on success: what comes is for the file, or is not.
+MRVError MRVDownloadUrl::prepareFile()
 {
     const int status = statusOf(m_reply);
     const QString type = m_reply->header(QNetworkRequest::ContentTypeHeader).toString();
     m_isRaw = status >= 200 && status < 300 && (m_body == Body::Raw || !isConverted(type));
     if (m_offset > 0 && status == 206) {
         m_fileSize = m_reply->rawHeader("Content-Range").split('/').last().toLongLong();
-        return QString();
+        return {};
     }
     m_offset = 0;
     if (!m_isRaw) {
-        return QString();
+        return {};
     }
     const QByteArray validator = m_isResumable ? validatorOf(m_reply) : QByteArray();
-    QString error;
+    MRVError error;
     m_fileSize = -1;
     const bool isReady =
         m_file->restart(validator.isEmpty() ? validator : placeOf(m_requested) + validator, &error);
-    return isReady ? QString() : writeError(error);
+    return isReady ? MRVError() : writeError(error);
 }
 
 void MRVDownloadUrl::tellProgress(qint64 bytesRead, qint64 totalBytes)
@@ -463,7 +465,7 @@ void MRVDownloadUrl::collect()
     if (size + available > m_maximumSize) {
         failTooLarge();
     } else if (m_isRaw) {
-        QString error;
+        MRVError error;
         if (!m_file->append(m_reply->read(available), &error)) {
             fail(writeError(error));
         }
@@ -479,7 +481,7 @@ void MRVDownloadUrl::failTooLarge()
     if (m_isRaw) {
         m_file->restart(QByteArray()); // to go on with it would be of no use
     }
-    fail(tr("It is larger than %1 bytes").arg(m_maximumSize));
+    fail({MRVErrorKind::TooLarge, tr("It is larger than %1 bytes").arg(m_maximumSize)});
 }
 
 // A failed reply reports it when it finishes; what has arrived of the body is useless.
@@ -488,13 +490,19 @@ void MRVDownloadUrl::onReplyError()
     m_data.clear();
 }
 
+MRVError MRVDownloadUrl::incomplete()
+{
+    return {MRVErrorKind::Network, tr("The connection ended before the download was complete")};
+}
+
 void MRVDownloadUrl::onReplyFinished()
 {
     m_timer.stop();
     if (m_aborted) {
-        return endWith(tr("Download Aborted"));
+        return endWith({m_userInput ? MRVErrorKind::Cancelled : MRVErrorKind::NoPermission,
+                        tr("Download Aborted")});
     }
-    if (!m_failure.isEmpty()) {
+    if (m_failure) {
         return endWith(m_failure);
     }
     if (statusOf(m_reply) == 416 && m_reply->request().hasRawHeader("Range")) {
@@ -504,7 +512,7 @@ void MRVDownloadUrl::onReplyFinished()
         return;
     }
     if (m_reply->error() != QNetworkReply::NoError) {
-        return endWith(m_reply->errorString());
+        return endWith({MRVHttpAccess::errorKind(m_reply->error()), m_reply->errorString()});
     }
     const QPointer<MRVDownloadUrl> self(this);
     const QNetworkReply *reply = m_reply;
@@ -516,12 +524,12 @@ void MRVDownloadUrl::onReplyFinished()
     // Answers to what was not requested, a range or a modification check.
     const int status = statusOf(m_reply);
     if ((status == 206 && m_offset == 0) || status == 304) {
-        return endWith(tr("The connection ended before the download was complete"));
+        return endWith(incomplete());
     }
 
     if (m_fileSize >= 0 && m_file && m_file->size() != m_fileSize) {
         m_file->restart(QByteArray());
-        return endWith(tr("The connection ended before the download was complete"));
+        return endWith(incomplete());
     }
     const QUrl location = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     if (m_userInput && !location.isEmpty()) {
@@ -577,7 +585,8 @@ void MRVDownloadUrl::redirect(const QUrl &target)
         const QString text = target.isValid()
             ? target.toDisplayString()
             : QString::fromUtf8(m_reply->rawHeader("Location").left(MaxShown)).simplified();
-        return endWith(tr("It redirects to %1, which is not an http or https address").arg(text));
+        return endWith({MRVErrorKind::Network,
+                        tr("It redirects to %1, which is not an http or https address").arg(text)});
     }
     const bool isFollowed = ask([&] { return m_userInput->redirectTo(target); });
     if (isGone()) {
@@ -594,7 +603,7 @@ void MRVDownloadUrl::redirect(const QUrl &target)
             return;
         }
         if (!isAccepted) {
-            return endWith(danger);
+            return endWith({MRVErrorKind::Network, danger});
         }
     }
     begin(target);
@@ -610,7 +619,7 @@ void MRVDownloadUrl::deliver()
     m_contentType = type;
 
     const QString fileName = m_fileName;
-    QString error;
+    MRVError error;
     bool isWritten = false;
     if (isRaw) {
         isWritten = file->putInPlace(&error);
@@ -628,7 +637,8 @@ void MRVDownloadUrl::deliver()
     if (isWritten) {
         Q_EMIT downloadSuccess(fileName);
     } else {
-        Q_EMIT downloadError(writeError(error));
+        m_error = writeError(error);
+        Q_EMIT downloadError(m_error.text);
     }
 }
 
@@ -687,7 +697,7 @@ void MRVDownloadUrl::onNetworkAccessibleChanged(int accessibility)
         return;
     }
     QT_WARNING_POP
-    const QString error = tr("Network not accessible");
+    const MRVError error{MRVErrorKind::Network, tr("Network not accessible")};
     if (m_reply) {
         fail(error);
     } else {

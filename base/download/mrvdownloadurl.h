@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "http/mrvhttpaccess.h"
 #include "util/mrvbase_export.h"
 
@@ -144,6 +145,12 @@ public:
     /** The address of the last request, after redirects. */
     QUrl url() const { return m_url; }
 
+    /**
+     * Why the last request failed, with the text of downloadError(), whose receivers ask here for
+     * the kind; no error while a request is running, and after one that succeeded.
+     */
+    MRVError lastError() const { return m_error; }
+
     /** The Content-Type of the last body that was delivered; empty where the server named none. */
     QString contentType() const { return m_contentType; }
 
@@ -209,7 +216,7 @@ Q_SIGNALS:
      * @param totalBytes -1 where the server does not say.
      */
     void downloadProgress(qint64 bytesRead, qint64 totalBytes);
-    /** @param error a translated text for the user. */
+    /** @param error a translated text for the user; lastError() has the kind. */
     void downloadError(QString error);
     void downloadSuccess(QString filePath);
     /** @param data in UTF-8 where the server named the charset of a text. */
@@ -226,10 +233,10 @@ private:
     bool begin(const QUrl &url);
     void start();
     bool openFile(QNetworkRequest *request);
-    QString writeError(const QString &reason) const;
+    MRVError writeError(const MRVError &reason) const;
     void dropReply();
     void onMetaData();
-    QString prepareFile();
+    MRVError prepareFile();
     bool continuesFile() const;
     void tellProgress(qint64 bytesRead, qint64 totalBytes);
     void onTimeout();
@@ -242,8 +249,9 @@ private:
     bool ask(const std::function<bool()> &question);
     void redirect(const QUrl &target);
     void deliver();
-    void fail(const QString &error);
-    void endWith(const QString &error);
+    static MRVError incomplete();
+    void fail(const MRVError &error);
+    void endWith(const MRVError &error);
 
     QUrl m_url;
     MRVHttpAccess *m_manager;
@@ -265,6 +273,7 @@ private:
     qint64 m_offset = 0; // where the body that is coming begins
     qint64 m_fileSize = -1; // of the whole file, as far as the answer states it
     QString m_contentType;
-    QString m_failure; // why this object gave up the request, which is said in place of "canceled"
+    MRVError m_error; // of the last request that has ended
+    MRVError m_failure; // why this object gave up the request, which is said in place of "canceled"
     std::shared_ptr<QVector<QNetworkReply *>> m_asking; // those that somebody is being asked about
 };

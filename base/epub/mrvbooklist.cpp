@@ -28,11 +28,11 @@ MRVBookListEntry entryOf(const QString &line, const QDir &folder)
 
 } // namespace
 
-bool MRVBookList::read(const QString &file, QVector<MRVBookListEntry> *entries, QString *error)
+bool MRVBookList::read(const QString &file, QVector<MRVBookListEntry> *entries, MRVErrorSink error)
 {
-    QString unreadable;
+    MRVError unreadable;
     const QString text = MRVCoreUtil::ReadUnicodeTextFile(file, &unreadable);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         return MRV::fail(error, unreadable); // names the file
     }
     const QDir folder = QFileInfo(file).dir();
@@ -47,13 +47,14 @@ bool MRVBookList::read(const QString &file, QVector<MRVBookListEntry> *entries, 
         const MRVBookListEntry entry = entryOf(line, folder);
         if (!entry.isPart && !QFileInfo(entry.path).isFile()) {
             return MRV::fail(error, file,
-                             tr("line %1: there is no file %2").arg(number).arg(entry.path));
+                             {MRVErrorKind::NotFound,
+                              tr("line %1: there is no file %2").arg(number).arg(entry.path)});
         }
         read.append(entry);
     }
     if (std::all_of(read.begin(), read.end(),
                     [](const MRVBookListEntry &entry) { return entry.isPart; })) {
-        return MRV::fail(error, file, tr("the list names no manuscript"));
+        return MRV::fail(error, file, {MRVErrorKind::Damaged, tr("the list names no manuscript")});
     }
     *entries = read;
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -55,5 +56,5 @@ public:
      *         manuscript.
      */
     static bool read(const QString &file, QVector<MRVBookListEntry> *entries,
-                     QString *error = nullptr);
+                     MRVErrorSink error = nullptr);
 };

@@ -7,6 +7,7 @@
 #include "gui/mrvguiutil.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
+#include "util/mrvprogress.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -65,9 +66,12 @@ void MRVEPubBook::addCover()
 }
 
 bool MRVEPubBook::addPictures(const QTextDocument &document, QHash<QString, QString> *references,
-                              QString *error)
+                              MRVProgressMeter *meter, MRVErrorSink error)
 {
-    const MRVDocumentPictures shown(document);
+    const MRVDocumentPictures shown(document, meter);
+    if (meter->isCancelled()) {
+        return MRV::fail(error, MRVProgressMeter::cancelled());
+    }
     QStringList paths;
     for (const MRVDocumentPicture &picture : shown.all()) {
         paths.append(addPicture(picture, picture.name()));
@@ -79,7 +83,7 @@ bool MRVEPubBook::addPictures(const QTextDocument &document, QHash<QString, QStr
     }
     for (const MRVMissingPicture &missing : shown.missing()) {
         if (!isRemote(missing.id)) {
-            return MRV::fail(error,
+            return MRV::fail(error, missing.kind,
                              MRVEPubBook::tr("The picture %1 cannot be read.").arg(missing.name));
         }
     }
@@ -98,11 +102,11 @@ QString MRVEPubBook::addPicture(const MRVDocumentPicture &picture, const QString
 }
 
 bool MRVEPubBook::addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
-                                 QString *error)
+                                 MRVProgressMeter *meter, MRVErrorSink error)
 {
     const QVector<MRVEPubFile> picturesBefore = pictures;
     const QHash<QByteArray, QString> pathsBefore = picturePaths;
-    if (addPictures(document, references, error)) {
+    if (addPictures(document, references, meter, error)) {
         return true;
     }
     pictures = picturesBefore;

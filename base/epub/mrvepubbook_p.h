@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "document/mrvdocumentpictures.h"
 #include "epub/mrvepublooks_p.h"
 #include "epub/mrvepubmetadata.h"
@@ -12,6 +13,7 @@
 
 #include <memory>
 
+class MRVProgressMeter;
 class QTextDocument;
 class QTranslator;
 
@@ -131,7 +133,7 @@ public:
      * @return false, with nothing added, when one of them cannot be read.
      */
     bool addAllPictures(const QTextDocument &document, QHash<QString, QString> *references,
-                        QString *error);
+                        MRVProgressMeter *meter, MRVErrorSink error);
 
     /**
      * Adds a page for a picture that a link leads to, where it is a file in the folder of the
@@ -199,7 +201,7 @@ private:
         return pages.size() - (notesLevel > 0 && !areNotesInChapter ? 1 : 0);
     }
     bool addPictures(const QTextDocument &document, QHash<QString, QString> *references,
-                     QString *error);
+                     MRVProgressMeter *meter, MRVErrorSink error);
     QString addPicture(const MRVDocumentPicture &picture, const QString &name);
     static QString linkedFile(const QString &address, const QString &path);
     QString resolved(const QString &href, int document) const;

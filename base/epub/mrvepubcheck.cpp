@@ -33,14 +33,16 @@ constexpr MRVProgramLimits Limits{180000, qint64(16) << 30, qint64(256) << 20};
 constexpr char LinkName[] = "book.epub";
 
 // What is no archive at all is no book with faults.
-bool isArchive(const QString &path, QString *error)
+bool isArchive(const QString &path, MRVErrorSink error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return MRV::fail(error, path, file.errorString());
+        return MRV::fail(error, path, MRVError::ofDevice(file));
     }
     return file.read(4) == "PK\x03\x04"
-        || MRV::fail(error, path, MRVEPubCheck::tr("it is no e-book, as it is no ZIP archive"));
+        || MRV::fail(error, path,
+                     {MRVErrorKind::Damaged,
+                      MRVEPubCheck::tr("it is no e-book, as it is no ZIP archive")});
 }
 
 // Where distributions put it; the command "epubcheck" may be the archive itself, which not every
@@ -96,16 +98,16 @@ QJsonObject MRVEPubFinding::toJson(const QString &book) const
             {QStringLiteral("text"), text}};
 }
 
-bool MRVEPubCheck::check(const QString &file, QVector<MRVEPubFinding> *findings, QString *error)
+bool MRVEPubCheck::check(const QString &file, QVector<MRVEPubFinding> *findings, MRVErrorSink error)
 {
     const QFileInfo book(file);
     const QString jar = archive();
     const QString java = QStandardPaths::findExecutable(QStringLiteral("java"));
     if (!book.isFile()) {
-        return MRV::fail(error, file, tr("there is no such file"));
+        return MRV::fail(error, file, {MRVErrorKind::NotFound, tr("there is no such file")});
     }
     if (jar.isEmpty() || java.isEmpty()) {
-        return MRV::fail(error,
+        return MRV::fail(error, MRVErrorKind::ProgramMissing,
                          tr("e-books are checked by epubcheck, which is not installed; install "
                             "the packages epubcheck and default-jre-headless"));
     }
@@ -116,7 +118,8 @@ bool MRVEPubCheck::check(const QString &file, QVector<MRVEPubFinding> *findings,
     // The suffix of the file counts for epubcheck.
     const QString link = QDir(folder.path()).filePath(QLatin1String(LinkName));
     if (folder.path().isEmpty() || !QFile::link(book.absoluteFilePath(), link)) {
-        return MRV::fail(error, QDir::tempPath(), tr("no files can be made there"));
+        return MRV::fail(error, QDir::tempPath(),
+                         {folder.error().kind, tr("no files can be made there")});
     }
     const QString answer = QDir(folder.path()).filePath(QStringLiteral("findings.json"));
     const QStringList arguments{QStringLiteral("-Xmx1g"),
@@ -133,12 +136,13 @@ bool MRVEPubCheck::check(const QString &file, QVector<MRVEPubFinding> *findings,
     if (result.end == MRVProgramResult::OutOfTime) {
         return MRV::fail(
             error, file,
-            tr("epubcheck was not done after %1 seconds").arg(Limits.milliseconds / 1000));
+            {MRVErrorKind::TooLarge,
+             tr("epubcheck was not done after %1 seconds").arg(Limits.milliseconds / 1000)});
     }
     const QJsonObject report =
         QJsonDocument::fromJson(MRVCoreUtil::ReadBinaryFile(answer)).object();
     if (!report.contains(QLatin1String("messages"))) {
-        return MRV::fail(error, file, tr("epubcheck gives no answer"));
+        return MRV::fail(error, file, {MRVErrorKind::Other, tr("epubcheck gives no answer")});
     }
     const QJsonArray messages = report.value(QLatin1String("messages")).toArray();
     for (const QJsonValue &message : messages) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -53,5 +54,5 @@ public:
      *         install.
      */
     static bool check(const QString &file, QVector<MRVEPubFinding> *findings,
-                      QString *error = nullptr);
+                      MRVErrorSink error = nullptr);
 };

@@ -3,6 +3,7 @@
 #include "text/mrvlistmarkers.h"
 #include "text/mrvtextlistformat.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvprogress.h"
 
 #include <QTextDocument>
 #include <QTextList>
@@ -78,7 +79,8 @@ void MRVEPubWriter::writeFlow(int begin, int end)
 {
     const QVector<Container> outside = m_containers;
     m_containers.clear();
-    for (int i = begin; i < end;) {
+    for (int i = begin, last = begin; i < end && m_meter->advance(i - last);) {
+        last = i;
         const int frame = frameAt(i);
         const int note = m_notes.beginningAt(i);
         if (frame >= 0) {

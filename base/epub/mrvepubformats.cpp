@@ -170,7 +170,6 @@ MRVEPubTextFormat MRVEPubFormats::readText(const QTextCharFormat &format) const
     text.isPicture = format.isImageFormat();
     text.isComment = format.boolProperty(MRVTextFormat::InlineAnnotationProperty)
         || format.boolProperty(MRVTextFormat::InlineFootnoteProperty);
-    text.hasComment = format.property(MRVTextFormat::CommentData0).userType() == QMetaType::QString;
     text.hasNames = !format.anchorNames().isEmpty();
     text.address = format.anchorHref();
     const QString language =

@@ -39,7 +39,6 @@ struct MRVEPubTextFormat
     bool isKnown = false;
     bool isPicture = false;
     bool isComment = false; // an annotation or a note in the text
-    bool hasComment = false; // in the margin
     bool isBold = false;
     bool hasNames = false;
     uint elements = 0; // bits by MRVEPubInline, the directions, the weight and the link left out

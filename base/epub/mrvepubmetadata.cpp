@@ -190,10 +190,12 @@ bool isKnown(const QString &key)
 }
 
 // Sets what an entry of a file in the folder says.
-bool setAll(Metadata *metadata, const MRVMetadataEntry &entry, const QDir &folder, QString *reason)
+bool setAll(Metadata *metadata, const MRVMetadataEntry &entry, const QDir &folder,
+            MRVErrorSink reason)
 {
     if (entry.values.isEmpty()) {
-        return MRV::fail(reason, MRVEPubMetadata::tr("the value cannot be read"));
+        return MRV::fail(reason, MRVErrorKind::Damaged,
+                         MRVEPubMetadata::tr("the value cannot be read"));
     }
     if (isCover(entry.key)) {
         return metadata->readCover(folder.filePath(entry.values.constFirst()), reason);
@@ -213,7 +215,7 @@ void complete(Value *value, const Value &other)
 
 } // namespace
 
-bool MRVEPubMetadata::set(const QString &key, const QString &value, QString *error)
+bool MRVEPubMetadata::set(const QString &key, const QString &value, MRVErrorSink error)
 {
     const Key *const row = keyNamed(key);
     const QString given = value.trimmed();
@@ -227,18 +229,19 @@ bool MRVEPubMetadata::set(const QString &key, const QString &value, QString *err
     return MRV::fail(error, tr("%1: '%2' is not %3").arg(key, given, wanted));
 }
 
-bool MRVEPubMetadata::readFile(const QString &file, QStringList *notes, QString *error)
+bool MRVEPubMetadata::readFile(const QString &file, QStringList *notes, MRVErrorSink error)
 {
-    QString reason;
+    MRVError reason;
     const QString text = MRVCoreUtil::ReadUnicodeTextFile(file, &reason);
-    if (!reason.isEmpty()) {
+    if (reason) {
         return MRV::fail(error, reason); // names the file
     }
     QVector<MRVMetadataEntry> entries;
     const int refused = MRVFrontMatter::read(text, &entries);
     if (refused > 0) {
         return MRV::fail(error, file,
-                         atLine(refused, tr("this is neither \"key: value\" nor continues it")));
+                         {MRVErrorKind::Damaged,
+                          atLine(refused, tr("this is neither \"key: value\" nor continues it"))});
     }
     MRVEPubMetadata read;
     QStringList unknown;
@@ -247,7 +250,7 @@ bool MRVEPubMetadata::readFile(const QString &file, QStringList *notes, QString 
             unknown.append(QStringLiteral("%1: %2").arg(
                 file, atLine(entry.line, tr("'%1' is no key of a book").arg(entry.key))));
         } else if (!setAll(&read, entry, QFileInfo(file).dir(), &reason)) {
-            return MRV::fail(error, file, atLine(entry.line, reason));
+            return MRV::fail(error, file, {reason.kind, atLine(entry.line, reason.text)});
         }
     }
     if (notes) {
@@ -307,12 +310,14 @@ void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript, QStringList 
     completeFrom(stated);
 }
 
-bool MRVEPubMetadata::readCover(const QString &file, QString *error)
+bool MRVEPubMetadata::readCover(const QString &file, MRVErrorSink error)
 {
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(file);
-    QString reason;
+    MRVError reason;
     if (MRVPictureReader::ofFile(file).read(&reason).isNull()) {
-        return MRV::fail(error, file, tr("the cover picture cannot be read: %1").arg(reason));
+        return MRV::fail(
+            error, file,
+            {reason.kind, tr("the cover picture cannot be read: %1").arg(reason.text)});
     }
     cover = bytes;
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -50,7 +51,7 @@ public:
      * @param error if given, receives one translated line on failure; untouched on success.
      * @return false, with nothing changed, for an unknown key and for a malformed value.
      */
-    bool set(const QString &key, const QString &value, QString *error = nullptr);
+    bool set(const QString &key, const QString &value, MRVErrorSink error = nullptr);
 
     /**
      * Reads a file of "key: value" lines (see MRVFrontMatter), and takes what is empty
@@ -69,7 +70,7 @@ public:
      *              where there is one, on failure; untouched on success.
      * @return false, with nothing changed, when the file cannot be read or a value is malformed.
      */
-    bool readFile(const QString &file, QStringList *notes = nullptr, QString *error = nullptr);
+    bool readFile(const QString &file, QStringList *notes = nullptr, MRVErrorSink error = nullptr);
 
     /** Takes what is empty here from @p other. */
     void completeFrom(const MRVEPubMetadata &other);
@@ -89,7 +90,7 @@ public:
      *              untouched on success.
      * @return false, with the cover as it was, when the file cannot be read or is no picture.
      */
-    bool readCover(const QString &file, QString *error = nullptr);
+    bool readCover(const QString &file, MRVErrorSink error = nullptr);
 
     /**
      * The form by which lists file the name of an author or contributor: that of fileAs, else, for

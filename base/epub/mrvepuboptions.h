@@ -43,7 +43,7 @@ struct MRVBASE_EXPORT MRVEPubOptions
      * Whether inline annotations and inline footnotes of a document leave the text and become
      * notes; otherwise they are text as any other. So do comments in the margin whose CommentData0
      * is a QString, with the first text of CommentData2 as the author's name before it; otherwise
-     * the book does not have them.
+     * the book does not have them. Footnotes in the margin are notes in any case.
      */
     bool commentsAsNotes = false;
     /** How many levels of headings the table of contents shows; 0: all. */

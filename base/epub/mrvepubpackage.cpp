@@ -5,10 +5,10 @@
 #include "epub/mrvepubbook_p.h"
 #include "epub/mrvepubnavigation_p.h"
 #include "epub/mrvepubwriter_p.h"
-#include "epub/mrvziparchive_p.h"
 #include "manuscript/mrvmanuscript.h"
 #include "util/mrvfailure.h"
 #include "xhtml/mrvexportcheck.h"
+#include "zip/mrvzipwriter.h"
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvxmltext.h"
@@ -143,10 +143,11 @@ MRVEPubPackage::MRVEPubPackage(MRVEPubVersion version, const MRVEPubMetadata &me
 MRVEPubPackage::~MRVEPubPackage() = default;
 
 bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &fileName,
-                                 QString *error)
+                                 MRVErrorSink error)
 {
     const int before = m_book->headings.size();
-    if (!MRVEPubWriter::add(m_book.get(), document, fileName, error)) {
+    MRVProgressMeter meter(m_progress);
+    if (!MRVEPubWriter::add(m_book.get(), document, fileName, &meter, error)) {
         return false;
     }
     for (int i = before; i < m_book->headings.size(); ++i) {
@@ -156,14 +157,14 @@ bool MRVEPubPackage::addDocument(const QTextDocument &document, const QString &f
 }
 
 bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, const QString &title,
-                                   QString *error)
+                                   MRVErrorSink error)
 {
     const bool hasHeading = beginsWithHeading(*manuscript.document);
     if (!title.isEmpty() && !hasHeading) {
         insertHeading(manuscript.document.get(), title);
     }
     const int before = m_book->headings.size();
-    QString reason;
+    MRVError reason;
     if (!addDocument(*manuscript.document,
                      manuscript.fileName.isEmpty() ? QString() : manuscript.path, &reason)) {
         return MRV::fail(error, manuscript.path, reason);
@@ -175,13 +176,14 @@ bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, const QStrin
     return true;
 }
 
-bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, QString *error)
+bool MRVEPubPackage::addManuscript(const MRVManuscript &manuscript, MRVErrorSink error)
 {
     return addManuscript(manuscript, QString(), error);
 }
 
 bool MRVEPubPackage::addManuscripts(const QVector<MRVBookListEntry> &list,
-                                    const std::vector<MRVManuscript> &manuscripts, QString *error)
+                                    const std::vector<MRVManuscript> &manuscripts,
+                                    MRVErrorSink error)
 {
     auto manuscript = manuscripts.begin();
     for (const MRVBookListEntry &entry : list) {
@@ -254,35 +256,40 @@ QStringList MRVEPubPackage::deadLinks() const
     return m_book->deadLinks();
 }
 
-QByteArray MRVEPubPackage::toByteArray(QString *error) const
+QByteArray MRVEPubPackage::toByteArray(MRVErrorSink error) const
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     return write(&buffer, error) ? buffer.data() : QByteArray();
 }
 
-bool MRVEPubPackage::write(QIODevice *device, QString *error) const
+bool MRVEPubPackage::write(QIODevice *device, MRVErrorSink error) const
 {
     const QDateTime modified = m_book->metadata.modified.isValid()
         ? m_book->metadata.modified
         : QDateTime::currentDateTimeUtc();
-    QString reason;
+    MRVError reason;
     const int level = m_book->options.packing == MRVEPubOptions::Small ? 10 : 5;
-    if (mrvWriteZip(filesOf(*m_book, modified), level, archiveDate(modified), device, &reason)) {
+    MRVProgressMeter meter(m_progress);
+    if (mrvWriteZip(filesOf(*m_book, modified), level, archiveDate(modified), device, &reason,
+                    &meter)) {
         return true;
+    }
+    if (meter.isCancelled()) {
+        return MRV::fail(error, reason);
     }
     for (const MRVEPubFile &file : qAsConst(m_book->pictures)) {
         if (file.picture.bytes(&reason).isEmpty()) {
-            reason = QStringLiteral("%1: %2").arg(file.picture.name(), reason);
+            reason.text = QStringLiteral("%1: %2").arg(file.picture.name(), reason.text);
             break;
         }
     }
-    return MRV::fail(error, tr("The e-book cannot be packed: %1").arg(reason));
+    return MRV::fail(error, reason.kind, tr("The e-book cannot be packed: %1").arg(reason.text));
 }
 
-bool MRVEPubPackage::write(const QString &path, QString *error) const
+bool MRVEPubPackage::write(const QString &path, MRVErrorSink error) const
 {
-    const auto content = [this](QIODevice *device, QString *reason) {
+    const auto content = [this](QIODevice *device, MRVErrorSink reason) {
         return write(device, reason);
     };
     return MRVFileWriter::write(path, content, error);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "epub/mrvepubmetadata.h"
 #include "epub/mrvepuboptions.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -68,6 +70,9 @@ public:
     MRVEPubPackage(const MRVEPubPackage &) = delete;
     MRVEPubPackage &operator=(const MRVEPubPackage &) = delete;
 
+    /** What follows the adding of a document and the writing, each from 0; nothing at first. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
+
     /**
      * Adds the document after those added before. It is read at once and needed no longer.
      *
@@ -75,10 +80,11 @@ public:
      *                 relative to the current folder; the file need not exist. Links of the
      *                 document count from its folder. May be empty.
      * @param error    if given, receives a text on failure; untouched on success.
-     * @return false, with nothing added, when one of its pictures cannot be read.
+     * @return false, with nothing added, when one of its pictures cannot be read. Cancelled, the
+     *         object is of no more use.
      */
     bool addDocument(const QTextDocument &document, const QString &fileName = QString(),
-                     QString *error = nullptr);
+                     MRVErrorSink error = nullptr);
 
     /**
      * Begins a part: its title stands on the first page of the next document, and the table of
@@ -98,7 +104,7 @@ public:
      *              success.
      * @return as addDocument().
      */
-    bool addManuscript(const MRVManuscript &manuscript, const QString &title, QString *error);
+    bool addManuscript(const MRVManuscript &manuscript, const QString &title, MRVErrorSink error);
     /**
      * Adds the document of a manuscript that was read, under its path.
      *
@@ -106,7 +112,7 @@ public:
      *              success.
      * @return as addDocument().
      */
-    bool addManuscript(const MRVManuscript &manuscript, QString *error = nullptr);
+    bool addManuscript(const MRVManuscript &manuscript, MRVErrorSink error = nullptr);
     /**
      * Adds parts and manuscripts in the order of a list.
      *
@@ -117,7 +123,8 @@ public:
      * @return false where one cannot be added. The object is of no more use then.
      */
     bool addManuscripts(const QVector<MRVBookListEntry> &list,
-                        const std::vector<MRVManuscript> &manuscripts, QString *error = nullptr);
+                        const std::vector<MRVManuscript> &manuscripts,
+                        MRVErrorSink error = nullptr);
     /** The names of pictures without an alternative text, each once; decorations do not count. */
     QStringList picturesWithoutText() const;
     /**
@@ -149,7 +156,7 @@ public:
      * @param error if given, receives a text on failure; untouched on success.
      * @return empty on failure.
      */
-    QByteArray toByteArray(QString *error = nullptr) const;
+    QByteArray toByteArray(MRVErrorSink error = nullptr) const;
 
     /**
      * Writes toByteArray() to the file @p path, replacing it; on failure an old file stands. The
@@ -157,7 +164,7 @@ public:
      *
      * @param error if given, receives a text on failure; untouched on success.
      */
-    bool write(const QString &path, QString *error = nullptr) const;
+    bool write(const QString &path, MRVErrorSink error = nullptr) const;
 
     /**
      * Writes toByteArray() to a device, without having it in memory as a whole.
@@ -165,10 +172,11 @@ public:
      * @param device open for writing, able to seek, and empty.
      * @param error  if given, receives a text on failure; untouched on success.
      */
-    bool write(QIODevice *device, QString *error = nullptr) const;
+    bool write(QIODevice *device, MRVErrorSink error = nullptr) const;
 
 private:
     std::unique_ptr<MRVEPubBook> m_book;
+    MRVProgress m_progress;
     int m_remotePictures = 0;
     bool m_isInPart = false;
 };

@@ -1,5 +1,6 @@
 #include "epub/mrvepubwriter_p.h"
 
+#include "document/mrvmarginnotes.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QFileInfo>
@@ -84,10 +85,7 @@ bool MRVEPubWriter::writeText(int paragraph, const MRVEPubContext &context)
             writeFragment(i, end, position, context);
         }
         position += m_flow.fragments.at(i).length;
-        if (m_book.options.commentsAsNotes
-            && m_formats.text(m_flow.fragments.at(i).format).hasComment && endsComment(i)) {
-            writeMarginMark(i);
-        }
+        writeMarginMark(position);
     }
     closeElements(0);
     return m_isSpaced;
@@ -104,28 +102,25 @@ int MRVEPubWriter::writeAnnotationMark(int fragment, int end, int position)
     return last;
 }
 
-// Whether the text after a fragment has another comment in the margin, or none.
-bool MRVEPubWriter::endsComment(int fragment) const
+void MRVEPubWriter::readMarginComments()
 {
-    if (fragment + 1 == m_flow.fragments.size()) {
-        return true;
+    const QVector<MRVMarginNote> notes = MRVMarginNotes::all(&m_flow.document);
+    for (const MRVMarginNote &note : notes) {
+        if (note.kind == MRVMarginNote::Comment && !note.text.isEmpty()) {
+            const QString author =
+                note.author.isEmpty() ? QString() : note.author + QLatin1String(": ");
+            m_marginComments.insert(note.range.end(), author + note.text);
+        }
     }
-    const QTextFormat &one = m_flow.formats.at(m_flow.fragments.at(fragment).format);
-    const QTextFormat &other = m_flow.formats.at(m_flow.fragments.at(fragment + 1).format);
-    const auto differs = [&](int property) {
-        return one.property(property) != other.property(property);
-    };
-    return differs(MRVTextFormat::CommentData0) || differs(MRVTextFormat::CommentData1)
-        || differs(MRVTextFormat::CommentData2);
 }
 
-void MRVEPubWriter::writeMarginMark(int fragment)
+// After the text that a comment in the margin is about.
+void MRVEPubWriter::writeMarginMark(int position)
 {
-    const QTextFormat &format = m_flow.formats.at(m_flow.fragments.at(fragment).format);
-    const QString author = format.property(MRVTextFormat::CommentData2).toStringList().value(0);
-    const QString text = format.stringProperty(MRVTextFormat::CommentData0);
-    writeCommentMark(
-        {0, 0, 0, 0, {}, {}, author.isEmpty() ? text : author + QLatin1String(": ") + text});
+    const auto comment = m_marginComments.constFind(position);
+    if (comment != m_marginComments.constEnd()) {
+        writeCommentMark({0, 0, 0, 0, {}, {}, *comment});
+    }
 }
 
 void MRVEPubWriter::writeCommentMark(Comment comment)

@@ -1,8 +1,11 @@
 #include "epub/mrvepubwriter_p.h"
 
+#include "document/mrvmarginnotes.h"
 #include "epub/mrvepubpages_p.h"
 #include "epub/mrvepubsections_p.h"
+#include "util/mrvfailure.h"
 #include "util/mrvlocalfile.h"
+#include "util/mrvprogress.h"
 #include "xhtml/mrvdocumenttitle.h"
 
 #include <QLocale>
@@ -31,11 +34,13 @@ bool isTitleOfChapter(const MRVEPubBook &book, const MRVDocumentFlow &flow)
 } // namespace
 
 MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVDocumentFlow &flow,
-                             const QHash<QString, QString> &pictures, const QString &title)
+                             const QHash<QString, QString> &pictures, const QString &title,
+                             MRVProgressMeter *meter)
     : m_book(*book)
     , m_flow(flow)
     , m_pictures(pictures)
     , m_title(title)
+    , m_meter(meter)
     , m_isEPub3(book->version == MRVEPubVersion::EPub3)
     , m_boxDirection(QLocale(book->language()).textDirection())
     , m_formats(flow, &book->looks, book->version, book->language())
@@ -45,13 +50,16 @@ MRVEPubWriter::MRVEPubWriter(MRVEPubBook *book, const MRVDocumentFlow &flow,
     for (int i = 0; i < flow.frames.size(); ++i) {
         m_frames.insert(flow.frames.at(i).begin, i);
     }
+    if (book->options.commentsAsNotes) {
+        readMarginComments();
+    }
 }
 
 bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const QString &fileName,
-                        QString *error)
+                        MRVProgressMeter *meter, MRVErrorSink error)
 {
     QHash<QString, QString> pictures;
-    if (!book->addAllPictures(document, &pictures, error)) {
+    if (!book->addAllPictures(document, &pictures, meter, error)) {
         return false;
     }
     // Otherwise the first heading gives the book a name, and may be a chapter's.
@@ -61,9 +69,14 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
         book->metadata.title = mrvDocumentTitle(document, QString());
     }
     const bool isFirst = book->pages.isEmpty();
-    const MRVDocumentFlow flow(document);
+    const std::unique_ptr<QTextDocument> withNotes =
+        MRVMarginNotes::copyWithParagraphs(document, MRVMarginNote::Footnote);
+    const MRVDocumentFlow flow(withNotes ? *withNotes : document);
     const bool isStated = isTitleKnown && !isTitleOfChapter(*book, flow);
-    MRVEPubWriter(book, flow, pictures, isStated ? book->title() : QString()).write(fileName);
+    MRVEPubWriter writer(book, flow, pictures, isStated ? book->title() : QString(), meter);
+    if (!writer.write(fileName)) {
+        return MRV::fail(error, MRVProgressMeter::cancelled());
+    }
     if (isFirst) {
         book->addTitlePage();
     }
@@ -71,7 +84,8 @@ bool MRVEPubWriter::add(MRVEPubBook *book, const QTextDocument &document, const 
     return true;
 }
 
-void MRVEPubWriter::write(const QString &fileName)
+// False when it was cancelled.
+bool MRVEPubWriter::write(const QString &fileName)
 {
     const MRVEPubPages plan(m_flow, &m_formats, m_title, m_book.options);
     QVector<int> starts = plan.starts();
@@ -81,8 +95,12 @@ void MRVEPubWriter::write(const QString &fileName)
     if (!fileName.isEmpty() && !m_book.documents.contains(m_targets.path)) {
         m_book.documents.insert(m_targets.path, m_book.anchors.size());
     }
+    m_meter->begin(1000, m_flow.count());
     for (int i = 0; i + 1 < starts.size(); ++i) {
         writePage(starts.at(i), starts.at(i + 1), plan);
+        if (m_meter->isCancelled()) {
+            return false;
+        }
     }
     // Those whose marks stand on no page, such as in a heading of notes, must not be lost.
     for (int note = 0; note < m_notes.all().size(); ++note) {
@@ -101,6 +119,7 @@ void MRVEPubWriter::write(const QString &fileName)
         }
     }
     m_book.anchors.append(m_targets);
+    return true;
 }
 
 void MRVEPubWriter::writePage(int begin, int end, const MRVEPubPages &plan)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "document/mrvdocumentflow.h"
 #include "epub/mrvepubbook_p.h"
 #include "epub/mrvepubformats_p.h"
@@ -15,6 +16,7 @@
 #include <QVector>
 
 class MRVEPubPages;
+class MRVProgressMeter;
 struct MRVEPubSection;
 
 /**
@@ -31,10 +33,11 @@ public:
      * Adds the pages of a document, its pictures, and all that the book has to know of them.
      *
      * @param fileName of the document, as links of others name it.
-     * @return false, with nothing added, when one of its pictures cannot be read.
+     * @return false, with nothing added, when one of its pictures cannot be read; or with a part of
+     *         it, when it was cancelled.
      */
     static bool add(MRVEPubBook *book, const QTextDocument &document, const QString &fileName,
-                    QString *error);
+                    MRVProgressMeter *meter, MRVErrorSink error);
 
 private:
     static constexpr int InList = 2; // elements around what an item holds
@@ -93,10 +96,11 @@ private:
 
     // Pictures are paths in the package by resource id; empty for those that it cannot hold.
     MRVEPubWriter(MRVEPubBook *book, const MRVDocumentFlow &flow,
-                  const QHash<QString, QString> &pictures, const QString &title);
+                  const QHash<QString, QString> &pictures, const QString &title,
+                  MRVProgressMeter *meter);
 
     // Pages: mrvepubwriter.cpp
-    void write(const QString &fileName);
+    bool write(const QString &fileName);
     void writePage(int begin, int end, const MRVEPubPages &plan);
     int openSections(int begin, int end, const MRVEPubPages &plan, MRVEPubPage *notes);
     int openChapter(int begin, int first, int end, const MRVEPubPages &plan);
@@ -113,8 +117,8 @@ private:
     const MRVEPubEntry *chapterOf(const MRVEPubPages &plan) const;
     void writeNotesPage(const MRVEPubPages &plan, const MRVEPubEntry *chapter);
     int writeAnnotationMark(int fragment, int end, int position);
-    bool endsComment(int fragment) const;
-    void writeMarginMark(int fragment);
+    void readMarginComments();
+    void writeMarginMark(int position);
     void writeCommentMark(Comment comment);
     void writeComment(const Comment &comment);
 
@@ -195,6 +199,7 @@ private:
     const MRVDocumentFlow &m_flow;
     const QHash<QString, QString> &m_pictures;
     const QString m_title; // of the book, where one is stated
+    MRVProgressMeter *const m_meter; // counts paragraphs
     const bool m_isEPub3;
     Qt::LayoutDirection m_boxDirection; // of the book, or of the table that is being written
     MRVEPubFormats m_formats;
@@ -220,6 +225,7 @@ private:
     QHash<int, bool> m_isNoteWritten;
     const int m_firstHeading; // of the document, in the book
     QString m_notesChapter; // that the notes of the book are at, by the target of its heading
+    QHash<int, QString> m_marginComments; // by where their text ends
     QVector<Comment> m_comments; // whose marks stand on the page
     MRVEPubAnchors m_targets;
     QHash<int, QStringList> m_names; // of formats, without those that have an id

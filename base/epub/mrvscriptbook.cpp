@@ -88,7 +88,8 @@ MRVEPubMetadata MRVScriptBook::metadata(const MRVFountainScript &script)
 }
 
 QByteArray MRVScriptBook::toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
-                                      const QString &language, Typeface typeface, QString *error)
+                                      const QString &language, Typeface typeface,
+                                      MRVErrorSink error)
 {
     MRVEPubMetadata book = metadata(script);
     book.language = language;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "epub/mrvepubmetadata.h"
 #include "util/mrvbase_export.h"
 
@@ -46,5 +47,5 @@ public:
      */
     static QByteArray toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
                                   const QString &language = QString(),
-                                  Typeface typeface = ReadersChoice, QString *error = nullptr);
+                                  Typeface typeface = ReadersChoice, MRVErrorSink error = nullptr);
 };

@@ -59,18 +59,18 @@ MRVSourcePlaces placesIn(const QString &html, const QString &page, MRVSourcePlac
 }
 
 bool readPage(const QString &html, const QString &file, QTextDocument *document,
-              MRVHtmlReport *report, MRVSourcePlaces *places, QString *error)
+              MRVHtmlReport *report, MRVSourcePlaces *places, MRVErrorSink error)
 {
     const QString page = mrvWithEndTags(html);
     const QString fault = MRVHtmlReader::whyTooComplex(page);
     if (!fault.isEmpty()) {
-        return MRV::fail(error, fault);
+        return MRV::fail(error, MRVErrorKind::TooLarge, fault);
     }
     MRVHtmlReport found;
     const MRVHtmlTree tree(page, file);
     // With the groups of rows and the like that a page does not name.
     if (tree.depth() > 2 * MRVInputLimits::HtmlDepth) {
-        return MRV::fail(error,
+        return MRV::fail(error, MRVErrorKind::TooLarge,
                          MRVHtmlReader::tr("elements are nested more than %1 levels deep")
                              .arg(MRVInputLimits::HtmlDepth));
     }
@@ -98,7 +98,7 @@ bool readPage(const QString &html, const QString &file, QTextDocument *document,
 } // namespace
 
 bool MRVHtmlDocument::read(const QString &html, const QString &file, QTextDocument *document,
-                           MRVHtmlReport *report, QString *error)
+                           MRVHtmlReport *report, MRVErrorSink error)
 {
     return readPage(html, file, document, report, nullptr, error);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "html/mrvhtmlreport.h"
 #include "util/mrvbase_export.h"
 #include "util/mrvsourceplace.h"
@@ -59,7 +60,7 @@ public:
      *         deep nevertheless.
      */
     static bool read(const QString &html, const QString &file, QTextDocument *document,
-                     MRVHtmlReport *report = nullptr, QString *error = nullptr);
+                     MRVHtmlReport *report = nullptr, MRVErrorSink error = nullptr);
 
     /**
      * Where the text of the document that read() makes of a page stands in the page.

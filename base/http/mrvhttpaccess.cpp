@@ -23,6 +23,26 @@ bool MRVHttpAccess::setCaCertificates(const QByteArray &pem)
     return isUsable;
 }
 
+MRVErrorKind MRVHttpAccess::errorKind(QNetworkReply::NetworkError error)
+{
+    switch (error) {
+    case QNetworkReply::NoError:
+        return MRVErrorKind::None;
+    case QNetworkReply::OperationCanceledError:
+        return MRVErrorKind::Cancelled;
+    case QNetworkReply::ContentNotFoundError:
+    case QNetworkReply::ContentGoneError:
+        return MRVErrorKind::NotFound;
+    case QNetworkReply::ContentAccessDenied:
+    case QNetworkReply::ContentOperationNotPermittedError:
+    case QNetworkReply::AuthenticationRequiredError:
+    case QNetworkReply::ProxyAuthenticationRequiredError:
+        return MRVErrorKind::NoPermission;
+    default:
+        return MRVErrorKind::Network;
+    }
+}
+
 QNetworkReply *MRVHttpAccess::createRequest(Operation operation, const QNetworkRequest &request,
                                             QIODevice *body)
 {

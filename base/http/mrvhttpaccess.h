@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
 #include <QNetworkAccessManager>
+#include <QNetworkReply>
 
 #include <memory>
 
@@ -49,6 +51,9 @@ public:
      * @return false, and nothing changes, where there is not one in it.
      */
     bool setCaCertificates(const QByteArray &pem);
+
+    /** What an error of a reply, of this manager or of Qt's, is to a program. */
+    static MRVErrorKind errorKind(QNetworkReply::NetworkError error);
 
 protected:
     /** Makes a reply that has not begun: none of its signals comes before this returns. */

@@ -85,6 +85,11 @@ QVariant loadedByParent(const QTextDocument &document, int type, const QUrl &url
     return loaded;
 }
 
+bool isEncoded(const QVariant &source)
+{
+    return source.userType() == QMetaType::QByteArray;
+}
+
 QByteArray dataOf(const QUrl &url)
 {
     const QByteArray all = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveFragment);
@@ -108,7 +113,7 @@ QImage MRVGuardedDocument::picture(const QTextDocument &document, const QUrl &ur
 {
     const QVariant source = pictureSource(document, url);
     if (const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document)) {
-        return guarded->decoded(source);
+        return guarded->decoded(source, document.baseUrl().resolved(url));
     }
     return source.userType() == QMetaType::QUrl
         ? MRVPictureReader::ofFile(source.toUrl().toLocalFile()).read()
@@ -117,10 +122,17 @@ QImage MRVGuardedDocument::picture(const QTextDocument &document, const QUrl &ur
 
 QVariant MRVGuardedDocument::pictureSource(const QTextDocument &document, const QUrl &url)
 {
+    const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
+    if (guarded) {
+        const QByteArray bytes = guarded->loaded(document.baseUrl().resolved(url));
+        if (!bytes.isEmpty()) {
+            return bytes;
+        }
+    }
     if (!mayOpen(document, url)) {
         return QVariant();
     }
-    if (const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document)) {
+    if (guarded) {
         const QVariant held = document.resource(HeldResource, url);
         return held.isValid() ? held : guarded->source(document.baseUrl().resolved(url));
     }
@@ -150,13 +162,26 @@ QVariant MRVGuardedDocument::source(const QUrl &url) const
     return path.isEmpty() ? QVariant() : QUrl::fromLocalFile(path);
 }
 
-QImage MRVGuardedDocument::decoded(const QVariant &source) const
+void MRVGuardedDocument::setPictureLoader(const PictureLoader &loader)
 {
-    if (source.userType() != QMetaType::QUrl) {
-        return MRVGuiUtil::toImage(source, nullptr);
+    m_loader = loader;
+    m_decoded.clear();
+}
+
+QByteArray MRVGuardedDocument::loaded(const QUrl &url) const
+{
+    return m_loader ? m_loader(url) : QByteArray();
+}
+
+QImage MRVGuardedDocument::decoded(const QVariant &source, const QUrl &url) const
+{
+    const bool isFile = source.userType() == QMetaType::QUrl;
+    const QImage *known = m_decoded.object(isFile ? source.toUrl() : url);
+    if (known && (isFile || isEncoded(source))) {
+        return *known;
     }
-    const QImage *known = m_decoded.object(source.toUrl());
-    return known ? *known : MRVPictureReader::ofFile(source.toUrl().toLocalFile()).read();
+    return isFile ? MRVPictureReader::ofFile(source.toUrl().toLocalFile()).read()
+                  : MRVGuiUtil::toImage(source, nullptr);
 }
 
 QVariant MRVGuardedDocument::loadResource(int type, const QUrl &url)
@@ -164,19 +189,36 @@ QVariant MRVGuardedDocument::loadResource(int type, const QUrl &url)
     if (type == HeldResource) {
         return QVariant();
     }
+    if (type == ImageResource) {
+        return loadPicture(url);
+    }
     if (!mayOpen(*this, url)) {
         return QVariant(QImage());
     }
-    if (type != ImageResource) {
-        const QVariant loaded = loadedByParent(*this, type, url);
-        return loaded.isValid() ? loaded : QTextDocument::loadResource(UndecodedResource, url);
+    const QVariant loaded = loadedByParent(*this, type, url);
+    return loaded.isValid() ? loaded : QTextDocument::loadResource(UndecodedResource, url);
+}
+
+QImage MRVGuardedDocument::loadPicture(const QUrl &url)
+{
+    if (const QImage *known = m_decoded.object(url)) {
+        return *known;
     }
-    const QVariant source = this->source(url);
-    const QImage image = decoded(source);
-    if (source.userType() == QMetaType::QUrl && !image.isNull()) {
-        m_decoded.insert(source.toUrl(), new QImage(image), int(image.sizeInBytes() >> 10));
+    QVariant source = loaded(url);
+    if (source.toByteArray().isEmpty()) {
+        if (!mayOpen(*this, url)) {
+            return QImage();
+        }
+        source = this->source(url);
+    }
+    const bool isFile = source.userType() == QMetaType::QUrl;
+    const QImage image = decoded(source, url);
+    if (isEncoded(source) || (isFile && !image.isNull())) {
+        // Pixels that the document held would take the place of the bytes.
+        m_decoded.insert(isFile ? source.toUrl() : url, new QImage(image),
+                         int(image.sizeInBytes() >> 10));
     } else {
-        addResource(type, url, image);
+        addResource(ImageResource, url, image);
     }
     return image;
 }

@@ -8,6 +8,8 @@
 #include <QUrl>
 #include <QVariant>
 
+#include <functional>
+
 /**
  * A document for texts that anybody may have written: what they name is read and decoded only where
  * MRVPictureReader lets it.
@@ -27,6 +29,17 @@ class MRVBASE_EXPORT MRVGuardedDocument : public QTextDocument
 
 public:
     explicit MRVGuardedDocument(QObject *parent = nullptr);
+
+    /** The encoded bytes of a picture, by a URL resolved against baseUrl(); null without one. */
+    using PictureLoader = std::function<QByteArray(const QUrl &url)>;
+    /**
+     * Where pictures come from before anything else is asked, such as an archive: they need not be
+     * in memory, and keep their bytes when they have been shown. It is called whenever a picture is
+     * needed that was not decoded lately. clear() leaves it as it is.
+     *
+     * @param loader empty, as at first, for none.
+     */
+    void setPictureLoader(const PictureLoader &loader);
 
     /**
      * The picture that @p document has at @p url, or loads from there, decoded by MRVPictureReader.
@@ -52,7 +65,10 @@ protected:
 
 private:
     QVariant source(const QUrl &url) const;
-    QImage decoded(const QVariant &source) const;
+    QImage loadPicture(const QUrl &url);
+    QByteArray loaded(const QUrl &url) const;
+    QImage decoded(const QVariant &source, const QUrl &url) const;
 
-    QCache<QUrl, QImage> m_decoded; // of files
+    PictureLoader m_loader;
+    QCache<QUrl, QImage> m_decoded; // by the URL of the file, or of the picture
 };

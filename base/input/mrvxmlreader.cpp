@@ -1,5 +1,7 @@
 #include "input/mrvxmlreader.h"
 
+#include "util/mrvfailure.h"
+
 #include "core/mrvxmltext.h"
 
 #include <QRegularExpression>
@@ -419,16 +421,13 @@ bool MRVXmlReader::keepsLimits(const QString &xml, const MRVXmlLimits &limits, M
 }
 
 bool MRVXmlReader::read(const QByteArray &bytes, const MRVXmlLimits &limits, QString *text,
-                        QString *error)
+                        MRVErrorSink error)
 {
     QString xml;
     MRVTextFault fault;
     TagScanner tags(xml, limits);
     if (!decode(bytes, &xml, &fault) || !isClean(&tags, xml, limits, &fault)) {
-        if (error) {
-            *error = fault.toString();
-        }
-        return false;
+        return MRV::fail(error, MRVErrorKind::Damaged, fault.toString());
     }
     *text = xml;
     const QStringView type = tags.documentType();
@@ -438,10 +437,9 @@ bool MRVXmlReader::read(const QByteArray &bytes, const MRVXmlLimits &limits, QSt
     return true;
 }
 
-bool MRVXmlReader::isRead(const QXmlStreamReader &xml, QString *error)
+bool MRVXmlReader::isRead(const QXmlStreamReader &xml, MRVErrorSink error)
 {
-    if (xml.hasError() && error) {
-        *error = MRVTextFault{xml.errorString(), int(xml.lineNumber())}.toString();
-    }
-    return !xml.hasError();
+    return !xml.hasError()
+        || MRV::fail(error, MRVErrorKind::Damaged,
+                     MRVTextFault{xml.errorString(), int(xml.lineNumber())}.toString());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "input/mrvtextdecoder.h"
 
 #include "core/mrvinputlimits.h"
@@ -75,8 +76,8 @@ public:
      * null: "line 3: reason".
      */
     static bool read(const QByteArray &bytes, const MRVXmlLimits &limits, QString *text,
-                     QString *error);
+                     MRVErrorSink error);
 
     /** Whether the stream reader @p xml has met no error; else @p error, if given, receives it. */
-    static bool isRead(const QXmlStreamReader &xml, QString *error);
+    static bool isRead(const QXmlStreamReader &xml, MRVErrorSink error);
 };

@@ -1,5 +1,6 @@
 #include "manuscript/mrvdocumentnotes.h"
 
+#include "document/mrvmarginnotes.h"
 #include "document/mrvnotefinder.h"
 #include "manuscript/mrvmanuscript.h"
 #include "search/mrvtextfinder.h"
@@ -81,35 +82,13 @@ void addLinks(QTextDocument *document, QVector<MRVDocumentNote> *notes)
     }
 }
 
-// Comments in the margin, which go on over paragraph ends.
-void addComments(QTextDocument *document, QVector<MRVDocumentNote> *notes)
+void addMarginNotes(QTextDocument *document, QVector<MRVDocumentNote> *notes)
 {
-    constexpr int properties[] = {MRVTextFormat::CommentData0, MRVTextFormat::CommentData1,
-                                  MRVTextFormat::CommentData2};
-    QTextCharFormat before; // of the fragment before
-    const int first = notes->size();
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            const QTextCharFormat format = fragment.charFormat();
-            const int end = fragment.position() + fragment.length();
-            const bool isComment = format.boolProperty(MRVTextFormat::InspectorCommentProperty);
-            const bool goesOn = isComment
-                && before.boolProperty(MRVTextFormat::InspectorCommentProperty)
-                && std::all_of(std::begin(properties), std::end(properties), [&](int property) {
-                                    return format.property(property) == before.property(property);
-                                });
-            if (goesOn) {
-                notes->last().range = MRVTextRange(notes->constLast().range.start(), end);
-            } else if (isComment) {
-                notes->append({MRVDocumentNote::Comment, MRVTextRange(fragment.position(), end),
-                               format.stringProperty(MRVTextFormat::CommentData0), QString()});
-            }
-            before = format;
-        }
-    }
-    for (int i = first; i < notes->size(); ++i) {
-        (*notes)[i].text = textOf(document, notes->at(i).range);
+    const QVector<MRVMarginNote> margin = MRVMarginNotes::all(document);
+    for (const MRVMarginNote &note : margin) {
+        const bool isFootnote = note.kind == MRVMarginNote::Footnote;
+        notes->append({isFootnote ? MRVDocumentNote::Footnote : MRVDocumentNote::Comment,
+                       note.range, note.text, textOf(document, note.range)});
     }
 }
 
@@ -205,7 +184,7 @@ QVector<MRVDocumentNote> MRVDocumentNotes::findAll(QTextDocument *document)
         return notes;
     }
     addLinks(document, &notes);
-    addComments(document, &notes);
+    addMarginNotes(document, &notes);
     addHighlights(document, &notes);
     addPictures(document, &notes);
     addAnchors(document, &notes);

@@ -24,8 +24,8 @@ struct MRVBASE_EXPORT MRVDocumentNote
     MRVTextRange range;
     /**
      * The address of a link, and of a link to or from a footnote or comment; the colour of a
-     * highlight as "#rrggbb"; the file of a picture; the name of an anchor; the text of a comment
-     * in the margin. Else empty.
+     * highlight as "#rrggbb"; the file of a picture; the name of an anchor; the text of a note in
+     * the margin. Else empty.
      */
     QString target;
     /**
@@ -52,8 +52,8 @@ struct MRVBASE_EXPORT MRVSourceComment
  * Footnotes are links between the notes that MRVNoteFinder finds and their marks, links with
  * NoteLinkProperty, and links that word processors and converters name as such ("#_ftn1"), as they
  * do those of comments ("#cmnt1"). Entries of an index are links. Footnotes and comments are also
- * what authors of plain text and Markdown type: "[^1]" and "{>> text <<}". Comments are also those
- * in the margin, with InspectorCommentProperty. GUI thread only.
+ * what authors of plain text and Markdown type, "[^1]" and "{>> text <<}", and those in the margin,
+ * see MRVMarginNotes. GUI thread only.
  *
  * @since 1.0
  */

@@ -17,6 +17,7 @@ constexpr struct
     {MRVManuscript::Docx, "docx", "docx"},
     {MRVManuscript::Odt, "odt", "odt"},
     {MRVManuscript::Rtf, "rtf", "rtf"},
+    {MRVManuscript::Native, "mrvdoc", "mrvdoc"},
 };
 
 } // namespace

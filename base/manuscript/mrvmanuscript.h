@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "html/mrvhtmlreport.h"
 #include "markdown/mrvmarkdown.h"
 #include "util/mrvbase_export.h"
@@ -27,6 +28,7 @@ public:
     QString name; ///< as the source has it; where that holds the picture itself, the start of it
     int line = 0; ///< of the source, from 1, that shows it first; 0 where it is not known
     QString reason; ///< a translated end of a sentence: "it does not exist"
+    MRVErrorKind kind = MRVErrorKind::None; ///< of the reason
 
     /** All that as a translated sentence without a full stop. */
     QString text() const;
@@ -60,7 +62,17 @@ struct MRVBASE_EXPORT MRVManuscript
     Q_DECLARE_TR_FUNCTIONS(MRVManuscript)
 
 public:
-    enum Format { Unknown = 0, Html = 1, Markdown = 2, PlainText = 3, Docx = 4, Odt = 5, Rtf = 6 };
+    /** Native is MRVDocumentArchive's. */
+    enum Format {
+        Unknown = 0,
+        Html = 1,
+        Markdown = 2,
+        PlainText = 3,
+        Docx = 4,
+        Odt = 5,
+        Rtf = 6,
+        Native = 7
+    };
 
     /** As the reader was given it; for bytes that are in no file, what messages call them. */
     QString path;
@@ -95,8 +107,8 @@ public:
     QStringList readingNotes() const;
 
     /**
-     * Whether the file is no text, and a program that is installed has made a page of it: DOCX, ODT
-     * and RTF, see MRVOfficeConverter.
+     * Whether the file is no text: a native one, or DOCX, ODT and RTF, of which a program that is
+     * installed has made a page, see MRVOfficeConverter.
      */
     bool isConverted() const { return format >= Docx; }
 
@@ -106,7 +118,7 @@ public:
      */
     QString sourceText() const;
 
-    /** "html", "markdown", "text", "docx", "odt" and "rtf", in the order of Format from Html. */
+    /** "html", "markdown", "text", "docx", "odt", "rtf" and "mrvdoc", in the order of Format. */
     static QStringList formatNames();
     /** The format with one of formatNames(); Unknown for any other text. */
     static Format formatNamed(const QString &name);

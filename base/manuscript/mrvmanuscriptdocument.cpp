@@ -6,7 +6,7 @@
 
 std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript::Format format,
                                               MRVMarkdown::Options options, const QString &file,
-                                              MRVSourceReport *report, QString *error,
+                                              MRVSourceReport *report, MRVErrorSink error,
                                               const QFont &font)
 {
     auto document = std::make_unique<MRVGuardedDocument>();
@@ -22,7 +22,7 @@ std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript
     if (format == MRVManuscript::Markdown) {
         html = MRVMarkdown::toHtml(text, options, report ? &report->head : nullptr);
         if (html.isNull()) {
-            MRV::fail(error,
+            MRV::fail(error, MRVErrorKind::TooLarge,
                       MRVManuscript::tr("the Markdown is nested too deeply, or too complex"));
             return nullptr;
         }

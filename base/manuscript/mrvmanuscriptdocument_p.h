@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "html/mrvhtmlreport.h"
 #include "manuscript/mrvmanuscript.h"
 #include "markdown/mrvmarkdown.h"
@@ -30,5 +31,5 @@ std::unique_ptr<QTextDocument> mrvNewDocument(const QString &text, MRVManuscript
                                               MRVMarkdown::Options options,
                                               const QString &file = QString(),
                                               MRVSourceReport *report = nullptr,
-                                              QString *error = nullptr,
+                                              MRVErrorSink error = nullptr,
                                               const QFont &font = QFont());

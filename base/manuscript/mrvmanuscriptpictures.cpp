@@ -3,7 +3,9 @@
 #include "input/mrvguardeddocument.h"
 #include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
 #include "util/mrvlocalfile.h"
+#include "util/mrvprogress.h"
 
 #include "gui/mrvpicturereader.h"
 
@@ -59,11 +61,10 @@ struct Picture
 };
 
 // Whether the picture can be shown as it is. A PNG that does not end is decoded to see that.
-bool isUsable(const MRVPictureReader &look, QString *reason)
+bool isUsable(const MRVPictureReader &look, MRVErrorSink reason)
 {
     if (!look.isReadable() && !look.isDrawing()) {
-        *reason = look.error();
-        return false;
+        return MRV::fail(reason, look.errorKind(), look.error());
     }
     const bool isWhole = look.format() != "png" || MRVPictureReader::png(look.bytes()).length >= 0;
     return isWhole || !look.read(reason).isNull();
@@ -85,12 +86,13 @@ public:
         if (known != m_pictures.constEnd()) {
             return *known;
         }
-        QString reason;
+        MRVError reason;
         const Picture picture = look(name, &reason);
         if (picture.id.isNull()) {
             constexpr int Shown = 32; // characters of a picture that is no name but the bytes
             m_unreadable.append({isData(name) ? name.left(Shown) + QChar(0x2026) : name,
-                                 m_manuscript->report.pictureLines.value(name), reason});
+                                 m_manuscript->report.pictureLines.value(name), reason.text,
+                                 reason.kind});
         }
         m_pictures.insert(name, picture);
         return picture;
@@ -104,7 +106,7 @@ private:
         return name.startsWith(QLatin1String("data:"), Qt::CaseInsensitive);
     }
 
-    Picture look(const QString &name, QString *reason)
+    Picture look(const QString &name, MRVErrorSink reason)
     {
         if (isData(name)) {
             return ofData(name, reason);
@@ -118,7 +120,7 @@ private:
         return {address, QString(), QString()};
     }
 
-    Picture ofFile(const QString &name, QString *reason)
+    Picture ofFile(const QString &name, MRVErrorSink reason)
     {
         const QString path = MRV::localFile(name, m_folder);
         if (!isUsable(MRVPictureReader::ofFile(path), reason)) {
@@ -132,7 +134,7 @@ private:
                 path};
     }
 
-    Picture ofData(const QString &name, QString *reason)
+    Picture ofData(const QString &name, MRVErrorSink reason)
     {
         const MRVPictureReader look(
             MRVGuardedDocument::pictureSource(*m_manuscript->document, QUrl(name)).toByteArray());
@@ -201,12 +203,16 @@ void dropImages(QTextCursor *cursor, const ImageFragment &fragment)
 } // namespace
 
 QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, MRVPictureActions actions,
-                                              MRVManuscript *manuscript)
+                                              MRVManuscript *manuscript, MRVProgressMeter *meter)
 {
     PictureFinder finder(folder, manuscript);
     QVector<ImageFragment> fragments = imageFragments(*manuscript->document);
+    meter->begin(1000, fragments.size());
     for (const ImageFragment &fragment : qAsConst(fragments)) {
         finder.find(fragment.format.name());
+        if (!meter->advance()) {
+            return finder.unreadable();
+        }
     }
     std::reverse(fragments.begin(), fragments.end()); // texts are longer than what they replace
     QTextCursor cursor(manuscript->document.get());

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVector>
 
+class MRVProgressMeter;
+
 /** What is done about the pictures of a document; what is not stays as it is. */
 enum class MRVPictureAction {
     /**
@@ -21,7 +23,8 @@ Q_DECLARE_FLAGS(MRVPictureActions, MRVPictureAction)
  * manuscript, and counts the pictures on other machines.
  *
  * @param folder where their names count from.
+ * @param meter  its stage up to 1000 thousandths is this. Cancelled, pictures are left out.
  * @return those that cannot be read, each once, in order of appearance.
  */
 QVector<MRVUnreadablePicture> mrvLoadPictures(const QString &folder, MRVPictureActions actions,
-                                              MRVManuscript *manuscript);
+                                              MRVManuscript *manuscript, MRVProgressMeter *meter);

@@ -1,11 +1,15 @@
 #include "manuscript/mrvmanuscriptreader.h"
 
+#include "archive/mrvdocumentarchive.h"
+#include "input/mrvguardeddocument.h"
 #include "input/mrvhtmlreader.h"
 #include "input/mrvtextdecoder.h"
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvmanuscriptpictures_p.h"
 #include "office/mrvofficeconverter.h"
 #include "plaintext/mrvplaintext.h"
+#include "util/mrvfailure.h"
+#include "util/mrvnames.h"
 
 #include "core/mrvcoreutil.h"
 
@@ -36,6 +40,9 @@ MRVManuscript::Format formatOfBytes(const QByteArray &bytes)
             return format;
         }
     }
+    if (MRVDocumentArchive::isArchive(bytes)) {
+        return MRVManuscript::Native;
+    }
     return MRVHtmlReader::looksLikeHtml(bytes) ? MRVManuscript::Html : MRVManuscript::PlainText;
 }
 
@@ -46,28 +53,33 @@ bool isProse(const MRVManuscript &manuscript)
         && !manuscript.fileName.endsWith(QLatin1String(".fountain"), Qt::CaseInsensitive);
 }
 
-QString dateIn(const QVector<MRVMetadataEntry> &entries)
+QStringList valuesIn(const QVector<MRVMetadataEntry> &entries, QLatin1String key)
 {
     for (const MRVMetadataEntry &entry : entries) {
-        if (entry.key == QLatin1String("date")) {
-            return entry.values.value(0);
+        if (entry.key == key) {
+            return entry.values;
         }
     }
-    return QString();
+    return QStringList();
+}
+
+QString dateIn(const QVector<MRVMetadataEntry> &entries)
+{
+    return valuesIn(entries, QLatin1String("date")).value(0);
 }
 
 } // namespace
 
 bool MRVManuscriptReader::read(const QString &path, MRVManuscript *manuscript)
 {
-    QString unreadable;
+    MRVError unreadable;
     MRVManuscript read;
     read.path = path;
     read.fileName = QFileInfo(path).fileName();
     read.bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         m_error = FileError;
-        m_errorString = unreadable; // names the file
+        m_failure = unreadable; // names the file
         return false;
     }
     read.format = m_format == MRVManuscript::Unknown ? MRVManuscript::formatOfFile(path) : m_format;
@@ -88,35 +100,53 @@ bool MRVManuscriptReader::readBytes(const QByteArray &bytes, const QString &name
 bool MRVManuscriptReader::readBytes(const QString &folder, MRVManuscript *read,
                                     MRVManuscript *manuscript)
 {
-    QString text;
     m_unreadablePictures.clear();
     read->options = m_purpose == Editing ? MRVMarkdown::Footnotes : m_options;
     if (read->format == MRVManuscript::Unknown) {
-        return fail(UnknownFormat, *read, tr("unknown type of file"));
+        return fail(UnknownFormat, *read, {MRVErrorKind::Unsupported, tr("unknown type of file")});
     }
     // Such a file can be read as text all the same, if somebody says so.
     const MRVFormat::Format office = MRVOfficeConverter::formatOf(read->bytes);
     if (m_format == MRVManuscript::Unknown && !read->isConverted()
         && office != MRVFormat::NoFormat) {
         return fail(UnknownFormat, *read,
-                    tr("it is %1, which its name does not say").arg(MRVFormat::name(office)));
+                    {MRVErrorKind::Unsupported,
+                     tr("it is %1, which its name does not say").arg(MRVFormat::name(office))});
     }
-    const bool hasText = read->isConverted() ? convert(read, &text) : decode(read, &text);
-    if (!hasText || !readDocument(text, folder, read)
-        || (m_loadsPictures && !loadPictures(folder, read))) {
+    const bool isRead =
+        read->format == MRVManuscript::Native ? readArchive(folder, read) : readText(folder, read);
+    if (!isRead) {
         return false;
     }
     m_error = NoError;
-    m_errorString.clear();
+    m_failure = {};
     *manuscript = std::move(*read);
     return true;
 }
 
-bool MRVManuscriptReader::fail(Error error, const MRVManuscript &read, const QString &reason)
+bool MRVManuscriptReader::readText(const QString &folder, MRVManuscript *read)
+{
+    QString text;
+    MRVProgressMeter meter(m_progress);
+    meter.begin(read->isConverted() ? 700 : 100, 1);
+    const bool hasText = read->isConverted() ? convert(read, &text, &meter) : decode(read, &text);
+    if (!hasText || !isGoingOn(*read, &meter)) {
+        return false;
+    }
+    meter.begin(900, 1);
+    return readDocument(text, folder, read) && isGoingOn(*read, &meter)
+        && (!m_loadsPictures || loadPictures(folder, read, &meter));
+}
+
+bool MRVManuscriptReader::fail(Error error, const MRVManuscript &read, const MRVError &reason)
 {
     m_error = error;
-    m_errorString = QStringLiteral("%1: %2").arg(read.path, reason);
-    return false;
+    return MRV::fail(&m_failure, read.path, reason);
+}
+
+bool MRVManuscriptReader::isGoingOn(const MRVManuscript &read, MRVProgressMeter *meter)
+{
+    return meter->advance() || fail(Cancelled, read, MRVProgressMeter::cancelled());
 }
 
 bool MRVManuscriptReader::decode(MRVManuscript *read, QString *text)
@@ -129,19 +159,22 @@ bool MRVManuscriptReader::decode(MRVManuscript *read, QString *text)
     const QTextCodec *codec = QTextCodec::codecForName(name);
     if (!codec) {
         return fail(UnknownEncoding, *read,
-                    tr("unknown encoding '%1'").arg(QString::fromLatin1(name)));
+                    {MRVErrorKind::Unsupported,
+                     tr("unknown encoding '%1'").arg(QString::fromLatin1(name))});
     }
     read->encoding = codec->name();
     return MRVTextDecoder::decode(read->bytes, read->encoding, text)
         || fail(DecodingError, *read,
-                tr("not readable as %1").arg(QString::fromLatin1(read->encoding)));
+                {MRVErrorKind::Damaged,
+                 tr("not readable as %1").arg(QString::fromLatin1(read->encoding))});
 }
 
-bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
+bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text, MRVProgressMeter *meter)
 {
     MRVOfficeConverter converter;
     converter.setEmbedsPictures(m_loadsPictures);
-    QString reason;
+    converter.setProgress([meter](int) { return meter->advance(0); });
+    MRVError reason;
     *text = converter.toHtml(read->bytes, officeFormat(read->format), &reason);
     read->conversionNotes = converter.warnings();
     for (const MRVOfficeLoss &loss : converter.missingWords()) {
@@ -153,7 +186,34 @@ bool MRVManuscriptReader::convert(MRVManuscript *read, QString *text)
     for (const QString &comment : converter.missingComments()) {
         read->report.losses.append({0, tr("the comment %1").arg(comment)});
     }
-    return !text->isNull() || fail(ConversionError, *read, reason);
+    return !text->isNull()
+        || fail(meter->isCancelled() ? Cancelled : ConversionError, *read, reason);
+}
+
+bool MRVManuscriptReader::readArchive(const QString &folder, MRVManuscript *read)
+{
+    auto document = std::make_unique<MRVGuardedDocument>();
+    document->setUndoRedoEnabled(false);
+    MRVDocumentArchive archive;
+    MRVError reason;
+    if (!archive.read(read->bytes, document.get(), &reason)) {
+        return fail(ConversionError, *read, reason);
+    }
+    read->document = std::move(document);
+    read->location = folder.isEmpty() ? QString() : folder + u'/' + read->fileName;
+    read->metadata = archive.metadata();
+    read->authors = valuesIn(read->metadata, QLatin1String("author"));
+    read->description = valuesIn(read->metadata, QLatin1String("description")).value(0);
+    read->language = MRV::languageTag(valuesIn(read->metadata, QLatin1String("language")).value(0));
+    read->date = dateIn(read->metadata);
+    if (archive.isTextOnly()) {
+        read->report.losses.append({0, tr("formats and pictures, as the file is damaged")});
+    }
+    QVector<MRVUnreadablePicture> unreadable;
+    for (const QString &name : archive.missingPictures()) {
+        unreadable.append({name, 0, tr("it is missing or damaged")});
+    }
+    return takeUnreadable(unreadable, read);
 }
 
 bool MRVManuscriptReader::readDocument(const QString &text, const QString &folder,
@@ -167,7 +227,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         read->metadata = head.entries;
         read->date = dateIn(head.entries);
     }
-    QString reason;
+    MRVError reason;
     MRVSourceReport report;
     if (m_purpose == Publishing && isProse(*read)) {
         const QString page = MRVPlainText::toHtml(text, &report.head);
@@ -201,19 +261,30 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
     return true;
 }
 
-bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read)
+bool MRVManuscriptReader::loadPictures(const QString &folder, MRVManuscript *read,
+                                       MRVProgressMeter *meter)
 {
     MRVPictureActions actions;
     actions.setFlag(MRVPictureAction::Drop, m_missingPictures == Drop);
     actions.setFlag(MRVPictureAction::Rename, !m_keepsPictureNames);
-    const QVector<MRVUnreadablePicture> unreadable = mrvLoadPictures(folder, actions, read);
+    const QVector<MRVUnreadablePicture> unreadable = mrvLoadPictures(folder, actions, read, meter);
+    if (meter->isCancelled()) {
+        return fail(Cancelled, *read, MRVProgressMeter::cancelled());
+    }
+    return takeUnreadable(unreadable, read);
+}
+
+bool MRVManuscriptReader::takeUnreadable(const QVector<MRVUnreadablePicture> &unreadable,
+                                         MRVManuscript *read)
+{
     if (m_missingPictures != Refuse || unreadable.isEmpty()) {
         read->unreadablePictures = unreadable;
         return true;
     }
     m_unreadablePictures = unreadable;
     return fail(PictureError, *read,
-                unreadable.size() == 1
-                    ? unreadable.constFirst().text()
-                    : tr("pictures that cannot be read: %1").arg(unreadable.size()));
+                {unreadable.constFirst().kind,
+                 unreadable.size() == 1
+                     ? unreadable.constFirst().text()
+                     : tr("pictures that cannot be read: %1").arg(unreadable.size())});
 }

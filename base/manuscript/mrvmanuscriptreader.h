@@ -1,12 +1,15 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "manuscript/mrvmanuscript.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QCoreApplication>
 
 /**
- * Reads manuscripts: HTML, Markdown and plain text; DOCX, ODT and RTF where MRVOfficeConverter can.
+ * Reads manuscripts: HTML, Markdown and plain text; documents of MRVDocumentArchive; DOCX, ODT and
+ * RTF where MRVOfficeConverter can.
  *
  * The encoding is the one that was set, else that of a byte-order mark, of an XML declaration, of
  * the head of HTML, else UTF-8. The names of pictures count from the folder of the file. Nothing is
@@ -38,7 +41,9 @@ public:
         DecodingError = 4, ///< the bytes are not valid in the encoding
         NestingError = 5, ///< HTML or Markdown is built so that reading would hardly end
         PictureError = 6, ///< a picture on this machine is missing or cannot be read
-        ConversionError = 7, ///< it is no DOCX, ODT or RTF, or no installed program can read it
+        /** It is no DOCX, ODT, RTF or native document, or nothing that is installed can read it. */
+        ConversionError = 7,
+        Cancelled = 8, ///< by what follows the reading
     };
 
     enum Purpose {
@@ -79,6 +84,9 @@ public:
     /** Refuse at first. Of use where pictures are looked up. */
     void setMissingPictures(MissingPictures what) { m_missingPictures = what; }
 
+    /** What follows the reading; nothing at first. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
+
     /**
      * Reads a file.
      *
@@ -89,7 +97,7 @@ public:
     bool read(const QString &path, MRVManuscript *manuscript);
     /**
      * Reads @p bytes that are in no file, such as those of standard input. Where no format is set,
-     * they are DOCX, ODT, RTF or HTML if they begin like it, else plain text.
+     * they are DOCX, ODT, RTF, native or HTML if they begin like it, else plain text.
      *
      * @param name       what messages call the bytes.
      * @param folder     where the names of pictures count from.
@@ -104,16 +112,23 @@ public:
     /** After a PictureError, all pictures that cannot be read, each once, in order. */
     QVector<MRVUnreadablePicture> unreadablePictures() const { return m_unreadablePictures; }
     /** The same as one translated line that names the file; empty after success. */
-    QString errorString() const { return m_errorString; }
+    QString errorString() const { return m_failure.text; }
+    /** What error() is to a program; of a FileError, what the system said. */
+    MRVErrorKind errorKind() const { return m_failure.kind; }
 
 private:
     bool readBytes(const QString &folder, MRVManuscript *read, MRVManuscript *manuscript);
     bool decode(MRVManuscript *read, QString *text);
-    bool convert(MRVManuscript *read, QString *text);
+    bool convert(MRVManuscript *read, QString *text, MRVProgressMeter *meter);
     bool readDocument(const QString &text, const QString &folder, MRVManuscript *read);
-    bool loadPictures(const QString &folder, MRVManuscript *read);
-    bool fail(Error error, const MRVManuscript &read, const QString &reason);
+    bool loadPictures(const QString &folder, MRVManuscript *read, MRVProgressMeter *meter);
+    bool isGoingOn(const MRVManuscript &read, MRVProgressMeter *meter);
+    bool readText(const QString &folder, MRVManuscript *read);
+    bool readArchive(const QString &folder, MRVManuscript *read);
+    bool takeUnreadable(const QVector<MRVUnreadablePicture> &unreadable, MRVManuscript *read);
+    bool fail(Error error, const MRVManuscript &read, const MRVError &reason);
 
+    MRVProgress m_progress;
     Purpose m_purpose = Publishing;
     MRVMarkdown::Options m_options = MRVMarkdown::Footnotes;
     MRVManuscript::Format m_format = MRVManuscript::Unknown;
@@ -123,5 +138,5 @@ private:
     MissingPictures m_missingPictures = Refuse;
     QVector<MRVUnreadablePicture> m_unreadablePictures;
     Error m_error = NoError;
-    QString m_errorString;
+    MRVError m_failure;
 };

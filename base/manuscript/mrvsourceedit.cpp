@@ -45,11 +45,12 @@ QByteArray encoded(const QString &source, const MRVManuscript &manuscript)
 
 bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
                                  const QVector<MRVTextChange> &wanted, Mode mode, QByteArray *bytes,
-                                 QString *error, QVector<MRVSourceMisfit> *misfits,
+                                 MRVErrorSink error, QVector<MRVSourceMisfit> *misfits,
                                  QStringList *brokenLinks)
 {
     if (manuscript.isConverted()) {
-        return MRV::fail(error, tr("a file of a word processor is read, but not changed"));
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("a file of a word processor is read, but not changed"));
     }
     MRVSourceChanges changes(manuscript, wanted);
     if (!changes.isValid()) {
@@ -63,10 +64,11 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
         };
         if (manuscript.format != MRVManuscript::Html
             && std::any_of(wanted.cbegin(), wanted.cend(), setsFormat)) {
-            return MRV::fail(error, tr("only HTML can be written as a whole with new formats"));
+            return MRV::fail(error, MRVErrorKind::Unsupported,
+                             tr("only HTML can be written as a whole with new formats"));
         }
         if (!changes.writeWhole(&text)) {
-            return MRV::fail(error,
+            return MRV::fail(error, MRVErrorKind::Unsupported,
                              tr("the encoding %1 does not have all characters of the new text")
                                  .arg(QString::fromLatin1(manuscript.encoding)));
         }
@@ -84,7 +86,7 @@ bool MRVSourceEdit::changedBytes(const MRVManuscript &manuscript,
     }
     const QByteArray result = encoded(text, manuscript);
     if (result.isNull()) {
-        return MRV::fail(error,
+        return MRV::fail(error, MRVErrorKind::Unsupported,
                          tr("the encoding %1 cannot be written back as it was")
                              .arg(QString::fromLatin1(manuscript.encoding)));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "manuscript/mrvsourcemisfit.h"
 #include "util/mrvbase_export.h"
 
@@ -53,7 +54,7 @@ public:
      *         MRVManuscript::isConverted().
      */
     static bool changedBytes(const MRVManuscript &manuscript, const QVector<MRVTextChange> &changes,
-                             Mode mode, QByteArray *bytes, QString *error = nullptr,
+                             Mode mode, QByteArray *bytes, MRVErrorSink error = nullptr,
                              QVector<MRVSourceMisfit> *misfits = nullptr,
                              QStringList *brokenLinks = nullptr);
 };

@@ -21,35 +21,38 @@ QString freeBackupName(const QString &path)
 
 // What only some may read stays so in the backup: it gets its permissions while it is empty, and
 // the writer keeps those of the file that it replaces.
-bool makeEmpty(const QString &name, QFile::Permissions permissions)
+MRVError makeEmpty(const QString &name, QFile::Permissions permissions)
 {
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return false;
+        return MRVError::ofDevice(file);
     }
-    const bool done = file.setPermissions(permissions);
-    if (!done) {
-        file.remove();
+    if (file.setPermissions(permissions)) {
+        return {};
     }
-    return done;
+    const MRVError reason = MRVError::ofDevice(file);
+    file.remove();
+    return reason;
 }
 
 } // namespace
 
 bool MRVSourceFile::replace(const QString &path, const QByteArray &before, const QByteArray &after,
-                            QString *backup, QString *error)
+                            QString *backup, MRVErrorSink error)
 {
-    QString unreadable;
+    MRVError unreadable;
     const QByteArray found = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
-    if (!unreadable.isEmpty() || found != before) {
-        return MRV::fail(error, path, tr("the file has been changed meanwhile"));
+    if (unreadable || found != before) {
+        return MRV::fail(error, path,
+                         {MRVErrorKind::Changed, tr("the file has been changed meanwhile")});
     }
     if (!backup) {
         return MRVFileWriter::write(path, after, error);
     }
     const QString kept = freeBackupName(path);
-    if (!makeEmpty(kept, QFileInfo(path).permissions())) {
-        return MRV::fail(error, kept, tr("the backup cannot be made"));
+    const MRVError reason = makeEmpty(kept, QFileInfo(path).permissions());
+    if (reason) {
+        return MRV::fail(error, kept, {reason.kind, tr("the backup cannot be made")});
     }
     if (!MRVFileWriter::write(kept, before, error) || !MRVFileWriter::write(path, after, error)) {
         QFile::remove(kept);

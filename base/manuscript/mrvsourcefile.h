@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -31,5 +32,5 @@ public:
      *         when the backup cannot be made.
      */
     static bool replace(const QString &path, const QByteArray &before, const QByteArray &after,
-                        QString *backup = nullptr, QString *error = nullptr);
+                        QString *backup = nullptr, MRVErrorSink error = nullptr);
 };

@@ -1,47 +1,11 @@
 #include "manuscript/mrvsourcewriter_p.h"
 
 #include "manuscript/mrvmanuscript.h"
+#include "markdown/mrvmarkdownescape.h"
 
 #include <QFont>
 #include <QRegularExpression>
 #include <QTextCodec>
-
-#include <algorithm>
-
-namespace {
-
-bool isLetterOrNumber(QStringView text, int i)
-{
-    return i >= 0 && i < text.size() && text[i].isLetterOrNumber();
-}
-
-// Whether a character needs a backslash, as what it would mean without one can be seen from the
-// text alone. At the end of the text anything may follow.
-bool isMarkup(QStringView text, int i)
-{
-    const QChar next = i + 1 < text.size() ? text[i + 1] : QChar();
-    switch (text[i].unicode()) {
-    case '\\':
-    case '`':
-    case '*':
-    case '[':
-    case ']':
-    case '|':
-        return true;
-    case '_':
-        return !isLetterOrNumber(text, i - 1) || !isLetterOrNumber(text, i + 1);
-    case '~':
-        return next.isNull() || next == u'~' || i == 0 || text[i - 1] == u'~';
-    case '<':
-        return next.isNull() || next.isLetter() || next == u'/' || next == u'!' || next == u'?';
-    case '&':
-        return next.isNull() || next.isLetter() || next == u'#';
-    default:
-        return false;
-    }
-}
-
-} // namespace
 
 MRVSourceWriter::MRVSourceWriter(const MRVManuscript &manuscript, const QString &source)
     : m_source(source)
@@ -61,7 +25,9 @@ bool MRVSourceWriter::write(const QString &text, const MRVSourcePlace &place,
     } else if (place.syntax == MRVSourcePlace::Page) {
         result = asPage(text);
     } else {
-        result = asMarkdown(text, isAtLineStart(place.start));
+        result = MRVMarkdownEscape::escaped(
+            text,
+            isAtLineStart(place.start) ? MRVMarkdownEscape::LineStart : MRVMarkdownEscape::Inline);
     }
     *written = result;
     return encode(place.syntax, written);
@@ -73,14 +39,11 @@ bool MRVSourceWriter::writeEscaped(const QString &text, const MRVSourcePlace &pl
     if (place.syntax == MRVSourcePlace::Page) {
         return write(text, place, written);
     }
-    const bool isCode = place.syntax == MRVSourcePlace::Plain; // a table ends cells within it
-    QString escaped;
-    for (const QChar c : text) {
-        const bool isPunctuation = c.unicode() > ' ' && c.unicode() < 0x7f && !c.isLetterOrNumber();
-        if (isCode ? c == u'|' : isPunctuation) {
-            escaped += u'\\';
-        }
-        escaped += c;
+    QString escaped = text;
+    if (place.syntax == MRVSourcePlace::Plain) {
+        escaped.replace(u'|', QLatin1String("\\|")); // code, in which a table ends cells
+    } else {
+        escaped = MRVMarkdownEscape::fullyEscaped(text);
     }
     *written = escaped;
     return encode(place.syntax, written);
@@ -89,11 +52,8 @@ bool MRVSourceWriter::writeEscaped(const QString &text, const MRVSourcePlace &pl
 int MRVSourceWriter::escapeAfter(const QString &text, int start, int after) const
 {
     constexpr int Longest = 20;
-    static const QRegularExpression beginning(
-        QStringLiteral("^[ \\t]*([0-9]{1,9}(?=[.)])|(?=[-#>+=~]))"));
-    const QRegularExpressionMatch match = beginning.match(text + m_source.midRef(after, Longest));
-    const int place = match.capturedEnd() - text.size();
-    return match.hasMatch() && place >= 0 && isAtLineStart(start) ? after + place : -1;
+    const int mark = MRVMarkdownEscape::blockMark(text + m_source.midRef(after, Longest));
+    return mark >= text.size() && isAtLineStart(start) ? after + mark - text.size() : -1;
 }
 
 bool MRVSourceWriter::encode(MRVSourcePlace::Syntax syntax, QString *text) const
@@ -152,29 +112,6 @@ QString MRVSourceWriter::asPage(const QString &text) const
     page.replace(u'&', QLatin1String("&amp;"));
     page.replace(u'<', QLatin1String("&lt;"));
     return page.replace(u'>', QLatin1String("&gt;"));
-}
-
-QString MRVSourceWriter::asMarkdown(const QString &text, bool isAtLineStart) const
-{
-    QString markdown;
-    int i = 0;
-    if (isAtLineStart) {
-        // A heading, a list or a quotation would begin there.
-        static const QRegularExpression number(QStringLiteral("^[0-9]{1,9}(?=[.)])"));
-        markdown = number.match(text).captured();
-        i = markdown.size();
-        if (i > 0 || (!text.isEmpty() && QStringView(u"#>-+=~").contains(text.at(0)))) {
-            markdown += u'\\';
-            markdown += text.at(i++);
-        }
-    }
-    for (; i < text.size(); ++i) {
-        if (isMarkup(text, i)) {
-            markdown += u'\\';
-        }
-        markdown += text.at(i);
-    }
-    return markdown;
 }
 
 // Whether only markers of lists and quotations stand before a place in its line.

@@ -51,7 +51,6 @@ public:
 
 private:
     QString asPage(const QString &text) const;
-    QString asMarkdown(const QString &text, bool isAtLineStart) const;
     bool isAtLineStart(int at) const;
 
     const QString &m_source;

@@ -364,3 +364,28 @@ int MRVFrontMatter::read(const QString &text, QVector<MRVMetadataEntry> *entries
     }
     return refused;
 }
+
+QString MRVFrontMatter::write(const MRVMarkdownHead &head)
+{
+    const auto quoted = [](const QString &text) {
+        static const QRegularExpression special(QStringLiteral("([\\\\\"])"));
+        return u'"' + text.simplified().replace(special, QStringLiteral("\\\\1")) + u'"';
+    };
+    QString lines;
+    const auto add = [&](const char *key, const QString &value) {
+        if (!value.isEmpty()) {
+            lines += QLatin1String(key) + QLatin1String(": ") + quoted(value) + u'\n';
+        }
+    };
+    add("title", head.title);
+    if (!head.authors.isEmpty()) {
+        lines += QLatin1String("author:\n");
+    }
+    for (const QString &author : head.authors) {
+        lines += QLatin1String("- ") + quoted(author) + u'\n';
+    }
+    add("description", head.description);
+    add("language", head.language);
+    add("date", head.date);
+    return lines.isEmpty() ? QString() : QLatin1String("---\n") + lines + QLatin1String("---\n");
+}

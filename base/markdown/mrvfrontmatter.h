@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+struct MRVMarkdownHead;
+
 /**
  * Metadata as the front matter of Markdown writes them: "key: value" lines, a part of YAML.
  *
@@ -29,4 +31,10 @@ public:
      * @return 0, or the first line, from 1, that is neither a key nor continues one.
      */
     static int read(const QString &text, QVector<MRVMetadataEntry> *entries);
+
+    /**
+     * Metadata between two lines of "---", as a Markdown text begins with; empty for a head without
+     * title, authors, description, language and date. Ends of lines in them become blanks.
+     */
+    static QString write(const MRVMarkdownHead &head);
 };

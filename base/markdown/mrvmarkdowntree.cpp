@@ -1,9 +1,9 @@
 #include "markdown/mrvmarkdowntree_p.h"
 
+#include "markdown/mrvheadingids.h"
 #include "markdown/mrvmarkdownsyntax_p.h"
 #include "util/mrvescape.h"
 
-#include <QHash>
 #include <QVector>
 
 namespace {
@@ -54,7 +54,7 @@ public:
         if (last && mrvMarkdownRole(last) == MRVMarkdownRole::HeadingId) {
             id = QString::fromUtf8(cmark_node_get_on_enter(last));
             cmark_node_free(last);
-            m_used.insert(id, 0);
+            m_ids.take(id);
             trim(cmark_node_last_child(heading));
         }
         m_headings.append({heading, id});
@@ -66,7 +66,7 @@ public:
             cmark_node *const custom = cmark_node_new(CMARK_NODE_CUSTOM_BLOCK);
             const char name[] = {'h', char('0' + cmark_node_get_heading_level(heading.node)), '\0'};
             setTags(custom, name, heading.node,
-                    heading.id.isEmpty() ? unique(slug(heading.node)) : heading.id);
+                    heading.id.isEmpty() ? m_ids.next(textOf(heading.node)) : heading.id);
             cmark_node_insert_before(heading.node, custom);
             cmark_node_own(heading.node); // the texts below it are parts of its own
             moveChildren(heading.node, custom);
@@ -92,39 +92,23 @@ private:
         }
     }
 
-    static QString slug(cmark_node *heading)
+    static QString textOf(cmark_node *heading)
     {
-        QString id;
-        mrvVisitMarkdownTree(heading, [&id](cmark_node *node, bool left) {
+        QString text;
+        mrvVisitMarkdownTree(heading, [&text](cmark_node *node, bool left) {
             const cmark_node_type type = cmark_node_get_type(node);
             if (type == CMARK_NODE_SOFTBREAK || type == CMARK_NODE_LINEBREAK) {
-                id += u'-';
+                text += u'-';
             }
-            if (left || (type != CMARK_NODE_TEXT && type != CMARK_NODE_CODE)) {
-                return;
-            }
-            for (const uint c : literal(node).toLower().toUcs4()) {
-                if (c == u' ' || c == u'-' || c == u'_' || QChar::isLetterOrNumber(c)
-                    || QChar::isMark(c)) {
-                    id += c == u' ' ? QStringLiteral("-") : QString::fromUcs4(&c, 1);
-                }
+            if (!left && (type == CMARK_NODE_TEXT || type == CMARK_NODE_CODE)) {
+                text += literal(node);
             }
         });
-        return id;
-    }
-
-    QString unique(const QString &id)
-    {
-        QString result = id;
-        while (!id.isEmpty() && m_used.contains(result)) {
-            result = id + u'-' + QString::number(++m_used[id]);
-        }
-        m_used.insert(result, 0);
-        return result;
+        return text;
     }
 
     QVector<Heading> m_headings;
-    QHash<QString, int> m_used; // an id, and the last number that was put after it
+    MRVHeadingIds m_ids;
 };
 
 /** The lines of a term are terms; lists that follow each other are one. */

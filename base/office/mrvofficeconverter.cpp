@@ -191,19 +191,21 @@ MRVFormat::Format MRVOfficeConverter::formatOf(const QByteArray &bytes)
 }
 
 // What begins in another way is no such document, whatever its name says.
-bool MRVOfficeConverter::begins(const QByteArray &bytes, MRVFormat::Format format, QString *error)
+bool MRVOfficeConverter::begins(const QByteArray &bytes, MRVFormat::Format format,
+                                MRVErrorSink error)
 {
     const QString name = MRVFormat::name(format);
     const MRVFormat::Format found = formatOf(bytes);
     if (found != MRVFormat::NoFormat && found != format) {
-        return MRV::fail(error, tr("it is not %1, but %2").arg(name, MRVFormat::name(found)));
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("it is not %1, but %2").arg(name, MRVFormat::name(found)));
     }
     return bytes.startsWith(format == MRVFormat::RTF ? "{\\rtf" : "PK\3\4")
-        || MRV::fail(error, tr("it is not %1").arg(name));
+        || MRV::fail(error, MRVErrorKind::Damaged, tr("it is not %1").arg(name));
 }
 
 QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format format,
-                                   QString *error)
+                                   MRVErrorSink error)
 {
     m_warnings.clear();
     m_missingWords.clear();
@@ -211,12 +213,13 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
     const Converter *converter = converterOf(format);
     const QString formatName = MRVFormat::name(format);
     if (!converter) {
-        MRV::fail(error, tr("no program is known that reads %1").arg(formatName));
+        MRV::fail(error, MRVErrorKind::Unsupported,
+                  tr("no program is known that reads %1").arg(formatName));
         return QString();
     }
     const QString program = QStandardPaths::findExecutable(QLatin1String(converter->program));
     if (program.isEmpty()) {
-        MRV::fail(error,
+        MRV::fail(error, MRVErrorKind::ProgramMissing,
                   tr("reading %1 needs the program %2, which is not installed (Debian: apt install "
                      "%3)")
                       .arg(formatName, QLatin1String(converter->program),
@@ -227,16 +230,20 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
         return QString();
     }
     MRVOfficeSource source(bytes, format);
+    if (source.fault()) {
+        MRV::fail(error, source.fault());
+        return QString();
+    }
     if (source.isTooLarge()) {
-        MRV::fail(error,
+        MRV::fail(error, MRVErrorKind::TooLarge,
                   tr("its text is larger than %1 MB").arg(MRVOfficeSource::MostUnpacked >> 20));
         return QString();
     }
     const MRVTemporaryFolder folder(QDir::tempPath());
     const QDir files(folder.path());
     const QString input = files.filePath(QStringLiteral("input"));
-    QString reason = folder.errorString();
-    if (!reason.isEmpty() || !MRVCoreUtil::WriteBinaryFile(source.prepared(), input, &reason)
+    MRVError reason = folder.error();
+    if (reason || !MRVCoreUtil::WriteBinaryFile(source.prepared(), input, &reason)
         || !MRVCoreUtil::WriteBinaryFile(templateFor(source.properties()),
                                          files.filePath(QStringLiteral("page.template")),
                                          &reason)) {
@@ -245,10 +252,14 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
     }
     const MRVProgramResult result =
         mrvRunLimited(program, argumentsFor(*converter, m_embedsPictures), input, folder.path(),
-                      {m_limits.milliseconds, m_limits.memory, m_limits.output});
+                      {m_limits.milliseconds, m_limits.memory, m_limits.output},
+                      [this] { return !m_progress || m_progress(0); });
+    if (result.end == MRVProgramResult::Cancelled) {
+        MRV::fail(error, MRVProgressMeter::cancelled());
+        return QString();
+    }
     if (result.end != MRVProgramResult::Exited || result.exitCode != 0) {
-        MRV::fail(error,
-                  QLatin1String(converter->program) + QLatin1String(": ") + failureOf(result));
+        MRV::fail(error, QLatin1String(converter->program), failureOf(result));
         return QString();
     }
     m_warnings = warningsIn(result.errors);
@@ -259,23 +270,28 @@ QString MRVOfficeConverter::toHtml(const QByteArray &bytes, MRVFormat::Format fo
     return page;
 }
 
-QString MRVOfficeConverter::failureOf(const MRVProgramResult &result) const
+MRVError MRVOfficeConverter::failureOf(const MRVProgramResult &result) const
 {
     constexpr qint64 megabyte = 1 << 20;
     const QString reason = reasonIn(result.errors);
     switch (result.end) {
     case MRVProgramResult::NotStarted:
-        return tr("it cannot be started");
+        return {MRVErrorKind::ProgramMissing, tr("it cannot be started")};
     case MRVProgramResult::OutOfTime:
-        return tr("it was not done after %1 seconds").arg(m_limits.milliseconds / 1000);
+        return {MRVErrorKind::TooLarge,
+                tr("it was not done after %1 seconds").arg(m_limits.milliseconds / 1000)};
     case MRVProgramResult::TooMuchOutput:
-        return tr("its result is larger than %1 MB").arg(m_limits.output / megabyte);
+        return {MRVErrorKind::TooLarge,
+                tr("its result is larger than %1 MB").arg(m_limits.output / megabyte)};
+    case MRVProgramResult::Cancelled: // is no failure of the program
     case MRVProgramResult::Crashed:
     case MRVProgramResult::Exited:
         break;
     }
     if (reason.contains(QLatin1String("memory"), Qt::CaseInsensitive)) {
-        return tr("it needs more than %1 MB of memory").arg(m_limits.memory / megabyte);
+        return {MRVErrorKind::TooLarge,
+                tr("it needs more than %1 MB of memory").arg(m_limits.memory / megabyte)};
     }
-    return reason.isEmpty() ? tr("it has failed without a reason") : reason;
+    return {MRVErrorKind::Damaged,
+            reason.isEmpty() ? tr("it has failed without a reason") : reason};
 }

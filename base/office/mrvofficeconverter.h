@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "fileformats/mrvformat.h"
 #include "office/mrvofficeloss.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -50,6 +52,8 @@ public:
      * first. Else it names them as the document does, and the conversion is faster.
      */
     void setEmbedsPictures(bool embeds) { m_embedsPictures = embeds; }
+    /** What may cancel toHtml(); it is told 0 all the time, since no program says how far it is. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
 
     /** Whether toHtml() can read that format, if the program is installed. */
     static bool canConvert(MRVFormat::Format format);
@@ -66,7 +70,7 @@ public:
      *              limit. Untouched on success; may be null.
      * @return null on failure.
      */
-    QString toHtml(const QByteArray &bytes, MRVFormat::Format format, QString *error = nullptr);
+    QString toHtml(const QByteArray &bytes, MRVFormat::Format format, MRVErrorSink error = nullptr);
     /**
      * Words of the last document that the page lacks, in order; empty if all is well. No page lacks
      * a word without this.
@@ -81,11 +85,12 @@ public:
     QStringList warnings() const { return m_warnings; }
 
 private:
-    static bool begins(const QByteArray &bytes, MRVFormat::Format format, QString *error);
-    QString failureOf(const MRVProgramResult &result) const;
+    static bool begins(const QByteArray &bytes, MRVFormat::Format format, MRVErrorSink error);
+    MRVError failureOf(const MRVProgramResult &result) const;
 
     Limits m_limits;
     bool m_embedsPictures = true;
+    MRVProgress m_progress;
     QStringList m_warnings;
     QVector<MRVOfficeLoss> m_missingWords;
     QStringList m_missingComments;

@@ -4,76 +4,14 @@
 #include "office/mrvofficertf_p.h"
 #include "office/mrvofficetext_p.h"
 #include "office/mrvofficewords_p.h"
+#include "zip/mrvzipreader.h"
+#include "zip/mrvzipwriter.h"
 
-#include <memory>
-#include <vector>
-
-#include <zip.h>
+#include <QBuffer>
 
 namespace {
 
-using Source = std::unique_ptr<zip_source_t, decltype(&zip_source_free)>;
-using Archive = std::unique_ptr<zip_t, decltype(&zip_discard)>;
-
-// Takes over the source, of which null is none.
-zip_t *openArchive(zip_source_t *source, int flags)
-{
-    zip_t *archive = source ? zip_open_from_source(source, flags, nullptr) : nullptr;
-    if (!archive) {
-        zip_source_free(source);
-    }
-    return archive;
-}
-
-bool readFile(zip_t *archive, zip_uint64_t index, QByteArray *bytes)
-{
-    const std::unique_ptr<zip_file_t, decltype(&zip_fclose)> file(
-        zip_fopen_index(archive, index, 0), zip_fclose);
-    char buffer[65536];
-    zip_int64_t size = -1;
-    while (file && (size = zip_fread(file.get(), buffer, sizeof buffer)) > 0
-           && bytes->size() <= MRVOfficeSource::MostUnpacked) {
-        bytes->append(buffer, int(size));
-    }
-    return size == 0;
-}
-
-// Owns no bytes: these must last until the archive is closed.
-bool addFile(zip_t *archive, const char *name, zip_source_t *source, zip_int32_t method)
-{
-    const zip_int64_t index = source ? zip_file_add(archive, name, source, 0) : -1;
-    if (index < 0) {
-        zip_source_free(source);
-        return false;
-    }
-    return zip_set_file_compression(archive, zip_uint64_t(index), method, 0) == 0;
-}
-
-// As it is, compressed or not. Folders are left out: nothing reads them.
-bool copyFile(zip_t *from, zip_uint64_t index, zip_t *to)
-{
-    zip_stat_t stat;
-    if (zip_stat_index(from, index, 0, &stat) != 0 || (stat.valid & ZIP_STAT_NAME) == 0) {
-        return false;
-    }
-    return QByteArray(stat.name).endsWith('/')
-        || addFile(to, stat.name, zip_source_zip(to, from, index, ZIP_FL_COMPRESSED, 0, -1),
-                   stat.comp_method);
-}
-
-QByteArray bytesOf(zip_source_t *source)
-{
-    QByteArray bytes;
-    zip_stat_t stat;
-    if (zip_source_stat(source, &stat) == 0 && zip_source_open(source) == 0) {
-        bytes.resize(int(stat.size)); // of what has just been written
-        if (zip_source_read(source, bytes.data(), stat.size) != bytes.size()) {
-            bytes.clear();
-        }
-        zip_source_close(source);
-    }
-    return bytes;
-}
+constexpr int Level = 1; // of what is read once
 
 bool hasText(MRVFormat::Format format, const QString &name)
 {
@@ -97,47 +35,33 @@ MRVOfficeSource::MRVOfficeSource(const QByteArray &bytes, MRVFormat::Format form
     }
 }
 
-// A new archive: libzip frees bytes that are not its own when it changes one in memory.
 void MRVOfficeSource::readArchive(const QByteArray &bytes, MRVFormat::Format format)
 {
-    const Archive archive(
-        openArchive(
-            zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, nullptr),
-            ZIP_RDONLY),
-        zip_discard);
-    const Source target(zip_source_buffer_create(nullptr, 0, 0, nullptr), zip_source_free);
-    zip_source_keep(target.get()); // the archive frees it once
-    Archive written(openArchive(target.get(), ZIP_CREATE | ZIP_TRUNCATE), zip_discard);
-    if (!archive || !written) {
-        return;
-    }
-    std::vector<QByteArray> texts; // until the archive is closed
-    bool ok = true;
-    for (zip_uint64_t i = 0; i < zip_uint64_t(zip_get_num_entries(archive.get(), 0)) && ok; ++i) {
-        const char *name = zip_get_name(archive.get(), i, 0);
-        if (!hasText(format, QString::fromUtf8(name))) {
-            readFormula(archive.get(), i, name);
-            readProperties(archive.get(), i, name);
-            readComments(archive.get(), i, name);
-            ok = copyFile(archive.get(), i, written.get());
+    const MRVZipReader archive(bytes);
+    std::vector<MRVZipEntry> entries;
+    m_fault = archive.error();
+    bool ok = archive.isOpen();
+    for (int i = 0; i < archive.files().size() && ok; ++i) {
+        const QString path = archive.files().at(i).path;
+        if (!hasText(format, path)) {
+            readParts(archive, i);
+            entries.push_back({path, MRVZipEntry::Stored, {}, -1, &archive, i});
             continue;
         }
-        QByteArray text;
-        ok = readFile(archive.get(), i, &text);
-        if (text.size() > MRVOfficeSource::MostUnpacked) {
-            m_isTooLarge = true;
-        } else if (ok) {
+        m_isTooLarge = m_isTooLarge || archive.files().at(i).size > MostUnpacked;
+        const QByteArray text = archive.read(i, MostUnpacked);
+        ok = !text.isNull();
+        if (ok) {
             m_text += mrvOfficeXmlText(mrvWithPlainRuby(text)) + u' ';
-            texts.push_back(preparedText(text, format));
-            zip_source_t *prepared = zip_source_buffer(written.get(), texts.back().constData(),
-                                                       zip_uint64_t(texts.back().size()), 0);
-            ok = addFile(written.get(), name, prepared, ZIP_CM_STORE); // it is read at once
+            const QByteArray prepared = preparedText(text, format);
+            entries.push_back({path, MRVZipEntry::Stored, [prepared] { return prepared; }});
         }
     }
-    if (ok && zip_close(written.get()) == 0) {
-        static_cast<void>(written.release());
-        const QByteArray prepared = bytesOf(target.get());
-        m_prepared = prepared.isEmpty() ? bytes : prepared;
+    QBuffer target;
+    target.open(QIODevice::WriteOnly);
+    const QDateTime date(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC); // which nobody reads
+    if (ok && mrvWriteZip(entries, Level, date, &target, nullptr)) {
+        m_prepared = target.data();
     }
 }
 
@@ -147,32 +71,18 @@ QByteArray MRVOfficeSource::preparedText(const QByteArray &text, MRVFormat::Form
                                     : mrvPreparedDocx(mrvWithMarksOfDocxComments(text));
 }
 
-// In a DOCX, they are in a file of their own.
-void MRVOfficeSource::readComments(zip_t *archive, quint64 index, const QByteArray &name)
+// What is read beside the text: the comments of a DOCX, which are in a file of their own, the
+// formulas of an ODT, each a document in a folder of its own, and the properties.
+void MRVOfficeSource::readParts(const MRVZipReader &archive, int index)
 {
-    QByteArray comments;
-    if (name == "word/comments.xml") {
-        readFile(archive, index, &comments);
-        m_isTooLarge = m_isTooLarge || comments.size() > MRVOfficeSource::MostUnpacked;
-        m_comments = mrvCommentsOfDocx(comments);
-    }
-}
-
-void MRVOfficeSource::readProperties(zip_t *archive, quint64 index, const QByteArray &name)
-{
-    QByteArray properties;
-    if ((name == "docProps/core.xml" || name == "meta.xml")
-        && readFile(archive, index, &properties)) {
-        m_properties = mrvOfficeProperties(properties);
-    }
-}
-
-// In an ODT, each is a document in a folder of its own.
-void MRVOfficeSource::readFormula(zip_t *archive, quint64 index, const QByteArray &name)
-{
-    QByteArray content;
-    if (name.endsWith("/content.xml") && readFile(archive, index, &content)) {
-        const QString formula = mrvOfficeXmlText(content);
+    const QString path = archive.files().at(index).path;
+    if (path == QLatin1String("word/comments.xml")) {
+        m_isTooLarge = m_isTooLarge || archive.files().at(index).size > MostUnpacked;
+        m_comments = mrvCommentsOfDocx(archive.read(index, MostUnpacked));
+    } else if (path == QLatin1String("docProps/core.xml") || path == QLatin1String("meta.xml")) {
+        m_properties = mrvOfficeProperties(archive.read(index, MostUnpacked));
+    } else if (path.endsWith(QLatin1String("/content.xml"))) {
+        const QString formula = mrvOfficeXmlText(archive.read(index, MostUnpacked));
         if (!formula.isEmpty()) {
             m_formulas.append(formula);
         }

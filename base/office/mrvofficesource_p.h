@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "fileformats/mrvformat.h"
 #include "office/mrvofficecomments_p.h"
 #include "office/mrvofficeloss.h"
@@ -10,7 +11,7 @@
 #include <QStringList>
 #include <QVector>
 
-struct zip;
+class MRVZipReader;
 
 /**
  * A document of a word processor, as far as it takes to see that a converter loses nothing of it.
@@ -25,6 +26,8 @@ public:
     /** Bytes that a text of an archive may unpack to, some ten novels; a small file may be huge. */
     static constexpr int MostUnpacked = 1 << 26;
 
+    /** Why an archive is none, as MRVZipReader::error() says it; else empty. */
+    const MRVError &fault() const { return m_fault; }
     /** Whether a text is larger: it is not prepared, and losses would not be seen. */
     bool isTooLarge() const { return m_isTooLarge; }
     /** What an archive says about itself. */
@@ -50,12 +53,11 @@ public:
 
 private:
     QByteArray preparedText(const QByteArray &text, MRVFormat::Format format);
-    void readComments(zip *archive, quint64 index, const QByteArray &name);
     void readArchive(const QByteArray &bytes, MRVFormat::Format format);
-    void readFormula(zip *archive, quint64 index, const QByteArray &name);
-    void readProperties(zip *archive, quint64 index, const QByteArray &name);
+    void readParts(const MRVZipReader &archive, int index);
 
     QByteArray m_prepared;
+    MRVError m_fault;
     bool m_isTooLarge = false;
     MRVOfficeProperties m_properties;
     QString m_text; // that a reader is to see

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "autoreplace/mrvautoreplacelist.h"
+#include "core/mrverror.h"
 #include "fileformats/mrvimportexport.h"
 #include "settings/mrvsettings.h"
 #include "util/mrvbase_export.h"
@@ -353,6 +354,15 @@ public:
         BlockFormatType = 11,
     };
 
+    /** What a text is, for those who offer an editor for it. */
+    enum TextForm : int {
+        Line = 0,
+        Lines = 1, ///< a text whose line breaks count, also at its ends
+        FolderPath = 2, ///< of a folder that need not exist
+        FilePath = 3, ///< of a file; empty for none
+        QuotePair = 4, ///< an opening and a closing mark, of the same length
+    };
+
     /** A value that a setting takes, and the translated text that the user chooses it by. */
     struct Choice
     {
@@ -372,6 +382,8 @@ public:
         bool isPreference = true; ///< false for what the application itself keeps in a setting
         QVariant least; ///< of a number; invalid for other types
         QVariant most; ///< the largest value, which is accepted, too
+        QString unit; ///< of a number: the translated symbol that follows it; empty for none
+        TextForm form = Line; ///< of a StringType
         QList<Choice> choices; ///< all that is accepted, where that has names; else empty
 
         /** The limits, or the words, that setFromText() keeps to; empty for none. */
@@ -425,8 +437,8 @@ public:
         /**
          * For programs: "key"; "type", its typeName(); "group", "label" and "description"; "value"
          * and "default" as MRVOptions::toJson() gives them; "changed"; "preference"; "origin", or
-         * null. Where there are any: "accepts"; "least" and "most"; "choices", objects of a "value"
-         * and a "label"; "problem".
+         * null. Where there are any: "accepts"; "least" and "most"; "unit"; "choices", objects of a
+         * "value" and a "label"; "problem".
          */
         QJsonObject toJson() const;
     };
@@ -607,7 +619,7 @@ public:
      * @param error if given, receives a translated line that names the file where the stored list
      *              cannot be read whole; untouched otherwise.
      */
-    MRVAutoReplaceList autoReplaceList(QString *error = nullptr) const;
+    MRVAutoReplaceList autoReplaceList(MRVErrorSink error = nullptr) const;
     bool setAutoReplaceList(const MRVAutoReplaceList &list);
 
     using MRVSettings::shortcutScheme;
@@ -619,7 +631,7 @@ public:
      *              stored scheme could be read; untouched otherwise.
      * @return what could be read; a null scheme where nothing could.
      */
-    MRVShortcutScheme shortcutScheme(QString *error = nullptr) const;
+    MRVShortcutScheme shortcutScheme(MRVErrorSink error = nullptr) const;
 
     /** The keys that are to be given to commands; an empty sequence is no key. */
     using ShortcutKeys = QList<QPair<MRVShortcut::Id, QKeySequence>>;
@@ -633,7 +645,7 @@ public:
      * @param error     if given, receives one translated line on failure; untouched on success.
      * @return false also where the stored scheme is damaged, so that nothing of it is lost.
      */
-    bool setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, QString *error = nullptr);
+    bool setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, MRVErrorSink error = nullptr);
 
     /** The codec that texts are imported with: a name that QTextCodec knows, "UTF-8" by default. */
     QByteArray defaultTextEncoding() const;
@@ -746,7 +758,7 @@ public:
      * @return false, with nothing stored, for an unknown key and for a text that is no value of the
      * type, lies outside the setting's range, or is not one of the words that the setting takes.
      */
-    bool setFromText(const QString &key, const QString &text, QString *error = nullptr);
+    bool setFromText(const QString &key, const QString &text, MRVErrorSink error = nullptr);
 };
 
 /** MRVOptions::instance(). @since 1.0 */

@@ -144,6 +144,9 @@ QJsonObject MRVOptions::Explanation::toJson() const
         object.insert(QStringLiteral("least"), MRVOptions::toJson(type, least));
         object.insert(QStringLiteral("most"), MRVOptions::toJson(type, most));
     }
+    if (!unit.isEmpty()) {
+        object.insert(QStringLiteral("unit"), unit);
+    }
     if (!choices.isEmpty()) {
         object.insert(QStringLiteral("choices"), jsonOf(choices));
     }

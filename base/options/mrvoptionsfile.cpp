@@ -69,52 +69,57 @@ bool MRVOptionsFile::isSettings(const QByteArray &bytes)
     return beginsLikeSettings(&buffer);
 }
 
-// Empty when the file can be opened.
-QString MRVOptionsFile::objectionTo(const QFileInfo &info, bool isOwn, Access access)
+MRVError MRVOptionsFile::noSettings()
+{
+    return {MRVErrorKind::Damaged, tr("this is no settings file")};
+}
+
+// No error when the file can be opened.
+MRVError MRVOptionsFile::objectionTo(const QFileInfo &info, bool isOwn, Access access)
 {
     if (info.exists() && !info.isFile()) {
-        return tr("it is not a regular file");
+        return {MRVErrorKind::Other, tr("it is not a regular file")};
     }
     if (isOwn) {
-        return QString();
+        return {};
     }
     if (!info.dir().exists()) {
-        return tr("its folder does not exist");
+        return {MRVErrorKind::NotFound, tr("its folder does not exist")};
     }
     if (!info.exists() && access == Create) {
-        return QString();
+        return {};
     }
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
+        return MRVError::ofDevice(file);
     }
-    return beginsLikeSettings(&file) ? QString() : tr("this is no settings file");
+    return beginsLikeSettings(&file) ? MRVError() : noSettings();
 }
 
-bool MRVOptionsFile::open(const QString &path, Access access, QString *error)
+bool MRVOptionsFile::open(const QString &path, Access access, MRVErrorSink error)
 {
     const bool isOwn = path.isEmpty();
     const QFileInfo file(isOwn ? pathOfOwn() : path);
-    QString reason = objectionTo(file, isOwn, access);
-    if (reason.isEmpty() && access != Read) {
+    MRVError reason = objectionTo(file, isOwn, access);
+    if (!reason && access != Read) {
         if (isOwn) {
             QDir().mkpath(file.path());
         }
         m_lock.acquire(file.filePath(), &reason);
     }
-    if (reason.isEmpty()) {
+    if (!reason) {
         m_options = isOwn ? std::make_unique<MRVOptions>() : std::make_unique<MRVOptions>(path);
         const QSettings::Status status = m_options->status();
         if (status == QSettings::NoError || (isOwn && status == QSettings::FormatError)) {
             return true;
         }
-        const QString text = m_options->errorText();
+        const MRVError failure = m_options->lastError();
         m_options.reset();
-        if (!text.isEmpty()) {
+        if (failure) {
             m_lock.release();
-            return MRV::fail(error, text);
+            return MRV::fail(error, failure);
         }
-        reason = tr("this is no settings file");
+        reason = noSettings();
     }
     m_lock.release();
     return MRV::fail(error, file.filePath(), reason);

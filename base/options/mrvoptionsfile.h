@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 #include "util/mrveditlock.h"
 
@@ -50,7 +51,7 @@ public:
      * @return false when the file or its folder does not exist, is no regular file, cannot be read,
      * holds something else, or stays locked.
      */
-    bool open(const QString &path, Access access, QString *error = nullptr);
+    bool open(const QString &path, Access access, MRVErrorSink error = nullptr);
 
     /** The preferences, which this object owns; null before open() and after its failure. */
     MRVOptions *options() const { return m_options.get(); }
@@ -59,7 +60,8 @@ public:
     static bool isSettings(const QByteArray &bytes);
 
 private:
-    static QString objectionTo(const QFileInfo &file, bool isOwn, Access access);
+    static MRVError noSettings();
+    static MRVError objectionTo(const QFileInfo &file, bool isOwn, Access access);
 
     MRVEditLock m_lock; // goes last, since the options save when they go
     std::unique_ptr<MRVOptions> m_options;

@@ -58,6 +58,7 @@ void addLimits(const IntRow &row, MRVOptions::SettingInfo *info)
 {
     info->least = int(row.value.least);
     info->most = int(row.value.most);
+    info->unit = MRVOptions::tr(row.value.unit);
     info->choices = choicesOf(row.value);
 }
 
@@ -65,15 +66,13 @@ void addLimits(const RealRow &row, MRVOptions::SettingInfo *info)
 {
     info->least = row.value.least;
     info->most = row.value.most;
+    info->unit = MRVOptions::tr(row.value.unit);
 }
 
-void addLimits(const StringRow &row, MRVOptions::SettingInfo *info)
+template<typename Setting>
+void addLimits(const Row<Setting, TextDefault> &row, MRVOptions::SettingInfo *info)
 {
-    info->choices = choicesOf(row.value);
-}
-
-void addLimits(const SeparatorRow &row, MRVOptions::SettingInfo *info)
-{
+    info->form = row.value.form;
     info->choices = choicesOf(row.value);
 }
 
@@ -82,9 +81,11 @@ void addLimits(const ByteArrayRow &row, MRVOptions::SettingInfo *info)
     info->choices = choicesOf(row.value);
 }
 
-QString rangeOf(const QVariant &least, const QVariant &most)
+QString rangeOf(const MRVOptions::SettingInfo &info)
 {
-    return MRVOptions::tr("%1 to %2").arg(least.toString(), most.toString());
+    const QString range =
+        MRVOptions::tr("%1 to %2").arg(info.least.toString(), info.most.toString());
+    return info.unit.isEmpty() ? range : range + u' ' + info.unit;
 }
 
 template<typename Entry>
@@ -117,7 +118,7 @@ MRVOptions::SettingInfo MRVOptionsTables::infoOf(const QString &key)
 
 QString MRVOptions::SettingInfo::accepts() const
 {
-    return least.isValid() ? rangeOf(least, most) : wordsOf(choices).join(QLatin1String(", "));
+    return least.isValid() ? rangeOf(*this) : wordsOf(choices).join(QLatin1String(", "));
 }
 
 QList<MRVOptions::SettingInfo> MRVOptions::settings()

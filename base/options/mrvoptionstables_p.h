@@ -55,6 +55,7 @@ struct IntDefault
     qint16 least; // what MRVOptions::value() keeps to
     qint16 most;
     Choices (*choices)() = nullptr; // for each number from least to most, where they have names
+    const char *unit = nullptr; // to be translated
 };
 
 struct RealDefault
@@ -62,6 +63,7 @@ struct RealDefault
     double value;
     double least;
     double most;
+    const char *unit = nullptr; // to be translated
 };
 
 struct TextDefault
@@ -69,7 +71,7 @@ struct TextDefault
     const char *utf8;
     QString (*ask)() = nullptr; // what only the system knows; utf8 is null then
     Choices (*choices)() = nullptr; // all that the setting takes, where it does not take any text
-    bool isPair = false; // of quotes, see MRVOptions::singleQuotes()
+    MRVOptions::TextForm form = MRVOptions::Line;
     bool (*accepts)(const QString &text) =
         nullptr; // with ask, whose text is one of those; null for any
 };

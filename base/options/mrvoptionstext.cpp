@@ -2,6 +2,7 @@
 
 #include "settings/mrvsettingsvalue.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>
@@ -54,17 +55,15 @@ QString textOf(const QList<int> &numbers)
 // The value to store for a text; nothing, with an error, where it is not a value of the row's type.
 using Stored = std::optional<QVariant>;
 
-Stored refuse(QString *error, const QString &text)
+Stored refuse(MRVErrorSink error, const QString &text)
 {
-    if (error) {
-        *error = text;
-    }
+    MRV::fail(error, text);
     return std::nullopt;
 }
 
 template<typename Number>
 Stored within(bool isNumber, Number number, Number least, Number most, const QString &text,
-              QString *error)
+              MRVErrorSink error)
 {
     if (isNumber && number >= least && number <= most) {
         return QVariant(number);
@@ -75,7 +74,7 @@ Stored within(bool isNumber, Number number, Number least, Number most, const QSt
     return refuse(error, sentence.arg(text, QString::number(least), QString::number(most)));
 }
 
-Stored oneOf(const QStringList &words, const QString &text, QString *error)
+Stored oneOf(const QStringList &words, const QString &text, MRVErrorSink error)
 {
     if (words.contains(text)) {
         return QVariant(text);
@@ -94,7 +93,7 @@ std::optional<QByteArray> bytesOf(const QString &text)
     return decoded ? std::make_optional(decoded.decoded) : std::nullopt;
 }
 
-Stored parse(const FlagRow &, const QString &text, QString *error)
+Stored parse(const FlagRow &, const QString &text, MRVErrorSink error)
 {
     bool ok = false;
     if (const bool flag = mrvToFlag(text, &ok); ok) {
@@ -103,14 +102,14 @@ Stored parse(const FlagRow &, const QString &text, QString *error)
     return refuse(error, MRVOptions::tr("'%1' is neither true nor false").arg(text));
 }
 
-Stored parse(const IntRow &row, const QString &text, QString *error)
+Stored parse(const IntRow &row, const QString &text, MRVErrorSink error)
 {
     bool ok = false;
     const int number = text.toInt(&ok);
     return within<int>(ok, number, row.value.least, row.value.most, text, error);
 }
 
-Stored parse(const RealRow &row, const QString &text, QString *error)
+Stored parse(const RealRow &row, const QString &text, MRVErrorSink error)
 {
     bool ok = false;
     const double number = text.toDouble(&ok); // NaN lies within no limits
@@ -118,12 +117,12 @@ Stored parse(const RealRow &row, const QString &text, QString *error)
 }
 
 template<typename Setting>
-Stored parse(const Row<Setting, TextDefault> &row, const QString &text, QString *error)
+Stored parse(const Row<Setting, TextDefault> &row, const QString &text, MRVErrorSink error)
 {
     if (row.value.choices) {
         return oneOf(wordsOf(row.value.choices()), text, error);
     }
-    if (row.value.isPair && !isQuotePair(text)) {
+    if (row.value.form == MRVOptions::QuotePair && !isQuotePair(text)) {
         return refuse(
             error,
             MRVOptions::tr("'%1' is not a pair of an opening and a closing quote").arg(text));
@@ -135,12 +134,12 @@ Stored parse(const Row<Setting, TextDefault> &row, const QString &text, QString 
     return QVariant(text);
 }
 
-Stored parse(const StringListRow &, const QString &text, QString *)
+Stored parse(const StringListRow &, const QString &text, MRVErrorSink)
 {
     return QVariant(text.split(u'\n', Qt::SkipEmptyParts));
 }
 
-Stored parse(const ColorRow &row, const QString &text, QString *error)
+Stored parse(const ColorRow &row, const QString &text, MRVErrorSink error)
 {
     const QColor color(text);
     if (color.isValid() && color.alpha() == 0 && row.value.isRead) {
@@ -152,7 +151,7 @@ Stored parse(const ColorRow &row, const QString &text, QString *error)
     return refuse(error, MRVOptions::tr("'%1' is not a colour such as #1f1f1f or navy").arg(text));
 }
 
-Stored parse(const DateTimeRow &, const QString &text, QString *error)
+Stored parse(const DateTimeRow &, const QString &text, MRVErrorSink error)
 {
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
     if (time.isValid()) {
@@ -162,7 +161,7 @@ Stored parse(const DateTimeRow &, const QString &text, QString *error)
                   MRVOptions::tr("'%1' is not a date such as 2026-01-31T18:30:00").arg(text));
 }
 
-Stored parse(const FontRow &, const QString &text, QString *error)
+Stored parse(const FontRow &, const QString &text, MRVErrorSink error)
 {
     // QFont takes any text as a family, and leaves out what it does not understand.
     const int fields = text.count(u',') + 1;
@@ -178,7 +177,7 @@ Stored parse(const FontRow &, const QString &text, QString *error)
     return refuse(error, MRVOptions::tr("'%1' is not a font such as Serif,12").arg(text));
 }
 
-Stored parse(const IntListRow &, const QString &text, QString *error)
+Stored parse(const IntListRow &, const QString &text, MRVErrorSink error)
 {
     const QStringList parts =
         text.split(QRegularExpression(QStringLiteral("\\s")), Qt::SkipEmptyParts);
@@ -192,7 +191,7 @@ Stored parse(const IntListRow &, const QString &text, QString *error)
     return QVariant(parts.join(u' '));
 }
 
-Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
+Stored parse(const ByteArrayRow &row, const QString &text, MRVErrorSink error)
 {
     const auto bytes = bytesOf(text);
     if (!bytes) {
@@ -209,7 +208,7 @@ Stored parse(const ByteArrayRow &row, const QString &text, QString *error)
 }
 
 template<typename Format>
-Stored formatOf(const QString &text, Format (*read)(const QByteArray &), QString *error)
+Stored formatOf(const QString &text, Format (*read)(const QByteArray &), MRVErrorSink error)
 {
     const auto bytes = bytesOf(text);
     // Bytes that cannot be read give an empty format.
@@ -223,12 +222,12 @@ Stored formatOf(const QString &text, Format (*read)(const QByteArray &), QString
                   MRVOptions::tr("the text is not 'base64:' followed by the bytes of a format"));
 }
 
-Stored parse(const CharFormatRow &, const QString &text, QString *error)
+Stored parse(const CharFormatRow &, const QString &text, MRVErrorSink error)
 {
     return formatOf<QTextCharFormat>(text, &MRVSettings::toTextCharFormat, error);
 }
 
-Stored parse(const BlockFormatRow &, const QString &text, QString *error)
+Stored parse(const BlockFormatRow &, const QString &text, MRVErrorSink error)
 {
     return formatOf<QTextBlockFormat>(text, &MRVSettings::toTextBlockFormat, error);
 }
@@ -391,7 +390,7 @@ QJsonValue MRVOptions::toJson(SettingType type, const QVariant &value)
     }
 }
 
-bool MRVOptions::setFromText(const QString &key, const QString &text, QString *error)
+bool MRVOptions::setFromText(const QString &key, const QString &text, MRVErrorSink error)
 {
     bool known = false;
     Stored stored;
@@ -402,14 +401,11 @@ bool MRVOptions::setFromText(const QString &key, const QString &text, QString *e
         }
     });
     if (!known) {
-        refuse(error, tr("no setting is called '%1'").arg(key));
+        return MRV::fail(error, MRVErrorKind::NotFound, tr("no setting is called '%1'").arg(key));
     }
     if (!stored) {
         return false;
     }
-    if (setValue(key, *stored)) {
-        return true;
-    }
-    refuse(error, tr("%1 cannot be written").arg(fileName()));
-    return false;
+    return setValue(key, *stored)
+        || MRV::fail(error, MRVErrorKind::NoPermission, tr("%1 cannot be written").arg(fileName()));
 }

@@ -185,18 +185,15 @@ bool MRVOptions::setPdfSettings(const QString &name, const QByteArray &settings)
     return setValue(pdfKey(keyText(PdfSettings), name), settings);
 }
 
-MRVAutoReplaceList MRVOptions::autoReplaceList(QString *error) const
+MRVAutoReplaceList MRVOptions::autoReplaceList(MRVErrorSink error) const
 {
     MRVAutoReplaceList list;
     const QByteArray stored = value(keyText(SubstitutionList)).toByteArray();
-    QString reason;
-    if (error && !stored.isEmpty()) {
-        list.fromByteArray(stored, &reason);
+    MRVError reason;
+    list.fromByteArray(stored, &reason);
+    if (reason && !stored.isEmpty()) {
+        MRV::fail(error, reason.kind, tr("the list in %1: %2").arg(fileName(), reason.text));
     }
-    if (!reason.isEmpty()) {
-        *error = tr("the list in %1: %2").arg(fileName(), reason);
-    }
-    list.fromByteArray(value(keyText(SubstitutionList)).toByteArray());
     // The default list holds the ordinals already.
     if (list.isEmpty()) {
         return MRVAutoReplaceList::defaultReplacements();
@@ -205,27 +202,28 @@ MRVAutoReplaceList MRVOptions::autoReplaceList(QString *error) const
     return list;
 }
 
-MRVShortcutScheme MRVOptions::shortcutScheme(QString *error) const
+MRVShortcutScheme MRVOptions::shortcutScheme(MRVErrorSink error) const
 {
     // value() gives the default in place of what cannot be read.
     const QVariant stored = value(keyText(DefaultShortcutScheme));
     if (!stored.isValid()) {
         return MRVShortcutScheme::morvane();
     }
-    QString reason;
+    MRVError reason;
     const auto scheme = MRVShortcutScheme::fromByteArray(stored.toByteArray(), &reason);
-    if (error && !reason.isEmpty()) {
-        *error = tr("the shortcut scheme in %1: %2").arg(fileName(), reason);
+    if (reason) {
+        MRV::fail(error, reason.kind,
+                  tr("the shortcut scheme in %1: %2").arg(fileName(), reason.text));
     }
     return scheme;
 }
 
-bool MRVOptions::setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, QString *error)
+bool MRVOptions::setShortcuts(const ShortcutKeys &keys, Conflicts conflicts, MRVErrorSink error)
 {
-    QString damage;
+    MRVError damage;
     MRVShortcutScheme scheme = shortcutScheme(&damage);
-    if (!damage.isEmpty()) {
-        return MRV::fail(error, tr("%1; it can be reset").arg(damage));
+    if (damage) {
+        return MRV::fail(error, damage.kind, tr("%1; it can be reset").arg(damage.text));
     }
     scheme.mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
     for (const auto &[id, sequence] : keys) {

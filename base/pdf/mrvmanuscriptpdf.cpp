@@ -1,9 +1,11 @@
 #include "pdf/mrvmanuscriptpdf.h"
 
 #include "core/mtranslator.h"
+#include "document/mrvmarginnotes.h"
 #include "pdf/mrvpdfwriter.h"
 #include "pdf/mrvprinteddocument_p.h"
 #include "textformat/mrvtextblockformat.h"
+#include "util/mrvfailure.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -51,7 +53,7 @@ public:
 
     void addTitle(const QString &title) { nextTitle = title; }
     void add(const QTextDocument &document, const QString &fileName, const QString &heading);
-    bool print(QByteArray *bytes, QString *error);
+    bool print(QByteArray *bytes, const MRVProgress &progress, MRVErrorSink error);
     QStringList deadLinks() const;
     int countOf(int (MrvPrintedDocument::*tables)() const) const;
     QString missingCharacters() const;
@@ -59,13 +61,16 @@ public:
 private:
     struct Part
     {
-        const QTextDocument *original;
+        const QTextDocument *original; // has the pictures
+        std::unique_ptr<QTextDocument> withNotes; // from its margin; null where it has none
         QHash<QString, QSize> pictureSizes;
         std::vector<std::unique_ptr<MrvPrintedDocument>> pieces; // in order
         QString fileName;
         QString heading; // to be printed before it
         QString title; // of the part of the book that begins with it
         int firstPage = 1; // of its text
+
+        const QTextDocument &document() const { return withNotes ? *withNotes : *original; }
     };
     struct Entry // of the contents
     {
@@ -76,12 +81,13 @@ private:
     };
 
     int chapterLevel() const;
+    bool layOutAll(MRVErrorSink error);
     bool layOut(Part *part, int level, bool isFirst);
     void beginPage(int number);
     void printTitlePage();
     void printManuscriptTitle();
     void printContents();
-    void printPart(int index);
+    bool printPart(int index);
     void printHeader(int number, bool beginsChapter);
     void printPlaces(int part, int piece, const MrvPrintedPage &page, const QPointF &origin);
     void drawLine(const QString &text, const QFont &font, qreal y, Qt::Alignment alignment);
@@ -99,6 +105,7 @@ private:
     std::vector<Part> parts;
     QString nextTitle; // of a part that has no document yet
     MRVPdfWriter *writer = nullptr;
+    MRVProgressMeter *meter = nullptr;
     bool hasPage = false;
 };
 
@@ -107,6 +114,7 @@ void MRVPrintedBook::add(const QTextDocument &document, const QString &fileName,
 {
     Part part;
     part.original = &document;
+    part.withNotes = MRVMarginNotes::copyWithParagraphs(document, MRVMarginNote::Footnote);
     part.fileName =
         fileName.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(fileName).absoluteFilePath());
     if (MRVTextBlockFormat::headingLevel(document.begin().blockFormat()) == 0) {
@@ -121,7 +129,7 @@ int MRVPrintedBook::chapterLevel() const
 {
     QMap<int, int> counts;
     for (const Part &part : parts) {
-        for (QTextBlock block = part.original->begin(); block.isValid(); block = block.next()) {
+        for (QTextBlock block = part.document().begin(); block.isValid(); block = block.next()) {
             const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
             if (level > 0 && !block.text().trimmed().isEmpty()) {
                 ++counts[level];
@@ -140,19 +148,19 @@ int MRVPrintedBook::chapterLevel() const
 bool MRVPrintedBook::layOut(Part *part, int level, bool isFirst)
 {
     part->pictureSizes = MrvPrintedDocument::pictureSizesOf(*part->original);
-    const QVector<QTextBlock> starts = MrvPrintedDocument::piecesOf(*part->original, level);
+    const QVector<QTextBlock> starts = MrvPrintedDocument::piecesOf(part->document(), level);
     for (int i = 0; i < starts.size(); ++i) {
         const QTextBlock last =
-            i + 1 < starts.size() ? starts.at(i + 1).previous() : part->original->lastBlock();
-        auto piece =
-            std::make_unique<MrvPrintedDocument>(starts.at(i), last, look, part->pictureSizes);
+            i + 1 < starts.size() ? starts.at(i + 1).previous() : part->document().lastBlock();
+        auto piece = std::make_unique<MrvPrintedDocument>(starts.at(i), last, look, *part->original,
+                                                          part->pictureSizes);
         if (i == 0 && isFirst) {
             piece->removeHeading(options.title);
         }
         if (i == 0 && !part->heading.isEmpty()) {
             piece->insertHeading(part->heading, qMax(1, level));
         }
-        if (!piece->layOut(writer->painter()->device(), level)) {
+        if (!piece->layOut(writer->painter()->device(), level, meter)) {
             return false;
         }
         part->pieces.push_back(std::move(piece));
@@ -228,7 +236,7 @@ void MRVPrintedBook::printManuscriptTitle()
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
     int words = 0;
     for (const Part &part : parts) {
-        words += part.original->toPlainText().split(blanks, Qt::SkipEmptyParts).size();
+        words += part.document().toPlainText().split(blanks, Qt::SkipEmptyParts).size();
     }
     const int roundedTo = words >= 1000 ? 100 : words >= 100 ? 10 : 1;
     const QString count =
@@ -366,7 +374,7 @@ QString MRVPrintedBook::missingCharacters() const
 {
     QString all;
     for (const Part &part : parts) {
-        all += part.original->toPlainText();
+        all += part.document().toPlainText();
     }
     return MRVPdfWriter::missingCharacters(all, look.font);
 }
@@ -457,7 +465,8 @@ void MRVPrintedBook::printPlaces(int index, int piece, const MrvPrintedPage &pag
     }
 }
 
-void MRVPrintedBook::printPart(int index)
+// False when it was cancelled.
+bool MRVPrintedBook::printPart(int index)
 {
     const Part &part = parts[std::size_t(index)];
     int number = part.firstPage;
@@ -471,6 +480,9 @@ void MRVPrintedBook::printPart(int index)
     for (std::size_t i = 0; i < part.pieces.size(); ++i) {
         const MrvPrintedDocument &piece = *part.pieces[i];
         for (const MrvPrintedPage &page : piece.pages()) {
+            if (!meter->advance()) {
+                return false;
+            }
             beginPage(number);
             if (number == part.firstPage) {
                 writer->addTarget(targetName(index, QString()), 0);
@@ -485,23 +497,27 @@ void MRVPrintedBook::printPart(int index)
             ++number;
         }
     }
+    return true;
 }
 
-bool MRVPrintedBook::print(QByteArray *bytes, QString *error)
+// Lays out all documents, and numbers their pages.
+bool MRVPrintedBook::layOutAll(MRVErrorSink error)
 {
-    MRVPdfWriter pdf(
-        look.paper / Scale,
-        {options.title, options.authors.join(QLatin1String(", ")), options.language, options.date});
-    writer = &pdf;
+    qint64 length = 0;
+    for (const Part &part : parts) {
+        length += part.original->characterCount();
+    }
+    meter->begin(600, length);
     const int level = chapterLevel();
     int page = 1;
     for (Part &part : parts) {
         if (!layOut(&part, level, page == 1)) {
-            if (error) {
-                *error = MRVManuscriptPdf::tr("A paragraph, list or table is too long to be "
-                                              "printed.");
-            }
-            return false;
+            return MRV::fail(error,
+                             meter->isCancelled()
+                                 ? MRVProgressMeter::cancelled()
+                                 : MRVError{MRVErrorKind::TooLarge,
+                                            MRVManuscriptPdf::tr("A paragraph, list or table is "
+                                                                 "too long to be printed.")});
         }
         page += part.title.isEmpty() ? 0 : 1;
         part.firstPage = page;
@@ -509,11 +525,29 @@ bool MRVPrintedBook::print(QByteArray *bytes, QString *error)
             page += piece->pages().size();
         }
     }
+    meter->begin(900, page);
+    return true;
+}
+
+bool MRVPrintedBook::print(QByteArray *bytes, const MRVProgress &progress, MRVErrorSink error)
+{
+    MRVPdfWriter pdf(
+        look.paper / Scale,
+        {options.title, options.authors.join(QLatin1String(", ")), options.language, options.date});
+    MRVProgressMeter ownMeter(progress);
+    writer = &pdf;
+    meter = &ownMeter;
+    if (!layOutAll(error)) {
+        return false;
+    }
     printTitlePage();
     printContents();
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        printPart(int(i));
+        if (!printPart(int(i))) {
+            return MRV::fail(error, MRVProgressMeter::cancelled());
+        }
     }
+    meter->begin(1000, 1);
     return pdf.finish(bytes, error);
 }
 
@@ -555,7 +589,29 @@ int MRVManuscriptPdf::flattenedTables() const
     return m_book->countOf(&MrvPrintedDocument::flattenedTables);
 }
 
-bool MRVManuscriptPdf::toByteArray(QByteArray *bytes, QString *error)
+QStringList MRVManuscriptPdf::notes() const
 {
-    return m_book->print(bytes, error);
+    QStringList notes;
+    const QStringList dead = deadLinks();
+    if (!dead.isEmpty()) {
+        notes.append(tr("links that lead nowhere in the document, and are text there: %1 (%2)")
+                         .arg(QString::number(dead.size()), dead.constFirst()));
+    }
+    const QString missing = missingCharacters();
+    if (!missing.isEmpty()) {
+        notes.append(MRVPdfWriter::missingCharactersNote(missing));
+    }
+    if (wideTables() > 0) {
+        notes.append(tr("tables that are wider than the paper, and cut off: %1").arg(wideTables()));
+    }
+    if (flattenedTables() > 0) {
+        notes.append(tr("tables within four others, of which the rows are lines of text: %1")
+                         .arg(flattenedTables()));
+    }
+    return notes;
+}
+
+bool MRVManuscriptPdf::toByteArray(QByteArray *bytes, MRVErrorSink error)
+{
+    return m_book->print(bytes, m_progress, error);
 }

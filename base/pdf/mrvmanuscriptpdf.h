@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "pdf/mrvprintoptions.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -62,6 +64,9 @@ public:
     void addDocument(const QTextDocument &document, const QString &fileName = QString(),
                      const QString &heading = QString());
 
+    /** What follows toByteArray(); nothing at first. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
+
     /** Has the next document begin a part of the book, whose title stands on a page before it. */
     void addPart(const QString &title);
 
@@ -87,13 +92,20 @@ public:
     QString missingCharacters() const;
 
     /**
+     * What the file lacks of the documents, for people to know: a translated line each for links,
+     * characters and tables. Empty where it lacks nothing; known after toByteArray().
+     */
+    QStringList notes() const;
+
+    /**
      * Makes the file; only once.
      *
      * @param bytes receives it on success; untouched on failure.
      * @param error if given, receives one translated line on failure; untouched on success.
      */
-    bool toByteArray(QByteArray *bytes, QString *error = nullptr);
+    bool toByteArray(QByteArray *bytes, MRVErrorSink error = nullptr);
 
 private:
     std::unique_ptr<MRVPrintedBook> m_book;
+    MRVProgress m_progress;
 };

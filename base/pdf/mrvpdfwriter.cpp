@@ -1,5 +1,7 @@
 #include "pdf/mrvpdfwriter.h"
 
+#include "util/mrvfailure.h"
+
 #include <QBuffer>
 #include <QFontMetricsF>
 #include <QHash>
@@ -7,6 +9,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSet>
+#include <QStringList>
 #include <QUrl>
 #include <QVector>
 
@@ -362,7 +365,7 @@ void Completion::nameFonts(int pageCount)
 // Writes a file again, with what is changed in it.
 template<typename Change>
 bool rewrite(const QByteArray &written, qpdf_object_stream_e packing, Change change,
-             QByteArray *bytes, QString *error)
+             QByteArray *bytes, MRVErrorSink error)
 {
     qpdf_data file = qpdf_init();
     const std::unique_ptr<qpdf_data, void (*)(qpdf_data *)> owner(&file, qpdf_cleanup);
@@ -380,8 +383,8 @@ bool rewrite(const QByteArray &written, qpdf_object_stream_e packing, Change cha
         result = qpdf_write(file);
     }
     if ((result & QPDF_ERRORS) != 0 || qpdf_has_error(file)) {
-        *error = QString::fromLocal8Bit(qpdf_get_error_full_text(file, qpdf_get_error(file)));
-        return false;
+        return MRV::fail(
+            error, QString::fromLocal8Bit(qpdf_get_error_full_text(file, qpdf_get_error(file))));
     }
     *bytes = QByteArray(reinterpret_cast<const char *>(qpdf_get_buffer(file)),
                         int(qpdf_get_buffer_length(file)));
@@ -394,7 +397,7 @@ class MRVPdfWriter::Private
 {
 public:
     Private(const QSizeF &paper, const MRVPdfProperties &documentProperties);
-    bool complete(QByteArray *bytes, QString *error) const;
+    bool complete(QByteArray *bytes, MRVErrorSink error) const;
 
     MRVPdfProperties properties;
     qreal paperHeight;
@@ -421,7 +424,7 @@ MRVPdfWriter::Private::Private(const QSizeF &paper, const MRVPdfProperties &docu
     isValid = painter.begin(writer.get());
 }
 
-bool MRVPdfWriter::Private::complete(QByteArray *bytes, QString *error) const
+bool MRVPdfWriter::Private::complete(QByteArray *bytes, MRVErrorSink error) const
 {
     // The first file has its objects in the order in which they are reached from the root, and not
     // in that of a hash. In the second they are packed, which goes by the numbers of the first.
@@ -511,15 +514,26 @@ QString MRVPdfWriter::missingCharacters(const QString &text, const QFont &font)
     return missing;
 }
 
-bool MRVPdfWriter::finish(QByteArray *bytes, QString *error)
+QString MRVPdfWriter::missingCharactersNote(const QString &characters)
+{
+    constexpr int Shown = 10;
+    QStringList first;
+    const QVector<uint> all = characters.toUcs4();
+    for (const uint character : all.mid(0, Shown)) {
+        first.append(QString::fromUcs4(&character, 1));
+    }
+    return tr("characters that no installed font has, and that are empty boxes: %1 (%2%3)")
+        .arg(QString::number(all.size()), first.join(u' '),
+             QLatin1String(all.size() > Shown ? " ..." : ""));
+}
+
+bool MRVPdfWriter::finish(QByteArray *bytes, MRVErrorSink error)
 {
     d->isValid = d->painter.end() && d->isValid;
-    QString reason = tr("the pages cannot be painted");
+    MRVError reason{MRVErrorKind::Other, tr("the pages cannot be painted")};
     if (d->isValid && d->complete(bytes, &reason)) {
         return true;
     }
-    if (error) {
-        *error = tr("The PDF document cannot be made: %1").arg(reason);
-    }
-    return false;
+    return MRV::fail(error, reason.kind,
+                     tr("The PDF document cannot be made: %1").arg(reason.text));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -110,6 +111,8 @@ public:
      * an empty box is painted for them, and nobody finds them in the document.
      */
     static QString missingCharacters(const QString &text, const QFont &font);
+    /** A translated line for the user about @p characters, some, that no font has. */
+    static QString missingCharactersNote(const QString &characters);
 
     /**
      * Ends the document, on which nothing can be painted then.
@@ -118,7 +121,7 @@ public:
      * @param error if given, receives one translated line on failure; untouched on success.
      * @return false where it cannot be painted or put together, for example for lack of memory.
      */
-    bool finish(QByteArray *bytes, QString *error = nullptr);
+    bool finish(QByteArray *bytes, MRVErrorSink error = nullptr);
 
 private:
     class Private;

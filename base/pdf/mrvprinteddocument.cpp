@@ -9,6 +9,7 @@
 #include "text/mrvnestedlists.h"
 #include "textformat/mrvtextblockformat.h"
 #include "textformat/mrvtextformat.h"
+#include "util/mrvprogress.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontInfo>
@@ -33,12 +34,24 @@ constexpr qreal LastDot = 1 << 23; // of lengths that Qt lays out and paints
 // Qt adds borders to the full width; the margin has space for them.
 constexpr qreal OverhangOfTables = 10 * Scale;
 
+// Without the marks of notes.
+QString headingText(const QTextBlock &heading)
+{
+    QString text;
+    for (auto it = heading.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const int link = fragment.charFormat().intProperty(MRVTextFormat::NoteLinkProperty);
+        text += link == MRVTextFormat::NoteMark ? QString() : fragment.text();
+    }
+    return text.simplified();
+}
+
 } // namespace
 
 MrvPrintedDocument::MrvPrintedDocument(const QTextBlock &first, const QTextBlock &last,
-                                       const MrvPrintLook &look,
+                                       const MrvPrintLook &look, const QTextDocument &original,
                                        const QHash<QString, QSize> &pictureSizes)
-    : m_original(*first.document())
+    : m_original(original)
     , m_look(look)
     , m_copy(mrvDocumentCopy(first, last))
     , m_pictureSizes(pictureSizes)
@@ -260,7 +273,20 @@ void MrvPrintedDocument::drawObject(QPainter *painter, const QRectF &area, QText
     }
 }
 
-bool MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
+// What asks for the place of a paragraph has the document laid out up to there. All of it at once
+// could not be cancelled.
+bool MrvPrintedDocument::layOutSlowly(MRVProgressMeter *meter) const
+{
+    for (QTextBlock block = m_copy->begin(); block.isValid(); block = block.next()) {
+        m_copy->documentLayout()->blockBoundingRect(block);
+        if (!meter->advance(block.length())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel, MRVProgressMeter *meter)
 {
     if (hasEndlessPart()) {
         return false;
@@ -272,7 +298,9 @@ bool MrvPrintedDocument::layOut(QPaintDevice *device, int chapterLevel)
     layout->setPaintDevice(device);
     layout->registerHandler(QTextFormat::ImageObject, this);
     m_copy->setTextWidth(m_look.text.width());
-    layout->documentSize(); // lays out all of it
+    if (!layOutSlowly(meter)) {
+        return false;
+    }
     shrinkTables(&styler);
     if (layout->documentSize().height() >= LastDot) {
         return false;
@@ -497,7 +525,7 @@ void MrvPrintedDocument::collectPlaces(const QTextBlock &block)
     const QPointF origin = m_copy->documentLayout()->blockBoundingRect(block).topLeft();
     const int level = MRVTextBlockFormat::headingLevel(block.blockFormat());
     const QTextLayout &lines = *block.layout();
-    const QString text = level > 0 ? block.text().simplified() : QString();
+    const QString text = level > 0 ? headingText(block) : QString();
     if (!text.isEmpty()) {
         m_headings.append({origin.y() + lines.lineAt(0).y(), level, text});
     }

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class MRVProgressMeter;
 class MrvPrintStyler;
 class QPaintDevice;
 class QPainter;
@@ -58,9 +59,12 @@ class MrvPrintedDocument : public QObject, public QTextObjectInterface
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    /** A copy of the paragraphs from @p first to @p last, of which pictures are fetched later. */
+    /**
+     * A copy of the paragraphs from @p first to @p last. Pictures are fetched later from
+     * @p original, which has to live as long.
+     */
     MrvPrintedDocument(const QTextBlock &first, const QTextBlock &last, const MrvPrintLook &look,
-                       const QHash<QString, QSize> &pictureSizes);
+                       const QTextDocument &original, const QHash<QString, QSize> &pictureSizes);
     ~MrvPrintedDocument() override;
 
     /** Adds a heading before all else. */
@@ -79,9 +83,10 @@ public:
      * Computes all of the below, the lists in order of their y. @p chapterLevel is that of headings
      * that begin a page.
      *
-     * @return false where it is too long to be painted.
+     * @param meter counts the characters.
+     * @return false where it is too long to be painted, or was cancelled.
      */
-    bool layOut(QPaintDevice *device, int chapterLevel);
+    bool layOut(QPaintDevice *device, int chapterLevel, MRVProgressMeter *meter);
 
     const QVector<MrvPrintedPage> &pages() const { return m_pages; }
     const QVector<MrvPrintedHeading> &headings() const { return m_headings; }
@@ -135,6 +140,7 @@ private:
     bool hasEndlessPart() const;
     void setWrapMode(QTextOption::WrapMode mode);
     QVector<QTextTable *> wideTablesNow() const;
+    bool layOutSlowly(MRVProgressMeter *meter) const;
     void shrinkTables(MrvPrintStyler *styler);
     void collect(QTextFrame *frame, int chapterLevel);
     void collectBlock(const QTextBlock &block, int chapterLevel);

@@ -3,6 +3,7 @@
 #include "pdf/mrvpdfwriter.h"
 #include "screenplay/mrvscriptcast.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvfailure.h"
 #include "util/mrvfixeddate.h"
 
 #include <QMap>
@@ -48,7 +49,7 @@ public:
     // False, with nothing to print, where nobody of the name speaks.
     bool select();
     bool isEmpty() const { return m_pages.isEmpty(); }
-    bool print(const MRVPdfProperties &properties, QByteArray *bytes, QString *error);
+    bool print(const MRVPdfProperties &properties, QByteArray *bytes, MRVErrorSink error);
     QString missingCharacters() const;
 
 private:
@@ -242,12 +243,17 @@ QString Printer::missingCharacters() const
     return missing;
 }
 
-bool Printer::print(const MRVPdfProperties &properties, QByteArray *bytes, QString *error)
+bool Printer::print(const MRVPdfProperties &properties, QByteArray *bytes, MRVErrorSink error)
 {
     m_hasActs = std::any_of(m_script.elements.cbegin(), m_script.elements.cend(), isAct);
     MRVPdfWriter writer(m_pagination.paperSize(), properties);
     m_writer = &writer;
+    MRVProgressMeter meter(m_options.progress);
+    meter.begin(900, m_pages.size());
     for (int i = 0; i < m_pages.size(); ++i) {
+        if (!meter.advance()) {
+            return MRV::fail(error, MRVProgressMeter::cancelled());
+        }
         if (i > 0) {
             writer.newPage();
         }
@@ -259,7 +265,7 @@ bool Printer::print(const MRVPdfProperties &properties, QByteArray *bytes, QStri
 } // namespace
 
 QByteArray MRVScriptPdf::toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
-                                     const Options &options, QString *error, QString *missing)
+                                     const Options &options, MRVErrorSink error, QString *missing)
 {
     MRVPdfProperties properties;
     if (!MRVFixedDate::fromEnvironment(&properties.date, error)) {
@@ -272,19 +278,17 @@ QByteArray MRVScriptPdf::toByteArray(const MRVFountainScript &script, const MRVS
     }
     properties.language = options.language;
     Printer printer(script, mode, options);
-    QString reason;
     if (!printer.select()) {
-        reason = tr("Nobody called \"%1\" speaks.").arg(options.character);
-    } else if (printer.isEmpty()) {
-        reason = tr("The script has no such pages, or nothing to print.");
-    }
-    QByteArray bytes;
-    if (!reason.isEmpty()) {
-        if (error) {
-            *error = reason;
-        }
+        MRV::fail(error, MRVErrorKind::NotFound,
+                  tr("Nobody called \"%1\" speaks.").arg(options.character));
         return {};
     }
+    if (printer.isEmpty()) {
+        MRV::fail(error, MRVErrorKind::NotFound,
+                  tr("The script has no such pages, or nothing to print."));
+        return {};
+    }
+    QByteArray bytes;
     if (missing) {
         *missing = printer.missingCharacters();
     }

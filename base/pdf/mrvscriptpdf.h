@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "screenplay/mrvscriptpagination.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -40,6 +42,7 @@ public:
         QString character;
         QString watermark; ///< a text across each page, behind the script; empty for none
         QString language; ///< a BCP 47 tag; empty if unknown
+        MRVProgress progress; ///< follows the printing; empty for nothing
     };
 
     MRVScriptPdf() = delete;
@@ -55,9 +58,9 @@ public:
      * @param error   if given, receives one translated line on failure; untouched on success.
      * @param missing if given, receives MRVPdfWriter::missingCharacters() of the script.
      * @return empty on failure: where nothing is left to print, nobody of that name speaks, or
-     *         SOURCE_DATE_EPOCH is set to what is no date.
+     *         SOURCE_DATE_EPOCH is set to what is no date; and when it was cancelled.
      */
     static QByteArray toByteArray(const MRVFountainScript &script, const MRVScriptMode &mode,
-                                  const Options &options, QString *error = nullptr,
+                                  const Options &options, MRVErrorSink error = nullptr,
                                   QString *missing = nullptr);
 };

@@ -180,7 +180,7 @@ int partsOf(const QString &text)
 } // namespace
 
 bool MRVTextPresetJson::setFromText(MRVTextPreset *preset, const QString &property,
-                                    const QString &text, QString *error)
+                                    const QString &text, MRVErrorSink error)
 {
     if (property == QLatin1String("applies")) {
         const int parts = partsOf(text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -47,5 +48,5 @@ public:
      * of it.
      */
     static bool setFromText(MRVTextPreset *preset, const QString &property, const QString &text,
-                            QString *error = nullptr);
+                            MRVErrorSink error = nullptr);
 };

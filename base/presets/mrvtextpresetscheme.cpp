@@ -99,7 +99,7 @@ QByteArray MRVTextPresetScheme::toByteArray(const MRVTextPresetScheme &scheme)
     return MCoreType::toByteArray(scheme);
 }
 
-MRVTextPresetScheme MRVTextPresetScheme::fromByteArray(const QByteArray &bytes, QString *error)
+MRVTextPresetScheme MRVTextPresetScheme::fromByteArray(const QByteArray &bytes, MRVErrorSink error)
 {
     MRVTextPresetScheme scheme;
     if (bytes.isEmpty()) {
@@ -109,8 +109,9 @@ MRVTextPresetScheme MRVTextPresetScheme::fromByteArray(const QByteArray &bytes, 
     QDataStream stream(bytes);
     stream.setVersion(MCoreType::StreamVersion);
     stream >> scheme;
-    if (stream.status() != QDataStream::Ok && error) {
-        *error = tr("The text presets are damaged, or were stored by another version");
+    if (stream.status() != QDataStream::Ok) {
+        MRV::fail(error, MRVErrorKind::Damaged,
+                  tr("The text presets are damaged, or were stored by another version"));
     }
     return scheme;
 }
@@ -131,21 +132,22 @@ void MRVTextPresetScheme::merge(const MRVTextPresetScheme &other)
     }
 }
 
-MRVTextPresetScheme MRVTextPresetScheme::load(const QString &path, QString *error)
+MRVTextPresetScheme MRVTextPresetScheme::load(const QString &path, MRVErrorSink error)
 {
-    QString unreadable;
-    QString damage;
+    MRVError unreadable;
+    MRVError damage;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
     const MRVTextPresetScheme scheme = fromByteArray(bytes, &damage);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         MRV::fail(error, unreadable);
-    } else if (bytes.isEmpty() || !damage.isEmpty()) {
-        MRV::fail(error, tr("%1 is not a preset file, or is damaged").arg(path));
+    } else if (bytes.isEmpty() || damage) {
+        MRV::fail(error, MRVErrorKind::Damaged,
+                  tr("%1 is not a preset file, or is damaged").arg(path));
     }
     return scheme;
 }
 
-bool MRVTextPresetScheme::save(const QString &path, QString *error) const
+bool MRVTextPresetScheme::save(const QString &path, MRVErrorSink error) const
 {
     return MRVCoreUtil::WriteBinaryFile(toByteArray(*this), path, error);
 }

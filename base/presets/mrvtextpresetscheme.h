@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "presets/mrvtextpreset.h"
 #include "util/mrvbase_export.h"
 
@@ -76,7 +77,7 @@ public:
      *              version; untouched on success, which empty bytes are. The presets that stand
      *              before the damage are returned.
      */
-    static MRVTextPresetScheme fromByteArray(const QByteArray &bytes, QString *error = nullptr);
+    static MRVTextPresetScheme fromByteArray(const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * The scheme in the file @p path.
@@ -85,14 +86,14 @@ public:
      *              or is empty or damaged; untouched on success.
      * @return what could be read.
      */
-    static MRVTextPresetScheme load(const QString &path, QString *error = nullptr);
+    static MRVTextPresetScheme load(const QString &path, MRVErrorSink error = nullptr);
     /**
      * Writes the stored form to the file @p path, whole or not at all.
      *
      * @param error if given, receives a translated line that names the file on failure; untouched
      *              on success.
      */
-    bool save(const QString &path, QString *error = nullptr) const;
+    bool save(const QString &path, MRVErrorSink error = nullptr) const;
 
     /**
      * The six presets that a new user finds: "Block Quote", "Body", "Essay Block Quote

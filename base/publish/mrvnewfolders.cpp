@@ -12,7 +12,7 @@ MRVNewFolders::~MRVNewFolders()
     }
 }
 
-bool MRVNewFolders::makeFor(const QString &file, QString *error)
+bool MRVNewFolders::makeFor(const QString &file, MRVErrorSink error)
 {
     const auto isThere = [](const QString &path) {
         return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
@@ -22,10 +22,15 @@ bool MRVNewFolders::makeFor(const QString &file, QString *error)
     for (QString path = folder; !isThere(path); path = QFileInfo(path).path()) {
         missing.prepend(path);
     }
+    int reason = ENOTDIR;
     for (const QString &path : qAsConst(missing)) {
         if (QDir().mkdir(path)) {
             m_made.append(path);
+        } else {
+            reason = errno;
         }
     }
-    return QFileInfo(folder).isDir() || MRV::fail(error, folder, tr("the folder cannot be made"));
+    return QFileInfo(folder).isDir()
+        || MRV::fail(error, folder,
+                     {MRVError::ofSystem(reason).kind, tr("the folder cannot be made")});
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -16,7 +18,7 @@ public:
     MRVNewFolders &operator=(const MRVNewFolders &) = delete;
 
     /** Makes the folder of @p file with those above it. @p error names the folder. */
-    bool makeFor(const QString &file, QString *error);
+    bool makeFor(const QString &file, MRVErrorSink error);
     void keep() { m_made.clear(); }
 
 private:

@@ -30,13 +30,14 @@ QString MRVOutputFiles::fileFor(const QString &input, const QString &output,
         : output;
 }
 
-bool MRVOutputFiles::areDistinct(const QStringList &outputs, QString *error)
+bool MRVOutputFiles::areDistinct(const QStringList &outputs, MRVErrorSink error)
 {
     QSet<QString> known;
     for (const QString &output : outputs) {
         const QString name = MRV::fileIdentity(output);
         if (output != StandardStream && known.contains(name)) {
-            return MRV::fail(error, output, tr("two inputs would be written to this file"));
+            return MRV::fail(error, output,
+                             {MRVErrorKind::Other, tr("two inputs would be written to this file")});
         }
         known.insert(name);
     }
@@ -44,7 +45,7 @@ bool MRVOutputFiles::areDistinct(const QStringList &outputs, QString *error)
 }
 
 bool MRVOutputFiles::spareInputs(const QStringList &outputs, const QStringList &inputs,
-                                 QString *error)
+                                 MRVErrorSink error)
 {
     QSet<QString> spared;
     for (const QString &input : inputs) {
@@ -54,7 +55,8 @@ bool MRVOutputFiles::spareInputs(const QStringList &outputs, const QStringList &
     }
     for (const QString &output : outputs) {
         if (output != StandardStream && spared.contains(MRV::fileIdentity(output))) {
-            return MRV::fail(error, output, tr("the output would replace an input"));
+            return MRV::fail(error, output,
+                             {MRVErrorKind::Other, tr("the output would replace an input")});
         }
     }
     return true;

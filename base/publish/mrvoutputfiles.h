@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -40,12 +41,12 @@ public:
      *
      * @param error if given, receives one translated line that names a file where it is not.
      */
-    static bool areDistinct(const QStringList &outputs, QString *error = nullptr);
+    static bool areDistinct(const QStringList &outputs, MRVErrorSink error = nullptr);
     /**
      * Whether none of @p outputs is one of @p inputs, of which empty ones are none.
      *
      * @param error if given, receives one translated line that names the output where one is.
      */
     static bool spareInputs(const QStringList &outputs, const QStringList &inputs,
-                            QString *error = nullptr);
+                            MRVErrorSink error = nullptr);
 };

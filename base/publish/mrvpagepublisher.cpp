@@ -58,12 +58,12 @@ QString asSource(QString path)
 // Changes the values of an attribute in a page, as they stand there.
 template<typename Changed>
 bool replaceValues(const QString &page, const QString &attribute, const Changed &changed,
-                   QString *error)
+                   MRVErrorSink error)
 {
     const QRegularExpression source(QStringLiteral(" %1=\"([^\"]*)\"").arg(attribute));
-    QString unreadable;
+    MRVError unreadable;
     const QString html = MRVCoreUtil::ReadUnicodeTextFile(page, &unreadable);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         return MRV::fail(error, unreadable);
     }
     QString result;
@@ -89,7 +89,7 @@ QStringList pagesOf(const QString &sheet)
 
 // The names in a folder, in order; none where it does not exist. To QDir, a folder that cannot be
 // read is an empty one.
-bool listFiles(const QString &folder, QStringList *names, QString *error)
+bool listFiles(const QString &folder, QStringList *names, MRVErrorSink error)
 {
     std::error_code code;
     std::filesystem::directory_iterator file(QFile::encodeName(folder).constData(), code);
@@ -98,7 +98,7 @@ bool listFiles(const QString &folder, QStringList *names, QString *error)
     }
     names->sort();
     return !code || code == std::errc::no_such_file_or_directory
-        || MRV::fail(error, folder, qt_error_string(code.value()));
+        || MRV::fail(error, folder, MRVError::ofSystem(code.value()));
 }
 
 } // namespace
@@ -121,10 +121,11 @@ QString MRVPagePublisher::pageText(const MRVPageOptions &options, QTextDocument 
 }
 
 bool MRVPagePublisher::add(QTextDocument *document, const QString &language, const QString &file,
-                           QString *error)
+                           MRVErrorSink error)
 {
     if (!document) {
-        return MRV::fail(error, file, tr("there is no document to be written"));
+        return MRV::fail(error, file,
+                         {MRVErrorKind::Other, tr("there is no document to be written")});
     }
     const QString stage = m_files.newFolder(file, error);
     if (stage.isEmpty()) {
@@ -136,23 +137,25 @@ bool MRVPagePublisher::add(QTextDocument *document, const QString &language, con
         folder.path = target.path();
     }
     const QString page = QDir(stage).filePath(target.fileName());
-    QString reason;
+    MRVError reason;
     if (!writePage(document, language, page, &folder, &reason)
         || !addPictures(page, folder, &reason) || !checkPage(*document, page, file, &reason)) {
-        return MRV::fail(error, reason.replace(stage, target.path())); // as the caller knows it
+        // As the caller knows it.
+        return MRV::fail(error, reason.kind, reason.text.replace(stage, target.path()));
     }
     m_pages.append({page, file});
     return true;
 }
 
 bool MRVPagePublisher::writePage(QTextDocument *document, const QString &language,
-                                 const QString &page, Folder *folder, QString *error) const
+                                 const QString &page, Folder *folder, MRVErrorSink error) const
 {
     const TitleChange title(document, m_options.title);
     MRVTextXhtmlExporter exporter(document);
     exporter.setLanguage(m_options.language.isEmpty() ? language : m_options.language);
     exporter.setStyles(folder->styles);
     exporter.setKeepsPictures(true);
+    exporter.setProgress(m_progress);
     if (!exporter.toFile(m_options.type, page, m_options.images, QString(), error)) {
         return false;
     }
@@ -166,7 +169,7 @@ bool MRVPagePublisher::writePage(QTextDocument *document, const QString &languag
 
 // Adds the pictures that were written with a page. Where one gets another name, the page is
 // changed to match.
-bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QString *error)
+bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, MRVErrorSink error)
 {
     const QDir stage(QFileInfo(page).path());
     const QDir images(MRVTextXhtmlExporter::calcImageDir(page));
@@ -190,11 +193,11 @@ bool MRVPagePublisher::addPictures(const QString &page, const Folder &folder, QS
 
 // The page is read as it lies on the disk.
 bool MRVPagePublisher::checkPage(const QTextDocument &document, const QString &page,
-                                 const QString &file, QString *error)
+                                 const QString &file, MRVErrorSink error)
 {
-    QString unreadable;
+    MRVError unreadable;
     const QString html = MRVCoreUtil::ReadUnicodeTextFile(page, &unreadable);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         return MRV::fail(error, unreadable);
     }
     MRVExportCheck check;
@@ -229,7 +232,8 @@ QString MRVPagePublisher::pictureTarget(const QString &staged, const QString &wa
     return place.path;
 }
 
-bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error)
+bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folder,
+                                       MRVErrorSink error)
 {
     if (!QFileInfo(sheet).isFile()) {
         return true; // publish() refuses what cannot be replaced
@@ -238,17 +242,20 @@ bool MRVPagePublisher::mayReplaceSheet(const QString &sheet, const Folder &folde
     for (const QString &page : served) {
         if (!folder.pages.contains(page) && QFileInfo::exists(QDir(folder.path).filePath(page))) {
             return MRV::fail(error, sheet,
-                             tr("the style sheet belongs to %1; choose another folder, or export "
-                                "these pages together")
-                                 .arg(page));
+                             {MRVErrorKind::InUse,
+                              tr("the style sheet belongs to %1; choose another folder, or export "
+                                 "these pages together")
+                                  .arg(page)});
         }
     }
     return !served.isEmpty()
-        || MRV::fail(error, sheet,
-                     tr("this style sheet was not written for these pages; choose another folder"));
+        || MRV::fail(
+            error, sheet,
+            {MRVErrorKind::InUse,
+             tr("this style sheet was not written for these pages; choose another folder")});
 }
 
-bool MRVPagePublisher::addStyleSheet(const Folder &folder, QString *error)
+bool MRVPagePublisher::addStyleSheet(const Folder &folder, MRVErrorSink error)
 {
     const QString sheet = QDir(folder.path).filePath(SheetName);
     const QString stage =
@@ -261,9 +268,9 @@ bool MRVPagePublisher::addStyleSheet(const Folder &folder, QString *error)
         + MRVTextXhtmlExporter::styleSheetText(folder.styles);
     m_files.add(staged, sheet);
     m_written.append(sheet);
-    QString reason;
+    MRVError reason;
     return MRVCoreUtil::WriteUnicodeTextFile(text, staged, &reason)
-        || MRV::fail(error, reason.replace(staged, sheet));
+        || MRV::fail(error, reason.kind, reason.text.replace(staged, sheet));
 }
 
 void MRVPagePublisher::setSource(const QString &file, const QString &source)
@@ -292,7 +299,7 @@ QString MRVPagePublisher::newLink(const QString &link, const QString &page) cons
         .toHtmlEscaped();
 }
 
-bool MRVPagePublisher::publish(QStringList *written, QString *error)
+bool MRVPagePublisher::publish(QStringList *written, MRVErrorSink error)
 {
     for (const auto &page : qAsConst(m_pages)) {
         const auto changed = [&](const QString &link) { return newLink(link, page.second); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "document/mrvnumberedfiles.h"
 #include "publish/mrvstagedfiles.h"
 #include "util/mrvbase_export.h"
@@ -63,6 +64,9 @@ public:
     static QString pageText(const MRVPageOptions &options, QTextDocument *document,
                             const QString &language = QString());
 
+    /** What follows each add(), from 0; nothing at first. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
+
     /**
      * Prepares a page. Before publish(), only a hidden folder on the disk shows it.
      *
@@ -77,7 +81,7 @@ public:
      *         written. The object is of no more use then.
      */
     bool add(QTextDocument *document, const QString &language, const QString &file,
-             QString *error = nullptr);
+             MRVErrorSink error = nullptr);
 
     /**
      * What the pages lack of their documents, a translated line each that names the page; empty
@@ -103,7 +107,7 @@ public:
      * @param error   if given, receives one translated line that names a file on failure;
      *                untouched on success.
      */
-    bool publish(QStringList *written = nullptr, QString *error = nullptr);
+    bool publish(QStringList *written = nullptr, MRVErrorSink error = nullptr);
 
 private:
     struct Folder // that pages are written to
@@ -114,16 +118,17 @@ private:
     };
 
     bool writePage(QTextDocument *document, const QString &language, const QString &page,
-                   Folder *folder, QString *error) const;
-    bool addPictures(const QString &page, const Folder &folder, QString *error);
+                   Folder *folder, MRVErrorSink error) const;
+    bool addPictures(const QString &page, const Folder &folder, MRVErrorSink error);
     bool checkPage(const QTextDocument &document, const QString &page, const QString &file,
-                   QString *error);
+                   MRVErrorSink error);
     QString pictureTarget(const QString &staged, const QString &wanted);
-    static bool mayReplaceSheet(const QString &sheet, const Folder &folder, QString *error);
-    bool addStyleSheet(const Folder &folder, QString *error);
+    static bool mayReplaceSheet(const QString &sheet, const Folder &folder, MRVErrorSink error);
+    bool addStyleSheet(const Folder &folder, MRVErrorSink error);
     QString newLink(const QString &link, const QString &page) const;
 
     const MRVPageOptions m_options;
+    MRVProgress m_progress;
     MRVStagedFiles m_files;
     std::map<QString, Folder> m_folders; // by the real path, however it is written
     QHash<QString, QString> m_pictures; // what will lie, or lies, at a target

@@ -16,19 +16,18 @@
 
 namespace {
 
-bool copyFile(const QString &from, const QString &to, QString *error)
+bool copyFile(const QString &from, const QString &to, MRVErrorSink error)
 {
-    QString reason;
-    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(from, &reason);
-    if (!reason.isEmpty()) {
-        *error = reason;
-        return false;
+    MRVError unreadable;
+    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(from, &unreadable);
+    if (unreadable) {
+        return MRV::fail(error, unreadable);
     }
     return MRVCoreUtil::WriteBinaryFile(bytes, to, error);
 }
 
 // By name alone where that does; the checked writer follows links, and crosses to other disks.
-bool putInPlace(const QString &from, const QString &to, QString *error)
+bool putInPlace(const QString &from, const QString &to, MRVErrorSink error)
 {
     const bool link = QFileInfo(to).isSymLink();
     return (!link
@@ -38,7 +37,7 @@ bool putInPlace(const QString &from, const QString &to, QString *error)
 }
 
 template<typename Content>
-bool writeHeld(const Content &content, const QString &file, QString *error)
+bool writeHeld(const Content &content, const QString &file, MRVErrorSink error)
 {
     const MRVHeldSignals held; // a temporary file would remain
     MRVNewFolders folders;
@@ -58,7 +57,7 @@ MRVStagedFiles::MRVStagedFiles()
 
 MRVStagedFiles::~MRVStagedFiles() = default;
 
-QString MRVStagedFiles::newFolder(const QString &target, QString *error)
+QString MRVStagedFiles::newFolder(const QString &target, MRVErrorSink error)
 {
     if (!m_newFolders->makeFor(target, error)) {
         return QString();
@@ -70,10 +69,8 @@ QString MRVStagedFiles::newFolder(const QString &target, QString *error)
     }
     const QString folder = stage->path() + u'/' + QString::number(++m_folders);
     if (stage->path().isEmpty() || !QDir().mkdir(folder)) {
-        MRV::fail(error, place,
-                  stage->errorString().isEmpty()
-                      ? tr("no file can be made here")
-                      : tr("no file can be made here (%1)").arg(stage->errorString()));
+        const MRVError cause = stage->error() ? stage->error() : MRVError::ofSystem(errno);
+        MRV::fail(error, place, {cause.kind, tr("no file can be made here (%1)").arg(cause.text)});
         return QString();
     }
     return folder;
@@ -84,10 +81,10 @@ void MRVStagedFiles::add(const QString &staged, const QString &target)
     m_files.push_back({staged, target, QString()});
 }
 
-bool MRVStagedFiles::publish(QString *error)
+bool MRVStagedFiles::publish(MRVErrorSink error)
 {
     const MRVHeldSignals held;
-    QString reason;
+    MRVError reason;
     for (const File &file : m_files) {
         if (!m_newFolders->makeFor(file.target, error) || !isWritableTarget(file.target, error)) {
             return false;
@@ -105,21 +102,23 @@ bool MRVStagedFiles::publish(QString *error)
     return true;
 }
 
-bool MRVStagedFiles::isWritableTarget(const QString &target, QString *error)
+bool MRVStagedFiles::isWritableTarget(const QString &target, MRVErrorSink error)
 {
     const QFileInfo info(target);
     if (info.isDir()) {
-        return MRV::fail(error, target, tr("a folder is in the file's place"));
+        return MRV::fail(error, target,
+                         {MRVErrorKind::Other, tr("a folder is in the file's place")});
     }
     if (info.exists() && !info.isFile()) {
-        return MRV::fail(error, target, tr("it is not a regular file"));
+        return MRV::fail(error, target, {MRVErrorKind::Other, tr("it is not a regular file")});
     }
     return !info.exists() || info.isWritable()
-        || MRV::fail(error, target, tr("the file is write-protected"));
+        || MRV::fail(error, target,
+                     {MRVErrorKind::NoPermission, tr("the file is write-protected")});
 }
 
 // A second name where the disk has such: the file itself must never be missing from its place.
-bool MRVStagedFiles::keepOld(File *file, QString *error)
+bool MRVStagedFiles::keepOld(File *file, MRVErrorSink error)
 {
     const QFileInfo target(file->target);
     if (!target.exists()) {
@@ -137,31 +136,30 @@ bool MRVStagedFiles::keepOld(File *file, QString *error)
     return true;
 }
 
-void MRVStagedFiles::rollBack(Files::iterator end, QString *error)
+void MRVStagedFiles::rollBack(Files::iterator end, MRVError *error)
 {
     for (auto file = end; file != m_files.begin();) {
         --file;
-        QString reason;
         if (file->old.isEmpty()) {
             QFile::remove(QFileInfo(file->target).canonicalFilePath());
-        } else if (!putInPlace(file->old, file->target, &reason)) {
+        } else if (!putInPlace(file->old, file->target, nullptr)) {
             for (const auto &stage : m_stages) {
                 if (file->old.startsWith(stage.second->path())) {
                     stage.second->keep();
                 }
             }
-            *error = tr("%1; the old file is kept as %2").arg(*error, file->old);
+            error->text = tr("%1; the old file is kept as %2").arg(error->text, file->old);
         }
     }
 }
 
-bool MRVStagedFiles::write(const QByteArray &bytes, const QString &file, QString *error)
+bool MRVStagedFiles::write(const QByteArray &bytes, const QString &file, MRVErrorSink error)
 {
     return writeHeld(bytes, file, error);
 }
 
 bool MRVStagedFiles::write(const MRVFileWriter::Content &content, const QString &file,
-                           QString *error)
+                           MRVErrorSink error)
 {
     return writeHeld(content, file, error);
 }

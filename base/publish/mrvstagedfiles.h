@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include "core/mrvfilewriter.h"
@@ -51,7 +52,7 @@ public:
      *               untouched on success.
      * @return an absolute path; empty on failure.
      */
-    QString newFolder(const QString &target, QString *error = nullptr);
+    QString newFolder(const QString &target, MRVErrorSink error = nullptr);
     /**
      * Plans to move @p staged, a file below a folder of newFolder(), to @p target. Neither path is
      * looked at before publish().
@@ -72,7 +73,7 @@ public:
      * @return false, with all files as they were, when a target is a folder, a device or
      *         write-protected, or when a file cannot be moved.
      */
-    bool publish(QString *error = nullptr);
+    bool publish(MRVErrorSink error = nullptr);
 
     /**
      * Replaces @p file by @p bytes through the checked writer, in folders that are made where they
@@ -81,10 +82,10 @@ public:
      * @param error if given, receives one translated line that names a file or folder on failure;
      *              untouched on success.
      */
-    static bool write(const QByteArray &bytes, const QString &file, QString *error = nullptr);
+    static bool write(const QByteArray &bytes, const QString &file, MRVErrorSink error = nullptr);
     /** As above, with a @p content that need not be in memory as a whole. */
     static bool write(const MRVFileWriter::Content &content, const QString &file,
-                      QString *error = nullptr);
+                      MRVErrorSink error = nullptr);
 
 private:
     struct File
@@ -95,9 +96,9 @@ private:
     };
     using Files = std::vector<File>;
 
-    static bool isWritableTarget(const QString &target, QString *error);
-    static bool keepOld(File *file, QString *error);
-    void rollBack(Files::iterator end, QString *error);
+    static bool isWritableTarget(const QString &target, MRVErrorSink error);
+    static bool keepOld(File *file, MRVErrorSink error);
+    void rollBack(Files::iterator end, MRVError *error);
 
     std::unique_ptr<MRVNewFolders> m_newFolders; // goes last, when the stages in them are gone
     std::map<QString, std::unique_ptr<MRVTemporaryFolder>> m_stages; // by the folder they stand in

@@ -349,7 +349,7 @@ QByteArray MRVFinalDraft::toXml(const MRVFountainScript &script)
     return bytes;
 }
 
-bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error,
+bool MRVFinalDraft::fromXml(const QByteArray &xml, MRVFountainScript *script, MRVErrorSink error,
                             QStringList *losses)
 {
     QString text;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "screenplay/mrvfountain.h"
 #include "util/mrvbase_export.h"
 
@@ -60,8 +61,8 @@ public:
      * element than "FinalDraft", elements within elements beyond 256 levels, or a tag with more
      * than 64 attributes, or where its document type declares entities or attributes.
      */
-    static bool fromXml(const QByteArray &xml, MRVFountainScript *script, QString *error = nullptr,
-                        QStringList *losses = nullptr);
+    static bool fromXml(const QByteArray &xml, MRVFountainScript *script,
+                        MRVErrorSink error = nullptr, QStringList *losses = nullptr);
 
     /**
      * The document @p xml with @p script in place of the one that it holds.
@@ -81,5 +82,5 @@ public:
      *         the document, which cannot be changed in place.
      */
     static bool revise(const QByteArray &xml, const MRVFountainScript &script, QByteArray *revised,
-                       QString *error = nullptr);
+                       MRVErrorSink error = nullptr);
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "screenplay/mrvfountain.h"
 
 #include <QByteArray>
@@ -96,7 +97,7 @@ struct MrvFinalDraftParts
  * @param error may be null: "line 3: reason".
  */
 bool mrvReadFinalDraft(const QByteArray &xml, QString *text, MrvFinalDraftParts *parts,
-                       QString *error);
+                       MRVErrorSink error);
 
 /** A text that does not stand in the document. */
 MrvFinalDraftPiece mrvAddedPiece(const QString &text);

@@ -103,7 +103,7 @@ public:
     {
     }
 
-    bool read(QString *error);
+    bool read(MRVErrorSink error);
 
 private:
     /** What is open: one state for the script, and one for the omitted scene in it. */
@@ -689,7 +689,7 @@ void FinalDraftReader::settleCapitals(std::vector<Paragraph> *paragraphs) const
     }
 }
 
-bool FinalDraftReader::read(QString *error)
+bool FinalDraftReader::read(MRVErrorSink error)
 {
     while (!m_tokens.atEnd()) {
         switch (m_tokens.next()) {
@@ -724,7 +724,7 @@ bool FinalDraftReader::read(QString *error)
 } // namespace
 
 bool mrvReadFinalDraft(const QByteArray &xml, QString *text, MrvFinalDraftParts *parts,
-                       QString *error)
+                       MRVErrorSink error)
 {
     QString decoded;
     MrvFinalDraftParts read;

@@ -387,14 +387,15 @@ int firstOfOtherForm(const QVector<Element> &before, const QVector<Element> &aft
 
 // Collects all changes, or tells of the first one that has no place.
 bool change(Revision *revision, const Source &source, const MRVFountainScript &wanted,
-            const QString &xml, QString *error)
+            const QString &xml, MRVErrorSink error)
 {
     const MRVFountainScript &old = source.script;
     const int other = firstOfOtherForm(old.elements, wanted.elements);
     if (other < old.elements.size() || other < wanted.elements.size()) {
         const QString text = other < wanted.elements.size() ? wanted.elements.at(other).text()
                                                             : old.elements.at(other).text();
-        return MRV::fail(error, faultAt(xml, source.elements.value(other), text));
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         faultAt(xml, source.elements.value(other), text));
     }
     for (int i = 0; i < wanted.elements.size(); ++i) {
         const Element &before = old.elements.at(i);
@@ -404,14 +405,15 @@ bool change(Revision *revision, const Source &source, const MRVFountainScript &w
              && !revision->changeText(*paragraph, before.runs, after.runs))
             || (before.sceneNumber != after.sceneNumber
                 && !revision->changeNumber(*paragraph, after.sceneNumber))) {
-            return MRV::fail(error, faultAt(xml, paragraph, after.text()));
+            return MRV::fail(error, MRVErrorKind::Unsupported,
+                             faultAt(xml, paragraph, after.text()));
         }
     }
     return true;
 }
 
 bool changeTitles(Revision *revision, const Source &source, const MRVFountainScript &wanted,
-                  const QString &xml, QString *error)
+                  const QString &xml, MRVErrorSink error)
 {
     const QVector<MRVFountainTitle> &old = source.script.titles;
     for (int i = 0; i < qMax(old.size(), wanted.titles.size()); ++i) {
@@ -423,7 +425,8 @@ bool changeTitles(Revision *revision, const Source &source, const MRVFountainScr
         }
         if (before.key != after.key || old.size() != source.titles.size() || !paragraph
             || !revision->changeText(*paragraph, before.value, after.value)) {
-            return MRV::fail(error, faultAt(xml, paragraph, after.text()));
+            return MRV::fail(error, MRVErrorKind::Unsupported,
+                             faultAt(xml, paragraph, after.text()));
         }
     }
     return true;
@@ -431,7 +434,7 @@ bool changeTitles(Revision *revision, const Source &source, const MRVFountainScr
 
 // Whether the bytes are read as the script; if not, what is read otherwise is told.
 bool isReadBack(const QByteArray &bytes, const MRVFountainScript &wanted, const Source &source,
-                const QString &xml, QString *error)
+                const QString &xml, MRVErrorSink error)
 {
     QString text;
     MrvFinalDraftParts parts;
@@ -446,7 +449,7 @@ bool isReadBack(const QByteArray &bytes, const MRVFountainScript &wanted, const 
                                      wanted.elements.cbegin(), wanted.elements.cend());
     const int index = int(found.second - wanted.elements.cbegin());
     return MRV::fail(
-        error,
+        error, MRVErrorKind::Unsupported,
         faultAt(xml, source.elements.value(index),
                 index < wanted.elements.size() ? wanted.elements.at(index).text() : QString()));
 }
@@ -454,7 +457,7 @@ bool isReadBack(const QByteArray &bytes, const MRVFountainScript &wanted, const 
 } // namespace
 
 bool MRVFinalDraft::revise(const QByteArray &xml, const MRVFountainScript &script,
-                           QByteArray *revised, QString *error)
+                           QByteArray *revised, MRVErrorSink error)
 {
     QString text;
     MrvFinalDraftParts parts;
@@ -472,7 +475,8 @@ bool MRVFinalDraft::revise(const QByteArray &xml, const MRVFountainScript &scrip
     MRVXmlReader::decode(xml, &text, &fault);
     MRVSourceEncoding encoding;
     if (!encoding.find(xml, MRVTextDecoder::XmlDeclaration, text)) {
-        return MRV::fail(error, tr("its encoding writes some characters in several ways"));
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("its encoding writes some characters in several ways"));
     }
     Revision revision(text, encoding);
     if (!changeTitles(&revision, source, wanted, text, error)

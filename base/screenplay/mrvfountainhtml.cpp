@@ -258,7 +258,7 @@ public:
     {
     }
 
-    bool read(MRVFountainScript *script, QString *error);
+    bool read(MRVFountainScript *script, MRVErrorSink error);
     const QString &language() const { return m_language; }
 
 private:
@@ -362,7 +362,7 @@ void HtmlReader::endParagraph()
     m_script.elements.append(m_element);
 }
 
-bool HtmlReader::read(MRVFountainScript *script, QString *error)
+bool HtmlReader::read(MRVFountainScript *script, MRVErrorSink error)
 {
     while (!m_xml.atEnd()) {
         switch (m_xml.readNext()) {
@@ -410,8 +410,8 @@ QByteArray MRVFountainHtml::toHtml(const MRVFountainScript &script, const QStrin
     return bytes;
 }
 
-bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script, QString *error,
-                               QString *language)
+bool MRVFountainHtml::fromHtml(const QByteArray &html, MRVFountainScript *script,
+                               MRVErrorSink error, QString *language)
 {
     QString text;
     if (!MRVXmlReader::read(html, MrvScriptLimits, &text, error)) {

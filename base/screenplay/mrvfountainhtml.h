@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "screenplay/mrvfountain.h"
 #include "util/mrvbase_export.h"
 
@@ -47,5 +48,5 @@ public:
      * attributes, or where its document type declares entities or attributes.
      */
     static bool fromHtml(const QByteArray &html, MRVFountainScript *script,
-                         QString *error = nullptr, QString *language = nullptr);
+                         MRVErrorSink error = nullptr, QString *language = nullptr);
 };

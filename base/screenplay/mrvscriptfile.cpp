@@ -4,6 +4,7 @@
 #include "screenplay/mrvfinaldraft.h"
 #include "screenplay/mrvfountainhtml.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvfailure.h"
 
 #include <QFileInfo>
 #include <QTextCodec>
@@ -58,13 +59,13 @@ QString MRVScriptFile::suffix(Format format)
     return QString();
 }
 
-bool MRVScriptFile::read(const QByteArray &bytes, Format format, QString *error)
+bool MRVScriptFile::read(const QByteArray &bytes, Format format, MRVErrorSink error)
 {
     return read(bytes, format, QByteArray(), error);
 }
 
 bool MRVScriptFile::readFountain(const QByteArray &bytes, const QByteArray &encoding,
-                                 QString *reason)
+                                 MRVErrorSink reason)
 {
     const QByteArray name = encoding.isEmpty() ? QByteArray("UTF-8") : encoding;
     if (!MRVCoreUtil::decodeText(bytes, name.constData(), &m_text, reason)) {
@@ -80,13 +81,13 @@ bool MRVScriptFile::readFountain(const QByteArray &bytes, const QByteArray &enco
 }
 
 bool MRVScriptFile::read(const QByteArray &bytes, Format format, const QByteArray &encoding,
-                         QString *error)
+                         MRVErrorSink error)
 {
     MRVScriptFile file;
-    QString reason;
+    MRVError reason{MRVErrorKind::Unsupported, tr("unknown type of script")};
     bool ok = false;
     if (!encoding.isEmpty() && (format == Html || format == FinalDraft)) {
-        reason = tr("files of this type name their encoding themselves");
+        reason.text = tr("files of this type name their encoding themselves");
         format = UnknownFormat;
     }
     switch (format) {
@@ -102,17 +103,15 @@ bool MRVScriptFile::read(const QByteArray &bytes, Format format, const QByteArra
     case EPub:
     case Pdf:
     case UnknownFormat:
-        reason = reason.isEmpty() ? tr("unknown type of script") : reason;
         break;
     }
     if (ok) {
         file.m_format = format;
         file.m_source = bytes;
         *this = std::move(file);
-    } else if (error) {
-        *error = reason;
+        return true;
     }
-    return ok;
+    return MRV::fail(error, reason);
 }
 
 int MRVScriptFile::renameCharacter(const QString &from, const QString &to,
@@ -127,7 +126,7 @@ int MRVScriptFile::renameCharacter(const QString &from, const QString &to,
     return count;
 }
 
-QByteArray MRVScriptFile::revised(QString *error) const
+QByteArray MRVScriptFile::revised(MRVErrorSink error) const
 {
     if (m_format == FinalDraft) {
         QByteArray bytes;
@@ -148,10 +147,9 @@ QByteArray MRVScriptFile::revised(QString *error) const
     const QString written = m_hasMark ? QChar(QChar::ByteOrderMark) + text : text;
     const QByteArray bytes = m_codec->fromUnicode(written.constData(), written.size(), &state);
     if (!m_hasMark && m_codec->toUnicode(bytes) != text) {
-        if (error) {
-            *error = tr("the encoding %1 lacks some characters of the changed text")
-                         .arg(QString::fromLatin1(m_codec->name()));
-        }
+        MRV::fail(error, MRVErrorKind::Unsupported,
+                  tr("the encoding %1 lacks some characters of the changed text")
+                      .arg(QString::fromLatin1(m_codec->name())));
         return QByteArray();
     }
     return bytes;

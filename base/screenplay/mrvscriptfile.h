@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "screenplay/mrvfountain.h"
 #include "screenplay/mrvscriptdocument.h"
 #include "util/mrvbase_export.h"
@@ -65,7 +66,7 @@ public:
      * @param error  if given, receives one translated line on failure; untouched on success.
      * @return false, with nothing changed, when the bytes are not of the format.
      */
-    bool read(const QByteArray &bytes, Format format, QString *error = nullptr);
+    bool read(const QByteArray &bytes, Format format, MRVErrorSink error = nullptr);
     /**
      * The same for Fountain in another encoding; other formats say themselves which they have.
      *
@@ -75,7 +76,8 @@ public:
      * @param error    if given, receives one translated line on failure; untouched on success.
      * @return false, with nothing changed, when the bytes are not of the format or encoding.
      */
-    bool read(const QByteArray &bytes, Format format, const QByteArray &encoding, QString *error);
+    bool read(const QByteArray &bytes, Format format, const QByteArray &encoding,
+              MRVErrorSink error);
 
     /** The format that was read; UnknownFormat before. */
     Format format() const { return m_format; }
@@ -118,7 +120,7 @@ public:
      * @return null where a Final Draft document cannot be changed so, or the encoding lacks a
      *         character: toByteArray() writes a new one.
      */
-    QByteArray revised(QString *error = nullptr) const;
+    QByteArray revised(MRVErrorSink error = nullptr) const;
 
     /**
      * The bytes of a script.
@@ -131,7 +133,7 @@ public:
                                   const QString &language = QString());
 
 private:
-    bool readFountain(const QByteArray &bytes, const QByteArray &encoding, QString *reason);
+    bool readFountain(const QByteArray &bytes, const QByteArray &encoding, MRVErrorSink reason);
 
     QByteArray m_source;
     Format m_format = UnknownFormat;

@@ -34,22 +34,6 @@ bool hasActs(const MRVFountainScript &script)
                        });
 }
 
-// Lengths of modes are in points, margins of a document in pixels.
-void setMargins(QTextBlockFormat *format)
-{
-    constexpr double PixelsPerPoint = 96.0 / 72;
-    const auto take = [format](int property) {
-        const double points = format->doubleProperty(property);
-        format->clearProperty(property);
-        return points * PixelsPerPoint;
-    };
-    format->setLeftMargin(take(MRVTextFormat::BlockLeftIndent));
-    format->setRightMargin(take(MRVTextFormat::BlockRightIndent));
-    format->setTopMargin(format->topMargin() * PixelsPerPoint);
-    format->setBottomMargin(format->bottomMargin() * PixelsPerPoint);
-    format->setTextIndent(format->textIndent() * PixelsPerPoint);
-}
-
 // What the places on a page do not tell stands in the text.
 MRVFountainScript labelled(MRVFountainScript script)
 {
@@ -83,8 +67,9 @@ void MRVScriptDocument::setPrintedScript(QTextDocument *document, const MRVFount
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const MrvScriptRole role = roles.roleOf(block);
         roles.element(role).recapitalizeBlock(block);
-        QTextBlockFormat format = block.blockFormat();
-        setMargins(&format);
+        QTextBlockFormat format = MRVScriptElement::withMargins(block.blockFormat());
+        format.clearProperty(MRVTextFormat::BlockLeftIndent);
+        format.clearProperty(MRVTextFormat::BlockRightIndent);
         const bool isScene = role == mrvScriptRole(Element::SceneHeading) && block.length() > 1;
         if (isScene || (role == mrvScriptRole(Element::Centered) && isAct(block.text()))) {
             format.clearProperty(MRVTextFormat::BlockSpacing); // which has the number of the level

@@ -162,6 +162,21 @@ bool MRVScriptElement::equal(const QTextBlockFormat &a, const QTextBlockFormat &
     return !lengthsDiffer(a, b) && lookTheSame(a, b, false);
 }
 
+QTextBlockFormat MRVScriptElement::withMargins(const QTextBlockFormat &format)
+{
+    constexpr double PixelsPerPoint = 96.0 / 72;
+    const auto indent = [&format](int property) {
+        return format.doubleProperty(property) * PixelsPerPoint;
+    };
+    QTextBlockFormat shown = format;
+    shown.setLeftMargin(indent(MRVTextFormat::BlockLeftIndent));
+    shown.setRightMargin(indent(MRVTextFormat::BlockRightIndent));
+    shown.setTopMargin(format.topMargin() * PixelsPerPoint);
+    shown.setBottomMargin(format.bottomMargin() * PixelsPerPoint);
+    shown.setTextIndent(format.textIndent() * PixelsPerPoint);
+    return shown;
+}
+
 void MRVScriptElement::recapitalizeBlock(const QTextBlock &block) const
 {
     if (!hasFlag(AllCaps) || !block.isValid()) {

@@ -218,6 +218,12 @@ public:
     static bool equal(const QTextBlockFormat &a, const QTextBlockFormat &b);
 
     /**
+     * A paragraph format of an element for Qt's layout, which knows margins in pixels of 96 to the
+     * inch, and not the indents in points: margins are set to those lengths, beside the indents.
+     */
+    static QTextBlockFormat withMargins(const QTextBlockFormat &format);
+
+    /**
      * Turns the text of a paragraph into upper case, up to the first styleDelimiter() where it has
      * one. Does nothing without the flag AllCaps.
      *

@@ -4,6 +4,7 @@
 #include "core/mrvxmltext.h"
 #include "scriptmode/mrvscriptmodefile_p.h"
 #include "util/mrvclosestmatch.h"
+#include "util/mrvfailure.h"
 #include "util/mrvnames.h"
 
 #include <QDir>
@@ -26,14 +27,6 @@ Q_LOGGING_CATEGORY(lcScript, "mrv.script")
 constexpr char SystemFolder[] = ":/ScriptFormat/ScriptFormats";
 constexpr char UserFolder[] = "/ScriptFormats";
 constexpr char FileSuffix[] = ".xml";
-
-bool fail(QString *error, const QString &text)
-{
-    if (error) {
-        *error = text;
-    }
-    return false;
-}
 
 // Empty where it cannot be made.
 QString userFolder()
@@ -123,23 +116,23 @@ void writeElement(QXmlStreamWriter *xml, const MRVScriptElement &element, MRVUni
 
 // Not more than a byte beyond what a mode may have: what has no size, such as a device, may have no
 // end, either.
-bool readBounded(const QString &path, QByteArray *bytes, QString *reason)
+bool readBounded(const QString &path, QByteArray *bytes, MRVErrorSink reason)
 {
     constexpr int PieceSize = 64 * 1024;
     // Opening a folder succeeds.
     if (QFileInfo(path).isDir()) {
-        return fail(reason, MRVScriptMode::tr("it is a folder"));
+        return MRV::fail(reason, MRVScriptMode::tr("it is a folder"));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return fail(reason, file.errorString());
+        return MRV::fail(reason, MRVError::ofDevice(file));
     }
     QByteArray piece;
     do {
         piece = file.read(qMin(PieceSize, MRVScriptMode::MaxFileSize + 1 - bytes->size()));
         bytes->append(piece);
     } while (!piece.isEmpty());
-    return file.error() == QFileDevice::NoError || fail(reason, file.errorString());
+    return file.error() == QFileDevice::NoError || MRV::fail(reason, MRVError::ofDevice(file));
 }
 
 const char *unitWord(MRVUnit::Unit units)
@@ -186,20 +179,20 @@ int MRVScriptMode::indexOf(const QTextBlock &block) const
     return -1;
 }
 
-bool MRVScriptMode::load(const QString &path, QString *error, QStringList *remarks)
+bool MRVScriptMode::load(const QString &path, MRVErrorSink error, QStringList *remarks)
 {
-    const auto refuse = [&](const QString &reason) {
-        return fail(error, tr("\"%1\" is not a script mode: %2").arg(path, reason));
-    };
-    QString reason;
+    MRVError reason;
     QByteArray xml;
     if (!readBounded(path, &xml, &reason)) {
-        return fail(error, tr("Cannot read the file \"%1\": %2").arg(path, reason));
+        return MRV::fail(error, reason.kind,
+                         tr("Cannot read the file \"%1\": %2").arg(path, reason.text));
     }
-    return fromXml(xml, &reason, remarks) || refuse(reason);
+    return fromXml(xml, &reason, remarks)
+        || MRV::fail(error, reason.kind,
+                     tr("\"%1\" is not a script mode: %2").arg(path, reason.text));
 }
 
-bool MRVScriptMode::loadNamed(const QString &nameOrPath, QString *error)
+bool MRVScriptMode::loadNamed(const QString &nameOrPath, MRVErrorSink error)
 {
     const QMap<QString, MRVScriptMode> factory = systemModes();
     for (const MRVScriptMode &mode : factory) {
@@ -212,10 +205,11 @@ bool MRVScriptMode::loadNamed(const QString &nameOrPath, QString *error)
         return load(nameOrPath, error);
     }
     const QString meant = MRV::closestMatch(nameOrPath, factory.keys());
-    return fail(error,
-                meant.isNull() ? tr("'%1' is neither a factory mode nor a file").arg(nameOrPath)
-                               : tr("'%1' is neither a factory mode nor a file; did you mean '%2'?")
-                                     .arg(nameOrPath, meant));
+    return MRV::fail(error, MRVErrorKind::NotFound,
+                     meant.isNull()
+                         ? tr("'%1' is neither a factory mode nor a file").arg(nameOrPath)
+                         : tr("'%1' is neither a factory mode nor a file; did you mean '%2'?")
+                               .arg(nameOrPath, meant));
 }
 
 QByteArray MRVScriptMode::toXml() const
@@ -238,15 +232,16 @@ QByteArray MRVScriptMode::toXml() const
     return bytes;
 }
 
-bool MRVScriptMode::save(const QString &path, QString *error) const
+bool MRVScriptMode::save(const QString &path, MRVErrorSink error) const
 {
     // A mode that could not be read back is not written.
     const QByteArray xml = m_elements.size() <= MaxElements ? toXml() : QByteArray();
     MRVTextFault fault;
     if (xml.isEmpty() || xml.size() > MaxFileSize
         || !MRVXmlReader::keepsLimits(QString::fromUtf8(xml), ScriptModeLimits, &fault)) {
-        return fail(error,
-                    tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
+        return MRV::fail(
+            error, MRVErrorKind::TooLarge,
+            tr("Cannot write the file \"%1\": the script mode is too large").arg(path));
     }
     return MRVFileWriter::write(path, xml, error);
 }
@@ -305,6 +300,15 @@ void MRVScriptMode::makeElementsUnique()
         used.insert(title);
         element.setTitle(title);
     }
+}
+
+MRVScriptMode MRVScriptMode::forEditor() const
+{
+    MRVScriptMode mode = *this;
+    for (MRVScriptElement &element : mode.m_elements) {
+        element.setBlockFormat(MRVScriptElement::withMargins(element.blockFormat()));
+    }
+    return mode;
 }
 
 QStringList MRVScriptMode::faults() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "scriptmode/mrvscriptelement.h"
 #include "util/mrvbase_export.h"
 #include "util/mrvunit.h"
@@ -94,13 +95,14 @@ public:
      *                that could not be read as it stands, a hundred at most.
      * @return false, with this mode as it was, on failure.
      */
-    bool load(const QString &path, QString *error = nullptr, QStringList *remarks = nullptr);
+    bool load(const QString &path, MRVErrorSink error = nullptr, QStringList *remarks = nullptr);
     /**
      * The same for the contents of a file, the bytes @p xml. The error begins with the line.
      *
      * @param remarks as for load().
      */
-    bool fromXml(const QByteArray &xml, QString *error = nullptr, QStringList *remarks = nullptr);
+    bool fromXml(const QByteArray &xml, MRVErrorSink error = nullptr,
+                 QStringList *remarks = nullptr);
     /** Whether bytes are those of a mode file; see MRVFileKind. */
     static bool isXml(const QByteArray &bytes) { return MRVScriptMode().fromXml(bytes); }
     /**
@@ -110,7 +112,7 @@ public:
      * @param error      as for load(); of an unknown name, it tells a similar one.
      * @return false, with this mode as it was, on failure.
      */
-    bool loadNamed(const QString &nameOrPath, QString *error = nullptr);
+    bool loadNamed(const QString &nameOrPath, MRVErrorSink error = nullptr);
 
     /**
      * Writes the mode through MRVFileWriter, so that a failure leaves the old file as it was.
@@ -129,7 +131,7 @@ public:
      *
      * @param path of the file, which is replaced as a whole or, on failure, left as it was.
      */
-    bool save(const QString &path, QString *error = nullptr) const;
+    bool save(const QString &path, MRVErrorSink error = nullptr) const;
     /** What save() writes. Equal modes give equal bytes. */
     QByteArray toXml() const;
 
@@ -166,6 +168,12 @@ public:
      * on with the first of them.
      */
     void makeElementsUnique();
+
+    /**
+     * The mode for an editor of Qt, which shows its elements where they stand on paper: see
+     * MRVScriptElement::withMargins(). Documents that are formatted with it are read with it.
+     */
+    MRVScriptMode forEditor() const;
 
     /**
      * What keeps the mode from working although its file can be read, one translated line each:

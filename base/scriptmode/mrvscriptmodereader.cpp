@@ -1,6 +1,7 @@
 #include "scriptmode/mrvscriptmode.h"
 
 #include "scriptmode/mrvscriptmodefile_p.h"
+#include "util/mrvfailure.h"
 
 #include <QXmlStreamReader>
 
@@ -326,16 +327,14 @@ QString ModeReader::error() const
 
 } // namespace
 
-bool MRVScriptMode::fromXml(const QByteArray &xml, QString *error, QStringList *remarks)
+bool MRVScriptMode::fromXml(const QByteArray &xml, MRVErrorSink error, QStringList *remarks)
 {
     const auto refuse = [&](const QString &reason) {
-        if (error) {
-            *error = reason;
-        }
-        return false;
+        return MRV::fail(error, MRVErrorKind::Damaged, reason);
     };
     if (xml.size() > MaxFileSize) {
-        return refuse(tr("it is larger than %1 bytes").arg(MaxFileSize));
+        return MRV::fail(error, MRVErrorKind::TooLarge,
+                         tr("it is larger than %1 bytes").arg(MaxFileSize));
     }
     QString text;
     if (!MRVXmlReader::read(xml, ScriptModeLimits, &text, error)) {

@@ -9,6 +9,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -47,7 +48,40 @@ void MRVFindSession::setQuery(const MRVTextQuery &query, const QTextCursor &near
     m_query.timeLimit = 0;
     m_query.isCancelled = nullptr;
     m_query.flags &= ~MRVTextFinder::FindBackward;
+    setRange(query.range);
     restart(near.isNull() ? 0 : near.selectionStart());
+}
+
+void MRVFindSession::setRange(const MRVTextRange &range)
+{
+    m_query.range = range;
+    m_range = QTextCursor();
+    if (range != MRVTextQuery().range) {
+        m_range = range.toTextCursor(m_document);
+        m_range.setKeepPositionOnInsert(true); // so that text after it does not belong to it
+    }
+}
+
+// The cursor knows best about an edit of many places, which the document tells of as one. It cannot
+// tell text that takes the place of the first or last of the range from text beside the range.
+void MRVFindSession::followRange(int position, int removed, int added)
+{
+    constexpr int Open = std::numeric_limits<int>::max();
+    if (m_range.isNull()) {
+        return;
+    }
+    const MRVTextRange range = m_query.range;
+    const int end = position + removed;
+    const int delta = added - removed;
+    const int movedEnd = range.end() == Open ? Open : range.end() + delta;
+    if (end <= range.start()) {
+        setRange(MRVTextRange(range.start() + delta, movedEnd));
+    } else if (position >= range.start() && end <= range.end() && position < range.end()) {
+        setRange(MRVTextRange(range.start(), movedEnd));
+    } else if (position < range.end()) {
+        setRange(MRVTextRange(m_range.selectionStart(),
+                              range.end() == Open ? Open : m_range.selectionEnd()));
+    }
 }
 
 void MRVFindSession::restart(int near)
@@ -120,6 +154,7 @@ void MRVFindSession::followEdit(int position, int removed, int added)
 {
     m_isFollowed = true;
     m_search.reset();
+    followRange(position, removed, added);
     const bool isLocal = !m_query.acrossParagraphs && m_query.kinds.isEmpty() && !m_query.accepts;
     if (!isLocal || !isComplete() || !m_outcome.isComplete()) {
         restart(position);
@@ -147,6 +182,7 @@ void MRVFindSession::followEdit(int position, int removed, int added)
 void MRVFindSession::followAnyEdit()
 {
     if (!m_isFollowed) {
+        followRange(0, m_document->characterCount(), m_document->characterCount()); // anywhere
         restart(m_start);
         Q_EMIT changed();
     }

@@ -6,12 +6,12 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTextCursor>
 #include <QVector>
 
 #include <memory>
 
 class MRVQuerySearch;
-class QTextCursor;
 class QTextDocument;
 
 /**
@@ -49,6 +49,10 @@ public:
      * cursor. The limit of time, the callback and FindBackward of the query do not count here.
      */
     void setQuery(const MRVTextQuery &query, const QTextCursor &near);
+    /**
+     * What is looked for. Its range moves with the edits of the document: text that is put in right
+     * before or after it does not belong to it.
+     */
     const MRVTextQuery &query() const { return m_query; }
 
     /**
@@ -91,6 +95,8 @@ Q_SIGNALS:
 
 private:
     void restart(int near);
+    void followRange(int position, int removed, int added);
+    void setRange(const MRVTextRange &range);
     bool isSearchedAtOnce() const;
     void searchPart(const MRVTextRange &part, QVector<MRVTextRange> *finds);
     void followEdit(int position, int removed, int added);
@@ -99,6 +105,7 @@ private:
 
     QPointer<QTextDocument> m_document;
     MRVTextQuery m_query;
+    QTextCursor m_range; // of the query; null for all of the document
     std::unique_ptr<MRVQuerySearch> m_search; // null until it is needed, and after edits
     // The search goes from the start to the end of the document, and then from 0 to the start.
     int m_start = 0;

@@ -1,5 +1,7 @@
 #include "search/mrvquerysearch_p.h"
 
+#include "util/mrvfailure.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -90,7 +92,7 @@ bool MRVSearchedText::isOfWholeLetters(MRVTextMatch match) const
     return m_folded.isBoundary(match.start) && m_folded.isBoundary(match.end());
 }
 
-bool MRVTextQuery::isValid(QString *error) const
+bool MRVTextQuery::isValid(MRVErrorSink error) const
 {
     if (syntax == PlainText) {
         return true;
@@ -101,12 +103,10 @@ bool MRVTextQuery::isValid(QString *error) const
         if (expression.isValid()) {
             continue;
         }
-        if (error) {
-            *error =
-                QCoreApplication::translate("MRVTextQuery", "%1 (at character %2)")
-                    .arg(expression.errorString(), QString::number(expression.errorOffset() + 1));
-        }
-        return false;
+        return MRV::fail(
+            error,
+            QCoreApplication::translate("MRVTextQuery", "%1 (at character %2)")
+                .arg(expression.errorString(), QString::number(expression.errorOffset() + 1)));
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "search/mrvtextfinder.h"
 #include "text/mrvtextrange.h"
 #include "util/mrvbase_export.h"
@@ -100,7 +101,7 @@ struct MRVBASE_EXPORT MRVTextQuery
      *
      * @param error if given, receives a translated text that says why not, and where.
      */
-    bool isValid(QString *error = nullptr) const;
+    bool isValid(MRVErrorSink error = nullptr) const;
 };
 
 /**

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "presets/mrvtextpresetscheme.h"
 #include "shortcuts/mrvshortcutscheme.h"
 #include "util/mrvbase_export.h"
@@ -137,7 +138,9 @@ public:
      * damage: the file is copied before it is replaced.
      */
     Status status() const;
-    /** Why status() is AccessError, as a translated line; else empty. */
+    /** Why status() is AccessError, as a translated line; else no error. */
+    MRVError lastError() const;
+    /** The text of lastError(). */
     QString errorText() const;
 
     /**
@@ -312,7 +315,7 @@ public:
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return whether the file holds all that the store does; also when there was nothing to save.
      */
-    bool saveNow(QString *error = nullptr);
+    bool saveNow(MRVErrorSink error = nullptr);
     /** saveNow(), whose failure saveFailed() tells. Also reads what others have saved. */
     void sync();
     /** Forgets all changes that are not saved, which otherwise are tried again. */
@@ -335,7 +338,7 @@ public:
      * @param fileName of an INI file, which is made where it does not exist.
      * @return false where the file cannot be read or written, or holds something else.
      */
-    bool saveToFile(const QString &fileName, QString *error = nullptr);
+    bool saveToFile(const QString &fileName, MRVErrorSink error = nullptr);
     /**
      * Puts the values that an INI file has in the group that is open here in place of all that this
      * store has in it, and emits settingsReset(). A file that cannot be read has none: the group is

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QTemporaryFile>
 #include <QThread>
 
 namespace {
@@ -39,9 +40,19 @@ void removeDeadLock(const QString &path)
     }
 }
 
+// QLockFile does not tell the system's reason, but another file in its place has the same.
+MRVErrorKind whyNotLocked(const QString &path)
+{
+    const QByteArray likeLock(64, '\n');
+    QTemporaryFile probe(path + QLatin1String(".lock.XXXXXX"));
+    const bool isWritten =
+        probe.open() && probe.write(likeLock) == likeLock.size() && probe.flush();
+    return isWritten ? MRVErrorKind::Other : MRVError::ofDevice(probe).kind;
+}
+
 } // namespace
 
-bool MRVSettingsFile::read(QString *error)
+bool MRVSettingsFile::read(MRVErrorSink error)
 {
     if (MRVCoreUtil::isMissing(m_path)) {
         *this = MRVSettingsFile(m_path);
@@ -51,9 +62,9 @@ bool MRVSettingsFile::read(QString *error)
     if (!QFileInfo(m_path).isFile()) {
         return MRV::fail(error, Messages::tr("The file \"%1\" is not a regular file").arg(m_path));
     }
-    QString reason;
+    MRVError reason;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(m_path, &reason);
-    if (!reason.isEmpty()) {
+    if (reason) {
         return MRV::fail(error, reason);
     }
     if (!m_exists || bytes != m_bytes) {
@@ -64,7 +75,7 @@ bool MRVSettingsFile::read(QString *error)
     return true;
 }
 
-bool MRVSettingsFile::replace(const MRVSettingsMap &values, QString *error)
+bool MRVSettingsFile::replace(const MRVSettingsMap &values, MRVErrorSink error)
 {
     const QByteArray bytes = mrvWriteSettings(values);
     if (!m_exists || bytes != m_bytes) {
@@ -84,7 +95,7 @@ bool MRVSettingsFile::replace(const MRVSettingsMap &values, QString *error)
     return true;
 }
 
-bool MRVSettingsFile::keepDamaged(QString *error) const
+bool MRVSettingsFile::keepDamaged(MRVErrorSink error) const
 {
     qCWarning(lcSettings, "%s: damaged values are taken out", qPrintable(m_path));
     return MRV::keepCopy(m_path + QLatin1String(".damaged"), m_bytes, error);
@@ -100,13 +111,14 @@ MRVSettingsLock::MRVSettingsLock(const QString &path)
     m_lock.tryLock(Milliseconds);
 }
 
-bool MRVSettingsLock::isHeld(QString *error) const
+bool MRVSettingsLock::isHeld(MRVErrorSink error) const
 {
     if (m_lock.isLocked()) {
         return true;
     }
-    const QString text = m_lock.error() == QLockFile::LockFailedError
-        ? Messages::tr("Cannot write the file \"%1\": it is locked")
-        : Messages::tr("Cannot write the file \"%1\": it cannot be locked");
-    return MRV::fail(error, text.arg(m_path));
+    return m_lock.error() == QLockFile::LockFailedError
+        ? MRV::fail(error, MRVErrorKind::InUse,
+                    Messages::tr("Cannot write the file \"%1\": it is locked").arg(m_path))
+        : MRV::fail(error, whyNotLocked(m_path),
+                    Messages::tr("Cannot write the file \"%1\": it cannot be locked").arg(m_path));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "settings/mrvsettingstext_p.h"
 
 #include <QLockFile>
@@ -20,16 +21,16 @@ public:
     }
 
     /** Reads the file, unless it is the same as before. Of a failure, all stays as it was. */
-    bool read(QString *error);
+    bool read(MRVErrorSink error);
     /** Puts values in place of what was read last, or written. */
-    bool replace(const MRVSettingsMap &values, QString *error);
+    bool replace(const MRVSettingsMap &values, MRVErrorSink error);
 
     const QString &path() const { return m_path; }
     bool exists() const { return m_exists; }
     const MRVSettingsText &text() const { return m_text; }
 
 private:
-    bool keepDamaged(QString *error) const;
+    bool keepDamaged(MRVErrorSink error) const;
 
     QString m_path;
     bool m_exists = false;
@@ -47,7 +48,7 @@ public:
     explicit MRVSettingsLock(const QString &path);
 
     /** @return false, with the reason in @p error, where the file must not be written. */
-    bool isHeld(QString *error) const;
+    bool isHeld(MRVErrorSink error) const;
 
 private:
     QString m_path;

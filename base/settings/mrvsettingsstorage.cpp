@@ -117,19 +117,19 @@ bool MRVSettingsStorage::isChanged() const
     return !isSame;
 }
 
-bool MRVSettingsStorage::read(QString *error)
+bool MRVSettingsStorage::read(MRVErrorSink error)
 {
-    m_error.clear();
+    m_error = {};
     return exchange(false, &m_error) || MRV::fail(error, m_error);
 }
 
-bool MRVSettingsStorage::save(QString *error)
+bool MRVSettingsStorage::save(MRVErrorSink error)
 {
-    m_error.clear();
+    m_error = {};
     return exchange(true, &m_error) || MRV::fail(error, m_error);
 }
 
-bool MRVSettingsStorage::exchange(bool mayWrite, QString *error)
+bool MRVSettingsStorage::exchange(bool mayWrite, MRVErrorSink error)
 {
     if (m_file.path().isEmpty()) {
         return MRV::fail(error, Messages::tr("The settings have no file"));
@@ -185,7 +185,7 @@ void MRVSettingsStorage::take(const MRVSettingsMap &wanted)
 
 QSettings::Status MRVSettingsStorage::status() const
 {
-    if (!m_error.isEmpty()) {
+    if (m_error) {
         return QSettings::AccessError;
     }
     const MRVSettingsText &text = m_file.text();

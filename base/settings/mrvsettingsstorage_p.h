@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "settings/mrvsettingsfile_p.h"
 
 #include <QMap>
@@ -43,15 +44,15 @@ public:
     /** Whether something is not saved. */
     bool isChanged() const;
     /** Reads what others have saved. Under the lock of the file, if anything is to be saved. */
-    bool read(QString *error);
+    bool read(MRVErrorSink error);
     /** read(), and saves what is not saved yet. */
-    bool save(QString *error);
+    bool save(MRVErrorSink error);
     /** Goes back to what the file held when it was last read or written. */
     void revert() { take(m_known); }
 
     QSettings::Status status() const;
     /** Why the file could not be read or written the last time; empty where it could. */
-    const QString &error() const { return m_error; }
+    const MRVError &error() const { return m_error; }
 
     /** Is told the keys, in the whole file, of values that were changed by others. */
     using Listener = std::function<void(const QStringList &keys)>;
@@ -68,13 +69,13 @@ public:
 private:
     static QString memoryName(const QString &path);
 
-    bool exchange(bool mayWrite, QString *error);
+    bool exchange(bool mayWrite, MRVErrorSink error);
     void take(const MRVSettingsMap &values);
 
     MRVSettingsFile m_file;
     QSettings m_memory;
     MRVSettingsMap m_known;
-    QString m_error;
+    MRVError m_error;
     QMap<const void *, Listener> m_stores;
 };
 

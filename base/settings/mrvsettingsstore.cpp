@@ -62,8 +62,7 @@ MRVSettings::MRVSettings(Format format, Scope scope, const QString &organization
     const QStringList paths = mrvSettingsPaths(format, scope, organization, application);
     for (const QString &path : paths.mid(1)) {
         MRVSettingsFile file(path);
-        QString error;
-        if (file.read(&error) && !file.text().values.isEmpty()) {
+        if (file.read(nullptr) && !file.text().values.isEmpty()) {
             m_fallbacks.append({path, file.text().values});
         }
     }
@@ -93,9 +92,14 @@ MRVSettings::Status MRVSettings::status() const
     return m_storage->status();
 }
 
-QString MRVSettings::errorText() const
+MRVError MRVSettings::lastError() const
 {
     return m_storage->error();
+}
+
+QString MRVSettings::errorText() const
+{
+    return lastError().text;
 }
 
 QString MRVSettings::inFile(const QString &key) const
@@ -187,7 +191,7 @@ QMap<QString, QString> MRVSettings::unreadableValues() const
     return below;
 }
 
-bool MRVSettings::saveNow(QString *error)
+bool MRVSettings::saveNow(MRVErrorSink error)
 {
     if (!m_storage->save(error)) {
         return false;
@@ -237,7 +241,7 @@ void MRVSettings::setWatched(bool isWatched)
     }
 }
 
-bool MRVSettings::saveToFile(const QString &fileName, QString *error)
+bool MRVSettings::saveToFile(const QString &fileName, MRVErrorSink error)
 {
     const QString path = MRVSettingsStorage::realPath(fileName);
     if (path == m_storage->path()) {
@@ -249,7 +253,8 @@ bool MRVSettings::saveToFile(const QString &fileName, QString *error)
         return false;
     }
     if (file.text().hasOtherLines || !file.text().beginsWithSection) {
-        return MRV::fail(error, tr("The file \"%1\" does not hold settings").arg(path));
+        return MRV::fail(error, MRVErrorKind::Damaged,
+                         tr("The file \"%1\" does not hold settings").arg(path));
     }
     const QString prefix = prefixOf(group());
     MRVSettingsMap values = file.text().values;

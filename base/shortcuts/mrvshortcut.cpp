@@ -16,7 +16,7 @@ MRVShortcut::Id MRVShortcut::keyToValue(const char *key)
     return Id(metaEnumId().keyToValue(key));
 }
 
-MRVShortcut::Id MRVShortcut::idNamed(const QString &name, QString *error)
+MRVShortcut::Id MRVShortcut::idNamed(const QString &name, MRVErrorSink error)
 {
     QStringList names;
     for (int i = NoId + 1; i <= FullScreenGoTo; ++i) {
@@ -26,7 +26,7 @@ MRVShortcut::Id MRVShortcut::idNamed(const QString &name, QString *error)
         }
     }
     const QString meant = MRV::closestMatch(name, names);
-    MRV::fail(error,
+    MRV::fail(error, MRVErrorKind::NotFound,
               meant.isNull() ? tr("unknown command '%1'").arg(name)
                              : tr("unknown command '%1'; did you mean '%2'?").arg(name, meant));
     return NoId;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QHash>
@@ -218,7 +219,7 @@ public:
      *              such command; untouched otherwise.
      * @return NoId for an unknown name.
      */
-    static Id idNamed(const QString &name, QString *error = nullptr);
+    static Id idNamed(const QString &name, MRVErrorSink error = nullptr);
 
     /** The name of @p id, also of NoId; null outside the enumeration. */
     static const char *valueToKey(Id id);

@@ -199,7 +199,7 @@ QByteArray MRVShortcutScheme::toByteArray(const MRVShortcutScheme &scheme)
     return scheme.toByteArray();
 }
 
-MRVShortcutScheme MRVShortcutScheme::fromByteArray(const QByteArray &data, QString *error)
+MRVShortcutScheme MRVShortcutScheme::fromByteArray(const QByteArray &data, MRVErrorSink error)
 {
     QDataStream stream(data);
     stream.setVersion(MCoreType::StreamVersion);
@@ -208,29 +208,28 @@ MRVShortcutScheme MRVShortcutScheme::fromByteArray(const QByteArray &data, QStri
     return scheme;
 }
 
-bool MRVShortcutScheme::save(const QString &path, QString *error) const
+bool MRVShortcutScheme::save(const QString &path, MRVErrorSink error) const
 {
     return MRVFileWriter::write(path, toByteArray(), error);
 }
 
-MRVShortcutScheme MRVShortcutScheme::load(const QString &path, QString *error)
+MRVShortcutScheme MRVShortcutScheme::load(const QString &path, MRVErrorSink error)
 {
-    QString reason;
-    const QByteArray data = MRVCoreUtil::ReadBinaryFile(path, &reason);
-    MRVShortcutScheme scheme;
-    if (reason.isEmpty()) {
-        scheme = fromByteArray(data, &reason);
-        if (!reason.isEmpty()) {
-            reason = tr("%1: %2").arg(path, reason);
-        }
+    MRVError unreadable;
+    const QByteArray data = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
+    if (unreadable) {
+        MRV::fail(error, unreadable); // names the file
+        return MRVShortcutScheme();
     }
-    if (error && !reason.isEmpty()) {
-        *error = reason;
+    MRVError damage;
+    const MRVShortcutScheme scheme = fromByteArray(data, &damage);
+    if (damage) {
+        MRV::fail(error, damage.kind, tr("%1: %2").arg(path, damage.text));
     }
     return scheme;
 }
 
-bool MRVShortcutScheme::saveAsText(const QString &path, QString *error) const
+bool MRVShortcutScheme::saveAsText(const QString &path, MRVErrorSink error) const
 {
     return MRVCoreUtil::WriteUnicodeTextFile(toText(), path, error);
 }
@@ -325,7 +324,7 @@ MRVShortcutScheme MRVShortcutScheme::predefinedScheme(const QString &name)
     return found != schemes.cend() ? *found : morvane();
 }
 
-MRVShortcutScheme MRVShortcutScheme::loadNamed(const QString &nameOrPath, QString *error)
+MRVShortcutScheme MRVShortcutScheme::loadNamed(const QString &nameOrPath, MRVErrorSink error)
 {
     const QList<MRVShortcutScheme> schemes = predefinedSchemes();
     QStringList names;
@@ -340,7 +339,7 @@ MRVShortcutScheme MRVShortcutScheme::loadNamed(const QString &nameOrPath, QStrin
     }
     const QString meant = MRV::closestMatch(nameOrPath, names);
     MRV::fail(
-        error,
+        error, MRVErrorKind::NotFound,
         meant.isNull()
             ? tr("%1: there is no such file, and no predefined scheme of that name").arg(nameOrPath)
             : tr("%1: there is no such file, and no predefined scheme of that name; did you "
@@ -349,7 +348,7 @@ MRVShortcutScheme MRVShortcutScheme::loadNamed(const QString &nameOrPath, QStrin
     return MRVShortcutScheme();
 }
 
-void MRVShortcutScheme::read(QDataStream &stream, QString *error)
+void MRVShortcutScheme::read(QDataStream &stream, MRVErrorSink error)
 {
     MRVCheckedStream in(&stream);
     QString version;
@@ -357,10 +356,9 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
     qint32 count = 0;
     const bool hasVersion = in.read(&version);
     if (!hasVersion || version != QLatin1String(version_1_0)) {
-        if (error) {
-            *error = hasVersion ? tr("it is not a shortcut scheme of a known version")
-                                : tr("it is not a shortcut scheme");
-        }
+        MRV::fail(error, hasVersion ? MRVErrorKind::Unsupported : MRVErrorKind::Damaged,
+                  hasVersion ? tr("it is not a shortcut scheme of a known version")
+                             : tr("it is not a shortcut scheme"));
         return;
     }
     if (in.read(&name)) {
@@ -383,9 +381,10 @@ void MRVShortcutScheme::read(QDataStream &stream, QString *error)
     if (count < 0) {
         in.fail();
     }
-    if (error && !in.isOk()) {
-        *error = tr("it is damaged or truncated; shortcuts that could be read: %n", nullptr,
-                    m_shortcuts.size());
+    if (!in.isOk()) {
+        MRV::fail(error, MRVErrorKind::Damaged,
+                  tr("it is damaged or truncated; shortcuts that could be read: %n", nullptr,
+                     m_shortcuts.size()));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "shortcuts/mrvshortcut.h"
 #include "shortcuts/mrvshortcutinfo.h"
 #include "util/mrvbase_export.h"
@@ -168,7 +169,7 @@ public:
      * @param data any bytes.
      * @return a null scheme where nothing could be read.
      */
-    static MRVShortcutScheme fromByteArray(const QByteArray &data, QString *error = nullptr);
+    static MRVShortcutScheme fromByteArray(const QByteArray &data, MRVErrorSink error = nullptr);
 
     /**
      * Writes the stored form to the file @p path, whole or not at all (MRVFileWriter).
@@ -176,7 +177,7 @@ public:
      * @param error if given, receives a translated line that names the file and the reason on
      *              failure; untouched on success.
      */
-    bool save(const QString &path, QString *error = nullptr) const;
+    bool save(const QString &path, MRVErrorSink error = nullptr) const;
 
     /**
      * Reads the file @p path that save() wrote.
@@ -185,7 +186,7 @@ public:
      *              cannot be opened or not all of it could be read; untouched on success.
      * @return what could be read; a null scheme where nothing could.
      */
-    static MRVShortcutScheme load(const QString &path, QString *error = nullptr);
+    static MRVShortcutScheme load(const QString &path, MRVErrorSink error = nullptr);
 
     /**
      * Writes a list for readers to the file @p path, in UTF-8: each menu group in upper case, and
@@ -194,7 +195,7 @@ public:
      *
      * @param error as for save().
      */
-    bool saveAsText(const QString &path, QString *error = nullptr) const;
+    bool saveAsText(const QString &path, MRVErrorSink error = nullptr) const;
 
     /** The text that saveAsText() writes. */
     QString toText() const;
@@ -233,7 +234,7 @@ public:
      * @param error      as for load(); of an unknown name, it tells a similar one.
      * @return what could be read; a null scheme where nothing could.
      */
-    static MRVShortcutScheme loadNamed(const QString &nameOrPath, QString *error = nullptr);
+    static MRVShortcutScheme loadNamed(const QString &nameOrPath, MRVErrorSink error = nullptr);
 
     friend bool operator==(const MRVShortcutScheme &a, const MRVShortcutScheme &b)
     {
@@ -256,7 +257,7 @@ public:
     friend MRVBASE_EXPORT QDataStream &operator>>(QDataStream &stream, MRVShortcutScheme &scheme);
 
 private:
-    void read(QDataStream &stream, QString *error);
+    void read(QDataStream &stream, MRVErrorSink error);
 
     QString m_name;
     Shortcuts m_shortcuts;

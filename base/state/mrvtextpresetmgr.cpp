@@ -18,14 +18,14 @@ Q_LOGGING_CATEGORY(lcSettings, "mrv.settings")
 Q_GLOBAL_STATIC(MRVTextPresetMgr, theManager)
 
 // A file that cannot be read to its end holds presets that the next save would destroy.
-bool keepDamaged(const QString &path, QString *error, bool isUnknown = false)
+bool keepDamaged(const QString &path, MRVErrorSink error, bool isUnknown = false)
 {
     if (MRVCoreUtil::isMissing(path)) {
         return true;
     }
-    QString reason;
+    MRVError reason;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &reason);
-    if (!reason.isEmpty()) {
+    if (reason) {
         return MRV::fail(error, reason);
     }
     QString damage;
@@ -114,7 +114,7 @@ MRVTextPresetScheme MRVTextPresetMgr::load(bool *isUnknown)
     return MRVTextPresetScheme::fromByteArray(mrvOptions()->value(MRVOptions::TextPresets));
 }
 
-MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, QString *error)
+MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, MRVErrorSink error)
 {
     const QString path = options ? QString() : presetSchemeFilePath();
     if (!path.isEmpty() && !MRVCoreUtil::isMissing(path)) {
@@ -123,17 +123,17 @@ MRVTextPresetScheme MRVTextPresetMgr::readPresets(const MRVOptions *options, QSt
     if (!options) {
         return loadPresetScheme();
     }
-    QString reason;
+    MRVError reason;
     const auto scheme =
         MRVTextPresetScheme::fromByteArray(options->value(MRVOptions::TextPresets), &reason);
-    if (!reason.isEmpty()) {
+    if (reason) {
         MRV::fail(error, options->fileName(), reason);
     }
     return scheme;
 }
 
 bool MRVTextPresetMgr::writePresets(const MRVTextPresetScheme &scheme, MRVOptions *options,
-                                    QString *error)
+                                    MRVErrorSink error)
 {
     const QString path = options ? QString() : presetSchemeFilePath();
     if (!path.isEmpty() && !MRVCoreUtil::isMissing(path)) {

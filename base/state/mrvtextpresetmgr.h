@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "presets/mrvtextpresetscheme.h"
 #include "util/mrvbase_export.h"
 
@@ -74,7 +75,7 @@ public:
      *              damaged; untouched on success.
      * @return what could be read.
      */
-    static MRVTextPresetScheme readPresets(const MRVOptions *options, QString *error);
+    static MRVTextPresetScheme readPresets(const MRVOptions *options, MRVErrorSink error);
     /**
      * Saves a scheme to @p options at once, or for null as savePresetScheme() does.
      *
@@ -82,7 +83,7 @@ public:
      * @return false when @p scheme is not what will be read the next time.
      */
     static bool writePresets(const MRVTextPresetScheme &scheme, MRVOptions *options,
-                             QString *error);
+                             MRVErrorSink error);
     //@}
 
 Q_SIGNALS:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "textformat/mrvtextfragment.h"
 #include "util/mrvbase_export.h"
 
@@ -324,7 +325,7 @@ public:
      *        written.
      */
     static bool exportImageFormat(const QString &fileName, const QTextImageFormat &format,
-                                  const QImage &image, QString *error = nullptr);
+                                  const QImage &image, MRVErrorSink error = nullptr);
 
     /** Whether @p text holds the begin or end mark of a frame (U+FDD0, U+FDD1). */
     static bool hasFrameInString(const QString &text);

@@ -4,6 +4,7 @@
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 #include "input/mrvguardeddocument.h"
+#include "util/mrvfailure.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -96,13 +97,10 @@ QByteArray MRVTextFormat::imageFileBytes(const QString &fileName, const QTextIma
 }
 
 bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageFormat &format,
-                                      const QImage &image, QString *error)
+                                      const QImage &image, MRVErrorSink error)
 {
     if (fileName.isEmpty()) {
-        if (error) {
-            *error = tr("The picture has no file name.");
-        }
-        return false;
+        return MRV::fail(error, tr("The picture has no file name."));
     }
     const QString link = imageLink(format);
     const bool linked = !link.isEmpty() && QFileInfo(link).isFile();
@@ -116,8 +114,9 @@ bool MRVTextFormat::exportImageFormat(const QString &fileName, const QTextImageF
     }
 
     const QByteArray bytes = imageFileBytes(fileName, format, image);
-    if (bytes.isEmpty() && error) {
-        *error = tr("The picture cannot be encoded for the file \"%1\".").arg(fileName);
+    if (bytes.isEmpty()) {
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("The picture cannot be encoded for the file \"%1\".").arg(fileName));
     }
-    return !bytes.isEmpty() && MRVCoreUtil::WriteBinaryFile(bytes, fileName, error);
+    return MRVCoreUtil::WriteBinaryFile(bytes, fileName, error);
 }

@@ -4,6 +4,7 @@
 #include "html/mrvhtmldocument.h"
 #include "input/mrvtextdecoder.h"
 #include "markdown/mrvmarkdown.h"
+#include "util/mrvfailure.h"
 
 #include <QTextCodec>
 
@@ -113,30 +114,28 @@ int lineCount(const QTextDocument &page)
 } // namespace
 
 bool MRVReleaseNotes::read(const QByteArray &bytes, const QString &contentType, const QUrl &page,
-                           QString *error)
+                           MRVErrorSink error)
 {
     const Kind kind = kindOf(contentType, page);
     if (kind == Kind::Other) {
-        *error = tr("The server has sent %1, which is not a text")
-                     .arg(MRVServerText::shortened(contentType));
-        return false;
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("The server has sent %1, which is not a text")
+                             .arg(MRVServerText::shortened(contentType)));
     }
     const QString text = decoded(bytes);
     const QString html = isTooMuch(text) ? QString() : htmlOf(text, kind);
     if ((html.isNull() && !text.isEmpty()) || isTooMuch(html)) {
-        *error = tooMuch();
-    } else if (MRVHtmlDocument::read(html, QString(), &m_page, nullptr, error)) {
-        if (lineCount(m_page) <= MostLines) {
-            return true;
-        }
-        *error = tooMuch();
+        return tooMuch(error);
+    }
+    if (MRVHtmlDocument::read(html, QString(), &m_page, nullptr, error)) {
+        return lineCount(m_page) <= MostLines || tooMuch(error);
     }
     return false;
 }
 
-QString MRVReleaseNotes::tooMuch()
+bool MRVReleaseNotes::tooMuch(MRVErrorSink error)
 {
-    return tr("The page has too many parts");
+    return MRV::fail(error, MRVErrorKind::TooLarge, tr("The page has too many parts"));
 }
 
 void MRVReleaseNotes::setMessage(const QString &message)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "update/mrvnotescopy_p.h"
 
 #include <QByteArray>
@@ -22,14 +23,14 @@ public:
      * @return false for what is no text, and for a page that could take long to read.
      */
     bool read(const QByteArray &bytes, const QString &contentType, const QUrl &page,
-              QString *error);
+              MRVErrorSink error);
     /** Takes a message to show in place of notes. */
     void setMessage(const QString &message);
     /** Replaces the content of @p document, which then holds nothing that could be opened. */
     void write(const MRVNotesLook &look, QTextDocument *document) const;
 
 private:
-    static QString tooMuch();
+    static bool tooMuch(MRVErrorSink error);
 
     // Never laid out, so that nothing that it names is looked for.
     QTextDocument m_page;

@@ -1,6 +1,7 @@
 #include "update/mrvsignature.h"
 
 #include "update/mrvplainfile_p.h"
+#include "util/mrvfailure.h"
 
 #include <QFile>
 #include <QList>
@@ -50,23 +51,22 @@ QByteArray MRVSignature::publicKey(const QByteArray &text)
     return key.startsWith("Ed") ? key : QByteArray();
 }
 
-MRVSignature MRVSignature::read(const QString &path, const QByteArray &key, QString *reason)
+MRVSignature MRVSignature::read(const QString &path, const QByteArray &key, MRVErrorSink reason)
 {
     QFile file;
     const bool isOpen = mrvOpenPlain(&file, path);
     return fromText(isOpen ? file.read(MaxSignatureFile + 1) : QByteArray(), key, reason);
 }
 
-MRVSignature MRVSignature::fromText(const QByteArray &text, const QByteArray &key, QString *reason)
+MRVSignature MRVSignature::fromText(const QByteArray &text, const QByteArray &key,
+                                    MRVErrorSink reason)
 {
     MRVSignature signature;
     const char *const fault = signature.fault(text, key);
     if (!fault) {
         return signature;
     }
-    if (reason) {
-        *reason = tr(fault);
-    }
+    MRV::fail(reason, MRVErrorKind::Damaged, tr(fault));
     return MRVSignature();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -48,11 +49,12 @@ public:
      * @param reason receives why the result is null, as a translated end of a sentence; untouched
      *               otherwise. May be null.
      */
-    static MRVSignature read(const QString &path, const QByteArray &key, QString *reason = nullptr);
+    static MRVSignature read(const QString &path, const QByteArray &key,
+                             MRVErrorSink reason = nullptr);
 
     /** As read() with @p key and @p reason, of @p text, which such a file holds. */
     static MRVSignature fromText(const QByteArray &text, const QByteArray &key,
-                                 QString *reason = nullptr);
+                                 MRVErrorSink reason = nullptr);
 
     /** Whether nothing is signed. */
     bool isNull() const { return m_ofFile.isEmpty(); }

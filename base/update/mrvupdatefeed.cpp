@@ -1,5 +1,7 @@
 #include "update/mrvupdatefeed.h"
 
+#include "util/mrvfailure.h"
+
 #include <QDomDocument>
 #include <QTimeZone>
 
@@ -98,7 +100,7 @@ const char *readExpires(const QString &text, QDateTime *expires)
 } // namespace
 
 bool MRVUpdateFeed::read(const QDomDocument &document, const MRVUpdateOffer &main,
-                         MRVUpdateFeed *feed, QString *reason)
+                         MRVUpdateFeed *feed, MRVErrorSink reason)
 {
     const QDomElement root = document.documentElement();
     feed->offers = {main};
@@ -113,10 +115,9 @@ bool MRVUpdateFeed::read(const QDomDocument &document, const MRVUpdateOffer &mai
         feed->offers.append(MRVUpdateOffer());
         wrong = readChannel(element, &feed->offers.last());
     }
-    if (wrong) {
-        *reason = tr("its element \"%1\" is not valid").arg(QLatin1String(wrong));
-    }
-    return !wrong;
+    return !wrong
+        || MRV::fail(reason, MRVErrorKind::Damaged,
+                     tr("its element \"%1\" is not valid").arg(QLatin1String(wrong)));
 }
 
 std::optional<int> MRVUpdateFeed::versionNumber(QString version)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -80,7 +81,7 @@ public:
      *         then.
      */
     static bool read(const QDomDocument &document, const MRVUpdateOffer &main, MRVUpdateFeed *feed,
-                     QString *reason);
+                     MRVErrorSink reason);
 
     /**
      * The digits of a version as one number, without its full stops and ".beta"; nothing when that

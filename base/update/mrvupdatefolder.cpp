@@ -39,12 +39,12 @@ QString MRVUpdateFolder::filePath(const QString &name) const
     return (m_privatePath.isEmpty() ? QDir::tempPath() : m_privatePath) + u'/' + name;
 }
 
-bool MRVUpdateFolder::claim(const QString &name, bool mayReplace, QString *error)
+bool MRVUpdateFolder::claim(const QString &name, bool mayReplace, MRVErrorSink error)
 {
     if (claimAll(filePath(name), mayReplace)) {
         return true;
     }
-    const QString reason = qt_error_string(errno);
+    const MRVError reason = MRVError::ofSystem(errno);
     const QString path = filePath(name);
     if (m_privatePath.isEmpty()) {
         m_private = std::make_unique<MRVTemporaryFolder>(QDir::tempPath());
@@ -55,7 +55,8 @@ bool MRVUpdateFolder::claim(const QString &name, bool mayReplace, QString *error
         m_private.reset();
         m_privatePath.clear();
     }
-    return MRV::fail(error, tr("Cannot write the file \"%1\": %2").arg(path, reason));
+    return MRV::fail(error, reason.kind,
+                     tr("Cannot write the file \"%1\": %2").arg(path, reason.text));
 }
 
 bool MRVUpdateFolder::claimAll(const QString &path, bool mayReplace)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvtemporaryfolder.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,7 @@ public:
      *                   the network.
      * @param error receives a translated line where neither folder takes the file.
      */
-    bool claim(const QString &name, bool mayReplace, QString *error);
+    bool claim(const QString &name, bool mayReplace, MRVErrorSink error);
     /** Removes all files that were claimed, except those that were there before. */
     void clear();
     /** Leaves a file where it is for good. */

@@ -120,6 +120,7 @@ MRVUpdateManager::MRVUpdateManager(QObject *parent)
     : QObject(parent)
     , m_action(new QAction(tr("&Check for Updates..."), this))
 {
+    m_action->setObjectName(QStringLiteral("CheckForUpdates"));
     connect(m_action, &QAction::triggered, this, &MRVUpdateManager::checkForUpdates);
     if (isCheckDue()) {
         auto *const timer = new QTimer(this);

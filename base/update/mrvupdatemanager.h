@@ -65,7 +65,10 @@ public:
 
     ~MRVUpdateManager() override;
 
-    /** Adds the action "Check for Updates..." to a menu; it stays the manager's. */
+    /**
+     * Adds the action "Check for Updates..." to a menu; it stays the manager's. Its object name is
+     * "CheckForUpdates".
+     */
     void setupMenuActions(QMenu *menu);
 
     /**

@@ -113,7 +113,7 @@ void MRVUpdateModel::setPolicy(const MRVUpdatePolicy &policy, bool isAsked)
     m_isAsked = isAsked;
 }
 
-bool MRVUpdateModel::claimFeed(QString *error)
+bool MRVUpdateModel::claimFeed(MRVErrorSink error)
 {
     // The signature again, in case the feed has moved to the private folder.
     return (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), true, error))
@@ -121,7 +121,7 @@ bool MRVUpdateModel::claimFeed(QString *error)
         && (!m_needsSignature || m_folder->claim(m_xmlFileName + signatureSuffix(), true, error));
 }
 
-bool MRVUpdateModel::claimInstaller(QString *error)
+bool MRVUpdateModel::claimInstaller(MRVErrorSink error)
 {
     const QString signature = m_offer.fileName + signatureSuffix();
     return (!m_needsSignature || m_folder->claim(signature, false, error))

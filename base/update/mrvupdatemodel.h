@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "update/mrvsignature.h"
 #include "update/mrvupdatefeed.h"
 #include "update/mrvupdatepolicy.h"
@@ -142,9 +143,9 @@ public:
      *
      * @param error receives a translated text when there is no place for the files; may be null.
      */
-    bool claimFeed(QString *error = nullptr);
+    bool claimFeed(MRVErrorSink error = nullptr);
     /** The same for the installer; to be called once a newer version is known. */
-    bool claimInstaller(QString *error = nullptr);
+    bool claimInstaller(MRVErrorSink error = nullptr);
     /** Removes the files that were claimed. */
     void removeFiles();
     /** Removes the files that were claimed, but leaves the installer where it is for good. */

@@ -20,7 +20,7 @@ MRVEditLock::MRVEditLock() = default;
 
 MRVEditLock::~MRVEditLock() = default;
 
-bool MRVEditLock::acquire(const QString &path, QString *reason)
+bool MRVEditLock::acquire(const QString &path, MRVErrorSink reason)
 {
     const QFileInfo file(path);
     const QString real = file.exists()
@@ -31,7 +31,7 @@ bool MRVEditLock::acquire(const QString &path, QString *reason)
     // Its own waiting becomes longer and longer.
     while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError) {
         if (deadline.hasExpired()) {
-            return MRV::fail(reason, tr("another program is changing it"));
+            return MRV::fail(reason, MRVErrorKind::InUse, tr("another program is changing it"));
         }
         QThread::msleep(Step);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -37,7 +38,7 @@ public:
      *               success.
      * @return false when another program still holds the lock.
      */
-    bool acquire(const QString &path, QString *reason = nullptr);
+    bool acquire(const QString &path, MRVErrorSink reason = nullptr);
 
     /** Gives the lock back. */
     void release();

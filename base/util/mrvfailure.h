@@ -1,22 +1,34 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QString>
 
 namespace MRV {
 
-/** Stores @p text in @p error, unless that is null. Always false, for the caller to return. */
-inline bool fail(QString *error, const QString &text)
+/** Puts @p reason in @p error. Always false, for the caller to return. */
+inline bool fail(MRVErrorSink error, const MRVError &reason)
 {
-    if (error) {
-        *error = text;
-    }
+    error.set(reason);
     return false;
 }
 
-/** As above, with a text of the form "path: reason", of @p path and @p reason. */
-inline bool fail(QString *error, const QString &path, const QString &reason)
+/** As above, with a @p kind and a @p text. */
+inline bool fail(MRVErrorSink error, MRVErrorKind kind, const QString &text)
 {
-    return fail(error, QStringLiteral("%1: %2").arg(path, reason));
+    return fail(error, {kind, text});
+}
+
+/** As above, for a failure of no particular kind, with a @p text. */
+inline bool fail(MRVErrorSink error, const QString &text)
+{
+    return fail(error, MRVErrorKind::Other, text);
+}
+
+/** As above, with a text of the form "path: reason", of @p path and @p reason, whose kind stays. */
+inline bool fail(MRVErrorSink error, const QString &path, const MRVError &reason)
+{
+    return fail(error, reason.kind, QStringLiteral("%1: %2").arg(path, reason.text));
 }
 
 } // namespace MRV

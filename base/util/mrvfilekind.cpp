@@ -6,19 +6,21 @@
 
 #include <QFileInfo>
 
-bool MRVFileKind::mayReplace(const QString &path, Test isOfKind, QString *error)
+bool MRVFileKind::mayReplace(const QString &path, Test isOfKind, MRVErrorSink error)
 {
     if (MRVCoreUtil::isMissing(path)) {
         return true;
     }
     if (!QFileInfo(path).isFile()) {
-        return MRV::fail(error, path, tr("it is not a regular file"));
+        return MRV::fail(error, path, {MRVErrorKind::Other, tr("it is not a regular file")});
     }
-    QString unreadable;
+    MRVError unreadable;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, &unreadable);
-    if (!unreadable.isEmpty()) {
+    if (unreadable) {
         return MRV::fail(error, unreadable);
     }
     return bytes.isEmpty() || isOfKind(bytes)
-        || MRV::fail(error, path, tr("it holds something else, which is not overwritten"));
+        || MRV::fail(
+               error, path,
+               {MRVErrorKind::Damaged, tr("it holds something else, which is not overwritten")});
 }

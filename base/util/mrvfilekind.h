@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -29,5 +30,5 @@ public:
      *              the answer is no; untouched otherwise.
      * @return false also for what is no regular file, and for a file that cannot be read.
      */
-    static bool mayReplace(const QString &path, Test isOfKind, QString *error = nullptr);
+    static bool mayReplace(const QString &path, Test isOfKind, MRVErrorSink error = nullptr);
 };

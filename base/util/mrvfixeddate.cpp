@@ -23,7 +23,7 @@ QDateTime MRVFixedDate::fromIsoText(const QString &text)
     return isWritable(date) ? date : QDateTime();
 }
 
-bool MRVFixedDate::fromEnvironment(QDateTime *date, QString *error)
+bool MRVFixedDate::fromEnvironment(QDateTime *date, MRVErrorSink error)
 {
     const QByteArray epoch = qgetenv("SOURCE_DATE_EPOCH");
     if (epoch.isEmpty()) {
@@ -44,7 +44,7 @@ bool MRVFixedDate::fromEnvironment(QDateTime *date, QString *error)
     return true;
 }
 
-bool MRVFixedDate::fromTextOrEnvironment(const QString &text, QDateTime *date, QString *error)
+bool MRVFixedDate::fromTextOrEnvironment(const QString &text, QDateTime *date, MRVErrorSink error)
 {
     if (text.isEmpty()) {
         return fromEnvironment(date, error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QCoreApplication>
@@ -36,7 +37,7 @@ public:
      * @return false for a text that is no such date, and as fromEnvironment().
      */
     static bool fromTextOrEnvironment(const QString &text, QDateTime *date,
-                                      QString *error = nullptr);
+                                      MRVErrorSink error = nullptr);
 
     /**
      * The date that the environment variable SOURCE_DATE_EPOCH gives, in seconds since 1970.
@@ -45,5 +46,5 @@ public:
      * @param error if given, receives a translated line on failure; untouched on success.
      * @return false where the variable is no number, or a date outside the years.
      */
-    static bool fromEnvironment(QDateTime *date, QString *error = nullptr);
+    static bool fromEnvironment(QDateTime *date, MRVErrorSink error = nullptr);
 };

@@ -5,11 +5,11 @@
 
 #include <QFileInfo>
 
-bool MRV::keepCopy(const QString &path, const QByteArray &bytes, QString *error)
+bool MRV::keepCopy(const QString &path, const QByteArray &bytes, MRVErrorSink error)
 {
-    QString reason;
+    MRVError unreadable;
     const bool isNew = !QFileInfo::exists(path);
-    if (!isNew && MRVCoreUtil::ReadBinaryFile(path, &reason) == bytes && reason.isEmpty()) {
+    if (!isNew && MRVCoreUtil::ReadBinaryFile(path, &unreadable) == bytes && !unreadable) {
         return true;
     }
     return MRVFileWriter::write(isNew ? path : MRVCoreUtil::GetUniqueFileName(path), bytes, error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -18,6 +19,6 @@ namespace MRV {
  * @since 1.0
  */
 MRVBASE_EXPORT bool keepCopy(const QString &path, const QByteArray &bytes,
-                             QString *error = nullptr);
+                             MRVErrorSink error = nullptr);
 
 } // namespace MRV

@@ -2,6 +2,7 @@
 
 #include "core/mrvcoreutil.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -84,7 +85,7 @@ MRVProgramResult::End endOf(const QProcess &process, bool isLarge)
 
 MRVProgramResult mrvRunLimited(const QString &program, const QStringList &arguments,
                                const QString &input, const QString &folder,
-                               const MRVProgramLimits &limits)
+                               const MRVProgramLimits &limits, const std::function<bool()> &mayGoOn)
 {
     const QString output = QDir(folder).filePath(QStringLiteral("stdout"));
     const QString errors = QDir(folder).filePath(QStringLiteral("stderr"));
@@ -99,10 +100,16 @@ MRVProgramResult mrvRunLimited(const QString &program, const QStringList &argume
     if (!process.waitForStarted()) {
         return result;
     }
-    if (!process.waitForFinished(limits.milliseconds) && process.state() != QProcess::NotRunning) {
-        process.end();
-        result.end = MRVProgramResult::OutOfTime;
-        return result;
+    const QDeadlineTimer deadline(limits.milliseconds);
+    constexpr qint64 Interval = 50; // milliseconds
+    while (!process.waitForFinished(int(qMin(Interval, deadline.remainingTime())))
+           && process.state() != QProcess::NotRunning) {
+        const bool isLate = deadline.hasExpired();
+        if (isLate || (mayGoOn && !mayGoOn())) {
+            process.end();
+            result.end = isLate ? MRVProgramResult::OutOfTime : MRVProgramResult::Cancelled;
+            return result;
+        }
     }
     // The one that has reached the limit may have been ended by it, or have seen it as an error.
     result.end = endOf(process,

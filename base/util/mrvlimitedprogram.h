@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 /**
  * What a program may use before it is ended.
  * @since 1.0
@@ -24,10 +26,10 @@ struct MRVProgramLimits
 struct MRVProgramResult
 {
     /** NotStarted: it is missing or not executable; Crashed: a signal ended it. */
-    enum End { Exited, NotStarted, OutOfTime, TooMuchOutput, Crashed };
+    enum End { Exited, NotStarted, OutOfTime, TooMuchOutput, Crashed, Cancelled };
     End end = NotStarted;
     int exitCode = -1; ///< of Exited
-    QByteArray output; ///< its standard output; empty for TooMuchOutput and OutOfTime
+    QByteArray output; ///< its standard output; empty where a limit or the caller ended it
     QByteArray errors; ///< its standard error, likewise
 };
 
@@ -44,8 +46,10 @@ struct MRVProgramResult
  * @param input     a file that is its standard input.
  * @param folder    exists, for this run alone.
  * @param limits    each of them ends it.
+ * @param mayGoOn   if given, is called every 50 ms, and ends it by returning false.
  * @since 1.0
  */
 MRVBASE_EXPORT MRVProgramResult mrvRunLimited(const QString &program, const QStringList &arguments,
                                               const QString &input, const QString &folder,
-                                              const MRVProgramLimits &limits);
+                                              const MRVProgramLimits &limits,
+                                              const std::function<bool()> &mayGoOn = {});

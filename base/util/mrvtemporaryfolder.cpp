@@ -70,7 +70,7 @@ MRVTemporaryFolder::MRVTemporaryFolder(const QString &place)
 {
     const MRVHeldSignals held;
     if (!mkdtemp(m_path.data())) {
-        m_error = qt_error_string(errno);
+        m_error = MRVError::ofSystem(errno);
         m_path.clear();
         return;
     }

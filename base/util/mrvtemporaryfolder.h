@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
 
 #include <QByteArray>
@@ -45,8 +46,8 @@ public:
 
     /** Absolute, without links; empty when the folder could not be made. */
     QString path() const;
-    /** The system's reason why the folder could not be made; else empty. */
-    QString errorString() const { return m_error; }
+    /** The system's reason why the folder could not be made; else no error. */
+    const MRVError &error() const { return m_error; }
     /** Leaves the folder where it is for good; path() is empty afterwards. */
     void keep();
 
@@ -58,5 +59,5 @@ private:
     static MRVTemporaryFolder *s_first; // changed with the signals held, read by their handler
     MRVTemporaryFolder *m_next = nullptr;
     QByteArray m_path; // not detached after construction: the handler reads it
-    QString m_error;
+    MRVError m_error;
 };

@@ -1,6 +1,7 @@
 #include "xhtml/mrvdocumenthtml.h"
 
 #include "document/mrvdocumentcopy.h"
+#include "document/mrvmarginnotes.h"
 #include "text/mrvlistmarkers.h"
 #include "text/mrvnestedlists.h"
 #include "text/mrvtextlistformat.h"
@@ -370,8 +371,11 @@ QString withAllNames(const QString &html, const QTextDocument &document)
 
 } // namespace
 
-QString mrvDocumentHtml(const QTextDocument &document)
+QString mrvDocumentHtml(const QTextDocument &source)
 {
+    const std::unique_ptr<QTextDocument> withNotes =
+        MRVMarginNotes::copyWithParagraphs(source, MRVMarginNote::Footnote);
+    const QTextDocument &document = withNotes ? *withNotes : source;
     const Faults faults(document);
     if (!faults.any()) {
         return withAllNames(withListTags(document.toHtml("utf-8"), document, document), document);

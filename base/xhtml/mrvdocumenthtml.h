@@ -20,6 +20,7 @@ class QTextDocument;
  *   item whose marker is none of HTML's carries it as text of its style, which a browser shows that
  *   knows CSS of this kind; others show the number or bullet that the list has in HTML.
  * - All names of an anchor are written, and not just the first one.
+ * - Footnotes in the margin are marks and paragraphs: MRVMarginNotes::toParagraphs().
  *
  * The document is never changed: one that needs any of these is copied first. GUI thread only.
  */

@@ -1,5 +1,6 @@
 #include "xhtml/mrvexportcheck.h"
 
+#include "textformat/mrvtextformat.h"
 #include "util/mrvlocalfile.h"
 #include "xhtml/mrvhtmltag.h"
 #include "xhtml/mrvhtmltext.h"
@@ -70,11 +71,11 @@ QString wordsOf(const QString &text)
     return words.join(u' ');
 }
 
-// A word without the marks of comments, as in "word[12].", which the document does not hold.
-QString withoutMarks(QStringView word)
+// What is the whole text of a link to a note, or back from it: "12", "[12]", "12.".
+bool isMark(const QString &text)
 {
-    static const QRegularExpression marks(QStringLiteral("\\[\\d+\\]"));
-    return word.toString().remove(marks);
+    static const QRegularExpression mark(QStringLiteral("^\\s*(?:\\d+\\.?|\\[\\d+\\])\\s*$"));
+    return mark.match(text).hasMatch();
 }
 
 // Elements that stand within a paragraph and within a word.
@@ -157,6 +158,9 @@ private:
         const int end = tagEnd(begin);
         const bool isEnd = m_page.midRef(begin, 2) == QLatin1String("</");
         const QString name = nameAt(isEnd ? begin + 2 : begin + 1);
+        if (name == QLatin1String("a")) {
+            readLinkEdge(isEnd);
+        }
         if (name == QLatin1String("br") || name == QLatin1String("img")) {
             m_text += u' ';
         } else if (!isInline(name)) {
@@ -167,6 +171,16 @@ private:
             readAttributes(name, QStringView(m_page).mid(begin, end - begin));
         }
         return end;
+    }
+
+    void readLinkEdge(bool isEnd)
+    {
+        if (!isEnd) {
+            m_linkBegin = m_text.size();
+        } else if (isMark(m_text.mid(m_linkBegin))) {
+            m_plainText += m_text.midRef(m_plainEnd, m_linkBegin - m_plainEnd);
+            m_plainEnd = m_text.size();
+        }
     }
 
     int tagEnd(int begin) const
@@ -218,23 +232,31 @@ private:
 
     void endParagraph()
     {
-        m_content->add(m_text);
+        const bool hasMarks = m_plainEnd > 0;
+        m_content->add(m_text, hasMarks ? m_plainText + m_text.midRef(m_plainEnd) : QString());
         m_text.resize(0);
+        m_plainText.resize(0);
+        m_plainEnd = 0;
+        m_linkBegin = 0;
     }
 
     const QString &m_page;
     const QString m_name;
     Content *m_content;
     QString m_text; // of the paragraph so far
+    QString m_plainText; // without the marks of notes, up to m_plainEnd of the text
+    int m_plainEnd = 0;
+    int m_linkBegin = 0; // of the last link
 };
 
-void MRVExportCheck::Content::add(const QString &paragraph)
+void MRVExportCheck::Content::add(const QString &paragraph, const QString &plainText)
 {
     const QString text = mrvXmlText(paragraph);
     const quint64 hash = hashOf(text);
     if (hash != 0) {
+        const QString plain = mrvXmlText(plainText);
         // A copy of its own, no longer than the text.
-        paragraphs.append({hash, QString(text.constData(), text.size())});
+        paragraphs.append({QString(text.constData(), text.size()), hash, plain, hashOf(plain)});
     }
 }
 
@@ -280,10 +302,24 @@ QString MRVExportCheck::textOf(const QTextBlock &block) const
     return text;
 }
 
+// Once, however many pieces of text it is about.
+void MRVExportCheck::addFootnote(const QTextCharFormat &format, QSet<QString> *known)
+{
+    const QString text = format.stringProperty(MRVTextFormat::CommentData0);
+    const QString note = format.property(MRVTextFormat::CommentData1).toString() + u'\n' + text;
+    if (!known->contains(note)) {
+        known->insert(note);
+        for (const QString &paragraph : text.split(u'\n')) {
+            m_expected.add(paragraph);
+        }
+    }
+}
+
 void MRVExportCheck::addDocument(const QTextDocument &document)
 {
     const QString name = QString::number(++m_documents); // so that links do not mix
     QString address;
+    QSet<QString> footnotes;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         m_expected.add(textOf(block));
         address.clear();
@@ -291,6 +327,9 @@ void MRVExportCheck::addDocument(const QTextDocument &document)
             const QTextFragment fragment = it.fragment();
             const QTextCharFormat format = fragment.charFormat();
             const QTextImageFormat image = format.toImageFormat();
+            if (format.boolProperty(MRVTextFormat::InspectorFootnoteProperty)) {
+                addFootnote(format, &footnotes);
+            }
             if (image.isValid() && !image.name().isEmpty()
                 && (m_target == Pages || !MRV::isElsewhere(image.name()))) {
                 m_expected.pictures += fragment.length();
@@ -312,38 +351,63 @@ void MRVExportCheck::addPage(const QString &html, const QString &name)
     PageReader(html, name, &m_held).read();
 }
 
+// Words with and without a mark count as one of either.
+void MRVExportCheck::addWords(const Paragraph &paragraph, QHash<QString, int> *counts)
+{
+    QHash<QString, int> own;
+    forEachWord(paragraph.text, [&](QStringView word) {
+        ++own[word.toString()];
+        ++(*counts)[word.toString()];
+    });
+    QHash<QString, int> plain;
+    forEachWord(paragraph.plainText, [&](QStringView view) {
+        const QString word = view.toString();
+        if (++plain[word] > own.value(word)) {
+            ++(*counts)[word];
+        }
+    });
+}
+
+// Takes out of both what they have in common, by a hash of what the pages hold.
+void MRVExportCheck::removeCommon(QVector<Paragraph> *expected, quint64 Paragraph::*heldHash,
+                                  QVector<Paragraph> *held)
+{
+    QHash<quint64, int> counts; // of those in the pages
+    for (const Paragraph &paragraph : qAsConst(*held)) {
+        ++counts[paragraph.*heldHash];
+    }
+    QHash<quint64, int> common;
+    const auto isMet = [&](const Paragraph &paragraph) {
+        if (counts.value(paragraph.hash) == 0) {
+            return false;
+        }
+        --counts[paragraph.hash];
+        ++common[paragraph.hash];
+        return true;
+    };
+    expected->erase(std::remove_if(expected->begin(), expected->end(), isMet), expected->end());
+    const auto wasMet = [&](const Paragraph &paragraph) {
+        return common[paragraph.*heldHash]-- > 0;
+    };
+    held->erase(std::remove_if(held->begin(), held->end(), wasMet), held->end());
+}
+
 QStringList MRVExportCheck::lostWords() const
 {
-    QHash<quint64, int> held; // how often the pages have a paragraph that was not met yet
-    for (const Paragraph &paragraph : m_held.paragraphs) {
-        ++held[paragraph.hash];
-    }
-    QVector<QString> changed;
-    for (const Paragraph &paragraph : m_expected.paragraphs) {
-        int &count = held[paragraph.hash];
-        if (count > 0) {
-            --count;
-        } else {
-            changed.append(paragraph.text);
-        }
-    }
+    QVector<Paragraph> changed = m_expected.paragraphs;
+    QVector<Paragraph> besides = m_held.paragraphs;
+    removeCommon(&changed, &Paragraph::hash, &besides);
+    removeCommon(&changed, &Paragraph::plainHash, &besides);
     QHash<QString, int> spare; // words of the pages that are in no paragraph that was met
-    for (const Paragraph &paragraph : m_held.paragraphs) {
-        int &count = held[paragraph.hash];
-        if (count > 0 && !changed.isEmpty()) {
-            --count;
-            forEachWord(paragraph.text, [&](QStringView word) {
-                ++spare[word.toString()];
-                if (word.indexOf(u']') > 0) {
-                    ++spare[withoutMarks(word)];
-                }
-            });
+    if (!changed.isEmpty()) {
+        for (const Paragraph &paragraph : qAsConst(besides)) {
+            addWords(paragraph, &spare);
         }
     }
     QStringList losses;
-    for (const QString &paragraph : qAsConst(changed)) {
+    for (const Paragraph &paragraph : qAsConst(changed)) {
         QStringList lost;
-        forEachWord(paragraph, [&](QStringView word) {
+        forEachWord(paragraph.text, [&](QStringView word) {
             int &count = spare[word.toString()];
             if (count > 0) {
                 --count;
@@ -353,7 +417,7 @@ QStringList MRVExportCheck::lostWords() const
         });
         if (!lost.isEmpty()) {
             constexpr int Shown = 40; // characters
-            const QString beginning = wordsOf(paragraph).left(Shown).trimmed();
+            const QString beginning = wordsOf(paragraph.text).left(Shown).trimmed();
             losses.append(tr("not in what was written, of the paragraph \"%1\": %2")
                               .arg(beginning, lost.join(u' ')));
         }

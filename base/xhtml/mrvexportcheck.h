@@ -10,6 +10,7 @@
 #include <QVector>
 
 class QTextBlock;
+class QTextCharFormat;
 class QTextDocument;
 
 /**
@@ -18,8 +19,9 @@ class QTextDocument;
  *
  * Paragraphs are compared whole, wherever they stand, since an e-book moves notes; where one has
  * changed, its words are looked for in what the pages have besides. What the pages hold in addition
- * is no loss. The markup of the pages is read by its own few rules and not by what wrote it. The
- * cost is linear, and a small part of that of an export. GUI thread only.
+ * is no loss; marks of notes, which are links of a number, may stand within words. Footnotes in the
+ * margin are paragraphs. The markup of the pages is read by its own few rules and not by what wrote
+ * it. The cost is linear, and a small part of that of an export. GUI thread only.
  *
  * @code
  * MRVTextXhtmlExporter exporter(&document);
@@ -68,8 +70,10 @@ private:
 
     struct Paragraph
     {
-        quint64 hash;
         QString text; // with white space as it came
+        quint64 hash; // of its words
+        QString plainText; // without the marks of notes; null where it has none
+        quint64 plainHash;
     };
 
     struct Link
@@ -85,10 +89,14 @@ private:
         QSet<QString> names; // that links can lead to: "page#name"
         int pictures = 0;
 
-        void add(const QString &paragraph);
+        void add(const QString &paragraph, const QString &plainText = QString());
         QHash<QString, int> countedLinks(bool isBook) const;
     };
 
+    static void removeCommon(QVector<Paragraph> *expected, quint64 Paragraph::*heldHash,
+                             QVector<Paragraph> *held);
+    static void addWords(const Paragraph &paragraph, QHash<QString, int> *counts);
+    void addFootnote(const QTextCharFormat &format, QSet<QString> *known);
     QString textOf(const QTextBlock &block) const;
     QStringList lostWords() const;
     QStringList lostLinks() const;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "util/mrvbase_export.h"
+#include "util/mrvprogress.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -33,7 +35,7 @@ class QTextImageFormat;
  *                      &error)) {
  *     qWarning() << error;
  * }
- * const QStringList missing = exporter.unwrittenImages();
+ * const QVector<MRVError> missing = exporter.unwrittenImages();
  * @endcode
  *
  * @since 1.0
@@ -92,11 +94,13 @@ public:
      * does not: all are encoded again, unless a file of the same suffix is linked.
      */
     void setKeepsPictures(bool keeps) { m_keepsPictures = keeps; }
+    /** What follows toFile(); nothing at first. */
+    void setProgress(const MRVProgress &progress) { m_progress = progress; }
     /**
-     * A line with file and reason for each picture of the document that the last toFile() could not
-     * write.
+     * An error, whose line names the file, for each picture of the document that the last toFile()
+     * could not write.
      */
-    QStringList unwrittenImages() const { return m_unwrittenImages; }
+    QVector<MRVError> unwrittenImages() const { return m_unwrittenImages; }
 
     /**
      * The text that toFile() would write, without images being exported.
@@ -122,7 +126,7 @@ public:
      * @return false without a document or when the page cannot be written.
      */
     bool toFile(ExportType type, const QString &path, bool exportImages,
-                const QString &imageDir = QString(), QString *error = nullptr);
+                const QString &imageDir = QString(), MRVErrorSink error = nullptr);
     /** toFile() with type Html, to @p path, and with @p exportImages as there. */
     bool toHtml(const QString &path, bool exportImages);
     /** toFile() with type Xhtml, to @p path, and with @p exportImages as there. */
@@ -146,7 +150,7 @@ public:
      */
     static bool toEBookXhtml(ExportType type, const QString &path,
                              const QHash<QString, QString> &links, StyleList *styles,
-                             const QTextDocument *document, QString *error = nullptr);
+                             const QTextDocument *document, MRVErrorSink error = nullptr);
     /**
      * @name toEBookXhtml() by type
      *
@@ -330,17 +334,20 @@ public:
 private:
     QString pageText(const QString &html, ExportType type, const QString &title);
     QString writeImage(const QString &dir, const QTextImageFormat &imageFormat, const char *format,
-                       MRVPictureFiles *files, QString *error = nullptr) const;
+                       MRVPictureFiles *files, MRVErrorSink error = nullptr) const;
     QStringList writeImages(const QString &dir, QString *html, const char *format,
-                            MRVPictureFiles *files, QStringList *failed = nullptr) const;
+                            MRVPictureFiles *files, MRVProgressMeter *meter,
+                            QVector<MRVError> *failed = nullptr) const;
     QStringList writeKeptImages(const QString &dir, QString *html, const char *format,
-                                MRVPictureFiles *files, QStringList *failed) const;
+                                MRVPictureFiles *files, MRVProgressMeter *meter,
+                                QVector<MRVError> *failed) const;
     QString imageReference(const QString &file) const;
 
     const QTextDocument *m_document;
     StyleList m_styles;
     QString m_language;
     bool m_keepsPictures = false;
-    QStringList m_unwrittenImages;
+    MRVProgress m_progress;
+    QVector<MRVError> m_unwrittenImages;
     QString m_pageDir; // set while a page is written: what image references are relative to
 };

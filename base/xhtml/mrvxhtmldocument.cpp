@@ -70,7 +70,7 @@ const char *imageFormatOf(MRVTextXhtmlExporter::ExportType type)
 
 // The bytes of a picture for a page, and their suffix; empty on failure.
 QByteArray pageBytes(const MRVDocumentPicture &picture, bool asJpeg, QString *suffix,
-                     QString *reason)
+                     MRVErrorSink reason)
 {
     const QByteArray bytes = picture.bytes(reason);
     *suffix = picture.suffix();
@@ -86,15 +86,15 @@ QByteArray pageBytes(const MRVDocumentPicture &picture, bool asJpeg, QString *su
 
 // Writes a picture into a folder under its name; empty on failure.
 QString writeKept(const MRVDocumentPicture &picture, const QString &dir, const char *format,
-                  MRVPictureFiles *files, QString *error)
+                  MRVPictureFiles *files, MRVErrorSink error)
 {
     QString suffix;
-    QString reason;
+    MRVError reason;
     const QByteArray bytes = pageBytes(picture, qstrcmp(format, "JPG") == 0, &suffix, &reason);
     if (bytes.isEmpty()) {
-        MRV::fail(error,
+        MRV::fail(error, reason.kind,
                   MRVTextXhtmlExporter::tr("The picture %1 cannot be written: %2")
-                      .arg(picture.name(), reason));
+                      .arg(picture.name(), reason.text));
         return QString();
     }
     const QString name = MRV::cleanFileName(picture.name());
@@ -106,13 +106,13 @@ struct WrittenPicture
 {
     QString id;
     QString file; // empty where it could not be written
-    QString reason; // why
+    MRVError reason; // why
 };
 
 // Puts the files in their places; leaves those that are there, and tells of the others.
-void dropFailed(QVector<WrittenPicture> *written, MRVPictureFiles *files, QStringList *failed)
+void dropFailed(QVector<WrittenPicture> *written, MRVPictureFiles *files, QVector<MRVError> *failed)
 {
-    const QMap<QString, QString> missing = files->commit();
+    const QMap<QString, MRVError> missing = files->commit();
     QVector<WrittenPicture> kept;
     for (const WrittenPicture &picture : qAsConst(*written)) {
         if (!picture.file.isEmpty() && !missing.contains(picture.file)) {
@@ -174,30 +174,34 @@ QString MRVTextXhtmlExporter::toText(ExportType type, const QString &title)
 }
 
 bool MRVTextXhtmlExporter::toFile(ExportType type, const QString &path, bool exportImages,
-                                  const QString &imageDir, QString *error)
+                                  const QString &imageDir, MRVErrorSink error)
 {
     if (!m_document) {
-        if (error) {
-            *error = tr("There is no document to export to %1.").arg(path);
-        }
-        return false;
+        return MRV::fail(error, tr("There is no document to export to %1.").arg(path));
     }
+    MRVProgressMeter meter(m_progress);
+    meter.begin(250, 1);
     QString html = mrvDocumentHtml(*m_document);
     MRVPictureFiles files;
     QString newFolder;
     m_unwrittenImages.clear();
+    if (!meter.advance()) {
+        return MRV::fail(error, MRVProgressMeter::cancelled());
+    }
     if (exportImages) {
         const QString folder = imageDir.isEmpty() ? calcImageDir(path) : imageDir;
         newFolder = QFileInfo::exists(folder) ? QString() : folder;
         m_pageDir = QFileInfo(path).absolutePath();
         const auto write = m_keepsPictures ? &MRVTextXhtmlExporter::writeKeptImages
                                            : &MRVTextXhtmlExporter::writeImages;
-        (this->*write)(folder, &html, imageFormatOf(type), &files, &m_unwrittenImages);
+        (this->*write)(folder, &html, imageFormatOf(type), &files, &meter, &m_unwrittenImages);
         m_pageDir.clear();
     }
     const QString title = mrvDocumentTitle(*m_document, QFileInfo(path).completeBaseName());
-    const QString text = pageText(html, type, title);
-    const bool ok = MRVCoreUtil::WriteUnicodeTextFile(text, path, error, "UTF-8");
+    meter.begin(1000, 1);
+    const QString text = meter.isCancelled() ? QString() : pageText(html, type, title);
+    const bool ok = meter.advance() ? MRVCoreUtil::WriteUnicodeTextFile(text, path, error, "UTF-8")
+                                    : MRV::fail(error, MRVProgressMeter::cancelled());
     if (!ok) {
         removeFiles(files.created(), newFolder);
     }
@@ -216,13 +220,10 @@ bool MRVTextXhtmlExporter::toXhtml(const QString &path, bool exportImages)
 
 bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
                                         const QHash<QString, QString> &links, StyleList *styles,
-                                        const QTextDocument *document, QString *error)
+                                        const QTextDocument *document, MRVErrorSink error)
 {
     if (!document || type == Html || type == Xhtml) {
-        if (error) {
-            *error = tr("There is no e-book page to export to %1.").arg(path);
-        }
-        return false;
+        return MRV::fail(error, tr("There is no e-book page to export to %1.").arg(path));
     }
     const QLatin1String suffix(".xhtml");
     const QString file = path.endsWith(suffix, Qt::CaseInsensitive) ? path : path + suffix;
@@ -232,7 +233,8 @@ bool MRVTextXhtmlExporter::toEBookXhtml(ExportType type, const QString &path,
     exporter.m_pageDir = QFileInfo(file).absolutePath();
     QString html = mrvDocumentHtml(*document);
     MRVPictureFiles files;
-    exporter.writeImages(folder, &html, imageFormatOf(type), &files);
+    MRVProgressMeter meter({});
+    exporter.writeImages(folder, &html, imageFormatOf(type), &files, &meter);
 
     MRVPageWriter writer(type, MRVHtmlDialect::Xhtml11, styles);
     writer.reserveId(QStringLiteral("start"));
@@ -273,7 +275,7 @@ QString MRVTextXhtmlExporter::calcImageDir(const QString &path)
 
 QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFormat &imageFormat,
                                          const char *format, MRVPictureFiles *files,
-                                         QString *error) const
+                                         MRVErrorSink error) const
 {
     if (!m_document) {
         return QString();
@@ -290,7 +292,7 @@ QString MRVTextXhtmlExporter::writeImage(const QString &dir, const QTextImageFor
     const QByteArray bytes = MRVTextFormat::imageFileBytes(fileName, imageFormat, picture);
     if (bytes.isEmpty()) {
         MRV::fail(
-            error,
+            error, MRVErrorKind::Unsupported,
             MRVTextFormat::tr("The picture cannot be encoded for the file \"%1\".").arg(fileName));
         return QString();
     }
@@ -331,11 +333,13 @@ QStringList MRVTextXhtmlExporter::exportDocImages(const QString &dir, QString *h
                                                   const char *format) const
 {
     MRVPictureFiles files;
-    return writeImages(dir, html, format, &files);
+    MRVProgressMeter meter({});
+    return writeImages(dir, html, format, &files, &meter);
 }
 
 QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html, const char *format,
-                                              MRVPictureFiles *files, QStringList *failed) const
+                                              MRVPictureFiles *files, MRVProgressMeter *meter,
+                                              QVector<MRVError> *failed) const
 {
     QStringList paths;
     if (!m_document) {
@@ -344,14 +348,18 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
     QVector<WrittenPicture> written;
     QSet<QString> seen;
     const QList<QTextImageFormat> formats = MTextDoc::imageFormats(*m_document);
+    meter->begin(750, formats.size());
     for (const QTextImageFormat &imageFormat : formats) {
+        if (!meter->advance()) {
+            return QStringList();
+        }
         const QString id = MRVTextFormat::imageResourceId(imageFormat);
         if (seen.contains(id) || MRVTextFormat::image(*m_document, imageFormat).isNull()) {
             continue;
         }
         seen.insert(id);
         QDir().mkpath(dir);
-        QString reason;
+        MRVError reason;
         const QString file = writeImage(dir, imageFormat, format, files, &reason);
         written.append({id, file, reason});
     }
@@ -369,13 +377,18 @@ QStringList MRVTextXhtmlExporter::writeImages(const QString &dir, QString *html,
 
 QStringList MRVTextXhtmlExporter::writeKeptImages(const QString &dir, QString *html,
                                                   const char *format, MRVPictureFiles *files,
-                                                  QStringList *failed) const
+                                                  MRVProgressMeter *meter,
+                                                  QVector<MRVError> *failed) const
 {
-    const MRVDocumentPictures pictures(*m_document);
+    const MRVDocumentPictures pictures(*m_document, meter);
     QVector<WrittenPicture> written; // by their place as ids
+    meter->begin(750, pictures.all().size());
     for (const MRVDocumentPicture &picture : pictures.all()) {
+        if (!meter->advance()) {
+            return QStringList();
+        }
         QDir().mkpath(dir);
-        QString reason;
+        MRVError reason;
         const QString file = writeKept(picture, dir, format, files, &reason);
         written.append({QString::number(written.size()), file, reason});
     }

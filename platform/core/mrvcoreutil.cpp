@@ -88,37 +88,41 @@ bool encode(const QString &text, const QTextCodec &codec, QByteArray *bytes)
 }
 
 // Counted while reading, too: a pipe has no size, and a file may grow.
-QByteArray readUpTo(qint64 limit, const QString &path, QString *error)
+QByteArray readUpTo(qint64 limit, const QString &path, MRVErrorSink error, bool isStream = false)
 {
-    const auto fail = [&](const QString &reason) {
+    const auto fail = [&](const MRVError &reason) {
         mrvSetErrorLine(error, MRVCoreUtil::tr("Cannot read the file \"%1\": %2"), path, reason);
         return QByteArray();
     };
     if (path.isEmpty()) {
-        return fail(MRVCoreUtil::tr("the file has no name"));
+        return fail({MRVErrorKind::Other, MRVCoreUtil::tr("the file has no name")});
     }
     if (path.contains(QChar(QChar::Null))) {
-        return fail(MRVCoreUtil::tr("its name holds a null character"));
+        return fail({MRVErrorKind::Other, MRVCoreUtil::tr("its name holds a null character")});
     }
     // Opening a folder succeeds, and reading it then yields nothing.
     if (QFileInfo(path).isDir()) {
-        return fail(MRVCoreUtil::tr("it is a folder"));
+        return fail({MRVErrorKind::Other, MRVCoreUtil::tr("it is a folder")});
+    }
+    // Opening a pipe waits for whoever writes into it, and a device may never end.
+    if (!isStream && QFileInfo::exists(path) && !QFileInfo(path).isFile()) {
+        return fail({MRVErrorKind::Other, MRVCoreUtil::tr("it is not a regular file")});
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return fail(file.errorString());
+        return fail(MRVError::ofDevice(file));
     }
     if (file.size() > limit) {
-        return fail(MRVCoreUtil::tr("it is too large"));
+        return fail({MRVErrorKind::TooLarge, MRVCoreUtil::tr("it is too large")});
     }
     QByteArray bytes;
     bytes.reserve(int(file.size()));
     for (QByteArray piece; !(piece = file.read(PieceBytes)).isEmpty(); bytes += piece) {
         if (bytes.size() + piece.size() > limit) {
-            return fail(MRVCoreUtil::tr("it is too large"));
+            return fail({MRVErrorKind::TooLarge, MRVCoreUtil::tr("it is too large")});
         }
     }
-    return file.error() == QFileDevice::NoError ? bytes : fail(file.errorString());
+    return file.error() == QFileDevice::NoError ? bytes : fail(MRVError::ofDevice(file));
 }
 
 // Not QFileInfo::exists() alone, which follows a link and so calls a dangling one free.
@@ -143,20 +147,19 @@ QString shortened(QString stem, const QString &ending)
 } // namespace
 
 bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString *text,
-                             QString *reason)
+                             MRVErrorSink reason)
 {
-    const auto fail = [&](const QString &why) {
-        if (reason) {
-            *reason = why;
-        }
+    const auto fail = [&](MRVErrorKind kind, const QString &why) {
+        reason.set({kind, why});
         return false;
     };
     QTextCodec *decoder = codecForName(codec);
     if (!decoder) {
-        return fail(tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
+        return fail(MRVErrorKind::Unsupported,
+                    tr("unknown text encoding \"%1\"").arg(QString::fromLatin1(codec)));
     }
     if (bytes.size() > MRVInputLimits::TextFileBytes) {
-        return fail(tr("it is too large"));
+        return fail(MRVErrorKind::TooLarge, tr("it is too large"));
     }
     decoder = QTextCodec::codecForUtfText(bytes, decoder);
     const int mib = decoder->mibEnum();
@@ -165,37 +168,36 @@ bool MRVCoreUtil::decodeText(const QByteArray &bytes, const char *codec, QString
     const QString decoded = decoder->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0
         || (!reportsErrors && !isLossless(bytes, *decoder, decoded))) {
-        return fail(tr("it is not valid %1 text").arg(QString::fromLatin1(decoder->name())));
+        return fail(MRVErrorKind::Damaged,
+                    tr("it is not valid %1 text").arg(QString::fromLatin1(decoder->name())));
     }
     *text = decoded;
     return true;
 }
 
-QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, QString *error, const char *codec)
+QString MRVCoreUtil::ReadUnicodeTextFile(const QString &path, MRVErrorSink error, const char *codec)
 {
-    QString readError;
+    MRVError readError;
     const QByteArray bytes = readUpTo(MRVInputLimits::TextFileBytes, path, &readError);
-    if (!readError.isEmpty()) {
-        if (error) {
-            *error = readError;
-        }
+    if (readError) {
+        error.set(readError);
         return QString();
     }
     QString text;
-    QString reason;
+    MRVError reason;
     if (!decodeText(bytes, codec, &text, &reason)) {
         mrvSetErrorLine(error, tr("Cannot read the file \"%1\": %2"), path, reason);
     }
     return text;
 }
 
-bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path, QString *error,
+bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path, MRVErrorSink error,
                                        const char *codec)
 {
     const QTextCodec *encoder = codecForName(codec);
     if (!encoder) {
         mrvSetErrorLine(error, tr("Cannot write the file \"%1\": unknown text encoding \"%2\""),
-                        path, QString::fromLatin1(codec));
+                        path, {MRVErrorKind::Unsupported, QString::fromLatin1(codec)});
         return false;
     }
     QByteArray bytes;
@@ -203,18 +205,23 @@ bool MRVCoreUtil::WriteUnicodeTextFile(const QString &text, const QString &path,
         mrvSetErrorLine(
             error,
             tr("Cannot write the file \"%1\": the encoding %2 lacks some characters of the text"),
-            path, QString::fromLatin1(encoder->name()));
+            path, {MRVErrorKind::Unsupported, QString::fromLatin1(encoder->name())});
         return false;
     }
     return MRVFileWriter::write(path, bytes, error);
 }
 
-QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, QString *error)
+QByteArray MRVCoreUtil::ReadBinaryFile(const QString &path, MRVErrorSink error)
 {
     return readUpTo(MRVInputLimits::FileBytes, path, error);
 }
 
-bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, QString *error)
+QByteArray MRVCoreUtil::readStream(const QString &path, MRVErrorSink error)
+{
+    return readUpTo(MRVInputLimits::FileBytes, path, error, true);
+}
+
+bool MRVCoreUtil::WriteBinaryFile(const QByteArray &bytes, const QString &path, MRVErrorSink error)
 {
     return MRVFileWriter::write(path, bytes, error);
 }

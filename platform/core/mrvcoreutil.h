@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/mrvcore_export.h"
+#include "core/mrverror.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -39,13 +40,13 @@ public:
      *               UTF-8 text"; untouched on success.
      */
     static bool decodeText(const QByteArray &bytes, const char *codec, QString *text,
-                           QString *reason = nullptr);
+                           MRVErrorSink reason = nullptr);
 
     /**
      * The text of the file or Qt resource (":/...") @p path, as decodeText() with @p codec reads
      * it; empty on failure.
      */
-    static QString ReadUnicodeTextFile(const QString &path, QString *error = nullptr,
+    static QString ReadUnicodeTextFile(const QString &path, MRVErrorSink error = nullptr,
                                        const char *codec = "UTF-8");
 
     /**
@@ -59,14 +60,23 @@ public:
      * @param codec a name that QTextCodec knows; null means UTF-8.
      */
     static bool WriteUnicodeTextFile(const QString &text, const QString &path,
-                                     QString *error = nullptr, const char *codec = "UTF-8");
+                                     MRVErrorSink error = nullptr, const char *codec = "UTF-8");
 
-    /** The bytes of the file or Qt resource @p path of 1 GiB at most; empty on failure. */
-    static QByteArray ReadBinaryFile(const QString &path, QString *error = nullptr);
+    /**
+     * The bytes of the regular file or Qt resource @p path of 1 GiB at most; empty on failure.
+     * Pipes and devices are refused, which might keep the program waiting.
+     */
+    static QByteArray ReadBinaryFile(const QString &path, MRVErrorSink error = nullptr);
+
+    /**
+     * The same, also of a pipe or device at @p path, which is read to its end, however long that
+     * takes.
+     */
+    static QByteArray readStream(const QString &path, MRVErrorSink error = nullptr);
 
     /** Replaces the file at @p path by @p bytes, through MRVFileWriter. */
     static bool WriteBinaryFile(const QByteArray &bytes, const QString &path,
-                                QString *error = nullptr);
+                                MRVErrorSink error = nullptr);
 
     /**
      * Whether the system says that no file of this name exists. QFileInfo::exists() says so, too,

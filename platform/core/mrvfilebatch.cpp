@@ -15,7 +15,7 @@ MRVFileBatch::MRVFileBatch() = default;
 
 MRVFileBatch::~MRVFileBatch() = default;
 
-bool MRVFileBatch::add(const QString &path, const QByteArray &bytes, QString *error)
+bool MRVFileBatch::add(const QString &path, const QByteArray &bytes, MRVErrorSink error)
 {
     auto file = std::make_unique<MRVPendingFile>(path);
     if (!file->fill(MRVPendingFile::contentOf(bytes), error)) {
@@ -29,19 +29,19 @@ bool MRVFileBatch::add(const QString &path, const QByteArray &bytes, QString *er
     return true;
 }
 
-QMap<QString, QString> MRVFileBatch::commit()
+QMap<QString, MRVError> MRVFileBatch::commit()
 {
     putInPlace();
-    return std::exchange(m_failed, QMap<QString, QString>());
+    return std::exchange(m_failed, QMap<QString, MRVError>());
 }
 
 // All are synced before the first rename, which the file system would have to sync again.
 void MRVFileBatch::putInPlace()
 {
-    using Step = bool (MRVPendingFile::*)(QString *);
+    using Step = bool (MRVPendingFile::*)(MRVErrorSink);
     for (const Step step : {&MRVPendingFile::sync, &MRVPendingFile::putInPlace}) {
         for (std::unique_ptr<MRVPendingFile> &file : m_files) {
-            QString reason;
+            MRVError reason;
             if (file && !(file.get()->*step)(&reason)) {
                 m_failed.insert(file->path(), reason);
                 file.reset();

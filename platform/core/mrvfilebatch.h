@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/mrvcore_export.h"
+#include "core/mrverror.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -41,7 +42,7 @@ public:
      *              failure; untouched on success.
      * @return false where it cannot be written; it is then not part of the batch.
      */
-    bool add(const QString &path, const QByteArray &bytes, QString *error = nullptr);
+    bool add(const QString &path, const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * Puts all files in their places. The batch is empty then, and can be used again.
@@ -49,11 +50,11 @@ public:
      * @return those that failed after add(), by the path given there, each with one translated line
      *         that names the file and the reason; empty on success.
      */
-    QMap<QString, QString> commit();
+    QMap<QString, MRVError> commit();
 
 private:
     void putInPlace();
 
     std::vector<std::unique_ptr<MRVPendingFile>> m_files;
-    QMap<QString, QString> m_failed;
+    QMap<QString, MRVError> m_failed;
 };

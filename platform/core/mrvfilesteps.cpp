@@ -33,16 +33,17 @@ bool isPlanted(const QFileInfo &link)
 }
 
 // Follows the links at the end of the path; empty, with a reason, where they must not be followed.
-QString realTarget(const QString &path, QString *reason)
+QString realTarget(const QString &path, MRVError *reason)
 {
     QFileInfo info(path);
     for (int i = 0; info.isSymLink(); ++i) {
         if (i == MaxLinks) {
-            *reason = MrvFileSteps::tr("its symbolic links form a loop");
+            *reason = {MRVErrorKind::Other, MrvFileSteps::tr("its symbolic links form a loop")};
             return QString();
         }
         if (isPlanted(info)) {
-            *reason = MrvFileSteps::tr("it is another user's link in a shared folder");
+            *reason = {MRVErrorKind::NoPermission,
+                       MrvFileSteps::tr("it is another user's link in a shared folder")};
             return QString();
         }
         // Not symLinkTarget(), which takes "folder/.." away even where the folder is itself a link
@@ -60,31 +61,31 @@ QString realTarget(const QString &path, QString *reason)
 
 } // namespace
 
-QString MrvFileSteps::refusal(const QString &path, QString *target)
+MRVError MrvFileSteps::refusal(const QString &path, QString *target)
 {
     if (path.isEmpty()) {
-        return tr("the file has no name");
+        return {MRVErrorKind::Other, tr("the file has no name")};
     }
     // System calls would take the part before it for the whole name.
     if (path.contains(QChar(QChar::Null))) {
-        return tr("its name holds a null character");
+        return {MRVErrorKind::Other, tr("its name holds a null character")};
     }
-    QString reason;
+    MRVError reason;
     *target = realTarget(path, &reason);
     if (target->isEmpty()) {
         return reason;
     }
     const QFileInfo info(*target);
     if (info.isDir()) {
-        return tr("it is a folder");
+        return {MRVErrorKind::Other, tr("it is a folder")};
     }
     if (info.exists() && !info.isFile()) {
-        return tr("it is not a regular file");
+        return {MRVErrorKind::Other, tr("it is not a regular file")};
     }
     if (!info.dir().exists() || target->endsWith(QLatin1Char('/'))) {
-        return tr("its folder does not exist");
+        return {MRVErrorKind::NotFound, tr("its folder does not exist")};
     }
-    return QString();
+    return {};
 }
 
 void MrvFileSteps::keepOwner(int handle, const QString &path)
@@ -107,20 +108,20 @@ bool MrvFileSteps::syncToDisk(int handle)
     return result == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
-bool MrvFileSteps::writeAll(QIODevice *file, const QByteArray &bytes, QString *reason)
+bool MrvFileSteps::writeAll(QIODevice *file, const QByteArray &bytes, MRVErrorSink reason)
 {
     qint64 done = 0;
     while (done < bytes.size()) {
         const qint64 count = file->write(bytes.constData() + done, bytes.size() - done);
         if (count <= 0) {
-            *reason = file->errorString();
+            reason.set(MRVError::ofDevice(*file));
             return false;
         }
         done += count;
     }
     // What a file system has only claimed to take is missing from the file.
     if (file->size() != file->pos()) {
-        *reason = tr("not all of it was written");
+        reason.set({MRVErrorKind::NoSpace, tr("not all of it was written")});
         return false;
     }
     return true;

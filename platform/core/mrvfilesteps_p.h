@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
@@ -15,11 +17,11 @@ public:
     MrvFileSteps() = delete;
 
     /**
-     * Why a file must not be written at @p path; empty where it may.
+     * Why a file must not be written at @p path; no error where it may.
      *
      * @param target receives its real place, behind links.
      */
-    static QString refusal(const QString &path, QString *target);
+    static MRVError refusal(const QString &path, QString *target);
 
     /**
      * Gives an open file the owner and the group of the one at @p path, as far as the system
@@ -32,7 +34,7 @@ public:
      * Adds bytes to the end of a file. A disk that fills up takes a part of the bytes without an
      * error; only the next write fails.
      */
-    static bool writeAll(QIODevice *file, const QByteArray &bytes, QString *reason);
+    static bool writeAll(QIODevice *file, const QByteArray &bytes, MRVErrorSink reason);
 
     /**
      * Waits until a file is on the disk; network and copy-on-write file systems report a full disk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/mrvcore_export.h"
+#include "core/mrverror.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -45,18 +46,18 @@ public:
      *              failure; untouched on success.
      * @return true when the new file is in place.
      */
-    static bool write(const QString &path, const QByteArray &bytes, QString *error = nullptr);
+    static bool write(const QString &path, const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * Writes to a device. Returns false, with a translated end of a sentence as the reason, where
      * that failed or took fewer bytes than it was given.
      */
-    using Content = std::function<bool(QIODevice *device, QString *reason)>;
+    using Content = std::function<bool(QIODevice *device, MRVErrorSink reason)>;
     /**
      * As above, for what need not be in memory as a whole.
      *
      * @param content writes the file to a device that is open for writing, not buffered, and can
      *                seek.
      */
-    static bool write(const QString &path, const Content &content, QString *error = nullptr);
+    static bool write(const QString &path, const Content &content, MRVErrorSink error = nullptr);
 };

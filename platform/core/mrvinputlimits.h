@@ -16,6 +16,10 @@ struct MRVInputLimits
     /** A codec makes up to three characters of a byte, and QString holds fewer than 2^30. */
     static constexpr qint64 TextFileBytes = qint64(1) << 28;
 
+    // Archives.
+    /** Files of a zip archive: as many as the form counts without its extension. */
+    static constexpr int ZipFiles = 65535;
+
     // Streams and variants.
     /** QByteArray holds 2^31 bytes less its header; a longer one never was written. */
     static constexpr quint32 StreamBytes = 0x7fffff00;
@@ -35,7 +39,7 @@ struct MRVInputLimits
     static constexpr qint64 FormatPictureMemory = 8 << 20;
     /** ... and more in proportion to its stored length. */
     static constexpr qint64 FormatPictureMemoryPerByte = 32;
-    /** Deflate makes at most this many bytes of one; a picture that claims more is damaged. */
+    /** Deflate makes at most this many bytes of one; a file that claims more is damaged. */
     static constexpr qint64 Inflation = 1032;
     /** A file with the pixels of the largest picture uncompressed. */
     static constexpr qint64 PictureFileBytes = qint64(1) << 29;

@@ -95,25 +95,24 @@ MRVPartialFile::~MRVPartialFile()
     }
 }
 
-bool MRVPartialFile::open(QString *error)
+bool MRVPartialFile::open(MRVErrorSink error)
 {
-    QString reason = MrvFileSteps::refusal(m_path, &m_target);
+    MRVError reason = MrvFileSteps::refusal(m_path, &m_target);
     const QFileInfo target(m_target);
-    if (reason.isEmpty() && target.exists() && !target.isWritable()) {
-        reason = qt_error_string(EACCES);
+    if (!reason && target.exists() && !target.isWritable()) {
+        reason = MRVError::ofSystem(EACCES);
     }
-    if (reason.isEmpty()) {
+    if (!reason) {
         reason = openPart();
     }
-    if (!reason.isEmpty()) {
+    if (reason) {
         return fail(reason, error);
     }
     readOrigin();
     return true;
 }
 
-// Empty on success, else the reason.
-QString MRVPartialFile::openPart()
+MRVError MRVPartialFile::openPart()
 {
     const QFileInfo target(m_target);
     const QString longest = QStringLiteral(".9.part.origin.XXXXXX"); // of a part's names
@@ -130,19 +129,19 @@ QString MRVPartialFile::openPart()
         const int handle = openPart(m_name, &isTaken);
         error = errno;
         if (isTaken) {
-            return tr("another program is writing it");
+            return {MRVErrorKind::InUse, tr("another program is writing it")};
         }
         if (handle >= 0) {
             m_part.open(handle, QIODevice::ReadWrite | QIODevice::Unbuffered,
                         QFileDevice::AutoCloseHandle);
             m_part.seek(m_part.size());
-            return QString();
+            return {};
         }
         if (error != EEXIST) {
             break;
         }
     }
-    return qt_error_string(error);
+    return MRVError::ofSystem(error);
 }
 
 // A handle of the part, which belongs to this object then; -1 with errno, which is EEXIST where
@@ -220,12 +219,12 @@ qint64 MRVPartialFile::size() const
     return m_part.isOpen() ? m_part.size() : 0;
 }
 
-bool MRVPartialFile::restart(const QByteArray &origin, QString *error)
+bool MRVPartialFile::restart(const QByteArray &origin, MRVErrorSink error)
 {
     m_origin.clear();
     m_synced = 0;
     if (!m_part.resize(0) || !m_part.seek(0)) {
-        return fail(m_part.errorString(), error);
+        return fail(MRVError::ofDevice(m_part), error);
     }
     if (origin.size() <= MaxOrigin) {
         m_origin = origin;
@@ -236,13 +235,13 @@ bool MRVPartialFile::restart(const QByteArray &origin, QString *error)
     return true;
 }
 
-bool MRVPartialFile::append(const QByteArray &bytes, QString *error)
+bool MRVPartialFile::append(const QByteArray &bytes, MRVErrorSink error)
 {
     // What comes now is on the disk only after the next sync.
     if (m_state == OnDisk) {
         writeOrigin(thisBoot());
     }
-    QString reason;
+    MRVError reason;
     for (int at = 0; at < bytes.size(); at += WrittenAtOnce) {
         const QByteArray piece =
             QByteArray::fromRawData(bytes.constData() + at, qMin(WrittenAtOnce, bytes.size() - at));
@@ -258,7 +257,7 @@ bool MRVPartialFile::append(const QByteArray &bytes, QString *error)
     return true;
 }
 
-bool MRVPartialFile::putInPlace(QString *error)
+bool MRVPartialFile::putInPlace(MRVErrorSink error)
 {
     const QFileInfo target(m_target);
     if (target.exists()) {
@@ -266,17 +265,17 @@ bool MRVPartialFile::putInPlace(QString *error)
         m_part.setPermissions(target.permissions());
     }
     if (!MrvFileSteps::syncToDisk(m_part.handle())) {
-        return fail(qt_error_string(errno), error);
+        return fail(MRVError::ofSystem(errno), error);
     }
     const bool isInPlace = MrvFileSteps::renameOver(m_name, m_target);
     const int reason = errno;
     // In this order: as long as the file is open, nobody else takes it for a part.
     removeOrigin();
     m_part.close();
-    return isInPlace || fail(qt_error_string(reason), error);
+    return isInPlace || fail(MRVError::ofSystem(reason), error);
 }
 
-bool MRVPartialFile::fail(const QString &reason, QString *error)
+bool MRVPartialFile::fail(const MRVError &reason, MRVErrorSink error)
 {
     mrvSetErrorLine(error, tr("Cannot write the file \"%1\": %2"), m_path, reason);
     return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/mrvcore_export.h"
+#include "core/mrverror.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -37,7 +38,7 @@ public:
      *
      * @param error if given, receives one translated line on failure.
      */
-    bool open(QString *error = nullptr);
+    bool open(MRVErrorSink error = nullptr);
 
     /** How much there is of it, in bytes; 0 before open(). */
     qint64 size() const;
@@ -51,7 +52,7 @@ public:
      *               where they cannot.
      * @param error  as for open().
      */
-    bool restart(const QByteArray &origin, QString *error = nullptr);
+    bool restart(const QByteArray &origin, MRVErrorSink error = nullptr);
 
     /**
      * Adds bytes at the end.
@@ -59,7 +60,7 @@ public:
      * @param bytes may be empty.
      * @param error as for open().
      */
-    bool append(const QByteArray &bytes, QString *error = nullptr);
+    bool append(const QByteArray &bytes, MRVErrorSink error = nullptr);
 
     /**
      * Brings it to the disk and puts it in the place of the old file; this object is done with
@@ -67,14 +68,14 @@ public:
      *
      * @param error as for open().
      */
-    bool putInPlace(QString *error = nullptr);
+    bool putInPlace(MRVErrorSink error = nullptr);
 
 private:
-    QString openPart();
+    MRVError openPart();
     int openPart(const QString &name, bool *isTaken);
     void readOrigin();
     bool writeOrigin(const QByteArray &state);
-    bool fail(const QString &reason, QString *error);
+    bool fail(const MRVError &reason, MRVErrorSink error);
     void remove();
     void removeOrigin();
 

@@ -26,31 +26,30 @@ MRVPendingFile::MRVPendingFile(const QString &path)
 
 MRVPendingFile::~MRVPendingFile() = default;
 
-bool MRVPendingFile::fill(const MRVPendingFile::Content &content, QString *error)
+bool MRVPendingFile::fill(const MRVPendingFile::Content &content, MRVErrorSink error)
 {
     QString target;
-    QString reason = MrvFileSteps::refusal(m_path, &target);
-    if (reason.isEmpty()) {
+    MRVError reason = MrvFileSteps::refusal(m_path, &target);
+    if (!reason) {
         m_target.setFile(target);
         reason = writeTemporary(content);
     }
-    return reason.isEmpty() || fail(reason, error);
+    return !reason || fail(reason, error);
 }
 
-// Empty on success, else the reason.
-QString MRVPendingFile::writeTemporary(const MRVPendingFile::Content &content)
+MRVError MRVPendingFile::writeTemporary(const MRVPendingFile::Content &content)
 {
     // A name too long for QSaveFile is given in a second step, from a name that nobody else uses.
     const bool isLong = QFile::encodeName(m_target.fileName()).size() > MaxSavedName;
-    if (isLong && m_target.exists() && !m_target.isWritable()) {
-        return qt_error_string(EACCES);
+    if (m_target.exists() && !m_target.isWritable()) {
+        return MRVError::ofSystem(EACCES);
     }
     const QString place = isLong
         ? m_target.path() + QLatin1String("/.") + QUuid::createUuid().toString(QUuid::Id128)
         : m_target.filePath();
     m_file = std::make_unique<QSaveFile>(place);
     if (!m_file->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return m_file->errorString();
+        return MRVError::ofDevice(*m_file);
     }
     MrvFileSteps::keepOwner(m_file->handle(), m_target.filePath());
     if (isLong && m_target.exists()) {
@@ -58,11 +57,11 @@ QString MRVPendingFile::writeTemporary(const MRVPendingFile::Content &content)
     }
     // commit() alone reports success on a full disk, where the last write came back short and the
     // buffer could not be flushed.
-    QString reason;
+    MRVError reason;
     if (!content(m_file.get(), &reason)) {
-        return reason.isEmpty() ? m_file->errorString() : reason;
+        return reason ? reason : MRVError::ofDevice(*m_file);
     }
-    return m_file->flush() ? QString() : m_file->errorString();
+    return m_file->flush() ? MRVError() : MRVError::ofDevice(*m_file);
 }
 
 void MRVPendingFile::startSync()
@@ -71,23 +70,23 @@ void MRVPendingFile::startSync()
     (void)::sync_file_range(m_file->handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
-bool MRVPendingFile::sync(QString *error)
+bool MRVPendingFile::sync(MRVErrorSink error)
 {
-    return MrvFileSteps::syncToDisk(m_file->handle()) || fail(qt_error_string(errno), error);
+    return MrvFileSteps::syncToDisk(m_file->handle()) || fail(MRVError::ofSystem(errno), error);
 }
 
-bool MRVPendingFile::putInPlace(QString *error)
+bool MRVPendingFile::putInPlace(MRVErrorSink error)
 {
     const QString place = m_file->fileName();
     if (!m_file->commit()) {
-        return fail(m_file->errorString(), error);
+        return fail(MRVError::ofDevice(*m_file), error);
     }
     m_file.reset();
     return place == m_target.filePath() || MrvFileSteps::renameOver(place, m_target.filePath())
-        || fail(qt_error_string(errno), error);
+        || fail(MRVError::ofSystem(errno), error);
 }
 
-bool MRVPendingFile::fail(const QString &reason, QString *error)
+bool MRVPendingFile::fail(const MRVError &reason, MRVErrorSink error)
 {
     m_file.reset(); // with the temporary file
     mrvSetErrorLine(error, MRVPendingFile::tr("Cannot write the file \"%1\": %2"), m_path, reason);
@@ -96,7 +95,7 @@ bool MRVPendingFile::fail(const QString &reason, QString *error)
 
 MRVPendingFile::Content MRVPendingFile::contentOf(const QByteArray &bytes)
 {
-    return [bytes](QIODevice *device, QString *reason) {
+    return [bytes](QIODevice *device, MRVErrorSink reason) {
         return MrvFileSteps::writeAll(device, bytes, reason);
     };
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -19,7 +21,7 @@ class MRVPendingFile
     Q_DECLARE_TR_FUNCTIONS(MRVFileWriter)
 
 public:
-    using Content = std::function<bool(QIODevice *device, QString *reason)>;
+    using Content = std::function<bool(QIODevice *device, MRVErrorSink reason)>;
     /** What writes @p bytes and counts them. */
     static Content contentOf(const QByteArray &bytes);
 
@@ -29,17 +31,17 @@ public:
 
     QString path() const { return m_path; } ///< as it was given
     /** Writes a temporary file beside it, whole; it may be in memory alone then. */
-    bool fill(const Content &content, QString *error);
+    bool fill(const Content &content, MRVErrorSink error);
     /** Has the system begin to bring it to the disk, without waiting. */
     void startSync();
     /** Waits until it is there. */
-    bool sync(QString *error);
+    bool sync(MRVErrorSink error);
     /** Renames it over the old one. */
-    bool putInPlace(QString *error);
+    bool putInPlace(MRVErrorSink error);
 
 private:
-    QString writeTemporary(const Content &content);
-    bool fail(const QString &reason, QString *error);
+    MRVError writeTemporary(const Content &content);
+    bool fail(const MRVError &reason, MRVErrorSink error);
 
     const QString m_path;
     QFileInfo m_target;

@@ -124,17 +124,16 @@ QString MTranslator::systemGuiLanguageCode()
     return name.section(QLatin1Char('_'), 0, 0);
 }
 
-bool MTranslator::install(const QString &code, QString *error)
+bool MTranslator::install(const QString &code, MRVErrorSink error)
 {
-    const auto fail = [error](const QString &text) {
-        if (error) {
-            *error = text;
-        }
+    const auto fail = [error](MRVErrorKind kind, const QString &text) {
+        error.set({kind, text});
         return false;
     };
     QCoreApplication *const application = QCoreApplication::instance();
     if (!application) {
-        return fail(tr("A language can only be chosen while an application object exists"));
+        return fail(MRVErrorKind::Other,
+                    tr("A language can only be chosen while an application object exists"));
     }
 
     const QString wanted = code == QLatin1String("C") ? QStringLiteral("en") : code;
@@ -142,12 +141,14 @@ bool MTranslator::install(const QString &code, QString *error)
     const bool isEnglish = locale.language() == QLocale::English;
     const QString file = translationFile(wanted);
     if (file.isEmpty() && !isEnglish) {
-        return fail(tr("No translation into the language \"%1\" exists").arg(code));
+        return fail(MRVErrorKind::NotFound,
+                    tr("No translation into the language \"%1\" exists").arg(code));
     }
 
     auto own = file.isEmpty() ? newTranslator() : loaded(file);
     if (!own) {
         return fail(
+            MRVErrorKind::Damaged,
             tr("The translation \"%1\" cannot be read").arg(QDir::toNativeSeparators(file)));
     }
 

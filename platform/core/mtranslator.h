@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/mrvcore_export.h"
+#include "core/mrverror.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -61,7 +62,7 @@ public:
      * @return false, with nothing changed, where there is no such translation, where it cannot be
      *         read, and where there is no application object.
      */
-    static bool install(const QString &code, QString *error = nullptr);
+    static bool install(const QString &code, MRVErrorSink error = nullptr);
 
     /**
      * The language that install() has chosen last, as QLocale::bcp47Name() writes it ("pt-BR");

@@ -59,20 +59,21 @@ MRVPictureReader MRVPictureReader::ofFile(const QString &path)
     const QFileInfo file(path);
     MRVPictureReader refused;
     if (!file.exists()) {
-        refused.m_error = tr("it does not exist");
+        refused.m_error = {MRVErrorKind::NotFound, tr("it does not exist")};
     } else if (!file.isFile()) {
-        refused.m_error = tr("it is not a regular file"); // a pipe or a device would never end
+        refused.m_error = {MRVErrorKind::Other,
+                           tr("it is not a regular file")}; // a pipe or a device would never end
     } else if (file.size() > MRVInputLimits::PictureFileBytes) {
-        refused.m_error = tr("it is too large");
+        refused.m_error = {MRVErrorKind::TooLarge, tr("it is too large")};
     } else {
-        QString error;
+        MRVError error;
         // Some files of the kernel have a size of 0 and keep who reads them waiting.
         const QByteArray bytes =
             file.size() > 0 ? MRVCoreUtil::ReadBinaryFile(path, &error) : QByteArray();
-        if (error.isEmpty()) {
+        if (!error) {
             return MRVPictureReader(bytes, file.suffix().toLatin1().constData());
         }
-        refused.m_error = tr("it cannot be opened");
+        refused.m_error = {error.kind, tr("it cannot be opened")};
     }
     return refused;
 }
@@ -91,33 +92,37 @@ QByteArray MRVPictureReader::formatOf(const QByteArray &bytes)
     return QImageReader::imageFormat(&file);
 }
 
-// Why one claim of the picture is refused; empty where it is not.
-QString MRVPictureReader::refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes)
+// Why one claim of the picture is refused; no error where it is not.
+MRVError MRVPictureReader::refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes)
 {
     const qint64 memory = pixelsOf(claim) * pixelBytes;
     m_memory = qMax(m_memory, memory);
     if (memory > MRVInputLimits::PictureBytes) {
-        return tr("its %1 by %2 pixels are more than can be read")
-            .arg(claim.width())
-            .arg(claim.height());
+        return {MRVErrorKind::TooLarge,
+                tr("its %1 by %2 pixels are more than can be read")
+                    .arg(claim.width())
+                    .arg(claim.height())};
     }
-    return isPlausible(claim, byteCount)
-        ? QString()
-        : tr("it claims %1 by %2 pixels, which a file of its length does not hold")
-              .arg(claim.width())
-              .arg(claim.height());
+    if (isPlausible(claim, byteCount)) {
+        return {};
+    }
+    return {MRVErrorKind::Damaged,
+            tr("it claims %1 by %2 pixels, which a file of its length does not hold")
+                .arg(claim.width())
+                .arg(claim.height())};
 }
 
 // Why the picture is refused. Each look at it is safe only when those before it found nothing.
-QString MRVPictureReader::refusal()
+MRVError MRVPictureReader::refusal()
 {
-    const QString unknown = tr("it is in no known picture format");
+    const MRVError unknown = {MRVErrorKind::Unsupported, tr("it is in no known picture format")};
+    const MRVError damaged = {MRVErrorKind::Damaged, tr("it is damaged")};
     if (m_format.isEmpty() || m_format == "mng") {
         return unknown;
     }
     const qint64 byteCount = m_bytes.size();
     if (isSvg(m_format)) {
-        QString reason = tr("it is damaged");
+        MRVError reason = damaged;
         m_bytes = mrvGuardedSvg(m_bytes, memoryWithinSvg, &reason);
         if (m_bytes.isEmpty()) {
             return reason;
@@ -126,20 +131,20 @@ QString MRVPictureReader::refusal()
     }
     const MRVPictureClaims claims = mrvPictureClaims(m_bytes, m_format);
     for (const QSize &claim : claims.sizes) {
-        const QString reason = refusalOf(claim, byteCount);
-        if (!reason.isEmpty()) {
+        const MRVError reason = refusalOf(claim, byteCount);
+        if (reason) {
             return reason;
         }
     }
     if (!claims.isComplete) {
-        return tr("it is in a form that cannot be checked");
+        return {MRVErrorKind::Unsupported, tr("it is in a form that cannot be checked")};
     }
     if (claims.texts > MRVInputLimits::PictureTextBytes) {
-        return tr("it holds too much compressed text");
+        return {MRVErrorKind::TooLarge, tr("it holds too much compressed text")};
     }
 
     if (m_format == "png" && !mrvIsPngReadable(m_bytes, MRVPngPart::Head)) {
-        return tr("it is damaged");
+        return damaged;
     }
 
     QBuffer file(&m_bytes);
@@ -152,10 +157,10 @@ QString MRVPictureReader::refusal()
     // A bitmap that is stored from the top down has a negative height.
     m_size = QSize(reader.size().width(), qAbs(reader.size().height()));
     if (m_size.isEmpty() && claims.sizes.isEmpty()) {
-        return tr("it does not tell its size");
+        return {MRVErrorKind::Unsupported, tr("it does not tell its size")};
     }
     const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
-    const QString reason = refusalOf(m_size, byteCount, qMax(4, bits / 8));
+    const MRVError reason = refusalOf(m_size, byteCount, qMax(4, bits / 8));
     m_memory += claims.texts;
     m_orientation = reader.transformation();
     return reason;
@@ -187,11 +192,11 @@ QImage MRVPictureReader::decoded(const QSize &size, bool isUpright) const
     return key.appliedTo(reader.read());
 }
 
-QImage MRVPictureReader::read(QString *error) const
+QImage MRVPictureReader::read(MRVErrorSink error) const
 {
     const QImage image = isReadable() ? decoded(QSize()) : QImage();
-    if (image.isNull() && error) {
-        *error = isReadable() ? tr("it is damaged") : m_error;
+    if (image.isNull()) {
+        error.set(isReadable() ? MRVError{MRVErrorKind::Damaged, tr("it is damaged")} : m_error);
     }
     return image;
 }
@@ -211,7 +216,7 @@ bool MRVPictureReader::isOf(const QImage &image) const
         || (isTurned && image.size() == m_size && hasPixels(decoded(QSize(), false)));
 }
 
-QImage MRVPictureReader::draw(const QSize &bounds, QString *error) const
+QImage MRVPictureReader::draw(const QSize &bounds, MRVErrorSink error) const
 {
     // Without a size, what it takes is not known.
     const bool isSmall = m_size.boundedTo(bounds) == m_size;
@@ -220,8 +225,8 @@ QImage MRVPictureReader::draw(const QSize &bounds, QString *error) const
         return read(error);
     }
     const QImage image = decoded(size);
-    if (image.isNull() && error) {
-        *error = tr("it is damaged");
+    if (image.isNull()) {
+        error.set({MRVErrorKind::Damaged, tr("it is damaged")});
     }
     return image;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/mrverror.h"
 #include "gui/mrvgui_export.h"
 #include "gui/mrvpng.h"
 
@@ -56,7 +57,7 @@ public:
     qint64 memory() const { return m_memory; }
 
     /** Whether the picture may be decoded; it may still turn out to be damaged. */
-    bool isReadable() const { return m_error.isEmpty(); }
+    bool isReadable() const { return !m_error; }
     /**
      * Whether the picture is an SVG whose text is safe. One that claims too many pixels may not be
      * decoded, but be passed on to programs that show it in another size.
@@ -72,7 +73,9 @@ public:
      * Why the picture is refused, as a translated end of a sentence ("it is too large"); empty
      * where it is not.
      */
-    QString error() const { return m_error; }
+    QString error() const { return m_error.text; }
+    /** Of error(). */
+    MRVErrorKind errorKind() const { return m_error.kind; }
 
     /**
      * Decodes the first frame, turned upright.
@@ -81,7 +84,7 @@ public:
      *              success.
      * @return a null image on failure.
      */
-    QImage read(QString *error = nullptr) const;
+    QImage read(MRVErrorSink error = nullptr) const;
 
     /**
      * Whether @p image has the pixels of the picture, either as read() gives them or as the file
@@ -98,7 +101,7 @@ public:
      *              success.
      * @return a null image on failure. Other pictures are read() as they are.
      */
-    QImage draw(const QSize &bounds, QString *error = nullptr) const;
+    QImage draw(const QSize &bounds, MRVErrorSink error = nullptr) const;
 
     /**
      * The format of the picture in @p bytes, by its signature; see format(). Nothing is decoded,
@@ -116,9 +119,9 @@ public:
 
 private:
     MRVPictureReader() = default;
-    QString refusal();
+    MRVError refusal();
     QImage decoded(const QSize &size, bool isUpright = true) const;
-    QString refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes = 4);
+    MRVError refusalOf(const QSize &claim, qint64 byteCount, int pixelBytes = 4);
 
     QByteArray m_bytes; // of an SVG, what may be given to Qt
     QByteArray m_format;
@@ -126,5 +129,5 @@ private:
     QImageIOHandler::Transformations m_orientation = QImageIOHandler::TransformationNone;
     qint64 m_memory = 0;
     bool m_isDrawing = false;
-    QString m_error;
+    MRVError m_error;
 };

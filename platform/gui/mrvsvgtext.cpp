@@ -11,13 +11,14 @@
 
 namespace {
 
-QString tooLong()
+MRVError tooLong()
 {
-    return QCoreApplication::translate("MRVPictureReader", "it holds more than %1 MiB of text")
-        .arg(MRVInputLimits::SvgBytes >> 20);
+    return {MRVErrorKind::TooLarge,
+            QCoreApplication::translate("MRVPictureReader", "it holds more than %1 MiB of text")
+                .arg(MRVInputLimits::SvgBytes >> 20)};
 }
 
-QByteArray inflated(const QByteArray &bytes, QString *reason)
+QByteArray inflated(const QByteArray &bytes, MRVErrorSink reason)
 {
     constexpr int GzipHeader = 16; // added to the window's bits
     z_stream stream{};
@@ -38,7 +39,7 @@ QByteArray inflated(const QByteArray &bytes, QString *reason)
     inflateEnd(&stream);
     if (state != Z_STREAM_END) {
         if (state == Z_OK) {
-            *reason = tooLong();
+            reason.set(tooLong());
         }
         return QByteArray();
     }
@@ -107,7 +108,7 @@ public:
         m_reader.setNamespaceProcessing(false);
     }
 
-    QByteArray copy(QString *reason);
+    QByteArray copy(MRVErrorSink reason);
 
 private:
     bool mayExpand() const;
@@ -140,13 +141,13 @@ bool SvgCopy::mayExpand() const
     return entities.isEmpty() || m_references * longest <= MRVInputLimits::SvgBytes;
 }
 
-QByteArray SvgCopy::copy(QString *reason)
+QByteArray SvgCopy::copy(MRVErrorSink reason)
 {
     while (!m_reader.atEnd()) {
         m_reader.readNext();
         const bool isDtd = m_reader.tokenType() == QXmlStreamReader::DTD;
         if (m_copy.size() > MRVInputLimits::SvgBytes || (isDtd && !mayExpand())) {
-            *reason = tooLong();
+            reason.set(tooLong());
             return QByteArray();
         }
         writeToken();
@@ -252,11 +253,11 @@ bool SvgCopy::isAllowed(const QString &reference)
 
 } // namespace
 
-QByteArray mrvGuardedSvg(const QByteArray &bytes, MRVPictureMemory memoryOf, QString *reason)
+QByteArray mrvGuardedSvg(const QByteArray &bytes, MRVPictureMemory memoryOf, MRVErrorSink reason)
 {
     const bool isCompressed = bytes.startsWith("\x1f\x8b");
     if (!isCompressed && bytes.size() > MRVInputLimits::SvgBytes) {
-        *reason = tooLong();
+        reason.set(tooLong());
         return QByteArray();
     }
     const QByteArray text = isCompressed ? inflated(bytes, reason) : bytes;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -18,4 +20,4 @@ using MRVPictureMemory = qint64 (*)(const QByteArray &);
  *               MRVInputLimits::SvgBytes; untouched otherwise.
  * @return UTF-8; empty for too much text, and for bytes that are damaged or no XML.
  */
-QByteArray mrvGuardedSvg(const QByteArray &bytes, MRVPictureMemory memoryOf, QString *reason);
+QByteArray mrvGuardedSvg(const QByteArray &bytes, MRVPictureMemory memoryOf, MRVErrorSink reason);

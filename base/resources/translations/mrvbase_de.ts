@@ -236,6 +236,180 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>Cannot write the file &quot;%1&quot;: the encoding %2 lacks some characters of the text</source>
         <translation>Die Datei „%1“ kann nicht geschrieben werden: In der Kodierung %2 fehlen Zeichen des Textes</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentArchive</name>
+    <message>
+        <source>the document is too large, or too complex, for this format</source>
+        <translation>das Dokument ist für dieses Format zu groß oder zu verschachtelt</translation>
+    </message>
+    <message>
+        <source>it holds too many pictures</source>
+        <translation>es enthält zu viele Bilder</translation>
+    </message>
+    <message>
+        <source>the picture %1 has changed, or cannot be read any more</source>
+        <translation>das Bild %1 hat sich geändert oder ist nicht mehr lesbar</translation>
+    </message>
+    <message>
+        <source>it holds no document</source>
+        <translation>sie enthält kein Dokument</translation>
+    </message>
+    <message>
+        <source>it was made by a newer version of this program</source>
+        <translation>sie stammt von einer neueren Version dieses Programms</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the document is damaged; its words were read, without formats and pictures</source>
+        <translation>das Dokument ist beschädigt; gelesen wurden seine Wörter ohne Formate und Bilder</translation>
+    </message>
+    <message>
+        <source>the picture %1 is missing or damaged</source>
+        <translation>das Bild %1 fehlt oder ist beschädigt</translation>
+    </message>
+    <message>
+        <source>what the program keeps as %1 is damaged</source>
+        <translation>was das Programm als %1 aufbewahrt, ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentLosses</name>
+    <message>
+        <source>Fonts: %1</source>
+        <translation>Schriftarten: %1</translation>
+    </message>
+    <message>
+        <source>Font sizes: %1</source>
+        <translation>Schriftgrößen: %1</translation>
+    </message>
+    <message>
+        <source>Text colors: %1</source>
+        <translation>Textfarben: %1</translation>
+    </message>
+    <message>
+        <source>Highlights: %1</source>
+        <translation>Hervorhebungen: %1</translation>
+    </message>
+    <message>
+        <source>Capitals, lines and spacing of letters: %1</source>
+        <translation>Großbuchstaben, Linien und Abstände von Buchstaben: %1</translation>
+    </message>
+    <message>
+        <source>Languages of text: %1</source>
+        <translation>Sprachen von Text: %1</translation>
+    </message>
+    <message>
+        <source>Marks of revisions: %1</source>
+        <translation>Markierungen von Überarbeitungen: %1</translation>
+    </message>
+    <message>
+        <source>Annotations, which become text: %1</source>
+        <translation>Anmerkungen, die zu Text werden: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes within the text, which become others: %1</source>
+        <translation>Fußnoten im Text, die zu anderen werden: %1</translation>
+    </message>
+    <message>
+        <source>Comments: %1</source>
+        <translation>Kommentare: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin, which go to the end: %1</source>
+        <translation>Fußnoten am Rand, die ans Ende kommen: %1</translation>
+    </message>
+    <message>
+        <source>Bold, italic and other styles of text: %1</source>
+        <translation>Fett, kursiv und andere Auszeichnungen von Text: %1</translation>
+    </message>
+    <message>
+        <source>Links, whose addresses become text: %1</source>
+        <translation>Links, deren Adressen zu Text werden: %1</translation>
+    </message>
+    <message>
+        <source>Pictures, which give way to their names: %1</source>
+        <translation>Bilder, an deren Stelle ihre Namen treten: %1</translation>
+    </message>
+    <message>
+        <source>Headings: %1</source>
+        <translation>Überschriften: %1</translation>
+    </message>
+    <message>
+        <source>Quotations: %1</source>
+        <translation>Zitate: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph alignments: %1</source>
+        <translation>Ausrichtungen von Absätzen: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph indents: %1</source>
+        <translation>Einzüge von Absätzen: %1</translation>
+    </message>
+    <message>
+        <source>Line spacings: %1</source>
+        <translation>Zeilenabstände: %1</translation>
+    </message>
+    <message>
+        <source>Page breaks: %1</source>
+        <translation>Seitenumbrüche: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph backgrounds: %1</source>
+        <translation>Hintergründe von Absätzen: %1</translation>
+    </message>
+    <message>
+        <source>List markers other than bullets and figures: %1</source>
+        <translation>Listenzeichen außer Punkten und Ziffern: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose rows become lines: %1</source>
+        <translation>Tabellen, deren Zeilen zu Textzeilen werden: %1</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>Rahmen: %1</translation>
+    </message>
+    <message>
+        <source>Tabs and several blanks in a row: %1</source>
+        <translation>Tabulatoren und mehrere Leerzeichen hintereinander: %1</translation>
+    </message>
+    <message>
+        <source>Lists: %1</source>
+        <translation>Listen: %1</translation>
+    </message>
+    <message>
+        <source>Comments in the margin: %1</source>
+        <translation>Kommentare am Rand: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin: %1</source>
+        <translation>Fußnoten am Rand: %1</translation>
+    </message>
+    <message>
+        <source>Addresses of links: %1</source>
+        <translation>Adressen von Links: %1</translation>
+    </message>
+    <message>
+        <source>Pictures: %1</source>
+        <translation>Bilder: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose cells become paragraphs: %1</source>
+        <translation>Tabellen, deren Zellen zu Absätzen werden: %1</translation>
+    </message>
+    <message>
+        <source>Marks of footnotes within the text: %1</source>
+        <translation>Auszeichnungen von Fußnoten im Text: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>
@@ -813,6 +987,18 @@ Fehler: %2</translation>
         <source>A paragraph, list or table is too long to be printed.</source>
         <translation>Ein Absatz, eine Liste oder eine Tabelle ist zu lang, um gedruckt zu werden.</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the document, and are text there: %1 (%2)</source>
+        <translation>Verweise, die im Dokument nirgendwohin führen und dort Text sind: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>tables that are wider than the paper, and cut off: %1</source>
+        <translation>Tabellen, die breiter als das Papier und abgeschnitten sind: %1</translation>
+    </message>
+    <message>
+        <source>tables within four others, of which the rows are lines of text: %1</source>
+        <translation>Tabellen in vier anderen, deren Zeilen Textzeilen sind: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>
@@ -843,6 +1029,14 @@ Fehler: %2</translation>
     <message>
         <source>%1 (after &quot;%2&quot;)</source>
         <translation>%1 (nach „%2“)</translation>
+    </message>
+    <message>
+        <source>formats and pictures, as the file is damaged</source>
+        <translation>Formate und Bilder, da die Datei beschädigt ist</translation>
+    </message>
+    <message>
+        <source>it is missing or damaged</source>
+        <translation>es fehlt oder ist beschädigt</translation>
     </message>
 </context>
 <context>
@@ -1819,8 +2013,8 @@ Fehler: %2</translation>
         <translation>Legt fest, wo auf dem Bildschirm die Seite im Vollbild steht.</translation>
     </message>
     <message>
-        <source>Save after (seconds)</source>
-        <translation>Speichern nach (Sekunden)</translation>
+        <source>Save after</source>
+        <translation>Speichern nach</translation>
     </message>
     <message>
         <source>Saves the project when nothing has been typed for this number of seconds.</source>
@@ -1867,24 +2061,24 @@ Fehler: %2</translation>
         <translation>Legt fest, wie weit der Hintergrund des Vollbilds den Schreibtisch verdeckt, von 0 bis 255.</translation>
     </message>
     <message>
-        <source>Width of the page (percent)</source>
-        <translation>Breite der Seite (Prozent)</translation>
+        <source>Width of the page</source>
+        <translation>Breite der Seite</translation>
     </message>
     <message>
         <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
         <translation>Legt die Breite der Seite im Vollbild fest, in Prozent der Breite des Bildschirms.</translation>
     </message>
     <message>
-        <source>Height of the page (percent)</source>
-        <translation>Höhe der Seite (Prozent)</translation>
+        <source>Height of the page</source>
+        <translation>Höhe der Seite</translation>
     </message>
     <message>
         <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
         <translation>Legt die Höhe der Seite im Vollbild fest, in Prozent der Höhe des Bildschirms.</translation>
     </message>
     <message>
-        <source>Width of the text cursor (pixels)</source>
-        <translation>Breite der Schreibmarke (Pixel)</translation>
+        <source>Width of the text cursor</source>
+        <translation>Breite der Schreibmarke</translation>
     </message>
     <message>
         <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
@@ -1915,8 +2109,8 @@ Fehler: %2</translation>
         <translation>Legt fest, welchen Eintrag der Liste der Zoomstufen die Dokumentnotizen verwenden.</translation>
     </message>
     <message>
-        <source>Rewind on pause (seconds)</source>
-        <translation>Zurückspulen bei Pause (Sekunden)</translation>
+        <source>Rewind on pause</source>
+        <translation>Zurückspulen bei Pause</translation>
     </message>
     <message>
         <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
@@ -2003,8 +2197,8 @@ Fehler: %2</translation>
         <translation>Legt fest, wie laut Aufnahmen abgespielt werden, von 0 (stumm) bis 1 (voll).</translation>
     </message>
     <message>
-        <source>Margin of the editor (pixels)</source>
-        <translation>Rand des Editors (Pixel)</translation>
+        <source>Margin of the editor</source>
+        <translation>Rand des Editors</translation>
     </message>
     <message>
         <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
@@ -2646,6 +2840,18 @@ Fehler: %2</translation>
         <source>%1; it can be reset</source>
         <translation>%1; es lässt sich zurücksetzen</translation>
     </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -2698,6 +2904,10 @@ Fehler: %2</translation>
         <source>The PDF document cannot be made: %1</source>
         <translation>Das PDF-Dokument kann nicht erstellt werden: %1</translation>
     </message>
+    <message>
+        <source>characters that no installed font has, and that are empty boxes: %1 (%2%3)</source>
+        <translation>Zeichen, die keine installierte Schrift hat und die leere Kästchen sind: %1 (%2%3)</translation>
+    </message>
 </context>
 <context>
     <name>MRVPictureReader</name>
@@ -2748,6 +2958,20 @@ Fehler: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>sie enthält mehr als %1 MiB Text</translation>
+    </message>
+</context>
+<context>
+    <name>MRVProgressMeter</name>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>MRVRecovery</name>
+    <message>
+        <source>%1: no lock can be made there</source>
+        <translation>%1: dort kann keine Sperre angelegt werden</translation>
     </message>
 </context>
 <context>
@@ -4518,10 +4742,6 @@ Fehler: %2</translation>
         <translation>der Ordner kann nicht angelegt werden</translation>
     </message>
     <message>
-        <source>no file can be made here</source>
-        <translation>hier kann keine Datei angelegt werden</translation>
-    </message>
-    <message>
         <source>no file can be made here (%1)</source>
         <translation>hier kann keine Datei angelegt werden (%1)</translation>
     </message>
@@ -4861,6 +5081,53 @@ Bitte melden Sie dies an %1.</translation>
     <message>
         <source>XML does not allow the character %1</source>
         <translation>XML erlaubt das Zeichen %1 nicht</translation>
+    </message>
+</context>
+<context>
+    <name>MRVZipReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>sie existiert nicht</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is damaged, or no ZIP archive</source>
+        <translation>sie ist beschädigt oder kein ZIP-Archiv</translation>
+    </message>
+    <message>
+        <source>it holds too many files</source>
+        <translation>sie enthält zu viele Dateien</translation>
+    </message>
+    <message>
+        <source>it is damaged: its files are larger than it is</source>
+        <translation>sie ist beschädigt: ihre Dateien sind größer als sie selbst</translation>
+    </message>
+    <message>
+        <source>the name of a file in it leads out of it: %1</source>
+        <translation>der Name einer Datei darin führt aus ihr hinaus: %1</translation>
+    </message>
+    <message>
+        <source>it holds two files of one name: %1</source>
+        <translation>sie enthält zwei Dateien eines Namens: %1</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>sie fehlt</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is encrypted, or packed in an unknown way</source>
+        <translation>sie ist verschlüsselt oder auf unbekannte Weise gepackt</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
     </message>
 </context>
 <context>

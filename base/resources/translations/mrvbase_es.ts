@@ -236,6 +236,180 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>Cannot write the file &quot;%1&quot;: the encoding %2 lacks some characters of the text</source>
         <translation>No se puede escribir el archivo «%1»: en la codificación %2 faltan algunos caracteres del texto</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentArchive</name>
+    <message>
+        <source>the document is too large, or too complex, for this format</source>
+        <translation>el documento es demasiado grande o demasiado complejo para este formato</translation>
+    </message>
+    <message>
+        <source>it holds too many pictures</source>
+        <translation>contiene demasiadas imágenes</translation>
+    </message>
+    <message>
+        <source>the picture %1 has changed, or cannot be read any more</source>
+        <translation>la imagen %1 ha cambiado o ya no se puede leer</translation>
+    </message>
+    <message>
+        <source>it holds no document</source>
+        <translation>no contiene ningún documento</translation>
+    </message>
+    <message>
+        <source>it was made by a newer version of this program</source>
+        <translation>fue creado por una versión más reciente de este programa</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>está dañado</translation>
+    </message>
+    <message>
+        <source>the document is damaged; its words were read, without formats and pictures</source>
+        <translation>el documento está dañado; se leyeron sus palabras, sin formatos ni imágenes</translation>
+    </message>
+    <message>
+        <source>the picture %1 is missing or damaged</source>
+        <translation>la imagen %1 falta o está dañada</translation>
+    </message>
+    <message>
+        <source>what the program keeps as %1 is damaged</source>
+        <translation>lo que el programa guarda como %1 está dañado</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentLosses</name>
+    <message>
+        <source>Fonts: %1</source>
+        <translation>Tipos de letra: %1</translation>
+    </message>
+    <message>
+        <source>Font sizes: %1</source>
+        <translation>Tamaños de letra: %1</translation>
+    </message>
+    <message>
+        <source>Text colors: %1</source>
+        <translation>Colores del texto: %1</translation>
+    </message>
+    <message>
+        <source>Highlights: %1</source>
+        <translation>Resaltados: %1</translation>
+    </message>
+    <message>
+        <source>Capitals, lines and spacing of letters: %1</source>
+        <translation>Mayúsculas, líneas y espaciado de letras: %1</translation>
+    </message>
+    <message>
+        <source>Languages of text: %1</source>
+        <translation>Idiomas del texto: %1</translation>
+    </message>
+    <message>
+        <source>Marks of revisions: %1</source>
+        <translation>Marcas de revisión: %1</translation>
+    </message>
+    <message>
+        <source>Annotations, which become text: %1</source>
+        <translation>Anotaciones, que pasan a ser texto: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes within the text, which become others: %1</source>
+        <translation>Notas dentro del texto, que pasan a ser otras: %1</translation>
+    </message>
+    <message>
+        <source>Comments: %1</source>
+        <translation>Comentarios: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin, which go to the end: %1</source>
+        <translation>Notas al margen, que van al final: %1</translation>
+    </message>
+    <message>
+        <source>Bold, italic and other styles of text: %1</source>
+        <translation>Negrita, cursiva y otros estilos de texto: %1</translation>
+    </message>
+    <message>
+        <source>Links, whose addresses become text: %1</source>
+        <translation>Enlaces, cuyas direcciones pasan a ser texto: %1</translation>
+    </message>
+    <message>
+        <source>Pictures, which give way to their names: %1</source>
+        <translation>Imágenes, sustituidas por sus nombres: %1</translation>
+    </message>
+    <message>
+        <source>Headings: %1</source>
+        <translation>Títulos: %1</translation>
+    </message>
+    <message>
+        <source>Quotations: %1</source>
+        <translation>Citas: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph alignments: %1</source>
+        <translation>Alineaciones de párrafos: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph indents: %1</source>
+        <translation>Sangrías de párrafos: %1</translation>
+    </message>
+    <message>
+        <source>Line spacings: %1</source>
+        <translation>Interlineados: %1</translation>
+    </message>
+    <message>
+        <source>Page breaks: %1</source>
+        <translation>Saltos de página: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph backgrounds: %1</source>
+        <translation>Fondos de párrafos: %1</translation>
+    </message>
+    <message>
+        <source>List markers other than bullets and figures: %1</source>
+        <translation>Marcas de lista que no son viñetas ni cifras: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose rows become lines: %1</source>
+        <translation>Tablas, cuyas filas pasan a ser líneas: %1</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>Marcos: %1</translation>
+    </message>
+    <message>
+        <source>Tabs and several blanks in a row: %1</source>
+        <translation>Tabulaciones y espacios seguidos: %1</translation>
+    </message>
+    <message>
+        <source>Lists: %1</source>
+        <translation>Listas: %1</translation>
+    </message>
+    <message>
+        <source>Comments in the margin: %1</source>
+        <translation>Comentarios al margen: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin: %1</source>
+        <translation>Notas al pie al margen: %1</translation>
+    </message>
+    <message>
+        <source>Addresses of links: %1</source>
+        <translation>Direcciones de enlaces: %1</translation>
+    </message>
+    <message>
+        <source>Pictures: %1</source>
+        <translation>Imágenes: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose cells become paragraphs: %1</source>
+        <translation>Tablas, cuyas celdas pasan a ser párrafos: %1</translation>
+    </message>
+    <message>
+        <source>Marks of footnotes within the text: %1</source>
+        <translation>Marcas de notas al pie dentro del texto: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>
@@ -813,6 +987,18 @@ Error: %2</translation>
         <source>A paragraph, list or table is too long to be printed.</source>
         <translation>Un párrafo, una lista o una tabla es demasiado largo para imprimirse.</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the document, and are text there: %1 (%2)</source>
+        <translation>enlaces que no llevan a ninguna parte en el documento y que allí son texto: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>tables that are wider than the paper, and cut off: %1</source>
+        <translation>tablas más anchas que el papel y cortadas: %1</translation>
+    </message>
+    <message>
+        <source>tables within four others, of which the rows are lines of text: %1</source>
+        <translation>tablas dentro de otras cuatro, cuyas filas son líneas de texto: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>
@@ -843,6 +1029,14 @@ Error: %2</translation>
     <message>
         <source>%1 (after &quot;%2&quot;)</source>
         <translation>%1 (después de «%2»)</translation>
+    </message>
+    <message>
+        <source>formats and pictures, as the file is damaged</source>
+        <translation>formatos e imágenes, porque el archivo está dañado</translation>
+    </message>
+    <message>
+        <source>it is missing or damaged</source>
+        <translation>falta o está dañada</translation>
     </message>
 </context>
 <context>
@@ -1819,8 +2013,8 @@ Error: %2</translation>
         <translation>Determina en qué lugar de la pantalla está la página a pantalla completa.</translation>
     </message>
     <message>
-        <source>Save after (seconds)</source>
-        <translation>Guardar tras (segundos)</translation>
+        <source>Save after</source>
+        <translation>Guardar tras</translation>
     </message>
     <message>
         <source>Saves the project when nothing has been typed for this number of seconds.</source>
@@ -1867,24 +2061,24 @@ Error: %2</translation>
         <translation>Determina cuánto oculta el escritorio el fondo de la pantalla completa, de 0 a 255.</translation>
     </message>
     <message>
-        <source>Width of the page (percent)</source>
-        <translation>Anchura de la página (por ciento)</translation>
+        <source>Width of the page</source>
+        <translation>Anchura de la página</translation>
     </message>
     <message>
         <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
         <translation>Fija la anchura de la página a pantalla completa, en tanto por ciento de la de la pantalla.</translation>
     </message>
     <message>
-        <source>Height of the page (percent)</source>
-        <translation>Altura de la página (por ciento)</translation>
+        <source>Height of the page</source>
+        <translation>Altura de la página</translation>
     </message>
     <message>
         <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
         <translation>Fija la altura de la página a pantalla completa, en tanto por ciento de la de la pantalla.</translation>
     </message>
     <message>
-        <source>Width of the text cursor (pixels)</source>
-        <translation>Anchura del cursor de texto (píxeles)</translation>
+        <source>Width of the text cursor</source>
+        <translation>Anchura del cursor de texto</translation>
     </message>
     <message>
         <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
@@ -1915,8 +2109,8 @@ Error: %2</translation>
         <translation>Determina qué entrada de la lista de factores de zoom usan las notas de documento.</translation>
     </message>
     <message>
-        <source>Rewind on pause (seconds)</source>
-        <translation>Retroceso al pausar (segundos)</translation>
+        <source>Rewind on pause</source>
+        <translation>Retroceso al pausar</translation>
     </message>
     <message>
         <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
@@ -2003,8 +2197,8 @@ Error: %2</translation>
         <translation>Fija el volumen con que se reproducen las grabaciones, de 0 (silencio) a 1 (máximo).</translation>
     </message>
     <message>
-        <source>Margin of the editor (pixels)</source>
-        <translation>Margen del editor (píxeles)</translation>
+        <source>Margin of the editor</source>
+        <translation>Margen del editor</translation>
     </message>
     <message>
         <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
@@ -2646,6 +2840,18 @@ Error: %2</translation>
         <source>%1; it can be reset</source>
         <translation>%1; se puede restablecer</translation>
     </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -2698,6 +2904,10 @@ Error: %2</translation>
         <source>The PDF document cannot be made: %1</source>
         <translation>El documento PDF no se puede crear: %1</translation>
     </message>
+    <message>
+        <source>characters that no installed font has, and that are empty boxes: %1 (%2%3)</source>
+        <translation>caracteres que ninguna fuente instalada tiene y que son casillas vacías: %1 (%2%3)</translation>
+    </message>
 </context>
 <context>
     <name>MRVPictureReader</name>
@@ -2748,6 +2958,20 @@ Error: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>contiene más de %1 MiB de texto</translation>
+    </message>
+</context>
+<context>
+    <name>MRVProgressMeter</name>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+</context>
+<context>
+    <name>MRVRecovery</name>
+    <message>
+        <source>%1: no lock can be made there</source>
+        <translation>%1: allí no se puede crear un bloqueo</translation>
     </message>
 </context>
 <context>
@@ -4518,10 +4742,6 @@ Error: %2</translation>
         <translation>no se puede crear la carpeta</translation>
     </message>
     <message>
-        <source>no file can be made here</source>
-        <translation>aquí no se puede crear ningún archivo</translation>
-    </message>
-    <message>
         <source>no file can be made here (%1)</source>
         <translation>aquí no se puede crear ningún archivo (%1)</translation>
     </message>
@@ -4861,6 +5081,53 @@ Comuníquelo a %1.</translation>
     <message>
         <source>XML does not allow the character %1</source>
         <translation>XML no permite el carácter %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVZipReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>no existe</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is damaged, or no ZIP archive</source>
+        <translation>está dañado o no es un archivo ZIP</translation>
+    </message>
+    <message>
+        <source>it holds too many files</source>
+        <translation>contiene demasiados archivos</translation>
+    </message>
+    <message>
+        <source>it is damaged: its files are larger than it is</source>
+        <translation>está dañado: sus archivos son más grandes que él</translation>
+    </message>
+    <message>
+        <source>the name of a file in it leads out of it: %1</source>
+        <translation>el nombre de un archivo que contiene lleva fuera de él: %1</translation>
+    </message>
+    <message>
+        <source>it holds two files of one name: %1</source>
+        <translation>contiene dos archivos con el mismo nombre: %1</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>it is encrypted, or packed in an unknown way</source>
+        <translation>está cifrado o comprimido de una forma desconocida</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>está dañado</translation>
     </message>
 </context>
 <context>

@@ -236,6 +236,180 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>Cannot write the file &quot;%1&quot;: the encoding %2 lacks some characters of the text</source>
         <translation>Impossible d’écrire le fichier «&#xa0;%1&#xa0;»&#xa0;: certains caractères du texte n’existent pas dans l’encodage %2</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentArchive</name>
+    <message>
+        <source>the document is too large, or too complex, for this format</source>
+        <translation>le document est trop grand ou trop complexe pour ce format</translation>
+    </message>
+    <message>
+        <source>it holds too many pictures</source>
+        <translation>il contient trop d’images</translation>
+    </message>
+    <message>
+        <source>the picture %1 has changed, or cannot be read any more</source>
+        <translation>l’image %1 a changé ou n’est plus lisible</translation>
+    </message>
+    <message>
+        <source>it holds no document</source>
+        <translation>il ne contient pas de document</translation>
+    </message>
+    <message>
+        <source>it was made by a newer version of this program</source>
+        <translation>il a été créé par une version plus récente de ce programme</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
+    <message>
+        <source>the document is damaged; its words were read, without formats and pictures</source>
+        <translation>le document est endommagé&#xa0;; ses mots ont été lus, sans formats ni images</translation>
+    </message>
+    <message>
+        <source>the picture %1 is missing or damaged</source>
+        <translation>l’image %1 manque ou est endommagée</translation>
+    </message>
+    <message>
+        <source>what the program keeps as %1 is damaged</source>
+        <translation>ce que le programme conserve sous %1 est endommagé</translation>
+    </message>
+</context>
+<context>
+    <name>MRVDocumentLosses</name>
+    <message>
+        <source>Fonts: %1</source>
+        <translation>Polices&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Font sizes: %1</source>
+        <translation>Tailles de police&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Text colors: %1</source>
+        <translation>Couleurs du texte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Highlights: %1</source>
+        <translation>Surlignages&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Capitals, lines and spacing of letters: %1</source>
+        <translation>Majuscules, traits et espacement des lettres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Languages of text: %1</source>
+        <translation>Langues du texte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Marks of revisions: %1</source>
+        <translation>Marques de révision&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Annotations, which become text: %1</source>
+        <translation>Annotations, qui deviennent du texte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes within the text, which become others: %1</source>
+        <translation>Notes dans le texte, qui deviennent d’autres notes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Comments: %1</source>
+        <translation>Commentaires&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin, which go to the end: %1</source>
+        <translation>Notes en marge, qui vont à la fin&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Bold, italic and other styles of text: %1</source>
+        <translation>Gras, italique et autres styles de texte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Links, whose addresses become text: %1</source>
+        <translation>Liens, dont les adresses deviennent du texte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Pictures, which give way to their names: %1</source>
+        <translation>Images, remplacées par leurs noms&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Headings: %1</source>
+        <translation>Titres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Quotations: %1</source>
+        <translation>Citations&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph alignments: %1</source>
+        <translation>Alignements de paragraphes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph indents: %1</source>
+        <translation>Retraits de paragraphes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Line spacings: %1</source>
+        <translation>Interlignes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Page breaks: %1</source>
+        <translation>Sauts de page&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Paragraph backgrounds: %1</source>
+        <translation>Fonds de paragraphes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>List markers other than bullets and figures: %1</source>
+        <translation>Marques de liste autres que puces et chiffres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose rows become lines: %1</source>
+        <translation>Tableaux, dont les rangées deviennent des lignes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>Cadres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tabs and several blanks in a row: %1</source>
+        <translation>Tabulations et suites d’espaces&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Lists: %1</source>
+        <translation>Listes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Comments in the margin: %1</source>
+        <translation>Commentaires en marge&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Footnotes in the margin: %1</source>
+        <translation>Notes de bas de page en marge&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Addresses of links: %1</source>
+        <translation>Adresses de liens&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Pictures: %1</source>
+        <translation>Images&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tables, whose cells become paragraphs: %1</source>
+        <translation>Tableaux, dont les cellules deviennent des paragraphes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Marks of footnotes within the text: %1</source>
+        <translation>Marques de notes de bas de page dans le texte&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>
@@ -813,6 +987,18 @@ Erreur&#xa0;: %2</translation>
         <source>A paragraph, list or table is too long to be printed.</source>
         <translation>Un paragraphe, une liste ou un tableau est trop long pour être imprimé.</translation>
     </message>
+    <message>
+        <source>links that lead nowhere in the document, and are text there: %1 (%2)</source>
+        <translation>liens qui ne mènent nulle part dans le document, et y sont du texte&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>tables that are wider than the paper, and cut off: %1</source>
+        <translation>tableaux plus larges que le papier, et coupés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>tables within four others, of which the rows are lines of text: %1</source>
+        <translation>tableaux dans quatre autres, dont les rangées sont des lignes de texte&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVManuscriptReader</name>
@@ -843,6 +1029,14 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>%1 (after &quot;%2&quot;)</source>
         <translation>%1 (après «&#xa0;%2&#xa0;»)</translation>
+    </message>
+    <message>
+        <source>formats and pictures, as the file is damaged</source>
+        <translation>formats et images, car le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>it is missing or damaged</source>
+        <translation>elle manque ou est endommagée</translation>
     </message>
 </context>
 <context>
@@ -1819,8 +2013,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Détermine où se trouve la page sur l’écran en plein écran.</translation>
     </message>
     <message>
-        <source>Save after (seconds)</source>
-        <translation>Enregistrer après (secondes)</translation>
+        <source>Save after</source>
+        <translation>Enregistrer après</translation>
     </message>
     <message>
         <source>Saves the project when nothing has been typed for this number of seconds.</source>
@@ -1867,24 +2061,24 @@ Erreur&#xa0;: %2</translation>
         <translation>Détermine à quel point l’arrière-plan du plein écran cache le bureau, de 0 à 255.</translation>
     </message>
     <message>
-        <source>Width of the page (percent)</source>
-        <translation>Largeur de la page (pour cent)</translation>
+        <source>Width of the page</source>
+        <translation>Largeur de la page</translation>
     </message>
     <message>
         <source>Sets the width of the page in full screen, in percent of that of the screen.</source>
         <translation>Fixe la largeur de la page en plein écran, en pour cent de celle de l’écran.</translation>
     </message>
     <message>
-        <source>Height of the page (percent)</source>
-        <translation>Hauteur de la page (pour cent)</translation>
+        <source>Height of the page</source>
+        <translation>Hauteur de la page</translation>
     </message>
     <message>
         <source>Sets the height of the page in full screen, in percent of that of the screen.</source>
         <translation>Fixe la hauteur de la page en plein écran, en pour cent de celle de l’écran.</translation>
     </message>
     <message>
-        <source>Width of the text cursor (pixels)</source>
-        <translation>Largeur du curseur de texte (pixels)</translation>
+        <source>Width of the text cursor</source>
+        <translation>Largeur du curseur de texte</translation>
     </message>
     <message>
         <source>Sets how wide the text cursor is; -1 is the width that the system uses.</source>
@@ -1915,8 +2109,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Détermine quelle entrée de la liste des facteurs de zoom les notes de document emploient.</translation>
     </message>
     <message>
-        <source>Rewind on pause (seconds)</source>
-        <translation>Retour en arrière à la pause (secondes)</translation>
+        <source>Rewind on pause</source>
+        <translation>Retour en arrière à la pause</translation>
     </message>
     <message>
         <source>Determines how many seconds a recording goes back when it is paused, so that no word is missed.</source>
@@ -2003,8 +2197,8 @@ Erreur&#xa0;: %2</translation>
         <translation>Fixe le volume de lecture des enregistrements, de 0 (muet) à 1 (maximum).</translation>
     </message>
     <message>
-        <source>Margin of the editor (pixels)</source>
-        <translation>Marge de l’éditeur (pixels)</translation>
+        <source>Margin of the editor</source>
+        <translation>Marge de l’éditeur</translation>
     </message>
     <message>
         <source>Sets how many pixels are left free between the text and the edge of the editor.</source>
@@ -2646,6 +2840,18 @@ Erreur&#xa0;: %2</translation>
         <source>%1; it can be reset</source>
         <translation>%1&#xa0;; il est possible de le réinitialiser</translation>
     </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>MRVOptionsFile</name>
@@ -2698,6 +2904,10 @@ Erreur&#xa0;: %2</translation>
         <source>The PDF document cannot be made: %1</source>
         <translation>Le document PDF ne peut pas être créé&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>characters that no installed font has, and that are empty boxes: %1 (%2%3)</source>
+        <translation>caractères qu’aucune police installée ne contient, et qui sont des cases vides&#xa0;: %1 (%2%3)</translation>
+    </message>
 </context>
 <context>
     <name>MRVPictureReader</name>
@@ -2748,6 +2958,20 @@ Erreur&#xa0;: %2</translation>
     <message>
         <source>it holds more than %1 MiB of text</source>
         <translation>il contient plus de %1 Mio de texte</translation>
+    </message>
+</context>
+<context>
+    <name>MRVProgressMeter</name>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+</context>
+<context>
+    <name>MRVRecovery</name>
+    <message>
+        <source>%1: no lock can be made there</source>
+        <translation>%1&#xa0;: aucun verrou ne peut y être créé</translation>
     </message>
 </context>
 <context>
@@ -4518,10 +4742,6 @@ Erreur&#xa0;: %2</translation>
         <translation>le dossier ne peut pas être créé</translation>
     </message>
     <message>
-        <source>no file can be made here</source>
-        <translation>aucun fichier ne peut être créé ici</translation>
-    </message>
-    <message>
         <source>no file can be made here (%1)</source>
         <translation>aucun fichier ne peut être créé ici (%1)</translation>
     </message>
@@ -4861,6 +5081,53 @@ Veuillez la signaler à %1.</translation>
     <message>
         <source>XML does not allow the character %1</source>
         <translation>XML n’autorise pas le caractère %1</translation>
+    </message>
+</context>
+<context>
+    <name>MRVZipReader</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>il n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is damaged, or no ZIP archive</source>
+        <translation>il est endommagé ou n’est pas une archive ZIP</translation>
+    </message>
+    <message>
+        <source>it holds too many files</source>
+        <translation>il contient trop de fichiers</translation>
+    </message>
+    <message>
+        <source>it is damaged: its files are larger than it is</source>
+        <translation>il est endommagé&#xa0;: ses fichiers sont plus grands que lui</translation>
+    </message>
+    <message>
+        <source>the name of a file in it leads out of it: %1</source>
+        <translation>le nom d’un fichier qu’il contient mène hors de lui&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it holds two files of one name: %1</source>
+        <translation>il contient deux fichiers du même nom&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>il manque</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>it is encrypted, or packed in an unknown way</source>
+        <translation>il est chiffré ou compressé d’une manière inconnue</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
     </message>
 </context>
 <context>

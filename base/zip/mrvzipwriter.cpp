@@ -1,6 +1,8 @@
-#include "epub/mrvziparchive_p.h"
+#include "zip/mrvzipwriter.h"
 
 #include "util/mrvfailure.h"
+#include "util/mrvprogress.h"
+#include "zip/mrvzipaccess_p.h"
 
 #include <QIODevice>
 
@@ -13,6 +15,7 @@
 #include <memory>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -23,6 +26,7 @@ struct Packed
     zip_uint64_t size = 0; // before it was compressed
     quint32 crc = 0;
     bool isDeflated = false;
+    bool isFailed = false;
     zip_uint64_t position = 0; // up to which the archive has read it
     const MRVZipEntry *late = nullptr; // makes the bytes when the archive reads them
 };
@@ -43,11 +47,14 @@ public:
 
     Packed packed(const MRVZipEntry &entry)
     {
+        if (entry.source) {
+            return Packed();
+        }
         if (isLate(entry)) {
-            return Packed{QByteArray(), zip_uint64_t(entry.size), 0, false, 0, &entry};
+            return Packed{QByteArray(), zip_uint64_t(entry.size), 0, false, false, 0, &entry};
         }
         const QByteArray bytes = entry.content();
-        Packed file{bytes, zip_uint64_t(bytes.size()), 0, false, 0, nullptr};
+        Packed file{bytes, zip_uint64_t(bytes.size()), 0, false, bytes.isNull(), 0, nullptr};
         file.crc = libdeflate_crc32(0, bytes.constData(), std::size_t(bytes.size()));
         if (entry.packing == MRVZipEntry::Deflated && m_compressor && bytes.size() > 1) {
             // A result that is not shorter than the text does not fit, and is none.
@@ -109,20 +116,36 @@ private:
 };
 
 // Each thread takes the next file that none has taken, and puts it in its place.
-std::vector<Packed> packAll(const std::vector<MRVZipEntry> &entries, int level)
+std::vector<Packed> packAll(const std::vector<MRVZipEntry> &entries, int level,
+                            MRVProgressMeter *meter)
 {
     std::vector<Packed> files(entries.size());
     std::atomic<std::size_t> next{0};
-    const auto work = [&] {
+    const auto work = [&](MRVProgressMeter *own) {
         Deflater deflater(level);
+        std::size_t last = 0;
         for (std::size_t i = next++; i < entries.size(); i = next++) {
+            if (own && !own->advance(qint64(i - std::exchange(last, i)))) {
+                next = entries.size(); // for all
+                return;
+            }
             files[i] = deflater.packed(entries[i]);
         }
     };
     const std::size_t cores = qMax(1u, std::thread::hardware_concurrency());
-    const Workers others(qMin(cores, entries.size()) - (entries.empty() ? 0 : 1), work);
-    work();
+    const Workers others(qMin(cores, entries.size()) - (entries.empty() ? 0 : 1),
+                         [&work] { work(nullptr); });
+    work(meter);
     return files; // after the others have ended
+}
+
+qint64 packedSize(const std::vector<Packed> &files)
+{
+    qint64 size = 0;
+    for (const Packed &file : files) {
+        size += file.late ? qint64(file.size) : file.bytes.size();
+    }
+    return size;
 }
 
 // Hands a file to the archive. A source that says that it is deflated is copied as it is.
@@ -171,6 +194,7 @@ zip_int64_t readPacked(void *user, void *data, zip_uint64_t length, zip_source_c
 struct Target
 {
     QIODevice *device;
+    MRVProgressMeter *meter; // may be null
     zip_error_t error;
 };
 
@@ -205,7 +229,8 @@ zip_int64_t writeToDevice(void *user, void *data, zip_uint64_t length, zip_sourc
     bool ok = true;
     switch (command) {
     case ZIP_SOURCE_WRITE:
-        ok = writeAll(target.device, static_cast<const char *>(data), qint64(length));
+        ok = (!target.meter || target.meter->advance(qint64(length)))
+            && writeAll(target.device, static_cast<const char *>(data), qint64(length));
         if (ok) {
             return zip_int64_t(length);
         }
@@ -236,8 +261,8 @@ zip_int64_t writeToDevice(void *user, void *data, zip_uint64_t length, zip_sourc
 class Archive
 {
 public:
-    explicit Archive(QIODevice *device)
-        : m_target{device, {}}
+    Archive(QIODevice *device, MRVProgressMeter *meter)
+        : m_target{device, meter, {}}
     {
         zip_error_init(&m_error);
         zip_error_init(&m_target.error);
@@ -259,20 +284,20 @@ public:
     Archive(const Archive &) = delete;
     Archive &operator=(const Archive &) = delete;
 
-    bool add(const QString &path, Packed *file, const QDateTime &date)
+    bool add(const MRVZipEntry &entry, Packed *file, const QDateTime &date)
     {
         const QDate day = date.toUTC().date();
         const QTime time = date.toUTC().time();
-        zip_source_t *const source = m_zip ? zip_source_function(m_zip, readPacked, file) : nullptr;
-        const zip_int64_t index =
-            source ? zip_file_add(m_zip, path.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) : -1;
+        zip_int32_t method = file->isDeflated ? ZIP_CM_DEFLATE : ZIP_CM_STORE;
+        zip_source_t *const source = sourceOf(entry, file, &method);
+        const zip_int64_t index = source
+            ? zip_file_add(m_zip, entry.path.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8)
+            : -1;
         if (source && index < 0) {
             zip_source_free(source);
         }
         return index >= 0
-            && zip_set_file_compression(m_zip, zip_uint64_t(index),
-                                        file->isDeflated ? ZIP_CM_DEFLATE : ZIP_CM_STORE, 0)
-            == 0
+            && zip_set_file_compression(m_zip, zip_uint64_t(index), method, 0) == 0
             // The format of MS-DOS (APPNOTE.TXT, section 4.4.6): seconds count by two.
             && zip_file_set_dostime(
                    m_zip, zip_uint64_t(index),
@@ -288,15 +313,32 @@ public:
         return ok;
     }
 
-    QString errorString()
+    MRVError error()
     {
         if (zip_error_code_zip(&m_target.error) != ZIP_ER_OK) {
-            return m_target.device->errorString(); // such as that the disk is full
+            return MRVError::ofDevice(*m_target.device); // such as that the disk is full
         }
-        return QString::fromUtf8(zip_error_strerror(m_zip ? zip_get_error(m_zip) : &m_error));
+        return {MRVErrorKind::Other,
+                QString::fromUtf8(zip_error_strerror(m_zip ? zip_get_error(m_zip) : &m_error))};
     }
 
 private:
+    // Gives the method of what is copied.
+    zip_source_t *sourceOf(const MRVZipEntry &entry, Packed *file, zip_int32_t *method)
+    {
+        if (!m_zip || !entry.source) {
+            return m_zip ? zip_source_function(m_zip, readPacked, file) : nullptr;
+        }
+        zip_t *from = MRVZipAccess::archive(*entry.source);
+        const zip_uint64_t number = MRVZipAccess::number(*entry.source, entry.index);
+        zip_stat_t stat;
+        if (zip_stat_index(from, number, 0, &stat) != 0) {
+            return nullptr;
+        }
+        *method = stat.comp_method;
+        return zip_source_zip(m_zip, from, number, ZIP_FL_COMPRESSED, 0, -1);
+    }
+
     zip_error_t m_error;
     Target m_target;
     zip_t *m_zip = nullptr;
@@ -305,16 +347,30 @@ private:
 } // namespace
 
 bool mrvWriteZip(const std::vector<MRVZipEntry> &entries, int level, const QDateTime &date,
-                 QIODevice *device, QString *error)
+                 QIODevice *device, MRVErrorSink error, MRVProgressMeter *meter)
 {
-    std::vector<Packed> files = packAll(entries, level); // outlives the archive, which reads it
-    Archive archive(device);
+    if (meter) {
+        meter->begin(800, qint64(entries.size()));
+    }
+    // Outlives the archive, which reads it.
+    std::vector<Packed> files = packAll(entries, level, meter);
+    if (meter && meter->isCancelled()) {
+        return MRV::fail(error, MRVProgressMeter::cancelled());
+    }
+    Archive archive(device, meter);
     bool ok = true;
     for (std::size_t i = 0; ok && i < files.size(); ++i) {
-        if (files[i].size == 0) {
+        if (files[i].isFailed) {
             return MRV::fail(error, entries[i].path);
         }
-        ok = archive.add(entries[i].path, &files[i], date);
+        ok = archive.add(entries[i], &files[i], date);
     }
-    return (ok && archive.close()) || MRV::fail(error, archive.errorString());
+    if (meter) {
+        meter->begin(1000, packedSize(files));
+    }
+    ok = ok && archive.close();
+    return ok
+        || MRV::fail(error,
+                     meter && meter->isCancelled() ? MRVProgressMeter::cancelled()
+                                                   : archive.error());
 }

@@ -1,14 +1,12 @@
-#include "clipboard/mrvdocumentfragment_p.h"
 #include "core/mrvcheckedstream.h"
 #include "core/mrvinputlimits.h"
+#include "fragment/mrvdocumentfragment.h"
+#include "fragment/mrvfragmentformat_p.h"
+#include "fragment/mrvlaidoutformat.h"
 #include "gui/mrvpicturereader.h"
 #include "textformat/mrvtextformat.h"
 
 #include <QDataStream>
-#include <QTextLength>
-
-#include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -18,66 +16,6 @@ constexpr int StreamVersion = QDataStream::Qt_5_15;
 
 constexpr int FrameDepth = 100; // tables in each other, which are inserted by recursion
 constexpr qint64 MergeSteps = qint64(1) << 28; // merged cells times cells: Qt looks at each
-
-// Formats that have no stored form of their own have that of a paragraph's format.
-QTextFormat asType(const QTextFormat &format, int type)
-{
-    QTextFormat result(type);
-    const QMap<int, QVariant> properties = format.properties();
-    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
-        result.setProperty(it.key(), it.value());
-    }
-    return result;
-}
-
-QByteArray stored(const QTextFormat &format)
-{
-    return format.isCharFormat()
-        ? MRVTextFormat::toByteArray(format.toCharFormat())
-        : MRVTextFormat::toByteArray(asType(format, QTextFormat::BlockFormat).toBlockFormat());
-}
-
-// Above these Qt's layout computes beyond the range of its numbers, and may never end.
-constexpr double LongestLength = 1e5; // pixels or points
-constexpr int DeepestIndent = 1000;
-
-bool isLength(double length)
-{
-    return std::abs(length) <= LongestLength; // false for what is no number, too
-}
-
-// Whether a value of a property of Qt's can be laid out.
-bool isLaidOut(int property, const QVariant &value)
-{
-    switch (value.userType()) {
-    case QMetaType::Double:
-    case QMetaType::Float:
-        return isLength(value.toDouble());
-    case QMetaType::QTextLength:
-        return isLength(value.value<QTextLength>().rawValue());
-    case QMetaType::QVariantList: {
-        const QVariantList list = value.toList();
-        return std::all_of(list.begin(), list.end(),
-                           [property](const QVariant &item) { return isLaidOut(property, item); });
-    }
-    case QMetaType::Int:
-        return (property != QTextFormat::BlockIndent && property != QTextFormat::ListIndent)
-            || std::abs(qint64(value.toInt())) <= DeepestIndent;
-    default:
-        return true;
-    }
-}
-
-bool isLaidOut(const QTextFormat &format)
-{
-    const QMap<int, QVariant> properties = format.properties();
-    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
-        if (it.key() < QTextFormat::UserProperty && !isLaidOut(it.key(), it.value())) {
-            return false;
-        }
-    }
-    return true;
-}
 
 /** Reads a fragment, and checks it as far as inserting it relies on it. */
 class Reader
@@ -131,14 +69,14 @@ private:
             *format = MRVTextFormat::toCharFormat(bytes);
         } else if (type == QTextFormat::BlockFormat || type == QTextFormat::ListFormat
                    || type == QTextFormat::FrameFormat) {
-            *format = asType(MRVTextFormat::toBlockFormat(bytes), type);
+            *format = mrvFormatOfType(MRVTextFormat::toBlockFormat(bytes), type);
         } else {
             return false;
         }
         // A format without properties is what damaged bytes give, too.
-        const bool isGood = format->propertyCount() > 0 || bytes == stored(*format);
+        const bool isGood = format->propertyCount() > 0 || bytes == mrvStoredFormat(*format);
         format->clearProperty(QTextFormat::ObjectIndex);
-        return isGood && isLaidOut(*format);
+        return isGood && mrvLaidOutFormat(*format) == *format;
     }
 
     bool readIndex(int *index, int type)
@@ -310,7 +248,7 @@ QByteArray MRVDocumentFragment::toByteArray() const
     stream.setVersion(StreamVersion);
     stream << Magic << Version << quint32(formats.size());
     for (const QTextFormat &format : formats) {
-        stream << qint32(format.type()) << stored(format);
+        stream << qint32(format.type()) << mrvStoredFormat(format);
     }
     stream << quint32(lists.size());
     for (const int format : lists) {
@@ -331,5 +269,6 @@ QByteArray MRVDocumentFragment::toByteArray() const
 
 bool MRVDocumentFragment::fromByteArray(const QByteArray &bytes, MRVDocumentFragment *fragment)
 {
+    *fragment = MRVDocumentFragment();
     return Reader(bytes, fragment).read();
 }

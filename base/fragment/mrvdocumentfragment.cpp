@@ -1,9 +1,13 @@
-#include "clipboard/mrvdocumentfragment_p.h"
+#include "fragment/mrvdocumentfragment.h"
 
+#include "fragment/mrvfragmentformat_p.h"
+#include "fragment/mrvlaidoutformat.h"
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 #include "input/mrvguardeddocument.h"
+#include "textformat/mrvformatspread.h"
 
+#include <QCryptographicHash>
 #include <QPixmap>
 #include <QSet>
 #include <QTextBlock>
@@ -14,6 +18,8 @@
 #include <QUrl>
 
 namespace {
+
+constexpr QChar BeginningOfFrame(0xfdd0); // Qt names it in private headers only
 
 // A picture of a document, encoded; without bytes where it has none that can be read.
 MRVFragmentPicture pictureOf(const QTextDocument &document, const QString &name)
@@ -41,9 +47,10 @@ MRVFragmentPicture pictureOf(const QTextDocument &document, const QString &name)
 class Collector
 {
 public:
-    explicit Collector(const QTextCursor &cursor)
+    Collector(const QTextCursor &cursor, MRVDocumentFragment::Pictures pictures)
         : m_cursor(cursor)
         , m_document(*cursor.document())
+        , m_hasPictures(pictures == MRVDocumentFragment::WithPictures)
     {
     }
 
@@ -111,11 +118,12 @@ private:
             if (next > end) {
                 break;
             }
-            QTextFrame *inner = frameAt(next);
-            while (inner != frame && inner->parentFrame() != frame) {
-                inner = inner->parentFrame();
-            }
-            if (inner != frame) {
+            // To find a frame takes time linear in their number, so this asks for its mark first.
+            if (m_document.characterAt(next - 1) == BeginningOfFrame) {
+                QTextFrame *inner = frameAt(next);
+                while (inner->parentFrame() != frame) {
+                    inner = inner->parentFrame();
+                }
                 before = addFrame(inner);
                 next = inner->lastPosition() + 1;
             }
@@ -217,13 +225,21 @@ private:
             }
         }
         format.clearProperty(QTextFormat::ObjectIndex);
+        format = mrvLaidOutFormat(format);
+        // Formats of a document that differ in the numbers of objects only are one here.
+        const QByteArray stored = QByteArray::number(format.type()) + mrvStoredFormat(format);
+        const QByteArray digest = QCryptographicHash::hash(stored, QCryptographicHash::Sha256);
+        const auto known = m_numbers.constFind(digest);
+        if (known != m_numbers.constEnd()) {
+            return *known;
+        }
         m_fragment.formats.append(format);
-        return m_fragment.formats.size() - 1;
+        return *m_numbers.insert(digest, m_fragment.formats.size() - 1);
     }
 
     void addPicture(const QTextImageFormat &format)
     {
-        if (m_pictures.contains(format.name())) {
+        if (!m_hasPictures || m_pictures.contains(format.name())) {
             return;
         }
         m_pictures.insert(format.name());
@@ -235,8 +251,10 @@ private:
 
     const QTextCursor &m_cursor;
     const QTextDocument &m_document;
+    const bool m_hasPictures;
     MRVDocumentFragment m_fragment;
     QHash<int, int> m_known; // formats by their number in the document
+    QHash<QByteArray, int> m_numbers; // formats by a digest of their stored form
     QHash<const QTextList *, int> m_lists;
     QSet<QString> m_pictures;
 };
@@ -251,6 +269,11 @@ public:
         , m_lists(fragment.lists.size())
         , m_cursor(*cursor)
     {
+        for (QTextFormat &format : m_formats) {
+            if (format.isCharFormat()) {
+                MRVFormatSpread::update(&format);
+            }
+        }
     }
 
     void insert()
@@ -356,11 +379,12 @@ private:
 
     void insertText(QTextCursor *cursor, const MRVFragmentText &text)
     {
-        const QTextCharFormat format = m_formats.at(text.format).toCharFormat();
+        QTextCharFormat format = m_formats.at(text.format).toCharFormat();
         const int position = format.intProperty(QTextFormat::CssFloat);
         const bool isFloat =
             position == QTextFrameFormat::FloatLeft || position == QTextFrameFormat::FloatRight;
         if (format.isImageFormat() && isFloat) {
+            format.clearProperty(QTextFormat::CssFloat); // its frame has it
             cursor->insertImage(format.toImageFormat(), QTextFrameFormat::Position(position));
         } else {
             cursor->insertText(text.text, format);
@@ -400,9 +424,9 @@ private:
 
 } // namespace
 
-MRVDocumentFragment MRVDocumentFragment::fromCursor(const QTextCursor &cursor)
+MRVDocumentFragment MRVDocumentFragment::fromCursor(const QTextCursor &cursor, Pictures pictures)
 {
-    return Collector(cursor).collect();
+    return Collector(cursor, pictures).collect();
 }
 
 void MRVDocumentFragment::insert(QTextCursor *cursor) const

@@ -1,0 +1,307 @@
+#include "archive/mrvdocumentarchive.h"
+
+#include "archive/mrvarchivecontent_p.h"
+#include "archive/mrvarchivepictures_p.h"
+#include "archive/mrvarchivetext_p.h"
+#include "input/mrvguardeddocument.h"
+#include "textformat/mrvtextformat.h"
+#include "util/mrvfailure.h"
+#include "zip/mrvzipreader.h"
+#include "zip/mrvzipwriter.h"
+
+#include "core/mrvfilewriter.h"
+#include "core/mrvinputlimits.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTextCursor>
+
+namespace {
+
+constexpr int Level = 6; // of libdeflate, beyond which archives hardly become smaller
+
+const QLatin1String TypeFile("mimetype");
+const QLatin1String TextFile("text.txt");
+const QLatin1String DocumentFile("document");
+const QLatin1String PropertyFolder("properties/");
+
+// Archives hold dates from 1980 on.
+QDateTime archiveDate(const QDateTime &date)
+{
+    const QDateTime first(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime last(QDate(2107, 12, 31), QTime(0, 0), Qt::UTC);
+    return date.isValid() ? qBound(first, date.toUTC(), last) : first;
+}
+
+bool isPropertyName(const QString &name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\A[A-Za-z0-9][A-Za-z0-9._-]{0,99}\\z"));
+    return pattern.match(name).hasMatch();
+}
+
+// A file that is written over another must not turn out to be unreadable.
+bool isReadable(const QByteArray &bytes)
+{
+    MRVArchiveContent content;
+    return bytes.size() <= MRVInputLimits::TextFileBytes
+        && MRVArchiveContent::fromByteArray(bytes, &content) == MRVArchiveContent::Good;
+}
+
+/** The pictures of a file, by the URLs under which its document asks for them. */
+class Pictures
+{
+public:
+    Pictures(const std::shared_ptr<const MRVZipReader> &file, MRVArchiveContent *content)
+        : m_file(file)
+    {
+        for (const MRVArchivedPicture &picture : qAsConst(content->pictures)) {
+            const int index = file->indexOf(picture.file);
+            const bool isRaw = picture.format >= 0;
+            const QByteArray raw =
+                isRaw ? file->read(index, MRVInputLimits::PictureFileBytes) : QByteArray();
+            if (isRaw ? raw.isNull() : !isWhole(index)) {
+                m_missing.append(picture.name);
+            } else if (isRaw) {
+                content->fragment.formats[picture.format].setProperty(
+                    MRVTextFormat::ImageRawDataProperty, raw);
+            } else {
+                m_indexes.insert(QUrl(picture.name), index);
+            }
+        }
+        m_missing.removeDuplicates();
+    }
+
+    QStringList missing() const { return m_missing; }
+
+    MRVGuardedDocument::PictureLoader loader(const QUrl &base) const
+    {
+        QHash<QUrl, int> indexes;
+        for (auto it = m_indexes.cbegin(); it != m_indexes.cend(); ++it) {
+            indexes.insert(base.resolved(it.key()), it.value());
+        }
+        return [file = m_file, indexes](const QUrl &url) {
+            const auto found = indexes.constFind(url);
+            return found == indexes.constEnd()
+                ? QByteArray()
+                : file->read(*found, MRVInputLimits::PictureFileBytes);
+        };
+    }
+
+private:
+    // Several names may show one picture.
+    bool isWhole(int index)
+    {
+        if (!m_whole.contains(index)) {
+            m_whole.insert(index, m_file->check(index, MRVInputLimits::PictureFileBytes));
+        }
+        return m_whole.value(index);
+    }
+
+    std::shared_ptr<const MRVZipReader> m_file;
+    QHash<int, bool> m_whole;
+    QHash<QUrl, int> m_indexes;
+    QStringList m_missing;
+};
+
+/** Has a document changed as a whole: without an undo history, and as if it had not been. */
+class Replacement
+{
+public:
+    explicit Replacement(MRVGuardedDocument *document)
+        : m_document(document)
+        , m_hadUndo(document->isUndoRedoEnabled())
+    {
+        document->setUndoRedoEnabled(false);
+        document->clear();
+    }
+    ~Replacement()
+    {
+        m_document->setUndoRedoEnabled(m_hadUndo);
+        m_document->setModified(false);
+    }
+    Replacement(const Replacement &) = delete;
+    Replacement &operator=(const Replacement &) = delete;
+
+private:
+    MRVGuardedDocument *m_document;
+    const bool m_hadUndo;
+};
+
+/** What an application keeps in a file, by name. */
+struct Properties
+{
+    explicit Properties(const MRVZipReader &file)
+    {
+        for (int i = 0; i < file.files().size(); ++i) {
+            const QString path = file.files().at(i).path;
+            const QString name = path.mid(PropertyFolder.size());
+            if (!path.startsWith(PropertyFolder) || !isPropertyName(name)) {
+                continue;
+            }
+            const QByteArray bytes = file.read(i, MRVInputLimits::FileBytes);
+            if (bytes.isNull()) {
+                damaged.append(name);
+            } else {
+                values.insert(name, bytes);
+            }
+        }
+    }
+
+    QMap<QString, QByteArray> values;
+    QStringList damaged;
+};
+
+} // namespace
+
+QString MRVDocumentArchive::suffix()
+{
+    return QStringLiteral("mrvdoc");
+}
+
+QString MRVDocumentArchive::mimeType()
+{
+    return QStringLiteral("application/x-morvane-archive");
+}
+
+bool MRVDocumentArchive::isArchive(const QByteArray &bytes)
+{
+    constexpr int NameAt = 30; // in the head of a ZIP archive's first file, which has nothing else
+    const QByteArray begin = QByteArray(TypeFile.data()) + mimeType().toLatin1();
+    return bytes.startsWith("PK\3\4") && bytes.mid(NameAt, begin.size()) == begin;
+}
+
+bool MRVDocumentArchive::setProperty(const QString &name, const QByteArray &bytes)
+{
+    if (!isPropertyName(name)) {
+        return false;
+    }
+    if (bytes.isNull()) {
+        m_properties.remove(name);
+    } else {
+        m_properties.insert(name, bytes);
+    }
+    return true;
+}
+
+bool MRVDocumentArchive::write(const QTextDocument &document, const QString &path,
+                               MRVErrorSink error)
+{
+    const auto content = [this, &document](QIODevice *device, MRVErrorSink reason) {
+        return write(document, device, reason);
+    };
+    return MRVFileWriter::write(path, content, error);
+}
+
+bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device, MRVErrorSink error)
+{
+    MRVArchiveContent content = MRVArchiveContent::of(document);
+    content.metadata = m_metadata;
+    const MRVArchivePictures pictures(document, &content);
+    const QByteArray stored = content.toByteArray();
+    if (!isReadable(stored)) {
+        return MRV::fail(error, MRVErrorKind::TooLarge,
+                         tr("the document is too large, or too complex, for this format"));
+    }
+    std::vector<MRVZipEntry> files;
+    const auto add = [&](const QString &path, const QByteArray &bytes,
+                         MRVZipEntry::Packing packing = MRVZipEntry::Deflated) {
+        const QByteArray there = bytes.isNull() ? QByteArray("") : bytes; // null is a failure
+        files.push_back({path, packing, [there] { return there; }});
+    };
+    // The type comes first and uncompressed, for programs that read the first bytes only.
+    add(TypeFile, mimeType().toLatin1(), MRVZipEntry::Stored);
+    add(TextFile, mrvArchiveText(document).toUtf8());
+    add(DocumentFile, stored);
+    for (auto it = m_properties.cbegin(); it != m_properties.cend(); ++it) {
+        add(PropertyFolder + it.key(), it.value());
+    }
+    files.insert(files.end(), pictures.files().begin(), pictures.files().end());
+    if (files.size() > std::size_t(MRVInputLimits::ZipFiles)) {
+        return MRV::fail(error, MRVErrorKind::TooLarge, tr("it holds too many pictures"));
+    }
+    MRVError reason;
+    if (!mrvWriteZip(files, Level, archiveDate(m_modified), device, &reason)) {
+        return pictures.failed().isEmpty()
+            ? MRV::fail(error, reason)
+            : MRV::fail(error, MRVErrorKind::Changed,
+                        tr("the picture %1 has changed, or cannot be read any more")
+                            .arg(pictures.failed()));
+    }
+    m_isTextOnly = false;
+    m_missingPictures = pictures.missing();
+    m_damagedProperties.clear();
+    return true;
+}
+
+bool MRVDocumentArchive::read(const QString &path, MRVGuardedDocument *document, MRVErrorSink error)
+{
+    MRVError reason;
+    return read(std::make_shared<const MRVZipReader>(path), document, &reason)
+        || MRV::fail(error, path, reason);
+}
+
+bool MRVDocumentArchive::read(const QByteArray &bytes, MRVGuardedDocument *document,
+                              MRVErrorSink error)
+{
+    return read(std::make_shared<const MRVZipReader>(bytes), document, error);
+}
+
+bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
+                              MRVGuardedDocument *document, MRVErrorSink error)
+{
+    if (!file->isOpen() || !document) {
+        return MRV::fail(error, file->error());
+    }
+    const int place = file->indexOf(DocumentFile);
+    const QByteArray type = file->read(file->indexOf(TypeFile), MRVInputLimits::KeyText);
+    if (place < 0 && type != mimeType().toLatin1()) {
+        return MRV::fail(error, MRVErrorKind::Damaged, tr("it holds no document"));
+    }
+    MRVArchiveContent content;
+    const auto result = MRVArchiveContent::fromByteArray(
+        file->read(place, MRVInputLimits::TextFileBytes), &content);
+    if (result == MRVArchiveContent::Newer) {
+        return MRV::fail(error, MRVErrorKind::Unsupported,
+                         tr("it was made by a newer version of this program"));
+    }
+    const bool isWhole = result == MRVArchiveContent::Good;
+    const QByteArray text =
+        isWhole ? QByteArray() : file->read(file->indexOf(TextFile), MRVInputLimits::TextFileBytes);
+    if (!isWhole && text.isNull()) {
+        return MRV::fail(error, MRVErrorKind::Damaged, tr("it is damaged"));
+    }
+    const Replacement replacement(document);
+    document->setPictureLoader({});
+    m_missingPictures.clear();
+    m_isTextOnly = !isWhole;
+    const Properties properties(*file);
+    m_properties = properties.values;
+    m_damagedProperties = properties.damaged;
+    m_metadata = isWhole ? content.metadata : QVector<MRVMetadataEntry>();
+    if (isWhole) {
+        const Pictures pictures(file, &content);
+        m_missingPictures = pictures.missing();
+        content.apply(document);
+        document->setPictureLoader(pictures.loader(document->baseUrl()));
+    } else {
+        document->setPlainText(QString::fromUtf8(text));
+    }
+    return true;
+}
+
+QStringList MRVDocumentArchive::notes() const
+{
+    QStringList notes;
+    if (m_isTextOnly) {
+        notes.append(tr("the document is damaged; its words were read, without formats and "
+                        "pictures"));
+    }
+    for (const QString &picture : m_missingPictures) {
+        notes.append(tr("the picture %1 is missing or damaged").arg(picture));
+    }
+    for (const QString &property : m_damagedProperties) {
+        notes.append(tr("what the program keeps as %1 is damaged").arg(property));
+    }
+    return notes;
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "document/mrvdocumentflow.h"
+#include "textexport/mrvtextnotes_p.h"
+
+#include <QHash>
+#include <QString>
+#include <QTextCharFormat>
+#include <QVector>
+
+/** What text can be in other forms of text than rich text; each a bit. */
+enum MRVInlineMark : unsigned {
+    MRVLinkMark = 1,
+    MRVStrongMark = 2,
+    MRVEmphasisMark = 4,
+    MRVStrikeMark = 8,
+    MRVUnderlineMark = 16,
+    MRVSuperscriptMark = 32,
+    MRVSubscriptMark = 64,
+    MRVSmallCapsMark = 128,
+    MRVCodeMark = 256,
+    /** Those that blanks show. */
+    MRVMarksOfBlanks = MRVLinkMark | MRVStrikeMark | MRVUnderlineMark,
+};
+
+/** The marks of text of a format. */
+unsigned mrvInlineMarks(const QTextCharFormat &format);
+
+/** A comment in the margin. */
+struct MRVInlineComment
+{
+    QString key; ///< by which its text belongs together; empty for none
+    QString text; ///< a line a paragraph
+    QString author;
+    QString date;
+};
+
+/** A stretch of a paragraph that is written in one way. */
+struct MRVInlinePiece
+{
+    enum Kind { Text, LineEnd, Picture, NoteMark };
+
+    Kind kind = Text;
+    int begin = 0; ///< in the document
+    int end = 0;
+    unsigned marks = 0; ///< of MRVInlineMark
+    int link = -1; ///< an index into MRVDocumentFlow::links
+    int format = -1; ///< of a picture, as an index into MRVDocumentFlow::formats
+    int note = -1; ///< of a mark
+    QStringList names; ///< of anchors at its beginning
+    int comment = -1; ///< an index into MRVInlinePieces::comments()
+};
+
+/** Takes paragraphs apart. */
+class MRVInlinePieces
+{
+public:
+    MRVInlinePieces(const MRVDocumentFlow &flow, const MRVTextNotes &notes);
+
+    /**
+     * The pieces of a paragraph. No format that blanks do not show ends with one, or begins in the
+     * middle of a piece.
+     */
+    QVector<MRVInlinePiece> of(int paragraph);
+    /** The same for a part of a paragraph, with nothing cut out. */
+    QVector<MRVInlinePiece> of(int begin, int end);
+
+    /** Those that were met, in order. */
+    const QVector<MRVInlineComment> &comments() const { return m_comments; }
+    /** The comment of the first text of a paragraph; -1 without one. */
+    int firstComment(int paragraph);
+    /** Whether a piece begins with what most formats do not show in. */
+    bool isBlank(const MRVInlinePiece &piece) const;
+
+private:
+    // What a format says.
+    struct Format
+    {
+        bool isKnown = false;
+        bool isPicture = false;
+        unsigned marks = 0;
+        QStringList names;
+        int comment = -1;
+    };
+
+    const Format &formatOf(int index);
+    int commentOf(const QTextFormat &format);
+    QVector<MRVInlinePiece> read(int paragraph, int begin, int end, bool hasCuts);
+    void addText(int begin, int end, const MRVInlinePiece &like,
+                 QVector<MRVInlinePiece> *pieces) const;
+    void settleBlanks(QVector<MRVInlinePiece> *pieces) const;
+
+    const MRVDocumentFlow &m_flow;
+    const MRVTextNotes &m_notes;
+    QVector<Format> m_formats;
+    QVector<MRVInlineComment> m_comments;
+    QHash<QString, int> m_commentIndexes; // by key
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "document/mrvdocumentflow.h"
+
+#include <QString>
+#include <QVector>
+
+/** A note of a document, which is to stand at its end. */
+struct MRVTextNote
+{
+    QString label; ///< that no other note has; letters, digits, hyphens
+    int firstParagraph = -1; ///< of a note that has paragraphs of its own; else -1
+    int endParagraph = -1;
+    int begin = -1; ///< of a note that stands in the text
+    int end = -1;
+};
+
+/** Text of a document that is not written in its place. */
+struct MRVTextCut
+{
+    int begin; ///< where it begins in the document
+    int end; ///< after it
+    int note; ///< the note whose mark takes its place; -1 for nothing
+};
+
+/**
+ * Finds what of a document moves to its end: notes that are linked with their marks, and notes
+ * within the text. Notes in tables and frames stay where they are.
+ */
+class MRVTextNotes
+{
+public:
+    explicit MRVTextNotes(const MRVDocumentFlow &flow);
+
+    /** In the order of their marks. */
+    const QVector<MRVTextNote> &all() const { return m_notes; }
+    /** In order, without overlaps. */
+    const QVector<MRVTextCut> &cuts() const { return m_cuts; }
+    /** The first cut that ends at @p position or after it. */
+    QVector<MRVTextCut>::const_iterator cutAt(int position) const;
+    /** Whether a paragraph is part of a note, and not written in its place. */
+    bool hasMoved(int paragraph) const { return m_moved.at(paragraph); }
+
+private:
+    struct Reader;
+
+    QVector<MRVTextNote> m_notes;
+    QVector<MRVTextCut> m_cuts;
+    QVector<bool> m_moved; // by paragraph
+};

@@ -1,0 +1,287 @@
+#include "datarows.h"
+#include "documentmeaning.h"
+
+#include "document/mrvmarginnotes.h"
+#include "html/mrvhtmldocument.h"
+#include "manuscript/mrvmanuscriptreader.h"
+#include "publish/mrvtextpublisher.h"
+#include "textexport/mrvdocumentlosses.h"
+#include "textexport/mrvmarkdownwriter.h"
+#include "textexport/mrvplaintextwriter.h"
+
+#include <QRandomGenerator>
+
+namespace {
+
+std::unique_ptr<QTextDocument> fromHtml(const QString &html)
+{
+    auto document = std::make_unique<QTextDocument>();
+    MRVHtmlDocument::read(html, QString(), document.get());
+    return document;
+}
+
+QStringList meaningOf(const QString &text, MRVManuscript::Format format)
+{
+    MRVManuscriptReader reader;
+    reader.setFormat(format);
+    reader.setPurpose(MRVManuscriptReader::Editing);
+    reader.setLoadsPictures(false);
+    MRVManuscript manuscript;
+    reader.readBytes(text.toUtf8(), "text", QString(), &manuscript);
+    return documentMeaning(*manuscript.document);
+}
+
+/// Whether the plain text of a document has its words in their order.
+bool hasWords(const QTextDocument &document)
+{
+    MRVPlainTextWriter writer(document);
+    writer.setSeparation(MRVPlainTextWriter::Lines);
+    const QString text = writer.text();
+    int at = 0;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QStringList words = it.fragment().text().split(
+                QRegularExpression("[\\s\u2028\ufffc]+"), Qt::SkipEmptyParts);
+            for (const QString &word : words) {
+                at = text.indexOf(word, at);
+                if (at < 0) {
+                    return false;
+                }
+                at += word.size();
+            }
+        }
+    }
+    return true;
+}
+
+/// Pages of what Markdown can say, with texts that look like markup.
+class RandomPage
+{
+public:
+    explicit RandomPage(quint32 seed)
+        : m_random(seed)
+    {
+    }
+
+    QString page()
+    {
+        QString html;
+        for (int i = below(6) + 1; i > 0; --i) {
+            html += block(0);
+        }
+        return html;
+    }
+
+private:
+    int below(int end) { return int(m_random.bounded(end)); }
+    QString oneOf(const QStringList &texts) { return texts.at(below(texts.size())); }
+
+    QString word()
+    {
+        static const QString signs = "!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~a1Bé–€\u00a0😀";
+        static const QStringList words{
+            "word",   "12.",   "www.a.org", "http://a.org/b", "---",       "a@b.org", "&amp;amp;",
+            "[x](y)", "**a**", "1)",        "[^1]",           "&lt;b&gt;", "===",     "#",
+            "+",      "~~a~~", "| a | b |", "[a]: b",         ":-:",       ">",       "&lt;!--",
+            "``",     "\\",    "_a_b_",     "Title:"};
+        if (below(3) == 0) {
+            return oneOf(words);
+        }
+        QString text;
+        for (int i = below(4) + 1; i > 0; --i) {
+            const QVector<uint> all = signs.toUcs4();
+            const uint c = all.at(below(all.size()));
+            text += QString::fromUcs4(&c, 1);
+        }
+        return text.toHtmlEscaped();
+    }
+
+    QString text(int depth)
+    {
+        QString html;
+        for (int i = below(5) + 1; i > 0; --i) {
+            html += oneOf({"", " ", " "}) + (depth < 3 && below(3) == 0 ? marked(depth) : word());
+        }
+        return html;
+    }
+
+    QString marked(int depth)
+    {
+        static const QStringList elements{"b", "i", "s", "u", "sup", "sub", "code", "b", "i"};
+        const int kind = below(12);
+        if (kind == 0) {
+            return "<br>";
+        } else if (kind == 1) {
+            return QString("<img src=\"%1.png\" alt=\"%2\" title=\"%3\">")
+                .arg(below(9))
+                .arg(word(), oneOf({"", word()}));
+        } else if (kind == 2) {
+            const QString address =
+                oneOf({"http://a.org", "a b(c", "x|y`", "#z", "mailto:a@b.org"});
+            return "<a href=\"" + address + "\">" + text(3) + "</a>";
+        }
+        const QString element = oneOf(elements);
+        return QString("<%1>%2</%1>").arg(element, text(depth + 1));
+    }
+
+    QString block(int depth)
+    {
+        const int kind = below(depth < 3 ? 12 : 5);
+        if (kind == 0) {
+            return QString("<h%1>%2</h%1>").arg(below(6) + 1).arg(text(0));
+        } else if (kind == 1) {
+            return "<pre>" + word() + "\n  " + word() + "\n\n" + word() + "</pre>";
+        } else if (kind == 5) {
+            return "<blockquote>" + block(depth + 1) + block(depth + 1) + "</blockquote>";
+        } else if (kind == 6) {
+            return "<hr>";
+        } else if (kind == 7 || kind == 8) {
+            return list(depth);
+        } else if (kind == 9 && depth == 0) {
+            return table();
+        }
+        return "<p>" + text(0) + "</p>";
+    }
+
+    QString list(int depth)
+    {
+        const bool isNumbered = below(2) == 0;
+        const bool isLoose = below(2) == 0;
+        QString html = isNumbered ? QString("<ol start=\"%1\">").arg(below(3)) : QString("<ul>");
+        for (int i = below(3) + 1; i > 0; --i) {
+            html += "<li>" + (isLoose ? "<p>" + text(0) + "</p>" : text(0));
+            html += isLoose ? block(depth + 1) : below(3) == 0 && depth < 3 ? list(depth + 1) : "";
+            html += "</li>";
+        }
+        return html + (isNumbered ? "</ol>" : "</ul>");
+    }
+
+    QString table()
+    {
+        const bool hasBlocks = below(3) == 0;
+        QString html = "<table>";
+        const int columns = below(3) + 1;
+        for (int row = 0; row < below(3) + 2; ++row) {
+            html += row == 0 ? "<thead><tr>" : "<tr>";
+            for (int column = 0; column < columns; ++column) {
+                const QString cell = row > 0 && hasBlocks ? block(1) : text(1);
+                html += (row == 0 ? "<th>" : "<td>") + cell + (row == 0 ? "</th>" : "</td>");
+            }
+            html += row == 0 ? "</tr></thead>" : "</tr>";
+        }
+        return html + "</table>";
+    }
+
+    QRandomGenerator m_random;
+};
+
+} // namespace
+
+class TestTextExport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void texts_data() { addRows("textexport.tsv", {"name", "html", "markdown", "text"}); }
+    void texts()
+    {
+        const auto document = fromHtml(cell("html"));
+        QCOMPARE(MRVPlainTextWriter(*document).text().chopped(1), cell("text"));
+        const QString markdown = MRVMarkdownWriter(*document).text();
+        QCOMPARE(markdown.chopped(1), cell("markdown"));
+        QCOMPARE(meaningOf(markdown, MRVManuscript::Markdown), documentMeaning(*document));
+    }
+
+    void randomMarkdown()
+    {
+        for (quint32 seed = 0; seed < 2000; ++seed) {
+            const QString page = RandomPage(seed).page();
+            const auto document = fromHtml(page);
+            const QString markdown = MRVMarkdownWriter(*document).text();
+            QVERIFY2(hasWords(*document), qPrintable(page));
+            if (meaningOf(markdown, MRVManuscript::Markdown) != documentMeaning(*document)) {
+                qInfo() << "seed" << seed << page << '\n' << qPrintable(markdown);
+                QCOMPARE(meaningOf(markdown, MRVManuscript::Markdown), documentMeaning(*document));
+            }
+        }
+    }
+
+    void paragraphs()
+    {
+        const auto document = fromHtml("<h1>One</h1><p>a  b</p><p><br></p><p>c</p>");
+        MRVPlainTextWriter writer(*document);
+        writer.setSeparation(MRVPlainTextWriter::Lines);
+        QCOMPARE(writer.text(), "One\na b\n\nc\n");
+    }
+
+    void margin()
+    {
+        const auto document = fromHtml("<p>one two</p><p>three</p>");
+        QTextCursor cursor(document->begin());
+        cursor.movePosition(QTextCursor::NextWord, QTextCursor::KeepAnchor);
+        MRVMarginNotes::add(cursor, MRVMarginNote::Footnote, "first\n[second]");
+        QCOMPARE(MRVMarkdownWriter(*document).text(),
+                 "one[^1] two\n\nthree\n\n[^1]: first\n\n    \\[second\\]\n");
+        QCOMPARE(MRVPlainTextWriter(*document).text(),
+                 "one[1] two\n\nthree\n\n[1] first\n\n[second]\n");
+    }
+
+    void notesWithinText()
+    {
+        const auto document = fromHtml("<p>a b c</p>");
+        QTextCursor cursor(document->begin());
+        cursor.movePosition(QTextCursor::NextWord);
+        cursor.movePosition(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+        QTextCharFormat note;
+        note.setProperty(MRVTextFormat::InlineFootnoteProperty, true);
+        note.setFontItalic(true);
+        cursor.mergeCharFormat(note);
+        QCOMPARE(MRVMarkdownWriter(*document).text(), "a [^1] c\n\n[^1]: *b*\n");
+    }
+
+    void losses_data()
+    {
+        addRows("textexport-losses.tsv", {"name", "html", "page", "markdown", "text", "script"});
+    }
+    void losses()
+    {
+        const auto document = fromHtml(cell("html"));
+        const auto lossesOf = [&](MRVDocumentLosses::Format format) {
+            return MRVDocumentLosses::of(*document, format).join("; ");
+        };
+        QCOMPARE(lossesOf(MRVDocumentLosses::Html), cell("page"));
+        QCOMPARE(lossesOf(MRVDocumentLosses::Markdown), cell("markdown"));
+        QCOMPARE(lossesOf(MRVDocumentLosses::PlainText), cell("text"));
+        QCOMPARE(lossesOf(MRVDocumentLosses::Script), cell("script"));
+    }
+
+    void files()
+    {
+        QTemporaryDir folder;
+        QImage image(2, 2, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QTextDocument document;
+        document.addResource(QTextDocument::ImageResource, QUrl("mem"), image);
+        QTextCursor(&document).insertImage("mem");
+        const QString file = folder.filePath("sub/a.md");
+        QStringList written;
+        QString error;
+        QVERIFY2(MRVTextPublisher::writeMarkdown(document, {}, file, &written, &error),
+                 qPrintable(error));
+        QCOMPARE(written.size(), 2);
+        MRVManuscriptReader reader;
+        MRVManuscript manuscript;
+        QVERIFY2(reader.read(file, &manuscript), qPrintable(reader.errorString()));
+        QCOMPARE(manuscript.pictures, QStringList(QFileInfo(written.first()).absoluteFilePath()));
+
+        QVERIFY(QDir(folder.path()).mkdir("b.md"));
+        QVERIFY(!MRVTextPublisher::writeMarkdown(document, {}, folder.filePath("b.md"), &written,
+                                                 &error));
+        QVERIFY(error.contains("b.md"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+                 QStringList({"b.md", "sub"}));
+    }
+};
+
+QTEST_MAIN(TestTextExport)
+#include "tst_textexport.moc"
