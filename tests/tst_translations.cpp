@@ -25,7 +25,23 @@ Q_DECLARE_METATYPE(std::function<QString()>)
 
 namespace {
 
-const QString Folder = QStringLiteral(MRV_SOURCE_DIR "/base/resources/translations/");
+/// Translations that belong together.
+struct Catalogue
+{
+    const char *name;
+    QString files; ///< up to the code of the language
+    QStringList folders; ///< of the sources
+    int fewest; ///< texts that there are at least
+};
+
+const Catalogue Library{"library",
+                        QStringLiteral(MRV_SOURCE_DIR "/base/resources/translations/mrvbase_"),
+                        {"base", "platform", "plugins"},
+                        600};
+const Catalogue Program{"program",
+                        QStringLiteral(MRV_SOURCE_DIR "/examples/writer/translations/mrvwriter_"),
+                        {"examples/writer"},
+                        150};
 
 struct Message
 {
@@ -35,9 +51,15 @@ struct Message
     bool isFinished = true;
 };
 
-QVector<Message> messagesOf(const QString &language)
+/// Whether a text has forms for one and for several: "%n", or "%Ln" as the locale writes numbers.
+bool hasCount(const QString &text)
 {
-    QFile file(Folder + "mrvbase_" + language + ".ts");
+    return text.contains("%n") || text.contains("%Ln");
+}
+
+QVector<Message> messagesOf(const QString &path)
+{
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("%s cannot be read", qPrintable(file.fileName()));
     }
@@ -57,7 +79,7 @@ QVector<Message> messagesOf(const QString &language)
             messages.last().translations << xml.readElementText();
         } else if (xml.name() == "translation") {
             messages.last().isFinished = !xml.attributes().hasAttribute("type");
-            if (!messages.last().source.contains("%n")) {
+            if (!hasCount(messages.last().source)) {
                 messages.last().translations << xml.readElementText();
             }
         }
@@ -75,7 +97,7 @@ QStringList sorted(QStringList list)
 QString frameOf(const QString &text)
 {
     QStringList parts;
-    const QRegularExpression expression(R"(%(?:\d|n)|&(?=\w))");
+    const QRegularExpression expression(R"(%(?:\d|L?n)|&(?=\w))");
     for (auto it = expression.globalMatch(text); it.hasNext();) {
         parts << it.next().captured();
     }
@@ -89,8 +111,8 @@ QString frameOf(const QString &text)
 
 } // namespace
 
-/// The languages that come with the library. They are read as they lie in the sources, and as a
-/// program finds them in its resources.
+/// The languages that come with the library and with the writing program. They are read as they
+/// lie in the sources, and as a program finds them in its resources.
 class tst_Translations : public QObject
 {
     Q_OBJECT
@@ -106,43 +128,48 @@ private Q_SLOTS:
         QCOMPARE(MTranslator::morvaneGuiLanguages(), (QStringList{"en", "de", "es", "fr"}));
     }
 
-    void sourcesAndTranslationsAgree_data() { addLanguages({"de", "en", "es", "fr"}); }
+    void sourcesAndTranslationsAgree_data()
+    {
+        addCatalogues();
+        addRow(Library, "en");
+    }
     /// A text that was added, changed or removed shows as a difference; so does one that lupdate
     /// loses, of which it only warns.
     void sourcesAndTranslationsAgree()
     {
         QFETCH(QString, language);
+        QFETCH(QString, path);
+        QFETCH(QStringList, folders);
         QTemporaryDir folder;
-        const QString name = "mrvbase_" + language + ".ts";
-        QVERIFY(QFile::copy(Folder + name, folder.filePath(name)));
+        const QString copy = folder.filePath("copy_" + language + ".ts");
+        QVERIFY(QFile::copy(path, copy));
         QVERIFY(QDir::setCurrent(MRV_SOURCE_DIR));
         QStringList arguments = QString(MRV_LUPDATE_OPTIONS).split(' ');
         if (language == "en") {
             arguments << "-pluralonly";
         }
-        arguments << "-target-language" << language << "base"
-                  << "platform"
-                  << "plugins"
-                  << "-ts" << folder.filePath(name);
+        arguments << "-target-language" << language << folders << "-ts" << copy;
         const Ran lupdate = run(MRV_LUPDATE, arguments);
         QCOMPARE(lupdate.exitCode, 0);
         QCOMPARE(lupdate.errors, QString());
-        const bool isSame = bytesOf(folder.filePath(name)) == bytesOf(Folder + name);
+        const bool isSame = bytesOf(copy) == bytesOf(path);
         QVERIFY2(isSame, "run the target update-translations, then translate what is unfinished");
     }
 
-    void complete_data() { addLanguages({"de", "es", "fr"}); }
+    void complete_data() { addCatalogues(); }
     void complete()
     {
         QFETCH(QString, language);
+        QFETCH(QString, path);
+        QFETCH(int, fewest);
         const QRegularExpression foreign(language == "fr" ? " [:;!?»]|« |\"|'|^[:;!?]" : "\"|'");
         QMap<QString, QString> sources;
-        const QVector<Message> messages = messagesOf(language);
-        QVERIFY(messages.size() > 600);
+        const QVector<Message> messages = messagesOf(path);
+        QVERIFY(messages.size() > fewest);
         for (const Message &message : messages) {
             const QByteArray where = (message.context + ": " + message.source).toUtf8();
             QVERIFY2(message.isFinished, where);
-            QCOMPARE(message.translations.size(), message.source.contains("%n") ? 2 : 1);
+            QCOMPARE(message.translations.size(), hasCount(message.source) ? 2 : 1);
             for (const QString &text : message.translations) {
                 QCOMPARE(frameOf(text), frameOf(message.source));
                 QVERIFY2(!text.trimmed().isEmpty(), where);
@@ -155,17 +182,21 @@ private Q_SLOTS:
         }
     }
 
-    void eachTextComesOut_data() { addLanguages({"de", "es", "fr"}); }
+    void eachTextComesOut_data() { addCatalogues(); }
     void eachTextComesOut()
     {
         QFETCH(QString, language);
+        QFETCH(QString, path);
         QVERIFY(MTranslator::install(language));
-        for (const Message &message : messagesOf(language)) {
+        QTranslator program;
+        QVERIFY(program.load(":/Writer/Translations/mrvwriter_" + language));
+        QVERIFY(QCoreApplication::installTranslator(&program));
+        for (const Message &message : messagesOf(path)) {
             QString expected = message.translations.constLast();
-            const int count = expected.contains("%n") ? 5 : -1;
+            const int count = hasCount(expected) ? 5 : -1;
             QCOMPARE(QCoreApplication::translate(message.context.toUtf8(), message.source.toUtf8(),
                                                  nullptr, count),
-                     expected.replace("%n", "5"));
+                     expected.replace("%n", "5").replace("%Ln", "5"));
         }
     }
 
@@ -298,6 +329,23 @@ private Q_SLOTS:
     }
 
 private:
+    static void addRow(const Catalogue &catalogue, const QString &language)
+    {
+        QTest::addRow("%s-%s", catalogue.name, qPrintable(language))
+            << language << catalogue.files + language + ".ts" << catalogue.folders
+            << catalogue.fewest;
+    }
+    static void addCatalogues()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<int>("fewest");
+        for (const char *language : {"de", "es", "fr"}) {
+            addRow(Library, language);
+            addRow(Program, language);
+        }
+    }
     static void addLanguages(const QStringList &languages)
     {
         QTest::addColumn<QString>("language");

@@ -1,0 +1,266 @@
+#include "manuscriptfile.h"
+
+#include <archive/mrvdocumentarchive.h>
+#include <core/mrvcoreutil.h>
+#include <core/mrverror.h>
+#include <core/mrvfilewriter.h>
+#include <gui/mrvguiutil.h>
+#include <input/mrvguardeddocument.h>
+#include <manuscript/mrvmanuscriptreader.h>
+#include <publish/mrvpagepublisher.h>
+#include <publish/mrvtextpublisher.h>
+#include <screenplay/mrvscriptdocument.h>
+#include <screenplay/mrvscriptfile.h>
+#include <text/mrvnestedlists.h>
+#include <textexport/mrvdocumentlosses.h>
+#include <textexport/mrvplaintextwriter.h>
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct FormatRow
+{
+    ManuscriptFile::Format format;
+    const char *suffixes; // the one that is written first
+    const char *name;
+};
+
+constexpr FormatRow formats[] = {
+    {ManuscriptFile::Native, "mrvdoc", QT_TRANSLATE_NOOP("ManuscriptFile", "Morvane document")},
+    {ManuscriptFile::Html, "html htm xhtml", QT_TRANSLATE_NOOP("ManuscriptFile", "HTML page")},
+    {ManuscriptFile::Markdown, "md markdown", QT_TRANSLATE_NOOP("ManuscriptFile", "Markdown")},
+    {ManuscriptFile::Text, "txt", QT_TRANSLATE_NOOP("ManuscriptFile", "Plain text")},
+    {ManuscriptFile::Fountain, "fountain", QT_TRANSLATE_NOOP("ManuscriptFile", "Fountain script")},
+    {ManuscriptFile::FinalDraft, "fdx", QT_TRANSLATE_NOOP("ManuscriptFile", "Final Draft script")},
+};
+
+constexpr QLatin1String scriptModeProperty("script-mode");
+
+QStringList suffixes(const FormatRow &row)
+{
+    return QString::fromLatin1(row.suffixes).split(u' ');
+}
+
+QString filterOf(const FormatRow &row)
+{
+    return MRVGuiUtil::createFormatFilter(QCoreApplication::translate("ManuscriptFile", row.name),
+                                          suffixes(row));
+}
+
+std::unique_ptr<QTextDocument> readScript(const QString &path, const MRVScriptMode &mode,
+                                          QStringList *notes, MRVError *error)
+{
+    MRVScriptFile file;
+    const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
+    if (*error || !file.read(bytes, MRVScriptFile::formatOfFile(path), error)) {
+        return nullptr;
+    }
+    *notes = file.losses();
+    auto document = std::make_unique<MRVGuardedDocument>();
+    MRVScriptDocument::setScript(document.get(), file.script(), mode);
+    return document;
+}
+
+std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHead *head,
+                                              QStringList *notes, MRVError *error)
+{
+    MRVManuscriptReader reader;
+    reader.setMissingPictures(MRVManuscriptReader::Keep);
+    MRVManuscript manuscript;
+    bool isRead = reader.read(path, &manuscript);
+    if (!isRead && reader.error() == MRVManuscriptReader::DecodingError) {
+        const QString reason = reader.errorString();
+        reader.setEncoding(QStringLiteral("windows-1252"));
+        isRead = reader.read(path, &manuscript);
+        notes->append(ManuscriptFile::tr("%1; read as Windows-1252").arg(reason));
+    }
+    if (!isRead) {
+        *error = {reader.errorKind(), reader.errorString()};
+        return nullptr;
+    }
+    *notes += manuscript.readingNotes();
+    head->authors = manuscript.authors;
+    head->description = manuscript.description;
+    head->language = manuscript.language;
+    head->date = manuscript.date;
+    head->entries = manuscript.metadata;
+    MRVNestedLists::toLevels(manuscript.document.get());
+    return std::move(manuscript.document);
+}
+
+} // namespace
+
+QString ManuscriptFile::name() const
+{
+    return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).fileName();
+}
+
+ManuscriptFile::Format ManuscriptFile::formatOf(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    const auto row = std::find_if(std::begin(formats), std::end(formats),
+                                  [&](const FormatRow &r) { return suffixes(r).contains(suffix); });
+    return row == std::end(formats) ? Unknown : row->format;
+}
+
+QString ManuscriptFile::saveFilters()
+{
+    QStringList filters;
+    std::transform(std::begin(formats), std::end(formats), std::back_inserter(filters), filterOf);
+    return filters.join(QLatin1String(";;"));
+}
+
+QString ManuscriptFile::openFilters()
+{
+    QStringList all{QStringLiteral("docx"), QStringLiteral("odt"), QStringLiteral("rtf")};
+    for (const FormatRow &row : formats) {
+        all.append(suffixes(row));
+    }
+    return MRVGuiUtil::createFormatFilter(tr("Manuscripts"), all) + QLatin1String(";;")
+        + MRVGuiUtil::createFormatFilter(tr("All files"), {});
+}
+
+QString ManuscriptFile::suffixOf(const QString &filter)
+{
+    const auto row = std::find_if(std::begin(formats), std::end(formats),
+                                  [&](const FormatRow &r) { return filterOf(r) == filter; });
+    return suffixes(row == std::end(formats) ? formats[0] : *row).first();
+}
+
+std::unique_ptr<QTextDocument> ManuscriptFile::read(const QString &path, MRVScriptMode *mode,
+                                                    QStringList *notes, MRVError *error)
+{
+    const Format format = formatOf(path);
+    MRVDocumentArchive archive;
+    MRVMarkdownHead head;
+    std::unique_ptr<QTextDocument> document;
+    if (format == Native) {
+        auto read = std::make_unique<MRVGuardedDocument>();
+        if (archive.read(path, read.get(), error)) {
+            *notes = archive.notes();
+            *mode = scriptMode(QString::fromUtf8(archive.property(scriptModeProperty)));
+            document = std::move(read);
+        }
+    } else if (isScript(format)) {
+        if (mode->elements().isEmpty()) {
+            mode->loadFactoryDefaults();
+        }
+        document = readScript(path, mode->forEditor(), notes, error);
+    } else {
+        *mode = MRVScriptMode();
+        document = readManuscript(path, &head, notes, error);
+        archive.setMetadata(head.entries);
+    }
+    if (document) {
+        m_archive = archive;
+        m_head = head;
+        m_mode = *mode;
+        m_path = path;
+        m_format = format;
+        m_digest = digestOf(path);
+    }
+    return document;
+}
+
+MRVScriptMode ManuscriptFile::scriptMode(const QString &name)
+{
+    const auto modes = MRVScriptMode::systemModes();
+    return modes.contains(name) ? modes.value(name) : MRVScriptMode::userModes().value(name);
+}
+
+MRVDocumentArchive ManuscriptFile::archive(const MRVScriptMode &mode) const
+{
+    MRVDocumentArchive archive = m_archive;
+    archive.setProperty(scriptModeProperty,
+                        mode.elements().isEmpty() ? QByteArray() : mode.name().toUtf8());
+    return archive;
+}
+
+bool ManuscriptFile::write(QTextDocument *document, const QString &path, const MRVScriptMode &mode,
+                           MRVError *error)
+{
+    const Format format = formatOf(path);
+    m_notes.clear();
+    bool isWritten = false;
+    switch (format) {
+    case Native:
+        m_archive = archive(mode);
+        isWritten = m_archive.write(*document, path, error);
+        m_notes = isWritten ? m_archive.notes() : QStringList();
+        break;
+    case Html: {
+        MRVPagePublisher publisher;
+        isWritten = publisher.add(document, m_head.language, path, error)
+            && publisher.publish(nullptr, error);
+        break;
+    }
+    case Markdown:
+        isWritten = MRVTextPublisher::writeMarkdown(*document, m_head, path, nullptr, error);
+        break;
+    case Text: {
+        const QString text = MRVPlainTextWriter(*document).text();
+        isWritten = MRVFileWriter::write(path, text.toUtf8(), error);
+        break;
+    }
+    case Fountain:
+    case FinalDraft: {
+        // Without a mode, the elements are still those with which it was read.
+        const MRVScriptMode &elements = mode.elements().isEmpty() ? m_mode : mode;
+        const MRVFountainScript script = MRVScriptDocument::script(*document, elements.forEditor());
+        const auto kind = format == Fountain ? MRVScriptFile::Fountain : MRVScriptFile::FinalDraft;
+        isWritten = MRVFileWriter::write(path, MRVScriptFile::toByteArray(script, kind), error);
+        break;
+    }
+    case Unknown:
+        *error = {MRVErrorKind::Unsupported, tr("%1 has no suffix of a format.").arg(path)};
+        break;
+    }
+    if (isWritten) {
+        m_mode = mode.elements().isEmpty() ? m_mode : mode;
+        m_path = path;
+        m_format = format;
+        m_digest = digestOf(path);
+    }
+    return isWritten;
+}
+
+bool ManuscriptFile::isChangedOutside() const
+{
+    return QFileInfo::exists(m_path) && digestOf(m_path) != m_digest;
+}
+
+QByteArray ManuscriptFile::digestOf(const QString &path)
+{
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+}
+
+void ManuscriptFile::setOrigin(const QString &path, const QDateTime &copied)
+{
+    m_path = path;
+    m_format = formatOf(path);
+    m_digest = QFileInfo(path).lastModified() > copied ? QByteArray() : digestOf(path);
+}
+
+QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path)
+{
+    switch (formatOf(path)) {
+    case Html:
+        return MRVDocumentLosses::of(document, MRVDocumentLosses::Html);
+    case Markdown:
+        return MRVDocumentLosses::of(document, MRVDocumentLosses::Markdown);
+    case Text:
+        return MRVDocumentLosses::of(document, MRVDocumentLosses::PlainText);
+    case Fountain:
+    case FinalDraft:
+        return MRVDocumentLosses::of(document, MRVDocumentLosses::Script);
+    default:
+        return {};
+    }
+}
