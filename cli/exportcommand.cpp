@@ -326,13 +326,13 @@ bool exportPages(const Call &call, const Options &options,
 
 MRVMarkdownHead headOf(const Options &options, const MRVManuscript &manuscript)
 {
-    MRVMarkdownHead head;
-    head.title = options.metadata.title;
-    head.authors = manuscript.authors;
-    head.description = manuscript.description;
-    head.language =
-        options.metadata.language.isEmpty() ? manuscript.language : options.metadata.language;
-    head.date = manuscript.date;
+    MRVMarkdownHead head = manuscript.head();
+    if (!options.metadata.title.isEmpty()) {
+        head.title = options.metadata.title;
+    }
+    if (!options.metadata.language.isEmpty()) {
+        head.language = options.metadata.language;
+    }
     return head;
 }
 

@@ -3,6 +3,8 @@
 #include "document/mtextdoc.h"
 #include "fulldocument.h"
 #include "input/mrvguardeddocument.h"
+#include "manuscript/mrvmanuscriptreader.h"
+#include "manuscriptfile.h"
 #include "support.h"
 #include "valueeditors.h"
 #include "writerfixture.h"
@@ -297,24 +299,66 @@ private Q_SLOTS:
         QCOMPARE(answers.unexpected(), QString());
     }
 
-    // What a manuscript says of itself is no part of the text, and stays when that is saved.
+    void metadataStay_data()
+    {
+        const char *page =
+            "<html lang='fr'><head><title>Tides</title><meta name='author' content='Ann Lee'>"
+            "<meta name='viewport' content='width=1'></head><body><p>Text</p></body></html>";
+        const char *markdown = "---\nauthor: [Ann Lee, Bo]\nlang: fr\ndate: 1851\npublisher: Owl\n"
+                               "mood: calm\n---\n\nText\n";
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("files"); // saved one after the other
+        QTest::addColumn<QString>("losses"); // of the last
+        QTest::addColumn<QString>("head"); // of the last
+
+        const QString all = "Ann Lee|Bo;fr;1851;Owl;calm";
+        QTest::newRow("markdown") << markdown << QStringList{"a.md", "b.md"} << "" << all;
+        QTest::newRow("native") << markdown << QStringList{"a.md", "b.mrvdoc", "c.md"} << "" << all;
+        QTest::newRow("html") << markdown << QStringList{"a.md", "b.html"}
+                              << "Metadata: author, lang, date, publisher, mood"
+                              << ";;;;";
+        QTest::newRow("text") << markdown << QStringList{"a.md", "b.txt"}
+                              << "Metadata: author, lang, date, publisher, mood"
+                              << ";;;;";
+        QTest::newRow("from html") << page << QStringList{"a.html", "b.mrvdoc", "c.md"} << ""
+                                   << "Ann Lee;fr;;;";
+        QTest::newRow("page") << page << QStringList{"a.html", "b.html"}
+                              << "Metadata: author, language"
+                              << ";;;;";
+    }
+    // What a manuscript says of itself is no part of the text. It stays, or its loss is told.
     void metadataStay()
     {
+        QFETCH(QString, text);
+        QFETCH(QStringList, files);
         const QTemporaryDir folder;
-        const QString path = folder.filePath("a.md");
-        QVERIFY(writeBytes(path, "---\nauthor: Ann Lee\nlang: fr\ndate: 1851\n---\n\nText\n"));
-        QPointer<WriterWindow> window = newWindow();
-        QVERIFY(window->openFile(path));
-        window->editor()->moveCursor(QTextCursor::End);
-        QTest::keyClicks(window->editor(), " and more");
-        Answers answers;
-        QVERIFY(window->save());
-        const QByteArray saved = bytesOf(path);
-        for (const char *part : {"Ann Lee", "fr", "1851", "Text and more"}) {
-            QVERIFY2(saved.contains(part), saved);
+        const auto path = [&](int i) { return folder.filePath(files.at(i)); };
+        QVERIFY(writeBytes(path(0), text.toUtf8()));
+        QString losses;
+        for (int i = 1; i < files.size(); ++i) {
+            ManuscriptFile file;
+            MRVScriptMode mode;
+            QStringList notes;
+            MRVError error;
+            const auto document = file.read(path(i - 1), &mode, &notes, &error);
+            QVERIFY2(document, qPrintable(error.text));
+            losses = file.losses(*document, path(i)).join('\n');
+            QVERIFY2(file.write(document.get(), path(i), mode, &error), qPrintable(error.text));
         }
-        window->close();
-        QCOMPARE(answers.unexpected(), QString());
+        QTEST(losses, "losses");
+
+        MRVManuscript last;
+        MRVManuscriptReader reader;
+        QVERIFY2(reader.read(path(files.size() - 1), &last), qPrintable(reader.errorString()));
+        QStringList head{last.authors.join('|'), last.language, last.date};
+        for (const char *key : {"publisher", "mood"}) {
+            const auto entry =
+                std::find_if(last.metadata.cbegin(), last.metadata.cend(),
+                             [&](const auto &e) { return e.key == QLatin1String(key); });
+            head << (entry == last.metadata.cend() ? QString() : entry->values.join('|'));
+        }
+        const QString found = head.join(';');
+        QTEST(found, "head");
     }
 
     void failedSaves_data()

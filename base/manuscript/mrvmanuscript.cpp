@@ -1,7 +1,12 @@
 #include "manuscript/mrvmanuscript.h"
 
+#include "markdown/mrvfrontmatter.h"
+
 #include <QFileInfo>
 #include <QTextCodec>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -19,6 +24,10 @@ constexpr struct
     {MRVManuscript::Rtf, "rtf", "rtf"},
     {MRVManuscript::Native, "mrvdoc", "mrvdoc"},
 };
+
+// Metadata of HTML that say nothing of the text, but how programs show or collect the page.
+constexpr const char *pageKeys[] = {"color-scheme", "format-detection", "generator", "referrer",
+                                    "robots",       "theme-color",      "viewport"};
 
 } // namespace
 
@@ -53,6 +62,26 @@ QStringList MRVManuscript::readingNotes() const
                          .arg(report.hiddenWords));
     }
     return notes;
+}
+
+MRVMarkdownHead MRVManuscript::head() const
+{
+    MRVMarkdownHead head;
+    head.title = document ? document->metaInformation(QTextDocument::DocumentTitle) : QString();
+    head.authors = authors;
+    head.description = description;
+    head.language = language;
+    head.date = date;
+    std::copy_if(metadata.cbegin(), metadata.cend(), std::back_inserter(head.entries),
+                 [](const MRVMetadataEntry &entry) {
+                     return std::none_of(
+                         std::begin(pageKeys), std::end(pageKeys),
+                         [&](const char *key) { return entry.key == QLatin1String(key); });
+                 });
+    if (!language.isEmpty() && MRVFrontMatter::head(metadata).language.isEmpty()) {
+        head.entries.append({QStringLiteral("language"), {language}, 0});
+    }
+    return head;
 }
 
 QString MRVManuscript::sourceText() const

@@ -3,6 +3,7 @@
 #include "core/mrverror.h"
 #include "html/mrvhtmlreport.h"
 #include "markdown/mrvmarkdown.h"
+#include "markdown/mrvmarkdownhead.h"
 #include "util/mrvbase_export.h"
 #include "util/mrvmetadataentry.h"
 
@@ -92,6 +93,11 @@ public:
     QString date; ///< as it is written
     QString language; ///< a well-formed BCP 47 tag such as "en-GB", or empty
     QVector<MRVMetadataEntry> metadata; ///< all that it says there, in order
+    /**
+     * The same with the title of the document, for another file that is to say as much of it: also
+     * the language has an entry there, and what tells browsers how to show a page has none.
+     */
+    MRVMarkdownHead head() const;
 
     QStringList pictures; ///< files that it shows, each once, in order of appearance
     /** Those that MRVManuscriptReader::setMissingPictures() let pass, each once, in order. */

@@ -6,6 +6,7 @@
 #include "input/mrvtextdecoder.h"
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvmanuscriptpictures_p.h"
+#include "markdown/mrvfrontmatter.h"
 #include "office/mrvofficeconverter.h"
 #include "plaintext/mrvplaintext.h"
 #include "util/mrvfailure.h"
@@ -53,19 +54,13 @@ bool isProse(const MRVManuscript &manuscript)
         && !manuscript.fileName.endsWith(QLatin1String(".fountain"), Qt::CaseInsensitive);
 }
 
-QStringList valuesIn(const QVector<MRVMetadataEntry> &entries, QLatin1String key)
+void takeHead(const MRVMarkdownHead &head, MRVManuscript *manuscript)
 {
-    for (const MRVMetadataEntry &entry : entries) {
-        if (entry.key == key) {
-            return entry.values;
-        }
-    }
-    return QStringList();
-}
-
-QString dateIn(const QVector<MRVMetadataEntry> &entries)
-{
-    return valuesIn(entries, QLatin1String("date")).value(0);
+    manuscript->authors = head.authors;
+    manuscript->description = head.description;
+    manuscript->language = head.language;
+    manuscript->date = head.date;
+    manuscript->metadata = head.entries;
 }
 
 } // namespace
@@ -201,11 +196,7 @@ bool MRVManuscriptReader::readArchive(const QString &folder, MRVManuscript *read
     }
     read->document = std::move(document);
     read->location = folder.isEmpty() ? QString() : folder + u'/' + read->fileName;
-    read->metadata = archive.metadata();
-    read->authors = valuesIn(read->metadata, QLatin1String("author"));
-    read->description = valuesIn(read->metadata, QLatin1String("description")).value(0);
-    read->language = MRV::languageTag(valuesIn(read->metadata, QLatin1String("language")).value(0));
-    read->date = dateIn(read->metadata);
+    takeHead(MRVFrontMatter::head(archive.metadata()), read);
     if (archive.isTextOnly()) {
         read->report.losses.append({0, tr("formats and pictures, as the file is damaged")});
     }
@@ -225,7 +216,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
         read->description = head.description;
         read->language = head.language;
         read->metadata = head.entries;
-        read->date = dateIn(head.entries);
+        read->date = MRVFrontMatter::head(head.entries).date;
     }
     MRVError reason;
     MRVSourceReport report;
@@ -252,11 +243,7 @@ bool MRVManuscriptReader::readDocument(const QString &text, const QString &folde
     report.html.losses = read->report.losses + report.html.losses;
     read->report = report.html;
     if (read->format == MRVManuscript::Markdown || read->format == MRVManuscript::PlainText) {
-        read->authors = report.head.authors;
-        read->description = report.head.description;
-        read->language = report.head.language;
-        read->date = report.head.date;
-        read->metadata = report.head.entries;
+        takeHead(report.head, read);
     }
     return true;
 }

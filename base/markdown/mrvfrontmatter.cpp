@@ -365,6 +365,17 @@ int MRVFrontMatter::read(const QString &text, QVector<MRVMetadataEntry> *entries
     return refused;
 }
 
+MRVMarkdownHead MRVFrontMatter::head(const QVector<MRVMetadataEntry> &entries)
+{
+    MRVMarkdownHead head;
+    for (const MRVMetadataEntry &entry : entries) {
+        store(fieldOf(entry.key), entry.values, &head);
+    }
+    head.authors.removeDuplicates();
+    head.entries = entries;
+    return head;
+}
+
 QString MRVFrontMatter::write(const MRVMarkdownHead &head)
 {
     const auto quoted = [](const QString &text) {
@@ -372,20 +383,36 @@ QString MRVFrontMatter::write(const MRVMarkdownHead &head)
         return u'"' + text.simplified().replace(special, QStringLiteral("\\\\1")) + u'"';
     };
     QString lines;
-    const auto add = [&](const char *key, const QString &value) {
-        if (!value.isEmpty()) {
-            lines += QLatin1String(key) + QLatin1String(": ") + quoted(value) + u'\n';
+    const auto add = [&](const QString &key, const QStringList &values, bool isList) {
+        if (isList) {
+            lines += key + QLatin1String(":\n");
+        }
+        for (const QString &value : values) {
+            lines +=
+                (isList ? QStringLiteral("- ") : key + QLatin1String(": ")) + quoted(value) + u'\n';
         }
     };
-    add("title", head.title);
+    const auto addText = [&](QLatin1String key, const QString &value) {
+        if (!value.isEmpty()) {
+            add(key, {value}, false);
+        }
+    };
+    addText(QLatin1String("title"), head.title);
     if (!head.authors.isEmpty()) {
-        lines += QLatin1String("author:\n");
+        add(QStringLiteral("author"), head.authors, true);
     }
-    for (const QString &author : head.authors) {
-        lines += QLatin1String("- ") + quoted(author) + u'\n';
+    addText(QLatin1String("description"), head.description);
+    addText(QLatin1String("language"), head.language);
+    addText(QLatin1String("date"), head.date);
+    static const QRegularExpression key(QStringLiteral("^[A-Za-z_][\\w.-]*$"));
+    bool isFrontMatter = !lines.isEmpty(); // without a key that is known, it would be text
+    for (const MRVMetadataEntry &entry : head.entries) {
+        const Field field = fieldOf(entry.key);
+        if ((field == Unknown || field == Other) && !entry.values.isEmpty()
+            && key.match(entry.key).hasMatch()) {
+            add(entry.key, entry.values, entry.values.size() > 1);
+            isFrontMatter = isFrontMatter || field == Other;
+        }
     }
-    add("description", head.description);
-    add("language", head.language);
-    add("date", head.date);
-    return lines.isEmpty() ? QString() : QLatin1String("---\n") + lines + QLatin1String("---\n");
+    return isFrontMatter ? QLatin1String("---\n") + lines + QLatin1String("---\n") : QString();
 }

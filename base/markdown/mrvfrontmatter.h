@@ -33,8 +33,17 @@ public:
     static int read(const QString &text, QVector<MRVMetadataEntry> *entries);
 
     /**
-     * Metadata between two lines of "---", as a Markdown text begins with; empty for a head without
-     * title, authors, description, language and date. Ends of lines in them become blanks.
+     * What entries say of a text, from wherever they were read; the first that says it counts, and
+     * each author once.
+     */
+    static MRVMarkdownHead head(const QVector<MRVMetadataEntry> &entries);
+
+    /**
+     * Metadata between two lines of "---", as a Markdown text begins with: title, authors,
+     * description, language and date, and those of the entries that the other members do not have.
+     * Ends of lines in them become blanks. Entries without a value or with a key that read() does
+     * not take are left out. Empty where nothing is left by which MRVMarkdown would know metadata
+     * from text: one of the five, or a usual key such as "publisher".
      */
     static QString write(const MRVMarkdownHead &head);
 };

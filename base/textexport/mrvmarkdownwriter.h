@@ -39,9 +39,8 @@ public:
     explicit MRVMarkdownWriter(const QTextDocument &document);
 
     /**
-     * What the metadata at the beginning say; of the entries nothing is written that the other
-     * members do not have. Where the title is empty, that of the document is written. Without any
-     * of it, the text has no metadata.
+     * What the metadata at the beginning say; see MRVFrontMatter::write(). Where the title is
+     * empty, that of the document is written. Without any of it, the text has no metadata.
      */
     void setHead(const MRVMarkdownHead &head) { m_head = head; }
     /**

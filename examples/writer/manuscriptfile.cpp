@@ -7,6 +7,7 @@
 #include <gui/mrvguiutil.h>
 #include <input/mrvguardeddocument.h>
 #include <manuscript/mrvmanuscriptreader.h>
+#include <markdown/mrvfrontmatter.h>
 #include <publish/mrvpagepublisher.h>
 #include <publish/mrvtextpublisher.h>
 #include <screenplay/mrvscriptdocument.h>
@@ -84,11 +85,7 @@ std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHe
         return nullptr;
     }
     *notes += manuscript.readingNotes();
-    head->authors = manuscript.authors;
-    head->description = manuscript.description;
-    head->language = manuscript.language;
-    head->date = manuscript.date;
-    head->entries = manuscript.metadata;
+    *head = manuscript.head();
     MRVNestedLists::toLevels(manuscript.document.get());
     return std::move(manuscript.document);
 }
@@ -144,6 +141,7 @@ std::unique_ptr<QTextDocument> ManuscriptFile::read(const QString &path, MRVScri
         if (archive.read(path, read.get(), error)) {
             *notes = archive.notes();
             *mode = scriptMode(QString::fromUtf8(archive.property(scriptModeProperty)));
+            head = MRVFrontMatter::head(archive.metadata());
             document = std::move(read);
         }
     } else if (isScript(format)) {
@@ -248,19 +246,44 @@ void ManuscriptFile::setOrigin(const QString &path, const QDateTime &copied)
     m_digest = QFileInfo(path).lastModified() > copied ? QByteArray() : digestOf(path);
 }
 
-QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path)
+QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path) const
 {
+    QStringList losses;
+    QVector<MRVMetadataEntry> written;
+    QStringList kept; // keys and values of metadata
     switch (formatOf(path)) {
     case Html:
-        return MRVDocumentLosses::of(document, MRVDocumentLosses::Html);
+        losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Html);
+        kept << QStringLiteral("title");
+        break;
     case Markdown:
-        return MRVDocumentLosses::of(document, MRVDocumentLosses::Markdown);
+        losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Markdown);
+        MRVFrontMatter::read(MRVFrontMatter::write(m_head), &written);
+        for (const MRVMetadataEntry &entry : qAsConst(written)) {
+            kept += entry.values;
+        }
+        break;
     case Text:
-        return MRVDocumentLosses::of(document, MRVDocumentLosses::PlainText);
+        losses = MRVDocumentLosses::of(document, MRVDocumentLosses::PlainText);
+        break;
     case Fountain:
     case FinalDraft:
-        return MRVDocumentLosses::of(document, MRVDocumentLosses::Script);
+        losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Script);
+        break;
     default:
         return {};
     }
+    QStringList keys;
+    for (const MRVMetadataEntry &entry : m_head.entries) {
+        const auto isKept = [&](const QString &value) { return kept.contains(value); };
+        if (!kept.contains(entry.key)
+            && !std::all_of(entry.values.cbegin(), entry.values.cend(), isKept)) {
+            keys.append(entry.key);
+        }
+    }
+    keys.removeDuplicates();
+    if (!keys.isEmpty()) {
+        losses.append(tr("Metadata: %1").arg(keys.join(QLatin1String(", "))));
+    }
+    return losses;
 }

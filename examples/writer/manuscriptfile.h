@@ -68,8 +68,8 @@ public:
      */
     bool write(QTextDocument *document, const QString &path, const MRVScriptMode &mode,
                MRVError *error);
-    /** What a file of the format lacks of the document, a line each. */
-    static QStringList losses(const QTextDocument &document, const QString &path);
+    /** What a file with this path would lack of the document and its metadata, a line each. */
+    QStringList losses(const QTextDocument &document, const QString &path) const;
     /** Whether somebody else has changed or removed the file since it was read or saved. */
     bool isChangedOutside() const;
 

@@ -159,7 +159,7 @@ bool WriterWindow::saveTo(const QString &path)
             != QMessageBox::Save) {
         return false;
     }
-    const QStringList losses = ManuscriptFile::losses(*m_editor->document(), path);
+    const QStringList losses = m_file.losses(*m_editor->document(), path);
     if (!losses.isEmpty()) {
         QMessageBox box(QMessageBox::Warning, tr("Save"),
                         tr("%1 cannot hold all of the manuscript. A Morvane document can.")

@@ -360,6 +360,10 @@
         <source>%1; read as Windows-1252</source>
         <translation>%1; als Windows-1252 gelesen</translation>
     </message>
+    <message>
+        <source>Metadata: %1</source>
+        <translation>Metadaten: %1</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>

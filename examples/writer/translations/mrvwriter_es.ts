@@ -360,6 +360,10 @@
         <source>%1; read as Windows-1252</source>
         <translation>%1; leído como Windows-1252</translation>
     </message>
+    <message>
+        <source>Metadata: %1</source>
+        <translation>Metadatos: %1</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>

@@ -360,6 +360,10 @@
         <source>%1; read as Windows-1252</source>
         <translation>%1&#xa0;; lu comme Windows-1252</translation>
     </message>
+    <message>
+        <source>Metadata: %1</source>
+        <translation>Métadonnées&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>
