@@ -11,11 +11,22 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <string_view>
+
 int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
+    // These are answered without a display, too.
+    constexpr std::string_view questions[] = {"-h", "--help", "--help-all", "-v", "--version"};
+    const bool isQuestion =
+        std::find_first_of(argv, argv + argc, std::begin(questions), std::end(questions))
+        != argv + argc;
+    const std::unique_ptr<QCoreApplication> application(
+        isQuestion ? new QCoreApplication(argc, argv) : new QApplication(argc, argv));
     QApplication::setOrganizationName(MRVOptions::companyName());
     QApplication::setApplicationName(QStringLiteral("mrv-writer"));
     QApplication::setApplicationDisplayName(QStringLiteral("Morvane Writer"));
@@ -39,7 +50,7 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QApplication::translate("main", "The manuscripts to open."),
                                  QStringLiteral("[FILE...]"));
-    parser.process(application);
+    parser.process(*application);
     // Settings, presets and copies lie where those of the application do.
     QApplication::setApplicationName(MRVOptions::applicationName());
 
