@@ -8,6 +8,7 @@
 #include "scriptmode/mrvscriptmode.h"
 #include "util/mrvpapersize.h"
 
+#include <QImage>
 #include <QRandomGenerator>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -285,6 +286,17 @@ private Q_SLOTS:
         }
     }
 
+    void pdfEmphasis()
+    {
+        const auto script = MRVFountainScript::fromText("Then *one* and **two**, _no_ more.\n");
+        const QString file = m_folder.filePath("emphasis.pdf");
+        QVERIFY(writeBytes(file, MRVScriptPdf::toByteArray(script, builtIn(), {})));
+        const QString page = run(programPath("pdftohtml"), {"-xml", "-stdout", "-i", file}).output;
+        QString text = page.mid(page.indexOf("<text"));
+        text.remove(QRegularExpression("</?(?:text|page|pdf2xml)\\b[^>]*>|\n"));
+        QCOMPARE(text.simplified(), QString("Then <i>one</i> and <b>two</b>, no more."));
+    }
+
     void pdfPages()
     {
         const auto script = MRVFountainScript::fromText(withRepeats(
@@ -477,6 +489,43 @@ private Q_SLOTS:
         };
         QCOMPARE(left("Heading"), left("Plain"));
         QVERIFY(left("Quoted") - left("Plain") > 25); // 40 pixels are 30 points
+    }
+
+    void largePictures_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("wide") << QSize(3000, 30);
+        QTest::newRow("high") << QSize(30, 3000);
+    }
+    /// As a whole, within the margins.
+    void largePictures()
+    {
+        QFETCH(QSize, size);
+        QTextDocument document;
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QTextCursor(&document).insertImage(picture);
+        MRVPrintOptions options;
+        options.hasContents = false;
+        MRVManuscriptPdf pdf(options);
+        pdf.addDocument(document);
+        QByteArray bytes;
+        QVERIFY(pdf.toByteArray(&bytes));
+        const QString file = m_folder.filePath("large.pdf");
+        QVERIFY(writeBytes(file, bytes));
+        run(programPath("pdftoppm"), {"-r", "72", "-png", "-singlefile", file, file});
+        const QImage page(file + ".png");
+        QVERIFY(!page.isNull());
+        QRect red;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor color(page.pixel(x, y));
+                red |= color.red() > 200 && color.green() < 50 ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        const int inch = 72 / 2;
+        QVERIFY(page.rect().adjusted(inch, inch, -inch, -inch).contains(red));
+        QVERIFY(red.width() > page.width() / 2 || red.height() > page.height() / 2);
     }
 
     /// Qt's layout would never return.

@@ -333,7 +333,8 @@ void MrvPrintStyler::restyle()
         const bool isBlank = block.text().trimmed().isEmpty();
         const bool isBelowHeading =
             MRVTextBlockFormat::headingLevel(block.previous().blockFormat()) > 0;
-        limitPictures(block, isHeading || isBelowHeading);
+        // The beginning of the document stands down the page as a chapter does.
+        limitPictures(block, isHeading || isBelowHeading || block == m_copy->begin());
         restyleText(block);
         divideLongWords(block);
         restyleBlock(block, isFirst);
