@@ -6,6 +6,7 @@
 #include "textformat/mrvtextformat.h"
 #include "xhtml/mrvexportcheck.h"
 #include "xhtml/mrvtextxhtmlexporter.h"
+#include "xhtml/mrvuniqueids.h"
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -16,7 +17,9 @@
 #include <QUrl>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 
 using X = MRVTextXhtmlExporter;
 using Build = std::function<void(QTextCursor &)>;
@@ -567,6 +570,21 @@ private Q_SLOTS:
         second.setStyles(first.styles());
         QCOMPARE(second.toText(X::EPub), page);
         QCOMPARE(second.styles(), first.styles());
+    }
+
+    // Of XML 1.0: what the fifth edition allows beyond is no name for older readers.
+    void identifiers()
+    {
+        MRVUniqueIds ids;
+        ids.reserve("taken");
+        const QStringList names{"A",  "Z",     "az", "À",  "ÿ",  "×",    "9",
+                                "-x", "a b:c", "Ā",  "az", "az", "taken"};
+        QStringList made;
+        std::transform(names.begin(), names.end(), std::back_inserter(made),
+                       [&](const QString &name) { return ids.idFor(name); });
+        QCOMPARE(made,
+                 QStringList({"A", "Z", "az", "À", "ÿ", "_", "_9", "_-x", "a_b_c", "_-1", "az-1",
+                              "az-2", "taken-1"}));
     }
 
     // A format that the text has no longer would write them again.

@@ -129,6 +129,8 @@ private Q_SLOTS:
     void looks_data() { addRows("html-looks.tsv", {"case", "html", "expected"}); }
     void looks() { compare(true); }
     void pagesOfQt();
+    void bodyFont_data();
+    void bodyFont();
     void sheets();
     void takesLinearTime_data();
     void takesLinearTime();
@@ -191,6 +193,22 @@ void tst_Html::pagesOfQt()
 }
 
 /// Sheets beside the page count, in order and with what they import; nothing else is opened.
+void tst_Html::bodyFont_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<qreal>("points");
+    QTest::newRow("pixels") << "font-size:20px" << 15.0;
+    QTest::newRow("points") << "font-size:9.99pt" << 9.99;
+    QTest::newRow("usual") << "font-size:16px" << 12.0;
+}
+void tst_Html::bodyFont()
+{
+    QTextDocument document;
+    QFETCH(QString, style);
+    QVERIFY(MRVHtmlDocument::read("<body style='" + style + "'><p>a", QString(), &document));
+    QTEST(document.defaultFont().pointSizeF(), "points");
+}
+
 void tst_Html::sheets()
 {
     const QTemporaryDir folder;

@@ -168,6 +168,7 @@ private Q_SLOTS:
             {"short", QVariant::fromValue(short(-3))},
             {"long", QVariant::fromValue(3L)},
             {"bits", QBitArray(5, true)},
+            {"\u007f~ %\u00ff\u0100", 1},
             {"byte", QVariant::fromValue(uchar(7))},
             {"font", QFont("Serif", 12)},
             {"url", QUrl("http://a.b/c")},

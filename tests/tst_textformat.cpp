@@ -350,6 +350,29 @@ private Q_SLOTS:
         }
     }
 
+    void damagedCborStaysOut_data()
+    {
+        QTest::addColumn<QByteArray>("cbor");
+        QTest::addColumn<bool>("isRead");
+        QTest::newRow("number of two bytes") << QByteArray::fromHex("190100") << true;
+        QTest::newRow("number cut short") << QByteArray::fromHex("1901") << false;
+        QTest::newRow("reserved length")
+            << QByteArray::fromHex("1c") + QByteArray(16, '\1') << false;
+        QTest::newRow("text without length") << QByteArray::fromHex("7f6161ff") << false;
+        QTest::newRow("text beyond the end") << QByteArray::fromHex("6361") << false;
+        QTest::newRow("array beyond the end") << QByteArray::fromHex("9bffffffffffffffff") << false;
+        QTest::newRow("map without value") << QByteArray::fromHex("a101") << false;
+    }
+    void damagedCborStaysOut()
+    {
+        QFETCH(QByteArray, cbor);
+        QByteArray bytes;
+        QDataStream stream(&bytes, QIODevice::WriteOnly);
+        stream << qint32(QTextFormat::CharFormat) << 1 << qint32(F::ExtraProperty4)
+               << qint32(QMetaType::QCborValue) << qint8(0) << cbor;
+        QTEST(F::toCharFormat(bytes).hasProperty(F::ExtraProperty4), "isRead");
+    }
+
     void unstorableValueCostsOnlyItself()
     {
         QTextCharFormat format = with(F::ExtraProperty4, QVariant::fromValue<QObject *>(this));
