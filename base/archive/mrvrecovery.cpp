@@ -33,6 +33,11 @@ QString baseOf(const QFileInfo &copy)
     return copy.path() + u'/' + copy.completeBaseName();
 }
 
+QString absolute(const QString &path)
+{
+    return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+}
+
 std::unique_ptr<QLockFile> lockFor(const QString &base)
 {
     auto lock = std::make_unique<QLockFile>(lockOf(base));
@@ -78,7 +83,7 @@ void MRVRecovery::follow(QTextDocument *document, const QString &path)
     }
     remove();
     m_document = document;
-    m_path = path;
+    m_path = absolute(path);
     if (document) {
         connect(document, &QTextDocument::contentsChanged, this, &MRVRecovery::followChange);
         followChange(); // what was recovered is modified from the start
@@ -101,7 +106,7 @@ void MRVRecovery::followChange()
 void MRVRecovery::saved(const QString &path)
 {
     remove();
-    m_path = path;
+    m_path = absolute(path);
 }
 
 void MRVRecovery::remove()

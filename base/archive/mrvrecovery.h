@@ -83,7 +83,8 @@ public:
      * already, it gets its copy as after a change.
      *
      * @param document null for none. It may go earlier: the copy then stays until this goes.
-     * @param path     its own file; empty where it was never saved.
+     * @param path     its own file, which a program that runs in another folder finds, too; empty
+     *                 where it was never saved.
      */
     void follow(QTextDocument *document, const QString &path);
     /** The document was saved as @p path: the copy goes, and the next one is of that file. */
