@@ -236,6 +236,16 @@ public:
     /** Removes address, name and mark of a link from a format. */
     static void clearLinkProperties(QTextCharFormat *format);
     /**
+     * Lets what is typed next be no part of a link where the cursor is at an edge of one: it gets
+     * the format of the text before the link, or that of the paragraph where there is none. Within
+     * a link, typing changes its text. The document is not changed.
+     *
+     * @param cursor that of an editor, which sets it again (QTextEdit::setTextCursor()); a
+     *               selection does nothing.
+     * @return false where nothing had to be done.
+     */
+    static bool leaveLink(QTextCursor *cursor);
+    /**
      * Makes links plain text. Footnote links from HTML stay (a name that starts with "fn" and an
      * address that holds "html#fn"), and so do links on raised or lowered text.
      */

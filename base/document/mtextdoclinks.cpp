@@ -4,6 +4,8 @@
 #include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 
 namespace {
@@ -52,6 +54,40 @@ void MTextDoc::clearLinkProperties(QTextCharFormat *format)
     format->clearProperty(QTextFormat::AnchorName);
     format->clearProperty(QTextFormat::IsAnchor);
     MRVFormatSpread::update(format);
+}
+
+bool MTextDoc::leaveLink(QTextCursor *cursor)
+{
+    if (!cursor || cursor->isNull() || cursor->hasSelection()) {
+        return false;
+    }
+    const QString address = cursor->charFormat().anchorHref();
+    if (address.isEmpty()) {
+        return false;
+    }
+    QTextCharFormat format = cursor->blockCharFormat();
+    bool isAfterLink = false;
+    const QTextBlock block = cursor->block();
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const bool isLink = fragment.charFormat().anchorHref() == address;
+        if (fragment.position() >= cursor->position()) {
+            if (isLink && isAfterLink) {
+                return false;
+            }
+            break;
+        }
+        if (fragment.position() + fragment.length() > cursor->position()) {
+            return false;
+        }
+        isAfterLink = isLink;
+        if (!isLink && !fragment.charFormat().isImageFormat()) {
+            format = fragment.charFormat();
+        }
+    }
+    clearLinkProperties(&format);
+    cursor->setCharFormat(format);
+    return true;
 }
 
 void MTextDoc::clearHyperlinks(QTextDocument *document)
