@@ -239,6 +239,17 @@ private Q_SLOTS:
         QCOMPARE(MRVMarkdownWriter(*document).text(), "a [^1] c\n\n[^1]: *b*\n");
     }
 
+    // Editors take what is typed right after a link into it.
+    void wordsAfterBackLinks()
+    {
+        QTextDocument document;
+        document.setHtml(
+            "<p>a<sup><a href='#fn-x' id='fnref-x'>1</a></sup></p><ol><li id='fn-x'><p>e "
+            "<a href='#fnref-x'>↩ f g</a></p></li></ol>");
+        QVERIFY(MRVMarkdownWriter(document).text().contains("[^x]: e[ f g]"));
+        QVERIFY(MRVPlainTextWriter(document).text().endsWith("e f g\n"));
+    }
+
     void losses_data()
     {
         addRows("textexport-losses.tsv", {"name", "html", "page", "markdown", "text", "script"});

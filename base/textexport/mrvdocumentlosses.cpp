@@ -210,14 +210,48 @@ void countText(const MRVDocumentFlow &flow, Counter *counter)
     }
 }
 
+// Columns of tables have alignments; where one has none, readers centre its heading.
+QSet<int> paragraphsAlignedByTables(const MRVDocumentFlow &flow)
+{
+    QSet<int> aligned;
+    const auto isAligned = [](const QTextTableCell &cell, Qt::Alignment as) {
+        const QTextBlockFormat format = cell.firstCursorPosition().blockFormat();
+        return (format.alignment() & Qt::AlignHorizontal_Mask) == (as & Qt::AlignHorizontal_Mask);
+    };
+    for (const MRVFlowFrame &frame : flow.frames) {
+        const QTextTable *const table = frame.table;
+        const int headings = table ? table->format().headerRowCount() : 0;
+        for (int column = 0; table && column < table->columns(); ++column) {
+            const QTextBlockFormat first = headings < table->rows()
+                ? table->cellAt(headings, column).firstCursorPosition().blockFormat()
+                : QTextBlockFormat();
+            const bool hasAlignment = first.hasProperty(QTextFormat::BlockAlignment);
+            for (int row = 0; row < table->rows(); ++row) {
+                const QTextTableCell cell = table->cellAt(row, column);
+                if (isAligned(cell,
+                              row < headings && !hasAlignment ? Qt::AlignHCenter
+                                                              : first.alignment())) {
+                    aligned.insert(flow.paragraphAt(cell.firstPosition()));
+                }
+            }
+        }
+    }
+    return aligned;
+}
+
 void countParagraphs(const MRVDocumentFlow &flow, Counter *counter)
 {
+    const QSet<int> aligned = paragraphsAlignedByTables(flow);
     QSet<int> lists;
     for (int i = 0; i < flow.count(); ++i) {
         const MRVFlowParagraph &paragraph = flow.paragraphs.at(i);
         const QTextBlockFormat format = flow.formats.at(paragraph.format).toBlockFormat();
         counter->add(Features(0));
-        counter->add(featuresOfParagraph(format, paragraph));
+        Features features = featuresOfParagraph(format, paragraph);
+        if (aligned.contains(i)) {
+            features &= ~(Features(1) << Alignments);
+        }
+        counter->add(features);
         if (paragraph.list >= 0 && !lists.contains(paragraph.list)) {
             lists.insert(paragraph.list);
             counter->add(Lists);

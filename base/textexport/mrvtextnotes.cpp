@@ -75,13 +75,19 @@ private:
         notes.m_notes.append(moved);
     }
 
-    // With the blanks around it, and the full stop after a number.
+    // With the blanks around it, and the full stop after a number. Editors take what is typed right
+    // after a link into it: words after a mark are the author's.
     void cutBackLink(const MRVFlowLink &link)
     {
+        static const QRegularExpression mark(
+            QStringLiteral("^[^\\pL\\s]+(?=\\s+\\S)|^[^\\w\\s\\[(]+(?=\\pL)"),
+            QRegularExpression::UseUnicodePropertiesOption);
         const MRVFlowParagraph &paragraph = flow.paragraphs.at(flow.paragraphAt(link.begin));
         const int last = paragraph.position + paragraph.length;
         int begin = link.begin;
         int end = link.end;
+        const auto words = mark.match(flow.text.mid(begin, end - begin));
+        end = words.hasMatch() ? begin + words.capturedLength() : end;
         while (begin > paragraph.position && flow.text.at(begin - 1).isSpace()) {
             --begin;
         }
