@@ -281,6 +281,7 @@ void MRVScriptWriting::offerCompletions()
         return;
     }
     QRect place = m_editor->cursorRect();
+    place.moveTopLeft(m_editor->viewport()->mapTo(m_editor, place.topLeft())); // beyond its margins
     place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width()
                    + 2 * popup->frameWidth());
     m_completer->complete(place);
