@@ -246,6 +246,97 @@ private Q_SLOTS:
         QCOMPARE(answers.unexpected(), QString());
     }
 
+    // A pause is enough; nobody has to leave the note.
+    void notesAreTakenInPauses()
+    {
+        const QPointer<WriterWindow> window = newWindow();
+        QTest::keyClicks(window->editor(), "tide");
+        window->action(Id::Comment)->trigger();
+        auto *note = part<QPlainTextEdit>(window, "NoteText");
+        const auto *list = part<QListWidget>(window, "Notes");
+        QTRY_VERIFY(note->hasFocus());
+        QTest::keyClicks(note, "one");
+        QTRY_COMPARE(list->item(0)->text(), QString("Comment: one"));
+        QTest::keyClicks(note, " two");
+        QTRY_COMPARE(list->item(0)->text(), QString("Comment: one two"));
+        closeAll();
+    }
+
+    void typedAfterLinks_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("link") << "a.html"
+                              << "<p>a <a href='b'>c</a></p>"
+                              << "(?s)<a href=\"b\">[^\n]*c</span></a> more</p>.*>next</p>";
+        QTest::newRow("note") << "a.md"
+                              << "a[^1]\n\n[^1]: The note.\n"
+                              << "(?s)a\\[\\^1\\]\n.*next.*: The note\\. more\n";
+    }
+    // It is no part of them, and neither is the next paragraph.
+    void typedAfterLinks()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QString, saved);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(name);
+        QVERIFY(writeBytes(path, text.toUtf8()));
+        const QPointer<WriterWindow> window = newWindow();
+        QVERIFY(window->openFile(path));
+        window->editor()->moveCursor(QTextCursor::End);
+        QTest::keyClicks(window->editor(), " more");
+        QTest::keyClick(window->editor(), Qt::Key_Return);
+        QTest::keyClicks(window->editor(), "next");
+        Answers answers;
+        answers.add(QDialogButtonBox::Save); // a page by another program loses its structure
+        QVERIFY(window->save());
+        const QString found = bytesOf(path);
+        QVERIFY2(found.contains(QRegularExpression(saved)), qPrintable(found));
+    }
+
+    // What a Final Draft document holds besides the script stays, as long as that can be.
+    void finalDraftIsChangedInPlace()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("a.fdx");
+        QVERIFY(QFile::copy(MRV_SOURCE_DIR "/tests/data/script.fdx", path));
+        const QString before = bytesOf(path);
+        const QPointer<WriterWindow> window = newWindow();
+        QVERIFY(window->openFile(path));
+        QVERIFY(selectText(window->editor(), "wheels"));
+        QTest::keyClicks(window->editor(), "sails");
+        QVERIFY(window->save());
+        QCOMPARE(QString(bytesOf(path)), QString(before).replace("wheels", "sails"));
+        Answers answers;
+        answers.add(QDialogButtonBox::Cancel);
+        window->editor()->moveCursor(QTextCursor::End);
+        QTest::keyClick(window->editor(), Qt::Key_Return);
+        QTest::keyClicks(window->editor(), "MORE");
+        QVERIFY(!window->save());
+        QVERIFY2(answers.said().contains("besides the script"), qPrintable(answers.said()));
+    }
+
+    // The question about what a format cannot hold comes once.
+    void lossesAreToldOnce()
+    {
+        const QTemporaryDir folder;
+        const QPointer<WriterWindow> window = newWindow();
+        QTest::keyClicks(window->editor(), "a");
+        QTextBlockFormat right;
+        right.setAlignment(Qt::AlignRight);
+        window->editor()->textCursor().mergeBlockFormat(right);
+        Answers answers;
+        answers.add(folder.filePath("a.md"));
+        answers.add(QDialogButtonBox::Save);
+        QVERIFY(window->save());
+        QVERIFY(answers.isDone());
+        QTest::keyClicks(window->editor(), "b");
+        QVERIFY(window->save());
+        QCOMPARE(answers.unexpected(), QString());
+    }
+
     // Whatever the answer, no word is lost that the user did not give up.
     void closing_data()
     {
@@ -322,9 +413,11 @@ private Q_SLOTS:
                               << ";;;;";
         QTest::newRow("from html") << page << QStringList{"a.html", "b.mrvdoc", "c.md"} << ""
                                    << "Ann Lee;fr;;;";
-        QTest::newRow("page") << page << QStringList{"a.html", "b.html"}
-                              << "Metadata: author, language"
-                              << ";;;;";
+        QTest::newRow("page")
+            << page << QStringList{"a.html", "b.html"}
+            << "The page's own structure, classes and style sheets\nMetadata: author, "
+               "language"
+            << ";;;;";
     }
     // What a manuscript says of itself is no part of the text. It stays, or its loss is told.
     void metadataStay()
@@ -342,7 +435,7 @@ private Q_SLOTS:
             MRVError error;
             const auto document = file.read(path(i - 1), &mode, &notes, &error);
             QVERIFY2(document, qPrintable(error.text));
-            losses = file.losses(*document, path(i)).join('\n');
+            losses = file.losses(*document, path(i), mode).join('\n');
             QVERIFY2(file.write(document.get(), path(i), mode, &error), qPrintable(error.text));
         }
         QTEST(losses, "losses");

@@ -2,6 +2,7 @@
 
 #include "advice.h"
 #include "exporter.h"
+#include "manuscriptfile.h"
 #include "valueeditors.h"
 
 #include <options/mrvoptions.h>
@@ -37,11 +38,11 @@ QString suffixOf(int format)
 
 } // namespace
 
-ExportDialog::ExportDialog(QTextDocument *document, const QString &source,
+ExportDialog::ExportDialog(QTextDocument *document, const ManuscriptFile &file,
                            const MRVScriptMode &mode, QWidget *parent)
     : QDialog(parent)
     , m_document(document)
-    , m_source(source)
+    , m_source(file.path())
     , m_mode(mode)
     , m_format(new ChoiceBox(this))
     , m_path(new PathEdit(PathEdit::NewFile, this))
@@ -54,14 +55,14 @@ ExportDialog::ExportDialog(QTextDocument *document, const QString &source,
 {
     setObjectName(QStringLiteral("ExportDialog"));
     setWindowTitle(tr("Export"));
-    fillFields();
+    fillFields(file.head());
     layOut();
     connect(m_format, &ChoiceBox::valueChanged, this, &ExportDialog::showFormat);
     showFormat();
     resize(sizeHint().expandedTo(QSize(520, 0)).boundedTo(screen()->availableSize()));
 }
 
-void ExportDialog::fillFields()
+void ExportDialog::fillFields(const MRVMarkdownHead &head)
 {
     const QVector<Exporter::Format> formats = Exporter::formats();
     const bool isScript = !m_mode.elements().isEmpty();
@@ -82,12 +83,16 @@ void ExportDialog::fillFields()
     MRVApplicationState *const state = MRVApplicationState::instance();
     const QString title = m_document->metaInformation(QTextDocument::DocumentTitle);
     m_title->setText(title.isEmpty() ? QFileInfo(m_source).completeBaseName() : title);
-    m_authors->setText(state->value(AuthorsKey).toString());
+    m_authors->setText(head.authors.isEmpty() ? state->value(AuthorsKey).toString()
+                                              : head.authors.join(QLatin1String("; ")));
     m_authors->setPlaceholderText(tr("Several are separated by semicolons"));
-    m_language->setText(QLocale(mrvOptions()->value(MRVOptions::DictionaryLocale)).bcp47Name());
+    const QLocale locale(mrvOptions()->value(MRVOptions::DictionaryLocale));
+    m_language->setText(head.language.isEmpty() ? locale.bcp47Name() : head.language);
     m_language->setPlaceholderText(tr("A tag such as en or pt-BR"));
     const QString name = m_title->text().isEmpty() ? tr("Untitled") : m_title->text();
-    m_path->setPath(QDir(state->recentExportPath()).filePath(QString(name).replace(u'/', u'-')));
+    const QString folder = state->recentExportPath();
+    const QDir proposal(QFileInfo(folder).isDir() ? folder : QFileInfo(m_source).absolutePath());
+    m_path->setPath(proposal.filePath(QString(name).replace(u'/', u'-')));
 }
 
 void ExportDialog::layOut()

@@ -9,6 +9,7 @@
 #include <QVector>
 
 class ChoiceBox;
+class ManuscriptFile;
 class PathEdit;
 class QCheckBox;
 class QFormLayout;
@@ -16,6 +17,7 @@ class QLineEdit;
 class QTextDocument;
 struct ExportOptions;
 struct MRVError;
+struct MRVMarkdownHead;
 
 /**
  * Asks for a format, a file and what the format has a use for, exports the manuscript, and tells
@@ -28,17 +30,17 @@ class ExportDialog final : public QDialog
 public:
     /**
      * @param document not changed, and to live as long.
-     * @param source   the file of the manuscript; empty if it has none.
+     * @param file     that of the manuscript, which may have no path.
      * @param mode     in which a script is written; without elements, the manuscript is none.
      */
-    ExportDialog(QTextDocument *document, const QString &source, const MRVScriptMode &mode,
+    ExportDialog(QTextDocument *document, const ManuscriptFile &file, const MRVScriptMode &mode,
                  QWidget *parent = nullptr);
 
     /** Exports; the dialog stays open where that fails. */
     void accept() override;
 
 private:
-    void fillFields();
+    void fillFields(const MRVMarkdownHead &head);
     void layOut();
     void addRow(int use, const QString &label, QWidget *field, const char *name);
     void showFormat();

@@ -297,7 +297,7 @@ void ManuscriptEditor::keyPressEvent(QKeyEvent *event)
     }
     const bool isRemoval = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
     if (!event->text().isEmpty() && !isRemoval) {
-        leaveNote();
+        leaveLinkAndNote();
     }
     if (m_script->handleKey(event)) {
         return;
@@ -314,17 +314,19 @@ void ManuscriptEditor::keyPressEvent(QKeyEvent *event)
 void ManuscriptEditor::inputMethodEvent(QInputMethodEvent *event)
 {
     if (!event->commitString().isEmpty()) {
-        leaveNote();
+        leaveLinkAndNote();
     }
     QTextEdit::inputMethodEvent(event);
     followTyping(event->commitString());
 }
 
-// What is typed after the text of a note is the author's text, and the end of the paragraph too.
-void ManuscriptEditor::leaveNote()
+// What is typed after a link or the text of a note is the author's text, and so is the end of the
+// paragraph.
+void ManuscriptEditor::leaveLinkAndNote()
 {
     QTextCursor cursor = textCursor();
-    if (MRVMarginNotes::leave(&cursor)) {
+    const bool hasLeft = MTextDoc::leaveLink(&cursor);
+    if (MRVMarginNotes::leave(&cursor) || hasLeft) {
         setTextCursor(cursor);
     }
 }
@@ -380,7 +382,7 @@ bool ManuscriptEditor::canInsertFromMimeData(const QMimeData *source) const
 
 void ManuscriptEditor::insertFromMimeData(const QMimeData *source)
 {
-    leaveNote();
+    leaveLinkAndNote();
     QTextCursor cursor = textCursor();
     const QStringList files = filesIn(*source);
     const QByteArray picture = pictureIn(*source);

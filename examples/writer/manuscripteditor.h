@@ -72,7 +72,7 @@ private:
     void readOptions();
     void setColors();
     bool handleListKey(QKeyEvent *event);
-    void leaveNote();
+    void leaveLinkAndNote();
     void insertFile(const QString &path);
     bool isForWindow(const QKeyEvent &event) const;
     void followTyping(const QString &text);

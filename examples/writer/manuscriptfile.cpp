@@ -54,21 +54,32 @@ QString filterOf(const FormatRow &row)
 }
 
 std::unique_ptr<QTextDocument> readScript(const QString &path, const MRVScriptMode &mode,
-                                          QStringList *notes, MRVError *error)
+                                          MRVScriptFile *file, QStringList *notes, MRVError *error)
 {
-    MRVScriptFile file;
     const QByteArray bytes = MRVCoreUtil::ReadBinaryFile(path, error);
-    if (*error || !file.read(bytes, MRVScriptFile::formatOfFile(path), error)) {
+    if (*error || !file->read(bytes, MRVScriptFile::formatOfFile(path), error)) {
         return nullptr;
     }
-    *notes = file.losses();
+    *notes = file->losses();
     auto document = std::make_unique<MRVGuardedDocument>();
-    MRVScriptDocument::setScript(document.get(), file.script(), mode);
+    MRVScriptDocument::setScript(document.get(), file->script(), mode);
     return document;
 }
 
+bool isXhtml(const QString &path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("xhtml"), Qt::CaseInsensitive) == 0;
+}
+
+// Qt's own pages, which the library writes, hold nothing that the document has not.
+bool isForeignPage(const MRVManuscript &manuscript)
+{
+    return manuscript.format == MRVManuscript::Html
+        && !manuscript.sourceText().contains(QLatin1String("<meta name=\"qrichtext\""));
+}
+
 std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHead *head,
-                                              QStringList *notes, MRVError *error)
+                                              bool *isForeign, QStringList *notes, MRVError *error)
 {
     MRVManuscriptReader reader;
     reader.setMissingPictures(MRVManuscriptReader::Keep);
@@ -86,6 +97,7 @@ std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHe
     }
     *notes += manuscript.readingNotes();
     *head = manuscript.head();
+    *isForeign = isForeignPage(manuscript);
     MRVNestedLists::toLevels(manuscript.document.get());
     return std::move(manuscript.document);
 }
@@ -135,6 +147,8 @@ std::unique_ptr<QTextDocument> ManuscriptFile::read(const QString &path, MRVScri
     const Format format = formatOf(path);
     MRVDocumentArchive archive;
     MRVMarkdownHead head;
+    MRVScriptFile script;
+    bool isForeign = false;
     std::unique_ptr<QTextDocument> document;
     if (format == Native) {
         auto read = std::make_unique<MRVGuardedDocument>();
@@ -148,17 +162,19 @@ std::unique_ptr<QTextDocument> ManuscriptFile::read(const QString &path, MRVScri
         if (mode->elements().isEmpty()) {
             mode->loadFactoryDefaults();
         }
-        document = readScript(path, mode->forEditor(), notes, error);
+        document = readScript(path, mode->forEditor(), &script, notes, error);
     } else {
         *mode = MRVScriptMode();
-        document = readManuscript(path, &head, notes, error);
+        document = readManuscript(path, &head, &isForeign, notes, error);
         archive.setMetadata(head.entries);
     }
     if (document) {
         m_archive = archive;
         m_head = head;
+        m_script = script;
+        m_isForeignPage = isForeign;
         m_mode = *mode;
-        m_path = path;
+        m_path = QFileInfo(path).absoluteFilePath();
         m_format = format;
         m_digest = digestOf(path);
     }
@@ -192,9 +208,12 @@ bool ManuscriptFile::write(QTextDocument *document, const QString &path, const M
         m_notes = isWritten ? m_archive.notes() : QStringList();
         break;
     case Html: {
-        MRVPagePublisher publisher;
+        MRVPageOptions options;
+        options.type = isXhtml(path) ? MRVTextXhtmlExporter::Xhtml : MRVTextXhtmlExporter::Html;
+        MRVPagePublisher publisher(options);
         isWritten = publisher.add(document, m_head.language, path, error)
             && publisher.publish(nullptr, error);
+        m_isForeignPage = m_isForeignPage && !isWritten;
         break;
     }
     case Markdown:
@@ -207,11 +226,9 @@ bool ManuscriptFile::write(QTextDocument *document, const QString &path, const M
     }
     case Fountain:
     case FinalDraft: {
-        // Without a mode, the elements are still those with which it was read.
-        const MRVScriptMode &elements = mode.elements().isEmpty() ? m_mode : mode;
-        const MRVFountainScript script = MRVScriptDocument::script(*document, elements.forEditor());
-        const auto kind = format == Fountain ? MRVScriptFile::Fountain : MRVScriptFile::FinalDraft;
-        isWritten = MRVFileWriter::write(path, MRVScriptFile::toByteArray(script, kind), error);
+        const QByteArray bytes = scriptBytes(*document, path, mode);
+        isWritten = MRVFileWriter::write(path, bytes, error)
+            && m_script.read(bytes, MRVScriptFile::formatOfFile(path), error);
         break;
     }
     case Unknown:
@@ -220,11 +237,31 @@ bool ManuscriptFile::write(QTextDocument *document, const QString &path, const M
     }
     if (isWritten) {
         m_mode = mode.elements().isEmpty() ? m_mode : mode;
-        m_path = path;
+        m_path = QFileInfo(path).absoluteFilePath();
         m_format = format;
         m_digest = digestOf(path);
     }
     return isWritten;
+}
+
+// In the document that was read, where it can be changed in place: it holds more than the script.
+QByteArray ManuscriptFile::scriptBytes(const QTextDocument &document, const QString &path,
+                                       const MRVScriptMode &mode, bool *isInPlace) const
+{
+    // Without a mode, the elements are still those with which it was read.
+    const MRVScriptMode &elements = mode.elements().isEmpty() ? m_mode : mode;
+    const MRVFountainScript script = MRVScriptDocument::script(document, elements.forEditor());
+    const MRVScriptFile::Format format = MRVScriptFile::formatOfFile(path);
+    QByteArray bytes;
+    if (m_script.format() == format) {
+        MRVScriptFile file = m_script;
+        file.setScript(script);
+        bytes = file.revised();
+    }
+    if (isInPlace) {
+        *isInPlace = !bytes.isNull();
+    }
+    return bytes.isNull() ? MRVScriptFile::toByteArray(script, format) : bytes;
 }
 
 bool ManuscriptFile::isChangedOutside() const
@@ -243,10 +280,12 @@ void ManuscriptFile::setOrigin(const QString &path, const QDateTime &copied)
 {
     m_path = path;
     m_format = formatOf(path);
-    m_digest = QFileInfo(path).lastModified() > copied ? QByteArray() : digestOf(path);
+    m_digest =
+        path.isEmpty() || QFileInfo(path).lastModified() > copied ? QByteArray() : digestOf(path);
 }
 
-QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path) const
+QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path,
+                                   const MRVScriptMode &mode) const
 {
     QStringList losses;
     QVector<MRVMetadataEntry> written;
@@ -255,6 +294,12 @@ QStringList ManuscriptFile::losses(const QTextDocument &document, const QString 
     case Html:
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Html);
         kept << QStringLiteral("title");
+        if (isXhtml(path)) {
+            kept << QStringLiteral("lang") << QStringLiteral("language");
+        }
+        if (m_isForeignPage) {
+            losses.append(tr("The page's own structure, classes and style sheets"));
+        }
         break;
     case Markdown:
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Markdown);
@@ -267,9 +312,16 @@ QStringList ManuscriptFile::losses(const QTextDocument &document, const QString 
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::PlainText);
         break;
     case Fountain:
-    case FinalDraft:
+    case FinalDraft: {
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Script);
+        bool isInPlace = false;
+        scriptBytes(document, path, mode, &isInPlace);
+        if (m_script.format() == MRVScriptFile::FinalDraft && !isInPlace) {
+            losses.append(tr("What the Final Draft document holds besides the script, such as its "
+                             "cast, revisions and tags"));
+        }
         break;
+    }
     default:
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include <archive/mrvdocumentarchive.h>
 #include <markdown/mrvmarkdownhead.h>
+#include <screenplay/mrvscriptfile.h>
 #include <scriptmode/mrvscriptmode.h>
 
 #include <QByteArray>
@@ -32,6 +33,8 @@ public:
      * @param copied when the copy was made: what was written later is somebody else's.
      */
     void setOrigin(const QString &path, const QDateTime &copied);
+    /** What it says of itself. */
+    const MRVMarkdownHead &head() const { return m_head; }
     /** What the last writing has told. */
     QStringList notes() const { return m_notes; }
     /** What a Morvane document of it holds besides the text. */
@@ -68,17 +71,27 @@ public:
      */
     bool write(QTextDocument *document, const QString &path, const MRVScriptMode &mode,
                MRVError *error);
-    /** What a file with this path would lack of the document and its metadata, a line each. */
-    QStringList losses(const QTextDocument &document, const QString &path) const;
+    /**
+     * What a file with this path would lack of the document, and of what the file held that was
+     * read, a line each.
+     *
+     * @param mode with which a script was written.
+     */
+    QStringList losses(const QTextDocument &document, const QString &path,
+                       const MRVScriptMode &mode) const;
     /** Whether somebody else has changed or removed the file since it was read or saved. */
     bool isChangedOutside() const;
 
 private:
+    QByteArray scriptBytes(const QTextDocument &document, const QString &path,
+                           const MRVScriptMode &mode, bool *isInPlace = nullptr) const;
     static QByteArray digestOf(const QString &path);
 
     MRVDocumentArchive m_archive; // what a Morvane document holds besides the text
     MRVMarkdownHead m_head; // what it says of itself: authors, language, date
+    MRVScriptFile m_script; // as it lies on the disk
     MRVScriptMode m_mode; // of a script, with which it was read
+    bool m_isForeignPage = false; // HTML by another program
     QStringList m_notes;
     QString m_path;
     Format m_format = Unknown;

@@ -58,7 +58,10 @@ NotesPanel::NotesPanel(ManuscriptEditor *editor, QWidget *parent)
     connect(m_editor, &QTextEdit::textChanged, this, &NotesPanel::readLater);
     connect(m_editor, &QTextEdit::cursorPositionChanged, this, &NotesPanel::followCaret);
     connect(m_list, &QListWidget::currentRowChanged, this, &NotesPanel::goToNote);
-    connect(m_text, &QPlainTextEdit::textChanged, this, [this] { m_committing.start(300); });
+    connect(m_text, &QPlainTextEdit::textChanged, this, [this] {
+        m_isChanged = true;
+        m_committing.start(300);
+    });
     m_text->installEventFilter(this);
     m_committing.setSingleShot(true);
     connect(&m_committing, &QTimer::timeout, this, &NotesPanel::commit);
@@ -210,9 +213,10 @@ QString NotesPanel::text() const
 
 void NotesPanel::commit()
 {
-    if (!m_committing.isActive()) {
+    if (!m_isChanged) {
         return;
     }
+    m_isChanged = false;
     m_committing.stop();
     const MRVMarginNote note = MRVMarginNotes::around(m_place);
     if (note.kind == m_shown.kind && note.id == m_shown.id) {

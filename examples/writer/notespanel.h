@@ -63,5 +63,6 @@ private:
     QTimer m_committing;
     QVector<MRVMarginNote> m_notes;
     MRVMarginNote m_shown;
+    bool m_isChanged = false; // what m_text shows is not in the manuscript yet
     QTextCursor m_place; // in the text of the note that is shown
 };

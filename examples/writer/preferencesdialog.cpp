@@ -21,6 +21,36 @@
 
 #include <algorithm>
 
+namespace {
+
+// Those that this program obeys. The library has settings of applications with more to set.
+QStringList usedKeys()
+{
+    using O = MRVOptions;
+    const O &options = *mrvOptions();
+    return {options.keyText(O::GuiLanguage),
+            options.keyText(O::RecentProjectsCount),
+            options.keyText(O::CheckForUpdates),
+            options.keyText(O::CheckForUpdatesInterval),
+            options.keyText(O::CapitalizeSentences),
+            options.keyText(O::EnableSubstitution),
+            options.keyText(O::SmartQuotes),
+            options.keyText(O::SingleQuotesSubstitution),
+            options.keyText(O::EmDashes),
+            options.keyText(O::DoubleQuotesSubstitution),
+            options.keyText(O::Ellipses),
+            options.keyText(O::DictionaryLocale),
+            options.keyText(O::TextColor),
+            options.keyText(O::PageColor),
+            options.keyText(O::CommentColor),
+            options.keyText(O::FootnotesPageColor),
+            options.keyText(O::FindColor),
+            options.keyText(O::FindTextColor),
+            options.keyText(O::DefaultCharFormat)};
+}
+
+} // namespace
+
 PreferencesDialog::PreferencesDialog(QWidget *parent)
     : QDialog(parent)
     , m_search(new SearchField(this))
@@ -80,9 +110,10 @@ QWidget *PreferencesDialog::newPages()
     auto *const pages = new QWidget(this);
     auto *const layout = new QVBoxLayout(pages);
     layout->setSpacing(2 * layout->spacing());
+    const QStringList keys = usedKeys();
     const QList<MRVOptions::SettingInfo> settings = MRVOptions::settings();
     for (const MRVOptions::SettingInfo &setting : settings) {
-        if (!SettingEditor::isEditable(setting)) {
+        if (!keys.contains(setting.key) || !SettingEditor::isEditable(setting)) {
             continue;
         }
         if (!m_titles.contains(setting.group)) {

@@ -18,13 +18,29 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTextDocument>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+// What is lost, wherever and however often: "Fonts: " of "Fonts: 3".
+QString kindOf(const QString &loss)
+{
+    static const QRegularExpression number(QStringLiteral("\\d+$"));
+    return QString(loss).remove(number);
+}
+
+} // namespace
 
 // The document that was shown before goes after all that follows it has been told.
 void WriterWindow::take(std::unique_ptr<QTextDocument> document, bool isUnsaved)
 {
     m_counts.reset();
+    m_acceptedLosses.clear();
     m_editor->setManuscript(std::move(document));
     QTextDocument *shown = m_editor->document();
     shown->setModified(isUnsaved);
@@ -147,8 +163,9 @@ bool WriterWindow::saveAs()
     return saveTo(path);
 }
 
-bool WriterWindow::saveTo(const QString &path)
+bool WriterWindow::saveTo(const QString &name)
 {
+    const QString path = QFileInfo(name).absoluteFilePath();
     m_notes->commit();
     if (path == m_file.path() && m_file.isChangedOutside()
         && QMessageBox::warning(this, tr("Save"),
@@ -159,8 +176,15 @@ bool WriterWindow::saveTo(const QString &path)
             != QMessageBox::Save) {
         return false;
     }
-    const QStringList losses = m_file.losses(*m_editor->document(), path);
-    if (!losses.isEmpty()) {
+    const QStringList losses =
+        m_file.losses(*m_editor->document(), path, m_editor->script()->mode());
+    const auto isAccepted = [this](const QString &loss) {
+        return m_acceptedLosses.contains(kindOf(loss));
+    };
+    if (path != m_file.path() || !std::all_of(losses.cbegin(), losses.cend(), isAccepted)) {
+        m_acceptedLosses.clear();
+    }
+    if (!losses.isEmpty() && m_acceptedLosses.isEmpty()) {
         QMessageBox box(QMessageBox::Warning, tr("Save"),
                         tr("%1 cannot hold all of the manuscript. A Morvane document can.")
                             .arg(QFileInfo(path).fileName()),
@@ -170,6 +194,8 @@ bool WriterWindow::saveTo(const QString &path)
         if (box.exec() != QMessageBox::Save) {
             return false;
         }
+        std::transform(losses.cbegin(), losses.cend(), std::back_inserter(m_acceptedLosses),
+                       kindOf);
     }
     MRVError error;
     QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -228,7 +254,7 @@ void WriterWindow::offerRecovery()
 
 void WriterWindow::exportFile()
 {
-    ExportDialog(m_editor->document(), m_file.path(), m_editor->script()->mode(), this).exec();
+    ExportDialog(m_editor->document(), m_file, m_editor->script()->mode(), this).exec();
 }
 
 void WriterWindow::insertPicture()

@@ -23,6 +23,8 @@
 #include <QPlainTextEdit>
 #include <QToolBar>
 
+#include <algorithm>
+
 using Id = MRVShortcut::Id;
 
 QAction *WriterWindow::addCommand(QMenu *menu, Id id, const QString &text,
@@ -64,7 +66,7 @@ void WriterWindow::addFileMenu()
     menu->addSeparator();
     addCommand(menu, Id::CloseProject, tr("&Close"), [this] { close(); });
     QAction *quit = menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows);
-    quit->setShortcut(QKeySequence::Quit);
+    quit->setObjectName(QStringLiteral("Quit"));
 }
 
 void WriterWindow::addEditMenu()
@@ -240,6 +242,14 @@ void WriterWindow::readOptions()
     for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
         it.value()->setShortcut(scheme.shortcut(it.key()));
     }
+    // It is no command of the scheme: where the user gave its key to one, that has it.
+    const auto isTaken = [](const QAction *action) {
+        return action->shortcut() == QKeySequence(QKeySequence::Quit);
+    };
+    findChild<QAction *>(QStringLiteral("Quit"))
+        ->setShortcut(std::any_of(m_actions.cbegin(), m_actions.cend(), isTaken)
+                          ? QKeySequence()
+                          : QKeySequence(QKeySequence::Quit));
 }
 
 void WriterWindow::showFormat(const QTextCharFormat &format)

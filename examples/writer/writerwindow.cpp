@@ -22,6 +22,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -107,7 +108,7 @@ void WriterWindow::readState()
 {
     const MRVApplicationState *state = MRVApplicationState::instance();
     if (!restoreGeometry(state->value(QLatin1String(geometryKey)).toByteArray())) {
-        resize(1000, 700);
+        resize(QSize(1000, 700).boundedTo(screen()->availableSize()));
     }
     restoreState(state->value(QLatin1String(stateKey)).toByteArray());
 }

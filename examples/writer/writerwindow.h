@@ -77,7 +77,7 @@ private:
     void take(std::unique_ptr<QTextDocument> document, bool isUnsaved);
     bool load(const QString &path, const MRVRecoveredFile *recovered);
     static WriterWindow *windowOf(const QString &path);
-    bool saveTo(const QString &path);
+    bool saveTo(const QString &name);
     bool mayDiscard();
     bool isUntouched() const;
     void tell(const QString &text, const QStringList &details);
@@ -100,6 +100,7 @@ private:
     NotesPanel *m_notes;
     MRVRecovery *m_recovery;
     ManuscriptFile m_file;
+    QStringList m_acceptedLosses; // of the file, which the writer was asked about
     std::unique_ptr<MRVDocumentCounts> m_counts;
     QTimer m_counting;
     QTimer m_paginating;

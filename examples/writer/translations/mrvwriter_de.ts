@@ -364,6 +364,14 @@
         <source>Metadata: %1</source>
         <translation>Metadaten: %1</translation>
     </message>
+    <message>
+        <source>The page&apos;s own structure, classes and style sheets</source>
+        <translation>Aufbau, Klassen und Formatvorlagen der Seite selbst</translation>
+    </message>
+    <message>
+        <source>What the Final Draft document holds besides the script, such as its cast, revisions and tags</source>
+        <translation>Was das Final-Draft-Dokument außer dem Drehbuch enthält, etwa Besetzung, Überarbeitungen und Markierungen</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>

@@ -364,6 +364,14 @@
         <source>Metadata: %1</source>
         <translation>Metadatos: %1</translation>
     </message>
+    <message>
+        <source>The page&apos;s own structure, classes and style sheets</source>
+        <translation>La estructura, las clases y las hojas de estilo propias de la página</translation>
+    </message>
+    <message>
+        <source>What the Final Draft document holds besides the script, such as its cast, revisions and tags</source>
+        <translation>Lo que el documento de Final Draft contiene además del guion, como el reparto, las revisiones y las etiquetas</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>

@@ -364,6 +364,14 @@
         <source>Metadata: %1</source>
         <translation>Métadonnées&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>The page&apos;s own structure, classes and style sheets</source>
+        <translation>La structure, les classes et les feuilles de style propres à la page</translation>
+    </message>
+    <message>
+        <source>What the Final Draft document holds besides the script, such as its cast, revisions and tags</source>
+        <translation>Ce que le document Final Draft contient outre le scénario, comme la distribution, les révisions et les balises</translation>
+    </message>
 </context>
 <context>
     <name>NotesPanel</name>
