@@ -77,6 +77,7 @@ private Q_SLOTS:
             const char *name = MRVShortcut::valueToKey(Id(i));
             names << name;
             QCOMPARE(MRVShortcut::keyToValue(name), Id(i));
+            QCOMPARE(MRVShortcut::idNamed(name), i > 0 ? Id(i) : MRVShortcut::NoId);
             QCOMPARE(MRVShortcut::isValid(Id(i)), i > 0);
             QCOMPARE(groups.contains(MRVShortcut::group(Id(i))), i > 0);
             QCOMPARE(defaults.shortcutInfo(Id(i)).id, Id(i));
@@ -103,6 +104,7 @@ private Q_SLOTS:
              {"", "NoSuchCommand", "save", static_cast<const char *>(nullptr)}) {
             QCOMPARE(int(MRVShortcut::keyToValue(unknown)), -1);
         }
+        QCOMPARE(MRVShortcut::idNamed(QString()), MRVShortcut::NoId);
         for (const int outside : {-1, 176, 1 << 30}) {
             QVERIFY(!MRVShortcut::valueToKey(Id(outside)));
             QVERIFY(!MRVShortcut::isValid(Id(outside)));
