@@ -318,6 +318,23 @@ private Q_SLOTS:
         QVERIFY2(answers.said().contains("besides the script"), qPrintable(answers.said()));
     }
 
+    void savedOverAnotherWindow()
+    {
+        const QTemporaryDir folder;
+        const QString path = savedManuscript(folder, "Old");
+        const QPointer<WriterWindow> first = newWindow();
+        QVERIFY(first->openFile(path));
+        const QPointer<WriterWindow> second = newWindow();
+        QTest::keyClicks(second->editor(), "New");
+        Answers answers;
+        answers.add(path);
+        answers.add(QDialogButtonBox::Yes);
+        answers.add(QDialogButtonBox::Ok);
+        QVERIFY(!second->save());
+        QVERIFY2(answers.said().contains("open in another window"), qPrintable(answers.said()));
+        QCOMPARE(textIn(path), QString("Old"));
+    }
+
     // The question about what a format cannot hold comes once.
     void lossesAreToldOnce()
     {

@@ -233,11 +233,14 @@ void NotesPanel::markNotes()
         if (note.range.end() < shown.start() || note.range.start() > shown.end()) {
             continue;
         }
+        const bool isFootnote = note.kind == MRVMarginNote::Footnote;
         const QColor color =
-            options->value(note.kind == MRVMarginNote::Footnote ? MRVOptions::FootnotesPageColor
-                                                                : MRVOptions::CommentColor);
+            options->value(isFootnote ? MRVOptions::FootnotesPageColor : MRVOptions::CommentColor);
         marks.append(
             m_editor->markOf(note.range, color, MRVGuiUtil::textColorForBackground(color)));
+        if (isFootnote) { // on a page that is nearly as light
+            marks.last().format.setUnderlineStyle(QTextCharFormat::DashUnderline);
+        }
     }
     m_editor->setMarks(ManuscriptEditor::NoteMarks, marks);
 }

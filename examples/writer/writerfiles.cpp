@@ -166,6 +166,13 @@ bool WriterWindow::saveAs()
 bool WriterWindow::saveTo(const QString &name)
 {
     const QString path = QFileInfo(name).absoluteFilePath();
+    const WriterWindow *const other = windowOf(path);
+    if (other && other != this) {
+        fail(tr("The manuscript is not saved. The file is as it was before."),
+             {MRVErrorKind::Other,
+              tr("%1 is open in another window.").arg(QFileInfo(path).fileName())});
+        return false;
+    }
     m_notes->commit();
     if (path == m_file.path() && m_file.isChangedOutside()
         && QMessageBox::warning(this, tr("Save"),

@@ -846,6 +846,10 @@
         <source>The picture %1 is not inserted.</source>
         <translation>Das Bild %1 wird nicht eingefügt.</translation>
     </message>
+    <message>
+        <source>%1 is open in another window.</source>
+        <translation>%1 ist in einem anderen Fenster geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

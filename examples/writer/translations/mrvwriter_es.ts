@@ -846,6 +846,10 @@
         <source>The picture %1 is not inserted.</source>
         <translation>La imagen %1 no se inserta.</translation>
     </message>
+    <message>
+        <source>%1 is open in another window.</source>
+        <translation>%1 está abierto en otra ventana.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -846,6 +846,10 @@
         <source>The picture %1 is not inserted.</source>
         <translation>L’image %1 n’est pas insérée.</translation>
     </message>
+    <message>
+        <source>%1 is open in another window.</source>
+        <translation>%1 est ouvert dans une autre fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
