@@ -533,8 +533,8 @@ int MRVEPubWriter::writePreformatted(int paragraph, int end)
         isPlain = isPlain && !text.isPicture && !(text.elements & unfit);
         isCode = isCode && (text.elements & 1U << int(MRVEPubInline::Code));
     }
-    context.isCode = isCode;
     const bool isElement = m_isEPub3 || isPlain;
+    context.isCode = isCode && isElement;
     m_out.append(isElement ? isCode ? QLatin1String("<pre") : QLatin1String("<pre class=\"lines\"")
                            : QLatin1String("<p class=\"lines\""));
     writeAttributes(paragraph, context, QByteArray());

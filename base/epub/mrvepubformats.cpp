@@ -346,7 +346,6 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
     int size = 0;
     bool isBold = false;
     bool isFirst = true;
-    context->isCode = true;
     const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
     for (int i = place.firstFragment; i < end; ++i) {
         const MRVEPubTextFormat &text = this->text(m_flow.fragments.at(i).format);
@@ -357,7 +356,6 @@ MRVEPubParagraphLook MRVEPubFormats::look(int paragraph, MRVEPubKind kind, int u
             ? text.look[MRVEPubTextLook::Size]
             : 100;
         isBold = (isFirst || isBold) && text.isBold;
-        context->isCode = context->isCode && (text.elements & bit(MRVEPubInline::Code));
         context->language =
             isFirst || context->language == text.language ? text.language : QString();
         isFirst = false;
