@@ -27,7 +27,7 @@
 
 namespace {
 
-// All that a model tells, in order.
+// All that a model tells, in order, errors with the numbers of their kinds.
 class Told : public QStringList
 {
 public:
@@ -39,8 +39,9 @@ public:
         QObject::connect(&model, &M::versions, [this](const QString &a, const QString &b) {
             append("versions " + a + ' ' + b);
         });
-        QObject::connect(&model, &M::updateError,
-                         [this](const QString &text) { append("error " + text); });
+        QObject::connect(&model, &M::updateError, [this, &model](const QString &text) {
+            append(QString("error %1 ").arg(int(model.lastError().kind)) + text);
+        });
         QObject::connect(&model, &M::readyToInstall, [this] { append("ready"); });
     }
 };

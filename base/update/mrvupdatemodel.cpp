@@ -41,6 +41,15 @@ bool isFileName(const QString &name)
     });
 }
 
+// Why mrvOpenPlain() does not open a file.
+MRVErrorKind kindOfUnopened(const QString &path)
+{
+    const QFileInfo file(path);
+    return !file.exists()   ? MRVErrorKind::NotFound
+        : file.isReadable() ? MRVErrorKind::Other // a link, no regular file, or another user's
+                            : MRVErrorKind::NoPermission;
+}
+
 // A signature of a feed may be so late that clocks which are a day fast do not matter.
 qint64 latestTime()
 {
@@ -64,7 +73,8 @@ MRVUpdateModel::~MRVUpdateModel() = default;
 void MRVUpdateModel::settings()
 {
     QFile file(MSharedResources::updatesIniFileLocation());
-    if (file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const bool isOpen = file.open(QIODevice::ReadOnly | QIODevice::Text);
+    if (isOpen) {
         const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
         QString *const values[] = {&m_xmlFileName, &m_xmlUrl, &m_offer.url, &m_releaseNotesUrl};
         int line = 0;
@@ -80,14 +90,20 @@ void MRVUpdateModel::settings()
         m_settingsError = tr("Failed to open update.ini file to determine update URL location and "
                              "version. Please contact %1 so we can fix this problem quickly.")
                               .arg(MrvCore::supportEmail());
-        fail(m_settingsError);
+        fail(isOpen ? MRVErrorKind::Damaged : MRVError::ofDevice(file).kind, m_settingsError);
     }
 }
 
-void MRVUpdateModel::fail(const QString &error)
+void MRVUpdateModel::tell(const MRVError &error)
+{
+    m_error = error;
+    Q_EMIT updateError(error.text);
+}
+
+void MRVUpdateModel::fail(MRVErrorKind kind, const QString &error)
 {
     m_failed = true;
-    Q_EMIT updateError(error);
+    tell({kind, error});
 }
 
 QString MRVUpdateModel::xmlFilePath() const
@@ -152,7 +168,8 @@ void MRVUpdateModel::parseXML(const QDomDocument &document)
     m_offer.fileName = textForTag(QStringLiteral("linuxfilename"), document).trimmed();
     m_offer.url = textForTag(QStringLiteral("url"), document).trimmed();
     if (m_offer.version.isEmpty() || m_offer.fileName.isEmpty() || m_offer.url.isEmpty()) {
-        fail(tr("The update XML file contained empty values. Please contact %1 so we can help "
+        fail(MRVErrorKind::Damaged,
+             tr("The update XML file contained empty values. Please contact %1 so we can help "
                 "resolve this "
                 "issue quickly.")
                  .arg(MrvCore::supportEmail()));
@@ -171,7 +188,8 @@ void MRVUpdateModel::parseXML(const QDomDocument &document)
     m_offer = m_feed.offers.constFirst();
     if (!hasNames) {
         m_offer.fileName.clear();
-        fail(tr("The update XML file names an installer that is not a plain file name. Please "
+        fail(MRVErrorKind::Damaged,
+             tr("The update XML file names an installer that is not a plain file name. Please "
                 "contact "
                 "%1 so we can "
                 "help resolve this issue quickly.")
@@ -199,10 +217,10 @@ void MRVUpdateModel::compareVersions()
     // Full stops are not digits: a small number may have as many as fit into a feed, and the dialog
     // would show them.
     if (!currentNumber || !availableNumber || m_offer.version.size() > LongestVersion) {
-        Q_EMIT updateError(
-            tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
-               "issue quickly")
-                .arg(MrvCore::supportEmail()));
+        tell({MRVErrorKind::Damaged,
+              tr("Unable to compare version numbers. Please contact %1 so we can help resolve this "
+                 "issue quickly")
+                  .arg(MrvCore::supportEmail())});
         return;
     }
     m_newerAvailable = *availableNumber > *currentNumber;
@@ -215,14 +233,16 @@ bool MRVUpdateModel::isDownloadFileIntegral(const QString &path)
 {
     m_downloadedFile = std::make_unique<QFile>();
     if (!mrvOpenPlain(m_downloadedFile.get(), path, QIODevice::Text)) {
-        Q_EMIT updateError(tr("Could not open the downloaded file to validate it: ") + path);
+        tell({kindOfUnopened(path),
+              tr("Could not open the downloaded file to validate it: ") + path});
         return false;
     }
     const bool isFeed = path.contains(m_xmlFileName);
     const QByteArray bytes = m_downloadedFile->read(isFeed ? MaxFeedSize : InstallerSample);
     m_downloadedFile->close();
     if (bytes.contains("404 Not Found")) {
-        fail(tr("The download file could not be found on our server. Please contact %1 so we can "
+        fail(MRVErrorKind::NotFound,
+             tr("The download file could not be found on our server. Please contact %1 so we can "
                 "help resolve "
                 "this issue quickly.")
                  .arg(MrvCore::supportEmail()));
@@ -233,7 +253,8 @@ bool MRVUpdateModel::isDownloadFileIntegral(const QString &path)
 
 void MRVUpdateModel::failFeed(const QString &reason)
 {
-    fail(tr("The update feed is not accepted: %1. Please report this to %2.")
+    fail(MRVErrorKind::Damaged,
+         tr("The update feed is not accepted: %1. Please report this to %2.")
              .arg(reason, MrvCore::supportEmail()));
 }
 
@@ -293,7 +314,8 @@ void MRVUpdateModel::readXML()
         if (!self) {
             return;
         }
-        fail(tr("The downloaded xml update file is not integral. Please contact %1 for additional "
+        fail(m_error.kind,
+             tr("The downloaded xml update file is not integral. Please contact %1 for additional "
                 "support if this "
                 "does not work.")
                  .arg(MrvCore::supportEmail()));
@@ -330,7 +352,8 @@ void MRVUpdateModel::readFeed(const QByteArray &feed)
     buffer.setData(feed);
     MRVDomDoc document;
     if (feed.size() > MaxFeedSize || !document.setContent(&buffer)) {
-        fail(tr("Failed to read the downloaded update.xml file. Please try running 'Check for "
+        fail(feed.size() > MaxFeedSize ? MRVErrorKind::TooLarge : MRVErrorKind::Damaged,
+             tr("Failed to read the downloaded update.xml file. Please try running 'Check for "
                 "Update...' again. "
                 "Please contact %1 for additional support if this does not work.")
                  .arg(MrvCore::supportEmail()));
@@ -379,7 +402,8 @@ bool MRVUpdateModel::readEXESignature()
 
 void MRVUpdateModel::failInstaller(const QString &reason)
 {
-    fail(tr("The installer does not carry a valid signature (%1) and will not be opened. "
+    fail(MRVErrorKind::Damaged,
+         tr("The installer does not carry a valid signature (%1) and will not be opened. "
             "Please report this to %2.")
              .arg(reason, MrvCore::supportEmail()));
 }
@@ -395,7 +419,8 @@ void MRVUpdateModel::readEXE()
         if (!self) {
             return;
         }
-        fail(tr("Morvane couldn't find the update on our server.\nThis is probably an error on our "
+        fail(m_error.kind,
+             tr("Morvane couldn't find the update on our server.\nThis is probably an error on our "
                 "part.\nPlease report this to %1.")
                  .arg(MrvCore::supportEmail()));
         return;
@@ -417,7 +442,8 @@ void MRVUpdateModel::readSlice()
     }
     const std::unique_ptr<MRVFileDigest> digest = std::move(m_digest);
     if (state == MRVFileDigest::Failed) {
-        fail(tr("Could not open the downloaded file to validate it: ") + downloadFilePath());
+        fail(kindOfUnopened(downloadFilePath()),
+             tr("Could not open the downloaded file to validate it: ") + downloadFilePath());
     } else if (isOffered(*digest)) {
         m_installerDigest = digest->blake2b();
         // Where a file system has no such permission, the desktop says so when it is opened.
@@ -434,7 +460,8 @@ bool MRVUpdateModel::isOffered(const MRVFileDigest &installer)
 {
     if ((m_offer.size >= 0 && installer.size() != m_offer.size)
         || installer.sha256() != m_offer.sha256) {
-        fail(tr("The installer is not the one that the update feed describes, and will not be "
+        fail(MRVErrorKind::Damaged,
+             tr("The installer is not the one that the update feed describes, and will not be "
                 "opened. Please report this to %1.")
                  .arg(MrvCore::supportEmail()));
         return false;

@@ -55,7 +55,7 @@ class QFile;
  * - readEXE() with a valid installer: readyToInstall().
  * - Either, on failure: updateError(), and neither of the others. A file that cannot be opened, or
  *   is an error page of the server, gives two: what is wrong with the file, then what that means
- *   for the update.
+ *   for the update, which is of the same kind.
  *
  * After a failure the model ignores further calls; a model serves one check. A receiver may delete
  * the model. With it, the files that it has claimed are removed.
@@ -107,6 +107,11 @@ public:
     bool hasFailed() const { return m_failed; }
     /** What went wrong while the update settings were read; empty when nothing did. */
     QString settingsError() const { return m_settingsError; }
+    /**
+     * What went wrong last: settingsError(), or the text of updateError(), whose receivers ask here
+     * for the kind; no error before.
+     */
+    MRVError lastError() const { return m_error; }
     /** Whether the last feed offers a version that is newer than the running one. */
     bool isNewerAvailable() const { return m_newerAvailable; }
     /** The version that the last feed names, without blanks around it; empty before. */
@@ -214,7 +219,7 @@ Q_SIGNALS:
      * Comes right before updateAvailable().
      */
     void versions(QString current, QString available);
-    /** A translated text for the user. */
+    /** @param error a translated text for the user; lastError() has the kind. */
     void updateError(QString error);
     /** The installer is valid: it may be opened, if isInstallerUnchanged() still says so then. */
     void readyToInstall();
@@ -222,7 +227,8 @@ Q_SIGNALS:
 private:
     static QString signatureSuffix() { return QStringLiteral(".minisig"); }
     void settings();
-    void fail(const QString &error);
+    void tell(const MRVError &error);
+    void fail(MRVErrorKind kind, const QString &error);
     void failFeed(const QString &reason);
     void failInstaller(const QString &reason);
     bool isInstallerName(const QString &name) const;
@@ -239,6 +245,7 @@ private:
     bool m_failed = false;
     bool m_newerAvailable = false;
     QString m_settingsError;
+    MRVError m_error;
     bool m_needsSignature = false;
     QByteArray m_publicKey;
     MRVSignature m_feedSignature;
