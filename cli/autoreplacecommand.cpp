@@ -70,7 +70,7 @@ int show(const Call &call, MRVOptions *options)
 {
     const MRVAutoReplaceList list = options->autoReplaceList();
     return lookThrough(call, call.arguments, QStringLiteral("Reading %1"),
-                       [&](const MRVManuscript &manuscript, QString *) {
+                       [&](const MRVManuscript &manuscript, MRVErrorSink) {
                            showProgress(QString());
                            return printReplacements(call, list, manuscript);
                        });
@@ -99,27 +99,27 @@ int store(const Call &call, MRVOptions *options, const MRVAutoReplaceList &list,
 }
 
 // Makes one change and stores the list.
-template<bool (*Change)(const Call &call, MRVAutoReplaceEditor *editor, QString *error)>
+template<bool (*Change)(const Call &call, MRVAutoReplaceEditor *editor, MRVErrorSink error)>
 int edit(const Call &call, MRVOptions *options)
 {
-    QString error;
+    MRVError error;
     MRVAutoReplaceEditor editor(options->autoReplaceList());
     return Change(call, &editor, &error) ? store(call, options, editor.list(), editor.changed())
                                          : refuse(error);
 }
 
-bool add(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
+bool add(const Call &call, MRVAutoReplaceEditor *editor, MRVErrorSink error)
 {
     return editor->add({!call.has("disabled"), call.arguments.at(0), call.arguments.at(1)}, error);
 }
 
-bool remove(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
+bool remove(const Call &call, MRVAutoReplaceEditor *editor, MRVErrorSink error)
 {
     return editor->remove(call.arguments.at(0), call.arguments.value(1), error);
 }
 
 template<bool isEnabled>
-bool setEnabled(const Call &call, MRVAutoReplaceEditor *editor, QString *error)
+bool setEnabled(const Call &call, MRVAutoReplaceEditor *editor, MRVErrorSink error)
 {
     return editor->setEnabled(call.arguments.at(0), call.arguments.value(1), isEnabled, error);
 }
@@ -135,13 +135,13 @@ int reset(const Call &call, MRVOptions *options)
 template<Access access, int (*Run)(const Call &call, MRVOptions *options)>
 int withList(const Call &call, MRVOptions *options)
 {
-    QString damage; // for which the options give what could be read, or the default
+    MRVError damage; // for which the options give what could be read, or the default
     options->autoReplaceList(&damage);
-    if (damage.isEmpty()) {
+    if (!damage) {
         return Run(call, options);
     }
     if (access != Access::Read) {
-        return refuse(damage + QLatin1String("; it can be reset"));
+        return refuse(damage.kind, damage.text + QLatin1String("; it can be reset"));
     }
     refuse(damage);
     Run(call, options);

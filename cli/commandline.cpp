@@ -297,21 +297,20 @@ int readCall(const Command &command, const QStringList &arguments, Call *call)
     return usageError(line.error());
 }
 
-int refuse(const QString &text)
-{
-    printError(text);
-    return Failed;
-}
-
 int refuse(const MRVError &error)
 {
     printError(error);
     return Failed;
 }
 
+int refuse(MRVErrorKind kind, const QString &text)
+{
+    return refuse({kind, text});
+}
+
 int usageError(const QString &text)
 {
-    printError(text);
+    printUsage(text);
     return WrongUsage;
 }
 

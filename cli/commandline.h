@@ -212,10 +212,9 @@ int readCall(const Command &command, const QStringList &arguments, Call *call);
 /** Whether an argument is an option; "-1" and "-->" are none. */
 bool looksLikeOption(const QString &argument);
 
-/** Prints an error. @return Failed. */
-int refuse(const QString &text);
 /** Prints an error with its kind. @return Failed. */
 int refuse(const MRVError &error);
+int refuse(MRVErrorKind kind, const QString &text);
 /** Prints an error. @return WrongUsage. */
 int usageError(const QString &text);
 

@@ -49,7 +49,7 @@ int show(const Call &call, MRVOptions *options)
         printLine(QLatin1String("  possible here: ")
                   + choice.supportedNames().join(QLatin1String(", ")));
     }
-    return choice.isOffered() ? int(Done) : refuse(choice.objection());
+    return choice.isOffered() ? int(Done) : refuse(MRVErrorKind::Unsupported, choice.objection());
 }
 
 int set(const Call &call, MRVOptions *options)
@@ -62,7 +62,7 @@ int set(const Call &call, MRVOptions *options)
     const QString &engine = call.arguments.at(2);
     const QString objection = choice.objectionTo(engine);
     if (!objection.isEmpty()) {
-        return refuse(objection);
+        return refuse(MRVErrorKind::Unsupported, objection);
     }
     config.setEngine(choice.from, choice.to, MRVImportExport::engineNamed(engine));
     if (save(options) != Done) {
@@ -83,9 +83,8 @@ Candidates enginesOf(const Call &call)
 {
     const MRVFormat::Format from = MRVFormat::formatNamed(call.arguments.value(0));
     const MRVFormat::Format to = MRVFormat::formatNamed(call.arguments.value(1));
-    QString error;
     MRVOptionsFile settings;
-    return settings.open(call.value("settings"), Access::Read, &error)
+    return settings.open(call.value("settings"), Access::Read)
         ? candidates(MRVImportExportConfig(settings.options()).explain(from, to).supportedNames())
         : Candidates();
 }

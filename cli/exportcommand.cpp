@@ -157,7 +157,7 @@ Choice chosen(const Call &call, const char *option, const char *choices, Choice 
     return call.has(option) ? Choice(words(choices).indexOf(call.value(option))) : otherwise;
 }
 
-bool readBook(const Call &call, Options *options, QString *error)
+bool readBook(const Call &call, Options *options, MRVErrorSink error)
 {
     MRVEPubOptions &book = options->book;
     book.styleBase = chosen(call, "css-base", "none classic modern", book.styleBase);
@@ -178,13 +178,13 @@ bool readBook(const Call &call, Options *options, QString *error)
 int readMetadata(const Call &call, Options *options)
 {
     options->metadata.title = call.value("title");
-    QString error;
+    MRVError error;
     const bool ok = readLanguage(call, &options->metadata.language, &error)
         && readMarkdownSyntax(call, call.arguments, &options->input.markdown, &error)
         && (!options->isBook() || readBook(call, options, &error));
     MRVPrintOptions::layoutNamed(call.value("layout"), &options->print.layout);
     options->print.paper = MRVPaperSize::named(call.value("paper"));
-    return ok ? -1 : usageError(error);
+    return ok ? -1 : usageError(error.text);
 }
 
 int readOptions(const Call &call, Options *options)
@@ -242,10 +242,10 @@ void tellComments(const Options &options, const MRVManuscript &manuscript)
 {
     const bool areShown = options.isPackage() && options.book.commentsAsNotes;
     if (manuscript.report.comments > 0 && !areShown) {
-        printError(QStringLiteral("note: %1: comments that are left out: %2; --comments-as-notes "
-                                  "makes notes of them in e-books")
-                       .arg(manuscript.path)
-                       .arg(manuscript.report.comments));
+        printNote(QStringLiteral("%1: comments that are left out: %2; --comments-as-notes makes "
+                                 "notes of them in e-books")
+                      .arg(manuscript.path)
+                      .arg(manuscript.report.comments));
     }
 }
 
@@ -276,7 +276,7 @@ bool readManuscripts(const Call &call, const Options &options, const QStringList
 void printNotes(const QStringList &notes)
 {
     for (const QString &note : notes) {
-        printError(QStringLiteral("note: %1").arg(note));
+        printNote(note);
     }
 }
 
@@ -285,7 +285,7 @@ bool acceptLosses(const Options &options, const QStringList &losses, MRVErrorSin
 {
     if (options.input.strict && !losses.isEmpty()) {
         for (int i = 0; i + 1 < losses.size(); ++i) {
-            printError(losses.at(i));
+            printError({MRVErrorKind::Other, losses.at(i)});
         }
         return MRV::fail(error, losses.constLast());
     }

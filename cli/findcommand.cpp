@@ -2,6 +2,7 @@
 #include "textsearch.h"
 
 #include "manuscript/mrvsourcelines.h"
+#include "util/mrvfailure.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -14,7 +15,7 @@ namespace {
 
 // What to look for and where: TEXT stands first unless -e or a format is given.
 // @return false, with a text, when the call is wrong.
-bool readSearch(const Call &call, MRVTextQuery *query, QStringList *inputs, QString *error)
+bool readSearch(const Call &call, MRVTextQuery *query, QStringList *inputs, MRVErrorSink error)
 {
     *inputs = call.arguments;
     query->text = call.value("text");
@@ -25,13 +26,13 @@ bool readSearch(const Call &call, MRVTextQuery *query, QStringList *inputs, QStr
         query->text = inputs->takeFirst();
     }
     if (query->text.isEmpty() && !query->isForRuns()) {
-        *error = QStringLiteral("TEXT is empty");
-    } else if (inputs->isEmpty()) {
-        *error = QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb);
-    } else {
-        return query->isValid(error);
+        return MRV::fail(error, QStringLiteral("TEXT is empty"));
     }
-    return false;
+    if (inputs->isEmpty()) {
+        return MRV::fail(
+            error, QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb));
+    }
+    return query->isValid(error);
 }
 
 // A paragraph with finds, or with parts of them: offsets in its text.
@@ -149,11 +150,11 @@ int run(const Call &call)
 {
     MRVTextQuery query;
     QStringList inputs;
-    QString error;
+    MRVError error;
     if (!readSearch(call, &query, &inputs, &error)) {
-        return usageError(error);
+        return usageError(error.text);
     }
-    const auto look = [&](const MRVManuscript &manuscript, QString *reason) {
+    const auto look = [&](const MRVManuscript &manuscript, MRVErrorSink reason) {
         MRVSearchOutcome outcome;
         const auto finds = MRVTextReplacer::findAll(manuscript.document.get(), query, &outcome);
         std::unique_ptr<MRVSourceLines> lines;
@@ -166,7 +167,7 @@ int run(const Call &call)
             printFinds(call, {manuscript.path, manuscript.document.get(), lines.get()}, finds);
         }
         if (!outcome.isComplete()) {
-            *reason = QStringLiteral("%1: %2").arg(manuscript.path, outcome.text());
+            MRV::fail(reason, manuscript.path, givenUp(outcome));
         }
         return !finds.isEmpty();
     };

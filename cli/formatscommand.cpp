@@ -34,7 +34,7 @@ bool readFormats(const Call &call, QSet<MRVFormat::Format> *formats)
     for (const QString &name : call.arguments) {
         const MRVFormat::Format format = MRVFormat::formatNamed(name);
         if (format == MRVFormat::NoFormat) {
-            refuse(QStringLiteral("%1: unknown format").arg(name));
+            refuse(MRVErrorKind::Unsupported, QStringLiteral("%1: unknown format").arg(name));
             areKnown = false;
         }
         formats->insert(format);
@@ -57,7 +57,8 @@ int list(const Call &call, MRVOptions *options)
         }
     }
     if (!found && areKnown) {
-        return refuse(QStringLiteral("%1 cannot be %2")
+        return refuse(MRVErrorKind::Unsupported,
+                      QStringLiteral("%1 cannot be %2")
                           .arg(call.arguments.join(QLatin1String(", ")),
                                QLatin1String(!call.has("export")       ? "imported"
                                                  : !call.has("import") ? "exported"

@@ -3,6 +3,7 @@
 
 #include "core/mrvcoreutil.h"
 #include "core/mrvpartialfile.h"
+#include "util/mrvfailure.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -50,7 +51,7 @@ struct Result
 {
     QByteArray data;
     bool isWritten = false; // already, piece by piece
-    QString error;
+    MRVError error;
     QUrl url;
     QString contentType;
     QStringList redirects;
@@ -214,8 +215,9 @@ Result download(const Options &options, const Target &target)
                          }
                      });
     QObject::connect(&download, &MRVDownloadUrl::downloadProgress, &loop, showBar);
-    QObject::connect(&download, &MRVDownloadUrl::downloadError, &loop, [&](const QString &error) {
-        result.error = input.reason().isEmpty() ? error : input.reason();
+    QObject::connect(&download, &MRVDownloadUrl::downloadError, &loop, [&] {
+        result.error = input.reason().isEmpty() ? download.lastError()
+                                                : MRVError{MRVErrorKind::Network, input.reason()};
         loop.quit();
     });
     const bool isFile = download.body() != MRVDownloadUrl::Body::Text;
@@ -236,7 +238,7 @@ Result download(const Options &options, const Target &target)
     }
     loop.exec();
     showProgress(QString());
-    result.isWritten = isFile && result.error.isEmpty();
+    result.isWritten = isFile && !result.error;
     result.url = download.url();
     result.contentType = download.contentType();
     result.redirects = input.redirects();
@@ -249,16 +251,16 @@ bool convert(const Options &options, Result *result)
     const QString utf8 = QStringLiteral("UTF-8");
     const bool isKnown = MRVDownloadUrl::namesCharset(result->contentType);
     if (!isKnown && options.from.isEmpty() && !options.to.isEmpty()) {
-        result->error = QStringLiteral("the server does not say what the text is in; --from does");
-        return false;
+        return MRV::fail(
+            &result->error, MRVErrorKind::Unsupported,
+            QStringLiteral("the server does not say what the text is in; --from does"));
     }
     if (!isKnown) {
         result->data = MRVDownloadUrl::convert(result->data, options.from, utf8);
     }
-    if (!MRVDownloadUrl::convertLossless(&result->data, utf8, options.to)) {
-        result->error = QStringLiteral("it has characters that %1 has not").arg(options.to);
-    }
-    return result->error.isEmpty();
+    return MRVDownloadUrl::convertLossless(&result->data, utf8, options.to)
+        || MRV::fail(&result->error, MRVErrorKind::Unsupported,
+                     QStringLiteral("it has characters that %1 has not").arg(options.to));
 }
 
 // Without a name that was asked for, no file is replaced.
@@ -277,13 +279,12 @@ Target targetOf(const Options &options, const QUrl &url)
 
 // What would be said after all has come can be said before. Also throws away what another download
 // has left, unless it is to be gone on with.
-QString unwritable(const Options &options, const Target &target)
+MRVError unwritable(const Options &options, const Target &target)
 {
-    QString error;
-    if (target.isDevice) {
-        return QFileInfo(target.file).isWritable()
-            ? QString()
-            : QStringLiteral("%1: it is write-protected").arg(target.file);
+    MRVError error;
+    if (target.isDevice && !QFileInfo(target.file).isWritable()) {
+        return {MRVErrorKind::NoPermission,
+                QStringLiteral("%1: it is write-protected").arg(target.file)};
     }
     if (target.isPlain()) {
         MRVPartialFile part(target.file);
@@ -295,15 +296,12 @@ QString unwritable(const Options &options, const Target &target)
 }
 
 // A device or a pipe takes bytes as standard output does.
-bool writeDevice(const QString &path, const QByteArray &data, QString *error)
+bool writeDevice(const QString &path, const QByteArray &data, MRVErrorSink error)
 {
     QFile device(path);
-    const bool isWritten = device.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        && device.write(data) == data.size();
-    if (!isWritten) {
-        *error = QStringLiteral("%1 cannot be written: %2").arg(path, device.errorString());
-    }
-    return isWritten;
+    return (device.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+            && device.write(data) == data.size())
+        || MRV::fail(error, path + QLatin1String(" cannot be written"), MRVError::ofDevice(device));
 }
 
 void write(const Target &target, Result *result)
@@ -327,18 +325,19 @@ bool isBegun(const Target &target)
 int get(const Options &options, const QUrl &url)
 {
     const Target target = targetOf(options, url);
-    const QString useless = unwritable(options, target);
-    if (!useless.isEmpty()) {
+    if (const MRVError useless = unwritable(options, target)) {
         return refuse(useless);
     }
     Result result = download(options, target);
-    if (result.error.isEmpty() && !result.isWritten && convert(options, &result)) {
+    if (!result.error && !result.isWritten && convert(options, &result)) {
         write(target, &result);
     }
-    if (!result.error.isEmpty()) {
+    if (result.error) {
         const QString hint =
             isBegun(target) ? QStringLiteral("; --resume goes on with what has come") : QString();
-        return refuse(QStringLiteral("%1: %2").arg(url.toDisplayString(), result.error + hint));
+        return refuse(
+            result.error.kind,
+            QStringLiteral("%1: %2").arg(url.toDisplayString(), result.error.text + hint));
     }
     if (options.json) {
         const qint64 size =

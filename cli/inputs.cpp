@@ -45,7 +45,8 @@ QString hint(MRVManuscriptReader::Error error)
 void printUnreadable(const QString &path, const QVector<MRVUnreadablePicture> &pictures)
 {
     for (int i = 0; pictures.size() > 1 && i < pictures.size(); ++i) {
-        printError(QStringLiteral("%1: %2").arg(path, pictures.at(i).text()));
+        printError(
+            {pictures.at(i).kind, QStringLiteral("%1: %2").arg(path, pictures.at(i).text())});
     }
 }
 
@@ -69,7 +70,7 @@ InputOptions inputOptions(const Call &call)
 }
 
 bool readMarkdownSyntax(const Call &call, const QStringList &inputs, MRVMarkdown::Options *options,
-                        QString *error)
+                        MRVErrorSink error)
 {
     constexpr struct
     {
@@ -88,13 +89,11 @@ bool readMarkdownSyntax(const Call &call, const QStringList &inputs, MRVMarkdown
             == (call.has("from") ? MRVManuscript::formatNamed(call.value("from"))
                                  : MRVManuscript::formatOfFile(input));
     };
-    if (*options && std::none_of(inputs.begin(), inputs.end(), isMarkdown)) {
-        *error = QStringLiteral("--markdown is for Markdown, which no input is");
-    }
-    return error->isEmpty();
+    return !*options || std::any_of(inputs.begin(), inputs.end(), isMarkdown)
+        || MRV::fail(error, QStringLiteral("--markdown is for Markdown, which no input is"));
 }
 
-QByteArray standardInput(QString *reason)
+QByteArray standardInput(MRVErrorSink error)
 {
     QByteArray bytes;
     char buffer[65536];
@@ -103,8 +102,8 @@ QByteArray standardInput(QString *reason)
         if (size > 0) {
             bytes.append(buffer, int(size));
         } else if (errno != EINTR) {
-            *reason =
-                QStringLiteral("standard input cannot be read: %1").arg(qt_error_string(errno));
+            MRV::fail(error, QStringLiteral("standard input cannot be read"),
+                      MRVError::ofSystem(errno));
             return QByteArray();
         }
     }
@@ -125,9 +124,9 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
                                           : MRVManuscriptReader::Editing);
     bool ok = false;
     if (path == QLatin1String("-")) {
-        QString unreadable;
+        MRVError unreadable;
         const QByteArray bytes = standardInput(&unreadable);
-        if (!unreadable.isEmpty()) {
+        if (unreadable) {
             return MRV::fail(error, unreadable);
         }
         ok = reader.readBytes(bytes, path, QDir::currentPath(), manuscript);
@@ -150,7 +149,7 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     }
     if (options.pictures || !manuscript->isWhole()) {
         for (const QString &note : manuscript->readingNotes()) {
-            printError(QStringLiteral("note: %1: %2").arg(path, note));
+            printNote(QStringLiteral("%1: %2").arg(path, note));
         }
     }
     if (options.strict && !manuscript->isWhole()) {
@@ -159,14 +158,13 @@ bool readManuscript(const QString &path, const InputOptions &options, MRVManuscr
     }
     const int dropped = manuscript->unreadablePictures.size();
     if (dropped > 0 && options.missingPictures == MRVManuscriptReader::Drop) {
-        printError(QStringLiteral("note: %1: pictures with their alternative texts in their "
-                                  "places: %2")
-                       .arg(path, QString::number(dropped)));
+        printNote(QStringLiteral("%1: pictures with their alternative texts in their places: %2")
+                      .arg(path, QString::number(dropped)));
     }
     return true;
 }
 
-bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QString *error)
+bool expandFolders(const Call &call, bool changeable, QStringList *inputs, MRVErrorSink error)
 {
     QStringList expanded;
     for (const QString &input : qAsConst(*inputs)) {
@@ -186,8 +184,8 @@ bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QStri
             }
         }
         if (found.isEmpty()) {
-            *error = QStringLiteral("%1: the folder has no manuscripts").arg(input);
-            return false;
+            return MRV::fail(error, MRVErrorKind::NotFound,
+                             QStringLiteral("%1: the folder has no manuscripts").arg(input));
         }
         found.sort();
         expanded += found;
@@ -197,7 +195,7 @@ bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QStri
 }
 
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
-                const std::function<bool(const MRVManuscript &, QString *)> &look)
+                const std::function<bool(const MRVManuscript &, MRVErrorSink)> &look)
 {
     if (readsTwice(inputs)) {
         return WrongUsage;
@@ -209,9 +207,9 @@ int lookThrough(const Call &call, const QStringList &inputs, const QString &doin
         MRVManuscript manuscript;
         MRVError error;
         if (readManuscript(path, inputOptions(call), &manuscript, &error)) {
-            found = look(manuscript, &error.text) || found;
+            found = look(manuscript, &error) || found;
         }
-        if (!error.text.isEmpty()) {
+        if (error) {
             refuse(error);
             isRefused = true;
         }
@@ -219,14 +217,13 @@ int lookThrough(const Call &call, const QStringList &inputs, const QString &doin
     return found && !isRefused ? Done : Failed;
 }
 
-bool readLanguage(const Call &call, QString *tag, QString *error)
+bool readLanguage(const Call &call, QString *tag, MRVErrorSink error)
 {
     const QString given = call.value("language");
     *tag = MRV::languageTag(given);
-    if (tag->isEmpty() && !given.isEmpty()) {
-        *error = QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(given);
-    }
-    return error->isEmpty();
+    return !tag->isEmpty() || given.isEmpty()
+        || MRV::fail(error,
+                     QStringLiteral("'%1' is not the tag of a language such as en-GB").arg(given));
 }
 
 bool readsTwice(const QStringList &inputs)

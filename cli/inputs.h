@@ -68,7 +68,7 @@ constexpr Option strictReading(const char *verbs = nullptr)
  * inputs is Markdown.
  */
 bool readMarkdownSyntax(const Call &call, const QStringList &inputs, MRVMarkdown::Options *options,
-                        QString *error);
+                        MRVErrorSink error);
 
 /** What the options of the call say; pictures are left alone. */
 InputOptions inputOptions(const Call &call);
@@ -95,7 +95,7 @@ constexpr Option foldersOption(const char *verbs = nullptr)
  *
  * @param changeable whether those that can be read but not changed are left out.
  */
-bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QString *error);
+bool expandFolders(const Call &call, bool changeable, QStringList *inputs, MRVErrorSink error);
 
 /**
  * Reads the inputs one after the other and hands each to @p look, which returns whether it found
@@ -107,19 +107,19 @@ bool expandFolders(const Call &call, bool changeable, QStringList *inputs, QStri
  *         when standard input is given twice.
  */
 int lookThrough(const Call &call, const QStringList &inputs, const QString &doing,
-                const std::function<bool(const MRVManuscript &, QString *)> &look);
+                const std::function<bool(const MRVManuscript &, MRVErrorSink)> &look);
 
 /**
  * The tag that --language gives; empty without the option. @return false, with a text, when it is
  * malformed.
  */
-bool readLanguage(const Call &call, QString *tag, QString *error);
+bool readLanguage(const Call &call, QString *tag, MRVErrorSink error);
 
 /** Whether standard input ("-") is given twice among the inputs; an error is printed then. */
 bool readsTwice(const QStringList &inputs);
 
-/** All of standard input; @p reason receives a text when it cannot be read. */
-QByteArray standardInput(QString *reason);
+/** All of standard input; @p error receives a text when it cannot be read. */
+QByteArray standardInput(MRVErrorSink error);
 
 /** Writes a file with MRVStagedFiles; "-" is standard output. */
 bool writeOutput(const QByteArray &bytes, const QString &file, MRVErrorSink error);

@@ -48,10 +48,9 @@ int run(const Command &command, const QStringList &arguments)
 // A pipe that was closed or a full disk must not look like success.
 int ended(int code)
 {
+    MRVError error;
     showProgress(QString());
-    return code == Done && (std::fflush(stdout) != 0 || std::ferror(stdout))
-        ? refuse(QStringLiteral("standard output cannot be written"))
-        : code;
+    return code == Done && !flushStandardOutput(&error) ? refuse(error) : code;
 }
 
 int refuseCommand(const QString &name)
@@ -68,7 +67,7 @@ int refuseCommand(const QString &name)
 
 int writeManualsInto(const QString &folder)
 {
-    QString error;
+    MRVError error;
     QDateTime date = QDateTime::currentDateTimeUtc();
     return MRVFixedDate::fromEnvironment(&date, &error) && writeManuals(folder, date.date(), &error)
         ? Done
@@ -95,11 +94,11 @@ int main(int argc, char **argv)
     const QString name = arguments.value(0);
     if (name == QLatin1String("--version")) {
         printLine(QLatin1String("mrv ") + QCoreApplication::applicationVersion());
-        return Done;
+        return ended(Done);
     }
     if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
         printLine(toolHelp());
-        return Done;
+        return ended(Done);
     }
     // For the scripts of shells.
     if (name == QLatin1String("--complete")) {

@@ -290,7 +290,7 @@ QString toolPage(const QDate &date)
         + references(pages);
 }
 
-bool writePage(const QString &folder, const QString &name, const QString &text, QString *error)
+bool writePage(const QString &folder, const QString &name, const QString &text, MRVErrorSink error)
 {
     return MRVFileWriter::write(QDir(folder).filePath(name + QLatin1String(".1")), text.toUtf8(),
                                 error);
@@ -298,7 +298,7 @@ bool writePage(const QString &folder, const QString &name, const QString &text, 
 
 } // namespace
 
-bool writeManuals(const QString &folder, const QDate &date, QString *error)
+bool writeManuals(const QString &folder, const QDate &date, MRVErrorSink error)
 {
     if (!writePage(folder, QStringLiteral("mrv"), toolPage(date), error)) {
         return false;

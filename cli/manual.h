@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/mrverror.h"
+
 #include <QString>
 
 class QDate;
@@ -12,4 +14,4 @@ class QDate;
  * @param date   that the pages carry.
  * @return false, with a text, when one cannot be written.
  */
-bool writeManuals(const QString &folder, const QDate &date, QString *error);
+bool writeManuals(const QString &folder, const QDate &date, MRVErrorSink error);

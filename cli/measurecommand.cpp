@@ -72,7 +72,7 @@ int run(const Call &call)
         MRVMeasure measure;
         const QString objection = objectionTo(text, &measure);
         if (!objection.isEmpty()) {
-            refuse(objection); // the other measures can still be converted
+            refuse(MRVErrorKind::Other, objection); // the other measures can still be converted
             ok = false;
         } else if (call.json()) {
             printAsJson(text, measure, targets);

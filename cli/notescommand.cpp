@@ -6,8 +6,8 @@
 
 namespace {
 
-void printNote(const Call &call, const QString &place, const MRVDocumentNote &note,
-               QJsonObject object)
+void printFound(const Call &call, const QString &place, const MRVDocumentNote &note,
+                QJsonObject object)
 {
     const QString kind = MRVDocumentNotes::kindName(note.kind);
     if (call.json()) {
@@ -41,7 +41,7 @@ bool printNotes(const Call &call, const MRVManuscript &manuscript)
             const QJsonObject object =
                 toJson(manuscript.path, manuscript.document.get(), note.range);
             const int paragraph = object.value(QLatin1String("paragraph")).toInt();
-            printNote(call, manuscript.path + u':' + QString::number(paragraph), note, object);
+            printFound(call, manuscript.path + u':' + QString::number(paragraph), note, object);
             any = true;
         }
     }
@@ -51,7 +51,7 @@ bool printNotes(const Call &call, const MRVManuscript &manuscript)
     for (const MRVSourceComment &comment : comments) {
         const MRVDocumentNote note{MRVDocumentNote::Comment, MRVTextRange(), QString(),
                                    comment.text};
-        printNote(
+        printFound(
             call, QStringLiteral("%1: line %2").arg(manuscript.path).arg(comment.line), note,
             {{QStringLiteral("path"), manuscript.path}, {QStringLiteral("line"), comment.line}});
     }
@@ -61,7 +61,7 @@ bool printNotes(const Call &call, const MRVManuscript &manuscript)
 int run(const Call &call)
 {
     return lookThrough(call, call.arguments, QStringLiteral("Reading %1"),
-                       [&](const MRVManuscript &manuscript, QString *) {
+                       [&](const MRVManuscript &manuscript, MRVErrorSink) {
                            showProgress(QString());
                            return printNotes(call, manuscript);
                        });

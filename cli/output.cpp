@@ -1,10 +1,13 @@
 #include "output.h"
 
+#include "errorkinds.h"
+
 #include "util/mrvfailure.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cerrno>
 #include <cstdio>
 #include <iterator>
 
@@ -16,12 +19,6 @@ namespace {
 // noncharacters: one that stands in the data can change a colour and nothing else.
 constexpr ushort FirstStyle = 0xfdd0;
 constexpr ushort EndOfStyle = 0xfddf;
-
-constexpr const char *kindNames[] = {"",          "other",       "no-space",        "no-permission",
-                                     "not-found", "in-use",      "damaged",         "cancelled",
-                                     "too-large", "unsupported", "program-missing", "network",
-                                     "changed"}; // by MRVErrorKind
-static_assert(std::size(kindNames) == std::size_t(MRVErrorKind::Changed) + 1);
 
 constexpr const char *styleCodes[] = {"\033[1;31m", "\033[35m", "\033[31m", "\033[32m"}; // by Style
 
@@ -37,11 +34,26 @@ ErrorStyle &errorStyle()
     return style;
 }
 
+// The system's number of the first failure to write to standard output; the stream itself only
+// keeps that there was one.
+int &outputFailure()
+{
+    static int number = 0;
+    return number;
+}
+
+void writeTo(FILE *stream, const QByteArray &bytes)
+{
+    const std::size_t size = std::size_t(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stream) != size && stream == stdout
+        && outputFailure() == 0) {
+        outputFailure() = errno;
+    }
+}
+
 void printTo(FILE *stream, const QString &text)
 {
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
-    std::fputc('\n', stream);
+    writeTo(stream, text.toUtf8() + '\n');
 }
 
 bool isOnTerminal()
@@ -63,6 +75,25 @@ bool isTerminal()
     return is;
 }
 
+// @param key under which an object has the text, and @p mark what a line has before it.
+void printMessage(const QString &key, const char *mark, const QString &text, const char *kind)
+{
+    const ErrorStyle &style = errorStyle();
+    const QString line = text.simplified();
+    showProgress(QString());
+    if (style.json) {
+        QJsonObject object{{QStringLiteral("command"), style.command}, {key, line}};
+        if (kind) {
+            object.insert(QStringLiteral("kind"), QLatin1String(kind));
+        }
+        printTo(stderr, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+        return;
+    }
+    const QString command =
+        style.command.isEmpty() ? QString() : style.command + QLatin1String(": ");
+    printTo(stderr, printable(QLatin1String("mrv: ") + command + QLatin1String(mark) + line));
+}
+
 } // namespace
 
 void setErrorStyle(const QString &command, bool json)
@@ -72,26 +103,18 @@ void setErrorStyle(const QString &command, bool json)
 
 void printError(const MRVError &error)
 {
-    const ErrorStyle &style = errorStyle();
-    const QString line = error.text.simplified();
-    showProgress(QString());
-    if (style.json) {
-        QJsonObject object{{QStringLiteral("command"), style.command},
-                           {QStringLiteral("error"), line}};
-        if (error) {
-            object.insert(QStringLiteral("kind"), QLatin1String(kindNames[int(error.kind)]));
-        }
-        printTo(stderr, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
-        return;
-    }
-    const QString command =
-        style.command.isEmpty() ? QString() : style.command + QLatin1String(": ");
-    printTo(stderr, printable(QLatin1String("mrv: ") + command + line));
+    const MRVErrorKind kind = error ? error.kind : MRVErrorKind::Other;
+    printMessage(QStringLiteral("error"), "", error.text, errorKinds[int(kind) - 1].name);
 }
 
-void printError(const QString &text)
+void printNote(const QString &text)
 {
-    printError(MRVError{MRVErrorKind::None, text});
+    printMessage(QStringLiteral("note"), "note: ", text, nullptr);
+}
+
+void printUsage(const QString &text)
+{
+    printMessage(QStringLiteral("error"), "", text, nullptr);
 }
 
 void printLine(const QString &text)
@@ -114,11 +137,21 @@ void printJson(const QJsonObject &object)
 
 bool writeStandardOutput(const QByteArray &bytes, MRVErrorSink error)
 {
-    const std::size_t size = std::size_t(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
+    writeTo(stdout, bytes);
+    return flushStandardOutput(error);
+}
+
+bool flushStandardOutput(MRVErrorSink error)
+{
+    if (std::fflush(stdout) != 0 && outputFailure() == 0) {
+        outputFailure() = errno;
+    }
+    if (outputFailure() == 0) {
         return true;
     }
-    return MRV::fail(error, QStringLiteral("standard output cannot be written"));
+    const MRVError reason = MRVError::ofSystem(outputFailure());
+    return MRV::fail(error, reason.kind,
+                     QLatin1String("standard output cannot be written: ") + reason.text);
 }
 
 void showProgress(const QString &text)

@@ -15,11 +15,14 @@ void setErrorStyle(const QString &command, bool json);
 
 /**
  * Prints one line to standard error: "mrv: COMMAND: text", or with --json an object that has the
- * text as "error". Control characters are escaped.
+ * text as "error" and the kind as "kind": "no-space". A text without a kind is of Other. Control
+ * characters are escaped.
  */
-void printError(const QString &text);
-/** The same, where JSON has the kind of the failure as "kind", too: "no-space". */
 void printError(const MRVError &error);
+/** What does not end a command: "mrv: COMMAND: note: text", or an object that has it as "note". */
+void printNote(const QString &text);
+/** For usageError() only: an error without a kind. */
+void printUsage(const QString &text);
 /**
  * Prints a line to standard output, as UTF-8 whatever the locale. On a terminal the control
  * characters of the text are escaped, except tabs and line feeds.
@@ -31,6 +34,8 @@ void printJson(const QJsonObject &object);
 
 /** Writes to standard output; false, with a text, when that cannot take it all. */
 bool writeStandardOutput(const QByteArray &bytes, MRVErrorSink error);
+/** Whether standard output has taken all that was printed so far; false with a text. */
+bool flushStandardOutput(MRVErrorSink error);
 
 /** Shows what is being done, on a terminal only; an empty text clears the line. */
 void showProgress(const QString &text);

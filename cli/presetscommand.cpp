@@ -13,8 +13,9 @@ namespace {
 
 int refuseName(const QString &name, const MRVTextPresetScheme &scheme)
 {
-    return refuse(QStringLiteral("there is no preset '%1'").arg(name)
-                  + didYouMean(name, scheme.names()));
+    return refuse(MRVErrorKind::NotFound,
+                  QStringLiteral("there is no preset '%1'").arg(name)
+                      + didYouMean(name, scheme.names()));
 }
 
 // Those that were not named by --settings are the user's own.
@@ -25,7 +26,7 @@ MRVOptions *named(const Call &call, MRVOptions *options)
 
 int write(const Call &call, MRVOptions *options, const MRVTextPresetScheme &scheme)
 {
-    QString error;
+    MRVError error;
     return MRVTextPresetMgr::writePresets(scheme, named(call, options), &error) ? Done
                                                                                 : refuse(error);
 }
@@ -79,7 +80,7 @@ int show(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 int exportTo(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 {
     const QString path = call.arguments.constFirst();
-    QString error;
+    MRVError error;
     return MRVFileKind::mayReplace(path, MRVTextPresetScheme::isStoredForm, &error)
             && scheme.save(path, &error)
         ? Done
@@ -88,9 +89,9 @@ int exportTo(const Call &call, MRVOptions *, MRVTextPresetScheme scheme)
 
 int importFrom(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 {
-    QString error;
+    MRVError error;
     const auto added = MRVTextPresetScheme::load(call.arguments.constFirst(), &error);
-    if (!error.isEmpty()) {
+    if (error) {
         return refuse(error);
     }
     if (call.has("only-these")) {
@@ -122,7 +123,7 @@ int set(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
         if (equals < 0) {
             return usageError(QStringLiteral("'%1' is not PROPERTY=VALUE").arg(assignment));
         }
-        QString error;
+        MRVError error;
         if (!MRVTextPresetJson::setFromText(&preset, assignment.left(equals),
                                             assignment.mid(equals + 1), &error)) {
             return refuse(error);
@@ -139,10 +140,11 @@ int rename(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
         return refuseName(name, scheme);
     }
     if (call.arguments.at(1).isEmpty()) {
-        return refuse(QStringLiteral("a preset needs a name"));
+        return refuse(MRVErrorKind::Other, QStringLiteral("a preset needs a name"));
     }
     if (!scheme.renamePreset(name, call.arguments.at(1))) {
-        return refuse(QStringLiteral("there is a preset '%1' already").arg(call.arguments.at(1)));
+        return refuse(MRVErrorKind::Other,
+                      QStringLiteral("there is a preset '%1' already").arg(call.arguments.at(1)));
     }
     return write(call, options, scheme);
 }
@@ -165,7 +167,7 @@ int reset(const Call &call, MRVOptions *options, MRVTextPresetScheme scheme)
 // Opens the settings unless a preset file is read. Where all presets are to be replaced, those that
 // are there may be damaged.
 bool readPresets(const Call &call, Access access, bool replacesAll, MRVOptionsFile *settings,
-                 MRVTextPresetScheme *scheme, QString *error)
+                 MRVTextPresetScheme *scheme, MRVError *error)
 {
     // The presets are in the application's folders, not in those of the tool.
     QCoreApplication::setOrganizationName(MRVOptions::companyName());
@@ -178,13 +180,13 @@ bool readPresets(const Call &call, Access access, bool replacesAll, MRVOptionsFi
             ? MRVTextPresetScheme::load(call.value("file"), error)
             : MRVTextPresetMgr::readPresets(named(call, settings->options()), error);
     }
-    return error->isEmpty();
+    return !*error;
 }
 
 template<Access access, int (*Run)(const Call &call, MRVOptions *options, MRVTextPresetScheme)>
 int withPresets(const Call &call)
 {
-    QString error;
+    MRVError error;
     MRVOptionsFile settings;
     MRVTextPresetScheme scheme;
     const bool replacesAll = call.has("only-these") || (Run == reset && call.arguments.isEmpty());
@@ -195,7 +197,7 @@ int withPresets(const Call &call)
 
 Candidates presetNames(const Call &call)
 {
-    QString error;
+    MRVError error;
     MRVOptionsFile settings;
     MRVTextPresetScheme scheme;
     readPresets(call, Access::Read, false, &settings, &scheme, &error);

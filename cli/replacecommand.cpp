@@ -5,6 +5,7 @@
 #include "manuscript/mrvsourcefile.h"
 #include "publish/mrvoutputfiles.h"
 #include "util/mrveditlock.h"
+#include "util/mrvfailure.h"
 
 #include "core/mrvfilewriter.h"
 
@@ -42,7 +43,7 @@ bool isFolder(const QString &path)
 
 // What takes the place of finds, except for the text.
 // @return false, with a text, when the call is wrong.
-bool readReplacement(const Call &call, MRVTextReplacement *replacement, QString *error)
+bool readReplacement(const Call &call, MRVTextReplacement *replacement, MRVErrorSink error)
 {
     replacement->keepsText = call.has("keep-text");
     replacement->preservesCase = call.has("preserve-case");
@@ -53,20 +54,17 @@ bool readReplacement(const Call &call, MRVTextReplacement *replacement, QString 
     if (call.has("set-highlight")) {
         const QColor color(call.value("set-highlight"));
         if (!color.isValid()) {
-            *error = unknownColor(call.value("set-highlight"));
-            return false;
+            return MRV::fail(error, unknownColor(call.value("set-highlight")));
         }
         replacement->format.setBackground(color);
     }
-    if (replacement->keepsText && replacement->format.propertyCount() == 0) {
-        *error = QStringLiteral("--keep-text needs a format to set, such as --set-bold");
-        return false;
-    }
-    return true;
+    return !replacement->keepsText || replacement->format.propertyCount() > 0
+        || MRV::fail(error,
+                     QStringLiteral("--keep-text needs a format to set, such as --set-bold"));
 }
 
 // @return false, with a text, when the call is wrong.
-bool readOptions(const Call &call, Options *options, QString *error)
+bool readOptions(const Call &call, Options *options, MRVErrorSink error)
 {
     options->inputs = call.arguments;
     options->query.text = options->inputs.takeFirst();
@@ -77,8 +75,8 @@ bool readOptions(const Call &call, Options *options, QString *error)
         options->replacement.text = options->inputs.takeFirst();
     }
     if (options->inputs.isEmpty()) {
-        *error = QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb);
-        return false;
+        return MRV::fail(
+            error, QLatin1String("IN is missing; usage: ") + usageOf(*call.command, *call.verb));
     }
     options->input = inputOptions(call);
     options->output = call.value("output");
@@ -90,10 +88,8 @@ bool readOptions(const Call &call, Options *options, QString *error)
     if (!readSearchOptions(call, &options->query, error)) {
         return false;
     }
-    if (options->inputs.size() > 1 && !options->output.isEmpty() && !isFolder(options->output)) {
-        *error = QStringLiteral("several inputs need a folder to be written to");
-    }
-    return error->isEmpty();
+    return options->inputs.size() == 1 || options->output.isEmpty() || isFolder(options->output)
+        || MRV::fail(error, QStringLiteral("several inputs need a folder to be written to"));
 }
 
 QString targetOf(const Options &options, const QString &path)
@@ -107,7 +103,7 @@ QString targetOf(const Options &options, const QString &path)
 }
 
 // Inputs and targets must be different files, except for those that are to be replaced.
-bool checkTargets(const Options &options, QString *error)
+bool checkTargets(const Options &options, MRVErrorSink error)
 {
     QStringList inputs = options.inputs;
     QStringList targets;
@@ -116,9 +112,10 @@ bool checkTargets(const Options &options, QString *error)
     }
     inputs.removeAll(StandardStream);
     targets.removeAll(StandardStream);
-    if (!options.output.isEmpty() && !MRVOutputFiles::spareInputs(targets, inputs, error)) {
-        *error += QLatin1String("; leave -o out for that");
-        return false;
+    MRVError reason;
+    if (!options.output.isEmpty() && !MRVOutputFiles::spareInputs(targets, inputs, &reason)) {
+        return MRV::fail(error, reason.kind,
+                         reason.text + QLatin1String("; leave -o out for that"));
     }
     return MRVOutputFiles::areDistinct(targets, error);
 }
@@ -195,7 +192,7 @@ struct Changed
     QString backup;
 };
 
-bool write(const Options &options, Changed *changed, QString *error)
+bool write(const Options &options, Changed *changed, MRVErrorSink error)
 {
     if (changed->target == StandardStream) {
         return writeStandardOutput(changed->after, error);
@@ -203,10 +200,9 @@ bool write(const Options &options, Changed *changed, QString *error)
     if (options.output.isEmpty()) {
         // Of two that change a file at once, the second one finds it changed.
         MRVEditLock lock;
-        QString reason;
+        MRVError reason;
         if (!lock.acquire(changed->path, &reason)) {
-            *error = QStringLiteral("%1: %2").arg(changed->path, reason);
-            return false;
+            return MRV::fail(error, changed->path, reason);
         }
         return changed->count == 0
             || MRVSourceFile::replace(changed->path, changed->before, changed->after,
@@ -224,13 +220,12 @@ void reportNotes(const Options &options, const Changed &changed)
                        {QStringLiteral("skipped"), misfit.change.before},
                        {QStringLiteral("reason"), misfit.reason}});
         } else {
-            printError(QStringLiteral("note: %1: %2").arg(changed.path, misfit.text()));
+            printNote(QStringLiteral("%1: %2").arg(changed.path, misfit.text()));
         }
     }
     for (const QString &address : changed.brokenLinks) {
-        printError(QStringLiteral("note: %1: the heading that links to %2 lead to has another name "
-                                  "now")
-                       .arg(changed.path, address));
+        printNote(QStringLiteral("%1: the heading that links to %2 lead to has another name now")
+                      .arg(changed.path, address));
     }
 }
 
@@ -256,7 +251,13 @@ void report(const Options &options, const Changed &changed)
     printJson(object);
 }
 
-bool prepare(const Options &options, const QString &path, std::vector<Changed> *all, QString *error)
+MRVError unchanged(const QString &path, const MRVError &reason)
+{
+    return {reason.kind, QStringLiteral("%1: %2; nothing was changed").arg(path, reason.text)};
+}
+
+bool prepare(const Options &options, const QString &path, std::vector<Changed> *all,
+             MRVErrorSink error)
 {
     showProgress(QStringLiteral("Searching %1").arg(path));
     MRVManuscript manuscript;
@@ -267,8 +268,7 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     const QVector<MRVTextChange> changes = MRVTextReplacer::preview(
         manuscript.document.get(), options.query, options.replacement, &outcome);
     if (!outcome.isComplete()) {
-        *error = QStringLiteral("%1: %2; nothing was changed").arg(path, outcome.text());
-        return false;
+        return MRV::fail(error, unchanged(path, givenUp(outcome)));
     }
     Changed changed{
         path, targetOf(options, path), manuscript.bytes, manuscript.bytes, changes.size(), {}, {},
@@ -279,19 +279,18 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     }
     // Also where nothing will be written, so that a dry run refuses what the real one would.
     const auto mode = options.rewrite ? MRVSourceEdit::WriteWhole : MRVSourceEdit::KeepMarkup;
-    QString reason;
+    MRVError reason;
     if ((!changes.isEmpty() || manuscript.isConverted())
         && !MRVSourceEdit::changedBytes(manuscript, changes, mode, &changed.after, &reason,
                                         options.skip ? &changed.misfits : nullptr,
                                         &changed.brokenLinks)) {
-        *error = QStringLiteral("%1: %2; nothing was changed").arg(path, reason);
-        return false;
+        return MRV::fail(error, unchanged(path, reason));
     }
     changed.count -= changed.misfits.size();
     if (options.rewrite && changed.count > 0 && manuscript.format != MRVManuscript::PlainText) {
-        printError(QStringLiteral("note: %1 is written as a whole: style sheets, comments and "
-                                  "what rich text does not hold are lost")
-                       .arg(path));
+        printNote(QStringLiteral("%1 is written as a whole: style sheets, comments and what rich "
+                                 "text does not hold are lost")
+                      .arg(path));
     }
     all->push_back(changed);
     return true;
@@ -300,9 +299,9 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
 int run(const Call &call)
 {
     Options options;
-    QString error;
+    MRVError error;
     if (!readOptions(call, &options, &error)) {
-        return usageError(error);
+        return usageError(error.text);
     }
     if (readsTwice(options.inputs)) {
         return WrongUsage;

@@ -29,13 +29,14 @@ int list(const Call &call)
     }
     for (const QString &folder : call.arguments) {
         if (!QFileInfo(folder).isDir()) {
-            printError(QStringLiteral("'%1' is no folder").arg(folder));
+            refuse(MRVErrorKind::NotFound, QStringLiteral("'%1' is no folder").arg(folder));
             allFound = false;
             continue;
         }
         const QMap<QString, MRVScriptMode> some = mrv_loadPath(folder);
         if (some.isEmpty()) {
-            printError(QStringLiteral("no file in '%1' is a script mode").arg(folder));
+            refuse(MRVErrorKind::NotFound,
+                   QStringLiteral("no file in '%1' is a script mode").arg(folder));
             allFound = false;
         }
         for (auto it = some.cbegin(); it != some.cend(); ++it) {
@@ -59,7 +60,7 @@ int showMode(const MRVScriptMode &mode, const Call &call)
 {
     if (call.has("xml") || call.has("output")) {
         const QString path = call.value("output");
-        QString error;
+        MRVError error;
         const bool ok = path.isEmpty() ? writeStandardOutput(mode.toXml(), &error)
                                        : MRVFileKind::mayReplace(path, MRVScriptMode::isXml, &error)
                 && mode.save(path, &error);
@@ -98,7 +99,7 @@ int show(const Call &call)
         unit = call.value("units") == QLatin1String(name.option) ? &name : unit;
     }
     MRVScriptMode mode;
-    QString error;
+    MRVError error;
     if (!mode.loadNamed(call.arguments.constFirst(), &error)) {
         return refuse(error);
     }
@@ -123,7 +124,7 @@ int check(const Call &call)
             continue;
         }
         MRVScriptMode mode;
-        QString error;
+        MRVError error;
         QStringList faults;
         if (!mode.load(file, &error, &faults)) {
             printError(error);

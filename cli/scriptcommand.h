@@ -21,11 +21,11 @@ int runScriptStats(const Call &call);
 int checkScript(const Call &call, const QString &path);
 
 /** Reads a script, "-" for standard input, as the options of the call say; @p error names it. */
-bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error);
+bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, MRVErrorSink error);
 
 /** The mode and the paper that the options of the call name; @p error says what is wrong. */
 bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Options *layout,
-                QString *error);
+                MRVErrorSink error);
 
 /**
  * Writes a script that has changed in the format of its file, "-" for standard output.
@@ -34,4 +34,4 @@ bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Opti
  *         something that it holds besides the script.
  */
 bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QString &path,
-                  const QString &target, QString *error);
+                  const QString &target, MRVErrorSink error);

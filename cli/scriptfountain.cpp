@@ -12,6 +12,7 @@
 #include "screenplay/mrvscriptpagination.h"
 #include "screenplay/mrvscriptstatistics.h"
 #include "scriptmode/mrvscriptmode.h"
+#include "util/mrvfailure.h"
 #include "util/mrvfixeddate.h"
 #include "util/mrvnames.h"
 
@@ -29,19 +30,18 @@ using Format = MRVScriptFile::Format;
 
 } // namespace
 
-bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, QString *error)
+bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, MRVErrorSink error)
 {
     const QString from = call.value("from");
     const bool standard = path == StandardStream;
     const Format format = !from.isEmpty() ? MRVScriptFile::formatNamed(from)
         : standard                        ? MRVScriptFile::Fountain
                                           : MRVScriptFile::formatOfFile(path);
-    QString reason;
+    MRVError reason;
     const QByteArray bytes =
         standard ? standardInput(&reason) : MRVCoreUtil::readStream(path, &reason);
-    if (!reason.isEmpty()) {
-        *error = reason;
-        return false;
+    if (reason) {
+        return MRV::fail(error, reason);
     }
     if (file->read(bytes, format, call.value("encoding").toLatin1(), &reason)) {
         return true;
@@ -49,11 +49,11 @@ bool readScriptFile(const Call &call, const QString &path, MRVScriptFile *file, 
     const bool isUnknown = format == MRVScriptFile::UnknownFormat || format == MRVScriptFile::EPub
         || format == MRVScriptFile::Pdf;
     const bool isText = format == MRVScriptFile::Fountain;
-    *error = path + QLatin1String(": ") + reason
-        + QLatin1String(isUnknown    ? "; say with --from what it is"
-                            : isText ? "; give the right encoding with --encoding"
-                                     : "");
-    return false;
+    const char *const hint = isUnknown ? "; say with --from what it is"
+        : isText                       ? "; give the right encoding with --encoding"
+                                       : "";
+    return MRV::fail(error, reason.kind,
+                     path + QLatin1String(": ") + reason.text + QLatin1String(hint));
 }
 
 namespace {
@@ -66,7 +66,7 @@ void printLosses(const QString &path, const MRVScriptFile &file, Format to)
         losses.append(QStringLiteral("settings, layout and lists are those of a new document"));
     }
     for (const QString &loss : losses) {
-        printError(QStringLiteral("%1: %2").arg(path, loss));
+        printNote(QStringLiteral("%1: %2").arg(path, loss));
     }
 }
 
@@ -89,7 +89,7 @@ struct ConvertOptions
 };
 
 QByteArray bytesOf(const MRVFountainScript &script, const ConvertOptions &options, QString *missing,
-                   QString *error)
+                   MRVErrorSink error)
 {
     switch (options.to) {
     case MRVScriptFile::EPub:
@@ -119,11 +119,12 @@ bool readPages(const QString &text, MRVScriptPdf::Options *options)
     return match.hasMatch() && (options->lastPage == 0 || options->lastPage >= options->firstPage);
 }
 
-bool readPdfOptions(const Call &call, MRVScriptPdf::Options *options, QString *error)
+bool readPdfOptions(const Call &call, MRVScriptPdf::Options *options, MRVErrorSink error)
 {
     if (call.has("pages") && !readPages(call.value("pages"), options)) {
-        *error = QStringLiteral("'%1' is no range of pages such as 3-10").arg(call.value("pages"));
-        return false;
+        return MRV::fail(
+            error,
+            QStringLiteral("'%1' is no range of pages such as 3-10").arg(call.value("pages")));
     }
     options->pagination.paper = MRVScriptPagination::paperNamed(call.value("paper"));
     options->pagination.sceneNumbers = call.has("scene-numbers");
@@ -153,9 +154,9 @@ int readOptions(const Call &call, ConvertOptions *options)
         return usageError(
             QStringLiteral("--to says %1, but the name '%2' something else").arg(to, output));
     }
-    QString error;
+    MRVError error;
     if (!readLanguage(call, &options->language, &error)) {
-        return usageError(error);
+        return usageError(error.text);
     }
     const bool isPdf = options->to == MRVScriptFile::Pdf;
     const bool isLaidOut = isPdf || options->to == MRVScriptFile::EPub;
@@ -170,7 +171,7 @@ int readOptions(const Call &call, ConvertOptions *options)
         }
     }
     if (!readPdfOptions(call, &options->pdf, &error)) {
-        return usageError(error);
+        return usageError(error.text);
     }
     if (call.has("fixed-pitch")) {
         if (options->to != MRVScriptFile::EPub) {
@@ -180,7 +181,7 @@ int readOptions(const Call &call, ConvertOptions *options)
     }
     QDateTime unused;
     if (isLaidOut && !MRVFixedDate::fromEnvironment(&unused, &error)) {
-        return usageError(error);
+        return usageError(error.text);
     }
     options->mode.loadFactoryDefaults();
     if (!mode.isEmpty() && !options->mode.loadNamed(mode, &error)) {
@@ -199,10 +200,12 @@ int readOutput(const QString &output, ConvertOptions *options)
     if (toFile && (output.isEmpty() || QFileInfo(output).isDir())
         && QFileInfo::exists(options->output)) {
         return refuse(
+            MRVErrorKind::Other,
             QStringLiteral("%1 exists; name it with -o to replace it").arg(options->output));
     }
     return toFile && options->input != StandardStream && isSameFile(options->input, options->output)
-        ? refuse(QStringLiteral("%1: the output would replace the input; choose another with -o")
+        ? refuse(MRVErrorKind::Other,
+                 QStringLiteral("%1: the output would replace the input; choose another with -o")
                      .arg(options->output))
         : -1;
 }
@@ -218,7 +221,7 @@ int runScriptConvert(const Call &call)
         return code;
     }
     MRVScriptFile script;
-    QString error;
+    MRVError error;
     if (!readScriptFile(call, options.input, &script, &error)) {
         return refuse(error);
     }
@@ -229,11 +232,11 @@ int runScriptConvert(const Call &call)
         call.has("printed") ? script.script().printed() : script.script();
     QString missing;
     const QByteArray bytes = bytesOf(written, options, &missing, &error);
-    if (!error.isEmpty() || !writeOutput(bytes, options.output, &error)) {
+    if (error || !writeOutput(bytes, options.output, &error)) {
         return refuse(error);
     }
     if (!missing.isEmpty()) {
-        printError(QStringLiteral("note: ") + MRVPdfWriter::missingCharactersNote(missing));
+        printNote(MRVPdfWriter::missingCharactersNote(missing));
     }
     printLosses(options.input, script, options.to);
     if (options.output != StandardStream && options.json) {
@@ -267,14 +270,14 @@ int runScriptStats(const Call &call)
 {
     MRVScriptMode mode;
     MRVScriptPagination::Options layout;
-    QString modeError;
+    MRVError modeError;
     if (!readLayout(call, &mode, &layout, &modeError)) {
         return refuse(modeError);
     }
     bool ok = true;
     for (const QString &input : call.arguments) {
         MRVScriptFile file;
-        QString error;
+        MRVError error;
         if (!readScriptFile(call, input, &file, &error)) {
             printError(error); // the others can still be counted
             ok = false;
@@ -313,7 +316,7 @@ int runScriptRename(const Call &call)
             QStringLiteral("'%1' is more than a name; extensions stay as they are").arg(name));
     }
     MRVScriptFile file;
-    QString error;
+    MRVError error;
     if (!readScriptFile(call, names.at(2), &file, &error)) {
         return refuse(error);
     }
@@ -321,6 +324,7 @@ int runScriptRename(const Call &call)
     // Pages may hold more than scripts: what others have added.
     if (isSameFile(names.at(2), output) && file.revised() != file.source()) {
         return refuse(
+            MRVErrorKind::Other,
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
                 .arg(output));
     }
@@ -331,22 +335,23 @@ int runScriptRename(const Call &call)
     const int count = file.renameCharacter(names.at(0), names.at(1), scope);
     const bool isSame = names.at(0).simplified().toUpper() == names.at(1).simplified().toUpper();
     if (count == 0) {
-        return refuse((isSame ? QStringLiteral("%1: '%2' is the same name")
+        return refuse(isSame ? MRVErrorKind::Other : MRVErrorKind::NotFound,
+                      (isSame ? QStringLiteral("%1: '%2' is the same name")
                               : QStringLiteral("%1: nobody is called '%2'"))
                           .arg(names.at(2), names.at(isSame ? 1 : 0)));
     }
     const QString target = output.isEmpty() ? QString(StandardStream) : output;
     const QByteArray bytes = file.revised(&error);
-    if (!error.isEmpty()) {
-        return refuse(QStringLiteral("%1: %2").arg(names.at(2), error));
+    if (error) {
+        return refuse(error.kind, QStringLiteral("%1: %2").arg(names.at(2), error.text));
     }
     if (!writeOutput(bytes, target, &error)) {
         return refuse(error);
     }
     const bool isMerged = speaksAlready && !isSame;
     if (isMerged) {
-        printError(QStringLiteral("%1: '%2' spoke already; both are one character now")
-                       .arg(names.at(2), names.at(1)));
+        printNote(QStringLiteral("%1: '%2' spoke already; both are one character now")
+                      .arg(names.at(2), names.at(1)));
     }
     if (target != StandardStream && call.has("json")) {
         printJson({{QStringLiteral("path"), target},
@@ -359,7 +364,7 @@ int runScriptRename(const Call &call)
 }
 
 bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Options *layout,
-                QString *error)
+                MRVErrorSink error)
 {
     mode->loadFactoryDefaults();
     layout->paper = MRVScriptPagination::paperNamed(call.value("paper"));
@@ -367,21 +372,20 @@ bool readLayout(const Call &call, MRVScriptMode *mode, MRVScriptPagination::Opti
 }
 
 bool writeRevised(MRVScriptFile *file, const MRVFountainScript &script, const QString &path,
-                  const QString &target, QString *error)
+                  const QString &target, MRVErrorSink error)
 {
     // Pages may hold more than scripts: what others have added.
     if (isSameFile(path, target) && file->revised() != file->source()) {
-        *error =
+        return MRV::fail(
+            error,
             QStringLiteral("%1: not all that it may hold would be kept; choose another with -o")
-                .arg(target);
-        return false;
+                .arg(target));
     }
     file->setScript(script);
-    QString reason;
+    MRVError reason;
     const QByteArray bytes = file->revised(&reason);
-    if (!reason.isEmpty()) {
-        *error = QStringLiteral("%1: %2").arg(path, reason);
-        return false;
+    if (reason) {
+        return MRV::fail(error, path, reason);
     }
     return writeOutput(bytes, target, error);
 }

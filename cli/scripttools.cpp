@@ -46,7 +46,7 @@ QString placeName(const MRVScriptFile &file)
 int checkScript(const Call &call, const QString &path)
 {
     MRVScriptFile file;
-    QString error;
+    MRVError error;
     if (!readScriptFile(call, path, &file, &error)) {
         return refuse(error);
     }
@@ -94,7 +94,7 @@ int runScriptScenes(const Call &call)
     MRVScriptFile file;
     MRVScriptMode mode;
     MRVScriptPagination::Options layout;
-    QString error;
+    MRVError error;
     if (!readLayout(call, &mode, &layout, &error) || !readScriptFile(call, path, &file, &error)) {
         return refuse(error);
     }
@@ -117,7 +117,7 @@ int writeNumbered(const Call &call, int (*number)(const Call &, MRVFountainScrip
 {
     const QString path = call.arguments.constFirst();
     MRVScriptFile file;
-    QString error;
+    MRVError error;
     if (!readScriptFile(call, path, &file, &error)) {
         return refuse(error);
     }
@@ -162,7 +162,7 @@ struct Compared
     QVector<int> lines;
 };
 
-bool readCompared(const Call &call, const QString &path, Compared *compared, QString *error)
+bool readCompared(const Call &call, const QString &path, Compared *compared, MRVErrorSink error)
 {
     compared->path = path;
     if (!readScriptFile(call, path, &compared->file, error)) {
@@ -246,7 +246,7 @@ int runScriptCompare(const Call &call)
 {
     Compared sides[2];
     for (const int side : {0, 1}) {
-        QString error;
+        MRVError error;
         if (!readCompared(call, call.arguments.at(side), &sides[side], &error)) {
             return refuse(error);
         }

@@ -26,6 +26,7 @@ QString namedPdfSettings(const QStringList &names)
 int refuseKey(const QString &key)
 {
     return refuse(
+        MRVErrorKind::NotFound,
         QStringLiteral("unknown setting '%1'%2").arg(key, didYouMean(MRVOptions::closestKey(key))));
 }
 
@@ -81,9 +82,9 @@ int set(const Call &call, MRVOptions *options)
         return usageError(QStringLiteral("%1 takes one value").arg(key));
     }
     const QString text = call.arguments.mid(1).join(u'\n');
-    QString error;
+    MRVError error;
     if (!options->setFromText(key, text, &error)) {
-        return refuse(key + QLatin1String(": ") + error);
+        return refuse(error.kind, key + QLatin1String(": ") + error.text);
     }
     if (save(options) != Done) {
         return Failed;
@@ -104,6 +105,7 @@ int reset(const Call &call, MRVOptions *options)
     const QStringList names = options->pdfSettingsNames();
     if (call.arguments.contains(PdfSettings) && !names.isEmpty()) {
         return refuse(
+            MRVErrorKind::Other,
             QStringLiteral("%1 holds the settings of %2 by their names (%3); name those to reset")
                 .arg(PdfSettings, QString::number(names.size()), namedPdfSettings(names)));
     }
@@ -187,16 +189,17 @@ int exportTo(const Call &call, MRVOptions *options)
 {
     const QString path = call.arguments.constFirst();
     if (QFileInfo(path) == QFileInfo(options->fileName())) {
-        return refuse(QStringLiteral("%1 is the settings file itself").arg(path));
+        return refuse(MRVErrorKind::Other,
+                      QStringLiteral("%1 is the settings file itself").arg(path));
     }
     const QList<MRVOptions::Problem> problems = options->problems();
     for (const MRVOptions::Problem &problem : problems) {
         if (problem.kind == MRVOptions::Problem::Unreadable) {
-            printError(QStringLiteral("note: %1 is left out: %2")
-                           .arg(displayed(problem.key), shownProblem(problem)));
+            printNote(QStringLiteral("%1 is left out: %2")
+                          .arg(displayed(problem.key), shownProblem(problem)));
         }
     }
-    QString error;
+    MRVError error;
     return MRVFileKind::mayReplace(path, MRVOptionsFile::isSettings, &error)
             && options->saveToFile(path, &error)
         ? Done
@@ -226,7 +229,7 @@ int check(const Call &call)
     if (call.has("settings")) {
         return usageError(QStringLiteral("either --settings or a file can be given"));
     }
-    QString error;
+    MRVError error;
     MRVOptionsFile file;
     return file.open(call.arguments.constFirst(), Access::Read, &error)
         ? checkAll(call, file.options())
@@ -237,19 +240,20 @@ int check(const Call &call)
 int importFrom(const Call &call, MRVOptions *options)
 {
     const QString path = call.arguments.constFirst();
-    QString error;
+    MRVError error;
     MRVOptionsFile source;
     if (!source.open(path, Access::Read, &error)) {
         return refuse(error);
     }
     if (source.options()->allKeys().isEmpty()) {
-        return refuse(QStringLiteral("%1: it contains no settings").arg(path));
+        return refuse(MRVErrorKind::Other, QStringLiteral("%1: it contains no settings").arg(path));
     }
     const auto which =
         call.has("keep-invalid") ? MRVOptions::Import::All : MRVOptions::Import::Usable;
     const QList<MRVOptions::Problem> left = options->importFrom(*source.options(), which);
     for (const MRVOptions::Problem &problem : left) {
-        printError(
+        refuse(
+            MRVErrorKind::Damaged,
             QStringLiteral("%1: %2 is left out: %3").arg(path, problem.key, shownProblem(problem)));
     }
     const int code = save(options);

@@ -16,17 +16,17 @@ int readScheme(const Call &call, int argument, MRVShortcutScheme *scheme)
     if (call.has("settings") && !call.arguments.isEmpty()) {
         return usageError(QStringLiteral("either --settings or a scheme can be given"));
     }
-    QString error;
+    MRVError error;
     MRVOptionsFile settings;
     if (argument < call.arguments.size()) {
         *scheme = MRVShortcutScheme::loadNamed(call.arguments.at(argument), &error);
     } else if (settings.open(call.value("settings"), Access::Read, &error)) {
         *scheme = settings.options()->shortcutScheme(&error);
     }
-    if (error.isEmpty() && !call.has("stored")) {
+    if (!error && !call.has("stored")) {
         scheme->mergeMissingShortcuts(MRVShortcutScheme::morvane().shortcuts());
     }
-    return error.isEmpty() ? int(Done) : refuse(error);
+    return error ? refuse(error) : int(Done);
 }
 
 QString nameOf(MRVShortcut::Id id)
@@ -136,7 +136,7 @@ int exportScheme(const Call &call)
     if (const int code = readScheme(call, 0, &scheme); code != Done) {
         return code;
     }
-    QString error;
+    MRVError error;
     const QString path = call.value("output");
     const bool asFile = call.value("to") == QLatin1String("scheme");
     const auto isOfKind = asFile ? MRVShortcutScheme::isStoredForm : MRVShortcutScheme::isText;
@@ -150,7 +150,7 @@ int exportScheme(const Call &call)
 int change(const Call &call, MRVOptions *options, const MRVOptions::ShortcutKeys &keys)
 {
     using Conflicts = MRVOptions::Conflicts;
-    QString error;
+    MRVError error;
     if (!options->setShortcuts(keys, call.has("force") ? Conflicts::Accept : Conflicts::Refuse,
                                &error)) {
         return refuse(error);
@@ -167,7 +167,7 @@ int change(const Call &call, MRVOptions *options, const MRVOptions::ShortcutKeys
 
 int set(const Call &call, MRVOptions *options)
 {
-    QString error;
+    MRVError error;
     const MRVShortcut::Id id = MRVShortcut::idNamed(call.arguments.at(0), &error);
     if (id == MRVShortcut::NoId) {
         return refuse(error);
@@ -184,7 +184,7 @@ int reset(const Call &call, MRVOptions *options)
 {
     MRVOptions::ShortcutKeys keys;
     for (const QString &name : call.arguments) {
-        QString error;
+        MRVError error;
         const MRVShortcut::Id id = MRVShortcut::idNamed(name, &error);
         if (id == MRVShortcut::NoId) {
             return refuse(error);
@@ -200,9 +200,9 @@ int reset(const Call &call, MRVOptions *options)
 
 int importScheme(const Call &call, MRVOptions *options)
 {
-    QString error;
+    MRVError error;
     const auto scheme = MRVShortcutScheme::loadNamed(call.arguments.constFirst(), &error);
-    if (!error.isEmpty()) {
+    if (error) {
         return refuse(error);
     }
     options->setShortcutScheme(options->keyText(MRVOptions::DefaultShortcutScheme), scheme);

@@ -1,5 +1,7 @@
 #include "textsearch.h"
 
+#include "util/mrvfailure.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QTextBlock>
@@ -55,7 +57,14 @@ QString unknownColor(const QString &name)
     return QStringLiteral("unknown colour '%1'; known are #rrggbb and names of CSS").arg(name);
 }
 
-bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
+MRVError givenUp(const MRVSearchOutcome &outcome)
+{
+    return {outcome.reason == MRVSearchOutcome::Cancelled ? MRVErrorKind::Cancelled
+                                                          : MRVErrorKind::TooLarge,
+            outcome.text()};
+}
+
+bool readSearchOptions(const Call &call, MRVTextQuery *query, MRVErrorSink error)
 {
     query->syntax = call.has("regex") ? MRVTextQuery::RegularExpression : MRVTextQuery::PlainText;
     query->ignoreTypography = call.has("loose");
@@ -81,8 +90,7 @@ bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error)
         const QString name = call.value(row.option);
         const QColor color(name);
         if (name != QLatin1String("any") && !color.isValid()) {
-            *error = unknownColor(name);
-            return false;
+            return MRV::fail(error, unknownColor(name));
         }
         query->kinds.append({row.type, color.isValid() ? QVariant(color) : QVariant()});
     }

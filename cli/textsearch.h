@@ -43,7 +43,10 @@ constexpr Option searchOptions[] = {
  * Takes up these options of a call. @return false, with a text, when they are wrong; the text to
  * look for is looked at too.
  */
-bool readSearchOptions(const Call &call, MRVTextQuery *query, QString *error);
+bool readSearchOptions(const Call &call, MRVTextQuery *query, MRVErrorSink error);
+
+/** Why a search is not complete. */
+MRVError givenUp(const MRVSearchOutcome &outcome);
 
 /** The error for what is not the name of a colour. */
 QString unknownColor(const QString &name);

@@ -4,6 +4,7 @@
 #include "download/mrvdownloadurl.h"
 #include "download/mrvredirectpolicy.h"
 #include "update/mrvupdatemodel.h"
+#include "util/mrvfailure.h"
 #include "util/mrvtemporaryfolder.h"
 #include "version/mversion.h"
 
@@ -30,9 +31,9 @@ QString signatureOf(const QString &file)
 }
 
 // What cannot be read, fetched or relied upon, as opposed to what tells that nothing is newer.
-int unreadable(const QString &text)
+int unreadable(const MRVError &error)
 {
-    refuse(text);
+    refuse(error);
     return NotRead;
 }
 
@@ -42,7 +43,7 @@ bool isAddress(const QString &feed)
 }
 
 bool fetch(const QUrl &url, const QString &path, qint64 maximumSize, MRVDownloadUrl::Body body,
-           QString *error)
+           MRVError *error)
 {
     MRVRedirectPolicy redirects;
     redirects.start(url);
@@ -51,35 +52,41 @@ bool fetch(const QUrl &url, const QString &path, qint64 maximumSize, MRVDownload
     download.setMaximumSize(maximumSize);
     download.setBody(body);
     QEventLoop loop;
-    QObject::connect(&download, &MRVDownloadUrl::downloadError, &loop, [&](const QString &text) {
-        *error = text;
+    QObject::connect(&download, &MRVDownloadUrl::downloadError, &loop, [&] {
+        *error = download.lastError();
         loop.quit();
     });
     QObject::connect(&download, QOverload<QString>::of(&MRVDownloadUrl::downloadSuccess), &loop,
                      &QEventLoop::quit);
     if (!download.downloadToFile(url, path)) {
-        *error = QStringLiteral("this is not an address");
-        return false;
+        return MRV::fail(error, QStringLiteral("this is not an address"));
     }
     showProgress(QStringLiteral("fetching %1").arg(url.toDisplayString()));
     loop.exec();
     showProgress(QString());
     if (redirects.hasRefused()) {
-        *error = QStringLiteral("it redirects too often, or to where it must not");
+        return MRV::fail(error, MRVErrorKind::Network,
+                         QStringLiteral("it redirects too often, or to where it must not"));
     }
-    return error->isEmpty();
+    return !*error;
 }
 
-bool copy(const QString &source, const QString &path, qint64 maximumSize, QString *error)
+bool copy(const QString &source, const QString &path, qint64 maximumSize, MRVErrorSink error)
 {
     QFile file(source);
     const bool isOpen = source == StandardInput ? file.open(stdin, QIODevice::ReadOnly)
                                                 : file.open(QIODevice::ReadOnly);
-    if (!isOpen) {
-        *error = file.errorString();
-        return false;
-    }
-    return MRVFileWriter::write(path, file.read(maximumSize), error);
+    return isOpen ? MRVFileWriter::write(path, file.read(maximumSize), error)
+                  : MRV::fail(error, MRVError::ofDevice(file));
+}
+
+// Never over a file that is there.
+bool move(const QString &source, const QString &path, MRVErrorSink error)
+{
+    QFile file(source);
+    return file.rename(path)
+        || MRV::fail(error, MRVError::ofDevice(file).kind,
+                     QStringLiteral("%1 cannot be written").arg(path));
 }
 
 /** One check of a feed, whose files lie in a folder of their own. */
@@ -89,8 +96,8 @@ public:
     explicit Check(const Call &call)
         : m_call(call)
     {
-        QObject::connect(&m_model, &MRVUpdateModel::updateError, &m_loop, [this](QString text) {
-            m_error = m_error.isEmpty() ? text : m_error;
+        QObject::connect(&m_model, &MRVUpdateModel::updateError, &m_loop, [this] {
+            m_error = m_error ? m_error : m_model.lastError();
             m_loop.quit();
         });
         QObject::connect(&m_model, &MRVUpdateModel::readyToInstall, &m_loop, [this] {
@@ -113,7 +120,7 @@ private:
     QEventLoop m_loop;
     QString m_feed;
     QString m_file; // of the installer, in its place
-    QString m_error;
+    MRVError m_error;
     bool m_isReady = false;
 };
 
@@ -121,12 +128,13 @@ int Check::run(const QByteArray &key)
 {
     m_model.setPublicKey(key);
     m_feed = m_call.arguments.isEmpty() ? m_model.xmlUrl() : m_call.arguments.constFirst();
-    m_error = m_model.settingsError();
-    if (!m_error.isEmpty() || !readFeed()) {
-        return unreadable(QStringLiteral("%1: %2").arg(m_feed, m_error));
+    m_error = m_model.lastError();
+    if (m_error || !readFeed()) {
+        return unreadable({m_error.kind, QStringLiteral("%1: %2").arg(m_feed, m_error.text)});
     }
     if (m_model.isNewerAvailable() && m_call.has("download") && !download()) {
-        return unreadable(QStringLiteral("%1: %2").arg(m_model.downloadURL(), m_error));
+        return unreadable(
+            {m_error.kind, QStringLiteral("%1: %2").arg(m_model.downloadURL(), m_error.text)});
     }
     print();
     return m_model.isNewerAvailable() ? Done : Failed;
@@ -139,7 +147,6 @@ bool Check::readFeed()
     if (isAddress(m_feed)) {
         m_model.setXmlUrl(m_feed);
         const auto body = isSigned ? MRVDownloadUrl::Body::Raw : MRVDownloadUrl::Body::Text;
-        m_error.clear();
         if ((isSigned
              && !fetch(QUrl(m_model.xmlSignatureUrl()), m_model.xmlSignatureFilePath(),
                        MaxSmallFile, MRVDownloadUrl::Body::Raw, &m_error))
@@ -156,7 +163,7 @@ bool Check::readFeed()
         }
     }
     m_model.readXML();
-    return m_error.isEmpty();
+    return !m_error;
 }
 
 bool Check::download()
@@ -164,25 +171,19 @@ bool Check::download()
     const QDir folder(m_call.has("output") ? m_call.value("output") : QStringLiteral("."));
     m_file = folder.filePath(m_model.offer().fileName);
     if (QFileInfo::exists(m_file)) {
-        m_error = QStringLiteral("%1 exists already").arg(m_file);
-        return false;
+        return MRV::fail(&m_error, QStringLiteral("%1 exists already").arg(m_file));
     }
     if (!fetchInstaller()) {
         return false;
     }
     m_model.readEXE();
-    if (!m_isReady && m_error.isEmpty()) {
+    if (!m_isReady && !m_error) {
         m_loop.exec();
     }
-    // Never over a file that has come meanwhile. The signature is for --verify.
-    if (m_error.isEmpty() && !QFile::rename(m_model.downloadFilePath(), m_file)) {
-        m_error = QStringLiteral("%1 cannot be written").arg(m_file);
-    }
-    if (m_error.isEmpty() && m_model.needsSignature()
-        && !QFile::rename(m_model.signatureFilePath(), signatureOf(m_file))) {
-        m_error = QStringLiteral("%1 cannot be written").arg(signatureOf(m_file));
-    }
-    return m_error.isEmpty();
+    // The signature is for --verify.
+    return !m_error && move(m_model.downloadFilePath(), m_file, &m_error)
+        && (!m_model.needsSignature()
+            || move(m_model.signatureFilePath(), signatureOf(m_file), &m_error));
 }
 
 bool Check::fetchInstaller()
@@ -241,7 +242,7 @@ void Check::print() const
         return;
     }
     if (!doubt.isEmpty()) {
-        printError(doubt);
+        printNote(doubt);
     }
     if (m_model.isNewerAvailable()) {
         printLine(QStringLiteral("%1 is available, this is %2").arg(printable(available), current));
@@ -263,8 +264,9 @@ int verify(const Call &call, const QByteArray &key)
     QFile signatureFile(signatureOf(name));
     for (QFile *opened : {&file, &signatureFile}) {
         if (!opened->open(QIODevice::ReadOnly)) {
-            return unreadable(
-                QStringLiteral("%1: %2").arg(opened->fileName(), opened->errorString()));
+            MRVError error;
+            MRV::fail(&error, opened->fileName(), MRVError::ofDevice(*opened));
+            return unreadable(error);
         }
     }
     QString reason;
@@ -279,7 +281,8 @@ int verify(const Call &call, const QByteArray &key)
                                     : QStringLiteral("it is not this file's");
     }
     if (!reason.isEmpty()) {
-        return refuse(QStringLiteral("%1: its signature is not valid: %2").arg(name, reason));
+        return refuse(MRVErrorKind::Damaged,
+                      QStringLiteral("%1: its signature is not valid: %2").arg(name, reason));
     }
     const QString version = signature.field(QStringLiteral("version"));
     const QString time =
@@ -337,13 +340,14 @@ int run(const Call &call)
                                                          : QStringLiteral("Morvane"));
     const QString output = call.has("output") ? call.value("output") : QStringLiteral(".");
     if (!QFileInfo(output).isDir()) {
-        return unreadable(QStringLiteral("%1: no such folder").arg(output));
+        return unreadable(
+            {MRVErrorKind::NotFound, QStringLiteral("%1: no such folder").arg(output)});
     }
     // The model reads what lies in the temporary folder, where others may have files of these
     // names. An installer is renamed at the end, which needs the same file system.
     const MRVTemporaryFolder folder(call.has("download") ? output : QDir::tempPath());
     if (folder.path().isEmpty()) {
-        return unreadable(folder.error().text);
+        return unreadable(folder.error());
     }
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     return Check(call).run(key);

@@ -20,9 +20,27 @@ QString described(const QString &file)
     return file == QLatin1String("-") ? QStringLiteral("standard input") : file;
 }
 
-int refuse(const Call &call, const QString &reason)
+int refuse(const Call &call, const MRVError &reason)
 {
-    return refuse(described(call.arguments.constFirst()) + QLatin1String(": ") + reason);
+    return refuse(reason.kind,
+                  described(call.arguments.constFirst()) + QLatin1String(": ") + reason.text);
+}
+
+int refuse(const Call &call, MRVErrorKind kind, const QString &reason)
+{
+    return refuse(call, {kind, reason});
+}
+
+int refuseText(const Call &call, const MRVDomDoc &doc)
+{
+    return refuse(call, MRVErrorKind::Other,
+                  QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
+}
+
+int refuseAttribute(const Call &call, const QString &path)
+{
+    return refuse(call, MRVErrorKind::NotFound,
+                  QStringLiteral("%1 has no attribute '%2'").arg(path, call.value("attribute")));
 }
 
 QString pathOf(const Call &call)
@@ -34,7 +52,7 @@ bool moveTo(MRVDomDoc &doc, const Call &call)
 {
     doc.cdRoot();
     if (!doc.cd(pathOf(call))) {
-        refuse(call, doc.whyMissing(pathOf(call)));
+        refuse(call, MRVErrorKind::NotFound, doc.whyMissing(pathOf(call)));
         return false;
     }
     return true;
@@ -57,8 +75,7 @@ int get(MRVDomDoc &doc, const Call &call)
         if (!call.has("attribute")) {
             doc.get(&text);
         } else if (!doc.getAttr(attribute, &text, element)) {
-            return refuse(
-                call, QStringLiteral("%1 has no attribute '%2'").arg(doc.workPath(), attribute));
+            return refuseAttribute(call, doc.workPath());
         }
         if (call.json()) {
             printJson(doc.toJson());
@@ -97,7 +114,8 @@ int set(MRVDomDoc &doc, const Call &call)
 {
     const QString attribute = call.value("attribute");
     if (call.has("attribute") && !MRVDomDoc::isXmlName(attribute)) {
-        return refuse(call, QStringLiteral("'%1' is no name for an attribute").arg(attribute));
+        return refuse(call, MRVErrorKind::Other,
+                      QStringLiteral("'%1' is no name for an attribute").arg(attribute));
     }
     if (!moveTo(doc, call)) {
         return Failed;
@@ -105,7 +123,7 @@ int set(MRVDomDoc &doc, const Call &call)
     if (call.has("attribute")) {
         doc.setAttr(attribute, call.arguments.value(2));
     } else if (!doc.set(call.arguments.value(2))) {
-        return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
+        return refuseText(call, doc);
     }
     if (call.json()) {
         printJson(doc.toJson());
@@ -126,10 +144,11 @@ int remove(MRVDomDoc &doc, const Call &call)
     if (call.has("attribute")) {
         count = doc.removeAttr(attribute, pathOf(call), call.has("all"));
         if (count == 0) {
-            return refuse(call, QStringLiteral("%1 has no attribute '%2'").arg(at, attribute));
+            return refuseAttribute(call, at);
         }
     } else if (isRoot) {
-        return refuse(call, QStringLiteral("the document element cannot be removed"));
+        return refuse(call, MRVErrorKind::Other,
+                      QStringLiteral("the document element cannot be removed"));
     } else {
         count = doc.remove(pathOf(call), call.has("all"));
     }
@@ -141,12 +160,12 @@ int remove(MRVDomDoc &doc, const Call &call)
 
 int create(MRVDomDoc &doc, const Call &call)
 {
-    QString error;
+    MRVError error;
     if (!doc.createElements(pathOf(call), &error)) {
         return refuse(call, error);
     }
     if (!call.arguments.value(2).isNull() && !doc.set(call.arguments.value(2))) {
-        return refuse(call, QStringLiteral("%1 holds elements, no text").arg(doc.workPath()));
+        return refuseText(call, doc);
     }
     if (call.json()) {
         printJson(doc.toJson());
@@ -171,10 +190,10 @@ public:
     // with.
     int lock()
     {
-        QString reason;
+        MRVError reason;
         return writesStandardOutput() || m_lock.acquire(m_target, &reason)
             ? int(Done)
-            : refuse(m_target + QLatin1String(": ") + reason);
+            : refuse(reason.kind, m_target + QLatin1String(": ") + reason.text);
     }
 
     int load(bool isCreated)
@@ -188,7 +207,7 @@ public:
                                              : file.open(QIODevice::ReadOnly);
         m_before = isOpen ? file.readAll() : QByteArray();
         if (!isOpen || file.error() != QFileDevice::NoError) {
-            return refuse(m_call, file.errorString());
+            return refuse(m_call, MRVError::ofDevice(file));
         }
         if (m_source.read(m_before, &m_document)) {
             return Done;
@@ -198,19 +217,20 @@ public:
             : QStringLiteral("line %1, column %2: ")
                   .arg(QString::number(m_document.errorLine()),
                        QString::number(m_document.errorColumn()));
-        return refuse(m_call, place + m_document.errorMessage());
+        return refuse(m_call, MRVErrorKind::Damaged, place + m_document.errorMessage());
     }
 
     int store() const
     {
-        QString error;
+        MRVError error;
         QString note;
         QByteArray bytes;
         if (!m_source.write(m_document, &bytes, &note, &error)) {
             return refuse(m_call, error);
         }
         if (!note.isEmpty()) {
-            return refuse(m_call, note); // what its document type declares would be lost
+            return refuse(m_call, MRVErrorKind::Other,
+                          note); // what its document type declares would be lost
         }
         bool isStored = false;
         if (writesStandardOutput()) {

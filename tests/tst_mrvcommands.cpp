@@ -2,8 +2,12 @@
 
 #include "shortcuts/mrvshortcutscheme.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 #include <QTextCodec>
+
+#include <cerrno>
 
 #include <sys/stat.h>
 
@@ -348,6 +352,46 @@ private Q_SLOTS:
             }
         }
         QVERIFY(examples > 10);
+    }
+
+    void kinds_data() { addRows("mrv-kinds.tsv", {"case", "arguments", "kind"}); }
+
+    // What --json says of the first error of a call, or of what does not end it.
+    void kinds()
+    {
+        QVERIFY(QDir().mkdir("empty"));
+        QVERIFY(writeBytes(in("page.html"), "<p>hi</p>"));
+        QVERIFY(writeBytes(in("lost.html"), "<table><tr><td><ul><li>a</ul></table>"));
+        QVERIFY(writeBytes(in("slow.txt"), QByteArray(5000, 'a') + "b"));
+        QVERIFY(writeBytes(in("play.fountain"), "BOB\nHi.\n") && writeBytes(in("play.html"), "x"));
+        QVERIFY(writeBytes(in("cut.xml"), "<a>") && writeBytes(in("whole.xml"), "<a><b/></a>"));
+        QVERIFY(writeBytes(in("empty.ini"), {}));
+        QVERIFY(writeBytes(in("a.ini"), "[Options]\nBackups\\retain=-5\n"));
+        const QString call = QString(MRV_TOOL " %1 --json").arg(filled(cell("arguments")));
+        const Ran ran = run("sh", {"-c", call},
+                            {"XDG_CONFIG_HOME=" + in("home"), "XDG_DATA_HOME=" + in("home")});
+        const QString line = ran.errors.section('\n', 0, 0);
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        const bool isNote = cell("kind") == "note";
+        QVERIFY2(object.contains(isNote ? "note" : "error"), qPrintable(ran.errors));
+        QCOMPARE(object.contains("error"), !isNote);
+        QCOMPARE(object.value("kind").toString(isNote ? "note" : "usage"), cell("kind"));
+    }
+
+    void fullDisk_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("help") << "--help";
+        QTest::newRow("version") << "--version";
+    }
+
+    void fullDisk()
+    {
+        QFETCH(QString, option);
+        const Ran ran = run("sh", {"-c", MRV_TOOL " " + option + " > /dev/full"}, {});
+        QCOMPARE(ran.errors,
+                 "mrv: standard output cannot be written: " + qt_error_string(ENOSPC) + '\n');
+        QCOMPARE(ran.exitCode, 1);
     }
 
 private:
