@@ -22,12 +22,13 @@ private Q_SLOTS:
         if (cell("words").contains("mine.ini")) {
             QCOMPARE(mrv("presets set Mine size=18 --settings @mine.ini").errors, QString());
         }
-        QStringList arguments{"--norc", "-c", script, "bash", completions() + "/mrv.bash",
-                              MRV_TOOL};
+        QStringList arguments{"--norc", "-c", script, "bash", completions() + "/mrv.bash"};
+        arguments += cell("words").startsWith('~') ? QStringList() : QStringList(MRV_TOOL);
         for (const QString &word : cell("words").split(' ')) {
             arguments.append(filled(word));
         }
-        Ran ran = run("bash", arguments, {"XDG_CONFIG_HOME=" + in(""), "XDG_DATA_HOME=" + in("")});
+        Ran ran = run("bash", arguments,
+                      {"XDG_CONFIG_HOME=" + in(""), "XDG_DATA_HOME=" + in(""), home()});
         QCOMPARE(ran.errors, QString());
         ran.output.chop(1);
         compareOutput(ran);
@@ -43,7 +44,8 @@ private Q_SLOTS:
                                 "mrv script show \"US Scr",
                                 "mrv script show US\\ Scr",
                                 "mrv export a-fi",
-                                "mrv export -o a-fo"};
+                                "mrv export -o a-fo",
+                                "~/mrv exp"};
         const QString script = QStringLiteral(
             "zmodload zsh/zpty; zpty shell TERM=dumb zsh -f -i;"
             "zpty -w shell \"PS1='ready> '; fpath=(${(q)1} \\$fpath); autoload -Uz compinit;"
@@ -56,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(in("a-folder")));
         const QString path = QFileInfo(MRV_TOOL).path() + ':' + qEnvironmentVariable("PATH");
         const Ran ran = run("zsh", QStringList{"-f", "-c", script, "zsh", completions()} + typed,
-                            {"PATH=" + path, "ZDOTDIR=" + in("")});
+                            {"PATH=" + path, "ZDOTDIR=" + in(""), home()});
         QCOMPARE(ran.output,
                  QString("mrv export \n"
                          "mrv export --strict --no-images \n"
@@ -65,7 +67,8 @@ private Q_SLOTS:
                          "mrv script show \"US Screenplay\" \n"
                          "mrv script show US\\ Screenplay \n"
                          "mrv export a-file.md \n"
-                         "mrv export -o a-folder/\n"));
+                         "mrv export -o a-folder/\n"
+                         "~/mrv export \n"));
     }
 
     void manuals()
@@ -121,6 +124,8 @@ private Q_SLOTS:
     }
 
 private:
+    // So that "~/mrv" is the tool.
+    static QString home() { return "HOME=" + QFileInfo(MRV_TOOL).path(); }
     static QString completions() { return MRV_SOURCE_DIR "/cli/completion"; }
 };
 

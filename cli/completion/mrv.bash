@@ -2,7 +2,9 @@
 # shellcheck shell=bash
 
 _mrv() {
-    local word line current="${2//[\\\"\']/}" call=()
+    local word line tool="$1" current="${2//[\\\"\']/}" call=()
+    # Bash gives the words as they are typed.
+    if [[ $tool == \~/* ]]; then tool="$HOME/${tool:2}"; fi
     # Bash takes "--to=epub" for three words.
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         if [ "$word" = = ] && [[ ${call[-1]-} == --* ]]; then continue; fi
@@ -22,6 +24,6 @@ _mrv() {
                 if [[ $word == *[!A-Za-z0-9_./-]* ]]; then compopt -o filenames; fi
                 ;;
         esac
-    done < <("$1" --complete "${call[@]}" "$current" 2> /dev/null)
+    done < <("$tool" --complete "${call[@]}" "$current" 2> /dev/null)
 }
 complete -o default -F _mrv mrv
