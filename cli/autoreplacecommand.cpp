@@ -154,7 +154,8 @@ constexpr auto onList = withSettings<access, withList<access, Run>>;
 constexpr Verb verbs[] = {
     {"show", "IN...", "show what is replaced while manuscripts are typed",
      onList<Access::Read, show>,
-     "The manuscripts are HTML, Markdown or plain text; - is standard input. Each replacement is "
+     "The manuscripts are HTML, Markdown, plain text, documents of the writing program (.mrvdoc), "
+     "and by pandoc DOCX, ODT and RTF; - is standard input. Each replacement is "
      "printed as PATH:LINE:COLUMN: MATCH -> REPLACEMENT. A line is a paragraph; columns count "
      "UTF-16 units from 1 in the text as it was given."},
     {"list", "", "print the entries in their order, on or off", onList<Access::Read, list>},

@@ -668,8 +668,9 @@ constexpr Option options[] = {
 const Command exportCommand = {
     "export",
     "write manuscripts as pages, e-books, PDF documents, Markdown or text",
-    "Writes manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
-    "standard input) as pages, e-books, PDF documents, Markdown or plain text. "
+    "Writes manuscripts (HTML, Markdown, plain text, documents of the writing program (.mrvdoc), "
+    "and by pandoc DOCX, ODT and RTF; - is standard input) as pages, e-books, PDF documents, "
+    "Markdown or plain text. "
     "Several inputs become one e-book or PDF document, or else a file each. What Markdown or plain "
     "text cannot say of a manuscript is told.",
     "export novel.html --to epub --cover cover.png -o novel.epub\n"

@@ -198,9 +198,9 @@ constexpr Option inputs[] = {manuscriptFormat(), manuscriptEncoding()};
 const Command findCommand = {
     "find",
     "find text and formats in manuscripts",
-    "Finds text in manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
-    "standard input), and prints the "
-    "paragraphs that contain it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e gives it, or "
+    "Finds text in manuscripts (HTML, Markdown, plain text, documents of the writing program "
+    "(.mrvdoc), and by pandoc DOCX, ODT and RTF; - is standard input), and prints the paragraphs "
+    "that contain it as PATH:PARAGRAPH: TEXT. TEXT is left out where -e gives it, or "
     "where a format is asked for: then all text of that format is found.\n"
     "Exit code 1: nothing found, or the search given up.",
     "find --loose --whole-word \"it's\" one.md two.md\nfind --bold --italic novel.html --count",

@@ -14,10 +14,11 @@
 /** Options that tell how manuscripts are to be read. */
 constexpr Option manuscriptFormat(const char *verbs = nullptr)
 {
-    return Option::choice("from", "FORMAT", "html markdown text docx odt rtf",
-                          "The format of the input: html, markdown, text, docx, odt or rtf. "
-                          "Default: by its suffix.",
-                          verbs);
+    return Option::choice(
+        "from", "FORMAT", "html markdown text docx odt rtf mrvdoc",
+        "The format of the input: html, markdown, text, docx, odt, rtf, or mrvdoc, "
+        "that of the writing program. Default: by its suffix.",
+        verbs);
 }
 constexpr Option manuscriptEncoding(const char *verbs = nullptr)
 {

@@ -52,8 +52,9 @@ constexpr const char toolDescription[] =
     "settings, shortcuts, presets and lists of replacements. The first argument is a command; some "
     "commands take a verb as the next one. Where a verb works on a file, the file may stand before "
     "it. Options stand anywhere; what looks like one and is none goes after \"--\".\n"
-    "Manuscripts are HTML, Markdown or plain text, told apart by the suffixes of their files, and "
-    "DOCX, ODT or RTF where pandoc is installed. \"-\" is standard input or output.\n"
+    "Manuscripts are HTML, Markdown, plain text, documents of the writing program (.mrvdoc), and "
+    "by pandoc, where it is installed, DOCX, ODT and RTF. The suffixes of the files tell them "
+    "apart. \"-\" is standard input or output.\n"
     "A file that cannot be written whole is not written at all: the old one stays. What comes from "
     "files or servers reaches a terminal with its control characters made visible. With --json, "
     "errors are objects of JSON, too.";

@@ -83,10 +83,9 @@ constexpr Option options[] = {
 const Command notesCommand = {
     "notes",
     "list links, notes, highlights and pictures",
-    "Lists what manuscripts (HTML, Markdown, plain text, and by pandoc DOCX, ODT and RTF; - is "
-    "standard input) carry besides "
-    "their "
-    "text: links, footnotes and links to and from them, comments, highlights, pictures and "
+    "Lists what manuscripts (HTML, Markdown, plain text, documents of the writing program "
+    "(.mrvdoc), and by pandoc DOCX, ODT and RTF; - is standard input) carry besides their text: "
+    "links, footnotes and links to and from them, comments, highlights, pictures and "
     "anchors, as PATH:PARAGRAPH: KIND. Comments of HTML are in no paragraph; they follow with "
     "their line in the file.\n"
     "Exit code 1: nothing found.",

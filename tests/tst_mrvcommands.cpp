@@ -1,11 +1,13 @@
 #include "mrvtool.h"
 
+#include "archive/mrvdocumentarchive.h"
 #include "shortcuts/mrvshortcutscheme.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSettings>
 #include <QTextCodec>
+#include <QTextDocument>
 
 #include <cerrno>
 
@@ -66,6 +68,16 @@ private Q_SLOTS:
         QVERIFY(writeBytes(in("d/e/x.docx"), "no document"));
         QCOMPARE(mrv("replace -r --no-backup mill ship @d").exitCode, 0);
         QCOMPARE(bytesOf(in("d/e/b.md")) + bytesOf(in("d/e/.hidden/c.md")), QByteArray("shipmill"));
+    }
+
+    void findsInNativeDocuments()
+    {
+        QVERIFY(MRVDocumentArchive().write(QTextDocument("mill"), in("a.mrvdoc")));
+        QCOMPARE(mrv("find mill @a.mrvdoc").output, QString("@a.mrvdoc:1: mill\n"));
+        const QByteArray bytes = bytesOf(in("a.mrvdoc"));
+        QCOMPARE(mrv("find mill - --from mrvdoc", bytes).output, QString("-:1: mill\n"));
+        QCOMPARE(mrv("replace --no-backup mill ship @a.mrvdoc").exitCode, 1);
+        QCOMPARE(bytesOf(in("a.mrvdoc")), bytes);
     }
 
     void formats_data() { addCalls("mrv-formats.tsv"); }
