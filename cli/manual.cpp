@@ -1,5 +1,6 @@
 #include "manual.h"
 #include "commandline.h"
+#include "errorkinds.h"
 
 #include "core/mrvfilewriter.h"
 
@@ -47,6 +48,20 @@ constexpr Explained variables[] = {
     {"XDG_CONFIG_HOME", "The folder of the user's settings. Default: ~/.config."},
 };
 
+constexpr Explained files[] = {
+    {"~/.config/Morvane/Morvane.conf", "The user's settings, unless --settings names others."},
+    {"/usr/share/doc/mrv/tool.md", "What the options promise, by commands."},
+    {"/usr/share/doc/mrv/paths.md", "The paths of \"mrv xml\"."},
+    {"/usr/share/doc/mrv/scripts.md", "The files of script modes."},
+};
+
+constexpr const char toolDiagnostics[] =
+    "With --json, an error is an object on standard error, with the command as \"command\", the "
+    "text "
+    "as \"error\" and, unless the usage is wrong, one of these words as \"kind\". What does not "
+    "end a "
+    "command is an object with \"note\" in place of \"error\".";
+
 constexpr const char toolDescription[] =
     "Works on manuscripts and scripts, on XML files, and on what a writing application keeps: "
     "settings, shortcuts, presets and lists of replacements. The first argument is a command; some "
@@ -56,8 +71,7 @@ constexpr const char toolDescription[] =
     "by pandoc, where it is installed, DOCX, ODT and RTF. The suffixes of the files tell them "
     "apart. \"-\" is standard input or output.\n"
     "A file that cannot be written whole is not written at all: the old one stays. What comes from "
-    "files or servers reaches a terminal with its control characters made visible. With --json, "
-    "errors are objects of JSON, too.";
+    "files or servers reaches a terminal with its control characters made visible.";
 
 // An ASCII hyphen, where it belongs to what is typed; roff makes another character of it.
 QString withTypedHyphens(QString text)
@@ -178,6 +192,16 @@ QString optionItem(const Option &option)
     return item(head, text);
 }
 
+QString diagnostics()
+{
+    QString items;
+    for (const ErrorKindRow &row : errorKinds) {
+        items += item(QLatin1String("Li ") + withTypedHyphens(QLatin1String(row.name)),
+                      QLatin1String(row.means));
+    }
+    return section("DIAGNOSTICS") + paragraphs(QLatin1String(toolDiagnostics)) + list(items);
+}
+
 QString head(const QString &name, const char *summary, const QDate &date)
 {
     return QStringLiteral(".Dd %1\n.Dt %2 1\n.Os %3\n.Sh NAME\n.Nm %4\n.Nd %5\n")
@@ -287,8 +311,9 @@ QString toolPage(const QDate &date)
         + section("COMMANDS") + list(items) + section("OPTIONS")
         + explainedList(std::begin(toolOptions), std::end(toolOptions), "Fl")
         + section("ENVIRONMENT") + explainedList(std::begin(variables), std::end(variables), "Ev")
+        + section("FILES") + explainedList(std::begin(files), std::end(files), "Pa")
         + section("EXIT STATUS") + explainedList(std::begin(exitCodes), std::end(exitCodes), "")
-        + references(pages);
+        + diagnostics() + references(pages);
 }
 
 bool writePage(const QString &folder, const QString &name, const QString &text, MRVErrorSink error)

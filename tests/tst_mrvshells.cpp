@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "errorkinds.h"
 #include "mrvtool.h"
 
 Q_DECLARE_METATYPE(const Command *)
@@ -103,11 +104,7 @@ private Q_SLOTS:
     void manualPage()
     {
         QFETCH(const Command *, command);
-        QCOMPARE(mrv({"--manual", in("")}).errors, QString());
-        Ran shown =
-            run("mandoc", {"-Tutf8", "-Owidth=500", in(QString("mrv-%1.1").arg(command->name))});
-        // Bold and underlined letters are typed twice.
-        shown.output.remove(QRegularExpression(".\b"));
+        const QString shown = shownPage(QString("mrv-") + command->name);
         QStringList texts = QString::fromUtf8(command->examples)
                                 .split('\n')
                                 .replaceInStrings(QRegularExpression("^"), "mrv ");
@@ -119,11 +116,34 @@ private Q_SLOTS:
             texts << option->spellings().join(", ");
         }
         for (const QString &text : qAsConst(texts)) {
-            QVERIFY2(shown.output.contains(text), qPrintable(text));
+            QVERIFY2(shown.contains(text), qPrintable(text));
+        }
+    }
+
+    void toolPage()
+    {
+        const QString shown = shownPage("mrv");
+        const QByteArray document = bytesOf(MRV_SOURCE_DIR "/docs/tool.md");
+        for (const ErrorKindRow &row : errorKinds) {
+            QVERIFY2(shown.contains(QString("\n     %1").arg(row.name)), row.name);
+            QVERIFY2(shown.contains(row.means), row.name);
+            QVERIFY2(document.contains(QByteArray("`") + row.name + '`'), row.name);
+        }
+        for (const char *file : {"~/.config/Morvane/Morvane.conf", "/usr/share/doc/mrv/tool.md",
+                                 "/usr/share/doc/mrv/paths.md", "/usr/share/doc/mrv/scripts.md"}) {
+            QVERIFY2(shown.contains(file), file);
         }
     }
 
 private:
+    /** A manual page without what makes letters bold or underlined: each is typed twice. */
+    QString shownPage(const QString &name) const
+    {
+        const Ran made = mrv({"--manual", in("")});
+        Ran shown = run("mandoc", {"-Tutf8", "-Owidth=500", in(name + ".1")});
+        return made.errors + shown.output.remove(QRegularExpression(".\b"));
+    }
+
     // So that "~/mrv" is the tool.
     static QString home() { return "HOME=" + QFileInfo(MRV_TOOL).path(); }
     static QString completions() { return MRV_SOURCE_DIR "/cli/completion"; }
