@@ -14,6 +14,7 @@
  *             of it are shown.
  * @param preset the button that Return presses; NoButton leaves the choice to Qt.
  * @return the button that was chosen; 0 where the box went with its parent.
+ * @since 1.0
  */
 MRVBASE_EXPORT int mrvShowMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title,
                                   const QString &text,

@@ -9,9 +9,13 @@
 #include <QList>
 #include <QMap>
 
-// What the engine configuration knows, out of nothing but its arguments: no settings, no files. The
-// options take the defaults of their two engine settings from here, since the configuration reads
-// the options.
+/**
+ * What the engine configuration knows, out of nothing but its arguments: no settings, no files. The
+ * options take the defaults of their two engine settings from here, since the configuration reads
+ * the options.
+ *
+ * @since 1.0
+ */
 namespace MRVEngineTables {
 
 using FormatEngines = QMap<MRVFormat::Format, MRVImportExport::Engine>;

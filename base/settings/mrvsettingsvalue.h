@@ -6,7 +6,11 @@
 
 #include <iterator>
 
-/** Whether QSettings took a text for a list, for its commas. */
+/**
+ * Whether QSettings took a text for a list, for its commas.
+ *
+ * @since 1.0
+ */
 inline bool mrvIsList(const QVariant &value)
 {
     return value.userType() == QMetaType::QStringList
@@ -19,6 +23,7 @@ inline bool mrvIsList(const QVariant &value)
  *
  * @param ok receives false for anything else.
  * @param value a bool, a text, a list that a text with commas became, or nothing, which is false.
+ * @since 1.0
  */
 inline bool mrvToFlag(const QVariant &value, bool *ok)
 {

@@ -1,6 +1,10 @@
 #pragma once
 
-/** A property that paragraphs of notes have. Saved documents carry it. */
+/**
+ * A property that paragraphs of notes have. Saved documents carry it.
+ *
+ * @since 1.0
+ */
 enum MRVNoteProperty {
     /**
      * Of block formats: int from 1, the note that a page says the paragraph is a part of.

@@ -5,6 +5,11 @@
 #include <QColor>
 #include <QString>
 
+/**
+ * Colours as texts, and which colour reads well on another.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 /**

@@ -8,6 +8,11 @@
 #include <QString>
 #include <QStringList>
 
+/**
+ * Enumerations that the applications store, and their texts.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 /** Where a document that a link leads to is opened. */

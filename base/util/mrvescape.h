@@ -4,7 +4,11 @@
 
 #include <QString>
 
-/** Free functions, constants and enumerations that every module of the library uses. */
+/**
+ * Free functions, constants and enumerations that every module of the library uses.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 /**

@@ -6,7 +6,11 @@
 
 namespace MRV {
 
-/** Puts @p reason in @p error. Always false, for the caller to return. */
+/**
+ * Puts @p reason in @p error. Always false, for the caller to return.
+ *
+ * @since 1.0
+ */
 inline bool fail(MRVErrorSink error, const MRVError &reason)
 {
     error.set(reason);

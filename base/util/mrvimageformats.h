@@ -5,7 +5,11 @@
 #include <QString>
 #include <QStringList>
 
-// What MRVGuiUtil tells of the installed image plug-ins, for code that knows only this library.
+/**
+ * What MRVGuiUtil tells of the installed image plug-ins, for code that knows only this library.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 /** MRVGuiUtil::readImageFormats(). */

@@ -2,7 +2,11 @@
 
 #include <QChar>
 
-/** A character that markup takes for white space. */
+/**
+ * A character that markup takes for white space.
+ *
+ * @since 1.0
+ */
 inline bool mrvIsMarkupBlank(QChar character)
 {
     return character == u' ' || (character >= u'\t' && character <= u'\r');
@@ -11,6 +15,8 @@ inline bool mrvIsMarkupBlank(QChar character)
 /**
  * What a document holds between its text: ends of lines, paragraphs, frames and cells, and
  * pictures.
+ *
+ * @since 1.0
  */
 inline bool mrvIsStructure(QChar character)
 {

@@ -11,6 +11,11 @@
 
 class QMimeData;
 
+/**
+ * MIME types: those of the applications, and those of file suffixes.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 // The types under which the applications put their data on the clipboard and into drags.

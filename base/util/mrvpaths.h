@@ -4,6 +4,11 @@
 
 #include <QDir>
 
+/**
+ * Folders of the running program.
+ *
+ * @since 1.0
+ */
 namespace MRV {
 
 /** The folder of the running program's file. Needs an application object. */

@@ -23,5 +23,7 @@ class QTextDocument;
  * - Footnotes in the margin are marks and paragraphs: MRVMarginNotes::toParagraphs().
  *
  * The document is never changed: one that needs any of these is copied first. GUI thread only.
+ *
+ * @since 1.0
  */
 MRVBASE_EXPORT QString mrvDocumentHtml(const QTextDocument &document);

@@ -8,7 +8,11 @@
 #include <QStringView>
 #include <QVector>
 
-/** Small tools for rewriting markup texts in one pass. */
+/**
+ * Small tools for rewriting markup texts in one pass.
+ *
+ * @since 1.0
+ */
 namespace MRVHtmlText {
 
 /**

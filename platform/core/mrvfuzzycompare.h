@@ -7,6 +7,8 @@
  *
  * The tolerance is 1e-12 of the larger magnitude, and 1e-12 itself where both lie below 1, so that
  * a computed zero equals 0.0. An infinity equals only itself; a NaN equals nothing.
+ *
+ * @since 1.0
  */
 inline bool mrvFuzzyCompare(double a, double b)
 {
