@@ -421,6 +421,33 @@ private Q_SLOTS:
         }
     }
 
+    /// Each package that packages.txt lists has its reason in the table of the documentation.
+    void documentedPackages()
+    {
+        static const QRegularExpression row("^\\| (.*) \\| .* \\|$",
+                                            QRegularExpression::MultilineOption);
+        static const QRegularExpression quoted("`([^`]+)`");
+        const QString page = QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/docs/architecture.md"));
+        const QString part = page.section("\n## Dependencies\n", 1).section("\n## ", 0, 0);
+        QStringList documented;
+        for (auto it = row.globalMatch(part); it.hasNext();) {
+            for (auto names = quoted.globalMatch(it.next().captured(1)); names.hasNext();) {
+                documented.append(names.next().captured(1));
+            }
+        }
+        static const QRegularExpression package("^([^\\s#[]+)",
+                                                QRegularExpression::MultilineOption);
+        QStringList listed{"libbenchmark-dev"}; // for those who ask for benchmarks
+        const QString packages = QString::fromUtf8(bytesOf(MRV_SOURCE_DIR "/packages.txt"));
+        for (auto it = package.globalMatch(packages); it.hasNext();) {
+            listed.append(it.next().captured(1));
+        }
+        listed.removeDuplicates();
+        listed.sort();
+        documented.sort();
+        QCOMPARE(documented.join('\n'), listed.join('\n'));
+    }
+
     void startUpCode_data()
     {
         QTest::addColumn<QString>("library");

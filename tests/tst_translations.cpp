@@ -16,7 +16,9 @@
 #include "util/mrvunit.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -280,6 +282,14 @@ private Q_SLOTS:
         QVERIFY(made() != expected);
         QVERIFY(MTranslator::install("de"));
         QCOMPARE(made(), expected);
+    }
+
+    /// Qt's own texts come from its own translations.
+    void standardButtons()
+    {
+        QVERIFY(MTranslator::install("de"));
+        const QDialogButtonBox box(QDialogButtonBox::Cancel);
+        QCOMPARE(box.button(QDialogButtonBox::Cancel)->text(), QString("Abbrechen"));
     }
 
     void plurals_data() { addRows("plurals.tsv"); }
