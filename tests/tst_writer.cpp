@@ -6,6 +6,8 @@
 #include "manuscript/mrvmanuscriptreader.h"
 #include "manuscriptfile.h"
 #include "support.h"
+#include "update/mrvupdatemanager.h"
+#include "updates.h"
 #include "valueeditors.h"
 #include "writerfixture.h"
 #include "zip/mrvzipreader.h"
@@ -24,11 +26,18 @@
 
 using Id = MRVShortcut::Id;
 
+// Not in a namespace, as Qt's macro wants it.
+static void removeKey()
+{
+    Q_CLEANUP_RESOURCE(writer);
+}
+
 namespace {
 
 constexpr char SaveArgument[] = "--save"; // a path: types into the file, saves it and ends
 constexpr char KeepArgument[] = "--keep"; // a path: types into the file, and waits to be killed
 constexpr char RecoverArgument[] = "--recover"; // opens what was left behind, and waits as well
+constexpr char UpdatesArgument[] = "--updates"; // "key" or another word: says what checks there are
 
 /// Files cannot grow beyond a few bytes, as on a full disk.
 class FullDisk
@@ -90,9 +99,28 @@ QString textIn(const QString &path)
     return isWhole ? document.toPlainText() : "unreadable";
 }
 
+/// Starts the program with or without its maker's key; says where checks for updates come from.
+int tellUpdates(bool hasKey)
+{
+    if (!hasKey) {
+        removeKey();
+    }
+    Updates::checkAtStart();
+    if (qApp->findChild<MRVUpdateManager *>()) {
+        ::puts("start");
+    }
+    if (WriterWindow().findChild<QAction *>("CheckForUpdates")) {
+        ::puts("menu");
+    }
+    return 0;
+}
+
 /// The program as another process, which the test may kill.
 int runAsChild(const QString &what, const QString &path)
 {
+    if (what == UpdatesArgument) {
+        return tellUpdates(path == "key");
+    }
     auto *window = new WriterWindow;
     window->show();
     const auto tell = [](const char *state) {
@@ -625,6 +653,31 @@ private Q_SLOTS:
         QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(editor->toPlainText(), QString("Word"));
         QVERIFY(window->action(Id::Bold)->isChecked());
+    }
+
+    // Without a key of its maker the program checks only when it is asked to; one that a package
+    // has installed never does.
+    void updates_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<bool>("isPackaged");
+        QTest::addColumn<QString>("checks");
+        QTest::newRow("with a key") << "key" << false << "start\nmenu\n";
+        QTest::newRow("without") << "none" << false << "menu\n";
+        QTest::newRow("of a package") << "key" << true << QString();
+    }
+    void updates()
+    {
+        QFETCH(QString, key);
+        QFETCH(bool, isPackaged);
+        const QTemporaryDir folder;
+        const QString program = folder.filePath("bin/program");
+        QVERIFY(QDir(folder.path()).mkpath("bin") && QDir(folder.path()).mkpath("share/morvane"));
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QVERIFY(!isPackaged || writeBytes(folder.filePath("share/morvane/packaged"), "by a test"));
+        const Ran ran = run(program, {UpdatesArgument, key});
+        QVERIFY2(ran.exitCode == 0, qPrintable(ran.errors));
+        QTEST(ran.output, "checks");
     }
 
     void damagedFile()

@@ -1,10 +1,20 @@
 #pragma once
 
+#include <QCoreApplication>
+
 class QMenu;
 
-/** The update checks of the program: what MRVUpdateManager leaves to an application. */
+/**
+ * The update checks of the program: what MRVUpdateManager leaves to an application.
+ *
+ * A program that a package has installed is kept up to date by the system, and checks nothing. One
+ * that has its maker's key, the resource ":/updates/key.pub", checks by itself; one without a key
+ * does so only when the user asks for it.
+ */
 class Updates
 {
+    Q_DECLARE_TR_FUNCTIONS(Updates)
+
 public:
     Updates() = delete;
 
@@ -13,6 +23,6 @@ public:
      * called once the application has its names; the check is made some seconds later.
      */
     static void checkAtStart();
-    /** Adds the action "Check for Updates..." to a menu. */
+    /** Adds the action "Check for Updates..." to a menu, unless a package keeps the program. */
     static void addTo(QMenu *menu);
 };

@@ -557,6 +557,13 @@
     </message>
 </context>
 <context>
+    <name>Updates</name>
+    <message>
+        <source>&amp;Check for Updates...</source>
+        <translation>&amp;Buscar actualizaciones...</translation>
+    </message>
+</context>
+<context>
     <name>WriterWindow</name>
     <message>
         <source>The file cannot be opened.</source>
