@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QTimer>
 #include <QTranslator>
 
@@ -32,6 +33,11 @@ int main(int argc, char *argv[])
     QApplication::setApplicationDisplayName(QStringLiteral("Morvane Writer"));
     QApplication::setApplicationVersion(QStringLiteral(MRV_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("mrv-writer"));
+    if (!isQuestion) {
+        // Wayland finds the icon by the desktop file, X11 is told.
+        QApplication::setWindowIcon(QIcon::fromTheme(
+            QStringLiteral("mrv-writer"), QIcon(QStringLiteral(":/Writer/mrv-writer.svg"))));
+    }
 
     // Before anything else of the library: some texts stay in the language of their first use.
     const QString language = mrvOptions()->value(MRVOptions::GuiLanguage);
