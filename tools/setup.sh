@@ -28,8 +28,9 @@ mrv_packages() {
 # mrv_install SECTION...: installs what is missing of the sections' packages.
 mrv_install() {
     local section name installed missing=()
-    command -v dpkg-query > /dev/null && command -v apt-get > /dev/null \
-        || mrv_fail "this needs Debian 12 (apt-get was not found); packages.txt lists what to install"
+    if ! command -v dpkg-query > /dev/null || ! command -v apt-get > /dev/null; then
+        mrv_fail "this needs Debian 12 (apt-get was not found); packages.txt lists what to install"
+    fi
     # One question for all: dpkg-query takes its time, and complains of names that it never met.
     installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' 2> /dev/null || true) "
     for section in "$@"; do
