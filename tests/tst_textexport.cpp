@@ -284,13 +284,28 @@ private Q_SLOTS:
         MRVManuscript manuscript;
         QVERIFY2(reader.read(file, &manuscript), qPrintable(reader.errorString()));
         QCOMPARE(manuscript.pictures, QStringList(QFileInfo(written.first()).absoluteFilePath()));
+    }
 
-        QVERIFY(QDir(folder.path()).mkdir("b.md"));
-        QVERIFY(!MRVTextPublisher::writeMarkdown(document, {}, folder.filePath("b.md"), &written,
-                                                 &error));
-        QVERIFY(error.contains("b.md"));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-                 QStringList({"b.md", "sub"}));
+    // The picture is written before the file, which cannot be.
+    void failedFiles()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("b.md"));
+        QVERIFY(QDir(folder.path()).mkpath("b_files"));
+        QTextDocument document;
+        QImage image(2, 2, QImage::Format_RGB32);
+        document.addResource(QTextDocument::ImageResource, QUrl("mem"), image);
+        QTextCursor(&document).insertImage("mem");
+        for (const QString &file : {QString("b.md"), "sub/sub/c." + QString(255, 'c') + ".md"}) {
+            QStringList written;
+            QString error;
+            QVERIFY(!MRVTextPublisher::writeMarkdown(document, {}, folder.filePath(file), &written,
+                                                     &error));
+            QVERIFY2(error.contains(QFileInfo(file).fileName()), qPrintable(error));
+            QCOMPARE(written, QStringList());
+            QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+                     QStringList({"b.md", "b_files"}));
+        }
     }
 };
 

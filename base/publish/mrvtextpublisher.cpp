@@ -3,6 +3,7 @@
 #include "document/mrvdocumentpictures.h"
 #include "document/mrvpicturefiles.h"
 #include "document/mtextdoc.h"
+#include "publish/mrvnewfolders_p.h"
 #include "publish/mrvstagedfiles.h"
 #include "textexport/mrvmarkdownwriter.h"
 #include "util/mrvfailure.h"
@@ -13,8 +14,6 @@
 #include <QFileInfo>
 #include <QTextDocument>
 #include <QUrl>
-
-#include <cerrno>
 
 namespace {
 
@@ -36,7 +35,6 @@ public:
         for (const QString &path : created) {
             QFile::remove(path);
         }
-        m_base.rmdir(m_folder.path()); // where nothing else is in it
     }
     Pictures(const Pictures &) = delete;
     Pictures &operator=(const Pictures &) = delete;
@@ -45,8 +43,9 @@ public:
     {
         const MRVDocumentPictures pictures(document);
         const QVector<MRVDocumentPicture> all = pictures.all();
-        if (!all.isEmpty() && !m_base.mkpath(m_folder.path())) {
-            return MRV::fail(error, m_folder.path(), MRVError::ofSystem(errno));
+        if (!all.isEmpty()
+            && !m_newFolders.makeFor(m_folder.filePath(QStringLiteral("image")), error)) {
+            return false;
         }
         for (const MRVDocumentPicture &picture : all) {
             MRVError reason;
@@ -70,7 +69,11 @@ public:
 
     const QHash<QString, QString> &addresses() const { return m_addresses; }
     const QStringList &paths() const { return m_paths; }
-    void keep() { m_isKept = true; }
+    void keep()
+    {
+        m_isKept = true;
+        m_newFolders.keep();
+    }
 
 private:
     void setAddresses(const QTextDocument &document, const MRVDocumentPictures &pictures)
@@ -88,6 +91,7 @@ private:
 
     const QDir m_base;
     const QDir m_folder;
+    MRVNewFolders m_newFolders;
     MRVPictureFiles m_files;
     QStringList m_paths; // by picture
     QHash<QString, QString> m_addresses;

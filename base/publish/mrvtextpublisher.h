@@ -35,7 +35,7 @@ public:
      *                 were there already, and @p file. Untouched on failure.
      * @param error    receives one translated line that names a file on failure; untouched on
      *                 success.
-     * @return false on failure; pictures that were written before it are removed.
+     * @return false on failure; pictures and folders that were made before it are removed.
      */
     static bool writeMarkdown(const QTextDocument &document, const MRVMarkdownHead &head,
                               const QString &file, QStringList *written = nullptr,
