@@ -193,6 +193,10 @@ private Q_SLOTS:
         row("comment", "one two three", "comment 4-7 a", "1", "C1 4-7 a");
         row("word", "one two three", "add 5 a", "1", "F1 4-7 a");
         row("end-of-word", "one two", "add 7 a", "1", "F1 4-7 a");
+        row("after-blanks", "one two \t", "add 9 a", "1", "F1 4-7 a");
+        row("after-full-stop-and-blank", "one two. ", "add 9 a", "1", "F1 7-8 a");
+        row("between-blanks", "one  two", "add 4 a", "1", "F1 0-3 a");
+        row("only-blanks", "one|  ", "add 6 a", "1", "F1 5-6 a");
         row("no-text", "one||two", "add 4 a", "", "");
         row("only-paragraph-ends", "one||two", "add 3-5 a", "", "");
         row("beyond-paragraph", "one|two", "add 2-6 a", "1", "F1 2-6 a");
@@ -293,6 +297,31 @@ private Q_SLOTS:
         const QString all = document.toPlainText().replace('\n', '|');
         const MRVTextRange range = notes.first().range;
         QTEST(all.mid(range.start(), range.end() - range.start()), "noted");
+    }
+
+    void idsAreNew_data()
+    {
+        QTest::addColumn<QString>("id"); // of a note that is there
+        QTest::newRow("number") << "7";
+        QTest::newRow("32 bits") << "2147483647";
+        QTest::newRow("64 bits") << "9223372036854775807";
+        QTest::newRow("more") << "9223372036854775808";
+        QTest::newRow("text") << "a7";
+    }
+    void idsAreNew()
+    {
+        QFETCH(QString, id);
+        QTextDocument document("one two three");
+        QTextCharFormat format;
+        format.setProperty(MRVTextFormat::CommentData0, "a");
+        format.setProperty(MRVTextFormat::CommentData1, id);
+        cursorAt(&document, 0, 3).mergeCharFormat(format);
+        QSet<QString> ids{id};
+        for (const int place : {5, 9}) {
+            ids << Notes::add(cursorAt(&document, place, place), MRVMarginNote::Comment, "a");
+        }
+        QCOMPARE(ids.size(), 3);
+        QCOMPARE(Notes::all(&document).size(), 3);
     }
 
     void whatIsNoNoteStays()

@@ -77,28 +77,57 @@ QString normalised(QString text)
     return text;
 }
 
-// Also unlike those of text that an undo may bring back.
+// Also unlike those of text that an undo may bring back. Numbers go on from the highest id, unless
+// that is close to the end of what can be counted.
 QString freshId(const QTextDocument &document)
 {
+    constexpr qint64 Highest = 1000000000000000000;
     qint64 last = 0;
+    QSet<QString> known;
     const QVector<QTextFormat> formats = document.allFormats();
     for (const QTextFormat &format : formats) {
         const QString id = format.property(MRVTextFormat::CommentData1).toString();
-        last = qMax(last, qint64(id.toInt()));
+        const qint64 number = id.toLongLong();
+        last = number < Highest ? qMax(last, number) : last;
+        known.insert(id);
     }
-    return QString::number(last + 1);
+    QString id;
+    do {
+        id = QString::number(++last);
+    } while (known.contains(id));
+    return id;
 }
 
-// What a note is to be about.
+// Selects the word that the cursor is in or beside, else the character before it.
+void selectText(QTextCursor *cursor)
+{
+    cursor->select(QTextCursor::WordUnderCursor);
+    if (!cursor->hasSelection() && !cursor->atBlockStart()) {
+        cursor->movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    }
+}
+
+// What a note is to be about. Blanks at the cursor give way to the text before them.
 QVector<MRVTextRange> textFor(QTextCursor cursor)
 {
-    if (!cursor.hasSelection()) {
-        cursor.select(QTextCursor::WordUnderCursor);
+    if (cursor.hasSelection()) {
+        return MRVTextCursor::selectedRanges(cursor);
     }
-    if (!cursor.hasSelection() && !cursor.atBlockStart()) {
-        cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    QTextCursor text = cursor;
+    selectText(&text);
+    if (text.selectedText().trimmed().isEmpty()) {
+        const QTextDocument &document = *cursor.document();
+        const int begin = cursor.block().position();
+        int position = cursor.position();
+        while (position > begin && document.characterAt(position - 1).isSpace()) {
+            --position;
+        }
+        if (position > begin) {
+            text.setPosition(position);
+            selectText(&text);
+        }
     }
-    return MRVTextCursor::selectedRanges(cursor);
+    return MRVTextCursor::selectedRanges(text);
 }
 
 // The parts of ranges outside of pieces, both in document order.

@@ -51,7 +51,8 @@ public:
 
     /**
      * Adds a note to the selected text or, without a selection, to the word at the cursor or the
-     * character before it.
+     * character before it. After blanks, these are the ones before the blanks, if the paragraph has
+     * any.
      *
      * Other notes give way as long as they keep some of their text. One that would lose all of it
      * stays, and the new note is about what else is selected.
