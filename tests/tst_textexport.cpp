@@ -31,6 +31,41 @@ QStringList meaningOf(const QString &text, MRVManuscript::Format format)
     return documentMeaning(*manuscript.document);
 }
 
+std::unique_ptr<QTextDocument> fromMarkdown(const QString &text)
+{
+    MRVManuscriptReader reader;
+    reader.setFormat(MRVManuscript::Markdown);
+    reader.setPurpose(MRVManuscriptReader::Editing);
+    reader.setLoadsPictures(false);
+    MRVManuscript manuscript;
+    reader.readBytes(text.toUtf8(), "text", QString(), &manuscript);
+    return std::move(manuscript.document);
+}
+
+/// "C 0-3 text, F 4-7 other": notes to add to the margin.
+void addNotes(QTextDocument *document, const QString &notes)
+{
+    for (const QString &note : notes.split(", ")) {
+        const QString place = note.section(' ', 1, 1);
+        QTextCursor cursor(document);
+        cursor.setPosition(place.section('-', 0, 0).toInt());
+        cursor.setPosition(place.section('-', 1).toInt(), QTextCursor::KeepAnchor);
+        const auto kind = note.at(0) == 'C' ? MRVMarginNote::Comment : MRVMarginNote::Footnote;
+        MRVMarginNotes::add(cursor, kind, note.section(' ', 2), "Ann");
+    }
+}
+
+/// The comments in the margin, as addNotes() takes them.
+QString commentsOf(const QTextDocument &document)
+{
+    QStringList comments;
+    for (const MRVMarginNote &note : MRVMarginNotes::all(&document)) {
+        comments
+            << QString("C %1-%2 %3").arg(note.range.start()).arg(note.range.end()).arg(note.text);
+    }
+    return comments.join(", ");
+}
+
 /// Whether the plain text of a document has its words in their order.
 bool hasWords(const QTextDocument &document)
 {
@@ -224,6 +259,50 @@ private Q_SLOTS:
                  "one[^1] two\n\nthree\n\n[^1]: first\n\n    \\[second\\]\n");
         QCOMPARE(MRVPlainTextWriter(*document).text(),
                  "one[1] two\n\nthree\n\n[1] first\n\n[second]\n");
+    }
+
+    // Comments of Markdown that is read again, with a bar at the end of each paragraph.
+    void comments_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("notes");
+        QTest::addColumn<QString>("readText");
+        QTest::addColumn<QString>("readNotes");
+        const auto row = [](const char *name, const char *text, const char *notes,
+                            const char *readText, const char *readNotes) {
+            QTest::newRow(name) << text << notes << readText << readNotes;
+        };
+        row("last blank", "one two ", "C 7-8 a", "one two", "C 6-7 a");
+        row("last blanks of two comments", "one  ", "C 3-4 a, C 4-5 b", "one \u00a0",
+            "C 2-3 a, C 3-5 b");
+        row("last blank of a line", "one \u2028two", "C 3-4 a", "one\u2028two", "C 2-3 a");
+        row("after another comment", "one ", "C 0-3 a, C 3-4 b", "one\u00a0", "C 0-3 a, C 3-4 b");
+        row("only a blank", "one| |two", "C 4-5 a", "one|\u00a0|two", "C 4-5 a");
+        row("last blank and more", "one |two", "C 3-8 a", "one|two", "C 4-7 a");
+        row("more and last blank", "one |two", "C 2-4 a", "one|two", "C 2-3 a");
+        row("paragraphs", "one|two", "C 0-7 a", "one|two", "C 0-7 a");
+        row("empty paragraphs", "one|||two", "C 0-9 a", "one|||two", "C 0-9 a");
+        row("empty and blank paragraphs", "one|| |two", "C 0-9 a", "one|||two", "C 0-8 a");
+        row("around a footnote", "one two three", "C 0-13 a, F 4-7 b", "one two1 three|b ↩",
+            "C 0-14 a");
+        row("up to a footnote", "one two", "C 0-4 a, F 4-7 b", "one two1|b ↩", "C 0-3 a");
+        row("the same twice", "one|two|three", "C 0-3 a, C 8-13 a", "one|two|three",
+            "C 0-3 a, C 8-13 a");
+        row("around another", "one two three", "C 0-13 a, C 4-6 b", "one two three",
+            "C 0-13 a, C 3-6 b");
+    }
+    void comments()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, notes);
+        QTextDocument document;
+        QTextCursor(&document).insertText(text.replace('|', '\n'));
+        addNotes(&document, notes);
+        const QString markdown = MRVMarkdownWriter(document).text();
+        const auto read = fromMarkdown(markdown);
+        MRVMarginNotes::toParagraphs(read.get(), MRVMarginNote::Footnote);
+        QTEST(read->toRawText().replace(QChar::ParagraphSeparator, '|'), "readText");
+        QTEST(commentsOf(*read), "readNotes");
     }
 
     void notesWithinText()

@@ -77,25 +77,38 @@ int MRVInlinePieces::commentOf(const QTextFormat &format)
         || format.boolProperty(MRVTextFormat::InspectorFootnoteProperty)) {
         return -1;
     }
+    const QString id = format.property(MRVTextFormat::CommentData1).toString();
     const QStringList origin = format.property(MRVTextFormat::CommentData2).toStringList();
-    const MRVInlineComment comment{format.stringProperty(MRVTextFormat::CommentData1) + u'\n'
-                                       + text,
-                                   text, origin.value(0), origin.value(1)};
-    const auto known = m_commentIndexes.constFind(comment.key);
+    const QStringList key{id, text, origin.value(0), origin.value(1)};
+    const auto known = m_commentIndexes.constFind(key);
     if (known != m_commentIndexes.constEnd()) {
         return *known;
     }
-    m_commentIndexes.insert(comment.key, m_comments.size());
-    m_comments.append(comment);
+    m_commentIndexes.insert(key, m_comments.size());
+    m_comments.append({!id.isEmpty(), text, origin.value(0), origin.value(1)});
     return m_comments.size() - 1;
 }
 
-int MRVInlinePieces::firstComment(int paragraph)
+int MRVInlinePieces::commentAfter(int paragraph)
 {
-    const int first = m_flow.paragraphs.at(paragraph).firstFragment;
-    return first < m_flow.paragraphs.at(paragraph + 1).firstFragment
-        ? formatOf(m_flow.fragments.at(first).format).comment
-        : -1;
+    if (m_firstComments.isEmpty()) {
+        readFirstComments();
+    }
+    const int next = paragraph + 1;
+    const bool isAdjacent =
+        next < m_flow.count() && m_notes.hasMoved(next) == m_notes.hasMoved(paragraph);
+    return isAdjacent ? m_firstComments.at(next) : -1;
+}
+
+void MRVInlinePieces::readFirstComments()
+{
+    m_firstComments.resize(m_flow.count());
+    for (int i = m_flow.count() - 1; i >= 0; --i) {
+        const int first = m_flow.paragraphs.at(i).firstFragment;
+        const bool isEmpty = first == m_flow.paragraphs.at(i + 1).firstFragment;
+        m_firstComments[i] =
+            isEmpty ? commentAfter(i) : formatOf(m_flow.fragments.at(first).format).comment;
+    }
 }
 
 QVector<MRVInlinePiece> MRVInlinePieces::of(int paragraph)

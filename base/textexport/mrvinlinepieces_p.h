@@ -29,7 +29,7 @@ unsigned mrvInlineMarks(const QTextCharFormat &format);
 /** A comment in the margin. */
 struct MRVInlineComment
 {
-    QString key; ///< by which its text belongs together; empty for none
+    bool hasId; ///< by which its text belongs together; without one, only adjacent text does
     QString text; ///< a line a paragraph
     QString author;
     QString date;
@@ -49,6 +49,7 @@ struct MRVInlinePiece
     int note = -1; ///< of a mark
     QStringList names; ///< of anchors at its beginning
     int comment = -1; ///< an index into MRVInlinePieces::comments()
+    bool isKept = false; ///< a blank that is not to be taken for the end of a line
 };
 
 /** Takes paragraphs apart. */
@@ -67,8 +68,8 @@ public:
 
     /** Those that were met, in order. */
     const QVector<MRVInlineComment> &comments() const { return m_comments; }
-    /** The comment of the first text of a paragraph; -1 without one. */
-    int firstComment(int paragraph);
+    /** The comment of the first text after a paragraph; -1 without one. Notes have their own. */
+    int commentAfter(int paragraph);
     /** Whether a piece begins with what most formats do not show in. */
     bool isBlank(const MRVInlinePiece &piece) const;
 
@@ -85,6 +86,7 @@ private:
 
     const Format &formatOf(int index);
     int commentOf(const QTextFormat &format);
+    void readFirstComments();
     QVector<MRVInlinePiece> read(int paragraph, int begin, int end, bool hasCuts);
     void addText(int begin, int end, const MRVInlinePiece &like,
                  QVector<MRVInlinePiece> *pieces) const;
@@ -94,5 +96,6 @@ private:
     const MRVTextNotes &m_notes;
     QVector<Format> m_formats;
     QVector<MRVInlineComment> m_comments;
-    QHash<QString, int> m_commentIndexes; // by key
+    QHash<QStringList, int> m_commentIndexes; // by what formats say of them
+    QVector<int> m_firstComments; // by paragraph, of its first text or the first one after it
 };

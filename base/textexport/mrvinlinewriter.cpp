@@ -108,10 +108,7 @@ QString MRVInlineWriter::paragraph(int number, Place place)
     if (!pieces.isEmpty()) {
         settleNames(number, pieces, &pieces.first().names);
     }
-    const int next = number + 1;
-    const bool isAdjacent =
-        next < m_flow.count() && m_notes.hasMoved(next) == m_notes.hasMoved(number);
-    return write(std::move(pieces), place, isAdjacent ? m_pieces.firstComment(next) : -1);
+    return write(std::move(pieces), place, m_pieces.commentAfter(number));
 }
 
 QString MRVInlineWriter::part(int begin, int end)
@@ -155,8 +152,9 @@ QString MRVInlineWriter::write(QVector<MRVInlinePiece> pieces, Place place, int 
     m_spans.clear();
     m_atLineStart = place != CodeHtml;
     if (place != CodeHtml) {
-        trim(&pieces);
+        trim(nextComment, &pieces);
     }
+    joinComments(nextComment, &pieces);
     const bool isBold = place == Heading || place == HeaderCell || place == HeaderHtml;
     const unsigned implied = isBold ? MRVStrongMark : place == CodeHtml ? MRVCodeMark : 0U;
     for (MRVInlinePiece &piece : pieces) {
@@ -182,25 +180,75 @@ QString MRVInlineWriter::write(QVector<MRVInlinePiece> pieces, Place place, int 
     return place == Lines && tag.match(text).hasMatch() ? text + QLatin1String("<!-- -->") : text;
 }
 
-// Blanks at the ends of lines have no meaning that could be written.
-void MRVInlineWriter::trim(QVector<MRVInlinePiece> *pieces) const
+// Blanks at the ends of lines have no meaning that could be written, unless it is a comment.
+void MRVInlineWriter::trim(int nextComment, QVector<MRVInlinePiece> *pieces) const
 {
-    const auto isText = [](const MRVInlinePiece &piece) {
-        return piece.kind == MRVInlinePiece::Text;
-    };
-    const auto atEndOfLine = [pieces](int index) {
-        return index == pieces->size() || pieces->at(index).kind == MRVInlinePiece::LineEnd;
-    };
+    QVector<MRVInlinePiece> kept; // from the last to the first
+    bool isAtEnd = true; // of a line
     for (int i = pieces->size() - 1; i >= 0; --i) {
-        MRVInlinePiece &piece = (*pieces)[i];
-        if (isText(piece) && atEndOfLine(i + 1)) {
+        MRVInlinePiece piece = pieces->at(i);
+        if (piece.kind == MRVInlinePiece::Text && isAtEnd) {
             while (piece.end > piece.begin && isCollapsed(m_flow.text.at(piece.end - 1))) {
                 --piece.end;
             }
-            if (piece.end == piece.begin && piece.names.isEmpty()) {
-                pieces->remove(i);
+            isAtEnd = piece.begin == piece.end;
+            const int next = kept.isEmpty() ? nextComment : kept.constLast().comment;
+            if (isAtEnd && !keepComment(*pieces, i, next, &piece) && piece.names.isEmpty()) {
+                continue;
             }
+            isAtEnd = isAtEnd && !piece.isKept;
+        } else {
+            isAtEnd = piece.kind == MRVInlinePiece::LineEnd;
         }
+        kept.append(piece);
+    }
+    std::reverse(kept.begin(), kept.end());
+    *pieces = kept;
+}
+
+// A blank whose comment is on nothing else stays: without its text where the comment is read as one
+// on the character before, else as a blank that ends no line.
+bool MRVInlineWriter::keepComment(const QVector<MRVInlinePiece> &pieces, int index, int nextComment,
+                                  MRVInlinePiece *blank) const
+{
+    const int comment = blank->comment;
+    const int before = index > 0 ? pieces.at(index - 1).comment : m_comment;
+    if (comment < 0 || comment == before || comment == nextComment) {
+        return false;
+    }
+    const auto isTrimmed = [this](const MRVInlinePiece &piece) {
+        const QStringView text = QStringView(m_flow.text).mid(piece.begin, piece.end - piece.begin);
+        return piece.kind == MRVInlinePiece::Text
+            && std::all_of(text.begin(), text.end(), isCollapsed);
+    };
+    int last = index - 1;
+    while (last >= 0 && isTrimmed(pieces.at(last)) && pieces.at(last).comment < 0) {
+        --last;
+    }
+    const bool hasCharacter = last >= 0 && pieces.at(last).comment < 0
+        && (pieces.at(last).kind == MRVInlinePiece::Text
+            || pieces.at(last).kind == MRVInlinePiece::Picture);
+    blank->isKept = !hasCharacter;
+    blank->end = hasCharacter ? blank->begin : blank->begin + 1;
+    return true;
+}
+
+// Marks of notes belong to the comment around them, which would be two without them.
+void MRVInlineWriter::joinComments(int nextComment, QVector<MRVInlinePiece> *pieces) const
+{
+    int next = nextComment;
+    for (auto piece = pieces->rbegin(); piece != pieces->rend(); ++piece) {
+        if (piece->kind == MRVInlinePiece::NoteMark) {
+            piece->comment = next;
+        }
+        next = piece->comment;
+    }
+    int before = m_comment;
+    for (MRVInlinePiece &piece : *pieces) {
+        if (piece.kind == MRVInlinePiece::NoteMark && piece.comment != before) {
+            piece.comment = -1;
+        }
+        before = piece.comment;
     }
 }
 
@@ -273,12 +321,17 @@ void MRVInlineWriter::moveToComment(int comment)
         return;
     }
     if (m_comment >= 0) {
-        append(QStringLiteral("<mrv-comment end=\"%1\"></mrv-comment>").arg(m_commentCount));
+        append(QStringLiteral("<mrv-comment end=\"%1\"></mrv-comment>")
+                   .arg(m_commentNumbers.value(m_comment)));
     }
     m_comment = comment;
     if (comment >= 0) {
         const MRVInlineComment &begun = m_pieces.comments().at(comment);
-        QString tag = QStringLiteral("<mrv-comment begin=\"%1\"").arg(++m_commentCount);
+        if (!begun.hasId || !m_commentNumbers.contains(comment)) {
+            m_commentNumbers.insert(comment, ++m_commentCount);
+        }
+        QString tag =
+            QStringLiteral("<mrv-comment begin=\"%1\"").arg(m_commentNumbers.value(comment));
         tag += begun.author.isEmpty() ? QString() : attribute("author", begun.author);
         tag += begun.date.isEmpty() ? QString() : attribute("date", begun.date);
         append(tag + attribute("text", begun.text) + QLatin1String("></mrv-comment>"));
@@ -311,6 +364,10 @@ void MRVInlineWriter::writePiece(const QVector<MRVInlinePiece> &pieces, int inde
 void MRVInlineWriter::writeText(const QVector<MRVInlinePiece> &pieces, int index)
 {
     const MRVInlinePiece &piece = pieces.at(index);
+    if (piece.isKept) {
+        append(QStringLiteral("&nbsp;"));
+        return;
+    }
     int begin = piece.begin;
     if (m_atLineStart) { // blanks would not be read, or begin code
         while (begin < piece.end && isCollapsed(m_flow.text.at(begin))) {

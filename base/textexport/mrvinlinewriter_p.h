@@ -54,7 +54,10 @@ private:
 
     QString write(QVector<MRVInlinePiece> pieces, Place place, int nextComment);
     void settleNames(int number, const QVector<MRVInlinePiece> &pieces, QStringList *names);
-    void trim(QVector<MRVInlinePiece> *pieces) const;
+    void trim(int nextComment, QVector<MRVInlinePiece> *pieces) const;
+    bool keepComment(const QVector<MRVInlinePiece> &pieces, int index, int nextComment,
+                     MRVInlinePiece *blank) const;
+    void joinComments(int nextComment, QVector<MRVInlinePiece> *pieces) const;
     static QVector<Ends> endsOf(const QVector<MRVInlinePiece> &pieces);
     void moveTo(const MRVInlinePiece &piece, const Ends &ends);
     bool goesOn(const Span &span, const MRVInlinePiece &piece, const Ends &ends) const;
@@ -96,4 +99,5 @@ private:
     MRVHeadingIds m_headingIds;
     int m_comment = -1; // that is open
     int m_commentCount = 0;
+    QHash<int, int> m_commentNumbers; // the last one that each comment got
 };
