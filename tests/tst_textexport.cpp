@@ -5,6 +5,7 @@
 #include "html/mrvhtmldocument.h"
 #include "manuscript/mrvmanuscriptreader.h"
 #include "publish/mrvtextpublisher.h"
+#include "support.h"
 #include "textexport/mrvdocumentlosses.h"
 #include "textexport/mrvmarkdownwriter.h"
 #include "textexport/mrvplaintextwriter.h"
@@ -316,6 +317,28 @@ private Q_SLOTS:
         note.setFontItalic(true);
         cursor.mergeCharFormat(note);
         QCOMPARE(MRVMarkdownWriter(*document).text(), "a [^1] c\n\n[^1]: *b*\n");
+    }
+
+    // Minutes, unless the time is linear in the notes of a paragraph.
+    void manyNotesWithinText()
+    {
+        QTextDocument document;
+        document.setUndoRedoEnabled(false);
+        QTextCursor cursor(&document);
+        cursor.beginEditBlock();
+        QTextCharFormat note;
+        note.setProperty(MRVTextFormat::InlineFootnoteProperty, true);
+        for (int i = 0; i < 40000; ++i) {
+            cursor.insertText("a ", QTextCharFormat());
+            cursor.insertText("b", note);
+        }
+        cursor.endEditBlock();
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(MRVMarkdownWriter(document).text().endsWith("[^40000]: b\n"));
+        QVERIFY(MRVPlainTextWriter(document).text().endsWith("[40000] b\n"));
+        QVERIFY2(timer.elapsed() < 5000 * SanitizerTime,
+                 qPrintable(QString::number(timer.elapsed())));
     }
 
     // Editors take what is typed right after a link into it.

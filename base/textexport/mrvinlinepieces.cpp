@@ -114,24 +114,26 @@ void MRVInlinePieces::readFirstComments()
 QVector<MRVInlinePiece> MRVInlinePieces::of(int paragraph)
 {
     const MRVFlowParagraph &flow = m_flow.paragraphs.at(paragraph);
-    return read(paragraph, flow.position, flow.position + flow.length, true);
+    return read(flow.firstFragment, flow.position, flow.position + flow.length,
+                m_notes.cutAt(flow.position), m_notes.cuts().constEnd());
 }
 
-QVector<MRVInlinePiece> MRVInlinePieces::of(int begin, int end)
+QVector<MRVInlinePiece> MRVInlinePieces::of(const MRVTextNote &note)
 {
-    return read(m_flow.paragraphAt(begin), begin, end, false);
+    const Cuts none = m_notes.cuts().constEnd();
+    return read(note.firstFragment, note.begin, note.end, none, none);
 }
 
-QVector<MRVInlinePiece> MRVInlinePieces::read(int paragraph, int begin, int end, bool hasCuts)
+QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int end, Cuts cut,
+                                              Cuts endCut)
 {
     QVector<MRVInlinePiece> pieces;
-    auto cut = hasCuts ? m_notes.cutAt(begin) : m_notes.cuts().constEnd();
     auto link =
         std::lower_bound(m_flow.links.begin(), m_flow.links.end(), begin,
                          [](const MRVFlowLink &one, int place) { return one.end <= place; });
     const auto takeCuts = [&](int at) {
         int past = at;
-        for (; cut != m_notes.cuts().constEnd() && cut->begin <= at && cut->begin <= end; ++cut) {
+        for (; cut != endCut && cut->begin <= at && cut->begin <= end; ++cut) {
             if (cut->note >= 0) {
                 MRVInlinePiece mark;
                 mark.kind = MRVInlinePiece::NoteMark;
@@ -143,10 +145,9 @@ QVector<MRVInlinePiece> MRVInlinePieces::read(int paragraph, int begin, int end,
         }
         return past;
     };
-    int at = m_flow.paragraphs.at(paragraph).position;
+    int at = begin;
     int skipped = begin;
-    const int endFragment = m_flow.paragraphs.at(paragraph + 1).firstFragment;
-    for (int i = m_flow.paragraphs.at(paragraph).firstFragment; i < endFragment; ++i) {
+    for (int i = firstFragment; at < end; ++i) {
         const MRVFlowFragment &fragment = m_flow.fragments.at(i);
         const Format &format = formatOf(fragment.format);
         const int last = qMin(at + fragment.length, end);
@@ -162,7 +163,7 @@ QVector<MRVInlinePiece> MRVInlinePieces::read(int paragraph, int begin, int end,
         like.names = format.names;
         for (int from = qMax(at, skipped); from < last; from = qMax(from, skipped)) {
             skipped = qMax(skipped, takeCuts(from));
-            const int to = cut != m_notes.cuts().constEnd() ? qMin(last, cut->begin) : last;
+            const int to = cut != endCut ? qMin(last, cut->begin) : last;
             if (skipped <= from && to > from) {
                 addText(from, to, like, &pieces);
                 like.names.clear();

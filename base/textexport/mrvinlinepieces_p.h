@@ -63,8 +63,8 @@ public:
      * middle of a piece.
      */
     QVector<MRVInlinePiece> of(int paragraph);
-    /** The same for a part of a paragraph, with nothing cut out. */
-    QVector<MRVInlinePiece> of(int begin, int end);
+    /** The same for a note that stands in the text. */
+    QVector<MRVInlinePiece> of(const MRVTextNote &note);
 
     /** Those that were met, in order. */
     const QVector<MRVInlineComment> &comments() const { return m_comments; }
@@ -87,7 +87,8 @@ private:
     const Format &formatOf(int index);
     int commentOf(const QTextFormat &format);
     void readFirstComments();
-    QVector<MRVInlinePiece> read(int paragraph, int begin, int end, bool hasCuts);
+    using Cuts = QVector<MRVTextCut>::const_iterator;
+    QVector<MRVInlinePiece> read(int firstFragment, int begin, int end, Cuts cut, Cuts endCut);
     void addText(int begin, int end, const MRVInlinePiece &like,
                  QVector<MRVInlinePiece> *pieces) const;
     void settleBlanks(QVector<MRVInlinePiece> *pieces) const;

@@ -111,9 +111,9 @@ QString MRVInlineWriter::paragraph(int number, Place place)
     return write(std::move(pieces), place, m_pieces.commentAfter(number));
 }
 
-QString MRVInlineWriter::part(int begin, int end)
+QString MRVInlineWriter::note(const MRVTextNote &note)
 {
-    return write(m_pieces.of(begin, end), Lines, -1);
+    return write(m_pieces.of(note), Lines, -1);
 }
 
 bool MRVInlineWriter::isPlain(int number)

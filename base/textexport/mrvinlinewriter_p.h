@@ -30,8 +30,8 @@ public:
 
     /** One paragraph; its lines are separated by line feeds. Empty for one without text. */
     QString paragraph(int number, Place place);
-    /** A part of a paragraph, with nothing cut out. */
-    QString part(int begin, int end);
+    /** A note that stands in the text. */
+    QString note(const MRVTextNote &note);
     /** Whether a paragraph is text and nothing else, but for what code is. */
     bool isPlain(int number);
 

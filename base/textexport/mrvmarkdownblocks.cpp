@@ -228,7 +228,7 @@ void MRVMarkdownBlocks::writeNotes()
             continue;
         }
         m_containers.append(container);
-        const QStringList lines = m_inline.part(note.begin, note.end).split(u'\n');
+        const QStringList lines = m_inline.note(note).split(u'\n');
         std::for_each(lines.begin(), lines.end(), [this](const QString &one) { line(one); });
         m_containers.removeLast();
         m_begun = 0;

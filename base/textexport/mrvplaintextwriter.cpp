@@ -164,7 +164,7 @@ private:
         if (note.firstParagraph >= 0) {
             writeChildren(m_blocks.note(note), true);
         } else {
-            lines(textOf(m_pieces.of(note.begin, note.end)));
+            lines(textOf(m_pieces.of(note)));
         }
     }
 

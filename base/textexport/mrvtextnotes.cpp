@@ -147,6 +147,7 @@ private:
                 MRVTextNote note;
                 note.begin = at;
                 note.end = end;
+                note.firstFragment = i;
                 notes.m_cuts.append({at, end, notes.m_notes.size()});
                 notes.m_notes.append(note);
             }

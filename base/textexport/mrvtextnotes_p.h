@@ -13,6 +13,7 @@ struct MRVTextNote
     int endParagraph = -1;
     int begin = -1; ///< of a note that stands in the text
     int end = -1;
+    int firstFragment = -1; ///< an index into MRVDocumentFlow::fragments
 };
 
 /** Text of a document that is not written in its place. */
