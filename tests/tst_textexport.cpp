@@ -2,6 +2,7 @@
 #include "documentmeaning.h"
 
 #include "document/mrvmarginnotes.h"
+#include "document/mrvnotefinder.h"
 #include "html/mrvhtmldocument.h"
 #include "manuscript/mrvmanuscriptreader.h"
 #include "publish/mrvtextpublisher.h"
@@ -46,7 +47,7 @@ std::unique_ptr<QTextDocument> fromMarkdown(const QString &text)
 /// "C 0-3 text, F 4-7 other": notes to add to the margin.
 void addNotes(QTextDocument *document, const QString &notes)
 {
-    for (const QString &note : notes.split(", ")) {
+    for (const QString &note : notes.split(", ", Qt::SkipEmptyParts)) {
         const QString place = note.section(' ', 1, 1);
         QTextCursor cursor(document);
         cursor.setPosition(place.section('-', 0, 0).toInt());
@@ -306,17 +307,76 @@ private Q_SLOTS:
         QTEST(commentsOf(*read), "readNotes");
     }
 
+    void notesWithinText_data()
+    {
+        QTest::addColumn<QString>("html"); // with braces around notes
+        QTest::addColumn<QString>("margin");
+        QTest::addColumn<QString>("markdown");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("losses"); // of Markdown
+        const auto row = [](const char *name, const char *html, const char *margin,
+                            const char *markdown, const char *text, const char *losses) {
+            QTest::newRow(name) << html << margin << markdown << text << losses;
+        };
+        const char *moved = "Footnotes within the text, which become others: 1";
+        const char *inBrackets = "Footnotes within the text, which become text in brackets: 1";
+        row("paragraph", "<p>a {<i>b</i>} c</p>", "", "a [^1] c\n\n[^1]: *b*", "a [1] c\n\n[1] b",
+            moved);
+        row("cell", "<table><thead><tr><th>a{<i>b</i> c}d</th></tr></thead></table>", "",
+            "| a \\[*b* c\\] d |\n| :-- |", "\n\na [b c] d\n\n", inBrackets);
+        row("cell alone", "<table><tr><td><p>{b}</p><p>c {d}.</p></td></tr></table>", "",
+            "<table>\n<tr><td><p>[b]</p><p>c [d].</p></td></tr>\n</table>", "\n\n[b] c [d].\n\n",
+            "Footnotes within the text, which become text in brackets: 2");
+        row("code", "<pre>a{b}</pre>", "", "<pre>a [b]</pre>", "a[1]\n\n[1] b", inBrackets);
+        row("note",
+            "<p>a<sup><a href='#fn-x' id='fnref-x'>1</a></sup></p><ol><li id='fn-x'><p>d{e} "
+            "<a href='#fnref-x'>↩</a></p></li></ol>",
+            "", "a[^x]\n\n[^x]: d \\[e\\]", "a[x]\n\n[x] d [e]", inBrackets);
+        row("with a note", "<p>a {b c} d {e}</p>", "F 2-3 f",
+            "a [^1] d [^3]\n\n[^1]: b[^2] c\n\n[^2]: f\n\n[^3]: e",
+            "a [1] d [3]\n\n[1] b[2] c\n\n[2] f\n\n[3] e",
+            "Footnotes within the text, which become others: 2; "
+            "Footnotes in the margin, which go to the end: 1");
+        row("within a comment", "<p>a {b} c</p>", "C 0-5 f",
+            "<mrv-comment begin=\"1\" author=\"Ann\" text=\"f\"></mrv-comment>a [^1] "
+            "c<mrv-comment end=\"1\"></mrv-comment>\n\n[^1]: b",
+            "a [1] c\n\n[1] b", moved);
+    }
     void notesWithinText()
     {
-        const auto document = fromHtml("<p>a b c</p>");
-        QTextCursor cursor(document->begin());
-        cursor.movePosition(QTextCursor::NextWord);
-        cursor.movePosition(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+        QFETCH(QString, margin);
+        QFETCH(QString, html);
+        const auto document = fromHtml(html);
         QTextCharFormat note;
         note.setProperty(MRVTextFormat::InlineFootnoteProperty, true);
-        note.setFontItalic(true);
-        cursor.mergeCharFormat(note);
-        QCOMPARE(MRVMarkdownWriter(*document).text(), "a [^1] c\n\n[^1]: *b*\n");
+        for (auto begin = document->find("{"); !begin.isNull(); begin = document->find("{")) {
+            begin.removeSelectedText();
+            QTextCursor end = document->find("}", begin);
+            end.removeSelectedText();
+            begin.setPosition(end.position(), QTextCursor::KeepAnchor);
+            begin.mergeCharFormat(note);
+        }
+        addNotes(document.get(), margin);
+        const auto losses = MRVDocumentLosses::of(*document, MRVDocumentLosses::Markdown);
+        QTEST(MRVMarkdownWriter(*document).text().chopped(1), "markdown");
+        QTEST(MRVPlainTextWriter(*document).text().chopped(1), "text");
+        QTEST(losses.join("; "), "losses");
+    }
+
+    // Marks of Markdown are text there.
+    void notesOfCode()
+    {
+        const auto document = fromHtml("<pre>aa bb</pre><p>cc</p>");
+        addNotes(document.get(), "F 0-2 one, F 6-8 two");
+        const QString markdown = MRVMarkdownWriter(*document).text();
+        QVERIFY2(markdown.contains("cc[^1]\n"), qPrintable(markdown));
+        const auto read = fromMarkdown(markdown);
+        const MRVDocumentFlow flow(*read);
+        const QVector<MRVMarkedNote> notes = MRVNoteFinder(flow).notes();
+        QCOMPARE(notes.size(), 2);
+        QCOMPARE(flow.text.mid(notes.at(0).marks.value(0) - 2, 3), "aa1");
+        QVERIFY(flow.textOf(flow.paragraphs.at(notes.at(0).begin)).endsWith(QString("one")));
+        QCOMPARE(MRVPlainTextWriter(*document).text(), "aa[1] bb\n\ncc[2]\n\n[1] one\n\n[2] two\n");
     }
 
     // Minutes, unless the time is linear in the notes of a paragraph.
@@ -348,7 +408,7 @@ private Q_SLOTS:
         document.setHtml(
             "<p>a<sup><a href='#fn-x' id='fnref-x'>1</a></sup></p><ol><li id='fn-x'><p>e "
             "<a href='#fnref-x'>↩ f g</a></p></li></ol>");
-        QVERIFY(MRVMarkdownWriter(document).text().contains("[^x]: e[ f g]"));
+        QVERIFY(MRVMarkdownWriter(document).text().endsWith("[^x]: e f g\n"));
         QVERIFY(MRVPlainTextWriter(document).text().endsWith("e f g\n"));
     }
 

@@ -28,6 +28,8 @@ enum Feature {
     Revisions,
     Annotations,
     InlineNotes,
+    MovedNotes,
+    NotesInBrackets,
     Comments,
     Footnotes,
     Styles,
@@ -70,7 +72,9 @@ constexpr Row rows[] = {
     {Languages,    Html | Markdown | PlainText | Script,QT_TRANSLATE_NOOP("MRVDocumentLosses", "Languages of text: %1")},
     {Revisions,    Html | Markdown | PlainText | Script,QT_TRANSLATE_NOOP("MRVDocumentLosses", "Marks of revisions: %1")},
     {Annotations,  Html | Markdown | PlainText,         QT_TRANSLATE_NOOP("MRVDocumentLosses", "Annotations, which become text: %1")},
-    {InlineNotes,  Html | Markdown | PlainText,         QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes within the text, which become others: %1")},
+    {InlineNotes,  Html,                                QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes within the text, which become others: %1")},
+    {MovedNotes,   Markdown | PlainText,                QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes within the text, which become others: %1")},
+    {NotesInBrackets, Markdown | PlainText,             QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes within the text, which become text in brackets: %1")},
     {Comments,     Html | PlainText,                    QT_TRANSLATE_NOOP("MRVDocumentLosses", "Comments: %1")},
     {Footnotes,    Html | Markdown | PlainText,         QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes in the margin, which go to the end: %1")},
     {Styles,       PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Bold, italic and other styles of text: %1")},
@@ -177,6 +181,33 @@ Features featuresOfParagraph(const QTextBlockFormat &format, const MRVFlowParagr
     found.add(PageBreaks, format.pageBreakPolicy() != QTextFormat::PageBreak_Auto);
     found.add(Backgrounds, format.background().style() != Qt::NoBrush);
     return found.bits();
+}
+
+// What becomes of notes within the text depends on where they stand.
+void countNotes(const MRVDocumentFlow &flow, const MRVTextNotes &notes, Counter *counter)
+{
+    QHash<int, bool> known; // whether text of a format is a note
+    for (int i = 0; i < flow.count(); ++i) {
+        int at = flow.paragraphs.at(i).position;
+        const int end = flow.paragraphs.at(i + 1).firstFragment;
+        for (int k = flow.paragraphs.at(i).firstFragment; k < end; ++k) {
+            const int format = flow.fragments.at(k).format;
+            auto isNote = known.constFind(format);
+            if (isNote == known.constEnd()) {
+                isNote = known.insert(
+                    format,
+                    flow.formats.at(format).boolProperty(MRVTextFormat::InlineFootnoteProperty));
+            }
+            const auto cut = notes.cutAt(at + 1);
+            const bool isMoved = cut != notes.cuts().constEnd() && cut->begin <= at;
+            FeatureSet found;
+            found.add(MovedNotes, *isNote && isMoved);
+            found.add(NotesInBrackets, *isNote && !isMoved);
+            counter->add(found.bits());
+            at += flow.fragments.at(k).length;
+        }
+        counter->add(Features(0));
+    }
 }
 
 // Readers know bullets and figures; the other markers of items are not written.
@@ -293,6 +324,9 @@ QStringList MRVDocumentLosses::of(const QTextDocument &document, Format format)
     const MRVDocumentFlow flow(document);
     Counter counter;
     countText(flow, &counter);
+    const auto code =
+        format == Markdown ? MRVTextNotes::Code::HasNoMarks : MRVTextNotes::Code::HasMarks;
+    countNotes(flow, MRVTextNotes(flow, code), &counter);
     countParagraphs(flow, &counter);
     countBlanks(flow, &counter);
     const QVector<MRVMarginNote> notes = MRVMarginNotes::all(&document);

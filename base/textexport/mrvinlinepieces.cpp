@@ -61,6 +61,7 @@ const MRVInlinePieces::Format &MRVInlinePieces::formatOf(int index)
         const QTextCharFormat full = m_flow.formats.at(index).toCharFormat();
         format.isKnown = true;
         format.isPicture = full.isImageFormat();
+        format.isNote = full.boolProperty(MRVTextFormat::InlineFootnoteProperty);
         format.marks = mrvInlineMarks(full);
         format.names = full.anchorNames();
         format.names.removeAll(QString());
@@ -114,20 +115,76 @@ void MRVInlinePieces::readFirstComments()
 QVector<MRVInlinePiece> MRVInlinePieces::of(int paragraph)
 {
     const MRVFlowParagraph &flow = m_flow.paragraphs.at(paragraph);
-    return read(flow.firstFragment, flow.position, flow.position + flow.length,
-                m_notes.cutAt(flow.position), m_notes.cuts().constEnd());
+    return read(flow.firstFragment, flow.position, flow.position + flow.length, false);
 }
 
+// A comment on the text around the note, too, is written there.
 QVector<MRVInlinePiece> MRVInlinePieces::of(const MRVTextNote &note)
 {
-    const Cuts none = m_notes.cuts().constEnd();
-    return read(note.firstFragment, note.begin, note.end, none, none);
+    const int paragraph = m_flow.paragraphAt(note.begin);
+    const int first = m_flow.paragraphs.at(paragraph).firstFragment;
+    const int end = m_flow.paragraphs.at(paragraph + 1).firstFragment;
+    const auto commentAt = [&](int fragment) {
+        return fragment >= first && fragment < end
+            ? formatOf(m_flow.fragments.at(fragment).format).comment
+            : -1;
+    };
+    const int before = commentAt(note.firstFragment - 1);
+    const int after = commentAt(note.endFragment);
+    QVector<MRVInlinePiece> pieces = read(note.firstFragment, note.begin, note.end, true);
+    for (MRVInlinePiece &piece : pieces) {
+        const bool isAround = piece.comment == before || piece.comment == after;
+        piece.comment = isAround ? -1 : piece.comment;
+    }
+    return pieces;
 }
 
-QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int end, Cuts cut,
-                                              Cuts endCut)
+QString MRVInlinePieces::bracket(const MRVInlinePiece &piece) const
+{
+    const MRVFlowParagraph &paragraph = m_flow.paragraphs.at(m_flow.paragraphAt(piece.begin));
+    const int end = paragraph.position + paragraph.length;
+    if (piece.kind == MRVInlinePiece::NoteBegin) {
+        const bool isApart =
+            piece.begin == paragraph.position || m_flow.text.at(piece.begin - 1).isSpace();
+        return isApart ? QStringLiteral("[") : QStringLiteral(" [");
+    }
+    const bool isInWord = piece.begin < end && m_flow.text.at(piece.begin).isLetterOrNumber();
+    return isInWord ? QStringLiteral("] ") : QStringLiteral("]");
+}
+
+void MRVInlinePieces::setBracket(bool isOpen, int position, int comment,
+                                 QVector<MRVInlinePiece> *pieces) const
+{
+    MRVInlinePiece bracket;
+    bracket.kind = isOpen ? MRVInlinePiece::NoteBegin : MRVInlinePiece::NoteEnd;
+    bracket.begin = bracket.end = position;
+    bracket.comment = comment;
+    pieces->append(bracket);
+}
+
+// A piece without its place; @p link is the one at it or after it.
+MRVInlinePiece MRVInlinePieces::likeness(int index, QVector<MRVFlowLink>::const_iterator link)
+{
+    const Format &format = formatOf(index);
+    MRVInlinePiece like;
+    like.kind = format.isPicture ? MRVInlinePiece::Picture : MRVInlinePiece::Text;
+    like.marks = format.marks;
+    like.format = index;
+    like.comment = format.comment;
+    like.names = format.names;
+    if ((like.marks & MRVLinkMark) && link != m_flow.links.end()) {
+        const bool isText = m_notes.isText(*link);
+        like.marks &= isText ? ~unsigned(MRVLinkMark) : ~0U;
+        like.link = isText ? -1 : int(link - m_flow.links.begin());
+    }
+    return like;
+}
+
+QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int end, bool isNote)
 {
     QVector<MRVInlinePiece> pieces;
+    auto cut = isNote ? m_notes.innerCutAt(begin) : m_notes.cutAt(begin);
+    const auto endCut = isNote ? m_notes.innerCuts().constEnd() : m_notes.cuts().constEnd();
     auto link =
         std::lower_bound(m_flow.links.begin(), m_flow.links.end(), begin,
                          [](const MRVFlowLink &one, int place) { return one.end <= place; });
@@ -147,6 +204,13 @@ QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int 
     };
     int at = begin;
     int skipped = begin;
+    bool isOpen = isNote;
+    const auto setOpen = [&](bool open, int position, int comment) {
+        if (!isNote && open != isOpen) {
+            setBracket(open, position, comment, &pieces);
+            isOpen = open;
+        }
+    };
     for (int i = firstFragment; at < end; ++i) {
         const MRVFlowFragment &fragment = m_flow.fragments.at(i);
         const Format &format = formatOf(fragment.format);
@@ -154,17 +218,15 @@ QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int 
         while (link != m_flow.links.end() && link->end <= at) {
             ++link;
         }
-        MRVInlinePiece like;
-        like.kind = format.isPicture ? MRVInlinePiece::Picture : MRVInlinePiece::Text;
-        like.marks = format.marks;
-        like.format = fragment.format;
-        like.comment = format.comment;
-        like.link = like.marks & MRVLinkMark ? int(link - m_flow.links.begin()) : -1;
-        like.names = format.names;
+        MRVInlinePiece like = likeness(fragment.format, link);
+        if (!format.isNote && !pieces.isEmpty()) {
+            setOpen(false, at, pieces.constLast().comment);
+        }
         for (int from = qMax(at, skipped); from < last; from = qMax(from, skipped)) {
             skipped = qMax(skipped, takeCuts(from));
             const int to = cut != endCut ? qMin(last, cut->begin) : last;
             if (skipped <= from && to > from) {
+                setOpen(format.isNote, from, format.comment);
                 addText(from, to, like, &pieces);
                 like.names.clear();
                 from = to;
@@ -173,6 +235,9 @@ QVector<MRVInlinePiece> MRVInlinePieces::read(int firstFragment, int begin, int 
         at += fragment.length;
     }
     takeCuts(end);
+    if (!pieces.isEmpty()) {
+        setOpen(false, end, pieces.constLast().comment);
+    }
     settleBlanks(&pieces);
     return pieces;
 }

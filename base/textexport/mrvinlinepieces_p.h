@@ -38,7 +38,8 @@ struct MRVInlineComment
 /** A stretch of a paragraph that is written in one way. */
 struct MRVInlinePiece
 {
-    enum Kind { Text, LineEnd, Picture, NoteMark };
+    /** NoteBegin and NoteEnd stand around a note that is written in its place. */
+    enum Kind { Text, LineEnd, Picture, NoteMark, NoteBegin, NoteEnd };
 
     Kind kind = Text;
     int begin = 0; ///< in the document
@@ -66,6 +67,8 @@ public:
     /** The same for a note that stands in the text. */
     QVector<MRVInlinePiece> of(const MRVTextNote &note);
 
+    /** What is written for NoteBegin and NoteEnd: a bracket, and a blank that it needs. */
+    QString bracket(const MRVInlinePiece &piece) const;
     /** Those that were met, in order. */
     const QVector<MRVInlineComment> &comments() const { return m_comments; }
     /** The comment of the first text after a paragraph; -1 without one. Notes have their own. */
@@ -79,6 +82,7 @@ private:
     {
         bool isKnown = false;
         bool isPicture = false;
+        bool isNote = false; // within the text
         unsigned marks = 0;
         QStringList names;
         int comment = -1;
@@ -87,8 +91,9 @@ private:
     const Format &formatOf(int index);
     int commentOf(const QTextFormat &format);
     void readFirstComments();
-    using Cuts = QVector<MRVTextCut>::const_iterator;
-    QVector<MRVInlinePiece> read(int firstFragment, int begin, int end, Cuts cut, Cuts endCut);
+    QVector<MRVInlinePiece> read(int firstFragment, int begin, int end, bool isNote);
+    MRVInlinePiece likeness(int index, QVector<MRVFlowLink>::const_iterator link);
+    void setBracket(bool isOpen, int position, int comment, QVector<MRVInlinePiece> *pieces) const;
     void addText(int begin, int end, const MRVInlinePiece &like,
                  QVector<MRVInlinePiece> *pieces) const;
     void settleBlanks(QVector<MRVInlinePiece> *pieces) const;

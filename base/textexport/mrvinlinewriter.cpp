@@ -357,6 +357,13 @@ void MRVInlineWriter::writePiece(const QVector<MRVInlinePiece> &pieces, int inde
     case MRVInlinePiece::NoteMark:
         append(QStringLiteral("[^%1]").arg(m_notes.all().at(piece.note).label));
         break;
+    case MRVInlinePiece::NoteBegin:
+    case MRVInlinePiece::NoteEnd: {
+        const QString bracket = m_pieces.bracket(piece);
+        append(isHtml() ? bracket
+                        : MRVMarkdownEscape::escaped(bracket, MRVMarkdownEscape::Portable));
+        break;
+    }
     }
     m_atLineStart = piece.kind == MRVInlinePiece::LineEnd && m_place != CodeHtml;
 }

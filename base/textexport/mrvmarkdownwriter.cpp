@@ -17,7 +17,7 @@ QString MRVMarkdownWriter::text() const
     const std::unique_ptr<QTextDocument> withNotes =
         MRVMarginNotes::copyWithParagraphs(m_document, MRVMarginNote::Footnote);
     const MRVDocumentFlow flow(withNotes ? *withNotes : m_document);
-    const MRVTextNotes notes(flow);
+    const MRVTextNotes notes(flow, MRVTextNotes::Code::HasNoMarks);
     const QString body = MRVMarkdownBlocks(flow, notes, m_pictures).write();
     MRVMarkdownHead head = m_head;
     if (head.title.isEmpty()) {

@@ -19,7 +19,7 @@ class PlainText
 public:
     PlainText(const QTextDocument &document, MRVPlainTextWriter::Separation separation)
         : m_flow(document)
-        , m_notes(m_flow)
+        , m_notes(m_flow, MRVTextNotes::Code::HasMarks)
         , m_blocks(m_flow, m_notes)
         , m_pieces(m_flow, m_notes)
         , m_markers(mrvListMarkers(document))
@@ -185,6 +185,10 @@ private:
                 break;
             case MRVInlinePiece::NoteMark:
                 text += markOf(m_notes.all().at(piece.note)).trimmed();
+                break;
+            case MRVInlinePiece::NoteBegin:
+            case MRVInlinePiece::NoteEnd:
+                text += m_pieces.bracket(piece);
                 break;
             }
             const bool isEnd = i + 1 == pieces.size() || pieces.at(i + 1).link != piece.link;

@@ -9,10 +9,29 @@
 
 #include <algorithm>
 
+namespace {
+
+// As MRVTextBlockReader finds it.
+bool isCode(const MRVDocumentFlow &flow, int paragraph)
+{
+    const MRVFlowParagraph &place = flow.paragraphs.at(paragraph);
+    return place.headingLevel == 0 && !flow.hasRule(paragraph)
+        && flow.formats.at(place.format).toBlockFormat().nonBreakableLines();
+}
+
+QVector<MRVTextCut>::const_iterator firstAt(const QVector<MRVTextCut> &cuts, int position)
+{
+    return std::lower_bound(cuts.begin(), cuts.end(), position,
+                            [](const MRVTextCut &cut, int place) { return cut.end < place; });
+}
+
+} // namespace
+
 struct MRVTextNotes::Reader
 {
-    Reader(const MRVDocumentFlow &document, MRVTextNotes *target)
+    Reader(const MRVDocumentFlow &document, Code code, MRVTextNotes *target)
         : flow(document)
+        , codeHasMarks(code == Code::HasMarks)
         , finder(document)
         , notes(*target)
     {
@@ -26,20 +45,28 @@ struct MRVTextNotes::Reader
             }
         }
         for (int i = 0; i < flow.count(); ++i) {
-            if (!flow.isInFrame(i) && !notes.m_moved.at(i)) {
-                readParagraph(flow.paragraphs.at(i), flow.paragraphs.at(i + 1).firstFragment);
+            if (isFree(i)) {
+                readParagraph(i);
             }
         }
-        std::sort(
-            notes.m_cuts.begin(), notes.m_cuts.end(),
-            [](const MRVTextCut &one, const MRVTextCut &other) { return one.begin < other.begin; });
+        std::sort(notes.m_cuts.begin(), notes.m_cuts.end(),
+                  [](const MRVTextCut &one, const MRVTextCut &other) {
+                      return one.begin < other.begin
+                          || (one.begin == other.begin && one.end > other.end);
+                  });
         sortNotes();
+        separateInnerCuts();
     }
 
 private:
     bool isFree(int paragraph) const
     {
         return !flow.isInFrame(paragraph) && !notes.m_moved.at(paragraph);
+    }
+
+    bool canHaveMarks(int paragraph) const
+    {
+        return isFree(paragraph) && (codeHasMarks || !isCode(flow, paragraph));
     }
 
     bool canMove(const MRVMarkedNote &note) const
@@ -52,7 +79,8 @@ private:
         return !note.marks.isEmpty()
             && std::all_of(note.marks.begin(), note.marks.end(), [&](int mark) {
                    const int paragraph = flow.paragraphAt(mark);
-                   return isFree(paragraph) && (paragraph < note.begin || paragraph >= note.end);
+                   return canHaveMarks(paragraph)
+                       && (paragraph < note.begin || paragraph >= note.end);
                });
     }
 
@@ -87,7 +115,10 @@ private:
         int begin = link.begin;
         int end = link.end;
         const auto words = mark.match(flow.text.mid(begin, end - begin));
-        end = words.hasMatch() ? begin + words.capturedLength() : end;
+        if (words.hasMatch()) {
+            end = begin + words.capturedLength();
+            notes.m_textLinks.insert(begin);
+        }
         while (begin > paragraph.position && flow.text.at(begin - 1).isSpace()) {
             --begin;
         }
@@ -99,7 +130,9 @@ private:
         if (!notes.m_cuts.isEmpty() && notes.m_cuts.constLast().end > begin) {
             begin = qMin(end, qMax(begin, notes.m_cuts.constLast().end));
         }
-        notes.m_cuts.append({begin, end, -1});
+        if (begin < end) {
+            notes.m_cuts.append({begin, end, -1});
+        }
     }
 
     static bool isAfterLabel(QChar c) { return c.isSpace() || QStringView(u".:)]").contains(c); }
@@ -132,22 +165,27 @@ private:
         return *known;
     }
 
-    void readParagraph(const MRVFlowParagraph &paragraph, int endFragment)
+    void readParagraph(int paragraph)
     {
-        int at = paragraph.position;
+        const int endFragment = flow.paragraphs.at(paragraph + 1).firstFragment;
+        int at = flow.paragraphs.at(paragraph).position;
         bool wasInText = false;
-        for (int i = paragraph.firstFragment; i < endFragment; ++i) {
+        for (int i = flow.paragraphs.at(paragraph).firstFragment; i < endFragment; ++i) {
             const MRVFlowFragment &fragment = flow.fragments.at(i);
             const bool isNote = isInText(fragment.format);
             const int end = at + fragment.length;
             if (isNote && wasInText) {
                 notes.m_notes.last().end = end;
+                notes.m_notes.last().endFragment = i + 1;
                 notes.m_cuts.last().end = end;
+            } else if (isNote && !canHaveMarks(paragraph)) {
+                return;
             } else if (isNote) {
                 MRVTextNote note;
                 note.begin = at;
                 note.end = end;
                 note.firstFragment = i;
+                note.endFragment = i + 1;
                 notes.m_cuts.append({at, end, notes.m_notes.size()});
                 notes.m_notes.append(note);
             }
@@ -170,6 +208,20 @@ private:
         }
         notes.m_notes = sorted;
         setLabels();
+    }
+
+    // A note within the text takes its part of the paragraph along, and the marks in it.
+    void separateInnerCuts()
+    {
+        QVector<MRVTextCut> outer;
+        int end = 0;
+        for (const MRVTextCut &cut : qAsConst(notes.m_cuts)) {
+            const bool isInner = cut.begin < end;
+            (isInner ? notes.m_innerCuts : outer).append(cut);
+            end =
+                !isInner && cut.note >= 0 && notes.m_notes.at(cut.note).begin >= 0 ? cut.end : end;
+        }
+        notes.m_cuts = outer;
     }
 
     void setLabels()
@@ -195,19 +247,24 @@ private:
     }
 
     const MRVDocumentFlow &flow;
+    const bool codeHasMarks;
     const MRVNoteFinder finder;
     MRVTextNotes &notes;
     QHash<int, bool> formats; // whether text of it is a note
 };
 
-MRVTextNotes::MRVTextNotes(const MRVDocumentFlow &flow)
+MRVTextNotes::MRVTextNotes(const MRVDocumentFlow &flow, Code code)
     : m_moved(flow.count() + 1)
 {
-    Reader(flow, this).read();
+    Reader(flow, code, this).read();
 }
 
 QVector<MRVTextCut>::const_iterator MRVTextNotes::cutAt(int position) const
 {
-    return std::lower_bound(m_cuts.begin(), m_cuts.end(), position,
-                            [](const MRVTextCut &cut, int place) { return cut.end < place; });
+    return firstAt(m_cuts, position);
+}
+
+QVector<MRVTextCut>::const_iterator MRVTextNotes::innerCutAt(int position) const
+{
+    return firstAt(m_innerCuts, position);
 }

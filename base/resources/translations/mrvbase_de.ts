@@ -410,6 +410,10 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>Marks of footnotes within the text: %1</source>
         <translation>Auszeichnungen von Fußnoten im Text: %1</translation>
     </message>
+    <message>
+        <source>Footnotes within the text, which become text in brackets: %1</source>
+        <translation>Fußnoten im Text, die zu Text in eckigen Klammern werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>

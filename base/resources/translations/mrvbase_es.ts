@@ -410,6 +410,10 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>Marks of footnotes within the text: %1</source>
         <translation>Marcas de notas al pie dentro del texto: %1</translation>
     </message>
+    <message>
+        <source>Footnotes within the text, which become text in brackets: %1</source>
+        <translation>Notas dentro del texto, que pasan a ser texto entre corchetes: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>

@@ -410,6 +410,10 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>Marks of footnotes within the text: %1</source>
         <translation>Marques de notes de bas de page dans le texte&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Footnotes within the text, which become text in brackets: %1</source>
+        <translation>Notes dans le texte, qui deviennent du texte entre crochets&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>
