@@ -21,6 +21,8 @@ class QTextDocument;
  * -->". Blanks and tabs in a row are written, but read as one; tabs that begin a paragraph are
  * not, and blanks there are "&nbsp;". Notes stand at the end: those that MRVNoteFinder finds,
  * those in the margin, and those within the text, and a rule above them is left out.
+ * Tables and preformatted text have no marks: notes of theirs stay linked paragraphs or, within the
+ * text, stand in brackets.
  *
  * Takes time linear in the document; the same document gives the same text. GUI thread only.
  *
