@@ -373,7 +373,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(file));
         MRVGuardedDocument read;
         QVERIFY(archive.read(path, &read));
-        QVERIFY(archive.missingPictures().isEmpty());
+        QCOMPARE(archive.missingPictures(), QStringList("nowhere.png"));
         QCOMPARE(fullDump(read), fullDump(document));
         show(&read);
         for (const QString &name : {url, QString("bytes"), QString("again")}) {
@@ -381,6 +381,27 @@ private Q_SLOTS:
         }
         const QByteArray before = bytesOf(path);
         QCOMPARE(saved(read), before);
+    }
+
+    // A picture that was there at reading is not left out where its file can be read no more.
+    void lostPictures()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("a.mrvdoc");
+        QTextDocument document;
+        document.addResource(QTextDocument::ImageResource, QUrl("tide"), QByteArray(100000, 'a'));
+        QTextCursor(&document).insertImage("tide");
+        MRVDocumentArchive archive;
+        QVERIFY(archive.write(document, path));
+        MRVGuardedDocument read;
+        QVERIFY(archive.read(path, &read));
+        QVERIFY(QFile::resize(path, 10)); // as a medium that is gone
+        const QByteArray before = bytesOf(path);
+        MRVError error;
+        QVERIFY(!archive.write(read, path, &error));
+        QCOMPARE(error.kind, MRVErrorKind::Changed);
+        QVERIFY2(error.text.contains("the picture tide has changed"), qPrintable(error.text));
+        QCOMPARE(bytesOf(path), before);
     }
 
     // What an outside program finds in the file.

@@ -16,7 +16,7 @@ struct MRVArchivedPicture
 {
     QString name; ///< by which formats show it; of raw data the name of the image
     int format = -1; ///< of raw data, the place of the format in the fragment; else -1
-    QString file; ///< of the archive
+    QString file; ///< of the archive; empty where the document had no bytes of it
 };
 
 /**

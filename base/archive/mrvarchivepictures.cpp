@@ -36,6 +36,13 @@ QByteArray bytesOf(const QTextDocument &document, const QUrl &url)
         : source.toByteArray();
 }
 
+bool isOfLoader(const QTextDocument &document, const QUrl &url)
+{
+    const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
+    const auto has = guarded ? guarded->pictureLoader().has : nullptr;
+    return has && has(document.baseUrl().resolved(url));
+}
+
 QByteArray digestOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
@@ -93,8 +100,11 @@ void MRVArchivePictures::addShown(const QTextDocument &document, const QString &
     const bool isHeld = hasPixels(MRVGuardedDocument::pictureSource(document, url));
     const QByteArray bytes = bytesOf(document, url);
     if (bytes.isEmpty()) {
-        if (!MRV::isElsewhere(name)) {
+        if (isOfLoader(document, url)) { // which has been whole
+            *m_failed = name;
+        } else if (!MRV::isElsewhere(name)) {
             m_missing.append(name);
+            m_content.pictures.append({name, -1, QString()}); // missing from the file, too
         }
         return;
     }

@@ -29,7 +29,10 @@ public:
     const std::vector<MRVZipEntry> &files() const { return m_files; }
     /** The names of those without bytes, but for those on other machines. */
     QStringList missing() const { return m_missing; }
-    /** The name of the one that could not be read again while it was written; else empty. */
+    /**
+     * The name of one that a loader cannot read any more, or that could not be read again while it
+     * was written; else empty.
+     */
     QString failed() const { return *m_failed; }
 
 private:

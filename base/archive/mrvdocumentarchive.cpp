@@ -80,20 +80,20 @@ public:
         for (auto it = m_indexes.cbegin(); it != m_indexes.cend(); ++it) {
             indexes.insert(base.resolved(it.key()), it.value());
         }
-        return [file = m_file, indexes](const QUrl &url) {
-            const auto found = indexes.constFind(url);
-            return found == indexes.constEnd()
-                ? QByteArray()
-                : file->read(*found, MRVInputLimits::PictureFileBytes);
-        };
+        return {[indexes](const QUrl &url) { return indexes.contains(url); },
+                [file = m_file, indexes](const QUrl &url) {
+                    return file->read(indexes.value(url, -1), MRVInputLimits::PictureFileBytes);
+                }};
     }
 
 private:
-    // Several names may show one picture.
+    // Several names may show one picture. One without bytes is none.
     bool isWhole(int index)
     {
         if (!m_whole.contains(index)) {
-            m_whole.insert(index, m_file->check(index, MRVInputLimits::PictureFileBytes));
+            m_whole.insert(index,
+                           m_file->check(index, MRVInputLimits::PictureFileBytes)
+                               && m_file->files().at(index).size > 0);
         }
         return m_whole.value(index);
     }
@@ -198,6 +198,14 @@ bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device,
     MRVArchiveContent content = MRVArchiveContent::of(document);
     content.metadata = m_metadata;
     const MRVArchivePictures pictures(document, &content);
+    const auto lost = [&pictures] {
+        return MRVError{
+            MRVErrorKind::Changed,
+            tr("the picture %1 has changed, or cannot be read any more").arg(pictures.failed())};
+    };
+    if (!pictures.failed().isEmpty()) {
+        return MRV::fail(error, lost());
+    }
     const QByteArray stored = content.toByteArray();
     if (!isReadable(stored)) {
         return MRV::fail(error, MRVErrorKind::TooLarge,
@@ -222,11 +230,7 @@ bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device,
     }
     MRVError reason;
     if (!mrvWriteZip(files, Level, archiveDate(m_modified), device, &reason)) {
-        return pictures.failed().isEmpty()
-            ? MRV::fail(error, reason)
-            : MRV::fail(error, MRVErrorKind::Changed,
-                        tr("the picture %1 has changed, or cannot be read any more")
-                            .arg(pictures.failed()));
+        return MRV::fail(error, pictures.failed().isEmpty() ? reason : lost());
     }
     m_isTextOnly = false;
     m_missingPictures = pictures.missing();

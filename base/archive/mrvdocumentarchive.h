@@ -88,6 +88,8 @@ public:
      * its pictures are still there then.
      *
      * What was written is known to be readable: a document that could not be read again is refused.
+     * So is one with a picture that its file had when it was read, and that cannot be read from it
+     * any more (MRVErrorKind::Changed): no other file may take the place of that one.
      *
      * @param error if given, receives one translated line that names the file on failure; untouched
      *              on success.
@@ -130,7 +132,7 @@ public:
     bool isTextOnly() const { return m_isTextOnly; }
     /**
      * The names of the pictures that the document shows and that the last writing or reading found
-     * missing or damaged. Their places in the text are as they were. Those on other machines do not
+     * missing or damaged; a file knows its missing ones, and reading it names them again. Their places in the text are as they were. Those on other machines do not
      * count, as they were never part of a file.
      */
     QStringList missingPictures() const { return m_missingPictures; }

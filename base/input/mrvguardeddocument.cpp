@@ -123,11 +123,8 @@ QImage MRVGuardedDocument::picture(const QTextDocument &document, const QUrl &ur
 QVariant MRVGuardedDocument::pictureSource(const QTextDocument &document, const QUrl &url)
 {
     const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
-    if (guarded) {
-        const QByteArray bytes = guarded->loaded(document.baseUrl().resolved(url));
-        if (!bytes.isEmpty()) {
-            return bytes;
-        }
+    if (guarded && guarded->isLoaded(document.baseUrl().resolved(url))) {
+        return guarded->m_loader.read(document.baseUrl().resolved(url));
     }
     if (!mayOpen(document, url)) {
         return QVariant();
@@ -168,9 +165,9 @@ void MRVGuardedDocument::setPictureLoader(const PictureLoader &loader)
     m_decoded.clear();
 }
 
-QByteArray MRVGuardedDocument::loaded(const QUrl &url) const
+bool MRVGuardedDocument::isLoaded(const QUrl &url) const
 {
-    return m_loader ? m_loader(url) : QByteArray();
+    return m_loader.has && m_loader.has(url);
 }
 
 QImage MRVGuardedDocument::decoded(const QVariant &source, const QUrl &url) const
@@ -204,13 +201,10 @@ QImage MRVGuardedDocument::loadPicture(const QUrl &url)
     if (const QImage *known = m_decoded.object(url)) {
         return *known;
     }
-    QVariant source = loaded(url);
-    if (source.toByteArray().isEmpty()) {
-        if (!mayOpen(*this, url)) {
-            return QImage();
-        }
-        source = this->source(url);
+    if (!isLoaded(url) && !mayOpen(*this, url)) {
+        return QImage();
     }
+    const QVariant source = isLoaded(url) ? QVariant(m_loader.read(url)) : this->source(url);
     const bool isFile = source.userType() == QMetaType::QUrl;
     const QImage image = decoded(source, url);
     if (isEncoded(source) || (isFile && !image.isNull())) {

@@ -30,16 +30,25 @@ class MRVBASE_EXPORT MRVGuardedDocument : public QTextDocument
 public:
     explicit MRVGuardedDocument(QObject *parent = nullptr);
 
-    /** The encoded bytes of a picture, by a URL resolved against baseUrl(); null without one. */
-    using PictureLoader = std::function<QByteArray(const QUrl &url)>;
+    /** Where pictures come from, by URLs resolved against baseUrl(). */
+    struct PictureLoader
+    {
+        std::function<bool(const QUrl &url)> has; ///< whether there is a picture
+        /**
+         * The encoded bytes of a picture that is there; empty where it cannot be read now. May be
+         * called in any thread, also when the document is gone.
+         */
+        std::function<QByteArray(const QUrl &url)> read;
+    };
     /**
      * Where pictures come from before anything else is asked, such as an archive: they need not be
      * in memory, and keep their bytes when they have been shown. It is called whenever a picture is
      * needed that was not decoded lately. clear() leaves it as it is.
      *
-     * @param loader empty, as at first, for none.
+     * @param loader with both functions, or, as at first, without.
      */
     void setPictureLoader(const PictureLoader &loader);
+    PictureLoader pictureLoader() const { return m_loader; }
 
     /**
      * The picture that @p document has at @p url, or loads from there, decoded by MRVPictureReader.
@@ -54,9 +63,10 @@ public:
     static QImage picture(const QTextDocument &document, const QUrl &url);
 
     /**
-     * What picture() would decode: a QByteArray, a QImage or a QPixmap; for a file that a document
-     * of this class shows, or that Qt has decoded for another one, the "file:" URL of it as a QUrl.
-     * Invalid where nothing is there, or must not be opened.
+     * What picture() would decode: a QByteArray, which is empty for a picture of the loader that
+     * cannot be read now; a QImage or a QPixmap; for a file that a document of this class shows, or
+     * that Qt has decoded for another one, the "file:" URL of it as a QUrl. Invalid where nothing
+     * is there, or must not be opened.
      */
     static QVariant pictureSource(const QTextDocument &document, const QUrl &url);
 
@@ -66,7 +76,7 @@ protected:
 private:
     QVariant source(const QUrl &url) const;
     QImage loadPicture(const QUrl &url);
-    QByteArray loaded(const QUrl &url) const;
+    bool isLoaded(const QUrl &url) const;
     QImage decoded(const QVariant &source, const QUrl &url) const;
 
     PictureLoader m_loader;
