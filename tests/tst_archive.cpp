@@ -383,6 +383,44 @@ private Q_SLOTS:
         QCOMPARE(saved(read), before);
     }
 
+    void rawData()
+    {
+        const QString name = "http://127.0.0.1/a"; // only the raw data is part of the file
+        const QByteArray raw(100000, 'r');
+        QTextDocument document;
+        for (int width = 1; width <= 2; ++width) {
+            QTextImageFormat image;
+            image.setName(name);
+            image.setWidth(width);
+            image.setProperty(MRVTextFormat::ImageRawDataProperty, raw);
+            QTextCursor(&document).insertImage(image);
+        }
+        Files files = filesOf(saved(document));
+        QCOMPARE(files.size(), std::size_t(4));
+        MRVGuardedDocument read;
+        MRVDocumentArchive archive;
+        QVERIFY(archive.read(zipOf(files), &read));
+        QVector<QByteArray> found;
+        for (const QTextFormat &format : read.allFormats()) {
+            if (format.hasProperty(MRVTextFormat::ImageRawDataProperty)) {
+                found << format.property(MRVTextFormat::ImageRawDataProperty).toByteArray();
+            }
+        }
+        QCOMPARE(found, QVector<QByteArray>(2, raw));
+        QCOMPARE(found.at(0).constData(), found.at(1).constData()); // in memory once
+
+        // Both of one format.
+        QByteArray &stored = *find(&files, "document");
+        QByteArray nameBytes;
+        QDataStream stream(&nameBytes, QIODevice::WriteOnly);
+        stream << name;
+        const int second = stored.lastIndexOf(nameBytes);
+        const int first = stored.lastIndexOf(nameBytes, second - 1);
+        stored.replace(second, nameBytes.size() + 4, stored.mid(first, nameBytes.size() + 4));
+        QVERIFY(archive.read(zipOf(files), &read));
+        QVERIFY(archive.isTextOnly());
+    }
+
     // A picture that was there at reading is not left out where its file can be read no more.
     void lostPictures()
     {

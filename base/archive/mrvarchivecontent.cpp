@@ -6,6 +6,7 @@
 #include "core/mrvcheckedstream.h"
 
 #include <QDataStream>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -123,11 +124,16 @@ MRVArchiveContent::Result MRVArchiveContent::fromByteArray(const QByteArray &byt
     }
     QByteArray settings;
     QByteArray fragment;
+    QSet<int> hasRawData;
     const auto readPicture = [&](MRVArchivedPicture *picture) {
         qint32 format = -1;
         const bool isGood = in.read(&picture->name) && in.read(&format) && in.read(&picture->file)
-            && format >= -1 && format < content->fragment.formats.size();
+            && format >= -1 && format < content->fragment.formats.size()
+            && !hasRawData.contains(format);
         picture->format = format;
+        if (format >= 0) {
+            hasRawData.insert(format);
+        }
         return isGood;
     };
     const auto readMetadata = [&](MRVMetadataEntry *entry) { return readEntry(&in, entry); };

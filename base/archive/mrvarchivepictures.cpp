@@ -121,7 +121,12 @@ void MRVArchivePictures::addRawData(int format)
     if (!bytes.isEmpty()) {
         const QString name = changed.stringProperty(QTextFormat::ImageName);
         changed.clearProperty(MRVTextFormat::ImageRawDataProperty);
-        m_content.pictures.append({name, format, add(name, bytes, [bytes] { return bytes; })});
+        const QString file = add(name, bytes, [bytes] { return bytes; });
+        m_content.pictures.append({name, format, file});
+        if (!m_rawFiles.contains(file)) {
+            m_rawFiles.insert(file);
+            m_rawBytes += bytes.size();
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 #include "zip/mrvzipwriter.h"
 
 #include <QHash>
+#include <QSet>
 #include <QStringList>
 
 #include <vector>
@@ -27,6 +28,8 @@ public:
 
     /** To be written; the pictures of the content name them. */
     const std::vector<MRVZipEntry> &files() const { return m_files; }
+    /** How many bytes the files with raw data have. */
+    qint64 rawBytes() const { return m_rawBytes; }
     /** The names of those without bytes, but for those on other machines. */
     QStringList missing() const { return m_missing; }
     /**
@@ -44,6 +47,8 @@ private:
     MRVArchiveContent &m_content;
     std::vector<MRVZipEntry> m_files;
     QHash<QByteArray, QString> m_paths; // by digest
+    QSet<QString> m_rawFiles;
+    qint64 m_rawBytes = 0;
     QStringList m_missing;
     std::shared_ptr<QString> m_failed;
 };

@@ -58,13 +58,11 @@ public:
         for (const MRVArchivedPicture &picture : qAsConst(content->pictures)) {
             const int index = file->indexOf(picture.file);
             const bool isRaw = picture.format >= 0;
-            const QByteArray raw =
-                isRaw ? file->read(index, MRVInputLimits::PictureFileBytes) : QByteArray();
-            if (isRaw ? raw.isNull() : !isWhole(index)) {
+            if (isRaw ? rawData(index).isEmpty() : !isWhole(index)) {
                 m_missing.append(picture.name);
             } else if (isRaw) {
                 content->fragment.formats[picture.format].setProperty(
-                    MRVTextFormat::ImageRawDataProperty, raw);
+                    MRVTextFormat::ImageRawDataProperty, rawData(index));
             } else {
                 m_indexes.insert(QUrl(picture.name), index);
             }
@@ -98,8 +96,21 @@ private:
         return m_whole.value(index);
     }
 
+    // Many formats may have the same, which is in memory once.
+    QByteArray rawData(int index)
+    {
+        if (!m_raw.contains(index)) {
+            m_raw.insert(index,
+                         m_file->read(index, qMin(m_rest, MRVInputLimits::PictureFileBytes)));
+            m_rest -= m_raw.value(index).size();
+        }
+        return m_raw.value(index);
+    }
+
     std::shared_ptr<const MRVZipReader> m_file;
     QHash<int, bool> m_whole;
+    QHash<int, QByteArray> m_raw;
+    qint64 m_rest = MRVInputLimits::RawPictureBytes;
     QHash<QUrl, int> m_indexes;
     QStringList m_missing;
 };
@@ -207,7 +218,7 @@ bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device,
         return MRV::fail(error, lost());
     }
     const QByteArray stored = content.toByteArray();
-    if (!isReadable(stored)) {
+    if (!isReadable(stored) || pictures.rawBytes() > MRVInputLimits::RawPictureBytes) {
         return MRV::fail(error, MRVErrorKind::TooLarge,
                          tr("the document is too large, or too complex, for this format"));
     }

@@ -19,6 +19,8 @@ struct MRVInputLimits
     // Archives.
     /** Files of a zip archive: as many as the form counts without its extension. */
     static constexpr int ZipFiles = 65535;
+    /** Of an archived document, the raw data of all pictures, each file once: it is in memory. */
+    static constexpr qint64 RawPictureBytes = qint64(1) << 30;
 
     // Streams and variants.
     /** QByteArray holds 2^31 bytes less its header; a longer one never was written. */
