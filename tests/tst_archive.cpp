@@ -330,6 +330,29 @@ private Q_SLOTS:
         QCOMPARE(found.propertyNames(), QStringList("notes.json"));
     }
 
+    // All that can be kept together can be read, and no more.
+    void propertyBytes()
+    {
+        constexpr int Most = 64 << 20;
+        const QTextDocument document;
+        MRVDocumentArchive archive;
+        QVERIFY(!archive.setProperty("a", QByteArray(Most + 1, 'a')));
+        QVERIFY(archive.setProperty("a", QByteArray(Most, 'a')));
+        QVERIFY(!archive.setProperty("b", "1"));
+        QVERIFY(archive.setProperty("a", QByteArray(Most - 1, 'a')));
+        QVERIFY(archive.setProperty("b", "1"));
+        Files files = filesOf(saved(document));
+        files.push_back({"properties/a", archive.property("a")});
+        files.push_back({"properties/b", "1"});
+        MRVGuardedDocument read;
+        QVERIFY(archive.read(zipOf(files, MRVZipEntry::Deflated), &read));
+        QCOMPARE(archive.notes(), QStringList());
+        find(&files, "properties/b")->append('2');
+        QVERIFY(archive.read(zipOf(files, MRVZipEntry::Deflated), &read));
+        QCOMPARE(archive.propertyNames(), QStringList("a"));
+        QCOMPARE(archive.notes(), QStringList("what the program keeps as b is damaged"));
+    }
+
     // Files, bytes, pixels and raw data keep their bytes, also when they have been shown.
     void pictures()
     {

@@ -150,7 +150,8 @@ struct Properties
             if (!path.startsWith(PropertyFolder) || !isPropertyName(name)) {
                 continue;
             }
-            const QByteArray bytes = file.read(i, MRVInputLimits::FileBytes);
+            const QByteArray bytes = file.read(i, rest);
+            rest -= bytes.size();
             if (bytes.isNull()) {
                 damaged.append(name);
             } else {
@@ -161,6 +162,7 @@ struct Properties
 
     QMap<QString, QByteArray> values;
     QStringList damaged;
+    qint64 rest = MRVInputLimits::PropertyBytes;
 };
 
 } // namespace
@@ -184,7 +186,11 @@ bool MRVDocumentArchive::isArchive(const QByteArray &bytes)
 
 bool MRVDocumentArchive::setProperty(const QString &name, const QByteArray &bytes)
 {
-    if (!isPropertyName(name)) {
+    qint64 size = bytes.size();
+    for (auto it = m_properties.cbegin(); it != m_properties.cend(); ++it) {
+        size += it.key() == name ? 0 : it.value().size();
+    }
+    if (!isPropertyName(name) || (!bytes.isEmpty() && size > MRVInputLimits::PropertyBytes)) {
         return false;
     }
     if (bytes.isNull()) {

@@ -72,7 +72,8 @@ public:
      *
      * @param name a file's name of ASCII letters, digits, "-", "_" and ".", the first a letter or a
      *             digit, of 100 characters at most.
-     * @return false, with nothing changed, for another name.
+     * @param bytes with those of all other names, MRVInputLimits::PropertyBytes at most.
+     * @return false, with nothing changed, for another name and for more bytes.
      */
     bool setProperty(const QString &name, const QByteArray &bytes);
     /** The names of all, in alphabetical order. */

@@ -21,6 +21,8 @@ struct MRVInputLimits
     static constexpr int ZipFiles = 65535;
     /** Of an archived document, the raw data of all pictures, each file once: it is in memory. */
     static constexpr qint64 RawPictureBytes = qint64(1) << 30;
+    /** What an application keeps in the archive of a document, all of it together. */
+    static constexpr qint64 PropertyBytes = 64 << 20;
 
     // Streams and variants.
     /** QByteArray holds 2^31 bytes less its header; a longer one never was written. */
