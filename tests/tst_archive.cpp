@@ -683,6 +683,21 @@ private Q_SLOTS:
             QTRY_COMPARE(copies().size(), 1);
         }
         QVERIFY(QDir(home.path()).isEmpty(QDir::Files));
+        // Somebody cleans up meanwhile: all, or what is old, such as the lock.
+        const QString folder = home.filePath("copies");
+        MRVRecovery recovery(folder);
+        recovery.follow(&document, QString());
+        for (const bool isAll : {true, false}) {
+            QTextCursor(&document).insertText("more");
+            QVERIFY(recovery.keep());
+            const QString lock = QDir(folder).entryList({"*.lock"}).value(0);
+            QVERIFY(isAll ? QDir(folder).removeRecursively() : QDir(folder).remove(lock));
+            QTextCursor(&document).insertText("more");
+            QVERIFY(recovery.keep());
+            QCOMPARE(QDir(folder).entryList({"*.mrvdoc", "*.lock"}).size(), 2);
+            QVERIFY(MRVRecovery::leftBehind(folder).isEmpty());
+        }
+
         MRVRecovery nowhere("/dev/null/copies");
         MRVError failure;
         connect(&nowhere, &MRVRecovery::failed, this, [&](const MRVError &e) { failure = e; });

@@ -123,14 +123,18 @@ void MRVRecovery::remove()
 // The lock comes before the copy, so that no other program takes that for one left behind.
 bool MRVRecovery::lock()
 {
-    if (m_lock && m_lock->isLocked()) {
+    if (m_lock && m_lock->isLocked() && QFile::exists(lockOf(m_base))) {
         return true;
     }
+    // At first, or when somebody has cleaned up: then under the same name, which a copy may have.
     QDir().mkpath(m_folder);
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    m_base = QDir(m_folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    m_lock = lockFor(m_base);
-    return m_lock->tryLock(0);
+    m_lock = m_base.isEmpty() ? nullptr : lockFor(m_base);
+    if (!m_lock || !m_lock->tryLock(0)) {
+        m_base = QDir(m_folder).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
+        m_lock = lockFor(m_base);
+    }
+    return m_lock->isLocked() || m_lock->tryLock(0);
 }
 
 bool MRVRecovery::keep()
