@@ -661,6 +661,55 @@ private Q_SLOTS:
         MRVRecovery::discard(left.first());
         QVERIFY(MRVRecovery::leftBehind(folder).isEmpty());
     }
+    // A picture that takes long to read keeps nobody waiting, and one that is lost costs no words.
+    void recoveryInAThread()
+    {
+        QTemporaryDir home;
+        const auto copies = [&home] { return QDir(home.path()).entryInfoList({"*.mrvdoc"}); };
+        QSemaphore reads;
+        QSemaphore mayGoOn;
+        MRVGuardedDocument document;
+        document.setPictureLoader({[](const QUrl &) { return true; },
+                                   [&](const QUrl &) {
+                                       reads.release();
+                                       mayGoOn.tryAcquire(1, 5000);
+                                       return QByteArray();
+                                   }});
+        {
+            MRVRecovery recovery(home.path());
+            recovery.setInterval(0);
+            recovery.follow(&document, QString());
+            QTextCursor cursor(&document);
+            cursor.insertImage("tide");
+            cursor.insertText("one");
+            QTRY_COMPARE(reads.available(), 1);
+            cursor.insertText("two");
+            QCoreApplication::processEvents(); // due, and yet one at a time
+            QCOMPARE(reads.available(), 1);
+            mayGoOn.release();
+            QTRY_COMPARE(reads.available(), 2); // for the second one
+            QCOMPARE(copies().size(), 1);
+            MRVGuardedDocument read;
+            MRVDocumentArchive archive;
+            QVERIFY(archive.read(copies().first().filePath(), &read));
+            QCOMPARE(read.toPlainText().mid(1), QString("one"));
+            QCOMPARE(archive.missingPictures(), QStringList("tide"));
+            mayGoOn.release();
+            QVERIFY(recovery.keep()); // waits
+            QVERIFY(archive.read(copies().first().filePath(), &read));
+            QCOMPARE(read.toPlainText().mid(1), QString("onetwo"));
+
+            cursor.insertText("three");
+            QTRY_COMPARE(reads.available(), 3);
+            mayGoOn.release();
+            recovery.saved("one.html");
+            QCOMPARE(copies().size(), 0);
+            cursor.insertText("four");
+            QTRY_COMPARE(reads.available(), 4);
+            mayGoOn.release();
+        }
+        QVERIFY(QDir(home.path()).isEmpty(QDir::Files));
+    }
     void recoveryFollowsTheDocument()
     {
         QTemporaryDir home;

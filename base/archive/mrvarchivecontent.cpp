@@ -82,12 +82,20 @@ void MRVArchiveContent::apply(QTextDocument *document) const
     }
 }
 
-QByteArray MRVArchiveContent::toByteArray() const
+QByteArray MRVArchiveContent::beginning() const
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
     stream << Magic << Version << MRVTextFormat::toByteArray(settings) << fragment.toByteArray();
+    return bytes;
+}
+
+QByteArray MRVArchiveContent::toByteArray(const QByteArray &beginning) const
+{
+    QByteArray bytes = beginning;
+    QDataStream stream(&bytes, QIODevice::WriteOnly | QIODevice::Append);
+    stream.setVersion(StreamVersion);
     stream << quint32(pictures.size());
     for (const MRVArchivedPicture &picture : pictures) {
         stream << picture.name << qint32(picture.format) << picture.file;

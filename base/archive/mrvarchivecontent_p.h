@@ -40,7 +40,10 @@ struct MRVArchiveContent
     /** Puts it into a document that was cleared and keeps no undo history. */
     void apply(QTextDocument *document) const;
 
-    QByteArray toByteArray() const;
+    /** The stored form up to the pictures. */
+    QByteArray beginning() const;
+    /** The stored form, whose beginning() is @p beginning; in any thread. */
+    QByteArray toByteArray(const QByteArray &beginning) const;
     /** Any bytes may be given; the content is undefined unless they are good. */
     static Result fromByteArray(const QByteArray &bytes, MRVArchiveContent *content);
 };

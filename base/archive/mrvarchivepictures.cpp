@@ -5,6 +5,7 @@
 #include "util/mrvlocalfile.h"
 
 #include "core/mrvcoreutil.h"
+#include "core/mrvinputlimits.h"
 #include "gui/mrvguiutil.h"
 #include "gui/mrvpicturereader.h"
 
@@ -22,25 +23,6 @@ constexpr int LongestName = 40;
 bool hasPixels(const QVariant &source)
 {
     return source.userType() == QMetaType::QImage || source.userType() == QMetaType::QPixmap;
-}
-
-// The bytes of a picture of a document as they are, whether they can be decoded or not.
-QByteArray bytesOf(const QTextDocument &document, const QUrl &url)
-{
-    const QVariant source = MRVGuardedDocument::pictureSource(document, url);
-    if (source.userType() == QMetaType::QUrl) {
-        return MRVCoreUtil::ReadBinaryFile(source.toUrl().toLocalFile());
-    }
-    return hasPixels(source)
-        ? MRVGuiUtil::toByteArray(MRVGuardedDocument::picture(document, url), "PNG")
-        : source.toByteArray();
-}
-
-bool isOfLoader(const QTextDocument &document, const QUrl &url)
-{
-    const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
-    const auto has = guarded ? guarded->pictureLoader().has : nullptr;
-    return has && has(document.baseUrl().resolved(url));
 }
 
 QByteArray digestOf(const QByteArray &bytes)
@@ -75,59 +57,78 @@ QString suffixOf(const QByteArray &bytes)
 
 } // namespace
 
-MRVArchivePictures::MRVArchivePictures(const QTextDocument &document, MRVArchiveContent *content)
-    : m_content(*content)
-    , m_failed(std::make_shared<QString>())
+MRVArchivePictures::MRVArchivePictures(const QTextDocument &document, MRVDocumentFragment *fragment)
+    : m_failed(std::make_shared<QString>())
 {
     QSet<QString> names;
-    for (int i = 0; i < m_content.fragment.formats.size(); ++i) {
-        const QTextFormat &format = qAsConst(m_content.fragment.formats).at(i);
+    for (int i = 0; i < fragment->formats.size(); ++i) {
+        QTextFormat &format = fragment->formats[i];
         const QString name = format.stringProperty(QTextFormat::ImageName);
         if (format.isImageFormat() && !names.contains(name)) {
             names.insert(name);
             addShown(document, name);
         }
-        if (format.property(MRVTextFormat::ImageRawDataProperty).userType()
-            == QMetaType::QByteArray) {
-            addRawData(i);
+        const QVariant raw = format.property(MRVTextFormat::ImageRawDataProperty);
+        if (raw.userType() == QMetaType::QByteArray && !raw.toByteArray().isEmpty()) {
+            format.clearProperty(MRVTextFormat::ImageRawDataProperty);
+            m_sources.append({name, i, [raw = raw.toByteArray()] { return raw; }});
         }
     }
 }
 
+// Whether its bytes can be decoded or not.
 void MRVArchivePictures::addShown(const QTextDocument &document, const QString &name)
 {
-    const QUrl url(name);
-    const bool isHeld = hasPixels(MRVGuardedDocument::pictureSource(document, url));
-    const QByteArray bytes = bytesOf(document, url);
-    if (bytes.isEmpty()) {
-        if (isOfLoader(document, url)) { // which has been whole
-            *m_failed = name;
-        } else if (!MRV::isElsewhere(name)) {
-            m_missing.append(name);
-            m_content.pictures.append({name, -1, QString()}); // missing from the file, too
+    Source picture;
+    picture.name = name;
+    const QUrl url = document.baseUrl().resolved(QUrl(name));
+    const auto *guarded = qobject_cast<const MRVGuardedDocument *>(&document);
+    const auto loader = guarded ? guarded->pictureLoader() : MRVGuardedDocument::PictureLoader();
+    if (loader.has && loader.has(url)) {
+        picture.bytes = [read = loader.read, url] { return read(url); };
+        picture.isOfLoader = true;
+    } else {
+        const QVariant source = MRVGuardedDocument::pictureSource(document, QUrl(name));
+        if (source.userType() == QMetaType::QUrl) {
+            const QString path = source.toUrl().toLocalFile();
+            picture.bytes = [path] { return MRVCoreUtil::ReadBinaryFile(path); };
+        } else if (hasPixels(source)) {
+            const QImage image = MRVGuiUtil::toImage(source, nullptr);
+            picture.bytes = [image] { return MRVGuiUtil::toByteArray(image, "PNG"); };
+            picture.isEncoded = true;
+        } else {
+            picture.bytes = [bytes = source.toByteArray()] { return bytes; };
         }
-        return;
     }
-    const auto again = [&document, url] { return bytesOf(document, url); };
-    const auto encoded = [bytes] { return bytes; }; // which took long to make
-    m_content.pictures.append(
-        {name, -1, add(name, bytes, isHeld ? std::function<QByteArray()>(encoded) : again)});
+    m_sources.append(picture);
 }
 
-void MRVArchivePictures::addRawData(int format)
+bool MRVArchivePictures::read(Lost lost, QVector<MRVArchivedPicture> *pictures)
 {
-    QTextFormat &changed = m_content.fragment.formats[format];
-    const QByteArray bytes = changed.property(MRVTextFormat::ImageRawDataProperty).toByteArray();
-    if (!bytes.isEmpty()) {
-        const QString name = changed.stringProperty(QTextFormat::ImageName);
-        changed.clearProperty(MRVTextFormat::ImageRawDataProperty);
-        const QString file = add(name, bytes, [bytes] { return bytes; });
-        m_content.pictures.append({name, format, file});
-        if (!m_rawFiles.contains(file)) {
-            m_rawFiles.insert(file);
-            m_rawBytes += bytes.size();
+    QSet<QString> rawFiles;
+    qint64 rawBytes = 0;
+    for (const Source &source : qAsConst(m_sources)) {
+        const QByteArray bytes = source.bytes();
+        if (!bytes.isEmpty()) {
+            const auto encoded = [bytes] { return bytes; }; // which took long to make
+            const QString file =
+                add(source.name, bytes,
+                    source.isEncoded ? std::function<QByteArray()>(encoded) : source.bytes);
+            pictures->append({source.name, source.format, file});
+            if (source.format >= 0 && !rawFiles.contains(file)) {
+                rawFiles.insert(file);
+                rawBytes += bytes.size();
+            }
+        } else if (source.isOfLoader && lost == Fail) { // it has been whole
+            *m_failed = source.name;
+            return false;
+        } else if (source.isOfLoader || !MRV::isElsewhere(source.name)) {
+            m_missing.append(source.name);
+            pictures->append({source.name, -1, QString()}); // missing from the file, too
         }
     }
+    m_sources.clear();
+    return rawBytes <= MRVInputLimits::RawPictureBytes;
 }
 
 // Returns the path of the file with these bytes.

@@ -4,9 +4,10 @@
 #include "zip/mrvzipwriter.h"
 
 #include <QHash>
-#include <QSet>
 #include <QStringList>
 
+#include <functional>
+#include <memory>
 #include <vector>
 
 class QTextDocument;
@@ -14,41 +15,51 @@ class QTextDocument;
 /**
  * The pictures of a document as files of an archive, each once, in order of their appearance.
  *
- * Each is read once here, for its digest, and again when its place in the archive is reached; in
- * between, what the document does not hold itself is not in memory.
+ * Each is read once for its digest, and again when its place in the archive is reached; in between,
+ * what the document does not hold itself is not in memory.
  */
 class MRVArchivePictures
 {
 public:
-    /**
-     * Takes those that the formats of @p content show; their raw data is moved out of them.
-     * @p document must outlive the files.
-     */
-    MRVArchivePictures(const QTextDocument &document, MRVArchiveContent *content);
+    /** What a picture does that a loader has and cannot read any more. */
+    enum Lost { Fail, LeaveOut };
 
-    /** To be written; the pictures of the content name them. */
-    const std::vector<MRVZipEntry> &files() const { return m_files; }
-    /** How many bytes the files with raw data have. */
-    qint64 rawBytes() const { return m_rawBytes; }
-    /** The names of those without bytes, but for those on other machines. */
-    QStringList missing() const { return m_missing; }
     /**
-     * The name of one that a loader cannot read any more, or that could not be read again while it
-     * was written; else empty.
+     * Finds those that the formats of @p fragment show; their raw data is moved out of them. GUI
+     * thread only; what follows may be called in another one, when the document is gone.
      */
+    MRVArchivePictures(const QTextDocument &document, MRVDocumentFragment *fragment);
+
+    /**
+     * Reads each, once.
+     *
+     * @return false where one is lost, and where the raw data is too large.
+     */
+    bool read(Lost lost, QVector<MRVArchivedPicture> *pictures);
+    /** To be written; the pictures that read() gives name them. */
+    const std::vector<MRVZipEntry> &files() const { return m_files; }
+    /** The names of those without bytes, except those on other machines. */
+    QStringList missing() const { return m_missing; }
+    /** The name of one that is lost, or could not be read again while it was written; or empty. */
     QString failed() const { return *m_failed; }
 
 private:
+    struct Source
+    {
+        QString name;
+        int format = -1; // of raw data
+        std::function<QByteArray()> bytes; // in any thread
+        bool isOfLoader = false;
+        bool isEncoded = false; // from pixels
+    };
+
     void addShown(const QTextDocument &document, const QString &name);
-    void addRawData(int format);
     QString add(const QString &name, const QByteArray &bytes,
                 const std::function<QByteArray()> &content);
 
-    MRVArchiveContent &m_content;
+    QVector<Source> m_sources;
     std::vector<MRVZipEntry> m_files;
     QHash<QByteArray, QString> m_paths; // by digest
-    QSet<QString> m_rawFiles;
-    qint64 m_rawBytes = 0;
     QStringList m_missing;
     std::shared_ptr<QString> m_failed;
 };

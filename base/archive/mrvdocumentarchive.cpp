@@ -1,13 +1,12 @@
 #include "archive/mrvdocumentarchive.h"
 
 #include "archive/mrvarchivecontent_p.h"
-#include "archive/mrvarchivepictures_p.h"
-#include "archive/mrvarchivetext_p.h"
+#include "archive/mrvarchivenames_p.h"
+#include "archive/mrvarchivesnapshot_p.h"
 #include "input/mrvguardeddocument.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
 #include "zip/mrvzipreader.h"
-#include "zip/mrvzipwriter.h"
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvinputlimits.h"
@@ -18,34 +17,11 @@
 
 namespace {
 
-constexpr int Level = 6; // of libdeflate, beyond which archives hardly become smaller
-
-const QLatin1String TypeFile("mimetype");
-const QLatin1String TextFile("text.txt");
-const QLatin1String DocumentFile("document");
-const QLatin1String PropertyFolder("properties/");
-
-// Archives hold dates from 1980 on.
-QDateTime archiveDate(const QDateTime &date)
-{
-    const QDateTime first(QDate(1980, 1, 1), QTime(0, 0), Qt::UTC);
-    const QDateTime last(QDate(2107, 12, 31), QTime(0, 0), Qt::UTC);
-    return date.isValid() ? qBound(first, date.toUTC(), last) : first;
-}
-
 bool isPropertyName(const QString &name)
 {
     static const QRegularExpression pattern(
         QStringLiteral("\\A[A-Za-z0-9][A-Za-z0-9._-]{0,99}\\z"));
     return pattern.match(name).hasMatch();
-}
-
-// A file that is written over another must not turn out to be unreadable.
-bool isReadable(const QByteArray &bytes)
-{
-    MRVArchiveContent content;
-    return bytes.size() <= MRVInputLimits::TextFileBytes
-        && MRVArchiveContent::fromByteArray(bytes, &content) == MRVArchiveContent::Good;
 }
 
 /** The pictures of a file, by the URLs under which its document asks for them. */
@@ -146,8 +122,8 @@ struct Properties
     {
         for (int i = 0; i < file.files().size(); ++i) {
             const QString path = file.files().at(i).path;
-            const QString name = path.mid(PropertyFolder.size());
-            if (!path.startsWith(PropertyFolder) || !isPropertyName(name)) {
+            const QString name = path.mid(MRVArchiveNames::PropertyFolder.size());
+            if (!path.startsWith(MRVArchiveNames::PropertyFolder) || !isPropertyName(name)) {
                 continue;
             }
             const QByteArray bytes = file.read(i, rest);
@@ -174,13 +150,13 @@ QString MRVDocumentArchive::suffix()
 
 QString MRVDocumentArchive::mimeType()
 {
-    return QStringLiteral("application/x-morvane-archive");
+    return MRVArchiveNames::Type;
 }
 
 bool MRVDocumentArchive::isArchive(const QByteArray &bytes)
 {
     constexpr int NameAt = 30; // in the head of a ZIP archive's first file, which has nothing else
-    const QByteArray begin = QByteArray(TypeFile.data()) + mimeType().toLatin1();
+    const QByteArray begin = QByteArray(MRVArchiveNames::TypeFile.data()) + mimeType().toLatin1();
     return bytes.startsWith("PK\3\4") && bytes.mid(NameAt, begin.size()) == begin;
 }
 
@@ -212,45 +188,12 @@ bool MRVDocumentArchive::write(const QTextDocument &document, const QString &pat
 
 bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device, MRVErrorSink error)
 {
-    MRVArchiveContent content = MRVArchiveContent::of(document);
-    content.metadata = m_metadata;
-    const MRVArchivePictures pictures(document, &content);
-    const auto lost = [&pictures] {
-        return MRVError{
-            MRVErrorKind::Changed,
-            tr("the picture %1 has changed, or cannot be read any more").arg(pictures.failed())};
-    };
-    if (!pictures.failed().isEmpty()) {
-        return MRV::fail(error, lost());
-    }
-    const QByteArray stored = content.toByteArray();
-    if (!isReadable(stored) || pictures.rawBytes() > MRVInputLimits::RawPictureBytes) {
-        return MRV::fail(error, MRVErrorKind::TooLarge,
-                         tr("the document is too large, or too complex, for this format"));
-    }
-    std::vector<MRVZipEntry> files;
-    const auto add = [&](const QString &path, const QByteArray &bytes,
-                         MRVZipEntry::Packing packing = MRVZipEntry::Deflated) {
-        const QByteArray there = bytes.isNull() ? QByteArray("") : bytes; // null is a failure
-        files.push_back({path, packing, [there] { return there; }});
-    };
-    // The type comes first and uncompressed, for programs that read the first bytes only.
-    add(TypeFile, mimeType().toLatin1(), MRVZipEntry::Stored);
-    add(TextFile, mrvArchiveText(document).toUtf8());
-    add(DocumentFile, stored);
-    for (auto it = m_properties.cbegin(); it != m_properties.cend(); ++it) {
-        add(PropertyFolder + it.key(), it.value());
-    }
-    files.insert(files.end(), pictures.files().begin(), pictures.files().end());
-    if (files.size() > std::size_t(MRVInputLimits::ZipFiles)) {
-        return MRV::fail(error, MRVErrorKind::TooLarge, tr("it holds too many pictures"));
-    }
-    MRVError reason;
-    if (!mrvWriteZip(files, Level, archiveDate(m_modified), device, &reason)) {
-        return MRV::fail(error, pictures.failed().isEmpty() ? reason : lost());
+    MRVArchiveSnapshot snapshot(document, {m_metadata, m_properties, m_modified});
+    if (!snapshot.write(device, error)) {
+        return false;
     }
     m_isTextOnly = false;
-    m_missingPictures = pictures.missing();
+    m_missingPictures = snapshot.missingPictures();
     m_damagedProperties.clear();
     return true;
 }
@@ -274,8 +217,9 @@ bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
     if (!file->isOpen() || !document) {
         return MRV::fail(error, file->error());
     }
-    const int place = file->indexOf(DocumentFile);
-    const QByteArray type = file->read(file->indexOf(TypeFile), MRVInputLimits::KeyText);
+    const int place = file->indexOf(MRVArchiveNames::DocumentFile);
+    const QByteArray type =
+        file->read(file->indexOf(MRVArchiveNames::TypeFile), MRVInputLimits::KeyText);
     if (place < 0 && type != mimeType().toLatin1()) {
         return MRV::fail(error, MRVErrorKind::Damaged, tr("it holds no document"));
     }
@@ -287,8 +231,9 @@ bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
                          tr("it was made by a newer version of this program"));
     }
     const bool isWhole = result == MRVArchiveContent::Good;
-    const QByteArray text =
-        isWhole ? QByteArray() : file->read(file->indexOf(TextFile), MRVInputLimits::TextFileBytes);
+    const QByteArray text = isWhole
+        ? QByteArray()
+        : file->read(file->indexOf(MRVArchiveNames::TextFile), MRVInputLimits::TextFileBytes);
     if (!isWhole && text.isNull()) {
         return MRV::fail(error, MRVErrorKind::Damaged, tr("it is damaged"));
     }

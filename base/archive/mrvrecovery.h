@@ -31,11 +31,17 @@ struct MRVRecoveredFile
 
 /**
  * Keeps a copy of a document that is being edited, so that a crash, or kill -9, loses at most what
- * was typed in the last seconds.
+ * was typed in the last seconds: in the last 20 while typing goes on, and else since the last pause
+ * of 2.
  *
  * The copy is an MRVDocumentArchive in a folder of the application. It is written when typing
  * pauses, or goes on for long, whole or not at all, and goes when the document is saved or closed.
- * Programs that share the folder leave each other's copies alone. GUI thread only.
+ * A picture that cannot be read is left out of it. Programs that share the folder leave each
+ * other's copies alone. GUI thread only.
+ *
+ * The document is taken in the GUI thread, which takes about a quarter of a second for a million
+ * words; a thread of this class's own compresses and writes it, one copy at a time, in about as
+ * much. The pictures are read there, too.
  *
  * @code
  * // At the start: what did the last run leave behind?
@@ -68,8 +74,9 @@ public:
 
     /**
      * How many seconds without a change pass before the copy is written: 2 at first. While changes
-     * go on, it is written after ten times as long. A copy that takes long is written less often,
-     * so that it takes a tenth of the time at most.
+     * go on, it is written after ten times as long, or after 20 seconds, or @p seconds if that is
+     * longer. The pause of a large document is ten times as long as taking it keeps the GUI thread,
+     * but no longer than that.
      */
     void setInterval(int seconds);
     /**
@@ -90,7 +97,7 @@ public:
     /** The document was saved as @p path: the copy goes, and the next one is of that file. */
     void saved(const QString &path);
     /**
-     * Writes the copy now where something has changed since it was written.
+     * Writes the copy now where something has changed since it was written, and waits for it.
      *
      * @return false where it cannot be written; failed() says why.
      */
@@ -102,11 +109,17 @@ public:
     static void discard(const MRVRecoveredFile &file);
 
 Q_SIGNALS:
-    /** The copy could not be written; it will be tried again after the next change. */
+    /** A copy could not be written; it will be tried again after the next change. */
     void failed(const MRVError &error);
 
 private:
+    class Copying;
+
     void followChange();
+    void keepSoon();
+    bool begin();
+    bool end();
+    void finish();
     void remove();
     bool lock();
 
@@ -119,5 +132,7 @@ private:
     QTimer m_pause; // runs from the last change
     QTimer m_limit; // runs from the first one
     int m_interval = 2000; // in milliseconds
-    bool m_isChanged = false;
+    bool m_isChanged = false; // since the copy that was begun last
+    bool m_isDue = false; // when the copy that is being written is done
+    std::unique_ptr<Copying> m_copying; // null where no thread runs
 };

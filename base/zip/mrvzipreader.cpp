@@ -10,9 +10,11 @@
 
 #include <cerrno>
 #include <cstring>
+#include <mutex>
 
 struct MRVZipReader::Archive
 {
+    std::mutex mutex; // the library reads in one thread at a time
     QByteArray bytes; // that the library reads
     zip_t *zip = nullptr;
 
@@ -158,6 +160,7 @@ bool MRVZipReader::readAll(int index, qint64 most, QByteArray *bytes, MRVErrorSi
     if (index < 0 || index >= m_files.size()) {
         return MRV::fail(error, MRVErrorKind::NotFound, tr("it is missing"));
     }
+    const std::lock_guard<std::mutex> guard(m_archive->mutex);
     zip_t *zip = m_archive->zip;
     zip_stat_t stat;
     const qint64 size = m_files.at(index).size;

@@ -28,7 +28,8 @@ struct MRVZipFile
  * An archive is refused as a whole where its files overlap or claim more than their bytes can hold,
  * where two have one name, where a name leads out of the folder that the archive would be unpacked
  * to, and where there are more than MRVInputLimits::ZipFiles. Memory grows with what was read, not
- * with what the archive says. Folders have no entry here.
+ * with what the archive says. Folders have no entry here. Several threads may read from one at the
+ * same time.
  *
  * @code
  * const MRVZipReader archive(QStringLiteral("book.zip"));
