@@ -431,6 +431,17 @@ private Q_SLOTS:
         editor.undo();
         QTEST(editor.elements(), "elements");
     }
+    // That the mode gives an empty document its element is no change; that its text went is one.
+    void scriptModeAndChanges()
+    {
+        ScriptEditor editor;
+        QVERIFY(!editor.document()->isModified());
+        editor.type("x");
+        editor.textCursor().deletePreviousChar();
+        editor.document()->setModified(true);
+        editor.script->setMode(editor.script->mode());
+        QVERIFY(editor.document()->isModified());
+    }
     // A paragraph that is divided stays what it is, in both halves.
     void scriptParagraphDivided()
     {

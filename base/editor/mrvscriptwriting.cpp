@@ -49,8 +49,9 @@ void MRVScriptWriting::setMode(const MRVScriptMode &mode)
     m_collected = 0;
     m_collecting.start(0);
     if (isActive() && m_editor->document()->isEmpty()) {
+        const bool isModified = m_editor->document()->isModified();
         setElement(0);
-        m_editor->document()->setModified(false);
+        m_editor->document()->setModified(isModified);
     }
     m_shownElement = -2;
     Q_EMIT modeChanged();
