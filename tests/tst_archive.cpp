@@ -605,6 +605,7 @@ private Q_SLOTS:
         remove(&files, "pictures/1-picture-1.png");
         QVERIFY(!reader.readBytes(zipOf(files), "stdin", QString(), &manuscript));
         QCOMPARE(reader.error(), MRVManuscriptReader::PictureError);
+        QCOMPARE(reader.errorKind(), MRVErrorKind::Damaged);
         reader.setMissingPictures(MRVManuscriptReader::Keep);
         *find(&files, "document") = "damaged";
         QVERIFY(reader.readBytes(zipOf(files), "stdin", QString(), &manuscript));

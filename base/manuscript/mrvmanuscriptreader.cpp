@@ -202,7 +202,7 @@ bool MRVManuscriptReader::readArchive(const QString &folder, MRVManuscript *read
     }
     QVector<MRVUnreadablePicture> unreadable;
     for (const QString &name : archive.missingPictures()) {
-        unreadable.append({name, 0, tr("it is missing or damaged")});
+        unreadable.append({name, 0, tr("it is missing or damaged"), MRVErrorKind::Damaged});
     }
     return takeUnreadable(unreadable, read);
 }
