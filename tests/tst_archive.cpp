@@ -528,8 +528,13 @@ private Q_SLOTS:
         };
         for (int i = 0; i < bytes.size(); ++i) {
             tryOut(bytes.left(i));
-            QCOMPARE(wholes + texts, 0); // until a whole one has been there
         }
+        const int wordsEnd = bytes.indexOf("PK\3\4", bytes.indexOf("text.txt"));
+        const int documentEnd = bytes.indexOf("PK\3\4", wordsEnd + 1);
+        QCOMPARE(texts, documentEnd - wordsEnd);
+        QCOMPARE(wholes, bytes.size() - documentEnd);
+        texts = 0;
+        wholes = 0;
         for (int i = 0; i < bytes.size(); ++i) {
             QByteArray changed = bytes;
             changed[i] = char(changed.at(i) ^ (i % 2 ? 0x81 : 0x03));
@@ -537,6 +542,20 @@ private Q_SLOTS:
         }
         QVERIFY(wholes > 50);
         QVERIFY(texts > 500);
+        // The directory, and all that is after the words.
+        const int directory = bytes.indexOf("PK\1\2");
+        for (const int begin : {directory, wordsEnd}) {
+            const QTemporaryDir folder;
+            const QString path = folder.filePath("a.mrvdoc");
+            QVERIFY(writeBytes(path, bytes.left(begin) + QByteArray(bytes.size() - begin, '\0')));
+            MRVGuardedDocument read;
+            MRVDocumentArchive archive;
+            QString error;
+            QVERIFY2(archive.read(path, &read, &error), qPrintable(error));
+            QCOMPARE(archive.isTextOnly(), begin == wordsEnd);
+            QCOMPARE(archive.notes().size(), 1);
+            QCOMPARE(read.toPlainText().left(7), QString("Heading"));
+        }
     }
 
     void missingParts_data()
@@ -625,6 +644,10 @@ private Q_SLOTS:
         QVERIFY(!archive.read(folder.path(), &read, &error));
         QVERIFY2(error.endsWith(": it is not a regular file"), qPrintable(error));
         QVERIFY(!archive.read(folder.filePath("none.mrvdoc"), nullptr, &error));
+        MRVError reason;
+        QVERIFY(!archive.read(saved(document), nullptr, &reason));
+        QCOMPARE(reason.kind, MRVErrorKind::NotFound);
+        QVERIFY(!reason.text.isEmpty());
         QVERIFY(!archive.write(document, folder.filePath("no/folder.mrvdoc"), &error));
         QVERIFY2(error.contains("no/folder"), qPrintable(error));
     }

@@ -7,10 +7,13 @@
 #include "textformat/mrvtextformat.h"
 #include "util/mrvfailure.h"
 #include "zip/mrvzipreader.h"
+#include "zip/mrvziprepair.h"
 
 #include "core/mrvfilewriter.h"
 #include "core/mrvinputlimits.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextCursor>
@@ -22,6 +25,16 @@ bool isPropertyName(const QString &name)
     static const QRegularExpression pattern(
         QStringLiteral("\\A[A-Za-z0-9][A-Za-z0-9._-]{0,99}\\z"));
     return pattern.match(name).hasMatch();
+}
+
+// What a damaged file begins with; null where it is no archive.
+QByteArray beginningOf(const QString &path)
+{
+    constexpr int Head = 100;
+    QFile file(path);
+    const bool isArchive = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
+        && MRVDocumentArchive::isArchive(file.peek(Head));
+    return isArchive ? file.read(MRVInputLimits::FileBytes) : QByteArray();
 }
 
 /** The pictures of a file, by the URLs under which its document asks for them. */
@@ -193,6 +206,7 @@ bool MRVDocumentArchive::write(const QTextDocument &document, QIODevice *device,
         return false;
     }
     m_isTextOnly = false;
+    m_isRepaired = false;
     m_missingPictures = snapshot.missingPictures();
     m_damagedProperties.clear();
     return true;
@@ -202,20 +216,35 @@ bool MRVDocumentArchive::read(const QString &path, MRVGuardedDocument *document,
 {
     MRVError reason;
     return read(std::make_shared<const MRVZipReader>(path), document, &reason)
+        || (reason.kind == MRVErrorKind::Damaged && repair(beginningOf(path), document))
         || MRV::fail(error, path, reason);
 }
 
 bool MRVDocumentArchive::read(const QByteArray &bytes, MRVGuardedDocument *document,
                               MRVErrorSink error)
 {
-    return read(std::make_shared<const MRVZipReader>(bytes), document, error);
+    MRVError reason;
+    return read(std::make_shared<const MRVZipReader>(bytes), document, &reason)
+        || (reason.kind == MRVErrorKind::Damaged && repair(bytes, document))
+        || MRV::fail(error, reason);
+}
+
+// Reads what a file has that breaks off, or has lost its directory.
+bool MRVDocumentArchive::repair(const QByteArray &bytes, MRVGuardedDocument *document)
+{
+    m_isRepaired = isArchive(bytes)
+        && read(std::make_shared<const MRVZipReader>(mrvRepairZip(bytes)), document, nullptr);
+    return m_isRepaired;
 }
 
 bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
                               MRVGuardedDocument *document, MRVErrorSink error)
 {
-    if (!file->isOpen() || !document) {
+    if (!file->isOpen()) {
         return MRV::fail(error, file->error());
+    }
+    if (!document) {
+        return MRV::fail(error, MRVErrorKind::NotFound, tr("there is no document to read it into"));
     }
     const int place = file->indexOf(MRVArchiveNames::DocumentFile);
     const QByteArray type =
@@ -241,6 +270,7 @@ bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
     document->setPictureLoader({});
     m_missingPictures.clear();
     m_isTextOnly = !isWhole;
+    m_isRepaired = false;
     const Properties properties(*file);
     m_properties = properties.values;
     m_damagedProperties = properties.damaged;
@@ -262,6 +292,9 @@ QStringList MRVDocumentArchive::notes() const
     if (m_isTextOnly) {
         notes.append(tr("the document is damaged; its words were read, without formats and "
                         "pictures"));
+    } else if (m_isRepaired) {
+        notes.append(
+            tr("the file is damaged; the document is whole, but other parts may be missing"));
     }
     for (const QString &picture : m_missingPictures) {
         notes.append(tr("the picture %1 is missing or damaged").arg(picture));

@@ -110,10 +110,12 @@ public:
      * they are read when they are needed.
      *
      * A picture that is missing or damaged costs nothing else: notes() names it. Where the document
-     * itself is damaged and its words are whole, these are read: isTextOnly().
+     * itself is damaged and its words are whole, these are read: isTextOnly(). So they are in a
+     * file that breaks off, or has lost its directory: what is whole in it is read from a copy in
+     * memory.
      *
      * @param document is cleared before; it has no undo history then, and is not modified.
-     *                 Untouched on failure, as this object is. Null does nothing and fails.
+     *                 Untouched on failure, as this object is. Null fails.
      * @param error    if given, receives one translated line that names the file on failure;
      *                 untouched on success.
      * @return false for what is no such file, for one that is damaged too much, and for one that a
@@ -133,8 +135,9 @@ public:
     bool isTextOnly() const { return m_isTextOnly; }
     /**
      * The names of the pictures that the document shows and that the last writing or reading found
-     * missing or damaged; a file knows its missing ones, and reading it names them again. Their places in the text are as they were. Those on other machines do not
-     * count, as they were never part of a file.
+     * missing or damaged; a file knows its missing ones, and reading it names them again. Their
+     * places in the text are as they were. Those on other machines do not count, as they were never
+     * part of a file.
      */
     QStringList missingPictures() const { return m_missingPictures; }
     /** What somebody should know about the last writing or reading, a translated line each. */
@@ -143,11 +146,13 @@ public:
 private:
     bool read(const std::shared_ptr<const MRVZipReader> &file, MRVGuardedDocument *document,
               MRVErrorSink error);
+    bool repair(const QByteArray &bytes, MRVGuardedDocument *document);
 
     QVector<MRVMetadataEntry> m_metadata;
     QMap<QString, QByteArray> m_properties;
     QDateTime m_modified;
     bool m_isTextOnly = false;
+    bool m_isRepaired = false;
     QStringList m_missingPictures;
     QStringList m_damagedProperties;
 };

@@ -279,6 +279,14 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>what the program keeps as %1 is damaged</source>
         <translation>was das Programm als %1 aufbewahrt, ist beschädigt</translation>
     </message>
+    <message>
+        <source>there is no document to read it into</source>
+        <translation>es fehlt ein Dokument, in das sie gelesen wird</translation>
+    </message>
+    <message>
+        <source>the file is damaged; the document is whole, but other parts may be missing</source>
+        <translation>die Datei ist beschädigt; das Dokument ist vollständig, anderes kann aber fehlen</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>

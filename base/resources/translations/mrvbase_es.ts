@@ -279,6 +279,14 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>what the program keeps as %1 is damaged</source>
         <translation>lo que el programa guarda como %1 está dañado</translation>
     </message>
+    <message>
+        <source>there is no document to read it into</source>
+        <translation>falta un documento en el que leerlo</translation>
+    </message>
+    <message>
+        <source>the file is damaged; the document is whole, but other parts may be missing</source>
+        <translation>el archivo está dañado; el documento está completo, pero pueden faltar otras partes</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>

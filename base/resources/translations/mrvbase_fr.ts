@@ -279,6 +279,14 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>what the program keeps as %1 is damaged</source>
         <translation>ce que le programme conserve sous %1 est endommagé</translation>
     </message>
+    <message>
+        <source>there is no document to read it into</source>
+        <translation>aucun document n’est prévu pour la recevoir</translation>
+    </message>
+    <message>
+        <source>the file is damaged; the document is whole, but other parts may be missing</source>
+        <translation>le fichier est endommagé&#xa0;; le document est complet, mais d’autres parties peuvent manquer</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>
