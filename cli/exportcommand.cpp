@@ -4,6 +4,7 @@
 #include "epub/mrvbooklist.h"
 #include "epub/mrvepubcheck.h"
 #include "epub/mrvepubpackage.h"
+#include "markdown/mrvfrontmatter.h"
 #include "pdf/mrvmanuscriptpdf.h"
 #include "publish/mrvoutputfiles.h"
 #include "publish/mrvpagepublisher.h"
@@ -363,7 +364,12 @@ bool exportTexts(const Call &call, const Options &options,
 {
     QStringList losses;
     for (const MRVManuscript &manuscript : manuscripts) {
-        const QStringList own = MRVDocumentLosses::of(*manuscript.document, options.text);
+        QStringList own = MRVDocumentLosses::of(*manuscript.document, options.text);
+        if (options.text == MRVDocumentLosses::Markdown) {
+            for (const QString &key : MRVFrontMatter::lostKeys(manuscript.head())) {
+                own.append(QStringLiteral("metadata %1").arg(key));
+            }
+        }
         for (const QString &loss : own) {
             losses.append(QStringLiteral("%1: not written: %2").arg(manuscript.path, loss));
         }

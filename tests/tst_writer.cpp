@@ -324,6 +324,28 @@ private Q_SLOTS:
         QVERIFY2(found.contains(QRegularExpression(saved)), qPrintable(found));
     }
 
+    // A copy for the case of a crash holds the manuscript, and not what else its file does.
+    void recoveredFinalDraft()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("a.fdx");
+        QVERIFY(QFile::copy(MRV_SOURCE_DIR "/tests/data/script.fdx", path));
+        const QByteArray before = bytesOf(path);
+        ManuscriptFile file;
+        MRVScriptMode mode;
+        QStringList notes;
+        MRVError error;
+        auto document = file.read(path, &mode, &notes, &error);
+        QVERIFY2(document, qPrintable(error.text));
+        const QString copy = folder.filePath("copy.mrvdoc");
+        QVERIFY(file.archive(mode).write(*document, copy));
+        document = file.read(copy, &mode, &notes, &error);
+        QVERIFY2(document, qPrintable(error.text));
+        file.setOrigin(path, QDateTime::currentDateTime());
+        QVERIFY(file.write(document.get(), path, mode, &error));
+        QCOMPARE(bytesOf(path), before);
+    }
+
     // What a Final Draft document holds besides the script stays, as long as that can be.
     void finalDraftIsChangedInPlace()
     {
@@ -458,6 +480,16 @@ private Q_SLOTS:
                               << ";;;;";
         QTest::newRow("from html") << page << QStringList{"a.html", "b.mrvdoc", "c.md"} << ""
                                    << "Ann Lee;fr;;;";
+        QTest::newRow("maps") << "---\ntitle: T\nparams:\n  a: b\ntags: {a: b}\n---\n\nText\n"
+                              << QStringList{"a.md", "b.md"} << "Metadata: params, tags"
+                              << ";;;;";
+        QTest::newRow("keys")
+            << "<head><title>T</title><meta name=keywords content=a><meta name=keywords "
+               "content=b></head>c"
+            << QStringList{"a.html", "b.md"} << ""
+            << ";;;;";
+        QTest::newRow("own page") << page << QStringList{"a.html", "b.html", "c.html"} << ""
+                                  << ";;;;";
         QTest::newRow("page")
             << page << QStringList{"a.html", "b.html"}
             << "The page's own structure, classes and style sheets\nMetadata: author, "

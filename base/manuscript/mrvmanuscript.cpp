@@ -26,8 +26,8 @@ constexpr struct
 };
 
 // Metadata of HTML that say nothing of the text, but how programs show or collect the page.
-constexpr const char *pageKeys[] = {"color-scheme", "format-detection", "generator", "referrer",
-                                    "robots",       "theme-color",      "viewport"};
+constexpr const char *pageKeys[] = {"color-scheme", "format-detection", "generator",   "qrichtext",
+                                    "referrer",     "robots",           "theme-color", "viewport"};
 
 } // namespace
 

@@ -4,8 +4,12 @@
 #include "markdown/mrvmarkdownhead.h"
 #include "util/mrvnames.h"
 
+#include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 #include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -268,6 +272,39 @@ const QRegularExpression &yamlKey()
     return key;
 }
 
+/** What MRVMarkdownHead has no members for and can be written; each key once, as in YAML. */
+QVector<MRVMetadataEntry> othersOf(const QVector<MRVMetadataEntry> &entries)
+{
+    static const QRegularExpression key(QStringLiteral("^[A-Za-z_][\\w.-]*$"));
+    QVector<MRVMetadataEntry> others;
+    QHash<QString, int> places;
+    for (const MRVMetadataEntry &entry : entries) {
+        QStringList values = entry.values;
+        values.removeAll(QString());
+        const Field field = fieldOf(entry.key);
+        if (values.isEmpty() || (field != Unknown && field != Other)
+            || !key.match(entry.key).hasMatch()) {
+            continue;
+        }
+        const int place = places.value(entry.key, others.size());
+        if (place == others.size()) {
+            places.insert(entry.key, place);
+            others.append({entry.key, {}, 0});
+        }
+        others[place].values += values;
+    }
+    return others;
+}
+
+/** In quotes where it is another thing than a text for YAML. */
+QString writtenKey(const QString &key)
+{
+    static const QRegularExpression special(
+        QStringLiteral("^(?:null|true|false|yes|no|on|off|y|n)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return special.match(key).hasMatch() ? u'"' + key + u'"' : key;
+}
+
 bool isFence(const QString &line)
 {
     static const QRegularExpression fence(QStringLiteral("^(?:---|\\.\\.\\.)\\s*$"));
@@ -404,15 +441,33 @@ QString MRVFrontMatter::write(const MRVMarkdownHead &head)
     addText(QLatin1String("description"), head.description);
     addText(QLatin1String("language"), head.language);
     addText(QLatin1String("date"), head.date);
-    static const QRegularExpression key(QStringLiteral("^[A-Za-z_][\\w.-]*$"));
     bool isFrontMatter = !lines.isEmpty(); // without a key that is known, it would be text
-    for (const MRVMetadataEntry &entry : head.entries) {
-        const Field field = fieldOf(entry.key);
-        if ((field == Unknown || field == Other) && !entry.values.isEmpty()
-            && key.match(entry.key).hasMatch()) {
-            add(entry.key, entry.values, entry.values.size() > 1);
-            isFrontMatter = isFrontMatter || field == Other;
-        }
+    const QVector<MRVMetadataEntry> others = othersOf(head.entries);
+    for (const MRVMetadataEntry &entry : others) {
+        add(writtenKey(entry.key), entry.values, entry.values.size() > 1);
+        isFrontMatter = isFrontMatter || fieldOf(entry.key) == Other;
     }
     return isFrontMatter ? QLatin1String("---\n") + lines + QLatin1String("---\n") : QString();
+}
+
+QStringList MRVFrontMatter::lostKeys(const MRVMarkdownHead &head)
+{
+    QVector<MRVMetadataEntry> entries;
+    read(write(head), &entries);
+    QSet<QString> written;
+    for (const MRVMetadataEntry &entry : qAsConst(entries)) {
+        written += QSet<QString>(entry.values.begin(), entry.values.end());
+    }
+    QStringList keys;
+    for (const MRVMetadataEntry &entry : head.entries) {
+        const auto isWritten = [&](const QString &value) {
+            return written.contains(value.simplified());
+        };
+        if (entry.values.isEmpty()
+            || !std::all_of(entry.values.cbegin(), entry.values.cend(), isWritten)) {
+            keys.append(entry.key);
+        }
+    }
+    keys.removeDuplicates();
+    return keys;
 }

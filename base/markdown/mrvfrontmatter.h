@@ -4,6 +4,7 @@
 #include "util/mrvmetadataentry.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 struct MRVMarkdownHead;
@@ -40,10 +41,16 @@ public:
 
     /**
      * Metadata between two lines of "---", as a Markdown text begins with: title, authors,
-     * description, language and date, and those of the entries that the other members do not have.
+     * description, language and date, and those of the entries that the other members do not have,
      * Ends of lines in them become blanks. Entries without a value or with a key that read() does
      * not take are left out. Empty where nothing is left by which MRVMarkdown would know metadata
      * from text: one of the five, or a usual key such as "publisher".
      */
     static QString write(const MRVMarkdownHead &head);
+
+    /**
+     * The keys, each once, of entries that write() leaves out in whole or in part, those whose
+     * values read() has not understood among them.
+     */
+    static QStringList lostKeys(const MRVMarkdownHead &head);
 };

@@ -23,9 +23,9 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // These are answered without a display, too.
     constexpr std::string_view questions[] = {"-h", "--help", "--help-all", "-v", "--version"};
+    char **const files = std::find(argv, argv + argc, std::string_view("--"));
     const bool isQuestion =
-        std::find_first_of(argv, argv + argc, std::begin(questions), std::end(questions))
-        != argv + argc;
+        std::find_first_of(argv, files, std::begin(questions), std::end(questions)) != files;
     const std::unique_ptr<QCoreApplication> application(
         isQuestion ? new QCoreApplication(argc, argv) : new QApplication(argc, argv));
     QApplication::setOrganizationName(MRVOptions::companyName());

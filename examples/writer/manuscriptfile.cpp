@@ -72,10 +72,9 @@ bool isXhtml(const QString &path)
 }
 
 // Qt's own pages, which the library writes, hold nothing that the document has not.
-bool isForeignPage(const MRVManuscript &manuscript)
+bool isForeignPage(const QByteArray &page)
 {
-    return manuscript.format == MRVManuscript::Html
-        && !manuscript.sourceText().contains(QLatin1String("<meta name=\"qrichtext\""));
+    return !page.contains("<meta name=\"qrichtext\"");
 }
 
 std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHead *head,
@@ -97,7 +96,7 @@ std::unique_ptr<QTextDocument> readManuscript(const QString &path, MRVMarkdownHe
     }
     *notes += manuscript.readingNotes();
     *head = manuscript.head();
-    *isForeign = isForeignPage(manuscript);
+    *isForeign = manuscript.format == MRVManuscript::Html && isForeignPage(manuscript.bytes);
     MRVNestedLists::toLevels(manuscript.document.get());
     return std::move(manuscript.document);
 }
@@ -282,20 +281,28 @@ void ManuscriptFile::setOrigin(const QString &path, const QDateTime &copied)
     m_format = formatOf(path);
     m_digest =
         path.isEmpty() || QFileInfo(path).lastModified() > copied ? QByteArray() : digestOf(path);
+    // The copy holds the manuscript alone.
+    const QByteArray bytes = path.isEmpty() ? QByteArray() : MRVCoreUtil::ReadBinaryFile(path);
+    m_script = MRVScriptFile();
+    m_script.read(bytes, MRVScriptFile::formatOfFile(path));
+    m_isForeignPage = m_format == Html && isForeignPage(bytes);
 }
 
 QStringList ManuscriptFile::losses(const QTextDocument &document, const QString &path,
                                    const MRVScriptMode &mode) const
 {
     QStringList losses;
-    QVector<MRVMetadataEntry> written;
-    QStringList kept; // keys and values of metadata
+    QStringList keys; // of metadata
+    for (const MRVMetadataEntry &entry : m_head.entries) {
+        keys.append(entry.key);
+    }
     switch (formatOf(path)) {
     case Html:
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Html);
-        kept << QStringLiteral("title");
+        keys.removeAll(QStringLiteral("title"));
         if (isXhtml(path)) {
-            kept << QStringLiteral("lang") << QStringLiteral("language");
+            keys.removeAll(QStringLiteral("lang"));
+            keys.removeAll(QStringLiteral("language"));
         }
         if (m_isForeignPage) {
             losses.append(tr("The page's own structure, classes and style sheets"));
@@ -303,10 +310,7 @@ QStringList ManuscriptFile::losses(const QTextDocument &document, const QString 
         break;
     case Markdown:
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Markdown);
-        MRVFrontMatter::read(MRVFrontMatter::write(m_head), &written);
-        for (const MRVMetadataEntry &entry : qAsConst(written)) {
-            kept += entry.values;
-        }
+        keys = MRVFrontMatter::lostKeys(m_head);
         break;
     case Text:
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::PlainText);
@@ -316,7 +320,9 @@ QStringList ManuscriptFile::losses(const QTextDocument &document, const QString 
         losses = MRVDocumentLosses::of(document, MRVDocumentLosses::Script);
         bool isInPlace = false;
         scriptBytes(document, path, mode, &isInPlace);
-        if (m_script.format() == MRVScriptFile::FinalDraft && !isInPlace) {
+        const bool isReplaced = m_script.format() == MRVScriptFile::FinalDraft
+            || (formatOf(path) == FinalDraft && path == m_path);
+        if (isReplaced && !isInPlace) {
             losses.append(tr("What the Final Draft document holds besides the script, such as its "
                              "cast, revisions and tags"));
         }
@@ -324,14 +330,6 @@ QStringList ManuscriptFile::losses(const QTextDocument &document, const QString 
     }
     default:
         return {};
-    }
-    QStringList keys;
-    for (const MRVMetadataEntry &entry : m_head.entries) {
-        const auto isKept = [&](const QString &value) { return kept.contains(value); };
-        if (!kept.contains(entry.key)
-            && !std::all_of(entry.values.cbegin(), entry.values.cend(), isKept)) {
-            keys.append(entry.key);
-        }
     }
     keys.removeDuplicates();
     if (!keys.isEmpty()) {

@@ -72,8 +72,8 @@ public:
     bool write(QTextDocument *document, const QString &path, const MRVScriptMode &mode,
                MRVError *error);
     /**
-     * What a file with this path would lack of the document, and of what the file held that was
-     * read, a line each.
+     * What a file with this path would lack of the document and its metadata, and of what the file
+     * held that it replaces, a line each.
      *
      * @param mode with which a script was written.
      */

@@ -210,6 +210,7 @@ bool WriterWindow::saveTo(const QString &name)
         m_file.write(m_editor->document(), path, m_editor->script()->mode(), &error);
     QApplication::restoreOverrideCursor();
     if (!isSaved) {
+        m_acceptedLosses.clear(); // of a file that is not there
         fail(tr("The manuscript is not saved. The file is as it was before."), error);
         return false;
     }
