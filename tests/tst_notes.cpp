@@ -215,6 +215,55 @@ private Q_SLOTS:
     }
 
     // Without a selection nothing changes, but the next text has no marks.
+    void typedAfterLinks_data()
+    {
+        // In "nab", of which "ab" is a link, and "c", which is one, too.
+        QTest::addColumn<int>("caret");
+        QTest::addColumn<bool>("isInNote");
+        QTest::addColumn<bool>("isBold"); // what the user has just chosen
+        QTest::addColumn<QString>("looks"); // of what is typed
+        QTest::newRow("before") << 1 << false << false << "note";
+        QTest::newRow("within") << 2 << false << true << "link bold";
+        QTest::newRow("after") << 3 << false << false << "";
+        QTest::newRow("after, in a note") << 3 << true << false << "note";
+        QTest::newRow("after, chosen") << 3 << false << true << "bold";
+        QTest::newRow("beginning") << 4 << false << false << "";
+        QTest::newRow("end") << 5 << false << false << "";
+    }
+    // It is no part of the link, nor of the note before it.
+    void typedAfterLinks()
+    {
+        QFETCH(int, caret);
+        QFETCH(bool, isInNote);
+        QFETCH(bool, isBold);
+        QTextCharFormat note;
+        note.setProperty(MRVTextFormat::InlineFootnoteProperty, true);
+        QTextCharFormat link = isInNote ? note : QTextCharFormat();
+        link.setAnchor(true);
+        link.setAnchorHref("a");
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        cursor.insertText("n", note);
+        cursor.insertText("ab", link);
+        cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+        cursor.insertText("c", link);
+        cursor.setPosition(caret);
+        if (isBold) {
+            QTextCharFormat bold = cursor.charFormat();
+            bold.setFontWeight(QFont::Bold);
+            cursor.setCharFormat(bold);
+        }
+        MTextDoc::leaveLink(&cursor);
+        cursor.insertText("x");
+        const QTextCharFormat typed = cursor.charFormat();
+        QStringList looks;
+        looks << (typed.boolProperty(MRVTextFormat::InlineFootnoteProperty) ? "note" : "")
+              << (typed.isAnchor() ? "link" : "")
+              << (typed.fontWeight() == QFont::Bold ? "bold" : "");
+        looks.removeAll(QString());
+        QCOMPARE(looks.join(' '), cell("looks"));
+    }
+
     void typedText()
     {
         QTextDocument document;

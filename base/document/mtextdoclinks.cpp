@@ -61,11 +61,13 @@ bool MTextDoc::leaveLink(QTextCursor *cursor)
     if (!cursor || cursor->isNull() || cursor->hasSelection()) {
         return false;
     }
-    const QString address = cursor->charFormat().anchorHref();
+    const QTextCharFormat caret = cursor->charFormat();
+    const QString address = caret.anchorHref();
     if (address.isEmpty()) {
         return false;
     }
     QTextCharFormat format = cursor->blockCharFormat();
+    QTextCharFormat link = caret;
     bool isAfterLink = false;
     const QTextBlock block = cursor->block();
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -81,8 +83,22 @@ bool MTextDoc::leaveLink(QTextCursor *cursor)
             return false;
         }
         isAfterLink = isLink;
+        link = isLink ? fragment.charFormat() : link;
         if (!isLink && !fragment.charFormat().isImageFormat()) {
             format = fragment.charFormat();
+        }
+    }
+    // A note before the link is not gone on with, and what the user has just chosen stays.
+    for (const int note :
+         {MRVTextFormat::InlineFootnoteProperty, MRVTextFormat::InlineAnnotationProperty}) {
+        if (!link.hasProperty(note)) {
+            format.clearProperty(note);
+        }
+    }
+    const QMap<int, QVariant> chosen = caret.properties();
+    for (auto it = chosen.cbegin(); it != chosen.cend(); ++it) {
+        if (link.property(it.key()) != it.value()) {
+            format.setProperty(it.key(), it.value());
         }
     }
     clearLinkProperties(&format);
