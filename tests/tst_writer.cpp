@@ -545,7 +545,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, fault);
         QFETCH(QString, advice);
-        const QTemporaryDir folder;
+        const QTemporaryDir folder("/tmp/tst_writer-XXXXXX"); // where Nobody can get to
         const QString path = savedManuscript(folder, "Old");
         const QByteArray before = bytesOf(path);
         QPointer<WriterWindow> window = newWindow();
