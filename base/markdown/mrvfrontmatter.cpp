@@ -21,7 +21,7 @@ constexpr struct
 {
     const char *key;
     Field field;
-} keys[] = {
+} knownKeys[] = {
     {"title", Title},
     {"author", Author},
     {"authors", Author},
@@ -59,7 +59,7 @@ constexpr struct
 
 Field fieldOf(const QString &key)
 {
-    for (const auto &row : keys) {
+    for (const auto &row : knownKeys) {
         if (key == QLatin1String(row.key)) {
             return row.field;
         }
@@ -458,16 +458,16 @@ QStringList MRVFrontMatter::lostKeys(const MRVMarkdownHead &head)
     for (const MRVMetadataEntry &entry : qAsConst(entries)) {
         written += QSet<QString>(entry.values.begin(), entry.values.end());
     }
-    QStringList keys;
+    QStringList lost;
     for (const MRVMetadataEntry &entry : head.entries) {
         const auto isWritten = [&](const QString &value) {
             return written.contains(value.simplified());
         };
         if (entry.values.isEmpty()
             || !std::all_of(entry.values.cbegin(), entry.values.cend(), isWritten)) {
-            keys.append(entry.key);
+            lost.append(entry.key);
         }
     }
-    keys.removeDuplicates();
-    return keys;
+    lost.removeDuplicates();
+    return lost;
 }
