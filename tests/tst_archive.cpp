@@ -553,8 +553,12 @@ private Q_SLOTS:
             QString error;
             QVERIFY2(archive.read(path, &read, &error), qPrintable(error));
             QCOMPARE(archive.isTextOnly(), begin == wordsEnd);
-            QCOMPARE(archive.notes().size(), 1);
+            QCOMPARE(archive.notes().size(), begin == wordsEnd ? 2 : 1);
+            QVERIFY(archive.notes().last().contains("may be missing"));
             QCOMPARE(read.toPlainText().left(7), QString("Heading"));
+            const QStringList notes = archive.notes();
+            QVERIFY(!archive.read(bytes.left(20), &read));
+            QCOMPARE(archive.notes(), notes); // of the last one that was read
         }
     }
 
@@ -733,6 +737,29 @@ private Q_SLOTS:
             mayGoOn.release();
         }
         QVERIFY(QDir(home.path()).isEmpty(QDir::Files));
+    }
+    // Two pictures that another program writes all the time.
+    void recoveryOfChangingPictures()
+    {
+        QTemporaryDir home;
+        MRVGuardedDocument document;
+        std::atomic<int> reads{0};
+        document.setPictureLoader(
+            {[](const QUrl &) { return true; },
+             [&](const QUrl &) { return QByteArray::number(1000 + ++reads); }});
+        QTextCursor cursor(&document);
+        cursor.insertImage("tide");
+        cursor.insertText("words");
+        cursor.insertImage("moon");
+        MRVRecovery recovery(home.path());
+        recovery.follow(&document, QString());
+        QVERIFY(recovery.keep());
+        MRVGuardedDocument read;
+        MRVDocumentArchive archive;
+        const QFileInfo copy = QDir(home.path()).entryInfoList({"*.mrvdoc"}).value(0);
+        QVERIFY(archive.read(copy.filePath(), &read));
+        QCOMPARE(read.toPlainText().mid(1, 5), QString("words"));
+        QCOMPARE(archive.notes(), QStringList());
     }
     void recoveryFollowsTheDocument()
     {

@@ -95,7 +95,7 @@ void MRVArchivePictures::addShown(const QTextDocument &document, const QString &
         } else if (hasPixels(source)) {
             const QImage image = MRVGuiUtil::toImage(source, nullptr);
             picture.bytes = [image] { return MRVGuiUtil::toByteArray(image, "PNG"); };
-            picture.isEncoded = true;
+            picture.isKept = true; // encoding takes long
         } else {
             picture.bytes = [bytes = source.toByteArray()] { return bytes; };
         }
@@ -105,15 +105,19 @@ void MRVArchivePictures::addShown(const QTextDocument &document, const QString &
 
 bool MRVArchivePictures::read(Lost lost, QVector<MRVArchivedPicture> *pictures)
 {
+    m_files.clear();
+    m_paths.clear();
+    m_missing.clear();
+    m_failed->clear();
     QSet<QString> rawFiles;
     qint64 rawBytes = 0;
     for (const Source &source : qAsConst(m_sources)) {
         const QByteArray bytes = source.bytes();
         if (!bytes.isEmpty()) {
-            const auto encoded = [bytes] { return bytes; }; // which took long to make
+            const auto kept = [bytes] { return bytes; };
             const QString file =
                 add(source.name, bytes,
-                    source.isEncoded ? std::function<QByteArray()>(encoded) : source.bytes);
+                    source.isKept ? std::function<QByteArray()>(kept) : source.bytes);
             pictures->append({source.name, source.format, file});
             if (source.format >= 0 && !rawFiles.contains(file)) {
                 rawFiles.insert(file);
@@ -127,8 +131,19 @@ bool MRVArchivePictures::read(Lost lost, QVector<MRVArchivedPicture> *pictures)
             pictures->append({source.name, -1, QString()}); // missing from the file, too
         }
     }
-    m_sources.clear();
     return rawBytes <= MRVInputLimits::RawPictureBytes;
+}
+
+bool MRVArchivePictures::keepFailed()
+{
+    bool isNew = false;
+    for (Source &source : m_sources) {
+        if (!failed().isEmpty() && source.name == failed() && !source.isKept) {
+            source.isKept = true;
+            isNew = true;
+        }
+    }
+    return isNew;
 }
 
 // Returns the path of the file with these bytes.

@@ -31,7 +31,7 @@ public:
     MRVArchivePictures(const QTextDocument &document, MRVDocumentFragment *fragment);
 
     /**
-     * Reads each, once.
+     * Reads each. It may be called again, when nothing is written from the files() before.
      *
      * @return false where one is lost, and where the raw data is too large.
      */
@@ -42,6 +42,12 @@ public:
     QStringList missing() const { return m_missing; }
     /** The name of one that is lost, or could not be read again while it was written; or empty. */
     QString failed() const { return *m_failed; }
+    /**
+     * After the next read(), the failed() one is written from memory, and so cannot change again.
+     *
+     * @return false where there is none, or it was so already.
+     */
+    bool keepFailed();
 
 private:
     struct Source
@@ -50,7 +56,7 @@ private:
         int format = -1; // of raw data
         std::function<QByteArray()> bytes; // in any thread
         bool isOfLoader = false;
-        bool isEncoded = false; // from pixels
+        bool isKept = false; // in memory, from read() on
     };
 
     void addShown(const QTextDocument &document, const QString &name);

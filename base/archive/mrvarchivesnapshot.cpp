@@ -49,6 +49,7 @@ bool MRVArchiveSnapshot::write(QIODevice *device, MRVErrorSink error, MRVProgres
             MRVErrorKind::Changed,
             tr("the picture %1 has changed, or cannot be read any more").arg(m_pictures.failed())};
     };
+    m_content.pictures.clear();
     const bool isPossible = m_isReadable && m_pictures.read(m_lost, &m_content.pictures);
     if (!m_pictures.failed().isEmpty()) {
         return MRV::fail(error, lost());

@@ -42,8 +42,13 @@ public:
     /** Of libdeflate; at first one beyond which archives hardly become smaller. */
     void setLevel(int level) { m_level = level; }
 
-    /** Writes an archive, once; as MRVDocumentArchive::write() does. */
+    /** Writes an archive, as MRVDocumentArchive::write() does. */
     bool write(QIODevice *device, MRVErrorSink error, MRVProgressMeter *meter = nullptr);
+    /**
+     * Whether writing once more may succeed where it has failed: a picture has changed between its
+     * two readings. The next time, one is enough for it.
+     */
+    bool canTryAgain() { return m_pictures.keepFailed(); }
     /** The names of pictures without bytes, when it was written. */
     QStringList missingPictures() const { return m_pictures.missing(); }
 

@@ -232,9 +232,12 @@ bool MRVDocumentArchive::read(const QByteArray &bytes, MRVGuardedDocument *docum
 // Reads what a file has that breaks off, or has lost its directory.
 bool MRVDocumentArchive::repair(const QByteArray &bytes, MRVGuardedDocument *document)
 {
-    m_isRepaired = isArchive(bytes)
-        && read(std::make_shared<const MRVZipReader>(mrvRepairZip(bytes)), document, nullptr);
-    return m_isRepaired;
+    if (!isArchive(bytes)
+        || !read(std::make_shared<const MRVZipReader>(mrvRepairZip(bytes)), document, nullptr)) {
+        return false;
+    }
+    m_isRepaired = true;
+    return true;
 }
 
 bool MRVDocumentArchive::read(const std::shared_ptr<const MRVZipReader> &file,
@@ -292,9 +295,12 @@ QStringList MRVDocumentArchive::notes() const
     if (m_isTextOnly) {
         notes.append(tr("the document is damaged; its words were read, without formats and "
                         "pictures"));
-    } else if (m_isRepaired) {
+    }
+    if (m_isRepaired) {
         notes.append(
-            tr("the file is damaged; the document is whole, but other parts may be missing"));
+            m_isTextOnly
+                ? tr("what the program keeps with the document may be missing, too")
+                : tr("the file is damaged; the document is whole, but other parts may be missing"));
     }
     for (const QString &picture : m_missingPictures) {
         notes.append(tr("the picture %1 is missing or damaged").arg(picture));

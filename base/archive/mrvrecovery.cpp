@@ -120,9 +120,15 @@ private:
             MRVProgressMeter meter([this](int) { return !m_isCancelled; });
             return m_snapshot->write(device, reason, &meter) && !m_isCancelled;
         };
-        if (MRVFileWriter::write(originOf(m_base), m_path.toUtf8(), &m_error)) {
-            MRVFileWriter::write(copyOf(m_base), content, &m_error);
+        if (!MRVFileWriter::write(originOf(m_base), m_path.toUtf8(), &m_error)) {
+            return;
         }
+        while (!MRVFileWriter::write(copyOf(m_base), content, &m_error)) {
+            if (m_isCancelled || !m_snapshot->canTryAgain()) {
+                return;
+            }
+        }
+        m_error = MRVError();
     }
 
     const QString m_base;

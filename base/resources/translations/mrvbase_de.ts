@@ -287,6 +287,10 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>the file is damaged; the document is whole, but other parts may be missing</source>
         <translation>die Datei ist beschädigt; das Dokument ist vollständig, anderes kann aber fehlen</translation>
     </message>
+    <message>
+        <source>what the program keeps with the document may be missing, too</source>
+        <translation>auch was das Programm mit dem Dokument aufbewahrt, kann fehlen</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>

@@ -287,6 +287,10 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>the file is damaged; the document is whole, but other parts may be missing</source>
         <translation>el archivo está dañado; el documento está completo, pero pueden faltar otras partes</translation>
     </message>
+    <message>
+        <source>what the program keeps with the document may be missing, too</source>
+        <translation>también puede faltar lo que el programa guarda con el documento</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>

@@ -287,6 +287,10 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>the file is damaged; the document is whole, but other parts may be missing</source>
         <translation>le fichier est endommagé&#xa0;; le document est complet, mais d’autres parties peuvent manquer</translation>
     </message>
+    <message>
+        <source>what the program keeps with the document may be missing, too</source>
+        <translation>ce que le programme conserve avec le document peut manquer aussi</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentLosses</name>
