@@ -37,6 +37,13 @@ int unreadable(const MRVError &error)
     return NotRead;
 }
 
+// An answer that was not printed must not look like one: 1 is an answer, too.
+int printed(int answer)
+{
+    MRVError error;
+    return flushStandardOutput(&error) ? answer : unreadable(error);
+}
+
 bool isAddress(const QString &feed)
 {
     return feed.contains(QLatin1String("://"));
@@ -331,7 +338,7 @@ int run(const Call &call)
         return usageError(wrong);
     }
     if (call.has("verify")) {
-        return verify(call, MRVSignature::publicKey(key));
+        return printed(verify(call, MRVSignature::publicKey(key)));
     }
     if (call.has("current")) {
         QCoreApplication::setApplicationVersion(call.value("current"));
@@ -350,7 +357,7 @@ int run(const Call &call)
         return unreadable(folder.error());
     }
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
-    return Check(call).run(key);
+    return printed(Check(call).run(key));
 }
 
 constexpr Verb verbs[] = {{"", "[FEED]", "", run}};

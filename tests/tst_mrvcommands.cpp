@@ -392,18 +392,35 @@ private Q_SLOTS:
 
     void fullDisk_data()
     {
-        QTest::addColumn<QString>("option");
-        QTest::newRow("help") << "--help";
-        QTest::newRow("version") << "--version";
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QString>("command"); // as the error has it
+        QTest::addColumn<int>("exitCode");
+        const QString update = "update @update/feed.xml --current ";
+        QTest::newRow("help") << "--help"
+                              << "" << 1;
+        QTest::newRow("version") << "--version"
+                                 << "" << 1;
+        QTest::newRow("newer version") << update + "1.0.0.0"
+                                       << "update: " << 3;
+        QTest::newRow("none that is newer") << update + "9.9.9.9"
+                                            << "update: " << 3;
+        QTest::newRow("signature") << "update --key @update/key.pub --verify morvane.run"
+                                   << "update: " << 3;
     }
 
     void fullDisk()
     {
-        QFETCH(QString, option);
-        const Ran ran = run("sh", {"-c", MRV_TOOL " " + option + " > /dev/full"}, {});
+        QFETCH(QString, arguments);
+        QFETCH(QString, command);
+        const QString update = MRV_SOURCE_DIR "/tests/data/update/";
+        arguments.replace("@update/", update);
+        QVERIFY(QFile::copy(update + "morvane.run", "morvane.run"));
+        QVERIFY(QFile::copy(update + "hashed.minisig", "morvane.run.minisig"));
+        const Ran ran = run("sh", {"-c", MRV_TOOL " " + arguments + " > /dev/full"}, {});
         QCOMPARE(ran.errors,
-                 "mrv: standard output cannot be written: " + qt_error_string(ENOSPC) + '\n');
-        QCOMPARE(ran.exitCode, 1);
+                 "mrv: " + command + "standard output cannot be written: " + qt_error_string(ENOSPC)
+                     + '\n');
+        QTEST(ran.exitCode, "exitCode");
     }
 
 private:
