@@ -5,6 +5,9 @@
 #include "input/mrvguardeddocument.h"
 #include "manuscript/mrvmanuscriptreader.h"
 #include "manuscriptfile.h"
+#include "options/mrvoptions.h"
+#include "preferencesdialog.h"
+#include "settingeditor.h"
 #include "support.h"
 #include "update/mrvupdatemanager.h"
 #include "updates.h"
@@ -111,6 +114,14 @@ int tellUpdates(bool hasKey)
     }
     if (WriterWindow().findChild<QAction *>("CheckForUpdates")) {
         ::puts("menu");
+    }
+    const QString setting = mrvOptions()->keyText(MRVOptions::CheckForUpdates);
+    const PreferencesDialog preferences;
+    for (const SettingEditor *editor : preferences.findChildren<SettingEditor *>()) {
+        if (editor->matches(setting)) {
+            ::puts("preference");
+            break;
+        }
     }
     return 0;
 }
@@ -694,7 +705,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<bool>("isPackaged");
         QTest::addColumn<QString>("checks");
-        QTest::newRow("with a key") << "key" << false << "start\nmenu\n";
+        QTest::newRow("with a key") << "key" << false << "start\nmenu\npreference\n";
         QTest::newRow("without") << "none" << false << "menu\n";
         QTest::newRow("of a package") << "key" << true << QString();
     }

@@ -2,6 +2,7 @@
 
 #include "searchfield.h"
 #include "settingeditor.h"
+#include "updates.h"
 
 #include <options/mrvoptions.h>
 
@@ -28,25 +29,28 @@ QStringList usedKeys()
 {
     using O = MRVOptions;
     const O &options = *mrvOptions();
-    return {options.keyText(O::GuiLanguage),
-            options.keyText(O::RecentProjectsCount),
-            options.keyText(O::CheckForUpdates),
-            options.keyText(O::CheckForUpdatesInterval),
-            options.keyText(O::CapitalizeSentences),
-            options.keyText(O::EnableSubstitution),
-            options.keyText(O::SmartQuotes),
-            options.keyText(O::SingleQuotesSubstitution),
-            options.keyText(O::EmDashes),
-            options.keyText(O::DoubleQuotesSubstitution),
-            options.keyText(O::Ellipses),
-            options.keyText(O::DictionaryLocale),
-            options.keyText(O::TextColor),
-            options.keyText(O::PageColor),
-            options.keyText(O::CommentColor),
-            options.keyText(O::FootnotesPageColor),
-            options.keyText(O::FindColor),
-            options.keyText(O::FindTextColor),
-            options.keyText(O::DefaultCharFormat)};
+    QStringList keys{options.keyText(O::GuiLanguage),
+                     options.keyText(O::RecentProjectsCount),
+                     options.keyText(O::CapitalizeSentences),
+                     options.keyText(O::EnableSubstitution),
+                     options.keyText(O::SmartQuotes),
+                     options.keyText(O::SingleQuotesSubstitution),
+                     options.keyText(O::EmDashes),
+                     options.keyText(O::DoubleQuotesSubstitution),
+                     options.keyText(O::Ellipses),
+                     options.keyText(O::DictionaryLocale),
+                     options.keyText(O::TextColor),
+                     options.keyText(O::PageColor),
+                     options.keyText(O::CommentColor),
+                     options.keyText(O::FootnotesPageColor),
+                     options.keyText(O::FindColor),
+                     options.keyText(O::FindTextColor),
+                     options.keyText(O::DefaultCharFormat)};
+    if (Updates::areAutomatic()) {
+        keys.append(
+            {options.keyText(O::CheckForUpdates), options.keyText(O::CheckForUpdatesInterval)});
+    }
+    return keys;
 }
 
 } // namespace

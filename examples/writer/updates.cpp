@@ -41,9 +41,14 @@ MRVUpdateManager *manager()
 
 void Updates::checkAtStart()
 {
-    if (!isPackaged() && QFile::exists(keyFile())) {
+    if (areAutomatic()) {
         manager();
     }
+}
+
+bool Updates::areAutomatic()
+{
+    return !isPackaged() && QFile::exists(keyFile());
 }
 
 void Updates::addTo(QMenu *menu)

@@ -23,6 +23,8 @@ public:
      * called once the application has its names; the check is made some seconds later.
      */
     static void checkAtStart();
+    /** Whether it does so at all, and the preferences of it have an effect. */
+    static bool areAutomatic();
     /** Adds the action "Check for Updates..." to a menu, unless a package keeps the program. */
     static void addTo(QMenu *menu);
 };
