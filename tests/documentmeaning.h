@@ -26,7 +26,7 @@ inline QString characterMeaning(const QTextCharFormat &format, bool isHeading)
     meaning += format.fontFamily() == "monospace" ? "m" : "";
     if (isLink) {
         const QByteArray address = QByteArray::fromPercentEncoding(format.anchorHref().toUtf8());
-        meaning += "<" + QString::fromUtf8(address) + ">";
+        meaning += "<" + QString::fromUtf8(address) + "|" + format.toolTip().simplified() + ">";
     }
     if (format.isImageFormat()) {
         const QString name = format.toImageFormat().name();
@@ -59,6 +59,7 @@ inline QStringList documentMeaning(const QTextDocument &document)
         line += QString(format.intProperty(QTextFormat::BlockQuoteLevel), '>');
         line += QString(format.indent(), ' ');
         line += format.nonBreakableLines() ? "code " : "";
+        line += format.stringProperty(QTextFormat::BlockCodeLanguage);
         line += marker.level < 0 ? QString() : marker.text + QString::number(int(format.marker()));
         line += table ? "|" : "";
         line += format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth) ? "---" : "";

@@ -604,6 +604,40 @@ private Q_SLOTS:
             QCOMPARE(html.count("<a name=\"" + name + "\"></a>"), 1);
         }
     }
+
+    // Qt reads titles, but does not write them.
+    void titlesOfLinks()
+    {
+        QTextDocument document;
+        document.setHtml(
+            "<a href=a title='&lt;b> &quot;c&quot; &amp;amp;'>d <b>e</b></a> <a href=f>g</a>"
+            "<table><tr><td><a href=h title=i>j</a></table><hr><p><a name=k>l</a>"
+            "<a href='m>' title='n>'><img src=o></a> <u title=p>q</u>");
+        QTextCursor cursor(&document);
+        cursor.movePosition(QTextCursor::End);
+        anchor(cursor, "r", "s", "t");
+        const auto titles = [](const QTextDocument &of) {
+            QStringList found;
+            for (QTextBlock block = of.begin(); block.isValid(); block = block.next()) {
+                for (auto it = block.begin(); !it.atEnd(); ++it) {
+                    const QTextCharFormat format = it.fragment().charFormat();
+                    const QString title = format.anchorHref().isEmpty() ? "" : format.toolTip();
+                    found << it.fragment().text() + format.anchorHref() + ": " + title;
+                }
+            }
+            return found;
+        };
+        for (const bool areRulesWithText : {false, true}) { // which are separated in a copy
+            if (areRulesWithText) {
+                QTextBlockFormat rule;
+                rule.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth, QTextLength());
+                cursor.mergeBlockFormat(rule);
+            }
+            QTextDocument read;
+            read.setHtml(MRVTextXhtmlExporter(&document).toText(MRVTextXhtmlExporter::Html));
+            QCOMPARE(titles(read), titles(document));
+        }
+    }
 };
 
 QTEST_MAIN(tst_Export)

@@ -44,6 +44,7 @@ QString charLook(const QTextCharFormat &format)
         format.stringProperty(MRVTextFormat::LanguageProperty));
     add(!format.anchorNames().isEmpty(), '#' + format.anchorNames().join('#'));
     add(!format.anchorHref().isEmpty(), (format.isAnchor() ? '>' : '?') + format.anchorHref());
+    add(format.hasProperty(QTextFormat::TextToolTip), '"' + format.toolTip() + '"');
     const QTextImageFormat image = format.toImageFormat();
     add(image.isValid(),
         QString("%1 %2x%3 '%4'")
@@ -79,7 +80,7 @@ QString blockLook(const QTextBlock &block)
     add(format.layoutDirection() == Qt::RightToLeft, "rtl");
     add(format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore, "break");
     add(format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth), "hr");
-    add(format.nonBreakableLines(), "pre");
+    add(format.nonBreakableLines(), "pre" + format.stringProperty(QTextFormat::BlockCodeLanguage));
     add(format.marker() == QTextBlockFormat::MarkerType::Checked, "done");
     if (const QTextList *list = block.textList()) {
         look << QString("li%1.%2").arg(-list->format().style()).arg(list->format().indent());

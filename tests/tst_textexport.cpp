@@ -155,7 +155,8 @@ private:
         } else if (kind == 2) {
             const QString address =
                 oneOf({"http://a.org", "a b(c", "x|y`", "#z", "mailto:a@b.org"});
-            return "<a href=\"" + address + "\">" + text(3) + "</a>";
+            const QString title = oneOf({"", word(), word() + " " + word()});
+            return "<a href=\"" + address + "\" title=\"" + title + "\">" + text(3) + "</a>";
         }
         const QString element = oneOf(elements);
         return QString("<%1>%2</%1>").arg(element, text(depth + 1));
@@ -167,7 +168,9 @@ private:
         if (kind == 0) {
             return QString("<h%1>%2</h%1>").arg(below(6) + 1).arg(text(0));
         } else if (kind == 1) {
-            return "<pre>" + word() + "\n  " + word() + "\n\n" + word() + "</pre>";
+            const QString code = word() + "\n  " + word() + "\n\n" + word();
+            return "<pre><code class=\"" + oneOf({"a", "language-" + word()}) + "\" data-meta=\""
+                + word() + "\">" + code + "</code></pre>";
         } else if (kind == 5) {
             return "<blockquote>" + block(depth + 1) + block(depth + 1) + "</blockquote>";
         } else if (kind == 6) {

@@ -19,6 +19,7 @@ struct MRVDocumentFlow::Reader
     {
         bool isKnown = false;
         QString address;
+        QString title;
         QStringList names;
     };
     struct OfParagraph
@@ -93,6 +94,7 @@ private:
             const QTextCharFormat full = flow.formats.at(index).toCharFormat();
             format.isKnown = true;
             format.address = full.anchorHref();
+            format.title = full.toolTip();
             format.names = full.anchorNames();
         }
         for (const QString &name : qAsConst(format.names)) {
@@ -102,10 +104,11 @@ private:
         }
         if (!format.address.isEmpty()) {
             MRVFlowLink *last = flow.links.isEmpty() ? nullptr : &flow.links.last();
-            if (last && last->end == begin && last->address == format.address) {
+            if (last && last->end == begin && last->address == format.address
+                && last->title == format.title) {
                 last->end += length;
             } else {
-                flow.links.append({format.address, begin, begin + length});
+                flow.links.append({format.address, begin, begin + length, format.title});
             }
         }
     }

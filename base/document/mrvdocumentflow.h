@@ -33,7 +33,7 @@ struct MRVFlowAnchor
 };
 
 /**
- * Text with an address; adjacent fragments with the same address are one.
+ * Text with an address; adjacent fragments with the same address and title are one.
  *
  * @since 1.0
  */
@@ -42,6 +42,7 @@ struct MRVFlowLink
     QString address; ///< as the format has it
     int begin; ///< in the document
     int end; ///< after it
+    QString title; ///< its tooltip
 };
 
 /**

@@ -1,5 +1,6 @@
 #include "html/mrvhtmlbuilder_p.h"
 
+#include "textformat/mrvformatspread.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvnames.h"
 
@@ -36,6 +37,23 @@ const GumboNode *childOf(const GumboNode *element, GumboTag tag)
         }
     }
     return nullptr;
+}
+
+// HTML recommends such classes (HTML Living Standard, 4.4.3 and 4.5.15); the attribute is cmark's.
+QString codeLanguageOf(const GumboNode *pre)
+{
+    const GumboNode *const code = childOf(pre, GUMBO_TAG_CODE);
+    const QLatin1String prefix("language-");
+    const QStringList classes = code
+        ? mrvAttributeOf(code, "class").simplified().split(u' ', Qt::SkipEmptyParts)
+        : QStringList();
+    for (const QString &name : classes) {
+        if (name.startsWith(prefix) && name.size() > prefix.size()) {
+            return (name.mid(prefix.size()) + u' ' + mrvAttributeOf(code, "data-meta"))
+                .simplified();
+        }
+    }
+    return QString();
 }
 
 const QVector<MRVCssDeclaration> &innerListDeclarations()
@@ -279,7 +297,14 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
     if (!address.isEmpty()) {
         style.text.setAnchor(true);
         style.text.setAnchorHref(address);
+        const QString title = mrvAttributeOf(element, "title");
+        style.text.setProperty(QTextFormat::TextToolTip,
+                               title.isEmpty() ? QVariant() : QVariant(title));
+        MRVFormatSpread::update(&style.text);
         setNoteLink(mrvNoteLinkOf(element), &style.text);
+    }
+    if (mrvIsElement(element, GUMBO_TAG_PRE)) {
+        style.codeLanguage = codeLanguageOf(element);
     }
     setLanguage(element, outside, &style);
     return style;

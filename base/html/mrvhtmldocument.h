@@ -15,8 +15,9 @@
  * A page is parsed as browsers do it, so that missing and crossed tags lose nothing. Style sheets
  * of the page and of files beside it count, lengths of CSS in all its units, 16 pixels to an em
  * where the page says nothing else. Names of elements become anchors on the next character.
- * Pictures are named as the page names them and not loaded. Pages that QTextDocument::toHtml() has
- * written are read as they were.
+ * Pictures are named as the page names them and not loaded. Titles of links become tooltips, and
+ * the class "language-cpp" of code in a preformatted element its BlockCodeLanguage, "cpp". Pages
+ * that QTextDocument::toHtml() has written are read as they were.
  *
  * MRVOfficeConverter writes elements "mrv-comment" for comments in the margin. The text from one
  * with a number as its attribute "begin" to the one with the same as its "end" is a commented one:

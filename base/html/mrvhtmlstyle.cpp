@@ -626,6 +626,7 @@ MRVHtmlStyle MRVHtmlStyle::inherited() const
     inside.whiteSpace = whiteSpace;
     inside.listStyle = listStyle;
     inside.language = language;
+    inside.codeLanguage = codeLanguage;
     inside.isInvisible = isInvisible;
     inside.innerDisplay = innerDisplay;
     return inside;

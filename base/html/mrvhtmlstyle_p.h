@@ -41,6 +41,7 @@ struct MRVHtmlStyle
     WhiteSpace whiteSpace = Collapsed;
     int listStyle = QTextListFormat::ListDisc; ///< ListStyleUndefined: without marks
     QString language;
+    QString codeLanguage; ///< of preformatted text: what a fence of Markdown says of it
     bool isInvisible = false; ///< takes up space, but is not seen
 
     // The element's own.

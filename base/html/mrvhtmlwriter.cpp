@@ -40,6 +40,9 @@ QTextBlockFormat lookOf(const MRVHtmlStyle &style)
     }
     if (style.whiteSpace == MRVHtmlStyle::Preformatted) {
         format.setNonBreakableLines(true);
+        if (!style.codeLanguage.isEmpty()) {
+            format.setProperty(QTextFormat::BlockCodeLanguage, style.codeLanguage);
+        }
     }
     if (style.userState >= 0) {
         format.setProperty(QTextFormat::UserProperty, style.userState);
@@ -469,6 +472,9 @@ void MRVHtmlWriter::writeImage(const QTextImageFormat &image, const MRVHtmlStyle
     if (style.text.isAnchor()) {
         format.setAnchor(true);
         format.setAnchorHref(style.text.anchorHref());
+        if (!style.text.toolTip().isEmpty()) { // or the link would be two
+            format.setToolTip(style.text.toolTip());
+        }
     }
     if (!m_names.isEmpty() || m_comments.isOpen()) {
         format.merge(withNames(QTextCharFormat()));

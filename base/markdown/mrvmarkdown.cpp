@@ -29,6 +29,7 @@ constexpr const char *extensions[] = {"table", "strikethrough", "autolink", "tas
 int flagsOf(MRVMarkdown::Options options)
 {
     return CMARK_OPT_UNSAFE | CMARK_OPT_SOURCEPOS | CMARK_OPT_STRIKETHROUGH_DOUBLE_TILDE
+        | CMARK_OPT_FULL_INFO_STRING
         | (options.testFlag(MRVMarkdown::Footnotes) ? CMARK_OPT_FOOTNOTES : CMARK_OPT_DEFAULT);
 }
 

@@ -34,6 +34,7 @@ enum Feature {
     Footnotes,
     Styles,
     Links,
+    LinkTitles,
     Pictures,
     Headings,
     Quotations,
@@ -42,6 +43,7 @@ enum Feature {
     LineSpacings,
     PageBreaks,
     Backgrounds,
+    CodeLanguages,
     Markers,
     Lists,
     Tables,
@@ -79,6 +81,7 @@ constexpr Row rows[] = {
     {Footnotes,    Html | Markdown | PlainText,         QT_TRANSLATE_NOOP("MRVDocumentLosses", "Footnotes in the margin, which go to the end: %1")},
     {Styles,       PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Bold, italic and other styles of text: %1")},
     {Links,        PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Links, whose addresses become text: %1")},
+    {LinkTitles,   PlainText | Script,                  QT_TRANSLATE_NOOP("MRVDocumentLosses", "Titles of links: %1")},
     {Pictures,     PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Pictures, which give way to their names: %1")},
     {Headings,     PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Headings: %1")},
     {Quotations,   PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Quotations: %1")},
@@ -87,6 +90,7 @@ constexpr Row rows[] = {
     {LineSpacings, Html | Markdown | PlainText,         QT_TRANSLATE_NOOP("MRVDocumentLosses", "Line spacings: %1")},
     {PageBreaks,   Markdown | PlainText,                QT_TRANSLATE_NOOP("MRVDocumentLosses", "Page breaks: %1")},
     {Backgrounds,  Markdown | PlainText,                QT_TRANSLATE_NOOP("MRVDocumentLosses", "Paragraph backgrounds: %1")},
+    {CodeLanguages,Html | PlainText | Script,           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Languages of code: %1")},
     {Markers,      Markdown,                            QT_TRANSLATE_NOOP("MRVDocumentLosses", "List markers other than bullets and figures: %1")},
     {Tables,       PlainText,                           QT_TRANSLATE_NOOP("MRVDocumentLosses", "Tables, whose rows become lines: %1")},
     {Frames,       Markdown | PlainText | Script,       QT_TRANSLATE_NOOP("MRVDocumentLosses", "Frames: %1")},
@@ -140,6 +144,7 @@ Features featuresOfText(const QTextCharFormat &format)
     const bool isLink = marks & MRVLinkMark;
     const auto capitals = format.fontCapitalization();
     found.add(Links, isLink);
+    found.add(LinkTitles, isLink && !format.toolTip().isEmpty());
     found.add(Pictures, format.isImageFormat());
     if (format.isImageFormat()) {
         return found.bits();
@@ -180,6 +185,9 @@ Features featuresOfParagraph(const QTextBlockFormat &format, const MRVFlowParagr
     found.add(LineSpacings, format.doubleProperty(MRVTextFormat::BlockSpacing) > 0);
     found.add(PageBreaks, format.pageBreakPolicy() != QTextFormat::PageBreak_Auto);
     found.add(Backgrounds, format.background().style() != Qt::NoBrush);
+    found.add(CodeLanguages,
+              format.nonBreakableLines()
+                  && !format.stringProperty(QTextFormat::BlockCodeLanguage).isEmpty());
     return found.bits();
 }
 

@@ -421,7 +421,7 @@ bool MRVInlineWriter::isAutolink(const QVector<MRVInlinePiece> &pieces, int inde
     static const QRegularExpression mail(
         QStringLiteral("^mailto:[A-Za-z0-9._+-]+@[A-Za-z0-9-]+(?:\\.[A-Za-z0-9-]+)+$"));
     const QString text = m_flow.text.mid(piece.begin, piece.end - piece.begin);
-    return link.begin == piece.begin && link.end == piece.end
+    return link.begin == piece.begin && link.end == piece.end && link.title.isEmpty()
         && ((text == link.address && address.match(text).hasMatch())
             || (QLatin1String("mailto:") + text == link.address
                 && mail.match(link.address).hasMatch()));
@@ -453,8 +453,7 @@ void MRVInlineWriter::writePicture(const MRVInlinePiece &piece)
     const QString title = format.stringProperty(QTextFormat::ImageTitle);
     const bool hasSize = format.width() > 0 || format.height() > 0;
     static const QRegularExpression lines(QStringLiteral("[\\r\\n\\t]|^ | $|  "));
-    // Readers disagree about a backslash at the end of a title.
-    if (!isHtml() && !hasSize && !text.contains(lines) && !title.contains(u'\\')) {
+    if (!isHtml() && !hasSize && !text.contains(lines) && isPortable(title)) {
         const QString mark = text.startsWith(u'^') ? QStringLiteral("\\") : QString(); // of a note
         append(QLatin1String("![") + mark + MRVMarkdownEscape::escaped(text) + QLatin1String("](")
                + destination(address) + titleOf(title) + u')');
@@ -620,13 +619,16 @@ QString MRVInlineWriter::textOf(const Token &token) const
                                        : token.isOpening ? row.start
                                                          : row.end);
     }
-    const QString address = m_flow.links.at(span.link).address;
-    if (isHtml()) {
-        return token.isOpening ? QLatin1String("<a") + attribute("href", address) + u'>'
-                               : QString::fromLatin1(row.end);
+    const MRVFlowLink &link = m_flow.links.at(span.link);
+    if (isHtml() || !isPortable(link.title)) {
+        const QString title = link.title.isEmpty() ? QString() : attribute("title", link.title);
+        return token.isOpening
+            ? QLatin1String("<a") + attribute("href", link.address) + title + u'>'
+            : QString::fromLatin1(row.end);
     }
-    return token.isOpening ? QStringLiteral("[")
-                           : QLatin1String("](") + destination(address) + u')';
+    return token.isOpening
+        ? QStringLiteral("[")
+        : QLatin1String("](") + destination(link.address) + titleOf(link.title) + u')';
 }
 
 // Readers percent-encode what addresses must not hold. A backslash before a reference is of no use
@@ -650,6 +652,12 @@ QString MRVInlineWriter::destination(const QString &address) const
     return written.contains(unsafe) ? u'<' + written + u'>' : written;
 }
 
+// Readers disagree about a backslash at the end of a title.
+bool MRVInlineWriter::isPortable(const QString &title)
+{
+    return !title.contains(u'\\');
+}
+
 QString MRVInlineWriter::titleOf(const QString &title) const
 {
     if (title.isEmpty()) {
@@ -663,7 +671,7 @@ QString MRVInlineWriter::titleOf(const QString &title) const
     return QLatin1String(" \"") + written + u'"';
 }
 
-QString MRVInlineWriter::attribute(const char *name, const QString &value) const
+QString MRVInlineWriter::attribute(const char *name, const QString &value)
 {
     QString escaped = MRV::escape(value);
     escaped.replace(u'|', QLatin1String("&#124;")).replace(u'\n', QLatin1String("&#10;"));

@@ -34,6 +34,8 @@ public:
     QString note(const MRVTextNote &note);
     /** Whether a paragraph is text and nothing else, but for what code is. */
     bool isPlain(int number);
+    /** An attribute of a tag, with a blank before it, as it may stand within a table, too. */
+    static QString attribute(const char *name, const QString &value);
 
 private:
     // A mark that is open over some pieces.
@@ -82,8 +84,8 @@ private:
     uint characterAfter(int token, bool skipsTildes) const;
     QString textOf(const Token &token) const;
     QString destination(const QString &address) const;
+    static bool isPortable(const QString &title);
     QString titleOf(const QString &title) const;
-    QString attribute(const char *name, const QString &value) const;
     bool isHtml() const { return m_place >= Html; }
     bool isInCell() const { return m_place == Cell || m_place == HeaderCell; }
 

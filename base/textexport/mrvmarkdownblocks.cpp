@@ -10,6 +10,14 @@ namespace {
 // A paragraph without text. The tag alone would begin HTML, where several are ends of lines.
 const QLatin1String Empty("<br><!-- -->");
 
+// What follows the fence, in which a backtick may not stand as it is.
+QString fenceInfo(const QString &language)
+{
+    QString info = language.simplified();
+    info.replace(u'\\', QLatin1String("\\\\")).replace(u'&', QLatin1String("&amp;"));
+    return info.replace(u'`', QLatin1String("&#96;"));
+}
+
 } // namespace
 
 MRVMarkdownBlocks::MRVMarkdownBlocks(const MRVDocumentFlow &flow, const MRVTextNotes &notes,
@@ -142,6 +150,12 @@ void MRVMarkdownBlocks::writeHeading(const MRVTextBlock &block)
     line(QString(block.number, u'#') + u' ' + (text.isEmpty() ? QString(Empty) : text));
 }
 
+QString MRVMarkdownBlocks::languageOf(const MRVTextBlock &code) const
+{
+    const int format = m_flow.paragraphs.at(code.first).format;
+    return m_flow.formats.at(format).stringProperty(QTextFormat::BlockCodeLanguage);
+}
+
 void MRVMarkdownBlocks::writeCode(const MRVTextBlock &block)
 {
     bool isPlain = true;
@@ -164,7 +178,7 @@ void MRVMarkdownBlocks::writeCode(const MRVTextBlock &block)
         fence = qMax(fence, end - at + 1);
         at = end;
     }
-    line(QString(fence, u'`'));
+    line(QString(fence, u'`') + fenceInfo(languageOf(block)));
     code.chop(1);
     const QStringList lines = code.split(u'\n');
     for (const QString &one : lines) {

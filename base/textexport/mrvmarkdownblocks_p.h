@@ -28,6 +28,7 @@ private:
     void writeIn(const Container &container, const MRVTextBlock &parent, bool isTight);
     void writeParagraph(const MRVTextBlock &block);
     void writeHeading(const MRVTextBlock &block);
+    QString languageOf(const MRVTextBlock &code) const;
     void writeCode(const MRVTextBlock &block);
     void writeList(const MRVTextBlock &list);
     void writeNotes();

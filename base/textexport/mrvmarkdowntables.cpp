@@ -116,13 +116,14 @@ QString MRVMarkdownBlocks::htmlOf(const MRVTextBlock &block, bool isHeader)
     const auto place = isHeader || block.kind == MRVTextBlock::Heading ? MRVInlineWriter::HeaderHtml
                                                                        : MRVInlineWriter::Html;
     switch (block.kind) {
-    case MRVTextBlock::Paragraph: {
+    case MRVTextBlock::Paragraph:
+    case MRVTextBlock::Heading: {
+        const QString name = block.kind == MRVTextBlock::Heading
+            ? u'h' + QString::number(block.number)
+            : QStringLiteral("p");
         const QString text = m_inline.paragraph(block.first, place);
-        return inElement(QStringLiteral("p"), text.isEmpty() ? QStringLiteral("<br>") : text);
+        return inElement(name, text.isEmpty() ? QStringLiteral("<br>") : text);
     }
-    case MRVTextBlock::Heading:
-        return inElement(u'h' + QString::number(block.number),
-                         m_inline.paragraph(block.first, place));
     case MRVTextBlock::Code:
         return htmlOfCode(block);
     case MRVTextBlock::Rule:
@@ -149,10 +150,19 @@ QString MRVMarkdownBlocks::htmlOf(const MRVTextBlock &block, bool isHeader)
 // In one line, since an empty one would end the HTML.
 QString MRVMarkdownBlocks::htmlOfCode(const MRVTextBlock &block)
 {
+    // As other writers of HTML have it: the first word is the name of the language.
+    const QString info = languageOf(block).simplified();
+    const QString language = info.section(u' ', 0, 0);
+    const QString more = info.section(u' ', 1);
     QString html = QStringLiteral("<pre>");
+    if (!info.isEmpty()) {
+        html += QStringLiteral("<code")
+            + MRVInlineWriter::attribute("class", QLatin1String("language-") + language);
+        html += (more.isEmpty() ? more : MRVInlineWriter::attribute("data-meta", more)) + u'>';
+    }
     for (int i = block.first; i < block.end; ++i) {
         html += m_inline.paragraph(i, MRVInlineWriter::CodeHtml);
         html += i + 1 < block.end ? QStringLiteral("&#10;") : QString();
     }
-    return html + QLatin1String("</pre>");
+    return html + QLatin1String(info.isEmpty() ? "</pre>" : "</code></pre>");
 }

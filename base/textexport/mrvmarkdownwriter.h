@@ -12,10 +12,11 @@ class QTextDocument;
  * Writes a document as Markdown: CommonMark with tables, task lists, "~~deleted~~" and footnotes.
  *
  * MRVManuscriptReader reads the same words, links, pictures, notes and comments from it, and the
- * formats that Markdown has. What Markdown has no signs for and HTML does, such as underlined,
- * raised and lowered text, small capitals, comments in the margin, the size of a picture, or a
- * table whose cells hold lists, is written as HTML, which Markdown may contain; other readers show
- * that or pass over it. MRVDocumentLosses tells what is not written.
+ * formats that Markdown has, titles of links and languages of code among them. What Markdown has
+ * no signs for and HTML does, such as underlined, raised and lowered text, small capitals, comments
+ * in the margin, the size of a picture, or a table whose cells hold lists, is written as HTML,
+ * which Markdown may contain; other readers show that or pass over it. MRVDocumentLosses tells what
+ * is not written.
  *
  * Text is escaped so that it reads back as text. A paragraph is one line, an empty one "<br><!--
  * -->". Blanks and tabs in a row are written, but read as one; tabs that begin a paragraph are

@@ -183,15 +183,22 @@ void MRVTextBlockReader::readParagraph(int paragraph)
     }
 }
 
-// Lines of code are paragraphs. Space between two of them separates two pieces of code.
+// Lines of code are paragraphs. Space between two of them separates two pieces of code, as another
+// language does.
 void MRVTextBlockReader::addCode(int paragraph, MRVTextBlock *parent)
 {
     const auto formatOf = [this](int index) {
         return m_flow.formats.at(m_flow.paragraphs.at(index).format).toBlockFormat();
     };
+    const auto goesOn = [&formatOf](int index) {
+        const QTextBlockFormat before = formatOf(index - 1);
+        const QTextBlockFormat format = formatOf(index);
+        constexpr int Language = QTextFormat::BlockCodeLanguage;
+        return (before.bottomMargin() <= 0 || format.topMargin() <= 0)
+            && before.stringProperty(Language) == format.stringProperty(Language);
+    };
     MRVTextBlock *const last = parent->children.empty() ? nullptr : &parent->children.back();
-    if (last && last->kind == MRVTextBlock::Code && last->end == paragraph
-        && (formatOf(paragraph - 1).bottomMargin() <= 0 || formatOf(paragraph).topMargin() <= 0)) {
+    if (last && last->kind == MRVTextBlock::Code && last->end == paragraph && goesOn(paragraph)) {
         ++last->end;
         return;
     }

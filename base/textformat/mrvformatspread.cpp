@@ -7,8 +7,8 @@ namespace {
 
 // Of these, each place may have its own.
 constexpr int properties[] = {QTextFormat::AnchorHref, QTextFormat::AnchorName,
-                              QTextFormat::ImageName, QTextFormat::ImageAltText,
-                              QTextFormat::ImageTitle};
+                              QTextFormat::ImageName,  QTextFormat::ImageAltText,
+                              QTextFormat::ImageTitle, QTextFormat::TextToolTip};
 
 // Qt's hash of a text is a checksum, whose bits go together as those of the texts do: only
 // multiplying in between mixes them.

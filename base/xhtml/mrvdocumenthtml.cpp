@@ -369,6 +369,44 @@ QString withAllNames(const QString &html, const QTextDocument &document)
     return whole + html.midRef(done);
 }
 
+// Qt writes a tag for each stretch of text that has a link.
+QString withLinkTitles(const QString &html, const QTextDocument &written)
+{
+    const QVector<QTextFormat> formats = written.allFormats();
+    if (std::none_of(formats.begin(), formats.end(), [](const QTextFormat &format) {
+            return format.hasProperty(QTextFormat::TextToolTip);
+        })) {
+        return html;
+    }
+    QStringList titles; // as attributes
+    for (QTextBlock block = written.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            if (format.isAnchor() && !format.anchorHref().isEmpty()) {
+                const QString title = format.toolTip().toHtmlEscaped();
+                titles.append(title.isEmpty() ? title : QStringLiteral(" title=\"%1\"").arg(title));
+            }
+        }
+    }
+    const QLatin1String tag("<a href=");
+    QString whole;
+    int done = 0;
+    int link = 0;
+    for (int at = html.indexOf(tag); at >= 0; at = html.indexOf(tag, done)) {
+        const int end = html.indexOf(u'>', at);
+        whole += html.midRef(done, end - done);
+        whole += titles.value(link++);
+        done = end;
+    }
+    return whole + html.midRef(done);
+}
+
+QString htmlOf(const QTextDocument &document, const QTextDocument &written)
+{
+    const QString html = withListTags(written.toHtml("utf-8"), document, written);
+    return withAllNames(withLinkTitles(html, written), document);
+}
+
 } // namespace
 
 QString mrvDocumentHtml(const QTextDocument &source)
@@ -378,7 +416,7 @@ QString mrvDocumentHtml(const QTextDocument &source)
     const QTextDocument &document = withNotes ? *withNotes : source;
     const Faults faults(document);
     if (!faults.any()) {
-        return withAllNames(withListTags(document.toHtml("utf-8"), document, document), document);
+        return htmlOf(document, document);
     }
     const std::unique_ptr<QTextDocument> copy = mrvDocumentCopy(document);
     MRVNestedLists::fromLevels(copy.get());
@@ -388,5 +426,5 @@ QString mrvDocumentHtml(const QTextDocument &source)
     if (faults.inBorders) {
         mendBorders(*copy);
     }
-    return withAllNames(withListTags(copy->toHtml("utf-8"), document, *copy), document);
+    return htmlOf(document, *copy);
 }

@@ -426,6 +426,14 @@ Um das Update herunterzuladen und zu installieren, deinstallieren oder entfernen
         <source>Footnotes within the text, which become text in brackets: %1</source>
         <translation>Fußnoten im Text, die zu Text in eckigen Klammern werden: %1</translation>
     </message>
+    <message>
+        <source>Titles of links: %1</source>
+        <translation>Titel von Links: %1</translation>
+    </message>
+    <message>
+        <source>Languages of code: %1</source>
+        <translation>Sprachen von Code: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>

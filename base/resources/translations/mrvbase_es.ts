@@ -426,6 +426,14 @@ Para descargar e instalar la actualización, desinstale o elimine manualmente la
         <source>Footnotes within the text, which become text in brackets: %1</source>
         <translation>Notas dentro del texto, que pasan a ser texto entre corchetes: %1</translation>
     </message>
+    <message>
+        <source>Titles of links: %1</source>
+        <translation>Títulos de enlaces: %1</translation>
+    </message>
+    <message>
+        <source>Languages of code: %1</source>
+        <translation>Lenguajes de código: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>

@@ -426,6 +426,14 @@ Pour télécharger et installer la mise à jour, veuillez désinstaller ou suppr
         <source>Footnotes within the text, which become text in brackets: %1</source>
         <translation>Notes dans le texte, qui deviennent du texte entre crochets&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Titles of links: %1</source>
+        <translation>Titres de liens&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Languages of code: %1</source>
+        <translation>Langages de code&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MRVDocumentPicture</name>
