@@ -279,7 +279,7 @@ private Q_SLOTS:
         };
         row("last blank", "one two ", "C 7-8 a", "one two", "C 6-7 a");
         row("last blanks of two comments", "one  ", "C 3-4 a, C 4-5 b", "one \u00a0",
-            "C 2-3 a, C 3-5 b");
+            "C 2-3 a, C 4-5 b");
         row("last blank of a line", "one \u2028two", "C 3-4 a", "one\u2028two", "C 2-3 a");
         row("after another comment", "one ", "C 0-3 a, C 3-4 b", "one\u00a0", "C 0-3 a, C 3-4 b");
         row("only a blank", "one| |two", "C 4-5 a", "one|\u00a0|two", "C 4-5 a");
@@ -290,11 +290,18 @@ private Q_SLOTS:
         row("empty and blank paragraphs", "one|| |two", "C 0-9 a", "one|||two", "C 0-8 a");
         row("around a footnote", "one two three", "C 0-13 a, F 4-7 b", "one two1 three|b ↩",
             "C 0-14 a");
-        row("up to a footnote", "one two", "C 0-4 a, F 4-7 b", "one two1|b ↩", "C 0-3 a");
+        row("up to a footnote", "one two", "C 0-4 a, F 4-7 b", "one two1|b ↩", "C 0-4 a");
         row("the same twice", "one|two|three", "C 0-3 a, C 8-13 a", "one|two|three",
             "C 0-3 a, C 8-13 a");
         row("around another", "one two three", "C 0-13 a, C 4-6 b", "one two three",
-            "C 0-13 a, C 3-6 b");
+            "C 0-13 a, C 4-6 b");
+        row("after a blank", "one two three", "C 4-7 a", "one two three", "C 4-7 a");
+        row("after a blank of another", "one two three", "C 0-4 a, C 4-7 b", "one two three",
+            "C 0-4 a, C 4-7 b");
+        row("with a blank before", "one two three", "C 3-7 a", "one two three", "C 3-7 a");
+        row("with a blank behind", "one two three", "C 4-8 a", "one two three", "C 4-8 a");
+        row("after the end of a line", "one\u2028two|three", "C 4-11 a", "one\u2028two|three",
+            "C 4-11 a");
     }
     void comments()
     {

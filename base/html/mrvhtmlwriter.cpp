@@ -300,6 +300,7 @@ void MRVHtmlWriter::writeCollapsed(const QString &text, const MRVHtmlStyle &styl
         } else if (!m_spaceIsPending && (!visible.isEmpty() || !m_atLineStart)) {
             m_spaceIsPending = true;
             m_spaceFormat = style.text;
+            m_isPendingCommented = m_comments.isOpen() && !m_comments.isPoint();
         }
     }
     append(visible, style.text);
@@ -354,6 +355,7 @@ void MRVHtmlWriter::writeLineEnd(const MRVHtmlStyle &style)
     m_atLineStart = true;
     ++m_lineEnds;
     m_lineEndFormat = style.text;
+    m_isPendingCommented = m_comments.isOpen() && !m_comments.isPoint();
 }
 
 // Writes what was put off until something is shown: the paragraph, line ends, white space.
@@ -365,7 +367,8 @@ void MRVHtmlWriter::prepareContent()
     writePendingLineEnds();
     if (m_spaceIsPending && !m_atLineStart) {
         m_spaceIsPending = false;
-        append(QStringLiteral(" "), m_spaceFormat);
+        settlePending();
+        put(QStringLiteral(" "), m_spaceFormat);
     }
     m_spaceIsPending = false;
     m_atLineStart = false;
@@ -374,7 +377,8 @@ void MRVHtmlWriter::prepareContent()
 void MRVHtmlWriter::writePendingLineEnds()
 {
     if (m_lineEnds > 0) {
-        append(QString(m_lineEnds, QChar::LineSeparator), m_lineEndFormat);
+        settlePending();
+        put(QString(m_lineEnds, QChar::LineSeparator), m_lineEndFormat);
         m_lineEnds = 0;
     }
 }
@@ -417,20 +421,46 @@ void MRVHtmlWriter::append(const QString &text, const QTextCharFormat &format)
         rest.remove(0, length);
     }
     const bool isCommented = m_comments.isOpen() && !m_comments.isPoint();
-    const QTextCharFormat whole = isCommented ? m_comments.added(format) : format;
-    if (!m_text.isEmpty() && m_textFormat != whole) {
-        flush();
-    }
-    m_text += rest;
-    m_textFormat = whole;
+    put(rest, isCommented ? m_comments.added(format) : format);
     if (isCommented && isSeen) {
         m_comments.setWritten();
     }
 }
 
+void MRVHtmlWriter::put(const QString &text, const QTextCharFormat &format)
+{
+    if (!m_text.isEmpty() && m_textFormat != format) {
+        flush();
+    }
+    m_text += text;
+    m_textFormat = format;
+}
+
+// What is put off belongs to the comment in which it stands, and not to that of the next character.
+void MRVHtmlWriter::settlePending()
+{
+    if (m_isPendingCommented) {
+        m_spaceFormat = m_comments.added(m_spaceFormat);
+        m_lineEndFormat = m_comments.added(m_lineEndFormat);
+        m_isPendingCommented = false;
+    }
+}
+
+void MRVHtmlWriter::beginComment(const MRVHtmlComment &comment)
+{
+    if (!m_comments.isWaiting()) {
+        settlePending();
+    }
+    m_comments.begin(comment);
+}
+
 void MRVHtmlWriter::endComment(int number)
 {
+    if (!m_comments.isWaiting()) {
+        settlePending();
+    }
     m_comments.end(number);
+    m_isPendingCommented = m_isPendingCommented && !m_comments.isPoint();
     if (!m_comments.isPoint() || m_place != Place::Open) {
         return;
     }

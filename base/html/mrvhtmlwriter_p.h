@@ -69,7 +69,7 @@ public:
     void writeRule(const QTextLength &width, const MRVHtmlStyle &style);
     /** A name for the next character. */
     void addName(const QString &name);
-    void beginComment(const MRVHtmlComment &comment) { m_comments.begin(comment); }
+    void beginComment(const MRVHtmlComment &comment);
     /** One that has ended without text is about the character before it, if that has none. */
     void endComment(int number);
     int commentCount() const { return m_comments.count(); }
@@ -128,6 +128,8 @@ private:
     void writeCollapsed(const QString &text, const MRVHtmlStyle &style);
     void writePreformatted(const QString &text, const MRVHtmlStyle &style);
     void append(const QString &text, const QTextCharFormat &format);
+    void put(const QString &text, const QTextCharFormat &format);
+    void settlePending();
     void prepareContent();
     void writePendingLineEnds();
     void flush();
@@ -146,6 +148,7 @@ private:
     QTextCharFormat m_spaceFormat;
     int m_lineEnds = 0; // not written yet
     QTextCharFormat m_lineEndFormat;
+    bool m_isPendingCommented = false; // white space or line ends, in the comment that is open
     QString m_text; // not written yet
     QTextCharFormat m_textFormat;
     QStringList m_names; // for the next character
