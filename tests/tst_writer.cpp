@@ -491,9 +491,11 @@ private Q_SLOTS:
                               << ";;;;";
         QTest::newRow("from html") << page << QStringList{"a.html", "b.mrvdoc", "c.md"} << ""
                                    << "Ann Lee;fr;;;";
-        QTest::newRow("maps") << "---\ntitle: T\nparams:\n  a: b\ntags: {a: b}\n---\n\nText\n"
-                              << QStringList{"a.md", "b.md"} << "Metadata: params, tags"
-                              << ";;;;";
+        QTest::newRow("maps")
+            << "---\ntitle: T\nauthor:\n- name: A\n  at: B\n- at: C\n  name: D\nisbn:\nlang: ~\n"
+               "params:\n  a: b\ntags: {a: b}\n---\n\nText\n"
+            << QStringList{"a.md", "b.md"} << "Metadata: author.at, params, tags"
+            << "A|D;;;;";
         QTest::newRow("keys")
             << "<head><title>T</title><meta name=keywords content=a><meta name=keywords "
                "content=b></head>c"

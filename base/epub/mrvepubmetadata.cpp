@@ -299,6 +299,12 @@ void MRVEPubMetadata::completeFrom(const MRVManuscript &manuscript, QStringList 
             || key == keyNamed(QStringLiteral("author"))
             || key == keyNamed(QStringLiteral("description"))
             || key == keyNamed(QStringLiteral("language"));
+        if (notes && entry.values.isEmpty() && keyNamed(entry.key.section(u'.', 0, 0))) {
+            const QString reason = key ? tr("the value cannot be read")
+                                       : tr("'%1' is no key of a book").arg(entry.key);
+            notes->append(
+                QStringLiteral("%1: %2").arg(manuscript.path, atLine(entry.line, reason)));
+        }
         for (const QString &value : isDone ? QStringList() : entry.values) {
             QString reason;
             if (!stated.set(entry.key, value, &reason) && notes) {

@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -182,8 +183,78 @@ QString blockText(const QStringList &lines, bool folded)
     return text.trimmed();
 }
 
-/** The values of an entry in YAML; empty where they are not understood. */
-QStringList valuesOf(const Entry &entry)
+/** Reads the lines below a key: a list, of whose maps only the names count, or one such map. */
+class Items
+{
+public:
+    explicit Items(const Entry &entry)
+        : m_keepsPairs(entry.key.startsWith(QLatin1String("contributor")))
+    {
+        for (const QString &line : entry.lines) {
+            read(line);
+        }
+    }
+
+    QStringList values() const
+    {
+        QStringList values;
+        for (const QString &text : m_texts) {
+            values.append(scalar(text));
+        }
+        return values;
+    }
+    /** The keys of maps that were not read. */
+    QStringList otherKeys() const { return m_otherKeys; }
+
+private:
+    void read(const QString &line)
+    {
+        static const QRegularExpression marker(QStringLiteral("^-\\s+"));
+        static const QRegularExpression pair(QStringLiteral("^([\\w-]+):(?:\\s+(.*))?$"));
+        const QString text = line.trimmed();
+        if (text.startsWith(u'#')) {
+            return;
+        }
+        const int indent = line.indexOf(text);
+        const QRegularExpressionMatch mark = marker.match(text);
+        const bool isItem = mark.hasMatch() && (m_itemIndent < 0 || indent == m_itemIndent);
+        const int begin = isItem ? mark.capturedLength() : 0;
+        const QRegularExpressionMatch match = pair.match(text.mid(begin));
+        const bool isName = match.captured(1) == QLatin1String("name");
+        if (isItem || (m_keyIndent < 0 && match.hasMatch())) {
+            // "- editor: Name" is a map for YAML.
+            const bool isMap = match.hasMatch() && (isName || !m_keepsPairs);
+            m_itemIndent = isItem ? indent : m_itemIndent;
+            m_keyIndent = isMap ? indent + begin : None;
+        }
+        const bool isKey = match.hasMatch() && indent + begin == m_keyIndent;
+        if (isKey && !isName) {
+            m_otherKeys.append(match.captured(1));
+            m_textIndent = None;
+        } else if (isKey || isItem) {
+            m_texts.append(isKey ? match.captured(2) : text.mid(begin));
+            m_textIndent = isKey ? m_keyIndent : m_itemIndent;
+        } else if (indent > m_textIndent) {
+            m_texts.last() += u' ' + text;
+        }
+    }
+
+    static constexpr int None = INT_MAX; // nothing is indented as far
+
+    const bool m_keepsPairs;
+    int m_itemIndent = -1;
+    int m_keyIndent = -1; // of the map that is being read
+    int m_textIndent = None; // what is indented further continues the last text
+    QStringList m_texts;
+    QStringList m_otherKeys;
+};
+
+/**
+ * The values of an entry in YAML; empty where they are not understood.
+ *
+ * @param otherKeys receives those of maps whose names are the values.
+ */
+QStringList valuesOf(const Entry &entry, QStringList *otherKeys)
 {
     static const QRegularExpression block(QStringLiteral("^([|>])[-+0-9]*\\s*(?:#.*)?$"));
     static const QRegularExpression mapping(QStringLiteral("^\\s*[\\w-]+:(?:\\s|$)"));
@@ -194,23 +265,38 @@ QStringList valuesOf(const Entry &entry)
     if (entry.value.startsWith(u'[')) {
         return flowList(entry.value + entry.lines.join(u' '));
     }
-    const QString first = entry.lines.value(0).trimmed();
-    if (!scalar(entry.value).isEmpty() || !first.startsWith(u'-')) {
-        return mapping.match(first).hasMatch()
-            ? QStringList()
-            : QStringList(scalar(entry.value + u' ' + blockText(entry.lines, true)));
+    const auto isText = [](const QString &line) {
+        return !line.trimmed().isEmpty() && !line.trimmed().startsWith(u'#');
+    };
+    const auto begin = std::find_if(entry.lines.begin(), entry.lines.end(), isText);
+    const QString first = begin == entry.lines.end() ? QString() : begin->trimmed();
+    const bool isMap = mapping.match(first).hasMatch();
+    if (!scalar(entry.value).isEmpty() || !(isMap || first.startsWith(u'-'))) {
+        return isMap ? QStringList()
+                     : QStringList(scalar(entry.value + u' ' + blockText(entry.lines, true)));
     }
-    static const QRegularExpression item(QStringLiteral("^\\s*-\\s+(?:name:\\s+)?(.*)$"));
-    // "- editor: Name" is a map for YAML.
-    const bool keepsPairs = entry.key.startsWith(QLatin1String("contributor"));
-    QStringList items;
-    for (const QString &line : entry.lines) {
-        const QRegularExpressionMatch match = item.match(line);
-        if (match.hasMatch() && (keepsPairs || !mapping.match(match.captured(1)).hasMatch())) {
-            items.append(scalar(match.captured(1)));
-        }
+    const Items items(entry);
+    if (!items.values().isEmpty()) {
+        *otherKeys = items.otherKeys();
+        otherKeys->removeDuplicates();
     }
-    return items;
+    return items.values();
+}
+
+/** Adds what an entry says, and the other keys of its maps as entries without values. */
+void append(const Entry &entry, bool yaml, QVector<MRVMetadataEntry> *entries)
+{
+    const QString text = (entry.value + u' ' + blockText(entry.lines, true)).trimmed();
+    if (text.isEmpty() || (yaml && (text == QLatin1String("null") || text == u'~'))) {
+        return;
+    }
+    QStringList otherKeys;
+    QStringList values = yaml ? valuesOf(entry, &otherKeys) : QStringList(text);
+    values.removeAll(QString());
+    entries->append({entry.key, values, entry.line});
+    for (const QString &key : qAsConst(otherKeys)) {
+        entries->append({entry.key + u'.' + key, {}, entry.line});
+    }
 }
 
 void store(Field field, const QStringList &values, MRVMarkdownHead *head)
@@ -365,13 +451,11 @@ QString mrvTakeFrontMatter(const QString &markdown, MRVMarkdownHead *head)
     if (length == 0) {
         return markdown;
     }
+    QVector<MRVMetadataEntry> read;
     for (const Entry &entry : qAsConst(entries)) {
-        const QString line = entry.value + u' ' + blockText(entry.lines, true);
-        const QStringList values = yaml ? valuesOf(entry) : QStringList(line.trimmed());
-        store(fieldOf(entry.key), values, head);
-        head->entries.append({entry.key, values, entry.line});
+        append(entry, yaml, &read);
     }
-    head->authors.removeDuplicates();
+    *head = MRVFrontMatter::head(read);
     // The numbers of the lines below stay.
     static const QRegularExpression words(QStringLiteral("[^\\r\\n]+"));
     return markdown.left(length).remove(words) + markdown.midRef(length);
@@ -393,11 +477,7 @@ int MRVFrontMatter::read(const QString &text, QVector<MRVMetadataEntry> *entries
         }
     }
     for (const Entry &entry : qAsConst(read)) {
-        if (!entry.value.isEmpty() || !entry.lines.join(QString()).trimmed().isEmpty()) {
-            QStringList values = valuesOf(entry);
-            values.removeAll(QString());
-            entries->append({entry.key, values, entry.line});
-        }
+        append(entry, true, entries);
     }
     return refused;
 }

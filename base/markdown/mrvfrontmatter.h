@@ -13,8 +13,10 @@ struct MRVMarkdownHead;
  * Metadata as the front matter of Markdown writes them: "key: value" lines, a part of YAML.
  *
  * A value is a text, in quotes or not, which indented lines may continue; a text of several lines
- * after "|" or ">"; or a list, "[a, b]" or lines that begin with "- ". References, tags and maps
- * are not read. Lines that begin with "#" are comments, and a key without a value is left out.
+ * after "|" or ">"; or a list, "[a, b]" or lines that begin with "- ". Of a map, as of an author,
+ * the name is read; its other keys are entries without values, such as "author.affiliation".
+ * Other maps, references and tags are not read. Lines that begin with "#" are comments, and a key
+ * without a value is left out.
  *
  * @since 1.0
  */
