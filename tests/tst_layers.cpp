@@ -44,7 +44,7 @@ constexpr Module modules[] = {
     {"base/download",    3, "Core Network Widgets"},
     {"base/exchange",    3, "Core Gui"},
     {"base/fileformats", 3, "Core"},
-    {"base/markdown",    3, "Core cmark-gfm-core-extensions.h"},
+    {"base/markdown",    3, "Core cmark-gfm-core-extensions.h yaml.h"},
     {"base/shortcuts",   3, "Core Gui"},
     {"base/textformat",  3, "Core Gui"},
     {"base/version",     3, "Core Xml"},

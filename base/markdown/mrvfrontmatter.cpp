@@ -2,6 +2,7 @@
 
 #include "markdown/mrvfrontmatter_p.h"
 #include "markdown/mrvmarkdownhead.h"
+#include "markdown/mrvyamlvalue_p.h"
 #include "util/mrvnames.h"
 
 #include <QHash>
@@ -10,7 +11,6 @@
 #include <QVector>
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
@@ -108,194 +108,38 @@ private:
     int m_number = 0;
 };
 
-/** The text of a value in quotes. */
-QString unquoted(const QString &text)
+/** What lines say that are no YAML: items after hyphens, or one text. */
+QStringList plainTexts(const QStringList &lines)
 {
-    const QChar quote = text.at(0);
-    QString result;
-    for (int i = 1; i < text.size(); ++i) {
-        QChar c = text.at(i);
-        if (c == quote) {
-            if (quote == u'"' || i + 1 == text.size() || text.at(i + 1) != quote) {
-                break;
-            }
-            ++i; // two single quotes stand for one
-        } else if (c == u'\\' && quote == u'"' && i + 1 < text.size()) {
-            c = text.at(++i);
-            c = c == u'n' || c == u't' ? QChar(u' ') : c;
-        }
-        result += c;
+    static const QRegularExpression marker(QStringLiteral("(?:^|\\n)[ \\t]*-[ \\t]"));
+    const QString text = lines.join(u'\n').trimmed();
+    QStringList texts = text.startsWith(u'-') ? text.split(marker) : QStringList(text);
+    for (QString &one : texts) {
+        one = one.simplified();
     }
-    return result;
-}
-
-QString scalar(const QString &text)
-{
-    static const QRegularExpression comment(QStringLiteral("(?:^|\\s)#.*$"));
-    const QString value = text.trimmed();
-    if (value.startsWith(u'"') || value.startsWith(u'\'')) {
-        return unquoted(value).trimmed();
-    }
-    // References, tags and maps are not read.
-    if (value.isEmpty() || QStringView(u"&*!{~").contains(value.at(0))
-        || value == QLatin1String("null")) {
-        return QString();
-    }
-    return QString(value).remove(comment).trimmed();
-}
-
-QStringList flowList(const QString &text)
-{
-    QStringList items;
-    QString item;
-    QChar quote;
-    for (const QChar c : text.mid(1)) {
-        if (quote.isNull() && (c == u',' || c == u']')) {
-            items.append(scalar(item));
-            item.clear();
-            if (c == u']') {
-                break;
-            }
-            continue;
-        }
-        if (c == quote) {
-            quote = QChar();
-        } else if (quote.isNull() && item.trimmed().isEmpty() && (c == u'"' || c == u'\'')) {
-            quote = c;
-        }
-        item += c;
-    }
-    return items;
-}
-
-/** A text below "|", which keeps its lines, or ">", which joins those of a paragraph. */
-QString blockText(const QStringList &lines, bool folded)
-{
-    QString text;
-    for (const QString &line : lines) {
-        const QString words = line.trimmed();
-        const bool joined = folded && !words.isEmpty();
-        if (!text.isEmpty() && !(joined && text.endsWith(u'\n'))) {
-            text += joined ? u' ' : u'\n';
-        }
-        text += words;
-    }
-    return text.trimmed();
-}
-
-/** Reads the lines below a key: a list, of whose maps only the names count, or one such map. */
-class Items
-{
-public:
-    explicit Items(const Entry &entry)
-        : m_keepsPairs(entry.key.startsWith(QLatin1String("contributor")))
-    {
-        for (const QString &line : entry.lines) {
-            read(line);
-        }
-    }
-
-    QStringList values() const
-    {
-        QStringList values;
-        for (const QString &text : m_texts) {
-            values.append(scalar(text));
-        }
-        return values;
-    }
-    /** The keys of maps that were not read. */
-    QStringList otherKeys() const { return m_otherKeys; }
-
-private:
-    void read(const QString &line)
-    {
-        static const QRegularExpression marker(QStringLiteral("^-\\s+"));
-        static const QRegularExpression pair(QStringLiteral("^([\\w-]+):(?:\\s+(.*))?$"));
-        const QString text = line.trimmed();
-        if (text.startsWith(u'#')) {
-            return;
-        }
-        const int indent = line.indexOf(text);
-        const QRegularExpressionMatch mark = marker.match(text);
-        const bool isItem = mark.hasMatch() && (m_itemIndent < 0 || indent == m_itemIndent);
-        const int begin = isItem ? mark.capturedLength() : 0;
-        const QRegularExpressionMatch match = pair.match(text.mid(begin));
-        const bool isName = match.captured(1) == QLatin1String("name");
-        if (isItem || (m_keyIndent < 0 && match.hasMatch())) {
-            // "- editor: Name" is a map for YAML.
-            const bool isMap = match.hasMatch() && (isName || !m_keepsPairs);
-            m_itemIndent = isItem ? indent : m_itemIndent;
-            m_keyIndent = isMap ? indent + begin : None;
-        }
-        const bool isKey = match.hasMatch() && indent + begin == m_keyIndent;
-        if (isKey && !isName) {
-            m_otherKeys.append(match.captured(1));
-            m_textIndent = None;
-        } else if (isKey || isItem) {
-            m_texts.append(isKey ? match.captured(2) : text.mid(begin));
-            m_textIndent = isKey ? m_keyIndent : m_itemIndent;
-        } else if (indent > m_textIndent) {
-            m_texts.last() += u' ' + text;
-        }
-    }
-
-    static constexpr int None = INT_MAX; // nothing is indented as far
-
-    const bool m_keepsPairs;
-    int m_itemIndent = -1;
-    int m_keyIndent = -1; // of the map that is being read
-    int m_textIndent = None; // what is indented further continues the last text
-    QStringList m_texts;
-    QStringList m_otherKeys;
-};
-
-/**
- * The values of an entry in YAML; empty where they are not understood.
- *
- * @param otherKeys receives those of maps whose names are the values.
- */
-QStringList valuesOf(const Entry &entry, QStringList *otherKeys)
-{
-    static const QRegularExpression block(QStringLiteral("^([|>])[-+0-9]*\\s*(?:#.*)?$"));
-    static const QRegularExpression mapping(QStringLiteral("^\\s*[\\w-]+:(?:\\s|$)"));
-    const QRegularExpressionMatch header = block.match(entry.value);
-    if (header.hasMatch()) {
-        return {blockText(entry.lines, header.capturedView(1) == u">")};
-    }
-    if (entry.value.startsWith(u'[')) {
-        return flowList(entry.value + entry.lines.join(u' '));
-    }
-    const auto isText = [](const QString &line) {
-        return !line.trimmed().isEmpty() && !line.trimmed().startsWith(u'#');
-    };
-    const auto begin = std::find_if(entry.lines.begin(), entry.lines.end(), isText);
-    const QString first = begin == entry.lines.end() ? QString() : begin->trimmed();
-    const bool isMap = mapping.match(first).hasMatch();
-    if (!scalar(entry.value).isEmpty() || !(isMap || first.startsWith(u'-'))) {
-        return isMap ? QStringList()
-                     : QStringList(scalar(entry.value + u' ' + blockText(entry.lines, true)));
-    }
-    const Items items(entry);
-    if (!items.values().isEmpty()) {
-        *otherKeys = items.otherKeys();
-        otherKeys->removeDuplicates();
-    }
-    return items.values();
+    return texts;
 }
 
 /** Adds what an entry says, and the other keys of its maps as entries without values. */
 void append(const Entry &entry, bool yaml, QVector<MRVMetadataEntry> *entries)
 {
-    const QString text = (entry.value + u' ' + blockText(entry.lines, true)).trimmed();
-    if (text.isEmpty() || (yaml && (text == QLatin1String("null") || text == u'~'))) {
+    const QStringList lines = QStringList(entry.value) + entry.lines;
+    MRVYamlValue value;
+    // For YAML, "- editor: Name" is a map, and "title: Ahab: a Life" a mistake.
+    const bool pairs = entry.key.startsWith(QLatin1String("contributor"));
+    if (!yaml || !mrvReadYamlValue(lines.join(u'\n'), pairs, &value)) {
+        value.texts = yaml ? plainTexts(lines) : QStringList(lines.join(u' ').simplified());
+        value.texts.removeAll(QString());
+        value.isNull = value.texts.isEmpty();
+    }
+    if (value.isNull) {
         return;
     }
-    QStringList otherKeys;
-    QStringList values = yaml ? valuesOf(entry, &otherKeys) : QStringList(text);
-    values.removeAll(QString());
-    entries->append({entry.key, values, entry.line});
-    for (const QString &key : qAsConst(otherKeys)) {
-        entries->append({entry.key + u'.' + key, {}, entry.line});
+    entries->append({entry.key, value.texts, entry.line});
+    for (const QString &key : qAsConst(value.otherKeys)) {
+        if (!value.texts.isEmpty()) {
+            entries->append({entry.key + u'.' + key, {}, entry.line});
+        }
     }
 }
 
@@ -306,7 +150,7 @@ void store(Field field, const QStringList &values, MRVMarkdownHead *head)
             continue;
         }
         if (field == Author) {
-            head->authors.append(value);
+            head->authors.append(value.simplified());
             continue;
         }
         QString *const text = field == Title ? &head->title
@@ -315,7 +159,9 @@ void store(Field field, const QStringList &values, MRVMarkdownHead *head)
             : field == Date                  ? &head->date
                                              : nullptr;
         if (text && text->isEmpty()) {
-            *text = field == Language ? MRV::languageTag(value) : value;
+            *text = field == Language  ? MRV::languageTag(value)
+                : field == Description ? value
+                                       : value.simplified();
         }
     }
 }

@@ -10,13 +10,12 @@
 struct MRVMarkdownHead;
 
 /**
- * Metadata as the front matter of Markdown writes them: "key: value" lines, a part of YAML.
+ * Metadata as the front matter of Markdown writes them: lines "key: value", which are YAML.
  *
- * A value is a text, in quotes or not, which indented lines may continue; a text of several lines
- * after "|" or ">"; or a list, "[a, b]" or lines that begin with "- ". Of a map, as of an author,
- * the name is read; its other keys are entries without values, such as "author.affiliation".
- * Other maps, references and tags are not read. Lines that begin with "#" are comments, and a key
- * without a value is left out.
+ * A value is a text or a list, in any of YAML's ways, which the lines below may continue. Of a map,
+ * as of an author, the name is read; its other keys are entries without values, such as
+ * "author.affiliation". Other maps, lists in lists and aliases have no values. What is no YAML,
+ * such as "title: Ahab: a Life", is a text as it stands, and a key whose value is null is left out.
  *
  * @since 1.0
  */
