@@ -5,6 +5,7 @@
 #include "util/mrvnames.h"
 
 #include <QFont>
+#include <QRegularExpression>
 #include <QTextFrame>
 #include <QUrl>
 
@@ -39,21 +40,23 @@ const GumboNode *childOf(const GumboNode *element, GumboTag tag)
     return nullptr;
 }
 
+// Formats have them once for each line and each stretch of text.
+constexpr int LongestLanguage = 1000;
+constexpr int LongestTitle = 10000;
+
 // HTML recommends such classes (HTML Living Standard, 4.4.3 and 4.5.15); the attribute is cmark's.
 QString codeLanguageOf(const GumboNode *pre)
 {
     const GumboNode *const code = childOf(pre, GUMBO_TAG_CODE);
-    const QLatin1String prefix("language-");
-    const QStringList classes = code
-        ? mrvAttributeOf(code, "class").simplified().split(u' ', Qt::SkipEmptyParts)
-        : QStringList();
-    for (const QString &name : classes) {
-        if (name.startsWith(prefix) && name.size() > prefix.size()) {
-            return (name.mid(prefix.size()) + u' ' + mrvAttributeOf(code, "data-meta"))
-                .simplified();
-        }
+    if (!code) {
+        return QString();
     }
-    return QString();
+    static const QRegularExpression name(
+        QStringLiteral("(?:^|[ \\t\\n\\f\\r])language-([^ \\t\\n\\f\\r]+)"));
+    const QString language = name.match(mrvAttributeOf(code, "class")).captured(1);
+    const QString more = mrvAttributeOf(code, "data-meta");
+    const QString all = language.isEmpty() || more.isEmpty() ? language : language + u' ' + more;
+    return all.size() <= LongestLanguage ? all : QString();
 }
 
 const QVector<MRVCssDeclaration> &innerListDeclarations()
@@ -299,7 +302,8 @@ MRVHtmlStyle MRVHtmlBuilder::styleOf(const GumboNode *element, const MRVHtmlStyl
         style.text.setAnchorHref(address);
         const QString title = mrvAttributeOf(element, "title");
         style.text.setProperty(QTextFormat::TextToolTip,
-                               title.isEmpty() ? QVariant() : QVariant(title));
+                               title.isEmpty() || title.size() > LongestTitle ? QVariant()
+                                                                              : QVariant(title));
         MRVFormatSpread::update(&style.text);
         setNoteLink(mrvNoteLinkOf(element), &style.text);
     }
@@ -464,13 +468,24 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
         style.text.setBackground(style.background);
     }
     addDirection(element, &style.text);
-    const QString space = style.display == MRVHtmlStyle::Apart ? QStringLiteral(" ") : QString();
-    writeText(space, style);
+    const bool isApart = style.display == MRVHtmlStyle::Apart;
+    if (isApart) {
+        separate(style);
+    }
     if (mrvIsPicture(element)) { // of SVG
         readPicture(element, style, css);
     }
     readInside(element, style.inherited(), css);
-    writeText(space, style);
+    if (isApart) {
+        separate(style);
+    }
+}
+
+// Blanks that are not the page's; where lines begin, they do not count.
+void MRVHtmlBuilder::separate(MRVHtmlStyle style)
+{
+    style.whiteSpace = MRVHtmlStyle::Collapsed;
+    writeText(QStringLiteral(" "), style);
 }
 
 void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &style,
@@ -538,8 +553,9 @@ void MRVHtmlBuilder::readInput(const GumboNode *element, const MRVHtmlStyle &sty
         readPicture(element, style, nullptr);
     }
     if (mrvIsField(element)) {
-        writeText(QStringLiteral(" "), style);
-        writeText(mrvFieldText(element) + u' ', style);
+        separate(style);
+        writeText(mrvFieldText(element), style);
+        separate(style);
     }
 }
 

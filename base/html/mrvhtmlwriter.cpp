@@ -6,6 +6,7 @@
 #include "textformat/mrvtextformat.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -127,14 +128,18 @@ void MRVHtmlWriter::setBottomMargin(qreal margin)
 
 void MRVHtmlWriter::endParagraph()
 {
-    if (m_place != Place::Open && m_lineEnds == 0) {
+    m_blanks.clear();
+    if (m_place != Place::Open && m_lineEnds.isEmpty()) {
         m_spaceIsPending = false;
         return;
     }
-    if (m_lineEnds > 0) {
+    if (!m_lineEnds.isEmpty()) {
         // The last one ends the line that the paragraph's end ends, too.
         const bool isEmpty = m_place != Place::Open;
-        m_lineEnds -= m_isQtPage ? 0 : 1;
+        if (!m_isQtPage) {
+            m_lineEnds.removeLast();
+            m_settledEnds = qMin(m_settledEnds, m_lineEnds.size());
+        }
         if (isEmpty) {
             openParagraph();
         }
@@ -151,7 +156,8 @@ void MRVHtmlWriter::writeEmptyParagraph()
     if (m_place != Place::Open) {
         openParagraph();
     }
-    m_lineEnds = 0;
+    m_lineEnds.clear();
+    m_settledEnds = 0;
     endParagraph();
 }
 
@@ -300,7 +306,7 @@ void MRVHtmlWriter::writeCollapsed(const QString &text, const MRVHtmlStyle &styl
         } else if (!m_spaceIsPending && (!visible.isEmpty() || !m_atLineStart)) {
             m_spaceIsPending = true;
             m_spaceFormat = style.text;
-            m_isPendingCommented = m_comments.isOpen() && !m_comments.isPoint();
+            m_spaceIsSettled = false;
         }
     }
     append(visible, style.text);
@@ -325,8 +331,23 @@ void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &s
         return;
     }
     if (m_place != Place::Open && std::all_of(lines.cbegin(), lines.cend(), isSpace)) {
-        return; // between the elements of a page that Qt has written
+        m_blanks += lines; // between blocks, unless text comes
+        m_blankStyle = style;
+        return;
     }
+    writeBlanks();
+    writeLines(lines, style);
+}
+
+void MRVHtmlWriter::writeBlanks()
+{
+    if (!m_blanks.isEmpty()) {
+        writeLines(std::exchange(m_blanks, QString()), m_blankStyle);
+    }
+}
+
+void MRVHtmlWriter::writeLines(const QString &lines, const MRVHtmlStyle &style)
+{
     for (int begin = 0; begin <= lines.size();) {
         const int end = lines.indexOf(u'\n', begin);
         const QString line = lines.mid(begin, end < 0 ? -1 : end - begin);
@@ -353,20 +374,18 @@ void MRVHtmlWriter::writeLineEnd(const MRVHtmlStyle &style)
     }
     m_spaceIsPending = false;
     m_atLineStart = true;
-    ++m_lineEnds;
-    m_lineEndFormat = style.text;
-    m_isPendingCommented = m_comments.isOpen() && !m_comments.isPoint();
+    m_lineEnds.append(style.text);
 }
 
 // Writes what was put off until something is shown: the paragraph, line ends, white space.
 void MRVHtmlWriter::prepareContent()
 {
+    writeBlanks();
     if (m_place != Place::Open) {
         openParagraph();
     }
     writePendingLineEnds();
     if (m_spaceIsPending && !m_atLineStart) {
-        m_spaceIsPending = false;
         settlePending();
         put(QStringLiteral(" "), m_spaceFormat);
     }
@@ -376,11 +395,16 @@ void MRVHtmlWriter::prepareContent()
 
 void MRVHtmlWriter::writePendingLineEnds()
 {
-    if (m_lineEnds > 0) {
-        settlePending();
-        put(QString(m_lineEnds, QChar::LineSeparator), m_lineEndFormat);
-        m_lineEnds = 0;
+    const bool areCommented = isCommenting() && m_settledEnds < m_lineEnds.size();
+    settlePending();
+    for (const QTextCharFormat &format : qAsConst(m_lineEnds)) {
+        put(QString(QChar::LineSeparator), format);
     }
+    if (areCommented) {
+        m_comments.setWritten();
+    }
+    m_lineEnds.clear();
+    m_settledEnds = 0;
 }
 
 // The comment and the names of the next character.
@@ -420,7 +444,7 @@ void MRVHtmlWriter::append(const QString &text, const QTextCharFormat &format)
         m_cursor.insertText(text.left(length), withNames(format));
         rest.remove(0, length);
     }
-    const bool isCommented = m_comments.isOpen() && !m_comments.isPoint();
+    const bool isCommented = isCommenting();
     put(rest, isCommented ? m_comments.added(format) : format);
     if (isCommented && isSeen) {
         m_comments.setWritten();
@@ -436,14 +460,22 @@ void MRVHtmlWriter::put(const QString &text, const QTextCharFormat &format)
     m_textFormat = format;
 }
 
-// What is put off belongs to the comment in which it stands, and not to that of the next character.
+bool MRVHtmlWriter::isCommenting() const
+{
+    return m_comments.isOpen() && !m_comments.isPoint();
+}
+
 void MRVHtmlWriter::settlePending()
 {
-    if (m_isPendingCommented) {
-        m_spaceFormat = m_comments.added(m_spaceFormat);
-        m_lineEndFormat = m_comments.added(m_lineEndFormat);
-        m_isPendingCommented = false;
+    for (; m_settledEnds < m_lineEnds.size(); ++m_settledEnds) {
+        if (isCommenting()) {
+            m_lineEnds[m_settledEnds] = m_comments.added(m_lineEnds.at(m_settledEnds));
+        }
     }
+    if (m_spaceIsPending && !m_spaceIsSettled && isCommenting()) {
+        m_spaceFormat = m_comments.added(m_spaceFormat);
+    }
+    m_spaceIsSettled = true;
 }
 
 void MRVHtmlWriter::beginComment(const MRVHtmlComment &comment)
@@ -460,7 +492,9 @@ void MRVHtmlWriter::endComment(int number)
         settlePending();
     }
     m_comments.end(number);
-    m_isPendingCommented = m_isPendingCommented && !m_comments.isPoint();
+    if (m_comments.isPoint()) {
+        settlePending(); // without it: the comment goes to a character that is seen
+    }
     if (!m_comments.isPoint() || m_place != Place::Open) {
         return;
     }

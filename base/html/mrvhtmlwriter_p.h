@@ -128,8 +128,13 @@ private:
     void writeCollapsed(const QString &text, const MRVHtmlStyle &style);
     void writePreformatted(const QString &text, const MRVHtmlStyle &style);
     void append(const QString &text, const QTextCharFormat &format);
+    /** The same without the comment and the names of the place. */
     void put(const QString &text, const QTextCharFormat &format);
+    bool isCommenting() const;
+    /** Gives what is put off the comment in which it stands, and not that of the next character. */
     void settlePending();
+    void writeBlanks();
+    void writeLines(const QString &lines, const MRVHtmlStyle &style);
     void prepareContent();
     void writePendingLineEnds();
     void flush();
@@ -146,9 +151,11 @@ private:
     bool m_atLineStart = true; // where white space does not count
     bool m_spaceIsPending = false;
     QTextCharFormat m_spaceFormat;
-    int m_lineEnds = 0; // not written yet
-    QTextCharFormat m_lineEndFormat;
-    bool m_isPendingCommented = false; // white space or line ends, in the comment that is open
+    bool m_spaceIsSettled = true;
+    QVector<QTextCharFormat> m_lineEnds; // not written yet
+    int m_settledEnds = 0; // of them, the first ones
+    QString m_blanks; // of preformatted text, at the beginning of a paragraph
+    MRVHtmlStyle m_blankStyle;
     QString m_text; // not written yet
     QTextCharFormat m_textFormat;
     QStringList m_names; // for the next character
