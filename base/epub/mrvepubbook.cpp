@@ -363,7 +363,9 @@ QByteArray MRVEPubBook::linkTag(const MRVEPubPage &page, const MRVEPubHole &hole
         return !target.isEmpty() ? "</a>" : hasElement ? "</span>" : "";
     }
     if (!target.isEmpty()) {
-        return "<a" + attributes + " href=\"" + mrvEPubValue(target) + "\">";
+        const QByteArray title =
+            link.title.isEmpty() ? QByteArray() : " title=\"" + mrvEPubValue(link.title) + '"';
+        return "<a" + attributes + " href=\"" + mrvEPubValue(target) + '"' + title + '>';
     }
     return hasElement ? "<span" + attributes + '>' : QByteArray();
 }

@@ -68,6 +68,7 @@ struct MRVEPubAddress
 {
     QString address;
     int document; // by its number
+    QString title;
 };
 
 /** A picture of the package. */

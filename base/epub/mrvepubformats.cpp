@@ -172,6 +172,7 @@ MRVEPubTextFormat MRVEPubFormats::readText(const QTextCharFormat &format) const
         || format.boolProperty(MRVTextFormat::InlineFootnoteProperty);
     text.hasNames = !format.anchorNames().isEmpty();
     text.address = format.anchorHref();
+    text.linkTitle = format.toolTip();
     const QString language =
         MRV::languageTag(format.stringProperty(MRVTextFormat::LanguageProperty));
     text.language = language == m_language ? QString() : language;

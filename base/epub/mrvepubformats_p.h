@@ -45,6 +45,7 @@ struct MRVEPubTextFormat
     QVector<const MRVEPubDirection *> directions; // outermost first
     MRVEPubTextLook look; // with the size of the body's text as 100
     QString address;
+    QString linkTitle;
     QString language; // empty: the book's
 };
 

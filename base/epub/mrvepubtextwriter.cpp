@@ -211,7 +211,7 @@ MRVEPubWriter::Needs MRVEPubWriter::needsOf(int index, const MRVEPubContext &con
     Needs needs;
     needs.span = m_formats.span(index, context);
     needs.directions = format.directions;
-    needs.link = format.address.isEmpty() ? -1 : linkNumber(format.address);
+    needs.link = format.address.isEmpty() ? -1 : linkNumber(format);
     needs.elements = format.elements;
     needs.elements |= format.isBold && !context.isBold ? bit(MRVEPubInline::Strong) : 0;
     needs.elements &= context.isCode ? ~bit(MRVEPubInline::Code) : ~0U;
@@ -300,10 +300,11 @@ void MRVEPubWriter::beginLink(int index, int end, const Needs &needs, const MRVE
 {
     int common = m_elements.size();
     QVector<const MRVEPubDirection *> directions = needs.directions;
-    const QString address = m_formats.text(m_flow.fragments.at(index).format).address;
+    const MRVEPubTextFormat first = m_formats.text(m_flow.fragments.at(index).format);
     for (int i = index; i < end && (common > 0 || !directions.isEmpty()); ++i) {
         const int format = m_flow.fragments.at(i).format;
-        if (m_formats.text(format).address != address) {
+        const MRVEPubTextFormat &text = m_formats.text(format);
+        if (text.address != first.address || text.linkTitle != first.linkTitle) {
             break;
         }
         const Needs inside = needsOf(format, context);
@@ -362,12 +363,13 @@ void MRVEPubWriter::closeElements(int count)
     }
 }
 
-int MRVEPubWriter::linkNumber(const QString &address)
+int MRVEPubWriter::linkNumber(const MRVEPubTextFormat &format)
 {
-    auto known = m_linkNumbers.constFind(address);
+    const QPair<QString, QString> link(format.address, format.linkTitle);
+    auto known = m_linkNumbers.constFind(link);
     if (known == m_linkNumbers.constEnd()) {
-        known = m_linkNumbers.insert(address, m_book.links.size());
-        m_book.links.append({address, m_book.anchors.size()});
+        known = m_linkNumbers.insert(link, m_book.links.size());
+        m_book.links.append({format.address, m_book.anchors.size(), format.linkTitle});
     }
     return *known;
 }

@@ -189,7 +189,7 @@ private:
     QByteArray takeId(int format, const QString &preferred = QString());
     void writePageBreaks(int format);
     QByteArray uniqueId(const QString &name);
-    int linkNumber(const QString &address);
+    int linkNumber(const MRVEPubTextFormat &format);
     QLatin1String element(const char *epub3, const char *epub2) const
     {
         return QLatin1String(m_isEPub3 ? epub3 : epub2);
@@ -230,5 +230,5 @@ private:
     MRVEPubAnchors m_targets;
     QHash<int, QStringList> m_names; // of formats, without those that have an id
     QSet<int> m_hasPageBreaks; // formats whose printed pages are written
-    QHash<QString, int> m_linkNumbers;
+    QHash<QPair<QString, QString>, int> m_linkNumbers; // by address and title
 };
