@@ -67,16 +67,17 @@ constexpr Module modules[] = {
 
     {"base/editor",      7, "Core Gui Widgets"},
     {"base/engines",     7, "Core"},
-    {"base/manuscript",  7, "Core Gui"},
     {"base/state",       7, "Core Gui"},
     {"base/textexport",  7, "Core Gui"},
     {"base/update",      7, "Core Gui Network Widgets Xml"},
     {"base/xhtml",       7, "Core Gui"},
 
-    {"base/clipboard",   8, "Core Gui"},
-    {"base/epub",        8, "Core Gui"},
-    {"base/pdf",         8, "Core Gui qpdf/qpdf-c.h"},
-    {"base/publish",     8, "Core Gui"},
+    {"base/manuscript",  8, "Core Gui"},
+
+    {"base/clipboard",   9, "Core Gui"},
+    {"base/epub",        9, "Core Gui"},
+    {"base/pdf",         9, "Core Gui qpdf/qpdf-c.h"},
+    {"base/publish",     9, "Core Gui"},
 
     {"plugins/webview",  ProgramLayer, "Core Gui Network Widgets WebKit WebKitWidgets"},
     {"cli",              ProgramLayer, AnyLibrary},

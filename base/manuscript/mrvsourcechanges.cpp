@@ -4,8 +4,10 @@
 #include "manuscript/mrvmanuscriptdocument_p.h"
 #include "manuscript/mrvparagraphs_p.h"
 #include "manuscript/mrvsourceplaces_p.h"
+#include "textexport/mrvmarkdownwriter.h"
 #include "textformat/mrvtextformat.h"
 #include "util/mrvmarkupcharacters.h"
+#include "xhtml/mrvdocumenthtml.h"
 
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -19,6 +21,14 @@ constexpr int MostTrials = 100;
 
 // How often paragraphs are looked for that are read in another way, before all changes wait.
 constexpr int MostRounds = 20;
+
+QString pageOf(const QTextDocument &document, const QByteArray &encoding)
+{
+    const QLatin1String utf8("charset=utf-8\"");
+    QString page = mrvDocumentHtml(document);
+    return page.replace(page.indexOf(utf8), utf8.size(),
+                        QStringLiteral("charset=%1\"").arg(QString::fromLatin1(encoding)));
+}
 
 // Where the bracket is that closes, or with a negative step opens, the one around a place; -1
 // where there is none in this paragraph.
@@ -503,13 +513,16 @@ bool MRVSourceChanges::writeWhole(QString *text) const
     switch (m_manuscript.format) {
     case MRVManuscript::Html:
         syntax = MRVSourcePlace::Page;
-        *text = document->toHtml(m_manuscript.encoding);
+        *text = pageOf(*document, m_manuscript.encoding);
         text->remove(QStringLiteral(" font-family:'%1';").arg(noFont));
         break;
-    case MRVManuscript::Markdown:
+    case MRVManuscript::Markdown: {
         syntax = MRVSourcePlace::Markdown;
-        *text = document->toMarkdown();
+        MRVMarkdownWriter writer(*document);
+        writer.setHead(m_manuscript.head());
+        *text = writer.text();
         break;
+    }
     default:
         *text = document->toRawText().replace(QChar::ParagraphSeparator, u'\n');
     }
