@@ -238,10 +238,10 @@ int checkOutputs(const Call &call, const QStringList &outputs)
         : refuse(error);
 }
 
-// Only notes of an e-book show comments.
+// Notes of an e-book show comments; of text, the losses tell what becomes of them.
 void tellComments(const Options &options, const MRVManuscript &manuscript)
 {
-    const bool areShown = options.isPackage() && options.book.commentsAsNotes;
+    const bool areShown = options.isText() || (options.isPackage() && options.book.commentsAsNotes);
     if (manuscript.report.comments > 0 && !areShown) {
         printNote(QStringLiteral("%1: comments that are left out: %2; --comments-as-notes makes "
                                  "notes of them in e-books")

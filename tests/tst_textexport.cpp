@@ -302,6 +302,10 @@ private Q_SLOTS:
         row("with a blank behind", "one two three", "C 4-8 a", "one two three", "C 4-8 a");
         row("after the end of a line", "one\u2028two|three", "C 4-11 a", "one\u2028two|three",
             "C 4-11 a");
+        row("between ends of lines", "one\u2028\u2028two|three", "C 4-8 a",
+            "one\u2028\u2028two|three", "C 4-8 a");
+        row("up to between ends of lines", "one\u2028\u2028two|three", "C 0-4 a",
+            "one\u2028\u2028two|three", "C 0-4 a");
     }
     void comments()
     {

@@ -185,9 +185,6 @@ Features featuresOfParagraph(const QTextBlockFormat &format, const MRVFlowParagr
     found.add(LineSpacings, format.doubleProperty(MRVTextFormat::BlockSpacing) > 0);
     found.add(PageBreaks, format.pageBreakPolicy() != QTextFormat::PageBreak_Auto);
     found.add(Backgrounds, format.background().style() != Qt::NoBrush);
-    found.add(CodeLanguages,
-              format.nonBreakableLines()
-                  && !format.stringProperty(QTextFormat::BlockCodeLanguage).isEmpty());
     return found.bits();
 }
 
@@ -282,6 +279,7 @@ void countParagraphs(const MRVDocumentFlow &flow, Counter *counter)
 {
     const QSet<int> aligned = paragraphsAlignedByTables(flow);
     QSet<int> lists;
+    QString languageBefore; // code in one language is counted once
     for (int i = 0; i < flow.count(); ++i) {
         const MRVFlowParagraph &paragraph = flow.paragraphs.at(i);
         const QTextBlockFormat format = flow.formats.at(paragraph.format).toBlockFormat();
@@ -291,6 +289,13 @@ void countParagraphs(const MRVDocumentFlow &flow, Counter *counter)
             features &= ~(Features(1) << Alignments);
         }
         counter->add(features);
+        const QString language = format.nonBreakableLines()
+            ? format.stringProperty(QTextFormat::BlockCodeLanguage)
+            : QString();
+        if (!language.isEmpty() && language != languageBefore) {
+            counter->add(CodeLanguages);
+        }
+        languageBefore = language;
         if (paragraph.list >= 0 && !lists.contains(paragraph.list)) {
             lists.insert(paragraph.list);
             counter->add(Lists);

@@ -453,7 +453,7 @@ void MRVInlineWriter::writePicture(const MRVInlinePiece &piece)
     const QString title = format.stringProperty(QTextFormat::ImageTitle);
     const bool hasSize = format.width() > 0 || format.height() > 0;
     static const QRegularExpression lines(QStringLiteral("[\\r\\n\\t]|^ | $|  "));
-    if (!isHtml() && !hasSize && !text.contains(lines) && isPortable(title)) {
+    if (!isHtml() && !hasSize && !text.contains(lines) && hasPortableForm(title)) {
         const QString mark = text.startsWith(u'^') ? QStringLiteral("\\") : QString(); // of a note
         append(QLatin1String("![") + mark + MRVMarkdownEscape::escaped(text) + QLatin1String("](")
                + destination(address) + titleOf(title) + u')');
@@ -620,7 +620,7 @@ QString MRVInlineWriter::textOf(const Token &token) const
                                                          : row.end);
     }
     const MRVFlowLink &link = m_flow.links.at(span.link);
-    if (isHtml() || !isPortable(link.title)) {
+    if (isHtml() || !hasPortableForm(link.title)) {
         const QString title = link.title.isEmpty() ? QString() : attribute("title", link.title);
         return token.isOpening
             ? QLatin1String("<a") + attribute("href", link.address) + title + u'>'
@@ -652,8 +652,8 @@ QString MRVInlineWriter::destination(const QString &address) const
     return written.contains(unsafe) ? u'<' + written + u'>' : written;
 }
 
-// Readers disagree about a backslash at the end of a title.
-bool MRVInlineWriter::isPortable(const QString &title)
+// Readers disagree about a backslash at the end of a title, and some about others.
+bool MRVInlineWriter::hasPortableForm(const QString &title)
 {
     return !title.contains(u'\\');
 }
@@ -668,12 +668,14 @@ QString MRVInlineWriter::titleOf(const QString &title) const
     QString written = title;
     written.replace(lineEnds, QStringLiteral(" ")).replace(special, QStringLiteral("\\\\1"));
     written.replace(u'&', QLatin1String("&amp;"));
+    written.replace(u'`', QLatin1String("&#96;")); // some readers take it for the beginning of code
     return QLatin1String(" \"") + written + u'"';
 }
 
 QString MRVInlineWriter::attribute(const char *name, const QString &value)
 {
     QString escaped = MRV::escape(value);
-    escaped.replace(u'|', QLatin1String("&#124;")).replace(u'\n', QLatin1String("&#10;"));
+    escaped.replace(u'|', QLatin1String("&#124;"));
+    escaped.replace(u'\n', QLatin1String("&#10;")).replace(u'\r', QLatin1String("&#13;"));
     return u' ' + QLatin1String(name) + QLatin1String("=\"") + escaped + u'"';
 }

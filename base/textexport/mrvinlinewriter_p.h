@@ -84,7 +84,7 @@ private:
     uint characterAfter(int token, bool skipsTildes) const;
     QString textOf(const Token &token) const;
     QString destination(const QString &address) const;
-    static bool isPortable(const QString &title);
+    static bool hasPortableForm(const QString &title);
     QString titleOf(const QString &title) const;
     bool isHtml() const { return m_place >= Html; }
     bool isInCell() const { return m_place == Cell || m_place == HeaderCell; }

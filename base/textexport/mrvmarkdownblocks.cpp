@@ -1,5 +1,6 @@
 #include "textexport/mrvmarkdownblocks_p.h"
 
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextTable>
 
@@ -13,7 +14,9 @@ const QLatin1String Empty("<br><!-- -->");
 // What follows the fence, in which a backtick may not stand as it is.
 QString fenceInfo(const QString &language)
 {
-    QString info = language.simplified();
+    static const QRegularExpression lineEnds(QStringLiteral("[\\r\\n]+"));
+    QString info = language;
+    info.replace(lineEnds, QStringLiteral(" "));
     info.replace(u'\\', QLatin1String("\\\\")).replace(u'&', QLatin1String("&amp;"));
     return info.replace(u'`', QLatin1String("&#96;"));
 }

@@ -151,7 +151,7 @@ QString MRVMarkdownBlocks::htmlOf(const MRVTextBlock &block, bool isHeader)
 QString MRVMarkdownBlocks::htmlOfCode(const MRVTextBlock &block)
 {
     // As other writers of HTML have it: the first word is the name of the language.
-    const QString info = languageOf(block).simplified();
+    const QString info = languageOf(block);
     const QString language = info.section(u' ', 0, 0);
     const QString more = info.section(u' ', 1);
     QString html = QStringLiteral("<pre>");

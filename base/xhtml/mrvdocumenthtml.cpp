@@ -390,9 +390,10 @@ QString withLinkTitles(const QString &html, const QTextDocument &written)
     }
     const QLatin1String tag("<a href=");
     QString whole;
-    int done = 0;
+    int done = html.lastIndexOf(QLatin1String("<body")); // a title may hold tags, texts cannot
+    whole += html.leftRef(done);
     int link = 0;
-    for (int at = html.indexOf(tag); at >= 0; at = html.indexOf(tag, done)) {
+    for (int at = html.indexOf(tag, done); at >= 0; at = html.indexOf(tag, done)) {
         const int end = html.indexOf(u'>', at);
         whole += html.midRef(done, end - done);
         whole += titles.value(link++);
