@@ -45,10 +45,12 @@ QString mrvWithEndTags(const QString &html)
     if (!declaration.match(html).hasMatch()) {
         return html;
     }
-    // No tag of XML has a "<" in it, so that a search for the end of one stops at the next one.
+    // Other tags end elsewhere for the parser, which would read the rest as text.
     static const QRegularExpression whole(QStringLiteral(
-        "<(?!(?:area|base|br|col|embed|hr|img|input|link|meta|param|source|track|wbr)"
-        "[\\s/>])([A-Za-z][A-Za-z0-9]*+)((?:[^'\"<>/]++|\"[^\"<]*+\"|'[^'<]*+'|/(?!>))*+)"
+        "<(?!(?:area|base|br|col|embed|hr|img|input|link|meta|param|source|track|wbr)[\\s/>])"
+        "([A-Za-z][^\\s\"'<>/]*+)" // its name, and attributes
+        "((?:\\s++(?:[^\\s\"'<>/=]++(?:\\s*+=\\s*+(?:\"[^\"<]*+\"|'[^'<]*+'|[^\\s\"'<>/"
+        "=`]++))?)?)*+)"
         "/>"));
     return QString(html).replace(whole, QStringLiteral("<\\1\\2></\\1>"));
 }
