@@ -191,6 +191,11 @@ void tst_Html::pagesOfQt()
     };
     const auto frames = second.rootFrame()->childFrames();
     QCOMPARE(std::count_if(frames.begin(), frames.end(), isFloating), 1);
+
+    QTextDocument code;
+    code.setHtml("<pre>  \na\n  \n\n <b> </b>b\n </pre>");
+    QVERIFY(MRVHtmlDocument::read(code.toHtml(), QString(), &second));
+    QCOMPARE(second.toPlainText(), code.toPlainText());
 }
 
 /// Sheets beside the page count, in order and with what they import; nothing else is opened.

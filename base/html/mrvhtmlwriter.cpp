@@ -109,6 +109,9 @@ void MRVHtmlWriter::leave()
     if (box.box.isItem && !box.isItemStarted && box.list && box.list->isNumbered()) {
         openParagraph(); // the numbers of the items after it count it
     }
+    if (m_isQtPage && box.style.whiteSpace == MRVHtmlStyle::Preformatted) {
+        writeBlanks(); // a line of them
+    }
     endParagraph();
     const qreal bottom = box.style.margin(MRVHtmlSide::Bottom);
     if (box.isStarted && m_place == Place::Closed
@@ -331,8 +334,7 @@ void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &s
         return;
     }
     if (m_place != Place::Open && std::all_of(lines.cbegin(), lines.cend(), isSpace)) {
-        m_blanks += lines; // between blocks, unless text comes
-        m_blankStyle = style;
+        m_blanks.append({lines, style}); // between blocks, unless text comes
         return;
     }
     writeBlanks();
@@ -341,8 +343,9 @@ void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &s
 
 void MRVHtmlWriter::writeBlanks()
 {
-    if (!m_blanks.isEmpty()) {
-        writeLines(std::exchange(m_blanks, QString()), m_blankStyle);
+    const QVector<Blanks> blanks = std::exchange(m_blanks, {});
+    for (const Blanks &one : blanks) {
+        writeLines(one.text, one.style);
     }
 }
 
@@ -365,6 +368,7 @@ void MRVHtmlWriter::writeLines(const QString &lines, const MRVHtmlStyle &style)
 
 void MRVHtmlWriter::writeLineEnd(const MRVHtmlStyle &style)
 {
+    writeBlanks();
     if (style.whiteSpace == MRVHtmlStyle::Preformatted) {
         if (m_place != Place::Open) {
             openParagraph();
@@ -480,6 +484,7 @@ void MRVHtmlWriter::settlePending()
 
 void MRVHtmlWriter::beginComment(const MRVHtmlComment &comment)
 {
+    writeBlanks();
     if (!m_comments.isWaiting()) {
         settlePending();
     }
@@ -488,6 +493,7 @@ void MRVHtmlWriter::beginComment(const MRVHtmlComment &comment)
 
 void MRVHtmlWriter::endComment(int number)
 {
+    writeBlanks();
     if (!m_comments.isWaiting()) {
         settlePending();
     }

@@ -118,6 +118,13 @@ private:
     void startInside(const MRVHtmlStyle &style);
     enum class Place { Fresh, Open, Closed };
 
+    // Preformatted white space, which counts where text follows.
+    struct Blanks
+    {
+        QString text;
+        MRVHtmlStyle style;
+    };
+
     void openParagraph();
     QTextBlockFormat paragraphFormat();
     void setBottomMargin(qreal margin);
@@ -154,8 +161,7 @@ private:
     bool m_spaceIsSettled = true;
     QVector<QTextCharFormat> m_lineEnds; // not written yet
     int m_settledEnds = 0; // of them, the first ones
-    QString m_blanks; // of preformatted text, at the beginning of a paragraph
-    MRVHtmlStyle m_blankStyle;
+    QVector<Blanks> m_blanks; // at the beginning of a paragraph
     QString m_text; // not written yet
     QTextCharFormat m_textFormat;
     QStringList m_names; // for the next character
