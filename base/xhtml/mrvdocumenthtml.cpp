@@ -390,7 +390,7 @@ QString withLinkTitles(const QString &html, const QTextDocument &written)
     }
     const QLatin1String tag("<a href=");
     QString whole;
-    int done = html.lastIndexOf(QLatin1String("<body")); // a title may hold tags, texts cannot
+    int done = html.indexOf(QLatin1String("<body"));
     whole += html.leftRef(done);
     int link = 0;
     for (int at = html.indexOf(tag, done); at >= 0; at = html.indexOf(tag, done)) {
@@ -402,9 +402,20 @@ QString withLinkTitles(const QString &html, const QTextDocument &written)
     return whole + html.midRef(done);
 }
 
+// Qt writes it as it is.
+QString withTitle(QString html, const QTextDocument &written)
+{
+    const QString title = written.metaInformation(QTextDocument::DocumentTitle);
+    const QString tags = QStringLiteral("<title>%1</title>");
+    const int at = html.indexOf(tags.arg(title));
+    return at < 0 ? html
+                  : html.replace(at, tags.arg(title).size(), tags.arg(title.toHtmlEscaped()));
+}
+
 QString htmlOf(const QTextDocument &document, const QTextDocument &written)
 {
-    const QString html = withListTags(written.toHtml("utf-8"), document, written);
+    const QString html =
+        withListTags(withTitle(written.toHtml("utf-8"), written), document, written);
     return withAllNames(withLinkTitles(html, written), document);
 }
 

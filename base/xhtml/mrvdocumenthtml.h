@@ -19,6 +19,7 @@ class QTextDocument;
  * - A list says the number that it begins with, and a list without markers that it has none. An
  *   item whose marker is none of HTML's carries it as text of its style, which a browser shows that
  *   knows CSS of this kind; others show the number or bullet that the list has in HTML.
+ * - The title is text, whatever signs it has.
  * - All names of an anchor are written, and not just the first one; and the title of a link, its
  *   tooltip.
  * - Footnotes in the margin are marks and paragraphs: MRVMarginNotes::toParagraphs().

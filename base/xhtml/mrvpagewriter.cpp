@@ -47,10 +47,7 @@ QString MRVPageWriter::write(const QString &html, const QString &documentTitle,
                              const QString &title)
 {
     m_page.reserve(html.size());
-    // The title may hold anything, the end of the head included.
-    const int titleEnd =
-        documentTitle.isEmpty() ? 0 : html.indexOf(documentTitle) + documentTitle.size();
-    const int body = html.indexOf(QLatin1String("<body"), titleEnd);
+    const int body = html.indexOf(QLatin1String("<body"));
     writeHead(html, body, documentTitle, title);
     writeBody(QStringView(html).mid(body));
     m_rewritten.clear();
@@ -63,7 +60,8 @@ void MRVPageWriter::writeHead(const QString &html, int end, const QString &docum
                               const QString &title)
 {
     QString head = html.left(end);
-    const QString own = QLatin1String("<title>") + documentTitle + QLatin1String("</title>");
+    const QString own =
+        QLatin1String("<title>") + documentTitle.toHtmlEscaped() + QLatin1String("</title>");
     int at = documentTitle.isEmpty() ? -1 : head.indexOf(own);
     if (at >= 0) {
         head.remove(at, own.size());

@@ -36,7 +36,7 @@ public:
 
     /**
      * @param html          what mrvDocumentHtml() gives.
-     * @param documentTitle the document's own title, which Qt writes unescaped.
+     * @param documentTitle the own title of the document, which @p html has.
      * @param title         the title where the document has none.
      */
     QString write(const QString &html, const QString &documentTitle, const QString &title);
