@@ -3,6 +3,8 @@
 
 #include "manuscript/mrvsourceedit.h"
 #include "manuscript/mrvsourcefile.h"
+#include "markdown/mrvfrontmatter.h"
+#include "markdown/mrvmarkdownhead.h"
 #include "publish/mrvoutputfiles.h"
 #include "util/mrveditlock.h"
 #include "util/mrvfailure.h"
@@ -288,9 +290,15 @@ bool prepare(const Options &options, const QString &path, std::vector<Changed> *
     }
     changed.count -= changed.misfits.size();
     if (options.rewrite && changed.count > 0 && manuscript.format != MRVManuscript::PlainText) {
-        printNote(QStringLiteral("%1 is written as a whole: style sheets, comments and what rich "
-                                 "text does not hold are lost")
-                      .arg(path));
+        const QStringList lost = manuscript.format == MRVManuscript::Markdown
+            ? MRVFrontMatter::lostKeys(manuscript.head())
+            : QStringList();
+        const QString metadata = lost.isEmpty()
+            ? QString()
+            : QStringLiteral(", metadata (%1)").arg(lost.join(QStringLiteral(", ")));
+        printNote(QStringLiteral("%1 is written as a whole: style sheets, comments%2 and what "
+                                 "rich text does not hold are lost")
+                      .arg(path, metadata));
     }
     all->push_back(changed);
     return true;

@@ -120,6 +120,15 @@ QStringList plainTexts(const QStringList &lines)
     return texts;
 }
 
+/** Whether a line, though YAML, is meant as it stands: "#1 in Paris", "!Wow", "Salt & #2". */
+bool isNoYaml(const QString &line)
+{
+    static const QRegularExpression tag(QStringLiteral("^(?:![^!]|&\\S*$)"));
+    static const QRegularExpression number(
+        QStringLiteral("^(?!['\"\\[{|>]).*(?:^|(?<=\\s))#[^\\s#]"));
+    return tag.match(line).hasMatch() || number.match(line).hasMatch();
+}
+
 /** Adds what an entry says, and the other keys of its maps as entries without values. */
 void append(const Entry &entry, bool yaml, QVector<MRVMetadataEntry> *entries)
 {
@@ -127,8 +136,10 @@ void append(const Entry &entry, bool yaml, QVector<MRVMetadataEntry> *entries)
     MRVYamlValue value;
     // For YAML, "- editor: Name" is a map, and "title: Ahab: a Life" a mistake.
     const bool pairs = entry.key.startsWith(QLatin1String("contributor"));
-    if (!yaml || !mrvReadYamlValue(lines.join(u'\n'), pairs, &value)) {
-        value.texts = yaml ? plainTexts(lines) : QStringList(lines.join(u' ').simplified());
+    const bool isSingle = entry.lines.join(QString()).trimmed().isEmpty();
+    const bool isLine = !yaml || (isSingle && isNoYaml(entry.value));
+    if (isLine || !mrvReadYamlValue(lines.join(u'\n'), pairs, &value)) {
+        value.texts = isLine ? QStringList(lines.join(u' ').simplified()) : plainTexts(lines);
         value.texts.removeAll(QString());
         value.isNull = value.texts.isEmpty();
     }
@@ -180,7 +191,9 @@ bool addLine(const QString &line, int number, const QRegularExpression &key, boo
     }
     const bool continues = line.startsWith(u' ') || line.startsWith(u'\t')
         || (yaml && (line.isEmpty() || line.startsWith(QLatin1String("- "))));
-    if (entries->isEmpty() || !continues) {
+    // Some formatters put the end of a list there.
+    const bool ends = yaml && (line.startsWith(u']') || line.startsWith(u'}'));
+    if (entries->isEmpty() || !(continues || ends)) {
         return yaml && line.trimmed().isEmpty();
     }
     entries->last().lines.append(line);
@@ -200,14 +213,14 @@ bool has(const QVector<Entry> &entries, std::initializer_list<Field> fields)
 const QRegularExpression &yamlKey()
 {
     static const QRegularExpression key(
-        QStringLiteral("^[\"']?([A-Za-z_][\\w.-]*)[\"']?\\s*:(?:\\s+(.*))?$"));
+        QStringLiteral("^[\"']?([\\p{L}_][\\p{L}\\p{N}_.-]*)[\"']?\\s*:(?:\\s+(.*))?$"));
     return key;
 }
 
 /** What MRVMarkdownHead has no members for and can be written; each key once, as in YAML. */
 QVector<MRVMetadataEntry> othersOf(const QVector<MRVMetadataEntry> &entries)
 {
-    static const QRegularExpression key(QStringLiteral("^[A-Za-z_][\\w.-]*$"));
+    static const QRegularExpression key(QStringLiteral("^[\\p{L}_][\\p{L}\\p{N}_.-]*$"));
     QVector<MRVMetadataEntry> others;
     QHash<QString, int> places;
     for (const MRVMetadataEntry &entry : entries) {
@@ -342,8 +355,14 @@ MRVMarkdownHead MRVFrontMatter::head(const QVector<MRVMetadataEntry> &entries)
 QString MRVFrontMatter::write(const MRVMarkdownHead &head)
 {
     const auto quoted = [](const QString &text) {
-        static const QRegularExpression special(QStringLiteral("([\\\\\"])"));
-        return u'"' + text.simplified().replace(special, QStringLiteral("\\\\1")) + u'"';
+        QString escaped;
+        for (const QChar c : text.simplified()) {
+            escaped += c == u'"' || c == u'\\' ? QStringLiteral("\\") + c
+                : mrvIsYamlControl(c)
+                ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'))
+                : QString(c);
+        }
+        return u'"' + escaped + u'"';
     };
     QString lines;
     const auto add = [&](const QString &key, const QStringList &values, bool isList) {

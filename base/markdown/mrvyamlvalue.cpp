@@ -1,6 +1,9 @@
 #include "markdown/mrvyamlvalue_p.h"
 
 #include <QByteArray>
+#include <QVector>
+
+#include <algorithm>
 
 #include <yaml.h>
 
@@ -43,9 +46,13 @@ public:
     bool is(yaml_event_type_t type) const { return m_isGood && m_event.type == type; }
     int depth() const { return m_depth; }
 
-    /** The text of a scalar; empty for null and for what is no scalar. */
+    /** The text of a scalar, or an alias as it stands; empty for null and for lists and maps. */
     QString text() const
     {
+        if (is(YAML_ALIAS_EVENT)) {
+            return u'*'
+                + QString::fromUtf8(reinterpret_cast<const char *>(m_event.data.alias.anchor));
+        }
         if (!is(YAML_SCALAR_EVENT)) {
             return QString();
         }
@@ -73,6 +80,31 @@ private:
     int m_depth = 0; // of lists and maps that have begun
 };
 
+// Characters that YAML does not allow stand for themselves in a plane for private use.
+constexpr uint PrivatePlane = 0xf0000;
+
+QString shielded(const QString &text)
+{
+    QString result;
+    for (const QChar c : text) {
+        const uint stand = PrivatePlane + c.unicode();
+        result += mrvIsYamlControl(c) ? QString::fromUcs4(&stand, 1) : QString(c);
+    }
+    return result;
+}
+
+QString unshielded(const QString &text)
+{
+    QString result;
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint c : characters) {
+        const QChar meant(ushort(c & 0xffff));
+        const bool isStand = c >> 16 == PrivatePlane >> 16 && mrvIsYamlControl(meant);
+        result += isStand ? QString(meant) : QString::fromUcs4(&c, 1);
+    }
+    return result;
+}
+
 class Reader
 {
 public:
@@ -89,13 +121,7 @@ public:
             m_events.next();
         }
         m_events.next();
-        if (m_events.is(YAML_SEQUENCE_START_EVENT)) {
-            while (m_events.next() && !m_events.is(YAML_SEQUENCE_END_EVENT)) {
-                readItem(m_pairs);
-            }
-        } else {
-            readItem(false);
-        }
+        readItem(m_pairs && m_events.is(YAML_SEQUENCE_START_EVENT));
         m_events.next();
         const bool isAll = m_events.is(YAML_MAPPING_END_EVENT);
         m_events.next();
@@ -115,10 +141,12 @@ private:
     {
         if (m_events.is(YAML_MAPPING_START_EVENT)) {
             readMap(pairs);
+        } else if (m_events.is(YAML_SEQUENCE_START_EVENT)) { // one in another is a part of it
+            while (m_events.next() && !m_events.is(YAML_SEQUENCE_END_EVENT)) {
+                readItem(pairs);
+            }
         } else {
             m_value.texts.append(m_events.text());
-            m_isUnread = m_isUnread || !m_events.is(YAML_SCALAR_EVENT);
-            m_events.skip();
         }
     }
 
@@ -133,8 +161,9 @@ private:
             m_events.next();
             last = m_events.text();
             if (key == QLatin1String("name") && !last.isEmpty()) {
+                m_value.texts.append(name); // of the same key twice
                 name = last;
-            } else {
+            } else if (!m_events.is(YAML_SCALAR_EVENT) || !last.isEmpty()) {
                 otherKeys.append(key);
             }
             m_events.skip();
@@ -151,12 +180,27 @@ private:
     Events m_events;
     const bool m_pairs;
     MRVYamlValue m_value;
-    bool m_isUnread = false; // a list in a list, an alias, or a map
+    bool m_isUnread = false; // a map without a name
 };
 
 } // namespace
 
+bool mrvIsYamlControl(QChar character)
+{
+    const ushort c = character.unicode();
+    return (c < ' ' && c != '\t' && c != '\n' && c != '\r') || (c >= 0x7f && c < 0xa0 && c != 0x85)
+        || c >= 0xfffe;
+}
+
 bool mrvReadYamlValue(const QString &text, bool pairs, MRVYamlValue *value)
 {
-    return Reader((QLatin1String("key: ") + text + u'\n').toUtf8(), pairs).read(value);
+    const bool hasControls = std::any_of(text.begin(), text.end(), mrvIsYamlControl);
+    const QString yaml = QLatin1String("key: ") + (hasControls ? shielded(text) : text) + u'\n';
+    if (!Reader(yaml.toUtf8(), pairs).read(value)) {
+        return false;
+    }
+    for (QString &one : value->texts) {
+        one = hasControls ? unshielded(one) : one;
+    }
+    return true;
 }

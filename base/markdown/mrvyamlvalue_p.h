@@ -8,13 +8,17 @@ struct MRVYamlValue
 {
     /**
      * A text, or those of a list, in which ends of lines are where YAML keeps them. Of a map, here
-     * or in a list, it is what its "name" is. Without those that are null, empty or an alias.
+     * or in a list, it is what its "name" is. An alias stands as it is: "*name". Without those that
+     * are null or empty.
      */
     QStringList texts;
     /** The other keys of such maps, each once, in order. */
     QStringList otherKeys;
     bool isNull = false; ///< nothing is said of the key, or an empty list
 };
+
+/** Whether YAML takes a character in quotes only, as an escape such as "\\x07". */
+bool mrvIsYamlControl(QChar character);
 
 /**
  * Reads the value of a key.
