@@ -334,7 +334,14 @@ void MRVHtmlWriter::writePreformatted(const QString &text, const MRVHtmlStyle &s
         return;
     }
     if (m_place != Place::Open && std::all_of(lines.cbegin(), lines.cend(), isSpace)) {
-        m_blanks.append({lines, style}); // between blocks, unless text comes
+        // Between blocks, unless text comes.
+        const bool isSame = !m_blanks.isEmpty() && m_blanks.constLast().style.text == style.text
+            && m_blanks.constLast().style.whiteSpace == style.whiteSpace;
+        if (isSame) {
+            m_blanks.last().text += lines;
+        } else {
+            m_blanks.append({lines, style});
+        }
         return;
     }
     writeBlanks();

@@ -42,9 +42,7 @@ public:
         m_isGood = m_isGood && m_depth <= DeepestNesting;
         return m_isGood;
     }
-    bool isGood() const { return m_isGood; }
     bool is(yaml_event_type_t type) const { return m_isGood && m_event.type == type; }
-    int depth() const { return m_depth; }
 
     /** The text of a scalar, or an alias as it stands; empty for null and for lists and maps. */
     QString text() const
