@@ -482,10 +482,12 @@ void MRVHtmlBuilder::readInline(const GumboNode *element, MRVHtmlStyle style,
 }
 
 // Blanks that are not the page's; where lines begin, they do not count.
-void MRVHtmlBuilder::separate(MRVHtmlStyle style)
+void MRVHtmlBuilder::separate(const MRVHtmlStyle &style)
 {
-    style.whiteSpace = MRVHtmlStyle::Collapsed;
-    writeText(QStringLiteral(" "), style);
+    if (m_runs) {
+        m_runs->append({nullptr, QStringLiteral(" ")});
+    }
+    m_writer.writeSpace(style);
 }
 
 void MRVHtmlBuilder::readInside(const GumboNode *element, const MRVHtmlStyle &style,

@@ -39,7 +39,7 @@ private:
     void prepareDocument(const MRVHtmlStyle &body);
 
     void writeText(const QString &text, const MRVHtmlStyle &style, const GumboNode *node = nullptr);
-    void separate(MRVHtmlStyle style);
+    void separate(const MRVHtmlStyle &style);
     void readChildren(const GumboNode *parent, const MRVHtmlStyle &style, const MRVCssElement *css);
     bool readElement(const GumboNode *element, const MRVHtmlStyle &outside,
                      const MRVCssElement *css);

@@ -64,6 +64,8 @@ public:
     void writeEmptyParagraph();
 
     void writeText(const QString &text, const MRVHtmlStyle &style);
+    /** Writes a blank that does not count where a line begins, nor beside another. */
+    void writeSpace(const MRVHtmlStyle &style) { writeCollapsed(QStringLiteral(" "), style); }
     void writeLineEnd(const MRVHtmlStyle &style);
     void writeImage(const QTextImageFormat &image, const MRVHtmlStyle &style);
     void writeRule(const QTextLength &width, const MRVHtmlStyle &style);
