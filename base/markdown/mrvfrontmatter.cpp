@@ -137,7 +137,9 @@ void append(const Entry &entry, bool yaml, QVector<MRVMetadataEntry> *entries)
     // For YAML, "- editor: Name" is a map, and "title: Ahab: a Life" a mistake.
     const bool pairs = entry.key.startsWith(QLatin1String("contributor"));
     const bool isSingle = entry.lines.join(QString()).trimmed().isEmpty();
-    const bool isLine = !yaml || (isSingle && isNoYaml(entry.value));
+    const Field field = fieldOf(entry.key);
+    const bool isProse = field != Language && field != Date; // in which "#" may begin a word
+    const bool isLine = !yaml || (isSingle && isProse && isNoYaml(entry.value));
     if (isLine || !mrvReadYamlValue(lines.join(u'\n'), pairs, &value)) {
         value.texts = isLine ? QStringList(lines.join(u' ').simplified()) : plainTexts(lines);
         value.texts.removeAll(QString());
